@@ -1,0 +1,31 @@
+# How every target of this project is compiled, in one place.
+
+# Position-independent code everywhere: the same objects go into the plug-in module and into tests.
+add_compile_options(-fPIC -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast
+                    -Woverloaded-virtual)
+if(CORVANA_WERROR)
+    add_compile_options(-Werror)
+endif()
+# Texts are QString or explicit; a silent conversion from Latin-1 bytes would break Japanese.
+add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS)
+# A symbol that a library forgets to link would otherwise surface only when it is loaded.
+add_link_options(-Wl,--no-undefined -Wl,--as-needed)
+
+if(CORVANA_SANITIZE)
+    add_compile_options(-fsanitize=${CORVANA_SANITIZE} -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${CORVANA_SANITIZE})
+endif()
+
+# One precompiled header, built once and shared by all targets.
+add_library(corvana_pch OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled.cpp)
+set_target_properties(corvana_pch PROPERTIES AUTOMOC OFF)
+target_link_libraries(corvana_pch PRIVATE Qt6::Widgets Cups::Cups)
+target_precompile_headers(corvana_pch PRIVATE ${CMAKE_SOURCE_DIR}/cmake/precompiled.h)
+
+# corvana_target(NAME): include paths and the shared precompiled header for a target.
+function(corvana_target name)
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC Qt6::Widgets Cups::Cups)
+    target_precompile_headers(${name} REUSE_FROM corvana_pch)
+endfunction()

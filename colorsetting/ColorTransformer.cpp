@@ -1,0 +1,19 @@
+#include "colorsetting/ColorTransformer.h"
+
+#include "platform/foundation/Values.h"
+#include "platform/toolkit/LabelColor.h"
+
+namespace corvana {
+
+QVariant ColorTransformer::transformedValue(const QVariant &value) const
+{
+    return QVariant::fromValue(booleanValue(value) ? ControlTextColor::Normal
+                                                   : ControlTextColor::Disabled);
+}
+
+QVariant ColorTransformer::reverseTransformedValue(const QVariant &) const
+{
+    return {};
+}
+
+} // namespace corvana

@@ -1,0 +1,211 @@
+#include "panel/QXPrintQualityPDE.h"
+
+#include <QLoggingCategory>
+
+#include "platform/foundation/FormatString.h"
+#include "platform/toolkit/InterfaceLoader.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcPanel, "corvana.panel")
+
+namespace {
+
+// Lies in the same module as the panels' code, by which they find their bundle.
+constexpr char kCodeOfThisModule = 0;
+
+constexpr QLatin1StringView kPanelKindFormat{"com.corvana.print.pde.Cocoa%1"};
+constexpr QLatin1StringView kUnsupportedPaper{"UnsupportedPaper"};
+
+} // namespace
+
+QXPrintQualityPDE::~QXPrintQualityPDE()
+{
+    delete m_panelView;
+    NotificationCenter::defaultCenter().removeObserver(this);
+}
+
+bool QXPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
+{
+    pdePluginCallbackObject = callback;
+    pluginBundle = Bundle::bundleForCode(&kCodeOfThisModule);
+    m_outputBin.clear();
+    if (pluginBundle && pluginBundle->infoDictionary())
+        setThePDEName(pluginBundle->infoString(kCFBundleNameKey));
+    else
+        qCWarning(lcPanel) << "the panel's bundle has no information dictionary";
+    paperName = QString();
+    popupInited = false;
+    m_imageModeFlag = 0;
+    if (!callback
+        || !callback->respondsTo(PDECallbackOperation::willChangePPDOptionKeyValue_ppdChoice)) {
+        qCWarning(lcPanel) << "the host cannot be asked before a choice changes: no panel";
+        pdePluginCallbackObject.reset();
+        pluginBundle.reset();
+        return false;
+    }
+    ppd = callback->ppdFile();
+    chechModelName();
+    restoreValuesAndReturnError(nullptr);
+    checkConstraints();
+    return true;
+}
+
+void QXPrintQualityPDE::removeNotificationObserver(const Notification &)
+{
+    NotificationCenter::defaultCenter().removeObserver(this);
+}
+
+QString QXPrintQualityPDE::panelKind()
+{
+    return QString(kPanelKindFormat).arg(thePDEName());
+}
+
+QWidget *QXPrintQualityPDE::panelView()
+{
+    if (!m_panelView && pluginBundle) {
+        const QString file = pluginBundle->pathForResource(thePDEName(), QStringLiteral("ui"));
+        InterfaceConnections connections;
+        connectInterface(connections);
+        m_panelView = loadInterface(file.isNull() ? pluginBundle->path() + QStringLiteral("/interface/")
+                                            + thePDEName() + QStringLiteral(".ui")
+                                                  : file,
+                                    connections)
+                          .view.release();
+    }
+    return m_panelView;
+}
+
+void QXPrintQualityPDE::connectInterface(InterfaceConnections &connections)
+{
+    connections.bindingDictionary(effectContent);
+    connections.outlet(QStringLiteral("optionButton"), optionButton);
+    connections.action(QStringLiteral("requestNewOutputBin"),
+                       [this](QWidget *control) { requestNewOutputBin(control); });
+    connections.action(QStringLiteral("toggleShowOption"),
+                       [this](QWidget *button) { toggleShowOption(button); });
+    connections.action(QStringLiteral("showHelpFile"),
+                       [this](QWidget *sender) { showHelpFile(sender); });
+}
+
+void QXPrintQualityPDE::willShow()
+{
+    setMode(kModePanelShown, true);
+    checkColorSync();
+    checkFax();
+    initializePopup();
+}
+
+bool QXPrintQualityPDE::shouldHide()
+{
+    setMode(kModePanelShown, false);
+    return true;
+}
+
+bool QXPrintQualityPDE::restoreValuesAndReturnError(QString *)
+{
+    checkFax();
+    setDefaults();
+    restoreMarkedChoices();
+    checkColorSync();
+    restoreOptionState();
+    checkConstraints();
+    if (popupInited)
+        updateUI();
+    saveAllValues();
+    return true;
+}
+
+void QXPrintQualityPDE::restoreMarkedChoices()
+{
+    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+        if (const ppd_choice_t *marked = ppdMarkedChoice(ppd, keyword))
+            m_outputBin.insert(keyword, ppdKeyword(marked->choice));
+        else if (const ppd_option_t *option = ppdOption(ppd, keyword))
+            m_outputBin.insert(keyword, ppdKeyword(option->defchoice));
+    }
+}
+
+bool QXPrintQualityPDE::saveValuesAndReturnError(QString *)
+{
+    // Each choice was written when it changed; the panels add entries of their own.
+    return true;
+}
+
+void QXPrintQualityPDE::saveAllValues()
+{
+    if (!popupInited)
+        return;
+    getUIValues();
+    saveOptionState();
+}
+
+bool QXPrintQualityPDE::shouldPrint()
+{
+    checkFax();
+    if (hasMode(kModeFaxOutput))
+        return true;
+    if (paperName == kUnsupportedPaper) {
+        showUnsupportedPaperAlert();
+        return false;
+    }
+    saveValuesAndReturnError(nullptr);
+    return true;
+}
+
+void QXPrintQualityPDE::showUnsupportedPaperAlert()
+{
+    if (!pdePluginCallbackObject->respondsTo(PDECallbackOperation::alertPresenter)) {
+        qCWarning(lcPanel) << "the paper is not supported, and the host can show no alert";
+        return;
+    }
+    const QString message = QStringLiteral("%1\n\n%2\n%3\n%4")
+                                .arg(localized(QStringLiteral("Unsupported Paper MSG1")),
+                                     localized(QStringLiteral("Unsupported Paper MSG2")),
+                                     localized(QStringLiteral("Unsupported Paper MSG3")),
+                                     localized(QStringLiteral("Unsupported Paper MSG4")));
+    Alert alert;
+    alert.style = Alert::Style::Warning;
+    alert.messageText = localized(QStringLiteral("Unsupported Paper Title"));
+    // The alert takes its message as a format string.
+    alert.informativeText = formattedWithoutArguments(message);
+    alert.buttons = {localized(QStringLiteral("OK"))};
+    pdePluginCallbackObject->alertPresenter()->runModal(alert, m_panelView);
+}
+
+void QXPrintQualityPDE::setDefaults() { }
+
+void QXPrintQualityPDE::chechModelName() { }
+
+void QXPrintQualityPDE::changeResolutionLetterB() { }
+
+void QXPrintQualityPDE::setMode(ImageMode mode, bool on)
+{
+    m_imageModeFlag = static_cast<std::int16_t>(on ? m_imageModeFlag | mode : m_imageModeFlag & ~mode);
+}
+
+PMPrintSettings QXPrintQualityPDE::printSettings() const
+{
+    if (!pdePluginCallbackObject
+        || !pdePluginCallbackObject->respondsTo(PDECallbackOperation::printSettings))
+        return nullptr;
+    return pdePluginCallbackObject->printSettings();
+}
+
+bool QXPrintQualityPDE::askHost(const QString &keyword, const QString &choice)
+{
+    return pdePluginCallbackObject->willChangePPDOptionKeyValue_ppdChoice(keyword, choice);
+}
+
+QString QXPrintQualityPDE::localized(const QString &key) const
+{
+    return pluginBundle ? pluginBundle->localizedStringOrKey(key) : key;
+}
+
+void QXPrintQualityPDE::setEffectContent(const QString &key, const QVariant &value)
+{
+    if (effectContent)
+        effectContent->setValue(key, value);
+}
+
+} // namespace corvana

@@ -1,0 +1,195 @@
+#include "platform/foundation/Bundle.h"
+
+#include <dlfcn.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QTranslator>
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcBundle, "corvana.foundation.bundle")
+
+namespace {
+
+// The one context of every string table; the key is the source text.
+constexpr char kStringTableContext[] = "Localizable";
+
+QHash<QString, std::shared_ptr<Bundle>> &modules()
+{
+    static QHash<QString, std::shared_ptr<Bundle>> bundlesByModule;
+    return bundlesByModule;
+}
+
+QString canonicalModule(const QString &file)
+{
+    const QString canonical = QFileInfo(file).canonicalFilePath();
+    // The loader may name the program by the words it was started with, relative to a folder that
+    // is no longer the current one.
+    return canonical.isEmpty() ? QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath()
+                               : canonical;
+}
+
+// Which user languages a localisation serves. The first three names are older than language codes.
+QString languageCode(const QString &localization)
+{
+    if (localization == QLatin1StringView("English"))
+        return QStringLiteral("en");
+    if (localization == QLatin1StringView("Japanese"))
+        return QStringLiteral("ja");
+    return QString(localization).replace(u'_', u'-');
+}
+
+// "zh-Hans-CN" serves "zh-CN": scripts are implied by the regions that the localisations name.
+bool serves(const QString &localization, const QString &userLanguage)
+{
+    const QString code = languageCode(localization);
+    if (code == userLanguage)
+        return true;
+    const QLocale wanted(userLanguage);
+    const QLocale offered(code);
+    if (wanted.language() != offered.language())
+        return false;
+    // A localisation without a region serves every region; one with a region serves its script.
+    return !code.contains(u'-') || wanted.script() == offered.script();
+}
+
+int lineOfOffset(const QByteArray &text, int offset)
+{
+    return static_cast<int>(text.left(offset).count('\n')) + 1;
+}
+
+} // namespace
+
+Bundle::Bundle(QString path) : m_path(std::move(path)) { }
+
+Bundle::~Bundle() = default;
+
+std::shared_ptr<Bundle> Bundle::open(const QString &path, QString *error)
+{
+    const QFileInfo folder(path);
+    if (!folder.isDir()) {
+        if (error)
+            *error = QStringLiteral("%1: there is no such bundle folder").arg(path);
+        return nullptr;
+    }
+    std::shared_ptr<Bundle> bundle(new Bundle(folder.canonicalFilePath()));
+    bundle->readInfo(error);
+    return bundle;
+}
+
+void Bundle::readInfo(QString *error)
+{
+    const auto fail = [&](const QString &what) {
+        qCWarning(lcBundle).noquote() << what;
+        if (error)
+            *error = what;
+    };
+    QFile file(m_path + QStringLiteral("/info.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
+    const QByteArray text = file.readAll();
+    QJsonParseError parse;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &parse);
+    if (parse.error != QJsonParseError::NoError) {
+        return fail(QStringLiteral("%1:%2: this is not JSON: %3")
+                        .arg(file.fileName())
+                        .arg(lineOfOffset(text, parse.offset))
+                        .arg(parse.errorString()));
+    }
+    if (!document.isObject())
+        return fail(QStringLiteral("%1:1: a JSON object was expected").arg(file.fileName()));
+    m_info = document.object();
+}
+
+void Bundle::associateModule(const QString &moduleFile, const std::shared_ptr<Bundle> &bundle)
+{
+    modules().insert(canonicalModule(moduleFile), bundle);
+}
+
+std::shared_ptr<Bundle> Bundle::bundleForCode(const void *address)
+{
+    Dl_info module;
+    if (!dladdr(address, &module) || !module.dli_fname)
+        return nullptr;
+    return modules().value(canonicalModule(QFile::decodeName(module.dli_fname)));
+}
+
+QString Bundle::infoString(QLatin1StringView key) const
+{
+    const QJsonValue value = m_info ? m_info->value(key) : QJsonValue();
+    return value.isString() ? value.toString() : QString();
+}
+
+std::optional<QStringList> Bundle::infoStringList(const QString &key) const
+{
+    const QJsonValue value = m_info ? m_info->value(key) : QJsonValue();
+    if (!value.isArray())
+        return std::nullopt;
+    QStringList texts;
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue &entry : array) {
+        if (!entry.isString())
+            return std::nullopt;
+        texts += entry.toString();
+    }
+    return texts;
+}
+
+QStringList Bundle::localizations() const
+{
+    return infoStringList(kCFBundleLocalizationsKey).value_or(QStringList());
+}
+
+QStringList Bundle::preferredLocalizations(const QStringList &localizations)
+{
+    QStringList preferred;
+    const QStringList userLanguages = QLocale().uiLanguages();
+    for (const QString &language : userLanguages) {
+        for (const QString &localization : localizations) {
+            if (!preferred.contains(localization) && serves(localization, language))
+                preferred += localization;
+        }
+    }
+    if (preferred.isEmpty() && !localizations.isEmpty())
+        preferred += localizations.first();
+    return preferred;
+}
+
+QString Bundle::localizedString(const QString &key) const
+{
+    if (!m_strings) {
+        m_strings = std::make_unique<QTranslator>();
+        const QStringList preferred = preferredLocalizations(localizations());
+        const QString table = preferred.isEmpty()
+            ? QString()
+            : QStringLiteral("%1/strings/%2.qm").arg(m_path, preferred.first());
+        if (table.isEmpty() || !m_strings->load(table))
+            qCWarning(lcBundle) << "no string table could be loaded from" << table;
+    }
+    return m_strings->translate(kStringTableContext, key.toUtf8().constData());
+}
+
+QString Bundle::localizedStringOrKey(const QString &key) const
+{
+    const QString text = localizedString(key);
+    return text.isNull() ? key : text;
+}
+
+QString Bundle::pathForResource(const QString &name, const QString &type) const
+{
+    if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.'))
+        return {};
+    const QLatin1StringView folder(type == QLatin1StringView("ui") ? "interface" : "pictures");
+    const QFileInfo file(QStringLiteral("%1/%2/%3.%4").arg(m_path, folder, name, type));
+    return file.isFile() ? file.filePath() : QString();
+}
+
+} // namespace corvana

@@ -1,0 +1,31 @@
+#include "platform/foundation/FormatString.h"
+
+#include <QStringView>
+
+namespace corvana {
+
+QString formattedWithoutArguments(const QString &format)
+{
+    // The parts of a directive between "%" and its conversion letter.
+    const QStringView flagsAndWidth = u"-+ #0123456789.*'$";
+    const QStringView lengths = u"hlqLztj";
+
+    QString result;
+    result.reserve(format.size());
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        if (format.at(i) != u'%') {
+            result += format.at(i);
+            continue;
+        }
+        ++i;
+        while (i < format.size() && flagsAndWidth.contains(format.at(i)))
+            ++i;
+        while (i < format.size() && lengths.contains(format.at(i)))
+            ++i;
+        if (i < format.size() && format.at(i) == u'%')
+            result += u'%';
+    }
+    return result;
+}
+
+} // namespace corvana

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "platform/printcore/Ppd.h"
+#include "platform/printcore/PrintSettings.h"
+
+namespace corvana {
+
+/// One option of a job, as CUPS takes it: keyword and choice, `Custom.N`, or a job attribute.
+struct JobOption {
+    QString name;
+    QString value;
+
+    bool operator==(const JobOption &) const = default;
+};
+
+/// What became of one option offered to the plug-in.
+struct JobValueClaim {
+    enum class Outcome {
+        NotMine,  ///< the plug-in keeps no value of that name; nothing was written
+        Accepted, ///< the entries were written
+        Refused,  ///< one of the plug-in's own, but the value cannot be taken; nothing was written
+    };
+
+    Outcome outcome = Outcome::NotMine;
+    /// The values that would have been taken, for the message of a refusal ("1 to 99").
+    QString allowed;
+};
+
+/// The optional part of the contract: values that the panels keep in print settings entries of
+/// their own, beside the PPD's choices. With it a host carries them into a job, and options of a
+/// command line or a preset into the entries, without knowing a single key.
+///
+/// Ownership: part of the principal object. Thread: GUI thread only.
+class PDEJobValues
+{
+public:
+    PDEJobValues() = default;
+    PDEJobValues(const PDEJobValues &) = delete;
+    PDEJobValues &operator=(const PDEJobValues &) = delete;
+    virtual ~PDEJobValues() = default;
+
+    /// The job options that the entries stand for: each in a form that the PPD defines and inside
+    /// the declared range, else as a plain job attribute. An option named here replaces the PPD's
+    /// mark of the same keyword.
+    virtual QList<JobOption> jobOptions(const PrintSettings &settings, ppd_file_t *ppd) const = 0;
+
+    /// Takes one option into the entries when it is one of the plug-in's own.
+    virtual JobValueClaim takeJobOption(const JobOption &option, PrintSettings &settings,
+                                        ppd_file_t *ppd) const = 0;
+
+    /// The PPD choices that the stored entries imply (a manual sleep time implies the choice
+    /// "Custom"); the host marks them before it builds panels and after it changed entries.
+    virtual QList<JobOption> impliedMarks(const PrintSettings &settings, ppd_file_t *ppd) const = 0;
+};
+
+} // namespace corvana

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+#include <QtGlobal>
+
+class QWidget;
+
+namespace corvana {
+
+/// Key of the summary dictionary under which the option texts stand in display order.
+inline constexpr char kSummaryDisplayOrder[] = "Summary Display Order";
+
+/// The panel protocol: what a host calls on each panel, in the order of a panel's life.
+///
+/// Ownership: the host shares the panel with the plug-in; the panel owns its view, which the host
+/// shows inside its own window and must let live as long as the panel.
+/// Thread: GUI thread only. A host calls one operation at a time and lets it return.
+class PDEPanel
+{
+public:
+    PDEPanel() = default;
+    PDEPanel(const PDEPanel &) = delete;
+    PDEPanel &operator=(const PDEPanel &) = delete;
+    virtual ~PDEPanel() = default;
+
+    /// The localised title in the dialog's panel menu.
+    virtual QString panelName() = 0;
+    /// Identifies the kind of panel, for instance to remember the one last shown.
+    virtual QString panelKind() = 0;
+    /// The panel's view; the first request loads it. Null when it cannot be loaded.
+    virtual QWidget *panelView() = 0;
+
+    /// The panel is about to appear.
+    virtual void willShow() = 0;
+    /// The user leaves the panel. False would refuse that.
+    virtual bool shouldHide() = 0;
+
+    /// Brings the panel up to date with the print settings and the PPD's marks.
+    /// Errors: `error`, which may be null, takes a message when the answer is false.
+    virtual bool restoreValuesAndReturnError(QString *error) = 0;
+    /// Makes the panel write its values into the print settings. Errors: as above.
+    virtual bool saveValuesAndReturnError(QString *error) = 0;
+
+    /// Option text to choice text, plus the order under kSummaryDisplayOrder. The panel restores
+    /// and saves on the way, so it asks the host again.
+    virtual QVariantMap summaryInfo() = 0;
+
+    /// The PPD options that the panel owns; nothing when the panel has not been told yet.
+    virtual std::optional<QStringList> supportedPPDOptionKeys() = 0;
+    /// An option took another choice elsewhere in the dialog.
+    virtual void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,
+                                                      const QString &choice) = 0;
+
+    /// The user pressed Print; false holds the job back. May run modal alerts.
+    virtual bool shouldPrint() = 0;
+    /// The user pressed the dialog's help button; false when the panel showed its own help.
+    virtual bool shouldShowHelp() = 0;
+};
+
+} // namespace corvana

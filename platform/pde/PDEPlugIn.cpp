@@ -1,0 +1,7 @@
+#include "platform/pde/PDEPlugIn.h"
+
+namespace corvana {
+
+PDEPlugIn::~PDEPlugIn() = default;
+
+} // namespace corvana

@@ -1,0 +1,7 @@
+#include "platform/toolkit/Alert.h"
+
+namespace corvana {
+
+AlertPresenter::~AlertPresenter() = default;
+
+} // namespace corvana

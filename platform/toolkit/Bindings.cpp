@@ -1,0 +1,132 @@
+#include "platform/toolkit/Bindings.h"
+
+#include <functional>
+#include <limits>
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLoggingCategory>
+#include <QWidget>
+
+#include "platform/foundation/ValueTransformer.h"
+#include "platform/foundation/Values.h"
+#include "platform/toolkit/BindingDictionary.h"
+#include "platform/toolkit/LabelColor.h"
+#include "platform/toolkit/ProgrammaticChange.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcBindings, "corvana.toolkit.bindings")
+
+namespace {
+
+// Runs `show` for every write under `key` while the control lives, and for a value that is there.
+void onWrite(QWidget *control, BindingDictionary *dictionary, const QString &key,
+             const std::function<void(const QVariant &)> &show)
+{
+    QObject::connect(dictionary, &BindingDictionary::valueWritten, control,
+                     [key, show](const QString &written, const QVariant &value) {
+                         if (written == key)
+                             show(value);
+                     });
+    if (dictionary->contains(key))
+        show(dictionary->value(key));
+}
+
+// What a bound number or text is written as in a text field.
+QString shownText(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QString ? value.toString()
+                                                : QString::number(integerValue(value));
+}
+
+int sliderValue(const QVariant &value)
+{
+    constexpr qint64 lowest = std::numeric_limits<int>::min();
+    constexpr qint64 highest = std::numeric_limits<int>::max();
+    return static_cast<int>(qBound(lowest, integerValue(value), highest));
+}
+
+// Writes `value` back when the change was the user's.
+void writeBack(BindingDictionary *dictionary, const QString &key, const QVariant &value)
+{
+    if (!ProgrammaticChange::isInProgress())
+        dictionary->setValue(key, value);
+}
+
+void bindSlider(QAbstractSlider *slider, BindingDictionary *dictionary, const QString &key)
+{
+    const auto show = [slider](const QVariant &value) {
+        const ProgrammaticChange change;
+        slider->setValue(sliderValue(value));
+    };
+    onWrite(slider, dictionary, key, show);
+    // Told between the new range and the slider's own correction of its value, which then has
+    // nothing left to correct and so writes nothing back.
+    QObject::connect(slider, &QAbstractSlider::rangeChanged, slider, [=] {
+        if (dictionary->contains(key))
+            show(dictionary->value(key));
+    });
+    QObject::connect(slider, &QAbstractSlider::valueChanged, dictionary,
+                     [=](int value) { writeBack(dictionary, key, qint64(value)); });
+}
+
+} // namespace
+
+bool bindValue(QWidget *control, BindingDictionary *dictionary, const QString &key)
+{
+    if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
+        bindSlider(slider, dictionary, key);
+    } else if (auto *field = qobject_cast<QLineEdit *>(control)) {
+        onWrite(field, dictionary, key, [field](const QVariant &value) {
+            const ProgrammaticChange change;
+            field->setText(shownText(value));
+        });
+        QObject::connect(field, &QLineEdit::editingFinished, dictionary,
+                         [=] { writeBack(dictionary, key, field->text()); });
+    } else if (auto *button = qobject_cast<QAbstractButton *>(control)) {
+        onWrite(button, dictionary, key, [button](const QVariant &value) {
+            const ProgrammaticChange change;
+            button->setChecked(booleanValue(value));
+        });
+        QObject::connect(button, &QAbstractButton::toggled, dictionary,
+                         [=](bool on) { writeBack(dictionary, key, on); });
+    } else if (auto *label = qobject_cast<QLabel *>(control)) {
+        onWrite(label, dictionary, key,
+                [label](const QVariant &value) { label->setText(shownText(value)); });
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void bindEnabled(QWidget *control, BindingDictionary *dictionary, const QString &key)
+{
+    onWrite(control, dictionary, key,
+            [control](const QVariant &value) { control->setEnabled(booleanValue(value)); });
+}
+
+void bindVisible(QWidget *control, BindingDictionary *dictionary, const QString &key)
+{
+    onWrite(control, dictionary, key,
+            [control](const QVariant &value) { control->setVisible(booleanValue(value)); });
+}
+
+void bindTextColor(QWidget *label, BindingDictionary *dictionary, const QString &key,
+                   const QString &transformer)
+{
+    onWrite(label, dictionary, key, [label, transformer](const QVariant &value) {
+        const auto registered = ValueTransformer::valueTransformerForName(transformer);
+        if (!registered)
+            return; // logged by the registry
+        const QVariant color = registered->transformedValue(value);
+        if (color.canConvert<ControlTextColor>())
+            setTextColor(label, color.value<ControlTextColor>());
+        else
+            qCWarning(lcBindings) << transformer << "gives no text colour for" << label;
+    });
+}
+
+} // namespace corvana

@@ -1,0 +1,196 @@
+#include "platform/toolkit/InterfaceLoader.h"
+
+#include <utility>
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QUiLoader>
+
+#include "platform/toolkit/Bindings.h"
+#include "platform/toolkit/ProgrammaticChange.h"
+#include "platform/toolkit/RadioMatrix.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcInterface, "corvana.toolkit.interface")
+
+namespace {
+
+QStringList &untoldProblems()
+{
+    static QStringList problems;
+    return problems;
+}
+
+// QUiLoader leaves out silently what it cannot create; this one remembers it.
+class FormLoader : public QUiLoader
+{
+public:
+    QStringList unknownClasses;
+
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        QWidget *widget = nullptr;
+        if (className == QLatin1StringView("RadioMatrix"))
+            widget = new RadioMatrix(parent);
+        else if (availableWidgets().contains(className) || className == QLatin1StringView("Line"))
+            widget = QUiLoader::createWidget(className, parent, name);
+        if (widget)
+            widget->setObjectName(name);
+        else
+            unknownClasses += className;
+        return widget;
+    }
+};
+
+// The constructor of QUiLoader opens every designer plug-in that it can find, which costs time and
+// runs code of others; no interface file of ours needs one.
+std::unique_ptr<FormLoader> makeLoader()
+{
+    const QStringList paths = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
+    auto loader = std::make_unique<FormLoader>();
+    QCoreApplication::setLibraryPaths(paths);
+    // Texts of an interface file come from the bundle's string table, not from the program's.
+    loader->setTranslationEnabled(false);
+    return loader;
+}
+
+qsizetype lineOf(const QByteArray &text, const QByteArray &fragment)
+{
+    const qsizetype at = text.indexOf(fragment);
+    return at < 0 ? 0 : text.left(at).count('\n') + 1;
+}
+
+} // namespace
+
+/// Connects one loaded file to its owner and collects what does not fit.
+class InterfaceConnector
+{
+public:
+    InterfaceConnector(const InterfaceConnections &owner, QString file, QByteArray text)
+        : m_owner(owner), m_file(std::move(file)), m_text(std::move(text))
+    {
+    }
+
+    QStringList problems;
+
+    void connectAll(QWidget *view)
+    {
+        QList<QWidget *> widgets = view->findChildren<QWidget *>();
+        widgets.prepend(view);
+        auto *dictionary = new BindingDictionary(view);
+        for (QWidget *widget : widgets) {
+            connectOutlet(widget);
+            connectBindings(widget, dictionary);
+            ignoreWheelWithoutFocus(widget);
+        }
+        for (QWidget *widget : widgets)
+            connectAction(widget);
+        if (problems.isEmpty() && m_owner.m_dictionary)
+            *m_owner.m_dictionary = dictionary;
+    }
+
+    void reject(const QByteArray &fragment, const QString &what)
+    {
+        problems += QStringLiteral("%1:%2: %3").arg(m_file).arg(lineOf(m_text, fragment)).arg(what);
+    }
+
+private:
+    void connectOutlet(QWidget *widget)
+    {
+        const auto outlet = m_owner.m_outlets.find(widget->objectName());
+        if (outlet == m_owner.m_outlets.end() || outlet->second.connect(widget))
+            return;
+        reject("name=\"" + widget->objectName().toUtf8() + "\"",
+               QStringLiteral("\"%1\" is a %2, a %3 was expected")
+                   .arg(widget->objectName(),
+                        QString::fromLatin1(widget->metaObject()->className()),
+                        outlet->second.className));
+    }
+
+    void connectBindings(QWidget *widget, BindingDictionary *dictionary)
+    {
+        const auto key = [widget](const char *property) {
+            return widget->property(property).toString();
+        };
+        if (const QString value = key("bindValue"); !value.isEmpty()) {
+            if (!bindValue(widget, dictionary, value)) {
+                reject(value.toUtf8(), QStringLiteral("\"%1\" has no value to bind to \"%2\"")
+                                           .arg(widget->objectName(), value));
+            }
+        }
+        if (const QString enabled = key("bindEnabled"); !enabled.isEmpty())
+            bindEnabled(widget, dictionary, enabled);
+        if (const QString visible = key("bindVisible"); !visible.isEmpty())
+            bindVisible(widget, dictionary, visible);
+        if (const QString color = key("bindTextColor"); !color.isEmpty())
+            bindTextColor(widget, dictionary, color, key("textColorTransformer"));
+    }
+
+    void connectAction(QWidget *widget)
+    {
+        const QString name = widget->property("action").toString();
+        if (name.isEmpty())
+            return;
+        const auto action = m_owner.m_actions.find(name);
+        if (action == m_owner.m_actions.end()) {
+            reject(name.toUtf8(), QStringLiteral("there is no action \"%1\"").arg(name));
+        } else if (!connectControlAction(widget, action->second)) {
+            reject(name.toUtf8(), QStringLiteral("\"%1\" cannot have the action \"%2\"")
+                                      .arg(widget->objectName(), name));
+        }
+    }
+
+    const InterfaceConnections &m_owner;
+    QString m_file;
+    QByteArray m_text;
+};
+
+static LoadedInterface refused(const QStringList &problems)
+{
+    for (const QString &problem : problems)
+        qCWarning(lcInterface).noquote() << problem;
+    untoldProblems() += problems;
+    LoadedInterface loaded;
+    loaded.problems = problems;
+    return loaded;
+}
+
+QStringList takeInterfaceProblems()
+{
+    return std::exchange(untoldProblems(), {});
+}
+
+LoadedInterface loadInterface(const QString &file, const InterfaceConnections &owner)
+{
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return refused({QStringLiteral("%1: %2").arg(file, source.errorString())});
+    QByteArray text = source.readAll();
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
+
+    const ProgrammaticChange change;
+    const std::unique_ptr<FormLoader> loader = makeLoader();
+    std::unique_ptr<QWidget> view(loader->load(&buffer));
+    InterfaceConnector connector(owner, file, text);
+    for (const QString &className : std::as_const(loader->unknownClasses)) {
+        connector.reject("class=\"" + className.toUtf8() + "\"",
+                         QStringLiteral("there is no control class \"%1\"").arg(className));
+    }
+    if (!view && connector.problems.isEmpty())
+        connector.problems += QStringLiteral("%1: %2").arg(file, loader->errorString());
+    if (view && connector.problems.isEmpty())
+        connector.connectAll(view.get());
+
+    if (!connector.problems.isEmpty())
+        return refused(connector.problems);
+    LoadedInterface loaded;
+    loaded.view = std::move(view);
+    return loaded;
+}
+
+} // namespace corvana

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include "platform/PlatformExport.h"
+#include "platform/toolkit/BindingDictionary.h"
+#include "platform/toolkit/ControlActions.h"
+
+namespace corvana {
+
+/// What the owner of an interface file offers it to connect to: outlets by the object names of the
+/// file's controls, actions by the names that the controls' `action` property gives, and the place
+/// for the file's binding dictionary.
+class CORVANA_PLATFORM_EXPORT InterfaceConnections
+{
+public:
+    /// The control called `name` goes into `slot`. A file without that control leaves it null.
+    template <typename Control>
+    void outlet(const QString &name, QPointer<Control> &slot)
+    {
+        m_outlets[name] = {QString::fromLatin1(Control::staticMetaObject.className()),
+                           [&slot](QWidget *widget) {
+                               auto *control = qobject_cast<Control *>(widget);
+                               if (control)
+                                   slot = control;
+                               return control != nullptr;
+                           }};
+    }
+    void action(const QString &name, ControlAction action) { m_actions[name] = std::move(action); }
+    void bindingDictionary(QPointer<BindingDictionary> &slot) { m_dictionary = &slot; }
+
+private:
+    friend class InterfaceConnector;
+    struct Outlet {
+        QString className;
+        std::function<bool(QWidget *)> connect;
+    };
+    std::map<QString, Outlet> m_outlets;
+    std::map<QString, ControlAction> m_actions;
+    QPointer<BindingDictionary> *m_dictionary = nullptr;
+};
+
+/// A loaded interface: the view, or what is wrong with the file.
+struct LoadedInterface {
+    /// Ownership: the caller's. Null when there are problems. It owns its binding dictionary.
+    std::unique_ptr<QWidget> view;
+    /// Each names the file, the line where it is known, and what was expected.
+    QStringList problems;
+};
+
+/// Loads an interface file, a Qt Designer `.ui` file, and connects it to its owner.
+///
+/// Beside the properties of the controls themselves these dynamic properties are understood, all
+/// texts but `tag`: `action` (name of an action), `bindValue`, `bindEnabled`, `bindVisible`,
+/// `bindTextColor` (key of the binding dictionary; the colour comes from the value transformer
+/// named by `textColorTransformer`), `tag` (whole number). The class `RadioMatrix` is available as
+/// a custom widget. Bindings are connected before actions, and nothing acts while a file is loaded.
+///
+/// Errors: a file that is malformed, or that names a class, an action or a binding which does not
+/// exist, loads no view at all rather than one with a dead control.
+CORVANA_PLATFORM_EXPORT LoadedInterface loadInterface(const QString &file,
+                                                      const InterfaceConnections &owner);
+
+/// The problems of all interface files that were refused since the last call. Panels swallow a view
+/// that could not be loaded; with this their host can still tell its user why.
+CORVANA_PLATFORM_EXPORT QStringList takeInterfaceProblems();
+
+} // namespace corvana

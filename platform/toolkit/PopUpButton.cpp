@@ -1,0 +1,73 @@
+#include "platform/toolkit/PopUpButton.h"
+
+#include <QComboBox>
+
+#include "platform/toolkit/ProgrammaticChange.h"
+
+namespace corvana::popup {
+
+void removeAllItems(QComboBox *popUp)
+{
+    const ProgrammaticChange change;
+    popUp->clear();
+}
+
+void addItemWithTitle(QComboBox *popUp, const QString &title)
+{
+    const ProgrammaticChange change;
+    removeItemAt(popUp, indexOfItemWithTitle(popUp, title));
+    const int selected = popUp->currentIndex();
+    popUp->addItem(title);
+    // QComboBox selects the first item that it ever gets by itself.
+    popUp->setCurrentIndex(selected);
+}
+
+void removeItemAt(QComboBox *popUp, int index)
+{
+    if (index < 0 || index >= popUp->count())
+        return;
+    const ProgrammaticChange change;
+    // QComboBox would select a neighbour of a removed item.
+    if (popUp->currentIndex() == index)
+        popUp->setCurrentIndex(-1);
+    popUp->removeItem(index);
+}
+
+int indexOfItemWithTitle(const QComboBox *popUp, const QString &title)
+{
+    return popUp->findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
+}
+
+int indexOfItemWithRepresentedObject(const QComboBox *popUp, const QVariant &object)
+{
+    if (!object.isValid())
+        return -1;
+    for (int i = 0; i < popUp->count(); ++i) {
+        if (popUp->itemData(i) == object)
+            return i;
+    }
+    return -1;
+}
+
+void setRepresentedObject(QComboBox *popUp, int index, const QVariant &object)
+{
+    popUp->setItemData(index, object);
+}
+
+QVariant representedObject(const QComboBox *popUp, int index)
+{
+    return popUp->itemData(index);
+}
+
+void setItemImage(QComboBox *popUp, int index, const QIcon &image)
+{
+    popUp->setItemIcon(index, image);
+}
+
+void selectItemAt(QComboBox *popUp, int index)
+{
+    const ProgrammaticChange change;
+    popUp->setCurrentIndex(index);
+}
+
+} // namespace corvana::popup

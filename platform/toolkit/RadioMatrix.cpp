@@ -1,0 +1,136 @@
+#include "platform/toolkit/RadioMatrix.h"
+
+#include <QRadioButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "platform/toolkit/ProgrammaticChange.h"
+
+namespace corvana {
+
+namespace {
+constexpr char kRepresentedObject[] = "representedObject";
+}
+
+RadioMatrix::RadioMatrix(QWidget *parent) : QWidget(parent), m_layout(new QVBoxLayout(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+}
+
+void RadioMatrix::setNumberOfRows(int rows)
+{
+    while (numberOfRows() > qMax(rows, 0))
+        removeRow(numberOfRows() - 1);
+    while (numberOfRows() < rows)
+        addRow();
+}
+
+void RadioMatrix::addRow()
+{
+    auto *cell = new QRadioButton(this);
+    connect(cell, &QRadioButton::toggled, this, [this, cell](bool on) {
+        if (on)
+            cellToggled(cell);
+    });
+    connect(cell, &QRadioButton::clicked, this, [this, cell] { cellClicked(cell); });
+    m_cells.push_back(cell);
+    m_layout->addWidget(cell);
+    if (focusProxy() == nullptr)
+        setFocusProxy(cell); // so that a label's buddy shortcut reaches the buttons
+}
+
+void RadioMatrix::removeRow(int row)
+{
+    if (row < 0 || row >= numberOfRows())
+        return;
+    const ProgrammaticChange change;
+    QRadioButton *cell = m_cells.at(static_cast<size_t>(row));
+    m_cells.erase(m_cells.begin() + row);
+    if (m_reported == cell)
+        m_reported = nullptr;
+    if (focusProxy() == cell)
+        setFocusProxy(m_cells.empty() ? nullptr : m_cells.front());
+    delete cell;
+}
+
+QString RadioMatrix::cellTitle(int row) const
+{
+    const QRadioButton *button = cell(row);
+    return button ? button->text().replace(QStringLiteral("&&"), QStringLiteral("&")) : QString();
+}
+
+void RadioMatrix::setCellTitle(int row, const QString &title)
+{
+    // A printer's own text is no place for keyboard mnemonics.
+    if (QRadioButton *button = cell(row))
+        button->setText(QString(title).replace(u'&', QStringLiteral("&&")));
+}
+
+QVariant RadioMatrix::representedObject(int row) const
+{
+    const QRadioButton *button = cell(row);
+    return button ? button->property(kRepresentedObject) : QVariant();
+}
+
+void RadioMatrix::setRepresentedObject(int row, const QVariant &object)
+{
+    if (QRadioButton *button = cell(row))
+        button->setProperty(kRepresentedObject, object);
+}
+
+int RadioMatrix::selectedRow() const
+{
+    for (int row = 0; row < numberOfRows(); ++row) {
+        if (cell(row)->isChecked())
+            return row;
+    }
+    return -1;
+}
+
+void RadioMatrix::selectRow(int row)
+{
+    const ProgrammaticChange change;
+    for (QRadioButton *button : m_cells) {
+        // An exclusive button cannot be switched off, only replaced.
+        button->setAutoExclusive(false);
+        button->setChecked(false);
+        button->setAutoExclusive(true);
+    }
+    if (QRadioButton *button = cell(row))
+        button->setChecked(true);
+}
+
+QRadioButton *RadioMatrix::cell(int row) const
+{
+    return row >= 0 && row < numberOfRows() ? m_cells.at(static_cast<size_t>(row)) : nullptr;
+}
+
+void RadioMatrix::cellToggled(QRadioButton *cell)
+{
+    if (ProgrammaticChange::isInProgress())
+        return;
+    m_reported = cell;
+    Q_EMIT activated(rowOf(cell));
+    // Only now: what is activated may run a modal alert, and the click is told when it has closed.
+    QTimer::singleShot(0, this, [this] { m_reported = nullptr; });
+}
+
+void RadioMatrix::cellClicked(QRadioButton *cell)
+{
+    if (m_reported == cell) {
+        m_reported = nullptr;
+        return;
+    }
+    Q_EMIT activated(rowOf(cell));
+}
+
+int RadioMatrix::rowOf(const QRadioButton *cell) const
+{
+    for (int row = 0; row < numberOfRows(); ++row) {
+        if (m_cells.at(static_cast<size_t>(row)) == cell)
+            return row;
+    }
+    return -1;
+}
+
+} // namespace corvana

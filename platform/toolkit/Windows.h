@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/PlatformExport.h"
+
+class QWidget;
+
+namespace corvana {
+
+/// Posted once when a window has accepted to close, with the window (a QWidget) as its sender.
+inline constexpr char kWindowWillCloseNotification[] = "NSWindowWillCloseNotification";
+
+/// The window that a panel means by "the key window": the visible window of its own view, else the
+/// application's active window, else null.
+CORVANA_PLATFORM_EXPORT QWidget *keyWindow(const QWidget *panelView);
+
+/// Makes `window` post kWindowWillCloseNotification; asking twice posts once.
+CORVANA_PLATFORM_EXPORT void postNotificationWhenClosing(QWidget *window);
+
+} // namespace corvana

@@ -1,0 +1,210 @@
+#include "plugin/QXJobValues.h"
+
+#include <optional>
+
+#include <QRegularExpression>
+
+#include "colorsetting/ColorSettingKeys.h"
+#include "colorsetting/EffectSet.h"
+#include "panel/OptionKeywords.h"
+#include "platform/foundation/Values.h"
+#include "printsetting/PrintSettingKeys.h"
+#include "printsetting/ValueBounds.h"
+
+namespace corvana {
+
+namespace {
+
+// A custom value of a PPD option. The braces form of CUPS is understood as well, and never written:
+// the scheduler drops a value that begins with a brace.
+QString customValue(qint64 number)
+{
+    return QStringLiteral("Custom.%1").arg(number);
+}
+
+// The number in "Custom.12", "{Time=12}" (with that parameter's name) or, where plain numbers are
+// choices, "12"; nothing for any other text.
+std::optional<qint64> numberIn(const QString &value, QLatin1StringView parameter, bool plainNumbers)
+{
+    static const QRegularExpression number(QStringLiteral("^[+-]?[0-9]{1,18}$"));
+    QString text = value;
+    const QString brace = QStringLiteral("{%1=").arg(parameter);
+    if (text.startsWith(QStringLiteral("Custom.")))
+        text = text.mid(7);
+    else if (!parameter.isEmpty() && text.startsWith(brace) && text.endsWith(u'}'))
+        text = text.mid(brace.size()).chopped(1);
+    else if (!plainNumbers)
+        return std::nullopt;
+    if (!number.match(text).hasMatch())
+        return std::nullopt;
+    return integerValue(text);
+}
+
+// What was meant as a number of the option's, so that a bad one is refused with its range.
+bool isCustomForm(const QString &value)
+{
+    return value.startsWith(QStringLiteral("Custom")) || value.startsWith(u'{');
+}
+
+JobValueClaim notMine()
+{
+    return {JobValueClaim::Outcome::NotMine, {}};
+}
+
+JobValueClaim accepted()
+{
+    return {JobValueClaim::Outcome::Accepted, {}};
+}
+
+JobValueClaim refused(ValueBounds bounds, const QString &form)
+{
+    return {JobValueClaim::Outcome::Refused,
+            QStringLiteral("%1 to %2").arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
+}
+
+// The choice of an option whose keyword is this number ("0", "-3"), or null.
+const ppd_choice_t *choiceOfNumber(ppd_option_t *option, qint64 number)
+{
+    const ppd_choice_t *choice = ppdChoice(option, QString::number(number));
+    return choice ? choice : ppdChoice(option, QStringLiteral("+%1").arg(number));
+}
+
+bool manualSleepTime(const PrintSettings &settings)
+{
+    return settings.value(kSleepModeEntry).toString().startsWith(kCustom);
+}
+
+// Sleep time
+
+QList<JobOption> sleepTimeOptions(const PrintSettings &settings, ppd_file_t *ppd)
+{
+    if (!manualSleepTime(settings) || !ppdCustomParameter(ppd, kQXSleepTime, kTimeParameter))
+        return {};
+    const qint64 minutes =
+        sleepTimeBounds(ppd).clamped(integerValue(settings.value(kSleepEntry)));
+    return {{kQXSleepTime, customValue(minutes)}};
+}
+
+JobValueClaim takeSleepTime(const QString &value, PrintSettings &settings, ppd_file_t *ppd)
+{
+    if (!ppdCustomParameter(ppd, kQXSleepTime, kTimeParameter))
+        return notMine();
+    if (value == kDefault && ppdChoice(ppdOption(ppd, kQXSleepTime), value)) {
+        settings.setValue(kSleepModeEntry, QString(kDefault));
+        settings.setValue(kSleepEntry, QString(kDefault));
+        return accepted();
+    }
+    if (!isCustomForm(value))
+        return notMine();
+    const ValueBounds bounds = sleepTimeBounds(ppd);
+    const std::optional<qint64> minutes = numberIn(value, kTimeParameter, false);
+    if (!minutes || !bounds.contains(*minutes))
+        return refused(bounds, QStringLiteral("Custom.%1"));
+    settings.setValue(kSleepModeEntry, QString(kCustom));
+    settings.setValue(kSleepEntry, QString::number(*minutes));
+    return accepted();
+}
+
+// Density
+
+QList<JobOption> densityOptions(const PrintSettings &settings, ppd_file_t *ppd)
+{
+    ppd_option_t *option = ppdOption(ppd, kQXDensityAdjustment);
+    if (!option || !settings.contains(kDensityEntry))
+        return {};
+    const qint64 density = densityBounds(ppd).clamped(integerValue(settings.value(kDensityEntry)));
+    if (density == integerValue(ppdKeyword(option->defchoice)))
+        return {}; // the printer's own density: the default choice says it
+    if (ppdCustomParameter(ppd, kQXDensityAdjustment, kDensityParameter))
+        return {{kQXDensityAdjustment, customValue(density)}};
+    if (const ppd_choice_t *choice = choiceOfNumber(option, density))
+        return {{kQXDensityAdjustment, ppdKeyword(choice->choice)}};
+    return {{kDensityEntry, QString::number(density)}};
+}
+
+JobValueClaim takeDensity(const QString &value, PrintSettings &settings, ppd_file_t *ppd)
+{
+    ppd_option_t *option = ppdOption(ppd, kQXDensityAdjustment);
+    if (!option)
+        return notMine();
+    const ValueBounds bounds = densityBounds(ppd);
+    const std::optional<qint64> density = numberIn(value, kDensityParameter, true);
+    if (!density || !bounds.contains(*density))
+        return refused(bounds, QStringLiteral("%1"));
+    settings.setValue(kDensityEntry, QString::number(*density));
+    return accepted();
+}
+
+// Colour effects
+
+QString effectSetInForce(const PrintSettings &settings)
+{
+    return effectSetKey(settings.value(kQXMonoColor).toString() == kMono,
+                        settings.value(kQXColorMatching).toString());
+}
+
+QVariantList effectsInForce(const PrintSettings &settings)
+{
+    const auto stored = usableEffectSet(settings.value(effectSetInForce(settings)));
+    if (stored)
+        return *stored;
+    return QVariantList(static_cast<qsizetype>(kEffectKeywords.size()), QString::number(0));
+}
+
+QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
+{
+    QList<JobOption> options;
+    const QVariantList values = effectsInForce(settings);
+    for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
+        const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
+        ppd_option_t *option = ppdOption(ppd, kEffectKeywords[i]);
+        if (const ppd_choice_t *choice = choiceOfNumber(option, value))
+            options += JobOption{kEffectKeywords[i], ppdKeyword(choice->choice)};
+    }
+    return options;
+}
+
+JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_file_t *ppd)
+{
+    const auto keyword = std::find(kEffectKeywords.begin(), kEffectKeywords.end(), offered.name);
+    if (keyword == kEffectKeywords.end() || !ppdOption(ppd, offered.name))
+        return notMine();
+    const ValueBounds bounds{kEffectMinimum, kEffectMaximum};
+    const std::optional<qint64> value = numberIn(offered.value, {}, true);
+    if (!value || !bounds.contains(*value) || !choiceOfNumber(ppdOption(ppd, offered.name), *value))
+        return refused(bounds, QStringLiteral("%1"));
+    QVariantList values = effectsInForce(settings);
+    values[keyword - kEffectKeywords.begin()] = *value;
+    settings.setValue(effectSetInForce(settings), values);
+    return accepted();
+}
+
+} // namespace
+
+QList<JobOption> QXJobValues::jobOptions(const PrintSettings &settings, ppd_file_t *ppd) const
+{
+    return sleepTimeOptions(settings, ppd) + densityOptions(settings, ppd)
+        + effectOptions(settings, ppd);
+}
+
+JobValueClaim QXJobValues::takeJobOption(const JobOption &option, PrintSettings &settings,
+                                         ppd_file_t *ppd) const
+{
+    if (option.name == kQXSleepTime)
+        return takeSleepTime(option.value, settings, ppd);
+    if (option.name == kQXDensityAdjustment)
+        return takeDensity(option.value, settings, ppd);
+    return takeEffect(option, settings, ppd);
+}
+
+QList<JobOption> QXJobValues::impliedMarks(const PrintSettings &settings, ppd_file_t *ppd) const
+{
+    const QString mode = settings.value(kSleepModeEntry).toString();
+    ppd_option_t *option = ppdOption(ppd, kQXSleepTime);
+    const QString implied = mode.startsWith(kCustom) ? kCustom : kDefault;
+    if (mode.isNull() || !ppdChoice(option, implied))
+        return {};
+    return {{kQXSleepTime, implied}};
+}
+
+} // namespace corvana

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+namespace corvana {
+
+// Options of the Print Setting panel and the choices that its rules name.
+
+inline constexpr QLatin1StringView kQXResolution{"QXResolution"};
+inline constexpr QLatin1StringView kResolution{"Resolution"};
+inline constexpr QLatin1StringView kQXInputSlot{"QXInputSlot"};
+inline constexpr QLatin1StringView kTonerSaveMode{"TonerSaveMode"};
+inline constexpr QLatin1StringView kQXImproveOutput{"QXImproveOutput"};
+inline constexpr QLatin1StringView kQXFixIntensity{"QXFixIntensity"};
+inline constexpr QLatin1StringView kQXLessPaperCurl{"QXLessPaperCurl"};
+inline constexpr QLatin1StringView kQXReduceGhost{"QXReduceGhost"};
+inline constexpr QLatin1StringView kQXDensityAdjustment{"QXDensityAdjustment"};
+inline constexpr QLatin1StringView kQXSleepTime{"QXSleepTime"};
+inline constexpr QLatin1StringView kQXQuietMode{"QXQuietMode"};
+inline constexpr QLatin1StringView kQXSkipBlank{"QXSkipBlank"};
+inline constexpr QLatin1StringView kDuplex{"Duplex"};
+
+inline constexpr QLatin1StringView kThin{"Thin"};
+inline constexpr QLatin1StringView kThick{"Thick"};
+inline constexpr QLatin1StringView kPostCard{"PostCard"};
+inline constexpr QLatin1StringView kBond{"BOND"};
+inline constexpr QLatin1StringView kEnv{"Env"};
+inline constexpr QLatin1StringView kLabel{"Label"};
+/// The paper size; capitalised otherwise than the medium.
+inline constexpr QLatin1StringView kPostcardPaper{"Postcard"};
+inline constexpr QLatin1StringView kCustom{"Custom"};
+inline constexpr QLatin1StringView kDefault{"Default"};
+
+/// Custom parameters of the options whose values are numbers.
+inline constexpr QLatin1StringView kTimeParameter{"Time"};
+inline constexpr QLatin1StringView kDensityParameter{"Density"};
+
+/// The panel's own entries in the print settings.
+inline constexpr QLatin1StringView kSleepEntry{"com.corvana.print.PrintSettings.sleep"};
+inline constexpr QLatin1StringView kSleepModeEntry{"com.corvana.print.PrintSettings.sleepmode"};
+inline constexpr QLatin1StringView kDensityEntry{"com.corvana.print.PrintSettings.densitymode"};
+
+/// List of the panel's option keywords in the bundle's information dictionary.
+inline constexpr QLatin1StringView kPPDKeysSupported{"PMPPDKeysSupported"};
+
+} // namespace corvana

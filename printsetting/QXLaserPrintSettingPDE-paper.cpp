@@ -1,0 +1,10 @@
+#include "printsetting/QXLaserPrintSettingPDE.h"
+
+namespace corvana {
+
+bool QXLaserPrintSettingPDE::readPageSetup()
+{
+    return false;
+}
+
+} // namespace corvana

@@ -1,0 +1,212 @@
+#include "printsetting/QXLaserPrintSettingPDE.h"
+
+#include <QLoggingCategory>
+
+#include "panel/OptionKeywords.h"
+#include "platform/foundation/Values.h"
+#include "platform/toolkit/InterfaceLoader.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "printsetting/PrintSettingKeys.h"
+#include "printsetting/QXLaserPrintSetting.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting")
+
+// One row an option: the one table behind determineUI(), determineLabel() and determineKey().
+struct QXLaserPrintSettingPDE::Roster {
+    using Lookup = QWidget *(*)(const QXLaserPrintSettingPDE &);
+
+    struct Row {
+        QLatin1StringView keyword; // empty: the resolution, whose keyword depends on the PPD
+        Lookup control;
+        Lookup label;
+
+        QString keywordIn(const QXLaserPrintSettingPDE &panel) const
+        {
+            return keyword.isEmpty() ? panel.PPDResolutionKey : QString(keyword);
+        }
+    };
+
+    static constexpr Row rows[] = {
+        {QLatin1StringView(), [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionPopup; },
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionLabel; }},
+        {kQXMediaType, [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypePopup; },
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypeLabel; }},
+        {kQXMonoColor, [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorPopup; },
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorLabel; }},
+        {kQXInputSlot, [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedPopup; },
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedLabel; }},
+    };
+
+    static const Row *rowOf(const QXLaserPrintSettingPDE &panel, const QString &keyword)
+    {
+        for (const Row &row : rows) {
+            if (!keyword.isEmpty() && row.keywordIn(panel) == keyword)
+                return &row;
+        }
+        return nullptr;
+    }
+};
+
+QXLaserPrintSettingPDE::~QXLaserPrintSettingPDE() = default;
+
+bool QXLaserPrintSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
+{
+    if (!QXPrintQualityPDE::initWithCallback(callback))
+        return false;
+    paperName = QString();
+    checkLang();
+    readPageSetup();
+    setDefaults();
+    return true;
+}
+
+QString QXLaserPrintSettingPDE::panelName()
+{
+    return localized(QStringLiteral("Print Setting"));
+}
+
+void QXLaserPrintSettingPDE::connectInterface(InterfaceConnections &connections)
+{
+    QXPrintQualityPDE::connectInterface(connections);
+    connections.outlet(QStringLiteral("mediaTypePopup"), mediaTypePopup);
+    connections.outlet(QStringLiteral("resolutionPopup"), resolutionPopup);
+    connections.outlet(QStringLiteral("monoColorPopup"), monoColorPopup);
+    connections.outlet(QStringLiteral("paperFeedPopup"), paperFeedPopup);
+    connections.outlet(QStringLiteral("mediaTypeLabel"), mediaTypeLabel);
+    connections.outlet(QStringLiteral("resolutionLabel"), resolutionLabel);
+    connections.outlet(QStringLiteral("monoColorLabel"), monoColorLabel);
+    connections.outlet(QStringLiteral("paperFeedLabel"), paperFeedLabel);
+}
+
+std::optional<QStringList> QXLaserPrintSettingPDE::supportedPPDOptionKeys()
+{
+    std::optional<QStringList> keywords = QXPrintQualityPDE::supportedPPDOptionKeys();
+    if (!PPDSleepTimeKey.isNull())
+        keywords = keywords.value_or(QStringList()) << PPDSleepTimeKey;
+    return keywords;
+}
+
+std::optional<QStringList> QXLaserPrintSettingPDE::availablePPDOptionKeys()
+{
+    return QXPrintQualityPDE::availablePPDOptionKeys();
+}
+
+void QXLaserPrintSettingPDE::willShow()
+{
+    QXPrintQualityPDE::willShow();
+    updateUI();
+}
+
+void QXLaserPrintSettingPDE::setPPDKeys(const std::optional<QStringList> &keywords)
+{
+    QXPrintQualityPDE::setPPDKeys(keywords);
+    if (PPDSleepTimeKey.isNull())
+        prepareSleepTime();
+    PPDResolutionKey = handles(kQXResolution) ? kQXResolution : kResolution;
+}
+
+void QXLaserPrintSettingPDE::prepareSleepTime()
+{
+    // The longer default suits the fusers of the older models.
+    constexpr int kFirstModelWithShortSleepTime = 4;
+    const bool olderModel = ppd && ppd->model_number < kFirstModelWithShortSleepTime;
+    kSleepTimeDefault = olderModel ? 5 : 3;
+    const ValueBounds bounds = sleepTimeBounds(ppd);
+    kSleepTimeMin = bounds.minimum;
+    kSleepTimeMax = bounds.maximum;
+    if (!ppdHasCustomOption(ppd, kQXSleepTime))
+        return;
+    if (!ppdCustomParameter(ppd, kQXSleepTime, kTimeParameter)) {
+        qCWarning(lcPrintSetting) << "the PPD's custom option" << kQXSleepTime
+                                  << "lacks the parameter" << kTimeParameter;
+        return;
+    }
+    PPDSleepTimeKey = QStringLiteral("%1_%2").arg(kQXSleepTime, kTimeParameter);
+    m_outputBin.insert(PPDSleepTimeKey, QString::number(kSleepTimeDefault));
+}
+
+void QXLaserPrintSettingPDE::setDefaults()
+{
+    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+        const ppd_option_t *option = ppdOption(ppd, keyword);
+        if (!option)
+            continue;
+        const QString defaultChoice = ppdKeyword(option->defchoice);
+        bool mustSet = false;
+        if (m_outputBin.value(keyword) != QVariant(defaultChoice)) {
+            if (ppdIsMarked(ppd, option->keyword, option->defchoice))
+                resetDefaultedOption(keyword);
+            else
+                mustSet = !ppdMarkedChoice(ppd, keyword);
+        }
+        QString value = defaultChoice;
+        if (keyword == kQXMediaType) {
+            value = defaultMediaType();
+            const ppd_choice_t *marked = ppdMarkedChoice(ppd, keyword);
+            mustSet = mustSet || (marked && ppdKeyword(marked->choice) == inhibitedMediaType());
+        }
+        if (mustSet && askHost(keyword, value))
+            m_outputBin.insert(keyword, value);
+    }
+}
+
+// The PPD's default is in force for an option whose value the panel has not taken over yet.
+void QXLaserPrintSettingPDE::resetDefaultedOption(const QString &keyword)
+{
+    if (keyword == kQXMediaType) {
+        paperName = kCustom;
+        readPageSetup();
+    } else if (keyword == kQXDensityAdjustment) {
+        const ValueBounds bounds = densityBounds(ppd);
+        kDensityMin = bounds.minimum;
+        kDensityMax = bounds.maximum;
+        m_outputBin.insert(QXLaserPrintSetting::densityParamKey(), qint64(0));
+        setEffectContent(QXLaserPrintSetting::densityParamKey(), qint64(0));
+    }
+}
+
+void QXLaserPrintSettingPDE::initializePopup()
+{
+    if (popupInited)
+        return;
+    QXPrintQualityPDE::initializePopup();
+    auto *mediaTypes = qobject_cast<QComboBox *>(determineUI(kQXMediaType));
+    const QString inhibited = inhibitedMediaType();
+    if (mediaTypes && !inhibited.isNull())
+        popup::removeItemAt(mediaTypes,
+                            popup::indexOfItemWithRepresentedObject(mediaTypes, inhibited));
+    initializeAdvOption();
+    restoreOptionState();
+}
+
+void QXLaserPrintSettingPDE::initializeAdvOption()
+{
+    const QString density = QXLaserPrintSetting::densityParamKey();
+    if (handles(kQXDensityAdjustment))
+        setEffectContent(density, integerValue(m_outputBin.value(density)));
+}
+
+QWidget *QXLaserPrintSettingPDE::determineUI(const QString &keyword)
+{
+    const Roster::Row *row = Roster::rowOf(*this, keyword);
+    return row ? row->control(*this) : nullptr;
+}
+
+QWidget *QXLaserPrintSettingPDE::determineLabel(const QString &keyword)
+{
+    const Roster::Row *row = Roster::rowOf(*this, keyword);
+    return row ? row->label(*this) : nullptr;
+}
+
+QString QXLaserPrintSettingPDE::determineKey(QWidget *control)
+{
+    for (const Roster::Row &row : Roster::rows) {
+        if (control && row.control(*this) == control)
+            return row.keywordIn(*this);
+    }
+    return {};
+}
+
+} // namespace corvana

@@ -1,0 +1,37 @@
+#include "printsetting/ValueBounds.h"
+
+#include <algorithm>
+
+#include "printsetting/PrintSettingKeys.h"
+
+namespace corvana {
+
+namespace {
+
+ValueBounds declaredBounds(ppd_file_t *ppd, QLatin1StringView option, QLatin1StringView parameter,
+                           ValueBounds usual)
+{
+    const ppd_cparam_t *declared = ppdCustomParameter(ppd, option, parameter);
+    if (!declared || declared->type != PPD_CUSTOM_INT)
+        return usual;
+    return {declared->minimum.custom_int, declared->maximum.custom_int};
+}
+
+} // namespace
+
+qint64 ValueBounds::clamped(qint64 value) const
+{
+    return value < minimum ? minimum : std::min(value, maximum);
+}
+
+ValueBounds sleepTimeBounds(ppd_file_t *ppd)
+{
+    return declaredBounds(ppd, kQXSleepTime, kTimeParameter, {1, 99});
+}
+
+ValueBounds densityBounds(ppd_file_t *ppd)
+{
+    return declaredBounds(ppd, kQXDensityAdjustment, kDensityParameter, {-6, 6});
+}
+
+} // namespace corvana
