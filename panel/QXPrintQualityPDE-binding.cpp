@@ -18,7 +18,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcBinding, "corvana.panel.binding")
+Q_LOGGING_CATEGORY(lcBinding, "corvana.panel.binding", QtWarningMsg)
 
 namespace {
 

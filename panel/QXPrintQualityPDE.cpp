@@ -7,7 +7,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcPanel, "corvana.panel")
+Q_LOGGING_CATEGORY(lcPanel, "corvana.panel", QtWarningMsg)
 
 namespace {
 

@@ -11,7 +11,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting")
+Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting", QtWarningMsg)
 
 // One row an option: the one table behind determineUI(), determineLabel() and determineKey().
 struct QXLaserPrintSettingPDE::Roster {

@@ -15,7 +15,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcBundle, "corvana.foundation.bundle")
+Q_LOGGING_CATEGORY(lcBundle, "corvana.foundation.bundle", QtWarningMsg)
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcTransformer, "corvana.foundation.transformer")
+Q_LOGGING_CATEGORY(lcTransformer, "corvana.foundation.transformer", QtWarningMsg)
 
 namespace {
 

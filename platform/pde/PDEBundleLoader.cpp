@@ -12,7 +12,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcLoader, "corvana.pde.loader")
+Q_LOGGING_CATEGORY(lcLoader, "corvana.pde.loader", QtWarningMsg)
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcPrintCore, "corvana.printcore")
+Q_LOGGING_CATEGORY(lcPrintCore, "corvana.printcore", QtWarningMsg)
 
 PMStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key, QVariant *value)
 {

@@ -18,7 +18,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcBindings, "corvana.toolkit.bindings")
+Q_LOGGING_CATEGORY(lcBindings, "corvana.toolkit.bindings", QtWarningMsg)
 
 namespace {
 

@@ -14,7 +14,7 @@
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcInterface, "corvana.toolkit.interface")
+Q_LOGGING_CATEGORY(lcInterface, "corvana.toolkit.interface", QtWarningMsg)
 
 namespace {
 

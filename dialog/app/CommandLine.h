@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+#include <QStringList>
+
+namespace corvana {
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    QString document; ///< as given; empty without one
+    QString printer;
+    QString ppd;
+    QString output;
+    QString title;
+    QStringList options; ///< each value of -o
+    int copies = 1;
+    QStringList bundleRoots;
+    bool demo = false;
+    bool listPrinters = false;
+    bool noDialog = false;
+    bool summary = false;
+    bool checkDisplay = false;
+
+    bool operator==(const CommandLine &) const = default;
+};
+
+/// A command line, or what to write instead of running it.
+struct ParsedCommandLine {
+    std::optional<CommandLine> commandLine;
+    QString text;       ///< the help, the version or the error
+    int exitStatus = 0; ///< 0 for help and version, 2 for a command line that cannot be understood
+};
+
+/// `arguments` begin with the program's name.
+ParsedCommandLine parseCommandLine(const QStringList &arguments);
+
+} // namespace corvana

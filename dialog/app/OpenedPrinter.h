@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include <QStringList>
+
+#include "dialog/queues/Printer.h"
+#include "dialog/session/PanelHost.h"
+#include "dialog/session/PpdSession.h"
+
+namespace corvana {
+
+class PDEJobValues;
+
+/// One printer, opened: its session and its panels. Another printer, PPD or language needs another
+/// one.
+struct OpenedPrinter {
+    Printer printer;
+    std::unique_ptr<PpdSession> session;
+    /// After the session, which the panels borrow.
+    std::unique_ptr<PanelHost> panels;
+    /// Null for a printer without panels. Ownership: the plug-in's.
+    PDEJobValues *jobValues = nullptr;
+    /// Why the printer has no panels although it should; empty otherwise.
+    QString panelProblem;
+};
+
+/// Opens a printer. Panels come from the plug-in bundle in the first of the `bundleRoots` that holds
+/// it, when the PPD wants them; without them the printer has the General page only, and the log says
+/// why.
+/// Errors: null; `error` says what is wrong with the PPD.
+std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QStringList &bundleRoots,
+                                           AlertPresenter &presenter, QString *error);
+
+} // namespace corvana

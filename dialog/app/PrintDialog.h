@@ -1,0 +1,86 @@
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+#include <QList>
+
+#include "dialog/app/AlertPresenters.h"
+#include "dialog/app/OpenedPrinter.h"
+#include "dialog/app/PrintRequest.h"
+#include "dialog/job/FileQueue.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTabWidget;
+
+namespace corvana {
+
+class GeneralPage;
+class MessageBar;
+class PanelPage;
+class SummaryPage;
+
+/// The print dialog: General, one page for each panel, Summary. It stays open until the job is
+/// printed or the user cancels; a failure leaves every setting in place.
+///
+/// Ownership: of the session and its panels, which go before the window's own widgets do.
+class PrintDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit PrintDialog(PrintRequest request, QWidget *parent = nullptr);
+    ~PrintDialog() override;
+
+    /// Where the job was printed to; empty until then.
+    QString printedTo() const { return m_printedTo; }
+
+    void accept() override;
+    void reject() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void buildWindow();
+    QWidget *buildOutputRow();
+    void openChosenPrinter();
+    void closePrinter();
+    void fillPages();
+    void bringUpPanels();
+    void applyRequestedOptions();
+    void pageEntered(int page);
+    void propose(const QString &keyword, const QString &choice);
+    void settled();
+    void showRefusal(const Refusal &refusal);
+    void chooseOutput();
+    void jobFinished(const QString &problem);
+    QString textOf(const OptionChoice &choice) const;
+    int panelOfPage(int page) const;
+    bool confirmOverwriting(const QString &file);
+
+    PrintRequest m_request;
+    WindowAlertPresenter m_presenter;
+    std::unique_ptr<OpenedPrinter> m_printer;
+    std::unique_ptr<FileQueue> m_job;
+    QList<JobOption> m_attributes;
+    QString m_printedTo;
+    QString m_chosenOutput; // the name that the user has confirmed to overwrite
+    bool m_painted = false;
+    bool m_optionsApplied = false;
+
+    QComboBox *m_printers = nullptr;
+    QLabel *m_document = nullptr;
+    MessageBar *m_message = nullptr;
+    QTabWidget *m_pages = nullptr;
+    GeneralPage *m_general = nullptr;
+    QList<PanelPage *> m_panelPages;
+    SummaryPage *m_summary = nullptr;
+    QLineEdit *m_output = nullptr;
+    QPushButton *m_print = nullptr;
+};
+
+} // namespace corvana

@@ -1,0 +1,107 @@
+#include "dialog/app/PrintRequest.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "dialog/app/OpenedPrinter.h"
+#include "dialog/queues/SamplePrinters.h"
+#include "dialog/session/OptionRequest.h"
+
+namespace corvana {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PrintRequest", text);
+}
+
+// Beside the program, in the build folder and in an installation alike.
+QString besideProgram(const QString &relative)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
+}
+
+// A name in the current folder that nothing has yet.
+QString freeOutputName(const QString &documentPath)
+{
+    const QString base = QFileInfo(documentPath).completeBaseName();
+    QString name = QDir::current().absoluteFilePath(base + QStringLiteral(".ps"));
+    for (int i = 2; QFileInfo::exists(name); ++i)
+        name = QDir::current().absoluteFilePath(QStringLiteral("%1-%2.ps").arg(base).arg(i));
+    return name;
+}
+
+int indexOfPrinter(const QList<Printer> &printers, const QString &name)
+{
+    for (int i = 0; i < printers.size(); ++i) {
+        if (name.isEmpty() || printers.at(i).name == name)
+            return i;
+    }
+    return -1;
+}
+
+QString printerProblem(const QList<Printer> &printers, const QString &name)
+{
+    if (printers.isEmpty())
+        return tr("There is no printer. Name one with --ppd FILE, or try the sample printers with "
+                  "--demo.");
+    QStringList names;
+    for (const Printer &printer : printers)
+        names += printer.name;
+    return tr("There is no printer \"%1\". Printers: %2.").arg(name, names.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+QList<Printer> offeredPrinters(const CommandLine &line)
+{
+    QList<Printer> printers;
+    if (!line.ppd.isEmpty())
+        printers += Printer{QFileInfo(line.ppd).completeBaseName(),
+                            QFileInfo(line.ppd).completeBaseName(), line.ppd};
+    if (line.demo)
+        printers += samplePrinters(besideProgram(QStringLiteral("../share/corvana-print/ppd")));
+    return printers;
+}
+
+QStringList trustedBundleRoots(const CommandLine &line)
+{
+    return line.bundleRoots
+        + QStringList{besideProgram(QStringLiteral("../lib/corvana-print/plugins"))};
+}
+
+PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
+{
+    PrintRequest request;
+    if (!line.document.isEmpty()) {
+        request.document = inspectDocument(line.document, error);
+        if (request.document.path.isEmpty())
+            return {};
+    }
+    const QList<Printer> printers = offeredPrinters(line);
+    request.chosenPrinter = indexOfPrinter(printers, line.printer);
+    if (request.chosenPrinter < 0) {
+        *error = printerProblem(printers, line.printer);
+        return {};
+    }
+    request.printers = printers;
+    request.options = parseOptions(line.options);
+    request.bundleRoots = trustedBundleRoots(line);
+    request.title = line.title.isEmpty() ? request.document.title : line.title;
+    request.output = line.output.isEmpty() && !request.document.path.isEmpty()
+        ? freeOutputName(request.document.path)
+        : line.output;
+    request.copies = line.copies;
+    request.summary = line.summary;
+    return request;
+}
+
+JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
+                     const QString &title, int copies)
+{
+    return {title, copies, jobOptions(*printer.session, printer.jobValues, attributes)};
+}
+
+} // namespace corvana

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "dialog/app/CommandLine.h"
+#include "dialog/job/Document.h"
+#include "dialog/queues/Printer.h"
+#include "dialog/session/JobTicket.h"
+
+namespace corvana {
+
+struct OpenedPrinter;
+
+/// A command line that was looked into: its document inspected, its printers found.
+struct PrintRequest {
+    Document document; ///< an empty path without a document
+    QList<Printer> printers;
+    int chosenPrinter = 0; ///< index into `printers`
+    QList<JobOption> options;
+    QStringList bundleRoots;
+    QString title;
+    QString output; ///< never empty where there is a document
+    int copies = 1;
+    bool summary = false;
+};
+
+/// Errors: an empty list of printers; `error` says what is missing or wrong.
+PrintRequest preparePrintRequest(const CommandLine &line, QString *error);
+
+/// The printers that the command line offers.
+QList<Printer> offeredPrinters(const CommandLine &line);
+
+/// Where plug-in bundles are trusted: the installation's folder and those named on the command line.
+QStringList trustedBundleRoots(const CommandLine &line);
+
+/// The job as it stands now.
+JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
+                     const QString &title, int copies);
+
+} // namespace corvana

@@ -1,0 +1,87 @@
+#include "dialog/app/UnattendedRun.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include "dialog/app/AlertPresenters.h"
+#include "dialog/app/OpenedPrinter.h"
+#include "dialog/job/FileQueue.h"
+#include "dialog/session/OptionRequest.h"
+#include "dialog/session/Summary.h"
+#include "platform/toolkit/InterfaceLoader.h"
+
+namespace corvana {
+
+namespace {
+
+int refused(const QStringList &problems)
+{
+    QTextStream err(stderr);
+    for (const QString &problem : problems)
+        err << "corvana-print: " << problem << "\n";
+    err << QCoreApplication::translate("UnattendedRun", "Nothing was printed.") << "\n";
+    return 1;
+}
+
+// A panel without its controls would print other choices than one with them.
+QStringList panelProblems(const OpenedPrinter &printer)
+{
+    QStringList problems = takeInterfaceProblems();
+    if (!printer.panelProblem.isEmpty())
+        problems += printer.panelProblem;
+    return problems;
+}
+
+QStringList refusalMessages(PpdSession &session)
+{
+    QStringList messages;
+    const QList<Refusal> refusals = session.takeRefusals();
+    for (const Refusal &refusal : refusals)
+        messages += conflictMessage(refusal);
+    return messages;
+}
+
+} // namespace
+
+int runUnattended(const PrintRequest &request)
+{
+    TerminalAlertPresenter presenter;
+    QString error;
+    const auto printer =
+        openPrinter(request.printers.at(request.chosenPrinter), request.bundleRoots, presenter, &error);
+    if (!printer)
+        return refused({error});
+    printer->panels->bringUp();
+    if (const QStringList problems = panelProblems(*printer); !problems.isEmpty())
+        return refused(problems);
+    const OptionOutcome options = applyOptions(request.options, *printer->session,
+                                               printer->jobValues, *printer->panels);
+    if (!options.ok())
+        return refused(options.problems);
+
+    const bool printing = !request.document.path.isEmpty();
+    if (printing && !printer->panels->shouldPrint())
+        return refused({QCoreApplication::translate("UnattendedRun",
+                                                    "The printer's settings hold the job back.")});
+    if (const QStringList problems = refusalMessages(*printer->session); !problems.isEmpty())
+        return refused(problems);
+    const JobTicket ticket =
+        makeTicket(*printer, options.attributes, request.title, request.copies);
+    QTextStream out(stdout);
+    if (request.summary)
+        out << summaryText(sessionSummary(*printer->session, *printer->panels, request.copies))
+            << Qt::flush;
+    if (!printing)
+        return 0;
+
+    FileQueue queue;
+    QString problem;
+    QObject::connect(&queue, &FileQueue::finished, [&problem](const QString &p) { problem = p; });
+    queue.print(request.document, ticket, printer->printer.ppdPath, request.output);
+    if (!queue.wait())
+        return refused({problem});
+    out << QCoreApplication::translate("UnattendedRun", "Printed to %1").arg(request.output) << "\n";
+    return 0;
+}
+
+} // namespace corvana

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "dialog/app/PrintRequest.h"
+
+namespace corvana {
+
+/// Prints without a window, through the same panels: what a script or a terminal asks for.
+///
+/// Writes the summary and the place of the result to standard output, problems to standard error.
+/// Returns the program's exit status: 0 printed, 1 refused or failed.
+int runUnattended(const PrintRequest &request);
+
+} // namespace corvana

@@ -1,0 +1,93 @@
+#include <QApplication>
+#include <QTextStream>
+
+#include "dialog/app/CommandLine.h"
+#include "dialog/app/PrintDialog.h"
+#include "dialog/app/UnattendedRun.h"
+
+using namespace corvana;
+
+namespace {
+
+int fail(const QString &problem)
+{
+    QTextStream(stderr) << "corvana-print: " << problem << "\n";
+    return 1;
+}
+
+// Qt ends the program when none of its platforms works. With one more that always does, the program
+// lives to tell its user; whether a window can be shown is then known from the platform in use.
+void choosePlatform(bool needsWindow)
+{
+    if (!needsWindow) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return;
+    }
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    const bool wayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;wayland;offscreen");
+}
+
+bool hasWindows()
+{
+    return QGuiApplication::platformName() != QLatin1StringView("offscreen");
+}
+
+int listPrinters(const CommandLine &line)
+{
+    QTextStream out(stdout);
+    const QList<Printer> printers = offeredPrinters(line);
+    for (const Printer &printer : printers)
+        out << printer.name << "\t" << printer.description << "\n";
+    return 0;
+}
+
+int runDialog(const PrintRequest &request)
+{
+    PrintDialog dialog(request);
+    dialog.show();
+    dialog.exec();
+    if (dialog.printedTo().isEmpty())
+        return 1;
+    QTextStream(stdout) << QCoreApplication::translate("main", "Printed to %1")
+                               .arg(dialog.printedTo())
+                        << "\n";
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    const ParsedCommandLine parsed = parseCommandLine(arguments);
+    if (!parsed.commandLine) {
+        QTextStream(parsed.exitStatus == 0 ? stdout : stderr) << parsed.text;
+        return parsed.exitStatus;
+    }
+    const CommandLine &line = *parsed.commandLine;
+
+    const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    const bool unattended = line.noDialog || line.listPrinters || line.document.isEmpty();
+    choosePlatform(!unattended || line.checkDisplay);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("corvana-print"));
+    QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
+
+    if (line.checkDisplay)
+        return hasWindows() ? 0 : 1;
+    if (line.listPrinters)
+        return listPrinters(line);
+    if (!unattended && !explicitPlatform && !hasWindows())
+        return fail(QCoreApplication::translate(
+            "main", "no display can be reached. Print without a window with --no-dialog."));
+
+    QString error;
+    const PrintRequest request = preparePrintRequest(line, &error);
+    if (request.printers.isEmpty())
+        return fail(error);
+    return unattended ? runUnattended(request) : runDialog(request);
+}

@@ -1,0 +1,83 @@
+#include "dialog/job/Document.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QMimeDatabase>
+
+namespace corvana {
+
+namespace {
+
+struct Format {
+    QLatin1StringView mimeType;
+    const char *name;
+};
+constexpr Format kFormats[] = {
+    {QLatin1StringView("application/pdf"), QT_TRANSLATE_NOOP("Document", "PDF document")},
+    {QLatin1StringView("application/postscript"),
+     QT_TRANSLATE_NOOP("Document", "PostScript document")},
+    {QLatin1StringView("image/png"), QT_TRANSLATE_NOOP("Document", "PNG picture")},
+    {QLatin1StringView("image/jpeg"), QT_TRANSLATE_NOOP("Document", "JPEG picture")},
+    {QLatin1StringView("text/plain"), QT_TRANSLATE_NOOP("Document", "text")},
+};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Document", text);
+}
+
+// Programs and notes are text too; an EPS picture is PostScript.
+const Format *formatOf(const QMimeType &type)
+{
+    const auto found = std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format &f) {
+        return type.inherits(f.mimeType);
+    });
+    return found == std::end(kFormats) ? nullptr : found;
+}
+
+} // namespace
+
+Document inspectDocument(const QString &path, QString *error)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.exists()) {
+        *error = tr("%1: there is no such file.").arg(path);
+        return {};
+    }
+    if (info.isDir()) {
+        *error = tr("%1 is a folder; a document was expected.").arg(path);
+        return {};
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = tr("%1 cannot be read: %2").arg(path, file.errorString());
+        return {};
+    }
+    if (info.isFile() && info.size() == 0) {
+        *error = tr("%1 is empty.").arg(path);
+        return {};
+    }
+    const QMimeDatabase database;
+    const QMimeType content = database.mimeTypeForData(&file);
+    const Format *held = formatOf(content);
+    const auto namedTypes = database.mimeTypesForFileName(info.fileName());
+    const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
+    if (!held) {
+        *error = tr("%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
+                    "or JPEG.")
+                     .arg(path, content.comment());
+        return {};
+    }
+    if (promised && promised != held) {
+        *error = tr("%1 is named like a %2, but holds a %3. Rename it if that is right.")
+                     .arg(path, tr(promised->name), tr(held->name));
+        return {};
+    }
+    return {info.absoluteFilePath(), held->mimeType, info.fileName()};
+}
+
+} // namespace corvana

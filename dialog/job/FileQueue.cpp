@@ -1,0 +1,186 @@
+#include "dialog/job/FileQueue.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QStandardPaths>
+#include <QTimer>
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcJob, "corvana.dialog.job", QtWarningMsg)
+
+namespace {
+
+// The destination "printer/foo" asks for the printer's own data format.
+constexpr QLatin1StringView kPrinterFormat{"printer/foo"};
+
+QStringList filterArguments(const Document &document, const JobTicket &ticket,
+                            const QString &ppdPath)
+{
+    QStringList arguments{QStringLiteral("-p"), ppdPath,
+                          QStringLiteral("-i"), document.format,
+                          QStringLiteral("-m"), kPrinterFormat,
+                          QStringLiteral("-t"), ticket.title,
+                          QStringLiteral("-n"), QString::number(ticket.copies)};
+    for (const JobOption &option : ticket.options)
+        arguments << QStringLiteral("-o") << QStringLiteral("%1=%2").arg(option.name, option.value);
+    return arguments << document.path;
+}
+
+// What the filter chain said last of its errors, without its prefix.
+QString lastErrorLine(const QByteArray &log)
+{
+    QString last;
+    const QList<QByteArray> lines = log.split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("ERROR:"))
+            last = QString::fromUtf8(line.mid(6)).trimmed();
+    }
+    return last;
+}
+
+} // namespace
+
+QString findCupsFilter(QString *error)
+{
+    const QString given = qEnvironmentVariable("CORVANA_PRINT_CUPSFILTER");
+    if (!given.isEmpty()) {
+        if (QFileInfo(given).isExecutable())
+            return given;
+        *error = QCoreApplication::translate(
+                     "FileQueue", "The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.")
+                     .arg(given);
+        return {};
+    }
+    const QString name = QStringLiteral("cupsfilter");
+    QString found = QStandardPaths::findExecutable(name);
+    if (found.isEmpty())
+        found = QStandardPaths::findExecutable(
+            name, {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin"),
+                   QStringLiteral("/sbin")});
+    if (found.isEmpty())
+        *error = QCoreApplication::translate(
+            "FileQueue",
+            "The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with "
+            "CUPS (on Debian the package \"cups\").");
+    return found;
+}
+
+FileQueue::FileQueue(QObject *parent) : QObject(parent)
+{
+    connect(&m_filter, &QProcess::finished, this, &FileQueue::filterFinished);
+    connect(&m_filter, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            finish(tr("%1 cannot be started: %2").arg(m_filter.program(), m_filter.errorString()));
+    });
+}
+
+FileQueue::~FileQueue()
+{
+    // A dialog that is closed in the midst of a job takes its filter chain along.
+    m_filter.disconnect(this);
+    if (m_filter.state() != QProcess::NotRunning) {
+        m_filter.kill();
+        m_filter.waitForFinished(1000);
+    }
+}
+
+void FileQueue::print(const Document &document, const JobTicket &ticket, const QString &ppdPath,
+                      const QString &outputPath)
+{
+    m_ppdPath = ppdPath;
+    m_outputPath = QFileInfo(outputPath).absoluteFilePath();
+    QString problem;
+    const QString program = findCupsFilter(&problem);
+    if (program.isEmpty())
+        return finish(problem);
+    // The filter chain would do without a PPD, and print a file without any of the choices.
+    if (!QFileInfo(ppdPath).isReadable())
+        return finish(tr("%1 cannot be read.").arg(ppdPath));
+    if (QFileInfo(m_outputPath).isDir())
+        return finish(tr("%1 is a folder; the name of a file was expected.").arg(outputPath));
+    // Beside the result, so that taking its place is one step.
+    m_result = std::make_unique<QTemporaryFile>(m_outputPath + QStringLiteral(".XXXXXX.part"));
+    if (!m_result->open())
+        return finish(tr("%1 cannot be written: %2").arg(outputPath, m_result->errorString()));
+    m_result->close();
+
+    m_filter.setProgram(program);
+    m_filter.setArguments(filterArguments(document, ticket, ppdPath));
+    m_filter.setStandardOutputFile(m_result->fileName());
+    m_filter.setStandardInputFile(QProcess::nullDevice());
+    qCInfo(lcJob) << m_filter.program() << m_filter.arguments();
+    m_filter.start();
+}
+
+void FileQueue::cancel()
+{
+    m_canceled = true;
+    if (m_filter.state() != QProcess::NotRunning)
+        m_filter.terminate();
+}
+
+bool FileQueue::wait()
+{
+    QEventLoop loop;
+    connect(this, &FileQueue::finished, &loop, &QEventLoop::quit);
+    if (!m_done)
+        loop.exec();
+    return m_problem.isEmpty();
+}
+
+void FileQueue::filterFinished(int exitCode, QProcess::ExitStatus status)
+{
+    QString problem = problemOfFilter(exitCode, status);
+    if (problem.isEmpty()) {
+        m_result->setAutoRemove(false);
+        // Temporary files are private; a print file is as readable as the user's other files.
+        constexpr auto usual = QFileDevice::ReadOwner | QFileDevice::WriteOwner
+            | QFileDevice::ReadGroup | QFileDevice::ReadOther;
+        m_result->setPermissions(usual);
+        if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
+                        QFile::encodeName(m_outputPath).constData())
+            != 0) {
+            problem = tr("%1 cannot be written: %2").arg(m_outputPath, qt_error_string(errno));
+            m_result->setAutoRemove(true);
+        }
+    }
+    m_result.reset();
+    finish(problem);
+}
+
+QString FileQueue::problemOfFilter(int exitCode, QProcess::ExitStatus status)
+{
+    const QByteArray log = m_filter.readAllStandardError();
+    qCDebug(lcJob).noquote() << log;
+    if (m_canceled)
+        return tr("Printing was canceled.");
+    if (status != QProcess::NormalExit)
+        return tr("The filter chain of CUPS crashed.");
+    const QString said = lastErrorLine(log);
+    if (exitCode != 0)
+        return tr("The document could not be converted for the printer: %1")
+            .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);
+    if (QFileInfo(m_result->fileName()).size() == 0)
+        return tr("The document could not be converted for the printer: nothing came out. %1").arg(said);
+    return {};
+}
+
+// The one way in which a job ends; an empty problem means that it was printed.
+void FileQueue::finish(const QString &problem)
+{
+    if (!problem.isEmpty())
+        qCWarning(lcJob).noquote() << problem;
+    QTimer::singleShot(0, this, [this, problem] {
+        m_done = true;
+        m_problem = problem;
+        Q_EMIT finished(problem);
+    });
+}
+
+} // namespace corvana

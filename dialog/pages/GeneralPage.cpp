@@ -1,0 +1,92 @@
+#include "dialog/pages/GeneralPage.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSpinBox>
+
+#include "dialog/session/PpdSession.h"
+#include "dialog/session/Summary.h"
+#include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/PopUpButton.h"
+
+namespace corvana {
+
+namespace {
+constexpr int kMostCopies = 9999;
+}
+
+GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
+    : QWidget(parent), m_session(session), m_copies(new QSpinBox(this))
+{
+    auto *layout = new QFormLayout(this);
+    layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    m_copies->setObjectName(QStringLiteral("copies"));
+    m_copies->setRange(1, kMostCopies);
+    ignoreWheelWithoutFocus(m_copies);
+    auto *row = new QHBoxLayout; // a number needs no more width than its digits
+    row->addWidget(m_copies);
+    row->addStretch();
+    layout->addRow(tr("&Copies:"), row);
+    qobject_cast<QLabel *>(layout->labelForField(row))->setBuddy(m_copies);
+    for (const QString &keyword : generalOptionKeywords())
+        addOption(keyword);
+    refresh();
+}
+
+int GeneralPage::copies() const
+{
+    return m_copies->value();
+}
+
+void GeneralPage::setCopies(int copies)
+{
+    m_copies->setValue(copies);
+}
+
+void GeneralPage::addOption(const QString &keyword)
+{
+    ppd_option_t *option = ppdOption(m_session.ppd(), keyword);
+    if (!option)
+        return;
+    auto *popUp = new QComboBox(this);
+    popUp->setObjectName(keyword);
+    for (int i = 0; i < option->num_choices; ++i) {
+        const QString choice = ppdKeyword(option->choices[i].choice);
+        const auto text = ppdText(option->choices[i].text);
+        if (!text || choice == QLatin1StringView("Custom"))
+            continue;
+        popup::addItemWithTitle(popUp, *text);
+        popup::setRepresentedObject(popUp, popUp->count() - 1, choice);
+    }
+    const QString title = ppdText(option->text).value_or(keyword);
+    popUp->setAccessibleName(title);
+    ignoreWheelWithoutFocus(popUp);
+    connectControlAction(popUp, [this, keyword, popUp](QWidget *) {
+        Q_EMIT proposed(keyword, popup::representedObject(popUp, popUp->currentIndex()).toString());
+    });
+    auto *layout = static_cast<QFormLayout *>(this->layout());
+    layout->addRow(title + u':', popUp);
+    m_popUps.insert(keyword, popUp);
+}
+
+void GeneralPage::refresh()
+{
+    for (auto popUp = m_popUps.cbegin(); popUp != m_popUps.cend(); ++popUp)
+        refreshOption(popUp.key(), popUp.value());
+}
+
+void GeneralPage::refreshOption(const QString &keyword, QComboBox *popUp)
+{
+    const QString custom = m_session.customValue(keyword);
+    const QString choice = custom.isNull() ? m_session.markedChoice(keyword) : custom;
+    if (!custom.isNull() && popup::indexOfItemWithRepresentedObject(popUp, custom) < 0) {
+        // A custom size that came with the command line stays among the sizes.
+        popup::addItemWithTitle(popUp, optionLine(m_session, keyword).value);
+        popup::setRepresentedObject(popUp, popUp->count() - 1, custom);
+    }
+    popup::selectItemAt(popUp, popup::indexOfItemWithRepresentedObject(popUp, choice));
+}
+
+} // namespace corvana

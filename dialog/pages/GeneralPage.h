@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QWidget>
+
+class QComboBox;
+class QSpinBox;
+
+namespace corvana {
+
+class PpdSession;
+
+/// Copies, and the PPD options that no panel owns: two-sided, paper size, output destination, and
+/// who matches the colours; each only where the printer has it, in the PPD's own words.
+///
+/// It shows the session and proposes changes; it changes nothing itself.
+class GeneralPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Borrows the session.
+    explicit GeneralPage(PpdSession &session, QWidget *parent = nullptr);
+
+    int copies() const;
+    void setCopies(int copies);
+    /// Shows the session's marks.
+    void refresh();
+
+Q_SIGNALS:
+    /// The user picked a choice.
+    void proposed(const QString &keyword, const QString &choice);
+
+private:
+    void addOption(const QString &keyword);
+    void refreshOption(const QString &keyword, QComboBox *popUp);
+
+    PpdSession &m_session;
+    QSpinBox *m_copies;
+    QMap<QString, QComboBox *> m_popUps;
+};
+
+} // namespace corvana

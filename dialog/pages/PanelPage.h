@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QScrollArea>
+#include <QString>
+
+namespace corvana {
+
+/// The page that holds a panel's view. The view goes on belonging to the panel.
+class PanelPage : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit PanelPage(QWidget *parent = nullptr);
+    /// Lets go of the view, which its panel deletes.
+    ~PanelPage() override;
+
+    /// Shows the panel's view.
+    void setPanelView(QWidget *view);
+    /// Shows why there is no view.
+    void setProblem(const QString &problem);
+};
+
+} // namespace corvana

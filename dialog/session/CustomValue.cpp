@@ -1,0 +1,131 @@
+#include "dialog/session/CustomValue.h"
+
+#include <cmath>
+#include <utility>
+
+#include <QRegularExpression>
+
+namespace corvana {
+
+namespace {
+
+constexpr QLatin1StringView kCustomPrefix{"Custom."};
+
+struct Unit {
+    QLatin1StringView name;
+    double points;
+};
+constexpr Unit kUnits[] = {
+    {QLatin1StringView(""), 1.0},           {QLatin1StringView("pt"), 1.0},
+    {QLatin1StringView("in"), 72.0},        {QLatin1StringView("ft"), 12 * 72.0},
+    {QLatin1StringView("mm"), 72.0 / 25.4}, {QLatin1StringView("cm"), 72.0 / 2.54},
+    {QLatin1StringView("m"), 72.0 / 0.0254},
+};
+
+QString number(double value)
+{
+    return QString::number(value, 'g', 8);
+}
+
+QString millimetres(double points)
+{
+    return QString::number(std::round(points / 72.0 * 254.0) / 10.0);
+}
+
+QString allowedPageSizes(const ppd_file_t *ppd)
+{
+    return QStringLiteral("Custom.WIDTHxHEIGHTmm from %1x%2mm to %3x%4mm")
+        .arg(millimetres(ppd->custom_min[0]), millimetres(ppd->custom_min[1]),
+             millimetres(ppd->custom_max[0]), millimetres(ppd->custom_max[1]));
+}
+
+CustomValueCheck checkPageSize(const ppd_file_t *ppd, const QString &value)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^Custom\\.([0-9]+(?:\\.[0-9]+)?)x([0-9]+(?:\\.[0-9]+)?)([a-z]*)$"));
+    const CustomValueCheck refused{std::nullopt, allowedPageSizes(ppd)};
+    const QRegularExpressionMatch match = form.match(value);
+    const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits),
+                                   [&](const Unit &u) { return u.name == match.captured(3); });
+    if (!match.hasMatch() || unit == std::end(kUnits))
+        return refused;
+    const double width = match.captured(1).toDouble() * unit->points;
+    const double height = match.captured(2).toDouble() * unit->points;
+    // Limits are written in points and read in millimetres; a tenth of a point is no difference.
+    constexpr double tolerance = 0.1;
+    const auto within = [&](double size, int axis) {
+        return size >= static_cast<double>(ppd->custom_min[axis]) - tolerance
+            && size <= static_cast<double>(ppd->custom_max[axis]) + tolerance;
+    };
+    if (!within(width, 0) || !within(height, 1))
+        return refused;
+    return {QStringLiteral("Custom.%1x%2").arg(number(width), number(height)), refused.allowed};
+}
+
+// The only parameter of a custom option; null when it has several or none.
+ppd_cparam_t *onlyParameter(ppd_file_t *ppd, const QString &keyword)
+{
+    ppd_coption_t *custom = ppdFindCustomOption(ppd, keyword.toLatin1().constData());
+    if (!custom || cupsArrayCount(custom->params) != 1)
+        return nullptr;
+    return ppdFirstCustomParam(custom);
+}
+
+// Range of a parameter whose values are numbers.
+std::optional<std::pair<double, double>> range(const ppd_cparam_t *parameter)
+{
+    switch (parameter->type) {
+    case PPD_CUSTOM_INT:
+        return std::pair<double, double>(parameter->minimum.custom_int, parameter->maximum.custom_int);
+    case PPD_CUSTOM_REAL:
+        return std::pair<double, double>(static_cast<double>(parameter->minimum.custom_real),
+                                         static_cast<double>(parameter->maximum.custom_real));
+    case PPD_CUSTOM_POINTS:
+        return std::pair<double, double>(static_cast<double>(parameter->minimum.custom_points),
+                                         static_cast<double>(parameter->maximum.custom_points));
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const QString &value)
+{
+    if (keyword == QLatin1StringView("PageSize"))
+        return ppd->variable_sizes ? checkPageSize(ppd, value) : CustomValueCheck{};
+    const CustomValueCheck refused{std::nullopt, allowedCustomValues(ppd, keyword)};
+    const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
+    if (!parameter || !value.startsWith(kCustomPrefix))
+        return refused;
+    const QString text = value.mid(kCustomPrefix.size());
+    const auto bounds = range(parameter);
+    if (!bounds) {
+        const int length = static_cast<int>(text.toUtf8().size());
+        const bool fits = length >= parameter->minimum.custom_string
+            && length <= parameter->maximum.custom_string;
+        return fits ? CustomValueCheck{value, refused.allowed} : refused;
+    }
+    bool isNumber = false;
+    const double given = parameter->type == PPD_CUSTOM_INT ? text.toInt(&isNumber)
+                                                           : text.toDouble(&isNumber);
+    if (!isNumber || given < bounds->first || given > bounds->second)
+        return refused;
+    return {value, refused.allowed};
+}
+
+QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
+{
+    if (keyword == QLatin1StringView("PageSize"))
+        return ppd->variable_sizes ? allowedPageSizes(ppd) : QString();
+    const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
+    if (!parameter)
+        return {};
+    if (const auto bounds = range(parameter)) {
+        return QStringLiteral("Custom.%1 to Custom.%2")
+            .arg(number(bounds->first), number(bounds->second));
+    }
+    return QStringLiteral("Custom.TEXT");
+}
+
+} // namespace corvana

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+#include "platform/printcore/Ppd.h"
+
+namespace corvana {
+
+/// A custom value checked against what the PPD declares. libcups checks nothing: it would store
+/// "Custom.999" for a range of 1 to 99, and read "Custom.x" as 0.
+struct CustomValueCheck {
+    /// The value as CUPS takes it ("Custom.283.5x419.5"); nothing when it cannot be taken.
+    std::optional<QString> value;
+    /// What would be taken ("Custom.1 to Custom.99"), for the message of a refusal.
+    QString allowed;
+};
+
+/// Checks `Custom.…` for an option with exactly one custom parameter, or for the page size
+/// (`Custom.WIDTHxHEIGHT` with an optional unit: pt, in, ft, cm, mm, m; points without one).
+CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const QString &value);
+
+/// What the PPD takes as custom values of an option; empty when it takes none.
+QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword);
+
+} // namespace corvana

@@ -1,0 +1,58 @@
+#include "dialog/session/HostCallback.h"
+
+#include <exception>
+
+#include <QLoggingCategory>
+
+#include "dialog/session/PpdSession.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcHost, "corvana.dialog.host", QtWarningMsg)
+
+HostCallback::HostCallback(PpdSession &session, AlertPresenter &presenter)
+    : m_session(session), m_presenter(presenter)
+{
+}
+
+bool HostCallback::respondsTo(PDECallbackOperation operation) const
+{
+    // Pages size themselves by their layout; there is nothing to resize yet.
+    return operation != PDECallbackOperation::panelViewDidResize;
+}
+
+ppd_file_t *HostCallback::ppdFile()
+{
+    return m_session.ppd();
+}
+
+PMPrintSettings HostCallback::printSettings()
+{
+    return &m_session.printSettings();
+}
+
+PMPageFormat HostCallback::pageFormat()
+{
+    return &m_session.pageFormat();
+}
+
+bool HostCallback::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
+                                                         const QString &choice)
+{
+    // A panel is in the midst of its own work here and could not handle an exception.
+    try {
+        return m_session.change(keyword, choice, PpdSession::Origin::Panel).accepted();
+    } catch (const std::exception &exception) {
+        qCCritical(lcHost) << "refused:" << keyword << choice << exception.what();
+        return false;
+    }
+}
+
+void HostCallback::panelViewDidResize() { }
+
+AlertPresenter *HostCallback::alertPresenter()
+{
+    return &m_presenter;
+}
+
+} // namespace corvana

@@ -1,0 +1,315 @@
+#include "dialog/session/OptionRequest.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <cups/cups.h>
+#include <cups/pwg.h>
+
+#include <QCoreApplication>
+
+#include "dialog/session/CustomValue.h"
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/PanelHost.h"
+#include "dialog/session/PpdSession.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr QLatin1StringView kCustomPrefix{"Custom."};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("OptionRequest", text);
+}
+
+QString asked(const JobOption &option)
+{
+    return QStringLiteral("%1=%2").arg(option.name, option.value);
+}
+
+QString named(const OptionChoice &choice)
+{
+    return QStringLiteral("%1=%2").arg(choice.keyword, choice.choice);
+}
+
+QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
+{
+    QStringList allowed;
+    for (int i = 0; i < option->num_choices; ++i) {
+        if (const QString choice = ppdKeyword(option->choices[i].choice);
+            choice != QLatin1StringView("Custom"))
+            allowed += choice;
+    }
+    const QString custom = allowedCustomValues(ppd, ppdKeyword(option->keyword));
+    if (!custom.isEmpty())
+        allowed += custom;
+    return allowed.join(QStringLiteral(", "));
+}
+
+// The PPD's page size for a media name: its own keyword, or a standard name of the same size.
+QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
+{
+    if (ppdChoice(ppdOption(ppd, QStringLiteral("PageSize")), media))
+        return media;
+    const QByteArray name = media.toUtf8();
+    const pwg_media_t *standard = pwgMediaForPWG(name.constData());
+    if (!standard)
+        standard = pwgMediaForLegacy(name.constData());
+    if (!standard)
+        return {};
+    constexpr double kPointsPerUnit = 72.0 / 2540.0; // PWG sizes are hundredths of millimetres
+    constexpr double kTolerance = 5.0;               // points, as CUPS matches media sizes
+    for (int i = 0; i < ppd->num_sizes; ++i) {
+        const ppd_size_t &size = ppd->sizes[i];
+        if (qAbs(static_cast<double>(size.width) - standard->width * kPointsPerUnit) <= kTolerance
+            && qAbs(static_cast<double>(size.length) - standard->length * kPointsPerUnit) <= kTolerance)
+            return ppdKeyword(size.name);
+    }
+    return {};
+}
+
+// Sorts the requested options by who takes them, and collects what nobody does.
+class Request
+{
+public:
+    Request(PpdSession &session, const PDEJobValues *jobValues)
+        : m_session(session), m_jobValues(jobValues)
+    {
+    }
+
+    QStringList problems;
+    QList<OptionChoice> choices;   // for the PPD
+    QList<JobOption> panelValues;  // for the plug-in
+    QList<JobOption> attributes;   // for CUPS
+
+    void add(const JobOption &option)
+    {
+        if (option.name == QLatin1StringView("media"))
+            addMedia(option);
+        else if (option.name == QLatin1StringView("sides"))
+            addSides(option);
+        else if (addPanelValue(option) || addChoice(option) || addAttribute(option))
+            return;
+        else
+            refuse(option, tr("this printer has no such option. Options: %1. Job attributes: %2.")
+                               .arg(optionNames(), jobAttributeNames().join(QStringLiteral(", "))));
+    }
+
+private:
+    void refuse(const JobOption &option, const QString &why)
+    {
+        problems += QStringLiteral("%1: %2").arg(asked(option), why);
+    }
+
+    void refuseValue(const JobOption &option, const QString &allowed)
+    {
+        refuse(option, tr("this value is not allowed. Allowed: %1.").arg(allowed));
+    }
+
+    QString optionNames() const
+    {
+        QStringList names;
+        for (const ppd_option_t *option : m_session.options())
+            names += ppdKeyword(option->keyword);
+        return names.join(QStringLiteral(", "));
+    }
+
+    void addMedia(const JobOption &option)
+    {
+        const QString size = pageSizeOfMedia(m_session.ppd(), option.value);
+        if (!size.isNull())
+            choices += OptionChoice{QStringLiteral("PageSize"), size};
+        else if (option.value.startsWith(kCustomPrefix))
+            addChoice({QStringLiteral("PageSize"), option.value});
+        else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), QStringLiteral("PageSize")))
+            refuseValue(option, allowedChoices(m_session.ppd(), sizes));
+        else
+            refuse(option, tr("this printer has no paper sizes to choose from."));
+    }
+
+    void addSides(const JobOption &option)
+    {
+        struct Side {
+            QLatin1StringView sides;
+            QLatin1StringView duplex; // empty: the one-sided choice, which is the default
+        };
+        static constexpr Side kSides[] = {
+            {QLatin1StringView("one-sided"), QLatin1StringView()},
+            {QLatin1StringView("two-sided-long-edge"), QLatin1StringView("DuplexNoTumble")},
+            {QLatin1StringView("two-sided-short-edge"), QLatin1StringView("DuplexTumble")},
+        };
+        const QString keyword = QStringLiteral("Duplex");
+        ppd_option_t *duplex = ppdOption(m_session.ppd(), keyword);
+        QStringList allowed;
+        for (const Side &side : kSides) {
+            const QString choice = side.duplex.isEmpty() && duplex ? ppdKeyword(duplex->defchoice)
+                                                                   : QString(side.duplex);
+            const bool possible = duplex ? ppdChoice(duplex, choice) != nullptr
+                                         : side.duplex.isEmpty();
+            if (!possible)
+                continue;
+            allowed += side.sides;
+            if (option.value != side.sides)
+                continue;
+            if (duplex)
+                choices += OptionChoice{keyword, choice};
+            return;
+        }
+        refuseValue(option, allowed.join(QStringLiteral(", ")));
+    }
+
+    // A trial on a copy of the entries: nothing is written before everything has been checked.
+    bool addPanelValue(const JobOption &option)
+    {
+        if (!m_jobValues)
+            return false;
+        PrintSettings trial;
+        trial.setEntries(m_session.printSettings().entries());
+        const JobValueClaim claim = m_jobValues->takeJobOption(option, trial, m_session.ppd());
+        if (claim.outcome == JobValueClaim::Outcome::NotMine)
+            return false;
+        if (claim.outcome == JobValueClaim::Outcome::Refused)
+            refuseValue(option, claim.allowed);
+        else
+            panelValues += option;
+        return true;
+    }
+
+    bool addChoice(const JobOption &option)
+    {
+        ppd_option_t *found = ppdOption(m_session.ppd(), option.name);
+        if (!found)
+            return false;
+        if (option.value.startsWith(kCustomPrefix)) {
+            const CustomValueCheck check =
+                checkCustomValue(m_session.ppd(), option.name, option.value);
+            if (check.value)
+                choices += OptionChoice{option.name, *check.value};
+            else
+                refuseValue(option, allowedChoices(m_session.ppd(), found));
+        } else if (ppdChoice(found, option.value) && option.value != QLatin1StringView("Custom")) {
+            choices += OptionChoice{option.name, option.value};
+        } else {
+            refuseValue(option, allowedChoices(m_session.ppd(), found));
+        }
+        return true;
+    }
+
+    bool addAttribute(const JobOption &option)
+    {
+        const JobAttribute *attribute = jobAttribute(option.name);
+        if (!attribute)
+            return false;
+        if (attribute->accepts(option.value))
+            attributes += option;
+        else
+            refuseValue(option, attribute->allowed);
+        return true;
+    }
+
+    PpdSession &m_session;
+    const PDEJobValues *m_jobValues;
+};
+
+// The job option of that name which the panels' entries stand for now.
+std::optional<JobOption> jobOptionNamed(const QString &name, const PpdSession &session,
+                                        const PDEJobValues &jobValues)
+{
+    const QList<JobOption> options = jobValues.jobOptions(session.printSettings(), session.ppd());
+    const auto found = std::find_if(options.cbegin(), options.cend(),
+                                    [&](const JobOption &option) { return option.name == name; });
+    return found == options.cend() ? std::nullopt : std::optional(*found);
+}
+
+// What the panels made of the choices that were asked for, where it is something else.
+QStringList differences(const Request &request, const PpdSession &session)
+{
+    QStringList problems;
+    for (const OptionChoice &choice : request.choices) {
+        const QString custom = session.customValue(choice.keyword);
+        const QString now = custom.isNull() ? session.markedChoice(choice.keyword) : custom;
+        if (now != choice.choice) {
+            problems += tr("%1: the printer's settings do not allow this here; it became %2.")
+                            .arg(named(choice), now);
+        }
+    }
+    return problems;
+}
+
+} // namespace
+
+QString conflictMessage(const Refusal &refusal)
+{
+    QStringList others;
+    for (const OptionChoice &other : refusal.conflicting)
+        others += named(other);
+    return tr("%1: this cannot be combined with %2.")
+        .arg(named(refusal.proposed), others.join(QStringLiteral(", ")));
+}
+
+QList<JobOption> parseOptions(const QStringList &arguments)
+{
+    cups_option_t *parsed = nullptr;
+    int count = 0;
+    for (const QString &argument : arguments)
+        count = cupsParseOptions(argument.toUtf8().constData(), count, &parsed);
+    QList<JobOption> options;
+    for (int i = 0; i < count; ++i)
+        options += JobOption{QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value)};
+    cupsFreeOptions(count, parsed);
+    return options;
+}
+
+OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &session,
+                           const PDEJobValues *jobValues, PanelHost &panels)
+{
+    panels.bringUp();
+    const SessionSnapshot before = session.snapshot();
+
+    Request request(session, jobValues);
+    for (const JobOption &option : requested)
+        request.add(option);
+    OptionOutcome outcome{request.problems, request.attributes};
+    if (!outcome.ok())
+        return outcome;
+
+    const QList<Refusal> conflicts = session.changeTogether(request.choices);
+    for (const Refusal &conflict : conflicts)
+        outcome.problems += conflictMessage(conflict);
+    if (!outcome.ok())
+        return outcome;
+
+    QMap<QString, std::optional<JobOption>> expected;
+    for (const JobOption &option : std::as_const(request.panelValues)) {
+        jobValues->takeJobOption(option, session.printSettings(), session.ppd());
+        expected.insert(option.name, jobOptionNamed(option.name, session, *jobValues));
+    }
+    if (jobValues) {
+        const QList<JobOption> marks = jobValues->impliedMarks(session.printSettings(), session.ppd());
+        for (const JobOption &mark : marks)
+            session.change(mark.name, mark.value, PpdSession::Origin::Dialog);
+    }
+    panels.deliverPending();
+    panels.restoreAll();
+
+    outcome.problems = differences(request, session);
+    for (auto value = expected.cbegin(); value != expected.cend(); ++value) {
+        const auto now = jobOptionNamed(value.key(), session, *jobValues);
+        if (now != value.value()) {
+            outcome.problems += tr("%1: the printer's settings do not allow this here; it became %2.")
+                                    .arg(value.value() ? asked(*value.value()) : value.key(),
+                                         now ? asked(*now) : tr("the printer's own setting"));
+        }
+    }
+    for (const Refusal &refusal : session.takeRefusals())
+        outcome.problems += conflictMessage(refusal);
+    if (!outcome.ok()) {
+        session.restore(before);
+        panels.restoreAll();
+    }
+    return outcome;
+}
+
+} // namespace corvana

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "platform/pde/PDEJobValues.h"
+
+namespace corvana {
+
+class PanelHost;
+class PpdSession;
+struct Refusal;
+
+/// Reads the values of `-o`: several options may stand in one, as cupsParseOptions() reads them.
+/// A later value of the same option replaces the earlier one.
+QList<JobOption> parseOptions(const QStringList &arguments);
+
+/// What became of a set of options.
+struct OptionOutcome {
+    /// One message for each option that was not taken, with its name and what is allowed. When
+    /// there is any, the session is as it was before.
+    QStringList problems;
+    /// Those that are no option of the printer's and go into the job as they are.
+    QList<JobOption> attributes;
+
+    bool ok() const { return problems.isEmpty(); }
+};
+
+/// Brings several options into a session at once: all names and values are checked first; the paper
+/// size and the other choices are marked and checked for conflicts as one set; the panels' own
+/// values follow, with the marks they imply; the panels are told and restore; and the result is
+/// compared with what was asked.
+///
+/// `jobValues` may be null, for a printer without panels.
+OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &session,
+                           const PDEJobValues *jobValues, PanelHost &panels);
+
+/// What a refusal says in a terminal: the options by their keywords.
+QString conflictMessage(const Refusal &refusal);
+
+} // namespace corvana

@@ -1,0 +1,242 @@
+#include "dialog/session/PanelHost.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QLoggingCategory>
+#include <QTimer>
+
+#include "platform/pde/PDEPanel.h"
+#include "platform/pde/PDEPlugIn.h"
+#include "platform/toolkit/Alert.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcPanels, "corvana.dialog.panels", QtWarningMsg)
+
+namespace {
+
+// After a change of these the panels restore: their rules read them from the PPD and the settings.
+constexpr QLatin1StringView kRestoreAfter[] = {QLatin1StringView("QXOutput"),
+                                               QLatin1StringView("AP_ColorMatchingMode")};
+
+bool panelsMustRestore(const QString &keyword)
+{
+    return std::any_of(std::begin(kRestoreAfter), std::end(kRestoreAfter),
+                       [&](QLatin1StringView key) { return key == keyword; });
+}
+
+} // namespace
+
+// Marks that a panel is being called, so that nobody calls another one meanwhile.
+class PanelHost::Call
+{
+public:
+    Call(PanelHost &host, PDEPanel &panel) : m_host(host) { m_host.m_callStack.append(&panel); }
+    ~Call()
+    {
+        m_host.m_callStack.removeLast();
+        if (!m_host.m_pending.isEmpty())
+            m_host.scheduleDelivery();
+    }
+    Call(const Call &) = delete;
+    Call &operator=(const Call &) = delete;
+
+private:
+    PanelHost &m_host;
+};
+
+// While an alert runs, a panel is in the midst of its work, though it may be the user and not this
+// host who called it: through the action of a control.
+class PanelHost::HeldAlerts : public AlertPresenter
+{
+public:
+    HeldAlerts(PanelHost &host, AlertPresenter &presenter) : m_host(host), m_presenter(presenter) { }
+
+    AlertAnswer runModal(const Alert &alert, QWidget *parent) override
+    {
+        ++m_host.m_runningAlerts;
+        const AlertAnswer answer = m_presenter.runModal(alert, parent);
+        --m_host.m_runningAlerts;
+        if (!m_host.m_pending.isEmpty())
+            m_host.scheduleDelivery();
+        return answer;
+    }
+
+private:
+    PanelHost &m_host;
+    AlertPresenter &m_presenter;
+};
+
+PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &presenter)
+    : m_session(session), m_alerts(std::make_unique<HeldAlerts>(*this, presenter)),
+      m_callback(std::make_shared<HostCallback>(session, *m_alerts))
+{
+    connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
+    if (!plugIn)
+        return;
+    m_panels = plugIn->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType),
+                                                     m_callback);
+    deliverPending();
+}
+
+PanelHost::~PanelHost() = default;
+
+void PanelHost::bringUp()
+{
+    if (std::exchange(m_broughtUp, true))
+        return;
+    for (const auto &panel : std::as_const(m_panels)) {
+        const Call call(*this, *panel);
+        if (!panel->panelView())
+            qCWarning(lcPanels) << "the panel" << panel->panelKind() << "has no view";
+        panel->willShow();
+        panel->shouldHide();
+    }
+    deliverPending();
+}
+
+void PanelHost::visit(int panel)
+{
+    bringUp();
+    PDEPanel *entered = panel >= 0 && panel < m_panels.size() ? m_panels.at(panel).get() : nullptr;
+    if (entered == m_visible)
+        return;
+    if (m_visible) {
+        saveVisible();
+        const Call call(*this, *m_visible);
+        m_visible->shouldHide();
+    }
+    m_visible = nullptr;
+    if (entered) {
+        restoreHidden();
+        m_visible = entered;
+        const Call call(*this, *entered);
+        entered->willShow();
+    }
+    deliverPending();
+}
+
+void PanelHost::restoreAll()
+{
+    for (const auto &panel : std::as_const(m_panels)) {
+        const Call call(*this, *panel);
+        panel->restoreValuesAndReturnError(nullptr);
+    }
+    deliverPending();
+}
+
+QList<SummaryLine> PanelHost::summary()
+{
+    bringUp();
+    deliverPending();
+    saveVisible();
+    QList<SummaryLine> lines;
+    for (const auto &panel : std::as_const(m_panels)) {
+        const Call call(*this, *panel);
+        const QVariantMap summary = panel->summaryInfo();
+        const QStringList order =
+            summary.value(QLatin1StringView(kSummaryDisplayOrder)).toStringList();
+        for (const QString &title : order)
+            lines += SummaryLine{title, summary.value(title).toString()};
+    }
+    deliverPending();
+    return lines;
+}
+
+bool PanelHost::shouldPrint()
+{
+    bringUp();
+    deliverPending();
+    saveVisible();
+    restoreHidden();
+    bool allowed = true;
+    for (const auto &panel : std::as_const(m_panels)) {
+        const Call call(*this, *panel);
+        allowed = panel->shouldPrint();
+        if (!allowed)
+            break;
+    }
+    deliverPending();
+    return allowed;
+}
+
+void PanelHost::noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin)
+{
+    PDEPanel *source = nullptr;
+    // A panel proposes changes while it is called, or because the user acts on its controls, which
+    // only the visible one has.
+    if (origin == PpdSession::Origin::Panel)
+        source = m_callStack.isEmpty() ? m_visible : m_callStack.last();
+    m_pending.insert(keyword, {choice, source});
+    scheduleDelivery();
+}
+
+void PanelHost::scheduleDelivery()
+{
+    if (std::exchange(m_scheduled, true))
+        return;
+    QTimer::singleShot(0, this, [this] {
+        m_scheduled = false;
+        deliverPending();
+    });
+}
+
+void PanelHost::deliverPending()
+{
+    if (panelIsBusy())
+        return; // when it has returned, delivery is scheduled again
+    const bool anything = !m_pending.isEmpty();
+    // Telling a panel may change something that another one has to know. Rules that never come to
+    // rest would be a fault of a plug-in, and must not hang the dialog.
+    constexpr int kMostRounds = 10;
+    for (int round = 0; !m_pending.isEmpty() && round < kMostRounds; ++round)
+        deliverOnce();
+    if (!m_pending.isEmpty()) {
+        qCWarning(lcPanels) << "the panels keep changing" << m_pending.firstKey();
+        m_pending.clear();
+    }
+    if (anything)
+        Q_EMIT settled();
+}
+
+void PanelHost::deliverOnce()
+{
+    const QMap<QString, Change> changes = std::exchange(m_pending, {});
+    bool restore = false;
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        restore = restore || panelsMustRestore(change.key());
+        for (const auto &panel : std::as_const(m_panels)) {
+            if (panel.get() == change->source)
+                continue;
+            const Call call(*this, *panel);
+            panel->PPDOptionKeyValueDidChange_ppdChoice(change.key(), change->choice);
+        }
+    }
+    if (!restore)
+        return;
+    for (const auto &panel : std::as_const(m_panels)) {
+        const Call call(*this, *panel);
+        panel->restoreValuesAndReturnError(nullptr);
+    }
+}
+
+void PanelHost::saveVisible()
+{
+    if (!m_visible)
+        return;
+    const Call call(*this, *m_visible);
+    m_visible->saveValuesAndReturnError(nullptr);
+}
+
+void PanelHost::restoreHidden()
+{
+    for (const auto &panel : std::as_const(m_panels)) {
+        if (panel.get() == m_visible)
+            continue;
+        const Call call(*this, *panel);
+        panel->restoreValuesAndReturnError(nullptr);
+    }
+}
+
+} // namespace corvana

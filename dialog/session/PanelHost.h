@@ -1,0 +1,95 @@
+#pragma once
+
+#include <memory>
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QVariant>
+
+#include "dialog/session/HostCallback.h"
+#include "dialog/session/PpdSession.h"
+
+namespace corvana {
+
+class PDEPanel;
+class PDEPlugIn;
+
+/// One line of a panel's summary.
+struct SummaryLine {
+    QString title;
+    QString value;
+
+    bool operator==(const SummaryLine &) const = default;
+};
+
+/// Drives the panels of one session through the panel protocol and keeps its promises: a panel is
+/// called only after the outermost call of a panel has returned, what is visible is saved, what is
+/// hidden is restored, and nobody is asked before willShow() has returned.
+///
+/// Ownership: shares the panels with the plug-in; borrows the session and the presenter.
+/// Thread: GUI thread only.
+class PanelHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Builds the panels of `plugIn`; null builds none, for a printer that has no panels.
+    PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &presenter);
+    ~PanelHost() override;
+
+    const QList<std::shared_ptr<PDEPanel>> &panels() const { return m_panels; }
+
+    /// Brings every panel up once: its view is loaded, it is shown and hidden. Several rules run
+    /// only on loaded controls, so a panel that nobody visits must have been up as well.
+    void bringUp();
+
+    /// The user goes to a panel (its index) or to a page of the dialog (-1).
+    void visit(int panel);
+
+    /// Restores all panels, hidden or not, in their order.
+    void restoreAll();
+
+    /// The panels' summaries, one after the other.
+    QList<SummaryLine> summary();
+
+    /// The user pressed Print: asks each panel in order and stops at the first that holds the job
+    /// back. False when one did.
+    bool shouldPrint();
+
+    /// Tells the panels what changed elsewhere, now instead of at the next turn of the event loop.
+    /// Does nothing in the midst of a panel's call.
+    void deliverPending();
+
+Q_SIGNALS:
+    /// All panels know of all changes.
+    void settled();
+
+private:
+    class Call;
+    class HeldAlerts;
+    struct Change {
+        QString choice;
+        PDEPanel *source; // does not need to be told; null for the dialog's own changes
+    };
+
+    void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
+    void deliverOnce();
+    void scheduleDelivery();
+    bool panelIsBusy() const { return !m_callStack.isEmpty() || m_runningAlerts > 0; }
+    void saveVisible();
+    void restoreHidden();
+
+    PpdSession &m_session;
+    std::unique_ptr<HeldAlerts> m_alerts;
+    std::shared_ptr<HostCallback> m_callback;
+    QList<std::shared_ptr<PDEPanel>> m_panels;
+    PDEPanel *m_visible = nullptr;
+    QList<PDEPanel *> m_callStack;
+    int m_runningAlerts = 0;
+    QMap<QString, Change> m_pending;
+    bool m_scheduled = false;
+    bool m_broughtUp = false;
+};
+
+} // namespace corvana

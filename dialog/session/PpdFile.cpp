@@ -1,0 +1,54 @@
+#include "dialog/session/PpdFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLoggingCategory>
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcPpd, "corvana.dialog.ppd", QtWarningMsg)
+
+namespace {
+
+void keepOneSidedAsDefault(ppd_file_t *ppd)
+{
+    ppd_option_t *duplex = ppdOption(ppd, QStringLiteral("Duplex"));
+    const ppd_choice_t *oneSided = ppdChoice(duplex, QStringLiteral("None"));
+    if (!oneSided || qstrcmp(duplex->defchoice, oneSided->choice) == 0)
+        return;
+    qCInfo(lcPpd) << "two-sided printing is the queue's default:" << duplex->defchoice;
+    qstrncpy(duplex->defchoice, oneSided->choice, sizeof duplex->defchoice);
+}
+
+QString openError(const QString &path)
+{
+    int line = 0;
+    const ppd_status_t status = ppdLastError(&line);
+    const QString what = QString::fromUtf8(ppdErrorString(status));
+    if (line > 0)
+        return QStringLiteral("%1:%2: %3").arg(path).arg(line).arg(what);
+    return QStringLiteral("%1: %2").arg(path, what);
+}
+
+} // namespace
+
+PpdFile openPpdFile(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return nullptr;
+    }
+    file.close();
+    PpdFile ppd(ppdOpenFile(QFile::encodeName(path).constData()));
+    if (!ppd) {
+        *error = openError(path);
+        return nullptr;
+    }
+    ppdLocalize(ppd.get());
+    ppdMarkDefaults(ppd.get());
+    keepOneSidedAsDefault(ppd.get());
+    return ppd;
+}
+
+} // namespace corvana

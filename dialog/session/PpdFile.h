@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+
+#include <QString>
+
+#include "platform/printcore/Ppd.h"
+
+namespace corvana {
+
+struct PpdCloser {
+    void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
+};
+
+/// An opened PPD file. Ownership: sole.
+using PpdFile = std::unique_ptr<ppd_file_t, PpdCloser>;
+
+/// Opens a PPD file with its texts in the user's language and its default choices marked.
+///
+/// One-sided is what the panels take the default of "Duplex" for. A print server rewrites defaults
+/// when two-sided is made a queue's default; then the one-sided choice becomes the default again
+/// and the queue's wish stays as the mark.
+///
+/// Errors: null; `error` then says which file, which line where one is known, and what is wrong.
+PpdFile openPpdFile(const QString &path, QString *error);
+
+} // namespace corvana

@@ -1,0 +1,236 @@
+#include "dialog/session/PpdSession.h"
+
+#include <algorithm>
+
+#include <QLoggingCategory>
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcSession, "corvana.dialog.session", QtWarningMsg)
+
+namespace {
+
+constexpr QLatin1StringView kPageSize{"PageSize"};
+constexpr QLatin1StringView kPageRegion{"PageRegion"};
+constexpr QLatin1StringView kDuplex{"Duplex"};
+constexpr QLatin1StringView kCustom{"Custom"};
+constexpr QLatin1StringView kCustomPrefix{"Custom."};
+
+QList<OptionChoice> takeOptions(int count, cups_option_t *options)
+{
+    QList<OptionChoice> choices;
+    for (int i = 0; i < count; ++i)
+        choices += OptionChoice{ppdKeyword(options[i].name), ppdKeyword(options[i].value)};
+    cupsFreeOptions(count, options);
+    return choices;
+}
+
+// The keyword under which a choice stands in the PPD: all custom values are the one choice "Custom".
+QString choiceKeyword(const QString &choice)
+{
+    return choice.startsWith(kCustomPrefix) ? QString(kCustom) : choice;
+}
+
+} // namespace
+
+std::unique_ptr<PpdSession> PpdSession::open(const QString &ppdPath, QString *error)
+{
+    PpdFile ppd = openPpdFile(ppdPath, error);
+    return ppd ? std::make_unique<PpdSession>(std::move(ppd)) : nullptr;
+}
+
+PpdSession::PpdSession(PpdFile ppd) : m_ppd(std::move(ppd))
+{
+    m_printSettings.setDuplexHandler([this](PMDuplexMode mode) { setDuplex(mode); });
+    recordMarks();
+    updatePageFormat();
+}
+
+QList<ppd_option_t *> PpdSession::options() const
+{
+    QList<ppd_option_t *> found;
+    for (int g = 0; g < m_ppd->num_groups; ++g) {
+        const ppd_group_t &group = m_ppd->groups[g];
+        for (int o = 0; o < group.num_options; ++o) {
+            if (ppdKeyword(group.options[o].keyword) != kPageRegion)
+                found += &group.options[o];
+        }
+    }
+    return found;
+}
+
+QString PpdSession::markedChoice(const QString &keyword) const
+{
+    const ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), keyword);
+    return marked ? ppdKeyword(marked->choice) : QString();
+}
+
+ChangeResult PpdSession::change(const QString &keyword, const QString &choice, Origin origin)
+{
+    using Outcome = ChangeResult::Outcome;
+    ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
+    if (!option) {
+        qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
+        return {Outcome::UnknownOption, {}};
+    }
+    if (!ppdChoice(option, choiceKeyword(choice))) {
+        qCWarning(lcSession) << "refused: the option" << keyword << "has no choice" << choice;
+        return {Outcome::UnknownChoice, {}};
+    }
+    const QString before = markedChoice(keyword);
+    const bool custom = choice.startsWith(kCustomPrefix);
+    const bool same = before == choiceKeyword(choice) && (!custom || customValue(keyword) == choice);
+    if (!same) {
+        const QList<OptionChoice> conflicting = conflictsOf({keyword, choice});
+        if (!conflicting.isEmpty()) {
+            qCInfo(lcSession) << "refused:" << keyword << choice << "collides with"
+                              << conflicting.first().keyword << conflicting.first().choice;
+            if (origin == Origin::Panel)
+                m_refusals.insert(keyword, Refusal{{keyword, choice}, conflicting});
+            return {Outcome::Conflict, conflicting};
+        }
+        mark(keyword, choice);
+    }
+    m_refusals.remove(keyword);
+    m_printSettings.setValue(keyword, choiceKeyword(choice));
+    if (!same) {
+        const bool otherPaper = keyword == kPageSize && updatePageFormat();
+        Q_EMIT changed(keyword, choiceKeyword(choice), origin);
+        if (otherPaper)
+            Q_EMIT paperChanged();
+    }
+    return {};
+}
+
+QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
+{
+    const SessionSnapshot before = snapshot();
+    // The paper first: what else is possible may depend on it.
+    QList<OptionChoice> ordered = choices;
+    std::stable_partition(ordered.begin(), ordered.end(),
+                          [](const OptionChoice &c) { return c.keyword == kPageSize; });
+    for (const OptionChoice &choice : std::as_const(ordered))
+        mark(choice.keyword, choice.choice);
+    QList<Refusal> refusals;
+    for (const OptionChoice &choice : std::as_const(ordered)) {
+        const QList<OptionChoice> conflicting = conflictsOf(choice);
+        if (!conflicting.isEmpty())
+            refusals += Refusal{choice, conflicting};
+    }
+    if (!refusals.isEmpty()) {
+        restore(before);
+        return refusals;
+    }
+    recordMarks();
+    const bool otherPaper = updatePageFormat();
+    for (const OptionChoice &choice : std::as_const(ordered)) {
+        if (before.marks.value(choice.keyword) != markedChoice(choice.keyword))
+            Q_EMIT changed(choice.keyword, markedChoice(choice.keyword), Origin::Dialog);
+    }
+    if (otherPaper)
+        Q_EMIT paperChanged();
+    return {};
+}
+
+QList<OptionChoice> PpdSession::wayOut(const OptionChoice &proposed)
+{
+    const QByteArray option = proposed.keyword.toLatin1();
+    const QByteArray choice = proposed.choice.toLatin1();
+    cups_option_t *resolved = nullptr;
+    int count = 0;
+    if (!cupsResolveConflicts(m_ppd.get(), option.constData(), choice.constData(), &count, &resolved)) {
+        cupsFreeOptions(count, resolved);
+        return {};
+    }
+    QList<OptionChoice> others = takeOptions(count, resolved);
+    others.removeIf([&](const OptionChoice &other) {
+        return other.keyword == proposed.keyword || markedChoice(other.keyword) == other.choice;
+    });
+    return others;
+}
+
+SessionSnapshot PpdSession::snapshot() const
+{
+    SessionSnapshot snapshot;
+    for (const ppd_option_t *option : options()) {
+        const QString keyword = ppdKeyword(option->keyword);
+        if (const QString marked = markedChoice(keyword); !marked.isNull())
+            snapshot.marks.insert(keyword, marked);
+    }
+    snapshot.customValues = m_customValues;
+    snapshot.entries = m_printSettings.entries();
+    snapshot.pageFormat = m_pageFormat;
+    return snapshot;
+}
+
+void PpdSession::restore(const SessionSnapshot &snapshot)
+{
+    for (auto marked = snapshot.marks.cbegin(); marked != snapshot.marks.cend(); ++marked)
+        mark(marked.key(), snapshot.customValues.value(marked.key(), marked.value()));
+    m_customValues = snapshot.customValues;
+    m_printSettings.setEntries(snapshot.entries);
+    m_pageFormat = snapshot.pageFormat;
+    m_refusals.clear();
+}
+
+QList<Refusal> PpdSession::takeRefusals()
+{
+    return std::exchange(m_refusals, {}).values();
+}
+
+void PpdSession::mark(const QString &keyword, const QString &choice)
+{
+    ppdMarkOption(m_ppd.get(), keyword.toLatin1().constData(), choice.toLatin1().constData());
+    if (choice.startsWith(kCustomPrefix))
+        m_customValues.insert(keyword, choice);
+    else if (choice != kCustom)
+        m_customValues.remove(keyword);
+}
+
+void PpdSession::recordMarks()
+{
+    for (const ppd_option_t *option : options()) {
+        const QString keyword = ppdKeyword(option->keyword);
+        if (const QString marked = markedChoice(keyword); !marked.isNull())
+            m_printSettings.setValue(keyword, marked);
+    }
+}
+
+bool PpdSession::updatePageFormat()
+{
+    PageFormat format;
+    const QString marked = markedChoice(kPageSize);
+    const QString size = customValue(kPageSize).isNull() ? marked : customValue(kPageSize);
+    if (const ppd_size_t *found = ppdPageSize(m_ppd.get(), size.toLatin1().constData())) {
+        format.paper.name = marked;
+        if (marked != kCustom)
+            format.paper.ppdPaperName = marked;
+        format.paper.width = static_cast<double>(found->width);
+        format.paper.height = static_cast<double>(found->length);
+    }
+    return std::exchange(m_pageFormat, format) != format;
+}
+
+void PpdSession::setDuplex(PMDuplexMode mode)
+{
+    const ppd_option_t *duplex = ppdOption(m_ppd.get(), kDuplex);
+    if (!duplex)
+        return;
+    QString choice = ppdKeyword(duplex->defchoice);
+    if (mode == kPMDuplexNoTumble)
+        choice = QStringLiteral("DuplexNoTumble");
+    else if (mode == kPMDuplexTumble)
+        choice = QStringLiteral("DuplexTumble");
+    change(kDuplex, choice, Origin::Panel);
+}
+
+QList<OptionChoice> PpdSession::conflictsOf(const OptionChoice &choice) const
+{
+    cups_option_t *conflicting = nullptr;
+    const int count = cupsGetConflicts(m_ppd.get(), choice.keyword.toLatin1().constData(),
+                                       choiceKeyword(choice.choice).toLatin1().constData(),
+                                       &conflicting);
+    return takeOptions(count, conflicting);
+}
+
+} // namespace corvana

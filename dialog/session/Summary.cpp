@@ -1,0 +1,54 @@
+#include "dialog/session/Summary.h"
+
+#include <QCoreApplication>
+
+namespace corvana {
+
+QStringList generalOptionKeywords()
+{
+    return {QStringLiteral("Duplex"), QStringLiteral("PageSize"), QStringLiteral("QXOutput"),
+            QStringLiteral("AP_ColorMatchingMode")};
+}
+
+SummaryLine optionLine(const PpdSession &session, const QString &keyword)
+{
+    ppd_option_t *option = ppdOption(session.ppd(), keyword);
+    const ppd_choice_t *choice = ppdChoice(option, session.markedChoice(keyword));
+    if (!choice)
+        return {};
+    QString value = ppdText(choice->text).value_or(ppdKeyword(choice->choice));
+    if (const QString custom = session.customValue(keyword); !custom.isNull()) {
+        const Paper &paper = session.pageFormat().paper;
+        const auto millimetres = [](double points) {
+            return QString::number(qRound(points / 72.0 * 25.4));
+        };
+        value = keyword == QLatin1StringView("PageSize")
+            ? QStringLiteral("%1 × %2 mm").arg(millimetres(paper.width), millimetres(paper.height))
+            : custom.mid(7);
+    }
+    return {ppdText(option->text).value_or(keyword), value};
+}
+
+QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies)
+{
+    // The panels first: they restore and save on the way, which may change a mark.
+    const QList<SummaryLine> panelLines = panels.summary();
+    QList<SummaryLine> lines{
+        {QCoreApplication::translate("Summary", "Copies"), QString::number(copies)}};
+    for (const QString &keyword : generalOptionKeywords()) {
+        const SummaryLine line = optionLine(session, keyword);
+        if (!line.title.isEmpty())
+            lines += line;
+    }
+    return lines + panelLines;
+}
+
+QString summaryText(const QList<SummaryLine> &lines)
+{
+    QString text;
+    for (const SummaryLine &line : lines)
+        text += QStringLiteral("%1: %2\n").arg(line.title, line.value);
+    return text;
+}
+
+} // namespace corvana
