@@ -1,47 +1,43 @@
 #include "dialog/app/CommandLine.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 
 namespace corvana {
 
 namespace {
 
+// The command line is read before there is an application, whose translations would be needed for
+// anything but English.
 constexpr int kMostCopies = 9999;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
 
 struct Options {
     QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
-                               tr("Print to the printer NAME."), QStringLiteral("NAME")};
-    QCommandLineOption ppd{QStringLiteral("ppd"), tr("Print for the printer that the PPD FILE describes."),
+                               QStringLiteral("Print to the printer NAME."), QStringLiteral("NAME")};
+    QCommandLineOption ppd{QStringLiteral("ppd"), QStringLiteral("Print for the printer that the PPD FILE describes."),
                            QStringLiteral("FILE")};
-    QCommandLineOption output{QStringLiteral("output"), tr("Write the printer-ready data to FILE."),
+    QCommandLineOption output{QStringLiteral("output"), QStringLiteral("Write the printer-ready data to FILE."),
                               QStringLiteral("FILE")};
-    QCommandLineOption demo{QStringLiteral("demo"), tr("Offer the sample printers.")};
-    QCommandLineOption listPrinters{QStringLiteral("list-printers"), tr("List the printers and exit.")};
+    QCommandLineOption demo{QStringLiteral("demo"), QStringLiteral("Offer the sample printers.")};
+    QCommandLineOption listPrinters{QStringLiteral("list-printers"), QStringLiteral("List the printers and exit.")};
     QCommandLineOption option{{QStringLiteral("o"), QStringLiteral("option")},
-                              tr("Set an option of the printer or of the job; may be repeated."),
+                              QStringLiteral("Set an option of the printer or of the job; may be repeated."),
                               QStringLiteral("KEY=VALUE")};
     QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
-                              tr("Print N copies (1 to %1).").arg(kMostCopies),
+                              QStringLiteral("Print N copies (1 to %1).").arg(kMostCopies),
                               QStringLiteral("N")};
     QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("title")},
-                             tr("Name the job TEXT."), QStringLiteral("TEXT")};
-    QCommandLineOption noDialog{QStringLiteral("no-dialog"), tr("Print without a window.")};
+                             QStringLiteral("Name the job TEXT."), QStringLiteral("TEXT")};
+    QCommandLineOption noDialog{QStringLiteral("no-dialog"), QStringLiteral("Print without a window.")};
     QCommandLineOption summary{QStringLiteral("summary"),
-                               tr("Write the settings of the job to standard output.")};
+                               QStringLiteral("Write the settings of the job to standard output.")};
     QCommandLineOption bundleRoot{QStringLiteral("bundle-root"),
-                                  tr("Also trust the plug-in bundles in the folder DIR."),
+                                  QStringLiteral("Also trust the plug-in bundles in the folder DIR."),
                                   QStringLiteral("DIR")};
     QCommandLineOption checkDisplay{
         QStringLiteral("check-display"),
-        tr("Exit with status 0 when a window can be shown, with 1 when not.")};
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help.")};
-    QCommandLineOption version{QStringLiteral("version"), tr("Show the version.")};
+        QStringLiteral("Exit with status 0 when a window can be shown, with 1 when not.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")};
+    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
 
     void addTo(QCommandLineParser &parser) const
     {
@@ -54,7 +50,7 @@ ParsedCommandLine notUnderstood(const QString &what)
 {
     return {std::nullopt,
             QStringLiteral("corvana-print: %1\n%2\n")
-                .arg(what, tr("\"corvana-print --help\" lists what can be said.")),
+                .arg(what, QStringLiteral("\"corvana-print --help\" lists what can be said.")),
             2};
 }
 
@@ -65,10 +61,10 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     const Options options;
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        tr("Prints a document with the settings of its printer, in a dialog or without one."));
+        QStringLiteral("Prints a document with the settings of its printer, in a dialog or without one."));
     options.addTo(parser);
     parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 tr("The document: PDF, PostScript, text, PNG or JPEG."));
+                                 QStringLiteral("The document: PDF, PostScript, text, PNG or JPEG."));
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
     if (parser.isSet(options.help))
@@ -92,20 +88,20 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
         bool isNumber = false;
         line.copies = parser.value(options.copies).toInt(&isNumber);
         if (!isNumber || line.copies < 1 || line.copies > kMostCopies) {
-            return notUnderstood(tr("-n %1: a number from 1 to %2 was expected.")
+            return notUnderstood(QStringLiteral("-n %1: a number from 1 to %2 was expected.")
                                      .arg(parser.value(options.copies))
                                      .arg(kMostCopies));
         }
     }
     const QStringList documents = parser.positionalArguments();
     if (documents.size() > 1)
-        return notUnderstood(tr("one document was expected, not %1: %2")
+        return notUnderstood(QStringLiteral("one document was expected, not %1: %2")
                                  .arg(documents.size())
                                  .arg(documents.join(u' ')));
     line.document = documents.value(0);
     const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
     if (line.document.isEmpty() && needsDocument)
-        return notUnderstood(tr("the name of a document is missing."));
+        return notUnderstood(QStringLiteral("the name of a document is missing."));
     return {line, {}, 0};
 }
 

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QTextStream>
 #include <QTimer>
@@ -55,7 +56,7 @@ void PrintDialog::buildWindow()
 
     auto *header = new QFormLayout;
     header->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    header->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    header->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     header->addRow(tr("P&rinter:"), m_printers);
     header->addRow(tr("Document:"), m_document);
     header->addRow(tr("Print to &file:"), buildOutputRow());
@@ -70,7 +71,8 @@ void PrintDialog::buildWindow()
     m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
     m_print->setObjectName(QStringLiteral("print"));
     m_print->setDefault(true);
-    buttons->addButton(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
+    auto *cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("cancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, &PrintDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
 
@@ -82,12 +84,27 @@ void PrintDialog::buildWindow()
     const int em = fontMetrics().height();
     resize(36 * em, 30 * em);
 
+    addPageShortcuts();
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageEntered);
     connectControlAction(m_printers, [this](QWidget *) {
         m_request.chosenPrinter = m_printers->currentIndex();
         openChosenPrinter();
         bringUpPanels();
     });
+}
+
+// The pages turn by keyboard wherever the focus is, not only inside them.
+void PrintDialog::addPageShortcuts()
+{
+    const auto turn = [this](int step) {
+        const int pages = m_pages->count();
+        if (pages > 0)
+            m_pages->setCurrentIndex((m_pages->currentIndex() + step + pages) % pages);
+    };
+    for (const auto key : {Qt::CTRL | Qt::Key_PageDown, Qt::CTRL | Qt::Key_Tab})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [turn] { turn(1); });
+    for (const auto key : {Qt::CTRL | Qt::Key_PageUp, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [turn] { turn(-1); });
 }
 
 QWidget *PrintDialog::buildOutputRow()
@@ -152,6 +169,7 @@ void PrintDialog::fillPages()
     }
     m_summary = new SummaryPage;
     m_pages->addTab(m_summary, tr("Summary"));
+    m_general->setFocus();
 }
 
 void PrintDialog::paintEvent(QPaintEvent *event)

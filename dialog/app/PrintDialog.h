@@ -46,6 +46,7 @@ protected:
 
 private:
     void buildWindow();
+    void addPageShortcuts();
     QWidget *buildOutputRow();
     void openChosenPrinter();
     void closePrinter();

@@ -12,10 +12,9 @@ namespace corvana {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PrintRequest", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PrintRequest)
+};
 
 // Beside the program, in the build folder and in an installation alike.
 QString besideProgram(const QString &relative)
@@ -45,12 +44,12 @@ int indexOfPrinter(const QList<Printer> &printers, const QString &name)
 QString printerProblem(const QList<Printer> &printers, const QString &name)
 {
     if (printers.isEmpty())
-        return tr("There is no printer. Name one with --ppd FILE, or try the sample printers with "
+        return Texts::tr("There is no printer. Name one with --ppd FILE, or try the sample printers with "
                   "--demo.");
     QStringList names;
     for (const Printer &printer : printers)
         names += printer.name;
-    return tr("There is no printer \"%1\". Printers: %2.").arg(name, names.join(QStringLiteral(", ")));
+    return Texts::tr("There is no printer \"%1\". Printers: %2.").arg(name, names.join(QStringLiteral(", ")));
 }
 
 } // namespace

@@ -25,10 +25,9 @@ constexpr Format kFormats[] = {
     {QLatin1StringView("text/plain"), QT_TRANSLATE_NOOP("Document", "text")},
 };
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Document", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Document)
+};
 
 // Programs and notes are text too; an EPS picture is PostScript.
 const Format *formatOf(const QMimeType &type)
@@ -46,19 +45,19 @@ Document inspectDocument(const QString &path, QString *error)
     const QFileInfo info(path);
     QFile file(path);
     if (!info.exists()) {
-        *error = tr("%1: there is no such file.").arg(path);
+        *error = Texts::tr("%1: there is no such file.").arg(path);
         return {};
     }
     if (info.isDir()) {
-        *error = tr("%1 is a folder; a document was expected.").arg(path);
+        *error = Texts::tr("%1 is a folder; a document was expected.").arg(path);
         return {};
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = tr("%1 cannot be read: %2").arg(path, file.errorString());
+        *error = Texts::tr("%1 cannot be read: %2").arg(path, file.errorString());
         return {};
     }
     if (info.isFile() && info.size() == 0) {
-        *error = tr("%1 is empty.").arg(path);
+        *error = Texts::tr("%1 is empty.").arg(path);
         return {};
     }
     const QMimeDatabase database;
@@ -67,14 +66,14 @@ Document inspectDocument(const QString &path, QString *error)
     const auto namedTypes = database.mimeTypesForFileName(info.fileName());
     const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
     if (!held) {
-        *error = tr("%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
+        *error = Texts::tr("%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
                     "or JPEG.")
                      .arg(path, content.comment());
         return {};
     }
     if (promised && promised != held) {
-        *error = tr("%1 is named like a %2, but holds a %3. Rename it if that is right.")
-                     .arg(path, tr(promised->name), tr(held->name));
+        *error = Texts::tr("%1 is named like a %2, but holds a %3. Rename it if that is right.")
+                     .arg(path, Texts::tr(promised->name), Texts::tr(held->name));
         return {};
     }
     return {info.absoluteFilePath(), held->mimeType, info.fileName()};

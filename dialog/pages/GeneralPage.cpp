@@ -21,10 +21,11 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
 {
     auto *layout = new QFormLayout(this);
     layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_copies->setObjectName(QStringLiteral("copies"));
     m_copies->setRange(1, kMostCopies);
     ignoreWheelWithoutFocus(m_copies);
+    setFocusProxy(m_copies);
     auto *row = new QHBoxLayout; // a number needs no more width than its digits
     row->addWidget(m_copies);
     row->addStretch();

@@ -8,8 +8,6 @@ PanelPage::PanelPage(QWidget *parent) : QScrollArea(parent)
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    // The page looks like the other pages, not like a text field.
-    viewport()->setBackgroundRole(QPalette::NoRole);
     viewport()->setAutoFillBackground(false);
 }
 
@@ -21,8 +19,9 @@ PanelPage::~PanelPage()
 
 void PanelPage::setPanelView(QWidget *view)
 {
-    view->setAutoFillBackground(false);
     setWidget(view);
+    // The page looks like the other pages; the scroll area has just decided otherwise.
+    view->setAutoFillBackground(false);
     setFocusProxy(view);
 }
 

@@ -19,10 +19,9 @@ namespace {
 
 constexpr QLatin1StringView kCustomPrefix{"Custom."};
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("OptionRequest", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(OptionRequest)
+};
 
 QString asked(const JobOption &option)
 {
@@ -93,7 +92,7 @@ public:
         else if (addPanelValue(option) || addChoice(option) || addAttribute(option))
             return;
         else
-            refuse(option, tr("this printer has no such option. Options: %1. Job attributes: %2.")
+            refuse(option, Texts::tr("this printer has no such option. Options: %1. Job attributes: %2.")
                                .arg(optionNames(), jobAttributeNames().join(QStringLiteral(", "))));
     }
 
@@ -105,7 +104,7 @@ private:
 
     void refuseValue(const JobOption &option, const QString &allowed)
     {
-        refuse(option, tr("this value is not allowed. Allowed: %1.").arg(allowed));
+        refuse(option, Texts::tr("this value is not allowed. Allowed: %1.").arg(allowed));
     }
 
     QString optionNames() const
@@ -126,7 +125,7 @@ private:
         else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), QStringLiteral("PageSize")))
             refuseValue(option, allowedChoices(m_session.ppd(), sizes));
         else
-            refuse(option, tr("this printer has no paper sizes to choose from."));
+            refuse(option, Texts::tr("this printer has no paper sizes to choose from."));
     }
 
     void addSides(const JobOption &option)
@@ -231,7 +230,7 @@ QStringList differences(const Request &request, const PpdSession &session)
         const QString custom = session.customValue(choice.keyword);
         const QString now = custom.isNull() ? session.markedChoice(choice.keyword) : custom;
         if (now != choice.choice) {
-            problems += tr("%1: the printer's settings do not allow this here; it became %2.")
+            problems += Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
                             .arg(named(choice), now);
         }
     }
@@ -245,7 +244,7 @@ QString conflictMessage(const Refusal &refusal)
     QStringList others;
     for (const OptionChoice &other : refusal.conflicting)
         others += named(other);
-    return tr("%1: this cannot be combined with %2.")
+    return Texts::tr("%1: this cannot be combined with %2.")
         .arg(named(refusal.proposed), others.join(QStringLiteral(", ")));
 }
 
@@ -298,9 +297,9 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     for (auto value = expected.cbegin(); value != expected.cend(); ++value) {
         const auto now = jobOptionNamed(value.key(), session, *jobValues);
         if (now != value.value()) {
-            outcome.problems += tr("%1: the printer's settings do not allow this here; it became %2.")
+            outcome.problems += Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
                                     .arg(value.value() ? asked(*value.value()) : value.key(),
-                                         now ? asked(*now) : tr("the printer's own setting"));
+                                         now ? asked(*now) : Texts::tr("the printer's own setting"));
         }
     }
     for (const Refusal &refusal : session.takeRefusals())

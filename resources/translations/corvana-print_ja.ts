@@ -1,0 +1,297 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP">
+<context>
+    <name>AlertPresenter</name>
+    <message>
+        <source>Do not show this message again</source>
+        <translation>今後このメッセージを表示しない</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF 文書</translation>
+    </message>
+    <message>
+        <source>PostScript document</source>
+        <translation>PostScript 文書</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>PNG 画像</translation>
+    </message>
+    <message>
+        <source>JPEG picture</source>
+        <translation>JPEG 画像</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1: ファイルがありません。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; a document was expected.</source>
+        <translation>%1 はフォルダーです。文書を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 は空です。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <translation>%1 は印刷できません（内容: %2）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
+    </message>
+    <message>
+        <source>%1 is named like a %2, but holds a %3. Rename it if that is right.</source>
+        <translation>%1 の名前は %2 のものですが、内容は %3 です。内容が正しければ、名前を変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FileQueue</name>
+    <message>
+        <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
+        <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
+    </message>
+</context>
+<context>
+    <name>OptionRequest</name>
+    <message>
+        <source>this printer has no such option. Options: %1. Job attributes: %2.</source>
+        <translation>このプリンターにこのオプションはありません。オプション: %1。ジョブ属性: %2。</translation>
+    </message>
+    <message>
+        <source>this value is not allowed. Allowed: %1.</source>
+        <translation>この値は指定できません。指定できる値: %1。</translation>
+    </message>
+    <message>
+        <source>this printer has no paper sizes to choose from.</source>
+        <translation>このプリンターでは用紙サイズを選択できません。</translation>
+    </message>
+    <message>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
+        <translation>%1: プリンターの設定により、ここでは使用できません。%2 になりました。</translation>
+    </message>
+    <message>
+        <source>%1: this cannot be combined with %2.</source>
+        <translation>%1: %2 と同時には使用できません。</translation>
+    </message>
+    <message>
+        <source>the printer's own setting</source>
+        <translation>プリンター本体の設定</translation>
+    </message>
+</context>
+<context>
+    <name>PrintRequest</name>
+    <message>
+        <source>There is no printer. Name one with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>プリンターがありません。--ppd FILE で指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
+    <message>
+        <source>There is no printer "%1". Printers: %2.</source>
+        <translation>プリンター「%1」はありません。プリンター: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>Summary</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+</context>
+<context>
+    <name>UnattendedRun</name>
+    <message>
+        <source>Nothing was printed.</source>
+        <translation>何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The printer's settings hold the job back.</source>
+        <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>%1 に出力しました</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FileQueue</name>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>%1 を起動できません: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 を読み取れません。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; the name of a file was expected.</source>
+        <translation>%1 はフォルダーです。ファイル名を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>The filter chain of CUPS crashed.</source>
+        <translation>CUPS のフィルターが異常終了しました。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: %1</source>
+        <translation>文書をプリンター用に変換できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>exit status %1</source>
+        <translation>終了ステータス %1</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: nothing came out. %1</source>
+        <translation>文書をプリンター用に変換できませんでした。出力がありません。%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::GeneralPage</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>部数(&amp;C):</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::MessageBar</name>
+    <message>
+        <source>Dismiss this message</source>
+        <translation>このメッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンター(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>文書:</translation>
+    </message>
+    <message>
+        <source>Print to &amp;file:</source>
+        <translation>出力ファイル(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Print to file</source>
+        <translation>出力ファイル</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>選択(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>The printer's own settings are missing: %1</source>
+        <translation>プリンター固有の設定を使用できません: %1</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: %1</source>
+        <translation>このページを表示できません: %1</translation>
+    </message>
+    <message>
+        <source>A page of the printer's settings cannot be shown: %1</source>
+        <translation>プリンターの設定ページを表示できません: %1</translation>
+    </message>
+    <message>
+        <source>These options were not set:
+%1</source>
+        <translation>次のオプションは設定されませんでした:
+%1</translation>
+    </message>
+    <message>
+        <source>“%1: %2”</source>
+        <translation>「%1: %2」</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2.</source>
+        <translation>%1 は %2 と同時には使用できません。</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Change to %1</source>
+        <translation>%1 に変更</translation>
+    </message>
+    <message>
+        <source>Print to File</source>
+        <translation>ファイルに出力</translation>
+    </message>
+    <message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 は既にあります。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Name the file to print to.</source>
+        <translation>出力するファイルの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SummaryPage</name>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Printed to %1</source>
+        <translation>%1 に出力しました</translation>
+    </message>
+    <message>
+        <source>no display can be reached. Print without a window with --no-dialog.</source>
+        <translation>ディスプレイに接続できません。--no-dialog を指定すると、ウィンドウなしで印刷できます。</translation>
+    </message>
+</context>
+</TS>

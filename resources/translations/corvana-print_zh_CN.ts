@@ -1,0 +1,297 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>AlertPresenter</name>
+    <message>
+        <source>Do not show this message again</source>
+        <translation>不再显示此消息</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF 文档</translation>
+    </message>
+    <message>
+        <source>PostScript document</source>
+        <translation>PostScript 文档</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>PNG 图片</translation>
+    </message>
+    <message>
+        <source>JPEG picture</source>
+        <translation>JPEG 图片</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; a document was expected.</source>
+        <translation>%1 是文件夹，请指定文档。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 是空文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <translation>无法打印 %1（内容为 %2）。可打印的文档为 PDF、PostScript、文本、PNG 和 JPEG。</translation>
+    </message>
+    <message>
+        <source>%1 is named like a %2, but holds a %3. Rename it if that is right.</source>
+        <translation>%1 的名称表示它是 %2，但内容是 %3。如内容正确，请重命名。</translation>
+    </message>
+</context>
+<context>
+    <name>FileQueue</name>
+    <message>
+        <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
+        <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
+    </message>
+</context>
+<context>
+    <name>OptionRequest</name>
+    <message>
+        <source>this printer has no such option. Options: %1. Job attributes: %2.</source>
+        <translation>此打印机没有此选项。选项：%1。作业属性：%2。</translation>
+    </message>
+    <message>
+        <source>this value is not allowed. Allowed: %1.</source>
+        <translation>不允许使用此值。允许的值：%1。</translation>
+    </message>
+    <message>
+        <source>this printer has no paper sizes to choose from.</source>
+        <translation>此打印机没有可选的纸张尺寸。</translation>
+    </message>
+    <message>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
+        <translation>%1：打印机设置不允许在此使用，已变为 %2。</translation>
+    </message>
+    <message>
+        <source>%1: this cannot be combined with %2.</source>
+        <translation>%1：不能与 %2 同时使用。</translation>
+    </message>
+    <message>
+        <source>the printer's own setting</source>
+        <translation>打印机自身的设置</translation>
+    </message>
+</context>
+<context>
+    <name>PrintRequest</name>
+    <message>
+        <source>There is no printer. Name one with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>没有打印机。请用 --ppd FILE 指定，或用 --demo 试用示例打印机。</translation>
+    </message>
+    <message>
+        <source>There is no printer "%1". Printers: %2.</source>
+        <translation>没有打印机“%1”。打印机：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>Summary</name>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+</context>
+<context>
+    <name>UnattendedRun</name>
+    <message>
+        <source>Nothing was printed.</source>
+        <translation>没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The printer's settings hold the job back.</source>
+        <translation>由于打印机设置，作业未打印。</translation>
+    </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>已输出到 %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FileQueue</name>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>无法启动 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; the name of a file was expected.</source>
+        <translation>%1 是文件夹，请指定文件名。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+    <message>
+        <source>The filter chain of CUPS crashed.</source>
+        <translation>CUPS 的过滤器异常退出。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: %1</source>
+        <translation>无法将文档转换为打印机数据：%1</translation>
+    </message>
+    <message>
+        <source>exit status %1</source>
+        <translation>退出状态 %1</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: nothing came out. %1</source>
+        <translation>无法将文档转换为打印机数据：没有输出。%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::GeneralPage</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>份数(&amp;C)：</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::MessageBar</name>
+    <message>
+        <source>Dismiss this message</source>
+        <translation>关闭此消息</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>打印机(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>文档：</translation>
+    </message>
+    <message>
+        <source>Print to &amp;file:</source>
+        <translation>输出文件(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Print to file</source>
+        <translation>输出文件</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>选择(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>The printer's own settings are missing: %1</source>
+        <translation>无法使用打印机专用设置：%1</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>设置摘要</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: %1</source>
+        <translation>无法显示此页：%1</translation>
+    </message>
+    <message>
+        <source>A page of the printer's settings cannot be shown: %1</source>
+        <translation>无法显示打印机的设置页：%1</translation>
+    </message>
+    <message>
+        <source>These options were not set:
+%1</source>
+        <translation>以下选项未设置：
+%1</translation>
+    </message>
+    <message>
+        <source>“%1: %2”</source>
+        <translation>“%1：%2”</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2.</source>
+        <translation>%1 不能与 %2 同时使用。</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Change to %1</source>
+        <translation>更改为%1</translation>
+    </message>
+    <message>
+        <source>Print to File</source>
+        <translation>打印到文件</translation>
+    </message>
+    <message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 已存在。要替换吗？</translation>
+    </message>
+    <message>
+        <source>Name the file to print to.</source>
+        <translation>请输入要输出的文件名。</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SummaryPage</name>
+    <message>
+        <source>Summary</source>
+        <translation>设置摘要</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Printed to %1</source>
+        <translation>已输出到 %1</translation>
+    </message>
+    <message>
+        <source>no display can be reached. Print without a window with --no-dialog.</source>
+        <translation>无法连接显示器。使用 --no-dialog 可不打开窗口打印。</translation>
+    </message>
+</context>
+</TS>
