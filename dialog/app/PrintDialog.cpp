@@ -147,6 +147,8 @@ void PrintDialog::openChosenPrinter()
 void PrintDialog::closePrinter()
 {
     const QSignalBlocker blocker(m_pages);
+    if (m_general)
+        m_request.copies = m_general->copies(); // goes along to another printer
     m_printer.reset();
     while (m_pages->count() > 0)
         delete m_pages->widget(0);

@@ -1,5 +1,6 @@
 #include "dialog/job/FileQueue.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -19,6 +20,20 @@ namespace {
 // The destination "printer/foo" asks for the printer's own data format.
 constexpr QLatin1StringView kPrinterFormat{"printer/foo"};
 
+// One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
+QString optionArgument(const JobOption &option)
+{
+    QString value = option.value;
+    const bool plain = std::none_of(value.cbegin(), value.cend(), [](QChar c) {
+        return c.isSpace() || c == u'"' || c == u'\'' || c == u'\\' || c == u'{';
+    });
+    if (!plain) {
+        value.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+        value = u'"' + value + u'"';
+    }
+    return QStringLiteral("%1=%2").arg(option.name, value);
+}
+
 QStringList filterArguments(const Document &document, const JobTicket &ticket,
                             const QString &ppdPath)
 {
@@ -28,7 +43,7 @@ QStringList filterArguments(const Document &document, const JobTicket &ticket,
                           QStringLiteral("-t"), ticket.title,
                           QStringLiteral("-n"), QString::number(ticket.copies)};
     for (const JobOption &option : ticket.options)
-        arguments << QStringLiteral("-o") << QStringLiteral("%1=%2").arg(option.name, option.value);
+        arguments << QStringLiteral("-o") << optionArgument(option);
     return arguments << document.path;
 }
 
