@@ -57,9 +57,10 @@ QString printerProblem(const QList<Printer> &printers, const QString &name)
 QList<Printer> offeredPrinters(const CommandLine &line)
 {
     QList<Printer> printers;
+    // A PPD that cannot be read is reported when its printer is opened.
+    QString error;
     if (!line.ppd.isEmpty())
-        printers += Printer{QFileInfo(line.ppd).completeBaseName(),
-                            QFileInfo(line.ppd).completeBaseName(), line.ppd};
+        printers += printerOfPpd(line.ppd, &error);
     if (line.demo)
         printers += samplePrinters(besideProgram(QStringLiteral("../share/corvana-print/ppd")));
     return printers;

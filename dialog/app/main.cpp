@@ -1,11 +1,9 @@
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QTextStream>
-#include <QTranslator>
 
 #include "dialog/app/CommandLine.h"
 #include "dialog/app/PrintDialog.h"
+#include "dialog/app/Translations.h"
 #include "dialog/app/UnattendedRun.h"
 
 using namespace corvana;
@@ -35,20 +33,6 @@ void choosePlatform(bool needsWindow)
 bool hasWindows()
 {
     return QGuiApplication::platformName() != QLatin1StringView("offscreen");
-}
-
-// The dialog's texts and Qt's own, in the first of the user's languages that there is.
-void installTranslations(QCoreApplication &application)
-{
-    const auto install = [&application](const QString &name, const QString &folder) {
-        auto *translator = new QTranslator(&application);
-        if (translator->load(QLocale(), name, QStringLiteral("_"), folder))
-            QCoreApplication::installTranslator(translator);
-    };
-    install(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(QStringLiteral("corvana-print"),
-            QCoreApplication::applicationDirPath()
-                + QStringLiteral("/../share/corvana-print/translations"));
 }
 
 int listPrinters(const CommandLine &line)
@@ -94,7 +78,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("corvana-print"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 
-    installTranslations(application);
+    installTranslations(application,
+                        QApplication::applicationDirPath()
+                            + QStringLiteral("/../share/corvana-print/translations"));
 
     if (line.checkDisplay)
         return hasWindows() ? 0 : 1;

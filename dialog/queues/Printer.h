@@ -9,6 +9,7 @@ struct Printer {
     QString name;        ///< what -d takes
     QString description; ///< make and model, for people
     QString ppdPath;
+    int modelNumber = 0; ///< as the PPD states it; newer models have higher ones
 
     bool operator==(const Printer &) const = default;
 };

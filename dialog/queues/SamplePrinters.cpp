@@ -1,5 +1,7 @@
 #include "dialog/queues/SamplePrinters.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -10,15 +12,13 @@ namespace corvana {
 
 Q_LOGGING_CATEGORY(lcQueues, "corvana.dialog.queues", QtWarningMsg)
 
-Printer printerOfPpd(const QString &ppdPath)
+Printer printerOfPpd(const QString &ppdPath, QString *error)
 {
-    Printer printer{QFileInfo(ppdPath).completeBaseName(), {}, ppdPath};
-    QString error;
-    if (const PpdFile ppd = openPpdFile(ppdPath, &error))
-        printer.description = ppdText(ppd->nickname).value_or(printer.name);
-    else
-        qCWarning(lcQueues).noquote() << error;
-    return printer;
+    const QString name = QFileInfo(ppdPath).completeBaseName();
+    const PpdFile ppd = openPpdFile(ppdPath, error);
+    if (!ppd)
+        return {name, name, ppdPath, 0};
+    return {name, ppdText(ppd->nickname).value_or(name), ppdPath, ppd->model_number};
 }
 
 QList<Printer> samplePrinters(const QString &folder)
@@ -27,10 +27,17 @@ QList<Printer> samplePrinters(const QString &folder)
     const QFileInfoList files =
         QDir(folder).entryInfoList({QStringLiteral("*.ppd")}, QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
-        const Printer printer = printerOfPpd(file.canonicalFilePath());
-        if (!printer.description.isEmpty())
+        QString error;
+        const Printer printer = printerOfPpd(file.canonicalFilePath(), &error);
+        if (error.isEmpty())
             printers += printer;
+        else
+            qCWarning(lcQueues).noquote() << error;
     }
+    // The newest model is what most people want to see.
+    std::stable_sort(printers.begin(), printers.end(), [](const Printer &a, const Printer &b) {
+        return a.modelNumber > b.modelNumber;
+    });
     return printers;
 }
 
