@@ -1,8 +1,20 @@
 #include "panel/QXPrintQualityPDE.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLoggingCategory>
+
+#include "platform/foundation/HelpManager.h"
+#include "platform/foundation/UserDefaults.h"
 #include "platform/foundation/Values.h"
+#include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/ViewFrame.h"
+#include "platform/toolkit/Windows.h"
 
 namespace corvana {
+
+Q_LOGGING_CATEGORY(lcServices, "corvana.panel.services", QtWarningMsg)
 
 namespace {
 
@@ -11,6 +23,13 @@ constexpr QLatin1StringView kAdvancedColorItem{"advancedcolorItem"};
 constexpr QLatin1StringView kAdvancedItem{"advancedItem"};
 constexpr QLatin1StringView kPrintSettingsPrefix{"com.corvana.print.PrintSettings."};
 constexpr QLatin1StringView kHelpAnchor{"QxHelpAnchor"};
+constexpr QLatin1StringView kNoImage{"None"};
+
+// A window that is higher than the panel by more than this has room for it already. Units: points.
+constexpr double kHeightAroundPanel = 96.0;
+
+// Illustrations are pictures or, where lines should stay sharp at any size, PDF pages.
+constexpr QLatin1StringView kImageTypes[] = {QLatin1StringView("tiff"), QLatin1StringView("pdf")};
 
 } // namespace
 
@@ -44,17 +63,79 @@ void QXPrintQualityPDE::saveOptionState()
 
 void QXPrintQualityPDE::toggleShowOption(QWidget *) { }
 
-void QXPrintQualityPDE::setViewFrameSize(double, double) { }
+void QXPrintQualityPDE::setViewFrameSize(double width, double height)
+{
+    if (!pdePluginCallbackObject
+        || !pdePluginCallbackObject->respondsTo(PDECallbackOperation::panelViewDidResize))
+        return;
+    ViewFrame frame = viewFrame(m_panelView);
+    frame.width = width;
+    frame.height = height;
+    setViewFrame(m_panelView, frame);
+    const QWidget *window = keyWindow(m_panelView);
+    if (!hasMode(kModePanelShown) || !window)
+        return;
+    if (window->frameGeometry().height() / pixelsPerPoint(window) > height + kHeightAroundPanel) {
+        pdePluginCallbackObject->panelViewDidResize();
+        return;
+    }
+    // The window has to grow; it is told when the view has been laid out again.
+    NotificationCenter::defaultCenter().addObserver(
+        this, QLatin1StringView(kViewDidUpdateTrackingAreasNotification), m_panelView,
+        [this](const Notification &notification) { dialogDidExpand(notification); });
+}
 
-void QXPrintQualityPDE::dialogDidExpand(const Notification &) { }
+void QXPrintQualityPDE::dialogDidExpand(const Notification &)
+{
+    NotificationCenter::defaultCenter().removeObserver(
+        this, QLatin1StringView(kViewDidUpdateTrackingAreasNotification), m_panelView);
+    pdePluginCallbackObject->panelViewDidResize();
+}
 
-void QXPrintQualityPDE::adjustUIPosition_forParts(double, const QList<QWidget *> &) { }
+void QXPrintQualityPDE::adjustUIPosition_forParts(double distance, const QList<QWidget *> &views)
+{
+    for (QWidget *view : views) {
+        ViewFrame frame = viewFrame(view);
+        frame.y += distance;
+        setViewFrame(view, frame);
+    }
+}
 
-void QXPrintQualityPDE::changeImage_ofView(const QString &, QLabel *) { }
+void QXPrintQualityPDE::changeImage_ofView(const QString &name, QLabel *view)
+{
+    if (!view || (hasImage(view) && imageName(view) == name))
+        return;
+    QString file;
+    for (const QLatin1StringView type : kImageTypes) {
+        if (file.isNull() && pluginBundle)
+            file = pluginBundle->pathForResource(name, type);
+    }
+    if (file.isNull()) {
+        qCWarning(lcServices) << "the bundle has no illustration" << name;
+        if (hasImage(view))
+            setImageName(view, kNoImage);
+        view->hide();
+        return;
+    }
+    const QImage image = readPicture(file, view->devicePixelRatioF());
+    if (!image.isNull()) {
+        setImage(view, image);
+        setImageName(view, name);
+    }
+    view->show();
+}
 
 bool QXPrintQualityPDE::registerHelp()
 {
-    return false;
+    if (!pluginBundle || pluginBundle->path().isEmpty())
+        return false;
+    // The help books of a bundle lie beside the folder that it is installed in.
+    const QString book = QDir::cleanPath(QStringLiteral("%1/../../Help/%2.%3")
+                                             .arg(pluginBundle->path(), thePDEName(),
+                                                  QStringLiteral("Help").toLower()));
+    if (!QFileInfo::exists(book))
+        return false;
+    return HelpManager::sharedHelpManager().registerBooksInBundle(*pluginBundle, book);
 }
 
 QString QXPrintQualityPDE::helpAnchor()
@@ -69,8 +150,14 @@ QString QXPrintQualityPDE::helpBook()
 
 bool QXPrintQualityPDE::shouldShowHelp()
 {
-    // Without a registered help book the host shows its own help.
-    return true;
+    if (!hasMode(kModeHelpRegistered))
+        return true;
+    const QString anchor = helpAnchor();
+    const QString book = helpBook();
+    if (anchor.isNull() || book.isNull())
+        return true;
+    HelpManager::sharedHelpManager().openHelpAnchor_inBook(anchor, book);
+    return false;
 }
 
 void QXPrintQualityPDE::showHelpFile(QWidget *)
@@ -79,14 +166,28 @@ void QXPrintQualityPDE::showHelpFile(QWidget *)
         shouldShowHelp();
 }
 
-bool QXPrintQualityPDE::shouldShowAlert(const QString &)
+bool QXPrintQualityPDE::shouldShowAlert(const QString &key)
 {
-    return true;
+    const QString identifier = pluginBundle ? pluginBundle->identifier() : QString();
+    if (identifier.isNull())
+        return true;
+    const std::optional<QVariantMap> domain =
+        UserDefaults::standardUserDefaults().persistentDomainForName(identifier);
+    if (!domain || !domain->contains(key))
+        return true;
+    return booleanValue(domain->value(key));
 }
 
-void QXPrintQualityPDE::alertDidEnd_returnCode_contextInfo(const AlertAnswer &, int,
-                                                           const QString &)
+void QXPrintQualityPDE::alertDidEnd_returnCode_contextInfo(const AlertAnswer &answer, int,
+                                                           const QString &key)
 {
+    const QString identifier = pluginBundle ? pluginBundle->identifier() : QString();
+    if (key.isNull() || identifier.isNull())
+        return;
+    UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    QVariantMap domain = defaults.persistentDomainForName(identifier).value_or(QVariantMap());
+    domain.insert(key, !answer.suppressed);
+    defaults.setPersistentDomain_forName(domain, identifier);
 }
 
 } // namespace corvana

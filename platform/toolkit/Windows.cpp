@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QTimer>
 #include <QWidget>
 
 #include "platform/foundation/NotificationCenter.h"
@@ -58,6 +59,15 @@ void postNotificationWhenClosing(QWidget *window)
         return;
     window->setProperty(watched, true);
     new ClosingWatcher(window);
+}
+
+void postNotificationWhenLaidOut(QWidget *view)
+{
+    // Layouts do their work when the event loop turns; this comes behind them.
+    QTimer::singleShot(0, view, [view] {
+        NotificationCenter::defaultCenter().post(
+            QLatin1StringView(kViewDidUpdateTrackingAreasNotification), view);
+    });
 }
 
 } // namespace corvana

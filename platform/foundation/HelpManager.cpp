@@ -1,0 +1,49 @@
+#include "platform/foundation/HelpManager.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include "platform/foundation/Bundle.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcHelp, "corvana.foundation.help", QtWarningMsg)
+
+HelpManager &HelpManager::sharedHelpManager()
+{
+    static HelpManager manager;
+    return manager;
+}
+
+bool HelpManager::registerBooksInBundle(const Bundle &bundle, const QString &path)
+{
+    // A help book is laid out as a bundle is.
+    QString error;
+    const std::shared_ptr<Bundle> book = Bundle::open(path, &error);
+    const QString title = book ? book->infoString(kCFBundleHelpBookNameKey) : QString();
+    if (title.isEmpty()) {
+        qCWarning(lcHelp).noquote() << "no help book:" << path << error;
+        return false;
+    }
+    const QStringList preferred = Bundle::preferredLocalizations(bundle.localizations());
+    const QFileInfo page(QStringLiteral("%1/%2/index.html").arg(path, preferred.value(0)));
+    if (!page.isFile() || page.size() == 0) {
+        qCWarning(lcHelp) << "the help book has no text:" << page.filePath();
+        return false;
+    }
+    m_pages[title] = page.canonicalFilePath();
+    return true;
+}
+
+bool HelpManager::openHelpAnchor_inBook(const QString &anchor, const QString &book)
+{
+    const auto page = m_pages.find(book);
+    if (page == m_pages.end() || !m_viewer) {
+        qCWarning(lcHelp) << "the help book cannot be opened:" << book;
+        return false;
+    }
+    m_viewer({book, page->second, anchor});
+    return true;
+}
+
+} // namespace corvana

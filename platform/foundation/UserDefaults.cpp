@@ -1,0 +1,65 @@
+#include "platform/foundation/UserDefaults.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcDefaults, "corvana.foundation.defaults", QtWarningMsg)
+
+UserDefaults &UserDefaults::standardUserDefaults()
+{
+    static UserDefaults defaults;
+    return defaults;
+}
+
+QString UserDefaults::fileOfDomain(const QString &name)
+{
+    if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.'))
+        return {};
+    return QStringLiteral("%1/corvana-print/%2.ini")
+        .arg(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), name);
+}
+
+std::optional<QVariantMap> UserDefaults::persistentDomainForName(const QString &name) const
+{
+    const QString file = fileOfDomain(name);
+    if (file.isNull())
+        return std::nullopt;
+    // QSettings would answer an unreadable file as an empty one.
+    if (QFileInfo::exists(file) && !QFileInfo(file).isReadable()) {
+        qCWarning(lcDefaults) << file << "cannot be read";
+        return std::nullopt;
+    }
+    const QSettings settings(file, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError) {
+        qCWarning(lcDefaults) << file << "cannot be read: status" << settings.status();
+        return std::nullopt;
+    }
+    QVariantMap domain;
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys)
+        domain.insert(key, settings.value(key));
+    return domain;
+}
+
+bool UserDefaults::setPersistentDomain_forName(const QVariantMap &domain, const QString &name)
+{
+    const QString file = fileOfDomain(name);
+    if (file.isNull())
+        return false;
+    QSettings settings(file, QSettings::IniFormat);
+    settings.clear();
+    for (auto entry = domain.cbegin(); entry != domain.cend(); ++entry)
+        settings.setValue(entry.key(), entry.value());
+    settings.sync();
+    if (settings.status() != QSettings::NoError) {
+        qCWarning(lcDefaults) << file << "cannot be written: status" << settings.status();
+        return false;
+    }
+    return true;
+}
+
+} // namespace corvana
