@@ -1,18 +1,65 @@
 #include "dialog/app/AlertPresenters.h"
 
+#include <array>
+#include <utility>
+
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTextStream>
 
 namespace corvana {
+
+namespace {
+
+constexpr std::array kPolicies{
+    std::pair(QLatin1StringView("print"), AlertPolicy::Print),
+    std::pair(QLatin1StringView("hold"), AlertPolicy::Hold),
+    std::pair(QLatin1StringView("refuse"), AlertPolicy::Refuse),
+};
+
+// Puts the view into a row of its own under the informative text. To be called last: the box builds
+// its layout anew with every text.
+void insertUnderText(QMessageBox &box, QWidget *view)
+{
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    if (!text)
+        text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    if (!grid || !text)
+        return;
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(grid->indexOf(text), &row, &column, &rows, &columns);
+    for (int i = grid->count() - 1; i >= 0; --i) {
+        int itemRow = 0;
+        int itemColumn = 0;
+        int itemRows = 0;
+        int itemColumns = 0;
+        grid->getItemPosition(i, &itemRow, &itemColumn, &itemRows, &itemColumns);
+        if (itemRow <= row)
+            continue;
+        QLayoutItem *item = grid->takeAt(i);
+        grid->addItem(item, itemRow + 1, itemColumn, itemRows, itemColumns, item->alignment());
+    }
+    grid->addWidget(view, row + 1, column, 1, columns, Qt::AlignLeft);
+    view->show();
+}
+
+} // namespace
 
 AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
 {
     QMessageBox box(parent ? parent->window() : nullptr);
     box.setIcon(alert.style == Alert::Style::Warning ? QMessageBox::Warning
                                                      : QMessageBox::Information);
+    box.setTextFormat(Qt::PlainText);
     box.setText(alert.messageText);
     box.setInformativeText(alert.informativeText);
     QList<QPushButton *> buttons;
@@ -27,7 +74,15 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
             QCoreApplication::translate("AlertPresenter", "Do not show this message again"));
         box.setCheckBox(suppression);
     }
+    const QPointer<QWidget> formerParent = alert.accessoryView ? alert.accessoryView->parentWidget()
+                                                               : nullptr;
+    if (alert.accessoryView)
+        insertUnderText(box, alert.accessoryView);
     box.exec();
+    if (alert.accessoryView) {
+        alert.accessoryView->hide();
+        alert.accessoryView->setParent(formerParent); // the panel's again, not the box's
+    }
     AlertAnswer answer;
     for (int i = 0; i < buttons.size(); ++i) {
         if (box.clickedButton() == buttons.at(i))
@@ -37,10 +92,23 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
     return answer;
 }
 
+std::optional<AlertPolicy> alertPolicy(const QString &name)
+{
+    for (const auto &[policyName, policy] : kPolicies) {
+        if (name == policyName)
+            return policy;
+    }
+    return std::nullopt;
+}
+
 AlertAnswer TerminalAlertPresenter::runModal(const Alert &alert, QWidget *)
 {
+    m_shown = true;
     QTextStream(stderr) << alert.messageText << "\n\n" << alert.informativeText << "\n";
-    return {};
+    AlertAnswer answer;
+    if (m_policy != AlertPolicy::Print)
+        answer.button = static_cast<int>(alert.buttons.size()) - 1;
+    return answer;
 }
 
 } // namespace corvana

@@ -30,6 +30,10 @@ struct Options {
     QCommandLineOption noDialog{QStringLiteral("no-dialog"), QStringLiteral("Print without a window.")};
     QCommandLineOption summary{QStringLiteral("summary"),
                                QStringLiteral("Write the settings of the job to standard output.")};
+    QCommandLineOption onAlert{QStringLiteral("on-alert"),
+                               QStringLiteral("Without a window: what to do when the printer's settings "
+                                              "show instructions: print, hold or refuse."),
+                               QStringLiteral("POLICY")};
     QCommandLineOption bundleRoot{QStringLiteral("bundle-root"),
                                   QStringLiteral("Also trust the plug-in bundles in the folder DIR."),
                                   QStringLiteral("DIR")};
@@ -42,7 +46,7 @@ struct Options {
     void addTo(QCommandLineParser &parser) const
     {
         parser.addOptions({printer, ppd, output, demo, listPrinters, option, copies, title, noDialog,
-                           summary, bundleRoot, checkDisplay, help, version});
+                           summary, onAlert, bundleRoot, checkDisplay, help, version});
     }
 };
 
@@ -63,8 +67,11 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     parser.setApplicationDescription(
         QStringLiteral("Prints a document with the settings of its printer, in a dialog or without one."));
     options.addTo(parser);
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QStringLiteral("The document: PDF, PostScript, text, PNG or JPEG."));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"),
+        QStringLiteral("The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several "
+                       "are one job."),
+        QStringLiteral("FILE..."));
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
     if (parser.isSet(options.help))
@@ -93,14 +100,19 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
                                      .arg(kMostCopies));
         }
     }
-    const QStringList documents = parser.positionalArguments();
-    if (documents.size() > 1)
-        return notUnderstood(QStringLiteral("one document was expected, not %1: %2")
-                                 .arg(documents.size())
-                                 .arg(documents.join(u' ')));
-    line.document = documents.value(0);
+    if (parser.isSet(options.onAlert)) {
+        const std::optional<AlertPolicy> policy = alertPolicy(parser.value(options.onAlert));
+        if (!policy) {
+            return notUnderstood(QStringLiteral("--on-alert %1: print, hold or refuse was expected.")
+                                     .arg(parser.value(options.onAlert)));
+        }
+        line.onAlert = *policy;
+    }
+    line.documents = parser.positionalArguments();
+    if (line.documents.count(QStringLiteral("-")) > 1)
+        return notUnderstood(QStringLiteral("standard input (-) can be read once only."));
     const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
-    if (line.document.isEmpty() && needsDocument)
+    if (line.documents.isEmpty() && needsDocument)
         return notUnderstood(QStringLiteral("the name of a document is missing."));
     return {line, {}, 0};
 }

@@ -5,11 +5,13 @@
 #include <QString>
 #include <QStringList>
 
+#include "dialog/app/AlertPresenters.h"
+
 namespace corvana {
 
 /// What the user asked for on the command line.
 struct CommandLine {
-    QString document; ///< as given; empty without one
+    QStringList documents; ///< as given; "-" is standard input
     QString printer;
     QString ppd;
     QString output;
@@ -22,6 +24,7 @@ struct CommandLine {
     bool noDialog = false;
     bool summary = false;
     bool checkDisplay = false;
+    AlertPolicy onAlert = AlertPolicy::Print;
 
     bool operator==(const CommandLine &) const = default;
 };

@@ -33,8 +33,10 @@ std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QString
         qCInfo(lcPrinter).noquote() << printer.name
                                     << (decision.panels ? "has panels:" : "has no panels:")
                                     << decision.reason;
-        if (decision.panels)
+        if (decision.panels) {
             plugIn = loaded.plugIn;
+            opened->bundle = loaded.bundle;
+        }
     }
     if (plugIn) {
         opened->jobValues = plugIn->jobValues();

@@ -10,6 +10,7 @@
 
 namespace corvana {
 
+class Bundle;
 class PDEJobValues;
 
 /// One printer, opened: its session and its panels. Another printer, PPD or language needs another
@@ -21,6 +22,8 @@ struct OpenedPrinter {
     std::unique_ptr<PanelHost> panels;
     /// Null for a printer without panels. Ownership: the plug-in's.
     PDEJobValues *jobValues = nullptr;
+    /// The bundle that the panels come from, or null.
+    std::shared_ptr<Bundle> bundle;
     /// Why the printer has no panels although it should; empty otherwise.
     QString panelProblem;
 };

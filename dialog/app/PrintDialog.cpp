@@ -1,42 +1,66 @@
 #include "dialog/app/PrintDialog.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
+#include <QCoreApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
-#include <QTextStream>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
+#include "dialog/app/HelpWindow.h"
+#include "dialog/app/SilencedAlerts.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/PanelPage.h"
 #include "dialog/pages/SummaryPage.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
 namespace corvana {
 
+namespace {
+
+constexpr QLatin1StringView kPageRanges{"page-ranges"};
+
+// The dialog's own help, in the localisation that suits the user best; null when there is none.
+QString dialogHelpPage()
+{
+    const QString folder = QCoreApplication::applicationDirPath()
+        + QStringLiteral("/../share/corvana-print/help");
+    const QStringList localizations{QStringLiteral("English"), QStringLiteral("Japanese"),
+                                    QStringLiteral("zh_CN")};
+    const QString page =
+        QStringLiteral("%1/%2/index.html")
+            .arg(folder, Bundle::preferredLocalizations(localizations).value(0));
+    return QFileInfo(page).isFile() ? QFileInfo(page).canonicalFilePath() : QString();
+}
+
+} // namespace
+
 PrintDialog::PrintDialog(PrintRequest request, QWidget *parent)
     : QDialog(parent), m_request(std::move(request))
 {
     buildWindow();
+    HelpManager::sharedHelpManager().setViewer([this](const HelpPage &page) { showHelpPage(page); });
     openChosenPrinter();
 }
 
 PrintDialog::~PrintDialog()
 {
+    HelpManager::sharedHelpManager().setViewer(nullptr);
     closePrinter();
 }
 
@@ -67,20 +91,11 @@ void PrintDialog::buildWindow()
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setDocumentMode(false);
 
-    auto *buttons = new QDialogButtonBox(this);
-    m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
-    m_print->setObjectName(QStringLiteral("print"));
-    m_print->setDefault(true);
-    auto *cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &PrintDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
-
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(header);
     layout->addWidget(m_message);
     layout->addWidget(m_pages, 1);
-    layout->addWidget(buttons);
+    layout->addLayout(buildFooter());
     const int em = fontMetrics().height();
     resize(36 * em, 30 * em);
 
@@ -91,6 +106,53 @@ void PrintDialog::buildWindow()
         openChosenPrinter();
         bringUpPanels();
     });
+}
+
+QLayout *PrintDialog::buildFooter()
+{
+    auto *help = new QPushButton(tr("Help"), this);
+    help->setObjectName(QStringLiteral("helpButton"));
+    help->setAutoDefault(false);
+    help->setShortcut(QKeySequence::HelpContents);
+    m_silenced = new QToolButton(this);
+    m_silenced->setObjectName(QStringLiteral("silencedAlerts"));
+    m_silenced->setText(tr("Show Silenced Messages Again"));
+    m_silenced->setAutoRaise(true);
+    m_silenced->hide();
+    m_progress = new QProgressBar(this);
+    m_progress->setObjectName(QStringLiteral("progress"));
+    m_progress->setRange(0, 0); // how many pages there will be is known to nobody
+    m_progress->setTextVisible(false);
+    m_progress->setMaximumWidth(8 * fontMetrics().height());
+    m_progress->hide();
+    m_progressText = new QLabel(this);
+    m_progressText->setObjectName(QStringLiteral("progressText"));
+    m_print = new QPushButton(tr("&Print"), this);
+    m_print->setObjectName(QStringLiteral("print"));
+    m_print->setDefault(true);
+    auto *cancel = new QPushButton(tr("Cancel"), this);
+    cancel->setObjectName(QStringLiteral("cancel"));
+    cancel->setAutoDefault(false);
+
+    connect(help, &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_silenced, &QToolButton::clicked, this, [this] {
+        if (!bringAlertsBack(m_printer->bundle->identifier()))
+            m_message->showMessage(MessageBar::Kind::Problem,
+                                   tr("Your preferences cannot be written."));
+        updateSilencedAlerts();
+    });
+    connect(m_print, &QPushButton::clicked, this, &PrintDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &PrintDialog::reject);
+
+    auto *footer = new QHBoxLayout;
+    footer->addWidget(help);
+    footer->addWidget(m_silenced);
+    footer->addStretch();
+    footer->addWidget(m_progressText);
+    footer->addWidget(m_progress);
+    footer->addWidget(m_print);
+    footer->addWidget(cancel);
+    return footer;
 }
 
 // The pages turn by keyboard wherever the focus is, not only inside them.
@@ -140,6 +202,10 @@ void PrintDialog::openChosenPrinter()
                                tr("The printer's own settings are missing: %1")
                                    .arg(m_printer->panelProblem));
     connect(m_printer->panels.get(), &PanelHost::settled, this, &PrintDialog::settled);
+    // Later: a panel is in the midst of its work when it says so.
+    connect(m_printer->panels.get(), &PanelHost::viewResized, this, &PrintDialog::followPanelView,
+            Qt::QueuedConnection);
+    updateSilencedAlerts();
     fillPages();
 }
 
@@ -209,6 +275,10 @@ void PrintDialog::applyRequestedOptions()
     const OptionOutcome outcome = applyOptions(m_request.options, *m_printer->session,
                                                m_printer->jobValues, *m_printer->panels);
     m_attributes = outcome.attributes;
+    for (const JobOption &attribute : std::as_const(m_attributes)) {
+        if (attribute.name == kPageRanges)
+            m_general->setPageRanges(attribute.value);
+    }
     if (!outcome.ok())
         m_message->showMessage(MessageBar::Kind::Problem,
                                tr("These options were not set:\n%1")
@@ -243,6 +313,7 @@ void PrintDialog::propose(const QString &keyword, const QString &choice)
 
 void PrintDialog::settled()
 {
+    updateSilencedAlerts();
     m_general->refresh();
     const QList<Refusal> refusals = m_printer->session->takeRefusals();
     for (const Refusal &refusal : refusals)
@@ -281,70 +352,43 @@ void PrintDialog::showRefusal(const Refusal &refusal)
         });
 }
 
-void PrintDialog::chooseOutput()
+void PrintDialog::followPanelView()
 {
-    const QString file = QFileDialog::getSaveFileName(this, tr("Print to File"), m_output->text(),
-                                                      tr("PostScript (*.ps);;All files (*)"));
-    if (file.isEmpty())
+    auto *page = qobject_cast<PanelPage *>(m_pages->currentWidget());
+    const int missing = page ? page->followView() : 0;
+    if (missing == 0)
         return;
-    m_output->setText(QDir::toNativeSeparators(file));
-    m_chosenOutput = m_output->text(); // the file dialog has asked already
+    // The window grows with a panel that discloses more, as far as the screen reaches; beyond that
+    // the page scrolls.
+    const int room = screen()->availableGeometry().bottom() - frameGeometry().bottom();
+    resize(width(), height() + qBound(0, missing, qMax(0, room)));
 }
 
-bool PrintDialog::confirmOverwriting(const QString &file)
+void PrintDialog::showHelp()
 {
-    const bool asked = m_output->text() == m_chosenOutput
-        || m_output->text() == QDir::toNativeSeparators(m_request.output);
-    if (asked || !QFileInfo::exists(file))
-        return true;
-    return QMessageBox::question(this, tr("Print to File"),
-                                 tr("%1 exists already. Replace it?").arg(m_output->text()))
-        == QMessageBox::Yes;
+    const int panel = panelOfPage(m_pages->currentIndex());
+    const bool panelHasNoHelp =
+        panel < 0 || m_printer->panels->panels().at(panel)->shouldShowHelp();
+    if (!panelHasNoHelp)
+        return;
+    const QString page = dialogHelpPage();
+    if (page.isNull())
+        m_message->showMessage(MessageBar::Kind::Problem, tr("The help is not installed."));
+    else
+        showHelpPage({tr("Help on Printing"), page, QString()});
 }
 
-void PrintDialog::accept()
+void PrintDialog::showHelpPage(const HelpPage &page)
 {
-    if (!m_printer || m_job)
-        return;
-    const QString output = QDir::fromNativeSeparators(m_output->text());
-    if (output.isEmpty()) {
-        m_message->showMessage(MessageBar::Kind::Problem, tr("Name the file to print to."));
-        m_output->setFocus();
-        return;
-    }
-    if (!confirmOverwriting(output) || !m_printer->panels->shouldPrint())
-        return;
-    const JobTicket ticket =
-        makeTicket(*m_printer, m_attributes, m_request.title, m_general->copies());
-    if (m_request.summary)
-        QTextStream(stdout) << summaryText(
-            sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
-    m_message->showMessage(MessageBar::Kind::Information, tr("Printing…"));
-    m_print->setEnabled(false);
-    m_job = std::make_unique<FileQueue>();
-    connect(m_job.get(), &FileQueue::finished, this, &PrintDialog::jobFinished);
-    m_job->print(m_request.document, ticket, m_printer->printer.ppdPath, output);
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    m_help->open(page);
 }
 
-void PrintDialog::jobFinished(const QString &problem)
+void PrintDialog::updateSilencedAlerts()
 {
-    m_job.release()->deleteLater();
-    m_print->setEnabled(true);
-    if (!problem.isEmpty()) {
-        m_message->showMessage(MessageBar::Kind::Problem, problem);
-        return;
-    }
-    m_printedTo = QFileInfo(QDir::fromNativeSeparators(m_output->text())).absoluteFilePath();
-    QDialog::accept();
-}
-
-void PrintDialog::reject()
-{
-    if (m_job) {
-        m_job->cancel();
-        return;
-    }
-    QDialog::reject();
+    m_silenced->setVisible(m_printer && m_printer->bundle
+                           && hasSilencedAlerts(m_printer->bundle->identifier()));
 }
 
 } // namespace corvana

@@ -9,16 +9,20 @@
 #include "dialog/app/OpenedPrinter.h"
 #include "dialog/app/PrintRequest.h"
 #include "dialog/job/FileQueue.h"
+#include "platform/foundation/HelpManager.h"
 
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QPushButton;
+class QToolButton;
 class QTabWidget;
 
 namespace corvana {
 
 class GeneralPage;
+class HelpWindow;
 class MessageBar;
 class PanelPage;
 class SummaryPage;
@@ -47,6 +51,7 @@ protected:
 private:
     void buildWindow();
     void addPageShortcuts();
+    QLayout *buildFooter();
     QWidget *buildOutputRow();
     void openChosenPrinter();
     void closePrinter();
@@ -57,8 +62,18 @@ private:
     void propose(const QString &keyword, const QString &choice);
     void settled();
     void showRefusal(const Refusal &refusal);
+    void followPanelView();
+    void showHelp();
+    void showHelpPage(const HelpPage &page);
+    void updateSilencedAlerts();
+
+    // Printing (PrintDialog-job.cpp)
+
     void chooseOutput();
+    bool readPageRanges();
+    void startJob(const QString &output);
     void jobFinished(const QString &problem);
+    void showJobRunning(bool running);
     QString textOf(const OptionChoice &choice) const;
     int panelOfPage(int page) const;
     bool confirmOverwriting(const QString &file);
@@ -82,6 +97,10 @@ private:
     SummaryPage *m_summary = nullptr;
     QLineEdit *m_output = nullptr;
     QPushButton *m_print = nullptr;
+    QProgressBar *m_progress = nullptr;
+    QLabel *m_progressText = nullptr;
+    QToolButton *m_silenced = nullptr;
+    HelpWindow *m_help = nullptr;
 };
 
 } // namespace corvana

@@ -23,13 +23,22 @@ QString besideProgram(const QString &relative)
 }
 
 // A name in the current folder that nothing has yet.
-QString freeOutputName(const QString &documentPath)
+QString freeOutputName(const QString &title)
 {
-    const QString base = QFileInfo(documentPath).completeBaseName();
+    const QString base = QFileInfo(title).completeBaseName();
     QString name = QDir::current().absoluteFilePath(base + QStringLiteral(".ps"));
     for (int i = 2; QFileInfo::exists(name); ++i)
         name = QDir::current().absoluteFilePath(QStringLiteral("%1-%2.ps").arg(base).arg(i));
     return name;
+}
+
+QString titleOf(const QList<Document> &documents)
+{
+    if (documents.isEmpty())
+        return {};
+    const QString first = documents.constFirst().title;
+    const int others = static_cast<int>(documents.size()) - 1;
+    return others == 0 ? first : Texts::tr("%1 and %n more", nullptr, others).arg(first);
 }
 
 int indexOfPrinter(const QList<Printer> &printers, const QString &name)
@@ -75,10 +84,13 @@ QStringList trustedBundleRoots(const CommandLine &line)
 PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
-    if (!line.document.isEmpty()) {
-        request.document = inspectDocument(line.document, error);
-        if (request.document.path.isEmpty())
+    for (const QString &name : line.documents) {
+        const Document document = name == QLatin1StringView("-")
+            ? readStandardInput(&request.standardInput, error)
+            : inspectDocument(name, error);
+        if (document.path.isEmpty())
             return {};
+        request.documents += document;
     }
     const QList<Printer> printers = offeredPrinters(line);
     request.chosenPrinter = indexOfPrinter(printers, line.printer);
@@ -89,10 +101,11 @@ PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
     request.printers = printers;
     request.options = parseOptions(line.options);
     request.bundleRoots = trustedBundleRoots(line);
-    request.title = line.title.isEmpty() ? request.document.title : line.title;
-    request.output = line.output.isEmpty() && !request.document.path.isEmpty()
-        ? freeOutputName(request.document.path)
+    request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
+    request.output = line.output.isEmpty() && !request.documents.isEmpty()
+        ? freeOutputName(request.documents.constFirst().title)
         : line.output;
+    request.onAlert = line.onAlert;
     request.copies = line.copies;
     request.summary = line.summary;
     return request;

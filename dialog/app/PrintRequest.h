@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -9,13 +11,17 @@
 #include "dialog/queues/Printer.h"
 #include "dialog/session/JobTicket.h"
 
+class QTemporaryFile;
+
 namespace corvana {
 
 struct OpenedPrinter;
 
 /// A command line that was looked into: its document inspected, its printers found.
 struct PrintRequest {
-    Document document; ///< an empty path without a document
+    QList<Document> documents; ///< printed one after the other, as one job
+    /// Holds what came on standard input; null without it.
+    std::shared_ptr<QTemporaryFile> standardInput;
     QList<Printer> printers;
     int chosenPrinter = 0; ///< index into `printers`
     QList<JobOption> options;
@@ -24,6 +30,7 @@ struct PrintRequest {
     QString output; ///< never empty where there is a document
     int copies = 1;
     bool summary = false;
+    AlertPolicy onAlert = AlertPolicy::Print;
 };
 
 /// Errors: an empty list of printers; `error` says what is missing or wrong.

@@ -45,7 +45,7 @@ QStringList refusalMessages(PpdSession &session)
 
 int runUnattended(const PrintRequest &request)
 {
-    TerminalAlertPresenter presenter;
+    TerminalAlertPresenter presenter(request.onAlert);
     QString error;
     const auto printer =
         openPrinter(request.printers.at(request.chosenPrinter), request.bundleRoots, presenter, &error);
@@ -59,12 +59,21 @@ int runUnattended(const PrintRequest &request)
     if (!options.ok())
         return refused(options.problems);
 
-    const bool printing = !request.document.path.isEmpty();
+    const bool printing = !request.documents.isEmpty();
     if (printing && !printer->panels->shouldPrint())
         return refused({QCoreApplication::translate("UnattendedRun",
                                                     "The printer's settings hold the job back.")});
     if (const QStringList problems = refusalMessages(*printer->session); !problems.isEmpty())
         return refused(problems);
+    if (presenter.jobMustWait()) {
+        return refused({request.onAlert == AlertPolicy::Hold
+                            ? QCoreApplication::translate(
+                                "UnattendedRun",
+                                "The job would have to wait for these instructions, and a file cannot "
+                                "wait. Follow them and print with --on-alert=print.")
+                            : QCoreApplication::translate(
+                                "UnattendedRun", "The printer's settings show instructions.")});
+    }
     const JobTicket ticket =
         makeTicket(*printer, options.attributes, request.title, request.copies);
     QTextStream out(stdout);
@@ -77,7 +86,7 @@ int runUnattended(const PrintRequest &request)
     FileQueue queue;
     QString problem;
     QObject::connect(&queue, &FileQueue::finished, [&problem](const QString &p) { problem = p; });
-    queue.print(request.document, ticket, printer->printer.ppdPath, request.output);
+    queue.print(request.documents, ticket, printer->printer.ppdPath, request.output);
     if (!queue.wait())
         return refused({problem});
     out << QCoreApplication::translate("UnattendedRun", "Printed to %1").arg(request.output) << "\n";

@@ -72,7 +72,7 @@ int main(int argc, char **argv)
     const CommandLine &line = *parsed.commandLine;
 
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    const bool unattended = line.noDialog || line.listPrinters || line.document.isEmpty();
+    const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
     choosePlatform(!unattended || line.checkDisplay);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("corvana-print"));

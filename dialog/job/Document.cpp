@@ -1,12 +1,14 @@
 #include "dialog/job/Document.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
+#include <QTemporaryFile>
 
 namespace corvana {
 
@@ -77,6 +79,31 @@ Document inspectDocument(const QString &path, QString *error)
         return {};
     }
     return {info.absoluteFilePath(), held->mimeType, info.fileName()};
+}
+
+Document readStandardInput(std::shared_ptr<QTemporaryFile> *file, QString *error)
+{
+    const QString name = Texts::tr("standard input");
+    QFile input;
+    auto copy = std::make_shared<QTemporaryFile>();
+    if (!input.open(stdin, QIODevice::ReadOnly) || !copy->open()) {
+        *error = Texts::tr("%1 cannot be read: %2").arg(name, input.errorString());
+        return {};
+    }
+    constexpr qint64 kChunk = 1 << 20;
+    for (QByteArray chunk = input.read(kChunk); !chunk.isEmpty(); chunk = input.read(kChunk)) {
+        if (copy->write(chunk) != chunk.size()) {
+            *error = Texts::tr("%1 cannot be kept: %2").arg(name, copy->errorString());
+            return {};
+        }
+    }
+    copy->close();
+    Document document = inspectDocument(copy->fileName(), error);
+    if (document.path.isEmpty())
+        error->replace(copy->fileName(), name);
+    document.title = name;
+    *file = copy;
+    return document;
 }
 
 } // namespace corvana

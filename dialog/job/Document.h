@@ -1,6 +1,10 @@
 #pragma once
 
+#include <memory>
+
 #include <QString>
+
+class QTemporaryFile;
 
 namespace corvana {
 
@@ -21,5 +25,10 @@ struct Document {
 ///
 /// Errors: an empty path; `error` then says which file and what is wrong with it.
 Document inspectDocument(const QString &path, QString *error);
+
+/// The document that comes on standard input, read to its end into a temporary file of the user's.
+/// Ownership: `file` holds the data and removes it at its end.
+/// Errors: as inspectDocument().
+Document readStandardInput(std::shared_ptr<QTemporaryFile> *file, QString *error);
 
 } // namespace corvana

@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -19,6 +20,7 @@ namespace {
 
 // The destination "printer/foo" asks for the printer's own data format.
 constexpr QLatin1StringView kPrinterFormat{"printer/foo"};
+constexpr QLatin1StringView kPdf{"application/pdf"};
 
 // One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
 QString optionArgument(const JobOption &option)
@@ -34,17 +36,24 @@ QString optionArgument(const JobOption &option)
     return QStringLiteral("%1=%2").arg(option.name, value);
 }
 
-QStringList filterArguments(const Document &document, const JobTicket &ticket,
-                            const QString &ppdPath)
+QStringList conversionArguments(const Document &document, const QString &ppdPath,
+                                QLatin1StringView format, const QList<JobOption> &options)
 {
-    QStringList arguments{QStringLiteral("-p"), ppdPath,
-                          QStringLiteral("-i"), document.format,
-                          QStringLiteral("-m"), kPrinterFormat,
-                          QStringLiteral("-t"), ticket.title,
-                          QStringLiteral("-n"), QString::number(ticket.copies)};
-    for (const JobOption &option : ticket.options)
+    QStringList arguments{QStringLiteral("-p"), ppdPath, QStringLiteral("-i"), document.format,
+                          QStringLiteral("-m"), format};
+    for (const JobOption &option : options)
         arguments << QStringLiteral("-o") << optionArgument(option);
-    return arguments << document.path;
+    return arguments;
+}
+
+// What shapes the pages of a text or a picture; everything else applies to the whole job.
+QList<JobOption> pageOptions(const QList<JobOption> &options)
+{
+    QList<JobOption> chosen = options;
+    chosen.removeIf([](const JobOption &option) {
+        return option.name != QLatin1StringView("PageSize");
+    });
+    return chosen;
 }
 
 // What the filter chain said last of its errors, without its prefix.
@@ -57,6 +66,14 @@ QString lastErrorLine(const QByteArray &log)
             last = QString::fromUtf8(line.mid(6)).trimmed();
     }
     return last;
+}
+
+// The page that a line of the log speaks of, or 0.
+int pageInLine(const QByteArray &line)
+{
+    static const QRegularExpression page(QStringLiteral("^DEBUG: Copying page ([0-9]{1,9})"));
+    const QRegularExpressionMatch match = page.match(QString::fromUtf8(line));
+    return match.hasMatch() ? match.captured(1).toInt() : 0;
 }
 
 } // namespace
@@ -88,56 +105,106 @@ QString findCupsFilter(QString *error)
 
 FileQueue::FileQueue(QObject *parent) : QObject(parent)
 {
-    connect(&m_filter, &QProcess::finished, this, &FileQueue::filterFinished);
-    connect(&m_filter, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+    connect(&m_process, &QProcess::finished, this, &FileQueue::stepFinished);
+    connect(&m_process, &QProcess::readyReadStandardError, this, &FileQueue::readLog);
+    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
-            finish(tr("%1 cannot be started: %2").arg(m_filter.program(), m_filter.errorString()));
+            finish(tr("%1 cannot be started: %2").arg(m_process.program(), m_process.errorString()));
     });
 }
 
 FileQueue::~FileQueue()
 {
     // A dialog that is closed in the midst of a job takes its filter chain along.
-    m_filter.disconnect(this);
-    if (m_filter.state() != QProcess::NotRunning) {
-        m_filter.kill();
-        m_filter.waitForFinished(1000);
+    m_process.disconnect(this);
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished(1000);
     }
 }
 
 void FileQueue::print(const Document &document, const JobTicket &ticket, const QString &ppdPath,
                       const QString &outputPath)
 {
-    m_ppdPath = ppdPath;
+    print(QList<Document>{document}, ticket, ppdPath, outputPath);
+}
+
+void FileQueue::print(const QList<Document> &documents, const JobTicket &ticket,
+                      const QString &ppdPath, const QString &outputPath)
+{
     m_outputPath = QFileInfo(outputPath).absoluteFilePath();
+    const QString problem = prepare(documents, ticket, ppdPath);
+    if (problem.isEmpty())
+        startNextStep();
+    else
+        finish(problem);
+}
+
+// Lists the steps of the job and makes the files that they write. Answers what stands in the way.
+QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ticket,
+                           const QString &ppdPath)
+{
     QString problem;
-    const QString program = findCupsFilter(&problem);
-    if (program.isEmpty())
-        return finish(problem);
+    const QString filter = findCupsFilter(&problem);
+    if (filter.isEmpty())
+        return problem;
     // The filter chain would do without a PPD, and print a file without any of the choices.
     if (!QFileInfo(ppdPath).isReadable())
-        return finish(tr("%1 cannot be read.").arg(ppdPath));
+        return tr("%1 cannot be read.").arg(ppdPath);
     if (QFileInfo(m_outputPath).isDir())
-        return finish(tr("%1 is a folder; the name of a file was expected.").arg(outputPath));
+        return tr("%1 is a folder; the name of a file was expected.").arg(m_outputPath);
     // Beside the result, so that taking its place is one step.
     m_result = std::make_unique<QTemporaryFile>(m_outputPath + QStringLiteral(".XXXXXX.part"));
     if (!m_result->open())
-        return finish(tr("%1 cannot be written: %2").arg(outputPath, m_result->errorString()));
+        return tr("%1 cannot be written: %2").arg(m_outputPath, m_result->errorString());
     m_result->close();
 
-    m_filter.setProgram(program);
-    m_filter.setArguments(filterArguments(document, ticket, ppdPath));
-    m_filter.setStandardOutputFile(m_result->fileName());
-    m_filter.setStandardInputFile(QProcess::nullDevice());
-    qCInfo(lcJob) << m_filter.program() << m_filter.arguments();
-    m_filter.start();
+    Document whole = documents.value(0);
+    if (documents.size() > 1) {
+        m_parts = std::make_unique<QTemporaryDir>();
+        if (!m_parts->isValid())
+            return m_parts->errorString();
+        QStringList parts;
+        for (const Document &document : documents) {
+            parts += m_parts->filePath(QString::number(parts.size()) + QStringLiteral(".pdf"));
+            m_steps.push_back({filter,
+                               conversionArguments(document, ppdPath, kPdf,
+                                                   pageOptions(ticket.options))
+                                   << document.path,
+                               parts.constLast()});
+        }
+        whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
+        m_steps.push_back({QStringLiteral("pdfunite"), parts << whole.path, QProcess::nullDevice()});
+    }
+    m_steps.push_back(
+        {filter,
+         conversionArguments(whole, ppdPath, kPrinterFormat, ticket.options)
+             << QStringLiteral("-t") << ticket.title << QStringLiteral("-n")
+             << QString::number(ticket.copies) << whole.path,
+         m_result->fileName()});
+    return {};
+}
+
+void FileQueue::startNextStep()
+{
+    const Step &step = m_steps.front();
+    m_log.clear();
+    m_process.setProgram(step.program);
+    m_process.setArguments(step.arguments);
+    m_process.setStandardOutputFile(step.outputFile);
+    m_process.setStandardInputFile(QProcess::nullDevice());
+    qCInfo(lcJob) << m_process.program() << m_process.arguments();
+    m_process.start();
 }
 
 void FileQueue::cancel()
 {
     m_canceled = true;
-    if (m_filter.state() != QProcess::NotRunning)
-        m_filter.terminate();
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    m_process.terminate();
+    // A filter that does not listen is not asked twice.
+    QTimer::singleShot(2000, &m_process, &QProcess::kill);
 }
 
 bool FileQueue::wait()
@@ -149,39 +216,59 @@ bool FileQueue::wait()
     return m_problem.isEmpty();
 }
 
-void FileQueue::filterFinished(int exitCode, QProcess::ExitStatus status)
+void FileQueue::readLog()
 {
-    QString problem = problemOfFilter(exitCode, status);
-    if (problem.isEmpty()) {
-        m_result->setAutoRemove(false);
-        // Temporary files are private; a print file is as readable as the user's other files.
-        constexpr auto usual = QFileDevice::ReadOwner | QFileDevice::WriteOwner
-            | QFileDevice::ReadGroup | QFileDevice::ReadOther;
-        m_result->setPermissions(usual);
-        if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
-                        QFile::encodeName(m_outputPath).constData())
-            != 0) {
-            problem = tr("%1 cannot be written: %2").arg(m_outputPath, qt_error_string(errno));
-            m_result->setAutoRemove(true);
-        }
-    }
-    m_result.reset();
-    finish(problem);
+    const QByteArray said = m_process.readAllStandardError();
+    m_log += said;
+    qCDebug(lcJob).noquote() << said;
+    int page = 0;
+    const QList<QByteArray> lines = said.split('\n');
+    for (const QByteArray &line : lines)
+        page = qMax(page, pageInLine(line));
+    if (page > 0)
+        Q_EMIT pageReached(page);
 }
 
-QString FileQueue::problemOfFilter(int exitCode, QProcess::ExitStatus status)
+void FileQueue::stepFinished(int exitCode, QProcess::ExitStatus status)
 {
-    const QByteArray log = m_filter.readAllStandardError();
-    qCDebug(lcJob).noquote() << log;
+    readLog();
+    const QString problem = problemOfStep(exitCode, status);
+    if (!problem.isEmpty())
+        return finish(problem);
+    m_steps.erase(m_steps.begin());
+    if (m_steps.empty())
+        finish(takeResult());
+    else
+        startNextStep();
+}
+
+// Moves the result to its name. Answers why that failed.
+QString FileQueue::takeResult()
+{
+    // Temporary files are private; a print file is as readable as the user's other files.
+    constexpr auto usual = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup
+        | QFileDevice::ReadOther;
+    m_result->setPermissions(usual);
+    if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
+                    QFile::encodeName(m_outputPath).constData())
+        != 0)
+        return tr("%1 cannot be written: %2").arg(m_outputPath, qt_error_string(errno));
+    m_result->setAutoRemove(false);
+    return {};
+}
+
+QString FileQueue::problemOfStep(int exitCode, QProcess::ExitStatus status)
+{
     if (m_canceled)
         return tr("Printing was canceled.");
     if (status != QProcess::NormalExit)
         return tr("The filter chain of CUPS crashed.");
-    const QString said = lastErrorLine(log);
+    const QString said = lastErrorLine(m_log);
     if (exitCode != 0)
         return tr("The document could not be converted for the printer: %1")
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);
-    if (QFileInfo(m_result->fileName()).size() == 0)
+    const QString output = m_steps.front().outputFile;
+    if (output != QProcess::nullDevice() && QFileInfo(output).size() == 0)
         return tr("The document could not be converted for the printer: nothing came out. %1").arg(said);
     return {};
 }
@@ -191,6 +278,8 @@ void FileQueue::finish(const QString &problem)
 {
     if (!problem.isEmpty())
         qCWarning(lcJob).noquote() << problem;
+    m_result.reset();
+    m_parts.reset();
     QTimer::singleShot(0, this, [this, problem] {
         m_done = true;
         m_problem = problem;

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
+#include <QList>
 #include <QObject>
 #include <QProcess>
 #include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 #include "dialog/job/Document.h"
@@ -18,7 +22,8 @@ namespace corvana {
 QString findCupsFilter(QString *error);
 
 /// A queue that prints into a file: the document goes through the CUPS filter chain with the
-/// printer's PPD and becomes what the printer would have got.
+/// printer's PPD and becomes what the printer would have got. Several documents are put together
+/// into one PDF first, and are one job.
 ///
 /// One object prints one job. The result appears under its name when it is complete, in place of
 /// whatever stood there; until then, and for good after a failure, that is untouched.
@@ -34,6 +39,8 @@ public:
     /// Starts printing. `finished` follows in every case, never before this returns.
     void print(const Document &document, const JobTicket &ticket, const QString &ppdPath,
                const QString &outputPath);
+    void print(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
+               const QString &outputPath);
 
     /// Stops the filter chain; `finished` follows with a failure.
     void cancel();
@@ -42,17 +49,33 @@ public:
     bool wait();
 
 Q_SIGNALS:
+    /// The filter chain has come to this page. Range: 1 and more.
+    void pageReached(int page);
     /// `problem` is empty when the job was printed.
     void finished(const QString &problem);
 
 private:
-    void finish(const QString &problem);
-    void filterFinished(int exitCode, QProcess::ExitStatus status);
-    QString problemOfFilter(int exitCode, QProcess::ExitStatus status);
+    // One program of the chain; its standard output goes into a file.
+    struct Step {
+        QString program;
+        QStringList arguments;
+        QString outputFile;
+    };
 
-    QProcess m_filter;
+    QString prepare(const QList<Document> &documents, const JobTicket &ticket,
+                    const QString &ppdPath);
+    void startNextStep();
+    void stepFinished(int exitCode, QProcess::ExitStatus status);
+    QString problemOfStep(int exitCode, QProcess::ExitStatus status);
+    QString takeResult();
+    void readLog();
+    void finish(const QString &problem);
+
+    QProcess m_process;
+    std::vector<Step> m_steps; // the current one first
+    std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<QTemporaryFile> m_result;
-    QString m_ppdPath;
+    QByteArray m_log; // of the current step
     QString m_outputPath;
     QString m_problem;
     bool m_done = false;

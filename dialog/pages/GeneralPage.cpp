@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSpinBox>
 
 #include "dialog/session/PpdSession.h"
@@ -17,7 +18,8 @@ constexpr int kMostCopies = 9999;
 }
 
 GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_copies(new QSpinBox(this))
+    : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
+      m_pageRanges(new QLineEdit(this))
 {
     auto *layout = new QFormLayout(this);
     layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -31,6 +33,10 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     row->addStretch();
     layout->addRow(tr("&Copies:"), row);
     qobject_cast<QLabel *>(layout->labelForField(row))->setBuddy(m_copies);
+    m_pageRanges->setObjectName(QStringLiteral("pageRanges"));
+    m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
+    m_pageRanges->setClearButtonEnabled(true);
+    layout->addRow(tr("Pa&ges:"), m_pageRanges);
     for (const QString &keyword : generalOptionKeywords())
         addOption(keyword);
     refresh();
@@ -44,6 +50,22 @@ int GeneralPage::copies() const
 void GeneralPage::setCopies(int copies)
 {
     m_copies->setValue(copies);
+}
+
+QString GeneralPage::pageRanges() const
+{
+    return m_pageRanges->text().remove(u' ');
+}
+
+void GeneralPage::setPageRanges(const QString &ranges)
+{
+    m_pageRanges->setText(ranges);
+}
+
+void GeneralPage::focusPageRanges()
+{
+    m_pageRanges->setFocus();
+    m_pageRanges->selectAll();
 }
 
 void GeneralPage::addOption(const QString &keyword)

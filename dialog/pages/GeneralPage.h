@@ -5,13 +5,14 @@
 #include <QWidget>
 
 class QComboBox;
+class QLineEdit;
 class QSpinBox;
 
 namespace corvana {
 
 class PpdSession;
 
-/// Copies, and the PPD options that no panel owns: two-sided, paper size, output destination, and
+/// Copies, pages, and the PPD options that no panel owns: two-sided, paper size, output destination, and
 /// who matches the colours; each only where the printer has it, in the PPD's own words.
 ///
 /// It shows the session and proposes changes; it changes nothing itself.
@@ -25,6 +26,11 @@ public:
 
     int copies() const;
     void setCopies(int copies);
+    /// The pages to print ("1-4,7"); empty for all. As typed, less blanks.
+    QString pageRanges() const;
+    void setPageRanges(const QString &ranges);
+    /// Puts the focus where the pages are typed.
+    void focusPageRanges();
     /// Shows the session's marks.
     void refresh();
 
@@ -38,6 +44,7 @@ private:
 
     PpdSession &m_session;
     QSpinBox *m_copies;
+    QLineEdit *m_pageRanges;
     QMap<QString, QComboBox *> m_popUps;
 };
 

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "platform/toolkit/ViewFrame.h"
+
 namespace corvana {
 
 PanelPage::PanelPage(QWidget *parent) : QScrollArea(parent)
@@ -22,7 +24,17 @@ void PanelPage::setPanelView(QWidget *view)
     setWidget(view);
     // The page looks like the other pages; the scroll area has just decided otherwise.
     view->setAutoFillBackground(false);
+    followView();
     setFocusProxy(view);
+}
+
+int PanelPage::followView()
+{
+    if (!widget())
+        return 0;
+    const int needed = qMax(requestedHeight(widget()), widget()->minimumSizeHint().height());
+    widget()->setMinimumHeight(needed);
+    return qMax(0, needed - viewport()->height());
 }
 
 void PanelPage::setProblem(const QString &problem)

@@ -17,6 +17,9 @@ public:
 
     /// Shows the panel's view.
     void setPanelView(QWidget *view);
+    /// Gives the view the larger of the height that it asks for and what its contents need. Answers
+    /// the height that is missing on the page. Units: pixels; 0 when everything can be seen.
+    int followView();
     /// Shows why there is no view.
     void setProblem(const QString &problem);
 };

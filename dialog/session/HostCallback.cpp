@@ -10,15 +10,15 @@ namespace corvana {
 
 Q_LOGGING_CATEGORY(lcHost, "corvana.dialog.host", QtWarningMsg)
 
-HostCallback::HostCallback(PpdSession &session, AlertPresenter &presenter)
-    : m_session(session), m_presenter(presenter)
+HostCallback::HostCallback(PpdSession &session, AlertPresenter &presenter,
+                           std::function<void()> viewResized)
+    : m_session(session), m_presenter(presenter), m_viewResized(std::move(viewResized))
 {
 }
 
 bool HostCallback::respondsTo(PDECallbackOperation operation) const
 {
-    // Pages size themselves by their layout; there is nothing to resize yet.
-    return operation != PDECallbackOperation::panelViewDidResize;
+    return operation != PDECallbackOperation::panelViewDidResize || m_viewResized;
 }
 
 ppd_file_t *HostCallback::ppdFile()
@@ -48,7 +48,10 @@ bool HostCallback::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
     }
 }
 
-void HostCallback::panelViewDidResize() { }
+void HostCallback::panelViewDidResize()
+{
+    m_viewResized();
+}
 
 AlertPresenter *HostCallback::alertPresenter()
 {

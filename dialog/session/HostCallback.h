@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/pde/PDEPluginCallback.h"
 
 namespace corvana {
@@ -13,7 +15,10 @@ class PpdSession;
 class HostCallback : public PDEPluginCallback
 {
 public:
-    HostCallback(PpdSession &session, AlertPresenter &presenter);
+    /// `viewResized` runs when a panel's view has taken another size; it must not call a panel.
+    /// Without it this host takes no resize notices.
+    HostCallback(PpdSession &session, AlertPresenter &presenter,
+                 std::function<void()> viewResized = {});
 
     bool respondsTo(PDECallbackOperation operation) const override;
     ppd_file_t *ppdFile() override;
@@ -27,6 +32,7 @@ public:
 private:
     PpdSession &m_session;
     AlertPresenter &m_presenter;
+    std::function<void()> m_viewResized;
 };
 
 } // namespace corvana

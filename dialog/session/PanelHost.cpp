@@ -70,7 +70,8 @@ private:
 
 PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &presenter)
     : m_session(session), m_alerts(std::make_unique<HeldAlerts>(*this, presenter)),
-      m_callback(std::make_shared<HostCallback>(session, *m_alerts))
+      m_callback(std::make_shared<HostCallback>(session, *m_alerts,
+                                                [this] { Q_EMIT viewResized(); }))
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
     if (!plugIn)

@@ -64,6 +64,8 @@ public:
 Q_SIGNALS:
     /// All panels know of all changes.
     void settled();
+    /// A panel's view asks for another size. Receivers must not call a panel.
+    void viewResized();
 
 private:
     class Call;

@@ -1,5 +1,6 @@
 #include "platform/foundation/UserDefaults.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
@@ -8,6 +9,21 @@
 namespace corvana {
 
 Q_LOGGING_CATEGORY(lcDefaults, "corvana.foundation.defaults", QtWarningMsg)
+
+namespace {
+
+// What cannot be read is about to be replaced; whoever can mend it finds it beside the new file.
+void keepDamagedFile(const QString &file)
+{
+    if (!QFileInfo::exists(file) || QSettings(file, QSettings::IniFormat).status() == QSettings::NoError)
+        return;
+    const QString kept = file + QStringLiteral(".damaged");
+    QFile::remove(kept);
+    if (QFile::rename(file, kept))
+        qCWarning(lcDefaults) << "the damaged preferences were kept as" << kept;
+}
+
+} // namespace
 
 UserDefaults &UserDefaults::standardUserDefaults()
 {
@@ -50,6 +66,7 @@ bool UserDefaults::setPersistentDomain_forName(const QVariantMap &domain, const 
     const QString file = fileOfDomain(name);
     if (file.isNull())
         return false;
+    keepDamagedFile(file);
     QSettings settings(file, QSettings::IniFormat);
     settings.clear();
     for (auto entry = domain.cbegin(); entry != domain.cend(); ++entry)

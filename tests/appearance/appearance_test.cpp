@@ -32,7 +32,7 @@ QPalette darkPalette()
 PrintRequest request(const QStringList &options)
 {
     CommandLine line;
-    line.document = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
+    line.documents = {QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf")};
     line.ppd = QStringLiteral(CORVANA_TEST_SHARE_DIR "/ppd/corvana-cl5.ppd");
     line.bundleRoots = {QFileInfo(QStringLiteral(CORVANA_TEST_BUNDLE_DIR)).path()};
     line.options = options;

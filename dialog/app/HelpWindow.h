@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDialog>
+
+#include "platform/foundation/HelpManager.h"
+
+class QTextBrowser;
+
+namespace corvana {
+
+/// Shows the pages of help books, beside the dialog and without blocking it.
+class HelpWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit HelpWindow(QWidget *parent = nullptr);
+
+    void open(const HelpPage &page);
+
+private:
+    QTextBrowser *m_browser;
+};
+
+} // namespace corvana
