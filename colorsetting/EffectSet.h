@@ -16,6 +16,9 @@ inline constexpr std::array<QLatin1StringView, 6> kEffectKeywords{
     QLatin1StringView("QXBlue"),       QLatin1StringView("QXSaturation"),
 };
 
+/// Monochrome printing has only the first two, brightness and contrast.
+inline constexpr std::size_t kMonochromeEffectCount = 2;
+
 /// Range of an effect, both ends included. Units: steps of the slider.
 inline constexpr qint64 kEffectMinimum = -20;
 inline constexpr qint64 kEffectMaximum = 20;

@@ -29,8 +29,7 @@ QVariantMap QXLaserColorSettingPDE::summaryInfo()
         return summary;
     const QString orderKey = QLatin1StringView(kSummaryDisplayOrder);
     QStringList order = summary.value(orderKey).toStringList();
-    // Monochrome printing has only the first two, brightness and contrast.
-    const size_t shown = hasMode(kModeMono) ? 2 : kEffectKeywords.size();
+    const size_t shown = hasMode(kModeMono) ? kMonochromeEffectCount : kEffectKeywords.size();
     for (size_t i = 0; i < shown; ++i) {
         const ppd_option_t *option = ppdOption(ppd, kEffectKeywords[i]);
         const std::optional<QString> title = option ? ppdText(option->text) : std::nullopt;

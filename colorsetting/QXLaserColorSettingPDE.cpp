@@ -17,7 +17,7 @@ constexpr QLatin1StringView kHelpBook{"Corvana Color Settings Help (Laser)"};
 // The panel's list in the bundle's information dictionary stands beside that of the other panel.
 QString supportedKeysEntry()
 {
-    return QStringLiteral("PMPPDKeysSupported") + QStringLiteral("Color");
+    return kPPDKeysSupported + QStringLiteral("Color");
 }
 
 } // namespace
@@ -53,7 +53,10 @@ struct QXLaserColorSettingPDE::Roster {
     }
 };
 
-QXLaserColorSettingPDE::~QXLaserColorSettingPDE() = default;
+QXLaserColorSettingPDE::~QXLaserColorSettingPDE()
+{
+    dealloc();
+}
 
 bool QXLaserColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
 {
@@ -128,8 +131,7 @@ void QXLaserColorSettingPDE::PPDOptionKeyValueDidChange_ppdChoice(const QString 
 
 bool QXLaserColorSettingPDE::restoreValuesAndReturnError(QString *error)
 {
-    if (!PPDKeys && pluginBundle)
-        setPPDKeys(pluginBundle->infoStringList(supportedKeysEntry()));
+    loadPPDKeys(supportedKeysEntry());
     QXPrintQualityPDE::restoreValuesAndReturnError(error);
     return true;
 }

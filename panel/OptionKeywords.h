@@ -29,6 +29,9 @@ inline constexpr QLatin1StringView kHagakiUra{"HagakiUra"};
 /// host callback as its sender and a boolean under kQXMonoColor.
 inline constexpr QLatin1StringView kLaserPrintSettingNotification{"QXLaserPrintSettingNotification"};
 
+/// List of a panel's option keywords in the bundle's information dictionary.
+inline constexpr QLatin1StringView kPPDKeysSupported{"PMPPDKeysSupported"};
+
 /// PPD attribute of printers whose driver can do the colour matching itself.
 inline constexpr char kSupportsCustomColorMatching[] = "APSupportsCustomColorMatching";
 /// Print settings entry that says who matches colours, and its values; anything else is the driver.

@@ -21,6 +21,11 @@ constexpr QLatin1StringView kUnsupportedPaper{"UnsupportedPaper"};
 
 QXPrintQualityPDE::~QXPrintQualityPDE()
 {
+    dealloc();
+}
+
+void QXPrintQualityPDE::dealloc()
+{
     delete m_panelView;
     NotificationCenter::defaultCenter().removeObserver(this);
 }
@@ -114,6 +119,17 @@ bool QXPrintQualityPDE::restoreValuesAndReturnError(QString *)
         updateUI();
     saveAllValues();
     return true;
+}
+
+void QXPrintQualityPDE::loadPPDKeys(const QString &entry)
+{
+    if (PPDKeys || !pluginBundle)
+        return;
+    const std::optional<QStringList> keywords = pluginBundle->infoStringList(entry);
+    if (!keywords)
+        qCWarning(lcPanel).noquote() << pluginBundle->path() + QStringLiteral("/info.json:")
+                                     << "a list of texts was expected under" << entry;
+    setPPDKeys(keywords);
 }
 
 void QXPrintQualityPDE::restoreMarkedChoices()

@@ -49,6 +49,9 @@ public:
     /// Second phase of construction; false when no panel results, because the host cannot be asked
     /// before a choice changes.
     virtual bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback);
+    /// Lets go of the view and of all observations. Every destructor calls it first, so that no
+    /// control can act on a panel that is half gone; calling it again does nothing.
+    void dealloc();
     /// Ends all observations of the panel, whatever the notification.
     virtual void removeNotificationObserver(const Notification &notification);
     QString panelKind() override;
@@ -139,6 +142,9 @@ protected:
     /// Outlets and actions of the panel's interface file.
     virtual void connectInterface(InterfaceConnections &connections);
 
+    /// Sets the options that the panel handles from a list of the bundle's information dictionary,
+    /// unless they are set already. A list that is missing leaves the panel without any; logged.
+    void loadPPDKeys(const QString &entry);
     /// Takes the marked choice of every option, else its default, into `outputBin`.
     void restoreMarkedChoices();
 

@@ -48,17 +48,17 @@ bool isCustomForm(const QString &value)
 
 JobValueClaim notMine()
 {
-    return {JobValueClaim::Outcome::NotMine, {}};
+    return {};
 }
 
-JobValueClaim accepted()
+JobValueClaim accepted(const JobOption &standsFor)
 {
-    return {JobValueClaim::Outcome::Accepted, {}};
+    return {JobValueClaim::Outcome::Accepted, standsFor, {}};
 }
 
 JobValueClaim refused(ValueBounds bounds, const QString &form)
 {
-    return {JobValueClaim::Outcome::Refused,
+    return {JobValueClaim::Outcome::Refused, {},
             QStringLiteral("%1 to %2").arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
 }
 
@@ -92,7 +92,7 @@ JobValueClaim takeSleepTime(const QString &value, PrintSettings &settings, ppd_f
     if (value == kDefault && ppdChoice(ppdOption(ppd, kQXSleepTime), value)) {
         settings.setValue(kSleepModeEntry, QString(kDefault));
         settings.setValue(kSleepEntry, QString(kDefault));
-        return accepted();
+        return accepted({kQXSleepTime, kDefault});
     }
     if (!isCustomForm(value))
         return notMine();
@@ -102,10 +102,22 @@ JobValueClaim takeSleepTime(const QString &value, PrintSettings &settings, ppd_f
         return refused(bounds, QStringLiteral("Custom.%1"));
     settings.setValue(kSleepModeEntry, QString(kCustom));
     settings.setValue(kSleepEntry, QString::number(*minutes));
-    return accepted();
+    return accepted({kQXSleepTime, customValue(*minutes)});
 }
 
 // Density
+
+JobOption densityOption(qint64 density, ppd_option_t *option, ppd_file_t *ppd)
+{
+    const QString defaultChoice = ppdKeyword(option->defchoice);
+    if (density == integerValue(defaultChoice))
+        return {kQXDensityAdjustment, defaultChoice}; // the printer's own density
+    if (ppdCustomParameter(ppd, kQXDensityAdjustment, kDensityParameter))
+        return {kQXDensityAdjustment, customValue(density)};
+    if (const ppd_choice_t *choice = choiceOfNumber(option, density))
+        return {kQXDensityAdjustment, ppdKeyword(choice->choice)};
+    return {kDensityEntry, QString::number(density)};
+}
 
 QList<JobOption> densityOptions(const PrintSettings &settings, ppd_file_t *ppd)
 {
@@ -113,13 +125,7 @@ QList<JobOption> densityOptions(const PrintSettings &settings, ppd_file_t *ppd)
     if (!option || !settings.contains(kDensityEntry))
         return {};
     const qint64 density = densityBounds(ppd).clamped(integerValue(settings.value(kDensityEntry)));
-    if (density == integerValue(ppdKeyword(option->defchoice)))
-        return {}; // the printer's own density: the default choice says it
-    if (ppdCustomParameter(ppd, kQXDensityAdjustment, kDensityParameter))
-        return {{kQXDensityAdjustment, customValue(density)}};
-    if (const ppd_choice_t *choice = choiceOfNumber(option, density))
-        return {{kQXDensityAdjustment, ppdKeyword(choice->choice)}};
-    return {{kDensityEntry, QString::number(density)}};
+    return {densityOption(density, option, ppd)};
 }
 
 JobValueClaim takeDensity(const QString &value, PrintSettings &settings, ppd_file_t *ppd)
@@ -132,7 +138,7 @@ JobValueClaim takeDensity(const QString &value, PrintSettings &settings, ppd_fil
     if (!density || !bounds.contains(*density))
         return refused(bounds, QStringLiteral("%1"));
     settings.setValue(kDensityEntry, QString::number(*density));
-    return accepted();
+    return accepted(densityOption(*density, option, ppd));
 }
 
 // Colour effects
@@ -151,15 +157,30 @@ QVariantList effectsInForce(const PrintSettings &settings)
     return QVariantList(static_cast<qsizetype>(kEffectKeywords.size()), QString::number(0));
 }
 
+// How many of the effects apply: none while the application matches the colours, the first two in
+// monochrome printing. The panel's summary names just these.
+size_t effectCountInForce(const PrintSettings &settings, ppd_file_t *ppd)
+{
+    if (!ppdFindAttr(ppd, kSupportsCustomColorMatching, nullptr)
+        || settings.value(kColorMatchingMode).toString() == kApplicationColorMatching)
+        return 0;
+    return settings.value(kQXMonoColor).toString() == kMono ? kMonochromeEffectCount
+                                                            : kEffectKeywords.size();
+}
+
 QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
 {
     QList<JobOption> options;
     const QVariantList values = effectsInForce(settings);
+    const size_t inForce = effectCountInForce(settings, ppd);
     for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
-        const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
         ppd_option_t *option = ppdOption(ppd, kEffectKeywords[i]);
-        if (const ppd_choice_t *choice = choiceOfNumber(option, value))
-            options += JobOption{kEffectKeywords[i], ppdKeyword(choice->choice)};
+        if (!option)
+            continue;
+        const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
+        const ppd_choice_t *choice = i < inForce ? choiceOfNumber(option, value) : nullptr;
+        options += JobOption{kEffectKeywords[i],
+                             ppdKeyword(choice ? choice->choice : option->defchoice)};
     }
     return options;
 }
@@ -171,12 +192,15 @@ JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_
         return notMine();
     const ValueBounds bounds{kEffectMinimum, kEffectMaximum};
     const std::optional<qint64> value = numberIn(offered.value, {}, true);
-    if (!value || !bounds.contains(*value) || !choiceOfNumber(ppdOption(ppd, offered.name), *value))
+    const ppd_choice_t *choice =
+        value && bounds.contains(*value) ? choiceOfNumber(ppdOption(ppd, offered.name), *value)
+                                         : nullptr;
+    if (!choice)
         return refused(bounds, QStringLiteral("%1"));
     QVariantList values = effectsInForce(settings);
     values[keyword - kEffectKeywords.begin()] = *value;
     settings.setValue(effectSetInForce(settings), values);
-    return accepted();
+    return accepted({offered.name, ppdKeyword(choice->choice)});
 }
 
 } // namespace
@@ -201,7 +225,12 @@ QList<JobOption> QXJobValues::impliedMarks(const PrintSettings &settings, ppd_fi
 {
     const QString mode = settings.value(kSleepModeEntry).toString();
     ppd_option_t *option = ppdOption(ppd, kQXSleepTime);
-    const QString implied = mode.startsWith(kCustom) ? kCustom : kDefault;
+    const bool manual = mode.startsWith(kCustom);
+    const ppd_choice_t *marked = ppdMarkedChoice(ppd, kQXSleepTime);
+    // Any fixed choice of the printer's is as good as "Default" for an automatic sleep time.
+    if (!manual && marked && ppdKeyword(marked->choice) != kCustom)
+        return {};
+    const QString implied = manual ? kCustom : kDefault;
     if (mode.isNull() || !ppdChoice(option, implied))
         return {};
     return {{kQXSleepTime, implied}};

@@ -40,7 +40,4 @@ inline constexpr QLatin1StringView kSleepEntry{"com.corvana.print.PrintSettings.
 inline constexpr QLatin1StringView kSleepModeEntry{"com.corvana.print.PrintSettings.sleepmode"};
 inline constexpr QLatin1StringView kDensityEntry{"com.corvana.print.PrintSettings.densitymode"};
 
-/// List of the panel's option keywords in the bundle's information dictionary.
-inline constexpr QLatin1StringView kPPDKeysSupported{"PMPPDKeysSupported"};
-
 } // namespace corvana

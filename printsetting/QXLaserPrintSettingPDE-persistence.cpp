@@ -60,8 +60,8 @@ void QXLaserPrintSettingPDE::saveAllValues()
     QXPrintQualityPDE::saveAllValues();
     if (handles(kQXDensityAdjustment))
         saveDensityValue();
-    // Only the job stops saving toner; what the user chose stays shown and comes back with another
-    // resolution.
+    // Only the job's mark stops saving toner; what the panel holds and shows stays as it is until
+    // it is restored from the marks.
     if (hasMode(kModeNoTonerSave))
         askHost(kTonerSaveMode, kChoiceOff);
     if (!PPDSleepTimeKey.isNull())
@@ -77,8 +77,7 @@ bool QXLaserPrintSettingPDE::saveValuesAndReturnError(QString *error)
 
 bool QXLaserPrintSettingPDE::restoreValuesAndReturnError(QString *)
 {
-    if (!PPDKeys && pluginBundle)
-        setPPDKeys(pluginBundle->infoStringList(kPPDKeysSupported));
+    loadPPDKeys(kPPDKeysSupported);
     checkFax();
     checkLang();
     setDefaults();

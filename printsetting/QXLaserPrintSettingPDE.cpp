@@ -49,7 +49,10 @@ struct QXLaserPrintSettingPDE::Roster {
     }
 };
 
-QXLaserPrintSettingPDE::~QXLaserPrintSettingPDE() = default;
+QXLaserPrintSettingPDE::~QXLaserPrintSettingPDE()
+{
+    dealloc();
+}
 
 bool QXLaserPrintSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
 {
@@ -177,11 +180,11 @@ void QXLaserPrintSettingPDE::initializePopup()
     if (mediaTypes && !inhibited.isNull())
         popup::removeItemAt(mediaTypes,
                             popup::indexOfItemWithRepresentedObject(mediaTypes, inhibited));
-    initializeAdvOption();
+    initializeAdvOption({optionButton});
     restoreOptionState();
 }
 
-void QXLaserPrintSettingPDE::initializeAdvOption()
+void QXLaserPrintSettingPDE::initializeAdvOption(const QList<QWidget *> &)
 {
     const QString density = QXLaserPrintSetting::densityParamKey();
     if (handles(kQXDensityAdjustment))

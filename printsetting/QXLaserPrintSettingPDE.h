@@ -26,8 +26,8 @@ public:
     void setPPDKeys(const std::optional<QStringList> &keywords) override;
     void setDefaults() override;
     void initializePopup() override;
-    /// Brings the values of the advanced options to their controls.
-    virtual void initializeAdvOption();
+    /// Brings the values of the advanced options to their controls, which stand in these views.
+    virtual void initializeAdvOption(const QList<QWidget *> &views);
     QWidget *determineUI(const QString &keyword) override;
     QWidget *determineLabel(const QString &keyword) override;
     QString determineKey(QWidget *control) override;

@@ -2,6 +2,8 @@
 
 #include <QCommandLineParser>
 
+#include "dialog/session/OptionRequest.h"
+
 namespace corvana {
 
 namespace {
@@ -75,7 +77,10 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
     if (parser.isSet(options.help))
-        return {std::nullopt, parser.helpText(), 0};
+        return {std::nullopt,
+                parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                          QStringLiteral("corvana-print")),
+                0};
     if (parser.isSet(options.version))
         return {std::nullopt, QStringLiteral("corvana-print %1\n").arg(QLatin1StringView(CORVANA_VERSION)), 0};
 
@@ -85,6 +90,10 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     line.output = parser.value(options.output);
     line.title = parser.value(options.title);
     line.options = parser.values(options.option);
+    for (const QString &option : std::as_const(line.options)) {
+        if (!isWellFormed(option))
+            return notUnderstood(QStringLiteral("-o \"%1\": KEY=VALUE was expected.").arg(option));
+    }
     line.bundleRoots = parser.values(options.bundleRoot);
     line.demo = parser.isSet(options.demo);
     line.listPrinters = parser.isSet(options.listPrinters);

@@ -3,8 +3,8 @@
 #include <QLoggingCategory>
 
 #include "dialog/queues/PanelRecognition.h"
+#include "dialog/session/OptionRequest.h"
 #include "platform/pde/PDEBundleLoader.h"
-#include "platform/pde/PDEJobValues.h"
 #include "platform/pde/PDEPlugIn.h"
 
 namespace corvana {
@@ -25,28 +25,29 @@ std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QString
         return nullptr;
 
     PDEPlugIn *plugIn = nullptr;
-    const LoadedPlugIn loaded = loadPlugInBundle(kBundleFile, bundleRoots);
-    if (!loaded.plugIn) {
+    const QString wanted = namedBundle(opened->session->ppd());
+    const QString bundleFile = wanted.isNull() ? QString(kBundleFile) : wanted;
+    const FoundPlugIn found = findPlugInBundle(bundleFile, bundleRoots);
+    // Whether the printer wants panels is known from the PPD and what the bundle says of itself,
+    // before any of its code runs.
+    const PanelDecision decision = found.bundle
+        ? decidePanels(opened->session->ppd(), *found.bundle)
+        : PanelDecision{!wanted.isNull(), QStringLiteral("there is no usable bundle")};
+    qCInfo(lcPrinter).noquote() << printer.name
+                                << (decision.panels ? "wants panels:" : "has no panels:")
+                                << decision.reason;
+    if (decision.panels) {
+        const LoadedPlugIn loaded = loadPlugInBundle(bundleFile, bundleRoots);
+        plugIn = loaded.plugIn;
+        opened->bundle = loaded.bundle;
         opened->panelProblem = loaded.problem;
-    } else {
-        const PanelDecision decision = decidePanels(opened->session->ppd(), *loaded.bundle);
-        qCInfo(lcPrinter).noquote() << printer.name
-                                    << (decision.panels ? "has panels:" : "has no panels:")
-                                    << decision.reason;
-        if (decision.panels) {
-            plugIn = loaded.plugIn;
-            opened->bundle = loaded.bundle;
-        }
     }
     if (plugIn) {
         opened->jobValues = plugIn->jobValues();
         // Entries that are stored already come before the panels, which would overwrite them.
-        const QList<JobOption> marks = opened->jobValues
-            ? opened->jobValues->impliedMarks(opened->session->printSettings(),
-                                              opened->session->ppd())
-            : QList<JobOption>();
-        for (const JobOption &mark : marks)
-            opened->session->change(mark.name, mark.value, PpdSession::Origin::Dialog);
+        const QStringList refused = markImplied(*opened->session, opened->jobValues);
+        for (const QString &problem : refused)
+            qCWarning(lcPrinter).noquote() << problem;
     }
     opened->panels = std::make_unique<PanelHost>(*opened->session, plugIn, presenter);
     return opened;

@@ -15,13 +15,11 @@
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 
 namespace corvana {
-
-namespace {
-constexpr QLatin1StringView kPageRanges{"page-ranges"};
-}
 
 void PrintDialog::chooseOutput()
 {
@@ -46,7 +44,8 @@ bool PrintDialog::confirmOverwriting(const QString &file)
 
 void PrintDialog::accept()
 {
-    if (!m_printer || m_job)
+    // Print may be pressed before the first paint, by an Enter that was typed ahead.
+    if (!m_printable || m_job || !bringUpPanels())
         return;
     const QString output = QDir::fromNativeSeparators(m_output->text());
     if (output.isEmpty()) {
@@ -57,17 +56,24 @@ void PrintDialog::accept()
     if (!readPageRanges() || !confirmOverwriting(output) || !m_printer->panels->shouldPrint())
         return;
     updateSilencedAlerts();
-    startJob(output);
+    if (m_request.summary)
+        QTextStream(stdout) << summaryText(
+            sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
+    const QStringList problems = jobProblems(*m_printer->session, m_printer->jobValues);
+    if (problems.isEmpty())
+        startJob(output);
+    else
+        m_message->showMessage(MessageBar::Kind::Problem, problems.join(u'\n'));
 }
 
 // Takes the pages into the job. False when they cannot be understood.
 bool PrintDialog::readPageRanges()
 {
-    m_attributes.removeIf([](const JobOption &option) { return option.name == kPageRanges; });
+    m_attributes.removeIf([](const JobOption &option) { return option.name == kPageRangesAttribute; });
     const QString ranges = m_general->pageRanges();
     if (ranges.isEmpty())
         return true;
-    const JobAttribute *attribute = jobAttribute(kPageRanges);
+    const JobAttribute *attribute = jobAttribute(kPageRangesAttribute);
     if (!attribute->accepts(ranges)) {
         m_message->showMessage(MessageBar::Kind::Problem,
                                tr("“%1” are no pages. Pages and ranges in ascending order were "
@@ -77,7 +83,7 @@ bool PrintDialog::readPageRanges()
         m_general->focusPageRanges();
         return false;
     }
-    m_attributes += JobOption{kPageRanges, ranges};
+    m_attributes += JobOption{kPageRangesAttribute, ranges};
     return true;
 }
 
@@ -85,16 +91,14 @@ void PrintDialog::startJob(const QString &output)
 {
     const JobTicket ticket =
         makeTicket(*m_printer, m_attributes, m_request.title, m_general->copies());
-    if (m_request.summary)
-        QTextStream(stdout) << summaryText(
-            sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
     m_message->dismiss();
-    showJobRunning(true);
+    m_jobOutput = output;
     m_job = std::make_unique<FileQueue>();
     connect(m_job.get(), &FileQueue::finished, this, &PrintDialog::jobFinished);
     connect(m_job.get(), &FileQueue::pageReached, this,
             [this](int page) { m_progressText->setText(tr("Printing page %1…").arg(page)); });
     m_job->print(m_request.documents, ticket, m_printer->printer.ppdPath, output);
+    showJobRunning(true);
 }
 
 void PrintDialog::jobFinished(const QString &problem)
@@ -105,14 +109,14 @@ void PrintDialog::jobFinished(const QString &problem)
         m_message->showMessage(MessageBar::Kind::Problem, problem);
         return;
     }
-    m_printedTo = QFileInfo(QDir::fromNativeSeparators(m_output->text())).absoluteFilePath();
+    m_printedTo = QFileInfo(m_jobOutput).absoluteFilePath();
     QDialog::accept();
 }
 
 // Only what would start a second job is disabled: never an ancestor of a panel.
 void PrintDialog::showJobRunning(bool running)
 {
-    m_print->setEnabled(!running);
+    updatePrintButton();
     m_printers->setEnabled(!running);
     m_progressText->setText(running ? tr("Printing…") : QString());
     m_progress->setVisible(running);

@@ -1,5 +1,7 @@
 #include "dialog/app/PrintDialog.h"
 
+#include <utility>
+
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
@@ -22,6 +24,7 @@
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/PanelPage.h"
 #include "dialog/pages/SummaryPage.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "platform/foundation/Bundle.h"
@@ -32,8 +35,6 @@
 namespace corvana {
 
 namespace {
-
-constexpr QLatin1StringView kPageRanges{"page-ranges"};
 
 // The dialog's own help, in the localisation that suits the user best; null when there is none.
 QString dialogHelpPage()
@@ -102,6 +103,8 @@ void PrintDialog::buildWindow()
     addPageShortcuts();
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageEntered);
     connectControlAction(m_printers, [this](QWidget *) {
+        if (m_printers->currentIndex() == m_request.chosenPrinter)
+            return; // picked again: nothing that was set so far is lost
         m_request.chosenPrinter = m_printers->currentIndex();
         openChosenPrinter();
         bringUpPanels();
@@ -189,15 +192,18 @@ QWidget *PrintDialog::buildOutputRow()
 void PrintDialog::openChosenPrinter()
 {
     closePrinter();
+    m_message->dismiss(); // and with it an action that was meant for the other printer
     const Printer &printer = m_request.printers.at(m_request.chosenPrinter);
     QString error;
     m_printer = openPrinter(printer, m_request.bundleRoots, m_presenter, &error);
-    m_print->setEnabled(m_printer != nullptr);
+    m_panelsUp = false;
+    m_printable = m_printer && m_printer->panelProblem.isEmpty();
+    updatePrintButton();
     if (!m_printer) {
         m_message->showMessage(MessageBar::Kind::Problem, error);
         return;
     }
-    if (!m_printer->panelProblem.isEmpty())
+    if (!m_printable)
         m_message->showMessage(MessageBar::Kind::Problem,
                                tr("The printer's own settings are missing: %1")
                                    .arg(m_printer->panelProblem));
@@ -207,6 +213,11 @@ void PrintDialog::openChosenPrinter()
             Qt::QueuedConnection);
     updateSilencedAlerts();
     fillPages();
+}
+
+void PrintDialog::updatePrintButton()
+{
+    m_print->setEnabled(m_printable && !m_job);
 }
 
 // The panels delete their views, so they go while the pages still stand.
@@ -233,7 +244,7 @@ void PrintDialog::fillPages()
     for (const auto &panel : m_printer->panels->panels()) {
         auto *page = new PanelPage;
         m_panelPages += page;
-        m_pages->addTab(page, panel->panelName());
+        m_pages->addTab(page, panel->panelName().replace(u'&', QStringLiteral("&&")));
     }
     m_summary = new SummaryPage;
     m_pages->addTab(m_summary, tr("Summary"));
@@ -248,41 +259,56 @@ void PrintDialog::paintEvent(QPaintEvent *event)
         QTimer::singleShot(0, this, &PrintDialog::bringUpPanels);
 }
 
-void PrintDialog::bringUpPanels()
+// Brings the panels up and the requested options in, once for a printer. False when the options
+// could not be taken; the message then says why.
+bool PrintDialog::bringUpPanels()
 {
-    if (!m_printer)
-        return;
+    if (!m_printer || std::exchange(m_panelsUp, true))
+        return true;
     m_printer->panels->bringUp();
-    QStringList problems = takeInterfaceProblems();
-    for (int i = 0; i < m_panelPages.size(); ++i) {
-        if (QWidget *view = m_printer->panels->panels().at(i)->panelView())
-            m_panelPages.at(i)->setPanelView(view);
-        else
-            m_panelPages.at(i)->setProblem(
-                tr("This page cannot be shown: %1").arg(problems.join(u'\n')));
-    }
-    if (!problems.isEmpty())
-        m_message->showMessage(MessageBar::Kind::Problem,
-                               tr("A page of the printer's settings cannot be shown: %1")
-                                   .arg(problems.join(u'\n')));
-    applyRequestedOptions();
-    m_general->refresh();
+    showPanelViews();
+    const bool applied = applyRequestedOptions();
+    refreshPages();
     pageEntered(m_pages->currentIndex());
+    return applied;
 }
 
-void PrintDialog::applyRequestedOptions()
+void PrintDialog::showPanelViews()
 {
+    const QString problem = takeInterfaceProblems().join(u'\n');
+    for (int i = 0; i < m_panelPages.size(); ++i) {
+        if (QWidget *view = m_printer->panels->views().at(i)) {
+            m_panelPages.at(i)->setPanelView(view);
+            continue;
+        }
+        m_panelPages.at(i)->setProblem(tr("This page cannot be shown: %1").arg(problem));
+        // Without its controls a panel would print other choices than with them.
+        m_printable = false;
+        m_message->showMessage(
+            MessageBar::Kind::Problem,
+            tr("A page of the printer's settings cannot be shown: %1").arg(problem));
+    }
+    updatePrintButton();
+}
+
+bool PrintDialog::applyRequestedOptions()
+{
+    // What happens on the way is part of the outcome, not an event of the user's.
+    m_printer->panels->blockSignals(true);
     const OptionOutcome outcome = applyOptions(m_request.options, *m_printer->session,
                                                m_printer->jobValues, *m_printer->panels);
+    m_printer->panels->blockSignals(false);
     m_attributes = outcome.attributes;
     for (const JobOption &attribute : std::as_const(m_attributes)) {
-        if (attribute.name == kPageRanges)
+        if (attribute.name == kPageRangesAttribute)
             m_general->setPageRanges(attribute.value);
     }
     if (!outcome.ok())
         m_message->showMessage(MessageBar::Kind::Problem,
-                               tr("These options were not set:\n%1")
+                               tr("None of the options of the command line was set, because of "
+                                  "these:\n%1")
                                    .arg(outcome.problems.join(u'\n')));
+    return outcome.ok();
 }
 
 int PrintDialog::panelOfPage(int page) const
@@ -292,16 +318,25 @@ int PrintDialog::panelOfPage(int page) const
 
 void PrintDialog::pageEntered(int page)
 {
-    if (!m_printer)
+    if (!m_printer || !m_panelsUp)
         return;
     m_printer->panels->visit(panelOfPage(page));
-    if (m_pages->widget(page) == m_summary)
+    refreshPages();
+    followPanelView();
+}
+
+void PrintDialog::refreshPages()
+{
+    m_general->refresh();
+    if (m_pages->currentWidget() == m_summary)
         m_summary->setLines(
             sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
+    m_shown = m_printer->session->snapshot();
 }
 
 void PrintDialog::propose(const QString &keyword, const QString &choice)
 {
+    bringUpPanels();
     m_message->dismiss();
     const ChangeResult result =
         m_printer->session->change(keyword, choice, PpdSession::Origin::Dialog);
@@ -313,11 +348,13 @@ void PrintDialog::propose(const QString &keyword, const QString &choice)
 
 void PrintDialog::settled()
 {
-    updateSilencedAlerts();
-    m_general->refresh();
     const QList<Refusal> refusals = m_printer->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         showRefusal(refusal);
+    // Refreshing asks the panels, which save again: only a state that is really another one counts.
+    if (m_printer->session->snapshot() != m_shown || !refusals.isEmpty())
+        refreshPages();
+    updateSilencedAlerts();
 }
 
 QString PrintDialog::textOf(const OptionChoice &choice) const
@@ -348,7 +385,7 @@ void PrintDialog::showRefusal(const Refusal &refusal)
         [this, wayOut, refusal] {
             m_printer->session->changeTogether(QList<OptionChoice>(wayOut) << refusal.proposed);
             m_printer->panels->deliverPending();
-            m_general->refresh();
+            refreshPages();
         });
 }
 

@@ -56,8 +56,11 @@ private:
     void openChosenPrinter();
     void closePrinter();
     void fillPages();
-    void bringUpPanels();
-    void applyRequestedOptions();
+    bool bringUpPanels();
+    void showPanelViews();
+    bool applyRequestedOptions();
+    void refreshPages();
+    void updatePrintButton();
     void pageEntered(int page);
     void propose(const QString &keyword, const QString &choice);
     void settled();
@@ -86,7 +89,10 @@ private:
     QString m_printedTo;
     QString m_chosenOutput; // the name that the user has confirmed to overwrite
     bool m_painted = false;
-    bool m_optionsApplied = false;
+    bool m_panelsUp = false;
+    bool m_printable = false; // nothing that belongs to the printer is missing
+    SessionSnapshot m_shown;   // the state that the pages show
+    QString m_jobOutput;       // where the running job goes
 
     QComboBox *m_printers = nullptr;
     QLabel *m_document = nullptr;

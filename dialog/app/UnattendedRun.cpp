@@ -63,8 +63,6 @@ int runUnattended(const PrintRequest &request)
     if (printing && !printer->panels->shouldPrint())
         return refused({QCoreApplication::translate("UnattendedRun",
                                                     "The printer's settings hold the job back.")});
-    if (const QStringList problems = refusalMessages(*printer->session); !problems.isEmpty())
-        return refused(problems);
     if (presenter.jobMustWait()) {
         return refused({request.onAlert == AlertPolicy::Hold
                             ? QCoreApplication::translate(
@@ -74,12 +72,17 @@ int runUnattended(const PrintRequest &request)
                             : QCoreApplication::translate(
                                 "UnattendedRun", "The printer's settings show instructions.")});
     }
-    const JobTicket ticket =
-        makeTicket(*printer, options.attributes, request.title, request.copies);
     QTextStream out(stdout);
+    // Before the ticket: the panels restore and save on the way.
     if (request.summary)
         out << summaryText(sessionSummary(*printer->session, *printer->panels, request.copies))
             << Qt::flush;
+    const QStringList problems =
+        refusalMessages(*printer->session) + jobProblems(*printer->session, printer->jobValues);
+    if (!problems.isEmpty())
+        return refused(problems);
+    const JobTicket ticket =
+        makeTicket(*printer, options.attributes, request.title, request.copies);
     if (!printing)
         return 0;
 

@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <cstdio>
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -132,7 +134,9 @@ void FileQueue::print(const Document &document, const JobTicket &ticket, const Q
 void FileQueue::print(const QList<Document> &documents, const JobTicket &ticket,
                       const QString &ppdPath, const QString &outputPath)
 {
-    m_outputPath = QFileInfo(outputPath).absoluteFilePath();
+    // A link stays a link: the result takes the place of what it leads to.
+    const QFileInfo output(outputPath);
+    m_outputPath = output.exists() ? output.canonicalFilePath() : output.absoluteFilePath();
     const QString problem = prepare(documents, ticket, ppdPath);
     if (problem.isEmpty())
         startNextStep();
@@ -153,6 +157,8 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         return tr("%1 cannot be read.").arg(ppdPath);
     if (QFileInfo(m_outputPath).isDir())
         return tr("%1 is a folder; the name of a file was expected.").arg(m_outputPath);
+    if (QFileInfo::exists(m_outputPath) && !QFileInfo(m_outputPath).isFile())
+        return tr("%1 is a device or a pipe; the name of a file was expected.").arg(m_outputPath);
     // Beside the result, so that taking its place is one step.
     m_result = std::make_unique<QTemporaryFile>(m_outputPath + QStringLiteral(".XXXXXX.part"));
     if (!m_result->open())
@@ -246,9 +252,9 @@ void FileQueue::stepFinished(int exitCode, QProcess::ExitStatus status)
 QString FileQueue::takeResult()
 {
     // Temporary files are private; a print file is as readable as the user's other files.
-    constexpr auto usual = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup
-        | QFileDevice::ReadOther;
-    m_result->setPermissions(usual);
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    ::chmod(QFile::encodeName(m_result->fileName()).constData(), 0666 & ~mask);
     if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
                     QFile::encodeName(m_outputPath).constData())
         != 0)
@@ -277,7 +283,7 @@ QString FileQueue::problemOfStep(int exitCode, QProcess::ExitStatus status)
 void FileQueue::finish(const QString &problem)
 {
     if (!problem.isEmpty())
-        qCWarning(lcJob).noquote() << problem;
+        qCInfo(lcJob).noquote() << problem; // whoever started the job tells its user
     m_result.reset();
     m_parts.reset();
     QTimer::singleShot(0, this, [this, problem] {

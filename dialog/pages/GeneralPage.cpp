@@ -90,7 +90,7 @@ void GeneralPage::addOption(const QString &keyword)
         Q_EMIT proposed(keyword, popup::representedObject(popUp, popUp->currentIndex()).toString());
     });
     auto *layout = static_cast<QFormLayout *>(this->layout());
-    layout->addRow(title + u':', popUp);
+    layout->addRow(QString(title).replace(u'&', QStringLiteral("&&")) + u':', popUp);
     m_popUps.insert(keyword, popUp);
 }
 

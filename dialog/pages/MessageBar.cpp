@@ -17,6 +17,7 @@ MessageBar::MessageBar(QWidget *parent)
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
     m_text->setObjectName(QStringLiteral("messageText"));
+    m_text->setTextFormat(Qt::PlainText); // names of files and options are no markup
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_action->setObjectName(QStringLiteral("messageAction"));

@@ -15,6 +15,8 @@ PanelPage::PanelPage(QWidget *parent) : QScrollArea(parent)
 
 PanelPage::~PanelPage()
 {
+    if (!m_holdsPanelView)
+        return;
     if (QWidget *view = takeWidget())
         view->setParent(nullptr);
 }
@@ -22,6 +24,7 @@ PanelPage::~PanelPage()
 void PanelPage::setPanelView(QWidget *view)
 {
     setWidget(view);
+    m_holdsPanelView = true;
     // The page looks like the other pages; the scroll area has just decided otherwise.
     view->setAutoFillBackground(false);
     followView();
@@ -40,6 +43,7 @@ int PanelPage::followView()
 void PanelPage::setProblem(const QString &problem)
 {
     auto *label = new QLabel(problem);
+    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -22,6 +22,9 @@ public:
     int followView();
     /// Shows why there is no view.
     void setProblem(const QString &problem);
+
+private:
+    bool m_holdsPanelView = false;
 };
 
 } // namespace corvana

@@ -11,13 +11,17 @@ constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
 constexpr QLatin1StringView kIdentifyingKeys{"PMPPDKeysIdentifying"};
 }
 
+QString namedBundle(ppd_file_t *ppd)
+{
+    const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr);
+    return named && named->value ? QString::fromUtf8(named->value) : QString();
+}
+
 PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle)
 {
     const QString bundleName = QFileInfo(bundle.path()).fileName();
-    if (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr)) {
-        if (QString::fromUtf8(named->value) == bundleName)
-            return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
-    }
+    if (namedBundle(ppd) == bundleName)
+        return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
     const QStringList keywords = bundle.infoStringList(kIdentifyingKeys).value_or(QStringList());
     QStringList missing;
     for (const QString &keyword : keywords) {

@@ -17,6 +17,9 @@ struct PanelDecision {
     QString reason; ///< for the log and for whoever asks
 };
 
+/// The file name of the bundle that a PPD names; null when it names none.
+QString namedBundle(ppd_file_t *ppd);
+
 /// A PPD gets the panels of the bundle that its attribute "QXPrintDialogExtension" names by file
 /// name, or of a bundle whose identifying keywords ("PMPPDKeysIdentifying" of its information
 /// dictionary) it defines, all of them.

@@ -5,11 +5,11 @@
 
 #include <QRegularExpression>
 
+#include "dialog/session/OptionNames.h"
+
 namespace corvana {
 
 namespace {
-
-constexpr QLatin1StringView kCustomPrefix{"Custom."};
 
 struct Unit {
     QLatin1StringView name;
@@ -92,7 +92,7 @@ std::optional<std::pair<double, double>> range(const ppd_cparam_t *parameter)
 
 CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const QString &value)
 {
-    if (keyword == QLatin1StringView("PageSize"))
+    if (keyword == kPageSizeOption)
         return ppd->variable_sizes ? checkPageSize(ppd, value) : CustomValueCheck{};
     const CustomValueCheck refused{std::nullopt, allowedCustomValues(ppd, keyword)};
     const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
@@ -116,7 +116,7 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
 
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
 {
-    if (keyword == QLatin1StringView("PageSize"))
+    if (keyword == kPageSizeOption)
         return ppd->variable_sizes ? allowedPageSizes(ppd) : QString();
     const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
     if (!parameter)

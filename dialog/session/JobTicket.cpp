@@ -1,38 +1,60 @@
 #include "dialog/session/JobTicket.h"
 
-#include <QLoggingCategory>
+#include <algorithm>
 
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 
 namespace corvana {
 
-Q_LOGGING_CATEGORY(lcTicket, "corvana.dialog.ticket", QtWarningMsg)
+namespace {
+
+QList<JobOption> ownOptions(const PpdSession &session, const PDEJobValues *jobValues)
+{
+    return jobValues ? jobValues->jobOptions(session.printSettings(), session.ppd())
+                     : QList<JobOption>();
+}
+
+bool names(const QList<JobOption> &options, const QString &keyword)
+{
+    return std::any_of(options.cbegin(), options.cend(),
+                       [&](const JobOption &option) { return option.name == keyword; });
+}
+
+bool lacksValue(const PpdSession &session, const QString &keyword)
+{
+    return session.markedChoice(keyword) == kCustomChoice && session.customValue(keyword).isNull();
+}
+
+} // namespace
 
 QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobValues,
                             const QList<JobOption> &attributes)
 {
-    QList<JobOption> own;
-    if (jobValues)
-        own = jobValues->jobOptions(session.printSettings(), session.ppd());
-    const auto replaced = [&own](const QString &keyword) {
-        return std::any_of(own.cbegin(), own.cend(),
-                           [&](const JobOption &option) { return option.name == keyword; });
-    };
+    const QList<JobOption> own = ownOptions(session, jobValues);
     QList<JobOption> options;
     for (const ppd_option_t *option : session.options()) {
         const QString keyword = ppdKeyword(option->keyword);
         const QString marked = session.markedChoice(keyword);
-        if (marked.isNull() || replaced(keyword))
+        // Without its number a custom choice would reach the printer as some number of chance.
+        if (marked.isNull() || names(own, keyword) || lacksValue(session, keyword))
             continue;
         const QString custom = session.customValue(keyword);
-        if (marked == QLatin1StringView("Custom") && custom.isNull()) {
-            // Without its number the choice would reach the printer as some number of chance.
-            qCWarning(lcTicket) << keyword << "is custom, but nobody gave it a value";
-            continue;
-        }
         options += JobOption{keyword, custom.isNull() ? marked : custom};
     }
     return options + own + attributes;
+}
+
+QStringList optionsWithoutValue(const PpdSession &session, const PDEJobValues *jobValues)
+{
+    const QList<JobOption> own = ownOptions(session, jobValues);
+    QStringList keywords;
+    for (const ppd_option_t *option : session.options()) {
+        const QString keyword = ppdKeyword(option->keyword);
+        if (lacksValue(session, keyword) && !names(own, keyword))
+            keywords += keyword;
+    }
+    return keywords;
 }
 
 } // namespace corvana

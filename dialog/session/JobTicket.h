@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include "platform/pde/PDEJobValues.h"
 
@@ -23,5 +24,9 @@ struct JobTicket {
 /// `jobValues` may be null.
 QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobValues,
                             const QList<JobOption> &attributes);
+
+/// Options that are marked "Custom" while nobody has given them a value: jobOptions() leaves them
+/// out, and such a job must not be printed.
+QStringList optionsWithoutValue(const PpdSession &session, const PDEJobValues *jobValues);
 
 } // namespace corvana

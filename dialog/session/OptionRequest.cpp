@@ -10,14 +10,14 @@
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/JobTicket.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/PanelHost.h"
 #include "dialog/session/PpdSession.h"
 
 namespace corvana {
 
 namespace {
-
-constexpr QLatin1StringView kCustomPrefix{"Custom."};
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(OptionRequest)
@@ -38,7 +38,7 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
     QStringList allowed;
     for (int i = 0; i < option->num_choices; ++i) {
         if (const QString choice = ppdKeyword(option->choices[i].choice);
-            choice != QLatin1StringView("Custom"))
+            choice != kCustomChoice)
             allowed += choice;
     }
     const QString custom = allowedCustomValues(ppd, ppdKeyword(option->keyword));
@@ -50,7 +50,9 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
 // The PPD's page size for a media name: its own keyword, or a standard name of the same size.
 QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
 {
-    if (ppdChoice(ppdOption(ppd, QStringLiteral("PageSize")), media))
+    if (media == kCustomChoice)
+        return {};
+    if (ppdChoice(ppdOption(ppd, kPageSizeOption), media))
         return media;
     const QByteArray name = media.toUtf8();
     const pwg_media_t *standard = pwgMediaForPWG(name.constData());
@@ -93,7 +95,7 @@ public:
             return;
         else
             refuse(option, Texts::tr("this printer has no such option. Options: %1. Job attributes: %2.")
-                               .arg(optionNames(), jobAttributeNames().join(QStringLiteral(", "))));
+                               .arg(optionNames(), attributeNames()));
     }
 
 private:
@@ -115,14 +117,21 @@ private:
         return names.join(QStringLiteral(", "));
     }
 
+    static QString attributeNames()
+    {
+        // The first two are translated into options of the printer.
+        return (QStringList{QStringLiteral("media"), QStringLiteral("sides")} + jobAttributeNames())
+            .join(QStringLiteral(", "));
+    }
+
     void addMedia(const JobOption &option)
     {
         const QString size = pageSizeOfMedia(m_session.ppd(), option.value);
         if (!size.isNull())
-            choices += OptionChoice{QStringLiteral("PageSize"), size};
+            choices += OptionChoice{QString(kPageSizeOption), size};
         else if (option.value.startsWith(kCustomPrefix))
-            addChoice({QStringLiteral("PageSize"), option.value});
-        else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), QStringLiteral("PageSize")))
+            addChoice({QString(kPageSizeOption), option.value});
+        else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), QString(kPageSizeOption)))
             refuseValue(option, allowedChoices(m_session.ppd(), sizes));
         else
             refuse(option, Texts::tr("this printer has no paper sizes to choose from."));
@@ -136,10 +145,10 @@ private:
         };
         static constexpr Side kSides[] = {
             {QLatin1StringView("one-sided"), QLatin1StringView()},
-            {QLatin1StringView("two-sided-long-edge"), QLatin1StringView("DuplexNoTumble")},
-            {QLatin1StringView("two-sided-short-edge"), QLatin1StringView("DuplexTumble")},
+            {QLatin1StringView("two-sided-long-edge"), kDuplexLongEdge},
+            {QLatin1StringView("two-sided-short-edge"), kDuplexShortEdge},
         };
-        const QString keyword = QStringLiteral("Duplex");
+        const QString keyword = kDuplexOption;
         ppd_option_t *duplex = ppdOption(m_session.ppd(), keyword);
         QStringList allowed;
         for (const Side &side : kSides) {
@@ -179,8 +188,8 @@ private:
     bool addChoice(const JobOption &option)
     {
         ppd_option_t *found = ppdOption(m_session.ppd(), option.name);
-        if (!found)
-            return false;
+        if (!found || option.name == kPageRegionOption)
+            return false; // the page region follows the page size
         if (option.value.startsWith(kCustomPrefix)) {
             const CustomValueCheck check =
                 checkCustomValue(m_session.ppd(), option.name, option.value);
@@ -188,7 +197,7 @@ private:
                 choices += OptionChoice{option.name, *check.value};
             else
                 refuseValue(option, allowedChoices(m_session.ppd(), found));
-        } else if (ppdChoice(found, option.value) && option.value != QLatin1StringView("Custom")) {
+        } else if (ppdChoice(found, option.value) && option.value != kCustomChoice) {
             choices += OptionChoice{option.name, option.value};
         } else {
             refuseValue(option, allowedChoices(m_session.ppd(), found));
@@ -212,26 +221,19 @@ private:
     const PDEJobValues *m_jobValues;
 };
 
-// The job option of that name which the panels' entries stand for now.
-std::optional<JobOption> jobOptionNamed(const QString &name, const PpdSession &session,
-                                        const PDEJobValues &jobValues)
-{
-    const QList<JobOption> options = jobValues.jobOptions(session.printSettings(), session.ppd());
-    const auto found = std::find_if(options.cbegin(), options.cend(),
-                                    [&](const JobOption &option) { return option.name == name; });
-    return found == options.cend() ? std::nullopt : std::optional(*found);
-}
-
-// What the panels made of the choices that were asked for, where it is something else.
-QStringList differences(const Request &request, const PpdSession &session)
+// What the panels made of that which was asked for, where it is something else.
+QStringList differences(const QList<JobOption> &expected, const PpdSession &session,
+                        const PDEJobValues *jobValues)
 {
     QStringList problems;
-    for (const OptionChoice &choice : request.choices) {
-        const QString custom = session.customValue(choice.keyword);
-        const QString now = custom.isNull() ? session.markedChoice(choice.keyword) : custom;
-        if (now != choice.choice) {
+    const QList<JobOption> job = jobOptions(session, jobValues, {});
+    for (const JobOption &option : expected) {
+        const auto now = std::find_if(job.cbegin(), job.cend(), [&](const JobOption &candidate) {
+            return candidate.name == option.name;
+        });
+        if (now == job.cend() || now->value != option.value) {
             problems += Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
-                            .arg(named(choice), now);
+                            .arg(asked(option), now == job.cend() ? QString() : now->value);
         }
     }
     return problems;
@@ -246,6 +248,52 @@ QString conflictMessage(const Refusal &refusal)
         others += named(other);
     return Texts::tr("%1: this cannot be combined with %2.")
         .arg(named(refusal.proposed), others.join(QStringLiteral(", ")));
+}
+
+QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
+{
+    if (!jobValues)
+        return {};
+    QStringList problems;
+    const QList<JobOption> marks = jobValues->impliedMarks(session.printSettings(), session.ppd());
+    for (const JobOption &mark : marks) {
+        const ChangeResult result =
+            session.change(mark.name, mark.value, PpdSession::Origin::Dialog);
+        if (!result.accepted())
+            problems += conflictMessage({{mark.name, mark.value}, result.conflicting});
+    }
+    return problems;
+}
+
+bool isWellFormed(const QString &argument)
+{
+    // cupsParseOptions() stops silently where it understands no more; then it never comes to an
+    // option that is put at the end.
+    const QString end = QStringLiteral("corvana-end-of-options");
+    const QList<JobOption> parsed =
+        parseOptions({argument + QStringLiteral(" %1=1").arg(end)});
+    return parsed.size() > 1 && std::any_of(parsed.cbegin(), parsed.cend(), [&](const JobOption &option) {
+        return option == JobOption{end, QStringLiteral("1")};
+    });
+}
+
+QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues)
+{
+    QStringList problems;
+    const QList<JobOption> own =
+        jobValues ? jobValues->jobOptions(session.printSettings(), session.ppd())
+                  : QList<JobOption>();
+    for (const JobOption &option : own) {
+        const OptionChoice choice{option.name, option.value};
+        const QList<OptionChoice> conflicting = session.conflictsOf(choice);
+        if (!conflicting.isEmpty())
+            problems += conflictMessage({choice, conflicting});
+    }
+    for (const QString &keyword : optionsWithoutValue(session, jobValues)) {
+        problems += Texts::tr("%1=Custom: a value is missing. Allowed: %2.")
+                        .arg(keyword, allowedCustomValues(session.ppd(), keyword));
+    }
+    return problems;
 }
 
 QList<JobOption> parseOptions(const QStringList &arguments)
@@ -270,7 +318,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     Request request(session, jobValues);
     for (const JobOption &option : requested)
         request.add(option);
-    OptionOutcome outcome{request.problems, request.attributes};
+    OptionOutcome outcome{request.problems, {}};
     if (!outcome.ok())
         return outcome;
 
@@ -279,34 +327,29 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
         outcome.problems += conflictMessage(conflict);
     if (!outcome.ok())
         return outcome;
+    outcome.attributes = request.attributes;
 
-    QMap<QString, std::optional<JobOption>> expected;
+    QList<JobOption> expected;
+    for (const OptionChoice &choice : std::as_const(request.choices))
+        expected += JobOption{choice.keyword, choice.choice};
     for (const JobOption &option : std::as_const(request.panelValues)) {
-        jobValues->takeJobOption(option, session.printSettings(), session.ppd());
-        expected.insert(option.name, jobOptionNamed(option.name, session, *jobValues));
+        const JobValueClaim claim =
+            jobValues->takeJobOption(option, session.printSettings(), session.ppd());
+        expected += claim.standsFor;
     }
-    if (jobValues) {
-        const QList<JobOption> marks = jobValues->impliedMarks(session.printSettings(), session.ppd());
-        for (const JobOption &mark : marks)
-            session.change(mark.name, mark.value, PpdSession::Origin::Dialog);
-    }
+    outcome.problems = markImplied(session, jobValues);
     panels.deliverPending();
     panels.restoreAll();
 
-    outcome.problems = differences(request, session);
-    for (auto value = expected.cbegin(); value != expected.cend(); ++value) {
-        const auto now = jobOptionNamed(value.key(), session, *jobValues);
-        if (now != value.value()) {
-            outcome.problems += Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
-                                    .arg(value.value() ? asked(*value.value()) : value.key(),
-                                         now ? asked(*now) : Texts::tr("the printer's own setting"));
-        }
-    }
     for (const Refusal &refusal : session.takeRefusals())
         outcome.problems += conflictMessage(refusal);
+    outcome.problems += jobProblems(session, jobValues);
+    if (outcome.ok())
+        outcome.problems = differences(expected, session, jobValues);
     if (!outcome.ok()) {
         session.restore(before);
         panels.restoreAll();
+        outcome.attributes.clear();
     }
     return outcome;
 }

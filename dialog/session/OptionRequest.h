@@ -36,6 +36,16 @@ struct OptionOutcome {
 OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &session,
                            const PDEJobValues *jobValues, PanelHost &panels);
 
+/// Whether an argument of `-o` can be read to its end.
+bool isWellFormed(const QString &argument);
+
+/// Marks the choices that the stored entries imply. Answers what refused them.
+QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues);
+
+/// What keeps a session from being printed as it stands: a value of the panels' own that collides
+/// with a marked choice, or a custom choice without its value.
+QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues);
+
 /// What a refusal says in a terminal: the options by their keywords.
 QString conflictMessage(const Refusal &refusal);
 

@@ -5,7 +5,9 @@
 
 #include <QLoggingCategory>
 #include <QTimer>
+#include <QWidget>
 
+#include "dialog/session/OptionNames.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPlugIn.h"
 #include "platform/toolkit/Alert.h"
@@ -17,8 +19,7 @@ Q_LOGGING_CATEGORY(lcPanels, "corvana.dialog.panels", QtWarningMsg)
 namespace {
 
 // After a change of these the panels restore: their rules read them from the PPD and the settings.
-constexpr QLatin1StringView kRestoreAfter[] = {QLatin1StringView("QXOutput"),
-                                               QLatin1StringView("AP_ColorMatchingMode")};
+constexpr QLatin1StringView kRestoreAfter[] = {kOutputOption, kColorMatchingModeOption};
 
 bool panelsMustRestore(const QString &keyword)
 {
@@ -74,11 +75,19 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
                                                 [this] { Q_EMIT viewResized(); }))
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
+    connect(&session, &PpdSession::panelRefused, this, [this] {
+        m_refusalUntold = true;
+        scheduleDelivery();
+    });
+    m_told = session.snapshot().marks;
     if (!plugIn)
         return;
     m_panels = plugIn->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType),
                                                      m_callback);
-    deliverPending();
+    // What the panels changed while they were constructed they find when they are brought up, and
+    // nothing is told to a panel before that.
+    m_pending.clear();
+    m_told = session.snapshot().marks;
 }
 
 PanelHost::~PanelHost() = default;
@@ -89,7 +98,8 @@ void PanelHost::bringUp()
         return;
     for (const auto &panel : std::as_const(m_panels)) {
         const Call call(*this, *panel);
-        if (!panel->panelView())
+        m_views += panel->panelView();
+        if (!m_views.constLast())
             qCWarning(lcPanels) << "the panel" << panel->panelKind() << "has no view";
         panel->willShow();
         panel->shouldHide();
@@ -120,6 +130,8 @@ void PanelHost::visit(int panel)
 
 void PanelHost::restoreAll()
 {
+    m_pending.clear();
+    m_told = m_session.snapshot().marks; // all of them is what the panels read now
     for (const auto &panel : std::as_const(m_panels)) {
         const Call call(*this, *panel);
         panel->restoreValuesAndReturnError(nullptr);
@@ -187,12 +199,12 @@ void PanelHost::deliverPending()
 {
     if (panelIsBusy())
         return; // when it has returned, delivery is scheduled again
-    const bool anything = !m_pending.isEmpty();
+    bool anything = std::exchange(m_refusalUntold, false);
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
     constexpr int kMostRounds = 10;
     for (int round = 0; !m_pending.isEmpty() && round < kMostRounds; ++round)
-        deliverOnce();
+        anything = deliverOnce() || anything;
     if (!m_pending.isEmpty()) {
         qCWarning(lcPanels) << "the panels keep changing" << m_pending.firstKey();
         m_pending.clear();
@@ -201,11 +213,18 @@ void PanelHost::deliverPending()
         Q_EMIT settled();
 }
 
-void PanelHost::deliverOnce()
+bool PanelHost::deliverOnce()
 {
+    bool anything = false;
     const QMap<QString, Change> changes = std::exchange(m_pending, {});
     bool restore = false;
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        // A box that is ticked but disabled goes on and off again at every save; what counts is
+        // whether something is different now.
+        if (m_told.value(change.key()) == change->choice)
+            continue;
+        m_told.insert(change.key(), change->choice);
+        anything = true;
         restore = restore || panelsMustRestore(change.key());
         for (const auto &panel : std::as_const(m_panels)) {
             if (panel.get() == change->source)
@@ -214,12 +233,13 @@ void PanelHost::deliverOnce()
             panel->PPDOptionKeyValueDidChange_ppdChoice(change.key(), change->choice);
         }
     }
-    if (!restore)
-        return;
     for (const auto &panel : std::as_const(m_panels)) {
+        if (!restore)
+            break;
         const Call call(*this, *panel);
         panel->restoreValuesAndReturnError(nullptr);
     }
+    return anything;
 }
 
 void PanelHost::saveVisible()

@@ -5,10 +5,13 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QPointer>
 #include <QVariant>
 
 #include "dialog/session/HostCallback.h"
 #include "dialog/session/PpdSession.h"
+
+class QWidget;
 
 namespace corvana {
 
@@ -43,6 +46,8 @@ public:
     /// Brings every panel up once: its view is loaded, it is shown and hidden. Several rules run
     /// only on loaded controls, so a panel that nobody visits must have been up as well.
     void bringUp();
+    /// The views of the panels that were brought up, in their order; null for one that has none.
+    const QList<QPointer<QWidget>> &views() const { return m_views; }
 
     /// The user goes to a panel (its index) or to a page of the dialog (-1).
     void visit(int panel);
@@ -62,7 +67,7 @@ public:
     void deliverPending();
 
 Q_SIGNALS:
-    /// All panels know of all changes.
+    /// All panels know of all changes; or a proposal of one was refused.
     void settled();
     /// A panel's view asks for another size. Receivers must not call a panel.
     void viewResized();
@@ -76,7 +81,7 @@ private:
     };
 
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
-    void deliverOnce();
+    bool deliverOnce();
     void scheduleDelivery();
     bool panelIsBusy() const { return !m_callStack.isEmpty() || m_runningAlerts > 0; }
     void saveVisible();
@@ -90,6 +95,9 @@ private:
     QList<PDEPanel *> m_callStack;
     int m_runningAlerts = 0;
     QMap<QString, Change> m_pending;
+    QMap<QString, QString> m_told; // the marks that all panels know of
+    QList<QPointer<QWidget>> m_views;
+    bool m_refusalUntold = false;
     bool m_scheduled = false;
     bool m_broughtUp = false;
 };

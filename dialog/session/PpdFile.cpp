@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include "dialog/session/OptionNames.h"
+
 namespace corvana {
 
 Q_LOGGING_CATEGORY(lcPpd, "corvana.dialog.ppd", QtWarningMsg)
@@ -12,8 +14,8 @@ namespace {
 
 void keepOneSidedAsDefault(ppd_file_t *ppd)
 {
-    ppd_option_t *duplex = ppdOption(ppd, QStringLiteral("Duplex"));
-    const ppd_choice_t *oneSided = ppdChoice(duplex, QStringLiteral("None"));
+    ppd_option_t *duplex = ppdOption(ppd, kDuplexOption);
+    const ppd_choice_t *oneSided = ppdChoice(duplex, kDuplexNone);
     if (!oneSided || qstrcmp(duplex->defchoice, oneSided->choice) == 0)
         return;
     qCInfo(lcPpd) << "two-sided printing is the queue's default:" << duplex->defchoice;

@@ -4,17 +4,13 @@
 
 #include <QLoggingCategory>
 
+#include "dialog/session/OptionNames.h"
+
 namespace corvana {
 
 Q_LOGGING_CATEGORY(lcSession, "corvana.dialog.session", QtWarningMsg)
 
 namespace {
-
-constexpr QLatin1StringView kPageSize{"PageSize"};
-constexpr QLatin1StringView kPageRegion{"PageRegion"};
-constexpr QLatin1StringView kDuplex{"Duplex"};
-constexpr QLatin1StringView kCustom{"Custom"};
-constexpr QLatin1StringView kCustomPrefix{"Custom."};
 
 QList<OptionChoice> takeOptions(int count, cups_option_t *options)
 {
@@ -28,7 +24,7 @@ QList<OptionChoice> takeOptions(int count, cups_option_t *options)
 // The keyword under which a choice stands in the PPD: all custom values are the one choice "Custom".
 QString choiceKeyword(const QString &choice)
 {
-    return choice.startsWith(kCustomPrefix) ? QString(kCustom) : choice;
+    return choice.startsWith(kCustomPrefix) ? QString(kCustomChoice) : choice;
 }
 
 } // namespace
@@ -52,7 +48,7 @@ QList<ppd_option_t *> PpdSession::options() const
     for (int g = 0; g < m_ppd->num_groups; ++g) {
         const ppd_group_t &group = m_ppd->groups[g];
         for (int o = 0; o < group.num_options; ++o) {
-            if (ppdKeyword(group.options[o].keyword) != kPageRegion)
+            if (ppdKeyword(group.options[o].keyword) != kPageRegionOption)
                 found += &group.options[o];
         }
     }
@@ -68,7 +64,8 @@ QString PpdSession::markedChoice(const QString &keyword) const
 ChangeResult PpdSession::change(const QString &keyword, const QString &choice, Origin origin)
 {
     using Outcome = ChangeResult::Outcome;
-    ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
+    // The page region follows the page size; marking it alone would leave the job without a paper.
+    ppd_option_t *option = keyword == kPageRegionOption ? nullptr : ppdOption(m_ppd.get(), keyword);
     if (!option) {
         qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
         return {Outcome::UnknownOption, {}};
@@ -85,8 +82,10 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
         if (!conflicting.isEmpty()) {
             qCInfo(lcSession) << "refused:" << keyword << choice << "collides with"
                               << conflicting.first().keyword << conflicting.first().choice;
-            if (origin == Origin::Panel)
+            if (origin == Origin::Panel) {
                 m_refusals.insert(keyword, Refusal{{keyword, choice}, conflicting});
+                Q_EMIT panelRefused();
+            }
             return {Outcome::Conflict, conflicting};
         }
         mark(keyword, choice);
@@ -94,7 +93,7 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     m_refusals.remove(keyword);
     m_printSettings.setValue(keyword, choiceKeyword(choice));
     if (!same) {
-        const bool otherPaper = keyword == kPageSize && updatePageFormat();
+        const bool otherPaper = keyword == kPageSizeOption && updatePageFormat();
         Q_EMIT changed(keyword, choiceKeyword(choice), origin);
         if (otherPaper)
             Q_EMIT paperChanged();
@@ -108,7 +107,7 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
     // The paper first: what else is possible may depend on it.
     QList<OptionChoice> ordered = choices;
     std::stable_partition(ordered.begin(), ordered.end(),
-                          [](const OptionChoice &c) { return c.keyword == kPageSize; });
+                          [](const OptionChoice &c) { return c.keyword == kPageSizeOption; });
     for (const OptionChoice &choice : std::as_const(ordered))
         mark(choice.keyword, choice.choice);
     QList<Refusal> refusals;
@@ -124,7 +123,8 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
     recordMarks();
     const bool otherPaper = updatePageFormat();
     for (const OptionChoice &choice : std::as_const(ordered)) {
-        if (before.marks.value(choice.keyword) != markedChoice(choice.keyword))
+        if (before.marks.value(choice.keyword) != markedChoice(choice.keyword)
+            || before.customValues.value(choice.keyword) != customValue(choice.keyword))
             Q_EMIT changed(choice.keyword, markedChoice(choice.keyword), Origin::Dialog);
     }
     if (otherPaper)
@@ -183,7 +183,7 @@ void PpdSession::mark(const QString &keyword, const QString &choice)
     ppdMarkOption(m_ppd.get(), keyword.toLatin1().constData(), choice.toLatin1().constData());
     if (choice.startsWith(kCustomPrefix))
         m_customValues.insert(keyword, choice);
-    else if (choice != kCustom)
+    else if (choice != kCustomChoice)
         m_customValues.remove(keyword);
 }
 
@@ -199,11 +199,11 @@ void PpdSession::recordMarks()
 bool PpdSession::updatePageFormat()
 {
     PageFormat format;
-    const QString marked = markedChoice(kPageSize);
-    const QString size = customValue(kPageSize).isNull() ? marked : customValue(kPageSize);
+    const QString marked = markedChoice(kPageSizeOption);
+    const QString size = customValue(kPageSizeOption).isNull() ? marked : customValue(kPageSizeOption);
     if (const ppd_size_t *found = ppdPageSize(m_ppd.get(), size.toLatin1().constData())) {
         format.paper.name = marked;
-        if (marked != kCustom)
+        if (marked != kCustomChoice)
             format.paper.ppdPaperName = marked;
         format.paper.width = static_cast<double>(found->width);
         format.paper.height = static_cast<double>(found->length);
@@ -213,15 +213,15 @@ bool PpdSession::updatePageFormat()
 
 void PpdSession::setDuplex(PMDuplexMode mode)
 {
-    const ppd_option_t *duplex = ppdOption(m_ppd.get(), kDuplex);
+    const ppd_option_t *duplex = ppdOption(m_ppd.get(), kDuplexOption);
     if (!duplex)
         return;
     QString choice = ppdKeyword(duplex->defchoice);
     if (mode == kPMDuplexNoTumble)
-        choice = QStringLiteral("DuplexNoTumble");
+        choice = kDuplexLongEdge;
     else if (mode == kPMDuplexTumble)
-        choice = QStringLiteral("DuplexTumble");
-    change(kDuplex, choice, Origin::Panel);
+        choice = kDuplexShortEdge;
+    change(kDuplexOption, choice, Origin::Panel);
 }
 
 QList<OptionChoice> PpdSession::conflictsOf(const OptionChoice &choice) const

@@ -93,6 +93,9 @@ public:
     /// Other choices that make room for the proposed one; empty when there are none.
     QList<OptionChoice> wayOut(const OptionChoice &proposed);
 
+    /// The marked choices that collide with a choice, marked or not; empty when none does.
+    QList<OptionChoice> conflictsOf(const OptionChoice &choice) const;
+
     SessionSnapshot snapshot() const;
     /// Goes back to an earlier state of this session.
     void restore(const SessionSnapshot &snapshot);
@@ -104,6 +107,8 @@ public:
 Q_SIGNALS:
     /// A choice was marked that was not marked before.
     void changed(const QString &keyword, const QString &choice, Origin origin);
+    /// What a panel proposed was refused; see takeRefusals().
+    void panelRefused();
     /// The paper is another one; everything else is already up to date.
     void paperChanged();
 
@@ -112,7 +117,6 @@ private:
     void recordMarks();
     bool updatePageFormat();
     void setDuplex(PMDuplexMode mode);
-    QList<OptionChoice> conflictsOf(const OptionChoice &choice) const;
 
     PpdFile m_ppd;
     PrintSettings m_printSettings;

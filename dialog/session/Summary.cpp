@@ -2,12 +2,13 @@
 
 #include <QCoreApplication>
 
+#include "dialog/session/OptionNames.h"
+
 namespace corvana {
 
 QStringList generalOptionKeywords()
 {
-    return {QStringLiteral("Duplex"), QStringLiteral("PageSize"), QStringLiteral("QXOutput"),
-            QStringLiteral("AP_ColorMatchingMode")};
+    return {kDuplexOption, kPageSizeOption, kOutputOption, kColorMatchingModeOption};
 }
 
 SummaryLine optionLine(const PpdSession &session, const QString &keyword)
@@ -22,9 +23,9 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
         const auto millimetres = [](double points) {
             return QString::number(qRound(points / 72.0 * 25.4));
         };
-        value = keyword == QLatin1StringView("PageSize")
+        value = keyword == kPageSizeOption
             ? QStringLiteral("%1 × %2 mm").arg(millimetres(paper.width), millimetres(paper.height))
-            : custom.mid(7);
+            : custom.mid(kCustomPrefix.size());
     }
     return {ppdText(option->text).value_or(keyword), value};
 }

@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <QDirIterator>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonObject>
 #include <QLoggingCategory>
 #include <QPluginLoader>
@@ -19,6 +21,9 @@ namespace {
 // Keys without which a bundle cannot work as a plug-in.
 constexpr QLatin1StringView kRequiredKeys[] = {kCFBundleNameKey, kCFBundleIdentifierKey,
                                                kCFBundleExecutableKey};
+
+// The list of the options that the bundle's panels handle; part of the contract with every host.
+constexpr QLatin1StringView kSupportedOptionsKey{"PMPPDKeysSupported"};
 
 // Why a file or folder below a trusted root cannot be trusted; null when it can.
 QString distrust(const QFileInfo &file, uint programOwner)
@@ -44,12 +49,43 @@ QString distrustOfPath(const QString &path, const QString &root)
     return {};
 }
 
+// Why something inside the bundle cannot be trusted; null when everything can.
+QString distrustOfContents(const QString &bundle)
+{
+    const uint programOwner = QFileInfo(QStringLiteral("/proc/self/exe")).ownerId();
+    QDirIterator contents(bundle, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                          QDirIterator::Subdirectories);
+    while (contents.hasNext()) {
+        contents.next();
+        const QFileInfo file = contents.fileInfo();
+        if (file.isSymLink() && !file.canonicalFilePath().startsWith(bundle + u'/'))
+            return QStringLiteral("%1 leads out of the bundle").arg(file.filePath());
+        const QString problem = distrust(file, programOwner);
+        if (!problem.isNull())
+            return problem;
+    }
+    return {};
+}
+
+FoundPlugIn unusable(const QString &problem)
+{
+    qCWarning(lcLoader).noquote() << problem;
+    return {nullptr, {}, problem};
+}
+
 LoadedPlugIn refused(const QString &problem)
 {
     qCWarning(lcLoader).noquote() << problem;
     LoadedPlugIn result;
     result.problem = problem;
     return result;
+}
+
+// Principal objects by module: a module is loaded, and told of its bundle, once in a process.
+QHash<QString, LoadedPlugIn> &loadedPlugIns()
+{
+    static QHash<QString, LoadedPlugIn> plugIns;
+    return plugIns;
 }
 
 // The canonical path of the bundle in the first root that has it; null when none has.
@@ -68,53 +104,78 @@ QString findBundle(const QString &fileName, const QStringList &roots, QString *r
 
 } // namespace
 
-LoadedPlugIn loadPlugInBundle(const QString &fileName, const QStringList &trustedRoots)
+FoundPlugIn findPlugInBundle(const QString &fileName, const QStringList &trustedRoots)
 {
     if (fileName.isEmpty() || fileName.contains(u'/') || fileName.startsWith(u'.'))
-        return refused(QStringLiteral("\"%1\" is no name of a plug-in bundle").arg(fileName));
+        return unusable(QStringLiteral("\"%1\" is no name of a plug-in bundle").arg(fileName));
     QString root;
     const QString path = findBundle(fileName, trustedRoots, &root);
-    if (path.isNull()) {
-        return refused(QStringLiteral("the plug-in bundle %1 is in none of the trusted folders: %2")
-                           .arg(fileName, trustedRoots.join(QStringLiteral(", "))));
-    }
+    if (path.isNull())
+        return {};
     if (!path.startsWith(root + u'/'))
-        return refused(QStringLiteral("%1 leads out of the trusted folder %2").arg(path, root));
+        return unusable(QStringLiteral("%1 leads out of the trusted folder %2").arg(path, root));
+    if (const QString problem = distrustOfPath(path, root); !problem.isNull())
+        return unusable(problem);
+    if (const QString problem = distrustOfContents(path); !problem.isNull())
+        return unusable(problem);
 
     QString error;
     const std::shared_ptr<Bundle> bundle = Bundle::open(path, &error);
     if (!bundle || !bundle->infoDictionary())
-        return refused(error);
+        return unusable(error);
     for (const QLatin1StringView key : kRequiredKeys) {
         if (bundle->infoString(key).isEmpty())
-            return refused(QStringLiteral("%1/info.json: the key \"%2\" with a text was expected")
-                               .arg(path, key));
+            return unusable(QStringLiteral("%1/info.json: the key \"%2\" with a text was expected")
+                                .arg(path, key));
     }
-
+    if (!bundle->infoStringList(kSupportedOptionsKey)) {
+        return unusable(QStringLiteral("%1/info.json: the key \"%2\" with a list of texts was expected")
+                            .arg(path, kSupportedOptionsKey));
+    }
     const QString name = bundle->infoString(kCFBundleExecutableKey);
     const QString module = QFileInfo(path + u'/' + name).canonicalFilePath();
     if (module.isEmpty())
-        return refused(QStringLiteral("%1: the module %2 is missing").arg(path, name));
+        return unusable(QStringLiteral("%1: the module %2 is missing").arg(path, name));
     if (!module.startsWith(path + u'/'))
-        return refused(QStringLiteral("%1 leads out of the bundle %2").arg(module, path));
-    if (const QString problem = distrustOfPath(module, root); !problem.isNull())
-        return refused(problem);
+        return unusable(QStringLiteral("%1 leads out of the bundle %2").arg(module, path));
+    return {bundle, module, {}};
+}
 
-    QPluginLoader loader(module);
+LoadedPlugIn loadPlugIn(const FoundPlugIn &found)
+{
+    if (!found.bundle)
+        return refused(found.problem);
+    if (const auto loaded = loadedPlugIns().constFind(found.module);
+        loaded != loadedPlugIns().constEnd())
+        return *loaded;
+    QPluginLoader loader(found.module);
     loader.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     const QString iid = loader.metaData().value(QLatin1StringView("IID")).toString();
     if (iid != QLatin1StringView(CORVANA_PDE_PLUGIN_IID)) {
         return refused(QStringLiteral("%1 was built for the contract \"%2\", this program needs \"%3\"")
-                           .arg(module, iid, QLatin1StringView(CORVANA_PDE_PLUGIN_IID)));
+                           .arg(found.module, iid, QLatin1StringView(CORVANA_PDE_PLUGIN_IID)));
     }
     // The module's panels look for their bundle while they are constructed.
-    Bundle::associateModule(module, bundle);
+    Bundle::associateModule(found.module, found.bundle);
     auto *plugIn = qobject_cast<PDEPlugIn *>(loader.instance());
     if (!plugIn)
-        return refused(QStringLiteral("%1: %2").arg(module, loader.errorString()));
-    if (!plugIn->initWithBundle(bundle))
-        return refused(QStringLiteral("%1: the plug-in cannot work with its bundle").arg(path));
-    return {bundle, plugIn, {}};
+        return refused(QStringLiteral("%1: %2").arg(found.module, loader.errorString()));
+    if (!plugIn->initWithBundle(found.bundle)) {
+        return refused(QStringLiteral("%1: the plug-in cannot work with its bundle")
+                           .arg(found.bundle->path()));
+    }
+    return *loadedPlugIns().insert(found.module, {found.bundle, plugIn, {}});
+}
+
+LoadedPlugIn loadPlugInBundle(const QString &fileName, const QStringList &trustedRoots)
+{
+    FoundPlugIn found = findPlugInBundle(fileName, trustedRoots);
+    if (!found.bundle && found.problem.isEmpty()) {
+        found.problem =
+            QStringLiteral("the plug-in bundle %1 is in none of the trusted folders: %2")
+                .arg(fileName, trustedRoots.join(QStringLiteral(", ")));
+    }
+    return loadPlugIn(found);
 }
 
 } // namespace corvana

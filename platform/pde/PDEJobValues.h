@@ -26,6 +26,9 @@ struct JobValueClaim {
     };
 
     Outcome outcome = Outcome::NotMine;
+    /// What an accepted option is in the job from now on, in the form that jobOptions() or the
+    /// PPD's mark gives it; so that the host can tell whether the panels left it at that.
+    JobOption standsFor;
     /// The values that would have been taken, for the message of a refusal ("1 to 99").
     QString allowed;
 };
@@ -44,8 +47,8 @@ public:
     virtual ~PDEJobValues() = default;
 
     /// The job options that the entries stand for: each in a form that the PPD defines and inside
-    /// the declared range, else as a plain job attribute. An option named here replaces the PPD's
-    /// mark of the same keyword.
+    /// the declared range, else as a plain job attribute; a value that is not in force gives its
+    /// default. An option named here replaces the PPD's mark of the same keyword.
     virtual QList<JobOption> jobOptions(const PrintSettings &settings, ppd_file_t *ppd) const = 0;
 
     /// Takes one option into the entries when it is one of the plug-in's own.

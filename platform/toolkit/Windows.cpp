@@ -22,12 +22,14 @@ public:
         switch (event->type()) {
         case QEvent::Close:
             m_closing = true;
+            // A window that refused to close is still there when the event is over.
+            QTimer::singleShot(0, this, [this] { m_closing = false; });
             break;
         case QEvent::Show:
             m_closing = false;
             break;
         case QEvent::Hide:
-            if (m_closing) {
+            if (m_closing && !event->spontaneous()) { // minimising is no closing
                 m_closing = false;
                 NotificationCenter::defaultCenter().post(
                     QLatin1StringView(kWindowWillCloseNotification), watched);

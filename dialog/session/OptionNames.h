@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+namespace corvana {
+
+// Options and choices of PPDs that the dialog itself knows by name. Those of the panels stand with
+// the panels.
+
+inline constexpr QLatin1StringView kPageSizeOption{"PageSize"};
+inline constexpr QLatin1StringView kPageRegionOption{"PageRegion"};
+inline constexpr QLatin1StringView kDuplexOption{"Duplex"};
+inline constexpr QLatin1StringView kDuplexNone{"None"};
+inline constexpr QLatin1StringView kDuplexLongEdge{"DuplexNoTumble"};
+inline constexpr QLatin1StringView kDuplexShortEdge{"DuplexTumble"};
+/// Where the job goes, and who matches its colours: the panels' rules depend on both.
+inline constexpr QLatin1StringView kOutputOption{"QXOutput"};
+inline constexpr QLatin1StringView kColorMatchingModeOption{"AP_ColorMatchingMode"};
+/// All custom values of an option are this one choice, and are written with the prefix.
+inline constexpr QLatin1StringView kCustomChoice{"Custom"};
+inline constexpr QLatin1StringView kCustomPrefix{"Custom."};
+/// The job attribute that the General page offers.
+inline constexpr QLatin1StringView kPageRangesAttribute{"page-ranges"};
+
+} // namespace corvana

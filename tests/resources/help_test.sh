@@ -1,0 +1,279 @@
+#!/usr/bin/env bash
+# Proves that every help page is there in each language, says the same things in the same order, is
+# text that the help window can show in any palette, and calls the settings by the names that the
+# printer and the window show.
+#
+#   help_test.sh
+#
+# Needs python3.
+
+set -u
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd) || exit 1
+if ! command -v python3 >/dev/null; then
+    echo "$0: python3 is needed and missing" >&2
+    exit 1
+fi
+
+exec python3 -B - "$root" <<'PYTHON'
+import json
+import re
+import sys
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+root = Path(sys.argv[1])
+help_folder = root / "resources/help"
+
+# Folder of a language, its code in a PPD file and in the names of translation files.
+LANGUAGES = {"English": None, "Japanese": "ja", "zh_CN": "zh_CN"}
+TITLES = {
+    "QXLaserPrintSetting.help": "Corvana Print Settings Help (Laser)",
+    "QXLaserColorSetting.help": "Corvana Color Settings Help (Laser)",
+}
+BOOKS = [*TITLES, "dialog"]
+TOP = "QxHelpAnchor"
+
+# What the help window's browser shows, and nothing that would set a color or load something.
+ELEMENTS = set(
+    "html head meta title body h1 h2 p ul ol li table tr th td a b i strong pre blockquote".split()
+)
+ATTRIBUTES = {
+    "html": {"lang"},
+    "meta": {"charset"},
+    "a": {"name", "href"},
+    "table": {"border", "cellspacing", "cellpadding"},
+    "th": {"align"},
+}
+# What all languages have in common; rows of tables may differ with what a language's panel offers.
+OUTLINE = {"h1", "h2", "table", "ol", "ul", "pre", "blockquote"}
+
+
+def page_file(book, language):
+    return help_folder / book / language / "index.html"
+
+
+def page(book, language):
+    return ElementTree.fromstring(page_file(book, language).read_text(encoding="utf-8"))
+
+
+def pages():
+    for book in BOOKS:
+        for language in LANGUAGES:
+            yield f"{book}/{language}", language, page(book, language)
+
+
+def text_of(element):
+    return " ".join("".join(element.itertext()).split())
+
+
+def anchors(tree):
+    return [a.get("name") for a in tree.iter("a") if a.get("name")]
+
+
+def outline(tree):
+    return [
+        "#" + e.get("name") if e.tag == "a" else e.tag
+        for e in tree.iter()
+        if e.tag in OUTLINE or (e.tag == "a" and e.get("name"))
+    ]
+
+
+# What is on the screen: the PPD's texts, the panels' and the dialog's.
+
+
+def printer_texts(language):
+    """The texts of options and choices by keyword and choice; an option's choice is None."""
+    code = LANGUAGES[language]
+    texts = {}
+    for ppd in sorted((root / "resources/ppd").glob("*.ppd")):
+        for line in ppd.read_text(encoding="utf-8").splitlines():
+            if code:
+                found = re.match(rf"\*{code}\.(\w+) (\w+)/(.*): \"\"$", line)
+                if found and found[1] == "Translation":
+                    texts[found[2], None] = found[3]
+                elif found:
+                    texts[found[1], found[2]] = found[3]
+            elif found := re.match(r"\*OpenUI \*(\w+)/(.*): PickOne$", line):
+                texts[found[1], None] = found[2]
+            elif found := re.match(r"\*(\w+) (\w+)/([^:]*): \"", line):
+                texts[found[1], found[2]] = found[3]
+    return texts
+
+
+def messages(file):
+    for message in ElementTree.parse(file).iter("message"):
+        yield message.findtext("source"), message.findtext("translation")
+
+
+def dialog_texts(language):
+    """The dialog's texts by their source text."""
+    if LANGUAGES[language]:
+        file = root / f"resources/translations/corvana-print_{LANGUAGES[language]}.ts"
+        return dict(messages(file))
+    sources = set()
+    for file in (root / "dialog").rglob("*.cpp"):
+        code = file.read_text(encoding="utf-8")
+        for literals in re.findall(r"\btr\(\s*((?:\"(?:[^\"\\]|\\.)*\"\s*)+)", code):
+            sources.add("".join(re.findall(r"\"((?:[^\"\\]|\\.)*)\"", literals)))
+        sources.update(re.findall(r"translate\(\"\w+\",\s*\"((?:[^\"\\]|\\.)*)\"", code))
+    return {source: source for source in sources}
+
+
+def words_on_screen(language):
+    """A pattern for each text: what stands for %1 can be anything."""
+    panel_texts = messages(root / f"resources/bundle/strings/{language}.ts")
+    texts = set(printer_texts(language).values()) | {text for _, text in panel_texts}
+    for text in dialog_texts(language).values():
+        text = re.sub(r"\(&\w\)|&", "", text)  # the access key
+        texts.add(re.sub(r"[:：]$", "", text))
+    return [re.sub(r"%\d", ".+", re.escape(" ".join(text.split()))) for text in texts]
+
+
+def everyBookHasItsTitleAndAPageInEachLanguage(fail):
+    for book, title in TITLES.items():
+        info = json.loads((help_folder / book / "info.json").read_text(encoding="utf-8"))
+        if info.get("CFBundleHelpBookName") != title:
+            fail(f"{book}: the title is {info.get('CFBundleHelpBookName')}")
+    for name, _, tree in pages():
+        if not (tree.findtext("head/title") or "").strip():
+            fail(f"{name}: no title")
+        if len(text_of(tree.find("body"))) < 300:
+            fail(f"{name}: hardly any text")
+
+
+def everyBookThatIsThereIsProved(fail):
+    found = {folder.name for folder in help_folder.iterdir()}
+    if found != set(BOOKS):
+        fail(f"the help folder holds {sorted(found)}")
+    files = {file for file in help_folder.rglob("*") if file.is_file()}
+    expected = {page_file(book, language) for book in BOOKS for language in LANGUAGES}
+    expected |= {help_folder / book / "info.json" for book in TITLES}
+    for file in files ^ expected:
+        fail(f"missing, or not a page: {file}")
+
+
+def aPageSaysHowItsTextIsEncodedAndInWhichLanguage(fail):
+    for name, language, tree in pages():
+        first = tree.find("head")[0]
+        if first.tag != "meta" or first.get("charset") != "utf-8":
+            fail(f"{name}: the encoding does not stand first")
+        if tree.get("lang") != {"English": "en", "Japanese": "ja", "zh_CN": "zh-CN"}[language]:
+            fail(f"{name}: the language is {tree.get('lang')}")
+
+
+def theHelpButtonsPlaceIsTheTopHeading(fail):
+    for name, _, tree in pages():
+        top = tree.find("body")[0]
+        if top.tag != "h1" or len(top) == 0 or top[0].get("name") != TOP:
+            fail(f"{name}: does not begin with the heading {TOP}")
+        if len(tree.findall(".//h1")) != 1:
+            fail(f"{name}: not one top heading")
+
+
+def theLanguagesSayTheSameInTheSameOrder(fail):
+    for book in BOOKS:
+        english = page(book, "English")
+        for language in LANGUAGES:
+            tree = page(book, language)
+            if anchors(tree) != anchors(english):
+                fail(f"{book}/{language}: other anchors than in English: {anchors(tree)}")
+            if outline(tree) != outline(english):
+                fail(f"{book}/{language}: another outline than in English: {outline(tree)}")
+
+
+def everyChapterHasAPlaceAndStandsInTheContentsUnderItsHeading(fail):
+    for name, _, tree in pages():
+        chapters = [(h.find("a").get("name"), text_of(h)) for h in tree.iter("h2")
+                    if h.find("a") is not None]
+        if len(chapters) != len(tree.findall(".//h2")) or len(chapters) < 5:
+            fail(f"{name}: a chapter has no place, or chapters are missing")
+        contents = [(a.get("href")[1:], text_of(a)) for a in tree.find("body/ul").iter("a")]
+        if contents != chapters:
+            fail(f"{name}: the contents are {contents}")
+
+
+def linksLeadToAPlaceInTheSamePage(fail):
+    for name, _, tree in pages():
+        names = anchors(tree)
+        if len(set(names)) != len(names):
+            fail(f"{name}: a place has the name of another one")
+        for link in tree.iter("a"):
+            if link.get("href") is not None and link.get("href") not in {"#" + n for n in names}:
+                fail(f"{name}: a link leads to {link.get('href')}")
+
+
+def nothingIsLoadedRunOrColored(fail):
+    for name, _, tree in pages():
+        for element in tree.iter():
+            if element.tag not in ELEMENTS:
+                fail(f"{name}: the element {element.tag}")
+            for attribute in set(element.keys()) - ATTRIBUTES.get(element.tag, set()):
+                fail(f"{name}: the attribute {attribute} of {element.tag}")
+        if re.search(r"\w+://|&\w+;", text_of(tree)):
+            fail(f"{name}: an address or an entity in the text")
+
+
+# Bold words are words on the screen; what is stressed only is "strong".
+
+def settingsAreNamedAsOnTheScreen(fail):
+    for name, language, tree in pages():
+        words = {text_of(bold) for bold in tree.iter("b")}
+        if len(words) < 10:
+            fail(f"{name}: names hardly any settings")
+        patterns = words_on_screen(language)
+        for word in sorted(words):
+            if not any(re.fullmatch(pattern, word) for pattern in patterns):
+                fail(f"{name}: neither the printer nor the window says: {word}")
+
+
+def theConflictOfTheExampleIsShownInTheseWords(fail):
+    for language in LANGUAGES:
+        texts, dialog = printer_texts(language), dialog_texts(language)
+
+        def choice(keyword, name):
+            return dialog["“%1: %2”"].replace("%1", texts[keyword, None]).replace(
+                "%2", texts[keyword, name])
+
+        message = dialog["%1 cannot be combined with %2."].replace(
+            "%1", choice("QXMediaType", "Glossy")).replace(
+            "%2", choice("Duplex", "DuplexNoTumble"))
+        way_out = dialog["Change to %1"].replace("%1", choice("Duplex", "None"))
+        tree = page("dialog", language)
+        if text_of(tree.find(".//blockquote")) != message:
+            fail(f"dialog/{language}: the window says: {message}")
+        if way_out not in [text_of(bold) for bold in tree.iter("b")]:
+            fail(f"dialog/{language}: the button says: {way_out}")
+
+
+def theCommandsAreTheSameInEveryLanguage(fail):
+    commands = {language: page("dialog", language).findtext(".//pre") for language in LANGUAGES}
+    if len(set(commands.values())) != 1 or len(commands["English"].splitlines()) != 3:
+        fail(f"not the same three lines: {commands}")
+
+
+failures = 0
+for test in [
+    everyBookHasItsTitleAndAPageInEachLanguage,
+    everyBookThatIsThereIsProved,
+    aPageSaysHowItsTextIsEncodedAndInWhichLanguage,
+    theHelpButtonsPlaceIsTheTopHeading,
+    theLanguagesSayTheSameInTheSameOrder,
+    everyChapterHasAPlaceAndStandsInTheContentsUnderItsHeading,
+    linksLeadToAPlaceInTheSamePage,
+    nothingIsLoadedRunOrColored,
+    settingsAreNamedAsOnTheScreen,
+    theConflictOfTheExampleIsShownInTheseWords,
+    theCommandsAreTheSameInEveryLanguage,
+]:
+    complaints = []
+    try:
+        test(complaints.append)
+    except (OSError, ValueError, KeyError, AttributeError, ElementTree.ParseError) as problem:
+        complaints.append(f"{type(problem).__name__}: {problem}")
+    print("FAILED " if complaints else "ok     ", test.__name__)
+    for complaint in complaints:
+        print("   ", complaint, file=sys.stderr)
+    failures += bool(complaints)
+sys.exit(failures > 0)
+PYTHON
