@@ -197,6 +197,9 @@ void QXPrintQualityPDE::titleLabel(QWidget *label, const ppd_option_t *option)
 
 void QXPrintQualityPDE::updateUI()
 {
+    // Before, so that no rule of a keyword meets a state of the former choices; after, because such
+    // rules (toner save, the manual sleep time) decide what can be used.
+    checkUIConstraints();
     for (const QString &keyword : PPDKeys.value_or(QStringList()))
         updateUIforKey(keyword);
     checkUIConstraints();

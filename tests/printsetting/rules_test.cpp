@@ -1,0 +1,270 @@
+#include <QTest>
+
+#include "panel/OptionKeywords.h"
+#include "tests/printsetting/PrintSettingProbe.h"
+#include "tests/support/Gestures.h"
+#include "tests/support/PpdBuilder.h"
+#include "tests/support/TestBundle.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the other panel would hear.
+class Listener
+{
+public:
+    Listener()
+    {
+        NotificationCenter::defaultCenter().addObserver(
+            this, kLaserPrintSettingNotification, nullptr,
+            [this](const Notification &notification) { heard += notification; });
+    }
+    ~Listener() { NotificationCenter::defaultCenter().removeObserver(this); }
+
+    QList<Notification> heard;
+};
+
+} // namespace
+
+class RulesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_host = RecordingHost::forSamplePrinter();
+        m_panel = std::make_unique<PrintSettingProbe>(m_host);
+        QVERIFY(m_panel->initWithHost());
+        m_host->forgetCalls();
+    }
+    void cleanup()
+    {
+        m_panel.reset();
+        m_host.reset();
+    }
+
+    void someResolutionsAllowNoTonerSave_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<bool>("allowed");
+        QTest::newRow("600dpi") << u"600dpi"_s << true;
+        QTest::newRow("1200dpi") << u"1200dpi"_s << false;
+        QTest::newRow("2400x600dpi") << u"2400x600dpi"_s << false;
+        QTest::newRow("other letter case") << u"1200DPI"_s << true;
+        QTest::newRow("a longer name") << u"1200dpix"_s << true;
+        QTest::newRow("nothing") << QString() << true;
+    }
+    void someResolutionsAllowNoTonerSave()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(bool, allowed);
+        QCOMPARE(QXLaserPrintSetting::allowTonerSaveResolution(resolution), allowed);
+        for (const bool before : {false, true}) {
+            m_panel->m_outputBin.insert(u"QXResolution"_s, resolution);
+            m_panel->setMode(kModeNoTonerSave, before);
+            m_panel->updateUIforKey(u"QXResolution"_s);
+            QCOMPARE(m_panel->hasMode(kModeNoTonerSave), !allowed);
+        }
+    }
+
+    void theSleepTimeIsManualForTwoKindsOfChoices_data()
+    {
+        QTest::addColumn<QVariant>("choice");
+        QTest::addColumn<bool>("manual");
+        QTest::newRow("Custom") << QVariant(u"Custom"_s) << true;
+        QTest::newRow("begins with Custom") << QVariant(u"Custom.12"_s) << true;
+        QTest::newRow("True") << QVariant(u"True"_s) << true;
+        QTest::newRow("False") << QVariant(u"False"_s) << false;
+        QTest::newRow("Default") << QVariant(u"Default"_s) << false;
+        QTest::newRow("begins with True") << QVariant(u"Truely"_s) << false;
+        QTest::newRow("other letter case") << QVariant(u"custom"_s) << false;
+        QTest::newRow("contains Custom") << QVariant(u"NoCustom"_s) << false;
+        QTest::newRow("nothing") << QVariant() << false;
+    }
+    void theSleepTimeIsManualForTwoKindsOfChoices()
+    {
+        QFETCH(QVariant, choice);
+        QFETCH(bool, manual);
+        if (choice.isValid())
+            m_panel->m_outputBin.insert(u"QXSleepTime"_s, choice);
+        else
+            m_panel->m_outputBin.remove(u"QXSleepTime"_s);
+        for (const bool before : {false, true}) {
+            m_panel->setMode(kModeManualSleep, before);
+            m_panel->checkConstraints();
+            QCOMPARE(m_panel->hasMode(kModeManualSleep), manual);
+            m_panel->setMode(kModeManualSleep, before);
+            m_panel->canSetManualSleep();
+            QCOMPARE(m_panel->hasMode(kModeManualSleep), manual);
+            m_panel->setMode(kModeManualSleep, before);
+            m_panel->updateUIforKey(u"QXSleepTime"_s);
+            QCOMPARE(m_panel->hasMode(kModeManualSleep), manual);
+        }
+    }
+
+    void theColorModeIsAnnounced_data()
+    {
+        QTest::addColumn<QVariant>("choice");
+        QTest::addColumn<bool>("mono");
+        QTest::newRow("Mono") << QVariant(u"Mono"_s) << true;
+        QTest::newRow("Color") << QVariant(u"Color"_s) << false;
+        QTest::newRow("begins with Mono") << QVariant(u"Monochrome"_s) << false;
+        QTest::newRow("nothing") << QVariant() << false;
+    }
+    void theColorModeIsAnnounced()
+    {
+        QFETCH(QVariant, choice);
+        QFETCH(bool, mono);
+        m_panel->m_outputBin.insert(u"QXMonoColor"_s, choice);
+        m_panel->setMode(kModeMono, !mono);
+        Listener listener;
+        m_panel->canSelectColorMode();
+        QCOMPARE(m_panel->hasMode(kModeMono), mono);
+        QCOMPARE(listener.heard.size(), 1);
+        QCOMPARE(listener.heard.first().sender, static_cast<void *>(m_host.get()));
+        QVERIFY(listener.heard.first().hasUserInfo);
+        QCOMPARE(listener.heard.first().userInfo, (QVariantMap{{u"QXMonoColor"_s, mono}}));
+    }
+
+    void everyRestoreAnnouncesTheColorMode()
+    {
+        Listener listener;
+        m_panel->restoreValuesAndReturnError(nullptr);
+        QCOMPARE(listener.heard.size(), 1);
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        listener.heard.clear();
+        m_panel->restoreValuesAndReturnError(nullptr);
+        QCOMPARE(listener.heard.size(), 2); // once from the controls, once at its end
+    }
+
+    void aPrinterWithoutColorModeAnnouncesOncePerRestore()
+    {
+        const auto host = RecordingHost::forPpd(PpdBuilder().onOff("QXSkipBlank", "Skip").text());
+        PrintSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        Listener listener;
+        panel.restoreValuesAndReturnError(nullptr);
+        QCOMPARE(listener.heard.size(), 1);
+    }
+
+    void oneSidedIsTheDefaultOfTheTwoSidedOption_data()
+    {
+        QTest::addColumn<QByteArray>("ppd");
+        QTest::addColumn<QString>("marked"); // null: left as it is
+        QTest::addColumn<bool>("simplex");
+        const auto printer = [](const QByteArray &defaultChoice) {
+            return PpdBuilder()
+                .option("Duplex", "Two Sides", defaultChoice,
+                        {{"None", "Off"}, {"DuplexTumble", "Short Edge"}})
+                .text();
+        };
+        QTest::newRow("no such option") << PpdBuilder().text() << QString() << true;
+        QTest::newRow("the default marked") << printer("None") << u"None"_s << true;
+        QTest::newRow("another marked") << printer("None") << u"DuplexTumble"_s << false;
+        // The default is taken as the one-sided setting, whatever its choice is called.
+        QTest::newRow("another default, marked")
+            << printer("DuplexTumble") << u"DuplexTumble"_s << true;
+        QTest::newRow("another default, None marked")
+            << printer("DuplexTumble") << u"None"_s << false;
+    }
+    void oneSidedIsTheDefaultOfTheTwoSidedOption()
+    {
+        QFETCH(QByteArray, ppd);
+        QFETCH(QString, marked);
+        QFETCH(bool, simplex);
+        const auto host = RecordingHost::forPpd(ppd);
+        if (!marked.isNull())
+            host->mark(u"Duplex"_s, marked);
+        PrintSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        QCOMPARE(panel.isSimplexMode(), simplex);
+    }
+
+    // A user's pick
+
+    void theRulesRunBeforeThePickAndItsOwnRuleAfter_data()
+    {
+        QTest::addColumn<QString>("popUp");
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("keyword");
+        QTest::addColumn<QString>("choice");
+        QTest::addColumn<QString>("ownRule");
+        QTest::newRow("color mode") << u"monoColorPopup"_s << u"Mono"_s << u"QXMonoColor"_s
+                                    << u"Mono"_s << u"canSelectColorMode"_s;
+        QTest::newRow("paper source") << u"paperFeedPopup"_s << u"Tray 1"_s << u"QXInputSlot"_s
+                                      << u"Tray1"_s << u"checkStateWithPaperFeed"_s;
+        QTest::newRow("media type") << u"mediaTypePopup"_s << u"Thick Paper"_s << u"QXMediaType"_s
+                                    << u"Thick"_s << QString();
+    }
+    void theRulesRunBeforeThePickAndItsOwnRuleAfter()
+    {
+        QFETCH(QString, popUp);
+        QFETCH(QString, item);
+        QFETCH(QString, keyword);
+        QFETCH(QString, choice);
+        QFETCH(QString, ownRule);
+        QWidget *view = m_panel->panelView();
+        QVERIFY(view);
+        m_panel->willShow();
+        m_host->forgetCalls();
+        m_panel->tracing = true;
+        QVERIFY(pick(view->findChild<QComboBox *>(popUp), item));
+        QList<HostCall> expected{
+            {u"checkConstraints"_s, {}},
+            {u"willChangePPDOptionKeyValue_ppdChoice"_s, {keyword, choice}},
+            {u"updateUIforKey"_s, {keyword}},
+        };
+        if (!ownRule.isNull())
+            expected += HostCall{ownRule, {}};
+        expected += HostCall{u"saveAllValues"_s, {}};
+        QCOMPARE(m_host->calls().first(expected.size()), expected);
+        const QString last = m_host->calls().last().operation;
+        if (!ownRule.isNull())
+            QCOMPARE(last, ownRule);
+        else
+            QVERIFY(last != u"canSelectColorMode"_s && last != u"checkStateWithPaperFeed"_s);
+    }
+
+    void aRefusedColorModeIsEvaluatedFromWhatIsStored()
+    {
+        QWidget *view = m_panel->panelView();
+        QVERIFY(view);
+        m_panel->willShow();
+        m_host->refuse(u"QXMonoColor"_s, u"Mono"_s);
+        Listener listener;
+        QVERIFY(pick(m_panel->monoColorPopup, u"Mono"_s));
+        QVERIFY(!m_panel->hasMode(kModeMono));
+        QCOMPARE(m_panel->monoColorPopup->currentText(), u"Auto (Color or Mono)"_s);
+        QCOMPARE(listener.heard.size(), 2); // after the control was put back, and after the pick
+        m_panel->revertUI_forKey(m_panel->mediaTypePopup, u"QXMediaType"_s);
+        QCOMPARE(listener.heard.size(), 2);
+    }
+
+    void aPaperSourceChangedElsewhereRunsItsRule()
+    {
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        m_host->forgetCalls();
+        m_panel->tracing = true;
+        m_panel->PPDOptionKeyValueDidChange_ppdChoice(u"QXInputSlot"_s, u"Tray1"_s);
+        const QList<HostCall> expected{{u"updateUIforKey"_s, {u"QXInputSlot"_s}},
+                                       {u"checkStateWithPaperFeed"_s, {}}};
+        QCOMPARE(m_host->calls(), expected);
+        QCOMPARE(m_panel->paperFeedPopup->currentText(), u"Tray 1"_s);
+    }
+
+private:
+    TestBundle m_bundle = TestBundle::built();
+    std::shared_ptr<RecordingHost> m_host;
+    std::unique_ptr<PrintSettingProbe> m_panel;
+};
+
+QTEST_MAIN(RulesTest)
+#include "rules_test.moc"

@@ -1,0 +1,127 @@
+#include "tests/support/TestBundle.h"
+
+#include <stdexcept>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+
+namespace corvana::test {
+
+namespace {
+
+QJsonObject informationOf(const QJsonObject &further)
+{
+    QJsonObject information{
+        {kCFBundleIdentifierKey, QStringLiteral("com.corvana.print.test")},
+        {kCFBundleNameKey, QStringLiteral("TestPanel")},
+        {kCFBundleHelpBookNameKey, QStringLiteral("Test Panel Help")},
+        {kCFBundleLocalizationsKey, QJsonArray{QStringLiteral("English")}},
+    };
+    for (auto entry = further.begin(); entry != further.end(); ++entry)
+        information.insert(entry.key(), entry.value());
+    return information;
+}
+
+} // namespace
+
+TestBundle TestBundle::built()
+{
+    TestBundle bundle{std::unique_ptr<QTemporaryDir>()};
+    bundle.open(QStringLiteral(CORVANA_TEST_BUNDLE_DIR));
+    return bundle;
+}
+
+TestBundle::TestBundle(Information information, const QJsonObject &furtherInformation)
+    : TestBundle(std::make_unique<QTemporaryDir>())
+{
+    for (const char *folder : {"interface", "strings", "pictures"})
+        QDir(m_folder->path()).mkdir(QString::fromLatin1(folder));
+    QFile::copy(QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/strings/English.qm"),
+                m_folder->filePath(QStringLiteral("strings/English.qm")));
+    if (information == Information::Present) {
+        write(QStringLiteral("info.json"),
+              QJsonDocument(informationOf(furtherInformation)).toJson());
+    }
+    open(m_folder->path());
+}
+
+TestBundle::TestBundle(std::unique_ptr<QTemporaryDir> folder) : m_folder(std::move(folder)) { }
+
+TestBundle::~TestBundle()
+{
+    if (m_bundle) // not moved from
+        Bundle::associateModule(QCoreApplication::applicationFilePath(), nullptr);
+}
+
+void TestBundle::addInterface(const QString &name, const QByteArray &text)
+{
+    write(QStringLiteral("interface/%1.ui").arg(name), text);
+}
+
+void TestBundle::addPicture(const QString &name)
+{
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    // The name says TIFF; what is read goes by the content, and every Qt can write a PNG.
+    const QString file = m_folder->filePath(QStringLiteral("pictures/%1.tiff").arg(name));
+    if (!picture.save(file, "PNG"))
+        throw std::runtime_error(file.toStdString() + " could not be written");
+}
+
+void TestBundle::addBrokenPicture(const QString &name)
+{
+    write(QStringLiteral("pictures/%1.tiff").arg(name), "no picture");
+}
+
+void TestBundle::setTexts(const QMap<QString, QString> &textsByKey)
+{
+    QString table = QStringLiteral("<!DOCTYPE TS><TS version=\"2.1\" language=\"en\"><context>"
+                                   "<name>Localizable</name>");
+    for (auto text = textsByKey.begin(); text != textsByKey.end(); ++text) {
+        table +=
+            QStringLiteral("<message><source>%1</source><translation>%2</translation></message>")
+                .arg(text.key().toHtmlEscaped(), text.value().toHtmlEscaped());
+    }
+    table += QStringLiteral("</context></TS>");
+    write(QStringLiteral("strings/English.ts"), table.toUtf8());
+    const QString source = m_folder->filePath(QStringLiteral("strings/English.ts"));
+    const QString target = m_folder->filePath(QStringLiteral("strings/English.qm"));
+    if (QProcess::execute(QStringLiteral(CORVANA_TEST_LRELEASE),
+                          {QStringLiteral("-silent"), source, QStringLiteral("-qm"), target})
+        != 0)
+        throw std::runtime_error(source.toStdString() + " is no string table");
+}
+
+void TestBundle::open(const QString &path)
+{
+    m_bundle = Bundle::open(path);
+    if (!m_bundle)
+        throw std::runtime_error(path.toStdString() + " is no bundle");
+    Bundle::associateModule(QCoreApplication::applicationFilePath(), m_bundle);
+}
+
+void TestBundle::write(const QString &name, const QByteArray &content)
+{
+    if (!m_folder)
+        throw std::logic_error("the bundle of the build is not a test's to change");
+    QFile file(m_folder->filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        throw std::runtime_error(file.fileName().toStdString() + " could not be written");
+}
+
+UserLanguage::UserLanguage(const QString &name)
+{
+    QLocale::setDefault(QLocale(name));
+}
+
+UserLanguage::~UserLanguage()
+{
+    QLocale::setDefault(m_former);
+}
+
+} // namespace corvana::test
