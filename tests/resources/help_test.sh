@@ -42,9 +42,11 @@ ATTRIBUTES = {
     "html": {"lang"},
     "meta": {"charset"},
     "a": {"name", "href"},
-    "table": {"border", "cellspacing", "cellpadding"},
+    "table": {"border", "cellspacing", "cellpadding", "style"},
     "th": {"align"},
 }
+# The only style: tables keep a distance from the text above them.
+STYLES = {"margin-top: 8px"}
 # What all languages have in common; rows of tables may differ with what a language's panel offers.
 OUTLINE = {"h1", "h2", "table", "ol", "ul", "pre", "blockquote"}
 
@@ -210,8 +212,21 @@ def nothingIsLoadedRunOrColored(fail):
                 fail(f"{name}: the element {element.tag}")
             for attribute in set(element.keys()) - ATTRIBUTES.get(element.tag, set()):
                 fail(f"{name}: the attribute {attribute} of {element.tag}")
+            if element.get("style") not in {None} | STYLES:
+                fail(f"{name}: the style {element.get('style')}")
         if re.search(r"\w+://|&\w+;", text_of(tree)):
             fail(f"{name}: an address or an entity in the text")
+
+
+# Japanese and Chinese know no blank between two sentences, and a line break shows as one.
+def noLineBreakShowsAsABlankBetweenIdeographs(fail):
+    ideograph = "[\u3000-\u9fff\uff00-\uffef]"
+    for name, _, tree in pages():
+        for element in tree.iter():
+            if element.tag in {"h1", "h2", "p", "li", "th", "td"}:
+                text = "".join(element.itertext())
+                if re.search(f"{ideograph}\\s*\n\\s*{ideograph}", text):
+                    fail(f"{name}: a line breaks in: {text}")
 
 
 # Bold words are words on the screen; what is stressed only is "strong".
@@ -262,6 +277,7 @@ for test in [
     everyChapterHasAPlaceAndStandsInTheContentsUnderItsHeading,
     linksLeadToAPlaceInTheSamePage,
     nothingIsLoadedRunOrColored,
+    noLineBreakShowsAsABlankBetweenIdeographs,
     settingsAreNamedAsOnTheScreen,
     theConflictOfTheExampleIsShownInTheseWords,
     theCommandsAreTheSameInEveryLanguage,
