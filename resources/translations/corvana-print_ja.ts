@@ -54,6 +54,14 @@
         <source>%1 is named like a %2, but holds a %3. Rename it if that is right.</source>
         <translation>%1 の名前は %2 のものですが、内容は %3 です。内容が正しければ、名前を変更してください。</translation>
     </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message>
+        <source>%1 cannot be kept: %2</source>
+        <translation>%1 を保存できません: %2</translation>
+    </message>
 </context>
 <context>
     <name>FileQueue</name>
@@ -89,8 +97,8 @@
         <translation>%1: %2 と同時には使用できません。</translation>
     </message>
     <message>
-        <source>the printer's own setting</source>
-        <translation>プリンター本体の設定</translation>
+        <source>%1=Custom: a value is missing. Allowed: %2.</source>
+        <translation>%1=Custom: 値がありません。指定できる値: %2。</translation>
     </message>
 </context>
 <context>
@@ -102,6 +110,12 @@
     <message>
         <source>There is no printer "%1". Printers: %2.</source>
         <translation>プリンター「%1」はありません。プリンター: %2。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -124,6 +138,14 @@
     <message>
         <source>Printed to %1</source>
         <translation>%1 に出力しました</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
+        <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
+    </message>
+    <message>
+        <source>The printer's settings show instructions.</source>
+        <translation>プリンターの設定に指示が表示されました。</translation>
     </message>
 </context>
 <context>
@@ -164,12 +186,31 @@
         <source>The document could not be converted for the printer: nothing came out. %1</source>
         <translation>文書をプリンター用に変換できませんでした。出力がありません。%1</translation>
     </message>
+    <message>
+        <source>%1 is a device or a pipe; the name of a file was expected.</source>
+        <translation>%1 はデバイスまたはパイプです。ファイル名を指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
     <message>
         <source>&amp;Copies:</source>
         <translation>部数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>All pages; or pages and ranges such as 1-4, 7, 9-</source>
+        <translation>すべて（指定する場合の例: 1-4, 7, 9-）</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>ページ(&amp;G):</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::HelpWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -234,12 +275,6 @@
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
     <message>
-        <source>These options were not set:
-%1</source>
-        <translation>次のオプションは設定されませんでした:
-%1</translation>
-    </message>
-    <message>
         <source>“%1: %2”</source>
         <translation>「%1: %2」</translation>
     </message>
@@ -274,6 +309,40 @@
     <message>
         <source>Printing…</source>
         <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
+        <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
+    </message>
+    <message>
+        <source>Printing page %1…</source>
+        <translation>%1 ページ目を印刷しています…</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Show Silenced Messages Again</source>
+        <translation>非表示にしたメッセージを再び表示</translation>
+    </message>
+    <message>
+        <source>Your preferences cannot be written.</source>
+        <translation>個人設定を書き込めません。</translation>
+    </message>
+    <message>
+        <source>None of the options of the command line was set, because of these:
+%1</source>
+        <translation>次の理由により、コマンドラインのオプションは設定されませんでした:
+%1</translation>
+    </message>
+    <message>
+        <source>The help is not installed.</source>
+        <translation>ヘルプがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Help on Printing</source>
+        <translation>印刷のヘルプ</translation>
     </message>
 </context>
 <context>

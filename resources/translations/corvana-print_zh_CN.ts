@@ -54,6 +54,14 @@
         <source>%1 is named like a %2, but holds a %3. Rename it if that is right.</source>
         <translation>%1 的名称表示它是 %2，但内容是 %3。如内容正确，请重命名。</translation>
     </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>%1 cannot be kept: %2</source>
+        <translation>无法保存 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>FileQueue</name>
@@ -89,8 +97,8 @@
         <translation>%1：不能与 %2 同时使用。</translation>
     </message>
     <message>
-        <source>the printer's own setting</source>
-        <translation>打印机自身的设置</translation>
+        <source>%1=Custom: a value is missing. Allowed: %2.</source>
+        <translation>%1=Custom：缺少值。允许的值：%2。</translation>
     </message>
 </context>
 <context>
@@ -102,6 +110,12 @@
     <message>
         <source>There is no printer "%1". Printers: %2.</source>
         <translation>没有打印机“%1”。打印机：%2。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 等另外 %n 个</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -124,6 +138,14 @@
     <message>
         <source>Printed to %1</source>
         <translation>已输出到 %1</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
+        <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
+    </message>
+    <message>
+        <source>The printer's settings show instructions.</source>
+        <translation>打印机设置显示了说明。</translation>
     </message>
 </context>
 <context>
@@ -164,12 +186,31 @@
         <source>The document could not be converted for the printer: nothing came out. %1</source>
         <translation>无法将文档转换为打印机数据：没有输出。%1</translation>
     </message>
+    <message>
+        <source>%1 is a device or a pipe; the name of a file was expected.</source>
+        <translation>%1 是设备或管道，请指定文件名。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
     <message>
         <source>&amp;Copies:</source>
         <translation>份数(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>All pages; or pages and ranges such as 1-4, 7, 9-</source>
+        <translation>全部（指定时例如：1-4, 7, 9-）</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>页码(&amp;G)：</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::HelpWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -234,12 +275,6 @@
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
     <message>
-        <source>These options were not set:
-%1</source>
-        <translation>以下选项未设置：
-%1</translation>
-    </message>
-    <message>
         <source>“%1: %2”</source>
         <translation>“%1：%2”</translation>
     </message>
@@ -274,6 +309,40 @@
     <message>
         <source>Printing…</source>
         <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
+        <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
+    </message>
+    <message>
+        <source>Printing page %1…</source>
+        <translation>正在打印第 %1 页…</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Show Silenced Messages Again</source>
+        <translation>重新显示不再显示的消息</translation>
+    </message>
+    <message>
+        <source>Your preferences cannot be written.</source>
+        <translation>无法写入个人设置。</translation>
+    </message>
+    <message>
+        <source>None of the options of the command line was set, because of these:
+%1</source>
+        <translation>由于以下原因，命令行选项均未设置：
+%1</translation>
+    </message>
+    <message>
+        <source>The help is not installed.</source>
+        <translation>未安装帮助。</translation>
+    </message>
+    <message>
+        <source>Help on Printing</source>
+        <translation>打印帮助</translation>
     </message>
 </context>
 <context>
