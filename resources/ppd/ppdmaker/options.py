@@ -32,6 +32,7 @@ class Option(NamedTuple):
     choices: tuple
     default: str
     custom: Optional[CustomInteger] = None
+    done_by_cups: bool = False  # in the pages themselves, so that the printer must not be told
 
     def offering(self, *keywords, default=None):
         """The option of a model that has only these choices. They keep the order of the table."""
@@ -151,8 +152,9 @@ OUTPUT_WITH_FAX_UNIT = OUTPUT._replace(
 MIRROR_PRINT = Option(
     "MirrorPrint",
     Text("Mirror Image", "左右反転印刷", "镜像打印"),
-    (Choice("False", _OFF, "/MirrorPrint false"), Choice("True", _ON, "/MirrorPrint true")),
+    (Choice("False", _OFF), Choice("True", _ON)),
     "False",
+    done_by_cups=True,
 )
 
 # --- Print quality -----------------------------------------------------------------------------

@@ -2,7 +2,8 @@
 
 Every choice ends up in the print data as page device code that names its option and itself,
 "<</CorvanaOption(QXMediaType=Thick)>>setpagedevice": the controller of the printer takes each
-such string as one setting, and other interpreters ignore the unknown key.
+such string as one setting, and other interpreters ignore the unknown key. Choices that CUPS
+carries out itself have no code.
 """
 
 from . import media
@@ -232,7 +233,7 @@ class _Writer:
         for choice in option.choices:
             check_keyword(choice.keyword, MAX_KEYWORD, f"option {keyword}, choice")
             self._add_text(f"{keyword} {choice.keyword}", choice.text)
-            code = _setting(keyword, choice.keyword, choice.device)
+            code = "" if option.done_by_cups else _setting(keyword, choice.keyword, choice.device)
             self.lines.append(f'*{keyword} {choice.keyword}/{choice.text.en}: "{code}"')
         self.lines.append(f"*CloseUI: *{keyword}")
         if option.custom:
