@@ -85,7 +85,8 @@ expected_settings() {
     done
 }
 
-# What they do print. The standard output of a job that fails holds its complaint.
+# What they do print, or that they fail; FILE takes the print data of one job after the other.
+# printed_settings FILE
 printed_settings() {
     local printer settings setting arguments
     while read -r printer settings; do

@@ -103,9 +103,9 @@ INPUT_SLOT = Option(
 )
 
 # The panels know two of these apart from the rest. "PlainDuplex", plain paper that already bears
-# print on its back, is for scripts and is never listed. A medium whose text begins with "Hagaki",
-# the picture side of a Japanese postcard, is not listed either: the word is spelt so wherever
-# nobody could buy such cards, and in Japanese letters where people can.
+# print on its back, is never listed; where a job holds it, plain paper is shown. A medium whose text
+# begins with "Hagaki", the picture side of a Japanese postcard, is not listed either: the word is
+# spelt so wherever nobody could buy such cards, and in Japanese letters where people can.
 MEDIA_TYPE = Option(
     "QXMediaType",
     Text("Media Type", "用紙の種類", "介质类型"),
