@@ -45,12 +45,28 @@ _SIZES = (
         540,
         ENVELOPE_MARGIN,
     ),
+    PaperSize(
+        "EnvChou3",
+        Text("Envelope Chou #3", "封筒 長形 3 号", "信封 长形 3 号"),
+        340,
+        666,
+        ENVELOPE_MARGIN,
+    ),
+    PaperSize(
+        "EnvYou4",
+        Text("Envelope You #4", "封筒 洋形 4 号", "信封 洋形 4 号"),
+        298,
+        666,
+        ENVELOPE_MARGIN,
+    ),
 )
 
 SIZES = {size.keyword: size for size in _SIZES}
 
 # 76.2 x 127 mm to 215.9 x 355.6 mm, rounded to whole points.
 FULL_CUSTOM_SIZES = CustomSizes(216, 360, 612, 1008)
+# 90 x 148 mm to 215.9 x 297 mm: engines whose multi-purpose tray is no longer than their cassette.
+SHORT_CUSTOM_SIZES = CustomSizes(255, 420, 612, 842)
 
 CUSTOM_SIZE_TEXT = Text("Custom Size", "ユーザー定義サイズ", "自定义尺寸")
 CUSTOM_SIZE_PARAMETERS = {

@@ -32,6 +32,17 @@ class Option(NamedTuple):
     choices: tuple
     default: str
     custom: Optional[CustomInteger] = None
+    done_by_cups: bool = False  # in the pages themselves, so that the printer must not be told
+
+    def offering(self, *keywords, default=None):
+        """The option of a model that has only these choices. They keep the order of the table."""
+        unknown = set(keywords) - {choice.keyword for choice in self.choices}
+        if unknown:
+            raise ValueError(f"option {self.keyword} has no choices {sorted(unknown)}")
+        return self._replace(
+            choices=tuple(choice for choice in self.choices if choice.keyword in keywords),
+            default=default or self.default,
+        )
 
 
 class Group(NamedTuple):
@@ -84,17 +95,26 @@ INPUT_SLOT = Option(
         Choice("AutoSelect", Text("Auto Select", "自動選択", "自动选择")),
         Choice("Tray1", Text("Tray 1", "トレイ 1", "纸盒 1")),
         Choice("Tray2", Text("Tray 2", "トレイ 2", "纸盒 2")),
+        Choice("Tray3", Text("Tray 3", "トレイ 3", "纸盒 3")),
         Choice("MPTray", Text("Multi-Purpose Tray", "多目的トレイ", "多功能纸盒")),
         Choice("Manual", Text("Manual Feed", "手差し", "手动送纸")),
     ),
     "AutoSelect",
 )
 
+# The panels know two of these apart from the rest. "PlainDuplex", plain paper that already bears
+# print on its back, is never listed; where a job holds it, plain paper is shown. A medium whose text
+# begins with "Hagaki", the picture side of a Japanese postcard, is not listed either: the word is
+# spelt so wherever nobody could buy such cards, and in Japanese letters where people can.
 MEDIA_TYPE = Option(
     "QXMediaType",
     Text("Media Type", "用紙の種類", "介质类型"),
     (
         Choice("Plain", Text("Plain Paper", "普通紙", "普通纸")),
+        Choice(
+            "PlainDuplex",
+            Text("Plain Paper (Second Side)", "普通紙（2 面目）", "普通纸（第二面）"),
+        ),
         Choice("Thin", Text("Thin Paper", "普通紙（薄め）", "薄纸")),
         Choice("Thick", Text("Thick Paper", "厚紙", "厚纸")),
         Choice("Thicker", Text("Thicker Paper", "超厚紙", "超厚纸")),
@@ -105,18 +125,36 @@ MEDIA_TYPE = Option(
         Choice("EnvThin", Text("Thin Envelopes", "封筒（薄め）", "薄信封")),
         Choice("EnvThick", Text("Thick Envelopes", "封筒（厚め）", "厚信封")),
         Choice("PostCard", Text("Postcards", "はがき", "明信片")),
+        Choice(
+            "HagakiUra", Text("Hagaki (Picture Side)", "はがき（裏面）", "Hagaki（图案面）")
+        ),
     ),
     "Plain",
 )
+
+_PRINTER = Text("Printer", "プリンター", "打印机")
 
 OUTPUT = Option(
     "QXOutput",
     Text("Output To", "出力先", "输出到"),
     (
-        Choice("Printer", Text("Printer", "プリンター", "打印机")),
+        Choice("Printer", _PRINTER),
         Choice("FAX", Text("Fax", "ファクス", "传真")),
     ),
     "Printer",
+)
+
+# With the fax unit as an accessory, the controller knows the printer itself as no output at all.
+OUTPUT_WITH_FAX_UNIT = OUTPUT._replace(
+    choices=(Choice("None", _PRINTER), OUTPUT.choices[1]), default="None"
+)
+
+MIRROR_PRINT = Option(
+    "MirrorPrint",
+    Text("Mirror Image", "左右反転印刷", "镜像打印"),
+    (Choice("False", _OFF), Choice("True", _ON)),
+    "False",
+    done_by_cups=True,
 )
 
 # --- Print quality -----------------------------------------------------------------------------
@@ -131,6 +169,9 @@ RESOLUTION = Option(
     ),
     "600dpi",
 )
+
+# Of the older controllers: the same choices under the keyword that every PostScript printer has.
+STANDARD_RESOLUTION = RESOLUTION._replace(keyword="Resolution")
 
 MONO_COLOR = Option(
     "QXMonoColor",
@@ -159,20 +200,45 @@ IMPROVE_OUTPUT = Option(
     "OFF",
 )
 
+# Printers that can do both at a time have a switch for each.
+FIX_INTENSITY = _switch("QXFixIntensity", _FIX_INTENSITY)
+LESS_PAPER_CURL = _switch("QXLessPaperCurl", _LESS_PAPER_CURL)
+
 REDUCE_GHOST = _switch("QXReduceGhost", Text("Reduce Ghosting", "残像を軽減", "减少重影"))
 
-DENSITY = Option(
+_DENSITY = Text("Density Adjustment", "濃度調整", "浓度调整")
+_STANDARD_DENSITY = Choice("0", Text("Standard", "標準", "标准"))
+
+
+def density(minimum, maximum):
+    """Density as a number in the engine's own steps; 0 is standard and has to be among them."""
+    return Option(
+        "QXDensityAdjustment",
+        _DENSITY,
+        (_STANDARD_DENSITY,),
+        "0",
+        CustomInteger(
+            Text("Set Density", "濃度を指定", "指定浓度"),
+            "Density",
+            minimum,
+            maximum,
+            Text(
+                f"Density ({minimum} to {maximum})",
+                f"濃度（{minimum} ～ {maximum}）",
+                f"浓度（{minimum} 至 {maximum}）",
+            ),
+        ),
+    )
+
+
+# Older controllers take no number; each of their steps is a choice.
+DENSITY_STEPS = Option(
     "QXDensityAdjustment",
-    Text("Density Adjustment", "濃度調整", "浓度调整"),
-    (Choice("0", Text("Standard", "標準", "标准")),),
-    "0",
-    CustomInteger(
-        Text("Set Density", "濃度を指定", "指定浓度"),
-        "Density",
-        -6,
-        6,
-        Text("Density (-6 to 6)", "濃度（-6 ～ 6）", "浓度（-6 至 6）"),
+    _DENSITY,
+    tuple(
+        Choice(str(n), same(f"{n:+}")) if n else _STANDARD_DENSITY for n in range(-3, 4)
     ),
+    "0",
 )
 
 SLOW_DRYING = _switch(
@@ -201,6 +267,7 @@ COLOR_MATCHING = Option(
     (
         Choice("Normal", Text("Normal", "標準", "标准")),
         Choice("Vivid", Text("Vivid", "鮮やか", "鲜艳")),
+        Choice("Photo", Text("Photo", "写真", "照片")),
         Choice("None", Text("None", "なし", "无")),
     ),
     "Normal",
@@ -231,19 +298,37 @@ EFFECTS = (
 
 # --- Printer operation -------------------------------------------------------------------------
 
-SLEEP_TIME = Option(
+
+def sleep_time(minimum, maximum, parameter="Time"):
+    """Minutes of idleness until the printer sleeps, chosen by the printer or by the user."""
+    return Option(
+        "QXSleepTime",
+        Text("Sleep Time", "スリープまでの時間", "休眠时间"),
+        (Choice("Default", Text("Automatic", "自動", "自动")),),
+        "Default",
+        CustomInteger(
+            Text("Manual", "手動", "手动"),
+            parameter,
+            minimum,
+            maximum,
+            Text(
+                f"Minutes ({minimum} to {maximum})",
+                f"分（{minimum} ～ {maximum}）",
+                f"分钟（{minimum} 至 {maximum}）",
+            ),
+        ),
+    )
+
+
+# Printers that are told only whether to sleep.
+SLEEP_MODE = Option(
     "QXSleepTime",
-    Text("Sleep Time", "スリープまでの時間", "休眠时间"),
-    (Choice("Default", Text("Automatic", "自動", "自动")),),
-    "Default",
-    CustomInteger(
-        Text("Manual", "手動", "手动"),
-        "Time",
-        1,
-        99,
-        Text("Minutes (1 to 99)", "分（1 ～ 99）", "分钟（1 至 99）"),
-    ),
+    Text("Sleep Mode", "スリープモード", "休眠模式"),
+    (Choice("False", _OFF), Choice("True", _ON)),
+    "True",
 )
+
+TWO_WAY = _switch("QXBiDir", Text("Two-Way Communication", "双方向通信", "双向通信"), "ON")
 
 QUIET_MODE = Option(
     "QXQuietMode",

@@ -2,7 +2,8 @@
 
 Every choice ends up in the print data as page device code that names its option and itself,
 "<</CorvanaOption(QXMediaType=Thick)>>setpagedevice": the controller of the printer takes each
-such string as one setting, and other interpreters ignore the unknown key.
+such string as one setting, and other interpreters ignore the unknown key. Choices that CUPS
+carries out itself have no code.
 """
 
 from . import media
@@ -54,6 +55,17 @@ def _setting(keyword, choice, device=""):
     return f"<<{device}/CorvanaOption({keyword}={choice})>>setpagedevice"
 
 
+def _pc_file_name(file_name):
+    """"corvana-cl5.ppd" as "CORVCL5.PPD", the eight and three characters that old systems keep."""
+    maker, series = file_name.upper().split("-")
+    return maker[:4] + series
+
+
+def _kind(option):
+    is_boolean = {choice.keyword for choice in option.choices} == {"True", "False"}
+    return "Boolean" if is_boolean else "PickOne"
+
+
 class _Writer:
     """Collects the English lines in `lines` and every text to translate in `_texts`."""
 
@@ -75,7 +87,7 @@ class _Writer:
             "*LanguageVersion: English",
             "*LanguageEncoding: ISOLatin1",
             f'*cupsLanguages: "{" ".join(TRANSLATIONS)}"',
-            f'*PCFileName: "CORVCL{m.number}.PPD"',
+            f'*PCFileName: "{_pc_file_name(m.file_name)}"',
             '*Manufacturer: "Corvana"',
             f'*Product: "({m.name})"',
             f'*ModelName: "{m.name}"',
@@ -84,10 +96,13 @@ class _Writer:
             f'*1284DeviceID: "MFG:Corvana;MDL:{model_name};CMD:POSTSCRIPT;CLS:PRINTER;"',
             '*PSVersion: "(3010.000) 0"',
             '*LanguageLevel: "3"',
-            "*ColorDevice: True",
-            "*DefaultColorSpace: RGB",
+            f"*ColorDevice: {m.color}",
+            f"*DefaultColorSpace: {'RGB' if m.color else 'Gray'}",
+        ]
+        if not self._has_option("Resolution"):  # which would name its default itself
             # At which CUPS renders what PostScript cannot express, such as transparency.
-            "*DefaultResolution: 600dpi",
+            self.lines.append("*DefaultResolution: 600dpi")
+        self.lines += [
             "*FileSystem: False",
             f'*Throughput: "{m.pages_per_minute}"',
             "*LandscapeOrientation: Plus90",
@@ -208,7 +223,7 @@ class _Writer:
         check_keyword(keyword, MAX_OPTION_KEYWORD, "option")
         self._add_text(f"Translation {keyword}", option.text)
         self.lines += [
-            f"*OpenUI *{keyword}/{option.text.en}: PickOne",
+            f"*OpenUI *{keyword}/{option.text.en}: {_kind(option)}",
             f"*OrderDependency: {self._order} AnySetup *{keyword}",
             f"*Default{keyword}: {option.default}",
         ]
@@ -218,7 +233,7 @@ class _Writer:
         for choice in option.choices:
             check_keyword(choice.keyword, MAX_KEYWORD, f"option {keyword}, choice")
             self._add_text(f"{keyword} {choice.keyword}", choice.text)
-            code = _setting(keyword, choice.keyword, choice.device)
+            code = "" if option.done_by_cups else _setting(keyword, choice.keyword, choice.device)
             self.lines.append(f'*{keyword} {choice.keyword}/{choice.text.en}: "{code}"')
         self.lines.append(f"*CloseUI: *{keyword}")
         if option.custom:
@@ -239,6 +254,13 @@ class _Writer:
     def _add_text(self, key, text, limit=MAX_CHOICE_TEXT):
         check_text(text, limit, key)
         self._texts.append((key, text))
+
+    def _has_option(self, keyword):
+        return any(
+            option.keyword == keyword
+            for _, group_options in self._model.groups
+            for option in group_options
+        )
 
     def _check_choice(self, keyword, choice):
         if keyword == "PageSize":
