@@ -60,6 +60,12 @@ public:
         QXLaserPrintSettingPDE::updateUIforKey(keyword);
     }
 
+    void initializeAdvOption(const QList<QWidget *> &views) override
+    {
+        note("initializeAdvOption");
+        QXLaserPrintSettingPDE::initializeAdvOption(views);
+    }
+
 // One step each, noted and then done.
 #define TRACED(OPERATION)                                                                          \
     void OPERATION() override                                                                      \
@@ -74,7 +80,6 @@ public:
     TRACED(checkLang)
     TRACED(checkStateWithPaperFeed)
     TRACED(getUIValues)
-    TRACED(initializeAdvOption)
     TRACED(restoreDensityValue)
     TRACED(restoreOptionState)
     TRACED(restoreSleepTimeValue)

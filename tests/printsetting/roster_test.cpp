@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "panel/OptionKeywords.h"
 #include "tests/printsetting/PrintSettingProbe.h"
 #include "tests/support/PpdBuilder.h"
 #include "tests/support/TestBundle.h"
