@@ -2,7 +2,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
+
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -19,6 +24,23 @@ namespace {
 
 // The destination "printer/foo" asks for the printer's own data format.
 constexpr QLatin1StringView kPrinterFormat{"printer/foo"};
+
+// How long a filter chain may take to clean up after it was told to stop. Units: milliseconds.
+constexpr int kPatience = 3000;
+
+// The permissions that the user's other programs give a new file. Temporary files are private.
+mode_t usualPermissions()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString canonical = QFileInfo(one).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
+}
 
 // One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
 QString optionArgument(const JobOption &option)
@@ -99,10 +121,9 @@ FileQueue::~FileQueue()
 {
     // A dialog that is closed in the midst of a job takes its filter chain along.
     m_filter.disconnect(this);
-    if (m_filter.state() != QProcess::NotRunning) {
-        m_filter.kill();
-        m_filter.waitForFinished(1000);
-    }
+    signalFilterChain(SIGKILL);
+    if (m_filter.state() != QProcess::NotRunning)
+        m_filter.waitForFinished(kPatience);
 }
 
 void FileQueue::print(const Document &document, const JobTicket &ticket, const QString &ppdPath,
@@ -119,16 +140,28 @@ void FileQueue::print(const Document &document, const JobTicket &ticket, const Q
         return finish(tr("%1 cannot be read.").arg(ppdPath));
     if (QFileInfo(m_outputPath).isDir())
         return finish(tr("%1 is a folder; the name of a file was expected.").arg(outputPath));
+    if (QFileInfo::exists(m_outputPath) && !QFileInfo(m_outputPath).isFile())
+        return finish(tr("%1 is a device or a pipe; the name of a file was expected.").arg(outputPath));
+    if (isSameFile(m_outputPath, document.path))
+        return finish(tr("%1 is the document itself; name another file.").arg(outputPath));
     // Beside the result, so that taking its place is one step.
     m_result = std::make_unique<QTemporaryFile>(m_outputPath + QStringLiteral(".XXXXXX.part"));
     if (!m_result->open())
         return finish(tr("%1 cannot be written: %2").arg(outputPath, m_result->errorString()));
+    // The file takes its name only when it is asked for it, and does not say when that failed.
+    if (m_result->fileName().isEmpty())
+        return finish(tr("%1 cannot be written: %2").arg(outputPath, qt_error_string(errno)));
     m_result->close();
 
     m_filter.setProgram(program);
     m_filter.setArguments(filterArguments(document, ticket, ppdPath));
     m_filter.setStandardOutputFile(m_result->fileName());
     m_filter.setStandardInputFile(QProcess::nullDevice());
+    // The chain is a process group, which can be stopped as a whole, and which ends with this program.
+    m_filter.setChildProcessModifier([] {
+        ::setpgid(0, 0);
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    });
     qCInfo(lcJob) << m_filter.program() << m_filter.arguments();
     m_filter.start();
 }
@@ -136,8 +169,18 @@ void FileQueue::print(const Document &document, const JobTicket &ticket, const Q
 void FileQueue::cancel()
 {
     m_canceled = true;
-    if (m_filter.state() != QProcess::NotRunning)
-        m_filter.terminate();
+    if (m_filter.state() == QProcess::NotRunning)
+        return;
+    signalFilterChain(SIGTERM);
+    QTimer::singleShot(kPatience, this, [this] { signalFilterChain(SIGKILL); });
+}
+
+void FileQueue::signalFilterChain(int signal)
+{
+    const auto program = static_cast<pid_t>(m_filter.processId());
+    // In its first moment the program is not the leader of its group yet.
+    if (program > 0 && ::kill(-program, signal) != 0)
+        ::kill(program, signal);
 }
 
 bool FileQueue::wait()
@@ -154,10 +197,7 @@ void FileQueue::filterFinished(int exitCode, QProcess::ExitStatus status)
     QString problem = problemOfFilter(exitCode, status);
     if (problem.isEmpty()) {
         m_result->setAutoRemove(false);
-        // Temporary files are private; a print file is as readable as the user's other files.
-        constexpr auto usual = QFileDevice::ReadOwner | QFileDevice::WriteOwner
-            | QFileDevice::ReadGroup | QFileDevice::ReadOther;
-        m_result->setPermissions(usual);
+        ::chmod(QFile::encodeName(m_result->fileName()).constData(), usualPermissions());
         if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
                         QFile::encodeName(m_outputPath).constData())
             != 0) {

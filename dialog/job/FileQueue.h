@@ -21,7 +21,7 @@ QString findCupsFilter(QString *error);
 /// printer's PPD and becomes what the printer would have got.
 ///
 /// One object prints one job. The result appears under its name when it is complete, in place of
-/// whatever stood there; until then, and for good after a failure, that is untouched.
+/// the file that stood there; until then, and for good after a failure, that is untouched.
 /// Thread: GUI thread; the filter chain is a process of its own.
 class FileQueue : public QObject
 {
@@ -35,7 +35,8 @@ public:
     void print(const Document &document, const JobTicket &ticket, const QString &ppdPath,
                const QString &outputPath);
 
-    /// Stops the filter chain; `finished` follows with a failure.
+    /// Stops the filter chain, by force when it does not stop by itself; `finished` follows with a
+    /// failure.
     void cancel();
 
     /// Waits until the job is done, turning the event loop. True when it was printed.
@@ -47,6 +48,7 @@ Q_SIGNALS:
 
 private:
     void finish(const QString &problem);
+    void signalFilterChain(int signal);
     void filterFinished(int exitCode, QProcess::ExitStatus status);
     QString problemOfFilter(int exitCode, QProcess::ExitStatus status);
 

@@ -14,7 +14,8 @@ constexpr QLatin1StringView kIdentifyingKeys{"PMPPDKeysIdentifying"};
 PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle)
 {
     const QString bundleName = QFileInfo(bundle.path()).fileName();
-    if (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr)) {
+    for (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr); named;
+         named = ppdFindNextAttr(ppd, kExtensionAttribute, nullptr)) {
         if (QString::fromUtf8(named->value) == bundleName)
             return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
     }

@@ -36,7 +36,7 @@ public:
     ~Call()
     {
         m_host.m_callStack.removeLast();
-        if (!m_host.m_pending.isEmpty())
+        if (m_host.hasNews())
             m_host.scheduleDelivery();
     }
     Call(const Call &) = delete;
@@ -58,7 +58,7 @@ public:
         ++m_host.m_runningAlerts;
         const AlertAnswer answer = m_presenter.runModal(alert, parent);
         --m_host.m_runningAlerts;
-        if (!m_host.m_pending.isEmpty())
+        if (m_host.hasNews())
             m_host.scheduleDelivery();
         return answer;
     }
@@ -73,6 +73,10 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
       m_callback(std::make_shared<HostCallback>(session, *m_alerts))
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
+    connect(&session, &PpdSession::refused, this, [this] {
+        m_refused = true;
+        scheduleDelivery();
+    });
     if (!plugIn)
         return;
     m_panels = plugIn->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType),
@@ -186,7 +190,10 @@ void PanelHost::deliverPending()
 {
     if (panelIsBusy())
         return; // when it has returned, delivery is scheduled again
-    const bool anything = !m_pending.isEmpty();
+    if (!m_broughtUp)
+        return; // nobody is told anything before it was shown; bringUp() delivers
+    const bool anything = hasNews();
+    m_refused = false;
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
     constexpr int kMostRounds = 10;

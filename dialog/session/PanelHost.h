@@ -58,11 +58,11 @@ public:
     bool shouldPrint();
 
     /// Tells the panels what changed elsewhere, now instead of at the next turn of the event loop.
-    /// Does nothing in the midst of a panel's call.
+    /// Does nothing in the midst of a panel's call, and before the panels were brought up.
     void deliverPending();
 
 Q_SIGNALS:
-    /// All panels know of all changes.
+    /// All panels know of all changes, and what a panel proposed in vain can be told to the user.
     void settled();
 
 private:
@@ -76,6 +76,7 @@ private:
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     void deliverOnce();
     void scheduleDelivery();
+    bool hasNews() const { return !m_pending.isEmpty() || m_refused; }
     bool panelIsBusy() const { return !m_callStack.isEmpty() || m_runningAlerts > 0; }
     void saveVisible();
     void restoreHidden();
@@ -88,6 +89,7 @@ private:
     QList<PDEPanel *> m_callStack;
     int m_runningAlerts = 0;
     QMap<QString, Change> m_pending;
+    bool m_refused = false;
     bool m_scheduled = false;
     bool m_broughtUp = false;
 };
