@@ -84,7 +84,10 @@ void PrintDialog::buildWindow()
     header->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     header->addRow(tr("P&rinter:"), m_printers);
     header->addRow(tr("Document:"), m_document);
-    header->addRow(tr("Print to &file:"), buildOutputRow());
+    QWidget *outputRow = buildOutputRow();
+    header->addRow(tr("Print to &file:"), outputRow);
+    // The row itself takes no focus, so the label's key has to lead to its field.
+    qobject_cast<QLabel *>(header->labelForField(outputRow))->setBuddy(m_output);
 
     m_message = new MessageBar(this);
     m_message->setObjectName(QStringLiteral("message"));
@@ -313,7 +316,7 @@ bool PrintDialog::applyRequestedOptions()
 
 int PrintDialog::panelOfPage(int page) const
 {
-    return m_panelPages.indexOf(static_cast<PanelPage *>(m_pages->widget(page)));
+    return m_panelPages.indexOf(qobject_cast<PanelPage *>(m_pages->widget(page)));
 }
 
 void PrintDialog::pageEntered(int page)

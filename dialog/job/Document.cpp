@@ -54,11 +54,16 @@ Document inspectDocument(const QString &path, QString *error)
         *error = Texts::tr("%1 is a folder; a document was expected.").arg(path);
         return {};
     }
+    // A pipe or a device can be read only once, and perhaps never ends.
+    if (!info.isFile()) {
+        *error = Texts::tr("%1 is no ordinary file; a document was expected.").arg(path);
+        return {};
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         *error = Texts::tr("%1 cannot be read: %2").arg(path, file.errorString());
         return {};
     }
-    if (info.isFile() && info.size() == 0) {
+    if (info.size() == 0) {
         *error = Texts::tr("%1 is empty.").arg(path);
         return {};
     }

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -23,6 +26,23 @@ namespace {
 // The destination "printer/foo" asks for the printer's own data format.
 constexpr QLatin1StringView kPrinterFormat{"printer/foo"};
 constexpr QLatin1StringView kPdf{"application/pdf"};
+
+// How long a filter chain may take to clean up after it was told to stop. Units: milliseconds.
+constexpr int kPatience = 3000;
+
+// The permissions that the user's other programs give a new file. Temporary files are private.
+mode_t usualPermissions()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString canonical = QFileInfo(one).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
+}
 
 // One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
 QString optionArgument(const JobOption &option)
@@ -107,6 +127,11 @@ QString findCupsFilter(QString *error)
 
 FileQueue::FileQueue(QObject *parent) : QObject(parent)
 {
+    // The chain is a process group, which can be stopped as a whole, and which ends with this program.
+    m_process.setChildProcessModifier([] {
+        ::setpgid(0, 0);
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    });
     connect(&m_process, &QProcess::finished, this, &FileQueue::stepFinished);
     connect(&m_process, &QProcess::readyReadStandardError, this, &FileQueue::readLog);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
@@ -119,10 +144,9 @@ FileQueue::~FileQueue()
 {
     // A dialog that is closed in the midst of a job takes its filter chain along.
     m_process.disconnect(this);
-    if (m_process.state() != QProcess::NotRunning) {
-        m_process.kill();
-        m_process.waitForFinished(1000);
-    }
+    signalChain(SIGKILL);
+    if (m_process.state() != QProcess::NotRunning)
+        m_process.waitForFinished(kPatience);
 }
 
 void FileQueue::print(const Document &document, const JobTicket &ticket, const QString &ppdPath,
@@ -159,10 +183,17 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         return tr("%1 is a folder; the name of a file was expected.").arg(m_outputPath);
     if (QFileInfo::exists(m_outputPath) && !QFileInfo(m_outputPath).isFile())
         return tr("%1 is a device or a pipe; the name of a file was expected.").arg(m_outputPath);
+    for (const Document &document : documents) {
+        if (isSameFile(m_outputPath, document.path))
+            return tr("%1 is the document itself; name another file.").arg(m_outputPath);
+    }
     // Beside the result, so that taking its place is one step.
     m_result = std::make_unique<QTemporaryFile>(m_outputPath + QStringLiteral(".XXXXXX.part"));
     if (!m_result->open())
         return tr("%1 cannot be written: %2").arg(m_outputPath, m_result->errorString());
+    // The file takes its name only when it is asked for it, and does not say when that failed.
+    if (m_result->fileName().isEmpty())
+        return tr("%1 cannot be written: %2").arg(m_outputPath, qt_error_string(errno));
     m_result->close();
 
     Document whole = documents.value(0);
@@ -208,9 +239,16 @@ void FileQueue::cancel()
     m_canceled = true;
     if (m_process.state() == QProcess::NotRunning)
         return;
-    m_process.terminate();
-    // A filter that does not listen is not asked twice.
-    QTimer::singleShot(2000, &m_process, &QProcess::kill);
+    signalChain(SIGTERM);
+    QTimer::singleShot(kPatience, this, [this] { signalChain(SIGKILL); });
+}
+
+void FileQueue::signalChain(int signal)
+{
+    const auto program = static_cast<pid_t>(m_process.processId());
+    // In its first moment the program is not the leader of its group yet.
+    if (program > 0 && ::kill(-program, signal) != 0)
+        ::kill(program, signal);
 }
 
 bool FileQueue::wait()
@@ -251,10 +289,7 @@ void FileQueue::stepFinished(int exitCode, QProcess::ExitStatus status)
 // Moves the result to its name. Answers why that failed.
 QString FileQueue::takeResult()
 {
-    // Temporary files are private; a print file is as readable as the user's other files.
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    ::chmod(QFile::encodeName(m_result->fileName()).constData(), 0666 & ~mask);
+    ::chmod(QFile::encodeName(m_result->fileName()).constData(), usualPermissions());
     if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
                     QFile::encodeName(m_outputPath).constData())
         != 0)

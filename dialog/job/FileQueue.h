@@ -26,7 +26,7 @@ QString findCupsFilter(QString *error);
 /// into one PDF first, and are one job.
 ///
 /// One object prints one job. The result appears under its name when it is complete, in place of
-/// whatever stood there; until then, and for good after a failure, that is untouched.
+/// the file that stood there; until then, and for good after a failure, that is untouched.
 /// Thread: GUI thread; the filter chain is a process of its own.
 class FileQueue : public QObject
 {
@@ -42,7 +42,8 @@ public:
     void print(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
                const QString &outputPath);
 
-    /// Stops the filter chain; `finished` follows with a failure.
+    /// Stops the filter chain, by force when it does not stop by itself; `finished` follows with a
+    /// failure.
     void cancel();
 
     /// Waits until the job is done, turning the event loop. True when it was printed.
@@ -61,6 +62,7 @@ private:
         QStringList arguments;
         QString outputFile;
     };
+    void signalChain(int signal);
 
     QString prepare(const QList<Document> &documents, const JobTicket &ticket,
                     const QString &ppdPath);

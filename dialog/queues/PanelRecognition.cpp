@@ -20,8 +20,11 @@ QString namedBundle(ppd_file_t *ppd)
 PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle)
 {
     const QString bundleName = QFileInfo(bundle.path()).fileName();
-    if (namedBundle(ppd) == bundleName)
-        return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
+    for (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr); named;
+         named = ppdFindNextAttr(ppd, kExtensionAttribute, nullptr)) {
+        if (QString::fromUtf8(named->value) == bundleName)
+            return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
+    }
     const QStringList keywords = bundle.infoStringList(kIdentifyingKeys).value_or(QStringList());
     QStringList missing;
     for (const QString &keyword : keywords) {

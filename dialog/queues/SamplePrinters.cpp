@@ -28,7 +28,7 @@ QList<Printer> samplePrinters(const QString &folder)
         QDir(folder).entryInfoList({QStringLiteral("*.ppd")}, QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
         QString error;
-        const Printer printer = printerOfPpd(file.canonicalFilePath(), &error);
+        const Printer printer = printerOfPpd(file.absoluteFilePath(), &error);
         if (error.isEmpty())
             printers += printer;
         else

@@ -27,6 +27,22 @@ QString number(double value)
     return QString::number(value, 'g', 8);
 }
 
+QString number(const ppd_cparam_t *parameter, double value)
+{
+    // Whole numbers have up to ten digits; fractions are stored with seven.
+    return parameter->type == PPD_CUSTOM_INT ? QString::number(static_cast<int>(value))
+                                             : number(value);
+}
+
+// A number and nothing else: Qt would also read " 5", "5\n", "1e1" and "nan".
+std::optional<double> strictNumber(const ppd_cparam_t *parameter, const QString &text)
+{
+    static const QRegularExpression whole(QStringLiteral("^[+-]?[0-9]+\\z"));
+    static const QRegularExpression fraction(QStringLiteral("^[+-]?[0-9]+(?:\\.[0-9]+)?\\z"));
+    const QRegularExpression &form = parameter->type == PPD_CUSTOM_INT ? whole : fraction;
+    return form.match(text).hasMatch() ? std::optional(text.toDouble()) : std::nullopt;
+}
+
 QString millimetres(double points)
 {
     return QString::number(std::round(points / 72.0 * 254.0) / 10.0);
@@ -42,7 +58,7 @@ QString allowedPageSizes(const ppd_file_t *ppd)
 CustomValueCheck checkPageSize(const ppd_file_t *ppd, const QString &value)
 {
     static const QRegularExpression form(
-        QStringLiteral("^Custom\\.([0-9]+(?:\\.[0-9]+)?)x([0-9]+(?:\\.[0-9]+)?)([a-z]*)$"));
+        QStringLiteral("^Custom\\.([0-9]+(?:\\.[0-9]+)?)x([0-9]+(?:\\.[0-9]+)?)([a-z]*)\\z"));
     const CustomValueCheck refused{std::nullopt, allowedPageSizes(ppd)};
     const QRegularExpressionMatch match = form.match(value);
     const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits),
@@ -80,6 +96,10 @@ std::optional<std::pair<double, double>> range(const ppd_cparam_t *parameter)
     case PPD_CUSTOM_REAL:
         return std::pair<double, double>(static_cast<double>(parameter->minimum.custom_real),
                                          static_cast<double>(parameter->maximum.custom_real));
+    case PPD_CUSTOM_CURVE:
+    case PPD_CUSTOM_INVCURVE:
+        return std::pair<double, double>(static_cast<double>(parameter->minimum.custom_curve),
+                                         static_cast<double>(parameter->maximum.custom_curve));
     case PPD_CUSTOM_POINTS:
         return std::pair<double, double>(static_cast<double>(parameter->minimum.custom_points),
                                          static_cast<double>(parameter->maximum.custom_points));
@@ -103,13 +123,11 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
     if (!bounds) {
         const int length = static_cast<int>(text.toUtf8().size());
         const bool fits = length >= parameter->minimum.custom_string
-            && length <= parameter->maximum.custom_string;
+            && length <= parameter->maximum.custom_string && !text.contains(u'\n');
         return fits ? CustomValueCheck{value, refused.allowed} : refused;
     }
-    bool isNumber = false;
-    const double given = parameter->type == PPD_CUSTOM_INT ? text.toInt(&isNumber)
-                                                           : text.toDouble(&isNumber);
-    if (!isNumber || given < bounds->first || given > bounds->second)
+    const std::optional<double> given = strictNumber(parameter, text);
+    if (!given || *given < bounds->first || *given > bounds->second)
         return refused;
     return {value, refused.allowed};
 }
@@ -123,7 +141,7 @@ QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
         return {};
     if (const auto bounds = range(parameter)) {
         return QStringLiteral("Custom.%1 to Custom.%2")
-            .arg(number(bounds->first), number(bounds->second));
+            .arg(number(parameter, bounds->first), number(parameter, bounds->second));
     }
     return QStringLiteral("Custom.TEXT");
 }

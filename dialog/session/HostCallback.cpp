@@ -44,8 +44,10 @@ bool HostCallback::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
         return m_session.change(keyword, choice, PpdSession::Origin::Panel).accepted();
     } catch (const std::exception &exception) {
         qCCritical(lcHost) << "refused:" << keyword << choice << exception.what();
-        return false;
+    } catch (...) {
+        qCCritical(lcHost) << "refused:" << keyword << choice << "by an unknown exception";
     }
+    return false;
 }
 
 void HostCallback::panelViewDidResize()

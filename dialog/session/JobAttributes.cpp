@@ -23,7 +23,7 @@ bool isBoolean(const QString &value)
 // "1-4,7,9-": ascending ranges of pages, each page at least 1.
 bool isPageRanges(const QString &value)
 {
-    static const QRegularExpression range(QStringLiteral("^([0-9]{1,9})?(-)?([0-9]{1,9})?$"));
+    static const QRegularExpression range(QStringLiteral("^([0-9]{1,9})?(?:(-)([0-9]{1,9})?)?\\z"));
     int last = 0;
     const QStringList parts = value.split(u',');
     for (const QString &part : parts) {
@@ -45,7 +45,7 @@ bool isPageRanges(const QString &value)
 bool isHoldUntil(const QString &value)
 {
     static const QRegularExpression time(
-        QStringLiteral("^([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?$"));
+        QStringLiteral("^([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?\\z"));
     return isOneOf(value,
                    {QLatin1StringView("no-hold"), QLatin1StringView("indefinite"),
                     QLatin1StringView("day-time"), QLatin1StringView("evening"),
@@ -56,15 +56,14 @@ bool isHoldUntil(const QString &value)
 
 bool isPriority(const QString &value)
 {
-    bool isNumber = false;
-    const int priority = value.toInt(&isNumber);
-    return isNumber && priority >= 1 && priority <= 100;
+    static const QRegularExpression number(QStringLiteral("^[0-9]{1,3}\\z"));
+    return number.match(value).hasMatch() && value.toInt() >= 1 && value.toInt() <= 100;
 }
 
 // Banner pages are the server's; their names are checked there. One or two of them.
 bool isJobSheets(const QString &value)
 {
-    static const QRegularExpression names(QStringLiteral("^[A-Za-z0-9._-]+(,[A-Za-z0-9._-]+)?$"));
+    static const QRegularExpression names(QStringLiteral("^[A-Za-z0-9._-]+(,[A-Za-z0-9._-]+)?\\z"));
     return names.match(value).hasMatch();
 }
 

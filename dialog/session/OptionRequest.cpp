@@ -50,9 +50,8 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
 // The PPD's page size for a media name: its own keyword, or a standard name of the same size.
 QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
 {
-    if (media == kCustomChoice)
-        return {};
-    if (ppdChoice(ppdOption(ppd, kPageSizeOption), media))
+    // The entry "Custom" is no size of its own: it has the one that was asked for last.
+    if (media != kCustomChoice && ppdChoice(ppdOption(ppd, kPageSizeOption), media))
         return media;
     const QByteArray name = media.toUtf8();
     const pwg_media_t *standard = pwgMediaForPWG(name.constData());
@@ -64,6 +63,8 @@ QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
     constexpr double kTolerance = 5.0;               // points, as CUPS matches media sizes
     for (int i = 0; i < ppd->num_sizes; ++i) {
         const ppd_size_t &size = ppd->sizes[i];
+        if (kCustomChoice == QLatin1StringView(size.name))
+            continue;
         if (qAbs(static_cast<double>(size.width) - standard->width * kPointsPerUnit) <= kTolerance
             && qAbs(static_cast<double>(size.length) - standard->length * kPointsPerUnit) <= kTolerance)
             return ppdKeyword(size.name);
@@ -91,7 +92,8 @@ public:
             addMedia(option);
         else if (option.name == QLatin1StringView("sides"))
             addSides(option);
-        else if (addPanelValue(option) || addChoice(option) || addAttribute(option))
+        else if (addPanelValue(option) || addChoice(option, option.name)
+                 || addAttribute(option))
             return;
         else
             refuse(option, Texts::tr("this printer has no such option. Options: %1. Job attributes: %2.")
@@ -128,10 +130,10 @@ private:
     {
         const QString size = pageSizeOfMedia(m_session.ppd(), option.value);
         if (!size.isNull())
-            choices += OptionChoice{QString(kPageSizeOption), size};
-        else if (option.value.startsWith(kCustomPrefix))
-            addChoice({QString(kPageSizeOption), option.value});
-        else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), QString(kPageSizeOption)))
+            choices += OptionChoice{kPageSizeOption, size};
+        else if (option.value.startsWith(kCustomPrefix) && addChoice(option, kPageSizeOption))
+            return;
+        else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), kPageSizeOption))
             refuseValue(option, allowedChoices(m_session.ppd(), sizes));
         else
             refuse(option, Texts::tr("this printer has no paper sizes to choose from."));
@@ -185,20 +187,20 @@ private:
         return true;
     }
 
-    bool addChoice(const JobOption &option)
+    bool addChoice(const JobOption &option, const QString &keyword)
     {
-        ppd_option_t *found = ppdOption(m_session.ppd(), option.name);
-        if (!found || option.name == kPageRegionOption)
-            return false; // the page region follows the page size
+        ppd_option_t *found = ppdOption(m_session.ppd(), keyword);
+        if (!m_session.options().contains(found))
+            return false;
         if (option.value.startsWith(kCustomPrefix)) {
             const CustomValueCheck check =
-                checkCustomValue(m_session.ppd(), option.name, option.value);
+                checkCustomValue(m_session.ppd(), keyword, option.value);
             if (check.value)
-                choices += OptionChoice{option.name, *check.value};
+                choices += OptionChoice{keyword, *check.value};
             else
                 refuseValue(option, allowedChoices(m_session.ppd(), found));
         } else if (ppdChoice(found, option.value) && option.value != kCustomChoice) {
-            choices += OptionChoice{option.name, option.value};
+            choices += OptionChoice{keyword, option.value};
         } else {
             refuseValue(option, allowedChoices(m_session.ppd(), found));
         }
@@ -318,16 +320,15 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     Request request(session, jobValues);
     for (const JobOption &option : requested)
         request.add(option);
-    OptionOutcome outcome{request.problems, {}};
-    if (!outcome.ok())
-        return outcome;
+    if (!request.problems.isEmpty())
+        return {request.problems, {}};
 
+    OptionOutcome outcome{{}, request.attributes};
     const QList<Refusal> conflicts = session.changeTogether(request.choices);
     for (const Refusal &conflict : conflicts)
         outcome.problems += conflictMessage(conflict);
     if (!outcome.ok())
-        return outcome;
-    outcome.attributes = request.attributes;
+        return {outcome.problems, {}};
 
     QList<JobOption> expected;
     for (const OptionChoice &choice : std::as_const(request.choices))
@@ -347,9 +348,10 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     if (outcome.ok())
         outcome.problems = differences(expected, session, jobValues);
     if (!outcome.ok()) {
+        outcome.attributes.clear();
         session.restore(before);
         panels.restoreAll();
-        outcome.attributes.clear();
+        session.restore(before); // panels write entries of their own while they restore
     }
     return outcome;
 }

@@ -21,7 +21,8 @@ struct OptionOutcome {
     /// One message for each option that was not taken, with its name and what is allowed. When
     /// there is any, the session is as it was before.
     QStringList problems;
-    /// Those that are no option of the printer's and go into the job as they are.
+    /// Those that are no option of the printer's and go into the job as they are; none when there
+    /// are problems.
     QList<JobOption> attributes;
 
     bool ok() const { return problems.isEmpty(); }

@@ -37,7 +37,7 @@ public:
     ~Call()
     {
         m_host.m_callStack.removeLast();
-        if (!m_host.m_pending.isEmpty())
+        if (m_host.hasNews())
             m_host.scheduleDelivery();
     }
     Call(const Call &) = delete;
@@ -59,7 +59,7 @@ public:
         ++m_host.m_runningAlerts;
         const AlertAnswer answer = m_presenter.runModal(alert, parent);
         --m_host.m_runningAlerts;
-        if (!m_host.m_pending.isEmpty())
+        if (m_host.hasNews())
             m_host.scheduleDelivery();
         return answer;
     }
@@ -75,8 +75,8 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
                                                 [this] { Q_EMIT viewResized(); }))
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
-    connect(&session, &PpdSession::panelRefused, this, [this] {
-        m_refusalUntold = true;
+    connect(&session, &PpdSession::refused, this, [this] {
+        m_refused = true;
         scheduleDelivery();
     });
     m_told = session.snapshot().marks;
@@ -84,10 +84,6 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
         return;
     m_panels = plugIn->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType),
                                                      m_callback);
-    // What the panels changed while they were constructed they find when they are brought up, and
-    // nothing is told to a panel before that.
-    m_pending.clear();
-    m_told = session.snapshot().marks;
 }
 
 PanelHost::~PanelHost() = default;
@@ -199,7 +195,9 @@ void PanelHost::deliverPending()
 {
     if (panelIsBusy())
         return; // when it has returned, delivery is scheduled again
-    bool anything = std::exchange(m_refusalUntold, false);
+    if (!m_broughtUp)
+        return; // nobody is told anything before it was shown; bringUp() delivers
+    bool anything = std::exchange(m_refused, false);
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
     constexpr int kMostRounds = 10;

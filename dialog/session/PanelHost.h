@@ -63,11 +63,11 @@ public:
     bool shouldPrint();
 
     /// Tells the panels what changed elsewhere, now instead of at the next turn of the event loop.
-    /// Does nothing in the midst of a panel's call.
+    /// Does nothing in the midst of a panel's call, and before the panels were brought up.
     void deliverPending();
 
 Q_SIGNALS:
-    /// All panels know of all changes; or a proposal of one was refused.
+    /// All panels know of all changes, and what a panel proposed in vain can be told to the user.
     void settled();
     /// A panel's view asks for another size. Receivers must not call a panel.
     void viewResized();
@@ -83,6 +83,7 @@ private:
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
     void scheduleDelivery();
+    bool hasNews() const { return !m_pending.isEmpty() || m_refused; }
     bool panelIsBusy() const { return !m_callStack.isEmpty() || m_runningAlerts > 0; }
     void saveVisible();
     void restoreHidden();
@@ -97,7 +98,7 @@ private:
     QMap<QString, Change> m_pending;
     QMap<QString, QString> m_told; // the marks that all panels know of
     QList<QPointer<QWidget>> m_views;
-    bool m_refusalUntold = false;
+    bool m_refused = false;
     bool m_scheduled = false;
     bool m_broughtUp = false;
 };

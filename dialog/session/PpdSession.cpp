@@ -21,6 +21,22 @@ QList<OptionChoice> takeOptions(int count, cups_option_t *options)
     return choices;
 }
 
+// What libcups says collides with a choice: every option that takes part in any conflict.
+QList<OptionChoice> allConflicts(ppd_file_t *ppd, const QString &keyword, const char *choice)
+{
+    cups_option_t *conflicting = nullptr;
+    const int count = cupsGetConflicts(ppd, keyword.toLatin1().constData(), choice, &conflicting);
+    return takeOptions(count, conflicting);
+}
+
+void unmark(ppd_file_t *ppd, const QString &keyword)
+{
+    if (ppd_choice_t *marked = ppdMarkedChoice(ppd, keyword)) {
+        marked->marked = 0;
+        cupsArrayRemove(ppd->marked, marked);
+    }
+}
+
 // The keyword under which a choice stands in the PPD: all custom values are the one choice "Custom".
 QString choiceKeyword(const QString &choice)
 {
@@ -64,9 +80,9 @@ QString PpdSession::markedChoice(const QString &keyword) const
 ChangeResult PpdSession::change(const QString &keyword, const QString &choice, Origin origin)
 {
     using Outcome = ChangeResult::Outcome;
-    // The page region follows the page size; marking it alone would leave the job without a paper.
-    ppd_option_t *option = keyword == kPageRegionOption ? nullptr : ppdOption(m_ppd.get(), keyword);
-    if (!option) {
+    ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
+    // The page region follows the page size; marked itself, it would take the mark of the size away.
+    if (!option || keyword == kPageRegionOption) {
         qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
         return {Outcome::UnknownOption, {}};
     }
@@ -84,7 +100,7 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
                               << conflicting.first().keyword << conflicting.first().choice;
             if (origin == Origin::Panel) {
                 m_refusals.insert(keyword, Refusal{{keyword, choice}, conflicting});
-                Q_EMIT panelRefused();
+                Q_EMIT refused();
             }
             return {Outcome::Conflict, conflicting};
         }
@@ -165,6 +181,10 @@ SessionSnapshot PpdSession::snapshot() const
 
 void PpdSession::restore(const SessionSnapshot &snapshot)
 {
+    for (const ppd_option_t *option : options()) {
+        if (const QString keyword = ppdKeyword(option->keyword); !snapshot.marks.contains(keyword))
+            unmark(m_ppd.get(), keyword);
+    }
     for (auto marked = snapshot.marks.cbegin(); marked != snapshot.marks.cend(); ++marked)
         mark(marked.key(), snapshot.customValues.value(marked.key(), marked.value()));
     m_customValues = snapshot.customValues;
@@ -226,11 +246,17 @@ void PpdSession::setDuplex(PMDuplexMode mode)
 
 QList<OptionChoice> PpdSession::conflictsOf(const OptionChoice &choice) const
 {
-    cups_option_t *conflicting = nullptr;
-    const int count = cupsGetConflicts(m_ppd.get(), choice.keyword.toLatin1().constData(),
-                                       choiceKeyword(choice.choice).toLatin1().constData(),
-                                       &conflicting);
-    return takeOptions(count, conflicting);
+    QList<OptionChoice> conflicting = allConflicts(
+        m_ppd.get(), choice.keyword, choiceKeyword(choice.choice).toLatin1().constData());
+    if (conflicting.isEmpty())
+        return {};
+    // A conflict that is there without this option is none of its own. "None" and "False" both mean
+    // that an option is off; a PPD may constrain a choice of one of these names, but not of both.
+    const QList<OptionChoice> none = allConflicts(m_ppd.get(), choice.keyword, "None");
+    const QList<OptionChoice> off = allConflicts(m_ppd.get(), choice.keyword, "False");
+    conflicting.removeIf(
+        [&](const OptionChoice &other) { return none.contains(other) && off.contains(other); });
+    return conflicting;
 }
 
 } // namespace corvana

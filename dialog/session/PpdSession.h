@@ -107,8 +107,8 @@ public:
 Q_SIGNALS:
     /// A choice was marked that was not marked before.
     void changed(const QString &keyword, const QString &choice, Origin origin);
-    /// What a panel proposed was refused; see takeRefusals().
-    void panelRefused();
+    /// A panel's proposal collides with other marks; takeRefusals() tells which.
+    void refused();
     /// The paper is another one; everything else is already up to date.
     void paperChanged();
 
