@@ -55,10 +55,17 @@ bool serves(const QString &localization, const QString &userLanguage)
         return true;
     const QLocale wanted(userLanguage);
     const QLocale offered(code);
-    if (wanted.language() != offered.language())
+    // What is no language code at all would pass for the language "C".
+    if (offered.language() == QLocale::C || wanted.language() != offered.language())
         return false;
     // A localisation without a region serves every region; one with a region serves its script.
     return !code.contains(u'-') || wanted.script() == offered.script();
+}
+
+// Whether a name stays in the folder that it is looked up in.
+bool isPlainName(const QString &name)
+{
+    return !name.isEmpty() && !name.contains(u'/') && !name.startsWith(u'.');
 }
 
 int lineOfOffset(const QByteArray &text, int offset)
@@ -111,7 +118,11 @@ void Bundle::readInfo(QString *error)
 
 void Bundle::associateModule(const QString &moduleFile, const std::shared_ptr<Bundle> &bundle)
 {
-    modules().insert(canonicalModule(moduleFile), bundle);
+    const QString module = QFileInfo(moduleFile).canonicalFilePath();
+    if (module.isEmpty())
+        qCWarning(lcBundle) << "there is no module" << moduleFile;
+    else
+        modules().insert(module, bundle);
 }
 
 std::shared_ptr<Bundle> Bundle::bundleForCode(const void *address)
@@ -167,11 +178,10 @@ QString Bundle::localizedString(const QString &key) const
 {
     if (!m_strings) {
         m_strings = std::make_unique<QTranslator>();
-        const QStringList preferred = preferredLocalizations(localizations());
-        const QString table = preferred.isEmpty()
-            ? QString()
-            : QStringLiteral("%1/strings/%2.qm").arg(m_path, preferred.first());
-        if (table.isEmpty() || !m_strings->load(table))
+        const QString name = preferredLocalizations(localizations()).value(0);
+        const QString table = QStringLiteral("%1/strings/%2.qm").arg(m_path, name);
+        // QTranslator would seek a missing table under shorter names, even outside the bundle.
+        if (!isPlainName(name) || !QFileInfo(table).isFile() || !m_strings->load(table))
             qCWarning(lcBundle) << "no string table could be loaded from" << table;
     }
     return m_strings->translate(kStringTableContext, key.toUtf8().constData());
@@ -185,7 +195,7 @@ QString Bundle::localizedStringOrKey(const QString &key) const
 
 QString Bundle::pathForResource(const QString &name, const QString &type) const
 {
-    if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.'))
+    if (!isPlainName(name) || type.contains(u'/'))
         return {};
     const QLatin1StringView folder(type == QLatin1StringView("ui") ? "interface" : "pictures");
     const QFileInfo file(QStringLiteral("%1/%2/%3.%4").arg(m_path, folder, name, type));

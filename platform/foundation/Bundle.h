@@ -36,6 +36,7 @@ public:
     static std::shared_ptr<Bundle> open(const QString &path, QString *error = nullptr);
 
     /// Notes that the code in `moduleFile` belongs to `bundle`: done by whoever loads a module.
+    /// A file that does not exist is logged and has no effect.
     static void associateModule(const QString &moduleFile, const std::shared_ptr<Bundle> &bundle);
     /// The bundle whose module contains the machine code or data at `address`, or null.
     static std::shared_ptr<Bundle> bundleForCode(const void *address);

@@ -24,6 +24,8 @@ QString formattedWithoutArguments(const QString &format)
             ++i;
         if (i < format.size() && format.at(i) == u'%')
             result += u'%';
+        else if (i + 1 < format.size() && format.at(i).isHighSurrogate())
+            ++i; // a conversion letter of two code units goes as a whole
     }
     return result;
 }

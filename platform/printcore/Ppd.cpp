@@ -18,6 +18,16 @@ QByteArray asciiKeyword(const QString &keyword)
     return ascii ? keyword.toLatin1() : QByteArray();
 }
 
+// libcups finds custom options without regard to case as well.
+ppd_coption_t *customOption(ppd_file_t *ppd, const QString &keyword)
+{
+    const QByteArray name = asciiKeyword(keyword);
+    if (!ppd || name.isEmpty())
+        return nullptr;
+    ppd_coption_t *option = ppdFindCustomOption(ppd, name.constData());
+    return option && name == option->keyword ? option : nullptr;
+}
+
 } // namespace
 
 ppd_option_t *ppdOption(ppd_file_t *ppd, const QString &keyword)
@@ -50,18 +60,17 @@ ppd_choice_t *ppdChoice(ppd_option_t *option, const QString &choice)
 
 ppd_cparam_t *ppdCustomParameter(ppd_file_t *ppd, const QString &keyword, const QString &name)
 {
-    const QByteArray option = asciiKeyword(keyword);
-    const QByteArray parameter = asciiKeyword(name);
-    if (!ppd || option.isEmpty() || parameter.isEmpty())
+    ppd_coption_t *option = customOption(ppd, keyword);
+    const QByteArray wanted = asciiKeyword(name);
+    if (!option || wanted.isEmpty())
         return nullptr;
-    ppd_coption_t *custom = ppdFindCustomOption(ppd, option.constData());
-    return custom ? ppdFindCustomParam(custom, parameter.constData()) : nullptr;
+    ppd_cparam_t *parameter = ppdFindCustomParam(option, wanted.constData());
+    return parameter && wanted == parameter->name ? parameter : nullptr;
 }
 
 bool ppdHasCustomOption(ppd_file_t *ppd, const QString &keyword)
 {
-    const QByteArray option = asciiKeyword(keyword);
-    return ppd && !option.isEmpty() && ppdFindCustomOption(ppd, option.constData());
+    return customOption(ppd, keyword) != nullptr;
 }
 
 std::optional<QString> ppdText(const char *text)

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QPointer>
 #include <QWidget>
 
 #include "platform/foundation/NotificationCenter.h"
@@ -10,7 +11,9 @@ namespace corvana {
 
 namespace {
 
-// A close event may still be refused by the window; it was accepted when the window hides.
+// A close event may still be refused by the window; it was accepted when the window hides before
+// the event has been dealt with. The handler of the event may ask the user first, so what marks that
+// time is an object deleted later: it outlives event loops that run inside the handler, and no more.
 class ClosingWatcher : public QObject
 {
 public:
@@ -20,14 +23,13 @@ public:
     {
         switch (event->type()) {
         case QEvent::Close:
-            m_closing = true;
-            break;
-        case QEvent::Show:
-            m_closing = false;
+            delete m_closing;
+            m_closing = new QObject(this);
+            m_closing->deleteLater();
             break;
         case QEvent::Hide:
             if (m_closing) {
-                m_closing = false;
+                delete m_closing;
                 NotificationCenter::defaultCenter().post(
                     QLatin1StringView(kWindowWillCloseNotification), watched);
             }
@@ -39,7 +41,7 @@ public:
     }
 
 private:
-    bool m_closing = false;
+    QPointer<QObject> m_closing;
 };
 
 } // namespace
