@@ -121,7 +121,7 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     if (line.documents.count(QStringLiteral("-")) > 1)
         return notUnderstood(QStringLiteral("standard input (-) can be read once only."));
     const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
-    if (line.documents.isEmpty() && needsDocument)
+    if ((line.documents.isEmpty() && needsDocument) || line.documents.contains(QString()))
         return notUnderstood(QStringLiteral("the name of a document is missing."));
     return {line, {}, 0};
 }

@@ -34,7 +34,7 @@ std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QString
         ? decidePanels(opened->session->ppd(), *found.bundle)
         : PanelDecision{!wanted.isNull(), QStringLiteral("there is no usable bundle")};
     qCInfo(lcPrinter).noquote() << printer.name
-                                << (decision.panels ? "wants panels:" : "has no panels:")
+                                << (decision.panels ? "has panels:" : "has no panels:")
                                 << decision.reason;
     if (decision.panels) {
         const LoadedPlugIn loaded = loadPlugInBundle(bundleFile, bundleRoots);

@@ -116,10 +116,10 @@ void PrintDialog::buildWindow()
 
 QLayout *PrintDialog::buildFooter()
 {
-    auto *help = new QPushButton(tr("Help"), this);
-    help->setObjectName(QStringLiteral("helpButton"));
-    help->setAutoDefault(false);
-    help->setShortcut(QKeySequence::HelpContents);
+    m_helpButton = new QPushButton(tr("Help"), this);
+    m_helpButton->setObjectName(QStringLiteral("helpButton"));
+    m_helpButton->setAutoDefault(false);
+    m_helpButton->setShortcut(QKeySequence::HelpContents);
     m_silenced = new QToolButton(this);
     m_silenced->setObjectName(QStringLiteral("silencedAlerts"));
     m_silenced->setText(tr("Show Silenced Messages Again"));
@@ -136,11 +136,11 @@ QLayout *PrintDialog::buildFooter()
     m_print = new QPushButton(tr("&Print"), this);
     m_print->setObjectName(QStringLiteral("print"));
     m_print->setDefault(true);
-    auto *cancel = new QPushButton(tr("Cancel"), this);
-    cancel->setObjectName(QStringLiteral("cancel"));
-    cancel->setAutoDefault(false);
+    m_cancel = new QPushButton(tr("Cancel"), this);
+    m_cancel->setObjectName(QStringLiteral("cancel"));
+    m_cancel->setAutoDefault(false);
 
-    connect(help, &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_helpButton, &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_silenced, &QToolButton::clicked, this, [this] {
         if (!bringAlertsBack(m_printer->bundle->identifier()))
             m_message->showMessage(MessageBar::Kind::Problem,
@@ -148,16 +148,16 @@ QLayout *PrintDialog::buildFooter()
         updateSilencedAlerts();
     });
     connect(m_print, &QPushButton::clicked, this, &PrintDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &PrintDialog::reject);
+    connect(m_cancel, &QPushButton::clicked, this, &PrintDialog::reject);
 
     auto *footer = new QHBoxLayout;
-    footer->addWidget(help);
+    footer->addWidget(m_helpButton);
     footer->addWidget(m_silenced);
     footer->addStretch();
     footer->addWidget(m_progressText);
     footer->addWidget(m_progress);
     footer->addWidget(m_print);
-    footer->addWidget(cancel);
+    footer->addWidget(m_cancel);
     return footer;
 }
 
@@ -270,6 +270,7 @@ bool PrintDialog::bringUpPanels()
         return true;
     m_printer->panels->bringUp();
     showPanelViews();
+    orderFocus();
     const bool applied = applyRequestedOptions();
     refreshPages();
     pageEntered(m_pages->currentIndex());
@@ -326,6 +327,14 @@ void PrintDialog::pageEntered(int page)
     m_printer->panels->visit(panelOfPage(page));
     refreshPages();
     followPanelView();
+}
+
+// The footer comes behind the pages, whose controls are younger than it.
+void PrintDialog::orderFocus()
+{
+    for (QWidget *control : {static_cast<QWidget *>(m_helpButton), static_cast<QWidget *>(m_silenced),
+                             static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)})
+        setTabOrder(previousInFocusChain(), control);
 }
 
 void PrintDialog::refreshPages()

@@ -59,6 +59,7 @@ private:
     bool bringUpPanels();
     void showPanelViews();
     bool applyRequestedOptions();
+    void orderFocus();
     void refreshPages();
     void updatePrintButton();
     void pageEntered(int page);
@@ -102,7 +103,9 @@ private:
     QList<PanelPage *> m_panelPages;
     SummaryPage *m_summary = nullptr;
     QLineEdit *m_output = nullptr;
+    QPushButton *m_helpButton = nullptr;
     QPushButton *m_print = nullptr;
+    QPushButton *m_cancel = nullptr;
     QProgressBar *m_progress = nullptr;
     QLabel *m_progressText = nullptr;
     QToolButton *m_silenced = nullptr;

@@ -58,14 +58,17 @@ QString optionArgument(const JobOption &option)
     return QStringLiteral("%1=%2").arg(option.name, value);
 }
 
+// `more` are further arguments of the program.
 QStringList conversionArguments(const Document &document, const QString &ppdPath,
-                                QLatin1StringView format, const QList<JobOption> &options)
+                                QLatin1StringView format, const QStringList &more,
+                                const QList<JobOption> &options)
 {
     QStringList arguments{QStringLiteral("-p"), ppdPath, QStringLiteral("-i"), document.format,
                           QStringLiteral("-m"), format};
+    arguments += more;
     for (const JobOption &option : options)
         arguments << QStringLiteral("-o") << optionArgument(option);
-    return arguments;
+    return arguments << document.path;
 }
 
 // What shapes the pages of a text or a picture; everything else applies to the whole job.
@@ -160,6 +163,7 @@ void FileQueue::print(const QList<Document> &documents, const JobTicket &ticket,
 {
     // A link stays a link: the result takes the place of what it leads to.
     const QFileInfo output(outputPath);
+    m_outputName = outputPath;
     m_outputPath = output.exists() ? output.canonicalFilePath() : output.absoluteFilePath();
     const QString problem = prepare(documents, ticket, ppdPath);
     if (problem.isEmpty())
@@ -180,20 +184,20 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
     if (!QFileInfo(ppdPath).isReadable())
         return tr("%1 cannot be read.").arg(ppdPath);
     if (QFileInfo(m_outputPath).isDir())
-        return tr("%1 is a folder; the name of a file was expected.").arg(m_outputPath);
+        return tr("%1 is a folder; the name of a file was expected.").arg(m_outputName);
     if (QFileInfo::exists(m_outputPath) && !QFileInfo(m_outputPath).isFile())
-        return tr("%1 is a device or a pipe; the name of a file was expected.").arg(m_outputPath);
+        return tr("%1 is a device or a pipe; the name of a file was expected.").arg(m_outputName);
     for (const Document &document : documents) {
         if (isSameFile(m_outputPath, document.path))
-            return tr("%1 is the document itself; name another file.").arg(m_outputPath);
+            return tr("%1 is the document itself; name another file.").arg(m_outputName);
     }
     // Beside the result, so that taking its place is one step.
     m_result = std::make_unique<QTemporaryFile>(m_outputPath + QStringLiteral(".XXXXXX.part"));
     if (!m_result->open())
-        return tr("%1 cannot be written: %2").arg(m_outputPath, m_result->errorString());
+        return tr("%1 cannot be written: %2").arg(m_outputName, m_result->errorString());
     // The file takes its name only when it is asked for it, and does not say when that failed.
     if (m_result->fileName().isEmpty())
-        return tr("%1 cannot be written: %2").arg(m_outputPath, qt_error_string(errno));
+        return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
     m_result->close();
 
     Document whole = documents.value(0);
@@ -205,9 +209,8 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         for (const Document &document : documents) {
             parts += m_parts->filePath(QString::number(parts.size()) + QStringLiteral(".pdf"));
             m_steps.push_back({filter,
-                               conversionArguments(document, ppdPath, kPdf,
-                                                   pageOptions(ticket.options))
-                                   << document.path,
+                               conversionArguments(document, ppdPath, kPdf, {},
+                                                   pageOptions(ticket.options)),
                                parts.constLast()});
         }
         whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
@@ -215,9 +218,10 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
     }
     m_steps.push_back(
         {filter,
-         conversionArguments(whole, ppdPath, kPrinterFormat, ticket.options)
-             << QStringLiteral("-t") << ticket.title << QStringLiteral("-n")
-             << QString::number(ticket.copies) << whole.path,
+         conversionArguments(whole, ppdPath, kPrinterFormat,
+                             {QStringLiteral("-t"), ticket.title, QStringLiteral("-n"),
+                              QString::number(ticket.copies)},
+                             ticket.options),
          m_result->fileName()});
     return {};
 }
@@ -293,7 +297,7 @@ QString FileQueue::takeResult()
     if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
                     QFile::encodeName(m_outputPath).constData())
         != 0)
-        return tr("%1 cannot be written: %2").arg(m_outputPath, qt_error_string(errno));
+        return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
     m_result->setAutoRemove(false);
     return {};
 }
@@ -318,7 +322,7 @@ QString FileQueue::problemOfStep(int exitCode, QProcess::ExitStatus status)
 void FileQueue::finish(const QString &problem)
 {
     if (!problem.isEmpty())
-        qCInfo(lcJob).noquote() << problem; // whoever started the job tells its user
+        qCWarning(lcJob).noquote() << problem;
     m_result.reset();
     m_parts.reset();
     QTimer::singleShot(0, this, [this, problem] {

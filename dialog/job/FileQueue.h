@@ -78,6 +78,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<QTemporaryFile> m_result;
     QByteArray m_log; // of the current step
+    QString m_outputName; // as it was given, for messages
     QString m_outputPath;
     QString m_problem;
     bool m_done = false;

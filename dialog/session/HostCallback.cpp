@@ -52,7 +52,8 @@ bool HostCallback::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
 
 void HostCallback::panelViewDidResize()
 {
-    m_viewResized();
+    if (m_viewResized)
+        m_viewResized();
 }
 
 AlertPresenter *HostCallback::alertPresenter()

@@ -2,10 +2,14 @@
 
 #include <algorithm>
 
+#include <QLoggingCategory>
+
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 
 namespace corvana {
+
+Q_LOGGING_CATEGORY(lcTicket, "corvana.dialog.ticket", QtWarningMsg)
 
 namespace {
 
@@ -36,9 +40,13 @@ QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobVa
     for (const ppd_option_t *option : session.options()) {
         const QString keyword = ppdKeyword(option->keyword);
         const QString marked = session.markedChoice(keyword);
-        // Without its number a custom choice would reach the printer as some number of chance.
-        if (marked.isNull() || names(own, keyword) || lacksValue(session, keyword))
+        if (marked.isNull() || names(own, keyword))
             continue;
+        if (lacksValue(session, keyword)) {
+            // Without its number the choice would reach the printer as some number of chance.
+            qCWarning(lcTicket) << keyword << "is custom, but nobody gave it a value";
+            continue;
+        }
         const QString custom = session.customValue(keyword);
         options += JobOption{keyword, custom.isNull() ? marked : custom};
     }

@@ -274,7 +274,7 @@ bool isWellFormed(const QString &argument)
     const QString end = QStringLiteral("corvana-end-of-options");
     const QList<JobOption> parsed =
         parseOptions({argument + QStringLiteral(" %1=1").arg(end)});
-    return parsed.size() > 1 && std::any_of(parsed.cbegin(), parsed.cend(), [&](const JobOption &option) {
+    return std::any_of(parsed.cbegin(), parsed.cend(), [&](const JobOption &option) {
         return option == JobOption{end, QStringLiteral("1")};
     });
 }

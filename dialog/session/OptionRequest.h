@@ -37,7 +37,7 @@ struct OptionOutcome {
 OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &session,
                            const PDEJobValues *jobValues, PanelHost &panels);
 
-/// Whether an argument of `-o` can be read to its end.
+/// Whether an argument of `-o` can be read to its end; one without any option can.
 bool isWellFormed(const QString &argument);
 
 /// Marks the choices that the stored entries imply. Answers what refused them.

@@ -59,7 +59,8 @@ QString distrustOfContents(const QString &bundle)
         contents.next();
         const QFileInfo file = contents.fileInfo();
         if (file.isSymLink() && !file.canonicalFilePath().startsWith(bundle + u'/'))
-            return QStringLiteral("%1 leads out of the bundle").arg(file.filePath());
+            return QStringLiteral("%1 leads out of the bundle, to %2")
+                .arg(file.filePath(), file.canonicalFilePath());
         const QString problem = distrust(file, programOwner);
         if (!problem.isNull())
             return problem;

@@ -65,9 +65,8 @@ void bindSlider(QAbstractSlider *slider, BindingDictionary *dictionary, const QS
     onWrite(slider, dictionary, key, show);
     // Told between the new range and the slider's own correction of its value, which then has
     // nothing left to correct and so writes nothing back.
-    QObject::connect(slider, &QAbstractSlider::rangeChanged, slider, [=] {
-        if (dictionary->contains(key))
-            show(dictionary->value(key));
+    QObject::connect(slider, &QAbstractSlider::rangeChanged, dictionary, [=] {
+        show(dictionary->contains(key) ? dictionary->value(key) : slider->value());
     });
     QObject::connect(slider, &QAbstractSlider::valueChanged, dictionary,
                      [=](int value) { writeBack(dictionary, key, qint64(value)); });

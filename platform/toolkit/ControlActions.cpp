@@ -6,10 +6,10 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
-#include <QTimer>
 
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/ReportedActs.h"
 
 namespace corvana {
 
@@ -29,21 +29,26 @@ void onUserChange(Sender *control, Signal signal, const ControlAction &action)
 // picked from the list, also "activated", which comes alone when the same item was picked again.
 void onUserPick(QComboBox *popUp, const ControlAction &action)
 {
-    const auto reported = std::make_shared<bool>(false);
+    const auto reported = std::make_shared<ReportedActs>(popUp);
     QObject::connect(popUp, &QComboBox::currentIndexChanged, popUp, [popUp, action, reported](int) {
-        if (ProgrammaticChange::isInProgress())
-            return;
-        *reported = true;
-        action(popUp);
-        // Only now: the action may run a modal alert, and "activated" follows when it has closed.
-        QTimer::singleShot(0, popUp, [reported] { *reported = false; });
+        if (!ProgrammaticChange::isInProgress())
+            reported->report(popUp, [&] { action(popUp); });
     });
     QObject::connect(popUp, &QComboBox::activated, popUp, [popUp, action, reported](int) {
-        if (*reported)
-            *reported = false; // the same act of the user, already reported
-        else
+        if (!reported->endsReportedAct(popUp))
             action(popUp);
     });
+}
+
+// A slider moves its value into a new range by itself, which is nobody's act. Told of the range
+// before that, we move it as the program's own doing.
+void onUserMove(QAbstractSlider *slider, const ControlAction &action)
+{
+    QObject::connect(slider, &QAbstractSlider::rangeChanged, slider, [slider] {
+        const ProgrammaticChange change;
+        slider->setValue(slider->value());
+    });
+    onUserChange(slider, &QAbstractSlider::valueChanged, action);
 }
 
 class WheelGuard : public QObject
@@ -75,7 +80,7 @@ bool connectControlAction(QWidget *control, const ControlAction &action)
         else
             onUserChange(button, &QAbstractButton::clicked, action);
     } else if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
-        onUserChange(slider, &QAbstractSlider::valueChanged, action);
+        onUserMove(slider, action);
     } else if (auto *field = qobject_cast<QLineEdit *>(control)) {
         onUserChange(field, &QLineEdit::editingFinished, action);
     } else {

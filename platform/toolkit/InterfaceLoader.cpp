@@ -43,6 +43,16 @@ public:
             unknownClasses += className;
         return widget;
     }
+
+    QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
+    {
+        QLayout *layout = nullptr;
+        if (availableLayouts().contains(className))
+            layout = QUiLoader::createLayout(className, parent, name);
+        if (!layout)
+            unknownClasses += className;
+        return layout;
+    }
 };
 
 // The constructor of QUiLoader opens every designer plug-in that it can find, which costs time and
@@ -58,10 +68,16 @@ std::unique_ptr<FormLoader> makeLoader()
     return loader;
 }
 
-qsizetype lineOf(const QByteArray &text, const QByteArray &fragment)
+// The line of the last of `fragments`, each sought behind the one before it; 0 when one is missing.
+qsizetype lineOf(const QByteArray &text, const QByteArrayList &fragments)
 {
-    const qsizetype at = text.indexOf(fragment);
-    return at < 0 ? 0 : text.left(at).count('\n') + 1;
+    qsizetype at = 0;
+    for (const QByteArray &fragment : fragments) {
+        at = text.indexOf(fragment, at);
+        if (at < 0)
+            return 0;
+    }
+    return text.left(at).count('\n') + 1;
 }
 
 } // namespace
@@ -93,18 +109,26 @@ public:
             *m_owner.m_dictionary = dictionary;
     }
 
-    void reject(const QByteArray &fragment, const QString &what)
+    /// `where` leads to the place in the file, as for lineOf().
+    void reject(const QByteArrayList &where, const QString &what)
     {
-        problems += QStringLiteral("%1:%2: %3").arg(m_file).arg(lineOf(m_text, fragment)).arg(what);
+        const qsizetype line = lineOf(m_text, where);
+        const QString place = line > 0 ? QStringLiteral("%1:%2").arg(m_file).arg(line) : m_file;
+        problems += QStringLiteral("%1: %2").arg(place, what);
     }
 
 private:
+    static QByteArray nameOf(const QWidget *widget)
+    {
+        return "name=\"" + widget->objectName().toUtf8() + "\"";
+    }
+
     void connectOutlet(QWidget *widget)
     {
         const auto outlet = m_owner.m_outlets.find(widget->objectName());
         if (outlet == m_owner.m_outlets.end() || outlet->second.connect(widget))
             return;
-        reject("name=\"" + widget->objectName().toUtf8() + "\"",
+        reject({nameOf(widget)},
                QStringLiteral("\"%1\" is a %2, a %3 was expected")
                    .arg(widget->objectName(),
                         QString::fromLatin1(widget->metaObject()->className()),
@@ -118,8 +142,9 @@ private:
         };
         if (const QString value = key("bindValue"); !value.isEmpty()) {
             if (!bindValue(widget, dictionary, value)) {
-                reject(value.toUtf8(), QStringLiteral("\"%1\" has no value to bind to \"%2\"")
-                                           .arg(widget->objectName(), value));
+                reject({nameOf(widget), "name=\"bindValue\"", value.toUtf8()},
+                       QStringLiteral("\"%1\" has no value to bind to \"%2\"")
+                           .arg(widget->objectName(), value));
             }
         }
         if (const QString enabled = key("bindEnabled"); !enabled.isEmpty())
@@ -135,12 +160,13 @@ private:
         const QString name = widget->property("action").toString();
         if (name.isEmpty())
             return;
+        const QByteArrayList where{nameOf(widget), "name=\"action\"", name.toUtf8()};
         const auto action = m_owner.m_actions.find(name);
         if (action == m_owner.m_actions.end()) {
-            reject(name.toUtf8(), QStringLiteral("there is no action \"%1\"").arg(name));
+            reject(where, QStringLiteral("there is no action \"%1\"").arg(name));
         } else if (!connectControlAction(widget, action->second)) {
-            reject(name.toUtf8(), QStringLiteral("\"%1\" cannot have the action \"%2\"")
-                                      .arg(widget->objectName(), name));
+            reject(where, QStringLiteral("\"%1\" cannot have the action \"%2\"")
+                              .arg(widget->objectName(), name));
         }
     }
 
@@ -178,7 +204,7 @@ LoadedInterface loadInterface(const QString &file, const InterfaceConnections &o
     std::unique_ptr<QWidget> view(loader->load(&buffer));
     InterfaceConnector connector(owner, file, text);
     for (const QString &className : std::as_const(loader->unknownClasses)) {
-        connector.reject("class=\"" + className.toUtf8() + "\"",
+        connector.reject({"class=\"" + className.toUtf8() + "\""},
                          QStringLiteral("there is no control class \"%1\"").arg(className));
     }
     if (!view && connector.problems.isEmpty())

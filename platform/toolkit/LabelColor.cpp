@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPalette>
+#include <QPointer>
 #include <QVariant>
 #include <QWidget>
 
@@ -26,18 +27,35 @@ void apply(QWidget *label)
     label->setPalette(palette);
 }
 
-// One filter per label, its child, so that it ends with it.
+// One filter for all labels, on the application: of a change of its palette it tells itself and its
+// windows, but not the labels inside them.
 class PaletteWatcher : public QObject
 {
 public:
-    explicit PaletteWatcher(QWidget *label) : QObject(label) { label->installEventFilter(this); }
+    static void watch(QWidget *label)
+    {
+        static QPointer<PaletteWatcher> watcher;
+        if (!watcher)
+            watcher = new PaletteWatcher;
+        watcher->m_labels.removeAll(nullptr);
+        watcher->m_labels += label;
+    }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::ApplicationPaletteChange)
-            apply(static_cast<QWidget *>(watched));
+        if (event->type() == QEvent::ApplicationPaletteChange && watched == parent()) {
+            for (const QPointer<QWidget> &label : std::as_const(m_labels)) {
+                if (label)
+                    apply(label);
+            }
+        }
         return QObject::eventFilter(watched, event);
     }
+
+private:
+    PaletteWatcher() : QObject(qApp) { qApp->installEventFilter(this); }
+
+    QList<QPointer<QWidget>> m_labels;
 };
 
 } // namespace
@@ -49,7 +67,7 @@ void setTextColor(QWidget *label, ControlTextColor color)
         return;
     label->setProperty(kColorProperty, QVariant::fromValue(color));
     if (!watched)
-        new PaletteWatcher(label);
+        PaletteWatcher::watch(label);
     apply(label);
 }
 

@@ -42,8 +42,11 @@ int indexOfItemWithRepresentedObject(const QComboBox *popUp, const QVariant &obj
 {
     if (!object.isValid())
         return -1;
+    const auto isText = [](const QVariant &value) { return value.typeId() == QMetaType::QString; };
     for (int i = 0; i < popUp->count(); ++i) {
-        if (popUp->itemData(i) == object)
+        const QVariant item = popUp->itemData(i);
+        // QVariant takes the text "12" and the number 12 for equal.
+        if (isText(item) == isText(object) && item == object)
             return i;
     }
     return -1;

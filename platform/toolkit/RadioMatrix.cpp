@@ -1,7 +1,6 @@
 #include "platform/toolkit/RadioMatrix.h"
 
 #include <QRadioButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -46,11 +45,15 @@ void RadioMatrix::removeRow(int row)
     const ProgrammaticChange change;
     QRadioButton *cell = m_cells.at(static_cast<size_t>(row));
     m_cells.erase(m_cells.begin() + row);
-    if (m_reported == cell)
-        m_reported = nullptr;
+    m_reported.forget(cell);
     if (focusProxy() == cell)
         setFocusProxy(m_cells.empty() ? nullptr : m_cells.front());
-    delete cell;
+    // The row may be removed by what its own button just set off, so the button itself goes later.
+    cell->disconnect(this);
+    cell->setAutoExclusive(false);
+    cell->hide();
+    m_layout->removeWidget(cell);
+    cell->deleteLater();
 }
 
 QString RadioMatrix::cellTitle(int row) const
@@ -109,19 +112,13 @@ void RadioMatrix::cellToggled(QRadioButton *cell)
 {
     if (ProgrammaticChange::isInProgress())
         return;
-    m_reported = cell;
-    Q_EMIT activated(rowOf(cell));
-    // Only now: what is activated may run a modal alert, and the click is told when it has closed.
-    QTimer::singleShot(0, this, [this] { m_reported = nullptr; });
+    m_reported.report(cell, [this, cell] { Q_EMIT activated(rowOf(cell)); });
 }
 
 void RadioMatrix::cellClicked(QRadioButton *cell)
 {
-    if (m_reported == cell) {
-        m_reported = nullptr;
-        return;
-    }
-    Q_EMIT activated(rowOf(cell));
+    if (!m_reported.endsReportedAct(cell))
+        Q_EMIT activated(rowOf(cell));
 }
 
 int RadioMatrix::rowOf(const QRadioButton *cell) const

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "platform/PlatformExport.h"
+#include "platform/toolkit/ReportedActs.h"
 
 class QRadioButton;
 class QVBoxLayout;
@@ -60,8 +61,8 @@ private:
 
     std::vector<QRadioButton *> m_cells;
     QVBoxLayout *m_layout;
-    // The cell whose toggle was just reported; its click belongs to the same act of the user.
-    QRadioButton *m_reported = nullptr;
+    // A cell's toggle is followed by its click when both are the same act of the user.
+    ReportedActs m_reported{this};
 };
 
 } // namespace corvana

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -11,7 +12,9 @@ namespace corvana {
 
 namespace {
 
-// A close event may still be refused by the window; it was accepted when the window hides.
+// A close event may still be refused by the window; it was accepted when the window hides before
+// the event has been dealt with. The handler of the event may ask the user first, so what marks that
+// time is an object deleted later: it outlives event loops that run inside the handler, and no more.
 class ClosingWatcher : public QObject
 {
 public:
@@ -21,16 +24,13 @@ public:
     {
         switch (event->type()) {
         case QEvent::Close:
-            m_closing = true;
-            // A window that refused to close is still there when the event is over.
-            QTimer::singleShot(0, this, [this] { m_closing = false; });
-            break;
-        case QEvent::Show:
-            m_closing = false;
+            delete m_closing;
+            m_closing = new QObject(this);
+            m_closing->deleteLater();
             break;
         case QEvent::Hide:
             if (m_closing && !event->spontaneous()) { // minimising is no closing
-                m_closing = false;
+                delete m_closing;
                 NotificationCenter::defaultCenter().post(
                     QLatin1StringView(kWindowWillCloseNotification), watched);
             }
@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    bool m_closing = false;
+    QPointer<QObject> m_closing;
 };
 
 } // namespace

@@ -222,7 +222,8 @@ aCommandLineThatIsNotUnderstoodHasAStatusOfItsOwn() {
 -n two letter.pdf
 -n -1 letter.pdf
 --glitter letter.pdf
-letter.pdf other.pdf
+- -
+-o =5 letter.pdf
 --demo
 --output
 TABLE

@@ -14,7 +14,7 @@ choicesOfTheGeneralPageByKeyboardReachThePrinter() {
     open_dialog
     settle
     press ctrl+a 3
-    press Tab Down Tab Down Tab Down Tab Up # two-sided, paper size, output, colors matched by
+    press Tab Tab Down Tab Down Tab Down Tab Up # past the pages: two-sided, paper size, output, colors matched by
     settle
     print_in_dialog
     expect_code Duplex=DuplexNoTumble PageSize=Letter QXOutput=FAX \
@@ -134,7 +134,7 @@ theDialogKeepsEverythingWhenPrintingFailsAndPrintsAtTheNextTry() {
     output=$folder/missing/job.ps
     open_dialog -o QXInputSlot=Tray1
     settle
-    press ctrl+a 2 Tab Down ctrl+Next Down ctrl+Next Down
+    press ctrl+a 2 Tab Tab Down ctrl+Next Down ctrl+Next Down
     settle
     press alt+p
     await 'the message' message_is_logged 'cannot be written'
@@ -155,7 +155,7 @@ open_conflict() {
     local area
     open_dialog -o QXMediaType=Glossy
     settle
-    press Tab
+    press Tab Tab
     take_picture before
     press Down
     take_picture after

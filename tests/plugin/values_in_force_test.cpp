@@ -26,6 +26,8 @@ QStringList valuesOf(const QList<JobOption> &options)
 
 } // namespace
 
+Q_DECLARE_METATYPE(corvana::JobOption)
+
 class ValuesInForceTest : public QObject
 {
     Q_OBJECT
@@ -99,8 +101,6 @@ private Q_SLOTS:
 private:
     QXJobValues m_values;
 };
-
-Q_DECLARE_METATYPE(corvana::JobOption)
 
 QTEST_GUILESS_MAIN(ValuesInForceTest)
 #include "values_in_force_test.moc"

@@ -1,0 +1,187 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTest>
+
+#include "dialog/app/PrintDialog.h"
+#include "tests/dialog/job/FakeFilter.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Gestures.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// What the window owes the panels that it shows.
+class PrintDialogTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<FakeFilter> m_filter;
+    std::unique_ptr<PrintDialog> m_dialog;
+
+    void open(const QByteArray &script, const QList<Printer> &printers)
+    {
+        m_filter = std::make_unique<FakeFilter>(script);
+        PrintRequest request;
+        request.documents = {m_filter->document()};
+        request.title = u"Job"_s;
+        request.output = m_filter->output();
+        request.bundleRoots = builtBundleRoots();
+        request.printers = printers;
+        m_dialog = std::make_unique<PrintDialog>(request);
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+        QTRY_VERIFY(!m_dialog->findChildren<QScrollArea *>().isEmpty());
+    }
+    static Printer sample() { return {u"cl5"_s, u"CL"_s, samplePpdPath(), 5}; }
+    Printer small() const { return {u"small"_s, u"Small"_s, m_filter->ppdPath(), 1}; }
+
+    template <typename Control> Control *control(const QString &name)
+    {
+        return m_dialog->findChild<Control *>(name);
+    }
+    QList<QWidget *> panelViews()
+    {
+        QList<QWidget *> views;
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        for (int i = 0; i < pages->count(); ++i) {
+            auto *page = qobject_cast<QScrollArea *>(pages->widget(i));
+            if (page && page->widget())
+                views += page->widget();
+        }
+        return views;
+    }
+    QString message()
+    {
+        auto *text = control<QLabel>(u"messageText"_s);
+        return control<QWidget>(u"message"_s)->isVisible() ? text->text() : QString();
+    }
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_filter.reset();
+    }
+
+    void panelsComeUpAfterTheFirstPaint()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+    }
+
+    void theOptionsThatRulesReadHaveControls_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::newRow("output destination") << u"QXOutput"_s;
+        QTest::newRow("who matches colors") << u"AP_ColorMatchingMode"_s;
+        QTest::newRow("two-sided") << u"Duplex"_s;
+        QTest::newRow("paper size") << u"PageSize"_s;
+    }
+    void theOptionsThatRulesReadHaveControls()
+    {
+        QFETCH(QString, keyword);
+        open("echo ok\n", {sample()});
+        auto *popUp = control<QComboBox>(keyword);
+        QVERIFY(popUp);
+        QVERIFY(popUp->isEnabled());
+        QVERIFY(popUp->count() >= 2);
+    }
+
+    void noAncestorOfAPanelIsEverDisabled()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        const auto verify = [&] {
+            for (QWidget *view : panelViews()) {
+                for (QWidget *widget = view; widget; widget = widget->parentWidget())
+                    QVERIFY2(widget->isEnabled(), qPrintable(widget->objectName()));
+            }
+        };
+        verify();
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        verify();
+        QTest::ignoreMessage(QtWarningMsg, "Printing was canceled.");
+        m_dialog->reject();
+        QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
+        verify();
+    }
+
+    void aCanceledJobLeavesTheDialogOpenAndReady()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        auto *print = control<QPushButton>(u"print"_s);
+        QTRY_VERIFY(print->isEnabled());
+        print->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        QTest::ignoreMessage(QtWarningMsg, "Printing was canceled.");
+        m_dialog->reject();
+        QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), 10000);
+        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_dialog->printedTo().isEmpty());
+    }
+
+    void aPrintedJobClosesTheDialogAndNamesItsPlace()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        control<QPushButton>(u"print"_s)->click();
+        QTRY_COMPARE_WITH_TIMEOUT(m_dialog->printedTo(), m_filter->output(), 10000);
+        QVERIFY(!m_dialog->isVisible());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("ok\n"));
+    }
+
+    void aDialogThatIsDestroyedInTheMidstOfAJobTakesItAlong()
+    {
+        open("echo $$ > $DIR/parent; touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        m_dialog.reset();
+        QVERIFY(m_filter->waitForEndOf(u"parent"_s));
+        QVERIFY(m_filter->leftOvers().isEmpty());
+    }
+
+    void anotherPrinterGetsNewPanelsAndTheOldOnesGo()
+    {
+        Printer other = sample();
+        other.name = u"second"_s;
+        other.description = u"Second"_s;
+        open("echo ok\n", {sample(), other});
+        QTRY_COMPARE(panelViews().size(), 2);
+        const QPointer<QWidget> before = panelViews().constFirst();
+        QVERIFY(pick(control<QComboBox>(u"printers"_s), u"Second"_s));
+        QTRY_VERIFY(before.isNull());
+        QTRY_COMPARE(panelViews().size(), 2);
+    }
+
+    void aRefusedPickOffersTheWayOut()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        auto *duplex = control<QComboBox>(u"Duplex"_s);
+        QVERIFY(pick(duplex, u"Long-Edge Binding"_s));
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        auto *media = panelViews().at(0)->findChild<QComboBox *>(u"mediaTypePopup"_s);
+        QVERIFY(media);
+        const QString before = media->currentText();
+        QVERIFY(pick(media, u"Glossy Paper"_s));
+        QTRY_VERIFY2(message().contains(u"Glossy Paper"_s), qPrintable(message()));
+        QVERIFY2(message().contains(u"Long-Edge Binding"_s), qPrintable(message()));
+        QCOMPARE(media->currentText(), before); // refused, so shown as it was
+        control<QPushButton>(u"messageAction"_s)->click();
+        QTRY_COMPARE(media->currentText(), u"Glossy Paper"_s);
+        QCOMPARE(duplex->currentText(), u"Off (1-Sided)"_s);
+    }
+};
+
+QTEST_MAIN(PrintDialogTest)
+
+#include "print_dialog_test.moc"

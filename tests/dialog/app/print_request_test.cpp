@@ -1,0 +1,149 @@
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/app/OpenedPrinter.h"
+#include "dialog/app/PrintRequest.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// From a command line to what is printed.
+class PrintRequestTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_former;
+    CommandLine m_line;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_former = QDir::currentPath();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QDir::setCurrent(m_folder->path());
+        writeFile(m_folder->filePath(u"notes.v2.txt"_s), "notes\n");
+        m_line = {};
+        m_line.documents = {u"notes.v2.txt"_s};
+        m_line.ppd = samplePpdPath();
+    }
+    void cleanup()
+    {
+        QDir::setCurrent(m_former);
+        m_folder.reset();
+    }
+
+    void theDocumentNamesTheJobAndTheOutput()
+    {
+        QString error;
+        const PrintRequest request = preparePrintRequest(m_line, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(request.title, u"notes.v2.txt"_s);
+        QCOMPARE(request.output, QDir::current().absoluteFilePath(u"notes.v2.ps"_s));
+        QCOMPARE(request.documents.value(0).format, u"text/plain"_s);
+        QCOMPARE(request.copies, 1);
+    }
+
+    void aNameThatIsTakenIsNotTakenAgain()
+    {
+        writeFile(m_folder->filePath(u"notes.v2.ps"_s), "earlier\n");
+        writeFile(m_folder->filePath(u"notes.v2-2.ps"_s), "earlier\n");
+        QString error;
+        QCOMPARE(preparePrintRequest(m_line, &error).output,
+                 QDir::current().absoluteFilePath(u"notes.v2-3.ps"_s));
+    }
+
+    void whatTheCommandLineNamesIsTaken()
+    {
+        m_line.title = u"Title"_s;
+        m_line.output = u"elsewhere.ps"_s;
+        m_line.copies = 7;
+        m_line.summary = true;
+        m_line.options = {u"QXMediaType=Thick number-up=2"_s};
+        m_line.bundleRoots = {u"/somewhere"_s};
+        QString error;
+        const PrintRequest request = preparePrintRequest(m_line, &error);
+        QCOMPARE(request.title, u"Title"_s);
+        QCOMPARE(request.output, u"elsewhere.ps"_s);
+        QCOMPARE(request.copies, 7);
+        QVERIFY(request.summary);
+        QCOMPARE(request.options,
+                 (QList<JobOption>{{u"number-up"_s, u"2"_s}, {u"QXMediaType"_s, u"Thick"_s}}));
+        QCOMPARE(request.bundleRoots.constFirst(), u"/somewhere"_s);
+        QCOMPARE(request.bundleRoots.size(), 2);
+    }
+
+    void aPrinterIsFoundByItsName()
+    {
+        m_line.printer = u"corvana-cl5"_s;
+        QString error;
+        const PrintRequest request = preparePrintRequest(m_line, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(request.printers.at(request.chosenPrinter).ppdPath, samplePpdPath());
+    }
+
+    void whatIsWrongIsTold_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<QString>("ppd");
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<QString>("told");
+        const QString ppd = samplePpdPath();
+        QTest::newRow("missing document")
+            << u"missing.pdf"_s << ppd << QString() << u"missing.pdf"_s;
+        QTest::newRow("no printer at all")
+            << u"notes.v2.txt"_s << QString() << QString() << u"--demo"_s;
+        QTest::newRow("unknown printer")
+            << u"notes.v2.txt"_s << ppd << u"office"_s << u"corvana-cl5"_s;
+        QTest::newRow("printer in other case")
+            << u"notes.v2.txt"_s << ppd << u"Corvana-CL5"_s << u"corvana-cl5"_s;
+    }
+    void whatIsWrongIsTold()
+    {
+        QFETCH(QString, document);
+        QFETCH(QString, ppd);
+        QFETCH(QString, printer);
+        QFETCH(QString, told);
+        m_line.documents = {document};
+        m_line.ppd = ppd;
+        m_line.printer = printer;
+        QString error;
+        QVERIFY(preparePrintRequest(m_line, &error).printers.isEmpty());
+        QVERIFY2(error.contains(told), qPrintable(error));
+    }
+
+    void aSummaryNeedsNoDocument()
+    {
+        m_line.documents.clear();
+        QString error;
+        const PrintRequest request = preparePrintRequest(m_line, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QVERIFY(request.documents.isEmpty());
+        QVERIFY(request.output.isEmpty());
+    }
+
+    void aTicketHasTheSessionsOptionsAndTheAttributes()
+    {
+        ScriptedAlertPresenter presenter;
+        QString error;
+        const auto printer = openPrinter({u"cl5"_s, u"CL"_s, samplePpdPath(), 5},
+                                         builtBundleRoots(), presenter, &error);
+        QVERIFY2(printer, qPrintable(error));
+        printer->session->change(u"QXMediaType"_s, u"Thick"_s, PpdSession::Origin::Dialog);
+        const JobTicket ticket = makeTicket(*printer, {{u"number-up"_s, u"2"_s}}, u"Title"_s, 4);
+        QCOMPARE(ticket.title, u"Title"_s);
+        QCOMPARE(ticket.copies, 4);
+        QVERIFY(ticket.options.contains({u"QXMediaType"_s, u"Thick"_s}));
+        QCOMPARE(ticket.options.constLast(), (JobOption{u"number-up"_s, u"2"_s}));
+    }
+};
+
+QTEST_MAIN(PrintRequestTest)
+
+#include "print_request_test.moc"

@@ -1,0 +1,73 @@
+#include "tests/dialog/job/FakeFilter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include "tests/dialog/support/TestPrinters.h"
+
+namespace corvana::test {
+
+namespace {
+constexpr char kVariable[] = "CORVANA_PRINT_CUPSFILTER";
+
+bool isRunning(const QString &pid)
+{
+    // A process that has ended but was not waited for yet is gone as well.
+    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray state = status.readAll();
+    return state.mid(state.lastIndexOf(')') + 2, 1) != "Z";
+}
+
+} // namespace
+
+FakeFilter::FakeFilter(const QByteArray &script) : m_former(qgetenv(kVariable))
+{
+    const QString program =
+        writeFile(path(QStringLiteral("filter")),
+                  "#!/bin/sh\nDIR='" + m_folder.path().toUtf8() + "'\n" + script);
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv(kVariable, program.toUtf8());
+    writeFile(path(QStringLiteral("document.txt")), "a document\n");
+    writeFile(ppdPath(), PpdBuilder().text());
+}
+
+FakeFilter::~FakeFilter()
+{
+    if (m_former.isNull())
+        qunsetenv(kVariable);
+    else
+        qputenv(kVariable, m_former);
+}
+
+Document FakeFilter::document() const
+{
+    return {path(QStringLiteral("document.txt")), QStringLiteral("text/plain"),
+            QStringLiteral("document.txt")};
+}
+
+QByteArray FakeFilter::content(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList FakeFilter::leftOvers() const
+{
+    return QDir(m_folder.path()).entryList({QStringLiteral("*.part*")}, QDir::AllEntries);
+}
+
+bool FakeFilter::waitForFile(const QString &name) const
+{
+    return QTest::qWaitFor([&] { return QFile::exists(path(name)); }, 10000);
+}
+
+bool FakeFilter::waitForEndOf(const QString &pidFile) const
+{
+    const QString pid = QString::fromLatin1(content(pidFile).trimmed());
+    return !pid.isEmpty() && QTest::qWaitFor([&] { return !isRunning(pid); }, 10000);
+}
+
+} // namespace corvana::test

@@ -1,0 +1,206 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/job/Document.h"
+#include "tests/dialog/support/TestPrinters.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString dataFile(const QString &name)
+{
+    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/") + name;
+}
+
+QString sampleDocument()
+{
+    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class DocumentTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString refusalOf(const QString &path)
+    {
+        QString error;
+        const Document document = inspectDocument(path, &error);
+        return document == Document{} ? error : u"accepted as "_s + document.format;
+    }
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void cleanup() { m_folder.reset(); }
+
+    void eachKindIsRecognised_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("format");
+        QTest::newRow("PDF") << sampleDocument() << u"application/pdf"_s;
+        QTest::newRow("PostScript") << dataFile(u"page.ps"_s) << u"application/postscript"_s;
+        QTest::newRow("text") << dataFile(u"page.txt"_s) << u"text/plain"_s;
+        QTest::newRow("PNG") << dataFile(u"page.png"_s) << u"image/png"_s;
+        QTest::newRow("JPEG") << dataFile(u"page.jpg"_s) << u"image/jpeg"_s;
+    }
+    void eachKindIsRecognised()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, format);
+        QString error;
+        const Document document = inspectDocument(path, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(document.format, format);
+        QCOMPARE(document.path, QFileInfo(path).absoluteFilePath());
+        QCOMPARE(document.title, QFileInfo(path).fileName());
+    }
+
+    void theContentDecidesWhereTheNameSaysNothing_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("format");
+        const QString pdf = sampleDocument();
+        QTest::newRow("no suffix") << u"report"_s << pdf << u"application/pdf"_s;
+        QTest::newRow("unknown suffix") << u"report.r2"_s << pdf << u"application/pdf"_s;
+        QTest::newRow("suffix in capitals") << u"REPORT.PDF"_s << pdf << u"application/pdf"_s;
+        QTest::newRow("picture without suffix")
+            << u"scan"_s << dataFile(u"page.png"_s) << u"image/png"_s;
+        QTest::newRow("source code") << u"main.py"_s << dataFile(u"page.txt"_s) << u"text/plain"_s;
+        QTest::newRow("blanks and other scripts")
+            << u"a b 日報.pdf"_s << pdf << u"application/pdf"_s;
+    }
+    void theContentDecidesWhereTheNameSaysNothing()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, source);
+        QFETCH(QString, format);
+        const QString path = writeFile(m_folder->filePath(name), contentOf(source));
+        QString error;
+        const Document document = inspectDocument(path, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(document.format, format);
+        QCOMPARE(document.title, name);
+    }
+
+    void aNameThatPromisesSomethingElseIsRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("told");
+        const QByteArray html = "<!DOCTYPE html>\n<html><body>404 Not Found</body></html>\n";
+        const auto row = [](const char *name, const QString &file, const QByteArray &content,
+                            const QString &told) {
+            QTest::newRow(name) << file << content << told;
+        };
+        row("a web server's error page", u"report.pdf"_s, html, u"PDF document"_s);
+        row("a PNG named JPEG", u"scan.jpg"_s, contentOf(dataFile(u"page.png"_s)),
+            u"JPEG picture"_s);
+        row("a JPEG named PNG", u"scan.png"_s, contentOf(dataFile(u"page.jpg"_s)),
+            u"PNG picture"_s);
+        row("PostScript named PDF", u"report.pdf"_s, contentOf(dataFile(u"page.ps"_s)),
+            u"PDF document"_s);
+        row("PDF named text", u"notes.txt"_s, contentOf(sampleDocument()), u"text"_s);
+    }
+    void aNameThatPromisesSomethingElseIsRefused()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, told);
+        const QString path = writeFile(m_folder->filePath(name), content);
+        const QString refusal = refusalOf(path);
+        QVERIFY2(refusal.startsWith(path), qPrintable(refusal));
+        QVERIFY2(refusal.contains(u"named like a "_s + told), qPrintable(refusal));
+    }
+
+    void whatIsNoDocumentIsRefusedByName_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("missing") << u"missing.pdf"_s << u"no such file"_s;
+        QTest::newRow("a broken link") << u"broken.pdf"_s << u"no such file"_s;
+        QTest::newRow("a folder") << u"folder.pdf"_s << u"is a folder"_s;
+        QTest::newRow("empty") << u"empty.pdf"_s << u"is empty"_s;
+        QTest::newRow("binary junk") << u"junk"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
+        QTest::newRow("binary junk named PDF")
+            << u"junk.pdf"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
+        QTest::newRow("an archive") << u"archive.zip"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
+        QTest::newRow("a pipe, which would never end") << u"pipe"_s << u"no ordinary file"_s;
+        QTest::newRow("a device") << u"device"_s << u"no ordinary file"_s;
+    }
+    void whatIsNoDocumentIsRefusedByName()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, told);
+        const QString path = m_folder->filePath(kind);
+        if (kind.startsWith(u"broken"_s))
+            QVERIFY(QFile::link(u"/nowhere/at/all"_s, path));
+        else if (kind.startsWith(u"folder"_s))
+            QVERIFY(QDir().mkdir(path));
+        else if (kind.startsWith(u"empty"_s))
+            writeFile(path, "");
+        else if (kind.startsWith(u"junk"_s))
+            writeFile(path, QByteArray::fromHex("00ff13c80102fe9a00000000deadbeef0007"));
+        else if (kind.startsWith(u"archive"_s))
+            writeFile(path,
+                      QByteArray("PK\x03\x04\x14\x00\x00\x00\x08\x00", 10) + QByteArray(40, 'x'));
+        else if (kind == u"pipe"_s)
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        else if (kind == u"device"_s)
+            QVERIFY(QFile::link(u"/dev/zero"_s, path));
+        const QString refusal = refusalOf(path);
+        QVERIFY2(refusal.startsWith(path), qPrintable(refusal));
+        QVERIFY2(refusal.contains(told), qPrintable(refusal));
+    }
+
+    void aDocumentThatCannotBeReadIsNamed()
+    {
+        if (::geteuid() == 0)
+            QSKIP("the superuser reads every file");
+        const QString path = writeFile(m_folder->filePath(u"secret.txt"_s), "secret\n");
+        QFile::setPermissions(path, QFile::Permissions());
+        const QString refusal = refusalOf(path);
+        QVERIFY2(refusal.startsWith(path), qPrintable(refusal));
+        QVERIFY2(refusal.contains(u"cannot be read"_s), qPrintable(refusal));
+    }
+
+    void aRelativePathBecomesAbsolute()
+    {
+        const QString former = QDir::currentPath();
+        writeFile(m_folder->filePath(u"notes.txt"_s), "notes\n");
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        QString error;
+        const Document document = inspectDocument(u"notes.txt"_s, &error);
+        QDir::setCurrent(former);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QVERIFY(QFileInfo(document.path).isAbsolute());
+    }
+
+    void aNameWithAPercentSignIsShownAsItIs()
+    {
+        const QString refusal = refusalOf(u"/nowhere/100%2.pdf"_s);
+        QVERIFY2(refusal.startsWith(u"/nowhere/100%2.pdf"_s), qPrintable(refusal));
+    }
+};
+
+QTEST_GUILESS_MAIN(DocumentTest)
+
+#include "document_test.moc"

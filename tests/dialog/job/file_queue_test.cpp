@@ -1,0 +1,305 @@
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "dialog/job/FileQueue.h"
+#include "platform/printcore/Ppd.h"
+#include "tests/dialog/job/FakeFilter.h"
+#include "tests/dialog/support/TestPrinters.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char kGood[] = "echo printed\n";
+
+// What became of one job: empty when it was printed.
+QString printed(const FakeFilter &filter, const JobTicket &ticket, const QString &output,
+                const QString &ppd = {})
+{
+    FileQueue queue;
+    QString problem = u"finished was not signalled"_s;
+    QObject::connect(&queue, &FileQueue::finished, [&](const QString &p) { problem = p; });
+    queue.print(filter.document(), ticket, ppd.isNull() ? filter.ppdPath() : ppd, output);
+    const bool ok = queue.wait();
+    if (ok != problem.isEmpty())
+        return u"wait() and finished() disagree: "_s + problem;
+    return problem;
+}
+
+QString printed(const FakeFilter &filter)
+{
+    return printed(filter, {u"Title"_s, 1, {}}, filter.output());
+}
+
+void expectLogged(const QString &text)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(text)));
+}
+
+// Restores the process's mask for new files.
+class Mask
+{
+public:
+    explicit Mask(mode_t mask) : m_former(::umask(mask)) {}
+    ~Mask() { ::umask(m_former); }
+
+private:
+    mode_t m_former;
+};
+
+mode_t permissions(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+} // namespace
+
+/// Where the result goes, and what the filter chain is told.
+class FileQueueTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theResultStandsUnderItsName()
+    {
+        const FakeFilter filter(kGood);
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("printed\n"));
+        QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    void theChainIsToldTheWholeJob()
+    {
+        const FakeFilter filter("printf '%s\\n' \"$@\" > $DIR/arguments; echo ok\n");
+        const JobTicket ticket{
+            u"Bericht 日報"_s, 3, {{u"Tray"_s, u"Lower"_s}, {u"PageSize"_s, u"Custom.300x400"_s}}};
+        QCOMPARE(printed(filter, ticket, filter.output()), QString());
+        const QStringList expected{u"-p"_s,
+                                   filter.ppdPath(),
+                                   u"-i"_s,
+                                   u"text/plain"_s,
+                                   u"-m"_s,
+                                   u"printer/foo"_s,
+                                   u"-t"_s,
+                                   u"Bericht 日報"_s,
+                                   u"-n"_s,
+                                   u"3"_s,
+                                   u"-o"_s,
+                                   u"Tray=Lower"_s,
+                                   u"-o"_s,
+                                   u"PageSize=Custom.300x400"_s,
+                                   filter.document().path};
+        QCOMPARE(QString::fromUtf8(filter.content(u"arguments"_s)), expected.join(u'\n') + u'\n');
+    }
+
+    void aValueStaysOneValueWhateverItHolds_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("plain") << u"Thick"_s;
+        QTest::newRow("two words") << u"two words"_s;
+        QTest::newRow("what looks like another option") << u"x Duplex=DuplexTumble"_s;
+        QTest::newRow("a tab") << u"a\tb"_s;
+        QTest::newRow("double quotes") << u"say \"hello\" now"_s;
+        QTest::newRow("single quotes") << u"it's"_s;
+        QTest::newRow("a quote in front") << u"'quoted"_s;
+        QTest::newRow("a backslash") << u"a\\b"_s;
+        QTest::newRow("a backslash at the end") << u"two words\\"_s;
+        QTest::newRow("a brace in front") << u"{a=b c=d}"_s;
+        QTest::newRow("nothing") << QString(u""_s);
+        QTest::newRow("another script") << u"日報 二"_s;
+    }
+    void aValueStaysOneValueWhateverItHolds()
+    {
+        QFETCH(QString, value);
+        const FakeFilter filter("while [ $# -gt 0 ]; do [ \"$1\" = -o ] && printf %s \"$2\" > "
+                                "$DIR/option; shift; done; echo ok\n");
+        QCOMPARE(printed(filter, {u"Title"_s, 1, {{u"Mark"_s, value}}}, filter.output()),
+                 QString());
+        cups_option_t *options = nullptr;
+        const int count = cupsParseOptions(filter.content(u"option"_s).constData(), 0, &options);
+        const QString read = QString::fromUtf8(cupsGetOption("Mark", count, options));
+        cupsFreeOptions(count, options);
+        QCOMPARE(count, 1);
+        QCOMPARE(read, value);
+    }
+
+    void finishedNeverComesBeforePrintReturns_data()
+    {
+        QTest::addColumn<QString>("ppd");
+        QTest::newRow("a job that prints") << QString();
+        QTest::newRow("a job that fails at once") << u"/nowhere/printer.ppd"_s;
+    }
+    void finishedNeverComesBeforePrintReturns()
+    {
+        QFETCH(QString, ppd);
+        const FakeFilter filter(kGood);
+        FileQueue queue;
+        QSignalSpy finished(&queue, &FileQueue::finished);
+        if (!ppd.isNull())
+            expectLogged(ppd);
+        queue.print(filter.document(), {}, ppd.isNull() ? filter.ppdPath() : ppd, filter.output());
+        QCOMPARE(finished.size(), 0);
+        QTRY_COMPARE(finished.size(), 1);
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 1); // and once
+    }
+
+    void anEarlierResultIsReplaced()
+    {
+        const FakeFilter filter(kGood);
+        writeFile(filter.output(), "yesterday's");
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("printed\n"));
+    }
+
+    void theEarlierResultStandsUntilTheNewOneIsComplete()
+    {
+        const FakeFilter filter("echo half; touch $DIR/started; "
+                                "while [ ! -e $DIR/go ]; do sleep 0.02; done; echo whole\n");
+        writeFile(filter.output(), "yesterday's");
+        FileQueue queue;
+        QSignalSpy finished(&queue, &FileQueue::finished);
+        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
+        QVERIFY(filter.waitForFile(u"started"_s));
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
+        QCOMPARE(finished.size(), 0);
+        writeFile(filter.path(u"go"_s), "");
+        QVERIFY(queue.wait());
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("half\nwhole\n"));
+    }
+
+    void theResultHasThePermissionsOfTheUsersOtherFiles_data()
+    {
+        QTest::addColumn<int>("mask");
+        QTest::addColumn<int>("result");
+        QTest::newRow("usual") << 0022 << 0644;
+        QTest::newRow("shared with a group") << 0002 << 0664;
+        QTest::newRow("private") << 0077 << 0600;
+    }
+    void theResultHasThePermissionsOfTheUsersOtherFiles()
+    {
+        QFETCH(int, mask);
+        QFETCH(int, result);
+        const FakeFilter filter(kGood);
+        const Mask userMask(static_cast<mode_t>(mask));
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(int(permissions(filter.output())), result);
+        const Mask unchanged(static_cast<mode_t>(mask));
+        QCOMPARE(int(::umask(static_cast<mode_t>(mask))), mask);
+    }
+
+    void aRelativeNameIsThatOfTheCurrentFolder()
+    {
+        const FakeFilter filter(kGood);
+        const QString former = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(QFileInfo(filter.output()).path()));
+        const QString problem = printed(filter, {}, u"here.ps"_s);
+        QDir::setCurrent(former);
+        QCOMPARE(problem, QString());
+        QCOMPARE(filter.content(u"here.ps"_s), QByteArray("printed\n"));
+    }
+
+    void anOutputThatCannotBeWrittenIsNamed_data()
+    {
+        QTest::addColumn<QString>("output");
+        QTest::newRow("missing folder") << u"missing/out.ps"_s;
+        QTest::newRow("a file in place of the folder") << u"printer.ppd/out.ps"_s;
+        QTest::newRow("a folder") << u"."_s;
+        QTest::newRow("a folder that nobody can write into") << u"/proc/out.ps"_s;
+        QTest::newRow("a name that is too long") << QString(300, u'x');
+        QTest::newRow("a pipe") << u"pipe"_s;
+        QTest::newRow("a link to a device") << u"device"_s;
+        QTest::newRow("the document itself") << u"document.txt"_s;
+        QTest::newRow("a link to the document") << u"link"_s;
+    }
+    void anOutputThatCannotBeWrittenIsNamed()
+    {
+        QFETCH(QString, output);
+        const FakeFilter filter("touch $DIR/ran; echo printed\n");
+        QCOMPARE(::mkfifo(QFile::encodeName(filter.path(u"pipe"_s)).constData(), 0600), 0);
+        QVERIFY(QFile::link(u"/dev/null"_s, filter.path(u"device"_s)));
+        QVERIFY(QFile::link(filter.document().path, filter.path(u"link"_s)));
+        const QString path = output.startsWith(u'/') ? output : filter.path(output);
+        expectLogged(path);
+        const QString problem = printed(filter, {}, path);
+        QVERIFY2(problem.contains(path), qPrintable(problem));
+        QVERIFY(!QFileInfo::exists(filter.path(u"ran"_s)));
+        QCOMPARE(filter.content(u"document.txt"_s), QByteArray("a document\n"));
+        QVERIFY(!QFileInfo(filter.path(u"pipe"_s)).isFile());
+        QVERIFY(QFileInfo(filter.path(u"device"_s)).isSymLink());
+        QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    void aPpdThatHasVanishedIsNamed_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("removed") << u"removed.ppd"_s;
+        QTest::newRow("a broken link") << u"broken.ppd"_s;
+    }
+    void aPpdThatHasVanishedIsNamed()
+    {
+        QFETCH(QString, name);
+        const FakeFilter filter("touch $DIR/ran; echo printed\n");
+        QVERIFY(QFile::link(u"/nowhere/at/all"_s, filter.path(u"broken.ppd"_s)));
+        writeFile(filter.output(), "yesterday's");
+        expectLogged(filter.path(name));
+        const QString problem = printed(filter, {}, filter.output(), filter.path(name));
+        QVERIFY2(problem.contains(filter.path(name)), qPrintable(problem));
+        QVERIFY(!QFileInfo::exists(filter.path(u"ran"_s)));
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
+    }
+
+    void aFilterProgramThatCannotRunIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::newRow("missing") << QByteArray("/nowhere/cupsfilter");
+        QTest::newRow("no program") << QByteArray("/etc/passwd");
+    }
+    void aFilterProgramThatCannotRunIsNamed()
+    {
+        QFETCH(QByteArray, program);
+        const FakeFilter filter(kGood); // gives the variable its former value back
+        qputenv("CORVANA_PRINT_CUPSFILTER", program);
+        expectLogged(QString::fromUtf8(program));
+        const QString problem = printed(filter);
+        QVERIFY2(problem.contains(QString::fromUtf8(program)), qPrintable(problem));
+        QVERIFY2(problem.contains(u"CORVANA_PRINT_CUPSFILTER"_s), qPrintable(problem));
+    }
+
+    void aProgramThatTheSystemCannotStartIsNamed()
+    {
+        const FakeFilter filter(kGood);
+        writeFile(filter.path(u"filter"_s), "#!/nowhere/interpreter\n");
+        writeFile(filter.output(), "yesterday's");
+        expectLogged(u"cannot be started"_s);
+        const QString problem = printed(filter);
+        QVERIFY2(problem.contains(filter.path(u"filter"_s)), qPrintable(problem));
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
+        QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    void theProgramIsFoundWhereUsersPathsDoNotLead()
+    {
+        const QByteArray path = qgetenv("PATH");
+        const QByteArray named = qgetenv("CORVANA_PRINT_CUPSFILTER");
+        qunsetenv("CORVANA_PRINT_CUPSFILTER");
+        qputenv("PATH", "/nowhere");
+        QString error;
+        const QString found = findCupsFilter(&error);
+        qputenv("PATH", path);
+        if (!named.isNull())
+            qputenv("CORVANA_PRINT_CUPSFILTER", named);
+        QVERIFY2(found.endsWith(u"sbin/cupsfilter"_s), qPrintable(found + error));
+    }
+};
+
+QTEST_GUILESS_MAIN(FileQueueTest)
+
+#include "file_queue_test.moc"

@@ -1,0 +1,92 @@
+#include <QTest>
+
+#include "dialog/session/JobTicket.h"
+#include "dialog/session/PpdSession.h"
+#include "tests/dialog/support/FakePlugIn.h"
+#include "tests/dialog/support/TestPrinters.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+using Origin = PpdSession::Origin;
+
+class JobTicketTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyMarkIsAnOptionInThePpdsOrder()
+    {
+        const auto session = sessionFor(smallPrinter());
+        session->change(u"Media"_s, u"Card"_s, Origin::Dialog);
+        QCOMPARE(jobOptions(*session, nullptr, {}),
+                 (QList<JobOption>{{u"PageSize"_s, u"A4"_s},
+                                   {u"Duplex"_s, u"None"_s},
+                                   {u"Tray"_s, u"Upper"_s},
+                                   {u"Media"_s, u"Card"_s},
+                                   {u"Boost"_s, u"OFF"_s},
+                                   {u"QXOutput"_s, u"Printer"_s},
+                                   {u"AP_ColorMatchingMode"_s, u"AP_VendorColorMatching"_s}}));
+    }
+
+    void anOptionWithoutAMarkIsLeftToThePrinter()
+    {
+        const auto session = sessionFor(
+            PpdBuilder().option("Fold", "Fold", "Unknown", {{"Once", "Once"}, {"Twice", "Twice"}}));
+        QCOMPARE(jobOptions(*session, nullptr, {}), (QList<JobOption>{{u"PageSize"_s, u"A4"_s}}));
+    }
+
+    void aCustomValueTakesThePlaceOfItsMark()
+    {
+        const auto session = sampleSession();
+        session->change(u"PageSize"_s, u"Custom.300x400"_s, Origin::Dialog);
+        const QList<JobOption> options = jobOptions(*session, nullptr, {});
+        QVERIFY(options.contains({u"PageSize"_s, u"Custom.300x400"_s}));
+        QVERIFY(!options.contains({u"PageSize"_s, u"Custom"_s}));
+    }
+
+    void customWithoutANumberIsLeftOutAndLogged()
+    {
+        const auto session = sampleSession();
+        session->change(u"QXSleepTime"_s, u"Custom"_s, Origin::Dialog);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"\"QXSleepTime\" is custom"_s));
+        for (const JobOption &option : jobOptions(*session, nullptr, {}))
+            QVERIFY(option.name != u"QXSleepTime"_s);
+    }
+
+    void aPanelsOwnValueTakesThePlaceOfTheMarkItStandsFor()
+    {
+        const auto session = sessionFor(
+            PpdBuilder()
+                .option("Strength", "Strength", "Medium", {{"Medium", "Medium"}, {"High", "High"}})
+                .onOff("Boost", "Boost"));
+        FakeJobValues values;
+        JobOption strength{u"Strength"_s, u"4"_s};
+        QCOMPARE(values.takeJobOption(strength, session->printSettings(), session->ppd()).outcome,
+                 JobValueClaim::Outcome::Accepted);
+        QCOMPARE(jobOptions(*session, &values, {}),
+                 (QList<JobOption>{
+                     {u"PageSize"_s, u"A4"_s}, {u"Boost"_s, u"OFF"_s}, {u"Strength"_s, u"4"_s}}));
+    }
+
+    void attributesComeLast()
+    {
+        const auto session = sessionFor(PpdBuilder());
+        QCOMPARE(jobOptions(*session, nullptr, {{u"number-up"_s, u"2"_s}}),
+                 (QList<JobOption>{{u"PageSize"_s, u"A4"_s}, {u"number-up"_s, u"2"_s}}));
+    }
+
+    void ticketsAreEqualWhenTheyPrintTheSame()
+    {
+        const JobTicket one{u"Report"_s, 2, {{u"Tray"_s, u"Lower"_s}}};
+        JobTicket other = one;
+        QCOMPARE(other, one);
+        other.copies = 3;
+        QVERIFY(!(other == one));
+    }
+};
+
+QTEST_GUILESS_MAIN(JobTicketTest)
+
+#include "job_ticket_test.moc"

@@ -1,0 +1,252 @@
+#include <QTest>
+
+#include "dialog/session/JobTicket.h"
+#include "dialog/session/OptionRequest.h"
+#include "dialog/session/PanelHost.h"
+#include "platform/pde/PDEPlugIn.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+#include "tests/support/TestBundle.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// Options of the sample printer with the panels of the plug-in, loaded as the dialog loads them.
+class OptionPanelsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    ScriptedAlertPresenter m_presenter;
+    PDEPlugIn *m_plugIn = nullptr;
+    std::unique_ptr<PpdSession> m_session;
+    std::unique_ptr<PanelHost> m_panels;
+
+    void open()
+    {
+        m_panels.reset();
+        m_session = sampleSession();
+        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, m_presenter);
+    }
+    OptionOutcome apply(const QStringList &options)
+    {
+        return applyOptions(parseOptions(options), *m_session, m_plugIn->jobValues(), *m_panels);
+    }
+    QString inJob(const QString &name) const
+    {
+        QStringList values;
+        for (const JobOption &option : jobOptions(*m_session, m_plugIn->jobValues(), {})) {
+            if (option.name == name)
+                values += option.value;
+        }
+        return values.join(u'|');
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_plugIn = &loadedPlugIn();
+        QVERIFY(m_plugIn->jobValues());
+    }
+    void init() { open(); }
+    void cleanup()
+    {
+        QCOMPARE(m_presenter.shown().size(), 0);
+        m_panels.reset();
+        m_session.reset();
+    }
+
+    void bothPanelsAreThere()
+    {
+        QCOMPARE(m_panels->panels().size(), 2);
+        QCOMPARE(m_panels->panels().at(0)->panelName(), u"Print Setting"_s);
+        QCOMPARE(m_panels->panels().at(1)->panelName(), u"Color Setting"_s);
+    }
+
+    void everyChoiceIsMarkedAndReachesTheJob_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::addColumn<QString>("choice");
+        const auto session = sampleSession();
+        for (const ppd_option_t *option : session->options()) {
+            const QString keyword = ppdKeyword(option->keyword);
+            for (int i = 0; i < option->num_choices; ++i) {
+                const QString choice = ppdKeyword(option->choices[i].choice);
+                // A postcard's own medium is Japan's; a bare "Custom" has no value.
+                if (choice == u"Custom"_s || choice == u"PostCard"_s)
+                    continue;
+                // Forty-one choices each: the ends and the middle tell as much.
+                const bool effect = option->num_choices == 41;
+                if (effect && choice != u"-20"_s && choice != u"0"_s && choice != u"20"_s)
+                    continue;
+                QTest::newRow(qUtf8Printable(keyword + u'=' + choice)) << keyword << choice;
+            }
+        }
+    }
+    void everyChoiceIsMarkedAndReachesTheJob()
+    {
+        QFETCH(QString, keyword);
+        QFETCH(QString, choice);
+        const OptionOutcome outcome = apply({keyword + u'=' + choice});
+        QVERIFY2(outcome.ok(), qPrintable(outcome.problems.join(u'\n')));
+        QCOMPARE(inJob(keyword), choice);
+        QVERIFY(m_panels->shouldPrint());
+        m_panels->summary();
+        QCOMPARE(inJob(keyword), choice);
+    }
+
+    void panelOwnedValuesReachTheJob_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("job");
+        QTest::newRow("shortest sleep") << u"QXSleepTime=Custom.1"_s << u"Custom.1"_s;
+        QTest::newRow("longest sleep") << u"QXSleepTime=Custom.99"_s << u"Custom.99"_s;
+        QTest::newRow("sleep in the other form") << u"QXSleepTime={Time=12}"_s << u"Custom.12"_s;
+        QTest::newRow("automatic sleep") << u"QXSleepTime=Default"_s << u"Default"_s;
+        QTest::newRow("lightest") << u"QXDensityAdjustment=-6"_s << u"Custom.-6"_s;
+        QTest::newRow("darkest") << u"QXDensityAdjustment=Custom.6"_s << u"Custom.6"_s;
+        QTest::newRow("the printer's own density") << u"QXDensityAdjustment=0"_s << u"0"_s;
+        QTest::newRow("an effect") << u"QXBrightness=-20"_s << u"-20"_s;
+    }
+    void panelOwnedValuesReachTheJob()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, job);
+        const OptionOutcome outcome = apply({option});
+        QVERIFY2(outcome.ok(), qPrintable(outcome.problems.join(u'\n')));
+        QCOMPARE(inJob(option.section(u'=', 0, 0)), job);
+        QVERIFY(m_panels->shouldPrint());
+        QCOMPARE(inJob(option.section(u'=', 0, 0)), job);
+    }
+
+    void panelOwnedValuesOutOfRangeNameTheRange_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("range");
+        QTest::newRow("no sleep") << u"QXSleepTime=Custom.0"_s << u"Custom.1 to Custom.99"_s;
+        QTest::newRow("long sleep") << u"QXSleepTime=Custom.100"_s << u"Custom.1 to Custom.99"_s;
+        QTest::newRow("too light") << u"QXDensityAdjustment=-7"_s << u"-6 to 6"_s;
+        QTest::newRow("too dark") << u"QXDensityAdjustment=7"_s << u"-6 to 6"_s;
+        QTest::newRow("too bright") << u"QXBrightness=21"_s << u"-20 to 20"_s;
+        QTest::newRow("no number") << u"QXBrightness=x"_s << u"-20 to 20"_s;
+    }
+    void panelOwnedValuesOutOfRangeNameTheRange()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, range);
+        m_panels->bringUp();
+        const SessionSnapshot before = m_session->snapshot();
+        const OptionOutcome outcome = apply({option, u"QXMediaType=Thick"_s});
+        QCOMPARE(outcome.problems.size(), 1);
+        QVERIFY2(outcome.problems.constFirst().startsWith(option) &&
+                     outcome.problems.constFirst().contains(range),
+                 qPrintable(outcome.problems.constFirst()));
+        QCOMPARE(m_session->snapshot(), before);
+    }
+
+    void aDensityIsNeverMarked()
+    {
+        QVERIFY(apply({u"QXDensityAdjustment=3"_s}).ok());
+        QCOMPARE(m_session->markedChoice(u"QXDensityAdjustment"_s), u"0"_s);
+        QCOMPARE(inJob(u"QXDensityAdjustment"_s), u"Custom.3"_s);
+    }
+
+    void aManualSleepTimeIsMarkedCustom()
+    {
+        QVERIFY(apply({u"QXSleepTime=Custom.12"_s}).ok());
+        QCOMPARE(m_session->markedChoice(u"QXSleepTime"_s), u"Custom"_s);
+        QVERIFY(apply({u"QXSleepTime=Default"_s}).ok());
+        QCOMPARE(m_session->markedChoice(u"QXSleepTime"_s), u"Default"_s);
+        QCOMPARE(inJob(u"QXSleepTime"_s), u"Default"_s);
+    }
+
+    void anEffectGoesIntoTheSetOfTheModeThatComesWithIt()
+    {
+        QVERIFY(apply({u"QXRed=5"_s}).ok());
+        QVERIFY(apply({u"QXColorMatching=Vivid QXRed=9"_s}).ok());
+        QCOMPARE(inJob(u"QXRed"_s), u"9"_s);
+        QCOMPARE(inJob(u"QXColorMatching"_s), u"Vivid"_s);
+    }
+
+    void aPostcardMediumOutsideJapanIsAnsweredWithWhatItBecame()
+    {
+        m_panels->bringUp();
+        const SessionSnapshot before = m_session->snapshot();
+        const OptionOutcome outcome = apply({u"QXMediaType=PostCard"_s, u"QXSkipBlank=ON"_s});
+        QCOMPARE(outcome.problems.size(), 1);
+        QVERIFY2(outcome.problems.constFirst().startsWith(u"QXMediaType=PostCard: "_s) &&
+                     outcome.problems.constFirst().contains(u"became "_s),
+                 qPrintable(outcome.problems.constFirst()));
+        QVERIFY(!outcome.problems.constFirst().contains(u"became PostCard"_s));
+        const SessionSnapshot after = m_session->snapshot();
+        QCOMPARE(after.marks, before.marks);
+        QCOMPARE(after.entries.keys(), before.entries.keys());
+        QCOMPARE(after.entries, before.entries);
+        QCOMPARE(after, before);
+    }
+
+    void aPostcardMediumIsTakenInJapan()
+    {
+        const UserLanguage japanese(u"ja"_s);
+        open();
+        const OptionOutcome outcome = apply({u"QXMediaType=PostCard"_s});
+        QVERIFY2(outcome.ok(), qPrintable(outcome.problems.join(u'\n')));
+        QCOMPARE(inJob(u"QXMediaType"_s), u"PostCard"_s);
+    }
+
+    void aRefusedSetLeavesTheJobAsItWas()
+    {
+        QVERIFY(apply({u"QXSleepTime=Custom.12 QXDensityAdjustment=3 QXRed=5"_s}).ok());
+        const SessionSnapshot before = m_session->snapshot();
+        const auto job = jobOptions(*m_session, m_plugIn->jobValues(), {});
+        QVERIFY(!apply({u"QXSleepTime=Default QXDensityAdjustment=0 QXRed=0 QXMediaType=Glossy "
+                        "Duplex=DuplexTumble"_s})
+                     .ok());
+        QCOMPARE(m_session->snapshot(), before);
+        QCOMPARE(jobOptions(*m_session, m_plugIn->jobValues(), {}), job);
+    }
+
+    void theJobIsTheSameWhetherPagesWereVisitedOrNot()
+    {
+        const QStringList options{
+            u"QXSleepTime=Custom.12 QXDensityAdjustment=-2 QXBrightness=3 "
+            "QXMediaType=Thick QXResolution=1200dpi "
+            "QXColorMatching=Vivid QXGray=ON QXImproveOutput=QXFixIntensity"_s};
+        const OptionOutcome unvisitedOutcome = apply(options);
+        QVERIFY2(unvisitedOutcome.ok(), qPrintable(unvisitedOutcome.problems.join(u'\n')));
+        QVERIFY(m_panels->shouldPrint());
+        const auto unvisited = jobOptions(*m_session, m_plugIn->jobValues(), {});
+
+        open();
+        QVERIFY(apply(options).ok());
+        for (const int page : {0, 1, -1, 1, 0, -1})
+            m_panels->visit(page);
+        QVERIFY(m_panels->shouldPrint());
+        QCOMPARE(jobOptions(*m_session, m_plugIn->jobValues(), {}), unvisited);
+
+        open();
+        m_panels->visit(1);
+        QVERIFY(apply(options).ok());
+        m_panels->visit(0);
+        QVERIFY(m_panels->shouldPrint());
+        QCOMPARE(jobOptions(*m_session, m_plugIn->jobValues(), {}), unvisited);
+    }
+
+    void theJobOfAnUntouchedSessionIsThatOfItsDefaults()
+    {
+        m_panels->bringUp();
+        QVERIFY(m_panels->shouldPrint());
+        for (const JobOption &option : jobOptions(*m_session, m_plugIn->jobValues(), {})) {
+            const ppd_option_t *found = ppdOption(m_session->ppd(), option.name);
+            QVERIFY2(found, qPrintable(option.name));
+            QCOMPARE(option.name + u'=' + option.value,
+                     option.name + u'=' + ppdKeyword(found->defchoice));
+        }
+    }
+};
+
+QTEST_MAIN(OptionPanelsTest)
+
+#include "option_panels_test.moc"

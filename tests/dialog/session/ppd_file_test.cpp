@@ -1,0 +1,135 @@
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/session/PpdFile.h"
+#include "tests/dialog/support/TestPrinters.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+class PpdFileTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    QString written(const QByteArray &text)
+    {
+        return writeFile(m_folder.filePath(u"test.ppd"_s), text);
+    }
+
+    PpdFile openedPpd(const QByteArray &text)
+    {
+        QString error;
+        PpdFile ppd = openPpdFile(written(text), &error);
+        if (!ppd)
+            qWarning().noquote() << error;
+        return ppd;
+    }
+
+private Q_SLOTS:
+    void theDefaultsAreMarkedAtOnce()
+    {
+        QString error;
+        const PpdFile ppd = openPpdFile(samplePpdPath(), &error);
+        QVERIFY2(ppd, qPrintable(error));
+        QVERIFY(error.isEmpty());
+        QVERIFY(ppdIsMarked(ppd.get(), "PageSize", "A4"));
+        QVERIFY(ppdIsMarked(ppd.get(), "QXMediaType", "Plain"));
+        QVERIFY(ppdIsMarked(ppd.get(), "Duplex", "None"));
+    }
+
+    void aMissingFileIsNamed()
+    {
+        QString error;
+        QVERIFY(!openPpdFile(u"/nowhere/printer.ppd"_s, &error));
+        QVERIFY2(error.startsWith(u"/nowhere/printer.ppd: "_s), qPrintable(error));
+        QVERIFY2(error.contains(u"No such file"_s), qPrintable(error));
+    }
+
+    void aFolderIsNoPpd()
+    {
+        QString error;
+        QVERIFY(!openPpdFile(m_folder.path(), &error));
+        QVERIFY2(error.startsWith(m_folder.path() + u": "_s), qPrintable(error));
+        QVERIFY2(error.contains(u"directory"_s), qPrintable(error));
+    }
+
+    void aFaultIsNamedWithFileAndLine_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("line");
+        QTest::addColumn<QString>("what");
+
+        QTest::newRow("not a PPD at all")
+            << QByteArray("Dear printer,\nplease print.\n") << 1 << u"asterisk"_s;
+        QTest::newRow("an option that is closed without being opened")
+            << QByteArray("*PPD-Adobe: \"4.3\"\n*CloseGroup: Never\n*OpenGroup: A\n*OpenGroup: B\n")
+            << 4 << u"OpenGroup"_s;
+        QTest::newRow("a quoted value that never ends")
+            << QByteArray("*PPD-Adobe: \"4.3\"\n*NickName: \"never\nends\n") << -1 << QString();
+        QTest::newRow("an empty file") << QByteArray() << 0 << u"PPD"_s;
+    }
+    void aFaultIsNamedWithFileAndLine()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(int, line);
+        QFETCH(QString, what);
+        const QString path = written(text);
+        QString error;
+        const PpdFile ppd = openPpdFile(path, &error);
+        if (line < 0) { // libcups reads it as far as it goes
+            QVERIFY(ppd);
+            return;
+        }
+        QVERIFY(!ppd);
+        const QString place = line > 0 ? u"%1:%2: "_s.arg(path).arg(line) : u"%1: "_s.arg(path);
+        QVERIFY2(error.startsWith(place), qPrintable(error));
+        QVERIFY2(error.contains(what), qPrintable(error));
+    }
+
+    void aQueueThatPrintsTwoSidedKeepsOneSidedAsTheDefault()
+    {
+        QByteArray text = smallPrinter().text();
+        text.replace("*DefaultDuplex: None", "*DefaultDuplex: DuplexNoTumble");
+        const PpdFile ppd = openedPpd(text);
+        QVERIFY(ppd);
+        QCOMPARE(QByteArray(ppdOption(ppd.get(), u"Duplex"_s)->defchoice), QByteArray("None"));
+        QVERIFY(ppdIsMarked(ppd.get(), "Duplex", "DuplexNoTumble"));
+        QVERIFY(!ppdIsMarked(ppd.get(), "Duplex", "None"));
+    }
+
+    void twoSidedStaysTheDefaultWhereThereIsNoOneSidedChoice()
+    {
+        const PpdFile ppd =
+            openedPpd(PpdBuilder()
+                          .option("Duplex", "Two-Sided", "DuplexTumble",
+                                  {{"DuplexNoTumble", "Long Edge"}, {"DuplexTumble", "Short Edge"}})
+                          .text());
+        QVERIFY(ppd);
+        QCOMPARE(QByteArray(ppdOption(ppd.get(), u"Duplex"_s)->defchoice),
+                 QByteArray("DuplexTumble"));
+        QVERIFY(ppdIsMarked(ppd.get(), "Duplex", "DuplexTumble"));
+    }
+
+    void aPrinterWithoutTwoSidedPrintingOpens()
+    {
+        const PpdFile ppd = openedPpd(PpdBuilder().text());
+        QVERIFY(ppd);
+        QVERIFY(!ppdOption(ppd.get(), u"Duplex"_s));
+    }
+
+    void aFileNameMayHaveAnyCharacters()
+    {
+        const QString path =
+            writeFile(m_folder.filePath(u"プリンタ %1 a.ppd"_s), PpdBuilder().text());
+        QString error;
+        QVERIFY2(openPpdFile(path, &error), qPrintable(error));
+    }
+};
+
+QTEST_GUILESS_MAIN(PpdFileTest)
+
+#include "ppd_file_test.moc"

@@ -1,0 +1,100 @@
+#include <QTest>
+
+#include "dialog/session/Summary.h"
+#include "tests/dialog/support/FakePlugIn.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+using Origin = PpdSession::Origin;
+
+class SummaryTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    ScriptedAlertPresenter m_presenter;
+
+private Q_SLOTS:
+    void copiesThenTheGeneralOptionsThenThePanels()
+    {
+        const auto session = sessionFor(smallPrinter());
+        session->change(u"Duplex"_s, u"DuplexTumble"_s, Origin::Dialog);
+        FakePlugIn plugIn({u"A"_s, u"B"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->summaryLines = {{u"Media"_s, u"Plain Paper"_s}};
+        plugIn.panels.at(1)->summaryLines = {{u"Color"_s, u"Vivid"_s}};
+        QCOMPARE(sessionSummary(*session, panels, 3),
+                 (QList<SummaryLine>{{u"Copies"_s, u"3"_s},
+                                     {u"Two-Sided"_s, u"Short Edge"_s},
+                                     {u"Paper Size"_s, u"A4"_s},
+                                     {u"Output To"_s, u"Printer"_s},
+                                     {u"Colors Matched By"_s, u"Printer"_s},
+                                     {u"Media"_s, u"Plain Paper"_s},
+                                     {u"Color"_s, u"Vivid"_s}}));
+    }
+
+    void optionsThatThePrinterLacksHaveNoLine()
+    {
+        const auto session = sessionFor(PpdBuilder());
+        PanelHost panels(*session, nullptr, m_presenter);
+        QCOMPARE(sessionSummary(*session, panels, 1),
+                 (QList<SummaryLine>{{u"Copies"_s, u"1"_s}, {u"Paper Size"_s, u"A4"_s}}));
+    }
+
+    void aMarkThatAPanelChangesForItsSummaryIsTheMarkThatIsTold()
+    {
+        const auto session = sessionFor(smallPrinter());
+        FakePlugIn plugIn({u"A"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        FakePanel &panel = *plugIn.panels.at(0);
+        panel.inside.insert(u"summary"_s, [&] { panel.propose(u"Duplex"_s, u"DuplexTumble"_s); });
+        const QList<SummaryLine> lines = sessionSummary(*session, panels, 1);
+        QVERIFY(lines.contains({u"Two-Sided"_s, u"Short Edge"_s}));
+    }
+
+    void aCustomPaperIsToldByItsSize()
+    {
+        const auto session = sampleSession();
+        session->change(u"PageSize"_s, u"Custom.283.46457x566.92913"_s, Origin::Dialog);
+        QCOMPARE(optionLine(*session, u"PageSize"_s),
+                 (SummaryLine{u"Paper Size"_s, u"100 × 200 mm"_s}));
+    }
+
+    void anotherCustomValueIsToldAsItIs()
+    {
+        const auto session = sampleSession();
+        session->change(u"QXSleepTime"_s, u"Custom.12"_s, Origin::Dialog);
+        QCOMPARE(optionLine(*session, u"QXSleepTime"_s), (SummaryLine{u"Sleep Time"_s, u"12"_s}));
+    }
+
+    void whatHasNoMarkHasNoLine()
+    {
+        const auto session = sampleSession();
+        QCOMPARE(optionLine(*session, u"Nothing"_s), SummaryLine{});
+        const auto unmarked = sessionFor(PpdBuilder().option("Duplex", "Two-Sided", "Unknown",
+                                                             {{"None", "Off"}, {"Other", "On"}}));
+        QCOMPARE(optionLine(*unmarked, u"Duplex"_s), SummaryLine{});
+    }
+
+    void aTextThatCannotBeReadIsReplacedByItsKeyword()
+    {
+        const auto session = sessionFor(PpdBuilder().option(
+            "Duplex", "Zweiseitig \xfc", "None", {{"None", "Aus \xfc"}, {"DuplexTumble", "Kurz"}}));
+        QCOMPARE(optionLine(*session, u"Duplex"_s), (SummaryLine{u"Duplex"_s, u"None"_s}));
+    }
+
+    void theTextHasOneLineForEach()
+    {
+        QCOMPARE(summaryText({{u"Copies"_s, u"1"_s}, {u"Two-Sided"_s, u"Off"_s}}),
+                 u"Copies: 1\nTwo-Sided: Off\n"_s);
+        QCOMPARE(summaryText({}), QString());
+    }
+};
+
+QTEST_MAIN(SummaryTest)
+
+#include "summary_test.moc"

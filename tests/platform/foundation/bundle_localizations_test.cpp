@@ -1,0 +1,149 @@
+#include <QtTest>
+
+#include <QProcess>
+
+#include "platform/foundation/Bundle.h"
+
+using namespace corvana;
+
+class BundleLocalizationsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QLocale::setDefault(QLocale::system()); }
+    void theEnvironmentChoosesTheLocalization_data();
+    void theEnvironmentChoosesTheLocalization();
+    void theDefaultLocaleChoosesTheLocalization_data();
+    void theDefaultLocaleChoosesTheLocalization();
+    void withoutAMatchTheFirstIsTaken_data();
+    void withoutAMatchTheFirstIsTaken();
+    void aLocalizationWithoutRegionServesEveryRegion();
+    void noneIsPreferredWhereNoneIsOffered();
+    void eachLocalizationIsPreferredOnce();
+};
+
+namespace {
+const QStringList offered{QStringLiteral("English"), QStringLiteral("Japanese"),
+                          QStringLiteral("zh_CN")};
+}
+
+void BundleLocalizationsTest::theEnvironmentChoosesTheLocalization_data()
+{
+    QTest::addColumn<QStringList>("environment");
+    QTest::addColumn<QString>("preferred");
+    const auto row = [](const char *name, const char *environment, const char *preferred) {
+        QTest::newRow(name) << QString::fromLatin1(environment).split(u' ', Qt::SkipEmptyParts)
+                            << QString::fromLatin1(preferred);
+    };
+    row("English", "LANG=en_US.UTF-8", "English");
+    row("another English", "LANG=en_GB.UTF-8", "English");
+    row("Japanese", "LANG=ja_JP.UTF-8", "Japanese");
+    row("simplified Chinese", "LANG=zh_CN.UTF-8", "zh_CN");
+    row("Singapore writes simplified Chinese", "LANG=zh_SG.UTF-8", "zh_CN");
+    row("traditional Chinese is not simplified", "LANG=zh_TW.UTF-8", "English");
+    row("Hong Kong writes traditional Chinese", "LANG=zh_HK.UTF-8", "English");
+    row("German is not offered", "LANG=de_DE.UTF-8", "English");
+    row("C", "LANG=C", "English");
+    row("C.UTF-8", "LC_ALL=C.UTF-8", "English");
+    row("nothing set", "", "English");
+    row("LC_ALL wins over LANG", "LANG=en_US.UTF-8 LC_ALL=ja_JP.UTF-8", "Japanese");
+    row("LC_MESSAGES wins over LANG", "LANG=en_US.UTF-8 LC_MESSAGES=ja_JP.UTF-8", "Japanese");
+    row("LANGUAGE wins over LANG", "LANG=en_US.UTF-8 LANGUAGE=ja", "Japanese");
+    row("the second language serves", "LANG=de_DE.UTF-8 LANGUAGE=de:ja", "Japanese");
+    row("all languages in the user's order", "LANG=zh_CN.UTF-8 LANGUAGE=zh_CN:ja:en",
+        "zh_CN Japanese English");
+    row("simplified after traditional Chinese", "LANG=zh_TW.UTF-8 LANGUAGE=zh_TW:zh_CN:en",
+        "zh_CN English");
+    row("English after traditional Chinese", "LANG=zh_TW.UTF-8 LANGUAGE=zh_TW:en", "English");
+}
+
+void BundleLocalizationsTest::theEnvironmentChoosesTheLocalization()
+{
+    QFETCH(QStringList, environment);
+    QFETCH(QString, preferred);
+    QProcess helper;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    const QStringList all = variables.keys();
+    for (const QString &name : all) {
+        if (name.startsWith(QLatin1StringView("LC_")) || name.startsWith(QLatin1StringView("LANG")))
+            variables.remove(name);
+    }
+    for (const QString &assignment : environment)
+        variables.insert(assignment.section(u'=', 0, 0), assignment.section(u'=', 1));
+    helper.setProcessEnvironment(variables);
+    helper.start(QStringLiteral(TEST_HELPER), offered);
+    QVERIFY(helper.waitForFinished());
+    QCOMPARE(helper.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(helper.exitCode(), 0);
+    QCOMPARE(QString::fromUtf8(helper.readAllStandardOutput()), preferred);
+}
+
+void BundleLocalizationsTest::theDefaultLocaleChoosesTheLocalization_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("English") << QLocale(QStringLiteral("en_US")) << QStringLiteral("English");
+    QTest::newRow("Japanese") << QLocale(QStringLiteral("ja_JP")) << QStringLiteral("Japanese");
+    QTest::newRow("simplified Chinese") << QLocale(QStringLiteral("zh_CN"))
+                                        << QStringLiteral("zh_CN");
+    QTest::newRow("Chinese without a region") << QLocale(QLocale::Chinese)
+                                              << QStringLiteral("zh_CN");
+    QTest::newRow("traditional Chinese") << QLocale(QStringLiteral("zh_TW"))
+                                         << QStringLiteral("English");
+    QTest::newRow("German") << QLocale(QStringLiteral("de_DE")) << QStringLiteral("English");
+    QTest::newRow("C") << QLocale::c() << QStringLiteral("English");
+}
+
+void BundleLocalizationsTest::theDefaultLocaleChoosesTheLocalization()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, first);
+    QLocale::setDefault(locale);
+    QCOMPARE(Bundle::preferredLocalizations(offered).value(0), first);
+}
+
+void BundleLocalizationsTest::withoutAMatchTheFirstIsTaken_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("localizations");
+    const QStringList japaneseFirst{QStringLiteral("Japanese"), QStringLiteral("English")};
+    QTest::newRow("a language that is not offered") << QStringLiteral("de_DE") << japaneseFirst;
+    QTest::newRow("no language at all") << QStringLiteral("C") << japaneseFirst;
+    // A name that is no language code must not pass for "no language".
+    QTest::newRow("a name that is no language")
+        << QStringLiteral("C")
+        << QStringList{QStringLiteral("English"), QStringLiteral("Klingonese")};
+}
+
+void BundleLocalizationsTest::withoutAMatchTheFirstIsTaken()
+{
+    QFETCH(QString, locale);
+    QFETCH(QStringList, localizations);
+    QLocale::setDefault(QLocale(locale));
+    QCOMPARE(Bundle::preferredLocalizations(localizations), localizations.first(1));
+}
+
+void BundleLocalizationsTest::aLocalizationWithoutRegionServesEveryRegion()
+{
+    const QStringList localizations{QStringLiteral("English"), QStringLiteral("de")};
+    for (const char *locale : {"de_DE", "de_AT", "de_CH"}) {
+        QLocale::setDefault(QLocale(QString::fromLatin1(locale)));
+        QCOMPARE(Bundle::preferredLocalizations(localizations), QStringList{QStringLiteral("de")});
+    }
+}
+
+void BundleLocalizationsTest::noneIsPreferredWhereNoneIsOffered()
+{
+    QVERIFY(Bundle::preferredLocalizations({}).isEmpty());
+}
+
+void BundleLocalizationsTest::eachLocalizationIsPreferredOnce()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("ja_JP")));
+    const QStringList preferred = Bundle::preferredLocalizations(offered);
+    QCOMPARE(preferred.count(QStringLiteral("Japanese")), 1);
+}
+
+QTEST_GUILESS_MAIN(BundleLocalizationsTest)
+#include "bundle_localizations_test.moc"

@@ -1,0 +1,174 @@
+#include <unistd.h>
+
+#include <QtTest>
+
+#include "platform/foundation/Bundle.h"
+#include "platform/pde/PDEBundleLoader.h"
+
+#include "BundleFolder.h"
+
+using namespace corvana;
+
+class BundleTrustTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void whatOnlyItsOwnerCanWriteIsTrusted();
+    void whatEverybodyCanWriteIsRefused_data();
+    void whatEverybodyCanWriteIsRefused();
+    void whatAnotherUserOwnsIsRefused_data();
+    void whatAnotherUserOwnsIsRefused();
+    void aBundleThatIsALinkOutOfTheRootIsRefused();
+    void aLinkOutOfTheRootIsRefusedEvenIntoTheOtherRoot();
+    void aModuleThatIsALinkOutOfTheBundleIsRefused();
+    void aModuleFolderThatIsALinkOutOfTheBundleIsRefused();
+    void aLinkInsideTheRootIsFollowed();
+    void theTargetOfALinkMustBeTrustedToo();
+    void aRootThatIsALinkIsFollowed();
+    void permissionsAboveTheRootDoNotMatter();
+
+private:
+    QString place(const char *name) const { return m_folder->path(QString::fromLatin1(name)); }
+    void loadAndCompareRefused(const QString &reason);
+    bool loads(const QStringList &roots);
+
+    std::unique_ptr<BundleFolder> m_folder;
+};
+
+namespace {
+
+constexpr auto kOwnerOnly =
+    QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+constexpr auto kEverybody = kOwnerOnly | QFileDevice::ReadOther | QFileDevice::WriteOther
+    | QFileDevice::ExeOther;
+constexpr uid_t kNobody = 65534;
+
+void addTrustRows()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("module") << QStringLiteral("first/Test.bundle/module/test.so");
+    QTest::newRow("folder of the module") << QStringLiteral("first/Test.bundle/module");
+    QTest::newRow("bundle") << QStringLiteral("first/Test.bundle");
+}
+
+} // namespace
+
+void BundleTrustTest::init()
+{
+    m_folder = std::make_unique<BundleFolder>();
+    QVERIFY(BundleFolder::makeBundle(place("first/Test.bundle"), QStringLiteral("Good"),
+                                     BundleFolder::info("module/test.so")));
+}
+
+void BundleTrustTest::loadAndCompareRefused(const QString &reason)
+{
+    const LoadedPlugIn loaded =
+        loadPlugInBundle(QStringLiteral("Test.bundle"), {m_folder->root()});
+    QVERIFY(!loaded.plugIn);
+    QVERIFY2(loaded.problem.contains(reason), qPrintable(loaded.problem));
+    QCOMPARE(m_folder->marks(), 0);
+}
+
+bool BundleTrustTest::loads(const QStringList &roots)
+{
+    const LoadedPlugIn loaded = loadPlugInBundle(QStringLiteral("Test.bundle"), roots);
+    return loaded.plugIn && m_folder->marks() == 1;
+}
+
+void BundleTrustTest::whatOnlyItsOwnerCanWriteIsTrusted()
+{
+    QVERIFY(loads({m_folder->root()}));
+}
+
+void BundleTrustTest::whatEverybodyCanWriteIsRefused_data()
+{
+    addTrustRows();
+}
+
+void BundleTrustTest::whatEverybodyCanWriteIsRefused()
+{
+    QFETCH(QString, name);
+    QVERIFY(QFile::setPermissions(m_folder->path(name), kEverybody));
+    loadAndCompareRefused(name + QStringLiteral(" can be written by everybody"));
+}
+
+void BundleTrustTest::whatAnotherUserOwnsIsRefused_data()
+{
+    addTrustRows();
+}
+
+void BundleTrustTest::whatAnotherUserOwnsIsRefused()
+{
+    QFETCH(QString, name);
+    const QByteArray file = QFile::encodeName(m_folder->path(name));
+    if (::geteuid() != 0 || ::chown(file.constData(), kNobody, gid_t(-1)) != 0)
+        QSKIP("only the superuser can give a file away");
+    loadAndCompareRefused(name + QStringLiteral(" belongs to another user"));
+}
+
+void BundleTrustTest::aBundleThatIsALinkOutOfTheRootIsRefused()
+{
+    QVERIFY(QDir().rename(place("first/Test.bundle"), place("elsewhere.bundle")));
+    QVERIFY(QFile::link(place("elsewhere.bundle"), place("first/Test.bundle")));
+    loadAndCompareRefused(QStringLiteral("leads out of the trusted folder"));
+}
+
+void BundleTrustTest::aLinkOutOfTheRootIsRefusedEvenIntoTheOtherRoot()
+{
+    QVERIFY(QDir().rename(place("first/Test.bundle"), place("second/Real.bundle")));
+    QVERIFY(QFile::link(place("second/Real.bundle"), place("first/Test.bundle")));
+    const LoadedPlugIn loaded = loadPlugInBundle(QStringLiteral("Test.bundle"), m_folder->roots());
+    QVERIFY(!loaded.plugIn);
+    QCOMPARE(m_folder->marks(), 0);
+}
+
+void BundleTrustTest::aModuleThatIsALinkOutOfTheBundleIsRefused()
+{
+    QVERIFY(QFile::rename(place("first/Test.bundle/module/test.so"), place("first/test.so")));
+    QVERIFY(QFile::link(place("first/test.so"), place("first/Test.bundle/module/test.so")));
+    loadAndCompareRefused(QStringLiteral("leads out of the bundle"));
+}
+
+void BundleTrustTest::aModuleFolderThatIsALinkOutOfTheBundleIsRefused()
+{
+    QVERIFY(QDir().rename(place("first/Test.bundle/module"), place("first/module")));
+    QVERIFY(QFile::link(place("first/module"), place("first/Test.bundle/module")));
+    loadAndCompareRefused(QStringLiteral("leads out of the bundle"));
+}
+
+void BundleTrustTest::aLinkInsideTheRootIsFollowed()
+{
+    QVERIFY(QDir().rename(place("first/Test.bundle"), place("first/Test-1.0.bundle")));
+    QVERIFY(QFile::link(place("first/Test-1.0.bundle"), place("first/Test.bundle")));
+    QVERIFY(loads({m_folder->root()}));
+}
+
+void BundleTrustTest::theTargetOfALinkMustBeTrustedToo()
+{
+    QVERIFY(QDir().mkdir(place("first/versions")));
+    QVERIFY(QDir().rename(place("first/Test.bundle"), place("first/versions/Test.bundle")));
+    QVERIFY(QFile::link(place("first/versions/Test.bundle"), place("first/Test.bundle")));
+    // Whoever writes here can replace the whole bundle.
+    QVERIFY(QFile::setPermissions(place("first/versions"), kEverybody));
+    loadAndCompareRefused(QStringLiteral("first/versions can be written by everybody"));
+}
+
+void BundleTrustTest::aRootThatIsALinkIsFollowed()
+{
+    QVERIFY(QFile::link(m_folder->root(), place("link")));
+    QVERIFY(loads({place("link")}));
+    QVERIFY(loadPlugInBundle(QStringLiteral("Test.bundle"), {place("link/../first/")}).plugIn);
+}
+
+void BundleTrustTest::permissionsAboveTheRootDoNotMatter()
+{
+    QVERIFY(QDir().mkdir(place("above")));
+    QVERIFY(QDir().rename(m_folder->root(), place("above/first")));
+    QVERIFY(QFile::setPermissions(place("above"), kEverybody));
+    QVERIFY(loads({place("above/first")}));
+}
+
+QTEST_GUILESS_MAIN(BundleTrustTest)
+#include "bundle_trust_test.moc"

@@ -1,0 +1,221 @@
+#include <QtTest>
+
+#include <QCheckBox>
+#include <QSlider>
+
+#include "platform/toolkit/InterfaceLoader.h"
+
+using namespace corvana;
+
+class InterfaceProblemsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aFileThatCannotBeUsedLoadsNoView_data();
+    void aFileThatCannotBeUsedLoadsNoView();
+    void aMissingFileIsNamed();
+    void anEntityBombIsRefusedQuickly();
+    void anOutletOfAnotherClassIsRefused();
+    void nothingIsConnectedWhenAFileIsRefused();
+    void everyProblemIsToldAtOnce();
+    void problemsAreLogged();
+    void problemsAreHandedOutOnce();
+
+private:
+    LoadedInterface load(const QByteArray &text);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_file;
+    InterfaceConnections m_owner;
+};
+
+namespace {
+
+// `controls` begins on line 4 of the file.
+QByteArray form(const QByteArray &controls)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<ui version=\"4.0\">\n"
+           " <widget class=\"QWidget\" name=\"panelView\">\n"
+        + controls + "\n </widget>\n</ui>\n";
+}
+
+QByteArray stringProperty(const QByteArray &name, const QByteArray &text)
+{
+    return "<property name=\"" + name + "\" stdset=\"0\">\n<string>" + text + "</string>\n</property>\n";
+}
+
+} // namespace
+
+void InterfaceProblemsTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_file = m_folder->filePath(QStringLiteral("Test.ui"));
+    m_owner = {};
+    m_owner.action(QStringLiteral("requestNewOutputBin"), [](QWidget *) {});
+    takeInterfaceProblems();
+}
+
+LoadedInterface InterfaceProblemsTest::load(const QByteArray &text)
+{
+    QFile file(m_file);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        return {};
+    file.close();
+    return loadInterface(m_file, m_owner);
+}
+
+void InterfaceProblemsTest::aFileThatCannotBeUsedLoadsNoView_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("where");
+    QTest::addColumn<QString>("what");
+    const auto row = [](const char *name, const QByteArray &text, const char *where,
+                        const char *what) {
+        QTest::newRow(name) << text << QString::fromLatin1(where) << QString::fromLatin1(what);
+    };
+    row("empty", "", "", "");
+    row("not XML", "window { }", "line 1", "");
+    row("tag that does not fit", form("<widget class=\"QLabel\" name=\"a\">\n</wodget>"), "line 5",
+        "");
+    row("cut in the middle", form("<widget class=\"QLabel\" name=\"a\"/>").left(120), "line 4", "");
+    row("another kind of XML", "<html/>", "", "ui");
+    row("no widget", "<ui version=\"4.0\"></ui>", "", "");
+    row("unknown control class", form("\n\n<widget class=\"QKnob\" name=\"knob\"/>"), "Test.ui:6:",
+        "\"QKnob\"");
+    row("unknown class in single quotes", form("<widget class='QKnob' name='knob'/>"), "Test.ui: ",
+        "\"QKnob\"");
+    row("unknown class of the root",
+        "<ui version=\"4.0\">\n<widget class=\"QKnob\" name=\"panelView\"/>\n</ui>", "Test.ui:2:",
+        "\"QKnob\"");
+    row("unknown class that says what it extends",
+        "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"panelView\">\n"
+        "<widget class=\"QKnob\" name=\"knob\"/></widget>\n<customwidgets><customwidget>"
+        "<class>QKnob</class><extends>QWidget</extends></customwidget></customwidgets></ui>",
+        "Test.ui:2:", "\"QKnob\"");
+    row("unknown layout", form("<layout class=\"QSpiralLayout\" name=\"layout\">\n"
+                               "<item><widget class=\"QLabel\" name=\"a\"/></item></layout>"),
+        "Test.ui:4:", "\"QSpiralLayout\"");
+    row("unknown action", form("<widget class=\"QCheckBox\" name=\"box\">\n"
+                               + stringProperty("action", "requestNothing") + "</widget>"),
+        "Test.ui:6:", "\"requestNothing\"");
+    row("unknown action, part of another",
+        form("<widget class=\"QCheckBox\" name=\"first\">\n"
+             + stringProperty("action", "requestNewOutputBin")
+             + "</widget><widget class=\"QCheckBox\" name=\"box\">\n" + stringProperty("action", "request")
+             + "</widget>"),
+        "Test.ui:10:", "\"request\"");
+    row("unknown action, named like a key",
+        form("<widget class=\"QCheckBox\" name=\"first\">\n" + stringProperty("bindValue", "density")
+             + "</widget><widget class=\"QCheckBox\" name=\"box\">\n" + stringProperty("action", "density")
+             + "</widget>"),
+        "Test.ui:10:", "\"density\"");
+    row("action of a label", form("<widget class=\"QLabel\" name=\"label\">\n"
+                                  + stringProperty("action", "requestNewOutputBin") + "</widget>"),
+        "Test.ui:6:", "\"label\"");
+    row("value of a pop-up", form("<widget class=\"QComboBox\" name=\"popUp\">\n"
+                                  + stringProperty("bindValue", "density") + "</widget>"),
+        "Test.ui:6:", "\"density\"");
+}
+
+void InterfaceProblemsTest::aFileThatCannotBeUsedLoadsNoView()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, where);
+    QFETCH(QString, what);
+    const LoadedInterface loaded = load(text);
+    QVERIFY(!loaded.view);
+    QCOMPARE(loaded.problems.count(), 1);
+    const QString &problem = loaded.problems.first();
+    QVERIFY2(problem.startsWith(m_file + u':'), qPrintable(problem));
+    QVERIFY2(problem.contains(where), qPrintable(problem));
+    QVERIFY2(problem.contains(what), qPrintable(problem));
+    // The file's name alone explains nothing.
+    QVERIFY2(problem.size() > m_file.size() + 5, qPrintable(problem));
+}
+
+void InterfaceProblemsTest::aMissingFileIsNamed()
+{
+    const QString missing = m_folder->filePath(QStringLiteral("Nowhere.ui"));
+    const LoadedInterface loaded = loadInterface(missing, m_owner);
+    QVERIFY(!loaded.view);
+    QCOMPARE(loaded.problems.count(), 1);
+    QVERIFY(loaded.problems.first().contains(missing));
+}
+
+void InterfaceProblemsTest::anEntityBombIsRefusedQuickly()
+{
+    QByteArray bomb = "<?xml version=\"1.0\"?>\n<!DOCTYPE ui [\n<!ENTITY a0 \"laugh\">\n";
+    for (int i = 1; i < 10; ++i) {
+        const QByteArray inner = "&a" + QByteArray::number(i - 1) + ";";
+        bomb += "<!ENTITY a" + QByteArray::number(i) + " \"" + inner.repeated(10) + "\">\n";
+    }
+    bomb += "]>\n<ui version=\"4.0\"><widget class=\"QLabel\" name=\"a\"><property name=\"text\">"
+            "<string>&a9;</string></property></widget></ui>";
+    QElapsedTimer timer;
+    timer.start();
+    const LoadedInterface loaded = load(bomb);
+    QVERIFY(!loaded.view);
+    QCOMPARE(loaded.problems.count(), 1);
+    // Expanded, it would be five gigabytes; a refusal takes milliseconds.
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void InterfaceProblemsTest::anOutletOfAnotherClassIsRefused()
+{
+    QPointer<QSlider> slider;
+    m_owner.outlet(QStringLiteral("density"), slider);
+    const LoadedInterface loaded = load(form("<widget class=\"QCheckBox\" name=\"density\"/>"));
+    QVERIFY(!loaded.view);
+    QVERIFY(!slider);
+    const QString problem = loaded.problems.value(0);
+    for (const char *part : {":4:", "\"density\"", "QCheckBox", "QSlider"})
+        QVERIFY2(problem.contains(QLatin1StringView(part)), qPrintable(problem));
+}
+
+void InterfaceProblemsTest::nothingIsConnectedWhenAFileIsRefused()
+{
+    QPointer<QCheckBox> box;
+    QPointer<BindingDictionary> dictionary;
+    m_owner.outlet(QStringLiteral("box"), box);
+    m_owner.bindingDictionary(dictionary);
+    const LoadedInterface loaded = load(form("<widget class=\"QCheckBox\" name=\"box\">"
+                                             + stringProperty("action", "nobody") + "</widget>"));
+    QVERIFY(!loaded.view);
+    QVERIFY(!box);
+    QVERIFY(!dictionary);
+}
+
+void InterfaceProblemsTest::everyProblemIsToldAtOnce()
+{
+    const LoadedInterface loaded =
+        load(form("<widget class=\"QCheckBox\" name=\"a\">" + stringProperty("action", "nobody")
+                  + "</widget><widget class=\"QComboBox\" name=\"b\">"
+                  + stringProperty("bindValue", "density") + "</widget>"));
+    QCOMPARE(loaded.problems.count(), 2);
+    const LoadedInterface classes = load(form("<widget class=\"QKnob\" name=\"a\"/>"
+                                              "<widget class=\"QDial2\" name=\"b\"/>"));
+    QCOMPARE(classes.problems.count(), 2);
+}
+
+void InterfaceProblemsTest::problemsAreLogged()
+{
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("Test\\.ui:4:.*\"QKnob\"")));
+    load(form("<widget class=\"QKnob\" name=\"a\"/>"));
+}
+
+void InterfaceProblemsTest::problemsAreHandedOutOnce()
+{
+    const QStringList first = load(form("<widget class=\"QKnob\" name=\"a\"/>")).problems;
+    QVERIFY(load(form("<widget class=\"QLabel\" name=\"a\"/>")).view);
+    const QStringList second = load("<html/>").problems;
+    QVERIFY(!first.isEmpty() && !second.isEmpty());
+    QCOMPARE(takeInterfaceProblems(), first + second);
+    QCOMPARE(takeInterfaceProblems(), QStringList());
+}
+
+QTEST_MAIN(InterfaceProblemsTest)
+#include "interface_problems_test.moc"

@@ -1,0 +1,233 @@
+#include <QtTest>
+
+#include <QComboBox>
+
+#include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/PopUpButton.h"
+
+using namespace corvana;
+
+class PopUpButtonTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void nothingIsSelectedAfterItWasFilled();
+    void addingKeepsTheSelection();
+    void aTitleThatIsThereAlreadyReplacesItsItem();
+    void replacingTheSelectedItemSelectsNothing();
+    void removingTheSelectedItemSelectsNothing_data();
+    void removingTheSelectedItemSelectsNothing();
+    void removingAnotherItemKeepsTheSelectedOne();
+    void removingWhatDoesNotExistIsIgnored();
+    void removingAllSelectsNothing();
+    void titlesAreFoundExactly_data();
+    void titlesAreFoundExactly();
+    void representedObjectsAreFoundExactly_data();
+    void representedObjectsAreFoundExactly();
+    void theFirstItemWithTheObjectCounts();
+    void anItemWithoutARepresentedObjectHasNone();
+    void selectingWhatDoesNotExistSelectsNothing();
+    void anImageDoesNotChangeTheItem();
+    void nothingHereFiresAnAction();
+
+private:
+    QStringList titles() const;
+
+    std::unique_ptr<QComboBox> m_popUp;
+};
+
+void PopUpButtonTest::init()
+{
+    m_popUp = std::make_unique<QComboBox>();
+    for (const char *title : {"Plain", "Thick", "Envelope"}) {
+        popup::addItemWithTitle(m_popUp.get(), QString::fromLatin1(title));
+        popup::setRepresentedObject(m_popUp.get(), m_popUp->count() - 1,
+                                    QString::fromLatin1(title).toUpper());
+    }
+}
+
+QStringList PopUpButtonTest::titles() const
+{
+    QStringList result;
+    for (int i = 0; i < m_popUp->count(); ++i)
+        result += m_popUp->itemText(i);
+    return result;
+}
+
+void PopUpButtonTest::nothingIsSelectedAfterItWasFilled()
+{
+    QCOMPARE(m_popUp->count(), 3);
+    QCOMPARE(m_popUp->currentIndex(), -1);
+    QVERIFY(m_popUp->currentText().isEmpty());
+}
+
+void PopUpButtonTest::addingKeepsTheSelection()
+{
+    popup::selectItemAt(m_popUp.get(), 1);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Label"));
+    QCOMPARE(m_popUp->currentText(), QStringLiteral("Thick"));
+}
+
+void PopUpButtonTest::aTitleThatIsThereAlreadyReplacesItsItem()
+{
+    popup::selectItemAt(m_popUp.get(), 2);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    QCOMPARE(titles(), (QStringList{QStringLiteral("Thick"), QStringLiteral("Envelope"),
+                                    QStringLiteral("Plain")}));
+    QVERIFY(!popup::representedObject(m_popUp.get(), 2).isValid()); // a new item
+    QCOMPARE(m_popUp->currentText(), QStringLiteral("Envelope"));
+}
+
+void PopUpButtonTest::replacingTheSelectedItemSelectsNothing()
+{
+    popup::selectItemAt(m_popUp.get(), 0);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    QCOMPARE(m_popUp->currentIndex(), -1);
+}
+
+void PopUpButtonTest::removingTheSelectedItemSelectsNothing_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("first") << 0;
+    QTest::newRow("middle") << 1;
+    QTest::newRow("last") << 2;
+}
+
+void PopUpButtonTest::removingTheSelectedItemSelectsNothing()
+{
+    QFETCH(int, index);
+    popup::selectItemAt(m_popUp.get(), index);
+    popup::removeItemAt(m_popUp.get(), index);
+    QCOMPARE(m_popUp->count(), 2);
+    QCOMPARE(m_popUp->currentIndex(), -1);
+}
+
+void PopUpButtonTest::removingAnotherItemKeepsTheSelectedOne()
+{
+    popup::selectItemAt(m_popUp.get(), 1);
+    popup::removeItemAt(m_popUp.get(), 0);
+    QCOMPARE(m_popUp->currentText(), QStringLiteral("Thick"));
+    popup::removeItemAt(m_popUp.get(), 1);
+    QCOMPARE(m_popUp->currentText(), QStringLiteral("Thick"));
+}
+
+void PopUpButtonTest::removingWhatDoesNotExistIsIgnored()
+{
+    popup::selectItemAt(m_popUp.get(), 1);
+    for (const int index : {-1, 3, 100})
+        popup::removeItemAt(m_popUp.get(), index);
+    QCOMPARE(m_popUp->count(), 3);
+    QCOMPARE(m_popUp->currentIndex(), 1);
+    QComboBox empty;
+    popup::removeItemAt(&empty, -1); // where nothing is selected
+    QCOMPARE(empty.count(), 0);
+}
+
+void PopUpButtonTest::removingAllSelectsNothing()
+{
+    popup::selectItemAt(m_popUp.get(), 1);
+    popup::removeAllItems(m_popUp.get());
+    QCOMPARE(m_popUp->count(), 0);
+    QCOMPARE(m_popUp->currentIndex(), -1);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    QCOMPARE(m_popUp->currentIndex(), -1);
+}
+
+void PopUpButtonTest::titlesAreFoundExactly_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("index");
+    QTest::newRow("exact") << QStringLiteral("Thick") << 1;
+    QTest::newRow("other case") << QStringLiteral("thick") << -1;
+    QTest::newRow("prefix") << QStringLiteral("Thi") << -1;
+    QTest::newRow("wildcard") << QStringLiteral("T*") << -1;
+    QTest::newRow("represented object") << QStringLiteral("THICK") << -1;
+    QTest::newRow("empty") << QStringLiteral("") << -1;
+    QTest::newRow("null") << QString() << -1;
+}
+
+void PopUpButtonTest::titlesAreFoundExactly()
+{
+    QFETCH(QString, title);
+    QFETCH(int, index);
+    QCOMPARE(popup::indexOfItemWithTitle(m_popUp.get(), title), index);
+}
+
+void PopUpButtonTest::representedObjectsAreFoundExactly_data()
+{
+    QTest::addColumn<QVariant>("object");
+    QTest::addColumn<int>("index");
+    QTest::newRow("exact") << QVariant(QStringLiteral("THICK")) << 1;
+    QTest::newRow("other case") << QVariant(QStringLiteral("Thick")) << -1;
+    QTest::newRow("prefix") << QVariant(QStringLiteral("THI")) << -1;
+    QTest::newRow("of another type") << QVariant(12) << -1;
+    QTest::newRow("text of a number") << QVariant(QStringLiteral("12")) << 3;
+    QTest::newRow("empty text") << QVariant(QStringLiteral("")) << -1;
+    QTest::newRow("nothing") << QVariant() << -1;
+}
+
+void PopUpButtonTest::representedObjectsAreFoundExactly()
+{
+    QFETCH(QVariant, object);
+    QFETCH(int, index);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Twelve"));
+    popup::setRepresentedObject(m_popUp.get(), 3, QStringLiteral("12"));
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Carries nothing"));
+    QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), object), index);
+}
+
+void PopUpButtonTest::theFirstItemWithTheObjectCounts()
+{
+    popup::setRepresentedObject(m_popUp.get(), 2, QStringLiteral("PLAIN"));
+    QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), QStringLiteral("PLAIN")), 0);
+}
+
+void PopUpButtonTest::anItemWithoutARepresentedObjectHasNone()
+{
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Label"));
+    QVERIFY(!popup::representedObject(m_popUp.get(), 3).isValid());
+    QVERIFY(!popup::representedObject(m_popUp.get(), 4).isValid());
+    QVERIFY(!popup::representedObject(m_popUp.get(), -1).isValid());
+}
+
+void PopUpButtonTest::selectingWhatDoesNotExistSelectsNothing()
+{
+    for (const int index : {-1, 3, -7}) {
+        popup::selectItemAt(m_popUp.get(), 1);
+        popup::selectItemAt(m_popUp.get(), index);
+        QCOMPARE(m_popUp->currentIndex(), -1);
+    }
+}
+
+void PopUpButtonTest::anImageDoesNotChangeTheItem()
+{
+    QPixmap picture(8, 8);
+    picture.fill(Qt::black);
+    popup::setItemImage(m_popUp.get(), 1, QIcon(picture));
+    QVERIFY(!m_popUp->itemIcon(1).isNull());
+    QVERIFY(m_popUp->itemIcon(0).isNull());
+    QCOMPARE(m_popUp->itemText(1), QStringLiteral("Thick"));
+    QCOMPARE(popup::representedObject(m_popUp.get(), 1), QVariant(QStringLiteral("THICK")));
+    QCOMPARE(m_popUp->currentIndex(), -1);
+}
+
+void PopUpButtonTest::nothingHereFiresAnAction()
+{
+    int fired = 0;
+    connectControlAction(m_popUp.get(), [&](QWidget *) { ++fired; });
+    popup::selectItemAt(m_popUp.get(), 0);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    popup::selectItemAt(m_popUp.get(), 1);
+    popup::removeItemAt(m_popUp.get(), 0);
+    popup::removeItemAt(m_popUp.get(), 0);
+    popup::setRepresentedObject(m_popUp.get(), 0, 1);
+    popup::selectItemAt(m_popUp.get(), 0);
+    popup::removeAllItems(m_popUp.get());
+    QCoreApplication::processEvents();
+    QCOMPARE(fired, 0);
+}
+
+QTEST_MAIN(PopUpButtonTest)
+#include "pop_up_button_test.moc"
