@@ -231,8 +231,8 @@ TABLE
     expect_said '1 to 9999'
     run --glitter
     expect_said glitter
-    run one two
-    expect_said 'one two'
+    run - -
+    expect_said 'standard input'
     expect_equal "$(ls -A "$folder")" ''
 }
 
