@@ -50,9 +50,7 @@ void RadioMatrix::removeRow(int row)
         setFocusProxy(m_cells.empty() ? nullptr : m_cells.front());
     // The row may be removed by what its own button just set off, so the button itself goes later.
     cell->disconnect(this);
-    cell->setAutoExclusive(false);
     cell->hide();
-    m_layout->removeWidget(cell);
     cell->deleteLater();
 }
 
