@@ -37,8 +37,8 @@ void QXLaserColorSettingPDE::restoreEffectValues()
         setEffectDefaults();
     const std::optional<QVariantList> values = usableEffectSet(stored);
     for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
-        const QVariant value = values ? values->at(static_cast<qsizetype>(i))
-                                      : QVariant(QString::number(0));
+        const QVariant value =
+            values ? values->at(static_cast<qsizetype>(i)) : QVariant(QString::number(0));
         m_outputBin.insert(kEffectKeywords[i], value);
         setEffectContent(kEffectKeywords[i], value);
     }

@@ -23,10 +23,12 @@ QString supportedKeysEntry()
 } // namespace
 
 // One row an option: the one table behind determineUI(), determineLabel() and determineKey().
-struct QXLaserColorSettingPDE::Roster {
+struct QXLaserColorSettingPDE::Roster
+{
     using Lookup = QWidget *(*)(const QXLaserColorSettingPDE &);
 
-    struct Row {
+    struct Row
+    {
         QLatin1StringView keyword;
         Lookup control;
         Lookup label;
@@ -39,8 +41,10 @@ struct QXLaserColorSettingPDE::Roster {
          [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.colorMatchingMatrix; },
          [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.colorMatchingLabel; }},
         {kQXEnhanceBlkPrt,
-         [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.enhancedBlackCheckBox; }, none},
-        {kQXGray, [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.grayCheckBox; }, none},
+         [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.enhancedBlackCheckBox; },
+         none},
+        {kQXGray, [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.grayCheckBox; },
+         none},
     };
 
     static const Row *rowOf(const QString &keyword)
@@ -69,8 +73,9 @@ bool QXLaserColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCal
     ValueTransformer::setValueTransformer(std::make_shared<ColorTransformer>(),
                                           QLatin1StringView(kColorTransformerName));
     NotificationCenter &center = NotificationCenter::defaultCenter();
-    center.addObserver(this, kLaserPrintSettingNotification, pdePluginCallbackObject.get(),
-                       [this](const Notification &notification) { printSettingsNotified(notification); });
+    center.addObserver(
+        this, kLaserPrintSettingNotification, pdePluginCallbackObject.get(),
+        [this](const Notification &notification) { printSettingsNotified(notification); });
     // The own observer reads the colour mode from the print settings.
     center.post(kLaserPrintSettingNotification, pdePluginCallbackObject.get());
     return true;
@@ -106,7 +111,7 @@ bool QXLaserColorSettingPDE::shouldHide()
     return QXPrintQualityPDE::shouldHide();
 }
 
-void QXLaserColorSettingPDE::setDefaults() { }
+void QXLaserColorSettingPDE::setDefaults() {}
 
 void QXLaserColorSettingPDE::initializePopup()
 {

@@ -4,7 +4,8 @@
 
 namespace corvana {
 
-// Keywords and choices of the PPD that the base panel knows by name; each panel's own stand with it.
+// Keywords and choices of the PPD that the base panel knows by name; each panel's own stand with
+// it.
 
 inline constexpr QLatin1StringView kQXMediaType{"QXMediaType"};
 inline constexpr QLatin1StringView kQXBiDir{"QXBiDir"};
@@ -27,7 +28,8 @@ inline constexpr QLatin1StringView kHagakiUra{"HagakiUra"};
 
 /// Between the panels: posted whenever the Print Setting panel evaluates the colour mode, with the
 /// host callback as its sender and a boolean under kQXMonoColor.
-inline constexpr QLatin1StringView kLaserPrintSettingNotification{"QXLaserPrintSettingNotification"};
+inline constexpr QLatin1StringView kLaserPrintSettingNotification{
+    "QXLaserPrintSettingNotification"};
 
 /// List of a panel's option keywords in the bundle's information dictionary.
 inline constexpr QLatin1StringView kPPDKeysSupported{"PMPPDKeysSupported"};

@@ -164,7 +164,8 @@ void QXPrintQualityPDE::fillPopUp(QComboBox *popUp, ppd_option_t *option)
         const QString choice = ppdKeyword(option->choices[i].choice);
         const std::optional<QString> text = ppdText(option->choices[i].text);
         if (!text) {
-            qCWarning(lcBinding) << option->keyword << choice << "is left out: its text is not UTF-8";
+            qCWarning(lcBinding) << option->keyword << choice
+                                 << "is left out: its text is not UTF-8";
             continue;
         }
         if (text->startsWith(kNeverOfferedPrefix) || choice == kPlainDuplex)
@@ -286,13 +287,13 @@ void QXPrintQualityPDE::getUIValues()
         const std::optional<QString> choice = chosenChoice(control, keyword);
         if (!choice)
             continue;
-        const bool plainDuplex = qobject_cast<QComboBox *>(control) && hasMode(kModePlainDuplex)
-            && keyword == kQXMediaType;
+        const bool plainDuplex = qobject_cast<QComboBox *>(control) && hasMode(kModePlainDuplex) &&
+                                 keyword == kQXMediaType;
         setAndMarkValue_forKey(plainDuplex ? kPlainDuplex : *choice, keyword);
         // A box that cannot be ticked counts as off, whatever it shows; slow drying and fax keep
         // what was chosen.
-        if (qobject_cast<QCheckBox *>(control) && !isControlEnabled(control)
-            && keyword != kQXSlowDrying && !hasMode(kModeFaxOutput))
+        if (qobject_cast<QCheckBox *>(control) && !isControlEnabled(control) &&
+            keyword != kQXSlowDrying && !hasMode(kModeFaxOutput))
             setAndMarkValue_forKey(stateChoice(keyword, false), keyword);
     }
 }
@@ -307,7 +308,7 @@ void QXPrintQualityPDE::PPDOptionKeyValueDidChange_ppdChoice(const QString &keyw
         updateUIforKey(keyword);
 }
 
-void QXPrintQualityPDE::checkConstraints() { }
+void QXPrintQualityPDE::checkConstraints() {}
 
 void QXPrintQualityPDE::checkUIConstraints()
 {
@@ -344,8 +345,8 @@ void QXPrintQualityPDE::checkColorSync()
         return;
     QVariant matching;
     const bool byApplication =
-        PMPrintSettingsGetValue(settings, kColorMatchingMode, &matching) == kPMNoError
-        && matching == QVariant(QString(kApplicationColorMatching));
+        PMPrintSettingsGetValue(settings, kColorMatchingMode, &matching) == kPMNoError &&
+        matching == QVariant(QString(kApplicationColorMatching));
     setMode(kModeColorSync, !byApplication);
 }
 

@@ -42,8 +42,8 @@ void QXPrintQualityPDE::restoreOptionState()
 {
     const QString key = optionName();
     QVariant stored;
-    const bool found = PMPrintSettingsGetValue(printSettings(), kPrintSettingsPrefix + key, &stored)
-        == kPMNoError;
+    const bool found =
+        PMPrintSettingsGetValue(printSettings(), kPrintSettingsPrefix + key, &stored) == kPMNoError;
     if (!effectContent)
         return;
     const bool current = booleanValue(effectContent->value(key));
@@ -61,12 +61,12 @@ void QXPrintQualityPDE::saveOptionState()
     PMPrintSettingsSetValue(printSettings(), kPrintSettingsPrefix + key, disclosed, false);
 }
 
-void QXPrintQualityPDE::toggleShowOption(QWidget *) { }
+void QXPrintQualityPDE::toggleShowOption(QWidget *) {}
 
 void QXPrintQualityPDE::setViewFrameSize(double width, double height)
 {
-    if (!pdePluginCallbackObject
-        || !pdePluginCallbackObject->respondsTo(PDECallbackOperation::panelViewDidResize))
+    if (!pdePluginCallbackObject ||
+        !pdePluginCallbackObject->respondsTo(PDECallbackOperation::panelViewDidResize))
         return;
     ViewFrame frame = viewFrame(m_panelView);
     frame.width = width;
@@ -130,9 +130,9 @@ bool QXPrintQualityPDE::registerHelp()
     if (!pluginBundle || pluginBundle->path().isEmpty())
         return false;
     // The help books of a bundle lie beside the folder that it is installed in.
-    const QString book = QDir::cleanPath(QStringLiteral("%1/../../Help/%2.%3")
-                                             .arg(pluginBundle->path(), thePDEName(),
-                                                  QStringLiteral("Help").toLower()));
+    const QString book = QDir::cleanPath(
+        QStringLiteral("%1/../../Help/%2.%3")
+            .arg(pluginBundle->path(), thePDEName(), QStringLiteral("Help").toLower()));
     if (!QFileInfo::exists(book))
         return false;
     return HelpManager::sharedHelpManager().registerBooksInBundle(*pluginBundle, book);

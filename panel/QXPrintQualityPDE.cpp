@@ -42,8 +42,8 @@ bool QXPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback
     paperName = QString();
     popupInited = false;
     m_imageModeFlag = 0;
-    if (!callback
-        || !callback->respondsTo(PDECallbackOperation::willChangePPDOptionKeyValue_ppdChoice)) {
+    if (!callback ||
+        !callback->respondsTo(PDECallbackOperation::willChangePPDOptionKeyValue_ppdChoice)) {
         qCWarning(lcPanel) << "the host cannot be asked before a choice changes: no panel";
         pdePluginCallbackObject.reset();
         pluginBundle.reset();
@@ -72,11 +72,12 @@ QWidget *QXPrintQualityPDE::panelView()
         const QString file = pluginBundle->pathForResource(thePDEName(), QStringLiteral("ui"));
         InterfaceConnections connections;
         connectInterface(connections);
-        m_panelView = loadInterface(file.isNull() ? pluginBundle->path() + QStringLiteral("/interface/")
-                                            + thePDEName() + QStringLiteral(".ui")
-                                                  : file,
-                                    connections)
-                          .view.release();
+        m_panelView =
+            loadInterface(file.isNull() ? pluginBundle->path() + QStringLiteral("/interface/") +
+                                              thePDEName() + QStringLiteral(".ui")
+                                        : file,
+                          connections)
+                .view.release();
     }
     return m_panelView;
 }
@@ -189,21 +190,22 @@ void QXPrintQualityPDE::showUnsupportedPaperAlert()
     pdePluginCallbackObject->alertPresenter()->runModal(alert, m_panelView);
 }
 
-void QXPrintQualityPDE::setDefaults() { }
+void QXPrintQualityPDE::setDefaults() {}
 
-void QXPrintQualityPDE::chechModelName() { }
+void QXPrintQualityPDE::chechModelName() {}
 
-void QXPrintQualityPDE::changeResolutionLetterB() { }
+void QXPrintQualityPDE::changeResolutionLetterB() {}
 
 void QXPrintQualityPDE::setMode(ImageMode mode, bool on)
 {
-    m_imageModeFlag = static_cast<std::int16_t>(on ? m_imageModeFlag | mode : m_imageModeFlag & ~mode);
+    m_imageModeFlag =
+        static_cast<std::int16_t>(on ? m_imageModeFlag | mode : m_imageModeFlag & ~mode);
 }
 
 PMPrintSettings QXPrintQualityPDE::printSettings() const
 {
-    if (!pdePluginCallbackObject
-        || !pdePluginCallbackObject->respondsTo(PDECallbackOperation::printSettings))
+    if (!pdePluginCallbackObject ||
+        !pdePluginCallbackObject->respondsTo(PDECallbackOperation::printSettings))
         return nullptr;
     return pdePluginCallbackObject->printSettings();
 }

@@ -58,7 +58,8 @@ JobValueClaim accepted(const JobOption &standsFor)
 
 JobValueClaim refused(ValueBounds bounds, const QString &form)
 {
-    return {JobValueClaim::Outcome::Refused, {},
+    return {JobValueClaim::Outcome::Refused,
+            {},
             QStringLiteral("%1 to %2").arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
 }
 
@@ -80,8 +81,7 @@ QList<JobOption> sleepTimeOptions(const PrintSettings &settings, ppd_file_t *ppd
 {
     if (!manualSleepTime(settings) || !ppdCustomParameter(ppd, kQXSleepTime, kTimeParameter))
         return {};
-    const qint64 minutes =
-        sleepTimeBounds(ppd).clamped(integerValue(settings.value(kSleepEntry)));
+    const qint64 minutes = sleepTimeBounds(ppd).clamped(integerValue(settings.value(kSleepEntry)));
     return {{kQXSleepTime, customValue(minutes)}};
 }
 
@@ -161,8 +161,8 @@ QVariantList effectsInForce(const PrintSettings &settings)
 // monochrome printing. The panel's summary names just these.
 size_t effectCountInForce(const PrintSettings &settings, ppd_file_t *ppd)
 {
-    if (!ppdFindAttr(ppd, kSupportsCustomColorMatching, nullptr)
-        || settings.value(kColorMatchingMode).toString() == kApplicationColorMatching)
+    if (!ppdFindAttr(ppd, kSupportsCustomColorMatching, nullptr) ||
+        settings.value(kColorMatchingMode).toString() == kApplicationColorMatching)
         return 0;
     return settings.value(kQXMonoColor).toString() == kMono ? kMonochromeEffectCount
                                                             : kEffectKeywords.size();
@@ -179,8 +179,8 @@ QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
             continue;
         const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
         const ppd_choice_t *choice = i < inForce ? choiceOfNumber(option, value) : nullptr;
-        options += JobOption{kEffectKeywords[i],
-                             ppdKeyword(choice ? choice->choice : option->defchoice)};
+        options +=
+            JobOption{kEffectKeywords[i], ppdKeyword(choice ? choice->choice : option->defchoice)};
     }
     return options;
 }
@@ -192,9 +192,9 @@ JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_
         return notMine();
     const ValueBounds bounds{kEffectMinimum, kEffectMaximum};
     const std::optional<qint64> value = numberIn(offered.value, {}, true);
-    const ppd_choice_t *choice =
-        value && bounds.contains(*value) ? choiceOfNumber(ppdOption(ppd, offered.name), *value)
-                                         : nullptr;
+    const ppd_choice_t *choice = value && bounds.contains(*value)
+                                     ? choiceOfNumber(ppdOption(ppd, offered.name), *value)
+                                     : nullptr;
     if (!choice)
         return refused(bounds, QStringLiteral("%1"));
     QVariantList values = effectsInForce(settings);
@@ -207,8 +207,8 @@ JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_
 
 QList<JobOption> QXJobValues::jobOptions(const PrintSettings &settings, ppd_file_t *ppd) const
 {
-    return sleepTimeOptions(settings, ppd) + densityOptions(settings, ppd)
-        + effectOptions(settings, ppd);
+    return sleepTimeOptions(settings, ppd) + densityOptions(settings, ppd) +
+           effectOptions(settings, ppd);
 }
 
 JobValueClaim QXJobValues::takeJobOption(const JobOption &option, PrintSettings &settings,

@@ -16,15 +16,15 @@ constexpr int kFirstModelForHeavierPaper = 3;
 
 void QXLaserPrintSettingPDE::checkLang()
 {
-    const QStringList preferred = pluginBundle
-        ? Bundle::preferredLocalizations(pluginBundle->localizations())
-        : QStringList();
+    const QStringList preferred =
+        pluginBundle ? Bundle::preferredLocalizations(pluginBundle->localizations())
+                     : QStringList();
     const QString language = preferred.value(0);
     const bool heavierPaper = ppd && ppd->model_number >= kFirstModelForHeavierPaper;
     setMode(kModeJapanese, language == kJapaneseLocalization);
     setMode(kModeThinPaperDefault,
-            language == kJapaneseLocalization
-                || (language == kSimplifiedChineseLocalization && !heavierPaper));
+            language == kJapaneseLocalization ||
+                (language == kSimplifiedChineseLocalization && !heavierPaper));
 }
 
 QString QXLaserPrintSettingPDE::inhibitedMediaType()
@@ -71,7 +71,7 @@ bool QXLaserPrintSettingPDE::isSimplexMode()
     return !duplex || ppdIsMarked(ppd, duplex->keyword, duplex->defchoice);
 }
 
-void QXLaserPrintSettingPDE::checkStateWithPaperFeed() { }
+void QXLaserPrintSettingPDE::checkStateWithPaperFeed() {}
 
 void QXLaserPrintSettingPDE::requestNewOutputBin(QWidget *control)
 {

@@ -9,7 +9,8 @@ namespace corvana {
 namespace {
 
 // What the single improve-output option stands for on printers with two separate ones.
-struct ImproveOutputForm {
+struct ImproveOutputForm
+{
     QLatin1StringView single;
     QLatin1StringView fixIntensity;
     QLatin1StringView lessPaperCurl;

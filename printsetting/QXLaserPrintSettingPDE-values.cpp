@@ -37,8 +37,8 @@ void QXLaserPrintSettingPDE::restoreSleepTimeValue()
         return;
     const ValueBounds bounds = sleepBounds();
     QVariant minutes;
-    if (PMPrintSettingsGetValue(settings, kSleepEntry, &minutes) != kPMNoError
-        || !minutes.isValid() || minutes == QVariant(QString(kDefault)))
+    if (PMPrintSettingsGetValue(settings, kSleepEntry, &minutes) != kPMNoError ||
+        !minutes.isValid() || minutes == QVariant(QString(kDefault)))
         minutes = QString::number(kSleepTimeDefault);
     else if (!bounds.contains(integerValue(minutes)))
         minutes = QString::number(bounds.clamped(integerValue(minutes)));
@@ -68,8 +68,8 @@ void QXLaserPrintSettingPDE::restoreDensityValue()
         return;
     const QString key = QXLaserPrintSetting::densityParamKey();
     QVariant stored;
-    const bool found = PMPrintSettingsGetValue(settings, kDensityEntry, &stored) == kPMNoError
-        && stored.isValid();
+    const bool found =
+        PMPrintSettingsGetValue(settings, kDensityEntry, &stored) == kPMNoError && stored.isValid();
     // A job without a density prints as the printer does, whatever the declared bounds are.
     const qint64 density = found ? densityRange().clamped(integerValue(stored)) : 0;
     m_outputBin.insert(key, QString::number(density));

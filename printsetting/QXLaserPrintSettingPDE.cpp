@@ -14,10 +14,12 @@ namespace corvana {
 Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting", QtWarningMsg)
 
 // One row an option: the one table behind determineUI(), determineLabel() and determineKey().
-struct QXLaserPrintSettingPDE::Roster {
+struct QXLaserPrintSettingPDE::Roster
+{
     using Lookup = QWidget *(*)(const QXLaserPrintSettingPDE &);
 
-    struct Row {
+    struct Row
+    {
         QLatin1StringView keyword; // empty: the resolution, whose keyword depends on the PPD
         Lookup control;
         Lookup label;
@@ -29,13 +31,17 @@ struct QXLaserPrintSettingPDE::Roster {
     };
 
     static constexpr Row rows[] = {
-        {QLatin1StringView(), [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionPopup; },
+        {QLatin1StringView(),
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionPopup; },
          [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionLabel; }},
-        {kQXMediaType, [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypePopup; },
+        {kQXMediaType,
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypePopup; },
          [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypeLabel; }},
-        {kQXMonoColor, [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorPopup; },
+        {kQXMonoColor,
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorPopup; },
          [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorLabel; }},
-        {kQXInputSlot, [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedPopup; },
+        {kQXInputSlot,
+         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedPopup; },
          [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedLabel; }},
     };
 

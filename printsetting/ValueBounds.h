@@ -7,7 +7,8 @@
 namespace corvana {
 
 /// The range of a whole number, both ends included.
-struct ValueBounds {
+struct ValueBounds
+{
     qint64 minimum = 0;
     qint64 maximum = 0;
 

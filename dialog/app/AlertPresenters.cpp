@@ -74,8 +74,8 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
             QCoreApplication::translate("AlertPresenter", "Do not show this message again"));
         box.setCheckBox(suppression);
     }
-    const QPointer<QWidget> formerParent = alert.accessoryView ? alert.accessoryView->parentWidget()
-                                                               : nullptr;
+    const QPointer<QWidget> formerParent =
+        alert.accessoryView ? alert.accessoryView->parentWidget() : nullptr;
     if (alert.accessoryView)
         insertUnderText(box, alert.accessoryView);
     box.exec();

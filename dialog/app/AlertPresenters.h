@@ -29,7 +29,7 @@ std::optional<AlertPolicy> alertPolicy(const QString &name);
 class TerminalAlertPresenter : public AlertPresenter
 {
 public:
-    explicit TerminalAlertPresenter(AlertPolicy policy) : m_policy(policy) { }
+    explicit TerminalAlertPresenter(AlertPolicy policy) : m_policy(policy) {}
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override;
 

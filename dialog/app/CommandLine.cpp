@@ -12,43 +12,53 @@ namespace {
 // anything but English.
 constexpr int kMostCopies = 9999;
 
-struct Options {
+struct Options
+{
     QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
-                               QStringLiteral("Print to the printer NAME."), QStringLiteral("NAME")};
-    QCommandLineOption ppd{QStringLiteral("ppd"), QStringLiteral("Print for the printer that the PPD FILE describes."),
+                               QStringLiteral("Print to the printer NAME."),
+                               QStringLiteral("NAME")};
+    QCommandLineOption ppd{QStringLiteral("ppd"),
+                           QStringLiteral("Print for the printer that the PPD FILE describes."),
                            QStringLiteral("FILE")};
-    QCommandLineOption output{QStringLiteral("output"), QStringLiteral("Write the printer-ready data to FILE."),
+    QCommandLineOption output{QStringLiteral("output"),
+                              QStringLiteral("Write the printer-ready data to FILE."),
                               QStringLiteral("FILE")};
     QCommandLineOption demo{QStringLiteral("demo"), QStringLiteral("Offer the sample printers.")};
-    QCommandLineOption listPrinters{QStringLiteral("list-printers"), QStringLiteral("List the printers and exit.")};
-    QCommandLineOption option{{QStringLiteral("o"), QStringLiteral("option")},
-                              QStringLiteral("Set an option of the printer or of the job; may be repeated."),
-                              QStringLiteral("KEY=VALUE")};
+    QCommandLineOption listPrinters{QStringLiteral("list-printers"),
+                                    QStringLiteral("List the printers and exit.")};
+    QCommandLineOption option{
+        {QStringLiteral("o"), QStringLiteral("option")},
+        QStringLiteral("Set an option of the printer or of the job; may be repeated."),
+        QStringLiteral("KEY=VALUE")};
     QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
                               QStringLiteral("Print N copies (1 to %1).").arg(kMostCopies),
                               QStringLiteral("N")};
     QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("title")},
-                             QStringLiteral("Name the job TEXT."), QStringLiteral("TEXT")};
-    QCommandLineOption noDialog{QStringLiteral("no-dialog"), QStringLiteral("Print without a window.")};
+                             QStringLiteral("Name the job TEXT."),
+                             QStringLiteral("TEXT")};
+    QCommandLineOption noDialog{QStringLiteral("no-dialog"),
+                                QStringLiteral("Print without a window.")};
     QCommandLineOption summary{QStringLiteral("summary"),
                                QStringLiteral("Write the settings of the job to standard output.")};
-    QCommandLineOption onAlert{QStringLiteral("on-alert"),
-                               QStringLiteral("Without a window: what to do when the printer's settings "
-                                              "show instructions: print, hold or refuse."),
-                               QStringLiteral("POLICY")};
-    QCommandLineOption bundleRoot{QStringLiteral("bundle-root"),
-                                  QStringLiteral("Also trust the plug-in bundles in the folder DIR."),
-                                  QStringLiteral("DIR")};
+    QCommandLineOption onAlert{
+        QStringLiteral("on-alert"),
+        QStringLiteral("Without a window: what to do when the printer's settings "
+                       "show instructions: print, hold or refuse."),
+        QStringLiteral("POLICY")};
+    QCommandLineOption bundleRoot{
+        QStringLiteral("bundle-root"),
+        QStringLiteral("Also trust the plug-in bundles in the folder DIR."), QStringLiteral("DIR")};
     QCommandLineOption checkDisplay{
         QStringLiteral("check-display"),
         QStringLiteral("Exit with status 0 when a window can be shown, with 1 when not.")};
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                            QStringLiteral("Show this help.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
 
     void addTo(QCommandLineParser &parser) const
     {
-        parser.addOptions({printer, ppd, output, demo, listPrinters, option, copies, title, noDialog,
-                           summary, onAlert, bundleRoot, checkDisplay, help, version});
+        parser.addOptions({printer, ppd, output, demo, listPrinters, option, copies, title,
+                           noDialog, summary, onAlert, bundleRoot, checkDisplay, help, version});
     }
 };
 
@@ -66,13 +76,14 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
 {
     const Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Prints a document with the settings of its printer, in a dialog or without one."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Prints a document with the settings of its printer, in a dialog or without one."));
     options.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
-        QStringLiteral("The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several "
-                       "are one job."),
+        QStringLiteral(
+            "The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several "
+            "are one job."),
         QStringLiteral("FILE..."));
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
@@ -82,7 +93,8 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
                                           QStringLiteral("corvana-print")),
                 0};
     if (parser.isSet(options.version))
-        return {std::nullopt, QStringLiteral("corvana-print %1\n").arg(QLatin1StringView(CORVANA_VERSION)), 0};
+        return {std::nullopt,
+                QStringLiteral("corvana-print %1\n").arg(QLatin1StringView(CORVANA_VERSION)), 0};
 
     CommandLine line;
     line.printer = parser.value(options.printer);
@@ -112,8 +124,9 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     if (parser.isSet(options.onAlert)) {
         const std::optional<AlertPolicy> policy = alertPolicy(parser.value(options.onAlert));
         if (!policy) {
-            return notUnderstood(QStringLiteral("--on-alert %1: print, hold or refuse was expected.")
-                                     .arg(parser.value(options.onAlert)));
+            return notUnderstood(
+                QStringLiteral("--on-alert %1: print, hold or refuse was expected.")
+                    .arg(parser.value(options.onAlert)));
         }
         line.onAlert = *policy;
     }

@@ -10,7 +10,8 @@
 namespace corvana {
 
 /// What the user asked for on the command line.
-struct CommandLine {
+struct CommandLine
+{
     QStringList documents; ///< as given; "-" is standard input
     QString printer;
     QString ppd;
@@ -30,7 +31,8 @@ struct CommandLine {
 };
 
 /// A command line, or what to write instead of running it.
-struct ParsedCommandLine {
+struct ParsedCommandLine
+{
     std::optional<CommandLine> commandLine;
     QString text;       ///< the help, the version or the error
     int exitStatus = 0; ///< 0 for help and version, 2 for a command line that cannot be understood

@@ -30,9 +30,9 @@ std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QString
     const FoundPlugIn found = findPlugInBundle(bundleFile, bundleRoots);
     // Whether the printer wants panels is known from the PPD and what the bundle says of itself,
     // before any of its code runs.
-    const PanelDecision decision = found.bundle
-        ? decidePanels(opened->session->ppd(), *found.bundle)
-        : PanelDecision{!wanted.isNull(), QStringLiteral("there is no usable bundle")};
+    const PanelDecision decision =
+        found.bundle ? decidePanels(opened->session->ppd(), *found.bundle)
+                     : PanelDecision{!wanted.isNull(), QStringLiteral("there is no usable bundle")};
     qCInfo(lcPrinter).noquote() << printer.name
                                 << (decision.panels ? "has panels:" : "has no panels:")
                                 << decision.reason;

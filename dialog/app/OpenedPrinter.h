@@ -15,7 +15,8 @@ class PDEJobValues;
 
 /// One printer, opened: its session and its panels. Another printer, PPD or language needs another
 /// one.
-struct OpenedPrinter {
+struct OpenedPrinter
+{
     Printer printer;
     std::unique_ptr<PpdSession> session;
     /// After the session, which the panels borrow.
@@ -28,10 +29,9 @@ struct OpenedPrinter {
     QString panelProblem;
 };
 
-/// Opens a printer. Panels come from the plug-in bundle in the first of the `bundleRoots` that holds
-/// it, when the PPD wants them; without them the printer has the General page only, and the log says
-/// why.
-/// Errors: null; `error` says what is wrong with the PPD.
+/// Opens a printer. Panels come from the plug-in bundle in the first of the `bundleRoots` that
+/// holds it, when the PPD wants them; without them the printer has the General page only, and the
+/// log says why. Errors: null; `error` says what is wrong with the PPD.
 std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error);
 

@@ -33,13 +33,13 @@ void PrintDialog::chooseOutput()
 
 bool PrintDialog::confirmOverwriting(const QString &file)
 {
-    const bool asked = m_output->text() == m_chosenOutput
-        || m_output->text() == QDir::toNativeSeparators(m_request.output);
+    const bool asked = m_output->text() == m_chosenOutput ||
+                       m_output->text() == QDir::toNativeSeparators(m_request.output);
     if (asked || !QFileInfo::exists(file))
         return true;
     return QMessageBox::question(this, tr("Print to File"),
-                                 tr("%1 exists already. Replace it?").arg(m_output->text()))
-        == QMessageBox::Yes;
+                                 tr("%1 exists already. Replace it?").arg(m_output->text())) ==
+           QMessageBox::Yes;
 }
 
 void PrintDialog::accept()
@@ -69,7 +69,8 @@ void PrintDialog::accept()
 // Takes the pages into the job. False when they cannot be understood.
 bool PrintDialog::readPageRanges()
 {
-    m_attributes.removeIf([](const JobOption &option) { return option.name == kPageRangesAttribute; });
+    m_attributes.removeIf(
+        [](const JobOption &option) { return option.name == kPageRangesAttribute; });
     const QString ranges = m_general->pageRanges();
     if (ranges.isEmpty())
         return true;

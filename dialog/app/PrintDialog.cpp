@@ -39,13 +39,12 @@ namespace {
 // The dialog's own help, in the localisation that suits the user best; null when there is none.
 QString dialogHelpPage()
 {
-    const QString folder = QCoreApplication::applicationDirPath()
-        + QStringLiteral("/../share/corvana-print/help");
+    const QString folder =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/corvana-print/help");
     const QStringList localizations{QStringLiteral("English"), QStringLiteral("Japanese"),
                                     QStringLiteral("zh_CN")};
-    const QString page =
-        QStringLiteral("%1/%2/index.html")
-            .arg(folder, Bundle::preferredLocalizations(localizations).value(0));
+    const QString page = QStringLiteral("%1/%2/index.html")
+                             .arg(folder, Bundle::preferredLocalizations(localizations).value(0));
     return QFileInfo(page).isFile() ? QFileInfo(page).canonicalFilePath() : QString();
 }
 
@@ -55,7 +54,8 @@ PrintDialog::PrintDialog(PrintRequest request, QWidget *parent)
     : QDialog(parent), m_request(std::move(request))
 {
     buildWindow();
-    HelpManager::sharedHelpManager().setViewer([this](const HelpPage &page) { showHelpPage(page); });
+    HelpManager::sharedHelpManager().setViewer(
+        [this](const HelpPage &page) { showHelpPage(page); });
     openChosenPrinter();
 }
 
@@ -207,9 +207,9 @@ void PrintDialog::openChosenPrinter()
         return;
     }
     if (!m_printable)
-        m_message->showMessage(MessageBar::Kind::Problem,
-                               tr("The printer's own settings are missing: %1")
-                                   .arg(m_printer->panelProblem));
+        m_message->showMessage(
+            MessageBar::Kind::Problem,
+            tr("The printer's own settings are missing: %1").arg(m_printer->panelProblem));
     connect(m_printer->panels.get(), &PanelHost::settled, this, &PrintDialog::settled);
     // Later: a panel is in the midst of its work when it says so.
     connect(m_printer->panels.get(), &PanelHost::viewResized, this, &PrintDialog::followPanelView,
@@ -332,8 +332,9 @@ void PrintDialog::pageEntered(int page)
 // The footer comes behind the pages, whose controls are younger than it.
 void PrintDialog::orderFocus()
 {
-    for (QWidget *control : {static_cast<QWidget *>(m_helpButton), static_cast<QWidget *>(m_silenced),
-                             static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)})
+    for (QWidget *control :
+         {static_cast<QWidget *>(m_helpButton), static_cast<QWidget *>(m_silenced),
+          static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)})
         setTabOrder(previousInFocusChain(), control);
 }
 
@@ -375,8 +376,9 @@ QString PrintDialog::textOf(const OptionChoice &choice) const
     const ppd_choice_t *found = ppdChoice(option, choice.choice);
     if (!found)
         return QStringLiteral("%1=%2").arg(choice.keyword, choice.choice);
-    return tr("“%1: %2”").arg(ppdText(option->text).value_or(choice.keyword),
-                              ppdText(found->text).value_or(choice.choice));
+    return tr("“%1: %2”")
+        .arg(ppdText(option->text).value_or(choice.keyword),
+             ppdText(found->text).value_or(choice.choice));
 }
 
 void PrintDialog::showRefusal(const Refusal &refusal)
@@ -436,8 +438,8 @@ void PrintDialog::showHelpPage(const HelpPage &page)
 
 void PrintDialog::updateSilencedAlerts()
 {
-    m_silenced->setVisible(m_printer && m_printer->bundle
-                           && hasSilencedAlerts(m_printer->bundle->identifier()));
+    m_silenced->setVisible(m_printer && m_printer->bundle &&
+                           hasSilencedAlerts(m_printer->bundle->identifier()));
 }
 
 } // namespace corvana

@@ -92,8 +92,8 @@ private:
     bool m_painted = false;
     bool m_panelsUp = false;
     bool m_printable = false; // nothing that belongs to the printer is missing
-    SessionSnapshot m_shown;   // the state that the pages show
-    QString m_jobOutput;       // where the running job goes
+    SessionSnapshot m_shown;  // the state that the pages show
+    QString m_jobOutput;      // where the running job goes
 
     QComboBox *m_printers = nullptr;
     QLabel *m_document = nullptr;

@@ -12,7 +12,8 @@ namespace corvana {
 
 namespace {
 
-struct Texts {
+struct Texts
+{
     Q_DECLARE_TR_FUNCTIONS(PrintRequest)
 };
 
@@ -53,12 +54,14 @@ int indexOfPrinter(const QList<Printer> &printers, const QString &name)
 QString printerProblem(const QList<Printer> &printers, const QString &name)
 {
     if (printers.isEmpty())
-        return Texts::tr("There is no printer. Name one with --ppd FILE, or try the sample printers with "
-                  "--demo.");
+        return Texts::tr(
+            "There is no printer. Name one with --ppd FILE, or try the sample printers with "
+            "--demo.");
     QStringList names;
     for (const Printer &printer : printers)
         names += printer.name;
-    return Texts::tr("There is no printer \"%1\". Printers: %2.").arg(name, names.join(QStringLiteral(", ")));
+    return Texts::tr("There is no printer \"%1\". Printers: %2.")
+        .arg(name, names.join(QStringLiteral(", ")));
 }
 
 } // namespace
@@ -77,8 +80,8 @@ QList<Printer> offeredPrinters(const CommandLine &line)
 
 QStringList trustedBundleRoots(const CommandLine &line)
 {
-    return line.bundleRoots
-        + QStringList{besideProgram(QStringLiteral("../lib/corvana-print/plugins"))};
+    return line.bundleRoots +
+           QStringList{besideProgram(QStringLiteral("../lib/corvana-print/plugins"))};
 }
 
 PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
@@ -86,8 +89,8 @@ PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
     PrintRequest request;
     for (const QString &name : line.documents) {
         const Document document = name == QLatin1StringView("-")
-            ? readStandardInput(&request.standardInput, error)
-            : inspectDocument(name, error);
+                                      ? readStandardInput(&request.standardInput, error)
+                                      : inspectDocument(name, error);
         if (document.path.isEmpty())
             return {};
         request.documents += document;
@@ -103,8 +106,8 @@ PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
     request.bundleRoots = trustedBundleRoots(line);
     request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
     request.output = line.output.isEmpty() && !request.documents.isEmpty()
-        ? freeOutputName(request.documents.constFirst().title)
-        : line.output;
+                         ? freeOutputName(request.documents.constFirst().title)
+                         : line.output;
     request.onAlert = line.onAlert;
     request.copies = line.copies;
     request.summary = line.summary;

@@ -18,7 +18,8 @@ namespace corvana {
 struct OpenedPrinter;
 
 /// A command line that was looked into: its document inspected, its printers found.
-struct PrintRequest {
+struct PrintRequest
+{
     QList<Document> documents; ///< printed one after the other, as one job
     /// Holds what came on standard input; null without it.
     std::shared_ptr<QTemporaryFile> standardInput;
@@ -39,7 +40,8 @@ PrintRequest preparePrintRequest(const CommandLine &line, QString *error);
 /// The printers that the command line offers.
 QList<Printer> offeredPrinters(const CommandLine &line);
 
-/// Where plug-in bundles are trusted: the installation's folder and those named on the command line.
+/// Where plug-in bundles are trusted: the installation's folder and those named on the command
+/// line.
 QStringList trustedBundleRoots(const CommandLine &line);
 
 /// The job as it stands now.

@@ -27,8 +27,8 @@ bool bringAlertsBack(const QString &bundleIdentifier)
 {
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
     const std::optional<QVariantMap> domain = defaults.persistentDomainForName(bundleIdentifier);
-    return domain
-        && defaults.setPersistentDomain_forName(withoutSilencedAlerts(*domain), bundleIdentifier);
+    return domain &&
+           defaults.setPersistentDomain_forName(withoutSilencedAlerts(*domain), bundleIdentifier);
 }
 
 } // namespace corvana

@@ -47,15 +47,15 @@ int runUnattended(const PrintRequest &request)
 {
     TerminalAlertPresenter presenter(request.onAlert);
     QString error;
-    const auto printer =
-        openPrinter(request.printers.at(request.chosenPrinter), request.bundleRoots, presenter, &error);
+    const auto printer = openPrinter(request.printers.at(request.chosenPrinter),
+                                     request.bundleRoots, presenter, &error);
     if (!printer)
         return refused({error});
     printer->panels->bringUp();
     if (const QStringList problems = panelProblems(*printer); !problems.isEmpty())
         return refused(problems);
-    const OptionOutcome options = applyOptions(request.options, *printer->session,
-                                               printer->jobValues, *printer->panels);
+    const OptionOutcome options =
+        applyOptions(request.options, *printer->session, printer->jobValues, *printer->panels);
     if (!options.ok())
         return refused(options.problems);
 
@@ -64,13 +64,14 @@ int runUnattended(const PrintRequest &request)
         return refused({QCoreApplication::translate("UnattendedRun",
                                                     "The printer's settings hold the job back.")});
     if (presenter.jobMustWait()) {
-        return refused({request.onAlert == AlertPolicy::Hold
-                            ? QCoreApplication::translate(
-                                "UnattendedRun",
-                                "The job would have to wait for these instructions, and a file cannot "
-                                "wait. Follow them and print with --on-alert=print.")
-                            : QCoreApplication::translate(
-                                "UnattendedRun", "The printer's settings show instructions.")});
+        return refused(
+            {request.onAlert == AlertPolicy::Hold
+                 ? QCoreApplication::translate(
+                       "UnattendedRun",
+                       "The job would have to wait for these instructions, and a file cannot "
+                       "wait. Follow them and print with --on-alert=print.")
+                 : QCoreApplication::translate("UnattendedRun",
+                                               "The printer's settings show instructions.")});
     }
     QTextStream out(stdout);
     // Before the ticket: the panels restore and save on the way.
@@ -92,7 +93,8 @@ int runUnattended(const PrintRequest &request)
     queue.print(request.documents, ticket, printer->printer.ppdPath, request.output);
     if (!queue.wait())
         return refused({problem});
-    out << QCoreApplication::translate("UnattendedRun", "Printed to %1").arg(request.output) << "\n";
+    out << QCoreApplication::translate("UnattendedRun", "Printed to %1").arg(request.output)
+        << "\n";
     return 0;
 }
 

@@ -51,9 +51,8 @@ int runDialog(const PrintRequest &request)
     dialog.exec();
     if (dialog.printedTo().isEmpty())
         return 1;
-    QTextStream(stdout) << QCoreApplication::translate("main", "Printed to %1")
-                               .arg(dialog.printedTo())
-                        << "\n";
+    QTextStream(stdout)
+        << QCoreApplication::translate("main", "Printed to %1").arg(dialog.printedTo()) << "\n";
     return 0;
 }
 
@@ -78,9 +77,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("corvana-print"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 
-    installTranslations(application,
-                        QApplication::applicationDirPath()
-                            + QStringLiteral("/../share/corvana-print/translations"));
+    installTranslations(application, QApplication::applicationDirPath() +
+                                         QStringLiteral("/../share/corvana-print/translations"));
 
     if (line.checkDisplay)
         return hasWindows() ? 0 : 1;

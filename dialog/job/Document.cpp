@@ -14,7 +14,8 @@ namespace corvana {
 
 namespace {
 
-struct Format {
+struct Format
+{
     QLatin1StringView mimeType;
     const char *name;
 };
@@ -27,16 +28,16 @@ constexpr Format kFormats[] = {
     {QLatin1StringView("text/plain"), QT_TRANSLATE_NOOP("Document", "text")},
 };
 
-struct Texts {
+struct Texts
+{
     Q_DECLARE_TR_FUNCTIONS(Document)
 };
 
 // Programs and notes are text too; an EPS picture is PostScript.
 const Format *formatOf(const QMimeType &type)
 {
-    const auto found = std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format &f) {
-        return type.inherits(f.mimeType);
-    });
+    const auto found = std::find_if(std::begin(kFormats), std::end(kFormats),
+                                    [&](const Format &f) { return type.inherits(f.mimeType); });
     return found == std::end(kFormats) ? nullptr : found;
 }
 
@@ -73,9 +74,11 @@ Document inspectDocument(const QString &path, QString *error)
     const auto namedTypes = database.mimeTypesForFileName(info.fileName());
     const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
     if (!held) {
-        *error = Texts::tr("%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
-                    "or JPEG.")
-                     .arg(path, content.comment());
+        *error =
+            Texts::tr(
+                "%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
+                "or JPEG.")
+                .arg(path, content.comment());
         return {};
     }
     if (promised && promised != held) {

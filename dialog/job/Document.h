@@ -9,7 +9,8 @@ class QTemporaryFile;
 namespace corvana {
 
 /// A document that can be printed.
-struct Document {
+struct Document
+{
     QString path;   ///< absolute
     QString format; ///< MIME type, as the filter chain names it
     QString title;  ///< the file's name

@@ -75,9 +75,8 @@ QStringList conversionArguments(const Document &document, const QString &ppdPath
 QList<JobOption> pageOptions(const QList<JobOption> &options)
 {
     QList<JobOption> chosen = options;
-    chosen.removeIf([](const JobOption &option) {
-        return option.name != QLatin1StringView("PageSize");
-    });
+    chosen.removeIf(
+        [](const JobOption &option) { return option.name != QLatin1StringView("PageSize"); });
     return chosen;
 }
 
@@ -109,17 +108,18 @@ QString findCupsFilter(QString *error)
     if (!given.isEmpty()) {
         if (QFileInfo(given).isExecutable())
             return given;
-        *error = QCoreApplication::translate(
-                     "FileQueue", "The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.")
-                     .arg(given);
+        *error =
+            QCoreApplication::translate(
+                "FileQueue", "The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.")
+                .arg(given);
         return {};
     }
     const QString name = QStringLiteral("cupsfilter");
     QString found = QStandardPaths::findExecutable(name);
     if (found.isEmpty())
-        found = QStandardPaths::findExecutable(
-            name, {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin"),
-                   QStringLiteral("/sbin")});
+        found = QStandardPaths::findExecutable(name, {QStringLiteral("/usr/sbin"),
+                                                      QStringLiteral("/usr/local/sbin"),
+                                                      QStringLiteral("/sbin")});
     if (found.isEmpty())
         *error = QCoreApplication::translate(
             "FileQueue",
@@ -130,7 +130,8 @@ QString findCupsFilter(QString *error)
 
 FileQueue::FileQueue(QObject *parent) : QObject(parent)
 {
-    // The chain is a process group, which can be stopped as a whole, and which ends with this program.
+    // The chain is a process group, which can be stopped as a whole, and which ends with this
+    // program.
     m_process.setChildProcessModifier([] {
         ::setpgid(0, 0);
         ::prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -139,7 +140,8 @@ FileQueue::FileQueue(QObject *parent) : QObject(parent)
     connect(&m_process, &QProcess::readyReadStandardError, this, &FileQueue::readLog);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
-            finish(tr("%1 cannot be started: %2").arg(m_process.program(), m_process.errorString()));
+            finish(
+                tr("%1 cannot be started: %2").arg(m_process.program(), m_process.errorString()));
     });
 }
 
@@ -208,21 +210,21 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         QStringList parts;
         for (const Document &document : documents) {
             parts += m_parts->filePath(QString::number(parts.size()) + QStringLiteral(".pdf"));
-            m_steps.push_back({filter,
-                               conversionArguments(document, ppdPath, kPdf, {},
-                                                   pageOptions(ticket.options)),
-                               parts.constLast()});
+            m_steps.push_back(
+                {filter,
+                 conversionArguments(document, ppdPath, kPdf, {}, pageOptions(ticket.options)),
+                 parts.constLast()});
         }
         whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
-        m_steps.push_back({QStringLiteral("pdfunite"), parts << whole.path, QProcess::nullDevice()});
+        m_steps.push_back(
+            {QStringLiteral("pdfunite"), parts << whole.path, QProcess::nullDevice()});
     }
-    m_steps.push_back(
-        {filter,
-         conversionArguments(whole, ppdPath, kPrinterFormat,
-                             {QStringLiteral("-t"), ticket.title, QStringLiteral("-n"),
-                              QString::number(ticket.copies)},
-                             ticket.options),
-         m_result->fileName()});
+    m_steps.push_back({filter,
+                       conversionArguments(whole, ppdPath, kPrinterFormat,
+                                           {QStringLiteral("-t"), ticket.title,
+                                            QStringLiteral("-n"), QString::number(ticket.copies)},
+                                           ticket.options),
+                       m_result->fileName()});
     return {};
 }
 
@@ -295,8 +297,7 @@ QString FileQueue::takeResult()
 {
     ::chmod(QFile::encodeName(m_result->fileName()).constData(), usualPermissions());
     if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
-                    QFile::encodeName(m_outputPath).constData())
-        != 0)
+                    QFile::encodeName(m_outputPath).constData()) != 0)
         return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
     m_result->setAutoRemove(false);
     return {};
@@ -314,7 +315,8 @@ QString FileQueue::problemOfStep(int exitCode, QProcess::ExitStatus status)
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);
     const QString output = m_steps.front().outputFile;
     if (output != QProcess::nullDevice() && QFileInfo(output).size() == 0)
-        return tr("The document could not be converted for the printer: nothing came out. %1").arg(said);
+        return tr("The document could not be converted for the printer: nothing came out. %1")
+            .arg(said);
     return {};
 }
 

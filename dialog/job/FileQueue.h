@@ -57,7 +57,8 @@ Q_SIGNALS:
 
 private:
     // One program of the chain; its standard output goes into a file.
-    struct Step {
+    struct Step
+    {
         QString program;
         QStringList arguments;
         QString outputFile;
@@ -77,7 +78,7 @@ private:
     std::vector<Step> m_steps; // the current one first
     std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<QTemporaryFile> m_result;
-    QByteArray m_log; // of the current step
+    QByteArray m_log;     // of the current step
     QString m_outputName; // as it was given, for messages
     QString m_outputPath;
     QString m_problem;

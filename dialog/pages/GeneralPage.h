@@ -12,8 +12,9 @@ namespace corvana {
 
 class PpdSession;
 
-/// Copies, pages, and the PPD options that no panel owns: two-sided, paper size, output destination, and
-/// who matches the colours; each only where the printer has it, in the PPD's own words.
+/// Copies, pages, and the PPD options that no panel owns: two-sided, paper size, output
+/// destination, and who matches the colours; each only where the printer has it, in the PPD's own
+/// words.
 ///
 /// It shows the session and proposes changes; it changes nothing itself.
 class GeneralPage : public QWidget

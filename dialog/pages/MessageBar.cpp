@@ -51,8 +51,8 @@ void MessageBar::showMessage(Kind kind, const QString &text)
 void MessageBar::showMessage(Kind kind, const QString &text, const QString &actionText,
                              const std::function<void()> &action)
 {
-    const auto icon = kind == Kind::Problem ? QStyle::SP_MessageBoxWarning
-                                            : QStyle::SP_MessageBoxInformation;
+    const auto icon =
+        kind == Kind::Problem ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
     m_text->setText(text);

@@ -9,7 +9,7 @@ namespace corvana {
 namespace {
 constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
 constexpr QLatin1StringView kIdentifyingKeys{"PMPPDKeysIdentifying"};
-}
+} // namespace
 
 QString namedBundle(ppd_file_t *ppd)
 {

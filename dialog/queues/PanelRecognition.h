@@ -12,7 +12,8 @@ namespace corvana {
 class Bundle;
 
 /// Whether a printer gets a bundle's panels, and why.
-struct PanelDecision {
+struct PanelDecision
+{
     bool panels = false;
     QString reason; ///< for the log and for whoever asks
 };

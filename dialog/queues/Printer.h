@@ -5,7 +5,8 @@
 namespace corvana {
 
 /// A printer that a user can choose: its name and its PPD.
-struct Printer {
+struct Printer
+{
     QString name;        ///< what -d takes
     QString description; ///< make and model, for people
     QString ppdPath;

@@ -11,14 +11,18 @@ namespace corvana {
 
 namespace {
 
-struct Unit {
+struct Unit
+{
     QLatin1StringView name;
     double points;
 };
 constexpr Unit kUnits[] = {
-    {QLatin1StringView(""), 1.0},           {QLatin1StringView("pt"), 1.0},
-    {QLatin1StringView("in"), 72.0},        {QLatin1StringView("ft"), 12 * 72.0},
-    {QLatin1StringView("mm"), 72.0 / 25.4}, {QLatin1StringView("cm"), 72.0 / 2.54},
+    {QLatin1StringView(""), 1.0},
+    {QLatin1StringView("pt"), 1.0},
+    {QLatin1StringView("in"), 72.0},
+    {QLatin1StringView("ft"), 12 * 72.0},
+    {QLatin1StringView("mm"), 72.0 / 25.4},
+    {QLatin1StringView("cm"), 72.0 / 2.54},
     {QLatin1StringView("m"), 72.0 / 0.0254},
 };
 
@@ -70,8 +74,8 @@ CustomValueCheck checkPageSize(const ppd_file_t *ppd, const QString &value)
     // Limits are written in points and read in millimetres; a tenth of a point is no difference.
     constexpr double tolerance = 0.1;
     const auto within = [&](double size, int axis) {
-        return size >= static_cast<double>(ppd->custom_min[axis]) - tolerance
-            && size <= static_cast<double>(ppd->custom_max[axis]) + tolerance;
+        return size >= static_cast<double>(ppd->custom_min[axis]) - tolerance &&
+               size <= static_cast<double>(ppd->custom_max[axis]) + tolerance;
     };
     if (!within(width, 0) || !within(height, 1))
         return refused;
@@ -92,7 +96,8 @@ std::optional<std::pair<double, double>> range(const ppd_cparam_t *parameter)
 {
     switch (parameter->type) {
     case PPD_CUSTOM_INT:
-        return std::pair<double, double>(parameter->minimum.custom_int, parameter->maximum.custom_int);
+        return std::pair<double, double>(parameter->minimum.custom_int,
+                                         parameter->maximum.custom_int);
     case PPD_CUSTOM_REAL:
         return std::pair<double, double>(static_cast<double>(parameter->minimum.custom_real),
                                          static_cast<double>(parameter->maximum.custom_real));
@@ -122,8 +127,8 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
     const auto bounds = range(parameter);
     if (!bounds) {
         const int length = static_cast<int>(text.toUtf8().size());
-        const bool fits = length >= parameter->minimum.custom_string
-            && length <= parameter->maximum.custom_string && !text.contains(u'\n');
+        const bool fits = length >= parameter->minimum.custom_string &&
+                          length <= parameter->maximum.custom_string && !text.contains(u'\n');
         return fits ? CustomValueCheck{value, refused.allowed} : refused;
     }
     const std::optional<double> given = strictNumber(parameter, text);

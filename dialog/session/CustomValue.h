@@ -10,7 +10,8 @@ namespace corvana {
 
 /// A custom value checked against what the PPD declares. libcups checks nothing: it would store
 /// "Custom.999" for a range of 1 to 99, and read "Custom.x" as 0.
-struct CustomValueCheck {
+struct CustomValueCheck
+{
     /// The value as CUPS takes it ("Custom.283.5x419.5"); nothing when it cannot be taken.
     std::optional<QString> value;
     /// What would be taken ("Custom.1 to Custom.99"), for the message of a refusal.

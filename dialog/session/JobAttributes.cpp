@@ -46,12 +46,11 @@ bool isHoldUntil(const QString &value)
 {
     static const QRegularExpression time(
         QStringLiteral("^([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?\\z"));
-    return isOneOf(value,
-                   {QLatin1StringView("no-hold"), QLatin1StringView("indefinite"),
-                    QLatin1StringView("day-time"), QLatin1StringView("evening"),
-                    QLatin1StringView("night"), QLatin1StringView("second-shift"),
-                    QLatin1StringView("third-shift"), QLatin1StringView("weekend")})
-        || time.match(value).hasMatch();
+    return isOneOf(value, {QLatin1StringView("no-hold"), QLatin1StringView("indefinite"),
+                           QLatin1StringView("day-time"), QLatin1StringView("evening"),
+                           QLatin1StringView("night"), QLatin1StringView("second-shift"),
+                           QLatin1StringView("third-shift"), QLatin1StringView("weekend")}) ||
+           time.match(value).hasMatch();
 }
 
 bool isPriority(const QString &value)
@@ -70,8 +69,9 @@ bool isJobSheets(const QString &value)
 constexpr JobAttribute kAttributes[] = {
     {QLatin1StringView("number-up"), QLatin1StringView("1, 2, 4, 6, 9, 16"),
      [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("1"), QLatin1StringView("2"), QLatin1StringView("4"),
-                            QLatin1StringView("6"), QLatin1StringView("9"), QLatin1StringView("16")});
+         return isOneOf(v,
+                        {QLatin1StringView("1"), QLatin1StringView("2"), QLatin1StringView("4"),
+                         QLatin1StringView("6"), QLatin1StringView("9"), QLatin1StringView("16")});
      }},
     {QLatin1StringView("page-ranges"),
      QLatin1StringView("pages and ranges in ascending order, such as 1-4,7,9-"), isPageRanges},
@@ -95,8 +95,8 @@ constexpr JobAttribute kAttributes[] = {
      }},
     {QLatin1StringView("page-set"), QLatin1StringView("all, even, odd"),
      [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("all"), QLatin1StringView("even"),
-                            QLatin1StringView("odd")});
+         return isOneOf(
+             v, {QLatin1StringView("all"), QLatin1StringView("even"), QLatin1StringView("odd")});
      }},
     {QLatin1StringView("job-hold-until"),
      QLatin1StringView("no-hold, indefinite, day-time, evening, night, second-shift, third-shift, "

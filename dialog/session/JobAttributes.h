@@ -8,7 +8,8 @@
 namespace corvana {
 
 /// A job attribute that users of `lp` know: it is no option of the PPD and goes to CUPS as it is.
-struct JobAttribute {
+struct JobAttribute
+{
     QLatin1StringView name;
     /// The values that are taken, in words for a message.
     QLatin1StringView allowed;

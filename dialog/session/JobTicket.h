@@ -11,7 +11,8 @@ namespace corvana {
 class PpdSession;
 
 /// Everything about one job but its document: a value that is handed to a queue.
-struct JobTicket {
+struct JobTicket
+{
     QString title;
     int copies = 1; ///< Range: 1 and more
     QList<JobOption> options;

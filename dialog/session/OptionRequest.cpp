@@ -19,7 +19,8 @@ namespace corvana {
 
 namespace {
 
-struct Texts {
+struct Texts
+{
     Q_DECLARE_TR_FUNCTIONS(OptionRequest)
 };
 
@@ -37,8 +38,7 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
 {
     QStringList allowed;
     for (int i = 0; i < option->num_choices; ++i) {
-        if (const QString choice = ppdKeyword(option->choices[i].choice);
-            choice != kCustomChoice)
+        if (const QString choice = ppdKeyword(option->choices[i].choice); choice != kCustomChoice)
             allowed += choice;
     }
     const QString custom = allowedCustomValues(ppd, ppdKeyword(option->keyword));
@@ -65,8 +65,10 @@ QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
         const ppd_size_t &size = ppd->sizes[i];
         if (kCustomChoice == QLatin1StringView(size.name))
             continue;
-        if (qAbs(static_cast<double>(size.width) - standard->width * kPointsPerUnit) <= kTolerance
-            && qAbs(static_cast<double>(size.length) - standard->length * kPointsPerUnit) <= kTolerance)
+        if (qAbs(static_cast<double>(size.width) - standard->width * kPointsPerUnit) <=
+                kTolerance &&
+            qAbs(static_cast<double>(size.length) - standard->length * kPointsPerUnit) <=
+                kTolerance)
             return ppdKeyword(size.name);
     }
     return {};
@@ -82,9 +84,9 @@ public:
     }
 
     QStringList problems;
-    QList<OptionChoice> choices;   // for the PPD
-    QList<JobOption> panelValues;  // for the plug-in
-    QList<JobOption> attributes;   // for CUPS
+    QList<OptionChoice> choices;  // for the PPD
+    QList<JobOption> panelValues; // for the plug-in
+    QList<JobOption> attributes;  // for CUPS
 
     void add(const JobOption &option)
     {
@@ -92,12 +94,12 @@ public:
             addMedia(option);
         else if (option.name == QLatin1StringView("sides"))
             addSides(option);
-        else if (addPanelValue(option) || addChoice(option, option.name)
-                 || addAttribute(option))
+        else if (addPanelValue(option) || addChoice(option, option.name) || addAttribute(option))
             return;
         else
-            refuse(option, Texts::tr("this printer has no such option. Options: %1. Job attributes: %2.")
-                               .arg(optionNames(), attributeNames()));
+            refuse(option,
+                   Texts::tr("this printer has no such option. Options: %1. Job attributes: %2.")
+                       .arg(optionNames(), attributeNames()));
     }
 
 private:
@@ -141,7 +143,8 @@ private:
 
     void addSides(const JobOption &option)
     {
-        struct Side {
+        struct Side
+        {
             QLatin1StringView sides;
             QLatin1StringView duplex; // empty: the one-sided choice, which is the default
         };
@@ -156,8 +159,8 @@ private:
         for (const Side &side : kSides) {
             const QString choice = side.duplex.isEmpty() && duplex ? ppdKeyword(duplex->defchoice)
                                                                    : QString(side.duplex);
-            const bool possible = duplex ? ppdChoice(duplex, choice) != nullptr
-                                         : side.duplex.isEmpty();
+            const bool possible =
+                duplex ? ppdChoice(duplex, choice) != nullptr : side.duplex.isEmpty();
             if (!possible)
                 continue;
             allowed += side.sides;
@@ -193,8 +196,7 @@ private:
         if (!m_session.options().contains(found))
             return false;
         if (option.value.startsWith(kCustomPrefix)) {
-            const CustomValueCheck check =
-                checkCustomValue(m_session.ppd(), keyword, option.value);
+            const CustomValueCheck check = checkCustomValue(m_session.ppd(), keyword, option.value);
             if (check.value)
                 choices += OptionChoice{keyword, *check.value};
             else
@@ -234,8 +236,9 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
             return candidate.name == option.name;
         });
         if (now == job.cend() || now->value != option.value) {
-            problems += Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
-                            .arg(asked(option), now == job.cend() ? QString() : now->value);
+            problems +=
+                Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
+                    .arg(asked(option), now == job.cend() ? QString() : now->value);
         }
     }
     return problems;
@@ -272,8 +275,7 @@ bool isWellFormed(const QString &argument)
     // cupsParseOptions() stops silently where it understands no more; then it never comes to an
     // option that is put at the end.
     const QString end = QStringLiteral("corvana-end-of-options");
-    const QList<JobOption> parsed =
-        parseOptions({argument + QStringLiteral(" %1=1").arg(end)});
+    const QList<JobOption> parsed = parseOptions({argument + QStringLiteral(" %1=1").arg(end)});
     return std::any_of(parsed.cbegin(), parsed.cend(), [&](const JobOption &option) {
         return option == JobOption{end, QStringLiteral("1")};
     });
@@ -282,9 +284,9 @@ bool isWellFormed(const QString &argument)
 QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues)
 {
     QStringList problems;
-    const QList<JobOption> own =
-        jobValues ? jobValues->jobOptions(session.printSettings(), session.ppd())
-                  : QList<JobOption>();
+    const QList<JobOption> own = jobValues
+                                     ? jobValues->jobOptions(session.printSettings(), session.ppd())
+                                     : QList<JobOption>();
     for (const JobOption &option : own) {
         const OptionChoice choice{option.name, option.value};
         const QList<OptionChoice> conflicting = session.conflictsOf(choice);

@@ -17,7 +17,8 @@ struct Refusal;
 QList<JobOption> parseOptions(const QStringList &arguments);
 
 /// What became of a set of options.
-struct OptionOutcome {
+struct OptionOutcome
+{
     /// One message for each option that was not taken, with its name and what is allowed. When
     /// there is any, the session is as it was before.
     QStringList problems;

@@ -52,7 +52,7 @@ private:
 class PanelHost::HeldAlerts : public AlertPresenter
 {
 public:
-    HeldAlerts(PanelHost &host, AlertPresenter &presenter) : m_host(host), m_presenter(presenter) { }
+    HeldAlerts(PanelHost &host, AlertPresenter &presenter) : m_host(host), m_presenter(presenter) {}
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override
     {
@@ -71,8 +71,8 @@ private:
 
 PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &presenter)
     : m_session(session), m_alerts(std::make_unique<HeldAlerts>(*this, presenter)),
-      m_callback(std::make_shared<HostCallback>(session, *m_alerts,
-                                                [this] { Q_EMIT viewResized(); }))
+      m_callback(
+          std::make_shared<HostCallback>(session, *m_alerts, [this] { Q_EMIT viewResized(); }))
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
     connect(&session, &PpdSession::refused, this, [this] {

@@ -19,7 +19,8 @@ class PDEPanel;
 class PDEPlugIn;
 
 /// One line of a panel's summary.
-struct SummaryLine {
+struct SummaryLine
+{
     QString title;
     QString value;
 
@@ -75,7 +76,8 @@ Q_SIGNALS:
 private:
     class Call;
     class HeldAlerts;
-    struct Change {
+    struct Change
+    {
         QString choice;
         PDEPanel *source; // does not need to be told; null for the dialog's own changes
     };

@@ -8,7 +8,8 @@
 
 namespace corvana {
 
-struct PpdCloser {
+struct PpdCloser
+{
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
 };
 

@@ -37,7 +37,8 @@ void unmark(ppd_file_t *ppd, const QString &keyword)
     }
 }
 
-// The keyword under which a choice stands in the PPD: all custom values are the one choice "Custom".
+// The keyword under which a choice stands in the PPD: all custom values are the one choice
+// "Custom".
 QString choiceKeyword(const QString &choice)
 {
     return choice.startsWith(kCustomPrefix) ? QString(kCustomChoice) : choice;
@@ -81,7 +82,8 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
 {
     using Outcome = ChangeResult::Outcome;
     ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
-    // The page region follows the page size; marked itself, it would take the mark of the size away.
+    // The page region follows the page size; marked itself, it would take the mark of the size
+    // away.
     if (!option || keyword == kPageRegionOption) {
         qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
         return {Outcome::UnknownOption, {}};
@@ -92,7 +94,8 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     }
     const QString before = markedChoice(keyword);
     const bool custom = choice.startsWith(kCustomPrefix);
-    const bool same = before == choiceKeyword(choice) && (!custom || customValue(keyword) == choice);
+    const bool same =
+        before == choiceKeyword(choice) && (!custom || customValue(keyword) == choice);
     if (!same) {
         const QList<OptionChoice> conflicting = conflictsOf({keyword, choice});
         if (!conflicting.isEmpty()) {
@@ -139,8 +142,8 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
     recordMarks();
     const bool otherPaper = updatePageFormat();
     for (const OptionChoice &choice : std::as_const(ordered)) {
-        if (before.marks.value(choice.keyword) != markedChoice(choice.keyword)
-            || before.customValues.value(choice.keyword) != customValue(choice.keyword))
+        if (before.marks.value(choice.keyword) != markedChoice(choice.keyword) ||
+            before.customValues.value(choice.keyword) != customValue(choice.keyword))
             Q_EMIT changed(choice.keyword, markedChoice(choice.keyword), Origin::Dialog);
     }
     if (otherPaper)
@@ -154,7 +157,8 @@ QList<OptionChoice> PpdSession::wayOut(const OptionChoice &proposed)
     const QByteArray choice = proposed.choice.toLatin1();
     cups_option_t *resolved = nullptr;
     int count = 0;
-    if (!cupsResolveConflicts(m_ppd.get(), option.constData(), choice.constData(), &count, &resolved)) {
+    if (!cupsResolveConflicts(m_ppd.get(), option.constData(), choice.constData(), &count,
+                              &resolved)) {
         cupsFreeOptions(count, resolved);
         return {};
     }
@@ -220,7 +224,8 @@ bool PpdSession::updatePageFormat()
 {
     PageFormat format;
     const QString marked = markedChoice(kPageSizeOption);
-    const QString size = customValue(kPageSizeOption).isNull() ? marked : customValue(kPageSizeOption);
+    const QString size =
+        customValue(kPageSizeOption).isNull() ? marked : customValue(kPageSizeOption);
     if (const ppd_size_t *found = ppdPageSize(m_ppd.get(), size.toLatin1().constData())) {
         format.paper.name = marked;
         if (marked != kCustomChoice)

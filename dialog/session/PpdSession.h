@@ -14,7 +14,8 @@
 namespace corvana {
 
 /// One option and one of its choices.
-struct OptionChoice {
+struct OptionChoice
+{
     QString keyword;
     QString choice;
 
@@ -23,7 +24,8 @@ struct OptionChoice {
 
 /// Everything that a user can change in one session, as one value: what undo, Cancel, presets and
 /// failures restore, and what is compared to find out what one event has changed.
-struct SessionSnapshot {
+struct SessionSnapshot
+{
     QMap<QString, QString> marks;        ///< option keyword to marked choice
     QMap<QString, QString> customValues; ///< option keyword to "Custom.…"
     QVariantMap entries;                 ///< the print settings
@@ -33,7 +35,8 @@ struct SessionSnapshot {
 };
 
 /// A choice that was refused, and the marked choices that it collides with.
-struct Refusal {
+struct Refusal
+{
     OptionChoice proposed;
     QList<OptionChoice> conflicting;
 
@@ -41,7 +44,8 @@ struct Refusal {
 };
 
 /// What became of one change.
-struct ChangeResult {
+struct ChangeResult
+{
     enum class Outcome { Accepted, UnknownOption, UnknownChoice, Conflict };
 
     Outcome outcome = Outcome::Accepted;
@@ -53,8 +57,8 @@ struct ChangeResult {
 /// The state of one job for one printer: the marks of its PPD, the print settings that record them,
 /// and the page format that follows from the paper size. Knows no widget and no panel.
 ///
-/// Every marked choice stands in the print settings under its option's keyword, from the opening on.
-/// Thread: GUI thread only.
+/// Every marked choice stands in the print settings under its option's keyword, from the opening
+/// on. Thread: GUI thread only.
 class PpdSession : public QObject
 {
     Q_OBJECT

@@ -24,8 +24,9 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
             return QString::number(qRound(points / 72.0 * 25.4));
         };
         value = keyword == kPageSizeOption
-            ? QStringLiteral("%1 × %2 mm").arg(millimetres(paper.width), millimetres(paper.height))
-            : custom.mid(kCustomPrefix.size());
+                    ? QStringLiteral("%1 × %2 mm")
+                          .arg(millimetres(paper.width), millimetres(paper.height))
+                    : custom.mid(kCustomPrefix.size());
     }
     return {ppdText(option->text).value_or(keyword), value};
 }

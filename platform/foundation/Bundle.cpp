@@ -33,8 +33,9 @@ QString canonicalModule(const QString &file)
     const QString canonical = QFileInfo(file).canonicalFilePath();
     // The loader may name the program by the words it was started with, relative to a folder that
     // is no longer the current one.
-    return canonical.isEmpty() ? QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath()
-                               : canonical;
+    return canonical.isEmpty()
+               ? QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath()
+               : canonical;
 }
 
 // Which user languages a localisation serves. The first two names are older than language codes.
@@ -75,7 +76,7 @@ int lineOfOffset(const QByteArray &text, int offset)
 
 } // namespace
 
-Bundle::Bundle(QString path) : m_path(std::move(path)) { }
+Bundle::Bundle(QString path) : m_path(std::move(path)) {}
 
 Bundle::~Bundle() = default;
 

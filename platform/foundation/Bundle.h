@@ -57,7 +57,8 @@ public:
     /// The names of the bundle's localisations ("English", "Japanese", "zh_CN"), as declared.
     QStringList localizations() const;
     /// Those of `localizations` that suit the user's languages, best first, by
-    /// QLocale::uiLanguages(); never empty unless `localizations` is: without a match the first one.
+    /// QLocale::uiLanguages(); never empty unless `localizations` is: without a match the first
+    /// one.
     static QStringList preferredLocalizations(const QStringList &localizations);
 
     /// The text of the bundle's default string table under `key`, in the best localisation.

@@ -13,7 +13,8 @@ namespace corvana {
 class Bundle;
 
 /// One place in a help book: what a help viewer opens.
-struct HelpPage {
+struct HelpPage
+{
     QString title;  ///< of the book
     QString file;   ///< an HTML file
     QString anchor; ///< in that file

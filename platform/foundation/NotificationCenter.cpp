@@ -10,16 +10,15 @@ NotificationCenter &NotificationCenter::defaultCenter()
     return center;
 }
 
-void NotificationCenter::addObserver(const void *observer, const QString &name,
-                                     const void *sender, Handler handler)
+void NotificationCenter::addObserver(const void *observer, const QString &name, const void *sender,
+                                     Handler handler)
 {
     m_registrations.push_back({m_nextId++, observer, name, sender, std::move(handler)});
 }
 
 void NotificationCenter::removeObserver(const void *observer)
 {
-    std::erase_if(m_registrations,
-                  [&](const Registration &r) { return r.observer == observer; });
+    std::erase_if(m_registrations, [&](const Registration &r) { return r.observer == observer; });
 }
 
 void NotificationCenter::removeObserver(const void *observer, const QString &name,
@@ -45,8 +44,8 @@ void NotificationCenter::deliver(const Notification &notification)
     std::vector<Registration> receivers;
     std::copy_if(m_registrations.cbegin(), m_registrations.cend(), std::back_inserter(receivers),
                  [&](const Registration &r) {
-                     return r.name == notification.name
-                         && (!r.sender || r.sender == notification.sender);
+                     return r.name == notification.name &&
+                            (!r.sender || r.sender == notification.sender);
                  });
     for (const Registration &receiver : receivers) {
         if (isRegistered(receiver.id))

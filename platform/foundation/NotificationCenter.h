@@ -12,7 +12,8 @@ namespace corvana {
 
 /// One posted notification. The sender is an identity, compared and never dereferenced by the
 /// centre; observers that know its type may use it while the notification is being delivered.
-struct Notification {
+struct Notification
+{
     QString name;
     void *sender = nullptr;
     /// User information; `hasUserInfo` tells an empty one from none at all.
@@ -50,7 +51,8 @@ public:
     void post(const QString &name, void *sender, const QVariantMap &userInfo);
 
 private:
-    struct Registration {
+    struct Registration
+    {
         quint64 id;
         const void *observer;
         QString name;

@@ -15,7 +15,8 @@ namespace {
 // What cannot be read is about to be replaced; whoever can mend it finds it beside the new file.
 void keepDamagedFile(const QString &file)
 {
-    if (!QFileInfo::exists(file) || QSettings(file, QSettings::IniFormat).status() == QSettings::NoError)
+    if (!QFileInfo::exists(file) ||
+        QSettings(file, QSettings::IniFormat).status() == QSettings::NoError)
         return;
     const QString kept = file + QStringLiteral(".damaged");
     QFile::remove(kept);

@@ -11,9 +11,8 @@
 namespace corvana {
 
 /// The user's preferences, one persistent domain for each bundle identifier. Each domain is an INI
-/// file of its own below the user's configuration folder, read at every question and written at once,
-/// so that several dialogs see each other's changes.
-/// Thread: GUI thread only.
+/// file of its own below the user's configuration folder, read at every question and written at
+/// once, so that several dialogs see each other's changes. Thread: GUI thread only.
 class CORVANA_PLATFORM_EXPORT UserDefaults
 {
 public:

@@ -53,7 +53,8 @@ QString distrustOfPath(const QString &path, const QString &root)
 QString distrustOfContents(const QString &bundle)
 {
     const uint programOwner = QFileInfo(QStringLiteral("/proc/self/exe")).ownerId();
-    QDirIterator contents(bundle, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+    QDirIterator contents(bundle,
+                          QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                           QDirIterator::Subdirectories);
     while (contents.hasNext()) {
         contents.next();
@@ -130,8 +131,9 @@ FoundPlugIn findPlugInBundle(const QString &fileName, const QStringList &trusted
                                 .arg(path, key));
     }
     if (!bundle->infoStringList(kSupportedOptionsKey)) {
-        return unusable(QStringLiteral("%1/info.json: the key \"%2\" with a list of texts was expected")
-                            .arg(path, kSupportedOptionsKey));
+        return unusable(
+            QStringLiteral("%1/info.json: the key \"%2\" with a list of texts was expected")
+                .arg(path, kSupportedOptionsKey));
     }
     const QString name = bundle->infoString(kCFBundleExecutableKey);
     const QString module = QFileInfo(path + u'/' + name).canonicalFilePath();
@@ -153,8 +155,9 @@ LoadedPlugIn loadPlugIn(const FoundPlugIn &found)
     loader.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     const QString iid = loader.metaData().value(QLatin1StringView("IID")).toString();
     if (iid != QLatin1StringView(CORVANA_PDE_PLUGIN_IID)) {
-        return refused(QStringLiteral("%1 was built for the contract \"%2\", this program needs \"%3\"")
-                           .arg(found.module, iid, QLatin1StringView(CORVANA_PDE_PLUGIN_IID)));
+        return refused(
+            QStringLiteral("%1 was built for the contract \"%2\", this program needs \"%3\"")
+                .arg(found.module, iid, QLatin1StringView(CORVANA_PDE_PLUGIN_IID)));
     }
     // The module's panels look for their bundle while they are constructed.
     Bundle::associateModule(found.module, found.bundle);

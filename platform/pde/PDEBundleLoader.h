@@ -13,7 +13,8 @@ class Bundle;
 class PDEPlugIn;
 
 /// A plug-in bundle whose code is loaded, or the reason why it is not.
-struct LoadedPlugIn {
+struct LoadedPlugIn
+{
     std::shared_ptr<Bundle> bundle;
     /// Ownership: the module's, which is never unloaded. Null when `problem` is set.
     PDEPlugIn *plugIn = nullptr;
@@ -21,7 +22,8 @@ struct LoadedPlugIn {
 };
 
 /// A plug-in bundle that was found and looked at, while none of its code runs.
-struct FoundPlugIn {
+struct FoundPlugIn
+{
     std::shared_ptr<Bundle> bundle; ///< null when there is none, or it cannot be trusted
     QString module;                 ///< canonical
     /// Why the bundle cannot be used; empty when it can, or when there is none of that name.
@@ -35,8 +37,8 @@ CORVANA_PLATFORM_EXPORT FoundPlugIn findPlugInBundle(const QString &fileName,
 /// Loads the code of a bundle that was found; the second time it answers the same principal object.
 CORVANA_PLATFORM_EXPORT LoadedPlugIn loadPlugIn(const FoundPlugIn &found);
 
-/// Finds and loads the bundle `fileName` (for instance "QXCLQuality13PDE.bundle") from the first of the
-/// `trustedRoots` that holds it, and creates its principal object.
+/// Finds and loads the bundle `fileName` (for instance "QXCLQuality13PDE.bundle") from the first of
+/// the `trustedRoots` that holds it, and creates its principal object.
 ///
 /// A bundle is refused, before any of its code runs, when its canonical path lies outside the root
 /// it was found in, when it, anything in it or anything between it and the root can be written by

@@ -10,7 +10,8 @@
 namespace corvana {
 
 /// One option of a job, as CUPS takes it: keyword and choice, `Custom.N`, or a job attribute.
-struct JobOption {
+struct JobOption
+{
     QString name;
     QString value;
 
@@ -18,7 +19,8 @@ struct JobOption {
 };
 
 /// What became of one option offered to the plug-in.
-struct JobValueClaim {
+struct JobValueClaim
+{
     enum class Outcome {
         NotMine,  ///< the plug-in keeps no value of that name; nothing was written
         Accepted, ///< the entries were written

@@ -37,7 +37,8 @@ public:
     /// willChangePPDOptionKeyValue_ppdChoice no panel can be constructed.
     virtual bool respondsTo(PDECallbackOperation operation) const = 0;
 
-    /// The opened PPD file of the current printer. Ownership: the host's, for longer than any panel.
+    /// The opened PPD file of the current printer. Ownership: the host's, for longer than any
+    /// panel.
     virtual ppd_file_t *ppdFile() = 0;
     /// The job's print settings, or null. Ownership: the host's.
     virtual PMPrintSettings printSettings() = 0;

@@ -10,8 +10,10 @@
 namespace corvana {
 
 /// A paper: its name, the PPD's name for it, and its size.
-struct Paper {
-    /// The PPD keyword of the size ("A4", "Postcard", "EnvDL"); contains "Custom" for a custom size.
+struct Paper
+{
+    /// The PPD keyword of the size ("A4", "Postcard", "EnvDL"); contains "Custom" for a custom
+    /// size.
     QString name;
     /// The keyword of the PPD's own size entry; absent for a size that the PPD lacks.
     std::optional<QString> ppdPaperName;
@@ -22,7 +24,8 @@ struct Paper {
 };
 
 /// The page format of one job. A value: what a snapshot keeps.
-struct PageFormat {
+struct PageFormat
+{
     Paper paper;
 
     bool operator==(const PageFormat &) const = default;

@@ -22,7 +22,8 @@ PMStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key,
     if (!settings)
         return kPMInvalidObject;
     if (locked)
-        qCWarning(lcPrintCore) << "print settings entries cannot be locked; written unlocked:" << key;
+        qCWarning(lcPrintCore) << "print settings entries cannot be locked; written unlocked:"
+                               << key;
     settings->setValue(key, value);
     return kPMNoError;
 }
@@ -34,7 +35,8 @@ PMStatus PMSetDuplex(PMPrintSettings settings, int mode)
     if (settings->duplexHandler())
         settings->duplexHandler()(static_cast<PMDuplexMode>(mode));
     else
-        qCWarning(lcPrintCore) << "nobody listens to a change of two-sided printing to mode" << mode;
+        qCWarning(lcPrintCore) << "nobody listens to a change of two-sided printing to mode"
+                               << mode;
     return kPMNoError;
 }
 

@@ -10,7 +10,8 @@ class QWidget;
 namespace corvana {
 
 /// A modal alert as a panel words it.
-struct Alert {
+struct Alert
+{
     enum class Style { Informational, Warning };
 
     Style style = Style::Informational;
@@ -25,7 +26,8 @@ struct Alert {
 };
 
 /// How an alert was answered.
-struct AlertAnswer {
+struct AlertAnswer
+{
     int button = 0;          ///< index into Alert::buttons
     bool suppressed = false; ///< the suppression box was on
 };

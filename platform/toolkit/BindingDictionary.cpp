@@ -2,7 +2,7 @@
 
 namespace corvana {
 
-BindingDictionary::BindingDictionary(QObject *parent) : QObject(parent) { }
+BindingDictionary::BindingDictionary(QObject *parent) : QObject(parent) {}
 
 void BindingDictionary::setValue(const QString &key, const QVariant &value)
 {

@@ -71,7 +71,8 @@ public:
 bool connectControlAction(QWidget *control, const ControlAction &action)
 {
     if (auto *matrix = qobject_cast<RadioMatrix *>(control)) {
-        QObject::connect(matrix, &RadioMatrix::activated, matrix, [matrix, action] { action(matrix); });
+        QObject::connect(matrix, &RadioMatrix::activated, matrix,
+                         [matrix, action] { action(matrix); });
     } else if (auto *popUp = qobject_cast<QComboBox *>(control)) {
         onUserPick(popUp, action);
     } else if (auto *button = qobject_cast<QAbstractButton *>(control)) {
@@ -102,8 +103,9 @@ bool isControlEnabled(const QWidget *control)
 
 void ignoreWheelWithoutFocus(QWidget *control)
 {
-    const bool turnsWithTheWheel = qobject_cast<QComboBox *>(control)
-        || qobject_cast<QAbstractSlider *>(control) || qobject_cast<QAbstractSpinBox *>(control);
+    const bool turnsWithTheWheel = qobject_cast<QComboBox *>(control) ||
+                                   qobject_cast<QAbstractSlider *>(control) ||
+                                   qobject_cast<QAbstractSpinBox *>(control);
     if (!turnsWithTheWheel)
         return;
     control->setFocusPolicy(Qt::StrongFocus);

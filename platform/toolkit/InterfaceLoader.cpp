@@ -128,11 +128,10 @@ private:
         const auto outlet = m_owner.m_outlets.find(widget->objectName());
         if (outlet == m_owner.m_outlets.end() || outlet->second.connect(widget))
             return;
-        reject({nameOf(widget)},
-               QStringLiteral("\"%1\" is a %2, a %3 was expected")
-                   .arg(widget->objectName(),
-                        QString::fromLatin1(widget->metaObject()->className()),
-                        outlet->second.className));
+        reject({nameOf(widget)}, QStringLiteral("\"%1\" is a %2, a %3 was expected")
+                                     .arg(widget->objectName(),
+                                          QString::fromLatin1(widget->metaObject()->className()),
+                                          outlet->second.className));
     }
 
     void connectBindings(QWidget *widget, BindingDictionary *dictionary)

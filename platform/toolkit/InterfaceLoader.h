@@ -22,8 +22,7 @@ class CORVANA_PLATFORM_EXPORT InterfaceConnections
 {
 public:
     /// The control called `name` goes into `slot`. A file without that control leaves it null.
-    template <typename Control>
-    void outlet(const QString &name, QPointer<Control> &slot)
+    template <typename Control> void outlet(const QString &name, QPointer<Control> &slot)
     {
         m_outlets[name] = {QString::fromLatin1(Control::staticMetaObject.className()),
                            [&slot](QWidget *widget) {
@@ -38,7 +37,8 @@ public:
 
 private:
     friend class InterfaceConnector;
-    struct Outlet {
+    struct Outlet
+    {
         QString className;
         std::function<bool(QWidget *)> connect;
     };
@@ -48,7 +48,8 @@ private:
 };
 
 /// A loaded interface: the view, or what is wrong with the file.
-struct LoadedInterface {
+struct LoadedInterface
+{
     /// Ownership: the caller's. Null when there are problems. It owns its binding dictionary.
     std::unique_ptr<QWidget> view;
     /// Each names the file, the line where it is known, and what was expected.

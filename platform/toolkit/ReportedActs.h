@@ -15,17 +15,17 @@ namespace corvana {
 class ReportedActs
 {
 public:
-    explicit ReportedActs(QObject *owner) : m_owner(owner) { }
+    explicit ReportedActs(QObject *owner) : m_owner(owner) {}
 
     /// The first signal of an act: runs `report`.
-    template <typename Report>
-    void report(const QObject *control, const Report &report)
+    template <typename Report> void report(const QObject *control, const Report &report)
     {
         const quint64 act = ++m_lastAct;
         m_acts.push_back({act, control});
         report();
         // The second signal follows when this returns, or never. Only now: what was reported may
-        // run a modal alert. By number: acts in quick succession, or nested, must not end each other.
+        // run a modal alert. By number: acts in quick succession, or nested, must not end each
+        // other.
         QTimer::singleShot(0, m_owner, [this, act] {
             std::erase_if(m_acts, [act](const Act &other) { return other.number == act; });
         });
@@ -49,7 +49,8 @@ public:
     }
 
 private:
-    struct Act {
+    struct Act
+    {
         quint64 number;
         const QObject *control; // an identity, never dereferenced
     };

@@ -31,8 +31,8 @@ ViewFrame viewFrame(const QWidget *view)
     if (!view)
         return {};
     const double scale = pixelsPerPoint(view);
-    const QSizeF size = requestedSize(view).isEmpty() ? QSizeF(view->size()) / scale
-                                                      : requestedSize(view);
+    const QSizeF size =
+        requestedSize(view).isEmpty() ? QSizeF(view->size()) / scale : requestedSize(view);
     const int parentHeight = view->parentWidget() ? view->parentWidget()->height() : view->height();
     const int bottom = view->y() + view->height();
     return {view->x() / scale, (parentHeight - bottom) / scale, size.width(), size.height()};

@@ -9,7 +9,8 @@ namespace corvana {
 /// Where a view lies in its parent, as the panels speak of it.
 /// Units: points, with the y axis upwards and the origin at the lower left corner. A point is a
 /// pixel at a font of 12 pixels, and grows with the view's font, so that distances suit the texts.
-struct ViewFrame {
+struct ViewFrame
+{
     double x = 0;
     double y = 0;
     double width = 0;

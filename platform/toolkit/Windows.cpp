@@ -13,8 +13,9 @@ namespace corvana {
 namespace {
 
 // A close event may still be refused by the window; it was accepted when the window hides before
-// the event has been dealt with. The handler of the event may ask the user first, so what marks that
-// time is an object deleted later: it outlives event loops that run inside the handler, and no more.
+// the event has been dealt with. The handler of the event may ask the user first, so what marks
+// that time is an object deleted later: it outlives event loops that run inside the handler, and no
+// more.
 class ClosingWatcher : public QObject
 {
 public:

@@ -42,8 +42,8 @@ PrintRequest request(const QStringList &options)
 
 QString described(const QWidget *widget)
 {
-    return QStringLiteral("%1 \"%2\"").arg(
-        QLatin1StringView(widget->metaObject()->className()), widget->objectName());
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QLatin1StringView(widget->metaObject()->className()), widget->objectName());
 }
 
 // Controls whose whole text must be seen without scrolling.
@@ -81,16 +81,17 @@ QStringList overlappingControls(const QWidget *page)
     const auto parents = page->findChildren<QWidget *>();
     for (const QWidget *parent : parents) {
         // The parts inside one control are its own affair.
-        if (qobject_cast<const QComboBox *>(parent) || qobject_cast<const QAbstractScrollArea *>(parent)
-            || qobject_cast<const QLineEdit *>(parent))
+        if (qobject_cast<const QComboBox *>(parent) ||
+            qobject_cast<const QAbstractScrollArea *>(parent) ||
+            qobject_cast<const QLineEdit *>(parent))
             continue;
         const auto children = parent->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
         for (qsizetype i = 0; i < children.size(); ++i) {
             for (qsizetype j = i + 1; j < children.size(); ++j) {
                 const QWidget *a = children.at(i);
                 const QWidget *b = children.at(j);
-                if (isVisibleInside(page, a) && isVisibleInside(page, b)
-                    && !a->isWindow() && !b->isWindow() && a->geometry().intersects(b->geometry()))
+                if (isVisibleInside(page, a) && isVisibleInside(page, b) && !a->isWindow() &&
+                    !b->isWindow() && a->geometry().intersects(b->geometry()))
                     overlapping += described(a) + QStringLiteral(" overlaps ") + described(b);
             }
         }
@@ -101,8 +102,8 @@ QStringList overlappingControls(const QWidget *page)
 // The difference in brightness between the darkest and the lightest pixel of a label.
 int contrastOf(QWidget *label)
 {
-    const QImage image = label->window()->grab(QRect(label->mapTo(label->window(), QPoint()),
-                                                     label->size()))
+    const QImage image = label->window()
+                             ->grab(QRect(label->mapTo(label->window(), QPoint()), label->size()))
                              .toImage();
     int darkest = 255;
     int lightest = 0;

@@ -17,7 +17,7 @@ inline constexpr QLatin1StringView kMonoEffect{"com.corvana.print.PrintSettings.
 class ColorSettingProbe : public QXLaserColorSettingPDE
 {
 public:
-    explicit ColorSettingProbe(std::shared_ptr<RecordingHost> host) : m_host(std::move(host)) { }
+    explicit ColorSettingProbe(std::shared_ptr<RecordingHost> host) : m_host(std::move(host)) {}
 
     bool initWithHost() { return initWithCallback(m_host); }
 

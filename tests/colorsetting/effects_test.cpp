@@ -57,8 +57,8 @@ private Q_SLOTS:
         QVERIFY(panel.initWithHost());
         panel.setMode(kModeMono, mono);
         panel.m_outputBin.insert(u"QXColorMatching"_s, colorMatching);
-        host->settings().setEntries({{key, effectTexts({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s,
-                                                        u"6"_s})}});
+        host->settings().setEntries(
+            {{key, effectTexts({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s})}});
         panel.restoreEffectValues();
         QCOMPARE(panel.effects().first().toString(), u"1"_s);
         host->settings().setEntries({});
@@ -98,8 +98,8 @@ private Q_SLOTS:
         QTest::newRow("a list of texts")
             << QVariant(QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s})
             << effectTexts({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s});
-        QTest::newRow("six numbers") << QVariant(QVariantList{1, 2, 3, 4, 5, -20})
-                                     << QVariantList{1, 2, 3, 4, 5, -20};
+        QTest::newRow("six numbers")
+            << QVariant(QVariantList{1, 2, 3, 4, 5, -20}) << QVariantList{1, 2, 3, 4, 5, -20};
         QTest::newRow("five values")
             << QVariant(effectTexts({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s})) << kZeroTexts;
         QTest::newRow("seven values")
@@ -135,8 +135,8 @@ private Q_SLOTS:
         host->answerNoPrintSettings(); // nothing is restored over the defaults
         ColorSettingProbe panel(host);
         QVERIFY(panel.initWithHost());
-        const QVariantList defaults{qint64(3), qint64(-2), qint64(0), qint64(4), qint64(0),
-                                    QVariant()};
+        const QVariantList defaults{qint64(3), qint64(-2), qint64(0),
+                                    qint64(4), qint64(0),  QVariant()};
         QCOMPARE(panel.effects(), defaults);
         QCOMPARE(panel.effects().first().typeId(), int(QMetaType::LongLong));
         QVERIFY2(!panel.outputBin().contains(u"QXSaturation"_s), "the printer has none");
@@ -166,8 +166,8 @@ private Q_SLOTS:
         panel.saveEffectValues();
         const QVariantList saved{qint64(20), qint64(-5), u"0"_s, u"0"_s, qint64(0), qint64(0)};
         QCOMPARE(panel.entry(kNormalEffect), QVariant(saved));
-        const QVariantList held{qint64(20), qint64(-5), qint64(21), qint64(-21), qint64(0),
-                                qint64(0)};
+        const QVariantList held{qint64(20),  qint64(-5), qint64(21),
+                                qint64(-21), qint64(0),  qint64(0)};
         QCOMPARE(panel.effects(), held);
     }
 
@@ -233,8 +233,8 @@ private Q_SLOTS:
     void eachRestoreReadsTheSetInForce()
     {
         const auto host = RecordingHost::forSamplePrinter();
-        host->settings().setValue(kVividEffect, effectTexts({u"1"_s, u"1"_s, u"1"_s, u"1"_s,
-                                                             u"1"_s, u"1"_s}));
+        host->settings().setValue(kVividEffect,
+                                  effectTexts({u"1"_s, u"1"_s, u"1"_s, u"1"_s, u"1"_s, u"1"_s}));
         ColorSettingProbe panel(host);
         QVERIFY(panel.initWithHost());
         QCOMPARE(panel.effects(), kZeroTexts);

@@ -40,15 +40,15 @@ private Q_SLOTS:
         QTest::addColumn<Flag>("color");
         QTest::newRow("the driver matches, color")
             << true << false << false << On << On << On << On;
-        QTest::newRow("the driver matches, mono") << true << true << false << On << On << Off
-                                                  << Off;
-        QTest::newRow("the application matches, color") << false << false << false << Off << Off
-                                                        << Off << Untouched;
-        QTest::newRow("the application matches, mono") << false << true << false << Off << Off
-                                                       << Off << Off;
+        QTest::newRow("the driver matches, mono")
+            << true << true << false << On << On << Off << Off;
+        QTest::newRow("the application matches, color")
+            << false << false << false << Off << Off << Off << Untouched;
+        QTest::newRow("the application matches, mono")
+            << false << true << false << Off << Off << Off << Off;
         QTest::newRow("fax") << true << false << true << On << Untouched << Untouched << Off;
-        QTest::newRow("fax, the application matches") << false << true << true << Off << Untouched
-                                                      << Untouched << Off;
+        QTest::newRow("fax, the application matches")
+            << false << true << true << Off << Untouched << Untouched << Off;
     }
     void theFlagsOfTheControls()
     {
@@ -170,10 +170,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("keyword");
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("label");
-        QTest::newRow("color matching") << u"QXColorMatching"_s << u"colorMatchingMatrix"_s
-                                        << u"colorMatchingLabel"_s;
-        QTest::newRow("enhanced black") << u"QXEnhanceBlkPrt"_s << u"enhancedBlackCheckBox"_s
-                                        << QString();
+        QTest::newRow("color matching")
+            << u"QXColorMatching"_s << u"colorMatchingMatrix"_s << u"colorMatchingLabel"_s;
+        QTest::newRow("enhanced black")
+            << u"QXEnhanceBlkPrt"_s << u"enhancedBlackCheckBox"_s << QString();
         QTest::newRow("gray") << u"QXGray"_s << u"grayCheckBox"_s << QString();
         QTest::newRow("slow drying has no control") << u"QXSlowDrying"_s << QString() << QString();
         QTest::newRow("other letter case") << u"qxgray"_s << QString() << QString();

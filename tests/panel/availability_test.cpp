@@ -103,12 +103,12 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("entry");
         QTest::addColumn<bool>("driverMatches");
         QTest::newRow("the driver") << true << QVariant(u"AP_VendorColorMatching"_s) << true;
-        QTest::newRow("the application") << true << QVariant(u"AP_ApplicationColorMatching"_s)
-                                         << false;
+        QTest::newRow("the application")
+            << true << QVariant(u"AP_ApplicationColorMatching"_s) << false;
         QTest::newRow("no entry") << true << QVariant() << true;
         QTest::newRow("any other value") << true << QVariant(u"Anybody"_s) << true;
-        QTest::newRow("a driver that cannot") << false << QVariant(u"AP_VendorColorMatching"_s)
-                                              << false;
+        QTest::newRow("a driver that cannot")
+            << false << QVariant(u"AP_VendorColorMatching"_s) << false;
     }
     void theDriverMatchesColorsUnlessTheApplicationDoes()
     {

@@ -81,10 +81,10 @@ private Q_SLOTS:
         panel.trace();
         QVERIFY(panel.initWithHost(m_host));
         const QStringList expected{
-            u"chechModelName"_s,     u"restoreValuesAndReturnError"_s,
-            u"checkFax"_s,           u"setDefaults"_s,
-            u"checkColorSync"_s,     u"restoreOptionState"_s,
-            u"checkConstraints"_s,   u"saveAllValues"_s,
+            u"chechModelName"_s,   u"restoreValuesAndReturnError"_s,
+            u"checkFax"_s,         u"setDefaults"_s,
+            u"checkColorSync"_s,   u"restoreOptionState"_s,
+            u"checkConstraints"_s, u"saveAllValues"_s,
             u"checkConstraints"_s,
         };
         QCOMPARE(steps(*m_host), expected);

@@ -60,10 +60,10 @@ private Q_SLOTS:
         const Alert alert = m_host->alerts().shown().first().alert;
         QVERIFY(!text(u"Unsupported Paper Title"_s).isEmpty());
         QCOMPARE(alert.messageText, text(u"Unsupported Paper Title"_s));
-        QCOMPARE(alert.informativeText,
-                 text(u"Unsupported Paper MSG1"_s) + u"\n\n"_s + text(u"Unsupported Paper MSG2"_s)
-                     + u'\n' + text(u"Unsupported Paper MSG3"_s) + u'\n'
-                     + text(u"Unsupported Paper MSG4"_s));
+        QCOMPARE(alert.informativeText, text(u"Unsupported Paper MSG1"_s) + u"\n\n"_s +
+                                            text(u"Unsupported Paper MSG2"_s) + u'\n' +
+                                            text(u"Unsupported Paper MSG3"_s) + u'\n' +
+                                            text(u"Unsupported Paper MSG4"_s));
         QCOMPARE(alert.buttons, QStringList{text(u"OK"_s)});
         QVERIFY(!alert.showsSuppressionButton);
         QVERIFY(!alert.accessoryView);

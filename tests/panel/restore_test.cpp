@@ -136,8 +136,8 @@ private Q_SLOTS:
     {
         TestPanel panel;
         QVERIFY(panel.initWithHost(m_host));
-        panel.setPPDKeys(QStringList{u"QXGray"_s, u"NoOption"_s, u"QXMediaType"_s,
-                                     u"qxinputslot"_s, u""_s, u"Duplex"_s});
+        panel.setPPDKeys(QStringList{u"QXGray"_s, u"NoOption"_s, u"QXMediaType"_s, u"qxinputslot"_s,
+                                     u""_s, u"Duplex"_s});
         const QStringList kept{u"QXGray"_s, u"QXMediaType"_s, u"Duplex"_s};
         QCOMPARE(panel.supportedPPDOptionKeys(), std::optional(kept));
         QCOMPARE(panel.availablePPDOptionKeys(), std::optional(kept));

@@ -74,8 +74,7 @@ private Q_SLOTS:
     {
         QFETCH(double, roomAroundPanel);
         QFETCH(bool, atOnce);
-        const double window =
-            m_window->frameGeometry().height() / pixelsPerPoint(m_window.get());
+        const double window = m_window->frameGeometry().height() / pixelsPerPoint(m_window.get());
         const double height = window - roomAroundPanel;
         m_panel->setViewFrameSize(300, height);
         QCOMPARE(viewFrame(m_panel->panelView()).height, height);

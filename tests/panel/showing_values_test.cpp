@@ -52,7 +52,7 @@ void addWays()
 Way fetchWay()
 {
     return *static_cast<bool *>(QTest::qData("reverts", qMetaTypeId<bool>())) ? Way::Revert
-                                                                             : Way::Update;
+                                                                              : Way::Update;
 }
 
 } // namespace
@@ -104,10 +104,10 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QString>("substitute");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("the back of a post card") << QVariant(u"HagakiUra"_s) << u"Glossy"_s
-                                                 << u"Glossy Paper"_s;
-        QTest::newRow("an unknown medium") << QVariant(u"Stone"_s) << u"Plain"_s
-                                           << u"Plain Paper"_s;
+        QTest::newRow("the back of a post card")
+            << QVariant(u"HagakiUra"_s) << u"Glossy"_s << u"Glossy Paper"_s;
+        QTest::newRow("an unknown medium")
+            << QVariant(u"Stone"_s) << u"Plain"_s << u"Plain Paper"_s;
         QTest::newRow("no medium") << QVariant() << u"Plain"_s << u"Plain Paper"_s;
     }
     void aMediumThatIsNotOfferedIsReplaced()
@@ -258,8 +258,7 @@ private Q_SLOTS:
         m_panel->PPDOptionKeyValueDidChange_ppdChoice(u"QXMediaType"_s, u"Thick"_s);
         QCOMPARE(stored(u"QXMediaType"_s), u"Thick"_s);
         QCOMPARE(m_popUp->currentText(), u"Thick Paper"_s);
-        QCOMPARE(m_host->calls(),
-                 (QList<HostCall>{{u"updateUIforKey"_s, {u"QXMediaType"_s}}}));
+        QCOMPARE(m_host->calls(), (QList<HostCall>{{u"updateUIforKey"_s, {u"QXMediaType"_s}}}));
     }
 
     void aChangeElsewhereIsStoredBeforeThereIsAView()

@@ -276,14 +276,14 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("asked");
         QTest::newRow("MirrorPrint") << u"MirrorPrint"_s << false
                                      << QStringList{u"MirrorPrint=True"_s, u"MirrorPrint=False"_s};
-        QTest::newRow("any other") << u"QXGray"_s << false
-                                   << QStringList{u"QXGray=ON"_s, u"QXGray=OFF"_s};
-        QTest::newRow("slow drying keeps its state") << u"QXSlowDrying"_s << false
-                                                     << QStringList{u"QXSlowDrying=ON"_s};
-        QTest::newRow("a fax keeps MirrorPrint") << u"MirrorPrint"_s << true
-                                                 << QStringList{u"MirrorPrint=True"_s};
-        QTest::newRow("a fax keeps any other") << u"QXGray"_s << true
-                                               << QStringList{u"QXGray=ON"_s};
+        QTest::newRow("any other")
+            << u"QXGray"_s << false << QStringList{u"QXGray=ON"_s, u"QXGray=OFF"_s};
+        QTest::newRow("slow drying keeps its state")
+            << u"QXSlowDrying"_s << false << QStringList{u"QXSlowDrying=ON"_s};
+        QTest::newRow("a fax keeps MirrorPrint")
+            << u"MirrorPrint"_s << true << QStringList{u"MirrorPrint=True"_s};
+        QTest::newRow("a fax keeps any other")
+            << u"QXGray"_s << true << QStringList{u"QXGray=ON"_s};
     }
     void aDisabledCheckBoxIsStoredAsOff()
     {

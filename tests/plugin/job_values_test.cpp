@@ -82,22 +82,22 @@ private Q_SLOTS:
         const QList<JobOption> none;
         QTest::newRow("manual") << printer << entries(u"Custom"_s, u"12"_s)
                                 << minutes(u"Custom.12"_s);
-        QTest::newRow("manual, a number") << printer << entries(u"Custom"_s, 12)
-                                          << minutes(u"Custom.12"_s);
-        QTest::newRow("above the bounds") << printer << entries(u"Custom"_s, u"99"_s)
-                                          << minutes(u"Custom.50"_s);
-        QTest::newRow("below the bounds") << printer << entries(u"Custom"_s, u"1"_s)
-                                          << minutes(u"Custom.5"_s);
-        QTest::newRow("no minutes") << printer << QVariantMap{{kSleepMode, u"Custom"_s}}
-                                    << minutes(u"Custom.5"_s);
+        QTest::newRow("manual, a number")
+            << printer << entries(u"Custom"_s, 12) << minutes(u"Custom.12"_s);
+        QTest::newRow("above the bounds")
+            << printer << entries(u"Custom"_s, u"99"_s) << minutes(u"Custom.50"_s);
+        QTest::newRow("below the bounds")
+            << printer << entries(u"Custom"_s, u"1"_s) << minutes(u"Custom.5"_s);
+        QTest::newRow("no minutes")
+            << printer << QVariantMap{{kSleepMode, u"Custom"_s}} << minutes(u"Custom.5"_s);
         QTest::newRow("automatic") << printer << entries(u"Default"_s, u"Default"_s) << none;
         QTest::newRow("no entries") << printer << QVariantMap{} << none;
         QTest::newRow("minutes without a mode")
             << printer << QVariantMap{{kSleep, u"12"_s}} << none;
-        QTest::newRow("no parameter") << withSleepTime().text()
-                                      << entries(u"Custom"_s, u"12"_s) << none;
-        QTest::newRow("no such option") << PpdBuilder().text() << entries(u"Custom"_s, u"12"_s)
-                                        << none;
+        QTest::newRow("no parameter")
+            << withSleepTime().text() << entries(u"Custom"_s, u"12"_s) << none;
+        QTest::newRow("no such option")
+            << PpdBuilder().text() << entries(u"Custom"_s, u"12"_s) << none;
     }
     void theSleepTimeOfAJob() { compareOptions(); }
 
@@ -158,8 +158,11 @@ private Q_SLOTS:
 
     void anEffectThatThePpdLacksIsLeftOut()
     {
-        const auto host = RecordingHost::forPpd(
-            PpdBuilder().driverMatchesColors().option("QXRed", "Red", "0", {{"0", "0"}, {"+5", "5"}}).text());
+        const auto host =
+            RecordingHost::forPpd(PpdBuilder()
+                                      .driverMatchesColors()
+                                      .option("QXRed", "Red", "0", {{"0", "0"}, {"+5", "5"}})
+                                      .text());
         host->settings().setValue(kNormalEffect, QVariantList{9, 9, 5, 9, 9, 9});
         QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()),
                  (QList<JobOption>{{u"QXRed"_s, u"+5"_s}}));
@@ -207,8 +210,8 @@ private Q_SLOTS:
                  {{kSleepMode, u"Default"_s}, {kSleep, u"Default"_s}});
         for (const QString &bad :
              {u"Custom.0"_s, u"Custom.100"_s, u"Custom.-5"_s, u"Custom."_s, u"Custom"_s,
-              u"Custom.12min"_s, u"Custom.1.5"_s, u"Custom.99999999999999999999"_s,
-              u"{Time=100}"_s, u"{Span=12}"_s, u"{Time=12"_s, u"{"_s}) {
+              u"Custom.12min"_s, u"Custom.1.5"_s, u"Custom.99999999999999999999"_s, u"{Time=100}"_s,
+              u"{Span=12}"_s, u"{Time=12"_s, u"{"_s}) {
             refused(qPrintable(u"sleep: "_s + bad), sleep, bad, u"Custom.1 to Custom.99"_s);
         }
         notMine("sleep: a plain number", sleep, u"12"_s);
@@ -317,8 +320,7 @@ private Q_SLOTS:
         const QVariantList before{1, 2, 3, 4, 5, 6};
         for (const QLatin1StringView set : {kNormalEffect, kVividEffect, kMonoEffect})
             host->settings().setValue(set, before);
-        QCOMPARE(m_values
-                     .takeJobOption({u"QXSaturation"_s, u"-7"_s}, host->settings(), host->ppd())
+        QCOMPARE(m_values.takeJobOption({u"QXSaturation"_s, u"-7"_s}, host->settings(), host->ppd())
                      .outcome,
                  Outcome::Accepted);
         for (const QLatin1StringView set : {kNormalEffect, kVividEffect, kMonoEffect}) {
@@ -343,8 +345,8 @@ private Q_SLOTS:
         const auto host = RecordingHost::forSamplePrinter();
         QCOMPARE(m_values.takeJobOption({name, value}, host->settings(), host->ppd()).outcome,
                  Outcome::Accepted);
-        QVERIFY(m_values.jobOptions(host->settings(), host->ppd())
-                    .contains(JobOption{name, value}));
+        QVERIFY(
+            m_values.jobOptions(host->settings(), host->ppd()).contains(JobOption{name, value}));
     }
 
     // impliedMarks()
@@ -364,8 +366,8 @@ private Q_SLOTS:
         // Any fixed choice that is marked already is as good.
         QTest::newRow("automatic") << printer << QVariant(u"Default"_s) << none;
         QTest::newRow("no entry") << printer << QVariant() << none;
-        QTest::newRow("manual, no custom values") << withSleepTime().text()
-                                                  << QVariant(u"Custom"_s) << none;
+        QTest::newRow("manual, no custom values")
+            << withSleepTime().text() << QVariant(u"Custom"_s) << none;
         QTest::newRow("no such option") << PpdBuilder().text() << QVariant(u"Default"_s) << none;
     }
     void storedEntriesImplyMarks()

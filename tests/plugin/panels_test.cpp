@@ -26,8 +26,7 @@ public:
 bool colorTransformerIsRegistered()
 {
     return std::dynamic_pointer_cast<ColorTransformer>(
-               ValueTransformer::valueTransformerForName(kTransformer))
-        != nullptr;
+               ValueTransformer::valueTransformerForName(kTransformer)) != nullptr;
 }
 
 } // namespace
@@ -52,8 +51,8 @@ private Q_SLOTS:
     void theTypeHasTwoPanelsInOrder()
     {
         const auto host = RecordingHost::forSamplePrinter();
-        const auto panels = m_plugIn.PDEPanelsForType_withHostInfo(
-            u"BDB091F4-E57F-11D3-B5CC-0050E4603277"_s, host);
+        const auto panels =
+            m_plugIn.PDEPanelsForType_withHostInfo(u"BDB091F4-E57F-11D3-B5CC-0050E4603277"_s, host);
         QCOMPARE(panels.size(), 2);
         QVERIFY(std::dynamic_pointer_cast<QXLaserPrintSettingPDE>(panels.at(0)));
         QVERIFY(std::dynamic_pointer_cast<QXLaserColorSettingPDE>(panels.at(1)));

@@ -12,7 +12,7 @@ namespace corvana::test {
 class PrintSettingProbe : public QXLaserPrintSettingPDE
 {
 public:
-    explicit PrintSettingProbe(std::shared_ptr<RecordingHost> host) : m_host(std::move(host)) { }
+    explicit PrintSettingProbe(std::shared_ptr<RecordingHost> host) : m_host(std::move(host)) {}
 
     bool initWithHost() { return initWithCallback(m_host); }
 

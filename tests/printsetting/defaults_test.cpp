@@ -42,10 +42,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("imposed");
         QTest::newRow("another value, nothing marked") << QVariant(u"Tray1"_s) << QString() << true;
         QTest::newRow("no value, nothing marked") << QVariant() << QString() << true;
-        QTest::newRow("another value, the default marked") << QVariant(u"Tray1"_s) << u"Auto"_s
-                                                           << false;
-        QTest::newRow("another value, another marked") << QVariant(u"Auto2"_s) << u"Tray1"_s
-                                                       << false;
+        QTest::newRow("another value, the default marked")
+            << QVariant(u"Tray1"_s) << u"Auto"_s << false;
+        QTest::newRow("another value, another marked")
+            << QVariant(u"Auto2"_s) << u"Tray1"_s << false;
         QTest::newRow("the default, nothing marked") << QVariant(u"Auto"_s) << QString() << false;
     }
     void aDefaultIsImposedOnlyWhereNothingIsMarked()
@@ -82,8 +82,8 @@ private Q_SLOTS:
     void defaultsAreImposedInTheOrderOfTheOptions()
     {
         auto panel = makePanel(printer());
-        panel->PPDKeys = QStringList{u"QXSkipBlank"_s, u"NoOption"_s, u"QXMediaType"_s,
-                                     u"QXInputSlot"_s};
+        panel->PPDKeys =
+            QStringList{u"QXSkipBlank"_s, u"NoOption"_s, u"QXMediaType"_s, u"QXInputSlot"_s};
         panel->m_outputBin.clear();
         for (const QString &keyword : *panel->PPDKeys)
             m_host->unmark(keyword);

@@ -53,10 +53,10 @@ private Q_SLOTS:
         QTest::newRow("media type") << u"QXMediaType"_s << u"Media Type: "_s << u"Plain Paper"_s
                                     << 10; // post cards are not offered
         QTest::newRow("resolution") << u"QXResolution"_s << u"Resolution: "_s << u"600 dpi"_s << 3;
-        QTest::newRow("color mode") << u"QXMonoColor"_s << u"Color Mode: "_s
-                                    << u"Auto (Color or Mono)"_s << 3;
-        QTest::newRow("paper source") << u"QXInputSlot"_s << u"Paper Source: "_s
-                                      << u"Auto Select"_s << 5;
+        QTest::newRow("color mode")
+            << u"QXMonoColor"_s << u"Color Mode: "_s << u"Auto (Color or Mono)"_s << 3;
+        QTest::newRow("paper source")
+            << u"QXInputSlot"_s << u"Paper Source: "_s << u"Auto Select"_s << 5;
     }
     void showingFillsTheControls()
     {
@@ -84,8 +84,7 @@ private Q_SLOTS:
     void aPickByKeyboardReachesHostPanelAndJob()
     {
         QVERIFY(pickWithKeyboard(m_panel->resolutionPopup, u"1200 dpi"_s));
-        QCOMPARE(m_host->asked(),
-                 (QStringList{u"QXResolution=1200dpi"_s, u"TonerSaveMode=OFF"_s}));
+        QCOMPARE(m_host->asked(), (QStringList{u"QXResolution=1200dpi"_s, u"TonerSaveMode=OFF"_s}));
         QCOMPARE(m_panel->stored(u"QXResolution"_s), u"1200dpi"_s);
         QCOMPARE(m_host->marked(u"QXResolution"_s), u"1200dpi"_s);
         QCOMPARE(m_panel->entry(u"QXResolution"_s), QVariant(u"1200dpi"_s));

@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Market {
+struct Market
+{
     const char *name;
     QString language;
     int model;
@@ -67,8 +68,7 @@ private Q_SLOTS:
         QVERIFY(panel.mediaTypePopup->count() >= 10);
         for (const QString &medium : {u"PostCard"_s, u"BOND"_s, u"Plain"_s, u"Thin"_s}) {
             const bool offered = popup::indexOfItemWithRepresentedObject(panel.mediaTypePopup,
-                                                                         QVariant(medium))
-                >= 0;
+                                                                         QVariant(medium)) >= 0;
             QVERIFY2(offered == (medium != market.inhibited), qUtf8Printable(medium));
         }
     }
@@ -92,8 +92,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("japanese");
         QTest::addColumn<QString>("medium");
         QTest::newRow("an envelope") << true << u"EnvDL"_s << false << u"Env"_s;
-        QTest::newRow("an envelope before a post card") << true << u"Postcard"_s << true
-                                                        << u"Env"_s;
+        QTest::newRow("an envelope before a post card")
+            << true << u"Postcard"_s << true << u"Env"_s;
         QTest::newRow("a post card in Japan") << false << u"Postcard"_s << true << u"PostCard"_s;
         QTest::newRow("a post card elsewhere") << false << u"Postcard"_s << false << u"Thick"_s;
         QTest::newRow("capitalised as the medium") << false << u"PostCard"_s << true << u"Thin"_s;

@@ -35,10 +35,10 @@ private Q_SLOTS:
         QTest::newRow("below") << qint64(0) << qint64(1) << qint64(3) << qint64(1);
         QTest::newRow("inside") << qint64(2) << qint64(1) << qint64(3) << qint64(2);
         QTest::newRow("at the ends") << qint64(3) << qint64(3) << qint64(3) << qint64(3);
-        QTest::newRow("bounds the wrong way round") << qint64(2) << qint64(3) << qint64(1)
-                                                    << qint64(3);
-        QTest::newRow("above bounds the wrong way round") << qint64(7) << qint64(3) << qint64(1)
-                                                          << qint64(1);
+        QTest::newRow("bounds the wrong way round")
+            << qint64(2) << qint64(3) << qint64(1) << qint64(3);
+        QTest::newRow("above bounds the wrong way round")
+            << qint64(7) << qint64(3) << qint64(1) << qint64(1);
     }
     void valuesAreBroughtIntoTheirBounds()
     {
@@ -121,8 +121,8 @@ private Q_SLOTS:
         QTest::newRow("manual") << text(u"12"_s) << true << u"12"_s << u"Custom"_s;
         QTest::newRow("manual, below") << text(u"0"_s) << true << u"1"_s << u"Custom"_s;
         QTest::newRow("manual, above") << text(u"150"_s) << true << u"99"_s << u"Custom"_s;
-        QTest::newRow("manual, as it is written") << text(u"012"_s) << true << u"012"_s
-                                                  << u"Custom"_s;
+        QTest::newRow("manual, as it is written")
+            << text(u"012"_s) << true << u"012"_s << u"Custom"_s;
         QTest::newRow("manual, nothing") << QVariant() << true << u"1"_s << u"Custom"_s;
         QTest::newRow("automatic") << text(u"12"_s) << false << u"Default"_s << u"Default"_s;
     }
@@ -197,8 +197,8 @@ private Q_SLOTS:
         QTest::newRow("a number") << QVariant(4) << qint64(-6) << qint64(6) << qint64(4);
         QTest::newRow("no number") << text(u"dark"_s) << qint64(2) << qint64(6) << qint64(2);
         QTest::newRow("no entry") << QVariant() << qint64(-6) << qint64(6) << qint64(0);
-        QTest::newRow("no entry, zero out of bounds") << QVariant() << qint64(2) << qint64(6)
-                                                      << qint64(0);
+        QTest::newRow("no entry, zero out of bounds")
+            << QVariant() << qint64(2) << qint64(6) << qint64(0);
     }
     void aStoredDensityIsRestored()
     {

@@ -26,9 +26,9 @@ PpdBuilder withTwoImproveOptions()
 
 PpdBuilder withOneImproveOption()
 {
-    return PpdBuilder().option("QXImproveOutput", "Improve", "OFF",
-                               {{"OFF", "Off"}, {"QXFixIntensity", "Fix"},
-                                {"QXLessPaperCurl", "Curl"}});
+    return PpdBuilder().option(
+        "QXImproveOutput", "Improve", "OFF",
+        {{"OFF", "Off"}, {"QXFixIntensity", "Fix"}, {"QXLessPaperCurl", "Curl"}});
 }
 
 } // namespace
@@ -45,10 +45,10 @@ private Q_SLOTS:
         PrintSettingProbe panel(host);
         panel.tracing = true;
         QVERIFY(panel.initWithHost());
-        QList<HostCall> expected = withoutArguments(
-            {u"setPPDKeys"_s, u"checkFax"_s, u"checkLang"_s, u"setDefaults"_s,
-             u"restoreOptionState"_s, u"checkConstraints"_s, u"saveAllValues"_s,
-             u"canSelectColorMode"_s, u"checkConstraints"_s, u"checkLang"_s});
+        QList<HostCall> expected =
+            withoutArguments({u"setPPDKeys"_s, u"checkFax"_s, u"checkLang"_s, u"setDefaults"_s,
+                              u"restoreOptionState"_s, u"checkConstraints"_s, u"saveAllValues"_s,
+                              u"canSelectColorMode"_s, u"checkConstraints"_s, u"checkLang"_s});
         expected += HostCall{u"readPageSetup"_s, {QString()}};
         expected += HostCall{u"setDefaults"_s, {}};
         QCOMPARE(host->calls(), expected);
@@ -66,10 +66,17 @@ private Q_SLOTS:
         QCOMPARE(error, u"untouched"_s);
         // The driver's colour matching is not looked at here, unlike in the base's restore.
         const QStringList expected{
-            u"checkFax"_s,         u"checkLang"_s,           u"setDefaults"_s,
-            u"restoreOptionState"_s, u"checkConstraints"_s,  u"restoreDensityValue"_s,
-            u"restoreSleepTimeValue"_s, u"saveAllValues"_s,  u"saveDensityValue"_s,
-            u"saveSleepTimeValue"_s, u"canSelectColorMode"_s,
+            u"checkFax"_s,
+            u"checkLang"_s,
+            u"setDefaults"_s,
+            u"restoreOptionState"_s,
+            u"checkConstraints"_s,
+            u"restoreDensityValue"_s,
+            u"restoreSleepTimeValue"_s,
+            u"saveAllValues"_s,
+            u"saveDensityValue"_s,
+            u"saveSleepTimeValue"_s,
+            u"canSelectColorMode"_s,
         };
         QCOMPARE(host->calls(), withoutArguments(expected));
     }
@@ -254,8 +261,8 @@ private Q_SLOTS:
         QVERIFY(panel.saveValuesAndReturnError(&error));
         QCOMPARE(error, u"untouched"_s);
         QList<HostCall> expected = withoutArguments({u"saveAllValues"_s, u"saveDensityValue"_s});
-        expected += HostCall{u"willChangePPDOptionKeyValue_ppdChoice"_s,
-                             {u"TonerSaveMode"_s, u"OFF"_s}};
+        expected +=
+            HostCall{u"willChangePPDOptionKeyValue_ppdChoice"_s, {u"TonerSaveMode"_s, u"OFF"_s}};
         expected += HostCall{u"saveSleepTimeValue"_s, {}};
         QCOMPARE(host->calls(), expected);
     }

@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct SleepTimeCase {
+struct SleepTimeCase
+{
     const char *name;
     PpdBuilder ppd;
     QString key;
@@ -54,14 +55,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("keyword");
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("label");
-        QTest::newRow("resolution") << u"QXResolution"_s << u"resolutionPopup"_s
-                                    << u"resolutionLabel"_s;
-        QTest::newRow("media type") << u"QXMediaType"_s << u"mediaTypePopup"_s
-                                    << u"mediaTypeLabel"_s;
-        QTest::newRow("color mode") << u"QXMonoColor"_s << u"monoColorPopup"_s
-                                    << u"monoColorLabel"_s;
-        QTest::newRow("paper source") << u"QXInputSlot"_s << u"paperFeedPopup"_s
-                                      << u"paperFeedLabel"_s;
+        QTest::newRow("resolution")
+            << u"QXResolution"_s << u"resolutionPopup"_s << u"resolutionLabel"_s;
+        QTest::newRow("media type")
+            << u"QXMediaType"_s << u"mediaTypePopup"_s << u"mediaTypeLabel"_s;
+        QTest::newRow("color mode")
+            << u"QXMonoColor"_s << u"monoColorPopup"_s << u"monoColorLabel"_s;
+        QTest::newRow("paper source")
+            << u"QXInputSlot"_s << u"paperFeedPopup"_s << u"paperFeedLabel"_s;
     }
     void eachOptionHasItsControlAndLabel()
     {

@@ -27,10 +27,18 @@ private Q_SLOTS:
         QVERIFY(panel.initWithHost());
         const QVariantMap summary = panel.summaryInfo();
         const QStringList order{
-            u"Model"_s,           u"Resolution"_s,           u"Media Type"_s,
-            u"Color Mode"_s,      u"Paper Source"_s,         u"Toner Save"_s,
-            u"Improve Print Output"_s, u"Reduce Ghosting"_s, u"Density Adjustment"_s,
-            u"Sleep Time"_s,      u"Quiet Mode"_s,           u"Skip Blank Pages"_s,
+            u"Model"_s,
+            u"Resolution"_s,
+            u"Media Type"_s,
+            u"Color Mode"_s,
+            u"Paper Source"_s,
+            u"Toner Save"_s,
+            u"Improve Print Output"_s,
+            u"Reduce Ghosting"_s,
+            u"Density Adjustment"_s,
+            u"Sleep Time"_s,
+            u"Quiet Mode"_s,
+            u"Skip Blank Pages"_s,
         };
         QCOMPARE(summary.value(kOrder).toStringList(), order);
         QCOMPARE(summary.value(u"Model"_s).toString(), u"Corvana CL-550 Color"_s);

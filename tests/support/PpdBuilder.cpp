@@ -40,16 +40,16 @@ PpdBuilder &PpdBuilder::customInteger(const QByteArray &keyword, const QByteArra
                                       const QByteArray &text, int minimum, int maximum)
 {
     line("*Custom" + keyword + " True/Custom: \"\"");
-    return line("*ParamCustom" + keyword + ' ' + parameter + '/' + text + ": 1 int "
-                + QByteArray::number(minimum) + ' ' + QByteArray::number(maximum));
+    return line("*ParamCustom" + keyword + ' ' + parameter + '/' + text + ": 1 int " +
+                QByteArray::number(minimum) + ' ' + QByteArray::number(maximum));
 }
 
 PpdBuilder &PpdBuilder::customOfType(const QByteArray &keyword, const QByteArray &parameter,
                                      const QByteArray &type)
 {
     line("*Custom" + keyword + " True/Custom: \"\"");
-    return line("*ParamCustom" + keyword + ' ' + parameter + '/' + parameter + ": 1 " + type
-                + " 10 20");
+    return line("*ParamCustom" + keyword + ' ' + parameter + '/' + parameter + ": 1 " + type +
+                " 10 20");
 }
 
 PpdBuilder &PpdBuilder::line(const QByteArray &line)
@@ -67,8 +67,8 @@ PpdBuilder &PpdBuilder::constraint(const QByteArray &keyword, const QByteArray &
                                    const QByteArray &otherKeyword, const QByteArray &otherChoice)
 {
     line("*UIConstraints: *" + keyword + ' ' + choice + " *" + otherKeyword + ' ' + otherChoice);
-    return line("*UIConstraints: *" + otherKeyword + ' ' + otherChoice + " *" + keyword + ' '
-                + choice);
+    return line("*UIConstraints: *" + otherKeyword + ' ' + otherChoice + " *" + keyword + ' ' +
+                choice);
 }
 
 QByteArray PpdBuilder::text() const
@@ -82,29 +82,29 @@ QByteArray PpdBuilder::text() const
            "*Manufacturer: \"Corvana\"\n"
            "*Product: \"(Corvana Test)\"\n"
            "*ModelName: \"Corvana Test\"\n"
-           "*ShortNickName: \""
-        + m_shortNickName
-        + "\"\n"
-          "*NickName: \"Corvana Test, PostScript\"\n"
-          "*PSVersion: \"(3010.000) 0\"\n"
-          "*LanguageLevel: \"3\"\n"
-          "*ColorDevice: True\n"
-          "*cupsModelNumber: "
-        + QByteArray::number(m_modelNumber)
-        + "\n"
-          "*OpenUI *PageSize/Paper Size: PickOne\n"
-          "*OrderDependency: 10 AnySetup *PageSize\n"
-          "*DefaultPageSize: A4\n"
-          "*PageSize A4/A4: \"\"\n"
-          "*PageSize Postcard/Postcard: \"\"\n"
-          "*CloseUI: *PageSize\n"
-          "*DefaultImageableArea: A4\n"
-          "*ImageableArea A4/A4: \"12 12 583 830\"\n"
-          "*ImageableArea Postcard/Postcard: \"12 12 272 407\"\n"
-          "*DefaultPaperDimension: A4\n"
-          "*PaperDimension A4/A4: \"595 842\"\n"
-          "*PaperDimension Postcard/Postcard: \"284 419\"\n"
-        + m_body;
+           "*ShortNickName: \"" +
+           m_shortNickName +
+           "\"\n"
+           "*NickName: \"Corvana Test, PostScript\"\n"
+           "*PSVersion: \"(3010.000) 0\"\n"
+           "*LanguageLevel: \"3\"\n"
+           "*ColorDevice: True\n"
+           "*cupsModelNumber: " +
+           QByteArray::number(m_modelNumber) +
+           "\n"
+           "*OpenUI *PageSize/Paper Size: PickOne\n"
+           "*OrderDependency: 10 AnySetup *PageSize\n"
+           "*DefaultPageSize: A4\n"
+           "*PageSize A4/A4: \"\"\n"
+           "*PageSize Postcard/Postcard: \"\"\n"
+           "*CloseUI: *PageSize\n"
+           "*DefaultImageableArea: A4\n"
+           "*ImageableArea A4/A4: \"12 12 583 830\"\n"
+           "*ImageableArea Postcard/Postcard: \"12 12 272 407\"\n"
+           "*DefaultPaperDimension: A4\n"
+           "*PaperDimension A4/A4: \"595 842\"\n"
+           "*PaperDimension Postcard/Postcard: \"284 419\"\n" +
+           m_body;
 }
 
 QByteArray samplePpd(int modelNumber)

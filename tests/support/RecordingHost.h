@@ -14,7 +14,8 @@
 namespace corvana::test {
 
 /// One thing that a panel did to its host, as a comparable value.
-struct HostCall {
+struct HostCall
+{
     /// Name of the operation, as in PDEPluginCallback; or whatever was noted by note().
     QString operation;
     QStringList arguments;

@@ -9,7 +9,8 @@
 namespace corvana::test {
 
 /// One alert that was shown.
-struct ShownAlert {
+struct ShownAlert
+{
     Alert alert;
     QPointer<QWidget> parent;
 };

@@ -50,7 +50,7 @@ TestBundle::TestBundle(Information information, const QJsonObject &furtherInform
     open(m_folder->path());
 }
 
-TestBundle::TestBundle(std::unique_ptr<QTemporaryDir> folder) : m_folder(std::move(folder)) { }
+TestBundle::TestBundle(std::unique_ptr<QTemporaryDir> folder) : m_folder(std::move(folder)) {}
 
 TestBundle::~TestBundle()
 {
@@ -92,8 +92,7 @@ void TestBundle::setTexts(const QMap<QString, QString> &textsByKey)
     const QString source = m_folder->filePath(QStringLiteral("strings/English.ts"));
     const QString target = m_folder->filePath(QStringLiteral("strings/English.qm"));
     if (QProcess::execute(QStringLiteral(CORVANA_TEST_LRELEASE),
-                          {QStringLiteral("-silent"), source, QStringLiteral("-qm"), target})
-        != 0)
+                          {QStringLiteral("-silent"), source, QStringLiteral("-qm"), target}) != 0)
         throw std::runtime_error(source.toStdString() + " is no string table");
 }
 

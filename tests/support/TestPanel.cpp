@@ -19,7 +19,7 @@ constexpr QLatin1StringView kLabelSuffix{"Label"};
 
 } // namespace
 
-TestPanel::TestPanel(const QStringList &keywords) : m_keywords(keywords) { }
+TestPanel::TestPanel(const QStringList &keywords) : m_keywords(keywords) {}
 
 bool TestPanel::initWithHost(const std::shared_ptr<RecordingHost> &host)
 {
@@ -36,8 +36,7 @@ QWidget *TestPanel::makeView()
     return m_panelView;
 }
 
-template <typename Control>
-Control *TestPanel::addControl(const QString &keyword)
+template <typename Control> Control *TestPanel::addControl(const QString &keyword)
 {
     auto *control = new Control(makeView());
     control->setObjectName(keyword);

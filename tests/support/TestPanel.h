@@ -94,8 +94,7 @@ public:
 
 private:
     void step(const char *operation, const QStringList &arguments = {});
-    template <typename Control>
-    Control *addControl(const QString &keyword);
+    template <typename Control> Control *addControl(const QString &keyword);
 
     std::optional<QStringList> m_keywords;
     std::shared_ptr<RecordingHost> m_host;

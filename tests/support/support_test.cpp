@@ -44,11 +44,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("keyword");
         QTest::addColumn<QString>("choice");
-        QTest::newRow("an unknown option") << "NoOption" << "Plain";
-        QTest::newRow("an unknown choice") << "QXMediaType" << "Paper";
-        QTest::newRow("a choice in other letter case") << "QXMediaType" << "plain";
-        QTest::newRow("a constraint of the PPD") << "Duplex" << "DuplexTumble";
-        QTest::newRow("what the test refuses") << "QXMonoColor" << "Mono";
+        QTest::newRow("an unknown option") << "NoOption"
+                                           << "Plain";
+        QTest::newRow("an unknown choice") << "QXMediaType"
+                                           << "Paper";
+        QTest::newRow("a choice in other letter case") << "QXMediaType"
+                                                       << "plain";
+        QTest::newRow("a constraint of the PPD") << "Duplex"
+                                                 << "DuplexTumble";
+        QTest::newRow("what the test refuses") << "QXMonoColor"
+                                               << "Mono";
     }
     void whatTheHostRefuses()
     {

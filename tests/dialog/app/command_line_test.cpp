@@ -71,7 +71,9 @@ private Q_SLOTS:
         row("no dialog", {u"--no-dialog"_s, doc}, [](CommandLine &l) { l.noDialog = true; });
         row("summary", {u"--summary"_s, doc}, [](CommandLine &l) { l.summary = true; });
         row("several documents, standard input among them", {doc, u"-"_s, u"b.png"_s},
-            [](CommandLine &l) { l.documents += {u"-"_s, u"b.png"_s}; });
+            [](CommandLine &l) {
+                l.documents += {u"-"_s, u"b.png"_s};
+            });
         row("instructions hold the job", {u"--on-alert"_s, u"hold"_s, doc},
             [](CommandLine &l) { l.onAlert = AlertPolicy::Hold; });
         row("a document whose name begins with a dash", {u"--"_s, u"-n"_s},

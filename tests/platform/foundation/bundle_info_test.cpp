@@ -78,7 +78,8 @@ void BundleInfoTest::theDictionaryIsRead()
 {
     QString error;
     const auto bundle = bundleWith(R"({"CFBundleIdentifier": "com.corvana.test",
-                                      "CFBundleName": "試験"})", &error);
+                                      "CFBundleName": "試験"})",
+                                   &error);
     QVERIFY2(error.isNull(), qPrintable(error));
     QVERIFY(bundle->infoDictionary());
     QCOMPARE(bundle->identifier(), QStringLiteral("com.corvana.test"));
@@ -111,8 +112,8 @@ void BundleInfoTest::aDictionaryThatCannotBeReadIsNone_data()
                                << QStringLiteral("info.json:2:");
     QTest::newRow("a list") << QByteArray("[\"CFBundleName\"]") << QStringLiteral("info.json:1:");
     QTest::newRow("a text") << QByteArray("\"CFBundleName\"") << QStringLiteral("info.json:1:");
-    QTest::newRow("rubbish behind the object") << QByteArray("{}\n}\n")
-                                               << QStringLiteral("info.json:2:");
+    QTest::newRow("rubbish behind the object")
+        << QByteArray("{}\n}\n") << QStringLiteral("info.json:2:");
 }
 
 void BundleInfoTest::aDictionaryThatCannotBeReadIsNone()

@@ -85,12 +85,12 @@ void BundleLocalizationsTest::theDefaultLocaleChoosesTheLocalization_data()
     QTest::addColumn<QString>("first");
     QTest::newRow("English") << QLocale(QStringLiteral("en_US")) << QStringLiteral("English");
     QTest::newRow("Japanese") << QLocale(QStringLiteral("ja_JP")) << QStringLiteral("Japanese");
-    QTest::newRow("simplified Chinese") << QLocale(QStringLiteral("zh_CN"))
-                                        << QStringLiteral("zh_CN");
-    QTest::newRow("Chinese without a region") << QLocale(QLocale::Chinese)
-                                              << QStringLiteral("zh_CN");
-    QTest::newRow("traditional Chinese") << QLocale(QStringLiteral("zh_TW"))
-                                         << QStringLiteral("English");
+    QTest::newRow("simplified Chinese")
+        << QLocale(QStringLiteral("zh_CN")) << QStringLiteral("zh_CN");
+    QTest::newRow("Chinese without a region")
+        << QLocale(QLocale::Chinese) << QStringLiteral("zh_CN");
+    QTest::newRow("traditional Chinese")
+        << QLocale(QStringLiteral("zh_TW")) << QStringLiteral("English");
     QTest::newRow("German") << QLocale(QStringLiteral("de_DE")) << QStringLiteral("English");
     QTest::newRow("C") << QLocale::c() << QStringLiteral("English");
 }

@@ -32,7 +32,7 @@ private:
 
 namespace {
 
-void someCode() { }
+void someCode() {}
 int someData = 0;
 
 const void *address(void (*code)())
@@ -48,10 +48,10 @@ void BundleResourcesTest::init()
     QDir root(m_root->path());
     QVERIFY(root.mkpath(QStringLiteral("Test.bundle/interface/sub")));
     QVERIFY(root.mkpath(QStringLiteral("Test.bundle/pictures/folder.tiff")));
-    for (const char *name : {"outside.ui", "outside.tiff", "Test.bundle/stray.ui",
-                             "Test.bundle/interface/Panel.ui", "Test.bundle/interface/.hidden.ui",
-                             "Test.bundle/interface/sub/Deep.ui", "Test.bundle/interface/a%1b.ui",
-                             "Test.bundle/pictures/load.tiff"})
+    for (const char *name :
+         {"outside.ui", "outside.tiff", "Test.bundle/stray.ui", "Test.bundle/interface/Panel.ui",
+          "Test.bundle/interface/.hidden.ui", "Test.bundle/interface/sub/Deep.ui",
+          "Test.bundle/interface/a%1b.ui", "Test.bundle/pictures/load.tiff"})
         write(QString::fromLatin1(name));
     m_bundle = Bundle::open(root.filePath(QStringLiteral("Test.bundle")));
     QVERIFY(m_bundle);
@@ -101,14 +101,16 @@ void BundleResourcesTest::aNameThatLeavesTheFolderFindsNothing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("type");
-    QTest::newRow("parent of the bundle") << QStringLiteral("../../outside") << QStringLiteral("ui");
-    QTest::newRow("parent in the middle") << QStringLiteral("sub/../../stray")
-                                          << QStringLiteral("ui");
+    QTest::newRow("parent of the bundle")
+        << QStringLiteral("../../outside") << QStringLiteral("ui");
+    QTest::newRow("parent in the middle")
+        << QStringLiteral("sub/../../stray") << QStringLiteral("ui");
     QTest::newRow("sub-folder") << QStringLiteral("sub/Deep") << QStringLiteral("ui");
     QTest::newRow("hidden file") << QStringLiteral(".hidden") << QStringLiteral("ui");
-    QTest::newRow("absolute") << m_root->filePath(QStringLiteral("outside")) << QStringLiteral("ui");
-    QTest::newRow("through the type") << QStringLiteral("folder")
-                                      << QStringLiteral("tiff/../../stray.ui");
+    QTest::newRow("absolute") << m_root->filePath(QStringLiteral("outside"))
+                              << QStringLiteral("ui");
+    QTest::newRow("through the type")
+        << QStringLiteral("folder") << QStringLiteral("tiff/../../stray.ui");
 }
 
 void BundleResourcesTest::aNameThatLeavesTheFolderFindsNothing()

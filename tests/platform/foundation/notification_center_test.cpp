@@ -40,8 +40,10 @@ void NotificationCenterTest::deliveryIsAtOnceAndInTheOrderOfRegistration()
     QStringList heard;
     int a = 0;
     int b = 0;
-    center.addObserver(&b, name, nullptr, [&](const Notification &) { heard += QStringLiteral("b"); });
-    center.addObserver(&a, name, nullptr, [&](const Notification &) { heard += QStringLiteral("a"); });
+    center.addObserver(&b, name, nullptr,
+                       [&](const Notification &) { heard += QStringLiteral("b"); });
+    center.addObserver(&a, name, nullptr,
+                       [&](const Notification &) { heard += QStringLiteral("a"); });
     center.post(name, nullptr);
     QCOMPARE(heard, (QStringList{QStringLiteral("b"), QStringLiteral("a")}));
 }
@@ -194,7 +196,8 @@ void NotificationCenterTest::anObserverAddedMeanwhileIsNotReached()
     center.addObserver(this, name, nullptr, [&](const Notification &) {
         // Many, so that the list of registrations must move in memory during the delivery.
         for (int i = 0; i < 100; ++i)
-            center.addObserver(&added, name, nullptr, [&](const Notification &) { ++heardByAdded; });
+            center.addObserver(&added, name, nullptr,
+                               [&](const Notification &) { ++heardByAdded; });
     });
     center.post(name, nullptr);
     QCOMPARE(heardByAdded, 0);

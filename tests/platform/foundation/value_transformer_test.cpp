@@ -24,7 +24,7 @@ namespace {
 class Constant : public ValueTransformer
 {
 public:
-    explicit Constant(int value, int *deaths = nullptr) : m_value(value), m_deaths(deaths) { }
+    explicit Constant(int value, int *deaths = nullptr) : m_value(value), m_deaths(deaths) {}
     ~Constant() override
     {
         if (m_deaths)

@@ -118,8 +118,7 @@ void ValuesTest::aNumberIsTruncated_data()
     row("float", QVariant::fromValue(2.5f), 2);
     row("minus zero", -0.0, 0);
     row("less than one", 0.999, 0);
-    row("largest double below 2 to the 63", std::nextafter(kTwoToThe63, 0.0),
-        9223372036854774784);
+    row("largest double below 2 to the 63", std::nextafter(kTwoToThe63, 0.0), 9223372036854774784);
     row("2 to the 63", kTwoToThe63, kHighest);
     row("minus 2 to the 63", -kTwoToThe63, kLowest);
     row("below minus 2 to the 63", std::nextafter(-kTwoToThe63, -kInfinity), kLowest);

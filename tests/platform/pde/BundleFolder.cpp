@@ -16,7 +16,8 @@ BundleFolder::BundleFolder()
 QByteArray BundleFolder::info(const QByteArray &executable)
 {
     return "{\"CFBundleName\": \"Test\", \"CFBundleIdentifier\": \"com.corvana.test\", "
-           "\"PMPPDKeysSupported\": [], \"CFBundleExecutable\": \"" + executable + "\"}";
+           "\"PMPPDKeysSupported\": [], \"CFBundleExecutable\": \"" +
+           executable + "\"}";
 }
 
 bool BundleFolder::makeBundle(const QString &bundle, const QString &module, const QByteArray &info)

@@ -11,7 +11,8 @@
 inline constexpr char kMarkVariable[] = "CORVANA_TEST_MARK";
 
 /// Leaves the mark. As a static object of a module it runs before anything that a host can call.
-struct Mark {
+struct Mark
+{
     Mark()
     {
         QFile file(qEnvironmentVariable(kMarkVariable));

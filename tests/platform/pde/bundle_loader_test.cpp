@@ -87,8 +87,8 @@ void BundleLoaderTest::thePlugInKnowsItsBundleWhenItIsInitialised()
 void BundleLoaderTest::theFirstRootThatHasTheBundleWins()
 {
     const QString second = m_folder->otherRoot() + QStringLiteral("/Test.bundle");
-    QVERIFY(BundleFolder::makeBundle(second, QStringLiteral("Good"),
-                                     BundleFolder::info(kExecutable)));
+    QVERIFY(
+        BundleFolder::makeBundle(second, QStringLiteral("Good"), BundleFolder::info(kExecutable)));
     QCOMPARE(load().bundle->path(), QFileInfo(second).canonicalFilePath());
     QVERIFY(BundleFolder::makeBundle(bundle(), QStringLiteral("Good"),
                                      BundleFolder::info(kExecutable)));
@@ -163,8 +163,8 @@ void BundleLoaderTest::aDictionaryThatIsNotEnoughIsRefused_data()
     QTest::newRow("no executable") << QByteArray(R"({"CFBundleName": "a",
                                                      "CFBundleIdentifier": "a"})")
                                    << QStringLiteral("CFBundleExecutable");
-    QTest::newRow("empty executable") << BundleFolder::info("")
-                                      << QStringLiteral("CFBundleExecutable");
+    QTest::newRow("empty executable")
+        << BundleFolder::info("") << QStringLiteral("CFBundleExecutable");
     QTest::newRow("executable is no text") << QByteArray(R"({"CFBundleName": "a",
         "CFBundleIdentifier": "a", "CFBundleExecutable": ["module/test.so"]})")
                                            << QStringLiteral("CFBundleExecutable");
@@ -196,11 +196,10 @@ void BundleLoaderTest::aModuleThatCannotBeUsedIsRefused_data()
     QTest::newRow("missing") << QByteArray("module/none.so") << QStringLiteral("missing");
     QTest::newRow("a folder") << QByteArray("module") << QStringLiteral("contract");
     QTest::newRow("no library") << QByteArray("info.json") << QStringLiteral("contract");
-    QTest::newRow("outside the bundle") << QByteArray("../outside.so")
-                                        << QStringLiteral("leads out of the bundle");
-    QTest::newRow("in a bundle with a longer name")
-        << QByteArray("../Test.bundle2/module/test.so")
-        << QStringLiteral("leads out of the bundle");
+    QTest::newRow("outside the bundle")
+        << QByteArray("../outside.so") << QStringLiteral("leads out of the bundle");
+    QTest::newRow("in a bundle with a longer name") << QByteArray("../Test.bundle2/module/test.so")
+                                                    << QStringLiteral("leads out of the bundle");
     QTest::newRow("the bundle itself") << QByteArray(".") << QStringLiteral("leads out");
 }
 
@@ -208,8 +207,8 @@ void BundleLoaderTest::aModuleThatCannotBeUsedIsRefused()
 {
     QFETCH(QByteArray, executable);
     QFETCH(QString, reason);
-    QVERIFY(BundleFolder::makeBundle(bundle(), QStringLiteral("Good"),
-                                     BundleFolder::info(executable)));
+    QVERIFY(
+        BundleFolder::makeBundle(bundle(), QStringLiteral("Good"), BundleFolder::info(executable)));
     QVERIFY(BundleFolder::makeBundle(bundle() + u'2', QStringLiteral("Good"),
                                      BundleFolder::info(kExecutable)));
     QVERIFY(BundleFolder::copyModule(QStringLiteral("Good"),

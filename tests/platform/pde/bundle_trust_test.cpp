@@ -41,8 +41,8 @@ namespace {
 
 constexpr auto kOwnerOnly =
     QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
-constexpr auto kEverybody = kOwnerOnly | QFileDevice::ReadOther | QFileDevice::WriteOther
-    | QFileDevice::ExeOther;
+constexpr auto kEverybody =
+    kOwnerOnly | QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
 constexpr uid_t kNobody = 65534;
 
 void addTrustRows()
@@ -64,8 +64,7 @@ void BundleTrustTest::init()
 
 void BundleTrustTest::loadAndCompareRefused(const QString &reason)
 {
-    const LoadedPlugIn loaded =
-        loadPlugInBundle(QStringLiteral("Test.bundle"), {m_folder->root()});
+    const LoadedPlugIn loaded = loadPlugInBundle(QStringLiteral("Test.bundle"), {m_folder->root()});
     QVERIFY(!loaded.plugIn);
     QVERIFY2(loaded.problem.contains(reason), qPrintable(loaded.problem));
     QCOMPARE(m_folder->marks(), 0);

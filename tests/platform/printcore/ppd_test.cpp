@@ -62,7 +62,8 @@ private Q_SLOTS:
     void aKeywordIsTakenAsItStands();
 
 private:
-    struct Closer {
+    struct Closer
+    {
         void operator()(ppd_file_t *file) const { ppdClose(file); }
     };
     std::unique_ptr<ppd_file_t, Closer> m_ppd;
@@ -174,8 +175,8 @@ void PpdTest::theCustomParameterIsFound()
 {
     QVERIFY(ppdHasCustomOption(m_ppd.get(), QStringLiteral("QXSleepTime")));
     QVERIFY(!ppdHasCustomOption(m_ppd.get(), QStringLiteral("QXMediaType")));
-    const ppd_cparam_t *time = ppdCustomParameter(m_ppd.get(), QStringLiteral("QXSleepTime"),
-                                                  QStringLiteral("Time"));
+    const ppd_cparam_t *time =
+        ppdCustomParameter(m_ppd.get(), QStringLiteral("QXSleepTime"), QStringLiteral("Time"));
     QVERIFY(time);
     QCOMPARE(time->minimum.custom_int, 1);
     QCOMPARE(time->maximum.custom_int, 99);
@@ -186,11 +187,11 @@ void PpdTest::aCustomParameterNeedsExactNames_data()
     QTest::addColumn<QString>("keyword");
     QTest::addColumn<QString>("name");
     const QString sleep = QStringLiteral("QXSleepTime");
-    QTest::newRow("option without custom values") << QStringLiteral("QXMediaType")
-                                                  << QStringLiteral("Time");
+    QTest::newRow("option without custom values")
+        << QStringLiteral("QXMediaType") << QStringLiteral("Time");
     QTest::newRow("unknown option") << QStringLiteral("QXNoSuch") << QStringLiteral("Time");
-    QTest::newRow("option in other case") << QStringLiteral("qxsleeptime")
-                                          << QStringLiteral("Time");
+    QTest::newRow("option in other case")
+        << QStringLiteral("qxsleeptime") << QStringLiteral("Time");
     QTest::newRow("unknown parameter") << sleep << QStringLiteral("Minutes");
     QTest::newRow("parameter in other case") << sleep << QStringLiteral("time");
     QTest::newRow("parameter not ASCII") << sleep << QStringLiteral("Tim\u00e9");
@@ -222,8 +223,8 @@ void PpdTest::aTextIsDecodedStrictly_data()
     QTest::newRow("empty") << QByteArray("") << true << QString();
     QTest::newRow("Japanese") << QByteArray("\xe7\x94\xa8\xe7\xb4\x99") << true
                               << QStringLiteral("用紙");
-    QTest::newRow("outside the basic plane") << QByteArray("\xf0\xa0\xae\xb7") << true
-                                             << QStringLiteral("𠮷");
+    QTest::newRow("outside the basic plane")
+        << QByteArray("\xf0\xa0\xae\xb7") << true << QStringLiteral("𠮷");
     QTest::newRow("Latin-1") << QByteArray("Caf\xe9 noir") << false << QString();
     QTest::newRow("Shift JIS") << QByteArray("\x97\x70\x8e\x86") << false << QString();
     QTest::newRow("cut in the middle of a letter") << QByteArray("A\xe7\x94") << false << QString();
@@ -231,8 +232,8 @@ void PpdTest::aTextIsDecodedStrictly_data()
     QTest::newRow("continuation byte alone") << QByteArray("\x80") << false << QString();
     QTest::newRow("overlong") << QByteArray("\xc0\xaf") << false << QString();
     QTest::newRow("surrogate") << QByteArray("\xed\xa0\x80") << false << QString();
-    QTest::newRow("past the last code point") << QByteArray("\xf4\x90\x80\x80") << false
-                                              << QString();
+    QTest::newRow("past the last code point")
+        << QByteArray("\xf4\x90\x80\x80") << false << QString();
 }
 
 void PpdTest::aTextIsDecodedStrictly()

@@ -38,13 +38,14 @@ QByteArray form(const QByteArray &controls)
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<ui version=\"4.0\">\n"
-           " <widget class=\"QWidget\" name=\"panelView\">\n"
-        + controls + "\n </widget>\n</ui>\n";
+           " <widget class=\"QWidget\" name=\"panelView\">\n" +
+           controls + "\n </widget>\n</ui>\n";
 }
 
 QByteArray stringProperty(const QByteArray &name, const QByteArray &text)
 {
-    return "<property name=\"" + name + "\" stdset=\"0\">\n<string>" + text + "</string>\n</property>\n";
+    return "<property name=\"" + name + "\" stdset=\"0\">\n<string>" + text +
+           "</string>\n</property>\n";
 }
 
 } // namespace
@@ -83,40 +84,45 @@ void InterfaceProblemsTest::aFileThatCannotBeUsedLoadsNoView_data()
     row("cut in the middle", form("<widget class=\"QLabel\" name=\"a\"/>").left(120), "line 4", "");
     row("another kind of XML", "<html/>", "", "ui");
     row("no widget", "<ui version=\"4.0\"></ui>", "", "");
-    row("unknown control class", form("\n\n<widget class=\"QKnob\" name=\"knob\"/>"), "Test.ui:6:",
-        "\"QKnob\"");
-    row("unknown class in single quotes", form("<widget class='QKnob' name='knob'/>"), "Test.ui: ",
-        "\"QKnob\"");
+    row("unknown control class", form("\n\n<widget class=\"QKnob\" name=\"knob\"/>"),
+        "Test.ui:6:", "\"QKnob\"");
+    row("unknown class in single quotes", form("<widget class='QKnob' name='knob'/>"),
+        "Test.ui: ", "\"QKnob\"");
     row("unknown class of the root",
-        "<ui version=\"4.0\">\n<widget class=\"QKnob\" name=\"panelView\"/>\n</ui>", "Test.ui:2:",
-        "\"QKnob\"");
+        "<ui version=\"4.0\">\n<widget class=\"QKnob\" name=\"panelView\"/>\n</ui>",
+        "Test.ui:2:", "\"QKnob\"");
     row("unknown class that says what it extends",
         "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"panelView\">\n"
         "<widget class=\"QKnob\" name=\"knob\"/></widget>\n<customwidgets><customwidget>"
         "<class>QKnob</class><extends>QWidget</extends></customwidget></customwidgets></ui>",
         "Test.ui:2:", "\"QKnob\"");
-    row("unknown layout", form("<layout class=\"QSpiralLayout\" name=\"layout\">\n"
-                               "<item><widget class=\"QLabel\" name=\"a\"/></item></layout>"),
+    row("unknown layout",
+        form("<layout class=\"QSpiralLayout\" name=\"layout\">\n"
+             "<item><widget class=\"QLabel\" name=\"a\"/></item></layout>"),
         "Test.ui:4:", "\"QSpiralLayout\"");
-    row("unknown action", form("<widget class=\"QCheckBox\" name=\"box\">\n"
-                               + stringProperty("action", "requestNothing") + "</widget>"),
+    row("unknown action",
+        form("<widget class=\"QCheckBox\" name=\"box\">\n" +
+             stringProperty("action", "requestNothing") + "</widget>"),
         "Test.ui:6:", "\"requestNothing\"");
     row("unknown action, part of another",
-        form("<widget class=\"QCheckBox\" name=\"first\">\n"
-             + stringProperty("action", "requestNewOutputBin")
-             + "</widget><widget class=\"QCheckBox\" name=\"box\">\n" + stringProperty("action", "request")
-             + "</widget>"),
+        form("<widget class=\"QCheckBox\" name=\"first\">\n" +
+             stringProperty("action", "requestNewOutputBin") +
+             "</widget><widget class=\"QCheckBox\" name=\"box\">\n" +
+             stringProperty("action", "request") + "</widget>"),
         "Test.ui:10:", "\"request\"");
     row("unknown action, named like a key",
-        form("<widget class=\"QCheckBox\" name=\"first\">\n" + stringProperty("bindValue", "density")
-             + "</widget><widget class=\"QCheckBox\" name=\"box\">\n" + stringProperty("action", "density")
-             + "</widget>"),
+        form("<widget class=\"QCheckBox\" name=\"first\">\n" +
+             stringProperty("bindValue", "density") +
+             "</widget><widget class=\"QCheckBox\" name=\"box\">\n" +
+             stringProperty("action", "density") + "</widget>"),
         "Test.ui:10:", "\"density\"");
-    row("action of a label", form("<widget class=\"QLabel\" name=\"label\">\n"
-                                  + stringProperty("action", "requestNewOutputBin") + "</widget>"),
+    row("action of a label",
+        form("<widget class=\"QLabel\" name=\"label\">\n" +
+             stringProperty("action", "requestNewOutputBin") + "</widget>"),
         "Test.ui:6:", "\"label\"");
-    row("value of a pop-up", form("<widget class=\"QComboBox\" name=\"popUp\">\n"
-                                  + stringProperty("bindValue", "density") + "</widget>"),
+    row("value of a pop-up",
+        form("<widget class=\"QComboBox\" name=\"popUp\">\n" +
+             stringProperty("bindValue", "density") + "</widget>"),
         "Test.ui:6:", "\"density\"");
 }
 
@@ -181,8 +187,8 @@ void InterfaceProblemsTest::nothingIsConnectedWhenAFileIsRefused()
     QPointer<BindingDictionary> dictionary;
     m_owner.outlet(QStringLiteral("box"), box);
     m_owner.bindingDictionary(dictionary);
-    const LoadedInterface loaded = load(form("<widget class=\"QCheckBox\" name=\"box\">"
-                                             + stringProperty("action", "nobody") + "</widget>"));
+    const LoadedInterface loaded = load(form("<widget class=\"QCheckBox\" name=\"box\">" +
+                                             stringProperty("action", "nobody") + "</widget>"));
     QVERIFY(!loaded.view);
     QVERIFY(!box);
     QVERIFY(!dictionary);
@@ -191,9 +197,9 @@ void InterfaceProblemsTest::nothingIsConnectedWhenAFileIsRefused()
 void InterfaceProblemsTest::everyProblemIsToldAtOnce()
 {
     const LoadedInterface loaded =
-        load(form("<widget class=\"QCheckBox\" name=\"a\">" + stringProperty("action", "nobody")
-                  + "</widget><widget class=\"QComboBox\" name=\"b\">"
-                  + stringProperty("bindValue", "density") + "</widget>"));
+        load(form("<widget class=\"QCheckBox\" name=\"a\">" + stringProperty("action", "nobody") +
+                  "</widget><widget class=\"QComboBox\" name=\"b\">" +
+                  stringProperty("bindValue", "density") + "</widget>"));
     QCOMPARE(loaded.problems.count(), 2);
     const LoadedInterface classes = load(form("<widget class=\"QKnob\" name=\"a\"/>"
                                               "<widget class=\"QDial2\" name=\"b\"/>"));

@@ -67,8 +67,8 @@ void OneActOfTheUserTest::theCurrentItemPickedAgainFires()
     QCOMPARE(m_fired, QStringList{QStringLiteral("Auto")});
     user::pick(m_popUp.get(), 2);
     user::pick(m_popUp.get(), 2);
-    QCOMPARE(m_fired, (QStringList{QStringLiteral("Auto"), QStringLiteral("Tray"),
-                                   QStringLiteral("Tray")}));
+    QCOMPARE(m_fired,
+             (QStringList{QStringLiteral("Auto"), QStringLiteral("Tray"), QStringLiteral("Tray")}));
 }
 
 void OneActOfTheUserTest::anArrowKeyFiresOnce()

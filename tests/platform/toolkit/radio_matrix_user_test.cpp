@@ -156,8 +156,7 @@ void RadioMatrixUserTest::aPickWhileAnActivationWaitsIsReportedOnceEach()
 void RadioMatrixUserTest::theSelectionIsMadeWhenItIsTold()
 {
     int told = -1;
-    connect(m_matrix.get(), &RadioMatrix::activated, this,
-            [&] { told = m_matrix->selectedRow(); });
+    connect(m_matrix.get(), &RadioMatrix::activated, this, [&] { told = m_matrix->selectedRow(); });
     click(2);
     QCOMPARE(told, 2);
 }

@@ -106,7 +106,10 @@ void WheelTest::addControlRows()
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
-void WheelTest::anUnfocusedControlIgnoresTheWheel_data() { addControlRows(); }
+void WheelTest::anUnfocusedControlIgnoresTheWheel_data()
+{
+    addControlRows();
+}
 
 void WheelTest::anUnfocusedControlIgnoresTheWheel()
 {
@@ -117,7 +120,10 @@ void WheelTest::anUnfocusedControlIgnoresTheWheel()
     QCOMPARE(valueOf(control), before);
 }
 
-void WheelTest::aFocusedControlFollowsTheWheel_data() { addControlRows(); }
+void WheelTest::aFocusedControlFollowsTheWheel_data()
+{
+    addControlRows();
+}
 
 void WheelTest::aFocusedControlFollowsTheWheel()
 {
@@ -130,7 +136,10 @@ void WheelTest::aFocusedControlFollowsTheWheel()
     QVERIFY(valueOf(control) != before);
 }
 
-void WheelTest::thePageBehindScrollsInstead_data() { addControlRows(); }
+void WheelTest::thePageBehindScrollsInstead_data()
+{
+    addControlRows();
+}
 
 void WheelTest::thePageBehindScrollsInstead()
 {
@@ -139,7 +148,10 @@ void WheelTest::thePageBehindScrollsInstead()
     QCOMPARE(static_cast<Page *>(m_window.get())->scrolled, 1);
 }
 
-void WheelTest::theWheelGivesNoFocus_data() { addControlRows(); }
+void WheelTest::theWheelGivesNoFocus_data()
+{
+    addControlRows();
+}
 
 void WheelTest::theWheelGivesNoFocus()
 {
