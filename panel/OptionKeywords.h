@@ -26,6 +26,9 @@ inline constexpr QLatin1StringView kPlainDuplex{"PlainDuplex"};
 inline constexpr QLatin1StringView kGlossy{"Glossy"};
 inline constexpr QLatin1StringView kHagakiUra{"HagakiUra"};
 
+/// What a paper is called that the printer cannot take; nothing is printed on it.
+inline constexpr QLatin1StringView kUnsupportedPaper{"UnsupportedPaper"};
+
 /// Between the panels: posted whenever the Print Setting panel evaluates the colour mode, with the
 /// host callback as its sender and a boolean under kQXMonoColor.
 inline constexpr QLatin1StringView kLaserPrintSettingNotification{

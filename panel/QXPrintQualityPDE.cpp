@@ -2,6 +2,7 @@
 
 #include <QLoggingCategory>
 
+#include "panel/OptionKeywords.h"
 #include "platform/foundation/FormatString.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
@@ -15,7 +16,6 @@ namespace {
 constexpr char kCodeOfThisModule = 0;
 
 constexpr QLatin1StringView kPanelKindFormat{"com.corvana.print.pde.Cocoa%1"};
-constexpr QLatin1StringView kUnsupportedPaper{"UnsupportedPaper"};
 
 } // namespace
 

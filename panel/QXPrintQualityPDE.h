@@ -151,6 +151,9 @@ protected:
     bool hasMode(ImageMode mode) const { return (m_imageModeFlag & mode) != 0; }
     void setMode(ImageMode mode, bool on);
 
+    /// Shows an option's text in its label or box; a text that is not UTF-8 changes nothing.
+    void titleLabel(QWidget *label, const ppd_option_t *option);
+
     /// The host's print settings, or null where it has none.
     PMPrintSettings printSettings() const;
     /// Asks the host whether an option may take a choice.
@@ -189,7 +192,6 @@ private:
     void fillMatrix(RadioMatrix *matrix, ppd_option_t *option);
     void fillPopUp(QComboBox *popUp, ppd_option_t *option);
     void showSubstituteMediaType(QComboBox *popUp, const QString &stored);
-    void titleLabel(QWidget *label, const ppd_option_t *option);
     QString choiceText(ppd_option_t *option, const QString &choice) const;
 };
 

@@ -24,10 +24,16 @@ inline constexpr QLatin1StringView kThin{"Thin"};
 inline constexpr QLatin1StringView kThick{"Thick"};
 inline constexpr QLatin1StringView kPostCard{"PostCard"};
 inline constexpr QLatin1StringView kBond{"BOND"};
+/// Envelopes: the plain one, by which the others' keywords begin as well.
 inline constexpr QLatin1StringView kEnv{"Env"};
+inline constexpr QLatin1StringView kEnvThick{"EnvThick"};
+inline constexpr QLatin1StringView kEnvThin{"EnvThin"};
 inline constexpr QLatin1StringView kLabel{"Label"};
+inline constexpr QLatin1StringView kThicker{"Thicker"};
+inline constexpr QLatin1StringView kTray1{"Tray1"};
 /// The paper size; capitalised otherwise than the medium.
 inline constexpr QLatin1StringView kPostcardPaper{"Postcard"};
+inline constexpr QLatin1StringView kLetterPaper{"Letter"};
 inline constexpr QLatin1StringView kCustom{"Custom"};
 inline constexpr QLatin1StringView kDefault{"Default"};
 
@@ -39,5 +45,15 @@ inline constexpr QLatin1StringView kDensityParameter{"Density"};
 inline constexpr QLatin1StringView kSleepEntry{"com.corvana.print.PrintSettings.sleep"};
 inline constexpr QLatin1StringView kSleepModeEntry{"com.corvana.print.PrintSettings.sleepmode"};
 inline constexpr QLatin1StringView kDensityEntry{"com.corvana.print.PrintSettings.densitymode"};
+
+/// Read only: the paper that pages are scaled to, where the job has one.
+inline constexpr QLatin1StringView kPageToPaperMappingEntry{
+    "com.apple.print.PageToPaperMappingMediaName"};
+
+/// Illustrations of the bundle.
+inline constexpr QLatin1StringView kBackCoverLeverImage{"Backcover_env"};
+inline constexpr QLatin1StringView kBackCoverWithoutLeverImage{"Backcover_label"};
+inline constexpr QLatin1StringView kFrontCoverImage{"front_paper"};
+inline constexpr QLatin1StringView kImageExtension{"tiff"};
 
 } // namespace corvana

@@ -23,4 +23,14 @@ bool allowTonerSaveResolution(const QString &resolutionChoice)
                         [&](QLatin1StringView excluded) { return resolutionChoice == excluded; });
 }
 
+QString stringWithInteger_fromInteger_toInteger(qint64 value, qint64 low, qint64 high)
+{
+    return low > high ? QString() : QString::number(std::clamp(value, low, high));
+}
+
+bool shouldOpenCoverPaperKind(const QString &mediaType)
+{
+    return mediaType.startsWith(kEnv) || mediaType == kLabel || mediaType == kPostCard;
+}
+
 } // namespace corvana::QXLaserPrintSetting

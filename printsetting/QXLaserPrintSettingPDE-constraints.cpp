@@ -1,6 +1,8 @@
 #include "printsetting/QXLaserPrintSettingPDE.h"
 
 #include "panel/OptionKeywords.h"
+#include "platform/toolkit/LabelColor.h"
+#include "platform/toolkit/PopUpButton.h"
 #include "printsetting/PrintSettingKeys.h"
 
 namespace corvana {
@@ -54,6 +56,32 @@ void QXLaserPrintSettingPDE::checkConstraints()
 void QXLaserPrintSettingPDE::checkUIConstraints()
 {
     QXPrintQualityPDE::checkUIConstraints();
+    const bool fax = hasMode(kModeFaxOutput);
+    if (!PPDSleepTimeKey.isNull())
+        setSleepTimeUsable(!fax, !fax && hasMode(kModeManualSleep));
+    // The base has just made it usable again.
+    if (!fax && hasMode(kModeNoTonerSave) && tonerSaveButton)
+        tonerSaveButton->setEnabled(false);
+}
+
+// The choice between the printer's own time and another one, and the minutes of that.
+void QXLaserPrintSettingPDE::setSleepTimeUsable(bool mode, bool minutes)
+{
+    const auto show = [](QLabel *label, bool usable) {
+        if (label)
+            setTextColor(label, usable ? ControlTextColor::Normal : ControlTextColor::Disabled);
+    };
+    const auto enable = [](QWidget *control, bool usable) {
+        if (control)
+            control->setEnabled(usable);
+    };
+    enable(sleepTimeMatrix, mode);
+    enable(sleepTimePrefixLabel, mode);
+    show(sleepTimePrefixLabel, mode);
+    enable(sleepTimeSuffixLabel, minutes);
+    show(sleepTimeSuffixLabel, minutes);
+    enable(sleepTimeField, minutes);
+    enable(sleepTimeStepper, minutes);
 }
 
 void QXLaserPrintSettingPDE::canSelectColorMode()
@@ -73,15 +101,23 @@ bool QXLaserPrintSettingPDE::isSimplexMode()
 
 void QXLaserPrintSettingPDE::checkStateWithPaperFeed() {}
 
-void QXLaserPrintSettingPDE::requestNewOutputBin(QWidget *control)
+void QXLaserPrintSettingPDE::changeState_forArray_toEnable_toDefault(QComboBox *popUp,
+                                                                     const QStringList &choices,
+                                                                     bool enable, bool toDefault)
 {
-    checkConstraints();
-    QXPrintQualityPDE::requestNewOutputBin(control);
-    const QString keyword = determineKey(control);
-    if (keyword == kQXInputSlot)
-        checkStateWithPaperFeed();
-    else if (keyword == kQXMonoColor)
-        canSelectColorMode();
+    for (const QString &choice : choices)
+        popup::setItemEnabled(popUp, popup::indexOfItemWithRepresentedObject(popUp, choice),
+                              enable);
+    if (!toDefault && popup::isItemEnabled(popUp, popUp->currentIndex()))
+        return;
+    QString fallback;
+    if (popUp == mediaTypePopup)
+        fallback = kPlain;
+    else if (popUp == paperFeedPopup)
+        fallback = kTray1;
+    const int item = popup::indexOfItemWithRepresentedObject(popUp, fallback);
+    if (item >= 0)
+        popup::selectItemAt(popUp, item);
 }
 
 } // namespace corvana

@@ -1,6 +1,8 @@
 #include "printsetting/QXLaserPrintSettingPDE.h"
 
 #include "panel/OptionKeywords.h"
+#include "platform/foundation/Values.h"
+#include "platform/toolkit/ControlActions.h"
 #include "printsetting/PrintSettingKeys.h"
 #include "printsetting/QXLaserPrintSetting.h"
 
@@ -46,7 +48,18 @@ void QXLaserPrintSettingPDE::updateUIforKey(const QString &keyword)
         setMode(kModeNoTonerSave, !QXLaserPrintSetting::allowTonerSaveResolution(resolution));
     } else if (keyword == kQXSleepTime) {
         canSetManualSleep();
+        updateSleepTimeUI();
     }
+}
+
+void QXLaserPrintSettingPDE::getUIValues()
+{
+    QXPrintQualityPDE::getUIValues();
+    if (PPDSleepTimeKey.isNull() || !sleepTimeField)
+        return;
+    const qint64 minutes = sleepBounds().clamped(integerValue(sleepTimeField->text()));
+    m_outputBin.insert(PPDSleepTimeKey, QString::number(minutes));
+    showSleepTime(minutes);
 }
 
 void QXLaserPrintSettingPDE::revertUI_forKey(QWidget *control, const QString &keyword)
@@ -151,6 +164,13 @@ QVariantMap QXLaserPrintSettingPDE::summaryInfo()
     }
     summary.insert(orderKey, order);
     return summary;
+}
+
+QString QXLaserPrintSettingPDE::addOnOffSuffix_ToString(const QAbstractButton *control,
+                                                        const QString &string)
+{
+    const bool on = control && isControlEnabled(control) && control->isChecked();
+    return string + (on ? QStringLiteral("_on") : QStringLiteral("_off"));
 }
 
 } // namespace corvana

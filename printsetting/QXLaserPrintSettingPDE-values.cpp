@@ -1,16 +1,85 @@
 #include "printsetting/QXLaserPrintSettingPDE.h"
 
+#include <algorithm>
+
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
+#include "platform/toolkit/ProgrammaticChange.h"
 #include "printsetting/PrintSettingKeys.h"
 #include "printsetting/QXLaserPrintSetting.h"
 
 namespace corvana {
 
+namespace {
+
+constexpr QChar kFullWidthZero = u'\uff10';
+constexpr QChar kFullWidthNine = u'\uff19';
+
+} // namespace
+
 void QXLaserPrintSettingPDE::canSetManualSleep()
 {
     const QString mode = storedChoice(kQXSleepTime);
     setMode(kModeManualSleep, mode.startsWith(kCustom) || mode == kChoiceTrue);
+}
+
+void QXLaserPrintSettingPDE::updateSleepTimeUI()
+{
+    showSleepTime(sleepBounds().clamped(integerValue(m_outputBin.value(PPDSleepTimeKey))));
+}
+
+void QXLaserPrintSettingPDE::showSleepTime(qint64 minutes)
+{
+    const ProgrammaticChange change;
+    if (sleepTimeField)
+        sleepTimeField->setText(QString::number(minutes));
+    if (sleepTimeStepper)
+        sleepTimeStepper->setValue(controlValue(minutes));
+}
+
+void QXLaserPrintSettingPDE::controlTextDidChange(const Notification &notification)
+{
+    auto *field = static_cast<QLineEdit *>(notification.sender);
+    const QString text = field->text();
+    const qsizetype behindCursor = text.size() - field->cursorPosition();
+    QString digits;
+    for (const QChar unit : text) {
+        if (unit >= u'0' && unit <= u'9')
+            digits += unit;
+        else if (unit >= kFullWidthZero && unit <= kFullWidthNine)
+            digits += QChar((unit.unicode() & 0x1F) | 0x20);
+    }
+    const qint64 minutes = integerValue(digits);
+    QString shown = m_outputBin.value(PPDSleepTimeKey).toString();
+    if (sleepBounds().contains(minutes)) {
+        shown = QString::number(minutes);
+        m_outputBin.insert(PPDSleepTimeKey, shown);
+    }
+    const ProgrammaticChange change;
+    if (shown != text) {
+        field->setText(shown);
+        field->setCursorPosition(
+            static_cast<int>(std::max<qsizetype>(0, shown.size() - behindCursor)));
+    }
+    if (sleepTimeStepper)
+        sleepTimeStepper->setValue(controlValue(integerValue(shown)));
+}
+
+bool QXLaserPrintSettingPDE::control_textShouldEndEditing(QWidget *, const QString &editorText)
+{
+    return !editorText.isNull() && sleepBounds().contains(integerValue(editorText));
+}
+
+// The steps of a stepper stay inside its range; a value set from outside need not.
+void QXLaserPrintSettingPDE::takeSteppedSleepTime(Stepper *stepper)
+{
+    const qint64 minutes = sleepBounds().clamped(stepper->value());
+    const ProgrammaticChange change;
+    stepper->setValue(controlValue(minutes));
+    if (!sleepTimeField)
+        return;
+    sleepTimeField->setText(QString::number(minutes));
+    m_outputBin.insert(PPDSleepTimeKey, sleepTimeField->text());
 }
 
 void QXLaserPrintSettingPDE::saveSleepTimeValue()

@@ -1,11 +1,18 @@
 #include "printsetting/QXLaserPrintSettingPDE.h"
 
+#include <algorithm>
+
+#include <QFontMetricsF>
+#include <QHeaderView>
 #include <QLoggingCategory>
+#include <QtMath>
 
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/InterfaceLoader.h"
 #include "platform/toolkit/PopUpButton.h"
+#include "platform/toolkit/ProgrammaticChange.h"
+#include "platform/toolkit/ViewFrame.h"
 #include "printsetting/PrintSettingKeys.h"
 #include "printsetting/QXLaserPrintSetting.h"
 
@@ -13,10 +20,65 @@ namespace corvana {
 
 Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting", QtWarningMsg)
 
+namespace {
+
+constexpr QLatin1StringView kImproveOutputRow{"ImproveOutput"};
+constexpr QLatin1StringView kOtherOptionRow{"OtherOption"};
+
+} // namespace
+
+// The further options, in the order of their table: one row for an option or a group of them.
+struct QXLaserPrintSettingPDE::AdvancedRow
+{
+    enum class Label { OptionText, Localized };
+
+    QLatin1StringView id;
+    Label label;
+    /// The row is there when the panel handles any of these.
+    std::initializer_list<QLatin1StringView> keywords;
+
+    static const AdvancedRow rows[];
+};
+
+// The last two keywords of the quiet mode are choices and never found; printers whose quiet mode
+// follows their own menu once listed them so.
+const QXLaserPrintSettingPDE::AdvancedRow QXLaserPrintSettingPDE::AdvancedRow::rows[] = {
+    {kTonerSaveMode, Label::OptionText, {kTonerSaveMode}},
+    {kImproveOutputRow, Label::Localized, {kQXImproveOutput, kQXReduceGhost, kQXFixIntensity}},
+    {kQXDensityAdjustment, Label::OptionText, {kQXDensityAdjustment}},
+    {kQXSleepTime, Label::OptionText, {kQXSleepTime}},
+    {kQXQuietMode,
+     Label::Localized,
+     {kQXQuietMode, QLatin1StringView("UseDeviceSettings"), kChoiceOn}},
+    {kOtherOptionRow, Label::Localized, {kQXSkipBlank}},
+};
+
+namespace {
+
+// Units: points.
+constexpr double kHeight = 160.0;
+constexpr double kHeightWithoutPaperSource = 130.0;
+constexpr double kPaperSourceRow = 30.0;
+constexpr double kAdvancedHeight = 115.0;
+constexpr double kImproveLabelDrop = 14.0;
+constexpr double kColumnMargin = 12.0;
+
+// More tick marks than this are no help, and drawing millions of them hangs.
+constexpr qint64 kMostTickMarks = 200;
+
+} // namespace
+
 // One row an option: the one table behind determineUI(), determineLabel() and determineKey().
 struct QXLaserPrintSettingPDE::Roster
 {
-    using Lookup = QWidget *(*)(const QXLaserPrintSettingPDE &);
+    using Panel = QXLaserPrintSettingPDE;
+    using Lookup = QWidget *(*)(const Panel &);
+
+    template <auto Field> static QWidget *field(const Panel &panel)
+    {
+        return (panel.*Field).data();
+    }
+    static QWidget *none(const Panel &) { return nullptr; }
 
     struct Row
     {
@@ -24,25 +86,26 @@ struct QXLaserPrintSettingPDE::Roster
         Lookup control;
         Lookup label;
 
-        QString keywordIn(const QXLaserPrintSettingPDE &panel) const
+        QString keywordIn(const Panel &panel) const
         {
             return keyword.isEmpty() ? panel.PPDResolutionKey : QString(keyword);
         }
     };
 
     static constexpr Row rows[] = {
-        {QLatin1StringView(),
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionPopup; },
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.resolutionLabel; }},
-        {kQXMediaType,
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypePopup; },
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.mediaTypeLabel; }},
-        {kQXMonoColor,
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorPopup; },
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.monoColorLabel; }},
-        {kQXInputSlot,
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedPopup; },
-         [](const QXLaserPrintSettingPDE &p) -> QWidget * { return p.paperFeedLabel; }},
+        {QLatin1StringView(), field<&Panel::resolutionPopup>, field<&Panel::resolutionLabel>},
+        {kQXMediaType, field<&Panel::mediaTypePopup>, field<&Panel::mediaTypeLabel>},
+        {kQXMonoColor, field<&Panel::monoColorPopup>, field<&Panel::monoColorLabel>},
+        {kQXInputSlot, field<&Panel::paperFeedPopup>, field<&Panel::paperFeedLabel>},
+        {kQXSleepTime, field<&Panel::sleepTimeMatrix>, field<&Panel::sleepTimePrefixLabel>},
+        {kTonerSaveMode, field<&Panel::tonerSaveButton>, none},
+        {kQXSkipBlank, field<&Panel::skipBlankButton>, none},
+        {kQXQuietMode, field<&Panel::quietModeMatrix>, none},
+        {kQXImproveOutput, field<&Panel::improveMatrix>, field<&Panel::improveLabel>},
+        {kQXLessPaperCurl, field<&Panel::reducePaperButton>, none},
+        {kQXFixIntensity, field<&Panel::improveTonerfixButton>, none},
+        {kQXReduceGhost, field<&Panel::reduceGhostButton>, none},
+        {kQXDensityAdjustment, field<&Panel::densitySlider>, field<&Panel::densityLabel>},
     };
 
     static const Row *rowOf(const QXLaserPrintSettingPDE &panel, const QString &keyword)
@@ -68,6 +131,9 @@ bool QXLaserPrintSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCal
     checkLang();
     readPageSetup();
     setDefaults();
+    NotificationCenter::defaultCenter().addObserver(
+        this, QLatin1StringView(kPrintDestinationPaperDidChangeNotification), nullptr,
+        [this](const Notification &notification) { checkPageSizeChange(notification); });
     return true;
 }
 
@@ -79,6 +145,38 @@ QString QXLaserPrintSettingPDE::panelName()
 void QXLaserPrintSettingPDE::connectInterface(InterfaceConnections &connections)
 {
     QXPrintQualityPDE::connectInterface(connections);
+    connections.controlClass(QStringLiteral("ExtraAccessoryView"), [](QWidget *parent) {
+        auto *view = new ExtraAccessoryView(parent);
+        view->awakeFromNib();
+        return view;
+    });
+    connections.arrayController(QStringLiteral("arrayController"), arrayController);
+    connections.textFieldDelegate(
+        QStringLiteral("panel"),
+        {[this](const Notification &notification) { controlTextDidChange(notification); },
+         [this](QWidget *control, const QString &editorText) {
+             return control_textShouldEndEditing(control, editorText);
+         }});
+    connections.outlet(QStringLiteral("advancedTabView"), advancedTabView);
+    connections.outlet(QStringLiteral("advancedTableView"), advancedTableView);
+    connections.outlet(QStringLiteral("tonerSaveButton"), tonerSaveButton);
+    connections.outlet(QStringLiteral("improveMatrix"), improveMatrix);
+    connections.outlet(QStringLiteral("reducePaperButton"), reducePaperButton);
+    connections.outlet(QStringLiteral("improveTonerfixButton"), improveTonerfixButton);
+    connections.outlet(QStringLiteral("reduceGhostButton"), reduceGhostButton);
+    connections.outlet(QStringLiteral("densityField"), densityField);
+    connections.outlet(QStringLiteral("densitySlider"), densitySlider);
+    connections.outlet(QStringLiteral("sleepTimeField"), sleepTimeField);
+    connections.outlet(QStringLiteral("sleepTimeStepper"), sleepTimeStepper);
+    connections.outlet(QStringLiteral("sleepTimeMatrix"), sleepTimeMatrix);
+    connections.outlet(QStringLiteral("skipBlankButton"), skipBlankButton);
+    connections.outlet(QStringLiteral("quietModeMatrix"), quietModeMatrix);
+    connections.outlet(QStringLiteral("optionLabel"), optionLabel);
+    connections.outlet(QStringLiteral("densityLabel"), densityLabel);
+    connections.outlet(QStringLiteral("improveLabel"), improveLabel);
+    connections.outlet(QStringLiteral("sleepTimePrefixLabel"), sleepTimePrefixLabel);
+    connections.outlet(QStringLiteral("sleepTimeSuffixLabel"), sleepTimeSuffixLabel);
+    connections.outlet(QStringLiteral("accessoryView"), accessoryView);
     connections.outlet(QStringLiteral("mediaTypePopup"), mediaTypePopup);
     connections.outlet(QStringLiteral("resolutionPopup"), resolutionPopup);
     connections.outlet(QStringLiteral("monoColorPopup"), monoColorPopup);
@@ -186,15 +284,131 @@ void QXLaserPrintSettingPDE::initializePopup()
     if (mediaTypes && !inhibited.isNull())
         popup::removeItemAt(mediaTypes,
                             popup::indexOfItemWithRepresentedObject(mediaTypes, inhibited));
-    initializeAdvOption({optionButton});
+    const QList<QWidget *> advanced{optionLabel, optionButton, advancedTabView, advancedTableView};
+    initializeAdvOption(advanced);
+    double height = kHeight;
+    if (!handles(kQXInputSlot)) {
+        adjustUIPosition_forParts(kPaperSourceRow, advanced);
+        height = kHeightWithoutPaperSource;
+    }
+    ViewFrame frame = viewFrame(m_panelView);
+    frame.height = height;
+    setViewFrame(m_panelView, frame);
     restoreOptionState();
 }
 
-void QXLaserPrintSettingPDE::initializeAdvOption(const QList<QWidget *> &)
+void QXLaserPrintSettingPDE::initializeAdvOption(const QList<QWidget *> &views)
 {
-    const QString density = QXLaserPrintSetting::densityParamKey();
+    if (arrayController)
+        arrayController->setSelectsInsertedObjects(false);
+    for (const AdvancedRow &row : AdvancedRow::rows)
+        addAdvancedRow(row);
     if (handles(kQXDensityAdjustment))
-        setEffectContent(density, integerValue(m_outputBin.value(density)));
+        prepareDensityControls();
+    if (!PPDSleepTimeKey.isNull())
+        prepareSleepTimeControls();
+    if (!arrayController) {
+        for (QWidget *view : views) {
+            if (view)
+                view->hide();
+        }
+        return;
+    }
+    arrayController->setSelectionIndex(0);
+    if (optionLabel)
+        optionLabel->setText(localized(QStringLiteral("advancedItem")));
+    for (QWidget *view : views) {
+        if (auto *table = qobject_cast<QTableView *>(view))
+            fitAdvancedTable(table);
+    }
+}
+
+void QXLaserPrintSettingPDE::addAdvancedRow(const AdvancedRow &row)
+{
+    const auto *found =
+        std::find_if(row.keywords.begin(), row.keywords.end(),
+                     [this](QLatin1StringView keyword) { return handles(keyword); });
+    bool wanted = found != row.keywords.end();
+    if (row.id == kQXSleepTime)
+        wanted = !PPDSleepTimeKey.isNull(); // a sleep time without its minutes is not offered
+    QString label;
+    if (row.label == AdvancedRow::Label::Localized) {
+        setEffectContent(row.id, false);
+        label = pluginBundle ? pluginBundle->localizedStringOrKey(row.id) : QString();
+    } else if (const ppd_option_t *option = ppdOption(ppd, row.id)) {
+        label = ppdText(option->text).value_or(QString());
+    }
+    if (!wanted || label.isNull())
+        return;
+    addAdvOption_forKey(label, row.id);
+    if (row.label == AdvancedRow::Label::Localized)
+        setEffectContent(row.id, true);
+    if (row.id == kQXDensityAdjustment)
+        titleLabel(densityLabel, ppdOption(ppd, kQXDensityAdjustment));
+    if (row.id != kImproveOutputRow || *found == kQXImproveOutput || !improveLabel)
+        return;
+    // Without the choice between improvements the label titles the boxes, which stand lower.
+    improveLabel->setText(label + u':');
+    ViewFrame frame = viewFrame(improveLabel);
+    frame.y -= kImproveLabelDrop;
+    setViewFrame(improveLabel, frame);
+}
+
+void QXLaserPrintSettingPDE::addAdvOption_forKey(const QString &label, const QString &identifier)
+{
+    if (arrayController)
+        arrayController->addObject(
+            {{ArrayController::kLabel, label}, {ArrayController::kId, identifier}});
+}
+
+void QXLaserPrintSettingPDE::prepareDensityControls()
+{
+    const QString key = QXLaserPrintSetting::densityParamKey();
+    setEffectContent(key, integerValue(m_outputBin.value(key)));
+    if (!densitySlider)
+        return;
+    densitySlider->setMaximum(controlValue(kDensityMax));
+    densitySlider->setMinimum(controlValue(kDensityMin));
+    densitySlider->setTickInterval(kDensityMax + 1 - kDensityMin <= kMostTickMarks ? 1 : 0);
+}
+
+void QXLaserPrintSettingPDE::prepareSleepTimeControls()
+{
+    const ppd_cparam_t *time = ppdCustomParameter(ppd, kQXSleepTime, kTimeParameter);
+    if (const auto text = time ? ppdText(time->text) : std::nullopt; text && sleepTimeSuffixLabel)
+        sleepTimeSuffixLabel->setText(*text);
+    if (!sleepTimeStepper)
+        return;
+    const ProgrammaticChange change; // a stepper moves its value into a new range by itself
+    sleepTimeStepper->setMinimum(controlValue(kSleepTimeMin));
+    sleepTimeStepper->setMaximum(controlValue(kSleepTimeMax));
+}
+
+// Labels that are wider than the table can be scrolled to; else the table needs no scroll bar.
+void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
+{
+    double widest = 0;
+    for (const QVariantMap &row : arrayController->arrangedObjects()) {
+        const QString label = row.value(ArrayController::kLabel).toString();
+        widest = std::max(widest, QFontMetricsF(table->font()).horizontalAdvance(label));
+    }
+    const double scale = pixelsPerPoint(table);
+    if (widest > viewFrame(table).width * scale) {
+        table->horizontalHeader()->setStretchLastSection(false);
+        table->setColumnWidth(table->model()->columnCount() - 1,
+                              qCeil(widest + kColumnMargin * scale));
+    } else {
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        table->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    }
+}
+
+void QXLaserPrintSettingPDE::toggleShowOption(QWidget *button)
+{
+    const ViewFrame frame = viewFrame(m_panelView);
+    const auto *disclosure = qobject_cast<const QAbstractButton *>(button);
+    const bool discloses = disclosure && disclosure->isChecked();
+    setViewFrameSize(frame.width, frame.height + (discloses ? kAdvancedHeight : -kAdvancedHeight));
 }
 
 QWidget *QXLaserPrintSettingPDE::determineUI(const QString &keyword)

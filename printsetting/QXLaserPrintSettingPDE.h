@@ -1,10 +1,19 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QTableView>
 
 #include "panel/QXPrintQualityPDE.h"
+#include "platform/toolkit/ArrayController.h"
+#include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/Stepper.h"
+#include "printsetting/ExtraAccessoryView.h"
 #include "printsetting/ValueBounds.h"
 
 namespace corvana {
@@ -26,8 +35,11 @@ public:
     void setPPDKeys(const std::optional<QStringList> &keywords) override;
     void setDefaults() override;
     void initializePopup() override;
-    /// Brings the values of the advanced options to their controls, which stand in these views.
+    /// Builds the table of the advanced options. The views are those of the advanced section.
     virtual void initializeAdvOption(const QList<QWidget *> &views);
+    /// Adds a row to the table of the advanced options; `identifier` names its page.
+    virtual void addAdvOption_forKey(const QString &label, const QString &identifier);
+    void toggleShowOption(QWidget *button) override;
     QWidget *determineUI(const QString &keyword) override;
     QWidget *determineLabel(const QString &keyword) override;
     QString determineKey(QWidget *control) override;
@@ -48,43 +60,93 @@ public:
     virtual bool isSimplexMode();
     /// The place for rules of the paper source; there are none.
     virtual void checkStateWithPaperFeed();
-    void requestNewOutputBin(QWidget *control) override;
+    /// Enables or disables the items of the given choices. Where the selected item is disabled, or
+    /// when `toDefault` is true, selects the choice to fall back to, which the media types and the
+    /// paper sources have.
+    virtual void changeState_forArray_toEnable_toDefault(QComboBox *popUp,
+                                                         const QStringList &choices, bool enable,
+                                                         bool toDefault);
 
     // Persistence and summary (QXLaserPrintSettingPDE-persistence.cpp)
 
     void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,
                                               const QString &choice) override;
     void updateUIforKey(const QString &keyword) override;
+    void getUIValues() override;
     void revertUI_forKey(QWidget *control, const QString &keyword) override;
     void saveAllValues() override;
     bool saveValuesAndReturnError(QString *error) override;
     bool restoreValuesAndReturnError(QString *error) override;
     QVariantMap summaryInfo() override;
+    /// The string with "_on" where the button is enabled and on, else with "_off".
+    virtual QString addOnOffSuffix_ToString(const QAbstractButton *control, const QString &string);
 
     // Sleep time and density (QXLaserPrintSettingPDE-values.cpp)
 
     virtual void canSetManualSleep();
+    /// Shows the stored minutes, kept inside the range.
+    virtual void updateSleepTimeUI();
+    /// The user edited the sleep time: only digits inside the range stay.
+    virtual void controlTextDidChange(const Notification &notification);
+    /// Whether the user may leave the sleep time with this text in it.
+    virtual bool control_textShouldEndEditing(QWidget *control, const QString &editorText);
     virtual void saveSleepTimeValue();
     virtual void restoreSleepTimeValue();
     virtual void saveDensityValue();
     virtual void restoreDensityValue();
 
-    // Paper (QXLaserPrintSettingPDE-paper.cpp)
+    // Paper and the user's changes (QXLaserPrintSettingPDE-paper.cpp)
 
-    /// Judges the page's paper; true when it was judged anew.
+    /// Judges the page's paper, and imposes the default medium of a new one; true when it was
+    /// judged anew.
     virtual bool readPageSetup();
+    /// The paper may be another one.
+    virtual void checkPageSizeChange(const Notification &notification);
+    void requestNewOutputBin(QWidget *control) override;
+
+    // Alerts (QXLaserPrintSettingPDE-alerts.cpp)
+
+    bool shouldPrint() override;
+    /// Says how to load the medium that was chosen, and keeps what the user wants of it next time.
+    virtual void showAlertWhenSelectMediaKey_withAlertKey(const QString &keyword,
+                                                          const QString &alertKey);
+    /// Whether the main screen has exactly two pixels where an ordinary one has one.
+    virtual bool isRetinaScreen();
 
 protected:
     void connectInterface(InterfaceConnections &connections) override;
 
+    /// The pages of the advanced options and the table that turns them.
+    QPointer<QStackedWidget> advancedTabView;
+    QPointer<QTableView> advancedTableView;
     QPointer<QComboBox> mediaTypePopup;
     QPointer<QComboBox> resolutionPopup;
     QPointer<QComboBox> monoColorPopup;
     QPointer<QComboBox> paperFeedPopup;
+    QPointer<QCheckBox> tonerSaveButton;
+    QPointer<RadioMatrix> improveMatrix;
+    QPointer<QCheckBox> reducePaperButton;
+    QPointer<QCheckBox> improveTonerfixButton;
+    QPointer<QCheckBox> reduceGhostButton;
+    QPointer<QLineEdit> densityField;
+    QPointer<QSlider> densitySlider;
+    QPointer<QLineEdit> sleepTimeField;
+    QPointer<Stepper> sleepTimeStepper;
+    QPointer<RadioMatrix> sleepTimeMatrix;
+    QPointer<QCheckBox> skipBlankButton;
+    QPointer<RadioMatrix> quietModeMatrix;
     QPointer<QLabel> mediaTypeLabel;
     QPointer<QLabel> resolutionLabel;
     QPointer<QLabel> monoColorLabel;
     QPointer<QLabel> paperFeedLabel;
+    QPointer<QLabel> optionLabel;
+    QPointer<ArrayController> arrayController;
+    /// A label, or a box with a title.
+    QPointer<QWidget> densityLabel;
+    QPointer<QLabel> improveLabel;
+    QPointer<QLabel> sleepTimePrefixLabel;
+    QPointer<QLabel> sleepTimeSuffixLabel;
+    QPointer<ExtraAccessoryView> accessoryView;
 
     /// "QXSleepTime_Time" when the PPD takes a custom sleep time, else null.
     QString PPDSleepTimeKey;
@@ -100,12 +162,25 @@ protected:
 
 private:
     struct Roster;
+    struct AdvancedRow;
 
     ValueBounds sleepBounds() const { return {kSleepTimeMin, kSleepTimeMax}; }
     ValueBounds densityRange() const { return {kDensityMin, kDensityMax}; }
     void prepareSleepTime();
     void resetDefaultedOption(const QString &keyword);
     void reconcileImproveOutput();
+    void addAdvancedRow(const AdvancedRow &row);
+    void prepareDensityControls();
+    void prepareSleepTimeControls();
+    void fitAdvancedTable(QTableView *table);
+    void setSleepTimeUsable(bool mode, bool minutes);
+    void showSleepTime(qint64 minutes);
+    void takeSteppedSleepTime(Stepper *stepper);
+    QString pagePaperName();
+    bool pagePaperFits();
+    void checkChangedMediaType();
+    bool confirmBackCover(const QString &mediaType);
+    std::optional<AlertAnswer> runIllustratedAlert(Alert alert, QLatin1StringView picture);
     QString storedChoice(QLatin1StringView keyword) const;
 };
 

@@ -1,6 +1,7 @@
 #include "printsetting/ValueBounds.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "printsetting/PrintSettingKeys.h"
 
@@ -22,6 +23,12 @@ ValueBounds declaredBounds(ppd_file_t *ppd, QLatin1StringView option, QLatin1Str
 qint64 ValueBounds::clamped(qint64 value) const
 {
     return value < minimum ? minimum : std::min(value, maximum);
+}
+
+int controlValue(qint64 value)
+{
+    return static_cast<int>(std::clamp<qint64>(value, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
 }
 
 ValueBounds sleepTimeBounds(ppd_file_t *ppd)

@@ -20,6 +20,9 @@ struct ValueBounds
     bool operator==(const ValueBounds &) const = default;
 };
 
+/// A value as Qt's controls take it: the nearest that fits.
+int controlValue(qint64 value);
+
 /// The sleep time's range. Units: minutes. 1 to 99 unless the PPD's parameter declares another.
 ValueBounds sleepTimeBounds(ppd_file_t *ppd);
 

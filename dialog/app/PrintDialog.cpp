@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
@@ -20,6 +21,7 @@
 
 #include "dialog/app/HelpWindow.h"
 #include "dialog/app/SilencedAlerts.h"
+#include "dialog/app/WindowSize.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/PanelPage.h"
@@ -101,7 +103,7 @@ void PrintDialog::buildWindow()
     layout->addWidget(m_pages, 1);
     layout->addLayout(buildFooter());
     const int em = fontMetrics().height();
-    resize(36 * em, 30 * em);
+    resize(rememberedWindowSize(QSize(36 * em, 30 * em), screen()->availableSize()));
 
     addPageShortcuts();
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageEntered);
@@ -406,13 +408,44 @@ void PrintDialog::showRefusal(const Refusal &refusal)
 void PrintDialog::followPanelView()
 {
     auto *page = qobject_cast<PanelPage *>(m_pages->currentWidget());
-    const int missing = page ? page->followView() : 0;
-    if (missing == 0)
-        return;
+    if (!page)
+        return giveHeightBack(m_grownBy);
+    const int missing = page->followView();
+    if (missing < 0)
+        return giveHeightBack(-missing);
     // The window grows with a panel that discloses more, as far as the screen reaches; beyond that
     // the page scrolls.
     const int room = screen()->availableGeometry().bottom() - frameGeometry().bottom();
-    resize(width(), height() + qBound(0, missing, qMax(0, room)));
+    growBy(qBound(0, missing, qMax(0, room)));
+}
+
+// What a panel needed and needs no more; the height that the user gave the window is the user's.
+void PrintDialog::giveHeightBack(int surplus)
+{
+    growBy(-qMin(surplus, m_grownBy));
+}
+
+void PrintDialog::growBy(int pixels)
+{
+    if (pixels == 0)
+        return;
+    m_grownBy += pixels;
+    m_followed = size() + QSize(0, pixels);
+    resize(m_followed);
+}
+
+void PrintDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (event->size() != m_followed)
+        m_grownBy = 0; // this size is the user's
+}
+
+void PrintDialog::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous())
+        rememberWindowSize({width(), height() - m_grownBy});
 }
 
 void PrintDialog::showHelp()

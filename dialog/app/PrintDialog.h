@@ -47,6 +47,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void buildWindow();
@@ -67,6 +69,8 @@ private:
     void settled();
     void showRefusal(const Refusal &refusal);
     void followPanelView();
+    void giveHeightBack(int surplus);
+    void growBy(int pixels);
     void showHelp();
     void showHelpPage(const HelpPage &page);
     void updateSilencedAlerts();
@@ -89,6 +93,8 @@ private:
     QList<JobOption> m_attributes;
     QString m_printedTo;
     QString m_chosenOutput; // the name that the user has confirmed to overwrite
+    int m_grownBy = 0;      // the height that panels needed beyond the user's; pixels
+    QSize m_followed;       // the window's size when it followed a panel last
     bool m_painted = false;
     bool m_panelsUp = false;
     bool m_printable = false; // nothing that belongs to the printer is missing

@@ -6,9 +6,13 @@
 #include <QLineEdit>
 #include <QSpinBox>
 
+#include "dialog/pages/CustomPaperSize.h"
+#include "dialog/session/CustomValue.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/MenuActions.h"
 #include "platform/toolkit/PopUpButton.h"
 
 namespace corvana {
@@ -87,11 +91,51 @@ void GeneralPage::addOption(const QString &keyword)
     popUp->setAccessibleName(title);
     ignoreWheelWithoutFocus(popUp);
     connectControlAction(popUp, [this, keyword, popUp](QWidget *) {
-        Q_EMIT proposed(keyword, popup::representedObject(popUp, popUp->currentIndex()).toString());
+        const QString choice = popup::representedObject(popUp, popUp->currentIndex()).toString();
+        if (choice == kCustomChoice)
+            proposeCustomPaper();
+        else
+            Q_EMIT proposed(keyword, choice);
     });
+    if (keyword == kPageSizeOption)
+        postNotificationWhenMenuActs(popUp); // panels follow the paper menu
     auto *layout = static_cast<QFormLayout *>(this->layout());
     layout->addRow(QString(title).replace(u'&', QStringLiteral("&&")) + u':', popUp);
     m_popUps.insert(keyword, popUp);
+    if (keyword == kPageSizeOption && m_session.ppd()->variable_sizes)
+        addCustomPaperSize(popUp);
+}
+
+void GeneralPage::addCustomPaperSize(QComboBox *sizes)
+{
+    popup::addItemWithTitle(sizes, tr("Custom Size"));
+    popup::setRepresentedObject(sizes, sizes->count() - 1, QString(kCustomChoice));
+    m_customPaper = new CustomPaperSize(m_session.ppd(), this);
+    connect(m_customPaper, &CustomPaperSize::entered, this, &GeneralPage::proposeCustomPaper);
+    auto *layout = static_cast<QFormLayout *>(this->layout());
+    layout->addRow(tr("Width × height:"), m_customPaper);
+    showCustomPaper();
+}
+
+void GeneralPage::proposeCustomPaper()
+{
+    const QSizeF size = m_customPaper->size();
+    const CustomValueCheck check = checkCustomValue(m_session.ppd(), kPageSizeOption,
+                                                    QStringLiteral("%1%2x%3")
+                                                        .arg(kCustomPrefix)
+                                                        .arg(size.width(), 0, 'f', 4)
+                                                        .arg(size.height(), 0, 'f', 4));
+    if (check.value)
+        Q_EMIT proposed(kPageSizeOption, *check.value);
+}
+
+// The fields start at the size of the paper that is in use.
+void GeneralPage::showCustomPaper()
+{
+    const Paper &paper = m_session.pageFormat().paper;
+    m_customPaper->setSize({paper.width, paper.height});
+    static_cast<QFormLayout *>(layout())->setRowVisible(
+        m_customPaper, !m_session.customValue(kPageSizeOption).isNull());
 }
 
 void GeneralPage::refresh()
@@ -102,14 +146,10 @@ void GeneralPage::refresh()
 
 void GeneralPage::refreshOption(const QString &keyword, QComboBox *popUp)
 {
-    const QString custom = m_session.customValue(keyword);
-    const QString choice = custom.isNull() ? m_session.markedChoice(keyword) : custom;
-    if (!custom.isNull() && popup::indexOfItemWithRepresentedObject(popUp, custom) < 0) {
-        // A custom size that came with the command line stays among the sizes.
-        popup::addItemWithTitle(popUp, optionLine(m_session, keyword).value);
-        popup::setRepresentedObject(popUp, popUp->count() - 1, custom);
-    }
+    const QString choice = m_session.markedChoice(keyword);
     popup::selectItemAt(popUp, popup::indexOfItemWithRepresentedObject(popUp, choice));
+    if (keyword == kPageSizeOption && m_customPaper)
+        showCustomPaper();
 }
 
 } // namespace corvana

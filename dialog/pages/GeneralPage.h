@@ -10,6 +10,7 @@ class QSpinBox;
 
 namespace corvana {
 
+class CustomPaperSize;
 class PpdSession;
 
 /// Copies, pages, and the PPD options that no panel owns: two-sided, paper size, output
@@ -42,11 +43,15 @@ Q_SIGNALS:
 private:
     void addOption(const QString &keyword);
     void refreshOption(const QString &keyword, QComboBox *popUp);
+    void addCustomPaperSize(QComboBox *sizes);
+    void proposeCustomPaper();
+    void showCustomPaper();
 
     PpdSession &m_session;
     QSpinBox *m_copies;
     QLineEdit *m_pageRanges;
     QMap<QString, QComboBox *> m_popUps;
+    CustomPaperSize *m_customPaper = nullptr; // where the printer takes such sizes
 };
 
 } // namespace corvana

@@ -35,9 +35,10 @@ int PanelPage::followView()
 {
     if (!widget())
         return 0;
-    const int needed = qMax(requestedHeight(widget()), widget()->minimumSizeHint().height());
+    const int needed =
+        qMax(requestedPixelSize(widget()).height(), widget()->minimumSizeHint().height());
     widget()->setMinimumHeight(needed);
-    return qMax(0, needed - viewport()->height());
+    return needed - viewport()->height();
 }
 
 void PanelPage::setProblem(const QString &problem)

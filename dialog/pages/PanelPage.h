@@ -18,7 +18,7 @@ public:
     /// Shows the panel's view.
     void setPanelView(QWidget *view);
     /// Gives the view the larger of the height that it asks for and what its contents need. Answers
-    /// the height that is missing on the page. Units: pixels; 0 when everything can be seen.
+    /// the height that is missing on the page, or negative what it has too much. Units: pixels.
     int followView();
     /// Shows why there is no view.
     void setProblem(const QString &problem);

@@ -326,11 +326,14 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
         return {request.problems, {}};
 
     OptionOutcome outcome{{}, request.attributes};
-    const QList<Refusal> conflicts = session.changeTogether(request.choices);
-    for (const Refusal &conflict : conflicts)
+    for (const Refusal &conflict : session.changeTogether(request.choices))
         outcome.problems += conflictMessage(conflict);
     if (!outcome.ok())
         return {outcome.problems, {}};
+    // A new paper makes the panels propose a medium for it; what was asked for comes after that.
+    panels.deliverPending();
+    for (const Refusal &conflict : session.changeTogether(request.choices))
+        outcome.problems += conflictMessage(conflict);
 
     QList<JobOption> expected;
     for (const OptionChoice &choice : std::as_const(request.choices))

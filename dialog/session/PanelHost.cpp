@@ -8,8 +8,10 @@
 #include <QWidget>
 
 #include "dialog/session/OptionNames.h"
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPlugIn.h"
+#include "platform/printcore/PageFormat.h"
 #include "platform/toolkit/Alert.h"
 
 namespace corvana {
@@ -56,9 +58,9 @@ public:
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override
     {
-        ++m_host.m_runningAlerts;
+        ++m_host.m_uninterruptible;
         const AlertAnswer answer = m_presenter.runModal(alert, parent);
-        --m_host.m_runningAlerts;
+        --m_host.m_uninterruptible;
         if (m_host.hasNews())
             m_host.scheduleDelivery();
         return answer;
@@ -77,6 +79,10 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
     connect(&session, &PpdSession::refused, this, [this] {
         m_refused = true;
+        scheduleDelivery();
+    });
+    connect(&session, &PpdSession::paperChanged, this, [this] {
+        m_paperChanged = true;
         scheduleDelivery();
     });
     m_told = session.snapshot().marks;
@@ -174,8 +180,8 @@ void PanelHost::noteChange(const QString &keyword, const QString &choice, PpdSes
 {
     PDEPanel *source = nullptr;
     // A panel proposes changes while it is called, or because the user acts on its controls, which
-    // only the visible one has.
-    if (origin == PpdSession::Origin::Panel)
+    // only the visible one has; or as an observer, and then nobody knows which one it is.
+    if (origin == PpdSession::Origin::Panel && m_uninterruptible == 0)
         source = m_callStack.isEmpty() ? m_visible : m_callStack.last();
     m_pending.insert(keyword, {choice, source});
     scheduleDelivery();
@@ -198,6 +204,7 @@ void PanelHost::deliverPending()
     if (!m_broughtUp)
         return; // nobody is told anything before it was shown; bringUp() delivers
     bool anything = std::exchange(m_refused, false);
+    announcePaper();
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
     constexpr int kMostRounds = 10;
@@ -209,6 +216,17 @@ void PanelHost::deliverPending()
     }
     if (anything)
         Q_EMIT settled();
+}
+
+// Panels judge a new paper at once, and may propose another medium for it or run an alert.
+void PanelHost::announcePaper()
+{
+    if (!std::exchange(m_paperChanged, false))
+        return;
+    ++m_uninterruptible;
+    NotificationCenter::defaultCenter().post(
+        QLatin1StringView(kPrintDestinationPaperDidChangeNotification), m_callback.get());
+    --m_uninterruptible;
 }
 
 bool PanelHost::deliverOnce()

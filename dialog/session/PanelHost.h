@@ -84,9 +84,10 @@ private:
 
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
+    void announcePaper();
     void scheduleDelivery();
-    bool hasNews() const { return !m_pending.isEmpty() || m_refused; }
-    bool panelIsBusy() const { return !m_callStack.isEmpty() || m_runningAlerts > 0; }
+    bool hasNews() const { return !m_pending.isEmpty() || m_refused || m_paperChanged; }
+    bool panelIsBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
     void saveVisible();
     void restoreHidden();
 
@@ -96,11 +97,12 @@ private:
     QList<std::shared_ptr<PDEPanel>> m_panels;
     PDEPanel *m_visible = nullptr;
     QList<PDEPanel *> m_callStack;
-    int m_runningAlerts = 0;
+    int m_uninterruptible = 0; // alerts and notifications in the midst of which a panel is
     QMap<QString, Change> m_pending;
     QMap<QString, QString> m_told; // the marks that all panels know of
     QList<QPointer<QWidget>> m_views;
     bool m_refused = false;
+    bool m_paperChanged = false;
     bool m_scheduled = false;
     bool m_broughtUp = false;
 };

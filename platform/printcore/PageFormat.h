@@ -35,6 +35,11 @@ struct PageFormat
 using PMPageFormat = const PageFormat *;
 using PMPaper = const Paper *;
 
+/// Posted by a host when the paper of its page format is another one; everything that it offers its
+/// panels says so already then.
+inline constexpr char kPrintDestinationPaperDidChangeNotification[] =
+    "PMPrintDestinationPaperDidChangeNotification";
+
 /// The paper of a page format. Errors: kPMInvalidObject without a page format.
 CORVANA_PLATFORM_EXPORT PMStatus PMGetPageFormatPaper(PMPageFormat pageFormat, PMPaper *paper);
 

@@ -1,7 +1,9 @@
 #include "platform/toolkit/Bindings.h"
 
+#include <algorithm>
 #include <functional>
 #include <limits>
+#include <optional>
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -72,7 +74,45 @@ void bindSlider(QAbstractSlider *slider, BindingDictionary *dictionary, const QS
                      [=](int value) { writeBack(dictionary, key, qint64(value)); });
 }
 
+// The whole number that a user wrote, in the digits and with the minus sign of any script; nothing
+// for a text that is none.
+std::optional<qint64> writtenNumber(const QString &text)
+{
+    constexpr QChar kMinusSigns[] = {u'-', u'\u2212', u'\uff0d'};
+    constexpr QChar kPlusSigns[] = {u'+', u'\uff0b'};
+    QString plain;
+    for (const QChar c : text.trimmed()) {
+        if (c.isDigit())
+            plain += QString::number(c.digitValue());
+        else if (plain.isEmpty() && std::count(std::begin(kMinusSigns), std::end(kMinusSigns), c))
+            plain += u'-';
+        else if (!plain.isEmpty() || !std::count(std::begin(kPlusSigns), std::end(kPlusSigns), c))
+            return std::nullopt;
+    }
+    bool valid = false;
+    const qint64 number = plain.toLongLong(&valid);
+    return valid ? std::optional(number) : std::nullopt;
+}
+
 } // namespace
+
+void bindNumber(QLineEdit *field, BindingDictionary *dictionary, const QString &key,
+                const QAbstractSlider *slider)
+{
+    const auto show = [field](const QVariant &value) {
+        const ProgrammaticChange change;
+        field->setText(QString::number(integerValue(value)));
+    };
+    onWrite(field, dictionary, key, show);
+    QObject::connect(field, &QLineEdit::editingFinished, dictionary, [=] {
+        const qint64 bound = integerValue(dictionary->value(key));
+        const qint64 number = writtenNumber(field->text()).value_or(bound);
+        if (number == bound)
+            return show(bound);
+        writeBack(dictionary, key,
+                  std::clamp<qint64>(number, slider->minimum(), slider->maximum()));
+    });
+}
 
 bool bindValue(QWidget *control, BindingDictionary *dictionary, const QString &key)
 {

@@ -4,6 +4,8 @@
 
 #include "platform/PlatformExport.h"
 
+class QAbstractSlider;
+class QLineEdit;
 class QWidget;
 
 namespace corvana {
@@ -17,6 +19,12 @@ class BindingDictionary;
 /// Errors: false for a control of another kind.
 CORVANA_PLATFORM_EXPORT bool bindValue(QWidget *control, BindingDictionary *dictionary,
                                        const QString &key);
+
+/// Shows the whole number under `key` in the field and writes what the user enters back, kept
+/// inside the range of `slider`. Digits and minus signs of any script count; anything that is no
+/// number brings the former one back.
+CORVANA_PLATFORM_EXPORT void bindNumber(QLineEdit *field, BindingDictionary *dictionary,
+                                        const QString &key, const QAbstractSlider *slider);
 
 /// Enables the control while the value under `key` is true.
 CORVANA_PLATFORM_EXPORT void bindEnabled(QWidget *control, BindingDictionary *dictionary,

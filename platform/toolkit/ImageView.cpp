@@ -40,6 +40,16 @@ QImage firstPage(const QString &file, double devicePixelRatio)
     return image;
 }
 
+// Pictures for finer screens have a multiple of 72 pixels an inch; any other number is no statement
+// about screens.
+double pixelsPerPointOf(const QImage &image)
+{
+    constexpr double kMetersPerInch = 0.0254;
+    const int dotsPerInch = qRound(image.dotsPerMeterX() * kMetersPerInch);
+    const int ratio = dotsPerInch / static_cast<int>(kPointsPerInch);
+    return ratio > 1 && dotsPerInch % static_cast<int>(kPointsPerInch) == 0 ? ratio : 1.0;
+}
+
 } // namespace
 
 QImage readPicture(const QString &file, double devicePixelRatio)
@@ -51,6 +61,7 @@ QImage readPicture(const QString &file, double devicePixelRatio)
         QImageReader reader(file);
         reader.setDecideFormatFromContent(true);
         image = reader.read();
+        image.setDevicePixelRatio(pixelsPerPointOf(image));
     }
     if (image.isNull())
         qCWarning(lcImage) << file << "is no picture";

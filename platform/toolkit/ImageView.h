@@ -12,6 +12,8 @@ namespace corvana {
 /// Reads a picture: any format that Qt reads, or the first page of a PDF file.
 ///
 /// A page is rendered for the device pixel ratio, so that it stays sharp where screens are fine.
+/// Any other picture has one pixel a point; one whose resolution is a multiple of 72 dots an inch
+/// (144, 216) is drawn for finer screens and has as many pixels more.
 /// Range: a page that would be larger than 8000 pixels in either direction is rendered smaller.
 /// Errors: a null image for a file that is no picture.
 CORVANA_PLATFORM_EXPORT QImage readPicture(const QString &file, double devicePixelRatio);

@@ -5,12 +5,19 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 #include <QLoggingCategory>
+#include <QStackedWidget>
+#include <QTableView>
 #include <QUiLoader>
 
 #include "platform/toolkit/Bindings.h"
+#include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/FrameLayout.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/Stepper.h"
 
 namespace corvana {
 
@@ -28,13 +35,24 @@ QStringList &untoldProblems()
 class FormLoader : public QUiLoader
 {
 public:
+    using Classes = std::map<QString, std::function<QWidget *(QWidget *)>>;
+
+    explicit FormLoader(const Classes &ownClasses) : m_classes(ownClasses)
+    {
+        m_classes[QStringLiteral("RadioMatrix")] = [](QWidget *p) { return new RadioMatrix(p); };
+        m_classes[QStringLiteral("Stepper")] = [](QWidget *p) { return new Stepper(p); };
+        m_classes[QStringLiteral("DisclosureButton")] = [](QWidget *p) {
+            return new DisclosureButton(p);
+        };
+    }
+
     QStringList unknownClasses;
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
         QWidget *widget = nullptr;
-        if (className == QLatin1StringView("RadioMatrix"))
-            widget = new RadioMatrix(parent);
+        if (const auto own = m_classes.find(className); own != m_classes.end())
+            widget = own->second(parent);
         else if (availableWidgets().contains(className) || className == QLatin1StringView("Line"))
             widget = QUiLoader::createWidget(className, parent, name);
         if (widget)
@@ -53,15 +71,18 @@ public:
             unknownClasses += className;
         return layout;
     }
+
+private:
+    Classes m_classes;
 };
 
 // The constructor of QUiLoader opens every designer plug-in that it can find, which costs time and
 // runs code of others; no interface file of ours needs one.
-std::unique_ptr<FormLoader> makeLoader()
+std::unique_ptr<FormLoader> makeLoader(const FormLoader::Classes &ownClasses)
 {
     const QStringList paths = QCoreApplication::libraryPaths();
     QCoreApplication::setLibraryPaths({});
-    auto loader = std::make_unique<FormLoader>();
+    auto loader = std::make_unique<FormLoader>(ownClasses);
     QCoreApplication::setLibraryPaths(paths);
     // Texts of an interface file come from the bundle's string table, not from the program's.
     loader->setTranslationEnabled(false);
@@ -101,10 +122,17 @@ public:
         for (QWidget *widget : widgets) {
             connectOutlet(widget);
             connectBindings(widget, dictionary);
+            connectDelegate(widget);
+            connectArrayController(widget);
+            connectCompanion(widget);
             ignoreWheelWithoutFocus(widget);
         }
         for (QWidget *widget : widgets)
             connectAction(widget);
+        for (QWidget *widget : widgets) {
+            if (widget->property("layoutByFrames").toBool())
+                new FrameLayout(widget);
+        }
         if (problems.isEmpty() && m_owner.m_dictionary)
             *m_owner.m_dictionary = dictionary;
     }
@@ -140,7 +168,7 @@ private:
             return widget->property(property).toString();
         };
         if (const QString value = key("bindValue"); !value.isEmpty()) {
-            if (!bindValue(widget, dictionary, value)) {
+            if (!bindToValue(widget, dictionary, value)) {
                 reject({nameOf(widget), "name=\"bindValue\"", value.toUtf8()},
                        QStringLiteral("\"%1\" has no value to bind to \"%2\"")
                            .arg(widget->objectName(), value));
@@ -152,6 +180,77 @@ private:
             bindVisible(widget, dictionary, visible);
         if (const QString color = key("bindTextColor"); !color.isEmpty())
             bindTextColor(widget, dictionary, color, key("textColorTransformer"));
+    }
+
+    static bool bindToValue(QWidget *widget, BindingDictionary *dictionary, const QString &key)
+    {
+        auto *field = qobject_cast<QLineEdit *>(widget);
+        const auto *slider = qobject_cast<QAbstractSlider *>(companionOf(widget));
+        if (field && slider) {
+            bindNumber(field, dictionary, key, slider);
+            return true;
+        }
+        return bindValue(widget, dictionary, key);
+    }
+
+    static QWidget *companionOf(const QWidget *widget)
+    {
+        const QString name = widget->property("companion").toString();
+        return name.isEmpty() ? nullptr : widget->window()->findChild<QWidget *>(name);
+    }
+
+    void connectCompanion(QWidget *widget)
+    {
+        const QString name = widget->property("companion").toString();
+        if (name.isEmpty())
+            return;
+        QWidget *companion = companionOf(widget);
+        auto *stepper = qobject_cast<Stepper *>(widget);
+        auto *disclosure = qobject_cast<DisclosureButton *>(widget);
+        auto *field = qobject_cast<QLineEdit *>(companion);
+        auto *heading = qobject_cast<QLabel *>(companion);
+        if (stepper && field)
+            stepper->setField(field);
+        else if (disclosure && heading)
+            disclosure->setHeading(heading);
+        else if (!qobject_cast<QLineEdit *>(widget) || !qobject_cast<QAbstractSlider *>(companion))
+            reject(
+                {nameOf(widget), "name=\"companion\"", name.toUtf8()},
+                QStringLiteral("\"%1\" cannot work with \"%2\"").arg(widget->objectName(), name));
+    }
+
+    void connectDelegate(QWidget *widget)
+    {
+        const QString name = widget->property("delegate").toString();
+        if (name.isEmpty())
+            return;
+        auto *field = qobject_cast<QLineEdit *>(widget);
+        const auto delegate = m_owner.m_delegates.find(name);
+        if (field && delegate != m_owner.m_delegates.end())
+            return setTextFieldDelegate(field, delegate->second);
+        reject({nameOf(widget), "name=\"delegate\"", name.toUtf8()},
+               QStringLiteral("\"%1\" cannot have the delegate \"%2\"")
+                   .arg(widget->objectName(), name));
+    }
+
+    void connectArrayController(QWidget *widget)
+    {
+        const QString name = widget->property("arrayController").toString();
+        if (name.isEmpty())
+            return;
+        const auto slot = m_owner.m_arrayControllers.find(name);
+        auto *table = qobject_cast<QTableView *>(widget);
+        auto *pages = qobject_cast<QStackedWidget *>(widget);
+        if (slot == m_owner.m_arrayControllers.end() || (!table && !pages))
+            return reject({nameOf(widget), "name=\"arrayController\"", name.toUtf8()},
+                          QStringLiteral("\"%1\" cannot show the rows of \"%2\"")
+                              .arg(widget->objectName(), name));
+        if (!*slot->second)
+            *slot->second = new ArrayController(widget->window());
+        if (table)
+            (*slot->second)->bindTable(table);
+        else
+            (*slot->second)->bindPages(pages);
     }
 
     void connectAction(QWidget *widget)
@@ -199,7 +298,7 @@ LoadedInterface loadInterface(const QString &file, const InterfaceConnections &o
     buffer.open(QIODevice::ReadOnly);
 
     const ProgrammaticChange change;
-    const std::unique_ptr<FormLoader> loader = makeLoader();
+    const std::unique_ptr<FormLoader> loader = makeLoader(owner.m_classes);
     std::unique_ptr<QWidget> view(loader->load(&buffer));
     InterfaceConnector connector(owner, file, text);
     for (const QString &className : std::as_const(loader->unknownClasses)) {

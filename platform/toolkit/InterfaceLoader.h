@@ -10,10 +10,14 @@
 #include <QWidget>
 
 #include "platform/PlatformExport.h"
+#include "platform/toolkit/ArrayController.h"
 #include "platform/toolkit/BindingDictionary.h"
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/TextFieldDelegate.h"
 
 namespace corvana {
+
+struct LoadedInterface;
 
 /// What the owner of an interface file offers it to connect to: outlets by the object names of the
 /// file's controls, actions by the names that the controls' `action` property gives, and the place
@@ -32,11 +36,26 @@ public:
                                return control != nullptr;
                            }};
     }
+    /// The array controller called `name`, which tables and pages of the file share.
+    void arrayController(const QString &name, QPointer<ArrayController> &slot)
+    {
+        m_arrayControllers[name] = &slot;
+    }
+    /// A class of the owner's own that the file may use.
+    void controlClass(const QString &name, std::function<QWidget *(QWidget *parent)> create)
+    {
+        m_classes[name] = std::move(create);
+    }
+    void textFieldDelegate(const QString &name, TextFieldDelegate delegate)
+    {
+        m_delegates[name] = std::move(delegate);
+    }
     void action(const QString &name, ControlAction action) { m_actions[name] = std::move(action); }
     void bindingDictionary(QPointer<BindingDictionary> &slot) { m_dictionary = &slot; }
 
 private:
     friend class InterfaceConnector;
+    friend LoadedInterface loadInterface(const QString &file, const InterfaceConnections &owner);
     struct Outlet
     {
         QString className;
@@ -44,6 +63,9 @@ private:
     };
     std::map<QString, Outlet> m_outlets;
     std::map<QString, ControlAction> m_actions;
+    std::map<QString, TextFieldDelegate> m_delegates;
+    std::map<QString, std::function<QWidget *(QWidget *)>> m_classes;
+    std::map<QString, QPointer<ArrayController> *> m_arrayControllers;
     QPointer<BindingDictionary> *m_dictionary = nullptr;
 };
 
@@ -61,8 +83,13 @@ struct LoadedInterface
 /// Beside the properties of the controls themselves these dynamic properties are understood, all
 /// texts but `tag`: `action` (name of an action), `bindValue`, `bindEnabled`, `bindVisible`,
 /// `bindTextColor` (key of the binding dictionary; the colour comes from the value transformer
-/// named by `textColorTransformer`), `tag` (whole number). The class `RadioMatrix` is available as
-/// a custom widget. Bindings are connected before actions, and nothing acts while a file is loaded.
+/// named by `textColorTransformer`), `tag` (whole number), `delegate` (of a text field, by name),
+/// `arrayController` (of a table and of a stack of pages, by name), `layoutByFrames` (true: the
+/// children keep the frames of the file, see FrameLayout), and `companion`, the name of the control
+/// that another one works with: the field of a Stepper, the heading of a DisclosureButton, the
+/// slider that gives a field with a bound number its range. The classes `RadioMatrix`, `Stepper`
+/// and `DisclosureButton` are available as custom widgets, with those that the owner adds. Bindings
+/// are connected before actions, and nothing acts while a file is loaded.
 ///
 /// Errors: a file that is malformed, or that names a class, an action or a binding which does not
 /// exist, loads no view at all rather than one with a dead control.

@@ -1,6 +1,7 @@
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QComboBox>
+#include <QStandardItemModel>
 
 #include "platform/toolkit/ProgrammaticChange.h"
 
@@ -65,6 +66,18 @@ QVariant representedObject(const QComboBox *popUp, int index)
 void setItemImage(QComboBox *popUp, int index, const QIcon &image)
 {
     popUp->setItemIcon(index, image);
+}
+
+void setItemEnabled(QComboBox *popUp, int index, bool enabled)
+{
+    auto *model = qobject_cast<QStandardItemModel *>(popUp->model());
+    if (QStandardItem *item = model ? model->item(index) : nullptr)
+        item->setEnabled(enabled);
+}
+
+bool isItemEnabled(const QComboBox *popUp, int index)
+{
+    return popUp->model()->flags(popUp->model()->index(index, 0)).testFlag(Qt::ItemIsEnabled);
 }
 
 void selectItemAt(QComboBox *popUp, int index)

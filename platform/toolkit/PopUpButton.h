@@ -36,6 +36,11 @@ CORVANA_PLATFORM_EXPORT QVariant representedObject(const QComboBox *popUp, int i
 
 CORVANA_PLATFORM_EXPORT void setItemImage(QComboBox *popUp, int index, const QIcon &image);
 
+/// Lets an item be picked or not. Range: an index that does not exist is ignored.
+CORVANA_PLATFORM_EXPORT void setItemEnabled(QComboBox *popUp, int index, bool enabled);
+/// False for an index that does not exist.
+CORVANA_PLATFORM_EXPORT bool isItemEnabled(const QComboBox *popUp, int index);
+
 /// Selects the item at `index`, or nothing with -1.
 CORVANA_PLATFORM_EXPORT void selectItemAt(QComboBox *popUp, int index);
 

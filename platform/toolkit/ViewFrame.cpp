@@ -1,10 +1,12 @@
 #include "platform/toolkit/ViewFrame.h"
 
 #include <QFontInfo>
+#include <QLayout>
 #include <QSizeF>
 #include <QVariant>
 #include <QWidget>
 
+#include "platform/toolkit/FrameLayout.h"
 #include "platform/toolkit/Windows.h"
 
 namespace corvana {
@@ -19,6 +21,14 @@ QSizeF requestedSize(const QWidget *view)
     return view->property(kRequestedSize).toSizeF();
 }
 
+// The layout that places a view by its frame; null for one that is placed otherwise.
+FrameLayout *frameLayoutAround(const QWidget *view)
+{
+    const QWidget *parent = view->parentWidget();
+    auto *layout = parent ? qobject_cast<FrameLayout *>(parent->layout()) : nullptr;
+    return layout && layout->indexOf(view) >= 0 ? layout : nullptr;
+}
+
 } // namespace
 
 double pixelsPerPoint(const QWidget *view)
@@ -30,6 +40,11 @@ ViewFrame viewFrame(const QWidget *view)
 {
     if (!view)
         return {};
+    if (const FrameLayout *layout = frameLayoutAround(view)) {
+        const QRectF frame = layout->frame(view);
+        return {frame.x(), viewFrame(view->parentWidget()).height - frame.bottom(), frame.width(),
+                frame.height()};
+    }
     const double scale = pixelsPerPoint(view);
     const QSizeF size =
         requestedSize(view).isEmpty() ? QSizeF(view->size()) / scale : requestedSize(view);
@@ -42,6 +57,12 @@ void setViewFrame(QWidget *view, const ViewFrame &frame)
 {
     if (!view)
         return;
+    if (FrameLayout *layout = frameLayoutAround(view)) {
+        const double top = viewFrame(view->parentWidget()).height - frame.y - frame.height;
+        layout->setFrame(view, {frame.x, top, frame.width, frame.height});
+        postNotificationWhenLaidOut(view);
+        return;
+    }
     const double scale = pixelsPerPoint(view);
     const QSize size(qRound(frame.width * scale), qRound(frame.height * scale));
     const int parentHeight = view->parentWidget() ? view->parentWidget()->height() : size.height();
@@ -51,9 +72,9 @@ void setViewFrame(QWidget *view, const ViewFrame &frame)
     postNotificationWhenLaidOut(view);
 }
 
-int requestedHeight(const QWidget *view)
+QSize requestedPixelSize(const QWidget *view)
 {
-    return qRound(requestedSize(view).height() * pixelsPerPoint(view));
+    return (requestedSize(view) * pixelsPerPoint(view)).toSize();
 }
 
 } // namespace corvana

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QSize>
+
 #include "platform/PlatformExport.h"
 
 class QWidget;
@@ -30,7 +32,7 @@ CORVANA_PLATFORM_EXPORT ViewFrame viewFrame(const QWidget *view);
 /// kViewDidUpdateTrackingAreasNotification (see Windows.h) when it has been laid out again.
 CORVANA_PLATFORM_EXPORT void setViewFrame(QWidget *view, const ViewFrame &frame);
 
-/// The height that a view asks for. Units: pixels; 0 when it never asked for any.
-CORVANA_PLATFORM_EXPORT int requestedHeight(const QWidget *view);
+/// The size that setViewFrame() asked for last. Units: pixels; empty when none was ever asked for.
+CORVANA_PLATFORM_EXPORT QSize requestedPixelSize(const QWidget *view);
 
 } // namespace corvana

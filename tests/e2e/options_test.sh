@@ -69,8 +69,8 @@ blackIsNotEnhancedWhenGrayIsPrintedWithBlackToner() {
     expect_lines 'Enhance Black Printing: Off' 'Print Gray with Black Toner Only: On'
 }
 
-# Only the Japanese panel offers postcards as a medium.
-postcardsAsTheDefaultMediumAreForJapaneseOnly() {
+# What a printer's default medium is does not matter: the paper and the language decide.
+theMediumFollowsThePaperAndTheLanguage() {
     changed_ppd 's/^\*DefaultQXMediaType: .*/*DefaultQXMediaType: PostCard/'
     print
     expect_printed
@@ -78,6 +78,10 @@ postcardsAsTheDefaultMediumAreForJapaneseOnly() {
     expect_lines 'Media Type: Plain Paper'
     in_language ja_JP
     print
+    expect_printed
+    expect_code QXMediaType=Thin
+    expect_lines '用紙の種類: 普通紙（薄め）'
+    print -o PageSize=Postcard
     expect_printed
     expect_code QXMediaType=PostCard
     expect_lines '用紙の種類: はがき'

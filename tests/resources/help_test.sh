@@ -84,23 +84,26 @@ def outline(tree):
 # What is on the screen: the PPD's texts, the panels' and the dialog's.
 
 
-def printer_texts(language):
-    """The texts of options and choices by keyword and choice; an option's choice is None."""
+def texts_of_printers(language):
+    """Each text of an option or choice, as (keyword, choice, text); an option's choice is None."""
     code = LANGUAGES[language]
-    texts = {}
     for ppd in sorted((root / "resources/ppd").glob("*.ppd")):
         for line in ppd.read_text(encoding="utf-8").splitlines():
             if code:
                 found = re.match(rf"\*{code}\.(\w+) (\w+)/(.*): \"\"$", line)
                 if found and found[1] == "Translation":
-                    texts[found[2], None] = found[3]
+                    yield found[2], None, found[3]
                 elif found:
-                    texts[found[1], found[2]] = found[3]
-            elif found := re.match(r"\*OpenUI \*(\w+)/(.*): PickOne$", line):
-                texts[found[1], None] = found[2]
+                    yield found[1], found[2], found[3]
+            elif found := re.match(r"\*OpenUI \*(\w+)/(.*): (?:PickOne|Boolean)$", line):
+                yield found[1], None, found[2]
             elif found := re.match(r"\*(\w+) (\w+)/([^:]*): \"", line):
-                texts[found[1], found[2]] = found[3]
-    return texts
+                yield found[1], found[2], found[3]
+
+
+def printer_texts(language):
+    """A text for each keyword and choice. Printers may have several: this is the last one's."""
+    return {(keyword, choice): text for keyword, choice, text in texts_of_printers(language)}
 
 
 def messages(file):
@@ -125,7 +128,7 @@ def dialog_texts(language):
 def words_on_screen(language):
     """A pattern for each text: what stands for %1 can be anything."""
     panel_texts = messages(root / f"resources/bundle/strings/{language}.ts")
-    texts = set(printer_texts(language).values()) | {text for _, text in panel_texts}
+    texts = {text for *_, text in texts_of_printers(language)} | {text for _, text in panel_texts}
     for text in dialog_texts(language).values():
         text = re.sub(r"\(&\w\)|&", "", text)  # the access key
         texts.add(re.sub(r"[:：]$", "", text))

@@ -47,5 +47,81 @@
         <source>Unsupported Paper MSG4</source>
         <translation>3. Print again.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>advancedItem</source>
+        <translation>Advanced Options</translation>
+    </message>
+    <message>
+        <source>ImproveOutput</source>
+        <translation>Improve Print Output</translation>
+    </message>
+    <message>
+        <source>QXQuietMode</source>
+        <translation>Quiet Mode</translation>
+    </message>
+    <message>
+        <source>OtherOption</source>
+        <translation>Other Options</translation>
+    </message>
+    <message>
+        <source>STR_MES_TRAY_RECOMMEND_INSTRUCTIONS</source>
+        <translation>For good results with this kind of paper:</translation>
+    </message>
+    <message>
+        <source>STR_MES_TRAY_REQUEST_INSTRUCTIONS</source>
+        <translation>Always do this to print on labels:</translation>
+    </message>
+    <message>
+        <source>STR_MES_TRAY_SELECT_MP</source>
+        <translation>If “Paper Source” can be set, choose “Multi-Purpose Tray” or “Manual Feed”.</translation>
+    </message>
+    <message>
+        <source>STR_MES_TRAY_USEMP</source>
+        <translation>Load the paper into the multi-purpose tray or the manual feed slot at the front of the printer.</translation>
+    </message>
+    <message>
+        <source>STR_MES_TRAY_USEMP_ONESHEET</source>
+        <translation>Load the paper into the multi-purpose tray or the manual feed slot at the front of the printer, one sheet at a time.</translation>
+    </message>
+    <message>
+        <source>DLG_TITLE_BACKCOVER</source>
+        <translation>Open the back cover of the printer</translation>
+    </message>
+    <message>
+        <source>STR_MES_BACKCOVER_RECOMMEND_INSTRUCTIONS</source>
+        <translation>Get the printer ready for this kind of paper:</translation>
+    </message>
+    <message>
+        <source>STR_MES_BACKCOVER_OPEN</source>
+        <translation>Open the back cover.</translation>
+    </message>
+    <message>
+        <source>STR_MES_BACKCOVER_PULLDOWN_GRAY</source>
+        <translation>Pull down the two gray levers inside, one on the left and one on the right.</translation>
+    </message>
+    <message>
+        <source>STR_MES_BACKCOVER_STARTPRINT</source>
+        <translation>Then start printing.</translation>
+    </message>
+    <message>
+        <source>STR_MES_BACKCOVER_NOTE_USEMP</source>
+        <translation>Load the labels into the multi-purpose tray or the manual feed slot at the front of the printer.</translation>
+    </message>
+    <message>
+        <source>STR_MES_BACKCOVER_NOTE_DUPLEX</source>
+        <translation>This kind of paper is printed on one side at a time. Two-sided printing has been turned off.</translation>
+    </message>
+    <message>
+        <source>DLG_BACKCOVER_INSTRUCTION_NOTE</source>
+        <translation>Envelopes are printed on one side only. Two-sided printing has been turned off.</translation>
+    </message>
 </context>
 </TS>

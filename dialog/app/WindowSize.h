@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QSize>
+
+namespace corvana {
+
+/// The size that the user last gave the dialog, no larger than the screen; `usual` when there is
+/// none. Units: pixels.
+QSize rememberedWindowSize(const QSize &usual, const QSize &screen);
+
+/// Keeps a size for the next dialog. Preferences that cannot be written are logged and no more.
+void rememberWindowSize(const QSize &size);
+
+} // namespace corvana

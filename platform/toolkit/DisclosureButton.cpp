@@ -1,0 +1,60 @@
+#include "platform/toolkit/DisclosureButton.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QStyleOption>
+#include <QStylePainter>
+
+namespace corvana {
+
+DisclosureButton::DisclosureButton(QWidget *parent) : QPushButton(parent)
+{
+    setCheckable(true);
+    setAutoDefault(false); // Return is for the dialog's own button
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void DisclosureButton::setHeading(QLabel *heading)
+{
+    heading->installEventFilter(this);
+    heading->setBuddy(this);
+}
+
+bool DisclosureButton::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease && isEnabled()) {
+        click();
+        return true;
+    }
+    return QPushButton::eventFilter(watched, event);
+}
+
+QSize DisclosureButton::sizeHint() const
+{
+    const int side = fontMetrics().height();
+    return {side, side};
+}
+
+QSize DisclosureButton::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void DisclosureButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOption arrow;
+    arrow.initFrom(this);
+    arrow.rect = rect().adjusted(2, 2, -2, -2);
+    const auto sideways = layoutDirection() == Qt::RightToLeft ? QStyle::PE_IndicatorArrowLeft
+                                                               : QStyle::PE_IndicatorArrowRight;
+    painter.drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown : sideways, arrow);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.backgroundColor = palette().color(QPalette::Window);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+}
+
+} // namespace corvana
