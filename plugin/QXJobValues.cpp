@@ -8,6 +8,7 @@
 #include "colorsetting/EffectSet.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
+#include "printsetting/ImproveOutput.h"
 #include "printsetting/PrintSettingKeys.h"
 #include "printsetting/ValueBounds.h"
 
@@ -234,6 +235,26 @@ QList<JobOption> QXJobValues::impliedMarks(const PrintSettings &settings, ppd_fi
     if (mode.isNull() || !ppdChoice(option, implied))
         return {};
     return {{kQXSleepTime, implied}};
+}
+
+QList<JobOption> QXJobValues::companions(const JobOption &marked, const PrintSettings &settings,
+                                         ppd_file_t *) const
+{
+    if (marked.name == kQXImproveOutput) {
+        for (const ImproveOutputForm &form : kImproveOutputForms) {
+            if (marked.value == form.single)
+                return {{kQXFixIntensity, form.fixIntensity},
+                        {kQXLessPaperCurl, form.lessPaperCurl}};
+        }
+        return {};
+    }
+    if (marked.name != kQXFixIntensity && marked.name != kQXLessPaperCurl)
+        return {};
+    if (marked.value == kChoiceOn)
+        return {{kQXImproveOutput, marked.name}};
+    // One of the two is off; the single option is off with it only when it stood for that one.
+    const bool stoodForIt = settings.value(kQXImproveOutput) == QVariant(marked.name);
+    return stoodForIt ? QList<JobOption>{{kQXImproveOutput, kChoiceOff}} : QList<JobOption>();
 }
 
 } // namespace corvana

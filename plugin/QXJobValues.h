@@ -14,6 +14,8 @@ public:
     JobValueClaim takeJobOption(const JobOption &option, PrintSettings &settings,
                                 ppd_file_t *ppd) const override;
     QList<JobOption> impliedMarks(const PrintSettings &settings, ppd_file_t *ppd) const override;
+    QList<JobOption> companions(const JobOption &marked, const PrintSettings &settings,
+                                ppd_file_t *ppd) const override;
 };
 
 } // namespace corvana

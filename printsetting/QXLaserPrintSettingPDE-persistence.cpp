@@ -3,27 +3,11 @@
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/ControlActions.h"
+#include "printsetting/ImproveOutput.h"
 #include "printsetting/PrintSettingKeys.h"
 #include "printsetting/QXLaserPrintSetting.h"
 
 namespace corvana {
-
-namespace {
-
-// What the single improve-output option stands for on printers with two separate ones.
-struct ImproveOutputForm
-{
-    QLatin1StringView single;
-    QLatin1StringView fixIntensity;
-    QLatin1StringView lessPaperCurl;
-};
-constexpr ImproveOutputForm kImproveOutputForms[] = {
-    {kChoiceOff, kChoiceOff, kChoiceOff},
-    {kQXFixIntensity, kChoiceOn, kChoiceOff},
-    {kQXLessPaperCurl, kChoiceOff, kChoiceOn},
-};
-
-} // namespace
 
 QString QXLaserPrintSettingPDE::storedChoice(QLatin1StringView keyword) const
 {

@@ -49,6 +49,9 @@ void setRange(QDoubleSpinBox *field, float least, float most, const Unit &unit)
     field->setSingleStep(unit.step);
     field->setRange(std::ceil(static_cast<double>(least) / unit.points * parts) / parts,
                     std::floor(static_cast<double>(most) / unit.points * parts) / parts);
+    field->setToolTip(
+        CustomPaperSize::tr("From %1 to %2")
+            .arg(field->textFromValue(field->minimum()), field->textFromValue(field->maximum())));
 }
 
 } // namespace
@@ -81,6 +84,7 @@ QDoubleSpinBox *CustomPaperSize::addField(const QString &name)
     auto *field = new QDoubleSpinBox(this);
     field->setObjectName(name);
     field->setKeyboardTracking(false); // a size is entered when it is complete
+    field->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     ignoreWheelWithoutFocus(field);
     connect(field, &QDoubleSpinBox::valueChanged, this, [this] {
         if (!ProgrammaticChange::isInProgress())

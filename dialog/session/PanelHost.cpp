@@ -9,6 +9,7 @@
 
 #include "dialog/session/OptionNames.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/pde/PDEJobValues.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPlugIn.h"
 #include "platform/printcore/PageFormat.h"
@@ -88,6 +89,7 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
     m_told = session.snapshot().marks;
     if (!plugIn)
         return;
+    m_jobValues = plugIn->jobValues();
     m_panels = plugIn->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType),
                                                      m_callback);
 }
@@ -241,6 +243,7 @@ bool PanelHost::deliverOnce()
             continue;
         m_told.insert(change.key(), change->choice);
         anything = true;
+        markCompanions(change.key(), change->choice);
         restore = restore || panelsMustRestore(change.key());
         for (const auto &panel : std::as_const(m_panels)) {
             if (panel.get() == change->source)
@@ -256,6 +259,22 @@ bool PanelHost::deliverOnce()
         panel->restoreValuesAndReturnError(nullptr);
     }
     return anything;
+}
+
+// Other forms of the same choice follow it. They are told to the panels like any other change.
+void PanelHost::markCompanions(const QString &keyword, const QString &choice)
+{
+    if (!m_jobValues)
+        return;
+    PrintSettings &settings = m_session.printSettings();
+    const QList<JobOption> companions =
+        m_jobValues->companions({keyword, choice}, settings, m_session.ppd());
+    for (const JobOption &companion : companions) {
+        if (ppdOption(m_session.ppd(), companion.name))
+            m_session.change(companion.name, companion.value, PpdSession::Origin::Dialog);
+        else if (settings.contains(companion.name))
+            settings.setValue(companion.name, companion.value);
+    }
 }
 
 void PanelHost::saveVisible()

@@ -15,6 +15,7 @@ class QWidget;
 
 namespace corvana {
 
+class PDEJobValues;
 class PDEPanel;
 class PDEPlugIn;
 
@@ -85,6 +86,7 @@ private:
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
     void announcePaper();
+    void markCompanions(const QString &keyword, const QString &choice);
     void scheduleDelivery();
     bool hasNews() const { return !m_pending.isEmpty() || m_refused || m_paperChanged; }
     bool panelIsBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
@@ -92,6 +94,7 @@ private:
     void restoreHidden();
 
     PpdSession &m_session;
+    const PDEJobValues *m_jobValues = nullptr; // null for a printer without panels
     std::unique_ptr<HeldAlerts> m_alerts;
     std::shared_ptr<HostCallback> m_callback;
     QList<std::shared_ptr<PDEPanel>> m_panels;

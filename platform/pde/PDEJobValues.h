@@ -60,6 +60,17 @@ public:
     /// The PPD choices that the stored entries imply (a manual sleep time implies the choice
     /// "Custom"); the host marks them before it builds panels and after it changed entries.
     virtual QList<JobOption> impliedMarks(const PrintSettings &settings, ppd_file_t *ppd) const = 0;
+
+    /// Options that say the same as one that was just marked, in another form, and the choices that
+    /// they must have now. The host marks those that the PPD has and corrects the entries of those
+    /// that it lacks: a panel reads either form, and a stale one would bring the former choice back
+    /// at every restore. Empty for most options.
+    virtual QList<JobOption> companions([[maybe_unused]] const JobOption &marked,
+                                        [[maybe_unused]] const PrintSettings &settings,
+                                        [[maybe_unused]] ppd_file_t *ppd) const
+    {
+        return {};
+    }
 };
 
 } // namespace corvana
