@@ -10,10 +10,17 @@ inline constexpr QLatin1StringView kQXColorMatching{"QXColorMatching"};
 inline constexpr QLatin1StringView kQXEnhanceBlkPrt{"QXEnhanceBlkPrt"};
 inline constexpr QLatin1StringView kQXGray{"QXGray"};
 inline constexpr QLatin1StringView kVivid{"Vivid"};
+/// No colour matching; also the name of the reference picture that no matching has changed.
+inline constexpr QLatin1StringView kNone{"None"};
 
 /// Flags in the panel's binding dictionary; "QXColorMatching" is one more.
 inline constexpr QLatin1StringView kColorEnhancementFlag{"QXColorEnhancement"};
 inline constexpr QLatin1StringView kMonoColorFlag{"QXMonoColor"};
 inline constexpr QLatin1StringView kColorFlag{"Color"};
+/// Whether the printer's driver takes colour effects, and whether it takes none.
+inline constexpr QLatin1StringView kEffectsFlag{"ColorEffects"};
+inline constexpr QLatin1StringView kNoEffectsFlag{"NoColorEffects"};
+/// The height that the window had when the preview was drawn last. Units: points.
+inline constexpr QLatin1StringView kFrameHeight{"frameHeight"};
 
 } // namespace corvana

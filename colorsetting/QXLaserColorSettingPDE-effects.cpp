@@ -13,6 +13,7 @@ QString QXLaserColorSettingPDE::currentEffectSetKey() const
 
 void QXLaserColorSettingPDE::setEffectDefaults()
 {
+    EffectVal() = {-1, 0};
     // Only the first call takes the PPD's defaults; a later one must not undo what was restored.
     if (!PPDEffectKeys) {
         PPDEffectKeys.emplace();
@@ -20,6 +21,12 @@ void QXLaserColorSettingPDE::setEffectDefaults()
             *PPDEffectKeys += keyword;
             if (const ppd_option_t *option = ppdOption(ppd, keyword))
                 m_outputBin.insert(keyword, integerValue(ppdKeyword(option->defchoice)));
+        }
+        ccFilter = ImageFilter::filterWithName(kCIColorControls);
+        cmFilter = ImageFilter::filterWithName(kCIColorMatrix);
+        for (ImageFilter *filter : {ccFilter.get(), cmFilter.get()}) {
+            filter->setDefaults();
+            filter->setValue_forKey(refImage(), kCIInputImageKey);
         }
     }
     for (const QLatin1StringView keyword : kEffectKeywords)

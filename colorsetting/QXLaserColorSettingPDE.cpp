@@ -5,7 +5,10 @@
 #include "colorsetting/EffectSet.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
+#include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/InterfaceLoader.h"
+#include "platform/toolkit/LabelColor.h"
+#include "platform/toolkit/ViewFrame.h"
 
 namespace corvana {
 
@@ -13,6 +16,10 @@ namespace {
 
 constexpr QLatin1StringView kInternalName{"QXLaserColorSetting"};
 constexpr QLatin1StringView kHelpBook{"Corvana Color Settings Help (Laser)"};
+
+// Units: points.
+constexpr double kHeight = 110.0;
+constexpr double kAdvancedHeight = 238.0;
 
 // The panel's list in the bundle's information dictionary stands beside that of the other panel.
 QString supportedKeysEntry()
@@ -22,29 +29,49 @@ QString supportedKeysEntry()
 
 } // namespace
 
-// One row an option: the one table behind determineUI(), determineLabel() and determineKey().
+// One row an option: the one table behind the operations that look controls up.
 struct QXLaserColorSettingPDE::Roster
 {
-    using Lookup = QWidget *(*)(const QXLaserColorSettingPDE &);
+    using Panel = QXLaserColorSettingPDE;
+    template <typename Control> using Lookup = Control *(*)(const Panel &);
+
+    template <auto Field> static QWidget *field(const Panel &panel)
+    {
+        return (panel.*Field).data();
+    }
+    template <auto Field> static QLineEdit *number(const Panel &panel) { return panel.*Field; }
+    template <auto Field> static QSlider *slider(const Panel &panel) { return panel.*Field; }
+    template <typename Control> static Control *none(const Panel &) { return nullptr; }
 
     struct Row
     {
         QLatin1StringView keyword;
-        Lookup control;
-        Lookup label;
+        Lookup<QWidget> control;
+        Lookup<QWidget> label;
+        Lookup<QLineEdit> number;
+        Lookup<QSlider> slider;
     };
 
-    static QWidget *none(const QXLaserColorSettingPDE &) { return nullptr; }
-
+    static constexpr auto noControl = none<QWidget>;
+    static constexpr auto noNumber = none<QLineEdit>;
+    static constexpr auto noSlider = none<QSlider>;
     static constexpr Row rows[] = {
-        {kQXColorMatching,
-         [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.colorMatchingMatrix; },
-         [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.colorMatchingLabel; }},
-        {kQXEnhanceBlkPrt,
-         [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.enhancedBlackCheckBox; },
-         none},
-        {kQXGray, [](const QXLaserColorSettingPDE &p) -> QWidget * { return p.grayCheckBox; },
-         none},
+        {kQXColorMatching, field<&Panel::colorMatchingMatrix>, field<&Panel::colorMatchingLabel>,
+         noNumber, noSlider},
+        {kQXEnhanceBlkPrt, field<&Panel::enhancedBlackCheckBox>, noControl, noNumber, noSlider},
+        {kQXGray, field<&Panel::grayCheckBox>, noControl, noNumber, noSlider},
+        {kEffectKeywords[0], noControl, field<&Panel::brightnessLabel>,
+         number<&Panel::brightnessField>, slider<&Panel::brightnessSlider>},
+        {kEffectKeywords[1], noControl, field<&Panel::contrastLabel>, number<&Panel::contrastField>,
+         slider<&Panel::contrastSlider>},
+        {kEffectKeywords[2], noControl, field<&Panel::redLabel>, number<&Panel::redField>,
+         slider<&Panel::redSlider>},
+        {kEffectKeywords[3], noControl, field<&Panel::greenLabel>, number<&Panel::greenField>,
+         slider<&Panel::greenSlider>},
+        {kEffectKeywords[4], noControl, field<&Panel::blueLabel>, number<&Panel::blueField>,
+         slider<&Panel::blueSlider>},
+        {kEffectKeywords[5], noControl, field<&Panel::saturationLabel>,
+         number<&Panel::saturationField>, slider<&Panel::saturationSlider>},
     };
 
     static const Row *rowOf(const QString &keyword)
@@ -98,11 +125,44 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
     connections.outlet(QStringLiteral("colorMatchingLabel"), colorMatchingLabel);
     connections.outlet(QStringLiteral("enhancedBlackCheckBox"), enhancedBlackCheckBox);
     connections.outlet(QStringLiteral("grayCheckBox"), grayCheckBox);
+    connections.outlet(QStringLiteral("effectImageView"), effectImageView);
+    connections.outlet(QStringLiteral("colorModeImageView"), colorModeImageView);
+    connections.outlet(QStringLiteral("ditherPopup"), ditherPopup);
+    connections.outlet(QStringLiteral("ditherLabel"), ditherLabel);
+    connections.outlet(QStringLiteral("colorEnhanceButton"), colorEnhanceButton);
+    connections.outlet(QStringLiteral("optionLabel"), optionLabel);
+    connections.outlet(QStringLiteral("brightnessLabel"), brightnessLabel);
+    connections.outlet(QStringLiteral("contrastLabel"), contrastLabel);
+    connections.outlet(QStringLiteral("redLabel"), redLabel);
+    connections.outlet(QStringLiteral("greenLabel"), greenLabel);
+    connections.outlet(QStringLiteral("blueLabel"), blueLabel);
+    connections.outlet(QStringLiteral("saturationLabel"), saturationLabel);
+    connections.outlet(QStringLiteral("brightnessField"), brightnessField);
+    connections.outlet(QStringLiteral("contrastField"), contrastField);
+    connections.outlet(QStringLiteral("redField"), redField);
+    connections.outlet(QStringLiteral("greenField"), greenField);
+    connections.outlet(QStringLiteral("blueField"), blueField);
+    connections.outlet(QStringLiteral("saturationField"), saturationField);
+    connections.outlet(QStringLiteral("brightnessSlider"), brightnessSlider);
+    connections.outlet(QStringLiteral("contrastSlider"), contrastSlider);
+    connections.outlet(QStringLiteral("redSlider"), redSlider);
+    connections.outlet(QStringLiteral("greenSlider"), greenSlider);
+    connections.outlet(QStringLiteral("blueSlider"), blueSlider);
+    connections.outlet(QStringLiteral("saturationSlider"), saturationSlider);
+    connections.action(QStringLiteral("effectValueDidChange"),
+                       [this](QWidget *sender) { effectValueDidChange(sender); });
+    connections.action(QStringLiteral("revertEffectDialog"), [this](QWidget *sender) {
+        revertEffectDialog(sender);
+        updateUI(); // reverting leaves the effects disabled until the controls are updated
+    });
+    connections.action(QStringLiteral("updateImage"),
+                       [this](QWidget *sender) { updateImage(sender); });
 }
 
 void QXLaserColorSettingPDE::willShow()
 {
     QXPrintQualityPDE::willShow();
+    setEffectContent(kFrameHeight, 0.0); // the preview is drawn anew after every showing
     updateUI();
 }
 
@@ -118,9 +178,51 @@ void QXLaserColorSettingPDE::initializePopup()
     if (popupInited)
         return;
     QXPrintQualityPDE::initializePopup();
+    if (optionLabel)
+        optionLabel->setText(localized(QStringLiteral("advancedcolorItem")));
+    ViewFrame frame = viewFrame(m_panelView);
+    frame.height = kHeight;
+    setViewFrame(m_panelView, frame);
+    bool anyEffect = false;
+    for (const QLatin1StringView keyword : kEffectKeywords) {
+        titleEffectLabel(keyword);
+        anyEffect = anyEffect || ppdOption(ppd, keyword);
+    }
+    setEffectContent(kEffectsFlag, anyEffect);
+    setEffectContent(kNoEffectsFlag, !anyEffect);
     restoreOptionState();
     for (const QLatin1StringView keyword : kEffectKeywords)
         setEffectContent(keyword, integerValue(m_outputBin.value(keyword)));
+}
+
+void QXLaserColorSettingPDE::titleEffectLabel(QLatin1StringView keyword)
+{
+    auto *label = qobject_cast<QLabel *>(determineLabel(keyword));
+    if (!label)
+        return;
+    const ppd_option_t *option = ppdOption(ppd, keyword);
+    const QString text = option ? ppdText(option->text).value_or(QString()) : localized(keyword);
+    if (!text.isNull())
+        label->setText(text);
+    if (QLineEdit *field = determineField(keyword))
+        field->setAccessibleName(label->text());
+}
+
+void QXLaserColorSettingPDE::toggleShowOption(QWidget *button)
+{
+    const ViewFrame frame = viewFrame(m_panelView);
+    const auto *disclosure = qobject_cast<const QAbstractButton *>(button);
+    const bool discloses = disclosure && disclosure->isChecked();
+    setViewFrameSize(frame.width, frame.height + (discloses ? kAdvancedHeight : -kAdvancedHeight));
+    if (grayCheckBox && isControlEnabled(grayCheckBox))
+        keepBlackPlainWithGray();
+}
+
+// Gray is printed with black toner alone already.
+void QXLaserColorSettingPDE::keepBlackPlainWithGray()
+{
+    if (grayCheckBox && enhancedBlackCheckBox && grayCheckBox->isChecked())
+        enhancedBlackCheckBox->setEnabled(false);
 }
 
 void QXLaserColorSettingPDE::updateUI()
@@ -165,22 +267,63 @@ void QXLaserColorSettingPDE::checkUIConstraints()
     const bool driverMatchesColors = hasMode(kModeColorSync);
     const bool mono = hasMode(kModeMono);
     const bool fax = hasMode(kModeFaxOutput);
+    const bool shown = hasMode(kModePanelShown);
+    const auto color = [](QWidget *label, ControlTextColor textColor) {
+        if (label)
+            setTextColor(label, textColor);
+    };
 
     QXPrintQualityPDE::checkUIConstraints();
     setEffectContent(kQXColorMatching, driverMatchesColors);
     if (fax) {
+        color(optionLabel, ControlTextColor::Disabled);
+        for (const QString &keyword : PPDKeys.value_or(QStringList()))
+            color(determineLabel(keyword), ControlTextColor::Disabled);
+        for (const QLatin1StringView keyword : kEffectKeywords)
+            showEffectDisabled(keyword);
         setEffectContent(kColorFlag, false);
         return;
     }
+    color(optionLabel, ControlTextColor::Normal);
     setEffectContent(kColorEnhancementFlag, driverMatchesColors);
     setEffectContent(kMonoColorFlag, driverMatchesColors && !mono);
+    const QVariant matching = m_outputBin.value(kQXColorMatching);
     if (driverMatchesColors) {
         setEffectContent(kColorFlag, !mono);
-        if (grayCheckBox && enhancedBlackCheckBox && grayCheckBox->isChecked())
-            enhancedBlackCheckBox->setEnabled(false);
-    } else if (mono) {
+        for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
+            const bool printsInGray = mono && i < kMonochromeEffectCount;
+            if (matching == QVariant(QString(kNone)) && !printsInGray)
+                disableEffect(kEffectKeywords[i]);
+        }
+        keepBlackPlainWithGray();
+    } else {
         // In colour the flag stays as it was.
-        setEffectContent(kColorFlag, false);
+        if (mono)
+            setEffectContent(kColorFlag, false);
+        for (const QLatin1StringView keyword : kEffectKeywords)
+            disableEffect(keyword);
+    }
+
+    if (driverMatchesColors && !matching.isValid())
+        return;
+    setRefImageWithName(driverMatchesColors ? matching.toString() : QString(kNone));
+    if (shown)
+        redrawEffectImage();
+}
+
+void QXLaserColorSettingPDE::disableEffect(QLatin1StringView keyword)
+{
+    showEffectDisabled(keyword);
+    if (QSlider *slider = determineSlider(keyword))
+        slider->setEnabled(false);
+}
+
+void QXLaserColorSettingPDE::showEffectDisabled(QLatin1StringView keyword)
+{
+    for (QWidget *text :
+         {determineLabel(keyword), static_cast<QWidget *>(determineField(keyword))}) {
+        if (text)
+            setTextColor(text, ControlTextColor::Disabled);
     }
 }
 
@@ -214,6 +357,18 @@ QString QXLaserColorSettingPDE::determineKey(QWidget *control)
             return row.keyword;
     }
     return {};
+}
+
+QLineEdit *QXLaserColorSettingPDE::determineField(const QString &keyword)
+{
+    const Roster::Row *row = Roster::rowOf(keyword);
+    return row ? row->number(*this) : nullptr;
+}
+
+QSlider *QXLaserColorSettingPDE::determineSlider(const QString &keyword)
+{
+    const Roster::Row *row = Roster::rowOf(keyword);
+    return row ? row->slider(*this) : nullptr;
 }
 
 } // namespace corvana

@@ -26,7 +26,7 @@ namespace {
 constexpr int kTagItemTexts = 5;   // the item texts also go into the binding dictionary
 constexpr int kTagItemImages = 10; // each item gets a picture from the bundle
 
-// Printed post cards are chosen by paper size, never as a medium of their own.
+// Japanese post cards have media of their own, which this panel shows as plain or glossy.
 constexpr QLatin1StringView kNeverOfferedPrefix{"Hagaki"};
 
 bool isTextField(const QWidget *label)
@@ -149,6 +149,7 @@ void QXPrintQualityPDE::fillMatrix(RadioMatrix *matrix, ppd_option_t *option)
         matrix->setRepresentedObject(i, ppdKeyword(option->choices[i].choice));
     }
     titleLabel(determineLabel(ppdKeyword(option->keyword)), option);
+    matrix->setAccessibleName(ppdText(option->text).value_or(QString()));
 }
 
 void QXPrintQualityPDE::fillPopUp(QComboBox *popUp, ppd_option_t *option)
@@ -191,7 +192,10 @@ void QXPrintQualityPDE::titleLabel(QWidget *label, const ppd_option_t *option)
     if (auto *box = qobject_cast<QGroupBox *>(label))
         box->setTitle(QString(*text).replace(u'&', QStringLiteral("&&")));
     else if (auto *textLabel = qobject_cast<QLabel *>(label))
-        textLabel->setText(*text + QStringLiteral(": "));
+        textLabel->setText(
+            // Of a label that leads to a control Qt takes this sign for a key to press.
+            (textLabel->buddy() ? QString(*text).replace(u'&', QStringLiteral("&&")) : *text) +
+            QStringLiteral(": "));
     else if (auto *field = qobject_cast<QLineEdit *>(label))
         field->setText(*text + QStringLiteral(": "));
 }

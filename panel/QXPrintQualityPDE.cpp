@@ -85,6 +85,7 @@ QWidget *QXPrintQualityPDE::panelView()
 void QXPrintQualityPDE::connectInterface(InterfaceConnections &connections)
 {
     connections.bindingDictionary(effectContent);
+    connections.localizer([this](const QString &key) { return localized(key); });
     connections.outlet(QStringLiteral("optionButton"), optionButton);
     connections.action(QStringLiteral("requestNewOutputBin"),
                        [this](QWidget *control) { requestNewOutputBin(control); });

@@ -65,7 +65,7 @@ public:
     virtual void saveAllValues();
     /// Hook: defaults that a panel imposes.
     virtual void setDefaults();
-    /// Hook, called once during construction.
+    /// Hook, called once during construction. The spelling is the one that overrides have.
     virtual void chechModelName();
     /// Hook.
     virtual void changeResolutionLetterB();

@@ -1,5 +1,6 @@
 #include "plugin/QXJobValues.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <QRegularExpression>
@@ -61,7 +62,7 @@ JobValueClaim refused(ValueBounds bounds, const QString &form)
 {
     return {JobValueClaim::Outcome::Refused,
             {},
-            QStringLiteral("%1 to %2").arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
+            QStringLiteral("%1 … %2").arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
 }
 
 // The choice of an option whose keyword is this number ("0", "-3"), or null.
@@ -69,6 +70,13 @@ const ppd_choice_t *choiceOfNumber(ppd_option_t *option, qint64 number)
 {
     const ppd_choice_t *choice = ppdChoice(option, QString::number(number));
     return choice ? choice : ppdChoice(option, QStringLiteral("+%1").arg(number));
+}
+
+bool isNumber(const ppd_choice_t &choice)
+{
+    bool valid = false;
+    ppdKeyword(choice.choice).toLongLong(&valid);
+    return valid;
 }
 
 bool manualSleepTime(const PrintSettings &settings)
@@ -117,7 +125,12 @@ JobOption densityOption(qint64 density, ppd_option_t *option, ppd_file_t *ppd)
         return {kQXDensityAdjustment, customValue(density)};
     if (const ppd_choice_t *choice = choiceOfNumber(option, density))
         return {kQXDensityAdjustment, ppdKeyword(choice->choice)};
-    return {kDensityEntry, QString::number(density)};
+    // A density between or beyond the choices is named all the same, so that the host can refuse
+    // it; where no choice is a number it is no matter of the option's.
+    const bool numbers = std::any_of(option->choices, option->choices + option->num_choices,
+                                     [](const ppd_choice_t &choice) { return isNumber(choice); });
+    return {numbers ? QString(kQXDensityAdjustment) : QString(kDensityEntry),
+            QString::number(density)};
 }
 
 QList<JobOption> densityOptions(const PrintSettings &settings, ppd_file_t *ppd)

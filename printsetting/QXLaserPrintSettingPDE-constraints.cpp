@@ -11,8 +11,9 @@ namespace {
 
 constexpr QLatin1StringView kJapaneseLocalization{"Japanese"};
 constexpr QLatin1StringView kSimplifiedChineseLocalization{"zh_CN"};
-// From this model number on, paper sold in Japan and China prints well with the normal setting.
-constexpr int kFirstModelForHeavierPaper = 3;
+// From this model number on the thin paper sold in China prints well with the normal setting, and
+// bond paper is no medium of its own for the Japanese models.
+constexpr int kFirstModelOfNewerFuser = 3;
 
 } // namespace
 
@@ -22,18 +23,17 @@ void QXLaserPrintSettingPDE::checkLang()
         pluginBundle ? Bundle::preferredLocalizations(pluginBundle->localizations())
                      : QStringList();
     const QString language = preferred.value(0);
-    const bool heavierPaper = ppd && ppd->model_number >= kFirstModelForHeavierPaper;
+    const bool newerFuser = ppd && ppd->model_number >= kFirstModelOfNewerFuser;
     setMode(kModeJapanese, language == kJapaneseLocalization);
-    setMode(kModeThinPaperDefault,
-            language == kJapaneseLocalization ||
-                (language == kSimplifiedChineseLocalization && !heavierPaper));
+    setMode(kModeThinPaperDefault, language == kJapaneseLocalization ||
+                                       (language == kSimplifiedChineseLocalization && !newerFuser));
 }
 
 QString QXLaserPrintSettingPDE::inhibitedMediaType()
 {
     if (!hasMode(kModeJapanese))
         return kPostCard;
-    if (ppd && ppd->model_number >= kFirstModelForHeavierPaper)
+    if (ppd && ppd->model_number >= kFirstModelOfNewerFuser)
         return kBond;
     return {};
 }

@@ -40,6 +40,7 @@ bool QXLaserPrintSettingPDE::readPageSetup()
         mapped.isValid()) {
         name = mapped.toString();
     } else {
+        // A panel that was told its options hears of a new paper from the host alone.
         if (!PPDKeys) {
             NotificationCenter::defaultCenter().addObserver(
                 this, QLatin1StringView(kMenuDidSendActionNotification), nullptr,

@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QHeaderView>
 #include <QLoggingCategory>
+#include <QStyle>
 #include <QtMath>
 
 #include "panel/OptionKeywords.h"
@@ -40,8 +41,9 @@ struct QXLaserPrintSettingPDE::AdvancedRow
     static const AdvancedRow rows[];
 };
 
-// The last two keywords of the quiet mode are choices and never found; printers whose quiet mode
-// follows their own menu once listed them so.
+// The last two keywords of the quiet mode are choices of it, not options, and find nothing; the
+// test is kept as every version of the panel has had it. The sleep time is there when it has
+// minutes to choose, whatever its keyword.
 const QXLaserPrintSettingPDE::AdvancedRow QXLaserPrintSettingPDE::AdvancedRow::rows[] = {
     {kTonerSaveMode, Label::OptionText, {kTonerSaveMode}},
     {kImproveOutputRow, Label::Localized, {kQXImproveOutput, kQXReduceGhost, kQXFixIntensity}},
@@ -62,6 +64,9 @@ constexpr double kPaperSourceRow = 30.0;
 constexpr double kAdvancedHeight = 115.0;
 constexpr double kImproveLabelDrop = 14.0;
 constexpr double kColumnMargin = 12.0;
+
+// Differs from the name of every listed paper, so that the paper in use is taken for a new one.
+constexpr QLatin1StringView kPaperToJudgeAgain{"Custom"};
 
 // More tick marks than this are no help, and drawing millions of them hangs.
 constexpr qint64 kMostTickMarks = 200;
@@ -263,7 +268,7 @@ void QXLaserPrintSettingPDE::setDefaults()
 void QXLaserPrintSettingPDE::resetDefaultedOption(const QString &keyword)
 {
     if (keyword == kQXMediaType) {
-        paperName = kCustom;
+        paperName = kPaperToJudgeAgain;
         readPageSetup();
     } else if (keyword == kQXDensityAdjustment) {
         const ValueBounds bounds = densityBounds(ppd);
@@ -345,6 +350,8 @@ void QXLaserPrintSettingPDE::addAdvancedRow(const AdvancedRow &row)
         setEffectContent(row.id, true);
     if (row.id == kQXDensityAdjustment)
         titleLabel(densityLabel, ppdOption(ppd, kQXDensityAdjustment));
+    if (row.id == kQXDensityAdjustment && densityField)
+        densityField->setAccessibleName(label);
     if (row.id != kImproveOutputRow || *found == kQXImproveOutput || !improveLabel)
         return;
     // Without the choice between improvements the label titles the boxes, which stand lower.
@@ -369,16 +376,20 @@ void QXLaserPrintSettingPDE::prepareDensityControls()
         return;
     densitySlider->setMaximum(controlValue(kDensityMax));
     densitySlider->setMinimum(controlValue(kDensityMin));
-    densitySlider->setTickInterval(kDensityMax + 1 - kDensityMin <= kMostTickMarks ? 1 : 0);
+    const bool few = kDensityMax + 1 - kDensityMin <= kMostTickMarks;
+    densitySlider->setTickPosition(few ? QSlider::TicksBelow : QSlider::NoTicks);
+    densitySlider->setTickInterval(1);
 }
 
 void QXLaserPrintSettingPDE::prepareSleepTimeControls()
 {
     const ppd_cparam_t *time = ppdCustomParameter(ppd, kQXSleepTime, kTimeParameter);
-    if (const auto text = time ? ppdText(time->text) : std::nullopt; text && sleepTimeSuffixLabel)
+    const std::optional<QString> text = time ? ppdText(time->text) : std::nullopt;
+    if (text && sleepTimeSuffixLabel)
         sleepTimeSuffixLabel->setText(*text);
     if (!sleepTimeStepper)
         return;
+    sleepTimeStepper->setAccessibleName(text.value_or(QString()));
     const ProgrammaticChange change; // a stepper moves its value into a new range by itself
     sleepTimeStepper->setMinimum(controlValue(kSleepTimeMin));
     sleepTimeStepper->setMaximum(controlValue(kSleepTimeMax));
@@ -387,13 +398,19 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
 // Labels that are wider than the table can be scrolled to; else the table needs no scroll bar.
 void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
 {
+    table->setAccessibleName(localized(QStringLiteral("advancedItem")));
+    if (!table->model())
+        return;
     double widest = 0;
     for (const QVariantMap &row : arrayController->arrangedObjects()) {
         const QString label = row.value(ArrayController::kLabel).toString();
         widest = std::max(widest, QFontMetricsF(table->font()).horizontalAdvance(label));
     }
     const double scale = pixelsPerPoint(table);
-    if (widest > viewFrame(table).width * scale) {
+    // What the frame and the margins of an item leave for its text.
+    const int margins =
+        2 * (table->frameWidth() + table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    if (widest > viewFrame(table).width * scale - margins) {
         table->horizontalHeader()->setStretchLastSection(false);
         table->setColumnWidth(table->model()->columnCount() - 1,
                               qCeil(widest + kColumnMargin * scale));

@@ -131,6 +131,7 @@ QLayout *PrintDialog::buildFooter()
     m_progress->setObjectName(QStringLiteral("progress"));
     m_progress->setRange(0, 0); // how many pages there will be is known to nobody
     m_progress->setTextVisible(false);
+    m_progress->setAccessibleName(tr("Printing"));
     m_progress->setMaximumWidth(8 * fontMetrics().height());
     m_progress->hide();
     m_progressText = new QLabel(this);
@@ -444,8 +445,10 @@ void PrintDialog::resizeEvent(QResizeEvent *event)
 void PrintDialog::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        rememberWindowSize({width(), height() - m_grownBy});
+    if (event->spontaneous())
+        return; // minimised
+    const QSize own = isMaximized() ? normalGeometry().size() : size();
+    rememberWindowSize({own.width(), own.height() - (isMaximized() ? 0 : m_grownBy)});
 }
 
 void PrintDialog::showHelp()

@@ -18,7 +18,7 @@ constexpr qint64 kLeast = 200;
 int remembered(const QVariantMap &domain, QLatin1StringView key, int usual, int most)
 {
     const qint64 stored = integerValue(domain.value(key));
-    return stored < kLeast ? qMin(usual, most) : static_cast<int>(qMin<qint64>(stored, most));
+    return stored < kLeast ? usual : static_cast<int>(qMin<qint64>(stored, qMax(usual, most)));
 }
 
 } // namespace

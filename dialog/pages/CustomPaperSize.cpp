@@ -86,9 +86,9 @@ QDoubleSpinBox *CustomPaperSize::addField(const QString &name)
     field->setKeyboardTracking(false); // a size is entered when it is complete
     field->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     ignoreWheelWithoutFocus(field);
-    connect(field, &QDoubleSpinBox::valueChanged, this, [this] {
+    connect(field, &QDoubleSpinBox::valueChanged, this, [this, field] {
         if (!ProgrammaticChange::isInProgress())
-            takeSize();
+            takeSize(field);
     });
     return field;
 }
@@ -110,10 +110,13 @@ void CustomPaperSize::showSize()
     m_height->setValue(m_points.height() / unit.points);
 }
 
-void CustomPaperSize::takeSize()
+void CustomPaperSize::takeSize(const QDoubleSpinBox *field)
 {
-    const Unit &unit = unitAt(m_unit->currentIndex());
-    m_points = {m_width->value() * unit.points, m_height->value() * unit.points};
+    const double points = field->value() * unitAt(m_unit->currentIndex()).points;
+    if (field == m_width)
+        m_points.setWidth(points);
+    else
+        m_points.setHeight(points);
     Q_EMIT entered();
 }
 

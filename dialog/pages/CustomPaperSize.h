@@ -34,7 +34,7 @@ Q_SIGNALS:
 private:
     QDoubleSpinBox *addField(const QString &name);
     void showSize();
-    void takeSize();
+    void takeSize(const QDoubleSpinBox *field);
 
     ppd_file_t *m_ppd;
     QDoubleSpinBox *m_width;

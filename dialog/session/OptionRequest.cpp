@@ -289,6 +289,12 @@ QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues
                                      : QList<JobOption>();
     for (const JobOption &option : own) {
         const OptionChoice choice{option.name, option.value};
+        ppd_option_t *found = ppdOption(session.ppd(), option.name);
+        if (found && !option.value.startsWith(kCustomPrefix) && !ppdChoice(found, option.value)) {
+            problems += Texts::tr("%1: this value is not allowed. Allowed: %2.")
+                            .arg(asked(option), allowedChoices(session.ppd(), found));
+            continue;
+        }
         const QList<OptionChoice> conflicting = session.conflictsOf(choice);
         if (!conflicting.isEmpty())
             problems += conflictMessage({choice, conflicting});
@@ -354,6 +360,8 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
         outcome.problems = differences(expected, session, jobValues);
     if (!outcome.ok()) {
         outcome.attributes.clear();
+        session.restore(before);
+        panels.deliverPending(); // the former paper is judged again, and a medium proposed for it
         session.restore(before);
         panels.restoreAll();
         session.restore(before); // panels write entries of their own while they restore

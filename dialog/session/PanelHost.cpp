@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QLoggingCategory>
+#include <QScopeGuard>
 #include <QTimer>
 #include <QWidget>
 
@@ -60,8 +61,8 @@ public:
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override
     {
         ++m_host.m_uninterruptible;
+        const auto done = qScopeGuard([this] { --m_host.m_uninterruptible; });
         const AlertAnswer answer = m_presenter.runModal(alert, parent);
-        --m_host.m_uninterruptible;
         if (m_host.hasNews())
             m_host.scheduleDelivery();
         return answer;
@@ -226,9 +227,9 @@ void PanelHost::announcePaper()
     if (!std::exchange(m_paperChanged, false))
         return;
     ++m_uninterruptible;
+    const auto done = qScopeGuard([this] { --m_uninterruptible; });
     NotificationCenter::defaultCenter().post(
         QLatin1StringView(kPrintDestinationPaperDidChangeNotification), m_callback.get());
-    --m_uninterruptible;
 }
 
 bool PanelHost::deliverOnce()
@@ -252,6 +253,8 @@ bool PanelHost::deliverOnce()
             panel->PPDOptionKeyValueDidChange_ppdChoice(change.key(), change->choice);
         }
     }
+    if (restore)
+        saveVisible(); // what was entered but not saved yet would be restored away
     for (const auto &panel : std::as_const(m_panels)) {
         if (!restore)
             break;

@@ -85,7 +85,12 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     // The page region follows the page size; marked itself, it would take the mark of the size
     // away.
     if (!option || keyword == kPageRegionOption) {
-        qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
+        // A panel that runs its rules need not know which options every printer has.
+        if (origin == Origin::Panel)
+            qCInfo(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
+        else
+            qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for"
+                                 << choice;
         return {Outcome::UnknownOption, {}};
     }
     if (!ppdChoice(option, choiceKeyword(choice))) {
@@ -193,8 +198,11 @@ void PpdSession::restore(const SessionSnapshot &snapshot)
         mark(marked.key(), snapshot.customValues.value(marked.key(), marked.value()));
     m_customValues = snapshot.customValues;
     m_printSettings.setEntries(snapshot.entries);
+    const bool otherPaper = m_pageFormat != snapshot.pageFormat;
     m_pageFormat = snapshot.pageFormat;
     m_refusals.clear();
+    if (otherPaper)
+        Q_EMIT paperChanged();
 }
 
 QList<Refusal> PpdSession::takeRefusals()

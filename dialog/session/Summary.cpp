@@ -1,6 +1,7 @@
 #include "dialog/session/Summary.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include "dialog/session/OptionNames.h"
 
@@ -20,13 +21,15 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
     QString value = ppdText(choice->text).value_or(ppdKeyword(choice->choice));
     if (const QString custom = session.customValue(keyword); !custom.isNull()) {
         const Paper &paper = session.pageFormat().paper;
-        const auto millimetres = [](double points) {
-            return QString::number(qRound(points / 72.0 * 25.4));
+        const bool inches = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+        const auto length = [inches](double points) {
+            return inches ? QString::number(points / 72.0, 'f', 2)
+                          : QString::number(qRound(points / 72.0 * 25.4));
         };
-        value = keyword == kPageSizeOption
-                    ? QStringLiteral("%1 × %2 mm")
-                          .arg(millimetres(paper.width), millimetres(paper.height))
-                    : custom.mid(kCustomPrefix.size());
+        const QString form = inches ? QCoreApplication::translate("Summary", "%1 × %2 inches")
+                                    : QCoreApplication::translate("Summary", "%1 × %2 mm");
+        value = keyword == kPageSizeOption ? form.arg(length(paper.width), length(paper.height))
+                                           : custom.mid(kCustomPrefix.size());
     }
     return {ppdText(option->text).value_or(keyword), value};
 }

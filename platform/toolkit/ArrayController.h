@@ -36,8 +36,8 @@ public:
     /// Selects a row. Errors: false for one that does not exist; the selection stays then.
     bool setSelectionIndex(int index);
 
-    /// Shows the labels in `table`, whose selected row is the selection from now on, and which keeps
-    /// room for all of them.
+    /// Shows the labels in `table`, whose selected row is the selection from now on, and which
+    /// keeps room for all of them.
     void bindTable(QTableView *table);
     /// Shows the page of `pages` whose object name is the selected row's "id". Without a selection,
     /// or without such a page, `pages` shows its page without a name, where it has one.

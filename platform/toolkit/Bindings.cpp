@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
@@ -15,6 +16,7 @@
 #include "platform/foundation/ValueTransformer.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/BindingDictionary.h"
+#include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/LabelColor.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 
@@ -94,11 +96,29 @@ std::optional<qint64> writtenNumber(const QString &text)
     return valid ? std::optional(number) : std::nullopt;
 }
 
+// A field is enabled and disabled with the slider that it belongs to.
+class EnabledFollower : public QObject
+{
+public:
+    explicit EnabledFollower(QLineEdit *field) : QObject(field), m_field(field) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::EnabledChange)
+            m_field->setEnabled(isControlEnabled(static_cast<QWidget *>(watched)));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QLineEdit *m_field;
+};
+
 } // namespace
 
 void bindNumber(QLineEdit *field, BindingDictionary *dictionary, const QString &key,
-                const QAbstractSlider *slider)
+                QAbstractSlider *slider)
 {
+    slider->installEventFilter(new EnabledFollower(field));
     const auto show = [field](const QVariant &value) {
         const ProgrammaticChange change;
         field->setText(QString::number(integerValue(value)));

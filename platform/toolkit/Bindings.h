@@ -22,9 +22,10 @@ CORVANA_PLATFORM_EXPORT bool bindValue(QWidget *control, BindingDictionary *dict
 
 /// Shows the whole number under `key` in the field and writes what the user enters back, kept
 /// inside the range of `slider`. Digits and minus signs of any script count; anything that is no
-/// number brings the former one back.
+/// number brings the former one back. The field can be used
+/// while the slider can.
 CORVANA_PLATFORM_EXPORT void bindNumber(QLineEdit *field, BindingDictionary *dictionary,
-                                        const QString &key, const QAbstractSlider *slider);
+                                        const QString &key, QAbstractSlider *slider);
 
 /// Enables the control while the value under `key` is true.
 CORVANA_PLATFORM_EXPORT void bindEnabled(QWidget *control, BindingDictionary *dictionary,

@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QLineEdit>
 
+#include "platform/toolkit/FilterImageView.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/ReportedActs.h"
@@ -84,6 +85,8 @@ bool connectControlAction(QWidget *control, const ControlAction &action)
         onUserMove(slider, action);
     } else if (auto *field = qobject_cast<QLineEdit *>(control)) {
         onUserChange(field, &QLineEdit::editingFinished, action);
+    } else if (auto *view = qobject_cast<FilterImageView *>(control)) {
+        QObject::connect(view, &FilterImageView::resized, view, [view, action] { action(view); });
     } else {
         return false;
     }

@@ -1,7 +1,7 @@
 #include "platform/toolkit/DisclosureButton.h"
 
-#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QStyleOption>
 #include <QStylePainter>
 
@@ -22,7 +22,11 @@ void DisclosureButton::setHeading(QLabel *heading)
 
 bool DisclosureButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonRelease && isEnabled()) {
+    if (event->type() != QEvent::MouseButtonRelease || !isEnabled())
+        return QPushButton::eventFilter(watched, event);
+    const auto *release = static_cast<QMouseEvent *>(event);
+    const QRect heading = static_cast<QWidget *>(watched)->rect();
+    if (release->button() == Qt::LeftButton && heading.contains(release->position().toPoint())) {
         click();
         return true;
     }

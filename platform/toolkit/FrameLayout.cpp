@@ -10,7 +10,7 @@
 namespace corvana {
 
 namespace {
-constexpr double kLeastDistance = 4.0; // points, unless the frames stand closer
+constexpr double kLeastDistance = 8.0; // points, unless the frames stand closer
 }
 
 FrameLayout::FrameLayout(QWidget *view) : m_designed(view->size())

@@ -14,6 +14,7 @@
 
 #include "platform/toolkit/Bindings.h"
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/FilterImageView.h"
 #include "platform/toolkit/FrameLayout.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/RadioMatrix.h"
@@ -40,6 +41,9 @@ public:
     explicit FormLoader(const Classes &ownClasses) : m_classes(ownClasses)
     {
         m_classes[QStringLiteral("RadioMatrix")] = [](QWidget *p) { return new RadioMatrix(p); };
+        m_classes[QStringLiteral("FilterImageView")] = [](QWidget *p) {
+            return new FilterImageView(p);
+        };
         m_classes[QStringLiteral("Stepper")] = [](QWidget *p) { return new Stepper(p); };
         m_classes[QStringLiteral("DisclosureButton")] = [](QWidget *p) {
             return new DisclosureButton(p);
@@ -121,11 +125,12 @@ public:
         auto *dictionary = new BindingDictionary(view);
         for (QWidget *widget : widgets) {
             connectOutlet(widget);
+            localize(widget);
             connectBindings(widget, dictionary);
             connectDelegate(widget);
             connectArrayController(widget);
-            connectCompanion(widget);
             ignoreWheelWithoutFocus(widget);
+            connectCompanion(widget); // last: a companion may decide who takes the focus
         }
         for (QWidget *widget : widgets)
             connectAction(widget);
@@ -162,6 +167,18 @@ private:
                                           outlet->second.className));
     }
 
+    void localize(QWidget *widget)
+    {
+        const auto text = [&](const char *property) {
+            const QString key = widget->property(property).toString();
+            return key.isEmpty() || !m_owner.m_localizer ? key : m_owner.m_localizer(key);
+        };
+        if (const QString shown = text("textKey"); !shown.isEmpty())
+            widget->setProperty("text", shown);
+        if (const QString name = text("accessibleNameKey"); !name.isEmpty())
+            widget->setAccessibleName(name);
+    }
+
     void connectBindings(QWidget *widget, BindingDictionary *dictionary)
     {
         const auto key = [widget](const char *property) {
@@ -185,7 +202,7 @@ private:
     static bool bindToValue(QWidget *widget, BindingDictionary *dictionary, const QString &key)
     {
         auto *field = qobject_cast<QLineEdit *>(widget);
-        const auto *slider = qobject_cast<QAbstractSlider *>(companionOf(widget));
+        auto *slider = qobject_cast<QAbstractSlider *>(companionOf(widget));
         if (field && slider) {
             bindNumber(field, dictionary, key, slider);
             return true;

@@ -46,6 +46,11 @@ public:
     {
         m_classes[name] = std::move(create);
     }
+    /// Gives the texts of the file's `textKey` and `accessibleNameKey` properties.
+    void localizer(std::function<QString(const QString &key)> localize)
+    {
+        m_localizer = std::move(localize);
+    }
     void textFieldDelegate(const QString &name, TextFieldDelegate delegate)
     {
         m_delegates[name] = std::move(delegate);
@@ -63,6 +68,7 @@ private:
     };
     std::map<QString, Outlet> m_outlets;
     std::map<QString, ControlAction> m_actions;
+    std::function<QString(const QString &)> m_localizer;
     std::map<QString, TextFieldDelegate> m_delegates;
     std::map<QString, std::function<QWidget *(QWidget *)>> m_classes;
     std::map<QString, QPointer<ArrayController> *> m_arrayControllers;
@@ -83,9 +89,11 @@ struct LoadedInterface
 /// Beside the properties of the controls themselves these dynamic properties are understood, all
 /// texts but `tag`: `action` (name of an action), `bindValue`, `bindEnabled`, `bindVisible`,
 /// `bindTextColor` (key of the binding dictionary; the colour comes from the value transformer
-/// named by `textColorTransformer`), `tag` (whole number), `delegate` (of a text field, by name),
+/// named by `textColorTransformer`), `tag` (whole number), `textKey` and
+/// `accessibleNameKey` (of the owner's texts), `delegate` (of a text field, by name),
 /// `arrayController` (of a table and of a stack of pages, by name), `layoutByFrames` (true: the
-/// children keep the frames of the file, see FrameLayout), and `companion`, the name of the control
+/// children keep the frames of the file, see FrameLayout, also for their
+/// `stretch`), and `companion`, the name of the control
 /// that another one works with: the field of a Stepper, the heading of a DisclosureButton, the
 /// slider that gives a field with a bound number its range. The classes `RadioMatrix`, `Stepper`
 /// and `DisclosureButton` are available as custom widgets, with those that the owner adds. Bindings

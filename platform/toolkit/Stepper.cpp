@@ -1,9 +1,9 @@
 #include "platform/toolkit/Stepper.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace corvana {
 
@@ -45,7 +45,8 @@ bool Stepper::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     } else if (steps && event->type() == QEvent::Wheel) {
-        QCoreApplication::sendEvent(this, event);
+        wheelEvent(static_cast<QWheelEvent *>(event)); // called, not sent: the guard would stop it
+        event->accept();                               // at either end the page must not scroll
         return true;
     }
     return QAbstractSlider::eventFilter(watched, event);

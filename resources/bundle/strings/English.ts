@@ -123,5 +123,45 @@
         <source>DLG_BACKCOVER_INSTRUCTION_NOTE</source>
         <translation>Envelopes are printed on one side only. Two-sided printing has been turned off.</translation>
     </message>
+    <message>
+        <source>advancedcolorItem</source>
+        <translation>Color Adjustment</translation>
+    </message>
+    <message>
+        <source>QXBrightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>QXContrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>QXRed</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>QXGreen</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>QXBlue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>QXSaturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>RevertEffects</source>
+        <translation>Undo Changes</translation>
+    </message>
+    <message>
+        <source>EffectPreview</source>
+        <translation>Preview of the color adjustment</translation>
+    </message>
+    <message>
+        <source>NoColorEffects</source>
+        <translation>The driver of this printer takes no color adjustment.</translation>
+    </message>
 </context>
 </TS>

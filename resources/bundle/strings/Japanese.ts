@@ -123,5 +123,45 @@
         <source>DLG_BACKCOVER_INSTRUCTION_NOTE</source>
         <translation>封筒は片面だけに印刷できます。両面印刷はオフになりました。</translation>
     </message>
+    <message>
+        <source>advancedcolorItem</source>
+        <translation>カラー調整</translation>
+    </message>
+    <message>
+        <source>QXBrightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>QXContrast</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>QXRed</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>QXGreen</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>QXBlue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>QXSaturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>RevertEffects</source>
+        <translation>変更を元に戻す</translation>
+    </message>
+    <message>
+        <source>EffectPreview</source>
+        <translation>カラー調整のプレビュー</translation>
+    </message>
+    <message>
+        <source>NoColorEffects</source>
+        <translation>このプリンターのドライバーではカラー調整を使用できません。</translation>
+    </message>
 </context>
 </TS>

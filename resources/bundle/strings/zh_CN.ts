@@ -123,5 +123,45 @@
         <source>DLG_BACKCOVER_INSTRUCTION_NOTE</source>
         <translation>信封只能单面打印。双面打印已关闭。</translation>
     </message>
+    <message>
+        <source>advancedcolorItem</source>
+        <translation>色彩调整</translation>
+    </message>
+    <message>
+        <source>QXBrightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>QXContrast</source>
+        <translation>对比度</translation>
+    </message>
+    <message>
+        <source>QXRed</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>QXGreen</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>QXBlue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>QXSaturation</source>
+        <translation>饱和度</translation>
+    </message>
+    <message>
+        <source>RevertEffects</source>
+        <translation>撤消更改</translation>
+    </message>
+    <message>
+        <source>EffectPreview</source>
+        <translation>色彩调整预览</translation>
+    </message>
+    <message>
+        <source>NoColorEffects</source>
+        <translation>此打印机的驱动程序不支持色彩调整。</translation>
+    </message>
 </context>
 </TS>

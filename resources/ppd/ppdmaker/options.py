@@ -236,7 +236,7 @@ DENSITY_STEPS = Option(
     "QXDensityAdjustment",
     _DENSITY,
     tuple(
-        Choice(str(n), same(f"{n:+}")) if n else _STANDARD_DENSITY for n in range(-3, 4)
+        Choice(str(n), same(f"{n:+}")) if n else _STANDARD_DENSITY for n in range(-6, 7)
     ),
     "0",
 )

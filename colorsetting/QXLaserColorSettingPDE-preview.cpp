@@ -1,0 +1,176 @@
+#include "colorsetting/QXLaserColorSettingPDE.h"
+
+#include <QAbstractSlider>
+#include <QLineEdit>
+
+#include "colorsetting/ColorSettingKeys.h"
+#include "colorsetting/EffectModel.h"
+#include "panel/OptionKeywords.h"
+#include "platform/foundation/Values.h"
+#include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/ViewFrame.h"
+#include "platform/toolkit/Windows.h"
+
+namespace corvana {
+
+namespace {
+
+// A window that is higher than the panel by more than this shows the whole panel. Units: points.
+constexpr double kHeightAroundPanel = 96.0;
+
+// What a slider or a field reports; a field may say a fraction.
+QVariant reportedValue(const QWidget *sender)
+{
+    if (const auto *slider = qobject_cast<const QAbstractSlider *>(sender))
+        return slider->value();
+    if (const auto *field = qobject_cast<const QLineEdit *>(sender))
+        return field->text();
+    return {};
+}
+
+} // namespace
+
+QXLaserColorSettingPDE::LastEffect &QXLaserColorSettingPDE::EffectVal()
+{
+    static LastEffect last;
+    return last;
+}
+
+FilterImage QXLaserColorSettingPDE::refImage() const
+{
+    // Read when it is first looked at: most panels are never shown.
+    if (!m_refImageFile.isEmpty() && !m_refPictures.contains(m_refImageFile))
+        m_refPictures.insert(m_refImageFile, FilterImage(readPicture(m_refImageFile, 1.0)));
+    return m_refImageFile.isEmpty() ? m_refImage : m_refPictures.value(m_refImageFile);
+}
+
+void QXLaserColorSettingPDE::setRefImage(const FilterImage &image)
+{
+    m_refImage = image;
+    m_refImageFile.clear();
+}
+
+void QXLaserColorSettingPDE::setRefImageWithName(const QString &name)
+{
+    const QString file =
+        pluginBundle ? pluginBundle->pathForResource(name, QStringLiteral("tiff")) : QString();
+    if (!file.isNull())
+        m_refImageFile = file;
+}
+
+FilterImage QXLaserColorSettingPDE::applyColorControlFilter_code(const FilterImage &image, int code)
+{
+    ccFilter->setValue_forKey(image, kCIInputImageKey);
+    for (int effect = 0; effect < static_cast<int>(std::size(kColorControlEffects)); ++effect) {
+        if (code >= 0 && code != effect)
+            continue;
+        const EffectParameter &parameter = kColorControlEffects[effect];
+        const qint64 value = effectValue(parameter.keyword);
+        if (code >= 0)
+            setEffectContent(parameter.keyword, static_cast<float>(value));
+        ccFilter->setValue_forKey(parameter.fromValue(value), parameter.filterKey);
+    }
+    return ccFilter->outputImage();
+}
+
+FilterImage QXLaserColorSettingPDE::applyColorMatrixFilter_code(const FilterImage &image, int code)
+{
+    cmFilter->setValue_forKey(image, kCIInputImageKey);
+    for (int effect = 0; effect < static_cast<int>(std::size(kColorMatrixEffects)); ++effect) {
+        if (code >= 0 && code != effect)
+            continue;
+        const EffectParameter &parameter = kColorMatrixEffects[effect];
+        const qint64 value = effectValue(parameter.keyword);
+        if (code >= 0)
+            setEffectContent(parameter.keyword, value);
+        cmFilter->setValue_forKey(parameter.fromValue(value), parameter.filterKey);
+    }
+    // The gains stay in the filter for later; in grey they would have no meaning.
+    return hasMode(kModeMono) ? monochrome(image) : cmFilter->outputImage();
+}
+
+qint64 QXLaserColorSettingPDE::effectValue(QLatin1StringView keyword) const
+{
+    return effectContent ? integerValue(effectContent->value(keyword)) : 0;
+}
+
+void QXLaserColorSettingPDE::effectValueDidChange(QWidget *sender)
+{
+    const qint64 tag = controlTag(sender);
+    const QVariant reported = reportedValue(sender);
+    LastEffect &last = EffectVal();
+    if (tag == last.tag && reported.toFloat() == static_cast<float>(last.value))
+        return;
+    last = {tag, integerValue(reported)};
+
+    // What moved is applied first.
+    FilterImage result;
+    if (tag <= kSaturationTag) {
+        const FilterImage controlled =
+            applyColorControlFilter_code(refImage(), static_cast<int>(tag));
+        if (hasMode(kModeMono)) {
+            result = monochrome(controlled);
+        } else {
+            cmFilter->setValue_forKey(controlled, kCIInputImageKey);
+            result = cmFilter->outputImage();
+        }
+    } else if (tag <= kBlueTag) {
+        const FilterImage gained =
+            applyColorMatrixFilter_code(refImage(), static_cast<int>(tag) - kRedTag);
+        ccFilter->setValue_forKey(gained, kCIInputImageKey);
+        result = ccFilter->outputImage();
+    }
+    if (!result.isNull())
+        showPreview(result);
+}
+
+void QXLaserColorSettingPDE::redrawEffectImage()
+{
+    const bool mono = hasMode(kModeMono);
+    const bool unmatched = m_outputBin.value(kQXColorMatching) == QVariant(QString(kNone));
+    if (hasMode(kModeFaxOutput) || (unmatched && mono)) {
+        setRefImageWithName(kNone);
+        showPreview(monochrome(refImage()));
+    } else if (unmatched) {
+        showPreview(refImage());
+    } else {
+        constexpr int kAll = -1;
+        showPreview(
+            applyColorMatrixFilter_code(applyColorControlFilter_code(refImage(), kAll), kAll));
+    }
+}
+
+void QXLaserColorSettingPDE::showPreview(const FilterImage &image)
+{
+    if (effectImageView)
+        effectImageView->setImage(image);
+}
+
+void QXLaserColorSettingPDE::revertEffectDialog(QWidget *)
+{
+    EffectVal() = {-1, 0};
+    ccFilter->setDefaults();
+    cmFilter->setDefaults();
+    setEffectContent(kColorFlag, false);
+    setEffectDefaults();
+    redrawEffectImage();
+}
+
+void QXLaserColorSettingPDE::updateImage(QWidget *)
+{
+    if (!hasMode(kModePanelShown))
+        return;
+    const QWidget *window = keyWindow(m_panelView);
+    const double height = window ? window->frameGeometry().height() / pixelsPerPoint(window) : 0.0;
+    if (effectContent && effectContent->value(kFrameHeight).toDouble() == height)
+        return;
+    setEffectContent(kFrameHeight, height);
+    if (height <= viewFrame(m_panelView).height + kHeightAroundPanel)
+        return;
+    if (effectImageView)
+        effectImageView->displayIfNeeded();
+    redrawEffectImage();
+}
+
+} // namespace corvana
