@@ -76,12 +76,13 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
     }
     const QPointer<QWidget> formerParent =
         alert.accessoryView ? alert.accessoryView->parentWidget() : nullptr;
-    if (alert.accessoryView)
-        insertUnderText(box, alert.accessoryView);
+    const QPointer<QWidget> accessoryView = alert.accessoryView;
+    if (accessoryView)
+        insertUnderText(box, accessoryView);
     box.exec();
-    if (alert.accessoryView) {
-        alert.accessoryView->hide();
-        alert.accessoryView->setParent(formerParent); // the panel's again, not the box's
+    if (accessoryView) {
+        accessoryView->hide();
+        accessoryView->setParent(formerParent); // the panel's again, not the box's
     }
     AlertAnswer answer;
     for (int i = 0; i < buttons.size(); ++i) {

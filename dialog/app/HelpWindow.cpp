@@ -1,6 +1,7 @@
 #include "dialog/app/HelpWindow.h"
 
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QUrl>
@@ -11,9 +12,14 @@ namespace corvana {
 HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), m_browser(new QTextBrowser(this))
 {
     m_browser->setObjectName(QStringLiteral("help"));
-    m_browser->setOpenLinks(true);
-    m_browser->setOpenExternalLinks(false); // help never leaves the help books
+    m_browser->setOpenLinks(false);
+    connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
     auto *buttons = new QDialogButtonBox(this);
+    QPushButton *back = buttons->addButton(tr("Back"), QDialogButtonBox::ActionRole);
+    back->setObjectName(QStringLiteral("back"));
+    back->setEnabled(false);
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
+    connect(back, &QPushButton::clicked, m_browser, &QTextBrowser::backward);
     connect(buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole), &QPushButton::clicked,
             this, &QDialog::close);
     auto *layout = new QVBoxLayout(this);
@@ -33,6 +39,14 @@ void HelpWindow::open(const HelpPage &page)
     raise();
     activateWindow();
     m_browser->setFocus();
+}
+
+// Help never leaves the help books, and a link that leads nowhere leaves the page as it is.
+void HelpWindow::follow(const QUrl &link)
+{
+    const QUrl target = m_browser->source().resolved(link);
+    if (target.isLocalFile() && QFileInfo(target.toLocalFile()).isFile())
+        m_browser->setSource(target);
 }
 
 } // namespace corvana

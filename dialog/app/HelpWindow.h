@@ -5,6 +5,7 @@
 #include "platform/foundation/HelpManager.h"
 
 class QTextBrowser;
+class QUrl;
 
 namespace corvana {
 
@@ -19,6 +20,8 @@ public:
     void open(const HelpPage &page);
 
 private:
+    void follow(const QUrl &link);
+
     QTextBrowser *m_browser;
 };
 

@@ -1,11 +1,13 @@
 #include "dialog/app/PrintDialog.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
@@ -20,6 +22,8 @@
 #include "dialog/session/Summary.h"
 
 namespace corvana {
+
+Q_LOGGING_CATEGORY(lcPrinting, "corvana.dialog.printing", QtWarningMsg)
 
 void PrintDialog::chooseOutput()
 {
@@ -55,6 +59,8 @@ void PrintDialog::accept()
     }
     if (!readPageRanges() || !confirmOverwriting(output) || !m_printer->panels->shouldPrint())
         return;
+    if (m_interrupted)
+        return; // while an alert was waiting for its answer
     updateSilencedAlerts();
     if (m_request.summary)
         QTextStream(stdout) << summaryText(
@@ -104,8 +110,13 @@ void PrintDialog::startJob(const QString &output)
 
 void PrintDialog::jobFinished(const QString &problem)
 {
+    // The window may be gone when somebody asks what went wrong.
+    if (!problem.isEmpty() && !m_job->isCanceled())
+        qCWarning(lcPrinting).noquote() << problem;
     m_job.release()->deleteLater();
     showJobRunning(false);
+    if (!problem.isEmpty() && m_interrupted)
+        return QDialog::reject();
     if (!problem.isEmpty()) {
         m_message->showMessage(MessageBar::Kind::Problem, problem);
         return;
@@ -121,6 +132,16 @@ void PrintDialog::showJobRunning(bool running)
     m_printers->setEnabled(!running);
     m_progressText->setText(running ? tr("Printing…") : QString());
     m_progress->setVisible(running);
+}
+
+void PrintDialog::interrupt()
+{
+    m_interrupted = true;
+    while (QWidget *modal = QApplication::activeModalWidget()) {
+        if (modal == this || !modal->close())
+            break;
+    }
+    reject();
 }
 
 void PrintDialog::reject()

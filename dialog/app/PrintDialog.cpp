@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/app/HelpWindow.h"
+#include "dialog/app/Language.h"
 #include "dialog/app/SilencedAlerts.h"
 #include "dialog/app/WindowSize.h"
 #include "dialog/pages/GeneralPage.h"
@@ -43,10 +44,9 @@ QString dialogHelpPage()
 {
     const QString folder =
         QCoreApplication::applicationDirPath() + QStringLiteral("/../share/corvana-print/help");
-    const QStringList localizations{QStringLiteral("English"), QStringLiteral("Japanese"),
-                                    QStringLiteral("zh_CN")};
-    const QString page = QStringLiteral("%1/%2/index.html")
-                             .arg(folder, Bundle::preferredLocalizations(localizations).value(0));
+    const QString page =
+        QStringLiteral("%1/%2/index.html")
+            .arg(folder, Bundle::preferredLocalizations(dialogLocalizations()).value(0));
     return QFileInfo(page).isFile() ? QFileInfo(page).canonicalFilePath() : QString();
 }
 
@@ -327,7 +327,10 @@ void PrintDialog::pageEntered(int page)
 {
     if (!m_printer || !m_panelsUp)
         return;
-    m_printer->panels->visit(panelOfPage(page));
+    if (!m_printer->panels->visit(panelOfPage(page))) {
+        const QSignalBlocker blocker(m_pages);
+        m_pages->setCurrentWidget(m_panelPages.at(m_printer->panels->visiblePanel()));
+    }
     refreshPages();
     followPanelView();
 }

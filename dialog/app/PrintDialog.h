@@ -42,6 +42,10 @@ public:
     /// Where the job was printed to; empty until then.
     QString printedTo() const { return m_printedTo; }
 
+    /// Ends the dialog from outside, whatever the user is doing: alerts and questions are closed
+    /// unanswered, a running job is canceled first.
+    void interrupt();
+
     void accept() override;
     void reject() override;
 
@@ -97,6 +101,7 @@ private:
     QSize m_followed;       // the window's size when it followed a panel last
     bool m_painted = false;
     bool m_panelsUp = false;
+    bool m_interrupted = false;
     bool m_printable = false; // nothing that belongs to the printer is missing
     SessionSnapshot m_shown;  // the state that the pages show
     QString m_jobOutput;      // where the running job goes

@@ -5,6 +5,7 @@
 
 #include "dialog/app/AlertPresenters.h"
 #include "dialog/app/OpenedPrinter.h"
+#include "dialog/app/TerminationSignals.h"
 #include "dialog/job/FileQueue.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
@@ -45,6 +46,7 @@ QStringList refusalMessages(PpdSession &session)
 
 int runUnattended(const PrintRequest &request)
 {
+    const TerminationSignals termination;
     TerminalAlertPresenter presenter(request.onAlert);
     QString error;
     const auto printer = openPrinter(request.printers.at(request.chosenPrinter),
@@ -90,9 +92,14 @@ int runUnattended(const PrintRequest &request)
     FileQueue queue;
     QString problem;
     QObject::connect(&queue, &FileQueue::finished, [&problem](const QString &p) { problem = p; });
+    QObject::connect(&termination, &TerminationSignals::received, &queue, &FileQueue::cancel);
     queue.print(request.documents, ticket, printer->printer.ppdPath, request.output);
-    if (!queue.wait())
-        return refused({problem});
+    if (termination.caught())
+        queue.cancel(); // while the printer was being opened
+    if (!queue.wait()) {
+        const int status = refused({problem});
+        return termination.caught() ? termination.exitStatus() : status;
+    }
     out << QCoreApplication::translate("UnattendedRun", "Printed to %1").arg(request.output)
         << "\n";
     return 0;

@@ -7,7 +7,9 @@ namespace corvana {
 /// Prints without a window, through the same panels: what a script or a terminal asks for.
 ///
 /// Writes the summary and the place of the result to standard output, problems to standard error.
-/// Returns the program's exit status: 0 printed, 1 refused or failed.
+/// A signal that asks the program to end cancels the job.
+/// Returns the program's exit status: 0 printed, 1 refused or failed, 128 and more ended by a
+/// signal.
 int runUnattended(const PrintRequest &request);
 
 } // namespace corvana

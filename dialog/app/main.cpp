@@ -2,7 +2,9 @@
 #include <QTextStream>
 
 #include "dialog/app/CommandLine.h"
+#include "dialog/app/Language.h"
 #include "dialog/app/PrintDialog.h"
+#include "dialog/app/TerminationSignals.h"
 #include "dialog/app/Translations.h"
 #include "dialog/app/UnattendedRun.h"
 
@@ -46,11 +48,13 @@ int listPrinters(const CommandLine &line)
 
 int runDialog(const PrintRequest &request)
 {
+    const TerminationSignals termination;
     PrintDialog dialog(request);
+    QObject::connect(&termination, &TerminationSignals::received, &dialog, &PrintDialog::interrupt);
     dialog.show();
     dialog.exec();
     if (dialog.printedTo().isEmpty())
-        return 1;
+        return termination.caught() ? termination.exitStatus() : 1;
     QTextStream(stdout)
         << QCoreApplication::translate("main", "Printed to %1").arg(dialog.printedTo()) << "\n";
     return 0;
@@ -60,6 +64,7 @@ int runDialog(const PrintRequest &request)
 
 int main(int argc, char **argv)
 {
+    speakOneLanguage();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments += QString::fromLocal8Bit(argv[i]);

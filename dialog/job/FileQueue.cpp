@@ -80,6 +80,15 @@ QList<JobOption> pageOptions(const QList<JobOption> &options)
     return chosen;
 }
 
+// Whether a PDF has its end.
+bool isCompletePdf(const QString &path)
+{
+    constexpr qint64 kTail = 32;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.seek(qMax(qint64(0), file.size() - kTail)) &&
+           file.readAll().contains("%%EOF");
+}
+
 // What the filter chain said last of its errors, without its prefix.
 QString lastErrorLine(const QByteArray &log)
 {
@@ -138,6 +147,7 @@ FileQueue::FileQueue(QObject *parent) : QObject(parent)
     });
     connect(&m_process, &QProcess::finished, this, &FileQueue::stepFinished);
     connect(&m_process, &QProcess::readyReadStandardError, this, &FileQueue::readLog);
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, &FileQueue::readOutput);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
             finish(
@@ -217,7 +227,7 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         }
         whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
         m_steps.push_back(
-            {QStringLiteral("pdfunite"), parts << whole.path, QProcess::nullDevice()});
+            {QStringLiteral("pdfunite"), parts << whole.path, whole.path, Writes::FileOfItsOwn});
     }
     m_steps.push_back({filter,
                        conversionArguments(whole, ppdPath, kPrinterFormat,
@@ -232,19 +242,31 @@ void FileQueue::startNextStep()
 {
     const Step &step = m_steps.front();
     m_log.clear();
+    m_writeError.clear();
+    m_output.setFileName(step.outputFile);
+    if (step.writes == Writes::StandardOutput &&
+        !m_output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        m_writeError = m_output.errorString();
+        return finish(problemOfWriting());
+    }
     m_process.setProgram(step.program);
     m_process.setArguments(step.arguments);
-    m_process.setStandardOutputFile(step.outputFile);
     m_process.setStandardInputFile(QProcess::nullDevice());
     qCInfo(lcJob) << m_process.program() << m_process.arguments();
     m_process.start();
+    m_chain = static_cast<pid_t>(m_process.processId());
 }
 
 void FileQueue::cancel()
 {
-    m_canceled = true;
-    if (m_process.state() == QProcess::NotRunning)
+    if (m_canceled || m_process.state() == QProcess::NotRunning)
         return;
+    m_canceled = true;
+    stopChain();
+}
+
+void FileQueue::stopChain()
+{
     signalChain(SIGTERM);
     QTimer::singleShot(kPatience, this, [this] { signalChain(SIGKILL); });
 }
@@ -279,9 +301,40 @@ void FileQueue::readLog()
         Q_EMIT pageReached(page);
 }
 
+void FileQueue::readOutput()
+{
+    const QByteArray data = m_process.readAllStandardOutput();
+    if (!m_output.isOpen() || !m_writeError.isEmpty())
+        return;
+    // A disk takes what still fits and says why not more at the next try.
+    for (qint64 written = 0; written < data.size();) {
+        const qint64 taken = m_output.write(data.constData() + written, data.size() - written);
+        if (taken <= 0) {
+            m_writeError = m_output.errorString();
+            return stopChain();
+        }
+        written += taken;
+    }
+}
+
+// Some file systems say only now what they could not write.
+void FileQueue::closeOutput()
+{
+    if (!m_output.isOpen())
+        return;
+    m_output.close();
+    if (m_writeError.isEmpty() && m_output.error() != QFileDevice::NoError)
+        m_writeError = m_output.errorString();
+}
+
 void FileQueue::stepFinished(int exitCode, QProcess::ExitStatus status)
 {
     readLog();
+    readOutput();
+    closeOutput();
+    // A filter of the chain may outlive the program that started it.
+    if ((m_canceled || !m_writeError.isEmpty()) && m_chain > 0)
+        ::kill(-m_chain, SIGKILL);
     const QString problem = problemOfStep(exitCode, status);
     if (!problem.isEmpty())
         return finish(problem);
@@ -303,28 +356,41 @@ QString FileQueue::takeResult()
     return {};
 }
 
+QString FileQueue::problemOfWriting() const
+{
+    const bool result = m_steps.size() == 1;
+    return tr("%1 cannot be written: %2")
+        .arg(result ? m_outputName : m_steps.front().outputFile, m_writeError);
+}
+
 QString FileQueue::problemOfStep(int exitCode, QProcess::ExitStatus status)
 {
     if (m_canceled)
         return tr("Printing was canceled.");
+    if (!m_writeError.isEmpty())
+        return problemOfWriting();
     if (status != QProcess::NormalExit)
         return tr("The filter chain of CUPS crashed.");
     const QString said = lastErrorLine(m_log);
     if (exitCode != 0)
         return tr("The document could not be converted for the printer: %1")
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);
-    const QString output = m_steps.front().outputFile;
-    if (output != QProcess::nullDevice() && QFileInfo(output).size() == 0)
+    const Step &step = m_steps.front();
+    if (QFileInfo(step.outputFile).size() == 0)
         return tr("The document could not be converted for the printer: nothing came out. %1")
             .arg(said);
+    if (step.writes == Writes::FileOfItsOwn && !isCompletePdf(step.outputFile))
+        return tr("The documents could not be put together: %1 is incomplete. Is the disk full?")
+            .arg(step.outputFile);
     return {};
 }
 
 // The one way in which a job ends; an empty problem means that it was printed.
 void FileQueue::finish(const QString &problem)
 {
+    // Whoever printed tells the user; a warning would say the same once more.
     if (!problem.isEmpty())
-        qCWarning(lcJob).noquote() << problem;
+        qCInfo(lcJob).noquote() << problem;
     m_result.reset();
     m_parts.reset();
     QTimer::singleShot(0, this, [this, problem] {

@@ -3,6 +3,9 @@
 #include <memory>
 #include <vector>
 
+#include <sys/types.h>
+
+#include <QFile>
 #include <QList>
 #include <QObject>
 #include <QProcess>
@@ -43,8 +46,11 @@ public:
                const QString &outputPath);
 
     /// Stops the filter chain, by force when it does not stop by itself; `finished` follows with a
-    /// failure.
+    /// failure. A job that has its result already stays printed.
     void cancel();
+
+    /// Whether cancel() was in time.
+    bool isCanceled() const { return m_canceled; }
 
     /// Waits until the job is done, turning the event loop. True when it was printed.
     bool wait();
@@ -56,13 +62,17 @@ Q_SIGNALS:
     void finished(const QString &problem);
 
 private:
-    // One program of the chain; its standard output goes into a file.
+    enum class Writes { StandardOutput, FileOfItsOwn };
+    // One program of the chain. Filters do not notice a full disk, so that what they write to their
+    // standard output is put into the file here.
     struct Step
     {
         QString program;
         QStringList arguments;
         QString outputFile;
+        Writes writes = Writes::StandardOutput;
     };
+    void stopChain();
     void signalChain(int signal);
 
     QString prepare(const QList<Document> &documents, const JobTicket &ticket,
@@ -70,14 +80,20 @@ private:
     void startNextStep();
     void stepFinished(int exitCode, QProcess::ExitStatus status);
     QString problemOfStep(int exitCode, QProcess::ExitStatus status);
+    QString problemOfWriting() const;
     QString takeResult();
     void readLog();
+    void readOutput();
+    void closeOutput();
     void finish(const QString &problem);
 
     QProcess m_process;
+    pid_t m_chain = 0;         // the process group of the step that was started last
     std::vector<Step> m_steps; // the current one first
     std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<QTemporaryFile> m_result;
+    QFile m_output;       // of the current step; closed where it writes a file of its own
+    QString m_writeError; // why that could not be written
     QByteArray m_log;     // of the current step
     QString m_outputName; // as it was given, for messages
     QString m_outputPath;

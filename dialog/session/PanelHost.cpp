@@ -112,18 +112,16 @@ void PanelHost::bringUp()
     deliverPending();
 }
 
-void PanelHost::visit(int panel)
+bool PanelHost::visit(int panel)
 {
     bringUp();
     PDEPanel *entered = panel >= 0 && panel < m_panels.size() ? m_panels.at(panel).get() : nullptr;
     if (entered == m_visible)
-        return;
-    if (m_visible) {
-        saveVisible();
-        const Call call(*this, *m_visible);
-        m_visible->shouldHide();
+        return true;
+    if (!leaveVisible()) {
+        deliverPending();
+        return false;
     }
-    m_visible = nullptr;
     if (entered) {
         restoreHidden();
         m_visible = entered;
@@ -131,6 +129,29 @@ void PanelHost::visit(int panel)
         entered->willShow();
     }
     deliverPending();
+    return true;
+}
+
+int PanelHost::visiblePanel() const
+{
+    for (int i = 0; i < m_panels.size(); ++i) {
+        if (m_panels.at(i).get() == m_visible)
+            return i;
+    }
+    return -1;
+}
+
+// Saves and hides the visible panel, if there is one. False when it refuses to be left.
+bool PanelHost::leaveVisible()
+{
+    if (!m_visible)
+        return true;
+    saveVisible();
+    const Call call(*this, *m_visible);
+    if (!m_visible->shouldHide())
+        return false;
+    m_visible = nullptr;
+    return true;
 }
 
 void PanelHost::restoreAll()

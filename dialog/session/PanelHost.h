@@ -52,7 +52,10 @@ public:
     const QList<QPointer<QWidget>> &views() const { return m_views; }
 
     /// The user goes to a panel (its index) or to a page of the dialog (-1).
-    void visit(int panel);
+    /// Errors: false when the visible panel refuses to be left; it then stays the visible one.
+    bool visit(int panel);
+    /// The index of the visible panel; -1 while a page of the dialog is.
+    int visiblePanel() const;
 
     /// Restores all panels, hidden or not, in their order.
     void restoreAll();
@@ -90,6 +93,7 @@ private:
     void scheduleDelivery();
     bool hasNews() const { return !m_pending.isEmpty() || m_refused || m_paperChanged; }
     bool panelIsBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
+    bool leaveVisible();
     void saveVisible();
     void restoreHidden();
 

@@ -48,21 +48,6 @@ QString languageCode(const QString &localization)
     return QString(localization).replace(u'_', u'-');
 }
 
-// "zh-Hans-CN" serves "zh-CN": scripts are implied by the regions that the localisations name.
-bool serves(const QString &localization, const QString &userLanguage)
-{
-    const QString code = languageCode(localization);
-    if (code == userLanguage)
-        return true;
-    const QLocale wanted(userLanguage);
-    const QLocale offered(code);
-    // What is no language code at all would pass for the language "C".
-    if (offered.language() == QLocale::C || wanted.language() != offered.language())
-        return false;
-    // A localisation without a region serves every region; one with a region serves its script.
-    return !code.contains(u'-') || wanted.script() == offered.script();
-}
-
 // Whether a name stays in the folder that it is looked up in.
 bool isPlainName(const QString &name)
 {
@@ -160,13 +145,28 @@ QStringList Bundle::localizations() const
     return infoStringList(kCFBundleLocalizationsKey).value_or(QStringList());
 }
 
+// "zh-Hans-CN" serves "zh-CN": scripts are implied by the regions that the localisations name.
+bool Bundle::localizationServes(const QString &localization, const QString &userLanguage)
+{
+    const QString code = languageCode(localization);
+    if (code == userLanguage)
+        return true;
+    const QLocale wanted(userLanguage);
+    const QLocale offered(code);
+    // What is no language code at all would pass for the language "C".
+    if (offered.language() == QLocale::C || wanted.language() != offered.language())
+        return false;
+    // A localisation without a region serves every region; one with a region serves its script.
+    return !code.contains(u'-') || wanted.script() == offered.script();
+}
+
 QStringList Bundle::preferredLocalizations(const QStringList &localizations)
 {
     QStringList preferred;
     const QStringList userLanguages = QLocale().uiLanguages();
     for (const QString &language : userLanguages) {
         for (const QString &localization : localizations) {
-            if (!preferred.contains(localization) && serves(localization, language))
+            if (!preferred.contains(localization) && localizationServes(localization, language))
                 preferred += localization;
         }
     }

@@ -60,6 +60,9 @@ public:
     /// QLocale::uiLanguages(); never empty unless `localizations` is: without a match the first
     /// one.
     static QStringList preferredLocalizations(const QStringList &localizations);
+    /// Whether a localisation suits readers of a language, given as "ja", "zh-CN" or "zh-Hans-CN":
+    /// one without a region suits every region, one with a region all that share its script.
+    static bool localizationServes(const QString &localization, const QString &userLanguage);
 
     /// The text of the bundle's default string table under `key`, in the best localisation.
     /// Null when the table or the key is missing, so that the caller's own fallback applies.

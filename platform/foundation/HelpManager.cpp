@@ -25,14 +25,18 @@ bool HelpManager::registerBooksInBundle(const Bundle &bundle, const QString &pat
         qCWarning(lcHelp).noquote() << "no help book:" << path << error;
         return false;
     }
-    const QStringList preferred = Bundle::preferredLocalizations(bundle.localizations());
-    const QFileInfo page(QStringLiteral("%1/%2/index.html").arg(path, preferred.value(0)));
-    if (!page.isFile() || page.size() == 0) {
-        qCWarning(lcHelp) << "the help book has no text:" << page.filePath();
-        return false;
+    const QStringList localizations = bundle.localizations();
+    // Help in another language is better than none.
+    const QStringList wanted = Bundle::preferredLocalizations(localizations) + localizations;
+    for (const QString &localization : wanted) {
+        const QFileInfo page(QStringLiteral("%1/%2/index.html").arg(path, localization));
+        if (page.isFile() && page.size() > 0) {
+            m_pages[title] = page.canonicalFilePath();
+            return true;
+        }
     }
-    m_pages[title] = page.canonicalFilePath();
-    return true;
+    qCWarning(lcHelp).noquote() << "the help book has no text:" << path;
+    return false;
 }
 
 bool HelpManager::openHelpAnchor_inBook(const QString &anchor, const QString &book)

@@ -32,9 +32,9 @@ class CORVANA_PLATFORM_EXPORT HelpManager
 public:
     static HelpManager &sharedHelpManager();
 
-    /// Registers the help book at `path` for a bundle, under its title, in the localisation that
-    /// suits the user best.
-    /// Errors: false when the book lacks its title or its page, or the page is empty; logged.
+    /// Registers the help book at `path` for a bundle, under its title, in that of the bundle's
+    /// localisations which suits the user best among those that the book has.
+    /// Errors: false when the book lacks its title, or every page or its text; logged.
     bool registerBooksInBundle(const Bundle &bundle, const QString &path);
 
     /// Opens a place of a registered book.

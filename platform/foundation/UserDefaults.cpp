@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 namespace corvana {
 
@@ -12,11 +13,32 @@ Q_LOGGING_CATEGORY(lcDefaults, "corvana.foundation.defaults", QtWarningMsg)
 
 namespace {
 
+// What a file holds now; nothing when it cannot be read. QSettings keeps files by name as long as
+// the process lives: one that was damaged reads as empty the second time, and changes that could
+// not be written pass for written. A copy has a name of its own.
+std::optional<QVariantMap> readAnew(const QString &name)
+{
+    QFile file(name);
+    QTemporaryFile copy;
+    if (!file.open(QIODevice::ReadOnly) || !copy.open())
+        return std::nullopt;
+    const QByteArray content = file.readAll();
+    if (copy.write(content) != content.size() || !copy.flush())
+        return std::nullopt;
+    const QSettings settings(copy.fileName(), QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError)
+        return std::nullopt;
+    QVariantMap domain;
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys)
+        domain.insert(key, settings.value(key));
+    return domain;
+}
+
 // What cannot be read is about to be replaced; whoever can mend it finds it beside the new file.
 void keepDamagedFile(const QString &file)
 {
-    if (!QFileInfo::exists(file) ||
-        QSettings(file, QSettings::IniFormat).status() == QSettings::NoError)
+    if (!QFileInfo::exists(file) || readAnew(file))
         return;
     const QString kept = file + QStringLiteral(".damaged");
     QFile::remove(kept);
@@ -45,20 +67,11 @@ std::optional<QVariantMap> UserDefaults::persistentDomainForName(const QString &
     const QString file = fileOfDomain(name);
     if (file.isNull())
         return std::nullopt;
-    // QSettings would answer an unreadable file as an empty one.
-    if (QFileInfo::exists(file) && !QFileInfo(file).isReadable()) {
+    if (!QFileInfo::exists(file))
+        return QVariantMap();
+    std::optional<QVariantMap> domain = readAnew(file);
+    if (!domain)
         qCWarning(lcDefaults) << file << "cannot be read";
-        return std::nullopt;
-    }
-    const QSettings settings(file, QSettings::IniFormat);
-    if (settings.status() != QSettings::NoError) {
-        qCWarning(lcDefaults) << file << "cannot be read: status" << settings.status();
-        return std::nullopt;
-    }
-    QVariantMap domain;
-    const QStringList keys = settings.allKeys();
-    for (const QString &key : keys)
-        domain.insert(key, settings.value(key));
     return domain;
 }
 

@@ -171,6 +171,10 @@
         <translation>印刷を中止しました。</translation>
     </message>
     <message>
+        <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
+        <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
+    </message>
+    <message>
         <source>The filter chain of CUPS crashed.</source>
         <translation>CUPS のフィルターが異常終了しました。</translation>
     </message>
@@ -208,6 +212,10 @@
 </context>
 <context>
     <name>corvana::HelpWindow</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>

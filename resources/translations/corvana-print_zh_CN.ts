@@ -171,6 +171,10 @@
         <translation>已取消打印。</translation>
     </message>
     <message>
+        <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
+        <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
+    </message>
+    <message>
         <source>The filter chain of CUPS crashed.</source>
         <translation>CUPS 的过滤器异常退出。</translation>
     </message>
@@ -208,6 +212,10 @@
 </context>
 <context>
     <name>corvana::HelpWindow</name>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
     <message>
         <source>Close</source>
         <translation>关闭</translation>

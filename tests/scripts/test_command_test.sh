@@ -113,6 +113,40 @@ END
     expect_status 8
 }
 
+# start_in_a_group SCRIPT: in a process group of its own, as a terminal starts it; an interrupt of
+# the whole group does not reach this test.
+start_in_a_group() {
+    set -m
+    (
+        trap : INT
+        start "$1"
+        echo "$status" >"$state/status"
+    ) &
+    wait $!
+    set +m
+    status=$(cat "$state/status")
+}
+
+# Ctrl-C reaches everything that runs; what has something to put away first ends by itself.
+test_anInterruptedIntegrationEndsAtOnce() {
+    local program
+    for program in ctest cmake; do
+        add_program $program <<END
+#!/usr/bin/env bash
+printf '$program %s\n' "\$*" >>"\$FAKE_STATE/calls"
+trap 'exit 8' INT
+kill -INT 0
+exit 0
+END
+        forget_calls
+        start_in_a_group .ci/run
+        expect_status 130
+        expect_call "$program"
+        expect_no_call asan
+        expect_no_output 'exit status'
+    done
+}
+
 test_integrationWorksFromAnyFolder() {
     cd "$machine/home" || exit
     start .ci/run

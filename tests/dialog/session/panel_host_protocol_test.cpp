@@ -138,6 +138,58 @@ private Q_SLOTS:
         QCOMPARE(taken(), CallLog());
     }
 
+    void aPanelThatRefusesToBeLeftStaysTheVisibleOne_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::newRow("for another panel") << 1;
+        QTest::newRow("for a page of the dialog") << -1;
+    }
+    void aPanelThatRefusesToBeLeftStaysTheVisibleOne()
+    {
+        QFETCH(int, page);
+        QVERIFY(m_host->visit(0));
+        QCOMPARE(m_host->visiblePanel(), 0);
+        taken();
+        m_plugIn->panels.at(0)->allowsLeaving = false;
+        QVERIFY(!m_host->visit(page));
+        QCOMPARE(taken(), CallLog({u"A.save"_s, u"A.shouldHide"_s}));
+        QCOMPARE(m_host->visiblePanel(), 0);
+        QVERIFY(m_host->visit(0)); // where one is already
+        QCOMPARE(taken(), CallLog());
+
+        // It is still the one that is saved, and not restored.
+        QVERIFY(m_host->shouldPrint());
+        QCOMPARE(taken(),
+                 CallLog({u"A.save"_s, u"B.restore"_s, u"A.shouldPrint"_s, u"B.shouldPrint"_s}));
+
+        m_plugIn->panels.at(0)->allowsLeaving = true;
+        QVERIFY(m_host->visit(page));
+        QCOMPARE(m_host->visiblePanel(), page);
+        QVERIFY(taken().contains(u"A.shouldHide"_s));
+    }
+
+    // What it saved on the way is known to the others.
+    void whatAPanelChangesWhileItRefusesIsTold()
+    {
+        QVERIFY(m_host->visit(0));
+        FakePanel &panel = *m_plugIn->panels.at(0);
+        panel.allowsLeaving = false;
+        panel.inside[u"shouldHide"_s] = [&] { panel.propose(u"Duplex"_s, u"DuplexTumble"_s); };
+        taken();
+        QVERIFY(!m_host->visit(1));
+        QCOMPARE(taken(),
+                 CallLog({u"A.save"_s, u"A.shouldHide"_s, u"B.changed Duplex=DuplexTumble"_s}));
+    }
+
+    // The user has not been there, so nobody leaves.
+    void aPanelCannotRefuseWhileItIsBroughtUp()
+    {
+        m_plugIn->panels.at(0)->allowsLeaving = false;
+        m_host->bringUp();
+        QCOMPARE(m_host->visiblePanel(), -1);
+        QVERIFY(m_host->visit(1));
+    }
+
     void restoringAllCallsThemInOrder()
     {
         m_host->visit(1);

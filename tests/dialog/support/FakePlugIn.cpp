@@ -42,7 +42,7 @@ void FakePanel::willShow()
 bool FakePanel::shouldHide()
 {
     note(QStringLiteral("shouldHide"));
-    return true;
+    return allowsLeaving;
 }
 
 bool FakePanel::restoreValuesAndReturnError(QString *)

@@ -33,6 +33,8 @@ public:
     QMap<QString, std::function<void()>> inside;
     /// What shouldPrint() answers.
     bool allowsPrinting = true;
+    /// What shouldHide() answers.
+    bool allowsLeaving = true;
     /// What summaryInfo() answers: title and value, in display order.
     QList<std::pair<QString, QString>> summaryLines;
     bool hasView = true;

@@ -1,0 +1,452 @@
+#include <csignal>
+#include <cstdio>
+
+#include <sys/resource.h>
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTest>
+
+#include "dialog/job/FileQueue.h"
+#include "tests/dialog/job/FakeFilter.h"
+#include "tests/dialog/support/TestPrinters.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// One script for the filter chain and for the program that unites documents. Each call is a stage,
+// named by what it reads: "one.txt", "two.txt", "unite", "whole.pdf". The test makes a file
+// hold-STAGE, fail-STAGE or crash-STAGE to say what shall become of it.
+constexpr char kStages[] = R"sh(
+program=${0##*/}
+for last in "$@"; do :; done
+stage=${last##*/}
+[ "$program" = pdfunite ] && stage=unite
+printf '%s\n' "$@" >"$DIR/arguments-$stage"
+echo "$stage" >>"$DIR/stages"
+echo $$ >"$DIR/pid"
+output=/dev/stdout
+[ "$program" = pdfunite ] && output=$last
+if [ -e "$DIR/hold-$stage" ]; then
+    echo half >"$output"
+    touch "$DIR/held"
+    sleep 300
+fi
+if [ -e "$DIR/fail-$stage" ]; then
+    echo half >"$output"
+    echo "ERROR: $stage is upside down" >&2
+    exit 1
+fi
+[ -e "$DIR/crash-$stage" ] && kill -SEGV $$
+[ -e "$DIR/nothing-$stage" ] && exit 0
+[ -e "$DIR/half-$stage" ] && { echo half >"$output"; exit 0; }
+case $stage in
+unite) while [ $# -gt 1 ]; do grep -v EOF "$1"; shift; done >"$output"; echo '%%EOF' >>"$output" ;;
+whole.pdf) grep -v EOF "$last" ;;
+*) printf '%s as PDF\n%%%%EOF\n' "$(cat "$last")" ;;
+esac
+)sh";
+
+// Sets a variable of the environment while it lives.
+class Variable
+{
+public:
+    Variable(const char *name, const QByteArray &value) : m_name(name), m_former(qgetenv(name))
+    {
+        qputenv(name, value);
+    }
+    ~Variable()
+    {
+        if (m_former.isNull())
+            qunsetenv(m_name);
+        else
+            qputenv(m_name, m_former);
+    }
+    Variable(const Variable &) = delete;
+    Variable &operator=(const Variable &) = delete;
+
+private:
+    const char *m_name;
+    QByteArray m_former;
+};
+
+// The size that a file may have at most, for this process and those that it starts. As on a full
+// disk, a write fails; other than there, without a file system of the test's own.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_former);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
+private:
+    rlimit m_former = {};
+    void (*m_handler)(int) = nullptr;
+};
+
+// Whether a process of ours, by its number, has ended and nobody has asked yet how.
+bool hasEnded(const QByteArray &pid)
+{
+    QFile status(u"/proc/"_s + QString::fromLatin1(pid) + u"/stat"_s);
+    if (pid.isEmpty() || !status.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray state = status.readAll();
+    return state.mid(state.lastIndexOf(')') + 2, 1) == "Z";
+}
+
+} // namespace
+
+/// Several documents as one job: what each step is told, and what is left when one goes wrong.
+class FileQueueDocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<FakeFilter> m_filter;
+    std::unique_ptr<QTemporaryDir> m_temporary;
+    QStringList m_leftAtTheEnd; // beside the output and for the time being, when it was told
+    std::unique_ptr<Variable> m_path;
+    std::unique_ptr<Variable> m_temporaryPath;
+
+    QString path(const QString &name) const { return m_filter->path(name); }
+    Document document(const QString &name) const { return {path(name), u"text/plain"_s, name}; }
+    QList<Document> documents() const { return {document(u"one.txt"_s), document(u"two.txt"_s)}; }
+    QStringList lines(const QString &name) const
+    {
+        return QString::fromUtf8(m_filter->content(name)).split(u'\n', Qt::SkipEmptyParts);
+    }
+    QStringList temporaryFiles() const
+    {
+        return QDir(m_temporary->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+    void make(const QString &name) { writeFile(path(name), ""); }
+    void start(FileQueue &queue, const QList<Document> &list, const JobTicket &ticket = {})
+    {
+        queue.print(list, ticket, m_filter->ppdPath(), m_filter->output());
+    }
+    // What became of a job: empty when it was printed.
+    QString printed(const QList<Document> &list, const JobTicket &ticket = {})
+    {
+        FileQueue queue;
+        QString problem = u"finished was not signalled"_s;
+        connect(&queue, &FileQueue::finished, this, [&](const QString &p) {
+            problem = p;
+            m_leftAtTheEnd = m_filter->leftOvers() + temporaryFiles();
+        });
+        start(queue, list, ticket);
+        queue.wait();
+        return problem;
+    }
+    // After a failure: the former file, nothing beside it, and another job that works.
+    void verifyNothingIsLeft()
+    {
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("yesterday's"));
+        QCOMPARE(m_filter->leftOvers(), QStringList());
+        QCOMPARE(temporaryFiles(), QStringList());
+        const QStringList orders =
+            QDir(path(QString()))
+                .entryList({u"hold-*"_s, u"fail-*"_s, u"crash-*"_s, u"half-*"_s, u"nothing-*"_s});
+        for (const QString &order : orders)
+            QVERIFY(QFile::remove(path(order)));
+        QFile::remove(path(u"held"_s));
+        QCOMPARE(printed(documents()), QString());
+        QCOMPARE(m_leftAtTheEnd, QStringList());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n2 as PDF\n"));
+    }
+    static void stageRows()
+    {
+        QTest::addColumn<QString>("stage");
+        QTest::newRow("the first document") << u"one.txt"_s;
+        QTest::newRow("another document") << u"two.txt"_s;
+        QTest::newRow("uniting them") << u"unite"_s;
+        QTest::newRow("the result") << u"whole.pdf"_s;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_filter = std::make_unique<FakeFilter>(kStages);
+        QVERIFY(QFile::copy(path(u"filter"_s), path(u"pdfunite"_s)));
+        m_path = std::make_unique<Variable>("PATH", QFile::encodeName(path(QString())) + ':' +
+                                                        qgetenv("PATH"));
+        m_temporary = std::make_unique<QTemporaryDir>();
+        m_temporaryPath =
+            std::make_unique<Variable>("TMPDIR", QFile::encodeName(m_temporary->path()));
+        writeFile(path(u"one.txt"_s), "1");
+        writeFile(path(u"two.txt"_s), "2");
+        writeFile(m_filter->output(), "yesterday's");
+    }
+    void cleanup()
+    {
+        m_temporaryPath.reset();
+        m_path.reset();
+        m_temporary.reset();
+        m_filter.reset();
+    }
+
+    void theDocumentsArePrintedInTheirOrderAsOneJob()
+    {
+        QCOMPARE(printed({document(u"two.txt"_s), document(u"one.txt"_s)}), QString());
+        QCOMPARE(lines(u"stages"_s),
+                 (QStringList{u"two.txt"_s, u"one.txt"_s, u"unite"_s, u"whole.pdf"_s}));
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("2 as PDF\n1 as PDF\n"));
+        QCOMPARE(m_filter->leftOvers(), QStringList());
+        QCOMPARE(temporaryFiles(), QStringList());
+    }
+
+    void oneDocumentTwiceIsPrintedTwice()
+    {
+        QCOMPARE(printed({document(u"one.txt"_s), document(u"one.txt"_s)}), QString());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n1 as PDF\n"));
+    }
+
+    // The pages, their order and their number are those of the whole.
+    void theJobsOptionsApplyToTheWholeAndThePaperToEachDocument()
+    {
+        const JobTicket ticket{
+            u"Title"_s,
+            3,
+            {{u"PageSize"_s, u"A5"_s}, {u"page-ranges"_s, u"2-3,7"_s}, {u"Tray"_s, u"Lower"_s}}};
+        QCOMPARE(printed(documents(), ticket), QString());
+        for (const QString &name : {u"one.txt"_s, u"two.txt"_s}) {
+            QCOMPARE(lines(u"arguments-"_s + name),
+                     (QStringList{u"-p"_s, m_filter->ppdPath(), u"-i"_s, u"text/plain"_s, u"-m"_s,
+                                  u"application/pdf"_s, u"-o"_s, u"PageSize=A5"_s, path(name)}));
+        }
+        const QStringList whole = lines(u"arguments-whole.pdf"_s);
+        QCOMPARE(whole.mid(2, whole.size() - 3),
+                 (QStringList{u"-i"_s, u"application/pdf"_s, u"-m"_s, u"printer/foo"_s, u"-t"_s,
+                              u"Title"_s, u"-n"_s, u"3"_s, u"-o"_s, u"PageSize=A5"_s, u"-o"_s,
+                              u"page-ranges=2-3,7"_s, u"-o"_s, u"Tray=Lower"_s}));
+    }
+
+    void eachDocumentKeepsItsFormat()
+    {
+        Document picture = document(u"two.txt"_s);
+        picture.format = u"image/png"_s;
+        QCOMPARE(printed({document(u"one.txt"_s), picture}), QString());
+        QVERIFY(lines(u"arguments-one.txt"_s).contains(u"text/plain"_s));
+        QVERIFY(lines(u"arguments-two.txt"_s).contains(u"image/png"_s));
+    }
+
+    void standardInputIsADocumentLikeOthers()
+    {
+        writeFile(path(u"piped"_s), "from a pipe\n");
+        QVERIFY(std::freopen(QFile::encodeName(path(u"piped"_s)).constData(), "r", stdin));
+        std::shared_ptr<QTemporaryFile> held;
+        QString error;
+        const Document piped = readStandardInput(&held, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(piped.format, u"text/plain"_s);
+        QCOMPARE(piped.title, u"standard input"_s);
+        QCOMPARE(printed({document(u"one.txt"_s), piped}), QString());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\nfrom a pipe as PDF\n"));
+        QVERIFY(QFile::exists(piped.path)); // for another try
+        held.reset();
+        QVERIFY(!QFile::exists(piped.path));
+    }
+
+    void anEmptyStandardInputIsRefusedByItsName()
+    {
+        QVERIFY(std::freopen("/dev/null", "r", stdin));
+        std::shared_ptr<QTemporaryFile> held;
+        QString error;
+        QVERIFY(readStandardInput(&held, &error).path.isEmpty());
+        QCOMPARE(error, u"standard input is empty."_s);
+    }
+
+    void aFailureOfAnyStepLeavesNothing_data()
+    {
+        QTest::addColumn<QString>("order");
+        QTest::addColumn<QString>("told");
+        const auto rows = [](const char *name, const QString &stage) {
+            const QByteArray where(name);
+            QTest::newRow((where + " fails").constData())
+                << u"fail-"_s + stage << stage + u" is upside down"_s;
+            QTest::newRow((where + " crashes").constData()) << u"crash-"_s + stage << u"crashed"_s;
+            QTest::newRow((where + " yields nothing").constData())
+                << u"nothing-"_s + stage << u"nothing came out"_s;
+        };
+        rows("the first document", u"one.txt"_s);
+        rows("another document", u"two.txt"_s);
+        rows("uniting", u"unite"_s);
+        rows("the result", u"whole.pdf"_s);
+        QTest::newRow("uniting yields a part only")
+            << u"half-unite"_s << u"whole.pdf is incomplete"_s;
+    }
+    void aFailureOfAnyStepLeavesNothing()
+    {
+        QFETCH(QString, order);
+        QFETCH(QString, told);
+        make(order);
+        const QString problem = printed(documents());
+        QVERIFY2(problem.contains(told), qPrintable(problem));
+        QCOMPARE(m_leftAtTheEnd, QStringList());
+        QVERIFY(lines(u"stages"_s).constLast() == order.section(u'-', 1)); // and no step after it
+        verifyNothingIsLeft();
+    }
+
+    void aMissingProgramToUniteIsNamed()
+    {
+        QVERIFY(QFile::remove(path(u"pdfunite"_s)));
+        {
+            // The shell of the filter has to be found, pdfunite of the system not.
+            const Variable nothing("PATH", QFile::encodeName(path(QString())));
+            make(u"nothing-whole.pdf"_s);
+            const FakeFilter plain("exec /bin/echo '%%EOF'\n");
+            const QString problem = printed(documents());
+            QVERIFY2(problem.startsWith(u"pdfunite cannot be started"_s), qPrintable(problem));
+        }
+        QVERIFY(QFile::copy(path(u"filter"_s), path(u"pdfunite"_s)));
+        verifyNothingIsLeft();
+    }
+
+    void aJobThatIsCanceledInAnyStepLeavesNothing_data() { stageRows(); }
+    void aJobThatIsCanceledInAnyStepLeavesNothing()
+    {
+        QFETCH(QString, stage);
+        make(u"hold-"_s + stage);
+        {
+            FileQueue queue;
+            QSignalSpy finished(&queue, &FileQueue::finished);
+            start(queue, documents());
+            QVERIFY(m_filter->waitForFile(u"held"_s));
+            queue.cancel();
+            queue.cancel(); // impatience changes nothing
+            QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
+            QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
+            queue.cancel();
+            QCOMPARE(finished.size(), 1);
+        }
+        QVERIFY(m_filter->waitForEndOf(u"pid"_s));
+        QCOMPARE(lines(u"stages"_s).constLast(), stage);
+        verifyNothingIsLeft();
+    }
+
+    void aQueueThatDiesInAnyStepLeavesNothing_data() { stageRows(); }
+    void aQueueThatDiesInAnyStepLeavesNothing()
+    {
+        QFETCH(QString, stage);
+        make(u"hold-"_s + stage);
+        {
+            FileQueue queue;
+            start(queue, documents());
+            QVERIFY(m_filter->waitForFile(u"held"_s));
+        }
+        QVERIFY(m_filter->waitForEndOf(u"pid"_s));
+        verifyNothingIsLeft();
+    }
+
+    // The step has ended, and the queue does not know it yet.
+    void aJobThatIsCanceledBeforeItsLastStepWasSeenToEndIsCanceled()
+    {
+        {
+            FileQueue queue;
+            QSignalSpy finished(&queue, &FileQueue::finished);
+            start(queue, {document(u"one.txt"_s)});
+            // Without the event loop, so that nothing is delivered.
+            const QDeadlineTimer patience(10000);
+            while (!hasEnded(m_filter->content(u"pid"_s).trimmed()) && !patience.hasExpired()) {
+            }
+            QVERIFY(!patience.hasExpired());
+            queue.cancel();
+            QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
+            QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
+        }
+        verifyNothingIsLeft();
+    }
+
+    void aResultThatHasItsNameStaysPrinted()
+    {
+        FileQueue queue;
+        QSignalSpy finished(&queue, &FileQueue::finished);
+        start(queue, {document(u"one.txt"_s)});
+        // The result takes its name one turn of the event loop before that is told.
+        while (m_filter->content(u"out.ps"_s) == "yesterday's") {
+            QCOMPARE(finished.size(), 0);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        QCOMPARE(finished.size(), 0);
+        queue.cancel();
+        queue.cancel();
+        QVERIFY(!queue.isCanceled());
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(finished.at(0).at(0).toString(), QString());
+        QVERIFY(queue.wait());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n%%EOF\n"));
+        QCOMPARE(m_filter->leftOvers(), QStringList());
+    }
+
+    void aFilterThatOutlivesItsCanceledChainIsEnded()
+    {
+        m_filter.reset();
+        m_filter = std::make_unique<FakeFilter>(
+            "(trap '' TERM; while :; do sleep 0.1; done) >/dev/null 2>&1 & echo $! > $DIR/child\n"
+            "touch $DIR/held; wait\n");
+        FileQueue queue;
+        QSignalSpy finished(&queue, &FileQueue::finished);
+        start(queue, {m_filter->document()});
+        QVERIFY(m_filter->waitForFile(u"held"_s));
+        queue.cancel();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
+        QVERIFY(m_filter->waitForEndOf(u"child"_s));
+    }
+
+    // Filters do not notice that what they write finds no place, and end well.
+    void whatFindsNoPlaceOnTheDiskIsNamed_data()
+    {
+        QTest::addColumn<bool>("several");
+        QTest::addColumn<bool>("endless");
+        QTest::newRow("the result") << false << false;
+        QTest::newRow("a document of several") << true << false;
+        QTest::newRow("a result without end") << false << true;
+    }
+    void whatFindsNoPlaceOnTheDiskIsNamed()
+    {
+        QFETCH(bool, several);
+        QFETCH(bool, endless);
+        {
+            const FakeFilter heedless(endless ? "while :; do head -c 65536 /dev/zero; done\n"
+                                              : "head -c 100001 /dev/zero; exit 0\n");
+            const FileSizeLimit limit(70000);
+            const QString problem =
+                printed(several ? documents() : QList<Document>{document(u"one.txt"_s)});
+            const QString place = several ? m_temporary->path() : m_filter->output();
+            QVERIFY2(problem.startsWith(place), qPrintable(problem));
+            QVERIFY2(problem.endsWith(u"cannot be written: File too large"_s), qPrintable(problem));
+        }
+        verifyNothingIsLeft();
+    }
+
+    void aResultOfManyMegabytesIsComplete()
+    {
+        m_filter.reset();
+        m_filter = std::make_unique<FakeFilter>("head -c 30000000 /dev/zero; echo end\n");
+        QCOMPARE(printed({m_filter->document()}), QString());
+        const QByteArray result = m_filter->content(u"out.ps"_s);
+        QCOMPARE(result.size(), 30000004);
+        QVERIFY(result.endsWith("end\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(FileQueueDocumentsTest)
+
+#include "file_queue_documents_test.moc"

@@ -1,0 +1,78 @@
+#!/usr/bin/env bash
+# The dialog's texts, the panels' and those of the PPD come by different ways; whatever the user
+# asks for, they speak one language.
+# shellcheck disable=SC2034 # lines of a summary are used by their names
+
+# shellcheck source=tests/e2e/support.bash
+. "$(dirname "${BASH_SOURCE[0]}")/support.bash"
+
+# Lines of a summary: one of the dialog, one of a PPD's option, one of a panel.
+english=('Copies: 1' 'Paper Source: Auto Select' 'Toner Save: Off')
+japanese=('部数: 1' '給紙方法: 自動選択' 'トナー節約: しない')
+chinese=('份数: 1' '纸张来源: 自动选择' '节省墨粉: 关')
+
+# expect_language NAME SETTING...: what is said in an environment with nothing but these settings.
+expect_language() {
+    local -n lines=$1
+    shift
+    environment=(--unset=LC_ALL "$@")
+    run "${printer[@]}" --summary
+    expect_status 0
+    expect_equal "$(cat "$work/err")" ''
+    grep -qxF -- "${lines[0]}" "$work/out" || printf '    with %s\n' "$*"
+    expect_lines "${lines[@]}"
+}
+
+theListOfLanguagesCountsForAllTexts() {
+    expect_language japanese LANG=en_US.UTF-8 LANGUAGE=ja
+    expect_language japanese LC_ALL=zh_CN.UTF-8 LANGUAGE=ja_JP:en
+    expect_language chinese LANG=ja_JP.UTF-8 LANGUAGE=zh_CN:ja
+    expect_language chinese LC_MESSAGES=en_US.UTF-8 LANG=ja_JP.UTF-8 LANGUAGE=zh_CN
+    expect_language english LANG=ja_JP.UTF-8 LANGUAGE=en
+    expect_language english LC_ALL=zh_CN.UTF-8 LANGUAGE=en_GB:zh_CN
+}
+
+theFirstLanguageWithTextsIsTaken() {
+    expect_language japanese LANG=de_DE.UTF-8 LANGUAGE=de:fr:ja:zh_CN
+    expect_language chinese LANG=de_DE.UTF-8 LANGUAGE=zh_TW:zh_CN
+    expect_language english LANG=ja_JP.UTF-8 LANGUAGE=de
+    expect_language english LANG=de_DE.UTF-8 LANGUAGE=de:en:ja
+}
+
+# LC_ALL overrules LC_MESSAGES and LANG for everybody.
+theVariablesOverruleEachOtherForAllTextsAlike() {
+    expect_language japanese LC_ALL=ja_JP.UTF-8 LC_MESSAGES=zh_CN.UTF-8 LANG=en_US.UTF-8
+    expect_language chinese LC_ALL= LC_MESSAGES=zh_CN.UTF-8 LANG=ja_JP.UTF-8
+    expect_language english LC_ALL=en_US.UTF-8 LC_MESSAGES=ja_JP.UTF-8
+}
+
+whoWantsNoLanguageGetsEnglish() {
+    expect_language english LC_ALL=C.UTF-8 LANGUAGE=ja
+    expect_language english LANG=C LANGUAGE=ja:zh_CN
+    expect_language english LANGUAGE=ja
+    expect_language english
+}
+
+relatedRegionsReadTheSameLanguage() {
+    expect_language chinese LANG=zh_SG.UTF-8
+    expect_language japanese LANG=ja.UTF-8
+    expect_language english LANG=zh_TW.UTF-8
+}
+
+# A PPD may know languages that the dialog does not.
+aLanguageOfThePpdAloneIsNotMixedIn() {
+    changed_ppd '/^\*cupsLanguages:/s/"$/ de"/; /^\*ja.Translation QXInputSlot/{
+        i *de.Translation QXInputSlot/Papierquelle: ""
+        i *de.QXInputSlot Auto/Automatisch: ""
+    }'
+    expect_language english LANG=de_DE.UTF-8
+    expect_language japanese LANG=de_DE.UTF-8 LANGUAGE=de:ja
+}
+
+refusalsSpeakTheLanguageOfTheSummary() {
+    environment=(--unset=LC_ALL LANG=en_US.UTF-8 LANGUAGE=ja)
+    expect_refusal 'この値は指定できません' '何も印刷されませんでした' -- -o QXMediaType=Silk
+    expect_refusal '同時には使用できません' -- -o 'QXMediaType=Glossy Duplex=DuplexTumble'
+}
+
+run_tests
