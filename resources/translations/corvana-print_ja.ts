@@ -62,6 +62,10 @@
         <source>%1 cannot be kept: %2</source>
         <translation>%1 を保存できません: %2</translation>
     </message>
+    <message>
+        <source>%1 is no ordinary file; a document was expected.</source>
+        <translation>%1 は通常のファイルではありません。文書を指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>FileQueue</name>
@@ -70,8 +74,8 @@
         <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -89,7 +93,7 @@
         <translation>このプリンターでは用紙サイズを選択できません。</translation>
     </message>
     <message>
-        <source>%1: the printer's settings do not allow this here; it became %2.</source>
+        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
         <translation>%1: プリンターの設定により、ここでは使用できません。%2 になりました。</translation>
     </message>
     <message>
@@ -100,6 +104,10 @@
         <source>%1=Custom: a value is missing. Allowed: %2.</source>
         <translation>%1=Custom: 値がありません。指定できる値: %2。</translation>
     </message>
+    <message>
+        <source>%1: this value is not allowed. Allowed: %2.</source>
+        <translation>%1: この値は指定できません。指定できる値: %2。</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -108,7 +116,7 @@
         <translation>プリンターがありません。--ppd FILE で指定するか、--demo でサンプルプリンターを試してください。</translation>
     </message>
     <message>
-        <source>There is no printer "%1". Printers: %2.</source>
+        <source>There is no printer &quot;%1&quot;. Printers: %2.</source>
         <translation>プリンター「%1」はありません。プリンター: %2。</translation>
     </message>
     <message numerus="yes">
@@ -124,6 +132,14 @@
         <source>Copies</source>
         <translation>部数</translation>
     </message>
+    <message>
+        <source>%1 × %2 inches</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
 </context>
 <context>
     <name>UnattendedRun</name>
@@ -132,7 +148,7 @@
         <translation>何も印刷されませんでした。</translation>
     </message>
     <message>
-        <source>The printer's settings hold the job back.</source>
+        <source>The printer&apos;s settings hold the job back.</source>
         <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
     </message>
     <message>
@@ -144,8 +160,35 @@
         <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
     <message>
-        <source>The printer's settings show instructions.</source>
+        <source>The printer&apos;s settings show instructions.</source>
         <translation>プリンターの設定に指示が表示されました。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CustomPaperSize</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>%1 ～ %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>用紙の幅</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>用紙の高さ</translation>
+    </message>
+    <message>
+        <source>Unit of the paper size</source>
+        <translation>用紙サイズの単位</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>インチ</translation>
     </message>
 </context>
 <context>
@@ -194,6 +237,10 @@
         <source>%1 is a device or a pipe; the name of a file was expected.</source>
         <translation>%1 はデバイスまたはパイプです。ファイル名を指定してください。</translation>
     </message>
+    <message>
+        <source>%1 is the document itself; name another file.</source>
+        <translation>%1 は印刷する文書そのものです。別のファイルを指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -208,6 +255,14 @@
     <message>
         <source>Pa&amp;ges:</source>
         <translation>ページ(&amp;G):</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>ユーザー定義サイズ</translation>
+    </message>
+    <message>
+        <source>Width × height:</source>
+        <translation>幅 × 高さ:</translation>
     </message>
 </context>
 <context>
@@ -263,7 +318,7 @@
         <translation>選択(&amp;H)…</translation>
     </message>
     <message>
-        <source>The printer's own settings are missing: %1</source>
+        <source>The printer&apos;s own settings are missing: %1</source>
         <translation>プリンター固有の設定を使用できません: %1</translation>
     </message>
     <message>
@@ -279,7 +334,7 @@
         <translation>このページを表示できません: %1</translation>
     </message>
     <message>
-        <source>A page of the printer's settings cannot be shown: %1</source>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
     <message>
@@ -351,6 +406,10 @@
     <message>
         <source>Help on Printing</source>
         <translation>印刷のヘルプ</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
     </message>
 </context>
 <context>

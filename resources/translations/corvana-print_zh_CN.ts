@@ -62,6 +62,10 @@
         <source>%1 cannot be kept: %2</source>
         <translation>无法保存 %1：%2</translation>
     </message>
+    <message>
+        <source>%1 is no ordinary file; a document was expected.</source>
+        <translation>%1 不是普通文件；请指定文档。</translation>
+    </message>
 </context>
 <context>
     <name>FileQueue</name>
@@ -70,8 +74,8 @@
         <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
     </message>
 </context>
 <context>
@@ -89,7 +93,7 @@
         <translation>此打印机没有可选的纸张尺寸。</translation>
     </message>
     <message>
-        <source>%1: the printer's settings do not allow this here; it became %2.</source>
+        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
         <translation>%1：打印机设置不允许在此使用，已变为 %2。</translation>
     </message>
     <message>
@@ -100,6 +104,10 @@
         <source>%1=Custom: a value is missing. Allowed: %2.</source>
         <translation>%1=Custom：缺少值。允许的值：%2。</translation>
     </message>
+    <message>
+        <source>%1: this value is not allowed. Allowed: %2.</source>
+        <translation>%1：不允许使用此值。可用的值：%2。</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -108,7 +116,7 @@
         <translation>没有打印机。请用 --ppd FILE 指定，或用 --demo 试用示例打印机。</translation>
     </message>
     <message>
-        <source>There is no printer "%1". Printers: %2.</source>
+        <source>There is no printer &quot;%1&quot;. Printers: %2.</source>
         <translation>没有打印机“%1”。打印机：%2。</translation>
     </message>
     <message numerus="yes">
@@ -124,6 +132,14 @@
         <source>Copies</source>
         <translation>份数</translation>
     </message>
+    <message>
+        <source>%1 × %2 inches</source>
+        <translation>%1 × %2 英寸</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
 </context>
 <context>
     <name>UnattendedRun</name>
@@ -132,7 +148,7 @@
         <translation>没有打印任何内容。</translation>
     </message>
     <message>
-        <source>The printer's settings hold the job back.</source>
+        <source>The printer&apos;s settings hold the job back.</source>
         <translation>由于打印机设置，作业未打印。</translation>
     </message>
     <message>
@@ -144,8 +160,35 @@
         <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
     </message>
     <message>
-        <source>The printer's settings show instructions.</source>
+        <source>The printer&apos;s settings show instructions.</source>
         <translation>打印机设置显示了说明。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CustomPaperSize</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>纸张宽度</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>纸张高度</translation>
+    </message>
+    <message>
+        <source>Unit of the paper size</source>
+        <translation>纸张尺寸的单位</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>英寸</translation>
     </message>
 </context>
 <context>
@@ -194,6 +237,10 @@
         <source>%1 is a device or a pipe; the name of a file was expected.</source>
         <translation>%1 是设备或管道，请指定文件名。</translation>
     </message>
+    <message>
+        <source>%1 is the document itself; name another file.</source>
+        <translation>%1 就是要打印的文档；请指定其他文件。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -208,6 +255,14 @@
     <message>
         <source>Pa&amp;ges:</source>
         <translation>页码(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>自定义尺寸</translation>
+    </message>
+    <message>
+        <source>Width × height:</source>
+        <translation>宽 × 高:</translation>
     </message>
 </context>
 <context>
@@ -263,7 +318,7 @@
         <translation>选择(&amp;H)…</translation>
     </message>
     <message>
-        <source>The printer's own settings are missing: %1</source>
+        <source>The printer&apos;s own settings are missing: %1</source>
         <translation>无法使用打印机专用设置：%1</translation>
     </message>
     <message>
@@ -279,7 +334,7 @@
         <translation>无法显示此页：%1</translation>
     </message>
     <message>
-        <source>A page of the printer's settings cannot be shown: %1</source>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
     <message>
@@ -351,6 +406,10 @@
     <message>
         <source>Help on Printing</source>
         <translation>打印帮助</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
     </message>
 </context>
 <context>
