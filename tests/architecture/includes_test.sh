@@ -13,6 +13,7 @@ project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 rules='
 platform/printcore   platform/printcore/ platform/PlatformExport.h
 platform/foundation  platform/foundation/ platform/PlatformExport.h
+platform/imaging     platform/imaging/ platform/PlatformExport.h
 platform/toolkit     platform/toolkit/ platform/imaging/ platform/foundation/ platform/printcore/ platform/PlatformExport.h
 platform             platform/
 panel                panel/ platform/
@@ -108,6 +109,11 @@ platform/foundation/A.cpp    platform/printcore/Ppd.h           refused
 platform/foundation/A.cpp    platform/toolkit/Alert.h           refused
 platform/foundation/A.cpp    platform/foundation/Values.h       allowed
 platform/foundation/A.cpp    platform/PlatformExport.hpp        refused
+platform/imaging/A.cpp       platform/foundation/Values.h       refused
+platform/imaging/A.cpp       platform/toolkit/ImageView.h       refused
+platform/imaging/A.cpp       platform/imaging/FilterImage.h     allowed
+platform/imaging/A.cpp       platform/PlatformExport.h          allowed
+platform/toolkit/A.cpp       platform/imaging/FilterImage.h     allowed
 platform/toolkit/A.cpp       platform/pde/PDEPanel.h            refused
 platform/toolkit/A.cpp       platform/foundation/Values.h       allowed
 panel/A.cpp                  platform/pde/PDEPanel.h            allowed
