@@ -74,6 +74,7 @@ test_theMinimumOfQtIsThatOfTheProject() {
 test_theScriptsAreCleanForShellcheck() {
     cd "$source_root" || exit
     shellcheck -x -a run test .ci/run tests/scripts/*_test.sh resources/pictures/make-pictures \
+        resources/pictures/make-reference-pictures tests/resources/reference_pictures_test.sh \
         >"$state/out" 2>&1 ||
         fail 'shellcheck found something'
     # Quoted dollar signs are what the fakes compare arguments with.
