@@ -54,6 +54,8 @@ TerminationSignals::TerminationSignals()
     struct sigaction note = {};
     note.sa_handler = noteSignal;
     note.sa_flags = SA_RESTART;
+    for (const int signal : kSignals)
+        sigaddset(&note.sa_mask, signal); // the first to come is noted first
     for (std::size_t i = 0; i < kSignals.size(); ++i) {
         ::sigaction(kSignals[i], nullptr, &former[i]);
         if (former[i].sa_handler != SIG_IGN)

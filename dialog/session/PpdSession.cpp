@@ -85,12 +85,7 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     // The page region follows the page size; marked itself, it would take the mark of the size
     // away.
     if (!option || keyword == kPageRegionOption) {
-        // A panel that runs its rules need not know which options every printer has.
-        if (origin == Origin::Panel)
-            qCInfo(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
-        else
-            qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for"
-                                 << choice;
+        qCWarning(lcSession) << "refused: the printer has no option" << keyword << "for" << choice;
         return {Outcome::UnknownOption, {}};
     }
     if (!ppdChoice(option, choiceKeyword(choice))) {

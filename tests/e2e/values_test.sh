@@ -70,7 +70,7 @@ bothEndsOfTheSleepTimePrint() {
     expect_custom QXSleepTime 1
     print -o QXSleepTime=Custom.99
     expect_custom QXSleepTime 99
-    expect_lines 'Sleep Time: Manual' 'Minutes (1 to 99): 99'
+    expect_lines 'Sleep Time: Manual' 'Minutes (1 … 99): 99'
     print -o QXSleepTime=Default
     expect_printed
     expect_code QXSleepTime=Default
@@ -79,9 +79,9 @@ bothEndsOfTheSleepTimePrint() {
 sleepTimesBeyondTheRangeAreRefusedWithIt() {
     local minutes
     for minutes in 0 100 -1 1.5 12x x 99999999999999999999 ''; do
-        expect_refusal "QXSleepTime=Custom.$minutes" 'Custom.1 to Custom.99' -- -o "QXSleepTime=Custom.$minutes"
+        expect_refusal "QXSleepTime=Custom.$minutes" 'Custom.1 … Custom.99' -- -o "QXSleepTime=Custom.$minutes"
     done
-    expect_refusal QXSleepTime=12 'Default, Custom.1 to Custom.99' -- -o QXSleepTime=12
+    expect_refusal QXSleepTime=12 'Default, Custom.1 … Custom.99' -- -o QXSleepTime=12
 }
 
 bothEndsOfTheDensityPrint() {
@@ -102,7 +102,7 @@ bothEndsOfTheDensityPrint() {
 densitiesBeyondTheRangeAreRefusedWithIt() {
     local density
     for density in 7 -7 Custom.9 Custom.-7 1.5 dark ''; do
-        expect_refusal "QXDensityAdjustment=$density" '-6 to 6' -- -o "QXDensityAdjustment=$density"
+        expect_refusal "QXDensityAdjustment=$density" '-6 … 6' -- -o "QXDensityAdjustment=$density"
     done
 }
 
@@ -121,7 +121,7 @@ theColorEffectsPrintUpToBothEnds() {
 effectsBeyondTheRangeAreRefusedWithIt() {
     local value
     for value in 21 -21 1.5 bright; do
-        expect_refusal "QXRed=$value" '-20 to 20' -- -o "QXRed=$value"
+        expect_refusal "QXRed=$value" '-20 … 20' -- -o "QXRed=$value"
     done
 }
 

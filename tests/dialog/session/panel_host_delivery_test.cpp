@@ -212,7 +212,7 @@ private Q_SLOTS:
         CallLog expected{u"A.changed %1=%2"_s.arg(keyword, choice),
                          u"B.changed %1=%2"_s.arg(keyword, choice)};
         if (restores)
-            expected += {u"A.restore"_s, u"B.restore"_s};
+            expected += {u"A.save"_s, u"A.restore"_s, u"B.restore"_s}; // A is the visible one
         QCOMPARE(taken(), expected);
     }
 
