@@ -60,6 +60,9 @@ void QXLaserPrintSettingPDE::controlTextDidChange(const Notification &notificati
         field->setText(shown);
         field->setCursorPosition(
             static_cast<int>(std::max<qsizetype>(0, shown.size() - behindCursor)));
+        // Too little was written yet: what is written next replaces the number that came back.
+        if (minutes < kSleepTimeMin)
+            field->selectAll();
     }
     if (sleepTimeStepper)
         sleepTimeStepper->setValue(controlValue(integerValue(shown)));

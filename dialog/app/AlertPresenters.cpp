@@ -60,7 +60,13 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
     box.setIcon(alert.style == Alert::Style::Warning ? QMessageBox::Warning
                                                      : QMessageBox::Information);
     box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(parent ? parent->window()->windowTitle() : QString());
     box.setText(alert.messageText);
+    if (auto *title = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
+        QFont bold = title->font();
+        bold.setBold(true);
+        title->setFont(bold);
+    }
     box.setInformativeText(alert.informativeText);
     QList<QPushButton *> buttons;
     for (const QString &label : alert.buttons)
@@ -105,7 +111,7 @@ std::optional<AlertPolicy> alertPolicy(const QString &name)
 AlertAnswer TerminalAlertPresenter::runModal(const Alert &alert, QWidget *)
 {
     m_shown = true;
-    QTextStream(stderr) << alert.messageText << "\n\n" << alert.informativeText << "\n";
+    QTextStream(stderr) << alert.messageText << "\n\n" << alert.informativeText << "\n\n";
     AlertAnswer answer;
     if (m_policy != AlertPolicy::Print)
         answer.button = static_cast<int>(alert.buttons.size()) - 1;

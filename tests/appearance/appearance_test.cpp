@@ -8,10 +8,16 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleFactory>
+#include <QStyleOptionFrame>
 #include <QTabWidget>
+#include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/app/PrintDialog.h"
@@ -29,11 +35,11 @@ QPalette darkPalette()
     return palette;
 }
 
-PrintRequest request(const QStringList &options)
+PrintRequest request(const QStringList &options, const QString &printer = QStringLiteral("cl5"))
 {
     CommandLine line;
     line.documents = {QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf")};
-    line.ppd = QStringLiteral(CORVANA_TEST_SHARE_DIR "/ppd/corvana-cl5.ppd");
+    line.ppd = QStringLiteral(CORVANA_TEST_SHARE_DIR "/ppd/corvana-%1.ppd").arg(printer);
     line.bundleRoots = {QFileInfo(QStringLiteral(CORVANA_TEST_BUNDLE_DIR)).path()};
     line.options = options;
     QString error;
@@ -51,7 +57,9 @@ bool showsItsText(const QWidget *widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(widget))
         return !label->wordWrap() && !label->text().isEmpty();
-    return qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QComboBox *>(widget);
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        return !button->text().isEmpty();
+    return qobject_cast<const QComboBox *>(widget);
 }
 
 bool isVisibleInside(const QWidget *ancestor, const QWidget *widget)
@@ -97,6 +105,39 @@ QStringList overlappingControls(const QWidget *page)
         }
     }
     return overlapping;
+}
+
+// Texts in fields and lists, which are cut off silently.
+QStringList clippedTexts(const QWidget *page)
+{
+    QStringList clipped;
+    const auto fields = page->findChildren<QLineEdit *>();
+    for (const QLineEdit *field : fields) {
+        // A long text scrolls; a number must be seen whole, and the longest ones have three digits.
+        const bool number = field->width() < 8 * field->fontMetrics().height();
+        if (!number || !isVisibleInside(page, field))
+            continue;
+        QStyleOptionFrame option;
+        option.initFrom(field);
+        option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+        constexpr int kTextMargins = 4; // pixels that a field keeps free at both ends, together
+        const int room =
+            field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field).width() -
+            kTextMargins;
+        if (field->fontMetrics().horizontalAdvance(QStringLiteral("240")) > room)
+            clipped += described(field) + QStringLiteral(" is narrower than its numbers");
+    }
+    const auto tables = page->findChildren<QTableView *>();
+    for (const QTableView *table : tables) {
+        if (!isVisibleInside(page, table) || !table->model()->rowCount())
+            continue;
+        const QAbstractItemView *view = table; // asking a table is not public
+        if (view->sizeHintForColumn(0) > table->columnWidth(0))
+            clipped += described(table) + QStringLiteral(" is narrower than its texts");
+        if (table->horizontalScrollBar()->maximum() > 0)
+            clipped += described(table) + QStringLiteral(" scrolls sideways");
+    }
+    return clipped;
 }
 
 // The difference in brightness between the darkest and the lightest pixel of a label.
@@ -145,16 +186,59 @@ QStringList namelessControls(const QWidget *page)
     return nameless;
 }
 
-void save(PrintDialog &dialog, const QString &name)
+void save(QWidget &window, const QString &name)
 {
     const QString folder = qEnvironmentVariable("CORVANA_SCREENSHOTS");
     if (folder.isEmpty())
         return;
     QDir().mkpath(folder);
-    dialog.grab().save(QStringLiteral("%1/%2_%3x_%4.png")
+    window.grab().save(QStringLiteral("%1/%2_%3x_%4.png")
                            .arg(folder, qEnvironmentVariable("LC_ALL").section(u'.', 0, 0),
                                 qEnvironmentVariable("QT_SCALE_FACTOR"), name));
 }
+
+// Looks at each alert that comes up, and answers it with its first button.
+class AlertInspector : public QObject
+{
+public:
+    explicit AlertInspector(const QString &name) : m_name(name) { qApp->installEventFilter(this); }
+
+    int seen = 0;
+    QStringList faults;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *box = qobject_cast<QMessageBox *>(watched);
+        if (box && event->type() == QEvent::Show)
+            QMetaObject::invokeMethod(
+                box, [this, box] { inspect(*box); }, Qt::QueuedConnection);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void inspect(QMessageBox &box)
+    {
+        ++seen;
+        save(box, m_name);
+        faults += clippedControls(&box) + overlappingControls(&box) + unreadableLabels(&box);
+        const auto labels = box.findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->wordWrap() && label->isVisible() &&
+                label->height() < label->heightForWidth(label->width()))
+                faults += described(label) + QStringLiteral(" is lower than its text");
+        }
+        const auto *picture = box.findChild<QWidget *>(QStringLiteral("accessoryView"));
+        if (!picture || !picture->isVisible() ||
+            !box.rect().contains(QRect(picture->mapTo(&box, QPoint()), picture->size())))
+            faults += QStringLiteral("the picture is not seen whole");
+        const QSize room = box.screen()->availableSize();
+        if (box.width() > room.width() || box.height() > room.height())
+            faults += QStringLiteral("the alert is larger than the screen");
+        box.buttons().constFirst()->click();
+    }
+
+    QString m_name;
+};
 
 } // namespace
 
@@ -193,10 +277,128 @@ private Q_SLOTS:
         pages->setCurrentIndex(page);
         QTest::qWait(50);
         save(dialog, QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(clippedControls(&dialog), QStringList());
-        QCOMPARE(overlappingControls(&dialog), QStringList());
-        QCOMPARE(unreadableLabels(&dialog), QStringList());
-        QCOMPARE(namelessControls(&dialog), QStringList());
+        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
+        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+    }
+
+    void everyAdvancedOptionIsWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<QString>("page");
+        // Between them they have each option in each of its forms.
+        const std::pair<const char *, QStringList> printers[] = {
+            {"cl5",
+             {QStringLiteral("TonerSaveMode"), QStringLiteral("ImproveOutput"),
+              QStringLiteral("QXDensityAdjustment"), QStringLiteral("QXSleepTime"),
+              QStringLiteral("QXQuietMode"), QStringLiteral("OtherOption")}},
+            {"cl3",
+             {QStringLiteral("ImproveOutput"), QStringLiteral("QXDensityAdjustment"),
+              QStringLiteral("QXQuietMode"), QStringLiteral("OtherOption")}},
+            {"cl2",
+             {QStringLiteral("TonerSaveMode"), QStringLiteral("ImproveOutput"),
+              QStringLiteral("QXDensityAdjustment"), QStringLiteral("QXSleepTime")}},
+        };
+        for (const bool dark : {false, true}) {
+            for (const auto &[printer, pages] : printers) {
+                for (const QString &page : pages)
+                    QTest::addRow("advanced_%s_%s_%s", printer, qPrintable(page),
+                                  dark ? "dark" : "light")
+                        << dark << QString::fromLatin1(printer) << page;
+            }
+        }
+    }
+
+    void everyAdvancedOptionIsWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(QString, printer);
+        QFETCH(QString, page);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        PrintDialog dialog(request({}, printer));
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        pages->setCurrentIndex(1);
+        auto *panel = qobject_cast<QScrollArea *>(pages->currentWidget());
+        QTRY_VERIFY(panel->widget());
+        panel->widget()->findChild<QPushButton *>(QStringLiteral("optionButton"))->click();
+        auto *rows = panel->widget()->findChild<QTableView *>(QStringLiteral("advancedTableView"));
+        auto *shown = panel->widget()->findChild<QWidget *>(page);
+        QVERIFY(shown && rows->isVisible());
+        for (int row = 0; row < rows->model()->rowCount() && !shown->isVisible(); ++row)
+            rows->selectRow(row);
+        QVERIFY(shown->isVisible());
+        QTest::qWait(50);
+        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(clippedControls(shown).join(u'\n'), QString());
+        QCOMPARE(clippedTexts(&dialog).join(u'\n'), QString());
+        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
+        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+        // The window has grown as far as is needed.
+        QCOMPARE(panel->verticalScrollBar()->maximum(), 0);
+        QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
+    }
+
+    void everyAlertIsWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<bool>("whenPrinting");
+        QTest::addColumn<QStringList>("options");
+        const bool japanese = qgetenv("LC_ALL").startsWith("ja");
+        for (const bool dark : {false, true}) {
+            const char *look = dark ? "dark" : "light";
+            const auto alert = [&](const char *medium, const char *duplex, bool whenPrinting) {
+                QStringList options{
+                    QStringLiteral("QXMediaType=%1").arg(QLatin1StringView(medium))};
+                if (*duplex)
+                    options += QStringLiteral("Duplex=%1").arg(QLatin1StringView(duplex));
+                QTest::addRow("alert_%s_%s%s_%s", whenPrinting ? "back-cover" : "media", medium,
+                              *duplex ? "_two-sided" : "", look)
+                    << dark << whenPrinting << options;
+            };
+            for (const char *medium : {"Thick", "Glossy", "Label"})
+                alert(medium, "", false);
+            for (const char *duplex : {"", "DuplexNoTumble"}) {
+                alert("Env", duplex, true);
+                alert("Label", duplex, true);
+                if (japanese) // elsewhere this medium is not offered
+                    alert("PostCard", duplex, true);
+            }
+        }
+    }
+
+    void everyAlertIsWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(bool, whenPrinting);
+        QFETCH(QStringList, options);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        QTemporaryDir folder;
+        PrintRequest wanted = request(whenPrinting ? options : QStringList());
+        wanted.output = folder.filePath(QStringLiteral("job.ps"));
+        PrintDialog dialog(wanted);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        pages->setCurrentIndex(1);
+        QTRY_VERIFY(qobject_cast<QScrollArea *>(pages->currentWidget())->widget());
+        AlertInspector inspector(QString::fromLatin1(QTest::currentDataTag()));
+        if (whenPrinting) {
+            dialog.findChild<QPushButton *>(QStringLiteral("print"))->click();
+        } else {
+            auto *media = dialog.findChild<QComboBox *>(QStringLiteral("mediaTypePopup"));
+            const QString medium = options.constFirst().section(u'=', 1);
+            media->setCurrentIndex(media->findData(medium));
+            Q_EMIT media->activated(media->currentIndex());
+        }
+        QCOMPARE(inspector.seen, 1);
+        QCOMPARE(inspector.faults.join(u'\n'), QString());
+        dialog.reject(); // and with it the job
     }
 
     void aMessageFitsIntoTheDialog()
@@ -212,8 +414,8 @@ private Q_SLOTS:
         auto *message = dialog.findChild<QLabel *>(QStringLiteral("messageText"));
         QVERIFY(message->isVisible());
         save(dialog, QStringLiteral("conflict"));
-        QCOMPARE(clippedControls(&dialog), QStringList());
-        QCOMPARE(overlappingControls(&dialog), QStringList());
+        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
     }
 
     void aNarrowedDialogScrollsInsteadOfClipping()

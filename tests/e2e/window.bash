@@ -103,6 +103,41 @@ popup_is_open() {
 }
 popup_is_closed() { ! popup_is_open; }
 
+# An alert or a question is a window of its own as well, $alert; nothing else of the program takes a
+# key or a click until it is answered.
+windows_of_program() { xdotool search --onlyvisible --pid "$dialog" 2>/dev/null; }
+alert_is_open() {
+    expect_running
+    local other WIDTH
+    for other in $(windows_of_program | grep -vx "$window"); do
+        WIDTH=0
+        eval "$(xdotool getwindowgeometry --shell "$other" 2>/dev/null | grep -E '^WIDTH=[0-9]+$')"
+        alert=$other
+        [ "$WIDTH" -gt 20 ] && return 0
+    done
+    return 1
+}
+alert_is_closed() { ! windows_of_program | grep -qx "$alert"; }
+# expect_alert: one is open, and gets the keys from now on.
+expect_alert() {
+    await 'an alert' alert_is_open
+    xdotool windowfocus "$alert"
+    settle
+}
+# answer_alert KEY...: waits for an alert and presses keys in it, until it is gone; the dialog gets
+# the keys again.
+answer_alert() {
+    expect_alert
+    press "$@"
+    await 'the end of the alert' alert_is_closed
+    xdotool windowfocus "$window" 2>/dev/null
+    return 0
+}
+expect_no_alert() {
+    settle
+    ! alert_is_open || fail 'there is an alert'
+}
+
 # The program ends when the job is printed.
 has_ended() { ! kill -0 "$dialog" 2>/dev/null; }
 expect_end() {
@@ -111,8 +146,12 @@ expect_end() {
     status=$?
 }
 # print_in_dialog: presses Print and waits for the result.
-print_in_dialog() {
+print_in_dialog() { print_past_alerts 0; }
+# print_past_alerts COUNT: the same, and presses OK in as many alerts.
+print_past_alerts() {
+    local alerts=$1
     press alt+p
+    for (( ; alerts > 0; alerts--)); do answer_alert Return; done
     expect_end
     expect_printed
 }

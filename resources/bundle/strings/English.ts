@@ -163,5 +163,13 @@
         <source>NoColorEffects</source>
         <translation>The driver of this printer takes no color adjustment.</translation>
     </message>
+    <message>
+        <source>DensityLighter</source>
+        <translation>Lighter</translation>
+    </message>
+    <message>
+        <source>DensityDarker</source>
+        <translation>Darker</translation>
+    </message>
 </context>
 </TS>

@@ -163,5 +163,13 @@
         <source>NoColorEffects</source>
         <translation>このプリンターのドライバーではカラー調整を使用できません。</translation>
     </message>
+    <message>
+        <source>DensityLighter</source>
+        <translation>薄く</translation>
+    </message>
+    <message>
+        <source>DensityDarker</source>
+        <translation>濃く</translation>
+    </message>
 </context>
 </TS>

@@ -163,5 +163,13 @@
         <source>NoColorEffects</source>
         <translation>此打印机的驱动程序不支持色彩调整。</translation>
     </message>
+    <message>
+        <source>DensityLighter</source>
+        <translation>更浅</translation>
+    </message>
+    <message>
+        <source>DensityDarker</source>
+        <translation>更深</translation>
+    </message>
 </context>
 </TS>

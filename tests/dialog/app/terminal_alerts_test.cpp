@@ -102,7 +102,7 @@ private Q_SLOTS:
         TerminalAlertPresenter presenter(policy);
         StandardError error;
         presenter.runModal(alertWith({u"OK"_s}), nullptr);
-        QCOMPARE(error.said(), u"カバーを開く\n\nPull both levers.\n"_s);
+        QCOMPARE(error.said(), u"カバーを開く\n\nPull both levers.\n\n"_s);
     }
 
     void onePolicyForAllAlertsOfARun()

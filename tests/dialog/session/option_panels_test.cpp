@@ -1,3 +1,5 @@
+#include <optional>
+
 #include <QTest>
 
 #include "dialog/session/JobTicket.h"
@@ -19,7 +21,7 @@ class OptionPanelsTest : public QObject
     Q_OBJECT
 
 private:
-    ScriptedAlertPresenter m_presenter;
+    std::optional<ScriptedAlertPresenter> m_presenter;
     PDEPlugIn *m_plugIn = nullptr;
     std::unique_ptr<PpdSession> m_session;
     std::unique_ptr<PanelHost> m_panels;
@@ -28,7 +30,7 @@ private:
     {
         m_panels.reset();
         m_session = sampleSession();
-        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, m_presenter);
+        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, *m_presenter);
     }
     OptionOutcome apply(const QStringList &options)
     {
@@ -50,10 +52,14 @@ private Q_SLOTS:
         m_plugIn = &loadedPlugIn();
         QVERIFY(m_plugIn->jobValues());
     }
-    void init() { open(); }
+    void init()
+    {
+        m_presenter.emplace();
+        open();
+    }
     void cleanup()
     {
-        QCOMPARE(m_presenter.shown().size(), 0);
+        QCOMPARE(m_presenter->outstanding(), 0);
         m_panels.reset();
         m_session.reset();
     }
@@ -69,6 +75,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("keyword");
         QTest::addColumn<QString>("choice");
+        QTest::addColumn<bool>("tellsHowToLoad");
+        QTest::addColumn<bool>("asksForTheBackCover");
+        const QStringList backCoverMedia{u"Env"_s, u"EnvThin"_s, u"EnvThick"_s, u"Label"_s};
         const auto session = sampleSession();
         for (const ppd_option_t *option : session->options()) {
             const QString keyword = ppdKeyword(option->keyword);
@@ -81,7 +90,11 @@ private Q_SLOTS:
                 const bool effect = option->num_choices == 41;
                 if (effect && choice != u"-20"_s && choice != u"0"_s && choice != u"20"_s)
                     continue;
-                QTest::newRow(qUtf8Printable(keyword + u'=' + choice)) << keyword << choice;
+                // An envelope paper brings the envelope medium with it.
+                const bool envelope = keyword == u"PageSize"_s && choice.startsWith(u"Env"_s);
+                const bool medium = keyword == u"QXMediaType"_s && backCoverMedia.contains(choice);
+                QTest::newRow(qUtf8Printable(keyword + u'=' + choice))
+                    << keyword << choice << envelope << (envelope || medium);
             }
         }
     }
@@ -89,10 +102,18 @@ private Q_SLOTS:
     {
         QFETCH(QString, keyword);
         QFETCH(QString, choice);
+        QFETCH(bool, tellsHowToLoad);
+        QFETCH(bool, asksForTheBackCover);
+        if (tellsHowToLoad)
+            m_presenter->expect();
         const OptionOutcome outcome = apply({keyword + u'=' + choice});
         QVERIFY2(outcome.ok(), qPrintable(outcome.problems.join(u'\n')));
+        QCOMPARE(m_presenter->outstanding(), 0);
         QCOMPARE(inJob(keyword), choice);
+        if (asksForTheBackCover)
+            m_presenter->expect();
         QVERIFY(m_panels->shouldPrint());
+        QCOMPARE(m_presenter->outstanding(), 0);
         m_panels->summary();
         QCOMPARE(inJob(keyword), choice);
     }
