@@ -42,8 +42,10 @@ bool QXLaserPrintSettingPDE::readPageSetup()
     } else {
         // A panel that was told its options hears of a new paper from the host alone.
         if (!PPDKeys) {
+            const QLatin1StringView acts(kMenuDidSendActionNotification);
+            NotificationCenter::defaultCenter().removeObserver(this, acts, nullptr); // only once
             NotificationCenter::defaultCenter().addObserver(
-                this, QLatin1StringView(kMenuDidSendActionNotification), nullptr,
+                this, acts, nullptr,
                 [this](const Notification &notification) { checkPageSizeChange(notification); });
         }
         name = pagePaperName();

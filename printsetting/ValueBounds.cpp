@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <limits>
 
+#include <QLoggingCategory>
+
 #include "printsetting/PrintSettingKeys.h"
 
 namespace corvana {
+
+Q_LOGGING_CATEGORY(lcBounds, "corvana.printsetting.bounds", QtWarningMsg)
 
 namespace {
 
@@ -15,7 +19,11 @@ ValueBounds declaredBounds(ppd_file_t *ppd, QLatin1StringView option, QLatin1Str
     const ppd_cparam_t *declared = ppdCustomParameter(ppd, option, parameter);
     if (!declared || declared->type != PPD_CUSTOM_INT)
         return usual;
-    return {declared->minimum.custom_int, declared->maximum.custom_int};
+    const ValueBounds bounds{declared->minimum.custom_int, declared->maximum.custom_int};
+    if (bounds.minimum > bounds.maximum)
+        qCWarning(lcBounds) << "the PPD declares for" << option << parameter << "a minimum of"
+                            << bounds.minimum << "above the maximum of" << bounds.maximum;
+    return bounds;
 }
 
 } // namespace

@@ -54,7 +54,7 @@ QString millimetres(double points)
 
 QString allowedPageSizes(const ppd_file_t *ppd)
 {
-    return QStringLiteral("Custom.WIDTHxHEIGHTmm from %1x%2mm to %3x%4mm")
+    return QStringLiteral("Custom.WIDTHxHEIGHTmm, %1x%2mm … %3x%4mm")
         .arg(millimetres(ppd->custom_min[0]), millimetres(ppd->custom_min[1]),
              millimetres(ppd->custom_max[0]), millimetres(ppd->custom_max[1]));
 }
@@ -145,7 +145,7 @@ QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
     if (!parameter)
         return {};
     if (const auto bounds = range(parameter)) {
-        return QStringLiteral("Custom.%1 to Custom.%2")
+        return QStringLiteral("Custom.%1 … Custom.%2")
             .arg(number(parameter, bounds->first), number(parameter, bounds->second));
     }
     return QStringLiteral("Custom.TEXT");

@@ -14,7 +14,7 @@ struct CustomValueCheck
 {
     /// The value as CUPS takes it ("Custom.283.5x419.5"); nothing when it cannot be taken.
     std::optional<QString> value;
-    /// What would be taken ("Custom.1 to Custom.99"), for the message of a refusal.
+    /// What would be taken ("Custom.1 … Custom.99"), for the message of a refusal.
     QString allowed;
 };
 

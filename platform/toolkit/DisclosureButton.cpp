@@ -22,12 +22,11 @@ void DisclosureButton::setHeading(QLabel *heading)
 
 bool DisclosureButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::MouseButtonRelease || !isEnabled())
-        return QPushButton::eventFilter(watched, event);
-    const auto *release = static_cast<QMouseEvent *>(event);
-    const QRect heading = static_cast<QWidget *>(watched)->rect();
-    if (release->button() == Qt::LeftButton && heading.contains(release->position().toPoint())) {
-        click();
+    if (event->type() == QEvent::MouseButtonRelease && isEnabled()) {
+        const auto *release = static_cast<QMouseEvent *>(event);
+        const QRect heading = static_cast<QWidget *>(watched)->rect();
+        if (release->button() == Qt::LeftButton && heading.contains(release->position().toPoint()))
+            click();
         return true;
     }
     return QPushButton::eventFilter(watched, event);

@@ -45,7 +45,7 @@ theSmallestAndTheLargestPaperPrint() {
 paperBeyondTheLimitsIsRefusedWithTheLimits() {
     local size
     for size in 215x360 216x359 613x1008 612x1009 10x10mm 0x0 -300x400 300x 300x400furlong axb 300 ''; do
-        expect_refusal "PageSize=Custom.$size" 'from 76.2x127mm to 215.9x355.6mm' \
+        expect_refusal "PageSize=Custom.$size" '76.2x127mm … 215.9x355.6mm' \
             -- -o "PageSize=Custom.$size"
     done
     expect_refusal PageSize=Custom 'from 76.2x127mm' -- -o PageSize=Custom
@@ -70,7 +70,7 @@ bothEndsOfTheSleepTimePrint() {
     expect_custom QXSleepTime 1
     print -o QXSleepTime=Custom.99
     expect_custom QXSleepTime 99
-    expect_lines 'Sleep Time: Manual' 'Minutes (1 … 99): 99'
+    expect_lines 'Sleep Time: Manual' 'Minutes (1 to 99): 99'
     print -o QXSleepTime=Default
     expect_printed
     expect_code QXSleepTime=Default

@@ -212,7 +212,7 @@ private Q_SLOTS:
              {u"Custom.0"_s, u"Custom.100"_s, u"Custom.-5"_s, u"Custom."_s, u"Custom"_s,
               u"Custom.12min"_s, u"Custom.1.5"_s, u"Custom.99999999999999999999"_s, u"{Time=100}"_s,
               u"{Span=12}"_s, u"{Time=12"_s, u"{"_s}) {
-            refused(qPrintable(u"sleep: "_s + bad), sleep, bad, u"Custom.1 to Custom.99"_s);
+            refused(qPrintable(u"sleep: "_s + bad), sleep, bad, u"Custom.1 … Custom.99"_s);
         }
         notMine("sleep: a plain number", sleep, u"12"_s);
         notMine("sleep: an unknown choice", sleep, u"Never"_s);
@@ -225,7 +225,7 @@ private Q_SLOTS:
         accepted("density: the printer's own", density, u"0"_s, {{kDensity, u"0"_s}});
         for (const QString &bad :
              {u"7"_s, u"-7"_s, u"Custom.7"_s, u"dark"_s, u""_s, u"{Time=1}"_s, u"1 "_s})
-            refused(qPrintable(u"density: \""_s + bad + u'"'), density, bad, u"-6 to 6"_s);
+            refused(qPrintable(u"density: \""_s + bad + u'"'), density, bad, u"-6 … 6"_s);
 
         const QString red = u"QXRed"_s;
         accepted(
@@ -235,7 +235,7 @@ private Q_SLOTS:
             "red: with its sign", red, u"+20"_s,
             {{kNormalEffect, QVariantList{u"0"_s, u"0"_s, qint64(20), u"0"_s, u"0"_s, u"0"_s}}});
         for (const QString &bad : {u"21"_s, u"-21"_s, u"rose"_s, u""_s, u"1.5"_s})
-            refused(qPrintable(u"red: \""_s + bad + u'"'), red, bad, u"-20 to 20"_s);
+            refused(qPrintable(u"red: \""_s + bad + u'"'), red, bad, u"-20 … 20"_s);
 
         notMine("another option", u"QXMediaType"_s, u"Plain"_s);
         notMine("other letter case", u"qxred"_s, u"3"_s);
@@ -264,7 +264,7 @@ private Q_SLOTS:
         const JobValueClaim claim =
             m_values.takeJobOption({u"QXSleepTime"_s, u"Custom.51"_s}, settings, host->ppd());
         QCOMPARE(claim.outcome, Outcome::Refused);
-        QCOMPARE(claim.allowed, u"Custom.5 to Custom.50"_s);
+        QCOMPARE(claim.allowed, u"Custom.5 … Custom.50"_s);
     }
 
     void anEffectThatIsNoChoiceIsRefused()

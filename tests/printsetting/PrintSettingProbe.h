@@ -18,28 +18,53 @@ public:
 
     bool tracing = false;
 
+    using QXLaserPrintSettingPDE::accessoryView;
+    using QXLaserPrintSettingPDE::advancedTableView;
+    using QXLaserPrintSettingPDE::advancedTabView;
+    using QXLaserPrintSettingPDE::arrayController;
+    using QXLaserPrintSettingPDE::densityField;
+    using QXLaserPrintSettingPDE::densityLabel;
+    using QXLaserPrintSettingPDE::densitySlider;
     using QXLaserPrintSettingPDE::effectContent;
     using QXLaserPrintSettingPDE::hasMode;
+    using QXLaserPrintSettingPDE::improveLabel;
+    using QXLaserPrintSettingPDE::improveMatrix;
+    using QXLaserPrintSettingPDE::improveTonerfixButton;
     using QXLaserPrintSettingPDE::kDensityMax;
     using QXLaserPrintSettingPDE::kDensityMin;
     using QXLaserPrintSettingPDE::kSleepTimeDefault;
     using QXLaserPrintSettingPDE::kSleepTimeMax;
     using QXLaserPrintSettingPDE::kSleepTimeMin;
     using QXLaserPrintSettingPDE::m_outputBin;
+    using QXLaserPrintSettingPDE::m_panelView;
     using QXLaserPrintSettingPDE::mediaTypeLabel;
     using QXLaserPrintSettingPDE::mediaTypePopup;
     using QXLaserPrintSettingPDE::monoColorLabel;
     using QXLaserPrintSettingPDE::monoColorPopup;
+    using QXLaserPrintSettingPDE::optionButton;
+    using QXLaserPrintSettingPDE::optionLabel;
     using QXLaserPrintSettingPDE::paperFeedLabel;
     using QXLaserPrintSettingPDE::paperFeedPopup;
     using QXLaserPrintSettingPDE::paperName;
+    using QXLaserPrintSettingPDE::pluginBundle;
     using QXLaserPrintSettingPDE::popupInited;
+    using QXLaserPrintSettingPDE::ppd;
     using QXLaserPrintSettingPDE::PPDKeys;
     using QXLaserPrintSettingPDE::PPDResolutionKey;
     using QXLaserPrintSettingPDE::PPDSleepTimeKey;
+    using QXLaserPrintSettingPDE::quietModeMatrix;
+    using QXLaserPrintSettingPDE::reduceGhostButton;
+    using QXLaserPrintSettingPDE::reducePaperButton;
     using QXLaserPrintSettingPDE::resolutionLabel;
     using QXLaserPrintSettingPDE::resolutionPopup;
     using QXLaserPrintSettingPDE::setMode;
+    using QXLaserPrintSettingPDE::skipBlankButton;
+    using QXLaserPrintSettingPDE::sleepTimeField;
+    using QXLaserPrintSettingPDE::sleepTimeMatrix;
+    using QXLaserPrintSettingPDE::sleepTimePrefixLabel;
+    using QXLaserPrintSettingPDE::sleepTimeStepper;
+    using QXLaserPrintSettingPDE::sleepTimeSuffixLabel;
+    using QXLaserPrintSettingPDE::tonerSaveButton;
 
     QString stored(const QString &keyword) const { return outputBin().value(keyword).toString(); }
     QVariant entry(const QString &key) const { return m_host->settings().value(key); }

@@ -136,6 +136,7 @@ private Q_SLOTS:
         QFETCH(QString, stored);
         QFETCH(bool, judged);
         auto panel = makePanel(printer());
+        m_host->mark(u"QXMediaType"_s, u"Glossy"_s);
         panel->m_outputBin.insert(u"QXMediaType"_s, stored);
         panel->paperName = u"A4"_s;
         panel->tracing = true;

@@ -36,10 +36,23 @@ private Q_SLOTS:
         QCOMPARE(takeInterfaceProblems(), QStringList());
         QVERIFY(m_panel->effectContent);
         const QList<QWidget *> outlets{
-            m_panel->mediaTypePopup, m_panel->resolutionPopup, m_panel->monoColorPopup,
-            m_panel->paperFeedPopup, m_panel->mediaTypeLabel,  m_panel->resolutionLabel,
-            m_panel->monoColorLabel, m_panel->paperFeedLabel,
+            m_panel->mediaTypePopup,       m_panel->resolutionPopup,
+            m_panel->monoColorPopup,       m_panel->paperFeedPopup,
+            m_panel->mediaTypeLabel,       m_panel->resolutionLabel,
+            m_panel->monoColorLabel,       m_panel->paperFeedLabel,
+            m_panel->advancedTabView,      m_panel->advancedTableView,
+            m_panel->tonerSaveButton,      m_panel->improveMatrix,
+            m_panel->reducePaperButton,    m_panel->improveTonerfixButton,
+            m_panel->reduceGhostButton,    m_panel->densityField,
+            m_panel->densitySlider,        m_panel->sleepTimeField,
+            m_panel->sleepTimeStepper,     m_panel->sleepTimeMatrix,
+            m_panel->skipBlankButton,      m_panel->quietModeMatrix,
+            m_panel->optionLabel,          m_panel->optionButton,
+            m_panel->densityLabel,         m_panel->improveLabel,
+            m_panel->sleepTimePrefixLabel, m_panel->sleepTimeSuffixLabel,
+            m_panel->accessoryView,
         };
+        QVERIFY(m_panel->arrayController);
         for (qsizetype i = 0; i < outlets.size(); ++i)
             QVERIFY2(outlets.at(i), qPrintable(QString::number(i)));
     }
@@ -112,10 +125,10 @@ private Q_SLOTS:
 
     void showingAgainKeepsWhatIsShown()
     {
-        QVERIFY(pick(m_panel->mediaTypePopup, u"Labels"_s));
+        QVERIFY(pick(m_panel->mediaTypePopup, u"Thin Paper"_s));
         QVERIFY(m_panel->shouldHide());
         m_panel->willShow();
-        QCOMPARE(m_panel->mediaTypePopup->currentText(), u"Labels"_s);
+        QCOMPARE(m_panel->mediaTypePopup->currentText(), u"Thin Paper"_s);
         QCOMPARE(m_panel->mediaTypePopup->count(), 10);
     }
 

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include <QTest>
 
 #include "tests/printsetting/PrintSettingProbe.h"
@@ -49,6 +51,42 @@ private Q_SLOTS:
         const ValueBounds bounds{minimum, maximum};
         QCOMPARE(bounds.clamped(value), result);
         QCOMPARE(bounds.contains(value), minimum <= value && value <= maximum);
+    }
+
+    void aNumberIsWrittenInsideItsRange_data()
+    {
+        QTest::addColumn<qint64>("value");
+        QTest::addColumn<qint64>("low");
+        QTest::addColumn<qint64>("high");
+        QTest::addColumn<QString>("text"); // null: none
+        constexpr qint64 kLeast = std::numeric_limits<qint64>::min();
+        constexpr qint64 kMost = std::numeric_limits<qint64>::max();
+        QTest::newRow("above") << qint64(5) << qint64(1) << qint64(3) << u"3"_s;
+        QTest::newRow("below") << qint64(0) << qint64(1) << qint64(3) << u"1"_s;
+        QTest::newRow("inside") << qint64(2) << qint64(1) << qint64(3) << u"2"_s;
+        QTest::newRow("one value only") << qint64(9) << qint64(3) << qint64(3) << u"3"_s;
+        QTest::newRow("negative") << qint64(-9) << qint64(-6) << qint64(6) << u"-6"_s;
+        QTest::newRow("the wrong way round") << qint64(2) << qint64(3) << qint64(1) << QString();
+        QTest::newRow("the largest") << kMost << kLeast << kMost << u"9223372036854775807"_s;
+        QTest::newRow("the smallest") << kLeast << kLeast << kMost << u"-9223372036854775808"_s;
+    }
+    void aNumberIsWrittenInsideItsRange()
+    {
+        QFETCH(qint64, value);
+        QFETCH(qint64, low);
+        QFETCH(qint64, high);
+        QFETCH(QString, text);
+        const QString written =
+            QXLaserPrintSetting::stringWithInteger_fromInteger_toInteger(value, low, high);
+        QCOMPARE(written, text);
+        QCOMPARE(written.isNull(), text.isNull());
+    }
+
+    void controlsTakeTheNearestValueThatFits()
+    {
+        QCOMPARE(controlValue(7), 7);
+        QCOMPARE(controlValue(std::numeric_limits<qint64>::max()), std::numeric_limits<int>::max());
+        QCOMPARE(controlValue(std::numeric_limits<qint64>::min()), std::numeric_limits<int>::min());
     }
 
     // Sleep time

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "panel/OptionKeywords.h"
+#include "platform/toolkit/PopUpButton.h"
 #include "tests/printsetting/PrintSettingProbe.h"
 #include "tests/support/Gestures.h"
 #include "tests/support/PpdBuilder.h"
@@ -69,6 +70,141 @@ private Q_SLOTS:
             m_panel->updateUIforKey(u"QXResolution"_s);
             QCOMPARE(m_panel->hasMode(kModeNoTonerSave), !allowed);
         }
+    }
+
+    void someMediaNeedTheBackCoverOpen_data()
+    {
+        QTest::addColumn<QString>("medium");
+        QTest::addColumn<bool>("open");
+        for (const char *medium : {"Env", "EnvThick", "EnvThin", "EnvOther", "Label", "PostCard"})
+            QTest::newRow(medium) << QString::fromLatin1(medium) << true;
+        for (const char *medium : {"Postcard", "Glossy", "Plain", "env", "NoEnv", "Labels", ""})
+            QTest::newRow(medium) << QString::fromLatin1(medium) << false;
+    }
+    void someMediaNeedTheBackCoverOpen()
+    {
+        QFETCH(QString, medium);
+        QFETCH(bool, open);
+        QCOMPARE(QXLaserPrintSetting::shouldOpenCoverPaperKind(medium), open);
+    }
+
+    void aResolutionThatAllowsNoTonerSaveDisablesItsBox_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<bool>("fax");
+        QTest::addColumn<bool>("usable");
+        QTest::newRow("600dpi") << u"600dpi"_s << false << true;
+        QTest::newRow("1200dpi") << u"1200dpi"_s << false << false;
+        QTest::newRow("2400x600dpi") << u"2400x600dpi"_s << false << false;
+        QTest::newRow("600dpi, to a fax") << u"600dpi"_s << true << false;
+    }
+    void aResolutionThatAllowsNoTonerSaveDisablesItsBox()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(bool, fax);
+        QFETCH(bool, usable);
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        m_host->mark(u"QXOutput"_s, fax ? u"FAX"_s : u"Printer"_s);
+        m_host->mark(u"QXResolution"_s, resolution);
+        m_panel->restoreValuesAndReturnError(nullptr);
+        QCOMPARE(m_panel->tonerSaveButton->isEnabled(), usable);
+        QCOMPARE(m_panel->mediaTypePopup->isEnabled(), !fax);
+        // Back again, in one pick.
+        m_host->mark(u"QXOutput"_s, u"Printer"_s);
+        m_panel->restoreValuesAndReturnError(nullptr);
+        QVERIFY(pick(m_panel->resolutionPopup, u"600 dpi"_s));
+        QVERIFY(m_panel->tonerSaveButton->isEnabled());
+    }
+
+    void theTonerRuleLeavesAFaxAlone()
+    {
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        m_panel->setMode(kModeFaxOutput, true);
+        m_panel->setMode(kModeNoTonerSave, true);
+        m_panel->checkUIConstraints();
+        QVERIFY(!m_panel->tonerSaveButton->isEnabled()); // by the common rule
+        m_panel->setMode(kModeFaxOutput, false);
+        m_panel->setMode(kModeNoTonerSave, false);
+        m_panel->checkUIConstraints();
+        QVERIFY(m_panel->tonerSaveButton->isEnabled());
+    }
+
+    // The items of a pop-up
+
+    void choicesAreDisabledAndReplaced_data()
+    {
+        QTest::addColumn<QString>("popUp");
+        QTest::addColumn<QString>("selected");
+        QTest::addColumn<QStringList>("choices");
+        QTest::addColumn<bool>("toDefault");
+        QTest::addColumn<QString>("result");
+        const QString media = u"mediaTypePopup"_s;
+        const QString source = u"paperFeedPopup"_s;
+        const QString resolution = u"resolutionPopup"_s;
+        QTest::newRow("another choice")
+            << media << u"Thick"_s << QStringList{u"Label"_s} << false << u"Thick"_s;
+        QTest::newRow("the selected one")
+            << media << u"Thick"_s << QStringList{u"Label"_s, u"Thick"_s} << false << u"Plain"_s;
+        QTest::newRow("to the default")
+            << media << u"Thick"_s << QStringList{} << true << u"Plain"_s;
+        QTest::newRow("the selected source")
+            << source << u"MPTray"_s << QStringList{u"MPTray"_s} << false << u"Tray1"_s;
+        QTest::newRow("a source to the default")
+            << source << u"MPTray"_s << QStringList{} << true << u"Tray1"_s;
+        QTest::newRow("a pop-up without a default")
+            << resolution << u"1200dpi"_s << QStringList{u"1200dpi"_s} << true << u"1200dpi"_s;
+        QTest::newRow("an unknown choice")
+            << media << u"Thick"_s << QStringList{u"Wood"_s} << false << u"Thick"_s;
+    }
+    void choicesAreDisabledAndReplaced()
+    {
+        QFETCH(QString, popUp);
+        QFETCH(QString, selected);
+        QFETCH(QStringList, choices);
+        QFETCH(bool, toDefault);
+        QFETCH(QString, result);
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        m_host->forgetCalls();
+        auto *control = m_panel->m_panelView->findChild<QComboBox *>(popUp);
+        const auto itemOf = [control](const QString &choice) {
+            return popup::indexOfItemWithRepresentedObject(control, choice);
+        };
+        popup::selectItemAt(control, itemOf(selected));
+        m_panel->changeState_forArray_toEnable_toDefault(control, choices, false, toDefault);
+        QCOMPARE(popup::representedObject(control, control->currentIndex()), QVariant(result));
+        for (int item = 0; item < control->count(); ++item) {
+            const QString choice = popup::representedObject(control, item).toString();
+            QCOMPARE(popup::isItemEnabled(control, item), !choices.contains(choice));
+        }
+        m_panel->changeState_forArray_toEnable_toDefault(control, choices, true, false);
+        for (int item = 0; item < control->count(); ++item)
+            QVERIFY(popup::isItemEnabled(control, item));
+        QVERIFY2(m_host->calls().isEmpty(), "nothing of this is the user's doing");
+    }
+
+    void aButtonNamesItsState_data()
+    {
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<bool>("on");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("on") << true << true << u"name_on"_s;
+        QTest::newRow("off") << true << false << u"name_off"_s;
+        QTest::newRow("on, disabled") << false << true << u"name_off"_s;
+        QTest::newRow("off, disabled") << false << false << u"name_off"_s;
+    }
+    void aButtonNamesItsState()
+    {
+        QFETCH(bool, enabled);
+        QFETCH(bool, on);
+        QFETCH(QString, result);
+        QCheckBox box;
+        box.setEnabled(enabled);
+        box.setChecked(on);
+        QCOMPARE(m_panel->addOnOffSuffix_ToString(&box, u"name"_s), result);
+        QCOMPARE(m_panel->addOnOffSuffix_ToString(nullptr, u"name"_s), u"name_off"_s);
     }
 
     void theSleepTimeIsManualForTwoKindsOfChoices_data()
@@ -200,8 +336,8 @@ private Q_SLOTS:
                                     << u"Mono"_s << u"canSelectColorMode"_s;
         QTest::newRow("paper source") << u"paperFeedPopup"_s << u"Tray 1"_s << u"QXInputSlot"_s
                                       << u"Tray1"_s << u"checkStateWithPaperFeed"_s;
-        QTest::newRow("media type") << u"mediaTypePopup"_s << u"Thick Paper"_s << u"QXMediaType"_s
-                                    << u"Thick"_s << QString();
+        QTest::newRow("media type")
+            << u"mediaTypePopup"_s << u"Thin Paper"_s << u"QXMediaType"_s << u"Thin"_s << QString();
     }
     void theRulesRunBeforeThePickAndItsOwnRuleAfter()
     {

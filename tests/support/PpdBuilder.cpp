@@ -52,6 +52,21 @@ PpdBuilder &PpdBuilder::customOfType(const QByteArray &keyword, const QByteArray
                 " 10 20");
 }
 
+PpdBuilder &PpdBuilder::customPageSize(int minimumWidth, int minimumHeight, int maximumWidth,
+                                       int maximumHeight)
+{
+    const auto range = [](int minimum, int maximum) {
+        return QByteArray::number(minimum) + ' ' + QByteArray::number(maximum);
+    };
+    line("*NonUIOrderDependency: 10 AnySetup *CustomPageSize");
+    line("*CustomPageSize True/Custom: \"pop pop pop\"");
+    line("*ParamCustomPageSize Width: 1 points " + range(minimumWidth, maximumWidth));
+    line("*ParamCustomPageSize Height: 2 points " + range(minimumHeight, maximumHeight));
+    line("*ParamCustomPageSize WidthOffset: 3 points 0 0");
+    line("*ParamCustomPageSize HeightOffset: 4 points 0 0");
+    return line("*ParamCustomPageSize Orientation: 5 int 0 0");
+}
+
 PpdBuilder &PpdBuilder::line(const QByteArray &line)
 {
     m_body += line + '\n';

@@ -31,6 +31,9 @@ public:
     /// Lets an option, added before, take a custom value of another type ("string", "real").
     PpdBuilder &customOfType(const QByteArray &keyword, const QByteArray &parameter,
                              const QByteArray &type);
+    /// Lets the printer take papers of any size in between. Units: points.
+    PpdBuilder &customPageSize(int minimumWidth, int minimumHeight, int maximumWidth,
+                               int maximumHeight);
     /// Any other line, for instance an attribute or a constraint.
     PpdBuilder &line(const QByteArray &line);
     /// The printer's driver can match colours itself.

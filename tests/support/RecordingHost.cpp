@@ -135,6 +135,8 @@ PMPrintSettings RecordingHost::printSettings()
 
 PMPageFormat RecordingHost::pageFormat()
 {
+    if (whenPageIsRead)
+        whenPageIsRead();
     return m_answersNoPageFormat ? nullptr : &m_page;
 }
 
@@ -142,6 +144,8 @@ bool RecordingHost::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword
                                                           const QString &choice)
 {
     note(QLatin1StringView(kWillChange), {keyword, choice});
+    if (whenAsked)
+        whenAsked();
     if (!accepts(keyword, choice))
         return false;
     mark(keyword, choice);

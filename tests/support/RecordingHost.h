@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <set>
 
@@ -67,6 +68,10 @@ public:
     /// Answers null for its print settings although it implements the operation.
     void answerNoPrintSettings(bool none = true) { m_answersNoPrintSettings = none; }
     void answerNoPageFormat(bool none = true) { m_answersNoPageFormat = none; }
+    /// Run by willChangePPDOptionKeyValue_ppdChoice() before it answers, and by pageFormat(): what
+    /// it throws reaches the panel.
+    std::function<void()> whenAsked;
+    std::function<void()> whenPageIsRead;
 
     // The job
 

@@ -7,12 +7,15 @@ namespace corvana::test {
 AlertAnswer ScriptedAlertPresenter::runModal(const Alert &alert, QWidget *parent)
 {
     m_shown += ShownAlert{alert, parent};
-    if (m_script.isEmpty()) {
+    const bool expected = !m_script.isEmpty();
+    const AlertAnswer answer = expected ? m_script.takeFirst() : AlertAnswer();
+    if (whenShown)
+        whenShown(alert);
+    if (!expected) {
         QTest::qVerify(false, "the alert was expected", qUtf8Printable(alert.messageText), __FILE__,
                        __LINE__);
-        return {};
     }
-    return m_script.takeFirst();
+    return answer;
 }
 
 } // namespace corvana::test

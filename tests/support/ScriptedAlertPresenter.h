@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QList>
 #include <QPointer>
 #include <QWidget>
@@ -27,6 +29,9 @@ public:
 
     /// Every alert shown, expected or not, in order.
     const QList<ShownAlert> &shown() const { return m_shown; }
+
+    /// Run when an alert is shown, before it is answered: what a person could see and do then.
+    std::function<void(const Alert &)> whenShown;
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override;
 

@@ -36,6 +36,26 @@ TestBundle TestBundle::built()
     return bundle;
 }
 
+TestBundle TestBundle::copied()
+{
+    TestBundle bundle(std::make_unique<QTemporaryDir>());
+    const QDir source(QStringLiteral(CORVANA_TEST_BUNDLE_DIR));
+    const QDir target(bundle.m_folder->path());
+    for (const char *folder : {"interface", "strings", "pictures"}) {
+        target.mkdir(QString::fromLatin1(folder));
+        const QDir files(source.filePath(QString::fromLatin1(folder)));
+        for (const QString &file : files.entryList(QDir::Files)) {
+            const QString copy = target.filePath(QString::fromLatin1(folder) + u'/' + file);
+            QFile::copy(files.filePath(file), copy);
+            QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+        }
+    }
+    QFile::copy(source.filePath(QStringLiteral("info.json")),
+                target.filePath(QStringLiteral("info.json")));
+    bundle.open(bundle.m_folder->path());
+    return bundle;
+}
+
 TestBundle::TestBundle(Information information, const QJsonObject &furtherInformation)
     : TestBundle(std::make_unique<QTemporaryDir>())
 {
@@ -88,12 +108,37 @@ void TestBundle::setTexts(const QMap<QString, QString> &textsByKey)
                 .arg(text.key().toHtmlEscaped(), text.value().toHtmlEscaped());
     }
     table += QStringLiteral("</context></TS>");
+    static QHash<QString, QByteArray> compiled; // starting the compiler is slow
+    if (compiled.contains(table))
+        return write(QStringLiteral("strings/English.qm"), compiled.value(table));
     write(QStringLiteral("strings/English.ts"), table.toUtf8());
     const QString source = m_folder->filePath(QStringLiteral("strings/English.ts"));
     const QString target = m_folder->filePath(QStringLiteral("strings/English.qm"));
     if (QProcess::execute(QStringLiteral(CORVANA_TEST_LRELEASE),
                           {QStringLiteral("-silent"), source, QStringLiteral("-qm"), target}) != 0)
         throw std::runtime_error(source.toStdString() + " is no string table");
+    QFile result(target);
+    if (result.open(QIODevice::ReadOnly))
+        compiled.insert(table, result.readAll());
+}
+
+void TestBundle::remove(const QString &file)
+{
+    if (!m_folder || !QFile::remove(m_folder->filePath(file)))
+        throw std::runtime_error(file.toStdString() + " could not be removed");
+}
+
+void TestBundle::edit(const QString &name, const QByteArray &before, const QByteArray &after)
+{
+    QFile file(m_folder ? m_folder->filePath(name) : QString());
+    QByteArray content;
+    if (file.open(QIODevice::ReadOnly))
+        content = file.readAll();
+    if (content.count(before) != 1)
+        throw std::runtime_error(name.toStdString() + " is not as it was expected");
+    write(name, content.replace(before, after));
+    if (name == u"info.json")
+        open(m_folder->path()); // it was read already
 }
 
 void TestBundle::open(const QString &path)
@@ -111,6 +156,23 @@ void TestBundle::write(const QString &name, const QByteArray &content)
     QFile file(m_folder->filePath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         throw std::runtime_error(file.fileName().toStdString() + " could not be written");
+}
+
+UserPreferences::UserPreferences() : m_former(qgetenv("XDG_CONFIG_HOME"))
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.path()));
+}
+
+UserPreferences::~UserPreferences()
+{
+    qputenv("XDG_CONFIG_HOME", m_former);
+}
+
+void UserPreferences::makeUnwritable()
+{
+    QFile file(m_folder.filePath(QStringLiteral("corvana-print")));
+    if (!file.open(QIODevice::WriteOnly))
+        throw std::runtime_error(file.fileName().toStdString() + " is in use already");
 }
 
 UserLanguage::UserLanguage(const QString &name)

@@ -105,7 +105,7 @@ private Q_SLOTS:
         QFETCH(QString, taken);
         const CustomValueCheck check = checkCustomValue(m_sample->ppd(), u"PageSize"_s, value);
         QCOMPARE(check.value.value_or(QString()), taken);
-        QCOMPARE(check.allowed, u"Custom.WIDTHxHEIGHTmm from 76.2x127mm to 215.9x355.6mm"_s);
+        QCOMPARE(check.allowed, u"Custom.WIDTHxHEIGHTmm, 76.2x127mm … 215.9x355.6mm"_s);
         QCOMPARE(allowedCustomValues(m_sample->ppd(), u"PageSize"_s), check.allowed);
     }
 
@@ -205,11 +205,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("keyword");
         QTest::addColumn<QString>("allowed");
-        QTest::newRow("int") << u"Sleep"_s << u"Custom.1 to Custom.99"_s;
-        QTest::newRow("negative int") << u"Density"_s << u"Custom.-6 to Custom.6"_s;
-        QTest::newRow("large int") << u"Big"_s << u"Custom.0 to Custom.2147483647"_s;
-        QTest::newRow("real") << u"Zoom"_s << u"Custom.10 to Custom.20"_s;
-        QTest::newRow("curve") << u"Gamma"_s << u"Custom.10 to Custom.20"_s;
+        QTest::newRow("int") << u"Sleep"_s << u"Custom.1 … Custom.99"_s;
+        QTest::newRow("negative int") << u"Density"_s << u"Custom.-6 … Custom.6"_s;
+        QTest::newRow("large int") << u"Big"_s << u"Custom.0 … Custom.2147483647"_s;
+        QTest::newRow("real") << u"Zoom"_s << u"Custom.10 … Custom.20"_s;
+        QTest::newRow("curve") << u"Gamma"_s << u"Custom.10 … Custom.20"_s;
         QTest::newRow("string") << u"Mark"_s << u"Custom.TEXT"_s;
         QTest::newRow("several parameters") << u"Pair"_s << QString();
         QTest::newRow("choices only") << u"Plain"_s << QString();

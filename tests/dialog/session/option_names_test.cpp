@@ -150,12 +150,12 @@ private Q_SLOTS:
         row("empty choice", u"Duplex="_s, {u"None, DuplexNoTumble, DuplexTumble"_s});
         row("custom value of an option without any", u"Duplex=Custom.1"_s,
             {u"None, DuplexNoTumble, DuplexTumble"_s});
-        row("the bare word Custom", u"QXSleepTime=Custom"_s, {u"Default, Custom.1 to Custom.99"_s},
+        row("the bare word Custom", u"QXSleepTime=Custom"_s, {u"Default, Custom.1 … Custom.99"_s},
             {u"Custom,"_s});
         row("custom value out of range", u"QXSleepTime=Custom.100"_s,
-            {u"Default, Custom.1 to Custom.99"_s});
+            {u"Default, Custom.1 … Custom.99"_s});
         row("custom page size out of range", u"PageSize=Custom.1x1mm"_s,
-            {u"A4"_s, u"Custom.WIDTHxHEIGHTmm from 76.2x127mm to 215.9x355.6mm"_s});
+            {u"A4"_s, u"Custom.WIDTHxHEIGHTmm, 76.2x127mm … 215.9x355.6mm"_s});
         row("media nobody knows", u"media=Papyrus"_s, {u"A4"_s, u"EnvDL"_s, u"Custom.WIDTH"_s});
         row("media the printer lacks", u"media=iso_a3_297x420mm"_s, {u"A4"_s, u"EnvDL"_s});
         row("media without a size", u"media=Custom"_s, {u"A4"_s, u"Custom.WIDTH"_s});

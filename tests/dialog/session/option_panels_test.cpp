@@ -146,12 +146,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("option");
         QTest::addColumn<QString>("range");
-        QTest::newRow("no sleep") << u"QXSleepTime=Custom.0"_s << u"Custom.1 to Custom.99"_s;
-        QTest::newRow("long sleep") << u"QXSleepTime=Custom.100"_s << u"Custom.1 to Custom.99"_s;
-        QTest::newRow("too light") << u"QXDensityAdjustment=-7"_s << u"-6 to 6"_s;
-        QTest::newRow("too dark") << u"QXDensityAdjustment=7"_s << u"-6 to 6"_s;
-        QTest::newRow("too bright") << u"QXBrightness=21"_s << u"-20 to 20"_s;
-        QTest::newRow("no number") << u"QXBrightness=x"_s << u"-20 to 20"_s;
+        QTest::newRow("no sleep") << u"QXSleepTime=Custom.0"_s << u"Custom.1 … Custom.99"_s;
+        QTest::newRow("long sleep") << u"QXSleepTime=Custom.100"_s << u"Custom.1 … Custom.99"_s;
+        QTest::newRow("too light") << u"QXDensityAdjustment=-7"_s << u"-6 … 6"_s;
+        QTest::newRow("too dark") << u"QXDensityAdjustment=7"_s << u"-6 … 6"_s;
+        QTest::newRow("too bright") << u"QXBrightness=21"_s << u"-20 … 20"_s;
+        QTest::newRow("no number") << u"QXBrightness=x"_s << u"-20 … 20"_s;
     }
     void panelOwnedValuesOutOfRangeNameTheRange()
     {

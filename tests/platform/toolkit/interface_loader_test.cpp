@@ -6,7 +6,10 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStackedWidget>
+#include <QTableView>
 
+#include "platform/toolkit/FrameLayout.h"
 #include "platform/toolkit/InterfaceLoader.h"
 #include "platform/toolkit/RadioMatrix.h"
 
@@ -34,11 +37,17 @@ private Q_SLOTS:
     void theWheelOverAnUnfocusedControlDoesNothing();
     void theLibraryPathsAreKept();
     void twoViewsOfOneFileAreIndependent();
+    void tableAndPagesShareTheirRows();
+    void aFieldHasItsDelegate();
+    void companionsWorkTogether();
+    void aViewIsLaidOutByFramesWhereItSaysSo();
+    void aClassOfTheOwnersIsMadeByTheOwner();
     void theShippedInterfacesLoad_data();
     void theShippedInterfacesLoad();
 
 private:
     InterfaceConnections owner();
+    LoadedInterface loadControls(const QByteArray &controls);
 
     QString m_file;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -49,6 +58,7 @@ private:
     QPointer<QWidget> m_anyWidget;
     QPointer<BindingDictionary> m_dictionary;
     QList<QWidget *> m_fired;
+    InterfaceConnections m_owner;
 };
 
 namespace {
@@ -113,6 +123,7 @@ void InterfaceLoaderTest::init()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(kInterface);
     m_fired.clear();
+    m_owner = {};
 }
 
 InterfaceConnections InterfaceLoaderTest::owner()
@@ -272,6 +283,118 @@ void InterfaceLoaderTest::twoViewsOfOneFileAreIndependent()
     QCOMPARE(m_slider->value(), 3);
 }
 
+LoadedInterface InterfaceLoaderTest::loadControls(const QByteArray &controls)
+{
+    QFile file(m_file);
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"panelView\">" + controls +
+               "</widget></ui>");
+    file.close();
+    return loadInterface(m_file, m_owner);
+}
+
+void InterfaceLoaderTest::tableAndPagesShareTheirRows()
+{
+    QPointer<ArrayController> rows;
+    m_owner.arrayController(QStringLiteral("rows"), rows);
+    const QByteArray property =
+        "<property name=\"arrayController\" stdset=\"0\"><string>rows</string></property>";
+    const LoadedInterface loaded = loadControls(
+        "<widget class=\"QTableView\" name=\"table\">" + property +
+        "</widget><widget class=\"QStackedWidget\" name=\"pages\">" + property +
+        "<widget class=\"QWidget\" name=\"a\"/><widget class=\"QWidget\" name=\"b\"/></widget>");
+    QVERIFY(loaded.view);
+    QVERIFY(rows);
+    rows->addObject({{QStringLiteral("id"), QStringLiteral("a")}});
+    rows->addObject({{QStringLiteral("id"), QStringLiteral("b")}});
+    auto *table = loaded.view->findChild<QTableView *>();
+    auto *pages = loaded.view->findChild<QStackedWidget *>();
+    table->setCurrentIndex(rows->index(0));
+    QCOMPARE(pages->currentWidget()->objectName(), QStringLiteral("a"));
+    table->setCurrentIndex(rows->index(1));
+    QCOMPARE(pages->currentWidget()->objectName(), QStringLiteral("b"));
+    QCOMPARE(rows->parent(), loaded.view.get());
+}
+
+void InterfaceLoaderTest::aFieldHasItsDelegate()
+{
+    int told = 0;
+    m_owner.textFieldDelegate(QStringLiteral("panel"),
+                              {[&told](const Notification &) { ++told; },
+                               [](QWidget *, const QString &) { return true; }});
+    const LoadedInterface loaded = loadControls(
+        "<widget class=\"QLineEdit\" name=\"field\"><property name=\"text\"><string>5</string>"
+        "</property><property name=\"delegate\" stdset=\"0\"><string>panel</string></property>"
+        "</widget>");
+    QVERIFY(loaded.view);
+    QCOMPARE(told, 0);
+    QTest::keyClicks(loaded.view->findChild<QLineEdit *>(), QStringLiteral("7"));
+    QCOMPARE(told, 1);
+}
+
+void InterfaceLoaderTest::companionsWorkTogether()
+{
+    m_owner.bindingDictionary(m_dictionary);
+    const auto companion = [](const QByteArray &name) {
+        return "<property name=\"companion\" stdset=\"0\"><string>" + name + "</string></property>";
+    };
+    const QByteArray bound =
+        "<property name=\"bindValue\" stdset=\"0\"><string>density</string></property>";
+    const LoadedInterface loaded = loadControls(
+        "<widget class=\"DisclosureButton\" name=\"more\">" + companion("heading") +
+        "</widget><widget class=\"QLabel\" name=\"heading\"/>"
+        "<widget class=\"QLineEdit\" name=\"number\">" +
+        companion("slider") + bound +
+        "</widget><widget class=\"QSlider\" name=\"slider\"><property name=\"maximum\"><number>6"
+        "</number></property>" +
+        bound + "</widget><widget class=\"Stepper\" name=\"stepper\">" + companion("minutes") +
+        "</widget><widget class=\"QLineEdit\" name=\"minutes\"/>");
+    QVERIFY2(loaded.view, qPrintable(loaded.problems.join(u'\n')));
+    const auto named = [&loaded](const char *name) {
+        return loaded.view->findChild<QWidget *>(QString::fromLatin1(name));
+    };
+    QCOMPARE(qobject_cast<QLabel *>(named("heading"))->buddy(), named("more"));
+    QVERIFY(user::show(loaded.view.get()));
+    auto *number = qobject_cast<QLineEdit *>(named("number"));
+    number->setText(QStringLiteral("99"));
+    QTest::keyClick(number, Qt::Key_Return);
+    QCOMPARE(number->text(), QStringLiteral("6"));
+    QCOMPARE(qobject_cast<QSlider *>(named("slider"))->value(), 6);
+    QCOMPARE(m_dictionary->value(QStringLiteral("density")), QVariant(qint64(6)));
+    auto *stepper = qobject_cast<QAbstractSlider *>(named("stepper"));
+    named("minutes")->setFocus();
+    QTest::keyClick(named("minutes"), Qt::Key_Up);
+    QCOMPARE(stepper->value(), 1);
+}
+
+void InterfaceLoaderTest::aViewIsLaidOutByFramesWhereItSaysSo()
+{
+    const QByteArray controls =
+        "<widget class=\"QWidget\" name=\"part\"><property name=\"geometry\"><rect><x>10</x>"
+        "<y>20</y><width>30</width><height>40</height></rect></property></widget>";
+    QVERIFY(!loadControls(controls).view->layout());
+    const LoadedInterface loaded = loadControls(
+        "<property name=\"layoutByFrames\" stdset=\"0\"><bool>true</bool></property>" + controls);
+    QVERIFY(loaded.view);
+    const auto *layout = qobject_cast<const FrameLayout *>(loaded.view->layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->frame(loaded.view->findChild<QWidget *>()), QRectF(10, 20, 30, 40));
+}
+
+void InterfaceLoaderTest::aClassOfTheOwnersIsMadeByTheOwner()
+{
+    QWidget *made = nullptr;
+    m_owner.controlClass(QStringLiteral("Knob"), [&made](QWidget *parent) {
+        made = new QSlider(parent);
+        return made;
+    });
+    const LoadedInterface loaded = loadControls("<widget class=\"Knob\" name=\"knob\"/>");
+    QVERIFY(loaded.view);
+    QVERIFY(made);
+    QCOMPARE(loaded.view->findChild<QWidget *>(QStringLiteral("knob")), made);
+}
+
 void InterfaceLoaderTest::theShippedInterfacesLoad_data()
 {
     QTest::addColumn<QString>("name");
@@ -291,6 +414,11 @@ void InterfaceLoaderTest::theShippedInterfacesLoad()
     QRegularExpression action(QStringLiteral("name=\"action\"[^>]*>\\s*<string[^>]*>([^<]+)<"));
     for (auto match = action.globalMatch(text); match.hasNext();)
         connections.action(match.next().captured(1), [](QWidget *) {});
+    connections.controlClass(QStringLiteral("ExtraAccessoryView"),
+                             [](QWidget *parent) { return new QWidget(parent); });
+    connections.textFieldDelegate(QStringLiteral("panel"), {});
+    QPointer<ArrayController> rows;
+    connections.arrayController(QStringLiteral("arrayController"), rows);
     const LoadedInterface loaded = loadInterface(file, connections);
     QVERIFY2(loaded.view, qPrintable(loaded.problems.join(u'\n')));
 }

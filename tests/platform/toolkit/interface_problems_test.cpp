@@ -29,6 +29,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_file;
     InterfaceConnections m_owner;
+    QPointer<ArrayController> m_rows;
 };
 
 namespace {
@@ -56,6 +57,8 @@ void InterfaceProblemsTest::init()
     m_file = m_folder->filePath(QStringLiteral("Test.ui"));
     m_owner = {};
     m_owner.action(QStringLiteral("requestNewOutputBin"), [](QWidget *) {});
+    m_owner.textFieldDelegate(QStringLiteral("panel"), {});
+    m_owner.arrayController(QStringLiteral("rows"), m_rows);
     takeInterfaceProblems();
 }
 
@@ -120,6 +123,35 @@ void InterfaceProblemsTest::aFileThatCannotBeUsedLoadsNoView_data()
         form("<widget class=\"QLabel\" name=\"label\">\n" +
              stringProperty("action", "requestNewOutputBin") + "</widget>"),
         "Test.ui:6:", "\"label\"");
+    row("unknown delegate",
+        form("<widget class=\"QLineEdit\" name=\"field\">\n" +
+             stringProperty("delegate", "nobody") + "</widget>"),
+        "Test.ui:6:", "\"nobody\"");
+    row("delegate of a label",
+        form("<widget class=\"QLabel\" name=\"label\">\n" + stringProperty("delegate", "panel") +
+             "</widget>"),
+        "Test.ui:6:", "\"label\"");
+    row("unknown array controller",
+        form("<widget class=\"QTableView\" name=\"table\">\n" +
+             stringProperty("arrayController", "nothing") + "</widget>"),
+        "Test.ui:6:", "\"nothing\"");
+    row("array controller of a label",
+        form("<widget class=\"QLabel\" name=\"label\">\n" +
+             stringProperty("arrayController", "rows") + "</widget>"),
+        "Test.ui:6:", "\"label\"");
+    row("companion that does not exist",
+        form("<widget class=\"Stepper\" name=\"stepper\">\n" +
+             stringProperty("companion", "field") + "</widget>"),
+        "Test.ui:6:", "\"field\"");
+    row("companion of another kind",
+        form("<widget class=\"Stepper\" name=\"stepper\">\n" +
+             stringProperty("companion", "label") +
+             "</widget><widget class=\"QLabel\" name=\"label\"/>"),
+        "Test.ui:6:", "\"stepper\"");
+    row("companion of a control that works alone",
+        form("<widget class=\"QCheckBox\" name=\"box\">\n" + stringProperty("companion", "field") +
+             "</widget><widget class=\"QLineEdit\" name=\"field\"/>"),
+        "Test.ui:6:", "\"box\"");
     row("value of a pop-up",
         form("<widget class=\"QComboBox\" name=\"popUp\">\n" +
              stringProperty("bindValue", "density") + "</widget>"),

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void anItemWithoutARepresentedObjectHasNone();
     void selectingWhatDoesNotExistSelectsNothing();
     void anImageDoesNotChangeTheItem();
+    void anItemCanBeDisabled();
+    void aDisabledItemIsPassedOver();
+    void anItemThatDoesNotExistIsNotEnabled();
     void nothingHereFiresAnAction();
 
 private:
@@ -211,6 +214,38 @@ void PopUpButtonTest::anImageDoesNotChangeTheItem()
     QCOMPARE(m_popUp->itemText(1), QStringLiteral("Thick"));
     QCOMPARE(popup::representedObject(m_popUp.get(), 1), QVariant(QStringLiteral("THICK")));
     QCOMPARE(m_popUp->currentIndex(), -1);
+}
+
+void PopUpButtonTest::anItemCanBeDisabled()
+{
+    popup::selectItemAt(m_popUp.get(), 1);
+    popup::setItemEnabled(m_popUp.get(), 1, false);
+    QVERIFY(popup::isItemEnabled(m_popUp.get(), 0));
+    QVERIFY(!popup::isItemEnabled(m_popUp.get(), 1));
+    QCOMPARE(m_popUp->currentIndex(), 1); // what to do then is the caller's
+    popup::setItemEnabled(m_popUp.get(), 1, true);
+    QVERIFY(popup::isItemEnabled(m_popUp.get(), 1));
+    // An item that takes the title of a disabled one can be picked.
+    popup::setItemEnabled(m_popUp.get(), 1, false);
+    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Thick"));
+    QVERIFY(popup::isItemEnabled(m_popUp.get(), 2));
+}
+
+void PopUpButtonTest::aDisabledItemIsPassedOver()
+{
+    popup::selectItemAt(m_popUp.get(), 0);
+    popup::setItemEnabled(m_popUp.get(), 1, false);
+    QTest::keyClick(m_popUp.get(), Qt::Key_Down);
+    QCOMPARE(m_popUp->currentIndex(), 2);
+}
+
+void PopUpButtonTest::anItemThatDoesNotExistIsNotEnabled()
+{
+    for (const int index : {-1, 3, 1000}) {
+        popup::setItemEnabled(m_popUp.get(), index, true);
+        QVERIFY(!popup::isItemEnabled(m_popUp.get(), index));
+    }
+    QCOMPARE(m_popUp->count(), 3);
 }
 
 void PopUpButtonTest::nothingHereFiresAnAction()
