@@ -43,6 +43,7 @@ void QXLaserColorSettingPDE::restoreEffectValues()
     if (!PPDEffectKeys)
         setEffectDefaults();
     const std::optional<QVariantList> values = usableEffectSet(stored);
+    m_effectsRestored = true;
     for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
         const QVariant value =
             values ? values->at(static_cast<qsizetype>(i)) : QVariant(QString::number(0));

@@ -149,8 +149,13 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
     connections.outlet(QStringLiteral("greenSlider"), greenSlider);
     connections.outlet(QStringLiteral("blueSlider"), blueSlider);
     connections.outlet(QStringLiteral("saturationSlider"), saturationSlider);
-    connections.action(QStringLiteral("effectValueDidChange"),
-                       [this](QWidget *sender) { effectValueDidChange(sender); });
+    connections.action(QStringLiteral("effectValueDidChange"), [this](QWidget *sender) {
+        // The sliders may have been moved since the last report: what a user
+        // reports now is no duplicate of it.
+        if (std::exchange(m_effectsRestored, false))
+            EffectVal() = {-1, 0};
+        effectValueDidChange(sender);
+    });
     connections.action(QStringLiteral("revertEffectDialog"), [this](QWidget *sender) {
         revertEffectDialog(sender);
         updateUI(); // reverting leaves the effects disabled until the controls are updated
@@ -202,10 +207,19 @@ void QXLaserColorSettingPDE::titleEffectLabel(QLatin1StringView keyword)
         return;
     const ppd_option_t *option = ppdOption(ppd, keyword);
     const QString text = option ? ppdText(option->text).value_or(QString()) : localized(keyword);
-    if (!text.isNull())
-        label->setText(text);
-    if (QLineEdit *field = determineField(keyword))
-        field->setAccessibleName(label->text());
+    QLineEdit *field = determineField(keyword);
+    if (!text.isNull()) {
+        // Of a label that leads to a control Qt takes this sign for a key to press.
+        label->setText(label->buddy() ? QString(text).replace(u'&', QStringLiteral("&&")) : text);
+        if (field)
+            field->setAccessibleName(text);
+    }
+    // The preview must not promise what the job cannot carry.
+    for (QWidget *widget : {static_cast<QWidget *>(label), static_cast<QWidget *>(field),
+                            static_cast<QWidget *>(determineSlider(keyword))}) {
+        if (widget)
+            widget->setVisible(option != nullptr);
+    }
 }
 
 void QXLaserColorSettingPDE::toggleShowOption(QWidget *button)

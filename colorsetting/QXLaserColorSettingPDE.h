@@ -126,7 +126,7 @@ protected:
     QPointer<QCheckBox> enhancedBlackCheckBox;
     QPointer<QCheckBox> grayCheckBox;
 
-    /// Whether the effect keywords have their first values.
+    /// The six effect keywords; nothing until they have their first values.
     std::optional<QStringList> PPDEffectKeys;
     /// Created with the first values; each keeps its parameters from one use to the next.
     std::unique_ptr<ImageFilter> ccFilter;
@@ -143,6 +143,7 @@ private:
     void showEffectDisabled(QLatin1StringView keyword);
     void keepBlackPlainWithGray();
 
+    bool m_effectsRestored = false; // since a user moved one of them
     FilterImage m_refImage;
     QString m_refImageFile;                            // empty: the image was given without a file
     mutable QHash<QString, FilterImage> m_refPictures; // by file, those looked at so far

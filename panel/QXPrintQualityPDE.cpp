@@ -89,8 +89,11 @@ void QXPrintQualityPDE::connectInterface(InterfaceConnections &connections)
     connections.outlet(QStringLiteral("optionButton"), optionButton);
     connections.action(QStringLiteral("requestNewOutputBin"),
                        [this](QWidget *control) { requestNewOutputBin(control); });
-    connections.action(QStringLiteral("toggleShowOption"),
-                       [this](QWidget *button) { toggleShowOption(button); });
+    connections.action(QStringLiteral("toggleShowOption"), [this](QWidget *button) {
+        toggleShowOption(button);
+        // A host restores a panel that comes back, and would close it again.
+        saveOptionState();
+    });
     connections.action(QStringLiteral("showHelpFile"),
                        [this](QWidget *sender) { showHelpFile(sender); });
 }

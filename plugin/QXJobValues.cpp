@@ -193,8 +193,11 @@ QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
             continue;
         const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
         const ppd_choice_t *choice = i < inForce ? choiceOfNumber(option, value) : nullptr;
-        options +=
-            JobOption{kEffectKeywords[i], ppdKeyword(choice ? choice->choice : option->defchoice)};
+        // A value without a choice is named all the same, so that the host can refuse it.
+        QString shown = ppdKeyword(option->defchoice);
+        if (i < inForce)
+            shown = choice ? ppdKeyword(choice->choice) : QString::number(value);
+        options += JobOption{kEffectKeywords[i], shown};
     }
     return options;
 }

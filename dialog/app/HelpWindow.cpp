@@ -32,6 +32,7 @@ HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), m_browser(new QTextBr
 void HelpWindow::open(const HelpPage &page)
 {
     setWindowTitle(page.title);
+    m_book = QFileInfo(page.file).canonicalPath();
     QUrl url = QUrl::fromLocalFile(page.file);
     url.setFragment(page.anchor);
     m_browser->setSource(url);
@@ -41,11 +42,12 @@ void HelpWindow::open(const HelpPage &page)
     m_browser->setFocus();
 }
 
-// Help never leaves the help books, and a link that leads nowhere leaves the page as it is.
+// Help never leaves its book, and a link that leads nowhere leaves the page as it is.
 void HelpWindow::follow(const QUrl &link)
 {
     const QUrl target = m_browser->source().resolved(link);
-    if (target.isLocalFile() && QFileInfo(target.toLocalFile()).isFile())
+    const QFileInfo page(target.toLocalFile());
+    if (target.isLocalFile() && page.isFile() && page.canonicalFilePath().startsWith(m_book + u'/'))
         m_browser->setSource(target);
 }
 

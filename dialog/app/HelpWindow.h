@@ -23,6 +23,7 @@ private:
     void follow(const QUrl &link);
 
     QTextBrowser *m_browser;
+    QString m_book; // the folder of the page that was opened
 };
 
 } // namespace corvana

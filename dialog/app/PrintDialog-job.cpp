@@ -51,6 +51,8 @@ void PrintDialog::accept()
     // Print may be pressed before the first paint, by an Enter that was typed ahead.
     if (!m_printable || m_job || !bringUpPanels())
         return;
+    // A key of the button leaves the focus where it is, and what was typed there untaken.
+    m_print->setFocus(Qt::OtherFocusReason);
     const QString output = QDir::fromNativeSeparators(m_output->text());
     if (output.isEmpty()) {
         m_message->showMessage(MessageBar::Kind::Problem, tr("Name the file to print to."));

@@ -349,7 +349,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
             jobValues->takeJobOption(option, session.printSettings(), session.ppd());
         expected += claim.standsFor;
     }
-    outcome.problems = markImplied(session, jobValues);
+    outcome.problems += markImplied(session, jobValues);
     panels.deliverPending();
     panels.restoreAll();
 

@@ -1,7 +1,6 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
 #include <QStandardPaths>
@@ -13,33 +12,44 @@ Q_LOGGING_CATEGORY(lcDefaults, "corvana.foundation.defaults", QtWarningMsg)
 
 namespace {
 
-// What a file holds now; nothing when it cannot be read. QSettings keeps files by name as long as
-// the process lives: one that was damaged reads as empty the second time, and changes that could
-// not be written pass for written. A copy has a name of its own.
-std::optional<QVariantMap> readAnew(const QString &name)
+enum class State {
+    Read,
+    Damaged,    // nobody can make sense of it
+    Unreadable, // it may be sound: no permission, no room for a copy
+};
+struct Reading
+{
+    State state;
+    QVariantMap domain;
+};
+
+// What a file holds now. QSettings keeps files by name as long as the process lives: one that was
+// damaged reads as empty the second time, and changes that could not be written pass for written.
+// A copy has a name of its own.
+Reading readAnew(const QString &name)
 {
     QFile file(name);
+    if (!file.exists())
+        return {State::Read, {}};
     QTemporaryFile copy;
     if (!file.open(QIODevice::ReadOnly) || !copy.open())
-        return std::nullopt;
+        return {State::Unreadable, {}};
     const QByteArray content = file.readAll();
     if (copy.write(content) != content.size() || !copy.flush())
-        return std::nullopt;
+        return {State::Unreadable, {}};
     const QSettings settings(copy.fileName(), QSettings::IniFormat);
     if (settings.status() != QSettings::NoError)
-        return std::nullopt;
-    QVariantMap domain;
+        return {State::Damaged, {}};
+    Reading reading{State::Read, {}};
     const QStringList keys = settings.allKeys();
     for (const QString &key : keys)
-        domain.insert(key, settings.value(key));
-    return domain;
+        reading.domain.insert(key, settings.value(key));
+    return reading;
 }
 
-// What cannot be read is about to be replaced; whoever can mend it finds it beside the new file.
+// What is damaged is about to be replaced; whoever can mend it finds it beside the new file.
 void keepDamagedFile(const QString &file)
 {
-    if (!QFileInfo::exists(file) || readAnew(file))
-        return;
     const QString kept = file + QStringLiteral(".damaged");
     QFile::remove(kept);
     if (QFile::rename(file, kept))
@@ -67,12 +77,11 @@ std::optional<QVariantMap> UserDefaults::persistentDomainForName(const QString &
     const QString file = fileOfDomain(name);
     if (file.isNull())
         return std::nullopt;
-    if (!QFileInfo::exists(file))
-        return QVariantMap();
-    std::optional<QVariantMap> domain = readAnew(file);
-    if (!domain)
-        qCWarning(lcDefaults) << file << "cannot be read";
-    return domain;
+    const Reading reading = readAnew(file);
+    if (reading.state == State::Read)
+        return reading.domain;
+    qCWarning(lcDefaults) << file << "cannot be read";
+    return std::nullopt;
 }
 
 bool UserDefaults::setPersistentDomain_forName(const QVariantMap &domain, const QString &name)
@@ -80,7 +89,16 @@ bool UserDefaults::setPersistentDomain_forName(const QVariantMap &domain, const 
     const QString file = fileOfDomain(name);
     if (file.isNull())
         return false;
-    keepDamagedFile(file);
+    switch (readAnew(file).state) {
+    case State::Read:
+        break;
+    case State::Damaged:
+        keepDamagedFile(file);
+        break;
+    case State::Unreadable: // what was not read must not be replaced
+        qCWarning(lcDefaults) << file << "cannot be read and is not written";
+        return false;
+    }
     QSettings settings(file, QSettings::IniFormat);
     settings.clear();
     for (auto entry = domain.cbegin(); entry != domain.cend(); ++entry)

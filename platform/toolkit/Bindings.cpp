@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QWidget>
 
 #include "platform/foundation/ValueTransformer.h"
@@ -76,24 +77,23 @@ void bindSlider(QAbstractSlider *slider, BindingDictionary *dictionary, const QS
                      [=](int value) { writeBack(dictionary, key, qint64(value)); });
 }
 
-// The whole number that a user wrote, in the digits and with the minus sign of any script; nothing
-// for a text that is none.
+// The number that a user wrote, in the digits and with the signs of any script, without its
+// fraction; nothing for a text that is none.
 std::optional<qint64> writtenNumber(const QString &text)
 {
-    constexpr QChar kMinusSigns[] = {u'-', u'\u2212', u'\uff0d'};
-    constexpr QChar kPlusSigns[] = {u'+', u'\uff0b'};
-    QString plain;
-    for (const QChar c : text.trimmed()) {
-        if (c.isDigit())
-            plain += QString::number(c.digitValue());
-        else if (plain.isEmpty() && std::count(std::begin(kMinusSigns), std::end(kMinusSigns), c))
-            plain += u'-';
-        else if (!plain.isEmpty() || !std::count(std::begin(kPlusSigns), std::end(kPlusSigns), c))
-            return std::nullopt;
-    }
-    bool valid = false;
-    const qint64 number = plain.toLongLong(&valid);
-    return valid ? std::optional(number) : std::nullopt;
+    static const QRegularExpression form(
+        QStringLiteral("^\\s*([-+\\x{2212}\\x{ff0d}\\x{ff0b}]?)(\\d+)(?:[.,\\x{ff0e}]\\d*)?\\s*$"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const QString sign = match.captured(1);
+    const bool negative = !sign.isEmpty() && sign != u'+' && sign != u'\uff0b';
+    QString plain = negative ? QStringLiteral("-") : QString();
+    const QString digits = match.captured(2);
+    for (const QChar digit : digits)
+        plain += QString::number(digit.digitValue());
+    return integerValue(plain);
 }
 
 // A field is enabled and disabled with the slider that it belongs to.

@@ -20,10 +20,9 @@ class BindingDictionary;
 CORVANA_PLATFORM_EXPORT bool bindValue(QWidget *control, BindingDictionary *dictionary,
                                        const QString &key);
 
-/// Shows the whole number under `key` in the field and writes what the user enters back, kept
-/// inside the range of `slider`. Digits and minus signs of any script count; anything that is no
-/// number brings the former one back. The field can be used
-/// while the slider can.
+/// Shows the whole number under `key` in the field and writes what the user enters back, kept inside
+/// the range of `slider`. Digits and signs of any script count, and a fraction is dropped; anything
+/// that is no number brings the former one back. The field can be used while the slider can.
 CORVANA_PLATFORM_EXPORT void bindNumber(QLineEdit *field, BindingDictionary *dictionary,
                                         const QString &key, QAbstractSlider *slider);
 

@@ -15,7 +15,8 @@ namespace corvana {
 using ControlAction = std::function<void(QWidget *)>;
 
 /// Calls `action` for every change of `control` that is the user's own, including picking what was
-/// picked already; never for a programmatic change, and once for one act of the user.
+/// picked already; never for a programmatic change, and once for one act of the user. A view of an
+/// image, which nobody changes, acts whenever it took another size.
 ///
 /// Errors: false for a control that has nothing to act on.
 CORVANA_PLATFORM_EXPORT bool connectControlAction(QWidget *control, const ControlAction &action);

@@ -95,7 +95,8 @@ struct LoadedInterface
 /// children keep the frames of the file, see FrameLayout, also for their
 /// `stretch`), and `companion`, the name of the control
 /// that another one works with: the field of a Stepper, the heading of a DisclosureButton, the
-/// slider that gives a field with a bound number its range. The classes `RadioMatrix`, `Stepper`
+/// slider that gives a field with a bound number its range. The classes `RadioMatrix`,
+/// `FilterImageView`, `Stepper`
 /// and `DisclosureButton` are available as custom widgets, with those that the owner adds. Bindings
 /// are connected before actions, and nothing acts while a file is loaded.
 ///

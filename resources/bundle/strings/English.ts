@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>RevertEffects</source>
-        <translation>Undo Changes</translation>
+        <translation>Undo Last Changes</translation>
     </message>
     <message>
         <source>EffectPreview</source>

@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>RevertEffects</source>
-        <translation>変更を元に戻す</translation>
+        <translation>直前の変更を元に戻す</translation>
     </message>
     <message>
         <source>EffectPreview</source>

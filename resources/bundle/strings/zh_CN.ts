@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>RevertEffects</source>
-        <translation>撤消更改</translation>
+        <translation>撤消最近的更改</translation>
     </message>
     <message>
         <source>EffectPreview</source>
