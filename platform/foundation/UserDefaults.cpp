@@ -1,6 +1,7 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
 #include <QStandardPaths>
@@ -31,6 +32,8 @@ Reading readAnew(const QString &name)
     QFile file(name);
     if (!file.exists())
         return {State::Read, {}};
+    if (QFileInfo(name).isDir())
+        return {State::Damaged, {}}; // no file at all
     QTemporaryFile copy;
     if (!file.open(QIODevice::ReadOnly) || !copy.open())
         return {State::Unreadable, {}};

@@ -48,7 +48,7 @@ paperBeyondTheLimitsIsRefusedWithTheLimits() {
         expect_refusal "PageSize=Custom.$size" '76.2x127mm … 215.9x355.6mm' \
             -- -o "PageSize=Custom.$size"
     done
-    expect_refusal PageSize=Custom 'from 76.2x127mm' -- -o PageSize=Custom
+    expect_refusal PageSize=Custom '76.2x127mm' -- -o PageSize=Custom
     expect_refusal media=Foolscap 'A4, Letter' -- -o media=Foolscap
 }
 

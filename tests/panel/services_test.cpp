@@ -52,6 +52,7 @@ private Q_SLOTS:
         m_panel->setMode(kModePanelShown, true);
         m_host->forgetCalls();
         QFile::remove(preferences());
+        QDir(preferences()).removeRecursively(); // of a test that failed
     }
     void cleanup()
     {

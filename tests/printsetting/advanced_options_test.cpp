@@ -240,7 +240,7 @@ private Q_SLOTS:
             QCOMPARE(qobject_cast<QGroupBox *>(m_panel->densityLabel)->title(),
                      u"Light && Dark"_s); // no mnemonic
         else
-            QCOMPARE(qobject_cast<QLabel *>(m_panel->densityLabel)->text(), u"Light & Dark: "_s);
+            QCOMPARE(qobject_cast<QLabel *>(m_panel->densityLabel)->text(), u"Light && Dark: "_s);
     }
 
     void theDensitySliderHasOneMarkAStep_data()

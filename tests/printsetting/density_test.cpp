@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTest::newRow("a sign alone") << u"-"_s << kFormer;
         QTest::newRow("two signs") << u"--2"_s << kFormer;
         QTest::newRow("a sign behind") << u"2-"_s << kFormer;
-        QTest::newRow("a fraction") << u"1.5"_s << kFormer;
+        QTest::newRow("a fraction") << u"1.5"_s << 1;
         QTest::newRow("an exponent") << u"1e0"_s << kFormer;
         QTest::newRow("words") << u"dark"_s << kFormer;
         QTest::newRow("a number and words") << u"2x"_s << kFormer;

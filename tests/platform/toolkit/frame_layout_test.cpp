@@ -55,9 +55,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("needed");
         QTest::addColumn<int>("top");
         QTest::newRow("less than its frame") << 5 << 40;
-        QTest::newRow("up to the next one's distance") << 26 << 40;
-        QTest::newRow("a little more") << 27 << 41;
-        QTest::newRow("much more") << 60 << 74; // never closer than four points
+        QTest::newRow("up to the next one's distance") << 22 << 40;
+        QTest::newRow("a little more") << 23 << 41;
+        QTest::newRow("much more") << 60 << 78; // never closer than eight points
     }
     void aChildThatNeedsMoreMovesThoseBelowDown()
     {
@@ -86,9 +86,9 @@ private Q_SLOTS:
         takeFrames();
         m_upper->setMinimumHeight(100);
         layOut(200, 100);
-        QCOMPARE(m_lower->geometry().top(), 114);
-        QCOMPARE(last->geometry().top(), 138);
-        QCOMPARE(m_layout->minimumSize(), QSize(190, 158));
+        QCOMPARE(m_lower->geometry().top(), 118);
+        QCOMPARE(last->geometry().top(), 146);
+        QCOMPARE(m_layout->minimumSize(), QSize(190, 166));
     }
 
     void aChildThatNeedsMoreWidthTakesIt()
@@ -107,7 +107,7 @@ private Q_SLOTS:
         takeFrames();
         m_upper->setMinimumHeight(60);
         layOut(200, 100);
-        QCOMPARE(m_lower->geometry().top(), 74);
+        QCOMPARE(m_lower->geometry().top(), 78);
         m_upper->hide();
         m_layout->setGeometry(QRect(0, 0, 200, 100));
         QCOMPARE(m_lower->geometry().top(), 40);

@@ -69,6 +69,9 @@ private Q_SLOTS:
         QTest::newRow("zeros in front") << u"-004"_s << qint64(-4);
         QTest::newRow("full-width") << u"\uff0d\uff14"_s << qint64(-4);
         QTest::newRow("a minus sign") << u"\u22124"_s << qint64(-4);
+        QTest::newRow("beyond every number") << u"99999999999999999999"_s << qint64(6);
+        QTest::newRow("a fraction") << u"1.9"_s << qint64(1);
+        QTest::newRow("a fraction with a comma") << u"-1,9"_s << qint64(-1);
         QTest::newRow("Arabic digits") << u"٤"_s << qint64(4);
     }
     void whatIsEnteredIsWrittenInsideTheRange()
@@ -85,9 +88,8 @@ private Q_SLOTS:
     void whatIsNoNumberBringsTheFormerOneBack_data()
     {
         QTest::addColumn<QString>("entered");
-        for (const QString &text :
-             {u""_s, u"-"_s, u"+"_s, u"--1"_s, u"1-"_s, u"1.5"_s, u"1,5"_s, u"0x1"_s, u"1 2"_s,
-              u"dark"_s, u"nan"_s, u"½"_s, u"99999999999999999999"_s})
+        for (const QString &text : {u""_s, u"-"_s, u"+"_s, u"--1"_s, u"1-"_s, u"++1"_s, u"1.5.2"_s,
+                                    u"0x1"_s, u"1 2"_s, u"dark"_s, u"nan"_s, u"½"_s})
             QTest::addRow("'%s'", qUtf8Printable(text)) << text;
     }
     void whatIsNoNumberBringsTheFormerOneBack()
