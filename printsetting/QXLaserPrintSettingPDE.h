@@ -35,14 +35,17 @@ public:
     void setPPDKeys(const std::optional<QStringList> &keywords) override;
     void setDefaults() override;
     void initializePopup() override;
+    QWidget *determineUI(const QString &keyword) override;
+    QWidget *determineLabel(const QString &keyword) override;
+    QString determineKey(QWidget *control) override;
+
+    // Advanced options (QXLaserPrintSettingPDE-advanced.cpp)
+
     /// Builds the table of the advanced options. The views are those of the advanced section.
     virtual void initializeAdvOption(const QList<QWidget *> &views);
     /// Adds a row to the table of the advanced options; `identifier` names its page.
     virtual void addAdvOption_forKey(const QString &label, const QString &identifier);
     void toggleShowOption(QWidget *button) override;
-    QWidget *determineUI(const QString &keyword) override;
-    QWidget *determineLabel(const QString &keyword) override;
-    QString determineKey(QWidget *control) override;
 
     // Rules between options (QXLaserPrintSettingPDE-constraints.cpp)
 

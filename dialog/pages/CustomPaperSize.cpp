@@ -47,8 +47,10 @@ void setRange(QDoubleSpinBox *field, float least, float most, const Unit &unit)
     const double parts = std::pow(10.0, unit.decimals);
     field->setDecimals(unit.decimals);
     field->setSingleStep(unit.step);
-    field->setRange(std::ceil(static_cast<double>(least) / unit.points * parts) / parts,
-                    std::floor(static_cast<double>(most) / unit.points * parts) / parts);
+    // 14 inches are 355.6 mm, though 1008 points divided and multiplied come out a hair below.
+    constexpr double kHair = 1e-6;
+    field->setRange(std::ceil(static_cast<double>(least) / unit.points * parts - kHair) / parts,
+                    std::floor(static_cast<double>(most) / unit.points * parts + kHair) / parts);
     field->setToolTip(
         CustomPaperSize::tr("From %1 to %2")
             .arg(field->textFromValue(field->minimum()), field->textFromValue(field->maximum())));

@@ -102,7 +102,7 @@ void GeneralPage::addOption(const QString &keyword)
     auto *layout = static_cast<QFormLayout *>(this->layout());
     layout->addRow(QString(title).replace(u'&', QStringLiteral("&&")) + u':', popUp);
     m_popUps.insert(keyword, popUp);
-    if (keyword == kPageSizeOption && m_session.ppd()->variable_sizes)
+    if (keyword == kPageSizeOption && takesCustomPageSizes(m_session.ppd()))
         addCustomPaperSize(popUp);
 }
 

@@ -115,10 +115,15 @@ std::optional<std::pair<double, double>> range(const ppd_cparam_t *parameter)
 
 } // namespace
 
+bool takesCustomPageSizes(const ppd_file_t *ppd)
+{
+    return ppd->variable_sizes && ppd->custom_max[0] > 0 && ppd->custom_max[1] > 0;
+}
+
 CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const QString &value)
 {
     if (keyword == kPageSizeOption)
-        return ppd->variable_sizes ? checkPageSize(ppd, value) : CustomValueCheck{};
+        return takesCustomPageSizes(ppd) ? checkPageSize(ppd, value) : CustomValueCheck{};
     const CustomValueCheck refused{std::nullopt, allowedCustomValues(ppd, keyword)};
     const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
     if (!parameter || !value.startsWith(kCustomPrefix))
@@ -140,7 +145,7 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
 {
     if (keyword == kPageSizeOption)
-        return ppd->variable_sizes ? allowedPageSizes(ppd) : QString();
+        return takesCustomPageSizes(ppd) ? allowedPageSizes(ppd) : QString();
     const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
     if (!parameter)
         return {};

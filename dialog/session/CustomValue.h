@@ -25,4 +25,7 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
 /// What the PPD takes as custom values of an option; empty when it takes none.
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword);
 
+/// Whether the PPD takes papers of sizes that it does not list, and says up to which size.
+bool takesCustomPageSizes(const ppd_file_t *ppd);
+
 } // namespace corvana

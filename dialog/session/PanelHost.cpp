@@ -294,10 +294,15 @@ void PanelHost::markCompanions(const QString &keyword, const QString &choice)
     const QList<JobOption> companions =
         m_jobValues->companions({keyword, choice}, settings, m_session.ppd());
     for (const JobOption &companion : companions) {
-        if (ppdOption(m_session.ppd(), companion.name))
-            m_session.change(companion.name, companion.value, PpdSession::Origin::Dialog);
-        else if (settings.contains(companion.name))
+        if (ppdOption(m_session.ppd(), companion.name)) {
+            const ChangeResult result =
+                m_session.change(companion.name, companion.value, PpdSession::Origin::Dialog);
+            if (!result.accepted())
+                qCWarning(lcPanels) << keyword << choice << "and" << companion.name
+                                    << "say different things:" << companion.value << "is refused";
+        } else if (settings.contains(companion.name)) {
             settings.setValue(companion.name, companion.value);
+        }
     }
 }
 

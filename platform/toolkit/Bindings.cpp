@@ -118,6 +118,7 @@ private:
 void bindNumber(QLineEdit *field, BindingDictionary *dictionary, const QString &key,
                 QAbstractSlider *slider)
 {
+    field->setEnabled(isControlEnabled(slider));
     slider->installEventFilter(new EnabledFollower(field));
     const auto show = [field](const QVariant &value) {
         const ProgrammaticChange change;

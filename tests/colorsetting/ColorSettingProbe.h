@@ -23,13 +23,18 @@ public:
 
     bool tracing = false;
 
+    using QXLaserColorSettingPDE::ccFilter;
+    using QXLaserColorSettingPDE::cmFilter;
     using QXLaserColorSettingPDE::colorMatchingLabel;
     using QXLaserColorSettingPDE::colorMatchingMatrix;
     using QXLaserColorSettingPDE::effectContent;
+    using QXLaserColorSettingPDE::effectImageView;
     using QXLaserColorSettingPDE::enhancedBlackCheckBox;
     using QXLaserColorSettingPDE::grayCheckBox;
     using QXLaserColorSettingPDE::hasMode;
     using QXLaserColorSettingPDE::m_outputBin;
+    using QXLaserColorSettingPDE::optionButton;
+    using QXLaserColorSettingPDE::optionLabel;
     using QXLaserColorSettingPDE::popupInited;
     using QXLaserColorSettingPDE::PPDEffectKeys;
     using QXLaserColorSettingPDE::PPDKeys;

@@ -133,6 +133,33 @@ private Q_SLOTS:
         QVERIFY(!transformer->reverseTransformedValue(true).isValid());
     }
 
+    void aFlagBecomesATextColor_data()
+    {
+        QTest::addColumn<QVariant>("flag");
+        QTest::addColumn<ControlTextColor>("color");
+        const auto normal = ControlTextColor::Normal;
+        const auto disabled = ControlTextColor::Disabled;
+        QTest::newRow("yes") << QVariant(true) << normal;
+        QTest::newRow("no") << QVariant(false) << disabled;
+        QTest::newRow("one") << QVariant(1) << normal;
+        QTest::newRow("zero") << QVariant(0) << disabled;
+        QTest::newRow("a half") << QVariant(0.5) << normal;
+        QTest::newRow("the text YES") << QVariant(u"YES"_s) << normal;
+        QTest::newRow("the text NO") << QVariant(u"NO"_s) << disabled;
+        QTest::newRow("a list") << QVariant(QVariantList{true}) << disabled;
+        QTest::newRow("nothing") << QVariant() << disabled;
+    }
+    void aFlagBecomesATextColor()
+    {
+        QFETCH(QVariant, flag);
+        QFETCH(ControlTextColor, color);
+        const ColorTransformer transformer;
+        const QVariant transformed = transformer.transformedValue(flag);
+        QVERIFY(transformed.metaType() == QMetaType::fromType<ControlTextColor>());
+        QCOMPARE(transformed.value<ControlTextColor>(), color);
+        QVERIFY(!transformer.reverseTransformedValue(transformed).isValid());
+    }
+
     // The colour mode of the other panel
 
     void constructionReadsTheColorModeFromTheJob_data()

@@ -107,6 +107,26 @@ private Q_SLOTS:
             << kZeroTexts;
         QTest::newRow("an empty set") << QVariant(QVariantList()) << kZeroTexts;
         QTest::newRow("no set at all") << QVariant(u"123456"_s) << kZeroTexts;
+        QTest::newRow("a number") << QVariant(6) << kZeroTexts;
+        QTest::newRow("a map of six")
+            << QVariant(QVariantMap{
+                   {u"a"_s, 1}, {u"b"_s, 2}, {u"c"_s, 3}, {u"d"_s, 4}, {u"e"_s, 5}, {u"f"_s, 6}})
+            << kZeroTexts;
+        QTest::newRow("six bytes") << QVariant(QByteArray("123456")) << kZeroTexts;
+        QTest::newRow("five texts in a list of texts")
+            << QVariant(QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s}) << kZeroTexts;
+        QTest::newRow("the ends of the range, and beyond")
+            << QVariant(QVariantList{-20, 20, -21, 21, u"-20"_s, u"99999999999999999999"_s})
+            << QVariantList{-20, 20, u"0"_s, u"0"_s, u"-20"_s, u"0"_s};
+        QTest::newRow("an absent one among them")
+            << QVariant(QVariantList{1, QVariant(), 3, 4, 5, 6})
+            << QVariantList{1, u"0"_s, 3, 4, 5, 6};
+        // What is no number counts as zero wherever it is used, and is kept as it is stored.
+        QTest::newRow("other things than numbers and texts")
+            << QVariant(QVariantList{QVariantList{9}, QVariantMap{{u"a"_s, 9}}, true, 2.5, u""_s,
+                                     QByteArray("7")})
+            << QVariantList{QVariantList{9}, QVariantMap{{u"a"_s, 9}}, true, 2.5,
+                            u""_s,           QByteArray("7")};
         QTest::newRow("no entry") << QVariant() << kZeroTexts;
     }
     void aStoredSetIsRestored()

@@ -70,6 +70,58 @@ private Q_SLOTS:
         QCOMPARE(summary.value(kMatching), QVariant(u"Normal"_s));
     }
 
+    void theEffectLinesComeFromTheSetInForce_data()
+    {
+        QTest::addColumn<QString>("colorMode");
+        QTest::addColumn<QString>("matching");
+        QTest::addColumn<QString>("brightness");
+        QTest::addColumn<QString>("contrast");
+        QTest::newRow("normal") << u"Color"_s << u"Normal"_s << u"1"_s << u"-1"_s;
+        QTest::newRow("no matching") << u"Color"_s << u"None"_s << u"1"_s << u"-1"_s;
+        QTest::newRow("vivid") << u"Color"_s << u"Vivid"_s << u"2"_s << u"-2"_s;
+        QTest::newRow("mono") << u"Mono"_s << u"Vivid"_s << u"3"_s << u"-3"_s;
+    }
+    void theEffectLinesComeFromTheSetInForce()
+    {
+        QFETCH(QString, colorMode);
+        QFETCH(QString, matching);
+        QFETCH(QString, brightness);
+        QFETCH(QString, contrast);
+        const auto host = RecordingHost::forSamplePrinter();
+        host->mark(u"QXMonoColor"_s, colorMode);
+        host->mark(u"QXColorMatching"_s, matching);
+        host->settings().setValue(kNormalEffect, QVariantList{1, -1, 0, 0, 0, 0});
+        host->settings().setValue(kVividEffect, QVariantList{2, -2, 0, 0, 0, 0});
+        host->settings().setValue(kMonoEffect, QVariantList{3, -3, 0, 0, 0, 0});
+        ColorSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        const QVariantMap summary = panel.summaryInfo();
+        QCOMPARE(summary.value(u"Brightness"_s).toString(), brightness);
+        QCOMPARE(summary.value(u"Contrast"_s).toString(), contrast);
+    }
+
+    void aBadSetShowsZeros()
+    {
+        const auto host = RecordingHost::forSamplePrinter();
+        ColorSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        host->settings().setValue(kNormalEffect, QVariantList{9, 9, 9, 9, 9});
+        const QVariantMap summary = panel.summaryInfo();
+        for (const QString &effect : kEffects)
+            QCOMPARE(summary.value(effect), QVariant(u"0"_s));
+    }
+
+    void aTitleThatIsNotUtf8GetsNoLine()
+    {
+        PpdBuilder ppd;
+        ppd.driverMatchesColors()
+            .option("QXRed", "R\xff", "0", {{"0", "0"}})
+            .option("QXBlue", "Blue", "0", {{"0", "0"}});
+        ColorSettingProbe panel(RecordingHost::forPpd(ppd.text()));
+        QVERIFY(panel.initWithHost());
+        QCOMPARE(panel.summaryInfo().value(kOrder).toStringList(), QStringList{u"Blue"_s});
+    }
+
     void theEffectsAreReadLast()
     {
         const auto host = RecordingHost::forSamplePrinter();

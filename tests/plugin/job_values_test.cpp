@@ -51,6 +51,7 @@ PpdBuilder withDensity(const QList<PpdChoice> &choices = {{"0", "Standard"}})
 } // namespace
 
 Q_DECLARE_METATYPE(corvana::JobValueClaim::Outcome)
+Q_DECLARE_METATYPE(corvana::JobOption)
 
 class JobValuesTest : public QObject
 {
@@ -123,9 +124,23 @@ private Q_SLOTS:
         QTest::newRow("a choice with its sign")
             << withDensity({{"0", "Standard"}, {"+2", "Darker"}}).text() << entry(u"2"_s)
             << option(u"+2"_s);
-        QTest::newRow("neither custom nor a choice")
-            << withDensity().text() << entry(u"2"_s)
-            << QList<JobOption>{{QString(kDensity), u"2"_s}};
+        QTest::newRow("neither custom nor a choice, so the host can refuse it")
+            << withDensity().text() << entry(u"2"_s) << option(u"2"_s);
+        QTest::newRow("beyond the choices")
+            << withDensity({{"-2", "Lighter"}, {"0", "Standard"}, {"+2", "Darker"}}).text()
+            << entry(u"-6"_s) << option(u"-6"_s);
+        QTest::newRow("between the choices")
+            << withDensity({{"-2", "Lighter"}, {"0", "Standard"}, {"+2", "Darker"}}).text()
+            << entry(u"1"_s) << option(u"1"_s);
+        const QByteArray words =
+            PpdBuilder()
+                .option("QXDensityAdjustment", "Density", "Middle",
+                        {{"Light", "Light"}, {"Middle", "Middle"}, {"2dark", "Dark"}})
+                .text();
+        QTest::newRow("no choice is a number")
+            << words << entry(u"2"_s) << QList<JobOption>{{QString(kDensity), u"2"_s}};
+        QTest::newRow("no choice is a number, the printer's own")
+            << words << entry(u"0"_s) << option(u"Middle"_s);
         QTest::newRow("no such option") << PpdBuilder().text() << entry(u"2"_s) << none;
     }
     void theDensityOfAJob() { compareOptions(); }
@@ -171,11 +186,48 @@ private Q_SLOTS:
                  (QList<JobOption>{{u"QXRed"_s, u"0"_s}})); // a value that is no choice has no form
     }
 
-    void aBadEffectSetCountsAsZero()
+    void onlyASetOfSixIsASet_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QStringList>("values");
+        const QStringList zero{u"0"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s};
+        QTest::newRow("two") << QVariant(QVariantList{9, 9}) << zero;
+        QTest::newRow("seven") << QVariant(QVariantList{9, 9, 9, 9, 9, 9, 9}) << zero;
+        QTest::newRow("none") << QVariant(QVariantList()) << zero;
+        QTest::newRow("a text") << QVariant(u"999999"_s) << zero;
+        QTest::newRow("a number") << QVariant(9) << zero;
+        QTest::newRow("a map") << QVariant(QVariantMap{{u"QXRed"_s, 9}}) << zero;
+        QTest::newRow("six texts")
+            << QVariant(QStringList{u"1"_s, u"+2"_s, u" 3"_s, u"4th"_s, u"-5"_s, u"six"_s})
+            << QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"-5"_s, u"0"_s};
+        QTest::newRow("six values of six types")
+            << QVariant(QVariantList{true, 2.9, u"3"_s, QVariantList{4}, QVariantMap(), QVariant()})
+            << QStringList{u"1"_s, u"2"_s, u"3"_s, u"0"_s, u"0"_s, u"0"_s};
+        QTest::newRow("the ends of the range, and beyond")
+            << QVariant(QVariantList{-20, 20, -21, 21, u"-99999999999999999999"_s, 1e300})
+            << QStringList{u"-20"_s, u"20"_s, u"0"_s, u"0"_s, u"0"_s, u"0"_s};
+    }
+    void onlyASetOfSixIsASet()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(QStringList, values);
+        const auto host = RecordingHost::forSamplePrinter();
+        host->settings().setValue(kNormalEffect, stored);
+        QList<JobOption> expected = zeroEffects();
+        for (qsizetype i = 0; i < expected.size(); ++i)
+            expected[i].value = values.at(i);
+        QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()), expected);
+    }
+
+    void anEffectTakenIntoABadSetLeavesTheOthersAtZero()
     {
         const auto host = RecordingHost::forSamplePrinter();
         host->settings().setValue(kNormalEffect, QVariantList{9, 9});
-        QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()), zeroEffects());
+        QCOMPARE(
+            m_values.takeJobOption({u"QXBlue"_s, u"4"_s}, host->settings(), host->ppd()).outcome,
+            Outcome::Accepted);
+        QCOMPARE(host->settings().value(kNormalEffect),
+                 QVariant(QVariantList{u"0"_s, u"0"_s, u"0"_s, u"0"_s, qint64(4), u"0"_s}));
     }
 
     // takeJobOption()
@@ -380,6 +432,55 @@ private Q_SLOTS:
         if (mode.isValid())
             settings.setValue(kSleepMode, mode);
         QCOMPARE(m_values.impliedMarks(settings, host->ppd()), marks);
+    }
+
+    // companions()
+
+    void bothFormsOfTheImprovementsAgree_data()
+    {
+        QTest::addColumn<JobOption>("marked");
+        QTest::addColumn<QString>("single"); // the entry before; null: none
+        QTest::addColumn<QList<JobOption>>("companions");
+        const QString improve = u"QXImproveOutput"_s;
+        const QString fix = u"QXFixIntensity"_s;
+        const QString curl = u"QXLessPaperCurl"_s;
+        const QString off = u"OFF"_s;
+        const QString on = u"ON"_s;
+        const auto both = [&](const QString &fixChoice, const QString &curlChoice) {
+            return QList<JobOption>{{fix, fixChoice}, {curl, curlChoice}};
+        };
+        const QList<JobOption> none;
+        QTest::newRow("single off") << JobOption{improve, off} << off << both(off, off);
+        QTest::newRow("single, fixing") << JobOption{improve, fix} << fix << both(on, off);
+        QTest::newRow("single, less curl") << JobOption{improve, curl} << curl << both(off, on);
+        QTest::newRow("single, an unknown choice") << JobOption{improve, on} << on << none;
+        QTest::newRow("fixing on") << JobOption{fix, on} << off << QList<JobOption>{{improve, fix}};
+        QTest::newRow("less curl on")
+            << JobOption{curl, on} << fix << QList<JobOption>{{improve, curl}};
+        QTest::newRow("fixing on, nothing known before")
+            << JobOption{fix, on} << QString() << QList<JobOption>{{improve, fix}};
+        QTest::newRow("fixing off, which the single one stood for")
+            << JobOption{fix, off} << fix << QList<JobOption>{{improve, off}};
+        QTest::newRow("less curl off, which the single one stood for")
+            << JobOption{curl, off} << curl << QList<JobOption>{{improve, off}};
+        QTest::newRow("fixing off, the other one is on") << JobOption{fix, off} << curl << none;
+        QTest::newRow("less curl off, the other one is on") << JobOption{curl, off} << fix << none;
+        QTest::newRow("fixing off, nothing known before")
+            << JobOption{fix, off} << QString() << none;
+        QTest::newRow("another option") << JobOption{u"QXQuietMode"_s, on} << fix << none;
+        QTest::newRow("other letter case") << JobOption{u"qxfixintensity"_s, on} << off << none;
+    }
+    void bothFormsOfTheImprovementsAgree()
+    {
+        QFETCH(JobOption, marked);
+        QFETCH(QString, single);
+        QFETCH(QList<JobOption>, companions);
+        PrintSettings settings;
+        if (!single.isNull())
+            settings.setValue(u"QXImproveOutput"_s, single);
+        const QVariantMap before = settings.entries();
+        QCOMPARE(m_values.companions(marked, settings, nullptr), companions);
+        QCOMPARE(settings.entries(), before); // marking is the host's
     }
 
 private:
