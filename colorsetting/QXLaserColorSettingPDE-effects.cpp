@@ -43,10 +43,11 @@ void QXLaserColorSettingPDE::restoreEffectValues()
     if (!PPDEffectKeys)
         setEffectDefaults();
     const std::optional<QVariantList> values = usableEffectSet(stored);
-    m_effectsRestored = true;
     for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
         const QVariant value =
             values ? values->at(static_cast<qsizetype>(i)) : QVariant(QString::number(0));
+        if (integerValue(value) != integerValue(m_outputBin.value(kEffectKeywords[i])))
+            m_effectsMoved = true;
         m_outputBin.insert(kEffectKeywords[i], value);
         setEffectContent(kEffectKeywords[i], value);
     }

@@ -152,7 +152,7 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
     connections.action(QStringLiteral("effectValueDidChange"), [this](QWidget *sender) {
         // The sliders may have been moved since the last report: what a user
         // reports now is no duplicate of it.
-        if (std::exchange(m_effectsRestored, false))
+        if (std::exchange(m_effectsMoved, false))
             EffectVal() = {-1, 0};
         effectValueDidChange(sender);
     });

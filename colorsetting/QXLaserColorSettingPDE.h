@@ -143,7 +143,7 @@ private:
     void showEffectDisabled(QLatin1StringView keyword);
     void keepBlackPlainWithGray();
 
-    bool m_effectsRestored = false; // since a user moved one of them
+    bool m_effectsMoved = false; // by a restore, since a user moved one of them
     FilterImage m_refImage;
     QString m_refImageFile;                            // empty: the image was given without a file
     mutable QHash<QString, FilterImage> m_refPictures; // by file, those looked at so far

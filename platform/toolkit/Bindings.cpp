@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QWidget>
 
@@ -96,21 +97,35 @@ std::optional<qint64> writtenNumber(const QString &text)
     return integerValue(plain);
 }
 
-// A field is enabled and disabled with the slider that it belongs to.
+// A field is enabled and disabled with the slider that it belongs to. Both are watched: what
+// happens to a slider inside a disabled group is told to nobody before the group is enabled again.
 class EnabledFollower : public QObject
 {
 public:
-    explicit EnabledFollower(QLineEdit *field) : QObject(field), m_field(field) {}
+    EnabledFollower(QLineEdit *field, QAbstractSlider *slider)
+        : QObject(field), m_field(field), m_slider(slider)
+    {
+        field->installEventFilter(this);
+        slider->installEventFilter(this);
+        follow();
+    }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::EnabledChange)
-            m_field->setEnabled(isControlEnabled(static_cast<QWidget *>(watched)));
+            follow();
         return QObject::eventFilter(watched, event);
     }
 
 private:
+    void follow()
+    {
+        if (m_slider)
+            m_field->setEnabled(isControlEnabled(m_slider));
+    }
+
     QLineEdit *m_field;
+    QPointer<QAbstractSlider> m_slider;
 };
 
 } // namespace
@@ -118,8 +133,7 @@ private:
 void bindNumber(QLineEdit *field, BindingDictionary *dictionary, const QString &key,
                 QAbstractSlider *slider)
 {
-    field->setEnabled(isControlEnabled(slider));
-    slider->installEventFilter(new EnabledFollower(field));
+    new EnabledFollower(field, slider);
     const auto show = [field](const QVariant &value) {
         const ProgrammaticChange change;
         field->setText(QString::number(integerValue(value)));

@@ -273,7 +273,8 @@ private Q_SLOTS:
         QWidget *view = m_panel->panelView();
         QCOMPARE(part(u"effects"_s)->isVisibleTo(view), any);
         for (const QLatin1StringView effect : kEffectKeywords)
-            QCOMPARE(m_panel->determineSlider(effect)->isVisibleTo(view), any);
+            QCOMPARE(m_panel->determineSlider(effect)->isVisibleTo(view),
+                     effects.contains(QByteArray(effect.data(), effect.size())));
         QCOMPARE(m_panel->effectImageView->isVisibleTo(view), any);
         auto *notice = view->findChild<QLabel *>(u"noEffectsLabel"_s);
         QCOMPARE(notice->isVisibleTo(view), !any);

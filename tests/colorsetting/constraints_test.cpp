@@ -118,12 +118,13 @@ QString slidersOf(ColorSettingProbe &panel)
 }
 
 // A field can be used while its slider can.
-QString fieldsOf(ColorSettingProbe &panel)
+bool fieldsFollowTheirSliders(ColorSettingProbe &panel)
 {
-    QString fields;
-    for (const QLatin1StringView effect : kEffectKeywords)
-        fields += isControlEnabled(panel.determineField(effect)) ? u'1' : u'0';
-    return fields;
+    return std::all_of(kEffectKeywords.begin(), kEffectKeywords.end(),
+                       [&](QLatin1StringView effect) {
+                           return panel.determineField(effect)->isEnabled() ==
+                                  panel.determineSlider(effect)->isEnabled();
+                       });
 }
 
 void enter(ColorSettingProbe &panel, const JobState &state)
@@ -177,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(textsOf(*m_panel, false), wanted.texts);
         QCOMPARE(textsOf(*m_panel, true), wanted.texts);
         QCOMPARE(slidersOf(*m_panel), completed(wanted.sliders, u"111111"_s));
-        QCOMPARE(fieldsOf(*m_panel), slidersOf(*m_panel));
+        QVERIFY(fieldsFollowTheirSliders(*m_panel));
         QCOMPARE(textColor(m_panel->optionLabel),
                  wanted.fax ? ControlTextColor::Disabled : ControlTextColor::Normal);
         const bool matchesColors = wanted.driver && !wanted.mono && !wanted.fax;
@@ -200,7 +201,7 @@ private Q_SLOTS:
             QVERIFY2(textsOf(*m_panel, false) == wanted.texts, qPrintable(way));
             QVERIFY2(textsOf(*m_panel, true) == wanted.texts, qPrintable(way));
             QVERIFY2(slidersOf(*m_panel) == completed(wanted.sliders, before), qPrintable(way));
-            QVERIFY2(fieldsOf(*m_panel) == slidersOf(*m_panel), qPrintable(way));
+            QVERIFY2(fieldsFollowTheirSliders(*m_panel), qPrintable(way));
         }
     }
 

@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()), expected);
     }
 
-    void anEffectThatThePpdLacksIsLeftOut()
+    void anEffectThatThePpdLacksIsLeftOutAndAValueThatItLacksIsNamed()
     {
         const auto host =
             RecordingHost::forPpd(PpdBuilder()
@@ -183,7 +183,7 @@ private Q_SLOTS:
                  (QList<JobOption>{{u"QXRed"_s, u"+5"_s}}));
         host->settings().setValue(kNormalEffect, QVariantList{9, 9, 6, 9, 9, 9});
         QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()),
-                 (QList<JobOption>{{u"QXRed"_s, u"0"_s}})); // a value that is no choice has no form
+                 (QList<JobOption>{{u"QXRed"_s, u"6"_s}})); // for the host to refuse
     }
 
     void onlyASetOfSixIsASet_data()
