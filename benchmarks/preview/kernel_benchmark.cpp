@@ -14,19 +14,16 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <limits>
-#include <map>
 #include <optional>
 #include <random>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include <benchmark/benchmark.h>
 #include <hwy/highway.h>
 
 #include <QImage>
 
+#include "benchmarks/support/BestTimes.h"
 #include "platform/imaging/FilterImage.h"
 #include "platform/imaging/ImageFilter.h"
 
@@ -187,44 +184,16 @@ bool answersAgree(QSize size)
     return true;
 }
 
-/// Remembers the best time of each benchmark; the single ones say little on a busy machine.
-class BestTimes : public benchmark::ConsoleReporter
-{
-public:
-    void ReportRuns(const std::vector<Run> &reports) override
-    {
-        for (const Run &run : reports) {
-            if (run.run_type != Run::RT_Iteration || run.iterations == 0)
-                continue;
-            // Time of the processor: what others do on the machine in between does not count.
-            const double seconds = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-            const auto [entry, isNew] = m_seconds.try_emplace(run.run_name.function_name, seconds);
-            if (!isNew)
-                entry->second = std::min(entry->second, seconds);
-        }
-    }
-
-    /// Units: seconds. Infinite for one that was not run.
-    double seconds(const Case &one, Subject subject) const
-    {
-        const auto found = m_seconds.find(benchmarkName(one, subject));
-        return found == m_seconds.end() ? std::numeric_limits<double>::infinity() : found->second;
-    }
-
-private:
-    std::map<std::string, double> m_seconds;
-};
-
 /// Prints the ratios; false when one is too low.
-bool judge(const BestTimes &times, const char *target, bool demanding)
+bool judge(const benchmarks::BestTimes &times, const char *target, bool demanding)
 {
     bool good = true;
     std::printf("\nkernel with %s, best of %d\n", target, kRepetitions);
     std::printf("%-12s %10s %10s %14s %16s\n", "size", "ms", "GB/s", "of memcpy", "of scan lines");
     for (const Case &one : kCases) {
-        const double kernel = times.seconds(one, Subject::Kernel);
-        const double ofMemcpy = times.seconds(one, Subject::Memcpy) / kernel;
-        const double ofScanLines = times.seconds(one, Subject::ScanLines) / kernel;
+        const double kernel = times.best(benchmarkName(one, Subject::Kernel));
+        const double ofMemcpy = times.best(benchmarkName(one, Subject::Memcpy)) / kernel;
+        const double ofScanLines = times.best(benchmarkName(one, Subject::ScanLines)) / kernel;
         const double bytes = 8.0 * one.size.width() * one.size.height(); // read and written
         const bool enough = ofMemcpy >= one.memcpyRatio && ofScanLines >= one.scanLineRatio;
         std::printf("%5d x %-5d %9.3f %10.1f %13.2fx %15.1fx%s\n", one.size.width(),
@@ -240,16 +209,7 @@ bool judge(const BestTimes &times, const char *target, bool demanding)
 int main(int argc, char **argv)
 {
     bool check = false;
-    std::vector<char *> arguments;
-    for (int i = 0; i < argc; ++i) {
-        if (std::string_view(argv[i]) == "--check")
-            check = true;
-        else
-            arguments.push_back(argv[i]);
-    }
-    int count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+    if (!benchmarks::takeArguments(argc, argv, &check))
         return 2;
 
     for (const Case &one : kCases) {
@@ -269,7 +229,7 @@ int main(int argc, char **argv)
                 ->MinTime(0.05);
         }
     }
-    BestTimes times;
+    benchmarks::BestTimes times;
     benchmark::RunSpecifiedBenchmarks(&times);
 
     // Lower numbers are better targets; the processor may know some that the kernel was not built
