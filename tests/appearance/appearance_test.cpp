@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSet>
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
 #include <QTabWidget>
@@ -342,6 +343,50 @@ private Q_SLOTS:
         // The window has grown as far as is needed.
         QCOMPARE(panel->verticalScrollBar()->maximum(), 0);
         QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
+    }
+
+    void theColorAdjustmentIsWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QString>("printer");
+        // With all effects, with two of them, and with the longest list of modes.
+        for (const bool dark : {false, true}) {
+            for (const char *printer : {"cl5", "cl3", "cl4"})
+                QTest::addRow("adjustment_%s_%s", printer, dark ? "dark" : "light")
+                    << dark << QString::fromLatin1(printer);
+        }
+    }
+
+    void theColorAdjustmentIsWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(QString, printer);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        PrintDialog dialog(request({}, printer));
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        pages->setCurrentIndex(2);
+        auto *panel = qobject_cast<QScrollArea *>(pages->currentWidget());
+        QTRY_VERIFY(panel->widget());
+        panel->widget()->findChild<QPushButton *>(QStringLiteral("optionButton"))->click();
+        auto *preview = panel->widget()->findChild<QWidget *>(QStringLiteral("effectImageView"));
+        QTRY_VERIFY(preview->isVisible());
+        QTest::qWait(50);
+        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(clippedTexts(&dialog).join(u'\n'), QString());
+        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
+        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(panel->verticalScrollBar()->maximum(), 0);
+        QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
+        // The preview shows something to judge by.
+        const QImage picture = preview->grab().toImage();
+        QSet<QRgb> colors;
+        for (int x = 0; x < picture.width(); x += 4)
+            colors += picture.pixel(x, picture.height() / 6);
+        QVERIFY2(colors.size() > 8, qPrintable(QString::number(colors.size())));
     }
 
     void everyAlertIsWhole_data()
