@@ -62,9 +62,7 @@ int runUnattended(const PrintRequest &request)
         return refused(options.problems);
 
     const bool printing = !request.documents.isEmpty();
-    if (printing && !printer->panels->shouldPrint())
-        return refused({QCoreApplication::translate("UnattendedRun",
-                                                    "The printer's settings hold the job back.")});
+    const bool allowed = !printing || printer->panels->shouldPrint();
     if (presenter.jobMustWait()) {
         return refused(
             {request.onAlert == AlertPolicy::Hold
@@ -75,6 +73,9 @@ int runUnattended(const PrintRequest &request)
                  : QCoreApplication::translate("UnattendedRun",
                                                "The printer's settings show instructions.")});
     }
+    if (!allowed)
+        return refused({QCoreApplication::translate("UnattendedRun",
+                                                    "The printer's settings hold the job back.")});
     QTextStream out(stdout);
     // Before the ticket: the panels restore and save on the way.
     if (request.summary)

@@ -87,4 +87,15 @@ theMediumFollowsThePaperAndTheLanguage() {
     expect_lines '用紙の種類: はがき'
 }
 
+# Without a window nobody can follow the instructions while the job waits.
+instructionsPrintHoldOrRefuseAnUnattendedJob() {
+    print -o QXMediaType=Label
+    expect_printed
+    expect_said 'Open the back cover of the printer'
+    expect_refusal 'Open the back cover of the printer' '--on-alert=print' -- \
+        -o QXMediaType=Label --on-alert=hold
+    expect_refusal 'Open the back cover of the printer' 'show instructions' -- \
+        -o QXMediaType=Label --on-alert=refuse
+}
+
 run_tests
