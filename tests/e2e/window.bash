@@ -43,14 +43,19 @@ open_dialog() {
         --summary --output "$output" "$@" "$document" >"$work/out" 2>"$work/err" </dev/null &
     dialog=$!
     await 'the window' window_appears
-    xdotool windowfocus "$window"
-    await 'the focus' has_focus
+    await 'the focus' takes_focus
 }
 expect_running() { kill -0 "$dialog" 2>/dev/null || fail 'the program has ended'; }
 window_appears() {
     expect_running
     window=$(xdotool search --onlyvisible --pid "$dialog" 2>/dev/null | head -n 1)
     [ -n "$window" ]
+}
+# A window that is not on the screen yet cannot be given the focus: it is asked for again.
+takes_focus() {
+    window_appears || return
+    xdotool windowfocus "$window" 2>/dev/null
+    has_focus
 }
 has_focus() { expect_running && [ "$(xdotool getwindowfocus 2>/dev/null)" = "$window" ]; }
 
