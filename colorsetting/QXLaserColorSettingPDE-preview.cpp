@@ -16,9 +16,6 @@ namespace corvana {
 
 namespace {
 
-// A window that is higher than the panel by more than this shows the whole panel. Units: points.
-constexpr double kHeightAroundPanel = 96.0;
-
 // What a slider or a field reports; a field may say a fraction.
 QVariant reportedValue(const QWidget *sender)
 {

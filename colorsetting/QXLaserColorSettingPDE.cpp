@@ -8,6 +8,7 @@
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/InterfaceLoader.h"
 #include "platform/toolkit/LabelColor.h"
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/ViewFrame.h"
 
 namespace corvana {
@@ -209,8 +210,7 @@ void QXLaserColorSettingPDE::titleEffectLabel(QLatin1StringView keyword)
     const QString text = option ? ppdText(option->text).value_or(QString()) : localized(keyword);
     QLineEdit *field = determineField(keyword);
     if (!text.isNull()) {
-        // Of a label that leads to a control Qt takes this sign for a key to press.
-        label->setText(label->buddy() ? QString(text).replace(u'&', QStringLiteral("&&")) : text);
+        setLiteralText(label, text);
         if (field)
             field->setAccessibleName(text);
     }
@@ -224,10 +224,7 @@ void QXLaserColorSettingPDE::titleEffectLabel(QLatin1StringView keyword)
 
 void QXLaserColorSettingPDE::toggleShowOption(QWidget *button)
 {
-    const ViewFrame frame = viewFrame(m_panelView);
-    const auto *disclosure = qobject_cast<const QAbstractButton *>(button);
-    const bool discloses = disclosure && disclosure->isChecked();
-    setViewFrameSize(frame.width, frame.height + (discloses ? kAdvancedHeight : -kAdvancedHeight));
+    resizeForDisclosure(button, kAdvancedHeight);
     if (grayCheckBox && isControlEnabled(grayCheckBox))
         keepBlackPlainWithGray();
 }

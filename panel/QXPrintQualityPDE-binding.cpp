@@ -11,6 +11,7 @@
 #include "panel/OptionKeywords.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/LabelColor.h"
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/RadioMatrix.h"
@@ -123,7 +124,7 @@ void QXPrintQualityPDE::initializePopup()
         } else if (auto *box = qobject_cast<QCheckBox *>(control)) {
             const auto text = option ? ppdText(option->text) : std::nullopt;
             if (text)
-                box->setText(QString(*text).replace(u'&', QStringLiteral("&&")));
+                box->setText(withoutMnemonic(*text));
             if (keyword == kQXBiDir)
                 box->setEnabled(!hasMode(kModeNoTonerSave));
         }
@@ -190,12 +191,9 @@ void QXPrintQualityPDE::titleLabel(QWidget *label, const ppd_option_t *option)
     if (!text)
         return;
     if (auto *box = qobject_cast<QGroupBox *>(label))
-        box->setTitle(QString(*text).replace(u'&', QStringLiteral("&&")));
+        box->setTitle(withoutMnemonic(*text));
     else if (auto *textLabel = qobject_cast<QLabel *>(label))
-        textLabel->setText(
-            // Of a label that leads to a control Qt takes this sign for a key to press.
-            (textLabel->buddy() ? QString(*text).replace(u'&', QStringLiteral("&&")) : *text) +
-            QStringLiteral(": "));
+        setLiteralText(textLabel, *text + QStringLiteral(": "));
     else if (auto *field = qobject_cast<QLineEdit *>(label))
         field->setText(*text + QStringLiteral(": "));
 }

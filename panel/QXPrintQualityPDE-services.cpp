@@ -25,9 +25,6 @@ constexpr QLatin1StringView kPrintSettingsPrefix{"com.corvana.print.PrintSetting
 constexpr QLatin1StringView kHelpAnchor{"QxHelpAnchor"};
 constexpr QLatin1StringView kNoImage{"None"};
 
-// A window that is higher than the panel by more than this has room for it already. Units: points.
-constexpr double kHeightAroundPanel = 96.0;
-
 // Illustrations are pictures or, where lines should stay sharp at any size, PDF pages.
 constexpr QLatin1StringView kImageTypes[] = {QLatin1StringView("tiff"), QLatin1StringView("pdf")};
 
@@ -83,6 +80,14 @@ void QXPrintQualityPDE::setViewFrameSize(double width, double height)
     NotificationCenter::defaultCenter().addObserver(
         this, QLatin1StringView(kViewDidUpdateTrackingAreasNotification), m_panelView,
         [this](const Notification &notification) { dialogDidExpand(notification); });
+}
+
+void QXPrintQualityPDE::resizeForDisclosure(const QWidget *button, double height)
+{
+    const ViewFrame frame = viewFrame(m_panelView);
+    const auto *disclosure = qobject_cast<const QAbstractButton *>(button);
+    const bool discloses = disclosure && disclosure->isChecked();
+    setViewFrameSize(frame.width, frame.height + (discloses ? height : -height));
 }
 
 void QXPrintQualityPDE::dialogDidExpand(const Notification &)

@@ -154,6 +154,12 @@ protected:
     /// Shows an option's text in its label or box; a text that is not UTF-8 changes nothing.
     void titleLabel(QWidget *label, const ppd_option_t *option);
 
+    /// A window that is higher than the panel's view by more than this has room for all of it.
+    /// Units: points.
+    static constexpr double kHeightAroundPanel = 96.0;
+    /// Makes the view higher where the disclosure button is on, else lower. Units: points.
+    void resizeForDisclosure(const QWidget *button, double height);
+
     /// The host's print settings, or null where it has none.
     PMPrintSettings printSettings() const;
     /// Asks the host whether an option may take a choice.

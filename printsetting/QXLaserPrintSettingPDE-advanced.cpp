@@ -182,10 +182,7 @@ void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
 
 void QXLaserPrintSettingPDE::toggleShowOption(QWidget *button)
 {
-    const ViewFrame frame = viewFrame(m_panelView);
-    const auto *disclosure = qobject_cast<const QAbstractButton *>(button);
-    const bool discloses = disclosure && disclosure->isChecked();
-    setViewFrameSize(frame.width, frame.height + (discloses ? kAdvancedHeight : -kAdvancedHeight));
+    resizeForDisclosure(button, kAdvancedHeight);
 }
 
 } // namespace corvana

@@ -34,6 +34,7 @@
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/InterfaceLoader.h"
+#include "platform/toolkit/Mnemonics.h"
 
 namespace corvana {
 
@@ -250,7 +251,7 @@ void PrintDialog::fillPages()
     for (const auto &panel : m_printer->panels->panels()) {
         auto *page = new PanelPage;
         m_panelPages += page;
-        m_pages->addTab(page, panel->panelName().replace(u'&', QStringLiteral("&&")));
+        m_pages->addTab(page, withoutMnemonic(panel->panelName()));
     }
     m_summary = new SummaryPage;
     m_pages->addTab(m_summary, tr("Summary"));

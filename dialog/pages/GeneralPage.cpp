@@ -13,6 +13,7 @@
 #include "dialog/session/Summary.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/MenuActions.h"
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PopUpButton.h"
 
 namespace corvana {
@@ -100,7 +101,7 @@ void GeneralPage::addOption(const QString &keyword)
     if (keyword == kPageSizeOption)
         postNotificationWhenMenuActs(popUp); // panels follow the paper menu
     auto *layout = static_cast<QFormLayout *>(this->layout());
-    layout->addRow(QString(title).replace(u'&', QStringLiteral("&&")) + u':', popUp);
+    layout->addRow(withoutMnemonic(title) + u':', popUp);
     m_popUps.insert(keyword, popUp);
     if (keyword == kPageSizeOption && takesCustomPageSizes(m_session.ppd()))
         addCustomPaperSize(popUp);

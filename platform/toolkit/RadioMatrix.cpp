@@ -3,6 +3,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 
 namespace corvana {
@@ -64,7 +65,7 @@ void RadioMatrix::setCellTitle(int row, const QString &title)
 {
     // A printer's own text is no place for keyboard mnemonics.
     if (QRadioButton *button = cell(row))
-        button->setText(QString(title).replace(u'&', QStringLiteral("&&")));
+        button->setText(withoutMnemonic(title));
 }
 
 QVariant RadioMatrix::representedObject(int row) const

@@ -1,22 +1,13 @@
 #include <QTest>
 
 #include "plugin/QXJobValues.h"
+#include "tests/plugin/JobOptions.h"
 #include "tests/support/PpdBuilder.h"
 #include "tests/support/RecordingHost.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
-
-namespace corvana {
-
-/// How QCOMPARE prints an option. Ownership: the caller's, to be freed with delete[].
-char *toString(const JobOption &option)
-{
-    return QTest::toString(option.name + u'=' + option.value);
-}
-
-} // namespace corvana
 
 namespace {
 
@@ -51,7 +42,6 @@ PpdBuilder withDensity(const QList<PpdChoice> &choices = {{"0", "Standard"}})
 } // namespace
 
 Q_DECLARE_METATYPE(corvana::JobValueClaim::Outcome)
-Q_DECLARE_METATYPE(corvana::JobOption)
 
 class JobValuesTest : public QObject
 {
@@ -432,55 +422,6 @@ private Q_SLOTS:
         if (mode.isValid())
             settings.setValue(kSleepMode, mode);
         QCOMPARE(m_values.impliedMarks(settings, host->ppd()), marks);
-    }
-
-    // companions()
-
-    void bothFormsOfTheImprovementsAgree_data()
-    {
-        QTest::addColumn<JobOption>("marked");
-        QTest::addColumn<QString>("single"); // the entry before; null: none
-        QTest::addColumn<QList<JobOption>>("companions");
-        const QString improve = u"QXImproveOutput"_s;
-        const QString fix = u"QXFixIntensity"_s;
-        const QString curl = u"QXLessPaperCurl"_s;
-        const QString off = u"OFF"_s;
-        const QString on = u"ON"_s;
-        const auto both = [&](const QString &fixChoice, const QString &curlChoice) {
-            return QList<JobOption>{{fix, fixChoice}, {curl, curlChoice}};
-        };
-        const QList<JobOption> none;
-        QTest::newRow("single off") << JobOption{improve, off} << off << both(off, off);
-        QTest::newRow("single, fixing") << JobOption{improve, fix} << fix << both(on, off);
-        QTest::newRow("single, less curl") << JobOption{improve, curl} << curl << both(off, on);
-        QTest::newRow("single, an unknown choice") << JobOption{improve, on} << on << none;
-        QTest::newRow("fixing on") << JobOption{fix, on} << off << QList<JobOption>{{improve, fix}};
-        QTest::newRow("less curl on")
-            << JobOption{curl, on} << fix << QList<JobOption>{{improve, curl}};
-        QTest::newRow("fixing on, nothing known before")
-            << JobOption{fix, on} << QString() << QList<JobOption>{{improve, fix}};
-        QTest::newRow("fixing off, which the single one stood for")
-            << JobOption{fix, off} << fix << QList<JobOption>{{improve, off}};
-        QTest::newRow("less curl off, which the single one stood for")
-            << JobOption{curl, off} << curl << QList<JobOption>{{improve, off}};
-        QTest::newRow("fixing off, the other one is on") << JobOption{fix, off} << curl << none;
-        QTest::newRow("less curl off, the other one is on") << JobOption{curl, off} << fix << none;
-        QTest::newRow("fixing off, nothing known before")
-            << JobOption{fix, off} << QString() << none;
-        QTest::newRow("another option") << JobOption{u"QXQuietMode"_s, on} << fix << none;
-        QTest::newRow("other letter case") << JobOption{u"qxfixintensity"_s, on} << off << none;
-    }
-    void bothFormsOfTheImprovementsAgree()
-    {
-        QFETCH(JobOption, marked);
-        QFETCH(QString, single);
-        QFETCH(QList<JobOption>, companions);
-        PrintSettings settings;
-        if (!single.isNull())
-            settings.setValue(u"QXImproveOutput"_s, single);
-        const QVariantMap before = settings.entries();
-        QCOMPARE(m_values.companions(marked, settings, nullptr), companions);
-        QCOMPARE(settings.entries(), before); // marking is the host's
     }
 
 private:

@@ -53,6 +53,10 @@ private Q_SLOTS:
         QTest::newRow("no number") << QVariant(u"much"_s) << u"0"_s;
         QTest::newRow("nothing") << QVariant() << u"0"_s;
         QTest::newRow("beyond the slider") << QVariant(99) << u"99"_s;
+        QTest::newRow("beyond all numbers")
+            << QVariant(u"999999999999999999999"_s) << u"9223372036854775807"_s;
+        QTest::newRow("not a number") << QVariant(qQNaN()) << u"0"_s;
+        QTest::newRow("a list") << QVariant(QVariantList{1, 2}) << u"0"_s;
     }
     void theNumberIsShown()
     {
@@ -80,7 +84,10 @@ private Q_SLOTS:
         QTest::newRow("Arabic digits") << u"١٢"_s << 12;
         QTest::newRow("Devanagari digits") << u"-१२"_s << -12;
         QTest::newRow("a true minus sign") << u"\u221212"_s << -12;
-        // Anything that is no whole number leaves what there was.
+        QTest::newRow("the largest number") << u"9223372036854775807"_s << 20;
+        QTest::newRow("zeros in front") << u"-004"_s << -4;
+        QTest::newRow("a fraction with a comma") << u"-1,9"_s << -1;
+        // Anything that is no number leaves what there was.
         QTest::newRow("nothing") << u""_s << 3;
         QTest::newRow("a word") << u"much"_s << 3;
         QTest::newRow("a number and a word") << u"12 steps"_s << 3;
@@ -88,6 +95,13 @@ private Q_SLOTS:
         QTest::newRow("two signs") << u"--12"_s << 3;
         QTest::newRow("a sign behind") << u"12-"_s << 3;
         QTest::newRow("a sign alone") << u"-"_s << 3;
+        QTest::newRow("a plus sign alone") << u"+"_s << 3;
+        QTest::newRow("two plus signs") << u"++1"_s << 3;
+        QTest::newRow("two fractions") << u"1.5.2"_s << 3;
+        QTest::newRow("hexadecimal") << u"0x1"_s << 3;
+        QTest::newRow("two numbers") << u"1 2"_s << 3;
+        QTest::newRow("not a number") << u"nan"_s << 3;
+        QTest::newRow("a half as one sign") << u"½"_s << 3;
         QTest::newRow("more digits than a number has") << u"99999999999999999999"_s << 20;
     }
     void whatIsEnteredIsWrittenInsideTheRange()

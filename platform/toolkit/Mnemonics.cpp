@@ -1,0 +1,17 @@
+#include "platform/toolkit/Mnemonics.h"
+
+#include <QLabel>
+
+namespace corvana {
+
+QString withoutMnemonic(const QString &text)
+{
+    return QString(text).replace(u'&', QStringLiteral("&&"));
+}
+
+void setLiteralText(QLabel *label, const QString &text)
+{
+    label->setText(label->buddy() ? withoutMnemonic(text) : text);
+}
+
+} // namespace corvana

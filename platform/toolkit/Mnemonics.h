@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/PlatformExport.h"
+
+class QLabel;
+
+namespace corvana {
+
+/// A text that is shown as it is where Qt would take an "&" for the mark of a key to press: on
+/// buttons, boxes, tabs, and labels that lead to a control.
+CORVANA_PLATFORM_EXPORT QString withoutMnemonic(const QString &text);
+
+/// Shows a text as it is, whether or not the label leads to a control.
+CORVANA_PLATFORM_EXPORT void setLiteralText(QLabel *label, const QString &text);
+
+} // namespace corvana
