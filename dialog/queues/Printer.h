@@ -24,17 +24,17 @@ struct Printer
     int modelNumber = 0; ///< as the PPD states it; newer models have higher ones
 
     PrinterOrigin origin = PrinterOrigin::PpdFile;
-    QString location;     ///< where it stands, in the administrator's words
-    QString makeAndModel; ///< as the server names it
+    QString location{};     ///< where it stands, in the administrator's words
+    QString makeAndModel{}; ///< as the server names it
     PrinterState state = PrinterState::Unknown;
-    bool accepting = true;    ///< whether jobs are taken
-    QString stateMessage;     ///< why it is in that state, in the server's words
-    QStringList stateReasons; ///< IPP keywords, such as "media-empty-warning"
-    QString uri;              ///< "ipp://…" by which jobs are sent; empty for PPD files
-    QString deviceUri;        ///< the device behind a queue: two queues may have the same
-    QStringList authInfo;     ///< what the device wants to know ("username", "password")
-    bool isClass = false;     ///< several printers behind one name
-    bool isDefault = false;   ///< the user's default
+    bool accepting = true;      ///< whether jobs are taken
+    QString stateMessage{};     ///< why it is in that state, in the server's words
+    QStringList stateReasons{}; ///< IPP keywords, such as "media-empty-warning"
+    QString uri{};              ///< "ipp://…" by which jobs are sent; empty for PPD files
+    QString deviceUri{};        ///< the device behind a queue: two queues may have the same
+    QStringList authInfo{};     ///< what the device wants to know ("username", "password")
+    bool isClass = false;       ///< several printers behind one name
+    bool isDefault = false;     ///< the user's default
 
     bool operator==(const Printer &) const = default;
 };

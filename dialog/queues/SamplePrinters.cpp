@@ -15,10 +15,15 @@ Q_LOGGING_CATEGORY(lcQueues, "corvana.dialog.queues", QtWarningMsg)
 Printer printerOfPpd(const QString &ppdPath, QString *error)
 {
     const QString name = QFileInfo(ppdPath).completeBaseName();
-    const PpdFile ppd = openPpdFile(ppdPath, error);
-    if (!ppd)
-        return {name, name, ppdPath, 0};
-    return {name, ppdText(ppd->nickname).value_or(name), ppdPath, ppd->model_number};
+    Printer printer;
+    printer.name = name;
+    printer.description = name;
+    printer.ppdPath = ppdPath;
+    if (const PpdFile ppd = openPpdFile(ppdPath, error)) {
+        printer.description = ppdText(ppd->nickname).value_or(name);
+        printer.modelNumber = ppd->model_number;
+    }
+    return printer;
 }
 
 QList<Printer> samplePrinters(const QString &folder)

@@ -21,7 +21,10 @@ private:
 
     Printer printerOf(const QByteArray &ppd)
     {
-        return {u"test"_s, u"Test"_s, writeFile(m_folder.filePath(u"test.ppd"_s), ppd), 5};
+        Printer printer;
+        printer.name = u"test"_s;
+        printer.ppdPath = writeFile(m_folder.filePath(u"test.ppd"_s), ppd);
+        return printer;
     }
     std::unique_ptr<OpenedPrinter> opened(const Printer &printer, const QStringList &roots)
     {

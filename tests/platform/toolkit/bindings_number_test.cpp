@@ -64,8 +64,8 @@ private Q_SLOTS:
         QFETCH(QString, text);
         m_dictionary->setValue(kKey, value);
         QCOMPARE(m_field->text(), text);
-        QCOMPARE(m_dictionary->value(kKey), value);
-        QCOMPARE(m_dictionary->value(kKey).typeId(), value.typeId());
+        // As text: what is not a number equals nothing, not even itself.
+        QCOMPARE(QDebug::toString(m_dictionary->value(kKey)), QDebug::toString(value));
     }
 
     void whatIsEnteredIsWrittenInsideTheRange_data()
@@ -110,6 +110,9 @@ private Q_SLOTS:
         QFETCH(int, number);
         enter(typed);
         QCOMPARE(m_dictionary->value(kKey).toInt(), number);
+        // The panels store what they read, and tell an integer from a fraction.
+        if (number != 3)
+            QCOMPARE(m_dictionary->value(kKey).typeId(), int(QMetaType::LongLong));
         QCOMPARE(m_field->text(), QString::number(number));
         QCOMPARE(m_slider->value(), number);
     }
