@@ -173,11 +173,23 @@ void FileQueue::print(const Document &document, const JobTicket &ticket, const Q
 void FileQueue::print(const QList<Document> &documents, const JobTicket &ticket,
                       const QString &ppdPath, const QString &outputPath)
 {
+    start(documents, ticket, ppdPath, outputPath, Result::PrinterData);
+}
+
+void FileQueue::unite(const QList<Document> &documents, const JobTicket &ticket,
+                      const QString &ppdPath, const QString &outputPath)
+{
+    start(documents, ticket, ppdPath, outputPath, Result::Pdf);
+}
+
+void FileQueue::start(const QList<Document> &documents, const JobTicket &ticket,
+                      const QString &ppdPath, const QString &outputPath, Result result)
+{
     // A link stays a link: the result takes the place of what it leads to.
     const QFileInfo output(outputPath);
     m_outputName = outputPath;
     m_outputPath = output.exists() ? output.canonicalFilePath() : output.absoluteFilePath();
-    const QString problem = prepare(documents, ticket, ppdPath);
+    const QString problem = prepare(documents, ticket, ppdPath, result);
     if (problem.isEmpty())
         startNextStep();
     else
@@ -186,7 +198,7 @@ void FileQueue::print(const QList<Document> &documents, const JobTicket &ticket,
 
 // Lists the steps of the job and makes the files that they write. Answers what stands in the way.
 QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ticket,
-                           const QString &ppdPath)
+                           const QString &ppdPath, Result result)
 {
     QString problem;
     const QString filter = findCupsFilter(&problem);
@@ -212,22 +224,19 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
     m_result->close();
 
-    Document whole = documents.value(0);
     if (documents.size() > 1) {
         m_parts = std::make_unique<QTemporaryDir>();
         if (!m_parts->isValid())
             return m_parts->errorString();
-        QStringList parts;
-        for (const Document &document : documents) {
-            parts += m_parts->filePath(QString::number(parts.size()) + QStringLiteral(".pdf"));
-            m_steps.push_back(
-                {filter,
-                 conversionArguments(document, ppdPath, kPdf, {}, pageOptions(ticket.options)),
-                 parts.constLast()});
-        }
+    }
+    if (result == Result::Pdf) {
+        addStepsToUnite(documents, ticket, ppdPath, filter, m_result->fileName());
+        return {};
+    }
+    Document whole = documents.value(0);
+    if (documents.size() > 1) {
         whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
-        m_steps.push_back(
-            {QStringLiteral("pdfunite"), parts << whole.path, whole.path, Writes::FileOfItsOwn});
+        addStepsToUnite(documents, ticket, ppdPath, filter, whole.path);
     }
     m_steps.push_back({filter,
                        conversionArguments(whole, ppdPath, kPrinterFormat,
@@ -236,6 +245,26 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
                                            ticket.options),
                        m_result->fileName()});
     return {};
+}
+
+void FileQueue::addStepsToUnite(const QList<Document> &documents, const JobTicket &ticket,
+                                const QString &ppdPath, const QString &filter,
+                                const QString &outputFile)
+{
+    const auto conversion = [&](const Document &document, const QString &file) {
+        m_steps.push_back(
+            {filter, conversionArguments(document, ppdPath, kPdf, {}, pageOptions(ticket.options)),
+             file});
+    };
+    if (documents.size() == 1)
+        return conversion(documents.constFirst(), outputFile);
+    QStringList parts;
+    for (const Document &document : documents) {
+        parts += m_parts->filePath(QString::number(parts.size()) + QStringLiteral(".pdf"));
+        conversion(document, parts.constLast());
+    }
+    m_steps.push_back(
+        {QStringLiteral("pdfunite"), parts << outputFile, outputFile, Writes::FileOfItsOwn});
 }
 
 void FileQueue::startNextStep()

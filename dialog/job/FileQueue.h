@@ -45,6 +45,11 @@ public:
     void print(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
                const QString &outputPath);
 
+    /// Only puts the documents together into one PDF, on the printer's paper and without any other
+    /// of its choices, for a queue that applies those itself.
+    void unite(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
+               const QString &outputPath);
+
     /// Stops the filter chain, by force when it does not stop by itself; `finished` follows with a
     /// failure. A job that has its result already stays printed.
     void cancel();
@@ -75,8 +80,13 @@ private:
     void stopChain();
     void signalChain(int signal);
 
+    enum class Result { PrinterData, Pdf };
+    void start(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
+               const QString &outputPath, Result result);
     QString prepare(const QList<Document> &documents, const JobTicket &ticket,
-                    const QString &ppdPath);
+                    const QString &ppdPath, Result result);
+    void addStepsToUnite(const QList<Document> &documents, const JobTicket &ticket,
+                         const QString &ppdPath, const QString &filter, const QString &outputFile);
     void startNextStep();
     void stepFinished(int exitCode, QProcess::ExitStatus status);
     QString problemOfStep(int exitCode, QProcess::ExitStatus status);

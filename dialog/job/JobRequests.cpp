@@ -1,0 +1,166 @@
+#include "dialog/job/JobRequests.h"
+
+#include <algorithm>
+
+#include <QCoreApplication>
+#include <QIODevice>
+
+#include "dialog/queues/QueueRequests.h"
+
+namespace corvana {
+
+namespace {
+
+// IPP's limit for names and keywords, which CUPS applies to options of printers. Units: bytes.
+constexpr qsizetype kLongestValue = 255;
+
+// As many bytes as a name may have, without a character cut in two.
+QString withinLimit(QString text)
+{
+    while (text.toUtf8().size() > kLongestValue)
+        text.chop(text.back().isLowSurrogate() ? 2 : 1);
+    return text;
+}
+
+bool hasControlCharacter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+void addJob(ipp_t *request, int job)
+{
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+}
+
+class Options
+{
+public:
+    ~Options() { cupsFreeOptions(m_count, m_options); }
+    Options() = default;
+    Options(const Options &) = delete;
+    Options &operator=(const Options &) = delete;
+    void add(const QString &name, const QString &value)
+    {
+        m_count = cupsAddOption(name.toUtf8().constData(), value.toUtf8().constData(), m_count,
+                                &m_options);
+    }
+    void encode(ipp_t *request, ipp_tag_t group) const
+    {
+        cupsEncodeOptions2(request, m_count, m_options, group);
+    }
+
+private:
+    int m_count = 0;
+    cups_option_t *m_options = nullptr;
+};
+
+} // namespace
+
+QString unsendableOption(const JobTicket &ticket)
+{
+    for (const JobOption &option : ticket.options) {
+        const bool fits = option.name.toUtf8().size() <= kLongestValue &&
+                          option.value.toUtf8().size() <= kLongestValue;
+        const bool clean =
+            !hasControlCharacter(option.name + option.value) && !option.value.startsWith(u'{');
+        if (!fits)
+            return QCoreApplication::translate("JobRequests",
+                                               "The value of “%1” is too long for a print server; "
+                                               "at most %2 bytes can be sent.")
+                .arg(option.name)
+                .arg(kLongestValue);
+        if (!clean)
+            return QCoreApplication::translate(
+                       "JobRequests", "The value of “%1” has characters that a print server would "
+                                      "drop: no line breaks, no “{” in front.")
+                .arg(option.name);
+    }
+    return {};
+}
+
+std::optional<int> createJob(ServerConnection &connection, const Printer &printer,
+                             const JobTicket &ticket, const std::optional<Credentials> &forDevice)
+{
+    IppMessage request = newIppRequest(IPP_OP_CREATE_JOB, printer.uri);
+    addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name",
+                 withinLimit(ticket.title));
+    Options options;
+    for (const JobOption &option : ticket.options)
+        options.add(option.name, option.value);
+    options.add(QStringLiteral("copies"), QString::number(ticket.copies));
+    options.encode(request.get(), IPP_TAG_OPERATION);
+    if (forDevice) {
+        // In the order in which the device wants them.
+        QList<QByteArray> values;
+        for (const QString &wanted : printer.authInfo) {
+            if (wanted == QLatin1StringView("username"))
+                values += forDevice->user.toUtf8();
+            else if (wanted == QLatin1StringView("password"))
+                values += forDevice->password.toUtf8();
+            else
+                values += QByteArray();
+        }
+        QList<const char *> pointers;
+        for (const QByteArray &value : std::as_const(values))
+            pointers += value.constData();
+        ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_TEXT, "auth-info",
+                      static_cast<int>(pointers.size()), nullptr, pointers.constData());
+    }
+    options.encode(request.get(), IPP_TAG_JOB);
+    const IppMessage response = connection.request(std::move(request), resourceOf(printer));
+    if (!response)
+        return std::nullopt;
+    const int job = ippNumber(ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER));
+    return job > 0 ? std::optional(job) : std::nullopt;
+}
+
+bool sendDocument(ServerConnection &connection, const Printer &printer, int job,
+                  const QString &format, const QString &title, QIODevice &document,
+                  const std::function<void(qint64 sent)> &progress)
+{
+    IppMessage request = newIppRequest(IPP_OP_SEND_DOCUMENT, printer.uri);
+    addJob(request.get(), job);
+    addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name",
+                 withinLimit(title));
+    addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", format);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
+    return connection.request(std::move(request), resourceOf(printer), document, progress) !=
+           nullptr;
+}
+
+std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &printer, int job)
+{
+    IppMessage request = newIppRequest(IPP_OP_GET_JOB_ATTRIBUTES, printer.uri);
+    addJob(request.get(), job);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
+                   {"job-id", "job-state", "job-state-reasons", "job-printer-state-message",
+                    "job-printer-state-reasons", "job-state-message", "job-media-sheets-completed",
+                    "job-impressions-completed", "number-of-documents"});
+    const IppMessage response = connection.request(std::move(request), resourceOf(printer));
+    if (!response)
+        return std::nullopt;
+    const auto find = [&](const char *name) {
+        return ippFindAttribute(response.get(), name, IPP_TAG_ZERO);
+    };
+    JobStatus status;
+    status.state = ippNumber(find("job-state"));
+    status.pages = std::max(ippNumber(find("job-impressions-completed")),
+                            ippNumber(find("job-media-sheets-completed")));
+    status.documents = ippNumber(find("number-of-documents"), -1);
+    status.reasons = ippTexts(find("job-state-reasons"));
+    status.message = ippText(find("job-printer-state-message"));
+    if (status.message.isEmpty())
+        status.message = ippText(find("job-state-message"));
+    status.printerStopped = status.reasons.contains(QLatin1StringView("printer-stopped"));
+    return status;
+}
+
+bool cancelJob(ServerConnection &connection, const Printer &printer, int job)
+{
+    IppMessage request = newIppRequest(IPP_OP_CANCEL_JOB, printer.uri);
+    addJob(request.get(), job);
+    return connection.request(std::move(request), "/jobs/") != nullptr;
+}
+
+} // namespace corvana

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+
+#include <QList>
+#include <QString>
+
+#include "dialog/queues/Printer.h"
+#include "dialog/server/ServerConnection.h"
+#include "dialog/session/JobTicket.h"
+
+namespace corvana {
+
+// What is asked of a print server about a job. All of it waits for a network: for workers.
+
+/// A job as its server describes it.
+struct JobStatus
+{
+    int state = 0;      ///< IPP: 3 pending, 4 held, 5 processing, 6 stopped, 7 to 9 the ends
+    int pages = 0;      ///< sheets or pages that came out; 0 where nobody counts
+    int documents = -1; ///< -1 where the server does not say
+    QString message{};  ///< what the printer says of the job
+    QStringList reasons{};
+    bool printerStopped = false;
+
+    bool isOver() const { return state >= IPP_JSTATE_CANCELED; }
+    bool operator==(const JobStatus &) const = default;
+};
+
+/// Why a ticket cannot be sent: CUPS drops or cuts such names and values without a word. Empty when
+/// nothing is in the way.
+QString unsendableOption(const JobTicket &ticket);
+
+/// Creates a job without its document. Answers its number.
+/// Errors: nothing; the connection's problem() says why.
+std::optional<int> createJob(ServerConnection &connection, const Printer &printer,
+                             const JobTicket &ticket, const std::optional<Credentials> &forDevice);
+
+/// Sends the document of a job, its only one. Errors: false.
+bool sendDocument(ServerConnection &connection, const Printer &printer, int job,
+                  const QString &format, const QString &title, QIODevice &document,
+                  const std::function<void(qint64 sent)> &progress);
+
+/// Errors: nothing; the problem is `NotFound` for a job that its server does not know.
+std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &printer, int job);
+
+/// Errors: false.
+bool cancelJob(ServerConnection &connection, const Printer &printer, int job);
+
+} // namespace corvana

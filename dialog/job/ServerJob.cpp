@@ -1,0 +1,522 @@
+#include "dialog/job/ServerJob.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QTimer>
+
+#include "dialog/queues/QueueRequests.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcServerJob, "corvana.dialog.serverjob", QtWarningMsg)
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr QLatin1StringView kPdf{"application/pdf"};
+constexpr QLatin1StringView kRaster{"image/pwg-raster"};
+
+// How often a job is looked up while it is followed.
+constexpr std::chrono::milliseconds kLookUpInterval = 500ms;
+// What is put in order after a failure must not keep the user waiting.
+constexpr std::chrono::milliseconds kPatienceAfterFailure = 5s;
+// How often a server that has just hung up is asked what became of the job.
+constexpr int kLookUpsAfterFailure = 3;
+
+// What the filter chain does to the pages when it makes the printer's own data.
+bool isAppliedByChain(const JobOption &option)
+{
+    static const QStringList names{QStringLiteral("number-up"),
+                                   QStringLiteral("page-ranges"),
+                                   QStringLiteral("page-set"),
+                                   QStringLiteral("outputorder"),
+                                   QStringLiteral("fit-to-page"),
+                                   QStringLiteral("print-scaling"),
+                                   QStringLiteral("orientation-requested")};
+    return names.contains(option.name);
+}
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ServerJob)
+};
+
+QString withMessage(const QString &text, const QString &message)
+{
+    return message.isEmpty() ? text : Texts::tr("%1 The printer says: %2").arg(text, message);
+}
+
+// One job on its worker's thread. Everything that it needs is copied into it.
+class Handover
+{
+public:
+    Handover(ServerWorker &worker, const ServerJobRequest &request, Document document,
+             std::function<void(const JobProgress &)> report,
+             std::function<void(const JobOutcome &)> finish)
+        : m_worker(worker), m_request(request), m_document(std::move(document)),
+          m_report(std::move(report)), m_finish(std::move(finish)),
+          m_connection(&worker.connection())
+    {
+    }
+
+    void run() { m_finish(handOver()); }
+
+private:
+    ServerWorker &m_worker;
+    const ServerJobRequest &m_request;
+    Document m_document;
+    std::function<void(const JobProgress &)> m_report;
+    std::function<void(const JobOutcome &)> m_finish;
+    ServerConnection *m_connection;
+    std::unique_ptr<ServerConnection> m_another; // after the first one was lost
+    int m_job = 0;
+
+    QString printerName() const { return m_request.printer.name; }
+    QString jobName() const { return QStringLiteral("%1-%2").arg(printerName()).arg(m_job); }
+    JobOutcome outcome(JobOutcome::Kind kind, const QString &text) const
+    {
+        return {kind, m_job, text};
+    }
+    QString whatIsWrong() const { return m_connection->problem().text(m_worker.context().address); }
+
+    // A connection that no cancellation touches, for what has to be put in order.
+    ServerConnection &another()
+    {
+        ServerContext context = m_worker.context();
+        context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
+        context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
+        m_another = std::make_unique<ServerConnection>(context, nullptr);
+        return *m_another;
+    }
+
+    JobOutcome handOver()
+    {
+        if (std::optional<JobOutcome> reason = whyNotToSend())
+            return *reason;
+        const std::optional<Credentials> forDevice = credentialsForDevice();
+        if (needsCredentials() && !forDevice)
+            return failed(Texts::tr("The printer “%1” wants a user and a password; none was given. "
+                                    "Nothing was printed.")
+                              .arg(printerName()));
+        const std::optional<int> job =
+            createJob(*m_connection, m_request.printer, m_request.ticket, forDevice);
+        if (!job) {
+            if (m_worker.isCanceled())
+                return outcome(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+            return failed(notCreated());
+        }
+        m_job = *job;
+        return sendAndFollow();
+    }
+
+    JobOutcome failed(const QString &text) const { return outcome(JobOutcome::Kind::Failed, text); }
+
+    QString notCreated() const
+    {
+        const ServerProblem &problem = m_connection->problem();
+        if (!problem) // an answer without a number
+            return Texts::tr("The print server did not say which job it has made. Nothing was "
+                             "printed.");
+        if (problem.kind == ServerProblem::Kind::NotFound)
+            return Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
+                .arg(printerName());
+        if (problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
+            return Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
+                .arg(printerName());
+        return Texts::tr("%1 Nothing was printed.").arg(whatIsWrong());
+    }
+
+    std::optional<JobOutcome> whyNotToSend()
+    {
+        if (m_request.earlierJob > 0) {
+            const auto earlier = lookUpJob(*m_connection, m_request.printer, m_request.earlierJob);
+            if (!earlier && m_connection->problem().kind != ServerProblem::Kind::NotFound)
+                return failed(Texts::tr("%1 Whether job %2 of the earlier try was printed is not "
+                                        "known yet, so nothing was sent again.")
+                                  .arg(whatIsWrong())
+                                  .arg(m_request.earlierJob));
+            const bool mayPrint = earlier && (earlier->state == IPP_JSTATE_COMPLETED ||
+                                              (!earlier->isOver() && earlier->documents != 0));
+            if (mayPrint)
+                return JobOutcome{
+                    JobOutcome::Kind::AlreadyThere, m_request.earlierJob,
+                    earlier->state == IPP_JSTATE_COMPLETED
+                        ? Texts::tr("Job %1 of the earlier try has been printed.")
+                              .arg(m_request.earlierJob)
+                        : Texts::tr(
+                              "Job %1 of the earlier try is in the queue and will be printed.")
+                              .arg(m_request.earlierJob)};
+        }
+        if (m_request.ppdLastModified == 0)
+            return std::nullopt;
+        const QueueDetails now =
+            inspectQueue(*m_connection, m_request.printer, m_request.ppdLastModified);
+        switch (now.state) {
+        case QueueDetails::Ppd::Unchanged:
+            return std::nullopt;
+        case QueueDetails::Ppd::New:
+        case QueueDetails::Ppd::None:
+            return outcome(JobOutcome::Kind::PrinterChanged,
+                           Texts::tr("The options of the printer “%1” have changed at its server. "
+                                     "Nothing was printed.")
+                               .arg(printerName()));
+        case QueueDetails::Ppd::Unknown:
+            break;
+        }
+        if (m_worker.isCanceled())
+            return outcome(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+        return failed(notCreated());
+    }
+
+    bool needsCredentials() const
+    {
+        const QStringList &wanted = m_request.printer.authInfo;
+        return wanted.contains(QLatin1StringView("username")) ||
+               wanted.contains(QLatin1StringView("password"));
+    }
+
+    std::optional<Credentials> credentialsForDevice()
+    {
+        const auto &store = m_worker.context().credentials;
+        if (!needsCredentials() || !store)
+            return std::nullopt;
+        const ServerAddress &address = m_worker.context().address;
+        return store
+            ->ask(QStringLiteral("%1 %2").arg(address.argument(), m_request.printer.uri),
+                  {address, QString::fromUtf8(cupsUser()),
+                   address.isLocal() || address.encryption == HTTP_ENCRYPTION_REQUIRED ||
+                       address.encryption == HTTP_ENCRYPTION_ALWAYS,
+                   true},
+                  [this] { return m_worker.isCanceled(); })
+            .credentials;
+    }
+
+    JobOutcome sendAndFollow()
+    {
+        QFile file(m_document.path);
+        if (!file.open(QIODevice::ReadOnly)) {
+            const QString problem =
+                Texts::tr("%1 cannot be read: %2").arg(m_document.title, file.errorString());
+            return withdraw(JobOutcome::Kind::Failed, problem);
+        }
+        const qint64 total = file.size();
+        m_report({JobProgress::Stage::Sending, m_job, 0, 0, total});
+        const bool sent =
+            sendDocument(*m_connection, m_request.printer, m_job, m_document.format,
+                         m_document.title, file, [&](qint64 bytes) {
+                             m_report({JobProgress::Stage::Sending, m_job, 0, bytes, total});
+                         });
+        if (sent)
+            return confirmAndFollow();
+        if (m_worker.isCanceled())
+            return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+        const QString problem = whatIsWrong();
+        const bool complete = m_connection->documentWasSent();
+        if (complete && m_connection->problem().mayPass())
+            return findOut(problem);
+        return withdraw(JobOutcome::Kind::Failed, problem);
+    }
+
+    // Takes back a job that is not to be printed, and says whether that worked.
+    JobOutcome withdraw(JobOutcome::Kind kind, const QString &why)
+    {
+        if (cancelJob(another(), m_request.printer, m_job))
+            return outcome(
+                kind,
+                Texts::tr("%1 Job %2 was canceled; nothing was printed.").arg(why, jobName()));
+        if (m_another->problem().kind == ServerProblem::Kind::Refused ||
+            m_another->problem().kind == ServerProblem::Kind::NotFound) {
+            // It is over already, one way or the other.
+            if (const auto status = lookUpJob(*m_another, m_request.printer, m_job))
+                return ended(*status);
+        }
+        return outcome(
+            JobOutcome::Kind::Failed,
+            Texts::tr("%1 Job %2 may still be at the print server, without its whole "
+                      "document. It could not be canceled: %3")
+                .arg(why, jobName(), m_another->problem().text(m_worker.context().address)));
+    }
+
+    // The document was sent, and then the server went silent: it may have the job or not.
+    JobOutcome findOut(const QString &problem)
+    {
+        for (int i = 0; i < kLookUpsAfterFailure; ++i) {
+            const auto status = lookUpJob(another(), m_request.printer, m_job);
+            if (status) {
+                m_connection = m_another.get();
+                if (status->documents == 0 && !status->isOver())
+                    return withdraw(JobOutcome::Kind::Failed, problem);
+                return follow();
+            }
+            if (m_another->problem().kind == ServerProblem::Kind::NotFound)
+                return failed(Texts::tr("%1 The print server does not know job %2 any more. It was "
+                                        "probably not printed.")
+                                  .arg(problem, jobName()));
+            if (!m_worker.sleep(kLookUpInterval))
+                break;
+        }
+        return outcome(JobOutcome::Kind::Unknown,
+                       Texts::tr("%1 The document had been sent, so job %2 may be printed or not. "
+                                 "Printing again looks for it first.")
+                           .arg(problem, jobName()));
+    }
+
+    JobOutcome confirmAndFollow()
+    {
+        const auto status = lookUpJob(*m_connection, m_request.printer, m_job);
+        if (!status) {
+            if (m_worker.isCanceled())
+                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+            return findOut(whatIsWrong());
+        }
+        return follow();
+    }
+
+    JobOutcome follow()
+    {
+        for (;;) {
+            const auto status = lookUpJob(*m_connection, m_request.printer, m_job);
+            if (m_worker.isCanceled())
+                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+            if (!status)
+                return lostSight();
+            if (status->isOver())
+                return ended(*status);
+            const JobProgress progress = progressOf(*status);
+            m_report(progress);
+            if (status->state == IPP_JSTATE_STOPPED)
+                return failed(withMessage(
+                    Texts::tr("Job %1 was stopped. It is still in the queue, where it can be "
+                              "released or canceled.")
+                        .arg(jobName()),
+                    status->message));
+            if (status->state == IPP_JSTATE_HELD)
+                return outcome(JobOutcome::Kind::InQueue,
+                               withMessage(Texts::tr("Job %1 is held in the queue “%2”.")
+                                               .arg(jobName(), printerName()),
+                                           status->message));
+            if (!m_request.follow)
+                return inQueue(progress);
+            if (!m_worker.sleep(kLookUpInterval))
+                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+        }
+    }
+
+    JobOutcome inQueue(const JobProgress &progress) const
+    {
+        if (progress.stage == JobProgress::Stage::Stopped)
+            return outcome(JobOutcome::Kind::InQueue,
+                           withMessage(Texts::tr("Job %1 waits in the queue “%2”, which is "
+                                                 "stopped.")
+                                           .arg(jobName(), printerName()),
+                                       progress.message));
+        return outcome(JobOutcome::Kind::InQueue,
+                       Texts::tr("Job %1 is in the queue “%2”.").arg(jobName(), printerName()));
+    }
+
+    JobProgress progressOf(const JobStatus &status) const
+    {
+        JobProgress progress{
+            JobProgress::Stage::Waiting, m_job, status.pages, 0, 0, status.message};
+        if (status.state == IPP_JSTATE_PROCESSING)
+            progress.stage = JobProgress::Stage::Printing;
+        else if (status.state == IPP_JSTATE_HELD)
+            progress.stage = JobProgress::Stage::Held;
+        else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
+            progress.stage = JobProgress::Stage::Stopped;
+        return progress;
+    }
+
+    JobOutcome lostSight() const
+    {
+        const ServerProblem &problem = m_connection->problem();
+        if (problem.kind == ServerProblem::Kind::NotFound)
+            return outcome(JobOutcome::Kind::InQueue,
+                           Texts::tr("Job %1 has left the queue “%2”, whose server keeps no record "
+                                     "of it.")
+                               .arg(jobName(), printerName()));
+        return outcome(JobOutcome::Kind::InQueue,
+                       Texts::tr("Job %1 was handed over completely. %2 So whether it has been "
+                                 "printed is not known.")
+                           .arg(jobName(), problem.text(m_worker.context().address)));
+    }
+
+    JobOutcome ended(const JobStatus &status) const
+    {
+        switch (status.state) {
+        case IPP_JSTATE_COMPLETED:
+            return outcome(JobOutcome::Kind::Printed,
+                           Texts::tr("Printed on “%1” as job %2.").arg(printerName(), jobName()));
+        case IPP_JSTATE_CANCELED:
+            return outcome(JobOutcome::Kind::Canceled,
+                           m_worker.isCanceled()
+                               ? Texts::tr("Printing was canceled.")
+                               : Texts::tr("Job %1 was canceled at the printer or its server.")
+                                     .arg(jobName()));
+        default:
+            return failed(withMessage(
+                Texts::tr("Job %1 failed: the printer or its server gave it up.").arg(jobName()),
+                status.message));
+        }
+    }
+};
+
+} // namespace
+
+QString JobProgress::text() const
+{
+    switch (stage) {
+    case Stage::Converting:
+        return Texts::tr("Preparing…");
+    case Stage::Sending:
+        return total > 0 ? Texts::tr("Sending, %1 %…").arg(sent * 100 / total)
+                         : Texts::tr("Sending…");
+    case Stage::Waiting:
+        return Texts::tr("Waiting in the queue…");
+    case Stage::Held:
+        return Texts::tr("Held in the queue");
+    case Stage::Printing:
+        return page > 0 ? Texts::tr("Printing page %1…").arg(page) : Texts::tr("Printing…");
+    case Stage::Stopped:
+        return message.isEmpty() ? Texts::tr("The printer is stopped.")
+                                 : Texts::tr("The printer is stopped: %1").arg(message);
+    }
+    return {};
+}
+
+ServerJob::ServerJob(QObject *parent) : QObject(parent) {}
+
+ServerJob::~ServerJob() = default;
+
+void ServerJob::print(const ServerJobRequest &request)
+{
+    m_request = request;
+    const QString problem = unsendableOption(m_request.ticket);
+    if (!problem.isEmpty())
+        return finish({JobOutcome::Kind::Failed, 0, problem});
+    // A password for the device goes along with the job: never where others can read it.
+    const bool secret = !m_request.printer.authInfo.isEmpty();
+    if (secret && !m_request.server.address.isLocal() &&
+        m_request.server.address.encryption != HTTP_ENCRYPTION_ALWAYS)
+        m_request.server.address.encryption = HTTP_ENCRYPTION_REQUIRED;
+    convert();
+}
+
+// Several documents become one; and what an IPP printer does not take becomes what it does take.
+void ServerJob::convert()
+{
+    const QStringList &formats = m_request.formats;
+    const Document &first = m_request.documents.constFirst();
+    const bool taken = formats.isEmpty() || formats.contains(first.format) ||
+                       formats.contains(QLatin1StringView("application/octet-stream"));
+    if (m_request.documents.size() == 1 && taken)
+        return send(first, m_request.ticket);
+    report({JobProgress::Stage::Converting});
+    m_parts = std::make_unique<QTemporaryDir>();
+    if (!m_parts->isValid())
+        return finish({JobOutcome::Kind::Failed, 0, m_parts->errorString()});
+    const QString file = m_parts->filePath(QStringLiteral("document"));
+    m_conversion = std::make_unique<FileQueue>();
+    connect(m_conversion.get(), &FileQueue::finished, this, &ServerJob::converted);
+    if (formats.isEmpty() || formats.contains(kPdf)) {
+        m_converted = {file, kPdf, m_request.ticket.title};
+        return m_conversion->unite(m_request.documents, m_request.ticket, m_request.ppdPath, file);
+    }
+    if (!formats.contains(kRaster))
+        return finish({JobOutcome::Kind::Failed, 0,
+                       tr("The printer “%1” takes documents of these kinds only: %2.")
+                           .arg(m_request.printer.name, formats.join(QStringLiteral(", ")))});
+    m_converted = {file, kRaster, m_request.ticket.title};
+    JobTicket pages = m_request.ticket;
+    pages.copies = 1; // the printer repeats them
+    m_conversion->print(m_request.documents, pages, m_request.ppdPath, file);
+}
+
+void ServerJob::converted(const QString &problem)
+{
+    const bool canceled = m_conversion->isCanceled();
+    m_conversion.release()->deleteLater();
+    if (!problem.isEmpty())
+        return finish(
+            {canceled ? JobOutcome::Kind::Canceled : JobOutcome::Kind::Failed, 0, problem});
+    JobTicket ticket = m_request.ticket;
+    if (m_converted.format == kRaster)
+        ticket.options.removeIf(isAppliedByChain);
+    send(m_converted, ticket);
+}
+
+void ServerJob::send(const Document &document, const JobTicket &ticket)
+{
+    report({JobProgress::Stage::Sending});
+    ServerJobRequest request = m_request;
+    request.ticket = ticket;
+    m_work = ServerWork(m_request.server, [this, request, document](ServerWorker &worker) {
+        Handover(
+            worker, request, document,
+            [&](const JobProgress &progress) {
+                worker.post([this, progress] { report(progress); });
+            },
+            [&](const JobOutcome &outcome) { worker.post([this, outcome] { finish(outcome); }); })
+            .run();
+    });
+}
+
+void ServerJob::report(const JobProgress &progress)
+{
+    if (m_outcome)
+        return;
+    m_handedOver = m_handedOver || (progress.stage != JobProgress::Stage::Converting &&
+                                    progress.stage != JobProgress::Stage::Sending);
+    if (std::exchange(m_progress, progress) != progress)
+        Q_EMIT progressed(progress);
+}
+
+void ServerJob::cancel()
+{
+    if (m_canceled || m_outcome)
+        return;
+    m_canceled = true;
+    if (m_conversion)
+        m_conversion->cancel();
+    m_work.cancel();
+}
+
+void ServerJob::letGo()
+{
+    if (!m_handedOver || m_outcome)
+        return;
+    m_work = {};
+    finish({JobOutcome::Kind::InQueue, m_progress.job,
+            tr("Job %1-%2 is in the queue; it was not followed to its end.")
+                .arg(m_request.printer.name)
+                .arg(m_progress.job)});
+}
+
+// The one way in which a job ends.
+void ServerJob::finish(const JobOutcome &outcome)
+{
+    qCInfo(lcServerJob).noquote() << outcome.text;
+    m_outcome = outcome;
+    QTimer::singleShot(0, this, [this] { Q_EMIT finished(*m_outcome); });
+}
+
+JobOutcome ServerJob::wait()
+{
+    QEventLoop loop;
+    bool done = false;
+    connect(this, &ServerJob::finished, &loop, [&] {
+        done = true;
+        loop.quit();
+    });
+    if (!done)
+        loop.exec();
+    return *m_outcome;
+}
+
+} // namespace corvana

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+
+#include <QByteArray>
+#include <QString>
+
+#include "dialog/queues/Printer.h"
+
+namespace corvana {
+
+/// The PPDs of the queues that were used, so that a printer is there at once, even while its server
+/// is away. One folder of the user's; entries appear and disappear as a whole.
+class PpdCache
+{
+public:
+    /// In the user's cache folder.
+    PpdCache();
+    explicit PpdCache(QString folder) : m_folder(std::move(folder)) {}
+
+    struct Entry
+    {
+        Printer printer;         ///< with `ppdPath`; its state is not known
+        qint64 lastModified = 0; ///< of the PPD at its server; seconds since 1970
+    };
+    /// Errors: nothing for a queue that was not used yet, or whose entry is damaged.
+    std::optional<Entry> find(const QString &server, const QString &queue) const;
+
+    /// Keeps a PPD. Errors: an empty path; the queue then works from wherever its PPD is.
+    QString store(const QString &server, const Printer &printer, const QByteArray &ppd,
+                  qint64 lastModified) const;
+    void remove(const QString &server, const QString &queue) const;
+
+private:
+    QString pathOf(const QString &server, const QString &queue, const char *suffix) const;
+
+    QString m_folder;
+};
+
+} // namespace corvana

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QList>
+#include <QObject>
+#include <QTimer>
+
+#include "dialog/queues/Printer.h"
+#include "dialog/queues/UserQueues.h"
+#include "dialog/server/ServerWork.h"
+
+namespace corvana {
+
+/// The queues of a print server, found in the background and kept up to date: a queue that is
+/// added, renamed, stopped or deleted shows within seconds, a server that comes back as well.
+///
+/// Thread: GUI thread; the server is asked on another one.
+class QueueList : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class State {
+        Looking, ///< nothing is known yet
+        Slow,    ///< the same, for longer than a server usually takes
+        Known,   ///< the list is complete
+        Failed,  ///< problem() says why; the printers are the ones known before
+    };
+
+    QueueList(ServerContext context, UserQueues userQueues, QObject *parent = nullptr);
+
+    /// Looks now, and from then on every few seconds.
+    void start();
+    /// No one sees the list: nothing is asked.
+    void pause();
+    /// The user wants another try, and may be asked for a password.
+    void retry();
+
+    /// In the order in which people look for them: by what they are called.
+    const QList<Printer> &printers() const { return m_printers; }
+    State state() const { return m_state; }
+    const ServerProblem &problem() const { return m_problem; }
+    const ServerContext &context() const { return m_context; }
+    /// The user's default, else the server's; "NAME" or "NAME/INSTANCE"; empty when there is none.
+    QString defaultName() const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void look(bool mayAsk);
+    void take(const QList<Printer> &printers, const QString &serverDefault, bool complete);
+    void finished(const ServerProblem &problem);
+    void enter(State state);
+
+    ServerContext m_context;
+    UserQueues m_userQueues;
+    ServerWork m_work;
+    QTimer m_next; // the next look
+    QTimer m_slow; // when an answer is late
+    QElapsedTimer m_started;
+    QList<Printer> m_printers;
+    QString m_serverDefault;
+    ServerProblem m_problem;
+    State m_state = State::Looking;
+    bool m_everComplete = false;
+    bool m_active = false;
+};
+
+} // namespace corvana

@@ -1,0 +1,79 @@
+#include "dialog/server/CredentialStore.h"
+
+#include <chrono>
+#include <utility>
+
+namespace corvana {
+
+namespace {
+// How often a worker that waits for an answer looks whether it is still wanted.
+constexpr std::chrono::milliseconds kLookAround{100};
+} // namespace
+
+void CredentialStore::setQuestioner(Questioner questioner)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_questioner = std::move(questioner);
+}
+
+std::optional<Credentials> CredentialStore::known(const QString &realm) const
+{
+    const std::scoped_lock lock(m_mutex);
+    const auto found = m_known.find(realm);
+    return found == m_known.end() ? std::nullopt : std::optional(found->second);
+}
+
+void CredentialStore::forget(const QString &realm)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_known.erase(realm);
+}
+
+CredentialStore::Outcome CredentialStore::ask(const QString &realm,
+                                              const CredentialsQuestion &question,
+                                              const std::function<bool()> &canceled)
+{
+    std::unique_lock lock(m_mutex);
+    if (const auto found = m_known.find(realm); found != m_known.end())
+        return {found->second, false};
+    if (!m_questioner)
+        return {std::nullopt, true};
+    std::shared_ptr<Pending> pending = m_pending[realm];
+    if (!pending) {
+        pending = m_pending[realm] = std::make_shared<Pending>();
+        QMetaObject::invokeMethod(
+            this,
+            [this, realm, question] {
+                Questioner questioner;
+                {
+                    const std::scoped_lock inner(m_mutex);
+                    questioner = m_questioner;
+                }
+                if (!questioner)
+                    return answered(realm, std::nullopt);
+                questioner(question, [this, realm](const std::optional<Credentials> &answer) {
+                    answered(realm, answer);
+                });
+            },
+            Qt::QueuedConnection);
+    }
+    while (!pending->answered && !canceled())
+        m_changed.wait_for(lock, kLookAround);
+    return {pending->answer, false};
+}
+
+void CredentialStore::answered(const QString &realm, const std::optional<Credentials> &answer)
+{
+    const std::scoped_lock lock(m_mutex);
+    const auto found = m_pending.find(realm);
+    if (found == m_pending.end())
+        return;
+    if (answer)
+        m_known[realm] = *answer;
+    found->second->answered = true;
+    found->second->answer = answer;
+    m_pending.erase(found);
+    m_changed.notify_all();
+}
+
+} // namespace corvana

@@ -1,0 +1,56 @@
+#include "dialog/server/ServerAddress.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace corvana {
+
+namespace {
+constexpr int kUsualPort = 631;
+constexpr int kHighestPort = 65535;
+} // namespace
+
+ServerAddress ServerAddress::configured()
+{
+    return {QString::fromLocal8Bit(cupsServer()), ippPort(), cupsEncryption()};
+}
+
+std::optional<ServerAddress> ServerAddress::parse(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral(
+        R"(^(?:\[([0-9A-Fa-f:.%]+(?:%[A-Za-z0-9]+)?)\]|([^\s:/\[\]@]+))(?::([0-9]{1,5}))?\z)"));
+    if (text.startsWith(u'/'))
+        return ServerAddress{text, kUsualPort, HTTP_ENCRYPTION_IF_REQUESTED};
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const QString host = match.captured(1).isEmpty() ? match.captured(2) : match.captured(1);
+    const int port = match.captured(3).isEmpty() ? ippPort() : match.captured(3).toInt();
+    if (port < 1 || port > kHighestPort)
+        return std::nullopt;
+    return ServerAddress{host, port, cupsEncryption()};
+}
+
+bool ServerAddress::isLocal() const
+{
+    return host.startsWith(u'/') || host == QLatin1StringView("localhost") ||
+           host == QLatin1StringView("::1") || host.startsWith(QLatin1StringView("127."));
+}
+
+QString ServerAddress::text() const
+{
+    if (host.startsWith(u'/'))
+        return QCoreApplication::translate("ServerAddress", "this computer");
+    return port == kUsualPort ? host : argument();
+}
+
+QString ServerAddress::argument() const
+{
+    if (host.startsWith(u'/'))
+        return host;
+    return (host.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
+        .arg(host)
+        .arg(port);
+}
+
+} // namespace corvana
