@@ -113,7 +113,7 @@ AlertAnswer TerminalAlertPresenter::runModal(const Alert &alert, QWidget *)
     m_shown = true;
     QTextStream(stderr) << alert.messageText << "\n\n" << alert.informativeText << "\n\n";
     AlertAnswer answer;
-    if (m_policy != AlertPolicy::Print)
+    if (m_policy != AlertPolicy::Print && !jobCanWait())
         answer.button = static_cast<int>(alert.buttons.size()) - 1;
     return answer;
 }

@@ -29,15 +29,24 @@ std::optional<AlertPolicy> alertPolicy(const QString &name);
 class TerminalAlertPresenter : public AlertPresenter
 {
 public:
-    explicit TerminalAlertPresenter(AlertPolicy policy) : m_policy(policy) {}
+    /// `canHold`: whether the job can wait where it goes. It then goes on as if the instructions
+    /// had been followed, to wait there for somebody who has.
+    explicit TerminalAlertPresenter(AlertPolicy policy, bool canHold = false)
+        : m_policy(policy), m_canHold(canHold)
+    {
+    }
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override;
 
     /// Whether an alert was shown whose instructions the job has to wait for.
     bool jobMustWait() const { return m_shown && m_policy != AlertPolicy::Print; }
+    AlertPolicy policy() const { return m_policy; }
+    /// Whether it can do so.
+    bool jobCanWait() const { return m_canHold && m_policy == AlertPolicy::Hold; }
 
 private:
     AlertPolicy m_policy;
+    bool m_canHold;
     bool m_shown = false;
 };
 

@@ -2,6 +2,8 @@
 
 #include <QCommandLineParser>
 
+#include "dialog/queues/DevicePrinter.h"
+#include "dialog/server/ServerAddress.h"
 #include "dialog/session/OptionRequest.h"
 
 namespace corvana {
@@ -15,8 +17,13 @@ constexpr int kMostCopies = 9999;
 struct Options
 {
     QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
-                               QStringLiteral("Print to the printer NAME."),
+                               QStringLiteral("Print to the printer NAME: a queue, an instance "
+                                              "NAME/INSTANCE, or an IPP printer ipp://HOST/PATH."),
                                QStringLiteral("NAME")};
+    QCommandLineOption server{
+        QStringLiteral("server"),
+        QStringLiteral("Use the queues of the print server HOST instead of the usual one."),
+        QStringLiteral("HOST[:PORT]")};
     QCommandLineOption ppd{QStringLiteral("ppd"),
                            QStringLiteral("Print for the printer that the PPD FILE describes."),
                            QStringLiteral("FILE")};
@@ -43,8 +50,13 @@ struct Options
     QCommandLineOption onAlert{
         QStringLiteral("on-alert"),
         QStringLiteral("Without a window: what to do when the printer's settings "
-                       "show instructions: print, hold or refuse."),
+                       "show instructions: print, hold or refuse. Usually a queue holds the job, "
+                       "and a file is printed."),
         QStringLiteral("POLICY")};
+    QCommandLineOption noWait{
+        QStringLiteral("no-wait"),
+        QStringLiteral("Without a window: end when the queue has the job, not when it is "
+                       "printed.")};
     QCommandLineOption bundleRoot{
         QStringLiteral("bundle-root"),
         QStringLiteral("Also trust the plug-in bundles in the folder DIR."), QStringLiteral("DIR")};
@@ -57,8 +69,9 @@ struct Options
 
     void addTo(QCommandLineParser &parser) const
     {
-        parser.addOptions({printer, ppd, output, demo, listPrinters, option, copies, title,
-                           noDialog, summary, onAlert, bundleRoot, checkDisplay, help, version});
+        parser.addOptions({printer, server, ppd, output, demo, listPrinters, option, copies, title,
+                           noDialog, summary, onAlert, noWait, bundleRoot, checkDisplay, help,
+                           version});
     }
 };
 
@@ -99,6 +112,16 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     CommandLine line;
     line.printer = parser.value(options.printer);
     line.ppd = parser.value(options.ppd);
+    line.server = parser.value(options.server);
+    if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
+        return notUnderstood(QStringLiteral("--server \"%1\": HOST, HOST:PORT or the path of a "
+                                            "socket was expected.")
+                                 .arg(line.server));
+    if (isDeviceUri(line.printer) && !deviceOfUri(line.printer)) {
+        return notUnderstood(
+            QStringLiteral("-d \"%1\": a URI like ipp://HOST/ipp/print was expected.")
+                .arg(line.printer));
+    }
     line.output = parser.value(options.output);
     line.title = parser.value(options.title);
     line.options = parser.values(options.option);
@@ -110,6 +133,7 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     line.demo = parser.isSet(options.demo);
     line.listPrinters = parser.isSet(options.listPrinters);
     line.noDialog = parser.isSet(options.noDialog);
+    line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
     line.checkDisplay = parser.isSet(options.checkDisplay);
     if (parser.isSet(options.copies)) {

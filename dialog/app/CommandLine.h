@@ -13,7 +13,8 @@ namespace corvana {
 struct CommandLine
 {
     QStringList documents; ///< as given; "-" is standard input
-    QString printer;
+    QString printer;       ///< a name, or the URI of an IPP printer
+    QString server;        ///< "HOST", "HOST:PORT" or a socket; empty for the environment's
     QString ppd;
     QString output;
     QString title;
@@ -25,7 +26,9 @@ struct CommandLine
     bool noDialog = false;
     bool summary = false;
     bool checkDisplay = false;
-    AlertPolicy onAlert = AlertPolicy::Print;
+    bool noWait = false;
+    /// Nothing: what suits where the job goes.
+    std::optional<AlertPolicy> onAlert;
 
     bool operator==(const CommandLine &) const = default;
 };

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QStringList>
+#include <QTemporaryFile>
 
 #include "dialog/queues/Printer.h"
 #include "dialog/session/PanelHost.h"
@@ -12,6 +13,7 @@ namespace corvana {
 
 class Bundle;
 class PDEJobValues;
+struct PrinterCapabilities;
 
 /// One printer, opened: its session and its panels. Another printer, PPD or language needs another
 /// one.
@@ -25,6 +27,12 @@ struct OpenedPrinter
     PDEJobValues *jobValues = nullptr;
     /// The bundle that the panels come from, or null.
     std::shared_ptr<Bundle> bundle;
+    /// What a printer without a PPD of its own can do, and the PPD that was written for it, whose
+    /// choices are said in its own words when it is printed to; null for any other printer.
+    std::shared_ptr<const PrinterCapabilities> capabilities;
+    std::shared_ptr<QTemporaryFile> writtenPpd;
+    /// When the PPD was changed at its server. Units: seconds since 1970; 0 where there is none.
+    qint64 ppdLastModified = 0;
     /// Why the printer has no panels although it should; empty otherwise.
     QString panelProblem;
 };

@@ -1,7 +1,6 @@
 #include "dialog/app/PrintDialog.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -13,7 +12,9 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTextStream>
+#include <QTimer>
 
+#include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/session/JobAttributes.h"
@@ -49,17 +50,18 @@ bool PrintDialog::confirmOverwriting(const QString &file)
 void PrintDialog::accept()
 {
     // Print may be pressed before the first paint, by an Enter that was typed ahead.
-    if (!m_printable || m_job || !bringUpPanels())
+    if (!m_printable || isPrinting() || !bringUpPanels())
         return;
     // A key of the button leaves the focus where it is, and what was typed there untaken.
     m_print->setFocus(Qt::OtherFocusReason);
     const QString output = QDir::fromNativeSeparators(m_output->text());
-    if (output.isEmpty()) {
+    if (printsToFile() && output.isEmpty()) {
         m_message->showMessage(MessageBar::Kind::Problem, tr("Name the file to print to."));
         m_output->setFocus();
         return;
     }
-    if (!readPageRanges() || !confirmOverwriting(output) || !m_printer->panels->shouldPrint())
+    if (!readPageRanges() || (printsToFile() && !confirmOverwriting(output)) ||
+        !m_printer->panels->shouldPrint())
         return;
     if (m_interrupted)
         return; // while an alert was waiting for its answer
@@ -68,10 +70,12 @@ void PrintDialog::accept()
         QTextStream(stdout) << summaryText(
             sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
     const QStringList problems = jobProblems(*m_printer->session, m_printer->jobValues);
-    if (problems.isEmpty())
+    if (!problems.isEmpty())
+        m_message->showMessage(MessageBar::Kind::Problem, problems.join(u'\n'));
+    else if (printsToFile())
         startJob(output);
     else
-        m_message->showMessage(MessageBar::Kind::Problem, problems.join(u'\n'));
+        startServerJob();
 }
 
 // Takes the pages into the job. False when they cannot be understood.
@@ -124,7 +128,76 @@ void PrintDialog::jobFinished(const QString &problem)
         return;
     }
     m_printedTo = QFileInfo(m_jobOutput).absoluteFilePath();
+    m_report = tr("Printed to %1").arg(m_printedTo);
     QDialog::accept();
+}
+
+void PrintDialog::startServerJob()
+{
+    const JobTicket ticket =
+        makeTicket(*m_printer, m_attributes, m_request.title, m_general->copies());
+    ServerJobRequest request =
+        serverJobRequest(*m_printer, m_source.serverOf(m_chosen), m_request, ticket);
+    request.follow = true;
+    request.earlierJob = m_earlierJob;
+    m_message->dismiss();
+    m_serverJob = std::make_unique<ServerJob>();
+    connect(m_serverJob.get(), &ServerJob::progressed, this, &PrintDialog::showProgress);
+    connect(m_serverJob.get(), &ServerJob::finished, this, &PrintDialog::serverJobFinished);
+    showJobRunning(true);
+    m_serverJob->print(request);
+}
+
+void PrintDialog::showProgress(const JobProgress &progress)
+{
+    m_progressText->setText(progress.text());
+    const bool measured = progress.stage == JobProgress::Stage::Sending && progress.total > 0;
+    m_progress->setRange(0, measured ? 100 : 0);
+    if (measured)
+        m_progress->setValue(static_cast<int>(progress.sent * 100 / progress.total));
+    // From here on the job needs this window no more.
+    m_leave->setVisible(m_serverJob->isHandedOver());
+}
+
+void PrintDialog::serverJobFinished(const JobOutcome &outcome)
+{
+    m_serverJob.release()->deleteLater();
+    showJobRunning(false);
+    m_earlierJob = outcome.kind == JobOutcome::Kind::Unknown ? outcome.job : 0;
+    if (outcome.isDone()) {
+        m_report = outcome.text;
+        m_source.rememberUse(m_chosen);
+    }
+    const bool leaves = std::exchange(m_leaving, false);
+    if (outcome.kind == JobOutcome::Kind::Printed || (outcome.isDone() && leaves))
+        return QDialog::accept();
+    if (m_interrupted)
+        return QDialog::reject();
+    switch (outcome.kind) {
+    case JobOutcome::Kind::Printed:
+        break;
+    case JobOutcome::Kind::InQueue:
+        // It waits for something, which somebody has to read before the window goes.
+        m_message->showMessage(MessageBar::Kind::Information, outcome.text);
+        m_cancel->setText(tr("Close"));
+        return;
+    case JobOutcome::Kind::AlreadyThere:
+        m_report = outcome.text;
+        m_message->showMessage(MessageBar::Kind::Information, outcome.text,
+                               tr("Print Another Copy"), [this] { accept(); });
+        m_cancel->setText(tr("Close"));
+        return;
+    case JobOutcome::Kind::PrinterChanged:
+        m_source.retry();
+        [[fallthrough]];
+    case JobOutcome::Kind::Failed:
+    case JobOutcome::Kind::Canceled:
+    case JobOutcome::Kind::Unknown:
+        // The window may be gone when somebody asks what went wrong.
+        if (outcome.kind != JobOutcome::Kind::Canceled)
+            qCWarning(lcPrinting).noquote() << outcome.text;
+        m_message->showMessage(MessageBar::Kind::Problem, outcome.text);
+    }
 }
 
 // Only what would start a second job is disabled: never an ancestor of a panel.
@@ -133,7 +206,15 @@ void PrintDialog::showJobRunning(bool running)
     updatePrintButton();
     m_printers->setEnabled(!running);
     m_progressText->setText(running ? tr("Printing…") : QString());
+    m_progress->setRange(0, 0);
     m_progress->setVisible(running);
+    m_leave->hide();
+    m_cancel->setText(tr("Cancel"));
+    if (!running && m_comesNext)
+        QTimer::singleShot(0, this, [this] {
+            if (m_comesNext)
+                printerReady(ReadyPrinter(*m_comesNext));
+        });
 }
 
 void PrintDialog::interrupt()
@@ -148,10 +229,10 @@ void PrintDialog::interrupt()
 
 void PrintDialog::reject()
 {
-    if (m_job) {
-        m_job->cancel();
-        return;
-    }
+    if (m_job)
+        return m_job->cancel();
+    if (m_serverJob)
+        return m_serverJob->cancel();
     QDialog::reject();
 }
 

@@ -2,13 +2,14 @@
 
 #include <utility>
 
-#include <QComboBox>
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLoggingCategory>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QResizeEvent>
@@ -23,6 +24,8 @@
 #include "dialog/app/Language.h"
 #include "dialog/app/SilencedAlerts.h"
 #include "dialog/app/WindowSize.h"
+#include "dialog/chooser/PrinterComboBox.h"
+#include "dialog/chooser/PrinterStatusLine.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/PanelPage.h"
@@ -37,6 +40,8 @@
 #include "platform/toolkit/Mnemonics.h"
 
 namespace corvana {
+
+Q_LOGGING_CATEGORY(lcDialog, "corvana.dialog.window", QtWarningMsg)
 
 namespace {
 
@@ -54,16 +59,19 @@ QString dialogHelpPage()
 } // namespace
 
 PrintDialog::PrintDialog(PrintRequest request, QWidget *parent)
-    : QDialog(parent), m_request(std::move(request))
+    : QDialog(parent), m_request(std::move(request)),
+      m_credentials(new CredentialStore, [](CredentialStore *store) { store->deleteLater(); }),
+      m_source(m_request, ServerContext{m_request.server, m_credentials})
 {
     buildWindow();
     HelpManager::sharedHelpManager().setViewer(
         [this](const HelpPage &page) { showHelpPage(page); });
-    openChosenPrinter();
+    setUpPrinters();
 }
 
 PrintDialog::~PrintDialog()
 {
+    m_credentials->setQuestioner(nullptr);
     HelpManager::sharedHelpManager().setViewer(nullptr);
     closePrinter();
 }
@@ -72,12 +80,10 @@ void PrintDialog::buildWindow()
 {
     setWindowTitle(tr("Print"));
     setWindowIcon(QIcon::fromTheme(QStringLiteral("document-print")));
-    m_printers = new QComboBox(this);
+    m_printers = new PrinterComboBox(this);
     m_printers->setObjectName(QStringLiteral("printers"));
-    for (const Printer &printer : std::as_const(m_request.printers))
-        m_printers->addItem(printer.description, printer.name);
-    m_printers->setCurrentIndex(m_request.chosenPrinter);
-    ignoreWheelWithoutFocus(m_printers);
+    m_status = new PrinterStatusLine(this);
+    m_status->setObjectName(QStringLiteral("printerStatus"));
     m_document = new QLabel(m_request.title, this);
     m_document->setTextFormat(Qt::PlainText);
     m_document->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -86,11 +92,10 @@ void PrintDialog::buildWindow()
     header->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     header->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     header->addRow(tr("P&rinter:"), m_printers);
+    header->addRow(QString(), m_status);
     header->addRow(tr("Document:"), m_document);
-    QWidget *outputRow = buildOutputRow();
-    header->addRow(tr("Print to &file:"), outputRow);
-    // The row itself takes no focus, so the label's key has to lead to its field.
-    qobject_cast<QLabel *>(header->labelForField(outputRow))->setBuddy(m_output);
+    m_outputRow = buildOutputRow();
+    header->addRow(buildOutputLabel(), m_outputRow);
 
     m_message = new MessageBar(this);
     m_message->setObjectName(QStringLiteral("message"));
@@ -109,12 +114,33 @@ void PrintDialog::buildWindow()
     addPageShortcuts();
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageEntered);
     connectControlAction(m_printers, [this](QWidget *) {
-        if (m_printers->currentIndex() == m_request.chosenPrinter)
+        const std::optional<Printer> picked = m_printers->currentPrinter();
+        if (!picked || idOf(*picked) == idOf(m_chosen))
             return; // picked again: nothing that was set so far is lost
-        m_request.chosenPrinter = m_printers->currentIndex();
-        openChosenPrinter();
-        bringUpPanels();
+        m_chosenByUser = true;
+        choosePrinter(*picked);
     });
+}
+
+// A queue can be printed to a file instead; what else is there prints nowhere but to a file.
+QWidget *PrintDialog::buildOutputLabel()
+{
+    auto *label = new QWidget(this);
+    m_toFile = new QCheckBox(tr("Print to &file:"), label);
+    m_toFile->setObjectName(QStringLiteral("toFile"));
+    m_toFileLabel = new QLabel(tr("Print to &file:"), label);
+    m_toFileLabel->setBuddy(m_output);
+    auto *layout = new QHBoxLayout(label);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addWidget(m_toFile);
+    layout->addWidget(m_toFileLabel);
+    connect(m_toFile, &QCheckBox::clicked, this, [this] {
+        updateDestination();
+        if (m_toFile->isChecked())
+            m_output->setFocus();
+    });
+    return label;
 }
 
 QLayout *PrintDialog::buildFooter()
@@ -140,6 +166,11 @@ QLayout *PrintDialog::buildFooter()
     m_print = new QPushButton(tr("&Print"), this);
     m_print->setObjectName(QStringLiteral("print"));
     m_print->setDefault(true);
+    m_leave = new QPushButton(tr("C&lose"), this);
+    m_leave->setObjectName(QStringLiteral("leave"));
+    m_leave->setAutoDefault(false);
+    m_leave->setToolTip(tr("The job goes on without this window."));
+    m_leave->hide();
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setObjectName(QStringLiteral("cancel"));
     m_cancel->setAutoDefault(false);
@@ -152,6 +183,11 @@ QLayout *PrintDialog::buildFooter()
         updateSilencedAlerts();
     });
     connect(m_print, &QPushButton::clicked, this, &PrintDialog::accept);
+    connect(m_leave, &QPushButton::clicked, this, [this] {
+        m_leaving = m_serverJob && m_serverJob->isHandedOver();
+        if (m_leaving)
+            m_serverJob->letGo();
+    });
     connect(m_cancel, &QPushButton::clicked, this, &PrintDialog::reject);
 
     auto *footer = new QHBoxLayout;
@@ -161,6 +197,7 @@ QLayout *PrintDialog::buildFooter()
     footer->addWidget(m_progressText);
     footer->addWidget(m_progress);
     footer->addWidget(m_print);
+    footer->addWidget(m_leave);
     footer->addWidget(m_cancel);
     return footer;
 }
@@ -196,35 +233,9 @@ QWidget *PrintDialog::buildOutputRow()
     return row;
 }
 
-void PrintDialog::openChosenPrinter()
-{
-    closePrinter();
-    m_message->dismiss(); // and with it an action that was meant for the other printer
-    const Printer &printer = m_request.printers.at(m_request.chosenPrinter);
-    QString error;
-    m_printer = openPrinter(printer, m_request.bundleRoots, m_presenter, &error);
-    m_panelsUp = false;
-    m_printable = m_printer && m_printer->panelProblem.isEmpty();
-    updatePrintButton();
-    if (!m_printer) {
-        m_message->showMessage(MessageBar::Kind::Problem, error);
-        return;
-    }
-    if (!m_printable)
-        m_message->showMessage(
-            MessageBar::Kind::Problem,
-            tr("The printer's own settings are missing: %1").arg(m_printer->panelProblem));
-    connect(m_printer->panels.get(), &PanelHost::settled, this, &PrintDialog::settled);
-    // Later: a panel is in the midst of its work when it says so.
-    connect(m_printer->panels.get(), &PanelHost::viewResized, this, &PrintDialog::followPanelView,
-            Qt::QueuedConnection);
-    updateSilencedAlerts();
-    fillPages();
-}
-
 void PrintDialog::updatePrintButton()
 {
-    m_print->setEnabled(m_printable && !m_job);
+    m_print->setEnabled(m_printable && !isPrinting());
 }
 
 // The panels delete their views, so they go while the pages still stand.
@@ -262,8 +273,11 @@ void PrintDialog::paintEvent(QPaintEvent *event)
 {
     QDialog::paintEvent(event);
     // The panels come up after the first paint, so that the window is there at once.
-    if (!std::exchange(m_painted, true))
+    if (!std::exchange(m_painted, true)) {
         QTimer::singleShot(0, this, &PrintDialog::bringUpPanels);
+        // After that, so that nothing of it delays what is on the screen already.
+        QTimer::singleShot(0, &m_source, &PrinterSource::start);
+    }
 }
 
 // Brings the panels up and the requested options in, once for a printer. False when the options
@@ -276,6 +290,7 @@ bool PrintDialog::bringUpPanels()
     showPanelViews();
     orderFocus();
     const bool applied = applyRequestedOptions();
+    m_opened = m_printer->session->snapshot();
     refreshPages();
     pageEntered(m_pages->currentIndex());
     return applied;
@@ -302,21 +317,46 @@ void PrintDialog::showPanelViews()
 bool PrintDialog::applyRequestedOptions()
 {
     // What happens on the way is part of the outcome, not an event of the user's.
-    m_printer->panels->blockSignals(true);
+    const QSignalBlocker blocker(m_printer->panels.get());
+    m_attributes.clear();
+    const QString &name = m_printer->printer.name;
+    QStringList problems;
+    if (const auto kept = m_kept.constFind(name); kept != m_kept.constEnd()) {
+        problems = applyWhatFits(kept->options, *m_printer, &m_attributes);
+        m_general->setCopies(kept->copies);
+        if (!problems.isEmpty())
+            m_message->showMessage(
+                MessageBar::Kind::Problem,
+                tr("Not everything could be set as before:\n%1").arg(problems.join(u'\n')));
+        showPageRanges();
+        return true;
+    }
+    if (m_printer->printer.origin == PrinterOrigin::Queue) {
+        problems = applyWhatFits(readUserQueues().options.value(name), *m_printer, &m_attributes);
+        for (const QString &problem : std::as_const(problems))
+            qCWarning(lcDialog).noquote() << "lpoptions:" << problem;
+    }
     const OptionOutcome outcome = applyOptions(m_request.options, *m_printer->session,
                                                m_printer->jobValues, *m_printer->panels);
-    m_printer->panels->blockSignals(false);
-    m_attributes = outcome.attributes;
-    for (const JobOption &attribute : std::as_const(m_attributes)) {
-        if (attribute.name == kPageRangesAttribute)
-            m_general->setPageRanges(attribute.value);
+    for (const JobOption &attribute : outcome.attributes) {
+        m_attributes.removeIf([&](const JobOption &a) { return a.name == attribute.name; });
+        m_attributes += attribute;
     }
+    showPageRanges();
     if (!outcome.ok())
         m_message->showMessage(MessageBar::Kind::Problem,
                                tr("None of the options of the command line was set, because of "
                                   "these:\n%1")
                                    .arg(outcome.problems.join(u'\n')));
     return outcome.ok();
+}
+
+void PrintDialog::showPageRanges()
+{
+    for (const JobOption &attribute : std::as_const(m_attributes)) {
+        if (attribute.name == kPageRangesAttribute)
+            m_general->setPageRanges(attribute.value);
+    }
 }
 
 int PrintDialog::panelOfPage(int page) const

@@ -3,15 +3,18 @@
 #include <memory>
 
 #include <QDialog>
+#include <QHash>
 #include <QList>
 
 #include "dialog/app/AlertPresenters.h"
 #include "dialog/app/OpenedPrinter.h"
 #include "dialog/app/PrintRequest.h"
+#include "dialog/app/PrinterSource.h"
 #include "dialog/job/FileQueue.h"
+#include "dialog/job/ServerJob.h"
 #include "platform/foundation/HelpManager.h"
 
-class QComboBox;
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
@@ -25,6 +28,8 @@ class GeneralPage;
 class HelpWindow;
 class MessageBar;
 class PanelPage;
+class PrinterComboBox;
+class PrinterStatusLine;
 class SummaryPage;
 
 /// The print dialog: General, one page for each panel, Summary. It stays open until the job is
@@ -39,8 +44,11 @@ public:
     explicit PrintDialog(PrintRequest request, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
-    /// Where the job was printed to; empty until then.
+    /// The file that the job was printed to; empty until then, and for a job that a queue has.
     QString printedTo() const { return m_printedTo; }
+    /// What became of the job, for the terminal that the program was started from; empty while
+    /// nothing was printed.
+    QString report() const { return m_report; }
 
     /// Ends the dialog from outside, whatever the user is doing: alerts and questions are closed
     /// unanswered, a running job is canceled first.
@@ -58,13 +66,14 @@ private:
     void buildWindow();
     void addPageShortcuts();
     QLayout *buildFooter();
+    QWidget *buildOutputLabel();
     QWidget *buildOutputRow();
-    void openChosenPrinter();
     void closePrinter();
     void fillPages();
     bool bringUpPanels();
     void showPanelViews();
     bool applyRequestedOptions();
+    void showPageRanges();
     void orderFocus();
     void refreshPages();
     void updatePrintButton();
@@ -79,34 +88,78 @@ private:
     void showHelpPage(const HelpPage &page);
     void updateSilencedAlerts();
 
+    // Choosing and opening printers (PrintDialog-printers.cpp)
+
+    /// A job's settings as options, so that they outlive their session.
+    struct KeptSettings
+    {
+        QList<JobOption> options;
+        int copies = 1;
+    };
+
+    void setUpPrinters();
+    void askCredentials(const CredentialsQuestion &question, const CredentialStore::Answer &answer);
+    void choosePrinter(const Printer &printer);
+    void printerReady(const ReadyPrinter &ready);
+    void printerChecked(const Printer &printer);
+    void printerFailed(const QString &problem);
+    void printersListed();
+    void showListState();
+    void openPrinter(const ReadyPrinter &ready);
+    void showWaiting(const QString &text, bool canRetry);
+    bool isUntouched() const;
+    void keepSettings();
+    bool printsToFile() const;
+    void updateDestination();
+
     // Printing (PrintDialog-job.cpp)
 
     void chooseOutput();
     bool readPageRanges();
     void startJob(const QString &output);
     void jobFinished(const QString &problem);
+    void startServerJob();
+    void serverJobFinished(const JobOutcome &outcome);
+    void showProgress(const JobProgress &progress);
     void showJobRunning(bool running);
+    bool isPrinting() const { return m_job || m_serverJob; }
     QString textOf(const OptionChoice &choice) const;
     int panelOfPage(int page) const;
     bool confirmOverwriting(const QString &file);
 
     PrintRequest m_request;
     WindowAlertPresenter m_presenter;
+    std::shared_ptr<CredentialStore> m_credentials;
+    PrinterSource m_source;
+    Printer m_chosen;
+    bool m_chosenByUser = false;
     std::unique_ptr<OpenedPrinter> m_printer;
+    std::optional<ReadyPrinter> m_comesNext; // while the one that is open is in use
+    QHash<QString, KeptSettings> m_kept;     // of printers that were open, by their names
     std::unique_ptr<FileQueue> m_job;
+    std::unique_ptr<ServerJob> m_serverJob;
+    int m_earlierJob = 0;     // sent to the chosen printer, with an unknown fate
+    SessionSnapshot m_opened; // what the printer was set to when it was opened
     QList<JobOption> m_attributes;
     QString m_printedTo;
+    QString m_report;
     QString m_chosenOutput; // the name that the user has confirmed to overwrite
     int m_grownBy = 0;      // the height that panels needed beyond the user's; pixels
     QSize m_followed;       // the window's size when it followed a panel last
     bool m_painted = false;
     bool m_panelsUp = false;
     bool m_interrupted = false;
+    bool m_leaving = false;   // the user does not want to see how the job ends
     bool m_printable = false; // nothing that belongs to the printer is missing
     SessionSnapshot m_shown;  // the state that the pages show
     QString m_jobOutput;      // where the running job goes
 
-    QComboBox *m_printers = nullptr;
+    PrinterComboBox *m_printers = nullptr;
+    PrinterStatusLine *m_status = nullptr;
+    QCheckBox *m_toFile = nullptr;
+    QLabel *m_toFileLabel = nullptr;
+    QWidget *m_outputRow = nullptr;
+    QPushButton *m_leave = nullptr; // lets a job go on without the window
     QLabel *m_document = nullptr;
     MessageBar *m_message = nullptr;
     QTabWidget *m_pages = nullptr;

@@ -42,28 +42,6 @@ QString titleOf(const QList<Document> &documents)
     return others == 0 ? first : Texts::tr("%1 and %n more", nullptr, others).arg(first);
 }
 
-int indexOfPrinter(const QList<Printer> &printers, const QString &name)
-{
-    for (int i = 0; i < printers.size(); ++i) {
-        if (name.isEmpty() || printers.at(i).name == name)
-            return i;
-    }
-    return -1;
-}
-
-QString printerProblem(const QList<Printer> &printers, const QString &name)
-{
-    if (printers.isEmpty())
-        return Texts::tr(
-            "There is no printer. Name one with --ppd FILE, or try the sample printers with "
-            "--demo.");
-    QStringList names;
-    for (const Printer &printer : printers)
-        names += printer.name;
-    return Texts::tr("There is no printer \"%1\". Printers: %2.")
-        .arg(name, names.join(QStringLiteral(", ")));
-}
-
 } // namespace
 
 QList<Printer> offeredPrinters(const CommandLine &line)
@@ -84,7 +62,7 @@ QStringList trustedBundleRoots(const CommandLine &line)
            QStringList{besideProgram(QStringLiteral("../lib/corvana-print/plugins"))};
 }
 
-PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
+std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
     for (const QString &name : line.documents) {
@@ -92,26 +70,36 @@ PrintRequest preparePrintRequest(const CommandLine &line, QString *error)
                                       ? readStandardInput(&request.standardInput, error)
                                       : inspectDocument(name, error);
         if (document.path.isEmpty())
-            return {};
+            return std::nullopt;
         request.documents += document;
     }
-    const QList<Printer> printers = offeredPrinters(line);
-    request.chosenPrinter = indexOfPrinter(printers, line.printer);
-    if (request.chosenPrinter < 0) {
-        *error = printerProblem(printers, line.printer);
-        return {};
-    }
-    request.printers = printers;
+    request.printers = offeredPrinters(line);
+    request.wantedPrinter = line.printer;
+    request.serverWasNamed = !line.server.isEmpty();
+    request.server = request.serverWasNamed
+                         ? ServerAddress::parse(line.server).value_or(ServerAddress::configured())
+                         : ServerAddress::configured();
     request.options = parseOptions(line.options);
     request.bundleRoots = trustedBundleRoots(line);
     request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
+    request.outputWasNamed = !line.output.isEmpty();
     request.output = line.output.isEmpty() && !request.documents.isEmpty()
                          ? freeOutputName(request.documents.constFirst().title)
                          : line.output;
     request.onAlert = line.onAlert;
+    request.noWait = line.noWait;
     request.copies = line.copies;
     request.summary = line.summary;
     return request;
+}
+
+int wantedAmongFiles(const PrintRequest &request)
+{
+    for (int i = 0; i < request.printers.size(); ++i) {
+        if (request.wantedPrinter.isEmpty() || request.printers.at(i).name == request.wantedPrinter)
+            return i;
+    }
+    return -1;
 }
 
 JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,

@@ -1,12 +1,22 @@
 #include "dialog/app/UnattendedRun.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QTextStream>
+#include <QTimer>
 
 #include "dialog/app/AlertPresenters.h"
 #include "dialog/app/OpenedPrinter.h"
+#include "dialog/app/QueueOpening.h"
+#include "dialog/app/TerminalQuestions.h"
 #include "dialog/app/TerminationSignals.h"
 #include "dialog/job/FileQueue.h"
+#include "dialog/job/ServerJob.h"
+#include "dialog/queues/UserQueues.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "platform/toolkit/InterfaceLoader.h"
@@ -33,6 +43,16 @@ QStringList panelProblems(const OpenedPrinter &printer)
     return problems;
 }
 
+// Attributes, with others in place of those of the same name.
+QList<JobOption> replaced(QList<JobOption> attributes, const QList<JobOption> &others)
+{
+    attributes.removeIf([&](const JobOption &attribute) {
+        return std::any_of(others.cbegin(), others.cend(),
+                           [&](const JobOption &other) { return other.name == attribute.name; });
+    });
+    return attributes + others;
+}
+
 QStringList refusalMessages(PpdSession &session)
 {
     QStringList messages;
@@ -42,68 +62,253 @@ QStringList refusalMessages(PpdSession &session)
     return messages;
 }
 
-} // namespace
-
-int runUnattended(const PrintRequest &request)
+QString tr(const char *text)
 {
-    const TerminationSignals termination;
-    TerminalAlertPresenter presenter(request.onAlert);
-    QString error;
-    const auto printer = openPrinter(request.printers.at(request.chosenPrinter),
-                                     request.bundleRoots, presenter, &error);
-    if (!printer)
-        return refused({error});
-    printer->panels->bringUp();
-    if (const QStringList problems = panelProblems(*printer); !problems.isEmpty())
-        return refused(problems);
-    const OptionOutcome options =
-        applyOptions(request.options, *printer->session, printer->jobValues, *printer->panels);
-    if (!options.ok())
-        return refused(options.problems);
+    return QCoreApplication::translate("UnattendedRun", text);
+}
 
-    const bool printing = !request.documents.isEmpty();
-    const bool allowed = !printing || printer->panels->shouldPrint();
-    if (presenter.jobMustWait()) {
-        return refused(
-            {request.onAlert == AlertPolicy::Hold
-                 ? QCoreApplication::translate(
-                       "UnattendedRun",
-                       "The job would have to wait for these instructions, and a file cannot "
-                       "wait. Follow them and print with --on-alert=print.")
-                 : QCoreApplication::translate("UnattendedRun",
-                                               "The printer's settings show instructions.")});
+// How long a server may take to let go of a program that was told to end.
+constexpr std::chrono::milliseconds kPatienceAtEnd{1000};
+
+// Runs a question to a server on its thread while the event loop turns, so that signals end it.
+template <class Answer>
+Answer askServer(const ServerContext &server, const TerminationSignals &termination,
+                 const std::function<Answer(ServerConnection &)> &question)
+{
+    QEventLoop loop;
+    Answer answer;
+    ServerWork work(server, [&loop, &answer, question](ServerWorker &worker) {
+        Answer said = question(worker.connection());
+        worker.post([&loop, &answer, said = std::move(said)] {
+            answer = said;
+            loop.quit();
+        });
+    });
+    const auto end = [&] {
+        work.cancel();
+        // A name that is being looked up cannot be interrupted.
+        QTimer::singleShot(kPatienceAtEnd, &loop, &QEventLoop::quit);
+    };
+    QObject::connect(&termination, &TerminationSignals::received, &loop, end);
+    if (termination.caught())
+        end();
+    loop.exec();
+    return answer;
+}
+
+// The queue that a run without a name prints to.
+struct FoundDefault
+{
+    QString name;
+    ServerProblem problem;
+};
+
+QString noSuchPrinter(const PrintRequest &request)
+{
+    QStringList names;
+    for (const Printer &printer : request.printers)
+        names += printer.name;
+    const QString known = names.isEmpty() ? QString()
+                                          : u' ' + tr("Printers that need no print server: %1.")
+                                                       .arg(names.join(QStringLiteral(", ")));
+    return tr("There is no printer \"%1\" at the print server \"%2\".")
+               .arg(request.wantedPrinter, request.server.text()) +
+           known;
+}
+
+// Finds the queue that is wanted and fetches its PPD. Errors: an empty `ppdPath`.
+ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
+                        const TerminationSignals &termination, QString *error)
+{
+    QString name =
+        request.wantedPrinter.isEmpty() ? readUserQueues().defaultName : request.wantedPrinter;
+    if (name.isEmpty()) {
+        const auto found =
+            askServer<FoundDefault>(*server, termination, [](ServerConnection &connection) {
+                const QString queue = defaultQueue(connection);
+                return FoundDefault{queue, connection.problem()};
+            });
+        if (found.name.isEmpty()) {
+            const bool away = found.problem && found.problem.kind != ServerProblem::Kind::NotFound;
+            *error = tr("There is no default printer.%1 Name a printer with -d, or a PPD with "
+                        "--ppd FILE, or try the sample printers with --demo.")
+                         .arg(away ? u' ' + found.problem.text(server->address) : QString());
+            return {};
+        }
+        name = found.name;
     }
-    if (!allowed)
-        return refused({QCoreApplication::translate("UnattendedRun",
-                                                    "The printer's settings hold the job back.")});
-    QTextStream out(stdout);
-    // Before the ticket: the panels restore and save on the way.
-    if (request.summary)
-        out << summaryText(sessionSummary(*printer->session, *printer->panels, request.copies))
-            << Qt::flush;
-    const QStringList problems =
-        refusalMessages(*printer->session) + jobProblems(*printer->session, printer->jobValues);
-    if (!problems.isEmpty())
-        return refused(problems);
-    const JobTicket ticket =
-        makeTicket(*printer, options.attributes, request.title, request.copies);
-    if (!printing)
-        return 0;
+    const Printer printer = queueNamed(name, &server->address);
+    const PpdCache cache;
+    const auto cached = cache.find(server->address.argument(), name);
+    const auto details = askServer<QueueDetails>(
+        *server, termination,
+        [printer, since = cached ? cached->lastModified : 0](ServerConnection &connection) {
+            return inspectQueue(connection, printer, since);
+        });
+    if (details.state == QueueDetails::Ppd::Unknown) {
+        *error = details.problem.kind == ServerProblem::Kind::NotFound
+                     ? noSuchPrinter(request)
+                     : details.problem.text(server->address);
+        return {};
+    }
+    ReadyPrinter ready = readyPrinter(details, cache, server->address, error);
+    if (details.state == QueueDetails::Ppd::Unchanged)
+        ready.printer.ppdPath = cached->printer.ppdPath;
+    return ready;
+}
 
+int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const JobTicket &ticket,
+                const TerminationSignals &termination)
+{
     FileQueue queue;
     QString problem;
     QObject::connect(&queue, &FileQueue::finished, [&problem](const QString &p) { problem = p; });
     QObject::connect(&termination, &TerminationSignals::received, &queue, &FileQueue::cancel);
-    queue.print(request.documents, ticket, printer->printer.ppdPath, request.output);
+    queue.print(request.documents, ticket, printer.printer.ppdPath, request.output);
     if (termination.caught())
         queue.cancel(); // while the printer was being opened
     if (!queue.wait()) {
         const int status = refused({problem});
         return termination.caught() ? termination.exitStatus() : status;
     }
-    out << QCoreApplication::translate("UnattendedRun", "Printed to %1").arg(request.output)
-        << "\n";
+    QTextStream(stdout) << tr("Printed to %1").arg(request.output) << "\n";
     return 0;
+}
+
+// How a held job is let go, for whoever follows its instructions.
+QString releaseCommand(const PrintRequest &request, const QString &queue, int job)
+{
+    const QString server = request.serverWasNamed
+                               ? QStringLiteral("-h %1 ").arg(request.server.argument())
+                               : QString();
+    return QStringLiteral("lp %1-i %2-%3 -H resume").arg(server, queueOfInstance(queue)).arg(job);
+}
+
+int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
+                  const JobTicket &ticket, const ServerContext &server, bool held,
+                  const TerminationSignals &termination)
+{
+    ServerJob job;
+    QObject::connect(&termination, &TerminationSignals::received, &job, &ServerJob::cancel);
+    // Whoever waits is told what for.
+    QObject::connect(&job, &ServerJob::progressed,
+                     [told = JobProgress::Stage::Sending](const JobProgress &progress) mutable {
+                         if (std::exchange(told, progress.stage) != progress.stage &&
+                             progress.stage == JobProgress::Stage::Stopped)
+                             QTextStream(stderr) << progress.text() << "\n";
+                     });
+    job.print(serverJobRequest(printer, server, request, ticket));
+    if (termination.caught())
+        job.cancel();
+    const JobOutcome outcome = job.wait();
+    QTextStream(outcome.isDone() ? stdout : stderr)
+        << (outcome.isDone() ? QString() : QStringLiteral("corvana-print: ")) << outcome.text
+        << "\n";
+    if (outcome.isDone() && held)
+        QTextStream(stdout) << tr("It waits until the instructions have been followed. Release it "
+                                  "with: %1")
+                                   .arg(releaseCommand(request, printer.printer.name, outcome.job))
+                            << "\n";
+    if (outcome.isDone())
+        return 0;
+    return termination.caught() ? termination.exitStatus() : 1;
+}
+
+} // namespace
+
+int runUnattended(const PrintRequest &request)
+{
+    const TerminationSignals termination;
+    ServerContext server{request.server, std::shared_ptr<CredentialStore>(
+                                             new CredentialStore,
+                                             [](CredentialStore *store) { store->deleteLater(); })};
+    server.credentials->setQuestioner(
+        terminalQuestioner([&termination] { return termination.caught() != 0; }));
+    server.mayAsk = true;
+
+    QString error;
+    const int file = wantedAmongFiles(request);
+    const ReadyPrinter ready = file >= 0 ? ReadyPrinter{request.printers.at(file)}
+                                         : readyQueue(request, &server, termination, &error);
+    if (ready.printer.ppdPath.isEmpty()) {
+        const int status = refused({error});
+        return termination.caught() ? termination.exitStatus() : status;
+    }
+    const bool toFile = request.outputWasNamed || ready.printer.origin == PrinterOrigin::PpdFile;
+    TerminalAlertPresenter presenter(
+        request.onAlert.value_or(toFile ? AlertPolicy::Print : AlertPolicy::Hold), !toFile);
+    const auto printer = openReadyPrinter(ready, request.bundleRoots, presenter, &error);
+    if (!printer)
+        return refused({error});
+    printer->panels->bringUp();
+    if (const QStringList problems = panelProblems(*printer); !problems.isEmpty())
+        return refused(problems);
+    QList<JobOption> attributes;
+    if (ready.printer.origin == PrinterOrigin::Queue) {
+        // A choice of long ago does not stop a job; what this command line says does.
+        const QStringList stale = applyWhatFits(readUserQueues().options.value(ready.printer.name),
+                                                *printer, &attributes);
+        for (const QString &problem : stale)
+            QTextStream(stderr) << "corvana-print: lpoptions: " << problem << "\n";
+    }
+    const OptionOutcome options =
+        applyOptions(request.options, *printer->session, printer->jobValues, *printer->panels);
+    if (!options.ok())
+        return refused(options.problems);
+    attributes = replaced(attributes, options.attributes);
+
+    const bool printing = !request.documents.isEmpty();
+    const bool allowed = !printing || printer->panels->shouldPrint();
+    const bool held = presenter.jobMustWait() && presenter.jobCanWait();
+    if (presenter.jobMustWait() && !held) {
+        return refused({presenter.policy() == AlertPolicy::Hold
+                            ? tr("The job would have to wait for these instructions, and a file "
+                                 "cannot wait. Follow them and print with --on-alert=print.")
+                            : tr("The printer's settings show instructions.")});
+    }
+    if (!allowed)
+        return refused({tr("The printer's settings hold the job back.")});
+    if (held)
+        attributes = replaced(attributes, {{kJobHoldUntilAttribute, kHeldIndefinitely}});
+    // Before the ticket: the panels restore and save on the way.
+    if (request.summary)
+        QTextStream(stdout) << summaryText(
+            sessionSummary(*printer->session, *printer->panels, request.copies));
+    const QStringList problems =
+        refusalMessages(*printer->session) + jobProblems(*printer->session, printer->jobValues);
+    if (!problems.isEmpty())
+        return refused(problems);
+    if (!printing)
+        return 0;
+    const JobTicket ticket = makeTicket(*printer, attributes, request.title, request.copies);
+    return toFile ? printToFile(request, *printer, ticket, termination)
+                  : printToServer(request, *printer, ticket, server, held, termination);
+}
+
+int listPrinters(const PrintRequest &request)
+{
+    const TerminationSignals termination;
+    QTextStream out(stdout);
+    for (const Printer &printer : request.printers)
+        out << printer.name << "\t" << printer.description << "\n";
+    struct Listed
+    {
+        QList<Printer> queues;
+        ServerProblem problem;
+    };
+    const auto listed =
+        askServer<Listed>({request.server}, termination, [](ServerConnection &connection) {
+            Listed all;
+            if (!listQueues(connection, [&](const QList<Printer> &page) { all.queues += page; }))
+                all.problem = connection.problem();
+            return all;
+        });
+    for (const Printer &printer : listed.queues)
+        out << printer.name << "\t" << printer.description << "\n";
+    if (!listed.problem)
+        return 0;
+    QTextStream(stderr) << "corvana-print: " << listed.problem.text(request.server) << "\n";
+    return request.printers.isEmpty() ? 1 : 0;
 }
 
 } // namespace corvana

@@ -7,8 +7,6 @@ namespace corvana {
 
 namespace {
 
-// The dialog's own preferences.
-constexpr QLatin1StringView kDomain{"com.corvana.print.dialog"};
 constexpr QLatin1StringView kWidth{"windowWidth"};
 constexpr QLatin1StringView kHeight{"windowHeight"};
 
@@ -25,9 +23,9 @@ int remembered(const QVariantMap &domain, QLatin1StringView key, int usual, int 
 
 QSize rememberedWindowSize(const QSize &usual, const QSize &screen)
 {
-    const QVariantMap domain =
-        UserDefaults::standardUserDefaults().persistentDomainForName(kDomain).value_or(
-            QVariantMap());
+    const QVariantMap domain = UserDefaults::standardUserDefaults()
+                                   .persistentDomainForName(kDialogDomain)
+                                   .value_or(QVariantMap());
     return {remembered(domain, kWidth, usual.width(), screen.width()),
             remembered(domain, kHeight, usual.height(), screen.height())};
 }
@@ -35,10 +33,10 @@ QSize rememberedWindowSize(const QSize &usual, const QSize &screen)
 void rememberWindowSize(const QSize &size)
 {
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    QVariantMap domain = defaults.persistentDomainForName(kDomain).value_or(QVariantMap());
+    QVariantMap domain = defaults.persistentDomainForName(kDialogDomain).value_or(QVariantMap());
     domain.insert(kWidth, size.width());
     domain.insert(kHeight, size.height());
-    defaults.setPersistentDomain_forName(domain, kDomain);
+    defaults.setPersistentDomain_forName(domain, kDialogDomain);
 }
 
 } // namespace corvana

@@ -37,15 +37,6 @@ bool hasWindows()
     return QGuiApplication::platformName() != QLatin1StringView("offscreen");
 }
 
-int listPrinters(const CommandLine &line)
-{
-    QTextStream out(stdout);
-    const QList<Printer> printers = offeredPrinters(line);
-    for (const Printer &printer : printers)
-        out << printer.name << "\t" << printer.description << "\n";
-    return 0;
-}
-
 int runDialog(const PrintRequest &request)
 {
     const TerminationSignals termination;
@@ -53,10 +44,9 @@ int runDialog(const PrintRequest &request)
     QObject::connect(&termination, &TerminationSignals::received, &dialog, &PrintDialog::interrupt);
     dialog.show();
     dialog.exec();
-    if (dialog.printedTo().isEmpty())
+    if (dialog.report().isEmpty())
         return termination.caught() ? termination.exitStatus() : 1;
-    QTextStream(stdout)
-        << QCoreApplication::translate("main", "Printed to %1").arg(dialog.printedTo()) << "\n";
+    QTextStream(stdout) << dialog.report() << "\n";
     return 0;
 }
 
@@ -87,15 +77,15 @@ int main(int argc, char **argv)
 
     if (line.checkDisplay)
         return hasWindows() ? 0 : 1;
-    if (line.listPrinters)
-        return listPrinters(line);
     if (!unattended && !explicitPlatform && !hasWindows())
         return fail(QCoreApplication::translate(
             "main", "no display can be reached. Print without a window with --no-dialog."));
 
     QString error;
-    const PrintRequest request = preparePrintRequest(line, &error);
-    if (request.printers.isEmpty())
+    const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
+    if (!request)
         return fail(error);
-    return unattended ? runUnattended(request) : runDialog(request);
+    if (line.listPrinters)
+        return listPrinters(*request);
+    return unattended ? runUnattended(*request) : runDialog(*request);
 }

@@ -224,12 +224,16 @@ private:
     }
 
     // Takes back a job that is not to be printed, and says whether that worked.
-    JobOutcome withdraw(JobOutcome::Kind kind, const QString &why)
+    JobOutcome withdraw(JobOutcome::Kind kind, const QString &why, bool mayHavePrinted = false)
     {
         if (cancelJob(another(), m_request.printer, m_job))
             return outcome(
-                kind,
-                Texts::tr("%1 Job %2 was canceled; nothing was printed.").arg(why, jobName()));
+                kind, mayHavePrinted
+                          ? Texts::tr("%1 Job %2 was canceled; pages that the printer has already "
+                                      "may still come out.")
+                                .arg(why, jobName())
+                          : Texts::tr("%1 Job %2 was canceled; nothing was printed.")
+                                .arg(why, jobName()));
         if (m_another->problem().kind == ServerProblem::Kind::Refused ||
             m_another->problem().kind == ServerProblem::Kind::NotFound) {
             // It is over already, one way or the other.
@@ -280,14 +284,17 @@ private:
 
     JobOutcome follow()
     {
+        bool begun = false;
         for (;;) {
             const auto status = lookUpJob(*m_connection, m_request.printer, m_job);
             if (m_worker.isCanceled())
-                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."),
+                                begun);
             if (!status)
                 return lostSight();
             if (status->isOver())
                 return ended(*status);
+            begun = begun || status->state == IPP_JSTATE_PROCESSING;
             const JobProgress progress = progressOf(*status);
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
@@ -304,7 +311,8 @@ private:
             if (!m_request.follow)
                 return inQueue(progress);
             if (!m_worker.sleep(kLookUpInterval))
-                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."),
+                                begun);
         }
     }
 
@@ -503,18 +511,17 @@ void ServerJob::finish(const JobOutcome &outcome)
 {
     qCInfo(lcServerJob).noquote() << outcome.text;
     m_outcome = outcome;
-    QTimer::singleShot(0, this, [this] { Q_EMIT finished(*m_outcome); });
+    QTimer::singleShot(0, this, [this] {
+        m_told = true;
+        Q_EMIT finished(*m_outcome);
+    });
 }
 
 JobOutcome ServerJob::wait()
 {
     QEventLoop loop;
-    bool done = false;
-    connect(this, &ServerJob::finished, &loop, [&] {
-        done = true;
-        loop.quit();
-    });
-    if (!done)
+    connect(this, &ServerJob::finished, &loop, &QEventLoop::quit);
+    if (!m_told)
         loop.exec();
     return *m_outcome;
 }

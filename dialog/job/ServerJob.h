@@ -120,6 +120,7 @@ private:
     std::optional<JobOutcome> m_outcome;
     bool m_canceled = false;
     bool m_handedOver = false;
+    bool m_told = false;
 };
 
 } // namespace corvana

@@ -33,6 +33,7 @@ struct Printer
     QString uri{};              ///< "ipp://…" by which jobs are sent; empty for PPD files
     QString deviceUri{};        ///< the device behind a queue: two queues may have the same
     QStringList authInfo{};     ///< what the device wants to know ("username", "password")
+    int configured = 0;         ///< when its administrator changed it last, in the server's count
     bool isClass = false;       ///< several printers behind one name
     bool isDefault = false;     ///< the user's default
 

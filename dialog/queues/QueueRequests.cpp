@@ -25,6 +25,7 @@ const QList<const char *> kListed{"printer-name",
                                   "printer-type",
                                   "printer-uri-supported",
                                   "device-uri",
+                                  "printer-config-change-time",
                                   "auth-info-required"};
 
 PrinterState stateOf(int value)
@@ -81,6 +82,8 @@ Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next)
         else if (name == QLatin1StringView("printer-type"))
             printer.isClass =
                 (static_cast<unsigned>(ippNumber(attribute)) & CUPS_PRINTER_CLASS) != 0;
+        else if (name == QLatin1StringView("printer-config-change-time"))
+            printer.configured = ippNumber(attribute);
         else if (name == QLatin1StringView("device-uri"))
             printer.deviceUri = ippText(attribute);
         else if (name == QLatin1StringView("auth-info-required"))

@@ -25,7 +25,7 @@ std::optional<ServerAddress> ServerAddress::parse(const QString &text)
     if (!match.hasMatch())
         return std::nullopt;
     const QString host = match.captured(1).isEmpty() ? match.captured(2) : match.captured(1);
-    const int port = match.captured(3).isEmpty() ? ippPort() : match.captured(3).toInt();
+    const int port = match.captured(3).isEmpty() ? kUsualPort : match.captured(3).toInt();
     if (port < 1 || port > kHighestPort)
         return std::nullopt;
     return ServerAddress{host, port, cupsEncryption()};

@@ -85,8 +85,9 @@ bool ServerConnection::open()
             fail(ServerProblem::Kind::Canceled);
         else if (error == ETIMEDOUT || error == EINPROGRESS)
             fail(ServerProblem::Kind::NoAnswer);
-        else
-            fail(ServerProblem::Kind::Unreachable, QString::fromUtf8(cupsLastErrorString()));
+        else // libcups says "Host is down" of every host that it does not get to
+            fail(ServerProblem::Kind::Unreachable,
+                 error == EHOSTDOWN ? QString() : QString::fromUtf8(cupsLastErrorString()));
         return false;
     }
     httpSetTimeout(m_http, kLookAround, &ServerConnection::waitedLong, this);

@@ -30,8 +30,8 @@ struct ServerPatience
 /// Which server, and who is asked for passwords.
 struct ServerContext
 {
-    ServerAddress address;
-    std::shared_ptr<CredentialStore> credentials; ///< may be null: nobody is asked
+    ServerAddress address{};
+    std::shared_ptr<CredentialStore> credentials{}; ///< may be null: nobody is asked
     /// Whether the user is waiting for it and may be asked; what runs in the background may not.
     bool mayAsk = false;
     ServerPatience patience = ServerPatience::fromEnvironment();

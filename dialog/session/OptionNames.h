@@ -21,5 +21,8 @@ inline constexpr QLatin1StringView kCustomChoice{"Custom"};
 inline constexpr QLatin1StringView kCustomPrefix{"Custom."};
 /// The job attribute that the General page offers.
 inline constexpr QLatin1StringView kPageRangesAttribute{"page-ranges"};
+/// What makes a job wait in its queue until somebody releases it.
+inline constexpr QLatin1StringView kJobHoldUntilAttribute{"job-hold-until"};
+inline constexpr QLatin1StringView kHeldIndefinitely{"indefinite"};
 
 } // namespace corvana

@@ -1,0 +1,198 @@
+#include "dialog/app/PrinterSource.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFile>
+
+#include "dialog/app/LastPrinter.h"
+#include "dialog/queues/DevicePrinter.h"
+
+namespace corvana {
+
+namespace {
+
+const Printer *find(const QList<Printer> &printers, const QString &name)
+{
+    const auto found = std::find_if(printers.cbegin(), printers.cend(),
+                                    [&](const Printer &printer) { return printer.name == name; });
+    return found == printers.cend() ? nullptr : &*found;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+PrinterSource::PrinterSource(const PrintRequest &request, ServerContext server, QObject *parent)
+    : QObject(parent), m_files(request.printers), m_wanted(request.wantedPrinter),
+      m_userQueues(readUserQueues()), m_queues(std::move(server), m_userQueues),
+      m_deviceServer(m_queues.context())
+{
+    connect(&m_queues, &QueueList::changed, this, [this] {
+        follow();
+        Q_EMIT listChanged();
+    });
+    if (!m_files.isEmpty())
+        return;
+    // Where it cannot be written, there is none; the printers of the list are not touched by that.
+    QString error;
+    m_filePrinter = filePrinter(&error);
+}
+
+void PrinterSource::start()
+{
+    m_queues.start();
+}
+
+QList<Printer> PrinterSource::printers() const
+{
+    QList<Printer> all = m_files + m_queues.printers();
+    if (m_open.origin == PrinterOrigin::Device)
+        all.prepend(m_open);
+    if (!m_filePrinter.printer.ppdPath.isEmpty())
+        all += m_filePrinter.printer;
+    return all;
+}
+
+std::optional<Printer> PrinterSource::expected() const
+{
+    const QList<Printer> &queues = m_queues.printers();
+    if (queues.isEmpty())
+        return std::nullopt;
+    const Printer *byDefault = find(queues, m_queues.defaultName());
+    return byDefault ? *byDefault : queues.constFirst();
+}
+
+Printer PrinterSource::first()
+{
+    m_provisional = false;
+    if (const Printer *file = m_wanted.isEmpty() ? nullptr : find(m_files, m_wanted))
+        return *file;
+    if (m_wanted.isEmpty() && !m_files.isEmpty())
+        return m_files.constFirst();
+    QString name = m_wanted.isEmpty() ? m_userQueues.defaultName : m_wanted;
+    if (name.isEmpty())
+        name = lastPrinter(m_queues.context().address.argument());
+    if (name.isEmpty()) {
+        m_provisional = true;
+        return m_filePrinter.printer;
+    }
+    Printer printer = queueNamed(name, &m_deviceServer.address);
+    if (printer.origin == PrinterOrigin::Device)
+        return printer;
+    const auto cached = m_cache.find(m_queues.context().address.argument(), name);
+    return cached ? cached->printer : printer;
+}
+
+const ServerContext &PrinterSource::serverOf(const Printer &printer) const
+{
+    return printer.origin == PrinterOrigin::Device ? m_deviceServer : m_queues.context();
+}
+
+void PrinterSource::open(const Printer &printer)
+{
+    m_inspection = {};
+    m_open = printer;
+    m_openModified = 0;
+    m_openIsReady = false;
+    m_configured = 0;
+    if (printer.origin == PrinterOrigin::PpdFile) {
+        m_openIsReady = true;
+        const bool isFilePrinter = printer.ppdPath == m_filePrinter.printer.ppdPath;
+        Q_EMIT ready(isFilePrinter ? m_filePrinter : ReadyPrinter{printer});
+        return;
+    }
+    if (printer.origin == PrinterOrigin::Queue) {
+        const QString server = m_queues.context().address.argument();
+        if (const auto cached = m_cache.find(server, printer.name)) {
+            ReadyPrinter known{printer, cached->lastModified};
+            known.printer.ppdPath = cached->printer.ppdPath;
+            m_open.ppdPath = known.printer.ppdPath;
+            m_openModified = cached->lastModified;
+            m_openIsReady = true;
+            Q_EMIT ready(known);
+        }
+    }
+    inspect(false);
+}
+
+void PrinterSource::retry()
+{
+    if (m_open.origin != PrinterOrigin::PpdFile)
+        inspect(true);
+}
+
+void PrinterSource::inspect(bool mayAsk)
+{
+    ServerContext server = serverOf(m_open);
+    server.mayAsk = mayAsk;
+    m_inspection =
+        ServerWork(server, [this, printer = m_open, since = m_openModified](ServerWorker &worker) {
+            const QueueDetails details = inspectQueue(worker.connection(), printer, since);
+            worker.post([this, details] { inspected(details); });
+        });
+}
+
+void PrinterSource::inspected(const QueueDetails &details)
+{
+    if (details.state == QueueDetails::Ppd::Unknown) {
+        const QString problem = details.problem.kind == ServerProblem::Kind::NotFound
+                                    ? tr("There is no printer “%1” at “%2”.")
+                                          .arg(m_open.name, serverOf(m_open).address.text())
+                                    : details.problem.text(serverOf(m_open).address);
+        Q_EMIT failed(problem);
+        return;
+    }
+    const QByteArray before = m_openIsReady ? contentOf(m_open.ppdPath) : QByteArray();
+    QString error;
+    ReadyPrinter now = readyPrinter(details, m_cache, serverOf(m_open).address, &error);
+    if (details.state == QueueDetails::Ppd::Unchanged)
+        now.printer.ppdPath = m_open.ppdPath;
+    if (now.printer.ppdPath.isEmpty()) {
+        Q_EMIT failed(error);
+        return;
+    }
+    const bool same = m_openIsReady && contentOf(now.printer.ppdPath) == before;
+    m_open = now.printer;
+    m_openModified = details.lastModified;
+    m_configured = details.printer.configured;
+    m_openIsReady = true;
+    if (same)
+        Q_EMIT checked(now.printer);
+    else
+        Q_EMIT ready(now);
+}
+
+// The list is looked at every few seconds; what it says of the open queue is news as well.
+void PrinterSource::follow()
+{
+    if (m_open.origin != PrinterOrigin::Queue || !m_openIsReady ||
+        m_queues.state() == QueueList::State::Failed)
+        return;
+    const Printer *now = find(m_queues.printers(), m_open.name);
+    if (!now) {
+        if (m_queues.state() == QueueList::State::Known)
+            Q_EMIT failed(tr("There is no printer “%1” at “%2” any more.")
+                              .arg(m_open.name, m_queues.context().address.text()));
+        return;
+    }
+    Printer printer = *now;
+    printer.ppdPath = m_open.ppdPath;
+    m_open = printer;
+    Q_EMIT checked(printer);
+    // An administrator has been at it: its options may be others.
+    if (std::exchange(m_configured, now->configured) != now->configured && m_openModified > 0)
+        inspect(false);
+}
+
+void PrinterSource::rememberUse(const Printer &printer) const
+{
+    if (printer.origin == PrinterOrigin::Queue)
+        rememberPrinter(m_queues.context().address.argument(), printer.name);
+}
+
+} // namespace corvana

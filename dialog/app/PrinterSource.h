@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QObject>
+
+#include "dialog/app/QueueOpening.h"
+#include "dialog/queues/QueueList.h"
+
+namespace corvana {
+
+/// Where the dialog's printers come from: the list of all of them, and the one that is to be
+/// opened, from the cache at once where it was used before, and from its server. Knows no widget.
+///
+/// Thread: GUI thread; servers are asked on others.
+class PrinterSource : public QObject
+{
+    Q_OBJECT
+
+public:
+    PrinterSource(const PrintRequest &request, ServerContext server, QObject *parent = nullptr);
+
+    /// Looks for queues from now on. Not before: the window comes first.
+    void start();
+
+    /// Those of PPD files, then the queues; behind them the one that prints into a file, where
+    /// there is no other of its kind.
+    QList<Printer> printers() const;
+    const QueueList &queues() const { return m_queues; }
+    /// The printer of the list that a user would expect to be chosen; nothing while none is known.
+    std::optional<Printer> expected() const;
+
+    /// What to open first, of what is known without asking anybody: the printer that was named, the
+    /// user's default, the one used last, else the one that prints into a file.
+    Printer first();
+    /// Whether first() is only there because nobody has been asked yet.
+    bool firstIsProvisional() const { return m_provisional; }
+
+    /// Opens a printer: ready() follows, at once where nobody has to be asked, and once more when
+    /// the server says otherwise; or failed().
+    void open(const Printer &printer);
+    /// Asks again for the printer that is open; a password may be asked for.
+    void retry();
+    /// The user has seen that there is something to do about the list.
+    void retryList() { m_queues.retry(); }
+
+    const ServerContext &serverOf(const Printer &printer) const;
+
+    /// The printer is now the one to open first next time.
+    void rememberUse(const Printer &printer) const;
+
+Q_SIGNALS:
+    /// printers() or the state of the list.
+    void listChanged();
+    /// The printer can be opened, or has to be opened anew because its options are others now.
+    void ready(const corvana::ReadyPrinter &printer);
+    /// What its server says of the printer that is open, which otherwise is as it was.
+    void checked(const corvana::Printer &printer);
+    /// The printer that is to be opened, or is open, could not be asked for.
+    void failed(const QString &problem);
+
+private:
+    void inspect(bool mayAsk);
+    void inspected(const QueueDetails &details);
+    void follow();
+
+    QList<Printer> m_files;
+    ReadyPrinter m_filePrinter;
+    QString m_wanted;
+    UserQueues m_userQueues;
+    PpdCache m_cache;
+    QueueList m_queues;
+    ServerContext m_deviceServer; // of an IPP printer without a queue
+    ServerWork m_inspection;
+    Printer m_open;
+    qint64 m_openModified = 0;
+    bool m_openIsReady = false;
+    bool m_provisional = false;
+    int m_configured = 0; // when the open queue was changed last, by its server's count
+};
+
+} // namespace corvana

@@ -1,0 +1,139 @@
+#include "dialog/app/QueueOpening.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include "dialog/queues/CapabilityPpd.h"
+#include "dialog/queues/DevicePrinter.h"
+#include "dialog/queues/StandardJobOptions.h"
+#include "dialog/queues/UserQueues.h"
+#include "dialog/session/OptionRequest.h"
+
+namespace corvana {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(QueueOpening)
+};
+
+// Null when it cannot be written; `error` says why.
+std::shared_ptr<QTemporaryFile> temporaryPpd(const QByteArray &content, QString *error)
+{
+    auto file = std::make_shared<QTemporaryFile>(
+        QDir::temp().filePath(QStringLiteral("corvana-print-XXXXXX.ppd")));
+    if (file->open() && file->write(content) == content.size() && file->flush())
+        return file;
+    *error = Texts::tr("The printer's options cannot be written to %1: %2")
+                 .arg(QDir::tempPath(), file->errorString());
+    return nullptr;
+}
+
+ReadyPrinter withWrittenPpd(Printer printer, const PrinterCapabilities &capabilities,
+                            QString *error)
+{
+    ReadyPrinter ready;
+    ready.writtenPpd = temporaryPpd(ppdOfCapabilities(capabilities), error);
+    if (ready.writtenPpd)
+        printer.ppdPath = ready.writtenPpd->fileName();
+    ready.printer = printer;
+    ready.capabilities = std::make_shared<const PrinterCapabilities>(capabilities);
+    return ready;
+}
+
+} // namespace
+
+ReadyPrinter readyPrinter(const QueueDetails &details, const PpdCache &cache,
+                          const ServerAddress &server, QString *error)
+{
+    ReadyPrinter ready{details.printer, details.lastModified};
+    if (details.state == QueueDetails::Ppd::None)
+        return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()), error);
+    if (details.state != QueueDetails::Ppd::New)
+        return ready;
+    ready.printer.ppdPath =
+        cache.store(server.argument(), details.printer, details.ppd, details.lastModified);
+    if (ready.printer.ppdPath.isEmpty()) {
+        // Without a cache it works as well, only not while the server is away.
+        ready.writtenPpd = temporaryPpd(details.ppd, error);
+        if (ready.writtenPpd)
+            ready.printer.ppdPath = ready.writtenPpd->fileName();
+    }
+    return ready;
+}
+
+Printer queueNamed(const QString &name, ServerAddress *server)
+{
+    if (const auto device = deviceOfUri(name)) {
+        *server = device->address;
+        return device->printer;
+    }
+    Printer printer;
+    printer.origin = PrinterOrigin::Queue;
+    printer.name = name;
+    printer.description = name;
+    printer.uri = queueUri(queueOfInstance(name));
+    return printer;
+}
+
+ReadyPrinter filePrinter(QString *error)
+{
+    Printer printer;
+    printer.name = QStringLiteral("file");
+    printer.description = Texts::tr("PostScript File");
+    return withWrittenPpd(printer, PrinterCapabilities(), error);
+}
+
+std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
+                                                const QStringList &bundleRoots,
+                                                AlertPresenter &presenter, QString *error)
+{
+    auto opened = openPrinter(ready.printer, bundleRoots, presenter, error);
+    if (opened) {
+        opened->capabilities = ready.capabilities;
+        opened->writtenPpd = ready.writtenPpd;
+        opened->ppdLastModified = ready.ppdLastModified;
+    }
+    return opened;
+}
+
+ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,
+                                  const PrintRequest &request, const JobTicket &ticket)
+{
+    ServerJobRequest job;
+    job.server = server;
+    job.server.mayAsk = true;
+    job.printer = printer.printer;
+    job.documents = request.documents;
+    job.ticket = ticket;
+    job.ppdPath = printer.printer.ppdPath;
+    job.ppdLastModified = printer.ppdLastModified;
+    job.follow = !request.noWait;
+    if (printer.capabilities) {
+        job.ticket.options = standardJobOptions(ticket.options, *printer.capabilities);
+        if (printer.printer.origin == PrinterOrigin::Device)
+            job.formats = printer.capabilities->documentFormats;
+    }
+    return job;
+}
+
+QStringList applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer,
+                          QList<JobOption> *attributes)
+{
+    const auto apply = [&](const QList<JobOption> &some) {
+        const OptionOutcome outcome =
+            applyOptions(some, *printer.session, printer.jobValues, *printer.panels);
+        *attributes += outcome.attributes;
+        return outcome.problems;
+    };
+    if (options.isEmpty() || apply(options).isEmpty())
+        return {};
+    // Together they cannot be taken, so each for itself, as far as they go.
+    QStringList problems;
+    for (const JobOption &option : options)
+        problems += apply({option});
+    return problems;
+}
+
+} // namespace corvana
