@@ -238,12 +238,15 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
         addStepsToUnite(documents, ticket, ppdPath, filter, whole.path);
     }
-    m_steps.push_back({filter,
-                       conversionArguments(whole, ppdPath, kPrinterFormat,
-                                           {QStringLiteral("-t"), ticket.title,
-                                            QStringLiteral("-n"), QString::number(ticket.copies)},
-                                           ticket.options),
-                       m_result->fileName()});
+    m_steps.push_back(
+        {filter,
+         // The PPD's own filters are used only on demand; without them everything
+         // would become PostScript.
+         conversionArguments(whole, ppdPath, kPrinterFormat,
+                             {QStringLiteral("-e"), QStringLiteral("-t"), ticket.title,
+                              QStringLiteral("-n"), QString::number(ticket.copies)},
+                             ticket.options),
+         m_result->fileName()});
     return {};
 }
 

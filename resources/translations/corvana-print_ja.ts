@@ -127,6 +127,216 @@
     </message>
 </context>
 <context>
+    <name>PrinterTexts</name>
+    <message>
+        <source>connecting</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>driver not trusted by the server</source>
+        <translation>サーバーがドライバーを信頼していません</translation>
+    </message>
+    <message>
+        <source>driver missing on the server</source>
+        <translation>サーバーにドライバーがありません</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>電源オフ</translation>
+    </message>
+    <message>
+        <source>developer used up</source>
+        <translation>現像剤切れ</translation>
+    </message>
+    <message>
+        <source>developer low</source>
+        <translation>現像剤残りわずか</translation>
+    </message>
+    <message>
+        <source>door open</source>
+        <translation>ドアが開いています</translation>
+    </message>
+    <message>
+        <source>fuser too hot</source>
+        <translation>定着器が高温</translation>
+    </message>
+    <message>
+        <source>fuser too cold</source>
+        <translation>定着器が低温</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>新しいジョブは保留されます</translation>
+    </message>
+    <message>
+        <source>tray missing</source>
+        <translation>給紙トレイなし</translation>
+    </message>
+    <message>
+        <source>ink or toner used up</source>
+        <translation>インクまたはトナー切れ</translation>
+    </message>
+    <message>
+        <source>ink or toner low</source>
+        <translation>インクまたはトナー残りわずか</translation>
+    </message>
+    <message>
+        <source>waste container almost full</source>
+        <translation>廃トナー容器がほぼ満杯</translation>
+    </message>
+    <message>
+        <source>waste container full</source>
+        <translation>廃トナー容器が満杯</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>用紙切れ</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>紙づまり</translation>
+    </message>
+    <message>
+        <source>paper low</source>
+        <translation>用紙残りわずか</translation>
+    </message>
+    <message>
+        <source>paper needed</source>
+        <translation>用紙を補給してください</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>一時停止しています</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>drum used up</source>
+        <translation>ドラム寿命</translation>
+    </message>
+    <message>
+        <source>drum nearly used up</source>
+        <translation>ドラム寿命間近</translation>
+    </message>
+    <message>
+        <source>output tray almost full</source>
+        <translation>排紙トレイがほぼ満杯</translation>
+    </message>
+    <message>
+        <source>output tray full</source>
+        <translation>排紙トレイが満杯</translation>
+    </message>
+    <message>
+        <source>output tray missing</source>
+        <translation>排紙トレイなし</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>print queue full</source>
+        <translation>印刷キューが満杯</translation>
+    </message>
+    <message>
+        <source>partly stopped</source>
+        <translation>一部停止中</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>停止しています</translation>
+    </message>
+    <message>
+        <source>not answering</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>toner used up</source>
+        <translation>トナー切れ</translation>
+    </message>
+    <message>
+        <source>toner low</source>
+        <translation>トナー残りわずか</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>Prints to a file</source>
+        <translation>ファイルに印刷</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the words of a printer&apos;s state</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>No longer available</source>
+        <translation>利用できなくなりました</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>停止中: %1</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <comment>location, state</comment>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>location, state</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>名前: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>場所: %1</translation>
+    </message>
+    <message>
+        <source>Model: %1</source>
+        <translation>機種: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <translation>状態: %1</translation>
+    </message>
+    <message>
+        <source>Message: %1</source>
+        <translation>メッセージ: %1</translation>
+    </message>
+    <message>
+        <source>Address: %1</source>
+        <translation>アドレス: %1</translation>
+    </message>
+</context>
+<context>
     <name>Summary</name>
     <message>
         <source>Copies</source>
@@ -410,6 +620,51 @@
     <message>
         <source>Printing</source>
         <translation>印刷中</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterComboBox</name>
+    <message>
+        <source>Choose a printer</source>
+        <translation>プリンターを選択</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterPopup</name>
+    <message>
+        <source>Printers</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Search by name or location</source>
+        <translation>名前または場所で検索</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>プリンターを検索</translation>
+    </message>
+    <message>
+        <source>No printer was found</source>
+        <translation>プリンターが見つかりません</translation>
+    </message>
+    <message>
+        <source>No printer matches</source>
+        <translation>一致するプリンターはありません</translation>
+    </message>
+    <message>
+        <source>%1 of %2 printers</source>
+        <translation>%2 台中 %1 台</translation>
+    </message>
+    <message>
+        <source>%1 printers</source>
+        <translation>%1 台のプリンター</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterStatusLine</name>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
     </message>
 </context>
 <context>

@@ -127,6 +127,216 @@
     </message>
 </context>
 <context>
+    <name>PrinterTexts</name>
+    <message>
+        <source>connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>机盖打开</translation>
+    </message>
+    <message>
+        <source>driver not trusted by the server</source>
+        <translation>服务器不信任驱动程序</translation>
+    </message>
+    <message>
+        <source>driver missing on the server</source>
+        <translation>服务器上缺少驱动程序</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>已关闭电源</translation>
+    </message>
+    <message>
+        <source>developer used up</source>
+        <translation>显影剂用尽</translation>
+    </message>
+    <message>
+        <source>developer low</source>
+        <translation>显影剂不足</translation>
+    </message>
+    <message>
+        <source>door open</source>
+        <translation>机门打开</translation>
+    </message>
+    <message>
+        <source>fuser too hot</source>
+        <translation>定影器温度过高</translation>
+    </message>
+    <message>
+        <source>fuser too cold</source>
+        <translation>定影器温度过低</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>新作业将被保留</translation>
+    </message>
+    <message>
+        <source>tray missing</source>
+        <translation>缺少纸盒</translation>
+    </message>
+    <message>
+        <source>ink or toner used up</source>
+        <translation>墨水或墨粉用尽</translation>
+    </message>
+    <message>
+        <source>ink or toner low</source>
+        <translation>墨水或墨粉不足</translation>
+    </message>
+    <message>
+        <source>waste container almost full</source>
+        <translation>废粉盒将满</translation>
+    </message>
+    <message>
+        <source>waste container full</source>
+        <translation>废粉盒已满</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>缺纸</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>卡纸</translation>
+    </message>
+    <message>
+        <source>paper low</source>
+        <translation>纸张不足</translation>
+    </message>
+    <message>
+        <source>paper needed</source>
+        <translation>需要装纸</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>正在暂停</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>drum used up</source>
+        <translation>感光鼓寿命已尽</translation>
+    </message>
+    <message>
+        <source>drum nearly used up</source>
+        <translation>感光鼓寿命将尽</translation>
+    </message>
+    <message>
+        <source>output tray almost full</source>
+        <translation>出纸盘将满</translation>
+    </message>
+    <message>
+        <source>output tray full</source>
+        <translation>出纸盘已满</translation>
+    </message>
+    <message>
+        <source>output tray missing</source>
+        <translation>缺少出纸盘</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>print queue full</source>
+        <translation>打印队列已满</translation>
+    </message>
+    <message>
+        <source>partly stopped</source>
+        <translation>部分停止</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>正在停止</translation>
+    </message>
+    <message>
+        <source>not answering</source>
+        <translation>无响应</translation>
+    </message>
+    <message>
+        <source>toner used up</source>
+        <translation>墨粉用尽</translation>
+    </message>
+    <message>
+        <source>toner low</source>
+        <translation>墨粉不足</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Prints to a file</source>
+        <translation>打印到文件</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the words of a printer&apos;s state</comment>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>No longer available</source>
+        <translation>不再可用</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>已停止：%1</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>不接受作业</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>不接受作业</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <comment>location, state</comment>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>location, state</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>名称：%1</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>位置：%1</translation>
+    </message>
+    <message>
+        <source>Model: %1</source>
+        <translation>型号：%1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <translation>状态：%1</translation>
+    </message>
+    <message>
+        <source>Message: %1</source>
+        <translation>消息：%1</translation>
+    </message>
+    <message>
+        <source>Address: %1</source>
+        <translation>地址：%1</translation>
+    </message>
+</context>
+<context>
     <name>Summary</name>
     <message>
         <source>Copies</source>
@@ -410,6 +620,51 @@
     <message>
         <source>Printing</source>
         <translation>正在打印</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterComboBox</name>
+    <message>
+        <source>Choose a printer</source>
+        <translation>选择打印机</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterPopup</name>
+    <message>
+        <source>Printers</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Search by name or location</source>
+        <translation>按名称或位置搜索</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>搜索打印机</translation>
+    </message>
+    <message>
+        <source>No printer was found</source>
+        <translation>未找到打印机</translation>
+    </message>
+    <message>
+        <source>No printer matches</source>
+        <translation>没有匹配的打印机</translation>
+    </message>
+    <message>
+        <source>%1 of %2 printers</source>
+        <translation>%1/%2 台打印机</translation>
+    </message>
+    <message>
+        <source>%1 printers</source>
+        <translation>%1 台打印机</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterStatusLine</name>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
     </message>
 </context>
 <context>

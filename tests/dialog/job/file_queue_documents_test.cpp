@@ -233,9 +233,9 @@ private Q_SLOTS:
         }
         const QStringList whole = lines(u"arguments-whole.pdf"_s);
         QCOMPARE(whole.mid(2, whole.size() - 3),
-                 (QStringList{u"-i"_s, u"application/pdf"_s, u"-m"_s, u"printer/foo"_s, u"-t"_s,
-                              u"Title"_s, u"-n"_s, u"3"_s, u"-o"_s, u"PageSize=A5"_s, u"-o"_s,
-                              u"page-ranges=2-3,7"_s, u"-o"_s, u"Tray=Lower"_s}));
+                 (QStringList{u"-i"_s, u"application/pdf"_s, u"-m"_s, u"printer/foo"_s, u"-e"_s,
+                              u"-t"_s, u"Title"_s, u"-n"_s, u"3"_s, u"-o"_s, u"PageSize=A5"_s,
+                              u"-o"_s, u"page-ranges=2-3,7"_s, u"-o"_s, u"Tray=Lower"_s}));
     }
 
     void eachDocumentKeepsItsFormat()

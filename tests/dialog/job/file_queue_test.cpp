@@ -82,6 +82,7 @@ private Q_SLOTS:
                                    u"text/plain"_s,
                                    u"-m"_s,
                                    u"printer/foo"_s,
+                                   u"-e"_s,
                                    u"-t"_s,
                                    u"Bericht 日報"_s,
                                    u"-n"_s,

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLabel>
+
+namespace corvana {
+
+/// `text` with "…" where it is wider than `width`. What comes after `head`, with which the text
+/// begins, is cut only when the head has become short: of a printer in a place with a long name the
+/// state is worth more than the end of that name. Units: pixels
+QString elidedLine(const QFontMetrics &metrics, const QString &text, const QString &head,
+                   int width);
+
+/// A line of plain text that ends with "…" where it has no room; the whole text is then in its tool
+/// tip. Assistive technology gets the whole text at any width.
+class ElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedLabel(QWidget *parent = nullptr);
+
+    /// The text begins with `head`, which is cut first (elidedLine()).
+    void setLine(const QString &text, const QString &head = {});
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    /// What there is room for now.
+    QString shownText() const;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_head;
+};
+
+} // namespace corvana

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+
+#include <QWidget>
+
+#include "dialog/chooser/PrinterTexts.h"
+
+class QLabel;
+class QPushButton;
+
+namespace corvana {
+
+class ElidedLabel;
+
+/// One line below the chosen printer: where it stands and what it is doing, or what is wrong, with
+/// a button to try again. Plain text, cut off where it has no room; the whole is in the tool tip.
+class PrinterStatusLine : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PrinterStatusLine(QWidget *parent = nullptr);
+
+    void setPrinter(const Printer &printer, Presence presence = Presence::Listed);
+    /// Shows a problem instead of a printer, and says it to assistive technology. Without `retry`
+    /// there is no button. The problem stays until the next call.
+    void setProblem(const QString &text, const std::function<void()> &retry = {});
+    /// Shows nothing; the line keeps its place.
+    void clear();
+
+    QString text() const;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showLine(const QIcon &icon, const QString &text, const QString &head,
+                  const std::function<void()> &retry);
+    void updateIcon();
+
+    QLabel *m_icon;
+    ElidedLabel *m_text;
+    QPushButton *m_retryButton;
+    QIcon m_shownIcon;
+    std::function<void()> m_retry;
+};
+
+} // namespace corvana
