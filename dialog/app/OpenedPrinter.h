@@ -38,8 +38,8 @@ struct OpenedPrinter
 };
 
 /// Opens a printer. Panels come from the plug-in bundle in the first of the `bundleRoots` that
-/// holds it, when the PPD wants them; without them the printer has the General page only, and the
-/// log says why. Errors: null; `error` says what is wrong with the PPD.
+/// holds it, when the PPD wants them; without them the printer has the General page and the list of
+/// its options only, and the log says why. Errors: null; `error` says what is wrong with the PPD.
 std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error);
 

@@ -17,6 +17,7 @@
 #include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
+#include "dialog/pages/OptionsPage.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
@@ -60,7 +61,7 @@ void PrintDialog::accept()
         m_output->setFocus();
         return;
     }
-    if (!readPageRanges() || (printsToFile() && !confirmOverwriting(output)) ||
+    if (!finishOptions() || !readPageRanges() || (printsToFile() && !confirmOverwriting(output)) ||
         !m_printer->panels->shouldPrint())
         return;
     if (m_interrupted)
@@ -98,6 +99,16 @@ bool PrintDialog::readPageRanges()
     }
     m_attributes += JobOption{kPageRangesAttribute, ranges};
     return true;
+}
+
+// False when a value that is being entered cannot be taken; its page says why.
+bool PrintDialog::finishOptions()
+{
+    if (!m_options || m_options->finishEditing())
+        return true;
+    m_pages->setCurrentWidget(m_options);
+    m_options->focusEditor();
+    return false;
 }
 
 void PrintDialog::startJob(const QString &output)

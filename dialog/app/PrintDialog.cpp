@@ -28,6 +28,7 @@
 #include "dialog/chooser/PrinterStatusLine.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
+#include "dialog/pages/OptionsPage.h"
 #include "dialog/pages/PanelPage.h"
 #include "dialog/pages/SummaryPage.h"
 #include "dialog/session/OptionNames.h"
@@ -249,6 +250,7 @@ void PrintDialog::closePrinter()
         delete m_pages->widget(0);
     m_panelPages.clear();
     m_general = nullptr;
+    m_options = nullptr;
     m_summary = nullptr;
 }
 
@@ -263,6 +265,11 @@ void PrintDialog::fillPages()
         auto *page = new PanelPage;
         m_panelPages += page;
         m_pages->addTab(page, withoutMnemonic(panel->panelName()));
+    }
+    if (m_panelPages.isEmpty() && OptionsPage::hasOptions(*m_printer->session)) {
+        m_options = new OptionsPage(*m_printer->session);
+        m_pages->addTab(m_options, tr("Options"));
+        connect(m_options, &OptionsPage::proposed, this, &PrintDialog::propose);
     }
     m_summary = new SummaryPage;
     m_pages->addTab(m_summary, tr("Summary"));
@@ -388,6 +395,8 @@ void PrintDialog::orderFocus()
 void PrintDialog::refreshPages()
 {
     m_general->refresh();
+    if (m_options)
+        m_options->refresh();
     if (m_pages->currentWidget() == m_summary)
         m_summary->setLines(
             sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));

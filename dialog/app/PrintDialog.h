@@ -27,12 +27,14 @@ namespace corvana {
 class GeneralPage;
 class HelpWindow;
 class MessageBar;
+class OptionsPage;
 class PanelPage;
 class PrinterComboBox;
 class PrinterStatusLine;
 class SummaryPage;
 
-/// The print dialog: General, one page for each panel, Summary. It stays open until the job is
+/// The print dialog: General, one page for each panel (the options of a printer without any),
+/// Summary. It stays open until the job is
 /// printed or the user cancels; a failure leaves every setting in place.
 ///
 /// Ownership: of the session and its panels, which go before the window's own widgets do.
@@ -116,6 +118,7 @@ private:
 
     void chooseOutput();
     bool readPageRanges();
+    bool finishOptions();
     void startJob(const QString &output);
     void jobFinished(const QString &problem);
     void startServerJob();
@@ -165,6 +168,7 @@ private:
     QTabWidget *m_pages = nullptr;
     GeneralPage *m_general = nullptr;
     QList<PanelPage *> m_panelPages;
+    OptionsPage *m_options = nullptr; // of a printer without panels
     SummaryPage *m_summary = nullptr;
     QLineEdit *m_output = nullptr;
     QPushButton *m_helpButton = nullptr;

@@ -1,5 +1,6 @@
 #include "dialog/session/CustomValue.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -132,14 +133,35 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
     const auto bounds = range(parameter);
     if (!bounds) {
         const int length = static_cast<int>(text.toUtf8().size());
+        const bool digits =
+            parameter->type != PPD_CUSTOM_PASSCODE ||
+            std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
         const bool fits = length >= parameter->minimum.custom_string &&
-                          length <= parameter->maximum.custom_string && !text.contains(u'\n');
+                          length <= parameter->maximum.custom_string && digits &&
+                          !text.contains(u'\n');
         return fits ? CustomValueCheck{value, refused.allowed} : refused;
     }
     const std::optional<double> given = strictNumber(parameter, text);
     if (!given || *given < bounds->first || *given > bounds->second)
         return refused;
     return {value, refused.allowed};
+}
+
+std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword)
+{
+    using Kind = CustomLimits::Kind;
+    const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
+    if (!parameter)
+        return std::nullopt;
+    if (const auto bounds = range(parameter)) {
+        return CustomLimits{parameter->type == PPD_CUSTOM_POINTS ? Kind::Points : Kind::Number,
+                            number(parameter, bounds->first), number(parameter, bounds->second)};
+    }
+    const bool hidden =
+        parameter->type == PPD_CUSTOM_PASSCODE || parameter->type == PPD_CUSTOM_PASSWORD;
+    return CustomLimits{hidden ? Kind::HiddenText : Kind::Text,
+                        QString::number(parameter->minimum.custom_string),
+                        QString::number(parameter->maximum.custom_string)};
 }
 
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)

@@ -22,6 +22,21 @@ struct CustomValueCheck
 /// (`Custom.WIDTHxHEIGHT` with an optional unit: pt, in, ft, cm, mm, m; points without one).
 CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const QString &value);
 
+/// What a person can enter as the custom value of an option.
+struct CustomLimits
+{
+    enum class Kind { Number, Points, Text, HiddenText };
+
+    Kind kind = Kind::Number;
+    QString least; ///< of a text: how many bytes of UTF-8 it has at least
+    QString most;
+
+    bool isText() const { return kind == Kind::Text || kind == Kind::HiddenText; }
+};
+
+/// The limits of an option with exactly one custom parameter; nothing for any other.
+std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword);
+
 /// What the PPD takes as custom values of an option; empty when it takes none.
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword);
 

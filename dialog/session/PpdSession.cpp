@@ -78,6 +78,15 @@ QString PpdSession::markedChoice(const QString &keyword) const
     return marked ? ppdKeyword(marked->choice) : QString();
 }
 
+bool PpdSession::differsFromDefault(const QString &keyword) const
+{
+    ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
+    const ppd_choice_t *byDefault =
+        option ? ppdChoice(option, ppdKeyword(option->defchoice)) : nullptr;
+    return byDefault && (markedChoice(keyword) != ppdKeyword(byDefault->choice) ||
+                         !customValue(keyword).isNull());
+}
+
 ChangeResult PpdSession::change(const QString &keyword, const QString &choice, Origin origin)
 {
     using Outcome = ChangeResult::Outcome;
@@ -207,6 +216,10 @@ QList<Refusal> PpdSession::takeRefusals()
 
 void PpdSession::mark(const QString &keyword, const QString &choice)
 {
+    // Of an option that allows several choices at once libcups would keep the former ones, too.
+    if (const ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
+        option && option->ui == PPD_UI_PICKMANY)
+        unmark(m_ppd.get(), keyword);
     ppdMarkOption(m_ppd.get(), keyword.toLatin1().constData(), choice.toLatin1().constData());
     if (choice.startsWith(kCustomPrefix))
         m_customValues.insert(keyword, choice);

@@ -85,6 +85,10 @@ public:
     /// The custom value of an option that is marked "Custom" ("Custom.100x200mm"); null otherwise.
     QString customValue(const QString &keyword) const { return m_customValues.value(keyword); }
 
+    /// Whether an option is at another choice than the printer's default. False where the PPD names
+    /// no default that is one of the option's choices.
+    bool differsFromDefault(const QString &keyword) const;
+
     /// Marks a choice and records it, unless it is unknown or a constraint of the PPD refuses it.
     /// A custom value is written `Custom.…` and must have been checked (see CustomValue.h).
     ChangeResult change(const QString &keyword, const QString &choice, Origin origin);

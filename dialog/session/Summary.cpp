@@ -3,13 +3,36 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include "dialog/session/CustomValue.h"
 #include "dialog/session/OptionNames.h"
 
 namespace corvana {
 
+namespace {
+
+constexpr int kHiddenLength = 6; // whatever the password has: its length is a part of it
+
+bool isHidden(const PpdSession &session, const QString &keyword)
+{
+    const auto limits = customLimits(session.ppd(), keyword);
+    return limits && limits->kind == CustomLimits::Kind::HiddenText;
+}
+
+} // namespace
+
 QStringList generalOptionKeywords()
 {
     return {kDuplexOption, kPageSizeOption, kOutputOption, kColorMatchingModeOption};
+}
+
+QList<ppd_option_t *> furtherOptions(const PpdSession &session)
+{
+    QList<ppd_option_t *> options = session.options();
+    const QStringList general = generalOptionKeywords();
+    options.removeIf([&](const ppd_option_t *option) {
+        return option->num_choices == 0 || general.contains(ppdKeyword(option->keyword));
+    });
+    return options;
 }
 
 SummaryLine optionLine(const PpdSession &session, const QString &keyword)
@@ -28,8 +51,12 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
         };
         const QString form = inches ? QCoreApplication::translate("Summary", "%1 × %2 inches")
                                     : QCoreApplication::translate("Summary", "%1 × %2 mm");
-        value = keyword == kPageSizeOption ? form.arg(length(paper.width), length(paper.height))
-                                           : custom.mid(kCustomPrefix.size());
+        if (keyword == kPageSizeOption)
+            value = form.arg(length(paper.width), length(paper.height));
+        else if (isHidden(session, keyword))
+            value = QString(kHiddenLength, u'•');
+        else
+            value = custom.mid(kCustomPrefix.size());
     }
     return {ppdText(option->text).value_or(keyword), value};
 }
@@ -45,7 +72,15 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
         if (!line.title.isEmpty())
             lines += line;
     }
-    return lines + panelLines;
+    if (!panels.panels().isEmpty())
+        return lines + panelLines;
+    // Hundreds of options that nobody touched would hide the few that somebody did.
+    for (const ppd_option_t *option : furtherOptions(session)) {
+        if (const QString keyword = ppdKeyword(option->keyword);
+            session.differsFromDefault(keyword))
+            lines += optionLine(session, keyword);
+    }
+    return lines;
 }
 
 QString summaryText(const QList<SummaryLine> &lines)

@@ -10,10 +10,16 @@ namespace corvana {
 /// The options of the PPD that the General page offers, in its order, as far as a printer has them.
 QStringList generalOptionKeywords();
 
+/// The other options of the PPD that have choices, in its order: what a printer without panels is
+/// set with beside the General page.
+QList<ppd_option_t *> furtherOptions(const PpdSession &session);
+
 /// Title and value of one option's mark, in the PPD's words; both empty when the PPD lacks it.
+/// Passwords are not shown.
 SummaryLine optionLine(const PpdSession &session, const QString &keyword);
 
-/// The whole summary in display order: copies, the options of the General page, the panels.
+/// The whole summary in display order: copies, the options of the General page, the panels; without
+/// panels those of the other options that differ from the printer's defaults.
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies);
 
 /// The summary as "Title: Value" lines.

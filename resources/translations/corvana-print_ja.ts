@@ -375,6 +375,45 @@
     </message>
 </context>
 <context>
+    <name>corvana::ChoiceEditor</name>
+    <message>
+        <source>“%1: %2”</source>
+        <translation>「%1: %2」</translation>
+    </message>
+    <message>
+        <source>%1 to %2 points</source>
+        <translation>%1～%2 ポイント</translation>
+    </message>
+    <message>
+        <source>%1 to %2 characters</source>
+        <translation>%1～%2 文字（半角）</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is not possible for %2. Allowed: %3.</source>
+        <translation>「%1」は%2に指定できません。指定できる値: %3</translation>
+    </message>
+    <message>
+        <source>This is not possible for %1. Allowed: %2.</source>
+        <translation>この値は%1に指定できません。指定できる値: %2</translation>
+    </message>
+    <message>
+        <source>Cannot be combined with %1.</source>
+        <translation>%1と同時に指定できません。</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CustomPaperSize</name>
     <message>
         <source>From %1 to %2</source>
@@ -491,6 +530,50 @@
     <message>
         <source>Dismiss this message</source>
         <translation>このメッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::OptionsModel</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Installable Options</source>
+        <translation>取り付け可能なオプション</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1
+For the command line: %2</source>
+        <translation>%1
+コマンドラインでの指定: %2</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>初期設定: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::OptionsPage</name>
+    <message>
+        <source>Back to the Default</source>
+        <translation>初期設定に戻す</translation>
+    </message>
+    <message>
+        <source>Search options and choices</source>
+        <translation>オプションと設定値を検索</translation>
+    </message>
+    <message>
+        <source>Options of the printer</source>
+        <translation>プリンターのオプション</translation>
+    </message>
+    <message>
+        <source>Nothing contains “%1”.</source>
+        <translation>「%1」を含むものはありません。</translation>
     </message>
 </context>
 <context>
@@ -620,6 +703,10 @@
     <message>
         <source>Printing</source>
         <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
     </message>
 </context>
 <context>

@@ -375,6 +375,45 @@
     </message>
 </context>
 <context>
+    <name>corvana::ChoiceEditor</name>
+    <message>
+        <source>“%1: %2”</source>
+        <translation>“%1：%2”</translation>
+    </message>
+    <message>
+        <source>%1 to %2 points</source>
+        <translation>%1 到 %2 点</translation>
+    </message>
+    <message>
+        <source>%1 to %2 characters</source>
+        <translation>%1 到 %2 个字符（半角）</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>“%1” is not possible for %2. Allowed: %3.</source>
+        <translation>%2 不能设为“%1”。允许的值：%3。</translation>
+    </message>
+    <message>
+        <source>This is not possible for %1. Allowed: %2.</source>
+        <translation>%1 不能设为此值。允许的值：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot be combined with %1.</source>
+        <translation>不能与%1同时使用。</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CustomPaperSize</name>
     <message>
         <source>From %1 to %2</source>
@@ -491,6 +530,50 @@
     <message>
         <source>Dismiss this message</source>
         <translation>关闭此消息</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::OptionsModel</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Installable Options</source>
+        <translation>可安装选件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1
+For the command line: %2</source>
+        <translation>%1
+命令行用法：%2</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>默认值：%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::OptionsPage</name>
+    <message>
+        <source>Back to the Default</source>
+        <translation>恢复默认值</translation>
+    </message>
+    <message>
+        <source>Search options and choices</source>
+        <translation>搜索选项和设定值</translation>
+    </message>
+    <message>
+        <source>Options of the printer</source>
+        <translation>打印机选项</translation>
+    </message>
+    <message>
+        <source>Nothing contains “%1”.</source>
+        <translation>没有包含“%1”的内容。</translation>
     </message>
 </context>
 <context>
@@ -620,6 +703,10 @@
     <message>
         <source>Printing</source>
         <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
     </message>
 </context>
 <context>

@@ -20,11 +20,14 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 #include "dialog/app/PrintDialog.h"
 #include "dialog/app/Translations.h"
+#include "tests/dialog/support/TestPrinters.h"
 
 using namespace corvana;
+using namespace corvana::test;
 
 namespace {
 
@@ -282,6 +285,60 @@ private Q_SLOTS:
         QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
         QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
         QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+    }
+
+    void theOptionsOfAPrinterWithoutPanelsAreWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QString>("edited");
+        for (const bool dark : {false, true}) {
+            for (const char *edited : {"", "Media", "Sleep"})
+                QTest::addRow("options%s%s_%s", *edited ? "_" : "", edited, dark ? "dark" : "light")
+                    << dark << QString::fromLatin1(edited);
+        }
+    }
+
+    void theOptionsOfAPrinterWithoutPanelsAreWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(QString, edited);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        const QTemporaryDir folder;
+        PrintRequest office =
+            request({QStringLiteral("PageSize=Postcard Staple=Left Sleep=Custom.12 Tray2=ON Pin=Custom.1234")});
+        office.printers = {
+            {QStringLiteral("office"), QStringLiteral("Office"),
+             writeFile(folder.filePath(QStringLiteral("office.ppd")), officePrinter().text()), 1}};
+        office.chosenPrinter = 0;
+        PrintDialog dialog(office);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        dialog.activateWindow();
+        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        QCOMPARE(pages->count(), 3);
+        pages->setCurrentIndex(1);
+        auto *options = dialog.findChild<QTreeView *>(QStringLiteral("options"));
+        // The options are taken after the first paint.
+        auto *sizes = dialog.findChild<QComboBox *>(QStringLiteral("PageSize"));
+        QTRY_COMPARE(sizes->currentIndex(), 1);
+        const QModelIndexList found =
+            options->model()->match(options->model()->index(0, 0), Qt::UserRole, edited, 1,
+                                    Qt::MatchExactly | Qt::MatchRecursive);
+        if (!found.isEmpty()) {
+            options->setFocus();
+            options->setCurrentIndex(found.constFirst().siblingAtColumn(1));
+            QTest::keyClick(options, Qt::Key_Return);
+        }
+        QTest::qWait(50);
+        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        if (QWidget *list = QApplication::activePopupWidget())
+            save(*list,
+                 QStringLiteral("list_%1").arg(QString::fromLatin1(QTest::currentDataTag())));
+        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
+        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(options->horizontalScrollBar()->maximum(), 0);
     }
 
     void everyAdvancedOptionIsWhole_data()

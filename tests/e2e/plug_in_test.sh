@@ -118,7 +118,7 @@ aMissingStringTableIsNoReasonNotToPrint() {
 
 # A printer of another kind
 
-aPrinterThatThePlugInDoesNotKnowHasTheGeneralPageOnly() {
+aPrinterThatThePlugInDoesNotKnowHasNoPanels() {
     changed_ppd '/QXPrintDialogExtension/d; /QXColorMatching/d; s/^\*CloseUI: \*QXColorMatching//'
     environment+=("QT_LOGGING_RULES=corvana.*=true")
     print -o QXMediaType=Thick
@@ -127,7 +127,8 @@ aPrinterThatThePlugInDoesNotKnowHasTheGeneralPageOnly() {
     expect_said 'has no panels' "$bundle" QXColorMatching
     sed -i '$d' "$work/out"
     expect_equal "$(sed 's/:.*//' "$work/out" | tr '\n' ';')" \
-        'Copies;Two-Sided Printing;Paper Size;Output To;Colors Matched By;'
+        'Copies;Two-Sided Printing;Paper Size;Output To;Colors Matched By;Media Type;'
+    expect_lines 'Media Type: Thick Paper' # of the other options what is not at its default
     # The panels would have refused saving toner at this resolution.
     print -o QXResolution=1200dpi -o TonerSaveMode=ON
     expect_printed

@@ -1,12 +1,17 @@
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTest>
+#include <QTreeView>
 
 #include "dialog/app/PrintDialog.h"
+#include "dialog/session/OptionRequest.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -38,6 +43,45 @@ private:
         m_dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
         QTRY_VERIFY(!m_dialog->findChildren<QScrollArea *>().isEmpty());
+    }
+    /// A printer without panels; the filter notes its arguments, one a line.
+    void openOffice(const QStringList &options, const PpdBuilder &ppd = officePrinter())
+    {
+        m_filter = std::make_unique<FakeFilter>("printf '%s\\n' \"$@\" >$DIR/arguments; echo ok\n");
+        writeFile(m_filter->ppdPath(), ppd.text());
+        PrintRequest request;
+        request.documents = {m_filter->document()};
+        request.title = u"Job"_s;
+        request.output = m_filter->output();
+        request.options = options.isEmpty() ? QList<JobOption>() : parseOptions(options);
+        request.printers = {small()};
+        m_dialog = std::make_unique<PrintDialog>(request);
+        m_dialog->show();
+        m_dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    }
+    QModelIndex option(const QString &keyword)
+    {
+        const QAbstractItemModel *model = control<QTreeView>(u"options"_s)->model();
+        return model
+            ->match(model->index(0, 0), Qt::UserRole, keyword, 1,
+                    Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0)
+            .siblingAtColumn(1);
+    }
+    QString shown(const QString &keyword) { return option(keyword).data().toString(); }
+    /// Goes to an option and types the beginning of a choice, or a value in place of the former.
+    void choose(const QString &keyword, const QString &typed)
+    {
+        auto *list = control<QTreeView>(u"options"_s);
+        list->setCurrentIndex(option(keyword));
+        if (!list->isAncestorOf(QApplication::focusWidget()))
+            list->setFocus();
+        else
+            control<QLineEdit>(u"customValue"_s)->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), typed.left(1));
+        QTest::keyClicks(QApplication::focusWidget(), typed.mid(1));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     }
     static Printer sample() { return {u"cl5"_s, u"CL"_s, samplePpdPath(), 5}; }
     Printer small() const { return {u"small"_s, u"Small"_s, m_filter->ppdPath(), 1}; }
@@ -158,6 +202,82 @@ private Q_SLOTS:
         QVERIFY(pick(control<QComboBox>(u"printers"_s), u"Second"_s));
         QTRY_VERIFY(before.isNull());
         QTRY_COMPARE(panelViews().size(), 2);
+    }
+
+    void aPrinterWithoutPanelsShowsItsOptionsAsTheCommandLineSetThem()
+    {
+        openOffice({u"Tray=Lower Sleep=Custom.12"_s});
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        QCOMPARE(pages->count(), 3);
+        QCOMPARE(pages->tabText(1), u"Options"_s);
+        QTRY_COMPARE(shown(u"Tray"_s), u"Lower Tray"_s);
+        QCOMPARE(shown(u"Sleep"_s), u"Custom: 12"_s);
+        pages->setCurrentIndex(2);
+        const auto *summary = control<QTableWidget>(u"summary"_s);
+        QStringList lines;
+        for (int row = 0; row < summary->rowCount(); ++row)
+            lines += summary->item(row, 0)->text() + u": "_s + summary->item(row, 1)->text();
+        QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Two-Sided: Off"_s, u"Paper Size: A4"_s,
+                                     u"Paper Source: Lower Tray"_s, u"Sleep Time: 12"_s}));
+    }
+
+    void theOptionsOfAPrinterWithoutPanelsArePrinted()
+    {
+        openOffice({});
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        choose(u"Tray"_s, u"upper"_s);
+        QCOMPARE(shown(u"Tray"_s), u"Upper Tray"_s);
+        control<QPushButton>(u"print"_s)->click();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isVisible(), 10000);
+        const QByteArrayList arguments = m_filter->content(u"arguments"_s).split('\n');
+        QVERIFY(arguments.contains("Tray=Upper"));
+        QVERIFY(arguments.contains("Media=Plain"));
+    }
+
+    void aRefusedOptionIsPutBackAndTheWayOutTakesIt()
+    {
+        openOffice({u"Staple=Left"_s});
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
+        choose(u"Media"_s, u"trans"_s);
+        QVERIFY2(message().contains(u"Top Left"_s), qPrintable(message()));
+        QCOMPARE(shown(u"Media"_s), u"Plain Paper"_s);
+        control<QPushButton>(u"messageAction"_s)->click();
+        QCOMPARE(shown(u"Media"_s), u"Transparency"_s);
+        QCOMPARE(shown(u"Staple"_s), u"Off"_s);
+    }
+
+    void aValueThatCannotBeTakenHoldsTheJobBack()
+    {
+        openOffice({u"Sleep=Custom.12"_s});
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        pages->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Sleep"_s), u"Custom: 12"_s);
+        choose(u"Sleep"_s, u"100"_s);
+        pages->setCurrentIndex(0);
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_dialog->isVisible());
+        QCOMPARE(pages->currentIndex(), 1);
+        QVERIFY(control<QLabel>(u"hint"_s)->text().contains(u"1 to 99"_s));
+        QCOMPARE(control<QLineEdit>(u"customValue"_s)->text(), u"100"_s);
+        QVERIFY(control<QLineEdit>(u"customValue"_s)->hasFocus());
+        choose(u"Sleep"_s, u"42"_s);
+        control<QPushButton>(u"print"_s)->click();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isVisible(), 10000);
+        QVERIFY(m_filter->content(u"arguments"_s).split('\n').contains("Sleep=Custom.42"));
+    }
+
+    void panelsLeaveNoPlaceForTheOptions()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        QVERIFY(!control<QTreeView>(u"options"_s));
+    }
+
+    void aPrinterWithoutFurtherOptionsHasNoPageForThem()
+    {
+        openOffice({}, PpdBuilder());
+        QCOMPARE(control<QTabWidget>(u"pages"_s)->count(), 2);
     }
 
     void aRefusedPickOffersTheWayOut()

@@ -220,6 +220,58 @@ private Q_SLOTS:
         QFETCH(QString, keyword);
         QTEST(allowedCustomValues(m_custom->ppd(), keyword), "allowed");
     }
+
+    void theLimitsAreThoseOfThePpd_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::addColumn<CustomLimits::Kind>("kind");
+        QTest::addColumn<QString>("least");
+        QTest::addColumn<QString>("most");
+        using Kind = CustomLimits::Kind;
+        const auto row = [](const QString &keyword, Kind kind, const QString &least,
+                            const QString &most) {
+            QTest::newRow(qPrintable(keyword)) << keyword << kind << least << most;
+        };
+        row(u"int"_s, Kind::Number, u"-5"_s, u"99"_s);
+        row(u"real"_s, Kind::Number, u"10"_s, u"20"_s);
+        row(u"curve"_s, Kind::Number, u"10"_s, u"20"_s);
+        row(u"points"_s, Kind::Points, u"10"_s, u"20"_s);
+        row(u"string"_s, Kind::Text, u"10"_s, u"20"_s);
+        row(u"password"_s, Kind::HiddenText, u"10"_s, u"20"_s);
+        row(u"passcode"_s, Kind::HiddenText, u"10"_s, u"20"_s);
+    }
+    void theLimitsAreThoseOfThePpd()
+    {
+        QFETCH(QString, keyword);
+        QFETCH(CustomLimits::Kind, kind);
+        QFETCH(QString, least);
+        QFETCH(QString, most);
+        PpdBuilder ppd;
+        ppd.option("int", "int", "A", {{"A", "A"}}).customInteger("int", "P", "P", -5, 99);
+        for (const char *type : {"real", "curve", "points", "string", "password", "passcode"})
+            ppd.option(type, type, "A", {{"A", "A"}}).customOfType(type, "P", type);
+        const auto session = sessionFor(ppd);
+        const auto limits = customLimits(session->ppd(), keyword);
+        QVERIFY(limits);
+        QCOMPARE(limits->kind, kind);
+        QCOMPARE(limits->least, least);
+        QCOMPARE(limits->most, most);
+    }
+
+    void withoutExactlyOneParameterThereAreNoLimits()
+    {
+        const auto session = sessionFor(officePrinter());
+        for (const QString &keyword : {u"Shift"_s, u"Tray"_s, u"PageSize"_s, u"Nothing"_s})
+            QVERIFY(!customLimits(session->ppd(), keyword));
+    }
+
+    void aPasscodeIsDigits()
+    {
+        const auto session = sessionFor(officePrinter());
+        QVERIFY(checkCustomValue(session->ppd(), u"Pin"_s, u"Custom.4711"_s).value);
+        QVERIFY(!checkCustomValue(session->ppd(), u"Pin"_s, u"Custom.471x"_s).value);
+        QVERIFY(!checkCustomValue(session->ppd(), u"Pin"_s, u"Custom.471"_s).value);
+    }
 };
 
 QTEST_GUILESS_MAIN(CustomValueTest)

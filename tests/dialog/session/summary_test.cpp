@@ -45,6 +45,34 @@ private Q_SLOTS:
                  (QList<SummaryLine>{{u"Copies"_s, u"1"_s}, {u"Paper Size"_s, u"A4"_s}}));
     }
 
+    void withoutPanelsTheOtherOptionsAreToldThatDifferFromTheDefault()
+    {
+        const auto session = sessionFor(smallPrinter());
+        PanelHost panels(*session, nullptr, m_presenter);
+        const QList<SummaryLine> before = sessionSummary(*session, panels, 1);
+        session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
+        session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
+        QCOMPARE(
+            sessionSummary(*session, panels, 1),
+            (before + QList<SummaryLine>{{u"Tray"_s, u"Lower Tray"_s}, {u"Boost"_s, u"On"_s}}));
+    }
+
+    void aPasswordIsNotTold()
+    {
+        const auto session = sessionFor(officePrinter());
+        session->change(u"Pin"_s, u"Custom.4711"_s, Origin::Dialog);
+        QCOMPARE(optionLine(*session, u"Pin"_s), (SummaryLine{u"PIN Code"_s, u"••••••"_s}));
+    }
+
+    void whatTheGeneralPageOffersIsNoFurtherOption()
+    {
+        const auto session = sessionFor(smallPrinter());
+        QStringList keywords;
+        for (const ppd_option_t *option : furtherOptions(*session))
+            keywords += ppdKeyword(option->keyword);
+        QCOMPARE(keywords, (QStringList{u"Tray"_s, u"Media"_s, u"Boost"_s}));
+    }
+
     void aMarkThatAPanelChangesForItsSummaryIsTheMarkThatIsTold()
     {
         const auto session = sessionFor(smallPrinter());

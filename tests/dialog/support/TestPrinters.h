@@ -31,6 +31,12 @@ inline std::unique_ptr<PpdSession> sessionFor(const PpdBuilder &ppd)
 /// tray.
 PpdBuilder smallPrinter();
 
+/// A printer that no panel knows, with texts in English, Japanese and Chinese: the groups "Paper",
+/// "Finishing" (with a subgroup), "Security" and "Trays" of 22 options, and
+/// one outside any group. "Sleep" takes 1 to 99, "Pin" 4 to 8 digits, "Mark" a text of 1 to 20
+/// bytes, "Shift" two numbers. Transparency cannot be stapled.
+PpdBuilder officePrinter();
+
 /// Writes a file and answers its path. Errors: throws std::runtime_error.
 QString writeFile(const QString &path, const QByteArray &content);
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QLineEdit;
+
+namespace corvana {
+
+class ChoiceDelegate;
+class OptionsFilter;
+class OptionsModel;
+class OptionsView;
+class PpdSession;
+
+/// Every option of a printer that the General page does not offer, in the groups, the order and the
+/// words of its PPD: for printers that no panel knows.
+///
+/// It shows the session and proposes changes; it changes nothing itself.
+class OptionsPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Borrows the session.
+    explicit OptionsPage(PpdSession &session, QWidget *parent = nullptr);
+    ~OptionsPage() override;
+
+    /// Whether a session has any option for this page.
+    static bool hasOptions(const PpdSession &session);
+
+    /// Shows the session's marks.
+    void refresh();
+    /// Takes what is being edited. False when that is not possible: the page says why, and the
+    /// editor keeps it.
+    bool finishEditing();
+    /// Puts the focus where something is being edited.
+    void focusEditor();
+
+Q_SIGNALS:
+    /// The user picked a choice, or entered a value (`Custom.…`) that the option allows.
+    void proposed(const QString &keyword, const QString &choice);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildSearch();
+    void buildList();
+    void search(const QString &text);
+    void goToList();
+    void updateReset();
+    void resetCurrent();
+    void say(const QString &text, bool aloud);
+
+    OptionsModel *m_model;
+    OptionsFilter *m_filter;
+    QLineEdit *m_search;
+    OptionsView *m_view;
+    ChoiceDelegate *m_delegate;
+    QAction *m_reset;
+    QLabel *m_hint;
+};
+
+} // namespace corvana
