@@ -103,17 +103,15 @@ struct FoundDefault
     ServerProblem problem;
 };
 
-QString noSuchPrinter(const PrintRequest &request)
+// For somebody who has mistyped the name of one that needs no server.
+QString otherPrinters(const PrintRequest &request)
 {
     QStringList names;
     for (const Printer &printer : request.printers)
         names += printer.name;
-    const QString known = names.isEmpty() ? QString()
-                                          : u' ' + tr("Printers that need no print server: %1.")
-                                                       .arg(names.join(QStringLiteral(", ")));
-    return tr("There is no printer \"%1\" at the print server \"%2\".")
-               .arg(request.wantedPrinter, request.server.text()) +
-           known;
+    return names.isEmpty() ? QString()
+                           : u' ' + tr("Printers that need no print server: %1.")
+                                        .arg(names.join(QStringLiteral(", ")));
 }
 
 // Finds the queue that is wanted and fetches its PPD. Errors: an empty `ppdPath`.
@@ -147,8 +145,10 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         });
     if (details.state == QueueDetails::Ppd::Unknown) {
         *error = details.problem.kind == ServerProblem::Kind::NotFound
-                     ? noSuchPrinter(request)
+                     ? tr("There is no printer \"%1\" at the print server \"%2\".")
+                           .arg(name, server->address.text())
                      : details.problem.text(server->address);
+        *error += otherPrinters(request);
         return {};
     }
     ReadyPrinter ready = readyPrinter(details, cache, server->address, error);

@@ -47,7 +47,7 @@ PrintRequest request(const QStringList &options, const QString &printer = QStrin
     line.bundleRoots = {QFileInfo(QStringLiteral(CORVANA_TEST_BUNDLE_DIR)).path()};
     line.options = options;
     QString error;
-    return preparePrintRequest(line, &error);
+    return preparePrintRequest(line, &error).value_or(PrintRequest());
 }
 
 QString described(const QWidget *widget)
@@ -309,7 +309,7 @@ private Q_SLOTS:
         office.printers = {
             {QStringLiteral("office"), QStringLiteral("Office"),
              writeFile(folder.filePath(QStringLiteral("office.ppd")), officePrinter().text()), 1}};
-        office.chosenPrinter = 0;
+        office.wantedPrinter.clear();
         PrintDialog dialog(office);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));

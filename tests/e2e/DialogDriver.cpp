@@ -36,7 +36,7 @@ PrintRequest request(const QString &printer, const QStringList &options, const Q
     line.options = options;
     line.output = output;
     QString error;
-    PrintRequest prepared = preparePrintRequest(line, &error);
+    PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());
     if (!error.isEmpty())
         throw std::runtime_error(error.toStdString());
     return prepared;

@@ -42,7 +42,7 @@ private Q_SLOTS:
     void theDocumentNamesTheJobAndTheOutput()
     {
         QString error;
-        const PrintRequest request = preparePrintRequest(m_line, &error);
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QCOMPARE(request.title, u"notes.v2.txt"_s);
         QCOMPARE(request.output, QDir::current().absoluteFilePath(u"notes.v2.ps"_s));
@@ -55,7 +55,7 @@ private Q_SLOTS:
         writeFile(m_folder->filePath(u"notes.v2.ps"_s), "earlier\n");
         writeFile(m_folder->filePath(u"notes.v2-2.ps"_s), "earlier\n");
         QString error;
-        QCOMPARE(preparePrintRequest(m_line, &error).output,
+        QCOMPARE(preparePrintRequest(m_line, &error)->output,
                  QDir::current().absoluteFilePath(u"notes.v2-3.ps"_s));
     }
 
@@ -68,7 +68,7 @@ private Q_SLOTS:
         m_line.options = {u"QXMediaType=Thick number-up=2"_s};
         m_line.bundleRoots = {u"/somewhere"_s};
         QString error;
-        const PrintRequest request = preparePrintRequest(m_line, &error);
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
         QCOMPARE(request.title, u"Title"_s);
         QCOMPARE(request.output, u"elsewhere.ps"_s);
         QCOMPARE(request.copies, 7);
@@ -83,46 +83,59 @@ private Q_SLOTS:
     {
         m_line.printer = u"corvana-cl5"_s;
         QString error;
-        const PrintRequest request = preparePrintRequest(m_line, &error);
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
         QVERIFY2(error.isEmpty(), qPrintable(error));
-        QCOMPARE(request.printers.at(request.chosenPrinter).ppdPath, samplePpdPath());
+        QCOMPARE(request.printers.value(wantedAmongFiles(request)).ppdPath, samplePpdPath());
     }
 
-    void whatIsWrongIsTold_data()
+    void aPrinterThatIsNoFileIsLookedForAtAServer_data()
     {
-        QTest::addColumn<QString>("document");
         QTest::addColumn<QString>("ppd");
         QTest::addColumn<QString>("printer");
-        QTest::addColumn<QString>("told");
-        const QString ppd = samplePpdPath();
-        QTest::newRow("missing document")
-            << u"missing.pdf"_s << ppd << QString() << u"missing.pdf"_s;
-        QTest::newRow("no printer at all")
-            << u"notes.v2.txt"_s << QString() << QString() << u"--demo"_s;
-        QTest::newRow("unknown printer")
-            << u"notes.v2.txt"_s << ppd << u"office"_s << u"corvana-cl5"_s;
-        QTest::newRow("printer in other case")
-            << u"notes.v2.txt"_s << ppd << u"Corvana-CL5"_s << u"corvana-cl5"_s;
+        QTest::newRow("no printer at all") << QString() << QString();
+        QTest::newRow("another name") << samplePpdPath() << u"office"_s;
+        QTest::newRow("other case") << samplePpdPath() << u"Corvana-CL5"_s;
+        QTest::newRow("URI") << samplePpdPath() << u"ipp://printer.example/ipp/print"_s;
     }
-    void whatIsWrongIsTold()
+    void aPrinterThatIsNoFileIsLookedForAtAServer()
     {
-        QFETCH(QString, document);
         QFETCH(QString, ppd);
         QFETCH(QString, printer);
-        QFETCH(QString, told);
-        m_line.documents = {document};
         m_line.ppd = ppd;
         m_line.printer = printer;
         QString error;
-        QVERIFY(preparePrintRequest(m_line, &error).printers.isEmpty());
-        QVERIFY2(error.contains(told), qPrintable(error));
+        const auto request = preparePrintRequest(m_line, &error);
+        QVERIFY2(request, qPrintable(error));
+        QCOMPARE(wantedAmongFiles(*request), -1);
+        QCOMPARE(request->wantedPrinter, printer);
+    }
+
+    void theServerIsTheOneThatWasNamed()
+    {
+        QString error;
+        qputenv("CUPS_SERVER", "usual.example");
+        QVERIFY(!preparePrintRequest(m_line, &error)->serverWasNamed);
+        m_line.server = u"print.example:8631"_s;
+        const auto request = preparePrintRequest(m_line, &error);
+        QVERIFY(request->serverWasNamed);
+        QCOMPARE(request->server.host, u"print.example"_s);
+        QCOMPARE(request->server.port, 8631);
+        qunsetenv("CUPS_SERVER");
+    }
+
+    void aMissingDocumentIsTold()
+    {
+        m_line.documents = {u"missing.pdf"_s};
+        QString error;
+        QVERIFY(!preparePrintRequest(m_line, &error));
+        QVERIFY2(error.contains(u"missing.pdf"_s), qPrintable(error));
     }
 
     void aSummaryNeedsNoDocument()
     {
         m_line.documents.clear();
         QString error;
-        const PrintRequest request = preparePrintRequest(m_line, &error);
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QVERIFY(request.documents.isEmpty());
         QVERIFY(request.output.isEmpty());
