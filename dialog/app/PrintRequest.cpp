@@ -23,13 +23,16 @@ QString besideProgram(const QString &relative)
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
 }
 
-// A name in the current folder that nothing has yet.
+// A name in the current folder that nothing has yet. A desktop starts programs in a folder where
+// nothing can be written; then it is the user's own.
 QString freeOutputName(const QString &title)
 {
+    const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
+    const QDir folder = writable ? QDir::current() : QDir::home();
     const QString base = QFileInfo(title).completeBaseName();
-    QString name = QDir::current().absoluteFilePath(base + QStringLiteral(".ps"));
+    QString name = folder.absoluteFilePath(base + QStringLiteral(".ps"));
     for (int i = 2; QFileInfo::exists(name); ++i)
-        name = QDir::current().absoluteFilePath(QStringLiteral("%1-%2.ps").arg(base).arg(i));
+        name = folder.absoluteFilePath(QStringLiteral("%1-%2.ps").arg(base).arg(i));
     return name;
 }
 

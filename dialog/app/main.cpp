@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QMessageBox>
 #include <QTextStream>
 
 #include "dialog/app/CommandLine.h"
@@ -16,6 +17,16 @@ int fail(const QString &problem)
 {
     QTextStream(stderr) << "corvana-print: " << problem << "\n";
     return 1;
+}
+
+// Whoever opened a document from the desktop reads no terminal.
+int failInWindow(const QString &problem)
+{
+    QMessageBox box(QMessageBox::Critical, QCoreApplication::translate("main", "Print"), problem,
+                    QMessageBox::Close);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+    return fail(problem);
 }
 
 // Qt ends the program when none of its platforms works. With one more that always does, the program
@@ -84,7 +95,7 @@ int main(int argc, char **argv)
     QString error;
     const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
     if (!request)
-        return fail(error);
+        return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)
         return listPrinters(*request);
     return unattended ? runUnattended(*request) : runDialog(*request);

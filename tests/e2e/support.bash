@@ -41,6 +41,9 @@ done
 unset LANGUAGE LANG LC_MESSAGES CORVANA_PRINT_CUPSFILTER QT_LOGGING_RULES QT_QPA_PLATFORM DISPLAY \
     WAYLAND_DISPLAY
 export LC_ALL=C.UTF-8
+# Nor may print servers, or queues and defaults of the tester's, be there.
+unset LPDEST PRINTER CORVANA_PRINT_PATIENCE
+export CUPS_SERVER=/nonexistent/cups.sock CUPS_SERVERROOT=/nonexistent
 # Nor may the tester's desktop be asked; a window would look for its screen reader.
 export DBUS_SESSION_BUS_ADDRESS=disabled: DBUS_SYSTEM_BUS_ADDRESS=disabled:
 
