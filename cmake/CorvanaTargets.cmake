@@ -29,3 +29,9 @@ function(corvana_target name)
     target_link_libraries(${name} PUBLIC Qt6::Widgets Cups::Cups)
     target_precompile_headers(${name} REUSE_FROM corvana_pch)
 endfunction()
+
+# corvana_shipped(NAME): what users get. Every symbol is bound when it is loaded, after which its
+# tables are read-only: a program that opens documents of strangers had better have none to overwrite.
+function(corvana_shipped name)
+    target_link_options(${name} PRIVATE -Wl,-z,relro -Wl,-z,now)
+endfunction()

@@ -138,8 +138,10 @@ bool QXPrintQualityPDE::registerHelp()
     const QString book = QDir::cleanPath(
         QStringLiteral("%1/../../Help/%2.%3")
             .arg(pluginBundle->path(), thePDEName(), QStringLiteral("Help").toLower()));
-    if (!QFileInfo::exists(book))
+    if (!QFileInfo::exists(book)) {
+        qCWarning(lcServices).noquote() << "there is no help book" << book;
         return false;
+    }
     return HelpManager::sharedHelpManager().registerBooksInBundle(*pluginBundle, book);
 }
 

@@ -6,7 +6,7 @@
 # questions, sudo is told not to ask where there is no terminal, and locks are waited for a
 # limited time.
 
-# Exit status of ./run and ./test when packages are missing and cannot be installed.
+# Exit status of ./run, ./test and ./package when packages are missing and cannot be installed.
 readonly status_packages_missing=3
 
 # Seconds that another package manager may hold a lock, and the pause between two tries.

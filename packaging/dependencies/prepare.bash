@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What ./run and ./test have in common: bring the machine and the build folder up to date.
+# What ./run, ./test and ./package have in common: bring the machine and the build folder up to date.
 # Reads project_root, the absolute path of the checkout.
 
 set -u

@@ -17,7 +17,7 @@ test_everyRowIsComplete() {
         count=$((count + 1))
         [[ $package =~ ^[a-z0-9][a-z0-9.+-]+$ ]] || fail "no package name: $package"
         [[ $minimum =~ ^(-|[0-9]+(\.[0-9]+)*)$ ]] || fail "$package: no version: $minimum"
-        [[ $for =~ ^(build|run|test)$ ]] || fail "$package: needed for what? $for"
+        [[ $for =~ ^(build|run|deb|test)$ ]] || fail "$package: needed for what? $for"
         [[ $probe =~ ^(command|qt|pkgconfig|qtplugin|filter|font):[^[:space:]]+$ ]] || fail "$package: no probe: $probe"
         [ -n "$purpose" ] || fail "$package: without purpose"
     done < <(rows)
@@ -73,9 +73,11 @@ test_theMinimumOfQtIsThatOfTheProject() {
 
 test_theScriptsAreCleanForShellcheck() {
     cd "$source_root" || exit
-    shellcheck -x -a run test .ci/run tests/scripts/*_test.sh resources/pictures/make-pictures \
+    shellcheck -x -a run test package .ci/run tests/scripts/*_test.sh resources/pictures/make-pictures \
         resources/pictures/make-reference-pictures tests/resources/reference_pictures_test.sh \
-        >"$state/out" 2>&1 ||
+        packaging/debian/make-package tests/packaging/*_test.sh >"$state/out" 2>&1 ||
+        fail 'shellcheck found something'
+    shellcheck -s bash packaging/completion/corvana-print.bash >"$state/out" 2>&1 ||
         fail 'shellcheck found something'
     # Quoted dollar signs are what the fakes compare arguments with.
     shellcheck -e SC2016 tests/scripts/fakes/* >"$state/out" 2>&1 || fail 'shellcheck found something'

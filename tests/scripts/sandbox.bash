@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# A machine made of paper for the tests of ./run, ./test and .ci/run: a copy of the scripts in a
+# A machine made of paper for the tests of ./run, ./test, ./package and .ci/run: a copy of the scripts in a
 # checkout whose path has blanks, a system root with the few files that they read, and a path on
 # which every program that matters is one of fakes/, which write down how they were called.
 #
@@ -26,7 +26,7 @@ new_machine() {
     mkdir -p "$checkout/packaging" "$checkout/.ci" "$checkout/resources/sample" "$state" \
         "$machine/bin" "$machine/home" "$machine/root/etc" "$machine/root/proc" \
         "$machine/root/var/lib/apt/lists" "$machine/root/usr/sbin"
-    cp "$source_root/run" "$source_root/test" "$checkout"
+    cp "$source_root/run" "$source_root/test" "$source_root/package" "$checkout"
     cp "$source_root/.ci/run" "$checkout/.ci"
     cp -R "$source_root/packaging/dependencies" "$checkout/packaging"
     printf '%s\n' '{ "configurePresets": [' '  { "name": "release" },' '  { "name": "asan" } ] }' \

@@ -56,6 +56,12 @@ test_theUsersOwnNumberOfTestJobsOverrules() {
     expect_call 'with 1 jobs'
 }
 
+test_whatPackagesAreMadeWithIsInstalledAsWell() {
+    not_installed dpkg-dev
+    start test
+    expect_call '--no-remove dpkg-dev'
+}
+
 test_helpIsShownAtOnce() {
     not_installed ninja-build
     start test --help

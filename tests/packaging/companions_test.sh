@@ -1,0 +1,172 @@
+#!/usr/bin/env bash
+# What comes beside the program: the manual, the completion of the command line, the desktop entry.
+
+# shellcheck source=tests/packaging/support.bash
+. "$(dirname -- "${BASH_SOURCE[0]}")/support.bash"
+
+manual=$source_root/packaging/man/corvana-print.1
+completion=$source_root/packaging/completion/corvana-print.bash
+desktop=$source_root/packaging/desktop/corvana-print.desktop
+icon=$source_root/packaging/desktop/corvana-print.svg
+
+# options: those that the program lists, one a line.
+options() {
+    "$build/bin/corvana-print" --help | grep -E '^  -' | grep -oE -- '(^|[ ,])--?[a-z][a-z-]*' |
+        tr -d ' ,' >"$work/options"
+    [ "$(wc -l <"$work/options")" -gt 10 ] || fail 'the options were not found' "$(cat "$work/options")"
+    cat "$work/options"
+}
+
+theManualExplainsEveryOption() {
+    local option
+    man --local-file "$manual" >"$work/manual" 2>"$work/err" || fail 'the manual cannot be read'
+    for option in $(options); do
+        grep -qE -- "^ {7}(-[a-z], )?$option( |\$)|^ {7}$option," "$work/manual" ||
+            fail "the manual has no paragraph on $option"
+    done
+}
+
+theManualHasNoErrors() {
+    LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings --encoding=UTF-8 --local-file "$manual" \
+        >/dev/null 2>"$work/err" || fail 'the manual cannot be read'
+    expect_nothing 'troff warns' "$(cat "$work/err")"
+}
+
+theManualNamesTheEnvironmentThatTheProgramReads() {
+    local name
+    for name in $(grep -rhoE '"CORVANA_PRINT_[A-Z_]+"' "$source_root/dialog" "$source_root/platform" \
+        --include='*.cpp' | tr -d '"' | sort -u); do
+        grep -qF "$name" "$manual" || fail "the manual does not name $name"
+    done
+}
+
+# complete_line WORD...: what the completion offers for the last of the words, one a line. The shell
+# itself splits words at "=", which is a word of its own here, too.
+complete_line() {
+    (
+        # shellcheck source=packaging/completion/corvana-print.bash
+        . "$completion"
+        COMP_WORDS=("$@")
+        COMP_CWORD=$(($# - 1))
+        # Only readline has it.
+        compopt() { :; }
+        previous=
+        [ $# -lt 2 ] || previous=${COMP_WORDS[COMP_CWORD - 1]}
+        _corvana_print "$1" "${COMP_WORDS[COMP_CWORD]}" "$previous"
+        printf '%s\n' "${COMPREPLY[@]}" | LC_ALL=C sort
+    )
+}
+# offered WORD...: the same in one line.
+offered() { complete_line "$@" | tr '\n' ' '; }
+
+theCompletionOffersEveryOption() {
+    local option
+    complete_line corvana-print - >offers
+    for option in $(options); do
+        grep -qxF -- "$option" offers || fail "not offered: $option"
+    done
+}
+
+optionsAreCompletedByTheirBeginning() {
+    expect_equal "$(offered corvana-print --no-d)" '--no-dialog '
+}
+
+policiesAreOffered() {
+    expect_equal "$(offered corvana-print --on-alert '')" 'hold print refuse '
+    expect_equal "$(offered corvana-print --on-alert r)" 'refuse '
+    expect_equal "$(offered corvana-print --on-alert =)" 'hold print refuse '
+    expect_equal "$(offered corvana-print --on-alert = h)" 'hold '
+}
+
+everyOfferedPolicyIsUnderstood() {
+    local policy
+    for policy in $(complete_line corvana-print --on-alert ''); do
+        "$build/bin/corvana-print" --on-alert "$policy" --list-printers >"$work/out" 2>&1 ||
+            fail "not understood: --on-alert $policy"
+    done
+}
+
+printersAreThoseOfTheProgram() {
+    expect_equal "$(offered "$build/bin/corvana-print" --demo -d corvana-cl)" \
+        'corvana-cl2 corvana-cl3 corvana-cl4 corvana-cl5 '
+    expect_equal "$(offered "$build/bin/corvana-print" --demo --printer = corvana-m)" \
+        'corvana-mf4 corvana-ml3 '
+}
+
+# add_program: a program that notes how it was asked for its printers.
+add_program() {
+    mkdir bin
+    cat >bin/corvana-print
+    chmod +x bin/corvana-print
+}
+
+printersAreAskedOfTheServerOfTheLine() {
+    add_program <<END
+#!/bin/sh
+printf '%s ' "\$@" >>"$work/asked"
+printf 'office one\tOn the first floor\n'
+END
+    expect_equal "$(complete_line "$work/bin/corvana-print" --server there --ppd = my.ppd -d '')" \
+        'office one'
+    expect_equal "$(cat asked)" '--server there --ppd my.ppd --list-printers '
+}
+
+aServerThatDoesNotAnswerHoldsUpTheTerminalForTwoSecondsOnly() {
+    local start=$SECONDS
+    add_program <<'END'
+#!/bin/sh
+exec sleep 60
+END
+    expect_equal "$(offered "$work/bin/corvana-print" -d '')" ' '
+    [ $((SECONDS - start)) -lt 20 ] || fail 'the completion waited'
+}
+
+documentsAreOfferedByTheirKind() {
+    mkdir 'a folder'
+    touch 'my letter.pdf' PHOTO.JPG notes.txt program.cpp corvana.ppd
+    expect_equal "$(complete_line corvana-print '')" \
+        "$(printf '%s\n' PHOTO.JPG 'a folder' 'my letter.pdf' notes.txt)"
+    expect_equal "$(complete_line corvana-print --ppd c)" corvana.ppd
+    expect_equal "$(complete_line corvana-print --output p)" program.cpp
+    expect_equal "$(complete_line corvana-print --bundle-root a)" 'a folder'
+}
+
+valuesThatOnlyTheUserKnowsAreLeftAlone() {
+    touch 3.pdf
+    for option in -o -n -t --option --copies --title; do
+        expect_equal "$(offered corvana-print $option '')" ' '
+    done
+}
+
+theDesktopEntryFollowsTheStandard() {
+    command -v desktop-file-validate >/dev/null || skip 'desktop-file-validate is missing.'
+    desktop-file-validate "$desktop" >"$work/out" 2>&1 || fail 'the desktop entry is wrong'
+    expect_nothing 'hints of the standard' "$(cat "$work/out")"
+}
+
+theDesktopEntryIsForTheFilesThatTheProgramPrints() {
+    local type
+    for type in $(sed -n 's/^MimeType=//p' "$desktop" | tr ';' ' '); do
+        grep -qF "\"$type\"" "$source_root/dialog/job/Document.cpp" || fail "not printed: $type"
+    done
+    grep -q '^MimeType=application/pdf;' "$desktop" || fail 'nothing was compared'
+}
+
+theDesktopEntryIsTranslated() {
+    local key language
+    for key in Name GenericName Comment Keywords; do
+        for language in ja zh_CN; do
+            grep -qE "^$key\[$language\]=.+" "$desktop" || fail "no $key in $language"
+        done
+    done
+}
+
+theIconOfTheDesktopEntryCanBeDrawn() {
+    command -v rsvg-convert >/dev/null || skip 'rsvg-convert is missing.'
+    expect_equal "$(sed -n 's/^Icon=//p' "$desktop")" "$(basename "$icon" .svg)"
+    rsvg-convert --width 48 --output icon.png "$icon" 2>"$work/err" || fail 'the icon cannot be drawn'
+    # More than one colour on a clear ground.
+    [ "$(convert icon.png -format '%k' info:)" -gt 16 ] || fail 'the icon is empty'
+}
+
+run_tests

@@ -1,0 +1,112 @@
+#!/usr/bin/env bash
+# The Debian package as a file: what it contains, what it asks for, what the rules of Debian say. It is
+# made anew first, of what is built already, and left for the test that installs it.
+
+# shellcheck source=tests/packaging/support.bash
+. "$(dirname -- "${BASH_SOURCE[0]}")/support.bash"
+
+for tool in lintian dpkg-shlibdeps; do
+    command -v "$tool" >/dev/null || {
+        echo "$tool is needed and missing"
+        exit 77
+    }
+done
+rm -rf "$packages"
+package=$("$source_root/packaging/debian/make-package" "$build" "$packages") || exit
+list=$source_root/packaging/dependencies/packages.list
+
+field() { dpkg-deb --field "$package" "$1"; }
+
+lintianFindsNeitherErrorsNorWarnings() {
+    # What it says about being root is no finding.
+    lintian --fail-on error,warning --no-tag-display-limit "$package" >"$work/out" 2>"$work/err" ||
+        fail 'lintian found something'
+}
+
+theFileIsNamedAfterPackageVersionAndArchitecture() {
+    expect_equal "$(basename "$package")" \
+        "corvana-print_$(field Version)_$(dpkg --print-architecture).deb"
+}
+
+theVersionIsThatOfTheProgram() {
+    expect_equal "corvana-print $(field Version)" "$("$build/bin/corvana-print" --version)"
+}
+
+anotherVersionThanTheChangelogSaysIsRefused() {
+    mkdir build
+    ln -s "$build"/* build
+    rm build/CMakeCache.txt
+    sed 's/^\(CMAKE_PROJECT_VERSION:.*=\).*/\199.0.0/' "$build/CMakeCache.txt" >build/CMakeCache.txt
+    ! "$source_root/packaging/debian/make-package" build packages >"$work/out" 2>"$work/err" ||
+        fail 'a package was made'
+    grep -q 'that of the project is 99.0.0' "$work/err" || fail 'the reason was not said'
+    expect_nothing 'a package was made' "$(find packages -type f)"
+}
+
+# Whatever ./run installs for the program is needed by users as well.
+everythingTheProgramNeedsToRunIsAskedFor() {
+    local name relations count=0
+    relations=" $(field Depends), $(field Recommends) "
+    while read -r name _; do
+        [[ $relations =~ [\ ,]"$name"[\ ,] ]] || fail "$name is neither needed nor recommended"
+        count=$((count + 1))
+    done < <(awk '!/^#/ && $3 == "run"' "$list")
+    [ $count -gt 0 ] || fail 'nothing was compared'
+}
+
+theLibrariesAreAskedForInTheVersionsThatWereBuiltWith() {
+    local library
+    for library in libqt6core6 libqt6widgets6 libqt6uitools6 libcups2 libpoppler-qt6-3 libhwy1; do
+        [[ $(field Depends) == *"$library"*" (>= "* ]] || fail "$library is not asked for" "$(field Depends)"
+    done
+}
+
+noScriptRunsWhenItIsInstalledOrRemoved() {
+    expect_equal "$(dpkg-deb --ctrl-tarfile "$package" | tar -t | sort | tr '\n' ' ')" \
+        './ ./control ./md5sums '
+}
+
+everythingBelongsToRootAndCanBeWrittenByNobodyElse() {
+    local others
+    others=$(dpkg-deb --contents "$package" | grep -vE '^(-rw-r--r--|-rwxr-xr-x|drwxr-xr-x|lrwxrwxrwx) root/root ')
+    expect_nothing 'unexpected owners or modes:' "$others"
+}
+
+theChecksumsHold() {
+    dpkg-deb --raw-extract "$package" root
+    (cd root && md5sum --check --strict --quiet DEBIAN/md5sums) >"$work/out" 2>&1 || fail 'changed files'
+    expect_equal "$(cd root && find usr -type f | sort)" "$(cut -c 35- root/DEBIAN/md5sums | sort)"
+}
+
+theBinariesAreStrippedAndKnowNothingOfTheBuildFolder() {
+    local binary path
+    dpkg-deb --extract "$package" root
+    for binary in root/usr/bin/corvana-print root/usr/lib/corvana-print/libcorvana-platform.so.*.* \
+        root/usr/lib/corvana-print/plugins/*/module/*.so; do
+        ! readelf --sections --wide "$binary" | grep -qE '\.debug_info|\.symtab' ||
+            fail "$binary is not stripped"
+        ! grep -qaF "$source_root" "$binary" || fail "$binary names the folder $source_root"
+        path=$(readelf --dynamic --wide "$binary" | sed -n 's/.*\(RPATH\|RUNPATH\).*\[\(.*\)\]/\2/p')
+        # Only what needs the library beside it has a path at all.
+        [[ $binary == *platform* ]] && expect_equal "$path" ''
+        [[ $binary == *platform* || $path =~ ^\$ORIGIN/[^:]+$ ]] || fail "$binary searches: $path"
+        # Nothing that could be redirected is left writable after it was loaded.
+        readelf --dynamic --wide "$binary" | grep -q BIND_NOW || fail "$binary binds lazily"
+    done
+}
+
+theManualAndTheChangelogAreCompressed() {
+    dpkg-deb --extract "$package" root
+    zcat root/usr/share/man/man1/corvana-print.1.gz | grep -q '^\.TH ' || fail 'no manual'
+    zcat root/usr/share/doc/corvana-print/changelog.gz | grep -q '^corvana-print (' ||
+        fail 'no changelog'
+}
+
+theSameBuildGivesTheSamePackage() {
+    # Under other circumstances.
+    (umask 077 && TZ=Asia/Tokyo LC_ALL=C "$source_root/packaging/debian/make-package" "$build" again \
+        >"$work/out" 2>"$work/err") || fail 'no package was made'
+    cmp "$package" again/*.deb >"$work/out" 2>&1 || fail 'the packages differ'
+}
+
+run_tests
