@@ -68,8 +68,6 @@ void PrintDialog::choosePrinter(const Printer &printer)
     m_earlierJob = 0;
     m_comesNext.reset();
     m_printable = false;
-    m_printers->setPrinters(m_source.printers());
-    m_printers->setCurrentPrinter(idOf(printer));
     m_status->setPrinter(printer);
     updateDestination();
     if (printer.origin != PrinterOrigin::PpdFile)
@@ -78,6 +76,8 @@ void PrintDialog::choosePrinter(const Printer &printer)
                     false);
     updatePrintButton();
     m_source.open(printer);
+    m_printers->setPrinters(m_source.printers());
+    m_printers->setCurrentPrinter(idOf(printer));
 }
 
 void PrintDialog::printerReady(const ReadyPrinter &ready)
@@ -147,9 +147,10 @@ void PrintDialog::printerChecked(const Printer &printer)
 
 void PrintDialog::printerFailed(const QString &problem)
 {
-    m_status->setProblem(problem, [this] { m_source.retry(); });
-    if (!m_printer)
-        showWaiting(problem, true);
+    if (m_printer)
+        return m_status->setProblem(problem, [this] { m_source.retry(); });
+    m_status->setProblem(problem);
+    showWaiting(problem, true);
 }
 
 // In the place of the pages, while there are none.
@@ -241,11 +242,11 @@ void PrintDialog::showListState()
                           retry);
     if (!nothingElse)
         return;
-    if (problem.kind == ServerProblem::Kind::Unreachable && server.isLocal())
+    if (problem.kind == ServerProblem::Kind::Unreachable && server.isLocal() &&
+        !m_request.serverWasNamed)
         m_message->showMessage(MessageBar::Kind::Information,
-                               tr("The print service of this computer is not running. Start it "
-                                  "(on most systems with “systemctl start cups”), or name a print "
-                                  "server with --server.") +
+                               tr("The print service of this computer is not running. Start it, on "
+                                  "most systems with “systemctl start cups”.") +
                                    u' ' + meanwhile);
     else
         m_status->setProblem(problem.text(server), retry);

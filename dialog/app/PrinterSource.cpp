@@ -51,7 +51,12 @@ void PrinterSource::start()
 QList<Printer> PrinterSource::printers() const
 {
     QList<Printer> all = m_files + m_queues.printers();
-    if (m_open.origin == PrinterOrigin::Device)
+    // What was named is there to be seen while nobody knows whether it is one of the list.
+    const bool unlisted =
+        m_open.origin == PrinterOrigin::Device ||
+        (m_open.origin == PrinterOrigin::Queue && m_queues.state() != QueueList::State::Known &&
+         !find(m_queues.printers(), m_open.name));
+    if (unlisted)
         all.prepend(m_open);
     if (!m_filePrinter.printer.ppdPath.isEmpty())
         all += m_filePrinter.printer;
