@@ -150,7 +150,10 @@ void PrintDialog::printerFailed(const QString &problem)
     if (m_printer)
         return m_status->setProblem(problem, [this] { m_source.retry(); });
     m_status->setProblem(problem);
-    showWaiting(problem, true);
+    // The same again, every few seconds, must not take the focus away.
+    const auto *shown = m_pages->findChild<QLabel *>(QStringLiteral("waitingText"));
+    if (!shown || shown->text() != problem)
+        showWaiting(problem, true);
 }
 
 // In the place of the pages, while there are none.
@@ -162,6 +165,7 @@ void PrintDialog::showWaiting(const QString &text, bool canRetry)
     auto *page = new QWidget;
     page->setObjectName(QStringLiteral("waiting"));
     auto *label = new QLabel(text, page);
+    label->setObjectName(QStringLiteral("waitingText"));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);

@@ -104,6 +104,8 @@ void PrinterSource::open(const Printer &printer)
     m_open = printer;
     m_openModified = 0;
     m_openIsReady = false;
+    m_inspecting = false;
+    m_inspectionFailed = false;
     m_configured = 0;
     if (printer.origin == PrinterOrigin::PpdFile) {
         m_openIsReady = true;
@@ -135,6 +137,7 @@ void PrinterSource::inspect(bool mayAsk)
 {
     ServerContext server = serverOf(m_open);
     server.mayAsk = mayAsk;
+    m_inspecting = true;
     m_inspection =
         ServerWork(server, [this, printer = m_open, since = m_openModified](ServerWorker &worker) {
             const QueueDetails details = inspectQueue(worker.connection(), printer, since);
@@ -144,6 +147,8 @@ void PrinterSource::inspect(bool mayAsk)
 
 void PrinterSource::inspected(const QueueDetails &details)
 {
+    m_inspecting = false;
+    m_inspectionFailed = details.state == QueueDetails::Ppd::Unknown;
     if (details.state == QueueDetails::Ppd::Unknown) {
         const QString problem = details.problem.kind == ServerProblem::Kind::NotFound
                                     ? tr("There is no printer “%1” at “%2”.")
@@ -175,22 +180,26 @@ void PrinterSource::inspected(const QueueDetails &details)
 // The list is looked at every few seconds; what it says of the open queue is news as well.
 void PrinterSource::follow()
 {
-    if (m_open.origin != PrinterOrigin::Queue || !m_openIsReady ||
-        m_queues.state() == QueueList::State::Failed)
+    if (m_open.origin != PrinterOrigin::Queue || m_queues.state() == QueueList::State::Failed)
         return;
     const Printer *now = find(m_queues.printers(), m_open.name);
     if (!now) {
-        if (m_queues.state() == QueueList::State::Known)
+        if (m_openIsReady && m_queues.state() == QueueList::State::Known)
             Q_EMIT failed(tr("There is no printer “%1” at “%2” any more.")
                               .arg(m_open.name, m_queues.context().address.text()));
         return;
     }
-    Printer printer = *now;
-    printer.ppdPath = m_open.ppdPath;
-    m_open = printer;
-    Q_EMIT checked(printer);
-    // An administrator has been at it: its options may be others.
-    if (std::exchange(m_configured, now->configured) != now->configured && m_openModified > 0)
+    if (m_openIsReady) {
+        Printer printer = *now;
+        printer.ppdPath = m_open.ppdPath;
+        m_open = printer;
+        Q_EMIT checked(printer);
+    }
+    // The server is back, or an administrator has been at it: the options may be others.
+    const bool changed =
+        m_openIsReady && m_openModified > 0 && m_configured != 0 && m_configured != now->configured;
+    m_configured = now->configured;
+    if (!m_inspecting && (m_inspectionFailed || changed))
         inspect(false);
 }
 

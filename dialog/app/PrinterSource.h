@@ -73,6 +73,8 @@ private:
     Printer m_open;
     qint64 m_openModified = 0;
     bool m_openIsReady = false;
+    bool m_inspecting = false;
+    bool m_inspectionFailed = false; // the server has to be asked again when it is back
     bool m_provisional = false;
     int m_configured = 0; // when the open queue was changed last, by its server's count
 };
