@@ -158,7 +158,7 @@ int measure(const char *platform, bool check)
     line.bundleRoots = {QStringLiteral(CORVANA_BENCHMARK_BUNDLE_DIR "/..")};
     line.output = folder.filePath(QStringLiteral("job.ps"));
     QString error;
-    const PrintRequest request = preparePrintRequest(line, &error);
+    const PrintRequest request = preparePrintRequest(line, &error).value_or(PrintRequest());
     if (request.printers.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(error));
         return 1;
