@@ -139,7 +139,7 @@ bool QXPrintQualityPDE::registerHelp()
         QStringLiteral("%1/../../Help/%2.%3")
             .arg(pluginBundle->path(), thePDEName(), QStringLiteral("Help").toLower()));
     if (!QFileInfo::exists(book)) {
-        qCWarning(lcServices).noquote() << "there is no help book" << book;
+        qCInfo(lcServices).noquote() << "there is no help book" << book;
         return false;
     }
     return HelpManager::sharedHelpManager().registerBooksInBundle(*pluginBundle, book);

@@ -147,7 +147,8 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         *error = details.problem.kind == ServerProblem::Kind::NotFound
                      ? tr("There is no printer \"%1\" at the print server \"%2\".")
                            .arg(name, server->address.text())
-                     : details.problem.text(server->address);
+                     : tr("%1 So the printer \"%2\" could not be asked for.")
+                           .arg(details.problem.text(server->address), name);
         *error += otherPrinters(request);
         return {};
     }

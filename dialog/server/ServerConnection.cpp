@@ -30,6 +30,13 @@ struct CredentialsDeleter
 };
 using Certificates = std::unique_ptr<cups_array_t, CredentialsDeleter>;
 
+// Why there is no connection. libcups says "Host is down" of every host that it does not get to.
+QString reasonOfLibcups()
+{
+    const QString reason = QString::fromUtf8(cupsLastErrorString());
+    return reason == qt_error_string(EHOSTDOWN) ? QString() : reason;
+}
+
 // "a.example.com (issued by …) / 8 hex digits…": what libcups says of a certificate.
 QString describe(cups_array_t *certificates)
 {
@@ -85,9 +92,8 @@ bool ServerConnection::open()
             fail(ServerProblem::Kind::Canceled);
         else if (error == ETIMEDOUT || error == EINPROGRESS)
             fail(ServerProblem::Kind::NoAnswer);
-        else // libcups says "Host is down" of every host that it does not get to
-            fail(ServerProblem::Kind::Unreachable,
-                 error == EHOSTDOWN ? QString() : QString::fromUtf8(cupsLastErrorString()));
+        else
+            fail(ServerProblem::Kind::Unreachable, reasonOfLibcups());
         return false;
     }
     httpSetTimeout(m_http, kLookAround, &ServerConnection::waitedLong, this);
