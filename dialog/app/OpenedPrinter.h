@@ -37,6 +37,9 @@ struct OpenedPrinter
     QString panelProblem;
 };
 
+/// Whether a printer gets panels, as far as is known without running any of their code.
+bool wantsPanels(ppd_file_t *ppd, const Printer &printer, const QStringList &bundleRoots);
+
 /// Opens a printer. Panels come from the plug-in bundle in the first of the `bundleRoots` that
 /// holds it, when the PPD wants them; without them the printer has the General page and the list of
 /// its options only, and the log says why. Errors: null; `error` says what is wrong with the PPD.

@@ -41,6 +41,7 @@ void PrintDialog::setUpPrinters()
     connect(&m_source, &PrinterSource::ready, this, &PrintDialog::printerReady);
     connect(&m_source, &PrinterSource::checked, this, &PrintDialog::printerChecked);
     connect(&m_source, &PrinterSource::failed, this, &PrintDialog::printerFailed);
+    connect(&m_source, &PrinterSource::betterQueueFound, this, &PrintDialog::offerQueue);
     connect(&m_source, &PrinterSource::listChanged, this, &PrintDialog::printersListed);
     m_toFile->setChecked(m_request.outputWasNamed);
     choosePrinter(m_source.first());
@@ -154,6 +155,20 @@ void PrintDialog::printerFailed(const QString &problem)
     const auto *shown = m_pages->findChild<QLabel *>(QStringLiteral("waitingText"));
     if (!shown || shown->text() != problem)
         showWaiting(problem, true);
+}
+
+void PrintDialog::offerQueue(const Printer &printer)
+{
+    if (isPrinting() || !m_message->text().isEmpty())
+        return; // something that matters more is being said
+    m_message->showMessage(
+        MessageBar::Kind::Information,
+        tr("The queue “%1” leads to the same printer, and has pages with all of its settings.")
+            .arg(printer.description),
+        tr("Use “%1”").arg(printer.description), [this, printer] {
+            m_chosenByUser = true;
+            choosePrinter(printer);
+        });
 }
 
 // In the place of the pages, while there are none.

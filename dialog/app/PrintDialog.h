@@ -105,6 +105,7 @@ private:
     void printerReady(const ReadyPrinter &ready);
     void printerChecked(const Printer &printer);
     void printerFailed(const QString &problem);
+    void offerQueue(const Printer &printer);
     void printersListed();
     void showListState();
     void openPrinter(const ReadyPrinter &ready);

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include <QFile>
+#include <QTemporaryFile>
+#include <QUrl>
 
 #include "dialog/app/LastPrinter.h"
 #include "dialog/queues/DevicePrinter.h"
@@ -19,6 +21,28 @@ const Printer *find(const QList<Printer> &printers, const QString &name)
     return found == printers.cend() ? nullptr : &*found;
 }
 
+// What two URIs of one device have in common. A queue on a printer that is spoken to directly has
+// its URI as its device.
+QString deviceOf(const Printer &printer)
+{
+    const QUrl url(printer.origin == PrinterOrigin::Device ? printer.uri : printer.deviceUri);
+    const bool isNamed = !url.host().isEmpty();
+    // Files and pipes are no devices, however equal they look.
+    if (!isNamed || url.scheme() == QLatin1StringView("file"))
+        return {};
+    return (url.host() + u':' + QString::number(url.port(0)) + url.path()).toLower();
+}
+
+bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
+{
+    QTemporaryFile file;
+    QString error;
+    if (!file.open() || file.write(details.ppd) != details.ppd.size() || !file.flush())
+        return false;
+    const PpdFile ppd = openPpdFile(file.fileName(), &error);
+    return ppd && wantsPanels(ppd.get(), details.printer, bundleRoots);
+}
+
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
@@ -32,8 +56,10 @@ PrinterSource::PrinterSource(const PrintRequest &request, ServerContext server, 
       m_userQueues(readUserQueues()), m_queues(std::move(server), m_userQueues),
       m_deviceServer(m_queues.context())
 {
+    m_bundleRoots = request.bundleRoots;
     connect(&m_queues, &QueueList::changed, this, [this] {
         follow();
+        lookForBetterQueue();
         Q_EMIT listChanged();
     });
     if (!m_files.isEmpty())
@@ -107,6 +133,8 @@ void PrinterSource::open(const Printer &printer)
     m_inspecting = false;
     m_inspectionFailed = false;
     m_configured = 0;
+    m_comparison = {};
+    m_lacksPpd = false;
     if (printer.origin == PrinterOrigin::PpdFile) {
         m_openIsReady = true;
         const bool isFilePrinter = printer.ppdPath == m_filePrinter.printer.ppdPath;
@@ -171,10 +199,42 @@ void PrinterSource::inspected(const QueueDetails &details)
     m_openModified = details.lastModified;
     m_configured = details.printer.configured;
     m_openIsReady = true;
+    m_lacksPpd = details.state == QueueDetails::Ppd::None;
     if (same)
         Q_EMIT checked(now.printer);
     else
         Q_EMIT ready(now);
+    lookForBetterQueue();
+}
+
+void PrinterSource::lookForBetterQueue()
+{
+    const QString device = deviceOf(m_open);
+    if (!m_lacksPpd || device.isEmpty() || m_queues.state() != QueueList::State::Known)
+        return;
+    QList<Printer> twins;
+    for (const Printer &queue : m_queues.printers()) {
+        if (deviceOf(queue) == device && queue.name != m_open.name && !queue.isClass)
+            twins += queue;
+    }
+    if (twins.isEmpty())
+        return;
+    m_lacksPpd = false; // once is enough
+    m_comparison = ServerWork(m_queues.context(), [this, twins](ServerWorker &worker) {
+        for (const Printer &twin : twins) {
+            const QueueDetails details = inspectQueue(worker.connection(), twin, 0);
+            if (details.state == QueueDetails::Ppd::New)
+                worker.post([this, details] { compareWith(details); });
+        }
+    });
+}
+
+void PrinterSource::compareWith(const QueueDetails &details)
+{
+    if (!hasPanels(details, m_bundleRoots))
+        return;
+    m_comparison = {}; // the first one will do
+    Q_EMIT betterQueueFound(details.printer);
 }
 
 // The list is looked at every few seconds; what it says of the open queue is news as well.

@@ -56,9 +56,14 @@ Q_SIGNALS:
     void checked(const corvana::Printer &printer);
     /// The printer that is to be opened, or is open, could not be asked for.
     void failed(const QString &problem);
+    /// The printer that is open has no PPD, but another queue leads to the same device and has one
+    /// with pages of its own.
+    void betterQueueFound(const corvana::Printer &printer);
 
 private:
     void inspect(bool mayAsk);
+    void lookForBetterQueue();
+    void compareWith(const QueueDetails &details);
     void inspected(const QueueDetails &details);
     void follow();
 
@@ -70,12 +75,15 @@ private:
     QueueList m_queues;
     ServerContext m_deviceServer; // of an IPP printer without a queue
     ServerWork m_inspection;
+    ServerWork m_comparison;
+    QStringList m_bundleRoots;
     Printer m_open;
     qint64 m_openModified = 0;
     bool m_openIsReady = false;
     bool m_inspecting = false;
     bool m_inspectionFailed = false; // the server has to be asked again when it is back
     bool m_provisional = false;
+    bool m_lacksPpd = false;
     int m_configured = 0; // when the open queue was changed last, by its server's count
 };
 

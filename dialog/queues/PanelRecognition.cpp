@@ -1,10 +1,15 @@
 #include "dialog/queues/PanelRecognition.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
+#include <QRegularExpression>
 
 #include "platform/foundation/Bundle.h"
 
 namespace corvana {
+
+Q_LOGGING_CATEGORY(lcRecognition, "corvana.dialog.recognition", QtWarningMsg)
 
 namespace {
 constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
@@ -17,8 +22,41 @@ QString namedBundle(ppd_file_t *ppd)
     return named && named->value ? QString::fromUtf8(named->value) : QString();
 }
 
-PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle)
+QString panelRulesFile()
 {
+    return qEnvironmentVariable("CORVANA_PRINT_PANELS",
+                                QStringLiteral("/etc/corvana-print/panels.conf"));
+}
+
+PanelRule panelRule(const QString &file, const QStringList &names)
+{
+    QFile rules(file);
+    if (!rules.open(QIODevice::ReadOnly | QIODevice::Text))
+        return PanelRule::ByPpd;
+    while (!rules.atEnd()) {
+        const QString line = QString::fromUtf8(rules.readLine()).section(u'#', 0, 0).simplified();
+        if (line.isEmpty())
+            continue;
+        const QString word = line.section(u' ', 0, 0);
+        const QString pattern = line.section(u' ', 1);
+        const bool panels = word == QLatin1StringView("panels");
+        if (pattern.isEmpty() || (!panels && word != QLatin1StringView("none"))) {
+            qCWarning(lcRecognition).noquote() << file << "has a line that is no rule:" << line;
+            continue;
+        }
+        const auto expression = QRegularExpression::fromWildcard(pattern, Qt::CaseInsensitive);
+        for (const QString &name : names) {
+            if (expression.match(name).hasMatch())
+                return panels ? PanelRule::Panels : PanelRule::None;
+        }
+    }
+    return PanelRule::ByPpd;
+}
+
+PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle, PanelRule rule)
+{
+    if (rule != PanelRule::ByPpd)
+        return {rule == PanelRule::Panels, QStringLiteral("the administrator's rules say so")};
     const QString bundleName = QFileInfo(bundle.path()).fileName();
     for (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr); named;
          named = ppdFindNextAttr(ppd, kExtensionAttribute, nullptr)) {

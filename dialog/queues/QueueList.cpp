@@ -116,12 +116,14 @@ void QueueList::look(bool mayAsk)
         const QString serverDefault = defaultQueue(worker.connection());
         // One that does not answer this does not answer the other question either.
         const bool away = worker.connection().problem().mayPass();
-        const bool listed = !away && listQueues(worker.connection(), [&](const QList<Printer> &page) {
-            queues += page;
-            if (growing) {
-                worker.post([this, queues, serverDefault] { take(queues, serverDefault, false); });
-            }
-        });
+        const bool listed =
+            !away && listQueues(worker.connection(), [&](const QList<Printer> &page) {
+                queues += page;
+                if (growing) {
+                    worker.post(
+                        [this, queues, serverDefault] { take(queues, serverDefault, false); });
+                }
+            });
         const ServerProblem problem = worker.connection().problem();
         if (listed)
             worker.post([this, queues, serverDefault] { take(queues, serverDefault, true); });

@@ -157,7 +157,7 @@ bool ServerConnection::trustsCertificate()
     switch (trust) {
     case HTTP_TRUST_OK:
     case HTTP_TRUST_RENEWED:
-        if (!isKnown && !m_context.address.isLocal())
+        if (!isKnown)
             httpSaveCredentials(nullptr, certificates.get(), host.constData());
         return true;
     case HTTP_TRUST_UNKNOWN:

@@ -47,9 +47,10 @@ QString ServerProblem::text(const ServerAddress &server) const
                           detail);
     case Kind::CertificateChanged:
         return withDetail(
-            Texts::tr("The certificate of the print server “%1” is not the one that it had before. "
-                      "Somebody has replaced it, or stands in between.")
-                .arg(who),
+            Texts::tr("The certificate of the print server “%1” is not the one that it had before: "
+                      "somebody has replaced it, or stands in between. If it was replaced on "
+                      "purpose, remove the file %2.")
+                .arg(who, QStringLiteral("~/.cups/ssl/%1.crt").arg(server.host)),
             detail);
     case Kind::CertificateInvalid:
         return withDetail(

@@ -1,4 +1,5 @@
 #include <QJsonArray>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/queues/PanelRecognition.h"
@@ -121,6 +122,50 @@ private Q_SLOTS:
         const TestBundle bundle(TestBundle::Information::Absent);
         const auto session = sampleSession();
         QVERIFY(!decidePanels(session->ppd(), *bundle.bundle()).panels);
+    }
+
+    void anAdministratorsRulesDecide_data()
+    {
+        QTest::addColumn<QByteArray>("rules");
+        QTest::addColumn<PanelRule>("rule");
+        const auto row = [](const char *name, const QByteArray &rules, PanelRule rule) {
+            QTest::newRow(name) << rules << rule;
+        };
+        row("an empty file", "", PanelRule::ByPpd);
+        row("the queue's name", "none lobby", PanelRule::None);
+        row("in other case", "none LOBBY", PanelRule::None);
+        row("a part of it", "none lob", PanelRule::ByPpd);
+        row("a pattern", "panels lo*", PanelRule::Panels);
+        row("a pattern of one character", "panels lobb?", PanelRule::Panels);
+        row("everything", "none *", PanelRule::None);
+        row("the printer's name with its blanks", "panels  Office   Printer 5", PanelRule::Panels);
+        row("another printer", "panels Office Printer 6", PanelRule::ByPpd);
+        row("the first that fits counts", "panels lobby\nnone *", PanelRule::Panels);
+        row("comments and empty lines", "# none *\n\n  none lobby # for now\n", PanelRule::None);
+        row("without a pattern", "none", PanelRule::ByPpd);
+        row("no rule", "maybe lobby\nNONE lobby", PanelRule::ByPpd);
+    }
+    void anAdministratorsRulesDecide()
+    {
+        QFETCH(QByteArray, rules);
+        QFETCH(PanelRule, rule);
+        const QTemporaryDir folder;
+        const QString file = writeFile(folder.filePath(u"panels.conf"_s), rules);
+        QCOMPARE(panelRule(file, {u"lobby"_s, u"Office Printer 5"_s}), rule);
+    }
+
+    void withoutRulesThePpdDecides()
+    {
+        QCOMPARE(panelRule(u"/nonexistent/panels.conf"_s, {u"lobby"_s}), PanelRule::ByPpd);
+    }
+
+    void whatIsForcedOrForbiddenIsNotLookedForInThePpd()
+    {
+        const TestBundle bundle = TestBundle::built();
+        const auto named = sampleSession();
+        const auto other = sessionFor(printerWith({"Staple"}));
+        QVERIFY(!decidePanels(named->ppd(), *bundle.bundle(), PanelRule::None).panels);
+        QVERIFY(decidePanels(other->ppd(), *bundle.bundle(), PanelRule::Panels).panels);
     }
 };
 
