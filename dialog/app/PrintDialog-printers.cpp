@@ -146,11 +146,11 @@ void PrintDialog::printerChecked(const Printer &printer)
         m_printer->printer = printer;
 }
 
-void PrintDialog::printerFailed(const QString &problem)
+void PrintDialog::printerFailed(const QString &problem, const QString &brief)
 {
     if (m_printer)
-        return m_status->setProblem(problem, [this] { m_source.retry(); });
-    m_status->setProblem(problem);
+        return m_status->setProblem(brief, [this] { m_source.retry(); });
+    m_status->setProblem(brief);
     // The same again, every few seconds, must not take the focus away.
     const auto *shown = m_pages->findChild<QLabel *>(QStringLiteral("waitingText"));
     if (!shown || shown->text() != problem)
@@ -236,8 +236,7 @@ void PrintDialog::showListState()
     case QueueList::State::Slow:
         m_printers->setFooter(tr("Looking for printers…"));
         if (nothingElse && queues.state() == QueueList::State::Slow)
-            m_status->setProblem(
-                tr("The print server “%1” has not answered yet.").arg(server.text()), retry);
+            m_status->setProblem(tr("No answer from “%1” yet.").arg(server.text()), retry);
         return;
     case QueueList::State::Known:
         if (!queues.printers().isEmpty())
@@ -268,7 +267,7 @@ void PrintDialog::showListState()
                                   "most systems with “systemctl start cups”.") +
                                    u' ' + meanwhile);
     else
-        m_status->setProblem(problem.text(server), retry);
+        m_status->setProblem(problem.brief(server), retry);
 }
 
 // Whether nothing would be lost if another printer took the place of this one.

@@ -104,7 +104,7 @@ private:
     void choosePrinter(const Printer &printer);
     void printerReady(const ReadyPrinter &ready);
     void printerChecked(const Printer &printer);
-    void printerFailed(const QString &problem);
+    void printerFailed(const QString &problem, const QString &brief);
     void offerQueue(const Printer &printer);
     void printersListed();
     void showListState();

@@ -178,11 +178,14 @@ void PrinterSource::inspected(const QueueDetails &details)
     m_inspecting = false;
     m_inspectionFailed = details.state == QueueDetails::Ppd::Unknown;
     if (details.state == QueueDetails::Ppd::Unknown) {
-        const QString problem = details.problem.kind == ServerProblem::Kind::NotFound
-                                    ? tr("There is no printer “%1” at “%2”.")
-                                          .arg(m_open.name, serverOf(m_open).address.text())
-                                    : details.problem.text(serverOf(m_open).address);
-        Q_EMIT failed(problem);
+        const ServerAddress &server = serverOf(m_open).address;
+        if (details.problem.kind == ServerProblem::Kind::NotFound) {
+            const QString problem =
+                tr("There is no printer “%1” at “%2”.").arg(m_open.name, server.text());
+            Q_EMIT failed(problem, problem);
+        } else {
+            Q_EMIT failed(details.problem.text(server), details.problem.brief(server));
+        }
         return;
     }
     const QByteArray before = m_openIsReady ? contentOf(m_open.ppdPath) : QByteArray();
@@ -191,10 +194,12 @@ void PrinterSource::inspected(const QueueDetails &details)
     if (details.state == QueueDetails::Ppd::Unchanged)
         now.printer.ppdPath = m_open.ppdPath;
     if (now.printer.ppdPath.isEmpty()) {
-        Q_EMIT failed(error);
+        Q_EMIT failed(error, error);
         return;
     }
     const bool same = m_openIsReady && contentOf(now.printer.ppdPath) == before;
+    if (same) // written anew or not, it is open where it was
+        now.printer.ppdPath = m_open.ppdPath;
     m_open = now.printer;
     m_openModified = details.lastModified;
     m_configured = details.printer.configured;
@@ -244,9 +249,11 @@ void PrinterSource::follow()
         return;
     const Printer *now = find(m_queues.printers(), m_open.name);
     if (!now) {
-        if (m_openIsReady && m_queues.state() == QueueList::State::Known)
-            Q_EMIT failed(tr("There is no printer “%1” at “%2” any more.")
-                              .arg(m_open.name, m_queues.context().address.text()));
+        if (m_openIsReady && m_queues.state() == QueueList::State::Known) {
+            const QString problem = tr("There is no printer “%1” at “%2” any more.")
+                                        .arg(m_open.name, m_queues.context().address.text());
+            Q_EMIT failed(problem, problem);
+        }
         return;
     }
     if (m_openIsReady) {

@@ -54,8 +54,9 @@ Q_SIGNALS:
     void ready(const corvana::ReadyPrinter &printer);
     /// What its server says of the printer that is open, which otherwise is as it was.
     void checked(const corvana::Printer &printer);
-    /// The printer that is to be opened, or is open, could not be asked for.
-    void failed(const QString &problem);
+    /// The printer that is to be opened, or is open, could not be asked for; `brief` says the same
+    /// in few words.
+    void failed(const QString &problem, const QString &brief);
     /// The printer that is open has no PPD, but another queue leads to the same device and has one
     /// with pages of its own.
     void betterQueueFound(const corvana::Printer &printer);

@@ -384,7 +384,7 @@ QString JobProgress::text() const
         return Texts::tr("Preparing…");
     case Stage::Sending:
         return total > 0 ? Texts::tr("Sending, %1 %…").arg(sent * 100 / total)
-                         : Texts::tr("Sending…");
+                         : Texts::tr("Asking the print server…");
     case Stage::Waiting:
         return Texts::tr("Waiting in the queue…");
     case Stage::Held:

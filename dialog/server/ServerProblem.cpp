@@ -71,6 +71,26 @@ QString ServerProblem::text(const ServerAddress &server) const
     return {};
 }
 
+QString ServerProblem::brief(const ServerAddress &server) const
+{
+    const QString who = server.text();
+    switch (kind) {
+    case Kind::Unreachable:
+        return Texts::tr("“%1” cannot be reached.").arg(who);
+    case Kind::NoAnswer:
+        return Texts::tr("No answer from “%1”.").arg(who);
+    case Kind::ConnectionLost:
+        return Texts::tr("“%1” broke the connection.").arg(who);
+    case Kind::PasswordNeeded:
+    case Kind::PasswordCanceled:
+        return Texts::tr("“%1” wants a password.").arg(who);
+    case Kind::PasswordRefused:
+        return Texts::tr("Wrong user or password.");
+    default:
+        return text(server);
+    }
+}
+
 bool ServerProblem::mayPass() const
 {
     return kind == Kind::Unreachable || kind == Kind::NoAnswer || kind == Kind::ConnectionLost ||

@@ -38,6 +38,8 @@ struct ServerProblem
 
     /// For a person: what is wrong, and with whom.
     QString text(const ServerAddress &server) const;
+    /// The same in few words, where there is little room.
+    QString brief(const ServerAddress &server) const;
     /// Whether asking again later may help without anybody doing anything.
     bool mayPass() const;
 };
