@@ -159,6 +159,14 @@ void PrintDialog::startServerJob()
     m_serverJob->print(request);
 }
 
+// Lets a job that its server has go on without this window.
+void PrintDialog::leave()
+{
+    m_leaving = m_serverJob && m_serverJob->isHandedOver();
+    if (m_leaving)
+        m_serverJob->letGo();
+}
+
 void PrintDialog::showProgress(const JobProgress &progress)
 {
     m_progressText->setText(progress.text());

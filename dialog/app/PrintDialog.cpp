@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -184,11 +185,7 @@ QLayout *PrintDialog::buildFooter()
         updateSilencedAlerts();
     });
     connect(m_print, &QPushButton::clicked, this, &PrintDialog::accept);
-    connect(m_leave, &QPushButton::clicked, this, [this] {
-        m_leaving = m_serverJob && m_serverJob->isHandedOver();
-        if (m_leaving)
-            m_serverJob->letGo();
-    });
+    connect(m_leave, &QPushButton::clicked, this, &PrintDialog::leave);
     connect(m_cancel, &QPushButton::clicked, this, &PrintDialog::reject);
 
     auto *footer = new QHBoxLayout;
@@ -493,6 +490,15 @@ void PrintDialog::resizeEvent(QResizeEvent *event)
     QDialog::resizeEvent(event);
     if (event->size() != m_followed)
         m_grownBy = 0; // this size is the user's
+}
+
+// Closing the window is no order to cancel what is being printed; that is what Cancel is for.
+void PrintDialog::closeEvent(QCloseEvent *event)
+{
+    if (!m_serverJob || !m_serverJob->isHandedOver())
+        return QDialog::closeEvent(event);
+    leave();
+    event->ignore(); // the job's end closes it
 }
 
 void PrintDialog::hideEvent(QHideEvent *event)

@@ -63,6 +63,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void buildWindow();
@@ -123,6 +124,7 @@ private:
     void startJob(const QString &output);
     void jobFinished(const QString &problem);
     void startServerJob();
+    void leave();
     void serverJobFinished(const JobOutcome &outcome);
     void showProgress(const JobProgress &progress);
     void showJobRunning(bool running);
