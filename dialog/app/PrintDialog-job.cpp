@@ -14,6 +14,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "dialog/chooser/ElidedLabel.h"
 #include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
@@ -227,6 +228,7 @@ void PrintDialog::showJobRunning(bool running)
     m_progressText->setText(running ? tr("Printing…") : QString());
     m_progress->setRange(0, 0);
     m_progress->setVisible(running);
+    m_progressText->setVisible(running);
     m_leave->hide();
     m_cancel->setText(tr("Cancel"));
     if (!running && m_comesNext)

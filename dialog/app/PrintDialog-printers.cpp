@@ -230,12 +230,17 @@ void PrintDialog::showListState()
     const auto retry = [this] { m_source.retryList(); };
     const bool nothingElse = !m_chosenByUser && m_chosen.origin == PrinterOrigin::PpdFile &&
                              m_request.printers.isEmpty();
-    const QString meanwhile = tr("Until then, documents can be printed to a file.");
+    const auto withAdvice = [](const QString &problem) {
+        // Not every language has a blank between two sentences.
+        return tr("%1 %2").arg(problem, tr("Until then, documents can be printed to a file."));
+    };
     switch (queues.state()) {
     case QueueList::State::Looking:
     case QueueList::State::Slow:
         m_printers->setFooter(tr("Looking for printers…"));
-        if (nothingElse && queues.state() == QueueList::State::Slow)
+        // Not while it is the server that waits: for a password.
+        if (nothingElse && queues.state() == QueueList::State::Slow &&
+            !findChild<CredentialsDialog *>())
             m_status->setProblem(tr("No answer from “%1” yet.").arg(server.text()), retry);
         return;
     case QueueList::State::Known:
@@ -245,9 +250,8 @@ void PrintDialog::showListState()
         if (nothingElse)
             m_message->showMessage(
                 MessageBar::Kind::Information,
-                tr("There are no printers yet. Add one in the printer settings of the system, or "
-                   "with the command lpadmin.") +
-                    u' ' + meanwhile);
+                withAdvice(tr("There are no printers yet. Add one in the printer settings of the "
+                              "system, or with the command lpadmin.")));
         return;
     case QueueList::State::Failed:
         break;
@@ -256,18 +260,18 @@ void PrintDialog::showListState()
     const bool wantsPassword = problem.kind == ServerProblem::Kind::PasswordNeeded ||
                                problem.kind == ServerProblem::Kind::PasswordRefused ||
                                problem.kind == ServerProblem::Kind::PasswordCanceled;
-    m_printers->setFooter(problem.text(server), wantsPassword ? tr("Log In…") : tr("Try Again"),
-                          retry);
+    const QString wayOut = wantsPassword ? tr("Log In…") : tr("Try Again");
+    m_printers->setFooter(problem.text(server), wayOut, retry);
     if (!nothingElse)
         return;
     if (problem.kind == ServerProblem::Kind::Unreachable && server.isLocal() &&
         !m_request.serverWasNamed)
-        m_message->showMessage(MessageBar::Kind::Information,
-                               tr("The print service of this computer is not running. Start it, on "
-                                  "most systems with “systemctl start cups”.") +
-                                   u' ' + meanwhile);
+        m_message->showMessage(
+            MessageBar::Kind::Information,
+            withAdvice(tr("The print service of this computer is not running. Start it, on "
+                          "most systems with “systemctl start cups”.")));
     else
-        m_status->setProblem(problem.brief(server), retry);
+        m_status->setProblem(problem.brief(server), retry, wayOut);
 }
 
 // Whether nothing would be lost if another printer took the place of this one.

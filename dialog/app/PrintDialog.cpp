@@ -25,6 +25,7 @@
 #include "dialog/app/Language.h"
 #include "dialog/app/SilencedAlerts.h"
 #include "dialog/app/WindowSize.h"
+#include "dialog/chooser/ElidedLabel.h"
 #include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/chooser/PrinterStatusLine.h"
 #include "dialog/pages/GeneralPage.h"
@@ -111,7 +112,7 @@ void PrintDialog::buildWindow()
     layout->addWidget(m_pages, 1);
     layout->addLayout(buildFooter());
     const int em = fontMetrics().height();
-    resize(rememberedWindowSize(QSize(36 * em, 30 * em), screen()->availableSize()));
+    resize(rememberedWindowSize(QSize(36 * em, 31 * em), screen()->availableSize()));
 
     addPageShortcuts();
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageEntered);
@@ -137,6 +138,8 @@ QWidget *PrintDialog::buildOutputLabel()
     layout->addStretch();
     layout->addWidget(m_toFile);
     layout->addWidget(m_toFileLabel);
+    // As wide with either, so that another printer does not move the fields of the header.
+    label->setMinimumWidth(m_toFile->sizeHint().width());
     connect(m_toFile, &QCheckBox::clicked, this, [this] {
         updateDestination();
         if (m_toFile->isChecked())
@@ -163,8 +166,9 @@ QLayout *PrintDialog::buildFooter()
     m_progress->setAccessibleName(tr("Printing"));
     m_progress->setMaximumWidth(8 * fontMetrics().height());
     m_progress->hide();
-    m_progressText = new QLabel(this);
+    m_progressText = new ElidedLabel(this);
     m_progressText->setObjectName(QStringLiteral("progressText"));
+    m_progressText->hide();
     m_print = new QPushButton(tr("&Print"), this);
     m_print->setObjectName(QStringLiteral("print"));
     m_print->setDefault(true);
@@ -188,15 +192,20 @@ QLayout *PrintDialog::buildFooter()
     connect(m_leave, &QPushButton::clicked, this, &PrintDialog::leave);
     connect(m_cancel, &QPushButton::clicked, this, &PrintDialog::reject);
 
-    auto *footer = new QHBoxLayout;
-    footer->addWidget(m_helpButton);
-    footer->addWidget(m_silenced);
-    footer->addStretch();
-    footer->addWidget(m_progressText);
-    footer->addWidget(m_progress);
-    footer->addWidget(m_print);
-    footer->addWidget(m_leave);
-    footer->addWidget(m_cancel);
+    // In a row of its own: beside the buttons it would widen the window while it prints.
+    auto *progress = new QHBoxLayout;
+    progress->addWidget(m_progressText, 1);
+    progress->addWidget(m_progress);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_helpButton);
+    buttons->addWidget(m_silenced);
+    buttons->addStretch();
+    buttons->addWidget(m_print);
+    buttons->addWidget(m_leave);
+    buttons->addWidget(m_cancel);
+    auto *footer = new QVBoxLayout;
+    footer->addLayout(progress);
+    footer->addLayout(buttons);
     return footer;
 }
 
@@ -383,9 +392,9 @@ void PrintDialog::pageEntered(int page)
 // The footer comes behind the pages, whose controls are younger than it.
 void PrintDialog::orderFocus()
 {
-    for (QWidget *control :
-         {static_cast<QWidget *>(m_helpButton), static_cast<QWidget *>(m_silenced),
-          static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)})
+    for (QWidget *control : {static_cast<QWidget *>(m_helpButton),
+                             static_cast<QWidget *>(m_silenced), static_cast<QWidget *>(m_print),
+                             static_cast<QWidget *>(m_leave), static_cast<QWidget *>(m_cancel)})
         setTabOrder(previousInFocusChain(), control);
 }
 

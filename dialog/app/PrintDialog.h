@@ -24,6 +24,7 @@ class QTabWidget;
 
 namespace corvana {
 
+class ElidedLabel;
 class GeneralPage;
 class HelpWindow;
 class MessageBar;
@@ -178,7 +179,7 @@ private:
     QPushButton *m_print = nullptr;
     QPushButton *m_cancel = nullptr;
     QProgressBar *m_progress = nullptr;
-    QLabel *m_progressText = nullptr;
+    ElidedLabel *m_progressText = nullptr;
     QToolButton *m_silenced = nullptr;
     HelpWindow *m_help = nullptr;
 };

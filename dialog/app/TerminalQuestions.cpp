@@ -15,6 +15,11 @@ namespace {
 // How often it is looked whether the program was told to end. Units: milliseconds.
 constexpr int kLookAround = 100;
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(TerminalQuestions)
+};
+
 void write(int terminal, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
@@ -50,23 +55,16 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
     if (terminal < 0)
         return std::nullopt;
     const auto closing = qScopeGuard([&] { ::close(terminal); });
-    const auto tr = [](const char *text) {
-        return QCoreApplication::translate("TerminalQuestions", text);
-    };
-    write(terminal, (question.forDevice
-                         ? tr(QT_TRANSLATE_NOOP("TerminalQuestions",
-                                                "The printer at “%1” wants a user and a password."))
-                         : tr(QT_TRANSLATE_NOOP("TerminalQuestions",
-                                                "The print server “%1” wants a user and a "
-                                                "password.")))
-                            .arg(question.server.text()) +
-                        u'\n');
+    write(terminal,
+          (question.forDevice ? Texts::tr("The printer at “%1” wants a user and a password.")
+                              : Texts::tr("The print server “%1” wants a user and a "
+                                          "password."))
+                  .arg(question.server.text()) +
+              u'\n');
     if (!question.encrypted)
         write(terminal,
-              tr(QT_TRANSLATE_NOOP("TerminalQuestions",
-                                   "The connection is not encrypted: others may read them.")) +
-                  u'\n');
-    write(terminal, tr(QT_TRANSLATE_NOOP("TerminalQuestions", "User [%1]: ")).arg(question.user));
+              Texts::tr("The connection is not encrypted: others may read them.") + u'\n');
+    write(terminal, Texts::tr("User [%1]: ").arg(question.user));
     const std::optional<QByteArray> user = readLine(terminal, ending);
     if (!user)
         return std::nullopt;
@@ -74,7 +72,7 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
     const bool canHide = ::tcgetattr(terminal, &shown) == 0;
     termios hidden = shown;
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    write(terminal, tr(QT_TRANSLATE_NOOP("TerminalQuestions", "Password: ")));
+    write(terminal, Texts::tr("Password: "));
     if (canHide)
         ::tcsetattr(terminal, TCSAFLUSH, &hidden);
     std::optional<QByteArray> password = readLine(terminal, ending);

@@ -62,10 +62,10 @@ QStringList refusalMessages(PpdSession &session)
     return messages;
 }
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("UnattendedRun", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(UnattendedRun)
+};
 
 // How long a server may take to let go of a program that was told to end.
 constexpr std::chrono::milliseconds kPatienceAtEnd{1000};
@@ -110,7 +110,7 @@ QString otherPrinters(const PrintRequest &request)
     for (const Printer &printer : request.printers)
         names += printer.name;
     return names.isEmpty() ? QString()
-                           : u' ' + tr("Printers that need no print server: %1.")
+                           : u' ' + Texts::tr("Printers that need no print server: %1.")
                                         .arg(names.join(QStringLiteral(", ")));
 }
 
@@ -128,9 +128,10 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
             });
         if (found.name.isEmpty()) {
             const bool away = found.problem && found.problem.kind != ServerProblem::Kind::NotFound;
-            *error = tr("There is no default printer.%1 Name a printer with -d, or a PPD with "
-                        "--ppd FILE, or try the sample printers with --demo.")
-                         .arg(away ? u' ' + found.problem.text(server->address) : QString());
+            *error =
+                Texts::tr("There is no default printer.%1 Name a printer with -d, or a PPD with "
+                          "--ppd FILE, or try the sample printers with --demo.")
+                    .arg(away ? u' ' + found.problem.text(server->address) : QString());
             return {};
         }
         name = found.name;
@@ -145,7 +146,7 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         });
     if (details.state == QueueDetails::Ppd::Unknown) {
         *error = details.problem.kind == ServerProblem::Kind::NotFound
-                     ? tr("There is no printer \"%1\" at the print server \"%2\".")
+                     ? Texts::tr("There is no printer \"%1\" at the print server \"%2\".")
                            .arg(name, server->address.text())
                      : tr("%1 So the printer \"%2\" could not be asked for.")
                            .arg(details.problem.text(server->address), name);
@@ -172,7 +173,7 @@ int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const
         const int status = refused({problem});
         return termination.caught() ? termination.exitStatus() : status;
     }
-    QTextStream(stdout) << tr("Printed to %1").arg(request.output) << "\n";
+    QTextStream(stdout) << Texts::tr("Printed to %1").arg(request.output) << "\n";
     return 0;
 }
 
@@ -206,8 +207,9 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
         << (outcome.isDone() ? QString() : QStringLiteral("corvana-print: ")) << outcome.text
         << "\n";
     if (outcome.isDone() && held)
-        QTextStream(stdout) << tr("It waits until the instructions have been followed. Release it "
-                                  "with: %1")
+        QTextStream(stdout) << Texts::tr(
+                                   "It waits until the instructions have been followed. Release it "
+                                   "with: %1")
                                    .arg(releaseCommand(request, printer.printer.name, outcome.job))
                             << "\n";
     if (outcome.isDone())
@@ -262,13 +264,14 @@ int runUnattended(const PrintRequest &request)
     const bool allowed = !printing || printer->panels->shouldPrint();
     const bool held = presenter.jobMustWait() && presenter.jobCanWait();
     if (presenter.jobMustWait() && !held) {
-        return refused({presenter.policy() == AlertPolicy::Hold
-                            ? tr("The job would have to wait for these instructions, and a file "
-                                 "cannot wait. Follow them and print with --on-alert=print.")
-                            : tr("The printer's settings show instructions.")});
+        return refused(
+            {presenter.policy() == AlertPolicy::Hold
+                 ? Texts::tr("The job would have to wait for these instructions, and a file "
+                             "cannot wait. Follow them and print with --on-alert=print.")
+                 : Texts::tr("The printer's settings show instructions.")});
     }
     if (!allowed)
-        return refused({tr("The printer's settings hold the job back.")});
+        return refused({Texts::tr("The printer's settings hold the job back.")});
     if (held)
         attributes = replaced(attributes, {{kJobHoldUntilAttribute, kHeldIndefinitely}});
     // Before the ticket: the panels restore and save on the way.

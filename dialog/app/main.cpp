@@ -4,6 +4,7 @@
 
 #include "dialog/app/CommandLine.h"
 #include "dialog/app/Language.h"
+#include "dialog/app/Placeholders.h"
 #include "dialog/app/PrintDialog.h"
 #include "dialog/app/TerminationSignals.h"
 #include "dialog/app/Translations.h"
@@ -80,6 +81,7 @@ int main(int argc, char **argv)
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
     choosePlatform(!unattended || line.checkDisplay);
     QApplication application(argc, argv);
+    QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
     QApplication::setApplicationName(QStringLiteral("corvana-print"));
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 

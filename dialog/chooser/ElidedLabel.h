@@ -19,12 +19,16 @@ class ElidedLabel : public QLabel
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
+    /// Breaks a text that is too long for one line, once, before it is cut; the room for both lines
+    /// is kept whatever is shown.
+    void setTwoLines();
+
     /// The text begins with `head`, which is cut first (elidedLine()).
     void setLine(const QString &text, const QString &head = {});
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    /// What there is room for now.
+    /// What there is room for now; a line break where the text was broken.
     QString shownText() const;
 
 protected:
@@ -32,7 +36,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QStringList broken(const QString &text) const;
+
     QString m_head;
+    int m_lines = 1;
 };
 
 } // namespace corvana

@@ -14,9 +14,10 @@ namespace corvana {
 
 PrinterStatusLine::PrinterStatusLine(QWidget *parent)
     : QWidget(parent), m_icon(new QLabel(this)), m_text(new ElidedLabel(this)),
-      m_retryButton(new QPushButton(tr("Retry"), this))
+      m_retryButton(new QPushButton(tr("Try Again"), this))
 {
     m_text->setObjectName(QStringLiteral("printerStatusText"));
+    m_text->setTwoLines();
     m_retryButton->setObjectName(QStringLiteral("printerStatusRetry"));
     m_retryButton->setAutoDefault(false);
     m_retryButton->hide();
@@ -41,8 +42,10 @@ void PrinterStatusLine::setPrinter(const Printer &printer, Presence presence)
              plainLine(printer.location), {});
 }
 
-void PrinterStatusLine::setProblem(const QString &text, const std::function<void()> &retry)
+void PrinterStatusLine::setProblem(const QString &text, const std::function<void()> &retry,
+                                   const QString &buttonText)
 {
+    m_retryButton->setText(buttonText.isEmpty() ? tr("Try Again") : buttonText);
     showLine(style()->standardIcon(QStyle::SP_MessageBoxWarning), plainLine(text), QString(),
              retry);
     QAccessibleEvent event(m_text, QAccessible::Alert);

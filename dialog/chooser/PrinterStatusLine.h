@@ -13,8 +13,9 @@ namespace corvana {
 
 class ElidedLabel;
 
-/// One line below the chosen printer: where it stands and what it is doing, or what is wrong, with
-/// a button to try again. Plain text, cut off where it has no room; the whole is in the tool tip.
+/// What stands below the chosen printer: where it is and what it is doing, or what is wrong, with a
+/// button to try again. Plain text of two lines at most, cut off where it has no room; the whole is
+/// in the tool tip.
 class PrinterStatusLine : public QWidget
 {
     Q_OBJECT
@@ -24,8 +25,10 @@ public:
 
     void setPrinter(const Printer &printer, Presence presence = Presence::Listed);
     /// Shows a problem instead of a printer, and says it to assistive technology. Without `retry`
-    /// there is no button. The problem stays until the next call.
-    void setProblem(const QString &text, const std::function<void()> &retry = {});
+    /// there is no button; `buttonText` is for another one than "Try Again". The problem stays
+    /// until the next call.
+    void setProblem(const QString &text, const std::function<void()> &retry = {},
+                    const QString &buttonText = {});
     /// Shows nothing; the line keeps its place.
     void clear();
 

@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>JobRequests</name>
+    <message>
+        <source>The value of “%1” is too long for a print server; at most %2 bytes can be sent.</source>
+        <translation>「%1」の値が長すぎて、プリントサーバーに送信できません。送信できるのは %2 バイトまでです。</translation>
+    </message>
+    <message>
+        <source>The value of “%1” has characters that a print server would drop: no line breaks, no “{” in front.</source>
+        <translation>「%1」の値に、プリントサーバーが受け取れない文字があります。改行と先頭の「{」は使用できません。</translation>
+    </message>
+</context>
+<context>
     <name>OptionRequest</name>
     <message>
         <source>this printer has no such option. Options: %1. Job attributes: %2.</source>
@@ -111,14 +122,6 @@
 </context>
 <context>
     <name>PrintRequest</name>
-    <message>
-        <source>There is no printer. Name one with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>プリンターがありません。--ppd FILE で指定するか、--demo でサンプルプリンターを試してください。</translation>
-    </message>
-    <message>
-        <source>There is no printer &quot;%1&quot;. Printers: %2.</source>
-        <translation>プリンター「%1」はありません。プリンター: %2。</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -337,6 +340,250 @@
     </message>
 </context>
 <context>
+    <name>QueueOpening</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>PostScript File</source>
+        <translation>PostScript ファイル</translation>
+    </message>
+</context>
+<context>
+    <name>ServerAddress</name>
+    <message>
+        <source>this computer</source>
+        <translation>このコンピューター</translation>
+    </message>
+</context>
+<context>
+    <name>ServerJob</name>
+    <message>
+        <source>%1 The printer says: %2</source>
+        <translation>%1プリンターのメッセージ: %2</translation>
+    </message>
+    <message>
+        <source>The printer “%1” wants a user and a password; none was given. Nothing was printed.</source>
+        <translation>プリンター「%1」にはユーザー名とパスワードが必要ですが、入力されませんでした。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>The print server did not say which job it has made. Nothing was printed.</source>
+        <translation>プリントサーバーから、作成したジョブの番号の通知がありませんでした。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” is not there any more. Nothing was printed.</source>
+        <translation>キュー「%1」はなくなりました。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment. Nothing was printed.</source>
+        <translation>キュー「%1」は現在ジョブを受け付けていません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was printed.</source>
+        <translation>%1何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 Whether job %2 of the earlier try was printed is not known yet, so nothing was sent again.</source>
+        <translation>%1前回のジョブ %2 が印刷されたかどうかまだ確認できないため、再送信しませんでした。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has been printed.</source>
+        <translation>前回のジョブ %1 は印刷されています。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try is in the queue and will be printed.</source>
+        <translation>前回のジョブ %1 はキューにあり、これから印刷されます。</translation>
+    </message>
+    <message>
+        <source>The options of the printer “%1” have changed at its server. Nothing was printed.</source>
+        <translation>プリンター「%1」のオプションがサーバーで変更されました。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 was canceled; pages that the printer has already may still come out.</source>
+        <translation>%1ジョブ %2 を中止しました。プリンターに送信済みのページは印刷されることがあります。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 was canceled; nothing was printed.</source>
+        <translation>%1ジョブ %2 を中止しました。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server, without its whole document. It could not be canceled: %3</source>
+        <translation>%1ジョブ %2 は、文書がそろわないままプリントサーバーに残っている可能性があります。ジョブを中止できませんでした: %3</translation>
+    </message>
+    <message>
+        <source>%1 The print server does not know job %2 any more. It was probably not printed.</source>
+        <translation>%1プリントサーバーにジョブ %2 の記録がありません。おそらく印刷されていません。</translation>
+    </message>
+    <message>
+        <source>%1 The document had been sent, so job %2 may be printed or not. Printing again looks for it first.</source>
+        <translation>%1文書は送信済みのため、ジョブ %2 は印刷された可能性もあります。もう一度印刷すると、まずこのジョブを確認します。</translation>
+    </message>
+    <message>
+        <source>Job %1 was stopped. It is still in the queue, where it can be released or canceled.</source>
+        <translation>ジョブ %1 は停止しました。ジョブはまだキューにあり、再開または中止できます。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held in the queue “%2”.</source>
+        <translation>ジョブ %1 はキュー「%2」で保留されています。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits in the queue “%2”, which is stopped.</source>
+        <translation>ジョブ %1 は、停止中のキュー「%2」で待機しています。</translation>
+    </message>
+    <message>
+        <source>Job %1 is in the queue “%2”.</source>
+        <translation>ジョブ %1 はキュー「%2」にあります。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
+        <translation>ジョブ %1 はすべて送信されました。%2そのため、印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Printed on “%1” as job %2.</source>
+        <translation>「%1」でジョブ %2 として印刷しました。</translation>
+    </message>
+    <message>
+        <source>Job %1 was canceled at the printer or its server.</source>
+        <translation>ジョブ %1 は、プリンターまたはサーバーで中止されました。</translation>
+    </message>
+    <message>
+        <source>Job %1 failed: the printer or its server gave it up.</source>
+        <translation>ジョブ %1 は失敗しました。プリンターまたはサーバーが処理を打ち切りました。</translation>
+    </message>
+    <message>
+        <source>Preparing…</source>
+        <translation>準備しています…</translation>
+    </message>
+    <message>
+        <source>Sending, %1 %…</source>
+        <translation>送信しています（%1 %）…</translation>
+    </message>
+    <message>
+        <source>Waiting in the queue…</source>
+        <translation>キューで待機しています…</translation>
+    </message>
+    <message>
+        <source>Held in the queue</source>
+        <translation>キューで保留中</translation>
+    </message>
+    <message>
+        <source>Printing page %1…</source>
+        <translation>%1 ページ目を印刷しています…</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>The printer is stopped.</source>
+        <translation>プリンターは停止しています。</translation>
+    </message>
+    <message>
+        <source>The printer is stopped: %1</source>
+        <translation>プリンターは停止しています: %1</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>プリントサーバーに問い合わせています…</translation>
+    </message>
+</context>
+<context>
+    <name>ServerProblem</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>The print server “%1” cannot be reached.</source>
+        <translation>プリントサーバー「%1」に接続できません。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” does not answer.</source>
+        <translation>プリントサーバー「%1」が応答しません。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” broke the connection.</source>
+        <translation>プリントサーバー「%1」が接続を切断しました。</translation>
+    </message>
+    <message>
+        <source>What “%1” answers is not what a print server says.</source>
+        <translation>「%1」の応答は、プリントサーバーのものではありません。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants a user and a password.</source>
+        <translation>プリントサーバー「%1」にはユーザー名とパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” does not accept this user and password.</source>
+        <translation>プリントサーバー「%1」は、このユーザー名とパスワードを受け付けません。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants a user and a password; none was given.</source>
+        <translation>プリントサーバー「%1」にはユーザー名とパスワードが必要ですが、入力されませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” does not allow you this.</source>
+        <translation>プリントサーバー「%1」では、この操作は許可されていません。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server “%1” is not to be trusted.</source>
+        <translation>プリントサーバー「%1」の証明書は信頼できません。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants an encrypted connection, which could not be made.</source>
+        <translation>プリントサーバー「%1」には暗号化された接続が必要ですが、確立できませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” knows nothing of it.</source>
+        <translation>プリントサーバー「%1」に該当するものがありません。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” refuses.</source>
+        <translation>プリントサーバー「%1」に拒否されました。</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>中止しました。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the file %2.</source>
+        <translation>プリントサーバー「%1」の証明書が以前のものと異なります。証明書が交換されたか、第三者が通信に介入しています。意図して交換した場合は、ファイル %2 を削除してください。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be reached.</source>
+        <translation>「%1」に接続できません。</translation>
+    </message>
+    <message>
+        <source>No answer from “%1”.</source>
+        <translation>「%1」から応答がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” broke the connection.</source>
+        <translation>「%1」が接続を切断しました。</translation>
+    </message>
+    <message>
+        <source>“%1” wants a password.</source>
+        <translation>「%1」にはパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>Wrong user or password.</source>
+        <translation>ユーザー名またはパスワードが正しくありません。</translation>
+    </message>
+</context>
+<context>
     <name>Summary</name>
     <message>
         <source>Copies</source>
@@ -349,6 +596,29 @@
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalQuestions</name>
+    <message>
+        <source>The printer at “%1” wants a user and a password.</source>
+        <translation>「%1」のプリンターにはユーザー名とパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants a user and a password.</source>
+        <translation>プリントサーバー「%1」にはユーザー名とパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others may read them.</source>
+        <translation>接続は暗号化されていません。第三者に読み取られるおそれがあります。</translation>
+    </message>
+    <message>
+        <source>User [%1]: </source>
+        <translation>ユーザー名 [%1]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>パスワード: </translation>
     </message>
 </context>
 <context>
@@ -372,6 +642,29 @@
     <message>
         <source>The printer&apos;s settings show instructions.</source>
         <translation>プリンターの設定に指示が表示されました。</translation>
+    </message>
+    <message>
+        <source>Printers that need no print server: %1.</source>
+        <translation>プリントサーバーを必要としないプリンター: %1。</translation>
+    </message>
+    <message>
+        <source>There is no default printer.%1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>既定のプリンターがありません。%1-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot; at the print server &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%2」にプリンター「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>It waits until the instructions have been followed. Release it with: %1</source>
+        <translation>ジョブは、指示に従って準備ができるまで待機します。次のコマンドで再開してください: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana</name>
+    <message>
+        <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
+        <translation>%1そのため、プリンター「%2」について問い合わせできませんでした。</translation>
     </message>
 </context>
 <context>
@@ -411,6 +704,41 @@
     <message>
         <source> and </source>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CredentialsDialog</name>
+    <message>
+        <source>Log In to Print</source>
+        <translation>印刷のためのログイン</translation>
+    </message>
+    <message>
+        <source>The printer wants to know who prints. User and password are sent to it through the print server “%1”, and are forgotten when this window closes.</source>
+        <translation>印刷するには、プリンターへのログインが必要です。ユーザー名とパスワードはプリントサーバー「%1」を経由してプリンターに送信され、このウィンドウを閉じると破棄されます。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants to know who prints. User and password are forgotten when this window closes.</source>
+        <translation>印刷するには、プリントサーバー「%1」へのログインが必要です。ユーザー名とパスワードは、このウィンドウを閉じると破棄されます。</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>ユーザー名(&amp;U):</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>パスワード(&amp;W):</translation>
+    </message>
+    <message>
+        <source>Log In</source>
+        <translation>ログイン</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others on the network may read the password.</source>
+        <translation>接続は暗号化されていません。ネットワーク上の第三者にパスワードを読み取られるおそれがあります。</translation>
     </message>
 </context>
 <context>
@@ -708,6 +1036,84 @@ For the command line: %2</source>
         <source>Options</source>
         <translation>オプション</translation>
     </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>%1 に出力しました</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Print Another Copy</source>
+        <translation>もう 1 部印刷</translation>
+    </message>
+    <message>
+        <source>Asking “%1” for the options of the printer…</source>
+        <translation>「%1」からプリンターのオプションを取得しています…</translation>
+    </message>
+    <message>
+        <source>The options of the printer have changed at its server; yours were kept.</source>
+        <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Until then, documents can be printed to a file.</source>
+        <translation>それまでの間、文書はファイルに出力できます。</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>プリンターを探しています…</translation>
+    </message>
+    <message>
+        <source>No printers at “%1”.</source>
+        <translation>「%1」にプリンターはありません。</translation>
+    </message>
+    <message>
+        <source>There are no printers yet. Add one in the printer settings of the system, or with the command lpadmin.</source>
+        <translation>プリンターがまだありません。システムのプリンター設定、またはコマンド lpadmin で追加してください。</translation>
+    </message>
+    <message>
+        <source>Log In…</source>
+        <translation>ログイン…</translation>
+    </message>
+    <message>
+        <source>The print service of this computer is not running. Start it, on most systems with “systemctl start cups”.</source>
+        <translation>このコンピューターの印刷サービスが動作していません。多くのシステムでは「systemctl start cups」で開始できます。</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window.</source>
+        <translation>このウィンドウを閉じても、ジョブは続行されます。</translation>
+    </message>
+    <message>
+        <source>Not everything could be set as before:
+%1</source>
+        <translation>次の設定は、以前のとおりに戻せませんでした:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” leads to the same printer, and has pages with all of its settings.</source>
+        <translation>キュー「%1」は同じプリンターに接続し、すべての設定のページがあります。</translation>
+    </message>
+    <message>
+        <source>Use “%1”</source>
+        <translation>「%1」を使用</translation>
+    </message>
+    <message>
+        <source>No answer from “%1” yet.</source>
+        <translation>「%1」からまだ応答がありません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -748,10 +1154,32 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::PrinterSource</name>
+    <message>
+        <source>There is no printer “%1” at “%2”.</source>
+        <translation>「%2」にプリンター「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>There is no printer “%1” at “%2” any more.</source>
+        <translation>「%2」のプリンター「%1」はなくなりました。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::PrinterStatusLine</name>
     <message>
-        <source>Retry</source>
+        <source>Try Again</source>
         <translation>再試行</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ServerJob</name>
+    <message>
+        <source>The printer “%1” takes documents of these kinds only: %2.</source>
+        <translation>プリンター「%1」で使用できる文書の種類は次のとおりです: %2</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is in the queue; it was not followed to its end.</source>
+        <translation>ジョブ %1-%2 はキューにあります。最後までは確認していません。</translation>
     </message>
 </context>
 <context>
@@ -764,12 +1192,12 @@ For the command line: %2</source>
 <context>
     <name>main</name>
     <message>
-        <source>Printed to %1</source>
-        <translation>%1 に出力しました</translation>
-    </message>
-    <message>
         <source>no display can be reached. Print without a window with --no-dialog.</source>
         <translation>ディスプレイに接続できません。--no-dialog を指定すると、ウィンドウなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
     </message>
 </context>
 </TS>

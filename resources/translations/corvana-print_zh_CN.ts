@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>JobRequests</name>
+    <message>
+        <source>The value of “%1” is too long for a print server; at most %2 bytes can be sent.</source>
+        <translation>“%1”的值过长，无法发送到打印服务器；最多可发送 %2 字节。</translation>
+    </message>
+    <message>
+        <source>The value of “%1” has characters that a print server would drop: no line breaks, no “{” in front.</source>
+        <translation>“%1”的值包含打印服务器会丢弃的字符：不能换行，不能以“{”开头。</translation>
+    </message>
+</context>
+<context>
     <name>OptionRequest</name>
     <message>
         <source>this printer has no such option. Options: %1. Job attributes: %2.</source>
@@ -111,14 +122,6 @@
 </context>
 <context>
     <name>PrintRequest</name>
-    <message>
-        <source>There is no printer. Name one with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>没有打印机。请用 --ppd FILE 指定，或用 --demo 试用示例打印机。</translation>
-    </message>
-    <message>
-        <source>There is no printer &quot;%1&quot;. Printers: %2.</source>
-        <translation>没有打印机“%1”。打印机：%2。</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -337,6 +340,250 @@
     </message>
 </context>
 <context>
+    <name>QueueOpening</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>无法将打印机选项写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>PostScript File</source>
+        <translation>PostScript 文件</translation>
+    </message>
+</context>
+<context>
+    <name>ServerAddress</name>
+    <message>
+        <source>this computer</source>
+        <translation>本机</translation>
+    </message>
+</context>
+<context>
+    <name>ServerJob</name>
+    <message>
+        <source>%1 The printer says: %2</source>
+        <translation>%1打印机的消息：%2</translation>
+    </message>
+    <message>
+        <source>The printer “%1” wants a user and a password; none was given. Nothing was printed.</source>
+        <translation>打印机“%1”需要用户名和密码，但未输入。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+    <message>
+        <source>The print server did not say which job it has made. Nothing was printed.</source>
+        <translation>打印服务器未告知所创建的作业编号。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” is not there any more. Nothing was printed.</source>
+        <translation>队列“%1”已不存在。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment. Nothing was printed.</source>
+        <translation>队列“%1”目前不接受作业。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was printed.</source>
+        <translation>%1没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 Whether job %2 of the earlier try was printed is not known yet, so nothing was sent again.</source>
+        <translation>%1尚不知上次的作业 %2 是否已打印，因此没有再次发送。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has been printed.</source>
+        <translation>上次的作业 %1 已打印。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try is in the queue and will be printed.</source>
+        <translation>上次的作业 %1 在队列中，将会打印。</translation>
+    </message>
+    <message>
+        <source>The options of the printer “%1” have changed at its server. Nothing was printed.</source>
+        <translation>打印机“%1”的选项已在服务器上更改。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 was canceled; pages that the printer has already may still come out.</source>
+        <translation>%1作业 %2 已取消；已发送到打印机的页面可能仍会打印出来。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 was canceled; nothing was printed.</source>
+        <translation>%1作业 %2 已取消；没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server, without its whole document. It could not be canceled: %3</source>
+        <translation>%1作业 %2 可能仍在打印服务器上，但文档不完整。无法取消该作业：%3</translation>
+    </message>
+    <message>
+        <source>%1 The print server does not know job %2 any more. It was probably not printed.</source>
+        <translation>%1打印服务器上已没有作业 %2 的记录。该作业很可能未打印。</translation>
+    </message>
+    <message>
+        <source>%1 The document had been sent, so job %2 may be printed or not. Printing again looks for it first.</source>
+        <translation>%1文档已发送，因此作业 %2 可能已打印，也可能未打印。再次打印时会先查找该作业。</translation>
+    </message>
+    <message>
+        <source>Job %1 was stopped. It is still in the queue, where it can be released or canceled.</source>
+        <translation>作业 %1 已停止。它仍在队列中，可以继续或取消。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held in the queue “%2”.</source>
+        <translation>作业 %1 在队列“%2”中保留。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits in the queue “%2”, which is stopped.</source>
+        <translation>作业 %1 正在队列“%2”中等待，该队列已停止。</translation>
+    </message>
+    <message>
+        <source>Job %1 is in the queue “%2”.</source>
+        <translation>作业 %1 在队列“%2”中。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
+        <translation>作业 %1 已完整发送。%2因此不知道是否已打印。</translation>
+    </message>
+    <message>
+        <source>Printed on “%1” as job %2.</source>
+        <translation>已在“%1”上作为作业 %2 打印。</translation>
+    </message>
+    <message>
+        <source>Job %1 was canceled at the printer or its server.</source>
+        <translation>作业 %1 已在打印机或其服务器上取消。</translation>
+    </message>
+    <message>
+        <source>Job %1 failed: the printer or its server gave it up.</source>
+        <translation>作业 %1 失败：打印机或其服务器已放弃处理。</translation>
+    </message>
+    <message>
+        <source>Preparing…</source>
+        <translation>正在准备…</translation>
+    </message>
+    <message>
+        <source>Sending, %1 %…</source>
+        <translation>正在发送，%1 %…</translation>
+    </message>
+    <message>
+        <source>Waiting in the queue…</source>
+        <translation>正在队列中等待…</translation>
+    </message>
+    <message>
+        <source>Held in the queue</source>
+        <translation>在队列中保留</translation>
+    </message>
+    <message>
+        <source>Printing page %1…</source>
+        <translation>正在打印第 %1 页…</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>The printer is stopped.</source>
+        <translation>打印机已停止。</translation>
+    </message>
+    <message>
+        <source>The printer is stopped: %1</source>
+        <translation>打印机已停止：%1</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>正在查询打印服务器…</translation>
+    </message>
+</context>
+<context>
+    <name>ServerProblem</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>The print server “%1” cannot be reached.</source>
+        <translation>无法连接打印服务器“%1”。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” does not answer.</source>
+        <translation>打印服务器“%1”没有响应。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” broke the connection.</source>
+        <translation>打印服务器“%1”断开了连接。</translation>
+    </message>
+    <message>
+        <source>What “%1” answers is not what a print server says.</source>
+        <translation>“%1”的响应不是打印服务器的响应。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants a user and a password.</source>
+        <translation>打印服务器“%1”需要用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” does not accept this user and password.</source>
+        <translation>打印服务器“%1”不接受此用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants a user and a password; none was given.</source>
+        <translation>打印服务器“%1”需要用户名和密码，但未输入。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” does not allow you this.</source>
+        <translation>打印服务器“%1”不允许您执行此操作。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server “%1” is not to be trusted.</source>
+        <translation>打印服务器“%1”的证书不可信。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants an encrypted connection, which could not be made.</source>
+        <translation>打印服务器“%1”要求加密连接，但无法建立。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” knows nothing of it.</source>
+        <translation>打印服务器“%1”上没有此项。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” refuses.</source>
+        <translation>打印服务器“%1”已拒绝。</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the file %2.</source>
+        <translation>打印服务器“%1”的证书与以前不同：证书已被更换，或有人介入了通信。如果是有意更换，请删除文件 %2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be reached.</source>
+        <translation>无法连接“%1”。</translation>
+    </message>
+    <message>
+        <source>No answer from “%1”.</source>
+        <translation>“%1”没有响应。</translation>
+    </message>
+    <message>
+        <source>“%1” broke the connection.</source>
+        <translation>“%1”断开了连接。</translation>
+    </message>
+    <message>
+        <source>“%1” wants a password.</source>
+        <translation>“%1”需要密码。</translation>
+    </message>
+    <message>
+        <source>Wrong user or password.</source>
+        <translation>用户名或密码错误。</translation>
+    </message>
+</context>
+<context>
     <name>Summary</name>
     <message>
         <source>Copies</source>
@@ -349,6 +596,29 @@
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalQuestions</name>
+    <message>
+        <source>The printer at “%1” wants a user and a password.</source>
+        <translation>“%1”上的打印机需要用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants a user and a password.</source>
+        <translation>打印服务器“%1”需要用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others may read them.</source>
+        <translation>连接未加密：其他人可能会读取它们。</translation>
+    </message>
+    <message>
+        <source>User [%1]: </source>
+        <translation>用户名 [%1]：</translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>密码：</translation>
     </message>
 </context>
 <context>
@@ -372,6 +642,29 @@
     <message>
         <source>The printer&apos;s settings show instructions.</source>
         <translation>打印机设置显示了说明。</translation>
+    </message>
+    <message>
+        <source>Printers that need no print server: %1.</source>
+        <translation>不需要打印服务器的打印机：%1。</translation>
+    </message>
+    <message>
+        <source>There is no default printer.%1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>没有默认打印机。%1请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot; at the print server &quot;%2&quot;.</source>
+        <translation>打印服务器“%2”上没有打印机“%1”。</translation>
+    </message>
+    <message>
+        <source>It waits until the instructions have been followed. Release it with: %1</source>
+        <translation>作业将等待您按说明操作完毕。然后用此命令继续：%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana</name>
+    <message>
+        <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
+        <translation>%1因此无法查询打印机“%2”。</translation>
     </message>
 </context>
 <context>
@@ -411,6 +704,41 @@
     <message>
         <source> and </source>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CredentialsDialog</name>
+    <message>
+        <source>Log In to Print</source>
+        <translation>登录以打印</translation>
+    </message>
+    <message>
+        <source>The printer wants to know who prints. User and password are sent to it through the print server “%1”, and are forgotten when this window closes.</source>
+        <translation>此打印机需要登录才能打印。用户名和密码将通过打印服务器“%1”发送到打印机，关闭此窗口后即被清除。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants to know who prints. User and password are forgotten when this window closes.</source>
+        <translation>打印服务器“%1”需要登录才能打印。关闭此窗口后，用户名和密码即被清除。</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>用户名(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>密码(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>Log In</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others on the network may read the password.</source>
+        <translation>连接未加密：网络上的其他人可能会读取密码。</translation>
     </message>
 </context>
 <context>
@@ -708,6 +1036,84 @@ For the command line: %2</source>
         <source>Options</source>
         <translation>选项</translation>
     </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>已输出到 %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Print Another Copy</source>
+        <translation>再打印一份</translation>
+    </message>
+    <message>
+        <source>Asking “%1” for the options of the printer…</source>
+        <translation>正在从“%1”获取打印机选项…</translation>
+    </message>
+    <message>
+        <source>The options of the printer have changed at its server; yours were kept.</source>
+        <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Until then, documents can be printed to a file.</source>
+        <translation>在此之前，可将文档打印到文件。</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>正在查找打印机…</translation>
+    </message>
+    <message>
+        <source>No printers at “%1”.</source>
+        <translation>“%1”上没有打印机。</translation>
+    </message>
+    <message>
+        <source>There are no printers yet. Add one in the printer settings of the system, or with the command lpadmin.</source>
+        <translation>还没有打印机。请在系统的打印机设置中添加，或使用命令 lpadmin 添加。</translation>
+    </message>
+    <message>
+        <source>Log In…</source>
+        <translation>登录…</translation>
+    </message>
+    <message>
+        <source>The print service of this computer is not running. Start it, on most systems with “systemctl start cups”.</source>
+        <translation>本机的打印服务未运行。请启动该服务，多数系统使用“systemctl start cups”。</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>关闭(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window.</source>
+        <translation>关闭此窗口后，作业会继续。</translation>
+    </message>
+    <message>
+        <source>Not everything could be set as before:
+%1</source>
+        <translation>以下设置无法恢复为以前的值：
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” leads to the same printer, and has pages with all of its settings.</source>
+        <translation>队列“%1”通向同一台打印机，并有包含其所有设置的页面。</translation>
+    </message>
+    <message>
+        <source>Use “%1”</source>
+        <translation>使用“%1”</translation>
+    </message>
+    <message>
+        <source>No answer from “%1” yet.</source>
+        <translation>“%1”尚未响应。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -748,10 +1154,32 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::PrinterSource</name>
+    <message>
+        <source>There is no printer “%1” at “%2”.</source>
+        <translation>“%2”上没有打印机“%1”。</translation>
+    </message>
+    <message>
+        <source>There is no printer “%1” at “%2” any more.</source>
+        <translation>“%2”上已没有打印机“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::PrinterStatusLine</name>
     <message>
-        <source>Retry</source>
+        <source>Try Again</source>
         <translation>重试</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ServerJob</name>
+    <message>
+        <source>The printer “%1” takes documents of these kinds only: %2.</source>
+        <translation>打印机“%1”只接受以下类型的文档：%2。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is in the queue; it was not followed to its end.</source>
+        <translation>作业 %1-%2 在队列中；未跟踪到结束。</translation>
     </message>
 </context>
 <context>
@@ -764,12 +1192,12 @@ For the command line: %2</source>
 <context>
     <name>main</name>
     <message>
-        <source>Printed to %1</source>
-        <translation>已输出到 %1</translation>
-    </message>
-    <message>
         <source>no display can be reached. Print without a window with --no-dialog.</source>
         <translation>无法连接显示器。使用 --no-dialog 可不打开窗口打印。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
     </message>
 </context>
 </TS>

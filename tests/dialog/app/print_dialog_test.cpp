@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -168,6 +169,24 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), 10000);
         QVERIFY(m_dialog->isVisible());
         QVERIFY(m_dialog->printedTo().isEmpty());
+    }
+
+    void aRunningJobDoesNotWidenTheWindow()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        const int width = m_dialog->width();
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        QVERIFY(control<QLabel>(u"progressText"_s)->isVisible());
+        // What a printer says may be long, and a job that a queue has can be left as well.
+        control<QLabel>(u"progressText"_s)->setText(QString(200, u'w'));
+        control<QPushButton>(u"leave"_s)->show();
+        m_dialog->layout()->activate();
+        QCOMPARE(m_dialog->width(), width);
+        m_dialog->reject();
+        QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
+        QVERIFY(!control<QLabel>(u"progressText"_s)->isVisible());
     }
 
     void aPrintedJobClosesTheDialogAndNamesItsPlace()

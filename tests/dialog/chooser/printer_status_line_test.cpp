@@ -98,7 +98,9 @@ private Q_SLOTS:
         m_line->setPrinter(queue(u"q"_s, {}, u"far away "_s.repeated(15)));
         QTRY_VERIFY(text()->shownText() != m_line->text());
         QVERIFY2(text()->shownText().endsWith(u"… · Idle"_s), qPrintable(text()->shownText()));
-        QVERIFY(text()->fontMetrics().horizontalAdvance(text()->shownText()) <= text()->width());
+        QCOMPARE(text()->shownText().count(u'\n'), 1);
+        for (const QString &line : text()->shownText().split(u'\n'))
+            QVERIFY(text()->fontMetrics().horizontalAdvance(line) <= text()->width());
     }
 
     void aLongStateLeavesAThirdForTheLocation()
@@ -112,6 +114,38 @@ private Q_SLOTS:
         QVERIFY(text()->shownText().startsWith(u"llll"_s));
         QVERIFY(text()->shownText().contains(u"… · Stopped"_s));
         QVERIFY(text()->shownText().endsWith(u'…'));
+    }
+
+    void aTextThatFitsIntoTwoLinesIsBrokenAndNotCut_data()
+    {
+        QTest::addColumn<QString>("whole");
+        QTest::addColumn<QString>("between");
+        QTest::newRow("words") << u"The server does not answer, which is a pity."_s << u" "_s;
+        QTest::newRow("no blanks") << QString(24, u'印') << QString();
+    }
+    void aTextThatFitsIntoTwoLinesIsBrokenAndNotCut()
+    {
+        QFETCH(QString, whole);
+        QFETCH(QString, between);
+        m_line->resize(250, 40);
+        m_line->setProblem(whole);
+        QTRY_COMPARE(text()->shownText().count(u'\n'), 1);
+        QCOMPARE(text()->shownText().replace(u"\n"_s, between), whole);
+        for (const QString &line : text()->shownText().split(u'\n'))
+            QVERIFY(text()->fontMetrics().horizontalAdvance(line) <= text()->width());
+        QVERIFY(text()->height() >= 2 * text()->fontMetrics().height());
+        QHelpEvent help(QEvent::ToolTip, QPoint(1, 1), text()->mapToGlobal(QPoint(1, 1)));
+        QCoreApplication::sendEvent(text(), &help);
+        QCOMPARE(QToolTip::text(), QString());
+    }
+
+    void theButtonSaysWhatItDoes()
+    {
+        m_line->setProblem(
+            u"No answer"_s, [] {}, u"Log In…"_s);
+        QCOMPARE(retry()->text(), u"Log In…"_s);
+        m_line->setProblem(u"No answer"_s, [] {});
+        QCOMPARE(retry()->text(), u"Try Again"_s);
     }
 
     void aTextWithRoomNeedsNoToolTip()
