@@ -148,7 +148,7 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         *error = details.problem.kind == ServerProblem::Kind::NotFound
                      ? Texts::tr("There is no printer \"%1\" at the print server \"%2\".")
                            .arg(name, server->address.text())
-                     : tr("%1 So the printer \"%2\" could not be asked for.")
+                     : Texts::tr("%1 So the printer \"%2\" could not be asked for.")
                            .arg(details.problem.text(server->address), name);
         *error += otherPrinters(request);
         return {};
