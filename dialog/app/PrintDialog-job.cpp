@@ -183,7 +183,12 @@ void PrintDialog::serverJobFinished(const JobOutcome &outcome)
 {
     m_serverJob.release()->deleteLater();
     showJobRunning(false);
-    m_earlierJob = outcome.kind == JobOutcome::Kind::Unknown ? outcome.job : 0;
+    // It may be printed yet, so the same is not sent once more by accident. A try that never got a
+    // number has learnt nothing about an earlier one.
+    if (outcome.kind == JobOutcome::Kind::Unknown || outcome.kind == JobOutcome::Kind::InQueue)
+        m_earlierJob = outcome.job;
+    else if (outcome.job > 0)
+        m_earlierJob = 0;
     if (outcome.isDone()) {
         m_report = outcome.text;
         m_source.rememberUse(m_chosen);
@@ -211,12 +216,13 @@ void PrintDialog::serverJobFinished(const JobOutcome &outcome)
         m_source.retry();
         [[fallthrough]];
     case JobOutcome::Kind::Failed:
-    case JobOutcome::Kind::Canceled:
     case JobOutcome::Kind::Unknown:
         // The window may be gone when somebody asks what went wrong.
-        if (outcome.kind != JobOutcome::Kind::Canceled)
-            qCWarning(lcPrinting).noquote() << outcome.text;
+        qCWarning(lcPrinting).noquote() << outcome.text;
         m_message->showMessage(MessageBar::Kind::Problem, outcome.text);
+        return;
+    case JobOutcome::Kind::Canceled:
+        m_message->showMessage(MessageBar::Kind::Information, outcome.text);
     }
 }
 

@@ -14,6 +14,7 @@
 #include "dialog/chooser/PrinterStatusLine.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
+#include "dialog/pages/OptionsPage.h"
 #include "dialog/session/OptionNames.h"
 
 namespace corvana {
@@ -138,12 +139,16 @@ void PrintDialog::openPrinter(const ReadyPrinter &ready)
         bringUpPanels();
 }
 
-void PrintDialog::printerChecked(const Printer &printer)
+void PrintDialog::printerChecked(const Printer &printer, qint64 ppdLastModified)
 {
     m_chosen = printer;
     m_status->setPrinter(printer);
-    if (m_printer)
-        m_printer->printer = printer;
+    if (!m_printer)
+        return;
+    if (m_comesNext)
+        return; // it speaks of the one that takes its place
+    m_printer->printer = printer;
+    m_printer->ppdLastModified = ppdLastModified;
 }
 
 void PrintDialog::printerFailed(const QString &problem, const QString &brief)
@@ -195,6 +200,8 @@ void PrintDialog::showWaiting(const QString &text, bool canRetry)
             m_status->setPrinter(m_chosen);
             // Later: the button is in the midst of its work.
             QTimer::singleShot(0, this, [this] {
+                if (m_printer)
+                    return; // it came meanwhile
                 showWaiting(tr("Asking “%1” for the options of the printer…")
                                 .arg(m_source.serverOf(m_chosen).address.text()),
                             false);
@@ -285,6 +292,8 @@ bool PrintDialog::isUntouched() const
 // Keeps what the user has set, to set it again when the same printer is opened anew.
 void PrintDialog::keepSettings()
 {
+    if (m_options)
+        m_options->finishEditing(); // what is being typed counts as well
     if (isUntouched())
         return;
     m_printer->panels->visit(-1); // a panel that is left saves
@@ -292,9 +301,7 @@ void PrintDialog::keepSettings()
                       m_general->copies()};
     kept.options.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
-    if (!m_general->pageRanges().isEmpty())
-        kept.options += JobOption{kPageRangesAttribute, m_general->pageRanges()};
-    m_kept.insert(m_printer->printer.name, kept);
+    m_kept.insert(idOf(m_printer->printer), kept);
 }
 
 bool PrintDialog::printsToFile() const

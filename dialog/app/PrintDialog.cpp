@@ -249,9 +249,13 @@ void PrintDialog::updatePrintButton()
 void PrintDialog::closePrinter()
 {
     const QSignalBlocker blocker(m_pages);
-    if (m_general)
-        m_request.copies = m_general->copies(); // goes along to another printer
+    if (m_general) { // both go along to another printer
+        m_request.copies = m_general->copies();
+        if (m_panelsUp)
+            m_pageRanges = m_general->pageRanges();
+    }
     m_printer.reset();
+    updateSilencedAlerts();
     while (m_pages->count() > 0)
         delete m_pages->widget(0);
     m_panelPages.clear();
@@ -334,7 +338,7 @@ bool PrintDialog::applyRequestedOptions()
     m_attributes.clear();
     const QString &name = m_printer->printer.name;
     QStringList problems;
-    if (const auto kept = m_kept.constFind(name); kept != m_kept.constEnd()) {
+    if (const auto kept = m_kept.constFind(idOf(m_printer->printer)); kept != m_kept.constEnd()) {
         problems = applyWhatFits(kept->options, *m_printer, &m_attributes);
         m_general->setCopies(kept->copies);
         if (!problems.isEmpty())
@@ -366,6 +370,8 @@ bool PrintDialog::applyRequestedOptions()
 
 void PrintDialog::showPageRanges()
 {
+    if (m_pageRanges)
+        return m_general->setPageRanges(*m_pageRanges);
     for (const JobOption &attribute : std::as_const(m_attributes)) {
         if (attribute.name == kPageRangesAttribute)
             m_general->setPageRanges(attribute.value);

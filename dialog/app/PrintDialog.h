@@ -10,6 +10,7 @@
 #include "dialog/app/OpenedPrinter.h"
 #include "dialog/app/PrintRequest.h"
 #include "dialog/app/PrinterSource.h"
+#include "dialog/chooser/PrinterModel.h"
 #include "dialog/job/FileQueue.h"
 #include "dialog/job/ServerJob.h"
 #include "platform/foundation/HelpManager.h"
@@ -105,7 +106,7 @@ private:
     void askCredentials(const CredentialsQuestion &question, const CredentialStore::Answer &answer);
     void choosePrinter(const Printer &printer);
     void printerReady(const ReadyPrinter &ready);
-    void printerChecked(const Printer &printer);
+    void printerChecked(const Printer &printer, qint64 ppdLastModified);
     void printerFailed(const QString &problem, const QString &brief);
     void offerQueue(const Printer &printer);
     void printersListed();
@@ -142,10 +143,11 @@ private:
     bool m_chosenByUser = false;
     std::unique_ptr<OpenedPrinter> m_printer;
     std::optional<ReadyPrinter> m_comesNext; // while the one that is open is in use
-    QHash<QString, KeptSettings> m_kept;     // of printers that were open, by their names
+    QHash<PrinterId, KeptSettings> m_kept;   // of printers that were open
+    std::optional<QString> m_pageRanges;     // as the user left them; they go along like the copies
     std::unique_ptr<FileQueue> m_job;
     std::unique_ptr<ServerJob> m_serverJob;
-    int m_earlierJob = 0;     // sent to the chosen printer, with an unknown fate
+    int m_earlierJob = 0;     // sent to the chosen printer, which may print it yet
     SessionSnapshot m_opened; // what the printer was set to when it was opened
     QList<JobOption> m_attributes;
     QString m_printedTo;

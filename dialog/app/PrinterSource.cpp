@@ -205,8 +205,10 @@ void PrinterSource::inspected(const QueueDetails &details)
     m_configured = details.printer.configured;
     m_openIsReady = true;
     m_lacksPpd = details.state == QueueDetails::Ppd::None;
+    if (m_lacksPpd) // any more: it would be opened with the one that it had
+        m_cache.remove(m_queues.context().address.argument(), m_open.name);
     if (same)
-        Q_EMIT checked(now.printer);
+        Q_EMIT checked(now.printer, m_openModified);
     else
         Q_EMIT ready(now);
     lookForBetterQueue();
@@ -260,7 +262,7 @@ void PrinterSource::follow()
         Printer printer = *now;
         printer.ppdPath = m_open.ppdPath;
         m_open = printer;
-        Q_EMIT checked(printer);
+        Q_EMIT checked(printer, m_openModified);
     }
     // The server is back, or an administrator has been at it: the options may be others.
     const bool changed =

@@ -52,8 +52,9 @@ Q_SIGNALS:
     void listChanged();
     /// The printer can be opened, or has to be opened anew because its options are others now.
     void ready(const corvana::ReadyPrinter &printer);
-    /// What its server says of the printer that is open, which otherwise is as it was.
-    void checked(const corvana::Printer &printer);
+    /// What its server says of the printer that is open, whose options are as they were, although
+    /// their PPD may have a new date (seconds since 1970).
+    void checked(const corvana::Printer &printer, qint64 ppdLastModified);
     /// The printer that is to be opened, or is open, could not be asked for; `brief` says the same
     /// in few words.
     void failed(const QString &problem, const QString &brief);

@@ -72,9 +72,10 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
     const bool canHide = ::tcgetattr(terminal, &shown) == 0;
     termios hidden = shown;
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    write(terminal, Texts::tr("Password: "));
+    // Before the prompt, so that not a single character shows of who types as soon as it is there.
     if (canHide)
         ::tcsetattr(terminal, TCSAFLUSH, &hidden);
+    write(terminal, Texts::tr("Password: "));
     std::optional<QByteArray> password = readLine(terminal, ending);
     if (canHide)
         ::tcsetattr(terminal, TCSAFLUSH, &shown);

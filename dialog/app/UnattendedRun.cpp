@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QRegularExpression>
 #include <QTextStream>
 #include <QTimer>
 
@@ -126,6 +127,10 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
                 const QString queue = defaultQueue(connection);
                 return FoundDefault{queue, connection.problem()};
             });
+        if (termination.caught()) {
+            *error = Texts::tr("Interrupted.");
+            return {};
+        }
         if (found.name.isEmpty()) {
             const bool away = found.problem && found.problem.kind != ServerProblem::Kind::NotFound;
             *error =
@@ -144,6 +149,10 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         [printer, since = cached ? cached->lastModified : 0](ServerConnection &connection) {
             return inspectQueue(connection, printer, since);
         });
+    if (termination.caught()) {
+        *error = Texts::tr("Interrupted.");
+        return {};
+    }
     if (details.state == QueueDetails::Ppd::Unknown) {
         *error = details.problem.kind == ServerProblem::Kind::NotFound
                      ? Texts::tr("There is no printer \"%1\" at the print server \"%2\".")
@@ -177,13 +186,24 @@ int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const
     return 0;
 }
 
+// A name as a shell takes it: queues may be called almost anything.
+QString shellWord(QString text)
+{
+    static const QRegularExpression plain(
+        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9_.:/-]+")));
+    if (plain.match(text).hasMatch())
+        return text;
+    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
 // How a held job is let go, for whoever follows its instructions.
 QString releaseCommand(const PrintRequest &request, const QString &queue, int job)
 {
     const QString server = request.serverWasNamed
-                               ? QStringLiteral("-h %1 ").arg(request.server.argument())
+                               ? QStringLiteral("-h %1 ").arg(shellWord(request.server.argument()))
                                : QString();
-    return QStringLiteral("lp %1-i %2-%3 -H resume").arg(server, queueOfInstance(queue)).arg(job);
+    const QString name = QStringLiteral("%1-%2").arg(queueOfInstance(queue), QString::number(job));
+    return QStringLiteral("lp %1-i %2 -H resume").arg(server, shellWord(name));
 }
 
 int printToServer(const PrintRequest &request, const OpenedPrinter &printer,

@@ -33,6 +33,22 @@ void addJob(ipp_t *request, int job)
     ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
 }
 
+// A job that comes to a queue which is stopped already says nothing of it.
+void noteStoppedPrinter(ServerConnection &connection, const Printer &printer, JobStatus *status)
+{
+    IppMessage request = newIppRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer.uri);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
+                   {"printer-state", "printer-state-message"});
+    const IppMessage response = connection.request(std::move(request), resourceOf(printer));
+    if (!response || ippNumber(ippFindAttribute(response.get(), "printer-state", IPP_TAG_ZERO)) !=
+                         IPP_PSTATE_STOPPED)
+        return;
+    status->printerStopped = true;
+    if (status->message.isEmpty())
+        status->message =
+            ippText(ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_ZERO));
+}
+
 class Options
 {
 public:
@@ -62,8 +78,10 @@ QString unsendableOption(const JobTicket &ticket)
     for (const JobOption &option : ticket.options) {
         const bool fits = option.name.toUtf8().size() <= kLongestValue &&
                           option.value.toUtf8().size() <= kLongestValue;
-        const bool clean =
-            !hasControlCharacter(option.name + option.value) && !option.value.startsWith(u'{');
+        // The only value in braces that is sent as a collection, not as a text.
+        const bool isCollection = option.name == QLatin1StringView("media-col");
+        const bool clean = !hasControlCharacter(option.name + option.value) &&
+                           (isCollection || !option.value.startsWith(u'{'));
         if (!fits)
             return QCoreApplication::translate("JobRequests",
                                                "The value of “%1” is too long for a print server; "
@@ -153,6 +171,8 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     if (status.message.isEmpty())
         status.message = ippText(find("job-state-message"));
     status.printerStopped = status.reasons.contains(QLatin1StringView("printer-stopped"));
+    if (status.state == IPP_JSTATE_PENDING)
+        noteStoppedPrinter(connection, printer, &status);
     return status;
 }
 

@@ -76,9 +76,14 @@ private:
     ServerConnection *m_connection;
     std::unique_ptr<ServerConnection> m_another; // after the first one was lost
     int m_job = 0;
+    bool m_whole = false;      // the server may have all of the document
+    bool m_isComplete = false; // the server has all of the job
 
     QString printerName() const { return m_request.printer.name; }
-    QString jobName() const { return QStringLiteral("%1-%2").arg(printerName()).arg(m_job); }
+    QString jobName() const
+    {
+        return QStringLiteral("%1-%2").arg(printerName(), QString::number(m_job));
+    }
     JobOutcome outcome(JobOutcome::Kind kind, const QString &text) const
     {
         return {kind, m_job, text};
@@ -139,8 +144,7 @@ private:
             if (!earlier && m_connection->problem().kind != ServerProblem::Kind::NotFound)
                 return failed(Texts::tr("%1 Whether job %2 of the earlier try was printed is not "
                                         "known yet, so nothing was sent again.")
-                                  .arg(whatIsWrong())
-                                  .arg(m_request.earlierJob));
+                                  .arg(whatIsWrong(), QString::number(m_request.earlierJob)));
             const bool mayPrint = earlier && (earlier->state == IPP_JSTATE_COMPLETED ||
                                               (!earlier->isOver() && earlier->documents != 0));
             if (mayPrint)
@@ -161,6 +165,9 @@ private:
         case QueueDetails::Ppd::Unchanged:
             return std::nullopt;
         case QueueDetails::Ppd::New:
+            if (now.ppd == openedPpd())
+                return std::nullopt; // installed once more, or its queue was
+            [[fallthrough]];
         case QueueDetails::Ppd::None:
             return outcome(JobOutcome::Kind::PrinterChanged,
                            Texts::tr("The options of the printer “%1” have changed at its server. "
@@ -174,11 +181,23 @@ private:
         return failed(notCreated());
     }
 
+    QByteArray openedPpd() const
+    {
+        QFile file(m_request.ppdPath);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     bool needsCredentials() const
     {
         const QStringList &wanted = m_request.printer.authInfo;
         return wanted.contains(QLatin1StringView("username")) ||
                wanted.contains(QLatin1StringView("password"));
+    }
+
+    QString realmOfDevice() const
+    {
+        return QStringLiteral("%1 %2").arg(m_worker.context().address.argument(),
+                                           m_request.printer.uri);
     }
 
     std::optional<Credentials> credentialsForDevice()
@@ -188,7 +207,7 @@ private:
             return std::nullopt;
         const ServerAddress &address = m_worker.context().address;
         return store
-            ->ask(QStringLiteral("%1 %2").arg(address.argument(), m_request.printer.uri),
+            ->ask(realmOfDevice(),
                   {address, QString::fromUtf8(cupsUser()),
                    address.isLocal() || address.encryption == HTTP_ENCRYPTION_REQUIRED ||
                        address.encryption == HTTP_ENCRYPTION_ALWAYS,
@@ -212,13 +231,16 @@ private:
                          m_document.title, file, [&](qint64 bytes) {
                              m_report({JobProgress::Stage::Sending, m_job, 0, bytes, total});
                          });
+        const bool mayHaveAll = sent || m_connection->problem().mayPass() ||
+                                m_connection->problem().kind == ServerProblem::Kind::Canceled;
+        m_whole = mayHaveAll && m_connection->documentWasSent();
         if (sent)
             return confirmAndFollow();
         if (m_worker.isCanceled())
-            return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
+            return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."),
+                            m_whole);
         const QString problem = whatIsWrong();
-        const bool complete = m_connection->documentWasSent();
-        if (complete && m_connection->problem().mayPass())
+        if (m_whole)
             return findOut(problem);
         return withdraw(JobOutcome::Kind::Failed, problem);
     }
@@ -236,10 +258,19 @@ private:
                                 .arg(why, jobName()));
         if (m_another->problem().kind == ServerProblem::Kind::Refused ||
             m_another->problem().kind == ServerProblem::Kind::NotFound) {
-            // It is over already, one way or the other.
-            if (const auto status = lookUpJob(*m_another, m_request.printer, m_job))
+            // It is over already, one way or the other, or it is somebody else's business.
+            const ServerProblem refusal = m_another->problem();
+            const auto status = lookUpJob(*m_another, m_request.printer, m_job);
+            if (status && status->isOver())
                 return ended(*status);
+            if (m_isComplete)
+                return lostSight(refusal);
         }
+        if (m_whole)
+            return outcome(
+                JobOutcome::Kind::Unknown,
+                Texts::tr("%1 Job %2 could not be canceled and may still be printed. %3")
+                    .arg(why, jobName(), m_another->problem().text(m_worker.context().address)));
         return outcome(
             JobOutcome::Kind::Failed,
             Texts::tr("%1 Job %2 may still be at the print server, without its whole "
@@ -254,9 +285,11 @@ private:
             const auto status = lookUpJob(another(), m_request.printer, m_job);
             if (status) {
                 m_connection = m_another.get();
-                if (status->documents == 0 && !status->isOver())
+                if (status->documents == 0 && !status->isOver()) {
+                    m_whole = false;
                     return withdraw(JobOutcome::Kind::Failed, problem);
-                return follow();
+                }
+                return follow(status);
             }
             if (m_another->problem().kind == ServerProblem::Kind::NotFound)
                 return failed(Texts::tr("%1 The print server does not know job %2 any more. It was "
@@ -274,27 +307,26 @@ private:
     JobOutcome confirmAndFollow()
     {
         const auto status = lookUpJob(*m_connection, m_request.printer, m_job);
-        if (!status) {
-            if (m_worker.isCanceled())
-                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
-            return findOut(whatIsWrong());
-        }
-        return follow();
+        if (status)
+            return follow(*status);
+        if (m_worker.isCanceled())
+            return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."), true);
+        // It was taken, by a server that forgets a job as soon as that is over.
+        if (m_connection->problem().kind == ServerProblem::Kind::NotFound)
+            return lostSight(m_connection->problem());
+        return findOut(whatIsWrong());
     }
 
-    JobOutcome follow()
+    JobOutcome follow(std::optional<JobStatus> status)
     {
-        bool begun = false;
+        m_isComplete = true;
         for (;;) {
-            const auto status = lookUpJob(*m_connection, m_request.printer, m_job);
             if (m_worker.isCanceled())
-                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."),
-                                begun);
+                return canceledOrLeftAlone();
             if (!status)
-                return lostSight();
+                return lostSight(m_connection->problem());
             if (status->isOver())
                 return ended(*status);
-            begun = begun || status->state == IPP_JSTATE_PROCESSING;
             const JobProgress progress = progressOf(*status);
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
@@ -303,6 +335,8 @@ private:
                               "released or canceled.")
                         .arg(jobName()),
                     status->message));
+            if (isHeldForLogIn(*status) && needsCredentials())
+                return notLetIn();
             if (status->state == IPP_JSTATE_HELD)
                 return outcome(JobOutcome::Kind::InQueue,
                                withMessage(Texts::tr("Job %1 is held in the queue “%2”.")
@@ -311,9 +345,33 @@ private:
             if (!m_request.follow)
                 return inQueue(progress);
             if (!m_worker.sleep(kLookUpInterval))
-                return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."),
-                                begun);
+                return canceledOrLeftAlone();
+            status = lookUpJob(*m_connection, m_request.printer, m_job);
         }
+    }
+
+    // Whoever follows a job no longer does not end it.
+    JobOutcome canceledOrLeftAlone()
+    {
+        if (m_worker.isLeftAlone())
+            return inQueue({});
+        return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."), true);
+    }
+
+    static bool isHeldForLogIn(const JobStatus &status)
+    {
+        return status.state == IPP_JSTATE_HELD &&
+               status.reasons.contains(QLatin1StringView("cups-held-for-authentication"));
+    }
+
+    // What was given for the device was wrong; the next try asks again, and sends another job.
+    JobOutcome notLetIn()
+    {
+        if (const auto &store = m_worker.context().credentials)
+            store->forget(realmOfDevice());
+        return withdraw(JobOutcome::Kind::Failed,
+                        Texts::tr("The printer “%1” does not accept this user and password.")
+                            .arg(printerName()));
     }
 
     JobOutcome inQueue(const JobProgress &progress) const
@@ -341,9 +399,8 @@ private:
         return progress;
     }
 
-    JobOutcome lostSight() const
+    JobOutcome lostSight(const ServerProblem &problem) const
     {
-        const ServerProblem &problem = m_connection->problem();
         if (problem.kind == ServerProblem::Kind::NotFound)
             return outcome(JobOutcome::Kind::InQueue,
                            Texts::tr("Job %1 has left the queue “%2”, whose server keeps no record "
@@ -421,8 +478,12 @@ void ServerJob::convert()
 {
     const QStringList &formats = m_request.formats;
     const Document &first = m_request.documents.constFirst();
-    const bool taken = formats.isEmpty() || formats.contains(first.format) ||
-                       formats.contains(QLatin1StringView("application/octet-stream"));
+    // A printer that says it looks at any document itself still refuses those that it does not
+    // know, so that is for printers that name nothing better.
+    const bool convertible = formats.contains(kPdf) || formats.contains(kRaster);
+    const bool taken =
+        formats.isEmpty() || formats.contains(first.format) ||
+        (!convertible && formats.contains(QLatin1StringView("application/octet-stream")));
     if (m_request.documents.size() == 1 && taken)
         return send(first, m_request.ticket);
     report({JobProgress::Stage::Converting});
@@ -448,11 +509,11 @@ void ServerJob::convert()
 
 void ServerJob::converted(const QString &problem)
 {
-    const bool canceled = m_conversion->isCanceled();
     m_conversion.release()->deleteLater();
+    if (m_canceled)
+        return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
     if (!problem.isEmpty())
-        return finish(
-            {canceled ? JobOutcome::Kind::Canceled : JobOutcome::Kind::Failed, 0, problem});
+        return finish({JobOutcome::Kind::Failed, 0, problem});
     JobTicket ticket = m_request.ticket;
     if (m_converted.format == kRaster)
         ticket.options.removeIf(isAppliedByChain);
@@ -500,10 +561,10 @@ void ServerJob::letGo()
     if (!m_handedOver || m_outcome)
         return;
     m_work = {};
-    finish({JobOutcome::Kind::InQueue, m_progress.job,
+    finish({JobOutcome::Kind::InQueue, m_progress->job,
             tr("Job %1-%2 is in the queue; it was not followed to its end.")
                 .arg(m_request.printer.name)
-                .arg(m_progress.job)});
+                .arg(m_progress->job)});
 }
 
 // The one way in which a job ends.

@@ -116,7 +116,7 @@ private:
     std::unique_ptr<FileQueue> m_conversion;
     Document m_converted;
     ServerWork m_work;
-    JobProgress m_progress;
+    std::optional<JobProgress> m_progress; // what was told last
     std::optional<JobOutcome> m_outcome;
     bool m_canceled = false;
     bool m_handedOver = false;

@@ -114,14 +114,20 @@ void QueueList::look(bool mayAsk)
     m_work = ServerWork(context, [this, growing](ServerWorker &worker) {
         QList<Printer> queues;
         const QString serverDefault = defaultQueue(worker.connection());
-        // One that does not answer this does not answer the other question either.
-        const bool away = worker.connection().problem().mayPass();
+        // Only a server that has no default, or does not tell it, may still tell its queues; one
+        // that was not let in, or is away, is not asked a second time.
+        using Kind = ServerProblem::Kind;
+        const Kind kind = worker.connection().problem().kind;
+        const bool away = kind != Kind::None && kind != Kind::NotFound && kind != Kind::Refused &&
+                          kind != Kind::Forbidden;
         const bool listed =
             !away && listQueues(worker.connection(), [&](const QList<Printer> &page) {
                 queues += page;
                 if (growing) {
+                    // A list of its own: this one goes on growing here.
+                    const QList<Printer> first(queues.cbegin(), queues.cend());
                     worker.post(
-                        [this, queues, serverDefault] { take(queues, serverDefault, false); });
+                        [this, first, serverDefault] { take(first, serverDefault, false); });
                 }
             });
         const ServerProblem problem = worker.connection().problem();

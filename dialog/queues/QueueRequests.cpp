@@ -3,7 +3,6 @@
 #include <array>
 
 #include <QSet>
-#include <QUrl>
 
 #include "dialog/queues/UserQueues.h"
 
@@ -13,6 +12,8 @@ namespace {
 
 // Queues in one answer: few enough to come soon, enough that thousands need few round trips.
 constexpr int kPage = 200;
+// No server has as many; one that invents names without end must not fill the memory.
+constexpr qsizetype kMostQueues = 100000;
 
 const QList<const char *> kListed{"printer-name",
                                   "printer-info",
@@ -48,9 +49,10 @@ QStringList withoutNone(QStringList keywords)
     return keywords;
 }
 
+// libcups escapes what a path must not have.
 QByteArray ppdResource(const QString &queue)
 {
-    return "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
+    return "/printers/" + queue.toUtf8() + ".ppd";
 }
 
 } // namespace
@@ -135,7 +137,7 @@ bool listQueues(ServerConnection &connection,
         }
         if (!page.isEmpty() || last.isEmpty())
             found(page);
-        if (answered < kPage || page.isEmpty())
+        if (answered < kPage || page.isEmpty() || known.size() >= kMostQueues)
             return true;
         last = page.constLast().name;
     }
@@ -214,7 +216,7 @@ QByteArray resourceOf(const Printer &printer)
     std::array<char, HTTP_MAX_URI> host{};
     std::array<char, HTTP_MAX_URI> resource{};
     int port = 0;
-    if (httpSeparateURI(HTTP_URI_CODING_NONE, printer.uri.toUtf8().constData(), scheme.data(),
+    if (httpSeparateURI(HTTP_URI_CODING_ALL, printer.uri.toUtf8().constData(), scheme.data(),
                         static_cast<int>(scheme.size()), user.data(), static_cast<int>(user.size()),
                         host.data(), static_cast<int>(host.size()), &port, resource.data(),
                         static_cast<int>(resource.size())) < HTTP_URI_STATUS_OK)

@@ -47,7 +47,7 @@ struct QueueDetails
 QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
                           qint64 modifiedSince);
 
-/// The path of a printer's requests at its server.
+/// The path of a printer's requests at its server, not escaped: libcups does that.
 QByteArray resourceOf(const Printer &printer);
 
 } // namespace corvana

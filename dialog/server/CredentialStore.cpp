@@ -40,26 +40,36 @@ CredentialStore::Outcome CredentialStore::ask(const QString &realm,
         return {std::nullopt, true};
     std::shared_ptr<Pending> pending = m_pending[realm];
     if (!pending) {
-        pending = m_pending[realm] = std::make_shared<Pending>();
-        QMetaObject::invokeMethod(
-            this,
-            [this, realm, question] {
-                Questioner questioner;
-                {
-                    const std::scoped_lock inner(m_mutex);
-                    questioner = m_questioner;
-                }
-                if (!questioner)
-                    return answered(realm, std::nullopt);
-                questioner(question, [this, realm](const std::optional<Credentials> &answer) {
-                    answered(realm, answer);
-                });
-            },
-            Qt::QueuedConnection);
+        pending = m_pending[realm] = std::make_shared<Pending>(Pending{question});
+        // By name, so that nothing but the lock hands the question over.
+        QMetaObject::invokeMethod(this, "putQuestions", Qt::QueuedConnection);
     }
     while (!pending->answered && !canceled())
         m_changed.wait_for(lock, kLookAround);
     return {pending->answer, false};
+}
+
+void CredentialStore::putQuestions()
+{
+    std::map<QString, CredentialsQuestion> questions;
+    Questioner questioner;
+    {
+        const std::scoped_lock lock(m_mutex);
+        questioner = m_questioner;
+        for (const auto &[realm, pending] : m_pending) {
+            if (!std::exchange(pending->isPut, true))
+                questions.emplace(realm, pending->question);
+        }
+    }
+    for (const auto &[realm, question] : questions) {
+        if (!questioner) {
+            answered(realm, std::nullopt);
+            continue;
+        }
+        questioner(question, [this, realm = realm](const std::optional<Credentials> &answer) {
+            answered(realm, answer);
+        });
+    }
 }
 
 void CredentialStore::answered(const QString &realm, const std::optional<Credentials> &answer)

@@ -3,6 +3,7 @@
 #include <condition_variable>
 #include <functional>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <optional>
 
@@ -66,10 +67,13 @@ public:
 private:
     struct Pending
     {
+        CredentialsQuestion question;
+        bool isPut = false;
         bool answered = false;
-        std::optional<Credentials> answer;
+        std::optional<Credentials> answer{};
     };
 
+    Q_INVOKABLE void putQuestions();
     void answered(const QString &realm, const std::optional<Credentials> &answer);
 
     mutable std::mutex m_mutex;

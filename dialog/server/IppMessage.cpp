@@ -89,6 +89,8 @@ bool ippTruth(ipp_attribute_t *attribute, bool otherwise)
 QString shownText(const char *text)
 {
     QString shown = QString::fromUtf8(text).left(kLongestText);
+    if (!shown.isEmpty() && shown.back().isHighSurrogate())
+        shown.chop(1);
     for (QChar &c : shown) {
         if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
             c == QChar::LineSeparator || c == QChar::ParagraphSeparator)

@@ -33,8 +33,10 @@ std::optional<ServerAddress> ServerAddress::parse(const QString &text)
 
 bool ServerAddress::isLocal() const
 {
+    // A name may begin with the same digits, and lead anywhere.
+    static const QRegularExpression loopback(QStringLiteral(R"(^127(?:\.[0-9]{1,3}){3}\z)"));
     return host.startsWith(u'/') || host == QLatin1StringView("localhost") ||
-           host == QLatin1StringView("::1") || host.startsWith(QLatin1StringView("127."));
+           host == QLatin1StringView("::1") || loopback.match(host).hasMatch();
 }
 
 QString ServerAddress::text() const

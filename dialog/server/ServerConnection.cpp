@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <utility>
 
+#include <poll.h>
+
 #include <QIODevice>
 #include <QLoggingCategory>
 
@@ -62,8 +64,7 @@ ServerPatience ServerPatience::fromEnvironment()
 ServerConnection::ServerConnection(ServerContext context, CancelFlag *canceled)
     : m_context(std::move(context)), m_canceled(canceled)
 {
-    // Both are settings of the calling thread alone.
-    cupsSetPasswordCB2(&ServerConnection::passwordWanted, this);
+    // A setting of the calling thread alone.
     if (m_context.credentials) {
         if (const auto known = m_context.credentials->known(realm()))
             cupsSetUser(known->user.toUtf8().constData());
@@ -75,6 +76,21 @@ ServerConnection::~ServerConnection()
     close();
     cupsSetPasswordCB2(nullptr, nullptr);
     m_password.fill('\0');
+}
+
+// Before a request: whatever was sent on a connection that is gone would be lost, or done unseen.
+void ServerConnection::prepare()
+{
+    m_problem = {};
+    m_passwordGiven = false;
+    // Of the thread, which may have several connections.
+    cupsSetPasswordCB2(&ServerConnection::passwordWanted, this);
+    if (!m_http)
+        return;
+    // Servers close what was idle for long.
+    pollfd state{httpGetFd(m_http), POLLRDHUP, 0};
+    if (::poll(&state, 1, 0) > 0)
+        close();
 }
 
 bool ServerConnection::open()
@@ -98,7 +114,16 @@ bool ServerConnection::open()
     }
     httpSetTimeout(m_http, kLookAround, &ServerConnection::waitedLong, this);
     startWaiting();
-    return trustsCertificate();
+    return keepsOnlyTrusted();
+}
+
+// Nothing is said on a connection that is not trusted, neither now nor by the next request.
+bool ServerConnection::keepsOnlyTrusted()
+{
+    if (trustsCertificate())
+        return true;
+    close();
+    return false;
 }
 
 void ServerConnection::close()
@@ -112,7 +137,7 @@ bool ServerConnection::reconnect()
     startWaiting();
     if (httpReconnect2(m_http, static_cast<int>(m_context.patience.connecting.count()),
                        reinterpret_cast<int *>(m_canceled)) == 0)
-        return trustsCertificate();
+        return keepsOnlyTrusted();
     noteFailure(HTTP_STATUS_ERROR);
     return false;
 }
@@ -193,9 +218,8 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
                                       QIODevice *document,
                                       const std::function<void(qint64)> &progress)
 {
-    m_problem = {};
+    prepare();
     m_documentSent = false;
-    m_passwordGiven = false;
     qCDebug(lcServer) << ippOpString(ippGetOperation(message.get())) << resource;
     for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
         if (isCanceled()) {
@@ -206,7 +230,7 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
             return nullptr;
         startWaiting();
         if (document && !document->seek(0)) {
-            fail(ServerProblem::Kind::Canceled, document->errorString());
+            fail(ServerProblem::Kind::DocumentUnreadable, document->errorString());
             return nullptr;
         }
         size_t length = ippLength(message.get());
@@ -214,6 +238,9 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
             length += static_cast<size_t>(document->size());
         ippSetState(message.get(), IPP_STATE_IDLE);
         http_status_t status = cupsSendRequest(m_http, message.get(), resource.constData(), length);
+        // libcups goes over to TLS, and to a new connection, by itself.
+        if ((status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) && !keepsOnlyTrusted())
+            return nullptr;
         m_documentSent = false;
         if (document && status == HTTP_STATUS_CONTINUE)
             m_documentSent = sendDocument(*document, progress);
@@ -258,7 +285,7 @@ bool ServerConnection::sendDocument(QIODevice &document,
         const qint64 length = document.read(block.data(), kBlock);
         if (length < 0 || (length == 0 && !document.atEnd())) {
             close();
-            fail(ServerProblem::Kind::Canceled, document.errorString());
+            fail(ServerProblem::Kind::DocumentUnreadable, document.errorString());
             return false;
         }
         startWaiting();
@@ -277,10 +304,10 @@ bool ServerConnection::sendDocument(QIODevice &document,
 bool ServerConnection::goOnAfter(http_status_t status)
 {
     if (!m_problem && status == HTTP_STATUS_UNAUTHORIZED)
-        return trustsCertificate(); // libcups has the password and a new connection
+        return keepsOnlyTrusted(); // libcups has the password and a new connection
     if (!m_problem && status == HTTP_STATUS_UPGRADE_REQUIRED) {
         if (m_context.address.encryption != HTTP_ENCRYPTION_NEVER && httpIsEncrypted(m_http))
-            return trustsCertificate();
+            return keepsOnlyTrusted();
         fail(ServerProblem::Kind::EncryptionMissing);
         close();
         return false;
@@ -326,8 +353,7 @@ void ServerConnection::fail(ServerProblem::Kind kind, const QString &detail)
 
 ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 modifiedSince)
 {
-    m_problem = {};
-    m_passwordGiven = false;
+    prepare();
     qCDebug(lcServer) << "GET" << resource;
     for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
         if (isCanceled()) {
@@ -350,7 +376,8 @@ ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 
         if (httpGet(m_http, resource.constData()) == 0) {
             do
                 status = httpUpdate(m_http);
-            while (status == HTTP_STATUS_CONTINUE);
+            while (status == HTTP_STATUS_CONTINUE && !isCanceled() &&
+                   std::chrono::steady_clock::now() < m_deadline);
         } else if (attempt == 0) {
             // A connection that had been idle for too long.
             if (!reconnect())

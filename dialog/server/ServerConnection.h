@@ -84,6 +84,7 @@ public:
     bool documentWasSent() const { return m_documentSent; }
 
 private:
+    void prepare();
     bool open();
     void close();
     IppMessage exchange(IppMessage message, const QByteArray &resource, QIODevice *document,
@@ -91,6 +92,7 @@ private:
     bool sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
     bool goOnAfter(http_status_t status);
     bool trustsCertificate();
+    bool keepsOnlyTrusted();
     bool reconnect();
     void noteFailure(http_status_t status);
     void fail(ServerProblem::Kind kind, const QString &detail = {});

@@ -65,6 +65,8 @@ QString ServerProblem::text(const ServerAddress &server) const
     case Kind::Refused:
         return withDetail(Texts::tr("The print server “%1” refuses.").arg(who),
                           detail.isEmpty() ? QString::fromUtf8(ippErrorString(status)) : detail);
+    case Kind::DocumentUnreadable:
+        return Texts::tr("The document cannot be read: %1").arg(detail);
     case Kind::Canceled:
         return Texts::tr("Canceled.");
     }

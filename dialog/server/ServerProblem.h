@@ -26,6 +26,7 @@ struct ServerProblem
         EncryptionMissing,  ///< it wants encryption and cannot be spoken to with it
         NotFound,           ///< there is no such queue or job
         Refused,            ///< IPP says no, for the reason in `detail`
+        DocumentUnreadable, ///< here, not at the server
         Canceled,           ///< from here
     };
 

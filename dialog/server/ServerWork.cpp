@@ -1,6 +1,7 @@
 #include "dialog/server/ServerWork.h"
 
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 #include <set>
 #include <thread>
@@ -13,6 +14,7 @@ namespace corvana {
 struct ServerWorkState
 {
     CancelFlag canceled{0};
+    std::atomic<bool> canceledOnPurpose{false};
     std::atomic<bool> abandoned{false};
     std::mutex mutex;
     std::condition_variable wake;
@@ -60,12 +62,28 @@ public:
     void post(std::function<void()> function)
     {
         const std::scoped_lock lock(m_mutex);
-        if (m_open)
-            QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(function),
-                                      Qt::QueuedConnection);
+        if (!m_open)
+            return;
+        m_posted.push_back(std::move(function));
+        // The lock, not Qt's queue, hands the function over: a race detector knows nothing of the
+        // latter.
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [] { instance().runNext(); }, Qt::QueuedConnection);
     }
 
 private:
+    // One for each event, so that others come in between as they would without this queue.
+    void runNext()
+    {
+        std::function<void()> function;
+        {
+            const std::scoped_lock lock(m_mutex);
+            function = std::move(m_posted.front());
+            m_posted.pop_front();
+        }
+        function();
+    }
+
     void close()
     {
         std::unique_lock lock(m_mutex);
@@ -73,11 +91,16 @@ private:
         for (const auto &shared : m_running)
             m_cancel(*shared);
         m_ended.wait_for(lock, kFarewell, [this] { return m_running.empty(); });
+        // Nobody will run them; what they own may do anything when it goes.
+        const std::deque<std::function<void()>> posted = std::move(m_posted);
+        m_posted.clear();
+        lock.unlock();
     }
 
     std::mutex m_mutex;
     std::condition_variable m_ended;
     std::set<std::shared_ptr<ServerWorkState>> m_running;
+    std::deque<std::function<void()>> m_posted;
     void (*m_cancel)(ServerWorkState &) = nullptr;
     bool m_open = false;
 };
@@ -92,6 +115,11 @@ ServerWorker::ServerWorker(ServerContext context, std::shared_ptr<ServerWorkStat
 bool ServerWorker::isCanceled() const
 {
     return m_shared->canceled != 0;
+}
+
+bool ServerWorker::isLeftAlone() const
+{
+    return isCanceled() && !m_shared->canceledOnPurpose;
 }
 
 void ServerWorker::post(std::function<void()> function) const
@@ -139,8 +167,10 @@ ServerWork &ServerWork::operator=(ServerWork &&other) noexcept
 
 void ServerWork::cancel()
 {
-    if (m_shared)
-        m_shared->cancel();
+    if (!m_shared)
+        return;
+    m_shared->canceledOnPurpose = true;
+    m_shared->cancel();
 }
 
 void ServerWork::abandon()

@@ -17,6 +17,8 @@ public:
     ServerConnection &connection() { return m_connection; }
     const ServerContext &context() const { return m_connection.context(); }
     bool isCanceled() const;
+    /// Canceled only because nobody waits for it any more: what is done already is to stay done.
+    bool isLeftAlone() const;
     /// Runs `function` on the GUI thread, in the order of the calls, unless whoever started the
     /// work has lost interest by then.
     void post(std::function<void()> function) const;
@@ -49,7 +51,7 @@ public:
     ServerWork(ServerWork &&) noexcept = default;
     ServerWork &operator=(ServerWork &&other) noexcept;
 
-    /// Ends its waits. It may still do what has to be done, and post.
+    /// Ends its waits. It may still do what has to be done, and post, and is to undo what it did.
     void cancel();
 
 private:

@@ -27,14 +27,17 @@ namespace {
 
 constexpr int kPatience = 20000; // milliseconds that printing may take on a busy machine
 
-PrintRequest request(const QString &printer, const QStringList &options, const QString &output)
+CommandLine sampleDocument(const QStringList &options)
 {
     CommandLine line;
     line.documents = {QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf")};
-    line.ppd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
     line.bundleRoots = {QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/..")};
     line.options = options;
-    line.output = output;
+    return line;
+}
+
+PrintRequest request(const CommandLine &line)
+{
     QString error;
     PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());
     if (!error.isEmpty())
@@ -97,9 +100,24 @@ bool AlertAnswerer::eventFilter(QObject *watched, QEvent *event)
 }
 
 DialogDriver::DialogDriver(const QString &printer, const QStringList &options)
-    : m_dialog(std::make_unique<PrintDialog>(
-          request(printer, options, m_folder.filePath(QStringLiteral("job.ps")))))
 {
+    CommandLine line = sampleDocument(options);
+    line.ppd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
+    line.output = m_folder.filePath(QStringLiteral("job.ps"));
+    open(line);
+}
+
+DialogDriver::DialogDriver(const QueueAt &queue, const QStringList &options)
+{
+    CommandLine line = sampleDocument(options);
+    line.server = queue.server;
+    line.printer = queue.name;
+    open(line);
+}
+
+void DialogDriver::open(const CommandLine &line)
+{
+    m_dialog = std::make_unique<PrintDialog>(request(line));
     m_dialog->show();
     const auto panelIsUp = [this] {
         auto *pages = m_dialog->findChild<QTabWidget *>(QStringLiteral("pages"));
@@ -107,7 +125,7 @@ DialogDriver::DialogDriver(const QString &printer, const QStringList &options)
         m_panel = page ? page->widget() : nullptr;
         return !m_panel.isNull();
     };
-    if (!QTest::qWaitForWindowExposed(m_dialog.get()) || !QTest::qWaitFor(panelIsUp))
+    if (!QTest::qWaitForWindowExposed(m_dialog.get()) || !QTest::qWaitFor(panelIsUp, kPatience))
         throw std::runtime_error("the panel does not come up");
     showPage(1);
     auto *disclosure = control<QPushButton>(QStringLiteral("optionButton"));
@@ -215,6 +233,12 @@ void DialogDriver::pressPrint()
 bool DialogDriver::somethingWasWritten() const
 {
     return !QDir(m_folder.path()).isEmpty();
+}
+
+QString DialogDriver::waitForReport()
+{
+    const bool closed = QTest::qWaitFor([this] { return !m_dialog->isVisible(); }, kPatience);
+    return closed ? m_dialog->report() : QString();
 }
 
 QByteArray DialogDriver::print()

@@ -47,8 +47,16 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
-/// The dialog for a sample printer, shown, with its panels up, worked through its own controls and
-/// printing through the filter chain of CUPS. Alerts are answered with OK.
+/// A queue of a print server, "HOST:PORT".
+struct QueueAt
+{
+    QString server;
+    QString name;
+};
+
+/// The dialog for a sample printer or for a queue, shown, with its panels up, worked through its
+/// own controls and printing through the filter chain of CUPS or to the queue. Alerts are answered
+/// with OK.
 ///
 /// Settings that outlive a dialog are its caller's affair (XDG_CONFIG_HOME).
 class DialogDriver
@@ -57,6 +65,8 @@ public:
     /// Opens the dialog on the page "Print Setting", with its advanced options disclosed. With
     /// `options` it starts as from the command line. Errors: throws std::runtime_error.
     explicit DialogDriver(const QString &printer, const QStringList &options = {});
+    /// The same for a queue, whose PPD is asked for first.
+    explicit DialogDriver(const QueueAt &queue, const QStringList &options = {});
     ~DialogDriver();
 
     PrintDialog &dialog() { return *m_dialog; }
@@ -94,8 +104,13 @@ public:
     /// Presses Print and answers the data that the printer would get; null when nothing was
     /// printed.
     QByteArray print();
+    /// Waits until the dialog has closed over a job that its queue has printed, and answers what it
+    /// says of it; null when it does not close.
+    QString waitForReport();
 
 private:
+    void open(const CommandLine &line);
+
     QTemporaryDir m_folder;
     AlertAnswerer m_alerts;
     std::unique_ptr<PrintDialog> m_dialog;

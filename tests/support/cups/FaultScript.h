@@ -16,6 +16,7 @@ struct Fault
 {
     enum class Kind {
         CloseInDocument,
+        StallInDocument,
         SwallowResponse,
         CloseBeforeResponse,
         DelayResponse,
@@ -27,7 +28,7 @@ struct Fault
     Kind kind = Kind::SwallowResponse;
     int operation = FaultyServer::anyOperation;
     int times = FaultyServer::always;
-    qint64 bytes = 0;         ///< of the document, for CloseInDocument
+    qint64 bytes = 0;         ///< of the document, for those in it
     int status = 0;           ///< HTTP or IPP
     QByteArray credentials{}; ///< "user:password"
 

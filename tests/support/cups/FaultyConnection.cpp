@@ -82,6 +82,8 @@ void FaultyConnection::release()
 
 void FaultyConnection::readClient()
 {
+    if (m_isStalled)
+        return;
     const QByteArray bytes = m_client->readAll();
     switch (m_manner) {
     case FaultyServer::Manner::Passes:
@@ -173,6 +175,13 @@ bool FaultyConnection::readPiece()
     if (cuts) {
         countFault();
         drop();
+        return false;
+    }
+    if (m_fault && m_fault->kind == Fault::Kind::StallInDocument &&
+        m_ipp.documentBytes() >= m_fault->bytes) {
+        m_isStalled = true;
+        m_client->setReadBufferSize(1); // what is not taken waits with the client
+        countFault();
         return false;
     }
     if (!m_reader.isInBody())

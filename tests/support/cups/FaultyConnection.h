@@ -57,6 +57,7 @@ private:
     SeenRequest m_request;
     bool m_isDecided = true;
     bool m_isTunnel = false;
+    bool m_isStalled = false;
     QByteArray m_undecided; ///< what waits to be passed on until it is decided
     std::optional<Fault> m_fault;
     bool m_isCounted = false;

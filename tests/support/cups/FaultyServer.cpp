@@ -7,8 +7,8 @@
 #include <unistd.h>
 
 #include <QTcpServer>
-#include <QThread>
 
+#include "tests/support/cups/EventThread.h"
 #include "tests/support/cups/FaultScript.h"
 #include "tests/support/cups/FaultyConnection.h"
 #include "tests/support/cups/ServerProcess.h"
@@ -42,11 +42,9 @@ int listeningSocket(quint16 port)
 class FaultyServer::Worker
 {
 public:
-    Worker(quint16 upstreamPort, Manner manner) : script(manner), m_upstreamPort(upstreamPort)
+    Worker(quint16 upstreamPort, Manner manner)
+        : script(manner), m_upstreamPort(upstreamPort), m_thread(QStringLiteral("faulty server"))
     {
-        m_thread.setObjectName(QStringLiteral("faulty server"));
-        m_context.moveToThread(&m_thread);
-        m_thread.start();
         run([this, manner] { setListening(manner != Manner::Refuses); });
     }
 
@@ -56,20 +54,16 @@ public:
             setListening(false);
             qDeleteAll(connections());
         });
-        m_thread.quit();
-        m_thread.wait();
     }
 
     /// Runs a function in the server's thread and waits for its end.
-    template <typename Function> void run(Function function)
-    {
-        QMetaObject::invokeMethod(&m_context, function, Qt::BlockingQueuedConnection);
-    }
+    void run(const std::function<void()> &function) { m_thread.run(function); }
 
     /// In the server's thread only.
     QList<FaultyConnection *> connections()
     {
-        return m_context.findChildren<FaultyConnection *>(QString(), Qt::FindDirectChildrenOnly);
+        return m_thread.context()->findChildren<FaultyConnection *>(QString(),
+                                                                    Qt::FindDirectChildrenOnly);
     }
 
     /// In the server's thread only.
@@ -81,13 +75,13 @@ public:
             delete std::exchange(m_server, nullptr);
             return;
         }
-        m_server = new QTcpServer(&m_context);
+        m_server = new QTcpServer(m_thread.context());
         if (!m_server->setSocketDescriptor(listeningSocket(port.number())))
             qFatal("cannot listen on port %d", port.number());
         QObject::connect(m_server, &QTcpServer::newConnection, m_server, [this] {
             while (QTcpSocket *client = m_server->nextPendingConnection()) {
                 ++script.accepted;
-                new FaultyConnection(client, m_upstreamPort, script, &m_context);
+                new FaultyConnection(client, m_upstreamPort, script, m_thread.context());
             }
         });
     }
@@ -97,9 +91,8 @@ public:
 
 private:
     quint16 m_upstreamPort;
-    QThread m_thread;
-    QObject m_context; ///< in the server's thread, parent of the server and its connections
-    QTcpServer *m_server = nullptr;
+    QTcpServer *m_server = nullptr; ///< in the server's thread, as its connections are
+    EventThread m_thread;
 };
 
 FaultyServer::FaultyServer(quint16 upstreamPort, Manner manner)
@@ -154,6 +147,11 @@ int FaultyServer::acceptedConnections() const
 void FaultyServer::closeAfterDocumentBytes(qint64 bytes, int operation, int times)
 {
     m_worker->script.add({Fault::Kind::CloseInDocument, operation, times, bytes});
+}
+
+void FaultyServer::stallInDocument(qint64 bytes, int operation, int times)
+{
+    m_worker->script.add({Fault::Kind::StallInDocument, operation, times, bytes});
 }
 
 void FaultyServer::swallowResponse(int operation, int times)

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QUrl>
 
 namespace corvana::test {
 
@@ -244,7 +245,7 @@ QString PrivateCups::queueUri(const QString &name) const
                                                                        : QStringLiteral("ipp"),
              server(),
              m_classes.contains(name) ? QStringLiteral("classes") : QStringLiteral("printers"),
-             name);
+             QString::fromLatin1(QUrl::toPercentEncoding(name)));
 }
 
 void PrivateCups::lpadmin(const QStringList &arguments) const

@@ -1,0 +1,450 @@
+#include <mutex>
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/job/ServerJob.h"
+#include "tests/support/cups/CannedServer.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Kind = JobOutcome::Kind;
+
+namespace {
+
+constexpr int kJob = 8;
+constexpr int kEarlierJob = 7;
+constexpr auto kDay = 1000000000; // when the PPD was changed last
+
+/// What a server says of a job.
+struct SaidOfJob
+{
+    int state = IPP_JSTATE_COMPLETED;
+    int documents = 1; ///< -1: does not say
+    ipp_status_t status = IPP_STATUS_OK;
+    bool hangsUp = false;
+};
+
+CannedAnswer answerAbout(const SaidOfJob &job)
+{
+    if (job.hangsUp)
+        return {{}, true};
+    if (job.status != IPP_STATUS_OK)
+        return ippAnswer(newIppAnswer(job.status));
+    ipp_t *answer = newIppAnswer();
+    ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", job.state);
+    if (job.documents >= 0)
+        ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", job.documents);
+    return ippAnswer(answer);
+}
+
+/// A server of one queue and at most two jobs, which says of them what a test wants.
+class JobServer
+{
+public:
+    JobServer() : m_server([this](const CannedRequest &request) { return answer(request); }) {}
+
+    /// Said of the job from now on: each once, and the last for good.
+    void say(const QList<SaidOfJob> &states)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_states = states;
+    }
+    void sayOfEarlierJob(const SaidOfJob &state)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_earlier = state;
+    }
+    /// Hangs up when it has the whole document, instead of an answer.
+    void loseTheAnswerToTheDocument() { m_losesAnswer = true; }
+    void refuseToCancel() { m_cancels = false; }
+    /// Said of the job as soon as it was to be canceled, whether or not that was done.
+    void sayAfterCancel(const SaidOfJob &state)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_afterCancel = state;
+    }
+    void setPpdStatus(int status) { m_ppdStatus = status; }
+
+    quint16 port() const { return m_server.port(); }
+    /// Whether a worker is still there.
+    bool isInUse() const { return m_server.openConnections() > 0; }
+    int count(ipp_op_t operation) const { return m_server.count(operation); }
+    QList<CannedRequest> requests() const { return m_server.requests(); }
+
+private:
+    CannedAnswer answer(const CannedRequest &request)
+    {
+        switch (request.operation) {
+        case 0:
+            return httpAnswer(m_ppdStatus, m_ppdStatus == 200 ? "*PPD-Adobe: \"4.3\"\n" : "");
+        case IPP_OP_CREATE_JOB: {
+            ipp_t *answer = newIppAnswer();
+            ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", kJob);
+            return ippAnswer(answer);
+        }
+        case IPP_OP_SEND_DOCUMENT:
+            return m_losesAnswer ? CannedAnswer{{}, true} : ippAnswer(newIppAnswer());
+        case IPP_OP_CANCEL_JOB:
+            say({afterCancel()});
+            return ippAnswer(
+                newIppAnswer(m_cancels ? IPP_STATUS_OK : IPP_STATUS_ERROR_NOT_POSSIBLE));
+        case IPP_OP_GET_JOB_ATTRIBUTES:
+            return answerAbout(stateOf(request.value("job-id").toInt()));
+        default: {
+            ipp_t *answer = newIppAnswer();
+            ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "office");
+            return ippAnswer(answer);
+        }
+        }
+    }
+
+    SaidOfJob afterCancel()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_afterCancel;
+    }
+
+    SaidOfJob stateOf(int job)
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (job == kEarlierJob)
+            return m_earlier;
+        return m_states.size() > 1 ? m_states.takeFirst() : m_states.constFirst();
+    }
+
+    std::mutex m_mutex;
+    QList<SaidOfJob> m_states{SaidOfJob()};
+    SaidOfJob m_earlier;
+    SaidOfJob m_afterCancel;
+    std::atomic<bool> m_losesAnswer{false};
+    std::atomic<bool> m_cancels{true};
+    std::atomic<int> m_ppdStatus{304};
+    CannedServer m_server; // the first to go
+};
+
+} // namespace
+
+/// What becomes of a job whatever its server says, and that it is told as it is.
+class ServerJobTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_server = std::make_unique<JobServer>();
+        QFile file(m_folder.filePath(u"document.txt"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("Hello\n");
+        m_request = {};
+        m_request.server.address = {u"127.0.0.1"_s, m_server->port(), HTTP_ENCRYPTION_IF_REQUESTED};
+        m_request.server.patience = {10s, 10s};
+        m_request.server.mayAsk = true;
+        m_request.server.credentials = std::make_shared<CredentialStore>();
+        m_request.printer.origin = PrinterOrigin::Queue;
+        m_request.printer.name = u"office"_s;
+        m_request.printer.uri = u"ipp://localhost/printers/office"_s;
+        m_request.documents = {{file.fileName(), u"text/plain"_s, u"document.txt"_s}};
+        m_request.ticket = {u"document.txt"_s, 1, {{u"media"_s, u"A4"_s}}};
+    }
+
+    void printedIsWhatTheServerCallsSo_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<Kind>("kind");
+        QTest::newRow("completed") << int(IPP_JSTATE_COMPLETED) << Kind::Printed;
+        QTest::newRow("canceled") << int(IPP_JSTATE_CANCELED) << Kind::Canceled;
+        QTest::newRow("aborted") << int(IPP_JSTATE_ABORTED) << Kind::Failed;
+        QTest::newRow("stopped") << int(IPP_JSTATE_STOPPED) << Kind::Failed;
+        QTest::newRow("held") << int(IPP_JSTATE_HELD) << Kind::InQueue;
+    }
+    void printedIsWhatTheServerCallsSo()
+    {
+        QFETCH(int, state);
+        QFETCH(Kind, kind);
+        m_server->say({{IPP_JSTATE_PENDING}, {IPP_JSTATE_PROCESSING}, {state}});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, kind);
+        QCOMPARE(outcome.job, kJob);
+        QVERIFY2(outcome.text.contains(u"office-8"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
+        QCOMPARE(m_server->count(IPP_OP_SEND_DOCUMENT), 1);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
+    }
+
+    void anEarlierTryIsNotRepeatedByAccident_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<int>("documents");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<Kind>("kind");
+        const auto row = [](const char *name, int state, int documents, int status, Kind kind) {
+            QTest::newRow(name) << state << documents << status << kind;
+        };
+        row("printed", IPP_JSTATE_COMPLETED, 1, IPP_STATUS_OK, Kind::AlreadyThere);
+        row("waits", IPP_JSTATE_PENDING, 1, IPP_STATUS_OK, Kind::AlreadyThere);
+        row("is printed", IPP_JSTATE_PROCESSING, 1, IPP_STATUS_OK, Kind::AlreadyThere);
+        row("is held", IPP_JSTATE_HELD, 1, IPP_STATUS_OK, Kind::AlreadyThere);
+        row("waits with who knows what", IPP_JSTATE_PENDING, -1, IPP_STATUS_OK, Kind::AlreadyThere);
+        row("has no document", IPP_JSTATE_HELD, 0, IPP_STATUS_OK, Kind::Printed);
+        row("was canceled", IPP_JSTATE_CANCELED, 1, IPP_STATUS_OK, Kind::Printed);
+        row("was given up", IPP_JSTATE_ABORTED, 1, IPP_STATUS_OK, Kind::Printed);
+        row("is not known", 0, 0, IPP_STATUS_ERROR_NOT_FOUND, Kind::Printed);
+        row("nobody says", 0, 0, IPP_STATUS_ERROR_BUSY, Kind::Failed);
+    }
+    void anEarlierTryIsNotRepeatedByAccident()
+    {
+        QFETCH(int, state);
+        QFETCH(int, documents);
+        QFETCH(int, status);
+        QFETCH(Kind, kind);
+        m_server->sayOfEarlierJob({state, documents, static_cast<ipp_status_t>(status)});
+        m_request.earlierJob = kEarlierJob;
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, kind);
+        const bool isNew = kind == Kind::Printed;
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), isNew ? 1 : 0);
+        QCOMPARE(m_server->count(IPP_OP_SEND_DOCUMENT), isNew ? 1 : 0);
+        if (kind == Kind::AlreadyThere)
+            QCOMPARE(outcome.job, kEarlierJob);
+        if (!isNew)
+            QVERIFY2(outcome.text.contains(u'7'), qPrintable(outcome.text));
+    }
+
+    void aPrinterWhoseOptionsAreOthersByNowGetsNothing_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<Kind>("kind");
+        QTest::newRow("the same") << 304 << Kind::Printed;
+        QTest::newRow("another PPD") << 200 << Kind::PrinterChanged;
+        QTest::newRow("none any more") << 404 << Kind::PrinterChanged;
+        QTest::newRow("not to be found out") << 403 << Kind::Failed;
+    }
+    void aPrinterWhoseOptionsAreOthersByNowGetsNothing()
+    {
+        QFETCH(int, status);
+        QFETCH(Kind, kind);
+        m_server->setPpdStatus(status);
+        m_request.ppdLastModified = kDay;
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, kind);
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), kind == Kind::Printed ? 1 : 0);
+        if (kind != Kind::Printed)
+            QVERIFY2(outcome.text.contains(u"Nothing was printed"_s), qPrintable(outcome.text));
+    }
+
+    void aJobThatIsLostSightOfIsNotCalledPrinted_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("hangsUp");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("no record is kept")
+            << int(IPP_STATUS_ERROR_NOT_FOUND) << false << u"has left the queue"_s;
+        QTest::newRow("the server is gone") << 0 << true << u"is not known"_s;
+        QTest::newRow("the server refuses")
+            << int(IPP_STATUS_ERROR_NOT_AUTHORIZED) << false << u"is not known"_s;
+    }
+    void aJobThatIsLostSightOfIsNotCalledPrinted()
+    {
+        QFETCH(int, status);
+        QFETCH(bool, hangsUp);
+        QFETCH(QString, words);
+        m_server->say({{IPP_JSTATE_PROCESSING},
+                       {IPP_JSTATE_PROCESSING},
+                       {0, -1, static_cast<ipp_status_t>(status), hangsUp}});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::InQueue);
+        QVERIFY2(outcome.text.contains(words), qPrintable(outcome.text));
+        QVERIFY(outcome.text.contains(u"office-8"_s));
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
+    }
+
+    void anAnswerThatIsLostIsFoundOut_data()
+    {
+        QTest::addColumn<QList<SaidOfJob>>("states");
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<int>("canceled");
+        const SaidOfJob gone{0, -1, IPP_STATUS_OK, true};
+        const SaidOfJob notFound{0, -1, IPP_STATUS_ERROR_NOT_FOUND};
+        const auto row = [](const char *name, const QList<SaidOfJob> &states, Kind kind,
+                            int canceled) { QTest::newRow(name) << states << kind << canceled; };
+        row("printed meanwhile", {{IPP_JSTATE_COMPLETED}}, Kind::Printed, 0);
+        row("will be printed", {{IPP_JSTATE_PENDING}, {IPP_JSTATE_COMPLETED}}, Kind::Printed, 0);
+        row("back at the third try", {gone, gone, {IPP_JSTATE_COMPLETED}}, Kind::Printed, 0);
+        row("came without its document", {{IPP_JSTATE_HELD, 0}}, Kind::Failed, 1);
+        row("is not known", {notFound}, Kind::Failed, 0);
+        row("nobody says", {gone}, Kind::Unknown, 0);
+    }
+    void anAnswerThatIsLostIsFoundOut()
+    {
+        QFETCH(QList<SaidOfJob>, states);
+        QFETCH(Kind, kind);
+        QFETCH(int, canceled);
+        m_server->loseTheAnswerToTheDocument();
+        m_server->say(states);
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, kind);
+        QCOMPARE(outcome.job, kJob);
+        QVERIFY2(outcome.text.contains(u"office-8"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
+        QCOMPARE(m_server->count(IPP_OP_SEND_DOCUMENT), 1);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), canceled);
+    }
+
+    void whoLetsGoOfAJobLeavesItInTheQueue()
+    {
+        m_server->say({{IPP_JSTATE_PROCESSING}});
+        ServerJob job;
+        const QSignalSpy finished(&job, &ServerJob::finished);
+        job.letGo(); // nothing to let go of
+        job.print(m_request);
+        job.letGo(); // not handed over yet
+        QVERIFY(!job.isHandedOver());
+        QTRY_VERIFY(job.isHandedOver());
+        QCOMPARE(finished.size(), 0);
+        job.letGo();
+        job.letGo();
+        QTRY_COMPARE(finished.size(), 1);
+        const auto outcome = finished.constFirst().constFirst().value<JobOutcome>();
+        QCOMPARE(outcome.kind, Kind::InQueue);
+        QCOMPARE(outcome.job, kJob);
+        QVERIFY(outcome.text.contains(u"office-8"_s));
+        QVERIFY(!job.isCanceled());
+        job.cancel(); // too late
+        QVERIFY(!job.isCanceled());
+        QTRY_VERIFY(!m_server->isInUse());
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
+    }
+
+    void aCanceledJobIsTakenBack_data()
+    {
+        QTest::addColumn<bool>("cancels");
+        QTest::addColumn<int>("state"); // after that
+        QTest::addColumn<Kind>("kind");
+        QTest::newRow("in time") << true << int(IPP_JSTATE_CANCELED) << Kind::Canceled;
+        QTest::newRow("too late") << false << int(IPP_JSTATE_COMPLETED) << Kind::Printed;
+        QTest::newRow("not allowed") << false << int(IPP_JSTATE_PROCESSING) << Kind::InQueue;
+    }
+    void aCanceledJobIsTakenBack()
+    {
+        QFETCH(bool, cancels);
+        QFETCH(int, state);
+        QFETCH(Kind, kind);
+        m_server->say({{IPP_JSTATE_PROCESSING}});
+        if (!cancels)
+            m_server->refuseToCancel();
+        m_server->sayAfterCancel({state});
+        ServerJob job;
+        const QSignalSpy finished(&job, &ServerJob::finished);
+        job.print(m_request);
+        QTRY_VERIFY(job.isHandedOver());
+        job.cancel();
+        job.cancel();
+        QVERIFY(job.isCanceled());
+        const JobOutcome outcome = job.wait();
+        QCOMPARE(outcome.kind, kind);
+        QVERIFY2(outcome.text.contains(u"office-8"_s), qPrintable(outcome.text));
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 1);
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
+    }
+
+    void aJobThatIsCanceledInAWindowThatGoesIsTakenBackAllTheSame()
+    {
+        m_server->say({{IPP_JSTATE_PROCESSING}});
+        auto job = std::make_unique<ServerJob>();
+        job->print(m_request);
+        QTRY_VERIFY(job->isHandedOver());
+        job->cancel();
+        job.reset();
+        QTRY_VERIFY(!m_server->isInUse());
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 1);
+    }
+
+    void aJobThatIsNotFollowedIsHandedOverAndNoMore()
+    {
+        m_server->say({{IPP_JSTATE_PENDING}});
+        m_request.follow = false;
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::InQueue);
+        QVERIFY(outcome.isDone());
+        QVERIFY(outcome.text.contains(u"office-8"_s));
+    }
+
+    void whatCannotBeSentAsksNobody()
+    {
+        m_request.ticket.options += {u"QXName"_s, QString(300, u'x')};
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY(outcome.text.contains(u"QXName"_s));
+        QVERIFY(m_server->requests().isEmpty());
+    }
+
+    void aDocumentThatIsGoneTakesItsJobBack()
+    {
+        QVERIFY(QFile::remove(m_request.documents.constFirst().path));
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(u"document.txt"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_SEND_DOCUMENT), 0);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), m_server->count(IPP_OP_CREATE_JOB));
+    }
+
+    void thePasswordOfTheDeviceIsAskedForOnce_data()
+    {
+        QTest::addColumn<bool>("given");
+        QTest::newRow("given") << true;
+        QTest::newRow("not given") << false;
+    }
+    void thePasswordOfTheDeviceIsAskedForOnce()
+    {
+        QFETCH(bool, given);
+        m_request.printer.authInfo = {u"username"_s, u"password"_s};
+        int asked = 0;
+        m_request.server.credentials->setQuestioner(
+            [&](const CredentialsQuestion &question, const auto &answer) {
+                ++asked;
+                QVERIFY(question.forDevice);
+                answer(given ? std::optional(Credentials{u"lisa"_s, u"secret"_s}) : std::nullopt);
+            });
+        const JobOutcome outcome = print();
+        QCOMPARE(asked, 1);
+        QCOMPARE(outcome.kind, given ? Kind::Printed : Kind::Failed);
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), given ? 1 : 0);
+        QVERIFY(!outcome.text.contains(u"secret"_s));
+        if (given)
+            QCOMPARE(m_server->requests().constFirst().values("auth-info"),
+                     (QStringList{u"lisa"_s, u"secret"_s}));
+    }
+
+    void aJobWhoseWindowIsGoneStaysInTheQueue()
+    {
+        m_server->say({{IPP_JSTATE_PROCESSING}});
+        auto job = std::make_unique<ServerJob>();
+        job->print(m_request);
+        QTRY_VERIFY(job->isHandedOver());
+        job.reset();
+        QTRY_VERIFY(!m_server->isInUse());
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
+    }
+
+private:
+    JobOutcome print()
+    {
+        ServerJob job;
+        job.print(m_request);
+        return job.wait();
+    }
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<JobServer> m_server;
+    ServerJobRequest m_request;
+};
+
+QTEST_GUILESS_MAIN(ServerJobTest)
+#include "server_job_test.moc"

@@ -1,0 +1,142 @@
+#include "tests/e2e/ProgramRunner.h"
+
+#include <csignal>
+#include <stdexcept>
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace corvana::test {
+
+namespace {
+
+constexpr int kPatience = 30000; // milliseconds that a run may take on a busy machine
+
+} // namespace
+
+QByteArray RunEnd::text() const
+{
+    return QStringLiteral("status %1\n%2%3").arg(status).arg(out, err).toUtf8();
+}
+
+ProgramRun::ProgramRun(const QProcessEnvironment &environment, const QStringList &arguments,
+                       const QString &standardInput)
+{
+    m_process.setProcessEnvironment(environment);
+    m_process.setWorkingDirectory(environment.value(QStringLiteral("HOME")));
+    m_process.setStandardInputFile(standardInput.isEmpty() ? QProcess::nullDevice()
+                                                           : standardInput);
+    m_process.start(QStringLiteral(CORVANA_TEST_PROGRAM),
+                    QStringList{QStringLiteral("--no-dialog"), QStringLiteral("--bundle-root"),
+                                QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/..")} +
+                        arguments);
+    if (!m_process.waitForStarted())
+        throw std::runtime_error("the program cannot be started");
+}
+
+ProgramRun::~ProgramRun()
+{
+    if (isRunning()) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+bool ProgramRun::isRunning()
+{
+    return m_process.state() != QProcess::NotRunning;
+}
+
+QString ProgramRun::out()
+{
+    read();
+    return QString::fromUtf8(m_out);
+}
+
+QString ProgramRun::err()
+{
+    read();
+    return QString::fromUtf8(m_err);
+}
+
+void ProgramRun::read()
+{
+    m_out += m_process.readAllStandardOutput();
+    m_err += m_process.readAllStandardError();
+}
+
+void ProgramRun::interrupt()
+{
+    if (isRunning())
+        ::kill(static_cast<pid_t>(m_process.processId()), SIGINT);
+}
+
+RunEnd ProgramRun::wait()
+{
+    // The event loop turns, for servers that live in the test's own process.
+    const bool ended = QTest::qWaitFor([this] { return !isRunning(); }, kPatience);
+    if (!ended) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+    const bool exited = ended && m_process.exitStatus() == QProcess::NormalExit;
+    return {exited ? m_process.exitCode() : -1, out(), err()};
+}
+
+ProgramRunner::ProgramRunner(const QString &server)
+    : m_environment(QProcessEnvironment::systemEnvironment())
+{
+    if (!m_home.isValid())
+        throw std::runtime_error(m_home.errorString().toStdString());
+    for (const char *name : {"LANGUAGE", "LANG", "LC_MESSAGES", "LPDEST", "PRINTER", "DISPLAY",
+                             "WAYLAND_DISPLAY", "QT_LOGGING_RULES", "CORVANA_PRINT_PATIENCE",
+                             "CORVANA_PRINT_CUPSFILTER", "QT_QPA_PLATFORM"})
+        m_environment.remove(QString::fromLatin1(name));
+    setVariable(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    setVariable(QStringLiteral("HOME"), m_home.path());
+    for (const char *name : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        const QString folder = filePath(QString::fromLatin1(name));
+        QDir().mkpath(folder);
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        setVariable(QString::fromLatin1(name), folder);
+    }
+    setVariable(QStringLiteral("CUPS_SERVER"), server);
+    setVariable(QStringLiteral("CUPS_SERVERROOT"), QStringLiteral("/nonexistent"));
+    // No desktop is there to be asked.
+    for (const char *name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
+        setVariable(QString::fromLatin1(name), QStringLiteral("disabled:"));
+}
+
+void ProgramRunner::setVariable(const QString &name, const QString &value)
+{
+    m_environment.insert(name, value);
+}
+
+void ProgramRunner::setUserOptions(const QByteArray &lines)
+{
+    QDir(m_home.path()).mkpath(QStringLiteral(".cups"));
+    QFile file(filePath(QStringLiteral(".cups/lpoptions")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size())
+        throw std::runtime_error("lpoptions cannot be written");
+}
+
+std::unique_ptr<ProgramRun> ProgramRunner::start(const QStringList &arguments,
+                                                 const QString &standardInput) const
+{
+    return std::make_unique<ProgramRun>(m_environment, arguments, standardInput);
+}
+
+RunEnd ProgramRunner::run(const QStringList &arguments, const QString &standardInput) const
+{
+    return start(arguments, standardInput)->wait();
+}
+
+int jobNamed(const QString &queue, const QString &text)
+{
+    const QRegularExpression name(QRegularExpression::escape(queue) + QStringLiteral("-(\\d+)"));
+    return name.match(text).captured(1).toInt();
+}
+
+} // namespace corvana::test

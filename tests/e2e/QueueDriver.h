@@ -1,0 +1,122 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+#include "dialog/app/PrintDialog.h"
+#include "dialog/server/CredentialStore.h"
+#include "tests/e2e/DialogDriver.h"
+
+namespace corvana::test {
+
+/// The pulse of the thread that it lives in: how long nothing else had its turn there.
+class Heartbeat : public QObject
+{
+public:
+    Heartbeat();
+
+    void start();
+    /// What the test itself does from here on does not count.
+    void stop();
+    /// The longest time between two beats since it was asked for last. Units: milliseconds.
+    qint64 takeLargestGap();
+
+private:
+    void beat();
+
+    QTimer m_timer;
+    QElapsedTimer m_last;
+    qint64 m_largest = 0;
+};
+
+/// Answers every question for a user and a password. Works for as long as it lives.
+class LoginAnswerer : public QObject
+{
+public:
+    LoginAnswerer();
+
+    /// What is given; nothing cancels the question.
+    std::optional<Credentials> answer;
+    int asked = 0;
+    /// Whether the last question said that others may read along.
+    bool warned = false;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+/// The dialog for the queues of a print server, shown, and used through its own controls. Alerts
+/// are answered with OK.
+///
+/// Settings and caches that outlive a dialog are its caller's affair (XDG_CONFIG_HOME,
+/// XDG_CACHE_HOME).
+class QueueDriver
+{
+public:
+    struct Start
+    {
+        QString server;  ///< "127.0.0.1:PORT"
+        QString printer; ///< empty: whatever the dialog opens by itself
+        QStringList documents;
+        QStringList options{};
+    };
+
+    /// Opens the dialog and returns when its window is on the screen. Errors: throws
+    /// std::runtime_error.
+    explicit QueueDriver(const Start &start);
+    ~QueueDriver();
+
+    PrintDialog &dialog() { return *m_dialog; }
+    Heartbeat &heart() { return m_heart; }
+    LoginAnswerer &logins() { return m_logins; }
+    AlertAnswerer &alerts() { return m_alerts; }
+
+    /// Turns the event loop until `isSo`, which must not block. The heart beats meanwhile.
+    bool waitUntil(const std::function<bool()> &isSo, int milliseconds = 15000);
+    /// Whether the printer's pages are there and Print can be pressed.
+    bool canPrint() const;
+    bool isPrinting() const;
+    /// Waits until what Print began has ended, one way or the other.
+    bool waitForTheEnd();
+    /// Presses the button of this name as a user does. False when it is not there, or disabled.
+    bool press(const char *button);
+
+    /// What a person reads: in the message bar, below the printer, in the place of the pages, and
+    /// beside the progress bar. Null when it is not there.
+    QString message() const;
+    QString status() const;
+    QString waiting() const;
+    QString progress() const;
+    /// What stands below the list of printers; opens the list. Null when there is nothing.
+    QString footer();
+    /// What the printers are called in the list, in its order.
+    QStringList printers() const;
+    /// Name of the chosen printer.
+    QString printer() const;
+    bool isPrinterGone() const;
+
+    /// Sets copies, pages and two-sided printing to something that no printer comes with.
+    void changeSettings(bool twoSided = true);
+    /// Everything that the window shows of the job, a line each: what goes where, the summary,
+    /// pages. The page stays the current one.
+    QStringList settings();
+
+private:
+    template <typename Child> Child *child(const char *name) const
+    {
+        return m_dialog->findChild<Child *>(QString::fromLatin1(name));
+    }
+    QString labelText(const char *parent, const char *name) const;
+
+    AlertAnswerer m_alerts;
+    LoginAnswerer m_logins;
+    Heartbeat m_heart;
+    std::unique_ptr<PrintDialog> m_dialog;
+};
+
+} // namespace corvana::test

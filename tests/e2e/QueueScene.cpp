@@ -1,0 +1,116 @@
+#include "tests/e2e/QueueScene.h"
+
+#include <stdexcept>
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace corvana::test {
+
+namespace {
+/// How long a server is waited for. Units: seconds.
+constexpr auto kPatience = "2";
+constexpr int kDocumentSize = 600000; // bytes
+} // namespace
+
+UserFolders::UserFolders()
+{
+    const std::pair<const char *, QString> folders[] = {
+        {"HOME", QStringLiteral("home")},
+        {"XDG_CONFIG_HOME", QStringLiteral("config")},
+        {"XDG_CACHE_HOME", QStringLiteral("cache")}};
+    for (const auto &[name, folder] : folders) {
+        if (!QDir(m_folder.path()).mkdir(folder))
+            throw std::runtime_error("no temporary folder");
+        qputenv(name, m_folder.filePath(folder).toLocal8Bit());
+    }
+    qputenv("CORVANA_PRINT_PATIENCE", kPatience);
+}
+
+QString UserFolders::write(const QString &name, const QByteArray &content) const
+{
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        throw std::runtime_error("the test's folder cannot be written");
+    return file.fileName();
+}
+
+QString UserFolders::longDocument() const
+{
+    const QString page = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.ps");
+    const QByteArray comment = "% A long document.\n";
+    QByteArray document = contentOf(page);
+    document.insert(document.indexOf("gsave"), comment.repeated(kDocumentSize / comment.size()));
+    return write(QStringLiteral("document.ps"), document);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error(path.toStdString() + " cannot be read");
+    return file.readAll();
+}
+
+QString samplePpdPath(const QString &printer)
+{
+    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
+}
+
+bool matches(const QString &text, const QString &expression)
+{
+    return QRegularExpression(QRegularExpression::anchoredPattern(expression),
+                              QRegularExpression::DotMatchesEverythingOption)
+        .match(text)
+        .hasMatch();
+}
+
+QueueScene::QueueScene(const CupsSettings &settings)
+    : cups(settings), between(cups.port()), device(cups.capture(kQueue))
+{
+    cups.start();
+}
+
+void QueueScene::addQueue(const QString &ppdPath)
+{
+    QueueSettings settings;
+    settings.deviceUri = device.uri();
+    cups.addQueue(kQueue, ppdPath, settings);
+}
+
+void QueueScene::open(const QStringList &documents, const QString &printer)
+{
+    window.reset();
+    window =
+        std::make_unique<QueueDriver>(QueueDriver::Start{between.server(), printer, documents});
+}
+
+QList<int> QueueScene::states() const
+{
+    QList<int> states;
+    for (const KnownJob &job : cups.jobs())
+        states += job.state;
+    return states;
+}
+
+void QueueScene::goAway()
+{
+    between.setManner(FaultyServer::Manner::Refuses);
+    between.dropConnections();
+}
+
+void QueueScene::fallSilent()
+{
+    between.setManner(FaultyServer::Manner::NeverAnswers);
+    between.dropConnections();
+}
+
+void QueueScene::mend()
+{
+    between.clearFaults();
+    between.releaseResponses();
+    between.setManner(FaultyServer::Manner::Passes);
+}
+
+} // namespace corvana::test

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "tests/e2e/QueueDriver.h"
+#include "tests/support/cups/FaultyServer.h"
+#include "tests/support/cups/PrivateCups.h"
+
+namespace corvana::test {
+
+/// The queue of a QueueScene.
+inline const QString kQueue = QStringLiteral("office");
+
+/// A user's folders for the time of a test program: home, preferences and caches are empty, and
+/// servers are waited for two seconds. One for a program, before any window.
+class UserFolders
+{
+public:
+    /// Errors: throws std::runtime_error.
+    UserFolders();
+
+    QString filePath(const QString &name) const { return m_folder.filePath(name); }
+    /// Writes a file and answers its path. Errors: throws std::runtime_error.
+    QString write(const QString &name, const QByteArray &content) const;
+    /// A page of PostScript that is longer than what is sent in one piece.
+    QString longDocument() const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// The whole content of a file. Errors: throws std::runtime_error.
+QByteArray contentOf(const QString &path);
+/// The path of a sample printer's PPD ("corvana-cl5").
+QString samplePpdPath(const QString &printer);
+/// Whether the whole text is what the expression says.
+bool matches(const QString &text, const QString &expression);
+
+/// A print server with something in front of it that misbehaves when it is told to, a printer, and
+/// the window of somebody who prints there. Acts on the server block: the heart stands still then.
+struct QueueScene
+{
+    explicit QueueScene(const CupsSettings &settings = {});
+
+    /// Adds the queue "office", a printer with panels that prints to `device`.
+    void addQueue(const QString &ppdPath = samplePpdPath(QStringLiteral("corvana-cl5")));
+    /// Opens the window; without a printer that is named where `printer` is empty.
+    void open(const QStringList &documents, const QString &printer = kQueue);
+    /// The states of all jobs, by their numbers.
+    QList<int> states() const;
+
+    void goAway();
+    void fallSilent();
+    /// All faults end.
+    void mend();
+
+    PrivateCups cups;
+    FaultyServer between;
+    CaptureDevice device;
+    std::unique_ptr<QueueDriver> window;
+};
+
+} // namespace corvana::test

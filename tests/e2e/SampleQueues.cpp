@@ -1,0 +1,48 @@
+#include "tests/e2e/SampleQueues.h"
+
+#include <algorithm>
+
+#include "tests/e2e/ProgramRunner.h"
+
+namespace corvana::test {
+
+SampleQueues::SampleQueues()
+{
+    qputenv("XDG_CONFIG_HOME", m_home.filePath(QStringLiteral("config")).toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", m_home.filePath(QStringLiteral("cache")).toLocal8Bit());
+    m_cups.start();
+    for (const QString &printer : printers())
+        m_cups.addQueue(printer, ppdOf(printer));
+}
+
+QStringList SampleQueues::printers()
+{
+    return {QStringLiteral("corvana-cl2"), QStringLiteral("corvana-cl3"),
+            QStringLiteral("corvana-cl4"), QStringLiteral("corvana-cl5"),
+            QStringLiteral("corvana-mf4"), QStringLiteral("corvana-ml3")};
+}
+
+QString SampleQueues::ppdOf(const QString &printer)
+{
+    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
+}
+
+std::unique_ptr<DialogDriver> SampleQueues::open(const QString &printer, const QStringList &options)
+{
+    return std::make_unique<DialogDriver>(QueueAt{m_cups.server(), printer}, options);
+}
+
+QByteArray SampleQueues::printedBy(DialogDriver &driver, const QString &printer)
+{
+    const QString report = driver.waitForReport();
+    const int id = jobNamed(printer, report);
+    if (report != QStringLiteral("Printed on “%1” as job %1-%2.").arg(printer).arg(id) ||
+        m_cups.job(id).state != IPP_JSTATE_COMPLETED)
+        return {};
+    const QList<CapturedJob> jobs = m_cups.capture(printer).jobs();
+    const auto job =
+        std::find_if(jobs.cbegin(), jobs.cend(), [id](const CapturedJob &j) { return j.id == id; });
+    return job == jobs.cend() ? QByteArray() : job->data;
+}
+
+} // namespace corvana::test

@@ -1,0 +1,168 @@
+#include <QFile>
+#include <QTest>
+
+#include "tests/e2e/ProgramRunner.h"
+#include "tests/support/cups/IppEvePrinter.h"
+#include "tests/support/cups/PrivateCups.h"
+
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kPages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/pages.pdf");
+const QString kPicture = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.png");
+const QString kPhoto = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.jpg");
+const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// An attribute of the only job of a printer, as text; null without it.
+QString jobValue(const IppEvePrinter &printer, const char *attribute)
+{
+    const std::unique_ptr<http_t, void (*)(http_t *)> http(
+        httpConnect2("localhost", printer.port(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1,
+                     5000, nullptr),
+        httpClose);
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+                 printer.uri().toUtf8().constData());
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", 1);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    const std::unique_ptr<ipp_t, void (*)(ipp_t *)> answer(
+        cupsDoRequest(http.get(), request, "/ipp/print"), ippDelete);
+    ipp_attribute_t *found = ippFindAttribute(answer.get(), attribute, IPP_TAG_ZERO);
+    if (!found)
+        return {};
+    QByteArray text(4096, '\0');
+    const size_t length = ippAttributeString(found, text.data(), static_cast<size_t>(text.size()));
+    return QString::fromUtf8(text.constData(), static_cast<qsizetype>(length));
+}
+
+} // namespace
+
+/// Runs without a window that print to an IPP printer which nobody of this project has written,
+/// straight and through the queue of a print server.
+class IppPrinterTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!IppEvePrinter::isAvailable())
+            QSKIP("no ippeveprinter here");
+    }
+
+    void aDocumentThatThePrinterTakesGetsThereAsItIs_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<QString>("format");
+        QTest::newRow("PDF") << kPages << u"application/pdf"_s;
+        QTest::newRow("JPEG") << kPhoto << u"image/jpeg"_s;
+    }
+    void aDocumentThatThePrinterTakesGetsThereAsItIs()
+    {
+        QFETCH(QString, document);
+        QFETCH(QString, format);
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), u"-n"_s, u"2"_s, u"-t"_s,
+                                       u"Übersicht"_s, u"-o"_s, u"media=Legal"_s, document});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(end.out.startsWith(u"Printed on “"_s), end.text().constData());
+        QCOMPARE(printer.documents(), QList{contentOf(document)});
+        QCOMPARE(jobValue(printer, "job-state"), u"completed"_s);
+        QCOMPARE(jobValue(printer, "job-name"), u"Übersicht"_s);
+        QCOMPARE(jobValue(printer, "job-originating-user-name"), QString::fromUtf8(cupsUser()));
+        QCOMPARE(jobValue(printer, "copies"), u"2"_s);
+        QCOMPARE(jobValue(printer, "document-format-supplied"), format);
+        const QString paper = jobValue(printer, "media-col");
+        QVERIFY2(paper.contains(u"x-dimension=21590"_s) && paper.contains(u"y-dimension=35560"_s),
+                 qUtf8Printable(paper));
+    }
+
+    void aPictureThatThePrinterDoesNotTakeBecomesWhatItTakes_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QByteArray>("begin");
+        QTest::newRow("PDF") << u"application/pdf"_s << QByteArray("%PDF-");
+        QTest::newRow("raster data") << u"image/pwg-raster"_s << QByteArray("RaS2");
+    }
+    void aPictureThatThePrinterDoesNotTakeBecomesWhatItTakes()
+    {
+        QFETCH(QString, format);
+        QFETCH(QByteArray, begin);
+        const IppEvePrinter printer(u"Picky"_s, {format});
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), kPicture});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(printer.documents().size(), 1);
+        QCOMPARE(printer.documents().constFirst().left(begin.size()), begin);
+        QCOMPARE(jobValue(printer, "document-format-supplied"), format);
+    }
+
+    void whatThePrinterCannotDoIsRefusedAndNothingIsSent()
+    {
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end =
+            runner.run({u"-d"_s, printer.uri(), u"-o"_s, u"sides=two-sided-long-edge"_s, kPages});
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.err.contains(u"sides=two-sided-long-edge"_s), end.text().constData());
+        QVERIFY(printer.documents().isEmpty());
+    }
+
+    void aPrinterThatIsGoneIsSaid()
+    {
+        IppEvePrinter printer;
+        printer.stop();
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), kPages});
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.err.contains(u"cannot be reached"_s), end.text().constData());
+        QVERIFY2(end.err.contains(u"Nothing was printed."_s), end.text().constData());
+    }
+
+    void aRawQueueOfAServerPrintsOnIt()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        const IppEvePrinter printer;
+        PrivateCups cups;
+        cups.start();
+        cups.addRawQueue(u"everywhere"_s, {.deviceUri = printer.uri()});
+        const RunEnd end = ProgramRunner(cups.server())
+                               .run({u"-d"_s, u"everywhere"_s, u"-t"_s, u"Übersicht"_s, kPages});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(end.out, u"Printed on “everywhere” as job everywhere-1.\n"_s);
+        QCOMPARE(printer.documents(), QList{contentOf(kPages)});
+        QVERIFY(jobValue(printer, "job-name").contains(u"Übersicht"_s));
+    }
+
+    void aQueueWithThePanelsOptionsPrintsOnIt()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        const IppEvePrinter printer(u"PostScript"_s, {u"application/postscript"_s});
+        PrivateCups cups;
+        cups.start();
+        cups.addQueue(u"office"_s, kPpd, {.deviceUri = printer.uri()});
+        const RunEnd end =
+            ProgramRunner(cups.server())
+                .run({u"-d"_s, u"office"_s, u"-o"_s, u"QXMediaType=Thick"_s, kPicture});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(printer.documents().size(), 1);
+        QCOMPARE(printer.documents().constFirst().count("CorvanaOption(QXMediaType=Thick)"),
+                 qsizetype(1));
+    }
+};
+
+QTEST_GUILESS_MAIN(IppPrinterTest)
+
+#include "ipp_printer_test.moc"

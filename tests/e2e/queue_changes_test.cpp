@@ -1,0 +1,363 @@
+#include <optional>
+
+#include <QDateTime>
+#include <QFile>
+#include <QPointer>
+#include <QTest>
+
+#include "dialog/chooser/PrinterComboBox.h"
+#include "tests/e2e/QueueScene.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using States = QList<int>;
+using Manner = FaultyServer::Manner;
+
+const QString kServer = u"The print server “127\\.0\\.0\\.1:[0-9]+” "_s;
+const QString kNothingPrinted = u" Nothing was printed\\."_s;
+const QString kPrintedAs = u"Printed on “office” as job office-%1\\."_s;
+const QString kFilePrinter = u"PostScript File"_s;
+/// How late a change of the queues may show. Units: milliseconds.
+constexpr int kSeconds = 8000;
+/// After this time a server that is away is asked again by itself. Units: milliseconds.
+constexpr int kNextTry = 20000;
+/// What the arrival of anything may take from the window. Units: milliseconds.
+constexpr qint64 kLongestGap = 250;
+
+} // namespace
+
+/// Queues that change, go, come back or are late while the window is open.
+class QueueChangesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::optional<UserFolders> m_folders;
+    QString m_document;
+
+    void open(QueueScene &scene)
+    {
+        scene.addQueue();
+        scene.open({m_document});
+        QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
+        scene.window->changeSettings();
+    }
+
+    static void verifyPrinted(QueueScene &scene, int job)
+    {
+        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->waitForTheEnd());
+        QVERIFY2(matches(scene.window->dialog().report(), kPrintedAs.arg(job)),
+                 qPrintable(scene.window->message()));
+        QCOMPARE(scene.cups.job(job).state, IPP_JSTATE_COMPLETED);
+    }
+
+    // A server tells the age of its PPDs in whole seconds.
+    static void makePpdOlder(const QueueScene &scene)
+    {
+        QFile ppd(scene.cups.folder() + u"/etc/ppd/office.ppd"_s);
+        QVERIFY(ppd.open(QIODevice::ReadWrite));
+        QVERIFY(ppd.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                                QFileDevice::FileModificationTime));
+    }
+
+    // A server tells in whole seconds when a queue was changed last.
+    static void waitForTheNextSecond(QueueScene &scene)
+    {
+        const qint64 now = QDateTime::currentSecsSinceEpoch();
+        QVERIFY(
+            scene.window->waitUntil([now] { return QDateTime::currentSecsSinceEpoch() > now; }));
+    }
+
+    // Of the same printer, in a new version.
+    QString otherPpd() const
+    {
+        QByteArray ppd = contentOf(samplePpdPath(u"corvana-cl5"_s));
+        ppd.replace("*NickName: \"", "*NickName: \"New ");
+        return m_folders->write(u"other.ppd"_s, ppd);
+    }
+
+    static void manners()
+    {
+        QTest::addColumn<Manner>("manner");
+        QTest::addColumn<QString>("says");
+        QTest::newRow("refused") << Manner::Refuses << kServer + u"cannot be reached\\."_s;
+        QTest::newRow("never answers") << Manner::NeverAnswers << kServer + u"does not answer\\."_s;
+        QTest::newRow("hangs up") << Manner::HangsUp << kServer + u"broke the connection\\."_s;
+        QTest::newRow("garbage")
+            << Manner::Babbles
+            << u"What “127\\.0\\.0\\.1:[0-9]+” answers is not what a print server says\\..*"_s;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        m_folders.emplace();
+        m_document = m_folders->longDocument();
+    }
+
+    void aPrinterThatWasNamedIsThereWhenItsServerIs_data() { manners(); }
+    void aPrinterThatWasNamedIsThereWhenItsServerIs()
+    {
+        QFETCH(Manner, manner);
+        QFETCH(QString, says);
+        QueueScene scene;
+        scene.addQueue();
+        scene.between.setManner(manner);
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QCOMPARE(window.printer(), kQueue);
+        QVERIFY(!window.press("print"));
+        QVERIFY2(window.waitUntil([&] { return matches(window.waiting(), says); }),
+                 qPrintable(window.waiting()));
+        QVERIFY(!window.canPrint());
+        scene.mend();
+        QVERIFY(window.press("retry"));
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        verifyPrinted(scene, 1);
+        QVERIFY(window.heart().takeLargestGap() < kLongestGap);
+    }
+
+    void withoutAServerThereIsTheFileUntilTheServerComesBack_data() { manners(); }
+    void withoutAServerThereIsTheFileUntilTheServerComesBack()
+    {
+        QFETCH(Manner, manner);
+        QFETCH(QString, says);
+        QueueScene scene;
+        scene.addQueue();
+        scene.between.setManner(manner);
+        scene.open({m_document}, {});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        QCOMPARE(window.printers(), QStringList{kFilePrinter});
+        QVERIFY2(window.waitUntil([&] { return matches(window.status(), says); }),
+                 qPrintable(window.status()));
+        QVERIFY2(matches(window.footer(), says), qPrintable(window.footer()));
+        QVERIFY(window.canPrint());
+        scene.mend();
+        QVERIFY(window.press("printerStatusRetry"));
+        QVERIFY(window.waitUntil([&] { return window.printer() == kQueue && window.canPrint(); }));
+        QCOMPARE(window.footer(), QString());
+        verifyPrinted(scene, 1);
+        QVERIFY(window.heart().takeLargestGap() < kLongestGap);
+    }
+
+    void thePrinterUsedLastIsThereWithoutItsServer()
+    {
+        QueueScene scene;
+        open(scene);
+        verifyPrinted(scene, 1);
+        scene.fallSilent();
+        scene.open({m_document}, {});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.canPrint());
+        QCOMPARE(window.printer(), kQueue);
+        window.changeSettings();
+        const QStringList settings = window.settings();
+        QVERIFY(window.press("print"));
+        QVERIFY(window.waitForTheEnd());
+        QVERIFY2(matches(window.message(), kServer + u"does not answer\\."_s + kNothingPrinted),
+                 qPrintable(window.message()));
+        QCOMPARE(window.settings(), settings);
+        scene.mend();
+        verifyPrinted(scene, 2);
+        QVERIFY(window.heart().takeLargestGap() < kLongestGap);
+    }
+
+    void aServerThatComesBackIsNoticed()
+    {
+        QueueScene scene;
+        open(scene);
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.printers().size() == 2; }));
+        scene.goAway();
+        scene.cups.addRawQueue(u"attic"_s);
+        QVERIFY(window.waitUntil([&] { return scene.between.openConnections() == 0; }));
+        QCOMPARE(window.printers().size(), 2);
+        QVERIFY(window.canPrint());
+        scene.mend();
+        QVERIFY(window.waitUntil([&] { return window.printers().size() == 3; }, kNextTry));
+        verifyPrinted(scene, 1);
+    }
+
+    void changesOfQueuesShow()
+    {
+        QueueScene scene;
+        open(scene);
+        QueueDriver &window = *scene.window;
+        const QStringList settings = window.settings();
+        const auto shows = [&](const QStringList &printers) {
+            return window.waitUntil([&] { return window.printers() == printers; }, kSeconds);
+        };
+        QVERIFY(shows({kQueue, kFilePrinter}));
+        scene.cups.addRawQueue(u"attic"_s, {u"Attic"_s, u"Under the roof"_s, {}, {}, {}});
+        QVERIFY(shows({u"Attic"_s, kQueue, kFilePrinter}));
+        scene.cups.addRawQueue(u"attic"_s, {u"Wine Cellar"_s, {}, {}, {}, {}});
+        QVERIFY(shows({kQueue, u"Wine Cellar"_s, kFilePrinter}));
+        scene.cups.stopQueue(kQueue, u"Being repaired"_s);
+        QVERIFY(window.waitUntil([&] { return window.status() == u"Stopped: Being repaired"_s; },
+                                 kSeconds));
+        scene.cups.startQueue(kQueue);
+        scene.cups.rejectJobs(kQueue);
+        QVERIFY(window.waitUntil([&] { return window.status().startsWith(u"Takes no jobs"_s); },
+                                 kSeconds));
+        scene.cups.acceptJobs(kQueue);
+        scene.cups.removeQueue(u"attic"_s);
+        QVERIFY(shows({kQueue, kFilePrinter}));
+        QCOMPARE(window.settings(), settings);
+        QVERIFY(window.heart().takeLargestGap() < kLongestGap);
+    }
+
+    void aQueueThatIsDeletedUnderTheWindowIsSaidAndMayComeBack()
+    {
+        QueueScene scene;
+        open(scene);
+        QueueDriver &window = *scene.window;
+        const QStringList settings = window.settings();
+        scene.cups.removeQueue(kQueue);
+        QVERIFY(window.waitUntil(
+            [&] {
+                return matches(
+                    window.status(),
+                    u"There is no printer “office” at “127\\.0\\.0\\.1:[0-9]+” any more\\."_s);
+            },
+            kSeconds));
+        QVERIFY(window.isPrinterGone());
+        QCOMPARE(window.settings(), settings);
+        scene.addQueue();
+        QVERIFY(window.waitUntil([&] { return !window.isPrinterGone(); }, kSeconds));
+        QCOMPARE(window.settings(), settings);
+        verifyPrinted(scene, 1);
+    }
+
+    void optionsThatChangeAtTheServerAreTakenOver()
+    {
+        QueueScene scene;
+        scene.addQueue();
+        makePpdOlder(scene);
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        window.changeSettings();
+        const QStringList settings = window.settings();
+        waitForTheNextSecond(scene);
+        scene.cups.setPpd(kQueue, otherPpd());
+        QVERIFY2(
+            window.waitUntil(
+                [&] {
+                    return window.message() ==
+                           u"The options of the printer have changed at its server; yours were kept."_s;
+                },
+                kSeconds),
+            qPrintable(window.message()));
+        QCOMPARE(window.settings(), settings);
+        verifyPrinted(scene, 1);
+    }
+
+    void theSameOptionsInstalledOnceMoreChangeNothing()
+    {
+        QueueScene scene;
+        scene.addQueue();
+        makePpdOlder(scene);
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        window.changeSettings();
+        const QStringList settings = window.settings();
+        scene.cups.setPpd(kQueue, samplePpdPath(u"corvana-cl5"_s));
+        QCOMPARE(window.settings(), settings);
+        verifyPrinted(scene, 1);
+    }
+
+    void optionsThatAreGoneAreSaid()
+    {
+        QueueScene scene;
+        scene.addQueue();
+        makePpdOlder(scene);
+        scene.window = std::make_unique<QueueDriver>(QueueDriver::Start{
+            scene.between.server(), kQueue, {m_document}, {u"QXMediaType=Glossy"_s}});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        window.changeSettings(false); // glossy paper is printed on one side only
+        waitForTheNextSecond(scene);
+        scene.cups.setPpd(kQueue, samplePpdPath(u"corvana-ml3"_s));
+        QVERIFY(window.waitUntil([&] { return !window.message().isNull(); }, kSeconds));
+        QVERIFY2(matches(window.message(), u"Not everything could be set as before:.*Glossy.*"_s),
+                 qPrintable(window.message()));
+        QVERIFY(window.settings().contains(u"copies 3"_s));
+        QVERIFY(window.settings().contains(u"pages 1-2"_s));
+        verifyPrinted(scene, 1);
+    }
+
+    // The list, which tells of changes as well, is not answered here: printing finds out itself.
+    void nothingIsPrintedWithOptionsThatHaveChangedMeanwhile()
+    {
+        QueueScene scene;
+        scene.addQueue();
+        makePpdOlder(scene);
+        scene.between.answerIpp(IPP_STATUS_ERROR_BUSY, IPP_OP_CUPS_GET_PRINTERS);
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        window.changeSettings();
+        const QStringList settings = window.settings();
+        scene.cups.setPpd(kQueue, otherPpd());
+        const QPointer<QObject> opened = window.dialog().findChild<QObject *>(u"copies"_s);
+        QVERIFY(window.press("print"));
+        QVERIFY(window.waitForTheEnd());
+        QVERIFY2(matches(window.message(),
+                         u"The options of the printer “office” have changed at its server\\."_s +
+                             kNothingPrinted),
+                 qPrintable(window.message()));
+        QCOMPARE(scene.states(), States());
+        // It is opened anew, and then there is nothing to complain about any more.
+        QVERIFY(window.waitUntil([&] { return opened.isNull(); }));
+        QTRY_VERIFY(window.canPrint());
+        QCOMPARE(window.settings(), settings);
+        verifyPrinted(scene, 1);
+    }
+
+    void hundredsOfQueuesArriveWhileTheListIsOpen()
+    {
+        constexpr int many = 300;
+        QByteArray queues;
+        for (int i = 0; i < many; ++i)
+            queues += "<Printer queue" + QByteArray::number(i) + ">\nInfo Room " +
+                      QByteArray::number(i) +
+                      "\nDeviceURI file:///dev/null\nState Idle\nAccepting Yes\n</Printer>\n";
+        QueueScene scene;
+        scene.cups.stop();
+        QFile file(scene.cups.folder() + u"/etc/printers.conf"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(queues), queues.size());
+        file.close();
+        scene.cups.start();
+        scene.between.delayResponse(IPP_OP_CUPS_GET_PRINTERS);
+        scene.open({m_document}, {});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return scene.between.faultsMade() > 0; }));
+        auto *box = window.dialog().findChild<PrinterComboBox *>(u"printers"_s);
+        box->showPopup();
+        auto *popup = window.dialog().findChild<QWidget *>(u"printerPopup"_s);
+        QVERIFY(popup && popup->isVisible());
+        window.heart().takeLargestGap();
+        scene.mend();
+        QVERIFY(window.waitUntil([&] { return window.printers().size() == many + 1; }));
+        QVERIFY(popup->isVisible());
+        QCOMPARE(window.printers().value(2), u"Room 2"_s);
+        QCOMPARE(window.printer(), u"file"_s); // nobody's choice is changed under the open list
+        box->hidePopup();
+        const qint64 gap = window.heart().takeLargestGap();
+        QVERIFY2(gap < kLongestGap, qPrintable(QString::number(gap)));
+    }
+};
+
+QTEST_MAIN(QueueChangesTest)
+
+#include "queue_changes_test.moc"
