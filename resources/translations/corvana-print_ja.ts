@@ -499,6 +499,14 @@
         <source>Asking the print server…</source>
         <translation>プリントサーバーに問い合わせています…</translation>
     </message>
+    <message>
+        <source>%1 Job %2 could not be canceled and may still be printed. %3</source>
+        <translation>%1ジョブ %2 を中止できませんでした。印刷される可能性があります。%3</translation>
+    </message>
+    <message>
+        <source>The printer “%1” does not accept this user and password.</source>
+        <translation>プリンター「%1」でこのユーザー名とパスワードは使用できません。</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -582,6 +590,10 @@
         <source>Wrong user or password.</source>
         <translation>ユーザー名またはパスワードが正しくありません。</translation>
     </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>文書を読み取れません: %1</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -659,12 +671,13 @@
         <source>It waits until the instructions have been followed. Release it with: %1</source>
         <translation>ジョブは、指示に従って準備ができるまで待機します。次のコマンドで再開してください: %1</translation>
     </message>
-</context>
-<context>
-    <name>corvana</name>
+    <message>
+        <source>Interrupted.</source>
+        <translation>中断されました。</translation>
+    </message>
     <message>
         <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
-        <translation>%1そのため、プリンター「%2」について問い合わせできませんでした。</translation>
+        <translation>%1そのため、プリンター「%2」を確認できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1180,6 +1193,10 @@ For the command line: %2</source>
     <message>
         <source>Job %1-%2 is in the queue; it was not followed to its end.</source>
         <translation>ジョブ %1-%2 はキューにあります。最後までは確認していません。</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
     </message>
 </context>
 <context>

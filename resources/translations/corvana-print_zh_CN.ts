@@ -499,6 +499,14 @@
         <source>Asking the print server…</source>
         <translation>正在查询打印服务器…</translation>
     </message>
+    <message>
+        <source>%1 Job %2 could not be canceled and may still be printed. %3</source>
+        <translation>%1无法取消作业 %2，仍可能会打印。%3</translation>
+    </message>
+    <message>
+        <source>The printer “%1” does not accept this user and password.</source>
+        <translation>打印机“%1”不接受此用户名和密码。</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -582,6 +590,10 @@
         <source>Wrong user or password.</source>
         <translation>用户名或密码错误。</translation>
     </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>无法读取文档：%1</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -659,9 +671,10 @@
         <source>It waits until the instructions have been followed. Release it with: %1</source>
         <translation>作业将等待您按说明操作完毕。然后用此命令继续：%1</translation>
     </message>
-</context>
-<context>
-    <name>corvana</name>
+    <message>
+        <source>Interrupted.</source>
+        <translation>已中断。</translation>
+    </message>
     <message>
         <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
         <translation>%1因此无法查询打印机“%2”。</translation>
@@ -1180,6 +1193,10 @@ For the command line: %2</source>
     <message>
         <source>Job %1-%2 is in the queue; it was not followed to its end.</source>
         <translation>作业 %1-%2 在队列中；未跟踪到结束。</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
     </message>
 </context>
 <context>
