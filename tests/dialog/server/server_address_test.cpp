@@ -122,7 +122,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("kind");
         using Kind = ServerProblem::Kind;
-        for (int kind = int(Kind::Unreachable); kind < int(Kind::Canceled); ++kind)
+        for (int kind = int(Kind::Unreachable); kind < int(Kind::DocumentUnreadable); ++kind)
             QTest::newRow(qPrintable(QString::number(kind))) << kind;
     }
     void everyProblemNamesTheServerOrItsCause()
@@ -131,6 +131,14 @@ private Q_SLOTS:
         const ServerProblem problem{static_cast<ServerProblem::Kind>(kind)};
         QVERIFY(problem);
         QVERIFY(problem.text({u"print.example.com"_s}).contains(u"“print.example.com”"_s));
+    }
+
+    void aDocumentThatCannotBeReadIsNoFaultOfTheServers()
+    {
+        const ServerProblem problem{ServerProblem::Kind::DocumentUnreadable, u"Is a directory"_s};
+        const QString text = problem.text({u"print.example.com"_s});
+        QVERIFY(text.contains(u"Is a directory"_s));
+        QVERIFY(!text.contains(u"print.example.com"_s));
     }
 
     void aRefusalHasTheReason()
