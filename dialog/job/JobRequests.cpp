@@ -154,7 +154,7 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
                    {"job-id", "job-state", "job-state-reasons", "job-printer-state-message",
                     "job-printer-state-reasons", "job-state-message", "job-media-sheets-completed",
-                    "job-impressions-completed", "number-of-documents"});
+                    "job-impressions-completed", "number-of-documents", "time-at-processing"});
     const IppMessage response = connection.request(std::move(request), resourceOf(printer));
     if (!response)
         return std::nullopt;
@@ -165,6 +165,9 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     status.state = ippNumber(find("job-state"));
     status.pages = std::max(ippNumber(find("job-impressions-completed")),
                             ippNumber(find("job-media-sheets-completed")));
+    // A time that has not come is said with a type of its own.
+    ipp_attribute_t *processing = find("time-at-processing");
+    status.begun = !processing || ippGetValueTag(processing) == IPP_TAG_INTEGER;
     status.documents = ippNumber(find("number-of-documents"), -1);
     status.reasons = ippTexts(find("job-state-reasons"));
     status.message = ippText(find("job-printer-state-message"));

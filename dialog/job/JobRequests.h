@@ -22,6 +22,7 @@ struct JobStatus
     QString message{};  ///< what the printer says of the job
     QStringList reasons{};
     bool printerStopped = false;
+    bool begun = true; ///< whether anything of it may have got to the printer
 
     bool isOver() const { return state >= IPP_JSTATE_CANCELED; }
     bool operator==(const JobStatus &) const = default;

@@ -248,7 +248,11 @@ private:
     // Takes back a job that is not to be printed, and says whether that worked.
     JobOutcome withdraw(JobOutcome::Kind kind, const QString &why, bool mayHavePrinted = false)
     {
-        if (cancelJob(another(), m_request.printer, m_job))
+        if (cancelJob(another(), m_request.printer, m_job)) {
+            if (mayHavePrinted) {
+                const auto status = lookUpJob(*m_another, m_request.printer, m_job);
+                mayHavePrinted = !status || status->begun;
+            }
             return outcome(
                 kind, mayHavePrinted
                           ? Texts::tr("%1 Job %2 was canceled; pages that the printer has already "
@@ -256,6 +260,7 @@ private:
                                 .arg(why, jobName())
                           : Texts::tr("%1 Job %2 was canceled; nothing was printed.")
                                 .arg(why, jobName()));
+        }
         if (m_another->problem().kind == ServerProblem::Kind::Refused ||
             m_another->problem().kind == ServerProblem::Kind::NotFound) {
             // It is over already, one way or the other, or it is somebody else's business.
