@@ -15,6 +15,13 @@
 
 namespace corvana::test {
 
+/// How many times slower than usual the dialog is in this build.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+inline constexpr int kSlowdown = 5;
+#else
+inline constexpr int kSlowdown = 1;
+#endif
+
 /// The pulse of the thread that it lives in: how long nothing else had its turn there.
 class Heartbeat : public QObject
 {

@@ -26,7 +26,7 @@ constexpr int kSeconds = 8000;
 /// After this time a server that is away is asked again by itself. Units: milliseconds.
 constexpr int kNextTry = 20000;
 /// What the arrival of anything may take from the window. Units: milliseconds.
-constexpr qint64 kLongestGap = 250;
+constexpr qint64 kLongestGap = 250 * kSlowdown;
 
 } // namespace
 

@@ -15,7 +15,7 @@ namespace {
 
 /// What a fault may add to the longest time for which the window does not react. Units:
 /// milliseconds.
-constexpr qint64 kTolerance = 100;
+constexpr qint64 kTolerance = 100 * kSlowdown;
 /// Of the document's 600000; so both parts are several blocks. Units: bytes.
 constexpr qint64 kPartOfDocument = 200000;
 
