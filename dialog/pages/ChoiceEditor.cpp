@@ -90,6 +90,12 @@ ChoiceEditor::ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *p
     connect(qApp, &QApplication::focusChanged, this, &ChoiceEditor::focusMoved);
 }
 
+// A widget that goes gives the focus away, when this is no editor any more.
+ChoiceEditor::~ChoiceEditor()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void ChoiceEditor::addChoices()
 {
     const ProgrammaticChange change;

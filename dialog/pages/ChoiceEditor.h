@@ -24,6 +24,7 @@ class ChoiceEditor : public QWidget
 public:
     /// Borrows the session and its option.
     ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *parent);
+    ~ChoiceEditor() override;
 
     QString keyword() const { return m_keyword; }
     /// Shows the session's mark, whatever was picked or typed.

@@ -481,6 +481,12 @@ PrinterCapabilities capabilitiesOf(ipp_t *attributes)
         listed(printer.outputBins, keywordsOf(attributes, "output-bin-default"));
     printer.finishings = numbersOf(attributes, "finishings-supported");
     printer.finishings.removeIf([](int value) { return value <= IPP_FINISHINGS_NONE; });
+    // Qt compares lists of numbers with memcmp, which must not get the null of a list that never
+    // had any.
+    for (QList<int> *numbers : {&printer.qualities, &printer.finishings}) {
+        if (numbers->isEmpty())
+            *numbers = {};
+    }
 
     printer.documentFormats = keywordsOf(attributes, "document-format-supported");
     printer.rasterTypes = keywordsOf(attributes, "pwg-raster-document-type-supported");
