@@ -73,9 +73,7 @@ void PrintDialog::choosePrinter(const Printer &printer)
     m_status->setPrinter(printer);
     updateDestination();
     if (printer.origin != PrinterOrigin::PpdFile)
-        showWaiting(tr("Asking “%1” for the options of the printer…")
-                        .arg(m_source.serverOf(printer).address.text()),
-                    false);
+        showAsking();
     updatePrintButton();
     m_source.open(printer);
     m_printers->setPrinters(m_source.printers());
@@ -176,6 +174,13 @@ void PrintDialog::offerQueue(const Printer &printer)
         });
 }
 
+void PrintDialog::showAsking()
+{
+    showWaiting(tr("Asking “%1” for the options of the printer…")
+                    .arg(m_source.serverOf(m_chosen).address.text()),
+                false);
+}
+
 // In the place of the pages, while there are none.
 void PrintDialog::showWaiting(const QString &text, bool canRetry)
 {
@@ -202,9 +207,7 @@ void PrintDialog::showWaiting(const QString &text, bool canRetry)
             QTimer::singleShot(0, this, [this] {
                 if (m_printer)
                     return; // it came meanwhile
-                showWaiting(tr("Asking “%1” for the options of the printer…")
-                                .arg(m_source.serverOf(m_chosen).address.text()),
-                            false);
+                showAsking();
                 m_source.retry();
             });
         });

@@ -62,8 +62,7 @@ QString dialogHelpPage()
 } // namespace
 
 PrintDialog::PrintDialog(PrintRequest request, QWidget *parent)
-    : QDialog(parent), m_request(std::move(request)),
-      m_credentials(new CredentialStore, [](CredentialStore *store) { store->deleteLater(); }),
+    : QDialog(parent), m_request(std::move(request)), m_credentials(CredentialStore::create()),
       m_source(m_request, ServerContext{m_request.server, m_credentials})
 {
     buildWindow();

@@ -112,6 +112,7 @@ private:
     void printersListed();
     void showListState();
     void openPrinter(const ReadyPrinter &ready);
+    void showAsking();
     void showWaiting(const QString &text, bool canRetry);
     bool isUntouched() const;
     void keepSettings();

@@ -242,9 +242,7 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
 int runUnattended(const PrintRequest &request)
 {
     const TerminationSignals termination;
-    ServerContext server{request.server, std::shared_ptr<CredentialStore>(
-                                             new CredentialStore,
-                                             [](CredentialStore *store) { store->deleteLater(); })};
+    ServerContext server{request.server, CredentialStore::create()};
     server.credentials->setQuestioner(
         terminalQuestioner([&termination] { return termination.caught() != 0; }));
     server.mayAsk = true;

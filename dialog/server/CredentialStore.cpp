@@ -10,6 +10,12 @@ namespace {
 constexpr std::chrono::milliseconds kLookAround{100};
 } // namespace
 
+std::shared_ptr<CredentialStore> CredentialStore::create()
+{
+    // Objects go on the thread that they live on.
+    return {new CredentialStore, [](CredentialStore *store) { store->deleteLater(); }};
+}
+
 void CredentialStore::setQuestioner(Questioner questioner)
 {
     const std::scoped_lock lock(m_mutex);

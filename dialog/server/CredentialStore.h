@@ -44,6 +44,8 @@ public:
     using Answer = std::function<void(std::optional<Credentials>)>;
     using Questioner = std::function<void(const CredentialsQuestion &, const Answer &answer)>;
 
+    /// Shared with workers, whichever of them is the last to need it.
+    static std::shared_ptr<CredentialStore> create();
     explicit CredentialStore(QObject *parent = nullptr) : QObject(parent) {}
 
     /// Who puts the questions; without one there is nobody to ask.

@@ -1,9 +1,8 @@
 #include <QFile>
 #include <QTest>
 
-#include "tests/e2e/ProgramRunner.h"
+#include "tests/e2e/QueueRuns.h"
 #include "tests/support/cups/Client.h"
-#include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
@@ -23,11 +22,6 @@ QByteArray contentOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray code(const QByteArray &option)
-{
-    return "CorvanaOption(" + option + ')';
-}
-
 qsizetype pagesOf(const QByteArray &data)
 {
     return data.count("\n%%Page: ");
@@ -37,48 +31,11 @@ qsizetype pagesOf(const QByteArray &data)
 
 /// Runs without a window that print to the queues of a server, as scripts make them: which queue is
 /// printed to, what the server and the printer get, and what the run says and ends with.
-class QueueRunTest : public QObject
+class QueueRunTest : public QueueRuns
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<PrivateCups> m_cups;
-    std::unique_ptr<ProgramRunner> m_runner;
-
-    /// Prints to a queue that has to take it, and answers the only job that its device has got.
-    CapturedJob printed(const QString &queue, const QStringList &arguments)
-    {
-        const RunEnd end = m_runner->run(QStringList{u"-d"_s, queue} + arguments);
-        [&] { QVERIFY2(end.status == 0, end.text().constData()); }();
-        const QList<CapturedJob> jobs = m_cups->capture(queue).jobs();
-        [&] { QCOMPARE(jobs.size(), 1); }();
-        return jobs.value(0);
-    }
-    /// The only job that a queue knows, finished or not.
-    KnownJob onlyJob(const QString &queue) const
-    {
-        const QList<KnownJob> jobs = m_cups->jobs(queue);
-        return jobs.size() == 1 ? jobs.constFirst() : KnownJob();
-    }
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-    }
-    void init()
-    {
-        m_cups = std::make_unique<PrivateCups>();
-        m_cups->start();
-        m_runner = std::make_unique<ProgramRunner>(m_cups->server());
-    }
-    void cleanup()
-    {
-        m_runner.reset();
-        m_cups.reset();
-    }
-
     // Which queue
 
     void theQueueIsTheOneThatTheUserExpects_data()
@@ -134,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(onlyJob(queue).state, IPP_JSTATE_COMPLETED);
         const QByteArray data = m_cups->capture(queue).jobs().value(0).data;
         QCOMPARE(data.count("CorvanaOption(QXMediaType="), qsizetype(1));
-        QVERIFY(data.contains(code("QXMediaType=" + medium)));
+        QVERIFY(data.contains(codeOf("QXMediaType=" + medium)));
     }
 
     void withoutADefaultNothingIsPrintedAndTheRunSaysWhatToDo()
@@ -186,7 +143,7 @@ private Q_SLOTS:
         const KnownJob job = onlyJob(queue);
         QCOMPARE(job.state, IPP_JSTATE_COMPLETED);
         QCOMPARE(end.out, u"Printed on “%1” as job %1-%2.\n"_s.arg(queue).arg(job.id));
-        QVERIFY(m_cups->capture(queue).jobs().value(0).data.contains(code("QXMediaType=Thick")));
+        QVERIFY(m_cups->capture(queue).jobs().value(0).data.contains(codeOf("QXMediaType=Thick")));
         QVERIFY(m_runner->run({u"--list-printers"_s}).out.contains(queue + u'\t'));
     }
 
@@ -198,8 +155,10 @@ private Q_SLOTS:
             m_runner->run({u"-d"_s, u"all"_s, u"-o"_s, u"QXMediaType=Thick"_s, kText});
         QVERIFY2(end.status == 0, end.text().constData());
         QCOMPARE(onlyJob(u"all"_s).state, IPP_JSTATE_COMPLETED);
-        QVERIFY(
-            m_cups->capture(u"office"_s).jobs().value(0).data.contains(code("QXMediaType=Thick")));
+        QVERIFY(m_cups->capture(u"office"_s)
+                    .jobs()
+                    .value(0)
+                    .data.contains(codeOf("QXMediaType=Thick")));
     }
 
     void aRawQueueGetsTheDocumentAsItIs()
@@ -218,7 +177,7 @@ private Q_SLOTS:
         QCOMPARE(onlyJob(u"office"_s).state, IPP_JSTATE_COMPLETED);
         QCOMPARE(pagesOf(job.data), 5);
         QCOMPARE(job.title, u"welcome.pdf and 2 more"_s);
-        QCOMPARE(job.data.count(code("QXMediaType=Thick")), qsizetype(1));
+        QCOMPARE(job.data.count(codeOf("QXMediaType=Thick")), qsizetype(1));
     }
 
     void standardInputIsPrinted()

@@ -1,10 +1,9 @@
 #include <QFile>
 #include <QTest>
 
-#include "tests/e2e/ProgramRunner.h"
+#include "tests/e2e/QueueRuns.h"
 #include "tests/support/cups/Client.h"
 #include "tests/support/cups/FaultyServer.h"
-#include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
@@ -17,57 +16,15 @@ const QString kText = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.t
 constexpr int kInterrupted = 130; // the exit status that shells give to SIGINT
 constexpr int kPatience = 20000;  // milliseconds that a queue may take on a busy machine
 
-QByteArray code(const QByteArray &option)
-{
-    return "CorvanaOption(" + option + ')';
-}
-
 } // namespace
 
 /// Runs without a window whose jobs wait, fail or are broken off: what the run says and ends with,
 /// and what is left at the server.
-class QueueTroubleTest : public QObject
+class QueueTroubleTest : public QueueRuns
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<PrivateCups> m_cups;
-    std::unique_ptr<ProgramRunner> m_runner;
-
-    /// Prints to a queue that has to take it, and answers the only job that its device has got.
-    CapturedJob printed(const QString &queue, const QStringList &arguments)
-    {
-        const RunEnd end = m_runner->run(QStringList{u"-d"_s, queue} + arguments);
-        [&] { QVERIFY2(end.status == 0, end.text().constData()); }();
-        const QList<CapturedJob> jobs = m_cups->capture(queue).jobs();
-        [&] { QCOMPARE(jobs.size(), 1); }();
-        return jobs.value(0);
-    }
-    /// The only job that a queue knows, finished or not.
-    KnownJob onlyJob(const QString &queue) const
-    {
-        const QList<KnownJob> jobs = m_cups->jobs(queue);
-        return jobs.size() == 1 ? jobs.constFirst() : KnownJob();
-    }
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-    }
-    void init()
-    {
-        m_cups = std::make_unique<PrivateCups>();
-        m_cups->start();
-        m_runner = std::make_unique<ProgramRunner>(m_cups->server());
-    }
-    void cleanup()
-    {
-        m_runner.reset();
-        m_cups.reset();
-    }
-
     // Instructions of the panels
 
     void instructionsHoldTheJobAndTheNamedCommandReleasesIt_data()
@@ -109,8 +66,10 @@ private Q_SLOTS:
         QVERIFY(shell.waitForFinished(kPatience));
         QVERIFY2(shell.exitCode() == 0, shell.readAllStandardError().constData());
         QTRY_COMPARE_WITH_TIMEOUT(m_cups->job(job.id).state, IPP_JSTATE_COMPLETED, kPatience);
-        QVERIFY(
-            m_cups->capture(u"office"_s).jobs().value(0).data.contains(code("QXMediaType=Label")));
+        QVERIFY(m_cups->capture(u"office"_s)
+                    .jobs()
+                    .value(0)
+                    .data.contains(codeOf("QXMediaType=Label")));
     }
 
     void theReleaseCommandWorksForEveryName_data()
@@ -140,7 +99,7 @@ private Q_SLOTS:
         m_cups->addQueue(u"office"_s, kPpd);
         const CapturedJob job =
             printed(u"office"_s, {u"--on-alert=print"_s, u"-o"_s, u"QXMediaType=Label"_s, kText});
-        QVERIFY(job.data.contains(code("QXMediaType=Label")));
+        QVERIFY(job.data.contains(codeOf("QXMediaType=Label")));
         QCOMPARE(onlyJob(u"office"_s).state, IPP_JSTATE_COMPLETED);
     }
 
