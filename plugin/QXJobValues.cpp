@@ -189,9 +189,13 @@ QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
     const size_t inForce = effectCountInForce(settings, ppd);
     for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
         ppd_option_t *option = ppdOption(ppd, kEffectKeywords[i]);
-        if (!option)
-            continue;
         const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
+        if (!option) {
+            // As an attribute of the job: a filter of the server's may know what this PPD does not.
+            if (i < inForce)
+                options += JobOption{kEffectKeywords[i], QString::number(value)};
+            continue;
+        }
         const ppd_choice_t *choice = i < inForce ? choiceOfNumber(option, value) : nullptr;
         // A value without a choice is named all the same, so that the host can refuse it.
         QString shown = ppdKeyword(option->defchoice);

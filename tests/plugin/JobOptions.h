@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QTest>
 
 #include "platform/pde/PDEJobValues.h"
@@ -12,6 +13,18 @@ inline char *toString(const JobOption &option)
     return QTest::toString(option.name + u'=' + option.value);
 }
 
+namespace test {
+
+/// "keyword=value" of each.
+inline QStringList valuesOf(const QList<JobOption> &options)
+{
+    QStringList values;
+    for (const JobOption &option : options)
+        values += option.name + u'=' + option.value;
+    return values;
+}
+
+} // namespace test
 } // namespace corvana
 
 Q_DECLARE_METATYPE(corvana::JobOption)

@@ -161,19 +161,31 @@ private Q_SLOTS:
         QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()), expected);
     }
 
-    void anEffectThatThePpdLacksIsLeftOutAndAValueThatItLacksIsNamed()
+    void anEffectThatThePpdLacksIsAnAttributeAndAValueThatItLacksIsNamed()
     {
         const auto host =
             RecordingHost::forPpd(PpdBuilder()
                                       .driverMatchesColors()
                                       .option("QXRed", "Red", "0", {{"0", "0"}, {"+5", "5"}})
                                       .text());
-        host->settings().setValue(kNormalEffect, QVariantList{9, 9, 5, 9, 9, 9});
-        QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()),
-                 (QList<JobOption>{{u"QXRed"_s, u"+5"_s}}));
-        host->settings().setValue(kNormalEffect, QVariantList{9, 9, 6, 9, 9, 9});
-        QCOMPARE(m_values.jobOptions(host->settings(), host->ppd()),
-                 (QList<JobOption>{{u"QXRed"_s, u"6"_s}})); // for the host to refuse
+        const auto withRed = [](const QString &red) {
+            return QStringList{u"QXBrightness=1"_s, u"QXContrast=-2"_s, u"QXRed="_s + red,
+                               u"QXGreen=0"_s,      u"QXBlue=0"_s,      u"QXSaturation=20"_s};
+        };
+        host->settings().setValue(kNormalEffect, QVariantList{1, -2, 5, 0, 99, 20});
+        QCOMPARE(valuesOf(m_values.jobOptions(host->settings(), host->ppd())), withRed(u"+5"_s));
+        host->settings().setValue(kNormalEffect, QVariantList{1, -2, 6, 0, 99, 20});
+        QCOMPARE(valuesOf(m_values.jobOptions(host->settings(), host->ppd())),
+                 withRed(u"6"_s)); // for the host to refuse
+    }
+
+    void anEffectThatIsNotInForceIsNoAttribute()
+    {
+        const auto host = RecordingHost::forPpd(PpdBuilder().driverMatchesColors().text());
+        host->settings().setValue(kMonoEffect, QVariantList{1, 2, 3, 4, 5, 6});
+        host->settings().setValue(u"QXMonoColor"_s, u"Mono"_s);
+        QCOMPARE(valuesOf(m_values.jobOptions(host->settings(), host->ppd())),
+                 (QStringList{u"QXBrightness=1"_s, u"QXContrast=2"_s}));
     }
 
     void onlyASetOfSixIsASet_data()

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "plugin/QXJobValues.h"
+#include "tests/plugin/JobOptions.h"
 #include "tests/support/RecordingHost.h"
 
 using namespace corvana;
@@ -16,17 +17,7 @@ constexpr QLatin1StringView kNormalEffect{"com.corvana.print.PrintSettings.Norma
 constexpr QLatin1StringView kMonoEffect{"com.corvana.print.PrintSettings.MonoEffect"};
 constexpr QLatin1StringView kSleepMode{"com.corvana.print.PrintSettings.sleepmode"};
 
-QStringList valuesOf(const QList<JobOption> &options)
-{
-    QStringList values;
-    for (const JobOption &option : options)
-        values += option.name + u'=' + option.value;
-    return values;
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(corvana::JobOption)
 
 class ValuesInForceTest : public QObject
 {
