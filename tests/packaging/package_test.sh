@@ -95,6 +95,16 @@ theBinariesAreStrippedAndKnowNothingOfTheBuildFolder() {
     done
 }
 
+theBinariesEndAtAnOverrun() {
+    local binary
+    dpkg-deb --extract "$package" root
+    for binary in root/usr/bin/corvana-print root/usr/lib/corvana-print/libcorvana-platform.so.*.* \
+        root/usr/lib/corvana-print/plugins/*/module/*.so; do
+        readelf --dyn-syms --wide "$binary" | grep -q ' __stack_chk_fail@' ||
+            fail "$binary does not guard its stack"
+    done
+}
+
 theManualAndTheChangelogAreCompressed() {
     dpkg-deb --extract "$package" root
     zcat root/usr/share/man/man1/corvana-print.1.gz | grep -q '^\.TH ' || fail 'no manual'
