@@ -4,6 +4,7 @@
 
 #include "dialog/queues/DevicePrinter.h"
 #include "dialog/server/ServerAddress.h"
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 
 namespace corvana {
@@ -12,8 +13,6 @@ namespace {
 
 // The command line is read before there is an application, whose translations would be needed for
 // anything but English.
-constexpr int kMostCopies = 9999;
-
 struct Options
 {
     QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
@@ -139,7 +138,7 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     if (parser.isSet(options.copies)) {
         bool isNumber = false;
         line.copies = parser.value(options.copies).toInt(&isNumber);
-        if (!isNumber || line.copies < 1 || line.copies > kMostCopies) {
+        if (!isNumber || *line.copies < 1 || *line.copies > kMostCopies) {
             return notUnderstood(QStringLiteral("-n %1: a number from 1 to %2 was expected.")
                                      .arg(parser.value(options.copies))
                                      .arg(kMostCopies));

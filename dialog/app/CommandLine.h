@@ -18,8 +18,8 @@ struct CommandLine
     QString ppd;
     QString output;
     QString title;
-    QStringList options; ///< each value of -o
-    int copies = 1;
+    QStringList options;       ///< each value of -o
+    std::optional<int> copies; ///< of -n
     QStringList bundleRoots;
     bool demo = false;
     bool listPrinters = false;

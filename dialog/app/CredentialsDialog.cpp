@@ -17,10 +17,10 @@ CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidge
     auto *text = new QLabel(
         question.forDevice
             ? tr("The printer wants to know who prints. User and password are sent to it through "
-                 "the print server “%1”, and are forgotten when this window closes.")
+                 "the print server “%1”, and are forgotten when the print dialog closes.")
                   .arg(server)
             : tr("The print server “%1” wants to know who prints. User and password are forgotten "
-                 "when this window closes.")
+                 "when the print dialog closes.")
                   .arg(server),
         this);
     text->setTextFormat(Qt::PlainText);

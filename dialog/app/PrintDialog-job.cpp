@@ -40,8 +40,10 @@ void PrintDialog::chooseOutput()
 
 bool PrintDialog::confirmOverwriting(const QString &file)
 {
+    // A name that the dialog has found was free then.
     const bool asked = m_output->text() == m_chosenOutput ||
-                       m_output->text() == QDir::toNativeSeparators(m_request.output);
+                       (m_request.outputWasNamed &&
+                        m_output->text() == QDir::toNativeSeparators(m_request.output));
     if (asked || !QFileInfo::exists(file))
         return true;
     return QMessageBox::question(this, tr("Print to File"),
@@ -69,8 +71,7 @@ void PrintDialog::accept()
         return; // while an alert was waiting for its answer
     updateSilencedAlerts();
     if (m_request.summary)
-        QTextStream(stdout) << summaryText(
-            sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
+        QTextStream(stdout) << summaryText(summary());
     const QStringList problems = jobProblems(*m_printer->session, m_printer->jobValues);
     if (!problems.isEmpty())
         m_message->showMessage(MessageBar::Kind::Problem, problems.join(u'\n'));
@@ -151,7 +152,7 @@ void PrintDialog::startServerJob()
     ServerJobRequest request =
         serverJobRequest(*m_printer, m_source.serverOf(m_chosen), m_request, ticket);
     request.follow = true;
-    request.earlierJob = m_earlierJob;
+    request.earlierJob = m_earlierJobs.value(idOf(m_chosen));
     m_message->dismiss();
     m_serverJob = std::make_unique<ServerJob>();
     connect(m_serverJob.get(), &ServerJob::progressed, this, &PrintDialog::showProgress);
@@ -186,9 +187,9 @@ void PrintDialog::serverJobFinished(const JobOutcome &outcome)
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a
     // number has learnt nothing about an earlier one.
     if (outcome.kind == JobOutcome::Kind::Unknown || outcome.kind == JobOutcome::Kind::InQueue)
-        m_earlierJob = outcome.job;
+        m_earlierJobs.insert(idOf(m_chosen), outcome.job);
     else if (outcome.job > 0)
-        m_earlierJob = 0;
+        m_earlierJobs.remove(idOf(m_chosen));
     if (outcome.isDone()) {
         m_report = outcome.text;
         m_source.rememberUse(m_chosen);
@@ -196,8 +197,11 @@ void PrintDialog::serverJobFinished(const JobOutcome &outcome)
     const bool leaves = std::exchange(m_leaving, false);
     if (outcome.kind == JobOutcome::Kind::Printed || (outcome.isDone() && leaves))
         return QDialog::accept();
-    if (m_interrupted)
+    if (m_interrupted) {
+        if (outcome.kind != JobOutcome::Kind::Canceled || outcome.job > 0)
+            qCWarning(lcPrinting).noquote() << outcome.text;
         return QDialog::reject();
+    }
     switch (outcome.kind) {
     case JobOutcome::Kind::Printed:
         break;
@@ -251,7 +255,10 @@ void PrintDialog::interrupt()
         if (modal == this || !modal->close())
             break;
     }
-    reject();
+    // A job that its queue has is as little canceled by this as by closing the window.
+    leave();
+    if (!m_leaving)
+        reject();
 }
 
 void PrintDialog::reject()

@@ -67,7 +67,6 @@ void PrintDialog::choosePrinter(const Printer &printer)
     closePrinter();
     m_message->dismiss(); // and with it an action that was meant for the other printer
     m_chosen = printer;
-    m_earlierJob = 0;
     m_comesNext.reset();
     m_printable = false;
     m_status->setPrinter(printer);
@@ -221,8 +220,17 @@ void PrintDialog::printersListed()
 {
     m_printers->setPrinters(m_source.printers());
     showListState();
-    if (m_chosenByUser || isPrinting() || !isUntouched() || userIsInTheMidstOfIt())
+    takeExpectedPrinter();
+}
+
+void PrintDialog::takeExpectedPrinter()
+{
+    if (m_chosenByUser || isPrinting() || !isUntouched())
         return;
+    if (userIsInTheMidstOfIt()) { // the list may have nothing more to say afterwards
+        QTimer::singleShot(kPatience, this, &PrintDialog::takeExpectedPrinter);
+        return;
+    }
     // The first printer was there for want of a better one.
     const std::optional<Printer> expected = m_source.expected();
     const bool complete = m_source.queues().state() == QueueList::State::Known;
@@ -254,6 +262,8 @@ void PrintDialog::showListState()
             m_status->setProblem(tr("No answer from “%1” yet.").arg(server.text()), retry);
         return;
     case QueueList::State::Known:
+        if (nothingElse)
+            m_status->setPrinter(m_chosen); // the server has answered
         if (!queues.printers().isEmpty())
             return m_printers->setFooter({});
         m_printers->setFooter(tr("No printers at “%1”.").arg(server.text()));
@@ -289,7 +299,7 @@ bool PrintDialog::isUntouched() const
 {
     if (!m_printer || !m_panelsUp)
         return true;
-    return m_printer->session->snapshot() == m_opened && m_general->copies() == m_request.copies;
+    return m_printer->session->snapshot() == m_opened; // copies and pages go along
 }
 
 // Keeps what the user has set, to set it again when the same printer is opened anew.

@@ -249,7 +249,10 @@ void PrintDialog::closePrinter()
 {
     const QSignalBlocker blocker(m_pages);
     if (m_general) { // both go along to another printer
-        m_request.copies = m_general->copies();
+        if (m_general->copies() != m_openedCopies) {
+            m_request.copies = m_general->copies();
+            m_copiesSet = true;
+        }
         if (m_panelsUp)
             m_pageRanges = m_general->pageRanges();
     }
@@ -268,6 +271,7 @@ void PrintDialog::fillPages()
     const QSignalBlocker blocker(m_pages);
     m_general = new GeneralPage(*m_printer->session);
     m_general->setCopies(m_request.copies);
+    m_openedCopies = m_request.copies;
     m_pages->addTab(m_general, tr("General"));
     connect(m_general, &GeneralPage::proposed, this, &PrintDialog::propose);
     for (const auto &panel : m_printer->panels->panels()) {
@@ -338,7 +342,9 @@ bool PrintDialog::applyRequestedOptions()
     const QString &name = m_printer->printer.name;
     QStringList problems;
     if (const auto kept = m_kept.constFind(idOf(m_printer->printer)); kept != m_kept.constEnd()) {
-        problems = applyWhatFits(kept->options, *m_printer, &m_attributes);
+        const FittedOptions fitted = applyWhatFits(kept->options, *m_printer);
+        problems = fitted.problems;
+        m_attributes = fitted.attributes;
         m_general->setCopies(kept->copies);
         if (!problems.isEmpty())
             m_message->showMessage(
@@ -348,12 +354,16 @@ bool PrintDialog::applyRequestedOptions()
         return true;
     }
     if (m_printer->printer.origin == PrinterOrigin::Queue) {
-        problems = applyWhatFits(readUserQueues().options.value(name), *m_printer, &m_attributes);
-        for (const QString &problem : std::as_const(problems))
+        const FittedOptions fitted =
+            applyWhatFits(readUserQueues().options.value(name), *m_printer);
+        m_attributes = fitted.attributes;
+        takeCopies(fitted.copies);
+        for (const QString &problem : fitted.problems)
             qCWarning(lcDialog).noquote() << "lpoptions:" << problem;
     }
     const OptionOutcome outcome = applyOptions(m_request.options, *m_printer->session,
                                                m_printer->jobValues, *m_printer->panels);
+    takeCopies(outcome.copies);
     for (const JobOption &attribute : outcome.attributes) {
         m_attributes.removeIf([&](const JobOption &a) { return a.name == attribute.name; });
         m_attributes += attribute;
@@ -365,6 +375,15 @@ bool PrintDialog::applyRequestedOptions()
                                   "these:\n%1")
                                    .arg(outcome.problems.join(u'\n')));
     return outcome.ok();
+}
+
+// A number of copies that an option asks for; what the user has set, or named with -n, counts more.
+void PrintDialog::takeCopies(std::optional<int> copies)
+{
+    if (!copies || m_request.copiesWereNamed || m_copiesSet)
+        return;
+    m_general->setCopies(*copies);
+    m_openedCopies = *copies;
 }
 
 void PrintDialog::showPageRanges()
@@ -409,9 +428,18 @@ void PrintDialog::refreshPages()
     if (m_options)
         m_options->refresh();
     if (m_pages->currentWidget() == m_summary)
-        m_summary->setLines(
-            sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies()));
+        m_summary->setLines(summary());
     m_shown = m_printer->session->snapshot();
+}
+
+QList<SummaryLine> PrintDialog::summary()
+{
+    QList<JobOption> attributes = m_attributes;
+    attributes.removeIf(
+        [](const JobOption &attribute) { return attribute.name == kPageRangesAttribute; });
+    if (const QString ranges = m_general->pageRanges(); !ranges.isEmpty())
+        attributes += JobOption{kPageRangesAttribute, ranges};
+    return sessionSummary(*m_printer->session, *m_printer->panels, m_general->copies(), attributes);
 }
 
 void PrintDialog::propose(const QString &keyword, const QString &choice)

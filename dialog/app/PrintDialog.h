@@ -78,6 +78,8 @@ private:
     bool bringUpPanels();
     void showPanelViews();
     bool applyRequestedOptions();
+    void takeCopies(std::optional<int> copies);
+    QList<SummaryLine> summary();
     void showPageRanges();
     void orderFocus();
     void refreshPages();
@@ -110,6 +112,7 @@ private:
     void printerFailed(const QString &problem, const QString &brief);
     void offerQueue(const Printer &printer);
     void printersListed();
+    void takeExpectedPrinter();
     void showListState();
     void openPrinter(const ReadyPrinter &ready);
     void showAsking();
@@ -145,11 +148,13 @@ private:
     std::unique_ptr<OpenedPrinter> m_printer;
     std::optional<ReadyPrinter> m_comesNext; // while the one that is open is in use
     QHash<PrinterId, KeptSettings> m_kept;   // of printers that were open
+    int m_openedCopies = 1;                  // as the printer was opened
+    bool m_copiesSet = false;                // by the user
     std::optional<QString> m_pageRanges;     // as the user left them; they go along like the copies
     std::unique_ptr<FileQueue> m_job;
     std::unique_ptr<ServerJob> m_serverJob;
-    int m_earlierJob = 0;     // sent to the chosen printer, which may print it yet
-    SessionSnapshot m_opened; // what the printer was set to when it was opened
+    QHash<PrinterId, int> m_earlierJobs; // of printers that may print them yet
+    SessionSnapshot m_opened;            // what the printer was set to when it was opened
     QList<JobOption> m_attributes;
     QString m_printedTo;
     QString m_report;

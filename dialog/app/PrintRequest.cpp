@@ -91,7 +91,8 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
                          : line.output;
     request.onAlert = line.onAlert;
     request.noWait = line.noWait;
-    request.copies = line.copies;
+    request.copies = line.copies.value_or(1);
+    request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
     return request;
 }
@@ -108,7 +109,8 @@ int wantedAmongFiles(const PrintRequest &request)
 JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
                      const QString &title, int copies)
 {
-    return {title, copies, jobOptions(*printer.session, printer.jobValues, attributes)};
+    return {title, copies, jobOptions(*printer.session, printer.jobValues, attributes),
+            secretsOf(*printer.session)};
 }
 
 } // namespace corvana

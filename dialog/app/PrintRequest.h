@@ -37,6 +37,7 @@ struct PrintRequest
     QString output;              ///< never empty where there is a document
     bool outputWasNamed = false; ///< so a file is wanted, whatever the printer
     int copies = 1;
+    bool copiesWereNamed = false; ///< by -n, which counts more than any option
     bool summary = false;
     std::optional<AlertPolicy> onAlert; ///< nothing: as suits where the job goes
     bool noWait = false;

@@ -7,7 +7,6 @@
 #include "dialog/queues/DevicePrinter.h"
 #include "dialog/queues/StandardJobOptions.h"
 #include "dialog/queues/UserQueues.h"
-#include "dialog/session/OptionRequest.h"
 
 namespace corvana {
 
@@ -118,22 +117,35 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     return job;
 }
 
-QStringList applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer,
-                          QList<JobOption> *attributes)
+FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
 {
+    QList<JobOption> known;
+    QStringList unknown;
+    for (const JobOption &option : options) {
+        if (isKnownOption(option.name, *printer.session))
+            known += option;
+        else
+            unknown += option.name;
+    }
+    FittedOptions fitted;
+    // All of their names in one line: whoever has set them for another program knows them.
+    if (!unknown.isEmpty())
+        fitted.problems += Texts::tr("This printer has no option of the name %1.")
+                               .arg(unknown.join(QStringLiteral(", ")));
     const auto apply = [&](const QList<JobOption> &some) {
         const OptionOutcome outcome =
             applyOptions(some, *printer.session, printer.jobValues, *printer.panels);
-        *attributes += outcome.attributes;
+        fitted.attributes += outcome.attributes;
+        if (outcome.copies)
+            fitted.copies = outcome.copies;
         return outcome.problems;
     };
-    if (options.isEmpty() || apply(options).isEmpty())
-        return {};
+    if (known.isEmpty() || apply(known).isEmpty())
+        return fitted;
     // Together they cannot be taken, so each for itself, as far as they go.
-    QStringList problems;
-    for (const JobOption &option : options)
-        problems += apply({option});
-    return problems;
+    for (const JobOption &option : std::as_const(known))
+        fitted.problems += apply({option});
+    return fitted;
 }
 
 } // namespace corvana

@@ -10,6 +10,7 @@
 #include "dialog/queues/PpdCache.h"
 #include "dialog/queues/PrinterCapabilities.h"
 #include "dialog/queues/QueueRequests.h"
+#include "dialog/session/OptionRequest.h"
 
 namespace corvana {
 
@@ -44,10 +45,11 @@ std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
 ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,
                                   const PrintRequest &request, const JobTicket &ticket);
 
+/// What became of options of former days. `problems` says each one that was not taken.
+using FittedOptions = OptionOutcome;
+
 /// Takes what the user has set for a queue with lpoptions, or had set before the printer was opened
-/// anew: as much as the printer still has. Answers a message for each option that was not taken;
-/// `attributes` gets those that are no option of the printer's.
-QStringList applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer,
-                          QList<JobOption> *attributes);
+/// anew: as much as the printer still has.
+FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer);
 
 } // namespace corvana

@@ -237,15 +237,23 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
     return termination.caught() ? termination.exitStatus() : 1;
 }
 
+// Who is asked for a password is whoever reads the terminal.
+ServerContext contextWithTerminal(const PrintRequest &request,
+                                  const TerminationSignals &termination)
+{
+    ServerContext server{request.server, CredentialStore::create()};
+    server.credentials->setQuestioner(
+        terminalQuestioner([&termination] { return termination.caught() != 0; }));
+    server.mayAsk = true;
+    return server;
+}
+
 } // namespace
 
 int runUnattended(const PrintRequest &request)
 {
     const TerminationSignals termination;
-    ServerContext server{request.server, CredentialStore::create()};
-    server.credentials->setQuestioner(
-        terminalQuestioner([&termination] { return termination.caught() != 0; }));
-    server.mayAsk = true;
+    ServerContext server = contextWithTerminal(request, termination);
 
     QString error;
     const int file = wantedAmongFiles(request);
@@ -264,19 +272,21 @@ int runUnattended(const PrintRequest &request)
     printer->panels->bringUp();
     if (const QStringList problems = panelProblems(*printer); !problems.isEmpty())
         return refused(problems);
-    QList<JobOption> attributes;
+    FittedOptions fitted;
     if (ready.printer.origin == PrinterOrigin::Queue) {
         // A choice of long ago does not stop a job; what this command line says does.
-        const QStringList stale = applyWhatFits(readUserQueues().options.value(ready.printer.name),
-                                                *printer, &attributes);
-        for (const QString &problem : stale)
+        fitted = applyWhatFits(readUserQueues().options.value(ready.printer.name), *printer);
+        for (const QString &problem : std::as_const(fitted.problems))
             QTextStream(stderr) << "corvana-print: lpoptions: " << problem << "\n";
     }
     const OptionOutcome options =
         applyOptions(request.options, *printer->session, printer->jobValues, *printer->panels);
     if (!options.ok())
         return refused(options.problems);
-    attributes = replaced(attributes, options.attributes);
+    QList<JobOption> attributes = replaced(fitted.attributes, options.attributes);
+    const int copies = request.copiesWereNamed
+                           ? request.copies
+                           : options.copies.value_or(fitted.copies.value_or(request.copies));
 
     const bool printing = !request.documents.isEmpty();
     const bool allowed = !printing || printer->panels->shouldPrint();
@@ -295,14 +305,14 @@ int runUnattended(const PrintRequest &request)
     // Before the ticket: the panels restore and save on the way.
     if (request.summary)
         QTextStream(stdout) << summaryText(
-            sessionSummary(*printer->session, *printer->panels, request.copies));
+            sessionSummary(*printer->session, *printer->panels, copies, attributes));
     const QStringList problems =
         refusalMessages(*printer->session) + jobProblems(*printer->session, printer->jobValues);
     if (!problems.isEmpty())
         return refused(problems);
     if (!printing)
         return 0;
-    const JobTicket ticket = makeTicket(*printer, attributes, request.title, request.copies);
+    const JobTicket ticket = makeTicket(*printer, attributes, request.title, copies);
     return toFile ? printToFile(request, *printer, ticket, termination)
                   : printToServer(request, *printer, ticket, server, held, termination);
 }
@@ -318,15 +328,21 @@ int listPrinters(const PrintRequest &request)
         QList<Printer> queues;
         ServerProblem problem;
     };
-    const auto listed =
-        askServer<Listed>({request.server}, termination, [](ServerConnection &connection) {
-            Listed all;
-            if (!listQueues(connection, [&](const QList<Printer> &page) { all.queues += page; }))
-                all.problem = connection.problem();
-            return all;
-        });
-    for (const Printer &printer : listed.queues)
+    const ServerContext server = contextWithTerminal(request, termination);
+    const auto listed = askServer<Listed>(server, termination, [](ServerConnection &connection) {
+        Listed all;
+        if (!listQueues(connection, [&](const QList<Printer> &page) { all.queues += page; }))
+            all.problem = connection.problem();
+        return all;
+    });
+    const UserQueues user = readUserQueues();
+    for (const Printer &printer : listed.queues) {
         out << printer.name << "\t" << printer.description << "\n";
+        for (const QString &instance : user.instancesOf(printer.name))
+            out << instance << "\t" << printer.description << "\n";
+    }
+    if (termination.caught())
+        return termination.exitStatus();
     if (!listed.problem)
         return 0;
     QTextStream(stderr) << "corvana-print: " << listed.problem.text(request.server) << "\n";

@@ -1,3 +1,6 @@
+#include <pwd.h>
+#include <unistd.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTextStream>
@@ -44,6 +47,27 @@ void choosePlatform(bool needsWindow)
     qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;wayland;offscreen");
 }
 
+// Whatever has no HOME, such as a job of the system's, would keep its files in "/".
+void findHome()
+{
+    if (!qEnvironmentVariableIsEmpty("HOME"))
+        return;
+    if (const passwd *user = ::getpwuid(::geteuid()); user && user->pw_dir)
+        qputenv("HOME", user->pw_dir);
+}
+
+// Qt complains of a missing folder that a program without a window has no use for; cron would send
+// that to its user as a mail, each time.
+void ignoreMissingRuntimeFolder()
+{
+    static QtMessageHandler others = nullptr;
+    others = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+            if (!text.startsWith(QLatin1StringView("QStandardPaths: XDG_RUNTIME_DIR not set")))
+                others(type, context, text);
+        });
+}
+
 bool hasWindows()
 {
     return QGuiApplication::platformName() != QLatin1StringView("offscreen");
@@ -77,9 +101,12 @@ int main(int argc, char **argv)
     }
     const CommandLine &line = *parsed.commandLine;
 
+    findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
     choosePlatform(!unattended || line.checkDisplay);
+    if (unattended)
+        ignoreMissingRuntimeFolder();
     QApplication application(argc, argv);
     QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
     QApplication::setApplicationName(QStringLiteral("corvana-print"));

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -87,6 +88,18 @@ bool isCompletePdf(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && file.seek(qMax(qint64(0), file.size() - kTail)) &&
            file.readAll().contains("%%EOF");
+}
+
+// Gives a file a name that nothing has yet. Errors: false; errno says why.
+bool takeFreeName(const QByteArray &from, const QByteArray &to)
+{
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Not every file system can do that.
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    return ::access(to.constData(), F_OK) != 0 ? std::rename(from.constData(), to.constData()) == 0
+                                               : (errno = EEXIST, false);
 }
 
 // What the filter chain said last of its errors, without its prefix.
@@ -188,6 +201,8 @@ void FileQueue::start(const QList<Document> &documents, const JobTicket &ticket,
     // A link stays a link: the result takes the place of what it leads to.
     const QFileInfo output(outputPath);
     m_outputName = outputPath;
+    m_secrets = ticket.secrets;
+    m_replaces = output.exists();
     m_outputPath = output.exists() ? output.canonicalFilePath() : output.absoluteFilePath();
     const QString problem = prepare(documents, ticket, ppdPath, result);
     if (problem.isEmpty())
@@ -284,7 +299,8 @@ void FileQueue::startNextStep()
     m_process.setProgram(step.program);
     m_process.setArguments(step.arguments);
     m_process.setStandardInputFile(QProcess::nullDevice());
-    qCInfo(lcJob) << m_process.program() << m_process.arguments();
+    qCInfo(lcJob).noquote() << m_process.program()
+                            << withoutSecrets(m_process.arguments().join(u' '), m_secrets);
     m_process.start();
     m_chain = static_cast<pid_t>(m_process.processId());
 }
@@ -324,7 +340,7 @@ void FileQueue::readLog()
 {
     const QByteArray said = m_process.readAllStandardError();
     m_log += said;
-    qCDebug(lcJob).noquote() << said;
+    qCDebug(lcJob).noquote() << withoutSecrets(QString::fromUtf8(said), m_secrets);
     int page = 0;
     const QList<QByteArray> lines = said.split('\n');
     for (const QByteArray &line : lines)
@@ -380,10 +396,16 @@ void FileQueue::stepFinished(int exitCode, QProcess::ExitStatus status)
 // Moves the result to its name. Answers why that failed.
 QString FileQueue::takeResult()
 {
-    ::chmod(QFile::encodeName(m_result->fileName()).constData(), usualPermissions());
-    if (std::rename(QFile::encodeName(m_result->fileName()).constData(),
-                    QFile::encodeName(m_outputPath).constData()) != 0)
+    const QByteArray from = QFile::encodeName(m_result->fileName());
+    const QByteArray to = QFile::encodeName(m_outputPath);
+    ::chmod(from.constData(), usualPermissions());
+    if (m_replaces ? std::rename(from.constData(), to.constData()) != 0 : !takeFreeName(from, to)) {
+        if (errno == EEXIST)
+            return tr("%1 was written by another program meanwhile, and is left as it is. Print "
+                      "again to replace it, or name another file.")
+                .arg(m_outputName);
         return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
+    }
     m_result->setAutoRemove(false);
     return {};
 }

@@ -29,7 +29,9 @@ QString findCupsFilter(QString *error);
 /// into one PDF first, and are one job.
 ///
 /// One object prints one job. The result appears under its name when it is complete, in place of
-/// the file that stood there; until then, and for good after a failure, that is untouched.
+/// the file that stood there when the job began; until then, and for good after a failure, that is
+/// untouched. A file that has appeared there since, from another program or another window, is
+/// nobody's to replace: the job fails.
 /// Thread: GUI thread; the filter chain is a process of its own.
 class FileQueue : public QObject
 {
@@ -102,11 +104,13 @@ private:
     std::vector<Step> m_steps; // the current one first
     std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<QTemporaryFile> m_result;
-    QFile m_output;       // of the current step; closed where it writes a file of its own
-    QString m_writeError; // why that could not be written
-    QByteArray m_log;     // of the current step
-    QString m_outputName; // as it was given, for messages
+    QFile m_output;        // of the current step; closed where it writes a file of its own
+    QString m_writeError;  // why that could not be written
+    QStringList m_secrets; // what its options hold, and no log may
+    QByteArray m_log;      // of the current step
+    QString m_outputName;  // as it was given, for messages
     QString m_outputPath;
+    bool m_replaces = false; // a file that stood there at the beginning
     QString m_problem;
     bool m_done = false;
     bool m_canceled = false;

@@ -8,6 +8,7 @@
 
 #include "dialog/pages/CustomPaperSize.h"
 #include "dialog/session/CustomValue.h"
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
@@ -19,7 +20,6 @@
 namespace corvana {
 
 namespace {
-constexpr int kMostCopies = 9999;
 }
 
 GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)

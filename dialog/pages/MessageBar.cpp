@@ -56,7 +56,8 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
     m_text->setText(text);
-    m_action->setText(actionText);
+    // Names of printers and choices may hold "&", which a button takes for an accelerator.
+    m_action->setText(QString(actionText).replace(u'&', QStringLiteral("&&")));
     m_action->setVisible(!actionText.isEmpty());
     m_do = action;
     show();

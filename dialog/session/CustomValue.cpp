@@ -164,6 +164,12 @@ std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword
                         QString::number(parameter->maximum.custom_string)};
 }
 
+bool isSecret(ppd_file_t *ppd, const QString &keyword)
+{
+    const auto limits = customLimits(ppd, keyword);
+    return limits && limits->kind == CustomLimits::Kind::HiddenText;
+}
+
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
 {
     if (keyword == kPageSizeOption)

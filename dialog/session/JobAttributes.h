@@ -5,21 +5,41 @@
 #include <QString>
 #include <QStringList>
 
+#include "platform/pde/PDEJobValues.h"
+
 namespace corvana {
 
 /// A job attribute that users of `lp` know: it is no option of the PPD and goes to CUPS as it is.
 struct JobAttribute
 {
     QLatin1StringView name;
+    /// What the summary calls it; to be translated in the context "JobAttributes".
+    const char *title;
     /// The values that are taken, in words for a message.
     QLatin1StringView allowed;
     bool (*accepts)(const QString &value);
 };
+
+/// The most copies that can be asked for.
+inline constexpr int kMostCopies = 9999;
 
 /// The attribute of that name, or null.
 const JobAttribute *jobAttribute(const QString &name);
 
 /// The names of all attributes, for a message.
 QStringList jobAttributeNames();
+
+/// Title and value of an attribute, translated, for the summary.
+struct JobAttributeText
+{
+    QString title;
+    QString value;
+};
+/// Errors: the name and the value themselves, of what is no attribute.
+JobAttributeText textOfJobAttribute(const JobOption &attribute);
+
+/// An option of `lp` that is another spelling of an attribute, as that attribute ("landscape" is
+/// "orientation-requested=4"); any other option as it is.
+JobOption inOneSpelling(const JobOption &option);
 
 } // namespace corvana

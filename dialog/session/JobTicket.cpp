@@ -4,6 +4,7 @@
 
 #include <QLoggingCategory>
 
+#include "dialog/session/CustomValue.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 
@@ -51,6 +52,27 @@ QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobVa
         options += JobOption{keyword, custom.isNull() ? marked : custom};
     }
     return options + own + attributes;
+}
+
+QStringList secretsOf(const PpdSession &session)
+{
+    QStringList secrets;
+    for (const ppd_option_t *option : session.options()) {
+        const QString keyword = ppdKeyword(option->keyword);
+        const QString custom = session.customValue(keyword);
+        if (!custom.isEmpty() && isSecret(session.ppd(), keyword))
+            secrets += custom.mid(kCustomPrefix.size());
+    }
+    return secrets;
+}
+
+QString withoutSecrets(QString text, const QStringList &secrets)
+{
+    for (const QString &secret : secrets) {
+        if (!secret.isEmpty())
+            text.replace(secret, QString(kHiddenLength, u'•'));
+    }
+    return text;
 }
 
 QStringList optionsWithoutValue(const PpdSession &session, const PDEJobValues *jobValues)

@@ -16,6 +16,8 @@ struct JobTicket
     QString title;
     int copies = 1; ///< Range: 1 and more
     QList<JobOption> options;
+    /// Passwords and PINs among the values, which no log may hold.
+    QStringList secrets{};
 
     bool operator==(const JobTicket &) const = default;
 };
@@ -25,6 +27,13 @@ struct JobTicket
 /// `jobValues` may be null.
 QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobValues,
                             const QList<JobOption> &attributes);
+
+/// The custom values of a session that are nobody else's business: what the PPD calls a password or
+/// a passcode.
+QStringList secretsOf(const PpdSession &session);
+
+/// A text with dots in the place of each secret.
+QString withoutSecrets(QString text, const QStringList &secrets);
 
 /// Options that are marked "Custom" while nobody has given them a value: jobOptions() leaves them
 /// out, and such a job must not be printed.

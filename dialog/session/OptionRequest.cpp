@@ -47,6 +47,16 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
     return allowed.join(QStringLiteral(", "));
 }
 
+// Names of lp's for what the printer, or the dialog, has another one.
+constexpr QLatin1StringView kMediaOption{"media"};
+constexpr QLatin1StringView kSidesOption{"sides"};
+constexpr QLatin1StringView kCopiesOption{"copies"};
+
+QStringList translatedOptions()
+{
+    return {kMediaOption, kSidesOption, kCopiesOption};
+}
+
 // The PPD's page size for a media name: its own keyword, or a standard name of the same size.
 QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
 {
@@ -87,13 +97,17 @@ public:
     QList<OptionChoice> choices;  // for the PPD
     QList<JobOption> panelValues; // for the plug-in
     QList<JobOption> attributes;  // for CUPS
+    std::optional<int> copies;
 
-    void add(const JobOption &option)
+    void add(const JobOption &given)
     {
-        if (option.name == QLatin1StringView("media"))
+        const JobOption option = inOneSpelling(given);
+        if (option.name == kMediaOption)
             addMedia(option);
-        else if (option.name == QLatin1StringView("sides"))
+        else if (option.name == kSidesOption)
             addSides(option);
+        else if (option.name == kCopiesOption)
+            addCopies(option);
         else if (addPanelValue(option) || addChoice(option, option.name) || addAttribute(option))
             return;
         else
@@ -105,7 +119,10 @@ public:
 private:
     void refuse(const JobOption &option, const QString &why)
     {
-        problems += QStringLiteral("%1: %2").arg(asked(option), why);
+        // A password that is refused is still one.
+        const bool secret = isSecret(m_session.ppd(), option.name);
+        const JobOption shown{option.name, secret ? QString(kHiddenLength, u'•') : option.value};
+        problems += QStringLiteral("%1: %2").arg(asked(shown), why);
     }
 
     void refuseValue(const JobOption &option, const QString &allowed)
@@ -123,9 +140,7 @@ private:
 
     static QString attributeNames()
     {
-        // The first two are translated into options of the printer.
-        return (QStringList{QStringLiteral("media"), QStringLiteral("sides")} + jobAttributeNames())
-            .join(QStringLiteral(", "));
+        return (translatedOptions() + jobAttributeNames()).join(QStringLiteral(", "));
     }
 
     void addMedia(const JobOption &option)
@@ -171,6 +186,16 @@ private:
             return;
         }
         refuseValue(option, allowed.join(QStringLiteral(", ")));
+    }
+
+    void addCopies(const JobOption &option)
+    {
+        bool isNumber = false;
+        const int number = option.value.toInt(&isNumber);
+        if (isNumber && number >= 1 && number <= kMostCopies)
+            copies = number;
+        else
+            refuseValue(option, Texts::tr("1 to %1").arg(kMostCopies));
     }
 
     // A trial on a copy of the entries: nothing is written before everything has been checked.
@@ -270,6 +295,12 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
     return problems;
 }
 
+bool isKnownOption(const QString &name, const PpdSession &session)
+{
+    return ppdOption(session.ppd(), name) || translatedOptions().contains(name) ||
+           jobAttribute(inOneSpelling({name, QStringLiteral("true")}).name);
+}
+
 bool isWellFormed(const QString &argument)
 {
     // cupsParseOptions() stops silently where it understands no more; then it never comes to an
@@ -329,13 +360,13 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     for (const JobOption &option : requested)
         request.add(option);
     if (!request.problems.isEmpty())
-        return {request.problems, {}};
+        return {request.problems, {}, {}};
 
-    OptionOutcome outcome{{}, request.attributes};
+    OptionOutcome outcome{{}, request.attributes, request.copies};
     for (const Refusal &conflict : session.changeTogether(request.choices))
         outcome.problems += conflictMessage(conflict);
     if (!outcome.ok())
-        return {outcome.problems, {}};
+        return {outcome.problems, {}, {}};
     // A new paper makes the panels propose a medium for it; what was asked for comes after that.
     panels.deliverPending();
     for (const Refusal &conflict : session.changeTogether(request.choices))
@@ -360,6 +391,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
         outcome.problems = differences(expected, session, jobValues);
     if (!outcome.ok()) {
         outcome.attributes.clear();
+        outcome.copies.reset();
         session.restore(before);
         panels.deliverPending(); // the former paper is judged again, and a medium proposed for it
         session.restore(before);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -25,6 +27,8 @@ struct OptionOutcome
     /// Those that are no option of the printer's and go into the job as they are; none when there
     /// are problems.
     QList<JobOption> attributes;
+    /// How many copies were asked for by an option; nothing when there are problems.
+    std::optional<int> copies{};
 
     bool ok() const { return problems.isEmpty(); }
 };
@@ -37,6 +41,9 @@ struct OptionOutcome
 /// `jobValues` may be null, for a printer without panels.
 OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &session,
                            const PDEJobValues *jobValues, PanelHost &panels);
+
+/// Whether the printer, its panels or CUPS know an option of that name at all.
+bool isKnownOption(const QString &name, const PpdSession &session);
 
 /// Whether an argument of `-o` can be read to its end; one without any option can.
 bool isWellFormed(const QString &argument);

@@ -4,18 +4,21 @@
 #include <QLocale>
 
 #include "dialog/session/CustomValue.h"
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "platform/pde/PDEPanel.h"
 
 namespace corvana {
 
 namespace {
 
-constexpr int kHiddenLength = 6; // whatever the password has: its length is a part of it
-
-bool isHidden(const PpdSession &session, const QString &keyword)
+// What a panel tells of itself, or leaves out because it does not apply.
+QStringList keywordsOfPanels(PanelHost &panels)
 {
-    const auto limits = customLimits(session.ppd(), keyword);
-    return limits && limits->kind == CustomLimits::Kind::HiddenText;
+    QStringList keywords;
+    for (const auto &panel : panels.panels())
+        keywords += panel->supportedPPDOptionKeys().value_or(QStringList());
+    return keywords;
 }
 
 } // namespace
@@ -53,7 +56,7 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
                                     : QCoreApplication::translate("Summary", "%1 × %2 mm");
         if (keyword == kPageSizeOption)
             value = form.arg(length(paper.width), length(paper.height));
-        else if (isHidden(session, keyword))
+        else if (isSecret(session.ppd(), keyword))
             value = QString(kHiddenLength, u'•');
         else
             value = custom.mid(kCustomPrefix.size());
@@ -61,7 +64,8 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
     return {ppdText(option->text).value_or(keyword), value};
 }
 
-QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies)
+QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
+                                  const QList<JobOption> &attributes)
 {
     // The panels first: they restore and save on the way, which may change a mark.
     const QList<SummaryLine> panelLines = panels.summary();
@@ -72,12 +76,16 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
         if (!line.title.isEmpty())
             lines += line;
     }
-    if (!panels.panels().isEmpty())
-        return lines + panelLines;
+    for (const JobOption &attribute : attributes) {
+        const JobAttributeText text = textOfJobAttribute(attribute);
+        lines += SummaryLine{text.title, text.value};
+    }
+    lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.
+    const QStringList told = keywordsOfPanels(panels);
     for (const ppd_option_t *option : furtherOptions(session)) {
-        if (const QString keyword = ppdKeyword(option->keyword);
-            session.differsFromDefault(keyword))
+        const QString keyword = ppdKeyword(option->keyword);
+        if (!told.contains(keyword) && session.differsFromDefault(keyword))
             lines += optionLine(session, keyword);
     }
     return lines;

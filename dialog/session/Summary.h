@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "dialog/session/PanelHost.h"
+#include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
 
@@ -18,9 +19,11 @@ QList<ppd_option_t *> furtherOptions(const PpdSession &session);
 /// Passwords are not shown.
 SummaryLine optionLine(const PpdSession &session, const QString &keyword);
 
-/// The whole summary in display order: copies, the options of the General page, the panels; without
-/// panels those of the other options that differ from the printer's defaults.
-QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies);
+/// The whole summary in display order: copies, the options of the General page, the job's
+/// attributes, the panels, and those of the options that no panel has and that differ from the
+/// printer's defaults.
+QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
+                                  const QList<JobOption> &attributes);
 
 /// The summary as "Title: Value" lines.
 QString summaryText(const QList<SummaryLine> &lines);

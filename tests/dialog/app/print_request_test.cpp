@@ -48,6 +48,7 @@ private Q_SLOTS:
         QCOMPARE(request.output, QDir::current().absoluteFilePath(u"notes.v2.ps"_s));
         QCOMPARE(request.documents.value(0).format, u"text/plain"_s);
         QCOMPARE(request.copies, 1);
+        QVERIFY(!request.copiesWereNamed);
     }
 
     void aNameThatIsTakenIsNotTakenAgain()
@@ -72,6 +73,7 @@ private Q_SLOTS:
         QCOMPARE(request.title, u"Title"_s);
         QCOMPARE(request.output, u"elsewhere.ps"_s);
         QCOMPARE(request.copies, 7);
+        QVERIFY(request.copiesWereNamed);
         QVERIFY(request.summary);
         QCOMPARE(request.options,
                  (QList<JobOption>{{u"number-up"_s, u"2"_s}, {u"QXMediaType"_s, u"Thick"_s}}));

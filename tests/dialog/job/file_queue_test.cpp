@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -68,6 +69,45 @@ private Q_SLOTS:
         QCOMPARE(printed(filter), QString());
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("printed\n"));
         QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    void aFileThatStandsThereAtTheBeginningIsReplaced()
+    {
+        const FakeFilter filter("echo printed\n");
+        QFile existing(filter.output());
+        QVERIFY(existing.open(QIODevice::WriteOnly));
+        existing.write("former\n");
+        existing.close();
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("printed\n"));
+    }
+
+    void aFileThatHasAppearedMeanwhileIsNot()
+    {
+        const FakeFilter filter("echo theirs > $DIR/out.ps; echo printed\n");
+        const QString problem = printed(filter);
+        QVERIFY2(problem.contains(u"out.ps was written by another program"_s), qPrintable(problem));
+        QCOMPARE(filter.content(u"out.ps"_s), QByteArray("theirs\n"));
+        QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    void theLogHoldsNoSecrets()
+    {
+        const FakeFilter filter("echo \"DEBUG: told $*\" >&2; echo printed\n");
+        QLoggingCategory::setFilterRules(u"corvana.dialog.job=true"_s);
+        static QStringList said;
+        said.clear();
+        const auto former = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &text) { said += text; });
+        const QString problem =
+            printed(filter, {u"Title"_s, 1, {{u"Pin"_s, u"Custom.geheim 99"_s}}, {u"geheim 99"_s}},
+                    filter.output());
+        qInstallMessageHandler(former);
+        QLoggingCategory::setFilterRules({});
+        QCOMPARE(problem, QString());
+        const QString all = said.join(u'\n');
+        QVERIFY2(all.contains(u"Pin="_s) && all.contains(u"DEBUG: told"_s), qPrintable(all));
+        QVERIFY2(!all.contains(u"geheim"_s), qPrintable(all));
     }
 
     void theChainIsToldTheWholeJob()

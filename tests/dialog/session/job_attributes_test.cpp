@@ -20,6 +20,12 @@ const QList<Samples> &samples()
         {u"number-up"_s,
          {u"1"_s, u"2"_s, u"4"_s, u"6"_s, u"9"_s, u"16"_s},
          {QString(), u"0"_s, u"3"_s, u"8"_s, u"-2"_s, u"02"_s, u"2 "_s, u"2\n"_s, u"two"_s}},
+        {u"number-up-layout"_s,
+         {u"lrtb"_s, u"tbrl"_s},
+         {QString(), u"ltrb"_s, u"LRTB"_s, u"lrtb "_s}},
+        {u"page-border"_s,
+         {u"none"_s, u"single"_s, u"double-thick"_s},
+         {QString(), u"thick"_s, u"None"_s}},
         {u"page-ranges"_s,
          {u"1"_s, u"1-4"_s, u"1-4,7,9-"_s, u"-3"_s, u"3-3"_s, u"2,4,6"_s, u"999999999"_s,
           u"5-999999999"_s},
@@ -45,6 +51,7 @@ const QList<Samples> &samples()
           u"0-4"_s,
           u"-0"_s,
           u"１"_s}},
+        {u"page-set"_s, {u"all"_s, u"even"_s, u"odd"_s}, {QString(), u"Even"_s, u"none"_s}},
         {u"orientation-requested"_s,
          {u"3"_s, u"4"_s, u"5"_s, u"6"_s},
          {QString(), u"2"_s, u"7"_s, u"portrait"_s, u"03"_s}},
@@ -54,9 +61,22 @@ const QList<Samples> &samples()
         {u"print-scaling"_s,
          {u"auto"_s, u"auto-fit"_s, u"fill"_s, u"fit"_s, u"none"_s},
          {QString(), u"Fit"_s, u"100"_s}},
+        {u"scaling"_s, {u"1"_s, u"100"_s, u"800"_s}, {QString(), u"0"_s, u"801"_s, u"50.5"_s}},
+        {u"natural-scaling"_s, {u"1"_s, u"800"_s}, {QString(), u"0"_s, u"-1"_s, u"50%"_s}},
+        {u"ppi"_s, {u"1"_s, u"9600"_s}, {QString(), u"0"_s, u"9601"_s, u"99999999999"_s}},
+        {u"position"_s, {u"center"_s, u"bottom-right"_s}, {QString(), u"middle"_s}},
+        {u"mirror"_s, {u"true"_s, u"false"_s}, {QString(), u"yes"_s}},
+        {u"page-left"_s, {u"0"_s, u"36"_s, u"28.35"_s, u"9999"_s}, {QString(), u"-1"_s, u"1cm"_s}},
+        {u"page-right"_s, {u"36"_s}, {QString(), u"10000"_s}},
+        {u"page-top"_s, {u"36"_s}, {QString(), u"3,5"_s}},
+        {u"page-bottom"_s, {u"36"_s}, {QString(), u"36\n"_s}},
+        {u"cpi"_s, {u"1"_s, u"12"_s, u"16.5"_s, u"100"_s}, {QString(), u"0"_s, u"0.5"_s, u"101"_s}},
+        {u"lpi"_s, {u"6"_s, u"8"_s}, {QString(), u"0"_s, u"six"_s}},
+        {u"columns"_s, {u"1"_s, u"3"_s}, {QString(), u"0"_s, u"1.5"_s, u"101"_s}},
+        {u"wrap"_s, {u"true"_s, u"false"_s}, {QString(), u"0"_s}},
+        {u"prettyprint"_s, {u"true"_s, u"false"_s}, {QString(), u"on"_s}},
         {u"collate"_s, {u"true"_s, u"false"_s}, {QString(), u"FALSE"_s, u"no"_s}},
         {u"outputorder"_s, {u"normal"_s, u"reverse"_s}, {QString(), u"Normal"_s, u"backwards"_s}},
-        {u"page-set"_s, {u"all"_s, u"even"_s, u"odd"_s}, {QString(), u"Even"_s, u"none"_s}},
         {u"job-hold-until"_s,
          {u"no-hold"_s, u"indefinite"_s, u"day-time"_s, u"evening"_s, u"night"_s, u"second-shift"_s,
           u"third-shift"_s, u"weekend"_s, u"00:00"_s, u"7:05"_s, u"23:59"_s, u"12:30:59"_s},
@@ -70,6 +90,9 @@ const QList<Samples> &samples()
          {u"none"_s, u"standard"_s, u"standard,none"_s, u"my-banner_1.2"_s},
          {QString(), u"a,b,c"_s, u",none"_s, u"none,"_s, u"two words"_s, u"../etc/passwd"_s,
           u"standard\n"_s}},
+        {u"job-billing"_s,
+         {u"Accounts 12"_s, u"経理"_s, QString(255, u'x')},
+         {QString(), QString(256, u'x'), QString(100, u'経'), u"a\nb"_s}},
     };
     return all;
 }
@@ -90,6 +113,7 @@ private Q_SLOTS:
         for (const QString &name : jobAttributeNames()) {
             QVERIFY(jobAttribute(name));
             QVERIFY(!jobAttribute(name)->allowed.isEmpty());
+            QVERIFY(!textOfJobAttribute({name, u"1"_s}).title.isEmpty());
         }
     }
 
@@ -131,6 +155,49 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QVERIFY(!jobAttribute(name));
+    }
+
+    void theSummaryCallsThemInWords_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("a number") << u"number-up"_s << u"4"_s << u"Pages per Sheet: 4"_s;
+        QTest::newRow("on") << u"collate"_s << u"true"_s << u"Collate: On"_s;
+        QTest::newRow("a number that nobody knows")
+            << u"orientation-requested"_s << u"4"_s << u"Orientation: Landscape"_s;
+        QTest::newRow("such a number of another attribute")
+            << u"job-priority"_s << u"4"_s << u"Priority: 4"_s;
+        QTest::newRow("no attribute") << u"staple"_s << u"true"_s << u"staple: true"_s;
+    }
+    void theSummaryCallsThemInWords()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        const JobAttributeText text = textOfJobAttribute({name, value});
+        QTEST(u"%1: %2"_s.arg(text.title, text.value), "shown");
+    }
+
+    void olderSpellings_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("meant");
+        const auto row = [](const QString &name, const QString &value, const QString &meant) {
+            QTest::newRow(qPrintable(name + u'=' + value)) << name << value << meant;
+        };
+        row(u"landscape"_s, u"true"_s, u"orientation-requested=4"_s);
+        row(u"landscape"_s, u"false"_s, u"orientation-requested=3"_s);
+        row(u"landscape"_s, u"perhaps"_s, u"landscape=perhaps"_s);
+        row(u"fitplot"_s, u"true"_s, u"fit-to-page=true"_s);
+        row(u"number-up"_s, u"2"_s, u"number-up=2"_s);
+    }
+    void olderSpellings()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        const JobOption option = inOneSpelling({name, value});
+        QTEST(option.name + u'=' + option.value, "meant");
     }
 };
 

@@ -55,6 +55,17 @@ private Q_SLOTS:
             QVERIFY(option.name != u"QXSleepTime"_s);
     }
 
+    void thePasswordsOfASessionAreItsSecrets()
+    {
+        const auto session = sessionFor(officePrinter());
+        QVERIFY(secretsOf(*session).isEmpty());
+        session->change(u"Pin"_s, u"Custom.4711"_s, Origin::Dialog);
+        session->change(u"PageSize"_s, u"Custom.300x400"_s, Origin::Dialog);
+        QCOMPARE(secretsOf(*session), QStringList(u"4711"_s));
+        QCOMPARE(withoutSecrets(u"-o Pin=Custom.4711 4711"_s, secretsOf(*session)),
+                 u"-o Pin=Custom.•••••• ••••••"_s);
+    }
+
     void aPanelsOwnValueTakesThePlaceOfTheMarkItStandsFor()
     {
         const auto session = sessionFor(

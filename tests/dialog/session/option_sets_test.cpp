@@ -64,6 +64,37 @@ private Q_SLOTS:
         QCOMPARE(m_session->snapshot(), before);
     }
 
+    void copiesAreNoOptionOfThePrinters()
+    {
+        const OptionOutcome outcome = apply({u"copies=12 Tray=Lower"_s});
+        QVERIFY(outcome.ok());
+        QCOMPARE(outcome.copies, std::optional(12));
+        QVERIFY(outcome.attributes.isEmpty());
+    }
+
+    void aNumberOfCopiesThatCannotBeTakenIsToldWithTheRange_data()
+    {
+        QTest::addColumn<QString>("copies");
+        for (const QString &bad : {u"0"_s, u"-1"_s, u"10000"_s, u"two"_s, u"1.5"_s})
+            QTest::newRow(qPrintable(bad)) << bad;
+    }
+    void aNumberOfCopiesThatCannotBeTakenIsToldWithTheRange()
+    {
+        QFETCH(QString, copies);
+        const OptionOutcome outcome = apply({u"Tray=Lower copies=%1"_s.arg(copies)});
+        QVERIFY(!outcome.copies);
+        QCOMPARE(outcome.problems.size(), 1);
+        QVERIFY2(outcome.problems.constFirst().contains(u"1 to 9999"_s),
+                 qPrintable(outcome.problems.constFirst()));
+        QCOMPARE(m_session->markedChoice(u"Tray"_s), u"Upper"_s);
+    }
+
+    void landscapeIsAnOrientation()
+    {
+        QCOMPARE(apply({u"landscape"_s}).attributes,
+                 (QList<JobOption>{{u"orientation-requested"_s, u"4"_s}}));
+    }
+
     void aConflictOnTheWayDoesNotMatter()
     {
         QVERIFY(apply({u"Duplex=DuplexTumble"_s}).ok());

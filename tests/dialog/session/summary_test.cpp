@@ -27,7 +27,7 @@ private Q_SLOTS:
         PanelHost panels(*session, &plugIn, m_presenter);
         plugIn.panels.at(0)->summaryLines = {{u"Media"_s, u"Plain Paper"_s}};
         plugIn.panels.at(1)->summaryLines = {{u"Color"_s, u"Vivid"_s}};
-        QCOMPARE(sessionSummary(*session, panels, 3),
+        QCOMPARE(sessionSummary(*session, panels, 3, {}),
                  (QList<SummaryLine>{{u"Copies"_s, u"3"_s},
                                      {u"Two-Sided"_s, u"Short Edge"_s},
                                      {u"Paper Size"_s, u"A4"_s},
@@ -41,7 +41,7 @@ private Q_SLOTS:
     {
         const auto session = sessionFor(PpdBuilder());
         PanelHost panels(*session, nullptr, m_presenter);
-        QCOMPARE(sessionSummary(*session, panels, 1),
+        QCOMPARE(sessionSummary(*session, panels, 1, {}),
                  (QList<SummaryLine>{{u"Copies"_s, u"1"_s}, {u"Paper Size"_s, u"A4"_s}}));
     }
 
@@ -49,12 +49,38 @@ private Q_SLOTS:
     {
         const auto session = sessionFor(smallPrinter());
         PanelHost panels(*session, nullptr, m_presenter);
-        const QList<SummaryLine> before = sessionSummary(*session, panels, 1);
+        const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
         session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
         session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
         QCOMPARE(
-            sessionSummary(*session, panels, 1),
+            sessionSummary(*session, panels, 1, {}),
             (before + QList<SummaryLine>{{u"Tray"_s, u"Lower Tray"_s}, {u"Boost"_s, u"On"_s}}));
+    }
+
+    void whatNoPanelHasIsToldWhenItDiffersFromTheDefault()
+    {
+        const auto session = sessionFor(smallPrinter());
+        FakePlugIn plugIn({u"A"_s, u"B"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->supported = QStringList{u"Tray"_s};
+        plugIn.panels.at(0)->summaryLines = {{u"Paper From"_s, u"Below"_s}};
+        const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
+        session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
+        session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
+        QCOMPARE(sessionSummary(*session, panels, 1, {}),
+                 (before + QList<SummaryLine>{{u"Boost"_s, u"On"_s}}));
+    }
+
+    void theAttributesOfTheJobAreTold()
+    {
+        const auto session = sessionFor(PpdBuilder());
+        PanelHost panels(*session, nullptr, m_presenter);
+        QCOMPARE(sessionSummary(*session, panels, 1,
+                                {{u"page-ranges"_s, u"1-4"_s}, {u"outputorder"_s, u"reverse"_s}}),
+                 (QList<SummaryLine>{{u"Copies"_s, u"1"_s},
+                                     {u"Paper Size"_s, u"A4"_s},
+                                     {u"Pages"_s, u"1-4"_s},
+                                     {u"Output Order"_s, u"Last Page First"_s}}));
     }
 
     void aPasswordIsNotTold()
@@ -80,7 +106,7 @@ private Q_SLOTS:
         PanelHost panels(*session, &plugIn, m_presenter);
         FakePanel &panel = *plugIn.panels.at(0);
         panel.inside.insert(u"summary"_s, [&] { panel.propose(u"Duplex"_s, u"DuplexTumble"_s); });
-        const QList<SummaryLine> lines = sessionSummary(*session, panels, 1);
+        const QList<SummaryLine> lines = sessionSummary(*session, panels, 1, {});
         QVERIFY(lines.contains({u"Two-Sided"_s, u"Short Edge"_s}));
     }
 

@@ -38,6 +38,8 @@ public:
     /// What summaryInfo() answers: title and value, in display order.
     QList<std::pair<QString, QString>> summaryLines;
     bool hasView = true;
+    /// What supportedPPDOptionKeys() answers.
+    std::optional<QStringList> supported{};
 
     /// Asks the host for a change, as a panel does for its user or for a rule. The host's answer.
     bool propose(const QString &keyword, const QString &choice);
@@ -51,7 +53,7 @@ public:
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     QVariantMap summaryInfo() override;
-    std::optional<QStringList> supportedPPDOptionKeys() override { return std::nullopt; }
+    std::optional<QStringList> supportedPPDOptionKeys() override { return supported; }
     void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,
                                               const QString &choice) override;
     bool shouldPrint() override;
