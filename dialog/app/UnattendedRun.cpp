@@ -105,14 +105,25 @@ struct FoundDefault
 };
 
 // For somebody who has mistyped the name of one that needs no server.
-QString otherPrinters(const PrintRequest &request)
+QString withOtherPrinters(const QString &problem, const PrintRequest &request)
 {
     QStringList names;
     for (const Printer &printer : request.printers)
         names += printer.name;
-    return names.isEmpty() ? QString()
-                           : u' ' + Texts::tr("Printers that need no print server: %1.")
-                                        .arg(names.join(QStringLiteral(", ")));
+    return names.isEmpty() ? problem
+                           : Texts::tr("%1 Printers that need no print server: %2.")
+                                 .arg(problem, names.join(QStringLiteral(", ")));
+}
+
+// Whole texts, because not every language has a blank between two sentences.
+QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &server)
+{
+    const bool away = problem && problem.kind != ServerProblem::Kind::NotFound;
+    return away ? Texts::tr("There is no default printer. %1 Name a printer with -d, or a PPD with "
+                            "--ppd FILE, or try the sample printers with --demo.")
+                      .arg(problem.text(server))
+                : Texts::tr("There is no default printer. Name a printer with -d, or a PPD with "
+                            "--ppd FILE, or try the sample printers with --demo.");
 }
 
 // Finds the queue that is wanted and fetches its PPD. Errors: an empty `ppdPath`.
@@ -132,11 +143,7 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
             return {};
         }
         if (found.name.isEmpty()) {
-            const bool away = found.problem && found.problem.kind != ServerProblem::Kind::NotFound;
-            *error =
-                Texts::tr("There is no default printer.%1 Name a printer with -d, or a PPD with "
-                          "--ppd FILE, or try the sample printers with --demo.")
-                    .arg(away ? u' ' + found.problem.text(server->address) : QString());
+            *error = noDefaultPrinter(found.problem, server->address);
             return {};
         }
         name = found.name;
@@ -154,12 +161,13 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         return {};
     }
     if (details.state == QueueDetails::Ppd::Unknown) {
-        *error = details.problem.kind == ServerProblem::Kind::NotFound
-                     ? Texts::tr("There is no printer \"%1\" at the print server \"%2\".")
-                           .arg(name, server->address.text())
-                     : Texts::tr("%1 So the printer \"%2\" could not be asked for.")
-                           .arg(details.problem.text(server->address), name);
-        *error += otherPrinters(request);
+        *error = withOtherPrinters(
+            details.problem.kind == ServerProblem::Kind::NotFound
+                ? Texts::tr("There is no printer \"%1\" at the print server \"%2\".")
+                      .arg(name, server->address.text())
+                : Texts::tr("%1 So the printer \"%2\" could not be asked for.")
+                      .arg(details.problem.text(server->address), name),
+            request);
         return {};
     }
     ReadyPrinter ready = readyPrinter(details, cache, server->address, error);

@@ -52,13 +52,11 @@ public:
             return failed(Texts::tr("The printer “%1” wants a user and a password; none was given. "
                                     "Nothing was printed.")
                               .arg(printerName()));
+        const QString token = newJobToken();
         const std::optional<int> job =
-            createJob(*m_connection, m_request.printer, m_request.ticket, forDevice);
-        if (!job) {
-            if (m_worker.isCanceled())
-                return outcome(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
-            return failed(notCreated());
-        }
+            createJob(*m_connection, m_request.printer, m_request.ticket, token, forDevice);
+        if (!job)
+            return withdrawNumberless(token);
         m_job = *job;
         return sendAndFollow();
     }
@@ -86,9 +84,9 @@ private:
     QString whatIsWrong() const { return m_connection->problem().text(m_worker.context().address); }
 
     // A connection that no cancellation touches, for what has to be put in order.
-    ServerConnection &another()
+    ServerConnection &another() { return another(m_worker.context()); }
+    ServerConnection &another(ServerContext context)
     {
-        ServerContext context = m_worker.context();
         context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
         context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
         m_another = std::make_unique<ServerConnection>(context, nullptr);
@@ -100,16 +98,50 @@ private:
     QString notCreated() const
     {
         const ServerProblem &problem = m_connection->problem();
-        if (!problem) // an answer without a number
-            return Texts::tr("The print server did not say which job it has made. Nothing was "
-                             "printed.");
         if (problem.kind == ServerProblem::Kind::NotFound)
             return Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
                 .arg(printerName());
         if (problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
             return Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
                 .arg(printerName());
-        return Texts::tr("%1 Nothing was printed.").arg(whatIsWrong());
+        return nothingPrinted(whatIsWrong());
+    }
+
+    static QString nothingPrinted(const QString &why)
+    {
+        return Texts::tr("%1 Nothing was printed.").arg(why);
+    }
+
+    // Takes back a job that the server may have made without its number getting here. It has no
+    // document, but would stand in the queue until its server gives it up.
+    JobOutcome withdrawNumberless(const QString &token)
+    {
+        const ServerProblem &problem = m_connection->problem();
+        const bool canceled = m_worker.isCanceled();
+        const auto kind = canceled ? JobOutcome::Kind::Canceled : JobOutcome::Kind::Failed;
+        const bool mayBeThere =
+            m_connection->requestWasSent() &&
+            (!problem || problem.mayPass() || problem.kind == ServerProblem::Kind::Canceled);
+        if (!mayBeThere)
+            return outcome(kind, canceled ? Texts::tr("Printing was canceled.") : notCreated());
+        QString why = whatIsWrong();
+        if (canceled)
+            why = Texts::tr("Printing was canceled.");
+        else if (!problem)
+            why = Texts::tr("The print server did not say which job it has made.");
+        // Nobody is asked for a password to look for what may not be there.
+        ServerContext context = m_worker.context();
+        context.mayAsk = false;
+        const std::optional<int> job = findJob(another(context), m_request.printer, token);
+        if (!job)
+            return outcome(kind, Texts::tr("%1 Nothing was printed, but a job without a document "
+                                           "may be at the print server. It could not be looked "
+                                           "for: %2")
+                                     .arg(why, m_another->problem().text(context.address)));
+        if (*job == 0)
+            return outcome(kind, canceled ? why : nothingPrinted(why));
+        m_job = *job;
+        return withdraw(kind, why);
     }
 
     std::optional<JobOutcome> whyNotToSend()
@@ -123,19 +155,13 @@ private:
             const bool mayPrint = earlier && (earlier->state == IPP_JSTATE_COMPLETED ||
                                               (!earlier->isOver() && earlier->documents != 0));
             if (mayPrint)
-                return JobOutcome{
-                    JobOutcome::Kind::AlreadyThere, m_request.earlierJob,
-                    earlier->state == IPP_JSTATE_COMPLETED
-                        ? Texts::tr("Job %1 of the earlier try has been printed.")
-                              .arg(m_request.earlierJob)
-                        : Texts::tr(
-                              "Job %1 of the earlier try is in the queue and will be printed.")
-                              .arg(m_request.earlierJob)};
+                return JobOutcome{JobOutcome::Kind::AlreadyThere, m_request.earlierJob,
+                                  whereTheEarlierJobIs(*earlier).arg(m_request.earlierJob)};
         }
         if (m_request.ppdLastModified == 0)
             return std::nullopt;
         const QueueDetails now =
-            inspectQueue(*m_connection, m_request.printer, m_request.ppdLastModified);
+            lookForNewPpd(*m_connection, m_request.printer, m_request.ppdLastModified);
         switch (now.state) {
         case QueueDetails::Ppd::Unchanged:
             return std::nullopt;
@@ -154,6 +180,15 @@ private:
         if (m_worker.isCanceled())
             return outcome(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
         return failed(notCreated());
+    }
+
+    static QString whereTheEarlierJobIs(const JobStatus &job)
+    {
+        if (job.state == IPP_JSTATE_COMPLETED)
+            return Texts::tr("Job %1 of the earlier try has been printed.");
+        if (job.state == IPP_JSTATE_HELD)
+            return Texts::tr("Job %1 of the earlier try is held in the queue.");
+        return Texts::tr("Job %1 of the earlier try is in the queue and will be printed.");
     }
 
     QByteArray openedPpd() const

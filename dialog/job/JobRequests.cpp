@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QIODevice>
+#include <QUuid>
 
 #include "dialog/queues/QueueRequests.h"
 
@@ -13,6 +14,11 @@ namespace {
 
 // IPP's limit for names and keywords, which CUPS applies to options of printers. Units: bytes.
 constexpr qsizetype kLongestValue = 255;
+
+// Servers keep attributes that they do not know, and printers ignore them. A URI is none of the
+// options that CUPS hands to filters, so that what is printed does not depend on it.
+constexpr auto kTokenAttribute = "corvana-job-token";
+constexpr ipp_tag_t kTokenType = IPP_TAG_URI;
 
 // As many bytes as a name may have, without a character cut in two.
 QString withinLimit(QString text)
@@ -97,8 +103,14 @@ QString unsendableOption(const JobTicket &ticket)
     return {};
 }
 
+QString newJobToken()
+{
+    return QStringLiteral("urn:uuid:") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
 std::optional<int> createJob(ServerConnection &connection, const Printer &printer,
-                             const JobTicket &ticket, const std::optional<Credentials> &forDevice)
+                             const JobTicket &ticket, const QString &token,
+                             const std::optional<Credentials> &forDevice)
 {
     IppMessage request = newIppRequest(IPP_OP_CREATE_JOB, printer.uri);
     addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name",
@@ -126,11 +138,44 @@ std::optional<int> createJob(ServerConnection &connection, const Printer &printe
                       static_cast<int>(pointers.size()), nullptr, pointers.constData());
     }
     options.encode(request.get(), IPP_TAG_JOB);
+    addIppString(request.get(), IPP_TAG_JOB, kTokenType, kTokenAttribute, token);
     const IppMessage response = connection.request(std::move(request), resourceOf(printer));
     if (!response)
         return std::nullopt;
     const int job = ippNumber(ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER));
     return job > 0 ? std::optional(job) : std::nullopt;
+}
+
+std::optional<int> findJob(ServerConnection &connection, const Printer &printer,
+                           const QString &token)
+{
+    IppMessage request = newIppRequest(IPP_OP_GET_JOBS, printer.uri);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr,
+                 "not-completed");
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "my-jobs", 1);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
+                   {"job-id", kTokenAttribute});
+    const IppMessage response = connection.request(std::move(request), resourceOf(printer));
+    if (!response)
+        return std::nullopt;
+    int job = 0;
+    bool isOurs = false;
+    for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute;
+         attribute = ippNextAttribute(response.get())) {
+        // What has no name stands between two jobs.
+        const QLatin1StringView name(ippGetName(attribute));
+        if (name.isEmpty()) {
+            job = 0;
+            isOurs = false;
+        } else if (name == QLatin1StringView("job-id")) {
+            job = ippNumber(attribute);
+        } else if (name == QLatin1StringView(kTokenAttribute)) {
+            isOurs = ippText(attribute) == token;
+        }
+        if (isOurs && job > 0)
+            return job;
+    }
+    return 0;
 }
 
 bool sendDocument(ServerConnection &connection, const Printer &printer, int job,

@@ -32,10 +32,20 @@ struct JobStatus
 /// nothing is in the way.
 QString unsendableOption(const JobTicket &ticket);
 
+/// A name for one job that no other has, by which it can be found before its number is known.
+QString newJobToken();
+
 /// Creates a job without its document. Answers its number.
 /// Errors: nothing; the connection's problem() says why.
 std::optional<int> createJob(ServerConnection &connection, const Printer &printer,
-                             const JobTicket &ticket, const std::optional<Credentials> &forDevice);
+                             const JobTicket &ticket, const QString &token,
+                             const std::optional<Credentials> &forDevice);
+
+/// Looks for the job with this token among those of the user's that are not over. Answers its
+/// number, 0 when there is none.
+/// Errors: nothing; the connection's problem() says why.
+std::optional<int> findJob(ServerConnection &connection, const Printer &printer,
+                           const QString &token);
 
 /// Sends the document of a job, its only one. Errors: false.
 bool sendDocument(ServerConnection &connection, const Printer &printer, int job,

@@ -55,6 +55,43 @@ QByteArray ppdResource(const QString &queue)
     return "/printers/" + queue.toUtf8() + ".ppd";
 }
 
+IppMessage askPrinter(ServerConnection &connection, const Printer &printer,
+                      const QList<const char *> &attributes)
+{
+    IppMessage request = newIppRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer.uri);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes", attributes);
+    return connection.request(std::move(request), resourceOf(printer));
+}
+
+// A class prints with the options of its first member.
+QString firstMember(ipp_t *response)
+{
+    return ippText(ippFindAttribute(response, "member-names", IPP_TAG_NAME));
+}
+
+void fetchPpd(ServerConnection &connection, const QString &owner, qint64 modifiedSince,
+              QueueDetails *details)
+{
+    const ServerConnection::File file = connection.get(ppdResource(owner), modifiedSince);
+    details->lastModified = file.lastModified;
+    switch (file.state) {
+    case ServerConnection::File::State::Failed:
+        details->state = QueueDetails::Ppd::Unknown;
+        details->problem = connection.problem();
+        break;
+    case ServerConnection::File::State::Missing:
+        details->state = QueueDetails::Ppd::None;
+        break;
+    case ServerConnection::File::State::Unchanged:
+        details->state = QueueDetails::Ppd::Unchanged;
+        break;
+    case ServerConnection::File::State::Read:
+        details->state = QueueDetails::Ppd::New;
+        details->ppd = file.content;
+        break;
+    }
+}
+
 } // namespace
 
 Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next)
@@ -157,10 +194,7 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
 {
     QueueDetails details;
     details.printer = printer;
-    IppMessage request = newIppRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer.uri);
-    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
-                   {"all", "media-col-database"});
-    const IppMessage response = connection.request(std::move(request), resourceOf(printer));
+    const IppMessage response = askPrinter(connection, printer, {"all", "media-col-database"});
     if (!response) {
         details.problem = connection.problem();
         return details;
@@ -185,27 +219,31 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
         details.state = QueueDetails::Ppd::None;
         return details;
     }
-    // A class prints with the options of its first member.
-    const QString owner =
-        now.isClass ? ippText(ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME))
-                    : queueOfInstance(printer.name);
-    const ServerConnection::File file = connection.get(ppdResource(owner), modifiedSince);
-    details.lastModified = file.lastModified;
-    switch (file.state) {
-    case ServerConnection::File::State::Failed:
-        details.problem = connection.problem();
-        break;
-    case ServerConnection::File::State::Missing:
-        details.state = QueueDetails::Ppd::None;
-        break;
-    case ServerConnection::File::State::Unchanged:
-        details.state = QueueDetails::Ppd::Unchanged;
-        break;
-    case ServerConnection::File::State::Read:
-        details.state = QueueDetails::Ppd::New;
-        details.ppd = file.content;
-        break;
+    fetchPpd(connection, now.isClass ? firstMember(response.get()) : queueOfInstance(printer.name),
+             modifiedSince, &details);
+    return details;
+}
+
+QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
+                           qint64 modifiedSince)
+{
+    QueueDetails details;
+    details.printer = printer;
+    if (!printer.isClass) {
+        fetchPpd(connection, queueOfInstance(printer.name), modifiedSince, &details);
+        if (details.state != QueueDetails::Ppd::None)
+            return details;
     }
+    // A class, which nobody may have known it to be, or a queue that is not there.
+    const IppMessage response = askPrinter(connection, printer, {"printer-name", "member-names"});
+    if (!response) {
+        details.state = QueueDetails::Ppd::Unknown;
+        details.problem = connection.problem();
+        return details;
+    }
+    details.state = QueueDetails::Ppd::None;
+    if (const QString member = firstMember(response.get()); !member.isEmpty())
+        fetchPpd(connection, member, modifiedSince, &details);
     return details;
 }
 

@@ -47,6 +47,12 @@ struct QueueDetails
 QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
                           qint64 modifiedSince);
 
+/// Looks only whether the PPD of a queue has changed since `modifiedSince`: of the answer `state`,
+/// `ppd`, `lastModified` and `problem` are of use. The problem is `NotFound` for a queue that is
+/// not there any more.
+QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
+                           qint64 modifiedSince);
+
 /// The path of a printer's requests at its server, not escaped: libcups does that.
 QByteArray resourceOf(const Printer &printer);
 

@@ -224,6 +224,7 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
 {
     prepare();
     m_documentSent = false;
+    m_requestSent = false;
     qCDebug(lcServer) << ippOpString(ippGetOperation(message.get())) << resource;
     for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
         if (isCanceled()) {
@@ -241,6 +242,7 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
         if (document)
             length += static_cast<size_t>(document->size());
         ippSetState(message.get(), IPP_STATE_IDLE);
+        m_requestSent = true;
         http_status_t status = cupsSendRequest(m_http, message.get(), resource.constData(), length);
         // libcups goes over to TLS, and to a new connection, by itself.
         if ((status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) && !keepsOnlyTrusted())
@@ -412,7 +414,9 @@ ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 
             }
             return file;
         }
-        httpFlush(m_http);
+        // Behind what is no answer, nothing can be expected to end.
+        if (status != HTTP_STATUS_ERROR)
+            httpFlush(m_http);
         if (status == HTTP_STATUS_NOT_MODIFIED)
             return {File::State::Unchanged, {}, modifiedSince};
         if (status == HTTP_STATUS_NOT_FOUND)

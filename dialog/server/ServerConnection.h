@@ -82,6 +82,8 @@ public:
     /// Whether the complete document had been sent when the last request failed: then the server
     /// may have done what it was asked for, without its answer getting here.
     bool documentWasSent() const { return m_documentSent; }
+    /// Whether the server may have got the last request at all: there was a connection for it.
+    bool requestWasSent() const { return m_requestSent; }
 
 private:
     void prepare();
@@ -114,6 +116,7 @@ private:
     bool m_passwordGiven = false;
     bool m_timedOut = false;
     bool m_documentSent = false;
+    bool m_requestSent = false;
 };
 
 } // namespace corvana

@@ -11,7 +11,6 @@ namespace corvana::test {
 namespace {
 /// How long a server is waited for. Units: seconds.
 constexpr auto kPatience = "2";
-constexpr int kDocumentSize = 600000; // bytes
 } // namespace
 
 UserFolders::UserFolders()
@@ -36,13 +35,13 @@ QString UserFolders::write(const QString &name, const QByteArray &content) const
     return file.fileName();
 }
 
-QString UserFolders::longDocument() const
+QString UserFolders::longDocument(const QString &name, int size) const
 {
     const QString page = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.ps");
     const QByteArray comment = "% A long document.\n";
     QByteArray document = contentOf(page);
-    document.insert(document.indexOf("gsave"), comment.repeated(kDocumentSize / comment.size()));
-    return write(QStringLiteral("document.ps"), document);
+    document.insert(document.indexOf("gsave"), comment.repeated(size / comment.size()));
+    return write(name, document);
 }
 
 QByteArray contentOf(const QString &path)

@@ -27,8 +27,9 @@ public:
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
     /// Writes a file and answers its path. Errors: throws std::runtime_error.
     QString write(const QString &name, const QByteArray &content) const;
-    /// A page of PostScript that is longer than what is sent in one piece.
-    QString longDocument() const;
+    /// Writes a page of PostScript that is longer than what is sent in one piece. Units: bytes.
+    QString longDocument(const QString &name = QStringLiteral("document.ps"),
+                         int size = 600000) const;
 
 private:
     QTemporaryDir m_folder;

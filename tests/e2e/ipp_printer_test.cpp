@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "tests/e2e/ProgramRunner.h"
+#include "tests/support/cups/FaultyServer.h"
 #include "tests/support/cups/IppEvePrinter.h"
 #include "tests/support/cups/PrivateCups.h"
 
@@ -143,6 +144,46 @@ private Q_SLOTS:
         QCOMPARE(end.out, u"Printed on “everywhere” as job everywhere-1.\n"_s);
         QCOMPARE(printer.documents(), QList{contentOf(kPages)});
         QVERIFY(jobValue(printer, "job-name").contains(u"Übersicht"_s));
+    }
+
+    void aQueueForEverywherePrintsOnIt()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        const IppEvePrinter printer;
+        PrivateCups cups;
+        cups.start();
+        cups.addEverywhereQueue(u"everywhere"_s, printer.uri());
+        const ProgramRunner runner(cups.server());
+        const RunEnd list = runner.run({u"--list-printers"_s});
+        QVERIFY2(list.out.startsWith(u"everywhere\t"_s), list.text().constData());
+        const RunEnd end = runner.run({u"-d"_s, u"everywhere"_s, u"-t"_s, u"Übersicht"_s, u"-n"_s,
+                                       u"2"_s, u"-o"_s, u"PageSize=Legal"_s, kPages});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(end.out, u"Printed on “everywhere” as job everywhere-1.\n"_s);
+        QCOMPARE(printer.documents().size(), 1);
+        QVERIFY(printer.documents().constFirst().startsWith("%PDF-"));
+        QCOMPARE(jobValue(printer, "job-state"), u"completed"_s);
+        QCOMPARE(jobValue(printer, "job-name"), u"Übersicht"_s);
+        QCOMPARE(jobValue(printer, "copies"), u"2"_s);
+        const QString paper = jobValue(printer, "media-col");
+        QVERIFY2(paper.contains(u"x-dimension=21590"_s) && paper.contains(u"y-dimension=35560"_s),
+                 qUtf8Printable(paper));
+    }
+
+    void aJobWhoseNumberNeverComesIsTakenBack()
+    {
+        const IppEvePrinter printer;
+        FaultyServer between(printer.port());
+        between.closeBeforeResponse(IPP_OP_CREATE_JOB);
+        ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        runner.setVariable(u"CORVANA_PRINT_PATIENCE"_s, u"2"_s);
+        const RunEnd end =
+            runner.run({u"-d"_s, u"ipp://localhost:%1/ipp/print"_s.arg(between.port()), kPages});
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.err.contains(u"was canceled; nothing was printed."_s), end.text().constData());
+        QCOMPARE(jobValue(printer, "job-state"), u"canceled"_s);
+        QVERIFY(printer.documents().isEmpty());
     }
 
     void aQueueWithThePanelsOptionsPrintsOnIt()

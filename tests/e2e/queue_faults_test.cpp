@@ -1,11 +1,8 @@
-#include <algorithm>
-#include <functional>
 #include <optional>
 
-#include <QRegularExpression>
 #include <QTest>
 
-#include "tests/e2e/QueueScene.h"
+#include "tests/e2e/QueueFaults.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -13,38 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a fault may add to the longest time for which the window does not react. Units:
-/// milliseconds.
-constexpr qint64 kTolerance = 100 * kSlowdown;
-/// Of the document's 600000; so both parts are several blocks. Units: bytes.
-constexpr qint64 kPartOfDocument = 200000;
-
-using States = QList<int>;
 using Scene = QueueScene;
-using Act = std::function<void(Scene &)>;
+using Fault = QueueFault;
+using States = QueueFault::States;
 
-/// A fault that meets somebody who prints, and what becomes of it.
-struct Fault
-{
-    QByteArray ppd{}; ///< of the queue; empty: the sample printer's
-    /// How the device behind the queue behaves.
-    std::function<void(CaptureDevice &)> device{};
-    Act arrange{}; ///< when the window is ready, before Print is pressed
-    /// Then something happens in the midst of it.
-    std::function<bool(Scene &)> when{};
-    Act strike{};
-    QString says{};      ///< expression that the whole message matches, or the report
-    bool closes = false; ///< printed: the window is gone
-    States jobs{};       ///< at the server
-    int documents = 0;   ///< that the printer got
-    Act mend = [](Scene &scene) { scene.mend(); };
-    QString saysAgain{}; ///< after Print was pressed once more; empty: it is not
-    bool closesAgain = true;
-    States jobsAgain{};
-    int documentsAgain = 0;
-    bool severalDocuments = false;
-};
-
+constexpr qint64 kPartOfDocument = FaultPlayer::partOfDocument;
 const QString kNothingPrinted = u"Nothing was printed\\."_s;
 const QString kPrintedAs = u"Printed on “office” as job office-%1\\."_s;
 
@@ -57,120 +27,18 @@ class QueueFaultsTest : public QObject
     Q_OBJECT
 
 private:
-    struct Gaps
-    {
-        qint64 opening = 0;
-        qint64 printing = 0;
-    };
-
-    std::optional<UserFolders> m_folders;
-    QString m_document;
-    Gaps m_usual; // without any fault
-    Gaps m_gaps;  // of the scene that was played last
-
-    /// Plays a fault from the opening of the window to the second try.
-    void play(const Fault &fault)
-    {
-        Scene scene;
-        if (fault.device)
-            fault.device(scene.device);
-        scene.addQueue(fault.ppd.isEmpty() ? samplePpdPath(u"corvana-cl5"_s)
-                                           : m_folders->write(u"queue.ppd"_s, fault.ppd));
-        scene.open(fault.severalDocuments ? QStringList{m_document, m_document}
-                                          : QStringList{m_document});
-        QueueDriver &window = *scene.window;
-        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        window.changeSettings();
-        m_gaps.opening = window.heart().takeLargestGap();
-
-        if (fault.arrange)
-            fault.arrange(scene);
-        const QStringList settings = window.settings();
-        window.heart().takeLargestGap();
-        QVERIFY(window.press("print"));
-        QVERIFY(!fault.strike == !fault.when);
-        if (fault.strike) {
-            QVERIFY2(window.waitUntil([&] { return fault.when(scene); }),
-                     qPrintable(window.message() + window.progress()));
-            fault.strike(scene);
-        }
-        QVERIFY(window.waitForTheEnd());
-        verifyEnd(scene, fault.says, fault.closes, fault.jobs, fault.documents);
-        if (fault.closes || QTest::currentTestFailed())
-            return keepGaps(scene);
-        QCOMPARE(window.settings(), settings);
-
-        fault.mend(scene);
-        if (fault.saysAgain.isEmpty())
-            return keepGaps(scene);
-        QVERIFY(window.press("print"));
-        QVERIFY(window.waitForTheEnd());
-        verifyEnd(scene, fault.saysAgain, fault.closesAgain, fault.jobsAgain, fault.documentsAgain);
-        if (!fault.closesAgain)
-            QCOMPARE(window.settings(), settings);
-        keepGaps(scene);
-    }
-
-    void keepGaps(Scene &scene) { m_gaps.printing = scene.window->heart().takeLargestGap(); }
-
-    static void verifyEnd(Scene &scene, const QString &says, bool closes, const States &jobs,
-                          int documents)
-    {
-        PrintDialog &dialog = scene.window->dialog();
-        const QString said = dialog.isVisible() ? scene.window->message() : dialog.report();
-        QVERIFY2(matches(said, says), qPrintable(said));
-        QCOMPARE(dialog.isVisible(), !closes);
-        QCOMPARE(dialog.printedTo(), QString());
-        if (scene.cups.isRunning())
-            QTRY_COMPARE(scene.states(), jobs);
-        const auto arrived = [&] {
-            const QList<CapturedJob> captured = scene.device.jobs();
-            return int(std::count_if(captured.begin(), captured.end(),
-                                     [](const CapturedJob &job) { return !job.data.isEmpty(); }));
-        };
-        QTRY_COMPARE(arrived(), documents);
-        static const QRegularExpression printed(u"Printed on|earlier try has been printed"_s);
-        const bool claimed = printed.match(said + dialog.report()).hasMatch();
-        QVERIFY2(!claimed || scene.states().contains(IPP_JSTATE_COMPLETED), qPrintable(said));
-    }
-
-    bool isSmooth() const
-    {
-        return m_gaps.opening <= m_usual.opening + kTolerance &&
-               m_gaps.printing <= m_usual.printing + kTolerance;
-    }
-
-    /// On a machine that others use as well, one long gap proves nothing; two do.
-    void playSmoothly(const std::function<void()> &scene)
-    {
-        for (int attempt = 0; attempt < 2; ++attempt) {
-            m_gaps = {};
-            scene();
-            if (QTest::currentTestFailed() || isSmooth())
-                return;
-            qInfo("gaps of %lld and %lld ms, usually %lld and %lld", m_gaps.opening,
-                  m_gaps.printing, m_usual.opening, m_usual.printing);
-        }
-        QVERIFY2(isSmooth(), "the window did not react for a while");
-    }
+    std::optional<FaultPlayer> m_player;
 
 private Q_SLOTS:
     void initTestCase()
     {
         if (!PrivateCups::isAvailable())
             QSKIP("no CUPS server here");
-        m_folders.emplace();
-        m_document = m_folders->longDocument();
-        const Fault none{.says = kPrintedAs.arg(1),
-                         .closes = true,
-                         .jobs = {IPP_JSTATE_COMPLETED},
-                         .documents = 1};
-        // The first time everything is read from the disk.
-        play(none);
-        play(none);
-        m_usual = m_gaps;
-        QVERIFY(m_usual.opening > 0 && m_usual.printing > 0);
-        qInfo("usual gaps: %lld and %lld ms", m_usual.opening, m_usual.printing);
+        m_player.emplace();
+        m_player->learnTheUsual({.says = kPrintedAs.arg(1),
+                                 .closes = true,
+                                 .jobs = {IPP_JSTATE_COMPLETED},
+                                 .documents = 1});
     }
 
     void aFailedJobLeavesEverythingInPlace_data()
@@ -226,16 +94,37 @@ private Q_SLOTS:
         fault.saysAgain = {};
         QTest::newRow("queue deleted") << fault;
 
-        // The job was made, but its number never came: it stays without a document.
+        // The job was made, but its number never came.
+        const QString takenBack = u"Job office-1 was canceled; nothing was printed\\."_s;
         fault = unsent;
         fault.arrange = [](Scene &scene) { scene.between.swallowResponse(IPP_OP_CREATE_JOB, 1); };
-        fault.says = server + u"does not answer\\. "_s + kNothingPrinted;
-        fault.jobs = {IPP_JSTATE_HELD};
+        fault.says = server + u"does not answer\\. "_s + takenBack;
+        fault.jobs = {IPP_JSTATE_CANCELED};
         fault.saysAgain = kPrintedAs.arg(2);
-        fault.jobsAgain = {IPP_JSTATE_HELD, IPP_JSTATE_COMPLETED};
+        fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
         QTest::newRow("silent when the job was made") << fault;
 
+        fault.arrange = [](Scene &scene) {
+            scene.between.closeBeforeResponse(IPP_OP_CREATE_JOB, 1);
+        };
+        fault.says = server + u"broke the connection\\. "_s + takenBack;
+        QTest::newRow("hangs up when the job was made") << fault;
+
+        fault.arrange = [](Scene &scene) {
+            scene.between.closeBeforeResponse(IPP_OP_CREATE_JOB, 1);
+            scene.between.answerHttp(HTTP_STATUS_SERVICE_UNAVAILABLE, IPP_OP_GET_JOBS);
+        };
+        fault.says = server + u"broke the connection\\. Nothing was printed, but a job without a "
+                              "document may be at the print server\\. It could not be looked for: "
+                              ".+"_s;
+        fault.jobs = {IPP_JSTATE_HELD};
+        fault.jobsAgain = {IPP_JSTATE_HELD, IPP_JSTATE_COMPLETED};
+        QTest::newRow("gone when the job was made") << fault;
+
         fault = unsent;
+        fault.jobs = {IPP_JSTATE_CANCELED};
+        fault.saysAgain = kPrintedAs.arg(2);
+        fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
         fault.arrange = [](Scene &scene) {
             scene.between.closeAfterDocumentBytes(kPartOfDocument, IPP_OP_SEND_DOCUMENT, 1);
         };
@@ -263,7 +152,7 @@ private Q_SLOTS:
     void aFailedJobLeavesEverythingInPlace()
     {
         QFETCH(Fault, fault);
-        playSmoothly([&] { play(fault); });
+        m_player->play(fault);
     }
 
     void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne_data()
@@ -344,7 +233,37 @@ private Q_SLOTS:
     void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne()
     {
         QFETCH(Fault, fault);
-        playSmoothly([&] { play(fault); });
+        m_player->play(fault);
+    }
+
+    void aServerThatCrashesInTheMidstOfTheDocumentPrintsItOnce_data()
+    {
+        QTest::addColumn<Fault>("fault");
+        Fault killed;
+        killed.arrange = [](Scene &scene) {
+            scene.between.stallInDocument(kPartOfDocument, IPP_OP_SEND_DOCUMENT, 1);
+        };
+        killed.when = [](Scene &scene) { return scene.between.faultsMade() > 0; };
+        killed.strike = [](Scene &scene) { scene.cups.kill(); };
+        killed.mend = [](Scene &scene) { scene.cups.start(); };
+        const QString broke =
+            u"The print server “127\\.0\\.0\\.1:[0-9]+” broke the connection\\. "_s;
+        killed.says = broke +
+                      u"The document had been sent, so job office-1 may be printed or not\\. "
+                      "Printing again looks for it first\\."_s;
+        killed.saysAgain = kPrintedAs.arg(2);
+        killed.jobsAgain = {IPP_JSTATE_HELD, IPP_JSTATE_COMPLETED};
+        killed.documentsAgain = 1;
+        QTest::newRow("while all of it is on its way") << killed;
+        killed.sends = Fault::Sends::LargeDocument;
+        killed.says = broke + u"Job office-1 may still be at the print server, without its whole "
+                              "document\\. It could not be canceled: .+"_s;
+        QTest::newRow("before all of it is on its way") << killed;
+    }
+    void aServerThatCrashesInTheMidstOfTheDocumentPrintsItOnce()
+    {
+        QFETCH(Fault, fault);
+        m_player->play(fault);
     }
 
     void anotherCopyIsPrintedOnRequest()
@@ -352,7 +271,7 @@ private Q_SLOTS:
         Scene scene;
         scene.device.waitAtEnd();
         scene.addQueue();
-        scene.open({m_document});
+        scene.open({m_player->document()});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         scene.between.swallowResponse(IPP_OP_SEND_DOCUMENT);
@@ -367,7 +286,8 @@ private Q_SLOTS:
         QCOMPARE(scene.cups.jobs().size(), 1);
         QVERIFY(window.press("messageAction"));
         QVERIFY(window.waitForTheEnd());
-        verifyEnd(scene, kPrintedAs.arg(2), true, {IPP_JSTATE_COMPLETED, IPP_JSTATE_COMPLETED}, 2);
+        FaultPlayer::verifyEnd(scene, kPrintedAs.arg(2), true,
+                               {IPP_JSTATE_COMPLETED, IPP_JSTATE_COMPLETED}, 2);
     }
 
     void whatThePrinterDoesWithTheJobIsSaid_data()
@@ -397,7 +317,7 @@ private Q_SLOTS:
         fault.says = u"Job office-1 is held in the queue “office”\\..*"_s;
         fault.jobs = {IPP_JSTATE_HELD};
         fault.documents = 1;
-        fault.saysAgain = u"Job 1 of the earlier try is in the queue and will be printed\\."_s;
+        fault.saysAgain = u"Job 1 of the earlier try is held in the queue\\."_s;
         fault.closesAgain = false;
         fault.jobsAgain = {IPP_JSTATE_HELD};
         fault.documentsAgain = 1;
@@ -446,127 +366,7 @@ private Q_SLOTS:
     void whatThePrinterDoesWithTheJobIsSaid()
     {
         QFETCH(Fault, fault);
-        playSmoothly([&] { play(fault); });
-    }
-
-    void printingIsCanceledAtEveryStage_data()
-    {
-        QTest::addColumn<Fault>("fault");
-        const auto cancel = [](Scene &scene) { QVERIFY(scene.window->press("cancel")); };
-        const auto progress = [](const QString &text) {
-            return [text](Scene &scene) { return scene.window->progress().startsWith(text); };
-        };
-        const auto waitAtPages = [](CaptureDevice &device) { device.pages(2).waitAtPages(); };
-        const auto mend = [](Scene &scene) {
-            scene.device.release(u"all"_s);
-            scene.mend();
-        };
-        const QString mayComeOut =
-            u"Printing was canceled\\. Job office-1 was canceled; pages that "
-            "the printer has already may still come out\\."_s;
-
-        Fault fault{.when = progress(u"Preparing"_s), .strike = cancel};
-        fault.severalDocuments = true;
-        fault.says = u".*[Cc]ancel.*"_s;
-        fault.saysAgain = kPrintedAs.arg(1);
-        fault.jobsAgain = {IPP_JSTATE_COMPLETED};
-        fault.documentsAgain = 1;
-        QTest::newRow("preparing") << fault;
-
-        fault.severalDocuments = false;
-        fault.arrange = [](Scene &scene) { scene.fallSilent(); };
-        fault.when = progress(u"Asking the print server"_s);
-        fault.says = u"Printing was canceled\\."_s;
-        fault.mend = mend;
-        QTest::newRow("while the server is silent") << fault;
-
-        fault = {.device = waitAtPages, .strike = cancel};
-        fault.arrange = [](Scene &scene) { scene.between.delayResponse(IPP_OP_SEND_DOCUMENT, 1); };
-        fault.when = [](Scene &scene) { return scene.device.hasReached(1, u"page-1"_s); };
-        fault.says = mayComeOut;
-        fault.jobs = {IPP_JSTATE_CANCELED};
-        fault.documents = 1;
-        fault.mend = mend;
-        fault.saysAgain = kPrintedAs.arg(2);
-        fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
-        fault.documentsAgain = 2;
-        QTest::newRow("sent, and printing before the server has said so") << fault;
-
-        fault.says =
-            u"Printing was canceled\\. Job office-1 was canceled; nothing was printed\\."_s;
-        fault.documents = 0;
-        fault.documentsAgain = 1;
-        fault.arrange = [](Scene &scene) { scene.cups.stopQueue(kQueue); };
-        fault.when = progress(u"The printer is stopped"_s);
-        fault.mend = [](Scene &scene) {
-            scene.device.release(u"all"_s);
-            scene.cups.startQueue(kQueue);
-        };
-        QTest::newRow("waiting") << fault;
-
-        fault = {.device = waitAtPages};
-        fault.when = progress(u"Printing page"_s);
-        fault.strike = cancel;
-        fault.says = mayComeOut;
-        fault.jobs = {IPP_JSTATE_CANCELED};
-        fault.documents = 1;
-        fault.mend = mend;
-        fault.saysAgain = kPrintedAs.arg(2);
-        fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
-        fault.documentsAgain = 2;
-        QTest::newRow("printing") << fault;
-
-        // Nobody can take it back then, and it will be printed.
-        fault.strike = [](Scene &scene) {
-            scene.goAway();
-            QVERIFY(scene.window->press("cancel"));
-        };
-        fault.says =
-            u"Printing was canceled\\. Job office-1 could not be canceled and may still be "
-            "printed\\. .+"_s;
-        fault.jobs = {IPP_JSTATE_PROCESSING};
-        fault.mend = [](Scene &scene) { scene.mend(); };
-        fault.saysAgain = u"Job 1 of the earlier try is in the queue and will be printed\\."_s;
-        fault.closesAgain = false;
-        fault.jobsAgain = {IPP_JSTATE_PROCESSING};
-        fault.documentsAgain = 1;
-        QTest::newRow("printing, while the server is away") << fault;
-    }
-    void printingIsCanceledAtEveryStage()
-    {
-        QFETCH(Fault, fault);
-        playSmoothly([&] { play(fault); });
-    }
-
-    void aJobGoesOnWhenTheWindowIsLeft_data()
-    {
-        QTest::addColumn<bool>("byTheButton");
-        QTest::newRow("Close") << true;
-        QTest::newRow("the window's own button") << false;
-    }
-    void aJobGoesOnWhenTheWindowIsLeft()
-    {
-        QFETCH(bool, byTheButton);
-        Scene scene;
-        scene.device.pages(1).waitAtPages();
-        scene.addQueue();
-        scene.open({m_document});
-        QueueDriver &window = *scene.window;
-        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QVERIFY(!window.press("leave"));
-        QVERIFY(window.press("print"));
-        QVERIFY(window.waitUntil([&] { return window.progress().startsWith(u"Printing page"_s); }));
-        if (byTheButton)
-            QVERIFY(window.press("leave"));
-        else
-            window.dialog().close();
-        QTRY_VERIFY(!window.dialog().isVisible());
-        QCOMPARE(window.dialog().report(),
-                 u"Job office-1 is in the queue; it was not followed to its end."_s);
-        QCOMPARE(window.dialog().printedTo(), QString());
-        QCOMPARE(scene.states(), States{IPP_JSTATE_PROCESSING});
-        scene.device.release(u"all"_s);
-        QTRY_COMPARE(scene.states(), States{IPP_JSTATE_COMPLETED});
+        m_player->play(fault);
     }
 };
 

@@ -205,6 +205,11 @@ private Q_SLOTS:
         QCOMPARE(client.jobValue(job.id, "document-format-supplied"), u"application/pdf"_s);
         QCOMPARE(client.jobValue(job.id, "job-originating-user-name"),
                  QString::fromUtf8(cupsUser()));
+        // The job can be told from all others, which is no concern of its printer's.
+        const QString token = client.jobValue(job.id, "corvana-job-token");
+        QVERIFY2(token.startsWith(u"urn:uuid:"_s), qUtf8Printable(token));
+        QVERIFY2(!job.options.contains(u"token"_s), qUtf8Printable(job.options));
+        QVERIFY(!job.data.contains(token.toUtf8()));
     }
 
     void thePrinterIsToldTheNumberOfCopies()

@@ -217,13 +217,40 @@ private Q_SLOTS:
         QVERIFY2(end.err.contains(u"job office-1 may be printed or not"_s), end.text().constData());
     }
 
+    void aJobWhoseNumberNeverComesIsTakenBack_data()
+    {
+        QTest::addColumn<bool>("isSilent");
+        QTest::newRow("the connection is cut") << false;
+        QTest::newRow("the server falls silent") << true;
+    }
+    void aJobWhoseNumberNeverComesIsTakenBack()
+    {
+        QFETCH(bool, isSilent);
+        m_cups->addQueue(u"office"_s, kPpd);
+        FaultyServer server(m_cups->port());
+        m_runner->setVariable(u"CUPS_SERVER"_s, server.server());
+        m_runner->setVariable(u"CORVANA_PRINT_PATIENCE"_s, u"1"_s);
+        if (isSilent)
+            server.swallowResponse(IPP_OP_CREATE_JOB);
+        else
+            server.closeBeforeResponse(IPP_OP_CREATE_JOB);
+        const RunEnd end = m_runner->run({u"-d"_s, u"office"_s, kText});
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.err.endsWith(u" Job office-1 was canceled; nothing was printed.\n"_s),
+                 end.text().constData());
+        QCOMPARE(m_cups->jobs().size(), 1);
+        QCOMPARE(m_cups->job(1).state, IPP_JSTATE_CANCELED);
+        QVERIFY(m_cups->capture(u"office"_s).jobs().isEmpty());
+    }
+
     // Ctrl+C
 
     void anInterruptedJobIsGoneFromTheServer_data()
     {
-        enum Stage { Asking, Sending, Sent, Waiting, Printing };
+        enum Stage { Asking, Creating, Sending, Sent, Waiting, Printing };
         QTest::addColumn<int>("stage");
         QTest::newRow("while the server is asked for the printer") << int(Asking);
+        QTest::newRow("while the job is made") << int(Creating);
         QTest::newRow("in the midst of the document") << int(Sending);
         QTest::newRow("behind the document") << int(Sent);
         QTest::newRow("while it waits in the queue") << int(Waiting);
@@ -231,7 +258,7 @@ private Q_SLOTS:
     }
     void anInterruptedJobIsGoneFromTheServer()
     {
-        enum Stage { Asking, Sending, Sent, Waiting, Printing };
+        enum Stage { Asking, Creating, Sending, Sent, Waiting, Printing };
         QFETCH(int, stage);
         m_cups->addQueue(u"office"_s, kPpd,
                          {.deviceUri = m_cups->capture(u"office"_s).waitAtStart().uri()});
@@ -242,6 +269,9 @@ private Q_SLOTS:
         switch (stage) {
         case Asking:
             server.delayResponse(IPP_OP_GET_PRINTER_ATTRIBUTES);
+            break;
+        case Creating:
+            server.delayResponse(IPP_OP_CREATE_JOB);
             break;
         case Sending: {
             // More than sockets hold, without taking room on a disk.

@@ -12,6 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString kToken = u"urn:uuid:00000000-0000-4000-8000-000000000001"_s;
+constexpr auto kTokenAttribute = "corvana-job-token";
+
 ServerContext contextFor(quint16 port)
 {
     ServerContext context;
@@ -35,6 +38,13 @@ CannedAnswer jobSeven(const CannedRequest &)
     ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", 7);
     return ippAnswer(answer);
 }
+
+/// What a server tells of one job in a list.
+struct ListedJob
+{
+    int id = 0;
+    QString token{};
+};
 
 } // namespace
 
@@ -114,7 +124,7 @@ private Q_SLOTS:
         const CannedServer server(jobSeven);
         ServerConnection connection(contextFor(server.port()), nullptr);
         const auto job =
-            createJob(connection, office(), {u"title"_s, 3, {{name, value}}}, std::nullopt);
+            createJob(connection, office(), {u"title"_s, 3, {{name, value}}}, kToken, std::nullopt);
         QCOMPARE(job.value_or(0), 7);
         const CannedRequest request = server.requests().constFirst();
         QCOMPARE(request.operation, int(IPP_OP_CREATE_JOB));
@@ -145,7 +155,7 @@ private Q_SLOTS:
         QFETCH(int, characters);
         const CannedServer server(jobSeven);
         ServerConnection connection(contextFor(server.port()), nullptr);
-        QVERIFY(createJob(connection, office(), {title, 1, {}}, std::nullopt));
+        QVERIFY(createJob(connection, office(), {title, 1, {}}, kToken, std::nullopt));
         QBuffer document;
         document.setData("x");
         QVERIFY(document.open(QIODevice::ReadOnly));
@@ -175,10 +185,10 @@ private Q_SLOTS:
         ServerConnection connection(contextFor(server.port()), nullptr);
         Printer printer = office();
         printer.authInfo = wanted;
-        QVERIFY(
-            createJob(connection, printer, {u"t"_s, 1, {}}, Credentials{u"lisa"_s, u"secret"_s}));
+        QVERIFY(createJob(connection, printer, {u"t"_s, 1, {}}, kToken,
+                          Credentials{u"lisa"_s, u"secret"_s}));
         QCOMPARE(server.requests().at(0).values("auth-info"), sent);
-        QVERIFY(createJob(connection, printer, {u"t"_s, 1, {}}, std::nullopt));
+        QVERIFY(createJob(connection, printer, {u"t"_s, 1, {}}, kToken, std::nullopt));
         QVERIFY(server.requests().at(1).values("auth-info").isEmpty());
     }
 
@@ -198,8 +208,80 @@ private Q_SLOTS:
             return ippAnswer(answer);
         });
         ServerConnection connection(contextFor(server.port()), nullptr);
-        QVERIFY(!createJob(connection, office(), {u"t"_s, 1, {}}, std::nullopt));
+        QVERIFY(!createJob(connection, office(), {u"t"_s, 1, {}}, kToken, std::nullopt));
         QVERIFY(!connection.problem());
+    }
+
+    void everyJobHasATokenOfItsOwn()
+    {
+        const CannedServer server(jobSeven);
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY(newJobToken() != newJobToken());
+        const QString token = newJobToken();
+        QVERIFY(createJob(connection, office(), {u"t"_s, 1, {}}, token, std::nullopt));
+        const CannedRequest request = server.requests().constFirst();
+        QCOMPARE(request.value(kTokenAttribute), token);
+        // What is no URI would get into the options of the filters.
+        QCOMPARE(request.find(kTokenAttribute).type, int(IPP_TAG_URI));
+        QCOMPARE(request.find(kTokenAttribute).group, int(IPP_TAG_JOB));
+    }
+
+    void aJobIsFoundByItsToken_data()
+    {
+        QTest::addColumn<QList<ListedJob>>("jobs");
+        QTest::addColumn<int>("found");
+        const QString other = u"urn:uuid:00000000-0000-4000-8000-000000000002"_s;
+        QTest::newRow("none at all") << QList<ListedJob>{} << 0;
+        QTest::newRow("the only one") << QList<ListedJob>{{7, kToken}} << 7;
+        QTest::newRow("the last one") << QList<ListedJob>{{5, other}, {6, {}}, {7, kToken}} << 7;
+        QTest::newRow("the first one") << QList<ListedJob>{{5, kToken}, {6, other}, {7, {}}} << 5;
+        QTest::newRow("those of others") << QList<ListedJob>{{5, other}, {6, {}}} << 0;
+        QTest::newRow("without a number") << QList<ListedJob>{{0, kToken}, {6, {}}} << 0;
+    }
+    void aJobIsFoundByItsToken()
+    {
+        QFETCH(QList<ListedJob>, jobs);
+        QFETCH(int, found);
+        // Servers order the attributes of a job as they like.
+        for (const bool numberFirst : {true, false}) {
+            const CannedServer server([&](const CannedRequest &) {
+                ipp_t *answer = newIppAnswer();
+                for (const ListedJob &job : jobs) {
+                    ippAddSeparator(answer);
+                    const auto number = [&] {
+                        if (job.id > 0)
+                            ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", job.id);
+                    };
+                    if (numberFirst)
+                        number();
+                    if (!job.token.isEmpty())
+                        ippAddString(answer, IPP_TAG_JOB, IPP_TAG_URI, kTokenAttribute, nullptr,
+                                     job.token.toUtf8().constData());
+                    if (!numberFirst)
+                        number();
+                }
+                return ippAnswer(answer);
+            });
+            ServerConnection connection(contextFor(server.port()), nullptr);
+            QCOMPARE(findJob(connection, office(), kToken).value_or(-1), found);
+            const CannedRequest request = server.requests().constFirst();
+            QCOMPARE(request.operation, int(IPP_OP_GET_JOBS));
+            QCOMPARE(request.value("printer-uri"), u"ipp://localhost/printers/office"_s);
+            QCOMPARE(request.find("my-jobs").truth, true);
+            QCOMPARE(request.value("which-jobs"), u"not-completed"_s);
+            QCOMPARE(request.values("requested-attributes"),
+                     (QStringList{u"job-id"_s, QString::fromLatin1(kTokenAttribute)}));
+        }
+    }
+
+    void jobsThatNobodyListsAreNotCalledAbsent()
+    {
+        const CannedServer server([](const CannedRequest &) {
+            return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_AUTHORIZED));
+        });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY(!findJob(connection, office(), kToken));
+        QVERIFY(connection.problem());
     }
 
     void theDocumentIsTheJobsOnlyOne()

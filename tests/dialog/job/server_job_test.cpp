@@ -1,11 +1,9 @@
-#include <mutex>
-
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/job/ServerJob.h"
-#include "tests/support/cups/CannedServer.h"
+#include "tests/dialog/job/JobServer.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -15,116 +13,7 @@ using Kind = JobOutcome::Kind;
 
 namespace {
 
-constexpr int kJob = 8;
-constexpr int kEarlierJob = 7;
 constexpr auto kDay = 1000000000; // when the PPD was changed last
-
-/// What a server says of a job.
-struct SaidOfJob
-{
-    int state = IPP_JSTATE_COMPLETED;
-    int documents = 1; ///< -1: does not say
-    ipp_status_t status = IPP_STATUS_OK;
-    bool hangsUp = false;
-};
-
-CannedAnswer answerAbout(const SaidOfJob &job)
-{
-    if (job.hangsUp)
-        return {{}, true};
-    if (job.status != IPP_STATUS_OK)
-        return ippAnswer(newIppAnswer(job.status));
-    ipp_t *answer = newIppAnswer();
-    ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", job.state);
-    if (job.documents >= 0)
-        ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", job.documents);
-    return ippAnswer(answer);
-}
-
-/// A server of one queue and at most two jobs, which says of them what a test wants.
-class JobServer
-{
-public:
-    JobServer() : m_server([this](const CannedRequest &request) { return answer(request); }) {}
-
-    /// Said of the job from now on: each once, and the last for good.
-    void say(const QList<SaidOfJob> &states)
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_states = states;
-    }
-    void sayOfEarlierJob(const SaidOfJob &state)
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_earlier = state;
-    }
-    /// Hangs up when it has the whole document, instead of an answer.
-    void loseTheAnswerToTheDocument() { m_losesAnswer = true; }
-    void refuseToCancel() { m_cancels = false; }
-    /// Said of the job as soon as it was to be canceled, whether or not that was done.
-    void sayAfterCancel(const SaidOfJob &state)
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_afterCancel = state;
-    }
-    void setPpdStatus(int status) { m_ppdStatus = status; }
-
-    quint16 port() const { return m_server.port(); }
-    /// Whether a worker is still there.
-    bool isInUse() const { return m_server.openConnections() > 0; }
-    int count(ipp_op_t operation) const { return m_server.count(operation); }
-    QList<CannedRequest> requests() const { return m_server.requests(); }
-
-private:
-    CannedAnswer answer(const CannedRequest &request)
-    {
-        switch (request.operation) {
-        case 0:
-            return httpAnswer(m_ppdStatus, m_ppdStatus == 200 ? "*PPD-Adobe: \"4.3\"\n" : "");
-        case IPP_OP_CREATE_JOB: {
-            ipp_t *answer = newIppAnswer();
-            ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", kJob);
-            return ippAnswer(answer);
-        }
-        case IPP_OP_SEND_DOCUMENT:
-            return m_losesAnswer ? CannedAnswer{{}, true} : ippAnswer(newIppAnswer());
-        case IPP_OP_CANCEL_JOB:
-            say({afterCancel()});
-            return ippAnswer(
-                newIppAnswer(m_cancels ? IPP_STATUS_OK : IPP_STATUS_ERROR_NOT_POSSIBLE));
-        case IPP_OP_GET_JOB_ATTRIBUTES:
-            return answerAbout(stateOf(request.value("job-id").toInt()));
-        default: {
-            ipp_t *answer = newIppAnswer();
-            ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "office");
-            return ippAnswer(answer);
-        }
-        }
-    }
-
-    SaidOfJob afterCancel()
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_afterCancel;
-    }
-
-    SaidOfJob stateOf(int job)
-    {
-        const std::scoped_lock lock(m_mutex);
-        if (job == kEarlierJob)
-            return m_earlier;
-        return m_states.size() > 1 ? m_states.takeFirst() : m_states.constFirst();
-    }
-
-    std::mutex m_mutex;
-    QList<SaidOfJob> m_states{SaidOfJob()};
-    SaidOfJob m_earlier;
-    SaidOfJob m_afterCancel;
-    std::atomic<bool> m_losesAnswer{false};
-    std::atomic<bool> m_cancels{true};
-    std::atomic<int> m_ppdStatus{304};
-    CannedServer m_server; // the first to go
-};
 
 } // namespace
 
@@ -218,23 +107,101 @@ private Q_SLOTS:
     void aPrinterWhoseOptionsAreOthersByNowGetsNothing_data()
     {
         QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("queueIsThere");
         QTest::addColumn<Kind>("kind");
-        QTest::newRow("the same") << 304 << Kind::Printed;
-        QTest::newRow("another PPD") << 200 << Kind::PrinterChanged;
-        QTest::newRow("none any more") << 404 << Kind::PrinterChanged;
-        QTest::newRow("not to be found out") << 403 << Kind::Failed;
+        QTest::addColumn<QString>("words");
+        const QString changed = u"have changed"_s;
+        QTest::newRow("the same") << 304 << true << Kind::Printed << QString();
+        QTest::newRow("another PPD") << 200 << true << Kind::PrinterChanged << changed;
+        QTest::newRow("none any more") << 404 << true << Kind::PrinterChanged << changed;
+        QTest::newRow("no queue any more") << 404 << false << Kind::Failed << u"not there"_s;
+        QTest::newRow("not to be found out") << 403 << true << Kind::Failed << u"not allow"_s;
     }
     void aPrinterWhoseOptionsAreOthersByNowGetsNothing()
     {
         QFETCH(int, status);
+        QFETCH(bool, queueIsThere);
         QFETCH(Kind, kind);
+        QFETCH(QString, words);
         m_server->setPpdStatus(status);
+        if (!queueIsThere)
+            m_server->forgetTheQueue();
         m_request.ppdLastModified = kDay;
         const JobOutcome outcome = print();
         QCOMPARE(outcome.kind, kind);
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), kind == Kind::Printed ? 1 : 0);
         if (kind != Kind::Printed)
             QVERIFY2(outcome.text.contains(u"Nothing was printed"_s), qPrintable(outcome.text));
+        QVERIFY2(outcome.text.contains(words), qPrintable(outcome.text));
+    }
+
+    void forAnUnchangedPpdTheQueueIsAskedNothingElse()
+    {
+        m_request.ppdLastModified = kDay;
+        QCOMPARE(print().kind, Kind::Printed);
+        QCOMPARE(m_server->count(IPP_OP_GET_PRINTER_ATTRIBUTES), 0);
+    }
+
+    void aJobWhoseNumberNeverCameIsTakenBack_data()
+    {
+        using Creation = JobServer::Creation;
+        QTest::addColumn<Creation>("creation");
+        QTest::addColumn<int>("looked");
+        QTest::addColumn<int>("canceled");
+        QTest::addColumn<QString>("words");
+        const QString tookBack = u"Job office-8 was canceled; nothing was printed."_s;
+        const QString nothing = u"Nothing was printed."_s;
+        QTest::newRow("made, and its answer lost")
+            << Creation::LostAndListed << 1 << 1 << u"broke the connection. "_s + tookBack;
+        QTest::newRow("made, and its number left out")
+            << Creation::Numberless << 1 << 1 << u"which job it has made. "_s + tookBack;
+        QTest::newRow("not made") << Creation::Lost << 1 << 0
+                                  << u"broke the connection. "_s + nothing;
+        QTest::newRow("nobody says") << Creation::LostAndUnlistable << 1 << 0
+                                     << u"a job without a document may be at the print server"_s;
+        QTest::newRow("refused") << Creation::Refused << 0 << 0 << nothing;
+    }
+    void aJobWhoseNumberNeverCameIsTakenBack()
+    {
+        QFETCH(JobServer::Creation, creation);
+        QFETCH(int, looked);
+        QFETCH(int, canceled);
+        QFETCH(QString, words);
+        m_server->setCreation(creation);
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(words), qPrintable(outcome.text));
+        QCOMPARE(outcome.job, canceled > 0 ? kJob : 0);
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
+        QCOMPARE(m_server->count(IPP_OP_GET_JOBS), looked);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), canceled);
+        QCOMPARE(m_server->count(IPP_OP_SEND_DOCUMENT), 0);
+        if (canceled > 0)
+            QCOMPARE(m_server->requests().constLast().value("job-id"), QString::number(kJob));
+    }
+
+    void nobodyIsAskedForAPasswordToLookForAJob()
+    {
+        int asked = 0;
+        m_request.server.credentials->setQuestioner(
+            [&](const CredentialsQuestion &, const auto &answer) {
+                ++asked;
+                answer(std::nullopt);
+            });
+        m_server->setCreation(JobServer::Creation::LostAndGuarded);
+        const JobOutcome outcome = print();
+        QCOMPARE(asked, 0);
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(u"could not be looked for"_s), qPrintable(outcome.text));
+    }
+
+    void aServerThatWasNeverReachedIsNotSearchedForAJob()
+    {
+        m_request.server.address.port = 1; // nobody's
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(u"cannot be reached"_s), qPrintable(outcome.text));
+        QVERIFY2(outcome.text.endsWith(u" Nothing was printed."_s), qPrintable(outcome.text));
     }
 
     void aJobThatIsLostSightOfIsNotCalledPrinted_data()

@@ -247,6 +247,79 @@ private Q_SLOTS:
             QCOMPARE(details.lastModified, 1000000000);
     }
 
+    void aPpdThatMayBeNewIsLookedForWithoutAskingForMore_data()
+    {
+        QTest::addColumn<QString>("member"); // of a class
+        QTest::addColumn<bool>("knownAsClass");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QueueDetails::Ppd>("state");
+        QTest::addColumn<QByteArrayList>("paths");
+        using Ppd = QueueDetails::Ppd;
+        const QByteArray ppd("/printers/all.ppd");
+        const QByteArray queue("/printers/all");
+        const QByteArray members("/printers/office.ppd");
+        const auto row = [](const char *name, const QString &member, bool known, int status,
+                            Ppd state, const QByteArrayList &paths) {
+            QTest::newRow(name) << member << known << status << state << paths;
+        };
+        row("unchanged", {}, false, 304, Ppd::Unchanged, {ppd});
+        row("new", {}, false, 200, Ppd::New, {ppd});
+        row("refused", {}, false, 403, Ppd::Unknown, {ppd});
+        row("none", {}, false, 404, Ppd::None, {ppd, queue});
+        row("class", u"office"_s, true, 304, Ppd::Unchanged, {queue, members});
+        row("class whose member has none", u"office"_s, true, 404, Ppd::None, {queue, members});
+        row("class without members", {}, true, 404, Ppd::None, {queue});
+        row("nobody knew that it is a class", u"office"_s, false, 304, Ppd::Unchanged,
+            {ppd, queue, members});
+    }
+    void aPpdThatMayBeNewIsLookedForWithoutAskingForMore()
+    {
+        QFETCH(QString, member);
+        QFETCH(bool, knownAsClass);
+        QFETCH(int, status);
+        QFETCH(QueueDetails::Ppd, state);
+        QFETCH(QByteArrayList, paths);
+        const CannedServer server([&](const CannedRequest &request) {
+            if (request.operation == 0 && !member.isEmpty() &&
+                !request.head.path.contains(member.toUtf8()))
+                return httpAnswer(404); // classes have no PPD of their own
+            if (request.operation == 0)
+                return httpAnswer(status, status == 200 ? "*PPD-Adobe: \"4.3\"\n" : "");
+            ipp_t *answer = newIppAnswer();
+            ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "all");
+            if (!member.isEmpty())
+                ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "member-names", nullptr,
+                             member.toUtf8().constData());
+            return ippAnswer(answer);
+        });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        Printer printer = queueOfName(u"all"_s);
+        printer.isClass = knownAsClass;
+        const QueueDetails details = lookForNewPpd(connection, printer, 1000000000);
+        QCOMPARE(details.state, state);
+        QCOMPARE(bool(details.problem), state == QueueDetails::Ppd::Unknown);
+        QCOMPARE(!details.ppd.isEmpty(), state == QueueDetails::Ppd::New);
+        QByteArrayList asked;
+        for (const CannedRequest &request : server.requests()) {
+            asked += request.head.path;
+            if (request.operation != 0)
+                QVERIFY(!request.values("requested-attributes").contains(u"all"_s));
+        }
+        QCOMPARE(asked, paths);
+    }
+
+    void aQueueThatWentAwayHasNoNewPpd()
+    {
+        const CannedServer server([](const CannedRequest &request) {
+            return request.operation == 0 ? httpAnswer(404)
+                                          : ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_FOUND));
+        });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        const QueueDetails details = lookForNewPpd(connection, queueOfName(u"gone"_s), 1);
+        QCOMPARE(details.state, QueueDetails::Ppd::Unknown);
+        QCOMPARE(details.problem.kind, ServerProblem::Kind::NotFound);
+    }
+
     void aQueueThatIsNotThereIsSaid()
     {
         const CannedServer server([](const CannedRequest &) {

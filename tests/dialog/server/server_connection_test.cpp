@@ -94,20 +94,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<FaultyServer::Manner>("manner");
         QTest::addColumn<ServerProblem::Kind>("kind");
+        QTest::addColumn<bool>("wasSent");
         using Manner = FaultyServer::Manner;
-        QTest::newRow("never answers") << Manner::NeverAnswers << Kind::NoAnswer;
-        QTest::newRow("hangs up") << Manner::HangsUp << Kind::ConnectionLost;
-        QTest::newRow("refuses") << Manner::Refuses << Kind::Unreachable;
+        QTest::newRow("never answers") << Manner::NeverAnswers << Kind::NoAnswer << true;
+        QTest::newRow("hangs up") << Manner::HangsUp << Kind::ConnectionLost << true;
+        QTest::newRow("answers garbage") << Manner::Babbles << Kind::NotUnderstood << true;
+        QTest::newRow("refuses") << Manner::Refuses << Kind::Unreachable << false;
     }
     void whatGoesWrongIsSaid()
     {
         QFETCH(FaultyServer::Manner, manner);
         QFETCH(ServerProblem::Kind, kind);
+        QFETCH(bool, wasSent);
         m_server->setManner(manner);
         ServerConnection connection(contextFor(m_server->port(), 3s), nullptr);
         QVERIFY(!connection.request(aboutQueue()));
         QCOMPARE(connection.problem().kind, kind);
         QVERIFY(connection.problem().mayPass());
+        QCOMPARE(connection.requestWasSent(), wasSent);
         QCOMPARE(connection.get("/printers/office.ppd").state, State::Failed);
         QCOMPARE(connection.problem().kind, kind);
 

@@ -167,18 +167,18 @@ bool FaultyConnection::readPiece()
         m_request.requestId = m_ipp.requestId();
         decide(true);
     }
-    const bool cuts = m_fault && m_fault->kind == Fault::Kind::CloseInDocument &&
-                      m_ipp.documentBytes() >= m_fault->bytes;
+    const bool isInDocument = m_fault && (m_fault->kind == Fault::Kind::CloseInDocument ||
+                                          m_fault->kind == Fault::Kind::StallInDocument);
+    const bool cuts = isInDocument && m_ipp.documentBytes() >= m_fault->bytes;
     if (cuts && piece->isContent)
         piece->bytes.chop(m_ipp.documentBytes() - m_fault->bytes);
     passOn(piece->bytes);
-    if (cuts) {
+    if (cuts && m_fault->kind == Fault::Kind::CloseInDocument) {
         countFault();
         drop();
         return false;
     }
-    if (m_fault && m_fault->kind == Fault::Kind::StallInDocument &&
-        m_ipp.documentBytes() >= m_fault->bytes) {
+    if (cuts) {
         m_isStalled = true;
         m_client->setReadBufferSize(1); // what is not taken waits with the client
         countFault();

@@ -65,7 +65,7 @@ public:
     /// real server sees the request end there.
     void closeAfterDocumentBytes(qint64 bytes, int operation = IPP_OP_SEND_DOCUMENT,
                                  int times = always);
-    /// Reads no more after at least so many bytes of the document, and leaves the connection open.
+    /// Passes so many bytes of the document, reads no more, and leaves the connection open.
     /// A client has to send more than sockets hold (some megabytes) to notice.
     void stallInDocument(qint64 bytes, int operation = IPP_OP_SEND_DOCUMENT, int times = always);
     /// Takes the complete request and passes it, but keeps the answer, and the connection open.

@@ -278,6 +278,13 @@ void PrivateCups::addRawQueue(const QString &name, const QueueSettings &settings
     setUpQueue(name, {QStringLiteral("-m"), QStringLiteral("raw")}, settings);
 }
 
+void PrivateCups::addEverywhereQueue(const QString &name, const QString &deviceUri)
+{
+    QueueSettings settings;
+    settings.deviceUri = deviceUri;
+    setUpQueue(name, {QStringLiteral("-m"), QStringLiteral("everywhere")}, settings);
+}
+
 void PrivateCups::setUpQueue(const QString &name, const QStringList &driver,
                              const QueueSettings &settings) const
 {

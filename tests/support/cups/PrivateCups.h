@@ -94,6 +94,9 @@ public:
     void addQueue(const QString &name, const QString &ppdPath, const QueueSettings &settings = {});
     /// A queue without PPD: data passes unchanged.
     void addRawQueue(const QString &name, const QueueSettings &settings = {});
+    /// A queue as the system sets it up for an IPP Everywhere printer that answers at `deviceUri`:
+    /// its PPD is written from what the printer says of itself.
+    void addEverywhereQueue(const QString &name, const QString &deviceUri);
     /// A class of queues that exist already.
     void addClass(const QString &name, const QStringList &members);
     void removeQueue(const QString &name);

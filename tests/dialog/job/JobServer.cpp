@@ -1,0 +1,101 @@
+#include "tests/dialog/job/JobServer.h"
+
+namespace corvana::test {
+
+namespace {
+
+constexpr auto kTokenAttribute = "corvana-job-token";
+
+CannedAnswer answerAbout(const SaidOfJob &job)
+{
+    if (job.hangsUp)
+        return {{}, true};
+    if (job.status != IPP_STATUS_OK)
+        return ippAnswer(newIppAnswer(job.status));
+    ipp_t *answer = newIppAnswer();
+    ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", job.state);
+    if (job.documents >= 0)
+        ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", job.documents);
+    return ippAnswer(answer);
+}
+
+} // namespace
+
+CannedAnswer JobServer::answer(const CannedRequest &request)
+{
+    switch (request.operation) {
+    case 0:
+        return httpAnswer(m_ppdStatus, m_ppdStatus == 200 ? "*PPD-Adobe: \"4.3\"\n" : "");
+    case IPP_OP_CREATE_JOB:
+        return answerToCreation(request);
+    case IPP_OP_GET_JOBS:
+        return listOfJobs();
+    case IPP_OP_SEND_DOCUMENT:
+        return m_losesAnswer ? CannedAnswer{{}, true} : ippAnswer(newIppAnswer());
+    case IPP_OP_CANCEL_JOB:
+        say({afterCancel()});
+        return ippAnswer(newIppAnswer(m_cancels ? IPP_STATUS_OK : IPP_STATUS_ERROR_NOT_POSSIBLE));
+    case IPP_OP_GET_JOB_ATTRIBUTES:
+        return answerAbout(stateOf(request.value("job-id").toInt()));
+    default: {
+        if (!m_knowsQueue)
+            return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_FOUND));
+        ipp_t *answer = newIppAnswer();
+        ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "office");
+        return ippAnswer(answer);
+    }
+    }
+}
+
+CannedAnswer JobServer::answerToCreation(const CannedRequest &request)
+{
+    m_token = request.value(kTokenAttribute);
+    ipp_t *answer = nullptr;
+    switch (m_creation.load()) {
+    case Creation::Answered:
+        answer = newIppAnswer();
+        ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", kJob);
+        return ippAnswer(answer);
+    case Creation::Numberless:
+        return ippAnswer(newIppAnswer());
+    case Creation::Refused:
+        return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_BUSY));
+    default:
+        return {{}, true};
+    }
+}
+
+CannedAnswer JobServer::listOfJobs()
+{
+    if (m_creation == Creation::LostAndUnlistable)
+        return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_AUTHORIZED));
+    if (m_creation == Creation::LostAndGuarded)
+        return httpAnswer(401, {}, "WWW-Authenticate: Basic realm=\"Test\"\r\n");
+    ipp_t *answer = newIppAnswer();
+    const auto add = [answer](int job, const QString &token) {
+        ippAddSeparator(answer);
+        ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", job);
+        ippAddString(answer, IPP_TAG_JOB, IPP_TAG_URI, kTokenAttribute, nullptr,
+                     token.toUtf8().constData());
+    };
+    add(kEarlierJob, QStringLiteral("urn:uuid:another"));
+    if (m_creation == Creation::Numberless || m_creation == Creation::LostAndListed)
+        add(kJob, m_token);
+    return ippAnswer(answer);
+}
+
+SaidOfJob JobServer::afterCancel()
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_afterCancel;
+}
+
+SaidOfJob JobServer::stateOf(int job)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (job == kEarlierJob)
+        return m_earlier;
+    return m_states.size() > 1 ? m_states.takeFirst() : m_states.constFirst();
+}
+
+} // namespace corvana::test

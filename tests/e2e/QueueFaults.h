@@ -1,0 +1,81 @@
+#pragma once
+
+#include <functional>
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include "tests/e2e/QueueScene.h"
+
+namespace corvana::test {
+
+/// A fault that meets somebody who prints, and what becomes of it.
+struct QueueFault
+{
+    using Act = std::function<void(QueueScene &)>;
+    using States = QList<int>;
+    enum class Sends { OneDocument, SeveralDocuments, LargeDocument };
+
+    QByteArray ppd{}; ///< of the queue; empty: the sample printer's
+    /// How the device behind the queue behaves.
+    std::function<void(CaptureDevice &)> device{};
+    Act arrange{}; ///< when the window is ready, before Print is pressed
+    /// Then something happens in the midst of it.
+    std::function<bool(QueueScene &)> when{};
+    Act strike{};
+    QString says{};      ///< expression that the whole message matches, or the report
+    bool closes = false; ///< printed: the window is gone
+    States jobs{};       ///< at the server
+    int documents = 0;   ///< that the printer got
+    Act mend = [](QueueScene &scene) { scene.mend(); };
+    QString saysAgain{}; ///< after Print was pressed once more; empty: it is not
+    bool closesAgain = true;
+    States jobsAgain{};
+    int documentsAgain = 0;
+    Sends sends = Sends::OneDocument;
+};
+
+/// Plays faults from the opening of a window to the second try, and watches whether the window
+/// reacts all the while. What is not as a fault says fails the test that is running. One for a test
+/// program; its folders are the user's meanwhile.
+class FaultPlayer
+{
+public:
+    /// A document of some blocks, so that both parts of it are several. Units: bytes.
+    static constexpr qint64 partOfDocument = 200000;
+
+    FaultPlayer();
+
+    /// Plays without a fault, some times, to learn for how long the window does not react then.
+    void learnTheUsual(const QueueFault &none);
+    /// Fails as well when the window did not react for longer than usual.
+    void play(const QueueFault &fault);
+
+    /// The document of `Sends::OneDocument`.
+    QString document() const { return m_document; }
+
+    /// What is said, and what is at the server and the printer, at the end of a try.
+    static void verifyEnd(QueueScene &scene, const QString &says, bool closes,
+                          const QueueFault::States &jobs, int documents);
+
+private:
+    /// The longest times for which the window did not react. Units: milliseconds.
+    struct Gaps
+    {
+        qint64 opening = 0;
+        qint64 printing = 0;
+    };
+
+    void playOnce(const QueueFault &fault);
+    void tryTwice(QueueScene &scene, const QueueFault &fault);
+    bool isSmooth() const;
+
+    UserFolders m_folders;
+    QString m_document;
+    QString m_largeDocument;
+    Gaps m_usual; // without any fault
+    Gaps m_gaps;  // of the scene that was played last
+};
+
+} // namespace corvana::test
