@@ -171,6 +171,8 @@ void PrintDialog::leave()
 
 void PrintDialog::showProgress(const JobProgress &progress)
 {
+    if (m_serverJob->isCanceled())
+        return;
     m_progressText->setText(progress.text());
     const bool measured = progress.stage == JobProgress::Stage::Sending && progress.total > 0;
     m_progress->setRange(0, measured ? 100 : 0);
@@ -186,7 +188,8 @@ void PrintDialog::serverJobFinished(const JobOutcome &outcome)
     showJobRunning(false);
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a
     // number has learnt nothing about an earlier one.
-    if (outcome.kind == JobOutcome::Kind::Unknown || outcome.kind == JobOutcome::Kind::InQueue)
+    if (outcome.kind == JobOutcome::Kind::Unknown || outcome.kind == JobOutcome::Kind::InQueue ||
+        outcome.kind == JobOutcome::Kind::Stopped)
         m_earlierJobs.insert(idOf(m_chosen), outcome.job);
     else if (outcome.job > 0)
         m_earlierJobs.remove(idOf(m_chosen));
@@ -219,6 +222,7 @@ void PrintDialog::serverJobFinished(const JobOutcome &outcome)
     case JobOutcome::Kind::PrinterChanged:
         m_source.retry();
         [[fallthrough]];
+    case JobOutcome::Kind::Stopped:
     case JobOutcome::Kind::Failed:
     case JobOutcome::Kind::Unknown:
         // The window may be gone when somebody asks what went wrong.
@@ -265,8 +269,13 @@ void PrintDialog::reject()
 {
     if (m_job)
         return m_job->cancel();
-    if (m_serverJob)
-        return m_serverJob->cancel();
+    if (m_serverJob) {
+        // A server that does not answer has a few seconds to be told.
+        m_serverJob->cancel();
+        m_progressText->setText(tr("Canceling…"));
+        m_progress->setRange(0, 0);
+        return;
+    }
     QDialog::reject();
 }
 

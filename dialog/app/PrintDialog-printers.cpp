@@ -307,7 +307,8 @@ void PrintDialog::keepSettings()
 {
     if (m_options)
         m_options->finishEditing(); // what is being typed counts as well
-    if (isUntouched())
+    // What was asked for on the command line is the user's as well.
+    if (isUntouched() && (m_request.options.isEmpty() || !m_panelsUp))
         return;
     m_printer->panels->visit(-1); // a panel that is left saves
     KeptSettings kept{jobOptions(*m_printer->session, m_printer->jobValues, m_attributes),

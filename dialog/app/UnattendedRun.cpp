@@ -205,12 +205,12 @@ QString shellWord(QString text)
 }
 
 // How a held job is let go, for whoever follows its instructions.
-QString releaseCommand(const PrintRequest &request, const QString &queue, int job)
+QString releaseCommand(const PrintRequest &request, const Printer &printer, int job)
 {
     const QString server = request.serverWasNamed
                                ? QStringLiteral("-h %1 ").arg(shellWord(request.server.argument()))
                                : QString();
-    const QString name = QStringLiteral("%1-%2").arg(queueOfInstance(queue), QString::number(job));
+    const QString name = jobName(printer, job);
     return QStringLiteral("lp %1-i %2 -H resume").arg(server, shellWord(name));
 }
 
@@ -238,7 +238,7 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
         QTextStream(stdout) << Texts::tr(
                                    "It waits until the instructions have been followed. Release it "
                                    "with: %1")
-                                   .arg(releaseCommand(request, printer.printer.name, outcome.job))
+                                   .arg(releaseCommand(request, printer.printer, outcome.job))
                             << "\n";
     if (outcome.isDone())
         return 0;

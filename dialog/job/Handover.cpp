@@ -8,6 +8,7 @@
 
 #include "dialog/job/JobRequests.h"
 #include "dialog/queues/QueueRequests.h"
+#include "dialog/queues/UserQueues.h"
 
 namespace corvana {
 
@@ -45,6 +46,10 @@ public:
 
     JobOutcome run()
     {
+        QFile file(m_document.path);
+        if (!file.open(QIODevice::ReadOnly))
+            return failed(nothingPrinted(
+                Texts::tr("%1 cannot be read: %2.").arg(m_document.title, file.errorString())));
         if (std::optional<JobOutcome> reason = whyNotToSend())
             return *reason;
         const std::optional<Credentials> forDevice = credentialsForDevice();
@@ -58,7 +63,7 @@ public:
         if (!job)
             return withdrawNumberless(token);
         m_job = *job;
-        return sendAndFollow();
+        return sendAndFollow(file);
     }
 
 private:
@@ -73,10 +78,7 @@ private:
     bool m_isComplete = false; // the server has all of the job
 
     QString printerName() const { return m_request.printer.name; }
-    QString jobName() const
-    {
-        return QStringLiteral("%1-%2").arg(printerName(), QString::number(m_job));
-    }
+    QString jobName() const { return corvana::jobName(m_request.printer, m_job); }
     JobOutcome outcome(JobOutcome::Kind kind, const QString &text) const
     {
         return {kind, m_job, text};
@@ -158,7 +160,7 @@ private:
                 return JobOutcome{JobOutcome::Kind::AlreadyThere, m_request.earlierJob,
                                   whereTheEarlierJobIs(*earlier).arg(m_request.earlierJob)};
         }
-        if (m_request.ppdLastModified == 0)
+        if (m_request.printer.origin != PrinterOrigin::Queue)
             return std::nullopt;
         const QueueDetails now =
             lookForNewPpd(*m_connection, m_request.printer, m_request.ppdLastModified);
@@ -168,12 +170,11 @@ private:
         case QueueDetails::Ppd::New:
             if (now.ppd == openedPpd())
                 return std::nullopt; // installed once more, or its queue was
-            [[fallthrough]];
+            return printerChanged();
         case QueueDetails::Ppd::None:
-            return outcome(JobOutcome::Kind::PrinterChanged,
-                           Texts::tr("The options of the printer “%1” have changed at its server. "
-                                     "Nothing was printed.")
-                               .arg(printerName()));
+            if (m_request.ppdLastModified == 0)
+                return std::nullopt;
+            return printerChanged();
         case QueueDetails::Ppd::Unknown:
             break;
         }
@@ -182,12 +183,22 @@ private:
         return failed(notCreated());
     }
 
+    JobOutcome printerChanged() const
+    {
+        return outcome(JobOutcome::Kind::PrinterChanged,
+                       Texts::tr("The options of the printer “%1” have changed at its server. "
+                                 "Nothing was printed.")
+                           .arg(printerName()));
+    }
+
     static QString whereTheEarlierJobIs(const JobStatus &job)
     {
         if (job.state == IPP_JSTATE_COMPLETED)
             return Texts::tr("Job %1 of the earlier try has been printed.");
         if (job.state == IPP_JSTATE_HELD)
             return Texts::tr("Job %1 of the earlier try is held in the queue.");
+        if (job.state == IPP_JSTATE_STOPPED)
+            return Texts::tr("Job %1 of the earlier try is stopped in the queue.");
         return Texts::tr("Job %1 of the earlier try is in the queue and will be printed.");
     }
 
@@ -226,14 +237,8 @@ private:
             .credentials;
     }
 
-    JobOutcome sendAndFollow()
+    JobOutcome sendAndFollow(QFile &file)
     {
-        QFile file(m_document.path);
-        if (!file.open(QIODevice::ReadOnly)) {
-            const QString problem =
-                Texts::tr("%1 cannot be read: %2").arg(m_document.title, file.errorString());
-            return withdraw(JobOutcome::Kind::Failed, problem);
-        }
         const qint64 total = file.size();
         m_report({JobProgress::Stage::Sending, m_job, 0, 0, total});
         const bool sent =
@@ -281,16 +286,19 @@ private:
             if (m_isComplete)
                 return lostSight(refusal);
         }
+        const QString whyNot = m_another->problem().text(m_worker.context().address);
+        if (m_whole && kind == JobOutcome::Kind::Canceled) // it would be said to be, and not to be
+            return outcome(JobOutcome::Kind::Unknown,
+                           Texts::tr("Job %1 could not be canceled and may still be printed. %2")
+                               .arg(jobName(), whyNot));
         if (m_whole)
-            return outcome(
-                JobOutcome::Kind::Unknown,
-                Texts::tr("%1 Job %2 could not be canceled and may still be printed. %3")
-                    .arg(why, jobName(), m_another->problem().text(m_worker.context().address)));
-        return outcome(
-            JobOutcome::Kind::Failed,
-            Texts::tr("%1 Job %2 may still be at the print server, without its whole "
-                      "document. It could not be canceled: %3")
-                .arg(why, jobName(), m_another->problem().text(m_worker.context().address)));
+            return outcome(JobOutcome::Kind::Unknown,
+                           Texts::tr("%1 Job %2 could not be canceled and may still be printed. %3")
+                               .arg(why, jobName(), whyNot));
+        return outcome(JobOutcome::Kind::Failed,
+                       Texts::tr("%1 Job %2 may still be at the print server, without its whole "
+                                 "document. It could not be canceled: %3")
+                           .arg(why, jobName(), whyNot));
     }
 
     // The document was sent, and then the server went silent: it may have the job or not.
@@ -339,17 +347,21 @@ private:
             if (m_worker.isCanceled())
                 return canceledOrLeftAlone();
             if (!status)
-                return lostSight(m_connection->problem());
+                status = lookUpAgain();
+            if (!status)
+                return m_worker.isCanceled() ? canceledOrLeftAlone()
+                                             : lostSight(m_connection->problem());
             if (status->isOver())
                 return ended(*status);
             const JobProgress progress = progressOf(*status);
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
-                return failed(withMessage(
-                    Texts::tr("Job %1 was stopped. It is still in the queue, where it can be "
-                              "released or canceled.")
-                        .arg(jobName()),
-                    status->message));
+                return outcome(
+                    JobOutcome::Kind::Stopped,
+                    withMessage(Texts::tr("Job %1 was stopped. It is still in the queue, where it "
+                                          "can be released or canceled.")
+                                    .arg(jobName()),
+                                status->message));
             if (isHeldForLogIn(*status) && needsCredentials())
                 return notLetIn();
             if (status->state == IPP_JSTATE_HELD)
@@ -362,6 +374,22 @@ private:
             if (!m_worker.sleep(kLookUpInterval))
                 return canceledOrLeftAlone();
             status = lookUpJob(*m_connection, m_request.printer, m_job);
+        }
+    }
+
+    // One answer that does not come says little about a job that its server has: it is asked for
+    // again, after longer and longer pauses, for as long as a server is waited for.
+    std::optional<JobStatus> lookUpAgain()
+    {
+        const auto enough =
+            std::chrono::steady_clock::now() + m_worker.context().patience.answering;
+        for (auto pause = kLookUpInterval;; pause *= 2) {
+            const ServerProblem &problem = m_connection->problem();
+            if (!problem.mayPass() || std::chrono::steady_clock::now() >= enough ||
+                !m_worker.sleep(pause))
+                return std::nullopt;
+            if (const auto status = lookUpJob(*m_connection, m_request.printer, m_job))
+                return status;
         }
     }
 
@@ -421,7 +449,7 @@ private:
                            Texts::tr("Job %1 has left the queue “%2”, whose server keeps no record "
                                      "of it.")
                                .arg(jobName(), printerName()));
-        return outcome(JobOutcome::Kind::InQueue,
+        return outcome(JobOutcome::Kind::Unknown,
                        Texts::tr("Job %1 was handed over completely. %2 So whether it has been "
                                  "printed is not known.")
                            .arg(jobName(), problem.text(m_worker.context().address)));
@@ -468,6 +496,13 @@ QString JobProgress::text() const
                                  : Texts::tr("The printer is stopped: %1").arg(message);
     }
     return {};
+}
+
+QString jobName(const Printer &printer, int job)
+{
+    if (printer.origin == PrinterOrigin::Device)
+        return QString::number(job);
+    return QStringLiteral("%1-%2").arg(queueOfInstance(printer.name), QString::number(job));
 }
 
 JobOutcome handOver(ServerWorker &worker, const ServerJobRequest &request, const Document &document,

@@ -36,6 +36,7 @@ struct JobOutcome
     enum class Kind {
         Printed,      ///< the server says that it is complete
         InQueue,      ///< the server has all of it and will print it; `text` says what it waits for
+        Stopped,      ///< the server has all of it, and prints it when somebody releases it
         Failed,       ///< it will not be printed
         Canceled,     ///< somebody ended it, here or at the server
         Unknown,      ///< it was sent, and nobody can say what became of it
@@ -61,7 +62,7 @@ struct ServerJobRequest
     /// The PPD that documents are put together with; never empty.
     QString ppdPath;
     /// When the PPD in use was last changed at the server, to find out whether it still is the
-    /// same; 0 where nothing is to be compared.
+    /// same; 0 for a queue that had none.
     qint64 ppdLastModified = 0;
     /// The document formats that an IPP printer takes; empty where everything is taken.
     QStringList formats{};
@@ -71,6 +72,10 @@ struct ServerJobRequest
     /// Whether to follow the job to its end, rather than until the server has all of it.
     bool follow = true;
 };
+
+/// How users and lp name a job: "QUEUE-NUMBER", without an instance, or the number of a printer
+/// that is spoken to directly.
+QString jobName(const Printer &printer, int job);
 
 /// Hands one document to a print server as a job: looks whether it may be sent, creates the job,
 /// sends the document, asks for the job again, and follows it. Waits for a network: for workers.

@@ -114,7 +114,7 @@ std::optional<int> createJob(ServerConnection &connection, const Printer &printe
 {
     IppMessage request = newIppRequest(IPP_OP_CREATE_JOB, printer.uri);
     addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name",
-                 withinLimit(ticket.title));
+                 withinLimit(shownText(ticket.title.toUtf8().constData())));
     Options options;
     for (const JobOption &option : ticket.options)
         options.add(option.name, option.value);
@@ -185,7 +185,7 @@ bool sendDocument(ServerConnection &connection, const Printer &printer, int job,
     IppMessage request = newIppRequest(IPP_OP_SEND_DOCUMENT, printer.uri);
     addJob(request.get(), job);
     addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name",
-                 withinLimit(title));
+                 withinLimit(shownText(title.toUtf8().constData())));
     addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", format);
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
     return connection.request(std::move(request), resourceOf(printer), document, progress) !=

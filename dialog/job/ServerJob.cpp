@@ -137,9 +137,8 @@ void ServerJob::letGo()
         return;
     m_work = {};
     finish({JobOutcome::Kind::InQueue, m_progress->job,
-            tr("Job %1-%2 is in the queue; it was not followed to its end.")
-                .arg(m_request.printer.name)
-                .arg(m_progress->job)});
+            tr("Job %1 is in the queue; it was not followed to its end.")
+                .arg(jobName(m_request.printer, m_progress->job))});
 }
 
 // The one way in which a job ends.

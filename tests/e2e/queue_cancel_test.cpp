@@ -133,9 +133,8 @@ private Q_SLOTS:
             scene.goAway();
             QVERIFY(scene.window->press("cancel"));
         };
-        fault.says =
-            u"Printing was canceled\\. Job office-1 could not be canceled and may still be "
-            "printed\\. .+"_s;
+        fault.says = u"Job office-1 could not be canceled and may still be "
+                     "printed\\. .+"_s;
         fault.jobs = {IPP_JSTATE_PROCESSING};
         fault.mend = [](Scene &scene) { scene.mend(); };
         fault.saysAgain = u"Job 1 of the earlier try is in the queue and will be printed\\."_s;
