@@ -52,14 +52,14 @@ public:
                 Texts::tr("%1 cannot be read: %2.").arg(m_document.title, file.errorString())));
         if (std::optional<JobOutcome> reason = whyNotToSend())
             return *reason;
-        const std::optional<Credentials> forDevice = credentialsForDevice();
-        if (needsCredentials() && !forDevice)
+        m_forDevice = credentialsForDevice();
+        if (needsCredentials() && !m_forDevice)
             return failed(Texts::tr("The printer “%1” wants a user and a password; none was given. "
                                     "Nothing was printed.")
                               .arg(printerName()));
         const QString token = newJobToken();
         const std::optional<int> job =
-            createJob(*m_connection, m_request.printer, m_request.ticket, token, forDevice);
+            createJob(*m_connection, m_request.printer, m_request.ticket, token, m_forDevice);
         if (!job)
             return withdrawNumberless(token);
         m_job = *job;
@@ -73,6 +73,7 @@ private:
     const std::function<void(const JobProgress &)> &m_report;
     ServerConnection *m_connection;
     std::unique_ptr<ServerConnection> m_another; // after the first one was lost
+    std::optional<Credentials> m_forDevice;
     int m_job = 0;
     bool m_whole = false;      // the server may have all of the document
     bool m_isComplete = false; // the server has all of the job
@@ -410,8 +411,8 @@ private:
     // What was given for the device was wrong; the next try asks again, and sends another job.
     JobOutcome notLetIn()
     {
-        if (const auto &store = m_worker.context().credentials)
-            store->forget(realmOfDevice());
+        if (const auto &store = m_worker.context().credentials; store && m_forDevice)
+            store->forget(realmOfDevice(), *m_forDevice);
         return withdraw(JobOutcome::Kind::Failed,
                         Texts::tr("The printer “%1” does not accept this user and password.")
                             .arg(printerName()));

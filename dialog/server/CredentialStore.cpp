@@ -29,10 +29,12 @@ std::optional<Credentials> CredentialStore::known(const QString &realm) const
     return found == m_known.end() ? std::nullopt : std::optional(found->second);
 }
 
-void CredentialStore::forget(const QString &realm)
+void CredentialStore::forget(const QString &realm, const Credentials &refused)
 {
     const std::scoped_lock lock(m_mutex);
-    m_known.erase(realm);
+    const auto found = m_known.find(realm);
+    if (found != m_known.end() && found->second == refused)
+        m_known.erase(found);
 }
 
 CredentialStore::Outcome CredentialStore::ask(const QString &realm,

@@ -19,6 +19,8 @@ struct Credentials
 {
     QString user;
     QString password;
+
+    bool operator==(const Credentials &) const = default;
 };
 
 /// What a person is asked before a password is sent.
@@ -53,8 +55,8 @@ public:
 
     /// What was given before; nothing when nobody was asked yet.
     std::optional<Credentials> known(const QString &realm) const;
-    /// They turned out wrong, so the next one is asked again.
-    void forget(const QString &realm);
+    /// They turned out wrong, so the next one is asked again; unless others were given meanwhile.
+    void forget(const QString &realm, const Credentials &refused);
 
     struct Outcome
     {

@@ -5,10 +5,11 @@
 #include <utility>
 
 #include <poll.h>
-#include <unistd.h>
 
 #include <QIODevice>
 #include <QLoggingCategory>
+
+#include "dialog/server/AnswerReader.h"
 
 namespace corvana {
 
@@ -16,22 +17,15 @@ Q_LOGGING_CATEGORY(lcServer, "corvana.dialog.server", QtWarningMsg)
 
 namespace {
 
-// How often a wait is interrupted to see whether it is still wanted. Units: seconds.
-constexpr double kLookAround = 0.2;
 // Authentication, TLS and a broken connection may each ask for the same once more.
 constexpr int kMostAttempts = 6;
 constexpr qint64 kBlock = 65536;
 // No PPD is that large; an endless answer must not fill the memory. Units: bytes.
-constexpr qsizetype kLargestFile = 32 * 1024 * 1024;
-
-// libcups waits for a connection while an int is 0.
-static_assert(sizeof(CancelFlag) == sizeof(int) && CancelFlag::is_always_lock_free);
-
-struct CredentialsDeleter
-{
-    void operator()(cups_array_t *credentials) const { httpFreeCredentials(credentials); }
-};
-using Certificates = std::unique_ptr<cups_array_t, CredentialsDeleter>;
+constexpr qint64 kLargestFile = 32 * 1024 * 1024;
+// What CUPS says of 10,000 queues when it says all, 10 KB of each, where a server knows no "limit".
+constexpr qint64 kLargestAnswer = 128 * 1024 * 1024;
+// What is said beside a refusal is of no use; this much is passed over to keep the connection.
+constexpr qint64 kLargestRefusal = 65536;
 
 // Why there is no connection. libcups says "Host is down" of every host that it does not get to.
 QString reasonOfLibcups()
@@ -40,30 +34,10 @@ QString reasonOfLibcups()
     return reason == qt_error_string(EHOSTDOWN) ? QString() : reason;
 }
 
-// "a.example.com (issued by …) / 8 hex digits…": what libcups says of a certificate.
-QString describe(cups_array_t *certificates)
-{
-    std::array<char, 1024> text{};
-    httpCredentialsString(certificates, text.data(), text.size());
-    return shownText(text.data());
-}
-
 } // namespace
 
-ServerPatience ServerPatience::fromEnvironment()
-{
-    ServerPatience patience;
-    bool isNumber = false;
-    const double seconds = qEnvironmentVariable("CORVANA_PRINT_PATIENCE").toDouble(&isNumber);
-    if (isNumber && seconds > 0 && seconds <= 3600) {
-        patience.connecting = std::chrono::milliseconds(static_cast<qint64>(seconds * 1000));
-        patience.answering = patience.connecting;
-    }
-    return patience;
-}
-
 ServerConnection::ServerConnection(ServerContext context, CancelFlag *canceled)
-    : m_context(std::move(context)), m_canceled(canceled)
+    : m_context(std::move(context)), m_wait(m_context.patience.answering, canceled)
 {
     // A setting of the calling thread alone.
     if (m_context.credentials) {
@@ -83,7 +57,7 @@ ServerConnection::~ServerConnection()
 void ServerConnection::prepare()
 {
     m_problem = {};
-    m_passwordGiven = false;
+    m_given.reset();
     // Of the thread, which may have several connections.
     cupsSetPasswordCB2(&ServerConnection::passwordWanted, this);
     if (!m_http)
@@ -101,8 +75,7 @@ bool ServerConnection::open()
     const QByteArray host = m_context.address.host.toUtf8();
     m_http = httpConnect2(host.constData(), m_context.address.port, nullptr, AF_UNSPEC,
                           m_context.address.encryption, 1,
-                          static_cast<int>(m_context.patience.connecting.count()),
-                          reinterpret_cast<int *>(m_canceled));
+                          static_cast<int>(m_context.patience.connecting.count()), m_wait.flag());
     if (!m_http) {
         const int error = errno;
         if (isCanceled())
@@ -113,8 +86,8 @@ bool ServerConnection::open()
             fail(ServerProblem::Kind::Unreachable, reasonOfLibcups());
         return false;
     }
-    httpSetTimeout(m_http, kLookAround, &ServerConnection::waitedLong, this);
-    startWaiting();
+    m_wait.watch(m_http);
+    m_wait.start();
     return keepsOnlyTrusted();
 }
 
@@ -135,74 +108,31 @@ void ServerConnection::close()
 
 bool ServerConnection::reconnect()
 {
-    startWaiting();
+    m_wait.start();
     if (httpReconnect2(m_http, static_cast<int>(m_context.patience.connecting.count()),
-                       reinterpret_cast<int *>(m_canceled)) == 0)
+                       m_wait.flag()) == 0)
         return keepsOnlyTrusted();
     noteFailure(HTTP_STATUS_ERROR);
     return false;
 }
 
-void ServerConnection::startWaiting()
-{
-    m_timedOut = false;
-    m_deadline = std::chrono::steady_clock::now() + m_context.patience.answering;
-}
-
-// libcups asks every moment of a wait whether to go on.
-int ServerConnection::waitedLong(http_t *, void *self)
-{
-    auto *connection = static_cast<ServerConnection *>(self);
-    if (connection->isCanceled())
-        return 0;
-    if (std::chrono::steady_clock::now() < connection->m_deadline)
-        return 1;
-    connection->m_timedOut = true;
-    return 0;
-}
-
-// The first certificate of a server is taken and remembered, as libcups is configured; one that
-// takes its place without being its renewal is not.
 bool ServerConnection::trustsCertificate()
 {
     if (!httpIsEncrypted(m_http))
         return true;
-    // What root has seen libcups keeps among the certificates of this machine's own print server.
-    if (m_context.address.isLocal() && ::geteuid() == 0)
+    const CertificateVerdict verdict = m_context.trust.judge(m_context.address, m_http);
+    switch (verdict.kind) {
+    case CertificateVerdict::Kind::Trusted:
         return true;
-    cups_array_t *taken = nullptr;
-    const bool copied = httpCopyCredentials(m_http, &taken) == 0;
-    const Certificates certificates(taken);
-    if (!copied || !certificates) {
-        fail(ServerProblem::Kind::CertificateInvalid);
-        return false;
-    }
-    const QByteArray host = m_context.address.host.toUtf8();
-    cups_array_t *loaded = nullptr;
-    const bool isKnown = httpLoadCredentials(nullptr, &loaded, host.constData()) == 0 && loaded;
-    const Certificates known(loaded);
-    const http_trust_t trust = httpCredentialsGetTrust(certificates.get(), host.constData());
-    qCDebug(lcServer) << "certificate:" << describe(certificates.get()) << "trust" << trust;
-    switch (trust) {
-    case HTTP_TRUST_OK:
-    case HTTP_TRUST_RENEWED:
-        if (!isKnown)
-            httpSaveCredentials(nullptr, certificates.get(), host.constData());
-        return true;
-    case HTTP_TRUST_UNKNOWN:
-        if (!isKnown) {
-            httpSaveCredentials(nullptr, certificates.get(), host.constData());
-            return true;
-        }
+    case CertificateVerdict::Kind::Changed:
+        fail(ServerProblem::Kind::CertificateChanged, verdict.certificate);
+        m_problem.file = verdict.knownFrom;
+        m_problem.entry = verdict.entry;
         break;
-    case HTTP_TRUST_CHANGED:
-        fail(ServerProblem::Kind::CertificateChanged, describe(certificates.get()));
-        return false;
-    case HTTP_TRUST_INVALID:
-    case HTTP_TRUST_EXPIRED:
+    case CertificateVerdict::Kind::Invalid:
+        fail(ServerProblem::Kind::CertificateInvalid, verdict.certificate);
         break;
     }
-    fail(ServerProblem::Kind::CertificateInvalid, describe(certificates.get()));
     return false;
 }
 
@@ -218,66 +148,141 @@ IppMessage ServerConnection::request(IppMessage message, const QByteArray &resou
     return exchange(std::move(message), resource, &document, progress);
 }
 
+// Sends until there is an answer that asks neither for a password nor for encryption. Answers its
+// status; nothing when there is none, problem() says why.
+std::optional<http_status_t>
+ServerConnection::converse(const char *method, const QByteArray &resource, const Sender &send)
+{
+    prepare();
+    for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
+        if (isCanceled()) {
+            fail(ServerProblem::Kind::Canceled);
+            return std::nullopt;
+        }
+        if (!open())
+            return std::nullopt;
+        m_wait.start();
+        http_status_t status = send();
+        if (!m_problem && status == HTTP_STATUS_CONTINUE)
+            status = awaitAnswer();
+        if (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_UPGRADE_REQUIRED)
+            m_documentSent = false; // it was, and was refused
+        if (!m_problem && status == HTTP_STATUS_UNAUTHORIZED) {
+            if (authenticate(method, resource))
+                continue;
+            status = HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+        } else if (!m_problem && status == HTTP_STATUS_UPGRADE_REQUIRED) {
+            if (goOverToTls())
+                continue;
+        } else if (!m_problem && status > HTTP_STATUS_CONTINUE) {
+            return status;
+        }
+        noteFailure(status);
+        close();
+        return std::nullopt;
+    }
+    fail(ServerProblem::Kind::NotUnderstood);
+    return std::nullopt;
+}
+
+http_status_t ServerConnection::awaitAnswer()
+{
+    // A request that could not be sent to its end: libcups has read what came instead, if anything.
+    const http_state_t state = httpGetState(m_http);
+    if (state == HTTP_STATE_WAITING || state == HTTP_STATE_ERROR || state == HTTP_STATE_POST)
+        return httpGetStatus(m_http);
+    m_wait.start();
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    do
+        status = httpUpdate(m_http);
+    while (status == HTTP_STATUS_CONTINUE && !m_wait.isOver());
+    return status;
+}
+
+bool ServerConnection::authenticate(const char *method, const QByteArray &resource)
+{
+    return cupsDoAuthentication(m_http, method, resource.constData()) == 0 && reconnect();
+}
+
+bool ServerConnection::goOverToTls()
+{
+    // A server that asks for it on an encrypted connection asks for what there is not.
+    if (m_context.address.encryption == HTTP_ENCRYPTION_NEVER || httpIsEncrypted(m_http) ||
+        !reconnect() || httpEncryption(m_http, HTTP_ENCRYPTION_REQUIRED) != 0) {
+        if (!m_problem)
+            fail(ServerProblem::Kind::EncryptionMissing);
+        return false;
+    }
+    return keepsOnlyTrusted();
+}
+
 IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &resource,
                                       QIODevice *document,
                                       const std::function<void(qint64)> &progress)
 {
-    prepare();
     m_documentSent = false;
     m_requestSent = false;
     qCDebug(lcServer) << ippOpString(ippGetOperation(message.get())) << resource;
-    for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
-        if (isCanceled()) {
-            fail(ServerProblem::Kind::Canceled);
-            return nullptr;
-        }
-        if (!open())
-            return nullptr;
-        startWaiting();
-        if (document && !document->seek(0)) {
-            fail(ServerProblem::Kind::DocumentUnreadable, document->errorString());
-            return nullptr;
-        }
-        size_t length = ippLength(message.get());
-        if (document)
-            length += static_cast<size_t>(document->size());
-        ippSetState(message.get(), IPP_STATE_IDLE);
-        m_requestSent = true;
-        http_status_t status = cupsSendRequest(m_http, message.get(), resource.constData(), length);
-        // libcups goes over to TLS, and to a new connection, by itself.
-        if ((status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) && !keepsOnlyTrusted())
-            return nullptr;
-        m_documentSent = false;
-        if (document && status == HTTP_STATUS_CONTINUE)
-            m_documentSent = sendDocument(*document, progress);
-        if (document && m_problem)
-            return nullptr; // the document could not be read
-        startWaiting();
-        IppMessage response;
-        if (status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK)
-            response.reset(cupsGetResponse(m_http, resource.constData()));
-        status = response ? HTTP_STATUS_OK : httpGetStatus(m_http);
-        if (response) {
-            if (ippGetState(response.get()) != IPP_STATE_DATA &&
-                ippGetState(response.get()) != IPP_STATE_IDLE) {
-                close();
-                fail(ServerProblem::Kind::NotUnderstood);
-                return nullptr;
-            }
-            const ipp_status_t said = ippGetStatusCode(response.get());
-            // "Redirection" and above are refusals; ignored attributes are not.
-            if (said < IPP_STATUS_REDIRECTION_OTHER_SITE)
-                return response;
-            fail(said == IPP_STATUS_ERROR_NOT_FOUND ? ServerProblem::Kind::NotFound
-                                                    : ServerProblem::Kind::Refused,
-                 ippText(ippFindAttribute(response.get(), "status-message", IPP_TAG_ZERO)));
-            m_problem.status = said;
-            return nullptr;
-        }
-        if (!goOnAfter(status))
-            return nullptr;
+    const auto status = converse(
+        "POST", resource, [&] { return sendIpp(message.get(), resource, document, progress); });
+    if (!status)
+        return nullptr;
+    if (*status != HTTP_STATUS_OK) {
+        noteFailure(*status);
+        close();
+        return nullptr;
     }
-    fail(ServerProblem::Kind::NotUnderstood);
+    return unlessRefused(readIpp());
+}
+
+http_status_t ServerConnection::sendIpp(ipp_t *message, const QByteArray &resource,
+                                        QIODevice *document,
+                                        const std::function<void(qint64)> &progress)
+{
+    m_documentSent = false;
+    if (document && !document->seek(0)) {
+        fail(ServerProblem::Kind::DocumentUnreadable, document->errorString());
+        return HTTP_STATUS_ERROR;
+    }
+    size_t length = ippLength(message);
+    if (document)
+        length += static_cast<size_t>(document->size());
+    ippSetState(message, IPP_STATE_IDLE);
+    m_requestSent = true;
+    const http_status_t status = cupsSendRequest(m_http, message, resource.constData(), length);
+    if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK)
+        return httpGetStatus(m_http);
+    // libcups goes over to TLS, and to a new connection, by itself.
+    if (!keepsOnlyTrusted())
+        return HTTP_STATUS_ERROR;
+    if (document && status == HTTP_STATUS_CONTINUE)
+        m_documentSent = sendDocument(*document, progress);
+    return HTTP_STATUS_CONTINUE;
+}
+
+// The message, or null where there is none.
+IppMessage ServerConnection::readIpp()
+{
+    AnswerReader reader(m_http, m_wait, kLargestAnswer);
+    IppMessage message = reader.readIpp();
+    if (!message)
+        noteUnread(reader);
+    if (!message || !reader.skipRest())
+        close();
+    return message;
+}
+
+// Null for an answer that says no.
+IppMessage ServerConnection::unlessRefused(IppMessage response)
+{
+    // "Redirection" and above are refusals; ignored attributes are not.
+    if (!response || ippGetStatusCode(response.get()) < IPP_STATUS_REDIRECTION_OTHER_SITE)
+        return response;
+    const ipp_status_t said = ippGetStatusCode(response.get());
+    fail(said == IPP_STATUS_ERROR_NOT_FOUND ? ServerProblem::Kind::NotFound
+                                            : ServerProblem::Kind::Refused,
+         ippText(ippFindAttribute(response.get(), "status-message", IPP_TAG_ZERO)));
+    m_problem.status = said;
     return nullptr;
 }
 
@@ -294,7 +299,7 @@ bool ServerConnection::sendDocument(QIODevice &document,
             fail(ServerProblem::Kind::DocumentUnreadable, document.errorString());
             return false;
         }
-        startWaiting();
+        m_wait.start();
         if (isCanceled() ||
             cupsWriteRequestData(m_http, block.data(), static_cast<size_t>(length)) !=
                 HTTP_STATUS_CONTINUE)
@@ -306,30 +311,13 @@ bool ServerConnection::sendDocument(QIODevice &document,
     return true;
 }
 
-// Whether the same request may be sent again after an answer that was none.
-bool ServerConnection::goOnAfter(http_status_t status)
-{
-    if (!m_problem && status == HTTP_STATUS_UNAUTHORIZED)
-        return keepsOnlyTrusted(); // libcups has the password and a new connection
-    if (!m_problem && status == HTTP_STATUS_UPGRADE_REQUIRED) {
-        if (m_context.address.encryption != HTTP_ENCRYPTION_NEVER && httpIsEncrypted(m_http))
-            return keepsOnlyTrusted();
-        fail(ServerProblem::Kind::EncryptionMissing);
-        close();
-        return false;
-    }
-    noteFailure(status);
-    close();
-    return false;
-}
-
 void ServerConnection::noteFailure(http_status_t status)
 {
     if (m_problem)
         return; // known better, by who was asked for a password
     if (isCanceled())
         return fail(ServerProblem::Kind::Canceled);
-    if (m_timedOut)
+    if (m_wait.timedOut())
         return fail(ServerProblem::Kind::NoAnswer);
     switch (status) {
     case HTTP_STATUS_FORBIDDEN:
@@ -351,6 +339,14 @@ void ServerConnection::noteFailure(http_status_t status)
     fail(ServerProblem::Kind::ConnectionLost, QString::fromLocal8Bit(strerror(error)));
 }
 
+void ServerConnection::noteUnread(const AnswerReader &reader)
+{
+    if (reader.end() == AnswerReader::End::Broken)
+        noteFailure(HTTP_STATUS_ERROR);
+    else
+        fail(ServerProblem::Kind::NotUnderstood);
+}
+
 void ServerConnection::fail(ServerProblem::Kind kind, const QString &detail)
 {
     m_problem = {kind, detail};
@@ -359,83 +355,50 @@ void ServerConnection::fail(ServerProblem::Kind kind, const QString &detail)
 
 ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 modifiedSince)
 {
-    prepare();
     qCDebug(lcServer) << "GET" << resource;
-    for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
-        if (isCanceled()) {
-            fail(ServerProblem::Kind::Canceled);
-            return {};
-        }
-        if (!open())
-            return {};
-        startWaiting();
-        httpClearFields(m_http);
-        if (const char *authorization = httpGetAuthString(m_http))
-            httpSetField(m_http, HTTP_FIELD_AUTHORIZATION, authorization);
-        if (modifiedSince > 0) {
-            std::array<char, 64> date{};
-            httpSetField(
-                m_http, HTTP_FIELD_IF_MODIFIED_SINCE,
-                httpGetDateString2(modifiedSince, date.data(), static_cast<int>(date.size())));
-        }
-        http_status_t status = HTTP_STATUS_ERROR;
-        if (httpGet(m_http, resource.constData()) == 0) {
-            do
-                status = httpUpdate(m_http);
-            while (status == HTTP_STATUS_CONTINUE && !isCanceled() &&
-                   std::chrono::steady_clock::now() < m_deadline);
-        } else if (attempt == 0) {
-            // A connection that had been idle for too long.
-            if (!reconnect())
-                return {};
-            continue;
-        }
-        if (status == HTTP_STATUS_OK) {
-            File file{File::State::Read,
-                      {},
-                      httpGetDateTime(httpGetField(m_http, HTTP_FIELD_LAST_MODIFIED))};
-            std::array<char, kBlock> block{};
-            for (;;) {
-                startWaiting();
-                const ssize_t length = httpRead2(m_http, block.data(), block.size());
-                if (length < 0 || file.content.size() > kLargestFile || isCanceled()) {
-                    noteFailure(HTTP_STATUS_ERROR);
-                    close();
-                    return {};
-                }
-                if (length == 0)
-                    break;
-                file.content.append(block.data(), length);
-            }
-            if (httpError(m_http) != 0 || m_timedOut) {
-                noteFailure(HTTP_STATUS_ERROR);
-                close();
-                return {};
-            }
+    const auto status = converse("GET", resource, [&] { return sendGet(resource, modifiedSince); });
+    if (!status)
+        return {};
+    if (*status == HTTP_STATUS_OK) {
+        File file{
+            File::State::Read, {}, httpGetDateTime(httpGetField(m_http, HTTP_FIELD_LAST_MODIFIED))};
+        AnswerReader reader(m_http, m_wait, kLargestFile);
+        if (auto content = reader.readAll()) {
+            file.content = std::move(*content);
             return file;
         }
-        // Behind what is no answer, nothing can be expected to end.
-        if (status != HTTP_STATUS_ERROR)
-            httpFlush(m_http);
-        if (status == HTTP_STATUS_NOT_MODIFIED)
-            return {File::State::Unchanged, {}, modifiedSince};
-        if (status == HTTP_STATUS_NOT_FOUND)
-            return {File::State::Missing, {}, 0};
-        if (status == HTTP_STATUS_UNAUTHORIZED) {
-            if (cupsDoAuthentication(m_http, "GET", resource.constData()) != 0)
-                status = HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-            else if (!reconnect())
-                return {};
-        } else if (status == HTTP_STATUS_UPGRADE_REQUIRED) {
-            if (!reconnect())
-                return {};
-            httpEncryption(m_http, HTTP_ENCRYPTION_REQUIRED);
-        }
-        if (!goOnAfter(status))
-            return {};
+        noteUnread(reader);
+        close();
+        return {};
     }
-    fail(ServerProblem::Kind::NotUnderstood);
-    return {};
+    const bool isUnchanged = *status == HTTP_STATUS_NOT_MODIFIED;
+    if (!isUnchanged && *status != HTTP_STATUS_NOT_FOUND) {
+        noteFailure(*status);
+        close();
+        return {};
+    }
+    if (!AnswerReader(m_http, m_wait, kLargestRefusal).readAll())
+        close();
+    return isUnchanged ? File{File::State::Unchanged, {}, modifiedSince}
+                       : File{File::State::Missing, {}, 0};
+}
+
+http_status_t ServerConnection::sendGet(const QByteArray &resource, qint64 modifiedSince)
+{
+    httpClearFields(m_http);
+    if (const char *authorization = httpGetAuthString(m_http))
+        httpSetField(m_http, HTTP_FIELD_AUTHORIZATION, authorization);
+    if (modifiedSince > 0) {
+        std::array<char, 64> date{};
+        httpSetField(m_http, HTTP_FIELD_IF_MODIFIED_SINCE,
+                     httpGetDateString2(modifiedSince, date.data(), static_cast<int>(date.size())));
+    }
+    // A connection that had been idle for too long is made anew.
+    if (httpGet(m_http, resource.constData()) != 0 &&
+        (!reconnect() || httpGet(m_http, resource.constData()) != 0))
+        return HTTP_STATUS_ERROR;
+    // So does libcups, by itself, after a refusal.
+    return keepsOnlyTrusted() ? HTTP_STATUS_CONTINUE : HTTP_STATUS_ERROR;
 }
 
 QString ServerConnection::realm() const
@@ -452,17 +415,19 @@ const char *ServerConnection::passwordWanted(const char *, http_t *http, const c
 // A password is given once for a request: libcups would ask three times for the same.
 const char *ServerConnection::givePassword(http_t *http)
 {
+    if (m_problem)
+        return nullptr;
     const auto &store = m_context.credentials;
-    if (std::exchange(m_passwordGiven, true)) {
+    if (m_given) {
         if (store)
-            store->forget(realm());
+            store->forget(realm(), *m_given);
         fail(ServerProblem::Kind::PasswordRefused);
         return nullptr;
     }
     if (!trustsCertificate())
         return nullptr;
-    std::optional<Credentials> credentials = store ? store->known(realm()) : std::nullopt;
-    if (!credentials) {
+    m_given = store ? store->known(realm()) : std::nullopt;
+    if (!m_given) {
         if (!store || !m_context.mayAsk) {
             fail(ServerProblem::Kind::PasswordNeeded);
             return nullptr;
@@ -472,16 +437,16 @@ const char *ServerConnection::givePassword(http_t *http)
                        {m_context.address, QString::fromUtf8(cupsUser()),
                         httpIsEncrypted(http) != 0 || m_context.address.isLocal(), false},
                        [this] { return isCanceled(); });
-        startWaiting(); // a person takes the time that a person takes
-        credentials = outcome.credentials;
-        if (!credentials) {
+        m_wait.start(); // a person takes the time that a person takes
+        m_given = outcome.credentials;
+        if (!m_given) {
             fail(outcome.nobodyToAsk ? ServerProblem::Kind::PasswordNeeded
                                      : ServerProblem::Kind::PasswordCanceled);
             return nullptr;
         }
     }
-    cupsSetUser(credentials->user.toUtf8().constData());
-    m_password = credentials->password.toUtf8();
+    cupsSetUser(m_given->user.toUtf8().constData());
+    m_password = m_given->password.toUtf8();
     return m_password.constData();
 }
 

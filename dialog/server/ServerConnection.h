@@ -1,31 +1,24 @@
 #pragma once
 
-#include <atomic>
-#include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QByteArray>
 #include <QString>
 
+#include "dialog/server/CertificateTrust.h"
 #include "dialog/server/CredentialStore.h"
 #include "dialog/server/IppMessage.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/server/ServerProblem.h"
+#include "dialog/server/ServerWait.h"
 
 class QIODevice;
 
 namespace corvana {
 
-/// How long a server is waited for.
-struct ServerPatience
-{
-    std::chrono::milliseconds connecting{10000};
-    std::chrono::milliseconds answering{20000}; ///< without a single byte
-
-    /// The environment variable CORVANA_PRINT_PATIENCE gives both, in seconds.
-    static ServerPatience fromEnvironment();
-};
+class AnswerReader;
 
 /// Which server, and who is asked for passwords.
 struct ServerContext
@@ -35,14 +28,14 @@ struct ServerContext
     /// Whether the user is waiting for it and may be asked; what runs in the background may not.
     bool mayAsk = false;
     ServerPatience patience = ServerPatience::fromEnvironment();
+    CertificateTrust trust{}; ///< which servers are known, and by whom others may be vouched for
 };
-
-/// Set by one thread, looked at by others.
-using CancelFlag = std::atomic<int>;
 
 /// One connection to a print server, with bounded waits, each of which can be canceled. It asks for
 /// a password when the server wants one, once; it goes over to TLS when the server wants that; and
-/// it tells a certificate that has changed from one that is known before it sends anything secret.
+/// it sends no document to, and takes no answer from, a server that shows another key than the one
+/// that is known. The exception is libcups' own: when it repeats a request with a password, it does
+/// so on a new connection that nobody has looked at yet.
 ///
 /// Thread: one worker; never the GUI thread, since every operation waits for a network.
 class ServerConnection
@@ -86,35 +79,44 @@ public:
     bool requestWasSent() const { return m_requestSent; }
 
 private:
+    /// Sends a request, and answers CONTINUE when its answer is to be waited for.
+    using Sender = std::function<http_status_t()>;
+
     void prepare();
     bool open();
     void close();
+    bool reconnect();
+    bool keepsOnlyTrusted();
+    bool trustsCertificate();
+    std::optional<http_status_t> converse(const char *method, const QByteArray &resource,
+                                          const Sender &send);
     IppMessage exchange(IppMessage message, const QByteArray &resource, QIODevice *document,
                         const std::function<void(qint64)> &progress);
+    http_status_t sendIpp(ipp_t *message, const QByteArray &resource, QIODevice *document,
+                          const std::function<void(qint64)> &progress);
     bool sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
-    bool goOnAfter(http_status_t status);
-    bool trustsCertificate();
-    bool keepsOnlyTrusted();
-    bool reconnect();
+    http_status_t sendGet(const QByteArray &resource, qint64 modifiedSince);
+    http_status_t awaitAnswer();
+    bool authenticate(const char *method, const QByteArray &resource);
+    bool goOverToTls();
+    IppMessage readIpp();
+    IppMessage unlessRefused(IppMessage response);
+    void noteUnread(const AnswerReader &reader);
     void noteFailure(http_status_t status);
     void fail(ServerProblem::Kind kind, const QString &detail = {});
-    bool isCanceled() const { return m_canceled && m_canceled->load() != 0; }
-    void startWaiting();
+    bool isCanceled() const { return m_wait.isCanceled(); }
     QString realm() const;
     const char *givePassword(http_t *http);
 
-    static int waitedLong(http_t *http, void *self);
     static const char *passwordWanted(const char *prompt, http_t *http, const char *method,
                                       const char *resource, void *self);
 
     ServerContext m_context;
-    CancelFlag *m_canceled;
+    ServerWait m_wait;
     http_t *m_http = nullptr;
-    std::chrono::steady_clock::time_point m_deadline;
     ServerProblem m_problem;
-    QByteArray m_password; // libcups borrows it while it authenticates
-    bool m_passwordGiven = false;
-    bool m_timedOut = false;
+    std::optional<Credentials> m_given; // for this request, right or wrong
+    QByteArray m_password;              // libcups borrows it while it authenticates
     bool m_documentSent = false;
     bool m_requestSent = false;
 };

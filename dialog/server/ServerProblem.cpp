@@ -47,10 +47,15 @@ QString ServerProblem::text(const ServerAddress &server) const
                           detail);
     case Kind::CertificateChanged:
         return withDetail(
-            Texts::tr("The certificate of the print server “%1” is not the one that it had before: "
-                      "somebody has replaced it, or stands in between. If it was replaced on "
-                      "purpose, remove the file %2.")
-                .arg(who, QStringLiteral("~/.cups/ssl/%1.crt").arg(server.host)),
+            entry.isEmpty()
+                ? Texts::tr("The certificate of the print server “%1” is not the one that it had "
+                            "before: somebody has replaced it, or stands in between. If it was "
+                            "replaced on purpose, remove the file %2.")
+                      .arg(who, file)
+                : Texts::tr("The certificate of the print server “%1” is not the one that it had "
+                            "before: somebody has replaced it, or stands in between. If it was "
+                            "replaced on purpose, remove the line “%2” from the file %3.")
+                      .arg(who, entry, file),
             detail);
     case Kind::CertificateInvalid:
         return withDetail(

@@ -33,6 +33,8 @@ struct ServerProblem
     Kind kind = Kind::None;
     QString detail{};                    ///< the server's or the system's own words, if any
     ipp_status_t status = IPP_STATUS_OK; ///< for `Refused`
+    QString file{};                      ///< for `CertificateChanged`: what knows the former one
+    QString entry{};                     ///< the line of that file; empty where it is all of it
 
     explicit operator bool() const { return kind != Kind::None; }
     bool operator==(const ServerProblem &) const = default;

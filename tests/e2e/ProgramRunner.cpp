@@ -96,7 +96,8 @@ ProgramRunner::ProgramRunner(const QString &server)
         m_environment.remove(QString::fromLatin1(name));
     setVariable(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     setVariable(QStringLiteral("HOME"), m_home.path());
-    for (const char *name : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+    for (const char *name :
+         {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
         const QString folder = filePath(QString::fromLatin1(name));
         QDir().mkpath(folder);
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

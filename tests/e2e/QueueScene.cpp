@@ -18,7 +18,8 @@ UserFolders::UserFolders()
     const std::pair<const char *, QString> folders[] = {
         {"HOME", QStringLiteral("home")},
         {"XDG_CONFIG_HOME", QStringLiteral("config")},
-        {"XDG_CACHE_HOME", QStringLiteral("cache")}};
+        {"XDG_CACHE_HOME", QStringLiteral("cache")},
+        {"XDG_DATA_HOME", QStringLiteral("data")}};
     for (const auto &[name, folder] : folders) {
         if (!QDir(m_folder.path()).mkdir(folder))
             throw std::runtime_error("no temporary folder");

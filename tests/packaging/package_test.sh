@@ -56,7 +56,7 @@ everythingTheProgramNeedsToRunIsAskedFor() {
 
 theLibrariesAreAskedForInTheVersionsThatWereBuiltWith() {
     local library
-    for library in libqt6core6 libqt6widgets6 libqt6uitools6 libcups2 libpoppler-qt6-3 libhwy1; do
+    for library in libqt6core6 libqt6widgets6 libqt6uitools6 libcups2 libgnutls30 libpoppler-qt6-3 libhwy1; do
         [[ $(field Depends) == *"$library"*" (>= "* ]] || fail "$library is not asked for" "$(field Depends)"
     done
 }

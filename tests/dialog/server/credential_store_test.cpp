@@ -107,16 +107,23 @@ private Q_SLOTS:
     void othersAreAskedForOnTheirOwn()
     {
         keepQuestions();
+        const QString other = u"a.other:631"_s;
+        const auto about = [](const QString &host) {
+            CredentialsQuestion question;
+            question.server.host = host;
+            return question;
+        };
         {
-            const WorkerThread first([&] { m_store->ask(kRealm, {}, never); });
-            const WorkerThread second([&] { m_store->ask(u"other:631"_s, {}, never); });
+            const WorkerThread first([&] { m_store->ask(kRealm, about(kRealm), never); });
+            const WorkerThread second([&] { m_store->ask(other, about(other), never); });
             QTRY_COMPARE(m_questions.size(), 2);
-            m_answers.at(0)(kLisa);
-            m_answers.at(1)(std::nullopt);
+            for (const int i : {1, 0}) {
+                const bool isFirst = m_questions.at(i).server.host == kRealm;
+                m_answers.at(i)(isFirst ? std::optional(kLisa) : std::nullopt);
+            }
         }
-        const bool first = m_store->known(kRealm).has_value();
-        const bool other = m_store->known(u"other:631"_s).has_value();
-        QVERIFY(first != other);
+        QVERIFY(m_store->known(kRealm) == kLisa);
+        QVERIFY(!m_store->known(other));
     }
 
     void whatWasGivenIsNotAskedAgainUntilItIsForgotten()
@@ -129,10 +136,33 @@ private Q_SLOTS:
         QCOMPARE(m_questions.size(), 1);
         QCOMPARE(again.credentials->user, u"lisa"_s);
 
-        m_store->forget(kRealm);
+        m_store->forget(kRealm, kLisa);
         QVERIFY(!m_store->known(kRealm));
         onWorker([&] { m_store->ask(kRealm, {}, never); });
         QCOMPARE(m_questions.size(), 2);
+    }
+
+    // A refusal takes its time, and somebody else may have been asked again meanwhile.
+    void whatWasGivenMeanwhileIsNotForgotten_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<bool>("isForgotten");
+        QTest::newRow("the refused ones") << kLisa.user << kLisa.password << true;
+        QTest::newRow("another password") << kLisa.user << u"newer"_s << false;
+        QTest::newRow("another user") << u"bart"_s << kLisa.password << false;
+    }
+    void whatWasGivenMeanwhileIsNotForgotten()
+    {
+        QFETCH(QString, user);
+        QFETCH(QString, password);
+        QFETCH(bool, isForgotten);
+        answerAtOnce(Credentials{user, password});
+        onWorker([&] { m_store->ask(kRealm, {}, never); });
+        m_store->forget(u"other:631"_s, {user, password});
+        QVERIFY(m_store->known(kRealm));
+        m_store->forget(kRealm, kLisa);
+        QCOMPARE(!m_store->known(kRealm), isForgotten);
     }
 
     void whoeverDoesNotWantToIsAskedAgainNextTime()

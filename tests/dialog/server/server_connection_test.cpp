@@ -1,15 +1,11 @@
-#include <array>
+#include <optional>
 
 #include <QBuffer>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/server/ServerConnection.h"
+#include "tests/dialog/server/ServerScene.h"
 #include "tests/dialog/server/WorkerThread.h"
-#include "tests/support/PpdBuilder.h"
 #include "tests/support/cups/CannedServer.h"
-#include "tests/support/cups/FaultyServer.h"
-#include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -19,22 +15,6 @@ using Kind = ServerProblem::Kind;
 using State = ServerConnection::File::State;
 
 namespace {
-
-const QString kQueue = u"office"_s;
-
-ServerContext contextFor(quint16 port, std::chrono::milliseconds patience = 10s)
-{
-    ServerContext context;
-    context.address = {u"127.0.0.1"_s, port, HTTP_ENCRYPTION_IF_REQUESTED};
-    context.patience = {patience, patience};
-    return context;
-}
-
-IppMessage aboutQueue(ipp_op_t operation = IPP_OP_GET_PRINTER_ATTRIBUTES,
-                      const QString &queue = kQueue)
-{
-    return newIppRequest(operation, queueUri(queue));
-}
 
 /// A device whose reading fails behind the first bytes, as a file on a broken disk.
 class BrokenDevice : public QBuffer
@@ -55,9 +35,6 @@ protected:
 
 } // namespace
 
-Q_DECLARE_METATYPE(FaultyServer::Manner)
-Q_DECLARE_METATYPE(ServerProblem::Kind)
-
 /// One connection, against servers in every manner.
 class ServerConnectionTest : public QObject
 {
@@ -66,28 +43,23 @@ class ServerConnectionTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // Certificates are remembered there.
-        qputenv("HOME", QFile::encodeName(m_home.path()));
         if (!PrivateCups::isAvailable())
             QSKIP("no CUPS server here");
-        m_cups = std::make_unique<PrivateCups>();
-        m_cups->start();
-        m_cups->addRawQueue(kQueue);
+        m_scene.emplace();
     }
-    void cleanupTestCase() { m_cups.reset(); }
-    void init() { m_server = std::make_unique<FaultyServer>(m_cups->port()); }
-    void cleanup() { m_server.reset(); }
+    void cleanupTestCase() { m_scene.reset(); }
+    void init() { m_scene->anew(); }
 
     void aRequestIsAnsweredOnOneConnection()
     {
-        ServerConnection connection(contextFor(m_server->port()), nullptr);
+        ServerConnection connection(contextFor(m_scene->server->port()), nullptr);
         for (int i = 0; i < 3; ++i) {
             const IppMessage answer = connection.request(aboutQueue());
             QVERIFY(answer);
             QVERIFY(!connection.problem());
             QCOMPARE(ippText(ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME)), kQueue);
         }
-        QCOMPARE(m_server->acceptedConnections(), 1);
+        QCOMPARE(m_scene->server->acceptedConnections(), 1);
     }
 
     void whatGoesWrongIsSaid_data()
@@ -98,7 +70,7 @@ private Q_SLOTS:
         using Manner = FaultyServer::Manner;
         QTest::newRow("never answers") << Manner::NeverAnswers << Kind::NoAnswer << true;
         QTest::newRow("hangs up") << Manner::HangsUp << Kind::ConnectionLost << true;
-        QTest::newRow("answers garbage") << Manner::Babbles << Kind::NotUnderstood << true;
+        QTest::newRow("babbles") << Manner::Babbles << Kind::NotUnderstood << true;
         QTest::newRow("refuses") << Manner::Refuses << Kind::Unreachable << false;
     }
     void whatGoesWrongIsSaid()
@@ -106,8 +78,8 @@ private Q_SLOTS:
         QFETCH(FaultyServer::Manner, manner);
         QFETCH(ServerProblem::Kind, kind);
         QFETCH(bool, wasSent);
-        m_server->setManner(manner);
-        ServerConnection connection(contextFor(m_server->port(), 3s), nullptr);
+        m_scene->server->setManner(manner);
+        ServerConnection connection(contextFor(m_scene->server->port(), 3s), nullptr);
         QVERIFY(!connection.request(aboutQueue()));
         QCOMPARE(connection.problem().kind, kind);
         QVERIFY(connection.problem().mayPass());
@@ -116,19 +88,19 @@ private Q_SLOTS:
         QCOMPARE(connection.problem().kind, kind);
 
         // The same object does its work as soon as the server does.
-        m_server->setManner(FaultyServer::Manner::Passes);
+        m_scene->server->setManner(FaultyServer::Manner::Passes);
         QVERIFY(connection.request(aboutQueue()));
         QVERIFY(!connection.problem());
     }
 
     void aConnectionThatWasIdleForTooLongIsMadeAnew()
     {
-        ServerConnection connection(contextFor(m_server->port()), nullptr);
+        ServerConnection connection(contextFor(m_scene->server->port()), nullptr);
         QVERIFY(connection.request(aboutQueue()));
-        m_server->dropConnections();
+        m_scene->server->dropConnections();
         QVERIFY2(connection.request(aboutQueue()),
                  qPrintable(connection.problem().text(connection.context().address)));
-        m_server->dropConnections();
+        m_scene->server->dropConnections();
         QCOMPARE(connection.get("/printers/office.ppd").state, State::Missing);
     }
 
@@ -156,14 +128,15 @@ private Q_SLOTS:
         QFETCH(int, ipp);
         QFETCH(ServerProblem::Kind, kind);
         if (http > 0)
-            m_server->answerHttp(http, IPP_OP_GET_PRINTER_ATTRIBUTES);
+            m_scene->server->answerHttp(http, IPP_OP_GET_PRINTER_ATTRIBUTES);
         else
-            m_server->answerIpp(static_cast<ipp_status_t>(ipp), IPP_OP_GET_PRINTER_ATTRIBUTES);
-        ServerConnection connection(contextFor(m_server->port()), nullptr);
+            m_scene->server->answerIpp(static_cast<ipp_status_t>(ipp),
+                                       IPP_OP_GET_PRINTER_ATTRIBUTES);
+        ServerConnection connection(contextFor(m_scene->server->port()), nullptr);
         QCOMPARE(connection.request(aboutQueue()) == nullptr, kind != Kind::None);
         QCOMPARE(connection.problem().kind, kind);
         QCOMPARE(int(connection.problem().status), kind == Kind::None ? 0 : ipp);
-        QCOMPARE(m_server->faultsMade(), 1); // and is not asked for again
+        QCOMPARE(m_scene->server->faultsMade(), 1); // and is not asked for again
     }
 
     void theWordsOfARefusalAreKept()
@@ -179,36 +152,6 @@ private Q_SLOTS:
         QCOMPARE(connection.problem().detail, u"Not today"_s);
     }
 
-    void anAnswerThatIsNoneIsNotTaken_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<ServerProblem::Kind>("kind");
-        const QByteArray whole = ippAnswer(newIppAnswer()).bytes;
-        QTest::newRow("no IPP behind HTTP")
-            << httpAnswer(200, "<html>Hello</html>").bytes << Kind::NotUnderstood;
-        QTest::newRow("cut in the midst") << whole.chopped(20) << Kind::ConnectionLost;
-        QTest::newRow("cut within HTTP") << whole.left(12) << Kind::ConnectionLost;
-        // A group of the printer's, whose attribute says that it is longer than the answer.
-        QTest::newRow("a length that is not there")
-            << httpAnswer(200, QByteArray::fromHex("0200000000000001014700ff") + "attributes",
-                          "Content-Type: application/ipp\r\n")
-                   .bytes
-            << Kind::NotUnderstood;
-    }
-    void anAnswerThatIsNoneIsNotTaken()
-    {
-        QFETCH(QByteArray, bytes);
-        QFETCH(ServerProblem::Kind, kind);
-        const CannedServer server([&](const CannedRequest &) { return CannedAnswer{bytes, true}; });
-        ServerConnection connection(contextFor(server.port(), 2s), nullptr);
-        QVERIFY(!connection.request(aboutQueue()));
-        QVERIFY2(connection.problem().mayPass(),
-                 qPrintable(connection.problem().text(connection.context().address)));
-        // Which of both it was is not to be told from every cut.
-        if (connection.problem().kind != Kind::NotUnderstood)
-            QCOMPARE(connection.problem().kind, kind);
-    }
-
     void cancelingEndsEveryWait_data()
     {
         QTest::addColumn<bool>("isGet");
@@ -218,19 +161,19 @@ private Q_SLOTS:
     void cancelingEndsEveryWait()
     {
         QFETCH(bool, isGet);
-        m_server->setManner(FaultyServer::Manner::NeverAnswers);
+        m_scene->server->setManner(FaultyServer::Manner::NeverAnswers);
         CancelFlag canceled{0};
         ServerProblem problem;
         {
             const WorkerThread worker([&] {
-                ServerConnection connection(contextFor(m_server->port(), 1h), &canceled);
+                ServerConnection connection(contextFor(m_scene->server->port(), 1h), &canceled);
                 if (isGet)
                     connection.get("/printers/office.ppd");
                 else
                     connection.request(aboutQueue());
                 problem = connection.problem();
             });
-            QTRY_COMPARE(m_server->openConnections(), 1);
+            QTRY_COMPARE(m_scene->server->openConnections(), 1);
             canceled = 1;
             QTRY_VERIFY(worker.isDone());
         }
@@ -241,166 +184,12 @@ private Q_SLOTS:
     void whatIsCanceledAlreadyAsksNobody()
     {
         CancelFlag canceled{1};
-        ServerConnection connection(contextFor(m_server->port()), &canceled);
+        ServerConnection connection(contextFor(m_scene->server->port()), &canceled);
         QVERIFY(!connection.request(aboutQueue()));
         QCOMPARE(connection.problem().kind, Kind::Canceled);
         QCOMPARE(connection.get("/").state, State::Failed);
         QCOMPARE(connection.problem().kind, Kind::Canceled);
-        QCOMPARE(m_server->acceptedConnections(), 0);
-    }
-
-    void aPasswordIsAskedForOnce_data()
-    {
-        QTest::addColumn<bool>("mayAsk");
-        QTest::addColumn<bool>("answers");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<int>("questions");
-        QTest::addColumn<ServerProblem::Kind>("kind");
-        QTest::newRow("right") << true << true << u"secret"_s << 1 << Kind::None;
-        QTest::newRow("wrong") << true << true << u"guess"_s << 1 << Kind::PasswordRefused;
-        QTest::newRow("not given") << true << false << QString() << 1 << Kind::PasswordCanceled;
-        QTest::newRow("in the background")
-            << false << true << u"secret"_s << 0 << Kind::PasswordNeeded;
-    }
-    void aPasswordIsAskedForOnce()
-    {
-        QFETCH(bool, mayAsk);
-        QFETCH(bool, answers);
-        QFETCH(QString, password);
-        QFETCH(int, questions);
-        QFETCH(ServerProblem::Kind, kind);
-        m_server->askForPassword(u"lisa"_s, u"secret"_s);
-        int asked = 0;
-        ServerContext context = contextFor(m_server->port());
-        context.mayAsk = mayAsk;
-        context.credentials = std::make_shared<CredentialStore>();
-        context.credentials->setQuestioner(
-            [&](const CredentialsQuestion &question, const auto &answer) {
-                ++asked;
-                QCOMPARE(question.server, context.address);
-                QVERIFY(!question.forDevice);
-                answer(answers ? std::optional(Credentials{u"lisa"_s, password}) : std::nullopt);
-            });
-        const auto bothWays = [&](const std::function<void(ServerConnection &)> &operation) {
-            asked = 0;
-            context.credentials->forget(context.address.argument());
-            ServerProblem problem;
-            onWorker([&] {
-                ServerConnection connection(context, nullptr);
-                operation(connection);
-                problem = connection.problem();
-            });
-            QCOMPARE(problem.kind, kind);
-            QCOMPARE(asked, questions);
-            // What was wrong is not tried again; what was right is not asked again.
-            QCOMPARE(context.credentials->known(context.address.argument()).has_value(),
-                     kind == Kind::None);
-        };
-        bothWays([](ServerConnection &connection) { connection.request(aboutQueue()); });
-        bothWays([](ServerConnection &connection) { connection.get("/printers/office.ppd"); });
-        bothWays([](ServerConnection &connection) {
-            QBuffer document;
-            document.setData(QByteArray(100000, 'x'));
-            document.open(QIODevice::ReadOnly);
-            connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {});
-        });
-    }
-
-    void whatIsKnownIsUsedByTheNextConnectionWithoutAQuestion()
-    {
-        m_server->askForPassword(u"lisa"_s, u"secret"_s);
-        int asked = 0;
-        ServerContext context = contextFor(m_server->port());
-        context.mayAsk = true;
-        context.credentials = std::make_shared<CredentialStore>();
-        context.credentials->setQuestioner([&](const CredentialsQuestion &, const auto &answer) {
-            ++asked;
-            answer(Credentials{u"lisa"_s, u"secret"_s});
-        });
-        for (int i = 0; i < 3; ++i) {
-            onWorker([&] {
-                ServerConnection connection(context, nullptr);
-                if (!connection.request(aboutQueue()) || !connection.request(aboutQueue()))
-                    QTest::qFail("refused", __FILE__, __LINE__);
-            });
-        }
-        QCOMPARE(asked, 1);
-        // The background may use what is known.
-        context.mayAsk = false;
-        onWorker([&] {
-            ServerConnection connection(context, nullptr);
-            if (!connection.request(aboutQueue()))
-                QTest::qFail("refused", __FILE__, __LINE__);
-        });
-        QCOMPARE(asked, 1);
-    }
-
-    void withoutAStoreNobodyIsAsked()
-    {
-        m_server->askForPassword(u"lisa"_s, u"secret"_s);
-        ServerContext context = contextFor(m_server->port());
-        context.mayAsk = true;
-        ServerConnection connection(context, nullptr);
-        QVERIFY(!connection.request(aboutQueue()));
-        QCOMPARE(connection.problem().kind, Kind::PasswordNeeded);
-    }
-
-    void aSecondConnectionOfAThreadDoesNotTakeTheQuestionsOfTheFirst()
-    {
-        m_server->askForPassword(u"lisa"_s, u"secret"_s);
-        int asked = 0;
-        ServerContext context = contextFor(m_server->port());
-        context.mayAsk = true;
-        context.credentials = std::make_shared<CredentialStore>();
-        context.credentials->setQuestioner([&](const CredentialsQuestion &, const auto &answer) {
-            ++asked;
-            answer(std::nullopt);
-        });
-        ServerProblem problem;
-        onWorker([&] {
-            ServerConnection first(context, nullptr);
-            std::make_unique<ServerConnection>(context, nullptr).reset();
-            first.request(aboutQueue());
-            problem = first.problem();
-        });
-        QCOMPARE(problem.kind, Kind::PasswordCanceled);
-        QCOMPARE(asked, 1);
-    }
-
-    void encryptionThatCannotBeMadeIsNotGoneWithout_data()
-    {
-        QTest::addColumn<bool>("isGet");
-        QTest::newRow("request") << false;
-        QTest::newRow("get") << true;
-    }
-    void encryptionThatCannotBeMadeIsNotGoneWithout()
-    {
-        QFETCH(bool, isGet);
-        const CannedServer server([&](const CannedRequest &) {
-            return httpAnswer(426, {}, "Connection: Upgrade\r\nUpgrade: TLS/1.2,HTTP/1.1\r\n");
-        });
-        ServerConnection connection(contextFor(server.port(), 2s), nullptr);
-        if (isGet)
-            QCOMPARE(connection.get("/printers/a.ppd").state, State::Failed);
-        else
-            QVERIFY(!connection.request(aboutQueue()));
-        QCOMPARE(connection.problem().kind, Kind::EncryptionMissing);
-        QVERIFY(server.requests().size() < 10);
-    }
-
-    void itGoesOverToTlsWhenTheServerWantsThat()
-    {
-        m_server->askForEncryption();
-        bool answered = false;
-        ServerProblem problem;
-        const ServerContext context = contextFor(m_server->port());
-        onWorker([&] {
-            ServerConnection connection(context, nullptr);
-            answered = connection.request(aboutQueue()) != nullptr;
-            problem = connection.problem();
-        });
-        QVERIFY2(answered, qPrintable(problem.text(context.address)));
-        QVERIFY(m_server->upgrades() > 0);
+        QCOMPARE(m_scene->server->acceptedConnections(), 0);
     }
 
     void theDocumentIsSentWholeAndItsProgressTold()
@@ -435,119 +224,29 @@ private Q_SLOTS:
         document.setData(QByteArray(30 * 1000 * 1000, 'x'));
         QVERIFY(document.open(QIODevice::ReadOnly));
         if (beforeTheEnd)
-            m_server->closeAfterDocumentBytes(100000, IPP_OP_PRINT_JOB);
+            m_scene->server->closeAfterDocumentBytes(100000, IPP_OP_PRINT_JOB);
         else
-            m_server->closeBeforeResponse(IPP_OP_PRINT_JOB);
-        ServerConnection connection(contextFor(m_server->port()), nullptr);
+            m_scene->server->closeBeforeResponse(IPP_OP_PRINT_JOB);
+        ServerConnection connection(contextFor(m_scene->server->port()), nullptr);
         QVERIFY(
             !connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {}));
         QCOMPARE(connection.problem().kind, Kind::ConnectionLost);
         QCOMPARE(connection.documentWasSent(), !beforeTheEnd);
         // No second copy by itself.
-        QCOMPARE(m_server->count(IPP_OP_PRINT_JOB), 1);
+        QCOMPARE(m_scene->server->count(IPP_OP_PRINT_JOB), 1);
     }
 
     void aDocumentThatCannotBeReadIsSaid()
     {
         BrokenDevice document;
         QVERIFY(document.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
-        ServerConnection connection(contextFor(m_server->port()), nullptr);
+        ServerConnection connection(contextFor(m_scene->server->port()), nullptr);
         QVERIFY(
             !connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {}));
         QVERIFY(connection.problem());
         QVERIFY(connection.problem().detail.contains(u"the disk is broken"_s));
         QVERIFY(!connection.documentWasSent());
         QVERIFY(connection.request(aboutQueue()));
-    }
-
-    void aFileIsFetchedIfItHasChanged()
-    {
-        const QTemporaryDir folder;
-        QFile ppd(folder.filePath(u"sample.ppd"_s));
-        QVERIFY(ppd.open(QIODevice::WriteOnly));
-        ppd.write(samplePpd(5));
-        ppd.close();
-        m_cups->addQueue(u"withppd"_s, ppd.fileName());
-        ServerConnection connection(contextFor(m_server->port()), nullptr);
-        const auto file = connection.get("/printers/withppd.ppd");
-        QCOMPARE(file.state, State::Read);
-        QVERIFY(file.content.startsWith("*PPD-Adobe"));
-        QVERIFY(file.lastModified > 0);
-
-        const auto again = connection.get("/printers/withppd.ppd", file.lastModified);
-        QCOMPARE(again.state, State::Unchanged);
-        QCOMPARE(again.lastModified, file.lastModified);
-        QVERIFY(again.content.isEmpty());
-
-        const auto older = connection.get("/printers/withppd.ppd", file.lastModified - 100);
-        QCOMPARE(older.state, State::Read);
-        QCOMPARE(older.content, file.content);
-        m_cups->removeQueue(u"withppd"_s);
-
-        QCOMPARE(connection.get("/printers/withppd.ppd", file.lastModified).state, State::Missing);
-        QVERIFY(!connection.problem());
-    }
-
-    void answersToAGetAreToldApart_data()
-    {
-        QTest::addColumn<int>("status");
-        QTest::addColumn<State>("state");
-        QTest::addColumn<ServerProblem::Kind>("kind");
-        QTest::newRow("304") << 304 << State::Unchanged << Kind::None;
-        QTest::newRow("403") << 403 << State::Failed << Kind::Forbidden;
-        QTest::newRow("404") << 404 << State::Missing << Kind::None;
-        QTest::newRow("500") << 500 << State::Failed << Kind::NotUnderstood;
-    }
-    void answersToAGetAreToldApart()
-    {
-        QFETCH(int, status);
-        QFETCH(State, state);
-        QFETCH(ServerProblem::Kind, kind);
-        const CannedServer server([&](const CannedRequest &) { return httpAnswer(status); });
-        ServerConnection connection(contextFor(server.port()), nullptr);
-        QCOMPARE(connection.get("/printers/a.ppd", 1000000000).state, state);
-        QCOMPARE(connection.problem().kind, kind);
-        QCOMPARE(server.requests().constFirst().head.field("If-Modified-Since"),
-                 QByteArray("Sun, 09 Sep 2001 01:46:40 GMT"));
-    }
-
-    void aFileThatEndsTooSoonIsNone()
-    {
-        CannedAnswer cut = httpAnswer(200, QByteArray(100000, 'x'));
-        cut.bytes.chop(50000);
-        cut.hangsUp = true;
-        const CannedServer server([&](const CannedRequest &) { return cut; });
-        ServerConnection connection(contextFor(server.port(), 2s), nullptr);
-        const auto file = connection.get("/printers/a.ppd");
-        QCOMPARE(file.state, State::Failed);
-        QVERIFY(file.content.isEmpty());
-        QVERIFY(connection.problem());
-    }
-
-    void aFileThatIsLargerThanAnyPpdIsNotTaken_data()
-    {
-        QTest::addColumn<bool>("isChunked");
-        QTest::newRow("of known length") << false;
-        QTest::newRow("in chunks") << true;
-    }
-    void aFileThatIsLargerThanAnyPpdIsNotTaken()
-    {
-        QFETCH(bool, isChunked);
-        const QByteArray large(40 * 1024 * 1024, 'x');
-        CannedAnswer answer = httpAnswer(200, large);
-        if (isChunked) {
-            answer.bytes = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
-            const QByteArray chunk = "100000\r\n" + QByteArray(0x100000, 'x') + "\r\n";
-            for (int i = 0; i < 40; ++i)
-                answer.bytes += chunk;
-            answer.bytes += "0\r\n\r\n";
-        }
-        const CannedServer server([&](const CannedRequest &) { return answer; });
-        ServerConnection connection(contextFor(server.port()), nullptr);
-        const auto file = connection.get("/printers/a.ppd");
-        QCOMPARE(file.state, State::Failed);
-        QVERIFY(file.content.isEmpty());
-        QCOMPARE(connection.problem().kind, Kind::NotUnderstood);
     }
 
     void patienceComesFromTheEnvironment_data()
@@ -574,9 +273,7 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_home;
-    std::unique_ptr<PrivateCups> m_cups;
-    std::unique_ptr<FaultyServer> m_server;
+    std::optional<ServerScene> m_scene;
 };
 
 QTEST_GUILESS_MAIN(ServerConnectionTest)

@@ -10,6 +10,7 @@ bool Fault::isAnswer() const
     case Kind::AskForPassword:
     case Kind::AnswerHttp:
     case Kind::AnswerIpp:
+    case Kind::AnswerInPieces:
     case Kind::AskForEncryption:
         return true;
     default:

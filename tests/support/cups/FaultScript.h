@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <mutex>
 #include <optional>
 
@@ -23,14 +24,17 @@ struct Fault
         AskForPassword,
         AnswerHttp,
         AnswerIpp,
+        AnswerInPieces,
         AskForEncryption,
     };
     Kind kind = Kind::SwallowResponse;
     int operation = FaultyServer::anyOperation;
     int times = FaultyServer::always;
-    qint64 bytes = 0;         ///< of the document, for those in it
+    qint64 bytes = 0;         ///< of the document, for those in it; of a piece
     int status = 0;           ///< HTTP or IPP
     QByteArray credentials{}; ///< "user:password"
+    std::chrono::milliseconds pause{0};
+    int pieces = FaultyServer::always;
 
     /// Whether the request goes no further, but is answered here.
     bool isAnswer() const;

@@ -1,6 +1,7 @@
 #include "tests/support/cups/FaultyConnection.h"
 
 #include <QHostAddress>
+#include <QTimer>
 
 namespace corvana::test {
 
@@ -29,15 +30,26 @@ QByteArray ippAttribute(ipp_tag_t tag, const QByteArray &name, const QByteArray 
            ippNumber(static_cast<int>(value.size()), 2) + value;
 }
 
+/// The beginning of every IPP answer.
+QByteArray ippBeginning(int status, int requestId)
+{
+    return ippNumber(0x0200, 2) + ippNumber(status, 2) + ippNumber(requestId, 4) +
+           ippNumber(IPP_TAG_OPERATION, 1) +
+           ippAttribute(IPP_TAG_CHARSET, "attributes-charset", "utf-8") +
+           ippAttribute(IPP_TAG_LANGUAGE, "attributes-natural-language", "en");
+}
+
 /// An IPP answer that says its status and nothing else.
 QByteArray ippAnswer(int status, int requestId)
 {
-    const QByteArray body = ippNumber(0x0200, 2) + ippNumber(status, 2) + ippNumber(requestId, 4) +
-                            ippNumber(IPP_TAG_OPERATION, 1) +
-                            ippAttribute(IPP_TAG_CHARSET, "attributes-charset", "utf-8") +
-                            ippAttribute(IPP_TAG_LANGUAGE, "attributes-natural-language", "en") +
-                            ippNumber(IPP_TAG_END, 1);
-    return httpAnswer(HTTP_STATUS_OK, "Content-Type: application/ipp\r\n", body);
+    return httpAnswer(HTTP_STATUS_OK, "Content-Type: application/ipp\r\n",
+                      ippBeginning(status, requestId) + ippNumber(IPP_TAG_END, 1));
+}
+
+/// A piece of an answer whose length is not said before.
+QByteArray httpChunk(const QByteArray &content)
+{
+    return QByteArray::number(content.size(), 16) + "\r\n" + content + "\r\n";
 }
 
 } // namespace
@@ -239,11 +251,40 @@ void FaultyConnection::answer(const Fault &fault)
     case Fault::Kind::AnswerIpp:
         m_client->write(ippAnswer(fault.status, m_request.requestId));
         break;
+    case Fault::Kind::AnswerInPieces:
+        m_client->write("HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\n"
+                        "Transfer-Encoding: chunked\r\n\r\n" +
+                        httpChunk(ippBeginning(IPP_STATUS_OK, m_request.requestId) +
+                                  ippNumber(IPP_TAG_PRINTER, 1)));
+        sendPieces();
+        break;
     default:
         m_client->write(httpAnswer(fault.status, {}));
         break;
     }
     countFault();
+}
+
+void FaultyConnection::sendPieces()
+{
+    if (m_client->state() != QAbstractSocket::ConnectedState)
+        return;
+    if (m_fault->pieces == 0) {
+        m_client->write(httpChunk(ippNumber(IPP_TAG_END, 1)) + "0\r\n\r\n");
+        return;
+    }
+    // What is not taken yet is not added to.
+    if (m_client->bytesToWrite() <= m_fault->bytes) {
+        if (m_fault->pieces > 0)
+            --m_fault->pieces;
+        m_client->write(httpChunk(ippAttribute(IPP_TAG_TEXT, "printer-info",
+                                               QByteArray(static_cast<int>(m_fault->bytes), 'x'))));
+    }
+    if (m_fault->pause.count() > 0 || m_client->bytesToWrite() == 0)
+        QTimer::singleShot(m_fault->pause, this, &FaultyConnection::sendPieces);
+    else
+        connect(m_client, &QTcpSocket::bytesWritten, this, &FaultyConnection::sendPieces,
+                Qt::SingleShotConnection);
 }
 
 void FaultyConnection::passOn(const QByteArray &bytes)

@@ -37,6 +37,7 @@ private:
     void decide(bool operationIsKnown);
     void endRequest();
     void answer(const Fault &fault);
+    void sendPieces();
     void passOn(const QByteArray &bytes);
     void readServer();
     void serverIsGone();

@@ -81,16 +81,27 @@ public:
         QObject::connect(m_server, &QTcpServer::newConnection, m_server, [this] {
             while (QTcpSocket *client = m_server->nextPendingConnection()) {
                 ++script.accepted;
+                if (m_connectionsBefore >= 0 && m_connectionsBefore-- == 0)
+                    m_upstreamPort = m_nextPort;
                 new FaultyConnection(client, m_upstreamPort, script, m_thread.context());
             }
         });
+    }
+
+    /// In the server's thread only.
+    void setUpstream(quint16 upstreamPort, int connectionsBefore)
+    {
+        m_nextPort = upstreamPort;
+        m_connectionsBefore = connectionsBefore;
     }
 
     LoopbackPort port;
     FaultScript script;
 
 private:
-    quint16 m_upstreamPort;
+    quint16 m_upstreamPort; ///< this and what follows: in the server's thread
+    quint16 m_nextPort = 0;
+    int m_connectionsBefore = -1;   ///< that go to the former one; -1: there is no next one
     QTcpServer *m_server = nullptr; ///< in the server's thread, as its connections are
     EventThread m_thread;
 };
@@ -116,6 +127,11 @@ void FaultyServer::setManner(Manner manner)
 {
     m_worker->script.setManner(manner);
     m_worker->run([this, manner] { m_worker->setListening(manner != Manner::Refuses); });
+}
+
+void FaultyServer::setUpstream(quint16 port, int connectionsBefore)
+{
+    m_worker->run([=, this] { m_worker->setUpstream(port, connectionsBefore); });
 }
 
 void FaultyServer::dropConnections()
@@ -184,6 +200,16 @@ void FaultyServer::answerHttp(int status, int operation, int times)
 void FaultyServer::answerIpp(ipp_status_t status, int operation, int times)
 {
     m_worker->script.add({Fault::Kind::AnswerIpp, operation, times, 0, status});
+}
+
+void FaultyServer::answerInPieces(int operation, int bytes, std::chrono::milliseconds pause,
+                                  int pieces)
+{
+    m_worker->script.add({.kind = Fault::Kind::AnswerInPieces,
+                          .operation = operation,
+                          .bytes = bytes,
+                          .pause = pause,
+                          .pieces = pieces});
 }
 
 void FaultyServer::askForEncryption(int operation, int times)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include <QByteArray>
@@ -55,6 +56,9 @@ public:
     quint16 port() const;
 
     void setManner(Manner manner);
+    /// Another server stands behind the connections that follow, after so many more to the one that
+    /// stands there now; those that are open keep theirs.
+    void setUpstream(quint16 port, int connectionsBefore = 0);
     /// Closes every open connection, as a crash would.
     void dropConnections();
     int openConnections() const;
@@ -81,6 +85,11 @@ public:
     void answerHttp(int status, int operation, int times = always);
     /// Answers an IPP status such as IPP_STATUS_ERROR_BUSY itself, with nothing else.
     void answerIpp(ipp_status_t status, int operation, int times = always);
+    /// Answers itself with an IPP message in so many pieces, an attribute of about so many bytes
+    /// each, with a pause behind each one. `always`: it has no end, and without a pause it comes as
+    /// fast as it is taken.
+    void answerInPieces(int operation, int bytes, std::chrono::milliseconds pause,
+                        int pieces = always);
     /// Answers 426 to a request that comes in plain. A client that then asks for the upgrade speaks
     /// TLS with the server behind; what it says from there on passes unseen and without faults.
     void askForEncryption(int operation = anyOperation, int times = always);

@@ -315,6 +315,37 @@ private Q_SLOTS:
         QCOMPARE(m_server->acceptedConnections(), 1);
     }
 
+    void anAnswerComesInPieces()
+    {
+        m_server->answerInPieces(IPP_OP_GET_PRINTER_ATTRIBUTES, 1000, std::chrono::milliseconds(1),
+                                 3);
+        Client client(m_server->server());
+        QCOMPARE(client.queueValue(queue, "printer-info"), QString(1000, QLatin1Char('x')));
+        m_server->clearFaults();
+        QCOMPARE(client.queueValue(queue, "printer-name"), queue);
+        QCOMPARE(m_server->acceptedConnections(), 1);
+    }
+
+    void anAnswerWithoutEndGoesOnUntilTheClientGoes_data()
+    {
+        QTest::addColumn<int>("pause"); // milliseconds
+        QTest::newRow("as fast as it is taken") << 0;
+        QTest::newRow("now and then") << 1;
+    }
+    void anAnswerWithoutEndGoesOnUntilTheClientGoes()
+    {
+        QFETCH(int, pause);
+        constexpr qint64 kEnough = 20000;
+        m_server->answerInPieces(FaultyServer::anyOperation, 100, std::chrono::milliseconds(pause));
+        QTcpSocket client;
+        client.connectToHost(QHostAddress(QHostAddress::LocalHost), m_server->port());
+        client.write("POST / HTTP/1.1\r\nContent-Length: 0\r\n\r\n");
+        QTRY_VERIFY(client.bytesAvailable() > kEnough);
+        QCOMPARE(m_server->openConnections(), 1);
+        client.abort();
+        QTRY_COMPARE(m_server->openConnections(), 0);
+    }
+
     void encryptionIsAskedForAndUsed()
     {
         m_server->askForEncryption();

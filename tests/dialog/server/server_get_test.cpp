@@ -1,0 +1,126 @@
+#include <optional>
+
+#include <QTest>
+
+#include "tests/dialog/server/ServerScene.h"
+#include "tests/support/PpdBuilder.h"
+#include "tests/support/cups/CannedServer.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Kind = ServerProblem::Kind;
+using State = ServerConnection::File::State;
+
+/// Files that are fetched from a server.
+class ServerGetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        m_scene.emplace();
+    }
+    void cleanupTestCase() { m_scene.reset(); }
+    void init() { m_scene->anew(); }
+
+    void aFileIsFetchedIfItHasChanged()
+    {
+        const QTemporaryDir folder;
+        QFile ppd(folder.filePath(u"sample.ppd"_s));
+        QVERIFY(ppd.open(QIODevice::WriteOnly));
+        ppd.write(samplePpd(5));
+        ppd.close();
+        m_scene->cups.addQueue(u"withppd"_s, ppd.fileName());
+        ServerConnection connection(contextFor(m_scene->server->port()), nullptr);
+        const auto file = connection.get("/printers/withppd.ppd");
+        QCOMPARE(file.state, State::Read);
+        QVERIFY(file.content.startsWith("*PPD-Adobe"));
+        QVERIFY(file.lastModified > 0);
+
+        const auto again = connection.get("/printers/withppd.ppd", file.lastModified);
+        QCOMPARE(again.state, State::Unchanged);
+        QCOMPARE(again.lastModified, file.lastModified);
+        QVERIFY(again.content.isEmpty());
+
+        const auto older = connection.get("/printers/withppd.ppd", file.lastModified - 100);
+        QCOMPARE(older.state, State::Read);
+        QCOMPARE(older.content, file.content);
+        m_scene->cups.removeQueue(u"withppd"_s);
+
+        QCOMPARE(connection.get("/printers/withppd.ppd", file.lastModified).state, State::Missing);
+        QVERIFY(!connection.problem());
+    }
+
+    void answersToAGetAreToldApart_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<State>("state");
+        QTest::addColumn<ServerProblem::Kind>("kind");
+        QTest::newRow("304") << 304 << State::Unchanged << Kind::None;
+        QTest::newRow("403") << 403 << State::Failed << Kind::Forbidden;
+        QTest::newRow("404") << 404 << State::Missing << Kind::None;
+        QTest::newRow("500") << 500 << State::Failed << Kind::NotUnderstood;
+    }
+    void answersToAGetAreToldApart()
+    {
+        QFETCH(int, status);
+        QFETCH(State, state);
+        QFETCH(ServerProblem::Kind, kind);
+        const CannedServer server([&](const CannedRequest &) { return httpAnswer(status); });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QCOMPARE(connection.get("/printers/a.ppd", 1000000000).state, state);
+        QCOMPARE(connection.problem().kind, kind);
+        QCOMPARE(server.requests().constFirst().head.field("If-Modified-Since"),
+                 QByteArray("Sun, 09 Sep 2001 01:46:40 GMT"));
+    }
+
+    void aFileThatEndsTooSoonIsNone()
+    {
+        CannedAnswer cut = httpAnswer(200, QByteArray(100000, 'x'));
+        cut.bytes.chop(50000);
+        cut.hangsUp = true;
+        const CannedServer server([&](const CannedRequest &) { return cut; });
+        ServerConnection connection(contextFor(server.port(), 2s), nullptr);
+        const auto file = connection.get("/printers/a.ppd");
+        QCOMPARE(file.state, State::Failed);
+        QVERIFY(file.content.isEmpty());
+        QVERIFY(connection.problem());
+    }
+
+    void aFileThatIsLargerThanAnyPpdIsNotTaken_data()
+    {
+        QTest::addColumn<bool>("isChunked");
+        QTest::newRow("of known length") << false;
+        QTest::newRow("in chunks") << true;
+    }
+    void aFileThatIsLargerThanAnyPpdIsNotTaken()
+    {
+        QFETCH(bool, isChunked);
+        const QByteArray large(40 * 1024 * 1024, 'x');
+        CannedAnswer answer = httpAnswer(200, large);
+        if (isChunked) {
+            answer.bytes = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+            const QByteArray chunk = "100000\r\n" + QByteArray(0x100000, 'x') + "\r\n";
+            for (int i = 0; i < 40; ++i)
+                answer.bytes += chunk;
+            answer.bytes += "0\r\n\r\n";
+        }
+        const CannedServer server([&](const CannedRequest &) { return answer; });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        const auto file = connection.get("/printers/a.ppd");
+        QCOMPARE(file.state, State::Failed);
+        QVERIFY(file.content.isEmpty());
+        QCOMPARE(connection.problem().kind, Kind::NotUnderstood);
+    }
+
+private:
+    std::optional<ServerScene> m_scene;
+};
+
+QTEST_GUILESS_MAIN(ServerGetTest)
+#include "server_get_test.moc"

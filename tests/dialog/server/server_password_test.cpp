@@ -1,0 +1,172 @@
+#include <optional>
+
+#include <QBuffer>
+#include <QTest>
+
+#include "tests/dialog/server/ServerScene.h"
+#include "tests/dialog/server/WorkerThread.h"
+#include "tests/support/cups/CannedServer.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Kind = ServerProblem::Kind;
+
+/// Who is asked for a password, how often, and what becomes of it.
+class ServerPasswordTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        m_scene.emplace();
+    }
+    void cleanupTestCase() { m_scene.reset(); }
+    void init() { m_scene->anew(); }
+
+    void aPasswordIsAskedForOnce_data()
+    {
+        QTest::addColumn<bool>("mayAsk");
+        QTest::addColumn<bool>("answers");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<int>("questions");
+        QTest::addColumn<ServerProblem::Kind>("kind");
+        QTest::newRow("right") << true << true << u"secret"_s << 1 << Kind::None;
+        QTest::newRow("wrong") << true << true << u"guess"_s << 1 << Kind::PasswordRefused;
+        QTest::newRow("not given") << true << false << QString() << 1 << Kind::PasswordCanceled;
+        QTest::newRow("in the background")
+            << false << true << u"secret"_s << 0 << Kind::PasswordNeeded;
+    }
+    void aPasswordIsAskedForOnce()
+    {
+        QFETCH(bool, mayAsk);
+        QFETCH(bool, answers);
+        QFETCH(QString, password);
+        QFETCH(int, questions);
+        QFETCH(ServerProblem::Kind, kind);
+        m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
+        int asked = 0;
+        ServerContext context = contextFor(m_scene->server->port());
+        context.mayAsk = mayAsk;
+        context.credentials = std::make_shared<CredentialStore>();
+        context.credentials->setQuestioner(
+            [&](const CredentialsQuestion &question, const auto &answer) {
+                ++asked;
+                QCOMPARE(question.server, context.address);
+                QVERIFY(!question.forDevice);
+                answer(answers ? std::optional(Credentials{u"lisa"_s, password}) : std::nullopt);
+            });
+        const auto bothWays = [&](const std::function<void(ServerConnection &)> &operation) {
+            asked = 0;
+            if (const auto known = context.credentials->known(context.address.argument()))
+                context.credentials->forget(context.address.argument(), *known);
+            ServerProblem problem;
+            onWorker([&] {
+                ServerConnection connection(context, nullptr);
+                operation(connection);
+                problem = connection.problem();
+            });
+            QCOMPARE(problem.kind, kind);
+            QCOMPARE(asked, questions);
+            // What was wrong is not tried again; what was right is not asked again.
+            QCOMPARE(context.credentials->known(context.address.argument()).has_value(),
+                     kind == Kind::None);
+        };
+        bothWays([](ServerConnection &connection) { connection.request(aboutQueue()); });
+        bothWays([](ServerConnection &connection) { connection.get("/printers/office.ppd"); });
+        bothWays([](ServerConnection &connection) {
+            QBuffer document;
+            document.setData(QByteArray(100000, 'x'));
+            document.open(QIODevice::ReadOnly);
+            connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {});
+        });
+    }
+
+    void whatIsKnownIsUsedByTheNextConnectionWithoutAQuestion()
+    {
+        m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
+        int asked = 0;
+        ServerContext context = contextFor(m_scene->server->port());
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        context.credentials->setQuestioner([&](const CredentialsQuestion &, const auto &answer) {
+            ++asked;
+            answer(Credentials{u"lisa"_s, u"secret"_s});
+        });
+        for (int i = 0; i < 3; ++i) {
+            onWorker([&] {
+                ServerConnection connection(context, nullptr);
+                if (!connection.request(aboutQueue()) || !connection.request(aboutQueue()))
+                    QTest::qFail("refused", __FILE__, __LINE__);
+            });
+        }
+        QCOMPARE(asked, 1);
+        // The background may use what is known.
+        context.mayAsk = false;
+        onWorker([&] {
+            ServerConnection connection(context, nullptr);
+            if (!connection.request(aboutQueue()))
+                QTest::qFail("refused", __FILE__, __LINE__);
+        });
+        QCOMPARE(asked, 1);
+    }
+
+    // Which matters to whoever wonders whether to send it again.
+    void aDocumentThatWasRefusedWasNotSent()
+    {
+        const CannedServer server([](const CannedRequest &) {
+            return httpAnswer(401, {}, "WWW-Authenticate: Basic realm=\"Test\"\r\n");
+        });
+        QBuffer document;
+        document.setData(QByteArray(100000, 'x'));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY(
+            !connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {}));
+        QCOMPARE(connection.problem().kind, Kind::PasswordNeeded);
+        QCOMPARE(server.requests().constFirst().document().size(), document.size());
+        QVERIFY(!connection.documentWasSent());
+    }
+
+    void withoutAStoreNobodyIsAsked()
+    {
+        m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
+        ServerContext context = contextFor(m_scene->server->port());
+        context.mayAsk = true;
+        ServerConnection connection(context, nullptr);
+        QVERIFY(!connection.request(aboutQueue()));
+        QCOMPARE(connection.problem().kind, Kind::PasswordNeeded);
+    }
+
+    void aSecondConnectionOfAThreadDoesNotTakeTheQuestionsOfTheFirst()
+    {
+        m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
+        int asked = 0;
+        ServerContext context = contextFor(m_scene->server->port());
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        context.credentials->setQuestioner([&](const CredentialsQuestion &, const auto &answer) {
+            ++asked;
+            answer(std::nullopt);
+        });
+        ServerProblem problem;
+        onWorker([&] {
+            ServerConnection first(context, nullptr);
+            std::make_unique<ServerConnection>(context, nullptr).reset();
+            first.request(aboutQueue());
+            problem = first.problem();
+        });
+        QCOMPARE(problem.kind, Kind::PasswordCanceled);
+        QCOMPARE(asked, 1);
+    }
+
+private:
+    std::optional<ServerScene> m_scene;
+};
+
+QTEST_GUILESS_MAIN(ServerPasswordTest)
+#include "server_password_test.moc"
