@@ -55,7 +55,9 @@ void PrintDialog::askCredentials(const CredentialsQuestion &question,
 {
     auto *dialog = new CredentialsDialog(question, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::finished, this, [dialog, answer](int result) {
+    m_source.questionPut();
+    connect(dialog, &QDialog::finished, this, [this, dialog, answer](int result) {
+        m_source.questionAnswered();
         answer(result == QDialog::Accepted ? std::optional(dialog->credentials()) : std::nullopt);
     });
     dialog->open();
@@ -200,7 +202,8 @@ void PrintDialog::showWaiting(const QString &text, bool canRetry)
         auto *retry = new QPushButton(tr("Try Again"), page);
         retry->setObjectName(QStringLiteral("retry"));
         retry->setAutoDefault(false);
-        connect(retry, &QPushButton::clicked, this, [this] {
+        connect(retry, &QPushButton::clicked, this, [this, retry] {
+            retry->setEnabled(false); // a second press would take the first try back
             m_status->setPrinter(m_chosen);
             // Later: the button is in the midst of its work.
             QTimer::singleShot(0, this, [this] {
@@ -256,9 +259,7 @@ void PrintDialog::showListState()
     case QueueList::State::Looking:
     case QueueList::State::Slow:
         m_printers->setFooter(tr("Looking for printers…"));
-        // Not while it is the server that waits: for a password.
-        if (nothingElse && queues.state() == QueueList::State::Slow &&
-            !findChild<CredentialsDialog *>())
+        if (nothingElse && queues.state() == QueueList::State::Slow)
             m_status->setProblem(tr("No answer from “%1” yet.").arg(server.text()), retry);
         return;
     case QueueList::State::Known:

@@ -20,12 +20,12 @@ class QLabel;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;
-class QToolButton;
 class QTabWidget;
 
 namespace corvana {
 
 class ElidedLabel;
+class ElidedToolButton;
 class GeneralPage;
 class HelpWindow;
 class MessageBar;
@@ -66,13 +66,11 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
-    void buildWindow();
-    void addPageShortcuts();
-    QLayout *buildFooter();
-    QWidget *buildOutputLabel();
-    QWidget *buildOutputRow();
+    // The pages and what is set on them (PrintDialog.cpp)
+
     void closePrinter();
     void fillPages();
     bool bringUpPanels();
@@ -81,13 +79,24 @@ private:
     void takeCopies(std::optional<int> copies);
     QList<SummaryLine> summary();
     void showPageRanges();
-    void orderFocus();
     void refreshPages();
     void updatePrintButton();
     void pageEntered(int page);
     void propose(const QString &keyword, const QString &choice);
     void settled();
     void showRefusal(const Refusal &refusal);
+    QString textOf(const OptionChoice &choice) const;
+    int panelOfPage(int page) const;
+
+    // The window around the pages (PrintDialog-window.cpp)
+
+    void buildWindow();
+    void addPageShortcuts();
+    QLayout *buildFooter();
+    QWidget *buildOutputLabel();
+    QWidget *buildOutputRow();
+    void orderFocus();
+    void followList();
     void followPanelView();
     void giveHeightBack(int surplus);
     void growBy(int pixels);
@@ -135,8 +144,6 @@ private:
     void showProgress(const JobProgress &progress);
     void showJobRunning(bool running);
     bool isPrinting() const { return m_job || m_serverJob; }
-    QString textOf(const OptionChoice &choice) const;
-    int panelOfPage(int page) const;
     bool confirmOverwriting(const QString &file);
 
     PrintRequest m_request;
@@ -188,7 +195,7 @@ private:
     QPushButton *m_cancel = nullptr;
     QProgressBar *m_progress = nullptr;
     ElidedLabel *m_progressText = nullptr;
-    QToolButton *m_silenced = nullptr;
+    ElidedToolButton *m_silenced = nullptr;
     HelpWindow *m_help = nullptr;
 };
 

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "dialog/app/OpenedPrinter.h"
+#include "dialog/queues/PrinterId.h"
 #include "dialog/queues/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 
@@ -100,7 +101,8 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
 int wantedAmongFiles(const PrintRequest &request)
 {
     for (int i = 0; i < request.printers.size(); ++i) {
-        if (request.wantedPrinter.isEmpty() || request.printers.at(i).name == request.wantedPrinter)
+        if (request.wantedPrinter.isEmpty() ||
+            isCalled(request.printers.at(i), request.wantedPrinter))
             return i;
     }
     return -1;

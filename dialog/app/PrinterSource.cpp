@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include <QFile>
 #include <QTemporaryFile>
 #include <QUrl>
 
 #include "dialog/app/LastPrinter.h"
 #include "dialog/queues/DevicePrinter.h"
+#include "dialog/queues/PrinterId.h"
 
 namespace corvana {
 
@@ -16,8 +16,9 @@ namespace {
 
 const Printer *find(const QList<Printer> &printers, const QString &name)
 {
-    const auto found = std::find_if(printers.cbegin(), printers.cend(),
-                                    [&](const Printer &printer) { return printer.name == name; });
+    const auto found =
+        std::find_if(printers.cbegin(), printers.cend(),
+                     [&](const Printer &printer) { return isCalled(printer, name); });
     return found == printers.cend() ? nullptr : &*found;
 }
 
@@ -41,12 +42,6 @@ bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
         return false;
     const PpdFile ppd = openPpdFile(file.fileName(), &error);
     return ppd && wantsPanels(ppd.get(), details.printer, bundleRoots);
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -129,6 +124,7 @@ void PrinterSource::open(const Printer &printer)
     m_inspection = {};
     m_open = printer;
     m_openModified = 0;
+    m_openHash.clear();
     m_openIsReady = false;
     m_inspecting = false;
     m_inspectionFailed = false;
@@ -144,10 +140,11 @@ void PrinterSource::open(const Printer &printer)
     if (printer.origin == PrinterOrigin::Queue) {
         const QString server = m_queues.context().address.argument();
         if (const auto cached = m_cache.find(server, printer.name)) {
-            ReadyPrinter known{printer, cached->lastModified};
+            ReadyPrinter known{printer, cached->lastModified, cached->hash};
             known.printer.ppdPath = cached->printer.ppdPath;
             m_open.ppdPath = known.printer.ppdPath;
             m_openModified = cached->lastModified;
+            m_openHash = cached->hash;
             m_openIsReady = true;
             Q_EMIT ready(known);
         }
@@ -188,20 +185,22 @@ void PrinterSource::inspected(const QueueDetails &details)
         }
         return;
     }
-    const QByteArray before = m_openIsReady ? contentOf(m_open.ppdPath) : QByteArray();
     QString error;
     ReadyPrinter now = readyPrinter(details, m_cache, serverOf(m_open).address, &error);
-    if (details.state == QueueDetails::Ppd::Unchanged)
+    if (details.state == QueueDetails::Ppd::Unchanged) {
         now.printer.ppdPath = m_open.ppdPath;
+        now.ppdHash = m_openHash;
+    }
     if (now.printer.ppdPath.isEmpty()) {
         Q_EMIT failed(error, error);
         return;
     }
-    const bool same = m_openIsReady && contentOf(now.printer.ppdPath) == before;
+    const bool same = m_openIsReady && now.ppdHash == m_openHash;
     if (same) // written anew or not, it is open where it was
         now.printer.ppdPath = m_open.ppdPath;
     m_open = now.printer;
     m_openModified = details.lastModified;
+    m_openHash = now.ppdHash;
     m_configured = details.printer.configured;
     m_openIsReady = true;
     m_lacksPpd = details.state == QueueDetails::Ppd::None;
@@ -214,6 +213,13 @@ void PrinterSource::inspected(const QueueDetails &details)
     lookForBetterQueue();
 }
 
+// Under whatever instance.
+bool PrinterSource::isOpenQueue(const Printer &printer) const
+{
+    return m_open.origin == PrinterOrigin::Queue &&
+           isSameQueue(queueOfInstance(printer.name), queueOfInstance(m_open.name));
+}
+
 void PrinterSource::lookForBetterQueue()
 {
     const QString device = deviceOf(m_open);
@@ -221,7 +227,7 @@ void PrinterSource::lookForBetterQueue()
         return;
     QList<Printer> twins;
     for (const Printer &queue : m_queues.printers()) {
-        if (deviceOf(queue) == device && queue.name != m_open.name && !queue.isClass)
+        if (deviceOf(queue) == device && !isOpenQueue(queue) && !queue.isClass)
             twins += queue;
     }
     if (twins.isEmpty())

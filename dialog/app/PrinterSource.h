@@ -18,8 +18,13 @@ class PrinterSource : public QObject
 public:
     PrinterSource(const PrintRequest &request, ServerContext server, QObject *parent = nullptr);
 
-    /// Looks for queues from now on. Not before: the window comes first.
+    /// Looks for queues now and from now on. Not before: the window comes first.
     void start();
+    /// Nobody sees the window: nothing new is looked for until start().
+    void pause() { m_queues.pause(); }
+    /// See QueueList.
+    void questionPut() { m_queues.questionPut(); }
+    void questionAnswered() { m_queues.questionAnswered(); }
 
     /// Those of PPD files, then the queues; behind them the one that prints into a file, where
     /// there is no other of its kind.
@@ -64,6 +69,7 @@ Q_SIGNALS:
 
 private:
     void inspect(bool mayAsk);
+    bool isOpenQueue(const Printer &printer) const;
     void lookForBetterQueue();
     void compareWith(const QueueDetails &details);
     void inspected(const QueueDetails &details);
@@ -81,6 +87,7 @@ private:
     QStringList m_bundleRoots;
     Printer m_open;
     qint64 m_openModified = 0;
+    QByteArray m_openHash; // of its PPD
     bool m_openIsReady = false;
     bool m_inspecting = false;
     bool m_inspectionFailed = false; // the server has to be asked again when it is back

@@ -33,7 +33,9 @@ ReadyPrinter withWrittenPpd(Printer printer, const PrinterCapabilities &capabili
                             QString *error)
 {
     ReadyPrinter ready;
-    ready.writtenPpd = temporaryPpd(ppdOfCapabilities(capabilities), error);
+    const QByteArray ppd = ppdOfCapabilities(capabilities);
+    ready.ppdHash = hashOfPpd(ppd);
+    ready.writtenPpd = temporaryPpd(ppd, error);
     if (ready.writtenPpd)
         printer.ppdPath = ready.writtenPpd->fileName();
     ready.printer = printer;
@@ -51,6 +53,7 @@ ReadyPrinter readyPrinter(const QueueDetails &details, const PpdCache &cache,
         return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()), error);
     if (details.state != QueueDetails::Ppd::New)
         return ready;
+    ready.ppdHash = hashOfPpd(details.ppd);
     ready.printer.ppdPath =
         cache.store(server.argument(), details.printer, details.ppd, details.lastModified);
     if (ready.printer.ppdPath.isEmpty()) {

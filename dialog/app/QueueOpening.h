@@ -19,6 +19,7 @@ struct ReadyPrinter
 {
     Printer printer; ///< with its `ppdPath`
     qint64 ppdLastModified = 0;
+    QByteArray ppdHash{}; ///< see hashOfPpd(); empty where nobody has to compare it
     std::shared_ptr<const PrinterCapabilities> capabilities{};
     std::shared_ptr<QTemporaryFile> writtenPpd{};
 };

@@ -283,7 +283,7 @@ int runUnattended(const PrintRequest &request)
     FittedOptions fitted;
     if (ready.printer.origin == PrinterOrigin::Queue) {
         // A choice of long ago does not stop a job; what this command line says does.
-        fitted = applyWhatFits(readUserQueues().options.value(ready.printer.name), *printer);
+        fitted = applyWhatFits(readUserQueues().optionsOf(ready.printer.name), *printer);
         for (const QString &problem : std::as_const(fitted.problems))
             QTextStream(stderr) << "corvana-print: lpoptions: " << problem << "\n";
     }
@@ -295,6 +295,11 @@ int runUnattended(const PrintRequest &request)
     const int copies = request.copiesWereNamed
                            ? request.copies
                            : options.copies.value_or(fitted.copies.value_or(request.copies));
+    const int mostCopies = printer->capabilities ? printer->capabilities->maximumCopies : 0;
+    if (mostCopies > 0 && copies > mostCopies)
+        return refused({Texts::tr("The printer prints at most %1 copies at once, not %2.")
+                            .arg(mostCopies)
+                            .arg(copies)});
 
     const bool printing = !request.documents.isEmpty();
     const bool allowed = !printing || printer->panels->shouldPrint();

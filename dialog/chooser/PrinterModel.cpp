@@ -10,17 +10,6 @@
 
 namespace corvana {
 
-PrinterId idOf(const Printer &printer)
-{
-    const bool file = printer.origin == PrinterOrigin::PpdFile;
-    return {printer.origin, file ? printer.ppdPath : printer.uri, printer.name};
-}
-
-size_t qHash(const PrinterId &id, size_t seed)
-{
-    return qHashMulti(seed, int(id.origin), id.place, id.name);
-}
-
 // A list may have a printer twice; the second one is another row than the first.
 struct PrinterModel::Key
 {

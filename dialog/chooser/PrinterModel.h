@@ -7,21 +7,9 @@
 #include <QPersistentModelIndex>
 
 #include "dialog/chooser/PrinterTexts.h"
+#include "dialog/queues/PrinterId.h"
 
 namespace corvana {
-
-/// What makes two values the same printer, whatever else is known of it by now.
-struct PrinterId
-{
-    PrinterOrigin origin = PrinterOrigin::PpdFile;
-    QString place; ///< the URI, or the path of a PPD file
-    QString name;
-
-    bool operator==(const PrinterId &) const = default;
-};
-
-PrinterId idOf(const Printer &printer);
-size_t qHash(const PrinterId &id, size_t seed = 0);
 
 /// The printers to choose from, in the order of the list that was set last. Each list is taken over
 /// by its difference to the one before, so that the selection, the scroll position and an open list

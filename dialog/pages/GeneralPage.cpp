@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -16,11 +17,38 @@
 #include "platform/toolkit/MenuActions.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PopUpButton.h"
+#include "platform/toolkit/ProgrammaticChange.h"
 
 namespace corvana {
 
 namespace {
+// What the choices of an option are called, in the order of the PPD; by their keywords where the
+// text cannot be read, as on every other page. Choices of the same text are different choices all
+// the same, and are told apart by their keywords.
+QStringList choiceTitles(const ppd_option_t &option)
+{
+    QStringList titles;
+    QHash<QString, int> uses;
+    for (int i = 0; i < option.num_choices; ++i) {
+        titles += ppdText(option.choices[i].text).value_or(ppdKeyword(option.choices[i].choice));
+        ++uses[titles.constLast()];
+    }
+    for (int i = 0; i < option.num_choices; ++i) {
+        if (uses.value(titles.at(i)) > 1)
+            titles[i] =
+                QStringLiteral("%1 (%2)").arg(titles.at(i), ppdKeyword(option.choices[i].choice));
+    }
+    return titles;
 }
+
+// popup::addItemWithTitle() would take an item of the same title away.
+void addChoice(QComboBox *popUp, const QString &title, const QString &choice)
+{
+    const ProgrammaticChange change;
+    popUp->addItem(title, choice);
+}
+
+} // namespace
 
 GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
@@ -52,6 +80,16 @@ int GeneralPage::copies() const
     return m_copies->value();
 }
 
+int GeneralPage::mostCopies() const
+{
+    return m_copies->maximum();
+}
+
+void GeneralPage::setMostCopies(int copies)
+{
+    m_copies->setMaximum(copies > 0 ? qMin(copies, kMostCopies) : kMostCopies);
+}
+
 void GeneralPage::setCopies(int copies)
 {
     m_copies->setValue(copies);
@@ -80,13 +118,10 @@ void GeneralPage::addOption(const QString &keyword)
         return;
     auto *popUp = new QComboBox(this);
     popUp->setObjectName(keyword);
+    const QStringList titles = choiceTitles(*option);
     for (int i = 0; i < option->num_choices; ++i) {
-        const QString choice = ppdKeyword(option->choices[i].choice);
-        const auto text = ppdText(option->choices[i].text);
-        if (!text || choice == QLatin1StringView("Custom"))
-            continue;
-        popup::addItemWithTitle(popUp, *text);
-        popup::setRepresentedObject(popUp, popUp->count() - 1, choice);
+        if (const QString choice = ppdKeyword(option->choices[i].choice); choice != kCustomChoice)
+            addChoice(popUp, titles.at(i), choice);
     }
     const QString title = ppdText(option->text).value_or(keyword);
     popUp->setAccessibleName(title);
@@ -109,8 +144,7 @@ void GeneralPage::addOption(const QString &keyword)
 
 void GeneralPage::addCustomPaperSize(QComboBox *sizes)
 {
-    popup::addItemWithTitle(sizes, tr("Custom Size"));
-    popup::setRepresentedObject(sizes, sizes->count() - 1, QString(kCustomChoice));
+    addChoice(sizes, tr("Custom Size"), kCustomChoice);
     m_customPaper = new CustomPaperSize(m_session.ppd(), this);
     connect(m_customPaper, &CustomPaperSize::entered, this, &GeneralPage::proposeCustomPaper);
     auto *layout = static_cast<QFormLayout *>(this->layout());

@@ -27,7 +27,11 @@ public:
     explicit GeneralPage(PpdSession &session, QWidget *parent = nullptr);
 
     int copies() const;
+    /// More than mostCopies() become as many.
     void setCopies(int copies);
+    int mostCopies() const;
+    /// 0: as many as the dialog takes for any printer.
+    void setMostCopies(int copies);
     /// The pages to print ("1-4,7"); empty for all. As typed, less blanks.
     QString pageRanges() const;
     void setPageRanges(const QString &ranges);

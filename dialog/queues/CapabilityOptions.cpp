@@ -373,6 +373,8 @@ QList<CapabilityOption> capabilityOptions(const PrinterCapabilities &printer)
         finishing("StapleLocation", QLatin1StringView("staple"), printer),
         finishing("PunchMedia", QLatin1StringView("punch"), printer),
         finishing("FoldType", QLatin1StringView("fold"), printer),
+        // Its default may be two pages, one in front and one behind: left alone, it stays that.
+        named("JobSheets", QLatin1StringView("job-sheets"), printer.jobSheets, {}),
     };
     const bool choosesQuality = options.at(3).choices.size() > 1;
     if (!choosesQuality)

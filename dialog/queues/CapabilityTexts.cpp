@@ -137,6 +137,14 @@ constexpr Row kTexts[] = {
     {"finishings punch-dual-right", "Two Holes, Right", "右に 2 穴", "右侧两孔"},
     {"finishings punch-dual-bottom", "Two Holes, Bottom", "下に 2 穴", "下侧两孔"},
 
+    {"job-sheets none", "Off", "オフ", "关"},
+    {"job-sheets standard", "Standard", "標準", "标准"},
+    {"job-sheets classified", "Classified", "部外秘", "内部"},
+    {"job-sheets confidential", "Confidential", "社外秘", "保密"},
+    {"job-sheets secret", "Secret", "秘", "秘密"},
+    {"job-sheets topsecret", "Top Secret", "極秘", "绝密"},
+    {"job-sheets unclassified", "Unclassified", "機密指定なし", "非保密"},
+
     {"title PageSize", "Paper Size", "用紙サイズ", "纸张尺寸"},
     {"title Duplex", "Two-Sided Printing", "両面印刷", "双面打印"},
     {"title ColorModel", "Color Mode", "カラーモード", "颜色模式"},
@@ -148,6 +156,7 @@ constexpr Row kTexts[] = {
     {"title StapleLocation", "Staple", "ステープル", "装订"},
     {"title PunchMedia", "Punch", "パンチ", "打孔"},
     {"title FoldType", "Fold", "折り", "折叠"},
+    {"title JobSheets", "Cover Sheet", "表紙", "封面页"},
     {"title CustomPageSize", "Custom Size", "ユーザー定義サイズ", "自定义尺寸"},
     {"title Width", "Width", "幅", "宽度"},
     {"title Height", "Height", "高さ", "高度"},

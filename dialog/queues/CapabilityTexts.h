@@ -15,8 +15,9 @@ struct CapabilityText
 };
 
 /// What a printer's keyword means in an attribute ("media-type", "media-source", "output-bin",
-/// "print-color-mode", "sides", "print-quality", "finishings", "media"). A keyword that no standard
-/// knows is a name already, or becomes one: "letter-head" is "Letter Head" in all languages.
+/// "print-color-mode", "sides", "print-quality", "finishings", "job-sheets", "media"). A keyword
+/// that no standard knows is a name already, or becomes one: "letter-head" is "Letter Head" in all
+/// languages.
 CapabilityText capabilityText(QLatin1StringView attribute, const QString &keyword);
 
 /// The title of an option of the PPD.

@@ -1,5 +1,6 @@
 #include "dialog/queues/PpdCache.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -10,6 +11,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "dialog/queues/PrinterId.h"
 #include "dialog/queues/UserQueues.h"
 
 namespace corvana {
@@ -25,6 +27,7 @@ constexpr QLatin1StringView kUri{"uri"};
 constexpr QLatin1StringView kDeviceUri{"deviceUri"};
 constexpr QLatin1StringView kIsClass{"isClass"};
 constexpr QLatin1StringView kLastModified{"lastModified"};
+constexpr QLatin1StringView kHash{"hash"};
 
 bool save(const QString &path, const QByteArray &content)
 {
@@ -43,6 +46,11 @@ QString fileName(const QString &text)
 
 } // namespace
 
+QByteArray hashOfPpd(const QByteArray &ppd)
+{
+    return QCryptographicHash::hash(ppd, QCryptographicHash::Sha256).toHex();
+}
+
 PpdCache::PpdCache()
     : m_folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                QStringLiteral("/corvana-print/queues"))
@@ -52,7 +60,7 @@ PpdCache::PpdCache()
 QString PpdCache::pathOf(const QString &server, const QString &queue, const char *suffix) const
 {
     return QStringLiteral("%1/%2/%3%4")
-        .arg(m_folder, fileName(server), fileName(queueOfInstance(queue)),
+        .arg(m_folder, fileName(server), fileName(foldedQueueName(queueOfInstance(queue))),
              QLatin1StringView(suffix));
 }
 
@@ -76,6 +84,7 @@ std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QStri
     entry.printer.deviceUri = said.value(kDeviceUri).toString();
     entry.printer.isClass = said.value(kIsClass).toBool();
     entry.lastModified = said.value(kLastModified).toInteger();
+    entry.hash = said.value(kHash).toString().toLatin1();
     return entry;
 }
 
@@ -87,10 +96,11 @@ QString PpdCache::store(const QString &server, const Printer &printer, const QBy
         return {};
     // Where a printer stands, and how it is reached, is nobody else's business.
     QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QJsonObject said{{kDescription, printer.description},   {kLocation, printer.location},
-                           {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
-                           {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
-                           {kLastModified, lastModified}};
+    const QJsonObject said{
+        {kDescription, printer.description},   {kLocation, printer.location},
+        {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
+        {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
+        {kLastModified, lastModified},         {kHash, QString::fromLatin1(hashOfPpd(ppd))}};
     // The PPD first: an old date with a new PPD is put right by the next look at the server.
     const bool stored = save(path, ppd) &&
                         save(pathOf(server, printer.name, ".json"), QJsonDocument(said).toJson());

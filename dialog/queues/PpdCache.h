@@ -9,6 +9,9 @@
 
 namespace corvana {
 
+/// By which a PPD is known again, without a look at the one that is stored.
+QByteArray hashOfPpd(const QByteArray &ppd);
+
 /// The PPDs of the queues that were used, so that a printer is there at once, even while its server
 /// is away. One folder of the user's; entries appear and disappear as a whole.
 class PpdCache
@@ -22,6 +25,7 @@ public:
     {
         Printer printer;         ///< with `ppdPath`; its state is not known
         qint64 lastModified = 0; ///< of the PPD at its server; seconds since 1970
+        QByteArray hash;         ///< hashOfPpd() of what was stored; the PPD is not read for it
     };
     /// Errors: nothing for a queue that was not used yet, or whose entry is damaged.
     std::optional<Entry> find(const QString &server, const QString &queue) const;

@@ -85,8 +85,7 @@ struct PrinterCapabilities
     QStringList documentFormats;
     QStringList rasterTypes; ///< kinds of PWG raster data, such as "srgb_8"
     int maximumCopies = 0;   ///< 0 when unknown
-    QStringList jobSheets;
-    bool severalDocuments = false; ///< whether one job may have several documents
+    QStringList jobSheets;   ///< pages that can be printed in front of a job
 
     bool operator==(const PrinterCapabilities &) const = default;
 };

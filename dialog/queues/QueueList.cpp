@@ -5,6 +5,7 @@
 
 #include <QCollator>
 
+#include "dialog/queues/PrinterId.h"
 #include "dialog/queues/QueueRequests.h"
 
 namespace corvana {
@@ -76,21 +77,37 @@ QueueList::QueueList(ServerContext context, UserQueues userQueues, QObject *pare
 
 void QueueList::start()
 {
-    if (std::exchange(m_active, true))
-        return;
-    look(false);
+    if (!std::exchange(m_active, true) && !m_looking)
+        look(false);
 }
 
 void QueueList::pause()
 {
     m_active = false;
     m_next.stop();
+}
+
+void QueueList::questionPut()
+{
+    if (m_questions++ > 0)
+        return;
     m_slow.stop();
-    m_work = {};
+    m_questioned.start();
+}
+
+void QueueList::questionAnswered()
+{
+    if (--m_questions > 0)
+        return;
+    m_waitedForUser += m_questioned.elapsed();
+    if (m_looking)
+        m_slow.start(kSlow);
 }
 
 void QueueList::retry()
 {
+    if (m_questions > 0)
+        return;
     m_active = true;
     m_problem = {};
     enter(State::Looking);
@@ -107,6 +124,8 @@ void QueueList::look(bool mayAsk)
     m_next.stop();
     m_slow.start(kSlow);
     m_started.start();
+    m_waitedForUser = 0;
+    m_looking = true;
     ServerContext context = m_context;
     context.mayAsk = mayAsk;
     // Only the first list is shown while it grows; later ones take its place as a whole.
@@ -143,7 +162,7 @@ void QueueList::take(const QList<Printer> &printers, const QString &serverDefaul
     QList<Printer> all = sorted(withInstances(printers, m_userQueues));
     const QString name = defaultName();
     for (Printer &printer : all)
-        printer.isDefault = printer.name == name;
+        printer.isDefault = isCalled(printer, name);
     m_everComplete = m_everComplete || complete;
     if (std::exchange(m_printers, all) != all)
         Q_EMIT changed();
@@ -152,8 +171,9 @@ void QueueList::take(const QList<Printer> &printers, const QString &serverDefaul
 void QueueList::finished(const ServerProblem &problem)
 {
     m_slow.stop();
+    m_looking = false;
     m_problem = problem;
-    const auto took = std::chrono::milliseconds(m_started.elapsed());
+    const auto took = std::chrono::milliseconds(m_started.elapsed() - m_waitedForUser);
     if (m_active)
         m_next.start(problem ? kIntervalOfTries : std::max(kInterval, took * kIntervalInAnswers));
     enter(problem ? State::Failed : State::Known);

@@ -31,10 +31,17 @@ public:
 
     /// Looks now, and from then on every few seconds.
     void start();
-    /// No one sees the list: nothing is asked.
+    /// No one sees the list: nothing is asked any more until start(). A look that has begun, which
+    /// the user may have been asked a password for, is taken.
     void pause();
-    /// The user wants another try, and may be asked for a password.
+    /// The user wants another try, and may be asked for a password. Not while a question stands:
+    /// its answer is the other try.
     void retry();
+
+    /// A question for a user and a password is put, and is answered: in between it is the server
+    /// that waits, whatever time passes. Calls pair up.
+    void questionPut();
+    void questionAnswered();
 
     /// In the order in which people look for them: by what they are called.
     const QList<Printer> &printers() const { return m_printers; }
@@ -59,12 +66,16 @@ private:
     QTimer m_next; // the next look
     QTimer m_slow; // when an answer is late
     QElapsedTimer m_started;
+    QElapsedTimer m_questioned;
+    qint64 m_waitedForUser = 0; // of the time since m_started; milliseconds
+    int m_questions = 0;        // that stand
     QList<Printer> m_printers;
     QString m_serverDefault;
     ServerProblem m_problem;
     State m_state = State::Looking;
     bool m_everComplete = false;
     bool m_active = false;
+    bool m_looking = false; // a server is being asked
 };
 
 } // namespace corvana

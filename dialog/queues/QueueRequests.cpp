@@ -4,6 +4,7 @@
 
 #include <QSet>
 
+#include "dialog/queues/PrinterId.h"
 #include "dialog/queues/UserQueues.h"
 
 namespace corvana {
@@ -205,8 +206,13 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
     while (next && ippGetGroupTag(next) != IPP_TAG_PRINTER)
         next = ippNextAttribute(response.get());
     Printer now = printerOfAttributes(response.get(), &next);
-    // What the dialog knows it by: an instance, or a printer's own address.
-    now.name = printer.name;
+    // What the dialog knows it by: an instance, or a printer's own address; in the spelling that
+    // the server's answers about jobs have, whatever somebody typed.
+    if (printer.origin == PrinterOrigin::Queue &&
+        isSameQueue(queueOfInstance(printer.name), now.name))
+        now.name += printer.name.mid(now.name.size());
+    else
+        now.name = printer.name;
     now.uri = printer.uri;
     now.origin = printer.origin;
     now.isDefault = printer.isDefault;

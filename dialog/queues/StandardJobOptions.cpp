@@ -129,7 +129,15 @@ public:
         QList<JobOption> options = paperOptions(m_paper) + m_attributes;
         if (!m_finishings.isEmpty())
             options += JobOption{QStringLiteral("finishings"), m_finishings.join(u',')};
-        return options + m_others;
+        // A choice that was picked stands for the attribute, whoever else has set that.
+        for (const JobOption &other : m_others) {
+            const bool picked = std::any_of(
+                m_attributes.cbegin(), m_attributes.cend(),
+                [&](const JobOption &attribute) { return attribute.name == other.name; });
+            if (!picked)
+                options += other;
+        }
+        return options;
     }
 
 private:

@@ -1,13 +1,25 @@
 #include "dialog/queues/UserQueues.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFile>
 
 #include <cups/cups.h>
 
+#include "dialog/queues/PrinterId.h"
+
 namespace corvana {
 
 namespace {
+
+// Of a queue that was named before, as it was then.
+QString spellingOf(const QString &name, const UserQueues &queues)
+{
+    const auto found = std::find_if(queues.options.keyBegin(), queues.options.keyEnd(),
+                                    [&](const QString &key) { return isSameQueue(key, name); });
+    return found == queues.options.keyEnd() ? name : *found;
+}
 
 // libcups reads such a line itself only while it asks a server.
 void readLine(const QString &line, UserQueues *queues)
@@ -22,7 +34,7 @@ void readLine(const QString &line, UserQueues *queues)
         queues->defaultName = name;
     cups_option_t *parsed = nullptr;
     const int count = cupsParseOptions(rest.mid(name.size()).toUtf8().constData(), 0, &parsed);
-    QList<JobOption> &options = queues->options[name];
+    QList<JobOption> &options = queues->options[spellingOf(name, *queues)];
     for (int i = 0; i < count; ++i) {
         const JobOption option{QString::fromUtf8(parsed[i].name),
                                QString::fromUtf8(parsed[i].value)};
@@ -34,11 +46,16 @@ void readLine(const QString &line, UserQueues *queues)
 
 } // namespace
 
+QList<JobOption> UserQueues::optionsOf(const QString &name) const
+{
+    return options.value(spellingOf(name, *this));
+}
+
 QStringList UserQueues::instancesOf(const QString &queue) const
 {
     QStringList instances;
     for (auto it = options.cbegin(); it != options.cend(); ++it) {
-        if (it.key().startsWith(queue + u'/'))
+        if (it.key().contains(u'/') && isSameQueue(queueOfInstance(it.key()), queue))
             instances += it.key();
     }
     return instances;

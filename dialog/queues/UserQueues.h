@@ -17,6 +17,8 @@ struct UserQueues
     /// "NAME" or "NAME/INSTANCE" to its options, in the order of the files.
     QMap<QString, QList<JobOption>> options;
 
+    /// What was set for "NAME" or "NAME/INSTANCE", in whatever spelling of the name.
+    QList<JobOption> optionsOf(const QString &name) const;
     /// The instances of a queue, by their whole names.
     QStringList instancesOf(const QString &queue) const;
 };

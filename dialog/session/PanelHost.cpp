@@ -31,6 +31,16 @@ bool panelsMustRestore(const QString &keyword)
                        [&](QLatin1StringView key) { return key == keyword; });
 }
 
+// From one custom value to another the choice stays the same, and the printer does not.
+QMap<QString, QString> marksWithValues(const PpdSession &session)
+{
+    const SessionSnapshot now = session.snapshot();
+    QMap<QString, QString> marks = now.marks;
+    for (auto custom = now.customValues.cbegin(); custom != now.customValues.cend(); ++custom)
+        marks.insert(custom.key(), custom.value());
+    return marks;
+}
+
 } // namespace
 
 // Marks that a panel is being called, so that nobody calls another one meanwhile.
@@ -87,7 +97,7 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
         m_paperChanged = true;
         scheduleDelivery();
     });
-    m_told = session.snapshot().marks;
+    m_told = marksWithValues(session);
     if (!plugIn)
         return;
     m_jobValues = plugIn->jobValues();
@@ -157,7 +167,7 @@ bool PanelHost::leaveVisible()
 void PanelHost::restoreAll()
 {
     m_pending.clear();
-    m_told = m_session.snapshot().marks; // all of them is what the panels read now
+    m_told = marksWithValues(m_session); // all of them is what the panels read now
     for (const auto &panel : std::as_const(m_panels)) {
         const Call call(*this, *panel);
         panel->restoreValuesAndReturnError(nullptr);
@@ -261,9 +271,12 @@ bool PanelHost::deliverOnce()
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
         // A box that is ticked but disabled goes on and off again at every save; what counts is
         // whether something is different now.
-        if (m_told.value(change.key()) == change->choice)
+        const QString custom = m_session.customValue(change.key());
+        const QString now =
+            change->choice == kCustomChoice && !custom.isNull() ? custom : change->choice;
+        if (m_told.value(change.key()) == now)
             continue;
-        m_told.insert(change.key(), change->choice);
+        m_told.insert(change.key(), now);
         anything = true;
         markCompanions(change.key(), change->choice);
         restore = restore || panelsMustRestore(change.key());

@@ -106,7 +106,7 @@ private:
     QList<PDEPanel *> m_callStack;
     int m_uninterruptible = 0; // alerts and notifications in the midst of which a panel is
     QMap<QString, Change> m_pending;
-    QMap<QString, QString> m_told; // the marks that all panels know of
+    QMap<QString, QString> m_told; // the marks, custom ones with their values, that panels know of
     QList<QPointer<QWidget>> m_views;
     bool m_refused = false;
     bool m_paperChanged = false;

@@ -38,29 +38,37 @@ QList<ppd_option_t *> furtherOptions(const PpdSession &session)
     return options;
 }
 
+QString customText(const PpdSession &session, const QString &keyword, const QString &custom)
+{
+    if (isSecret(session.ppd(), keyword))
+        return QString(kHiddenLength, u'•');
+    // Of a paper size this is in points, whatever it was in before.
+    const QString value = checkCustomValue(session.ppd(), keyword, custom)
+                              .value.value_or(custom)
+                              .mid(kCustomPrefix.size());
+    if (keyword != kPageSizeOption)
+        return value;
+    const bool inches = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+    const auto length = [&](int index) {
+        const double points = value.section(u'x', index, index).toDouble();
+        return inches ? QString::number(points / 72.0, 'f', 2)
+                      : QString::number(qRound(points / 72.0 * 25.4));
+    };
+    const QString form = inches ? QCoreApplication::translate("Summary", "%1 × %2 inches")
+                                : QCoreApplication::translate("Summary", "%1 × %2 mm");
+    return form.arg(length(0), length(1));
+}
+
 SummaryLine optionLine(const PpdSession &session, const QString &keyword)
 {
     ppd_option_t *option = ppdOption(session.ppd(), keyword);
     const ppd_choice_t *choice = ppdChoice(option, session.markedChoice(keyword));
     if (!choice)
         return {};
-    QString value = ppdText(choice->text).value_or(ppdKeyword(choice->choice));
-    if (const QString custom = session.customValue(keyword); !custom.isNull()) {
-        const Paper &paper = session.pageFormat().paper;
-        const bool inches = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
-        const auto length = [inches](double points) {
-            return inches ? QString::number(points / 72.0, 'f', 2)
-                          : QString::number(qRound(points / 72.0 * 25.4));
-        };
-        const QString form = inches ? QCoreApplication::translate("Summary", "%1 × %2 inches")
-                                    : QCoreApplication::translate("Summary", "%1 × %2 mm");
-        if (keyword == kPageSizeOption)
-            value = form.arg(length(paper.width), length(paper.height));
-        else if (isSecret(session.ppd(), keyword))
-            value = QString(kHiddenLength, u'•');
-        else
-            value = custom.mid(kCustomPrefix.size());
-    }
+    const QString custom = session.customValue(keyword);
+    const QString value = custom.isNull()
+                              ? ppdText(choice->text).value_or(ppdKeyword(choice->choice))
+                              : customText(session, keyword, custom);
     return {ppdText(option->text).value_or(keyword), value};
 }
 

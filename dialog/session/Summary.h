@@ -15,6 +15,10 @@ QStringList generalOptionKeywords();
 /// set with beside the General page.
 QList<ppd_option_t *> furtherOptions(const PpdSession &session);
 
+/// What a custom value ("Custom.…") is to a person: a paper size in the units of the user's region,
+/// dots for a password, else the value itself.
+QString customText(const PpdSession &session, const QString &keyword, const QString &custom);
+
 /// Title and value of one option's mark, in the PPD's words; both empty when the PPD lacks it.
 /// Passwords are not shown.
 SummaryLine optionLine(const PpdSession &session, const QString &keyword);

@@ -33,6 +33,7 @@ PrintRequest requestOf(const QueueDriver::Start &start)
     line.server = start.server;
     line.printer = start.printer;
     line.options = start.options;
+    line.copies = start.copies;
     line.bundleRoots = {QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/..")};
     QString error;
     PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());

@@ -71,6 +71,7 @@ public:
         QString printer; ///< empty: whatever the dialog opens by itself
         QStringList documents;
         QStringList options{};
+        int copies = 1;
     };
 
     /// Opens the dialog and returns when its window is on the screen. Errors: throws

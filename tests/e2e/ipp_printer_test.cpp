@@ -130,6 +130,17 @@ private Q_SLOTS:
         QVERIFY2(end.err.contains(u"Nothing was printed."_s), end.text().constData());
     }
 
+    void moreCopiesThanThePrinterMakesAreRefused()
+    {
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), u"-n"_s, u"1000"_s, kPages});
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.text().contains("prints at most 999 copies at once, not 1000"),
+                 end.text().constData());
+        QVERIFY(printer.documents().isEmpty());
+    }
+
     void aRawQueueOfAServerPrintsOnIt()
     {
         if (!PrivateCups::isAvailable())

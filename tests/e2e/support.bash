@@ -7,8 +7,7 @@
 # build folder (the release preset's without one), each TEST the name of one test. It sources this
 # file and ends with the line run_tests.
 #
-# A test is a function whose name has a capital letter; all others are helpers. It runs in a shell
-# of its own, in an empty folder whose name has blanks; the first expectation that fails ends it.
+# A test (tests/support/shell_tests.bash) begins in an empty folder whose name has blanks.
 #
 # Every wait has a limit. CORVANA_TEST_SLOWDOWN multiplies the limits, for programs built with
 # sanitizers.
@@ -53,6 +52,9 @@ bundles=$bundle_root # the folder of the plug-in bundle
 document=$sample
 printer=(--ppd "$ppd")
 
+# shellcheck source=tests/support/shell_tests.bash
+. "$source_root/tests/support/shell_tests.bash"
+
 # Folders of one test: $folder is the current one and holds nothing but what was printed.
 make_work() {
     work=$(mktemp -d "${TMPDIR:-/tmp}/corvana e2e.XXXXXX") || exit
@@ -95,31 +97,12 @@ changed_ppd() {
     printer=(--ppd "$work/changed.ppd")
 }
 
-fail() {
-    printf '    %s\n' "$@"
-    printf '    -- standard output and error\n'
-    sed 's/^/    | /' "$work/out" "$work/err"
-    exit 1
-}
-# skip REASON: for a machine on which a test cannot be made; it is listed, and counted apart.
-skip() {
-    printf '    %s\n' "$1"
-    exit 77
-}
 expect_status() { [ "$status" -eq "$1" ] || fail "the status is $status, $1 was expected"; }
-expect_equal() { [ "$1" = "$2" ] || fail "got      $1" "expected $2"; }
 # expect_said TEXT...: each text on standard error.
 expect_said() {
     local text
     for text in "$@"; do
         grep -qF -- "$text" "$work/err" || fail "not said on standard error: $text"
-    done
-}
-# expect_lines LINE...: each line in the summary.
-expect_lines() {
-    local line
-    for line in "$@"; do
-        grep -qxF -- "$line" "$work/out" || fail "not a line of the summary: $line"
     done
 }
 
@@ -158,32 +141,4 @@ expect_refusal() {
 expect_nothing_new() {
     expect_equal "$(ls -A "$folder")" "$(basename "$output")"
     expect_equal "$(cat "$output")" 'printed earlier'
-}
-
-# run_tests: the chosen tests or all; fails where one fails and where there is none.
-run_tests() {
-    local tests=("${chosen_tests[@]}") test failures=0 skipped=0
-    if [ ${#tests[@]} -eq 0 ]; then
-        mapfile -t tests < <(declare -F | sed -n 's/^declare -f \([a-z]*[A-Z].*\)/\1/p')
-    fi
-    [ ${#tests[@]} -gt 0 ] || {
-        echo 'no tests'
-        exit 1
-    }
-    for test in "${tests[@]}"; do
-        (make_work && "$test")
-        case $? in
-        0) echo "ok      $test" ;;
-        77)
-            echo "skipped $test"
-            skipped=$((skipped + 1))
-            ;;
-        *)
-            echo "FAILED  $test"
-            failures=$((failures + 1))
-            ;;
-        esac
-    done
-    echo "${#tests[@]} tests, $failures failed, $skipped skipped"
-    [ "$failures" -eq 0 ]
 }

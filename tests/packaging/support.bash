@@ -6,8 +6,7 @@
 # (the release preset's without one), PACKAGES the folder in which the package is made or found, each
 # TEST the name of one test. It sources this file and ends with the line run_tests.
 #
-# A test is a function whose name has a capital letter; all others are helpers. It runs in a shell of
-# its own with an empty folder $work; the first expectation that fails ends it.
+# A test (tests/support/shell_tests.bash) begins in an empty folder $work.
 
 here=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd) || exit
 source_root=$(CDPATH='' cd -- "$here/../.." && pwd) || exit
@@ -29,6 +28,9 @@ umask 022
 PATH=$PATH:/usr/sbin:/sbin
 unset LANGUAGE LANG LC_MESSAGES DESTDIR
 export LC_ALL=C.UTF-8
+
+# shellcheck source=tests/support/shell_tests.bash
+. "$source_root/tests/support/shell_tests.bash"
 
 make_work() {
     work=$(mktemp -d "${TMPDIR:-/tmp}/corvana packaging.XXXXXX") || exit
@@ -71,20 +73,8 @@ users() {
     [ "$(id -u)" -ne 0 ] || echo $normal_user
 }
 
-fail() {
-    printf '    %s\n' "$@"
-    printf '    -- standard output and error\n'
-    sed 's/^/    | /' "$work/out" "$work/err"
-    exit 1
-}
-# skip REASON: for a machine on which a test cannot be made; it is listed, and counted apart.
-skip() {
-    printf '    %s\n' "$1"
-    exit 77
-}
 # expect_nothing TEXT OUTPUT: the output of some search is empty.
 expect_nothing() { [ -z "$2" ] || fail "$1" "$2"; }
-expect_equal() { [ "$1" = "$2" ] || fail "got      $1" "expected $2"; }
 
 # expect_prints USER PREFIX: the program below PREFIX prints the sample document for a sample printer,
 # with both panels, and says so in Japanese as well.
@@ -104,41 +94,4 @@ expect_prints() {
     as "$user" env LC_ALL=ja_JP.UTF-8 "$prefix/bin/corvana-print" "${job[@]}" \
         >"$work/out" 2>"$work/err" || fail "user $user, in Japanese: status $?, 0 was expected"
     expect_lines '用紙サイズ: A4' '用紙の種類: 普通紙（薄め）' '明るさ: 0'
-}
-# expect_lines LINE...: each line in the output.
-expect_lines() {
-    local line
-    for line in "$@"; do
-        grep -qxF -- "$line" "$work/out" || fail "not a line of the output: $line"
-    done
-}
-
-# run_tests: the chosen tests or all; fails where one fails and where there is none; status 77 where
-# all were skipped.
-run_tests() {
-    local tests=("${chosen_tests[@]}") test failures=0 skipped=0
-    if [ ${#tests[@]} -eq 0 ]; then
-        mapfile -t tests < <(declare -F | sed -n 's/^declare -f \([a-z]*[A-Z].*\)/\1/p')
-    fi
-    [ ${#tests[@]} -gt 0 ] || {
-        echo 'no tests'
-        exit 1
-    }
-    for test in "${tests[@]}"; do
-        (make_work && "$test")
-        case $? in
-        0) echo "ok      $test" ;;
-        77)
-            echo "skipped $test"
-            skipped=$((skipped + 1))
-            ;;
-        *)
-            echo "FAILED  $test"
-            failures=$((failures + 1))
-            ;;
-        esac
-    done
-    echo "${#tests[@]} tests, $failures failed, $skipped skipped"
-    [ "$failures" -eq 0 ] || exit 1
-    [ "$skipped" -lt ${#tests[@]} ] || exit 77
 }

@@ -189,6 +189,31 @@ private Q_SLOTS:
         QVERIFY(!control<QLabel>(u"progressText"_s)->isVisible());
     }
 
+    void noButtonOfTheFooterWidensTheWindow_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("silenced messages") << u"silencedAlerts"_s;
+        QTest::newRow("close") << u"leave"_s;
+    }
+    void noButtonOfTheFooterWidensTheWindow()
+    {
+        QFETCH(QString, button);
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        // Whatever else is in the window shall not decide how narrow it can be.
+        for (int i = control<QTabWidget>(u"pages"_s)->count(); i > 0; --i)
+            control<QTabWidget>(u"pages"_s)->removeTab(0);
+        for (QWidget *field : {control<QWidget>(u"printers"_s), control<QWidget>(u"output"_s)})
+            field->setMinimumWidth(1);
+        m_dialog->layout()->activate();
+        m_dialog->resize(1, m_dialog->height());
+        const int width = m_dialog->width();
+        control<QWidget>(button)->show();
+        m_dialog->layout()->activate();
+        QCOMPARE(m_dialog->width(), width);
+        QVERIFY(width < m_dialog->fontMetrics().height() * 36); // which is what it begins with
+    }
+
     void aPrintedJobClosesTheDialogAndNamesItsPlace()
     {
         open("echo ok\n", {sample()});
@@ -264,6 +289,17 @@ private Q_SLOTS:
         control<QPushButton>(u"messageAction"_s)->click();
         QCOMPARE(shown(u"Media"_s), u"Transparency"_s);
         QCOMPARE(shown(u"Staple"_s), u"Off"_s);
+    }
+
+    void aRefusedValueIsSaidAsThePagesShowIt()
+    {
+        openOffice({u"Staple=Left"_s},
+                   officePrinter().constraint("Sleep", "Custom", "Staple", "Left"));
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
+        choose(u"Sleep"_s, u"Custom"_s);
+        choose(u"Sleep"_s, u"12"_s);
+        QCOMPARE(message(), u"“Sleep Time: 12” cannot be combined with “Staple: Top Left”."_s);
     }
 
     void aValueThatCannotBeTakenHoldsTheJobBack()

@@ -235,15 +235,7 @@ private Q_SLOTS:
     {
         PrintRequest request;
         request.wantedPrinter = kQueue;
-        // Dates are counted in seconds; the first one is long ago.
-        for (QDirIterator it(m_cups->folder(), {kQueue + u".ppd"_s}, QDir::Files,
-                             QDirIterator::Subdirectories);
-             it.hasNext();) {
-            QFile ppd(it.next());
-            QVERIFY(ppd.open(QIODevice::ReadWrite));
-            QVERIFY(ppd.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
-                                    QFileDevice::FileModificationTime));
-        }
+        dateBack();
         useOnce(request);
         PrinterSource source(request, m_server);
         Told told(source);
@@ -257,6 +249,74 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(told.said.count(u"ready"_s), 2, kLong);
         QVERIFY(contentOf(told.last.printer.ppdPath) != before);
         m_cups->setPpd(kQueue, ppdOf(5));
+    }
+
+    // Written anew with a later date, it is the same; what is stored is not read to find that out.
+    void aPpdThatWasInstalledAgainIsKnownByItsHash()
+    {
+        PrintRequest request;
+        request.wantedPrinter = kQueue;
+        dateBack();
+        useOnce(request);
+        PrinterSource source(request, m_server);
+        Told told(source);
+        source.start();
+        source.open(source.first());
+        QTRY_VERIFY(told.said.contains(u"checked"_s));
+        QFile stored(told.last.printer.ppdPath);
+        QVERIFY(stored.open(QIODevice::WriteOnly));
+        stored.close();
+        // The server counts seconds.
+        const qint64 now = QDateTime::currentSecsSinceEpoch();
+        QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() > now);
+        m_cups->setPpd(kQueue, ppdOf(5));
+        // It is fetched, and stored once more.
+        QTRY_VERIFY_WITH_TIMEOUT(contentOf(stored.fileName()).startsWith("*PPD-Adobe"), kLong);
+        QCOMPARE(told.said.count(u"ready"_s), 1);
+    }
+
+    void aQueueIsTheSameInAnySpelling_data()
+    {
+        QTest::addColumn<QString>("wanted");
+        QTest::addColumn<QString>("found");
+        QTest::newRow("queue") << u"OFFICE"_s << kQueue;
+        QTest::newRow("class") << u"floor"_s << u"Floor"_s;
+    }
+    void aQueueIsTheSameInAnySpelling()
+    {
+        QFETCH(QString, wanted);
+        QFETCH(QString, found);
+        m_cups->addClass(u"Floor"_s, {kQueue});
+        PrintRequest request;
+        request.wantedPrinter = wanted;
+        {
+            PrinterSource source(request, m_server);
+            Told told(source);
+            source.open(source.first());
+            QTRY_COMPARE(told.said, QStringList{u"ready"_s});
+            QCOMPARE(told.last.printer.name, found); // as the server's answers about jobs say it
+        }
+        PrinterSource source(request, m_server);
+        Told told(source);
+        source.open(source.first());
+        QCOMPARE(told.said, QStringList{u"ready"_s}); // from the cache
+        source.start();
+        QTRY_COMPARE(source.queues().state(), QueueList::State::Known);
+        QTRY_VERIFY(told.said.contains(u"checked"_s));
+        QVERIFY(!told.said.contains(u"failed"_s));
+        QStringList names;
+        for (const Printer &printer : source.printers()) {
+            if (printer.origin == PrinterOrigin::Queue)
+                names += printer.name;
+        }
+        QCOMPARE(names, (QStringList{u"Floor"_s, kQueue}));
+        // Found in its own spelling, under the default of the user's in another one.
+        qputenv("LPDEST", wanted.toUtf8());
+        PrinterSource unnamed(PrintRequest(), m_server);
+        unnamed.start();
+        QTRY_COMPARE(unnamed.queues().state(), QueueList::State::Known);
+        QCOMPARE(unnamed.expected()->name, found);
+        m_cups->removeQueue(u"Floor"_s);
     }
 
     void aQueueThatIsGoneIsSaid()
@@ -342,6 +402,19 @@ private:
         if (file.open(QIODevice::WriteOnly))
             file.write(samplePpd(model));
         return path;
+    }
+
+    /// The PPD of the queue is from long ago: dates are counted in seconds.
+    void dateBack()
+    {
+        for (QDirIterator it(m_cups->folder(), {kQueue + u".ppd"_s}, QDir::Files,
+                             QDirIterator::Subdirectories);
+             it.hasNext();) {
+            QFile ppd(it.next());
+            QVERIFY(ppd.open(QIODevice::ReadWrite));
+            QVERIFY(ppd.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
+                                    QFileDevice::FileModificationTime));
+        }
     }
 
     /// Puts the wanted printer into the cache.

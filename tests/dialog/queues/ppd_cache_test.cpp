@@ -113,12 +113,33 @@ private Q_SLOTS:
 
     void namesThatLookAlikeAreDifferent()
     {
-        const QStringList names{u"a%2Fb"_s, u"a%252Fb"_s, u"a.b"_s, u"a%2Eb"_s, u"A.b"_s};
+        const QStringList names{u"a%2Fb"_s, u"a%252Fb"_s, u"a.b"_s, u"a%2Eb"_s, u"Ü.b"_s, u"ü.b"_s};
         for (const QString &name : names)
             QVERIFY(!m_cache.store(kServer, queueOf(name), name.toUtf8(), 1).isEmpty());
         for (const QString &name : names)
             QCOMPARE(contentOf(m_cache.find(kServer, name)->printer.ppdPath), name.toUtf8());
         QVERIFY(!m_cache.find(u"other:631"_s, u"a.b"_s));
+    }
+
+    void aQueueIsFoundInAnySpelling()
+    {
+        m_cache.store(kServer, queueOf(u"Office"_s), kPpd, 1);
+        m_cache.store(kServer, queueOf(u"oFFICE"_s), kPpd, 2);
+        QCOMPARE(filesIn(m_folder->path()).size(), 2);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+    }
+
+    // The PPD may be long, and lie on a slow disk.
+    void aPpdIsKnownAgainWithoutBeingRead()
+    {
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("another");
+        file.close();
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
+        QVERIFY(hashOfPpd("another") != hashOfPpd(kPpd));
     }
 
     void anInstanceHasThePpdOfItsQueueAndItsOwnName()

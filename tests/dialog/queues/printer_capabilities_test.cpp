@@ -73,14 +73,34 @@ private Q_SLOTS:
         QCOMPARE(printer.documentFormats.size(), 3);
         QCOMPARE(printer.maximumCopies, 999);
         QCOMPARE(printer.jobSheets, (QStringList{u"none"_s, u"standard"_s}));
-        QVERIFY(!printer.severalDocuments);
+    }
+
+    void copiesAreLimitedOnlyByARange_data()
+    {
+        QTest::addColumn<bool>("isRange");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<int>("most");
+        QTest::newRow("range") << true << 25 << 25;
+        QTest::newRow("backwards") << true << -3 << 0;
+        QTest::newRow("number") << false << 25 << 0;
+    }
+    void copiesAreLimitedOnlyByARange()
+    {
+        QFETCH(bool, isRange);
+        QFETCH(int, number);
+        QFETCH(int, most);
+        PrinterAttributes printer;
+        if (isRange)
+            printer.range("copies-supported", 1, number);
+        else
+            printer.integers("copies-supported", {number});
+        QCOMPARE(capabilitiesOf(printer.ipp()).maximumCopies, most);
     }
 
     void aQueueOfAServerTakesNoDetailsOfThePaper()
     {
         const PrinterCapabilities printer = capabilitiesOf(printerProfile("raw queue").ipp());
         QVERIFY(!printer.mediaDetails);
-        QVERIFY(printer.severalDocuments);
         QCOMPARE(printer.maximumCopies, 9999);
         auto office = printerProfile("office laser");
         office.enums("printer-type", {4});

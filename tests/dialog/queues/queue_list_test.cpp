@@ -180,6 +180,61 @@ private Q_SLOTS:
         QCOMPARE(list.problem().kind, ServerProblem::Kind::NoAnswer);
     }
 
+    void aServerThatWaitsForAPasswordIsNotSlow()
+    {
+        FaultyServer server(0, FaultyServer::Manner::NeverAnswers);
+        QueueList list(contextFor(server.port()), {});
+        list.start();
+        list.questionPut();
+        list.questionPut(); // a second one, for the printer
+        QueueList other(contextFor(server.port()), {});
+        other.start();
+        QTRY_COMPARE(other.state(), State::Slow);
+        QCOMPARE(list.state(), State::Looking);
+        list.questionAnswered();
+        QueueList third(contextFor(server.port()), {});
+        third.start();
+        QTRY_COMPARE(third.state(), State::Slow);
+        QCOMPARE(list.state(), State::Looking);
+        list.questionAnswered();
+        QTRY_COMPARE(list.state(), State::Slow);
+    }
+
+    void noSecondTryIsMadeWhileAQuestionStands()
+    {
+        FaultyServer server(0, FaultyServer::Manner::NeverAnswers);
+        QueueList list(contextFor(server.port()), {});
+        list.retry();
+        QTRY_COMPARE(list.state(), State::Slow);
+        list.questionPut();
+        list.retry();
+        QCOMPARE(list.state(), State::Slow);
+        list.questionAnswered();
+        list.retry();
+        QCOMPARE(list.state(), State::Looking);
+    }
+
+    // A slow server is asked rarely; a slow typist is no slow server.
+    void theTimeOfAQuestionIsNotTheServers()
+    {
+        CannedQueues queues;
+        queues.setQueues(manyQueues(1));
+        FaultyServer server(queues.port());
+        server.delayResponse(IPP_OP_CUPS_GET_PRINTERS, 1);
+        QueueList list(contextFor(server.port()), {});
+        list.start();
+        list.questionPut();
+        FaultyServer silent(0, FaultyServer::Manner::NeverAnswers);
+        QueueList clock(contextFor(silent.port()), {});
+        clock.start();
+        QTRY_COMPARE(clock.state(), State::Slow);
+        list.questionAnswered();
+        server.releaseResponses();
+        QTRY_COMPARE(list.state(), State::Known);
+        // The next look would be due after twenty times as long.
+        QTRY_VERIFY_WITH_TIMEOUT(queues.pagesAsked() >= 2, kLong);
+    }
+
     void whileNobodyLooksNothingIsAsked()
     {
         CannedQueues server;
@@ -231,6 +286,8 @@ private Q_SLOTS:
                                 << QStringList{u"queue1"_s};
         QTest::newRow("user's instance") << u"queue1/draft"_s << u"queue2"_s << u"queue1/draft"_s
                                          << QStringList{u"queue1/draft"_s};
+        QTest::newRow("another spelling") << u"Queue1/DRAFT"_s << u"queue2"_s << u"Queue1/DRAFT"_s
+                                          << QStringList{u"queue1/draft"_s};
         QTest::newRow("user's that is gone") << u"gone"_s << u"queue2"_s << u"gone"_s << none;
     }
     void theDefaultIsTheUsersThenTheServers()

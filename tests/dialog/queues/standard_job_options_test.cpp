@@ -106,6 +106,30 @@ private:
     }
 
 private Q_SLOTS:
+    void aCoverSheetIsAskedForOnlyWhenSomebodyPickedIt_data()
+    {
+        QTest::addColumn<QString>("choice");
+        QTest::addColumn<QString>("attributes");
+        QTest::newRow("untouched") << u"PrinterDefault"_s << u"job-sheets=secret,none"_s;
+        QTest::newRow("picked") << u"Standard"_s << u"job-sheets=standard"_s;
+        QTest::newRow("none picked") << u"None"_s << u"job-sheets=none"_s;
+    }
+    void aCoverSheetIsAskedForOnlyWhenSomebodyPickedIt()
+    {
+        QFETCH(QString, choice);
+        QFETCH(QString, attributes);
+        PrinterCapabilities printer;
+        printer.jobSheets = {u"none"_s, u"standard"_s, u"secret"_s};
+        const auto session = sessionFor(ppdOfCapabilities(printer));
+        QCOMPARE(session->markedChoice(u"JobSheets"_s), u"PrinterDefault"_s);
+        // What is picked comes before what a command line or a preference had set.
+        QCOMPARE(written(standardJobOptions(
+                     {{u"JobSheets"_s, choice}, {u"job-sheets"_s, u"secret,none"_s}}, printer)),
+                 attributes);
+        QCOMPARE(written(standardJobOptions({{u"JobSheets"_s, choice}}, printer)),
+                 choice == u"PrinterDefault"_s ? QString() : attributes);
+    }
+
     void everyListedValueIsExactlyOneChoice_data()
     {
         QTest::addColumn<QByteArray>("name");

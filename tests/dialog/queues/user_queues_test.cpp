@@ -64,6 +64,8 @@ private Q_SLOTS:
         row("the last default counts", {"Default a\nDefault b\n"}, "b", {u"a:"_s, u"b:"_s});
         row("the user's in front of the system's",
             {"Default a x=1 y=1\n", "Default b\nDest a x=2\n"}, "b", {u"a: y=1 x=2"_s, u"b:"_s});
+        row("two spellings of one queue", {"Dest a x=1 y=1\n", "Dest A x=2\n"}, "",
+            {u"a: x=2 y=1"_s});
         row("no text", {QByteArray("\x00\xff\xfe\n", 4)}, "", {});
     }
     void filesAreRead()
@@ -91,6 +93,25 @@ private Q_SLOTS:
             expected.sort();
             QCOMPARE(got, expected);
         }
+    }
+
+    void optionsAreFoundInAnySpelling_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("media");
+        QTest::newRow("as it stands there") << u"Office"_s << u"A4"_s;
+        QTest::newRow("otherwise") << u"oFFice"_s << u"A4"_s;
+        QTest::newRow("instance") << u"office/draft"_s << u"A5"_s;
+        QTest::newRow("another queue") << u"off"_s << QString();
+    }
+    void optionsAreFoundInAnySpelling()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, media);
+        UserQueues queues;
+        queues.options[u"Office"_s] = {{u"media"_s, u"A4"_s}};
+        queues.options[u"Office/Draft"_s] = {{u"media"_s, u"A5"_s}};
+        QCOMPARE(queues.optionsOf(name).value(0).value, media);
     }
 
     void aMissingFileIsNone()
@@ -143,6 +164,7 @@ private Q_SLOTS:
             queues.options[name] = {};
         QCOMPARE(queues.instancesOf(u"a"_s), (QStringList{u"a/one"_s, u"a/two"_s}));
         QVERIFY(queues.instancesOf(u"c"_s).isEmpty());
+        QCOMPARE(queues.instancesOf(u"A"_s), queues.instancesOf(u"a"_s));
         QCOMPARE(queueOfInstance(u"a/one"_s), u"a"_s);
         QCOMPARE(queueOfInstance(u"a"_s), u"a"_s);
     }

@@ -111,6 +111,32 @@ private Q_SLOTS:
         QCOMPARE(taken(), CallLog());
     }
 
+    void aChangeFromOneCustomValueToAnotherIsTold()
+    {
+        const auto session = sessionFor(smallPrinter().customInteger("Tray", "N", "N", 1, 9));
+        FakePlugIn plugIn({u"A"_s, u"B"_s});
+        PanelHost host(*session, &plugIn, m_presenter);
+        host.visit(0);
+        turn();
+        QSignalSpy settled(&host, &PanelHost::settled);
+        const auto heardOf = [&](std::initializer_list<const char *> values) {
+            plugIn.log.clear();
+            for (const char *value : values)
+                session->change(u"Tray"_s, QString::fromLatin1(value), Origin::Dialog);
+            turn();
+            return plugIn.log == CallLog({u"A.changed Tray=Custom"_s, u"B.changed Tray=Custom"_s});
+        };
+        QVERIFY(heardOf({"Custom.1"}));
+        QVERIFY(heardOf({"Custom.2"}));
+        QCOMPARE(settled.size(), 2);
+        QVERIFY(!heardOf({"Custom.3", "Custom.2"})); // taken back
+        QCOMPARE(settled.size(), 2);
+        host.restoreAll(); // which reads the value as well
+        turn();
+        QVERIFY(!heardOf({"Custom.3", "Custom.2"}));
+        QVERIFY(heardOf({"Custom.3"}));
+    }
+
     void allPanelsHearOfTheDialogsOwnChange()
     {
         m_session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
