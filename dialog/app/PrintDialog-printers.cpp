@@ -280,7 +280,8 @@ void PrintDialog::showListState()
     const ServerProblem &problem = queues.problem();
     const bool wantsPassword = problem.kind == ServerProblem::Kind::PasswordNeeded ||
                                problem.kind == ServerProblem::Kind::PasswordRefused ||
-                               problem.kind == ServerProblem::Kind::PasswordCanceled;
+                               problem.kind == ServerProblem::Kind::PasswordCanceled ||
+                               problem.anotherUserMay;
     const QString wayOut = wantsPassword ? tr("Log In…") : tr("Try Again");
     m_printers->setFooter(problem.text(server), wayOut, retry);
     if (!nothingElse)
@@ -309,7 +310,7 @@ void PrintDialog::keepSettings()
     if (m_options)
         m_options->finishEditing(); // what is being typed counts as well
     // What was asked for on the command line is the user's as well.
-    if (isUntouched() && (m_request.options.isEmpty() || !m_panelsUp))
+    if (!m_printer || !m_panelsUp || (isUntouched() && m_request.options.isEmpty()))
         return;
     m_printer->panels->visit(-1); // a panel that is left saves
     KeptSettings kept{jobOptions(*m_printer->session, m_printer->jobValues, m_attributes),

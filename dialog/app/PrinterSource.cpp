@@ -271,8 +271,7 @@ void PrinterSource::follow()
         Q_EMIT checked(printer, m_openModified);
     }
     // The server is back, or an administrator has been at it: the options may be others.
-    const bool changed =
-        m_openIsReady && m_openModified > 0 && m_configured != 0 && m_configured != now->configured;
+    const bool changed = m_openIsReady && m_configured != 0 && m_configured != now->configured;
     m_configured = now->configured;
     if (!m_inspecting && (m_inspectionFailed || changed))
         inspect(false);

@@ -1,6 +1,7 @@
 #include "dialog/queues/PpdCache.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -28,6 +29,21 @@ constexpr QLatin1StringView kDeviceUri{"deviceUri"};
 constexpr QLatin1StringView kIsClass{"isClass"};
 constexpr QLatin1StringView kLastModified{"lastModified"};
 constexpr QLatin1StringView kHash{"hash"};
+
+constexpr QLatin1StringView kEntrySuffix{".json"};
+// Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
+constexpr qsizetype kHashInName = 16;
+
+bool isHash(const QByteArray &text)
+{
+    return text.size() >= kHashInName && QByteArray::fromHex(text).toHex() == text;
+}
+
+QString ppdSuffix(const QByteArray &hash)
+{
+    return QStringLiteral("-%1.ppd").arg(
+        QLatin1StringView(hash.first(qMin(kHashInName, hash.size()))));
+}
 
 bool save(const QString &path, const QByteArray &content)
 {
@@ -57,23 +73,23 @@ PpdCache::PpdCache()
 {
 }
 
-QString PpdCache::pathOf(const QString &server, const QString &queue, const char *suffix) const
+QString PpdCache::pathOf(const QString &server, const QString &queue, const QString &suffix) const
 {
     return QStringLiteral("%1/%2/%3%4")
-        .arg(m_folder, fileName(server), fileName(foldedQueueName(queueOfInstance(queue))),
-             QLatin1StringView(suffix));
+        .arg(m_folder, fileName(server), fileName(foldedQueueName(queueOfInstance(queue))), suffix);
 }
 
 std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QString &queue) const
 {
-    QFile file(pathOf(server, queue, ".json"));
-    const QString ppd = pathOf(server, queue, ".ppd");
-    if (!QFileInfo(ppd).isReadable() || !file.open(QIODevice::ReadOnly))
+    QFile file(pathOf(server, queue, kEntrySuffix));
+    if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QJsonObject said = QJsonDocument::fromJson(file.readAll()).object();
-    if (!said.contains(kUri))
-        return std::nullopt;
     Entry entry;
+    entry.hash = said.value(kHash).toString().toLatin1();
+    const QString ppd = pathOf(server, queue, ppdSuffix(entry.hash));
+    if (!said.contains(kUri) || !isHash(entry.hash) || !QFileInfo(ppd).isReadable())
+        return std::nullopt;
     entry.printer.name = queue;
     entry.printer.origin = PrinterOrigin::Queue;
     entry.printer.ppdPath = ppd;
@@ -84,14 +100,14 @@ std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QStri
     entry.printer.deviceUri = said.value(kDeviceUri).toString();
     entry.printer.isClass = said.value(kIsClass).toBool();
     entry.lastModified = said.value(kLastModified).toInteger();
-    entry.hash = said.value(kHash).toString().toLatin1();
     return entry;
 }
 
 QString PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
                         qint64 lastModified) const
 {
-    const QString path = pathOf(server, printer.name, ".ppd");
+    const QByteArray hash = hashOfPpd(ppd);
+    const QString path = pathOf(server, printer.name, ppdSuffix(hash));
     if (!QDir().mkpath(QFileInfo(path).path()))
         return {};
     // Where a printer stands, and how it is reached, is nobody else's business.
@@ -100,17 +116,36 @@ QString PpdCache::store(const QString &server, const Printer &printer, const QBy
         {kDescription, printer.description},   {kLocation, printer.location},
         {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
         {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
-        {kLastModified, lastModified},         {kHash, QString::fromLatin1(hashOfPpd(ppd))}};
-    // The PPD first: an old date with a new PPD is put right by the next look at the server.
-    const bool stored = save(path, ppd) &&
-                        save(pathOf(server, printer.name, ".json"), QJsonDocument(said).toJson());
-    return stored ? path : QString();
+        {kLastModified, lastModified},         {kHash, QString::fromLatin1(hash)}};
+    const bool isThere = QFileInfo(path).size() == ppd.size();
+    if (!isThere && !save(path, ppd))
+        return {};
+    if (!save(pathOf(server, printer.name, kEntrySuffix), QJsonDocument(said).toJson()))
+        return {};
+    removeFormerPpds(server, printer.name, path);
+    return path;
 }
 
 void PpdCache::remove(const QString &server, const QString &queue) const
 {
-    QFile::remove(pathOf(server, queue, ".json"));
-    QFile::remove(pathOf(server, queue, ".ppd"));
+    QFile::remove(pathOf(server, queue, kEntrySuffix));
+    removeFormerPpds(server, queue, {});
+}
+
+// But for those that a window of today may have opened, and `current`.
+void PpdCache::removeFormerPpds(const QString &server, const QString &queue,
+                                const QString &current) const
+{
+    const QString pattern =
+        pathOf(server, queue,
+               QLatin1StringView("-") + QString(kHashInName, u'?') + QLatin1StringView(".ppd"));
+    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
+    const QFileInfoList ppds =
+        QFileInfo(pattern).dir().entryInfoList({QFileInfo(pattern).fileName()}, QDir::Files);
+    for (const QFileInfo &ppd : ppds) {
+        if (ppd.filePath() != current && ppd.lastModified() < yesterday)
+            QFile::remove(ppd.filePath());
+    }
 }
 
 } // namespace corvana

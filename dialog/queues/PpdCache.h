@@ -14,6 +14,9 @@ QByteArray hashOfPpd(const QByteArray &ppd);
 
 /// The PPDs of the queues that were used, so that a printer is there at once, even while its server
 /// is away. One folder of the user's; entries appear and disappear as a whole.
+///
+/// A file holds one PPD for as long as it exists: a new one of the same queue gets a file of its
+/// own. Whoever has opened the former one, in this process or another, prints with what was opened.
 class PpdCache
 {
 public:
@@ -36,7 +39,9 @@ public:
     void remove(const QString &server, const QString &queue) const;
 
 private:
-    QString pathOf(const QString &server, const QString &queue, const char *suffix) const;
+    QString pathOf(const QString &server, const QString &queue, const QString &suffix) const;
+    void removeFormerPpds(const QString &server, const QString &queue,
+                          const QString &current) const;
 
     QString m_folder;
 };

@@ -20,6 +20,9 @@ namespace {
 // Authentication, TLS and a broken connection may each ask for the same once more.
 constexpr int kMostAttempts = 6;
 constexpr qint64 kBlock = 65536;
+// How long libcups waits for keys while it connects, whatever it is told, and says of that only
+// that a function has failed.
+constexpr std::chrono::seconds kHandshakePatience{10};
 // No PPD is that large; an endless answer must not fill the memory. Units: bytes.
 constexpr qint64 kLargestFile = 32 * 1024 * 1024;
 // What CUPS says of 10,000 queues when it says all, 10 KB of each, where a server knows no "limit".
@@ -32,6 +35,13 @@ QString reasonOfLibcups()
 {
     const QString reason = QString::fromUtf8(cupsLastErrorString());
     return reason == qt_error_string(EHOSTDOWN) ? QString() : reason;
+}
+
+// Whether a request changes nothing at the server, so that it can be sent twice.
+bool onlyAsks(ipp_t *message)
+{
+    return QLatin1StringView(ippOpString(ippGetOperation(message)))
+        .contains(QLatin1StringView("Get-"));
 }
 
 } // namespace
@@ -73,6 +83,7 @@ bool ServerConnection::open()
     if (m_http)
         return true;
     const QByteArray host = m_context.address.host.toUtf8();
+    const auto begin = std::chrono::steady_clock::now();
     m_http = httpConnect2(host.constData(), m_context.address.port, nullptr, AF_UNSPEC,
                           m_context.address.encryption, 1,
                           static_cast<int>(m_context.patience.connecting.count()), m_wait.flag());
@@ -80,7 +91,8 @@ bool ServerConnection::open()
         const int error = errno;
         if (isCanceled())
             fail(ServerProblem::Kind::Canceled);
-        else if (error == ETIMEDOUT || error == EINPROGRESS)
+        else if (error == ETIMEDOUT || error == EINPROGRESS ||
+                 std::chrono::steady_clock::now() - begin >= kHandshakePatience)
             fail(ServerProblem::Kind::NoAnswer);
         else
             fail(ServerProblem::Kind::Unreachable, reasonOfLibcups());
@@ -102,6 +114,7 @@ bool ServerConnection::keepsOnlyTrusted()
 
 void ServerConnection::close()
 {
+    m_hasAnswered = false;
     if (m_http)
         httpClose(std::exchange(m_http, nullptr));
 }
@@ -150,8 +163,9 @@ IppMessage ServerConnection::request(IppMessage message, const QByteArray &resou
 
 // Sends until there is an answer that asks neither for a password nor for encryption. Answers its
 // status; nothing when there is none, problem() says why.
-std::optional<http_status_t>
-ServerConnection::converse(const char *method, const QByteArray &resource, const Sender &send)
+std::optional<http_status_t> ServerConnection::converse(const char *method,
+                                                        const QByteArray &resource, bool mayRepeat,
+                                                        const Sender &send)
 {
     prepare();
     for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
@@ -162,11 +176,18 @@ ServerConnection::converse(const char *method, const QByteArray &resource, const
         if (!open())
             return std::nullopt;
         m_wait.start();
+        const bool isReused = std::exchange(m_hasAnswered, false);
         http_status_t status = send();
         if (!m_problem && status == HTTP_STATUS_CONTINUE)
             status = awaitAnswer();
         if (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_UPGRADE_REQUIRED)
             m_documentSent = false; // it was, and was refused
+        // The server may have closed what it has answered on while the request was on its way.
+        const bool wasClosed = status <= HTTP_STATUS_CONTINUE && !m_wait.isOver();
+        if (!m_problem && isReused && mayRepeat && wasClosed) {
+            close();
+            continue;
+        }
         if (!m_problem && status == HTTP_STATUS_UNAUTHORIZED) {
             if (authenticate(method, resource))
                 continue;
@@ -175,6 +196,7 @@ ServerConnection::converse(const char *method, const QByteArray &resource, const
             if (goOverToTls())
                 continue;
         } else if (!m_problem && status > HTTP_STATUS_CONTINUE) {
+            m_hasAnswered = true;
             return status;
         }
         noteFailure(status);
@@ -223,8 +245,9 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
     m_documentSent = false;
     m_requestSent = false;
     qCDebug(lcServer) << ippOpString(ippGetOperation(message.get())) << resource;
-    const auto status = converse(
-        "POST", resource, [&] { return sendIpp(message.get(), resource, document, progress); });
+    const auto status = converse("POST", resource, onlyAsks(message.get()), [&] {
+        return sendIpp(message.get(), resource, document, progress);
+    });
     if (!status)
         return nullptr;
     if (*status != HTTP_STATUS_OK) {
@@ -260,14 +283,22 @@ http_status_t ServerConnection::sendIpp(ipp_t *message, const QByteArray &resour
     return HTTP_STATUS_CONTINUE;
 }
 
+// Whether the server hangs up behind the answer that is being read.
+bool ServerConnection::isLastAnswer() const
+{
+    const QByteArrayView connection = httpGetField(m_http, HTTP_FIELD_CONNECTION);
+    return connection.compare("close", Qt::CaseInsensitive) == 0;
+}
+
 // The message, or null where there is none.
 IppMessage ServerConnection::readIpp()
 {
+    const bool isLast = isLastAnswer();
     AnswerReader reader(m_http, m_wait, kLargestAnswer);
     IppMessage message = reader.readIpp();
     if (!message)
         noteUnread(reader);
-    if (!message || !reader.skipRest())
+    if (!message || !reader.skipRest() || isLast)
         close();
     return message;
 }
@@ -321,7 +352,13 @@ void ServerConnection::noteFailure(http_status_t status)
         return fail(ServerProblem::Kind::NoAnswer);
     switch (status) {
     case HTTP_STATUS_FORBIDDEN:
-        return fail(ServerProblem::Kind::Forbidden);
+        fail(ServerProblem::Kind::Forbidden);
+        // Another user may be allowed to do it; the next try asks which.
+        if (m_given && m_context.credentials) {
+            m_context.credentials->forget(realm(), *m_given);
+            m_problem.anotherUserMay = true;
+        }
+        return;
     case HTTP_STATUS_NOT_FOUND:
         return fail(ServerProblem::Kind::NotFound);
     case HTTP_STATUS_UNAUTHORIZED:
@@ -356,15 +393,19 @@ void ServerConnection::fail(ServerProblem::Kind kind, const QString &detail)
 ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 modifiedSince)
 {
     qCDebug(lcServer) << "GET" << resource;
-    const auto status = converse("GET", resource, [&] { return sendGet(resource, modifiedSince); });
+    const auto status =
+        converse("GET", resource, true, [&] { return sendGet(resource, modifiedSince); });
     if (!status)
         return {};
     if (*status == HTTP_STATUS_OK) {
         File file{
             File::State::Read, {}, httpGetDateTime(httpGetField(m_http, HTTP_FIELD_LAST_MODIFIED))};
+        const bool isLast = isLastAnswer();
         AnswerReader reader(m_http, m_wait, kLargestFile);
         if (auto content = reader.readAll()) {
             file.content = std::move(*content);
+            if (isLast)
+                close();
             return file;
         }
         noteUnread(reader);
@@ -377,7 +418,8 @@ ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 
         close();
         return {};
     }
-    if (!AnswerReader(m_http, m_wait, kLargestRefusal).readAll())
+    const bool isLast = isLastAnswer();
+    if (!AnswerReader(m_http, m_wait, kLargestRefusal).readAll() || isLast)
         close();
     return isUnchanged ? File{File::State::Unchanged, {}, modifiedSince}
                        : File{File::State::Missing, {}, 0};

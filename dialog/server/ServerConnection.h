@@ -89,7 +89,7 @@ private:
     bool keepsOnlyTrusted();
     bool trustsCertificate();
     std::optional<http_status_t> converse(const char *method, const QByteArray &resource,
-                                          const Sender &send);
+                                          bool mayRepeat, const Sender &send);
     IppMessage exchange(IppMessage message, const QByteArray &resource, QIODevice *document,
                         const std::function<void(qint64)> &progress);
     http_status_t sendIpp(ipp_t *message, const QByteArray &resource, QIODevice *document,
@@ -97,6 +97,7 @@ private:
     bool sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
     http_status_t sendGet(const QByteArray &resource, qint64 modifiedSince);
     http_status_t awaitAnswer();
+    bool isLastAnswer() const;
     bool authenticate(const char *method, const QByteArray &resource);
     bool goOverToTls();
     IppMessage readIpp();
@@ -117,6 +118,7 @@ private:
     ServerProblem m_problem;
     std::optional<Credentials> m_given; // for this request, right or wrong
     QByteArray m_password;              // libcups borrows it while it authenticates
+    bool m_hasAnswered = false;         // this connection, so that it may have been closed since
     bool m_documentSent = false;
     bool m_requestSent = false;
 };

@@ -36,6 +36,8 @@ struct ServerProblem
     QString file{};                      ///< for `CertificateChanged`: what knows the former one
     QString entry{};                     ///< the line of that file; empty where it is all of it
 
+    bool anotherUserMay = false; ///< for `Forbidden`: somebody had logged in
+
     explicit operator bool() const { return kind != Kind::None; }
     bool operator==(const ServerProblem &) const = default;
 

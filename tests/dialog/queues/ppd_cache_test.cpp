@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -43,6 +44,14 @@ QStringList filesIn(const QString &folder)
          it.hasNext();)
         files += it.next();
     return files;
+}
+
+void makeOld(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-2),
+                             QFileDevice::FileModificationTime));
 }
 
 } // namespace
@@ -106,6 +115,7 @@ private Q_SLOTS:
             QCOMPARE(inside.count(u'/'), 1);
         }
         QVERIFY(m_cache.find(server, queue));
+        makeOld(path);
         m_cache.remove(server, queue);
         QVERIFY(!m_cache.find(server, queue));
         QVERIFY(filesIn(m_folder->path()).isEmpty());
@@ -162,6 +172,12 @@ private Q_SLOTS:
         QTest::newRow("cut") << json << QByteArray("{\"uri\": \"ipp://loc");
         QTest::newRow("list") << json << QByteArray("[1, 2]");
         QTest::newRow("binary") << json << QByteArray("\x00\xff\xfe", 3);
+        QTest::newRow("without its PPD's hash")
+            << json << QByteArray("{\"uri\": \"ipp://localhost/printers/office\"}");
+        QTest::newRow("a hash that leads out of the folder")
+            << json
+            << QByteArray("{\"uri\": \"ipp://localhost/printers/office\", \"hash\": "
+                          "\"/../../../../../../etc/passwd\"}");
         QTest::newRow("without URI") << json << QByteArray("{\"description\": \"Hall\"}");
     }
     void aDamagedEntryIsNone()
@@ -169,7 +185,8 @@ private Q_SLOTS:
         QFETCH(QString, suffix);
         QFETCH(QByteArray, content);
         const QString ppd = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
-        const QString path = ppd.chopped(3) + suffix;
+        const QString path =
+            suffix == u"ppd"_s ? ppd : QFileInfo(ppd).dir().filePath(u"office.json"_s);
         QVERIFY(QFile::remove(path));
         if (!content.isNull()) {
             QFile file(path);
@@ -182,13 +199,29 @@ private Q_SLOTS:
         QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
     }
 
-    void aNewPpdTakesThePlaceOfTheOldOne()
+    void aNewPpdLeavesTheOldOneToWhoeverHasOpenedIt()
     {
         const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
         const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 2);
-        QCOMPARE(first, second);
+        QCOMPARE(contentOf(first), kPpd);
         QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
-        QCOMPARE(filesIn(m_folder->path()).size(), 2); // nothing is left behind
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->printer.ppdPath, second);
+        m_cache.remove(kServer, u"office"_s);
+        QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
+    }
+
+    void aPpdOfYesterdayGoesWhenThereIsANewOne()
+    {
+        const QString others = m_cache.store(kServer, queueOf(u"office-2"_s), kPpd, 1);
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        makeOld(others);
+        makeOld(first);
+        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), first);
+        QCOMPARE(contentOf(first), kPpd); // it is the new one
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 3);
+        QVERIFY(!QFile::exists(first));
+        QVERIFY(QFile::exists(second));
+        QVERIFY(QFile::exists(others));
     }
 
     void aFolderThatCannotBeMadeOnlyCostsTheCache()
@@ -204,8 +237,10 @@ private Q_SLOTS:
     {
         const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
         m_cache.remove(kServer, u"office"_s);
+        QVERIFY(QFile::remove(path));
         QVERIFY(QDir().mkpath(path)); // a folder of its name
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"office.ppd cannot be written"_s));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(u"office-[0-9a-f]{16}.ppd cannot be written"_s));
         QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1).isEmpty());
         QVERIFY(!m_cache.find(kServer, u"office"_s));
     }

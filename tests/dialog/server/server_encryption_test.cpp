@@ -51,6 +51,16 @@ private Q_SLOTS:
         QVERIFY(server.requests().size() < 10);
     }
 
+    void silenceBeforeTheKeysAreChangedIsSaidToBeSilence()
+    {
+        m_scene->server->setManner(FaultyServer::Manner::NeverAnswers);
+        ServerContext context = contextFor(m_scene->server->port(), 1s);
+        context.address.encryption = HTTP_ENCRYPTION_ALWAYS;
+        ServerConnection connection(context, nullptr);
+        QVERIFY(!connection.request(aboutQueue()));
+        QCOMPARE(connection.problem().kind, Kind::NoAnswer);
+    }
+
     void itGoesOverToTlsWhenTheServerWantsThat()
     {
         m_scene->server->askForEncryption();

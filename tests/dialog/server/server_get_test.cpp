@@ -56,6 +56,31 @@ private Q_SLOTS:
         QVERIFY(!connection.problem());
     }
 
+    void aServerThatHangsUpBehindEachAnswerIsSpokenToAllTheSame_data()
+    {
+        QTest::addColumn<QByteArray>("fields");
+        QTest::newRow("and says so") << QByteArray("Connection: close\r\n");
+        QTest::newRow("without a word") << QByteArray();
+    }
+    void aServerThatHangsUpBehindEachAnswerIsSpokenToAllTheSame()
+    {
+        QFETCH(QByteArray, fields);
+        const CannedServer server([&](const CannedRequest &request) {
+            CannedAnswer answer = httpAnswer(200, "*PPD-Adobe", fields);
+            if (request.operation != 0)
+                answer = ippAnswer(newIppAnswer());
+            answer.bytes.replace("\r\n\r\n", "\r\n" + fields + "\r\n");
+            answer.hangsUp = true;
+            return answer;
+        });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        for (int i = 0; i < 20; ++i) {
+            QVERIFY2(connection.request(aboutQueue()),
+                     qPrintable(connection.problem().text(connection.context().address)));
+            QCOMPARE(connection.get("/printers/a.ppd").state, State::Read);
+        }
+    }
+
     void answersToAGetAreToldApart_data()
     {
         QTest::addColumn<int>("status");

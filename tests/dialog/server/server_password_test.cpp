@@ -86,6 +86,34 @@ private Q_SLOTS:
         });
     }
 
+    void aUserWhoMayNotIsForgottenSoThatAnotherCanBeAskedFor()
+    {
+        const CannedServer server([](const CannedRequest &request) {
+            if (request.head.field("Authorization").isEmpty())
+                return httpAnswer(401, {}, "WWW-Authenticate: Basic realm=\"CUPS\"\r\n");
+            return httpAnswer(403);
+        });
+        ServerContext context = contextFor(server.port());
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        int asked = 0;
+        context.credentials->setQuestioner([&](const CredentialsQuestion &, const auto &answer) {
+            ++asked;
+            answer(Credentials{u"lisa"_s, u"secret"_s});
+        });
+        for (int tries = 1; tries <= 2; ++tries) {
+            ServerProblem problem;
+            onWorker([&] {
+                ServerConnection connection(context, nullptr);
+                connection.request(aboutQueue());
+                problem = connection.problem();
+            });
+            QCOMPARE(problem.kind, Kind::Forbidden);
+            QVERIFY(problem.anotherUserMay);
+            QCOMPARE(asked, tries);
+        }
+    }
+
     void whatIsKnownIsUsedByTheNextConnectionWithoutAQuestion()
     {
         m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
