@@ -114,8 +114,10 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     job.follow = !request.noWait;
     if (printer.capabilities) {
         job.ticket.options = standardJobOptions(ticket.options, *printer.capabilities);
-        if (printer.printer.origin == PrinterOrigin::Device)
+        if (printer.printer.origin == PrinterOrigin::Device) {
             job.formats = printer.capabilities->documentFormats;
+            job.takenAttributes = printer.capabilities->jobAttributes;
+        }
     }
     return job;
 }

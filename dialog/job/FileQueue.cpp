@@ -27,6 +27,8 @@ namespace {
 // The destination "printer/foo" asks for the printer's own data format.
 constexpr QLatin1StringView kPrinterFormat{"printer/foo"};
 constexpr QLatin1StringView kPdf{"application/pdf"};
+// A PDF that the filter for the layout of pages has been at; a mere PDF passes through untouched.
+constexpr QLatin1StringView kLaidOutPdf{"application/vnd.cups-pdf"};
 
 // How long a filter chain may take to clean up after it was told to stop. Units: milliseconds.
 constexpr int kPatience = 3000;
@@ -75,9 +77,24 @@ QStringList conversionArguments(const Document &document, const QString &ppdPath
 // What shapes the pages of a text or a picture; everything else applies to the whole job.
 QList<JobOption> pageOptions(const QList<JobOption> &options)
 {
+    static const QStringList names{
+        QStringLiteral("PageSize"),
+        QStringLiteral("cpi"),
+        QStringLiteral("lpi"),
+        QStringLiteral("columns"),
+        QStringLiteral("wrap"),
+        QStringLiteral("prettyprint"),
+        QStringLiteral("ppi"),
+        QStringLiteral("scaling"),
+        QStringLiteral("natural-scaling"),
+        QStringLiteral("position"),
+        QStringLiteral("page-left"),
+        QStringLiteral("page-right"),
+        QStringLiteral("page-top"),
+        QStringLiteral("page-bottom"),
+    };
     QList<JobOption> chosen = options;
-    chosen.removeIf(
-        [](const JobOption &option) { return option.name != QLatin1StringView("PageSize"); });
+    chosen.removeIf([](const JobOption &option) { return !names.contains(option.name); });
     return chosen;
 }
 
@@ -190,8 +207,10 @@ void FileQueue::print(const QList<Document> &documents, const JobTicket &ticket,
 }
 
 void FileQueue::unite(const QList<Document> &documents, const JobTicket &ticket,
-                      const QString &ppdPath, const QString &outputPath)
+                      const QString &ppdPath, const QString &outputPath,
+                      const QList<JobOption> &layout)
 {
+    m_layout = layout;
     start(documents, ticket, ppdPath, outputPath, Result::Pdf);
 }
 
@@ -239,13 +258,22 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
     m_result->close();
 
-    if (documents.size() > 1) {
+    if (documents.size() > 1 || !m_layout.isEmpty()) {
         m_parts = std::make_unique<QTemporaryDir>();
         if (!m_parts->isValid())
             return m_parts->errorString();
     }
-    if (result == Result::Pdf) {
+    if (result == Result::Pdf && m_layout.isEmpty()) {
         addStepsToUnite(documents, ticket, ppdPath, filter, m_result->fileName());
+        return {};
+    }
+    if (result == Result::Pdf) {
+        const Document whole{m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
+        addStepsToUnite(documents, ticket, ppdPath, filter, whole.path);
+        m_steps.push_back({filter,
+                           conversionArguments(whole, ppdPath, kLaidOutPdf, {},
+                                               pageOptions(ticket.options) + m_layout),
+                           m_result->fileName()});
         return {};
     }
     Document whole = documents.value(0);

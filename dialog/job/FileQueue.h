@@ -48,9 +48,10 @@ public:
                const QString &outputPath);
 
     /// Only puts the documents together into one PDF, on the printer's paper and without any other
-    /// of its choices, for a queue that applies those itself.
+    /// of its choices, for a queue that applies those itself. `layout` are the options that are
+    /// applied all the same: which pages, how many on a sheet, in which order.
     void unite(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
-               const QString &outputPath);
+               const QString &outputPath, const QList<JobOption> &layout = {});
 
     /// Stops the filter chain, by force when it does not stop by itself; `finished` follows with a
     /// failure. A job that has its result already stays printed.
@@ -83,6 +84,7 @@ private:
     void signalChain(int signal);
 
     enum class Result { PrinterData, Pdf };
+    QList<JobOption> m_layout; // of a PDF
     void start(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
                const QString &outputPath, Result result);
     QString prepare(const QList<Document> &documents, const JobTicket &ticket,

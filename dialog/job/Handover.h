@@ -66,6 +66,9 @@ struct ServerJobRequest
     qint64 ppdLastModified = 0;
     /// The document formats that an IPP printer takes; empty where everything is taken.
     QStringList formats{};
+    /// The attributes that an IPP printer takes with a job; empty where everything is taken, or
+    /// nobody says. What is missing there is done to the pages here, or refused.
+    QStringList takenAttributes{};
     /// A job of an earlier try whose fate is not known, or 0. It is looked up first, so that the
     /// same is not printed twice by accident.
     int earlierJob = 0;

@@ -20,13 +20,21 @@ constexpr QLatin1StringView kRaster{"image/pwg-raster"};
 // What the filter chain does to the pages when it makes the printer's own data.
 bool isAppliedByChain(const JobOption &option)
 {
-    static const QStringList names{QStringLiteral("number-up"),
-                                   QStringLiteral("page-ranges"),
-                                   QStringLiteral("page-set"),
-                                   QStringLiteral("outputorder"),
-                                   QStringLiteral("fit-to-page"),
-                                   QStringLiteral("print-scaling"),
-                                   QStringLiteral("orientation-requested")};
+    static const QStringList names{
+        QStringLiteral("number-up"),   QStringLiteral("number-up-layout"),
+        QStringLiteral("page-border"), QStringLiteral("page-ranges"),
+        QStringLiteral("page-set"),    QStringLiteral("outputorder"),
+        QStringLiteral("fit-to-page"), QStringLiteral("print-scaling"),
+        QStringLiteral("mirror"),      QStringLiteral("orientation-requested"),
+    };
+    return names.contains(option.name);
+}
+
+// What a printer has to do itself, and would print otherwise than it was asked to if it did not.
+bool isForThePrinter(const JobOption &option)
+{
+    static const QStringList names{QStringLiteral("job-hold-until"), QStringLiteral("job-priority"),
+                                   QStringLiteral("job-sheets"), QStringLiteral("job-billing")};
     return names.contains(option.name);
 }
 
@@ -42,12 +50,33 @@ void ServerJob::print(const ServerJobRequest &request)
     const QString problem = unsendableOption(m_request.ticket);
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
+    if (const QList<JobOption> refused = notTaken(isForThePrinter); !refused.isEmpty()) {
+        QStringList names;
+        for (const JobOption &option : refused)
+            names += QStringLiteral("%1=%2").arg(option.name, option.value);
+        return finish({JobOutcome::Kind::Failed, 0,
+                       tr("The printer “%1” does not take these settings of a job: %2. Nothing was "
+                          "printed.")
+                           .arg(m_request.printer.name, names.join(QStringLiteral(", ")))});
+    }
     // A password for the device goes along with the job: never where others can read it.
     const bool secret = !m_request.printer.authInfo.isEmpty();
     if (secret && !m_request.server.address.isLocal() &&
         m_request.server.address.encryption != HTTP_ENCRYPTION_ALWAYS)
         m_request.server.address.encryption = HTTP_ENCRYPTION_REQUIRED;
     convert();
+}
+
+// The options of one kind that the printer does not know.
+QList<JobOption> ServerJob::notTaken(bool (*isOfThisKind)(const JobOption &)) const
+{
+    QList<JobOption> options;
+    for (const JobOption &option : m_request.ticket.options) {
+        if (!m_request.takenAttributes.isEmpty() && isOfThisKind(option) &&
+            !m_request.takenAttributes.contains(option.name))
+            options += option;
+    }
+    return options;
 }
 
 // Several documents become one; and what an IPP printer does not take becomes what it does take.
@@ -58,10 +87,11 @@ void ServerJob::convert()
     // A printer that says it looks at any document itself still refuses those that it does not
     // know, so that is for printers that name nothing better.
     const bool convertible = formats.contains(kPdf) || formats.contains(kRaster);
+    const QList<JobOption> layout = notTaken(isAppliedByChain);
     const bool taken =
         formats.isEmpty() || formats.contains(first.format) ||
         (!convertible && formats.contains(QLatin1StringView("application/octet-stream")));
-    if (m_request.documents.size() == 1 && taken)
+    if (m_request.documents.size() == 1 && taken && layout.isEmpty())
         return send(first, m_request.ticket);
     report({JobProgress::Stage::Converting});
     m_parts = std::make_unique<QTemporaryDir>();
@@ -72,7 +102,8 @@ void ServerJob::convert()
     connect(m_conversion.get(), &FileQueue::finished, this, &ServerJob::converted);
     if (formats.isEmpty() || formats.contains(kPdf)) {
         m_converted = {file, kPdf, m_request.ticket.title};
-        return m_conversion->unite(m_request.documents, m_request.ticket, m_request.ppdPath, file);
+        return m_conversion->unite(m_request.documents, m_request.ticket, m_request.ppdPath, file,
+                                   layout);
     }
     if (!formats.contains(kRaster))
         return finish({JobOutcome::Kind::Failed, 0,
@@ -92,8 +123,10 @@ void ServerJob::converted(const QString &problem)
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
     JobTicket ticket = m_request.ticket;
-    if (m_converted.format == kRaster)
-        ticket.options.removeIf(isAppliedByChain);
+    const QList<JobOption> layout = notTaken(isAppliedByChain);
+    ticket.options.removeIf([&](const JobOption &option) {
+        return m_converted.format == kRaster ? isAppliedByChain(option) : layout.contains(option);
+    });
     send(m_converted, ticket);
 }
 

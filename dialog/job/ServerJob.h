@@ -44,6 +44,7 @@ Q_SIGNALS:
     void finished(const corvana::JobOutcome &outcome);
 
 private:
+    QList<JobOption> notTaken(bool (*isOfThisKind)(const JobOption &)) const;
     void convert();
     void converted(const QString &problem);
     void send(const Document &document, const JobTicket &ticket);

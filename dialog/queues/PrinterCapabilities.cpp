@@ -14,6 +14,7 @@ const char *const kCapabilityAttributes[] = {
     "printer-info",
     "printer-make-and-model",
     "printer-type",
+    "job-creation-attributes-supported",
     "media-supported",
     "media-default",
     "media-ready",
@@ -119,6 +120,7 @@ PrinterCapabilities capabilitiesOf(ipp_t *attributes)
     printer.documentFormats = keywordsOf(attributes, "document-format-supported");
     printer.rasterTypes = keywordsOf(attributes, "pwg-raster-document-type-supported");
     printer.maximumCopies = maximumCopies(attributes);
+    printer.jobAttributes = keywordsOf(attributes, "job-creation-attributes-supported");
     printer.jobSheets = keywordsOf(attributes, "job-sheets-supported");
     return printer;
 }

@@ -83,9 +83,10 @@ struct PrinterCapabilities
     QList<int> finishings; ///< values of the IPP enumeration, without "none"
 
     QStringList documentFormats;
-    QStringList rasterTypes; ///< kinds of PWG raster data, such as "srgb_8"
-    int maximumCopies = 0;   ///< 0 when unknown
-    QStringList jobSheets;   ///< pages that can be printed in front of a job
+    QStringList rasterTypes;   ///< kinds of PWG raster data, such as "srgb_8"
+    int maximumCopies = 0;     ///< 0 when unknown
+    QStringList jobAttributes; ///< what a job may carry
+    QStringList jobSheets;     ///< pages that can be printed in front of a job
 
     bool operator==(const PrinterCapabilities &) const = default;
 };

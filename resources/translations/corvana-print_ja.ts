@@ -79,6 +79,169 @@
     </message>
 </context>
 <context>
+    <name>JobAttributes</name>
+    <message>
+        <source>Pages per Sheet</source>
+        <translation>1 枚あたりのページ数</translation>
+    </message>
+    <message>
+        <source>Order on the Sheet</source>
+        <translation>用紙上の並び順</translation>
+    </message>
+    <message>
+        <source>Border Around Pages</source>
+        <translation>ページの枠線</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Odd and Even Pages</source>
+        <translation>奇数/偶数ページ</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>印刷の向き</translation>
+    </message>
+    <message>
+        <source>Fit to Page</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大/縮小</translation>
+    </message>
+    <message>
+        <source>Size on the Page, in %</source>
+        <translation>用紙に対する大きさ (%)</translation>
+    </message>
+    <message>
+        <source>Size of the Picture, in %</source>
+        <translation>画像の大きさ (%)</translation>
+    </message>
+    <message>
+        <source>Pixels per Inch</source>
+        <translation>1 インチあたりの画素数</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Left Margin</source>
+        <translation>左余白</translation>
+    </message>
+    <message>
+        <source>Right Margin</source>
+        <translation>右余白</translation>
+    </message>
+    <message>
+        <source>Top Margin</source>
+        <translation>上余白</translation>
+    </message>
+    <message>
+        <source>Bottom Margin</source>
+        <translation>下余白</translation>
+    </message>
+    <message>
+        <source>Characters per Inch</source>
+        <translation>1 インチあたりの文字数</translation>
+    </message>
+    <message>
+        <source>Lines per Inch</source>
+        <translation>1 インチあたりの行数</translation>
+    </message>
+    <message>
+        <source>Columns of Text</source>
+        <translation>段組み</translation>
+    </message>
+    <message>
+        <source>Long Lines Continue</source>
+        <translation>長い行の折り返し</translation>
+    </message>
+    <message>
+        <source>Headers on Text Pages</source>
+        <translation>テキストページの見出し</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Output Order</source>
+        <translation>排出順</translation>
+    </message>
+    <message>
+        <source>Hold Until</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Banner Pages</source>
+        <translation>バナーページ</translation>
+    </message>
+    <message>
+        <source>Billed To</source>
+        <translation>課金先</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>横 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>縦 (逆向き)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Odd Pages Only</source>
+        <translation>奇数ページのみ</translation>
+    </message>
+    <message>
+        <source>Even Pages Only</source>
+        <translation>偶数ページのみ</translation>
+    </message>
+    <message>
+        <source>First Page First</source>
+        <translation>先頭ページから</translation>
+    </message>
+    <message>
+        <source>Last Page First</source>
+        <translation>最終ページから</translation>
+    </message>
+    <message>
+        <source>Until It Is Released</source>
+        <translation>解除されるまで</translation>
+    </message>
+</context>
+<context>
     <name>JobRequests</name>
     <message>
         <source>The value of “%1” is too long for a print server; at most %2 bytes can be sent.</source>
@@ -118,6 +281,10 @@
     <message>
         <source>%1: this value is not allowed. Allowed: %2.</source>
         <translation>%1: この値は指定できません。指定できる値: %2。</translation>
+    </message>
+    <message>
+        <source>1 to %1</source>
+        <translation>1～%1</translation>
     </message>
 </context>
 <context>
@@ -349,6 +516,10 @@
         <source>PostScript File</source>
         <translation>PostScript ファイル</translation>
     </message>
+    <message>
+        <source>This printer has no option of the name %1.</source>
+        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServerAddress</name>
@@ -370,10 +541,6 @@
     <message>
         <source>Printing was canceled.</source>
         <translation>印刷を中止しました。</translation>
-    </message>
-    <message>
-        <source>The print server did not say which job it has made. Nothing was printed.</source>
-        <translation>プリントサーバーから、作成したジョブの番号の通知がありませんでした。何も印刷されませんでした。</translation>
     </message>
     <message>
         <source>The queue “%1” is not there any more. Nothing was printed.</source>
@@ -402,10 +569,6 @@
     <message>
         <source>The options of the printer “%1” have changed at its server. Nothing was printed.</source>
         <translation>プリンター「%1」のオプションがサーバーで変更されました。何も印刷されませんでした。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 を読み取れません: %2</translation>
     </message>
     <message>
         <source>%1 Job %2 was canceled; pages that the printer has already may still come out.</source>
@@ -507,6 +670,30 @@
         <source>The printer “%1” does not accept this user and password.</source>
         <translation>プリンター「%1」でこのユーザー名とパスワードは使用できません。</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>The print server did not say which job it has made.</source>
+        <translation>プリントサーバーから、作成したジョブの番号の通知がありませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was printed, but a job without a document may be at the print server. It could not be looked for: %2</source>
+        <translation>%1何も印刷されませんでしたが、文書のないジョブがプリントサーバーに残っている可能性があります。ジョブを確認できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try is held in the queue.</source>
+        <translation>前回のジョブ %1 はキューで保留されています。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try is stopped in the queue.</source>
+        <translation>前回のジョブ %1 はキューで停止しています。</translation>
+    </message>
+    <message>
+        <source>Job %1 could not be canceled and may still be printed. %2</source>
+        <translation>ジョブ %1 をキャンセルできませんでした。印刷される可能性があります。%2</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -594,6 +781,10 @@
         <source>The document cannot be read: %1</source>
         <translation>文書を読み取れません: %1</translation>
     </message>
+    <message>
+        <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the line “%2” from the file %3.</source>
+        <translation>プリントサーバー「%1」の証明書が以前のものと異なります。置き換えられたか、第三者が通信に割り込んでいます。意図的に置き換えた場合は、ファイル %3 から「%2」の行を削除してください。</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -656,14 +847,6 @@
         <translation>プリンターの設定に指示が表示されました。</translation>
     </message>
     <message>
-        <source>Printers that need no print server: %1.</source>
-        <translation>プリントサーバーを必要としないプリンター: %1。</translation>
-    </message>
-    <message>
-        <source>There is no default printer.%1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>既定のプリンターがありません。%1-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
-    </message>
-    <message>
         <source>There is no printer &quot;%1&quot; at the print server &quot;%2&quot;.</source>
         <translation>プリントサーバー「%2」にプリンター「%1」はありません。</translation>
     </message>
@@ -678,6 +861,22 @@
     <message>
         <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
         <translation>%1そのため、プリンター「%2」を確認できませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 Printers that need no print server: %2.</source>
+        <translation>%1プリントサーバーを必要としないプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>既定のプリンターがありません。%1-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>既定のプリンターがありません。-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
+    <message>
+        <source>The printer prints at most %1 copies at once, not %2.</source>
+        <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
     </message>
 </context>
 <context>
@@ -726,14 +925,6 @@
         <translation>印刷のためのログイン</translation>
     </message>
     <message>
-        <source>The printer wants to know who prints. User and password are sent to it through the print server “%1”, and are forgotten when this window closes.</source>
-        <translation>印刷するには、プリンターへのログインが必要です。ユーザー名とパスワードはプリントサーバー「%1」を経由してプリンターに送信され、このウィンドウを閉じると破棄されます。</translation>
-    </message>
-    <message>
-        <source>The print server “%1” wants to know who prints. User and password are forgotten when this window closes.</source>
-        <translation>印刷するには、プリントサーバー「%1」へのログインが必要です。ユーザー名とパスワードは、このウィンドウを閉じると破棄されます。</translation>
-    </message>
-    <message>
         <source>&amp;User:</source>
         <translation>ユーザー名(&amp;U):</translation>
     </message>
@@ -752,6 +943,14 @@
     <message>
         <source>The connection is not encrypted: others on the network may read the password.</source>
         <translation>接続は暗号化されていません。ネットワーク上の第三者にパスワードを読み取られるおそれがあります。</translation>
+    </message>
+    <message>
+        <source>The printer wants to know who prints. User and password are sent to it through the print server “%1”, and are forgotten when the print dialog closes.</source>
+        <translation>印刷するには、プリンターへのログインが必要です。ユーザー名とパスワードはプリントサーバー「%1」を経由してプリンターに送信され、印刷ダイアログを閉じると破棄されます。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants to know who prints. User and password are forgotten when the print dialog closes.</source>
+        <translation>印刷するには、プリントサーバー「%1」へのログインが必要です。ユーザー名とパスワードは、印刷ダイアログを閉じると破棄されます。</translation>
     </message>
 </context>
 <context>
@@ -830,6 +1029,10 @@
     <message>
         <source>%1 is the document itself; name another file.</source>
         <translation>%1 は印刷する文書そのものです。別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
+        <translation>%1 は、その間に別のプログラムによって書き込まれたため、そのまま残されています。置き換えるにはもう一度印刷するか、別のファイル名を指定してください。</translation>
     </message>
 </context>
 <context>
@@ -1127,6 +1330,14 @@ For the command line: %2</source>
         <source>No answer from “%1” yet.</source>
         <translation>「%1」からまだ応答がありません。</translation>
     </message>
+    <message>
+        <source>Canceling…</source>
+        <translation>キャンセルしています…</translation>
+    </message>
+    <message>
+        <source>This printer prints at most %1 copies at once.</source>
+        <translation>このプリンターで一度に印刷できるのは %1 部までです。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -1191,12 +1402,16 @@ For the command line: %2</source>
         <translation>プリンター「%1」で使用できる文書の種類は次のとおりです: %2</translation>
     </message>
     <message>
-        <source>Job %1-%2 is in the queue; it was not followed to its end.</source>
-        <translation>ジョブ %1-%2 はキューにあります。最後までは確認していません。</translation>
-    </message>
-    <message>
         <source>Printing was canceled.</source>
         <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>Job %1 is in the queue; it was not followed to its end.</source>
+        <translation>ジョブ %1 はキューにあります。最後までは確認していません。</translation>
+    </message>
+    <message>
+        <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
+        <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,169 @@
     </message>
 </context>
 <context>
+    <name>JobAttributes</name>
+    <message>
+        <source>Pages per Sheet</source>
+        <translation>每张页数</translation>
+    </message>
+    <message>
+        <source>Order on the Sheet</source>
+        <translation>纸张上的排列顺序</translation>
+    </message>
+    <message>
+        <source>Border Around Pages</source>
+        <translation>页面边框</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页</translation>
+    </message>
+    <message>
+        <source>Odd and Even Pages</source>
+        <translation>奇数页和偶数页</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Fit to Page</source>
+        <translation>适合页面</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Size on the Page, in %</source>
+        <translation>相对于页面的大小 (%)</translation>
+    </message>
+    <message>
+        <source>Size of the Picture, in %</source>
+        <translation>图片大小 (%)</translation>
+    </message>
+    <message>
+        <source>Pixels per Inch</source>
+        <translation>每英寸像素数</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Left Margin</source>
+        <translation>左边距</translation>
+    </message>
+    <message>
+        <source>Right Margin</source>
+        <translation>右边距</translation>
+    </message>
+    <message>
+        <source>Top Margin</source>
+        <translation>上边距</translation>
+    </message>
+    <message>
+        <source>Bottom Margin</source>
+        <translation>下边距</translation>
+    </message>
+    <message>
+        <source>Characters per Inch</source>
+        <translation>每英寸字符数</translation>
+    </message>
+    <message>
+        <source>Lines per Inch</source>
+        <translation>每英寸行数</translation>
+    </message>
+    <message>
+        <source>Columns of Text</source>
+        <translation>文本栏数</translation>
+    </message>
+    <message>
+        <source>Long Lines Continue</source>
+        <translation>长行换行</translation>
+    </message>
+    <message>
+        <source>Headers on Text Pages</source>
+        <translation>文本页眉</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>逐份打印</translation>
+    </message>
+    <message>
+        <source>Output Order</source>
+        <translation>输出顺序</translation>
+    </message>
+    <message>
+        <source>Hold Until</source>
+        <translation>保留至</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Banner Pages</source>
+        <translation>分隔页</translation>
+    </message>
+    <message>
+        <source>Billed To</source>
+        <translation>计费对象</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>反向横向</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>反向纵向</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Odd Pages Only</source>
+        <translation>仅奇数页</translation>
+    </message>
+    <message>
+        <source>Even Pages Only</source>
+        <translation>仅偶数页</translation>
+    </message>
+    <message>
+        <source>First Page First</source>
+        <translation>从首页开始</translation>
+    </message>
+    <message>
+        <source>Last Page First</source>
+        <translation>从末页开始</translation>
+    </message>
+    <message>
+        <source>Until It Is Released</source>
+        <translation>直到被释放</translation>
+    </message>
+</context>
+<context>
     <name>JobRequests</name>
     <message>
         <source>The value of “%1” is too long for a print server; at most %2 bytes can be sent.</source>
@@ -118,6 +281,10 @@
     <message>
         <source>%1: this value is not allowed. Allowed: %2.</source>
         <translation>%1：不允许使用此值。可用的值：%2。</translation>
+    </message>
+    <message>
+        <source>1 to %1</source>
+        <translation>1 到 %1</translation>
     </message>
 </context>
 <context>
@@ -349,6 +516,10 @@
         <source>PostScript File</source>
         <translation>PostScript 文件</translation>
     </message>
+    <message>
+        <source>This printer has no option of the name %1.</source>
+        <translation>此打印机没有以下名称的选项：%1</translation>
+    </message>
 </context>
 <context>
     <name>ServerAddress</name>
@@ -370,10 +541,6 @@
     <message>
         <source>Printing was canceled.</source>
         <translation>已取消打印。</translation>
-    </message>
-    <message>
-        <source>The print server did not say which job it has made. Nothing was printed.</source>
-        <translation>打印服务器未告知所创建的作业编号。没有打印任何内容。</translation>
     </message>
     <message>
         <source>The queue “%1” is not there any more. Nothing was printed.</source>
@@ -402,10 +569,6 @@
     <message>
         <source>The options of the printer “%1” have changed at its server. Nothing was printed.</source>
         <translation>打印机“%1”的选项已在服务器上更改。没有打印任何内容。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
     </message>
     <message>
         <source>%1 Job %2 was canceled; pages that the printer has already may still come out.</source>
@@ -507,6 +670,30 @@
         <source>The printer “%1” does not accept this user and password.</source>
         <translation>打印机“%1”不接受此用户名和密码。</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The print server did not say which job it has made.</source>
+        <translation>打印服务器未告知所创建的作业编号。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was printed, but a job without a document may be at the print server. It could not be looked for: %2</source>
+        <translation>%1没有打印任何内容，但打印服务器上可能留有一个没有文档的作业。无法查找该作业：%2</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try is held in the queue.</source>
+        <translation>上次的作业 %1 在队列中保留。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try is stopped in the queue.</source>
+        <translation>上次的作业 %1 在队列中已停止。</translation>
+    </message>
+    <message>
+        <source>Job %1 could not be canceled and may still be printed. %2</source>
+        <translation>无法取消作业 %1，它仍可能被打印。%2</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -594,6 +781,10 @@
         <source>The document cannot be read: %1</source>
         <translation>无法读取文档：%1</translation>
     </message>
+    <message>
+        <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the line “%2” from the file %3.</source>
+        <translation>打印服务器“%1”的证书与以前的不同：证书已被替换，或有人在中间拦截。如果是有意替换的，请从文件 %3 中删除“%2”这一行。</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -656,14 +847,6 @@
         <translation>打印机设置显示了说明。</translation>
     </message>
     <message>
-        <source>Printers that need no print server: %1.</source>
-        <translation>不需要打印服务器的打印机：%1。</translation>
-    </message>
-    <message>
-        <source>There is no default printer.%1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>没有默认打印机。%1请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
-    </message>
-    <message>
         <source>There is no printer &quot;%1&quot; at the print server &quot;%2&quot;.</source>
         <translation>打印服务器“%2”上没有打印机“%1”。</translation>
     </message>
@@ -678,6 +861,22 @@
     <message>
         <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
         <translation>%1因此无法查询打印机“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 Printers that need no print server: %2.</source>
+        <translation>%1不需要打印服务器的打印机：%2。</translation>
+    </message>
+    <message>
+        <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>没有默认打印机。%1请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>没有默认打印机。请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
+    </message>
+    <message>
+        <source>The printer prints at most %1 copies at once, not %2.</source>
+        <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
     </message>
 </context>
 <context>
@@ -726,14 +925,6 @@
         <translation>登录以打印</translation>
     </message>
     <message>
-        <source>The printer wants to know who prints. User and password are sent to it through the print server “%1”, and are forgotten when this window closes.</source>
-        <translation>此打印机需要登录才能打印。用户名和密码将通过打印服务器“%1”发送到打印机，关闭此窗口后即被清除。</translation>
-    </message>
-    <message>
-        <source>The print server “%1” wants to know who prints. User and password are forgotten when this window closes.</source>
-        <translation>打印服务器“%1”需要登录才能打印。关闭此窗口后，用户名和密码即被清除。</translation>
-    </message>
-    <message>
         <source>&amp;User:</source>
         <translation>用户名(&amp;U)：</translation>
     </message>
@@ -752,6 +943,14 @@
     <message>
         <source>The connection is not encrypted: others on the network may read the password.</source>
         <translation>连接未加密：网络上的其他人可能会读取密码。</translation>
+    </message>
+    <message>
+        <source>The printer wants to know who prints. User and password are sent to it through the print server “%1”, and are forgotten when the print dialog closes.</source>
+        <translation>此打印机需要知道由谁打印。用户名和密码将通过打印服务器“%1”发送给打印机，并在关闭打印对话框后被清除。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants to know who prints. User and password are forgotten when the print dialog closes.</source>
+        <translation>打印服务器“%1”需要知道由谁打印。用户名和密码将在关闭打印对话框后被清除。</translation>
     </message>
 </context>
 <context>
@@ -830,6 +1029,10 @@
     <message>
         <source>%1 is the document itself; name another file.</source>
         <translation>%1 就是要打印的文档；请指定其他文件。</translation>
+    </message>
+    <message>
+        <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
+        <translation>%1 在此期间已被另一个程序写入，因此保持原样。要替换它，请重新打印，或指定另一个文件。</translation>
     </message>
 </context>
 <context>
@@ -1127,6 +1330,14 @@ For the command line: %2</source>
         <source>No answer from “%1” yet.</source>
         <translation>“%1”尚未响应。</translation>
     </message>
+    <message>
+        <source>Canceling…</source>
+        <translation>正在取消…</translation>
+    </message>
+    <message>
+        <source>This printer prints at most %1 copies at once.</source>
+        <translation>此打印机一次最多打印 %1 份。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -1191,12 +1402,16 @@ For the command line: %2</source>
         <translation>打印机“%1”只接受以下类型的文档：%2。</translation>
     </message>
     <message>
-        <source>Job %1-%2 is in the queue; it was not followed to its end.</source>
-        <translation>作业 %1-%2 在队列中；未跟踪到结束。</translation>
-    </message>
-    <message>
         <source>Printing was canceled.</source>
         <translation>已取消打印。</translation>
+    </message>
+    <message>
+        <source>Job %1 is in the queue; it was not followed to its end.</source>
+        <translation>作业 %1 已在队列中；未跟踪到结束。</translation>
+    </message>
+    <message>
+        <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
+        <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
     </message>
 </context>
 <context>

@@ -69,6 +69,8 @@ bool matches(const QString &text, const QString &expression)
 QueueScene::QueueScene(const CupsSettings &settings)
     : cups(settings), between(cups.port()), device(cups.capture(kQueue))
 {
+    // A former scene may have had the same port, and another queue of this name.
+    QDir(qEnvironmentVariable("XDG_CACHE_HOME")).removeRecursively();
     cups.start();
 }
 

@@ -1,4 +1,7 @@
 #include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include "tests/e2e/ProgramRunner.h"
@@ -12,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kPages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/pages.pdf");
+const QString kThreePages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
 const QString kPicture = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.png");
 const QString kPhoto = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.jpg");
 const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
@@ -116,6 +120,51 @@ private Q_SLOTS:
             runner.run({u"-d"_s, printer.uri(), u"-o"_s, u"sides=two-sided-long-edge"_s, kPages});
         QCOMPARE(end.status, 1);
         QVERIFY2(end.err.contains(u"sides=two-sided-long-edge"_s), end.text().constData());
+        QVERIFY(printer.documents().isEmpty());
+    }
+
+    void whatThePrinterDoesNotDoToThePagesIsDoneBefore_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("pages");
+        QTest::newRow("odd pages") << QStringList{u"page-set=odd"_s} << u"2"_s;
+        QTest::newRow("two on a sheet") << QStringList{u"number-up=2"_s} << u"2"_s;
+        QTest::newRow("two of those on a sheet, backwards")
+            << QStringList{u"page-set=odd"_s, u"number-up=2"_s, u"outputorder=reverse"_s} << u"1"_s;
+    }
+    void whatThePrinterDoesNotDoToThePagesIsDoneBefore()
+    {
+        QFETCH(QStringList, options);
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        QStringList arguments{u"-d"_s, printer.uri()};
+        for (const QString &option : options)
+            arguments << u"-o"_s << option;
+        const RunEnd end = runner.run(arguments << kThreePages);
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(printer.documents().size(), 1);
+        QTemporaryFile document;
+        QVERIFY(document.open());
+        document.write(printer.documents().constFirst());
+        document.close();
+        QProcess info;
+        info.start(u"pdfinfo"_s, {document.fileName()});
+        QVERIFY(info.waitForFinished());
+        static const QRegularExpression count(u"^Pages: +([0-9]+)$"_s,
+                                              QRegularExpression::MultilineOption);
+        QTEST(count.match(QString::fromUtf8(info.readAllStandardOutput())).captured(1), "pages");
+        for (const QString &option : options)
+            QVERIFY(jobValue(printer, option.section(u'=', 0, 0).toUtf8().constData()).isNull());
+    }
+
+    void whatOnlyThePrinterCouldDoIsRefused()
+    {
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end =
+            runner.run({u"-d"_s, printer.uri(), u"-o"_s, u"job-billing=Sales"_s, kPages});
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.err.contains(u"job-billing=Sales"_s), end.text().constData());
         QVERIFY(printer.documents().isEmpty());
     }
 

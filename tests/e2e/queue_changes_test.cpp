@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QPointer>
+#include <QTabWidget>
 #include <QTest>
 
 #include "dialog/chooser/PrinterComboBox.h"
@@ -327,6 +328,57 @@ private Q_SLOTS:
         QVERIFY(window.waitUntil([&] { return opened.isNull(); }));
         QTRY_VERIFY(window.canPrint());
         QCOMPARE(window.settings(), settings);
+        verifyPrinted(scene, 1);
+    }
+
+    // Another window has put the new PPD into the cache that both share.
+    void nothingIsPrintedWithOptionsThatAnotherWindowKnowsToHaveChanged()
+    {
+        QueueScene scene;
+        scene.addQueue();
+        makePpdOlder(scene);
+        scene.between.answerIpp(IPP_STATUS_ERROR_BUSY, IPP_OP_CUPS_GET_PRINTERS);
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        window.changeSettings();
+        scene.cups.setPpd(kQueue, otherPpd());
+        {
+            QueueDriver other({scene.between.server(), kQueue, {m_document}});
+            QVERIFY(other.waitUntil([&] { return !other.message().isNull(); }));
+            QVERIFY2(other.message().contains(u"have changed at its server"_s),
+                     qPrintable(other.message()));
+        }
+        QVERIFY(window.press("print"));
+        QVERIFY(window.waitForTheEnd());
+        QVERIFY2(matches(window.message(),
+                         u"The options of the printer “office” have changed at its server\\."_s +
+                             kNothingPrinted),
+                 qPrintable(window.message()));
+        QCOMPARE(scene.states(), States());
+    }
+
+    void aQueueThatHasGotAPpdIsNotPrintedToWithoutIt()
+    {
+        QueueScene scene;
+        scene.cups.addRawQueue(kQueue, {.deviceUri = scene.device.uri()});
+        scene.between.answerIpp(IPP_STATUS_ERROR_BUSY, IPP_OP_CUPS_GET_PRINTERS);
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        const auto hasPanels = [&] {
+            const auto *pages = window.dialog().findChild<QTabWidget *>(u"pages"_s);
+            return pages->count() > 1 && pages->tabText(1) == u"Print Setting"_s;
+        };
+        QVERIFY(!hasPanels());
+        scene.cups.setPpd(kQueue, samplePpdPath(u"corvana-cl5"_s));
+        QVERIFY(window.press("print"));
+        QVERIFY(window.waitForTheEnd());
+        QVERIFY2(matches(window.message(),
+                         u"The options of the printer “office” have changed at its server\\."_s +
+                             kNothingPrinted),
+                 qPrintable(window.message()));
+        QVERIFY(window.waitUntil(hasPanels));
         verifyPrinted(scene, 1);
     }
 

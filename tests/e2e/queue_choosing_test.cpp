@@ -154,6 +154,47 @@ private Q_SLOTS:
         QVERIFY(window.message().isNull());
     }
 
+    void aJobIsNotSentTwiceBecauseAnotherPrinterWasLookedAt()
+    {
+        QueueScene scene;
+        scene.device.exitWith(BackendExit::Hold);
+        scene.addQueue();
+        scene.open({m_document});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        QVERIFY(shows(window, {kQueue, kFilePrinter}));
+        QVERIFY(window.press("print"));
+        QVERIFY(window.waitForTheEnd());
+        QCOMPARE(scene.states(), QList<int>{IPP_JSTATE_HELD});
+        QVERIFY(choose(window, kFilePrinter));
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        QVERIFY(choose(window, kQueue));
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        QVERIFY(window.press("print"));
+        QVERIFY(window.waitForTheEnd());
+        QCOMPARE(window.message(), u"Job 1 of the earlier try is held in the queue."_s);
+        QCOMPARE(scene.states(), QList<int>{IPP_JSTATE_HELD});
+    }
+
+    void aListThatComesLateTakesThePlaceOfTheFileAlthoughCopiesWereSet()
+    {
+        QueueScene scene;
+        scene.addQueue();
+        scene.between.delayResponse(IPP_OP_CUPS_GET_PRINTERS, 1);
+        scene.open({m_document}, {});
+        QueueDriver &window = *scene.window;
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        QCOMPARE(window.printer(), u"file"_s);
+        window.dialog().findChild<QSpinBox *>(u"copies"_s)->setValue(3);
+        QVERIFY(
+            window.waitUntil([&] { return scene.between.count(IPP_OP_CUPS_GET_PRINTERS) > 0; }));
+        scene.between.releaseResponses();
+        QVERIFY2(window.waitUntil([&] { return window.printer() == kQueue; }, kSeconds),
+                 qPrintable(window.printers().join(u'|') + window.printer()));
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
+        QVERIFY(window.settings().contains(u"copies 3"_s));
+    }
+
     void pagesThatWereClearedStayCleared()
     {
         QueueScene scene;

@@ -327,6 +327,10 @@ private Q_SLOTS:
         fault.says = u"Job office-1 was stopped\\. It is still in the queue, where it can be "
                      "released or canceled\\..*"_s;
         fault.jobs = {IPP_JSTATE_STOPPED};
+        // Whoever releases it must not find a second copy.
+        fault.saysAgain = u"Job 1 of the earlier try is stopped in the queue\\."_s;
+        fault.closesAgain = false;
+        fault.jobsAgain = {IPP_JSTATE_STOPPED};
         QTest::newRow("filter fails") << fault;
 
         fault = {.device = [](CaptureDevice &device) { device.pages(2).waitAtPages(); }};
