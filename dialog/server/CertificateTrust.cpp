@@ -4,6 +4,7 @@
 #include <array>
 #include <ctime>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -13,6 +14,7 @@
 
 #include <QFile>
 #include <QLoggingCategory>
+#include <QSet>
 
 #include "dialog/server/IppMessage.h"
 #include "dialog/server/KnownServers.h"
@@ -160,24 +162,45 @@ bool isVouchedFor(cups_array_t *certificates, const QString &host, const QString
            status == 0;
 }
 
+} // namespace
+
+struct CertificateTrust::Allowed
+{
+    std::mutex mutex;
+    QSet<QByteArray> certificates; // by server and content
+};
+
+std::shared_ptr<CertificateTrust::Allowed> CertificateTrust::newAllowed()
+{
+    return std::make_shared<Allowed>();
+}
+
 // Whether client.conf allows a certificate. libcups compares it with what it remembers itself, by
 // dates and names, and may write there, all of which the keys have settled already. So it is not
-// asked where it has another one at hand; what is left then is whether this one is in force.
-bool isAllowed(const ServerAddress &server, cups_array_t *certificates, cups_array_t *remembered,
-               gnutls_x509_crt_t certificate)
+// asked where it has another one at hand; what is left then is whether this one is in force. It
+// leaks some kilobytes with each answer, so the same is not asked at every connection.
+bool CertificateTrust::isAllowed(const ServerAddress &server, cups_array_t *certificates,
+                                 cups_array_t *remembered) const
 {
+    const Certificate certificate = parse(cupsArrayFirst(certificates));
     if ((::getuid() == 0 && server.isLocal()) || (remembered && !isSame(certificates, remembered)))
-        return isInForce(certificate);
+        return isInForce(certificate.get());
+    const gnutls_datum_t bytes = bytesOf(cupsArrayFirst(certificates));
+    const QByteArray name =
+        server.argument().toUtf8() + '\n' +
+        QByteArray(reinterpret_cast<const char *>(bytes.data), static_cast<qsizetype>(bytes.size));
+    const std::lock_guard lock(m_allowed->mutex);
+    if (m_allowed->certificates.contains(name))
+        return true;
     switch (httpCredentialsGetTrust(certificates, server.host.toUtf8().constData())) {
     case HTTP_TRUST_INVALID:
     case HTTP_TRUST_EXPIRED:
         return false;
     default:
+        m_allowed->certificates.insert(name);
         return true;
     }
 }
-
-} // namespace
 
 CertificateVerdict CertificateTrust::judge(const ServerAddress &server, http_t *connection) const
 {
@@ -208,7 +231,7 @@ CertificateVerdict CertificateTrust::judge(const ServerAddress &server,
     if (known && known != key && !isVouchedFor(certificates, server.host, m_files.authorities))
         return noted ? CertificateVerdict{Kind::Changed, text, servers.path(), name}
                      : CertificateVerdict{Kind::Changed, text, remembered.file};
-    if (!isAllowed(server, certificates, remembered.certificates.get(), certificate.get()))
+    if (!isAllowed(server, certificates, remembered.certificates.get()))
         return {Kind::Invalid, text};
     // Another connection, or another program, may have met somebody else there meanwhile.
     if (noted != key &&

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <utility>
 
 #include <QString>
@@ -51,7 +52,15 @@ public:
     CertificateVerdict judge(const ServerAddress &server, cups_array_t *certificates) const;
 
 private:
+    // The certificates that client.conf has been found to allow, for all copies of this object.
+    struct Allowed;
+
     Files m_files;
+    std::shared_ptr<Allowed> m_allowed = newAllowed();
+
+    static std::shared_ptr<Allowed> newAllowed();
+    bool isAllowed(const ServerAddress &server, cups_array_t *certificates,
+                   cups_array_t *remembered) const;
 };
 
 } // namespace corvana

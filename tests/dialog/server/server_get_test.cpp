@@ -81,6 +81,22 @@ private Q_SLOTS:
         }
     }
 
+    // What is sent only once would be lost on it.
+    void aConnectionThatTheServerIsAboutToCloseIsNotUsedAgain()
+    {
+        const CannedServer server([](const CannedRequest &request) {
+            CannedAnswer answer =
+                request.operation == 0 ? httpAnswer(200, "*PPD-Adobe") : ippAnswer(newIppAnswer());
+            answer.bytes.replace("\r\n\r\n", "\r\nConnection: close\r\n\r\n");
+            return answer;
+        });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY(connection.request(aboutQueue()));
+        QTRY_COMPARE(server.openConnections(), 0);
+        QCOMPARE(connection.get("/printers/a.ppd").state, State::Read);
+        QTRY_COMPARE(server.openConnections(), 0);
+    }
+
     void answersToAGetAreToldApart_data()
     {
         QTest::addColumn<int>("status");
