@@ -19,9 +19,11 @@ endif()
 
 # What is shipped reads what servers and strangers' documents send it: an overrun ends the program
 # instead of being used. Without optimisation the checked C library functions do not exist.
-if(NOT CORVANA_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
-    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS
-                        -fstack-protector-strong -fstack-clash-protection)
+if(NOT CORVANA_SANITIZE AND CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+    if(NOT CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
+        add_compile_options(-D_FORTIFY_SOURCE=2)
+    endif()
+    add_compile_options(-D_GLIBCXX_ASSERTIONS -fstack-protector-strong -fstack-clash-protection)
     if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
         add_compile_options(-fcf-protection)
     endif()

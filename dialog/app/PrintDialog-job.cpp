@@ -164,7 +164,8 @@ void PrintDialog::startServerJob()
 // Lets a job that its server has go on without this window.
 void PrintDialog::leave()
 {
-    m_leaving = m_serverJob && m_serverJob->isHandedOver();
+    // What is being canceled is waited for: whether it still was in time has to be known.
+    m_leaving = m_serverJob && m_serverJob->isHandedOver() && !m_serverJob->isCanceled();
     if (m_leaving)
         m_serverJob->letGo();
 }
@@ -272,6 +273,7 @@ void PrintDialog::reject()
     if (m_serverJob) {
         // A server that does not answer has a few seconds to be told.
         m_serverJob->cancel();
+        m_leave->hide();
         m_progressText->setText(tr("Canceling…"));
         m_progress->setRange(0, 0);
         return;

@@ -153,7 +153,10 @@ bool PrintDialog::applyRequestedOptions()
         const FittedOptions fitted = applyWhatFits(kept->options, *m_printer);
         problems = fitted.problems;
         m_attributes = fitted.attributes;
-        m_general->setCopies(kept->copies);
+        if (!m_copiesSet) {
+            m_general->setCopies(kept->copies);
+            m_openedCopies = m_general->copies();
+        }
         if (!problems.isEmpty())
             m_message->showMessage(
                 MessageBar::Kind::Problem,

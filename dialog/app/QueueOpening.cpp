@@ -113,6 +113,7 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     job.ppdLastModified = printer.ppdLastModified;
     job.follow = !request.noWait;
     if (printer.capabilities) {
+        job.chosenOptions = ticket.options;
         job.ticket.options = standardJobOptions(ticket.options, *printer.capabilities);
         if (printer.printer.origin == PrinterOrigin::Device) {
             job.formats = printer.capabilities->documentFormats;

@@ -59,7 +59,7 @@ QStringList refusalMessages(PpdSession &session)
     QStringList messages;
     const QList<Refusal> refusals = session.takeRefusals();
     for (const Refusal &refusal : refusals)
-        messages += conflictMessage(refusal);
+        messages += conflictMessage(refusal, session.ppd());
     return messages;
 }
 
@@ -171,7 +171,7 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
         return {};
     }
     ReadyPrinter ready = readyPrinter(details, cache, server->address, error);
-    if (details.state == QueueDetails::Ppd::Unchanged)
+    if (details.state == QueueDetails::Ppd::Unchanged && cached)
         ready.printer.ppdPath = cached->printer.ppdPath;
     return ready;
 }
@@ -292,14 +292,19 @@ int runUnattended(const PrintRequest &request)
     if (!options.ok())
         return refused(options.problems);
     QList<JobOption> attributes = replaced(fitted.attributes, options.attributes);
-    const int copies = request.copiesWereNamed
-                           ? request.copies
-                           : options.copies.value_or(fitted.copies.value_or(request.copies));
+    const std::optional<int> named =
+        request.copiesWereNamed ? std::optional(request.copies) : options.copies;
     const int mostCopies = printer->capabilities ? printer->capabilities->maximumCopies : 0;
-    if (mostCopies > 0 && copies > mostCopies)
-        return refused({Texts::tr("The printer prints at most %1 copies at once, not %2.")
-                            .arg(mostCopies)
-                            .arg(copies)});
+    int copies = named.value_or(fitted.copies.value_or(request.copies));
+    if (mostCopies > 0 && copies > mostCopies) {
+        const QString problem = Texts::tr("The printer prints at most %1 copies at once, not %2.")
+                                    .arg(mostCopies)
+                                    .arg(copies);
+        if (named)
+            return refused({problem});
+        QTextStream(stderr) << "corvana-print: lpoptions: " << problem << "\n";
+        copies = mostCopies;
+    }
 
     const bool printing = !request.documents.isEmpty();
     const bool allowed = !printing || printer->panels->shouldPrint();

@@ -47,6 +47,11 @@ bool isSameFile(const QString &one, const QString &other)
     return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
 }
 
+QString escaped(QString value)
+{
+    return value.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+}
+
 // One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
 QString optionArgument(const JobOption &option)
 {
@@ -54,10 +59,8 @@ QString optionArgument(const JobOption &option)
     const bool plain = std::none_of(value.cbegin(), value.cend(), [](QChar c) {
         return c.isSpace() || c == u'"' || c == u'\'' || c == u'\\' || c == u'{';
     });
-    if (!plain) {
-        value.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
-        value = u'"' + value + u'"';
-    }
+    if (!plain)
+        value = u'"' + escaped(value) + u'"';
     return QStringLiteral("%1=%2").arg(option.name, value);
 }
 
@@ -75,26 +78,26 @@ QStringList conversionArguments(const Document &document, const QString &ppdPath
 }
 
 // What shapes the pages of a text or a picture; everything else applies to the whole job.
-QList<JobOption> pageOptions(const QList<JobOption> &options)
+bool isForPages(const JobOption &option)
 {
     static const QStringList names{
-        QStringLiteral("PageSize"),
-        QStringLiteral("cpi"),
-        QStringLiteral("lpi"),
-        QStringLiteral("columns"),
-        QStringLiteral("wrap"),
-        QStringLiteral("prettyprint"),
-        QStringLiteral("ppi"),
-        QStringLiteral("scaling"),
-        QStringLiteral("natural-scaling"),
-        QStringLiteral("position"),
-        QStringLiteral("page-left"),
-        QStringLiteral("page-right"),
-        QStringLiteral("page-top"),
+        QStringLiteral("cpi"),         QStringLiteral("lpi"),
+        QStringLiteral("columns"),     QStringLiteral("wrap"),
+        QStringLiteral("prettyprint"), QStringLiteral("ppi"),
+        QStringLiteral("scaling"),     QStringLiteral("natural-scaling"),
+        QStringLiteral("position"),    QStringLiteral("page-left"),
+        QStringLiteral("page-right"),  QStringLiteral("page-top"),
         QStringLiteral("page-bottom"),
     };
+    return names.contains(option.name);
+}
+
+QList<JobOption> pageOptions(const QList<JobOption> &options)
+{
     QList<JobOption> chosen = options;
-    chosen.removeIf([](const JobOption &option) { return !names.contains(option.name); });
+    chosen.removeIf([](const JobOption &option) {
+        return option.name != QLatin1StringView("PageSize") && !isForPages(option);
+    });
     return chosen;
 }
 
@@ -214,6 +217,11 @@ void FileQueue::unite(const QList<Document> &documents, const JobTicket &ticket,
     start(documents, ticket, ppdPath, outputPath, Result::Pdf);
 }
 
+bool FileQueue::shapesDocuments(const QList<JobOption> &options)
+{
+    return std::any_of(options.cbegin(), options.cend(), isForPages);
+}
+
 void FileQueue::start(const QList<Document> &documents, const JobTicket &ticket,
                       const QString &ppdPath, const QString &outputPath, Result result)
 {
@@ -221,8 +229,12 @@ void FileQueue::start(const QList<Document> &documents, const JobTicket &ticket,
     const QFileInfo output(outputPath);
     m_outputName = outputPath;
     m_secrets = ticket.secrets;
+    for (const QString &secret : ticket.secrets)
+        m_secrets += escaped(secret);
     m_replaces = output.exists();
     m_outputPath = output.exists() ? output.canonicalFilePath() : output.absoluteFilePath();
+    if (!output.exists() && output.isSymLink())
+        m_outputPath = output.symLinkTarget();
     const QString problem = prepare(documents, ticket, ppdPath, result);
     if (problem.isEmpty())
         startNextStep();
@@ -367,8 +379,12 @@ bool FileQueue::wait()
 void FileQueue::readLog()
 {
     const QByteArray said = m_process.readAllStandardError();
+    // A line at a time: what comes at once may end anywhere in it.
+    const qsizetype begun = m_log.lastIndexOf('\n') + 1;
     m_log += said;
-    qCDebug(lcJob).noquote() << withoutSecrets(QString::fromUtf8(said), m_secrets);
+    if (const qsizetype end = m_log.lastIndexOf('\n') + 1; end > begun)
+        qCDebug(lcJob).noquote() << withoutSecrets(
+            QString::fromUtf8(m_log.mid(begun, end - begun - 1)), m_secrets);
     int page = 0;
     const QList<QByteArray> lines = said.split('\n');
     for (const QByteArray &line : lines)
@@ -453,7 +469,7 @@ QString FileQueue::problemOfStep(int exitCode, QProcess::ExitStatus status)
         return problemOfWriting();
     if (status != QProcess::NormalExit)
         return tr("The filter chain of CUPS crashed.");
-    const QString said = lastErrorLine(m_log);
+    const QString said = withoutSecrets(lastErrorLine(m_log), m_secrets);
     if (exitCode != 0)
         return tr("The document could not be converted for the printer: %1")
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);

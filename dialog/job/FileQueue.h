@@ -53,6 +53,10 @@ public:
     void unite(const QList<Document> &documents, const JobTicket &ticket, const QString &ppdPath,
                const QString &outputPath, const QList<JobOption> &layout = {});
 
+    /// Whether any of the options shapes the pages of a text or a picture, so that it has to be
+    /// applied when a PDF is made of those.
+    static bool shapesDocuments(const QList<JobOption> &options);
+
     /// Stops the filter chain, by force when it does not stop by itself; `finished` follows with a
     /// failure. A job that has its result already stays printed.
     void cancel();

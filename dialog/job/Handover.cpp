@@ -86,10 +86,12 @@ private:
     }
     QString whatIsWrong() const { return m_connection->problem().text(m_worker.context().address); }
 
-    // A connection that no cancellation touches, for what has to be put in order.
-    ServerConnection &another() { return another(m_worker.context()); }
-    ServerConnection &another(ServerContext context)
+    // A connection that no cancellation touches, for what has to be put in order. Nobody is asked
+    // for a password for that: nothing could end such a question.
+    ServerConnection &another()
     {
+        ServerContext context = m_worker.context();
+        context.mayAsk = false;
         context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
         context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
         m_another = std::make_unique<ServerConnection>(context, nullptr);
@@ -132,15 +134,13 @@ private:
             why = Texts::tr("Printing was canceled.");
         else if (!problem)
             why = Texts::tr("The print server did not say which job it has made.");
-        // Nobody is asked for a password to look for what may not be there.
-        ServerContext context = m_worker.context();
-        context.mayAsk = false;
-        const std::optional<int> job = findJob(another(context), m_request.printer, token);
+        const std::optional<int> job = findJob(another(), m_request.printer, token);
         if (!job)
-            return outcome(kind, Texts::tr("%1 Nothing was printed, but a job without a document "
-                                           "may be at the print server. It could not be looked "
-                                           "for: %2")
-                                     .arg(why, m_another->problem().text(context.address)));
+            return outcome(kind,
+                           Texts::tr("%1 Nothing was printed, but a job without a document "
+                                     "may be at the print server. It could not be looked "
+                                     "for: %2")
+                               .arg(why, m_another->problem().text(m_worker.context().address)));
         if (*job == 0)
             return outcome(kind, canceled ? why : nothingPrinted(why));
         m_job = *job;

@@ -69,6 +69,9 @@ struct ServerJobRequest
     /// The attributes that an IPP printer takes with a job; empty where everything is taken, or
     /// nobody says. What is missing there is done to the pages here, or refused.
     QStringList takenAttributes{};
+    /// The options in the words of the PPD, for what is done to the pages here, where those of the
+    /// ticket are in the printer's own; else empty.
+    QList<JobOption> chosenOptions{};
     /// A job of an earlier try whose fate is not known, or 0. It is looked up first, so that the
     /// same is not printed twice by accident.
     int earlierJob = 0;

@@ -34,8 +34,29 @@ bool isAppliedByChain(const JobOption &option)
 bool isForThePrinter(const JobOption &option)
 {
     static const QStringList names{QStringLiteral("job-hold-until"), QStringLiteral("job-priority"),
-                                   QStringLiteral("job-sheets"), QStringLiteral("job-billing")};
+                                   QStringLiteral("job-sheets"), QStringLiteral("job-billing"),
+                                   QStringLiteral("collate")};
     return names.contains(option.name);
+}
+
+// A value that asks for nothing but what is done anyway.
+bool asksForNothing(const JobOption &option, int copies)
+{
+    static const QList<JobOption> usual{
+        {QStringLiteral("number-up"), QStringLiteral("1")},
+        {QStringLiteral("page-set"), QStringLiteral("all")},
+        {QStringLiteral("page-border"), QStringLiteral("none")},
+        {QStringLiteral("outputorder"), QStringLiteral("normal")},
+        {QStringLiteral("fit-to-page"), QStringLiteral("false")},
+        {QStringLiteral("mirror"), QStringLiteral("false")},
+        {QStringLiteral("print-scaling"), QStringLiteral("auto")},
+        {QStringLiteral("job-sheets"), QStringLiteral("none")},
+        {QStringLiteral("job-sheets"), QStringLiteral("none,none")},
+        {QStringLiteral("job-hold-until"), QStringLiteral("no-hold")},
+        {QStringLiteral("job-priority"), QStringLiteral("50")},
+        {QStringLiteral("collate"), QStringLiteral("true")},
+    };
+    return usual.contains(option) || (copies == 1 && option.name == QLatin1StringView("collate"));
 }
 
 } // namespace
@@ -50,7 +71,7 @@ void ServerJob::print(const ServerJobRequest &request)
     const QString problem = unsendableOption(m_request.ticket);
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
-    if (const QList<JobOption> refused = notTaken(isForThePrinter); !refused.isEmpty()) {
+    if (const QList<JobOption> refused = refusedOptions(); !refused.isEmpty()) {
         QStringList names;
         for (const JobOption &option : refused)
             names += QStringLiteral("%1=%2").arg(option.name, option.value);
@@ -67,16 +88,36 @@ void ServerJob::print(const ServerJobRequest &request)
     convert();
 }
 
-// The options of one kind that the printer does not know.
-QList<JobOption> ServerJob::notTaken(bool (*isOfThisKind)(const JobOption &)) const
+// The options that only the printer could follow, and does not know.
+QList<JobOption> ServerJob::refusedOptions() const
 {
-    QList<JobOption> options;
+    QList<JobOption> refused;
     for (const JobOption &option : m_request.ticket.options) {
-        if (!m_request.takenAttributes.isEmpty() && isOfThisKind(option) &&
-            !m_request.takenAttributes.contains(option.name))
-            options += option;
+        if (isForThePrinter(option) && !isTaken(option))
+            refused += option;
     }
-    return options;
+    return refused;
+}
+
+// What is done to the pages before they are sent: all of it where the printer does not know a part
+// of it, since it would do the rest to pages that are others by then.
+QList<JobOption> ServerJob::layout() const
+{
+    QList<JobOption> layout;
+    bool allTaken = true;
+    for (const JobOption &option : m_request.ticket.options) {
+        if (!isAppliedByChain(option) || asksForNothing(option, m_request.ticket.copies))
+            continue;
+        layout += option;
+        allTaken = allTaken && isTaken(option);
+    }
+    return allTaken ? QList<JobOption>() : layout;
+}
+
+bool ServerJob::isTaken(const JobOption &option) const
+{
+    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(option.name) ||
+           asksForNothing(option, m_request.ticket.copies);
 }
 
 // Several documents become one; and what an IPP printer does not take becomes what it does take.
@@ -87,11 +128,14 @@ void ServerJob::convert()
     // A printer that says it looks at any document itself still refuses those that it does not
     // know, so that is for printers that name nothing better.
     const bool convertible = formats.contains(kPdf) || formats.contains(kRaster);
-    const QList<JobOption> layout = notTaken(isAppliedByChain);
+    const QList<JobOption> pages = layout();
+    // What shapes the pages of a text or a picture is nothing that a printer knows.
+    const bool isShaped = !formats.isEmpty() && first.format != kPdf &&
+                          FileQueue::shapesDocuments(m_request.ticket.options);
     const bool taken =
         formats.isEmpty() || formats.contains(first.format) ||
         (!convertible && formats.contains(QLatin1StringView("application/octet-stream")));
-    if (m_request.documents.size() == 1 && taken && layout.isEmpty())
+    if (m_request.documents.size() == 1 && taken && pages.isEmpty() && !isShaped)
         return send(first, m_request.ticket);
     report({JobProgress::Stage::Converting});
     m_parts = std::make_unique<QTemporaryDir>();
@@ -102,17 +146,19 @@ void ServerJob::convert()
     connect(m_conversion.get(), &FileQueue::finished, this, &ServerJob::converted);
     if (formats.isEmpty() || formats.contains(kPdf)) {
         m_converted = {file, kPdf, m_request.ticket.title};
-        return m_conversion->unite(m_request.documents, m_request.ticket, m_request.ppdPath, file,
-                                   layout);
+        JobTicket chosen = m_request.ticket;
+        if (!m_request.chosenOptions.isEmpty())
+            chosen.options = m_request.chosenOptions;
+        return m_conversion->unite(m_request.documents, chosen, m_request.ppdPath, file, pages);
     }
     if (!formats.contains(kRaster))
         return finish({JobOutcome::Kind::Failed, 0,
                        tr("The printer “%1” takes documents of these kinds only: %2.")
                            .arg(m_request.printer.name, formats.join(QStringLiteral(", ")))});
     m_converted = {file, kRaster, m_request.ticket.title};
-    JobTicket pages = m_request.ticket;
-    pages.copies = 1; // the printer repeats them
-    m_conversion->print(m_request.documents, pages, m_request.ppdPath, file);
+    JobTicket once = m_request.ticket;
+    once.copies = 1; // the printer repeats them
+    m_conversion->print(m_request.documents, once, m_request.ppdPath, file);
 }
 
 void ServerJob::converted(const QString &problem)
@@ -123,10 +169,9 @@ void ServerJob::converted(const QString &problem)
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
     JobTicket ticket = m_request.ticket;
-    const QList<JobOption> layout = notTaken(isAppliedByChain);
-    ticket.options.removeIf([&](const JobOption &option) {
-        return m_converted.format == kRaster ? isAppliedByChain(option) : layout.contains(option);
-    });
+    const bool isLaidOut = m_converted.format == kRaster || !layout().isEmpty();
+    if (isLaidOut)
+        ticket.options.removeIf(isAppliedByChain);
     send(m_converted, ticket);
 }
 
@@ -166,7 +211,7 @@ void ServerJob::cancel()
 
 void ServerJob::letGo()
 {
-    if (!m_handedOver || m_outcome)
+    if (!m_handedOver || m_outcome || m_canceled)
         return;
     m_work = {};
     finish({JobOutcome::Kind::InQueue, m_progress->job,

@@ -31,7 +31,7 @@ public:
     bool isCanceled() const { return m_canceled; }
 
     /// Follows the job no longer; `finished` says how far it was. For a job that the server has;
-    /// does nothing before that.
+    /// does nothing before that, nor for one that is being canceled.
     void letGo();
     /// Whether the server has all of the job.
     bool isHandedOver() const { return m_handedOver; }
@@ -44,7 +44,9 @@ Q_SIGNALS:
     void finished(const corvana::JobOutcome &outcome);
 
 private:
-    QList<JobOption> notTaken(bool (*isOfThisKind)(const JobOption &)) const;
+    QList<JobOption> refusedOptions() const;
+    QList<JobOption> layout() const;
+    bool isTaken(const JobOption &option) const;
     void convert();
     void converted(const QString &problem);
     void send(const Document &document, const JobTicket &ticket);

@@ -34,6 +34,17 @@ constexpr QLatin1StringView kEntrySuffix{".json"};
 // Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
 constexpr qsizetype kHashInName = 16;
 
+// A window is not open for longer without its printer being looked at. Units: days.
+constexpr int kDaysAfterUse = 30;
+
+// The date of a file is that of its last use.
+void noteUse(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime);
+}
+
 bool isHash(const QByteArray &text)
 {
     return text.size() >= kHashInName && QByteArray::fromHex(text).toHex() == text;
@@ -100,6 +111,7 @@ std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QStri
     entry.printer.deviceUri = said.value(kDeviceUri).toString();
     entry.printer.isClass = said.value(kIsClass).toBool();
     entry.lastModified = said.value(kLastModified).toInteger();
+    noteUse(ppd);
     return entry;
 }
 
@@ -118,6 +130,8 @@ QString PpdCache::store(const QString &server, const Printer &printer, const QBy
         {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
         {kLastModified, lastModified},         {kHash, QString::fromLatin1(hash)}};
     const bool isThere = QFileInfo(path).size() == ppd.size();
+    if (isThere)
+        noteUse(path);
     if (!isThere && !save(path, ppd))
         return {};
     if (!save(pathOf(server, printer.name, kEntrySuffix), QJsonDocument(said).toJson()))
@@ -132,18 +146,18 @@ void PpdCache::remove(const QString &server, const QString &queue) const
     removeFormerPpds(server, queue, {});
 }
 
-// But for those that a window of today may have opened, and `current`.
+// But for those that an open window may still print with, and `current`.
 void PpdCache::removeFormerPpds(const QString &server, const QString &queue,
                                 const QString &current) const
 {
     const QString pattern =
         pathOf(server, queue,
                QLatin1StringView("-") + QString(kHashInName, u'?') + QLatin1StringView(".ppd"));
-    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
+    const QDateTime oldest = QDateTime::currentDateTime().addDays(-kDaysAfterUse);
     const QFileInfoList ppds =
         QFileInfo(pattern).dir().entryInfoList({QFileInfo(pattern).fileName()}, QDir::Files);
     for (const QFileInfo &ppd : ppds) {
-        if (ppd.filePath() != current && ppd.lastModified() < yesterday)
+        if (ppd.filePath() != current && ppd.lastModified() < oldest)
             QFile::remove(ppd.filePath());
     }
 }

@@ -121,7 +121,9 @@ PrinterCapabilities capabilitiesOf(ipp_t *attributes)
     printer.rasterTypes = keywordsOf(attributes, "pwg-raster-document-type-supported");
     printer.maximumCopies = maximumCopies(attributes);
     printer.jobAttributes = keywordsOf(attributes, "job-creation-attributes-supported");
-    printer.jobSheets = keywordsOf(attributes, "job-sheets-supported");
+    if (printer.jobAttributes.isEmpty() ||
+        printer.jobAttributes.contains(QLatin1StringView("job-sheets")))
+        printer.jobSheets = keywordsOf(attributes, "job-sheets-supported");
     return printer;
 }
 

@@ -9,6 +9,8 @@ namespace {
 constexpr qsizetype kBlock = 65536; // bytes
 // The end of an answer in chunks comes with its last bytes, or a packet later.
 constexpr int kMomentForEnd = 100; // milliseconds
+// The message is here; what a server keeps adding to it is not worth waiting for.
+constexpr std::chrono::seconds kMostTimeForRest{2};
 } // namespace
 
 ServerWait::Clock::time_point AnswerPace::deadline(qint64 received,
@@ -80,7 +82,9 @@ IppMessage AnswerReader::readIpp()
 
 bool AnswerReader::skipRest()
 {
-    while (m_end == End::None && httpGetState(m_connection) != HTTP_STATE_WAITING) {
+    const auto enough = ServerWait::Clock::now() + kMostTimeForRest;
+    while (m_end == End::None && ServerWait::Clock::now() < enough &&
+           httpGetState(m_connection) != HTTP_STATE_WAITING) {
         if (!httpWait(m_connection, kMomentForEnd) || !readBlock())
             break;
     }

@@ -115,6 +115,7 @@ bool ServerConnection::keepsOnlyTrusted()
 void ServerConnection::close()
 {
     m_hasAnswered = false;
+    m_inUse.reset();
     if (m_http)
         httpClose(std::exchange(m_http, nullptr));
 }
@@ -354,8 +355,8 @@ void ServerConnection::noteFailure(http_status_t status)
     case HTTP_STATUS_FORBIDDEN:
         fail(ServerProblem::Kind::Forbidden);
         // Another user may be allowed to do it; the next try asks which.
-        if (m_given && m_context.credentials) {
-            m_context.credentials->forget(realm(), *m_given);
+        if (m_inUse && m_context.credentials) {
+            m_context.credentials->forget(realm(), *m_inUse);
             m_problem.anotherUserMay = true;
         }
         return;
@@ -412,7 +413,8 @@ ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 
         close();
         return {};
     }
-    const bool isUnchanged = *status == HTTP_STATUS_NOT_MODIFIED;
+    // Of what nobody has, nothing can be unchanged.
+    const bool isUnchanged = *status == HTTP_STATUS_NOT_MODIFIED && modifiedSince > 0;
     if (!isUnchanged && *status != HTTP_STATUS_NOT_FOUND) {
         noteFailure(*status);
         close();
@@ -489,6 +491,7 @@ const char *ServerConnection::givePassword(http_t *http)
     }
     cupsSetUser(m_given->user.toUtf8().constData());
     m_password = m_given->password.toUtf8();
+    m_inUse = m_given;
     return m_password.constData();
 }
 

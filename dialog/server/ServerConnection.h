@@ -117,6 +117,7 @@ private:
     http_t *m_http = nullptr;
     ServerProblem m_problem;
     std::optional<Credentials> m_given; // for this request, right or wrong
+    std::optional<Credentials> m_inUse; // on this connection, by libcups
     QByteArray m_password;              // libcups borrows it while it authenticates
     bool m_hasAnswered = false;         // this connection, so that it may have been closed since
     bool m_documentSent = false;

@@ -24,14 +24,21 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(OptionRequest)
 };
 
-QString asked(const JobOption &option)
+// "Tray=Lower"; a password is one, whatever has become of it.
+QString said(ppd_file_t *ppd, const QString &name, const QString &value)
 {
-    return QStringLiteral("%1=%2").arg(option.name, option.value);
+    const bool secret = isSecret(ppd, name) && !ppdChoice(ppdOption(ppd, name), value);
+    return QStringLiteral("%1=%2").arg(name, secret ? QString(kHiddenLength, u'•') : value);
 }
 
-QString named(const OptionChoice &choice)
+QString asked(const JobOption &option, ppd_file_t *ppd)
 {
-    return QStringLiteral("%1=%2").arg(choice.keyword, choice.choice);
+    return said(ppd, option.name, option.value);
+}
+
+QString named(const OptionChoice &choice, ppd_file_t *ppd)
+{
+    return said(ppd, choice.keyword, choice.choice);
 }
 
 QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
@@ -119,10 +126,7 @@ public:
 private:
     void refuse(const JobOption &option, const QString &why)
     {
-        // A password that is refused is still one.
-        const bool secret = isSecret(m_session.ppd(), option.name);
-        const JobOption shown{option.name, secret ? QString(kHiddenLength, u'•') : option.value};
-        problems += QStringLiteral("%1: %2").arg(asked(shown), why);
+        problems += QStringLiteral("%1: %2").arg(asked(option, m_session.ppd()), why);
     }
 
     void refuseValue(const JobOption &option, const QString &allowed)
@@ -263,7 +267,9 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
         if (now == job.cend() || now->value != option.value) {
             problems +=
                 Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
-                    .arg(asked(option), now == job.cend() ? QString() : now->value);
+                    .arg(asked(option, session.ppd()),
+                         now == job.cend() ? QString()
+                                           : withoutSecrets(now->value, secretsOf(session)));
         }
     }
     return problems;
@@ -271,13 +277,13 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
 
 } // namespace
 
-QString conflictMessage(const Refusal &refusal)
+QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd)
 {
     QStringList others;
     for (const OptionChoice &other : refusal.conflicting)
-        others += named(other);
+        others += named(other, ppd);
     return Texts::tr("%1: this cannot be combined with %2.")
-        .arg(named(refusal.proposed), others.join(QStringLiteral(", ")));
+        .arg(named(refusal.proposed, ppd), others.join(QStringLiteral(", ")));
 }
 
 QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
@@ -290,7 +296,8 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
         const ChangeResult result =
             session.change(mark.name, mark.value, PpdSession::Origin::Dialog);
         if (!result.accepted())
-            problems += conflictMessage({{mark.name, mark.value}, result.conflicting});
+            problems +=
+                conflictMessage({{mark.name, mark.value}, result.conflicting}, session.ppd());
     }
     return problems;
 }
@@ -322,13 +329,14 @@ QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues
         const OptionChoice choice{option.name, option.value};
         ppd_option_t *found = ppdOption(session.ppd(), option.name);
         if (found && !option.value.startsWith(kCustomPrefix) && !ppdChoice(found, option.value)) {
-            problems += Texts::tr("%1: this value is not allowed. Allowed: %2.")
-                            .arg(asked(option), allowedChoices(session.ppd(), found));
+            problems +=
+                Texts::tr("%1: this value is not allowed. Allowed: %2.")
+                    .arg(asked(option, session.ppd()), allowedChoices(session.ppd(), found));
             continue;
         }
         const QList<OptionChoice> conflicting = session.conflictsOf(choice);
         if (!conflicting.isEmpty())
-            problems += conflictMessage({choice, conflicting});
+            problems += conflictMessage({choice, conflicting}, session.ppd());
     }
     for (const QString &keyword : optionsWithoutValue(session, jobValues)) {
         problems += Texts::tr("%1=Custom: a value is missing. Allowed: %2.")
@@ -364,13 +372,13 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
 
     OptionOutcome outcome{{}, request.attributes, request.copies};
     for (const Refusal &conflict : session.changeTogether(request.choices))
-        outcome.problems += conflictMessage(conflict);
+        outcome.problems += conflictMessage(conflict, session.ppd());
     if (!outcome.ok())
         return {outcome.problems, {}, {}};
     // A new paper makes the panels propose a medium for it; what was asked for comes after that.
     panels.deliverPending();
     for (const Refusal &conflict : session.changeTogether(request.choices))
-        outcome.problems += conflictMessage(conflict);
+        outcome.problems += conflictMessage(conflict, session.ppd());
 
     QList<JobOption> expected;
     for (const OptionChoice &choice : std::as_const(request.choices))
@@ -385,7 +393,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     panels.restoreAll();
 
     for (const Refusal &refusal : session.takeRefusals())
-        outcome.problems += conflictMessage(refusal);
+        outcome.problems += conflictMessage(refusal, session.ppd());
     outcome.problems += jobProblems(session, jobValues);
     if (outcome.ok())
         outcome.problems = differences(expected, session, jobValues);

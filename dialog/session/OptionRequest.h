@@ -55,7 +55,7 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues);
 /// with a marked choice, or a custom choice without its value.
 QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues);
 
-/// What a refusal says in a terminal: the options by their keywords.
-QString conflictMessage(const Refusal &refusal);
+/// What a refusal says in a terminal: the options by their keywords, passwords by dots.
+QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd);
 
 } // namespace corvana

@@ -108,7 +108,7 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     if (!same) {
         const QList<OptionChoice> conflicting = conflictsOf({keyword, choice});
         if (!conflicting.isEmpty()) {
-            qCInfo(lcSession) << "refused:" << keyword << choice << "collides with"
+            qCInfo(lcSession) << "refused:" << keyword << choiceKeyword(choice) << "collides with"
                               << conflicting.first().keyword << conflicting.first().choice;
             if (origin == Origin::Panel) {
                 m_refusals.insert(keyword, Refusal{{keyword, choice}, conflicting});

@@ -16,6 +16,7 @@ namespace {
 
 const QString kPages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/pages.pdf");
 const QString kThreePages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
+const QString kText = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.txt");
 const QString kPicture = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.png");
 const QString kPhoto = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.jpg");
 const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
@@ -24,6 +25,20 @@ QByteArray contentOf(const QString &name)
 {
     QFile file(name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What pdfinfo says of a PDF.
+QString infoOf(const QByteArray &pdf, const QString &what)
+{
+    QTemporaryFile document;
+    if (!document.open() || document.write(pdf) != pdf.size() || !document.flush())
+        return {};
+    QProcess info;
+    info.start(u"pdfinfo"_s, {document.fileName()});
+    if (!info.waitForFinished())
+        return {};
+    const QRegularExpression line(u"^%1: +(.*)$"_s.arg(what), QRegularExpression::MultilineOption);
+    return line.match(QString::fromUtf8(info.readAllStandardOutput())).captured(1);
 }
 
 /// An attribute of the only job of a printer, as text; null without it.
@@ -131,6 +146,10 @@ private Q_SLOTS:
         QTest::newRow("two on a sheet") << QStringList{u"number-up=2"_s} << u"2"_s;
         QTest::newRow("two of those on a sheet, backwards")
             << QStringList{u"page-set=odd"_s, u"number-up=2"_s, u"outputorder=reverse"_s} << u"1"_s;
+        QTest::newRow("the first sheet, which the printer could choose itself")
+            << QStringList{u"page-ranges=1"_s, u"number-up=2"_s} << u"1"_s;
+        QTest::newRow("what asks for nothing")
+            << QStringList{u"page-set=all"_s, u"outputorder=normal"_s, u"collate=true"_s} << u"3"_s;
     }
     void whatThePrinterDoesNotDoToThePagesIsDoneBefore()
     {
@@ -143,18 +162,28 @@ private Q_SLOTS:
         const RunEnd end = runner.run(arguments << kThreePages);
         QVERIFY2(end.status == 0, end.text().constData());
         QCOMPARE(printer.documents().size(), 1);
-        QTemporaryFile document;
-        QVERIFY(document.open());
-        document.write(printer.documents().constFirst());
-        document.close();
-        QProcess info;
-        info.start(u"pdfinfo"_s, {document.fileName()});
-        QVERIFY(info.waitForFinished());
-        static const QRegularExpression count(u"^Pages: +([0-9]+)$"_s,
-                                              QRegularExpression::MultilineOption);
-        QTEST(count.match(QString::fromUtf8(info.readAllStandardOutput())).captured(1), "pages");
-        for (const QString &option : options)
-            QVERIFY(jobValue(printer, option.section(u'=', 0, 0).toUtf8().constData()).isNull());
+        QTEST(infoOf(printer.documents().constFirst(), u"Pages"_s), "pages");
+    }
+
+    void pagesAreLaidOutOnThePaperThatWasChosen()
+    {
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), u"-o"_s, u"media=Legal"_s, u"-o"_s,
+                                       u"number-up=2"_s, kThreePages});
+        QVERIFY2(end.status == 0, end.text().constData());
+        const QString size = infoOf(printer.documents().value(0), u"Page size"_s);
+        // Legal is 612 x 1008 points; two pages beside each other lie on it across.
+        QVERIFY2(size.startsWith(u"1008 x 612"_s), qPrintable(size));
+    }
+
+    void aTextIsShapedHereBecauseNoPrinterKnowsHow()
+    {
+        const IppEvePrinter printer(u"Reader"_s, {u"text/plain"_s, u"application/pdf"_s});
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), u"-o"_s, u"cpi=5"_s, kText});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY(printer.documents().value(0).startsWith("%PDF-"));
     }
 
     void whatOnlyThePrinterCouldDoIsRefused()

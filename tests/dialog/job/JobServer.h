@@ -82,7 +82,7 @@ private:
     SaidOfJob m_afterCancel;
     std::atomic<bool> m_losesAnswer{false};
     std::atomic<bool> m_cancels{true};
-    std::atomic<int> m_ppdStatus{304};
+    std::atomic<int> m_ppdStatus{404};
     std::atomic<bool> m_knowsQueue{true};
     std::atomic<Creation> m_creation{Creation::Answered};
     QString m_token;       // in the server's thread

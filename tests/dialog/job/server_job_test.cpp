@@ -137,6 +137,7 @@ private Q_SLOTS:
 
     void forAnUnchangedPpdTheQueueIsAskedNothingElse()
     {
+        m_server->setPpdStatus(304);
         m_request.ppdLastModified = kDay;
         QCOMPARE(print().kind, Kind::Printed);
         QCOMPARE(m_server->count(IPP_OP_GET_PRINTER_ATTRIBUTES), 0);

@@ -50,7 +50,7 @@ void makeOld(const QString &path)
 {
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-2),
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-31),
                              QFileDevice::FileModificationTime));
 }
 
@@ -210,7 +210,16 @@ private Q_SLOTS:
         QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
     }
 
-    void aPpdOfYesterdayGoesWhenThereIsANewOne()
+    void aPpdThatIsLookedAtIsInUse()
+    {
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        makeOld(first);
+        QVERIFY(m_cache.find(kServer, u"office"_s));
+        m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 2);
+        QCOMPARE(contentOf(first), kPpd);
+    }
+
+    void aPpdThatNobodyHasUsedForLongGoesWhenThereIsANewOne()
     {
         const QString others = m_cache.store(kServer, queueOf(u"office-2"_s), kPpd, 1);
         const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
@@ -218,6 +227,7 @@ private Q_SLOTS:
         makeOld(first);
         QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), first);
         QCOMPARE(contentOf(first), kPpd); // it is the new one
+        makeOld(first);
         const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 3);
         QVERIFY(!QFile::exists(first));
         QVERIFY(QFile::exists(second));

@@ -121,7 +121,8 @@ private Q_SLOTS:
     void aConflictMessageNamesEveryOptionInTheWay()
     {
         QCOMPARE(conflictMessage({{u"Media"_s, u"Card"_s},
-                                  {{u"Duplex"_s, u"DuplexTumble"_s}, {u"Tray"_s, u"Lower"_s}}}),
+                                  {{u"Duplex"_s, u"DuplexTumble"_s}, {u"Tray"_s, u"Lower"_s}}},
+                                 m_session->ppd()),
                  u"Media=Card: this cannot be combined with Duplex=DuplexTumble, Tray=Lower."_s);
     }
 
