@@ -18,6 +18,8 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "dialog/session/JobAttributes.h"
+
 namespace corvana {
 
 Q_LOGGING_CATEGORY(lcJob, "corvana.dialog.job", QtWarningMsg)
@@ -80,16 +82,7 @@ QStringList conversionArguments(const Document &document, const QString &ppdPath
 // What shapes the pages of a text or a picture; everything else applies to the whole job.
 bool isForPages(const JobOption &option)
 {
-    static const QStringList names{
-        QStringLiteral("cpi"),         QStringLiteral("lpi"),
-        QStringLiteral("columns"),     QStringLiteral("wrap"),
-        QStringLiteral("prettyprint"), QStringLiteral("ppi"),
-        QStringLiteral("scaling"),     QStringLiteral("natural-scaling"),
-        QStringLiteral("position"),    QStringLiteral("page-left"),
-        QStringLiteral("page-right"),  QStringLiteral("page-top"),
-        QStringLiteral("page-bottom"),
-    };
-    return names.contains(option.name);
+    return isAppliedTo(JobAttribute::AppliedTo::Document, option);
 }
 
 QList<JobOption> pageOptions(const QList<JobOption> &options)

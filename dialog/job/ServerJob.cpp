@@ -1,5 +1,6 @@
 #include "dialog/job/ServerJob.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QEventLoop>
@@ -7,6 +8,7 @@
 #include <QTimer>
 
 #include "dialog/job/JobRequests.h"
+#include "dialog/session/JobAttributes.h"
 
 namespace corvana {
 
@@ -20,43 +22,19 @@ constexpr QLatin1StringView kRaster{"image/pwg-raster"};
 // What the filter chain does to the pages when it makes the printer's own data.
 bool isAppliedByChain(const JobOption &option)
 {
-    static const QStringList names{
-        QStringLiteral("number-up"),   QStringLiteral("number-up-layout"),
-        QStringLiteral("page-border"), QStringLiteral("page-ranges"),
-        QStringLiteral("page-set"),    QStringLiteral("outputorder"),
-        QStringLiteral("fit-to-page"), QStringLiteral("print-scaling"),
-        QStringLiteral("mirror"),      QStringLiteral("orientation-requested"),
-    };
-    return names.contains(option.name);
-}
-
-// What a printer has to do itself, and would print otherwise than it was asked to if it did not.
-bool isForThePrinter(const JobOption &option)
-{
-    static const QStringList names{QStringLiteral("job-hold-until"), QStringLiteral("job-priority"),
-                                   QStringLiteral("job-sheets"), QStringLiteral("job-billing"),
-                                   QStringLiteral("collate")};
-    return names.contains(option.name);
+    return isAppliedTo(JobAttribute::AppliedTo::Pages, option);
 }
 
 // A value that asks for nothing but what is done anyway.
 bool asksForNothing(const JobOption &option, int copies)
 {
-    static const QList<JobOption> usual{
-        {QStringLiteral("number-up"), QStringLiteral("1")},
-        {QStringLiteral("page-set"), QStringLiteral("all")},
-        {QStringLiteral("page-border"), QStringLiteral("none")},
-        {QStringLiteral("outputorder"), QStringLiteral("normal")},
-        {QStringLiteral("fit-to-page"), QStringLiteral("false")},
-        {QStringLiteral("mirror"), QStringLiteral("false")},
-        {QStringLiteral("print-scaling"), QStringLiteral("auto")},
-        {QStringLiteral("job-sheets"), QStringLiteral("none")},
-        {QStringLiteral("job-sheets"), QStringLiteral("none,none")},
-        {QStringLiteral("job-hold-until"), QStringLiteral("no-hold")},
-        {QStringLiteral("job-priority"), QStringLiteral("50")},
-        {QStringLiteral("collate"), QStringLiteral("true")},
-    };
-    return usual.contains(option) || (copies == 1 && option.name == QLatin1StringView("collate"));
+    if (copies == 1 && option.name == QLatin1StringView("collate"))
+        return true;
+    const JobAttribute *attribute = jobAttribute(option.name);
+    const QStringList values = option.value.split(u','); // before and behind the job
+    return attribute && !attribute->usual.isEmpty() &&
+           std::all_of(values.cbegin(), values.cend(),
+                       [&](const QString &value) { return value == attribute->usual; });
 }
 
 } // namespace
@@ -93,7 +71,7 @@ QList<JobOption> ServerJob::refusedOptions() const
 {
     QList<JobOption> refused;
     for (const JobOption &option : m_request.ticket.options) {
-        if (isForThePrinter(option) && !isTaken(option))
+        if (isAppliedTo(JobAttribute::AppliedTo::Job, option) && !isTaken(option))
             refused += option;
     }
     return refused;

@@ -12,7 +12,17 @@ namespace corvana {
 /// A job attribute that users of `lp` know: it is no option of the PPD and goes to CUPS as it is.
 struct JobAttribute
 {
+    /// Who follows it, where nobody does everything (a queue does).
+    enum class AppliedTo {
+        Document, ///< the pages of a text or a picture, while they are made
+        Pages,    ///< which pages, how many on a sheet, in which order
+        Job,      ///< the job as a whole: only its printer, or its queue, can
+    };
+
     QLatin1StringView name;
+    AppliedTo appliedTo;
+    /// The value that asks for nothing but what is done anyway; empty where there is none.
+    QLatin1StringView usual;
     /// What the summary calls it; to be translated in the context "JobAttributes".
     const char *title;
     /// The values that are taken, in words for a message.
@@ -28,6 +38,9 @@ const JobAttribute *jobAttribute(const QString &name);
 
 /// The names of all attributes, for a message.
 QStringList jobAttributeNames();
+
+/// Whether an option is an attribute that is applied there.
+bool isAppliedTo(JobAttribute::AppliedTo what, const JobOption &option);
 
 /// Title and value of an attribute, translated, for the summary.
 struct JobAttributeText

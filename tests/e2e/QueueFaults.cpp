@@ -32,8 +32,10 @@ FaultPlayer::FaultPlayer()
 {
 }
 
-void FaultPlayer::learnTheUsual(const QueueFault &none)
+void FaultPlayer::learnTheUsual()
 {
+    const QueueFault none{
+        .says = kPrintedAs.arg(1), .closes = true, .jobs = {IPP_JSTATE_COMPLETED}, .documents = 1};
     // The first time everything is read from the disk.
     playOnce(none);
     QList<qint64> opening;

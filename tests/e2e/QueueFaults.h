@@ -10,6 +10,9 @@
 
 namespace corvana::test {
 
+/// What is said of a job of the queue "office" that was printed; %1 is its number.
+inline const QString kPrintedAs = QStringLiteral("Printed on “office” as job office-%1\\.");
+
 /// A fault that meets somebody who prints, and what becomes of it.
 struct QueueFault
 {
@@ -48,7 +51,7 @@ public:
     FaultPlayer();
 
     /// Plays without a fault, some times, to learn for how long the window does not react then.
-    void learnTheUsual(const QueueFault &none);
+    void learnTheUsual();
     /// Fails as well when the window did not react for longer than usual.
     void play(const QueueFault &fault);
 

@@ -14,8 +14,6 @@ using Scene = QueueScene;
 using Fault = QueueFault;
 using States = QueueFault::States;
 
-const QString kPrintedAs = u"Printed on “office” as job office-%1\\."_s;
-
 } // namespace
 
 /// What becomes of a job when whoever prints it cancels it, or leaves the window, at any point of
@@ -33,10 +31,7 @@ private Q_SLOTS:
         if (!PrivateCups::isAvailable())
             QSKIP("no CUPS server here");
         m_player.emplace();
-        m_player->learnTheUsual({.says = kPrintedAs.arg(1),
-                                 .closes = true,
-                                 .jobs = {IPP_JSTATE_COMPLETED},
-                                 .documents = 1});
+        m_player->learnTheUsual();
     }
 
     void printingIsCanceledAtEveryStage_data()
