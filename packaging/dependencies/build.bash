@@ -63,10 +63,10 @@ configure() {
     [ $status -eq 0 ] && touch "$folder/.configured"
 }
 
-# build PRESET: brings build/PRESET up to date. Two of these at once would spoil each other's
-# files, so the second waits.
+# build PRESET TARGET: brings TARGET of build/PRESET up to date: "product" is what users get, "all" the
+# tests as well. Two of these at once would spoil each other's files, so the second waits.
 build() {
-    local preset=$1 folder=$project_root/build/$1 pending
+    local preset=$1 target=$2 folder=$project_root/build/$1 pending
     mkdir -p "$project_root/build" || return
     if ! exec 9>>"$folder.lock"; then
         say "The folder $project_root/build cannot be written; does it belong to another user?"
@@ -82,10 +82,10 @@ build() {
             return 1
         }
     fi
-    pending=$(cmake --build "$folder" -- -n 2>&1)
+    pending=$(cmake --build "$folder" --target "$target" -- -n 2>&1)
     if [ "$pending" != 'ninja: no work to do.' ]; then
         if ! (cd "$project_root" &&
-            cmake --build --preset "$preset" --parallel "$(parallel_jobs)") >&2; then
+            cmake --build --preset "$preset" --target "$target" --parallel "$(parallel_jobs)") >&2; then
             say 'The build failed.'
             return 1
         fi

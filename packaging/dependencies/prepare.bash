@@ -28,15 +28,15 @@ export PATH
 # An interrupted compiler or CMake leaves nothing half-written that the next start would trust.
 trap 'exit 130' INT
 
-# prepare PRESET FOR...: installs what the given columns of packages.list name, and builds the
-# preset. Ends the script where that fails.
+# prepare PRESET TARGET FOR...: installs what the given columns of packages.list name, and builds that
+# target of the preset. Ends the script where that fails.
 prepare() {
-    local preset=$1
-    shift
+    local preset=$1 target=$2
+    shift 2
     read_requirements "$dependencies/packages.list" "$@"
     if ! check_requirements; then
         install_unmet
         packages_were_installed=yes
     fi
-    build "$preset" || exit 1
+    build "$preset" "$target" || exit 1
 }
