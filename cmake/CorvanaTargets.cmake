@@ -47,7 +47,7 @@ endfunction()
 # is compiled as it is shipped.
 function(corvana_test_target name)
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
-    target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::Network Qt6::Test Cups::Cups)
+    target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::Network Qt6::Test Cups::Cups test_paths)
     target_compile_options(${name} PRIVATE ${CORVANA_TEST_COMPILE_OPTIONS})
     target_link_options(${name} PRIVATE ${CORVANA_TEST_LINK_OPTIONS})
     target_precompile_headers(${name} REUSE_FROM corvana_test_pch)

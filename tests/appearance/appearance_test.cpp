@@ -42,9 +42,9 @@ QPalette darkPalette()
 PrintRequest request(const QStringList &options, const QString &printer = QStringLiteral("cl5"))
 {
     CommandLine line;
-    line.documents = {QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf")};
-    line.ppd = QStringLiteral(CORVANA_TEST_SHARE_DIR "/ppd/corvana-%1.ppd").arg(printer);
-    line.bundleRoots = {QFileInfo(QStringLiteral(CORVANA_TEST_BUNDLE_DIR)).path()};
+    line.documents = {corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"))};
+    line.ppd = corvana::test::sharedFile(QStringLiteral("ppd/corvana-%1.ppd")).arg(printer);
+    line.bundleRoots = {corvana::test::bundleRoot()};
     line.options = options;
     QString error;
     return preparePrintRequest(line, &error).value_or(PrintRequest());
@@ -254,7 +254,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        installTranslations(*qApp, QStringLiteral(CORVANA_TEST_SHARE_DIR "/translations"));
+        installTranslations(*qApp, corvana::test::sharedFile(QStringLiteral("translations")));
     }
 
     void everyPageIsWhole_data()
@@ -304,8 +304,8 @@ private Q_SLOTS:
         QFETCH(QString, edited);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
         const QTemporaryDir folder;
-        PrintRequest office =
-            request({QStringLiteral("PageSize=Postcard Staple=Left Sleep=Custom.12 Tray2=ON Pin=Custom.1234")});
+        PrintRequest office = request({QStringLiteral(
+            "PageSize=Postcard Staple=Left Sleep=Custom.12 Tray2=ON Pin=Custom.1234")});
         office.printers = {
             {QStringLiteral("office"), QStringLiteral("Office"),
              writeFile(folder.filePath(QStringLiteral("office.ppd")), officePrinter().text()), 1}};
@@ -538,3 +538,4 @@ private Q_SLOTS:
 
 QTEST_MAIN(AppearanceTest)
 #include "appearance_test.moc"
+#include "tests/support/TestPaths.h"

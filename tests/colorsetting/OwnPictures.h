@@ -7,13 +7,14 @@
 #include <QJsonArray>
 
 #include "tests/support/TestBundle.h"
+#include "tests/support/TestPaths.h"
 
 namespace corvana::test {
 
 /// The text of the panel's interface file. Errors: throws std::runtime_error.
 inline QByteArray shippedInterface()
 {
-    QFile interface(QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/interface/QXLaserColorSetting.ui"));
+    QFile interface(corvana::test::bundleFile(QStringLiteral("interface/QXLaserColorSetting.ui")));
     if (!interface.open(QIODevice::ReadOnly))
         throw std::runtime_error(interface.fileName().toStdString() + " cannot be read");
     return interface.readAll();

@@ -20,6 +20,7 @@
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "tests/support/Gestures.h"
+#include "tests/support/TestPaths.h"
 
 namespace corvana::test {
 
@@ -30,8 +31,8 @@ constexpr int kPatience = 20000; // milliseconds that printing may take on a bus
 CommandLine sampleDocument(const QStringList &options)
 {
     CommandLine line;
-    line.documents = {QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf")};
-    line.bundleRoots = {QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/..")};
+    line.documents = {corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"))};
+    line.bundleRoots = {corvana::test::bundleRoot()};
     line.options = options;
     return line;
 }
@@ -102,7 +103,7 @@ bool AlertAnswerer::eventFilter(QObject *watched, QEvent *event)
 DialogDriver::DialogDriver(const QString &printer, const QStringList &options)
 {
     CommandLine line = sampleDocument(options);
-    line.ppd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
+    line.ppd = corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer);
     line.output = m_folder.filePath(QStringLiteral("job.ps"));
     open(line);
 }

@@ -1,4 +1,5 @@
 #include "tests/e2e/PpdLines.h"
+#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
@@ -18,7 +19,7 @@ QRegularExpression lineOf(const char *pattern)
 
 PpdLines::PpdLines(const QString &printer, const QString &language)
 {
-    QFile file(QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer));
+    QFile file(corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer));
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("there is no PPD of " + printer.toStdString());
     const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');

@@ -1,4 +1,5 @@
 #include "tests/e2e/ProgramRunner.h"
+#include "tests/support/TestPaths.h"
 
 #include <csignal>
 #include <stdexcept>
@@ -30,7 +31,7 @@ ProgramRun::ProgramRun(const QProcessEnvironment &environment, const QStringList
                                                            : standardInput);
     m_process.start(QStringLiteral(CORVANA_TEST_PROGRAM),
                     QStringList{QStringLiteral("--no-dialog"), QStringLiteral("--bundle-root"),
-                                QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/..")} +
+                                corvana::test::bundleRoot()} +
                         arguments);
     if (!m_process.waitForStarted())
         throw std::runtime_error("the program cannot be started");

@@ -19,6 +19,7 @@
 #include "dialog/chooser/ElidedLabel.h"
 #include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/chooser/PrinterStatusLine.h"
+#include "tests/support/TestPaths.h"
 
 namespace corvana::test {
 
@@ -34,7 +35,7 @@ PrintRequest requestOf(const QueueDriver::Start &start)
     line.printer = start.printer;
     line.options = start.options;
     line.copies = start.copies;
-    line.bundleRoots = {QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/..")};
+    line.bundleRoots = {corvana::test::bundleRoot()};
     QString error;
     PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());
     if (!error.isEmpty())

@@ -1,4 +1,5 @@
 #include "tests/e2e/QueueScene.h"
+#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
@@ -38,7 +39,7 @@ QString UserFolders::write(const QString &name, const QByteArray &content) const
 
 QString UserFolders::longDocument(const QString &name, int size) const
 {
-    const QString page = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.ps");
+    const QString page = corvana::test::sourceFile(QStringLiteral("tests/data/page.ps"));
     const QByteArray comment = "% A long document.\n";
     QByteArray document = contentOf(page);
     document.insert(document.indexOf("gsave"), comment.repeated(size / comment.size()));
@@ -55,7 +56,7 @@ QByteArray contentOf(const QString &path)
 
 QString samplePpdPath(const QString &printer)
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
+    return corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer);
 }
 
 bool matches(const QString &text, const QString &expression)

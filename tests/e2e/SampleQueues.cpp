@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tests/e2e/ProgramRunner.h"
+#include "tests/support/TestPaths.h"
 
 namespace corvana::test {
 
@@ -24,7 +25,7 @@ QStringList SampleQueues::printers()
 
 QString SampleQueues::ppdOf(const QString &printer)
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/%1.ppd").arg(printer);
+    return corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer);
 }
 
 std::unique_ptr<DialogDriver> SampleQueues::open(const QString &printer, const QStringList &options)

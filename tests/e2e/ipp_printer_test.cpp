@@ -14,12 +14,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/pages.pdf");
-const QString kThreePages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
-const QString kText = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.txt");
-const QString kPicture = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.png");
-const QString kPhoto = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.jpg");
-const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
+const QString kPages = corvana::test::sourceFile(QStringLiteral("tests/data/pages.pdf"));
+const QString kThreePages =
+    corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
+const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
+const QString kPicture = corvana::test::sourceFile(QStringLiteral("tests/data/page.png"));
+const QString kPhoto = corvana::test::sourceFile(QStringLiteral("tests/data/page.jpg"));
+const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
 
 QByteArray contentOf(const QString &name)
 {
@@ -296,3 +297,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(IppPrinterTest)
 
 #include "ipp_printer_test.moc"
+#include "tests/support/TestPaths.h"

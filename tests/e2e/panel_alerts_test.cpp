@@ -29,7 +29,7 @@ private:
     void readTexts(const QString &table)
     {
         QFile file(
-            QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/bundle/strings/%1.ts").arg(table));
+            corvana::test::sourceFile(QStringLiteral("resources/bundle/strings/%1.ts")).arg(table));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QXmlStreamReader xml(&file);
         QString key;
@@ -62,7 +62,7 @@ private Q_SLOTS:
         const bool chinese = locale.startsWith(u"zh_CN"_s);
         m_language = japanese ? u"ja"_s : chinese ? u"zh_CN"_s : u"en"_s;
         readTexts(japanese ? u"Japanese"_s : chinese ? u"zh_CN"_s : u"English"_s);
-        installTranslations(*qApp, QStringLiteral(CORVANA_TEST_SHARE_DIR "/translations"));
+        installTranslations(*qApp, corvana::test::sharedFile(QStringLiteral("translations")));
     }
     // Nothing is silenced when a test begins.
     void init()
@@ -294,3 +294,4 @@ private Q_SLOTS:
 QTEST_MAIN(PanelAlertsTest)
 
 #include "panel_alerts_test.moc"
+#include "tests/support/TestPaths.h"

@@ -65,7 +65,7 @@ private Q_SLOTS:
         m_language = QString::fromLatin1(qgetenv("LC_ALL").left(5)).section(u'.', 0, 0);
         if (m_language == u"ja_JP"_s)
             m_language = u"ja"_s;
-        installTranslations(*qApp, QStringLiteral(CORVANA_TEST_SHARE_DIR "/translations"));
+        installTranslations(*qApp, corvana::test::sharedFile(QStringLiteral("translations")));
     }
 
     void everyChoiceReachesThePrinterAndTheSummary_data()
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTest::newRow("corvana-cl5") << 35;
         QTest::newRow("corvana-mf4") << 20;
         QTest::newRow("corvana-ml3") << 10;
-        const QStringList files = QDir(QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd"))
+        const QStringList files = QDir(corvana::test::sourceFile(QStringLiteral("resources/ppd")))
                                       .entryList({u"*.ppd"_s}, QDir::Files);
         QCOMPARE(files.size(), 6);
     }
@@ -125,3 +125,4 @@ private Q_SLOTS:
 QTEST_MAIN(PanelChoicesTest)
 
 #include "panel_choices_test.moc"
+#include "tests/support/TestPaths.h"

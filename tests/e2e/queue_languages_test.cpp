@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
-const QString kText = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.txt");
+const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
+const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
 
 /// Something that a run without a window has to say, whatever the language.
 struct Occasion
@@ -144,3 +144,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(QueueLanguagesTest)
 
 #include "queue_languages_test.moc"
+#include "tests/support/TestPaths.h"

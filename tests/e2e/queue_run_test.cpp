@@ -9,10 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
-const QString kThreePages = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
-const QString kPicture = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.png");
-const QString kText = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.txt");
+const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
+const QString kThreePages =
+    corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
+const QString kPicture = corvana::test::sourceFile(QStringLiteral("tests/data/page.png"));
+const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
 
 constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
 
@@ -295,3 +296,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(QueueRunTest)
 
 #include "queue_run_test.moc"
+#include "tests/support/TestPaths.h"

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kSample = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
+const QString kSample = corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
 
 /// Without the lines that are different in every job: its date and its number.
 QByteArray comparable(const QByteArray &data)
@@ -111,3 +111,4 @@ private Q_SLOTS:
 QTEST_MAIN(QueueStreamsTest)
 
 #include "queue_streams_test.moc"
+#include "tests/support/TestPaths.h"

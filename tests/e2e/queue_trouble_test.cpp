@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
-const QString kText = QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.txt");
+const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
+const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
 
 constexpr int kInterrupted = 130; // the exit status that shells give to SIGINT
 constexpr int kPatience = 20000;  // milliseconds that a queue may take on a busy machine
@@ -344,3 +344,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(QueueTroubleTest)
 
 #include "queue_trouble_test.moc"
+#include "tests/support/TestPaths.h"

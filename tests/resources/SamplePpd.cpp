@@ -1,4 +1,5 @@
 #include "tests/resources/SamplePpd.h"
+#include "tests/support/TestPaths.h"
 
 #include <algorithm>
 #include <span>
@@ -84,7 +85,7 @@ QList<const ppd_option_t *> SamplePpd::options() const
 
 QString samplePpdFolder()
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd");
+    return corvana::test::sourceFile(QStringLiteral("resources/ppd"));
 }
 
 QStringList samplePrinterNames()

@@ -35,7 +35,7 @@ QSet<QString> printersIn(const QString &cell)
 QList<Row> readTable()
 {
     QList<Row> rows;
-    QFile file(QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/resources/conditions.tsv"));
+    QFile file(corvana::test::sourceFile(QStringLiteral("tests/resources/conditions.tsv")));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return rows;
     file.readLine(); // the headings
@@ -161,3 +161,4 @@ private Q_SLOTS:
 QTEST_APPLESS_MAIN(ConditionsTest)
 
 #include "conditions_test.moc"
+#include "tests/support/TestPaths.h"

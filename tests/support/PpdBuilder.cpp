@@ -1,4 +1,5 @@
 #include "tests/support/PpdBuilder.h"
+#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
@@ -124,7 +125,7 @@ QByteArray PpdBuilder::text() const
 
 QByteArray samplePpd(int modelNumber)
 {
-    QFile file(QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd"));
+    QFile file(corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd")));
     const QByteArray model = "*cupsModelNumber: 5\n";
     QByteArray text;
     if (file.open(QIODevice::ReadOnly))

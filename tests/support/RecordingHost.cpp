@@ -1,4 +1,5 @@
 #include "tests/support/RecordingHost.h"
+#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
@@ -69,7 +70,7 @@ RecordingHost::~RecordingHost()
 std::shared_ptr<RecordingHost> RecordingHost::forSamplePrinter()
 {
     return std::make_shared<RecordingHost>(
-        QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd"));
+        corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd")));
 }
 
 std::shared_ptr<RecordingHost> RecordingHost::forPpd(const QByteArray &text)

@@ -1,4 +1,5 @@
 #include "tests/support/TestBundle.h"
+#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
@@ -32,14 +33,14 @@ QJsonObject informationOf(const QJsonObject &further)
 TestBundle TestBundle::built()
 {
     TestBundle bundle{std::unique_ptr<QTemporaryDir>()};
-    bundle.open(QStringLiteral(CORVANA_TEST_BUNDLE_DIR));
+    bundle.open(corvana::test::bundleFile());
     return bundle;
 }
 
 TestBundle TestBundle::copied()
 {
     TestBundle bundle(std::make_unique<QTemporaryDir>());
-    const QDir source(QStringLiteral(CORVANA_TEST_BUNDLE_DIR));
+    const QDir source(corvana::test::bundleFile());
     const QDir target(bundle.m_folder->path());
     for (const char *folder : {"interface", "strings", "pictures"}) {
         target.mkdir(QString::fromLatin1(folder));
@@ -61,7 +62,7 @@ TestBundle::TestBundle(Information information, const QJsonObject &furtherInform
 {
     for (const char *folder : {"interface", "strings", "pictures"})
         QDir(m_folder->path()).mkdir(QString::fromLatin1(folder));
-    QFile::copy(QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/strings/English.qm"),
+    QFile::copy(corvana::test::bundleFile(QStringLiteral("strings/English.qm")),
                 m_folder->filePath(QStringLiteral("strings/English.qm")));
     if (information == Information::Present) {
         write(QStringLiteral("info.json"),

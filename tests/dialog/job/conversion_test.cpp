@@ -14,7 +14,7 @@ namespace {
 
 QString source(const QString &name)
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/") + name;
+    return corvana::test::sourceFile(name);
 }
 
 QByteArray contentOf(const QString &path)
@@ -98,3 +98,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(ConversionTest)
 
 #include "conversion_test.moc"
+#include "tests/support/TestPaths.h"

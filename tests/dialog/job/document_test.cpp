@@ -17,12 +17,12 @@ namespace {
 
 QString dataFile(const QString &name)
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/") + name;
+    return corvana::test::sourceFile(QStringLiteral("tests/data/")) + name;
 }
 
 QString sampleDocument()
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf");
+    return corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
 }
 
 QByteArray contentOf(const QString &path)
@@ -204,3 +204,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(DocumentTest)
 
 #include "document_test.moc"
+#include "tests/support/TestPaths.h"

@@ -376,7 +376,7 @@ private Q_SLOTS:
                                       ppdOfCapabilities(capabilitiesOf(attributes.ipp())));
         const QString output = folder.filePath(u"output"_s);
         const Document document{
-            QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/sample/welcome.pdf"),
+            corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf")),
             u"application/pdf"_s, u"Job"_s};
         FileQueue queue;
         connect(&queue, &FileQueue::finished, this, [&](const QString &told) { problem = told; });
@@ -391,3 +391,4 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(CapabilityPpdTest)
 
 #include "capability_ppd_test.moc"
+#include "tests/support/TestPaths.h"

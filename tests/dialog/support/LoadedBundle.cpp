@@ -5,22 +5,23 @@
 #include <QFileInfo>
 
 #include "platform/pde/PDEBundleLoader.h"
+#include "tests/support/TestPaths.h"
 
 namespace corvana::test {
 
 namespace {
-constexpr char kBundleFolder[] = CORVANA_TEST_BUNDLE_DIR;
+const QString kBundleFolder = corvana::test::bundleFile();
 }
 
 QStringList builtBundleRoots()
 {
-    return {QFileInfo(QString::fromUtf8(kBundleFolder)).path()};
+    return {QFileInfo(kBundleFolder).path()};
 }
 
 PDEPlugIn &loadedPlugIn()
 {
-    const LoadedPlugIn loaded = loadPlugInBundle(
-        QFileInfo(QString::fromUtf8(kBundleFolder)).fileName(), builtBundleRoots());
+    const LoadedPlugIn loaded =
+        loadPlugInBundle(QFileInfo(kBundleFolder).fileName(), builtBundleRoots());
     if (!loaded.plugIn)
         throw std::runtime_error(loaded.problem.toStdString());
     return *loaded.plugIn;

@@ -1,4 +1,5 @@
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
@@ -9,7 +10,7 @@ namespace corvana::test {
 
 QString samplePpdPath()
 {
-    return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
+    return corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
 }
 
 namespace {

@@ -193,7 +193,7 @@ void BundleInfoTest::theLocalizationsAreThoseDeclared()
 void BundleInfoTest::theShippedDictionaryIsComplete()
 {
     QString error;
-    const auto bundle = Bundle::open(QStringLiteral(CORVANA_TEST_BUNDLE_DIR), &error);
+    const auto bundle = Bundle::open(corvana::test::bundleFile(), &error);
     QVERIFY2(bundle && bundle->infoDictionary(), qPrintable(error));
     for (const QLatin1StringView key : {kCFBundleNameKey, kCFBundleIdentifierKey,
                                         kCFBundleExecutableKey, kCFBundleHelpBookNameKey})
@@ -209,3 +209,4 @@ void BundleInfoTest::theShippedDictionaryIsComplete()
 
 QTEST_GUILESS_MAIN(BundleInfoTest)
 #include "bundle_info_test.moc"
+#include "tests/support/TestPaths.h"

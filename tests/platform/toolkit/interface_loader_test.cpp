@@ -405,7 +405,7 @@ void InterfaceLoaderTest::theShippedInterfacesLoad_data()
 void InterfaceLoaderTest::theShippedInterfacesLoad()
 {
     QFETCH(QString, name);
-    const QString file = QStringLiteral(CORVANA_TEST_BUNDLE_DIR "/interface/%1.ui").arg(name);
+    const QString file = corvana::test::bundleFile(QStringLiteral("interface/%1.ui")).arg(name);
     // Every action that the file names; the panels check that they offer them.
     QFile source(file);
     QVERIFY(source.open(QIODevice::ReadOnly));
@@ -425,3 +425,4 @@ void InterfaceLoaderTest::theShippedInterfacesLoad()
 
 QTEST_MAIN(InterfaceLoaderTest)
 #include "interface_loader_test.moc"
+#include "tests/support/TestPaths.h"

@@ -13,7 +13,7 @@ namespace {
 
 QByteArray pages()
 {
-    QFile file(QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/pages.pdf"));
+    QFile file(corvana::test::sourceFile(QStringLiteral("tests/data/pages.pdf")));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -106,7 +106,8 @@ private Q_SLOTS:
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                      "application/pdf");
         const Ipp answer(cupsDoFileRequest(http.get(), request, "/printers/everywhere",
-                                           CORVANA_TEST_SOURCE_DIR "/tests/data/pages.pdf"),
+                                           qUtf8Printable(corvana::test::sourceFile(
+                                               QStringLiteral("tests/data/pages.pdf")))),
                          ippDelete);
         QCOMPARE(ippGetStatusCode(answer.get()), IPP_STATUS_OK);
         QTRY_COMPARE_WITH_TIMEOUT(printer.documents().size(), 1, 10000);
@@ -125,3 +126,4 @@ private Q_SLOTS:
 
 QTEST_GUILESS_MAIN(IppEvePrinterTest)
 #include "ipp_eve_printer_test.moc"
+#include "tests/support/TestPaths.h"

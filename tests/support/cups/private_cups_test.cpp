@@ -22,7 +22,7 @@ const QString queue = QStringLiteral("office");
 
 QByteArray sample()
 {
-    QFile file(QStringLiteral(CORVANA_TEST_SOURCE_DIR "/tests/data/page.txt"));
+    QFile file(corvana::test::sourceFile(QStringLiteral("tests/data/page.txt")));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         const QString model = client.queueValue(queue, "printer-make-and-model");
         QVERIFY(!model.isEmpty());
         m_cups->setPpd(queue,
-                       QStringLiteral(CORVANA_TEST_SOURCE_DIR "/resources/ppd/corvana-ml3.ppd"));
+                       corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-ml3.ppd")));
         QVERIFY(client.queueValue(queue, "printer-make-and-model") != model);
         for (const QString &name : {other, queue}) {
             m_cups->setDefault(name);
@@ -390,3 +390,4 @@ int main(int argc, char **argv)
 }
 
 #include "private_cups_test.moc"
+#include "tests/support/TestPaths.h"
