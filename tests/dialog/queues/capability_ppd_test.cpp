@@ -17,6 +17,7 @@
 #include "dialog/session/Summary.h"
 #include "tests/dialog/queues/PrinterProfiles.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -391,4 +392,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(CapabilityPpdTest)
 
 #include "capability_ppd_test.moc"
-#include "tests/support/TestPaths.h"
