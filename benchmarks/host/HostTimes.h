@@ -6,7 +6,7 @@
 
 #include <QString>
 
-#include "dialog/app/PrintRequest.h"
+#include "dialog/app/RequestFromCommandLine.h"
 #include "tests/support/cups/PrivateCups.h"
 
 // What host_benchmark measures, a file for each kind of it, and what these share.

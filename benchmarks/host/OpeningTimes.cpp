@@ -11,8 +11,8 @@
 #include <QPushButton>
 
 #include "dialog/app/LastPrinter.h"
-#include "dialog/app/PrintDialog.h"
-#include "dialog/pages/GeneralPage.h"
+#include "dialog/window/PrintWindow.h"
+#include "dialog/window/pages/GeneralPage.h"
 #include "dialog/queues/PpdCache.h"
 #include "dialog/server/IppMessage.h"
 
@@ -43,7 +43,7 @@ enum class Wanted {
     Panels,      ///< both panels of the queue
 };
 
-bool isUsable(const PrintDialog &dialog, Wanted wanted)
+bool isUsable(const PrintWindow &dialog, Wanted wanted)
 {
     const auto *print = dialog.findChild<QPushButton *>(QStringLiteral("print"));
     if (!print->isEnabled() || !dialog.findChild<GeneralPage *>())
@@ -58,7 +58,7 @@ std::optional<double> openingTime(const PrintRequest &request, Wanted wanted)
     std::optional<double> time;
     {
         const Clock::time_point start = Clock::now();
-        PrintDialog dialog(request);
+        PrintWindow dialog(request);
         const Painted painted(&dialog);
         dialog.show();
         if (waitFor([&] { return painted && isUsable(dialog, wanted); }))

@@ -11,8 +11,8 @@
 #include <QFile>
 #include <QTabWidget>
 
-#include "dialog/app/PrintDialog.h"
-#include "dialog/pages/OptionsPage.h"
+#include "dialog/window/PrintWindow.h"
+#include "dialog/window/pages/OptionsPage.h"
 #include "platform/printcore/Ppd.h"
 #include "tests/support/PpdBuilder.h"
 
@@ -78,7 +78,7 @@ void measureOptions(const QString &folder, const QString &absent)
 
     PrintRequest request = requestFor(absent, folder + QStringLiteral("/job.ps"));
     request.printers = {Printer{QStringLiteral("large"), QStringLiteral("large"), path}};
-    const auto dialog = std::make_shared<PrintDialog>(request);
+    const auto dialog = std::make_shared<PrintWindow>(request);
     dialog->show();
     auto *options = static_cast<OptionsPage *>(nullptr);
     if (!waitFor([&] { return (options = dialog->findChild<OptionsPage *>()) != nullptr; }))

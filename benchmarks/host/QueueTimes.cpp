@@ -14,9 +14,9 @@
 #include <QFile>
 #include <QListView>
 
-#include "dialog/chooser/PrinterModel.h"
-#include "dialog/chooser/PrinterPopup.h"
-#include "dialog/chooser/PrinterSearch.h"
+#include "dialog/window/chooser/PrinterModel.h"
+#include "dialog/window/chooser/PrinterPopup.h"
+#include "dialog/window/chooser/PrinterSearch.h"
 #include "dialog/queues/QueueList.h"
 #include "dialog/server/IppMessage.h"
 

@@ -28,12 +28,12 @@
 #include <QTimer>
 #include <QWidget>
 #ifdef QT_PRINTSUPPORT_LIB
-#include <QPrintDialog>
+#include <QPrintWindow>
 #include <QPrinter>
 #endif
 
 #include "benchmarks/support/BestTimes.h"
-#include "dialog/app/PrintDialog.h"
+#include "dialog/window/PrintWindow.h"
 
 using namespace corvana;
 
@@ -166,9 +166,9 @@ int measure(const char *platform, bool check)
 
     measureOpening(kEmpty, [] { return std::make_unique<QWidget>(); });
 #ifdef QT_PRINTSUPPORT_LIB
-    measureOpening(kStock, [] { return std::make_unique<QPrintDialog>(); });
+    measureOpening(kStock, [] { return std::make_unique<QPrintWindow>(); });
 #endif
-    measureOpening(kDialog, [&request] { return std::make_unique<PrintDialog>(request); });
+    measureOpening(kDialog, [&request] { return std::make_unique<PrintWindow>(request); });
     benchmarks::BestTimes times(benchmarks::BestTimes::Clock::Wall);
     benchmark::RunSpecifiedBenchmarks(&times);
     return judge(times) || !check ? 0 : 1;

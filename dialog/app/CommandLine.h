@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "dialog/app/AlertPresenters.h"
+#include "dialog/task/AlertPolicy.h"
 
 namespace corvana {
 

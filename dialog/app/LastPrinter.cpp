@@ -1,6 +1,6 @@
 #include "dialog/app/LastPrinter.h"
 
-#include "dialog/app/WindowSize.h"
+#include "dialog/window/WindowSize.h"
 #include "platform/foundation/UserDefaults.h"
 
 namespace corvana {

@@ -34,6 +34,17 @@ QString deviceOf(const Printer &printer)
     return (url.host() + u':' + QString::number(url.port(0)) + url.path()).toLower();
 }
 
+// Whole texts, because not every language has a blank between two sentences.
+QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &server)
+{
+    const bool away = problem && problem.kind != ServerProblem::Kind::NotFound;
+    return away ? PrinterSource::tr("There is no default printer. %1 Name a printer with -d, or a "
+                                    "PPD with --ppd FILE, or try the sample printers with --demo.")
+                      .arg(problem.text(server))
+                : PrinterSource::tr("There is no default printer. Name a printer with -d, or a PPD "
+                                    "with --ppd FILE, or try the sample printers with --demo.");
+}
+
 bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
 {
     QTemporaryFile file;
@@ -119,7 +130,44 @@ const ServerContext &PrinterSource::serverOf(const Printer &printer) const
     return printer.origin == PrinterOrigin::Device ? m_deviceServer : m_queues.context();
 }
 
-void PrinterSource::open(const Printer &printer)
+void PrinterSource::openWanted()
+{
+    const Printer *file = m_wanted.isEmpty() ? nullptr : find(m_files, m_wanted);
+    if (m_wanted.isEmpty() && !m_files.isEmpty())
+        file = &m_files.constFirst();
+    if (file)
+        return open(Printer(*file));
+    const QString name = m_wanted.isEmpty() ? m_userQueues.defaultName : m_wanted;
+    if (!name.isEmpty())
+        return openFresh(name);
+    ServerContext server = m_queues.context();
+    server.mayAsk = true;
+    m_inspection = ServerWork(server, [this](ServerWorker &worker) {
+        const QString queue = defaultQueue(worker.connection());
+        const ServerProblem problem = worker.connection().problem();
+        worker.post([this, queue, problem] {
+            if (!queue.isEmpty())
+                return openFresh(queue);
+            const QString text = noDefaultPrinter(problem, m_queues.context().address);
+            Q_EMIT failed(text, text);
+        });
+    });
+}
+
+// What is in the cache only spares the way of options that have not changed.
+void PrinterSource::openFresh(const QString &name)
+{
+    reset(queueNamed(name, &m_deviceServer.address));
+    if (const auto cached = m_cache.find(m_queues.context().address.argument(), name)) {
+        m_open.ppdPath = cached->printer.ppdPath;
+        m_openModified = cached->lastModified;
+        m_openHash = cached->hash;
+    }
+    inspect(true);
+}
+
+// Forgets what is known of the printer that was open.
+void PrinterSource::reset(const Printer &printer)
 {
     m_inspection = {};
     m_open = printer;
@@ -131,7 +179,12 @@ void PrinterSource::open(const Printer &printer)
     m_configured = 0;
     m_comparison = {};
     m_lacksPpd = false;
-    if (printer.origin == PrinterOrigin::PpdFile) {
+}
+
+void PrinterSource::open(const Printer &printer)
+{
+    reset(printer);
+    if (printer.origin == PrinterOrigin::File) {
         m_openIsReady = true;
         const bool isFilePrinter = printer.ppdPath == m_filePrinter.printer.ppdPath;
         Q_EMIT ready(isFilePrinter ? m_filePrinter : ReadyPrinter{printer});
@@ -154,7 +207,7 @@ void PrinterSource::open(const Printer &printer)
 
 void PrinterSource::retry()
 {
-    if (m_open.origin != PrinterOrigin::PpdFile)
+    if (m_open.origin != PrinterOrigin::File)
         inspect(true);
 }
 

@@ -42,6 +42,10 @@ public:
     /// Opens a printer: ready() follows, at once where nobody has to be asked, and once more when
     /// the server says otherwise; or failed().
     void open(const Printer &printer);
+    /// Opens the printer for somebody who cannot choose another one: the one that was named, the
+    /// user's default, else the server's. ready() follows once, with what the server says of it
+    /// now, or failed(). A password may be asked for.
+    void openWanted();
     /// Asks again for the printer that is open; a password may be asked for.
     void retry();
     /// The user has seen that there is something to do about the list.
@@ -69,6 +73,8 @@ Q_SIGNALS:
 
 private:
     void inspect(bool mayAsk);
+    void openFresh(const QString &name);
+    void reset(const Printer &printer);
     bool isOpenQueue(const Printer &printer) const;
     void lookForBetterQueue();
     void compareWith(const QueueDetails &details);

@@ -89,10 +89,12 @@ ReadyPrinter filePrinter(QString *error)
 
 std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
                                                 const QStringList &bundleRoots,
-                                                AlertPresenter &presenter, QString *error)
+                                                AlertPresenter &presenter, QString *error,
+                                                const std::function<void(PpdSession &)> &restore)
 {
-    auto opened = openPrinter(ready.printer, bundleRoots, presenter, error);
+    auto opened = openPrinter(ready.printer, bundleRoots, presenter, error, restore);
     if (opened) {
+        opened->ppdHash = ready.ppdHash;
         opened->capabilities = ready.capabilities;
         opened->writtenPpd = ready.writtenPpd;
         opened->ppdLastModified = ready.ppdLastModified;
@@ -121,37 +123,6 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
         }
     }
     return job;
-}
-
-FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
-{
-    QList<JobOption> known;
-    QStringList unknown;
-    for (const JobOption &option : options) {
-        if (isKnownOption(option.name, *printer.session))
-            known += option;
-        else
-            unknown += option.name;
-    }
-    FittedOptions fitted;
-    // All of their names in one line: whoever has set them for another program knows them.
-    if (!unknown.isEmpty())
-        fitted.problems += Texts::tr("This printer has no option of the name %1.")
-                               .arg(unknown.join(QStringLiteral(", ")));
-    const auto apply = [&](const QList<JobOption> &some) {
-        const OptionOutcome outcome =
-            applyOptions(some, *printer.session, printer.jobValues, *printer.panels);
-        fitted.attributes += outcome.attributes;
-        if (outcome.copies)
-            fitted.copies = outcome.copies;
-        return outcome.problems;
-    };
-    if (known.isEmpty() || apply(known).isEmpty())
-        return fitted;
-    // Together they cannot be taken, so each for itself, as far as they go.
-    for (const JobOption &option : std::as_const(known))
-        fitted.problems += apply({option});
-    return fitted;
 }
 
 } // namespace corvana

@@ -4,13 +4,13 @@
 
 #include <QTemporaryFile>
 
-#include "dialog/app/OpenedPrinter.h"
-#include "dialog/app/PrintRequest.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/queues/PpdCache.h"
 #include "dialog/queues/PrinterCapabilities.h"
 #include "dialog/queues/QueueRequests.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PrintRequest.h"
 
 namespace corvana {
 
@@ -40,17 +40,11 @@ ReadyPrinter filePrinter(QString *error);
 /// openPrinter(), for a printer that a server has told about.
 std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
                                                 const QStringList &bundleRoots,
-                                                AlertPresenter &presenter, QString *error);
+                                                AlertPresenter &presenter, QString *error,
+                                                const std::function<void(PpdSession &)> &restore);
 
 /// What is handed to a server: the ticket in the words of the printer.
 ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,
                                   const PrintRequest &request, const JobTicket &ticket);
-
-/// What became of options of former days. `problems` says each one that was not taken.
-using FittedOptions = OptionOutcome;
-
-/// Takes what the user has set for a queue with lpoptions, or had set before the printer was opened
-/// anew: as much as the printer still has.
-FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer);
 
 } // namespace corvana

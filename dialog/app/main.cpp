@@ -7,11 +7,13 @@
 
 #include "dialog/app/CommandLine.h"
 #include "dialog/app/Language.h"
-#include "dialog/app/Placeholders.h"
-#include "dialog/app/PrintDialog.h"
-#include "dialog/app/TerminationSignals.h"
+#include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/app/Translations.h"
-#include "dialog/app/UnattendedRun.h"
+#include "dialog/terminal/ListPrinters.h"
+#include "dialog/terminal/TerminationSignals.h"
+#include "dialog/terminal/UnattendedRun.h"
+#include "dialog/window/Placeholders.h"
+#include "dialog/window/PrintWindow.h"
 
 using namespace corvana;
 
@@ -76,8 +78,8 @@ bool hasWindows()
 int runDialog(const PrintRequest &request)
 {
     const TerminationSignals termination;
-    PrintDialog dialog(request);
-    QObject::connect(&termination, &TerminationSignals::received, &dialog, &PrintDialog::interrupt);
+    PrintWindow dialog(request);
+    QObject::connect(&termination, &TerminationSignals::received, &dialog, &PrintWindow::interrupt);
     dialog.show();
     dialog.exec();
     if (dialog.report().isEmpty())

@@ -7,7 +7,7 @@ namespace corvana {
 
 /// Where a printer comes from, and so how it is printed to.
 enum class PrinterOrigin {
-    PpdFile, ///< a PPD file of the user's or a sample: prints to a file
+    File,    ///< a PPD file of the user's or a sample: prints to a file
     Queue,   ///< a queue of a print server
     Device,  ///< an IPP printer that is spoken to directly
 };
@@ -23,7 +23,7 @@ struct Printer
     QString ppdPath;     ///< empty for a queue whose PPD is not here, and one that has none
     int modelNumber = 0; ///< as the PPD states it; newer models have higher ones
 
-    PrinterOrigin origin = PrinterOrigin::PpdFile;
+    PrinterOrigin origin = PrinterOrigin::File;
     QString location{};     ///< where it stands, in the administrator's words
     QString makeAndModel{}; ///< as the server names it
     PrinterState state = PrinterState::Unknown;

@@ -42,7 +42,7 @@ PrinterId idOf(const Printer &printer)
         return {printer.origin, {}, foldedQueueName(printer.name)};
     case PrinterOrigin::Device:
         return {printer.origin, printer.uri, {}};
-    case PrinterOrigin::PpdFile:
+    case PrinterOrigin::File:
         break;
     }
     return {printer.origin, printer.ppdPath, printer.name};

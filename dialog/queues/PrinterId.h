@@ -13,7 +13,7 @@ namespace corvana {
 /// Queues of one server only are told apart; a program speaks to one.
 struct PrinterId
 {
-    PrinterOrigin origin = PrinterOrigin::PpdFile;
+    PrinterOrigin origin = PrinterOrigin::File;
     QString place; ///< the URI of a device, the path of a PPD file; empty for a queue
     QString name;  ///< of a queue: folded; empty for a device
 

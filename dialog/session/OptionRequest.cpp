@@ -254,6 +254,12 @@ private:
     const PDEJobValues *m_jobValues;
 };
 
+bool isNamed(const QList<OptionChoice> &choices, const QString &keyword)
+{
+    return std::any_of(choices.cbegin(), choices.cend(),
+                       [&](const OptionChoice &choice) { return choice.keyword == keyword; });
+}
+
 // What the panels made of that which was asked for, where it is something else.
 QStringList differences(const QList<JobOption> &expected, const PpdSession &session,
                         const PDEJobValues *jobValues)
@@ -392,8 +398,11 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     panels.deliverPending();
     panels.restoreAll();
 
-    for (const Refusal &refusal : session.takeRefusals())
-        outcome.problems += conflictMessage(refusal, session.ppd());
+    for (const Refusal &refusal : session.takeRefusals()) {
+        // What a panel proposes for the new paper, beside a choice that was named, nobody wishes.
+        if (!isNamed(request.choices, refusal.proposed.keyword))
+            outcome.problems += conflictMessage(refusal, session.ppd());
+    }
     outcome.problems += jobProblems(session, jobValues);
     if (outcome.ok())
         outcome.problems = differences(expected, session, jobValues);

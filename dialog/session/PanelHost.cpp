@@ -164,6 +164,16 @@ bool PanelHost::leaveVisible()
     return true;
 }
 
+bool PanelHost::pick(const QString &keyword, const QString &choice)
+{
+    for (const auto &panel : std::as_const(m_panels)) {
+        const Call call(*this, *panel);
+        if (panel->chooseAsUser(keyword, choice))
+            return true;
+    }
+    return false;
+}
+
 void PanelHost::restoreAll()
 {
     m_pending.clear();

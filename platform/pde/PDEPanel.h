@@ -54,6 +54,14 @@ public:
     /// An option took another choice elsewhere in the dialog.
     virtual void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,
                                                       const QString &choice) = 0;
+    /// The user takes an offer of the host to choose this. A panel that has a control for the
+    /// option acts as if the user had picked it there, with all rules and instructions, and answers
+    /// true; any other panel answers false.
+    virtual bool chooseAsUser([[maybe_unused]] const QString &keyword,
+                              [[maybe_unused]] const QString &choice)
+    {
+        return false;
+    }
 
     /// The user pressed Print; false holds the job back. May run modal alerts.
     virtual bool shouldPrint() = 0;

@@ -22,7 +22,7 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "dialog/app/PrintDialog.h"
+#include "dialog/window/PrintWindow.h"
 #include "dialog/app/Translations.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/TestPaths.h"
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         QFETCH(int, page);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-        PrintDialog dialog(request({}));
+        PrintWindow dialog(request({}));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
@@ -311,7 +311,7 @@ private Q_SLOTS:
             {QStringLiteral("office"), QStringLiteral("Office"),
              writeFile(folder.filePath(QStringLiteral("office.ppd")), officePrinter().text()), 1}};
         office.wantedPrinter.clear();
-        PrintDialog dialog(office);
+        PrintWindow dialog(office);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         dialog.activateWindow();
@@ -376,7 +376,7 @@ private Q_SLOTS:
         QFETCH(QString, printer);
         QFETCH(QString, page);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-        PrintDialog dialog(request({}, printer));
+        PrintWindow dialog(request({}, printer));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
@@ -420,7 +420,7 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         QFETCH(QString, printer);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-        PrintDialog dialog(request({}, printer));
+        PrintWindow dialog(request({}, printer));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
@@ -484,7 +484,7 @@ private Q_SLOTS:
         QTemporaryDir folder;
         PrintRequest wanted = request(whenPrinting ? options : QStringList());
         wanted.output = folder.filePath(QStringLiteral("job.ps"));
-        PrintDialog dialog(wanted);
+        PrintWindow dialog(wanted);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
@@ -507,7 +507,7 @@ private Q_SLOTS:
     void aMessageFitsIntoTheDialog()
     {
         QApplication::setPalette(QApplication::style()->standardPalette());
-        PrintDialog dialog(request({QStringLiteral("QXMediaType=Glossy")}));
+        PrintWindow dialog(request({QStringLiteral("QXMediaType=Glossy")}));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         QTest::qWait(50);
@@ -523,7 +523,7 @@ private Q_SLOTS:
 
     void aNarrowedDialogScrollsInsteadOfClipping()
     {
-        PrintDialog dialog(request({}));
+        PrintWindow dialog(request({}));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));

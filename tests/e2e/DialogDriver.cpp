@@ -118,7 +118,7 @@ DialogDriver::DialogDriver(const QueueAt &queue, const QStringList &options)
 
 void DialogDriver::open(const CommandLine &line)
 {
-    m_dialog = std::make_unique<PrintDialog>(request(line));
+    m_dialog = std::make_unique<PrintWindow>(request(line));
     m_dialog->show();
     const auto panelIsUp = [this] {
         auto *pages = m_dialog->findChild<QTabWidget *>(QStringLiteral("pages"));

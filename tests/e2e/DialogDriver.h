@@ -15,7 +15,7 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
-#include "dialog/app/PrintDialog.h"
+#include "dialog/window/PrintWindow.h"
 
 class QMessageBox;
 
@@ -69,7 +69,7 @@ public:
     explicit DialogDriver(const QueueAt &queue, const QStringList &options = {});
     ~DialogDriver();
 
-    PrintDialog &dialog() { return *m_dialog; }
+    PrintWindow &dialog() { return *m_dialog; }
     AlertAnswerer &alerts() { return m_alerts; }
     /// The view of the Print Setting panel.
     QWidget *panel() const { return m_panel; }
@@ -113,7 +113,7 @@ private:
 
     QTemporaryDir m_folder;
     AlertAnswerer m_alerts;
-    std::unique_ptr<PrintDialog> m_dialog;
+    std::unique_ptr<PrintWindow> m_dialog;
     QPointer<QWidget> m_panel;
 };
 

@@ -15,10 +15,10 @@
 #include <QTableWidget>
 #include <QTest>
 
-#include "dialog/app/CredentialsDialog.h"
-#include "dialog/chooser/ElidedLabel.h"
-#include "dialog/chooser/PrinterComboBox.h"
-#include "dialog/chooser/PrinterStatusLine.h"
+#include "dialog/window/CredentialsDialog.h"
+#include "dialog/window/chooser/ElidedLabel.h"
+#include "dialog/window/chooser/PrinterComboBox.h"
+#include "dialog/window/chooser/PrinterStatusLine.h"
 #include "tests/support/TestPaths.h"
 
 namespace corvana::test {
@@ -109,7 +109,7 @@ bool LoginAnswerer::eventFilter(QObject *watched, QEvent *event)
 QueueDriver::QueueDriver(const Start &start)
 {
     m_heart.start();
-    m_dialog = std::make_unique<PrintDialog>(requestOf(start));
+    m_dialog = std::make_unique<PrintWindow>(requestOf(start));
     m_dialog->show();
     if (!QTest::qWaitForWindowExposed(m_dialog.get()))
         throw std::runtime_error("the window does not come up");

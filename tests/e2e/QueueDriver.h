@@ -9,7 +9,7 @@
 #include <QStringList>
 #include <QTimer>
 
-#include "dialog/app/PrintDialog.h"
+#include "dialog/window/PrintWindow.h"
 #include "dialog/server/CredentialStore.h"
 #include "tests/e2e/DialogDriver.h"
 
@@ -79,7 +79,7 @@ public:
     explicit QueueDriver(const Start &start);
     ~QueueDriver();
 
-    PrintDialog &dialog() { return *m_dialog; }
+    PrintWindow &dialog() { return *m_dialog; }
     Heartbeat &heart() { return m_heart; }
     LoginAnswerer &logins() { return m_logins; }
     AlertAnswerer &alerts() { return m_alerts; }
@@ -124,7 +124,7 @@ private:
     AlertAnswerer m_alerts;
     LoginAnswerer m_logins;
     Heartbeat m_heart;
-    std::unique_ptr<PrintDialog> m_dialog;
+    std::unique_ptr<PrintWindow> m_dialog;
 };
 
 } // namespace corvana::test

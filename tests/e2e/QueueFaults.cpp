@@ -126,7 +126,7 @@ void FaultPlayer::tryTwice(QueueScene &scene, const QueueFault &fault)
 void FaultPlayer::verifyEnd(QueueScene &scene, const QString &says, bool closes,
                             const QueueFault::States &jobs, int documents)
 {
-    PrintDialog &dialog = scene.window->dialog();
+    PrintWindow &dialog = scene.window->dialog();
     const QString said = dialog.isVisible() ? scene.window->message() : dialog.report();
     QVERIFY2(matches(said, says), qPrintable(said));
     QCOMPARE(dialog.isVisible(), !closes);

@@ -6,7 +6,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "dialog/chooser/PrinterComboBox.h"
+#include "dialog/window/chooser/PrinterComboBox.h"
 #include "tests/e2e/QueueScene.h"
 
 using namespace corvana;

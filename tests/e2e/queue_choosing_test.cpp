@@ -8,8 +8,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "dialog/app/SilencedAlerts.h"
-#include "dialog/chooser/PrinterComboBox.h"
+#include "dialog/window/SilencedAlerts.h"
+#include "dialog/window/chooser/PrinterComboBox.h"
 #include "platform/foundation/UserDefaults.h"
 #include "tests/e2e/QueueScene.h"
 #include "tests/support/Gestures.h"

@@ -2,8 +2,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/app/OpenedPrinter.h"
-#include "dialog/app/PrintRequest.h"
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/app/RequestFromCommandLine.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"

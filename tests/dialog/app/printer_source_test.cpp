@@ -84,7 +84,7 @@ private Q_SLOTS:
         PrinterSource source(PrintRequest(), m_server);
         const Printer first = source.first();
         QVERIFY(source.firstIsProvisional());
-        QCOMPARE(first.origin, PrinterOrigin::PpdFile);
+        QCOMPARE(first.origin, PrinterOrigin::File);
         QVERIFY(QFile::exists(first.ppdPath));
         QVERIFY(!source.expected());
         QCOMPARE(source.printers(), QList<Printer>{first});
@@ -371,7 +371,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_gate->openConnections(), 1);
         source.open(source.printers().constLast()); // the one that prints into a file
         QCOMPARE(told.said, QStringList{u"ready"_s});
-        QCOMPARE(told.last.printer.origin, PrinterOrigin::PpdFile);
+        QCOMPARE(told.last.printer.origin, PrinterOrigin::File);
         QTRY_COMPARE(m_gate->openConnections(), 0); // nobody waits for the other any more
         QCOMPARE(told.said.size(), 1);
     }
@@ -385,7 +385,7 @@ private Q_SLOTS:
         source.rememberUse(queue);
         QCOMPARE(lastPrinter(m_server.address.argument()), u"Büro/draft"_s);
         QCOMPARE(lastPrinter(u"other:631"_s), QString());
-        queue.origin = PrinterOrigin::PpdFile;
+        queue.origin = PrinterOrigin::File;
         queue.name = u"sample"_s;
         source.rememberUse(queue);
         QCOMPARE(lastPrinter(m_server.address.argument()), u"Büro/draft"_s);

@@ -69,10 +69,10 @@ private Q_SLOTS:
         row("PPD of a queue", Origin::Queue, true, [](Printer &p) { p.ppdPath = u"/other"_s; });
         row("URI of a device", Origin::Device, false, [](Printer &p) { p.uri = u"ipp://x/y"_s; });
         row("name of a device", Origin::Device, true, [](Printer &p) { p.name = u"r"_s; });
-        row("path of a PPD file", Origin::PpdFile, false,
+        row("path of a PPD file", Origin::File, false,
             [](Printer &p) { p.ppdPath = u"/other"_s; });
-        row("name of a PPD file", Origin::PpdFile, false, [](Printer &p) { p.name = u"Q"_s; });
-        row("origin", Origin::Queue, false, [](Printer &p) { p.origin = Origin::PpdFile; });
+        row("name of a PPD file", Origin::File, false, [](Printer &p) { p.name = u"Q"_s; });
+        row("origin", Origin::Queue, false, [](Printer &p) { p.origin = Origin::File; });
         row("state", Origin::Queue, true, [](Printer &p) { p.state = PrinterState::Stopped; });
     }
     void whatElseTellsPrintersApart()
@@ -85,8 +85,8 @@ private Q_SLOTS:
 
     void aFileIsCalledByItsNameAsItIs()
     {
-        QVERIFY(isCalled(printer(PrinterOrigin::PpdFile, u"cl5"_s), u"cl5"_s));
-        QVERIFY(!isCalled(printer(PrinterOrigin::PpdFile, u"cl5"_s), u"CL5"_s));
+        QVERIFY(isCalled(printer(PrinterOrigin::File, u"cl5"_s), u"cl5"_s));
+        QVERIFY(!isCalled(printer(PrinterOrigin::File, u"cl5"_s), u"CL5"_s));
     }
 };
 

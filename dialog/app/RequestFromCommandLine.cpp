@@ -1,0 +1,111 @@
+#include "dialog/app/RequestFromCommandLine.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "dialog/app/Language.h"
+#include "dialog/queues/SamplePrinters.h"
+#include "dialog/session/OptionRequest.h"
+#include "platform/foundation/Bundle.h"
+
+namespace corvana {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RequestFromCommandLine)
+};
+
+// Beside the program, in the build folder and in an installation alike.
+QString besideProgram(const QString &relative)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
+}
+
+// A name in the current folder that nothing has yet. A desktop starts programs in a folder where
+// nothing can be written; then it is the user's own.
+QString freeOutputName(const QString &title)
+{
+    const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
+    const QDir folder = writable ? QDir::current() : QDir::home();
+    const QString base = QFileInfo(title).completeBaseName();
+    QString name = folder.absoluteFilePath(base + QStringLiteral(".ps"));
+    for (int i = 2; QFileInfo::exists(name); ++i)
+        name = folder.absoluteFilePath(QStringLiteral("%1-%2.ps").arg(base).arg(i));
+    return name;
+}
+
+// The dialog's own help, in the localisation that suits the user best; empty when there is none.
+QString dialogHelpPage()
+{
+    const QString localization = Bundle::preferredLocalizations(dialogLocalizations()).value(0);
+    const QFileInfo page(besideProgram(
+        QStringLiteral("../share/corvana-print/help/%1/index.html").arg(localization)));
+    return page.isFile() ? page.canonicalFilePath() : QString();
+}
+
+QString titleOf(const QList<Document> &documents)
+{
+    if (documents.isEmpty())
+        return {};
+    const QString first = documents.constFirst().title;
+    const int others = static_cast<int>(documents.size()) - 1;
+    return others == 0 ? first : Texts::tr("%1 and %n more", nullptr, others).arg(first);
+}
+
+} // namespace
+
+QList<Printer> offeredPrinters(const CommandLine &line)
+{
+    QList<Printer> printers;
+    // A PPD that cannot be read is reported when its printer is opened.
+    QString error;
+    if (!line.ppd.isEmpty())
+        printers += printerOfPpd(line.ppd, &error);
+    if (line.demo)
+        printers += samplePrinters(besideProgram(QStringLiteral("../share/corvana-print/ppd")));
+    return printers;
+}
+
+QStringList trustedBundleRoots(const CommandLine &line)
+{
+    return line.bundleRoots +
+           QStringList{besideProgram(QStringLiteral("../lib/corvana-print/plugins"))};
+}
+
+std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
+{
+    PrintRequest request;
+    for (const QString &name : line.documents) {
+        const Document document = name == QLatin1StringView("-")
+                                      ? readStandardInput(&request.standardInput, error)
+                                      : inspectDocument(name, error);
+        if (document.path.isEmpty())
+            return std::nullopt;
+        request.documents += document;
+    }
+    request.printers = offeredPrinters(line);
+    request.wantedPrinter = line.printer;
+    request.serverWasNamed = !line.server.isEmpty();
+    request.server = request.serverWasNamed
+                         ? ServerAddress::parse(line.server).value_or(ServerAddress::configured())
+                         : ServerAddress::configured();
+    request.options = parseOptions(line.options);
+    request.bundleRoots = trustedBundleRoots(line);
+    request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
+    request.outputWasNamed = !line.output.isEmpty();
+    request.output = line.output.isEmpty() && !request.documents.isEmpty()
+                         ? freeOutputName(request.documents.constFirst().title)
+                         : line.output;
+    request.onAlert = line.onAlert;
+    request.noWait = line.noWait;
+    request.copies = line.copies.value_or(1);
+    request.copiesWereNamed = line.copies.has_value();
+    request.summary = line.summary;
+    request.helpPage = dialogHelpPage();
+    return request;
+}
+
+} // namespace corvana

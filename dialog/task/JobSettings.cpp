@@ -1,0 +1,82 @@
+#include "dialog/task/JobSettings.h"
+
+#include <algorithm>
+
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+
+namespace corvana {
+
+namespace {
+
+bool isPageRanges(const JobOption &option)
+{
+    return option.name == kPageRangesAttribute;
+}
+
+} // namespace
+
+void JobSettings::askForCopies(int copies, By by)
+{
+    // A field that shows only what the printer makes has not been changed by showing it.
+    if (by < m_by || (by == By::User && copies == this->copies()))
+        return;
+    m_copies = copies;
+    m_by = by;
+}
+
+int JobSettings::copies() const
+{
+    return m_mostCopies > 0 ? std::min(m_copies, m_mostCopies) : m_copies;
+}
+
+QString JobSettings::pageRanges() const
+{
+    if (m_pageRanges)
+        return *m_pageRanges;
+    const auto asked = std::find_if(m_attributes.cbegin(), m_attributes.cend(), isPageRanges);
+    return asked == m_attributes.cend() ? QString() : asked->value;
+}
+
+void JobSettings::setPageRanges(const QString &ranges)
+{
+    const QString compact = QString(ranges).remove(u' ');
+    if (compact != pageRanges())
+        m_pageRanges = compact;
+}
+
+bool JobSettings::hasValidPageRanges() const
+{
+    const QString ranges = pageRanges();
+    return ranges.isEmpty() || jobAttribute(kPageRangesAttribute)->accepts(ranges);
+}
+
+void JobSettings::addAttributes(const QList<JobOption> &attributes)
+{
+    for (const JobOption &attribute : attributes) {
+        m_attributes.removeIf([&](const JobOption &a) { return a.name == attribute.name; });
+        m_attributes += attribute;
+    }
+}
+
+QList<JobOption> JobSettings::attributes() const
+{
+    QList<JobOption> all = m_attributes;
+    all.removeIf(isPageRanges);
+    if (const QString ranges = pageRanges(); !ranges.isEmpty())
+        all += JobOption{kPageRangesAttribute, ranges};
+    return all;
+}
+
+void JobSettings::leavePrinter()
+{
+    m_pageRanges = pageRanges();
+    m_attributes.clear();
+    m_mostCopies = 0;
+    if (m_by == By::UserQueues) {
+        m_copies = 1;
+        m_by = By::Program;
+    }
+}
+
+} // namespace corvana

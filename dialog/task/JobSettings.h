@@ -1,0 +1,56 @@
+#pragma once
+
+#include <optional>
+
+#include <QList>
+#include <QString>
+
+#include "platform/pde/PDEJobValues.h"
+
+namespace corvana {
+
+/// What belongs to the job rather than to its printer: copies, pages, and the job attributes that
+/// no page offers. Copies and pages go along when the user chooses another printer.
+///
+/// A plain value; knows no session and no widget.
+class JobSettings
+{
+public:
+    /// Who asks for a number of copies. A later one counts more.
+    enum class By { Program, UserQueues, Options, CommandLine, User };
+
+    /// Takes a number of copies, unless somebody who counts more has asked already.
+    /// Range: 1 and more.
+    void askForCopies(int copies, By by);
+    /// The number of copies that this printer makes: what was asked for, or its most.
+    int copies() const;
+    /// What was asked for, and by whom, whatever the printer makes.
+    int copiesAskedFor() const { return m_copies; }
+    By copiesAskedForBy() const { return m_by; }
+    bool asksForTooMany() const { return m_mostCopies > 0 && m_copies > m_mostCopies; }
+    /// How many copies the printer makes at once; 0: as many as anybody can ask for.
+    void setMostCopies(int copies) { m_mostCopies = copies; }
+    int mostCopies() const { return m_mostCopies; }
+
+    /// The pages to print ("1-4,7"), as typed, less blanks; empty for all.
+    QString pageRanges() const;
+    void setPageRanges(const QString &ranges);
+    bool hasValidPageRanges() const;
+
+    /// Adds job attributes, each in place of a former one of the same name.
+    void addAttributes(const QList<JobOption> &attributes);
+    /// The attributes of the job, its pages among them.
+    QList<JobOption> attributes() const;
+
+    /// The printer is left: what was asked for only by its own options stays behind.
+    void leavePrinter();
+
+private:
+    int m_copies = 1;
+    By m_by = By::Program;
+    int m_mostCopies = 0;
+    std::optional<QString> m_pageRanges; // as the user left them
+    QList<JobOption> m_attributes;
+};
+
+} // namespace corvana

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "dialog/job/Document.h"
+#include "dialog/queues/Printer.h"
+#include "dialog/server/ServerAddress.h"
+#include "dialog/task/AlertPolicy.h"
+#include "platform/pde/PDEJobValues.h"
+
+class QTemporaryFile;
+
+namespace corvana {
+
+/// What is to be printed and how, as it was asked for: documents that were looked into, printers
+/// that were found, options that nobody has checked yet.
+struct PrintRequest
+{
+    QList<Document> documents; ///< printed one after the other, as one job
+    /// Holds what came on standard input; null without it.
+    std::shared_ptr<QTemporaryFile> standardInput;
+    /// Those that no server is needed for: PPD files and samples.
+    QList<Printer> printers;
+    /// A printer by its name, a queue or a URI; empty for the usual one.
+    QString wantedPrinter;
+    ServerAddress server;
+    bool serverWasNamed = false; ///< on the command line
+    QList<JobOption> options;
+    QStringList bundleRoots;
+    QString title;
+    QString output;              ///< never empty where there is a document
+    bool outputWasNamed = false; ///< so a file is wanted, whatever the printer
+    int copies = 1;
+    bool copiesWereNamed = false; ///< by -n, which counts more than any option
+    bool summary = false;
+    std::optional<AlertPolicy> onAlert; ///< nothing: as suits where the job goes
+    bool noWait = false;
+    /// The page of the dialog's own help, in the user's language; empty when it is not installed.
+    QString helpPage;
+};
+
+/// The index of the printer that is wanted among those that no server is needed for; -1 when it is
+/// a queue or a URI, or there is none.
+int wantedAmongFiles(const PrintRequest &request);
+
+} // namespace corvana

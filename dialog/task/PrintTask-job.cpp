@@ -1,0 +1,205 @@
+#include <utility>
+
+#include "dialog/app/QueueOpening.h"
+#include "dialog/job/FileJob.h"
+#include "dialog/job/ServerJob.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionRequest.h"
+#include "dialog/session/Summary.h"
+#include "dialog/task/PrintTask.h"
+#include "dialog/task/RefusalText.h"
+#include <QFileInfo>
+
+namespace corvana {
+
+bool PrintTask::canPrint() const
+{
+    return (m_phase == Phase::Opened || m_phase == Phase::Ready) &&
+           m_opened->panelProblem.isEmpty();
+}
+
+bool PrintTask::printsToFile() const
+{
+    return m_output.toFile || m_printer.origin == PrinterOrigin::File;
+}
+
+void PrintTask::setOutput(const QString &path, bool confirmed)
+{
+    if (path != m_output.path || confirmed)
+        m_output = {path, m_output.toFile, confirmed};
+}
+
+void PrintTask::print()
+{
+    if (m_phase == Phase::Opened) {
+        // By an Enter that was typed ahead, or because nobody waits for anything to be shown. What
+        // cannot be set then has not been seen by anybody.
+        QStringList unseen;
+        const auto watch = connect(this, &PrintTask::said, this, [&](const TaskMessage &message) {
+            if (message.kind == TaskMessage::Kind::Problem)
+                unseen += message.text;
+        });
+        bringUp();
+        disconnect(watch);
+        if (!unseen.isEmpty()) {
+            Q_EMIT refused({unseen});
+            return;
+        }
+    }
+    if (m_phase != Phase::Ready)
+        return;
+    if (!m_opened->panelProblem.isEmpty()) {
+        Q_EMIT refused({{m_opened->panelProblem}});
+        return;
+    }
+    enter(Phase::Asking);
+    const std::optional<TaskRefusal> refusal = finish();
+    // Interrupted, while an alert was waiting for its answer.
+    if (m_phase != Phase::Asking)
+        return;
+    if (refusal) {
+        enter(Phase::Ready);
+        Q_EMIT refused(*refusal);
+        return;
+    }
+    if (m_request.documents.isEmpty())
+        return enter(Phase::Ended);
+    startJob({m_request.title, m_settings.copies(),
+              jobOptions(*m_opened->session, m_opened->jobValues, m_settings.attributes()),
+              secretsOf(*m_opened->session)});
+}
+
+// Everything that has to be known before a job is made. Answers why it is not made; a place in the
+// window, and what the user has just said himself, go along.
+std::optional<TaskRefusal> PrintTask::finish()
+{
+    using Place = TaskRefusal::Place;
+    if (!m_face.finishEditing())
+        return TaskRefusal{{}, Place::Nowhere, true};
+    if (printsToFile() && m_output.path.isEmpty() && !m_request.documents.isEmpty())
+        return TaskRefusal{{tr("Name the file to print to.")}, Place::Output};
+    if (!m_settings.hasValidPageRanges())
+        return TaskRefusal{{tr("“%1” are no pages. Pages and ranges in ascending order were "
+                               "expected, such as 1-4, 7, 9-.")
+                                .arg(m_settings.pageRanges())},
+                           Place::Pages};
+    const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
+    if (replaces && !m_face.mayOverwrite(m_output.path))
+        return TaskRefusal{{}, Place::Output, true};
+    if (!m_request.documents.isEmpty()) {
+        if (auto refusal = askPanels())
+            return refusal;
+    }
+    if (m_phase != Phase::Asking)
+        return std::nullopt;
+    // Before the ticket: the panels restore and save on the way.
+    const QList<SummaryLine> lines = summary();
+    if (m_request.summary)
+        m_face.writeSummary(lines);
+    QStringList problems;
+    const QList<Refusal> refusals = m_opened->session->takeRefusals();
+    for (const Refusal &refusal : refusals)
+        problems += refusalText(refusal, *m_opened->session);
+    problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
+}
+
+// The panels say whether they let the job go, and may show instructions first.
+std::optional<TaskRefusal> PrintTask::askPanels()
+{
+    using Instructions = TaskFace::Instructions;
+    const bool allowed = m_opened->panels->shouldPrint();
+    if (m_phase != Phase::Asking)
+        return std::nullopt;
+    const Instructions instructions = m_face.instructions(!printsToFile());
+    if (instructions == Instructions::Refuse)
+        return TaskRefusal{{tr("The printer's settings show instructions.")}};
+    m_held = instructions == Instructions::Wait;
+    if (m_held && printsToFile())
+        return TaskRefusal{{tr("The job would have to wait for these instructions, and a file "
+                               "cannot wait. Follow them and print with --on-alert=print.")}};
+    if (!allowed)
+        return TaskRefusal{
+            {tr("The printer's settings hold the job back.")}, TaskRefusal::Place::Nowhere, true};
+    if (m_held)
+        m_settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
+    return std::nullopt;
+}
+
+void PrintTask::startJob(const JobTicket &ticket)
+{
+    Q_EMIT unsaid();
+    if (printsToFile()) {
+        m_job = std::make_unique<FileJob>(
+            FileJobRequest{m_request.documents, ticket, m_opened->printer.ppdPath, m_output.path});
+    } else {
+        ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        request.earlierJob = m_memory.value(idOf(m_printer)).earlierJob;
+        m_job = std::make_unique<ServerJob>(request);
+    }
+    connect(m_job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
+        if (!m_job->isCanceled())
+            Q_EMIT progressed(progress);
+    });
+    connect(m_job.get(), &Job::finished, this, &PrintTask::jobFinished);
+    enter(Phase::Printing);
+    m_job->start();
+}
+
+void PrintTask::cancel()
+{
+    if (m_phase != Phase::Printing)
+        return;
+    // A server that does not answer has a few seconds to be told.
+    enter(Phase::Canceling);
+    m_job->cancel();
+}
+
+void PrintTask::leave()
+{
+    // What is being canceled is waited for: whether it still was in time has to be known.
+    if (m_phase != Phase::Printing || !m_job->isHandedOver())
+        return;
+    enter(Phase::Leaving);
+    m_job->letGo();
+}
+
+void PrintTask::interrupt(OnInterrupt job)
+{
+    if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
+        return;
+    if (!m_job)
+        return enter(Phase::Ended);
+    if (job == OnInterrupt::LeaveJob)
+        leave();
+    if (m_phase == Phase::Leaving)
+        return;
+    enter(Phase::Leaving);
+    m_job->cancel();
+}
+
+void PrintTask::jobFinished(const JobOutcome &outcome)
+{
+    using Kind = JobOutcome::Kind;
+    m_job.release()->deleteLater();
+    m_outcome = outcome;
+    Memory &memory = m_memory[idOf(m_printer)];
+    // It may be printed yet, so the same is not sent once more by accident. A try that never got a
+    // number has learnt nothing about an earlier one.
+    if (outcome.kind == Kind::Unknown || outcome.kind == Kind::InQueue ||
+        outcome.kind == Kind::Stopped)
+        memory.earlierJob = outcome.job;
+    else if (outcome.job > 0)
+        memory.earlierJob = 0;
+    if (outcome.isDone() && outcome.file.isEmpty())
+        m_source.rememberUse(m_printer);
+    if (outcome.kind == Kind::PrinterChanged)
+        m_source.retry();
+    const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed;
+    enter(ends ? Phase::Ended : Phase::Ready);
+    Q_EMIT jobEnded(outcome);
+    if (m_comesNext && m_phase == Phase::Ready)
+        take(ReadyPrinter(*m_comesNext));
+}
+
+} // namespace corvana

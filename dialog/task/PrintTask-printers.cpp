@@ -1,0 +1,199 @@
+#include <QTimer>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/task/PrintTask.h"
+
+namespace corvana {
+
+namespace {
+
+// How often it is looked whether the user is done with what keeps the printer. Units: milliseconds.
+constexpr int kPatience = 200;
+
+} // namespace
+
+void PrintTask::connectSource()
+{
+    connect(&m_source, &PrinterSource::ready, this, &PrintTask::take);
+    connect(&m_source, &PrinterSource::checked, this, &PrintTask::printerChecked);
+    connect(&m_source, &PrinterSource::failed, this, &PrintTask::printerFailed);
+    connect(&m_source, &PrinterSource::betterQueueFound, this, &PrintTask::offerQueue);
+    connect(&m_source, &PrinterSource::listChanged, this, &PrintTask::takeExpectedPrinter);
+}
+
+void PrintTask::start()
+{
+    choosePrinter(m_source.first());
+    m_printerIsChosen = !m_source.firstIsProvisional();
+}
+
+void PrintTask::startUnattended()
+{
+    m_printerIsChosen = true;
+    m_source.openWanted();
+}
+
+void PrintTask::choosePrinter(const Printer &printer)
+{
+    rememberSession();
+    close();
+    Q_EMIT unsaid(); // and with it an offer that was meant for the other printer
+    m_printer = printer;
+    m_printerIsChosen = true;
+    m_comesNext.reset();
+    m_problem = {};
+    enter(Phase::Fetching);
+    Q_EMIT printerChanged();
+    m_source.open(printer);
+}
+
+void PrintTask::retry()
+{
+    if (m_phase == Phase::Missing) {
+        m_problem = {};
+        enter(Phase::Fetching);
+    }
+    m_source.retry();
+}
+
+bool PrintTask::isPrinting() const
+{
+    return m_phase == Phase::Asking || m_phase == Phase::Printing || m_phase == Phase::Canceling ||
+           m_phase == Phase::Leaving;
+}
+
+// A printer is not taken away while it prints or one of its panels is at work.
+void PrintTask::take(const ReadyPrinter &ready)
+{
+    if (m_phase == Phase::Ended)
+        return;
+    if (m_opened && (isPrinting() || m_face.userIsBusy())) {
+        m_comesNext = ready;
+        QTimer::singleShot(kPatience, this, [this] {
+            if (m_comesNext && !isPrinting())
+                take(ReadyPrinter(*m_comesNext));
+        });
+        return;
+    }
+    m_comesNext.reset();
+    const bool again = m_opened != nullptr;
+    rememberSession();
+    open(ready);
+    if (again)
+        Q_EMIT said({TaskMessage::Kind::Information,
+                     tr("The options of the printer have changed at its server; yours were kept."),
+                     {},
+                     {},
+                     true});
+}
+
+void PrintTask::open(const ReadyPrinter &ready)
+{
+    close();
+    m_printer = ready.printer;
+    Q_EMIT printerChanged();
+    const Memory memory = m_memory.value(idOf(m_printer));
+    QStringList lost;
+    const auto restore = [&](PpdSession &session) {
+        if (memory.session)
+            lost = restoreLeft(*memory.session, ready.ppdHash, session);
+    };
+    m_opened =
+        openReadyPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_problem.text, restore);
+    if (!m_opened)
+        return enter(Phase::Missing);
+    connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
+    m_problem = {};
+    enter(Phase::Opened);
+    if (!m_opened->panelProblem.isEmpty())
+        say(TaskMessage::Kind::Problem,
+            tr("The printer's own settings are missing: %1").arg(m_opened->panelProblem));
+    if (!lost.isEmpty())
+        say(TaskMessage::Kind::Problem,
+            tr("Not everything could be set as before:\n%1").arg(lost.join(u'\n')));
+}
+
+// The panels delete their views, so a face lets go of its pages only afterwards.
+void PrintTask::close()
+{
+    if (!m_opened)
+        return;
+    m_settings.leavePrinter();
+    m_opened.reset();
+    Q_EMIT printerClosed();
+}
+
+// Keeps what the user has set, so that it comes back with the printer.
+void PrintTask::rememberSession()
+{
+    if (m_phase != Phase::Ready)
+        return;
+    m_face.finishEditing(); // what is being typed counts as well
+    // What was asked for on the command line is the user's as well.
+    if (isUntouched() && m_request.options.isEmpty())
+        return;
+    m_opened->panels->visit(-1); // a panel that is left saves
+    QList<JobOption> attributes = m_settings.attributes();
+    attributes.removeIf(
+        [](const JobOption &option) { return option.name == kPageRangesAttribute; });
+    m_memory[idOf(m_printer)].session = LeftSession{
+        m_baseline.opened, m_opened->session->snapshot(), m_opened->ppdHash, attributes};
+}
+
+// Whether nothing would be lost if another printer took the place of this one. Copies and pages go
+// along.
+bool PrintTask::isUntouched() const
+{
+    return m_phase != Phase::Ready || m_opened->session->snapshot() == m_baseline.started;
+}
+
+void PrintTask::takeExpectedPrinter()
+{
+    if (m_printerIsChosen || isPrinting() || m_phase == Phase::Ended || !isUntouched())
+        return;
+    if (m_face.userIsBusy()) { // the list may have nothing more to say afterwards
+        QTimer::singleShot(kPatience, this, &PrintTask::takeExpectedPrinter);
+        return;
+    }
+    // The first printer was there for want of a better one.
+    const std::optional<Printer> expected = m_source.expected();
+    const bool complete = m_source.queues().state() == QueueList::State::Known;
+    if (expected && (complete || expected->isDefault))
+        choosePrinter(*expected);
+}
+
+void PrintTask::printerChecked(const Printer &printer, qint64 ppdLastModified)
+{
+    m_printer = printer;
+    m_problem = {};
+    // What comes next has its own words for it.
+    if (m_opened && !m_comesNext) {
+        m_opened->printer = printer;
+        m_opened->ppdLastModified = ppdLastModified;
+    }
+    Q_EMIT printerChanged();
+}
+
+void PrintTask::printerFailed(const QString &problem, const QString &brief)
+{
+    if (m_phase == Phase::Ended)
+        return;
+    m_problem = {problem, brief};
+    if (!m_opened)
+        enter(Phase::Missing);
+    Q_EMIT printerChanged();
+}
+
+void PrintTask::offerQueue(const Printer &printer)
+{
+    if (isPrinting())
+        return; // something that matters more is being said
+    Q_EMIT said(
+        {TaskMessage::Kind::Information,
+         tr("The queue “%1” leads to the same printer, and has pages with all of its settings.")
+             .arg(printer.description),
+         tr("Use “%1”").arg(printer.description), [this, printer] { choosePrinter(printer); },
+         true});
+}
+
+} // namespace corvana

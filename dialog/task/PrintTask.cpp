@@ -1,0 +1,193 @@
+#include "dialog/task/PrintTask.h"
+
+#include <utility>
+
+#include "dialog/session/OptionRequest.h"
+#include "dialog/session/Summary.h"
+#include "dialog/task/RefusalText.h"
+#include "dialog/task/StartValues.h"
+#include "platform/toolkit/InterfaceLoader.h"
+
+namespace corvana {
+
+PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
+    : QObject(parent), m_request(std::move(request)), m_face(face),
+      m_credentials(CredentialStore::create()),
+      m_source(m_request, ServerContext{m_request.server, m_credentials}),
+      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed}
+{
+    using By = JobSettings::By;
+    m_settings.askForCopies(m_request.copies,
+                            m_request.copiesWereNamed ? By::CommandLine : By::Program);
+    m_credentials->setQuestioner(
+        [this](const CredentialsQuestion &question, const CredentialStore::Answer &answer) {
+            m_source.questionPut();
+            m_face.askCredentials(question, [this, answer](std::optional<Credentials> given) {
+                m_source.questionAnswered();
+                answer(std::move(given));
+            });
+        });
+    connectSource();
+}
+
+PrintTask::~PrintTask()
+{
+    m_credentials->setQuestioner(nullptr);
+}
+
+void PrintTask::enter(Phase phase)
+{
+    if (std::exchange(m_phase, phase) != phase)
+        Q_EMIT phaseChanged(phase);
+}
+
+void PrintTask::say(TaskMessage::Kind kind, const QString &text)
+{
+    Q_EMIT said({kind, text});
+}
+
+void PrintTask::bringUp()
+{
+    if (m_phase != Phase::Opened)
+        return;
+    m_opened->panels->bringUp();
+    noteMissingPages();
+    m_baseline.opened = m_opened->session->snapshot();
+    const QStringList problems = applyStartOptions();
+    m_baseline.started = m_opened->session->snapshot();
+    enter(Phase::Ready);
+    showSettings();
+    if (!problems.isEmpty())
+        say(TaskMessage::Kind::Problem,
+            tr("These options were not set:\n%1").arg(problems.join(u'\n')));
+}
+
+// Takes what the printer starts with: what the user had set before, else lpoptions and what was
+// asked for. Answers what was asked for and cannot be had.
+QStringList PrintTask::applyStartOptions()
+{
+    using By = JobSettings::By;
+    // What happens on the way is part of the outcome, not an event of the user's.
+    const QSignalBlocker blocker(m_opened->panels.get());
+    const Memory &memory = m_memory[idOf(m_printer)];
+    if (memory.session) {
+        m_settings.addAttributes(memory.session->attributes);
+        m_baseline.opened = memory.session->opened;
+        m_opened->panels->restoreAll();
+        return takeMostCopies();
+    }
+    if (m_printer.origin == PrinterOrigin::Queue) {
+        // A choice of long ago does not stop a job; what is asked for now does.
+        const FittedOptions fitted =
+            applyWhatFits(readUserQueues().optionsOf(m_printer.name), *m_opened);
+        m_settings.addAttributes(fitted.attributes);
+        if (fitted.copies)
+            m_settings.askForCopies(*fitted.copies, By::UserQueues);
+        for (const QString &problem : fitted.problems)
+            Q_EMIT ignored(problem);
+    }
+    const OptionOutcome asked =
+        applyOptions(m_request.options, *m_opened->session, m_opened->jobValues, *m_opened->panels);
+    m_settings.addAttributes(asked.attributes);
+    if (asked.copies)
+        m_settings.askForCopies(*asked.copies, By::Options);
+    return asked.problems + takeMostCopies();
+}
+
+QStringList PrintTask::takeMostCopies()
+{
+    using By = JobSettings::By;
+    m_settings.setMostCopies(m_opened->capabilities ? m_opened->capabilities->maximumCopies : 0);
+    if (!m_settings.asksForTooMany())
+        return {};
+    const QString problem = tr("The printer prints at most %1 copies at once, not %2.")
+                                .arg(m_settings.mostCopies())
+                                .arg(m_settings.copiesAskedFor());
+    switch (m_settings.copiesAskedForBy()) {
+    case By::Options:
+    case By::CommandLine:
+        return {problem};
+    case By::UserQueues:
+        Q_EMIT ignored(problem);
+        break;
+    case By::Program:
+    case By::User:
+        say(TaskMessage::Kind::Information, problem);
+        break;
+    }
+    return {};
+}
+
+QList<SummaryLine> PrintTask::summary()
+{
+    return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(),
+                          m_settings.attributes());
+}
+
+// Without its controls a panel would print other choices than with them.
+void PrintTask::noteMissingPages()
+{
+    const QStringList problems = takeInterfaceProblems();
+    if (!m_opened->panels->views().contains(nullptr))
+        return;
+    m_opened->panelProblem = problems.join(u'\n');
+    say(TaskMessage::Kind::Problem,
+        tr("A page of the printer's settings cannot be shown: %1").arg(m_opened->panelProblem));
+}
+
+void PrintTask::propose(const QString &keyword, const QString &choice)
+{
+    bringUp();
+    Q_EMIT unsaid();
+    const ChangeResult result =
+        m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
+    if (result.accepted())
+        return;
+    sayRefusal({{keyword, choice}, result.conflicting});
+    showSettings(); // the page shows what the user picked
+}
+
+void PrintTask::settled()
+{
+    const QList<Refusal> refusals = m_opened->session->takeRefusals();
+    for (const Refusal &refusal : refusals)
+        sayRefusal(refusal);
+    // Showing the settings asks the panels, which save again: only another state is news.
+    if (m_opened->session->snapshot() != m_baseline.shown || !refusals.isEmpty())
+        showSettings();
+}
+
+void PrintTask::showSettings()
+{
+    Q_EMIT settingsChanged();
+    m_baseline.shown = m_opened->session->snapshot();
+}
+
+void PrintTask::sayRefusal(const Refusal &refusal)
+{
+    TaskMessage message{TaskMessage::Kind::Problem, refusalText(refusal, *m_opened->session)};
+    const QList<OptionChoice> wayOut = m_opened->session->wayOut(refusal.proposed);
+    if (!wayOut.isEmpty()) {
+        message.offer = wayOutText(wayOut, *m_opened->session);
+        message.take = [this, wayOut, proposed = refusal.proposed] {
+            takeWayOut(wayOut, proposed);
+        };
+    }
+    Q_EMIT said(message);
+}
+
+// Does what the user would have done: makes room, then picks again what was refused, so that the
+// panel's rules and instructions run as they do for any pick.
+void PrintTask::takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed)
+{
+    Q_EMIT unsaid();
+    PanelHost &panels = *m_opened->panels;
+    m_opened->session->changeTogether(wayOut);
+    panels.deliverPending();
+    if (!panels.pick(proposed.keyword, proposed.choice))
+        m_opened->session->changeTogether({proposed});
+    panels.deliverPending();
+    showSettings();
+}
+
+} // namespace corvana

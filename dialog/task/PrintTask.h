@@ -1,0 +1,215 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QHash>
+#include <QObject>
+
+#include "dialog/app/PrinterSource.h"
+#include "dialog/job/Job.h"
+#include "dialog/queues/PrinterId.h"
+#include "dialog/task/JobSettings.h"
+#include "dialog/task/LeftSession.h"
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PrintRequest.h"
+#include "dialog/task/TaskFace.h"
+#include "dialog/task/TaskMessage.h"
+
+namespace corvana {
+
+/// Why a printer cannot be asked for, whole and in few words.
+struct PrinterProblem
+{
+    QString text{};
+    QString brief{};
+};
+
+/// One thing that is to be printed, from its documents to what became of them: the printer that is
+/// opened for it, its options and copies, the questions before it is printed, and its job. Every
+/// face (the window, the terminal) shows one of these and holds no rule of its own, so that what
+/// one face refuses every face refuses, in the same words.
+///
+/// A face calls start(), bringUp() once it can show panels, and print() when the user says so; it
+/// follows the phases and says what said() and refused() tell it.
+///
+/// Ownership: of the printer's session and panels; borrows the face, which lives longer.
+/// Thread: GUI thread only; servers are asked on others.
+class PrintTask : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Phase {
+        Fetching,  ///< the printer is being asked for its options; nothing can be set yet
+        Missing,   ///< it could not be asked for or opened; problem() says why
+        Opened,    ///< its session is there; its panels have not come up
+        Ready,     ///< everything can be set and printed
+        Asking,    ///< Print was chosen; panels are asked, and an alert may be open
+        Printing,  ///< a job runs
+        Canceling, ///< the job is being taken back; then everything can be set again
+        Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
+        Ended,     ///< outcome() says with what
+    };
+
+    /// What an interruption means for a job that its queue has already.
+    enum class OnInterrupt { LeaveJob, CancelJob };
+
+    PrintTask(PrintRequest request, TaskFace &face, QObject *parent = nullptr);
+    ~PrintTask() override;
+
+    Phase phase() const { return m_phase; }
+    const PrintRequest &request() const { return m_request; }
+    /// Why the printer cannot be asked for; empty while it can.
+    const PrinterProblem &problem() const { return m_problem; }
+
+    // The printer (PrintTask-printers.cpp)
+
+    /// Opens the first printer for somebody who can choose another one: the printer that was named,
+    /// the user's default, the one used last, else one that prints into a file. It is there at once
+    /// where its options are known from before.
+    void start();
+    /// Opens the printer for somebody who cannot choose: the one that was named, the user's
+    /// default, else that of the server; never before its server has said what its options are.
+    void startUnattended();
+    PrinterSource &printers() { return m_source; }
+    /// The one that is open, or is being asked for.
+    const Printer &printer() const { return m_printer; }
+    /// Whether printer() was named or picked, rather than being there for want of a better one.
+    bool isPrinterChosen() const { return m_printerIsChosen; }
+    /// Whether printer() is there only because nobody has found a real one yet.
+    bool hasNoPrinterYet() const
+    {
+        return !m_printerIsChosen && m_printer.origin == PrinterOrigin::File &&
+               m_request.printers.isEmpty();
+    }
+    /// Opens another printer. What was set for this one comes back with it.
+    void choosePrinter(const Printer &printer);
+    /// Asks the server again for the printer; a password may be asked for.
+    void retry();
+    /// Null while there is none.
+    OpenedPrinter *opened() const { return m_opened.get(); }
+
+    // What is set (PrintTask.cpp)
+
+    /// Brings the panels up and the options of the request in; once for a printer.
+    void bringUp();
+    JobSettings &settings() { return m_settings; }
+    /// The user picked a choice on a page of the dialog.
+    void propose(const QString &keyword, const QString &choice);
+    /// Makes every face show the settings anew.
+    void showSettings();
+    /// The summary of the job as it stands now.
+    QList<SummaryLine> summary();
+
+    // The job (PrintTask-job.cpp)
+
+    bool canPrint() const;
+    bool printsToFile() const;
+    /// Whether a queue's job goes into a file instead. The printer of a PPD file has no other way.
+    void setPrintsToFile(bool toFile) { m_output.toFile = toFile; }
+    const QString &output() const { return m_output.path; }
+    /// `confirmed`: the user has agreed already that what stands there is replaced.
+    void setOutput(const QString &path, bool confirmed = false);
+    /// Prints: asks the panels, makes a ticket of everything, and starts the job. refused() or
+    /// jobEnded() follows. Without any document only the summary is written.
+    void print();
+    /// Takes the job back wherever it is.
+    void cancel();
+    /// Lets a job that its queue has go on by itself; the task then ends.
+    void leave();
+    /// Ends the task from outside, whatever it is doing.
+    void interrupt(OnInterrupt job);
+    bool isJobHandedOver() const { return m_job && m_job->isHandedOver(); }
+    /// Of the job that ended last; Failed without a text before that.
+    const JobOutcome &outcome() const { return m_outcome; }
+    /// Whether the job waits in its queue for instructions to be followed.
+    bool isHeld() const { return m_held; }
+    const ServerContext &server() const { return m_source.serverOf(m_printer); }
+
+Q_SIGNALS:
+    void phaseChanged(corvana::PrintTask::Phase phase);
+    /// The printer and its panels were closed, and are gone.
+    void printerClosed();
+    /// What is known of printer() is other than it was.
+    void printerChanged();
+    /// A choice is another one: what a face shows has to be read again.
+    void settingsChanged();
+    void said(const corvana::TaskMessage &message);
+    /// What the task had said last is settled.
+    void unsaid();
+    /// Something in lpoptions, which nobody has asked for just now, cannot be taken.
+    void ignored(const QString &problem);
+    /// print() prints nothing.
+    void refused(const corvana::TaskRefusal &refusal);
+    void progressed(const corvana::JobProgress &progress);
+    /// Whatever became of the job. Everything can be set again, unless the task has ended.
+    void jobEnded(const corvana::JobOutcome &outcome);
+
+private:
+    // What a task remembers of a printer while another one is open.
+    struct Memory
+    {
+        std::optional<LeftSession> session;
+        int earlierJob = 0; // that may print yet
+    };
+    struct Output
+    {
+        QString path;
+        bool toFile = false;
+        bool confirmed = false;
+    };
+    struct Baseline
+    {
+        SessionSnapshot opened;  // before any option was taken
+        SessionSnapshot started; // before the user changed anything
+        SessionSnapshot shown;   // as the face was told last
+    };
+
+    void enter(Phase phase);
+    void say(TaskMessage::Kind kind, const QString &text);
+
+    void connectSource();
+    void take(const ReadyPrinter &ready);
+    void open(const ReadyPrinter &ready);
+    void close();
+    void rememberSession();
+    void takeExpectedPrinter();
+    void printerChecked(const Printer &printer, qint64 ppdLastModified);
+    void printerFailed(const QString &problem, const QString &brief);
+    void offerQueue(const Printer &printer);
+    bool isUntouched() const;
+    bool isPrinting() const;
+
+    QStringList applyStartOptions();
+    QStringList takeMostCopies();
+    void noteMissingPages();
+    void settled();
+    void sayRefusal(const Refusal &refusal);
+    void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
+
+    std::optional<TaskRefusal> finish();
+    std::optional<TaskRefusal> askPanels();
+    void startJob(const JobTicket &ticket);
+    void jobFinished(const JobOutcome &outcome);
+
+    PrintRequest m_request;
+    TaskFace &m_face;
+    std::shared_ptr<CredentialStore> m_credentials;
+    PrinterSource m_source;
+    Printer m_printer;
+    bool m_printerIsChosen = false;
+    std::unique_ptr<OpenedPrinter> m_opened;
+    std::optional<ReadyPrinter> m_comesNext; // while the one that is open is in use
+    QHash<PrinterId, Memory> m_memory;
+    Baseline m_baseline;
+    JobSettings m_settings;
+    Output m_output;
+    PrinterProblem m_problem;
+    std::unique_ptr<Job> m_job;
+    JobOutcome m_outcome;
+    bool m_held = false;
+    Phase m_phase = Phase::Fetching;
+};
+
+} // namespace corvana

@@ -1,0 +1,53 @@
+#include "dialog/task/RefusalText.h"
+
+#include <QCoreApplication>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/Summary.h"
+
+namespace corvana {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RefusalText)
+};
+
+QString textOf(const OptionChoice &choice, const PpdSession &session)
+{
+    ppd_option_t *option = ppdOption(session.ppd(), choice.keyword);
+    // A marked choice is "Custom" and nothing else; what is proposed says its value itself.
+    const QString marked = session.customValue(choice.keyword);
+    const QString custom =
+        choice.choice == kCustomChoice && !marked.isNull() ? marked : choice.choice;
+    const ppd_choice_t *found = ppdChoice(option, choice.choice);
+    QString value = found ? ppdText(found->text).value_or(choice.choice) : choice.choice;
+    if (custom.startsWith(kCustomPrefix))
+        value = customText(session, choice.keyword, custom);
+    return Texts::tr("“%1: %2”")
+        .arg(option ? ppdText(option->text).value_or(choice.keyword) : choice.keyword, value);
+}
+
+QString textOf(const QList<OptionChoice> &choices, const PpdSession &session)
+{
+    QStringList texts;
+    for (const OptionChoice &choice : choices)
+        texts += textOf(choice, session);
+    return texts.join(Texts::tr(" and "));
+}
+
+} // namespace
+
+QString refusalText(const Refusal &refusal, const PpdSession &session)
+{
+    return Texts::tr("%1 cannot be combined with %2.")
+        .arg(textOf(refusal.proposed, session), textOf(refusal.conflicting, session));
+}
+
+QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session)
+{
+    return Texts::tr("Change to %1").arg(textOf(wayOut, session));
+}
+
+} // namespace corvana

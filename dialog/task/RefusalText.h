@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "dialog/session/PpdSession.h"
+
+namespace corvana {
+
+/// What a refused choice says to a person, in the words of the PPD: "“Media Type: Glossy” cannot be
+/// combined with “Two-Sided: Long-Edge”." Passwords are dots.
+QString refusalText(const Refusal &refusal, const PpdSession &session);
+
+/// The offer to make room: "Change to “Two-Sided: Off”".
+QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session);
+
+} // namespace corvana

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "dialog/server/CredentialStore.h"
+#include "dialog/session/PanelHost.h"
+#include "platform/toolkit/Alert.h"
+
+namespace corvana {
+
+/// What a task asks of the face that a user sees it by: a window, a terminal, a test. A face shows,
+/// asks and answers; what follows from an answer is the task's to know.
+///
+/// Thread: GUI thread only.
+class TaskFace
+{
+public:
+    /// What becomes of a job whose panels have shown instructions ("open the back cover").
+    enum class Instructions {
+        Followed, ///< there were none, or somebody has read them: the job is printed
+        Wait,     ///< the job has to wait in its queue until somebody has followed them
+        Refuse,   ///< nobody is there to follow them: nothing is printed
+    };
+
+    TaskFace() = default;
+    TaskFace(const TaskFace &) = delete;
+    TaskFace &operator=(const TaskFace &) = delete;
+    virtual ~TaskFace() = default;
+
+    /// Shows the alerts of the panels. Ownership: the face's; lives as long as the task.
+    virtual AlertPresenter &alerts() = 0;
+    /// Asks for a user and a password, and calls `answer` once, now or later.
+    virtual void askCredentials(const CredentialsQuestion &question,
+                                const CredentialStore::Answer &answer) = 0;
+    /// What instructions mean for a job that goes to a queue (`canWait`) or into a file.
+    virtual Instructions instructions(bool canWait) const = 0;
+
+    /// Takes a value that is being typed. False when it cannot be taken; the face then says why.
+    virtual bool finishEditing() { return true; }
+    /// Whether an alert, a question or an open list is in front of the user, so that the printer
+    /// must not be taken away.
+    virtual bool userIsBusy() const { return false; }
+    /// Whether a file that stands there already may be replaced.
+    virtual bool mayOverwrite(const QString &file) = 0;
+    /// Writes the summary where the user has asked for it. Called only then.
+    virtual void writeSummary(const QList<SummaryLine> &lines) = 0;
+};
+
+} // namespace corvana

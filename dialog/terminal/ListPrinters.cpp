@@ -1,0 +1,87 @@
+#include "dialog/terminal/ListPrinters.h"
+
+#include <chrono>
+#include <functional>
+
+#include <QEventLoop>
+#include <QTextStream>
+#include <QTimer>
+
+#include "dialog/queues/QueueRequests.h"
+#include "dialog/queues/UserQueues.h"
+#include "dialog/server/ServerWork.h"
+#include "dialog/terminal/TerminalQuestions.h"
+#include "dialog/terminal/TerminationSignals.h"
+
+namespace corvana {
+
+namespace {
+
+// How long a server may take to let go of a program that was told to end.
+constexpr std::chrono::milliseconds kPatienceAtEnd{1000};
+
+struct Listed
+{
+    QList<Printer> queues;
+    ServerProblem problem;
+};
+
+// Asks a server on a thread of its own while the event loop turns, so that signals end it.
+Listed listQueuesOf(const ServerContext &server, const TerminationSignals &termination)
+{
+    QEventLoop loop;
+    Listed answer;
+    ServerWork work(server, [&loop, &answer](ServerWorker &worker) {
+        Listed all;
+        ServerConnection &connection = worker.connection();
+        if (!listQueues(connection, [&](const QList<Printer> &page) { all.queues += page; }))
+            all.problem = connection.problem();
+        worker.post([&loop, &answer, all = std::move(all)] {
+            answer = all;
+            loop.quit();
+        });
+    });
+    const auto end = [&] {
+        work.cancel();
+        // A name that is being looked up cannot be interrupted.
+        QTimer::singleShot(kPatienceAtEnd, &loop, &QEventLoop::quit);
+    };
+    QObject::connect(&termination, &TerminationSignals::received, &loop, end);
+    if (termination.caught())
+        end();
+    loop.exec();
+    return answer;
+}
+
+void write(const QList<Printer> &printers, const UserQueues &user)
+{
+    QTextStream out(stdout);
+    for (const Printer &printer : printers) {
+        out << printer.name << "\t" << printer.description << "\n";
+        for (const QString &instance : user.instancesOf(printer.name))
+            out << instance << "\t" << printer.description << "\n";
+    }
+}
+
+} // namespace
+
+int listPrinters(const PrintRequest &request)
+{
+    const TerminationSignals termination;
+    write(request.printers, {});
+    // Who is asked for a password is whoever reads the terminal.
+    ServerContext server{request.server, CredentialStore::create()};
+    server.credentials->setQuestioner(
+        terminalQuestioner([&termination] { return termination.caught() != 0; }));
+    server.mayAsk = true;
+    const Listed listed = listQueuesOf(server, termination);
+    write(listed.queues, readUserQueues());
+    if (termination.caught())
+        return termination.exitStatus();
+    if (!listed.problem)
+        return 0;
+    QTextStream(stderr) << "corvana-print: " << listed.problem.text(request.server) << "\n";
+    return request.printers.isEmpty() ? 1 : 0;
+}
+
+} // namespace corvana

@@ -1,0 +1,46 @@
+#include "dialog/terminal/TerminalFace.h"
+
+#include <QTextStream>
+
+#include "dialog/session/Summary.h"
+#include "dialog/task/PrintTask.h"
+#include "dialog/terminal/TerminalQuestions.h"
+#include "dialog/terminal/TerminationSignals.h"
+
+namespace corvana {
+
+TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination)
+    : m_policy(policy),
+      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; }))
+{
+}
+
+AlertPresenter &TerminalFace::alerts()
+{
+    if (!m_presenter) {
+        const bool canWait = !m_task->printsToFile();
+        m_presenter.emplace(m_policy.value_or(canWait ? AlertPolicy::Hold : AlertPolicy::Print),
+                            canWait);
+    }
+    return *m_presenter;
+}
+
+void TerminalFace::askCredentials(const CredentialsQuestion &question,
+                                  const CredentialStore::Answer &answer)
+{
+    m_questioner(question, answer);
+}
+
+TaskFace::Instructions TerminalFace::instructions(bool) const
+{
+    if (!m_presenter || !m_presenter->jobMustWait())
+        return Instructions::Followed;
+    return m_presenter->policy() == AlertPolicy::Hold ? Instructions::Wait : Instructions::Refuse;
+}
+
+void TerminalFace::writeSummary(const QList<SummaryLine> &lines)
+{
+    QTextStream(stdout) << summaryText(lines);
+}
+
+} // namespace corvana

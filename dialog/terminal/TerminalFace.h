@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+
+#include "dialog/task/TaskFace.h"
+#include "dialog/terminal/TerminalAlertPresenter.h"
+
+namespace corvana {
+
+class PrintTask;
+class TerminationSignals;
+
+/// The face of a task in a terminal or a script, where nobody watches: alerts are written and
+/// answered by a policy, passwords are asked on the terminal that controls the program.
+class TerminalFace : public TaskFace
+{
+public:
+    /// Borrows the signals, which end a question for a password.
+    /// `policy`: nothing for the one that suits where the job goes.
+    TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination);
+
+    /// The task that it is the face of. Borrowed; to be set before the task is started.
+    void setTask(const PrintTask *task) { m_task = task; }
+
+    AlertPresenter &alerts() override;
+    void askCredentials(const CredentialsQuestion &question,
+                        const CredentialStore::Answer &answer) override;
+    Instructions instructions(bool canWait) const override;
+    /// What -o and --output name was meant.
+    bool mayOverwrite(const QString &) override { return true; }
+    void writeSummary(const QList<SummaryLine> &lines) override;
+
+private:
+    std::optional<AlertPolicy> m_policy;
+    CredentialStore::Questioner m_questioner;
+    const PrintTask *m_task = nullptr;
+    std::optional<TerminalAlertPresenter> m_presenter; // once it is known where the job goes
+};
+
+} // namespace corvana

@@ -1,0 +1,166 @@
+#include "dialog/terminal/UnattendedRun.h"
+
+#include <utility>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QRegularExpression>
+#include <QTextStream>
+
+#include "dialog/task/PrintTask.h"
+#include "dialog/terminal/TerminalFace.h"
+#include "dialog/terminal/TerminationSignals.h"
+
+namespace corvana {
+
+namespace {
+
+using Phase = PrintTask::Phase;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UnattendedRun)
+};
+
+void sayProblem(const QString &problem)
+{
+    QTextStream(stderr) << "corvana-print: " << problem << "\n";
+}
+
+// A name as a shell takes it: queues may be called almost anything.
+QString shellWord(QString text)
+{
+    static const QRegularExpression plain(
+        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9_.:/-]+")));
+    if (plain.match(text).hasMatch())
+        return text;
+    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+// How a held job is let go, for whoever follows its instructions.
+QString releaseCommand(const PrintRequest &request, const Printer &printer, int job)
+{
+    const QString server = request.serverWasNamed
+                               ? QStringLiteral("-h %1 ").arg(shellWord(request.server.argument()))
+                               : QString();
+    const QString name = jobName(printer, job);
+    return QStringLiteral("lp %1-i %2 -H resume").arg(server, shellWord(name));
+}
+
+// For somebody who has mistyped the name of a printer that needs no server.
+QString withOtherPrinters(const QString &problem, const PrintRequest &request)
+{
+    QStringList names;
+    for (const Printer &printer : request.printers)
+        names += printer.name;
+    return names.isEmpty() ? problem
+                           : Texts::tr("%1 Printers that need no print server: %2.")
+                                 .arg(problem, names.join(QStringLiteral(", ")));
+}
+
+// One task, followed from its start to its end on standard output and standard error.
+class Run
+{
+public:
+    explicit Run(const PrintRequest &request)
+        : m_face(request.onAlert, m_termination), m_task(request, m_face)
+    {
+        m_face.setTask(&m_task);
+        QObject::connect(&m_termination, &TerminationSignals::received, &m_task,
+                         [this] { m_task.interrupt(PrintTask::OnInterrupt::CancelJob); });
+        QObject::connect(&m_task, &PrintTask::phaseChanged, &m_loop,
+                         [this](Phase phase) { phaseChanged(phase); });
+        QObject::connect(&m_task, &PrintTask::ignored, &m_loop, [](const QString &problem) {
+            sayProblem(QStringLiteral("lpoptions: ") + problem);
+        });
+        QObject::connect(&m_task, &PrintTask::refused, &m_loop,
+                         [this](const TaskRefusal &refusal) { end(refusal.problems); });
+        QObject::connect(&m_task, &PrintTask::progressed, &m_loop,
+                         [this](const JobProgress &progress) { showProgress(progress); });
+        QObject::connect(&m_task, &PrintTask::jobEnded, &m_loop,
+                         [this](const JobOutcome &outcome) { jobEnded(outcome); });
+    }
+
+    int exec()
+    {
+        if (m_termination.caught())
+            return m_termination.exitStatus();
+        m_task.startUnattended();
+        if (m_status < 0)
+            m_loop.exec();
+        return m_status != 0 && m_termination.caught() ? m_termination.exitStatus() : m_status;
+    }
+
+private:
+    void phaseChanged(Phase phase)
+    {
+        if (phase == Phase::Opened) {
+            // Not in the midst of what opened it.
+            QMetaObject::invokeMethod(&m_task, &PrintTask::print, Qt::QueuedConnection);
+        } else if (phase == Phase::Missing) {
+            end({withOtherPrinters(m_task.problem().text, m_task.request())});
+        } else if (phase == Phase::Ended && m_task.outcome() == JobOutcome()) {
+            if (m_termination.caught())
+                end({Texts::tr("Interrupted.")});
+            else
+                end(0); // there was no document: only the summary was asked for
+        }
+    }
+
+    // Whoever waits is told what for.
+    void showProgress(const JobProgress &progress)
+    {
+        if (std::exchange(m_stage, progress.stage) != progress.stage &&
+            progress.stage == JobProgress::Stage::Stopped)
+            QTextStream(stderr) << progress.text() << "\n";
+    }
+
+    void jobEnded(const JobOutcome &outcome)
+    {
+        if (!outcome.isDone()) {
+            sayProblem(outcome.text);
+            if (m_task.printsToFile())
+                QTextStream(stderr) << Texts::tr("Nothing was printed.") << "\n";
+            return end(1);
+        }
+        QTextStream out(stdout);
+        out << outcome.text << "\n";
+        if (m_task.isHeld())
+            out << Texts::tr("It waits until the instructions have been followed. Release it with: "
+                             "%1")
+                       .arg(releaseCommand(m_task.request(), m_task.printer(), outcome.job))
+                << "\n";
+        end(0);
+    }
+
+    void end(const QStringList &problems)
+    {
+        for (const QString &problem : problems)
+            sayProblem(problem);
+        QTextStream(stderr) << Texts::tr("Nothing was printed.") << "\n";
+        end(1);
+    }
+
+    void end(int status)
+    {
+        if (m_status < 0)
+            m_status = status;
+        m_loop.quit();
+    }
+
+    const TerminationSignals m_termination;
+    TerminalFace m_face;
+    PrintTask m_task;
+    QEventLoop m_loop;
+    JobProgress::Stage m_stage = JobProgress::Stage::Sending;
+    int m_status = -1; // until it is known
+};
+
+} // namespace
+
+int runUnattended(const PrintRequest &request)
+{
+    return Run(request).exec();
+}
+
+} // namespace corvana

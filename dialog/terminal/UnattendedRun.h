@@ -1,0 +1,15 @@
+#pragma once
+
+#include "dialog/task/PrintRequest.h"
+
+namespace corvana {
+
+/// Prints without a window, through the same panels: what a script or a terminal asks for.
+///
+/// Writes the summary and what became of the job to standard output, problems to standard error.
+/// A signal that asks the program to end cancels the job.
+/// Returns the program's exit status: 0 printed, or in the queue; 1 refused or failed; 128 and more
+/// ended by a signal.
+int runUnattended(const PrintRequest &request);
+
+} // namespace corvana

@@ -1,0 +1,54 @@
+#include "dialog/window/HelpWindow.h"
+
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace corvana {
+
+HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), m_browser(new QTextBrowser(this))
+{
+    m_browser->setObjectName(QStringLiteral("help"));
+    m_browser->setOpenLinks(false);
+    connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
+    auto *buttons = new QDialogButtonBox(this);
+    QPushButton *back = buttons->addButton(tr("Back"), QDialogButtonBox::ActionRole);
+    back->setObjectName(QStringLiteral("back"));
+    back->setEnabled(false);
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
+    connect(back, &QPushButton::clicked, m_browser, &QTextBrowser::backward);
+    connect(buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole), &QPushButton::clicked,
+            this, &QDialog::close);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_browser);
+    layout->addWidget(buttons);
+    const int em = fontMetrics().height();
+    resize(32 * em, 34 * em);
+}
+
+void HelpWindow::open(const HelpPage &page)
+{
+    setWindowTitle(page.title);
+    m_book = QFileInfo(page.file).canonicalPath();
+    QUrl url = QUrl::fromLocalFile(page.file);
+    url.setFragment(page.anchor);
+    m_browser->setSource(url);
+    show();
+    raise();
+    activateWindow();
+    m_browser->setFocus();
+}
+
+// Help never leaves its book, and a link that leads nowhere leaves the page as it is.
+void HelpWindow::follow(const QUrl &link)
+{
+    const QUrl target = m_browser->source().resolved(link);
+    const QFileInfo page(target.toLocalFile());
+    if (target.isLocalFile() && page.isFile() && page.canonicalFilePath().startsWith(m_book + u'/'))
+        m_browser->setSource(target);
+}
+
+} // namespace corvana

@@ -1,0 +1,146 @@
+#include "dialog/window/JobFooter.h"
+
+#include <QHBoxLayout>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "dialog/job/JobProgress.h"
+#include "dialog/window/ElidedToolButton.h"
+#include "dialog/window/chooser/ElidedLabel.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Its place is kept, so that a window has the same least width with it.
+void hideInPlace(QWidget *button)
+{
+    QSizePolicy policy = button->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    button->setSizePolicy(policy);
+    button->hide();
+}
+
+} // namespace
+
+JobFooter::JobFooter(QWidget *parent) : QWidget(parent)
+{
+    buildProgress();
+    buildButtons();
+    // In a row of its own: beside the buttons the progress would widen the window while it prints.
+    auto *progress = new QHBoxLayout;
+    progress->addWidget(m_progressText, 1);
+    progress->addWidget(m_progress);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_help);
+    row->addWidget(m_silenced);
+    row->addStretch();
+    row->addWidget(m_leave); // next to the stretch, so that its place is no gap
+    row->addWidget(m_print);
+    row->addWidget(m_cancel);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(progress);
+    layout->addLayout(row);
+}
+
+void JobFooter::buildProgress()
+{
+    m_progress = new QProgressBar(this);
+    m_progress->setObjectName(u"progress"_s);
+    m_progress->setRange(0, 0); // how many pages there will be is known to nobody
+    m_progress->setTextVisible(false);
+    m_progress->setAccessibleName(tr("Printing"));
+    m_progress->setMaximumWidth(8 * fontMetrics().height());
+    m_progress->hide();
+    m_progressText = new ElidedLabel(this);
+    m_progressText->setObjectName(u"progressText"_s);
+    m_progressText->hide();
+}
+
+void JobFooter::buildButtons()
+{
+    m_help = new QPushButton(tr("Help"), this);
+    m_help->setObjectName(u"helpButton"_s);
+    m_help->setAutoDefault(false);
+    m_help->setShortcut(QKeySequence::HelpContents);
+    m_silenced = new ElidedToolButton(this);
+    m_silenced->setObjectName(u"silencedAlerts"_s);
+    m_silenced->setText(tr("Show Silenced Messages Again"));
+    m_silenced->setAutoRaise(true);
+    m_silenced->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    hideInPlace(m_silenced);
+    m_print = new QPushButton(tr("&Print"), this);
+    m_print->setObjectName(u"print"_s);
+    m_print->setDefault(true);
+    m_leave = new QPushButton(tr("C&lose"), this);
+    m_leave->setObjectName(u"leave"_s);
+    m_leave->setAutoDefault(false);
+    m_leave->setToolTip(tr("The job goes on without this window."));
+    hideInPlace(m_leave);
+    m_cancel = new QPushButton(tr("Cancel"), this);
+    m_cancel->setObjectName(u"cancel"_s);
+    m_cancel->setAutoDefault(false);
+    connect(m_help, &QPushButton::clicked, this, &JobFooter::helpPressed);
+    connect(m_silenced, &QToolButton::clicked, this, &JobFooter::alertsWanted);
+    connect(m_print, &QPushButton::clicked, this, &JobFooter::printPressed);
+    connect(m_leave, &QPushButton::clicked, this, &JobFooter::leavePressed);
+    connect(m_cancel, &QPushButton::clicked, this, &JobFooter::cancelPressed);
+}
+
+void JobFooter::setCanPrint(bool canPrint)
+{
+    m_print->setEnabled(canPrint);
+}
+
+void JobFooter::showRunning(bool running)
+{
+    m_progressText->setText(running ? tr("Printing…") : QString());
+    m_progress->setRange(0, 0);
+    m_progress->setVisible(running);
+    m_progressText->setVisible(running);
+    m_leave->hide();
+    m_cancel->setText(tr("Cancel"));
+}
+
+void JobFooter::showProgress(const JobProgress &progress, bool canLeave)
+{
+    m_progressText->setText(progress.text());
+    const bool measured = progress.stage == JobProgress::Stage::Sending && progress.total > 0;
+    m_progress->setRange(0, measured ? 100 : 0);
+    if (measured)
+        m_progress->setValue(static_cast<int>(progress.sent * 100 / progress.total));
+    m_leave->setVisible(canLeave);
+}
+
+void JobFooter::showCanceling()
+{
+    m_leave->hide();
+    m_progressText->setText(tr("Canceling…"));
+    m_progress->setRange(0, 0);
+}
+
+void JobFooter::showClose()
+{
+    m_cancel->setText(tr("Close"));
+}
+
+void JobFooter::showSilencedAlerts(bool silenced)
+{
+    m_silenced->setVisible(silenced);
+}
+
+void JobFooter::focusPrint()
+{
+    m_print->setFocus(Qt::OtherFocusReason);
+}
+
+QList<QWidget *> JobFooter::buttons() const
+{
+    return {m_help, m_silenced, m_leave, m_print, m_cancel};
+}
+
+} // namespace corvana

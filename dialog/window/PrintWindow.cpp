@@ -1,0 +1,233 @@
+#include "dialog/window/PrintWindow.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QResizeEvent>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "dialog/window/HelpWindow.h"
+#include "dialog/window/JobFooter.h"
+#include "dialog/window/PrinterHeader.h"
+#include "dialog/window/SettingsPages.h"
+#include "dialog/window/SilencedAlerts.h"
+#include "dialog/window/WindowSize.h"
+#include "dialog/window/pages/MessageBar.h"
+#include "dialog/window/pages/PanelPage.h"
+#include "platform/foundation/Bundle.h"
+#include "platform/pde/PDEPanel.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+PrintWindow::PrintWindow(PrintRequest request, QWidget *parent)
+    : QDialog(parent),
+      m_task(std::make_unique<PrintTask>(std::move(request), static_cast<TaskFace &>(*this))),
+      m_growth(*this)
+{
+    buildWindow();
+    connectParts();
+    connectTask();
+    HelpManager::sharedHelpManager().setViewer(
+        [this](const HelpPage &page) { showHelpPage(page); });
+    m_task->start();
+    showListState();
+}
+
+PrintWindow::~PrintWindow()
+{
+    HelpManager::sharedHelpManager().setViewer(nullptr);
+    // What the task says while it goes is heard by nobody: the window is half gone.
+    m_task->disconnect(this);
+    m_task.reset();
+}
+
+void PrintWindow::buildWindow()
+{
+    setWindowTitle(tr("Print"));
+    setWindowIcon(QIcon::fromTheme(u"document-print"_s));
+    m_header = new PrinterHeader(m_task->request().title, m_task->output(), this);
+    m_message = new MessageBar(this);
+    m_message->setObjectName(u"message"_s);
+    m_pages = new SettingsPages(*m_task, this);
+    m_footer = new JobFooter(this);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_header);
+    layout->addWidget(m_message);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_footer);
+    const int em = fontMetrics().height();
+    resize(rememberedWindowSize(QSize(36 * em, 31 * em), screen()->availableSize()));
+}
+
+void PrintWindow::connectParts()
+{
+    addPageShortcuts();
+    connect(m_header, &PrinterHeader::picked, this, [this](const Printer &printer) {
+        // Picked again: nothing that was set so far is lost.
+        if (idOf(printer) != idOf(m_task->printer()))
+            m_task->choosePrinter(printer);
+    });
+    connect(m_header, &PrinterHeader::toFileChanged, this, [this](bool toFile) {
+        m_task->setPrintsToFile(toFile);
+        showPrinter();
+    });
+    connect(m_header, &PrinterHeader::outputChanged, m_task.get(), &PrintTask::setOutput);
+    connect(m_pages, &SettingsPages::entered, this, &PrintWindow::followPanelView);
+    connect(m_pages, &SettingsPages::retryPressed, m_task.get(), &PrintTask::retry);
+    connect(m_footer, &JobFooter::helpPressed, this, &PrintWindow::showHelp);
+    connect(m_footer, &JobFooter::printPressed, this, &PrintWindow::accept);
+    connect(m_footer, &JobFooter::leavePressed, m_task.get(), &PrintTask::leave);
+    connect(m_footer, &JobFooter::cancelPressed, this, &PrintWindow::reject);
+    connect(m_footer, &JobFooter::alertsWanted, this, [this] {
+        if (!bringAlertsBack(m_task->opened()->bundle->identifier()))
+            m_message->showMessage(MessageBar::Kind::Problem,
+                                   tr("Your preferences cannot be written."));
+        updateSilencedAlerts();
+    });
+}
+
+// The pages turn by keyboard wherever the focus is, not only inside them.
+void PrintWindow::addPageShortcuts()
+{
+    const std::pair<QKeyCombination, int> keys[] = {
+        {Qt::CTRL | Qt::Key_PageDown, 1},
+        {Qt::CTRL | Qt::Key_Tab, 1},
+        {Qt::CTRL | Qt::Key_PageUp, -1},
+        {Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1},
+    };
+    for (const auto &[key, step] : keys)
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this, step = step] { m_pages->turn(step); });
+}
+
+// The footer comes behind the pages, whose controls are younger than it.
+void PrintWindow::orderFocus()
+{
+    const QList<QWidget *> buttons = m_footer->buttons();
+    for (QWidget *button : buttons)
+        setTabOrder(previousInFocusChain(), button);
+}
+
+void PrintWindow::accept()
+{
+    // A key of the button leaves the focus where it is, and what was typed there untaken.
+    if (m_task->canPrint())
+        m_footer->focusPrint();
+    m_task->print();
+}
+
+void PrintWindow::reject()
+{
+    using Phase = PrintTask::Phase;
+    const Phase phase = m_task->phase();
+    if (phase == Phase::Canceling || phase == Phase::Leaving)
+        return;
+    if (phase == Phase::Printing)
+        return m_task->cancel();
+    QDialog::reject();
+}
+
+void PrintWindow::interrupt()
+{
+    // First, so that an alert which is closed is not taken for one that was answered.
+    m_task->interrupt(PrintTask::OnInterrupt::LeaveJob);
+    while (QWidget *modal = QApplication::activeModalWidget()) {
+        if (modal == this || !modal->close())
+            break;
+    }
+}
+
+void PrintWindow::paintEvent(QPaintEvent *event)
+{
+    QDialog::paintEvent(event);
+    // The panels come up after the first paint, so that the window is there at once.
+    if (!std::exchange(m_painted, true)) {
+        QTimer::singleShot(0, m_task.get(), &PrintTask::bringUp);
+        // After that, so that nothing of it delays what is on the screen already.
+        QTimer::singleShot(0, this, &PrintWindow::followList);
+    }
+}
+
+void PrintWindow::followPanelView()
+{
+    if (PanelPage *page = m_pages->currentPanelPage())
+        m_growth.follow(page->followView());
+    else
+        m_growth.giveBack();
+}
+
+void PrintWindow::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    m_growth.resized(event->size());
+}
+
+void PrintWindow::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && m_painted)
+        followList();
+}
+
+// Nobody looks at the list of printers in a window that is an icon.
+void PrintWindow::followList()
+{
+    if (isMinimized())
+        m_task->printers().pause();
+    else
+        m_task->printers().start();
+}
+
+// Closing the window is no order to cancel what is being printed; that is what Cancel is for.
+void PrintWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_task->isJobHandedOver())
+        return QDialog::closeEvent(event);
+    m_task->leave();
+    event->ignore(); // the job's end closes it
+}
+
+void PrintWindow::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (event->spontaneous())
+        return; // minimised
+    const QSize own = isMaximized() ? normalGeometry().size() : size();
+    rememberWindowSize({own.width(), own.height() - (isMaximized() ? 0 : m_growth.height())});
+}
+
+void PrintWindow::showHelp()
+{
+    const int panel = m_pages->currentPanel();
+    const bool panelHasNoHelp =
+        panel < 0 || m_task->opened()->panels->panels().at(panel)->shouldShowHelp();
+    if (!panelHasNoHelp)
+        return;
+    const QString page = m_task->request().helpPage;
+    if (page.isEmpty())
+        m_message->showMessage(MessageBar::Kind::Problem, tr("The help is not installed."));
+    else
+        showHelpPage({tr("Help on Printing"), page, QString()});
+}
+
+void PrintWindow::showHelpPage(const HelpPage &page)
+{
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    m_help->open(page);
+}
+
+void PrintWindow::updateSilencedAlerts()
+{
+    const OpenedPrinter *printer = m_task->opened();
+    m_footer->showSilencedAlerts(printer && printer->bundle &&
+                                 hasSilencedAlerts(printer->bundle->identifier()));
+}
+
+} // namespace corvana

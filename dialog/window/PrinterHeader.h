@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+
+#include "dialog/queues/Printer.h"
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+namespace corvana {
+
+class PrinterComboBox;
+class PrinterStatusLine;
+
+/// The upper part of the print window: which printer, where it stands and what it is doing, which
+/// document, and the file that it may be printed to.
+class PrinterHeader : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `title` is the job's, `output` the file that is proposed.
+    PrinterHeader(const QString &title, const QString &output, QWidget *parent = nullptr);
+
+    PrinterComboBox *printers() const { return m_printers; }
+    PrinterStatusLine *status() const { return m_status; }
+    /// A queue can be printed to a file instead; a printer of a PPD file (`fileOnly`) prints
+    /// nowhere but to a file.
+    void showDestination(bool fileOnly, bool toFile);
+    /// Puts the focus where the file is named.
+    void focusOutput();
+
+Q_SIGNALS:
+    /// The user picked a printer, perhaps the one that is open.
+    void picked(const corvana::Printer &printer);
+    void toFileChanged(bool toFile);
+    /// The user named a file; `confirmed` when it may be replaced.
+    void outputChanged(const QString &path, bool confirmed);
+
+private:
+    QWidget *buildOutputLabel();
+    QWidget *buildOutputRow(const QString &output);
+    void chooseOutput();
+
+    PrinterComboBox *m_printers;
+    PrinterStatusLine *m_status;
+    QCheckBox *m_toFile = nullptr;
+    QLabel *m_toFileLabel = nullptr;
+    QWidget *m_outputRow = nullptr;
+    QLineEdit *m_output = nullptr;
+};
+
+} // namespace corvana

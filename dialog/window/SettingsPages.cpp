@@ -1,0 +1,199 @@
+#include "dialog/window/SettingsPages.h"
+
+#include <utility>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "dialog/task/PrintTask.h"
+#include "dialog/window/pages/GeneralPage.h"
+#include "dialog/window/pages/OptionsPage.h"
+#include "dialog/window/pages/PanelPage.h"
+#include "dialog/window/pages/SummaryPage.h"
+#include "platform/pde/PDEPanel.h"
+#include "platform/toolkit/Mnemonics.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+SettingsPages::SettingsPages(PrintTask &task, QWidget *parent) : QTabWidget(parent), m_task(task)
+{
+    setObjectName(u"pages"_s);
+    setDocumentMode(false);
+    connect(this, &QTabWidget::currentChanged, this, &SettingsPages::enter);
+}
+
+void SettingsPages::open()
+{
+    const QString former = m_general ? tabText(currentIndex()) : QString();
+    close();
+    const QSignalBlocker blocker(this);
+    addPages();
+    for (int page = 0; page < count(); ++page) {
+        if (tabText(page) == former)
+            setCurrentIndex(page);
+    }
+}
+
+void SettingsPages::addPages()
+{
+    addGeneral();
+    const OpenedPrinter &printer = *m_task.opened();
+    for (const auto &panel : printer.panels->panels()) {
+        auto *page = new PanelPage;
+        m_panelPages += page;
+        addTab(page, withoutMnemonic(panel->panelName()));
+    }
+    if (m_panelPages.isEmpty() && OptionsPage::hasOptions(*printer.session)) {
+        m_options = new OptionsPage(*printer.session);
+        addTab(m_options, tr("Options"));
+        connect(m_options, &OptionsPage::proposed, &m_task, &PrintTask::propose);
+    }
+    m_summary = new SummaryPage;
+    addTab(m_summary, tr("Summary"));
+    m_general->setFocus();
+}
+
+void SettingsPages::addGeneral()
+{
+    m_general = new GeneralPage(*m_task.opened()->session);
+    m_general->setCopies(m_task.settings().copies());
+    addTab(m_general, tr("General"));
+    connect(m_general, &GeneralPage::proposed, &m_task, &PrintTask::propose);
+    connect(m_general, &GeneralPage::copiesEdited, this,
+            [this](int copies) { m_task.settings().askForCopies(copies, JobSettings::By::User); });
+    connect(m_general, &GeneralPage::pageRangesEdited, this,
+            [this](const QString &ranges) { m_task.settings().setPageRanges(ranges); });
+}
+
+bool SettingsPages::showPanels()
+{
+    if (std::exchange(m_showsPanels, true))
+        return false;
+    showPanelViews();
+    enter(currentIndex());
+    return true;
+}
+
+void SettingsPages::showPanelViews()
+{
+    const OpenedPrinter &printer = *m_task.opened();
+    for (int i = 0; i < m_panelPages.size(); ++i) {
+        if (QWidget *view = printer.panels->views().at(i))
+            m_panelPages.at(i)->setPanelView(view);
+        else
+            m_panelPages.at(i)->setProblem(
+                tr("This page cannot be shown: %1").arg(printer.panelProblem));
+    }
+}
+
+void SettingsPages::close()
+{
+    const QSignalBlocker blocker(this);
+    while (count() > 0)
+        delete widget(0);
+    m_panelPages.clear();
+    m_showsPanels = false;
+    m_general = nullptr;
+    m_options = nullptr;
+    m_summary = nullptr;
+}
+
+void SettingsPages::showWaiting(const QString &text, bool canRetry)
+{
+    // Said again every few seconds, it must not take the focus away.
+    const auto *shown = findChild<QLabel *>(u"waitingText"_s);
+    if (shown && shown->text() == text)
+        return;
+    close();
+    const QSignalBlocker blocker(this);
+    auto *page = new QWidget;
+    page->setObjectName(u"waiting"_s);
+    auto *label = new QLabel(text, page);
+    label->setObjectName(u"waitingText"_s);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    auto *layout = new QVBoxLayout(page);
+    layout->addStretch();
+    layout->addWidget(label);
+    if (canRetry) {
+        auto *retry = new QPushButton(tr("Try Again"), page);
+        retry->setObjectName(u"retry"_s);
+        retry->setAutoDefault(false);
+        connect(retry, &QPushButton::clicked, this, [this, retry] {
+            retry->setEnabled(false); // a second press would take the first try back
+            // Later: the button, which the next page replaces, is in the midst of its work.
+            QTimer::singleShot(0, this, &SettingsPages::retryPressed);
+        });
+        layout->addWidget(retry, 0, Qt::AlignHCenter);
+    }
+    layout->addStretch();
+    addTab(page, tr("General"));
+}
+
+void SettingsPages::refresh()
+{
+    if (!m_general)
+        return;
+    const JobSettings &settings = m_task.settings();
+    m_general->setMostCopies(settings.mostCopies());
+    m_general->setCopies(settings.copies());
+    // As it was typed, the text may hold blanks.
+    if (m_general->pageRanges() != settings.pageRanges())
+        m_general->setPageRanges(settings.pageRanges());
+    m_general->refresh();
+    if (m_options)
+        m_options->refresh();
+    if (currentWidget() == m_summary)
+        m_summary->setLines(m_task.summary());
+}
+
+bool SettingsPages::finishEditing()
+{
+    if (!m_options || m_options->finishEditing())
+        return true;
+    setCurrentWidget(m_options);
+    m_options->focusEditor();
+    return false;
+}
+
+void SettingsPages::showPageRanges()
+{
+    setCurrentWidget(m_general);
+    m_general->focusPageRanges();
+}
+
+int SettingsPages::currentPanel() const
+{
+    return static_cast<int>(m_panelPages.indexOf(currentPanelPage()));
+}
+
+PanelPage *SettingsPages::currentPanelPage() const
+{
+    return qobject_cast<PanelPage *>(currentWidget());
+}
+
+void SettingsPages::turn(int step)
+{
+    if (count() > 0)
+        setCurrentIndex((currentIndex() + step + count()) % count());
+}
+
+void SettingsPages::enter(int)
+{
+    if (!m_general || m_task.phase() == PrintTask::Phase::Opened)
+        return;
+    PanelHost &panels = *m_task.opened()->panels;
+    if (!panels.visit(currentPanel())) {
+        const QSignalBlocker blocker(this);
+        setCurrentWidget(m_panelPages.at(panels.visiblePanel()));
+    }
+    m_task.showSettings();
+    Q_EMIT entered();
+}
+
+} // namespace corvana

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QIcon>
+
+#include "dialog/window/chooser/PrinterTexts.h"
+
+namespace corvana {
+
+/// How a printer looks: what matters most of what is known of it.
+enum class PrinterLook { Ready, Printing, Stopped, TakesNoJobs, Gone };
+
+PrinterLook lookOf(const Printer &printer, Presence presence = Presence::Listed);
+
+/// The theme's printer, or one of our own where the theme has none, with a mark that tells the
+/// looks apart by its form as well as by its colour. Follows the palette; sharp at any scale.
+QIcon printerIcon(PrinterLook look);
+
+/// The sign of a search field: the theme's, or one of our own.
+QIcon searchIcon();
+
+} // namespace corvana

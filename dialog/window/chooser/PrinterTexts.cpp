@@ -1,0 +1,258 @@
+#include "dialog/window/chooser/PrinterTexts.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include <QCoreApplication>
+
+namespace corvana {
+
+namespace {
+
+struct PrinterTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(PrinterTexts)
+};
+
+constexpr qsizetype kLongestLine = 200; // UTF-16 code units
+
+// How bad a reason is, worst first. A keyword without a severity is an error (RFC 8011, 5.4.12).
+enum class Severity { Error, Warning, Report };
+
+struct Reason
+{
+    QString keyword; // without its severity
+    Severity severity = Severity::Error;
+};
+
+Reason parseReason(const QString &keyword)
+{
+    static const std::pair<QLatin1StringView, Severity> suffixes[] = {
+        {QLatin1StringView("-error"), Severity::Error},
+        {QLatin1StringView("-warning"), Severity::Warning},
+        {QLatin1StringView("-report"), Severity::Report}};
+    for (const auto &[suffix, severity] : suffixes) {
+        if (keyword.endsWith(suffix))
+            return {keyword.chopped(suffix.size()), severity};
+    }
+    return {keyword, Severity::Error};
+}
+
+struct ReasonWords
+{
+    QLatin1StringView keyword;
+    const char *words;
+};
+
+const ReasonWords kReasonWords[] = {
+    {QLatin1StringView("connecting-to-device"), QT_TRANSLATE_NOOP("PrinterTexts", "connecting")},
+    {QLatin1StringView("cover-open"), QT_TRANSLATE_NOOP("PrinterTexts", "cover open")},
+    {QLatin1StringView("cups-insecure-filter"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "driver not trusted by the server")},
+    {QLatin1StringView("cups-missing-filter"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "driver missing on the server")},
+    {QLatin1StringView("deactivated"), QT_TRANSLATE_NOOP("PrinterTexts", "switched off")},
+    {QLatin1StringView("developer-empty"), QT_TRANSLATE_NOOP("PrinterTexts", "developer used up")},
+    {QLatin1StringView("developer-low"), QT_TRANSLATE_NOOP("PrinterTexts", "developer low")},
+    {QLatin1StringView("door-open"), QT_TRANSLATE_NOOP("PrinterTexts", "door open")},
+    {QLatin1StringView("fuser-over-temp"), QT_TRANSLATE_NOOP("PrinterTexts", "fuser too hot")},
+    {QLatin1StringView("fuser-under-temp"), QT_TRANSLATE_NOOP("PrinterTexts", "fuser too cold")},
+    {QLatin1StringView("hold-new-jobs"), QT_TRANSLATE_NOOP("PrinterTexts", "new jobs are held")},
+    {QLatin1StringView("input-tray-missing"), QT_TRANSLATE_NOOP("PrinterTexts", "tray missing")},
+    {QLatin1StringView("interlock-open"), QT_TRANSLATE_NOOP("PrinterTexts", "cover open")},
+    {QLatin1StringView("marker-supply-empty"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "ink or toner used up")},
+    {QLatin1StringView("marker-supply-low"), QT_TRANSLATE_NOOP("PrinterTexts", "ink or toner low")},
+    {QLatin1StringView("marker-waste-almost-full"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "waste container almost full")},
+    {QLatin1StringView("marker-waste-full"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "waste container full")},
+    {QLatin1StringView("media-empty"), QT_TRANSLATE_NOOP("PrinterTexts", "out of paper")},
+    {QLatin1StringView("media-jam"), QT_TRANSLATE_NOOP("PrinterTexts", "paper jam")},
+    {QLatin1StringView("media-low"), QT_TRANSLATE_NOOP("PrinterTexts", "paper low")},
+    {QLatin1StringView("media-needed"), QT_TRANSLATE_NOOP("PrinterTexts", "paper needed")},
+    {QLatin1StringView("moving-to-paused"), QT_TRANSLATE_NOOP("PrinterTexts", "pausing")},
+    {QLatin1StringView("offline"), QT_TRANSLATE_NOOP("PrinterTexts", "not connected")},
+    {QLatin1StringView("opc-life-over"), QT_TRANSLATE_NOOP("PrinterTexts", "drum used up")},
+    {QLatin1StringView("opc-near-eol"), QT_TRANSLATE_NOOP("PrinterTexts", "drum nearly used up")},
+    {QLatin1StringView("output-area-almost-full"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "output tray almost full")},
+    {QLatin1StringView("output-area-full"), QT_TRANSLATE_NOOP("PrinterTexts", "output tray full")},
+    {QLatin1StringView("output-tray-missing"),
+     QT_TRANSLATE_NOOP("PrinterTexts", "output tray missing")},
+    {QLatin1StringView("paused"), QT_TRANSLATE_NOOP("PrinterTexts", "paused")},
+    {QLatin1StringView("shutdown"), QT_TRANSLATE_NOOP("PrinterTexts", "switched off")},
+    {QLatin1StringView("spool-area-full"), QT_TRANSLATE_NOOP("PrinterTexts", "print queue full")},
+    {QLatin1StringView("stopped-partly"), QT_TRANSLATE_NOOP("PrinterTexts", "partly stopped")},
+    {QLatin1StringView("stopping"), QT_TRANSLATE_NOOP("PrinterTexts", "stopping")},
+    {QLatin1StringView("timed-out"), QT_TRANSLATE_NOOP("PrinterTexts", "not answering")},
+    {QLatin1StringView("toner-empty"), QT_TRANSLATE_NOOP("PrinterTexts", "toner used up")},
+    {QLatin1StringView("toner-low"), QT_TRANSLATE_NOOP("PrinterTexts", "toner low")},
+};
+
+// A printer that needs no queue has no state; what it does with a job is worth the place.
+QString idleText(const Printer &printer)
+{
+    switch (printer.state) {
+    case PrinterState::Idle:
+        return PrinterTexts::tr("Idle");
+    case PrinterState::Processing:
+        return PrinterTexts::tr("Printing");
+    case PrinterState::Stopped:
+        return PrinterTexts::tr("Stopped");
+    case PrinterState::Unknown:
+        break;
+    }
+    return printer.origin == PrinterOrigin::File ? PrinterTexts::tr("Prints to a file")
+                                                    : QString();
+}
+
+QString joinedWords(QStringList words)
+{
+    words.removeAll(QString());
+    return words.join(PrinterTexts::tr(", ", "between the words of a printer's state"));
+}
+
+QString locationText(const Printer &printer)
+{
+    return plainLine(printer.location);
+}
+
+// `format` has a place for each of the two texts; it is not asked where one is missing.
+QString both(const QString &first, const QString &second, const QString &format)
+{
+    if (first.isEmpty() || second.isEmpty())
+        return first + second;
+    return format.arg(first, second);
+}
+
+// What directs the text around it would let a name change how its neighbours are read. The joiners
+// belong to the scripts that need them.
+bool mayBeShown(char32_t character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_NotAssigned:
+        return false;
+    case QChar::Other_Format:
+        return character == 0x200c || character == 0x200d;
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+QString plainLine(const QString &text)
+{
+    // A server may send megabytes; what is far beyond the end is not even looked at.
+    const QString line = text.left(8 * kLongestLine).simplified();
+    QString shown;
+    shown.reserve(qMin(line.size(), kLongestLine));
+    for (const char32_t character : line.toUcs4()) {
+        if (!mayBeShown(character))
+            continue;
+        const auto units = QChar::fromUcs4(character);
+        if (shown.size() + qsizetype(QStringView(units).size()) >= kLongestLine)
+            return shown + QChar(0x2026);
+        shown += units;
+    }
+    return shown;
+}
+
+QString plainToolTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+}
+
+QString displayName(const Printer &printer)
+{
+    const QString description = plainLine(printer.description);
+    return description.isEmpty() ? plainLine(printer.name) : description;
+}
+
+QString stateReasonText(const QString &keyword)
+{
+    const QString bare = parseReason(keyword).keyword;
+    const auto found =
+        std::find_if(std::begin(kReasonWords), std::end(kReasonWords),
+                     [&bare](const ReasonWords &row) { return row.keyword == bare; });
+    return found == std::end(kReasonWords) ? plainLine(keyword) : PrinterTexts::tr(found->words);
+}
+
+QStringList stateReasonTexts(const QStringList &keywords)
+{
+    QStringList ordered;
+    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Report}) {
+        for (const QString &keyword : keywords) {
+            if (keyword != QLatin1StringView("none") && parseReason(keyword).severity == severity)
+                ordered += stateReasonText(keyword);
+        }
+    }
+    ordered.removeAll(QString());
+    ordered.removeDuplicates(); // the same of two trays
+    return ordered;
+}
+
+QString stateText(const Printer &printer, Presence presence)
+{
+    if (presence == Presence::Gone)
+        return PrinterTexts::tr("No longer available");
+    QStringList words;
+    const bool stopped = printer.state == PrinterState::Stopped;
+    const QString message = plainLine(printer.stateMessage);
+    // Other states come with messages that say nothing ("Ready to print.") or are out of date.
+    if (stopped && !message.isEmpty())
+        words += PrinterTexts::tr("Stopped: %1").arg(message);
+    else if (stopped || printer.accepting)
+        words += idleText(printer);
+    if (!printer.accepting)
+        words += stopped ? PrinterTexts::tr("takes no jobs") : PrinterTexts::tr("Takes no jobs");
+    QStringList reasons = printer.stateReasons;
+    if (stopped)
+        reasons.removeIf([](const QString &keyword) {
+            return parseReason(keyword).keyword == QLatin1StringView("paused");
+        });
+    return plainLine(joinedWords(words + stateReasonTexts(reasons)));
+}
+
+QString detailText(const Printer &printer, Presence presence)
+{
+    return both(locationText(printer), stateText(printer, presence),
+                PrinterTexts::tr("%1 — %2", "location, state"));
+}
+
+QString statusText(const Printer &printer, Presence presence)
+{
+    return both(locationText(printer), stateText(printer, presence),
+                PrinterTexts::tr("%1 · %2", "location, state"));
+}
+
+QString accessibleText(const Printer &printer, Presence presence)
+{
+    return joinedWords({displayName(printer), locationText(printer), stateText(printer, presence)});
+}
+
+QString printerToolTip(const Printer &printer, Presence presence)
+{
+    QStringList lines;
+    const auto add = [&lines](const QString &format, const QString &text) {
+        if (!text.isEmpty())
+            lines += format.arg(text).toHtmlEscaped();
+    };
+    if (displayName(printer) != plainLine(printer.name))
+        add(PrinterTexts::tr("Name: %1"), plainLine(printer.name));
+    add(PrinterTexts::tr("Location: %1"), locationText(printer));
+    add(PrinterTexts::tr("Model: %1"), plainLine(printer.makeAndModel));
+    add(PrinterTexts::tr("State: %1"), stateText(printer, presence));
+    if (printer.state != PrinterState::Stopped || presence == Presence::Gone)
+        add(PrinterTexts::tr("Message: %1"), plainLine(printer.stateMessage));
+    add(PrinterTexts::tr("Address: %1"), plainLine(printer.uri));
+    return QStringLiteral("<qt><b>%1</b>%2%3</qt>")
+        .arg(displayName(printer).toHtmlEscaped(),
+             lines.isEmpty() ? QString() : QStringLiteral("<br>"),
+             lines.join(QStringLiteral("<br>")));
+}
+
+} // namespace corvana

@@ -1,0 +1,193 @@
+#include "dialog/window/pages/GeneralPage.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+
+#include "dialog/window/pages/CustomPaperSize.h"
+#include "dialog/session/CustomValue.h"
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/PpdSession.h"
+#include "dialog/session/Summary.h"
+#include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/MenuActions.h"
+#include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "platform/toolkit/ProgrammaticChange.h"
+
+namespace corvana {
+
+namespace {
+// What the choices of an option are called, in the order of the PPD; by their keywords where the
+// text cannot be read, as on every other page. Choices of the same text are different choices all
+// the same, and are told apart by their keywords.
+QStringList choiceTitles(const ppd_option_t &option)
+{
+    QStringList titles;
+    QHash<QString, int> uses;
+    for (int i = 0; i < option.num_choices; ++i) {
+        titles += ppdText(option.choices[i].text).value_or(ppdKeyword(option.choices[i].choice));
+        ++uses[titles.constLast()];
+    }
+    for (int i = 0; i < option.num_choices; ++i) {
+        if (uses.value(titles.at(i)) > 1)
+            titles[i] =
+                QStringLiteral("%1 (%2)").arg(titles.at(i), ppdKeyword(option.choices[i].choice));
+    }
+    return titles;
+}
+
+// popup::addItemWithTitle() would take an item of the same title away.
+void addChoice(QComboBox *popUp, const QString &title, const QString &choice)
+{
+    const ProgrammaticChange change;
+    popUp->addItem(title, choice);
+}
+
+} // namespace
+
+GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
+    : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
+      m_pageRanges(new QLineEdit(this))
+{
+    auto *layout = new QFormLayout(this);
+    layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_copies->setObjectName(QStringLiteral("copies"));
+    m_copies->setRange(1, kMostCopies);
+    ignoreWheelWithoutFocus(m_copies);
+    setFocusProxy(m_copies);
+    auto *row = new QHBoxLayout; // a number needs no more width than its digits
+    row->addWidget(m_copies);
+    row->addStretch();
+    layout->addRow(tr("&Copies:"), row);
+    qobject_cast<QLabel *>(layout->labelForField(row))->setBuddy(m_copies);
+    m_pageRanges->setObjectName(QStringLiteral("pageRanges"));
+    m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
+    m_pageRanges->setClearButtonEnabled(true);
+    layout->addRow(tr("Pa&ges:"), m_pageRanges);
+    connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPage::copiesEdited);
+    connect(m_pageRanges, &QLineEdit::textChanged, this,
+            [this] { Q_EMIT pageRangesEdited(pageRanges()); });
+    for (const QString &keyword : generalOptionKeywords())
+        addOption(keyword);
+    refresh();
+}
+
+int GeneralPage::copies() const
+{
+    return m_copies->value();
+}
+
+int GeneralPage::mostCopies() const
+{
+    return m_copies->maximum();
+}
+
+void GeneralPage::setMostCopies(int copies)
+{
+    m_copies->setMaximum(copies > 0 ? qMin(copies, kMostCopies) : kMostCopies);
+}
+
+void GeneralPage::setCopies(int copies)
+{
+    m_copies->setValue(copies);
+}
+
+QString GeneralPage::pageRanges() const
+{
+    return m_pageRanges->text().remove(u' ');
+}
+
+void GeneralPage::setPageRanges(const QString &ranges)
+{
+    m_pageRanges->setText(ranges);
+}
+
+void GeneralPage::focusPageRanges()
+{
+    m_pageRanges->setFocus();
+    m_pageRanges->selectAll();
+}
+
+void GeneralPage::addOption(const QString &keyword)
+{
+    ppd_option_t *option = ppdOption(m_session.ppd(), keyword);
+    if (!option)
+        return;
+    auto *popUp = new QComboBox(this);
+    popUp->setObjectName(keyword);
+    const QStringList titles = choiceTitles(*option);
+    for (int i = 0; i < option->num_choices; ++i) {
+        if (const QString choice = ppdKeyword(option->choices[i].choice); choice != kCustomChoice)
+            addChoice(popUp, titles.at(i), choice);
+    }
+    const QString title = ppdText(option->text).value_or(keyword);
+    popUp->setAccessibleName(title);
+    ignoreWheelWithoutFocus(popUp);
+    connectControlAction(popUp, [this, keyword, popUp](QWidget *) {
+        const QString choice = popup::representedObject(popUp, popUp->currentIndex()).toString();
+        if (choice == kCustomChoice)
+            proposeCustomPaper();
+        else
+            Q_EMIT proposed(keyword, choice);
+    });
+    if (keyword == kPageSizeOption)
+        postNotificationWhenMenuActs(popUp); // panels follow the paper menu
+    auto *layout = static_cast<QFormLayout *>(this->layout());
+    layout->addRow(withoutMnemonic(title) + u':', popUp);
+    m_popUps.insert(keyword, popUp);
+    if (keyword == kPageSizeOption && takesCustomPageSizes(m_session.ppd()))
+        addCustomPaperSize(popUp);
+}
+
+void GeneralPage::addCustomPaperSize(QComboBox *sizes)
+{
+    addChoice(sizes, tr("Custom Size"), kCustomChoice);
+    m_customPaper = new CustomPaperSize(m_session.ppd(), this);
+    connect(m_customPaper, &CustomPaperSize::entered, this, &GeneralPage::proposeCustomPaper);
+    auto *layout = static_cast<QFormLayout *>(this->layout());
+    layout->addRow(tr("Width × height:"), m_customPaper);
+    showCustomPaper();
+}
+
+void GeneralPage::proposeCustomPaper()
+{
+    const QSizeF size = m_customPaper->size();
+    const CustomValueCheck check = checkCustomValue(m_session.ppd(), kPageSizeOption,
+                                                    QStringLiteral("%1%2x%3")
+                                                        .arg(kCustomPrefix)
+                                                        .arg(size.width(), 0, 'f', 4)
+                                                        .arg(size.height(), 0, 'f', 4));
+    if (check.value)
+        Q_EMIT proposed(kPageSizeOption, *check.value);
+}
+
+// The fields start at the size of the paper that is in use.
+void GeneralPage::showCustomPaper()
+{
+    const Paper &paper = m_session.pageFormat().paper;
+    m_customPaper->setSize({paper.width, paper.height});
+    static_cast<QFormLayout *>(layout())->setRowVisible(
+        m_customPaper, !m_session.customValue(kPageSizeOption).isNull());
+}
+
+void GeneralPage::refresh()
+{
+    for (auto popUp = m_popUps.cbegin(); popUp != m_popUps.cend(); ++popUp)
+        refreshOption(popUp.key(), popUp.value());
+}
+
+void GeneralPage::refreshOption(const QString &keyword, QComboBox *popUp)
+{
+    const QString choice = m_session.markedChoice(keyword);
+    popup::selectItemAt(popUp, popup::indexOfItemWithRepresentedObject(popUp, choice));
+    if (keyword == kPageSizeOption && m_customPaper)
+        showCustomPaper();
+}
+
+} // namespace corvana

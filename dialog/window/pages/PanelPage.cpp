@@ -1,0 +1,55 @@
+#include "dialog/window/pages/PanelPage.h"
+
+#include <QLabel>
+
+#include "platform/toolkit/ViewFrame.h"
+
+namespace corvana {
+
+PanelPage::PanelPage(QWidget *parent) : QScrollArea(parent)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+}
+
+PanelPage::~PanelPage()
+{
+    if (!m_holdsPanelView)
+        return;
+    if (QWidget *view = takeWidget())
+        view->setParent(nullptr);
+}
+
+void PanelPage::setPanelView(QWidget *view)
+{
+    setWidget(view);
+    m_holdsPanelView = true;
+    // The page looks like the other pages; the scroll area has just decided otherwise.
+    view->setAutoFillBackground(false);
+    followView();
+    setFocusProxy(view);
+}
+
+int PanelPage::followView()
+{
+    if (!widget())
+        return 0;
+    const int needed =
+        qMax(requestedPixelSize(widget()).height(), widget()->minimumSizeHint().height());
+    widget()->setMinimumHeight(needed);
+    return needed - viewport()->height();
+}
+
+void PanelPage::setProblem(const QString &problem)
+{
+    auto *label = new QLabel(problem);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setMargin(12);
+    setWidget(label);
+}
+
+} // namespace corvana

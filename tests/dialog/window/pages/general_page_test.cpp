@@ -1,0 +1,108 @@
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+
+#include "dialog/window/pages/GeneralPage.h"
+#include "dialog/session/PpdSession.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Gestures.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList titles(const QComboBox *popUp)
+{
+    QStringList titles;
+    for (int i = 0; i < popUp->count(); ++i)
+        titles += popUp->itemText(i);
+    return titles;
+}
+
+} // namespace
+
+/// What every printer is set with.
+class GeneralPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyChoiceIsOffered_data()
+    {
+        QTest::addColumn<QList<PpdChoice>>("choices");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("different")
+            << QList<PpdChoice>{{"A", "One"}, {"B", "Two"}} << QStringList{u"One"_s, u"Two"_s};
+        QTest::newRow("of one text")
+            << QList<PpdChoice>{{"A", "Same"}, {"B", "Same"}, {"C", "Other"}}
+            << QStringList{u"Same (A)"_s, u"Same (B)"_s, u"Other"_s};
+        QTest::newRow("not UTF-8")
+            << QList<PpdChoice>{{"A", "One"}, {"B", "Fal\xff"}} << QStringList{u"One"_s, u"B"_s};
+        QTest::newRow("called like another one's keyword")
+            << QList<PpdChoice>{{"A", "B"}, {"B", "\xff"}} << QStringList{u"B (A)"_s, u"B (B)"_s};
+    }
+    void everyChoiceIsOffered()
+    {
+        QFETCH(QList<PpdChoice>, choices);
+        QFETCH(QStringList, shown);
+        const auto session = sessionFor(PpdBuilder().option("QXOutput", "Output To", "A", choices));
+        GeneralPage page(*session);
+        auto *output = page.findChild<QComboBox *>(u"QXOutput"_s);
+        QCOMPARE(titles(output), shown);
+        QCOMPARE(output->currentText(), shown.constFirst());
+        QSignalSpy proposed(&page, &GeneralPage::proposed);
+        QVERIFY(pick(output, shown.at(1)));
+        QCOMPARE(proposed.size(), 1);
+        QCOMPARE(proposed.at(0).at(1).toString(), u"B"_s);
+        session->change(u"QXOutput"_s, u"B"_s, PpdSession::Origin::Dialog);
+        page.refresh();
+        QCOMPARE(output->currentIndex(), 1);
+        QCOMPARE(proposed.size(), 1);
+    }
+
+    void noChoiceTakesAnothersPlace()
+    {
+        const auto session = sessionFor(PpdBuilder().option(
+            "QXOutput", "Output To", "A", {{"A", "Same (B)"}, {"B", "Same"}, {"C", "Same"}}));
+        const GeneralPage page(*session);
+        QCOMPARE(page.findChild<QComboBox *>(u"QXOutput"_s)->count(), 3);
+    }
+
+    void nothingIsChosenWhereNothingIsMarked()
+    {
+        const auto session = sessionFor(
+            PpdBuilder().option("QXOutput", "Output To", "Unknown", {{"A", "One"}, {"B", "Two"}}));
+        const GeneralPage page(*session);
+        QCOMPARE(page.findChild<QComboBox *>(u"QXOutput"_s)->currentIndex(), -1);
+    }
+
+    void noMoreCopiesAreOfferedThanThePrinterMakes_data()
+    {
+        QTest::addColumn<int>("most");
+        QTest::addColumn<int>("wanted");
+        QTest::addColumn<int>("copies");
+        QTest::newRow("fewer") << 10 << 3 << 3;
+        QTest::newRow("as many") << 10 << 10 << 10;
+        QTest::newRow("more") << 10 << 11 << 10;
+        QTest::newRow("one at a time") << 1 << 2 << 1;
+        QTest::newRow("nobody knows") << 0 << 9999 << 9999;
+        QTest::newRow("more than the dialog takes") << 2000000000 << 10000 << 9999;
+    }
+    void noMoreCopiesAreOfferedThanThePrinterMakes()
+    {
+        QFETCH(int, most);
+        QFETCH(int, wanted);
+        QFETCH(int, copies);
+        const auto session = sessionFor(smallPrinter());
+        GeneralPage page(*session);
+        page.setMostCopies(most);
+        page.setCopies(wanted);
+        QCOMPARE(page.copies(), copies);
+    }
+};
+
+QTEST_MAIN(GeneralPageTest)
+#include "general_page_test.moc"

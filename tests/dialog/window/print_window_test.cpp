@@ -1,0 +1,360 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QTreeView>
+
+#include "dialog/window/PrintWindow.h"
+#include "dialog/session/OptionRequest.h"
+#include "tests/dialog/job/FakeFilter.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Gestures.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// What the window owes the panels that it shows.
+class PrintWindowTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<FakeFilter> m_filter;
+    std::unique_ptr<PrintWindow> m_dialog;
+
+    void open(const QByteArray &script, const QList<Printer> &printers)
+    {
+        m_filter = std::make_unique<FakeFilter>(script);
+        PrintRequest request;
+        request.documents = {m_filter->document()};
+        request.title = u"Job"_s;
+        request.output = m_filter->output();
+        request.bundleRoots = builtBundleRoots();
+        request.printers = printers;
+        m_dialog = std::make_unique<PrintWindow>(request);
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+        QTRY_VERIFY(!m_dialog->findChildren<QScrollArea *>().isEmpty());
+    }
+    /// A printer without panels; the filter notes its arguments, one a line.
+    void openOffice(const QStringList &options, const PpdBuilder &ppd = officePrinter())
+    {
+        m_filter = std::make_unique<FakeFilter>("printf '%s\\n' \"$@\" >$DIR/arguments; echo ok\n");
+        writeFile(m_filter->ppdPath(), ppd.text());
+        PrintRequest request;
+        request.documents = {m_filter->document()};
+        request.title = u"Job"_s;
+        request.output = m_filter->output();
+        request.options = options.isEmpty() ? QList<JobOption>() : parseOptions(options);
+        request.printers = {small()};
+        m_dialog = std::make_unique<PrintWindow>(request);
+        m_dialog->show();
+        m_dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    }
+    QModelIndex option(const QString &keyword)
+    {
+        const QAbstractItemModel *model = control<QTreeView>(u"options"_s)->model();
+        return model
+            ->match(model->index(0, 0), Qt::UserRole, keyword, 1,
+                    Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0)
+            .siblingAtColumn(1);
+    }
+    QString shown(const QString &keyword) { return option(keyword).data().toString(); }
+    /// Goes to an option and types the beginning of a choice, or a value in place of the former.
+    void choose(const QString &keyword, const QString &typed)
+    {
+        auto *list = control<QTreeView>(u"options"_s);
+        list->setCurrentIndex(option(keyword));
+        if (!list->isAncestorOf(QApplication::focusWidget()))
+            list->setFocus();
+        else
+            control<QLineEdit>(u"customValue"_s)->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), typed.left(1));
+        QTest::keyClicks(QApplication::focusWidget(), typed.mid(1));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    static Printer sample() { return {u"cl5"_s, u"CL"_s, samplePpdPath(), 5}; }
+    Printer small() const { return {u"small"_s, u"Small"_s, m_filter->ppdPath(), 1}; }
+
+    template <typename Control> Control *control(const QString &name)
+    {
+        return m_dialog->findChild<Control *>(name);
+    }
+    QList<QWidget *> panelViews()
+    {
+        QList<QWidget *> views;
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        for (int i = 0; i < pages->count(); ++i) {
+            auto *page = qobject_cast<QScrollArea *>(pages->widget(i));
+            if (page && page->widget())
+                views += page->widget();
+        }
+        return views;
+    }
+    QString message()
+    {
+        auto *text = control<QLabel>(u"messageText"_s);
+        return control<QWidget>(u"message"_s)->isVisible() ? text->text() : QString();
+    }
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_filter.reset();
+    }
+
+    void panelsComeUpAfterTheFirstPaint()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+    }
+
+    void theOptionsThatRulesReadHaveControls_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::newRow("output destination") << u"QXOutput"_s;
+        QTest::newRow("who matches colors") << u"AP_ColorMatchingMode"_s;
+        QTest::newRow("two-sided") << u"Duplex"_s;
+        QTest::newRow("paper size") << u"PageSize"_s;
+    }
+    void theOptionsThatRulesReadHaveControls()
+    {
+        QFETCH(QString, keyword);
+        open("echo ok\n", {sample()});
+        auto *popUp = control<QComboBox>(keyword);
+        QVERIFY(popUp);
+        QVERIFY(popUp->isEnabled());
+        QVERIFY(popUp->count() >= 2);
+    }
+
+    void noAncestorOfAPanelIsEverDisabled()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        const auto verify = [&] {
+            for (QWidget *view : panelViews()) {
+                for (QWidget *widget = view; widget; widget = widget->parentWidget())
+                    QVERIFY2(widget->isEnabled(), qPrintable(widget->objectName()));
+            }
+        };
+        verify();
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        verify();
+        m_dialog->reject();
+        QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
+        verify();
+    }
+
+    void aCanceledJobLeavesTheDialogOpenAndReady()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        auto *print = control<QPushButton>(u"print"_s);
+        QTRY_VERIFY(print->isEnabled());
+        print->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        m_dialog->reject();
+        QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), 10000);
+        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_dialog->printedTo().isEmpty());
+    }
+
+    void aRunningJobDoesNotWidenTheWindow()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        const int width = m_dialog->width();
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        QVERIFY(control<QLabel>(u"progressText"_s)->isVisible());
+        // What a printer says may be long, and a job that a queue has can be left as well.
+        control<QLabel>(u"progressText"_s)->setText(QString(200, u'w'));
+        control<QPushButton>(u"leave"_s)->show();
+        m_dialog->layout()->activate();
+        QCOMPARE(m_dialog->width(), width);
+        m_dialog->reject();
+        QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
+        QVERIFY(!control<QLabel>(u"progressText"_s)->isVisible());
+    }
+
+    void noButtonOfTheFooterWidensTheWindow_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("silenced messages") << u"silencedAlerts"_s;
+        QTest::newRow("close") << u"leave"_s;
+    }
+    void noButtonOfTheFooterWidensTheWindow()
+    {
+        QFETCH(QString, button);
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        // Whatever else is in the window shall not decide how narrow it can be.
+        for (int i = control<QTabWidget>(u"pages"_s)->count(); i > 0; --i)
+            control<QTabWidget>(u"pages"_s)->removeTab(0);
+        for (QWidget *field : {control<QWidget>(u"printers"_s), control<QWidget>(u"output"_s)})
+            field->setMinimumWidth(1);
+        m_dialog->layout()->activate();
+        m_dialog->resize(1, m_dialog->height());
+        const int width = m_dialog->width();
+        control<QWidget>(button)->show();
+        m_dialog->layout()->activate();
+        QCOMPARE(m_dialog->width(), width);
+        QVERIFY(width < m_dialog->fontMetrics().height() * 36); // which is what it begins with
+    }
+
+    void aPrintedJobClosesTheDialogAndNamesItsPlace()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        control<QPushButton>(u"print"_s)->click();
+        QTRY_COMPARE_WITH_TIMEOUT(m_dialog->printedTo(), m_filter->output(), 10000);
+        QVERIFY(!m_dialog->isVisible());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("ok\n"));
+    }
+
+    void aDialogThatIsDestroyedInTheMidstOfAJobTakesItAlong()
+    {
+        open("echo $$ > $DIR/parent; touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        m_dialog.reset();
+        QVERIFY(m_filter->waitForEndOf(u"parent"_s));
+        QVERIFY(m_filter->leftOvers().isEmpty());
+    }
+
+    void anotherPrinterGetsNewPanelsAndTheOldOnesGo()
+    {
+        Printer other = sample();
+        other.name = u"second"_s;
+        other.description = u"Second"_s;
+        open("echo ok\n", {sample(), other});
+        QTRY_COMPARE(panelViews().size(), 2);
+        const QPointer<QWidget> before = panelViews().constFirst();
+        QVERIFY(pick(control<QComboBox>(u"printers"_s), u"Second"_s));
+        QTRY_VERIFY(before.isNull());
+        QTRY_COMPARE(panelViews().size(), 2);
+    }
+
+    void aPrinterWithoutPanelsShowsItsOptionsAsTheCommandLineSetThem()
+    {
+        openOffice({u"Tray=Lower Sleep=Custom.12"_s});
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        QCOMPARE(pages->count(), 3);
+        QCOMPARE(pages->tabText(1), u"Options"_s);
+        QTRY_COMPARE(shown(u"Tray"_s), u"Lower Tray"_s);
+        QCOMPARE(shown(u"Sleep"_s), u"Custom: 12"_s);
+        pages->setCurrentIndex(2);
+        const auto *summary = control<QTableWidget>(u"summary"_s);
+        QStringList lines;
+        for (int row = 0; row < summary->rowCount(); ++row)
+            lines += summary->item(row, 0)->text() + u": "_s + summary->item(row, 1)->text();
+        QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Two-Sided: Off"_s, u"Paper Size: A4"_s,
+                                     u"Paper Source: Lower Tray"_s, u"Sleep Time: 12"_s}));
+    }
+
+    void theOptionsOfAPrinterWithoutPanelsArePrinted()
+    {
+        openOffice({});
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        choose(u"Tray"_s, u"upper"_s);
+        QCOMPARE(shown(u"Tray"_s), u"Upper Tray"_s);
+        control<QPushButton>(u"print"_s)->click();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isVisible(), 10000);
+        const QByteArrayList arguments = m_filter->content(u"arguments"_s).split('\n');
+        QVERIFY(arguments.contains("Tray=Upper"));
+        QVERIFY(arguments.contains("Media=Plain"));
+    }
+
+    void aRefusedOptionIsPutBackAndTheWayOutTakesIt()
+    {
+        openOffice({u"Staple=Left"_s});
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
+        choose(u"Media"_s, u"trans"_s);
+        QVERIFY2(message().contains(u"Top Left"_s), qPrintable(message()));
+        QCOMPARE(shown(u"Media"_s), u"Plain Paper"_s);
+        control<QPushButton>(u"messageAction"_s)->click();
+        QCOMPARE(shown(u"Media"_s), u"Transparency"_s);
+        QCOMPARE(shown(u"Staple"_s), u"Off"_s);
+    }
+
+    void aRefusedValueIsSaidAsThePagesShowIt()
+    {
+        openOffice({u"Staple=Left"_s},
+                   officePrinter().constraint("Sleep", "Custom", "Staple", "Left"));
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
+        choose(u"Sleep"_s, u"Custom"_s);
+        choose(u"Sleep"_s, u"12"_s);
+        QCOMPARE(message(), u"“Sleep Time: 12” cannot be combined with “Staple: Top Left”."_s);
+    }
+
+    void aValueThatCannotBeTakenHoldsTheJobBack()
+    {
+        openOffice({u"Sleep=Custom.12"_s});
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        pages->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Sleep"_s), u"Custom: 12"_s);
+        choose(u"Sleep"_s, u"100"_s);
+        pages->setCurrentIndex(0);
+        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_dialog->isVisible());
+        QCOMPARE(pages->currentIndex(), 1);
+        QVERIFY(control<QLabel>(u"hint"_s)->text().contains(u"1 to 99"_s));
+        QCOMPARE(control<QLineEdit>(u"customValue"_s)->text(), u"100"_s);
+        QVERIFY(control<QLineEdit>(u"customValue"_s)->hasFocus());
+        choose(u"Sleep"_s, u"42"_s);
+        control<QPushButton>(u"print"_s)->click();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isVisible(), 10000);
+        QVERIFY(m_filter->content(u"arguments"_s).split('\n').contains("Sleep=Custom.42"));
+    }
+
+    void panelsLeaveNoPlaceForTheOptions()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        QVERIFY(!control<QTreeView>(u"options"_s));
+    }
+
+    void aPrinterWithoutFurtherOptionsHasNoPageForThem()
+    {
+        openOffice({}, PpdBuilder());
+        QCOMPARE(control<QTabWidget>(u"pages"_s)->count(), 2);
+    }
+
+    void aRefusedPickOffersTheWayOut()
+    {
+        open("echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        auto *duplex = control<QComboBox>(u"Duplex"_s);
+        QVERIFY(pick(duplex, u"Long-Edge Binding"_s));
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        auto *media = panelViews().at(0)->findChild<QComboBox *>(u"mediaTypePopup"_s);
+        QVERIFY(media);
+        const QString before = media->currentText();
+        QVERIFY(pick(media, u"Glossy Paper"_s));
+        QTRY_VERIFY2(message().contains(u"Glossy Paper"_s), qPrintable(message()));
+        QVERIFY2(message().contains(u"Long-Edge Binding"_s), qPrintable(message()));
+        QCOMPARE(media->currentText(), before); // refused, so shown as it was
+        control<QPushButton>(u"messageAction"_s)->click();
+        QTRY_COMPARE(media->currentText(), u"Glossy Paper"_s);
+        QCOMPARE(duplex->currentText(), u"Off (1-Sided)"_s);
+    }
+};
+
+QTEST_MAIN(PrintWindowTest)
+
+#include "print_window_test.moc"
