@@ -118,30 +118,30 @@ void PrintDialog::startJob(const QString &output)
     const JobTicket ticket =
         makeTicket(*m_printer, m_attributes, m_request.title, m_general->copies());
     m_message->dismiss();
-    m_jobOutput = output;
-    m_job = std::make_unique<FileQueue>();
-    connect(m_job.get(), &FileQueue::finished, this, &PrintDialog::jobFinished);
-    connect(m_job.get(), &FileQueue::pageReached, this,
-            [this](int page) { m_progressText->setText(tr("Printing page %1…").arg(page)); });
-    m_job->print(m_request.documents, ticket, m_printer->printer.ppdPath, output);
+    m_job = std::make_unique<FileJob>(
+        FileJobRequest{m_request.documents, ticket, m_printer->printer.ppdPath, output});
+    connect(m_job.get(), &Job::finished, this, &PrintDialog::jobFinished);
+    connect(m_job.get(), &Job::progressed, this,
+            [this](const JobProgress &progress) { m_progressText->setText(progress.text()); });
+    m_job->start();
     showJobRunning(true);
 }
 
-void PrintDialog::jobFinished(const QString &problem)
+void PrintDialog::jobFinished(const JobOutcome &outcome)
 {
     // The window may be gone when somebody asks what went wrong.
-    if (!problem.isEmpty() && !m_job->isCanceled())
-        qCWarning(lcPrinting).noquote() << problem;
+    if (outcome.kind == JobOutcome::Kind::Failed)
+        qCWarning(lcPrinting).noquote() << outcome.text;
     m_job.release()->deleteLater();
     showJobRunning(false);
-    if (!problem.isEmpty() && m_interrupted)
+    if (!outcome.isDone() && m_interrupted)
         return QDialog::reject();
-    if (!problem.isEmpty()) {
-        m_message->showMessage(MessageBar::Kind::Problem, problem);
+    if (!outcome.isDone()) {
+        m_message->showMessage(MessageBar::Kind::Problem, outcome.text);
         return;
     }
-    m_printedTo = QFileInfo(m_jobOutput).absoluteFilePath();
-    m_report = tr("Printed to %1").arg(m_printedTo);
+    m_printedTo = outcome.file;
+    m_report = outcome.text;
     QDialog::accept();
 }
 
@@ -154,11 +154,11 @@ void PrintDialog::startServerJob()
     request.follow = true;
     request.earlierJob = m_earlierJobs.value(idOf(m_chosen));
     m_message->dismiss();
-    m_serverJob = std::make_unique<ServerJob>();
-    connect(m_serverJob.get(), &ServerJob::progressed, this, &PrintDialog::showProgress);
-    connect(m_serverJob.get(), &ServerJob::finished, this, &PrintDialog::serverJobFinished);
+    m_serverJob = std::make_unique<ServerJob>(request);
+    connect(m_serverJob.get(), &Job::progressed, this, &PrintDialog::showProgress);
+    connect(m_serverJob.get(), &Job::finished, this, &PrintDialog::serverJobFinished);
     showJobRunning(true);
-    m_serverJob->print(request);
+    m_serverJob->start();
 }
 
 // Lets a job that its server has go on without this window.

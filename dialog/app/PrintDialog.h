@@ -11,7 +11,7 @@
 #include "dialog/app/PrintRequest.h"
 #include "dialog/app/PrinterSource.h"
 #include "dialog/chooser/PrinterModel.h"
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
 #include "platform/foundation/HelpManager.h"
 
@@ -137,7 +137,7 @@ private:
     bool readPageRanges();
     bool finishOptions();
     void startJob(const QString &output);
-    void jobFinished(const QString &problem);
+    void jobFinished(const JobOutcome &outcome);
     void startServerJob();
     void leave();
     void serverJobFinished(const JobOutcome &outcome);
@@ -158,7 +158,7 @@ private:
     int m_openedCopies = 1;                  // as the printer was opened
     bool m_copiesSet = false;                // by the user
     std::optional<QString> m_pageRanges;     // as the user left them; they go along like the copies
-    std::unique_ptr<FileQueue> m_job;
+    std::unique_ptr<FileJob> m_job;
     std::unique_ptr<ServerJob> m_serverJob;
     QHash<PrinterId, int> m_earlierJobs; // of printers that may print them yet
     SessionSnapshot m_opened;            // what the printer was set to when it was opened
@@ -174,7 +174,6 @@ private:
     bool m_leaving = false;   // the user does not want to see how the job ends
     bool m_printable = false; // nothing that belongs to the printer is missing
     SessionSnapshot m_shown;  // the state that the pages show
-    QString m_jobOutput;      // where the running job goes
 
     PrinterComboBox *m_printers = nullptr;
     PrinterStatusLine *m_status = nullptr;

@@ -14,7 +14,7 @@
 #include "dialog/app/QueueOpening.h"
 #include "dialog/app/TerminalQuestions.h"
 #include "dialog/app/TerminationSignals.h"
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/queues/UserQueues.h"
 #include "dialog/session/OptionNames.h"
@@ -179,18 +179,17 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
 int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const JobTicket &ticket,
                 const TerminationSignals &termination)
 {
-    FileQueue queue;
-    QString problem;
-    QObject::connect(&queue, &FileQueue::finished, [&problem](const QString &p) { problem = p; });
-    QObject::connect(&termination, &TerminationSignals::received, &queue, &FileQueue::cancel);
-    queue.print(request.documents, ticket, printer.printer.ppdPath, request.output);
+    FileJob job({request.documents, ticket, printer.printer.ppdPath, request.output});
+    QObject::connect(&termination, &TerminationSignals::received, &job, &Job::cancel);
     if (termination.caught())
-        queue.cancel(); // while the printer was being opened
-    if (!queue.wait()) {
-        const int status = refused({problem});
+        job.cancel(); // while the printer was being opened
+    job.start();
+    const JobOutcome outcome = job.wait();
+    if (!outcome.isDone()) {
+        const int status = refused({outcome.text});
         return termination.caught() ? termination.exitStatus() : status;
     }
-    QTextStream(stdout) << Texts::tr("Printed to %1").arg(request.output) << "\n";
+    QTextStream(stdout) << outcome.text << "\n";
     return 0;
 }
 
@@ -218,18 +217,18 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
                   const JobTicket &ticket, const ServerContext &server, bool held,
                   const TerminationSignals &termination)
 {
-    ServerJob job;
-    QObject::connect(&termination, &TerminationSignals::received, &job, &ServerJob::cancel);
+    ServerJob job(serverJobRequest(printer, server, request, ticket));
+    QObject::connect(&termination, &TerminationSignals::received, &job, &Job::cancel);
     // Whoever waits is told what for.
-    QObject::connect(&job, &ServerJob::progressed,
+    QObject::connect(&job, &Job::progressed,
                      [told = JobProgress::Stage::Sending](const JobProgress &progress) mutable {
                          if (std::exchange(told, progress.stage) != progress.stage &&
                              progress.stage == JobProgress::Stage::Stopped)
                              QTextStream(stderr) << progress.text() << "\n";
                      });
-    job.print(serverJobRequest(printer, server, request, ticket));
     if (termination.caught())
-        job.cancel();
+        job.cancel(); // while the printer was being opened
+    job.start();
     const JobOutcome outcome = job.wait();
     QTextStream(outcome.isDone() ? stdout : stderr)
         << (outcome.isDone() ? QString() : QStringLiteral("corvana-print: ")) << outcome.text
