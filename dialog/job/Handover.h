@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "dialog/job/Document.h"
+#include "dialog/job/JobOutcome.h"
 #include "dialog/job/JobProgress.h"
 #include "dialog/queues/Printer.h"
 #include "dialog/server/ServerWork.h"

@@ -1,18 +1,11 @@
 #include "dialog/job/ServerJob.h"
 
 #include <algorithm>
-#include <utility>
-
-#include <QEventLoop>
-#include <QLoggingCategory>
-#include <QTimer>
 
 #include "dialog/job/JobRequests.h"
 #include "dialog/session/JobAttributes.h"
 
 namespace corvana {
-
-Q_LOGGING_CATEGORY(lcServerJob, "corvana.dialog.serverjob", QtWarningMsg)
 
 namespace {
 
@@ -39,13 +32,17 @@ bool asksForNothing(const JobOption &option, int copies)
 
 } // namespace
 
-ServerJob::ServerJob(QObject *parent) : QObject(parent) {}
+ServerJob::ServerJob(const ServerJobRequest &request, QObject *parent)
+    : Job(parent), m_request(request)
+{
+}
 
 ServerJob::~ServerJob() = default;
 
-void ServerJob::print(const ServerJobRequest &request)
+void ServerJob::start()
 {
-    m_request = request;
+    if (m_canceled)
+        return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
     const QString problem = unsendableOption(m_request.ticket);
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
@@ -161,25 +158,22 @@ void ServerJob::send(const Document &document, const JobTicket &ticket)
     m_work = ServerWork(m_request.server, [this, request, document](ServerWorker &worker) {
         const JobOutcome outcome =
             handOver(worker, request, document, [&](const JobProgress &progress) {
-                worker.post([this, progress] { report(progress); });
+                worker.post([this, progress] { followed(progress); });
             });
         worker.post([this, outcome] { finish(outcome); });
     });
 }
 
-void ServerJob::report(const JobProgress &progress)
+void ServerJob::followed(const JobProgress &progress)
 {
-    if (m_outcome)
-        return;
     m_handedOver = m_handedOver || (progress.stage != JobProgress::Stage::Converting &&
                                     progress.stage != JobProgress::Stage::Sending);
-    if (std::exchange(m_progress, progress) != progress)
-        Q_EMIT progressed(progress);
+    report(progress);
 }
 
 void ServerJob::cancel()
 {
-    if (m_canceled || m_outcome)
+    if (m_canceled || outcome())
         return;
     m_canceled = true;
     if (m_conversion)
@@ -189,32 +183,12 @@ void ServerJob::cancel()
 
 void ServerJob::letGo()
 {
-    if (!m_handedOver || m_outcome || m_canceled)
+    if (!m_handedOver || outcome() || m_canceled)
         return;
     m_work = {};
-    finish({JobOutcome::Kind::InQueue, m_progress->job,
+    finish({JobOutcome::Kind::InQueue, progress()->job,
             tr("Job %1 is in the queue; it was not followed to its end.")
-                .arg(jobName(m_request.printer, m_progress->job))});
-}
-
-// The one way in which a job ends.
-void ServerJob::finish(const JobOutcome &outcome)
-{
-    qCInfo(lcServerJob).noquote() << outcome.text;
-    m_outcome = outcome;
-    QTimer::singleShot(0, this, [this] {
-        m_told = true;
-        Q_EMIT finished(*m_outcome);
-    });
-}
-
-JobOutcome ServerJob::wait()
-{
-    QEventLoop loop;
-    connect(this, &ServerJob::finished, &loop, &QEventLoop::quit);
-    if (!m_told)
-        loop.exec();
-    return *m_outcome;
+                .arg(jobName(m_request.printer, progress()->job))});
 }
 
 } // namespace corvana

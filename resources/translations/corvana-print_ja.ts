@@ -835,10 +835,6 @@
         <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
     </message>
     <message>
-        <source>Printed to %1</source>
-        <translation>%1 に出力しました</translation>
-    </message>
-    <message>
         <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
         <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
@@ -978,6 +974,17 @@
     <message>
         <source>inches</source>
         <translation>インチ</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FileJob</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>%1 に出力しました</translation>
     </message>
 </context>
 <context>
@@ -1215,10 +1222,6 @@ For the command line: %2</source>
         <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
     </message>
     <message>
-        <source>Printing page %1…</source>
-        <translation>%1 ページ目を印刷しています…</translation>
-    </message>
-    <message>
         <source>Help</source>
         <translation>ヘルプ</translation>
     </message>
@@ -1251,10 +1254,6 @@ For the command line: %2</source>
     <message>
         <source>Options</source>
         <translation>オプション</translation>
-    </message>
-    <message>
-        <source>Printed to %1</source>
-        <translation>%1 に出力しました</translation>
     </message>
     <message>
         <source>Close</source>

@@ -835,10 +835,6 @@
         <translation>由于打印机设置，作业未打印。</translation>
     </message>
     <message>
-        <source>Printed to %1</source>
-        <translation>已输出到 %1</translation>
-    </message>
-    <message>
         <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
         <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
     </message>
@@ -978,6 +974,17 @@
     <message>
         <source>inches</source>
         <translation>英寸</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FileJob</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>已输出到 %1</translation>
     </message>
 </context>
 <context>
@@ -1215,10 +1222,6 @@ For the command line: %2</source>
         <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
     </message>
     <message>
-        <source>Printing page %1…</source>
-        <translation>正在打印第 %1 页…</translation>
-    </message>
-    <message>
         <source>Help</source>
         <translation>帮助</translation>
     </message>
@@ -1251,10 +1254,6 @@ For the command line: %2</source>
     <message>
         <source>Options</source>
         <translation>选项</translation>
-    </message>
-    <message>
-        <source>Printed to %1</source>
-        <translation>已输出到 %1</translation>
     </message>
     <message>
         <source>Close</source>

@@ -27,6 +27,7 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
     /// What a file in the folder holds; null when there is none.
     QByteArray content(const QString &name) const;
+    bool hasOutput() const { return !content(QStringLiteral("out.ps")).isNull(); }
     /// Unfinished files beside the output.
     QStringList leftOvers() const;
     /// Waits until the script has made a file. Errors: false after ten seconds.

@@ -282,10 +282,10 @@ private Q_SLOTS:
     void whoLetsGoOfAJobLeavesItInTheQueue()
     {
         m_server->say({{IPP_JSTATE_PROCESSING}});
-        ServerJob job;
-        const QSignalSpy finished(&job, &ServerJob::finished);
+        ServerJob job(m_request);
+        const QSignalSpy finished(&job, &Job::finished);
         job.letGo(); // nothing to let go of
-        job.print(m_request);
+        job.start();
         job.letGo(); // not handed over yet
         QVERIFY(!job.isHandedOver());
         QTRY_VERIFY(job.isHandedOver());
@@ -322,9 +322,9 @@ private Q_SLOTS:
         if (!cancels)
             m_server->refuseToCancel();
         m_server->sayAfterCancel({state});
-        ServerJob job;
-        const QSignalSpy finished(&job, &ServerJob::finished);
-        job.print(m_request);
+        ServerJob job(m_request);
+        const QSignalSpy finished(&job, &Job::finished);
+        job.start();
         QTRY_VERIFY(job.isHandedOver());
         job.cancel();
         job.cancel();
@@ -340,8 +340,8 @@ private Q_SLOTS:
     void aJobThatIsCanceledInAWindowThatGoesIsTakenBackAllTheSame()
     {
         m_server->say({{IPP_JSTATE_PROCESSING}});
-        auto job = std::make_unique<ServerJob>();
-        job->print(m_request);
+        auto job = std::make_unique<ServerJob>(m_request);
+        job->start();
         QTRY_VERIFY(job->isHandedOver());
         job->cancel();
         job.reset();
@@ -409,8 +409,8 @@ private Q_SLOTS:
     void aJobWhoseWindowIsGoneStaysInTheQueue()
     {
         m_server->say({{IPP_JSTATE_PROCESSING}});
-        auto job = std::make_unique<ServerJob>();
-        job->print(m_request);
+        auto job = std::make_unique<ServerJob>(m_request);
+        job->start();
         QTRY_VERIFY(job->isHandedOver());
         job.reset();
         QTRY_VERIFY(!m_server->isInUse());
@@ -420,8 +420,8 @@ private Q_SLOTS:
 private:
     JobOutcome print()
     {
-        ServerJob job;
-        job.print(m_request);
+        ServerJob job(m_request);
+        job.start();
         return job.wait();
     }
 

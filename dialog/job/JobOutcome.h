@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+namespace corvana {
+
+/// What became of a job, and nothing that is not known to be so.
+struct JobOutcome
+{
+    enum class Kind {
+        Printed,      ///< the server says that it is complete, or the file has its name
+        InQueue,      ///< the server has all of it and will print it; `text` says what it waits for
+        Stopped,      ///< the server has all of it, and prints it when somebody releases it
+        Failed,       ///< it will not be printed
+        Canceled,     ///< somebody ended it, here or at the server
+        Unknown,      ///< it was sent, and nobody can say what became of it
+        AlreadyThere, ///< an earlier try turned out to have reached the queue; nothing was sent
+        PrinterChanged, ///< the printer's options are others by now; nothing was sent
+    };
+
+    Kind kind = Kind::Failed;
+    int job = 0;    ///< its number at the server; 0 when it never had one
+    QString text{}; ///< for a person: one or more sentences
+    QString file{}; ///< absolute path of a result that is a file; empty for a job of a server
+
+    bool operator==(const JobOutcome &) const = default;
+    /// Whether the server has the job, or the file is there, for the exit status.
+    bool isDone() const { return kind == Kind::Printed || kind == Kind::InQueue; }
+};
+
+} // namespace corvana
