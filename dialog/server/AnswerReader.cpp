@@ -41,7 +41,7 @@ bool AnswerReader::readBlock()
     else if (length == 0)
         m_end = End::Whole;
     else if (m_received > m_most)
-        m_end = End::TooLong;
+        m_end = End::TooLarge;
     return m_end == End::None;
 }
 
@@ -64,7 +64,13 @@ ssize_t AnswerReader::take(ipp_uchar_t *to, size_t bytes)
         m_taken += static_cast<qsizetype>(length);
         done += length;
     }
-    return done == bytes ? static_cast<ssize_t>(bytes) : -1;
+    if (done < bytes)
+        return -1;
+    if (!m_gate.pass(to, bytes)) {
+        m_end = End::TooLarge;
+        return -1;
+    }
+    return static_cast<ssize_t>(bytes);
 }
 
 IppMessage AnswerReader::readIpp()

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include "dialog/server/IppGate.h"
 #include "dialog/server/IppMessage.h"
 #include "dialog/server/ServerWait.h"
 
@@ -40,10 +41,10 @@ class AnswerReader
 {
 public:
     enum class End {
-        None,    ///< there is more
-        Whole,   ///< all of it was read
-        Broken,  ///< it stopped too early: the connection is gone, or the wait is over
-        TooLong, ///< it is longer than anything that is meant
+        None,     ///< there is more
+        Whole,    ///< all of it was read
+        Broken,   ///< it stopped too early: the connection is gone, or the wait is over
+        TooLarge, ///< it is longer than anything that is meant, or would become too much here
     };
 
     /// Both are borrowed. `most`: units bytes.
@@ -52,7 +53,8 @@ public:
     /// The whole of it. Errors: nothing; end() says why.
     std::optional<QByteArray> readAll();
 
-    /// The IPP message with which it begins. What may stand behind it is not waited for.
+    /// The IPP message with which it begins, unless that is more than IppBounds allow. What may
+    /// stand behind it is not waited for.
     /// Errors: null; end() says why, `Whole` or `None` when it is no IPP.
     IppMessage readIpp();
 
@@ -69,6 +71,7 @@ private:
     ServerWait &m_wait;
     qint64 m_most;
     AnswerPace m_pace;
+    IppGate m_gate;
     QByteArray m_block;
     qsizetype m_taken = 0; ///< of the block
     qint64 m_received = 0;

@@ -381,6 +381,8 @@ void ServerConnection::noteUnread(const AnswerReader &reader)
 {
     if (reader.end() == AnswerReader::End::Broken)
         noteFailure(HTTP_STATUS_ERROR);
+    else if (reader.end() == AnswerReader::End::TooLarge)
+        fail(ServerProblem::Kind::TooLarge);
     else
         fail(ServerProblem::Kind::NotUnderstood);
 }

@@ -35,6 +35,10 @@ QString ServerProblem::text(const ServerAddress &server) const
     case Kind::NotUnderstood:
         return withDetail(Texts::tr("What “%1” answers is not what a print server says.").arg(who),
                           detail);
+    case Kind::TooLarge:
+        return Texts::tr(
+                   "What “%1” answers is larger than anything that a print server has to say.")
+            .arg(who);
     case Kind::PasswordNeeded:
         return Texts::tr("The print server “%1” wants a user and a password.").arg(who);
     case Kind::PasswordRefused:
@@ -101,7 +105,7 @@ QString ServerProblem::brief(const ServerAddress &server) const
 bool ServerProblem::mayPass() const
 {
     return kind == Kind::Unreachable || kind == Kind::NoAnswer || kind == Kind::ConnectionLost ||
-           kind == Kind::NotUnderstood;
+           kind == Kind::NotUnderstood || kind == Kind::TooLarge;
 }
 
 } // namespace corvana

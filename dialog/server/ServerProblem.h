@@ -17,6 +17,7 @@ struct ServerProblem
         NoAnswer,           ///< a connection, and then silence for longer than is bearable
         ConnectionLost,     ///< it hung up in the midst of a request or its answer
         NotUnderstood,      ///< what it answered is no HTTP or no IPP
+        TooLarge,           ///< its answer is larger, or nested deeper, than any that is meant
         PasswordNeeded,     ///< nobody was there to be asked for one
         PasswordRefused,    ///< the user and password that were given are wrong
         PasswordCanceled,   ///< the user did not want to give one

@@ -718,6 +718,10 @@
         <translation>「%1」の応答は、プリントサーバーのものではありません。</translation>
     </message>
     <message>
+        <source>What “%1” answers is larger than anything that a print server has to say.</source>
+        <translation>「%1」の応答は、プリントサーバーのものとしては大きすぎます。</translation>
+    </message>
+    <message>
         <source>The print server “%1” wants a user and a password.</source>
         <translation>プリントサーバー「%1」にはユーザー名とパスワードが必要です。</translation>
     </message>

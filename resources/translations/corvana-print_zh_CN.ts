@@ -718,6 +718,10 @@
         <translation>“%1”的响应不是打印服务器的响应。</translation>
     </message>
     <message>
+        <source>What “%1” answers is larger than anything that a print server has to say.</source>
+        <translation>“%1”的响应过大，不可能是打印服务器的响应。</translation>
+    </message>
+    <message>
         <source>The print server “%1” wants a user and a password.</source>
         <translation>打印服务器“%1”需要用户名和密码。</translation>
     </message>

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "dialog/server/AnswerReader.h"
+#include "tests/dialog/server/IppBytes.h"
 #include "tests/dialog/server/ServerScene.h"
 #include "tests/dialog/server/WorkerThread.h"
 #include "tests/support/cups/CannedServer.h"
@@ -16,6 +17,58 @@ using Kind = ServerProblem::Kind;
 using State = ServerConnection::File::State;
 
 Q_DECLARE_METATYPE(std::chrono::milliseconds)
+
+namespace {
+
+const QByteArray kIpp = "Content-Type: application/ipp\r\n";
+
+// As HTTP calls it; zlib's own head and end are not a part of it.
+QByteArray deflated(const QByteArray &content)
+{
+    const QByteArray bytes = qCompress(content, 1);
+    return bytes.sliced(6, bytes.size() - 10);
+}
+
+// Queues that tell as much of themselves as CUPS does.
+QByteArray talkativeQueues(int queues)
+{
+    QByteArray content;
+    for (int queue = 0; queue < queues; ++queue) {
+        content += static_cast<char>(IPP_TAG_PRINTER);
+        for (int i = 0; i < 30; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            content += ippField(IPP_TAG_NAME, "about-" + number,
+                                "queue" + QByteArray::number(queue) + '-' + number);
+            content += ippField(IPP_TAG_KEYWORD, "can-" + number, "what-all-of-them-can");
+            content += ippField(IPP_TAG_BOOLEAN, "does-" + number, "\1");
+            content += ippNumberField("number-" + number);
+        }
+    }
+    return ippAnswerBytes(content);
+}
+
+// Every paper with every tray and every type, as printers without a driver list them.
+QByteArray manyMedia(int media)
+{
+    QByteArray content;
+    for (int i = 0; i < media; ++i) {
+        content += ippBegin(i == 0 ? "media-col-database" : "");
+        content += ippMember("media-size") + ippBegin();
+        for (const char *name : {"x-dimension", "y-dimension"})
+            content += ippMember(name) + ippNumberField({});
+        content += ippEnd();
+        for (const char *name : {"media-top-margin", "media-bottom-margin", "media-left-margin",
+                                 "media-right-margin", "media-thickness"})
+            content += ippMember(name) + ippNumberField({});
+        for (const char *name : {"media-source", "media-type", "media-color", "media-key"})
+            content += ippMember(name) +
+                       ippField(IPP_TAG_KEYWORD, {}, "choice-" + QByteArray::number(i % 40));
+        content += ippEnd();
+    }
+    return ippAnswerBytes(content);
+}
+
+} // namespace
 
 /// Answers that are none, that have no end, or that take their time.
 class ServerAnswerTest : public QObject
@@ -81,12 +134,59 @@ private Q_SLOTS:
         QCOMPARE(connection.problem().kind, Kind::NotUnderstood);
     }
 
+    // libcups goes down into each collection of a collection until its stack is gone, and makes
+    // sixty times their size of groups.
+    void anAnswerThatWouldBecomeTooMuchIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        const QByteArray nested = ippAnswerBytes(ippNested(100'000));
+        const QByteArray groups = ippAnswerBytes(QByteArray(8'000'000, IPP_TAG_JOB));
+        QTest::newRow("collections within collections") << httpAnswer(200, nested, kIpp).bytes;
+        QTest::newRow("collections that never end")
+            << httpAnswer(200, nested.first(1'000'000), kIpp).bytes;
+        QTest::newRow("groups") << httpAnswer(200, groups, kIpp).bytes;
+        QTest::newRow("groups, compressed")
+            << httpAnswer(200, deflated(groups), kIpp + "Content-Encoding: deflate\r\n").bytes;
+        QTest::newRow("attributes")
+            << httpAnswer(200, ippAnswerBytes(ippNumberField("n").repeated(260'000)), kIpp).bytes;
+    }
+    void anAnswerThatWouldBecomeTooMuchIsRefused()
+    {
+        QFETCH(QByteArray, answer);
+        const CannedServer server([&](const CannedRequest &) { return CannedAnswer{answer}; });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY(!connection.request(aboutQueue()));
+        QCOMPARE(connection.problem().kind, Kind::TooLarge);
+        QVERIFY(connection.problem().mayPass());
+        QTRY_COMPARE(server.openConnections(), 0);
+    }
+
+    void theLargestHonestAnswersAreRead_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        const QByteArray queues = talkativeQueues(2000);
+        QTest::newRow("queues") << httpAnswer(200, queues, kIpp).bytes;
+        QTest::newRow("queues, compressed")
+            << httpAnswer(200, deflated(queues), kIpp + "Content-Encoding: deflate\r\n").bytes;
+        QTest::newRow("media") << httpAnswer(200, manyMedia(1000), kIpp).bytes;
+    }
+    void theLargestHonestAnswersAreRead()
+    {
+        QFETCH(QByteArray, answer);
+        const CannedServer server([&](const CannedRequest &) { return CannedAnswer{answer}; });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        const IppMessage message = connection.request(aboutQueue());
+        QVERIFY2(message, qPrintable(connection.problem().text(connection.context().address)));
+        QVERIFY(connection.request(aboutQueue()));
+        QCOMPARE(server.requests().size(), 2);
+    }
+
     void anAnswerWithoutEndEnds_data()
     {
         QTest::addColumn<int>("bytes");
         QTest::addColumn<std::chrono::milliseconds>("pause");
         QTest::addColumn<ServerProblem::Kind>("kind");
-        QTest::newRow("as fast as it is read") << 30000 << 0ms << Kind::NotUnderstood;
+        QTest::newRow("as fast as it is read") << 30000 << 0ms << Kind::TooLarge;
         QTest::newRow("never silent for long") << 1 << 50ms << Kind::NoAnswer;
     }
     void anAnswerWithoutEndEnds()

@@ -156,7 +156,7 @@ private Q_SLOTS:
         const auto file = connection.get("/printers/a.ppd");
         QCOMPARE(file.state, State::Failed);
         QVERIFY(file.content.isEmpty());
-        QCOMPARE(connection.problem().kind, Kind::NotUnderstood);
+        QCOMPARE(connection.problem().kind, Kind::TooLarge);
     }
 
 private:
