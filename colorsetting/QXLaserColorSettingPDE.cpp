@@ -151,9 +151,7 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
     connections.outlet(QStringLiteral("blueSlider"), blueSlider);
     connections.outlet(QStringLiteral("saturationSlider"), saturationSlider);
     connections.action(QStringLiteral("effectValueDidChange"), [this](QWidget *sender) {
-        // The sliders may have been moved since the last report: what a user
-        // reports now is no duplicate of it.
-        if (std::exchange(m_effectsMoved, false))
+        if (std::exchange(m_lastReportIsStale, false))
             EffectVal() = {-1, 0};
         effectValueDidChange(sender);
     });
