@@ -227,7 +227,9 @@ void QXLaserColorSettingPDE::toggleShowOption(QWidget *button)
         keepBlackPlainWithGray();
 }
 
-// Gray is printed with black toner alone already.
+// Gray is printed with black toner alone already. Nothing else disables enhanced black: a box that
+// cannot be ticked is saved as off, and who matches the colours must not cost the user their
+// choice.
 void QXLaserColorSettingPDE::keepBlackPlainWithGray()
 {
     if (grayCheckBox && enhancedBlackCheckBox && grayCheckBox->isChecked())
@@ -304,7 +306,6 @@ void QXLaserColorSettingPDE::checkUIConstraints()
             if (matching == QVariant(QString(kNone)) && !printsInGray)
                 disableEffect(kEffectKeywords[i]);
         }
-        keepBlackPlainWithGray();
     } else {
         // In colour the flag stays as it was.
         if (mono)
@@ -312,6 +313,7 @@ void QXLaserColorSettingPDE::checkUIConstraints()
         for (const QLatin1StringView keyword : kEffectKeywords)
             disableEffect(keyword);
     }
+    keepBlackPlainWithGray();
 
     if (driverMatchesColors && !matching.isValid())
         return;
