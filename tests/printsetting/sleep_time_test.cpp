@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QTest>
 
 #include "platform/toolkit/LabelColor.h"
@@ -82,6 +83,28 @@ private Q_SLOTS:
         QCOMPARE(m_panel->outputBin().value(kMinutes), QVariant(result));
         QCOMPARE(m_panel->sleepTimeStepper->value(), result.toInt());
         QVERIFY2(m_host->calls().isEmpty(), "the host is not asked about minutes");
+    }
+
+    void aPastedTextGivesTheNumberInIt_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("a sentence") << u"wait about 45 minutes"_s << u"45"_s;
+        QTest::newRow("a number far behind")
+            << u"this is how long it has always been here: 17"_s << u"17"_s;
+        QTest::newRow("two numbers") << u"either 4 or, better, 2"_s << u"42"_s;
+        QTest::newRow("a number that is too long") << u"123456789012345678901234"_s << u"60"_s;
+    }
+    void aPastedTextGivesTheNumberInIt()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, result);
+        edit(u"60"_s);
+        QGuiApplication::clipboard()->setText(pasted);
+        m_panel->sleepTimeField->selectAll();
+        m_panel->sleepTimeField->paste();
+        QCOMPARE(m_panel->sleepTimeField->text(), result);
+        QCOMPARE(m_panel->stored(kMinutes), result);
     }
 
     void deletingTheOnlyDigitBringsItBackAtOnce()
