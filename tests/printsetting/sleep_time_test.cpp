@@ -1,9 +1,11 @@
 #include <QClipboard>
 #include <QTest>
+#include <QToolTip>
 
 #include "platform/toolkit/LabelColor.h"
 #include "tests/printsetting/PrintSettingProbe.h"
 #include "tests/support/Gestures.h"
+#include "tests/support/PpdBuilder.h"
 #include "tests/support/TestBundle.h"
 
 using namespace corvana;
@@ -85,6 +87,64 @@ private Q_SLOTS:
         QVERIFY2(m_host->calls().isEmpty(), "the host is not asked about minutes");
     }
 
+    void aRefusedNumberLeavesTheCaretBehindTheFormerOne()
+    {
+        m_panel->kSleepTimeMin = 5;
+        m_panel->kSleepTimeMax = 240;
+        edit(u"60"_s);
+        m_panel->sleepTimeField->selectAll();
+        enter(m_panel->sleepTimeField, u"4"_s);
+        QCOMPARE(m_panel->sleepTimeField->text(), u"60"_s);
+        QVERIFY(!m_panel->sleepTimeField->hasSelectedText());
+        QCOMPARE(m_panel->sleepTimeField->cursorPosition(), 2);
+        enter(m_panel->sleepTimeField, u"5"_s);
+        QCOMPARE(m_panel->stored(kMinutes), u"60"_s); // no number of the halves: 605 is too much
+    }
+
+    void theFieldSaysWhatItTakes_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"en", "ja", "zh_CN"})
+            QTest::newRow(language) << QString::fromLatin1(language);
+    }
+    void theFieldSaysWhatItTakes()
+    {
+        QFETCH(QString, language);
+        const UserLanguage user(language);
+        const auto host =
+            RecordingHost::forPpd(PpdBuilder()
+                                      .option("QXSleepTime", "Sleep", "Default",
+                                              {{"Default", "Default"}, {"Custom", "Manual"}})
+                                      .customInteger("QXSleepTime", "Time", "Minutes", 5, 240)
+                                      .text());
+        PrintSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        const QString said = panel.sleepTimeField->toolTip();
+        QVERIFY2(said.endsWith(u": 5 – 240"_s), qUtf8Printable(said));
+        QVERIFY(!said.startsWith(u"AllowedNumbers"_s));
+        QCOMPARE(panel.sleepTimeField->accessibleDescription(), said);
+    }
+
+    void aRefusedNumberIsExplainedAtOnce()
+    {
+        QWidget window;
+        m_panel->panelView()->setParent(&window);
+        for (QWidget *part = m_panel->sleepTimeField; part != &window; part = part->parentWidget())
+            part->show();
+        window.show();
+        QVERIFY(m_panel->sleepTimeField->isVisible());
+        edit(u"7"_s);
+        QVERIFY(!QToolTip::isVisible());
+        edit(u"200"_s);
+        QCOMPARE(m_panel->sleepTimeField->text(), u"7"_s);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), m_panel->sleepTimeField->toolTip());
+        QToolTip::hideText();
+        m_panel->panelView()->setParent(nullptr);
+    }
+
     void aPastedTextGivesTheNumberInIt_data()
     {
         QTest::addColumn<QString>("pasted");
@@ -126,7 +186,7 @@ private Q_SLOTS:
         QTest::newRow("a digit in front") << u"1"_s << 0 << u"2"_s << u"21"_s << 1;
         QTest::newRow("a letter in the middle") << u"34"_s << 1 << u"x"_s << u"34"_s << 1;
         QTest::newRow("a letter in front") << u"34"_s << 0 << u"x"_s << u"34"_s << 0;
-        QTest::newRow("a third digit in front") << u"50"_s << 0 << u"1"_s << u"50"_s << 0;
+        QTest::newRow("a third digit in front") << u"50"_s << 0 << u"1"_s << u"50"_s << 2;
         QTest::newRow("a third digit at the end") << u"50"_s << 2 << u"1"_s << u"50"_s << 2;
         QTest::newRow("a zero in front") << u"5"_s << 0 << u"0"_s << u"5"_s << 0;
         QTest::newRow("a full-width digit") << u"5"_s << 0 << u"\uff11"_s << u"15"_s << 1;
