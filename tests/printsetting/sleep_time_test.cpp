@@ -16,6 +16,66 @@ namespace {
 
 const QString kMinutes = u"QXSleepTime_Time"_s;
 
+// Minutes from 5 to 240, while most printers have 1 to 99.
+QByteArray printerWithLongSleepTimes()
+{
+    return PpdBuilder()
+        .option("QXSleepTime", "Sleep", "Custom", {{"Default", "Default"}, {"Custom", "Manual"}})
+        .customInteger("QXSleepTime", "Time", "Minutes", 5, 240)
+        .text();
+}
+
+// An operation that keeps the minutes inside the printer's range, and what it makes of them.
+struct BoundedOperation
+{
+    const char *name;
+    qint64 (*resultFor)(PrintSettingProbe &panel, int minutes);
+};
+
+void showWithoutReport(QWidget *control, int minutes)
+{
+    const QSignalBlocker silent(control);
+    if (auto *field = qobject_cast<QLineEdit *>(control))
+        field->setText(QString::number(minutes));
+    else if (auto *stepper = qobject_cast<Stepper *>(control))
+        stepper->setValue(minutes);
+}
+
+constexpr BoundedOperation kBoundedOperations[] = {
+    {"reading the field",
+     [](PrintSettingProbe &panel, int minutes) {
+         showWithoutReport(panel.sleepTimeField, minutes);
+         panel.getUIValues();
+         return panel.outputBin().value(kMinutes).toLongLong();
+     }},
+    {"showing",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.m_outputBin.insert(kMinutes, QString::number(minutes));
+         panel.updateSleepTimeUI();
+         return panel.sleepTimeField->text().toLongLong();
+     }},
+    {"stepping",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.sleepTimeStepper->setRange(-1000, 1000);
+         showWithoutReport(panel.sleepTimeStepper, minutes);
+         panel.requestNewOutputBin(panel.sleepTimeStepper);
+         return panel.outputBin().value(kMinutes).toLongLong();
+     }},
+    {"saving",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.m_outputBin.insert(kMinutes, QString::number(minutes));
+         panel.setMode(kModeManualSleep, true);
+         panel.saveSleepTimeValue();
+         return panel.entry(kSleepEntry).toLongLong();
+     }},
+    {"restoring",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.printSettings()->setValue(kSleepEntry, QString::number(minutes));
+         panel.restoreSleepTimeValue();
+         return panel.outputBin().value(kMinutes).toLongLong();
+     }},
+};
+
 // What a keyboard or an input method enters at the cursor in one edit.
 void enter(QLineEdit *field, const QString &text)
 {
@@ -32,6 +92,7 @@ class SleepTimeTest : public QObject
 private Q_SLOTS:
     void init()
     {
+        m_bundle.emplace(TestBundle::built());
         m_host = RecordingHost::forSamplePrinter();
         m_host->mark(u"QXSleepTime"_s, u"Custom"_s);
         m_host->settings().setValue(kSleepModeEntry, u"Custom"_s);
@@ -46,6 +107,7 @@ private Q_SLOTS:
     {
         m_panel.reset();
         m_host.reset();
+        m_bundle.reset();
     }
 
     void onlyDigitsInsideTheRangeStay_data()
@@ -111,13 +173,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         const UserLanguage user(language);
-        const auto host =
-            RecordingHost::forPpd(PpdBuilder()
-                                      .option("QXSleepTime", "Sleep", "Default",
-                                              {{"Default", "Default"}, {"Custom", "Manual"}})
-                                      .customInteger("QXSleepTime", "Time", "Minutes", 5, 240)
-                                      .text());
-        PrintSettingProbe panel(host);
+        m_bundle.reset(); // it keeps the texts of its first language
+        m_bundle.emplace(TestBundle::built());
+        PrintSettingProbe panel(RecordingHost::forPpd(printerWithLongSleepTimes()));
         QVERIFY(panel.initWithHost());
         QVERIFY(panel.panelView());
         panel.willShow();
@@ -288,6 +346,68 @@ private Q_SLOTS:
         QCOMPARE(m_panel->sleepTimeStepper->value(), minutes.toInt());
     }
 
+    // The range that the printer declares
+
+    void everyOperationKeepsTheMinutesInsideThePrintersRange_data()
+    {
+        QTest::addColumn<int>("operation");
+        for (int i = 0; i < int(std::size(kBoundedOperations)); ++i)
+            QTest::newRow(kBoundedOperations[i].name) << i;
+    }
+    void everyOperationKeepsTheMinutesInsideThePrintersRange()
+    {
+        QFETCH(int, operation);
+        PrintSettingProbe panel(RecordingHost::forPpd(printerWithLongSleepTimes()));
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        const auto resultFor = kBoundedOperations[operation].resultFor;
+        QCOMPARE(resultFor(panel, 4), qint64(5));
+        QCOMPARE(resultFor(panel, 5), qint64(5));
+        QCOMPARE(resultFor(panel, 240), qint64(240));
+        QCOMPARE(resultFor(panel, 241), qint64(240));
+    }
+
+    void onlyMinutesOfThePrintersRangeCanBeEntered_data()
+    {
+        QTest::addColumn<QString>("minutes");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("below") << u"4"_s << false;
+        QTest::newRow("the lowest") << u"5"_s << true;
+        QTest::newRow("the highest") << u"240"_s << true;
+        QTest::newRow("above") << u"241"_s << false;
+    }
+    void onlyMinutesOfThePrintersRangeCanBeEntered()
+    {
+        QFETCH(QString, minutes);
+        QFETCH(bool, accepted);
+        m_host = RecordingHost::forPpd(printerWithLongSleepTimes());
+        m_host->settings().setValue(kSleepModeEntry, u"Custom"_s);
+        m_panel = std::make_unique<PrintSettingProbe>(m_host);
+        QVERIFY(m_panel->initWithHost());
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        edit(u"60"_s);
+        edit(minutes);
+        QCOMPARE(m_panel->sleepTimeField->text(), accepted ? minutes : u"60"_s);
+        QCOMPARE(m_panel->stored(kMinutes), accepted ? minutes : u"60"_s);
+        QCOMPARE(m_panel->control_textShouldEndEditing(m_panel->sleepTimeField, minutes), accepted);
+    }
+
+    void theFieldIsReadWhileThePrinterChoosesTheTimeAsWell()
+    {
+        QVERIFY(pick(m_panel->sleepTimeMatrix, 0));
+        QVERIFY(!m_panel->hasMode(kModeManualSleep));
+        showWithoutReport(m_panel->sleepTimeField, 42);
+        m_panel->saveAllValues();
+        QCOMPARE(m_panel->stored(kMinutes), u"42"_s);
+        QCOMPARE(m_panel->entry(kSleepEntry), QVariant(u"Default"_s)); // none goes into the job
+        showWithoutReport(m_panel->sleepTimeField, 150);
+        m_panel->saveAllValues();
+        QCOMPARE(m_panel->stored(kMinutes), u"99"_s);
+        QCOMPARE(m_panel->sleepTimeField->text(), u"99"_s);
+    }
+
     // Stepper
 
     void aStepReachesFieldPanelAndJob()
@@ -413,7 +533,7 @@ private:
             enter(m_panel->sleepTimeField, text);
     }
 
-    TestBundle m_bundle = TestBundle::built();
+    std::optional<TestBundle> m_bundle;
     std::shared_ptr<RecordingHost> m_host;
     std::unique_ptr<PrintSettingProbe> m_panel;
 };
