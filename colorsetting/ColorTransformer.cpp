@@ -5,6 +5,11 @@
 
 namespace corvana {
 
+QMetaType ColorTransformer::transformedValueClass()
+{
+    return QMetaType::fromType<ControlTextColor>();
+}
+
 QVariant ColorTransformer::transformedValue(const QVariant &value) const
 {
     return QVariant::fromValue(booleanValue(value) ? ControlTextColor::Normal

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QMetaType>
+
 #include "platform/foundation/ValueTransformer.h"
 
 namespace corvana {
@@ -11,9 +13,14 @@ inline constexpr char kColorTransformerName[] = "QXColorTransformer";
 class ColorTransformer : public ValueTransformer
 {
 public:
+    /// What transformedValue() answers: a ControlTextColor.
+    static QMetaType transformedValueClass();
+    /// False: a colour does not say what it was made from.
+    static bool allowsReverseTransformation() { return false; }
+
     /// Answers a ControlTextColor.
     QVariant transformedValue(const QVariant &value) const override;
-    /// Answers nothing: a colour says no more what it was made from.
+    /// Answers nothing.
     QVariant reverseTransformedValue(const QVariant &value) const override;
 };
 

@@ -3,6 +3,7 @@
 #include "colorsetting/ColorSettingKeys.h"
 #include "colorsetting/EffectSet.h"
 #include "platform/foundation/Values.h"
+#include "platform/toolkit/ControlActions.h"
 
 namespace corvana {
 
@@ -46,11 +47,21 @@ void QXLaserColorSettingPDE::restoreEffectValues()
     for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
         const QVariant value =
             values ? values->at(static_cast<qsizetype>(i)) : QVariant(QString::number(0));
-        if (integerValue(value) != integerValue(m_outputBin.value(kEffectKeywords[i])))
-            m_effectsMoved = true;
+        noteRestoredEffect(kEffectKeywords[i], integerValue(value));
         m_outputBin.insert(kEffectKeywords[i], value);
         setEffectContent(kEffectKeywords[i], value);
     }
+}
+
+// A restore may move the very control that reported last. What that control reports next is then no
+// repetition, even if it is the same value again. The value that the control showed stands in the
+// binding dictionary; `outputBin` holds the printer's marked choices while a restore is going on.
+void QXLaserColorSettingPDE::noteRestoredEffect(QLatin1StringView keyword, qint64 restored)
+{
+    const QSlider *slider = determineSlider(keyword);
+    const LastEffect &last = EffectVal();
+    if (slider && controlTag(slider) == last.tag && effectValue(keyword) != restored)
+        m_lastReportIsStale = last.value != restored;
 }
 
 void QXLaserColorSettingPDE::saveEffectValues()

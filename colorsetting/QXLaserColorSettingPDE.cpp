@@ -151,9 +151,7 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
     connections.outlet(QStringLiteral("blueSlider"), blueSlider);
     connections.outlet(QStringLiteral("saturationSlider"), saturationSlider);
     connections.action(QStringLiteral("effectValueDidChange"), [this](QWidget *sender) {
-        // The sliders may have been moved since the last report: what a user
-        // reports now is no duplicate of it.
-        if (std::exchange(m_effectsMoved, false))
+        if (std::exchange(m_lastReportIsStale, false))
             EffectVal() = {-1, 0};
         effectValueDidChange(sender);
     });
@@ -229,7 +227,9 @@ void QXLaserColorSettingPDE::toggleShowOption(QWidget *button)
         keepBlackPlainWithGray();
 }
 
-// Gray is printed with black toner alone already.
+// Gray is printed with black toner alone already. Nothing else disables enhanced black: a box that
+// cannot be ticked is saved as off, and who matches the colours must not cost the user their
+// choice.
 void QXLaserColorSettingPDE::keepBlackPlainWithGray()
 {
     if (grayCheckBox && enhancedBlackCheckBox && grayCheckBox->isChecked())
@@ -306,7 +306,6 @@ void QXLaserColorSettingPDE::checkUIConstraints()
             if (matching == QVariant(QString(kNone)) && !printsInGray)
                 disableEffect(kEffectKeywords[i]);
         }
-        keepBlackPlainWithGray();
     } else {
         // In colour the flag stays as it was.
         if (mono)
@@ -314,6 +313,7 @@ void QXLaserColorSettingPDE::checkUIConstraints()
         for (const QLatin1StringView keyword : kEffectKeywords)
             disableEffect(keyword);
     }
+    keepBlackPlainWithGray();
 
     if (driverMatchesColors && !matching.isValid())
         return;

@@ -137,13 +137,14 @@ private:
 
     QString currentEffectSetKey() const;
     qint64 effectValue(QLatin1StringView keyword) const;
+    void noteRestoredEffect(QLatin1StringView keyword, qint64 restored);
     void showPreview(const FilterImage &image);
     void titleEffectLabel(QLatin1StringView keyword);
     void disableEffect(QLatin1StringView keyword);
     void showEffectDisabled(QLatin1StringView keyword);
     void keepBlackPlainWithGray();
 
-    bool m_effectsMoved = false; // by a restore, since a user moved one of them
+    bool m_lastReportIsStale = false; // a restore moved the control that reported last
     FilterImage m_refImage;
     QString m_refImageFile;                            // empty: the image was given without a file
     mutable QHash<QString, FilterImage> m_refPictures; // by file, those looked at so far

@@ -147,6 +147,14 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
     const std::optional<QString> text = time ? ppdText(time->text) : std::nullopt;
     if (text && sleepTimeSuffixLabel)
         sleepTimeSuffixLabel->setText(*text);
+    if (sleepTimeField) {
+        const QString allowed = QStringLiteral("%1: %2 – %3")
+                                    .arg(localized(QStringLiteral("AllowedNumbers")))
+                                    .arg(kSleepTimeMin)
+                                    .arg(kSleepTimeMax);
+        sleepTimeField->setToolTip(allowed);
+        sleepTimeField->setAccessibleDescription(allowed);
+    }
     if (!sleepTimeStepper)
         return;
     sleepTimeStepper->setAccessibleName(text.value_or(QString()));

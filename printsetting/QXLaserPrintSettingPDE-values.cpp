@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QToolTip>
+
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -50,22 +52,29 @@ void QXLaserPrintSettingPDE::controlTextDidChange(const Notification &notificati
             digits += QChar((unit.unicode() & 0x1F) | 0x20);
     }
     const qint64 minutes = integerValue(digits);
+    const bool accepted = sleepBounds().contains(minutes);
     QString shown = m_outputBin.value(PPDSleepTimeKey).toString();
-    if (sleepBounds().contains(minutes)) {
+    if (accepted) {
         shown = QString::number(minutes);
         m_outputBin.insert(PPDSleepTimeKey, shown);
     }
     const ProgrammaticChange change;
-    if (shown != text) {
-        field->setText(shown);
+    if (shown != text)
+        field->setText(shown); // which leaves the caret behind the number
+    if (accepted && shown != text)
         field->setCursorPosition(
             static_cast<int>(std::max<qsizetype>(0, shown.size() - behindCursor)));
-        // Too little was written yet: what is written next replaces the number that came back.
-        if (minutes < kSleepTimeMin)
-            field->selectAll();
-    }
+    if (!accepted)
+        sayAllowedSleepTimes(field);
     if (sleepTimeStepper)
         sleepTimeStepper->setValue(controlValue(integerValue(shown)));
+}
+
+// The number that the user entered gave way to the former one: the field says why.
+void QXLaserPrintSettingPDE::sayAllowedSleepTimes(QLineEdit *field)
+{
+    if (field->isVisible())
+        QToolTip::showText(field->mapToGlobal(QPoint(0, field->height())), field->toolTip(), field);
 }
 
 bool QXLaserPrintSettingPDE::control_textShouldEndEditing(QWidget *, const QString &editorText)

@@ -178,6 +178,7 @@ private:
     void fitAdvancedTable(QTableView *table);
     void setSleepTimeUsable(bool mode, bool minutes);
     void showSleepTime(qint64 minutes);
+    void sayAllowedSleepTimes(QLineEdit *field);
     void takeSteppedSleepTime(Stepper *stepper);
     QString pagePaperName();
     bool pagePaperFits();

@@ -4,13 +4,15 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "platform/toolkit/Mnemonics.h"
+
 namespace corvana::QXTextField {
 
 bool isStringValueTruncated(const QWidget *field)
 {
     QString text;
     if (const auto *label = qobject_cast<const QLabel *>(field))
-        text = label->text();
+        text = literalText(label);
     else if (const auto *line = qobject_cast<const QLineEdit *>(field))
         text = line->text();
     if (text.isEmpty())

@@ -15,4 +15,7 @@ CORVANA_PLATFORM_EXPORT QString withoutMnemonic(const QString &text);
 /// Shows a text as it is, whether or not the label leads to a control.
 CORVANA_PLATFORM_EXPORT void setLiteralText(QLabel *label, const QString &text);
 
+/// The text that a label shows: without the marks of keys to press, where it leads to a control.
+CORVANA_PLATFORM_EXPORT QString literalText(const QLabel *label);
+
 } // namespace corvana

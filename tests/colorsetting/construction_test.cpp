@@ -157,6 +157,8 @@ private Q_SLOTS:
         const QVariant transformed = transformer.transformedValue(flag);
         QVERIFY(transformed.metaType() == QMetaType::fromType<ControlTextColor>());
         QCOMPARE(transformed.value<ControlTextColor>(), color);
+        QVERIFY(transformed.metaType() == ColorTransformer::transformedValueClass());
+        QVERIFY(!ColorTransformer::allowsReverseTransformation());
         QVERIFY(!transformer.reverseTransformedValue(transformed).isValid());
     }
 

@@ -252,6 +252,29 @@ private Q_SLOTS:
                  "its whole number was the last report");
     }
 
+    // Reports are compared in single precision, in which these cannot be told apart.
+    void reportsAreComparedInSinglePrecision_data()
+    {
+        QTest::addColumn<qint64>("last");
+        QTest::addColumn<QString>("reported");
+        QTest::addColumn<bool>("drawn");
+        QTest::newRow("a fraction that is too small") << qint64(5) << u"5.0000001"_s << false;
+        QTest::newRow("a fraction that can be told") << qint64(5) << u"5.000001"_s << true;
+        QTest::newRow("a large number") << qint64(16777217) << u"16777216"_s << false;
+        QTest::newRow("another large number") << qint64(16777215) << u"16777216"_s << true;
+    }
+    void reportsAreComparedInSinglePrecision()
+    {
+        QFETCH(qint64, last);
+        QFETCH(QString, reported);
+        QFETCH(bool, drawn);
+        QLineEdit field;
+        field.setProperty("tag", 0);
+        field.setText(reported);
+        QXLaserColorSettingPDE::EffectVal() = {0, last};
+        QCOMPARE(isDrawnBy([&] { m_panel->effectValueDidChange(&field); }), drawn);
+    }
+
     void aTagAboveTheLastIsNotedAndIgnored()
     {
         m_panel->effectContent->setValue(u"QXBrightness"_s, 10);

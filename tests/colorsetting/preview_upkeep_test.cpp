@@ -198,6 +198,63 @@ private Q_SLOTS:
         QVERIFY(!button->isEnabledTo(m_panel->panelView()));
     }
 
+    // Reports after a restore
+
+    void aSliderThatARestoreMovedMayReportItsFormerValueAgain()
+    {
+        QSlider *brightness = m_panel->determineSlider(u"QXBrightness"_s);
+        brightness->setValue(5);
+        m_panel->saveAllValues();
+        changeColorMode(true);
+        QCOMPARE(brightness->value(), 0);
+        QVERIFY(isDrawnBy([&] { brightness->triggerAction(QSlider::SliderPageStepAdd); }));
+        QCOMPARE(brightness->value(), 5);
+        m_panel->saveAllValues();
+        QVERIFY2(!isDrawnBy([&] { reportAgain(u"QXBrightness"_s); }), "this one is a repetition");
+    }
+
+    void aRestoreThatMovesNothingLetsNoValueBeReportedTwice()
+    {
+        m_panel->determineSlider(u"QXBrightness"_s)->setValue(5);
+        m_panel->saveAllValues();
+        QVERIFY(m_panel->restoreValuesAndReturnError(nullptr));
+        QVERIFY(!isDrawnBy([&] { reportAgain(u"QXBrightness"_s); }));
+    }
+
+    void aRestoreThatMovesAnotherSliderLetsNoValueBeReportedTwice()
+    {
+        m_panel->determineSlider(u"QXBrightness"_s)->setValue(5);
+        m_panel->saveAllValues();
+        m_host->settings().setValue(kNormalEffect, QVariantList{5, 0, 7, 0, 0, 0});
+        QVERIFY(m_panel->restoreValuesAndReturnError(nullptr));
+        QCOMPARE(m_panel->determineSlider(u"QXRed"_s)->value(), 7);
+        QVERIFY(!isDrawnBy([&] { reportAgain(u"QXBrightness"_s); }));
+    }
+
+    void aSliderThatARestoreMovedAndAnotherMovedBackReportsNothingNew()
+    {
+        m_panel->determineSlider(u"QXBrightness"_s)->setValue(5);
+        m_panel->saveAllValues();
+        changeColorMode(true);
+        changeColorMode(false);
+        QCOMPARE(m_panel->determineSlider(u"QXBrightness"_s)->value(), 5);
+        QVERIFY(!isDrawnBy([&] { reportAgain(u"QXBrightness"_s); }));
+    }
+
+    // The panel itself skips what equals the last report; a restore changes nothing about that.
+    void aDirectReportOfTheSameValueIsSkippedAfterARestore()
+    {
+        QSlider *brightness = m_panel->determineSlider(u"QXBrightness"_s);
+        brightness->setValue(5);
+        m_panel->saveAllValues();
+        changeColorMode(true);
+        {
+            const QSignalBlocker silent(brightness);
+            brightness->setValue(5);
+        }
+        QVERIFY(!isDrawnBy([&] { m_panel->effectValueDidChange(brightness); }));
+    }
+
     // The window's height
 
     void aHigherWindowDrawsThePreviewOnce()
@@ -286,6 +343,19 @@ private:
     double storedHeight() const
     {
         return m_panel->effectContent->value(kFrameHeightKey).toDouble();
+    }
+    // As the other panel does it, while this one is on screen.
+    void changeColorMode(bool mono)
+    {
+        m_host->mark(u"QXMonoColor"_s, mono ? u"Mono"_s : u"Color"_s);
+        m_panel->printSettingsNotified(
+            {kLaserPrintSettingNotification, m_host.get(), {{u"QXMonoColor"_s, mono}}, true});
+        QVERIFY(m_panel->restoreValuesAndReturnError(nullptr));
+    }
+    // The user confirms the number that stands in an effect's field.
+    void reportAgain(const QString &effect)
+    {
+        QTest::keyClick(m_panel->determineField(effect), Qt::Key_Return);
     }
     template <typename Act> bool isDrawnBy(Act act)
     {

@@ -117,25 +117,45 @@ private Q_SLOTS:
         QVERIFY(!panel.enhancedBlackCheckBox->isEnabled());
     }
 
-    void enhancedBlackNeedsTheDriversColorMatching_data()
+    void enhancedBlackOutlivesTheColorMatchingOfTheApplication_data()
     {
-        QTest::addColumn<QString>("gray");
-        QTest::newRow("without gray") << u"OFF"_s;
-        QTest::newRow("with gray") << u"ON"_s;
+        QTest::addColumn<QString>("black");
+        QTest::newRow("on") << u"ON"_s;
+        QTest::newRow("off") << u"OFF"_s;
     }
-    void enhancedBlackNeedsTheDriversColorMatching()
+    void enhancedBlackOutlivesTheColorMatchingOfTheApplication()
     {
-        QFETCH(QString, gray);
+        QFETCH(QString, black);
+        const auto host = RecordingHost::forSamplePrinter();
+        host->mark(u"QXEnhanceBlkPrt"_s, black);
+        ColorSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        for (const QString &mode :
+             {u"AP_ApplicationColorMatching"_s, u"AP_VendorColorMatching"_s}) {
+            host->mark(u"AP_ColorMatchingMode"_s, mode);
+            QVERIFY(panel.restoreValuesAndReturnError(nullptr));
+            QVERIFY(panel.saveValuesAndReturnError(nullptr));
+            QVERIFY(panel.enhancedBlackCheckBox->isEnabled());
+            QCOMPARE(panel.enhancedBlackCheckBox->isChecked(), black == u"ON"_s);
+            QCOMPARE(panel.stored(u"QXEnhanceBlkPrt"_s), black);
+            QCOMPARE(host->marked(u"QXEnhanceBlkPrt"_s), black);
+        }
+    }
+
+    void grayDisablesEnhancedBlackWhoeverMatchesTheColors()
+    {
         const auto host = RecordingHost::forSamplePrinter();
         host->mark(u"AP_ColorMatchingMode"_s, u"AP_ApplicationColorMatching"_s);
-        host->mark(u"QXGray"_s, gray);
+        host->mark(u"QXGray"_s, u"ON"_s);
         ColorSettingProbe panel(host);
         QVERIFY(panel.initWithHost());
         QVERIFY(panel.panelView());
         panel.willShow();
         QVERIFY(!panel.enhancedBlackCheckBox->isEnabled());
         QVERIFY(panel.grayCheckBox->isEnabled());
-        QCOMPARE(panel.grayCheckBox->isChecked(), gray == u"ON"_s);
+        QVERIFY(panel.grayCheckBox->isChecked());
     }
 
     void aFaxKeepsEnhancedBlack()

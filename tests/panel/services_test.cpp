@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QTest>
 
 #include "platform/foundation/UserDefaults.h"
@@ -16,6 +18,12 @@
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kDisclosureEntry = u"com.corvana.print.PrintSettings.advancedItem"_s;
+
+} // namespace
 
 class ServicesTest : public QObject
 {
@@ -30,6 +38,15 @@ private:
     qsizetype resizeNotices() const
     {
         return m_host->calls().count(HostCall{u"panelViewDidResize"_s, {}});
+    }
+    // A blue PDF page, as small as the pictures.
+    void addPage(const QString &name)
+    {
+        QPdfWriter page(m_bundle->bundle()->path() + u"/pictures/"_s + name + u".pdf"_s);
+        page.setPageSize(
+            QPageSize(QSizeF(8, 8), QPageSize::Point, QString(), QPageSize::ExactMatch));
+        page.setPageMargins(QMarginsF());
+        QPainter(&page).fillRect(QRect(0, 0, page.width(), page.height()), Qt::blue);
     }
     QString preferences() const
     {
@@ -142,6 +159,27 @@ private Q_SLOTS:
         QCOMPARE(view.pixmap(Qt::ReturnByValue).cacheKey(), shown);
     }
 
+    void anIllustrationMayBeAPdfPage()
+    {
+        addPage(u"drawing"_s);
+        QLabel view(m_panel->panelView());
+        view.hide();
+        m_panel->changeImage_ofView(u"drawing"_s, &view);
+        QVERIFY(hasImage(&view));
+        QCOMPARE(imageName(&view), u"drawing"_s);
+        QVERIFY(!view.isHidden());
+        QCOMPARE(view.pixmap(Qt::ReturnByValue).toImage().pixelColor(2, 2), QColor(Qt::blue));
+    }
+
+    void aPictureComesBeforeThePageOfItsName()
+    {
+        addPage(u"lever"_s);
+        m_bundle->addPicture(u"lever"_s);
+        QLabel view(m_panel->panelView());
+        m_panel->changeImage_ofView(u"lever"_s, &view);
+        QCOMPARE(view.pixmap(Qt::ReturnByValue).toImage().pixelColor(2, 2), QColor(Qt::red));
+    }
+
     void anIllustrationThatTheBundleLacksHidesItsView()
     {
         m_bundle->addPicture(u"lever"_s);
@@ -164,6 +202,49 @@ private Q_SLOTS:
         QVERIFY(hasImage(&view));
         QCOMPARE(imageName(&view), u"lever"_s);
         QVERIFY(!view.isHidden());
+    }
+
+    // "" stands for no entry, "YES" and "NO" for one.
+    void theDisclosureIsRestoredFromTheJob_data()
+    {
+        QTest::addColumn<QString>("held");
+        QTest::addColumn<QString>("job");
+        QTest::addColumn<QVariant>("result");
+        QTest::addColumn<bool>("toggled");
+        QTest::newRow("nothing, nothing") << u""_s << u""_s << QVariant() << false;
+        QTest::newRow("nothing, closed") << u""_s << u"NO"_s << QVariant() << false;
+        QTest::newRow("nothing, open") << u""_s << u"YES"_s << QVariant(true) << true;
+        QTest::newRow("closed, nothing") << u"NO"_s << u""_s << QVariant(u"NO"_s) << false;
+        QTest::newRow("closed, closed") << u"NO"_s << u"NO"_s << QVariant(u"NO"_s) << false;
+        QTest::newRow("closed, open") << u"NO"_s << u"YES"_s << QVariant(true) << true;
+        QTest::newRow("open, nothing") << u"YES"_s << u""_s << QVariant(false) << true;
+        QTest::newRow("open, closed") << u"YES"_s << u"NO"_s << QVariant(false) << true;
+        QTest::newRow("open, open") << u"YES"_s << u"YES"_s << QVariant(u"YES"_s) << false;
+    }
+    void theDisclosureIsRestoredFromTheJob()
+    {
+        QFETCH(QString, held);
+        QFETCH(QString, job);
+        QFETCH(QVariant, result);
+        QFETCH(bool, toggled);
+        m_host->settings().setEntries({});
+        if (!job.isEmpty())
+            m_host->settings().setValue(kDisclosureEntry, job);
+        if (!held.isEmpty())
+            m_panel->effectContent->setValue(u"advancedItem"_s, held);
+        m_panel->restoreOptionState();
+        QCOMPARE(m_panel->effectContent->value(u"advancedItem"_s), result);
+        QCOMPARE(m_panel->toggledBy.size(), toggled ? 1 : 0);
+    }
+
+    void aDisclosureThatWasNeverSetIsSavedAsClosed()
+    {
+        m_host->settings().setEntries({});
+        m_panel->saveOptionState();
+        QCOMPARE(m_host->settings().value(kDisclosureEntry), QVariant(false));
+        m_panel->effectContent->setValue(u"advancedItem"_s, true);
+        m_panel->saveOptionState();
+        QCOMPARE(m_host->settings().value(kDisclosureEntry), QVariant(true));
     }
 
     void aSilencedAlertStaysSilentAcrossPanels()

@@ -52,6 +52,7 @@ public:
     using QXLaserPrintSettingPDE::PPDKeys;
     using QXLaserPrintSettingPDE::PPDResolutionKey;
     using QXLaserPrintSettingPDE::PPDSleepTimeKey;
+    using QXLaserPrintSettingPDE::printSettings;
     using QXLaserPrintSettingPDE::quietModeMatrix;
     using QXLaserPrintSettingPDE::reduceGhostButton;
     using QXLaserPrintSettingPDE::reducePaperButton;

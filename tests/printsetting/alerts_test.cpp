@@ -331,6 +331,21 @@ private Q_SLOTS:
             readPicture(m_bundle->bundle()->pathForResource(u"front_paper"_s, u"tiff"_s), 1.0));
     }
 
+    void aMediumThatMerelyBeginsAsAnEnvelopeIsNotExplained()
+    {
+        m_host = RecordingHost::forPpd(PpdBuilder()
+                                           .modelNumber(5)
+                                           .option("QXMediaType", "Media Type", "Plain",
+                                                   {{"Plain", "Plain"}, {"EnvOther", "Other"}})
+                                           .text());
+        m_panel = std::make_unique<PrintSettingProbe>(m_host);
+        QVERIFY(m_panel->initWithHost());
+        showPanel();
+        QVERIFY(pick(m_panel->mediaTypePopup, u"Other"_s));
+        QCOMPARE(m_panel->stored(u"QXMediaType"_s), u"EnvOther"_s);
+        QVERIFY(m_host->alerts().shown().isEmpty());
+    }
+
     void aSilencedAlertIsNotShownAgain()
     {
         makePanel(5, QString());

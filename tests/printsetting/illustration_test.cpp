@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTest>
 
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/ViewFrame.h"
 #include "printsetting/ExtraAccessoryView.h"
 #include "printsetting/QXTextField.h"
@@ -197,6 +198,36 @@ private Q_SLOTS:
             field->setFixedWidth(static_cast<int>(std::ceil(width)) - 1);
             QVERIFY(QXTextField::isStringValueTruncated(field));
         }
+    }
+
+    void aLabelIsMeasuredAsItIsShown_data()
+    {
+        QTest::addColumn<bool>("leadsToAControl");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("an ampersand, written twice")
+            << true << u"Paper && Tray"_s << u"Paper & Tray"_s;
+        QTest::newRow("the mark of a key") << true << u"&Paper"_s << u"Paper"_s;
+        QTest::newRow("both") << true << u"&Paper &&&& Tray"_s << u"Paper && Tray"_s;
+        QTest::newRow("no mark, for no control")
+            << false << u"Paper && Tray"_s << u"Paper && Tray"_s;
+    }
+    void aLabelIsMeasuredAsItIsShown()
+    {
+        QFETCH(bool, leadsToAControl);
+        QFETCH(QString, text);
+        QFETCH(QString, shown);
+        QLabel label;
+        QLineEdit field;
+        if (leadsToAControl)
+            label.setBuddy(&field);
+        label.setText(text);
+        QCOMPARE(literalText(&label), shown);
+        const double width = QFontMetricsF(label.font()).horizontalAdvance(shown);
+        label.setFixedWidth(static_cast<int>(std::ceil(width)));
+        QVERIFY(!QXTextField::isStringValueTruncated(&label));
+        label.setFixedWidth(static_cast<int>(std::ceil(width)) - 1);
+        QVERIFY(QXTextField::isStringValueTruncated(&label));
     }
 
     void whatHasNoTextIsNotCut()

@@ -357,6 +357,19 @@ private Q_SLOTS:
         QCOMPARE(m_panel->paperName, u"EnvDL"_s);
     }
 
+    // The host keeps the thick envelopes that were chosen before.
+    void aNewPaperExplainsThePlainEnvelopeOnly()
+    {
+        makePanel(printer());
+        m_panel->m_outputBin.insert(u"QXMediaType"_s, u"EnvThick"_s);
+        m_host->refuseEverything();
+        m_host->page().paper = listed(u"EnvDL"_s);
+        postPaperChange();
+        QCOMPARE(m_panel->paperName, u"EnvDL"_s);
+        QCOMPARE(m_panel->stored(u"QXMediaType"_s), u"EnvThick"_s);
+        QVERIFY(m_host->alerts().shown().isEmpty());
+    }
+
     void onlyTheMenuWithThePapersCounts_data()
     {
         QTest::addColumn<QStringList>("items");

@@ -131,6 +131,50 @@ private Q_SLOTS:
         QVERIFY(m_panel->tonerSaveButton->isEnabled());
     }
 
+    void aPrinterWithPlainResolutionsKnowsTheTonerRule()
+    {
+        const auto host =
+            RecordingHost::forPpd(PpdBuilder()
+                                      .option("Resolution", "Resolution", "600dpi",
+                                              {{"600dpi", "600 dpi"}, {"1200dpi", "1200 dpi"}})
+                                      .onOff("TonerSaveMode", "Toner Save", "ON")
+                                      .text());
+        PrintSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        QVERIFY(panel.tonerSaveButton->isEnabled());
+        host->mark(u"Resolution"_s, u"1200dpi"_s);
+        QVERIFY(panel.restoreValuesAndReturnError(nullptr));
+        QVERIFY(panel.hasMode(kModeNoTonerSave));
+        QVERIFY(!panel.tonerSaveButton->isEnabled());
+        QCOMPARE(host->marked(u"TonerSaveMode"_s), u"OFF"_s);
+        QVERIFY(pick(panel.resolutionPopup, u"600 dpi"_s));
+        QVERIFY(!panel.hasMode(kModeNoTonerSave));
+        QVERIFY(panel.tonerSaveButton->isEnabled());
+    }
+
+    void everySaveTellsTheHostThatNoTonerIsSaved_data()
+    {
+        QTest::addColumn<QString>("output");
+        QTest::newRow("to the printer") << u"Printer"_s;
+        QTest::newRow("to a fax") << u"FAX"_s;
+    }
+    void everySaveTellsTheHostThatNoTonerIsSaved()
+    {
+        QFETCH(QString, output);
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        m_host->mark(u"QXOutput"_s, output);
+        m_host->mark(u"QXResolution"_s, u"1200dpi"_s);
+        QVERIFY(m_panel->restoreValuesAndReturnError(nullptr));
+        for (int save = 0; save < 3; ++save) {
+            m_host->forgetCalls();
+            m_panel->saveAllValues();
+            QCOMPARE(m_host->asked(), QStringList{u"TonerSaveMode=OFF"_s});
+        }
+    }
+
     // The items of a pop-up
 
     void choicesAreDisabledAndReplaced_data()
@@ -321,6 +365,15 @@ private Q_SLOTS:
         PrintSettingProbe panel(host);
         QVERIFY(panel.initWithHost());
         QCOMPARE(panel.isSimplexMode(), simplex);
+    }
+
+    void aTwoSidedOptionWithoutAnyMarkIsNotOneSided()
+    {
+        const auto host = RecordingHost::forSamplePrinter();
+        host->unmark(u"Duplex"_s);
+        PrintSettingProbe panel(host);
+        QVERIFY(panel.initWithHost());
+        QVERIFY(!panel.isSimplexMode());
     }
 
     // A user's pick

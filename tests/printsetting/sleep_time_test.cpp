@@ -1,8 +1,11 @@
+#include <QClipboard>
 #include <QTest>
+#include <QToolTip>
 
 #include "platform/toolkit/LabelColor.h"
 #include "tests/printsetting/PrintSettingProbe.h"
 #include "tests/support/Gestures.h"
+#include "tests/support/PpdBuilder.h"
 #include "tests/support/TestBundle.h"
 
 using namespace corvana;
@@ -12,6 +15,66 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kMinutes = u"QXSleepTime_Time"_s;
+
+// Minutes from 5 to 240, while most printers have 1 to 99.
+QByteArray printerWithLongSleepTimes()
+{
+    return PpdBuilder()
+        .option("QXSleepTime", "Sleep", "Custom", {{"Default", "Default"}, {"Custom", "Manual"}})
+        .customInteger("QXSleepTime", "Time", "Minutes", 5, 240)
+        .text();
+}
+
+// An operation that keeps the minutes inside the printer's range, and what it makes of them.
+struct BoundedOperation
+{
+    const char *name;
+    qint64 (*resultFor)(PrintSettingProbe &panel, int minutes);
+};
+
+void showWithoutReport(QWidget *control, int minutes)
+{
+    const QSignalBlocker silent(control);
+    if (auto *field = qobject_cast<QLineEdit *>(control))
+        field->setText(QString::number(minutes));
+    else if (auto *stepper = qobject_cast<Stepper *>(control))
+        stepper->setValue(minutes);
+}
+
+constexpr BoundedOperation kBoundedOperations[] = {
+    {"reading the field",
+     [](PrintSettingProbe &panel, int minutes) {
+         showWithoutReport(panel.sleepTimeField, minutes);
+         panel.getUIValues();
+         return panel.outputBin().value(kMinutes).toLongLong();
+     }},
+    {"showing",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.m_outputBin.insert(kMinutes, QString::number(minutes));
+         panel.updateSleepTimeUI();
+         return panel.sleepTimeField->text().toLongLong();
+     }},
+    {"stepping",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.sleepTimeStepper->setRange(-1000, 1000);
+         showWithoutReport(panel.sleepTimeStepper, minutes);
+         panel.requestNewOutputBin(panel.sleepTimeStepper);
+         return panel.outputBin().value(kMinutes).toLongLong();
+     }},
+    {"saving",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.m_outputBin.insert(kMinutes, QString::number(minutes));
+         panel.setMode(kModeManualSleep, true);
+         panel.saveSleepTimeValue();
+         return panel.entry(kSleepEntry).toLongLong();
+     }},
+    {"restoring",
+     [](PrintSettingProbe &panel, int minutes) {
+         panel.printSettings()->setValue(kSleepEntry, QString::number(minutes));
+         panel.restoreSleepTimeValue();
+         return panel.outputBin().value(kMinutes).toLongLong();
+     }},
+};
 
 // What a keyboard or an input method enters at the cursor in one edit.
 void enter(QLineEdit *field, const QString &text)
@@ -29,6 +92,7 @@ class SleepTimeTest : public QObject
 private Q_SLOTS:
     void init()
     {
+        m_bundle.emplace(TestBundle::built());
         m_host = RecordingHost::forSamplePrinter();
         m_host->mark(u"QXSleepTime"_s, u"Custom"_s);
         m_host->settings().setValue(kSleepModeEntry, u"Custom"_s);
@@ -43,6 +107,7 @@ private Q_SLOTS:
     {
         m_panel.reset();
         m_host.reset();
+        m_bundle.reset();
     }
 
     void onlyDigitsInsideTheRangeStay_data()
@@ -84,6 +149,82 @@ private Q_SLOTS:
         QVERIFY2(m_host->calls().isEmpty(), "the host is not asked about minutes");
     }
 
+    void aRefusedNumberLeavesTheCaretBehindTheFormerOne()
+    {
+        m_panel->kSleepTimeMin = 5;
+        m_panel->kSleepTimeMax = 240;
+        edit(u"60"_s);
+        m_panel->sleepTimeField->selectAll();
+        enter(m_panel->sleepTimeField, u"4"_s);
+        QCOMPARE(m_panel->sleepTimeField->text(), u"60"_s);
+        QVERIFY(!m_panel->sleepTimeField->hasSelectedText());
+        QCOMPARE(m_panel->sleepTimeField->cursorPosition(), 2);
+        enter(m_panel->sleepTimeField, u"5"_s);
+        QCOMPARE(m_panel->stored(kMinutes), u"60"_s); // no number of the halves: 605 is too much
+    }
+
+    void theFieldSaysWhatItTakes_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"en", "ja", "zh_CN"})
+            QTest::newRow(language) << QString::fromLatin1(language);
+    }
+    void theFieldSaysWhatItTakes()
+    {
+        QFETCH(QString, language);
+        const UserLanguage user(language);
+        m_bundle.reset(); // it keeps the texts of its first language
+        m_bundle.emplace(TestBundle::built());
+        PrintSettingProbe panel(RecordingHost::forPpd(printerWithLongSleepTimes()));
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        const QString said = panel.sleepTimeField->toolTip();
+        QVERIFY2(said.endsWith(u": 5 – 240"_s), qUtf8Printable(said));
+        QVERIFY(!said.startsWith(u"AllowedNumbers"_s));
+        QCOMPARE(panel.sleepTimeField->accessibleDescription(), said);
+    }
+
+    void aRefusedNumberIsExplainedAtOnce()
+    {
+        QWidget window;
+        m_panel->panelView()->setParent(&window);
+        for (QWidget *part = m_panel->sleepTimeField; part != &window; part = part->parentWidget())
+            part->show();
+        window.show();
+        QVERIFY(m_panel->sleepTimeField->isVisible());
+        edit(u"7"_s);
+        QVERIFY(!QToolTip::isVisible());
+        edit(u"200"_s);
+        QCOMPARE(m_panel->sleepTimeField->text(), u"7"_s);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), m_panel->sleepTimeField->toolTip());
+        QToolTip::hideText();
+        m_panel->panelView()->setParent(nullptr);
+    }
+
+    void aPastedTextGivesTheNumberInIt_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("a sentence") << u"wait about 45 minutes"_s << u"45"_s;
+        QTest::newRow("a number far behind")
+            << u"this is how long it has always been here: 17"_s << u"17"_s;
+        QTest::newRow("two numbers") << u"either 4 or, better, 2"_s << u"42"_s;
+        QTest::newRow("a number that is too long") << u"123456789012345678901234"_s << u"60"_s;
+    }
+    void aPastedTextGivesTheNumberInIt()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, result);
+        edit(u"60"_s);
+        QGuiApplication::clipboard()->setText(pasted);
+        m_panel->sleepTimeField->selectAll();
+        m_panel->sleepTimeField->paste();
+        QCOMPARE(m_panel->sleepTimeField->text(), result);
+        QCOMPARE(m_panel->stored(kMinutes), result);
+    }
+
     void deletingTheOnlyDigitBringsItBackAtOnce()
     {
         edit(u"5"_s);
@@ -103,7 +244,7 @@ private Q_SLOTS:
         QTest::newRow("a digit in front") << u"1"_s << 0 << u"2"_s << u"21"_s << 1;
         QTest::newRow("a letter in the middle") << u"34"_s << 1 << u"x"_s << u"34"_s << 1;
         QTest::newRow("a letter in front") << u"34"_s << 0 << u"x"_s << u"34"_s << 0;
-        QTest::newRow("a third digit in front") << u"50"_s << 0 << u"1"_s << u"50"_s << 0;
+        QTest::newRow("a third digit in front") << u"50"_s << 0 << u"1"_s << u"50"_s << 2;
         QTest::newRow("a third digit at the end") << u"50"_s << 2 << u"1"_s << u"50"_s << 2;
         QTest::newRow("a zero in front") << u"5"_s << 0 << u"0"_s << u"5"_s << 0;
         QTest::newRow("a full-width digit") << u"5"_s << 0 << u"\uff11"_s << u"15"_s << 1;
@@ -203,6 +344,68 @@ private Q_SLOTS:
         QCOMPARE(m_panel->entry(kSleepEntry), QVariant(minutes));
         QCOMPARE(m_panel->sleepTimeField->text(), minutes);
         QCOMPARE(m_panel->sleepTimeStepper->value(), minutes.toInt());
+    }
+
+    // The range that the printer declares
+
+    void everyOperationKeepsTheMinutesInsideThePrintersRange_data()
+    {
+        QTest::addColumn<int>("operation");
+        for (int i = 0; i < int(std::size(kBoundedOperations)); ++i)
+            QTest::newRow(kBoundedOperations[i].name) << i;
+    }
+    void everyOperationKeepsTheMinutesInsideThePrintersRange()
+    {
+        QFETCH(int, operation);
+        PrintSettingProbe panel(RecordingHost::forPpd(printerWithLongSleepTimes()));
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        panel.willShow();
+        const auto resultFor = kBoundedOperations[operation].resultFor;
+        QCOMPARE(resultFor(panel, 4), qint64(5));
+        QCOMPARE(resultFor(panel, 5), qint64(5));
+        QCOMPARE(resultFor(panel, 240), qint64(240));
+        QCOMPARE(resultFor(panel, 241), qint64(240));
+    }
+
+    void onlyMinutesOfThePrintersRangeCanBeEntered_data()
+    {
+        QTest::addColumn<QString>("minutes");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("below") << u"4"_s << false;
+        QTest::newRow("the lowest") << u"5"_s << true;
+        QTest::newRow("the highest") << u"240"_s << true;
+        QTest::newRow("above") << u"241"_s << false;
+    }
+    void onlyMinutesOfThePrintersRangeCanBeEntered()
+    {
+        QFETCH(QString, minutes);
+        QFETCH(bool, accepted);
+        m_host = RecordingHost::forPpd(printerWithLongSleepTimes());
+        m_host->settings().setValue(kSleepModeEntry, u"Custom"_s);
+        m_panel = std::make_unique<PrintSettingProbe>(m_host);
+        QVERIFY(m_panel->initWithHost());
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        edit(u"60"_s);
+        edit(minutes);
+        QCOMPARE(m_panel->sleepTimeField->text(), accepted ? minutes : u"60"_s);
+        QCOMPARE(m_panel->stored(kMinutes), accepted ? minutes : u"60"_s);
+        QCOMPARE(m_panel->control_textShouldEndEditing(m_panel->sleepTimeField, minutes), accepted);
+    }
+
+    void theFieldIsReadWhileThePrinterChoosesTheTimeAsWell()
+    {
+        QVERIFY(pick(m_panel->sleepTimeMatrix, 0));
+        QVERIFY(!m_panel->hasMode(kModeManualSleep));
+        showWithoutReport(m_panel->sleepTimeField, 42);
+        m_panel->saveAllValues();
+        QCOMPARE(m_panel->stored(kMinutes), u"42"_s);
+        QCOMPARE(m_panel->entry(kSleepEntry), QVariant(u"Default"_s)); // none goes into the job
+        showWithoutReport(m_panel->sleepTimeField, 150);
+        m_panel->saveAllValues();
+        QCOMPARE(m_panel->stored(kMinutes), u"99"_s);
+        QCOMPARE(m_panel->sleepTimeField->text(), u"99"_s);
     }
 
     // Stepper
@@ -330,7 +533,7 @@ private:
             enter(m_panel->sleepTimeField, text);
     }
 
-    TestBundle m_bundle = TestBundle::built();
+    std::optional<TestBundle> m_bundle;
     std::shared_ptr<RecordingHost> m_host;
     std::unique_ptr<PrintSettingProbe> m_panel;
 };

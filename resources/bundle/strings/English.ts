@@ -164,6 +164,10 @@
         <translation>The driver of this printer takes no color adjustment.</translation>
     </message>
     <message>
+        <source>AllowedNumbers</source>
+        <translation>Whole numbers that can be entered</translation>
+    </message>
+    <message>
         <source>DensityLighter</source>
         <translation>Lighter</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>このプリンターのドライバーではカラー調整を使用できません。</translation>
     </message>
     <message>
+        <source>AllowedNumbers</source>
+        <translation>入力できる整数</translation>
+    </message>
+    <message>
         <source>DensityLighter</source>
         <translation>薄く</translation>
     </message>

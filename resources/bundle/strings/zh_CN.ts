@@ -164,6 +164,10 @@
         <translation>此打印机的驱动程序不支持色彩调整。</translation>
     </message>
     <message>
+        <source>AllowedNumbers</source>
+        <translation>可输入的整数</translation>
+    </message>
+    <message>
         <source>DensityLighter</source>
         <translation>更浅</translation>
     </message>
