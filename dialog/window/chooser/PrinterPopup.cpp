@@ -278,6 +278,41 @@ void PrinterPopup::keyPressEvent(QKeyEvent *event)
         QFrame::keyPressEvent(event);
 }
 
+// The list is not sent the key itself: one that it cannot use, such as Up on the first row, it
+// passes on to its parents, and so back to the popup.
+void PrinterPopup::moveHighlight(int key)
+{
+    const int last = m_search.rowCount() - 1;
+    if (last < 0)
+        return;
+    const QModelIndex current = m_list->currentIndex();
+    const int page = qMax(1, m_list->viewport()->height() / m_delegate->rowHeight(m_list));
+    int row = current.row(); // -1 where nothing is highlighted: every key but End begins at the top
+    switch (key) {
+    case Qt::Key_Up:
+        row -= 1;
+        break;
+    case Qt::Key_Down:
+        row += 1;
+        break;
+    case Qt::Key_PageUp:
+        row -= page;
+        break;
+    case Qt::Key_PageDown:
+        row += current.isValid() ? page : 1;
+        break;
+    case Qt::Key_Home:
+        row = 0;
+        break;
+    case Qt::Key_End:
+        row = last;
+        break;
+    default:
+        return;
+    }
+    highlight(m_search.index(qBound(0, row, last), 0));
+}
+
 bool PrinterPopup::handleKey(QKeyEvent *event)
 {
     const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
@@ -294,12 +329,9 @@ bool PrinterPopup::handleKey(QKeyEvent *event)
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
     case Qt::Key_Home:
-    case Qt::Key_End: {
-        QKeyEvent passedOn(QEvent::KeyPress, event->key(), Qt::NoModifier);
-        QCoreApplication::sendEvent(m_list, &passedOn);
-        highlight(m_list->currentIndex());
+    case Qt::Key_End:
+        moveHighlight(event->key());
         return true;
-    }
     case Qt::Key_Return:
     case Qt::Key_Enter:
         pick(m_list->currentIndex());

@@ -57,6 +57,7 @@ protected:
 private:
     void build();
     bool handleKey(QKeyEvent *event);
+    void moveHighlight(int key);
     void pick(const QModelIndex &shown);
     void search(const QString &text);
     void highlight(const QModelIndex &shown);

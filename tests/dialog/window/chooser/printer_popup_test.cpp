@@ -107,6 +107,107 @@ private Q_SLOTS:
         QCOMPARE(m_acts, 0);
     }
 
+    // A key at the end of the list moves nothing, and it comes to an end itself.
+    void keysAtTheEndsOfTheList_data()
+    {
+        QTest::addColumn<int>("printers");
+        QTest::addColumn<QString>("searched");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("before"); // rows; -1: none
+        QTest::addColumn<int>("after");
+        const struct
+        {
+            const char *name;
+            int key;
+            bool toTheTop;
+        } keys[] = {{"Up", Qt::Key_Up, true},
+                    {"Page Up", Qt::Key_PageUp, true},
+                    {"Home", Qt::Key_Home, true},
+                    {"Down", Qt::Key_Down, false},
+                    {"Page Down", Qt::Key_PageDown, false},
+                    {"End", Qt::Key_End, false}};
+        const struct
+        {
+            const char *name;
+            int printers;
+            QString searched;
+            int rows;
+        } lists[] = {{"no printer", 0, {}, 0},
+                     {"one printer", 1, {}, 1},
+                     {"two printers", 2, {}, 2},
+                     {"many printers", 2000, {}, 2000},
+                     {"nothing is found", 3, u"zebra"_s, 0},
+                     {"one is found", 3, u"q2"_s, 1},
+                     {"many are found", 2000, u"q19"_s, 111}};
+        for (const auto &list : lists) {
+            for (const auto &key : keys) {
+                const int last = list.rows - 1;
+                const int end = key.toTheTop ? qMin(0, last) : last;
+                QTest::addRow("%s: %s at the end", list.name, key.name)
+                    << list.printers << list.searched << key.key << end << end;
+                if (list.rows != 2)
+                    continue;
+                QTest::addRow("%s: %s at the other end", list.name, key.name)
+                    << list.printers << list.searched << key.key << last - end << end;
+            }
+        }
+    }
+    void keysAtTheEndsOfTheList()
+    {
+        QFETCH(int, printers);
+        QFETCH(QString, searched);
+        QFETCH(int, key);
+        QFETCH(int, before);
+        QFETCH(int, after);
+        open(queues(printers));
+        QTest::keyClicks(field(), searched);
+        const QAbstractItemModel *rows = list()->model();
+        list()->selectionModel()->setCurrentIndex(rows->index(before, 0),
+                                                  QItemSelectionModel::ClearAndSelect);
+        press(key);
+        QCOMPARE(list()->currentIndex().row(), after);
+        press(key);
+        QCOMPARE(list()->currentIndex().row(), after);
+        QCOMPARE(list()->selectionModel()->selectedIndexes().size(), after < 0 ? 0 : 1);
+        QVERIFY(popup()->isVisible());
+        QCOMPARE(field()->text(), searched);
+        QCOMPARE(m_acts, 0);
+    }
+
+    void aKeyWithoutAHighlightBeginsAtTheTop_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("row");
+        QTest::newRow("Up") << int(Qt::Key_Up) << 0;
+        QTest::newRow("Page Up") << int(Qt::Key_PageUp) << 0;
+        QTest::newRow("Home") << int(Qt::Key_Home) << 0;
+        QTest::newRow("Down") << int(Qt::Key_Down) << 0;
+        QTest::newRow("Page Down") << int(Qt::Key_PageDown) << 0;
+        QTest::newRow("End") << int(Qt::Key_End) << 99;
+    }
+    void aKeyWithoutAHighlightBeginsAtTheTop()
+    {
+        QFETCH(int, key);
+        QFETCH(int, row);
+        open(queues(100), u"none of these"_s);
+        QVERIFY(!list()->currentIndex().isValid());
+        press(key);
+        QCOMPARE(list()->currentIndex().row(), row);
+    }
+
+    // Where the footer's button has the focus, keys come to the popup from there.
+    void keysMoveInTheListFromTheFooterToo()
+    {
+        m_combo->setFooter(u"No answer"_s, u"Try Again"_s, [] {});
+        open(queues(2));
+        auto *button = child<QPushButton>(u"printerFooterAction"_s);
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_End);
+        QCOMPARE(highlighted(), u"q1"_s);
+        QTest::keyClick(button, Qt::Key_End);
+        QCOMPARE(highlighted(), u"q1"_s);
+    }
+
     void typingSearches()
     {
         open(queues(2000));
