@@ -20,7 +20,7 @@ bool PrintTask::canPrint() const
 
 bool PrintTask::printsToFile() const
 {
-    return m_output.toFile || m_printer.origin == PrinterOrigin::File;
+    return m_output.toFile || m_chosen.printer.origin == PrinterOrigin::File;
 }
 
 void PrintTask::setOutput(const QString &path, bool confirmed)
@@ -32,17 +32,11 @@ void PrintTask::setOutput(const QString &path, bool confirmed)
 void PrintTask::print()
 {
     if (m_phase == Phase::Opened) {
-        // By an Enter that was typed ahead, or because nobody waits for anything to be shown. What
-        // cannot be set then has not been seen by anybody.
-        QStringList unseen;
-        const auto watch = connect(this, &PrintTask::said, this, [&](const TaskMessage &message) {
-            if (message.kind == TaskMessage::Kind::Problem)
-                unseen += message.text;
-        });
+        // By an Enter that was typed ahead, or because nobody waits for anything to be shown: what
+        // cannot be set has not been seen by anybody.
         bringUp();
-        disconnect(watch);
-        if (!unseen.isEmpty()) {
-            Q_EMIT refused({unseen});
+        if (!m_chosen.unset.isEmpty()) {
+            Q_EMIT refused({m_chosen.unset});
             return;
         }
     }
@@ -114,14 +108,14 @@ std::optional<TaskRefusal> PrintTask::askPanels()
     const Instructions instructions = m_face.instructions(!printsToFile());
     if (instructions == Instructions::Refuse)
         return TaskRefusal{{tr("The printer's settings show instructions.")}};
-    m_held = instructions == Instructions::Wait;
-    if (m_held && printsToFile())
+    m_run.held = instructions == Instructions::Wait;
+    if (m_run.held && printsToFile())
         return TaskRefusal{{tr("The job would have to wait for these instructions, and a file "
                                "cannot wait. Follow them and print with --on-alert=print.")}};
     if (!allowed)
         return TaskRefusal{
             {tr("The printer's settings hold the job back.")}, TaskRefusal::Place::Nowhere, true};
-    if (m_held)
+    if (m_run.held)
         m_settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
     return std::nullopt;
 }
@@ -130,20 +124,20 @@ void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
     if (printsToFile()) {
-        m_job = std::make_unique<FileJob>(
+        m_run.job = std::make_unique<FileJob>(
             FileJobRequest{m_request.documents, ticket, m_opened->printer.ppdPath, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
-        request.earlierJob = m_memory.value(idOf(m_printer)).earlierJob;
-        m_job = std::make_unique<ServerJob>(request);
+        request.earlierJob = m_memory.value(idOf(m_chosen.printer)).earlierJob;
+        m_run.job = std::make_unique<ServerJob>(request);
     }
-    connect(m_job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
-        if (!m_job->isCanceled())
+    connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
+        if (!m_run.job->isCanceled())
             Q_EMIT progressed(progress);
     });
-    connect(m_job.get(), &Job::finished, this, &PrintTask::jobFinished);
+    connect(m_run.job.get(), &Job::finished, this, &PrintTask::jobFinished);
     enter(Phase::Printing);
-    m_job->start();
+    m_run.job->start();
 }
 
 void PrintTask::cancel()
@@ -152,38 +146,38 @@ void PrintTask::cancel()
         return;
     // A server that does not answer has a few seconds to be told.
     enter(Phase::Canceling);
-    m_job->cancel();
+    m_run.job->cancel();
 }
 
 void PrintTask::leave()
 {
     // What is being canceled is waited for: whether it still was in time has to be known.
-    if (m_phase != Phase::Printing || !m_job->isHandedOver())
+    if (m_phase != Phase::Printing || !m_run.job->isHandedOver())
         return;
     enter(Phase::Leaving);
-    m_job->letGo();
+    m_run.job->letGo();
 }
 
 void PrintTask::interrupt(OnInterrupt job)
 {
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
-    if (!m_job)
+    if (!m_run.job)
         return enter(Phase::Ended);
     if (job == OnInterrupt::LeaveJob)
         leave();
     if (m_phase == Phase::Leaving)
         return;
     enter(Phase::Leaving);
-    m_job->cancel();
+    m_run.job->cancel();
 }
 
 void PrintTask::jobFinished(const JobOutcome &outcome)
 {
     using Kind = JobOutcome::Kind;
-    m_job.release()->deleteLater();
-    m_outcome = outcome;
-    Memory &memory = m_memory[idOf(m_printer)];
+    m_run.job.release()->deleteLater();
+    m_run.outcome = outcome;
+    Memory &memory = m_memory[idOf(m_chosen.printer)];
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a
     // number has learnt nothing about an earlier one.
     if (outcome.kind == Kind::Unknown || outcome.kind == Kind::InQueue ||
@@ -192,14 +186,14 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
     else if (outcome.job > 0)
         memory.earlierJob = 0;
     if (outcome.isDone() && outcome.file.isEmpty())
-        m_source.rememberUse(m_printer);
+        m_source.rememberUse(m_chosen.printer);
     if (outcome.kind == Kind::PrinterChanged)
         m_source.retry();
     const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed;
     enter(ends ? Phase::Ended : Phase::Ready);
     Q_EMIT jobEnded(outcome);
-    if (m_comesNext && m_phase == Phase::Ready)
-        take(ReadyPrinter(*m_comesNext));
+    if (m_chosen.next && m_phase == Phase::Ready)
+        take(ReadyPrinter(*m_chosen.next));
 }
 
 } // namespace corvana

@@ -24,12 +24,12 @@ void PrintTask::connectSource()
 void PrintTask::start()
 {
     choosePrinter(m_source.first());
-    m_printerIsChosen = !m_source.firstIsProvisional();
+    m_chosen.deliberately = !m_source.firstIsProvisional();
 }
 
 void PrintTask::startUnattended()
 {
-    m_printerIsChosen = true;
+    m_chosen.deliberately = true;
     m_source.openWanted();
 }
 
@@ -38,10 +38,10 @@ void PrintTask::choosePrinter(const Printer &printer)
     rememberSession();
     close();
     Q_EMIT unsaid(); // and with it an offer that was meant for the other printer
-    m_printer = printer;
-    m_printerIsChosen = true;
-    m_comesNext.reset();
-    m_problem = {};
+    m_chosen.printer = printer;
+    m_chosen.deliberately = true;
+    m_chosen.next.reset();
+    m_chosen.problem = {};
     enter(Phase::Fetching);
     Q_EMIT printerChanged();
     m_source.open(printer);
@@ -50,7 +50,7 @@ void PrintTask::choosePrinter(const Printer &printer)
 void PrintTask::retry()
 {
     if (m_phase == Phase::Missing) {
-        m_problem = {};
+        m_chosen.problem = {};
         enter(Phase::Fetching);
     }
     m_source.retry();
@@ -68,14 +68,14 @@ void PrintTask::take(const ReadyPrinter &ready)
     if (m_phase == Phase::Ended)
         return;
     if (m_opened && (isPrinting() || m_face.userIsBusy())) {
-        m_comesNext = ready;
+        m_chosen.next = ready;
         QTimer::singleShot(kPatience, this, [this] {
-            if (m_comesNext && !isPrinting())
-                take(ReadyPrinter(*m_comesNext));
+            if (m_chosen.next && !isPrinting())
+                take(ReadyPrinter(*m_chosen.next));
         });
         return;
     }
-    m_comesNext.reset();
+    m_chosen.next.reset();
     const bool again = m_opened != nullptr;
     rememberSession();
     open(ready);
@@ -90,20 +90,20 @@ void PrintTask::take(const ReadyPrinter &ready)
 void PrintTask::open(const ReadyPrinter &ready)
 {
     close();
-    m_printer = ready.printer;
+    m_chosen.printer = ready.printer;
     Q_EMIT printerChanged();
-    const Memory memory = m_memory.value(idOf(m_printer));
+    const Memory memory = m_memory.value(idOf(m_chosen.printer));
     QStringList lost;
     const auto restore = [&](PpdSession &session) {
         if (memory.session)
             lost = restoreLeft(*memory.session, ready.ppdHash, session);
     };
-    m_opened =
-        openReadyPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_problem.text, restore);
+    m_opened = openReadyPrinter(ready, m_request.bundleRoots, m_face.alerts(),
+                                &m_chosen.problem.text, restore);
     if (!m_opened)
         return enter(Phase::Missing);
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
-    m_problem = {};
+    m_chosen.problem = {};
     enter(Phase::Opened);
     if (!m_opened->panelProblem.isEmpty())
         say(TaskMessage::Kind::Problem,
@@ -136,7 +136,7 @@ void PrintTask::rememberSession()
     QList<JobOption> attributes = m_settings.attributes();
     attributes.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
-    m_memory[idOf(m_printer)].session = LeftSession{
+    m_memory[idOf(m_chosen.printer)].session = LeftSession{
         m_baseline.opened, m_opened->session->snapshot(), m_opened->ppdHash, attributes};
 }
 
@@ -149,7 +149,7 @@ bool PrintTask::isUntouched() const
 
 void PrintTask::takeExpectedPrinter()
 {
-    if (m_printerIsChosen || isPrinting() || m_phase == Phase::Ended || !isUntouched())
+    if (m_chosen.deliberately || isPrinting() || m_phase == Phase::Ended || !isUntouched())
         return;
     if (m_face.userIsBusy()) { // the list may have nothing more to say afterwards
         QTimer::singleShot(kPatience, this, &PrintTask::takeExpectedPrinter);
@@ -164,10 +164,10 @@ void PrintTask::takeExpectedPrinter()
 
 void PrintTask::printerChecked(const Printer &printer, qint64 ppdLastModified)
 {
-    m_printer = printer;
-    m_problem = {};
+    m_chosen.printer = printer;
+    m_chosen.problem = {};
     // What comes next has its own words for it.
-    if (m_opened && !m_comesNext) {
+    if (m_opened && !m_chosen.next) {
         m_opened->printer = printer;
         m_opened->ppdLastModified = ppdLastModified;
     }
@@ -178,7 +178,7 @@ void PrintTask::printerFailed(const QString &problem, const QString &brief)
 {
     if (m_phase == Phase::Ended)
         return;
-    m_problem = {problem, brief};
+    m_chosen.problem = {problem, brief};
     if (!m_opened)
         enter(Phase::Missing);
     Q_EMIT printerChanged();

@@ -53,13 +53,13 @@ void PrintTask::bringUp()
     m_opened->panels->bringUp();
     noteMissingPages();
     m_baseline.opened = m_opened->session->snapshot();
-    const QStringList problems = applyStartOptions();
+    m_chosen.unset = applyStartOptions();
     m_baseline.started = m_opened->session->snapshot();
     enter(Phase::Ready);
     showSettings();
-    if (!problems.isEmpty())
+    if (!m_chosen.unset.isEmpty())
         say(TaskMessage::Kind::Problem,
-            tr("These options were not set:\n%1").arg(problems.join(u'\n')));
+            tr("What was asked for cannot be set:\n%1").arg(m_chosen.unset.join(u'\n')));
 }
 
 // Takes what the printer starts with: what the user had set before, else lpoptions and what was
@@ -69,17 +69,17 @@ QStringList PrintTask::applyStartOptions()
     using By = JobSettings::By;
     // What happens on the way is part of the outcome, not an event of the user's.
     const QSignalBlocker blocker(m_opened->panels.get());
-    const Memory &memory = m_memory[idOf(m_printer)];
+    const Memory &memory = m_memory[idOf(m_chosen.printer)];
     if (memory.session) {
         m_settings.addAttributes(memory.session->attributes);
         m_baseline.opened = memory.session->opened;
         m_opened->panels->restoreAll();
         return takeMostCopies();
     }
-    if (m_printer.origin == PrinterOrigin::Queue) {
+    if (m_chosen.printer.origin == PrinterOrigin::Queue) {
         // A choice of long ago does not stop a job; what is asked for now does.
         const FittedOptions fitted =
-            applyWhatFits(readUserQueues().optionsOf(m_printer.name), *m_opened);
+            applyWhatFits(readUserQueues().optionsOf(m_chosen.printer.name), *m_opened);
         m_settings.addAttributes(fitted.attributes);
         if (fitted.copies)
             m_settings.askForCopies(*fitted.copies, By::UserQueues);

@@ -61,7 +61,7 @@ public:
     Phase phase() const { return m_phase; }
     const PrintRequest &request() const { return m_request; }
     /// Why the printer cannot be asked for; empty while it can.
-    const PrinterProblem &problem() const { return m_problem; }
+    const PrinterProblem &problem() const { return m_chosen.problem; }
 
     // The printer (PrintTask-printers.cpp)
 
@@ -74,13 +74,13 @@ public:
     void startUnattended();
     PrinterSource &printers() { return m_source; }
     /// The one that is open, or is being asked for.
-    const Printer &printer() const { return m_printer; }
+    const Printer &printer() const { return m_chosen.printer; }
     /// Whether printer() was named or picked, rather than being there for want of a better one.
-    bool isPrinterChosen() const { return m_printerIsChosen; }
+    bool isPrinterChosen() const { return m_chosen.deliberately; }
     /// Whether printer() is there only because nobody has found a real one yet.
     bool hasNoPrinterYet() const
     {
-        return !m_printerIsChosen && m_printer.origin == PrinterOrigin::File &&
+        return !m_chosen.deliberately && m_chosen.printer.origin == PrinterOrigin::File &&
                m_request.printers.isEmpty();
     }
     /// Opens another printer. What was set for this one comes back with it.
@@ -120,12 +120,12 @@ public:
     void leave();
     /// Ends the task from outside, whatever it is doing.
     void interrupt(OnInterrupt job);
-    bool isJobHandedOver() const { return m_job && m_job->isHandedOver(); }
+    bool isJobHandedOver() const { return m_run.job && m_run.job->isHandedOver(); }
     /// Of the job that ended last; Failed without a text before that.
-    const JobOutcome &outcome() const { return m_outcome; }
+    const JobOutcome &outcome() const { return m_run.outcome; }
     /// Whether the job waits in its queue for instructions to be followed.
-    bool isHeld() const { return m_held; }
-    const ServerContext &server() const { return m_source.serverOf(m_printer); }
+    bool isHeld() const { return m_run.held; }
+    const ServerContext &server() const { return m_source.serverOf(m_chosen.printer); }
 
 Q_SIGNALS:
     void phaseChanged(corvana::PrintTask::Phase phase);
@@ -152,6 +152,20 @@ private:
     {
         std::optional<LeftSession> session;
         int earlierJob = 0; // that may print yet
+    };
+    struct Chosen
+    {
+        Printer printer;                  // as its server describes it by now
+        bool deliberately = false;        // named or picked, and not for want of a better one
+        PrinterProblem problem;           // why it cannot be asked for
+        QStringList unset;                // what was asked for with it and cannot be set
+        std::optional<ReadyPrinter> next; // while the one that is open is in use
+    };
+    struct Run
+    {
+        std::unique_ptr<Job> job;
+        JobOutcome outcome; // of the last one
+        bool held = false;  // until its instructions have been followed
     };
     struct Output
     {
@@ -197,18 +211,13 @@ private:
     TaskFace &m_face;
     std::shared_ptr<CredentialStore> m_credentials;
     PrinterSource m_source;
-    Printer m_printer;
-    bool m_printerIsChosen = false;
+    Chosen m_chosen;
     std::unique_ptr<OpenedPrinter> m_opened;
-    std::optional<ReadyPrinter> m_comesNext; // while the one that is open is in use
     QHash<PrinterId, Memory> m_memory;
     Baseline m_baseline;
     JobSettings m_settings;
     Output m_output;
-    PrinterProblem m_problem;
-    std::unique_ptr<Job> m_job;
-    JobOutcome m_outcome;
-    bool m_held = false;
+    Run m_run;
     Phase m_phase = Phase::Fetching;
 };
 

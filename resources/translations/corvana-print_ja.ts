@@ -253,6 +253,17 @@
     </message>
 </context>
 <context>
+    <name>LeftSession</name>
+    <message>
+        <source>This printer has no option of the name %1 any more.</source>
+        <translation>このプリンターには%1という名前のオプションがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The option %1 has no choice %2 any more.</source>
+        <translation>オプション%1には%2という選択肢がなくなりました。</translation>
+    </message>
+</context>
+<context>
     <name>OptionRequest</name>
     <message>
         <source>this printer has no such option. Options: %1. Job attributes: %2.</source>
@@ -285,15 +296,6 @@
     <message>
         <source>1 to %1</source>
         <translation>1～%1</translation>
-    </message>
-</context>
-<context>
-    <name>PrintRequest</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 ほか %n 件</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -516,9 +518,33 @@
         <source>PostScript File</source>
         <translation>PostScript ファイル</translation>
     </message>
+</context>
+<context>
+    <name>RefusalText</name>
     <message>
-        <source>This printer has no option of the name %1.</source>
-        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+        <source>“%1: %2”</source>
+        <translation>「%1: %2」</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2.</source>
+        <translation>%1 は %2 と同時には使用できません。</translation>
+    </message>
+    <message>
+        <source>Change to %1</source>
+        <translation>%1 に変更</translation>
+    </message>
+</context>
+<context>
+    <name>RequestFromCommandLine</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -791,6 +817,13 @@
     </message>
 </context>
 <context>
+    <name>StartValues</name>
+    <message>
+        <source>This printer has no option of the name %1.</source>
+        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+</context>
+<context>
     <name>Summary</name>
     <message>
         <source>Copies</source>
@@ -835,22 +868,6 @@
         <translation>何も印刷されませんでした。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
-        <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
-    </message>
-    <message>
-        <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
-        <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s settings show instructions.</source>
-        <translation>プリンターの設定に指示が表示されました。</translation>
-    </message>
-    <message>
-        <source>There is no printer &quot;%1&quot; at the print server &quot;%2&quot;.</source>
-        <translation>プリントサーバー「%2」にプリンター「%1」はありません。</translation>
-    </message>
-    <message>
         <source>It waits until the instructions have been followed. Release it with: %1</source>
         <translation>ジョブは、指示に従って準備ができるまで待機します。次のコマンドで再開してください: %1</translation>
     </message>
@@ -859,24 +876,8 @@
         <translation>中断されました。</translation>
     </message>
     <message>
-        <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
-        <translation>%1そのため、プリンター「%2」を確認できませんでした。</translation>
-    </message>
-    <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1プリントサーバーを必要としないプリンター: %2。</translation>
-    </message>
-    <message>
-        <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>既定のプリンターがありません。%1-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
-    </message>
-    <message>
-        <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>既定のプリンターがありません。-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
-    </message>
-    <message>
-        <source>The printer prints at most %1 copies at once, not %2.</source>
-        <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1082,49 @@
     </message>
 </context>
 <context>
+    <name>corvana::JobFooter</name>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Show Silenced Messages Again</source>
+        <translation>非表示にしたメッセージを再び表示</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window.</source>
+        <translation>このウィンドウを閉じても、ジョブは続行されます。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>Canceling…</source>
+        <translation>キャンセルしています…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>corvana::MessageBar</name>
     <message>
         <source>Dismiss this message</source>
@@ -1132,11 +1176,144 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
-    <name>corvana::PrintDialog</name>
+    <name>corvana::PrintTask</name>
+    <message>
+        <source>Name the file to print to.</source>
+        <translation>出力するファイルの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
+        <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s settings show instructions.</source>
+        <translation>プリンターの設定に指示が表示されました。</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
+        <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s settings hold the job back.</source>
+        <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The options of the printer have changed at its server; yours were kept.</source>
+        <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own settings are missing: %1</source>
+        <translation>プリンター固有の設定を使用できません: %1</translation>
+    </message>
+    <message>
+        <source>Not everything could be set as before:
+%1</source>
+        <translation>次の設定は、以前のとおりに戻せませんでした:
+%1</translation>
+    </message>
+    <message>
+        <source>The queue “%1” leads to the same printer, and has pages with all of its settings.</source>
+        <translation>キュー「%1」は同じプリンターに接続し、すべての設定のページがあります。</translation>
+    </message>
+    <message>
+        <source>Use “%1”</source>
+        <translation>「%1」を使用</translation>
+    </message>
+    <message>
+        <source>What was asked for cannot be set:
+%1</source>
+        <translation>指定された内容を設定できません:
+%1</translation>
+    </message>
+    <message>
+        <source>The printer prints at most %1 copies at once, not %2.</source>
+        <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
+    </message>
+    <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>プリンターの設定ページを表示できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrintWindow</name>
+    <message>
+        <source>Asking “%1” for the options of the printer…</source>
+        <translation>「%1」からプリンターのオプションを取得しています…</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>プリンターを探しています…</translation>
+    </message>
+    <message>
+        <source>No answer from “%1” yet.</source>
+        <translation>「%1」からまだ応答がありません。</translation>
+    </message>
+    <message>
+        <source>No printers at “%1”.</source>
+        <translation>「%1」にプリンターはありません。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>There are no printers yet. Add one in the printer settings of the system, or with the command lpadmin.</source>
+        <translation>プリンターがまだありません。システムのプリンター設定、またはコマンド lpadmin で追加してください。</translation>
+    </message>
+    <message>
+        <source>Until then, documents can be printed to a file.</source>
+        <translation>それまでの間、文書はファイルに出力できます。</translation>
+    </message>
+    <message>
+        <source>Log In…</source>
+        <translation>ログイン…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>The print service of this computer is not running. Start it, on most systems with “systemctl start cups”.</source>
+        <translation>このコンピューターの印刷サービスが動作していません。多くのシステムでは「systemctl start cups」で開始できます。</translation>
+    </message>
+    <message>
+        <source>Print Another Copy</source>
+        <translation>もう 1 部印刷</translation>
+    </message>
+    <message>
+        <source>Print to File</source>
+        <translation>ファイルに出力</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 は既にあります。置き換えますか？</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
     </message>
+    <message>
+        <source>Your preferences cannot be written.</source>
+        <translation>個人設定を書き込めません。</translation>
+    </message>
+    <message>
+        <source>The help is not installed.</source>
+        <translation>ヘルプがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Help on Printing</source>
+        <translation>印刷のヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterComboBox</name>
+    <message>
+        <source>Choose a printer</source>
+        <translation>プリンターを選択</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterHeader</name>
     <message>
         <source>P&amp;rinter:</source>
         <translation>プリンター(&amp;R):</translation>
@@ -1150,14 +1327,6 @@ For the command line: %2</source>
         <translation>出力ファイル(&amp;F):</translation>
     </message>
     <message>
-        <source>&amp;Print</source>
-        <translation>印刷(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
         <source>Print to file</source>
         <translation>出力ファイル</translation>
     </message>
@@ -1166,187 +1335,12 @@ For the command line: %2</source>
         <translation>選択(&amp;H)…</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
-        <translation>プリンター固有の設定を使用できません: %1</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>全般</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>設定一覧</translation>
-    </message>
-    <message>
-        <source>This page cannot be shown: %1</source>
-        <translation>このページを表示できません: %1</translation>
-    </message>
-    <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
-        <translation>プリンターの設定ページを表示できません: %1</translation>
-    </message>
-    <message>
-        <source>“%1: %2”</source>
-        <translation>「%1: %2」</translation>
-    </message>
-    <message>
-        <source>%1 cannot be combined with %2.</source>
-        <translation>%1 は %2 と同時には使用できません。</translation>
-    </message>
-    <message>
-        <source> and </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>Change to %1</source>
-        <translation>%1 に変更</translation>
-    </message>
-    <message>
         <source>Print to File</source>
         <translation>ファイルに出力</translation>
     </message>
     <message>
         <source>PostScript (*.ps);;All files (*)</source>
         <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>%1 exists already. Replace it?</source>
-        <translation>%1 は既にあります。置き換えますか？</translation>
-    </message>
-    <message>
-        <source>Name the file to print to.</source>
-        <translation>出力するファイルの名前を入力してください。</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>印刷しています…</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
-        <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>Show Silenced Messages Again</source>
-        <translation>非表示にしたメッセージを再び表示</translation>
-    </message>
-    <message>
-        <source>Your preferences cannot be written.</source>
-        <translation>個人設定を書き込めません。</translation>
-    </message>
-    <message>
-        <source>None of the options of the command line was set, because of these:
-%1</source>
-        <translation>次の理由により、コマンドラインのオプションは設定されませんでした:
-%1</translation>
-    </message>
-    <message>
-        <source>The help is not installed.</source>
-        <translation>ヘルプがインストールされていません。</translation>
-    </message>
-    <message>
-        <source>Help on Printing</source>
-        <translation>印刷のヘルプ</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>印刷中</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>オプション</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>Print Another Copy</source>
-        <translation>もう 1 部印刷</translation>
-    </message>
-    <message>
-        <source>Asking “%1” for the options of the printer…</source>
-        <translation>「%1」からプリンターのオプションを取得しています…</translation>
-    </message>
-    <message>
-        <source>The options of the printer have changed at its server; yours were kept.</source>
-        <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
-    </message>
-    <message>
-        <source>Try Again</source>
-        <translation>再試行</translation>
-    </message>
-    <message>
-        <source>Until then, documents can be printed to a file.</source>
-        <translation>それまでの間、文書はファイルに出力できます。</translation>
-    </message>
-    <message>
-        <source>Looking for printers…</source>
-        <translation>プリンターを探しています…</translation>
-    </message>
-    <message>
-        <source>No printers at “%1”.</source>
-        <translation>「%1」にプリンターはありません。</translation>
-    </message>
-    <message>
-        <source>There are no printers yet. Add one in the printer settings of the system, or with the command lpadmin.</source>
-        <translation>プリンターがまだありません。システムのプリンター設定、またはコマンド lpadmin で追加してください。</translation>
-    </message>
-    <message>
-        <source>Log In…</source>
-        <translation>ログイン…</translation>
-    </message>
-    <message>
-        <source>The print service of this computer is not running. Start it, on most systems with “systemctl start cups”.</source>
-        <translation>このコンピューターの印刷サービスが動作していません。多くのシステムでは「systemctl start cups」で開始できます。</translation>
-    </message>
-    <message>
-        <source>C&amp;lose</source>
-        <translation>閉じる(&amp;L)</translation>
-    </message>
-    <message>
-        <source>The job goes on without this window.</source>
-        <translation>このウィンドウを閉じても、ジョブは続行されます。</translation>
-    </message>
-    <message>
-        <source>Not everything could be set as before:
-%1</source>
-        <translation>次の設定は、以前のとおりに戻せませんでした:
-%1</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1%2</translation>
-    </message>
-    <message>
-        <source>The queue “%1” leads to the same printer, and has pages with all of its settings.</source>
-        <translation>キュー「%1」は同じプリンターに接続し、すべての設定のページがあります。</translation>
-    </message>
-    <message>
-        <source>Use “%1”</source>
-        <translation>「%1」を使用</translation>
-    </message>
-    <message>
-        <source>No answer from “%1” yet.</source>
-        <translation>「%1」からまだ応答がありません。</translation>
-    </message>
-    <message>
-        <source>Canceling…</source>
-        <translation>キャンセルしています…</translation>
-    </message>
-    <message>
-        <source>This printer prints at most %1 copies at once.</source>
-        <translation>このプリンターで一度に印刷できるのは %1 部までです。</translation>
-    </message>
-</context>
-<context>
-    <name>corvana::PrinterComboBox</name>
-    <message>
-        <source>Choose a printer</source>
-        <translation>プリンターを選択</translation>
     </message>
 </context>
 <context>
@@ -1390,6 +1384,14 @@ For the command line: %2</source>
         <source>There is no printer “%1” at “%2” any more.</source>
         <translation>「%2」のプリンター「%1」はなくなりました。</translation>
     </message>
+    <message>
+        <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>既定のプリンターがありません。%1-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>既定のプリンターがありません。-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterStatusLine</name>
@@ -1415,6 +1417,29 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SettingsPages</name>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: %1</source>
+        <translation>このページを表示できません: %1</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
     </message>
 </context>
 <context>

@@ -253,6 +253,17 @@
     </message>
 </context>
 <context>
+    <name>LeftSession</name>
+    <message>
+        <source>This printer has no option of the name %1 any more.</source>
+        <translation>此打印机不再有名为 %1 的选项。</translation>
+    </message>
+    <message>
+        <source>The option %1 has no choice %2 any more.</source>
+        <translation>选项 %1 不再有 %2 这个选择。</translation>
+    </message>
+</context>
+<context>
     <name>OptionRequest</name>
     <message>
         <source>this printer has no such option. Options: %1. Job attributes: %2.</source>
@@ -285,15 +296,6 @@
     <message>
         <source>1 to %1</source>
         <translation>1 到 %1</translation>
-    </message>
-</context>
-<context>
-    <name>PrintRequest</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 等另外 %n 个</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -516,9 +518,33 @@
         <source>PostScript File</source>
         <translation>PostScript 文件</translation>
     </message>
+</context>
+<context>
+    <name>RefusalText</name>
     <message>
-        <source>This printer has no option of the name %1.</source>
-        <translation>此打印机没有以下名称的选项：%1</translation>
+        <source>“%1: %2”</source>
+        <translation>“%1：%2”</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2.</source>
+        <translation>%1 不能与 %2 同时使用。</translation>
+    </message>
+    <message>
+        <source>Change to %1</source>
+        <translation>更改为%1</translation>
+    </message>
+</context>
+<context>
+    <name>RequestFromCommandLine</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 等另外 %n 个</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -791,6 +817,13 @@
     </message>
 </context>
 <context>
+    <name>StartValues</name>
+    <message>
+        <source>This printer has no option of the name %1.</source>
+        <translation>此打印机没有以下名称的选项：%1</translation>
+    </message>
+</context>
+<context>
     <name>Summary</name>
     <message>
         <source>Copies</source>
@@ -835,22 +868,6 @@
         <translation>没有打印任何内容。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
-        <translation>由于打印机设置，作业未打印。</translation>
-    </message>
-    <message>
-        <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
-        <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s settings show instructions.</source>
-        <translation>打印机设置显示了说明。</translation>
-    </message>
-    <message>
-        <source>There is no printer &quot;%1&quot; at the print server &quot;%2&quot;.</source>
-        <translation>打印服务器“%2”上没有打印机“%1”。</translation>
-    </message>
-    <message>
         <source>It waits until the instructions have been followed. Release it with: %1</source>
         <translation>作业将等待您按说明操作完毕。然后用此命令继续：%1</translation>
     </message>
@@ -859,24 +876,8 @@
         <translation>已中断。</translation>
     </message>
     <message>
-        <source>%1 So the printer &quot;%2&quot; could not be asked for.</source>
-        <translation>%1因此无法查询打印机“%2”。</translation>
-    </message>
-    <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1不需要打印服务器的打印机：%2。</translation>
-    </message>
-    <message>
-        <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>没有默认打印机。%1请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
-    </message>
-    <message>
-        <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>没有默认打印机。请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
-    </message>
-    <message>
-        <source>The printer prints at most %1 copies at once, not %2.</source>
-        <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1082,49 @@
     </message>
 </context>
 <context>
+    <name>corvana::JobFooter</name>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Show Silenced Messages Again</source>
+        <translation>重新显示不再显示的消息</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>关闭(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window.</source>
+        <translation>关闭此窗口后，作业会继续。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>Canceling…</source>
+        <translation>正在取消…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>corvana::MessageBar</name>
     <message>
         <source>Dismiss this message</source>
@@ -1132,11 +1176,144 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
-    <name>corvana::PrintDialog</name>
+    <name>corvana::PrintTask</name>
+    <message>
+        <source>Name the file to print to.</source>
+        <translation>请输入要输出的文件名。</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
+        <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s settings show instructions.</source>
+        <translation>打印机设置显示了说明。</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and a file cannot wait. Follow them and print with --on-alert=print.</source>
+        <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s settings hold the job back.</source>
+        <translation>由于打印机设置，作业未打印。</translation>
+    </message>
+    <message>
+        <source>The options of the printer have changed at its server; yours were kept.</source>
+        <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own settings are missing: %1</source>
+        <translation>无法使用打印机专用设置：%1</translation>
+    </message>
+    <message>
+        <source>Not everything could be set as before:
+%1</source>
+        <translation>以下设置无法恢复为以前的值：
+%1</translation>
+    </message>
+    <message>
+        <source>The queue “%1” leads to the same printer, and has pages with all of its settings.</source>
+        <translation>队列“%1”通向同一台打印机，并有包含其所有设置的页面。</translation>
+    </message>
+    <message>
+        <source>Use “%1”</source>
+        <translation>使用“%1”</translation>
+    </message>
+    <message>
+        <source>What was asked for cannot be set:
+%1</source>
+        <translation>无法设置所要求的内容：
+%1</translation>
+    </message>
+    <message>
+        <source>The printer prints at most %1 copies at once, not %2.</source>
+        <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
+    </message>
+    <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>无法显示打印机的设置页：%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrintWindow</name>
+    <message>
+        <source>Asking “%1” for the options of the printer…</source>
+        <translation>正在从“%1”获取打印机选项…</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>正在查找打印机…</translation>
+    </message>
+    <message>
+        <source>No answer from “%1” yet.</source>
+        <translation>“%1”尚未响应。</translation>
+    </message>
+    <message>
+        <source>No printers at “%1”.</source>
+        <translation>“%1”上没有打印机。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>There are no printers yet. Add one in the printer settings of the system, or with the command lpadmin.</source>
+        <translation>还没有打印机。请在系统的打印机设置中添加，或使用命令 lpadmin 添加。</translation>
+    </message>
+    <message>
+        <source>Until then, documents can be printed to a file.</source>
+        <translation>在此之前，可将文档打印到文件。</translation>
+    </message>
+    <message>
+        <source>Log In…</source>
+        <translation>登录…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>The print service of this computer is not running. Start it, on most systems with “systemctl start cups”.</source>
+        <translation>本机的打印服务未运行。请启动该服务，多数系统使用“systemctl start cups”。</translation>
+    </message>
+    <message>
+        <source>Print Another Copy</source>
+        <translation>再打印一份</translation>
+    </message>
+    <message>
+        <source>Print to File</source>
+        <translation>打印到文件</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 已存在。要替换吗？</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>打印</translation>
     </message>
+    <message>
+        <source>Your preferences cannot be written.</source>
+        <translation>无法写入个人设置。</translation>
+    </message>
+    <message>
+        <source>The help is not installed.</source>
+        <translation>未安装帮助。</translation>
+    </message>
+    <message>
+        <source>Help on Printing</source>
+        <translation>打印帮助</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterComboBox</name>
+    <message>
+        <source>Choose a printer</source>
+        <translation>选择打印机</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PrinterHeader</name>
     <message>
         <source>P&amp;rinter:</source>
         <translation>打印机(&amp;R)：</translation>
@@ -1150,14 +1327,6 @@ For the command line: %2</source>
         <translation>输出文件(&amp;F)：</translation>
     </message>
     <message>
-        <source>&amp;Print</source>
-        <translation>打印(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Print to file</source>
         <translation>输出文件</translation>
     </message>
@@ -1166,187 +1335,12 @@ For the command line: %2</source>
         <translation>选择(&amp;H)…</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
-        <translation>无法使用打印机专用设置：%1</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>设置摘要</translation>
-    </message>
-    <message>
-        <source>This page cannot be shown: %1</source>
-        <translation>无法显示此页：%1</translation>
-    </message>
-    <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
-        <translation>无法显示打印机的设置页：%1</translation>
-    </message>
-    <message>
-        <source>“%1: %2”</source>
-        <translation>“%1：%2”</translation>
-    </message>
-    <message>
-        <source>%1 cannot be combined with %2.</source>
-        <translation>%1 不能与 %2 同时使用。</translation>
-    </message>
-    <message>
-        <source> and </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>Change to %1</source>
-        <translation>更改为%1</translation>
-    </message>
-    <message>
         <source>Print to File</source>
         <translation>打印到文件</translation>
     </message>
     <message>
         <source>PostScript (*.ps);;All files (*)</source>
         <translation>PostScript (*.ps);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>%1 exists already. Replace it?</source>
-        <translation>%1 已存在。要替换吗？</translation>
-    </message>
-    <message>
-        <source>Name the file to print to.</source>
-        <translation>请输入要输出的文件名。</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>正在打印…</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
-        <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
-        <source>Show Silenced Messages Again</source>
-        <translation>重新显示不再显示的消息</translation>
-    </message>
-    <message>
-        <source>Your preferences cannot be written.</source>
-        <translation>无法写入个人设置。</translation>
-    </message>
-    <message>
-        <source>None of the options of the command line was set, because of these:
-%1</source>
-        <translation>由于以下原因，命令行选项均未设置：
-%1</translation>
-    </message>
-    <message>
-        <source>The help is not installed.</source>
-        <translation>未安装帮助。</translation>
-    </message>
-    <message>
-        <source>Help on Printing</source>
-        <translation>打印帮助</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>正在打印</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Print Another Copy</source>
-        <translation>再打印一份</translation>
-    </message>
-    <message>
-        <source>Asking “%1” for the options of the printer…</source>
-        <translation>正在从“%1”获取打印机选项…</translation>
-    </message>
-    <message>
-        <source>The options of the printer have changed at its server; yours were kept.</source>
-        <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
-    </message>
-    <message>
-        <source>Try Again</source>
-        <translation>重试</translation>
-    </message>
-    <message>
-        <source>Until then, documents can be printed to a file.</source>
-        <translation>在此之前，可将文档打印到文件。</translation>
-    </message>
-    <message>
-        <source>Looking for printers…</source>
-        <translation>正在查找打印机…</translation>
-    </message>
-    <message>
-        <source>No printers at “%1”.</source>
-        <translation>“%1”上没有打印机。</translation>
-    </message>
-    <message>
-        <source>There are no printers yet. Add one in the printer settings of the system, or with the command lpadmin.</source>
-        <translation>还没有打印机。请在系统的打印机设置中添加，或使用命令 lpadmin 添加。</translation>
-    </message>
-    <message>
-        <source>Log In…</source>
-        <translation>登录…</translation>
-    </message>
-    <message>
-        <source>The print service of this computer is not running. Start it, on most systems with “systemctl start cups”.</source>
-        <translation>本机的打印服务未运行。请启动该服务，多数系统使用“systemctl start cups”。</translation>
-    </message>
-    <message>
-        <source>C&amp;lose</source>
-        <translation>关闭(&amp;L)</translation>
-    </message>
-    <message>
-        <source>The job goes on without this window.</source>
-        <translation>关闭此窗口后，作业会继续。</translation>
-    </message>
-    <message>
-        <source>Not everything could be set as before:
-%1</source>
-        <translation>以下设置无法恢复为以前的值：
-%1</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1%2</translation>
-    </message>
-    <message>
-        <source>The queue “%1” leads to the same printer, and has pages with all of its settings.</source>
-        <translation>队列“%1”通向同一台打印机，并有包含其所有设置的页面。</translation>
-    </message>
-    <message>
-        <source>Use “%1”</source>
-        <translation>使用“%1”</translation>
-    </message>
-    <message>
-        <source>No answer from “%1” yet.</source>
-        <translation>“%1”尚未响应。</translation>
-    </message>
-    <message>
-        <source>Canceling…</source>
-        <translation>正在取消…</translation>
-    </message>
-    <message>
-        <source>This printer prints at most %1 copies at once.</source>
-        <translation>此打印机一次最多打印 %1 份。</translation>
-    </message>
-</context>
-<context>
-    <name>corvana::PrinterComboBox</name>
-    <message>
-        <source>Choose a printer</source>
-        <translation>选择打印机</translation>
     </message>
 </context>
 <context>
@@ -1390,6 +1384,14 @@ For the command line: %2</source>
         <source>There is no printer “%1” at “%2” any more.</source>
         <translation>“%2”上已没有打印机“%1”。</translation>
     </message>
+    <message>
+        <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>没有默认打印机。%1请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
+        <translation>没有默认打印机。请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterStatusLine</name>
@@ -1415,6 +1417,29 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SettingsPages</name>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>设置摘要</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: %1</source>
+        <translation>无法显示此页：%1</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+#include <QStringList>
+
+#include "dialog/task/PrintTask.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+
+namespace corvana::test {
+
+/// A face that nobody looks at: it answers as a test tells it to, and notes what its task says.
+class ScriptedFace : public QObject, public TaskFace
+{
+public:
+    /// Notes what a task says from now on.
+    void watch(PrintTask &task);
+
+    // What it answers.
+    bool overwrites = true;
+    bool takesWhatIsTyped = true;
+    Instructions instructionsAre = Instructions::Followed;
+
+    // What it has seen.
+    QList<PrintTask::Phase> phases;
+    QList<TaskMessage> messages;
+    QList<TaskRefusal> refusals;
+    QStringList ignored; ///< of lpoptions
+    QStringList asked;   ///< files that may be overwritten or not
+    QList<JobOutcome> outcomes;
+    QList<QList<SummaryLine>> summaries;
+    ScriptedAlertPresenter presenter;
+
+    /// The problems of the last refusal; empty when there is none.
+    QStringList problems() const;
+    /// The text of the last message; null when there is none.
+    QString message() const;
+
+    AlertPresenter &alerts() override { return presenter; }
+    void askCredentials(const CredentialsQuestion &, const CredentialStore::Answer &answer) override
+    {
+        answer(std::nullopt);
+    }
+    Instructions instructions(bool) const override { return instructionsAre; }
+    bool finishEditing() override { return takesWhatIsTyped; }
+    bool mayOverwrite(const QString &file) override
+    {
+        asked += file;
+        return overwrites;
+    }
+    void writeSummary(const QList<SummaryLine> &lines) override { summaries += lines; }
+};
+
+} // namespace corvana::test
