@@ -10,10 +10,10 @@
 #include <QFile>
 #include <QPushButton>
 
-#include "dialog/app/LastPrinter.h"
 #include "dialog/app/PrintDialog.h"
 #include "dialog/pages/GeneralPage.h"
-#include "dialog/queues/PpdCache.h"
+#include "dialog/printers/LastPrinter.h"
+#include "dialog/printers/PpdCache.h"
 #include "dialog/server/IppMessage.h"
 
 namespace corvana::benchmarks {

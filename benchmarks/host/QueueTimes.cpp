@@ -17,7 +17,7 @@
 #include "dialog/chooser/PrinterModel.h"
 #include "dialog/chooser/PrinterPopup.h"
 #include "dialog/chooser/PrinterSearch.h"
-#include "dialog/queues/QueueList.h"
+#include "dialog/printers/QueueList.h"
 #include "dialog/server/IppMessage.h"
 
 namespace corvana::benchmarks {

@@ -14,6 +14,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "dialog/app/QueueOpening.h"
 #include "dialog/chooser/ElidedLabel.h"
 #include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/pages/GeneralPage.h"

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/app/CredentialsDialog.h"
+#include "dialog/app/QueueOpening.h"
 #include "dialog/chooser/PrinterComboBox.h"
 #include "dialog/chooser/PrinterStatusLine.h"
 #include "dialog/pages/GeneralPage.h"

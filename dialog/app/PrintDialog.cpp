@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "dialog/app/QueueOpening.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/OptionsPage.h"
@@ -25,7 +26,8 @@ Q_LOGGING_CATEGORY(lcDialog, "corvana.dialog.window", QtWarningMsg)
 
 PrintDialog::PrintDialog(PrintRequest request, QWidget *parent)
     : QDialog(parent), m_request(std::move(request)), m_credentials(CredentialStore::create()),
-      m_source(m_request, ServerContext{m_request.server, m_credentials})
+      m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
+               ServerContext{m_request.server, m_credentials})
 {
     buildWindow();
     HelpManager::sharedHelpManager().setViewer(

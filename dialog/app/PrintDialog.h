@@ -9,10 +9,10 @@
 #include "dialog/app/AlertPresenters.h"
 #include "dialog/app/OpenedPrinter.h"
 #include "dialog/app/PrintRequest.h"
-#include "dialog/app/PrinterSource.h"
 #include "dialog/chooser/PrinterModel.h"
 #include "dialog/job/FileQueue.h"
 #include "dialog/job/ServerJob.h"
+#include "dialog/printers/PrinterSource.h"
 #include "platform/foundation/HelpManager.h"
 
 class QCheckBox;

@@ -5,8 +5,8 @@
 #include <QFileInfo>
 
 #include "dialog/app/OpenedPrinter.h"
-#include "dialog/queues/PrinterId.h"
-#include "dialog/queues/SamplePrinters.h"
+#include "dialog/printers/PrinterId.h"
+#include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 
 namespace corvana {

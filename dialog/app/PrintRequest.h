@@ -9,7 +9,7 @@
 
 #include "dialog/app/CommandLine.h"
 #include "dialog/job/Document.h"
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/session/JobTicket.h"
 

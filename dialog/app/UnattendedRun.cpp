@@ -16,7 +16,7 @@
 #include "dialog/app/TerminationSignals.h"
 #include "dialog/job/FileQueue.h"
 #include "dialog/job/ServerJob.h"
-#include "dialog/queues/UserQueues.h"
+#include "dialog/printers/UserQueues.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"

@@ -1,5 +1,6 @@
 #include "dialog/app/WindowSize.h"
 
+#include "dialog/session/DialogPreferences.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/foundation/Values.h"
 

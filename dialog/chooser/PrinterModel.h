@@ -7,7 +7,7 @@
 #include <QPersistentModelIndex>
 
 #include "dialog/chooser/PrinterTexts.h"
-#include "dialog/queues/PrinterId.h"
+#include "dialog/printers/PrinterId.h"
 
 namespace corvana {
 

@@ -297,6 +297,17 @@
     </message>
 </context>
 <context>
+    <name>PrinterFetching</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>PostScript File</source>
+        <translation>PostScript ファイル</translation>
+    </message>
+</context>
+<context>
     <name>PrinterTexts</name>
     <message>
         <source>connecting</source>
@@ -508,14 +519,6 @@
 </context>
 <context>
     <name>QueueOpening</name>
-    <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
-        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
-    </message>
-    <message>
-        <source>PostScript File</source>
-        <translation>PostScript ファイル</translation>
-    </message>
     <message>
         <source>This printer has no option of the name %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>

@@ -297,6 +297,17 @@
     </message>
 </context>
 <context>
+    <name>PrinterFetching</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>无法将打印机选项写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>PostScript File</source>
+        <translation>PostScript 文件</translation>
+    </message>
+</context>
+<context>
     <name>PrinterTexts</name>
     <message>
         <source>connecting</source>
@@ -508,14 +519,6 @@
 </context>
 <context>
     <name>QueueOpening</name>
-    <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
-        <translation>无法将打印机选项写入 %1：%2</translation>
-    </message>
-    <message>
-        <source>PostScript File</source>
-        <translation>PostScript 文件</translation>
-    </message>
     <message>
         <source>This printer has no option of the name %1.</source>
         <translation>此打印机没有以下名称的选项：%1</translation>
