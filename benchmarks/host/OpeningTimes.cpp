@@ -10,11 +10,11 @@
 #include <QFile>
 #include <QPushButton>
 
-#include "dialog/app/LastPrinter.h"
+#include "dialog/printers/LastPrinter.h"
+#include "dialog/printers/PpdCache.h"
+#include "dialog/server/IppMessage.h"
 #include "dialog/window/PrintWindow.h"
 #include "dialog/window/pages/GeneralPage.h"
-#include "dialog/queues/PpdCache.h"
-#include "dialog/server/IppMessage.h"
 
 namespace corvana::benchmarks {
 

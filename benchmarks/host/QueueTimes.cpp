@@ -14,11 +14,11 @@
 #include <QFile>
 #include <QListView>
 
+#include "dialog/printers/QueueList.h"
+#include "dialog/server/IppMessage.h"
 #include "dialog/window/chooser/PrinterModel.h"
 #include "dialog/window/chooser/PrinterPopup.h"
 #include "dialog/window/chooser/PrinterSearch.h"
-#include "dialog/queues/QueueList.h"
-#include "dialog/server/IppMessage.h"
 
 namespace corvana::benchmarks {
 

@@ -2,7 +2,7 @@
 
 #include <QCommandLineParser>
 
-#include "dialog/queues/DevicePrinter.h"
+#include "dialog/printers/DevicePrinter.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"

@@ -5,7 +5,7 @@
 #include <QFileInfo>
 
 #include "dialog/app/Language.h"
-#include "dialog/queues/SamplePrinters.h"
+#include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 #include "platform/foundation/Bundle.h"
 

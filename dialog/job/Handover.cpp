@@ -7,7 +7,7 @@
 #include <QFile>
 
 #include "dialog/job/JobRequests.h"
-#include "dialog/queues/QueueRequests.h"
+#include "dialog/printers/QueueRequests.h"
 
 namespace corvana {
 

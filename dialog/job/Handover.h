@@ -9,7 +9,7 @@
 #include "dialog/job/Document.h"
 #include "dialog/job/JobOutcome.h"
 #include "dialog/job/JobProgress.h"
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 #include "dialog/server/ServerWork.h"
 #include "dialog/session/JobTicket.h"
 

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "dialog/queues/UserQueues.h"
+#include "dialog/printers/UserQueues.h"
 
 namespace corvana {
 

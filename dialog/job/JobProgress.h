@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 
 namespace corvana {
 

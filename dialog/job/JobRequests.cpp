@@ -6,7 +6,7 @@
 #include <QIODevice>
 #include <QUuid>
 
-#include "dialog/queues/QueueRequests.h"
+#include "dialog/printers/QueueRequests.h"
 
 namespace corvana {
 

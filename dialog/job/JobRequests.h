@@ -5,7 +5,7 @@
 #include <QList>
 #include <QString>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 #include "dialog/server/ServerConnection.h"
 #include "dialog/session/JobTicket.h"
 

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QTemporaryFile>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 #include "dialog/session/PanelHost.h"
 #include "dialog/session/PpdSession.h"
 
@@ -39,9 +39,6 @@ struct OpenedPrinter
     /// Why the printer has no panels although it should; empty otherwise.
     QString panelProblem;
 };
-
-/// Whether a printer gets panels, as far as is known without running any of their code.
-bool wantsPanels(ppd_file_t *ppd, const Printer &printer, const QStringList &bundleRoots);
 
 /// Opens a printer. Panels come from the plug-in bundle in the first of the `bundleRoots` that
 /// holds it, when the PPD wants them; without them the printer has the General page and the list of

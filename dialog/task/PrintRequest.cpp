@@ -1,6 +1,6 @@
 #include "dialog/task/PrintRequest.h"
 
-#include "dialog/queues/PrinterId.h"
+#include "dialog/printers/PrinterId.h"
 
 namespace corvana {
 

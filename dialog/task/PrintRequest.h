@@ -8,7 +8,7 @@
 #include <QStringList>
 
 #include "dialog/job/Document.h"
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/task/AlertPolicy.h"
 #include "platform/pde/PDEJobValues.h"

@@ -1,12 +1,12 @@
 #include <utility>
 
-#include "dialog/app/QueueOpening.h"
 #include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/PrinterOpening.h"
 #include "dialog/task/RefusalText.h"
 #include <QFileInfo>
 

@@ -2,6 +2,7 @@
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/PrinterOpening.h"
 
 namespace corvana {
 

@@ -13,7 +13,8 @@ namespace corvana {
 PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     : QObject(parent), m_request(std::move(request)), m_face(face),
       m_credentials(CredentialStore::create()),
-      m_source(m_request, ServerContext{m_request.server, m_credentials}),
+      m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
+               ServerContext{m_request.server, m_credentials}),
       m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed}
 {
     using By = JobSettings::By;

@@ -6,9 +6,10 @@
 #include <QHash>
 #include <QObject>
 
-#include "dialog/app/PrinterSource.h"
 #include "dialog/job/Job.h"
-#include "dialog/queues/PrinterId.h"
+#include "dialog/printers/PrinterId.h"
+#include "dialog/printers/PrinterSource.h"
+#include "dialog/session/JobTicket.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OpenedPrinter.h"

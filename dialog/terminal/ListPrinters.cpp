@@ -7,8 +7,8 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "dialog/queues/QueueRequests.h"
-#include "dialog/queues/UserQueues.h"
+#include "dialog/printers/QueueRequests.h"
+#include "dialog/printers/UserQueues.h"
 #include "dialog/server/ServerWork.h"
 #include "dialog/terminal/TerminalQuestions.h"
 #include "dialog/terminal/TerminationSignals.h"

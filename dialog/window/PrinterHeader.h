@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 
 class QCheckBox;
 class QLabel;

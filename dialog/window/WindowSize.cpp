@@ -1,5 +1,6 @@
 #include "dialog/window/WindowSize.h"
 
+#include "dialog/session/DialogPreferences.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/foundation/Values.h"
 

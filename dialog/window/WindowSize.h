@@ -1,12 +1,8 @@
 #pragma once
 
-#include <QLatin1StringView>
 #include <QSize>
 
 namespace corvana {
-
-/// The preferences of the dialog itself.
-inline constexpr QLatin1StringView kDialogDomain{"com.corvana.print.dialog"};
 
 /// The size that the user last gave the dialog; `usual` when there is none. One from a larger
 /// screen is cut to this one, but not below `usual`. Units: pixels.

@@ -299,6 +299,17 @@
     </message>
 </context>
 <context>
+    <name>PrinterFetching</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>PostScript File</source>
+        <translation>PostScript ファイル</translation>
+    </message>
+</context>
+<context>
     <name>PrinterTexts</name>
     <message>
         <source>connecting</source>
@@ -506,17 +517,6 @@
     <message>
         <source>Address: %1</source>
         <translation>アドレス: %1</translation>
-    </message>
-</context>
-<context>
-    <name>QueueOpening</name>
-    <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
-        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
-    </message>
-    <message>
-        <source>PostScript File</source>
-        <translation>PostScript ファイル</translation>
     </message>
 </context>
 <context>

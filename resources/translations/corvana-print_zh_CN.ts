@@ -299,6 +299,17 @@
     </message>
 </context>
 <context>
+    <name>PrinterFetching</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>无法将打印机选项写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>PostScript File</source>
+        <translation>PostScript 文件</translation>
+    </message>
+</context>
+<context>
     <name>PrinterTexts</name>
     <message>
         <source>connecting</source>
@@ -506,17 +517,6 @@
     <message>
         <source>Address: %1</source>
         <translation>地址：%1</translation>
-    </message>
-</context>
-<context>
-    <name>QueueOpening</name>
-    <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
-        <translation>无法将打印机选项写入 %1：%2</translation>
-    </message>
-    <message>
-        <source>PostScript File</source>
-        <translation>PostScript 文件</translation>
     </message>
 </context>
 <context>

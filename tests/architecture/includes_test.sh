@@ -20,7 +20,15 @@ panel                panel/ platform/
 printsetting         printsetting/ panel/ platform/
 colorsetting         colorsetting/ panel/ platform/
 plugin               plugin/ printsetting/ colorsetting/ panel/ platform/
-dialog               dialog/ platform/
+dialog               platform/
+dialog/session       dialog/session/ platform/
+dialog/server        dialog/server/ platform/
+dialog/driverless    dialog/driverless/ dialog/session/ platform/
+dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/job           dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/chooser       dialog/chooser/ dialog/printers/ platform/
+dialog/pages         dialog/pages/ dialog/session/ platform/
+dialog/app           dialog/ platform/
 '
 
 # folders_of_project: the top folders that the rules speak of, as an alternation.
@@ -94,6 +102,31 @@ dialog/session/A.h           printsetting/ValueBounds.h         refused
 dialog/A.cpp                 colorsetting/EffectSet.h           refused
 dialog/A.cpp                 plugin/QXJobValues.h               refused
 dialog/app/A.cpp             dialog/session/PpdSession.h        allowed
+dialog/app/A.cpp             dialog/job/ServerJob.h             allowed
+dialog/new/A.cpp             dialog/session/PpdSession.h        refused
+dialog/session/A.cpp         dialog/session/PpdSession.h        allowed
+dialog/session/A.cpp         dialog/server/ServerWork.h         refused
+dialog/session/A.cpp         dialog/driverless/CapabilityPpd.h  refused
+dialog/server/A.cpp          dialog/server/ServerWork.h         allowed
+dialog/server/A.cpp          dialog/session/PpdSession.h        refused
+dialog/server/A.cpp          dialog/printers/Printer.h          refused
+dialog/driverless/A.cpp      dialog/driverless/CapabilityPpd.h  allowed
+dialog/driverless/A.cpp      dialog/session/OptionNames.h       allowed
+dialog/driverless/A.cpp      dialog/printers/Printer.h          refused
+dialog/driverless/A.cpp      dialog/server/IppMessage.h         refused
+dialog/printers/A.cpp        dialog/driverless/CapabilityPpd.h  allowed
+dialog/printers/A.cpp        dialog/server/ServerWork.h         allowed
+dialog/printers/A.cpp        dialog/job/ServerJob.h             refused
+dialog/printers/A.cpp        dialog/app/PrintRequest.h          refused
+dialog/job/A.cpp             dialog/printers/Printer.h          allowed
+dialog/job/A.cpp             dialog/pages/GeneralPage.h         refused
+dialog/job/A.cpp             dialog/app/PrintRequest.h          refused
+dialog/chooser/A.cpp         dialog/printers/Printer.h          allowed
+dialog/chooser/A.cpp         dialog/pages/GeneralPage.h         refused
+dialog/chooser/A.cpp         dialog/session/PpdSession.h        refused
+dialog/pages/A.cpp           dialog/session/PpdSession.h        allowed
+dialog/pages/A.cpp           dialog/printers/Printer.h          refused
+dialog/pages/A.cpp           dialog/app/PrintDialog.h           refused
 dialog/app/A.cpp             platform/pde/PDEPanel.h            allowed
 dialog/app/A.cpp             ../../panel/OptionKeywords.h       refused
 dialog/app/A.cpp             dialog/../panel/OptionKeywords.h   refused

@@ -6,8 +6,8 @@
 #include <QAbstractListModel>
 #include <QPersistentModelIndex>
 
+#include "dialog/printers/PrinterId.h"
 #include "dialog/window/chooser/PrinterTexts.h"
-#include "dialog/queues/PrinterId.h"
 
 namespace corvana {
 

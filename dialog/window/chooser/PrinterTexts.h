@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 
 /// What a person reads about a printer. Most of it comes from servers that nobody vouches for, so
 /// everything here is one line of plain text, without control characters and of a bounded length;

@@ -2,7 +2,7 @@
 
 #include <QList>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 
 namespace corvana::test {
 

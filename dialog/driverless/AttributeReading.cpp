@@ -1,0 +1,134 @@
+#include "dialog/driverless/AttributeReading.h"
+
+#include <algorithm>
+
+#include <QStringDecoder>
+
+namespace corvana::attribute {
+
+namespace {
+
+// More of them could neither be shown nor be chosen from.
+constexpr int kMaximumValues = 1000;
+
+bool hasControlCharacter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+// Null for what is no string, is not UTF-8, or is longer than IPP allows.
+QString stringAt(ipp_attribute_t *attribute, int index)
+{
+    constexpr qsizetype kLongest = 1023;
+    const QByteArray bytes = ippGetString(attribute, index, nullptr);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    return decoder.hasError() || bytes.size() > kLongest ? QString() : text;
+}
+
+// A value that comes back as a job option: there, these characters end it or begin something else.
+bool isKeyword(const QString &value)
+{
+    constexpr qsizetype kLongestKeyword = 255;
+    constexpr QLatin1StringView kMeaningful{"{}\"'\\,=;"};
+    return !value.trimmed().isEmpty() && value == value.simplified() &&
+           value.toUtf8().size() <= kLongestKeyword && !hasControlCharacter(value) &&
+           std::none_of(value.cbegin(), value.cend(),
+                        [&](QChar c) { return kMeaningful.contains(c); });
+}
+
+} // namespace
+
+ipp_attribute_t *find(ipp_t *attributes, const char *name)
+{
+    return ippFindAttribute(attributes, name, IPP_TAG_ZERO);
+}
+
+int valueCount(ipp_attribute_t *attribute)
+{
+    return attribute ? std::min(ippGetCount(attribute), kMaximumValues) : 0;
+}
+
+QString textOf(ipp_t *attributes, const char *name)
+{
+    ipp_attribute_t *attribute = find(attributes, name);
+    QString text = attribute ? stringAt(attribute, 0) : QString();
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = u' ';
+    }
+    return text.simplified();
+}
+
+QStringList keywordsOf(ipp_t *attributes, const char *name)
+{
+    ipp_attribute_t *attribute = find(attributes, name);
+    QStringList values;
+    for (int i = 0; i < valueCount(attribute); ++i) {
+        if (const QString value = stringAt(attribute, i); isKeyword(value))
+            values += value;
+    }
+    values.removeDuplicates();
+    return values;
+}
+
+bool isNumber(ipp_attribute_t *attribute)
+{
+    const ipp_tag_t tag = ippGetValueTag(attribute);
+    return tag == IPP_TAG_INTEGER || tag == IPP_TAG_ENUM;
+}
+
+QList<int> numbersOf(ipp_t *attributes, const char *name)
+{
+    ipp_attribute_t *attribute = find(attributes, name);
+    QList<int> values;
+    for (int i = 0; isNumber(attribute) && i < valueCount(attribute); ++i) {
+        if (const int value = ippGetInteger(attribute, i); !values.contains(value))
+            values += value;
+    }
+    return values;
+}
+
+QList<QSize> resolutionsOf(ipp_t *attributes, const char *name)
+{
+    constexpr int kHighest = 100'000;
+    ipp_attribute_t *attribute = find(attributes, name);
+    QList<QSize> values;
+    if (ippGetValueTag(attribute) != IPP_TAG_RESOLUTION)
+        return values;
+    for (int i = 0; i < valueCount(attribute); ++i) {
+        ipp_res_t unit = IPP_RES_PER_INCH;
+        int y = 0;
+        const int x = ippGetResolution(attribute, i, &y, &unit);
+        if (x <= 0 || y <= 0 || x > kHighest || y > kHighest)
+            continue;
+        const auto perInch = [&](int value) {
+            return unit == IPP_RES_PER_CM ? qRound(value * 2.54) : value;
+        };
+        if (const QSize value(perInch(x), perInch(y)); !values.contains(value))
+            values += value;
+    }
+    return values;
+}
+
+ipp_t *collectionAt(ipp_attribute_t *attribute, int index)
+{
+    return ippGetValueTag(attribute) == IPP_TAG_BEGIN_COLLECTION
+               ? ippGetCollection(attribute, index)
+               : nullptr;
+}
+
+std::pair<int, int> rangeOf(ipp_t *attributes, const char *name)
+{
+    ipp_attribute_t *attribute = find(attributes, name);
+    if (ippGetValueTag(attribute) == IPP_TAG_RANGE) {
+        int upper = 0;
+        const int lower = ippGetRange(attribute, 0, &upper);
+        return {lower, upper};
+    }
+    const int number = isNumber(attribute) ? ippGetInteger(attribute, 0) : 0;
+    return {number, number};
+}
+
+} // namespace corvana::attribute

@@ -1,0 +1,201 @@
+#include "dialog/driverless/StandardJobOptions.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <cups/pwg.h>
+
+#include <QLoggingCategory>
+#include <QRegularExpression>
+
+#include "dialog/driverless/CapabilityOptions.h"
+#include "dialog/session/OptionNames.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcStandardOptions, "corvana.dialog.queues.options", QtWarningMsg)
+
+namespace {
+
+// The size of "Custom.WIDTHxHEIGHT" with its unit, which is points where there is none.
+QSize customDimension(const QString &choice)
+{
+    struct Unit
+    {
+        QLatin1StringView name;
+        double hundredthsOfMillimetre;
+    };
+    constexpr Unit kUnits[] = {
+        {QLatin1StringView(""), 2540 / 72.0}, {QLatin1StringView("pt"), 2540 / 72.0},
+        {QLatin1StringView("in"), 2540},      {QLatin1StringView("ft"), 12 * 2540},
+        {QLatin1StringView("mm"), 100},       {QLatin1StringView("cm"), 1000},
+        {QLatin1StringView("m"), 100'000},
+    };
+    static const QRegularExpression form(QStringLiteral(
+        "^Custom\\.([0-9]{1,9}(?:\\.[0-9]+)?)x([0-9]{1,9}(?:\\.[0-9]+)?)([a-z]*)\\z"));
+    const QRegularExpressionMatch match = form.match(choice);
+    if (!match.hasMatch())
+        return {};
+    const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits),
+                                   [&](const Unit &one) { return one.name == match.captured(3); });
+    if (unit == std::end(kUnits))
+        return {};
+    constexpr double kLongest = 1e8;
+    const double width = match.captured(1).toDouble() * unit->hundredthsOfMillimetre;
+    const double height = match.captured(2).toDouble() * unit->hundredthsOfMillimetre;
+    return width > kLongest || height > kLongest ? QSize() : QSize(qRound(width), qRound(height));
+}
+
+// Limits are written in points, so that a size at the limit may be off by rounding.
+QSize withinLimits(QSize size, const std::optional<MediaSizeRange> &limits)
+{
+    constexpr int kRounding = 5;
+    if (!limits || size.isEmpty())
+        return size;
+    const QSize nearest = size.expandedTo(limits->minimum).boundedTo(limits->maximum);
+    const bool rounded = std::abs(nearest.width() - size.width()) <= kRounding &&
+                         std::abs(nearest.height() - size.height()) <= kRounding;
+    return rounded ? nearest : QSize();
+}
+
+/// The paper of a job, as far as the options have said.
+struct Paper
+{
+    QString name;
+    QSize dimension;
+    bool borderless = false;
+    QString type;
+    QString source;
+
+    bool needsDetails() const { return borderless || !type.isEmpty() || !source.isEmpty(); }
+};
+
+QString member(QLatin1StringView name, const QString &value)
+{
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9._-]+\\z"));
+    const QString form =
+        plain.match(value).hasMatch() ? QStringLiteral(" %1=%2") : QStringLiteral(" %1=\"%2\"");
+    return form.arg(name, value);
+}
+
+QList<JobOption> paperOptions(const Paper &paper)
+{
+    if (!paper.needsDetails()) {
+        if (paper.name.isEmpty())
+            return {};
+        return {{QStringLiteral("media"), paper.name}};
+    }
+    QString details;
+    if (!paper.dimension.isEmpty())
+        details += QStringLiteral(" media-size={x-dimension=%1 y-dimension=%2}")
+                       .arg(paper.dimension.width())
+                       .arg(paper.dimension.height());
+    if (paper.borderless) {
+        for (const char *margin : {"left", "right", "top", "bottom"})
+            details += QStringLiteral(" media-%1-margin=0").arg(QLatin1StringView(margin));
+    }
+    if (!paper.type.isEmpty())
+        details += member(QLatin1StringView("media-type"), paper.type);
+    if (!paper.source.isEmpty())
+        details += member(QLatin1StringView("media-source"), paper.source);
+    return {{QStringLiteral("media-col"), u'{' + details.mid(1) + u'}'}};
+}
+
+class Translator
+{
+public:
+    explicit Translator(const PrinterCapabilities &printer)
+        : m_printer(printer), m_options(capabilityOptions(printer))
+    {
+    }
+
+    void add(const JobOption &given)
+    {
+        const auto option =
+            std::find_if(m_options.cbegin(), m_options.cend(), [&](const CapabilityOption &one) {
+                return given.name == QLatin1StringView(one.keyword);
+            });
+        if (option == m_options.cend()) {
+            m_others += given;
+        } else if (option->attribute == "media" && given.value.startsWith(kCustomPrefix)) {
+            addCustomPaper(given.value);
+        } else {
+            addChoice(*option, given.value);
+        }
+    }
+
+    QList<JobOption> result() const
+    {
+        QList<JobOption> options = paperOptions(m_paper) + m_attributes;
+        if (!m_finishings.isEmpty())
+            options += JobOption{QStringLiteral("finishings"), m_finishings.join(u',')};
+        // A choice that was picked stands for the attribute, whoever else has set that.
+        for (const JobOption &other : m_others) {
+            const bool picked = std::any_of(
+                m_attributes.cbegin(), m_attributes.cend(),
+                [&](const JobOption &attribute) { return attribute.name == other.name; });
+            if (!picked)
+                options += other;
+        }
+        return options;
+    }
+
+private:
+    void addCustomPaper(const QString &value)
+    {
+        const bool unknown = m_printer.sizes.isEmpty() && !m_printer.customSizes;
+        const QSize size = withinLimits(customDimension(value), m_printer.customSizes);
+        if (size.isEmpty() || (!unknown && !m_printer.customSizes)) {
+            qCWarning(lcStandardOptions) << "the printer takes no paper of the size" << value;
+            return;
+        }
+        m_paper.dimension = size;
+        m_paper.name = customMediaName(size);
+    }
+
+    void addChoice(const CapabilityOption &option, const QString &value)
+    {
+        const auto choice = std::find_if(
+            option.choices.cbegin(), option.choices.cend(),
+            [&](const CapabilityChoice &one) { return value == QLatin1StringView(one.keyword); });
+        if (choice == option.choices.cend()) {
+            qCWarning(lcStandardOptions) << "the printer has no" << option.keyword << value;
+            return;
+        }
+        if (choice->value.isEmpty())
+            return;
+        if (option.attribute == "media") {
+            m_paper.dimension = choice->dimension;
+            m_paper.name = choice->value;
+            m_paper.borderless = m_printer.mediaDetails && choice->margins.isBorderless();
+        } else if (option.attribute == "media-type") {
+            m_paper.type = choice->value;
+        } else if (option.attribute == "media-source") {
+            m_paper.source = choice->value;
+        } else if (option.attribute == "finishings") {
+            m_finishings += choice->value;
+        } else {
+            m_attributes += JobOption{QString::fromLatin1(option.attribute), choice->value};
+        }
+    }
+
+    const PrinterCapabilities &m_printer;
+    const QList<CapabilityOption> m_options;
+    Paper m_paper;
+    QList<JobOption> m_attributes;
+    QStringList m_finishings;
+    QList<JobOption> m_others;
+};
+
+} // namespace
+
+QList<JobOption> standardJobOptions(const QList<JobOption> &ppdOptions,
+                                    const PrinterCapabilities &printer)
+{
+    Translator translator(printer);
+    for (const JobOption &option : ppdOptions)
+        translator.add(option);
+    return translator.result();
+}
+
+} // namespace corvana

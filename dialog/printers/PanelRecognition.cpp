@@ -1,0 +1,102 @@
+#include "dialog/printers/PanelRecognition.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QRegularExpression>
+
+#include "dialog/printers/Printer.h"
+#include "dialog/printers/UserQueues.h"
+#include "platform/foundation/Bundle.h"
+#include "platform/pde/PDEBundleLoader.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcRecognition, "corvana.dialog.recognition", QtWarningMsg)
+
+namespace {
+
+constexpr QLatin1StringView kBundleFile{"QXCLQuality13PDE.bundle"};
+constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
+constexpr QLatin1StringView kIdentifyingKeys{"PMPPDKeysIdentifying"};
+} // namespace
+
+QString namedBundle(ppd_file_t *ppd)
+{
+    const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr);
+    return named && named->value ? QString::fromUtf8(named->value) : QString();
+}
+
+QString panelRulesFile()
+{
+    return qEnvironmentVariable("CORVANA_PRINT_PANELS",
+                                QStringLiteral("/etc/corvana-print/panels.conf"));
+}
+
+PanelRule panelRule(const QString &file, const QStringList &names)
+{
+    QFile rules(file);
+    if (!rules.open(QIODevice::ReadOnly | QIODevice::Text))
+        return PanelRule::ByPpd;
+    while (!rules.atEnd()) {
+        const QString line = QString::fromUtf8(rules.readLine()).section(u'#', 0, 0).simplified();
+        if (line.isEmpty())
+            continue;
+        const QString word = line.section(u' ', 0, 0);
+        const QString pattern = line.section(u' ', 1);
+        const bool panels = word == QLatin1StringView("panels");
+        if (pattern.isEmpty() || (!panels && word != QLatin1StringView("none"))) {
+            qCWarning(lcRecognition).noquote() << file << "has a line that is no rule:" << line;
+            continue;
+        }
+        const auto expression = QRegularExpression::fromWildcard(pattern, Qt::CaseInsensitive);
+        for (const QString &name : names) {
+            if (expression.match(name).hasMatch())
+                return panels ? PanelRule::Panels : PanelRule::None;
+        }
+    }
+    return PanelRule::ByPpd;
+}
+
+PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle, PanelRule rule)
+{
+    if (rule != PanelRule::ByPpd)
+        return {rule == PanelRule::Panels, QStringLiteral("the administrator's rules say so")};
+    const QString bundleName = QFileInfo(bundle.path()).fileName();
+    for (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr); named;
+         named = ppdFindNextAttr(ppd, kExtensionAttribute, nullptr)) {
+        if (QString::fromUtf8(named->value) == bundleName)
+            return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
+    }
+    const QStringList keywords = bundle.infoStringList(kIdentifyingKeys).value_or(QStringList());
+    QStringList missing;
+    for (const QString &keyword : keywords) {
+        if (!ppdOption(ppd, keyword))
+            missing += keyword;
+    }
+    if (!keywords.isEmpty() && missing.isEmpty())
+        return {true, QStringLiteral("the PPD has the options %1").arg(keywords.join(u' '))};
+    return {false, QStringLiteral("the PPD does not name the bundle %1 and lacks the options %2")
+                       .arg(bundleName, missing.join(u' '))};
+}
+
+QString bundleFileOf(ppd_file_t *ppd)
+{
+    const QString named = namedBundle(ppd);
+    return named.isNull() ? QString(kBundleFile) : named;
+}
+
+PanelDecision decidePanels(ppd_file_t *ppd, const Printer &printer, const QStringList &bundleRoots)
+{
+    const PanelRule rule =
+        panelRule(panelRulesFile(),
+                  {queueOfInstance(printer.name), ppdText(ppd->nickname).value_or(QString())});
+    const FoundPlugIn found = findPlugInBundle(bundleFileOf(ppd), bundleRoots);
+    if (found.bundle)
+        return decidePanels(ppd, *found.bundle, rule);
+    const bool wanted =
+        rule == PanelRule::ByPpd ? !namedBundle(ppd).isNull() : rule == PanelRule::Panels;
+    return {wanted, QStringLiteral("there is no usable bundle")};
+}
+
+} // namespace corvana

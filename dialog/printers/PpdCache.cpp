@@ -1,0 +1,165 @@
+#include "dialog/printers/PpdCache.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "dialog/printers/PrinterId.h"
+#include "dialog/printers/UserQueues.h"
+
+namespace corvana {
+
+Q_LOGGING_CATEGORY(lcPpdCache, "corvana.dialog.ppdcache", QtWarningMsg)
+
+namespace {
+
+constexpr QLatin1StringView kDescription{"description"};
+constexpr QLatin1StringView kLocation{"location"};
+constexpr QLatin1StringView kMakeAndModel{"makeAndModel"};
+constexpr QLatin1StringView kUri{"uri"};
+constexpr QLatin1StringView kDeviceUri{"deviceUri"};
+constexpr QLatin1StringView kIsClass{"isClass"};
+constexpr QLatin1StringView kLastModified{"lastModified"};
+constexpr QLatin1StringView kHash{"hash"};
+
+constexpr QLatin1StringView kEntrySuffix{".json"};
+// Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
+constexpr qsizetype kHashInName = 16;
+
+// A window is not open for longer without its printer being looked at. Units: days.
+constexpr int kDaysAfterUse = 30;
+
+// The date of a file is that of its last use.
+void noteUse(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime);
+}
+
+bool isHash(const QByteArray &text)
+{
+    return text.size() >= kHashInName && QByteArray::fromHex(text).toHex() == text;
+}
+
+QString ppdSuffix(const QByteArray &hash)
+{
+    return QStringLiteral("-%1.ppd").arg(
+        QLatin1StringView(hash.first(qMin(kHashInName, hash.size()))));
+}
+
+bool save(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return true;
+    qCWarning(lcPpdCache).noquote() << path << "cannot be written:" << file.errorString();
+    return false;
+}
+
+// Any text as one name of a file, never "." or "..".
+QString fileName(const QString &text)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(text)).replace(u'.', QLatin1String("%2E"));
+}
+
+} // namespace
+
+QByteArray hashOfPpd(const QByteArray &ppd)
+{
+    return QCryptographicHash::hash(ppd, QCryptographicHash::Sha256).toHex();
+}
+
+PpdCache::PpdCache()
+    : m_folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+               QStringLiteral("/corvana-print/queues"))
+{
+}
+
+QString PpdCache::pathOf(const QString &server, const QString &queue, const QString &suffix) const
+{
+    return QStringLiteral("%1/%2/%3%4")
+        .arg(m_folder, fileName(server), fileName(foldedQueueName(queueOfInstance(queue))), suffix);
+}
+
+std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QString &queue) const
+{
+    QFile file(pathOf(server, queue, kEntrySuffix));
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QJsonObject said = QJsonDocument::fromJson(file.readAll()).object();
+    Entry entry;
+    entry.hash = said.value(kHash).toString().toLatin1();
+    const QString ppd = pathOf(server, queue, ppdSuffix(entry.hash));
+    if (!said.contains(kUri) || !isHash(entry.hash) || !QFileInfo(ppd).isReadable())
+        return std::nullopt;
+    entry.printer.name = queue;
+    entry.printer.origin = PrinterOrigin::Queue;
+    entry.printer.ppdPath = ppd;
+    entry.printer.description = said.value(kDescription).toString();
+    entry.printer.location = said.value(kLocation).toString();
+    entry.printer.makeAndModel = said.value(kMakeAndModel).toString();
+    entry.printer.uri = said.value(kUri).toString();
+    entry.printer.deviceUri = said.value(kDeviceUri).toString();
+    entry.printer.isClass = said.value(kIsClass).toBool();
+    entry.lastModified = said.value(kLastModified).toInteger();
+    noteUse(ppd);
+    return entry;
+}
+
+QString PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
+                        qint64 lastModified) const
+{
+    const QByteArray hash = hashOfPpd(ppd);
+    const QString path = pathOf(server, printer.name, ppdSuffix(hash));
+    if (!QDir().mkpath(QFileInfo(path).path()))
+        return {};
+    // Where a printer stands, and how it is reached, is nobody else's business.
+    QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QJsonObject said{
+        {kDescription, printer.description},   {kLocation, printer.location},
+        {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
+        {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
+        {kLastModified, lastModified},         {kHash, QString::fromLatin1(hash)}};
+    const bool isThere = QFileInfo(path).size() == ppd.size();
+    if (isThere)
+        noteUse(path);
+    if (!isThere && !save(path, ppd))
+        return {};
+    if (!save(pathOf(server, printer.name, kEntrySuffix), QJsonDocument(said).toJson()))
+        return {};
+    removeFormerPpds(server, printer.name, path);
+    return path;
+}
+
+void PpdCache::remove(const QString &server, const QString &queue) const
+{
+    QFile::remove(pathOf(server, queue, kEntrySuffix));
+    removeFormerPpds(server, queue, {});
+}
+
+// But for those that an open window may still print with, and `current`.
+void PpdCache::removeFormerPpds(const QString &server, const QString &queue,
+                                const QString &current) const
+{
+    const QString pattern =
+        pathOf(server, queue,
+               QLatin1StringView("-") + QString(kHashInName, u'?') + QLatin1StringView(".ppd"));
+    const QDateTime oldest = QDateTime::currentDateTime().addDays(-kDaysAfterUse);
+    const QFileInfoList ppds =
+        QFileInfo(pattern).dir().entryInfoList({QFileInfo(pattern).fileName()}, QDir::Files);
+    for (const QFileInfo &ppd : ppds) {
+        if (ppd.filePath() != current && ppd.lastModified() < oldest)
+            QFile::remove(ppd.filePath());
+    }
+}
+
+} // namespace corvana

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <optional>
+
+#include <QByteArray>
+#include <QString>
+
+#include "dialog/printers/Printer.h"
+
+namespace corvana {
+
+/// By which a PPD is known again, without a look at the one that is stored.
+QByteArray hashOfPpd(const QByteArray &ppd);
+
+/// The PPDs of the queues that were used, so that a printer is there at once, even while its server
+/// is away. One folder of the user's; entries appear and disappear as a whole.
+///
+/// A file holds one PPD for as long as it exists: a new one of the same queue gets a file of its
+/// own. Whoever has opened the former one, in this process or another, prints with what was opened.
+class PpdCache
+{
+public:
+    /// In the user's cache folder.
+    PpdCache();
+    explicit PpdCache(QString folder) : m_folder(std::move(folder)) {}
+
+    struct Entry
+    {
+        Printer printer;         ///< with `ppdPath`; its state is not known
+        qint64 lastModified = 0; ///< of the PPD at its server; seconds since 1970
+        QByteArray hash;         ///< hashOfPpd() of what was stored; the PPD is not read for it
+    };
+    /// Errors: nothing for a queue that was not used yet, or whose entry is damaged.
+    std::optional<Entry> find(const QString &server, const QString &queue) const;
+
+    /// Keeps a PPD. Errors: an empty path; the queue then works from wherever its PPD is.
+    QString store(const QString &server, const Printer &printer, const QByteArray &ppd,
+                  qint64 lastModified) const;
+    void remove(const QString &server, const QString &queue) const;
+
+private:
+    QString pathOf(const QString &server, const QString &queue, const QString &suffix) const;
+    void removeFormerPpds(const QString &server, const QString &queue,
+                          const QString &current) const;
+
+    QString m_folder;
+};
+
+} // namespace corvana

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <QObject>
+
+#include "dialog/printers/PrinterFetching.h"
+#include "dialog/printers/QueueList.h"
+
+namespace corvana {
+
+/// Which printers somebody asked for, and what decides about them.
+struct PrinterWish
+{
+    /// Those that no server is needed for: PPD files and samples.
+    QList<Printer> files{};
+    /// A printer by its name, a queue or a URI; empty for the usual one.
+    QString name{};
+    /// Where plug-in bundles are trusted.
+    QStringList bundleRoots{};
+};
+
+/// Where the dialog's printers come from: the list of all of them, and the one that is to be
+/// opened, from the cache at once where it was used before, and from its server. Knows no widget.
+///
+/// Thread: GUI thread; servers are asked on others.
+class PrinterSource : public QObject
+{
+    Q_OBJECT
+
+public:
+    PrinterSource(const PrinterWish &wish, ServerContext server, QObject *parent = nullptr);
+
+    /// Looks for queues now and from now on. Not before: the window comes first.
+    void start();
+    /// Nobody sees the window: nothing new is looked for until start().
+    void pause() { m_queues.pause(); }
+    /// See QueueList.
+    void questionPut() { m_queues.questionPut(); }
+    void questionAnswered() { m_queues.questionAnswered(); }
+
+    /// Those of PPD files, then the queues; behind them the one that prints into a file, where
+    /// there is no other of its kind.
+    QList<Printer> printers() const;
+    const QueueList &queues() const { return m_queues; }
+    /// The printer of the list that a user would expect to be chosen; nothing while none is known.
+    std::optional<Printer> expected() const;
+
+    /// What to open first, of what is known without asking anybody: the printer that was named, the
+    /// user's default, the one used last, else the one that prints into a file.
+    Printer first();
+    /// Whether first() is only there because nobody has been asked yet.
+    bool firstIsProvisional() const { return m_provisional; }
+
+    /// Opens a printer: ready() follows, at once where nobody has to be asked, and once more when
+    /// the server says otherwise; or failed().
+    void open(const Printer &printer);
+    /// Opens the printer for somebody who cannot choose another one: the one that was named, the
+    /// user's default, else the server's. ready() follows once, with what the server says of it
+    /// now, or failed(). A password may be asked for.
+    void openWanted();
+    /// Asks again for the printer that is open; a password may be asked for.
+    void retry();
+    /// The user has seen that there is something to do about the list.
+    void retryList() { m_queues.retry(); }
+
+    const ServerContext &serverOf(const Printer &printer) const;
+
+    /// The printer is now the one to open first next time.
+    void rememberUse(const Printer &printer) const;
+
+Q_SIGNALS:
+    /// printers() or the state of the list.
+    void listChanged();
+    /// The printer can be opened, or has to be opened anew because its options are others now.
+    void ready(const corvana::ReadyPrinter &printer);
+    /// What its server says of the printer that is open, whose options are as they were, although
+    /// their PPD may have a new date (seconds since 1970).
+    void checked(const corvana::Printer &printer, qint64 ppdLastModified);
+    /// The printer that is to be opened, or is open, could not be asked for; `brief` says the same
+    /// in few words.
+    void failed(const QString &problem, const QString &brief);
+    /// The printer that is open has no PPD, but another queue leads to the same device and has one
+    /// with pages of its own.
+    void betterQueueFound(const corvana::Printer &printer);
+
+private:
+    void inspect(bool mayAsk);
+    void openFresh(const QString &name);
+    void reset(const Printer &printer);
+    bool isOpenQueue(const Printer &printer) const;
+    void lookForBetterQueue();
+    void compareWith(const QueueDetails &details);
+    void inspected(const QueueDetails &details);
+    void follow();
+
+    QList<Printer> m_files;
+    ReadyPrinter m_filePrinter;
+    QString m_wanted;
+    UserQueues m_userQueues;
+    PpdCache m_cache;
+    QueueList m_queues;
+    ServerContext m_deviceServer; // of an IPP printer without a queue
+    ServerWork m_inspection;
+    ServerWork m_comparison;
+    QStringList m_bundleRoots;
+    Printer m_open;
+    qint64 m_openModified = 0;
+    QByteArray m_openHash; // of its PPD
+    bool m_openIsReady = false;
+    bool m_inspecting = false;
+    bool m_inspectionFailed = false; // the server has to be asked again when it is back
+    bool m_provisional = false;
+    bool m_lacksPpd = false;
+    int m_configured = 0; // when the open queue was changed last, by its server's count
+};
+
+} // namespace corvana

@@ -1,0 +1,271 @@
+#include "dialog/printers/QueueRequests.h"
+
+#include <array>
+
+#include <QSet>
+
+#include "dialog/printers/PrinterId.h"
+#include "dialog/printers/UserQueues.h"
+
+namespace corvana {
+
+namespace {
+
+// Queues in one answer: few enough to come soon, enough that thousands need few round trips.
+constexpr int kPage = 200;
+// No server has as many; one that invents names without end must not fill the memory.
+constexpr qsizetype kMostQueues = 100000;
+
+const QList<const char *> kListed{"printer-name",
+                                  "printer-info",
+                                  "printer-location",
+                                  "printer-make-and-model",
+                                  "printer-state",
+                                  "printer-state-message",
+                                  "printer-state-reasons",
+                                  "printer-is-accepting-jobs",
+                                  "printer-type",
+                                  "printer-uri-supported",
+                                  "device-uri",
+                                  "printer-config-change-time",
+                                  "auth-info-required"};
+
+PrinterState stateOf(int value)
+{
+    switch (value) {
+    case IPP_PSTATE_IDLE:
+        return PrinterState::Idle;
+    case IPP_PSTATE_PROCESSING:
+        return PrinterState::Processing;
+    case IPP_PSTATE_STOPPED:
+        return PrinterState::Stopped;
+    default:
+        return PrinterState::Unknown;
+    }
+}
+
+QStringList withoutNone(QStringList keywords)
+{
+    keywords.removeAll(QLatin1StringView("none"));
+    return keywords;
+}
+
+// libcups escapes what a path must not have.
+QByteArray ppdResource(const QString &queue)
+{
+    return "/printers/" + queue.toUtf8() + ".ppd";
+}
+
+IppMessage askPrinter(ServerConnection &connection, const Printer &printer,
+                      const QList<const char *> &attributes)
+{
+    IppMessage request = newIppRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer.uri);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes", attributes);
+    return connection.request(std::move(request), resourceOf(printer));
+}
+
+// A class prints with the options of its first member.
+QString firstMember(ipp_t *response)
+{
+    return ippText(ippFindAttribute(response, "member-names", IPP_TAG_NAME));
+}
+
+void fetchPpd(ServerConnection &connection, const QString &owner, qint64 modifiedSince,
+              QueueDetails *details)
+{
+    const ServerConnection::File file = connection.get(ppdResource(owner), modifiedSince);
+    details->lastModified = file.lastModified;
+    switch (file.state) {
+    case ServerConnection::File::State::Failed:
+        details->state = QueueDetails::Ppd::Unknown;
+        details->problem = connection.problem();
+        break;
+    case ServerConnection::File::State::Missing:
+        details->state = QueueDetails::Ppd::None;
+        break;
+    case ServerConnection::File::State::Unchanged:
+        details->state = QueueDetails::Ppd::Unchanged;
+        break;
+    case ServerConnection::File::State::Read:
+        details->state = QueueDetails::Ppd::New;
+        details->ppd = file.content;
+        break;
+    }
+}
+
+} // namespace
+
+Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next)
+{
+    Printer printer;
+    printer.origin = PrinterOrigin::Queue;
+    ipp_attribute_t *attribute = *next;
+    for (; attribute && ippGetGroupTag(attribute) == IPP_TAG_PRINTER;
+         attribute = ippNextAttribute(response)) {
+        const QLatin1StringView name(ippGetName(attribute));
+        if (name == QLatin1StringView("printer-name"))
+            printer.name = ippText(attribute);
+        else if (name == QLatin1StringView("printer-info"))
+            printer.description = ippText(attribute);
+        else if (name == QLatin1StringView("printer-location"))
+            printer.location = ippText(attribute);
+        else if (name == QLatin1StringView("printer-make-and-model"))
+            printer.makeAndModel = ippText(attribute);
+        else if (name == QLatin1StringView("printer-state"))
+            printer.state = stateOf(ippNumber(attribute));
+        else if (name == QLatin1StringView("printer-state-message"))
+            printer.stateMessage = ippText(attribute);
+        else if (name == QLatin1StringView("printer-state-reasons"))
+            printer.stateReasons = withoutNone(ippTexts(attribute));
+        else if (name == QLatin1StringView("printer-is-accepting-jobs"))
+            printer.accepting = ippTruth(attribute, true);
+        else if (name == QLatin1StringView("printer-type"))
+            printer.isClass =
+                (static_cast<unsigned>(ippNumber(attribute)) & CUPS_PRINTER_CLASS) != 0;
+        else if (name == QLatin1StringView("printer-config-change-time"))
+            printer.configured = ippNumber(attribute);
+        else if (name == QLatin1StringView("device-uri"))
+            printer.deviceUri = ippText(attribute);
+        else if (name == QLatin1StringView("auth-info-required"))
+            printer.authInfo = withoutNone(ippTexts(attribute));
+    }
+    *next = attribute;
+    // The URI that a server gives may lead to a name that only it knows.
+    printer.uri = queueUri(printer.name, printer.isClass);
+    if (printer.description.isEmpty())
+        printer.description = printer.name;
+    return printer;
+}
+
+bool listQueues(ServerConnection &connection,
+                const std::function<void(const QList<Printer> &)> &found)
+{
+    QSet<QString> known;
+    QString last;
+    for (;;) {
+        IppMessage request = newIppRequest(IPP_OP_CUPS_GET_PRINTERS);
+        ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", kPage);
+        if (!last.isEmpty())
+            addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "first-printer-name",
+                         last);
+        addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes", kListed);
+        const IppMessage response = connection.request(std::move(request));
+        if (!response) {
+            // A server without a single queue says that it has found nothing.
+            if (connection.problem().kind == ServerProblem::Kind::NotFound && known.isEmpty()) {
+                found({});
+                return true;
+            }
+            return false;
+        }
+        QList<Printer> page;
+        int answered = 0;
+        for (ipp_attribute_t *next = ippFirstAttribute(response.get()); next;) {
+            if (ippGetGroupTag(next) != IPP_TAG_PRINTER) {
+                next = ippNextAttribute(response.get());
+                continue;
+            }
+            const Printer printer = printerOfAttributes(response.get(), &next);
+            ++answered;
+            // A page begins with the last queue of the one before.
+            if (!printer.name.isEmpty() && !known.contains(printer.name)) {
+                known += printer.name;
+                page += printer;
+            }
+        }
+        if (!page.isEmpty() || last.isEmpty())
+            found(page);
+        if (answered < kPage || page.isEmpty() || known.size() >= kMostQueues)
+            return true;
+        last = page.constLast().name;
+    }
+}
+
+QString defaultQueue(ServerConnection &connection)
+{
+    IppMessage request = newIppRequest(IPP_OP_CUPS_GET_DEFAULT);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes", {"printer-name"});
+    const IppMessage response = connection.request(std::move(request));
+    return response ? ippText(ippFindAttribute(response.get(), "printer-name", IPP_TAG_NAME))
+                    : QString();
+}
+
+QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
+                          qint64 modifiedSince)
+{
+    QueueDetails details;
+    details.printer = printer;
+    const IppMessage response = askPrinter(connection, printer, {"all", "media-col-database"});
+    if (!response) {
+        details.problem = connection.problem();
+        return details;
+    }
+    details.attributes = {ippNew(), ippDelete};
+    ippCopyAttributes(details.attributes.get(), response.get(), 0, nullptr, nullptr);
+    ipp_attribute_t *next = ippFirstAttribute(response.get());
+    while (next && ippGetGroupTag(next) != IPP_TAG_PRINTER)
+        next = ippNextAttribute(response.get());
+    Printer now = printerOfAttributes(response.get(), &next);
+    // What the dialog knows it by: an instance, or a printer's own address; in the spelling that
+    // the server's answers about jobs have, whatever somebody typed.
+    if (printer.origin == PrinterOrigin::Queue &&
+        isSameQueue(queueOfInstance(printer.name), now.name))
+        now.name += printer.name.mid(now.name.size());
+    else
+        now.name = printer.name;
+    now.uri = printer.uri;
+    now.origin = printer.origin;
+    now.isDefault = printer.isDefault;
+    now.ppdPath = printer.ppdPath;
+    now.modelNumber = printer.modelNumber;
+    if (now.description.isEmpty())
+        now.description = printer.description.isEmpty() ? printer.name : printer.description;
+    details.printer = now;
+    if (printer.origin == PrinterOrigin::Device) {
+        details.state = QueueDetails::Ppd::None;
+        return details;
+    }
+    fetchPpd(connection, now.isClass ? firstMember(response.get()) : queueOfInstance(printer.name),
+             modifiedSince, &details);
+    return details;
+}
+
+QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
+                           qint64 modifiedSince)
+{
+    QueueDetails details;
+    details.printer = printer;
+    if (!printer.isClass) {
+        fetchPpd(connection, queueOfInstance(printer.name), modifiedSince, &details);
+        if (details.state != QueueDetails::Ppd::None)
+            return details;
+    }
+    // A class, which nobody may have known it to be, or a queue that is not there.
+    const IppMessage response = askPrinter(connection, printer, {"printer-name", "member-names"});
+    if (!response) {
+        details.state = QueueDetails::Ppd::Unknown;
+        details.problem = connection.problem();
+        return details;
+    }
+    details.state = QueueDetails::Ppd::None;
+    if (const QString member = firstMember(response.get()); !member.isEmpty())
+        fetchPpd(connection, member, modifiedSince, &details);
+    return details;
+}
+
+QByteArray resourceOf(const Printer &printer)
+{
+    std::array<char, HTTP_MAX_URI> scheme{};
+    std::array<char, HTTP_MAX_URI> user{};
+    std::array<char, HTTP_MAX_URI> host{};
+    std::array<char, HTTP_MAX_URI> resource{};
+    int port = 0;
+    if (httpSeparateURI(HTTP_URI_CODING_ALL, printer.uri.toUtf8().constData(), scheme.data(),
+                        static_cast<int>(scheme.size()), user.data(), static_cast<int>(user.size()),
+                        host.data(), static_cast<int>(host.size()), &port, resource.data(),
+                        static_cast<int>(resource.size())) < HTTP_URI_STATUS_OK)
+        return "/";
+    return resource.data();
+}
+
+} // namespace corvana

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+
+#include <QByteArray>
+#include <QList>
+
+#include "dialog/printers/Printer.h"
+#include "dialog/server/ServerConnection.h"
+
+namespace corvana {
+
+// What is asked of a print server about its queues. All of it waits for a network: for workers.
+
+/// Everything that a list of printers shows, of one printer in a response.
+Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next);
+
+/// Asks for all queues, page by page, so that the first ones of thousands can be shown before the
+/// last ones are known. `found` gets each page.
+/// Errors: false; the connection's problem() says why.
+bool listQueues(ServerConnection &connection,
+                const std::function<void(const QList<Printer> &)> &found);
+
+/// The server's default queue; empty when it has none.
+QString defaultQueue(ServerConnection &connection);
+
+/// What one queue says of itself now.
+struct QueueDetails
+{
+    enum class Ppd {
+        Unknown,   ///< see `problem`
+        Unchanged, ///< the one that is here already
+        New,       ///< in `ppd`
+        None,      ///< the queue has none; `attributes` say what it supports
+    };
+
+    Printer printer;
+    Ppd state = Ppd::Unknown;
+    QByteArray ppd{};
+    qint64 lastModified = 0;
+    std::shared_ptr<ipp_t> attributes{};
+    ServerProblem problem{};
+};
+
+/// Looks at one queue and fetches its PPD, if that has changed since `modifiedSince` (0: in any
+/// case).
+QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
+                          qint64 modifiedSince);
+
+/// Looks only whether the PPD of a queue has changed since `modifiedSince`: of the answer `state`,
+/// `ppd`, `lastModified` and `problem` are of use. The problem is `NotFound` for a queue that is
+/// not there any more.
+QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
+                           qint64 modifiedSince);
+
+/// The path of a printer's requests at its server, not escaped: libcups does that.
+QByteArray resourceOf(const Printer &printer);
+
+} // namespace corvana

@@ -1,0 +1,272 @@
+#include <unistd.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/printers/PpdCache.h"
+
+using namespace corvana;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kServer = u"print:631"_s;
+const QByteArray kPpd("*PPD-Adobe: \"4.3\"\n");
+
+Printer queueOf(const QString &name)
+{
+    Printer printer;
+    printer.origin = PrinterOrigin::Queue;
+    printer.name = name;
+    printer.description = u"Büro, 2. Stock"_s;
+    printer.location = u"会議室"_s;
+    printer.makeAndModel = u"Corvana Test"_s;
+    printer.uri = u"ipp://localhost/printers/x"_s;
+    printer.deviceUri = u"socket://printer"_s;
+    printer.isClass = true;
+    return printer;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList filesIn(const QString &folder)
+{
+    QStringList files;
+    for (QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+         it.hasNext();)
+        files += it.next();
+    return files;
+}
+
+void makeOld(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-31),
+                             QFileDevice::FileModificationTime));
+}
+
+} // namespace
+
+class PpdCacheTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_cache = PpdCache(m_folder->filePath(u"a/queues"_s));
+    }
+
+    void whatWasKeptComesBackButForTheState()
+    {
+        Printer printer = queueOf(u"office"_s);
+        printer.state = PrinterState::Stopped;
+        printer.stateMessage = u"No paper"_s;
+        printer.accepting = false;
+        const QString path = m_cache.store(kServer, printer, kPpd, 77);
+        QCOMPARE(contentOf(path), kPpd);
+        const auto entry = m_cache.find(kServer, u"office"_s);
+        QVERIFY(entry);
+        Printer expected = queueOf(u"office"_s);
+        expected.ppdPath = path;
+        QCOMPARE(entry->printer, expected);
+        QCOMPARE(entry->lastModified, 77);
+    }
+
+    void namesOfAnyKindStayWithinTheFolder_data()
+    {
+        QTest::addColumn<QString>("server");
+        QTest::addColumn<QString>("queue");
+        QTest::newRow("plain") << kServer << u"office"_s;
+        QTest::newRow("above") << kServer << u"../../x"_s;
+        QTest::newRow("two dots") << kServer << u".."_s;
+        QTest::newRow("one dot") << kServer << u"."_s;
+        QTest::newRow("escaped slash") << kServer << u"a%2Fb"_s;
+        QTest::newRow("escaped dots") << kServer << u"%2E%2E%2Fx"_s;
+        QTest::newRow("umlaut") << kServer << u"Büro"_s;
+        QTest::newRow("Japanese") << kServer << u"会議室"_s;
+        QTest::newRow("hidden") << kServer << u".hidden"_s;
+        QTest::newRow("socket") << u"/run/cups/cups.sock"_s << u"office"_s;
+        QTest::newRow("server above") << u"../../.."_s << u"office"_s;
+        QTest::newRow("IPv6") << u"[2001:db8::7]:631"_s << u"office"_s;
+    }
+    void namesOfAnyKindStayWithinTheFolder()
+    {
+        QFETCH(QString, server);
+        QFETCH(QString, queue);
+        const QString path = m_cache.store(server, queueOf(queue), kPpd, 1);
+        QVERIFY(!path.isEmpty());
+        const QStringList files = filesIn(m_folder->path());
+        QCOMPARE(files.size(), 2);
+        for (const QString &file : files) {
+            const QString inside =
+                QDir(m_folder->filePath(u"a/queues"_s)).relativeFilePath(QDir::cleanPath(file));
+            QVERIFY2(!inside.startsWith(u".."_s), qPrintable(file));
+            QCOMPARE(inside.count(u'/'), 1);
+        }
+        QVERIFY(m_cache.find(server, queue));
+        makeOld(path);
+        m_cache.remove(server, queue);
+        QVERIFY(!m_cache.find(server, queue));
+        QVERIFY(filesIn(m_folder->path()).isEmpty());
+    }
+
+    void namesThatLookAlikeAreDifferent()
+    {
+        const QStringList names{u"a%2Fb"_s, u"a%252Fb"_s, u"a.b"_s, u"a%2Eb"_s, u"Ü.b"_s, u"ü.b"_s};
+        for (const QString &name : names)
+            QVERIFY(!m_cache.store(kServer, queueOf(name), name.toUtf8(), 1).isEmpty());
+        for (const QString &name : names)
+            QCOMPARE(contentOf(m_cache.find(kServer, name)->printer.ppdPath), name.toUtf8());
+        QVERIFY(!m_cache.find(u"other:631"_s, u"a.b"_s));
+    }
+
+    void aQueueIsFoundInAnySpelling()
+    {
+        m_cache.store(kServer, queueOf(u"Office"_s), kPpd, 1);
+        m_cache.store(kServer, queueOf(u"oFFICE"_s), kPpd, 2);
+        QCOMPARE(filesIn(m_folder->path()).size(), 2);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+    }
+
+    // The PPD may be long, and lie on a slow disk.
+    void aPpdIsKnownAgainWithoutBeingRead()
+    {
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("another");
+        file.close();
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
+        QVERIFY(hashOfPpd("another") != hashOfPpd(kPpd));
+    }
+
+    void anInstanceHasThePpdOfItsQueueAndItsOwnName()
+    {
+        m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const auto entry = m_cache.find(kServer, u"office/draft"_s);
+        QVERIFY(entry);
+        QCOMPARE(entry->printer.name, u"office/draft"_s);
+        QCOMPARE(entry->printer.ppdPath, m_cache.find(kServer, u"office"_s)->printer.ppdPath);
+    }
+
+    void aDamagedEntryIsNone_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QByteArray>("content"); // null: missing
+        const QString json = u"json"_s;
+        QTest::newRow("no PPD") << u"ppd"_s << QByteArray();
+        QTest::newRow("no description") << json << QByteArray();
+        QTest::newRow("empty") << json << QByteArray("");
+        QTest::newRow("cut") << json << QByteArray("{\"uri\": \"ipp://loc");
+        QTest::newRow("list") << json << QByteArray("[1, 2]");
+        QTest::newRow("binary") << json << QByteArray("\x00\xff\xfe", 3);
+        QTest::newRow("without its PPD's hash")
+            << json << QByteArray("{\"uri\": \"ipp://localhost/printers/office\"}");
+        QTest::newRow("a hash that leads out of the folder")
+            << json
+            << QByteArray("{\"uri\": \"ipp://localhost/printers/office\", \"hash\": "
+                          "\"/../../../../../../etc/passwd\"}");
+        QTest::newRow("without URI") << json << QByteArray("{\"description\": \"Hall\"}");
+    }
+    void aDamagedEntryIsNone()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(QByteArray, content);
+        const QString ppd = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString path =
+            suffix == u"ppd"_s ? ppd : QFileInfo(ppd).dir().filePath(u"office.json"_s);
+        QVERIFY(QFile::remove(path));
+        if (!content.isNull()) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        }
+        QVERIFY(!m_cache.find(kServer, u"office"_s));
+        // The next look at the server mends it.
+        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2).isEmpty());
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+    }
+
+    void aNewPpdLeavesTheOldOneToWhoeverHasOpenedIt()
+    {
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 2);
+        QCOMPARE(contentOf(first), kPpd);
+        QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->printer.ppdPath, second);
+        m_cache.remove(kServer, u"office"_s);
+        QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
+    }
+
+    void aPpdThatIsLookedAtIsInUse()
+    {
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        makeOld(first);
+        QVERIFY(m_cache.find(kServer, u"office"_s));
+        m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 2);
+        QCOMPARE(contentOf(first), kPpd);
+    }
+
+    void aPpdThatNobodyHasUsedForLongGoesWhenThereIsANewOne()
+    {
+        const QString others = m_cache.store(kServer, queueOf(u"office-2"_s), kPpd, 1);
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        makeOld(others);
+        makeOld(first);
+        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), first);
+        QCOMPARE(contentOf(first), kPpd); // it is the new one
+        makeOld(first);
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 3);
+        QVERIFY(!QFile::exists(first));
+        QVERIFY(QFile::exists(second));
+        QVERIFY(QFile::exists(others));
+    }
+
+    void aFolderThatCannotBeMadeOnlyCostsTheCache()
+    {
+        // A file stands where the folder would be; that stops root as well.
+        QFile file(m_folder->filePath(u"a"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1).isEmpty());
+        QVERIFY(!m_cache.find(kServer, u"office"_s));
+    }
+
+    void aFileThatCannotBeWrittenIsSaidAndCostsTheEntry()
+    {
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        m_cache.remove(kServer, u"office"_s);
+        QVERIFY(QFile::remove(path));
+        QVERIFY(QDir().mkpath(path)); // a folder of its name
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(u"office-[0-9a-f]{16}.ppd cannot be written"_s));
+        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1).isEmpty());
+        QVERIFY(!m_cache.find(kServer, u"office"_s));
+    }
+
+    void nobodyElseMayLookIntoIt()
+    {
+        m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                            QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+        QVERIFY(!(QFile::permissions(m_folder->filePath(u"a/queues"_s)) & others));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    PpdCache m_cache{QString()};
+};
+
+QTEST_GUILESS_MAIN(PpdCacheTest)
+#include "ppd_cache_test.moc"
