@@ -5,13 +5,15 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 QString effectSetKey(bool mono, const QString &colorMatching)
 {
     if (mono)
-        return QStringLiteral("com.corvana.print.PrintSettings.MonoEffect");
+        return u"com.corvana.print.PrintSettings.MonoEffect"_s;
     if (colorMatching == kVivid)
-        return QStringLiteral("com.corvana.print.PrintSettings.VividEffect");
-    return QStringLiteral("com.corvana.print.PrintSettings.NormalEffect");
+        return u"com.corvana.print.PrintSettings.VividEffect"_s;
+    return u"com.corvana.print.PrintSettings.NormalEffect"_s;
 }
 
 QVariant usableEffectValue(const QVariant &stored)
@@ -21,15 +23,28 @@ QVariant usableEffectValue(const QVariant &stored)
     return stored.isValid() && inRange ? stored : QVariant(QString::number(0));
 }
 
-std::optional<QVariantList> usableEffectSet(const QVariant &stored)
+EffectSet usableEffectSet(const QVariant &stored)
 {
-    if (stored.typeId() != QMetaType::QVariantList && stored.typeId() != QMetaType::QStringList)
-        return std::nullopt;
-    QVariantList values = stored.toList();
-    if (values.size() != static_cast<qsizetype>(kEffectKeywords.size()))
-        return std::nullopt;
-    for (QVariant &value : values)
-        value = usableEffectValue(value);
+    const bool isList =
+        stored.typeId() == QMetaType::QVariantList || stored.typeId() == QMetaType::QStringList;
+    QVariantList values = isList ? stored.toList() : QVariantList();
+    if (values.size() != static_cast<qsizetype>(kEffectTable.size()))
+        values.clear();
+    EffectSet set;
+    auto value = values.cbegin();
+    for (const EffectInfo &effect : kEffectTable)
+        set[effect.effect] = usableEffectValue(value == values.cend() ? QVariant() : *value++);
+    return set;
+}
+
+QVariantList storedEffectSet(const EffectSet &set)
+{
+    QVariantList values;
+    for (const EffectInfo &effect : kEffectTable) {
+        const auto value = set.find(effect.effect);
+        // Appended as one value, not joined as a list.
+        values.append(usableEffectValue(value == set.end() ? QVariant() : value->second));
+    }
     return values;
 }
 

@@ -1,27 +1,21 @@
 #pragma once
 
-#include <array>
-#include <optional>
+#include <map>
 
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
 
+#include "colorsetting/Effects.h"
+
 namespace corvana {
-
-/// The six colour effects, always in this order.
-inline constexpr std::array<QLatin1StringView, 6> kEffectKeywords{
-    QLatin1StringView("QXBrightness"), QLatin1StringView("QXContrast"),
-    QLatin1StringView("QXRed"),        QLatin1StringView("QXGreen"),
-    QLatin1StringView("QXBlue"),       QLatin1StringView("QXSaturation"),
-};
-
-/// Monochrome printing has only the first two, brightness and contrast.
-inline constexpr std::size_t kMonochromeEffectCount = 2;
 
 /// Range of an effect, both ends included. Units: steps of the slider.
 inline constexpr qint64 kEffectMinimum = -20;
 inline constexpr qint64 kEffectMaximum = 20;
+
+/// A value for each effect: a number or a decimal text, as it was stored.
+using EffectSet = std::map<Effect, QVariant>;
 
 /// The print settings entry of the effect set in force: monochrome printing has one of its own, the
 /// colour matching mode "Vivid" another, every other mode shares the third.
@@ -31,7 +25,10 @@ QString effectSetKey(bool mono, const QString &colorMatching);
 /// out of range.
 QVariant usableEffectValue(const QVariant &stored);
 
-/// The six values of a stored set, each usable; nothing when the entry is no set of six.
-std::optional<QVariantList> usableEffectSet(const QVariant &stored);
+/// A stored set, each of its values usable. An entry that is no set of six gives "0" for each.
+EffectSet usableEffectSet(const QVariant &stored);
+
+/// The form in which a set is stored: its values, in the order of kEffectTable, each usable.
+QVariantList storedEffectSet(const EffectSet &set);
 
 } // namespace corvana

@@ -3,7 +3,6 @@
 #include "colorsetting/ColorSettingKeys.h"
 #include "colorsetting/EffectSet.h"
 #include "platform/foundation/Values.h"
-#include "platform/toolkit/ControlActions.h"
 
 namespace corvana {
 
@@ -43,24 +42,22 @@ void QXLaserColorSettingPDE::restoreEffectValues()
     PMPrintSettingsGetValue(settings, currentEffectSetKey(), &stored);
     if (!PPDEffectKeys)
         setEffectDefaults();
-    const std::optional<QVariantList> values = usableEffectSet(stored);
-    for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
-        const QVariant value =
-            values ? values->at(static_cast<qsizetype>(i)) : QVariant(QString::number(0));
-        noteRestoredEffect(kEffectKeywords[i], integerValue(value));
-        m_outputBin.insert(kEffectKeywords[i], value);
-        setEffectContent(kEffectKeywords[i], value);
+    const EffectSet set = usableEffectSet(stored);
+    for (const EffectInfo &effect : kEffectTable) {
+        const QVariant &value = set.at(effect.effect);
+        noteRestoredEffect(effect, integerValue(value));
+        m_outputBin.insert(effect.keyword, value);
+        setEffectContent(effect.keyword, value);
     }
 }
 
 // A restore may move the very control that reported last. What that control reports next is then no
 // repetition, even if it is the same value again. The value that the control showed stands in the
 // binding dictionary; `outputBin` holds the printer's marked choices while a restore is going on.
-void QXLaserColorSettingPDE::noteRestoredEffect(QLatin1StringView keyword, qint64 restored)
+void QXLaserColorSettingPDE::noteRestoredEffect(const EffectInfo &effect, qint64 restored)
 {
-    const QSlider *slider = determineSlider(keyword);
     const LastEffect &last = EffectVal();
-    if (slider && controlTag(slider) == last.tag && effectValue(keyword) != restored)
+    if (effect.tag == last.tag && effectValue(effect.keyword) != restored)
         m_lastReportIsStale = last.value != restored;
 }
 
@@ -69,14 +66,13 @@ void QXLaserColorSettingPDE::saveEffectValues()
     const PMPrintSettings settings = printSettings();
     if (!settings)
         return;
-    QVariantList values;
-    for (const QLatin1StringView keyword : kEffectKeywords) {
+    EffectSet set;
+    for (const EffectInfo &effect : kEffectTable) {
         if (effectContent)
-            m_outputBin.insert(keyword, integerValue(effectContent->value(keyword)));
-        // Appended as one value, not joined as a list.
-        values.append(usableEffectValue(m_outputBin.value(keyword)));
+            m_outputBin.insert(effect.keyword, effectValue(effect.keyword));
+        set[effect.effect] = m_outputBin.value(effect.keyword);
     }
-    PMPrintSettingsSetValue(settings, currentEffectSetKey(), values, false);
+    PMPrintSettingsSetValue(settings, currentEffectSetKey(), storedEffectSet(set), false);
 }
 
 } // namespace corvana

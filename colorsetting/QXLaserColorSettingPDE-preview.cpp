@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 #include "colorsetting/ColorSettingKeys.h"
-#include "colorsetting/EffectModel.h"
+#include "colorsetting/Effects.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/ControlActions.h"
@@ -24,6 +24,17 @@ QVariant reportedValue(const QWidget *sender)
     if (const auto *field = qobject_cast<const QLineEdit *>(sender))
         return field->text();
     return {};
+}
+
+// The effects of a filter that a code means: one of them, or all with a negative code.
+QList<const EffectInfo *> effectsOfCode(EffectFilter filter, int code)
+{
+    QList<const EffectInfo *> meant;
+    for (const EffectInfo &effect : kEffectTable) {
+        if (effect.filter == filter && (code < 0 || code == effectCode(effect)))
+            meant += &effect;
+    }
+    return meant;
 }
 
 } // namespace
@@ -59,14 +70,11 @@ void QXLaserColorSettingPDE::setRefImageWithName(const QString &name)
 FilterImage QXLaserColorSettingPDE::applyColorControlFilter_code(const FilterImage &image, int code)
 {
     ccFilter->setValue_forKey(image, kCIInputImageKey);
-    for (int effect = 0; effect < static_cast<int>(std::size(kColorControlEffects)); ++effect) {
-        if (code >= 0 && code != effect)
-            continue;
-        const EffectParameter &parameter = kColorControlEffects[effect];
-        const qint64 value = effectValue(parameter.keyword);
+    for (const EffectInfo *effect : effectsOfCode(EffectFilter::ColorControls, code)) {
+        const qint64 value = effectValue(effect->keyword);
         if (code >= 0)
-            setEffectContent(parameter.keyword, static_cast<float>(value));
-        ccFilter->setValue_forKey(parameter.fromValue(value), parameter.filterKey);
+            setEffectContent(effect->keyword, static_cast<float>(value));
+        ccFilter->setValue_forKey(effectParameter(*effect, value), effect->filterKey);
     }
     return ccFilter->outputImage();
 }
@@ -74,14 +82,11 @@ FilterImage QXLaserColorSettingPDE::applyColorControlFilter_code(const FilterIma
 FilterImage QXLaserColorSettingPDE::applyColorMatrixFilter_code(const FilterImage &image, int code)
 {
     cmFilter->setValue_forKey(image, kCIInputImageKey);
-    for (int effect = 0; effect < static_cast<int>(std::size(kColorMatrixEffects)); ++effect) {
-        if (code >= 0 && code != effect)
-            continue;
-        const EffectParameter &parameter = kColorMatrixEffects[effect];
-        const qint64 value = effectValue(parameter.keyword);
+    for (const EffectInfo *effect : effectsOfCode(EffectFilter::ColorMatrix, code)) {
+        const qint64 value = effectValue(effect->keyword);
         if (code >= 0)
-            setEffectContent(parameter.keyword, value);
-        cmFilter->setValue_forKey(parameter.fromValue(value), parameter.filterKey);
+            setEffectContent(effect->keyword, value);
+        cmFilter->setValue_forKey(effectParameter(*effect, value), effect->filterKey);
     }
     // The gains stay in the filter for later; in grey they would have no meaning.
     return hasMode(kModeMono) ? monochrome(image) : cmFilter->outputImage();
@@ -103,7 +108,7 @@ void QXLaserColorSettingPDE::effectValueDidChange(QWidget *sender)
 
     // What moved is applied first.
     FilterImage result;
-    if (tag <= kSaturationTag) {
+    if (tag < kFirstMatrixTag) {
         const FilterImage controlled =
             applyColorControlFilter_code(refImage(), static_cast<int>(tag));
         if (hasMode(kModeMono)) {
@@ -112,9 +117,9 @@ void QXLaserColorSettingPDE::effectValueDidChange(QWidget *sender)
             cmFilter->setValue_forKey(controlled, kCIInputImageKey);
             result = cmFilter->outputImage();
         }
-    } else if (tag <= kBlueTag) {
+    } else if (tag <= kLastEffectTag) {
         const FilterImage gained =
-            applyColorMatrixFilter_code(refImage(), static_cast<int>(tag) - kRedTag);
+            applyColorMatrixFilter_code(refImage(), static_cast<int>(tag) - kFirstMatrixTag);
         ccFilter->setValue_forKey(gained, kCIInputImageKey);
         result = ccFilter->outputImage();
     }

@@ -1,7 +1,7 @@
 #include "colorsetting/QXLaserColorSettingPDE.h"
 
 #include "colorsetting/ColorSettingKeys.h"
-#include "colorsetting/EffectSet.h"
+#include "colorsetting/Effects.h"
 #include "panel/OptionKeywords.h"
 
 namespace corvana {
@@ -29,13 +29,14 @@ QVariantMap QXLaserColorSettingPDE::summaryInfo()
         return summary;
     const QString orderKey = QLatin1StringView(kSummaryDisplayOrder);
     QStringList order = summary.value(orderKey).toStringList();
-    const size_t shown = hasMode(kModeMono) ? kMonochromeEffectCount : kEffectKeywords.size();
-    for (size_t i = 0; i < shown; ++i) {
-        const ppd_option_t *option = ppdOption(ppd, kEffectKeywords[i]);
+    for (const EffectInfo &effect : kEffectTable) {
+        if (hasMode(kModeMono) && !effect.inMonochrome)
+            continue;
+        const ppd_option_t *option = ppdOption(ppd, effect.keyword);
         const std::optional<QString> title = option ? ppdText(option->text) : std::nullopt;
         if (!title)
             continue;
-        summary.insert(*title, m_outputBin.value(kEffectKeywords[i]));
+        summary.insert(*title, m_outputBin.value(effect.keyword));
         order += *title;
     }
     summary.insert(orderKey, order);

@@ -2,7 +2,7 @@
 
 #include "colorsetting/ColorSettingKeys.h"
 #include "colorsetting/ColorTransformer.h"
-#include "colorsetting/EffectSet.h"
+#include "colorsetting/Effects.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/ControlActions.h"
@@ -29,61 +29,6 @@ QString supportedKeysEntry()
 }
 
 } // namespace
-
-// One row an option: the one table behind the operations that look controls up.
-struct QXLaserColorSettingPDE::Roster
-{
-    using Panel = QXLaserColorSettingPDE;
-    template <typename Control> using Lookup = Control *(*)(const Panel &);
-
-    template <auto Field> static QWidget *field(const Panel &panel)
-    {
-        return (panel.*Field).data();
-    }
-    template <auto Field> static QLineEdit *number(const Panel &panel) { return panel.*Field; }
-    template <auto Field> static QSlider *slider(const Panel &panel) { return panel.*Field; }
-    template <typename Control> static Control *none(const Panel &) { return nullptr; }
-
-    struct Row
-    {
-        QLatin1StringView keyword;
-        Lookup<QWidget> control;
-        Lookup<QWidget> label;
-        Lookup<QLineEdit> number;
-        Lookup<QSlider> slider;
-    };
-
-    static constexpr auto noControl = none<QWidget>;
-    static constexpr auto noNumber = none<QLineEdit>;
-    static constexpr auto noSlider = none<QSlider>;
-    static constexpr Row rows[] = {
-        {kQXColorMatching, field<&Panel::colorMatchingMatrix>, field<&Panel::colorMatchingLabel>,
-         noNumber, noSlider},
-        {kQXEnhanceBlkPrt, field<&Panel::enhancedBlackCheckBox>, noControl, noNumber, noSlider},
-        {kQXGray, field<&Panel::grayCheckBox>, noControl, noNumber, noSlider},
-        {kEffectKeywords[0], noControl, field<&Panel::brightnessLabel>,
-         number<&Panel::brightnessField>, slider<&Panel::brightnessSlider>},
-        {kEffectKeywords[1], noControl, field<&Panel::contrastLabel>, number<&Panel::contrastField>,
-         slider<&Panel::contrastSlider>},
-        {kEffectKeywords[2], noControl, field<&Panel::redLabel>, number<&Panel::redField>,
-         slider<&Panel::redSlider>},
-        {kEffectKeywords[3], noControl, field<&Panel::greenLabel>, number<&Panel::greenField>,
-         slider<&Panel::greenSlider>},
-        {kEffectKeywords[4], noControl, field<&Panel::blueLabel>, number<&Panel::blueField>,
-         slider<&Panel::blueSlider>},
-        {kEffectKeywords[5], noControl, field<&Panel::saturationLabel>,
-         number<&Panel::saturationField>, slider<&Panel::saturationSlider>},
-    };
-
-    static const Row *rowOf(const QString &keyword)
-    {
-        for (const Row &row : rows) {
-            if (row.keyword == keyword)
-                return &row;
-        }
-        return nullptr;
-    }
-};
 
 QXLaserColorSettingPDE::~QXLaserColorSettingPDE()
 {
@@ -122,34 +67,7 @@ QString QXLaserColorSettingPDE::helpBook()
 void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
 {
     QXPrintQualityPDE::connectInterface(connections);
-    connections.outlet(QStringLiteral("colorMatchingMatrix"), colorMatchingMatrix);
-    connections.outlet(QStringLiteral("colorMatchingLabel"), colorMatchingLabel);
-    connections.outlet(QStringLiteral("enhancedBlackCheckBox"), enhancedBlackCheckBox);
-    connections.outlet(QStringLiteral("grayCheckBox"), grayCheckBox);
-    connections.outlet(QStringLiteral("effectImageView"), effectImageView);
-    connections.outlet(QStringLiteral("colorModeImageView"), colorModeImageView);
-    connections.outlet(QStringLiteral("ditherPopup"), ditherPopup);
-    connections.outlet(QStringLiteral("ditherLabel"), ditherLabel);
-    connections.outlet(QStringLiteral("colorEnhanceButton"), colorEnhanceButton);
-    connections.outlet(QStringLiteral("optionLabel"), optionLabel);
-    connections.outlet(QStringLiteral("brightnessLabel"), brightnessLabel);
-    connections.outlet(QStringLiteral("contrastLabel"), contrastLabel);
-    connections.outlet(QStringLiteral("redLabel"), redLabel);
-    connections.outlet(QStringLiteral("greenLabel"), greenLabel);
-    connections.outlet(QStringLiteral("blueLabel"), blueLabel);
-    connections.outlet(QStringLiteral("saturationLabel"), saturationLabel);
-    connections.outlet(QStringLiteral("brightnessField"), brightnessField);
-    connections.outlet(QStringLiteral("contrastField"), contrastField);
-    connections.outlet(QStringLiteral("redField"), redField);
-    connections.outlet(QStringLiteral("greenField"), greenField);
-    connections.outlet(QStringLiteral("blueField"), blueField);
-    connections.outlet(QStringLiteral("saturationField"), saturationField);
-    connections.outlet(QStringLiteral("brightnessSlider"), brightnessSlider);
-    connections.outlet(QStringLiteral("contrastSlider"), contrastSlider);
-    connections.outlet(QStringLiteral("redSlider"), redSlider);
-    connections.outlet(QStringLiteral("greenSlider"), greenSlider);
-    connections.outlet(QStringLiteral("blueSlider"), blueSlider);
-    connections.outlet(QStringLiteral("saturationSlider"), saturationSlider);
+    connectOutlets(connections);
     connections.action(QStringLiteral("effectValueDidChange"), [this](QWidget *sender) {
         if (std::exchange(m_lastReportIsStale, false))
             EffectVal() = {-1, 0};
@@ -301,10 +219,10 @@ void QXLaserColorSettingPDE::checkUIConstraints()
     const QVariant matching = m_outputBin.value(kQXColorMatching);
     if (driverMatchesColors) {
         setEffectContent(kColorFlag, !mono);
-        for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
-            const bool printsInGray = mono && i < kMonochromeEffectCount;
+        for (const EffectInfo &effect : kEffectTable) {
+            const bool printsInGray = mono && effect.inMonochrome;
             if (matching == QVariant(QString(kNone)) && !printsInGray)
-                disableEffect(kEffectKeywords[i]);
+                disableEffect(effect.keyword);
         }
     } else {
         // In colour the flag stays as it was.
@@ -347,39 +265,6 @@ void QXLaserColorSettingPDE::printSettingsNotified(const Notification &notificat
         setMode(kModeMono, mode.toString() == kMono);
     }
     // Nothing is redrawn here: the next update of the controls shows the new state.
-}
-
-QWidget *QXLaserColorSettingPDE::determineUI(const QString &keyword)
-{
-    const Roster::Row *row = Roster::rowOf(keyword);
-    return row ? row->control(*this) : nullptr;
-}
-
-QWidget *QXLaserColorSettingPDE::determineLabel(const QString &keyword)
-{
-    const Roster::Row *row = Roster::rowOf(keyword);
-    return row ? row->label(*this) : nullptr;
-}
-
-QString QXLaserColorSettingPDE::determineKey(QWidget *control)
-{
-    for (const Roster::Row &row : Roster::rows) {
-        if (control && row.control(*this) == control)
-            return row.keyword;
-    }
-    return {};
-}
-
-QLineEdit *QXLaserColorSettingPDE::determineField(const QString &keyword)
-{
-    const Roster::Row *row = Roster::rowOf(keyword);
-    return row ? row->number(*this) : nullptr;
-}
-
-QSlider *QXLaserColorSettingPDE::determineSlider(const QString &keyword)
-{
-    const Roster::Row *row = Roster::rowOf(keyword);
-    return row ? row->slider(*this) : nullptr;
 }
 
 } // namespace corvana

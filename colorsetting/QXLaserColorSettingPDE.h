@@ -18,6 +18,8 @@
 
 namespace corvana {
 
+struct EffectInfo;
+
 /// The panel "Color Setting": colour matching, enhanced black, gray, and the colour effects kept
 /// for each colour matching mode, with a preview of what they do.
 class QXLaserColorSettingPDE : public QXPrintQualityPDE
@@ -25,7 +27,7 @@ class QXLaserColorSettingPDE : public QXPrintQualityPDE
 public:
     ~QXLaserColorSettingPDE() override;
 
-    // Construction, roster, rules (QXLaserColorSettingPDE.cpp)
+    // Construction, rules (QXLaserColorSettingPDE.cpp)
 
     bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback) override;
     QString panelName() override;
@@ -42,6 +44,12 @@ public:
     void saveAllValues() override;
     void checkConstraints() override;
     void checkUIConstraints() override;
+    void toggleShowOption(QWidget *button) override;
+    /// Takes over the colour mode of the Print Setting panel.
+    virtual void printSettingsNotified(const Notification &notification);
+
+    // Roster (QXLaserColorSettingPDE-roster.cpp)
+
     QWidget *determineUI(const QString &keyword) override;
     QWidget *determineLabel(const QString &keyword) override;
     QString determineKey(QWidget *control) override;
@@ -49,9 +57,6 @@ public:
     virtual QLineEdit *determineField(const QString &keyword);
     /// The slider of an effect, or null.
     virtual QSlider *determineSlider(const QString &keyword);
-    void toggleShowOption(QWidget *button) override;
-    /// Takes over the colour mode of the Print Setting panel.
-    virtual void printSettingsNotified(const Notification &notification);
 
     // Colour effect sets (QXLaserColorSettingPDE-effects.cpp)
 
@@ -137,7 +142,8 @@ private:
 
     QString currentEffectSetKey() const;
     qint64 effectValue(QLatin1StringView keyword) const;
-    void noteRestoredEffect(QLatin1StringView keyword, qint64 restored);
+    void connectOutlets(InterfaceConnections &connections);
+    void noteRestoredEffect(const EffectInfo &effect, qint64 restored);
     void showPreview(const FilterImage &image);
     void titleEffectLabel(QLatin1StringView keyword);
     void disableEffect(QLatin1StringView keyword);

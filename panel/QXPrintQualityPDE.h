@@ -19,13 +19,11 @@
 #include "platform/toolkit/Alert.h"
 #include "platform/toolkit/BindingDictionary.h"
 
-class QComboBox;
 class QLabel;
 
 namespace corvana {
 
 class InterfaceConnections;
-class RadioMatrix;
 
 /// The base of both panels: life cycle, the binding of PPD options to controls, the summary, and
 /// services around the controls.
@@ -151,9 +149,6 @@ protected:
     bool hasMode(ImageMode mode) const { return (m_imageModeFlag & mode) != 0; }
     void setMode(ImageMode mode, bool on);
 
-    /// Shows an option's text in its label or box; a text that is not UTF-8 changes nothing.
-    void titleLabel(QWidget *label, const ppd_option_t *option);
-
     /// A window that is higher than the panel's view by more than this has room for all of it.
     /// Units: points.
     static constexpr double kHeightAroundPanel = 96.0;
@@ -195,9 +190,6 @@ protected:
 
 private:
     void showUnsupportedPaperAlert();
-    void fillMatrix(RadioMatrix *matrix, ppd_option_t *option);
-    void fillPopUp(QComboBox *popUp, ppd_option_t *option);
-    void showSubstituteMediaType(QComboBox *popUp, const QString &stored);
     QString choiceText(ppd_option_t *option, const QString &choice) const;
 };
 

@@ -163,53 +163,49 @@ QString effectSetInForce(const PrintSettings &settings)
                         settings.value(kQXColorMatching).toString());
 }
 
-QVariantList effectsInForce(const PrintSettings &settings)
+EffectSet effectsInForce(const PrintSettings &settings)
 {
-    const auto stored = usableEffectSet(settings.value(effectSetInForce(settings)));
-    if (stored)
-        return *stored;
-    return QVariantList(static_cast<qsizetype>(kEffectKeywords.size()), QString::number(0));
+    return usableEffectSet(settings.value(effectSetInForce(settings)));
 }
 
-// How many of the effects apply: none while the application matches the colours, the first two in
+// Whether an effect applies: none does while the application matches the colours, and few do in
 // monochrome printing. The panel's summary names just these.
-size_t effectCountInForce(const PrintSettings &settings, ppd_file_t *ppd)
+bool isInForce(const EffectInfo &effect, const PrintSettings &settings, ppd_file_t *ppd)
 {
     if (!ppdFindAttr(ppd, kSupportsCustomColorMatching, nullptr) ||
         settings.value(kColorMatchingMode).toString() == kApplicationColorMatching)
-        return 0;
-    return settings.value(kQXMonoColor).toString() == kMono ? kMonochromeEffectCount
-                                                            : kEffectKeywords.size();
+        return false;
+    return effect.inMonochrome || settings.value(kQXMonoColor).toString() != kMono;
 }
 
 QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
 {
     QList<JobOption> options;
-    const QVariantList values = effectsInForce(settings);
-    const size_t inForce = effectCountInForce(settings, ppd);
-    for (size_t i = 0; i < kEffectKeywords.size(); ++i) {
-        ppd_option_t *option = ppdOption(ppd, kEffectKeywords[i]);
-        const qint64 value = integerValue(values.at(static_cast<qsizetype>(i)));
+    const EffectSet values = effectsInForce(settings);
+    for (const EffectInfo &effect : kEffectTable) {
+        ppd_option_t *option = ppdOption(ppd, effect.keyword);
+        const qint64 value = integerValue(values.at(effect.effect));
+        const bool inForce = isInForce(effect, settings, ppd);
         if (!option) {
             // As an attribute of the job: a filter of the server's may know what this PPD does not.
-            if (i < inForce)
-                options += JobOption{kEffectKeywords[i], QString::number(value)};
+            if (inForce)
+                options += JobOption{effect.keyword, QString::number(value)};
             continue;
         }
-        const ppd_choice_t *choice = i < inForce ? choiceOfNumber(option, value) : nullptr;
+        const ppd_choice_t *choice = inForce ? choiceOfNumber(option, value) : nullptr;
         // A value without a choice is named all the same, so that the host can refuse it.
         QString shown = ppdKeyword(option->defchoice);
-        if (i < inForce)
+        if (inForce)
             shown = choice ? ppdKeyword(choice->choice) : QString::number(value);
-        options += JobOption{kEffectKeywords[i], shown};
+        options += JobOption{effect.keyword, shown};
     }
     return options;
 }
 
 JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_file_t *ppd)
 {
-    const auto keyword = std::find(kEffectKeywords.begin(), kEffectKeywords.end(), offered.name);
-    if (keyword == kEffectKeywords.end() || !ppdOption(ppd, offered.name))
+    const EffectInfo *effect = effectOfKeyword(offered.name);
+    if (!effect || !ppdOption(ppd, offered.name))
         return notMine();
     const ValueBounds bounds{kEffectMinimum, kEffectMaximum};
     const std::optional<qint64> value = numberIn(offered.value, {}, true);
@@ -218,9 +214,9 @@ JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_
                                      : nullptr;
     if (!choice)
         return refused(bounds, QStringLiteral("%1"));
-    QVariantList values = effectsInForce(settings);
-    values[keyword - kEffectKeywords.begin()] = *value;
-    settings.setValue(effectSetInForce(settings), values);
+    EffectSet values = effectsInForce(settings);
+    values[effect->effect] = *value;
+    settings.setValue(effectSetInForce(settings), storedEffectSet(values));
     return accepted({offered.name, ppdKeyword(choice->choice)});
 }
 

@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QtMath>
 
+#include "panel/OptionControl.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/ProgrammaticChange.h"

@@ -4,7 +4,8 @@
 
 #include <QFile>
 #include <QImage>
-#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include "tests/support/TestBundle.h"
 #include "tests/support/TestPaths.h"
@@ -20,14 +21,23 @@ inline QByteArray shippedInterface()
     return interface.readAll();
 }
 
+/// The options that the shipped bundle lists for the panel. Errors: throws std::runtime_error.
+inline QJsonValue shippedOptions()
+{
+    QFile information(corvana::test::bundleFile(QStringLiteral("info.json")));
+    if (!information.open(QIODevice::ReadOnly))
+        throw std::runtime_error(information.fileName().toStdString() + " cannot be read");
+    return QJsonDocument::fromJson(information.readAll())
+        .object()
+        .value(QStringLiteral("PMPPDKeysSupportedColor"));
+}
+
 /// A bundle of the test's own that has the panel's interface file, its options, and no reference
 /// picture but those that the test puts into it.
 inline TestBundle bundleWithoutPictures()
 {
     TestBundle bundle(TestBundle::Information::Present,
-                      {{QStringLiteral("PMPPDKeysSupportedColor"),
-                        QJsonArray{QStringLiteral("QXColorMatching"), QStringLiteral("QXGray"),
-                                   QStringLiteral("QXEnhanceBlkPrt")}}});
+                      {{QStringLiteral("PMPPDKeysSupportedColor"), shippedOptions()}});
     bundle.addInterface(QStringLiteral("QXLaserColorSetting"), shippedInterface());
     return bundle;
 }

@@ -1,3 +1,5 @@
+#include <set>
+
 #include <QTest>
 
 #include "tests/colorsetting/ColorSettingProbe.h"
@@ -32,6 +34,25 @@ class EffectsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyEffectStandsOnceInTheTable()
+    {
+        std::set<Effect> effects;
+        std::set<QString> keywords;
+        std::set<int> tags;
+        std::set<std::pair<EffectFilter, int>> codes;
+        for (const EffectInfo &effect : kEffectTable) {
+            QVERIFY(effects.insert(effect.effect).second);
+            QVERIFY(keywords.insert(effect.keyword).second);
+            QVERIFY(tags.insert(effect.tag).second);
+            QVERIFY(codes.insert({effect.filter, effectCode(effect)}).second);
+            QVERIFY(0 <= effectCode(effect) && effectCode(effect) <= 2);
+            QCOMPARE(effectOfKeyword(effect.keyword), &effect);
+        }
+        QCOMPARE(tags, (std::set<int>{0, 1, 2, 3, 4, 5}));
+        QVERIFY(!effectOfKeyword(u"QXGray"_s));
+        QVERIFY(!effectOfKeyword(QString()));
+    }
+
     void theSetFollowsTheModes_data()
     {
         QTest::addColumn<bool>("mono");

@@ -13,6 +13,10 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 
+namespace corvana {
+class RadioMatrix;
+}
+
 namespace corvana::test {
 
 class RecordingHost;
