@@ -14,10 +14,12 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "dialog/job/PpdFilters.h"
 #include "dialog/session/JobAttributes.h"
 
 namespace corvana {
@@ -32,8 +34,23 @@ constexpr QLatin1StringView kPdf{"application/pdf"};
 // A PDF that the filter for the layout of pages has been at; a mere PDF passes through untouched.
 constexpr QLatin1StringView kLaidOutPdf{"application/vnd.cups-pdf"};
 
+// What it is called beside the parts of a job.
+constexpr QLatin1StringView kPpdOfChain{"printer.ppd"};
+
 // How long a filter chain may take to clean up after it was told to stop. Units: milliseconds.
 constexpr int kPatience = 3000;
+
+// Where cupsfilter looks for filters and conversions. It says so to the filters, too. Whatever set
+// these for another program does not decide what runs here.
+constexpr const char *kPlacesOfFilters[] = {"CUPS_SERVERBIN", "CUPS_SERVERROOT", "CUPS_DATADIR"};
+
+QProcessEnvironment environmentOfChain()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : kPlacesOfFilters)
+        environment.remove(QLatin1StringView(name));
+    return environment;
+}
 
 // The permissions that the user's other programs give a new file. Temporary files are private.
 mode_t usualPermissions()
@@ -171,6 +188,7 @@ FileQueue::FileQueue(QObject *parent) : QObject(parent)
         ::setpgid(0, 0);
         ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     });
+    m_process.setProcessEnvironment(environmentOfChain());
     connect(&m_process, &QProcess::finished, this, &FileQueue::stepFinished);
     connect(&m_process, &QProcess::readyReadStandardError, this, &FileQueue::readLog);
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &FileQueue::readOutput);
@@ -243,9 +261,9 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
     const QString filter = findCupsFilter(&problem);
     if (filter.isEmpty())
         return problem;
-    // The filter chain would do without a PPD, and print a file without any of the choices.
-    if (!QFileInfo(ppdPath).isReadable())
-        return tr("%1 cannot be read.").arg(ppdPath);
+    problem = takePpd(ppdPath, result);
+    if (!problem.isEmpty())
+        return problem;
     if (QFileInfo(m_outputPath).isDir())
         return tr("%1 is a folder; the name of a file was expected.").arg(m_outputName);
     if (QFileInfo::exists(m_outputPath) && !QFileInfo(m_outputPath).isFile())
@@ -263,20 +281,16 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
         return tr("%1 cannot be written: %2").arg(m_outputName, qt_error_string(errno));
     m_result->close();
 
-    if (documents.size() > 1 || !m_layout.isEmpty()) {
-        m_parts = std::make_unique<QTemporaryDir>();
-        if (!m_parts->isValid())
-            return m_parts->errorString();
-    }
+    const QString ppd = m_parts->filePath(kPpdOfChain);
     if (result == Result::Pdf && m_layout.isEmpty()) {
-        addStepsToUnite(documents, ticket, ppdPath, filter, m_result->fileName());
+        addStepsToUnite(documents, ticket, ppd, filter, m_result->fileName());
         return {};
     }
     if (result == Result::Pdf) {
         const Document whole{m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
-        addStepsToUnite(documents, ticket, ppdPath, filter, whole.path);
+        addStepsToUnite(documents, ticket, ppd, filter, whole.path);
         m_steps.push_back({filter,
-                           conversionArguments(whole, ppdPath, kLaidOutPdf, {},
+                           conversionArguments(whole, ppd, kLaidOutPdf, {},
                                                pageOptions(ticket.options) + m_layout),
                            m_result->fileName()});
         return {};
@@ -284,18 +298,37 @@ QString FileQueue::prepare(const QList<Document> &documents, const JobTicket &ti
     Document whole = documents.value(0);
     if (documents.size() > 1) {
         whole = {m_parts->filePath(QStringLiteral("whole.pdf")), kPdf, ticket.title};
-        addStepsToUnite(documents, ticket, ppdPath, filter, whole.path);
+        addStepsToUnite(documents, ticket, ppd, filter, whole.path);
     }
     m_steps.push_back(
         {filter,
          // The PPD's own filters are used only on demand; without them everything
          // would become PostScript.
-         conversionArguments(whole, ppdPath, kPrinterFormat,
+         conversionArguments(whole, ppd, kPrinterFormat,
                              {QStringLiteral("-e"), QStringLiteral("-t"), ticket.title,
                               QStringLiteral("-n"), QString::number(ticket.copies)},
                              ticket.options),
          m_result->fileName()});
     return {};
+}
+
+// The chain gets a PPD that is its own: what was looked at is what its filters read, whoever writes
+// the other one. Answers what stands in the way.
+QString FileQueue::takePpd(const QString &ppdPath, Result result)
+{
+    // The filter chain would do without a PPD, and print a file without any of the choices.
+    if (!QFileInfo(ppdPath).isReadable())
+        return tr("%1 cannot be read.").arg(ppdPath);
+    m_parts = std::make_unique<QTemporaryDir>();
+    if (!m_parts->isValid())
+        return m_parts->errorString();
+    const QString own = m_parts->filePath(kPpdOfChain);
+    QFile ppd(ppdPath);
+    if (!ppd.copy(own))
+        return tr("%1 cannot be read: %2").arg(ppdPath, ppd.errorString());
+    // A PDF is made by filters of the system only.
+    return result == Result::PrinterData ? problemOfPpdFilters(own).replace(own, ppdPath)
+                                         : QString();
 }
 
 void FileQueue::addStepsToUnite(const QList<Document> &documents, const JobTicket &ticket,

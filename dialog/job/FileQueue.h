@@ -93,6 +93,7 @@ private:
                const QString &outputPath, Result result);
     QString prepare(const QList<Document> &documents, const JobTicket &ticket,
                     const QString &ppdPath, Result result);
+    QString takePpd(const QString &ppdPath, Result result);
     void addStepsToUnite(const QList<Document> &documents, const JobTicket &ticket,
                          const QString &ppdPath, const QString &filter, const QString &outputFile);
     void startNextStep();

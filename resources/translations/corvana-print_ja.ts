@@ -299,6 +299,13 @@
     </message>
 </context>
 <context>
+    <name>PpdFilters</name>
+    <message>
+        <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
+        <translation>このプリンターのドライバーにはプログラム「%1」が必要ですが、これを実行できるのはプリントサーバーだけです。ファイルへの出力ではなく、プリンターで印刷してください。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterFetching</name>
     <message>
         <source>The printer&apos;s options cannot be written to %1: %2</source>
@@ -1045,6 +1052,10 @@
     <message>
         <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
         <translation>%1 は、その間に別のプログラムによって書き込まれたため、そのまま残されています。置き換えるにはもう一度印刷するか、別のファイル名を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
     </message>
 </context>
 <context>

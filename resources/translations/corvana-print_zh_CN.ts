@@ -299,6 +299,13 @@
     </message>
 </context>
 <context>
+    <name>PpdFilters</name>
+    <message>
+        <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
+        <translation>此打印机的驱动程序需要程序“%1”，而该程序只能由打印服务器运行。请直接在打印机上打印，不要打印到文件。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterFetching</name>
     <message>
         <source>The printer&apos;s options cannot be written to %1: %2</source>
@@ -1045,6 +1052,10 @@
     <message>
         <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
         <translation>%1 在此期间已被另一个程序写入，因此保持原样。要替换它，请重新打印，或指定另一个文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
     </message>
 </context>
 <context>

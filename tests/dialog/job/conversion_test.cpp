@@ -24,6 +24,92 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// The sample printer with other filters. Whoever runs a command of it leaves a file "ran" in the
+// folder.
+QByteArray ppdWithFilters(const QByteArray &lines)
+{
+    QByteArray ppd;
+    for (const QByteArray &line : contentOf(samplePpdPath()).split('\n')) {
+        if (!line.startsWith("*cupsFilter"))
+            ppd += line + '\n';
+    }
+    return ppd + lines;
+}
+
+// What a PPD asks for that nobody may run here. "FOLDER" is that of the test, where "tool" is a
+// program that would leave a file.
+struct ForeignFilter
+{
+    const char *name;
+    QByteArray lines;
+    QByteArray named;
+};
+const ForeignFilter kForeignFilters[] = {
+    {"a command line",
+     "*cupsFilter: \"application/vnd.cups-pdf 0 foomatic-rip\"\n"
+     "*FoomaticRIPCommandLine: \"touch FOLDER/ran; cat\"\n"
+     "*FoomaticRIPCommandLinePDF: \"touch FOLDER/ran; cat\"\n",
+     "foomatic-rip"},
+    {"a command line for PostScript",
+     "*cupsFilter2: \"application/vnd.cups-postscript application/postscript 0 foomatic-rip\"\n"
+     "*FoomaticRIPCommandLine: \"touch FOLDER/ran; cat\"\n",
+     "foomatic-rip"},
+    {"an absolute path", "*cupsFilter: \"application/vnd.cups-pdf 0 FOLDER/tool\"\n",
+     "FOLDER/tool"},
+    {"a way out of the folder of the filters",
+     "*cupsFilter: \"application/vnd.cups-pdf 0 ../../../../FOLDER/tool\"\n",
+     "../../../../FOLDER/tool"},
+    {"a command behind a filter",
+     "*cupsFilter: \"application/vnd.cups-pdf 0 pdftops;FOLDER/tool\"\n", "pdftops;FOLDER/tool"},
+    {"a filter before all others",
+     "*cupsFilter: \"application/vnd.cups-postscript 0 -\"\n"
+     "*cupsPreFilter: \"application/pdf 0 FOLDER/tool\"\n",
+     "FOLDER/tool"},
+    {"a filter of two",
+     "*cupsFilter: \"application/vnd.cups-postscript 100 -\"\n"
+     "*cupsFilter: \"application/vnd.cups-pdf 0 FOLDER/tool\"\n",
+     "FOLDER/tool"},
+};
+
+// What a PPD may ask for, and how the result begins.
+struct OwnFilter
+{
+    const char *name;
+    QByteArray lines;
+    QByteArray begin;
+};
+const OwnFilter kOwnFilters[] = {
+    {"nothing, on a PostScript printer", "", "%!PS"},
+    {"PDF as it is", "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n", "%PDF"},
+    {"raster graphics", "*cupsFilter2: \"image/pwg-raster image/pwg-raster 0 -\"\n", "RaS2"},
+    {"a filter of CUPS", "*cupsFilter: \"application/vnd.cups-raster 0 rastertohp\"\n",
+     "\x1b"
+     "E"},
+};
+
+// Sets a variable of the environment while it lives.
+class Variable
+{
+public:
+    Variable(const char *name, const QByteArray &value) : m_name(name), m_former(qgetenv(name))
+    {
+        qputenv(name, value);
+    }
+    ~Variable()
+    {
+        if (m_former.isNull())
+            qunsetenv(m_name);
+        else
+            qputenv(m_name, m_former);
+    }
+    Variable(const Variable &) = delete;
+    Variable &operator=(const Variable &) = delete;
+
+private:
+    const char *m_name;
+    QByteArray m_former;
+};
+
 } // namespace
 
 /// Real documents through the filter chain of CUPS, as it is installed.
@@ -34,9 +120,26 @@ class ConversionTest : public QObject
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    // A program that leaves a file, and lets the data through.
+    QString writeTool(const QString &name) const
+    {
+        const QString tool = writeFile(
+            path(name), "#!/bin/sh\ntouch " + QFile::encodeName(path(u"ran"_s)) + "\nexec cat\n");
+        QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                        QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
+                                        QFile::ExeOther);
+        return tool;
+    }
+    QByteArray inFolder(QByteArray text) const
+    {
+        return text.replace("FOLDER", QFile::encodeName(m_folder->path()));
+    }
+
     // The result of one job; null when it failed, and then `problem` says why.
     QByteArray printed(const QString &path, const QList<JobOption> &options, QString *problem,
-                       int copies = 1)
+                       int copies = 1, const QString &ppd = samplePpdPath())
     {
         const Document document = inspectDocument(path, problem);
         if (document.path.isEmpty())
@@ -44,7 +147,7 @@ private:
         const QString output = m_folder->filePath(u"out.ps"_s);
         FileQueue queue;
         connect(&queue, &FileQueue::finished, this, [problem](const QString &p) { *problem = p; });
-        queue.print(document, {u"Job"_s, copies, options}, samplePpdPath(), output);
+        queue.print(document, {u"Job"_s, copies, options}, ppd, output);
         return queue.wait() ? contentOf(output) : QByteArray();
     }
 
@@ -93,6 +196,75 @@ private Q_SLOTS:
         QVERIFY2(problem.contains(u"could not be converted"_s), qPrintable(problem));
         QCOMPARE(contentOf(m_folder->filePath(u"out.ps"_s)), QByteArray("yesterday's"));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
+    }
+
+    void noProgramRunsThatAPpdNames_data()
+    {
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < int(std::size(kForeignFilters)); ++row)
+            QTest::newRow(kForeignFilters[row].name) << row;
+    }
+    void noProgramRunsThatAPpdNames()
+    {
+        QFETCH(int, row);
+        const ForeignFilter &foreign = kForeignFilters[row];
+        writeTool(u"tool"_s);
+        const QString ppd =
+            writeFile(path(u"printer.ppd"_s), ppdWithFilters(inFolder(foreign.lines)));
+        QString problem;
+        QVERIFY(printed(source(u"resources/sample/welcome.pdf"_s), {}, &problem, 1, ppd).isNull());
+        QVERIFY(!QFile::exists(path(u"ran"_s)));
+        const QString named = QString::fromUtf8(inFolder(foreign.named));
+        QVERIFY2(problem.contains(u"needs the program “"_s + named + u'”'), qPrintable(problem));
+        QVERIFY2(problem.contains(u"Print on the printer itself"_s), qPrintable(problem));
+    }
+
+    void noProgramRunsThatAPpdNamesWhenAPdfIsMade_data() { noProgramRunsThatAPpdNames_data(); }
+    void noProgramRunsThatAPpdNamesWhenAPdfIsMade()
+    {
+        QFETCH(int, row);
+        writeTool(u"tool"_s);
+        const QString ppd =
+            writeFile(path(u"printer.ppd"_s), ppdWithFilters(inFolder(kForeignFilters[row].lines)));
+        QString problem;
+        const Document document =
+            inspectDocument(source(u"resources/sample/welcome.pdf"_s), &problem);
+        FileQueue queue;
+        queue.unite({document, document}, {}, ppd, path(u"out.pdf"_s), {{u"number-up"_s, u"2"_s}});
+        QVERIFY(queue.wait());
+        QVERIFY(contentOf(path(u"out.pdf"_s)).startsWith("%PDF"));
+        QVERIFY(!QFile::exists(path(u"ran"_s)));
+    }
+
+    void filtersOfTheSystemRun_data()
+    {
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < int(std::size(kOwnFilters)); ++row)
+            QTest::newRow(kOwnFilters[row].name) << row;
+    }
+    void filtersOfTheSystemRun()
+    {
+        QFETCH(int, row);
+        const QString ppd =
+            writeFile(path(u"printer.ppd"_s), ppdWithFilters(kOwnFilters[row].lines));
+        QString problem;
+        const QByteArray data =
+            printed(source(u"resources/sample/welcome.pdf"_s), {}, &problem, 1, ppd);
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+        QVERIFY2(data.startsWith(kOwnFilters[row].begin), data.left(20).toHex(' ').constData());
+    }
+
+    void theEnvironmentDoesNotMoveTheFolderOfTheFilters()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"filter"_s));
+        for (const QString &filter : {u"pdftopdf"_s, u"pdftops"_s, u"pstops"_s})
+            writeTool(u"filter/"_s + filter);
+        const Variable moved("CUPS_SERVERBIN", QFile::encodeName(m_folder->path()));
+        QString problem;
+        const QByteArray data = printed(source(u"resources/sample/welcome.pdf"_s), {}, &problem);
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+        QVERIFY(data.startsWith("%!PS"));
+        QVERIFY(!QFile::exists(path(u"ran"_s)));
     }
 };
 

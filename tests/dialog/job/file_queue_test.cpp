@@ -116,8 +116,10 @@ private Q_SLOTS:
         const JobTicket ticket{
             u"Bericht 日報"_s, 3, {{u"Tray"_s, u"Lower"_s}, {u"PageSize"_s, u"Custom.300x400"_s}}};
         QCOMPARE(printed(filter, ticket, filter.output()), QString());
+        const QStringList told =
+            QString::fromUtf8(filter.content(u"arguments"_s)).split(u'\n', Qt::SkipEmptyParts);
         const QStringList expected{u"-p"_s,
-                                   filter.ppdPath(),
+                                   told.value(1),
                                    u"-i"_s,
                                    u"text/plain"_s,
                                    u"-m"_s,
@@ -132,7 +134,15 @@ private Q_SLOTS:
                                    u"-o"_s,
                                    u"PageSize=Custom.300x400"_s,
                                    filter.document().path};
-        QCOMPARE(QString::fromUtf8(filter.content(u"arguments"_s)), expected.join(u'\n') + u'\n');
+        QCOMPARE(told, expected);
+        QVERIFY(told.value(1).endsWith(u"/printer.ppd"_s));
+    }
+
+    void theChainReadsThePpdThatWasLookedAt()
+    {
+        const FakeFilter filter("[ \"$2\" = \"$DIR/printer.ppd\" ] && exit 1; cat \"$2\"\n");
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(filter.content(u"out.ps"_s), filter.content(u"printer.ppd"_s));
     }
 
     void aValueStaysOneValueWhateverItHolds_data()

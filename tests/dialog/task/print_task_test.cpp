@@ -59,6 +59,37 @@ private:
     }
     PpdSession &session() { return *m_task->opened()->session; }
 
+    struct Unprintable
+    {
+        const char *name;
+        std::function<void(PrintTask &, ScriptedFace &)> make;
+        Place place;
+        const char *said; // null where the user has just said so
+    };
+    static QList<Unprintable> unprintables()
+    {
+        return {
+            {"pages that are none",
+             [](PrintTask &task, ScriptedFace &) { task.settings().setPageRanges(u"5-1"_s); },
+             Place::Pages, "5-1"},
+            {"no file", [](PrintTask &task, ScriptedFace &) { task.setOutput({}); }, Place::Output,
+             "file"},
+            {"something typed that is no value",
+             [](PrintTask &, ScriptedFace &face) { face.takesWhatIsTyped = false; }, Place::Nowhere,
+             nullptr},
+            {"instructions that nobody follows",
+             [](PrintTask &, ScriptedFace &face) {
+                 face.instructionsAre = TaskFace::Instructions::Refuse;
+             },
+             Place::Nowhere, "instructions"},
+            {"instructions that a file would have to wait for",
+             [](PrintTask &, ScriptedFace &face) {
+                 face.instructionsAre = TaskFace::Instructions::Wait;
+             },
+             Place::Nowhere, "cannot wait"},
+        };
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -133,36 +164,6 @@ private Q_SLOTS:
         QCOMPARE(session().markedChoice(u"Staple"_s), u"None"_s);
     }
 
-    struct Unprintable
-    {
-        const char *name;
-        std::function<void(PrintTask &, ScriptedFace &)> make;
-        Place place;
-        const char *said; // null where the user has just said so
-    };
-    static QList<Unprintable> unprintables()
-    {
-        return {
-            {"pages that are none",
-             [](PrintTask &task, ScriptedFace &) { task.settings().setPageRanges(u"5-1"_s); },
-             Place::Pages, "5-1"},
-            {"no file", [](PrintTask &task, ScriptedFace &) { task.setOutput({}); }, Place::Output,
-             "file"},
-            {"something typed that is no value",
-             [](PrintTask &, ScriptedFace &face) { face.takesWhatIsTyped = false; }, Place::Nowhere,
-             nullptr},
-            {"instructions that nobody follows",
-             [](PrintTask &, ScriptedFace &face) {
-                 face.instructionsAre = TaskFace::Instructions::Refuse;
-             },
-             Place::Nowhere, "instructions"},
-            {"instructions that a file would have to wait for",
-             [](PrintTask &, ScriptedFace &face) {
-                 face.instructionsAre = TaskFace::Instructions::Wait;
-             },
-             Place::Nowhere, "cannot wait"},
-        };
-    }
     void nothingIsPrintedWith_data()
     {
         QTest::addColumn<int>("row");
