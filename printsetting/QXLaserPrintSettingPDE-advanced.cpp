@@ -49,7 +49,7 @@ void QXLaserPrintSettingPDE::initializeAdvOption(const QList<QWidget *> &views)
     }
     arrayController->setSelectionIndex(0);
     if (optionLabel)
-        optionLabel->setText(localized(QStringLiteral("advancedItem")));
+        optionLabel->setText(localized(u"advancedItem"_s));
     for (QWidget *view : views) {
         if (auto *table = qobject_cast<QTableView *>(view))
             fitAdvancedTable(table);
@@ -149,8 +149,7 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
     if (text && sleepTimeSuffixLabel)
         sleepTimeSuffixLabel->setText(*text);
     if (sleepTimeField) {
-        const QString allowed = QStringLiteral("%1: %2 – %3")
-                                    .arg(localized(QStringLiteral("AllowedNumbers")))
+        const QString allowed = u"%1: %2 – %3"_s.arg(localized(u"AllowedNumbers"_s))
                                     .arg(kSleepTimeMin)
                                     .arg(kSleepTimeMax);
         sleepTimeField->setToolTip(allowed);
@@ -167,7 +166,7 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
 // Labels that are wider than the table can be scrolled to; else the table needs no scroll bar.
 void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
 {
-    table->setAccessibleName(localized(QStringLiteral("advancedItem")));
+    table->setAccessibleName(localized(u"advancedItem"_s));
     if (!table->model())
         return;
     double widest = 0;

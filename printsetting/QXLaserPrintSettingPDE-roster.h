@@ -8,6 +8,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 /// A row of the table of advanced options: one option, or several that stand on one page.
 struct AdvancedRow
 {
@@ -22,14 +24,11 @@ struct AdvancedRow
 };
 
 inline constexpr AdvancedRow kTonerSaveRow{kTonerSaveMode, AdvancedRow::Label::OptionText};
-inline constexpr AdvancedRow kImproveOutputRow{QLatin1StringView("ImproveOutput"),
-                                               AdvancedRow::Label::Localized};
+inline constexpr AdvancedRow kImproveOutputRow{"ImproveOutput"_L1, AdvancedRow::Label::Localized};
 inline constexpr AdvancedRow kDensityRow{kQXDensityAdjustment, AdvancedRow::Label::OptionText};
 inline constexpr AdvancedRow kSleepTimeRow{kQXSleepTime, AdvancedRow::Label::OptionText};
-inline constexpr AdvancedRow kQuietModeRow{QLatin1StringView("QXQuietMode"),
-                                           AdvancedRow::Label::Localized};
-inline constexpr AdvancedRow kOtherOptionRow{QLatin1StringView("OtherOption"),
-                                             AdvancedRow::Label::Localized};
+inline constexpr AdvancedRow kQuietModeRow{"QXQuietMode"_L1, AdvancedRow::Label::Localized};
+inline constexpr AdvancedRow kOtherOptionRow{"OtherOption"_L1, AdvancedRow::Label::Localized};
 
 /// The panel's options, one row each. Look-ups, outlets and the table of advanced options are all
 /// made from these rows: a further option is a row here with its field, its controls in the

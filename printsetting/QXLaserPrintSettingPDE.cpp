@@ -13,6 +13,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting", QtWarningMsg)
 
 namespace {
@@ -48,20 +50,20 @@ bool QXLaserPrintSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCal
 
 QString QXLaserPrintSettingPDE::panelName()
 {
-    return localized(QStringLiteral("Print Setting"));
+    return localized(u"Print Setting"_s);
 }
 
 void QXLaserPrintSettingPDE::connectInterface(InterfaceConnections &connections)
 {
     QXPrintQualityPDE::connectInterface(connections);
-    connections.controlClass(QStringLiteral("ExtraAccessoryView"), [](QWidget *parent) {
+    connections.controlClass(u"ExtraAccessoryView"_s, [](QWidget *parent) {
         auto *view = new ExtraAccessoryView(parent);
         view->awakeFromNib();
         return view;
     });
-    connections.arrayController(QStringLiteral("arrayController"), arrayController);
+    connections.arrayController(u"arrayController"_s, arrayController);
     connections.textFieldDelegate(
-        QStringLiteral("panel"),
+        u"panel"_s,
         {[this](const Notification &notification) { controlTextDidChange(notification); },
          [this](QWidget *control, const QString &editorText) {
              return control_textShouldEndEditing(control, editorText);
@@ -112,7 +114,7 @@ void QXLaserPrintSettingPDE::prepareSleepTime()
                                   << "lacks the parameter" << kTimeParameter;
         return;
     }
-    PPDSleepTimeKey = QStringLiteral("%1_%2").arg(kQXSleepTime, kTimeParameter);
+    PPDSleepTimeKey = u"%1_%2"_s.arg(kQXSleepTime, kTimeParameter);
     m_outputBin.insert(PPDSleepTimeKey, QString::number(kSleepTimeDefault));
 }
 
