@@ -11,6 +11,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 /// The colour effects.
 enum class Effect { Brightness, Contrast, Red, Green, Blue, Saturation };
 
@@ -38,18 +40,15 @@ struct EffectInfo
 
 /// One row an effect, in the order in which a set of them is stored.
 inline constexpr std::array<EffectInfo, 6> kEffectTable{{
-    {Effect::Brightness, QLatin1StringView("QXBrightness"), EffectFilter::ColorControls, 0,
-     kCIInputBrightnessKey, 200, 0, true},
-    {Effect::Contrast, QLatin1StringView("QXContrast"), EffectFilter::ColorControls, 1,
-     kCIInputContrastKey, 160, 1, true},
-    {Effect::Red, QLatin1StringView("QXRed"), EffectFilter::ColorMatrix, 3, kCIInputRVectorKey, 35,
-     1, false},
-    {Effect::Green, QLatin1StringView("QXGreen"), EffectFilter::ColorMatrix, 4, kCIInputGVectorKey,
-     35, 1, false},
-    {Effect::Blue, QLatin1StringView("QXBlue"), EffectFilter::ColorMatrix, 5, kCIInputBVectorKey,
-     35, 1, false},
-    {Effect::Saturation, QLatin1StringView("QXSaturation"), EffectFilter::ColorControls, 2,
-     kCIInputSaturationKey, 80, 1, false},
+    {Effect::Brightness, "QXBrightness"_L1, EffectFilter::ColorControls, 0, kCIInputBrightnessKey,
+     200, 0, true},
+    {Effect::Contrast, "QXContrast"_L1, EffectFilter::ColorControls, 1, kCIInputContrastKey, 160, 1,
+     true},
+    {Effect::Red, "QXRed"_L1, EffectFilter::ColorMatrix, 3, kCIInputRVectorKey, 35, 1, false},
+    {Effect::Green, "QXGreen"_L1, EffectFilter::ColorMatrix, 4, kCIInputGVectorKey, 35, 1, false},
+    {Effect::Blue, "QXBlue"_L1, EffectFilter::ColorMatrix, 5, kCIInputBVectorKey, 35, 1, false},
+    {Effect::Saturation, "QXSaturation"_L1, EffectFilter::ColorControls, 2, kCIInputSaturationKey,
+     80, 1, false},
 }};
 
 /// The keywords of the effects alone, in the same order.

@@ -14,6 +14,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a slider or a field reports; a field may say a fraction.
@@ -61,8 +63,7 @@ void QXLaserColorSettingPDE::setRefImage(const FilterImage &image)
 
 void QXLaserColorSettingPDE::setRefImageWithName(const QString &name)
 {
-    const QString file =
-        pluginBundle ? pluginBundle->pathForResource(name, QStringLiteral("tiff")) : QString();
+    const QString file = pluginBundle ? pluginBundle->pathForResource(name, u"tiff"_s) : QString();
     if (!file.isNull())
         m_refImageFile = file;
 }

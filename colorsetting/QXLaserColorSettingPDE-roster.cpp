@@ -1,9 +1,13 @@
 // The table behind determineUI(), determineLabel(), determineKey(), determineField(),
 // determineSlider() and the outlets.
 
-#include "colorsetting/QXLaserColorSettingPDE-roster.h"
+#include "colorsetting/QXLaserColorSettingPDE.h"
 
 #include <algorithm>
+
+#include "colorsetting/ColorSettingKeys.h"
+#include "colorsetting/Effects.h"
+#include "panel/Outlet.h"
 
 namespace corvana {
 
@@ -11,43 +15,64 @@ using namespace Qt::StringLiterals;
 
 using Panel = QXLaserColorSettingPDE;
 
+// The panel's options and effects, one row each. Look-ups and outlets are made from these rows.
+struct QXLaserColorSettingPDE::Roster
+{
+    struct Option
+    {
+        QLatin1StringView keyword;
+        Outlet<Panel> control;
+        Outlet<Panel> label; // none: the control has its title itself
+    };
+    struct EffectControls
+    {
+        Effect effect;
+        Outlet<Panel> label;
+        Outlet<Panel> field;
+        Outlet<Panel> slider;
+    };
+
+    static const Option options[];
+    static const EffectControls effects[];
+    // Controls that show neither an option nor an effect.
+    static const Outlet<Panel> furtherOutlets[];
+
+    static const Option *find(const QString &keyword);
+    static const EffectControls *findEffect(const QString &keyword);
+};
+
 const QXLaserColorSettingPDE::Roster::Option QXLaserColorSettingPDE::Roster::options[] = {
-    {kQXColorMatching, Outlet<Panel>::of<&Panel::colorMatchingMatrix>("colorMatchingMatrix"_L1),
-     Outlet<Panel>::of<&Panel::colorMatchingLabel>("colorMatchingLabel"_L1)},
-    {kQXEnhanceBlkPrt,
-     Outlet<Panel>::of<&Panel::enhancedBlackCheckBox>("enhancedBlackCheckBox"_L1),
-     {}},
-    {kQXGray, Outlet<Panel>::of<&Panel::grayCheckBox>("grayCheckBox"_L1), {}},
+    {kQXColorMatching, outlet<&Panel::colorMatchingMatrix>("colorMatchingMatrix"_L1),
+     outlet<&Panel::colorMatchingLabel>("colorMatchingLabel"_L1)},
+    {kQXEnhanceBlkPrt, outlet<&Panel::enhancedBlackCheckBox>("enhancedBlackCheckBox"_L1), {}},
+    {kQXGray, outlet<&Panel::grayCheckBox>("grayCheckBox"_L1), {}},
 };
 
 const QXLaserColorSettingPDE::Roster::EffectControls QXLaserColorSettingPDE::Roster::effects[] = {
-    {Effect::Brightness, Outlet<Panel>::of<&Panel::brightnessLabel>("brightnessLabel"_L1),
-     Outlet<Panel>::of<&Panel::brightnessField>("brightnessField"_L1),
-     Outlet<Panel>::of<&Panel::brightnessSlider>("brightnessSlider"_L1)},
-    {Effect::Contrast, Outlet<Panel>::of<&Panel::contrastLabel>("contrastLabel"_L1),
-     Outlet<Panel>::of<&Panel::contrastField>("contrastField"_L1),
-     Outlet<Panel>::of<&Panel::contrastSlider>("contrastSlider"_L1)},
-    {Effect::Red, Outlet<Panel>::of<&Panel::redLabel>("redLabel"_L1),
-     Outlet<Panel>::of<&Panel::redField>("redField"_L1),
-     Outlet<Panel>::of<&Panel::redSlider>("redSlider"_L1)},
-    {Effect::Green, Outlet<Panel>::of<&Panel::greenLabel>("greenLabel"_L1),
-     Outlet<Panel>::of<&Panel::greenField>("greenField"_L1),
-     Outlet<Panel>::of<&Panel::greenSlider>("greenSlider"_L1)},
-    {Effect::Blue, Outlet<Panel>::of<&Panel::blueLabel>("blueLabel"_L1),
-     Outlet<Panel>::of<&Panel::blueField>("blueField"_L1),
-     Outlet<Panel>::of<&Panel::blueSlider>("blueSlider"_L1)},
-    {Effect::Saturation, Outlet<Panel>::of<&Panel::saturationLabel>("saturationLabel"_L1),
-     Outlet<Panel>::of<&Panel::saturationField>("saturationField"_L1),
-     Outlet<Panel>::of<&Panel::saturationSlider>("saturationSlider"_L1)},
+    {Effect::Brightness, outlet<&Panel::brightnessLabel>("brightnessLabel"_L1),
+     outlet<&Panel::brightnessField>("brightnessField"_L1),
+     outlet<&Panel::brightnessSlider>("brightnessSlider"_L1)},
+    {Effect::Contrast, outlet<&Panel::contrastLabel>("contrastLabel"_L1),
+     outlet<&Panel::contrastField>("contrastField"_L1),
+     outlet<&Panel::contrastSlider>("contrastSlider"_L1)},
+    {Effect::Red, outlet<&Panel::redLabel>("redLabel"_L1), outlet<&Panel::redField>("redField"_L1),
+     outlet<&Panel::redSlider>("redSlider"_L1)},
+    {Effect::Green, outlet<&Panel::greenLabel>("greenLabel"_L1),
+     outlet<&Panel::greenField>("greenField"_L1), outlet<&Panel::greenSlider>("greenSlider"_L1)},
+    {Effect::Blue, outlet<&Panel::blueLabel>("blueLabel"_L1),
+     outlet<&Panel::blueField>("blueField"_L1), outlet<&Panel::blueSlider>("blueSlider"_L1)},
+    {Effect::Saturation, outlet<&Panel::saturationLabel>("saturationLabel"_L1),
+     outlet<&Panel::saturationField>("saturationField"_L1),
+     outlet<&Panel::saturationSlider>("saturationSlider"_L1)},
 };
 
 const Outlet<Panel> QXLaserColorSettingPDE::Roster::furtherOutlets[] = {
-    Outlet<Panel>::of<&Panel::effectImageView>("effectImageView"_L1),
-    Outlet<Panel>::of<&Panel::optionLabel>("optionLabel"_L1),
-    Outlet<Panel>::of<&Panel::colorModeImageView>("colorModeImageView"_L1),
-    Outlet<Panel>::of<&Panel::ditherPopup>("ditherPopup"_L1),
-    Outlet<Panel>::of<&Panel::ditherLabel>("ditherLabel"_L1),
-    Outlet<Panel>::of<&Panel::colorEnhanceButton>("colorEnhanceButton"_L1),
+    outlet<&Panel::effectImageView>("effectImageView"_L1),
+    outlet<&Panel::optionLabel>("optionLabel"_L1),
+    outlet<&Panel::colorModeImageView>("colorModeImageView"_L1),
+    outlet<&Panel::ditherPopup>("ditherPopup"_L1),
+    outlet<&Panel::ditherLabel>("ditherLabel"_L1),
+    outlet<&Panel::colorEnhanceButton>("colorEnhanceButton"_L1),
 };
 
 const QXLaserColorSettingPDE::Roster::Option *

@@ -13,6 +13,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QLatin1StringView kInternalName{"QXLaserColorSetting"};
@@ -25,7 +27,7 @@ constexpr double kAdvancedHeight = 238.0;
 // The panel's list in the bundle's information dictionary stands beside that of the other panel.
 QString supportedKeysEntry()
 {
-    return kPPDKeysSupported + QStringLiteral("Color");
+    return kPPDKeysSupported + u"Color"_s;
 }
 
 } // namespace
@@ -56,7 +58,7 @@ bool QXLaserColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCal
 
 QString QXLaserColorSettingPDE::panelName()
 {
-    return localized(QStringLiteral("Color Setting"));
+    return localized(u"Color Setting"_s);
 }
 
 QString QXLaserColorSettingPDE::helpBook()
@@ -68,17 +70,16 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
 {
     QXPrintQualityPDE::connectInterface(connections);
     connectOutlets(connections);
-    connections.action(QStringLiteral("effectValueDidChange"), [this](QWidget *sender) {
+    connections.action(u"effectValueDidChange"_s, [this](QWidget *sender) {
         if (std::exchange(m_lastReportIsStale, false))
             EffectVal() = {-1, 0};
         effectValueDidChange(sender);
     });
-    connections.action(QStringLiteral("revertEffectDialog"), [this](QWidget *sender) {
+    connections.action(u"revertEffectDialog"_s, [this](QWidget *sender) {
         revertEffectDialog(sender);
         updateUI(); // reverting leaves the effects disabled until the controls are updated
     });
-    connections.action(QStringLiteral("updateImage"),
-                       [this](QWidget *sender) { updateImage(sender); });
+    connections.action(u"updateImage"_s, [this](QWidget *sender) { updateImage(sender); });
 }
 
 void QXLaserColorSettingPDE::willShow()
@@ -101,7 +102,7 @@ void QXLaserColorSettingPDE::initializePopup()
         return;
     QXPrintQualityPDE::initializePopup();
     if (optionLabel)
-        optionLabel->setText(localized(QStringLiteral("advancedcolorItem")));
+        optionLabel->setText(localized(u"advancedcolorItem"_s));
     ViewFrame frame = viewFrame(m_panelView);
     frame.height = kHeight;
     setViewFrame(m_panelView, frame);

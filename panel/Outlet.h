@@ -1,5 +1,7 @@
 #pragma once
 
+#include <type_traits>
+
 #include <QLatin1StringView>
 #include <QPointer>
 #include <QWidget>
@@ -45,5 +47,15 @@ private:
     void (*m_connect)(Panel &, InterfaceConnections &, QLatin1StringView) = nullptr;
     QWidget *(*m_widget)(const Panel &) = nullptr;
 };
+
+// Only declared: says which panel a field belongs to.
+template <typename Panel, typename Control> Panel *panelOf(QPointer<Control> Panel::*field);
+
+/// The outlet called `name`, whose field is `&Panel::name`.
+template <auto Field> constexpr auto outlet(QLatin1StringView name)
+{
+    using Panel = std::remove_pointer_t<decltype(panelOf(Field))>;
+    return Outlet<Panel>::template of<Field>(name);
+}
 
 } // namespace corvana

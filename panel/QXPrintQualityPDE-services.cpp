@@ -14,6 +14,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcServices, "corvana.panel.services", QtWarningMsg)
 
 namespace {
@@ -26,7 +28,7 @@ constexpr QLatin1StringView kHelpAnchor{"QxHelpAnchor"};
 constexpr QLatin1StringView kNoImage{"None"};
 
 // Illustrations are pictures or, where lines should stay sharp at any size, PDF pages.
-constexpr QLatin1StringView kImageTypes[] = {QLatin1StringView("tiff"), QLatin1StringView("pdf")};
+constexpr QLatin1StringView kImageTypes[] = {"tiff"_L1, "pdf"_L1};
 
 } // namespace
 
@@ -136,8 +138,7 @@ bool QXPrintQualityPDE::registerHelp()
         return false;
     // The help books of a bundle lie beside the folder that it is installed in.
     const QString book = QDir::cleanPath(
-        QStringLiteral("%1/../../Help/%2.%3")
-            .arg(pluginBundle->path(), thePDEName(), QStringLiteral("Help").toLower()));
+        u"%1/../../Help/%2.%3"_s.arg(pluginBundle->path(), thePDEName(), u"help"_s));
     if (!QFileInfo::exists(book)) {
         qCInfo(lcServices).noquote() << "there is no help book" << book;
         return false;

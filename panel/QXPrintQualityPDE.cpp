@@ -8,6 +8,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPanel, "corvana.panel", QtWarningMsg)
 
 namespace {
@@ -69,15 +71,14 @@ QString QXPrintQualityPDE::panelKind()
 QWidget *QXPrintQualityPDE::panelView()
 {
     if (!m_panelView && pluginBundle) {
-        const QString file = pluginBundle->pathForResource(thePDEName(), QStringLiteral("ui"));
+        const QString file = pluginBundle->pathForResource(thePDEName(), u"ui"_s);
         InterfaceConnections connections;
         connectInterface(connections);
-        m_panelView =
-            loadInterface(file.isNull() ? pluginBundle->path() + QStringLiteral("/interface/") +
-                                              thePDEName() + QStringLiteral(".ui")
-                                        : file,
-                          connections)
-                .view.release();
+        m_panelView = loadInterface(file.isNull() ? pluginBundle->path() + u"/interface/"_s +
+                                                        thePDEName() + u".ui"_s
+                                                  : file,
+                                    connections)
+                          .view.release();
     }
     return m_panelView;
 }
@@ -86,16 +87,15 @@ void QXPrintQualityPDE::connectInterface(InterfaceConnections &connections)
 {
     connections.bindingDictionary(effectContent);
     connections.localizer([this](const QString &key) { return localized(key); });
-    connections.outlet(QStringLiteral("optionButton"), optionButton);
-    connections.action(QStringLiteral("requestNewOutputBin"),
+    connections.outlet(u"optionButton"_s, optionButton);
+    connections.action(u"requestNewOutputBin"_s,
                        [this](QWidget *control) { requestNewOutputBin(control); });
-    connections.action(QStringLiteral("toggleShowOption"), [this](QWidget *button) {
+    connections.action(u"toggleShowOption"_s, [this](QWidget *button) {
         toggleShowOption(button);
         // A host restores a panel that comes back, and would close it again.
         saveOptionState();
     });
-    connections.action(QStringLiteral("showHelpFile"),
-                       [this](QWidget *sender) { showHelpFile(sender); });
+    connections.action(u"showHelpFile"_s, [this](QWidget *sender) { showHelpFile(sender); });
 }
 
 void QXPrintQualityPDE::willShow()
@@ -132,7 +132,7 @@ void QXPrintQualityPDE::loadPPDKeys(const QString &entry)
         return;
     const std::optional<QStringList> keywords = pluginBundle->infoStringList(entry);
     if (!keywords)
-        qCWarning(lcPanel).noquote() << pluginBundle->path() + QStringLiteral("/info.json:")
+        qCWarning(lcPanel).noquote() << pluginBundle->path() + u"/info.json:"_s
                                      << "a list of texts was expected under" << entry;
     setPPDKeys(keywords);
 }
@@ -180,17 +180,15 @@ void QXPrintQualityPDE::showUnsupportedPaperAlert()
         qCWarning(lcPanel) << "the paper is not supported, and the host can show no alert";
         return;
     }
-    const QString message = QStringLiteral("%1\n\n%2\n%3\n%4")
-                                .arg(localized(QStringLiteral("Unsupported Paper MSG1")),
-                                     localized(QStringLiteral("Unsupported Paper MSG2")),
-                                     localized(QStringLiteral("Unsupported Paper MSG3")),
-                                     localized(QStringLiteral("Unsupported Paper MSG4")));
+    const QString message = u"%1\n\n%2\n%3\n%4"_s.arg(
+        localized(u"Unsupported Paper MSG1"_s), localized(u"Unsupported Paper MSG2"_s),
+        localized(u"Unsupported Paper MSG3"_s), localized(u"Unsupported Paper MSG4"_s));
     Alert alert;
     alert.style = Alert::Style::Warning;
-    alert.messageText = localized(QStringLiteral("Unsupported Paper Title"));
+    alert.messageText = localized(u"Unsupported Paper Title"_s);
     // The alert takes its message as a format string.
     alert.informativeText = formattedWithoutArguments(message);
-    alert.buttons = {localized(QStringLiteral("OK"))};
+    alert.buttons = {localized(u"OK"_s)};
     pdePluginCallbackObject->alertPresenter()->runModal(alert, m_panelView);
 }
 

@@ -15,23 +15,25 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A custom value of a PPD option. The braces form of CUPS is understood as well, and never written:
 // the scheduler drops a value that begins with a brace.
 QString customValue(qint64 number)
 {
-    return QStringLiteral("Custom.%1").arg(number);
+    return u"Custom.%1"_s.arg(number);
 }
 
 // The number in "Custom.12", "{Time=12}" (with that parameter's name) or, where plain numbers are
 // choices, "12"; nothing for any other text.
 std::optional<qint64> numberIn(const QString &value, QLatin1StringView parameter, bool plainNumbers)
 {
-    static const QRegularExpression number(QStringLiteral("^[+-]?[0-9]{1,18}$"));
+    static const QRegularExpression number(u"^[+-]?[0-9]{1,18}$"_s);
     QString text = value;
-    const QString brace = QStringLiteral("{%1=").arg(parameter);
-    if (text.startsWith(QStringLiteral("Custom.")))
+    const QString brace = u"{%1="_s.arg(parameter);
+    if (text.startsWith(u"Custom."_s))
         text = text.mid(7);
     else if (!parameter.isEmpty() && text.startsWith(brace) && text.endsWith(u'}'))
         text = text.mid(brace.size()).chopped(1);
@@ -45,7 +47,7 @@ std::optional<qint64> numberIn(const QString &value, QLatin1StringView parameter
 // What was meant as a number of the option's, so that a bad one is refused with its range.
 bool isCustomForm(const QString &value)
 {
-    return value.startsWith(QStringLiteral("Custom")) || value.startsWith(u'{');
+    return value.startsWith(u"Custom"_s) || value.startsWith(u'{');
 }
 
 JobValueClaim notMine()
@@ -62,14 +64,14 @@ JobValueClaim refused(ValueBounds bounds, const QString &form)
 {
     return {JobValueClaim::Outcome::Refused,
             {},
-            QStringLiteral("%1 … %2").arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
+            u"%1 … %2"_s.arg(form.arg(bounds.minimum), form.arg(bounds.maximum))};
 }
 
 // The choice of an option whose keyword is this number ("0", "-3"), or null.
 const ppd_choice_t *choiceOfNumber(ppd_option_t *option, qint64 number)
 {
     const ppd_choice_t *choice = ppdChoice(option, QString::number(number));
-    return choice ? choice : ppdChoice(option, QStringLiteral("+%1").arg(number));
+    return choice ? choice : ppdChoice(option, u"+%1"_s.arg(number));
 }
 
 bool isNumber(const ppd_choice_t &choice)
@@ -108,7 +110,7 @@ JobValueClaim takeSleepTime(const QString &value, PrintSettings &settings, ppd_f
     const ValueBounds bounds = sleepTimeBounds(ppd);
     const std::optional<qint64> minutes = numberIn(value, kTimeParameter, false);
     if (!minutes || !bounds.contains(*minutes))
-        return refused(bounds, QStringLiteral("Custom.%1"));
+        return refused(bounds, u"Custom.%1"_s);
     settings.setValue(kSleepModeEntry, QString(kCustom));
     settings.setValue(kSleepEntry, QString::number(*minutes));
     return accepted({kQXSleepTime, customValue(*minutes)});
@@ -150,7 +152,7 @@ JobValueClaim takeDensity(const QString &value, PrintSettings &settings, ppd_fil
     const ValueBounds bounds = densityBounds(ppd);
     const std::optional<qint64> density = numberIn(value, kDensityParameter, true);
     if (!density || !bounds.contains(*density))
-        return refused(bounds, QStringLiteral("%1"));
+        return refused(bounds, u"%1"_s);
     settings.setValue(kDensityEntry, QString::number(*density));
     return accepted(densityOption(*density, option, ppd));
 }
@@ -213,7 +215,7 @@ JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_
                                      ? choiceOfNumber(ppdOption(ppd, offered.name), *value)
                                      : nullptr;
     if (!choice)
-        return refused(bounds, QStringLiteral("%1"));
+        return refused(bounds, u"%1"_s);
     EffectSet values = effectsInForce(settings);
     values[effect->effect] = *value;
     settings.setValue(effectSetInForce(settings), storedEffectSet(values));

@@ -13,11 +13,8 @@ inline constexpr QLatin1StringView kTonerSaveMode{"TonerSaveMode"};
 inline constexpr QLatin1StringView kQXImproveOutput{"QXImproveOutput"};
 inline constexpr QLatin1StringView kQXFixIntensity{"QXFixIntensity"};
 inline constexpr QLatin1StringView kQXLessPaperCurl{"QXLessPaperCurl"};
-inline constexpr QLatin1StringView kQXReduceGhost{"QXReduceGhost"};
 inline constexpr QLatin1StringView kQXDensityAdjustment{"QXDensityAdjustment"};
 inline constexpr QLatin1StringView kQXSleepTime{"QXSleepTime"};
-inline constexpr QLatin1StringView kQXQuietMode{"QXQuietMode"};
-inline constexpr QLatin1StringView kQXSkipBlank{"QXSkipBlank"};
 inline constexpr QLatin1StringView kDuplex{"Duplex"};
 
 inline constexpr QLatin1StringView kThin{"Thin"};

@@ -6,14 +6,15 @@
 
 namespace corvana::QXLaserPrintSetting {
 
+using namespace Qt::StringLiterals;
+
 namespace {
-constexpr QLatin1StringView kResolutionsWithoutTonerSave[] = {QLatin1StringView("1200dpi"),
-                                                              QLatin1StringView("2400x600dpi")};
+constexpr QLatin1StringView kResolutionsWithoutTonerSave[] = {"1200dpi"_L1, "2400x600dpi"_L1};
 }
 
 QString densityParamKey()
 {
-    return QStringLiteral("%1_%2").arg(kQXDensityAdjustment, kDensityParameter);
+    return u"%1_%2"_s.arg(kQXDensityAdjustment, kDensityParameter);
 }
 
 bool allowTonerSaveResolution(const QString &resolutionChoice)

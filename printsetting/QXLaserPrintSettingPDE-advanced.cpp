@@ -1,4 +1,4 @@
-#include "printsetting/QXLaserPrintSettingPDE.h"
+#include "printsetting/QXLaserPrintSettingPDE-roster.h"
 
 #include <algorithm>
 
@@ -17,39 +17,7 @@
 
 namespace corvana {
 
-namespace {
-
-constexpr QLatin1StringView kImproveOutputRow{"ImproveOutput"};
-constexpr QLatin1StringView kOtherOptionRow{"OtherOption"};
-
-} // namespace
-
-// The further options, in the order of their table: one row for an option or a group of them.
-struct QXLaserPrintSettingPDE::AdvancedRow
-{
-    enum class Label { OptionText, Localized };
-
-    QLatin1StringView id;
-    Label label;
-    /// The row is there when the panel handles any of these.
-    std::initializer_list<QLatin1StringView> keywords;
-
-    static const AdvancedRow rows[];
-};
-
-// The last two keywords of the quiet mode are choices of it, not options, and find nothing; the
-// test is kept as every version of the panel has had it. The sleep time is there when it has
-// minutes to choose, whatever its keyword.
-const QXLaserPrintSettingPDE::AdvancedRow QXLaserPrintSettingPDE::AdvancedRow::rows[] = {
-    {kTonerSaveMode, Label::OptionText, {kTonerSaveMode}},
-    {kImproveOutputRow, Label::Localized, {kQXImproveOutput, kQXReduceGhost, kQXFixIntensity}},
-    {kQXDensityAdjustment, Label::OptionText, {kQXDensityAdjustment}},
-    {kQXSleepTime, Label::OptionText, {kQXSleepTime}},
-    {kQXQuietMode,
-     Label::Localized,
-     {kQXQuietMode, QLatin1StringView("UseDeviceSettings"), kChoiceOn}},
-    {kOtherOptionRow, Label::Localized, {kQXSkipBlank}},
-};
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,8 +35,7 @@ void QXLaserPrintSettingPDE::initializeAdvOption(const QList<QWidget *> &views)
 {
     if (arrayController)
         arrayController->setSelectsInsertedObjects(false);
-    for (const AdvancedRow &row : AdvancedRow::rows)
-        addAdvancedRow(row);
+    addAdvancedRows();
     if (handles(kQXDensityAdjustment))
         prepareDensityControls();
     if (!PPDSleepTimeKey.isNull())
@@ -82,21 +49,43 @@ void QXLaserPrintSettingPDE::initializeAdvOption(const QList<QWidget *> &views)
     }
     arrayController->setSelectionIndex(0);
     if (optionLabel)
-        optionLabel->setText(localized(QStringLiteral("advancedItem")));
+        optionLabel->setText(localized(u"advancedItem"_s));
     for (QWidget *view : views) {
         if (auto *table = qobject_cast<QTableView *>(view))
             fitAdvancedTable(table);
     }
 }
 
+// The options of a row stand one after the other in the roster.
+void QXLaserPrintSettingPDE::addAdvancedRows()
+{
+    AdvancedRow current;
+    for (const Roster::Option &option : Roster::options()) {
+        if (option.disclosure == Roster::Disclosure::MainPart || option.row == current)
+            continue;
+        current = option.row;
+        addAdvancedRow(current);
+    }
+}
+
+// A sleep time is offered with its minutes or not at all, whatever its options are.
+bool QXLaserPrintSettingPDE::hasAdvancedRow(const AdvancedRow &row) const
+{
+    if (row == kSleepTimeRow)
+        return !PPDSleepTimeKey.isNull();
+    // Choices of the quiet mode, which are no options and find nothing. They have been asked for as
+    // long as there is the panel.
+    if (row == kQuietModeRow && (handles("UseDeviceSettings"_L1) || handles(kChoiceOn)))
+        return true;
+    const auto options = Roster::options();
+    return std::any_of(options.begin(), options.end(), [&](const Roster::Option &option) {
+        return option.disclosure == Roster::Disclosure::Opens && option.row == row &&
+               handles(option.keyword);
+    });
+}
+
 void QXLaserPrintSettingPDE::addAdvancedRow(const AdvancedRow &row)
 {
-    const auto *found =
-        std::find_if(row.keywords.begin(), row.keywords.end(),
-                     [this](QLatin1StringView keyword) { return handles(keyword); });
-    bool wanted = found != row.keywords.end();
-    if (row.id == kQXSleepTime)
-        wanted = !PPDSleepTimeKey.isNull(); // a sleep time without its minutes is not offered
     QString label;
     if (row.label == AdvancedRow::Label::Localized) {
         setEffectContent(row.id, false);
@@ -104,19 +93,30 @@ void QXLaserPrintSettingPDE::addAdvancedRow(const AdvancedRow &row)
     } else if (const ppd_option_t *option = ppdOption(ppd, row.id)) {
         label = ppdText(option->text).value_or(QString());
     }
-    if (!wanted || label.isNull())
+    if (!hasAdvancedRow(row) || label.isNull())
         return;
     addAdvOption_forKey(label, row.id);
     if (row.label == AdvancedRow::Label::Localized)
         setEffectContent(row.id, true);
-    if (row.id == kQXDensityAdjustment)
-        titleLabel(densityLabel, ppdOption(ppd, kQXDensityAdjustment));
-    if (row.id == kQXDensityAdjustment && densityField)
-        densityField->setAccessibleName(label);
-    if (row.id != kImproveOutputRow || *found == kQXImproveOutput || !improveLabel)
+    if (row == kDensityRow)
+        titleDensityControls(label);
+    else if (row == kImproveOutputRow && !handles(kQXImproveOutput))
+        titleImproveBoxes(label);
+}
+
+void QXLaserPrintSettingPDE::titleDensityControls(const QString &text)
+{
+    titleLabel(densityLabel, ppdOption(ppd, kQXDensityAdjustment));
+    if (densityField)
+        densityField->setAccessibleName(text);
+}
+
+// Without the choice between improvements the label titles the boxes, which stand lower.
+void QXLaserPrintSettingPDE::titleImproveBoxes(const QString &text)
+{
+    if (!improveLabel)
         return;
-    // Without the choice between improvements the label titles the boxes, which stand lower.
-    improveLabel->setText(label + u':');
+    improveLabel->setText(text + u':');
     ViewFrame frame = viewFrame(improveLabel);
     frame.y -= kImproveLabelDrop;
     setViewFrame(improveLabel, frame);
@@ -149,8 +149,7 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
     if (text && sleepTimeSuffixLabel)
         sleepTimeSuffixLabel->setText(*text);
     if (sleepTimeField) {
-        const QString allowed = QStringLiteral("%1: %2 – %3")
-                                    .arg(localized(QStringLiteral("AllowedNumbers")))
+        const QString allowed = u"%1: %2 – %3"_s.arg(localized(u"AllowedNumbers"_s))
                                     .arg(kSleepTimeMin)
                                     .arg(kSleepTimeMax);
         sleepTimeField->setToolTip(allowed);
@@ -167,7 +166,7 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
 // Labels that are wider than the table can be scrolled to; else the table needs no scroll bar.
 void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
 {
-    table->setAccessibleName(localized(QStringLiteral("advancedItem")));
+    table->setAccessibleName(localized(u"advancedItem"_s));
     if (!table->model())
         return;
     double widest = 0;

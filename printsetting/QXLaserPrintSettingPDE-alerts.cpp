@@ -11,6 +11,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcAlerts, "corvana.printsetting.alerts", QtWarningMsg)
 
 namespace {
@@ -31,7 +33,7 @@ constexpr MediaInstructions kMediaInstructions[] = {
     // Labels that are fed from elsewhere can come off inside the printer.
     {kLabel, false, {kRequestTray, kSelectTray, kUseTray}},
     {kGlossy, true, {kRecommendTray, kSelectTray, kUseTrayForOneSheet}},
-    {QLatin1StringView(), true, {kRecommendTray, kSelectTray, kUseTray}},
+    {""_L1, true, {kRecommendTray, kSelectTray, kUseTray}},
 };
 
 const MediaInstructions &instructionsFor(const QString &medium)
@@ -53,15 +55,14 @@ constexpr QLatin1StringView kFirstItem{"\n\n - "};
 constexpr QLatin1StringView kNextItem{"\n - "};
 constexpr QLatin1StringView kParagraph{"\n\n"};
 
-constexpr CoverPiece kRecommend{kNothing,
-                                QLatin1StringView("STR_MES_BACKCOVER_RECOMMEND_INSTRUCTIONS")};
-constexpr CoverPiece kOpen{kFirstItem, QLatin1StringView("STR_MES_BACKCOVER_OPEN")};
-constexpr CoverPiece kPullLevers{kNextItem, QLatin1StringView("STR_MES_BACKCOVER_PULLDOWN_GRAY")};
-constexpr CoverPiece kStartPrint{kNextItem, QLatin1StringView("STR_MES_BACKCOVER_STARTPRINT")};
-constexpr CoverPiece kUseFeed{kParagraph, QLatin1StringView("STR_MES_BACKCOVER_NOTE_USEMP")};
+constexpr CoverPiece kRecommend{kNothing, "STR_MES_BACKCOVER_RECOMMEND_INSTRUCTIONS"_L1};
+constexpr CoverPiece kOpen{kFirstItem, "STR_MES_BACKCOVER_OPEN"_L1};
+constexpr CoverPiece kPullLevers{kNextItem, "STR_MES_BACKCOVER_PULLDOWN_GRAY"_L1};
+constexpr CoverPiece kStartPrint{kNextItem, "STR_MES_BACKCOVER_STARTPRINT"_L1};
+constexpr CoverPiece kUseFeed{kParagraph, "STR_MES_BACKCOVER_NOTE_USEMP"_L1};
 // Envelopes have a note of their own on two-sided printing.
-constexpr CoverPiece kEnvelopeNote{kParagraph, QLatin1StringView("DLG_BACKCOVER_INSTRUCTION_NOTE")};
-constexpr CoverPiece kDuplexNote{kParagraph, QLatin1StringView("STR_MES_BACKCOVER_NOTE_DUPLEX")};
+constexpr CoverPiece kEnvelopeNote{kParagraph, "DLG_BACKCOVER_INSTRUCTION_NOTE"_L1};
+constexpr CoverPiece kDuplexNote{kParagraph, "STR_MES_BACKCOVER_NOTE_DUPLEX"_L1};
 
 struct CoverVariant
 {
@@ -105,11 +106,10 @@ void QXLaserPrintSettingPDE::showAlertWhenSelectMediaKey_withAlertKey(const QStr
     alert.style = Alert::Style::Informational;
     if (marked || option)
         alert.messageText = ppdText(marked ? marked->text : option->text).value_or(QString());
-    alert.informativeText =
-        QStringLiteral("%1\n\n - %2\n - %3")
-            .arg(localized(instructions.pieces[0]), localized(instructions.pieces[1]),
-                 localized(instructions.pieces[2]));
-    alert.buttons = {localized(QStringLiteral("OK"))};
+    alert.informativeText = u"%1\n\n - %2\n - %3"_s.arg(localized(instructions.pieces[0]),
+                                                        localized(instructions.pieces[1]),
+                                                        localized(instructions.pieces[2]));
+    alert.buttons = {localized(u"OK"_s)};
     alert.showsSuppressionButton = instructions.canBeSilenced;
     const std::optional<AlertAnswer> answer = runIllustratedAlert(alert, kFrontCoverImage);
     if (answer)
@@ -138,14 +138,14 @@ bool QXLaserPrintSettingPDE::confirmBackCover(const QString &mediaType)
     }
     Alert alert;
     alert.style = Alert::Style::Informational;
-    alert.messageText = localized(QStringLiteral("DLG_TITLE_BACKCOVER"));
+    alert.messageText = localized(u"DLG_TITLE_BACKCOVER"_s);
     // A piece without a translation is left out.
     for (const CoverPiece &piece : std::as_const(pieces)) {
         alert.informativeText += piece.before;
         if (pluginBundle)
             alert.informativeText += pluginBundle->localizedString(piece.text);
     }
-    alert.buttons = {localized(QStringLiteral("OK")), localized(QStringLiteral("Cancel"))};
+    alert.buttons = {localized(u"OK"_s), localized(u"Cancel"_s)};
     const std::optional<AlertAnswer> answer = runIllustratedAlert(alert, variant->picture);
     return !answer || answer->button != 1;
 }

@@ -12,6 +12,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPaper, "corvana.printsetting.paper", QtWarningMsg)
 
 namespace {
@@ -118,7 +120,7 @@ void QXLaserPrintSettingPDE::checkPageSizeChange(const Notification &notificatio
         if (notification.name == QLatin1StringView(kMenuDidSendActionNotification)) {
             // Of all menus only the one with the paper sizes counts.
             const auto *menu = static_cast<const QComboBox *>(notification.sender);
-            if (!menu || popup::indexOfItemWithTitle(menu, localized(QStringLiteral("A4"))) < 0 ||
+            if (!menu || popup::indexOfItemWithTitle(menu, localized(u"A4"_s)) < 0 ||
                 !notification.hasUserInfo || !pluginBundle)
                 return;
         }

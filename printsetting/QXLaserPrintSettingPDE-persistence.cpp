@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 QString QXLaserPrintSettingPDE::storedChoice(QLatin1StringView keyword) const
 {
     return m_outputBin.value(keyword).toString();
@@ -127,7 +129,7 @@ QVariantMap QXLaserPrintSettingPDE::summaryInfo()
     QVariantMap summary = QXPrintQualityPDE::summaryInfo();
     const QString orderKey = QLatin1StringView(kSummaryDisplayOrder);
     QStringList order;
-    const QString model = localized(QStringLiteral("Model"));
+    const QString model = localized(u"Model"_s);
     if (!model.isNull() && ppd) {
         summary.insert(model, ppdText(ppd->shortnickname).value_or(QString()));
         order += model;
@@ -154,7 +156,7 @@ QString QXLaserPrintSettingPDE::addOnOffSuffix_ToString(const QAbstractButton *c
                                                         const QString &string)
 {
     const bool on = control && isControlEnabled(control) && control->isChecked();
-    return string + (on ? QStringLiteral("_on") : QStringLiteral("_off"));
+    return string + (on ? u"_on"_s : u"_off"_s);
 }
 
 } // namespace corvana

@@ -13,6 +13,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPrintSetting, "corvana.printsetting", QtWarningMsg)
 
 namespace {
@@ -26,56 +28,6 @@ constexpr double kPaperSourceRow = 30.0;
 constexpr QLatin1StringView kPaperToJudgeAgain{"Custom"};
 
 } // namespace
-
-// One row an option: the one table behind determineUI(), determineLabel() and determineKey().
-struct QXLaserPrintSettingPDE::Roster
-{
-    using Panel = QXLaserPrintSettingPDE;
-    using Lookup = QWidget *(*)(const Panel &);
-
-    template <auto Field> static QWidget *field(const Panel &panel)
-    {
-        return (panel.*Field).data();
-    }
-    static QWidget *none(const Panel &) { return nullptr; }
-
-    struct Row
-    {
-        QLatin1StringView keyword; // empty: the resolution, whose keyword depends on the PPD
-        Lookup control;
-        Lookup label;
-
-        QString keywordIn(const Panel &panel) const
-        {
-            return keyword.isEmpty() ? panel.PPDResolutionKey : QString(keyword);
-        }
-    };
-
-    static constexpr Row rows[] = {
-        {QLatin1StringView(), field<&Panel::resolutionPopup>, field<&Panel::resolutionLabel>},
-        {kQXMediaType, field<&Panel::mediaTypePopup>, field<&Panel::mediaTypeLabel>},
-        {kQXMonoColor, field<&Panel::monoColorPopup>, field<&Panel::monoColorLabel>},
-        {kQXInputSlot, field<&Panel::paperFeedPopup>, field<&Panel::paperFeedLabel>},
-        {kQXSleepTime, field<&Panel::sleepTimeMatrix>, field<&Panel::sleepTimePrefixLabel>},
-        {kTonerSaveMode, field<&Panel::tonerSaveButton>, none},
-        {kQXSkipBlank, field<&Panel::skipBlankButton>, none},
-        {kQXQuietMode, field<&Panel::quietModeMatrix>, none},
-        {kQXImproveOutput, field<&Panel::improveMatrix>, field<&Panel::improveLabel>},
-        {kQXLessPaperCurl, field<&Panel::reducePaperButton>, none},
-        {kQXFixIntensity, field<&Panel::improveTonerfixButton>, none},
-        {kQXReduceGhost, field<&Panel::reduceGhostButton>, none},
-        {kQXDensityAdjustment, field<&Panel::densitySlider>, field<&Panel::densityLabel>},
-    };
-
-    static const Row *rowOf(const QXLaserPrintSettingPDE &panel, const QString &keyword)
-    {
-        for (const Row &row : rows) {
-            if (!keyword.isEmpty() && row.keywordIn(panel) == keyword)
-                return &row;
-        }
-        return nullptr;
-    }
-};
 
 QXLaserPrintSettingPDE::~QXLaserPrintSettingPDE()
 {
@@ -98,52 +50,25 @@ bool QXLaserPrintSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCal
 
 QString QXLaserPrintSettingPDE::panelName()
 {
-    return localized(QStringLiteral("Print Setting"));
+    return localized(u"Print Setting"_s);
 }
 
 void QXLaserPrintSettingPDE::connectInterface(InterfaceConnections &connections)
 {
     QXPrintQualityPDE::connectInterface(connections);
-    connections.controlClass(QStringLiteral("ExtraAccessoryView"), [](QWidget *parent) {
+    connections.controlClass(u"ExtraAccessoryView"_s, [](QWidget *parent) {
         auto *view = new ExtraAccessoryView(parent);
         view->awakeFromNib();
         return view;
     });
-    connections.arrayController(QStringLiteral("arrayController"), arrayController);
+    connections.arrayController(u"arrayController"_s, arrayController);
     connections.textFieldDelegate(
-        QStringLiteral("panel"),
+        u"panel"_s,
         {[this](const Notification &notification) { controlTextDidChange(notification); },
          [this](QWidget *control, const QString &editorText) {
              return control_textShouldEndEditing(control, editorText);
          }});
-    connections.outlet(QStringLiteral("advancedTabView"), advancedTabView);
-    connections.outlet(QStringLiteral("advancedTableView"), advancedTableView);
-    connections.outlet(QStringLiteral("tonerSaveButton"), tonerSaveButton);
-    connections.outlet(QStringLiteral("improveMatrix"), improveMatrix);
-    connections.outlet(QStringLiteral("reducePaperButton"), reducePaperButton);
-    connections.outlet(QStringLiteral("improveTonerfixButton"), improveTonerfixButton);
-    connections.outlet(QStringLiteral("reduceGhostButton"), reduceGhostButton);
-    connections.outlet(QStringLiteral("densityField"), densityField);
-    connections.outlet(QStringLiteral("densitySlider"), densitySlider);
-    connections.outlet(QStringLiteral("sleepTimeField"), sleepTimeField);
-    connections.outlet(QStringLiteral("sleepTimeStepper"), sleepTimeStepper);
-    connections.outlet(QStringLiteral("sleepTimeMatrix"), sleepTimeMatrix);
-    connections.outlet(QStringLiteral("skipBlankButton"), skipBlankButton);
-    connections.outlet(QStringLiteral("quietModeMatrix"), quietModeMatrix);
-    connections.outlet(QStringLiteral("optionLabel"), optionLabel);
-    connections.outlet(QStringLiteral("densityLabel"), densityLabel);
-    connections.outlet(QStringLiteral("improveLabel"), improveLabel);
-    connections.outlet(QStringLiteral("sleepTimePrefixLabel"), sleepTimePrefixLabel);
-    connections.outlet(QStringLiteral("sleepTimeSuffixLabel"), sleepTimeSuffixLabel);
-    connections.outlet(QStringLiteral("accessoryView"), accessoryView);
-    connections.outlet(QStringLiteral("mediaTypePopup"), mediaTypePopup);
-    connections.outlet(QStringLiteral("resolutionPopup"), resolutionPopup);
-    connections.outlet(QStringLiteral("monoColorPopup"), monoColorPopup);
-    connections.outlet(QStringLiteral("paperFeedPopup"), paperFeedPopup);
-    connections.outlet(QStringLiteral("mediaTypeLabel"), mediaTypeLabel);
-    connections.outlet(QStringLiteral("resolutionLabel"), resolutionLabel);
-    connections.outlet(QStringLiteral("monoColorLabel"), monoColorLabel);
-    connections.outlet(QStringLiteral("paperFeedLabel"), paperFeedLabel);
+    connectOutlets(connections);
 }
 
 std::optional<QStringList> QXLaserPrintSettingPDE::supportedPPDOptionKeys()
@@ -189,7 +114,7 @@ void QXLaserPrintSettingPDE::prepareSleepTime()
                                   << "lacks the parameter" << kTimeParameter;
         return;
     }
-    PPDSleepTimeKey = QStringLiteral("%1_%2").arg(kQXSleepTime, kTimeParameter);
+    PPDSleepTimeKey = u"%1_%2"_s.arg(kQXSleepTime, kTimeParameter);
     m_outputBin.insert(PPDSleepTimeKey, QString::number(kSleepTimeDefault));
 }
 
@@ -254,27 +179,6 @@ void QXLaserPrintSettingPDE::initializePopup()
     frame.height = height;
     setViewFrame(m_panelView, frame);
     restoreOptionState();
-}
-
-QWidget *QXLaserPrintSettingPDE::determineUI(const QString &keyword)
-{
-    const Roster::Row *row = Roster::rowOf(*this, keyword);
-    return row ? row->control(*this) : nullptr;
-}
-
-QWidget *QXLaserPrintSettingPDE::determineLabel(const QString &keyword)
-{
-    const Roster::Row *row = Roster::rowOf(*this, keyword);
-    return row ? row->label(*this) : nullptr;
-}
-
-QString QXLaserPrintSettingPDE::determineKey(QWidget *control)
-{
-    for (const Roster::Row &row : Roster::rows) {
-        if (control && row.control(*this) == control)
-            return row.keywordIn(*this);
-    }
-    return {};
 }
 
 } // namespace corvana

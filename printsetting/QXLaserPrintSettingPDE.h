@@ -18,6 +18,8 @@
 
 namespace corvana {
 
+struct AdvancedRow;
+
 /// The panel "Print Setting": media type, resolution, colour mode, paper source, and the printer's
 /// further options.
 class QXLaserPrintSettingPDE : public QXPrintQualityPDE
@@ -25,7 +27,7 @@ class QXLaserPrintSettingPDE : public QXPrintQualityPDE
 public:
     ~QXLaserPrintSettingPDE() override;
 
-    // Construction, roster, defaults (QXLaserPrintSettingPDE.cpp)
+    // Construction, defaults (QXLaserPrintSettingPDE.cpp)
 
     bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback) override;
     QString panelName() override;
@@ -35,6 +37,9 @@ public:
     void setPPDKeys(const std::optional<QStringList> &keywords) override;
     void setDefaults() override;
     void initializePopup() override;
+
+    // Roster (QXLaserPrintSettingPDE-roster.cpp)
+
     QWidget *determineUI(const QString &keyword) override;
     QWidget *determineLabel(const QString &keyword) override;
     QString determineKey(QWidget *control) override;
@@ -165,14 +170,18 @@ protected:
 
 private:
     struct Roster;
-    struct AdvancedRow;
 
     ValueBounds sleepBounds() const { return {kSleepTimeMin, kSleepTimeMax}; }
     ValueBounds densityRange() const { return {kDensityMin, kDensityMax}; }
     void prepareSleepTime();
     void resetDefaultedOption(const QString &keyword);
     void reconcileImproveOutput();
+    void connectOutlets(InterfaceConnections &connections);
+    void addAdvancedRows();
     void addAdvancedRow(const AdvancedRow &row);
+    bool hasAdvancedRow(const AdvancedRow &row) const;
+    void titleDensityControls(const QString &text);
+    void titleImproveBoxes(const QString &text);
     void prepareDensityControls();
     void prepareSleepTimeControls();
     void fitAdvancedTable(QTableView *table);

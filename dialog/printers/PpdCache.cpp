@@ -10,10 +10,12 @@
 #include <QLoggingCategory>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 #include <QUrl>
 
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueues.h"
+#include "dialog/session/PpdFile.h"
 
 namespace corvana {
 
@@ -28,11 +30,17 @@ constexpr QLatin1StringView kUri{"uri"};
 constexpr QLatin1StringView kDeviceUri{"deviceUri"};
 constexpr QLatin1StringView kIsClass{"isClass"};
 constexpr QLatin1StringView kLastModified{"lastModified"};
-constexpr QLatin1StringView kHash{"hash"};
+// Entries that have another name for it are of times when nobody looked at a PPD before it was
+// stored.
+constexpr QLatin1StringView kHash{"sha256"};
 
 constexpr QLatin1StringView kEntrySuffix{".json"};
 // Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
 constexpr qsizetype kHashInName = 16;
+
+// No server sends a longer one. Units: bytes.
+constexpr qint64 kLargestPpd = qint64(32) * 1024 * 1024;
+constexpr qint64 kLargestDescription = 65536;
 
 // A window is not open for longer without its printer being looked at. Units: days.
 constexpr int kDaysAfterUse = 30;
@@ -65,6 +73,28 @@ bool save(const QString &path, const QByteArray &content)
     return false;
 }
 
+// Null for a file that is missing, or longer than `most`.
+QByteArray contentOf(const QString &path, qint64 most)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > most)
+        return {};
+    return file.readAll();
+}
+
+// Whether this is a PPD. Whatever else a server sends would stand in the way of the right one for
+// as long as the server says that nothing has changed.
+bool isPpd(const QByteArray &content)
+{
+    QTemporaryFile file;
+    QString error;
+    if (content.size() <= kLargestPpd && file.open() && file.write(content) == content.size() &&
+        file.flush() && openPpdFile(file.fileName(), &error))
+        return true;
+    qCWarning(lcPpdCache).noquote() << "What was fetched is no PPD and is not kept:" << error;
+    return false;
+}
+
 // Any text as one name of a file, never "." or "..".
 QString fileName(const QString &text)
 {
@@ -92,15 +122,18 @@ QString PpdCache::pathOf(const QString &server, const QString &queue, const QStr
 
 std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QString &queue) const
 {
-    QFile file(pathOf(server, queue, kEntrySuffix));
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QJsonObject said = QJsonDocument::fromJson(file.readAll()).object();
+    const QString description = pathOf(server, queue, kEntrySuffix);
+    const QJsonObject said =
+        QJsonDocument::fromJson(contentOf(description, kLargestDescription)).object();
     Entry entry;
     entry.hash = said.value(kHash).toString().toLatin1();
     const QString ppd = pathOf(server, queue, ppdSuffix(entry.hash));
-    if (!said.contains(kUri) || !isHash(entry.hash) || !QFileInfo(ppd).isReadable())
+    if (!said.contains(kUri) || !isHash(entry.hash))
         return std::nullopt;
+    if (hashOfPpd(contentOf(ppd, kLargestPpd)) != entry.hash) {
+        QFile::remove(description);
+        return std::nullopt;
+    }
     entry.printer.name = queue;
     entry.printer.origin = PrinterOrigin::Queue;
     entry.printer.ppdPath = ppd;
@@ -118,6 +151,8 @@ std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QStri
 QString PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
                         qint64 lastModified) const
 {
+    if (!isPpd(ppd))
+        return {};
     const QByteArray hash = hashOfPpd(ppd);
     const QString path = pathOf(server, printer.name, ppdSuffix(hash));
     if (!QDir().mkpath(QFileInfo(path).path()))
@@ -129,7 +164,7 @@ QString PpdCache::store(const QString &server, const Printer &printer, const QBy
         {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
         {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
         {kLastModified, lastModified},         {kHash, QString::fromLatin1(hash)}};
-    const bool isThere = QFileInfo(path).size() == ppd.size();
+    const bool isThere = contentOf(path, kLargestPpd) == ppd;
     if (isThere)
         noteUse(path);
     if (!isThere && !save(path, ppd))

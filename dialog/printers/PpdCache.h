@@ -9,7 +9,7 @@
 
 namespace corvana {
 
-/// By which a PPD is known again, without a look at the one that is stored.
+/// By which a PPD is known again.
 QByteArray hashOfPpd(const QByteArray &ppd);
 
 /// The PPDs of the queues that were used, so that a printer is there at once, even while its server
@@ -27,13 +27,15 @@ public:
     struct Entry
     {
         Printer printer;         ///< with `ppdPath`; its state is not known
-        qint64 lastModified = 0; ///< of the PPD at its server; seconds since 1970
-        QByteArray hash;         ///< hashOfPpd() of what was stored; the PPD is not read for it
+        qint64 lastModified = 0; ///< of the PPD at its server; seconds since 1970; 0: unknown
+        QByteArray hash;         ///< hashOfPpd() of what was stored
     };
-    /// Errors: nothing for a queue that was not used yet, or whose entry is damaged.
+    /// Errors: nothing for a queue that was not used yet, or whose entry is damaged. An entry whose
+    /// PPD is not the one that was stored is dropped, so that the server is asked for a whole one.
     std::optional<Entry> find(const QString &server, const QString &queue) const;
 
-    /// Keeps a PPD. Errors: an empty path; the queue then works from wherever its PPD is.
+    /// Keeps a PPD that opens. Errors: an empty path; the queue then works from wherever its PPD
+    /// is.
     QString store(const QString &server, const Printer &printer, const QByteArray &ppd,
                   qint64 lastModified) const;
     void remove(const QString &server, const QString &queue) const;

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include <QDateTime>
 #include <QSet>
 
 #include "dialog/printers/PrinterId.h"
@@ -70,11 +71,18 @@ QString firstMember(ipp_t *response)
     return ippText(ippFindAttribute(response, "member-names", IPP_TAG_NAME));
 }
 
+// A date that is still to come would make a server say for years that nothing has changed. libcups
+// reads some of those as negative numbers.
+qint64 pastDate(qint64 seconds)
+{
+    return seconds > 0 && seconds <= QDateTime::currentSecsSinceEpoch() ? seconds : 0;
+}
+
 void fetchPpd(ServerConnection &connection, const QString &owner, qint64 modifiedSince,
               QueueDetails *details)
 {
     const ServerConnection::File file = connection.get(ppdResource(owner), modifiedSince);
-    details->lastModified = file.lastModified;
+    details->lastModified = pastDate(file.lastModified);
     switch (file.state) {
     case ServerConnection::File::State::Failed:
         details->state = QueueDetails::Ppd::Unknown;

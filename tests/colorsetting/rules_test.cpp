@@ -185,6 +185,23 @@ private Q_SLOTS:
         QVERIFY(host->asked().isEmpty());
     }
 
+    void everyOptionOfTheBundlesListHasItsControl()
+    {
+        ColorSettingProbe panel(RecordingHost::forSamplePrinter());
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        const auto listed = m_bundle.bundle()->infoStringList(u"PMPPDKeysSupportedColor"_s);
+        QVERIFY(listed && !listed->isEmpty());
+        QStringList without;
+        for (const QString &keyword : *listed) {
+            const bool isEffect = panel.determineSlider(keyword) && panel.determineField(keyword) &&
+                                  panel.determineLabel(keyword);
+            if (!panel.determineUI(keyword) && !isEffect)
+                without += keyword;
+        }
+        QCOMPARE(without, QStringList{u"QXSlowDrying"_s}); // of the summary only
+    }
+
     void rosterLookups_data()
     {
         QTest::addColumn<QString>("keyword");

@@ -95,6 +95,21 @@ private Q_SLOTS:
         QCOMPARE(panel.determineKey(found), keyword);
     }
 
+    void everyOptionOfTheBundlesListHasItsControl()
+    {
+        PrintSettingProbe panel(RecordingHost::forSamplePrinter());
+        QVERIFY(panel.initWithHost());
+        QVERIFY(panel.panelView());
+        const auto listed = m_bundle->bundle()->infoStringList(u"PMPPDKeysSupported"_s);
+        QVERIFY(listed && !listed->isEmpty());
+        QStringList without;
+        for (const QString &keyword : *listed) {
+            if (!panel.determineUI(keyword))
+                without += keyword;
+        }
+        QCOMPARE(without, QStringList{u"Resolution"_s}); // the printer has the other form of it
+    }
+
     void whatIsNotInTheRosterIsNotFound()
     {
         PrintSettingProbe panel(RecordingHost::forSamplePrinter());

@@ -4,18 +4,22 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/printers/PpdCache.h"
+#include "tests/support/PpdBuilder.h"
 
 using namespace corvana;
+using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString kServer = u"print:631"_s;
-const QByteArray kPpd("*PPD-Adobe: \"4.3\"\n");
+const QByteArray kPpd = PpdBuilder().text();
+const QByteArray kOtherPpd = PpdBuilder().modelNumber(6).text();
 
 Printer queueOf(const QString &name)
 {
@@ -44,6 +48,18 @@ QStringList filesIn(const QString &folder)
          it.hasNext();)
         files += it.next();
     return files;
+}
+
+QByteArray ppdOf(const QString &name)
+{
+    return PpdBuilder().line("*% " + name.toUtf8()).text();
+}
+
+void writeOver(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
 }
 
 void makeOld(const QString &path)
@@ -125,9 +141,9 @@ private Q_SLOTS:
     {
         const QStringList names{u"a%2Fb"_s, u"a%252Fb"_s, u"a.b"_s, u"a%2Eb"_s, u"Ü.b"_s, u"ü.b"_s};
         for (const QString &name : names)
-            QVERIFY(!m_cache.store(kServer, queueOf(name), name.toUtf8(), 1).isEmpty());
+            QVERIFY(!m_cache.store(kServer, queueOf(name), ppdOf(name), 1).isEmpty());
         for (const QString &name : names)
-            QCOMPARE(contentOf(m_cache.find(kServer, name)->printer.ppdPath), name.toUtf8());
+            QCOMPARE(contentOf(m_cache.find(kServer, name)->printer.ppdPath), ppdOf(name));
         QVERIFY(!m_cache.find(u"other:631"_s, u"a.b"_s));
     }
 
@@ -139,17 +155,58 @@ private Q_SLOTS:
         QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
     }
 
-    // The PPD may be long, and lie on a slow disk.
-    void aPpdIsKnownAgainWithoutBeingRead()
+    void aPpdThatIsNotTheStoredOneDropsItsEntry_data()
     {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("another PPD") << kOtherPpd;
+        QByteArray changed = kPpd;
+        changed[changed.size() - 2] = '#';
+        QTest::newRow("of the same length") << changed;
+        QTest::newRow("cut") << kPpd.chopped(1);
+        QTest::newRow("nothing") << QByteArray();
+    }
+    void aPpdThatIsNotTheStoredOneDropsItsEntry()
+    {
+        QFETCH(QByteArray, content);
         const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
         QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("another");
-        file.close();
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
-        QVERIFY(hashOfPpd("another") != hashOfPpd(kPpd));
+        writeOver(path, content);
+        QVERIFY(!m_cache.find(kServer, u"office"_s));
+        // Not even when the file is right again: nobody knows who has had it meanwhile.
+        writeOver(path, kPpd);
+        QVERIFY(!m_cache.find(kServer, u"office"_s));
+        writeOver(path, content);
+        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), path);
+        QCOMPARE(contentOf(path), kPpd);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+    }
+
+    void whatIsNoPpdIsNotKept_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("a page of a login") << QByteArray("<html><body>Log in</body></html>");
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("a PPD with a fault in it")
+            << kPpd + "*CloseGroup: Never\n*OpenGroup: A\n*OpenGroup: B\n";
+        QTest::newRow("too long") << kPpd + QByteArray(33 * 1024 * 1024, '\n');
+    }
+    void whatIsNoPpdIsNotKept()
+    {
+        QFETCH(QByteArray, content);
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"is no PPD and is not kept"_s));
+        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), content, 2).isEmpty());
+        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1) == path);
+        QCOMPARE(filesIn(m_folder->path()).size(), 2);
+    }
+
+    // Nobody had opened its PPD before it was stored.
+    void anEntryOfFormerTimesIsNone()
+    {
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString entry = QFileInfo(path).dir().filePath(u"office.json"_s);
+        writeOver(entry, contentOf(entry).replace("\"sha256\"", "\"hash\""));
+        QVERIFY(!m_cache.find(kServer, u"office"_s));
     }
 
     void anInstanceHasThePpdOfItsQueueAndItsOwnName()
@@ -176,7 +233,7 @@ private Q_SLOTS:
             << json << QByteArray("{\"uri\": \"ipp://localhost/printers/office\"}");
         QTest::newRow("a hash that leads out of the folder")
             << json
-            << QByteArray("{\"uri\": \"ipp://localhost/printers/office\", \"hash\": "
+            << QByteArray("{\"uri\": \"ipp://localhost/printers/office\", \"sha256\": "
                           "\"/../../../../../../etc/passwd\"}");
         QTest::newRow("without URI") << json << QByteArray("{\"description\": \"Hall\"}");
     }
@@ -202,12 +259,12 @@ private Q_SLOTS:
     void aNewPpdLeavesTheOldOneToWhoeverHasOpenedIt()
     {
         const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
-        const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 2);
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2);
         QCOMPARE(contentOf(first), kPpd);
-        QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
+        QCOMPARE(contentOf(second), kOtherPpd);
         QCOMPARE(m_cache.find(kServer, u"office"_s)->printer.ppdPath, second);
         m_cache.remove(kServer, u"office"_s);
-        QCOMPARE(contentOf(second), QByteArray("*PPD-Adobe: 2"));
+        QCOMPARE(contentOf(second), kOtherPpd);
     }
 
     void aPpdThatIsLookedAtIsInUse()
@@ -215,7 +272,7 @@ private Q_SLOTS:
         const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
         makeOld(first);
         QVERIFY(m_cache.find(kServer, u"office"_s));
-        m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 2);
+        m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2);
         QCOMPARE(contentOf(first), kPpd);
     }
 
@@ -228,7 +285,7 @@ private Q_SLOTS:
         QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), first);
         QCOMPARE(contentOf(first), kPpd); // it is the new one
         makeOld(first);
-        const QString second = m_cache.store(kServer, queueOf(u"office"_s), "*PPD-Adobe: 2", 3);
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 3);
         QVERIFY(!QFile::exists(first));
         QVERIFY(QFile::exists(second));
         QVERIFY(QFile::exists(others));

@@ -1,3 +1,4 @@
+#include <QDateTime>
 #include <QTest>
 
 #include "dialog/printers/QueueRequests.h"
@@ -245,6 +246,31 @@ private Q_SLOTS:
         QCOMPARE(!details.ppd.isEmpty(), state == QueueDetails::Ppd::New);
         if (state == QueueDetails::Ppd::New)
             QCOMPARE(details.lastModified, 1000000000);
+    }
+
+    // The server would say until that day that nothing has changed.
+    void aDateThatIsStillToComeIsNotBelieved()
+    {
+        QByteArray date;
+        const CannedServer server([&](const CannedRequest &request) {
+            return request.operation == 0 ? httpAnswer(200, "*PPD-Adobe: \"4.3\"\n", date)
+                                          : ippAnswer(newIppAnswer());
+        });
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        const auto dateAfter = [&](const QByteArray &said) {
+            date = "Last-Modified: " + said + "\r\n";
+            return inspectQueue(connection, queueOfName(u"office"_s), 0).lastModified;
+        };
+        const auto dateIn = [](int seconds) {
+            char text[64];
+            return QByteArray(httpGetDateString2(QDateTime::currentSecsSinceEpoch() + seconds, text,
+                                                 sizeof text));
+        };
+        QCOMPARE(dateAfter("Sun, 09 Sep 2001 01:46:40 GMT"), 1000000000);
+        QVERIFY(dateAfter(dateIn(-1)) > 1000000000);
+        QCOMPARE(dateAfter(dateIn(86400)), 0);
+        QCOMPARE(dateAfter("Tue, 09 Sep 2195 01:46:40 GMT"), 0);
+        QCOMPARE(dateAfter(""), 0);
     }
 
     void aPpdThatMayBeNewIsLookedForWithoutAskingForMore_data()
