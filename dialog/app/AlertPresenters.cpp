@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QTextStream>
 
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 namespace {
@@ -59,7 +61,6 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
     QMessageBox box(parent ? parent->window() : nullptr);
     box.setIcon(alert.style == Alert::Style::Warning ? QMessageBox::Warning
                                                      : QMessageBox::Information);
-    box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(parent ? parent->window()->windowTitle() : QString());
     box.setText(alert.messageText);
     if (auto *title = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
@@ -68,6 +69,7 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
         title->setFont(bold);
     }
     box.setInformativeText(alert.informativeText);
+    makePlain(&box);
     QList<QPushButton *> buttons;
     for (const QString &label : alert.buttons)
         buttons += box.addButton(label, QMessageBox::ActionRole);

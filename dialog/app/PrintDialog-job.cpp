@@ -23,6 +23,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -46,9 +47,11 @@ bool PrintDialog::confirmOverwriting(const QString &file)
                         m_output->text() == QDir::toNativeSeparators(m_request.output));
     if (asked || !QFileInfo::exists(file))
         return true;
-    return QMessageBox::question(this, tr("Print to File"),
-                                 tr("%1 exists already. Replace it?").arg(m_output->text())) ==
-           QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, tr("Print to File"),
+                    tr("%1 exists already. Replace it?").arg(m_output->text()),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    makePlain(&box);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void PrintDialog::accept()

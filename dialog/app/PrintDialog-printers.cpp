@@ -16,6 +16,7 @@
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/OptionsPage.h"
 #include "dialog/session/OptionNames.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -190,9 +191,8 @@ void PrintDialog::showWaiting(const QString &text, bool canRetry)
         delete m_pages->widget(0);
     auto *page = new QWidget;
     page->setObjectName(QStringLiteral("waiting"));
-    auto *label = new QLabel(text, page);
+    QLabel *label = plainLabel(text, page);
     label->setObjectName(QStringLiteral("waitingText"));
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);
     auto *layout = new QVBoxLayout(page);

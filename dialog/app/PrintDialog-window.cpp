@@ -29,6 +29,7 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -64,8 +65,7 @@ void PrintDialog::buildWindow()
     m_printers->setObjectName(QStringLiteral("printers"));
     m_status = new PrinterStatusLine(this);
     m_status->setObjectName(QStringLiteral("printerStatus"));
-    m_document = new QLabel(m_request.title, this);
-    m_document->setTextFormat(Qt::PlainText);
+    m_document = plainLabel(m_request.title, this);
     m_document->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *header = new QFormLayout;
@@ -108,7 +108,7 @@ QWidget *PrintDialog::buildOutputLabel()
     auto *label = new QWidget(this);
     m_toFile = new QCheckBox(tr("Print to &file:"), label);
     m_toFile->setObjectName(QStringLiteral("toFile"));
-    m_toFileLabel = new QLabel(tr("Print to &file:"), label);
+    m_toFileLabel = plainLabel(tr("Print to &file:"), label);
     m_toFileLabel->setBuddy(m_output);
     auto *layout = new QHBoxLayout(label);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -153,7 +153,7 @@ QLayout *PrintDialog::buildFooter()
     m_leave = new QPushButton(tr("C&lose"), this);
     m_leave->setObjectName(QStringLiteral("leave"));
     m_leave->setAutoDefault(false);
-    m_leave->setToolTip(tr("The job goes on without this window."));
+    m_leave->setToolTip(plainToolTip(tr("The job goes on without this window.")));
     hideInPlace(m_leave);
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setObjectName(QStringLiteral("cancel"));

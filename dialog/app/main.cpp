@@ -12,6 +12,7 @@
 #include "dialog/app/TerminationSignals.h"
 #include "dialog/app/Translations.h"
 #include "dialog/app/UnattendedRun.h"
+#include "platform/toolkit/PlainText.h"
 
 using namespace corvana;
 
@@ -28,7 +29,7 @@ int failInWindow(const QString &problem)
 {
     QMessageBox box(QMessageBox::Critical, QCoreApplication::translate("main", "Print"), problem,
                     QMessageBox::Close);
-    box.setTextFormat(Qt::PlainText);
+    makePlain(&box);
     box.exec();
     return fail(problem);
 }

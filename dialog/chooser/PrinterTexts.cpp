@@ -161,11 +161,6 @@ QString plainLine(const QString &text)
     return shown;
 }
 
-QString plainToolTip(const QString &text)
-{
-    return text.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
-}
-
 QString displayName(const Printer &printer)
 {
     const QString description = plainLine(printer.description);
