@@ -128,6 +128,7 @@ void PrintDialog::openPrinter(const ReadyPrinter &ready)
         m_message->showMessage(
             MessageBar::Kind::Problem,
             tr("The printer's own settings are missing: %1").arg(m_printer->panelProblem));
+    m_printer->panels->setWindow(this);
     connect(m_printer->panels.get(), &PanelHost::settled, this, &PrintDialog::settled);
     // Later: a panel is in the midst of its work when it says so.
     connect(m_printer->panels.get(), &PanelHost::viewResized, this, &PrintDialog::followPanelView,
