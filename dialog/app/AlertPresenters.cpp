@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTextStream>
 
+#include "platform/foundation/ForeignText.h"
 #include "platform/toolkit/PlainText.h"
 
 namespace corvana {
@@ -113,7 +114,8 @@ std::optional<AlertPolicy> alertPolicy(const QString &name)
 AlertAnswer TerminalAlertPresenter::runModal(const Alert &alert, QWidget *)
 {
     m_shown = true;
-    QTextStream(stderr) << alert.messageText << "\n\n" << alert.informativeText << "\n\n";
+    QTextStream(stderr) << terminalText(alert.messageText) << "\n\n"
+                        << terminalText(alert.informativeText) << "\n\n";
     AlertAnswer answer;
     if (m_policy != AlertPolicy::Print && !jobCanWait())
         answer.button = static_cast<int>(alert.buttons.size()) - 1;

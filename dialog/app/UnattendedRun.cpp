@@ -20,6 +20,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "platform/foundation/ForeignText.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
 namespace corvana {
@@ -30,7 +31,7 @@ int refused(const QStringList &problems)
 {
     QTextStream err(stderr);
     for (const QString &problem : problems)
-        err << "corvana-print: " << problem << "\n";
+        err << "corvana-print: " << terminalText(problem) << "\n";
     err << QCoreApplication::translate("UnattendedRun", "Nothing was printed.") << "\n";
     return 1;
 }
@@ -190,7 +191,7 @@ int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const
         const int status = refused({problem});
         return termination.caught() ? termination.exitStatus() : status;
     }
-    QTextStream(stdout) << Texts::tr("Printed to %1").arg(request.output) << "\n";
+    QTextStream(stdout) << terminalText(Texts::tr("Printed to %1").arg(request.output)) << "\n";
     return 0;
 }
 
@@ -225,21 +226,21 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
                      [told = JobProgress::Stage::Sending](const JobProgress &progress) mutable {
                          if (std::exchange(told, progress.stage) != progress.stage &&
                              progress.stage == JobProgress::Stage::Stopped)
-                             QTextStream(stderr) << progress.text() << "\n";
+                             QTextStream(stderr) << terminalText(progress.text()) << "\n";
                      });
     job.print(serverJobRequest(printer, server, request, ticket));
     if (termination.caught())
         job.cancel();
     const JobOutcome outcome = job.wait();
     QTextStream(outcome.isDone() ? stdout : stderr)
-        << (outcome.isDone() ? QString() : QStringLiteral("corvana-print: ")) << outcome.text
-        << "\n";
+        << (outcome.isDone() ? QString() : QStringLiteral("corvana-print: "))
+        << terminalText(outcome.text) << "\n";
     if (outcome.isDone() && held)
-        QTextStream(stdout) << Texts::tr(
-                                   "It waits until the instructions have been followed. Release it "
-                                   "with: %1")
-                                   .arg(releaseCommand(request, printer.printer, outcome.job))
-                            << "\n";
+        QTextStream(stdout)
+            << Texts::tr("It waits until the instructions have been followed. Release it "
+                         "with: %1")
+                   .arg(terminalLine(releaseCommand(request, printer.printer, outcome.job)))
+            << "\n";
     if (outcome.isDone())
         return 0;
     return termination.caught() ? termination.exitStatus() : 1;
@@ -285,7 +286,7 @@ int runUnattended(const PrintRequest &request)
         // A choice of long ago does not stop a job; what this command line says does.
         fitted = applyWhatFits(readUserQueues().optionsOf(ready.printer.name), *printer);
         for (const QString &problem : std::as_const(fitted.problems))
-            QTextStream(stderr) << "corvana-print: lpoptions: " << problem << "\n";
+            QTextStream(stderr) << "corvana-print: lpoptions: " << terminalText(problem) << "\n";
     }
     const OptionOutcome options =
         applyOptions(request.options, *printer->session, printer->jobValues, *printer->panels);
@@ -302,7 +303,7 @@ int runUnattended(const PrintRequest &request)
                                     .arg(copies);
         if (named)
             return refused({problem});
-        QTextStream(stderr) << "corvana-print: lpoptions: " << problem << "\n";
+        QTextStream(stderr) << "corvana-print: lpoptions: " << terminalText(problem) << "\n";
         copies = mostCopies;
     }
 
@@ -339,8 +340,13 @@ int listPrinters(const PrintRequest &request)
 {
     const TerminationSignals termination;
     QTextStream out(stdout);
+    // Names and descriptions are a server's or a PPD's: one line for each printer, whatever they
+    // say.
+    const auto list = [&out](const QString &name, const QString &description) {
+        out << terminalLine(name) << "\t" << terminalLine(description) << "\n";
+    };
     for (const Printer &printer : request.printers)
-        out << printer.name << "\t" << printer.description << "\n";
+        list(printer.name, printer.description);
     struct Listed
     {
         QList<Printer> queues;
@@ -355,15 +361,16 @@ int listPrinters(const PrintRequest &request)
     });
     const UserQueues user = readUserQueues();
     for (const Printer &printer : listed.queues) {
-        out << printer.name << "\t" << printer.description << "\n";
+        list(printer.name, printer.description);
         for (const QString &instance : user.instancesOf(printer.name))
-            out << instance << "\t" << printer.description << "\n";
+            list(instance, printer.description);
     }
     if (termination.caught())
         return termination.exitStatus();
     if (!listed.problem)
         return 0;
-    QTextStream(stderr) << "corvana-print: " << listed.problem.text(request.server) << "\n";
+    QTextStream(stderr) << "corvana-print: " << terminalText(listed.problem.text(request.server))
+                        << "\n";
     return request.printers.isEmpty() ? 1 : 0;
 }
 

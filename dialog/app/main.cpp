@@ -12,6 +12,7 @@
 #include "dialog/app/TerminationSignals.h"
 #include "dialog/app/Translations.h"
 #include "dialog/app/UnattendedRun.h"
+#include "platform/foundation/ForeignText.h"
 #include "platform/toolkit/PlainText.h"
 
 using namespace corvana;
@@ -20,7 +21,7 @@ namespace {
 
 int fail(const QString &problem)
 {
-    QTextStream(stderr) << "corvana-print: " << problem << "\n";
+    QTextStream(stderr) << "corvana-print: " << terminalText(problem) << "\n";
     return 1;
 }
 
@@ -57,15 +58,20 @@ void findHome()
         qputenv("HOME", user->pw_dir);
 }
 
-// Qt complains of a missing folder that a program without a window has no use for; cron would send
-// that to its user as a mail, each time.
-void ignoreMissingRuntimeFolder()
+bool ignoresMissingRuntimeFolder = false;
+
+// What is logged is read in a terminal as well, and quotes PPDs and servers. Qt complains of a
+// missing folder that a program without a window has no use for; cron would send that to its user
+// as a mail, each time.
+void logForTerminals(bool unattended)
 {
     static QtMessageHandler others = nullptr;
+    ignoresMissingRuntimeFolder = unattended;
     others = qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
-            if (!text.startsWith(QLatin1StringView("QStandardPaths: XDG_RUNTIME_DIR not set")))
-                others(type, context, text);
+            if (!ignoresMissingRuntimeFolder ||
+                !text.startsWith(QLatin1StringView("QStandardPaths: XDG_RUNTIME_DIR not set")))
+                others(type, context, terminalText(text));
         });
 }
 
@@ -83,7 +89,7 @@ int runDialog(const PrintRequest &request)
     dialog.exec();
     if (dialog.report().isEmpty())
         return termination.caught() ? termination.exitStatus() : 1;
-    QTextStream(stdout) << dialog.report() << "\n";
+    QTextStream(stdout) << terminalText(dialog.report()) << "\n";
     return 0;
 }
 
@@ -106,8 +112,7 @@ int main(int argc, char **argv)
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
     choosePlatform(!unattended || line.checkDisplay);
-    if (unattended)
-        ignoreMissingRuntimeFolder();
+    logForTerminals(unattended);
     QApplication application(argc, argv);
     QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
     QApplication::setApplicationName(QStringLiteral("corvana-print"));
