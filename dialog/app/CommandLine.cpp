@@ -6,6 +6,7 @@
 #include "dialog/server/ServerAddress.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -78,7 +79,8 @@ ParsedCommandLine notUnderstood(const QString &what)
 {
     return {std::nullopt,
             QStringLiteral("corvana-print: %1\n%2\n")
-                .arg(what, QStringLiteral("\"corvana-print --help\" lists what can be said.")),
+                .arg(terminalText(what),
+                     QStringLiteral("\"corvana-print --help\" lists what can be said.")),
             2};
 }
 

@@ -14,6 +14,8 @@
 #include "dialog/terminal/UnattendedRun.h"
 #include "dialog/window/Placeholders.h"
 #include "dialog/window/PrintWindow.h"
+#include "platform/foundation/ForeignText.h"
+#include "platform/toolkit/PlainText.h"
 
 using namespace corvana;
 
@@ -21,7 +23,7 @@ namespace {
 
 int fail(const QString &problem)
 {
-    QTextStream(stderr) << "corvana-print: " << problem << "\n";
+    QTextStream(stderr) << "corvana-print: " << terminalText(problem) << "\n";
     return 1;
 }
 
@@ -30,7 +32,7 @@ int failInWindow(const QString &problem)
 {
     QMessageBox box(QMessageBox::Critical, QCoreApplication::translate("main", "Print"), problem,
                     QMessageBox::Close);
-    box.setTextFormat(Qt::PlainText);
+    makePlain(&box);
     box.exec();
     return fail(problem);
 }
@@ -58,15 +60,20 @@ void findHome()
         qputenv("HOME", user->pw_dir);
 }
 
-// Qt complains of a missing folder that a program without a window has no use for; cron would send
-// that to its user as a mail, each time.
-void ignoreMissingRuntimeFolder()
+bool ignoresMissingRuntimeFolder = false;
+
+// What is logged is read in a terminal as well, and quotes PPDs and servers. Qt complains of a
+// missing folder that a program without a window has no use for; cron would send that to its user
+// as a mail, each time.
+void logForTerminals(bool unattended)
 {
     static QtMessageHandler others = nullptr;
+    ignoresMissingRuntimeFolder = unattended;
     others = qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
-            if (!text.startsWith(QLatin1StringView("QStandardPaths: XDG_RUNTIME_DIR not set")))
-                others(type, context, text);
+            if (!ignoresMissingRuntimeFolder ||
+                !text.startsWith(QLatin1StringView("QStandardPaths: XDG_RUNTIME_DIR not set")))
+                others(type, context, terminalText(text));
         });
 }
 
@@ -84,7 +91,7 @@ int runDialog(const PrintRequest &request)
     dialog.exec();
     if (dialog.report().isEmpty())
         return termination.caught() ? termination.exitStatus() : 1;
-    QTextStream(stdout) << dialog.report() << "\n";
+    QTextStream(stdout) << terminalText(dialog.report()) << "\n";
     return 0;
 }
 
@@ -107,8 +114,7 @@ int main(int argc, char **argv)
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
     choosePlatform(!unattended || line.checkDisplay);
-    if (unattended)
-        ignoreMissingRuntimeFolder();
+    logForTerminals(unattended);
     QApplication application(argc, argv);
     QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
     QApplication::setApplicationName(QStringLiteral("corvana-print"));

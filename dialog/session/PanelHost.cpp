@@ -105,7 +105,15 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
                                                      m_callback);
 }
 
-PanelHost::~PanelHost() = default;
+// Panels own their views, and may outlive this host.
+PanelHost::~PanelHost()
+{
+    for (const QPointer<QWidget> &view : std::as_const(m_views)) {
+        if (view && m_room && view->parentWidget() == m_room)
+            view->setParent(nullptr);
+    }
+    delete m_room;
+}
 
 void PanelHost::bringUp()
 {
@@ -114,12 +122,32 @@ void PanelHost::bringUp()
     for (const auto &panel : std::as_const(m_panels)) {
         const Call call(*this, *panel);
         m_views += panel->panelView();
-        if (!m_views.constLast())
+        if (m_views.constLast())
+            takeIn(m_views.constLast());
+        else
             qCWarning(lcPanels) << "the panel" << panel->panelKind() << "has no view";
         panel->willShow();
         panel->shouldHide();
     }
     deliverPending();
+}
+
+// A view that is still without a parent would let its panel take any window that happens to be
+// active, such as help or a file dialog, for its own.
+void PanelHost::takeIn(QWidget *view)
+{
+    if (view->parentWidget())
+        return;
+    if (!m_room)
+        setWindow(nullptr);
+    view->setParent(m_room);
+}
+
+void PanelHost::setWindow(QWidget *window)
+{
+    delete m_room;
+    m_room = new QWidget(window);
+    m_room->hide();
 }
 
 bool PanelHost::visit(int panel)

@@ -45,10 +45,17 @@ public:
 
     const QList<std::shared_ptr<PDEPanel>> &panels() const { return m_panels; }
 
+    /// The window that will show the panels; to be said before they are brought up. Panels observe
+    /// the closing of the window that they come up in, and end their rules with it, so they come up
+    /// inside the window that will show them. Without one they get a window that never closes.
+    /// Ownership: borrows `window`, which outlives this host.
+    void setWindow(QWidget *window);
+
     /// Brings every panel up once: its view is loaded, it is shown and hidden. Several rules run
     /// only on loaded controls, so a panel that nobody visits must have been up as well.
     void bringUp();
     /// The views of the panels that were brought up, in their order; null for one that has none.
+    /// They are hidden inside the window, to be put where they are seen.
     const QList<QPointer<QWidget>> &views() const { return m_views; }
 
     /// The user goes to a panel (its index) or to a page of the dialog (-1).
@@ -100,6 +107,7 @@ private:
     bool leaveVisible();
     void saveVisible();
     void restoreHidden();
+    void takeIn(QWidget *view);
 
     PpdSession &m_session;
     const PDEJobValues *m_jobValues = nullptr; // null for a printer without panels
@@ -111,6 +119,7 @@ private:
     int m_uninterruptible = 0; // alerts and notifications in the midst of which a panel is
     QMap<QString, Change> m_pending;
     QMap<QString, QString> m_told; // the marks, custom ones with their values, that panels know of
+    QPointer<QWidget> m_room; // never shown; holds the views that nobody has taken out of it yet
     QList<QPointer<QWidget>> m_views;
     bool m_refused = false;
     bool m_paperChanged = false;

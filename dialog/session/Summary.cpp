@@ -6,6 +6,7 @@
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "platform/foundation/ForeignText.h"
 #include "platform/pde/PDEPanel.h"
 
 namespace corvana {
@@ -103,7 +104,7 @@ QString summaryText(const QList<SummaryLine> &lines)
 {
     QString text;
     for (const SummaryLine &line : lines)
-        text += QStringLiteral("%1: %2\n").arg(line.title, line.value);
+        text += QStringLiteral("%1: %2\n").arg(terminalLine(line.title), terminalLine(line.value));
     return text;
 }
 

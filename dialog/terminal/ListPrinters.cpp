@@ -12,6 +12,7 @@
 #include "dialog/server/ServerWork.h"
 #include "dialog/terminal/TerminalQuestions.h"
 #include "dialog/terminal/TerminationSignals.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -55,11 +56,16 @@ Listed listQueuesOf(const ServerContext &server, const TerminationSignals &termi
 
 void write(const QList<Printer> &printers, const UserQueues &user)
 {
+    // Names and descriptions are a server's or a PPD's: one line for each printer, whatever they
+    // say.
     QTextStream out(stdout);
+    const auto list = [&out](const QString &name, const QString &description) {
+        out << terminalLine(name) << "\t" << terminalLine(description) << "\n";
+    };
     for (const Printer &printer : printers) {
-        out << printer.name << "\t" << printer.description << "\n";
+        list(printer.name, printer.description);
         for (const QString &instance : user.instancesOf(printer.name))
-            out << instance << "\t" << printer.description << "\n";
+            list(instance, printer.description);
     }
 }
 
@@ -80,7 +86,8 @@ int listPrinters(const PrintRequest &request)
         return termination.exitStatus();
     if (!listed.problem)
         return 0;
-    QTextStream(stderr) << "corvana-print: " << listed.problem.text(request.server) << "\n";
+    QTextStream(stderr) << "corvana-print: " << terminalText(listed.problem.text(request.server))
+                        << "\n";
     return request.printers.isEmpty() ? 1 : 0;
 }
 

@@ -2,12 +2,15 @@
 
 #include <QTextStream>
 
+#include "platform/foundation/ForeignText.h"
+
 namespace corvana {
 
 AlertAnswer TerminalAlertPresenter::runModal(const Alert &alert, QWidget *)
 {
     m_shown = true;
-    QTextStream(stderr) << alert.messageText << "\n\n" << alert.informativeText << "\n\n";
+    QTextStream(stderr) << terminalText(alert.messageText) << "\n\n"
+                        << terminalText(alert.informativeText) << "\n\n";
     AlertAnswer answer;
     if (m_policy != AlertPolicy::Print && !jobCanWait())
         answer.button = static_cast<int>(alert.buttons.size()) - 1;

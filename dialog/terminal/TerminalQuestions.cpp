@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QScopeGuard>
 
+#include "platform/foundation/ForeignText.h"
+
 namespace corvana {
 
 namespace {
@@ -59,12 +61,12 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
           (question.forDevice ? Texts::tr("The printer at “%1” wants a user and a password.")
                               : Texts::tr("The print server “%1” wants a user and a "
                                           "password."))
-                  .arg(question.server.text()) +
+                  .arg(terminalLine(question.server.text())) +
               u'\n');
     if (!question.encrypted)
         write(terminal,
               Texts::tr("The connection is not encrypted: others may read them.") + u'\n');
-    write(terminal, Texts::tr("User [%1]: ").arg(question.user));
+    write(terminal, Texts::tr("User [%1]: ").arg(terminalLine(question.user)));
     const std::optional<QByteArray> user = readLine(terminal, ending);
     if (!user)
         return std::nullopt;

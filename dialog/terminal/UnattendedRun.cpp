@@ -10,6 +10,7 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/terminal/TerminalFace.h"
 #include "dialog/terminal/TerminationSignals.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -24,7 +25,7 @@ struct Texts
 
 void sayProblem(const QString &problem)
 {
-    QTextStream(stderr) << "corvana-print: " << problem << "\n";
+    QTextStream(stderr) << "corvana-print: " << terminalText(problem) << "\n";
 }
 
 // A name as a shell takes it: queues may be called almost anything.
@@ -112,7 +113,7 @@ private:
     {
         if (std::exchange(m_stage, progress.stage) != progress.stage &&
             progress.stage == JobProgress::Stage::Stopped)
-            QTextStream(stderr) << progress.text() << "\n";
+            QTextStream(stderr) << terminalText(progress.text()) << "\n";
     }
 
     void jobEnded(const JobOutcome &outcome)
@@ -124,11 +125,12 @@ private:
             return end(1);
         }
         QTextStream out(stdout);
-        out << outcome.text << "\n";
+        out << terminalText(outcome.text) << "\n";
         if (m_task.isHeld())
             out << Texts::tr("It waits until the instructions have been followed. Release it with: "
                              "%1")
-                       .arg(releaseCommand(m_task.request(), m_task.printer(), outcome.job))
+                       .arg(terminalLine(
+                           releaseCommand(m_task.request(), m_task.printer(), outcome.job)))
                 << "\n";
         end(0);
     }

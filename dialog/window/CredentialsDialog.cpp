@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidget *parent)
@@ -14,7 +16,7 @@ CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidge
     setWindowTitle(tr("Log In to Print"));
     setWindowModality(Qt::WindowModal);
     const QString server = question.server.text();
-    auto *text = new QLabel(
+    QLabel *text = plainLabel(
         question.forDevice
             ? tr("The printer wants to know who prints. User and password are sent to it through "
                  "the print server “%1”, and are forgotten when the print dialog closes.")
@@ -23,7 +25,6 @@ CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidge
                  "when the print dialog closes.")
                   .arg(server),
         this);
-    text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     m_user->setObjectName(QStringLiteral("user"));
     m_password->setObjectName(QStringLiteral("password"));
@@ -42,9 +43,10 @@ CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidge
     layout->addWidget(text);
     layout->addLayout(form);
     if (!question.encrypted) {
-        auto *warning = new QLabel(tr("The connection is not encrypted: others on the network may "
-                                      "read the password."),
-                                   this);
+        QLabel *warning =
+            plainLabel(tr("The connection is not encrypted: others on the network may "
+                          "read the password."),
+                       this);
         warning->setObjectName(QStringLiteral("notEncrypted"));
         warning->setWordWrap(true);
         layout->addWidget(warning);

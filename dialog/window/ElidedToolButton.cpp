@@ -5,6 +5,8 @@
 #include <QStylePainter>
 #include <QToolTip>
 
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 namespace {
@@ -38,7 +40,7 @@ bool ElidedToolButton::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || !isCut())
         return QToolButton::event(event);
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(text()), this);
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include "dialog/job/JobProgress.h"
 #include "dialog/window/ElidedToolButton.h"
 #include "dialog/window/chooser/ElidedLabel.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -79,7 +80,7 @@ void JobFooter::buildButtons()
     m_leave = new QPushButton(tr("C&lose"), this);
     m_leave->setObjectName(u"leave"_s);
     m_leave->setAutoDefault(false);
-    m_leave->setToolTip(tr("The job goes on without this window."));
+    m_leave->setToolTip(plainToolTip(tr("The job goes on without this window.")));
     hideInPlace(m_leave);
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setObjectName(u"cancel"_s);

@@ -14,6 +14,7 @@
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "dialog/window/pages/MessageBar.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -84,6 +85,7 @@ void PrintWindow::phaseChanged(PrintTask::Phase phase)
 void PrintWindow::printerOpened()
 {
     PanelHost *panels = m_task->opened()->panels.get();
+    panels->setWindow(this);
     // Later: a panel is in the midst of its work when it says so.
     connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPanelView,
             Qt::QueuedConnection);
@@ -273,10 +275,11 @@ bool PrintWindow::userIsBusy() const
 
 bool PrintWindow::mayOverwrite(const QString &file)
 {
-    return QMessageBox::question(
-               this, tr("Print to File"),
-               tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(file))) ==
-           QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, tr("Print to File"),
+                    tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(file)),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    makePlain(&box);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void PrintWindow::writeSummary(const QList<SummaryLine> &lines)

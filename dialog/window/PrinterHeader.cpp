@@ -11,6 +11,7 @@
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -21,8 +22,7 @@ PrinterHeader::PrinterHeader(const QString &title, const QString &output, QWidge
 {
     m_printers->setObjectName(u"printers"_s);
     m_status->setObjectName(u"printerStatus"_s);
-    auto *document = new QLabel(title, this);
-    document->setTextFormat(Qt::PlainText);
+    QLabel *document = plainLabel(title, this);
     document->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *form = new QFormLayout(this);
@@ -45,7 +45,7 @@ QWidget *PrinterHeader::buildOutputLabel()
     auto *label = new QWidget(this);
     m_toFile = new QCheckBox(tr("Print to &file:"), label);
     m_toFile->setObjectName(u"toFile"_s);
-    m_toFileLabel = new QLabel(tr("Print to &file:"), label);
+    m_toFileLabel = plainLabel(tr("Print to &file:"), label);
     m_toFileLabel->setBuddy(m_output);
     auto *layout = new QHBoxLayout(label);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -14,6 +14,7 @@
 #include "dialog/window/pages/SummaryPage.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -112,9 +113,8 @@ void SettingsPages::showWaiting(const QString &text, bool canRetry)
     const QSignalBlocker blocker(this);
     auto *page = new QWidget;
     page->setObjectName(u"waiting"_s);
-    auto *label = new QLabel(text, page);
+    QLabel *label = plainLabel(text, page);
     label->setObjectName(u"waitingText"_s);
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);
     auto *layout = new QVBoxLayout(page);

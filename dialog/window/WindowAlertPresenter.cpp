@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 namespace {
@@ -49,7 +51,6 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
     QMessageBox box(parent ? parent->window() : nullptr);
     box.setIcon(alert.style == Alert::Style::Warning ? QMessageBox::Warning
                                                      : QMessageBox::Information);
-    box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(parent ? parent->window()->windowTitle() : QString());
     box.setText(alert.messageText);
     if (auto *title = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
@@ -58,6 +59,7 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
         title->setFont(bold);
     }
     box.setInformativeText(alert.informativeText);
+    makePlain(&box);
     QList<QPushButton *> buttons;
     for (const QString &label : alert.buttons)
         buttons += box.addButton(label, QMessageBox::ActionRole);

@@ -1,5 +1,9 @@
 #include "platform/pde/PDEBundleLoader.h"
 
+#include <utility>
+
+#include <grp.h>
+#include <pwd.h>
 #include <unistd.h>
 
 #include <QDirIterator>
@@ -25,24 +29,63 @@ constexpr QLatin1StringView kRequiredKeys[] = {kCFBundleNameKey, kCFBundleIdenti
 // The list of the options that the bundle's panels handle; part of the contract with every host.
 constexpr QLatin1StringView kSupportedOptionsKey{"PMPPDKeysSupported"};
 
-// Why a file or folder below a trusted root cannot be trusted; null when it can.
-QString distrust(const QFileInfo &file, uint programOwner)
+// Whether nobody but `user` is in the group. Many systems give every user a group of the same name
+// and let it write whatever the user makes; a checkout on such a system is as safe as on another.
+// What such a group was given members for is shared, and its files are code of any of them.
+bool isPrivateGroup(gid_t group, uid_t user)
 {
-    const auto writers = QFileDevice::WriteOther;
-    if (file.permissions() & writers)
-        return QStringLiteral("%1 can be written by everybody").arg(file.filePath());
-    const uint owner = file.ownerId();
-    if (owner != 0 && owner != ::geteuid() && owner != programOwner)
-        return QStringLiteral("%1 belongs to another user").arg(file.filePath());
-    return {};
+    const passwd *account = ::getpwuid(user);
+    if (!account || account->pw_gid != group)
+        return false;
+    const QByteArray name = account->pw_name;
+    const auto *entry = ::getgrgid(group);
+    if (!entry || name != entry->gr_name)
+        return false;
+    for (char **member = entry->gr_mem; *member; ++member) {
+        if (name != *member)
+            return false;
+    }
+    return true;
 }
+
+// Looks at the files of one bundle.
+class Trust
+{
+public:
+    // Why a file or folder below a trusted root cannot be trusted; null when it can.
+    QString distrust(const QFileInfo &file)
+    {
+        if (file.permissions() & QFileDevice::WriteOther)
+            return QStringLiteral("%1 can be written by everybody").arg(file.filePath());
+        const uint owner = file.ownerId();
+        if (owner != 0 && owner != ::geteuid() && owner != m_programOwner)
+            return QStringLiteral("%1 belongs to another user").arg(file.filePath());
+        if ((file.permissions() & QFileDevice::WriteGroup) && !isOwnersAlone(file.groupId(), owner))
+            return QStringLiteral("%1 can be written by the group %2")
+                .arg(file.filePath(), file.group());
+        return {};
+    }
+
+private:
+    // Groups may be looked up in the network.
+    bool isOwnersAlone(uint group, uint owner)
+    {
+        const auto pair = std::pair(group, owner);
+        if (!m_groups.contains(pair))
+            m_groups.insert(pair, isPrivateGroup(group, owner));
+        return m_groups.value(pair);
+    }
+
+    const uint m_programOwner = QFileInfo(QStringLiteral("/proc/self/exe")).ownerId();
+    QHash<std::pair<uint, uint>, bool> m_groups;
+};
 
 // Walks from `path` up to, and not including, `root`.
 QString distrustOfPath(const QString &path, const QString &root)
 {
-    const uint programOwner = QFileInfo(QStringLiteral("/proc/self/exe")).ownerId();
+    Trust trust;
     for (QFileInfo file(path); file.filePath() != root; file = QFileInfo(file.path())) {
-        const QString problem = distrust(file, programOwner);
+        const QString problem = trust.distrust(file);
         if (!problem.isNull())
             return problem;
     }
@@ -52,7 +95,7 @@ QString distrustOfPath(const QString &path, const QString &root)
 // Why something inside the bundle cannot be trusted; null when everything can.
 QString distrustOfContents(const QString &bundle)
 {
-    const uint programOwner = QFileInfo(QStringLiteral("/proc/self/exe")).ownerId();
+    Trust trust;
     QDirIterator contents(bundle,
                           QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                           QDirIterator::Subdirectories);
@@ -62,7 +105,7 @@ QString distrustOfContents(const QString &bundle)
         if (file.isSymLink() && !file.canonicalFilePath().startsWith(bundle + u'/'))
             return QStringLiteral("%1 leads out of the bundle, to %2")
                 .arg(file.filePath(), file.canonicalFilePath());
-        const QString problem = distrust(file, programOwner);
+        const QString problem = trust.distrust(file);
         if (!problem.isNull())
             return problem;
     }

@@ -42,7 +42,7 @@ CORVANA_PLATFORM_EXPORT LoadedPlugIn loadPlugIn(const FoundPlugIn &found);
 ///
 /// A bundle is refused, before any of its code runs, when its canonical path lies outside the root
 /// it was found in, when it, anything in it or anything between it and the root can be written by
-/// others or leads out of it, when its information dictionary lacks the keys of a plug-in, or when
+/// others (everybody, or a group in which somebody else may be) or leads out of it, when its information dictionary lacks the keys of a plug-in, or when
 /// its module was built for another contract.
 CORVANA_PLATFORM_EXPORT LoadedPlugIn loadPlugInBundle(const QString &fileName,
                                                       const QStringList &trustedRoots);

@@ -5,6 +5,8 @@
 #include <QStackedWidget>
 #include <QTableView>
 
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 namespace {
@@ -87,9 +89,15 @@ int ArrayController::rowCount(const QModelIndex &parent) const
 
 QVariant ArrayController::data(const QModelIndex &index, int role) const
 {
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+    const QVariant label = m_rows.value(index.row()).value(kLabel);
+    switch (role) {
+    case Qt::DisplayRole:
+        return label;
+    case Qt::ToolTipRole: // the label is cut where the table is narrow
+        return plainToolTip(label.toString());
+    default:
         return {};
-    return m_rows.value(index.row()).value(kLabel);
+    }
 }
 
 } // namespace corvana

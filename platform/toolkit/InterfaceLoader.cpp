@@ -16,6 +16,7 @@
 #include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/FilterImageView.h"
 #include "platform/toolkit/FrameLayout.h"
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/Stepper.h"
@@ -120,6 +121,7 @@ public:
 
     void connectAll(QWidget *view)
     {
+        makeLabelsPlain(view); // what a panel shows in them comes from a PPD
         QList<QWidget *> widgets = view->findChildren<QWidget *>();
         widgets.prepend(view);
         auto *dictionary = new BindingDictionary(view);

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 QString withoutMnemonic(const QString &text)
@@ -11,6 +13,7 @@ QString withoutMnemonic(const QString &text)
 
 void setLiteralText(QLabel *label, const QString &text)
 {
+    makePlain(label);
     label->setText(label->buddy() ? withoutMnemonic(text) : text);
 }
 

@@ -12,7 +12,8 @@ namespace corvana {
 /// buttons, boxes, tabs, and labels that lead to a control.
 CORVANA_PLATFORM_EXPORT QString withoutMnemonic(const QString &text);
 
-/// Shows a text as it is, whether or not the label leads to a control.
+/// Shows a text as it is, whether or not the label leads to a control: neither a key to press nor
+/// markup is seen in it.
 CORVANA_PLATFORM_EXPORT void setLiteralText(QLabel *label, const QString &text);
 
 /// The text that a label shows: without the marks of keys to press, where it leads to a control.

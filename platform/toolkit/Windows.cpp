@@ -50,7 +50,7 @@ private:
 
 QWidget *keyWindow(const QWidget *panelView)
 {
-    if (panelView && panelView->window()->isVisible())
+    if (panelView && (panelView->parentWidget() || panelView->isVisible()))
         return panelView->window();
     return QApplication::activeWindow();
 }

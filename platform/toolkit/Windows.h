@@ -14,8 +14,8 @@ inline constexpr char kWindowWillCloseNotification[] = "NSWindowWillCloseNotific
 inline constexpr char kViewDidUpdateTrackingAreasNotification[] =
     "NSViewDidUpdateTrackingAreasNotification";
 
-/// The window that a panel means by "the key window": the visible window of its own view, else the
-/// application's active window, else null.
+/// The window that a panel means by "the key window": the window that its view is in, shown or not;
+/// for a view that is in none, the application's active window, else null.
 CORVANA_PLATFORM_EXPORT QWidget *keyWindow(const QWidget *panelView);
 
 /// Makes `window` post kWindowWillCloseNotification; asking twice posts once.

@@ -8,7 +8,7 @@
 #include <QTextLayout>
 #include <QToolTip>
 
-#include "dialog/window/chooser/PrinterTexts.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -27,7 +27,7 @@ QString elidedLine(const QFontMetrics &metrics, const QString &text, const QStri
 
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
-    setTextFormat(Qt::PlainText);
+    makePlain(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

@@ -18,6 +18,7 @@
 #include "dialog/window/chooser/PrinterModel.h"
 #include "dialog/window/chooser/PrinterRowDelegate.h"
 #include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -62,10 +63,9 @@ void PrinterPopup::build()
     m_list->setMouseTracking(true);
     m_list->setItemDelegate(m_delegate);
     m_list->setModel(&m_search);
-    m_nothing = new QLabel(this);
+    m_nothing = plainLabel({}, this);
     m_nothing->setObjectName(QStringLiteral("noPrinter"));
     m_nothing->setAlignment(Qt::AlignCenter);
-    m_nothing->setTextFormat(Qt::PlainText);
     m_nothing->setForegroundRole(QPalette::PlaceholderText);
     m_nothing->setBackgroundRole(QPalette::Base);
     m_nothing->setAutoFillBackground(true);
@@ -79,7 +79,7 @@ void PrinterPopup::build()
     m_footerButton = new QPushButton(m_footerRow);
     m_footerButton->setObjectName(QStringLiteral("printerFooterAction"));
     m_footerButton->setAutoDefault(false);
-    m_count = new QLabel(m_footerRow);
+    m_count = plainLabel({}, m_footerRow);
     m_count->setObjectName(QStringLiteral("printerCount"));
     m_count->setForegroundRole(QPalette::PlaceholderText);
     const int gap = fontMetrics().height() / 2;

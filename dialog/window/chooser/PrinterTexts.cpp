@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+#include "platform/foundation/ForeignText.h"
+
 namespace corvana {
 
 namespace {
@@ -127,21 +129,6 @@ QString both(const QString &first, const QString &second, const QString &format)
     return format.arg(first, second);
 }
 
-// What directs the text around it would let a name change how its neighbours are read. The joiners
-// belong to the scripts that need them.
-bool mayBeShown(char32_t character)
-{
-    switch (QChar::category(character)) {
-    case QChar::Other_Control:
-    case QChar::Other_NotAssigned:
-        return false;
-    case QChar::Other_Format:
-        return character == 0x200c || character == 0x200d;
-    default:
-        return true;
-    }
-}
-
 } // namespace
 
 QString plainLine(const QString &text)
@@ -151,7 +138,7 @@ QString plainLine(const QString &text)
     QString shown;
     shown.reserve(qMin(line.size(), kLongestLine));
     for (const char32_t character : line.toUcs4()) {
-        if (!mayBeShown(character))
+        if (!showsItself(character))
             continue;
         const auto units = QChar::fromUcs4(character);
         if (shown.size() + qsizetype(QStringView(units).size()) >= kLongestLine)
@@ -159,11 +146,6 @@ QString plainLine(const QString &text)
         shown += units;
     }
     return shown;
-}
-
-QString plainToolTip(const QString &text)
-{
-    return text.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
 }
 
 QString displayName(const Printer &printer)

@@ -17,10 +17,6 @@ enum class Presence { Listed, Gone };
 /// the text is dropped. Range: at most 200 UTF-16 code units; a longer text ends with "…".
 QString plainLine(const QString &text);
 
-/// A plain text as the tool tip that shows exactly it: a tool tip that looks like markup to Qt
-/// would be read as markup.
-QString plainToolTip(const QString &text);
-
 /// The description, or the name of a printer that has none.
 QString displayName(const Printer &printer);
 

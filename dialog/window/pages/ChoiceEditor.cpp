@@ -17,6 +17,7 @@
 #include "dialog/session/Summary.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 
 namespace corvana {
@@ -72,7 +73,7 @@ ChoiceEditor::ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *p
     m_choices->setObjectName(QStringLiteral("choices"));
     m_choices->setAccessibleName(ppdText(option->text).value_or(m_keyword));
     // The name of a pop-up is what it shows; a screen reader takes the option's from a label.
-    auto *label = new QLabel(withoutMnemonic(m_choices->accessibleName()), this);
+    auto *label = plainLabel(withoutMnemonic(m_choices->accessibleName()), this);
     label->setBuddy(m_choices);
     label->hide();
     m_choices->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -113,7 +114,7 @@ void ChoiceEditor::addChoices()
         if (const QString note = conflictNote(keyword); !note.isNull()) {
             const int item = m_choices->count() - 1;
             m_choices->setItemData(item, weak, Qt::ForegroundRole);
-            m_choices->setItemData(item, note, Qt::ToolTipRole);
+            m_choices->setItemData(item, plainToolTip(note), Qt::ToolTipRole);
             m_choices->setItemData(item, note, Qt::AccessibleDescriptionRole);
         }
     }
@@ -126,7 +127,7 @@ void ChoiceEditor::addField(const CustomLimits &limits)
     m_field->setAccessibleName(m_choices->accessibleName());
     m_field->setAccessibleDescription(allowed());
     m_field->setPlaceholderText(allowed());
-    m_field->setToolTip(allowed());
+    m_field->setToolTip(plainToolTip(allowed()));
     if (limits.kind == CustomLimits::Kind::HiddenText)
         m_field->setEchoMode(QLineEdit::Password);
     layout()->addWidget(m_field);

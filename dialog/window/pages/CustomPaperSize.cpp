@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 
 namespace corvana {
@@ -51,9 +52,9 @@ void setRange(QDoubleSpinBox *field, float least, float most, const Unit &unit)
     constexpr double kHair = 1e-6;
     field->setRange(std::ceil(static_cast<double>(least) / unit.points * parts - kHair) / parts,
                     std::floor(static_cast<double>(most) / unit.points * parts + kHair) / parts);
-    field->setToolTip(
+    field->setToolTip(plainToolTip(
         CustomPaperSize::tr("From %1 to %2")
-            .arg(field->textFromValue(field->minimum()), field->textFromValue(field->maximum())));
+            .arg(field->textFromValue(field->minimum()), field->textFromValue(field->maximum()))));
 }
 
 } // namespace
@@ -73,7 +74,7 @@ CustomPaperSize::CustomPaperSize(ppd_file_t *ppd, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_width);
-    row->addWidget(new QLabel(QStringLiteral("×"), this));
+    row->addWidget(plainLabel(QStringLiteral("×"), this));
     row->addWidget(m_height);
     row->addWidget(m_unit);
     row->addStretch();

@@ -16,6 +16,7 @@
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/MenuActions.h"
 #include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 
@@ -139,7 +140,10 @@ void GeneralPage::addOption(const QString &keyword)
     if (keyword == kPageSizeOption)
         postNotificationWhenMenuActs(popUp); // panels follow the paper menu
     auto *layout = static_cast<QFormLayout *>(this->layout());
-    layout->addRow(withoutMnemonic(title) + u':', popUp);
+    QLabel *label = plainLabel({}, this);
+    label->setBuddy(popUp);
+    setLiteralText(label, title + u':');
+    layout->addRow(label, popUp);
     m_popUps.insert(keyword, popUp);
     if (keyword == kPageSizeOption && takesCustomPageSizes(m_session.ppd()))
         addCustomPaperSize(popUp);

@@ -7,24 +7,26 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/PlainText.h"
+
 namespace corvana {
 
 MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), m_icon(new QLabel(this)), m_text(new QLabel(this)),
+    : QFrame(parent), m_icon(new QLabel(this)), m_text(plainLabel({}, this)),
       m_action(new QPushButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
     m_text->setObjectName(QStringLiteral("messageText"));
-    m_text->setTextFormat(Qt::PlainText); // names of files and options are no markup
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_action->setObjectName(QStringLiteral("messageAction"));
     auto *close = new QToolButton(this);
     close->setAutoRaise(true);
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setToolTip(tr("Dismiss this message"));
+    close->setToolTip(plainToolTip(tr("Dismiss this message")));
     close->setAccessibleName(tr("Dismiss this message"));
 
     auto *layout = new QHBoxLayout(this);
@@ -57,7 +59,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
     m_text->setText(text);
     // Names of printers and choices may hold "&", which a button takes for an accelerator.
-    m_action->setText(QString(actionText).replace(u'&', QStringLiteral("&&")));
+    m_action->setText(withoutMnemonic(actionText));
     m_action->setVisible(!actionText.isEmpty());
     m_do = action;
     show();

@@ -8,6 +8,7 @@
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -197,7 +198,7 @@ QVariant OptionsModel::data(const QModelIndex &index, int role) const
         return font.bold() ? font : QVariant();
     }
     case Qt::ToolTipRole:
-        return title ? titleToolTip(*option) : defaultText(*option);
+        return plainToolTip(title ? titleToolTip(*option) : defaultText(*option));
     case Qt::AccessibleDescriptionRole:
         // A heading is not read to who goes through the rows.
         return title ? m_groups.at(index.parent().row()).title : defaultText(*option);

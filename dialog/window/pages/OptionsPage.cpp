@@ -14,6 +14,7 @@
 #include "dialog/window/pages/OptionsView.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "platform/toolkit/PlainText.h"
 
 namespace corvana {
 
@@ -25,10 +26,9 @@ OptionsPage::OptionsPage(PpdSession &session, QWidget *parent)
     : QWidget(parent), m_model(new OptionsModel(session, this)), m_filter(new OptionsFilter(this)),
       m_search(new QLineEdit(this)), m_view(new OptionsView(this)),
       m_delegate(new ChoiceDelegate(*m_model, this)),
-      m_reset(new QAction(tr("Back to the Default"), m_view)), m_hint(new QLabel(this))
+      m_reset(new QAction(tr("Back to the Default"), m_view)), m_hint(plainLabel({}, this))
 {
     m_hint->setObjectName(QStringLiteral("hint"));
-    m_hint->setTextFormat(Qt::PlainText); // what was typed is no markup
     m_hint->setWordWrap(true);
     m_hint->hide();
     buildSearch();

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ViewFrame.h"
 
 namespace corvana {
@@ -23,6 +24,7 @@ PanelPage::~PanelPage()
 
 void PanelPage::setPanelView(QWidget *view)
 {
+    makeLabelsPlain(view); // a plug-in may have made it in its own way
     setWidget(view);
     m_holdsPanelView = true;
     // The page looks like the other pages; the scroll area has just decided otherwise.
@@ -43,8 +45,7 @@ int PanelPage::followView()
 
 void PanelPage::setProblem(const QString &problem)
 {
-    auto *label = new QLabel(problem);
-    label->setTextFormat(Qt::PlainText);
+    QLabel *label = plainLabel(problem);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "dialog/session/PanelHost.h"
+#include "platform/toolkit/Windows.h"
 #include "tests/dialog/support/FakePlugIn.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
@@ -92,6 +93,54 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"\"A\" has no view"_s));
         m_host->bringUp();
         QVERIFY(taken().contains(u"A.willShow"_s));
+    }
+
+    // Panels observe the window that they come up in, and end their rules when it closes.
+    void panelsComeUpInsideTheWindowThatWillShowThem()
+    {
+        QWidget window;
+        QWidget active;
+        active.show();
+        QVERIFY(QTest::qWaitForWindowActive(&active));
+        m_host->setWindow(&window);
+        QList<const QWidget *> seen;
+        for (int i = 0; i < 2; ++i) {
+            FakePanel &panel = *m_plugIn->panels.at(i);
+            panel.inside[u"willShow"_s] = [this, &seen, i] {
+                seen += keyWindow(m_host->views().at(i));
+            };
+        }
+        m_host->bringUp();
+        QCOMPARE(seen, (QList<const QWidget *>{&window, &window}));
+        QVERIFY(m_host->views().at(0) && !m_host->views().at(0)->isVisible());
+        m_host.reset(); // before its window
+    }
+
+    void withoutAWindowPanelsComeUpInOneThatNeverCloses()
+    {
+        QWidget active;
+        active.show();
+        QVERIFY(QTest::qWaitForWindowActive(&active));
+        m_host->bringUp();
+        for (const auto &view : m_host->views()) {
+            QVERIFY(view);
+            const QWidget *window = keyWindow(view);
+            QVERIFY(window && window != &active);
+            QVERIFY(!window->isVisible());
+        }
+    }
+
+    void viewsGoToWhoeverShowsThemAndStayWithTheirPanels()
+    {
+        QWidget page;
+        m_host->bringUp();
+        QPointer<QWidget> shown = m_host->views().at(0);
+        QPointer<QWidget> hidden = m_host->views().at(1);
+        shown->setParent(&page);
+        m_host.reset();
+        QVERIFY(shown && shown->parentWidget() == &page);
+        QVERIFY(hidden && !hidden->parentWidget());
+        shown->setParent(nullptr); // its panel owns it
     }
 
     void enteringAPanelRestoresTheHiddenOnesInOrderAndShowsIt()

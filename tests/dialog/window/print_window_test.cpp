@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -113,6 +114,41 @@ private Q_SLOTS:
     {
         m_dialog.reset();
         m_filter.reset();
+    }
+
+    // Help is open, say, while the options of another printer come.
+    void aWindowThatWasActiveWhenPanelsCameUpMayClose()
+    {
+        Printer second = sample();
+        second.name = u"second"_s;
+        open("echo ok\n", {sample(), second});
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        auto *printers = control<QComboBox>(u"printers"_s);
+        const QPointer<QWidget> first = panelViews().value(0);
+        printers->setCurrentIndex(1 - printers->currentIndex());
+        Q_EMIT printers->activated(printers->currentIndex());
+        QTRY_VERIFY(!first && panelViews().size() == 2);
+        QVERIFY(other.isActiveWindow());
+        other.close();
+        QCoreApplication::processEvents();
+        // The panel's instruction for envelopes.
+        QTimer answering;
+        connect(&answering, &QTimer::timeout, [] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+                box->buttons().constFirst()->click();
+        });
+        answering.start(10);
+        auto *pages = control<QTabWidget>(u"pages"_s);
+        auto *sizes = control<QComboBox>(u"PageSize"_s);
+        sizes->setCurrentIndex(sizes->findData(u"EnvDL"_s));
+        Q_EMIT sizes->activated(sizes->currentIndex());
+        pages->setCurrentIndex(1);
+        QCoreApplication::processEvents();
+        auto *media = control<QComboBox>(u"mediaTypePopup"_s);
+        QTRY_COMPARE(media->currentData().toString(), u"Env"_s);
     }
 
     void panelsComeUpAfterTheFirstPaint()

@@ -1,3 +1,8 @@
+#include <array>
+#include <optional>
+
+#include <grp.h>
+#include <pwd.h>
 #include <unistd.h>
 
 #include <QtTest>
@@ -18,6 +23,9 @@ private Q_SLOTS:
     void whatOnlyItsOwnerCanWriteIsTrusted();
     void whatEverybodyCanWriteIsRefused_data();
     void whatEverybodyCanWriteIsRefused();
+    void whatAGroupCanWriteIsRefused_data();
+    void whatAGroupCanWriteIsRefused();
+    void whatTheUsersOwnGroupCanWriteIsTrusted();
     void whatAnotherUserOwnsIsRefused_data();
     void whatAnotherUserOwnsIsRefused();
     void aBundleThatIsALinkOutOfTheRootIsRefused();
@@ -43,7 +51,24 @@ constexpr auto kOwnerOnly =
     QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 constexpr auto kEverybody =
     kOwnerOnly | QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
+constexpr auto kGroup =
+    kOwnerOnly | QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup;
 constexpr uid_t kNobody = 65534;
+
+// A group that is not the user's own; nothing when the user cannot give it a file.
+std::optional<gid_t> groupOfOthers()
+{
+    if (::geteuid() == 0)
+        return kNobody;
+    std::array<gid_t, 64> groups{};
+    const int count = ::getgroups(static_cast<int>(groups.size()), groups.data());
+    const passwd *user = ::getpwuid(::geteuid());
+    for (int i = 0; user && i < count; ++i) {
+        if (groups.at(i) != user->pw_gid)
+            return groups.at(i);
+    }
+    return std::nullopt;
+}
 
 void addTrustRows()
 {
@@ -91,6 +116,38 @@ void BundleTrustTest::whatEverybodyCanWriteIsRefused()
     QFETCH(QString, name);
     QVERIFY(QFile::setPermissions(m_folder->path(name), kEverybody));
     loadAndCompareRefused(name + QStringLiteral(" can be written by everybody"));
+}
+
+void BundleTrustTest::whatAGroupCanWriteIsRefused_data()
+{
+    addTrustRows();
+}
+
+void BundleTrustTest::whatAGroupCanWriteIsRefused()
+{
+    QFETCH(QString, name);
+    const QByteArray file = QFile::encodeName(m_folder->path(name));
+    const std::optional<gid_t> group = groupOfOthers();
+    if (!group || ::chown(file.constData(), uid_t(-1), *group) != 0)
+        QSKIP("only the superuser, or a member, can give a file to a group");
+    QVERIFY(QFile::setPermissions(m_folder->path(name), kGroup));
+    loadAndCompareRefused(name + QStringLiteral(" can be written by the group "));
+}
+
+// As with a umask of 002, where every user has a group of the same name.
+void BundleTrustTest::whatTheUsersOwnGroupCanWriteIsTrusted()
+{
+    const passwd *user = ::getpwuid(::geteuid());
+    const struct group *group = user ? ::getgrgid(user->pw_gid) : nullptr;
+    if (!group || QByteArray(user->pw_name) != group->gr_name || *group->gr_mem)
+        QSKIP("this user has no group of its own");
+    for (const char *name : {"first/Test.bundle", "first/Test.bundle/module",
+                             "first/Test.bundle/module/test.so", "first/Test.bundle/info.json"}) {
+        const QByteArray file = QFile::encodeName(place(name));
+        QCOMPARE(::chown(file.constData(), uid_t(-1), user->pw_gid), 0);
+        QVERIFY(QFile::setPermissions(place(name), kGroup));
+    }
+    QVERIFY(loads({m_folder->root()}));
 }
 
 void BundleTrustTest::whatAnotherUserOwnsIsRefused_data()

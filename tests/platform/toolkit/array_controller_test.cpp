@@ -35,7 +35,7 @@ private Q_SLOTS:
     void aLabelIsReadOutInFullWhereItIsCut()
     {
         add({u"a"_s});
-        QCOMPARE(m_rows->index(0).data(Qt::ToolTipRole), QVariant(u"label a"_s));
+        QCOMPARE(m_rows->index(0).data(Qt::ToolTipRole), QVariant(u"<qt>label a</qt>"_s));
         QVERIFY(!m_rows->index(0).data(Qt::DecorationRole).isValid());
     }
 

@@ -16,8 +16,9 @@ class WindowsTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void theVisibleWindowOfTheViewIsKey();
-    void withoutAVisibleWindowTheActiveOneIsKey();
+    void theWindowOfTheViewIsKey();
+    void aViewInAHiddenWindowHasThatOne();
+    void aViewInNoWindowHasTheActiveOne();
     void withoutAnyWindowNoneIsKey();
     void anAcceptedCloseIsPostedOnceWithTheWindowAsItsSender();
     void aRefusedCloseIsNotPosted();
@@ -67,7 +68,7 @@ void WindowsTest::cleanup()
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 
-void WindowsTest::theVisibleWindowOfTheViewIsKey()
+void WindowsTest::theWindowOfTheViewIsKey()
 {
     QWidget window;
     QWidget view(&window);
@@ -78,10 +79,19 @@ void WindowsTest::theVisibleWindowOfTheViewIsKey()
     QCOMPARE(keyWindow(&window), &window);
 }
 
-void WindowsTest::withoutAVisibleWindowTheActiveOneIsKey()
+// Another window may be active while a dialog is still being built, or is none that shows.
+void WindowsTest::aViewInAHiddenWindowHasThatOne()
 {
     QWidget hidden;
     QWidget view(&hidden);
+    QWidget active;
+    QVERIFY(user::show(&active));
+    QCOMPARE(keyWindow(&view), &hidden);
+}
+
+void WindowsTest::aViewInNoWindowHasTheActiveOne()
+{
+    const QWidget view;
     QWidget active;
     QVERIFY(user::show(&active));
     QCOMPARE(keyWindow(&view), &active);

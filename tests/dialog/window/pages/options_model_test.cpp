@@ -180,7 +180,8 @@ private Q_SLOTS:
         QVERIFY(isMarked(u"Tray"_s));
         QVERIFY(isMarked(u"Sleep"_s));
         QVERIFY(!isMarked(u"Media"_s));
-        QCOMPARE(option(u"Tray"_s).data(Qt::ToolTipRole), QVariant(u"Default: Automatic"_s));
+        QCOMPARE(option(u"Tray"_s).data(Qt::ToolTipRole),
+                 QVariant(u"<qt>Default: Automatic</qt>"_s));
         m_model->proposeDefault(option(u"Tray"_s));
         m_model->proposeDefault(option(u"Sleep"_s));
         QVERIFY(!isMarked(u"Tray"_s));

@@ -149,7 +149,7 @@ private Q_SLOTS:
         const auto note = [this](const QString &keyword) {
             return choices()->itemData(choices()->findData(keyword), Qt::ToolTipRole).toString();
         };
-        QCOMPARE(note(u"Film"_s), u"Cannot be combined with “Staple: Top Left”."_s);
+        QCOMPARE(note(u"Film"_s), u"<qt>Cannot be combined with “Staple: Top Left”.</qt>"_s);
         QCOMPARE(note(u"Card"_s), QString());
         QVERIFY(choices()->itemData(choices()->findData(u"Film"_s), Qt::ForegroundRole).isValid());
         QVERIFY(pick(choices(), u"Transparency"_s));
