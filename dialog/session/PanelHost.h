@@ -64,8 +64,8 @@ public:
     /// The index of the visible panel; -1 while a page of the dialog is.
     int visiblePanel() const;
 
-    /// Lets the panel that has a control for an option act as if the user had picked a choice there.
-    /// False when no panel has one.
+    /// Lets the panel that has a control for an option act as if the user had picked a choice
+    /// there. False when no panel has one.
     bool pick(const QString &keyword, const QString &choice);
 
     /// Restores all panels, hidden or not, in their order.

@@ -12,7 +12,7 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "dialog/app/AlertPresenters.h"
+#include "dialog/window/WindowAlertPresenter.h"
 #include "dialog/window/pages/ChoiceEditor.h"
 #include "platform/toolkit/PlainText.h"
 #include "tests/e2e/DialogDriver.h"

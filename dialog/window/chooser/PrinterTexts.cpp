@@ -106,8 +106,7 @@ QString idleText(const Printer &printer)
     case PrinterState::Unknown:
         break;
     }
-    return printer.origin == PrinterOrigin::File ? PrinterTexts::tr("Prints to a file")
-                                                    : QString();
+    return printer.origin == PrinterOrigin::File ? PrinterTexts::tr("Prints to a file") : QString();
 }
 
 QString joinedWords(QStringList words)

@@ -11,10 +11,10 @@
 #include <QLineEdit>
 #include <QWheelEvent>
 
-#include "dialog/window/pages/OptionsModel.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "dialog/window/pages/OptionsModel.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"

@@ -7,12 +7,12 @@
 #include <QLineEdit>
 #include <QSpinBox>
 
-#include "dialog/window/pages/CustomPaperSize.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "dialog/window/pages/CustomPaperSize.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/MenuActions.h"
 #include "platform/toolkit/Mnemonics.h"

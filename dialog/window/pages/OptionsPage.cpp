@@ -8,12 +8,12 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "dialog/session/PpdSession.h"
+#include "dialog/session/Summary.h"
 #include "dialog/window/pages/ChoiceDelegate.h"
 #include "dialog/window/pages/ChoiceEditor.h"
 #include "dialog/window/pages/OptionsModel.h"
 #include "dialog/window/pages/OptionsView.h"
-#include "dialog/session/PpdSession.h"
-#include "dialog/session/Summary.h"
 #include "platform/toolkit/PlainText.h"
 
 namespace corvana {

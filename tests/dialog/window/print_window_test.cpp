@@ -12,8 +12,8 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "dialog/window/PrintWindow.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/window/PrintWindow.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
