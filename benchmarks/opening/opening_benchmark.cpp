@@ -28,7 +28,7 @@
 #include <QTimer>
 #include <QWidget>
 #ifdef QT_PRINTSUPPORT_LIB
-#include <QPrintWindow>
+#include <QPrintDialog>
 #include <QPrinter>
 #endif
 
@@ -166,7 +166,7 @@ int measure(const char *platform, bool check)
 
     measureOpening(kEmpty, [] { return std::make_unique<QWidget>(); });
 #ifdef QT_PRINTSUPPORT_LIB
-    measureOpening(kStock, [] { return std::make_unique<QPrintWindow>(); });
+    measureOpening(kStock, [] { return std::make_unique<QPrintDialog>(); });
 #endif
     measureOpening(kDialog, [&request] { return std::make_unique<PrintWindow>(request); });
     benchmarks::BestTimes times(benchmarks::BestTimes::Clock::Wall);

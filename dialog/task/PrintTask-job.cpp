@@ -58,9 +58,8 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob({m_request.title, m_settings.copies(),
-              jobOptions(*m_opened->session, m_opened->jobValues, m_settings.attributes()),
-              secretsOf(*m_opened->session)});
+    startJob(
+        makeTicket(*m_opened, m_settings.attributes(), m_request.title, m_settings.copies()));
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
