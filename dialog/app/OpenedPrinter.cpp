@@ -11,15 +11,17 @@ namespace corvana {
 
 Q_LOGGING_CATEGORY(lcPrinter, "corvana.dialog.printer", QtWarningMsg)
 
-std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QStringList &bundleRoots,
+std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
+                                           const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error)
 {
     auto opened = std::make_unique<OpenedPrinter>();
-    opened->printer = printer;
-    opened->session = PpdSession::open(printer.ppdPath, error);
+    opened->fetched = fetched;
+    opened->session = PpdSession::open(fetched.ppd->path, error);
     if (!opened->session)
         return nullptr;
 
+    const Printer &printer = fetched.printer;
     PDEPlugIn *plugIn = nullptr;
     const PanelDecision decision = decidePanels(opened->session->ppd(), printer, bundleRoots);
     qCInfo(lcPrinter).noquote() << printer.name

@@ -124,7 +124,7 @@ void PrintDialog::startJob(const QString &output)
     connect(m_job.get(), &FileQueue::finished, this, &PrintDialog::jobFinished);
     connect(m_job.get(), &FileQueue::pageReached, this,
             [this](int page) { m_progressText->setText(tr("Printing page %1…").arg(page)); });
-    m_job->print(m_request.documents, ticket, m_printer->printer.ppdPath, output);
+    m_job->print(m_request.documents, ticket, m_printer->fetched.ppd->path, output);
     showJobRunning(true);
 }
 
@@ -250,7 +250,7 @@ void PrintDialog::showJobRunning(bool running)
     if (!running && m_comesNext)
         QTimer::singleShot(0, this, [this] {
             if (m_comesNext)
-                printerReady(ReadyPrinter(*m_comesNext));
+                printerReady(FetchedPrinter(*m_comesNext));
         });
 }
 

@@ -82,14 +82,14 @@ void PrintDialog::choosePrinter(const Printer &printer)
     m_printers->setCurrentPrinter(idOf(printer));
 }
 
-void PrintDialog::printerReady(const ReadyPrinter &ready)
+void PrintDialog::printerReady(const FetchedPrinter &ready)
 {
     // A printer is not taken away while it prints or one of its panels is at work.
     if (m_printer && (isPrinting() || userIsInTheMidstOfIt())) {
         m_comesNext = ready;
         QTimer::singleShot(kPatience, this, [this] {
             if (m_comesNext && !isPrinting())
-                printerReady(ReadyPrinter(*m_comesNext));
+                printerReady(FetchedPrinter(*m_comesNext));
         });
         return;
     }
@@ -110,13 +110,13 @@ void PrintDialog::printerReady(const ReadyPrinter &ready)
                                   "were kept."));
 }
 
-void PrintDialog::openPrinter(const ReadyPrinter &ready)
+void PrintDialog::openPrinter(const FetchedPrinter &ready)
 {
     closePrinter();
     m_chosen = ready.printer;
     m_status->setPrinter(m_chosen);
     QString error;
-    m_printer = openReadyPrinter(ready, m_request.bundleRoots, m_presenter, &error);
+    m_printer = corvana::openPrinter(ready, m_request.bundleRoots, m_presenter, &error);
     m_panelsUp = false;
     m_printable = m_printer && m_printer->panelProblem.isEmpty();
     updatePrintButton();
@@ -139,16 +139,15 @@ void PrintDialog::openPrinter(const ReadyPrinter &ready)
         bringUpPanels();
 }
 
-void PrintDialog::printerChecked(const Printer &printer, qint64 ppdLastModified)
+void PrintDialog::printerChecked(const FetchedPrinter &checked)
 {
-    m_chosen = printer;
-    m_status->setPrinter(printer);
+    m_chosen = checked.printer;
+    m_status->setPrinter(m_chosen);
     if (!m_printer)
         return;
     if (m_comesNext)
         return; // it speaks of the one that takes its place
-    m_printer->printer = printer;
-    m_printer->ppdLastModified = ppdLastModified;
+    m_printer->fetched = checked;
 }
 
 void PrintDialog::printerFailed(const QString &problem, const QString &brief)
@@ -318,7 +317,7 @@ void PrintDialog::keepSettings()
                       m_general->copies()};
     kept.options.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
-    m_kept.insert(idOf(m_printer->printer), kept);
+    m_kept.insert(idOf(m_printer->fetched.printer), kept);
 }
 
 bool PrintDialog::printsToFile() const

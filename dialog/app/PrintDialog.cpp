@@ -74,8 +74,8 @@ void PrintDialog::fillPages()
 {
     const QSignalBlocker blocker(m_pages);
     m_general = new GeneralPage(*m_printer->session);
-    if (m_printer->capabilities)
-        m_general->setMostCopies(m_printer->capabilities->maximumCopies);
+    if (m_printer->fetched.capabilities)
+        m_general->setMostCopies(m_printer->fetched.capabilities->maximumCopies);
     m_general->setCopies(m_request.copies);
     m_openedCopies = m_general->copies();
     if (m_general->copies() < m_request.copies)
@@ -149,9 +149,10 @@ bool PrintDialog::applyRequestedOptions()
     // What happens on the way is part of the outcome, not an event of the user's.
     const QSignalBlocker blocker(m_printer->panels.get());
     m_attributes.clear();
-    const QString &name = m_printer->printer.name;
+    const QString &name = m_printer->fetched.printer.name;
     QStringList problems;
-    if (const auto kept = m_kept.constFind(idOf(m_printer->printer)); kept != m_kept.constEnd()) {
+    if (const auto kept = m_kept.constFind(idOf(m_printer->fetched.printer));
+        kept != m_kept.constEnd()) {
         const FittedOptions fitted = applyWhatFits(kept->options, *m_printer);
         problems = fitted.problems;
         m_attributes = fitted.attributes;
@@ -166,7 +167,7 @@ bool PrintDialog::applyRequestedOptions()
         showPageRanges();
         return true;
     }
-    if (m_printer->printer.origin == PrinterOrigin::Queue) {
+    if (m_printer->fetched.printer.origin == PrinterOrigin::Queue) {
         const FittedOptions fitted = applyWhatFits(readUserQueues().optionsOf(name), *m_printer);
         m_attributes = fitted.attributes;
         takeCopies(fitted.copies);

@@ -116,14 +116,14 @@ private:
     void setUpPrinters();
     void askCredentials(const CredentialsQuestion &question, const CredentialStore::Answer &answer);
     void choosePrinter(const Printer &printer);
-    void printerReady(const ReadyPrinter &ready);
-    void printerChecked(const Printer &printer, qint64 ppdLastModified);
+    void printerReady(const FetchedPrinter &ready);
+    void printerChecked(const FetchedPrinter &checked);
     void printerFailed(const QString &problem, const QString &brief);
     void offerQueue(const Printer &printer);
     void printersListed();
     void takeExpectedPrinter();
     void showListState();
-    void openPrinter(const ReadyPrinter &ready);
+    void openPrinter(const FetchedPrinter &ready);
     void showAsking();
     void showWaiting(const QString &text, bool canRetry);
     bool isUntouched() const;
@@ -153,11 +153,11 @@ private:
     Printer m_chosen;
     bool m_chosenByUser = false;
     std::unique_ptr<OpenedPrinter> m_printer;
-    std::optional<ReadyPrinter> m_comesNext; // while the one that is open is in use
-    QHash<PrinterId, KeptSettings> m_kept;   // of printers that were open
-    int m_openedCopies = 1;                  // as the printer was opened
-    bool m_copiesSet = false;                // by the user
-    std::optional<QString> m_pageRanges;     // as the user left them; they go along like the copies
+    std::optional<FetchedPrinter> m_comesNext; // while the one that is open is in use
+    QHash<PrinterId, KeptSettings> m_kept;     // of printers that were open
+    int m_openedCopies = 1;                    // as the printer was opened
+    bool m_copiesSet = false;                  // by the user
+    std::optional<QString> m_pageRanges; // as the user left them; they go along like the copies
     std::unique_ptr<FileQueue> m_job;
     std::unique_ptr<ServerJob> m_serverJob;
     QHash<PrinterId, int> m_earlierJobs; // of printers that may print them yet

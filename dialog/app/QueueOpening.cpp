@@ -6,6 +6,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -15,37 +17,24 @@ struct Texts
 
 } // namespace
 
-std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
-                                                const QStringList &bundleRoots,
-                                                AlertPresenter &presenter, QString *error)
-{
-    auto opened = openPrinter(ready.printer, bundleRoots, presenter, error);
-    if (opened) {
-        opened->capabilities = ready.capabilities;
-        opened->writtenPpd = ready.writtenPpd;
-        opened->ppdLastModified = ready.ppdLastModified;
-    }
-    return opened;
-}
-
 ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,
                                   const PrintRequest &request, const JobTicket &ticket)
 {
     ServerJobRequest job;
     job.server = server;
     job.server.mayAsk = true;
-    job.printer = printer.printer;
+    job.printer = printer.fetched.printer;
     job.documents = request.documents;
     job.ticket = ticket;
-    job.ppdPath = printer.printer.ppdPath;
-    job.ppdLastModified = printer.ppdLastModified;
+    job.ppdPath = printer.fetched.ppd->path;
+    job.ppdLastModified = printer.fetched.ppd->lastModified;
     job.follow = !request.noWait;
-    if (printer.capabilities) {
+    if (const auto &capabilities = printer.fetched.capabilities) {
         job.chosenOptions = ticket.options;
-        job.ticket.options = standardJobOptions(ticket.options, *printer.capabilities);
-        if (printer.printer.origin == PrinterOrigin::Device) {
-            job.formats = printer.capabilities->documentFormats;
-            job.takenAttributes = printer.capabilities->jobAttributes;
+        job.ticket.options = standardJobOptions(ticket.options, *capabilities);
+        if (job.printer.origin == PrinterOrigin::Device) {
+            job.formats = capabilities->documentFormats;
+            job.takenAttributes = capabilities->jobAttributes;
         }
     }
     return job;
@@ -64,8 +53,8 @@ FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &prin
     FittedOptions fitted;
     // All of their names in one line: whoever has set them for another program knows them.
     if (!unknown.isEmpty())
-        fitted.problems += Texts::tr("This printer has no option of the name %1.")
-                               .arg(unknown.join(QStringLiteral(", ")));
+        fitted.problems +=
+            Texts::tr("This printer has no option of the name %1.").arg(unknown.join(u", "_s));
     const auto apply = [&](const QList<JobOption> &some) {
         const OptionOutcome outcome =
             applyOptions(some, *printer.session, printer.jobValues, *printer.panels);

@@ -1,19 +1,11 @@
 #pragma once
 
-#include <memory>
-
 #include "dialog/app/OpenedPrinter.h"
 #include "dialog/app/PrintRequest.h"
 #include "dialog/job/ServerJob.h"
-#include "dialog/printers/PrinterFetching.h"
 #include "dialog/session/OptionRequest.h"
 
 namespace corvana {
-
-/// openPrinter(), for a printer that a server has told about.
-std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
-                                                const QStringList &bundleRoots,
-                                                AlertPresenter &presenter, QString *error);
 
 /// What is handed to a server: the ticket in the words of the printer.
 ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,

@@ -16,6 +16,7 @@
 #include "dialog/app/TerminationSignals.h"
 #include "dialog/job/FileQueue.h"
 #include "dialog/job/ServerJob.h"
+#include "dialog/printers/PrinterFetching.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
@@ -126,9 +127,9 @@ QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &serv
                             "--ppd FILE, or try the sample printers with --demo.");
 }
 
-// Finds the queue that is wanted and fetches its PPD. Errors: an empty `ppdPath`.
-ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
-                        const TerminationSignals &termination, QString *error)
+// Finds the queue that is wanted and fetches its PPD. Errors: no PPD.
+FetchedPrinter readyQueue(const PrintRequest &request, ServerContext *server,
+                          const TerminationSignals &termination, QString *error)
 {
     QString name =
         request.wantedPrinter.isEmpty() ? readUserQueues().defaultName : request.wantedPrinter;
@@ -153,7 +154,7 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
     const auto cached = cache.find(server->address.argument(), name);
     const auto details = askServer<QueueDetails>(
         *server, termination,
-        [printer, since = cached ? cached->lastModified : 0](ServerConnection &connection) {
+        [printer, since = cached ? cached->ppd->lastModified : 0](ServerConnection &connection) {
             return inspectQueue(connection, printer, since);
         });
     if (termination.caught()) {
@@ -170,10 +171,7 @@ ReadyPrinter readyQueue(const PrintRequest &request, ServerContext *server,
             request);
         return {};
     }
-    ReadyPrinter ready = readyPrinter(details, cache, server->address, error);
-    if (details.state == QueueDetails::Ppd::Unchanged && cached)
-        ready.printer.ppdPath = cached->printer.ppdPath;
-    return ready;
+    return fetchedPrinter(details, cached ? cached->ppd : nullptr, cache, server->address, error);
 }
 
 int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const JobTicket &ticket,
@@ -183,7 +181,7 @@ int printToFile(const PrintRequest &request, const OpenedPrinter &printer, const
     QString problem;
     QObject::connect(&queue, &FileQueue::finished, [&problem](const QString &p) { problem = p; });
     QObject::connect(&termination, &TerminationSignals::received, &queue, &FileQueue::cancel);
-    queue.print(request.documents, ticket, printer.printer.ppdPath, request.output);
+    queue.print(request.documents, ticket, printer.fetched.ppd->path, request.output);
     if (termination.caught())
         queue.cancel(); // while the printer was being opened
     if (!queue.wait()) {
@@ -238,7 +236,8 @@ int printToServer(const PrintRequest &request, const OpenedPrinter &printer,
         QTextStream(stdout) << Texts::tr(
                                    "It waits until the instructions have been followed. Release it "
                                    "with: %1")
-                                   .arg(releaseCommand(request, printer.printer, outcome.job))
+                                   .arg(releaseCommand(request, printer.fetched.printer,
+                                                       outcome.job))
                             << "\n";
     if (outcome.isDone())
         return 0;
@@ -265,16 +264,16 @@ int runUnattended(const PrintRequest &request)
 
     QString error;
     const int file = wantedAmongFiles(request);
-    const ReadyPrinter ready = file >= 0 ? ReadyPrinter{request.printers.at(file)}
-                                         : readyQueue(request, &server, termination, &error);
-    if (ready.printer.ppdPath.isEmpty()) {
+    const FetchedPrinter ready = file >= 0 ? printerWithItsFile(request.printers.at(file))
+                                           : readyQueue(request, &server, termination, &error);
+    if (!ready.ppd) {
         const int status = refused({error});
         return termination.caught() ? termination.exitStatus() : status;
     }
     const bool toFile = request.outputWasNamed || ready.printer.origin == PrinterOrigin::PpdFile;
     TerminalAlertPresenter presenter(
         request.onAlert.value_or(toFile ? AlertPolicy::Print : AlertPolicy::Hold), !toFile);
-    const auto printer = openReadyPrinter(ready, request.bundleRoots, presenter, &error);
+    const auto printer = openPrinter(ready, request.bundleRoots, presenter, &error);
     if (!printer)
         return refused({error});
     printer->panels->bringUp();
@@ -294,7 +293,8 @@ int runUnattended(const PrintRequest &request)
     QList<JobOption> attributes = replaced(fitted.attributes, options.attributes);
     const std::optional<int> named =
         request.copiesWereNamed ? std::optional(request.copies) : options.copies;
-    const int mostCopies = printer->capabilities ? printer->capabilities->maximumCopies : 0;
+    const int mostCopies =
+        printer->fetched.capabilities ? printer->fetched.capabilities->maximumCopies : 0;
     int copies = named.value_or(fitted.copies.value_or(request.copies));
     if (mostCopies > 0 && copies > mostCopies) {
         const QString problem = Texts::tr("The printer prints at most %1 copies at once, not %2.")

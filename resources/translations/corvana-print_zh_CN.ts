@@ -288,6 +288,13 @@
     </message>
 </context>
 <context>
+    <name>PpdCopy</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>无法将打印机选项写入 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>PrintRequest</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
@@ -298,10 +305,6 @@
 </context>
 <context>
     <name>PrinterFetching</name>
-    <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
-        <translation>无法将打印机选项写入 %1：%2</translation>
-    </message>
     <message>
         <source>PostScript File</source>
         <translation>PostScript 文件</translation>
