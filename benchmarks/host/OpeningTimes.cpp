@@ -78,7 +78,7 @@ void makeKnown(const QString &server)
     printer.uri = queueUri(kQueue);
     QFile ppd(kSamplePpd);
     if (!ppd.open(QIODevice::ReadOnly) ||
-        PpdCache().store(server, printer, ppd.readAll(), 1).isEmpty())
+        !PpdCache().store(server, printer, ppd.readAll(), 1))
         throw std::runtime_error("the sample printer cannot be kept");
     rememberPrinter(server, kQueue);
 }

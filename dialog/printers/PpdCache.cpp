@@ -1,6 +1,5 @@
 #include "dialog/printers/PpdCache.h"
 
-#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -10,7 +9,6 @@
 #include <QLoggingCategory>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QTemporaryFile>
 #include <QUrl>
 
 #include "dialog/printers/PrinterId.h"
@@ -19,22 +17,24 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPpdCache, "corvana.dialog.ppdcache", QtWarningMsg)
 
 namespace {
 
-constexpr QLatin1StringView kDescription{"description"};
-constexpr QLatin1StringView kLocation{"location"};
-constexpr QLatin1StringView kMakeAndModel{"makeAndModel"};
-constexpr QLatin1StringView kUri{"uri"};
-constexpr QLatin1StringView kDeviceUri{"deviceUri"};
-constexpr QLatin1StringView kIsClass{"isClass"};
-constexpr QLatin1StringView kLastModified{"lastModified"};
+constexpr QLatin1StringView kDescription = "description"_L1;
+constexpr QLatin1StringView kLocation = "location"_L1;
+constexpr QLatin1StringView kMakeAndModel = "makeAndModel"_L1;
+constexpr QLatin1StringView kUri = "uri"_L1;
+constexpr QLatin1StringView kDeviceUri = "deviceUri"_L1;
+constexpr QLatin1StringView kIsClass = "isClass"_L1;
+constexpr QLatin1StringView kLastModified = "lastModified"_L1;
 // Entries that have another name for it are of times when nobody looked at a PPD before it was
 // stored.
-constexpr QLatin1StringView kHash{"sha256"};
+constexpr QLatin1StringView kHash = "sha256"_L1;
 
-constexpr QLatin1StringView kEntrySuffix{".json"};
+constexpr QLatin1StringView kEntrySuffix = ".json"_L1;
 // Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
 constexpr qsizetype kHashInName = 16;
 
@@ -60,8 +60,7 @@ bool isHash(const QByteArray &text)
 
 QString ppdSuffix(const QByteArray &hash)
 {
-    return QStringLiteral("-%1.ppd").arg(
-        QLatin1StringView(hash.first(qMin(kHashInName, hash.size()))));
+    return u"-%1.ppd"_s.arg(QLatin1StringView(hash.first(qMin(kHashInName, hash.size()))));
 }
 
 bool save(const QString &path, const QByteArray &content)
@@ -86,10 +85,10 @@ QByteArray contentOf(const QString &path, qint64 most)
 // as long as the server says that nothing has changed.
 bool isPpd(const QByteArray &content)
 {
-    QTemporaryFile file;
     QString error;
-    if (content.size() <= kLargestPpd && file.open() && file.write(content) == content.size() &&
-        file.flush() && openPpdFile(file.fileName(), &error))
+    const SharedPpd copy =
+        content.size() <= kLargestPpd ? temporaryPpd(content, 0, &error) : nullptr;
+    if (copy && openPpdFile(copy->path, &error))
         return true;
     qCWarning(lcPpdCache).noquote() << "What was fetched is no PPD and is not kept:" << error;
     return false;
@@ -98,65 +97,59 @@ bool isPpd(const QByteArray &content)
 // Any text as one name of a file, never "." or "..".
 QString fileName(const QString &text)
 {
-    return QString::fromLatin1(QUrl::toPercentEncoding(text)).replace(u'.', QLatin1String("%2E"));
+    return QString::fromLatin1(QUrl::toPercentEncoding(text)).replace(u'.', "%2E"_L1);
 }
 
 } // namespace
 
-QByteArray hashOfPpd(const QByteArray &ppd)
-{
-    return QCryptographicHash::hash(ppd, QCryptographicHash::Sha256).toHex();
-}
-
 PpdCache::PpdCache()
     : m_folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-               QStringLiteral("/corvana-print/queues"))
+               u"/corvana-print/queues"_s)
 {
 }
 
 QString PpdCache::pathOf(const QString &server, const QString &queue, const QString &suffix) const
 {
-    return QStringLiteral("%1/%2/%3%4")
-        .arg(m_folder, fileName(server), fileName(foldedQueueName(queueOfInstance(queue))), suffix);
+    return u"%1/%2/%3%4"_s.arg(m_folder, fileName(server),
+                               fileName(foldedQueueName(queueOfInstance(queue))), suffix);
 }
 
-std::optional<PpdCache::Entry> PpdCache::find(const QString &server, const QString &queue) const
+std::optional<FetchedPrinter> PpdCache::find(const QString &server, const QString &queue) const
 {
     const QString description = pathOf(server, queue, kEntrySuffix);
     const QJsonObject said =
         QJsonDocument::fromJson(contentOf(description, kLargestDescription)).object();
-    Entry entry;
-    entry.hash = said.value(kHash).toString().toLatin1();
-    const QString ppd = pathOf(server, queue, ppdSuffix(entry.hash));
-    if (!said.contains(kUri) || !isHash(entry.hash))
+    const QByteArray hash = said.value(kHash).toString().toLatin1();
+    if (!said.contains(kUri) || !isHash(hash))
         return std::nullopt;
-    if (hashOfPpd(contentOf(ppd, kLargestPpd)) != entry.hash) {
+    const QString path = pathOf(server, queue, ppdSuffix(hash));
+    if (hashOfPpd(contentOf(path, kLargestPpd)) != hash) {
         QFile::remove(description);
         return std::nullopt;
     }
-    entry.printer.name = queue;
-    entry.printer.origin = PrinterOrigin::Queue;
-    entry.printer.ppdPath = ppd;
-    entry.printer.description = said.value(kDescription).toString();
-    entry.printer.location = said.value(kLocation).toString();
-    entry.printer.makeAndModel = said.value(kMakeAndModel).toString();
-    entry.printer.uri = said.value(kUri).toString();
-    entry.printer.deviceUri = said.value(kDeviceUri).toString();
-    entry.printer.isClass = said.value(kIsClass).toBool();
-    entry.lastModified = said.value(kLastModified).toInteger();
-    noteUse(ppd);
-    return entry;
+    Printer printer;
+    printer.name = queue;
+    printer.origin = PrinterOrigin::Queue;
+    printer.description = said.value(kDescription).toString();
+    printer.location = said.value(kLocation).toString();
+    printer.makeAndModel = said.value(kMakeAndModel).toString();
+    printer.uri = said.value(kUri).toString();
+    printer.deviceUri = said.value(kDeviceUri).toString();
+    printer.isClass = said.value(kIsClass).toBool();
+    noteUse(path);
+    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(
+                                       PpdCopy{path, said.value(kLastModified).toInteger(), hash})};
 }
 
-QString PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                        qint64 lastModified) const
+SharedPpd PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
+                          qint64 lastModified) const
 {
     if (!isPpd(ppd))
-        return {};
+        return nullptr;
     const QByteArray hash = hashOfPpd(ppd);
     const QString path = pathOf(server, printer.name, ppdSuffix(hash));
     if (!QDir().mkpath(QFileInfo(path).path()))
-        return {};
+        return nullptr;
     // Where a printer stands, and how it is reached, is nobody else's business.
     QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QJsonObject said{
@@ -168,11 +161,11 @@ QString PpdCache::store(const QString &server, const Printer &printer, const QBy
     if (isThere)
         noteUse(path);
     if (!isThere && !save(path, ppd))
-        return {};
+        return nullptr;
     if (!save(pathOf(server, printer.name, kEntrySuffix), QJsonDocument(said).toJson()))
-        return {};
+        return nullptr;
     removeFormerPpds(server, printer.name, path);
-    return path;
+    return std::make_shared<const PpdCopy>(PpdCopy{path, lastModified, hash});
 }
 
 void PpdCache::remove(const QString &server, const QString &queue) const
@@ -185,9 +178,7 @@ void PpdCache::remove(const QString &server, const QString &queue) const
 void PpdCache::removeFormerPpds(const QString &server, const QString &queue,
                                 const QString &current) const
 {
-    const QString pattern =
-        pathOf(server, queue,
-               QLatin1StringView("-") + QString(kHashInName, u'?') + QLatin1StringView(".ppd"));
+    const QString pattern = pathOf(server, queue, "-"_L1 + QString(kHashInName, u'?') + ".ppd"_L1);
     const QDateTime oldest = QDateTime::currentDateTime().addDays(-kDaysAfterUse);
     const QFileInfoList ppds =
         QFileInfo(pattern).dir().entryInfoList({QFileInfo(pattern).fileName()}, QDir::Files);

@@ -5,12 +5,9 @@
 #include <QByteArray>
 #include <QString>
 
-#include "dialog/printers/Printer.h"
+#include "dialog/printers/FetchedPrinter.h"
 
 namespace corvana {
-
-/// By which a PPD is known again.
-QByteArray hashOfPpd(const QByteArray &ppd);
 
 /// The PPDs of the queues that were used, so that a printer is there at once, even while its server
 /// is away. One folder of the user's; entries appear and disappear as a whole.
@@ -24,20 +21,14 @@ public:
     PpdCache();
     explicit PpdCache(QString folder) : m_folder(std::move(folder)) {}
 
-    struct Entry
-    {
-        Printer printer;         ///< with `ppdPath`; its state is not known
-        qint64 lastModified = 0; ///< of the PPD at its server; seconds since 1970; 0: unknown
-        QByteArray hash;         ///< hashOfPpd() of what was stored
-    };
+    /// A queue as it was kept; its state is not known.
     /// Errors: nothing for a queue that was not used yet, or whose entry is damaged. An entry whose
     /// PPD is not the one that was stored is dropped, so that the server is asked for a whole one.
-    std::optional<Entry> find(const QString &server, const QString &queue) const;
+    std::optional<FetchedPrinter> find(const QString &server, const QString &queue) const;
 
-    /// Keeps a PPD that opens. Errors: an empty path; the queue then works from wherever its PPD
-    /// is.
-    QString store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                  qint64 lastModified) const;
+    /// Keeps a PPD that opens. Errors: null; the queue then works from wherever its PPD is.
+    SharedPpd store(const QString &server, const Printer &printer, const QByteArray &ppd,
+                    qint64 lastModified) const;
     void remove(const QString &server, const QString &queue) const;
 
 private:

@@ -20,7 +20,7 @@ struct Printer
 {
     QString name;        ///< what -d takes; "NAME/INSTANCE" for an instance of the user's
     QString description; ///< for people: what the administrator calls it, or make and model
-    QString ppdPath;     ///< empty for a queue whose PPD is not here, and one that has none
+    QString ppdPath;     ///< of a PPD file that is offered as a printer; empty for any other
     int modelNumber = 0; ///< as the PPD states it; newer models have higher ones
 
     PrinterOrigin origin = PrinterOrigin::File;

@@ -1,13 +1,14 @@
 #include "dialog/printers/PrinterFetching.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include "dialog/driverless/CapabilityPpd.h"
 #include "dialog/printers/DevicePrinter.h"
 #include "dialog/printers/UserQueues.h"
 
 namespace corvana {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,52 +17,43 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(PrinterFetching)
 };
 
-// Null when it cannot be written; `error` says why.
-std::shared_ptr<QTemporaryFile> temporaryPpd(const QByteArray &content, QString *error)
+FetchedPrinter withWrittenPpd(const Printer &printer, const PrinterCapabilities &capabilities,
+                              QString *error)
 {
-    auto file = std::make_shared<QTemporaryFile>(
-        QDir::temp().filePath(QStringLiteral("corvana-print-XXXXXX.ppd")));
-    if (file->open() && file->write(content) == content.size() && file->flush())
-        return file;
-    *error = Texts::tr("The printer's options cannot be written to %1: %2")
-                 .arg(QDir::tempPath(), file->errorString());
-    return nullptr;
+    return {printer, temporaryPpd(ppdOfCapabilities(capabilities), 0, error),
+            std::make_shared<const PrinterCapabilities>(capabilities)};
 }
 
-ReadyPrinter withWrittenPpd(Printer printer, const PrinterCapabilities &capabilities,
-                            QString *error)
+SharedPpd keptPpd(const QueueDetails &details, const PpdCache &cache, const ServerAddress &server,
+                  QString *error)
 {
-    ReadyPrinter ready;
-    const QByteArray ppd = ppdOfCapabilities(capabilities);
-    ready.ppdHash = hashOfPpd(ppd);
-    ready.writtenPpd = temporaryPpd(ppd, error);
-    if (ready.writtenPpd)
-        printer.ppdPath = ready.writtenPpd->fileName();
-    ready.printer = printer;
-    ready.capabilities = std::make_shared<const PrinterCapabilities>(capabilities);
-    return ready;
+    SharedPpd kept =
+        cache.store(server.argument(), details.printer, details.ppd, details.lastModified);
+    // Without a cache it works as well, only not while the server is away.
+    return kept ? kept : temporaryPpd(details.ppd, details.lastModified, error);
 }
 
 } // namespace
 
-ReadyPrinter readyPrinter(const QueueDetails &details, const PpdCache &cache,
-                          const ServerAddress &server, QString *error)
+FetchedPrinter fetchedPrinter(const QueueDetails &details, const SharedPpd &known,
+                              const PpdCache &cache, const ServerAddress &server, QString *error)
 {
-    ReadyPrinter ready{details.printer, details.lastModified};
-    if (details.state == QueueDetails::Ppd::None)
+    switch (details.state) {
+    case QueueDetails::Ppd::None:
         return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()), error);
-    if (details.state != QueueDetails::Ppd::New)
-        return ready;
-    ready.ppdHash = hashOfPpd(details.ppd);
-    ready.printer.ppdPath =
-        cache.store(server.argument(), details.printer, details.ppd, details.lastModified);
-    if (ready.printer.ppdPath.isEmpty()) {
-        // Without a cache it works as well, only not while the server is away.
-        ready.writtenPpd = temporaryPpd(details.ppd, error);
-        if (ready.writtenPpd)
-            ready.printer.ppdPath = ready.writtenPpd->fileName();
+    case QueueDetails::Ppd::New:
+        return {details.printer, keptPpd(details, cache, server, error)};
+    case QueueDetails::Ppd::Unchanged:
+        return {details.printer, known};
+    case QueueDetails::Ppd::Unknown:
+        break;
     }
-    return ready;
+    return {details.printer};
+}
+
+FetchedPrinter printerWithItsFile(const Printer &printer)
+{
+    return {printer, ppdOfFile(printer.ppdPath)};
 }
 
 Printer queueNamed(const QString &name, ServerAddress *server)
@@ -78,10 +70,10 @@ Printer queueNamed(const QString &name, ServerAddress *server)
     return printer;
 }
 
-ReadyPrinter filePrinter(QString *error)
+FetchedPrinter filePrinter(QString *error)
 {
     Printer printer;
-    printer.name = QStringLiteral("file");
+    printer.name = u"file"_s;
     printer.description = Texts::tr("PostScript File");
     return withWrittenPpd(printer, PrinterCapabilities(), error);
 }

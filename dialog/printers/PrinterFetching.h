@@ -1,36 +1,26 @@
 #pragma once
 
-#include <memory>
-
-#include <QTemporaryFile>
-
-#include "dialog/driverless/PrinterCapabilities.h"
+#include "dialog/printers/FetchedPrinter.h"
 #include "dialog/printers/PpdCache.h"
 #include "dialog/printers/QueueRequests.h"
 
 namespace corvana {
 
-/// A printer whose PPD is here, whatever it took to get it.
-struct ReadyPrinter
-{
-    Printer printer; ///< with its `ppdPath`
-    qint64 ppdLastModified = 0;
-    QByteArray ppdHash{}; ///< see hashOfPpd(); empty where nobody has to compare it
-    std::shared_ptr<const PrinterCapabilities> capabilities{};
-    std::shared_ptr<QTemporaryFile> writtenPpd{};
-};
-
 /// Puts what a server said of a queue where a session can open it: a new PPD into the cache, the
-/// PPD that a queue without one needs into a file of its own.
-/// Errors: an empty `ppdPath`; `error` says what could not be written.
-ReadyPrinter readyPrinter(const QueueDetails &details, const PpdCache &cache,
-                          const ServerAddress &server, QString *error);
+/// PPD that a queue without one needs into a file of its own. `known` is the PPD that is here and
+/// may be unchanged; null where there is none.
+/// Errors: no PPD; `error` says what could not be written.
+FetchedPrinter fetchedPrinter(const QueueDetails &details, const SharedPpd &known,
+                              const PpdCache &cache, const ServerAddress &server, QString *error);
+
+/// A printer that is a PPD file.
+FetchedPrinter printerWithItsFile(const Printer &printer);
 
 /// A queue of which only the name is known, or the printer that a URI names with its server.
 Printer queueNamed(const QString &name, ServerAddress *server);
 
 /// The printer that stands for no printer: prints any document into a PostScript file.
-/// Errors: an empty `ppdPath`.
-ReadyPrinter filePrinter(QString *error);
+/// Errors: no PPD; `error` says what could not be written.
+FetchedPrinter filePrinter(QString *error);
 
 } // namespace corvana

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QTemporaryFile>
 #include <QUrl>
 
 #include "dialog/printers/DevicePrinter.h"
@@ -13,6 +12,8 @@
 #include "dialog/session/PpdFile.h"
 
 namespace corvana {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,7 +32,7 @@ QString deviceOf(const Printer &printer)
     const QUrl url(printer.origin == PrinterOrigin::Device ? printer.uri : printer.deviceUri);
     const bool isNamed = !url.host().isEmpty();
     // Files and pipes are no devices, however equal they look.
-    if (!isNamed || url.scheme() == QLatin1StringView("file"))
+    if (!isNamed || url.scheme() == "file"_L1)
         return {};
     return (url.host() + u':' + QString::number(url.port(0)) + url.path()).toLower();
 }
@@ -49,27 +50,24 @@ QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &serv
 
 bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
 {
-    QTemporaryFile file;
     QString error;
-    if (!file.open() || file.write(details.ppd) != details.ppd.size() || !file.flush())
-        return false;
-    const PpdFile ppd = openPpdFile(file.fileName(), &error);
+    const SharedPpd copy = temporaryPpd(details.ppd, 0, &error);
+    const PpdFile ppd = copy ? openPpdFile(copy->path, &error) : nullptr;
     return ppd && decidePanels(ppd.get(), details.printer, bundleRoots).panels;
 }
 
 } // namespace
 
 PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObject *parent)
-    : QObject(parent), m_files(wish.files), m_wanted(wish.name), m_userQueues(readUserQueues()),
+    : QObject(parent), m_wish(wish), m_userQueues(readUserQueues()),
       m_queues(std::move(server), m_userQueues), m_deviceServer(m_queues.context())
 {
-    m_bundleRoots = wish.bundleRoots;
     connect(&m_queues, &QueueList::changed, this, [this] {
         follow();
         lookForBetterQueue();
         Q_EMIT listChanged();
     });
-    if (!m_files.isEmpty())
+    if (!m_wish.files.isEmpty())
         return;
     // Where it cannot be written, there is none; the printers of the list are not touched by that.
     QString error;
@@ -83,15 +81,15 @@ void PrinterSource::start()
 
 QList<Printer> PrinterSource::printers() const
 {
-    QList<Printer> all = m_files + m_queues.printers();
+    QList<Printer> all = m_wish.files + m_queues.printers();
     // What was named is there to be seen while nobody knows whether it is one of the list.
-    const bool unlisted =
-        m_open.origin == PrinterOrigin::Device ||
-        (m_open.origin == PrinterOrigin::Queue && m_queues.state() != QueueList::State::Known &&
-         !find(m_queues.printers(), m_open.name));
+    const bool unlisted = m_open.printer.origin == PrinterOrigin::Device ||
+                          (m_open.printer.origin == PrinterOrigin::Queue &&
+                           m_queues.state() != QueueList::State::Known &&
+                           !find(m_queues.printers(), m_open.printer.name));
     if (unlisted)
-        all.prepend(m_open);
-    if (!m_filePrinter.printer.ppdPath.isEmpty())
+        all.prepend(m_open.printer);
+    if (m_filePrinter.ppd)
         all += m_filePrinter.printer;
     return all;
 }
@@ -108,11 +106,11 @@ std::optional<Printer> PrinterSource::expected() const
 Printer PrinterSource::first()
 {
     m_provisional = false;
-    if (const Printer *file = m_wanted.isEmpty() ? nullptr : find(m_files, m_wanted))
+    if (const Printer *file = m_wish.name.isEmpty() ? nullptr : find(m_wish.files, m_wish.name))
         return *file;
-    if (m_wanted.isEmpty() && !m_files.isEmpty())
-        return m_files.constFirst();
-    QString name = m_wanted.isEmpty() ? m_userQueues.defaultName : m_wanted;
+    if (m_wish.name.isEmpty() && !m_wish.files.isEmpty())
+        return m_wish.files.constFirst();
+    QString name = m_wish.name.isEmpty() ? m_userQueues.defaultName : m_wish.name;
     if (name.isEmpty())
         name = lastPrinter(m_queues.context().address.argument());
     if (name.isEmpty()) {
@@ -133,12 +131,12 @@ const ServerContext &PrinterSource::serverOf(const Printer &printer) const
 
 void PrinterSource::openWanted()
 {
-    const Printer *file = m_wanted.isEmpty() ? nullptr : find(m_files, m_wanted);
-    if (m_wanted.isEmpty() && !m_files.isEmpty())
-        file = &m_files.constFirst();
+    const Printer *file = m_wish.name.isEmpty() ? nullptr : find(m_wish.files, m_wish.name);
+    if (m_wish.name.isEmpty() && !m_wish.files.isEmpty())
+        file = &m_wish.files.constFirst();
     if (file)
         return open(Printer(*file));
-    const QString name = m_wanted.isEmpty() ? m_userQueues.defaultName : m_wanted;
+    const QString name = m_wish.name.isEmpty() ? m_userQueues.defaultName : m_wish.name;
     if (!name.isEmpty())
         return openFresh(name);
     ServerContext server = m_queues.context();
@@ -159,11 +157,8 @@ void PrinterSource::openWanted()
 void PrinterSource::openFresh(const QString &name)
 {
     reset(queueNamed(name, &m_deviceServer.address));
-    if (const auto cached = m_cache.find(m_queues.context().address.argument(), name)) {
-        m_open.ppdPath = cached->printer.ppdPath;
-        m_openModified = cached->lastModified;
-        m_openHash = cached->hash;
-    }
+    if (const auto cached = m_cache.find(m_queues.context().address.argument(), name))
+        m_known = cached->ppd;
     inspect(true);
 }
 
@@ -171,10 +166,8 @@ void PrinterSource::openFresh(const QString &name)
 void PrinterSource::reset(const Printer &printer)
 {
     m_inspection = {};
-    m_open = printer;
-    m_openModified = 0;
-    m_openHash.clear();
-    m_openIsReady = false;
+    m_open = {printer};
+    m_known = nullptr;
     m_inspecting = false;
     m_inspectionFailed = false;
     m_configured = 0;
@@ -186,21 +179,17 @@ void PrinterSource::open(const Printer &printer)
 {
     reset(printer);
     if (printer.origin == PrinterOrigin::File) {
-        m_openIsReady = true;
-        const bool isFilePrinter = printer.ppdPath == m_filePrinter.printer.ppdPath;
-        Q_EMIT ready(isFilePrinter ? m_filePrinter : ReadyPrinter{printer});
+        const bool isFilePrinter =
+            m_filePrinter.ppd && idOf(printer) == idOf(m_filePrinter.printer);
+        m_open = isFilePrinter ? m_filePrinter : printerWithItsFile(printer);
+        Q_EMIT ready(FetchedPrinter(m_open));
         return;
     }
     if (printer.origin == PrinterOrigin::Queue) {
         const QString server = m_queues.context().address.argument();
         if (const auto cached = m_cache.find(server, printer.name)) {
-            ReadyPrinter known{printer, cached->lastModified, cached->hash};
-            known.printer.ppdPath = cached->printer.ppdPath;
-            m_open.ppdPath = known.printer.ppdPath;
-            m_openModified = cached->lastModified;
-            m_openHash = cached->hash;
-            m_openIsReady = true;
-            Q_EMIT ready(known);
+            m_open.ppd = m_known = cached->ppd;
+            Q_EMIT ready(FetchedPrinter(m_open));
         }
     }
     inspect(false);
@@ -208,17 +197,18 @@ void PrinterSource::open(const Printer &printer)
 
 void PrinterSource::retry()
 {
-    if (m_open.origin != PrinterOrigin::File)
+    if (m_open.printer.origin != PrinterOrigin::File)
         inspect(true);
 }
 
 void PrinterSource::inspect(bool mayAsk)
 {
-    ServerContext server = serverOf(m_open);
+    ServerContext server = serverOf(m_open.printer);
     server.mayAsk = mayAsk;
     m_inspecting = true;
+    const qint64 since = m_known ? m_known->lastModified : 0;
     m_inspection =
-        ServerWork(server, [this, printer = m_open, since = m_openModified](ServerWorker &worker) {
+        ServerWork(server, [this, printer = m_open.printer, since](ServerWorker &worker) {
             const QueueDetails details = inspectQueue(worker.connection(), printer, since);
             worker.post([this, details] { inspected(details); });
         });
@@ -229,10 +219,10 @@ void PrinterSource::inspected(const QueueDetails &details)
     m_inspecting = false;
     m_inspectionFailed = details.state == QueueDetails::Ppd::Unknown;
     if (details.state == QueueDetails::Ppd::Unknown) {
-        const ServerAddress &server = serverOf(m_open).address;
+        const ServerAddress &server = serverOf(m_open.printer).address;
         if (details.problem.kind == ServerProblem::Kind::NotFound) {
             const QString problem =
-                tr("There is no printer “%1” at “%2”.").arg(m_open.name, server.text());
+                tr("There is no printer “%1” at “%2”.").arg(m_open.printer.name, server.text());
             Q_EMIT failed(problem, problem);
         } else {
             Q_EMIT failed(details.problem.text(server), details.problem.brief(server));
@@ -240,28 +230,23 @@ void PrinterSource::inspected(const QueueDetails &details)
         return;
     }
     QString error;
-    ReadyPrinter now = readyPrinter(details, m_cache, serverOf(m_open).address, &error);
-    if (details.state == QueueDetails::Ppd::Unchanged) {
-        now.printer.ppdPath = m_open.ppdPath;
-        now.ppdHash = m_openHash;
-    }
-    if (now.printer.ppdPath.isEmpty()) {
+    FetchedPrinter now =
+        fetchedPrinter(details, m_known, m_cache, serverOf(m_open.printer).address, &error);
+    if (!now.ppd) {
         Q_EMIT failed(error, error);
         return;
     }
-    const bool same = m_openIsReady && now.ppdHash == m_openHash;
+    const bool same = m_open.ppd && now.ppd->hash == m_open.ppd->hash;
     if (same) // written anew or not, it is open where it was
-        now.printer.ppdPath = m_open.ppdPath;
-    m_open = now.printer;
-    m_openModified = details.lastModified;
-    m_openHash = now.ppdHash;
+        now.ppd = withDate(m_open.ppd, details.lastModified);
+    m_open = now;
+    m_known = now.ppd;
     m_configured = details.printer.configured;
-    m_openIsReady = true;
     m_lacksPpd = details.state == QueueDetails::Ppd::None;
     if (m_lacksPpd) // any more: it would be opened with the one that it had
-        m_cache.remove(m_queues.context().address.argument(), m_open.name);
+        m_cache.remove(m_queues.context().address.argument(), m_open.printer.name);
     if (same)
-        Q_EMIT checked(now.printer, m_openModified);
+        Q_EMIT checked(now);
     else
         Q_EMIT ready(now);
     lookForBetterQueue();
@@ -270,13 +255,13 @@ void PrinterSource::inspected(const QueueDetails &details)
 // Under whatever instance.
 bool PrinterSource::isOpenQueue(const Printer &printer) const
 {
-    return m_open.origin == PrinterOrigin::Queue &&
-           isSameQueue(queueOfInstance(printer.name), queueOfInstance(m_open.name));
+    return m_open.printer.origin == PrinterOrigin::Queue &&
+           isSameQueue(queueOfInstance(printer.name), queueOfInstance(m_open.printer.name));
 }
 
 void PrinterSource::lookForBetterQueue()
 {
-    const QString device = deviceOf(m_open);
+    const QString device = deviceOf(m_open.printer);
     if (!m_lacksPpd || device.isEmpty() || m_queues.state() != QueueList::State::Known)
         return;
     QList<Printer> twins;
@@ -298,7 +283,7 @@ void PrinterSource::lookForBetterQueue()
 
 void PrinterSource::compareWith(const QueueDetails &details)
 {
-    if (!hasPanels(details, m_bundleRoots))
+    if (!hasPanels(details, m_wish.bundleRoots))
         return;
     m_comparison = {}; // the first one will do
     Q_EMIT betterQueueFound(details.printer);
@@ -307,25 +292,25 @@ void PrinterSource::compareWith(const QueueDetails &details)
 // The list is looked at every few seconds; what it says of the open queue is news as well.
 void PrinterSource::follow()
 {
-    if (m_open.origin != PrinterOrigin::Queue || m_queues.state() == QueueList::State::Failed)
+    if (m_open.printer.origin != PrinterOrigin::Queue ||
+        m_queues.state() == QueueList::State::Failed)
         return;
-    const Printer *now = find(m_queues.printers(), m_open.name);
+    const Printer *now = find(m_queues.printers(), m_open.printer.name);
     if (!now) {
-        if (m_openIsReady && m_queues.state() == QueueList::State::Known) {
-            const QString problem = tr("There is no printer “%1” at “%2” any more.")
-                                        .arg(m_open.name, m_queues.context().address.text());
+        if (m_open.ppd && m_queues.state() == QueueList::State::Known) {
+            const QString problem =
+                tr("There is no printer “%1” at “%2” any more.")
+                    .arg(m_open.printer.name, m_queues.context().address.text());
             Q_EMIT failed(problem, problem);
         }
         return;
     }
-    if (m_openIsReady) {
-        Printer printer = *now;
-        printer.ppdPath = m_open.ppdPath;
-        m_open = printer;
-        Q_EMIT checked(printer, m_openModified);
+    if (m_open.ppd) {
+        m_open.printer = *now;
+        Q_EMIT checked(FetchedPrinter(m_open));
     }
     // The server is back, or an administrator has been at it: the options may be others.
-    const bool changed = m_openIsReady && m_configured != 0 && m_configured != now->configured;
+    const bool changed = m_open.ppd && m_configured != 0 && m_configured != now->configured;
     m_configured = now->configured;
     if (!m_inspecting && (m_inspectionFailed || changed))
         inspect(false);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QObject>
 
 #include "dialog/printers/PrinterFetching.h"
@@ -71,10 +73,10 @@ Q_SIGNALS:
     /// printers() or the state of the list.
     void listChanged();
     /// The printer can be opened, or has to be opened anew because its options are others now.
-    void ready(const corvana::ReadyPrinter &printer);
-    /// What its server says of the printer that is open, whose options are as they were, although
-    /// their PPD may have a new date (seconds since 1970).
-    void checked(const corvana::Printer &printer, qint64 ppdLastModified);
+    void ready(const corvana::FetchedPrinter &printer);
+    /// What its server says of the printer that is open, whose options are as they were: its PPD
+    /// lies where it lay, although it may have a new date.
+    void checked(const corvana::FetchedPrinter &printer);
     /// The printer that is to be opened, or is open, could not be asked for; `brief` says the same
     /// in few words.
     void failed(const QString &problem, const QString &brief);
@@ -92,20 +94,16 @@ private:
     void inspected(const QueueDetails &details);
     void follow();
 
-    QList<Printer> m_files;
-    ReadyPrinter m_filePrinter;
-    QString m_wanted;
+    PrinterWish m_wish;
+    FetchedPrinter m_filePrinter;
     UserQueues m_userQueues;
     PpdCache m_cache;
     QueueList m_queues;
     ServerContext m_deviceServer; // of an IPP printer without a queue
     ServerWork m_inspection;
     ServerWork m_comparison;
-    QStringList m_bundleRoots;
-    Printer m_open;
-    qint64 m_openModified = 0;
-    QByteArray m_openHash; // of its PPD
-    bool m_openIsReady = false;
+    FetchedPrinter m_open; // with a PPD once it is ready
+    SharedPpd m_known;     // its PPD as far as it is here, in use or not
     bool m_inspecting = false;
     bool m_inspectionFailed = false; // the server has to be asked again when it is back
     bool m_provisional = false;

@@ -203,13 +203,13 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
 {
     QueueDetails details;
     details.printer = printer;
-    const IppMessage response = askPrinter(connection, printer, {"all", "media-col-database"});
+    const std::shared_ptr<ipp_t> response =
+        askPrinter(connection, printer, {"all", "media-col-database"});
     if (!response) {
         details.problem = connection.problem();
         return details;
     }
-    details.attributes = {ippNew(), ippDelete};
-    ippCopyAttributes(details.attributes.get(), response.get(), 0, nullptr, nullptr);
+    details.attributes = response;
     ipp_attribute_t *next = ippFirstAttribute(response.get());
     while (next && ippGetGroupTag(next) != IPP_TAG_PRINTER)
         next = ippNextAttribute(response.get());
@@ -224,7 +224,6 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
     now.uri = printer.uri;
     now.origin = printer.origin;
     now.isDefault = printer.isDefault;
-    now.ppdPath = printer.ppdPath;
     now.modelNumber = printer.modelNumber;
     if (now.description.isEmpty())
         now.description = printer.description.isEmpty() ? printer.name : printer.description;

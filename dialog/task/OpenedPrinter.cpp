@@ -11,18 +11,20 @@ namespace corvana {
 
 Q_LOGGING_CATEGORY(lcPrinter, "corvana.dialog.printer", QtWarningMsg)
 
-std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QStringList &bundleRoots,
+std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
+                                           const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error,
                                            const std::function<void(PpdSession &)> &restore)
 {
     auto opened = std::make_unique<OpenedPrinter>();
-    opened->printer = printer;
-    opened->session = PpdSession::open(printer.ppdPath, error);
+    opened->fetched = fetched;
+    opened->session = PpdSession::open(fetched.ppd->path, error);
     if (!opened->session)
         return nullptr;
     if (restore)
         restore(*opened->session);
 
+    const Printer &printer = fetched.printer;
     PDEPlugIn *plugIn = nullptr;
     const PanelDecision decision = decidePanels(opened->session->ppd(), printer, bundleRoots);
     qCInfo(lcPrinter).noquote() << printer.name
@@ -44,6 +46,13 @@ std::unique_ptr<OpenedPrinter> openPrinter(const Printer &printer, const QString
     }
     opened->panels = std::make_unique<PanelHost>(*opened->session, plugIn, presenter);
     return opened;
+}
+
+JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
+                     const QString &title, int copies)
+{
+    return {title, copies, jobOptions(*printer.session, printer.jobValues, attributes),
+            secretsOf(*printer.session)};
 }
 
 } // namespace corvana

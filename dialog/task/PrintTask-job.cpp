@@ -58,8 +58,7 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(
-        makeTicket(*m_opened, m_settings.attributes(), m_request.title, m_settings.copies()));
+    startJob(makeTicket(*m_opened, m_settings.attributes(), m_request.title, m_settings.copies()));
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -123,8 +122,8 @@ void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
     if (printsToFile()) {
-        m_run.job = std::make_unique<FileJob>(
-            FileJobRequest{m_request.documents, ticket, m_opened->printer.ppdPath, m_output.path});
+        m_run.job = std::make_unique<FileJob>(FileJobRequest{
+            m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
         request.earlierJob = m_memory.value(idOf(m_chosen.printer)).earlierJob;
@@ -192,7 +191,7 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
     enter(ends ? Phase::Ended : Phase::Ready);
     Q_EMIT jobEnded(outcome);
     if (m_chosen.next && m_phase == Phase::Ready)
-        take(ReadyPrinter(*m_chosen.next));
+        take(FetchedPrinter(*m_chosen.next));
 }
 
 } // namespace corvana

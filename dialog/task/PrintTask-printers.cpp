@@ -64,7 +64,7 @@ bool PrintTask::isPrinting() const
 }
 
 // A printer is not taken away while it prints or one of its panels is at work.
-void PrintTask::take(const ReadyPrinter &ready)
+void PrintTask::take(const FetchedPrinter &ready)
 {
     if (m_phase == Phase::Ended)
         return;
@@ -72,7 +72,7 @@ void PrintTask::take(const ReadyPrinter &ready)
         m_chosen.next = ready;
         QTimer::singleShot(kPatience, this, [this] {
             if (m_chosen.next && !isPrinting())
-                take(ReadyPrinter(*m_chosen.next));
+                take(FetchedPrinter(*m_chosen.next));
         });
         return;
     }
@@ -88,7 +88,7 @@ void PrintTask::take(const ReadyPrinter &ready)
                      true});
 }
 
-void PrintTask::open(const ReadyPrinter &ready)
+void PrintTask::open(const FetchedPrinter &ready)
 {
     close();
     m_chosen.printer = ready.printer;
@@ -97,10 +97,10 @@ void PrintTask::open(const ReadyPrinter &ready)
     QStringList lost;
     const auto restore = [&](PpdSession &session) {
         if (memory.session)
-            lost = restoreLeft(*memory.session, ready.ppdHash, session);
+            lost = restoreLeft(*memory.session, ready.ppd->hash, session);
     };
-    m_opened = openReadyPrinter(ready, m_request.bundleRoots, m_face.alerts(),
-                                &m_chosen.problem.text, restore);
+    m_opened =
+        openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text, restore);
     if (!m_opened)
         return enter(Phase::Missing);
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
@@ -138,7 +138,7 @@ void PrintTask::rememberSession()
     attributes.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
     m_memory[idOf(m_chosen.printer)].session = LeftSession{
-        m_baseline.opened, m_opened->session->snapshot(), m_opened->ppdHash, attributes};
+        m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash, attributes};
 }
 
 // Whether nothing would be lost if another printer took the place of this one. Copies and pages go
@@ -163,15 +163,13 @@ void PrintTask::takeExpectedPrinter()
         choosePrinter(*expected);
 }
 
-void PrintTask::printerChecked(const Printer &printer, qint64 ppdLastModified)
+void PrintTask::printerChecked(const FetchedPrinter &checked)
 {
-    m_chosen.printer = printer;
+    m_chosen.printer = checked.printer;
     m_chosen.problem = {};
     // What comes next has its own words for it.
-    if (m_opened && !m_chosen.next) {
-        m_opened->printer = printer;
-        m_opened->ppdLastModified = ppdLastModified;
-    }
+    if (m_opened && !m_chosen.next)
+        m_opened->fetched = checked;
     Q_EMIT printerChanged();
 }
 

@@ -98,7 +98,8 @@ QStringList PrintTask::applyStartOptions()
 QStringList PrintTask::takeMostCopies()
 {
     using By = JobSettings::By;
-    m_settings.setMostCopies(m_opened->capabilities ? m_opened->capabilities->maximumCopies : 0);
+    m_settings.setMostCopies(
+        m_opened->fetched.capabilities ? m_opened->fetched.capabilities->maximumCopies : 0);
     if (!m_settings.asksForTooMany())
         return {};
     const QString problem = tr("The printer prints at most %1 copies at once, not %2.")

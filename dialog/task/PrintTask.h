@@ -156,11 +156,11 @@ private:
     };
     struct Chosen
     {
-        Printer printer;                  // as its server describes it by now
-        bool deliberately = false;        // named or picked, and not for want of a better one
-        PrinterProblem problem;           // why it cannot be asked for
-        QStringList unset;                // what was asked for with it and cannot be set
-        std::optional<ReadyPrinter> next; // while the one that is open is in use
+        Printer printer;                    // as its server describes it by now
+        bool deliberately = false;          // named or picked, and not for want of a better one
+        PrinterProblem problem;             // why it cannot be asked for
+        QStringList unset;                  // what was asked for with it and cannot be set
+        std::optional<FetchedPrinter> next; // while the one that is open is in use
     };
     struct Run
     {
@@ -185,12 +185,12 @@ private:
     void say(TaskMessage::Kind kind, const QString &text);
 
     void connectSource();
-    void take(const ReadyPrinter &ready);
-    void open(const ReadyPrinter &ready);
+    void take(const FetchedPrinter &ready);
+    void open(const FetchedPrinter &ready);
     void close();
     void rememberSession();
     void takeExpectedPrinter();
-    void printerChecked(const Printer &printer, qint64 ppdLastModified);
+    void printerChecked(const FetchedPrinter &checked);
     void printerFailed(const QString &problem, const QString &brief);
     void offerQueue(const Printer &printer);
     bool isUntouched() const;

@@ -6,6 +6,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -15,39 +17,24 @@ struct Texts
 
 } // namespace
 
-std::unique_ptr<OpenedPrinter> openReadyPrinter(const ReadyPrinter &ready,
-                                                const QStringList &bundleRoots,
-                                                AlertPresenter &presenter, QString *error,
-                                                const std::function<void(PpdSession &)> &restore)
-{
-    auto opened = openPrinter(ready.printer, bundleRoots, presenter, error, restore);
-    if (opened) {
-        opened->ppdHash = ready.ppdHash;
-        opened->capabilities = ready.capabilities;
-        opened->writtenPpd = ready.writtenPpd;
-        opened->ppdLastModified = ready.ppdLastModified;
-    }
-    return opened;
-}
-
 ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,
                                   const PrintRequest &request, const JobTicket &ticket)
 {
     ServerJobRequest job;
     job.server = server;
     job.server.mayAsk = true;
-    job.printer = printer.printer;
+    job.printer = printer.fetched.printer;
     job.documents = request.documents;
     job.ticket = ticket;
-    job.ppdPath = printer.printer.ppdPath;
-    job.ppdLastModified = printer.ppdLastModified;
+    job.ppdPath = printer.fetched.ppd->path;
+    job.ppdLastModified = printer.fetched.ppd->lastModified;
     job.follow = !request.noWait;
-    if (printer.capabilities) {
+    if (const auto &capabilities = printer.fetched.capabilities) {
         job.chosenOptions = ticket.options;
-        job.ticket.options = standardJobOptions(ticket.options, *printer.capabilities);
-        if (printer.printer.origin == PrinterOrigin::Device) {
-            job.formats = printer.capabilities->documentFormats;
-            job.takenAttributes = printer.capabilities->jobAttributes;
+        job.ticket.options = standardJobOptions(ticket.options, *capabilities);
+        if (job.printer.origin == PrinterOrigin::Device) {
+            job.formats = capabilities->documentFormats;
+            job.takenAttributes = capabilities->jobAttributes;
         }
     }
     return job;

@@ -299,6 +299,13 @@
     </message>
 </context>
 <context>
+    <name>PpdCopy</name>
+    <message>
+        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
     <name>PpdFilters</name>
     <message>
         <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
@@ -307,10 +314,6 @@
 </context>
 <context>
     <name>PrinterFetching</name>
-    <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
-        <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
-    </message>
     <message>
         <source>PostScript File</source>
         <translation>PostScript ファイル</translation>

@@ -2,8 +2,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/task/OpenedPrinter.h"
 #include "dialog/app/RequestFromCommandLine.h"
+#include "dialog/printers/PrinterFetching.h"
+#include "dialog/task/OpenedPrinter.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
@@ -147,8 +148,9 @@ private Q_SLOTS:
     {
         ScriptedAlertPresenter presenter;
         QString error;
-        const auto printer = openPrinter({u"cl5"_s, u"CL"_s, samplePpdPath(), 5},
-                                         builtBundleRoots(), presenter, &error);
+        const auto printer =
+            openPrinter(printerWithItsFile({u"cl5"_s, u"CL"_s, samplePpdPath(), 5}),
+                        builtBundleRoots(), presenter, &error);
         QVERIFY2(printer, qPrintable(error));
         printer->session->change(u"QXMediaType"_s, u"Thick"_s, PpdSession::Origin::Dialog);
         const JobTicket ticket = makeTicket(*printer, {{u"number-up"_s, u"2"_s}}, u"Title"_s, 4);

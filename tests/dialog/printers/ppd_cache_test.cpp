@@ -89,14 +89,14 @@ private Q_SLOTS:
         printer.state = PrinterState::Stopped;
         printer.stateMessage = u"No paper"_s;
         printer.accepting = false;
-        const QString path = m_cache.store(kServer, printer, kPpd, 77);
+        const QString path = m_cache.store(kServer, printer, kPpd, 77)->path;
         QCOMPARE(contentOf(path), kPpd);
         const auto entry = m_cache.find(kServer, u"office"_s);
         QVERIFY(entry);
         Printer expected = queueOf(u"office"_s);
-        expected.ppdPath = path;
+        QCOMPARE(entry->ppd->path, path);
         QCOMPARE(entry->printer, expected);
-        QCOMPARE(entry->lastModified, 77);
+        QCOMPARE(entry->ppd->lastModified, 77);
     }
 
     void namesOfAnyKindStayWithinTheFolder_data()
@@ -120,7 +120,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, server);
         QFETCH(QString, queue);
-        const QString path = m_cache.store(server, queueOf(queue), kPpd, 1);
+        const QString path = m_cache.store(server, queueOf(queue), kPpd, 1)->path;
         QVERIFY(!path.isEmpty());
         const QStringList files = filesIn(m_folder->path());
         QCOMPARE(files.size(), 2);
@@ -141,9 +141,9 @@ private Q_SLOTS:
     {
         const QStringList names{u"a%2Fb"_s, u"a%252Fb"_s, u"a.b"_s, u"a%2Eb"_s, u"Ü.b"_s, u"ü.b"_s};
         for (const QString &name : names)
-            QVERIFY(!m_cache.store(kServer, queueOf(name), ppdOf(name), 1).isEmpty());
+            QVERIFY(m_cache.store(kServer, queueOf(name), ppdOf(name), 1));
         for (const QString &name : names)
-            QCOMPARE(contentOf(m_cache.find(kServer, name)->printer.ppdPath), ppdOf(name));
+            QCOMPARE(contentOf(m_cache.find(kServer, name)->ppd->path), ppdOf(name));
         QVERIFY(!m_cache.find(u"other:631"_s, u"a.b"_s));
     }
 
@@ -152,7 +152,7 @@ private Q_SLOTS:
         m_cache.store(kServer, queueOf(u"Office"_s), kPpd, 1);
         m_cache.store(kServer, queueOf(u"oFFICE"_s), kPpd, 2);
         QCOMPARE(filesIn(m_folder->path()).size(), 2);
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->lastModified, 2);
     }
 
     void aPpdThatIsNotTheStoredOneDropsItsEntry_data()
@@ -168,17 +168,17 @@ private Q_SLOTS:
     void aPpdThatIsNotTheStoredOneDropsItsEntry()
     {
         QFETCH(QByteArray, content);
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->hash, hashOfPpd(kPpd));
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->hash, hashOfPpd(kPpd));
         writeOver(path, content);
         QVERIFY(!m_cache.find(kServer, u"office"_s));
         // Not even when the file is right again: nobody knows who has had it meanwhile.
         writeOver(path, kPpd);
         QVERIFY(!m_cache.find(kServer, u"office"_s));
         writeOver(path, content);
-        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), path);
+        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2)->path, path);
         QCOMPARE(contentOf(path), kPpd);
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->lastModified, 2);
     }
 
     void whatIsNoPpdIsNotKept_data()
@@ -193,17 +193,17 @@ private Q_SLOTS:
     void whatIsNoPpdIsNotKept()
     {
         QFETCH(QByteArray, content);
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"is no PPD and is not kept"_s));
-        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), content, 2).isEmpty());
-        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1) == path);
+        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), content, 2));
+        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path, path);
         QCOMPARE(filesIn(m_folder->path()).size(), 2);
     }
 
     // Nobody had opened its PPD before it was stored.
     void anEntryOfFormerTimesIsNone()
     {
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
         const QString entry = QFileInfo(path).dir().filePath(u"office.json"_s);
         writeOver(entry, contentOf(entry).replace("\"sha256\"", "\"hash\""));
         QVERIFY(!m_cache.find(kServer, u"office"_s));
@@ -215,7 +215,7 @@ private Q_SLOTS:
         const auto entry = m_cache.find(kServer, u"office/draft"_s);
         QVERIFY(entry);
         QCOMPARE(entry->printer.name, u"office/draft"_s);
-        QCOMPARE(entry->printer.ppdPath, m_cache.find(kServer, u"office"_s)->printer.ppdPath);
+        QCOMPARE(entry->ppd->path, m_cache.find(kServer, u"office"_s)->ppd->path);
     }
 
     void aDamagedEntryIsNone_data()
@@ -241,7 +241,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, suffix);
         QFETCH(QByteArray, content);
-        const QString ppd = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString ppd = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
         const QString path =
             suffix == u"ppd"_s ? ppd : QFileInfo(ppd).dir().filePath(u"office.json"_s);
         QVERIFY(QFile::remove(path));
@@ -252,24 +252,24 @@ private Q_SLOTS:
         }
         QVERIFY(!m_cache.find(kServer, u"office"_s));
         // The next look at the server mends it.
-        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2).isEmpty());
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->lastModified, 2);
+        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2));
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->lastModified, 2);
     }
 
     void aNewPpdLeavesTheOldOneToWhoeverHasOpenedIt()
     {
-        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
-        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2);
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2)->path;
         QCOMPARE(contentOf(first), kPpd);
         QCOMPARE(contentOf(second), kOtherPpd);
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->printer.ppdPath, second);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->path, second);
         m_cache.remove(kServer, u"office"_s);
         QCOMPARE(contentOf(second), kOtherPpd);
     }
 
     void aPpdThatIsLookedAtIsInUse()
     {
-        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
         makeOld(first);
         QVERIFY(m_cache.find(kServer, u"office"_s));
         m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2);
@@ -278,14 +278,14 @@ private Q_SLOTS:
 
     void aPpdThatNobodyHasUsedForLongGoesWhenThereIsANewOne()
     {
-        const QString others = m_cache.store(kServer, queueOf(u"office-2"_s), kPpd, 1);
-        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString others = m_cache.store(kServer, queueOf(u"office-2"_s), kPpd, 1)->path;
+        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
         makeOld(others);
         makeOld(first);
-        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2), first);
+        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2)->path, first);
         QCOMPARE(contentOf(first), kPpd); // it is the new one
         makeOld(first);
-        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 3);
+        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 3)->path;
         QVERIFY(!QFile::exists(first));
         QVERIFY(QFile::exists(second));
         QVERIFY(QFile::exists(others));
@@ -296,19 +296,19 @@ private Q_SLOTS:
         // A file stands where the folder would be; that stops root as well.
         QFile file(m_folder->filePath(u"a"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1).isEmpty());
+        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1));
         QVERIFY(!m_cache.find(kServer, u"office"_s));
     }
 
     void aFileThatCannotBeWrittenIsSaidAndCostsTheEntry()
     {
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
         m_cache.remove(kServer, u"office"_s);
         QVERIFY(QFile::remove(path));
         QVERIFY(QDir().mkpath(path)); // a folder of its name
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(u"office-[0-9a-f]{16}.ppd cannot be written"_s));
-        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1).isEmpty());
+        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1));
         QVERIFY(!m_cache.find(kServer, u"office"_s));
     }
 

@@ -26,7 +26,7 @@ class Told : public QObject
 public:
     explicit Told(PrinterSource &source)
     {
-        connect(&source, &PrinterSource::ready, this, [this](const ReadyPrinter &printer) {
+        connect(&source, &PrinterSource::ready, this, [this](const FetchedPrinter &printer) {
             said += u"ready"_s;
             last = printer;
         });
@@ -38,7 +38,7 @@ public:
     }
 
     QStringList said;
-    ReadyPrinter last;
+    FetchedPrinter last;
     QString problem;
 };
 
@@ -85,7 +85,9 @@ private Q_SLOTS:
         const Printer first = source.first();
         QVERIFY(source.firstIsProvisional());
         QCOMPARE(first.origin, PrinterOrigin::File);
-        QVERIFY(QFile::exists(first.ppdPath));
+        Told told(source);
+        source.open(first);
+        QVERIFY(QFile::exists(told.last.ppd->path));
         QVERIFY(!source.expected());
         QCOMPARE(source.printers(), QList<Printer>{first});
         QCOMPARE(m_gate->acceptedConnections(), 0);
@@ -183,8 +185,8 @@ private Q_SLOTS:
             QVERIFY(told.said.isEmpty()); // nobody knows it yet
             QTRY_COMPARE(told.said, QStringList{u"ready"_s});
             QCOMPARE(told.last.printer.name, name);
-            QVERIFY(told.last.ppdLastModified > 0);
-            QVERIFY(contentOf(told.last.printer.ppdPath).startsWith("*PPD-Adobe"));
+            QVERIFY(told.last.ppd->lastModified > 0);
+            QVERIFY(contentOf(told.last.ppd->path).startsWith("*PPD-Adobe"));
             QVERIFY(!told.last.capabilities); // it is the queue's own
         }
         {
@@ -242,12 +244,12 @@ private Q_SLOTS:
         source.start();
         source.open(source.first());
         QTRY_VERIFY(told.said.contains(u"checked"_s));
-        const QByteArray before = contentOf(told.last.printer.ppdPath);
+        const QByteArray before = contentOf(told.last.ppd->path);
         QCOMPARE(told.said.count(u"ready"_s), 1);
 
         m_cups->setPpd(kQueue, ppdOf(6));
         QTRY_COMPARE_WITH_TIMEOUT(told.said.count(u"ready"_s), 2, kLong);
-        QVERIFY(contentOf(told.last.printer.ppdPath) != before);
+        QVERIFY(contentOf(told.last.ppd->path) != before);
         m_cups->setPpd(kQueue, ppdOf(5));
     }
 
@@ -263,7 +265,7 @@ private Q_SLOTS:
         source.start();
         source.open(source.first());
         QTRY_VERIFY(told.said.contains(u"checked"_s));
-        QFile stored(told.last.printer.ppdPath);
+        QFile stored(told.last.ppd->path);
         QVERIFY(stored.open(QIODevice::WriteOnly));
         stored.close();
         // The server counts seconds.
@@ -356,7 +358,7 @@ private Q_SLOTS:
         source.open(source.first());
         QTRY_COMPARE(told.said, QStringList{u"ready"_s});
         QVERIFY(told.last.capabilities);
-        QVERIFY(contentOf(told.last.printer.ppdPath).startsWith("*PPD-Adobe"));
+        QVERIFY(contentOf(told.last.ppd->path).startsWith("*PPD-Adobe"));
         m_cups->removeQueue(u"raw"_s);
     }
 

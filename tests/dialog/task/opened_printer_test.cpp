@@ -1,6 +1,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/printers/PrinterFetching.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "platform/pde/PDEPanel.h"
 #include "tests/dialog/support/LoadedBundle.h"
@@ -29,7 +30,7 @@ private:
     std::unique_ptr<OpenedPrinter> opened(const Printer &printer, const QStringList &roots)
     {
         QString error;
-        auto result = openPrinter(printer, roots, m_presenter, &error);
+        auto result = openPrinter(printerWithItsFile(printer), roots, m_presenter, &error);
         if (!result)
             qWarning().noquote() << error;
         return result;
@@ -43,7 +44,7 @@ private Q_SLOTS:
         QCOMPARE(printer->panels->panels().size(), 2);
         QVERIFY(printer->jobValues);
         QVERIFY(printer->panelProblem.isEmpty());
-        QCOMPARE(printer->printer.name, u"cl5"_s);
+        QCOMPARE(printer->fetched.printer.name, u"cl5"_s);
     }
 
     void anotherPrinterHasNoPanelsAndThatIsNoProblem()
@@ -68,8 +69,8 @@ private Q_SLOTS:
     void aPpdThatCannotBeReadIsTheError()
     {
         QString error;
-        QVERIFY(!openPrinter({u"x"_s, u"x"_s, u"/nowhere/x.ppd"_s, 0}, builtBundleRoots(),
-                             m_presenter, &error));
+        QVERIFY(!openPrinter(printerWithItsFile({u"x"_s, u"x"_s, u"/nowhere/x.ppd"_s, 0}),
+                             builtBundleRoots(), m_presenter, &error));
         QVERIFY2(error.startsWith(u"/nowhere/x.ppd: "_s), qPrintable(error));
     }
 
