@@ -105,35 +105,52 @@ void ServerJob::convert()
     const bool convertible = formats.contains(kPdf) || formats.contains(kRaster);
     const QList<JobOption> pages = layout();
     // What shapes the pages of a text or a picture is nothing that a printer knows.
-    const bool isShaped = !formats.isEmpty() && first.format != kPdf &&
-                          FileQueue::shapesDocuments(m_request.ticket.options);
+    const bool isShaped =
+        !formats.isEmpty() && first.format != kPdf && shapesDocuments(m_request.ticket.options);
     const bool taken =
         formats.isEmpty() || formats.contains(first.format) ||
         (!convertible && formats.contains(QLatin1StringView("application/octet-stream")));
     if (m_request.documents.size() == 1 && taken && pages.isEmpty() && !isShaped)
         return send(first, m_request.ticket);
+    if (formats.isEmpty() || formats.contains(kPdf))
+        return runConversion(toPdf(pages), kPdf);
+    if (formats.contains(kRaster))
+        return runConversion(toRaster(), kRaster);
+    finish({JobOutcome::Kind::Failed, 0,
+            tr("The printer “%1” takes documents of these kinds only: %2.")
+                .arg(m_request.printer.name, formats.join(QStringLiteral(", ")))});
+}
+
+ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
+{
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    request.result = ConversionRequest::Result::Pdf;
+    request.layout = pages;
+    if (!m_request.chosenOptions.isEmpty())
+        request.ticket.options = m_request.chosenOptions;
+    return request;
+}
+
+ConversionRequest ServerJob::toRaster() const
+{
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    request.ticket.copies = 1; // the printer repeats them
+    return request;
+}
+
+void ServerJob::runConversion(const ConversionRequest &request, QLatin1StringView format)
+{
     report({JobProgress::Stage::Converting});
     m_parts = std::make_unique<QTemporaryDir>();
     if (!m_parts->isValid())
         return finish({JobOutcome::Kind::Failed, 0, m_parts->errorString()});
-    const QString file = m_parts->filePath(QStringLiteral("document"));
-    m_conversion = std::make_unique<FileQueue>();
-    connect(m_conversion.get(), &FileQueue::finished, this, &ServerJob::converted);
-    if (formats.isEmpty() || formats.contains(kPdf)) {
-        m_converted = {file, kPdf, m_request.ticket.title};
-        JobTicket chosen = m_request.ticket;
-        if (!m_request.chosenOptions.isEmpty())
-            chosen.options = m_request.chosenOptions;
-        return m_conversion->unite(m_request.documents, chosen, m_request.ppdPath, file, pages);
-    }
-    if (!formats.contains(kRaster))
-        return finish({JobOutcome::Kind::Failed, 0,
-                       tr("The printer “%1” takes documents of these kinds only: %2.")
-                           .arg(m_request.printer.name, formats.join(QStringLiteral(", ")))});
-    m_converted = {file, kRaster, m_request.ticket.title};
-    JobTicket once = m_request.ticket;
-    once.copies = 1; // the printer repeats them
-    m_conversion->print(m_request.documents, once, m_request.ppdPath, file);
+    m_converted = {m_parts->filePath(QStringLiteral("document")), format, m_request.ticket.title};
+    ConversionRequest intoFile = request;
+    intoFile.outputPath = m_converted.path;
+    intoFile.outputName = m_converted.path;
+    m_conversion = std::make_unique<Conversion>(intoFile);
+    connect(m_conversion.get(), &Conversion::finished, this, &ServerJob::converted);
+    m_conversion->start();
 }
 
 void ServerJob::converted(const QString &problem)

@@ -9,7 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/CupsFilter.h"
+#include "dialog/job/FileJob.h"
 #include "dialog/queues/CapabilityPpd.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobTicket.h"
@@ -17,6 +18,7 @@
 #include "dialog/session/Summary.h"
 #include "tests/dialog/queues/PrinterProfiles.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -378,10 +380,10 @@ private Q_SLOTS:
         const Document document{
             corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf")),
             u"application/pdf"_s, u"Job"_s};
-        FileQueue queue;
-        connect(&queue, &FileQueue::finished, this, [&](const QString &told) { problem = told; });
-        queue.print(document, {u"Job"_s, 1, {{u"PageSize"_s, u"A5"_s}}}, ppd, output);
-        QVERIFY2(queue.wait(), qPrintable(problem));
+        FileJob job({{document}, {u"Job"_s, 1, {{u"PageSize"_s, u"A5"_s}}}, ppd, output});
+        job.start();
+        const JobOutcome outcome = job.wait();
+        QVERIFY2(outcome.isDone(), qPrintable(outcome.text));
         QFile file(output);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.read(beginning.size()), beginning);
@@ -391,4 +393,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(CapabilityPpdTest)
 
 #include "capability_ppd_test.moc"
-#include "tests/support/TestPaths.h"
