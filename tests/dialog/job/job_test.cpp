@@ -37,15 +37,7 @@ private:
         const Document document = m_filter->document();
         if (currentRow(kKinds).isFile)
             return std::make_unique<FileJob>(m_filter->request({u"Title"_s, 1, {}}));
-        ServerJobRequest request;
-        request.server.address = {u"127.0.0.1"_s, m_server->port(), HTTP_ENCRYPTION_IF_REQUESTED};
-        request.server.credentials = std::make_shared<CredentialStore>();
-        request.printer.origin = PrinterOrigin::Queue;
-        request.printer.name = u"office"_s;
-        request.printer.uri = u"ipp://localhost/printers/office"_s;
-        request.documents = {document};
-        request.ticket = {u"Title"_s, 1, {}};
-        return std::make_unique<ServerJob>(request);
+        return std::make_unique<ServerJob>(m_server->request(document));
     }
     static void addKinds() { addRows(kKinds); }
 
