@@ -1,7 +1,6 @@
 #include "dialog/job/Conversion.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTimer>
 
 #include "dialog/job/CupsFilter.h"
@@ -56,11 +55,14 @@ FilterPlan Conversion::prepare(QString *problem)
 QString Conversion::takePpd(const QString &own) const
 {
     // The filter chain would do without a PPD, and print a file without any of the choices.
-    if (!QFileInfo(m_request.ppdPath).isReadable())
-        return tr("%1 cannot be read.").arg(m_request.ppdPath);
     QFile ppd(m_request.ppdPath);
-    if (!ppd.copy(own))
+    if (!ppd.open(QIODevice::ReadOnly))
         return tr("%1 cannot be read: %2").arg(m_request.ppdPath, ppd.errorString());
+    const QByteArray content = ppd.readAll();
+    QFile copy(own);
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        copy.write(content) != content.size())
+        return tr("%1 cannot be written: %2").arg(own, copy.errorString());
     // A PDF is made by filters of the system only.
     if (m_request.result == ConversionRequest::Result::Pdf)
         return {};

@@ -15,6 +15,7 @@ namespace corvana {
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Kind = JobOutcome::Kind;
 
@@ -45,7 +46,7 @@ JobProgress progressOf(const JobStatus &status, int job)
 bool isHeldForLogIn(const JobStatus &status)
 {
     return status.state == IPP_JSTATE_HELD &&
-           status.reasons.contains(QLatin1StringView("cups-held-for-authentication"));
+           status.reasons.contains("cups-held-for-authentication"_L1);
 }
 
 QByteArray contentOf(const QString &path)

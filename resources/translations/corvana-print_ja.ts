@@ -943,12 +943,12 @@
 <context>
     <name>corvana::Conversion</name>
     <message>
-        <source>%1 cannot be read.</source>
-        <translation>%1 を読み取れません。</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
     </message>
 </context>
 <context>

@@ -943,12 +943,12 @@
 <context>
     <name>corvana::Conversion</name>
     <message>
-        <source>%1 cannot be read.</source>
-        <translation>无法读取 %1。</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
