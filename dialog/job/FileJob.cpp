@@ -1,42 +1,71 @@
 #include "dialog/job/FileJob.h"
 
-#include <QFileInfo>
-
 namespace corvana {
 
 FileJob::FileJob(const FileJobRequest &request, QObject *parent) : Job(parent), m_request(request)
 {
-    connect(&m_queue, &FileQueue::finished, this, &FileJob::finishWith);
-    connect(&m_queue, &FileQueue::pageReached, this, [this](int page) {
-        report({JobProgress::Stage::Printing, 0, page});
-    });
 }
+
+FileJob::~FileJob() = default;
 
 void FileJob::start()
 {
     if (m_canceled)
-        return finishWith(tr("Printing was canceled."));
-    m_started = true;
+        return fail(tr("Printing was canceled."));
+    const QString problem = prepare();
+    if (!problem.isEmpty())
+        return fail(problem);
     report({JobProgress::Stage::Printing});
-    m_queue.print(m_request.documents, m_request.ticket, m_request.ppdPath, m_request.outputPath);
+    m_conversion->start();
+}
+
+// Makes the file that is written. Answers what stands in the way.
+QString FileJob::prepare()
+{
+    for (const Document &document : m_request.documents) {
+        if (isSameFile(m_request.outputPath, document.path))
+            return tr("%1 is the document itself; name another file.").arg(m_request.outputPath);
+    }
+    QString problem;
+    m_result = ResultFile::create(m_request.outputPath, &problem);
+    if (!m_result)
+        return problem;
+    ConversionRequest request;
+    request.documents = m_request.documents;
+    request.ticket = m_request.ticket;
+    request.ppdPath = m_request.ppdPath;
+    request.outputPath = m_result->path();
+    request.outputName = m_request.outputPath;
+    m_conversion = std::make_unique<Conversion>(request);
+    connect(m_conversion.get(), &Conversion::finished, this, &FileJob::converted);
+    connect(m_conversion.get(), &Conversion::pageReached, this, [this](int page) {
+        report({JobProgress::Stage::Printing, 0, page});
+    });
+    return {};
 }
 
 void FileJob::cancel()
 {
     if (m_canceled || outcome())
         return;
-    m_queue.cancel();
-    m_canceled = !m_started || m_queue.isCanceled();
+    if (m_conversion)
+        m_conversion->cancel();
+    m_canceled = !m_conversion || m_conversion->isCanceled();
 }
 
-void FileJob::finishWith(const QString &problem)
+void FileJob::converted(const QString &problem)
 {
-    if (!problem.isEmpty()) {
-        const auto kind = m_canceled ? JobOutcome::Kind::Canceled : JobOutcome::Kind::Failed;
-        return finish({kind, 0, problem});
-    }
-    const QString file = QFileInfo(m_request.outputPath).absoluteFilePath();
-    finish({JobOutcome::Kind::Printed, 0, tr("Printed to %1").arg(file), file});
+    const QString why = problem.isEmpty() ? m_result->publish() : problem;
+    if (!why.isEmpty())
+        return fail(why);
+    finish({JobOutcome::Kind::Printed, 0, tr("Printed to %1").arg(m_result->name()),
+            m_result->name()});
+}
+
+void FileJob::fail(const QString &problem)
+{
+    m_result.reset();
+    finish({m_canceled ? JobOutcome::Kind::Canceled : JobOutcome::Kind::Failed, 0, problem});
 }
 
 } // namespace corvana

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <memory>
+
 #include <QList>
 #include <QString>
 
+#include "dialog/job/Conversion.h"
 #include "dialog/job/Document.h"
-#include "dialog/job/FileQueue.h"
 #include "dialog/job/Job.h"
+#include "dialog/job/ResultFile.h"
 #include "dialog/session/JobTicket.h"
 
 namespace corvana {
@@ -22,27 +25,27 @@ struct FileJobRequest
 /// Prints into a file: the documents go through the filter chain of CUPS with the printer's PPD and
 /// become what the printer would have got. Several documents are put together into one PDF first.
 ///
-/// The result appears under its name when it is complete, in place of the file that stood there
-/// when the job began; until then, and for good after a failure, that is untouched. A file that has
-/// appeared there since, from another program or another window, is nobody's to replace: the job
-/// fails.
+/// The result appears under its name when it is complete, see ResultFile.
 class FileJob : public Job
 {
     Q_OBJECT
 
 public:
     explicit FileJob(const FileJobRequest &request, QObject *parent = nullptr);
+    ~FileJob() override;
 
     void start() override;
     void cancel() override;
     bool isCanceled() const override { return m_canceled; }
 
 private:
-    void finishWith(const QString &problem);
+    QString prepare();
+    void converted(const QString &problem);
+    void fail(const QString &problem);
 
     FileJobRequest m_request;
-    FileQueue m_queue;
-    bool m_started = false;
+    std::unique_ptr<ResultFile> m_result;
+    std::unique_ptr<Conversion> m_conversion;
     bool m_canceled = false;
 };
 

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include "dialog/job/DeviceLogIn.h"
+#include "dialog/job/HandoverOutcomes.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/printers/QueueRequests.h"
 
@@ -13,7 +15,9 @@ namespace corvana {
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+using Kind = JobOutcome::Kind;
 
 // How often a job is looked up while it is followed.
 constexpr std::chrono::milliseconds kLookUpInterval = 500ms;
@@ -27,19 +31,40 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ServerJob)
 };
 
-QString withMessage(const QString &text, const QString &message)
+JobProgress progressOf(const JobStatus &status, int job)
 {
-    return message.isEmpty() ? text : Texts::tr("%1 The printer says: %2").arg(text, message);
+    JobProgress progress{JobProgress::Stage::Waiting, job, status.pages, 0, 0, status.message};
+    if (status.state == IPP_JSTATE_PROCESSING)
+        progress.stage = JobProgress::Stage::Printing;
+    else if (status.state == IPP_JSTATE_HELD)
+        progress.stage = JobProgress::Stage::Held;
+    else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
+        progress.stage = JobProgress::Stage::Stopped;
+    return progress;
 }
 
-// One job, from the question whether to send it at all to its end.
+bool isHeldForLogIn(const JobStatus &status)
+{
+    return status.state == IPP_JSTATE_HELD &&
+           status.reasons.contains("cups-held-for-authentication"_L1);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// One job, from the question whether to send it at all to its end. What it comes to is put into
+// words by HandoverOutcomes.
 class Handover
 {
 public:
     Handover(ServerWorker &worker, const ServerJobRequest &request, const Document &document,
              const std::function<void(const JobProgress &)> &report)
         : m_worker(worker), m_request(request), m_document(document), m_report(report),
-          m_connection(&worker.connection())
+          m_connection(&worker.connection()), m_logIn(worker, request.printer),
+          m_outcomes(request.printer)
     {
     }
 
@@ -47,21 +72,17 @@ public:
     {
         QFile file(m_document.path);
         if (!file.open(QIODevice::ReadOnly))
-            return failed(nothingPrinted(
-                Texts::tr("%1 cannot be read: %2.").arg(m_document.title, file.errorString())));
+            return m_outcomes.cannotBeRead(m_document.title, file.errorString());
         if (std::optional<JobOutcome> reason = whyNotToSend())
             return *reason;
-        m_forDevice = credentialsForDevice();
-        if (needsCredentials() && !m_forDevice)
-            return failed(Texts::tr("The printer “%1” wants a user and a password; none was given. "
-                                    "Nothing was printed.")
-                              .arg(printerName()));
+        if (!m_logIn.ask())
+            return m_outcomes.noCredentials();
         const QString token = newJobToken();
-        const std::optional<int> job =
-            createJob(*m_connection, m_request.printer, m_request.ticket, token, m_forDevice);
+        const std::optional<int> job = createJob(*m_connection, m_request.printer, m_request.ticket,
+                                                 token, m_logIn.credentials());
         if (!job)
             return withdrawNumberless(token);
-        m_job = *job;
+        m_outcomes.setJob(*job);
         return sendAndFollow(file);
     }
 
@@ -72,18 +93,17 @@ private:
     const std::function<void(const JobProgress &)> &m_report;
     ServerConnection *m_connection;
     std::unique_ptr<ServerConnection> m_another; // after the first one was lost
-    std::optional<Credentials> m_forDevice;
-    int m_job = 0;
+    DeviceLogIn m_logIn;
+    HandoverOutcomes m_outcomes;
     bool m_whole = false;      // the server may have all of the document
     bool m_isComplete = false; // the server has all of the job
 
-    QString printerName() const { return m_request.printer.name; }
-    QString jobName() const { return corvana::jobName(m_request.printer, m_job); }
-    JobOutcome outcome(JobOutcome::Kind kind, const QString &text) const
+    int job() const { return m_outcomes.job(); }
+    QString inWords(const ServerProblem &problem) const
     {
-        return {kind, m_job, text};
+        return problem.text(m_worker.context().address);
     }
-    QString whatIsWrong() const { return m_connection->problem().text(m_worker.context().address); }
+    QString whatIsWrong() const { return inWords(m_connection->problem()); }
 
     // A connection that no cancellation touches, for what has to be put in order. Nobody is asked
     // for a password for that: nothing could end such a question.
@@ -97,37 +117,19 @@ private:
         return *m_another;
     }
 
-    JobOutcome failed(const QString &text) const { return outcome(JobOutcome::Kind::Failed, text); }
-
-    QString notCreated() const
-    {
-        const ServerProblem &problem = m_connection->problem();
-        if (problem.kind == ServerProblem::Kind::NotFound)
-            return Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
-                .arg(printerName());
-        if (problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
-            return Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
-                .arg(printerName());
-        return nothingPrinted(whatIsWrong());
-    }
-
-    static QString nothingPrinted(const QString &why)
-    {
-        return Texts::tr("%1 Nothing was printed.").arg(why);
-    }
-
     // Takes back a job that the server may have made without its number getting here. It has no
     // document, but would stand in the queue until its server gives it up.
     JobOutcome withdrawNumberless(const QString &token)
     {
-        const ServerProblem &problem = m_connection->problem();
+        const ServerProblem problem = m_connection->problem();
         const bool canceled = m_worker.isCanceled();
-        const auto kind = canceled ? JobOutcome::Kind::Canceled : JobOutcome::Kind::Failed;
         const bool mayBeThere =
             m_connection->requestWasSent() &&
             (!problem || problem.mayPass() || problem.kind == ServerProblem::Kind::Canceled);
         if (!mayBeThere)
-            return outcome(kind, canceled ? Texts::tr("Printing was canceled.") : notCreated());
+            return canceled ? m_outcomes.canceledBefore()
+                            : m_outcomes.notCreated(problem, whatIsWrong());
+        const auto kind = canceled ? Kind::Canceled : Kind::Failed;
         QString why = whatIsWrong();
         if (canceled)
             why = Texts::tr("Printing was canceled.");
@@ -135,31 +137,17 @@ private:
             why = Texts::tr("The print server did not say which job it has made.");
         const std::optional<int> job = findJob(another(), m_request.printer, token);
         if (!job)
-            return outcome(kind,
-                           Texts::tr("%1 Nothing was printed, but a job without a document "
-                                     "may be at the print server. It could not be looked "
-                                     "for: %2")
-                               .arg(why, m_another->problem().text(m_worker.context().address)));
+            return m_outcomes.mayBeThereWithoutNumber(kind, why, inWords(m_another->problem()));
         if (*job == 0)
-            return outcome(kind, canceled ? why : nothingPrinted(why));
-        m_job = *job;
+            return canceled ? m_outcomes.canceledBefore() : m_outcomes.nothingPrinted(why);
+        m_outcomes.setJob(*job);
         return withdraw(kind, why);
     }
 
     std::optional<JobOutcome> whyNotToSend()
     {
-        if (m_request.earlierJob > 0) {
-            const auto earlier = lookUpJob(*m_connection, m_request.printer, m_request.earlierJob);
-            if (!earlier && m_connection->problem().kind != ServerProblem::Kind::NotFound)
-                return failed(Texts::tr("%1 Whether job %2 of the earlier try was printed is not "
-                                        "known yet, so nothing was sent again.")
-                                  .arg(whatIsWrong(), QString::number(m_request.earlierJob)));
-            const bool mayPrint = earlier && (earlier->state == IPP_JSTATE_COMPLETED ||
-                                              (!earlier->isOver() && earlier->documents != 0));
-            if (mayPrint)
-                return JobOutcome{JobOutcome::Kind::AlreadyThere, m_request.earlierJob,
-                                  whereTheEarlierJobIs(*earlier).arg(m_request.earlierJob)};
-        }
+        if (std::optional<JobOutcome> earlier = whatBecameOfTheEarlierJob())
+            return earlier;
         if (m_request.printer.origin != PrinterOrigin::Queue)
             return std::nullopt;
         const QueueDetails now =
@@ -168,83 +156,45 @@ private:
         case QueueDetails::Ppd::Unchanged:
             return std::nullopt;
         case QueueDetails::Ppd::New:
-            if (now.ppd == openedPpd())
+            if (now.ppd == contentOf(m_request.ppdPath))
                 return std::nullopt; // installed once more, or its queue was
-            return printerChanged();
+            return m_outcomes.printerChanged();
         case QueueDetails::Ppd::None:
             if (m_request.ppdLastModified == 0)
                 return std::nullopt;
-            return printerChanged();
+            return m_outcomes.printerChanged();
         case QueueDetails::Ppd::Unknown:
             break;
         }
         if (m_worker.isCanceled())
-            return outcome(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."));
-        return failed(notCreated());
+            return m_outcomes.canceledBefore();
+        return m_outcomes.notCreated(m_connection->problem(), whatIsWrong());
     }
 
-    JobOutcome printerChanged() const
+    // Nothing where the same may be sent again.
+    std::optional<JobOutcome> whatBecameOfTheEarlierJob()
     {
-        return outcome(JobOutcome::Kind::PrinterChanged,
-                       Texts::tr("The options of the printer “%1” have changed at its server. "
-                                 "Nothing was printed.")
-                           .arg(printerName()));
-    }
-
-    static QString whereTheEarlierJobIs(const JobStatus &job)
-    {
-        if (job.state == IPP_JSTATE_COMPLETED)
-            return Texts::tr("Job %1 of the earlier try has been printed.");
-        if (job.state == IPP_JSTATE_HELD)
-            return Texts::tr("Job %1 of the earlier try is held in the queue.");
-        if (job.state == IPP_JSTATE_STOPPED)
-            return Texts::tr("Job %1 of the earlier try is stopped in the queue.");
-        return Texts::tr("Job %1 of the earlier try is in the queue and will be printed.");
-    }
-
-    QByteArray openedPpd() const
-    {
-        QFile file(m_request.ppdPath);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    bool needsCredentials() const
-    {
-        const QStringList &wanted = m_request.printer.authInfo;
-        return wanted.contains(QLatin1StringView("username")) ||
-               wanted.contains(QLatin1StringView("password"));
-    }
-
-    QString realmOfDevice() const
-    {
-        return QStringLiteral("%1 %2").arg(m_worker.context().address.argument(),
-                                           m_request.printer.uri);
-    }
-
-    std::optional<Credentials> credentialsForDevice()
-    {
-        const auto &store = m_worker.context().credentials;
-        if (!needsCredentials() || !store)
+        const int job = m_request.earlierJob;
+        if (job <= 0)
             return std::nullopt;
-        const ServerAddress &address = m_worker.context().address;
-        return store
-            ->ask(realmOfDevice(),
-                  {address, QString::fromUtf8(cupsUser()),
-                   address.isLocal() || address.encryption == HTTP_ENCRYPTION_REQUIRED ||
-                       address.encryption == HTTP_ENCRYPTION_ALWAYS,
-                   true},
-                  [this] { return m_worker.isCanceled(); })
-            .credentials;
+        const auto status = lookUpJob(*m_connection, m_request.printer, job);
+        if (!status && m_connection->problem().kind != ServerProblem::Kind::NotFound)
+            return m_outcomes.earlierJobUnknown(whatIsWrong(), job);
+        const bool mayPrint = status && (status->state == IPP_JSTATE_COMPLETED ||
+                                         (!status->isOver() && status->documents != 0));
+        if (mayPrint)
+            return m_outcomes.earlierJobIsThere(*status, job);
+        return std::nullopt;
     }
 
     JobOutcome sendAndFollow(QFile &file)
     {
         const qint64 total = file.size();
-        m_report({JobProgress::Stage::Sending, m_job, 0, 0, total});
+        m_report({JobProgress::Stage::Sending, job(), 0, 0, total});
         const bool sent =
-            sendDocument(*m_connection, m_request.printer, m_job, m_document.format,
+            sendDocument(*m_connection, m_request.printer, job(), m_document.format,
                          m_document.title, file, [&](qint64 bytes) {
-                             m_report({JobProgress::Stage::Sending, m_job, 0, bytes, total});
+                             m_report({JobProgress::Stage::Sending, job(), 0, bytes, total});
                          });
         const bool mayHaveAll = sent || m_connection->problem().mayPass() ||
                                 m_connection->problem().kind == ServerProblem::Kind::Canceled;
@@ -252,91 +202,72 @@ private:
         if (sent)
             return confirmAndFollow();
         if (m_worker.isCanceled())
-            return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."),
-                            m_whole);
+            return withdrawCanceled(m_whole);
         const QString problem = whatIsWrong();
         if (m_whole)
             return findOut(problem);
-        return withdraw(JobOutcome::Kind::Failed, problem);
+        return withdraw(Kind::Failed, problem);
+    }
+
+    JobOutcome withdrawCanceled(bool mayHavePrinted)
+    {
+        return withdraw(Kind::Canceled, Texts::tr("Printing was canceled."), mayHavePrinted);
     }
 
     // Takes back a job that is not to be printed, and says whether that worked.
-    JobOutcome withdraw(JobOutcome::Kind kind, const QString &why, bool mayHavePrinted = false)
+    JobOutcome withdraw(Kind kind, const QString &why, bool mayHavePrinted = false)
     {
-        if (cancelJob(another(), m_request.printer, m_job)) {
+        if (cancelJob(another(), m_request.printer, job())) {
             if (mayHavePrinted) {
-                const auto status = lookUpJob(*m_another, m_request.printer, m_job);
+                const auto status = lookUpJob(*m_another, m_request.printer, job());
                 mayHavePrinted = !status || status->begun;
             }
-            return outcome(
-                kind, mayHavePrinted
-                          ? Texts::tr("%1 Job %2 was canceled; pages that the printer has already "
-                                      "may still come out.")
-                                .arg(why, jobName())
-                          : Texts::tr("%1 Job %2 was canceled; nothing was printed.")
-                                .arg(why, jobName()));
+            return m_outcomes.withdrawn(kind, why, mayHavePrinted);
         }
         if (m_another->problem().kind == ServerProblem::Kind::Refused ||
             m_another->problem().kind == ServerProblem::Kind::NotFound) {
             // It is over already, one way or the other, or it is somebody else's business.
             const ServerProblem refusal = m_another->problem();
-            const auto status = lookUpJob(*m_another, m_request.printer, m_job);
+            const auto status = lookUpJob(*m_another, m_request.printer, job());
             if (status && status->isOver())
-                return ended(*status);
+                return m_outcomes.ended(*status, m_worker.isCanceled());
             if (m_isComplete)
-                return lostSight(refusal);
+                return m_outcomes.lostSight(refusal, inWords(refusal));
         }
-        const QString whyNot = m_another->problem().text(m_worker.context().address);
-        if (m_whole && kind == JobOutcome::Kind::Canceled) // it would be said to be, and not to be
-            return outcome(JobOutcome::Kind::Unknown,
-                           Texts::tr("Job %1 could not be canceled and may still be printed. %2")
-                               .arg(jobName(), whyNot));
-        if (m_whole)
-            return outcome(JobOutcome::Kind::Unknown,
-                           Texts::tr("%1 Job %2 could not be canceled and may still be printed. %3")
-                               .arg(why, jobName(), whyNot));
-        return outcome(JobOutcome::Kind::Failed,
-                       Texts::tr("%1 Job %2 may still be at the print server, without its whole "
-                                 "document. It could not be canceled: %3")
-                           .arg(why, jobName(), whyNot));
+        return m_outcomes.notWithdrawn(kind, why, inWords(m_another->problem()), m_whole);
     }
 
     // The document was sent, and then the server went silent: it may have the job or not.
     JobOutcome findOut(const QString &problem)
     {
         for (int i = 0; i < kLookUpsAfterFailure; ++i) {
-            const auto status = lookUpJob(another(), m_request.printer, m_job);
+            const auto status = lookUpJob(another(), m_request.printer, job());
             if (status) {
                 m_connection = m_another.get();
                 if (status->documents == 0 && !status->isOver()) {
                     m_whole = false;
-                    return withdraw(JobOutcome::Kind::Failed, problem);
+                    return withdraw(Kind::Failed, problem);
                 }
                 return follow(status);
             }
             if (m_another->problem().kind == ServerProblem::Kind::NotFound)
-                return failed(Texts::tr("%1 The print server does not know job %2 any more. It was "
-                                        "probably not printed.")
-                                  .arg(problem, jobName()));
+                return m_outcomes.notKnownAnyMore(problem);
             if (!m_worker.sleep(kLookUpInterval))
                 break;
         }
-        return outcome(JobOutcome::Kind::Unknown,
-                       Texts::tr("%1 The document had been sent, so job %2 may be printed or not. "
-                                 "Printing again looks for it first.")
-                           .arg(problem, jobName()));
+        return m_outcomes.mayBePrinted(problem);
     }
 
     JobOutcome confirmAndFollow()
     {
-        const auto status = lookUpJob(*m_connection, m_request.printer, m_job);
+        const auto status = lookUpJob(*m_connection, m_request.printer, job());
         if (status)
             return follow(*status);
         if (m_worker.isCanceled())
-            return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."), true);
+            return withdrawCanceled(true);
         // It was taken, by a server that forgets a job as soon as that is over.
         if (m_connection->problem().kind == ServerProblem::Kind::NotFound)
-            return lostSight(m_connection->problem());
+            return m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
         return findOut(whatIsWrong());
     }
 
@@ -349,31 +280,24 @@ private:
             if (!status)
                 status = lookUpAgain();
             if (!status)
-                return m_worker.isCanceled() ? canceledOrLeftAlone()
-                                             : lostSight(m_connection->problem());
+                return m_worker.isCanceled()
+                           ? canceledOrLeftAlone()
+                           : m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
             if (status->isOver())
-                return ended(*status);
-            const JobProgress progress = progressOf(*status);
+                return m_outcomes.ended(*status, m_worker.isCanceled());
+            const JobProgress progress = progressOf(*status, job());
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
-                return outcome(
-                    JobOutcome::Kind::Stopped,
-                    withMessage(Texts::tr("Job %1 was stopped. It is still in the queue, where it "
-                                          "can be released or canceled.")
-                                    .arg(jobName()),
-                                status->message));
-            if (isHeldForLogIn(*status) && needsCredentials())
+                return m_outcomes.stopped(*status);
+            if (isHeldForLogIn(*status) && m_logIn.isNeeded())
                 return notLetIn();
             if (status->state == IPP_JSTATE_HELD)
-                return outcome(JobOutcome::Kind::InQueue,
-                               withMessage(Texts::tr("Job %1 is held in the queue “%2”.")
-                                               .arg(jobName(), printerName()),
-                                           status->message));
+                return m_outcomes.held(*status);
             if (!m_request.follow)
-                return inQueue(progress);
+                return m_outcomes.inQueue(progress);
             if (!m_worker.sleep(kLookUpInterval))
                 return canceledOrLeftAlone();
-            status = lookUpJob(*m_connection, m_request.printer, m_job);
+            status = lookUpJob(*m_connection, m_request.printer, job());
         }
     }
 
@@ -388,7 +312,7 @@ private:
             if (!problem.mayPass() || std::chrono::steady_clock::now() >= enough ||
                 !m_worker.sleep(pause))
                 return std::nullopt;
-            if (const auto status = lookUpJob(*m_connection, m_request.printer, m_job))
+            if (const auto status = lookUpJob(*m_connection, m_request.printer, job()))
                 return status;
         }
     }
@@ -397,81 +321,15 @@ private:
     JobOutcome canceledOrLeftAlone()
     {
         if (m_worker.isLeftAlone())
-            return inQueue({});
-        return withdraw(JobOutcome::Kind::Canceled, Texts::tr("Printing was canceled."), true);
-    }
-
-    static bool isHeldForLogIn(const JobStatus &status)
-    {
-        return status.state == IPP_JSTATE_HELD &&
-               status.reasons.contains(QLatin1StringView("cups-held-for-authentication"));
+            return m_outcomes.inQueue({});
+        return withdrawCanceled(true);
     }
 
     // What was given for the device was wrong; the next try asks again, and sends another job.
     JobOutcome notLetIn()
     {
-        if (const auto &store = m_worker.context().credentials; store && m_forDevice)
-            store->forget(realmOfDevice(), *m_forDevice);
-        return withdraw(JobOutcome::Kind::Failed,
-                        Texts::tr("The printer “%1” does not accept this user and password.")
-                            .arg(printerName()));
-    }
-
-    JobOutcome inQueue(const JobProgress &progress) const
-    {
-        if (progress.stage == JobProgress::Stage::Stopped)
-            return outcome(JobOutcome::Kind::InQueue,
-                           withMessage(Texts::tr("Job %1 waits in the queue “%2”, which is "
-                                                 "stopped.")
-                                           .arg(jobName(), printerName()),
-                                       progress.message));
-        return outcome(JobOutcome::Kind::InQueue,
-                       Texts::tr("Job %1 is in the queue “%2”.").arg(jobName(), printerName()));
-    }
-
-    JobProgress progressOf(const JobStatus &status) const
-    {
-        JobProgress progress{
-            JobProgress::Stage::Waiting, m_job, status.pages, 0, 0, status.message};
-        if (status.state == IPP_JSTATE_PROCESSING)
-            progress.stage = JobProgress::Stage::Printing;
-        else if (status.state == IPP_JSTATE_HELD)
-            progress.stage = JobProgress::Stage::Held;
-        else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
-            progress.stage = JobProgress::Stage::Stopped;
-        return progress;
-    }
-
-    JobOutcome lostSight(const ServerProblem &problem) const
-    {
-        if (problem.kind == ServerProblem::Kind::NotFound)
-            return outcome(JobOutcome::Kind::InQueue,
-                           Texts::tr("Job %1 has left the queue “%2”, whose server keeps no record "
-                                     "of it.")
-                               .arg(jobName(), printerName()));
-        return outcome(JobOutcome::Kind::Unknown,
-                       Texts::tr("Job %1 was handed over completely. %2 So whether it has been "
-                                 "printed is not known.")
-                           .arg(jobName(), problem.text(m_worker.context().address)));
-    }
-
-    JobOutcome ended(const JobStatus &status) const
-    {
-        switch (status.state) {
-        case IPP_JSTATE_COMPLETED:
-            return outcome(JobOutcome::Kind::Printed,
-                           Texts::tr("Printed on “%1” as job %2.").arg(printerName(), jobName()));
-        case IPP_JSTATE_CANCELED:
-            return outcome(JobOutcome::Kind::Canceled,
-                           m_worker.isCanceled()
-                               ? Texts::tr("Printing was canceled.")
-                               : Texts::tr("Job %1 was canceled at the printer or its server.")
-                                     .arg(jobName()));
-        default:
-            return failed(withMessage(
-                Texts::tr("Job %1 failed: the printer or its server gave it up.").arg(jobName()),
-                status.message));
-        }
+        m_logIn.forget();
+        return withdraw(Kind::Failed, m_outcomes.credentialsRefused());
     }
 };
 

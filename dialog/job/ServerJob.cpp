@@ -9,8 +9,10 @@ namespace corvana {
 
 namespace {
 
-constexpr QLatin1StringView kPdf{"application/pdf"};
-constexpr QLatin1StringView kRaster{"image/pwg-raster"};
+using namespace Qt::StringLiterals;
+
+constexpr auto kPdf = "application/pdf"_L1;
+constexpr auto kRaster = "image/pwg-raster"_L1;
 
 // What the filter chain does to the pages when it makes the printer's own data.
 bool isAppliedByChain(const JobOption &option)
@@ -21,7 +23,7 @@ bool isAppliedByChain(const JobOption &option)
 // A value that asks for nothing but what is done anyway.
 bool asksForNothing(const JobOption &option, int copies)
 {
-    if (copies == 1 && option.name == QLatin1StringView("collate"))
+    if (copies == 1 && option.name == "collate"_L1)
         return true;
     const JobAttribute *attribute = jobAttribute(option.name);
     const QStringList values = option.value.split(u','); // before and behind the job
@@ -49,11 +51,11 @@ void ServerJob::start()
     if (const QList<JobOption> refused = refusedOptions(); !refused.isEmpty()) {
         QStringList names;
         for (const JobOption &option : refused)
-            names += QStringLiteral("%1=%2").arg(option.name, option.value);
+            names += u"%1=%2"_s.arg(option.name, option.value);
         return finish({JobOutcome::Kind::Failed, 0,
                        tr("The printer “%1” does not take these settings of a job: %2. Nothing was "
                           "printed.")
-                           .arg(m_request.printer.name, names.join(QStringLiteral(", ")))});
+                           .arg(m_request.printer.name, names.join(u", "_s))});
     }
     // A password for the device goes along with the job: never where others can read it.
     const bool secret = !m_request.printer.authInfo.isEmpty();
@@ -105,35 +107,51 @@ void ServerJob::convert()
     const bool convertible = formats.contains(kPdf) || formats.contains(kRaster);
     const QList<JobOption> pages = layout();
     // What shapes the pages of a text or a picture is nothing that a printer knows.
-    const bool isShaped = !formats.isEmpty() && first.format != kPdf &&
-                          FileQueue::shapesDocuments(m_request.ticket.options);
-    const bool taken =
-        formats.isEmpty() || formats.contains(first.format) ||
-        (!convertible && formats.contains(QLatin1StringView("application/octet-stream")));
+    const bool isShaped =
+        !formats.isEmpty() && first.format != kPdf && shapesDocuments(m_request.ticket.options);
+    const bool taken = formats.isEmpty() || formats.contains(first.format) ||
+                       (!convertible && formats.contains("application/octet-stream"_L1));
     if (m_request.documents.size() == 1 && taken && pages.isEmpty() && !isShaped)
         return send(first, m_request.ticket);
+    if (formats.isEmpty() || formats.contains(kPdf))
+        return runConversion(toPdf(pages), kPdf);
+    if (formats.contains(kRaster))
+        return runConversion(toRaster(), kRaster);
+    finish({JobOutcome::Kind::Failed, 0,
+            tr("The printer “%1” takes documents of these kinds only: %2.")
+                .arg(m_request.printer.name, formats.join(u", "_s))});
+}
+
+ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
+{
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    request.result = ConversionRequest::Result::Pdf;
+    request.layout = pages;
+    if (!m_request.chosenOptions.isEmpty())
+        request.ticket.options = m_request.chosenOptions;
+    return request;
+}
+
+ConversionRequest ServerJob::toRaster() const
+{
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    request.ticket.copies = 1; // the printer repeats them
+    return request;
+}
+
+void ServerJob::runConversion(const ConversionRequest &request, QLatin1StringView format)
+{
     report({JobProgress::Stage::Converting});
     m_parts = std::make_unique<QTemporaryDir>();
     if (!m_parts->isValid())
         return finish({JobOutcome::Kind::Failed, 0, m_parts->errorString()});
-    const QString file = m_parts->filePath(QStringLiteral("document"));
-    m_conversion = std::make_unique<FileQueue>();
-    connect(m_conversion.get(), &FileQueue::finished, this, &ServerJob::converted);
-    if (formats.isEmpty() || formats.contains(kPdf)) {
-        m_converted = {file, kPdf, m_request.ticket.title};
-        JobTicket chosen = m_request.ticket;
-        if (!m_request.chosenOptions.isEmpty())
-            chosen.options = m_request.chosenOptions;
-        return m_conversion->unite(m_request.documents, chosen, m_request.ppdPath, file, pages);
-    }
-    if (!formats.contains(kRaster))
-        return finish({JobOutcome::Kind::Failed, 0,
-                       tr("The printer “%1” takes documents of these kinds only: %2.")
-                           .arg(m_request.printer.name, formats.join(QStringLiteral(", ")))});
-    m_converted = {file, kRaster, m_request.ticket.title};
-    JobTicket once = m_request.ticket;
-    once.copies = 1; // the printer repeats them
-    m_conversion->print(m_request.documents, once, m_request.ppdPath, file);
+    m_converted = {m_parts->filePath(u"document"_s), format, m_request.ticket.title};
+    ConversionRequest intoFile = request;
+    intoFile.outputPath = m_converted.path;
+    intoFile.outputName = m_converted.path;
+    m_conversion = std::make_unique<Conversion>(intoFile);
+    connect(m_conversion.get(), &Conversion::finished, this, &ServerJob::converted);
+    m_conversion->start();
 }
 
 void ServerJob::converted(const QString &problem)

@@ -4,8 +4,8 @@
 
 #include <QTemporaryDir>
 
+#include "dialog/job/Conversion.h"
 #include "dialog/job/Document.h"
-#include "dialog/job/FileQueue.h"
 #include "dialog/job/Handover.h"
 #include "dialog/job/Job.h"
 
@@ -33,13 +33,16 @@ private:
     QList<JobOption> layout() const;
     bool isTaken(const JobOption &option) const;
     void convert();
+    ConversionRequest toPdf(const QList<JobOption> &pages) const;
+    ConversionRequest toRaster() const;
+    void runConversion(const ConversionRequest &request, QLatin1StringView format);
     void converted(const QString &problem);
     void send(const Document &document, const JobTicket &ticket);
     void followed(const JobProgress &progress);
 
     ServerJobRequest m_request;
     std::unique_ptr<QTemporaryDir> m_parts;
-    std::unique_ptr<FileQueue> m_conversion;
+    std::unique_ptr<Conversion> m_conversion;
     Document m_converted;
     ServerWork m_work;
     bool m_canceled = false;

@@ -10,26 +10,19 @@ namespace corvana {
 
 namespace {
 
-bool isOneOf(const QString &value, std::initializer_list<QLatin1StringView> allowed)
-{
-    return std::any_of(allowed.begin(), allowed.end(),
-                       [&](QLatin1StringView one) { return value == one; });
-}
-
-bool isBoolean(const QString &value)
-{
-    return isOneOf(value, {QLatin1StringView("true"), QLatin1StringView("false")});
-}
+using namespace Qt::StringLiterals;
+using AppliedTo = JobAttribute::AppliedTo;
+using Word = AllowedValues::Word;
 
 // "1-4,7,9-": ascending ranges of pages, each page at least 1.
 bool isPageRanges(const QString &value)
 {
-    static const QRegularExpression range(QStringLiteral("^([0-9]{1,9})?(?:(-)([0-9]{1,9})?)?\\z"));
+    static const QRegularExpression range(u"^([0-9]{1,9})?(?:(-)([0-9]{1,9})?)?\\z"_s);
     int last = 0;
     const QStringList parts = value.split(u',');
     for (const QString &part : parts) {
         const QRegularExpressionMatch match = range.match(part);
-        if (!match.hasMatch() || part.isEmpty() || part == QLatin1StringView("-"))
+        if (!match.hasMatch() || part.isEmpty() || part == "-"_L1)
             return false;
         const bool open = !match.captured(2).isEmpty();
         const int first = match.captured(1).isEmpty() ? 1 : match.captured(1).toInt();
@@ -43,45 +36,17 @@ bool isPageRanges(const QString &value)
     return true;
 }
 
-bool isHoldUntil(const QString &value)
+bool isTime(const QString &value)
 {
-    static const QRegularExpression time(
-        QStringLiteral("^([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?\\z"));
-    return isOneOf(value, {QLatin1StringView("no-hold"), QLatin1StringView("indefinite"),
-                           QLatin1StringView("day-time"), QLatin1StringView("evening"),
-                           QLatin1StringView("night"), QLatin1StringView("second-shift"),
-                           QLatin1StringView("third-shift"), QLatin1StringView("weekend")}) ||
-           time.match(value).hasMatch();
-}
-
-bool isPriority(const QString &value)
-{
-    static const QRegularExpression number(QStringLiteral("^[0-9]{1,3}\\z"));
-    return number.match(value).hasMatch() && value.toInt() >= 1 && value.toInt() <= 100;
+    static const QRegularExpression time(u"^([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?\\z"_s);
+    return time.match(value).hasMatch();
 }
 
 // Banner pages are the server's; their names are checked there. One or two of them.
 bool isJobSheets(const QString &value)
 {
-    static const QRegularExpression names(QStringLiteral("^[A-Za-z0-9._-]+(,[A-Za-z0-9._-]+)?\\z"));
+    static const QRegularExpression names(u"^[A-Za-z0-9._-]+(,[A-Za-z0-9._-]+)?\\z"_s);
     return names.match(value).hasMatch();
-}
-
-bool isNumberBetween(const QString &value, double least, double most)
-{
-    static const QRegularExpression number(QStringLiteral("^[0-9]{1,5}([.][0-9]{1,3})?\\z"));
-    return number.match(value).hasMatch() && value.toDouble() >= least && value.toDouble() <= most;
-}
-
-bool isWholeNumberBetween(const QString &value, int least, int most)
-{
-    return !value.contains(u'.') && isNumberBetween(value, least, most);
-}
-
-// Units: points; a margin beyond this leaves nothing of any paper.
-bool isMargin(const QString &value)
-{
-    return isNumberBetween(value, 0, 9999);
 }
 
 // What it is charged to; the rest of the world does not look into it.
@@ -92,214 +57,234 @@ bool isBilling(const QString &value)
            std::all_of(value.cbegin(), value.cend(), [](QChar c) { return c.isPrint(); });
 }
 
-constexpr QLatin1StringView kMarginUnits{"0 to 9999 points of 1/72 inch"};
-constexpr QLatin1StringView kTrueOrFalse{"true, false"};
+constexpr Word kTrueOrFalse[] = {
+    {"true"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "On")},
+    {"false"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Off")},
+};
+constexpr Word kPagesOnASheet[] = {{"1"_L1}, {"2"_L1}, {"4"_L1}, {"6"_L1}, {"9"_L1}, {"16"_L1}};
+constexpr Word kOrdersOnASheet[] = {{"btlr"_L1}, {"btrl"_L1}, {"lrbt"_L1}, {"lrtb"_L1},
+                                    {"rlbt"_L1}, {"rltb"_L1}, {"tblr"_L1}, {"tbrl"_L1}};
+constexpr Word kBorders[] = {
+    {"none"_L1}, {"single"_L1}, {"single-thick"_L1}, {"double"_L1}, {"double-thick"_L1}};
+constexpr Word kPageSets[] = {
+    {"all"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "All")},
+    {"even"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Even Pages Only")},
+    {"odd"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Odd Pages Only")},
+};
+constexpr Word kOrientations[] = {
+    {"3"_L1, "portrait"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Portrait")},
+    {"4"_L1, "landscape"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Landscape")},
+    {"5"_L1, "reverse landscape"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Reverse Landscape")},
+    {"6"_L1, "reverse portrait"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Reverse Portrait")},
+};
+constexpr Word kScalings[] = {{"auto"_L1}, {"auto-fit"_L1}, {"fill"_L1}, {"fit"_L1}, {"none"_L1}};
+constexpr Word kPositions[] = {{"center"_L1}, {"top"_L1},         {"left"_L1},
+                               {"right"_L1},  {"top-left"_L1},    {"top-right"_L1},
+                               {"bottom"_L1}, {"bottom-left"_L1}, {"bottom-right"_L1}};
+constexpr Word kOutputOrders[] = {
+    {"normal"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "First Page First")},
+    {"reverse"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Last Page First")},
+};
+constexpr Word kHolds[] = {
+    {"no-hold"_L1},
+    {"indefinite"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Until It Is Released")},
+    {"day-time"_L1},
+    {"evening"_L1},
+    {"night"_L1},
+    {"second-shift"_L1},
+    {"third-shift"_L1},
+    {"weekend"_L1},
+};
 
-using AppliedTo = JobAttribute::AppliedTo;
+constexpr AllowedValues wholeNumbers(int least, int most)
+{
+    return {{}, AllowedValues::Range{double(least), double(most)}};
+}
+
+constexpr AllowedValues numbers(int least, int most, QLatin1StringView unit = {})
+{
+    return {{}, AllowedValues::Range{double(least), double(most), false, unit}};
+}
+
+constexpr AllowedValues form(QLatin1StringView text, bool (*accepts)(const QString &))
+{
+    return {{}, {}, AllowedValues::Form{text, accepts}};
+}
+
+// A margin beyond this leaves nothing of any paper.
+constexpr AllowedValues kMargins = numbers(0, 9999, "points of 1/72 inch"_L1);
 
 constexpr JobAttribute kAttributes[] = {
-    {QLatin1StringView("number-up"), AppliedTo::Pages, QLatin1StringView("1"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Pages per Sheet"), QLatin1StringView("1, 2, 4, 6, 9, 16"),
-     [](const QString &v) {
-         return isOneOf(v,
-                        {QLatin1StringView("1"), QLatin1StringView("2"), QLatin1StringView("4"),
-                         QLatin1StringView("6"), QLatin1StringView("9"), QLatin1StringView("16")});
-     }},
-    {QLatin1StringView("number-up-layout"),
+    {"number-up"_L1,
+     AppliedTo::Pages,
+     "1"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Pages per Sheet"),
+     {kPagesOnASheet}},
+    {"number-up-layout"_L1,
      AppliedTo::Pages,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Order on the Sheet"),
-     QLatin1StringView("btlr, btrl, lrbt, lrtb, rlbt, rltb, tblr, tbrl"),
-     [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("btlr"), QLatin1StringView("btrl"),
-                            QLatin1StringView("lrbt"), QLatin1StringView("lrtb"),
-                            QLatin1StringView("rlbt"), QLatin1StringView("rltb"),
-                            QLatin1StringView("tblr"), QLatin1StringView("tbrl")});
-     }},
-    {QLatin1StringView("page-border"), AppliedTo::Pages, QLatin1StringView("none"),
+     {kOrdersOnASheet}},
+    {"page-border"_L1,
+     AppliedTo::Pages,
+     "none"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Border Around Pages"),
-     QLatin1StringView("none, single, single-thick, double, double-thick"),
-     [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("none"), QLatin1StringView("single"),
-                            QLatin1StringView("single-thick"), QLatin1StringView("double"),
-                            QLatin1StringView("double-thick")});
-     }},
-    {QLatin1StringView("page-ranges"),
+     {kBorders}},
+    {"page-ranges"_L1,
      AppliedTo::Pages,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Pages"),
-     QLatin1StringView("pages and ranges in ascending order, such as 1-4,7,9-"),
-     isPageRanges},
-    {QLatin1StringView("page-set"), AppliedTo::Pages, QLatin1StringView("all"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Odd and Even Pages"), QLatin1StringView("all, even, odd"),
-     [](const QString &v) {
-         return isOneOf(
-             v, {QLatin1StringView("all"), QLatin1StringView("even"), QLatin1StringView("odd")});
-     }},
-    {QLatin1StringView("orientation-requested"),
+     form("pages and ranges in ascending order, such as 1-4,7,9-"_L1, isPageRanges)},
+    {"page-set"_L1,
+     AppliedTo::Pages,
+     "all"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Odd and Even Pages"),
+     {kPageSets}},
+    {"orientation-requested"_L1,
      AppliedTo::Pages,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Orientation"),
-     QLatin1StringView("3 (portrait), 4 (landscape), 5 (reverse landscape), 6 (reverse portrait)"),
-     [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("3"), QLatin1StringView("4"), QLatin1StringView("5"),
-                            QLatin1StringView("6")});
-     }},
-    {QLatin1StringView("fit-to-page"), AppliedTo::Pages, QLatin1StringView("false"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Fit to Page"), kTrueOrFalse, isBoolean},
-    {QLatin1StringView("print-scaling"), AppliedTo::Pages, QLatin1StringView("auto"),
+     {kOrientations}},
+    {"fit-to-page"_L1,
+     AppliedTo::Pages,
+     "false"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Fit to Page"),
+     {kTrueOrFalse}},
+    {"print-scaling"_L1,
+     AppliedTo::Pages,
+     "auto"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Scaling"),
-     QLatin1StringView("auto, auto-fit, fill, fit, none"),
-     [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("auto"), QLatin1StringView("auto-fit"),
-                            QLatin1StringView("fill"), QLatin1StringView("fit"),
-                            QLatin1StringView("none")});
-     }},
-    {QLatin1StringView("scaling"),
+     {kScalings}},
+    {"scaling"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Size on the Page, in %"),
-     QLatin1StringView("1 to 800"),
-     [](const QString &v) { return isWholeNumberBetween(v, 1, 800); }},
-    {QLatin1StringView("natural-scaling"),
+     wholeNumbers(1, 800)},
+    {"natural-scaling"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Size of the Picture, in %"),
-     QLatin1StringView("1 to 800"),
-     [](const QString &v) { return isWholeNumberBetween(v, 1, 800); }},
-    {QLatin1StringView("ppi"),
+     wholeNumbers(1, 800)},
+    {"ppi"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Pixels per Inch"),
-     QLatin1StringView("1 to 9600"),
-     [](const QString &v) { return isWholeNumberBetween(v, 1, 9600); }},
-    {QLatin1StringView("position"),
+     wholeNumbers(1, 9600)},
+    {"position"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Position"),
-     QLatin1StringView("center, top, left, right, top-left, top-right, bottom, bottom-left, "
-                       "bottom-right"),
-     [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("center"), QLatin1StringView("top"),
-                            QLatin1StringView("left"), QLatin1StringView("right"),
-                            QLatin1StringView("top-left"), QLatin1StringView("top-right"),
-                            QLatin1StringView("bottom"), QLatin1StringView("bottom-left"),
-                            QLatin1StringView("bottom-right")});
-     }},
-    {QLatin1StringView("mirror"), AppliedTo::Pages, QLatin1StringView("false"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Mirrored"), kTrueOrFalse, isBoolean},
-    {QLatin1StringView("page-left"),
+     {kPositions}},
+    {"mirror"_L1,
+     AppliedTo::Pages,
+     "false"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Mirrored"),
+     {kTrueOrFalse}},
+    {"page-left"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Left Margin"),
-     kMarginUnits,
-     isMargin},
-    {QLatin1StringView("page-right"),
+     kMargins},
+    {"page-right"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Right Margin"),
-     kMarginUnits,
-     isMargin},
-    {QLatin1StringView("page-top"),
+     kMargins},
+    {"page-top"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Top Margin"),
-     kMarginUnits,
-     isMargin},
-    {QLatin1StringView("page-bottom"),
+     kMargins},
+    {"page-bottom"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Bottom Margin"),
-     kMarginUnits,
-     isMargin},
-    {QLatin1StringView("cpi"),
+     kMargins},
+    {"cpi"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Characters per Inch"),
-     QLatin1StringView("1 to 100"),
-     [](const QString &v) { return isNumberBetween(v, 1, 100); }},
-    {QLatin1StringView("lpi"),
+     numbers(1, 100)},
+    {"lpi"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Lines per Inch"),
-     QLatin1StringView("1 to 100"),
-     [](const QString &v) { return isNumberBetween(v, 1, 100); }},
-    {QLatin1StringView("columns"),
+     numbers(1, 100)},
+    {"columns"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Columns of Text"),
-     QLatin1StringView("1 to 100"),
-     [](const QString &v) { return isWholeNumberBetween(v, 1, 100); }},
-    {QLatin1StringView("wrap"),
+     wholeNumbers(1, 100)},
+    {"wrap"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Long Lines Continue"),
-     kTrueOrFalse,
-     isBoolean},
-    {QLatin1StringView("prettyprint"),
+     {kTrueOrFalse}},
+    {"prettyprint"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Headers on Text Pages"),
-     kTrueOrFalse,
-     isBoolean},
-    {QLatin1StringView("collate"), AppliedTo::Job, QLatin1StringView("true"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Collate"), kTrueOrFalse, isBoolean},
-    {QLatin1StringView("outputorder"), AppliedTo::Pages, QLatin1StringView("normal"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Output Order"), QLatin1StringView("normal, reverse"),
-     [](const QString &v) {
-         return isOneOf(v, {QLatin1StringView("normal"), QLatin1StringView("reverse")});
-     }},
-    {QLatin1StringView("job-hold-until"), AppliedTo::Job, QLatin1StringView("no-hold"),
+     {kTrueOrFalse}},
+    {"collate"_L1,
+     AppliedTo::Job,
+     "true"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Collate"),
+     {kTrueOrFalse}},
+    {"outputorder"_L1,
+     AppliedTo::Pages,
+     "normal"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Output Order"),
+     {kOutputOrders}},
+    {"job-hold-until"_L1,
+     AppliedTo::Job,
+     "no-hold"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Hold Until"),
-     QLatin1StringView("no-hold, indefinite, day-time, evening, night, second-shift, third-shift, "
-                       "weekend, or a time HH:MM"),
-     isHoldUntil},
-    {QLatin1StringView("job-priority"), AppliedTo::Job, QLatin1StringView("50"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Priority"), QLatin1StringView("1 to 100"), isPriority},
-    {QLatin1StringView("job-sheets"), AppliedTo::Job, QLatin1StringView("none"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
-     QLatin1StringView("one or two names of banner pages"), isJobSheets},
-    {QLatin1StringView("job-billing"),
+     {kHolds, {}, AllowedValues::Form{"a time HH:MM"_L1, isTime}}},
+    {"job-priority"_L1, AppliedTo::Job, "50"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Priority"),
+     wholeNumbers(1, 100)},
+    {"job-sheets"_L1, AppliedTo::Job, "none"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
+     form("one or two names of banner pages"_L1, isJobSheets)},
+    {"job-billing"_L1,
      AppliedTo::Job,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Billed To"),
-     QLatin1StringView("a text of up to 255 bytes"),
-     isBilling},
+     form("a text of up to 255 bytes"_L1, isBilling)},
 };
 
-// The values that say nothing to somebody who knows no IPP.
-struct ValueText
+bool isIn(const AllowedValues::Range &range, const QString &value)
 {
-    QLatin1StringView attribute; // empty: of every attribute
-    QLatin1StringView value;
-    const char *text;
-};
-constexpr ValueText kValueTexts[] = {
-    {{}, QLatin1StringView("true"), QT_TRANSLATE_NOOP("JobAttributes", "On")},
-    {{}, QLatin1StringView("false"), QT_TRANSLATE_NOOP("JobAttributes", "Off")},
-    {QLatin1StringView("orientation-requested"), QLatin1StringView("3"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Portrait")},
-    {QLatin1StringView("orientation-requested"), QLatin1StringView("4"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Landscape")},
-    {QLatin1StringView("orientation-requested"), QLatin1StringView("5"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Reverse Landscape")},
-    {QLatin1StringView("orientation-requested"), QLatin1StringView("6"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Reverse Portrait")},
-    {QLatin1StringView("page-set"), QLatin1StringView("all"),
-     QT_TRANSLATE_NOOP("JobAttributes", "All")},
-    {QLatin1StringView("page-set"), QLatin1StringView("odd"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Odd Pages Only")},
-    {QLatin1StringView("page-set"), QLatin1StringView("even"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Even Pages Only")},
-    {QLatin1StringView("outputorder"), QLatin1StringView("normal"),
-     QT_TRANSLATE_NOOP("JobAttributes", "First Page First")},
-    {QLatin1StringView("outputorder"), QLatin1StringView("reverse"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Last Page First")},
-    {QLatin1StringView("job-hold-until"), QLatin1StringView("indefinite"),
-     QT_TRANSLATE_NOOP("JobAttributes", "Until It Is Released")},
-};
+    static const QRegularExpression whole(u"^[0-9]{1,5}\\z"_s);
+    static const QRegularExpression decimal(u"^[0-9]{1,5}([.][0-9]{1,3})?\\z"_s);
+    return (range.isWhole ? whole : decimal).match(value).hasMatch() &&
+           value.toDouble() >= range.least && value.toDouble() <= range.most;
+}
 
 } // namespace
+
+const Word *AllowedValues::word(const QString &value) const
+{
+    const auto found = std::find_if(words.begin(), words.end(),
+                                    [&](const Word &word) { return word.value == value; });
+    return found == words.end() ? nullptr : &*found;
+}
+
+bool AllowedValues::accepts(const QString &value) const
+{
+    return word(value) || (range && isIn(*range, value)) || (form && form->accepts(value));
+}
+
+QString AllowedValues::text() const
+{
+    QStringList parts;
+    for (const Word &word : words)
+        parts += word.meaning.isEmpty() ? QString(word.value)
+                                        : u"%1 (%2)"_s.arg(word.value, word.meaning);
+    if (range)
+        parts += u"%1 to %2 %3"_s.arg(range->least).arg(range->most).arg(range->unit).trimmed();
+    if (form)
+        parts += (parts.isEmpty() ? QString() : u"or "_s) + form->text;
+    return parts.join(u", "_s);
+}
 
 const JobAttribute *jobAttribute(const QString &name)
 {
@@ -322,13 +307,9 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
     const auto translated = [](const char *text) {
         return QCoreApplication::translate("JobAttributes", text);
     };
-    const auto text = std::find_if(
-        std::begin(kValueTexts), std::end(kValueTexts), [&](const ValueText &candidate) {
-            return candidate.value == attribute.value &&
-                   (candidate.attribute.isEmpty() || candidate.attribute == attribute.name);
-        });
+    const Word *word = known->allowed.word(attribute.value);
     return {translated(known->title),
-            text == std::end(kValueTexts) ? attribute.value : translated(text->text)};
+            word && word->shown ? translated(word->shown) : attribute.value};
 }
 
 JobOption inOneSpelling(const JobOption &option)
@@ -337,11 +318,11 @@ JobOption inOneSpelling(const JobOption &option)
         return option.name == QLatin1StringView(name) && option.value == QLatin1StringView(value);
     };
     if (is("landscape", "true"))
-        return {QStringLiteral("orientation-requested"), QStringLiteral("4")};
+        return {u"orientation-requested"_s, u"4"_s};
     if (is("landscape", "false"))
-        return {QStringLiteral("orientation-requested"), QStringLiteral("3")};
+        return {u"orientation-requested"_s, u"3"_s};
     if (option.name == QLatin1StringView("fitplot"))
-        return {QStringLiteral("fit-to-page"), option.value};
+        return {u"fit-to-page"_s, option.value};
     return option;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include <QString>
 #include <QStringList>
@@ -8,6 +9,43 @@
 #include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
+
+/// The values that an attribute takes: each that one of its parts takes. The check and what is said
+/// of it come from the same list.
+struct AllowedValues
+{
+    struct Word
+    {
+        QLatin1StringView value;
+        /// What it stands for, where the value does not say so.
+        QLatin1StringView meaning{};
+        /// What the summary calls it, to be translated in the context "JobAttributes"; null where
+        /// that is the value itself.
+        const char *shown = nullptr;
+    };
+    struct Range
+    {
+        double least;
+        double most;
+        bool isWhole = true; ///< else with up to three decimal places
+        QLatin1StringView unit{};
+    };
+    struct Form
+    {
+        QLatin1StringView text; ///< for a message
+        bool (*accepts)(const QString &value);
+    };
+
+    std::span<const Word> words{};
+    std::optional<Range> range{};
+    std::optional<Form> form{};
+
+    bool accepts(const QString &value) const;
+    /// For a message: "no-hold, evening, or a time HH:MM".
+    QString text() const;
+    /// The word of that value, or null.
+    const Word *word(const QString &value) const;
+};
 
 /// A job attribute that users of `lp` know: it is no option of the PPD and goes to CUPS as it is.
 struct JobAttribute
@@ -25,9 +63,9 @@ struct JobAttribute
     QLatin1StringView usual;
     /// What the summary calls it; to be translated in the context "JobAttributes".
     const char *title;
-    /// The values that are taken, in words for a message.
-    QLatin1StringView allowed;
-    bool (*accepts)(const QString &value);
+    AllowedValues allowed;
+
+    bool accepts(const QString &value) const { return allowed.accepts(value); }
 };
 
 /// The most copies that can be asked for.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QLoggingCategory>
+#include <QRegularExpression>
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/OptionNames.h"
@@ -29,6 +30,25 @@ bool names(const QList<JobOption> &options, const QString &keyword)
 bool lacksValue(const PpdSession &session, const QString &keyword)
 {
     return session.markedChoice(keyword) == kCustomChoice && session.customValue(keyword).isNull();
+}
+
+// A secret in every form in which a program on its way may quote it: with backslashes in front of
+// any of its characters, one for each quoting, and with a single quote that stands outside the
+// quotes.
+QRegularExpression quotedInAnyWay(const QString &secret)
+{
+    QString pattern;
+    const auto characters = secret.toUcs4();
+    for (const char32_t character : characters) {
+        if (character == U'\\')
+            pattern += QStringLiteral("\\\\+");
+        else if (character == U'\'')
+            pattern += QStringLiteral(R"((?:'\\+''|'"'"'|\\*'))");
+        else
+            pattern += QStringLiteral("\\\\*") +
+                       QRegularExpression::escape(QString::fromUcs4(&character, 1));
+    }
+    return QRegularExpression(pattern);
 }
 
 } // namespace
@@ -70,7 +90,7 @@ QString withoutSecrets(QString text, const QStringList &secrets)
 {
     for (const QString &secret : secrets) {
         if (!secret.isEmpty())
-            text.replace(secret, QString(kHiddenLength, u'•'));
+            text.replace(quotedInAnyWay(secret), QString(kHiddenLength, u'•'));
     }
     return text;
 }

@@ -32,7 +32,7 @@ QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobVa
 /// a passcode.
 QStringList secretsOf(const PpdSession &session);
 
-/// A text with dots in the place of each secret.
+/// A text with dots in the place of each secret, also where a program has quoted it.
 QString withoutSecrets(QString text, const QStringList &secrets);
 
 /// Options that are marked "Custom" while nobody has given them a value: jobOptions() leaves them

@@ -246,7 +246,7 @@ private:
         if (attribute->accepts(option.value))
             attributes += option;
         else
-            refuseValue(option, attribute->allowed);
+            refuseValue(option, attribute->allowed.text());
         return true;
     }
 

@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>CupsFilter</name>
+    <message>
+        <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
+        <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
+    </message>
+</context>
+<context>
     <name>Document</name>
     <message>
         <source>PDF document</source>
@@ -65,17 +76,6 @@
     <message>
         <source>%1 is no ordinary file; a document was expected.</source>
         <translation>%1 は通常のファイルではありません。文書を指定してください。</translation>
-    </message>
-</context>
-<context>
-    <name>FileQueue</name>
-    <message>
-        <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
-        <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
-    </message>
-    <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -558,6 +558,25 @@
     </message>
 </context>
 <context>
+    <name>ResultFile</name>
+    <message>
+        <source>%1 is a folder; the name of a file was expected.</source>
+        <translation>%1 はフォルダーです。ファイル名を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 is a device or a pipe; the name of a file was expected.</source>
+        <translation>%1 はデバイスまたはパイプです。ファイル名を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
+        <translation>%1 は、その間に別のプログラムによって書き込まれたため、そのまま残されています。置き換えるにはもう一度印刷するか、別のファイル名を指定してください。</translation>
+    </message>
+</context>
+<context>
     <name>ServerAddress</name>
     <message>
         <source>this computer</source>
@@ -930,6 +949,17 @@
     </message>
 </context>
 <context>
+    <name>corvana::Conversion</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CredentialsDialog</name>
     <message>
         <source>Log In to Print</source>
@@ -1001,20 +1031,16 @@
         <source>Printed to %1</source>
         <translation>%1 に出力しました</translation>
     </message>
+    <message>
+        <source>%1 is the document itself; name another file.</source>
+        <translation>%1 は印刷する文書そのものです。別のファイルを指定してください。</translation>
+    </message>
 </context>
 <context>
-    <name>corvana::FileQueue</name>
+    <name>corvana::FilterChain</name>
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>%1 を起動できません: %2</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read.</source>
-        <translation>%1 を読み取れません。</translation>
-    </message>
-    <message>
-        <source>%1 is a folder; the name of a file was expected.</source>
-        <translation>%1 はフォルダーです。ファイル名を指定してください。</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
@@ -1023,10 +1049,6 @@
     <message>
         <source>Printing was canceled.</source>
         <translation>印刷を中止しました。</translation>
-    </message>
-    <message>
-        <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
-        <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
     </message>
     <message>
         <source>The filter chain of CUPS crashed.</source>
@@ -1045,20 +1067,8 @@
         <translation>文書をプリンター用に変換できませんでした。出力がありません。%1</translation>
     </message>
     <message>
-        <source>%1 is a device or a pipe; the name of a file was expected.</source>
-        <translation>%1 はデバイスまたはパイプです。ファイル名を指定してください。</translation>
-    </message>
-    <message>
-        <source>%1 is the document itself; name another file.</source>
-        <translation>%1 は印刷する文書そのものです。別のファイルを指定してください。</translation>
-    </message>
-    <message>
-        <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
-        <translation>%1 は、その間に別のプログラムによって書き込まれたため、そのまま残されています。置き換えるにはもう一度印刷するか、別のファイル名を指定してください。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 を読み取れません: %2</translation>
+        <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
+        <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>CupsFilter</name>
+    <message>
+        <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
+        <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
+    </message>
+</context>
+<context>
     <name>Document</name>
     <message>
         <source>PDF document</source>
@@ -65,17 +76,6 @@
     <message>
         <source>%1 is no ordinary file; a document was expected.</source>
         <translation>%1 不是普通文件；请指定文档。</translation>
-    </message>
-</context>
-<context>
-    <name>FileQueue</name>
-    <message>
-        <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
-        <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
-    </message>
-    <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
     </message>
 </context>
 <context>
@@ -558,6 +558,25 @@
     </message>
 </context>
 <context>
+    <name>ResultFile</name>
+    <message>
+        <source>%1 is a folder; the name of a file was expected.</source>
+        <translation>%1 是文件夹，请指定文件名。</translation>
+    </message>
+    <message>
+        <source>%1 is a device or a pipe; the name of a file was expected.</source>
+        <translation>%1 是设备或管道，请指定文件名。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
+        <translation>%1 在此期间已被另一个程序写入，因此保持原样。要替换它，请重新打印，或指定另一个文件。</translation>
+    </message>
+</context>
+<context>
     <name>ServerAddress</name>
     <message>
         <source>this computer</source>
@@ -930,6 +949,17 @@
     </message>
 </context>
 <context>
+    <name>corvana::Conversion</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CredentialsDialog</name>
     <message>
         <source>Log In to Print</source>
@@ -1001,20 +1031,16 @@
         <source>Printed to %1</source>
         <translation>已输出到 %1</translation>
     </message>
+    <message>
+        <source>%1 is the document itself; name another file.</source>
+        <translation>%1 就是要打印的文档；请指定其他文件。</translation>
+    </message>
 </context>
 <context>
-    <name>corvana::FileQueue</name>
+    <name>corvana::FilterChain</name>
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>无法启动 %1：%2</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read.</source>
-        <translation>无法读取 %1。</translation>
-    </message>
-    <message>
-        <source>%1 is a folder; the name of a file was expected.</source>
-        <translation>%1 是文件夹，请指定文件名。</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
@@ -1023,10 +1049,6 @@
     <message>
         <source>Printing was canceled.</source>
         <translation>已取消打印。</translation>
-    </message>
-    <message>
-        <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
-        <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
     </message>
     <message>
         <source>The filter chain of CUPS crashed.</source>
@@ -1045,20 +1067,8 @@
         <translation>无法将文档转换为打印机数据：没有输出。%1</translation>
     </message>
     <message>
-        <source>%1 is a device or a pipe; the name of a file was expected.</source>
-        <translation>%1 是设备或管道，请指定文件名。</translation>
-    </message>
-    <message>
-        <source>%1 is the document itself; name another file.</source>
-        <translation>%1 就是要打印的文档；请指定其他文件。</translation>
-    </message>
-    <message>
-        <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
-        <translation>%1 在此期间已被另一个程序写入，因此保持原样。要替换它，请重新打印，或指定另一个文件。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
+        <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
+        <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
     </message>
 </context>
 <context>

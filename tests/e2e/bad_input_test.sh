@@ -185,6 +185,26 @@ withoutAnOutputTheResultIsNamedLikeTheDocument() {
     expect_equal "$(echo *)" 'welcome-2.ps welcome.ps'
 }
 
+# Whoever writes a PPD would run programs as its users.
+aPpdThatNamesAProgramIsRefused() {
+    local filter
+    printf '#!/bin/sh\ntouch "%s/ran"\ncat\n' "$work" >"$work/tool"
+    chmod +x "$work/tool"
+    while IFS= read -r filter; do
+        changed_ppd "s|^\*cupsFilter2.*|*cupsFilter2: \"application/vnd.cups-postscript application/postscript 0 $filter\"|
+\$ a\\
+*FoomaticRIPCommandLine: \"touch '$work/ran'; cat\"\\
+*FoomaticRIPCommandLinePDF: \"touch '$work/ran'; cat\""
+        expect_refusal "$filter" 'Print on the printer itself instead of into a file' --
+        [ ! -e "$work/ran" ] || fail "a program ran: $filter"
+    done <<TABLE
+foomatic-rip
+$work/tool
+../../../../$work/tool
+pstops;'$work/tool'
+TABLE
+}
+
 # The filter chain
 
 withoutTheFilterProgramTheMessageNamesIt() {

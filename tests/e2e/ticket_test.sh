@@ -168,6 +168,28 @@ job-sheets=standard,none
 TABLE
 }
 
+# The chain writes its options down, and so do its filters, each in a quoting of its own.
+theLogHidesAPasswordHoweverItIsQuoted() {
+    local secret argument
+    changed_ppd '$ a\
+*OpenUI *Secret/Secret: PickOne\
+*OrderDependency: 90 AnySetup *Secret\
+*DefaultSecret: None\
+*Secret None/None: ""\
+*CloseUI: *Secret\
+*CustomSecret True/Custom: "pop"\
+*ParamCustomSecret Text/Text: 1 password 1 30'
+    environment+=('QT_LOGGING_RULES=corvana.*=true')
+    for secret in 'geheim wort' "geheim'wort" 'geheim"wort' 'geheim\wort' "geheim' \\ \"wort"; do
+        argument=${secret//\\/\\\\}
+        argument=${argument//\"/\\\"}
+        print -o "Secret=\"Custom.$argument\""
+        expect_printed
+        expect_said 'Secret=' 'argv[5]='
+        ! grep -aE 'geheim|wort' "$work/err" "$work/out" || fail "not hidden: $secret"
+    done
+}
+
 # A page range that is taken, but not obeyed, would be worth nothing.
 theFiltersObeyTheAttributes() {
     print -o page-ranges=2

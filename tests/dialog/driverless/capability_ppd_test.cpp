@@ -10,7 +10,8 @@
 #include <QTest>
 
 #include "dialog/driverless/CapabilityPpd.h"
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/CupsFilter.h"
+#include "dialog/job/FileJob.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
@@ -379,10 +380,10 @@ private Q_SLOTS:
         const Document document{
             corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf")),
             u"application/pdf"_s, u"Job"_s};
-        FileQueue queue;
-        connect(&queue, &FileQueue::finished, this, [&](const QString &told) { problem = told; });
-        queue.print(document, {u"Job"_s, 1, {{u"PageSize"_s, u"A5"_s}}}, ppd, output);
-        QVERIFY2(queue.wait(), qPrintable(problem));
+        FileJob job({{document}, {u"Job"_s, 1, {{u"PageSize"_s, u"A5"_s}}}, ppd, output});
+        job.start();
+        const JobOutcome outcome = job.wait();
+        QVERIFY2(outcome.isDone(), qPrintable(outcome.text));
         QFile file(output);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.read(beginning.size()), beginning);

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include "dialog/job/Document.h"
+#include "dialog/job/FileJob.h"
 
 namespace corvana::test {
 
@@ -22,6 +22,11 @@ public:
     FakeFilter &operator=(const FakeFilter &) = delete;
 
     Document document() const;
+    /// Prints the document to the output.
+    FileJobRequest request(const JobTicket &ticket = {}) const
+    {
+        return {{document()}, ticket, ppdPath(), output()};
+    }
     QString ppdPath() const { return path(QStringLiteral("printer.ppd")); }
     QString output() const { return path(QStringLiteral("out.ps")); }
     QString path(const QString &name) const { return m_folder.filePath(name); }

@@ -21,6 +21,21 @@ CannedAnswer answerAbout(const SaidOfJob &job)
 
 } // namespace
 
+ServerJobRequest JobServer::request(const Document &document) const
+{
+    using namespace std::chrono_literals;
+    ServerJobRequest request;
+    request.server.address = {QStringLiteral("127.0.0.1"), port(), HTTP_ENCRYPTION_IF_REQUESTED};
+    request.server.patience = {10s, 10s};
+    request.server.credentials = std::make_shared<CredentialStore>();
+    request.printer.origin = PrinterOrigin::Queue;
+    request.printer.name = QStringLiteral("office");
+    request.printer.uri = QStringLiteral("ipp://localhost/printers/office");
+    request.documents = {document};
+    request.ticket = {document.title, 1, {}};
+    return request;
+}
+
 CannedAnswer JobServer::answer(const CannedRequest &request)
 {
     switch (request.operation) {

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 
+#include "dialog/job/Handover.h"
 #include "tests/support/cups/CannedServer.h"
 
 namespace corvana::test {
@@ -63,6 +64,8 @@ public:
     void forgetTheQueue() { m_knowsQueue = false; }
     void setPpdStatus(int status) { m_ppdStatus = status; }
 
+    /// Prints a document on its queue. The server may not ask for a password.
+    ServerJobRequest request(const Document &document) const;
     quint16 port() const { return m_server.port(); }
     /// Whether a worker is still there.
     bool isInUse() const { return m_server.openConnections() > 0; }

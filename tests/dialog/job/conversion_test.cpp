@@ -1,10 +1,13 @@
 #include <QDir>
 #include <QFile>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/Conversion.h"
+#include "dialog/job/FileJob.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
 
 using namespace corvana;
@@ -145,10 +148,11 @@ private:
         if (document.path.isEmpty())
             return {};
         const QString output = m_folder->filePath(u"out.ps"_s);
-        FileQueue queue;
-        connect(&queue, &FileQueue::finished, this, [problem](const QString &p) { *problem = p; });
-        queue.print(document, {u"Job"_s, copies, options}, ppd, output);
-        return queue.wait() ? contentOf(output) : QByteArray();
+        FileJob job({{document}, {u"Job"_s, copies, options}, ppd, output});
+        job.start();
+        const JobOutcome outcome = job.wait();
+        *problem = outcome.isDone() ? QString() : outcome.text;
+        return outcome.isDone() ? contentOf(output) : QByteArray();
     }
 
 private Q_SLOTS:
@@ -198,16 +202,10 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
     }
 
-    void noProgramRunsThatAPpdNames_data()
-    {
-        QTest::addColumn<int>("row");
-        for (int row = 0; row < int(std::size(kForeignFilters)); ++row)
-            QTest::newRow(kForeignFilters[row].name) << row;
-    }
+    void noProgramRunsThatAPpdNames_data() { addRows(kForeignFilters); }
     void noProgramRunsThatAPpdNames()
     {
-        QFETCH(int, row);
-        const ForeignFilter &foreign = kForeignFilters[row];
+        const ForeignFilter &foreign = currentRow(kForeignFilters);
         writeTool(u"tool"_s);
         const QString ppd =
             writeFile(path(u"printer.ppd"_s), ppdWithFilters(inFolder(foreign.lines)));
@@ -222,36 +220,38 @@ private Q_SLOTS:
     void noProgramRunsThatAPpdNamesWhenAPdfIsMade_data() { noProgramRunsThatAPpdNames_data(); }
     void noProgramRunsThatAPpdNamesWhenAPdfIsMade()
     {
-        QFETCH(int, row);
         writeTool(u"tool"_s);
-        const QString ppd =
-            writeFile(path(u"printer.ppd"_s), ppdWithFilters(inFolder(kForeignFilters[row].lines)));
+        const QString ppd = writeFile(path(u"printer.ppd"_s),
+                                      ppdWithFilters(inFolder(currentRow(kForeignFilters).lines)));
         QString problem;
         const Document document =
             inspectDocument(source(u"resources/sample/welcome.pdf"_s), &problem);
-        FileQueue queue;
-        queue.unite({document, document}, {}, ppd, path(u"out.pdf"_s), {{u"number-up"_s, u"2"_s}});
-        QVERIFY(queue.wait());
+        const QString output = path(u"out.pdf"_s);
+        Conversion conversion({{document, document},
+                               {},
+                               ppd,
+                               output,
+                               output,
+                               ConversionRequest::Result::Pdf,
+                               {{u"number-up"_s, u"2"_s}}});
+        QSignalSpy finished(&conversion, &Conversion::finished);
+        conversion.start();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 30000);
+        QCOMPARE(finished.at(0).at(0).toString(), QString());
         QVERIFY(contentOf(path(u"out.pdf"_s)).startsWith("%PDF"));
         QVERIFY(!QFile::exists(path(u"ran"_s)));
     }
 
-    void filtersOfTheSystemRun_data()
-    {
-        QTest::addColumn<int>("row");
-        for (int row = 0; row < int(std::size(kOwnFilters)); ++row)
-            QTest::newRow(kOwnFilters[row].name) << row;
-    }
+    void filtersOfTheSystemRun_data() { addRows(kOwnFilters); }
     void filtersOfTheSystemRun()
     {
-        QFETCH(int, row);
-        const QString ppd =
-            writeFile(path(u"printer.ppd"_s), ppdWithFilters(kOwnFilters[row].lines));
+        const OwnFilter &own = currentRow(kOwnFilters);
+        const QString ppd = writeFile(path(u"printer.ppd"_s), ppdWithFilters(own.lines));
         QString problem;
         const QByteArray data =
             printed(source(u"resources/sample/welcome.pdf"_s), {}, &problem, 1, ppd);
         QVERIFY2(problem.isEmpty(), qPrintable(problem));
-        QVERIFY2(data.startsWith(kOwnFilters[row].begin), data.left(20).toHex(' ').constData());
+        QVERIFY2(data.startsWith(own.begin), data.left(20).toHex(' ').constData());
     }
 
     void theEnvironmentDoesNotMoveTheFolderOfTheFilters()

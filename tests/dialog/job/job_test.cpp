@@ -5,6 +5,7 @@
 #include "dialog/job/ServerJob.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/job/JobServer.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -34,27 +35,11 @@ private:
     std::unique_ptr<Job> newJob() const
     {
         const Document document = m_filter->document();
-        QFETCH(int, kind);
-        if (kKinds[kind].isFile)
-            return std::make_unique<FileJob>(FileJobRequest{
-                {document}, {u"Title"_s, 1, {}}, m_filter->ppdPath(), m_filter->output()});
-        ServerJobRequest request;
-        request.server.address = {u"127.0.0.1"_s, m_server->port(), HTTP_ENCRYPTION_IF_REQUESTED};
-        request.server.credentials = std::make_shared<CredentialStore>();
-        request.printer.origin = PrinterOrigin::Queue;
-        request.printer.name = u"office"_s;
-        request.printer.uri = u"ipp://localhost/printers/office"_s;
-        request.documents = {document};
-        request.ticket = {u"Title"_s, 1, {}};
-        return std::make_unique<ServerJob>(request);
+        if (currentRow(kKinds).isFile)
+            return std::make_unique<FileJob>(m_filter->request({u"Title"_s, 1, {}}));
+        return std::make_unique<ServerJob>(m_server->request(document));
     }
-    static void addKinds()
-    {
-        QTest::addColumn<int>("kind");
-        int kind = 0;
-        for (const KindOfJob &one : kKinds)
-            QTest::newRow(one.name) << kind++;
-    }
+    static void addKinds() { addRows(kKinds); }
 
 private Q_SLOTS:
     void init()
@@ -132,11 +117,10 @@ private Q_SLOTS:
     void aFileIsTheOutcomeOfAFileJobOnly_data() { addKinds(); }
     void aFileIsTheOutcomeOfAFileJobOnly()
     {
-        QFETCH(int, kind);
         const auto job = newJob();
         job->start();
         const JobOutcome outcome = job->wait();
-        if (kKinds[kind].isFile) {
+        if (currentRow(kKinds).isFile) {
             QCOMPARE(outcome.file, m_filter->output());
             QCOMPARE(outcome.text, u"Printed to "_s + m_filter->output());
             QCOMPARE(outcome.job, 0);
@@ -150,7 +134,7 @@ private Q_SLOTS:
     {
         m_filter.reset();
         m_filter = std::make_unique<FakeFilter>("echo 'DEBUG: Copying page 3' >&2; echo printed\n");
-        FileJob job({{m_filter->document()}, {}, m_filter->ppdPath(), m_filter->output()});
+        FileJob job(m_filter->request());
         QStringList told;
         connect(&job, &Job::progressed, this,
                 [&](const JobProgress &progress) { told += progress.text(); });
@@ -163,7 +147,7 @@ private Q_SLOTS:
     {
         m_filter.reset();
         m_filter = std::make_unique<FakeFilter>("echo 'ERROR: upside down' >&2; exit 1\n");
-        FileJob job({{m_filter->document()}, {}, m_filter->ppdPath(), m_filter->output()});
+        FileJob job(m_filter->request());
         job.start();
         const JobOutcome outcome = job.wait();
         QCOMPARE(outcome.kind, Kind::Failed);

@@ -3,6 +3,7 @@
 
 #include "dialog/job/PpdFilters.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -110,28 +111,17 @@ private:
     QTemporaryDir m_folder;
 
 private Q_SLOTS:
-    void onlyFiltersOfTheSystemMayRun_data()
-    {
-        QTest::addColumn<int>("row");
-        for (int row = 0; row < int(std::size(kLines)); ++row)
-            QTest::newRow(kLines[row].name) << row;
-    }
+    void onlyFiltersOfTheSystemMayRun_data() { addRows(kLines); }
     void onlyFiltersOfTheSystemMayRun()
     {
-        QFETCH(int, row);
-        QCOMPARE(isSafeFilterLine(kLines[row].value), kLines[row].isSafe);
+        const Line &line = currentRow(kLines);
+        QCOMPARE(isSafeFilterLine(line.value), line.isSafe);
     }
 
-    void everyLineOfAPpdIsLookedAt_data()
-    {
-        QTest::addColumn<int>("row");
-        for (int row = 0; row < int(std::size(kPrinters)); ++row)
-            QTest::newRow(kPrinters[row].name) << row;
-    }
+    void everyLineOfAPpdIsLookedAt_data() { addRows(kPrinters); }
     void everyLineOfAPpdIsLookedAt()
     {
-        QFETCH(int, row);
-        const Printer &printer = kPrinters[row];
+        const Printer &printer = currentRow(kPrinters);
         const QString path =
             writeFile(m_folder.filePath(u"printer.ppd"_s), PpdBuilder().text() + printer.lines);
         const QString problem = problemOfPpdFilters(path);

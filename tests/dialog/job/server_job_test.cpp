@@ -4,6 +4,7 @@
 
 #include "dialog/job/ServerJob.h"
 #include "tests/dialog/job/JobServer.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -14,6 +15,122 @@ using Kind = JobOutcome::Kind;
 namespace {
 
 constexpr auto kDay = 1000000000; // when the PPD was changed last
+
+constexpr SaidOfJob kHangsUp{0, -1, IPP_STATUS_OK, true};
+
+// What the server says of a job at last, and what that is called.
+struct End
+{
+    const char *name;
+    int state;
+    Kind kind;
+};
+constexpr End kEnds[] = {
+    {"completed", IPP_JSTATE_COMPLETED, Kind::Printed},
+    {"canceled", IPP_JSTATE_CANCELED, Kind::Canceled},
+    {"aborted", IPP_JSTATE_ABORTED, Kind::Failed},
+    {"stopped", IPP_JSTATE_STOPPED, Kind::Stopped},
+    {"held", IPP_JSTATE_HELD, Kind::InQueue},
+};
+
+struct EarlierTry
+{
+    const char *name;
+    SaidOfJob said;
+    Kind kind;
+};
+constexpr EarlierTry kEarlierTries[] = {
+    {"printed", {IPP_JSTATE_COMPLETED, 1}, Kind::AlreadyThere},
+    {"waits", {IPP_JSTATE_PENDING, 1}, Kind::AlreadyThere},
+    {"is printed", {IPP_JSTATE_PROCESSING, 1}, Kind::AlreadyThere},
+    {"is held", {IPP_JSTATE_HELD, 1}, Kind::AlreadyThere},
+    {"waits with who knows what", {IPP_JSTATE_PENDING, -1}, Kind::AlreadyThere},
+    {"has no document", {IPP_JSTATE_HELD, 0}, Kind::Printed},
+    {"was canceled", {IPP_JSTATE_CANCELED, 1}, Kind::Printed},
+    {"was given up", {IPP_JSTATE_ABORTED, 1}, Kind::Printed},
+    {"is not known", {0, 0, IPP_STATUS_ERROR_NOT_FOUND}, Kind::Printed},
+    {"nobody says", {0, 0, IPP_STATUS_ERROR_BUSY}, Kind::Failed},
+};
+
+// How a server answers the question for the PPD.
+struct NewOptions
+{
+    const char *name;
+    int status;
+    bool queueIsThere;
+    Kind kind;
+    const char *words;
+};
+constexpr NewOptions kNewOptions[] = {
+    {"the same", 304, true, Kind::Printed, ""},
+    {"another PPD", 200, true, Kind::PrinterChanged, "have changed"},
+    {"none any more", 404, true, Kind::PrinterChanged, "have changed"},
+    {"no queue any more", 404, false, Kind::Failed, "not there"},
+    {"not to be found out", 403, true, Kind::Failed, "not allow"},
+};
+
+// How often such a job is looked for and canceled.
+struct NumberlessJob
+{
+    const char *name;
+    JobServer::Creation creation;
+    int looked;
+    int canceled;
+    const char *words;
+};
+constexpr NumberlessJob kNumberlessJobs[] = {
+    {"made, and its answer lost", JobServer::Creation::LostAndListed, 1, 1,
+     "broke the connection. Job office-8 was canceled; nothing was printed."},
+    {"made, and its number left out", JobServer::Creation::Numberless, 1, 1,
+     "which job it has made. Job office-8 was canceled; nothing was printed."},
+    {"not made", JobServer::Creation::Lost, 1, 0, "broke the connection. Nothing was printed."},
+    {"nobody says", JobServer::Creation::LostAndUnlistable, 1, 0,
+     "a job without a document may be at the print server"},
+    {"refused", JobServer::Creation::Refused, 0, 0, "Nothing was printed."},
+};
+
+struct LostJob
+{
+    const char *name;
+    SaidOfJob said;
+    Kind kind;
+    const char *words;
+};
+constexpr LostJob kLostJobs[] = {
+    {"no record is kept", {0, -1, IPP_STATUS_ERROR_NOT_FOUND}, Kind::InQueue, "has left the queue"},
+    {"the server is gone", kHangsUp, Kind::Unknown, "is not known"},
+    {"the server refuses", {0, -1, IPP_STATUS_ERROR_NOT_AUTHORIZED}, Kind::Unknown, "is not known"},
+};
+
+// What is said of a job whose document was sent, and how often it is canceled then.
+struct LostAnswer
+{
+    const char *name;
+    QList<SaidOfJob> states;
+    Kind kind;
+    int canceled;
+};
+const LostAnswer kLostAnswers[] = {
+    {"printed meanwhile", {{IPP_JSTATE_COMPLETED}}, Kind::Printed, 0},
+    {"will be printed", {{IPP_JSTATE_PENDING}, {IPP_JSTATE_COMPLETED}}, Kind::Printed, 0},
+    {"back at the third try", {kHangsUp, kHangsUp, {IPP_JSTATE_COMPLETED}}, Kind::Printed, 0},
+    {"came without its document", {{IPP_JSTATE_HELD, 0}}, Kind::Failed, 1},
+    {"is not known", {{0, -1, IPP_STATUS_ERROR_NOT_FOUND}}, Kind::Failed, 0},
+    {"nobody says", {kHangsUp}, Kind::Unknown, 0},
+};
+
+struct Cancellation
+{
+    const char *name;
+    bool cancels; ///< the server
+    int state;    ///< after that
+    Kind kind;
+};
+constexpr Cancellation kCancellations[] = {
+    {"in time", true, IPP_JSTATE_CANCELED, Kind::Canceled},
+    {"too late", false, IPP_JSTATE_COMPLETED, Kind::Printed},
+    {"not allowed", false, IPP_JSTATE_PROCESSING, Kind::Unknown},
+};
 
 } // namespace
 
@@ -29,32 +146,15 @@ private Q_SLOTS:
         QFile file(m_folder.filePath(u"document.txt"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("Hello\n");
-        m_request = {};
-        m_request.server.address = {u"127.0.0.1"_s, m_server->port(), HTTP_ENCRYPTION_IF_REQUESTED};
-        m_request.server.patience = {10s, 10s};
+        m_request = m_server->request({file.fileName(), u"text/plain"_s, u"document.txt"_s});
         m_request.server.mayAsk = true;
-        m_request.server.credentials = std::make_shared<CredentialStore>();
-        m_request.printer.origin = PrinterOrigin::Queue;
-        m_request.printer.name = u"office"_s;
-        m_request.printer.uri = u"ipp://localhost/printers/office"_s;
-        m_request.documents = {{file.fileName(), u"text/plain"_s, u"document.txt"_s}};
-        m_request.ticket = {u"document.txt"_s, 1, {{u"media"_s, u"A4"_s}}};
+        m_request.ticket.options = {{u"media"_s, u"A4"_s}};
     }
 
-    void printedIsWhatTheServerCallsSo_data()
-    {
-        QTest::addColumn<int>("state");
-        QTest::addColumn<Kind>("kind");
-        QTest::newRow("completed") << int(IPP_JSTATE_COMPLETED) << Kind::Printed;
-        QTest::newRow("canceled") << int(IPP_JSTATE_CANCELED) << Kind::Canceled;
-        QTest::newRow("aborted") << int(IPP_JSTATE_ABORTED) << Kind::Failed;
-        QTest::newRow("stopped") << int(IPP_JSTATE_STOPPED) << Kind::Stopped;
-        QTest::newRow("held") << int(IPP_JSTATE_HELD) << Kind::InQueue;
-    }
+    void printedIsWhatTheServerCallsSo_data() { addRows(kEnds); }
     void printedIsWhatTheServerCallsSo()
     {
-        QFETCH(int, state);
-        QFETCH(Kind, kind);
+        const auto &[name, state, kind] = currentRow(kEnds);
         m_server->say({{IPP_JSTATE_PENDING}, {IPP_JSTATE_PROCESSING}, {state}});
         const JobOutcome outcome = print();
         QCOMPARE(outcome.kind, kind);
@@ -65,33 +165,11 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
     }
 
-    void anEarlierTryIsNotRepeatedByAccident_data()
-    {
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("documents");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<Kind>("kind");
-        const auto row = [](const char *name, int state, int documents, int status, Kind kind) {
-            QTest::newRow(name) << state << documents << status << kind;
-        };
-        row("printed", IPP_JSTATE_COMPLETED, 1, IPP_STATUS_OK, Kind::AlreadyThere);
-        row("waits", IPP_JSTATE_PENDING, 1, IPP_STATUS_OK, Kind::AlreadyThere);
-        row("is printed", IPP_JSTATE_PROCESSING, 1, IPP_STATUS_OK, Kind::AlreadyThere);
-        row("is held", IPP_JSTATE_HELD, 1, IPP_STATUS_OK, Kind::AlreadyThere);
-        row("waits with who knows what", IPP_JSTATE_PENDING, -1, IPP_STATUS_OK, Kind::AlreadyThere);
-        row("has no document", IPP_JSTATE_HELD, 0, IPP_STATUS_OK, Kind::Printed);
-        row("was canceled", IPP_JSTATE_CANCELED, 1, IPP_STATUS_OK, Kind::Printed);
-        row("was given up", IPP_JSTATE_ABORTED, 1, IPP_STATUS_OK, Kind::Printed);
-        row("is not known", 0, 0, IPP_STATUS_ERROR_NOT_FOUND, Kind::Printed);
-        row("nobody says", 0, 0, IPP_STATUS_ERROR_BUSY, Kind::Failed);
-    }
+    void anEarlierTryIsNotRepeatedByAccident_data() { addRows(kEarlierTries); }
     void anEarlierTryIsNotRepeatedByAccident()
     {
-        QFETCH(int, state);
-        QFETCH(int, documents);
-        QFETCH(int, status);
-        QFETCH(Kind, kind);
-        m_server->sayOfEarlierJob({state, documents, static_cast<ipp_status_t>(status)});
+        const auto &[name, said, kind] = currentRow(kEarlierTries);
+        m_server->sayOfEarlierJob(said);
         m_request.earlierJob = kEarlierJob;
         const JobOutcome outcome = print();
         QCOMPARE(outcome.kind, kind);
@@ -104,25 +182,10 @@ private Q_SLOTS:
             QVERIFY2(outcome.text.contains(u'7'), qPrintable(outcome.text));
     }
 
-    void aPrinterWhoseOptionsAreOthersByNowGetsNothing_data()
-    {
-        QTest::addColumn<int>("status");
-        QTest::addColumn<bool>("queueIsThere");
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QString>("words");
-        const QString changed = u"have changed"_s;
-        QTest::newRow("the same") << 304 << true << Kind::Printed << QString();
-        QTest::newRow("another PPD") << 200 << true << Kind::PrinterChanged << changed;
-        QTest::newRow("none any more") << 404 << true << Kind::PrinterChanged << changed;
-        QTest::newRow("no queue any more") << 404 << false << Kind::Failed << u"not there"_s;
-        QTest::newRow("not to be found out") << 403 << true << Kind::Failed << u"not allow"_s;
-    }
+    void aPrinterWhoseOptionsAreOthersByNowGetsNothing_data() { addRows(kNewOptions); }
     void aPrinterWhoseOptionsAreOthersByNowGetsNothing()
     {
-        QFETCH(int, status);
-        QFETCH(bool, queueIsThere);
-        QFETCH(Kind, kind);
-        QFETCH(QString, words);
+        const auto &[name, status, queueIsThere, kind, words] = currentRow(kNewOptions);
         m_server->setPpdStatus(status);
         if (!queueIsThere)
             m_server->forgetTheQueue();
@@ -132,7 +195,7 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), kind == Kind::Printed ? 1 : 0);
         if (kind != Kind::Printed)
             QVERIFY2(outcome.text.contains(u"Nothing was printed"_s), qPrintable(outcome.text));
-        QVERIFY2(outcome.text.contains(words), qPrintable(outcome.text));
+        QVERIFY2(outcome.text.contains(QString::fromUtf8(words)), qPrintable(outcome.text));
     }
 
     void forAnUnchangedPpdTheQueueIsAskedNothingElse()
@@ -143,35 +206,14 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_GET_PRINTER_ATTRIBUTES), 0);
     }
 
-    void aJobWhoseNumberNeverCameIsTakenBack_data()
-    {
-        using Creation = JobServer::Creation;
-        QTest::addColumn<Creation>("creation");
-        QTest::addColumn<int>("looked");
-        QTest::addColumn<int>("canceled");
-        QTest::addColumn<QString>("words");
-        const QString tookBack = u"Job office-8 was canceled; nothing was printed."_s;
-        const QString nothing = u"Nothing was printed."_s;
-        QTest::newRow("made, and its answer lost")
-            << Creation::LostAndListed << 1 << 1 << u"broke the connection. "_s + tookBack;
-        QTest::newRow("made, and its number left out")
-            << Creation::Numberless << 1 << 1 << u"which job it has made. "_s + tookBack;
-        QTest::newRow("not made") << Creation::Lost << 1 << 0
-                                  << u"broke the connection. "_s + nothing;
-        QTest::newRow("nobody says") << Creation::LostAndUnlistable << 1 << 0
-                                     << u"a job without a document may be at the print server"_s;
-        QTest::newRow("refused") << Creation::Refused << 0 << 0 << nothing;
-    }
+    void aJobWhoseNumberNeverCameIsTakenBack_data() { addRows(kNumberlessJobs); }
     void aJobWhoseNumberNeverCameIsTakenBack()
     {
-        QFETCH(JobServer::Creation, creation);
-        QFETCH(int, looked);
-        QFETCH(int, canceled);
-        QFETCH(QString, words);
+        const auto &[name, creation, looked, canceled, words] = currentRow(kNumberlessJobs);
         m_server->setCreation(creation);
         const JobOutcome outcome = print();
         QCOMPARE(outcome.kind, Kind::Failed);
-        QVERIFY2(outcome.text.contains(words), qPrintable(outcome.text));
+        QVERIFY2(outcome.text.contains(QString::fromUtf8(words)), qPrintable(outcome.text));
         QCOMPARE(outcome.job, canceled > 0 ? kJob : 0);
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
         QCOMPARE(m_server->count(IPP_OP_GET_JOBS), looked);
@@ -217,57 +259,24 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
     }
 
-    void aJobThatIsLostSightOfIsNotCalledPrinted_data()
-    {
-        QTest::addColumn<int>("status");
-        QTest::addColumn<bool>("hangsUp");
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QString>("words");
-        QTest::newRow("no record is kept")
-            << int(IPP_STATUS_ERROR_NOT_FOUND) << false << Kind::InQueue << u"has left the queue"_s;
-        QTest::newRow("the server is gone") << 0 << true << Kind::Unknown << u"is not known"_s;
-        QTest::newRow("the server refuses")
-            << int(IPP_STATUS_ERROR_NOT_AUTHORIZED) << false << Kind::Unknown << u"is not known"_s;
-    }
+    void aJobThatIsLostSightOfIsNotCalledPrinted_data() { addRows(kLostJobs); }
     void aJobThatIsLostSightOfIsNotCalledPrinted()
     {
-        QFETCH(int, status);
-        QFETCH(bool, hangsUp);
-        QFETCH(Kind, kind);
-        QFETCH(QString, words);
+        const auto &[name, said, kind, words] = currentRow(kLostJobs);
         m_request.server.patience = {1s, 1s};
-        m_server->say({{IPP_JSTATE_PROCESSING},
-                       {IPP_JSTATE_PROCESSING},
-                       {0, -1, static_cast<ipp_status_t>(status), hangsUp}});
+        m_server->say({{IPP_JSTATE_PROCESSING}, {IPP_JSTATE_PROCESSING}, said});
         const JobOutcome outcome = print();
         QCOMPARE(outcome.kind, kind);
-        QVERIFY2(outcome.text.contains(words), qPrintable(outcome.text));
+        QVERIFY2(outcome.text.contains(QString::fromUtf8(words)), qPrintable(outcome.text));
         QVERIFY(outcome.text.contains(u"office-8"_s));
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
     }
 
-    void anAnswerThatIsLostIsFoundOut_data()
-    {
-        QTest::addColumn<QList<SaidOfJob>>("states");
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<int>("canceled");
-        const SaidOfJob gone{0, -1, IPP_STATUS_OK, true};
-        const SaidOfJob notFound{0, -1, IPP_STATUS_ERROR_NOT_FOUND};
-        const auto row = [](const char *name, const QList<SaidOfJob> &states, Kind kind,
-                            int canceled) { QTest::newRow(name) << states << kind << canceled; };
-        row("printed meanwhile", {{IPP_JSTATE_COMPLETED}}, Kind::Printed, 0);
-        row("will be printed", {{IPP_JSTATE_PENDING}, {IPP_JSTATE_COMPLETED}}, Kind::Printed, 0);
-        row("back at the third try", {gone, gone, {IPP_JSTATE_COMPLETED}}, Kind::Printed, 0);
-        row("came without its document", {{IPP_JSTATE_HELD, 0}}, Kind::Failed, 1);
-        row("is not known", {notFound}, Kind::Failed, 0);
-        row("nobody says", {gone}, Kind::Unknown, 0);
-    }
+    void anAnswerThatIsLostIsFoundOut_data() { addRows(kLostAnswers); }
     void anAnswerThatIsLostIsFoundOut()
     {
-        QFETCH(QList<SaidOfJob>, states);
-        QFETCH(Kind, kind);
-        QFETCH(int, canceled);
+        const auto &[name, states, kind, canceled] = currentRow(kLostAnswers);
         m_server->loseTheAnswerToTheDocument();
         m_server->say(states);
         const JobOutcome outcome = print();
@@ -304,20 +313,10 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
     }
 
-    void aCanceledJobIsTakenBack_data()
-    {
-        QTest::addColumn<bool>("cancels");
-        QTest::addColumn<int>("state"); // after that
-        QTest::addColumn<Kind>("kind");
-        QTest::newRow("in time") << true << int(IPP_JSTATE_CANCELED) << Kind::Canceled;
-        QTest::newRow("too late") << false << int(IPP_JSTATE_COMPLETED) << Kind::Printed;
-        QTest::newRow("not allowed") << false << int(IPP_JSTATE_PROCESSING) << Kind::Unknown;
-    }
+    void aCanceledJobIsTakenBack_data() { addRows(kCancellations); }
     void aCanceledJobIsTakenBack()
     {
-        QFETCH(bool, cancels);
-        QFETCH(int, state);
-        QFETCH(Kind, kind);
+        const auto &[name, cancels, state, kind] = currentRow(kCancellations);
         m_server->say({{IPP_JSTATE_PROCESSING}});
         if (!cancels)
             m_server->refuseToCancel();

@@ -1,8 +1,10 @@
 #include <QTest>
 
 #include "dialog/session/JobAttributes.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
+using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -97,6 +99,25 @@ const QList<Samples> &samples()
     return all;
 }
 
+// What a message says is allowed.
+struct Said
+{
+    const char *name; ///< of the attribute
+    const char *text;
+};
+constexpr Said kSaid[] = {
+    {"number-up", "1, 2, 4, 6, 9, 16"},
+    {"orientation-requested",
+     "3 (portrait), 4 (landscape), 5 (reverse landscape), 6 (reverse portrait)"},
+    {"page-ranges", "pages and ranges in ascending order, such as 1-4,7,9-"},
+    {"wrap", "true, false"},
+    {"scaling", "1 to 800"},
+    {"cpi", "1 to 100"},
+    {"page-left", "0 to 9999 points of 1/72 inch"},
+    {"job-hold-until", "no-hold, indefinite, day-time, evening, night, second-shift, third-shift, "
+                       "weekend, or a time HH:MM"},
+};
+
 } // namespace
 
 class JobAttributesTest : public QObject
@@ -112,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(sampled, jobAttributeNames());
         for (const QString &name : jobAttributeNames()) {
             QVERIFY(jobAttribute(name));
-            QVERIFY(!jobAttribute(name)->allowed.isEmpty());
+            QVERIFY(!jobAttribute(name)->allowed.text().isEmpty());
             QVERIFY(!textOfJobAttribute({name, u"1"_s}).title.isEmpty());
         }
     }
@@ -140,6 +161,45 @@ private Q_SLOTS:
         const JobAttribute *attribute = jobAttribute(name);
         QVERIFY(attribute);
         QCOMPARE(attribute->accepts(value), taken);
+    }
+
+    void whatIsSaidOfTheValuesIsWhatIsChecked()
+    {
+        for (const QString &name : jobAttributeNames()) {
+            const JobAttribute *attribute = jobAttribute(name);
+            const AllowedValues &allowed = attribute->allowed;
+            const QString text = allowed.text();
+            QVERIFY2(!allowed.words.empty() || allowed.range || allowed.form, qPrintable(name));
+            for (const AllowedValues::Word &word : allowed.words) {
+                QVERIFY2(attribute->accepts(word.value), word.value.data());
+                QVERIFY2(text.contains(word.value), qPrintable(text));
+                QVERIFY2(!attribute->accepts(QString(word.value).toUpper() + u'x'),
+                         word.value.data());
+            }
+            if (allowed.range) {
+                const auto &[least, most, isWhole, unit] = *allowed.range;
+                QVERIFY2(text.startsWith(u"%1 to %2"_s.arg(least).arg(most)), qPrintable(text));
+                QVERIFY2(attribute->accepts(QString::number(least)), qPrintable(name));
+                QVERIFY2(attribute->accepts(QString::number(most)), qPrintable(name));
+                QVERIFY2(!attribute->accepts(QString::number(least - 1)), qPrintable(name));
+                QVERIFY2(!attribute->accepts(QString::number(most + 1)), qPrintable(name));
+                const QString between = QString::number((least + most) / 2, 'f', 2);
+                QCOMPARE(attribute->accepts(between), !isWhole);
+                QVERIFY2(text.endsWith(unit), qPrintable(text));
+            }
+            if (allowed.form)
+                QVERIFY2(text.endsWith(allowed.form->text), qPrintable(text));
+            QVERIFY2(attribute->usual.isEmpty() || attribute->accepts(attribute->usual),
+                     qPrintable(name));
+        }
+    }
+
+    void theValuesAreSaidInOneSentence_data() { addRows(kSaid); }
+    void theValuesAreSaidInOneSentence()
+    {
+        const Said &row = currentRow(kSaid);
+        QCOMPARE(jobAttribute(QString::fromLatin1(row.name))->allowed.text(),
+                 QString::fromLatin1(row.text));
     }
 
     void otherNamesAreNoAttributes_data()

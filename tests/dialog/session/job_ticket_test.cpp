@@ -4,12 +4,43 @@
 #include "dialog/session/PpdSession.h"
 #include "tests/dialog/support/FakePlugIn.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 using Origin = PpdSession::Origin;
+
+namespace {
+
+struct QuotedSecret
+{
+    const char *name;
+    const char *secret;
+    const char *quoted;
+    const char *left;
+};
+constexpr QuotedSecret kQuotedSecrets[] = {
+    {"as it is", "a 1", "a 1", "••••••"},
+    {"in single quotes", "a 1", "'a 1'", "'••••••'"},
+    {"in double quotes", "a 1", "\"a 1\"", "\"••••••\""},
+    {"a blank behind a backslash", "a 1", "a\\ 1", "••••••"},
+    {"quoted twice", "a 1", "a\\\\\\ 1", "••••••"},
+    {"every character behind a backslash", "a 1", "\\a\\ \\1", "••••••"},
+    {"a tab behind a backslash", "a\t1", "a\\\t1", "••••••"},
+    {"a single quote in single quotes", "a'1", "'a'\\''1'", "'••••••'"},
+    {"a single quote in double quotes in single ones", "a'1", "'a'\"'\"'1'", "'••••••'"},
+    {"a single quote behind a backslash", "a'1", "a\\'1", "••••••"},
+    {"a double quote behind a backslash", "a\"1", "\"a\\\"1\"", "\"••••••\""},
+    {"a backslash behind another", "a\\1", "a\\\\1", "••••••"},
+    {"a backslash, quoted twice", "a\\1", "a\\\\\\\\1", "••••••"},
+    {"signs with a meaning in patterns", "a.1+(", "a.1+(", "••••••"},
+    {"and nothing but it", "a.1", "ab1", "ab1"},
+    {"beyond the basic plane", "a😀1", "a😀1", "••••••"},
+};
+
+} // namespace
 
 class JobTicketTest : public QObject
 {
@@ -64,6 +95,15 @@ private Q_SLOTS:
         QCOMPARE(secretsOf(*session), QStringList(u"4711"_s));
         QCOMPARE(withoutSecrets(u"-o Pin=Custom.4711 4711"_s, secretsOf(*session)),
                  u"-o Pin=Custom.•••••• ••••••"_s);
+    }
+
+    void aSecretIsHiddenHoweverItIsQuoted_data() { addRows(kQuotedSecrets); }
+    void aSecretIsHiddenHoweverItIsQuoted()
+    {
+        const QuotedSecret &row = currentRow(kQuotedSecrets);
+        const QString text = u"-o Pin="_s + QString::fromUtf8(row.quoted) + u" next"_s;
+        QCOMPARE(withoutSecrets(text, {QString::fromUtf8(row.secret)}),
+                 u"-o Pin="_s + QString::fromUtf8(row.left) + u" next"_s);
     }
 
     void aPanelsOwnValueTakesThePlaceOfTheMarkItStandsFor()

@@ -1,13 +1,15 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/FileJob.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
+using Kind = JobOutcome::Kind;
 
 namespace {
 
@@ -15,47 +17,56 @@ namespace {
 constexpr char kLong[] = "sleep 300 & echo $! > $DIR/child; echo $$ > $DIR/parent; "
                          "echo half; touch $DIR/started; wait\n";
 
+struct Failure
+{
+    const char *name;
+    const char *script;
+    const char *told;
+};
+constexpr Failure kFailures[] = {
+    {"it fails and says why",
+     "echo half; echo 'ERROR: first' >&2; echo 'INFO: more' >&2; "
+     "echo 'ERROR: The paper is upside down' >&2; exit 1\n",
+     "converted for the printer: The paper is upside down"},
+    {"it fails without a word", "echo half; exit 7\n", "exit status 7"},
+    {"it fails before anything came", "exit 1\n", "exit status 1"},
+    {"it crashes", "echo half; kill -SEGV $$\n", "crashed"},
+    {"it is killed by somebody else", "echo half; kill -KILL $$\n", "crashed"},
+    {"it writes nothing", "exit 0\n", "nothing came out"},
+    {"it writes nothing and says why", "echo 'ERROR: No filter' >&2; exit 0\n",
+     "nothing came out. No filter"},
+    {"its output is taken away", "rm -f $DIR/*.part; echo printed\n", "nothing came out"},
+};
+
 } // namespace
 
 /// Filter chains that fail, are stopped, or do not want to stop.
-class FileQueueChainTest : public QObject
+class FileJobChainTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void aFailureLeavesAnEarlierResultAndNothingElse_data()
+private:
+    static void verifyCanceled(const QSignalSpy &finished)
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QString>("told");
-        const auto row = [](const char *name, const QByteArray &script, const QString &told) {
-            QTest::newRow(name) << script << told;
-        };
-        row("it fails and says why",
-            "echo half; echo 'ERROR: first' >&2; echo 'INFO: more' >&2; "
-            "echo 'ERROR: The paper is upside down' >&2; exit 1\n",
-            u"converted for the printer: The paper is upside down"_s);
-        row("it fails without a word", "echo half; exit 7\n", u"exit status 7"_s);
-        row("it fails before anything came", "exit 1\n", u"exit status 1"_s);
-        row("it crashes", "echo half; kill -SEGV $$\n", u"crashed"_s);
-        row("it is killed by somebody else", "echo half; kill -KILL $$\n", u"crashed"_s);
-        row("it writes nothing", "exit 0\n", u"nothing came out"_s);
-        row("it writes nothing and says why", "echo 'ERROR: No filter' >&2; exit 0\n",
-            u"nothing came out. No filter"_s);
-        row("its output is taken away", "rm -f $DIR/*.part; echo printed\n", u"nothing came out"_s);
+        const auto outcome = finished.at(0).at(0).value<JobOutcome>();
+        QCOMPARE(outcome.kind, Kind::Canceled);
+        QCOMPARE(outcome.text, u"Printing was canceled."_s);
     }
+
+private Q_SLOTS:
+    void aFailureLeavesAnEarlierResultAndNothingElse_data() { addRows(kFailures); }
     void aFailureLeavesAnEarlierResultAndNothingElse()
     {
-        QFETCH(QByteArray, script);
-        QFETCH(QString, told);
-        const FakeFilter filter(script);
+        const Failure &failure = currentRow(kFailures);
+        const FakeFilter filter(failure.script);
         writeFile(filter.output(), "yesterday's");
-        FileQueue queue;
-        const QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
-        QVERIFY(!queue.wait());
+        FileJob job(filter.request());
+        const QSignalSpy finished(&job, &Job::finished);
+        job.start();
+        const JobOutcome outcome = job.wait();
+        QCOMPARE(outcome.kind, Kind::Failed);
         QCOMPARE(finished.size(), 1);
-        const QString problem = finished.at(0).at(0).toString();
-        QVERIFY2(problem.contains(told), qPrintable(problem));
+        QVERIFY2(outcome.text.contains(QString::fromUtf8(failure.told)), qPrintable(outcome.text));
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
         QVERIFY2(filter.leftOvers().isEmpty(), qPrintable(filter.leftOvers().join(u' ')));
     }
@@ -64,9 +75,9 @@ private Q_SLOTS:
     {
         const FakeFilter filter(
             "echo 'WARNING: low toner' >&2; echo 'DEBUG: ERROR:' >&2; echo ok\n");
-        FileQueue queue;
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
-        QVERIFY(queue.wait());
+        FileJob job(filter.request());
+        job.start();
+        QCOMPARE(job.wait().kind, Kind::Printed);
     }
 
     void aChainThatTalksMuchIsNotHeldUp()
@@ -74,17 +85,17 @@ private Q_SLOTS:
         const FakeFilter filter("i=0; while [ $i -lt 20000 ]; do "
                                 "echo 'DEBUG: a line of the size of a line of a log' >&2; "
                                 "i=$((i+1)); done; echo ok\n");
-        FileQueue queue;
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
-        QVERIFY(queue.wait());
+        FileJob job(filter.request());
+        job.start();
+        QCOMPARE(job.wait().kind, Kind::Printed);
     }
 
     void theChainDoesNotReadFromTheTerminal()
     {
         const FakeFilter filter("cat; echo ok\n");
-        FileQueue queue;
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
-        QVERIFY(queue.wait());
+        FileJob job(filter.request());
+        job.start();
+        QCOMPARE(job.wait().kind, Kind::Printed);
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("ok\n"));
     }
 
@@ -92,13 +103,13 @@ private Q_SLOTS:
     {
         const FakeFilter filter(kLong);
         writeFile(filter.output(), "yesterday's");
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
+        FileJob job(filter.request());
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
         QVERIFY(filter.waitForFile(u"started"_s));
-        queue.cancel();
+        job.cancel();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
-        QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
+        verifyCanceled(finished);
         QVERIFY(filter.waitForEndOf(u"child"_s));
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
         QVERIFY(filter.leftOvers().isEmpty());
@@ -107,23 +118,23 @@ private Q_SLOTS:
     void aJobThatIsCanceledAtOnceIsCanceled()
     {
         const FakeFilter filter("sleep 300\n");
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
-        queue.cancel();
+        FileJob job(filter.request());
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
+        job.cancel();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
-        QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
+        verifyCanceled(finished);
     }
 
     void aChainThatIgnoresThatIsStoppedByForce()
     {
         const FakeFilter filter("trap '' TERM; echo $$ > $DIR/parent; touch $DIR/started; "
                                 "while :; do sleep 0.1; done\n");
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
+        FileJob job(filter.request());
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
         QVERIFY(filter.waitForFile(u"started"_s));
-        queue.cancel();
+        job.cancel();
         QTest::qWait(200);
         QCOMPARE(finished.size(), 0); // it is given time to clean up
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
@@ -133,23 +144,23 @@ private Q_SLOTS:
     void cancelingAfterTheEndChangesNothing()
     {
         const FakeFilter filter("echo ok\n");
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
-        QVERIFY(queue.wait());
-        queue.cancel();
+        FileJob job(filter.request());
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
+        QCOMPARE(job.wait().kind, Kind::Printed);
+        job.cancel();
         QTest::qWait(20);
         QCOMPARE(finished.size(), 1);
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("ok\n"));
     }
 
-    void aQueueThatDiesTakesItsChainAlong()
+    void aJobThatDiesTakesItsChainAlong()
     {
         const FakeFilter filter(kLong);
         writeFile(filter.output(), "yesterday's");
         {
-            FileQueue queue;
-            queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
+            FileJob job(filter.request());
+            job.start();
             QVERIFY(filter.waitForFile(u"started"_s));
         }
         QVERIFY(filter.waitForEndOf(u"parent"_s));
@@ -158,18 +169,18 @@ private Q_SLOTS:
         QVERIFY(filter.leftOvers().isEmpty());
     }
 
-    void aQueueThatDiesAtOnceLeavesNothing()
+    void aJobThatDiesAtOnceLeavesNothing()
     {
         const FakeFilter filter("sleep 300; echo late\n");
         {
-            FileQueue queue;
-            queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
+            FileJob job(filter.request());
+            job.start();
         }
         QVERIFY(filter.leftOvers().isEmpty());
         QVERIFY(filter.content(u"out.ps"_s).isNull());
     }
 };
 
-QTEST_GUILESS_MAIN(FileQueueChainTest)
+QTEST_GUILESS_MAIN(FileJobChainTest)
 
-#include "file_queue_chain_test.moc"
+#include "file_job_chain_test.moc"

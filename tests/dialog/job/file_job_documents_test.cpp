@@ -11,13 +11,14 @@
 #include <QTemporaryFile>
 #include <QTest>
 
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/FileJob.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/TestPrinters.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
+using Kind = JobOutcome::Kind;
 
 namespace {
 
@@ -115,7 +116,7 @@ bool hasEnded(const QByteArray &pid)
 } // namespace
 
 /// Several documents as one job: what each step is told, and what is left when one goes wrong.
-class FileQueueDocumentsTest : public QObject
+class FileJobDocumentsTest : public QObject
 {
     Q_OBJECT
 
@@ -138,22 +139,25 @@ private:
         return QDir(m_temporary->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     }
     void make(const QString &name) { writeFile(path(name), ""); }
-    void start(FileQueue &queue, const QList<Document> &list, const JobTicket &ticket = {})
+    FileJobRequest request(const QList<Document> &list, const JobTicket &ticket = {}) const
     {
-        queue.print(list, ticket, m_filter->ppdPath(), m_filter->output());
+        return {list, ticket, m_filter->ppdPath(), m_filter->output()};
+    }
+    static void verifyCanceled(const QSignalSpy &finished)
+    {
+        const auto outcome = finished.at(0).at(0).value<JobOutcome>();
+        QCOMPARE(outcome.kind, Kind::Canceled);
+        QCOMPARE(outcome.text, u"Printing was canceled."_s);
     }
     // What became of a job: empty when it was printed.
     QString printed(const QList<Document> &list, const JobTicket &ticket = {})
     {
-        FileQueue queue;
-        QString problem = u"finished was not signalled"_s;
-        connect(&queue, &FileQueue::finished, this, [&](const QString &p) {
-            problem = p;
-            m_leftAtTheEnd = m_filter->leftOvers() + temporaryFiles();
-        });
-        start(queue, list, ticket);
-        queue.wait();
-        return problem;
+        FileJob job(request(list, ticket));
+        connect(&job, &Job::finished, this,
+                [&] { m_leftAtTheEnd = m_filter->leftOvers() + temporaryFiles(); });
+        job.start();
+        const JobOutcome outcome = job.wait();
+        return outcome.kind == Kind::Printed ? QString() : outcome.text;
     }
     // After a failure: the former file, nothing beside it, and another job that works.
     void verifyNothingIsLeft()
@@ -327,15 +331,15 @@ private Q_SLOTS:
         QFETCH(QString, stage);
         make(u"hold-"_s + stage);
         {
-            FileQueue queue;
-            QSignalSpy finished(&queue, &FileQueue::finished);
-            start(queue, documents());
+            FileJob job(request(documents()));
+            QSignalSpy finished(&job, &Job::finished);
+            job.start();
             QVERIFY(m_filter->waitForFile(u"held"_s));
-            queue.cancel();
-            queue.cancel(); // impatience changes nothing
+            job.cancel();
+            job.cancel(); // impatience changes nothing
             QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
-            QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
-            queue.cancel();
+            verifyCanceled(finished);
+            job.cancel();
             QCOMPARE(finished.size(), 1);
         }
         QVERIFY(m_filter->waitForEndOf(u"pid"_s));
@@ -343,56 +347,55 @@ private Q_SLOTS:
         verifyNothingIsLeft();
     }
 
-    void aQueueThatDiesInAnyStepLeavesNothing_data() { stageRows(); }
-    void aQueueThatDiesInAnyStepLeavesNothing()
+    void aJobThatDiesInAnyStepLeavesNothing_data() { stageRows(); }
+    void aJobThatDiesInAnyStepLeavesNothing()
     {
         QFETCH(QString, stage);
         make(u"hold-"_s + stage);
         {
-            FileQueue queue;
-            start(queue, documents());
+            FileJob job(request(documents()));
+            job.start();
             QVERIFY(m_filter->waitForFile(u"held"_s));
         }
         QVERIFY(m_filter->waitForEndOf(u"pid"_s));
         verifyNothingIsLeft();
     }
 
-    // The step has ended, and the queue does not know it yet.
+    // The step has ended, and the job does not know it yet.
     void aJobThatIsCanceledBeforeItsLastStepWasSeenToEndIsCanceled()
     {
         {
-            FileQueue queue;
-            QSignalSpy finished(&queue, &FileQueue::finished);
-            start(queue, {document(u"one.txt"_s)});
+            FileJob job(request({document(u"one.txt"_s)}));
+            QSignalSpy finished(&job, &Job::finished);
+            job.start();
             // Without the event loop, so that nothing is delivered.
             const QDeadlineTimer patience(10000);
             while (!hasEnded(m_filter->content(u"pid"_s).trimmed()) && !patience.hasExpired()) {
             }
             QVERIFY(!patience.hasExpired());
-            queue.cancel();
+            job.cancel();
             QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
-            QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
+            verifyCanceled(finished);
         }
         verifyNothingIsLeft();
     }
 
     void aResultThatHasItsNameStaysPrinted()
     {
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        start(queue, {document(u"one.txt"_s)});
+        FileJob job(request({document(u"one.txt"_s)}));
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
         // The result takes its name one turn of the event loop before that is told.
         while (m_filter->content(u"out.ps"_s) == "yesterday's") {
             QCOMPARE(finished.size(), 0);
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
         QCOMPARE(finished.size(), 0);
-        queue.cancel();
-        queue.cancel();
-        QVERIFY(!queue.isCanceled());
+        job.cancel();
+        job.cancel();
+        QVERIFY(!job.isCanceled());
         QTRY_COMPARE(finished.size(), 1);
-        QCOMPARE(finished.at(0).at(0).toString(), QString());
-        QVERIFY(queue.wait());
+        QCOMPARE(job.wait().kind, Kind::Printed);
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n%%EOF\n"));
         QCOMPARE(m_filter->leftOvers(), QStringList());
     }
@@ -403,11 +406,11 @@ private Q_SLOTS:
         m_filter = std::make_unique<FakeFilter>(
             "(trap '' TERM; while :; do sleep 0.1; done) >/dev/null 2>&1 & echo $! > $DIR/child\n"
             "touch $DIR/held; wait\n");
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        start(queue, {m_filter->document()});
+        FileJob job(request({m_filter->document()}));
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
         QVERIFY(m_filter->waitForFile(u"held"_s));
-        queue.cancel();
+        job.cancel();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
         QVERIFY(m_filter->waitForEndOf(u"child"_s));
     }
@@ -449,6 +452,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileQueueDocumentsTest)
+QTEST_GUILESS_MAIN(FileJobDocumentsTest)
 
-#include "file_queue_documents_test.moc"
+#include "file_job_documents_test.moc"

@@ -1,4 +1,6 @@
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -6,7 +8,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "dialog/job/FileQueue.h"
+#include "dialog/job/CupsFilter.h"
+#include "dialog/job/FileJob.h"
 #include "platform/printcore/Ppd.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -14,6 +17,20 @@
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
+using Kind = JobOutcome::Kind;
+
+namespace {
+
+int masksSet = 0;
+
+} // namespace
+
+// In the place of the system's: whoever sets the mask in this program is counted.
+extern "C" mode_t umask(mode_t mask) noexcept
+{
+    ++masksSet;
+    return static_cast<mode_t>(::syscall(SYS_umask, mask));
+}
 
 namespace {
 
@@ -23,14 +40,14 @@ constexpr char kGood[] = "echo printed\n";
 QString printed(const FakeFilter &filter, const JobTicket &ticket, const QString &output,
                 const QString &ppd = {})
 {
-    FileQueue queue;
-    QString problem = u"finished was not signalled"_s;
-    QObject::connect(&queue, &FileQueue::finished, [&](const QString &p) { problem = p; });
-    queue.print(filter.document(), ticket, ppd.isNull() ? filter.ppdPath() : ppd, output);
-    const bool ok = queue.wait();
-    if (ok != problem.isEmpty())
-        return u"wait() and finished() disagree: "_s + problem;
-    return problem;
+    FileJob job({{filter.document()}, ticket, ppd.isNull() ? filter.ppdPath() : ppd, output});
+    JobOutcome told;
+    QObject::connect(&job, &Job::finished, [&](const JobOutcome &outcome) { told = outcome; });
+    job.start();
+    const JobOutcome outcome = job.wait();
+    if (outcome != told)
+        return u"wait() and finished() disagree: "_s + told.text;
+    return outcome.kind == Kind::Printed ? QString() : outcome.text;
 }
 
 QString printed(const FakeFilter &filter)
@@ -58,7 +75,7 @@ mode_t permissions(const QString &path)
 } // namespace
 
 /// Where the result goes, and what the filter chain is told.
-class FileQueueTest : public QObject
+class FileJobTest : public QObject
 {
     Q_OBJECT
 
@@ -176,19 +193,22 @@ private Q_SLOTS:
         QCOMPARE(read, value);
     }
 
-    void finishedNeverComesBeforePrintReturns_data()
+    void finishedNeverComesBeforeStartReturns_data()
     {
         QTest::addColumn<QString>("ppd");
         QTest::newRow("a job that prints") << QString();
         QTest::newRow("a job that fails at once") << u"/nowhere/printer.ppd"_s;
     }
-    void finishedNeverComesBeforePrintReturns()
+    void finishedNeverComesBeforeStartReturns()
     {
         QFETCH(QString, ppd);
         const FakeFilter filter(kGood);
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, ppd.isNull() ? filter.ppdPath() : ppd, filter.output());
+        FileJobRequest request = filter.request();
+        if (!ppd.isNull())
+            request.ppdPath = ppd;
+        FileJob job(request);
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
         QCOMPARE(finished.size(), 0);
         QTRY_COMPARE(finished.size(), 1);
         QTest::qWait(20);
@@ -208,14 +228,14 @@ private Q_SLOTS:
         const FakeFilter filter("echo half; touch $DIR/started; "
                                 "while [ ! -e $DIR/go ]; do sleep 0.02; done; echo whole\n");
         writeFile(filter.output(), "yesterday's");
-        FileQueue queue;
-        QSignalSpy finished(&queue, &FileQueue::finished);
-        queue.print(filter.document(), {}, filter.ppdPath(), filter.output());
+        FileJob job(filter.request());
+        QSignalSpy finished(&job, &Job::finished);
+        job.start();
         QVERIFY(filter.waitForFile(u"started"_s));
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
         QCOMPARE(finished.size(), 0);
         writeFile(filter.path(u"go"_s), "");
-        QVERIFY(queue.wait());
+        QCOMPARE(job.wait().kind, Kind::Printed);
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("half\nwhole\n"));
     }
 
@@ -233,7 +253,9 @@ private Q_SLOTS:
         QFETCH(int, result);
         const FakeFilter filter(kGood);
         const Mask userMask(static_cast<mode_t>(mask));
+        masksSet = 0;
         QCOMPARE(printed(filter), QString());
+        QCOMPARE(masksSet, 0); // another thread may make a file at any moment
         QCOMPARE(int(permissions(filter.output())), result);
         const Mask unchanged(static_cast<mode_t>(mask));
         QCOMPARE(int(::umask(static_cast<mode_t>(mask))), mask);
@@ -340,6 +362,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileQueueTest)
+QTEST_GUILESS_MAIN(FileJobTest)
 
-#include "file_queue_test.moc"
+#include "file_job_test.moc"

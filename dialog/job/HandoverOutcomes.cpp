@@ -1,0 +1,207 @@
+#include "dialog/job/HandoverOutcomes.h"
+
+#include <QCoreApplication>
+
+namespace corvana {
+
+namespace {
+
+using Kind = JobOutcome::Kind;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ServerJob)
+};
+
+QString withMessage(const QString &text, const QString &message)
+{
+    return message.isEmpty() ? text : Texts::tr("%1 The printer says: %2").arg(text, message);
+}
+
+QString whereTheEarlierJobIs(const JobStatus &job)
+{
+    if (job.state == IPP_JSTATE_COMPLETED)
+        return Texts::tr("Job %1 of the earlier try has been printed.");
+    if (job.state == IPP_JSTATE_HELD)
+        return Texts::tr("Job %1 of the earlier try is held in the queue.");
+    if (job.state == IPP_JSTATE_STOPPED)
+        return Texts::tr("Job %1 of the earlier try is stopped in the queue.");
+    return Texts::tr("Job %1 of the earlier try is in the queue and will be printed.");
+}
+
+} // namespace
+
+JobOutcome HandoverOutcomes::outcome(Kind kind, const QString &text) const
+{
+    return {kind, m_job, text};
+}
+
+JobOutcome HandoverOutcomes::failed(const QString &text) const
+{
+    return outcome(Kind::Failed, text);
+}
+
+JobOutcome HandoverOutcomes::nothingPrinted(const QString &why) const
+{
+    return failed(Texts::tr("%1 Nothing was printed.").arg(why));
+}
+
+JobOutcome HandoverOutcomes::cannotBeRead(const QString &document, const QString &why) const
+{
+    return nothingPrinted(Texts::tr("%1 cannot be read: %2.").arg(document, why));
+}
+
+JobOutcome HandoverOutcomes::noCredentials() const
+{
+    return failed(Texts::tr("The printer “%1” wants a user and a password; none was given. "
+                            "Nothing was printed.")
+                      .arg(m_printer.name));
+}
+
+JobOutcome HandoverOutcomes::notCreated(const ServerProblem &problem, const QString &why) const
+{
+    if (problem.kind == ServerProblem::Kind::NotFound)
+        return failed(Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
+                          .arg(m_printer.name));
+    if (problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
+        return failed(Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
+                          .arg(m_printer.name));
+    return nothingPrinted(why);
+}
+
+JobOutcome HandoverOutcomes::printerChanged() const
+{
+    return outcome(Kind::PrinterChanged,
+                   Texts::tr("The options of the printer “%1” have changed at its server. "
+                             "Nothing was printed.")
+                       .arg(m_printer.name));
+}
+
+JobOutcome HandoverOutcomes::canceledBefore() const
+{
+    return outcome(Kind::Canceled, Texts::tr("Printing was canceled."));
+}
+
+JobOutcome HandoverOutcomes::earlierJobUnknown(const QString &why, int earlierJob) const
+{
+    return failed(Texts::tr("%1 Whether job %2 of the earlier try was printed is not known yet, so "
+                            "nothing was sent again.")
+                      .arg(why, QString::number(earlierJob)));
+}
+
+JobOutcome HandoverOutcomes::earlierJobIsThere(const JobStatus &status, int earlierJob) const
+{
+    return {Kind::AlreadyThere, earlierJob, whereTheEarlierJobIs(status).arg(earlierJob)};
+}
+
+JobOutcome HandoverOutcomes::mayBeThereWithoutNumber(Kind kind, const QString &why,
+                                                     const QString &whyNot) const
+{
+    return outcome(kind, Texts::tr("%1 Nothing was printed, but a job without a document may be at "
+                                   "the print server. It could not be looked for: %2")
+                             .arg(why, whyNot));
+}
+
+JobOutcome HandoverOutcomes::withdrawn(Kind kind, const QString &why, bool mayHavePrinted) const
+{
+    const QString text =
+        mayHavePrinted ? Texts::tr("%1 Job %2 was canceled; pages that the printer has already may "
+                                   "still come out.")
+                       : Texts::tr("%1 Job %2 was canceled; nothing was printed.");
+    return outcome(kind, text.arg(why, name()));
+}
+
+JobOutcome HandoverOutcomes::notWithdrawn(Kind kind, const QString &why, const QString &whyNot,
+                                          bool isWhole) const
+{
+    if (isWhole && kind == Kind::Canceled) // it would be said to be, and not to be
+        return outcome(Kind::Unknown,
+                       Texts::tr("Job %1 could not be canceled and may still be printed. %2")
+                           .arg(name(), whyNot));
+    if (isWhole)
+        return outcome(Kind::Unknown,
+                       Texts::tr("%1 Job %2 could not be canceled and may still be printed. %3")
+                           .arg(why, name(), whyNot));
+    return failed(Texts::tr("%1 Job %2 may still be at the print server, without its whole "
+                            "document. It could not be canceled: %3")
+                      .arg(why, name(), whyNot));
+}
+
+QString HandoverOutcomes::credentialsRefused() const
+{
+    return Texts::tr("The printer “%1” does not accept this user and password.")
+        .arg(m_printer.name);
+}
+
+JobOutcome HandoverOutcomes::notKnownAnyMore(const QString &why) const
+{
+    return failed(
+        Texts::tr("%1 The print server does not know job %2 any more. It was probably not "
+                  "printed.")
+            .arg(why, name()));
+}
+
+JobOutcome HandoverOutcomes::mayBePrinted(const QString &why) const
+{
+    return outcome(Kind::Unknown,
+                   Texts::tr("%1 The document had been sent, so job %2 may be printed or not. "
+                             "Printing again looks for it first.")
+                       .arg(why, name()));
+}
+
+JobOutcome HandoverOutcomes::lostSight(const ServerProblem &problem, const QString &why) const
+{
+    if (problem.kind == ServerProblem::Kind::NotFound)
+        return outcome(Kind::InQueue,
+                       Texts::tr("Job %1 has left the queue “%2”, whose server keeps no record of "
+                                 "it.")
+                           .arg(name(), m_printer.name));
+    return outcome(Kind::Unknown, Texts::tr("Job %1 was handed over completely. %2 So whether it "
+                                            "has been printed is not known.")
+                                      .arg(name(), why));
+}
+
+JobOutcome HandoverOutcomes::stopped(const JobStatus &status) const
+{
+    return outcome(Kind::Stopped,
+                   withMessage(Texts::tr("Job %1 was stopped. It is still in the queue, where it "
+                                         "can be released or canceled.")
+                                   .arg(name()),
+                               status.message));
+}
+
+JobOutcome HandoverOutcomes::held(const JobStatus &status) const
+{
+    return outcome(
+        Kind::InQueue,
+        withMessage(Texts::tr("Job %1 is held in the queue “%2”.").arg(name(), m_printer.name),
+                    status.message));
+}
+
+JobOutcome HandoverOutcomes::inQueue(const JobProgress &progress) const
+{
+    if (progress.stage == JobProgress::Stage::Stopped)
+        return outcome(Kind::InQueue,
+                       withMessage(Texts::tr("Job %1 waits in the queue “%2”, which is stopped.")
+                                       .arg(name(), m_printer.name),
+                                   progress.message));
+    return outcome(Kind::InQueue,
+                   Texts::tr("Job %1 is in the queue “%2”.").arg(name(), m_printer.name));
+}
+
+JobOutcome HandoverOutcomes::ended(const JobStatus &status, bool canceledHere) const
+{
+    if (status.state == IPP_JSTATE_COMPLETED)
+        return outcome(Kind::Printed,
+                       Texts::tr("Printed on “%1” as job %2.").arg(m_printer.name, name()));
+    if (status.state != IPP_JSTATE_CANCELED)
+        return failed(withMessage(
+            Texts::tr("Job %1 failed: the printer or its server gave it up.").arg(name()),
+            status.message));
+    if (canceledHere)
+        return canceledBefore();
+    return outcome(Kind::Canceled,
+                   Texts::tr("Job %1 was canceled at the printer or its server.").arg(name()));
+}
+
+} // namespace corvana

@@ -1,0 +1,131 @@
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/job/ResultFile.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Place
+{
+    const char *name;
+    bool isThere; ///< at the beginning
+    bool comes;   ///< meanwhile
+    bool isLink;  ///< the name is one, to another file
+    bool isTaken; ///< by the result, in the end
+};
+constexpr Place kPlaces[] = {
+    {"nothing there", false, false, false, true},
+    {"a file there", true, false, false, true},
+    {"a file that has come meanwhile", false, true, false, false},
+    {"a link to a file", true, false, true, true},
+    {"a link that leads nowhere yet", false, false, true, true},
+    {"a link that leads to a file that has come", false, true, true, false},
+};
+
+} // namespace
+
+/// A file that takes its name when it is complete.
+class ResultFileTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QByteArray content(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList files() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::Files | QDir::System | QDir::Hidden);
+    }
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void aNameIsTakenWhenTheResultIsComplete_data() { addRows(kPlaces); }
+    void aNameIsTakenWhenTheResultIsComplete()
+    {
+        const Place &place = currentRow(kPlaces);
+        const QString target = place.isLink ? u"target"_s : u"out"_s;
+        if (place.isThere)
+            writeFile(path(target), "former");
+        if (place.isLink)
+            QVERIFY(QFile::link(path(target), path(u"out"_s)));
+        QString problem;
+        const auto result = ResultFile::create(path(u"out"_s), &problem);
+        QVERIFY2(result, qPrintable(problem));
+        QCOMPARE(result->name(), path(u"out"_s));
+        writeFile(result->path(), "new");
+        if (place.comes)
+            writeFile(path(target), "theirs");
+        QCOMPARE(content(target), QByteArray(place.comes     ? "theirs"
+                                             : place.isThere ? "former"
+                                                             : ""));
+        const QString why = result->publish();
+        QCOMPARE(why.isEmpty(), place.isTaken);
+        QCOMPARE(content(target), QByteArray(place.isTaken ? "new" : "theirs"));
+        QCOMPARE(QFileInfo(path(u"out"_s)).isSymLink(), place.isLink);
+        if (!place.isTaken)
+            QVERIFY2(why.contains(u"was written by another program"_s), qPrintable(why));
+    }
+
+    void whatIsNotPublishedIsRemoved()
+    {
+        QString problem;
+        writeFile(path(u"out"_s), "former");
+        ResultFile::create(path(u"out"_s), &problem);
+        QCOMPARE(files(), QStringList{u"out"_s});
+        QCOMPARE(content(u"out"_s), QByteArray("former"));
+    }
+
+    void whatIsPublishedStays()
+    {
+        QString problem;
+        {
+            const auto result = ResultFile::create(path(u"out"_s), &problem);
+            writeFile(result->path(), "new");
+            QCOMPARE(result->publish(), QString());
+        }
+        QCOMPARE(files(), QStringList{u"out"_s});
+        QCOMPARE(content(u"out"_s), QByteArray("new"));
+    }
+
+    void aFolderThatVanishesMeanwhileIsTold()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"sub"_s));
+        QString problem;
+        const auto result = ResultFile::create(path(u"sub/out"_s), &problem);
+        QVERIFY(QDir(path(u"sub"_s)).removeRecursively());
+        const QString why = result->publish();
+        QVERIFY2(why.startsWith(path(u"sub/out"_s) + u" cannot be written: "_s), qPrintable(why));
+    }
+
+    void twoResultsOfOneNameDoNotMix()
+    {
+        QString problem;
+        const auto one = ResultFile::create(path(u"out"_s), &problem);
+        const auto other = ResultFile::create(path(u"out"_s), &problem);
+        QVERIFY(one->path() != other->path());
+        writeFile(one->path(), "one");
+        writeFile(other->path(), "other");
+        QCOMPARE(one->publish(), QString());
+        QVERIFY(!other->publish().isEmpty());
+        QCOMPARE(content(u"out"_s), QByteArray("one"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ResultFileTest)
+
+#include "result_file_test.moc"
