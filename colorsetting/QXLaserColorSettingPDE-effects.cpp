@@ -14,7 +14,7 @@ QString QXLaserColorSettingPDE::currentEffectSetKey() const
 void QXLaserColorSettingPDE::setEffectDefaults()
 {
     EffectVal() = {-1, 0};
-    // Only the first call takes the PPD's defaults; a later one must not undo what was restored.
+    // Only the first call takes the PPD's defaults. A later one must not undo a restore.
     if (!PPDEffectKeys) {
         PPDEffectKeys.emplace();
         for (const QLatin1StringView keyword : kEffectKeywords) {
