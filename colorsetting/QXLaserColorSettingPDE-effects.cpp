@@ -57,7 +57,7 @@ void QXLaserColorSettingPDE::restoreEffectValues()
 void QXLaserColorSettingPDE::noteRestoredEffect(const EffectInfo &effect, qint64 restored)
 {
     const LastEffect &last = EffectVal();
-    if (effect.tag == last.tag && effectValue(effect.keyword) != restored)
+    if (effectContent && effect.tag == last.tag && effectValue(effect.keyword) != restored)
         m_lastReportIsStale = last.value != restored;
 }
 
