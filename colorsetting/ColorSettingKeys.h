@@ -10,10 +10,10 @@ inline constexpr QLatin1StringView kQXColorMatching{"QXColorMatching"};
 inline constexpr QLatin1StringView kQXEnhanceBlkPrt{"QXEnhanceBlkPrt"};
 inline constexpr QLatin1StringView kQXGray{"QXGray"};
 inline constexpr QLatin1StringView kVivid{"Vivid"};
-/// No colour matching; also the name of the reference picture that no matching has changed.
+/// No colour matching. The reference picture without colour matching has this name as well.
 inline constexpr QLatin1StringView kNone{"None"};
 
-/// Flags in the panel's binding dictionary; "QXColorMatching" is one more.
+/// Flags in the panel's binding dictionary. The keyword "QXColorMatching" is a flag there, too.
 inline constexpr QLatin1StringView kColorEnhancementFlag{"QXColorEnhancement"};
 inline constexpr QLatin1StringView kMonoColorFlag{"QXMonoColor"};
 inline constexpr QLatin1StringView kColorFlag{"Color"};

@@ -14,7 +14,7 @@ QString QXLaserColorSettingPDE::currentEffectSetKey() const
 void QXLaserColorSettingPDE::setEffectDefaults()
 {
     EffectVal() = {-1, 0};
-    // Only the first call takes the PPD's defaults; a later one must not undo what was restored.
+    // Only the first call takes the PPD's defaults. A later one must not undo a restore.
     if (!PPDEffectKeys) {
         PPDEffectKeys.emplace();
         for (const QLatin1StringView keyword : kEffectKeywords) {
@@ -57,7 +57,7 @@ void QXLaserColorSettingPDE::restoreEffectValues()
 void QXLaserColorSettingPDE::noteRestoredEffect(const EffectInfo &effect, qint64 restored)
 {
     const LastEffect &last = EffectVal();
-    if (effect.tag == last.tag && effectValue(effect.keyword) != restored)
+    if (effectContent && effect.tag == last.tag && effectValue(effect.keyword) != restored)
         m_lastReportIsStale = last.value != restored;
 }
 

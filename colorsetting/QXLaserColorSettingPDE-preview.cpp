@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What a slider or a field reports; a field may say a fraction.
+// What a slider or a field reports. The number in a field may have a fraction.
 QVariant reportedValue(const QWidget *sender)
 {
     if (const auto *slider = qobject_cast<const QAbstractSlider *>(sender))
@@ -49,7 +49,7 @@ QXLaserColorSettingPDE::LastEffect &QXLaserColorSettingPDE::EffectVal()
 
 FilterImage QXLaserColorSettingPDE::refImage() const
 {
-    // Read when it is first looked at: most panels are never shown.
+    // The picture is read when it is needed first, because most panels are never shown.
     if (!m_refImageFile.isEmpty() && !m_refPictures.contains(m_refImageFile))
         m_refPictures.insert(m_refImageFile, FilterImage(readPicture(m_refImageFile, 1.0)));
     return m_refImageFile.isEmpty() ? m_refImage : m_refPictures.value(m_refImageFile);
@@ -89,7 +89,7 @@ FilterImage QXLaserColorSettingPDE::applyColorMatrixFilter_code(const FilterImag
             setEffectContent(effect->keyword, value);
         cmFilter->setValue_forKey(effectParameter(*effect, value), effect->filterKey);
     }
-    // The gains stay in the filter for later; in grey they would have no meaning.
+    // The filter keeps the gains until colours are printed again. A grey image has no use for them.
     return hasMode(kModeMono) ? monochrome(image) : cmFilter->outputImage();
 }
 
@@ -107,7 +107,7 @@ void QXLaserColorSettingPDE::effectValueDidChange(QWidget *sender)
         return;
     last = {tag, integerValue(reported)};
 
-    // What moved is applied first.
+    // The filter of the effect that was moved is applied first.
     FilterImage result;
     if (tag < kFirstMatrixTag) {
         const FilterImage controlled =

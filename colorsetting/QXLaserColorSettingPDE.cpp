@@ -24,7 +24,7 @@ constexpr QLatin1StringView kHelpBook{"Corvana Color Settings Help (Laser)"};
 constexpr double kHeight = 110.0;
 constexpr double kAdvancedHeight = 238.0;
 
-// The panel's list in the bundle's information dictionary stands beside that of the other panel.
+// The information dictionary of the bundle has one list for each panel.
 QString supportedKeysEntry()
 {
     return kPPDKeysSupported + u"Color"_s;
@@ -51,7 +51,7 @@ bool QXLaserColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCal
     center.addObserver(
         this, kLaserPrintSettingNotification, pdePluginCallbackObject.get(),
         [this](const Notification &notification) { printSettingsNotified(notification); });
-    // The own observer reads the colour mode from the print settings.
+    // This panel's own observer gets it as well, and reads the colour mode from the print settings.
     center.post(kLaserPrintSettingNotification, pdePluginCallbackObject.get());
     return true;
 }
@@ -131,7 +131,7 @@ void QXLaserColorSettingPDE::titleEffectLabel(QLatin1StringView keyword)
         if (field)
             field->setAccessibleName(text);
     }
-    // The preview must not promise what the job cannot carry.
+    // Effects that the printer lacks are not offered: the job could not carry them.
     for (QWidget *widget : {static_cast<QWidget *>(label), static_cast<QWidget *>(field),
                             static_cast<QWidget *>(determineSlider(keyword))}) {
         if (widget)
@@ -226,7 +226,7 @@ void QXLaserColorSettingPDE::checkUIConstraints()
                 disableEffect(effect.keyword);
         }
     } else {
-        // In colour the flag stays as it was.
+        // In colour printing the flag keeps its value.
         if (mono)
             setEffectContent(kColorFlag, false);
         for (const QLatin1StringView keyword : kEffectKeywords)
@@ -265,7 +265,7 @@ void QXLaserColorSettingPDE::printSettingsNotified(const Notification &notificat
     } else if (PMPrintSettingsGetValue(printSettings(), kQXMonoColor, &mode) == kPMNoError) {
         setMode(kModeMono, mode.toString() == kMono);
     }
-    // Nothing is redrawn here: the next update of the controls shows the new state.
+    // Nothing is drawn here. The next update of the controls shows the new state.
 }
 
 } // namespace corvana

@@ -79,10 +79,12 @@ public:
     void setRefImage(const FilterImage &image);
     /// Takes a picture of the bundle; one that the bundle lacks changes nothing.
     virtual void setRefImageWithName(const QString &name);
-    /// Applies brightness, contrast or saturation (code 0 to 2) or, with a negative code, all of
-    /// them; the others stay what they were in the filter. Any other code changes none.
+    /// Sets brightness, contrast or saturation (code 0 to 2), or all three with a negative code,
+    /// and answers the filtered image. The filter keeps the parameters that are not set. Any other
+    /// code sets none.
     virtual FilterImage applyColorControlFilter_code(const FilterImage &image, int code);
-    /// The same for red, green and blue. Printing in monochrome shows grey instead.
+    /// The same for red, green and blue. In monochrome printing the answer is the grey image
+    /// instead.
     virtual FilterImage applyColorMatrixFilter_code(const FilterImage &image, int code);
     /// The action of the effects' sliders and fields.
     virtual void effectValueDidChange(QWidget *sender);
@@ -102,7 +104,7 @@ protected:
     void connectInterface(InterfaceConnections &connections) override;
 
     QPointer<FilterImageView> effectImageView;
-    /// Connected where an interface file has them; nothing is done with them.
+    /// Connected if the interface file has them. The panel does not use them.
     QPointer<QLabel> colorModeImageView;
     QPointer<QComboBox> ditherPopup;
     QPointer<QLabel> ditherLabel;

@@ -8,7 +8,7 @@ namespace corvana {
 enum ImageMode : std::int16_t {
     kModeColorSync = 0x0001,   ///< the driver's own colour matching is in force
     kModeMono = 0x0002,        ///< monochrome printing is selected
-    kModePlainDuplex = 0x0004, ///< plain paper is recorded as duplex plain paper; set by no one
+    kModePlainDuplex = 0x0004, ///< plain paper is recorded as duplex plain paper; never set here
     kModeManualSleep = 0x0008, ///< the sleep time is set manually
     kModeThinPaperDefault = 0x0010, ///< the default medium is "Thin" instead of "Plain"
     kModeJapanese = 0x0020,         ///< the Japanese localisation is in use

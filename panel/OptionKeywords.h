@@ -4,8 +4,8 @@
 
 namespace corvana {
 
-// Keywords and choices of the PPD that the base panel knows by name; each panel's own stand with
-// it.
+// Keywords and choices of the PPD that the base panel knows by name. Those that only one panel
+// knows stand in that panel's folder.
 
 inline constexpr QLatin1StringView kQXMediaType{"QXMediaType"};
 inline constexpr QLatin1StringView kQXBiDir{"QXBiDir"};
@@ -26,11 +26,12 @@ inline constexpr QLatin1StringView kPlainDuplex{"PlainDuplex"};
 inline constexpr QLatin1StringView kGlossy{"Glossy"};
 inline constexpr QLatin1StringView kHagakiUra{"HagakiUra"};
 
-/// What a paper is called that the printer cannot take; nothing is printed on it.
+/// The name that the panel gives to a paper which the printer cannot take. Printing is refused
+/// then.
 inline constexpr QLatin1StringView kUnsupportedPaper{"UnsupportedPaper"};
 
-/// Between the panels: posted whenever the Print Setting panel evaluates the colour mode, with the
-/// host callback as its sender and a boolean under kQXMonoColor.
+/// The notification from one panel to the other. The Print Setting panel posts it whenever it
+/// evaluates the colour mode: the host callback is the sender, and kQXMonoColor has a boolean.
 inline constexpr QLatin1StringView kLaserPrintSettingNotification{
     "QXLaserPrintSettingNotification"};
 
@@ -39,7 +40,8 @@ inline constexpr QLatin1StringView kPPDKeysSupported{"PMPPDKeysSupported"};
 
 /// PPD attribute of printers whose driver can do the colour matching itself.
 inline constexpr char kSupportsCustomColorMatching[] = "APSupportsCustomColorMatching";
-/// Print settings entry that says who matches colours, and its values; anything else is the driver.
+/// Print settings entry that says who matches colours, and its values. Any other value means that
+/// the driver does.
 inline constexpr QLatin1StringView kColorMatchingMode{"AP_ColorMatchingMode"};
 inline constexpr QLatin1StringView kVendorColorMatching{"AP_VendorColorMatching"};
 inline constexpr QLatin1StringView kApplicationColorMatching{"AP_ApplicationColorMatching"};

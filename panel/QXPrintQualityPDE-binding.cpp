@@ -54,8 +54,8 @@ void QXPrintQualityPDE::initializePopup()
 
 void QXPrintQualityPDE::updateUI()
 {
-    // Before, so that no rule of a keyword meets a state of the former choices; after, because such
-    // rules (toner save, the manual sleep time) decide what can be used.
+    // The rules run twice. The first run removes what the former choices left. The second one is
+    // needed because showing a choice may change a rule (toner save, the manual sleep time).
     checkUIConstraints();
     for (const QString &keyword : PPDKeys.value_or(QStringList()))
         updateUIforKey(keyword);

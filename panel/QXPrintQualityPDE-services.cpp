@@ -78,7 +78,7 @@ void QXPrintQualityPDE::setViewFrameSize(double width, double height)
         pdePluginCallbackObject->panelViewDidResize();
         return;
     }
-    // The window has to grow; it is told when the view has been laid out again.
+    // The window has to grow. The host is told once the view has been laid out again.
     NotificationCenter::defaultCenter().addObserver(
         this, QLatin1StringView(kViewDidUpdateTrackingAreasNotification), m_panelView,
         [this](const Notification &notification) { dialogDidExpand(notification); });

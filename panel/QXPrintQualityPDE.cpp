@@ -14,7 +14,7 @@ Q_LOGGING_CATEGORY(lcPanel, "corvana.panel", QtWarningMsg)
 
 namespace {
 
-// Lies in the same module as the panels' code, by which they find their bundle.
+// The panels find their bundle by the module in which this byte lies.
 constexpr char kCodeOfThisModule = 0;
 
 constexpr QLatin1StringView kPanelKindFormat{"com.corvana.print.pde.Cocoa%1"};
@@ -92,7 +92,7 @@ void QXPrintQualityPDE::connectInterface(InterfaceConnections &connections)
                        [this](QWidget *control) { requestNewOutputBin(control); });
     connections.action(u"toggleShowOption"_s, [this](QWidget *button) {
         toggleShowOption(button);
-        // A host restores a panel that comes back, and would close it again.
+        // A host restores a panel that is shown again. Without this it would close what was opened.
         saveOptionState();
     });
     connections.action(u"showHelpFile"_s, [this](QWidget *sender) { showHelpFile(sender); });
@@ -149,7 +149,7 @@ void QXPrintQualityPDE::restoreMarkedChoices()
 
 bool QXPrintQualityPDE::saveValuesAndReturnError(QString *)
 {
-    // Each choice was written when it changed; the panels add entries of their own.
+    // Nothing to do: each choice was written when it changed. The panels write their own entries.
     return true;
 }
 

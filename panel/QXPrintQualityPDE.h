@@ -29,10 +29,11 @@ class InterfaceConnections;
 /// services around the controls.
 ///
 /// A panel names its options and says, through determineUI(), determineLabel() and determineKey(),
-/// which control shows each; everything else is generic. All operations call each other through
-/// dynamic dispatch, so that an override replaces the base's step wherever the base takes it, also
-/// in the midst of the base's construction: construction has two phases, fields are in their zero
-/// state until initWithCallback() runs, and overrides tolerate that.
+/// which control shows each; everything else is generic. All operations are virtual, and the base
+/// calls its own through them: an override replaces a step of the base wherever the base takes it.
+/// This holds during construction as well, which has two phases: the base's initWithCallback()
+/// calls overrides before the concrete panel's own construction has gone on. Overrides must work
+/// then.
 ///
 /// Ownership: the panel owns its view. The PPD is the host's.
 /// Thread: GUI thread only.
@@ -47,8 +48,8 @@ public:
     /// Second phase of construction; false when no panel results, because the host cannot be asked
     /// before a choice changes.
     virtual bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback);
-    /// Lets go of the view and of all observations. Every destructor calls it first, so that no
-    /// control can act on a panel that is half gone; calling it again does nothing.
+    /// Deletes the view and ends all observations. Every destructor calls it first, so that no
+    /// control can act on a panel of which a part is destroyed already. A second call does nothing.
     void dealloc();
     /// Ends all observations of the panel, whatever the notification.
     virtual void removeNotificationObserver(const Notification &notification);
@@ -59,11 +60,12 @@ public:
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     bool shouldPrint() override;
-    /// Reads the controls back and stores the disclosure state; nothing before the first show.
+    /// Reads the controls back and stores the disclosure state. Does nothing before the panel was
+    /// shown for the first time.
     virtual void saveAllValues();
     /// Hook: defaults that a panel imposes.
     virtual void setDefaults();
-    /// Hook, called once during construction. The spelling is the one that overrides have.
+    /// Hook, called once during construction. Overrides rely on this spelling of its name.
     virtual void chechModelName();
     /// Hook.
     virtual void changeResolutionLetterB();
@@ -79,7 +81,8 @@ public:
 
     // Binding of PPD options to controls (QXPrintQualityPDE-binding.cpp)
 
-    /// Keeps the keywords that the PPD defines, in their order; nothing leaves the old ones.
+    /// Takes over those of the keywords that the PPD defines, in their order. Without a list the
+    /// panel keeps the keywords that it has.
     virtual void setPPDKeys(const std::optional<QStringList> &keywords);
     std::optional<QStringList> supportedPPDOptionKeys() override;
     /// The options to summarise.
@@ -141,7 +144,8 @@ protected:
     virtual void connectInterface(InterfaceConnections &connections);
 
     /// Sets the options that the panel handles from a list of the bundle's information dictionary,
-    /// unless they are set already. A list that is missing leaves the panel without any; logged.
+    /// unless they are set already. If the list is missing, the panel has no options, which is
+    /// logged.
     void loadPPDKeys(const QString &entry);
     /// Takes the marked choice of every option, else its default, into `outputBin`.
     void restoreMarkedChoices();
@@ -149,10 +153,11 @@ protected:
     bool hasMode(ImageMode mode) const { return (m_imageModeFlag & mode) != 0; }
     void setMode(ImageMode mode, bool on);
 
-    /// A window that is higher than the panel's view by more than this has room for all of it.
+    /// A window has room for the whole view when it is higher than the view by more than this.
     /// Units: points.
     static constexpr double kHeightAroundPanel = 96.0;
-    /// Makes the view higher where the disclosure button is on, else lower. Units: points.
+    /// Makes the view higher by `height` when the disclosure button is on, else lower. Units:
+    /// points.
     void resizeForDisclosure(const QWidget *button, double height);
 
     /// The host's print settings, or null where it has none.

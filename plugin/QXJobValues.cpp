@@ -19,15 +19,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A custom value of a PPD option. The braces form of CUPS is understood as well, and never written:
-// the scheduler drops a value that begins with a brace.
+// A custom value of a PPD option. CUPS also has a form in braces. It is read, but never written,
+// because the scheduler drops a value that begins with a brace.
 QString customValue(qint64 number)
 {
     return u"Custom.%1"_s.arg(number);
 }
 
-// The number in "Custom.12", "{Time=12}" (with that parameter's name) or, where plain numbers are
-// choices, "12"; nothing for any other text.
+// The number in "Custom.12", in "{Time=12}" (`parameter` is "Time") and, if `plainNumbers` is true,
+// in "12". Any other text has none.
 std::optional<qint64> numberIn(const QString &value, QLatin1StringView parameter, bool plainNumbers)
 {
     static const QRegularExpression number(u"^[+-]?[0-9]{1,18}$"_s);
@@ -44,7 +44,7 @@ std::optional<qint64> numberIn(const QString &value, QLatin1StringView parameter
     return integerValue(text);
 }
 
-// What was meant as a number of the option's, so that a bad one is refused with its range.
+// Whether a value was meant as a number. If it is a bad number, the refusal names the range.
 bool isCustomForm(const QString &value)
 {
     return value.startsWith(u"Custom"_s) || value.startsWith(u'{');
@@ -127,8 +127,8 @@ JobOption densityOption(qint64 density, ppd_option_t *option, ppd_file_t *ppd)
         return {kQXDensityAdjustment, customValue(density)};
     if (const ppd_choice_t *choice = choiceOfNumber(option, density))
         return {kQXDensityAdjustment, ppdKeyword(choice->choice)};
-    // A density between or beyond the choices is named all the same, so that the host can refuse
-    // it; where no choice is a number it is no matter of the option's.
+    // No choice has this density. If the option's choices are numbers, the number is named all the
+    // same, so that the host can refuse it. Otherwise the density goes under its own name.
     const bool numbers = std::any_of(option->choices, option->choices + option->num_choices,
                                      [](const ppd_choice_t &choice) { return isNumber(choice); });
     return {numbers ? QString(kQXDensityAdjustment) : QString(kDensityEntry),
@@ -189,13 +189,13 @@ QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
         const qint64 value = integerValue(values.at(effect.effect));
         const bool inForce = isInForce(effect, settings, ppd);
         if (!option) {
-            // As an attribute of the job: a filter of the server's may know what this PPD does not.
+            // An attribute of the job: a filter of the server may know what this PPD does not.
             if (inForce)
                 options += JobOption{effect.keyword, QString::number(value)};
             continue;
         }
         const ppd_choice_t *choice = inForce ? choiceOfNumber(option, value) : nullptr;
-        // A value without a choice is named all the same, so that the host can refuse it.
+        // A value for which there is no choice is named as well, so that the host can refuse it.
         QString shown = ppdKeyword(option->defchoice);
         if (inForce)
             shown = choice ? ppdKeyword(choice->choice) : QString::number(value);
@@ -246,7 +246,7 @@ QList<JobOption> QXJobValues::impliedMarks(const PrintSettings &settings, ppd_fi
     ppd_option_t *option = ppdOption(ppd, kQXSleepTime);
     const bool manual = mode.startsWith(kCustom);
     const ppd_choice_t *marked = ppdMarkedChoice(ppd, kQXSleepTime);
-    // Any fixed choice of the printer's is as good as "Default" for an automatic sleep time.
+    // Every choice but "Custom" leaves the sleep time to the printer, as "Default" does.
     if (!manual && marked && ppdKeyword(marked->choice) != kCustom)
         return {};
     const QString implied = manual ? kCustom : kDefault;
@@ -270,7 +270,7 @@ QList<JobOption> QXJobValues::companions(const JobOption &marked, const PrintSet
         return {};
     if (marked.value == kChoiceOn)
         return {{kQXImproveOutput, marked.name}};
-    // One of the two is off; the single option is off with it only when it stood for that one.
+    // One of the two options is off now. The single option follows only if it stood for that one.
     const bool stoodForIt = settings.value(kQXImproveOutput) == QVariant(marked.name);
     return stoodForIt ? QList<JobOption>{{kQXImproveOutput, kChoiceOff}} : QList<JobOption>();
 }

@@ -27,8 +27,8 @@ public:
     /// Moves the view's own coordinates: its upper left corner is `origin` in them. Units: pixels.
     void setBoundsOrigin(const QPointF &origin);
 
-    /// Draws the whole image, in the view's own coordinates, from its bounds' origin on in the size
-    /// of the view; it replaces what was there.
+    /// Draws the whole image in the view's own coordinates: its upper left corner is the origin of
+    /// the bounds, its size that of the view. The image replaces what was drawn there before.
     void drawRect(QPainter &painter, const QRectF &rectangle) const;
 
     /// The size that was asked for by setViewFrame().

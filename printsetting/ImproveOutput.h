@@ -7,8 +7,9 @@
 
 namespace corvana {
 
-/// Printers offer the same improvements as one option with three choices or as two options that are
-/// on or off; settings move between such printers. One row a choice of the single option.
+/// Printers offer the same improvements in one of two forms: as one option with three choices, or
+/// as two options that are on or off. Settings move between such printers. Each row is one choice
+/// of the single option, with the choices of the two others that mean the same.
 struct ImproveOutputForm
 {
     QLatin1StringView single;

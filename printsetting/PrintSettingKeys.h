@@ -21,14 +21,14 @@ inline constexpr QLatin1StringView kThin{"Thin"};
 inline constexpr QLatin1StringView kThick{"Thick"};
 inline constexpr QLatin1StringView kPostCard{"PostCard"};
 inline constexpr QLatin1StringView kBond{"BOND"};
-/// Envelopes: the plain one, by which the others' keywords begin as well.
+/// The plain envelope. The keywords of the other envelopes begin with this one.
 inline constexpr QLatin1StringView kEnv{"Env"};
 inline constexpr QLatin1StringView kEnvThick{"EnvThick"};
 inline constexpr QLatin1StringView kEnvThin{"EnvThin"};
 inline constexpr QLatin1StringView kLabel{"Label"};
 inline constexpr QLatin1StringView kThicker{"Thicker"};
 inline constexpr QLatin1StringView kTray1{"Tray1"};
-/// The paper size; capitalised otherwise than the medium.
+/// The name of the paper size. The medium of the same name is written with a capital C.
 inline constexpr QLatin1StringView kPostcardPaper{"Postcard"};
 inline constexpr QLatin1StringView kLetterPaper{"Letter"};
 inline constexpr QLatin1StringView kCustom{"Custom"};

@@ -26,7 +26,7 @@ constexpr double kAdvancedHeight = 115.0;
 constexpr double kImproveLabelDrop = 14.0;
 constexpr double kColumnMargin = 12.0;
 
-// More tick marks than this are no help, and drawing millions of them hangs.
+// A slider shows at most this many tick marks. Drawing millions of them would block the program.
 constexpr qint64 kMostTickMarks = 200;
 
 } // namespace
@@ -68,13 +68,14 @@ void QXLaserPrintSettingPDE::addAdvancedRows()
     }
 }
 
-// A sleep time is offered with its minutes or not at all, whatever its options are.
+// The sleep time has a row only if the user can choose its minutes, whatever else the printer
+// offers.
 bool QXLaserPrintSettingPDE::hasAdvancedRow(const AdvancedRow &row) const
 {
     if (row == kSleepTimeRow)
         return !PPDSleepTimeKey.isNull();
-    // Choices of the quiet mode, which are no options and find nothing. They have been asked for as
-    // long as there is the panel.
+    // These two are choices of the quiet mode and no options, so that nothing is found. Every
+    // version of the panel has asked for them.
     if (row == kQuietModeRow && (handles("UseDeviceSettings"_L1) || handles(kChoiceOn)))
         return true;
     const auto options = Roster::options();
@@ -111,7 +112,8 @@ void QXLaserPrintSettingPDE::titleDensityControls(const QString &text)
         densityField->setAccessibleName(text);
 }
 
-// Without the choice between improvements the label titles the boxes, which stand lower.
+// Used when the printer has no choice between improvements: the label then titles the check boxes,
+// which stand lower.
 void QXLaserPrintSettingPDE::titleImproveBoxes(const QString &text)
 {
     if (!improveLabel)
@@ -163,7 +165,8 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
     sleepTimeStepper->setMaximum(controlValue(kSleepTimeMax));
 }
 
-// Labels that are wider than the table can be scrolled to; else the table needs no scroll bar.
+// If a label is wider than the table, its column grows and the table can be scrolled. Otherwise the
+// table shows no scroll bar.
 void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
 {
     table->setAccessibleName(localized(u"advancedItem"_s));
@@ -175,7 +178,7 @@ void QXLaserPrintSettingPDE::fitAdvancedTable(QTableView *table)
         widest = std::max(widest, QFontMetricsF(table->font()).horizontalAdvance(label));
     }
     const double scale = pixelsPerPoint(table);
-    // What the frame and the margins of an item leave for its text.
+    // The frame of the table and the margins of an item take this much room from its text.
     const int margins =
         2 * (table->frameWidth() + table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     if (widest > viewFrame(table).width * scale - margins) {

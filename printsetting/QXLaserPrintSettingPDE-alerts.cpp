@@ -150,7 +150,7 @@ bool QXLaserPrintSettingPDE::confirmBackCover(const QString &mediaType)
     return !answer || answer->button != 1;
 }
 
-// Shows a picture of the bundle in the alert. Nothing when the host can show no alerts.
+// Runs the alert with a picture of the bundle. There is no answer if the host cannot show alerts.
 std::optional<AlertAnswer> QXLaserPrintSettingPDE::runIllustratedAlert(Alert alert,
                                                                        QLatin1StringView picture)
 {

@@ -11,8 +11,8 @@ namespace {
 
 constexpr QLatin1StringView kJapaneseLocalization{"Japanese"};
 constexpr QLatin1StringView kSimplifiedChineseLocalization{"zh_CN"};
-// From this model number on the thin paper sold in China prints well with the normal setting, and
-// bond paper is no medium of its own for the Japanese models.
+// From this model number on, the thin paper that is sold in China prints well with the normal
+// setting, and the Japanese models do not offer bond paper.
 constexpr int kFirstModelOfNewerFuser = 3;
 
 } // namespace
@@ -59,12 +59,13 @@ void QXLaserPrintSettingPDE::checkUIConstraints()
     const bool fax = hasMode(kModeFaxOutput);
     if (!PPDSleepTimeKey.isNull())
         setSleepTimeUsable(!fax, !fax && hasMode(kModeManualSleep));
-    // The base has just made it usable again.
+    // The base has just enabled the box.
     if (!fax && hasMode(kModeNoTonerSave) && tonerSaveButton)
         tonerSaveButton->setEnabled(false);
 }
 
-// The choice between the printer's own time and another one, and the minutes of that.
+// `mode`: whether the user can choose who sets the sleep time. `minutes`: whether the user can
+// enter the minutes.
 void QXLaserPrintSettingPDE::setSleepTimeUsable(bool mode, bool minutes)
 {
     const auto show = [](QLabel *label, bool usable) {

@@ -25,7 +25,7 @@ constexpr int kFirstModelWithFrontFeed = 5;
 constexpr QLatin1StringView kFrontFeedMedia[] = {kGlossy, kEnv,   kEnvThick, kEnvThin,
                                                  kLabel,  kThick, kThicker,  kBond};
 
-// A paper size that is given in fractions of a point is taken as printers take it.
+// Printers know sizes in whole points only, so that fractions are rounded before they are compared.
 bool isWithin(double size, float least, float most)
 {
     const double whole = std::round(size);
@@ -42,7 +42,7 @@ bool QXLaserPrintSettingPDE::readPageSetup()
         mapped.isValid()) {
         name = mapped.toString();
     } else {
-        // A panel that was told its options hears of a new paper from the host alone.
+        // Once a panel has its options, only the host tells it of a new paper.
         if (!PPDKeys) {
             const QLatin1StringView acts(kMenuDidSendActionNotification);
             NotificationCenter::defaultCenter().removeObserver(this, acts, nullptr); // only once
@@ -72,8 +72,8 @@ bool QXLaserPrintSettingPDE::readPageSetup()
     return true;
 }
 
-// The name of the page's paper; null when it cannot be had. A host whose print settings are gone
-// has no job any more: nothing is observed from then on.
+// The name of the page's paper; null when there is none. A host without print settings has no job
+// any more: the panel then ends all its observations.
 QString QXLaserPrintSettingPDE::pagePaperName()
 {
     if (!pdePluginCallbackObject ||
@@ -94,8 +94,8 @@ QString QXLaserPrintSettingPDE::pagePaperName()
     return name;
 }
 
-// Whether the printer can take the page's paper. A size that the PPD lists can always be taken, and
-// so can one of which nothing is known.
+// Whether the printer can take the page's paper. It can always take a size that the PPD lists. A
+// paper whose size cannot be read is not refused.
 bool QXLaserPrintSettingPDE::pagePaperFits()
 {
     PMPaper paper = nullptr;
@@ -118,7 +118,7 @@ void QXLaserPrintSettingPDE::checkPageSizeChange(const Notification &notificatio
 {
     try {
         if (notification.name == QLatin1StringView(kMenuDidSendActionNotification)) {
-            // Of all menus only the one with the paper sizes counts.
+            // Only the menu with the paper sizes counts.
             const auto *menu = static_cast<const QComboBox *>(notification.sender);
             if (!menu || popup::indexOfItemWithTitle(menu, localized(u"A4"_s)) < 0 ||
                 !notification.hasUserInfo || !pluginBundle)

@@ -60,8 +60,8 @@ void QXLaserPrintSettingPDE::saveAllValues()
     QXPrintQualityPDE::saveAllValues();
     if (handles(kQXDensityAdjustment))
         saveDensityValue();
-    // Only the job's mark stops saving toner; what the panel holds and shows stays as it is until
-    // it is restored from the marks.
+    // Only the mark of the job is changed. The panel keeps its own choice and shows it, until it is
+    // restored from the marks.
     if (hasMode(kModeNoTonerSave))
         askHost(kTonerSaveMode, kChoiceOff);
     if (!PPDSleepTimeKey.isNull())
@@ -96,7 +96,8 @@ bool QXLaserPrintSettingPDE::restoreValuesAndReturnError(QString *)
     return true;
 }
 
-// Settings stored for a printer with the other form of the improve-output options still apply.
+// The job may have been stored for a printer that has the improve-output options in their other
+// form. Its settings are carried over.
 void QXLaserPrintSettingPDE::reconcileImproveOutput()
 {
     const PMPrintSettings settings = printSettings();
@@ -108,7 +109,7 @@ void QXLaserPrintSettingPDE::reconcileImproveOutput()
         return value.toString();
     };
     if (handles(kQXImproveOutput)) {
-        // When both are on, the later one wins.
+        // When both are on, the paper curl counts.
         for (const QLatin1StringView keyword : {kQXFixIntensity, kQXLessPaperCurl}) {
             if (stored(keyword) == kChoiceOn)
                 m_outputBin.insert(kQXImproveOutput, QString(keyword));

@@ -82,7 +82,7 @@ bool QXLaserPrintSettingPDE::control_textShouldEndEditing(QWidget *, const QStri
     return !editorText.isNull() && sleepBounds().contains(integerValue(editorText));
 }
 
-// The steps of a stepper stay inside its range; a value set from outside need not.
+// A step of the user stays inside the stepper's range. A value that a program set may lie outside.
 void QXLaserPrintSettingPDE::takeSteppedSleepTime(Stepper *stepper)
 {
     const qint64 minutes = sleepBounds().clamped(stepper->value());
@@ -151,7 +151,7 @@ void QXLaserPrintSettingPDE::restoreDensityValue()
     QVariant stored;
     const bool found =
         PMPrintSettingsGetValue(settings, kDensityEntry, &stored) == kPMNoError && stored.isValid();
-    // A job without a density prints as the printer does, whatever the declared bounds are.
+    // A job without a density prints with the printer's own, even if 0 lies outside the bounds.
     const qint64 density = found ? densityRange().clamped(integerValue(stored)) : 0;
     m_outputBin.insert(key, QString::number(density));
     setEffectContent(key, density);

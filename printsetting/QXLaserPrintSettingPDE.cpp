@@ -24,7 +24,7 @@ constexpr double kHeight = 160.0;
 constexpr double kHeightWithoutPaperSource = 130.0;
 constexpr double kPaperSourceRow = 30.0;
 
-// Differs from the name of every listed paper, so that the paper in use is taken for a new one.
+// No listed paper has this name. With it as the former name, the paper in use counts as a new one.
 constexpr QLatin1StringView kPaperToJudgeAgain{"Custom"};
 
 } // namespace
@@ -143,7 +143,7 @@ void QXLaserPrintSettingPDE::setDefaults()
     }
 }
 
-// The PPD's default is in force for an option whose value the panel has not taken over yet.
+// Called for an option whose default choice is marked while the panel still holds another one.
 void QXLaserPrintSettingPDE::resetDefaultedOption(const QString &keyword)
 {
     if (keyword == kQXMediaType) {

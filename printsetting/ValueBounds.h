@@ -13,14 +13,14 @@ struct ValueBounds
     qint64 maximum = 0;
 
     bool contains(qint64 value) const { return minimum <= value && value <= maximum; }
-    /// The minimum when below it, else the smaller of the value and the maximum; defined also when
-    /// the minimum lies above the maximum.
+    /// The minimum if the value is below it, else the smaller of the value and the maximum. This
+    /// holds even if the minimum lies above the maximum.
     qint64 clamped(qint64 value) const;
 
     bool operator==(const ValueBounds &) const = default;
 };
 
-/// A value as Qt's controls take it: the nearest that fits.
+/// The nearest value that a control of Qt can take.
 int controlValue(qint64 value);
 
 /// The sleep time's range. Units: minutes. 1 to 99 unless the PPD's parameter declares another.

@@ -241,6 +241,20 @@ private Q_SLOTS:
         QVERIFY(!isDrawnBy([&] { reportAgain(u"QXBrightness"_s); }));
     }
 
+    void aRestoreBeforeThereAreControlsMovesNone()
+    {
+        m_host = RecordingHost::forSamplePrinter();
+        m_panel = std::make_unique<ColorSettingProbe>(m_host);
+        QVERIFY(m_panel->initWithHost());
+        QXLaserColorSettingPDE::EffectVal() = {0, 5};
+        m_host->settings().setValue(kNormalEffect, QVariantList{3, 0, 0, 0, 0, 0});
+        QVERIFY(m_panel->restoreValuesAndReturnError(nullptr));
+        QVERIFY(m_panel->panelView());
+        m_panel->willShow();
+        m_panel->effectContent->setValue(u"QXBrightness"_s, 5);
+        QVERIFY(!isDrawnBy([&] { reportAgain(u"QXBrightness"_s); }));
+    }
+
     // The panel itself skips what equals the last report; a restore changes nothing about that.
     void aDirectReportOfTheSameValueIsSkippedAfterARestore()
     {
