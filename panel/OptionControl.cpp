@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QPixmap>
+#include <QRadioButton>
 
 #include "panel/ImageMode.h"
 #include "panel/OptionKeywords.h"
@@ -72,6 +73,18 @@ public:
         return false;
     }
 
+    bool pick(const QString &choice) override
+    {
+        for (int row = 0; row < m_matrix->numberOfRows(); ++row) {
+            QRadioButton *cell = m_matrix->cell(row);
+            if (m_matrix->representedObject(row).toString() != choice || !cell->isEnabled())
+                continue;
+            cell->click();
+            return true;
+        }
+        return false;
+    }
+
     std::optional<QString> chosen() const override
     {
         const QVariant choice = m_matrix->representedObject(m_matrix->selectedRow());
@@ -109,6 +122,17 @@ public:
         if (item >= 0)
             popup::selectItemAt(m_popUp, item);
         return item >= 0;
+    }
+
+    // What an open list does when an item is clicked in it: the index changes, then it tells so.
+    bool pick(const QString &choice) override
+    {
+        const int item = popup::indexOfItemWithRepresentedObject(m_popUp, choice);
+        if (item < 0 || !isControlEnabled(m_popUp))
+            return false;
+        m_popUp->setCurrentIndex(item);
+        Q_EMIT m_popUp->activated(item);
+        return true;
     }
 
     QString substituteFor(const QString &stored) const override
@@ -184,6 +208,16 @@ public:
         const QString stored = choice.toString();
         m_box->setChecked(stored == kChoiceOn || stored == kChoiceTrue);
         return true; // off stands for every other choice
+    }
+
+    bool pick(const QString &choice) override
+    {
+        if (!isControlEnabled(m_box) ||
+            (choice != stateChoice(true) && choice != stateChoice(false)))
+            return false;
+        if (chosen() != choice)
+            m_box->click();
+        return true;
     }
 
     std::optional<QString> chosen() const override { return stateChoice(m_box->isChecked()); }

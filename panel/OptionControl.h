@@ -43,6 +43,9 @@ public:
 
     /// Shows a choice. Errors: false, and nothing changes, where the control has none like it.
     virtual bool show(const QVariant &choice) = 0;
+    /// Chooses as the user does, so that the action of the control runs. Errors: false where the
+    /// control does not offer the choice, or is disabled.
+    virtual bool pick(const QString &choice) = 0;
     /// The choice to show in place of a stored one that the control does not have; null for none.
     virtual QString substituteFor(const QString &stored) const;
     /// The choice to show when a change was refused and `stored` is what counts.

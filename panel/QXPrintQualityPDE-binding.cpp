@@ -107,6 +107,14 @@ void QXPrintQualityPDE::requestNewOutputBin(QWidget *control)
     saveAllValues();
 }
 
+bool QXPrintQualityPDE::chooseAsUser(const QString &keyword, const QString &choice)
+{
+    if (!m_panelView || !PPDKeys || !PPDKeys->contains(keyword))
+        return false;
+    const auto control = OptionControl::of(determineUI(keyword), keyword);
+    return control && control->pick(choice);
+}
+
 void QXPrintQualityPDE::getUIValues()
 {
     checkUIConstraints();

@@ -103,6 +103,7 @@ public:
     virtual void revertUI_forKey(QWidget *control, const QString &keyword);
     void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,
                                               const QString &choice) override;
+    bool chooseAsUser(const QString &keyword, const QString &choice) override;
     /// Hook: a panel's rules between options.
     virtual void checkConstraints();
     /// Enables or disables the controls.

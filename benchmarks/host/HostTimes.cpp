@@ -1,3 +1,4 @@
+#include "dialog/app/RequestFromCommandLine.h"
 #include "benchmarks/host/HostTimes.h"
 
 #include <stdexcept>

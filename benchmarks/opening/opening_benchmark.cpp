@@ -33,6 +33,7 @@
 #endif
 
 #include "benchmarks/support/BestTimes.h"
+#include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/window/PrintWindow.h"
 
 using namespace corvana;

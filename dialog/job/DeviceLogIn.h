@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 #include "dialog/server/ServerWork.h"
 
 namespace corvana {

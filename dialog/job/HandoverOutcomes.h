@@ -5,7 +5,7 @@
 #include "dialog/job/JobOutcome.h"
 #include "dialog/job/JobProgress.h"
 #include "dialog/job/JobRequests.h"
-#include "dialog/queues/Printer.h"
+#include "dialog/printers/Printer.h"
 
 namespace corvana {
 

@@ -22,6 +22,7 @@
 #include <QTest>
 #include <QTreeView>
 
+#include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/window/PrintWindow.h"
 #include "dialog/app/Translations.h"
 #include "tests/dialog/support/TestPrinters.h"

@@ -1,3 +1,4 @@
+#include "dialog/app/RequestFromCommandLine.h"
 #include "tests/e2e/DialogDriver.h"
 
 #include <stdexcept>

@@ -307,6 +307,29 @@ private Q_SLOTS:
         QVERIFY(m_face->outcomes.isEmpty());
     }
 
+    // A medium that is loaded in front comes with a picture of how, whoever picks it.
+    void theWayOutOfARefusalShowsWhatThePickWouldHaveShown()
+    {
+        PrintRequest front = request();
+        front.printers = {{u"cl5"_s, u"CL"_s, samplePpdPath(), 5}};
+        front.bundleRoots = builtBundleRoots();
+        open(with(front, {u"Duplex=DuplexNoTumble"_s}));
+        QVERIFY2(m_face->messages.isEmpty(), qPrintable(m_face->message()));
+        PanelHost &panels = *m_task->opened()->panels;
+        panels.visit(0);
+        QVERIFY(!panels.pick(u"QXMediaType"_s, u"no such medium"_s));
+        QVERIFY(panels.pick(u"QXMediaType"_s, u"Glossy"_s));
+        panels.deliverPending();
+        QCOMPARE(session().markedChoice(u"QXMediaType"_s), u"Plain"_s);
+        QVERIFY(m_face->presenter.shown().isEmpty());
+        QCOMPARE(m_face->messages.size(), 1);
+        m_face->presenter.expect();
+        m_face->messages.constFirst().take();
+        QCOMPARE(session().markedChoice(u"QXMediaType"_s), u"Glossy"_s);
+        QCOMPARE(session().markedChoice(u"Duplex"_s), u"None"_s);
+        QCOMPARE(m_face->presenter.shown().size(), 1);
+    }
+
     // Two printers of one PPD, so that everything of the one could be set on the other.
     void anotherPrinterAndBackIsAsItWasLeft()
     {

@@ -10,6 +10,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 #include "dialog/session/OptionRequest.h"
@@ -385,7 +386,16 @@ private Q_SLOTS:
         QTRY_VERIFY2(message().contains(u"Glossy Paper"_s), qPrintable(message()));
         QVERIFY2(message().contains(u"Long-Edge Binding"_s), qPrintable(message()));
         QCOMPARE(media->currentText(), before); // refused, so shown as it was
+        // How it is loaded is shown as after any pick.
+        bool shown = false;
+        QTimer::singleShot(0, this, [&shown] {
+            auto *alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(alert);
+            shown = true;
+            alert->buttons().constFirst()->click();
+        });
         control<QPushButton>(u"messageAction"_s)->click();
+        QVERIFY(shown);
         QTRY_COMPARE(media->currentText(), u"Glossy Paper"_s);
         QCOMPARE(duplex->currentText(), u"Off (1-Sided)"_s);
     }
