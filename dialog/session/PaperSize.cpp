@@ -1,0 +1,82 @@
+#include "dialog/session/PaperSize.h"
+
+#include <algorithm>
+#include <array>
+
+#include <cups/pwg.h>
+
+#include <QRegularExpression>
+
+#include "dialog/session/OptionNames.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Units: hundredths of a millimetre.
+constexpr int kSmallest = 100;
+constexpr int kLargest = 5'000'000;
+
+struct Unit
+{
+    QLatin1StringView name;
+    double points;
+};
+constexpr Unit kUnits[] = {
+    {""_L1, 1.0},
+    {"pt"_L1, 1.0},
+    {"in"_L1, kPointsPerInch},
+    {"ft"_L1, 12 * kPointsPerInch},
+    {"mm"_L1, kPointsPerMillimetre},
+    {"cm"_L1, 10 * kPointsPerMillimetre},
+    {"m"_L1, 1000 * kPointsPerMillimetre},
+};
+
+} // namespace
+
+std::optional<QSizeF> sizeWithUnit(const QString &text)
+{
+    static const QRegularExpression form(
+        u"^([0-9]{1,9}(?:\\.[0-9]+)?)x([0-9]{1,9}(?:\\.[0-9]+)?)([a-z]*)\\z"_s);
+    const QRegularExpressionMatch match = form.match(text);
+    const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits),
+                                   [&](const Unit &one) { return one.name == match.captured(3); });
+    if (!match.hasMatch() || unit == std::end(kUnits))
+        return std::nullopt;
+    return QSizeF(match.captured(1).toDouble() * unit->points,
+                  match.captured(2).toDouble() * unit->points);
+}
+
+std::optional<QSizeF> customPageSize(const QString &choice)
+{
+    return choice.startsWith(kCustomPrefix) ? sizeWithUnit(choice.mid(kCustomPrefix.size()))
+                                            : std::nullopt;
+}
+
+bool isPaper(QSize dimension)
+{
+    const auto sane = [](int length) { return length >= kSmallest && length <= kLargest; };
+    return sane(dimension.width()) && sane(dimension.height());
+}
+
+QSize dimensionOfMedia(const QString &name)
+{
+    const QByteArray bytes = name.toUtf8();
+    const pwg_media_t *media = pwgMediaForPWG(bytes.constData());
+    if (!media)
+        media = pwgMediaForLegacy(bytes.constData());
+    const QSize size = media ? QSize(media->width, media->length) : QSize();
+    return isPaper(size) ? size : QSize();
+}
+
+QString customMediaName(QSize dimension)
+{
+    std::array<char, 128> name{};
+    pwgFormatSizeName(name.data(), name.size(), "custom", nullptr, dimension.width(),
+                      dimension.height(), "mm");
+    return QString::fromLatin1(name.data());
+}
+
+} // namespace corvana
