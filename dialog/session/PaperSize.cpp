@@ -71,6 +71,28 @@ QSize dimensionOfMedia(const QString &name)
     return isPaper(size) ? size : QSize();
 }
 
+QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
+{
+    // The entry "Custom" is no size of its own: it has the one that was asked for last.
+    if (media != kCustomChoice && ppdChoice(ppdOption(ppd, kPageSizeOption), media))
+        return media;
+    const QSize dimension = dimensionOfMedia(media);
+    if (dimension.isEmpty())
+        return {};
+    constexpr double kTolerance = 5.0; // points, as CUPS matches media sizes
+    for (int i = 0; i < ppd->num_sizes; ++i) {
+        const ppd_size_t &size = ppd->sizes[i];
+        if (kCustomChoice == QLatin1StringView(size.name))
+            continue;
+        if (qAbs(static_cast<double>(size.width) - pointsOfHundredths(dimension.width())) <=
+                kTolerance &&
+            qAbs(static_cast<double>(size.length) - pointsOfHundredths(dimension.height())) <=
+                kTolerance)
+            return ppdKeyword(size.name);
+    }
+    return {};
+}
+
 QString customMediaName(QSize dimension)
 {
     std::array<char, 128> name{};

@@ -6,6 +6,8 @@
 #include <QSizeF>
 #include <QString>
 
+#include "platform/printcore/Ppd.h"
+
 namespace corvana {
 
 // Lengths and sizes of papers: the one place where they are read. PPDs count in points, IPP in
@@ -38,6 +40,10 @@ bool isPaper(QSize dimension);
 /// the names from before those ("na-letter"). Units: hundredths of a millimetre.
 /// Errors: an empty size for any other name, and for what can be no paper.
 QSize dimensionOfMedia(const QString &name);
+
+/// The page size of a PPD for a media name: its own keyword, or one of the same size.
+/// Errors: empty.
+QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media);
 
 /// The name by which IPP knows a paper of any size ("custom_100x150mm_100x150mm").
 /// Units: hundredths of a millimetre.
