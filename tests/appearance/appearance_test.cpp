@@ -25,6 +25,7 @@
 #include "dialog/app/PrintDialog.h"
 #include "dialog/app/Translations.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -538,4 +539,3 @@ private Q_SLOTS:
 
 QTEST_MAIN(AppearanceTest)
 #include "appearance_test.moc"
-#include "tests/support/TestPaths.h"

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "tests/e2e/ProgramRunner.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/FaultyServer.h"
 #include "tests/support/cups/IppEvePrinter.h"
 #include "tests/support/cups/PrivateCups.h"
@@ -297,4 +298,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(IppPrinterTest)
 
 #include "ipp_printer_test.moc"
-#include "tests/support/TestPaths.h"

@@ -9,6 +9,7 @@
 #include "dialog/app/Translations.h"
 #include "tests/e2e/DialogDriver.h"
 #include "tests/e2e/PpdLines.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -294,4 +295,3 @@ private Q_SLOTS:
 QTEST_MAIN(PanelAlertsTest)
 
 #include "panel_alerts_test.moc"
-#include "tests/support/TestPaths.h"

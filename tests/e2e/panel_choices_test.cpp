@@ -5,6 +5,7 @@
 #include "tests/e2e/DialogDriver.h"
 #include "tests/e2e/PanelChoices.h"
 #include "tests/e2e/PpdLines.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -125,4 +126,3 @@ private Q_SLOTS:
 QTEST_MAIN(PanelChoicesTest)
 
 #include "panel_choices_test.moc"
-#include "tests/support/TestPaths.h"

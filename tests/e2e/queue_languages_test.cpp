@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "tests/e2e/QueueRuns.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/FaultyServer.h"
 
 using namespace corvana::test;
@@ -144,4 +145,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(QueueLanguagesTest)
 
 #include "queue_languages_test.moc"
-#include "tests/support/TestPaths.h"

@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "tests/e2e/QueueRuns.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/Client.h"
 
 using namespace corvana::test;
@@ -296,4 +297,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(QueueRunTest)
 
 #include "queue_run_test.moc"
-#include "tests/support/TestPaths.h"

@@ -6,6 +6,7 @@
 #include "tests/e2e/DialogDriver.h"
 #include "tests/e2e/ProgramRunner.h"
 #include "tests/e2e/SampleQueues.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -111,4 +112,3 @@ private Q_SLOTS:
 QTEST_MAIN(QueueStreamsTest)
 
 #include "queue_streams_test.moc"
-#include "tests/support/TestPaths.h"

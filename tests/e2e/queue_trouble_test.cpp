@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "tests/e2e/QueueRuns.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/Client.h"
 #include "tests/support/cups/FaultyServer.h"
 
@@ -344,4 +345,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(QueueTroubleTest)
 
 #include "queue_trouble_test.moc"
-#include "tests/support/TestPaths.h"

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "tests/resources/Conditions.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -161,4 +162,3 @@ private Q_SLOTS:
 QTEST_APPLESS_MAIN(ConditionsTest)
 
 #include "conditions_test.moc"
-#include "tests/support/TestPaths.h"

@@ -5,6 +5,7 @@
 
 #include "dialog/job/FileQueue.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -98,4 +99,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(ConversionTest)
 
 #include "conversion_test.moc"
-#include "tests/support/TestPaths.h"

@@ -8,6 +8,7 @@
 
 #include "dialog/job/Document.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -204,4 +205,3 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(DocumentTest)
 
 #include "document_test.moc"
-#include "tests/support/TestPaths.h"

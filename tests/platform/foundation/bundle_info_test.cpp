@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "platform/foundation/Bundle.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 
@@ -209,4 +210,3 @@ void BundleInfoTest::theShippedDictionaryIsComplete()
 
 QTEST_GUILESS_MAIN(BundleInfoTest)
 #include "bundle_info_test.moc"
-#include "tests/support/TestPaths.h"

@@ -14,6 +14,7 @@
 #include "platform/toolkit/RadioMatrix.h"
 
 #include "UserActs.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 
@@ -425,4 +426,3 @@ void InterfaceLoaderTest::theShippedInterfacesLoad()
 
 QTEST_MAIN(InterfaceLoaderTest)
 #include "interface_loader_test.moc"
-#include "tests/support/TestPaths.h"

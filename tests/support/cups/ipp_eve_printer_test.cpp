@@ -4,6 +4,7 @@
 #include <cups/cups.h>
 
 #include "tests/support/PpdBuilder.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/IppEvePrinter.h"
 #include "tests/support/cups/PrivateCups.h"
 
@@ -126,4 +127,3 @@ private Q_SLOTS:
 
 QTEST_GUILESS_MAIN(IppEvePrinterTest)
 #include "ipp_eve_printer_test.moc"
-#include "tests/support/TestPaths.h"

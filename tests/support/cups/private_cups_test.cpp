@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "tests/support/PpdBuilder.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/Client.h"
 #include "tests/support/cups/PrivateCups.h"
 
@@ -390,4 +391,3 @@ int main(int argc, char **argv)
 }
 
 #include "private_cups_test.moc"
-#include "tests/support/TestPaths.h"
