@@ -9,6 +9,8 @@
 #include <QLocale>
 #include <QSet>
 
+#include "dialog/session/PaperSize.h"
+
 namespace corvana {
 
 namespace {
@@ -74,7 +76,7 @@ private:
 
 QByteArray points(int hundredthsOfMillimetre)
 {
-    return QByteArray::number(hundredthsOfMillimetre * 72.0 / 2540.0, 'f', 2);
+    return QByteArray::number(pointsOfHundredths(hundredthsOfMillimetre), 'f', 2);
 }
 
 QByteArray pageSizeCode(QSize size)

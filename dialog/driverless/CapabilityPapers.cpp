@@ -10,6 +10,7 @@
 #include <cups/pwg.h>
 
 #include "dialog/driverless/AttributeReading.h"
+#include "dialog/session/PaperSize.h"
 
 namespace corvana {
 
@@ -18,17 +19,9 @@ using namespace attribute;
 namespace {
 
 // Units: hundredths of a millimetre.
-constexpr int kSmallest = 100;
-constexpr int kLargest = 5'000'000;
 constexpr int kLargestMargin = 10'000;
 // Sizes are stated in millimetres or inches, so that the same one may be off by rounding.
 constexpr int kTolerance = 5;
-
-bool isPaper(QSize size)
-{
-    const auto sane = [](int length) { return length >= kSmallest && length <= kLargest; };
-    return sane(size.width()) && sane(size.height());
-}
 
 bool isSame(QSize one, QSize other)
 {
@@ -237,24 +230,6 @@ void readDefaultSize(ipp_t *attributes, PrinterCapabilities &printer)
 }
 
 } // namespace
-
-QString customMediaName(QSize dimension)
-{
-    char name[128];
-    pwgFormatSizeName(name, sizeof name, "custom", nullptr, dimension.width(), dimension.height(),
-                      "mm");
-    return QString::fromLatin1(name);
-}
-
-QSize dimensionOfMedia(const QString &name)
-{
-    const QByteArray latin = name.toLatin1();
-    const pwg_media_t *media = pwgMediaForPWG(latin.constData());
-    if (!media)
-        media = pwgMediaForLegacy(latin.constData());
-    const QSize size = media ? QSize(media->width, media->length) : QSize();
-    return isPaper(size) ? size : QSize();
-}
 
 void readPapers(ipp_t *attributes, PrinterCapabilities &printer)
 {

@@ -5,6 +5,7 @@
 #include <QLatin1StringView>
 
 #include "dialog/driverless/CapabilityOptions.h"
+#include "dialog/session/PaperSize.h"
 
 namespace corvana {
 
@@ -72,7 +73,7 @@ QString plainName(const QString &name)
 
 QByteArray points(int hundredthsOfMillimetre)
 {
-    return QByteArray::number(hundredthsOfMillimetre * 72.0 / 2540.0, 'f', 2);
+    return QByteArray::number(pointsOfHundredths(hundredthsOfMillimetre), 'f', 2);
 }
 
 struct Translation

@@ -103,11 +103,4 @@ int capabilityAttributeCount();
 /// `attributes` may be null, and is only read.
 PrinterCapabilities capabilitiesOf(ipp_t *attributes);
 
-/// The name by which IPP knows a paper of any size ("custom_100x150mm_100x150mm").
-/// Units: hundredths of a millimetre.
-QString customMediaName(QSize dimension);
-
-/// The size that a media name states. Errors: an empty size.
-QSize dimensionOfMedia(const QString &name);
-
 } // namespace corvana

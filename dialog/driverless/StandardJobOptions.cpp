@@ -10,6 +10,7 @@
 
 #include "dialog/driverless/CapabilityOptions.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/PaperSize.h"
 
 namespace corvana {
 
@@ -17,33 +18,15 @@ Q_LOGGING_CATEGORY(lcStandardOptions, "corvana.dialog.queues.options", QtWarning
 
 namespace {
 
-// The size of "Custom.WIDTHxHEIGHT" with its unit, which is points where there is none.
+// The size of a custom choice. Errors: an empty one.
 QSize customDimension(const QString &choice)
 {
-    struct Unit
-    {
-        QLatin1StringView name;
-        double hundredthsOfMillimetre;
-    };
-    constexpr Unit kUnits[] = {
-        {QLatin1StringView(""), 2540 / 72.0}, {QLatin1StringView("pt"), 2540 / 72.0},
-        {QLatin1StringView("in"), 2540},      {QLatin1StringView("ft"), 12 * 2540},
-        {QLatin1StringView("mm"), 100},       {QLatin1StringView("cm"), 1000},
-        {QLatin1StringView("m"), 100'000},
-    };
-    static const QRegularExpression form(QStringLiteral(
-        "^Custom\\.([0-9]{1,9}(?:\\.[0-9]+)?)x([0-9]{1,9}(?:\\.[0-9]+)?)([a-z]*)\\z"));
-    const QRegularExpressionMatch match = form.match(choice);
-    if (!match.hasMatch())
+    const std::optional<QSizeF> points = customPageSize(choice);
+    constexpr double kLongest = 3e6; // more would be no number of hundredths of a millimetre
+    if (!points || points->width() > kLongest || points->height() > kLongest)
         return {};
-    const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits),
-                                   [&](const Unit &one) { return one.name == match.captured(3); });
-    if (unit == std::end(kUnits))
-        return {};
-    constexpr double kLongest = 1e8;
-    const double width = match.captured(1).toDouble() * unit->hundredthsOfMillimetre;
-    const double height = match.captured(2).toDouble() * unit->hundredthsOfMillimetre;
-    return width > kLongest || height > kLongest ? QSize() : QSize(qRound(width), qRound(height));
+    return {qRound(hundredthsOfPoints(points->width())),
+            qRound(hundredthsOfPoints(points->height()))};
 }
 
 // Limits are written in points, so that a size at the limit may be off by rounding.

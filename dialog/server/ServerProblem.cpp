@@ -18,6 +18,19 @@ QString withDetail(const QString &text, const QString &detail)
     return detail.isEmpty() ? text : Texts::tr("%1 (%2)").arg(text, detail);
 }
 
+QString certificateChanged(const QString &who, const ServerProblem &problem)
+{
+    return problem.entry.isEmpty()
+               ? Texts::tr("The certificate of the print server “%1” is not the one that it had "
+                           "before: somebody has replaced it, or stands in between. If it was "
+                           "replaced on purpose, remove the file %2.")
+                     .arg(who, problem.file)
+               : Texts::tr("The certificate of the print server “%1” is not the one that it had "
+                           "before: somebody has replaced it, or stands in between. If it was "
+                           "replaced on purpose, remove the line “%2” from the file %3.")
+                     .arg(who, problem.entry, problem.file);
+}
+
 } // namespace
 
 QString ServerProblem::text(const ServerAddress &server) const
@@ -50,17 +63,7 @@ QString ServerProblem::text(const ServerAddress &server) const
         return withDetail(Texts::tr("The print server “%1” does not allow you this.").arg(who),
                           detail);
     case Kind::CertificateChanged:
-        return withDetail(
-            entry.isEmpty()
-                ? Texts::tr("The certificate of the print server “%1” is not the one that it had "
-                            "before: somebody has replaced it, or stands in between. If it was "
-                            "replaced on purpose, remove the file %2.")
-                      .arg(who, file)
-                : Texts::tr("The certificate of the print server “%1” is not the one that it had "
-                            "before: somebody has replaced it, or stands in between. If it was "
-                            "replaced on purpose, remove the line “%2” from the file %3.")
-                      .arg(who, entry, file),
-            detail);
+        return withDetail(certificateChanged(who, *this), detail);
     case Kind::CertificateInvalid:
         return withDetail(
             Texts::tr("The certificate of the print server “%1” is not to be trusted.").arg(who),

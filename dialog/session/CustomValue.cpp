@@ -7,25 +7,13 @@
 #include <QRegularExpression>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/PaperSize.h"
 
 namespace corvana {
 
-namespace {
+using namespace Qt::StringLiterals;
 
-struct Unit
-{
-    QLatin1StringView name;
-    double points;
-};
-constexpr Unit kUnits[] = {
-    {QLatin1StringView(""), 1.0},
-    {QLatin1StringView("pt"), 1.0},
-    {QLatin1StringView("in"), 72.0},
-    {QLatin1StringView("ft"), 12 * 72.0},
-    {QLatin1StringView("mm"), 72.0 / 25.4},
-    {QLatin1StringView("cm"), 72.0 / 2.54},
-    {QLatin1StringView("m"), 72.0 / 0.0254},
-};
+namespace {
 
 QString number(double value)
 {
@@ -42,45 +30,40 @@ QString number(const ppd_cparam_t *parameter, double value)
 // A number and nothing else: Qt would also read " 5", "5\n", "1e1" and "nan".
 std::optional<double> strictNumber(const ppd_cparam_t *parameter, const QString &text)
 {
-    static const QRegularExpression whole(QStringLiteral("^[+-]?[0-9]+\\z"));
-    static const QRegularExpression fraction(QStringLiteral("^[+-]?[0-9]+(?:\\.[0-9]+)?\\z"));
+    static const QRegularExpression whole(u"^[+-]?[0-9]+\\z"_s);
+    static const QRegularExpression fraction(u"^[+-]?[0-9]+(?:\\.[0-9]+)?\\z"_s);
     const QRegularExpression &form = parameter->type == PPD_CUSTOM_INT ? whole : fraction;
     return form.match(text).hasMatch() ? std::optional(text.toDouble()) : std::nullopt;
 }
 
 QString millimetres(double points)
 {
-    return QString::number(std::round(points / 72.0 * 254.0) / 10.0);
+    return QString::number(std::round(hundredthsOfPoints(points) / 10.0) / 10.0);
 }
 
 QString allowedPageSizes(const ppd_file_t *ppd)
 {
-    return QStringLiteral("Custom.WIDTHxHEIGHTmm, %1x%2mm … %3x%4mm")
-        .arg(millimetres(ppd->custom_min[0]), millimetres(ppd->custom_min[1]),
-             millimetres(ppd->custom_max[0]), millimetres(ppd->custom_max[1]));
+    return u"Custom.WIDTHxHEIGHTmm, %1x%2mm … %3x%4mm"_s.arg(
+        millimetres(ppd->custom_min[0]), millimetres(ppd->custom_min[1]),
+        millimetres(ppd->custom_max[0]), millimetres(ppd->custom_max[1]));
 }
 
 CustomValueCheck checkPageSize(const ppd_file_t *ppd, const QString &value)
 {
-    static const QRegularExpression form(
-        QStringLiteral("^Custom\\.([0-9]+(?:\\.[0-9]+)?)x([0-9]+(?:\\.[0-9]+)?)([a-z]*)\\z"));
     const CustomValueCheck refused{std::nullopt, allowedPageSizes(ppd)};
-    const QRegularExpressionMatch match = form.match(value);
-    const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits),
-                                   [&](const Unit &u) { return u.name == match.captured(3); });
-    if (!match.hasMatch() || unit == std::end(kUnits))
+    const std::optional<QSizeF> given = customPageSize(value);
+    if (!given)
         return refused;
-    const double width = match.captured(1).toDouble() * unit->points;
-    const double height = match.captured(2).toDouble() * unit->points;
     // Limits are written in points and read in millimetres; a tenth of a point is no difference.
     constexpr double tolerance = 0.1;
     const auto within = [&](double size, int axis) {
         return size >= static_cast<double>(ppd->custom_min[axis]) - tolerance &&
                size <= static_cast<double>(ppd->custom_max[axis]) + tolerance;
     };
-    if (!within(width, 0) || !within(height, 1))
+    if (!within(given->width(), 0) || !within(given->height(), 1))
         return refused;
-    return {QStringLiteral("Custom.%1x%2").arg(number(width), number(height)), refused.allowed};
+    return {u"Custom.%1x%2"_s.arg(number(given->width()), number(given->height())),
+            refused.allowed};
 }
 
 // The only parameter of a custom option; null when it has several or none.
@@ -178,10 +161,10 @@ QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
     if (!parameter)
         return {};
     if (const auto bounds = range(parameter)) {
-        return QStringLiteral("Custom.%1 … Custom.%2")
-            .arg(number(parameter, bounds->first), number(parameter, bounds->second));
+        return u"Custom.%1 … Custom.%2"_s.arg(number(parameter, bounds->first),
+                                              number(parameter, bounds->second));
     }
-    return QStringLiteral("Custom.TEXT");
+    return u"Custom.TEXT"_s;
 }
 
 } // namespace corvana

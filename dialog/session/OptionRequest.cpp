@@ -4,7 +4,6 @@
 #include <optional>
 
 #include <cups/cups.h>
-#include <cups/pwg.h>
 
 #include <QCoreApplication>
 
@@ -13,6 +12,7 @@
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PanelHost.h"
+#include "dialog/session/PaperSize.h"
 #include "dialog/session/PpdSession.h"
 
 namespace corvana {
@@ -62,33 +62,6 @@ constexpr QLatin1StringView kCopiesOption{"copies"};
 QStringList translatedOptions()
 {
     return {kMediaOption, kSidesOption, kCopiesOption};
-}
-
-// The PPD's page size for a media name: its own keyword, or a standard name of the same size.
-QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
-{
-    // The entry "Custom" is no size of its own: it has the one that was asked for last.
-    if (media != kCustomChoice && ppdChoice(ppdOption(ppd, kPageSizeOption), media))
-        return media;
-    const QByteArray name = media.toUtf8();
-    const pwg_media_t *standard = pwgMediaForPWG(name.constData());
-    if (!standard)
-        standard = pwgMediaForLegacy(name.constData());
-    if (!standard)
-        return {};
-    constexpr double kPointsPerUnit = 72.0 / 2540.0; // PWG sizes are hundredths of millimetres
-    constexpr double kTolerance = 5.0;               // points, as CUPS matches media sizes
-    for (int i = 0; i < ppd->num_sizes; ++i) {
-        const ppd_size_t &size = ppd->sizes[i];
-        if (kCustomChoice == QLatin1StringView(size.name))
-            continue;
-        if (qAbs(static_cast<double>(size.width) - standard->width * kPointsPerUnit) <=
-                kTolerance &&
-            qAbs(static_cast<double>(size.length) - standard->length * kPointsPerUnit) <=
-                kTolerance)
-            return ppdKeyword(size.name);
-    }
-    return {};
 }
 
 // Sorts the requested options by who takes them, and collects what nobody does.

@@ -6,6 +6,7 @@
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/PaperSize.h"
 #include "platform/foundation/ForeignText.h"
 #include "platform/pde/PDEPanel.h"
 
@@ -43,21 +44,19 @@ QString customText(const PpdSession &session, const QString &keyword, const QStr
 {
     if (isSecret(session.ppd(), keyword))
         return QString(kHiddenLength, u'•');
-    // Of a paper size this is in points, whatever it was in before.
-    const QString value = checkCustomValue(session.ppd(), keyword, custom)
-                              .value.value_or(custom)
-                              .mid(kCustomPrefix.size());
-    if (keyword != kPageSizeOption)
-        return value;
+    const QString value = checkCustomValue(session.ppd(), keyword, custom).value.value_or(custom);
+    const std::optional<QSizeF> size =
+        keyword == kPageSizeOption ? customPageSize(value) : std::nullopt;
+    if (!size)
+        return value.mid(kCustomPrefix.size());
     const bool inches = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
-    const auto length = [&](int index) {
-        const double points = value.section(u'x', index, index).toDouble();
-        return inches ? QString::number(points / 72.0, 'f', 2)
-                      : QString::number(qRound(points / 72.0 * 25.4));
+    const auto length = [inches](double points) {
+        return inches ? QString::number(points / kPointsPerInch, 'f', 2)
+                      : QString::number(qRound(points / kPointsPerMillimetre));
     };
     const QString form = inches ? QCoreApplication::translate("Summary", "%1 × %2 inches")
                                 : QCoreApplication::translate("Summary", "%1 × %2 mm");
-    return form.arg(length(0), length(1));
+    return form.arg(length(size->width()), length(size->height()));
 }
 
 SummaryLine optionLine(const PpdSession &session, const QString &keyword)

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLocale>
 
+#include "dialog/session/PaperSize.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -23,8 +24,8 @@ struct Unit
     int decimals;
     double step;
 };
-constexpr Unit kMillimetres{72.0 / 25.4, 1, 1.0};
-constexpr Unit kInches{72.0, 2, 0.1};
+constexpr Unit kMillimetres{kPointsPerMillimetre, 1, 1.0};
+constexpr Unit kInches{kPointsPerInch, 2, 0.1};
 
 const Unit &unitAt(int index)
 {

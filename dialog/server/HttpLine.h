@@ -1,0 +1,85 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QByteArray>
+#include <QLoggingCategory>
+#include <QString>
+
+#include "dialog/server/ServerContext.h"
+#include "dialog/server/ServerProblem.h"
+
+namespace corvana {
+
+Q_DECLARE_LOGGING_CATEGORY(lcServer)
+
+/// The HTTP connection below a ServerConnection: it connects, goes over to TLS, looks at keys,
+/// gives a password once a request, and repeats what may be repeated, until there is an answer.
+///
+/// Thread: one worker; every operation waits for a network.
+class HttpLine
+{
+public:
+    /// Sends a request, and answers CONTINUE when its answer is to be waited for.
+    using Sender = std::function<http_status_t()>;
+
+    /// `canceled` is borrowed and may be null.
+    HttpLine(ServerContext context, CancelFlag *canceled);
+    ~HttpLine();
+    HttpLine(const HttpLine &) = delete;
+    HttpLine &operator=(const HttpLine &) = delete;
+
+    const ServerContext &context() const { return m_context; }
+    ServerWait &wait() { return m_wait; }
+    /// Null while there is no connection.
+    http_t *http() const { return m_http; }
+
+    /// Sends until there is an answer that asks neither for a password nor for encryption. Answers
+    /// its status. Errors: nothing; problem() says why.
+    std::optional<http_status_t> converse(const char *method, const QByteArray &resource,
+                                          bool mayRepeat, const Sender &send);
+    /// Whether the last request was answered by a wish for a password or for encryption, so that
+    /// the server has taken nothing of it.
+    bool wasTurnedAway() const { return m_wasTurnedAway; }
+    /// Whether the server hangs up behind the answer that is being read.
+    bool isLastAnswer() const;
+
+    /// For a sender, when libcups may have gone over to TLS or to a new connection by itself. False
+    /// when that is not trusted; there is no connection then.
+    bool keepsOnlyTrusted();
+    bool reconnect();
+    void close();
+
+    /// Why the last operation failed.
+    const ServerProblem &problem() const { return m_problem; }
+    void fail(const ServerProblem &problem);
+    /// The same, from what HTTP says, where nobody knows it better.
+    void noteFailure(http_status_t status);
+    bool isCanceled() const { return m_wait.isCanceled(); }
+
+private:
+    void prepare();
+    bool open();
+    bool trustsCertificate();
+    http_status_t awaitAnswer();
+    bool authenticate(const char *method, const QByteArray &resource);
+    bool goOverToTls();
+    QString realm() const;
+    const char *givePassword(http_t *http);
+
+    static const char *passwordWanted(const char *prompt, http_t *http, const char *method,
+                                      const char *resource, void *self);
+
+    ServerContext m_context;
+    ServerWait m_wait;
+    http_t *m_http = nullptr;
+    ServerProblem m_problem;
+    std::optional<Credentials> m_given; // for this request, right or wrong
+    std::optional<Credentials> m_inUse; // on this connection, by libcups
+    QByteArray m_password;              // libcups borrows it while it authenticates
+    bool m_hasAnswered = false;         // this connection, so that it may have been closed since
+    bool m_wasTurnedAway = false;
+};
+
+} // namespace corvana
