@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTextStream>
 #include <QTimer>
@@ -47,8 +48,11 @@ bool PrintDialog::confirmOverwriting(const QString &file)
                         m_output->text() == QDir::toNativeSeparators(m_request.output));
     if (asked || !QFileInfo::exists(file))
         return true;
+    // Both ends of a name tell it from others; the whole of it stands in the field.
+    const int room = qMin(36 * fontMetrics().height(), screen()->availableSize().width() / 2);
+    const QString name = fontMetrics().elidedText(m_output->text(), Qt::ElideMiddle, room);
     QMessageBox box(QMessageBox::Question, tr("Print to File"),
-                    tr("%1 exists already. Replace it?").arg(m_output->text()),
+                    tr("%1 exists already. Replace it?").arg(name),
                     QMessageBox::Yes | QMessageBox::No, this);
     makePlain(&box);
     return box.exec() == QMessageBox::Yes;

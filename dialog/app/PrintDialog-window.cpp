@@ -65,8 +65,10 @@ void PrintDialog::buildWindow()
     m_printers->setObjectName(QStringLiteral("printers"));
     m_status = new PrinterStatusLine(this);
     m_status->setObjectName(QStringLiteral("printerStatus"));
-    m_document = plainLabel(m_request.title, this);
-    m_document->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_document = new ElidedLabel(this);
+    m_document->setObjectName(QStringLiteral("document"));
+    m_document->setMiddleCut();
+    m_document->setLine(m_request.title);
 
     auto *header = new QFormLayout;
     header->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -89,7 +91,8 @@ void PrintDialog::buildWindow()
     layout->addWidget(m_pages, 1);
     layout->addLayout(buildFooter());
     const int em = fontMetrics().height();
-    resize(rememberedWindowSize(QSize(36 * em, 31 * em), screen()->availableSize()));
+    m_given = rememberedWindowSize(QSize(36 * em, 31 * em), screen()->availableSize());
+    resize(m_given);
 
     addPageShortcuts();
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageEntered);
@@ -294,7 +297,7 @@ void PrintDialog::hideEvent(QHideEvent *event)
     if (event->spontaneous())
         return; // minimised
     const QSize own = isMaximized() ? normalGeometry().size() : size();
-    rememberWindowSize({own.width(), own.height() - (isMaximized() ? 0 : m_grownBy)});
+    rememberWindowSize({own.width(), own.height() - (isMaximized() ? 0 : m_grownBy)}, m_given);
 }
 
 void PrintDialog::showHelp()

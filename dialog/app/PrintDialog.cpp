@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "dialog/app/WindowSize.h"
 #include "dialog/pages/GeneralPage.h"
 #include "dialog/pages/MessageBar.h"
 #include "dialog/pages/OptionsPage.h"
@@ -102,6 +103,13 @@ void PrintDialog::paintEvent(QPaintEvent *event)
     QDialog::paintEvent(event);
     // The panels come up after the first paint, so that the window is there at once.
     if (!std::exchange(m_painted, true)) {
+        // Only a window that is there has the frame that its screen gives it.
+        QTimer::singleShot(0, this, [this] {
+            const bool asOpened = size() == m_given;
+            keepOnScreen(this);
+            if (asOpened)
+                m_given = size();
+        });
         QTimer::singleShot(0, this, &PrintDialog::bringUpPanels);
         // After that, so that nothing of it delays what is on the screen already.
         QTimer::singleShot(0, this, &PrintDialog::followList);

@@ -167,6 +167,7 @@ private:
     QString m_report;
     QString m_chosenOutput; // the name that the user has confirmed to overwrite
     int m_grownBy = 0;      // the height that panels needed beyond the user's; pixels
+    QSize m_given;          // the window's size when it opened
     QSize m_followed;       // the window's size when it followed a panel last
     bool m_painted = false;
     bool m_panelsUp = false;
@@ -182,7 +183,7 @@ private:
     QLabel *m_toFileLabel = nullptr;
     QWidget *m_outputRow = nullptr;
     QPushButton *m_leave = nullptr; // lets a job go on without the window
-    QLabel *m_document = nullptr;
+    ElidedLabel *m_document = nullptr;
     MessageBar *m_message = nullptr;
     QTabWidget *m_pages = nullptr;
     GeneralPage *m_general = nullptr;
