@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -26,7 +27,7 @@ HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), m_browser(new QTextBr
     layout->addWidget(m_browser);
     layout->addWidget(buttons);
     const int em = fontMetrics().height();
-    resize(32 * em, 34 * em);
+    resize(QSize(32 * em, 34 * em).boundedTo(screen()->availableSize()));
 }
 
 void HelpWindow::open(const HelpPage &page)

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QLoggingCategory>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTextStream>
 
 #include "dialog/session/Summary.h"
@@ -275,8 +276,12 @@ bool PrintWindow::userIsBusy() const
 
 bool PrintWindow::mayOverwrite(const QString &file)
 {
+    // Both ends of a name tell it from others; the whole of it stands in the field.
+    const int room = qMin(36 * fontMetrics().height(), screen()->availableSize().width() / 2);
+    const QString name =
+        fontMetrics().elidedText(QDir::toNativeSeparators(file), Qt::ElideMiddle, room);
     QMessageBox box(QMessageBox::Question, tr("Print to File"),
-                    tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(file)),
+                    tr("%1 exists already. Replace it?").arg(name),
                     QMessageBox::Yes | QMessageBox::No, this);
     makePlain(&box);
     return box.exec() == QMessageBox::Yes;

@@ -15,7 +15,6 @@
 #include "dialog/window/PrinterHeader.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/SilencedAlerts.h"
-#include "dialog/window/WindowSize.h"
 #include "dialog/window/pages/MessageBar.h"
 #include "dialog/window/pages/PanelPage.h"
 #include "platform/foundation/Bundle.h"
@@ -62,7 +61,7 @@ void PrintWindow::buildWindow()
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_footer);
     const int em = fontMetrics().height();
-    resize(rememberedWindowSize(QSize(36 * em, 31 * em), screen()->availableSize()));
+    m_growth.open(QSize(36 * em, 31 * em));
 }
 
 void PrintWindow::connectParts()
@@ -148,6 +147,8 @@ void PrintWindow::paintEvent(QPaintEvent *event)
     QDialog::paintEvent(event);
     // The panels come up after the first paint, so that the window is there at once.
     if (!std::exchange(m_painted, true)) {
+        // Only a window that is there has the frame that its screen gives it.
+        QTimer::singleShot(0, this, [this] { m_growth.keepOnScreen(); });
         QTimer::singleShot(0, m_task.get(), &PrintTask::bringUp);
         // After that, so that nothing of it delays what is on the screen already.
         QTimer::singleShot(0, this, &PrintWindow::followList);
@@ -198,8 +199,7 @@ void PrintWindow::hideEvent(QHideEvent *event)
     QDialog::hideEvent(event);
     if (event->spontaneous())
         return; // minimised
-    const QSize own = isMaximized() ? normalGeometry().size() : size();
-    rememberWindowSize({own.width(), own.height() - (isMaximized() ? 0 : m_growth.height())});
+    m_growth.remember();
 }
 
 void PrintWindow::showHelp()

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/toolkit/ControlActions.h"
@@ -22,8 +23,10 @@ PrinterHeader::PrinterHeader(const QString &title, const QString &output, QWidge
 {
     m_printers->setObjectName(u"printers"_s);
     m_status->setObjectName(u"printerStatus"_s);
-    QLabel *document = plainLabel(title, this);
-    document->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto *document = new ElidedLabel(this);
+    document->setObjectName(u"document"_s);
+    document->setMiddleCut();
+    document->setLine(title);
 
     auto *form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);

@@ -3,7 +3,30 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "dialog/window/WindowSize.h"
+
 namespace corvana {
+
+void WindowGrowth::open(QSize usual)
+{
+    m_given = rememberedWindowSize(usual, m_window.screen()->availableSize());
+    m_window.resize(m_given);
+}
+
+void WindowGrowth::keepOnScreen()
+{
+    const bool asOpened = m_window.size() == m_given;
+    corvana::keepOnScreen(&m_window);
+    if (asOpened)
+        m_given = m_window.size();
+}
+
+void WindowGrowth::remember() const
+{
+    const bool maximized = m_window.isMaximized();
+    const QSize own = maximized ? m_window.normalGeometry().size() : m_window.size();
+    rememberWindowSize({own.width(), own.height() - (maximized ? 0 : m_height)}, m_given);
+}
 
 void WindowGrowth::follow(int missing)
 {

@@ -1,5 +1,8 @@
 #include "dialog/window/WindowSize.h"
 
+#include <QScreen>
+#include <QWidget>
+
 #include "dialog/session/DialogPreferences.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/foundation/Values.h"
@@ -17,7 +20,7 @@ constexpr qint64 kLeast = 200;
 int remembered(const QVariantMap &domain, QLatin1StringView key, int usual, int most)
 {
     const qint64 stored = integerValue(domain.value(key));
-    return stored < kLeast ? usual : static_cast<int>(qMin<qint64>(stored, qMax(usual, most)));
+    return static_cast<int>(qMin<qint64>(stored < kLeast ? usual : stored, most));
 }
 
 } // namespace
@@ -31,13 +34,31 @@ QSize rememberedWindowSize(const QSize &usual, const QSize &screen)
             remembered(domain, kHeight, usual.height(), screen.height())};
 }
 
-void rememberWindowSize(const QSize &size)
+void rememberWindowSize(const QSize &size, const QSize &given)
 {
+    if (size == given)
+        return;
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
     QVariantMap domain = defaults.persistentDomainForName(kDialogDomain).value_or(QVariantMap());
-    domain.insert(kWidth, size.width());
-    domain.insert(kHeight, size.height());
+    if (size.width() != given.width())
+        domain.insert(kWidth, size.width());
+    if (size.height() != given.height())
+        domain.insert(kHeight, size.height());
     defaults.setPersistentDomain_forName(domain, kDialogDomain);
+}
+
+void keepOnScreen(QWidget *window)
+{
+    const QRect screen = window->screen()->availableGeometry();
+    const QSize frame = window->frameGeometry().size() - window->size();
+    const QSize fitting = window->size().boundedTo(screen.size() - frame);
+    if (fitting != window->size())
+        window->resize(fitting);
+    const QRect whole(window->pos(), fitting + frame);
+    const QPoint place(qMax(screen.left(), qMin(whole.left(), screen.right() + 1 - whole.width())),
+                       qMax(screen.top(), qMin(whole.top(), screen.bottom() + 1 - whole.height())));
+    if (place != window->pos())
+        window->move(place);
 }
 
 } // namespace corvana

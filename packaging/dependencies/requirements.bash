@@ -75,13 +75,18 @@ qt_query() {
 # probe KIND:NAME: prints the version that was found, or nothing where it has no version.
 # Fails when there is nothing to be found.
 probe() {
-    local name=${1#*:} folder output
+    local name=${1#*:} folder output program
+    local -a programs
     case $1 in
     command:*)
-        command -v "$name" >/dev/null || return 1
+        # "convert,compare": the package has all of them, and something else may have one.
+        IFS=, read -r -a programs <<<"$name"
+        for program in "${programs[@]}"; do
+            command -v "$program" >/dev/null || return 1
+        done
         # Asked for its version only where one is demanded: not every program has --version.
         [ "$2" = - ] && return 0
-        output=$("$name" --version 2>/dev/null </dev/null)
+        output=$("${programs[0]}" --version 2>/dev/null </dev/null)
         [[ $output =~ [0-9]+(\.[0-9]+)+ ]] && printf '%s' "${BASH_REMATCH[0]}"
         ;;
     qt:*)

@@ -36,6 +36,10 @@ new_machine() {
         kind=overlay
         prefix=/usr
         enter=(chroot "$machine")
+        # Its tester may use the program: the machine begins without it.
+        if chroot "$machine" dpkg-query --status corvana-print >/dev/null 2>&1; then
+            dpkg_on_machine --purge corvana-print
+        fi
     else
         kind=folder
         prefix=$machine/usr

@@ -38,7 +38,8 @@ esac
 END
     add_program pkg-config <<<'echo 22.12.0'
     add_program fc-list <<<'echo DejaVu Sans Mono'
-    for program in ninja gs pdftops cupsfilter Xvfb xauth xdotool convert shellcheck; do
+    for program in ninja gs pdftops cupsfilter Xvfb xauth xdotool convert compare identify \
+        shellcheck; do
         add_program "$program" <<<'exit 0'
     done
     cp "$machine/bin/gs" "$machine/cups/filter/pdftopdf"
@@ -63,6 +64,22 @@ test_anotherDistributionWithEverythingGoesOn() {
     start run
     expect_status 0
     expect_call 'corvana-print in'
+}
+
+# Other programs are called convert as well.
+test_onlyAllProgramsOfAPackageStandForIt() {
+    local program
+    another_distribution
+    for program in convert compare identify; do
+        everything_is_there_by_other_means
+        without "$program"
+        start test
+        expect_status 3
+        expect_output 'imagemagick'
+    done
+    everything_is_there_by_other_means
+    start test
+    expect_no_output 'imagemagick'
 }
 
 test_anotherDistributionThatHasAptAsAToolIsNotInstalledTo() {

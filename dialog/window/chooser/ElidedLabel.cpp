@@ -45,6 +45,12 @@ void ElidedLabel::setTwoLines()
     update();
 }
 
+void ElidedLabel::setMiddleCut()
+{
+    m_cutsMiddle = true;
+    update();
+}
+
 QSize ElidedLabel::sizeHint() const
 {
     return {fontMetrics().horizontalAdvance(text()) + 1, m_lines * fontMetrics().lineSpacing()};
@@ -59,6 +65,8 @@ QString ElidedLabel::shownText() const
 {
     const QFontMetrics metrics = fontMetrics();
     const int width = contentsRect().width();
+    if (m_cutsMiddle)
+        return metrics.elidedText(text(), Qt::ElideMiddle, width);
     if (m_lines == 1 || metrics.horizontalAdvance(text()) <= width)
         return elidedLine(metrics, text(), m_head, width);
     QStringList lines = broken(text());

@@ -10,8 +10,8 @@ namespace corvana {
 QString elidedLine(const QFontMetrics &metrics, const QString &text, const QString &head,
                    int width);
 
-/// A line of plain text that ends with "…" where it has no room; the whole text is then in its tool
-/// tip. Assistive technology gets the whole text at any width.
+/// A line of plain text, cut with "…" where it has no room; the whole text is then in its tool tip.
+/// Assistive technology gets the whole text at any width.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -22,6 +22,10 @@ public:
     /// Breaks a text that is too long for one line, once, before it is cut; the room for both lines
     /// is kept whatever is shown.
     void setTwoLines();
+
+    /// Cuts the middle of the text instead of its end: of a file name both ends tell it from
+    /// others.
+    void setMiddleCut();
 
     /// The text begins with `head`, which is cut first (elidedLine()).
     void setLine(const QString &text, const QString &head = {});
@@ -40,6 +44,7 @@ private:
 
     QString m_head;
     int m_lines = 1;
+    bool m_cutsMiddle = false;
 };
 
 } // namespace corvana

@@ -5,9 +5,9 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 
+#include "dialog/session/PpdSession.h"
 #include "dialog/window/pages/ChoiceEditor.h"
 #include "dialog/window/pages/OptionsModel.h"
-#include "dialog/session/PpdSession.h"
 
 namespace corvana {
 

@@ -5,7 +5,9 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
@@ -55,7 +57,10 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
       m_pageRanges(new QLineEdit(this))
 {
-    auto *layout = new QFormLayout(this);
+    auto *rows = new QWidget;
+    auto *layout = new QFormLayout(rows);
+    m_rows = layout;
+    layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
     layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_copies->setObjectName(QStringLiteral("copies"));
@@ -74,6 +79,17 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPage::copiesEdited);
     connect(m_pageRanges, &QLineEdit::textChanged, this,
             [this] { Q_EMIT pageRangesEdited(pageRanges()); });
+    // On a small screen, or with a large font, it scrolls rather than push the buttons below the
+    // edge.
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(rows);
+    area->viewport()->setAutoFillBackground(false);
+    rows->setAutoFillBackground(false);
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area);
     for (const QString &keyword : generalOptionKeywords())
         addOption(keyword);
     refresh();
@@ -122,6 +138,9 @@ void GeneralPage::addOption(const QString &keyword)
         return;
     auto *popUp = new QComboBox(this);
     popUp->setObjectName(keyword);
+    // The texts of a PPD do not decide how wide the window is.
+    popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    popUp->setMinimumContentsLength(12);
     const QStringList titles = choiceTitles(*option);
     for (int i = 0; i < option->num_choices; ++i) {
         if (const QString choice = ppdKeyword(option->choices[i].choice); choice != kCustomChoice)
@@ -139,11 +158,10 @@ void GeneralPage::addOption(const QString &keyword)
     });
     if (keyword == kPageSizeOption)
         postNotificationWhenMenuActs(popUp); // panels follow the paper menu
-    auto *layout = static_cast<QFormLayout *>(this->layout());
     QLabel *label = plainLabel({}, this);
     label->setBuddy(popUp);
     setLiteralText(label, title + u':');
-    layout->addRow(label, popUp);
+    m_rows->addRow(label, popUp);
     m_popUps.insert(keyword, popUp);
     if (keyword == kPageSizeOption && takesCustomPageSizes(m_session.ppd()))
         addCustomPaperSize(popUp);
@@ -154,8 +172,7 @@ void GeneralPage::addCustomPaperSize(QComboBox *sizes)
     addChoice(sizes, tr("Custom Size"), kCustomChoice);
     m_customPaper = new CustomPaperSize(m_session.ppd(), this);
     connect(m_customPaper, &CustomPaperSize::entered, this, &GeneralPage::proposeCustomPaper);
-    auto *layout = static_cast<QFormLayout *>(this->layout());
-    layout->addRow(tr("Width × height:"), m_customPaper);
+    m_rows->addRow(tr("Width × height:"), m_customPaper);
     showCustomPaper();
 }
 
@@ -176,8 +193,7 @@ void GeneralPage::showCustomPaper()
 {
     const Paper &paper = m_session.pageFormat().paper;
     m_customPaper->setSize({paper.width, paper.height});
-    static_cast<QFormLayout *>(layout())->setRowVisible(
-        m_customPaper, !m_session.customValue(kPageSizeOption).isNull());
+    m_rows->setRowVisible(m_customPaper, !m_session.customValue(kPageSizeOption).isNull());
 }
 
 void GeneralPage::refresh()

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QComboBox;
+class QFormLayout;
 class QLineEdit;
 class QSpinBox;
 
@@ -56,6 +57,7 @@ private:
     void showCustomPaper();
 
     PpdSession &m_session;
+    QFormLayout *m_rows = nullptr;
     QSpinBox *m_copies;
     QLineEdit *m_pageRanges;
     QMap<QString, QComboBox *> m_popUps;

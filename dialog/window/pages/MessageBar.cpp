@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStyle>
 #include <QToolButton>
 
@@ -11,6 +12,70 @@
 #include "platform/toolkit/PlainText.h"
 
 namespace corvana {
+
+namespace {
+
+constexpr int kMostLines = 5;     // what a message may take from the pages; the rest scrolls
+constexpr int kLongestWord = 30;  // letters in a row; a longer word is broken anywhere
+constexpr int kWidestAction = 24; // heights of the font
+constexpr char16_t kMayBreak = 0x200b;
+constexpr char16_t kBreaksAnywhere = 0x2e80; // East Asian scripts begin here
+
+// Long names, of files above all, have nowhere to be broken, and would widen the window.
+QString breakable(const QString &text)
+{
+    QString broken;
+    int run = 0;
+    for (const QChar c : text) {
+        const bool breaks = c.isSpace() || c == u'/' || c == u'-' || c.unicode() >= kBreaksAnywhere;
+        run = breaks ? 0 : run + 1;
+        broken += c;
+        if (run == kLongestWord) {
+            broken += QChar(kMayBreak);
+            run = 0;
+        }
+    }
+    return broken;
+}
+
+// As high as the text is at the width that there is, up to a limit.
+class MessageText : public QScrollArea
+{
+public:
+    MessageText(QLabel *label, QWidget *parent) : QScrollArea(parent), m_label(label)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setWidget(label);
+        viewport()->setAutoFillBackground(false);
+        label->setAutoFillBackground(false);
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+    }
+
+    int heightForWidth(int width) const override
+    {
+        return qMin(m_label->heightForWidth(width), kMostLines * fontMetrics().lineSpacing());
+    }
+    QSize sizeHint() const override
+    {
+        const int width = m_label->sizeHint().width();
+        return {width, heightForWidth(width)};
+    }
+    QSize minimumSizeHint() const override
+    {
+        const int line = fontMetrics().lineSpacing();
+        return {4 * line, line};
+    }
+
+private:
+    QLabel *m_label;
+};
+
+} // namespace
 
 MessageBar::MessageBar(QWidget *parent)
     : QFrame(parent), m_icon(new QLabel(this)), m_text(plainLabel({}, this)),
@@ -31,7 +96,7 @@ MessageBar::MessageBar(QWidget *parent)
 
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(m_icon, 0, Qt::AlignTop);
-    layout->addWidget(m_text, 1);
+    layout->addWidget(new MessageText(m_text, this), 1);
     layout->addWidget(m_action, 0, Qt::AlignVCenter);
     layout->addWidget(close, 0, Qt::AlignTop);
 
@@ -57,9 +122,13 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
         kind == Kind::Problem ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
-    m_text->setText(text);
+    m_text->setText(breakable(text));
+    m_text->parentWidget()->parentWidget()->updateGeometry();
     // Names of printers and choices may hold "&", which a button takes for an accelerator.
-    m_action->setText(withoutMnemonic(actionText));
+    const QString shown = fontMetrics().elidedText(actionText, Qt::ElideMiddle,
+                                                   kWidestAction * fontMetrics().height());
+    m_action->setText(withoutMnemonic(shown));
+    m_action->setToolTip(shown == actionText ? QString() : plainToolTip(actionText));
     m_action->setVisible(!actionText.isEmpty());
     m_do = action;
     show();

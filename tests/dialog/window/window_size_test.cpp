@@ -47,7 +47,7 @@ private Q_SLOTS:
         QTest::newRow("from a larger screen") << QSize(3000, 2000) << kScreen << kScreen;
         QTest::newRow("only too wide") << QSize(3000, 800) << kScreen << QSize(1920, 800);
         QTest::newRow("on a screen smaller than usual")
-            << QSize(900, 800) << QSize(640, 480) << kUsual;
+            << QSize(900, 800) << QSize(640, 480) << QSize(640, 480);
         QTest::newRow("a small one on a screen smaller than usual")
             << QSize(500, 400) << QSize(640, 480) << QSize(500, 400);
         QTest::newRow("the least") << QSize(200, 200) << kScreen << QSize(200, 200);
@@ -63,6 +63,30 @@ private Q_SLOTS:
         QFETCH(QSize, got);
         rememberWindowSize(given);
         QCOMPARE(rememberedWindowSize(kUsual, screen), got);
+    }
+
+    void aSizeThatTheScreenForcedIsNotKept_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QSize>("kept");
+        QTest::newRow("as it was opened") << QSize(640, 480) << QSize(900, 800);
+        QTest::newRow("made less high") << QSize(640, 400) << QSize(900, 400);
+        QTest::newRow("made narrower") << QSize(500, 480) << QSize(500, 800);
+    }
+    void aSizeThatTheScreenForcedIsNotKept()
+    {
+        QFETCH(QSize, size);
+        QFETCH(QSize, kept);
+        rememberWindowSize({900, 800});
+        const QSize given = rememberedWindowSize(kUsual, {640, 480});
+        QCOMPARE(given, QSize(640, 480));
+        rememberWindowSize(size, given);
+        QCOMPARE(rememberedWindowSize(kUsual, kScreen), kept);
+    }
+
+    void aNewUserOnASmallScreenGetsAWindowThatFits()
+    {
+        QCOMPARE(rememberedWindowSize(kUsual, {640, 480}), QSize(640, 480));
     }
 
     void whatIsNoNumberIsNotTaken_data()

@@ -1,0 +1,211 @@
+// The dialog on a small screen, with fonts of the usual size and of twice that: all of the window
+// is on the screen, its buttons above all, whatever names it has to show.
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/app/PrintWindow.h"
+#include "dialog/app/WindowSize.h"
+#include "dialog/window/chooser/ElidedLabel.h"
+#include "dialog/window/pages/MessageBar.h"
+#include "platform/foundation/UserDefaults.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/TestPaths.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+class SmallScreenTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_preferences;
+    std::unique_ptr<PrintWindow> m_dialog;
+    QFont m_font;
+
+    template <typename Control> Control *control(const QString &name) const
+    {
+        return m_dialog->findChild<Control *>(name);
+    }
+    QTabWidget *pages() const { return control<QTabWidget>(u"pages"_s); }
+
+    void open(const QString &title, const QByteArray &ppd = {})
+    {
+        CommandLine line;
+        line.documents = {sourceFile(u"resources/sample/welcome.pdf"_s)};
+        line.ppd = ppd.isEmpty() ? sharedFile(u"ppd/corvana-cl5.ppd"_s)
+                                 : writeFile(m_preferences->filePath(u"office.ppd"_s), ppd);
+        line.bundleRoots = {bundleRoot()};
+        line.title = title;
+        line.output = u"/tmp/%1.ps"_s.arg(title);
+        QString error;
+        m_dialog = std::make_unique<PrintWindow>(
+            preparePrintRequest(line, &error).value_or(PrintRequest()));
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+        QTRY_VERIFY(pages()->count() > 2);
+        settle();
+    }
+    // What is laid out queues more of it.
+    static void settle()
+    {
+        for (int i = 0; i < 5; ++i) {
+            QCoreApplication::sendPostedEvents();
+            QTest::qWait(5);
+        }
+    }
+    // What of the window is not on the screen; empty when all is.
+    QString whatIsOff() const
+    {
+        const QRect screen = m_dialog->screen()->availableGeometry();
+        const QRect window = m_dialog->frameGeometry();
+        const auto told = [](const QString &what, const QRect &place) {
+            QString text;
+            QDebug(&text) << what << place;
+            return text;
+        };
+        if (!screen.contains(window))
+            return told(u"the window"_s, window);
+        for (const QString &name : {u"helpButton"_s, u"print"_s, u"cancel"_s}) {
+            const auto *button = control<QPushButton>(name);
+            const QRect place(button->mapToGlobal(QPoint()), button->size());
+            if (!screen.contains(place) || !window.contains(place) ||
+                button->width() < button->minimumSizeHint().width())
+                return told(name, place);
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_font = QApplication::font();
+        QCOMPARE(QGuiApplication::primaryScreen()->size(), QSize(1024, 600));
+    }
+    void init()
+    {
+        m_preferences = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_preferences->path()));
+    }
+    void cleanup()
+    {
+        m_dialog.reset();
+        QApplication::setFont(m_font);
+    }
+
+    void everyPageIsOnTheScreen_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("panels");
+        const QString longName(240, u'm');
+        for (const int scale : {1, 2}) {
+            for (const bool panels : {true, false}) {
+                const char *printer = panels ? "panels" : "no panels";
+                QTest::addRow("font x%d, %s", scale, printer) << scale << u"Report"_s << panels;
+                QTest::addRow("font x%d, %s, a long name", scale, printer)
+                    << scale << longName << panels;
+            }
+        }
+    }
+    void everyPageIsOnTheScreen()
+    {
+        QFETCH(int, scale);
+        QFETCH(QString, title);
+        QFETCH(bool, panels);
+        QFont font = m_font;
+        font.setPointSizeF(m_font.pointSizeF() * scale);
+        QApplication::setFont(font);
+        open(title, panels ? QByteArray() : officePrinter().text());
+        const QString folder = qEnvironmentVariable("CORVANA_SCREENSHOTS");
+        for (int page = 0; page < pages()->count(); ++page) {
+            pages()->setCurrentIndex(page);
+            settle();
+            if (auto *more = pages()->currentWidget()->findChild<QPushButton *>(u"optionButton"_s))
+                more->setChecked(true);
+            settle();
+            QCOMPARE(whatIsOff(), QString());
+            if (!folder.isEmpty())
+                m_dialog->grab().save(u"%1/small-%2-%3.png"_s.arg(
+                    folder, QString::fromUtf8(QTest::currentDataTag()).replace(u' ', u'-'),
+                    QString::number(page)));
+        }
+        auto *message = control<MessageBar>(u"message"_s);
+        message->showMessage(MessageBar::Kind::Problem,
+                             QString(200, u'w') + u' ' + u"some words "_s.repeated(100),
+                             u"Change to %1"_s.arg(QString(150, u'w')), [] {});
+        settle();
+        QCOMPARE(whatIsOff(), QString());
+        pages()->setCurrentIndex(0);
+        settle();
+        QCOMPARE(whatIsOff(), QString());
+        if (!folder.isEmpty())
+            m_dialog->grab().save(u"%1/small-%2-message.png"_s.arg(
+                folder, QString::fromUtf8(QTest::currentDataTag()).replace(u' ', u'-')));
+        // What has no room scrolls.
+        auto *area = pages()->currentWidget()->findChild<QScrollArea *>();
+        const auto fields = area->findChildren<QComboBox *>();
+        QVERIFY(!fields.isEmpty());
+        for (QComboBox *field : fields) {
+            if (!field->isVisible())
+                continue;
+            area->ensureWidgetVisible(field, 0, 0);
+            const QRect place(field->mapTo(area->viewport(), QPoint()), field->size());
+            QVERIFY2(place.top() >= 0 && place.top() < area->viewport()->height(),
+                     qPrintable(field->objectName()));
+        }
+        m_dialog->close();
+        const QVariantMap kept = UserDefaults::standardUserDefaults()
+                                     .persistentDomainForName(kDialogDomain)
+                                     .value_or(QVariantMap());
+        QCOMPARE(kept, QVariantMap());
+    }
+
+    void aLongNameKeepsBothItsEndsAndTheWindowItsWidth()
+    {
+        open(u"short"_s);
+        const QSize usual = m_dialog->size();
+        m_dialog->close();
+        const QString name = u"begin"_s + QString(240, u'm') + u"end"_s;
+        open(name);
+        QCOMPARE(m_dialog->size(), usual);
+        const auto *shown = control<ElidedLabel>(u"document"_s);
+        QCOMPARE(shown->text(), name);
+        QVERIFY(shown->shownText().startsWith(u"begin"_s));
+        QVERIFY(shown->shownText().endsWith(u"end"_s));
+        QVERIFY(shown->shownText().contains(u'…'));
+    }
+
+    // A user who has a large screen as well finds the size again there.
+    void theSizeOfALargerScreenIsKept()
+    {
+        rememberWindowSize({1800, 1000});
+        open(u"short"_s);
+        QCOMPARE(whatIsOff(), QString());
+        m_dialog->close();
+        QCOMPARE(rememberedWindowSize({700, 600}, {4000, 3000}), QSize(1800, 1000));
+    }
+
+    void whatTheUserMakesOfItIsRemembered()
+    {
+        open(u"short"_s);
+        m_dialog->resize(640, 500);
+        settle();
+        m_dialog->close();
+        QCOMPARE(rememberedWindowSize({700, 600}, {4000, 3000}), QSize(640, 500));
+    }
+};
+
+QTEST_MAIN(SmallScreenTest)
+
+#include "small_screen_test.moc"
