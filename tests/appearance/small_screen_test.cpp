@@ -13,7 +13,7 @@
 #include <QTest>
 
 #include "dialog/app/PrintWindow.h"
-#include "dialog/app/WindowSize.h"
+#include "dialog/window/WindowSize.h"
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/pages/MessageBar.h"
 #include "platform/foundation/UserDefaults.h"
