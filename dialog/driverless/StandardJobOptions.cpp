@@ -14,6 +14,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcStandardOptions, "corvana.dialog.queues.options", QtWarningMsg)
 
 namespace {
@@ -55,9 +57,8 @@ struct Paper
 
 QString member(QLatin1StringView name, const QString &value)
 {
-    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9._-]+\\z"));
-    const QString form =
-        plain.match(value).hasMatch() ? QStringLiteral(" %1=%2") : QStringLiteral(" %1=\"%2\"");
+    static const QRegularExpression plain(u"^[A-Za-z0-9._-]+\\z"_s);
+    const QString form = plain.match(value).hasMatch() ? u" %1=%2"_s : u" %1=\"%2\""_s;
     return form.arg(name, value);
 }
 
@@ -66,22 +67,21 @@ QList<JobOption> paperOptions(const Paper &paper)
     if (!paper.needsDetails()) {
         if (paper.name.isEmpty())
             return {};
-        return {{QStringLiteral("media"), paper.name}};
+        return {{u"media"_s, paper.name}};
     }
     QString details;
     if (!paper.dimension.isEmpty())
-        details += QStringLiteral(" media-size={x-dimension=%1 y-dimension=%2}")
-                       .arg(paper.dimension.width())
+        details += u" media-size={x-dimension=%1 y-dimension=%2}"_s.arg(paper.dimension.width())
                        .arg(paper.dimension.height());
     if (paper.borderless) {
         for (const char *margin : {"left", "right", "top", "bottom"})
-            details += QStringLiteral(" media-%1-margin=0").arg(QLatin1StringView(margin));
+            details += u" media-%1-margin=0"_s.arg(QLatin1StringView(margin));
     }
     if (!paper.type.isEmpty())
-        details += member(QLatin1StringView("media-type"), paper.type);
+        details += member("media-type"_L1, paper.type);
     if (!paper.source.isEmpty())
-        details += member(QLatin1StringView("media-source"), paper.source);
-    return {{QStringLiteral("media-col"), u'{' + details.mid(1) + u'}'}};
+        details += member("media-source"_L1, paper.source);
+    return {{u"media-col"_s, u'{' + details.mid(1) + u'}'}};
 }
 
 class Translator
@@ -111,7 +111,7 @@ public:
     {
         QList<JobOption> options = paperOptions(m_paper) + m_attributes;
         if (!m_finishings.isEmpty())
-            options += JobOption{QStringLiteral("finishings"), m_finishings.join(u',')};
+            options += JobOption{u"finishings"_s, m_finishings.join(u',')};
         // A choice that was picked stands for the attribute, whoever else has set that.
         for (const JobOption &other : m_others) {
             const bool picked = std::any_of(

@@ -4,15 +4,17 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kIppPort = 631;
-constexpr QLatin1StringView kIpp{"ipp"};
-constexpr QLatin1StringView kIpps{"ipps"};
+constexpr QLatin1StringView kIpp = "ipp"_L1;
+constexpr QLatin1StringView kIpps = "ipps"_L1;
 } // namespace
 
 bool isDeviceUri(const QString &text)
 {
-    return text.contains(QLatin1StringView("://"));
+    return text.contains("://"_L1);
 }
 
 std::optional<DevicePrinter> deviceOfUri(const QString &uri)
@@ -22,8 +24,8 @@ std::optional<DevicePrinter> deviceOfUri(const QString &uri)
     if (!url.isValid() || !known || url.host().isEmpty() || !url.userInfo().isEmpty())
         return std::nullopt;
     // Where printers that need no driver are to be found, by the rules of IPP Everywhere.
-    if (url.path().isEmpty() || url.path() == QLatin1StringView("/"))
-        url.setPath(QStringLiteral("/ipp/print"));
+    if (url.path().isEmpty() || url.path() == "/"_L1)
+        url.setPath(u"/ipp/print"_s);
     DevicePrinter device;
     device.printer.origin = PrinterOrigin::Device;
     device.printer.name = uri;

@@ -5,9 +5,11 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
-constexpr QLatin1StringView kServer{"lastServer"};
-constexpr QLatin1StringView kPrinter{"lastPrinter"};
+constexpr QLatin1StringView kServer = "lastServer"_L1;
+constexpr QLatin1StringView kPrinter = "lastPrinter"_L1;
 } // namespace
 
 QString lastPrinter(const QString &server)

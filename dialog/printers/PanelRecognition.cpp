@@ -12,13 +12,15 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcRecognition, "corvana.dialog.recognition", QtWarningMsg)
 
 namespace {
 
-constexpr QLatin1StringView kBundleFile{"QXCLQuality13PDE.bundle"};
+constexpr QLatin1StringView kBundleFile = "QXCLQuality13PDE.bundle"_L1;
 constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
-constexpr QLatin1StringView kIdentifyingKeys{"PMPPDKeysIdentifying"};
+constexpr QLatin1StringView kIdentifyingKeys = "PMPPDKeysIdentifying"_L1;
 } // namespace
 
 QString namedBundle(ppd_file_t *ppd)
@@ -29,8 +31,7 @@ QString namedBundle(ppd_file_t *ppd)
 
 QString panelRulesFile()
 {
-    return qEnvironmentVariable("CORVANA_PRINT_PANELS",
-                                QStringLiteral("/etc/corvana-print/panels.conf"));
+    return qEnvironmentVariable("CORVANA_PRINT_PANELS", u"/etc/corvana-print/panels.conf"_s);
 }
 
 PanelRule panelRule(const QString &file, const QStringList &names)
@@ -44,8 +45,8 @@ PanelRule panelRule(const QString &file, const QStringList &names)
             continue;
         const QString word = line.section(u' ', 0, 0);
         const QString pattern = line.section(u' ', 1);
-        const bool panels = word == QLatin1StringView("panels");
-        if (pattern.isEmpty() || (!panels && word != QLatin1StringView("none"))) {
+        const bool panels = word == "panels"_L1;
+        if (pattern.isEmpty() || (!panels && word != "none"_L1)) {
             qCWarning(lcRecognition).noquote() << file << "has a line that is no rule:" << line;
             continue;
         }
@@ -61,12 +62,12 @@ PanelRule panelRule(const QString &file, const QStringList &names)
 PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle, PanelRule rule)
 {
     if (rule != PanelRule::ByPpd)
-        return {rule == PanelRule::Panels, QStringLiteral("the administrator's rules say so")};
+        return {rule == PanelRule::Panels, u"the administrator's rules say so"_s};
     const QString bundleName = QFileInfo(bundle.path()).fileName();
     for (const ppd_attr_t *named = ppdFindAttr(ppd, kExtensionAttribute, nullptr); named;
          named = ppdFindNextAttr(ppd, kExtensionAttribute, nullptr)) {
         if (QString::fromUtf8(named->value) == bundleName)
-            return {true, QStringLiteral("the PPD names the bundle %1").arg(bundleName)};
+            return {true, u"the PPD names the bundle %1"_s.arg(bundleName)};
     }
     const QStringList keywords = bundle.infoStringList(kIdentifyingKeys).value_or(QStringList());
     QStringList missing;
@@ -75,9 +76,9 @@ PanelDecision decidePanels(ppd_file_t *ppd, const Bundle &bundle, PanelRule rule
             missing += keyword;
     }
     if (!keywords.isEmpty() && missing.isEmpty())
-        return {true, QStringLiteral("the PPD has the options %1").arg(keywords.join(u' '))};
-    return {false, QStringLiteral("the PPD does not name the bundle %1 and lacks the options %2")
-                       .arg(bundleName, missing.join(u' '))};
+        return {true, u"the PPD has the options %1"_s.arg(keywords.join(u' '))};
+    return {false, u"the PPD does not name the bundle %1 and lacks the options %2"_s.arg(
+                       bundleName, missing.join(u' '))};
 }
 
 QString bundleFileOf(ppd_file_t *ppd)
@@ -96,7 +97,7 @@ PanelDecision decidePanels(ppd_file_t *ppd, const Printer &printer, const QStrin
         return decidePanels(ppd, *found.bundle, rule);
     const bool wanted =
         rule == PanelRule::ByPpd ? !namedBundle(ppd).isNull() : rule == PanelRule::Panels;
-    return {wanted, QStringLiteral("there is no usable bundle")};
+    return {wanted, u"there is no usable bundle"_s};
 }
 
 } // namespace corvana

@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Queues in one answer: few enough to come soon, enough that thousands need few round trips.
@@ -47,7 +49,7 @@ PrinterState stateOf(int value)
 
 QStringList withoutNone(QStringList keywords)
 {
-    keywords.removeAll(QLatin1StringView("none"));
+    keywords.removeAll("none"_L1);
     return keywords;
 }
 
@@ -111,30 +113,30 @@ Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next)
     for (; attribute && ippGetGroupTag(attribute) == IPP_TAG_PRINTER;
          attribute = ippNextAttribute(response)) {
         const QLatin1StringView name(ippGetName(attribute));
-        if (name == QLatin1StringView("printer-name"))
+        if (name == "printer-name"_L1)
             printer.name = ippText(attribute);
-        else if (name == QLatin1StringView("printer-info"))
+        else if (name == "printer-info"_L1)
             printer.description = ippText(attribute);
-        else if (name == QLatin1StringView("printer-location"))
+        else if (name == "printer-location"_L1)
             printer.location = ippText(attribute);
-        else if (name == QLatin1StringView("printer-make-and-model"))
+        else if (name == "printer-make-and-model"_L1)
             printer.makeAndModel = ippText(attribute);
-        else if (name == QLatin1StringView("printer-state"))
+        else if (name == "printer-state"_L1)
             printer.state = stateOf(ippNumber(attribute));
-        else if (name == QLatin1StringView("printer-state-message"))
+        else if (name == "printer-state-message"_L1)
             printer.stateMessage = ippText(attribute);
-        else if (name == QLatin1StringView("printer-state-reasons"))
+        else if (name == "printer-state-reasons"_L1)
             printer.stateReasons = withoutNone(ippTexts(attribute));
-        else if (name == QLatin1StringView("printer-is-accepting-jobs"))
+        else if (name == "printer-is-accepting-jobs"_L1)
             printer.accepting = ippTruth(attribute, true);
-        else if (name == QLatin1StringView("printer-type"))
+        else if (name == "printer-type"_L1)
             printer.isClass =
                 (static_cast<unsigned>(ippNumber(attribute)) & CUPS_PRINTER_CLASS) != 0;
-        else if (name == QLatin1StringView("printer-config-change-time"))
+        else if (name == "printer-config-change-time"_L1)
             printer.configured = ippNumber(attribute);
-        else if (name == QLatin1StringView("device-uri"))
+        else if (name == "device-uri"_L1)
             printer.deviceUri = ippText(attribute);
-        else if (name == QLatin1StringView("auth-info-required"))
+        else if (name == "auth-info-required"_L1)
             printer.authInfo = withoutNone(ippTexts(attribute));
     }
     *next = attribute;

@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 kBlock = 65536;
@@ -22,8 +24,7 @@ constexpr qint64 kLargestRefusal = 65536;
 // Whether a request changes nothing at the server, so that it can be sent twice.
 bool onlyAsks(ipp_t *message)
 {
-    return QLatin1StringView(ippOpString(ippGetOperation(message)))
-        .contains(QLatin1StringView("Get-"));
+    return QLatin1StringView(ippOpString(ippGetOperation(message))).contains("Get-"_L1);
 }
 
 } // namespace
