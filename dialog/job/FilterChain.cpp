@@ -44,16 +44,21 @@ bool isCompletePdf(const QString &path)
            file.readAll().contains("%%EOF");
 }
 
-// What the filter chain said last of its errors, without its prefix.
-QString lastErrorLine(const QByteArray &log)
+// Why a program failed, in its own words and without their prefix: what its filters said last, else
+// what it said first itself, since the rest only follows from that.
+QString errorInLog(const QByteArray &log, const QString &program)
 {
-    QString last;
+    const QByteArray ownPrefix = QFileInfo(program).fileName().toUtf8() + ": ";
+    QString ofFilters;
+    QString own;
     const QList<QByteArray> lines = log.split('\n');
     for (const QByteArray &line : lines) {
         if (line.startsWith("ERROR:"))
-            last = QString::fromUtf8(line.mid(6)).trimmed();
+            ofFilters = QString::fromUtf8(line.mid(6)).trimmed();
+        else if (own.isEmpty() && line.startsWith(ownPrefix))
+            own = QString::fromUtf8(line.mid(ownPrefix.size())).trimmed();
     }
-    return last;
+    return ofFilters.isEmpty() ? own : ofFilters;
 }
 
 // The page that a line of the log speaks of, or 0.
@@ -215,7 +220,7 @@ QString FilterChain::problemOfStep(int exitCode, QProcess::ExitStatus status) co
         return problemOfWriting();
     if (status != QProcess::NormalExit)
         return tr("The filter chain of CUPS crashed.");
-    const QString said = withoutSecrets(lastErrorLine(m_log), m_secrets);
+    const QString said = withoutSecrets(errorInLog(m_log, step().program), m_secrets);
     if (exitCode != 0)
         return tr("The document could not be converted for the printer: %1")
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);

@@ -9,8 +9,6 @@
 namespace corvana::test {
 
 namespace {
-constexpr char kVariable[] = "CORVANA_PRINT_CUPSFILTER";
-
 bool isRunning(const QString &pid)
 {
     // A process that has ended but was not waited for yet is gone as well.
@@ -23,23 +21,15 @@ bool isRunning(const QString &pid)
 
 } // namespace
 
-FakeFilter::FakeFilter(const QByteArray &script) : m_former(qgetenv(kVariable))
+FakeFilter::FakeFilter(const QByteArray &script)
 {
     const QString program =
         writeFile(path(QStringLiteral("filter")),
                   "#!/bin/sh\nDIR='" + m_folder.path().toUtf8() + "'\n" + script);
     QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    qputenv(kVariable, program.toUtf8());
+    m_named = std::make_unique<Variable>("CORVANA_PRINT_CUPSFILTER", program.toUtf8());
     writeFile(path(QStringLiteral("document.txt")), "a document\n");
     writeFile(ppdPath(), PpdBuilder().text());
-}
-
-FakeFilter::~FakeFilter()
-{
-    if (m_former.isNull())
-        qunsetenv(kVariable);
-    else
-        qputenv(kVariable, m_former);
 }
 
 Document FakeFilter::document() const

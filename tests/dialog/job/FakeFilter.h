@@ -1,11 +1,14 @@
 #pragma once
 
+#include <memory>
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
 #include "dialog/job/FileJob.h"
+#include "tests/dialog/job/Variable.h"
 
 namespace corvana::test {
 
@@ -17,9 +20,6 @@ class FakeFilter
 public:
     /// `script` follows the first line of a shell script; "$DIR" in it is the folder.
     explicit FakeFilter(const QByteArray &script);
-    ~FakeFilter();
-    FakeFilter(const FakeFilter &) = delete;
-    FakeFilter &operator=(const FakeFilter &) = delete;
 
     Document document() const;
     /// Prints the document to the output.
@@ -43,7 +43,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    QByteArray m_former;
+    std::unique_ptr<Variable> m_named;
 };
 
 } // namespace corvana::test

@@ -6,6 +6,7 @@
 
 #include "dialog/job/Conversion.h"
 #include "dialog/job/FileJob.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
@@ -88,29 +89,6 @@ const OwnFilter kOwnFilters[] = {
     {"a filter of CUPS", "*cupsFilter: \"application/vnd.cups-raster 0 rastertohp\"\n",
      "\x1b"
      "E"},
-};
-
-// Sets a variable of the environment while it lives.
-class Variable
-{
-public:
-    Variable(const char *name, const QByteArray &value) : m_name(name), m_former(qgetenv(name))
-    {
-        qputenv(name, value);
-    }
-    ~Variable()
-    {
-        if (m_former.isNull())
-            qunsetenv(m_name);
-        else
-            qputenv(m_name, m_former);
-    }
-    Variable(const Variable &) = delete;
-    Variable &operator=(const Variable &) = delete;
-
-private:
-    const char *m_name;
-    QByteArray m_former;
 };
 
 } // namespace

@@ -13,7 +13,9 @@
 
 #include "dialog/job/FileJob.h"
 #include "tests/dialog/job/FakeFilter.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -55,27 +57,50 @@ whole.pdf) grep -v EOF "$last" ;;
 esac
 )sh";
 
-// Sets a variable of the environment while it lives.
-class Variable
+struct Stage
 {
-public:
-    Variable(const char *name, const QByteArray &value) : m_name(name), m_former(qgetenv(name))
-    {
-        qputenv(name, value);
-    }
-    ~Variable()
-    {
-        if (m_former.isNull())
-            qunsetenv(m_name);
-        else
-            qputenv(m_name, m_former);
-    }
-    Variable(const Variable &) = delete;
-    Variable &operator=(const Variable &) = delete;
+    const char *name;
+    const char *stage;
+};
+constexpr Stage kStageRows[] = {
+    {"the first document", "one.txt"},
+    {"another document", "two.txt"},
+    {"uniting them", "unite"},
+    {"the result", "whole.pdf"},
+};
 
-private:
-    const char *m_name;
-    QByteArray m_former;
+struct Failure
+{
+    const char *name;
+    const char *order;
+    const char *told;
+};
+constexpr Failure kFailures[] = {
+    {"the first document fails", "fail-one.txt", "one.txt is upside down"},
+    {"the first document crashes", "crash-one.txt", "crashed"},
+    {"the first document yields nothing", "nothing-one.txt", "nothing came out"},
+    {"another document fails", "fail-two.txt", "two.txt is upside down"},
+    {"another document crashes", "crash-two.txt", "crashed"},
+    {"another document yields nothing", "nothing-two.txt", "nothing came out"},
+    {"uniting fails", "fail-unite", "unite is upside down"},
+    {"uniting crashes", "crash-unite", "crashed"},
+    {"uniting yields nothing", "nothing-unite", "nothing came out"},
+    {"uniting yields a part only", "half-unite", "whole.pdf is incomplete"},
+    {"the result fails", "fail-whole.pdf", "whole.pdf is upside down"},
+    {"the result crashes", "crash-whole.pdf", "crashed"},
+    {"the result yields nothing", "nothing-whole.pdf", "nothing came out"},
+};
+
+struct FullDisk
+{
+    const char *name;
+    bool several; ///< documents: the first of them finds no place
+    bool endless; ///< what is written
+};
+constexpr FullDisk kFullDisks[] = {
+    {"the result", false, false},
+    {"a document of several", true, false},
+    {"a result without end", false, true},
 };
 
 // The size that a file may have at most, for this process and those that it starts. As on a full
@@ -175,15 +200,6 @@ private:
         QCOMPARE(m_leftAtTheEnd, QStringList());
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n2 as PDF\n"));
     }
-    static void stageRows()
-    {
-        QTest::addColumn<QString>("stage");
-        QTest::newRow("the first document") << u"one.txt"_s;
-        QTest::newRow("another document") << u"two.txt"_s;
-        QTest::newRow("uniting them") << u"unite"_s;
-        QTest::newRow("the result") << u"whole.pdf"_s;
-    }
-
 private Q_SLOTS:
     void init()
     {
@@ -279,29 +295,12 @@ private Q_SLOTS:
         QCOMPARE(error, u"standard input is empty."_s);
     }
 
-    void aFailureOfAnyStepLeavesNothing_data()
-    {
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QString>("told");
-        const auto rows = [](const char *name, const QString &stage) {
-            const QByteArray where(name);
-            QTest::newRow((where + " fails").constData())
-                << u"fail-"_s + stage << stage + u" is upside down"_s;
-            QTest::newRow((where + " crashes").constData()) << u"crash-"_s + stage << u"crashed"_s;
-            QTest::newRow((where + " yields nothing").constData())
-                << u"nothing-"_s + stage << u"nothing came out"_s;
-        };
-        rows("the first document", u"one.txt"_s);
-        rows("another document", u"two.txt"_s);
-        rows("uniting", u"unite"_s);
-        rows("the result", u"whole.pdf"_s);
-        QTest::newRow("uniting yields a part only")
-            << u"half-unite"_s << u"whole.pdf is incomplete"_s;
-    }
+    void aFailureOfAnyStepLeavesNothing_data() { addRows(kFailures); }
     void aFailureOfAnyStepLeavesNothing()
     {
-        QFETCH(QString, order);
-        QFETCH(QString, told);
+        const Failure &failure = currentRow(kFailures);
+        const QString order = QString::fromLatin1(failure.order);
+        const QString told = QString::fromLatin1(failure.told);
         make(order);
         const QString problem = printed(documents());
         QVERIFY2(problem.contains(told), qPrintable(problem));
@@ -325,10 +324,10 @@ private Q_SLOTS:
         verifyNothingIsLeft();
     }
 
-    void aJobThatIsCanceledInAnyStepLeavesNothing_data() { stageRows(); }
+    void aJobThatIsCanceledInAnyStepLeavesNothing_data() { addRows(kStageRows); }
     void aJobThatIsCanceledInAnyStepLeavesNothing()
     {
-        QFETCH(QString, stage);
+        const QString stage = QString::fromLatin1(currentRow(kStageRows).stage);
         make(u"hold-"_s + stage);
         {
             FileJob job(request(documents()));
@@ -347,10 +346,10 @@ private Q_SLOTS:
         verifyNothingIsLeft();
     }
 
-    void aJobThatDiesInAnyStepLeavesNothing_data() { stageRows(); }
+    void aJobThatDiesInAnyStepLeavesNothing_data() { addRows(kStageRows); }
     void aJobThatDiesInAnyStepLeavesNothing()
     {
-        QFETCH(QString, stage);
+        const QString stage = QString::fromLatin1(currentRow(kStageRows).stage);
         make(u"hold-"_s + stage);
         {
             FileJob job(request(documents()));
@@ -416,18 +415,10 @@ private Q_SLOTS:
     }
 
     // Filters do not notice that what they write finds no place, and end well.
-    void whatFindsNoPlaceOnTheDiskIsNamed_data()
-    {
-        QTest::addColumn<bool>("several");
-        QTest::addColumn<bool>("endless");
-        QTest::newRow("the result") << false << false;
-        QTest::newRow("a document of several") << true << false;
-        QTest::newRow("a result without end") << false << true;
-    }
+    void whatFindsNoPlaceOnTheDiskIsNamed_data() { addRows(kFullDisks); }
     void whatFindsNoPlaceOnTheDiskIsNamed()
     {
-        QFETCH(bool, several);
-        QFETCH(bool, endless);
+        const auto &[name, several, endless] = currentRow(kFullDisks);
         {
             const FakeFilter heedless(endless ? "while :; do head -c 65536 /dev/zero; done\n"
                                               : "head -c 100001 /dev/zero; exit 0\n");

@@ -13,6 +13,7 @@
 #include "platform/printcore/Ppd.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -54,6 +55,18 @@ QString printed(const FakeFilter &filter)
 {
     return printed(filter, {u"Title"_s, 1, {}}, filter.output());
 }
+
+struct MaskRow
+{
+    const char *name;
+    mode_t mask;
+    mode_t result;
+};
+constexpr MaskRow kMasks[] = {
+    {"usual", 0022, 0644},
+    {"shared with a group", 0002, 0664},
+    {"private", 0077, 0600},
+};
 
 // Restores the process's mask for new files.
 class Mask
@@ -239,26 +252,18 @@ private Q_SLOTS:
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("half\nwhole\n"));
     }
 
-    void theResultHasThePermissionsOfTheUsersOtherFiles_data()
-    {
-        QTest::addColumn<int>("mask");
-        QTest::addColumn<int>("result");
-        QTest::newRow("usual") << 0022 << 0644;
-        QTest::newRow("shared with a group") << 0002 << 0664;
-        QTest::newRow("private") << 0077 << 0600;
-    }
+    void theResultHasThePermissionsOfTheUsersOtherFiles_data() { addRows(kMasks); }
     void theResultHasThePermissionsOfTheUsersOtherFiles()
     {
-        QFETCH(int, mask);
-        QFETCH(int, result);
+        const auto &[name, mask, result] = currentRow(kMasks);
         const FakeFilter filter(kGood);
-        const Mask userMask(static_cast<mode_t>(mask));
+        const Mask userMask(mask);
         masksSet = 0;
         QCOMPARE(printed(filter), QString());
         QCOMPARE(masksSet, 0); // another thread may make a file at any moment
-        QCOMPARE(int(permissions(filter.output())), result);
-        const Mask unchanged(static_cast<mode_t>(mask));
-        QCOMPARE(int(::umask(static_cast<mode_t>(mask))), mask);
+        QCOMPARE(permissions(filter.output()), result);
+        const Mask unchanged(mask);
+        QCOMPARE(::umask(mask), mask);
     }
 
     void aRelativeNameIsThatOfTheCurrentFolder()
