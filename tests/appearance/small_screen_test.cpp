@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/app/PrintWindow.h"
+#include "dialog/window/PrintWindow.h"
 #include "dialog/window/WindowSize.h"
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/pages/MessageBar.h"

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
+#include "dialog/app/CommandLine.h"
 #include "dialog/window/PrintWindow.h"
 
 class QMessageBox;
