@@ -23,8 +23,8 @@
 #include <QTreeView>
 
 #include "dialog/app/RequestFromCommandLine.h"
-#include "dialog/window/PrintWindow.h"
 #include "dialog/app/Translations.h"
+#include "dialog/window/PrintWindow.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/TestPaths.h"
 

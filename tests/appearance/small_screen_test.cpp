@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/app/RequestFromCommandLine.h"
+#include "dialog/session/DialogPreferences.h"
 #include "dialog/window/PrintWindow.h"
 #include "dialog/window/WindowSize.h"
 #include "dialog/window/chooser/ElidedLabel.h"

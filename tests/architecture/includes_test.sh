@@ -26,8 +26,11 @@ dialog/server        dialog/server/ platform/
 dialog/driverless    dialog/driverless/ dialog/session/ platform/
 dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/job           dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
-dialog/chooser       dialog/chooser/ dialog/printers/ platform/
-dialog/pages         dialog/pages/ dialog/session/ platform/
+dialog/task          dialog/task/ dialog/job/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/window        dialog/window/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
+dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
+dialog/terminal      dialog/terminal/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/app           dialog/ platform/
 '
 
@@ -117,16 +120,24 @@ dialog/driverless/A.cpp      dialog/server/IppMessage.h         refused
 dialog/printers/A.cpp        dialog/driverless/CapabilityPpd.h  allowed
 dialog/printers/A.cpp        dialog/server/ServerWork.h         allowed
 dialog/printers/A.cpp        dialog/job/ServerJob.h             refused
-dialog/printers/A.cpp        dialog/app/PrintRequest.h          refused
+dialog/printers/A.cpp        dialog/task/PrintRequest.h         refused
 dialog/job/A.cpp             dialog/printers/Printer.h          allowed
-dialog/job/A.cpp             dialog/pages/GeneralPage.h         refused
-dialog/job/A.cpp             dialog/app/PrintRequest.h          refused
-dialog/chooser/A.cpp         dialog/printers/Printer.h          allowed
-dialog/chooser/A.cpp         dialog/pages/GeneralPage.h         refused
-dialog/chooser/A.cpp         dialog/session/PpdSession.h        refused
-dialog/pages/A.cpp           dialog/session/PpdSession.h        allowed
-dialog/pages/A.cpp           dialog/printers/Printer.h          refused
-dialog/pages/A.cpp           dialog/app/PrintWindow.h           refused
+dialog/job/A.cpp             dialog/window/pages/GeneralPage.h  refused
+dialog/job/A.cpp             dialog/task/PrintRequest.h         refused
+dialog/window/chooser/A.cpp  dialog/printers/Printer.h          allowed
+dialog/window/chooser/A.cpp  dialog/window/pages/GeneralPage.h  refused
+dialog/window/chooser/A.cpp  dialog/session/PpdSession.h        refused
+dialog/window/pages/A.cpp    dialog/session/PpdSession.h        allowed
+dialog/window/pages/A.cpp    dialog/printers/Printer.h          refused
+dialog/window/pages/A.cpp    dialog/app/PrintWindow.h           refused
+dialog/task/A.cpp            dialog/job/Job.h                   allowed
+dialog/task/A.cpp            dialog/window/PrintWindow.h        refused
+dialog/task/A.cpp            dialog/terminal/TerminalFace.h     refused
+dialog/window/A.cpp          dialog/task/PrintTask.h            allowed
+dialog/window/A.cpp          dialog/terminal/TerminalFace.h     refused
+dialog/window/A.cpp          dialog/app/CommandLine.h           refused
+dialog/terminal/A.cpp        dialog/task/PrintTask.h            allowed
+dialog/terminal/A.cpp        dialog/window/PrintWindow.h        refused
 dialog/app/A.cpp             platform/pde/PDEPanel.h            allowed
 dialog/app/A.cpp             ../../panel/OptionKeywords.h       refused
 dialog/app/A.cpp             dialog/../panel/OptionKeywords.h   refused
