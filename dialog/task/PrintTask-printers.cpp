@@ -46,6 +46,7 @@ void PrintTask::choosePrinter(const Printer &printer)
     enter(Phase::Fetching);
     Q_EMIT printerChanged();
     m_source.open(printer);
+    Q_EMIT printerChanged(); // a printer that no list has is among the printers from now on
 }
 
 void PrintTask::retry()

@@ -48,6 +48,14 @@ QString releaseCommand(const PrintRequest &request, const Printer &printer, int 
     return QStringLiteral("lp %1-i %2 -H resume").arg(server, shellWord(name));
 }
 
+// A problem of a server does not name the printer that it keeps from being asked for.
+QString withPrinter(const QString &problem, const QString &name)
+{
+    return problem.contains(name)
+               ? problem
+               : Texts::tr("%1 So the printer “%2” could not be asked for.").arg(problem, name);
+}
+
 // For somebody who has mistyped the name of a printer that needs no server.
 QString withOtherPrinters(const QString &problem, const PrintRequest &request)
 {
@@ -99,7 +107,9 @@ private:
             // Not in the midst of what opened it.
             QMetaObject::invokeMethod(&m_task, &PrintTask::print, Qt::QueuedConnection);
         } else if (phase == Phase::Missing) {
-            end({withOtherPrinters(m_task.problem().text, m_task.request())});
+            end({withOtherPrinters(
+                withPrinter(m_task.problem().text, m_task.request().wantedPrinter),
+                m_task.request())});
         } else if (phase == Phase::Ended && m_task.outcome() == JobOutcome()) {
             if (m_termination.caught())
                 end({Texts::tr("Interrupted.")});

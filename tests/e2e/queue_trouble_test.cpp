@@ -153,9 +153,9 @@ private Q_SLOTS:
         QTest::newRow("a queue that takes no jobs")
             << int(Rejecting) << u"The queue “office” takes no jobs at the moment."_s;
         QTest::newRow("a queue that was never there")
-            << int(Unknown) << u"There is no printer \"office\" at the print server"_s;
+            << int(Unknown) << u"There is no printer “office” at “"_s;
         QTest::newRow("a queue that is not there any more")
-            << int(Deleted) << u"There is no printer \"office\" at the print server"_s;
+            << int(Deleted) << u"There is no printer “office” at “"_s;
         QTest::newRow("a server that is not there any more")
             << int(ServerGone) << u"cannot be reached"_s;
     }

@@ -9,7 +9,7 @@ jobs_of_a_build() {
     touch "$state/work-pending"
     forget_calls
     start run
-    sed -n 's/^cmake --build --preset release --parallel //p' "$state/calls"
+    sed -n 's/^cmake --build --preset release --target product --parallel //p' "$state/calls"
 }
 
 test_theFirstStartConfiguresBuildsAndStarts() {
