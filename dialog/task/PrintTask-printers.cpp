@@ -43,7 +43,8 @@ void PrintTask::choosePrinter(const Printer &printer)
     m_chosen.deliberately = true;
     m_chosen.next.reset();
     m_chosen.problem = {};
-    enter(Phase::Fetching);
+    m_phase = Phase::Fetching;
+    Q_EMIT phaseChanged(m_phase); // also while another printer is being asked for
     Q_EMIT printerChanged();
     m_source.open(printer);
     Q_EMIT printerChanged(); // a printer that no list has is among the printers from now on

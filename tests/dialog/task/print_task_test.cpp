@@ -124,8 +124,8 @@ private Q_SLOTS:
         open(request());
         m_task->print();
         QVERIFY(ends());
-        QCOMPARE(m_face->phases, (QList{Phase::Opened, Phase::Ready, Phase::Asking, Phase::Printing,
-                                        Phase::Ended}));
+        QCOMPARE(m_face->phases, (QList{Phase::Fetching, Phase::Opened, Phase::Ready, Phase::Asking,
+                                        Phase::Printing, Phase::Ended}));
         QCOMPARE(m_face->outcomes.size(), 1);
         QCOMPARE(m_task->outcome().kind, JobOutcome::Kind::Printed);
         QCOMPARE(m_task->outcome().file, m_filter->output());
