@@ -70,7 +70,9 @@ QList<JobOption> JobSettings::attributes() const
 
 void JobSettings::leavePrinter()
 {
-    m_pageRanges = pageRanges();
+    // Where there were none, the next printer's options may still name some.
+    if (const QString ranges = pageRanges(); !ranges.isEmpty())
+        m_pageRanges = ranges;
     m_attributes.clear();
     m_mostCopies = 0;
     if (m_by == By::UserQueues) {

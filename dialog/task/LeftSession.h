@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QByteArray>
 #include <QList>
 #include <QStringList>
@@ -19,6 +21,7 @@ struct LeftSession
     SessionSnapshot left;        ///< as the user left it
     QByteArray ppdHash;          ///< of the options that it was set with
     QList<JobOption> attributes; ///< of the job, but for its pages
+    std::optional<int> copies{}; ///< where the printer's own options asked for them
 };
 
 /// Brings a session that was just opened to where it was left, before any panel is built on it.

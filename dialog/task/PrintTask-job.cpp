@@ -14,7 +14,7 @@ namespace corvana {
 
 bool PrintTask::canPrint() const
 {
-    return (m_phase == Phase::Opened || m_phase == Phase::Ready) &&
+    return m_opened && (m_phase == Phase::Opened || m_phase == Phase::Ready) &&
            m_opened->panelProblem.isEmpty();
 }
 
@@ -35,7 +35,7 @@ void PrintTask::print()
         // By an Enter that was typed ahead, or because nobody waits for anything to be shown: what
         // cannot be set has not been seen by anybody.
         bringUp();
-        if (!m_chosen.unset.isEmpty()) {
+        if (m_opened->panelProblem.isEmpty() && !m_chosen.unset.isEmpty()) {
             Q_EMIT refused({m_chosen.unset});
             return;
         }
@@ -58,7 +58,15 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(makeTicket(*m_opened, m_settings.attributes(), m_request.title, m_settings.copies()));
+    startJob(makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
+}
+
+QList<JobOption> PrintTask::jobAttributes() const
+{
+    JobSettings settings = m_settings;
+    if (m_run.held)
+        settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
+    return settings.attributes();
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -66,6 +74,7 @@ void PrintTask::print()
 std::optional<TaskRefusal> PrintTask::finish()
 {
     using Place = TaskRefusal::Place;
+    m_run.held = false;
     if (!m_face.finishEditing())
         return TaskRefusal{{}, Place::Nowhere, true};
     if (printsToFile() && m_output.path.isEmpty() && !m_request.documents.isEmpty())
@@ -113,8 +122,6 @@ std::optional<TaskRefusal> PrintTask::askPanels()
     if (!allowed)
         return TaskRefusal{
             {tr("The printer's settings hold the job back.")}, TaskRefusal::Place::Nowhere, true};
-    if (m_run.held)
-        m_settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
     return std::nullopt;
 }
 
@@ -183,15 +190,17 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
         memory.earlierJob = outcome.job;
     else if (outcome.job > 0)
         memory.earlierJob = 0;
-    if (outcome.isDone() && outcome.file.isEmpty())
+    // What a script prints to says nothing about what its user opens next.
+    if (m_chosen.canBeAnother && outcome.isDone() && outcome.file.isEmpty())
         m_source.rememberUse(m_chosen.printer);
     if (outcome.kind == Kind::PrinterChanged)
         m_source.retry();
-    const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed;
+    const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed ||
+                      (outcome.kind == Kind::InQueue && m_request.noWait);
     enter(ends ? Phase::Ended : Phase::Ready);
     Q_EMIT jobEnded(outcome);
-    if (m_chosen.next && m_phase == Phase::Ready)
-        take(FetchedPrinter(*m_chosen.next));
+    if (m_phase == Phase::Ready)
+        takeNext();
 }
 
 } // namespace corvana

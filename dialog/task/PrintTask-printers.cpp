@@ -24,6 +24,7 @@ void PrintTask::connectSource()
 
 void PrintTask::start()
 {
+    m_chosen.canBeAnother = true;
     choosePrinter(m_source.first());
     m_chosen.deliberately = !m_source.firstIsProvisional();
 }
@@ -55,6 +56,7 @@ void PrintTask::retry()
     if (m_phase == Phase::Missing) {
         m_chosen.problem = {};
         enter(Phase::Fetching);
+        Q_EMIT printerChanged();
     }
     m_source.retry();
 }
@@ -72,22 +74,27 @@ void PrintTask::take(const FetchedPrinter &ready)
         return;
     if (m_opened && (isPrinting() || m_face.userIsBusy())) {
         m_chosen.next = ready;
-        QTimer::singleShot(kPatience, this, [this] {
-            if (m_chosen.next && !isPrinting())
-                take(FetchedPrinter(*m_chosen.next));
-        });
+        // A job that runs takes it up when it has ended.
+        if (!m_run.job)
+            QTimer::singleShot(kPatience, this, &PrintTask::takeNext);
         return;
     }
     m_chosen.next.reset();
     const bool again = m_opened != nullptr;
     rememberSession();
     open(ready);
-    if (again)
+    if (again && m_opened)
         Q_EMIT said({TaskMessage::Kind::Information,
                      tr("The options of the printer have changed at its server; yours were kept."),
                      {},
                      {},
                      true});
+}
+
+void PrintTask::takeNext()
+{
+    if (m_chosen.next && !m_run.job)
+        take(FetchedPrinter(*m_chosen.next));
 }
 
 void PrintTask::open(const FetchedPrinter &ready)
@@ -122,6 +129,7 @@ void PrintTask::close()
     if (!m_opened)
         return;
     m_settings.leavePrinter();
+    m_settings.askForCopies(m_request.copies, JobSettings::By::Program); // where its own counted
     m_opened.reset();
     Q_EMIT printerClosed();
 }
@@ -139,8 +147,11 @@ void PrintTask::rememberSession()
     QList<JobOption> attributes = m_settings.attributes();
     attributes.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
-    m_memory[idOf(m_chosen.printer)].session = LeftSession{
-        m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash, attributes};
+    LeftSession left{m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash,
+                     attributes};
+    if (m_settings.copiesAskedForBy() == JobSettings::By::UserQueues)
+        left.copies = m_settings.copiesAskedFor();
+    m_memory[idOf(m_chosen.printer)].session = left;
 }
 
 // Whether nothing would be lost if another printer took the place of this one. Copies and pages go
@@ -152,9 +163,10 @@ bool PrintTask::isUntouched() const
 
 void PrintTask::takeExpectedPrinter()
 {
-    if (m_chosen.deliberately || isPrinting() || m_phase == Phase::Ended || !isUntouched())
+    if (m_chosen.deliberately || m_run.job || m_phase == Phase::Ended || !isUntouched())
         return;
-    if (m_face.userIsBusy()) { // the list may have nothing more to say afterwards
+    // The list may have nothing more to say afterwards.
+    if (m_face.userIsBusy() || m_phase == Phase::Asking) {
         QTimer::singleShot(kPatience, this, &PrintTask::takeExpectedPrinter);
         return;
     }
@@ -167,8 +179,12 @@ void PrintTask::takeExpectedPrinter()
 
 void PrintTask::printerChecked(const FetchedPrinter &checked)
 {
+    // Asked for once more, because it could not be opened, and its options are what they were.
+    if (m_phase == Phase::Fetching)
+        return take(checked);
     m_chosen.printer = checked.printer;
-    m_chosen.problem = {};
+    if (m_opened)
+        m_chosen.problem = {}; // it was the server's, which answers
     // What comes next has its own words for it.
     if (m_opened && !m_chosen.next)
         m_opened->fetched = checked;

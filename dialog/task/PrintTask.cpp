@@ -6,6 +6,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/StartValues.h"
+#include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
 namespace corvana {
@@ -20,6 +21,9 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
+    connectSource();
+    if (!m_face.canAsk())
+        return;
     m_credentials->setQuestioner(
         [this](const CredentialsQuestion &question, const CredentialStore::Answer &answer) {
             m_source.questionPut();
@@ -28,7 +32,6 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
                 answer(std::move(given));
             });
         });
-    connectSource();
 }
 
 PrintTask::~PrintTask()
@@ -51,16 +54,28 @@ void PrintTask::bringUp()
 {
     if (m_phase != Phase::Opened)
         return;
-    m_opened->panels->bringUp();
+    const QList<Refusal> refusals = bringPanelsUp();
     noteMissingPages();
     m_baseline.opened = m_opened->session->snapshot();
     m_chosen.unset = applyStartOptions();
     m_baseline.started = m_opened->session->snapshot();
     enter(Phase::Ready);
     showSettings();
+    for (const Refusal &refusal : refusals)
+        sayRefusal(refusal);
     if (!m_chosen.unset.isEmpty())
         say(TaskMessage::Kind::Problem,
             tr("What was asked for cannot be set:\n%1").arg(m_chosen.unset.join(u'\n')));
+    for (const Refusal &refusal : refusals)
+        m_chosen.unset += refusalText(refusal, *m_opened->session);
+}
+
+// Answers what the panels proposed in vain while they came up: nobody could be told yet.
+QList<Refusal> PrintTask::bringPanelsUp()
+{
+    const QSignalBlocker blocker(m_opened->panels.get());
+    m_opened->panels->bringUp();
+    return m_opened->session->takeRefusals();
 }
 
 // Takes what the printer starts with: what the user had set before, else lpoptions and what was
@@ -73,6 +88,8 @@ QStringList PrintTask::applyStartOptions()
     const Memory &memory = m_memory[idOf(m_chosen.printer)];
     if (memory.session) {
         m_settings.addAttributes(memory.session->attributes);
+        if (memory.session->copies)
+            m_settings.askForCopies(*memory.session->copies, By::UserQueues);
         m_baseline.opened = memory.session->opened;
         m_opened->panels->restoreAll();
         return takeMostCopies();
@@ -123,14 +140,22 @@ QStringList PrintTask::takeMostCopies()
 QList<SummaryLine> PrintTask::summary()
 {
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(),
-                          m_settings.attributes());
+                          jobAttributes());
 }
 
 // Without its controls a panel would print other choices than with them.
 void PrintTask::noteMissingPages()
 {
-    const QStringList problems = takeInterfaceProblems();
-    if (!m_opened->panels->views().contains(nullptr))
+    QStringList problems = takeInterfaceProblems();
+    const QList<QPointer<QWidget>> &views = m_opened->panels->views();
+    if (problems.isEmpty()) {
+        for (int i = 0; i < views.size(); ++i) {
+            if (!views.at(i))
+                problems += tr("“%1” has nothing to show.")
+                                .arg(m_opened->panels->panels().at(i)->panelName());
+        }
+    }
+    if (problems.isEmpty())
         return;
     m_opened->panelProblem = problems.join(u'\n');
     say(TaskMessage::Kind::Problem,
@@ -151,7 +176,10 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
 
 void PrintTask::settled()
 {
-    const QList<Refusal> refusals = m_opened->session->takeRefusals();
+    // While the job is being made, finish() takes them: it must not be printed without what a panel
+    // has proposed.
+    const QList<Refusal> refusals =
+        m_phase == Phase::Asking ? QList<Refusal>() : m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         sayRefusal(refusal);
     // Showing the settings asks the panels, which save again: only another state is news.

@@ -158,6 +158,7 @@ private:
     {
         Printer printer;                    // as its server describes it by now
         bool deliberately = false;          // named or picked, and not for want of a better one
+        bool canBeAnother = false;          // somebody sits there who can choose
         PrinterProblem problem;             // why it cannot be asked for
         QStringList unset;                  // what was asked for with it and cannot be set
         std::optional<FetchedPrinter> next; // while the one that is open is in use
@@ -166,7 +167,7 @@ private:
     {
         std::unique_ptr<Job> job;
         JobOutcome outcome; // of the last one
-        bool held = false;  // until its instructions have been followed
+        bool held = false;  // the job waits until its instructions have been followed
     };
     struct Output
     {
@@ -186,6 +187,7 @@ private:
 
     void connectSource();
     void take(const FetchedPrinter &ready);
+    void takeNext();
     void open(const FetchedPrinter &ready);
     void close();
     void rememberSession();
@@ -196,6 +198,7 @@ private:
     bool isUntouched() const;
     bool isPrinting() const;
 
+    QList<Refusal> bringPanelsUp();
     QStringList applyStartOptions();
     QStringList takeMostCopies();
     void noteMissingPages();
@@ -203,6 +206,7 @@ private:
     void sayRefusal(const Refusal &refusal);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
+    QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
     void startJob(const JobTicket &ticket);

@@ -30,7 +30,10 @@ public:
 
     /// Shows the alerts of the panels. Ownership: the face's; lives as long as the task.
     virtual AlertPresenter &alerts() = 0;
-    /// Asks for a user and a password, and calls `answer` once, now or later.
+    /// Whether there is anybody who could be asked for a password.
+    virtual bool canAsk() const { return true; }
+    /// Asks for a user and a password, and calls `answer` once, now or later. Called only where
+    /// canAsk().
     virtual void askCredentials(const CredentialsQuestion &question,
                                 const CredentialStore::Answer &answer) = 0;
     /// What instructions mean for a job that goes to a queue (`canWait`) or into a file.

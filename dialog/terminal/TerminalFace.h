@@ -23,6 +23,8 @@ public:
     void setTask(const PrintTask *task) { m_task = task; }
 
     AlertPresenter &alerts() override;
+    /// Not where no terminal controls the program, as for a job of the system's.
+    bool canAsk() const override { return bool(m_questioner); }
     void askCredentials(const CredentialsQuestion &question,
                         const CredentialStore::Answer &answer) override;
     Instructions instructions(bool canWait) const override;

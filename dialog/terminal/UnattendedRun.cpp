@@ -60,8 +60,11 @@ QString withPrinter(const QString &problem, const QString &name)
 QString withOtherPrinters(const QString &problem, const PrintRequest &request)
 {
     QStringList names;
-    for (const Printer &printer : request.printers)
-        names += printer.name;
+    // What is wrong with one of them is not that it was mistyped.
+    if (wantedAmongFiles(request) < 0) {
+        for (const Printer &printer : request.printers)
+            names += printer.name;
+    }
     return names.isEmpty() ? problem
                            : Texts::tr("%1 Printers that need no print server: %2.")
                                  .arg(problem, names.join(QStringLiteral(", ")));
@@ -93,8 +96,9 @@ public:
     int exec()
     {
         if (m_termination.caught())
-            return m_termination.exitStatus();
-        m_task.startUnattended();
+            end({Texts::tr("Interrupted.")});
+        else
+            m_task.startUnattended();
         if (m_status < 0)
             m_loop.exec();
         return m_status != 0 && m_termination.caught() ? m_termination.exitStatus() : m_status;

@@ -53,16 +53,13 @@ void PrintWindow::phaseChanged(PrintTask::Phase phase)
     m_header->printers()->setEnabled(!running);
     switch (phase) {
     case Phase::Fetching:
-        m_pages->showWaiting(
-            tr("Asking “%1” for the options of the printer…").arg(m_task->server().address.text()),
-            false);
-        break;
     case Phase::Missing:
-        break; // said with the printer, each time that it fails
+        break; // said with the printer, of which there may be several in one phase
     case Phase::Opened:
         printerOpened();
         break;
     case Phase::Ready:
+        updateSilencedAlerts(); // an alert may have been silenced before the job was made
         m_footer->showRunning(false);
         if (m_pages->showPanels())
             orderFocus();
@@ -87,6 +84,7 @@ void PrintWindow::printerOpened()
 {
     PanelHost *panels = m_task->opened()->panels.get();
     panels->setWindow(this);
+    connect(panels, &PanelHost::settled, this, &PrintWindow::updateSilencedAlerts);
     // Later: a panel is in the midst of its work when it says so.
     connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPanelView,
             Qt::QueuedConnection);
@@ -100,6 +98,7 @@ void PrintWindow::showPrinter()
 {
     const Printer &printer = m_task->printer();
     const PrinterProblem &problem = m_task->problem();
+    m_footer->setCanPrint(m_task->canPrint());
     m_header->showDestination(printer.origin == PrinterOrigin::File, m_task->printsToFile());
     if (problem.text.isEmpty())
         m_header->status()->setPrinter(printer);
@@ -107,7 +106,11 @@ void PrintWindow::showPrinter()
         m_header->status()->setProblem(problem.brief, [this] { m_task->retry(); });
     else
         m_header->status()->setProblem(problem.brief);
-    if (m_task->phase() == PrintTask::Phase::Missing)
+    if (m_task->phase() == PrintTask::Phase::Fetching)
+        m_pages->showWaiting(
+            tr("Asking “%1” for the options of the printer…").arg(m_task->server().address.text()),
+            false);
+    else if (m_task->phase() == PrintTask::Phase::Missing)
         m_pages->showWaiting(problem.text, printer.origin != PrinterOrigin::File);
     m_header->printers()->setPrinters(m_task->printers().printers());
     m_header->printers()->setCurrentPrinter(idOf(printer));
@@ -232,10 +235,7 @@ void PrintWindow::jobEnded(const JobOutcome &outcome)
         m_footer->showClose();
         break;
     case Kind::Canceled:
-        m_message->showMessage(outcome.job > 0 || outcome.file.isEmpty()
-                                   ? MessageBar::Kind::Information
-                                   : MessageBar::Kind::Problem,
-                               outcome.text);
+        m_message->showMessage(MessageBar::Kind::Information, outcome.text);
         break;
     default:
         m_message->showMessage(MessageBar::Kind::Problem, outcome.text);

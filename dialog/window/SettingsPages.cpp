@@ -29,12 +29,12 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent) : QTabWidget(pare
 
 void SettingsPages::open()
 {
-    const QString former = m_general ? tabText(currentIndex()) : QString();
     close();
     const QSignalBlocker blocker(this);
     addPages();
+    // The same printer, with other options.
     for (int page = 0; page < count(); ++page) {
-        if (tabText(page) == former)
+        if (tabText(page) == m_former)
             setCurrentIndex(page);
     }
 }
@@ -94,6 +94,8 @@ void SettingsPages::showPanelViews()
 void SettingsPages::close()
 {
     const QSignalBlocker blocker(this);
+    if (m_general)
+        m_former = tabText(currentIndex());
     while (count() > 0)
         delete widget(0);
     m_panelPages.clear();
@@ -110,6 +112,7 @@ void SettingsPages::showWaiting(const QString &text, bool canRetry)
     if (shown && shown->text() == text)
         return;
     close();
+    m_former.clear(); // another printer begins at its first page
     const QSignalBlocker blocker(this);
     auto *page = new QWidget;
     page->setObjectName(u"waiting"_s);

@@ -62,6 +62,7 @@ private:
     OptionsPage *m_options = nullptr; // of a printer without panels
     SummaryPage *m_summary = nullptr;
     bool m_showsPanels = false;
+    QString m_former; // the title of the page that was shown when the pages were closed
 };
 
 } // namespace corvana

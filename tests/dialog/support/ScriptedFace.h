@@ -20,7 +20,11 @@ public:
     // What it answers.
     bool overwrites = true;
     bool takesWhatIsTyped = true;
+    bool canBeAsked = true;
+    bool busy = false;
     Instructions instructionsAre = Instructions::Followed;
+    /// What happens while the task asks, such as news from a server; may be empty.
+    std::function<void()> meanwhile;
 
     // What it has seen.
     QList<PrintTask::Phase> phases;
@@ -28,6 +32,7 @@ public:
     QList<TaskRefusal> refusals;
     QStringList ignored; ///< of lpoptions
     QStringList asked;   ///< files that may be overwritten or not
+    int passwords = 0;   ///< how often one was asked for
     QList<JobOutcome> outcomes;
     QList<QList<SummaryLine>> summaries;
     ScriptedAlertPresenter presenter;
@@ -38,15 +43,20 @@ public:
     QString message() const;
 
     AlertPresenter &alerts() override { return presenter; }
+    bool canAsk() const override { return canBeAsked; }
     void askCredentials(const CredentialsQuestion &, const CredentialStore::Answer &answer) override
     {
+        ++passwords;
         answer(std::nullopt);
     }
     Instructions instructions(bool) const override { return instructionsAre; }
     bool finishEditing() override { return takesWhatIsTyped; }
+    bool userIsBusy() const override { return busy; }
     bool mayOverwrite(const QString &file) override
     {
         asked += file;
+        if (meanwhile)
+            meanwhile();
         return overwrites;
     }
     void writeSummary(const QList<SummaryLine> &lines) override { summaries += lines; }

@@ -1,0 +1,205 @@
+#include <QSignalSpy>
+#include <QTest>
+
+#include "dialog/printers/PrinterFetching.h"
+#include "dialog/session/OptionRequest.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/TaskScene.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+using Phase = PrintTask::Phase;
+
+namespace {
+
+PrintRequest with(PrintRequest request, const QString &options)
+{
+    request.options = parseOptions({options});
+    return request;
+}
+
+// What only a printer that knows its options takes.
+PpdBuilder plainPrinter()
+{
+    return PpdBuilder().option("Ink", "Ink", "Black", {{"Black", "Black"}, {"Blue", "Blue"}});
+}
+
+} // namespace
+
+/// Printers that come, change and go while a task is open: what goes along with the user, what
+/// stays with its printer, and what the task says of it.
+class TaskPrintersTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TaskScene> m_scene;
+
+    PrintRequest two(const QByteArray &first, const QByteArray &second)
+    {
+        return m_scene->request(
+            {m_scene->printer(u"first"_s, first), m_scene->printer(u"second"_s, second)});
+    }
+    PrintTask &task() { return *m_scene->task; }
+    FetchedPrinter fetched(const QByteArray &ppd)
+    {
+        QString error;
+        return {task().printer(), temporaryPpd(ppd, 0, &error)};
+    }
+    // As the source of printers tells it.
+    void becomes(const QByteArray &ppd) { Q_EMIT task().printers().ready(fetched(ppd)); }
+
+private Q_SLOTS:
+    void init() { m_scene = std::make_unique<TaskScene>(); }
+    void cleanup() { m_scene.reset(); }
+
+    // The first printer may take none of the options, and with them not the pages.
+    void pagesThatOnlyTheSecondPrinterTakesAreItsPages()
+    {
+        const PrintRequest request = with(two(plainPrinter().text(), officePrinter().text()),
+                                          u"Tray=Lower page-ranges=1-2"_s);
+        m_scene->open(request);
+        QVERIFY(!m_scene->face.messages.isEmpty());
+        QCOMPARE(task().settings().pageRanges(), QString());
+        task().choosePrinter(request.printers.at(1));
+        task().bringUp();
+        QCOMPARE(task().settings().pageRanges(), u"1-2"_s);
+    }
+
+    void pagesOfTheRequestOutlastAPrinterThatNeverCameUp()
+    {
+        const PrintRequest request =
+            with(two(officePrinter().text(), officePrinter().text()), u"page-ranges=1-2"_s);
+        m_scene->make(request).start();
+        task().choosePrinter(request.printers.at(1));
+        task().bringUp();
+        QCOMPARE(task().settings().pageRanges(), u"1-2"_s);
+    }
+
+    void pagesThatTheUserHasClearedStayCleared()
+    {
+        const PrintRequest request =
+            with(two(officePrinter().text(), officePrinter().text()), u"page-ranges=1-2"_s);
+        m_scene->open(request);
+        task().settings().setPageRanges({});
+        task().choosePrinter(request.printers.at(1));
+        task().bringUp();
+        QCOMPARE(task().settings().pageRanges(), QString());
+    }
+
+    void aPrinterThatComesWhileTheUserIsAskedIsTakenAfterwards()
+    {
+        writeFile(m_scene->filter.output(), "former");
+        m_scene->open(m_scene->request(officePrinter()));
+        m_scene->face.overwrites = false;
+        m_scene->face.meanwhile = [this] {
+            becomes(plainPrinter().text());
+            QTest::qWait(500); // longer than the task looks whether the user is done
+        };
+        task().print();
+        QCOMPARE(m_scene->face.refusals.size(), 1);
+        QVERIFY(ppdOption(m_scene->session().ppd(), u"Tray"_s)); // the question was about this one
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
+    }
+
+    void aPrinterThatComesWhileAnAlertIsOpenIsTakenAfterwards()
+    {
+        m_scene->open(m_scene->request(officePrinter()));
+        m_scene->face.busy = true;
+        becomes(plainPrinter().text());
+        QTest::qWait(500);
+        QCOMPARE(task().phase(), Phase::Ready);
+        m_scene->face.busy = false;
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
+    }
+
+    void settingsOutlastAChangeOfThePrintersOptions()
+    {
+        m_scene->open(m_scene->request(officePrinter()));
+        task().propose(u"Tray"_s, u"Lower"_s);
+        task().propose(u"Staple"_s, u"Left"_s);
+        becomes(officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}}).text());
+        task().bringUp();
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"Left"_s);
+        QCOMPARE(m_scene->face.messages.size(), 1);
+        QVERIFY2(m_scene->face.message().contains(u"yours were kept"_s),
+                 qPrintable(m_scene->face.message()));
+    }
+
+    void whatAChangedPrinterHasNoMoreIsNamed()
+    {
+        const PpdBuilder less = PpdBuilder().option(
+            "Tray", "Paper Source", "Auto", {{"Auto", "Automatic"}, {"Upper", "Upper Tray"}});
+        m_scene->open(m_scene->request(officePrinter()));
+        task().propose(u"Tray"_s, u"Lower"_s);
+        task().propose(u"Staple"_s, u"Left"_s);
+        becomes(less.text());
+        task().bringUp();
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Auto"_s);
+        const QString said = m_scene->face.messages.value(0).text;
+        QVERIFY2(said.contains(u"Tray has no choice Lower"_s) && said.contains(u"name Staple"_s),
+                 qPrintable(said));
+    }
+
+    // That the options are kept would be the wrong thing to say.
+    void aChangedPrinterThatCannotBeOpenedIsMissing()
+    {
+        m_scene->open(m_scene->request(officePrinter()));
+        task().propose(u"Tray"_s, u"Lower"_s);
+        becomes("no PPD");
+        QCOMPARE(task().phase(), Phase::Missing);
+        QVERIFY(!task().problem().text.isEmpty());
+        QVERIFY2(m_scene->face.messages.isEmpty(), qPrintable(m_scene->face.message()));
+        QVERIFY(!task().canPrint());
+        becomes(officePrinter().text());
+        task().bringUp();
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+    }
+
+    void whatTheListSaysOfAPrinterThatCannotBeOpenedDoesNotHideWhy()
+    {
+        m_scene->open(m_scene->request(PpdBuilder()));
+        becomes("no PPD");
+        const QString problem = task().problem().text;
+        QVERIFY(!problem.isEmpty());
+        const FetchedPrinter same = fetched("no PPD");
+        Q_EMIT task().printers().checked(same);
+        QCOMPARE(task().problem().text, problem);
+        QCOMPARE(task().phase(), Phase::Missing);
+        task().retry();
+        QCOMPARE(task().phase(), Phase::Fetching);
+        Q_EMIT task().printers().checked(same); // the server: nothing has changed
+        QCOMPARE(task().phase(), Phase::Missing);
+        QVERIFY2(task().problem().text.contains(u"Missing asterisk"_s),
+                 qPrintable(task().problem().text));
+    }
+
+    void onceMoreThePrinterIsShownWithoutItsProblem()
+    {
+        m_scene->open(m_scene->request(PpdBuilder()));
+        becomes("no PPD");
+        QSignalSpy changed(&task(), &PrintTask::printerChanged);
+        task().retry();
+        QVERIFY(task().problem().text.isEmpty());
+        QCOMPARE(changed.size(), 1);
+    }
+
+    void newsOfAPrinterAreNoReasonToPrintToOneThatIsGone()
+    {
+        m_scene->open(m_scene->request(officePrinter()));
+        Q_EMIT task().printers().failed(u"The server does not answer."_s, u"No answer."_s);
+        QCOMPARE(task().phase(), Phase::Ready); // its options are known; what is printed fails
+        QCOMPARE(task().problem().brief, u"No answer."_s);
+        Q_EMIT task().printers().checked(FetchedPrinter(task().opened()->fetched));
+        QVERIFY(task().problem().text.isEmpty());
+    }
+};
+
+QTEST_MAIN(TaskPrintersTest)
+
+#include "task_printers_test.moc"
