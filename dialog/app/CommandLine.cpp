@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The command line is read before there is an application, whose translations would be needed for
@@ -84,6 +86,63 @@ ParsedCommandLine notUnderstood(const QString &what)
             2};
 }
 
+// What the values say. Errors: nothing; `problem` says which one cannot be understood.
+std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Options &options,
+                                      QString *problem)
+{
+    CommandLine line;
+    line.printer = parser.value(options.printer);
+    line.ppd = parser.value(options.ppd);
+    line.server = parser.value(options.server);
+    line.output = parser.value(options.output);
+    line.title = parser.value(options.title);
+    line.options = parser.values(options.option);
+    line.bundleRoots = parser.values(options.bundleRoot);
+    line.demo = parser.isSet(options.demo);
+    line.listPrinters = parser.isSet(options.listPrinters);
+    line.noDialog = parser.isSet(options.noDialog);
+    line.noWait = parser.isSet(options.noWait);
+    line.summary = parser.isSet(options.summary);
+    line.checkDisplay = parser.isSet(options.checkDisplay);
+    line.documents = parser.positionalArguments();
+    if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
+        *problem = u"--server \"%1\": HOST, HOST:PORT or the path of a socket was expected."_s.arg(
+            line.server);
+    if (parser.isSet(options.copies)) {
+        bool isNumber = false;
+        line.copies = parser.value(options.copies).toInt(&isNumber);
+        if (!isNumber || *line.copies < 1 || *line.copies > kMostCopies)
+            *problem =
+                u"-n %1: a number from 1 to %2 was expected."_s.arg(parser.value(options.copies))
+                    .arg(kMostCopies);
+    }
+    if (parser.isSet(options.onAlert)) {
+        line.onAlert = alertPolicy(parser.value(options.onAlert));
+        if (!line.onAlert)
+            *problem = u"--on-alert %1: print, hold or refuse was expected."_s.arg(
+                parser.value(options.onAlert));
+    }
+    return problem->isEmpty() ? std::optional(line) : std::nullopt;
+}
+
+// Why a command line cannot be understood although each of its values can be read; empty when it
+// can.
+QString problemOf(const CommandLine &line)
+{
+    if (isDeviceUri(line.printer) && !deviceOfUri(line.printer))
+        return u"-d \"%1\": a URI like ipp://HOST/ipp/print was expected."_s.arg(line.printer);
+    for (const QString &option : line.options) {
+        if (!isWellFormed(option))
+            return u"-o \"%1\": KEY=VALUE was expected."_s.arg(option);
+    }
+    if (line.documents.count(u"-"_s) > 1)
+        return u"standard input (-) can be read once only."_s;
+    const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
+    if ((line.documents.isEmpty() && needsDocument) || line.documents.contains(QString()))
+        return u"the name of a document is missing."_s;
+    return {};
+}
+
 } // namespace
 
 ParsedCommandLine parseCommandLine(const QStringList &arguments)
@@ -110,57 +169,12 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
         return {std::nullopt,
                 QStringLiteral("corvana-print %1\n").arg(QLatin1StringView(CORVANA_VERSION)), 0};
 
-    CommandLine line;
-    line.printer = parser.value(options.printer);
-    line.ppd = parser.value(options.ppd);
-    line.server = parser.value(options.server);
-    if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
-        return notUnderstood(QStringLiteral("--server \"%1\": HOST, HOST:PORT or the path of a "
-                                            "socket was expected.")
-                                 .arg(line.server));
-    if (isDeviceUri(line.printer) && !deviceOfUri(line.printer)) {
-        return notUnderstood(
-            QStringLiteral("-d \"%1\": a URI like ipp://HOST/ipp/print was expected.")
-                .arg(line.printer));
-    }
-    line.output = parser.value(options.output);
-    line.title = parser.value(options.title);
-    line.options = parser.values(options.option);
-    for (const QString &option : std::as_const(line.options)) {
-        if (!isWellFormed(option))
-            return notUnderstood(QStringLiteral("-o \"%1\": KEY=VALUE was expected.").arg(option));
-    }
-    line.bundleRoots = parser.values(options.bundleRoot);
-    line.demo = parser.isSet(options.demo);
-    line.listPrinters = parser.isSet(options.listPrinters);
-    line.noDialog = parser.isSet(options.noDialog);
-    line.noWait = parser.isSet(options.noWait);
-    line.summary = parser.isSet(options.summary);
-    line.checkDisplay = parser.isSet(options.checkDisplay);
-    if (parser.isSet(options.copies)) {
-        bool isNumber = false;
-        line.copies = parser.value(options.copies).toInt(&isNumber);
-        if (!isNumber || *line.copies < 1 || *line.copies > kMostCopies) {
-            return notUnderstood(QStringLiteral("-n %1: a number from 1 to %2 was expected.")
-                                     .arg(parser.value(options.copies))
-                                     .arg(kMostCopies));
-        }
-    }
-    if (parser.isSet(options.onAlert)) {
-        const std::optional<AlertPolicy> policy = alertPolicy(parser.value(options.onAlert));
-        if (!policy) {
-            return notUnderstood(
-                QStringLiteral("--on-alert %1: print, hold or refuse was expected.")
-                    .arg(parser.value(options.onAlert)));
-        }
-        line.onAlert = *policy;
-    }
-    line.documents = parser.positionalArguments();
-    if (line.documents.count(QStringLiteral("-")) > 1)
-        return notUnderstood(QStringLiteral("standard input (-) can be read once only."));
-    const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
-    if ((line.documents.isEmpty() && needsDocument) || line.documents.contains(QString()))
-        return notUnderstood(QStringLiteral("the name of a document is missing."));
+    QString problem;
+    const std::optional<CommandLine> line = readValues(parser, options, &problem);
+    if (line)
+        problem = problemOf(*line);
+    if (!problem.isEmpty())
+        return notUnderstood(problem);
     return {line, {}, 0};
 }
 

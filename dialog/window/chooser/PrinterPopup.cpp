@@ -40,7 +40,7 @@ PrinterPopup::PrinterPopup(QWidget *anchor)
     build();
 }
 
-void PrinterPopup::build()
+void PrinterPopup::buildField()
 {
     m_field = new QLineEdit(this);
     m_field->setObjectName(QStringLiteral("printerSearch"));
@@ -50,7 +50,10 @@ void PrinterPopup::build()
     m_field->addAction(searchIcon(), QLineEdit::LeadingPosition);
     m_field->installEventFilter(this);
     setFocusProxy(m_field);
+}
 
+void PrinterPopup::buildList()
+{
     m_list = new QListView(this);
     m_list->setObjectName(QStringLiteral("printerList"));
     m_list->setAccessibleName(tr("Printers"));
@@ -72,23 +75,14 @@ void PrinterPopup::build()
     m_area = new QStackedWidget(this);
     m_area->addWidget(m_list);
     m_area->addWidget(m_nothing);
+}
 
-    m_footerRow = new QWidget(this);
-    m_footerText = new ElidedLabel(m_footerRow);
-    m_footerText->setObjectName(QStringLiteral("printerFooter"));
-    m_footerButton = new QPushButton(m_footerRow);
-    m_footerButton->setObjectName(QStringLiteral("printerFooterAction"));
-    m_footerButton->setAutoDefault(false);
-    m_count = plainLabel({}, m_footerRow);
-    m_count->setObjectName(QStringLiteral("printerCount"));
-    m_count->setForegroundRole(QPalette::PlaceholderText);
+void PrinterPopup::build()
+{
+    buildField();
+    buildList();
+    m_footer = new PrinterFooterRow(this);
     const int gap = fontMetrics().height() / 2;
-    auto *footer = new QHBoxLayout(m_footerRow);
-    footer->setContentsMargins(gap, gap / 2, gap, gap / 2);
-    footer->addWidget(m_footerText, 1);
-    footer->addWidget(m_footerButton);
-    footer->addWidget(m_count);
-
     auto *top = new QHBoxLayout;
     top->setContentsMargins(gap / 2, gap / 2, gap / 2, gap / 2);
     top->addWidget(m_field);
@@ -97,17 +91,12 @@ void PrinterPopup::build()
     layout->setSpacing(0);
     layout->addLayout(top);
     layout->addWidget(m_area, 1);
-    layout->addWidget(m_footerRow);
+    layout->addWidget(m_footer);
 
     connect(m_field, &QLineEdit::textChanged, this, &PrinterPopup::search);
     connect(m_list, &QListView::clicked, this, &PrinterPopup::pick);
     // As in a menu, the row below the pointer is the one that a click would pick.
     connect(m_list, &QListView::entered, this, &PrinterPopup::highlight);
-    connect(m_footerButton, &QPushButton::clicked, this, [this] {
-        const std::function<void()> action = m_footer.action; // it may set another footer
-        if (action)
-            action();
-    });
 }
 
 void PrinterPopup::open(PrinterModel *printers, int chosenRow)
@@ -140,8 +129,7 @@ void PrinterPopup::setSearchText(const QString &text)
 
 void PrinterPopup::setFooter(const PrinterFooter &footer)
 {
-    m_footer = footer;
-    updateTexts();
+    m_footer->setFooter(footer);
     if (isVisible())
         place();
 }
@@ -154,20 +142,18 @@ void PrinterPopup::updateTexts()
     m_nothing->setText(all == 0 ? tr("No printer was found") : tr("No printer matches"));
     m_area->setCurrentWidget(found == 0 ? static_cast<QWidget *>(m_nothing) : m_list);
     const QLocale locale;
-    m_count->setText(m_search.isSearching()
-                         ? tr("%1 of %2 printers").arg(locale.toString(found), locale.toString(all))
-                         : tr("%1 printers").arg(locale.toString(all)));
-    m_count->setVisible(all > kManyPrinters);
-    m_footerText->setLine(plainLine(m_footer.text));
-    m_footerButton->setText(withoutMnemonic(plainLine(m_footer.buttonText)));
-    m_footerButton->setVisible(!m_footer.buttonText.isEmpty());
-    m_footerRow->setVisible(all > kManyPrinters || !m_footer.text.isEmpty());
+    if (all <= kManyPrinters)
+        return m_footer->setCount({});
+    m_footer->setCount(
+        m_search.isSearching()
+            ? tr("%1 of %2 printers").arg(locale.toString(found), locale.toString(all))
+            : tr("%1 printers").arg(locale.toString(all)));
 }
 
 int PrinterPopup::usefulWidth() const
 {
     const int widest = 40 * fontMetrics().height();
-    int width = m_footerRow->sizeHint().width();
+    int width = m_footer->sizeHint().width();
     // Texts are alike; the rest of a long list would only cost time.
     for (int row = 0; row < qMin(m_printers->rowCount(), kMeasuredRows) && width < widest; ++row)
         width = qMax(width, m_delegate->widthFor(displayName(m_printers->printer(row)),

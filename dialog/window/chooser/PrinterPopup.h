@@ -6,27 +6,18 @@
 #include <QPersistentModelIndex>
 #include <QString>
 
+#include "dialog/window/chooser/PrinterFooterRow.h"
 #include "dialog/window/chooser/PrinterSearch.h"
 
 class QLabel;
 class QLineEdit;
 class QListView;
-class QPushButton;
 class QStackedWidget;
 
 namespace corvana {
 
-class ElidedLabel;
 class PrinterModel;
 class PrinterRowDelegate;
-
-/// What stands below the list of printers, and what can be done about it.
-struct PrinterFooter
-{
-    QString text;
-    QString buttonText; ///< empty for no button
-    std::function<void()> action;
-};
 
 /// The open list of a PrinterComboBox: a search field with the focus above the printers.
 class PrinterPopup : public QFrame
@@ -55,6 +46,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void buildField();
+    void buildList();
     void build();
     bool handleKey(QKeyEvent *event);
     void moveHighlight(int key);
@@ -76,16 +69,12 @@ private:
     QPersistentModelIndex m_still;       // in m_printers, the row that must not move in the view
     int m_stillAt = 0;                   // where it stands; pixels from the view's top
     int m_rowsShown = 0;                 // how many rows the popup made room for
-    PrinterFooter m_footer;
 
     QLineEdit *m_field = nullptr;
     QStackedWidget *m_area = nullptr;
     QListView *m_list = nullptr;
     QLabel *m_nothing = nullptr;
-    QWidget *m_footerRow = nullptr;
-    ElidedLabel *m_footerText = nullptr;
-    QPushButton *m_footerButton = nullptr;
-    QLabel *m_count = nullptr;
+    PrinterFooterRow *m_footer = nullptr;
 };
 
 } // namespace corvana
