@@ -110,8 +110,12 @@ void PrintTask::open(const FetchedPrinter &ready)
     };
     m_opened =
         openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text, restore);
-    if (!m_opened)
-        return enter(Phase::Missing);
+    if (!m_opened) {
+        m_chosen.problem.brief = m_chosen.problem.text;
+        enter(Phase::Missing);
+        Q_EMIT printerChanged();
+        return;
+    }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
     m_chosen.problem = {};
     enter(Phase::Opened);

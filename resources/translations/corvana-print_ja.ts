@@ -1261,6 +1261,10 @@ For the command line: %2</source>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
+    <message>
+        <source>“%1” has nothing to show.</source>
+        <translation>「%1」には表示するものがありません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -1261,6 +1261,10 @@ For the command line: %2</source>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
+    <message>
+        <source>“%1” has nothing to show.</source>
+        <translation>“%1”没有可显示的内容。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -4,6 +4,8 @@
 #include <csignal>
 #include <stdexcept>
 
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -29,6 +31,8 @@ ProgramRun::ProgramRun(const QProcessEnvironment &environment, const QStringList
     m_process.setWorkingDirectory(environment.value(QStringLiteral("HOME")));
     m_process.setStandardInputFile(standardInput.isEmpty() ? QProcess::nullDevice()
                                                            : standardInput);
+    // In a session of its own, which no terminal controls, wherever the tests are run from.
+    m_process.setChildProcessModifier([] { ::setsid(); });
     m_process.start(QStringLiteral(CORVANA_TEST_PROGRAM),
                     QStringList{QStringLiteral("--no-dialog"), QStringLiteral("--bundle-root"),
                                 corvana::test::bundleRoot()} +

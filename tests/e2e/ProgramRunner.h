@@ -48,7 +48,8 @@ private:
     QByteArray m_err;
 };
 
-/// Runs corvana-print without a window, as a user with a home of its own who has set nothing.
+/// Runs corvana-print without a window and without a terminal, as a user with a home of its own who
+/// has set nothing.
 class ProgramRunner
 {
 public:

@@ -26,6 +26,29 @@ class QueueTroubleTest : public QueueRuns
     Q_OBJECT
 
 private Q_SLOTS:
+    // Who can be asked
+
+    void withoutATerminalNobodyIsAskedForAPassword_data()
+    {
+        QTest::addColumn<int>("operation");
+        QTest::newRow("for the printer") << int(IPP_OP_GET_PRINTER_ATTRIBUTES);
+        QTest::newRow("for the job") << int(IPP_OP_CREATE_JOB);
+    }
+    void withoutATerminalNobodyIsAskedForAPassword()
+    {
+        QFETCH(int, operation);
+        m_cups->addQueue(u"office"_s, kPpd);
+        FaultyServer between(m_cups->port());
+        between.askForPassword(u"lisa"_s, u"right"_s, operation);
+        const RunEnd end =
+            m_runner->run({u"--server"_s, between.server(), u"-d"_s, u"office"_s, kText});
+        QVERIFY2(end.status == 1, end.text().constData());
+        QVERIFY2(end.err.contains(u"wants a user and a password"_s) &&
+                     !end.err.contains(u"none was given"_s),
+                 end.text().constData());
+        QVERIFY(m_cups->jobs().isEmpty());
+    }
+
     // Instructions of the panels
 
     void instructionsHoldTheJobAndTheNamedCommandReleasesIt_data()

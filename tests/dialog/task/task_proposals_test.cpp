@@ -89,18 +89,18 @@ private Q_SLOTS:
         QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"OFF"_s);
     }
 
-    // Without the bundle its options are unknown, which is not what is wrong.
-    void aMissingBundleIsNamedBeforeTheOptionsThatItWouldKnow()
+    // Without the bundle its options are unknown; to name those would name the wrong cause.
+    void aMissingBundleIsNamedBeforeOptionsThatItMightKnow()
     {
         PrintRequest request =
             m_scene->request(QList{Printer{u"cl5"_s, u"CL"_s, samplePpdPath(), 5}});
         request.bundleRoots = {m_scene->filter.path(u"none"_s)};
-        request.options = parseOptions({u"QXRed=5"_s});
+        request.options = parseOptions({u"Sparkle=ON"_s});
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"none of the trusted folders"_s));
         m_scene->make(request).startUnattended();
         task().print();
         const QString problems = m_scene->face.problems().join(u' ');
-        QVERIFY2(problems.contains(u"trusted folders"_s) && !problems.contains(u"QXRed"_s),
+        QVERIFY2(problems.contains(u"trusted folders"_s) && !problems.contains(u"Sparkle"_s),
                  qPrintable(problems));
         QVERIFY(!task().canPrint());
     }
