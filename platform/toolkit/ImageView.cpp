@@ -1,14 +1,11 @@
 #include "platform/toolkit/ImageView.h"
 
-#include <algorithm>
-#include <memory>
-
-#include <poppler-qt6.h>
-
 #include <QImageReader>
 #include <QLabel>
 #include <QLoggingCategory>
 #include <QPixmap>
+
+#include "platform/toolkit/PdfPictures.h"
 
 namespace corvana {
 
@@ -18,27 +15,6 @@ namespace {
 
 constexpr char kImageName[] = "imageName";
 constexpr double kPointsPerInch = 72.0;
-constexpr double kMostPixels = 8000.0;
-
-QImage firstPage(const QString &file, double devicePixelRatio)
-{
-    const std::unique_ptr<Poppler::Document> document = Poppler::Document::load(file);
-    if (!document || document->isLocked() || document->numPages() < 1)
-        return {};
-    document->setRenderHint(Poppler::Document::Antialiasing);
-    document->setRenderHint(Poppler::Document::TextAntialiasing);
-    const std::unique_ptr<Poppler::Page> page = document->page(0);
-    if (!page)
-        return {};
-    const QSizeF size = page->pageSizeF(); // points; one of them is one pixel on an ordinary screen
-    const double largest = std::max(size.width(), size.height());
-    if (largest <= 0)
-        return {};
-    const double scale = std::min(devicePixelRatio, kMostPixels / largest);
-    QImage image = page->renderToImage(kPointsPerInch * scale, kPointsPerInch * scale);
-    image.setDevicePixelRatio(scale);
-    return image;
-}
 
 // Pictures for finer screens have a multiple of 72 pixels an inch; any other number is no statement
 // about screens.
@@ -56,7 +32,7 @@ QImage readPicture(const QString &file, double devicePixelRatio)
 {
     QImage image;
     if (file.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
-        image = firstPage(file, devicePixelRatio);
+        image = firstPageOfPdf(file, devicePixelRatio);
     } else {
         QImageReader reader(file);
         reader.setDecideFormatFromContent(true);
