@@ -18,56 +18,42 @@ namespace {
 // anything but English.
 struct Options
 {
-    QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
-                               QStringLiteral("Print to the printer NAME: a queue, an instance "
-                                              "NAME/INSTANCE, or an IPP printer ipp://HOST/PATH."),
-                               QStringLiteral("NAME")};
+    QCommandLineOption printer{{u"d"_s, u"printer"_s},
+                               u"Print to the printer NAME: a queue, an instance "
+                               "NAME/INSTANCE, or an IPP printer ipp://HOST/PATH."_s,
+                               u"NAME"_s};
     QCommandLineOption server{
-        QStringLiteral("server"),
-        QStringLiteral("Use the queues of the print server HOST instead of the usual one."),
-        QStringLiteral("HOST[:PORT]")};
-    QCommandLineOption ppd{QStringLiteral("ppd"),
-                           QStringLiteral("Print for the printer that the PPD FILE describes."),
-                           QStringLiteral("FILE")};
-    QCommandLineOption output{QStringLiteral("output"),
-                              QStringLiteral("Write the printer-ready data to FILE."),
-                              QStringLiteral("FILE")};
-    QCommandLineOption demo{QStringLiteral("demo"), QStringLiteral("Offer the sample printers.")};
-    QCommandLineOption listPrinters{QStringLiteral("list-printers"),
-                                    QStringLiteral("List the printers and exit.")};
-    QCommandLineOption option{
-        {QStringLiteral("o"), QStringLiteral("option")},
-        QStringLiteral("Set an option of the printer or of the job; may be repeated."),
-        QStringLiteral("KEY=VALUE")};
-    QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
-                              QStringLiteral("Print N copies (1 to %1).").arg(kMostCopies),
-                              QStringLiteral("N")};
-    QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("title")},
-                             QStringLiteral("Name the job TEXT."),
-                             QStringLiteral("TEXT")};
-    QCommandLineOption noDialog{QStringLiteral("no-dialog"),
-                                QStringLiteral("Print without a window.")};
-    QCommandLineOption summary{QStringLiteral("summary"),
-                               QStringLiteral("Write the settings of the job to standard output.")};
+        u"server"_s, u"Use the queues of the print server HOST instead of the usual one."_s,
+        u"HOST[:PORT]"_s};
+    QCommandLineOption ppd{u"ppd"_s, u"Print for the printer that the PPD FILE describes."_s,
+                           u"FILE"_s};
+    QCommandLineOption output{u"output"_s, u"Write the printer-ready data to FILE."_s, u"FILE"_s};
+    QCommandLineOption demo{u"demo"_s, u"Offer the sample printers."_s};
+    QCommandLineOption listPrinters{u"list-printers"_s, u"List the printers and exit."_s};
+    QCommandLineOption option{{u"o"_s, u"option"_s},
+                              u"Set an option of the printer or of the job; may be repeated."_s,
+                              u"KEY=VALUE"_s};
+    QCommandLineOption copies{
+        {u"n"_s, u"copies"_s}, u"Print N copies (1 to %1)."_s.arg(kMostCopies), u"N"_s};
+    QCommandLineOption title{{u"t"_s, u"title"_s}, u"Name the job TEXT."_s, u"TEXT"_s};
+    QCommandLineOption noDialog{u"no-dialog"_s, u"Print without a window."_s};
+    QCommandLineOption summary{u"summary"_s,
+                               u"Write the settings of the job to standard output."_s};
     QCommandLineOption onAlert{
-        QStringLiteral("on-alert"),
-        QStringLiteral("Without a window: what to do when the printer's settings "
-                       "show instructions: print, hold or refuse. Usually a queue holds the job, "
-                       "and a file is printed."),
-        QStringLiteral("POLICY")};
-    QCommandLineOption noWait{
-        QStringLiteral("no-wait"),
-        QStringLiteral("Without a window: end when the queue has the job, not when it is "
-                       "printed.")};
-    QCommandLineOption bundleRoot{
-        QStringLiteral("bundle-root"),
-        QStringLiteral("Also trust the plug-in bundles in the folder DIR."), QStringLiteral("DIR")};
+        u"on-alert"_s,
+        u"Without a window: what to do when the printer's settings "
+        "show instructions: print, hold or refuse. Usually a queue holds the job, "
+        "and a file is printed."_s,
+        u"POLICY"_s};
+    QCommandLineOption noWait{u"no-wait"_s,
+                              u"Without a window: end when the queue has the job, not when it is "
+                              "printed."_s};
+    QCommandLineOption bundleRoot{u"bundle-root"_s,
+                                  u"Also trust the plug-in bundles in the folder DIR."_s, u"DIR"_s};
     QCommandLineOption checkDisplay{
-        QStringLiteral("check-display"),
-        QStringLiteral("Exit with status 0 when a window can be shown, with 1 when not.")};
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
-                            QStringLiteral("Show this help.")};
-    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
+        u"check-display"_s, u"Exit with status 0 when a window can be shown, with 1 when not."_s};
+    QCommandLineOption help{{u"h"_s, u"help"_s}, u"Show this help."_s};
+    QCommandLineOption version{u"version"_s, u"Show the version."_s};
 
     void addTo(QCommandLineParser &parser) const
     {
@@ -80,9 +66,8 @@ struct Options
 ParsedCommandLine notUnderstood(const QString &what)
 {
     return {std::nullopt,
-            QStringLiteral("corvana-print: %1\n%2\n")
-                .arg(terminalText(what),
-                     QStringLiteral("\"corvana-print --help\" lists what can be said.")),
+            u"corvana-print: %1\n%2\n"_s.arg(terminalText(what),
+                                             u"\"corvana-print --help\" lists what can be said."_s),
             2};
 }
 
@@ -149,25 +134,21 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
 {
     const Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Prints a document with the settings of its printer, in a dialog or without one."));
+    parser.setApplicationDescription(
+        u"Prints a document with the settings of its printer, in a dialog or without one."_s);
     options.addTo(parser);
     parser.addPositionalArgument(
-        QStringLiteral("FILE"),
-        QStringLiteral(
-            "The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several "
-            "are one job."),
-        QStringLiteral("FILE..."));
+        u"FILE"_s,
+        u"The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several "
+        "are one job."_s,
+        u"FILE..."_s);
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
     if (parser.isSet(options.help))
-        return {std::nullopt,
-                parser.helpText().replace(QStringLiteral("<executable_name>"),
-                                          QStringLiteral("corvana-print")),
+        return {std::nullopt, parser.helpText().replace(u"<executable_name>"_s, u"corvana-print"_s),
                 0};
     if (parser.isSet(options.version))
-        return {std::nullopt,
-                QStringLiteral("corvana-print %1\n").arg(QLatin1StringView(CORVANA_VERSION)), 0};
+        return {std::nullopt, u"corvana-print %1\n"_s.arg(QLatin1StringView(CORVANA_VERSION)), 0};
 
     QString problem;
     const std::optional<CommandLine> line = readValues(parser, options, &problem);

@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char kLanguage[] = "LANGUAGE";
@@ -27,8 +29,7 @@ QString withoutEncoding(const QString &locale)
 bool asksForNoLanguage(const QString &locale)
 {
     const QString name = withoutEncoding(locale);
-    return name.isEmpty() || name == QLatin1StringView(kNoLanguage) ||
-           name == QLatin1StringView("POSIX");
+    return name.isEmpty() || name == QLatin1StringView(kNoLanguage) || name == "POSIX"_L1;
 }
 
 // Best first; none where the user wants the programs' own.
@@ -51,14 +52,14 @@ QStringList userLanguages(const QProcessEnvironment &environment)
 QString messagesLocale(const QString &localization, const QString &userLanguage)
 {
     const QString name = localization.contains(u'_') ? localization : QLocale(userLanguage).name();
-    return name + QStringLiteral(".UTF-8");
+    return name + u".UTF-8"_s;
 }
 
 } // namespace
 
 QStringList dialogLocalizations()
 {
-    return {QStringLiteral("English"), QStringLiteral("Japanese"), QStringLiteral("zh_CN")};
+    return {u"English"_s, u"Japanese"_s, u"zh_CN"_s};
 }
 
 Language languageOf(const QProcessEnvironment &environment)

@@ -11,6 +11,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -31,9 +33,9 @@ QString freeOutputName(const QString &title)
     const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
     const QDir folder = writable ? QDir::current() : QDir::home();
     const QString base = QFileInfo(title).completeBaseName();
-    QString name = folder.absoluteFilePath(base + QStringLiteral(".ps"));
+    QString name = folder.absoluteFilePath(base + u".ps"_s);
     for (int i = 2; QFileInfo::exists(name); ++i)
-        name = folder.absoluteFilePath(QStringLiteral("%1-%2.ps").arg(base).arg(i));
+        name = folder.absoluteFilePath(u"%1-%2.ps"_s.arg(base).arg(i));
     return name;
 }
 
@@ -41,8 +43,8 @@ QString freeOutputName(const QString &title)
 QString dialogHelpPage()
 {
     const QString localization = Bundle::preferredLocalizations(dialogLocalizations()).value(0);
-    const QFileInfo page(besideProgram(
-        QStringLiteral("../share/corvana-print/help/%1/index.html").arg(localization)));
+    const QFileInfo page(
+        besideProgram(u"../share/corvana-print/help/%1/index.html"_s.arg(localization)));
     return page.isFile() ? page.canonicalFilePath() : QString();
 }
 
@@ -65,23 +67,21 @@ QList<Printer> offeredPrinters(const CommandLine &line)
     if (!line.ppd.isEmpty())
         printers += printerOfPpd(line.ppd, &error);
     if (line.demo)
-        printers += samplePrinters(besideProgram(QStringLiteral("../share/corvana-print/ppd")));
+        printers += samplePrinters(besideProgram(u"../share/corvana-print/ppd"_s));
     return printers;
 }
 
 QStringList trustedBundleRoots(const CommandLine &line)
 {
-    return line.bundleRoots +
-           QStringList{besideProgram(QStringLiteral("../lib/corvana-print/plugins"))};
+    return line.bundleRoots + QStringList{besideProgram(u"../lib/corvana-print/plugins"_s)};
 }
 
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
     for (const QString &name : line.documents) {
-        const Document document = name == QLatin1StringView("-")
-                                      ? readStandardInput(&request.standardInput, error)
-                                      : inspectDocument(name, error);
+        const Document document = name == "-"_L1 ? readStandardInput(&request.standardInput, error)
+                                                 : inspectDocument(name, error);
         if (document.path.isEmpty())
             return std::nullopt;
         request.documents += document;

@@ -7,15 +7,17 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 void installTranslations(QCoreApplication &application, const QString &translations)
 {
     const auto install = [&application](const QString &name, const QString &folder) {
         auto *translator = new QTranslator(&application);
-        if (translator->load(QLocale(), name, QStringLiteral("_"), folder))
+        if (translator->load(QLocale(), name, u"_"_s, folder))
             QCoreApplication::installTranslator(translator);
     };
-    install(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(QStringLiteral("corvana-print"), translations);
+    install(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    install(u"corvana-print"_s, translations);
 }
 
 } // namespace corvana

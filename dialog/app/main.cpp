@@ -18,6 +18,7 @@
 #include "platform/toolkit/PlainText.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -72,14 +73,14 @@ void logForTerminals(bool unattended)
     others = qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
             if (!ignoresMissingRuntimeFolder ||
-                !text.startsWith(QLatin1StringView("QStandardPaths: XDG_RUNTIME_DIR not set")))
+                !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set"_L1))
                 others(type, context, terminalText(text));
         });
 }
 
 bool hasWindows()
 {
-    return QGuiApplication::platformName() != QLatin1StringView("offscreen");
+    return QGuiApplication::platformName() != "offscreen"_L1;
 }
 
 int runDialog(const PrintRequest &request)
@@ -117,11 +118,11 @@ int main(int argc, char **argv)
     logForTerminals(unattended);
     QApplication application(argc, argv);
     QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
-    QApplication::setApplicationName(QStringLiteral("corvana-print"));
+    QApplication::setApplicationName(u"corvana-print"_s);
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 
     installTranslations(application, QApplication::applicationDirPath() +
-                                         QStringLiteral("/../share/corvana-print/translations"));
+                                         u"/../share/corvana-print/translations"_s);
 
     if (line.checkDisplay)
         return hasWindows() ? 0 : 1;

@@ -13,28 +13,26 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kLongestChoice = 40;
 
 // What most printers take, for those that do not say, or only between which limits.
 constexpr QLatin1StringView kUsualSizes[] = {
-    QLatin1StringView("iso_a4_210x297mm"),       QLatin1StringView("na_letter_8.5x11in"),
-    QLatin1StringView("na_legal_8.5x14in"),      QLatin1StringView("na_executive_7.25x10.5in"),
-    QLatin1StringView("na_ledger_11x17in"),      QLatin1StringView("iso_a3_297x420mm"),
-    QLatin1StringView("iso_a5_148x210mm"),       QLatin1StringView("iso_a6_105x148mm"),
-    QLatin1StringView("jis_b4_257x364mm"),       QLatin1StringView("jis_b5_182x257mm"),
-    QLatin1StringView("jpn_hagaki_100x148mm"),   QLatin1StringView("na_index-4x6_4x6in"),
-    QLatin1StringView("na_index-3x5_3x5in"),     QLatin1StringView("na_number-10_4.125x9.5in"),
-    QLatin1StringView("iso_dl_110x220mm"),       QLatin1StringView("iso_c5_162x229mm"),
-    QLatin1StringView("na_monarch_3.875x7.5in"),
+    "iso_a4_210x297mm"_L1,         "na_letter_8.5x11in"_L1,       "na_legal_8.5x14in"_L1,
+    "na_executive_7.25x10.5in"_L1, "na_ledger_11x17in"_L1,        "iso_a3_297x420mm"_L1,
+    "iso_a5_148x210mm"_L1,         "iso_a6_105x148mm"_L1,         "jis_b4_257x364mm"_L1,
+    "jis_b5_182x257mm"_L1,         "jpn_hagaki_100x148mm"_L1,     "na_index-4x6_4x6in"_L1,
+    "na_index-3x5_3x5in"_L1,       "na_number-10_4.125x9.5in"_L1, "iso_dl_110x220mm"_L1,
+    "iso_c5_162x229mm"_L1,         "na_monarch_3.875x7.5in"_L1,
 };
 
 QLatin1StringView usualSizeHere()
 {
-    return QLocale().measurementSystem() == QLocale::ImperialUSSystem
-               ? QLatin1StringView("na_letter_8.5x11in")
-               : QLatin1StringView("iso_a4_210x297mm");
+    return QLocale().measurementSystem() == QLocale::ImperialUSSystem ? "na_letter_8.5x11in"_L1
+                                                                      : "iso_a4_210x297mm"_L1;
 }
 
 // Keywords of choices: each only once, without regard to case, as libcups looks them up.
@@ -156,7 +154,7 @@ qsizetype usualPaper(const PrinterCapabilities &printer, const QList<CapabilityC
 CapabilityText paperText(const MediaSize &size)
 {
     const QLatin1StringView attribute{"media"};
-    if (size.name.startsWith(QLatin1StringView("custom_"))) {
+    if (size.name.startsWith("custom_"_L1)) {
         for (const QLatin1StringView usual : kUsualSizes) {
             if (dimensionOfMedia(usual) == size.dimension)
                 return capabilityText(attribute, usual);
@@ -167,7 +165,7 @@ CapabilityText paperText(const MediaSize &size)
 
 CapabilityOption pageSize(const PrinterCapabilities &printer)
 {
-    CapabilityOption option{"PageSize", "media", optionTitle(QLatin1StringView("PageSize")), {}};
+    CapabilityOption option{"PageSize", "media", optionTitle("PageSize"_L1), {}};
     ChoiceKeywords keywords;
     const QList<MediaSize> sizes = papers(printer);
     const auto add = [&](const MediaSize &size, const MediaMargins &margins,
@@ -212,7 +210,7 @@ constexpr KnownChoice kColorModes[] = {
 
 CapabilityOption sides(const PrinterCapabilities &printer)
 {
-    CapabilityOption option{"Duplex", "sides", optionTitle(QLatin1StringView("Duplex")), {}};
+    CapabilityOption option{"Duplex", "sides", optionTitle("Duplex"_L1), {}};
     for (const KnownChoice &known : kSides) {
         const QString value = QString::fromLatin1(known.value);
         const bool listed = printer.sides.isEmpty() || printer.sides.contains(value);
@@ -221,29 +219,25 @@ CapabilityOption sides(const PrinterCapabilities &printer)
             continue;
         if (value == printer.defaultSides)
             option.usual = option.choices.size();
-        option.choices +=
-            CapabilityChoice{known.keyword, capabilityText(QLatin1StringView("sides"), value),
-                             listed ? value : QString(), known.code};
+        option.choices += CapabilityChoice{known.keyword, capabilityText("sides"_L1, value),
+                                           listed ? value : QString(), known.code};
     }
     return option;
 }
 
 CapabilityOption colorMode(const PrinterCapabilities &printer)
 {
-    CapabilityOption option{
-        "ColorModel", "print-color-mode", optionTitle(QLatin1StringView("ColorModel")), {}};
+    CapabilityOption option{"ColorModel", "print-color-mode", optionTitle("ColorModel"_L1), {}};
     const bool unknown = printer.colorModes.isEmpty();
     for (const KnownChoice &known : kColorModes) {
         const QString value = QString::fromLatin1(known.value);
-        const bool usual =
-            value == QLatin1StringView("color") || value == QLatin1StringView("monochrome");
+        const bool usual = value == "color"_L1 || value == "monochrome"_L1;
         if (!printer.colorModes.contains(value) && !(unknown && usual))
             continue;
         if (value == printer.defaultColorMode)
             option.usual = option.choices.size();
         option.choices += CapabilityChoice{
-            known.keyword, capabilityText(QLatin1StringView("print-color-mode"), value), value,
-            known.code};
+            known.keyword, capabilityText("print-color-mode"_L1, value), value, known.code};
     }
     return option;
 }
@@ -267,10 +261,8 @@ QByteArray resolutionName(QSize resolution)
 CapabilityOption quality(const PrinterCapabilities &printer)
 {
     constexpr const char *kKeywords[] = {"Draft", "Normal", "High"};
-    CapabilityOption option{"cupsPrintQuality",
-                            "print-quality",
-                            optionTitle(QLatin1StringView("cupsPrintQuality")),
-                            {}};
+    CapabilityOption option{
+        "cupsPrintQuality", "print-quality", optionTitle("cupsPrintQuality"_L1), {}};
     QList<QSize> resolutions = printer.resolutions;
     std::sort(resolutions.begin(), resolutions.end(), [](QSize a, QSize b) {
         return std::pair(a.width(), a.height()) < std::pair(b.width(), b.height());
@@ -290,10 +282,10 @@ CapabilityOption quality(const PrinterCapabilities &printer)
             resolution = lowest;
         else if (value == IPP_QUALITY_HIGH)
             resolution = highest;
-        option.choices += CapabilityChoice{
-            kKeywords[value - IPP_QUALITY_DRAFT],
-            capabilityText(QLatin1StringView("print-quality"), QString::number(value)),
-            QString::number(value), resolutionCode(resolution)};
+        option.choices +=
+            CapabilityChoice{kKeywords[value - IPP_QUALITY_DRAFT],
+                             capabilityText("print-quality"_L1, QString::number(value)),
+                             QString::number(value), resolutionCode(resolution)};
     }
     return option;
 }
@@ -301,14 +293,13 @@ CapabilityOption quality(const PrinterCapabilities &printer)
 // For printers whose qualities are not known: what "quality" would set is chosen as such.
 CapabilityOption resolution(const PrinterCapabilities &printer)
 {
-    CapabilityOption option{
-        "Resolution", "printer-resolution", optionTitle(QLatin1StringView("Resolution")), {}};
+    CapabilityOption option{"Resolution", "printer-resolution", optionTitle("Resolution"_L1), {}};
     ChoiceKeywords keywords;
     for (const QSize value : printer.resolutions) {
         if (value == printer.defaultResolution)
             option.usual = option.choices.size();
-        const QString text = QString::fromLatin1(resolutionName(value))
-                                 .replace(QStringLiteral("dpi"), QStringLiteral(" dpi"));
+        const QString text =
+            QString::fromLatin1(resolutionName(value)).replace(u"dpi"_s, u" dpi"_s);
         option.choices += CapabilityChoice{keywords.unique(resolutionName(value)),
                                            {text, text, text},
                                            QString::fromLatin1(resolutionName(value)),
@@ -326,9 +317,8 @@ CapabilityOption named(const char *keyword, QLatin1StringView attribute, const Q
         keyword, attribute.toString().toLatin1(), optionTitle(QLatin1StringView(keyword)), {}};
     ChoiceKeywords keywords;
     if (usual.isEmpty() && values.size() > 1)
-        option.choices += CapabilityChoice{keywords.of(QStringLiteral("printer-default")),
-                                           optionTitle(QLatin1StringView("PrinterDefault")),
-                                           {}};
+        option.choices += CapabilityChoice{
+            keywords.of(u"printer-default"_s), optionTitle("PrinterDefault"_L1), {}};
     for (const QString &value : values) {
         if (value == usual)
             option.usual = option.choices.size();
@@ -345,11 +335,11 @@ CapabilityOption finishing(const char *keyword, QLatin1StringView name,
     const QLatin1StringView attribute{"finishings"};
     CapabilityOption option{keyword, "finishings", optionTitle(QLatin1StringView(keyword)), {}};
     ChoiceKeywords keywords;
-    const QString none = QStringLiteral("none");
+    const QString none = u"none"_s;
     option.choices += CapabilityChoice{keywords.of(none), capabilityText(attribute, none), {}};
     for (const int value : printer.finishings) {
         const QString finishing = QString::fromUtf8(ippEnumString("finishings", value));
-        if (finishing != name && !finishing.startsWith(name + QLatin1StringView("-")))
+        if (finishing != name && !finishing.startsWith(name + "-"_L1))
             continue;
         option.choices += CapabilityChoice{
             keywords.of(finishing), capabilityText(attribute, finishing), QString::number(value)};
@@ -366,17 +356,14 @@ QList<CapabilityOption> capabilityOptions(const PrinterCapabilities &printer)
         sides(printer),
         colorMode(printer),
         quality(printer),
-        named("MediaType", QLatin1StringView("media-type"), printer.mediaTypes,
-              printer.defaultMediaType),
-        named("InputSlot", QLatin1StringView("media-source"), printer.mediaSources,
-              printer.defaultMediaSource),
-        named("OutputBin", QLatin1StringView("output-bin"), printer.outputBins,
-              printer.defaultOutputBin),
-        finishing("StapleLocation", QLatin1StringView("staple"), printer),
-        finishing("PunchMedia", QLatin1StringView("punch"), printer),
-        finishing("FoldType", QLatin1StringView("fold"), printer),
+        named("MediaType", "media-type"_L1, printer.mediaTypes, printer.defaultMediaType),
+        named("InputSlot", "media-source"_L1, printer.mediaSources, printer.defaultMediaSource),
+        named("OutputBin", "output-bin"_L1, printer.outputBins, printer.defaultOutputBin),
+        finishing("StapleLocation", "staple"_L1, printer),
+        finishing("PunchMedia", "punch"_L1, printer),
+        finishing("FoldType", "fold"_L1, printer),
         // Its default may be two pages, one in front and one behind: left alone, it stays that.
-        named("JobSheets", QLatin1StringView("job-sheets"), printer.jobSheets, {}),
+        named("JobSheets", "job-sheets"_L1, printer.jobSheets, {}),
     };
     const bool choosesQuality = options.at(3).choices.size() > 1;
     if (!choosesQuality)

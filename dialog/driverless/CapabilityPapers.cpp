@@ -14,6 +14,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 using namespace attribute;
 
 namespace {
@@ -145,8 +147,7 @@ struct CustomLimits
 
     void read(const QString &name)
     {
-        const bool smallest = name.startsWith(QLatin1StringView("custom_min_")) ||
-                              name.startsWith(QLatin1StringView("roll_min_"));
+        const bool smallest = name.startsWith("custom_min_"_L1) || name.startsWith("roll_min_"_L1);
         (smallest ? minimum : maximum) = dimensionOfMedia(name);
     }
     std::optional<MediaSizeRange> range() const
@@ -159,10 +160,8 @@ struct CustomLimits
 
 bool isLimit(const QString &name)
 {
-    return name.startsWith(QLatin1StringView("custom_min_")) ||
-           name.startsWith(QLatin1StringView("custom_max_")) ||
-           name.startsWith(QLatin1StringView("roll_min_")) ||
-           name.startsWith(QLatin1StringView("roll_max_"));
+    return name.startsWith("custom_min_"_L1) || name.startsWith("custom_max_"_L1) ||
+           name.startsWith("roll_min_"_L1) || name.startsWith("roll_max_"_L1);
 }
 
 void readSizes(ipp_t *attributes, PrinterCapabilities &printer)

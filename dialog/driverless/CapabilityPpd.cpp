@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What libcups keeps of texts; it would cut within a character. Units: bytes.
@@ -28,7 +30,7 @@ QByteArray cut(const QString &text, qsizetype bytes)
 // A text that stands between a slash and a colon, where "<" begins hexadecimal digits.
 QByteArray optionText(QString text)
 {
-    text.replace(QStringLiteral(": "), QStringLiteral(" - ")).replace(u':', u'-');
+    text.replace(u": "_s, u" - "_s).replace(u':', u'-');
     text.replace(u'<', u'(').replace(u'>', u')').replace(u'"', u'\'');
     return cut(text, kLongestText);
 }
@@ -63,12 +65,11 @@ QString plainName(const QString &name)
 {
     QString plain;
     for (const QChar c : name) {
-        const bool allowed =
-            c.unicode() < 0x80 && (c.isLetterOrNumber() || QLatin1StringView(" ./-+").contains(c));
+        const bool allowed = c.unicode() < 0x80 && (c.isLetterOrNumber() || " ./-+"_L1.contains(c));
         plain += allowed ? c : QChar(u' ');
     }
     plain = plain.simplified();
-    return plain.isEmpty() ? QStringLiteral("Printer") : plain;
+    return plain.isEmpty() ? u"Printer"_s : plain;
 }
 
 QByteArray points(int hundredthsOfMillimetre)
@@ -164,11 +165,11 @@ void writeFilter(Writer &ppd, const PrinterCapabilities &printer)
 {
     QByteArray filter = "\"application/vnd.cups-postscript application/postscript 0 -\"";
     bool manualCopies = true;
-    if (takes(printer, QLatin1StringView("application/pdf")))
+    if (takes(printer, "application/pdf"_L1))
         filter = "\"application/vnd.cups-pdf application/pdf 0 -\"";
-    else if (takes(printer, QLatin1StringView("image/pwg-raster")))
+    else if (takes(printer, "image/pwg-raster"_L1))
         filter = "\"image/pwg-raster image/pwg-raster 0 -\"";
-    else if (takes(printer, QLatin1StringView("image/urf")))
+    else if (takes(printer, "image/urf"_L1))
         filter = "\"image/urf image/urf 0 -\"";
     else
         manualCopies = false;
@@ -179,12 +180,11 @@ void writeFilter(Writer &ppd, const PrinterCapabilities &printer)
 void writeHeader(Writer &ppd, const PrinterCapabilities &printer)
 {
     const QString name =
-        printer.makeAndModel.isEmpty() ? QStringLiteral("Generic Printer") : printer.makeAndModel;
+        printer.makeAndModel.isEmpty() ? u"Generic Printer"_s : printer.makeAndModel;
     const QString model = plainName(name);
     const QString nickname = ascii(name).isEmpty() ? model : ascii(name);
-    const bool color = printer.colorModes.isEmpty() ||
-                       printer.colorModes.contains(QLatin1StringView("color")) ||
-                       printer.colorModes.contains(QLatin1StringView("auto"));
+    const bool color = printer.colorModes.isEmpty() || printer.colorModes.contains("color"_L1) ||
+                       printer.colorModes.contains("auto"_L1);
     ppd.line("*PCFileName: \"PRINTER.PPD\"");
     ppd.line("*Manufacturer: \"Generic\"");
     ppd.line("*Product: \"(" + cut(model, kLongestNickname) + ")\"");

@@ -6,6 +6,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Row
@@ -187,7 +189,7 @@ CapabilityText textOf(const Row &row)
 // "letter-head" is a keyword, "Letter Head" and "Büttenpapier" are names.
 QString nameOf(const QString &keyword)
 {
-    static const QRegularExpression form(QStringLiteral("^[a-z0-9._-]+\\z"));
+    static const QRegularExpression form(u"^[a-z0-9._-]+\\z"_s);
     if (!form.match(keyword).hasMatch())
         return keyword;
     QStringList words = QString(keyword).replace(u'_', u'-').split(u'-', Qt::SkipEmptyParts);
@@ -200,40 +202,38 @@ QString nameOf(const QString &keyword)
 // neither does a name that only repeats the size.
 QString nameOfMedia(const QString &keyword)
 {
-    static const QRegularExpression form(
-        QStringLiteral("^[a-z]+_(.+)_([0-9.]+)x([0-9.]+)(mm|in)\\z"));
+    static const QRegularExpression form(u"^[a-z]+_(.+)_([0-9.]+)x([0-9.]+)(mm|in)\\z"_s);
     const QRegularExpressionMatch match = form.match(keyword);
     if (!match.hasMatch())
         return nameOf(keyword);
     const QString size =
-        QStringLiteral("%1 x %2 %3").arg(match.captured(2), match.captured(3), match.captured(4));
-    static const QRegularExpression onlySize(QStringLiteral("^[0-9.]+x[0-9.]+(mm|in)?\\z"));
+        u"%1 x %2 %3"_s.arg(match.captured(2), match.captured(3), match.captured(4));
+    static const QRegularExpression onlySize(u"^[0-9.]+x[0-9.]+(mm|in)?\\z"_s);
     const QString name = match.captured(1);
     if (onlySize.match(name).hasMatch())
         return size;
-    return QStringLiteral("%1 (%2)").arg(nameOf(name), size);
+    return u"%1 (%2)"_s.arg(nameOf(name), size);
 }
 
 } // namespace
 
 CapabilityText capabilityText(QLatin1StringView attribute, const QString &keyword)
 {
-    const QString prefix = attribute + QLatin1StringView(" ");
+    const QString prefix = attribute + " "_L1;
     if (const Row *row = rowOf(prefix + keyword))
         return textOf(*row);
-    static const QRegularExpression numbered(QStringLiteral("^([a-z-]+-)([0-9]{1,4})\\z"));
+    static const QRegularExpression numbered(u"^([a-z-]+-)([0-9]{1,4})\\z"_s);
     if (const QRegularExpressionMatch match = numbered.match(keyword); match.hasMatch()) {
-        if (const Row *row = rowOf(prefix + match.captured(1) + QStringLiteral("%1")))
+        if (const Row *row = rowOf(prefix + match.captured(1) + u"%1"_s))
             return withArgument(textOf(*row), match.captured(2));
     }
-    const QString name =
-        attribute == QLatin1StringView("media") ? nameOfMedia(keyword) : nameOf(keyword);
+    const QString name = attribute == "media"_L1 ? nameOfMedia(keyword) : nameOf(keyword);
     return {name, name, name};
 }
 
 CapabilityText optionTitle(QLatin1StringView option)
 {
-    return capabilityText(QLatin1StringView("title"), option);
+    return capabilityText("title"_L1, option);
 }
 
 CapabilityText withArgument(const CapabilityText &form, const QString &argument)
@@ -243,7 +243,7 @@ CapabilityText withArgument(const CapabilityText &form, const QString &argument)
 
 CapabilityText borderless(const CapabilityText &paper)
 {
-    const CapabilityText form = optionTitle(QLatin1StringView("borderless"));
+    const CapabilityText form = optionTitle("borderless"_L1);
     return {form.english.arg(paper.english), form.japanese.arg(paper.japanese),
             form.chinese.arg(paper.chinese)};
 }

@@ -8,6 +8,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 using namespace attribute;
 
 const char *const kCapabilityAttributes[] = {
@@ -60,15 +62,15 @@ void readMediaDetails(ipp_t *attributes, PrinterCapabilities &printer)
     if (find(attributes, "printer-type"))
         return;
     const QStringList members = keywordsOf(attributes, "media-col-supported");
-    printer.mediaDetails = members.contains(QLatin1StringView("media-size"));
+    printer.mediaDetails = members.contains("media-size"_L1);
     if (!printer.mediaDetails)
         return;
     ipp_t *usual = collectionAt(find(attributes, "media-col-default"), 0);
-    if (members.contains(QLatin1StringView("media-type"))) {
+    if (members.contains("media-type"_L1)) {
         printer.mediaTypes = keywordsOf(attributes, "media-type-supported");
         printer.defaultMediaType = listed(printer.mediaTypes, keywordsOf(usual, "media-type"));
     }
-    if (members.contains(QLatin1StringView("media-source"))) {
+    if (members.contains("media-source"_L1)) {
         printer.mediaSources = keywordsOf(attributes, "media-source-supported");
         printer.defaultMediaSource =
             listed(printer.mediaSources, keywordsOf(usual, "media-source"));
@@ -121,8 +123,7 @@ PrinterCapabilities capabilitiesOf(ipp_t *attributes)
     printer.rasterTypes = keywordsOf(attributes, "pwg-raster-document-type-supported");
     printer.maximumCopies = maximumCopies(attributes);
     printer.jobAttributes = keywordsOf(attributes, "job-creation-attributes-supported");
-    if (printer.jobAttributes.isEmpty() ||
-        printer.jobAttributes.contains(QLatin1StringView("job-sheets")))
+    if (printer.jobAttributes.isEmpty() || printer.jobAttributes.contains("job-sheets"_L1))
         printer.jobSheets = keywordsOf(attributes, "job-sheets-supported");
     return printer;
 }

@@ -12,6 +12,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Format
@@ -20,12 +22,11 @@ struct Format
     const char *name;
 };
 constexpr Format kFormats[] = {
-    {QLatin1StringView("application/pdf"), QT_TRANSLATE_NOOP("Document", "PDF document")},
-    {QLatin1StringView("application/postscript"),
-     QT_TRANSLATE_NOOP("Document", "PostScript document")},
-    {QLatin1StringView("image/png"), QT_TRANSLATE_NOOP("Document", "PNG picture")},
-    {QLatin1StringView("image/jpeg"), QT_TRANSLATE_NOOP("Document", "JPEG picture")},
-    {QLatin1StringView("text/plain"), QT_TRANSLATE_NOOP("Document", "text")},
+    {"application/pdf"_L1, QT_TRANSLATE_NOOP("Document", "PDF document")},
+    {"application/postscript"_L1, QT_TRANSLATE_NOOP("Document", "PostScript document")},
+    {"image/png"_L1, QT_TRANSLATE_NOOP("Document", "PNG picture")},
+    {"image/jpeg"_L1, QT_TRANSLATE_NOOP("Document", "JPEG picture")},
+    {"text/plain"_L1, QT_TRANSLATE_NOOP("Document", "text")},
 };
 
 struct Texts

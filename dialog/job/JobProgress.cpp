@@ -6,6 +6,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -40,7 +42,7 @@ QString jobName(const Printer &printer, int job)
 {
     if (printer.origin == PrinterOrigin::Device)
         return QString::number(job);
-    return QStringLiteral("%1-%2").arg(queueOfInstance(printer.name), QString::number(job));
+    return u"%1-%2"_s.arg(queueOfInstance(printer.name), QString::number(job));
 }
 
 } // namespace corvana

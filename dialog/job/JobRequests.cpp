@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // IPP's limit for names and keywords, which CUPS applies to options of printers. Units: bytes.
@@ -85,7 +87,7 @@ QString unsendableOption(const JobTicket &ticket)
         const bool fits = option.name.toUtf8().size() <= kLongestValue &&
                           option.value.toUtf8().size() <= kLongestValue;
         // The only value in braces that is sent as a collection, not as a text.
-        const bool isCollection = option.name == QLatin1StringView("media-col");
+        const bool isCollection = option.name == "media-col"_L1;
         const bool clean = !hasControlCharacter(option.name + option.value) &&
                            (isCollection || !option.value.startsWith(u'{'));
         if (!fits)
@@ -105,7 +107,7 @@ QString unsendableOption(const JobTicket &ticket)
 
 QString newJobToken()
 {
-    return QStringLiteral("urn:uuid:") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    return u"urn:uuid:"_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 std::optional<int> createJob(ServerConnection &connection, const Printer &printer,
@@ -118,15 +120,15 @@ std::optional<int> createJob(ServerConnection &connection, const Printer &printe
     Options options;
     for (const JobOption &option : ticket.options)
         options.add(option.name, option.value);
-    options.add(QStringLiteral("copies"), QString::number(ticket.copies));
+    options.add(u"copies"_s, QString::number(ticket.copies));
     options.encode(request.get(), IPP_TAG_OPERATION);
     if (forDevice) {
         // In the order in which the device wants them.
         QList<QByteArray> values;
         for (const QString &wanted : printer.authInfo) {
-            if (wanted == QLatin1StringView("username"))
+            if (wanted == "username"_L1)
                 values += forDevice->user.toUtf8();
-            else if (wanted == QLatin1StringView("password"))
+            else if (wanted == "password"_L1)
                 values += forDevice->password.toUtf8();
             else
                 values += QByteArray();
@@ -167,7 +169,7 @@ std::optional<int> findJob(ServerConnection &connection, const Printer &printer,
         if (name.isEmpty()) {
             job = 0;
             isOurs = false;
-        } else if (name == QLatin1StringView("job-id")) {
+        } else if (name == "job-id"_L1) {
             job = ippNumber(attribute);
         } else if (name == QLatin1StringView(kTokenAttribute)) {
             isOurs = ippText(attribute) == token;
@@ -218,7 +220,7 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     status.message = ippText(find("job-printer-state-message"));
     if (status.message.isEmpty())
         status.message = ippText(find("job-state-message"));
-    status.printerStopped = status.reasons.contains(QLatin1StringView("printer-stopped"));
+    status.printerStopped = status.reasons.contains("printer-stopped"_L1);
     if (status.state == IPP_JSTATE_PENDING)
         noteStoppedPrinter(connection, printer, &status);
     return status;

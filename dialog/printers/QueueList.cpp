@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -53,8 +55,7 @@ QList<Printer> withInstances(const QList<Printer> &queues, const UserQueues &use
         for (const QString &name : instances) {
             Printer instance = queue;
             instance.name = name;
-            instance.description =
-                QStringLiteral("%1/%2").arg(queue.description, name.section(u'/', 1));
+            instance.description = u"%1/%2"_s.arg(queue.description, name.section(u'/', 1));
             all += instance;
         }
     }

@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcQueues, "corvana.dialog.queues", QtWarningMsg)
 
 Printer printerOfPpd(const QString &ppdPath, QString *error)
@@ -29,8 +31,7 @@ Printer printerOfPpd(const QString &ppdPath, QString *error)
 QList<Printer> samplePrinters(const QString &folder)
 {
     QList<Printer> printers;
-    const QFileInfoList files =
-        QDir(folder).entryInfoList({QStringLiteral("*.ppd")}, QDir::Files, QDir::Name);
+    const QFileInfoList files = QDir(folder).entryInfoList({u"*.ppd"_s}, QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
         QString error;
         const Printer printer = printerOfPpd(file.absoluteFilePath(), &error);

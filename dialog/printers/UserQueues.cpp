@@ -11,6 +11,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Of a queue that was named before, as it was then.
@@ -26,8 +28,8 @@ void readLine(const QString &line, UserQueues *queues)
 {
     const QString keyword = line.section(u' ', 0, 0, QString::SectionSkipEmpty).toLower();
     const QString rest = line.section(u' ', 1, -1, QString::SectionSkipEmpty).trimmed();
-    const bool isDefault = keyword == QLatin1StringView("default");
-    if ((!isDefault && keyword != QLatin1StringView("dest")) || rest.isEmpty())
+    const bool isDefault = keyword == "default"_L1;
+    if ((!isDefault && keyword != "dest"_L1) || rest.isEmpty())
         return;
     const QString name = rest.section(u' ', 0, 0);
     if (isDefault)
@@ -76,12 +78,12 @@ UserQueues readUserQueues(const QStringList &files)
 
 UserQueues readUserQueues()
 {
-    const QString root = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
-    UserQueues queues = readUserQueues({root + QStringLiteral("/lpoptions"),
-                                        QDir::homePath() + QStringLiteral("/.cups/lpoptions")});
+    const QString root = qEnvironmentVariable("CUPS_SERVERROOT", u"/etc/cups"_s);
+    UserQueues queues =
+        readUserQueues({root + u"/lpoptions"_s, QDir::homePath() + u"/.cups/lpoptions"_s});
     const QString printer = qEnvironmentVariable("PRINTER");
     // "lp" is what old programs set without anybody having chosen it.
-    if (!printer.isEmpty() && printer != QLatin1StringView("lp"))
+    if (!printer.isEmpty() && printer != "lp"_L1)
         queues.defaultName = printer;
     const QString destination = qEnvironmentVariable("LPDEST");
     if (!destination.isEmpty())

@@ -21,6 +21,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_LOGGING_CATEGORY(lcServer)
 
 namespace {
@@ -110,8 +112,7 @@ Remembered rememberedByLibcups(const ServerAddress &server, const QString &other
         return {};
     QString folder = otherFolder;
     if (folder.isEmpty())
-        folder = isRoot ? QStringLiteral("/etc/cups/ssl")
-                        : QFile::decodeName(qgetenv("HOME")) + QStringLiteral("/.cups/ssl");
+        folder = isRoot ? u"/etc/cups/ssl"_s : QFile::decodeName(qgetenv("HOME")) + u"/.cups/ssl"_s;
     const QByteArray host = server.host.toUtf8();
     cups_array_t *loaded = nullptr;
     if (httpLoadCredentials(QFile::encodeName(folder).constData(), &loaded, host.constData()) != 0)
@@ -123,7 +124,7 @@ Remembered rememberedByLibcups(const ServerAddress &server, const QString &other
         const bool stays = QChar(letter).unicode() < 128 && QChar(letter).isLetterOrNumber();
         name += stays || byte == '-' || byte == '.' ? QChar(letter) : QChar(u'_');
     }
-    return {CertificateList(loaded), QStringLiteral("%1/%2.crt").arg(folder, name)};
+    return {CertificateList(loaded), u"%1/%2.crt"_s.arg(folder, name)};
 }
 
 // Whether an authority says that these certificates are those of the host.

@@ -15,6 +15,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_LOGGING_CATEGORY(lcServer)
 
 namespace {
@@ -94,7 +96,7 @@ std::optional<QByteArray> keyIn(const Lines &lines, const QString &server)
 
 KnownServers::KnownServers()
     : m_path(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-             QStringLiteral("/corvana-print/known-servers"))
+             u"/corvana-print/known-servers"_s)
 {
 }
 
@@ -113,7 +115,7 @@ KnownServers::Outcome KnownServers::remember(const QString &server,
     static std::mutex ownConnections;
     const std::scoped_lock ownLock(ownConnections);
     QDir().mkpath(QFileInfo(m_path).path());
-    QLockFile lock(m_path + QStringLiteral(".lock"));
+    QLockFile lock(m_path + u".lock"_s);
     lock.setStaleLockTime(kAbandonedLock);
     if (!lock.tryLock(kLockPatience)) {
         qCWarning(lcServer).noquote() << m_path << "cannot be locked";

@@ -5,6 +5,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kUsualPort = 631;
 constexpr int kHighestPort = 65535;
@@ -35,8 +37,8 @@ bool ServerAddress::isLocal() const
 {
     // A name may begin with the same digits, and lead anywhere.
     static const QRegularExpression loopback(QStringLiteral(R"(^127(?:\.[0-9]{1,3}){3}\z)"));
-    return host.startsWith(u'/') || host == QLatin1StringView("localhost") ||
-           host == QLatin1StringView("::1") || loopback.match(host).hasMatch();
+    return host.startsWith(u'/') || host == "localhost"_L1 || host == "::1"_L1 ||
+           loopback.match(host).hasMatch();
 }
 
 QString ServerAddress::text() const
@@ -50,9 +52,7 @@ QString ServerAddress::argument() const
 {
     if (host.startsWith(u'/'))
         return host;
-    return (host.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
-        .arg(host)
-        .arg(port);
+    return (host.contains(u':') ? u"[%1]:%2"_s : u"%1:%2"_s).arg(host).arg(port);
 }
 
 } // namespace corvana

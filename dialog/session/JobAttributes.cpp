@@ -321,7 +321,7 @@ JobOption inOneSpelling(const JobOption &option)
         return {u"orientation-requested"_s, u"4"_s};
     if (is("landscape", "false"))
         return {u"orientation-requested"_s, u"3"_s};
-    if (option.name == QLatin1StringView("fitplot"))
+    if (option.name == "fitplot"_L1)
         return {u"fit-to-page"_s, option.value};
     return option;
 }

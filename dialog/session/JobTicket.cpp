@@ -11,6 +11,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcTicket, "corvana.dialog.ticket", QtWarningMsg)
 
 namespace {
@@ -41,12 +43,11 @@ QRegularExpression quotedInAnyWay(const QString &secret)
     const auto characters = secret.toUcs4();
     for (const char32_t character : characters) {
         if (character == U'\\')
-            pattern += QStringLiteral("\\\\+");
+            pattern += u"\\\\+"_s;
         else if (character == U'\'')
             pattern += QStringLiteral(R"((?:'\\+''|'"'"'|\\*'))");
         else
-            pattern += QStringLiteral("\\\\*") +
-                       QRegularExpression::escape(QString::fromUcs4(&character, 1));
+            pattern += u"\\\\*"_s + QRegularExpression::escape(QString::fromUcs4(&character, 1));
     }
     return QRegularExpression(pattern);
 }

@@ -17,6 +17,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -28,7 +30,7 @@ struct Texts
 QString said(ppd_file_t *ppd, const QString &name, const QString &value)
 {
     const bool secret = isSecret(ppd, name) && !ppdChoice(ppdOption(ppd, name), value);
-    return QStringLiteral("%1=%2").arg(name, secret ? QString(kHiddenLength, u'•') : value);
+    return u"%1=%2"_s.arg(name, secret ? QString(kHiddenLength, u'•') : value);
 }
 
 QString asked(const JobOption &option, ppd_file_t *ppd)
@@ -51,7 +53,7 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
     const QString custom = allowedCustomValues(ppd, ppdKeyword(option->keyword));
     if (!custom.isEmpty())
         allowed += custom;
-    return allowed.join(QStringLiteral(", "));
+    return allowed.join(u", "_s);
 }
 
 // Names of lp's for what the printer, or the dialog, has another one.
@@ -99,7 +101,7 @@ public:
 private:
     void refuse(const JobOption &option, const QString &why)
     {
-        problems += QStringLiteral("%1: %2").arg(asked(option, m_session.ppd()), why);
+        problems += u"%1: %2"_s.arg(asked(option, m_session.ppd()), why);
     }
 
     void refuseValue(const JobOption &option, const QString &allowed)
@@ -112,12 +114,12 @@ private:
         QStringList names;
         for (const ppd_option_t *option : m_session.options())
             names += ppdKeyword(option->keyword);
-        return names.join(QStringLiteral(", "));
+        return names.join(u", "_s);
     }
 
     static QString attributeNames()
     {
-        return (translatedOptions() + jobAttributeNames()).join(QStringLiteral(", "));
+        return (translatedOptions() + jobAttributeNames()).join(u", "_s);
     }
 
     void addMedia(const JobOption &option)
@@ -141,9 +143,9 @@ private:
             QLatin1StringView duplex; // empty: the one-sided choice, which is the default
         };
         static constexpr Side kSides[] = {
-            {QLatin1StringView("one-sided"), QLatin1StringView()},
-            {QLatin1StringView("two-sided-long-edge"), kDuplexLongEdge},
-            {QLatin1StringView("two-sided-short-edge"), kDuplexShortEdge},
+            {"one-sided"_L1, QLatin1StringView()},
+            {"two-sided-long-edge"_L1, kDuplexLongEdge},
+            {"two-sided-short-edge"_L1, kDuplexShortEdge},
         };
         const QString keyword = kDuplexOption;
         ppd_option_t *duplex = ppdOption(m_session.ppd(), keyword);
@@ -162,7 +164,7 @@ private:
                 choices += OptionChoice{keyword, choice};
             return;
         }
-        refuseValue(option, allowed.join(QStringLiteral(", ")));
+        refuseValue(option, allowed.join(u", "_s));
     }
 
     void addCopies(const JobOption &option)
@@ -262,7 +264,7 @@ QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd)
     for (const OptionChoice &other : refusal.conflicting)
         others += named(other, ppd);
     return Texts::tr("%1: this cannot be combined with %2.")
-        .arg(named(refusal.proposed, ppd), others.join(QStringLiteral(", ")));
+        .arg(named(refusal.proposed, ppd), others.join(u", "_s));
 }
 
 QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
@@ -284,17 +286,17 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
 bool isKnownOption(const QString &name, const PpdSession &session)
 {
     return ppdOption(session.ppd(), name) || translatedOptions().contains(name) ||
-           jobAttribute(inOneSpelling({name, QStringLiteral("true")}).name);
+           jobAttribute(inOneSpelling({name, u"true"_s}).name);
 }
 
 bool isWellFormed(const QString &argument)
 {
     // cupsParseOptions() stops silently where it understands no more; then it never comes to an
     // option that is put at the end.
-    const QString end = QStringLiteral("corvana-end-of-options");
-    const QList<JobOption> parsed = parseOptions({argument + QStringLiteral(" %1=1").arg(end)});
+    const QString end = u"corvana-end-of-options"_s;
+    const QList<JobOption> parsed = parseOptions({argument + u" %1=1"_s.arg(end)});
     return std::any_of(parsed.cbegin(), parsed.cend(), [&](const JobOption &option) {
-        return option == JobOption{end, QStringLiteral("1")};
+        return option == JobOption{end, u"1"_s};
     });
 }
 

@@ -8,6 +8,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPpd, "corvana.dialog.ppd", QtWarningMsg)
 
 namespace {
@@ -28,8 +30,8 @@ QString openError(const QString &path)
     const ppd_status_t status = ppdLastError(&line);
     const QString what = QString::fromUtf8(ppdErrorString(status));
     if (line > 0)
-        return QStringLiteral("%1:%2: %3").arg(path).arg(line).arg(what);
-    return QStringLiteral("%1: %2").arg(path, what);
+        return u"%1:%2: %3"_s.arg(path).arg(line).arg(what);
+    return u"%1: %2"_s.arg(path, what);
 }
 
 } // namespace
@@ -38,7 +40,7 @@ PpdFile openPpdFile(const QString &path, QString *error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        *error = u"%1: %2"_s.arg(path, file.errorString());
         return nullptr;
     }
     file.close();

@@ -12,6 +12,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a panel tells of itself, or leaves out because it does not apply.
@@ -103,7 +105,7 @@ QString summaryText(const QList<SummaryLine> &lines)
 {
     QString text;
     for (const SummaryLine &line : lines)
-        text += QStringLiteral("%1: %2\n").arg(terminalLine(line.title), terminalLine(line.value));
+        text += u"%1: %2\n"_s.arg(terminalLine(line.title), terminalLine(line.value));
     return text;
 }
 

@@ -6,6 +6,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -28,8 +30,8 @@ FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &prin
     FittedOptions fitted;
     // All of their names in one line: whoever has set them for another program knows them.
     if (!unknown.isEmpty())
-        fitted.problems += Texts::tr("This printer has no option of the name %1.")
-                               .arg(unknown.join(QStringLiteral(", ")));
+        fitted.problems +=
+            Texts::tr("This printer has no option of the name %1.").arg(unknown.join(u", "_s));
     const auto apply = [&](const QList<JobOption> &some) {
         const OptionOutcome outcome =
             applyOptions(some, *printer.session, printer.jobValues, *printer.panels);

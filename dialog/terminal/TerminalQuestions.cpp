@@ -12,6 +12,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // How often it is looked whether the program was told to end. Units: milliseconds.
@@ -81,7 +83,7 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
     std::optional<QByteArray> password = readLine(terminal, ending);
     if (canHide)
         ::tcsetattr(terminal, TCSAFLUSH, &shown);
-    write(terminal, QStringLiteral("\n"));
+    write(terminal, u"\n"_s);
     if (!password)
         return std::nullopt;
     return Credentials{user->isEmpty() ? question.user : QString::fromLocal8Bit(*user),

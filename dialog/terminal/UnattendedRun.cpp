@@ -14,6 +14,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Phase = PrintTask::Phase;
@@ -32,20 +34,19 @@ void sayProblem(const QString &problem)
 QString shellWord(QString text)
 {
     static const QRegularExpression plain(
-        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9_.:/-]+")));
+        QRegularExpression::anchoredPattern(u"[A-Za-z0-9_.:/-]+"_s));
     if (plain.match(text).hasMatch())
         return text;
-    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+    return u'\'' + text.replace(u'\'', u"'\\''"_s) + u'\'';
 }
 
 // How a held job is let go, for whoever follows its instructions.
 QString releaseCommand(const PrintRequest &request, const Printer &printer, int job)
 {
-    const QString server = request.serverWasNamed
-                               ? QStringLiteral("-h %1 ").arg(shellWord(request.server.argument()))
-                               : QString();
+    const QString server =
+        request.serverWasNamed ? u"-h %1 "_s.arg(shellWord(request.server.argument())) : QString();
     const QString name = jobName(printer, job);
-    return QStringLiteral("lp %1-i %2 -H resume").arg(server, shellWord(name));
+    return u"lp %1-i %2 -H resume"_s.arg(server, shellWord(name));
 }
 
 // A problem of a server does not name the printer that it keeps from being asked for.
@@ -67,7 +68,7 @@ QString withOtherPrinters(const QString &problem, const PrintRequest &request)
     }
     return names.isEmpty() ? problem
                            : Texts::tr("%1 Printers that need no print server: %2.")
-                                 .arg(problem, names.join(QStringLiteral(", ")));
+                                 .arg(problem, names.join(u", "_s));
 }
 
 // One task, followed from its start to its end on standard output and standard error.
@@ -82,9 +83,8 @@ public:
                          [this] { m_task.interrupt(PrintTask::OnInterrupt::CancelJob); });
         QObject::connect(&m_task, &PrintTask::phaseChanged, &m_loop,
                          [this](Phase phase) { phaseChanged(phase); });
-        QObject::connect(&m_task, &PrintTask::ignored, &m_loop, [](const QString &problem) {
-            sayProblem(QStringLiteral("lpoptions: ") + problem);
-        });
+        QObject::connect(&m_task, &PrintTask::ignored, &m_loop,
+                         [](const QString &problem) { sayProblem(u"lpoptions: "_s + problem); });
         QObject::connect(&m_task, &PrintTask::refused, &m_loop,
                          [this](const TaskRefusal &refusal) { end(refusal.problems); });
         QObject::connect(&m_task, &PrintTask::progressed, &m_loop,

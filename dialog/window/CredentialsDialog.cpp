@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidget *parent)
     : QDialog(parent), m_user(new QLineEdit(question.user, this)), m_password(new QLineEdit(this))
 {
@@ -26,8 +28,8 @@ CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidge
                   .arg(server),
         this);
     text->setWordWrap(true);
-    m_user->setObjectName(QStringLiteral("user"));
-    m_password->setObjectName(QStringLiteral("password"));
+    m_user->setObjectName(u"user"_s);
+    m_password->setObjectName(u"password"_s);
     m_password->setEchoMode(QLineEdit::Password);
     auto *form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -47,7 +49,7 @@ CredentialsDialog::CredentialsDialog(const CredentialsQuestion &question, QWidge
             plainLabel(tr("The connection is not encrypted: others on the network may "
                           "read the password."),
                        this);
-        warning->setObjectName(QStringLiteral("notEncrypted"));
+        warning->setObjectName(u"notEncrypted"_s);
         warning->setWordWrap(true);
         layout->addWidget(warning);
     }

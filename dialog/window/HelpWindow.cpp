@@ -10,14 +10,16 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), m_browser(new QTextBrowser(this))
 {
-    m_browser->setObjectName(QStringLiteral("help"));
+    m_browser->setObjectName(u"help"_s);
     m_browser->setOpenLinks(false);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *back = buttons->addButton(tr("Back"), QDialogButtonBox::ActionRole);
-    back->setObjectName(QStringLiteral("back"));
+    back->setObjectName(u"back"_s);
     back->setEnabled(false);
     connect(m_browser, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
     connect(back, &QPushButton::clicked, m_browser, &QTextBrowser::backward);

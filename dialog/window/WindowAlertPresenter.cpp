@@ -12,6 +12,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Puts the view into a row of its own under the informative text. To be called last: the box builds
@@ -19,9 +21,9 @@ namespace {
 void insertUnderText(QMessageBox &box, QWidget *view)
 {
     auto *grid = qobject_cast<QGridLayout *>(box.layout());
-    auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    auto *text = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
     if (!text)
-        text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+        text = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
     if (!grid || !text)
         return;
     int row = 0;
@@ -53,7 +55,7 @@ AlertAnswer WindowAlertPresenter::runModal(const Alert &alert, QWidget *parent)
                                                      : QMessageBox::Information);
     box.setWindowTitle(parent ? parent->window()->windowTitle() : QString());
     box.setText(alert.messageText);
-    if (auto *title = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
+    if (auto *title = box.findChild<QLabel *>(u"qt_msgbox_label"_s)) {
         QFont bold = title->font();
         bold.setBold(true);
         title->setFont(bold);

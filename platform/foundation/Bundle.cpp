@@ -15,6 +15,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcBundle, "corvana.foundation.bundle", QtWarningMsg)
 
 namespace {
@@ -41,10 +43,10 @@ QString canonicalModule(const QString &file)
 // Which user languages a localisation serves. The first two names are older than language codes.
 QString languageCode(const QString &localization)
 {
-    if (localization == QLatin1StringView("English"))
-        return QStringLiteral("en");
-    if (localization == QLatin1StringView("Japanese"))
-        return QStringLiteral("ja");
+    if (localization == "English"_L1)
+        return u"en"_s;
+    if (localization == "Japanese"_L1)
+        return u"ja"_s;
     return QString(localization).replace(u'_', u'-');
 }
 
@@ -70,7 +72,7 @@ std::shared_ptr<Bundle> Bundle::open(const QString &path, QString *error)
     const QFileInfo folder(path);
     if (!folder.isDir()) {
         if (error)
-            *error = QStringLiteral("%1: there is no such bundle folder").arg(path);
+            *error = u"%1: there is no such bundle folder"_s.arg(path);
         return nullptr;
     }
     std::shared_ptr<Bundle> bundle(new Bundle(folder.canonicalFilePath()));
@@ -85,20 +87,19 @@ void Bundle::readInfo(QString *error)
         if (error)
             *error = what;
     };
-    QFile file(m_path + QStringLiteral("/info.json"));
+    QFile file(m_path + u"/info.json"_s);
     if (!file.open(QIODevice::ReadOnly))
-        return fail(QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
+        return fail(u"%1: %2"_s.arg(file.fileName(), file.errorString()));
     const QByteArray text = file.readAll();
     QJsonParseError parse;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parse);
     if (parse.error != QJsonParseError::NoError) {
-        return fail(QStringLiteral("%1:%2: this is not JSON: %3")
-                        .arg(file.fileName())
+        return fail(u"%1:%2: this is not JSON: %3"_s.arg(file.fileName())
                         .arg(lineOfOffset(text, parse.offset))
                         .arg(parse.errorString()));
     }
     if (!document.isObject())
-        return fail(QStringLiteral("%1:1: a JSON object was expected").arg(file.fileName()));
+        return fail(u"%1:1: a JSON object was expected"_s.arg(file.fileName()));
     m_info = document.object();
 }
 
@@ -180,7 +181,7 @@ QString Bundle::localizedString(const QString &key) const
     if (!m_strings) {
         m_strings = std::make_unique<QTranslator>();
         const QString name = preferredLocalizations(localizations()).value(0);
-        const QString table = QStringLiteral("%1/strings/%2.qm").arg(m_path, name);
+        const QString table = u"%1/strings/%2.qm"_s.arg(m_path, name);
         // QTranslator would seek a missing table under shorter names, even outside the bundle.
         if (!isPlainName(name) || !QFileInfo(table).isFile() || !m_strings->load(table))
             qCWarning(lcBundle) << "no string table could be loaded from" << table;
@@ -198,8 +199,8 @@ QString Bundle::pathForResource(const QString &name, const QString &type) const
 {
     if (!isPlainName(name) || type.contains(u'/'))
         return {};
-    const QLatin1StringView folder(type == QLatin1StringView("ui") ? "interface" : "pictures");
-    const QFileInfo file(QStringLiteral("%1/%2/%3.%4").arg(m_path, folder, name, type));
+    const QLatin1StringView folder(type == "ui"_L1 ? "interface" : "pictures");
+    const QFileInfo file(u"%1/%2/%3.%4"_s.arg(m_path, folder, name, type));
     return file.isFile() ? file.filePath() : QString();
 }
 

@@ -4,6 +4,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 bool showsItself(char32_t character)
 {
     constexpr char32_t kNonJoiner = 0x200c;
@@ -29,21 +31,19 @@ QString terminalLine(const QString &text)
         if (showsItself(character))
             line += QChar::fromUcs4(character);
         else
-            line +=
-                QStringLiteral("<U+%1>").arg(uint(character), 4, 16, QLatin1Char('0')).toUpper();
+            line += u"<U+%1>"_s.arg(uint(character), 4, 16, QLatin1Char('0')).toUpper();
     }
     return line;
 }
 
 QString terminalText(const QString &text)
 {
-    QStringList lines =
-        QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).split(u'\n');
+    QStringList lines = QString(text).replace(u"\r\n"_s, u"\n"_s).split(u'\n');
     for (QString &line : lines)
         line = terminalLine(line);
     QString shown = lines.takeFirst();
     for (const QString &line : std::as_const(lines))
-        shown += line.isEmpty() ? QStringLiteral("\n") : QStringLiteral("\n  ") + line;
+        shown += line.isEmpty() ? u"\n"_s : u"\n  "_s + line;
     return shown;
 }
 

@@ -7,6 +7,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcHelp, "corvana.foundation.help", QtWarningMsg)
 
 HelpManager &HelpManager::sharedHelpManager()
@@ -29,7 +31,7 @@ bool HelpManager::registerBooksInBundle(const Bundle &bundle, const QString &pat
     // Help in another language is better than none.
     const QStringList wanted = Bundle::preferredLocalizations(localizations) + localizations;
     for (const QString &localization : wanted) {
-        const QFileInfo page(QStringLiteral("%1/%2/index.html").arg(path, localization));
+        const QFileInfo page(u"%1/%2/index.html"_s.arg(path, localization));
         if (page.isFile() && page.size() > 0) {
             m_pages[title] = page.canonicalFilePath();
             return true;

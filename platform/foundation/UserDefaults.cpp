@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcDefaults, "corvana.foundation.defaults", QtWarningMsg)
 
 namespace {
@@ -53,7 +55,7 @@ Reading readAnew(const QString &name)
 // What is damaged is about to be replaced; whoever can mend it finds it beside the new file.
 void keepDamagedFile(const QString &file)
 {
-    const QString kept = file + QStringLiteral(".damaged");
+    const QString kept = file + u".damaged"_s;
     QFile::remove(kept);
     if (QFile::rename(file, kept))
         qCWarning(lcDefaults) << "the damaged preferences were kept as" << kept;
@@ -71,8 +73,8 @@ QString UserDefaults::fileOfDomain(const QString &name)
 {
     if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.'))
         return {};
-    return QStringLiteral("%1/corvana-print/%2.ini")
-        .arg(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), name);
+    return u"%1/corvana-print/%2.ini"_s.arg(
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), name);
 }
 
 std::optional<QVariantMap> UserDefaults::persistentDomainForName(const QString &name) const

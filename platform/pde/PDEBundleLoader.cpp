@@ -18,6 +18,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcLoader, "corvana.pde.loader", QtWarningMsg)
 
 namespace {
@@ -56,13 +58,12 @@ public:
     QString distrust(const QFileInfo &file)
     {
         if (file.permissions() & QFileDevice::WriteOther)
-            return QStringLiteral("%1 can be written by everybody").arg(file.filePath());
+            return u"%1 can be written by everybody"_s.arg(file.filePath());
         const uint owner = file.ownerId();
         if (owner != 0 && owner != ::geteuid() && owner != m_programOwner)
-            return QStringLiteral("%1 belongs to another user").arg(file.filePath());
+            return u"%1 belongs to another user"_s.arg(file.filePath());
         if ((file.permissions() & QFileDevice::WriteGroup) && !isOwnersAlone(file.groupId(), owner))
-            return QStringLiteral("%1 can be written by the group %2")
-                .arg(file.filePath(), file.group());
+            return u"%1 can be written by the group %2"_s.arg(file.filePath(), file.group());
         return {};
     }
 
@@ -76,7 +77,7 @@ private:
         return m_groups.value(pair);
     }
 
-    const uint m_programOwner = QFileInfo(QStringLiteral("/proc/self/exe")).ownerId();
+    const uint m_programOwner = QFileInfo(u"/proc/self/exe"_s).ownerId();
     QHash<std::pair<uint, uint>, bool> m_groups;
 };
 
@@ -103,8 +104,8 @@ QString distrustOfContents(const QString &bundle)
         contents.next();
         const QFileInfo file = contents.fileInfo();
         if (file.isSymLink() && !file.canonicalFilePath().startsWith(bundle + u'/'))
-            return QStringLiteral("%1 leads out of the bundle, to %2")
-                .arg(file.filePath(), file.canonicalFilePath());
+            return u"%1 leads out of the bundle, to %2"_s.arg(file.filePath(),
+                                                              file.canonicalFilePath());
         const QString problem = trust.distrust(file);
         if (!problem.isNull())
             return problem;
@@ -152,13 +153,13 @@ QString findBundle(const QString &fileName, const QStringList &roots, QString *r
 FoundPlugIn findPlugInBundle(const QString &fileName, const QStringList &trustedRoots)
 {
     if (fileName.isEmpty() || fileName.contains(u'/') || fileName.startsWith(u'.'))
-        return unusable(QStringLiteral("\"%1\" is no name of a plug-in bundle").arg(fileName));
+        return unusable(u"\"%1\" is no name of a plug-in bundle"_s.arg(fileName));
     QString root;
     const QString path = findBundle(fileName, trustedRoots, &root);
     if (path.isNull())
         return {};
     if (!path.startsWith(root + u'/'))
-        return unusable(QStringLiteral("%1 leads out of the trusted folder %2").arg(path, root));
+        return unusable(u"%1 leads out of the trusted folder %2"_s.arg(path, root));
     if (const QString problem = distrustOfPath(path, root); !problem.isNull())
         return unusable(problem);
     if (const QString problem = distrustOfContents(path); !problem.isNull())
@@ -170,20 +171,19 @@ FoundPlugIn findPlugInBundle(const QString &fileName, const QStringList &trusted
         return unusable(error);
     for (const QLatin1StringView key : kRequiredKeys) {
         if (bundle->infoString(key).isEmpty())
-            return unusable(QStringLiteral("%1/info.json: the key \"%2\" with a text was expected")
-                                .arg(path, key));
+            return unusable(
+                u"%1/info.json: the key \"%2\" with a text was expected"_s.arg(path, key));
     }
     if (!bundle->infoStringList(kSupportedOptionsKey)) {
-        return unusable(
-            QStringLiteral("%1/info.json: the key \"%2\" with a list of texts was expected")
-                .arg(path, kSupportedOptionsKey));
+        return unusable(u"%1/info.json: the key \"%2\" with a list of texts was expected"_s.arg(
+            path, kSupportedOptionsKey));
     }
     const QString name = bundle->infoString(kCFBundleExecutableKey);
     const QString module = QFileInfo(path + u'/' + name).canonicalFilePath();
     if (module.isEmpty())
-        return unusable(QStringLiteral("%1: the module %2 is missing").arg(path, name));
+        return unusable(u"%1: the module %2 is missing"_s.arg(path, name));
     if (!module.startsWith(path + u'/'))
-        return unusable(QStringLiteral("%1 leads out of the bundle %2").arg(module, path));
+        return unusable(u"%1 leads out of the bundle %2"_s.arg(module, path));
     return {bundle, module, {}};
 }
 
@@ -196,20 +196,18 @@ LoadedPlugIn loadPlugIn(const FoundPlugIn &found)
         return *loaded;
     QPluginLoader loader(found.module);
     loader.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
-    const QString iid = loader.metaData().value(QLatin1StringView("IID")).toString();
+    const QString iid = loader.metaData().value("IID"_L1).toString();
     if (iid != QLatin1StringView(CORVANA_PDE_PLUGIN_IID)) {
-        return refused(
-            QStringLiteral("%1 was built for the contract \"%2\", this program needs \"%3\"")
-                .arg(found.module, iid, QLatin1StringView(CORVANA_PDE_PLUGIN_IID)));
+        return refused(u"%1 was built for the contract \"%2\", this program needs \"%3\""_s.arg(
+            found.module, iid, QLatin1StringView(CORVANA_PDE_PLUGIN_IID)));
     }
     // The module's panels look for their bundle while they are constructed.
     Bundle::associateModule(found.module, found.bundle);
     auto *plugIn = qobject_cast<PDEPlugIn *>(loader.instance());
     if (!plugIn)
-        return refused(QStringLiteral("%1: %2").arg(found.module, loader.errorString()));
+        return refused(u"%1: %2"_s.arg(found.module, loader.errorString()));
     if (!plugIn->initWithBundle(found.bundle)) {
-        return refused(QStringLiteral("%1: the plug-in cannot work with its bundle")
-                           .arg(found.bundle->path()));
+        return refused(u"%1: the plug-in cannot work with its bundle"_s.arg(found.bundle->path()));
     }
     return *loadedPlugIns().insert(found.module, {found.bundle, plugIn, {}});
 }
@@ -218,9 +216,8 @@ LoadedPlugIn loadPlugInBundle(const QString &fileName, const QStringList &truste
 {
     FoundPlugIn found = findPlugInBundle(fileName, trustedRoots);
     if (!found.bundle && found.problem.isEmpty()) {
-        found.problem =
-            QStringLiteral("the plug-in bundle %1 is in none of the trusted folders: %2")
-                .arg(fileName, trustedRoots.join(QStringLiteral(", ")));
+        found.problem = u"the plug-in bundle %1 is in none of the trusted folders: %2"_s.arg(
+            fileName, trustedRoots.join(u", "_s));
     }
     return loadPlugIn(found);
 }

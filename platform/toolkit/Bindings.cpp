@@ -24,6 +24,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcBindings, "corvana.toolkit.bindings", QtWarningMsg)
 
 namespace {
@@ -83,14 +85,14 @@ void bindSlider(QAbstractSlider *slider, BindingDictionary *dictionary, const QS
 std::optional<qint64> writtenNumber(const QString &text)
 {
     static const QRegularExpression form(
-        QStringLiteral("^\\s*([-+\\x{2212}\\x{ff0d}\\x{ff0b}]?)(\\d+)(?:[.,\\x{ff0e}]\\d*)?\\s*$"),
+        u"^\\s*([-+\\x{2212}\\x{ff0d}\\x{ff0b}]?)(\\d+)(?:[.,\\x{ff0e}]\\d*)?\\s*$"_s,
         QRegularExpression::UseUnicodePropertiesOption);
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
     const QString sign = match.captured(1);
     const bool negative = !sign.isEmpty() && sign != u'+' && sign != u'\uff0b';
-    QString plain = negative ? QStringLiteral("-") : QString();
+    QString plain = negative ? u"-"_s : QString();
     const QString digits = match.captured(2);
     for (const QChar digit : digits)
         plain += QString::number(digit.digitValue());

@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr double kLeastDistance = 8.0; // points, unless the frames stand closer
 }
@@ -29,9 +31,9 @@ FrameLayout::FrameLayout(QWidget *view) : m_designed(view->size())
         m_placed.back().designed = designed;
         m_placed.back().frame = designed;
         const QString stretch = child->property("stretch").toString();
-        const bool both = stretch == QLatin1StringView("both");
-        m_placed.back().stretchesWidth = both || stretch == QLatin1StringView("width");
-        m_placed.back().stretchesHeight = both || stretch == QLatin1StringView("height");
+        const bool both = stretch == "both"_L1;
+        m_placed.back().stretchesWidth = both || stretch == "width"_L1;
+        m_placed.back().stretchesHeight = both || stretch == "height"_L1;
     }
 }
 

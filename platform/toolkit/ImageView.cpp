@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcImage, "corvana.toolkit.image", QtWarningMsg)
 
 namespace {
@@ -31,7 +33,7 @@ double pixelsPerPointOf(const QImage &image)
 QImage readPicture(const QString &file, double devicePixelRatio)
 {
     QImage image;
-    if (file.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+    if (file.endsWith(u".pdf"_s, Qt::CaseInsensitive)) {
         image = firstPageOfPdf(file, devicePixelRatio);
     } else {
         QImageReader reader(file);

@@ -23,6 +23,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcInterface, "corvana.toolkit.interface", QtWarningMsg)
 
 namespace {
@@ -41,14 +43,10 @@ public:
 
     explicit FormLoader(const Classes &ownClasses) : m_classes(ownClasses)
     {
-        m_classes[QStringLiteral("RadioMatrix")] = [](QWidget *p) { return new RadioMatrix(p); };
-        m_classes[QStringLiteral("FilterImageView")] = [](QWidget *p) {
-            return new FilterImageView(p);
-        };
-        m_classes[QStringLiteral("Stepper")] = [](QWidget *p) { return new Stepper(p); };
-        m_classes[QStringLiteral("DisclosureButton")] = [](QWidget *p) {
-            return new DisclosureButton(p);
-        };
+        m_classes[u"RadioMatrix"_s] = [](QWidget *p) { return new RadioMatrix(p); };
+        m_classes[u"FilterImageView"_s] = [](QWidget *p) { return new FilterImageView(p); };
+        m_classes[u"Stepper"_s] = [](QWidget *p) { return new Stepper(p); };
+        m_classes[u"DisclosureButton"_s] = [](QWidget *p) { return new DisclosureButton(p); };
     }
 
     QStringList unknownClasses;
@@ -58,7 +56,7 @@ public:
         QWidget *widget = nullptr;
         if (const auto own = m_classes.find(className); own != m_classes.end())
             widget = own->second(parent);
-        else if (availableWidgets().contains(className) || className == QLatin1StringView("Line"))
+        else if (availableWidgets().contains(className) || className == "Line"_L1)
             widget = QUiLoader::createWidget(className, parent, name);
         if (widget)
             widget->setObjectName(name);
@@ -148,8 +146,8 @@ public:
     void reject(const QByteArrayList &where, const QString &what)
     {
         const qsizetype line = lineOf(m_text, where);
-        const QString place = line > 0 ? QStringLiteral("%1:%2").arg(m_file).arg(line) : m_file;
-        problems += QStringLiteral("%1: %2").arg(place, what);
+        const QString place = line > 0 ? u"%1:%2"_s.arg(m_file).arg(line) : m_file;
+        problems += u"%1: %2"_s.arg(place, what);
     }
 
 private:
@@ -163,10 +161,10 @@ private:
         const auto outlet = m_owner.m_outlets.find(widget->objectName());
         if (outlet == m_owner.m_outlets.end() || outlet->second.connect(widget))
             return;
-        reject({nameOf(widget)}, QStringLiteral("\"%1\" is a %2, a %3 was expected")
-                                     .arg(widget->objectName(),
-                                          QString::fromLatin1(widget->metaObject()->className()),
-                                          outlet->second.className));
+        reject({nameOf(widget)},
+               u"\"%1\" is a %2, a %3 was expected"_s.arg(
+                   widget->objectName(), QString::fromLatin1(widget->metaObject()->className()),
+                   outlet->second.className));
     }
 
     void localize(QWidget *widget)
@@ -189,8 +187,7 @@ private:
         if (const QString value = key("bindValue"); !value.isEmpty()) {
             if (!bindToValue(widget, dictionary, value)) {
                 reject({nameOf(widget), "name=\"bindValue\"", value.toUtf8()},
-                       QStringLiteral("\"%1\" has no value to bind to \"%2\"")
-                           .arg(widget->objectName(), value));
+                       u"\"%1\" has no value to bind to \"%2\""_s.arg(widget->objectName(), value));
             }
         }
         if (const QString enabled = key("bindEnabled"); !enabled.isEmpty())
@@ -233,9 +230,8 @@ private:
         else if (disclosure && heading)
             disclosure->setHeading(heading);
         else if (!qobject_cast<QLineEdit *>(widget) || !qobject_cast<QAbstractSlider *>(companion))
-            reject(
-                {nameOf(widget), "name=\"companion\"", name.toUtf8()},
-                QStringLiteral("\"%1\" cannot work with \"%2\"").arg(widget->objectName(), name));
+            reject({nameOf(widget), "name=\"companion\"", name.toUtf8()},
+                   u"\"%1\" cannot work with \"%2\""_s.arg(widget->objectName(), name));
     }
 
     void connectDelegate(QWidget *widget)
@@ -248,8 +244,7 @@ private:
         if (field && delegate != m_owner.m_delegates.end())
             return setTextFieldDelegate(field, delegate->second);
         reject({nameOf(widget), "name=\"delegate\"", name.toUtf8()},
-               QStringLiteral("\"%1\" cannot have the delegate \"%2\"")
-                   .arg(widget->objectName(), name));
+               u"\"%1\" cannot have the delegate \"%2\""_s.arg(widget->objectName(), name));
     }
 
     void connectArrayController(QWidget *widget)
@@ -261,9 +256,9 @@ private:
         auto *table = qobject_cast<QTableView *>(widget);
         auto *pages = qobject_cast<QStackedWidget *>(widget);
         if (slot == m_owner.m_arrayControllers.end() || (!table && !pages))
-            return reject({nameOf(widget), "name=\"arrayController\"", name.toUtf8()},
-                          QStringLiteral("\"%1\" cannot show the rows of \"%2\"")
-                              .arg(widget->objectName(), name));
+            return reject(
+                {nameOf(widget), "name=\"arrayController\"", name.toUtf8()},
+                u"\"%1\" cannot show the rows of \"%2\""_s.arg(widget->objectName(), name));
         if (!*slot->second)
             *slot->second = new ArrayController(widget->window());
         if (table)
@@ -280,10 +275,10 @@ private:
         const QByteArrayList where{nameOf(widget), "name=\"action\"", name.toUtf8()};
         const auto action = m_owner.m_actions.find(name);
         if (action == m_owner.m_actions.end()) {
-            reject(where, QStringLiteral("there is no action \"%1\"").arg(name));
+            reject(where, u"there is no action \"%1\""_s.arg(name));
         } else if (!connectControlAction(widget, action->second)) {
-            reject(where, QStringLiteral("\"%1\" cannot have the action \"%2\"")
-                              .arg(widget->objectName(), name));
+            reject(where,
+                   u"\"%1\" cannot have the action \"%2\""_s.arg(widget->objectName(), name));
         }
     }
 
@@ -311,7 +306,7 @@ LoadedInterface loadInterface(const QString &file, const InterfaceConnections &o
 {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
-        return refused({QStringLiteral("%1: %2").arg(file, source.errorString())});
+        return refused({u"%1: %2"_s.arg(file, source.errorString())});
     QByteArray text = source.readAll();
     QBuffer buffer(&text);
     buffer.open(QIODevice::ReadOnly);
@@ -322,10 +317,10 @@ LoadedInterface loadInterface(const QString &file, const InterfaceConnections &o
     InterfaceConnector connector(owner, file, text);
     for (const QString &className : std::as_const(loader->unknownClasses)) {
         connector.reject({"class=\"" + className.toUtf8() + "\""},
-                         QStringLiteral("there is no control class \"%1\"").arg(className));
+                         u"there is no control class \"%1\""_s.arg(className));
     }
     if (!view && connector.problems.isEmpty())
-        connector.problems += QStringLiteral("%1: %2").arg(file, loader->errorString());
+        connector.problems += u"%1: %2"_s.arg(file, loader->errorString());
     if (view && connector.problems.isEmpty())
         connector.connectAll(view.get());
 

@@ -6,9 +6,11 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 QString withoutMnemonic(const QString &text)
 {
-    return QString(text).replace(u'&', QStringLiteral("&&"));
+    return QString(text).replace(u'&', u"&&"_s);
 }
 
 void setLiteralText(QLabel *label, const QString &text)

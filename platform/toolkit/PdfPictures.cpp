@@ -9,6 +9,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcPdfPictures, "corvana.toolkit.pdf", QtWarningMsg)
 
 namespace {
@@ -28,7 +30,7 @@ FirstPageOfPdf loadFirstPageOfPdf()
     const QString folder = ownFolder();
     if (!folder.startsWith(u'/'))
         return nullptr;
-    QLibrary library(folder + QStringLiteral("/libcorvana-pdf-pictures.so"));
+    QLibrary library(folder + u"/libcorvana-pdf-pictures.so"_s);
     // Its libraries keep threads and caches of their own, which do not survive being unloaded.
     library.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     const auto firstPage = reinterpret_cast<FirstPageOfPdf>(library.resolve(kFirstPageOfPdf));

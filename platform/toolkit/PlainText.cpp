@@ -5,6 +5,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 QLabel *plainLabel(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(parent);
@@ -39,8 +41,7 @@ QString plainToolTip(const QString &text)
 {
     if (text.isEmpty())
         return {};
-    return QStringLiteral("<qt>%1</qt>")
-        .arg(text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    return u"<qt>%1</qt>"_s.arg(text.toHtmlEscaped().replace(u'\n', u"<br>"_s));
 }
 
 } // namespace corvana

@@ -8,6 +8,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr char kRepresentedObject[] = "representedObject";
 }
@@ -58,7 +60,7 @@ void RadioMatrix::removeRow(int row)
 QString RadioMatrix::cellTitle(int row) const
 {
     const QRadioButton *button = cell(row);
-    return button ? button->text().replace(QStringLiteral("&&"), QStringLiteral("&")) : QString();
+    return button ? button->text().replace(u"&&"_s, u"&"_s) : QString();
 }
 
 void RadioMatrix::setCellTitle(int row, const QString &title)

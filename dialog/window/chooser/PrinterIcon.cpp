@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // All drawings are made on a square of this many units.
@@ -155,7 +157,7 @@ PrinterLook lookOf(const Printer &printer, Presence presence)
 QIcon printerIcon(PrinterLook look)
 {
     return QIcon(new DrawnIcon([look](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
-        const QIcon theme = QIcon::fromTheme(QStringLiteral("printer"));
+        const QIcon theme = QIcon::fromTheme(u"printer"_s);
         if (!theme.isNull())
             theme.paint(&painter, rect, Qt::AlignCenter,
                         mode == QIcon::Disabled ? mode : QIcon::Normal);
@@ -171,7 +173,7 @@ QIcon printerIcon(PrinterLook look)
 
 QIcon searchIcon()
 {
-    const QIcon theme = QIcon::fromTheme(QStringLiteral("edit-find"));
+    const QIcon theme = QIcon::fromTheme(u"edit-find"_s);
     if (!theme.isNull())
         return theme;
     return QIcon(new DrawnIcon([](QPainter &painter, const QRect &rect, QIcon::Mode mode) {

@@ -22,6 +22,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kManyPrinters = 12; // more than anybody counts at a glance
@@ -33,7 +35,7 @@ constexpr int kMeasuredRows = 300;
 PrinterPopup::PrinterPopup(QWidget *anchor)
     : QFrame(anchor, Qt::Popup), m_anchor(anchor), m_delegate(new PrinterRowDelegate(this))
 {
-    setObjectName(QStringLiteral("printerPopup"));
+    setObjectName(u"printerPopup"_s);
     setAccessibleName(tr("Printers"));
     setFrameShape(QFrame::StyledPanel);
     setAttribute(Qt::WA_WindowPropagation);
@@ -43,7 +45,7 @@ PrinterPopup::PrinterPopup(QWidget *anchor)
 void PrinterPopup::buildField()
 {
     m_field = new QLineEdit(this);
-    m_field->setObjectName(QStringLiteral("printerSearch"));
+    m_field->setObjectName(u"printerSearch"_s);
     m_field->setPlaceholderText(tr("Search by name or location"));
     m_field->setAccessibleName(tr("Search printers"));
     m_field->setClearButtonEnabled(true);
@@ -55,7 +57,7 @@ void PrinterPopup::buildField()
 void PrinterPopup::buildList()
 {
     m_list = new QListView(this);
-    m_list->setObjectName(QStringLiteral("printerList"));
+    m_list->setObjectName(u"printerList"_s);
     m_list->setAccessibleName(tr("Printers"));
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setFocusPolicy(Qt::NoFocus); // the search field has it and passes the keys on
@@ -67,7 +69,7 @@ void PrinterPopup::buildList()
     m_list->setItemDelegate(m_delegate);
     m_list->setModel(&m_search);
     m_nothing = plainLabel({}, this);
-    m_nothing->setObjectName(QStringLiteral("noPrinter"));
+    m_nothing->setObjectName(u"noPrinter"_s);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setForegroundRole(QPalette::PlaceholderText);
     m_nothing->setBackgroundRole(QPalette::Base);

@@ -12,13 +12,15 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 PrinterStatusLine::PrinterStatusLine(QWidget *parent)
     : QWidget(parent), m_icon(new QLabel(this)), m_text(new ElidedLabel(this)),
       m_retryButton(new QPushButton(tr("Try Again"), this))
 {
-    m_text->setObjectName(QStringLiteral("printerStatusText"));
+    m_text->setObjectName(u"printerStatusText"_s);
     m_text->setTwoLines();
-    m_retryButton->setObjectName(QStringLiteral("printerStatusRetry"));
+    m_retryButton->setObjectName(u"printerStatusRetry"_s);
     m_retryButton->setAutoDefault(false);
     m_retryButton->hide();
     auto *layout = new QHBoxLayout(this);

@@ -10,6 +10,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct PrinterTexts
@@ -31,9 +33,9 @@ struct Reason
 Reason parseReason(const QString &keyword)
 {
     static const std::pair<QLatin1StringView, Severity> suffixes[] = {
-        {QLatin1StringView("-error"), Severity::Error},
-        {QLatin1StringView("-warning"), Severity::Warning},
-        {QLatin1StringView("-report"), Severity::Report}};
+        {"-error"_L1, Severity::Error},
+        {"-warning"_L1, Severity::Warning},
+        {"-report"_L1, Severity::Report}};
     for (const auto &[suffix, severity] : suffixes) {
         if (keyword.endsWith(suffix))
             return {keyword.chopped(suffix.size()), severity};
@@ -48,49 +50,44 @@ struct ReasonWords
 };
 
 const ReasonWords kReasonWords[] = {
-    {QLatin1StringView("connecting-to-device"), QT_TRANSLATE_NOOP("PrinterTexts", "connecting")},
-    {QLatin1StringView("cover-open"), QT_TRANSLATE_NOOP("PrinterTexts", "cover open")},
-    {QLatin1StringView("cups-insecure-filter"),
+    {"connecting-to-device"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "connecting")},
+    {"cover-open"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "cover open")},
+    {"cups-insecure-filter"_L1,
      QT_TRANSLATE_NOOP("PrinterTexts", "driver not trusted by the server")},
-    {QLatin1StringView("cups-missing-filter"),
-     QT_TRANSLATE_NOOP("PrinterTexts", "driver missing on the server")},
-    {QLatin1StringView("deactivated"), QT_TRANSLATE_NOOP("PrinterTexts", "switched off")},
-    {QLatin1StringView("developer-empty"), QT_TRANSLATE_NOOP("PrinterTexts", "developer used up")},
-    {QLatin1StringView("developer-low"), QT_TRANSLATE_NOOP("PrinterTexts", "developer low")},
-    {QLatin1StringView("door-open"), QT_TRANSLATE_NOOP("PrinterTexts", "door open")},
-    {QLatin1StringView("fuser-over-temp"), QT_TRANSLATE_NOOP("PrinterTexts", "fuser too hot")},
-    {QLatin1StringView("fuser-under-temp"), QT_TRANSLATE_NOOP("PrinterTexts", "fuser too cold")},
-    {QLatin1StringView("hold-new-jobs"), QT_TRANSLATE_NOOP("PrinterTexts", "new jobs are held")},
-    {QLatin1StringView("input-tray-missing"), QT_TRANSLATE_NOOP("PrinterTexts", "tray missing")},
-    {QLatin1StringView("interlock-open"), QT_TRANSLATE_NOOP("PrinterTexts", "cover open")},
-    {QLatin1StringView("marker-supply-empty"),
-     QT_TRANSLATE_NOOP("PrinterTexts", "ink or toner used up")},
-    {QLatin1StringView("marker-supply-low"), QT_TRANSLATE_NOOP("PrinterTexts", "ink or toner low")},
-    {QLatin1StringView("marker-waste-almost-full"),
+    {"cups-missing-filter"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "driver missing on the server")},
+    {"deactivated"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "switched off")},
+    {"developer-empty"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "developer used up")},
+    {"developer-low"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "developer low")},
+    {"door-open"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "door open")},
+    {"fuser-over-temp"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "fuser too hot")},
+    {"fuser-under-temp"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "fuser too cold")},
+    {"hold-new-jobs"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "new jobs are held")},
+    {"input-tray-missing"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "tray missing")},
+    {"interlock-open"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "cover open")},
+    {"marker-supply-empty"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "ink or toner used up")},
+    {"marker-supply-low"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "ink or toner low")},
+    {"marker-waste-almost-full"_L1,
      QT_TRANSLATE_NOOP("PrinterTexts", "waste container almost full")},
-    {QLatin1StringView("marker-waste-full"),
-     QT_TRANSLATE_NOOP("PrinterTexts", "waste container full")},
-    {QLatin1StringView("media-empty"), QT_TRANSLATE_NOOP("PrinterTexts", "out of paper")},
-    {QLatin1StringView("media-jam"), QT_TRANSLATE_NOOP("PrinterTexts", "paper jam")},
-    {QLatin1StringView("media-low"), QT_TRANSLATE_NOOP("PrinterTexts", "paper low")},
-    {QLatin1StringView("media-needed"), QT_TRANSLATE_NOOP("PrinterTexts", "paper needed")},
-    {QLatin1StringView("moving-to-paused"), QT_TRANSLATE_NOOP("PrinterTexts", "pausing")},
-    {QLatin1StringView("offline"), QT_TRANSLATE_NOOP("PrinterTexts", "not connected")},
-    {QLatin1StringView("opc-life-over"), QT_TRANSLATE_NOOP("PrinterTexts", "drum used up")},
-    {QLatin1StringView("opc-near-eol"), QT_TRANSLATE_NOOP("PrinterTexts", "drum nearly used up")},
-    {QLatin1StringView("output-area-almost-full"),
-     QT_TRANSLATE_NOOP("PrinterTexts", "output tray almost full")},
-    {QLatin1StringView("output-area-full"), QT_TRANSLATE_NOOP("PrinterTexts", "output tray full")},
-    {QLatin1StringView("output-tray-missing"),
-     QT_TRANSLATE_NOOP("PrinterTexts", "output tray missing")},
-    {QLatin1StringView("paused"), QT_TRANSLATE_NOOP("PrinterTexts", "paused")},
-    {QLatin1StringView("shutdown"), QT_TRANSLATE_NOOP("PrinterTexts", "switched off")},
-    {QLatin1StringView("spool-area-full"), QT_TRANSLATE_NOOP("PrinterTexts", "print queue full")},
-    {QLatin1StringView("stopped-partly"), QT_TRANSLATE_NOOP("PrinterTexts", "partly stopped")},
-    {QLatin1StringView("stopping"), QT_TRANSLATE_NOOP("PrinterTexts", "stopping")},
-    {QLatin1StringView("timed-out"), QT_TRANSLATE_NOOP("PrinterTexts", "not answering")},
-    {QLatin1StringView("toner-empty"), QT_TRANSLATE_NOOP("PrinterTexts", "toner used up")},
-    {QLatin1StringView("toner-low"), QT_TRANSLATE_NOOP("PrinterTexts", "toner low")},
+    {"marker-waste-full"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "waste container full")},
+    {"media-empty"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "out of paper")},
+    {"media-jam"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "paper jam")},
+    {"media-low"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "paper low")},
+    {"media-needed"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "paper needed")},
+    {"moving-to-paused"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "pausing")},
+    {"offline"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "not connected")},
+    {"opc-life-over"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "drum used up")},
+    {"opc-near-eol"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "drum nearly used up")},
+    {"output-area-almost-full"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "output tray almost full")},
+    {"output-area-full"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "output tray full")},
+    {"output-tray-missing"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "output tray missing")},
+    {"paused"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "paused")},
+    {"shutdown"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "switched off")},
+    {"spool-area-full"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "print queue full")},
+    {"stopped-partly"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "partly stopped")},
+    {"stopping"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "stopping")},
+    {"timed-out"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "not answering")},
+    {"toner-empty"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "toner used up")},
+    {"toner-low"_L1, QT_TRANSLATE_NOOP("PrinterTexts", "toner low")},
 };
 
 // A printer that needs no queue has no state; what it does with a job is worth the place.
@@ -167,7 +164,7 @@ QStringList stateReasonTexts(const QStringList &keywords)
     QStringList ordered;
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Report}) {
         for (const QString &keyword : keywords) {
-            if (keyword != QLatin1StringView("none") && parseReason(keyword).severity == severity)
+            if (keyword != "none"_L1 && parseReason(keyword).severity == severity)
                 ordered += stateReasonText(keyword);
         }
     }
@@ -192,9 +189,8 @@ QString stateText(const Printer &printer, Presence presence)
         words += stopped ? PrinterTexts::tr("takes no jobs") : PrinterTexts::tr("Takes no jobs");
     QStringList reasons = printer.stateReasons;
     if (stopped)
-        reasons.removeIf([](const QString &keyword) {
-            return parseReason(keyword).keyword == QLatin1StringView("paused");
-        });
+        reasons.removeIf(
+            [](const QString &keyword) { return parseReason(keyword).keyword == "paused"_L1; });
     return plainLine(joinedWords(words + stateReasonTexts(reasons)));
 }
 
@@ -230,10 +226,9 @@ QString printerToolTip(const Printer &printer, Presence presence)
     if (printer.state != PrinterState::Stopped || presence == Presence::Gone)
         add(PrinterTexts::tr("Message: %1"), plainLine(printer.stateMessage));
     add(PrinterTexts::tr("Address: %1"), plainLine(printer.uri));
-    return QStringLiteral("<qt><b>%1</b>%2%3</qt>")
-        .arg(displayName(printer).toHtmlEscaped(),
-             lines.isEmpty() ? QString() : QStringLiteral("<br>"),
-             lines.join(QStringLiteral("<br>")));
+    return u"<qt><b>%1</b>%2%3</qt>"_s.arg(displayName(printer).toHtmlEscaped(),
+                                           lines.isEmpty() ? QString() : u"<br>"_s,
+                                           lines.join(u"<br>"_s));
 }
 
 } // namespace corvana

@@ -22,6 +22,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Says when its list is closed; lets the wheel scroll the page behind it.
@@ -70,7 +72,7 @@ ChoiceEditor::ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *p
             finish();
     };
     m_choices = choices;
-    m_choices->setObjectName(QStringLiteral("choices"));
+    m_choices->setObjectName(u"choices"_s);
     m_choices->setAccessibleName(ppdText(option->text).value_or(m_keyword));
     // The name of a pop-up is what it shows; a screen reader takes the option's from a label.
     auto *label = plainLabel(withoutMnemonic(m_choices->accessibleName()), this);
@@ -123,7 +125,7 @@ void ChoiceEditor::addChoices()
 void ChoiceEditor::addField(const CustomLimits &limits)
 {
     m_field = new QLineEdit(this);
-    m_field->setObjectName(QStringLiteral("customValue"));
+    m_field->setObjectName(u"customValue"_s);
     m_field->setAccessibleName(m_choices->accessibleName());
     m_field->setAccessibleDescription(allowed());
     m_field->setPlaceholderText(allowed());

@@ -16,6 +16,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Unit
@@ -61,12 +63,12 @@ void setRange(QDoubleSpinBox *field, float least, float most, const Unit &unit)
 } // namespace
 
 CustomPaperSize::CustomPaperSize(ppd_file_t *ppd, QWidget *parent)
-    : QWidget(parent), m_ppd(ppd), m_width(addField(QStringLiteral("paperWidth"))),
-      m_height(addField(QStringLiteral("paperHeight"))), m_unit(new QComboBox(this))
+    : QWidget(parent), m_ppd(ppd), m_width(addField(u"paperWidth"_s)),
+      m_height(addField(u"paperHeight"_s)), m_unit(new QComboBox(this))
 {
     m_width->setAccessibleName(tr("Paper width"));
     m_height->setAccessibleName(tr("Paper height"));
-    m_unit->setObjectName(QStringLiteral("paperUnit"));
+    m_unit->setObjectName(u"paperUnit"_s);
     m_unit->setAccessibleName(tr("Unit of the paper size"));
     m_unit->addItems({tr("mm"), tr("inches")});
     m_unit->setCurrentIndex(usesInches() ? 1 : 0);
@@ -75,7 +77,7 @@ CustomPaperSize::CustomPaperSize(ppd_file_t *ppd, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_width);
-    row->addWidget(plainLabel(QStringLiteral("×"), this));
+    row->addWidget(plainLabel(u"×"_s, this));
     row->addWidget(m_height);
     row->addWidget(m_unit);
     row->addStretch();

@@ -24,6 +24,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 // What the choices of an option are called, in the order of the PPD; by their keywords where the
 // text cannot be read, as on every other page. Choices of the same text are different choices all
@@ -38,8 +40,7 @@ QStringList choiceTitles(const ppd_option_t &option)
     }
     for (int i = 0; i < option.num_choices; ++i) {
         if (uses.value(titles.at(i)) > 1)
-            titles[i] =
-                QStringLiteral("%1 (%2)").arg(titles.at(i), ppdKeyword(option.choices[i].choice));
+            titles[i] = u"%1 (%2)"_s.arg(titles.at(i), ppdKeyword(option.choices[i].choice));
     }
     return titles;
 }
@@ -63,7 +64,7 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
     layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_copies->setObjectName(QStringLiteral("copies"));
+    m_copies->setObjectName(u"copies"_s);
     m_copies->setRange(1, kMostCopies);
     ignoreWheelWithoutFocus(m_copies);
     setFocusProxy(m_copies);
@@ -72,7 +73,7 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     row->addStretch();
     layout->addRow(tr("&Copies:"), row);
     qobject_cast<QLabel *>(layout->labelForField(row))->setBuddy(m_copies);
-    m_pageRanges->setObjectName(QStringLiteral("pageRanges"));
+    m_pageRanges->setObjectName(u"pageRanges"_s);
     m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
     m_pageRanges->setClearButtonEnabled(true);
     layout->addRow(tr("Pa&ges:"), m_pageRanges);
@@ -179,11 +180,9 @@ void GeneralPage::addCustomPaperSize(QComboBox *sizes)
 void GeneralPage::proposeCustomPaper()
 {
     const QSizeF size = m_customPaper->size();
-    const CustomValueCheck check = checkCustomValue(m_session.ppd(), kPageSizeOption,
-                                                    QStringLiteral("%1%2x%3")
-                                                        .arg(kCustomPrefix)
-                                                        .arg(size.width(), 0, 'f', 4)
-                                                        .arg(size.height(), 0, 'f', 4));
+    const CustomValueCheck check = checkCustomValue(
+        m_session.ppd(), kPageSizeOption,
+        u"%1%2x%3"_s.arg(kCustomPrefix).arg(size.width(), 0, 'f', 4).arg(size.height(), 0, 'f', 4));
     if (check.value)
         Q_EMIT proposed(kPageSizeOption, *check.value);
 }

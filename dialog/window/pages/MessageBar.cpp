@@ -13,6 +13,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kMostLines = 5;     // what a message may take from the pages; the rest scrolls
@@ -84,10 +86,10 @@ MessageBar::MessageBar(QWidget *parent)
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
-    m_text->setObjectName(QStringLiteral("messageText"));
+    m_text->setObjectName(u"messageText"_s);
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_action->setObjectName(QStringLiteral("messageAction"));
+    m_action->setObjectName(u"messageAction"_s);
     auto *close = new QToolButton(this);
     close->setAutoRaise(true);
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));

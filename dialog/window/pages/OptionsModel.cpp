@@ -12,6 +12,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quintptr kGroupId = 0; // options have the row of their group, from 1
@@ -22,9 +24,9 @@ QString groupTitle(const ppd_group_t &group)
 {
     const QString name = ppdKeyword(group.name);
     const QString title = ppdText(group.text).value_or(name);
-    if (title == QLatin1StringView("General"))
+    if (title == "General"_L1)
         return OptionsModel::tr("General");
-    if (title == QLatin1StringView("Installable Options"))
+    if (title == "Installable Options"_L1)
         return OptionsModel::tr("Installable Options");
     return title;
 }
@@ -241,7 +243,7 @@ QString OptionsModel::titleToolTip(const Option &option) const
         return option.title;
     // The title is cut where it is too long; scripts want the keyword.
     return tr("%1\nFor the command line: %2")
-        .arg(option.title, QStringLiteral("-o %1=%2").arg(option.keyword, choice));
+        .arg(option.title, u"-o %1=%2"_s.arg(option.keyword, choice));
 }
 
 QString OptionsModel::defaultText(const Option &option) const

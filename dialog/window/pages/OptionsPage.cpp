@@ -18,6 +18,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kMostWithoutSearch = 20; // options that can be looked through
 }
@@ -28,7 +30,7 @@ OptionsPage::OptionsPage(PpdSession &session, QWidget *parent)
       m_delegate(new ChoiceDelegate(*m_model, this)),
       m_reset(new QAction(tr("Back to the Default"), m_view)), m_hint(plainLabel({}, this))
 {
-    m_hint->setObjectName(QStringLiteral("hint"));
+    m_hint->setObjectName(u"hint"_s);
     m_hint->setWordWrap(true);
     m_hint->hide();
     buildSearch();
@@ -49,7 +51,7 @@ bool OptionsPage::hasOptions(const PpdSession &session)
 
 void OptionsPage::buildSearch()
 {
-    m_search->setObjectName(QStringLiteral("search"));
+    m_search->setObjectName(u"search"_s);
     m_search->setPlaceholderText(tr("Search options and choices"));
     m_search->setAccessibleName(tr("Search options and choices"));
     m_search->setClearButtonEnabled(true);
@@ -70,7 +72,7 @@ void OptionsPage::buildSearch()
 void OptionsPage::buildList()
 {
     m_filter->setSourceModel(m_model);
-    m_view->setObjectName(QStringLiteral("options"));
+    m_view->setObjectName(u"options"_s);
     m_view->setAccessibleName(tr("Options of the printer"));
     m_view->setItemDelegate(m_delegate);
     m_view->setModel(m_filter);
@@ -83,7 +85,7 @@ void OptionsPage::buildList()
     connect(m_delegate, &ChoiceDelegate::rejected, this,
             [this](const QString &text) { say(text, true); });
 
-    m_reset->setObjectName(QStringLiteral("reset"));
+    m_reset->setObjectName(u"reset"_s);
     m_reset->setShortcuts({Qt::Key_Delete, Qt::Key_Backspace});
     m_reset->setShortcutContext(Qt::WidgetShortcut);
     m_view->addAction(m_reset);

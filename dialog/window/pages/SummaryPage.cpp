@@ -8,9 +8,11 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent), m_table(new QTableWidget(0, 2, this))
 {
-    m_table->setObjectName(QStringLiteral("summary"));
+    m_table->setObjectName(u"summary"_s);
     m_table->setAccessibleName(tr("Summary"));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
