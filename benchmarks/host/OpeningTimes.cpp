@@ -18,6 +18,8 @@
 
 namespace corvana::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Whether a window was painted.
@@ -45,12 +47,11 @@ enum class Wanted {
 
 bool isUsable(const PrintWindow &dialog, Wanted wanted)
 {
-    const auto *print = dialog.findChild<QPushButton *>(QStringLiteral("print"));
+    const auto *print = dialog.findChild<QPushButton *>(u"print"_s);
     if (!print->isEnabled() || !dialog.findChild<GeneralPage *>())
         return false;
-    return wanted == Wanted::FilePrinter ||
-           (dialog.findChild<QWidget *>(QStringLiteral("mediaTypePopup")) &&
-            dialog.findChild<QWidget *>(QStringLiteral("colorMatchingMatrix")));
+    return wanted == Wanted::FilePrinter || (dialog.findChild<QWidget *>(u"mediaTypePopup"_s) &&
+                                             dialog.findChild<QWidget *>(u"colorMatchingMatrix"_s));
 }
 
 std::optional<double> openingTime(const PrintRequest &request, Wanted wanted)
@@ -77,8 +78,7 @@ void makeKnown(const QString &server)
     printer.origin = PrinterOrigin::Queue;
     printer.uri = queueUri(kQueue);
     QFile ppd(kSamplePpd);
-    if (!ppd.open(QIODevice::ReadOnly) ||
-        !PpdCache().store(server, printer, ppd.readAll(), 1))
+    if (!ppd.open(QIODevice::ReadOnly) || !PpdCache().store(server, printer, ppd.readAll(), 1))
         throw std::runtime_error("the sample printer cannot be kept");
     rememberPrinter(server, kQueue);
 }
@@ -94,7 +94,7 @@ void forgetKnown(const QString &server)
 void measureOpening(const QString &folder, const QString &healthy, const QString &absent,
                     const QString &silent)
 {
-    const QString output = folder + QStringLiteral("/job.ps");
+    const QString output = folder + u"/job.ps"_s;
     const auto unknown = [output](const char *name, const QString &server, Wanted wanted) {
         measure(
             name,

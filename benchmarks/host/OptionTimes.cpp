@@ -18,6 +18,8 @@
 
 namespace corvana::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kOptions = 1000;
@@ -37,7 +39,7 @@ QString writeLargePpd(const QString &folder)
     // Nothing that is marked collides; every option has constraints that must be looked at.
     for (int i = 0; i < kConstraints / 2; ++i)
         ppd.constraint(optionKeyword(i), "C", optionKeyword((i + 1) % kOptions), "C");
-    const QString path = folder + QStringLiteral("/large.ppd");
+    const QString path = folder + u"/large.ppd"_s;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(ppd.text()) < 0)
         throw std::runtime_error("the large PPD cannot be written");
@@ -76,31 +78,28 @@ void measureOptions(const QString &folder, const QString &absent)
         return found == 0 ? std::optional(time) : std::nullopt;
     });
 
-    PrintRequest request = requestFor(absent, folder + QStringLiteral("/job.ps"));
-    request.printers = {Printer{QStringLiteral("large"), QStringLiteral("large"), path}};
+    PrintRequest request = requestFor(absent, folder + u"/job.ps"_s);
+    request.printers = {Printer{u"large"_s, u"large"_s, path}};
     const auto dialog = std::make_shared<PrintWindow>(request);
     dialog->show();
     auto *options = static_cast<OptionsPage *>(nullptr);
     if (!waitFor([&] { return (options = dialog->findChild<OptionsPage *>()) != nullptr; }))
         throw std::runtime_error("the large printer has no options");
-    dialog->findChild<QTabWidget *>(QStringLiteral("pages"))->setCurrentWidget(options);
+    dialog->findChild<QTabWidget *>(u"pages"_s)->setCurrentWidget(options);
     settleDown();
-    const auto view = options->findChild<QAbstractItemView *>(QStringLiteral("options"));
+    const auto view = options->findChild<QAbstractItemView *>(u"options"_s);
     measure(kChange, [dialog, options, view, second = false]() mutable {
         second = !second;
         const double time = timeOf([&] {
-            Q_EMIT options->proposed(QStringLiteral("Option500"),
-                                     second ? QStringLiteral("B") : QStringLiteral("A"));
+            Q_EMIT options->proposed(u"Option500"_s, second ? u"B"_s : u"A"_s);
             QCoreApplication::processEvents();
         });
-        const QModelIndexList shown = view->model()->match(
-            view->model()->index(0, 0), Qt::DisplayRole, QStringLiteral("Option 500"), 1,
-            Qt::MatchExactly | Qt::MatchRecursive);
+        const QModelIndexList shown =
+            view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, u"Option 500"_s, 1,
+                                 Qt::MatchExactly | Qt::MatchRecursive);
         const QString value =
             shown.isEmpty() ? QString() : shown.constFirst().siblingAtColumn(1).data().toString();
-        return value == (second ? QStringLiteral("Second") : QStringLiteral("First"))
-                   ? std::optional(time)
-                   : std::nullopt;
+        return value == (second ? u"Second"_s : u"First"_s) ? std::optional(time) : std::nullopt;
     });
 }
 

@@ -22,11 +22,13 @@
 
 namespace corvana::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kQueues = 2000;
 // What is typed into the search, letter by letter.
-const QString kTyped = QStringLiteral("laboratory");
+const QString kTyped = u"laboratory"_s;
 
 /// How many queues one request for all of them brings, asking for what the list shows.
 int bareListing(quint16 port)
@@ -92,7 +94,7 @@ std::optional<double> typingTime(const QStringList &texts,
 // What cupsd keeps of its queues; lpadmin would take minutes to have it written.
 void writeQueues(const test::PrivateCups &cups)
 {
-    QFile file(cups.folder() + QStringLiteral("/etc/printers.conf"));
+    QFile file(cups.folder() + u"/etc/printers.conf"_s);
     QByteArray text;
     for (int i = 0; i < kQueues; ++i) {
         const QByteArray number = QByteArray::number(i).rightJustified(4, '0');

@@ -100,6 +100,7 @@ int posix_memalign(void **memory, std::size_t alignment, std::size_t bytes)
 #endif
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -153,9 +154,9 @@ public:
         if (!m_window)
             return;
         m_panel.willShow();
-        auto *disclosure = m_window->findChild<QAbstractButton *>(QStringLiteral("optionButton"));
-        m_view = m_window->findChild<FilterImageView *>(QStringLiteral("effectImageView"));
-        m_slider = m_window->findChild<QSlider *>(QStringLiteral("brightnessSlider"));
+        auto *disclosure = m_window->findChild<QAbstractButton *>(u"optionButton"_s);
+        m_view = m_window->findChild<FilterImageView *>(u"effectImageView"_s);
+        m_slider = m_window->findChild<QSlider *>(u"brightnessSlider"_s);
         if (!disclosure || !m_view || !m_slider)
             return;
         if (!disclosure->isChecked())

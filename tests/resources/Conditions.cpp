@@ -6,6 +6,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Printer = const SamplePrinter &;
@@ -22,7 +24,7 @@ template <int number> bool isModel(Printer printer)
 
 bool startsWithHagaki(const SamplePpd &ppd)
 {
-    return ppd.text("QXMediaType", "HagakiUra").startsWith(QLatin1StringView("Hagaki"));
+    return ppd.text("QXMediaType", "HagakiUra").startsWith("Hagaki"_L1);
 }
 
 const char *resolutionKeyword(Printer printer)
@@ -32,8 +34,7 @@ const char *resolutionKeyword(Printer printer)
 
 bool forbidsTonerSave(const QString &resolution)
 {
-    return resolution == QLatin1StringView("1200dpi") ||
-           resolution == QLatin1StringView("2400x600dpi");
+    return resolution == "1200dpi"_L1 || resolution == "2400x600dpi"_L1;
 }
 
 bool anyResolutionForbidsTonerSave(Printer printer)
@@ -89,8 +90,7 @@ bool customSizesInclude(Printer printer, float height)
 
 bool hasUnusualColorMatching(Printer printer)
 {
-    const QStringList known{QStringLiteral("Normal"), QStringLiteral("Vivid"),
-                            QStringLiteral("None")};
+    const QStringList known{u"Normal"_s, u"Vivid"_s, u"None"_s};
     const QStringList offered = printer.english.choices("QXColorMatching");
     return std::any_of(offered.begin(), offered.end(),
                        [&](const QString &choice) { return !known.contains(choice); });
@@ -103,44 +103,44 @@ Condition has(const char *keyword)
 
 Condition offers(const char *keyword, const char *choice)
 {
-    return {QStringLiteral("%1=%2").arg(QLatin1StringView(keyword), QLatin1StringView(choice)),
+    return {u"%1=%2"_s.arg(QLatin1StringView(keyword), QLatin1StringView(choice)),
             [=](Printer p) { return p.english.offers(keyword, choice); }};
 }
 
 Condition hasChoices(const char *keyword, int count)
 {
-    return {QStringLiteral("%1 has %2 choices").arg(QLatin1StringView(keyword)).arg(count),
+    return {u"%1 has %2 choices"_s.arg(QLatin1StringView(keyword)).arg(count),
             [=](Printer p) { return p.english.choices(keyword).size() == count; }};
 }
 
 QList<Condition> conditionTable()
 {
     return {
-        {QStringLiteral("model 2"), isModel<2>},
-        {QStringLiteral("model 3"), isModel<3>},
-        {QStringLiteral("model 4"), isModel<4>},
-        {QStringLiteral("model 5"), isModel<5>},
+        {u"model 2"_s, isModel<2>},
+        {u"model 3"_s, isModel<3>},
+        {u"model 4"_s, isModel<4>},
+        {u"model 5"_s, isModel<5>},
 
         // Binding of options to controls
         offers("QXOutput", "FAX"),
         offers("QXOutput", "None"),
-        {QStringLiteral("the driver matches colors"),
+        {u"the driver matches colors"_s,
          [](Printer p) { return p.english.hasAttribute("APSupportsCustomColorMatching"); }},
         offers("AP_ColorMatchingMode", "AP_ApplicationColorMatching"),
         has("MirrorPrint"),
         has("QXBiDir"),
         offers("QXMediaType", "PlainDuplex"),
-        {QStringLiteral("HagakiUra with Glossy in its place"),
+        {u"HagakiUra with Glossy in its place"_s,
          [](Printer p) {
              return p.english.offers("QXMediaType", "HagakiUra") &&
                     p.english.offers("QXMediaType", "Glossy");
          }},
-        {QStringLiteral("HagakiUra without Glossy"),
+        {u"HagakiUra without Glossy"_s,
          [](Printer p) {
              return p.english.offers("QXMediaType", "HagakiUra") &&
                     !p.english.offers("QXMediaType", "Glossy");
          }},
-        {QStringLiteral("HagakiUra is listed in Japanese only"),
+        {u"HagakiUra is listed in Japanese only"_s,
          [](Printer p) {
              return startsWithHagaki(p.english) && startsWithHagaki(p.chinese) &&
                     p.japanese.offers("QXMediaType", "HagakiUra") && !startsWithHagaki(p.japanese);
@@ -156,61 +156,57 @@ QList<Condition> conditionTable()
         has("QXInputSlot"),
         has("QXResolution"),
         has("Resolution"),
-        {QStringLiteral("no resolution"),
-         [](Printer p) { return !p.english.has(resolutionKeyword(p)); }},
+        {u"no resolution"_s, [](Printer p) { return !p.english.has(resolutionKeyword(p)); }},
         has("TonerSaveMode"),
-        {QStringLiteral("a resolution forbids toner save"), anyResolutionForbidsTonerSave},
-        {QStringLiteral("the default resolution forbids toner save"),
+        {u"a resolution forbids toner save"_s, anyResolutionForbidsTonerSave},
+        {u"the default resolution forbids toner save"_s,
          [](Printer p) { return forbidsTonerSave(p.english.defaultChoice(resolutionKeyword(p))); }},
-        {QStringLiteral("a resolution forbids the toner save that is not there"),
+        {u"a resolution forbids the toner save that is not there"_s,
          [](Printer p) {
              return anyResolutionForbidsTonerSave(p) && !p.english.has("TonerSaveMode");
          }},
         has("QXImproveOutput"),
-        {QStringLiteral("QXFixIntensity and QXLessPaperCurl apart"),
+        {u"QXFixIntensity and QXLessPaperCurl apart"_s,
          [](Printer p) {
              return p.english.has("QXFixIntensity") && p.english.has("QXLessPaperCurl");
          }},
-        {QStringLiteral("QXReduceGhost is the first improvement"),
+        {u"QXReduceGhost is the first improvement"_s,
          [](Printer p) { return isFirstImprovement(p, "QXReduceGhost"); }},
-        {QStringLiteral("QXFixIntensity is the first improvement"),
+        {u"QXFixIntensity is the first improvement"_s,
          [](Printer p) { return isFirstImprovement(p, "QXFixIntensity"); }},
-        {QStringLiteral("QXLessPaperCurl is the only improvement"),
+        {u"QXLessPaperCurl is the only improvement"_s,
          [](Printer p) { return isFirstImprovement(p, "QXLessPaperCurl"); }},
-        {QStringLiteral("no improvement"),
-         [](Printer p) { return countOf(p, kImprovements) == 0; }},
+        {u"no improvement"_s, [](Printer p) { return countOf(p, kImprovements) == 0; }},
         has("QXReduceGhost"),
         has("QXQuietMode"),
         has("QXSkipBlank"),
 
         // Density and sleep time
-        {QStringLiteral("density -6 to 6"), [](Printer p) { return hasBounds(density(p), -6, 6); }},
-        {QStringLiteral("density with bounds of its own"),
+        {u"density -6 to 6"_s, [](Printer p) { return hasBounds(density(p), -6, 6); }},
+        {u"density with bounds of its own"_s,
          [](Printer p) { return density(p) && !hasBounds(density(p), -6, 6); }},
-        {QStringLiteral("density cannot be lowered"),
+        {u"density cannot be lowered"_s,
          [](Printer p) { return density(p) && density(p)->minimum.custom_int == 0; }},
-        {QStringLiteral("density has a choice for each step"),
+        {u"density has a choice for each step"_s,
          [](Printer p) {
              return !p.english.takesNumbers("QXDensityAdjustment") &&
                     p.english.choices("QXDensityAdjustment").size() > 1;
          }},
-        {QStringLiteral("no density"),
-         [](Printer p) { return !p.english.has("QXDensityAdjustment"); }},
-        {QStringLiteral("sleep time 1 to 99"),
-         [](Printer p) { return hasBounds(sleepTime(p), 1, 99); }},
-        {QStringLiteral("sleep time with bounds of its own"),
+        {u"no density"_s, [](Printer p) { return !p.english.has("QXDensityAdjustment"); }},
+        {u"sleep time 1 to 99"_s, [](Printer p) { return hasBounds(sleepTime(p), 1, 99); }},
+        {u"sleep time with bounds of its own"_s,
          [](Printer p) { return sleepTime(p) && !hasBounds(sleepTime(p), 1, 99); }},
-        {QStringLiteral("sleep time of a model before 4"),
+        {u"sleep time of a model before 4"_s,
          [](Printer p) { return sleepTime(p) && p.english.modelNumber() < 4; }},
-        {QStringLiteral("the usual sleep time is out of bounds"), usualSleepTimeIsOutOfBounds},
-        {QStringLiteral("sleep time is a number that is not called Time"),
+        {u"the usual sleep time is out of bounds"_s, usualSleepTimeIsOutOfBounds},
+        {u"sleep time is a number that is not called Time"_s,
          [](Printer p) { return p.english.takesNumbers("QXSleepTime") && !sleepTime(p); }},
-        {QStringLiteral("sleep time is True or False"),
+        {u"sleep time is True or False"_s,
          [](Printer p) {
              return p.english.offers("QXSleepTime", "True") &&
                     p.english.offers("QXSleepTime", "False");
          }},
-        {QStringLiteral("no sleep time"), [](Printer p) { return !p.english.has("QXSleepTime"); }},
+        {u"no sleep time"_s, [](Printer p) { return !p.english.has("QXSleepTime"); }},
 
         // Media, paper, two-sided printing
         offers("QXMediaType", "BOND"),
@@ -221,45 +217,38 @@ QList<Condition> conditionTable()
         offers("QXMediaType", "EnvThin"),
         offers("QXMediaType", "EnvThick"),
         has("Duplex"),
-        {QStringLiteral("envelopes conflict with two-sided printing"),
-         [](Printer p) {
-             return p.english.conflict("QXMediaType", {QStringLiteral("Env")}, "Duplex");
-         }},
-        {QStringLiteral("no conflicts"),
-         [](Printer p) { return p.english.ppd()->num_consts == 0; }},
+        {u"envelopes conflict with two-sided printing"_s,
+         [](Printer p) { return p.english.conflict("QXMediaType", {u"Env"_s}, "Duplex"); }},
+        {u"no conflicts"_s, [](Printer p) { return p.english.ppd()->num_consts == 0; }},
         offers("PageSize", "Postcard"),
         offers("PageSize", "Letter"),
-        {QStringLiteral("the default paper is Letter"),
-         [](Printer p) {
-             return p.english.defaultChoice("PageSize") == QLatin1StringView("Letter");
-         }},
-        {QStringLiteral("Letter is a custom size only"),
+        {u"the default paper is Letter"_s,
+         [](Printer p) { return p.english.defaultChoice("PageSize") == "Letter"_L1; }},
+        {u"Letter is a custom size only"_s,
          [](Printer p) {
              return !p.english.offers("PageSize", "Letter") && customSizesInclude(p, 792);
          }},
-        {QStringLiteral("Letter is no size at all"),
+        {u"Letter is no size at all"_s,
          [](Printer p) {
              return !p.english.offers("PageSize", "Letter") && !customSizesInclude(p, 792);
          }},
-        {QStringLiteral("custom sizes"),
-         [](Printer p) { return p.english.ppd()->variable_sizes != 0; }},
-        {QStringLiteral("Legal is too long for a custom size"),
+        {u"custom sizes"_s, [](Printer p) { return p.english.ppd()->variable_sizes != 0; }},
+        {u"Legal is too long for a custom size"_s,
          [](Printer p) { return p.english.ppd()->variable_sizes && !customSizesInclude(p, 1008); }},
 
         // The Color Setting panel
-        {QStringLiteral("monochrome"),
-         [](Printer p) { return p.english.ppd()->color_device == 0; }},
+        {u"monochrome"_s, [](Printer p) { return p.english.ppd()->color_device == 0; }},
         has("QXColorMatching"),
         offers("QXColorMatching", "Vivid"),
         offers("QXColorMatching", "None"),
-        {QStringLiteral("QXColorMatching beyond Normal, Vivid and None"), hasUnusualColorMatching},
+        {u"QXColorMatching beyond Normal, Vivid and None"_s, hasUnusualColorMatching},
         has("QXEnhanceBlkPrt"),
         has("QXGray"),
         has("QXSlowDrying"),
-        {QStringLiteral("all effects"), [](Printer p) { return countOf(p, kEffects) == 6; }},
-        {QStringLiteral("some effects"),
+        {u"all effects"_s, [](Printer p) { return countOf(p, kEffects) == 6; }},
+        {u"some effects"_s,
          [](Printer p) { return countOf(p, kEffects) > 0 && countOf(p, kEffects) < 6; }},
-        {QStringLiteral("no effects"), [](Printer p) { return countOf(p, kEffects) == 0; }},
+        {u"no effects"_s, [](Printer p) { return countOf(p, kEffects) == 0; }},
     };
 }
 

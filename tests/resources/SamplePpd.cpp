@@ -9,12 +9,14 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 SamplePpd::SamplePpd(const QString &printer, const QByteArray &language)
 {
     // The order in which libcups asks them is its own affair.
     for (const char *variable : {"LC_ALL", "LC_CTYPE", "LC_MESSAGES", "LANG"})
         qputenv(variable, language + ".UTF-8");
-    const QString path = QStringLiteral("%1/%2.ppd").arg(samplePpdFolder(), printer);
+    const QString path = u"%1/%2.ppd"_s.arg(samplePpdFolder(), printer);
     m_ppd.reset(ppdOpenFile(QFile::encodeName(path).constData()));
     if (!m_ppd)
         return;
@@ -40,7 +42,7 @@ QStringList SamplePpd::choices(const char *keyword) const
         return found;
     for (const ppd_choice_t &choice : std::span(option->choices, size_t(option->num_choices)))
         found += ppdKeyword(choice.choice);
-    found.removeAll(QStringLiteral("Custom"));
+    found.removeAll(u"Custom"_s);
     return found;
 }
 
@@ -85,12 +87,12 @@ QList<const ppd_option_t *> SamplePpd::options() const
 
 QString samplePpdFolder()
 {
-    return corvana::test::sourceFile(QStringLiteral("resources/ppd"));
+    return corvana::test::sourceFile(u"resources/ppd"_s);
 }
 
 QStringList samplePrinterNames()
 {
-    QStringList names = QDir(samplePpdFolder()).entryList({QStringLiteral("*.ppd")}, QDir::Files);
+    QStringList names = QDir(samplePpdFolder()).entryList({u"*.ppd"_s}, QDir::Files);
     for (QString &name : names)
         name.chop(4);
     names.sort();

@@ -36,7 +36,7 @@ QSet<QString> printersIn(const QString &cell)
 QList<Row> readTable()
 {
     QList<Row> rows;
-    QFile file(corvana::test::sourceFile(QStringLiteral("tests/resources/conditions.tsv")));
+    QFile file(corvana::test::sourceFile(u"tests/resources/conditions.tsv"_s));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return rows;
     file.readLine(); // the headings

@@ -7,6 +7,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 PpdBuilder &PpdBuilder::modelNumber(int number)
 {
     m_modelNumber = number;
@@ -125,7 +127,7 @@ QByteArray PpdBuilder::text() const
 
 QByteArray samplePpd(int modelNumber)
 {
-    QFile file(corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd")));
+    QFile file(corvana::test::sourceFile(u"resources/ppd/corvana-cl5.ppd"_s));
     const QByteArray model = "*cupsModelNumber: 5\n";
     QByteArray text;
     if (file.open(QIODevice::ReadOnly))

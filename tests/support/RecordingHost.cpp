@@ -9,6 +9,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char kWillChange[] = "willChangePPDOptionKeyValue_ppdChoice";
@@ -24,8 +26,7 @@ ppd_file_t *openPpd(const QString &file)
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        throw std::runtime_error(QStringLiteral("%1:%2: %3")
-                                     .arg(file)
+        throw std::runtime_error(u"%1:%2: %3"_s.arg(file)
                                      .arg(line)
                                      .arg(QString::fromLocal8Bit(ppdErrorString(status)))
                                      .toStdString());
@@ -37,7 +38,7 @@ ppd_file_t *openPpd(const QString &file)
 
 QString firstPaper(ppd_file_t *ppd)
 {
-    const ppd_choice_t *paper = ppdMarkedChoice(ppd, QStringLiteral("PageSize"));
+    const ppd_choice_t *paper = ppdMarkedChoice(ppd, u"PageSize"_s);
     return paper ? ppdKeyword(paper->choice) : QString();
 }
 
@@ -45,7 +46,7 @@ QString firstPaper(ppd_file_t *ppd)
 
 char *toString(const HostCall &call)
 {
-    const QString text = call.operation + u'(' + call.arguments.join(QStringLiteral(", ")) + u')';
+    const QString text = call.operation + u'(' + call.arguments.join(u", "_s) + u')';
     return QTest::toString(text);
 }
 
@@ -70,7 +71,7 @@ RecordingHost::~RecordingHost()
 std::shared_ptr<RecordingHost> RecordingHost::forSamplePrinter()
 {
     return std::make_shared<RecordingHost>(
-        corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd")));
+        corvana::test::sourceFile(u"resources/ppd/corvana-cl5.ppd"_s));
 }
 
 std::shared_ptr<RecordingHost> RecordingHost::forPpd(const QByteArray &text)
@@ -155,7 +156,7 @@ bool RecordingHost::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword
 
 void RecordingHost::panelViewDidResize()
 {
-    note(QStringLiteral("panelViewDidResize"));
+    note(u"panelViewDidResize"_s);
 }
 
 AlertPresenter *RecordingHost::alertPresenter()
@@ -186,16 +187,15 @@ void RecordingHost::recordMarks()
 
 void RecordingHost::setDuplex(PMDuplexMode mode)
 {
-    note(QStringLiteral("PMSetDuplex"), {QString::number(mode)});
-    const QString keyword = QStringLiteral("Duplex");
+    note(u"PMSetDuplex"_s, {QString::number(mode)});
+    const QString keyword = u"Duplex"_s;
     ppd_option_t *option = ppdOption(m_ppd, keyword);
     if (!option)
         return;
     if (mode == kPMDuplexNone)
         mark(keyword, ppdKeyword(option->defchoice));
     else
-        mark(keyword, mode == kPMDuplexNoTumble ? QStringLiteral("DuplexNoTumble")
-                                                : QStringLiteral("DuplexTumble"));
+        mark(keyword, mode == kPMDuplexNoTumble ? u"DuplexNoTumble"_s : u"DuplexTumble"_s);
 }
 
 } // namespace corvana::test

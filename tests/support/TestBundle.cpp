@@ -13,15 +13,17 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QJsonObject informationOf(const QJsonObject &further)
 {
     QJsonObject information{
-        {kCFBundleIdentifierKey, QStringLiteral("com.corvana.print.test")},
-        {kCFBundleNameKey, QStringLiteral("TestPanel")},
-        {kCFBundleHelpBookNameKey, QStringLiteral("Test Panel Help")},
-        {kCFBundleLocalizationsKey, QJsonArray{QStringLiteral("English")}},
+        {kCFBundleIdentifierKey, u"com.corvana.print.test"_s},
+        {kCFBundleNameKey, u"TestPanel"_s},
+        {kCFBundleHelpBookNameKey, u"Test Panel Help"_s},
+        {kCFBundleLocalizationsKey, QJsonArray{u"English"_s}},
     };
     for (auto entry = further.begin(); entry != further.end(); ++entry)
         information.insert(entry.key(), entry.value());
@@ -51,8 +53,7 @@ TestBundle TestBundle::copied()
             QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
         }
     }
-    QFile::copy(source.filePath(QStringLiteral("info.json")),
-                target.filePath(QStringLiteral("info.json")));
+    QFile::copy(source.filePath(u"info.json"_s), target.filePath(u"info.json"_s));
     bundle.open(bundle.m_folder->path());
     return bundle;
 }
@@ -62,11 +63,10 @@ TestBundle::TestBundle(Information information, const QJsonObject &furtherInform
 {
     for (const char *folder : {"interface", "strings", "pictures"})
         QDir(m_folder->path()).mkdir(QString::fromLatin1(folder));
-    QFile::copy(corvana::test::bundleFile(QStringLiteral("strings/English.qm")),
-                m_folder->filePath(QStringLiteral("strings/English.qm")));
+    QFile::copy(corvana::test::bundleFile(u"strings/English.qm"_s),
+                m_folder->filePath(u"strings/English.qm"_s));
     if (information == Information::Present) {
-        write(QStringLiteral("info.json"),
-              QJsonDocument(informationOf(furtherInformation)).toJson());
+        write(u"info.json"_s, QJsonDocument(informationOf(furtherInformation)).toJson());
     }
     open(m_folder->path());
 }
@@ -81,7 +81,7 @@ TestBundle::~TestBundle()
 
 void TestBundle::addInterface(const QString &name, const QByteArray &text)
 {
-    write(QStringLiteral("interface/%1.ui").arg(name), text);
+    write(u"interface/%1.ui"_s.arg(name), text);
 }
 
 void TestBundle::addPicture(const QString &name)
@@ -89,34 +89,33 @@ void TestBundle::addPicture(const QString &name)
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(Qt::red);
     // The name says TIFF; what is read goes by the content, and every Qt can write a PNG.
-    const QString file = m_folder->filePath(QStringLiteral("pictures/%1.tiff").arg(name));
+    const QString file = m_folder->filePath(u"pictures/%1.tiff"_s.arg(name));
     if (!picture.save(file, "PNG"))
         throw std::runtime_error(file.toStdString() + " could not be written");
 }
 
 void TestBundle::addBrokenPicture(const QString &name)
 {
-    write(QStringLiteral("pictures/%1.tiff").arg(name), "no picture");
+    write(u"pictures/%1.tiff"_s.arg(name), "no picture");
 }
 
 void TestBundle::setTexts(const QMap<QString, QString> &textsByKey)
 {
-    QString table = QStringLiteral("<!DOCTYPE TS><TS version=\"2.1\" language=\"en\"><context>"
-                                   "<name>Localizable</name>");
+    QString table = u"<!DOCTYPE TS><TS version=\"2.1\" language=\"en\"><context>"
+                    "<name>Localizable</name>"_s;
     for (auto text = textsByKey.begin(); text != textsByKey.end(); ++text) {
-        table +=
-            QStringLiteral("<message><source>%1</source><translation>%2</translation></message>")
-                .arg(text.key().toHtmlEscaped(), text.value().toHtmlEscaped());
+        table += u"<message><source>%1</source><translation>%2</translation></message>"_s.arg(
+            text.key().toHtmlEscaped(), text.value().toHtmlEscaped());
     }
-    table += QStringLiteral("</context></TS>");
+    table += u"</context></TS>"_s;
     static QHash<QString, QByteArray> compiled; // starting the compiler is slow
     if (compiled.contains(table))
-        return write(QStringLiteral("strings/English.qm"), compiled.value(table));
-    write(QStringLiteral("strings/English.ts"), table.toUtf8());
-    const QString source = m_folder->filePath(QStringLiteral("strings/English.ts"));
-    const QString target = m_folder->filePath(QStringLiteral("strings/English.qm"));
+        return write(u"strings/English.qm"_s, compiled.value(table));
+    write(u"strings/English.ts"_s, table.toUtf8());
+    const QString source = m_folder->filePath(u"strings/English.ts"_s);
+    const QString target = m_folder->filePath(u"strings/English.qm"_s);
     if (QProcess::execute(QStringLiteral(CORVANA_TEST_LRELEASE),
-                          {QStringLiteral("-silent"), source, QStringLiteral("-qm"), target}) != 0)
+                          {u"-silent"_s, source, u"-qm"_s, target}) != 0)
         throw std::runtime_error(source.toStdString() + " is no string table");
     QFile result(target);
     if (result.open(QIODevice::ReadOnly))
@@ -171,7 +170,7 @@ UserPreferences::~UserPreferences()
 
 void UserPreferences::makeUnwritable()
 {
-    QFile file(m_folder.filePath(QStringLiteral("corvana-print")));
+    QFile file(m_folder.filePath(u"corvana-print"_s));
     if (!file.open(QIODevice::WriteOnly))
         throw std::runtime_error(file.fileName().toStdString() + " is in use already");
 }

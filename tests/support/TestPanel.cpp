@@ -12,6 +12,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Object names, by which the panel finds the control and the label of an option.
@@ -99,7 +101,7 @@ QString TestPanel::determineKey(QWidget *control)
 
 QString TestPanel::panelName()
 {
-    return QStringLiteral("Test");
+    return u"Test"_s;
 }
 
 void TestPanel::step(const char *operation, const QStringList &arguments)

@@ -12,6 +12,7 @@
 
 using namespace corvana;
 using namespace corvana::test;
+using namespace Qt::StringLiterals;
 
 /// What tests rely on is itself tested: a host that forgot a call would hide a defect of a panel.
 class SupportTest : public QObject
@@ -22,22 +23,19 @@ private Q_SLOTS:
     void theHostMarksTheDefaultsAndRecordsThem()
     {
         const auto host = RecordingHost::forSamplePrinter();
-        QCOMPARE(host->marked(QStringLiteral("QXMediaType")), QStringLiteral("Plain"));
-        QCOMPARE(host->settings().value(QStringLiteral("QXMediaType")),
-                 QVariant(QStringLiteral("Plain")));
-        QCOMPARE(host->page().paper.name, QStringLiteral("A4"));
+        QCOMPARE(host->marked(u"QXMediaType"_s), u"Plain"_s);
+        QCOMPARE(host->settings().value(u"QXMediaType"_s), QVariant(u"Plain"_s));
+        QCOMPARE(host->page().paper.name, u"A4"_s);
         QCOMPARE(host->page().paper.height, 842.0);
     }
 
     void anAcceptedChangeIsMarkedAndRecorded()
     {
         const auto host = RecordingHost::forSamplePrinter();
-        QVERIFY(host->willChangePPDOptionKeyValue_ppdChoice(QStringLiteral("QXMediaType"),
-                                                            QStringLiteral("Thick")));
-        QCOMPARE(host->marked(QStringLiteral("QXMediaType")), QStringLiteral("Thick"));
-        QCOMPARE(host->settings().value(QStringLiteral("QXMediaType")),
-                 QVariant(QStringLiteral("Thick")));
-        QCOMPARE(host->asked(), QStringList{QStringLiteral("QXMediaType=Thick")});
+        QVERIFY(host->willChangePPDOptionKeyValue_ppdChoice(u"QXMediaType"_s, u"Thick"_s));
+        QCOMPARE(host->marked(u"QXMediaType"_s), u"Thick"_s);
+        QCOMPARE(host->settings().value(u"QXMediaType"_s), QVariant(u"Thick"_s));
+        QCOMPARE(host->asked(), QStringList{u"QXMediaType=Thick"_s});
     }
 
     void whatTheHostRefuses_data()
@@ -60,8 +58,8 @@ private Q_SLOTS:
         QFETCH(QString, keyword);
         QFETCH(QString, choice);
         const auto host = RecordingHost::forSamplePrinter();
-        host->refuse(QStringLiteral("QXMonoColor"), QStringLiteral("Mono"));
-        host->mark(QStringLiteral("QXMediaType"), QStringLiteral("Glossy"));
+        host->refuse(u"QXMonoColor"_s, u"Mono"_s);
+        host->mark(u"QXMediaType"_s, u"Glossy"_s);
         const QString marked = host->marked(keyword);
         QVERIFY(!host->willChangePPDOptionKeyValue_ppdChoice(keyword, choice));
         QCOMPARE(host->marked(keyword), marked);
@@ -71,19 +69,19 @@ private Q_SLOTS:
     void anOptionCanBeLeftWithoutAMark()
     {
         const auto host = RecordingHost::forSamplePrinter();
-        host->unmark(QStringLiteral("QXMediaType"));
-        QVERIFY(host->marked(QStringLiteral("QXMediaType")).isNull());
-        host->mark(QStringLiteral("QXMediaType"), QStringLiteral("Thin"));
-        QCOMPARE(host->marked(QStringLiteral("QXMediaType")), QStringLiteral("Thin"));
+        host->unmark(u"QXMediaType"_s);
+        QVERIFY(host->marked(u"QXMediaType"_s).isNull());
+        host->mark(u"QXMediaType"_s, u"Thin"_s);
+        QCOMPARE(host->marked(u"QXMediaType"_s), u"Thin"_s);
     }
 
     void oneSidedPrintingIsMarked()
     {
         const auto host = RecordingHost::forSamplePrinter();
-        host->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexTumble"));
+        host->mark(u"Duplex"_s, u"DuplexTumble"_s);
         QCOMPARE(PMSetDuplex(host->printSettings(), kPMDuplexNone), kPMNoError);
-        QCOMPARE(host->marked(QStringLiteral("Duplex")), QStringLiteral("None"));
-        const QList<HostCall> expected{{QStringLiteral("PMSetDuplex"), {QStringLiteral("1")}}};
+        QCOMPARE(host->marked(u"Duplex"_s), u"None"_s);
+        const QList<HostCall> expected{{u"PMSetDuplex"_s, {u"1"_s}}};
         QCOMPARE(host->calls(), expected);
     }
 
@@ -96,7 +94,7 @@ private Q_SLOTS:
     {
         ScriptedAlertPresenter alerts;
         Alert alert;
-        alert.messageText = QStringLiteral("Title");
+        alert.messageText = u"Title"_s;
         QEXPECT_FAIL("", "this alert is not in the script", Continue);
         QCOMPARE(alerts.runModal(alert, nullptr).button, 0);
         QCOMPARE(alerts.shown().size(), 1);
@@ -117,8 +115,8 @@ private Q_SLOTS:
     {
         const TestBundle bundle;
         const auto host = RecordingHost::forSamplePrinter();
-        const QString colorMatching = QStringLiteral("QXColorMatching");
-        const QString mediaType = QStringLiteral("QXMediaType");
+        const QString colorMatching = u"QXColorMatching"_s;
+        const QString mediaType = u"QXMediaType"_s;
         TestPanel panel({mediaType, colorMatching});
         QVERIFY(panel.initWithHost(host));
         QComboBox *popUp = panel.addPopUp(mediaType);
@@ -127,15 +125,14 @@ private Q_SLOTS:
         panel.updateUI();
         host->forgetCalls();
 
-        QVERIFY(pick(popUp, QStringLiteral("Labels")));
+        QVERIFY(pick(popUp, u"Labels"_s));
         QVERIFY(pick(matrix, 1));
-        QVERIFY(pickWithKeyboard(popUp, QStringLiteral("Bond Paper")));
-        const QStringList expected{QStringLiteral("QXMediaType=Label"),
-                                   QStringLiteral("QXColorMatching=Vivid"),
-                                   QStringLiteral("QXMediaType=BOND")};
+        QVERIFY(pickWithKeyboard(popUp, u"Bond Paper"_s));
+        const QStringList expected{u"QXMediaType=Label"_s, u"QXColorMatching=Vivid"_s,
+                                   u"QXMediaType=BOND"_s};
         QCOMPARE(host->asked(), expected);
-        QVERIFY(!pick(popUp, QStringLiteral("No such paper")));
-        QVERIFY(!pickWithKeyboard(popUp, QStringLiteral("No such paper")));
+        QVERIFY(!pick(popUp, u"No such paper"_s));
+        QVERIFY(!pickWithKeyboard(popUp, u"No such paper"_s));
         QVERIFY(!pick(matrix, 3));
     }
 };

@@ -377,9 +377,8 @@ private Q_SLOTS:
         const QString ppd = writeFile(folder.filePath(u"printer.ppd"_s),
                                       ppdOfCapabilities(capabilitiesOf(attributes.ipp())));
         const QString output = folder.filePath(u"output"_s);
-        const Document document{
-            corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf")),
-            u"application/pdf"_s, u"Job"_s};
+        const Document document{corvana::test::sourceFile(u"resources/sample/welcome.pdf"_s),
+                                u"application/pdf"_s, u"Job"_s};
         FileJob job({{document}, {u"Job"_s, 1, {{u"PageSize"_s, u"A5"_s}}}, ppd, output});
         job.start();
         const JobOutcome outcome = job.wait();

@@ -8,11 +8,13 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 bool isRunning(const QString &pid)
 {
     // A process that has ended but was not waited for yet is gone as well.
-    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
+    QFile status(u"/proc/%1/stat"_s.arg(pid));
     if (!status.open(QIODevice::ReadOnly))
         return false;
     const QByteArray state = status.readAll();
@@ -23,19 +25,17 @@ bool isRunning(const QString &pid)
 
 FakeFilter::FakeFilter(const QByteArray &script)
 {
-    const QString program =
-        writeFile(path(QStringLiteral("filter")),
-                  "#!/bin/sh\nDIR='" + m_folder.path().toUtf8() + "'\n" + script);
+    const QString program = writeFile(
+        path(u"filter"_s), "#!/bin/sh\nDIR='" + m_folder.path().toUtf8() + "'\n" + script);
     QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_named = std::make_unique<Variable>("CORVANA_PRINT_CUPSFILTER", program.toUtf8());
-    writeFile(path(QStringLiteral("document.txt")), "a document\n");
+    writeFile(path(u"document.txt"_s), "a document\n");
     writeFile(ppdPath(), PpdBuilder().text());
 }
 
 Document FakeFilter::document() const
 {
-    return {path(QStringLiteral("document.txt")), QStringLiteral("text/plain"),
-            QStringLiteral("document.txt")};
+    return {path(u"document.txt"_s), u"text/plain"_s, u"document.txt"_s};
 }
 
 QByteArray FakeFilter::content(const QString &name) const
@@ -46,7 +46,7 @@ QByteArray FakeFilter::content(const QString &name) const
 
 QStringList FakeFilter::leftOvers() const
 {
-    return QDir(m_folder.path()).entryList({QStringLiteral("*.part*")}, QDir::AllEntries);
+    return QDir(m_folder.path()).entryList({u"*.part*"_s}, QDir::AllEntries);
 }
 
 bool FakeFilter::waitForFile(const QString &name) const

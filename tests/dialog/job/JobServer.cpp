@@ -2,6 +2,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto kTokenAttribute = "corvana-job-token";
@@ -25,12 +27,12 @@ ServerJobRequest JobServer::request(const Document &document) const
 {
     using namespace std::chrono_literals;
     ServerJobRequest request;
-    request.server.address = {QStringLiteral("127.0.0.1"), port(), HTTP_ENCRYPTION_IF_REQUESTED};
+    request.server.address = {u"127.0.0.1"_s, port(), HTTP_ENCRYPTION_IF_REQUESTED};
     request.server.patience = {10s, 10s};
     request.server.credentials = std::make_shared<CredentialStore>();
     request.printer.origin = PrinterOrigin::Queue;
-    request.printer.name = QStringLiteral("office");
-    request.printer.uri = QStringLiteral("ipp://localhost/printers/office");
+    request.printer.name = u"office"_s;
+    request.printer.uri = u"ipp://localhost/printers/office"_s;
     request.documents = {document};
     request.ticket = {document.title, 1, {}};
     return request;
@@ -93,7 +95,7 @@ CannedAnswer JobServer::listOfJobs()
         ippAddString(answer, IPP_TAG_JOB, IPP_TAG_URI, kTokenAttribute, nullptr,
                      token.toUtf8().constData());
     };
-    add(kEarlierJob, QStringLiteral("urn:uuid:another"));
+    add(kEarlierJob, u"urn:uuid:another"_s);
     if (m_creation == Creation::Numberless || m_creation == Creation::LostAndListed)
         add(kJob, m_token);
     return ippAnswer(answer);

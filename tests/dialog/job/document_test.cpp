@@ -18,12 +18,12 @@ namespace {
 
 QString dataFile(const QString &name)
 {
-    return corvana::test::sourceFile(QStringLiteral("tests/data/")) + name;
+    return corvana::test::sourceFile(u"tests/data/"_s) + name;
 }
 
 QString sampleDocument()
 {
-    return corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
+    return corvana::test::sourceFile(u"resources/sample/welcome.pdf"_s);
 }
 
 QByteArray contentOf(const QString &path)

@@ -4,6 +4,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void addText(ipp_t *answer, ipp_tag_t type, const char *name, const QString &value)
@@ -89,8 +91,8 @@ QList<Printer> manyQueues(int count)
     QList<Printer> queues;
     for (int i = 1; i <= count; ++i) {
         Printer queue;
-        queue.name = QStringLiteral("queue%1").arg(i);
-        queue.description = QStringLiteral("Printer %1").arg(i);
+        queue.name = u"queue%1"_s.arg(i);
+        queue.description = u"Printer %1"_s.arg(i);
         queues += queue;
     }
     return queues;

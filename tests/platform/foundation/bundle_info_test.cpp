@@ -4,6 +4,7 @@
 #include "tests/support/TestPaths.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BundleInfoTest : public QObject
 {
@@ -41,7 +42,7 @@ void BundleInfoTest::init()
 
 std::shared_ptr<Bundle> BundleInfoTest::bundleWith(const QByteArray &json, QString *error)
 {
-    QFile info(m_folder->filePath(QStringLiteral("info.json")));
+    QFile info(m_folder->filePath(u"info.json"_s));
     if (!info.open(QIODevice::WriteOnly) || info.write(json) != json.size())
         return nullptr;
     info.close();
@@ -50,7 +51,7 @@ std::shared_ptr<Bundle> BundleInfoTest::bundleWith(const QByteArray &json, QStri
 
 void BundleInfoTest::aFolderThatDoesNotExistIsNoBundle()
 {
-    const QString path = m_folder->filePath(QStringLiteral("none.bundle"));
+    const QString path = m_folder->filePath(u"none.bundle"_s);
     QString error;
     QVERIFY(!Bundle::open(path, &error));
     QVERIFY2(error.contains(path), qPrintable(error));
@@ -60,18 +61,18 @@ void BundleInfoTest::aFolderThatDoesNotExistIsNoBundle()
 
 void BundleInfoTest::aFileIsNoBundle()
 {
-    QFile file(m_folder->filePath(QStringLiteral("file.bundle")));
+    QFile file(m_folder->filePath(u"file.bundle"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(!Bundle::open(file.fileName()));
 }
 
 void BundleInfoTest::thePathIsCanonical()
 {
-    const QString link = m_folder->filePath(QStringLiteral("link.bundle"));
-    const QString folder = m_folder->filePath(QStringLiteral("real.bundle"));
+    const QString link = m_folder->filePath(u"link.bundle"_s);
+    const QString folder = m_folder->filePath(u"real.bundle"_s);
     QVERIFY(QDir().mkdir(folder));
     QVERIFY(QFile::link(folder, link));
-    QCOMPARE(Bundle::open(link + QStringLiteral("/../link.bundle/"))->path(),
+    QCOMPARE(Bundle::open(link + u"/../link.bundle/"_s)->path(),
              QFileInfo(folder).canonicalFilePath());
 }
 
@@ -83,8 +84,8 @@ void BundleInfoTest::theDictionaryIsRead()
                                    &error);
     QVERIFY2(error.isNull(), qPrintable(error));
     QVERIFY(bundle->infoDictionary());
-    QCOMPARE(bundle->identifier(), QStringLiteral("com.corvana.test"));
-    QCOMPARE(bundle->infoString(kCFBundleNameKey), QStringLiteral("試験"));
+    QCOMPARE(bundle->identifier(), u"com.corvana.test"_s);
+    QCOMPARE(bundle->infoString(kCFBundleNameKey), u"試験"_s);
 }
 
 void BundleInfoTest::aBundleWithoutADictionaryOpensAndHasNone()
@@ -93,7 +94,7 @@ void BundleInfoTest::aBundleWithoutADictionaryOpensAndHasNone()
     const auto bundle = Bundle::open(m_folder->path(), &error);
     QVERIFY(bundle);
     QVERIFY(!bundle->infoDictionary());
-    QVERIFY2(error.contains(QLatin1StringView("info.json")), qPrintable(error));
+    QVERIFY2(error.contains("info.json"_L1), qPrintable(error));
     QVERIFY(bundle->identifier().isNull());
     QVERIFY(!bundle->infoStringList(kCFBundleLocalizationsKey));
     QVERIFY(bundle->localizations().isEmpty());
@@ -103,18 +104,17 @@ void BundleInfoTest::aDictionaryThatCannotBeReadIsNone_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("where");
-    QTest::newRow("empty file") << QByteArray("") << QStringLiteral("info.json:1:");
-    QTest::newRow("no JSON") << QByteArray("CFBundleName = x") << QStringLiteral("info.json:1:");
+    QTest::newRow("empty file") << QByteArray("") << u"info.json:1:"_s;
+    QTest::newRow("no JSON") << QByteArray("CFBundleName = x") << u"info.json:1:"_s;
     QTest::newRow("wrong on the third line")
         << QByteArray("{\n  \"CFBundleName\": \"x\",\n  \"CFBundleIdentifier\": nothing,\n"
                       "  \"a\": 1\n}\n")
-        << QStringLiteral("info.json:3:");
+        << u"info.json:3:"_s;
     QTest::newRow("not UTF-8") << QByteArray("{\n\"CFBundleName\": \"Caf\xe9\"}")
-                               << QStringLiteral("info.json:2:");
-    QTest::newRow("a list") << QByteArray("[\"CFBundleName\"]") << QStringLiteral("info.json:1:");
-    QTest::newRow("a text") << QByteArray("\"CFBundleName\"") << QStringLiteral("info.json:1:");
-    QTest::newRow("rubbish behind the object")
-        << QByteArray("{}\n}\n") << QStringLiteral("info.json:2:");
+                               << u"info.json:2:"_s;
+    QTest::newRow("a list") << QByteArray("[\"CFBundleName\"]") << u"info.json:1:"_s;
+    QTest::newRow("a text") << QByteArray("\"CFBundleName\"") << u"info.json:1:"_s;
+    QTest::newRow("rubbish behind the object") << QByteArray("{}\n}\n") << u"info.json:2:"_s;
 }
 
 void BundleInfoTest::aDictionaryThatCannotBeReadIsNone()
@@ -179,16 +179,14 @@ void BundleInfoTest::anEntryOfAnotherTypeIsNoListOfTexts()
 void BundleInfoTest::aListKeepsItsOrder()
 {
     const auto bundle = bundleWith(R"({"keys": ["b", "a", "b"], "none": []})");
-    QCOMPARE(bundle->infoStringList(QStringLiteral("keys")).value(),
-             (QStringList{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("b")}));
-    QCOMPARE(bundle->infoStringList(QStringLiteral("none")).value(), QStringList());
+    QCOMPARE(bundle->infoStringList(u"keys"_s).value(), (QStringList{u"b"_s, u"a"_s, u"b"_s}));
+    QCOMPARE(bundle->infoStringList(u"none"_s).value(), QStringList());
 }
 
 void BundleInfoTest::theLocalizationsAreThoseDeclared()
 {
     const auto bundle = bundleWith(R"({"CFBundleLocalizations": ["Japanese", "English"]})");
-    QCOMPARE(bundle->localizations(),
-             (QStringList{QStringLiteral("Japanese"), QStringLiteral("English")}));
+    QCOMPARE(bundle->localizations(), (QStringList{u"Japanese"_s, u"English"_s}));
 }
 
 void BundleInfoTest::theShippedDictionaryIsComplete()
@@ -203,7 +201,7 @@ void BundleInfoTest::theShippedDictionaryIsComplete()
     const QStringList localizations = bundle->localizations();
     QVERIFY(!localizations.isEmpty());
     for (const QString &name : localizations) {
-        const QString table = QStringLiteral("%1/strings/%2.qm").arg(bundle->path(), name);
+        const QString table = u"%1/strings/%2.qm"_s.arg(bundle->path(), name);
         QVERIFY2(QFileInfo(table).isFile(), qPrintable(table));
     }
 }

@@ -5,6 +5,7 @@
 #include "platform/foundation/Bundle.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BundleLocalizationsTest : public QObject
 {
@@ -24,8 +25,7 @@ private Q_SLOTS:
 };
 
 namespace {
-const QStringList offered{QStringLiteral("English"), QStringLiteral("Japanese"),
-                          QStringLiteral("zh_CN")};
+const QStringList offered{u"English"_s, u"Japanese"_s, u"zh_CN"_s};
 }
 
 void BundleLocalizationsTest::theEnvironmentChoosesTheLocalization_data()
@@ -66,7 +66,7 @@ void BundleLocalizationsTest::theEnvironmentChoosesTheLocalization()
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     const QStringList all = variables.keys();
     for (const QString &name : all) {
-        if (name.startsWith(QLatin1StringView("LC_")) || name.startsWith(QLatin1StringView("LANG")))
+        if (name.startsWith("LC_"_L1) || name.startsWith("LANG"_L1))
             variables.remove(name);
     }
     for (const QString &assignment : environment)
@@ -83,16 +83,13 @@ void BundleLocalizationsTest::theDefaultLocaleChoosesTheLocalization_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<QString>("first");
-    QTest::newRow("English") << QLocale(QStringLiteral("en_US")) << QStringLiteral("English");
-    QTest::newRow("Japanese") << QLocale(QStringLiteral("ja_JP")) << QStringLiteral("Japanese");
-    QTest::newRow("simplified Chinese")
-        << QLocale(QStringLiteral("zh_CN")) << QStringLiteral("zh_CN");
-    QTest::newRow("Chinese without a region")
-        << QLocale(QLocale::Chinese) << QStringLiteral("zh_CN");
-    QTest::newRow("traditional Chinese")
-        << QLocale(QStringLiteral("zh_TW")) << QStringLiteral("English");
-    QTest::newRow("German") << QLocale(QStringLiteral("de_DE")) << QStringLiteral("English");
-    QTest::newRow("C") << QLocale::c() << QStringLiteral("English");
+    QTest::newRow("English") << QLocale(u"en_US"_s) << u"English"_s;
+    QTest::newRow("Japanese") << QLocale(u"ja_JP"_s) << u"Japanese"_s;
+    QTest::newRow("simplified Chinese") << QLocale(u"zh_CN"_s) << u"zh_CN"_s;
+    QTest::newRow("Chinese without a region") << QLocale(QLocale::Chinese) << u"zh_CN"_s;
+    QTest::newRow("traditional Chinese") << QLocale(u"zh_TW"_s) << u"English"_s;
+    QTest::newRow("German") << QLocale(u"de_DE"_s) << u"English"_s;
+    QTest::newRow("C") << QLocale::c() << u"English"_s;
 }
 
 void BundleLocalizationsTest::theDefaultLocaleChoosesTheLocalization()
@@ -107,13 +104,12 @@ void BundleLocalizationsTest::withoutAMatchTheFirstIsTaken_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QStringList>("localizations");
-    const QStringList japaneseFirst{QStringLiteral("Japanese"), QStringLiteral("English")};
-    QTest::newRow("a language that is not offered") << QStringLiteral("de_DE") << japaneseFirst;
-    QTest::newRow("no language at all") << QStringLiteral("C") << japaneseFirst;
+    const QStringList japaneseFirst{u"Japanese"_s, u"English"_s};
+    QTest::newRow("a language that is not offered") << u"de_DE"_s << japaneseFirst;
+    QTest::newRow("no language at all") << u"C"_s << japaneseFirst;
     // A name that is no language code must not pass for "no language".
     QTest::newRow("a name that is no language")
-        << QStringLiteral("C")
-        << QStringList{QStringLiteral("English"), QStringLiteral("Klingonese")};
+        << u"C"_s << QStringList{u"English"_s, u"Klingonese"_s};
 }
 
 void BundleLocalizationsTest::withoutAMatchTheFirstIsTaken()
@@ -126,10 +122,10 @@ void BundleLocalizationsTest::withoutAMatchTheFirstIsTaken()
 
 void BundleLocalizationsTest::aLocalizationWithoutRegionServesEveryRegion()
 {
-    const QStringList localizations{QStringLiteral("English"), QStringLiteral("de")};
+    const QStringList localizations{u"English"_s, u"de"_s};
     for (const char *locale : {"de_DE", "de_AT", "de_CH"}) {
         QLocale::setDefault(QLocale(QString::fromLatin1(locale)));
-        QCOMPARE(Bundle::preferredLocalizations(localizations), QStringList{QStringLiteral("de")});
+        QCOMPARE(Bundle::preferredLocalizations(localizations), QStringList{u"de"_s});
     }
 }
 
@@ -140,9 +136,9 @@ void BundleLocalizationsTest::noneIsPreferredWhereNoneIsOffered()
 
 void BundleLocalizationsTest::eachLocalizationIsPreferredOnce()
 {
-    QLocale::setDefault(QLocale(QStringLiteral("ja_JP")));
+    QLocale::setDefault(QLocale(u"ja_JP"_s));
     const QStringList preferred = Bundle::preferredLocalizations(offered);
-    QCOMPARE(preferred.count(QStringLiteral("Japanese")), 1);
+    QCOMPARE(preferred.count(u"Japanese"_s), 1);
 }
 
 QTEST_GUILESS_MAIN(BundleLocalizationsTest)

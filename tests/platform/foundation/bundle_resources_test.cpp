@@ -5,6 +5,7 @@
 #include "platform/foundation/Bundle.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BundleResourcesTest : public QObject
 {
@@ -46,14 +47,14 @@ void BundleResourcesTest::init()
 {
     m_root = std::make_unique<QTemporaryDir>();
     QDir root(m_root->path());
-    QVERIFY(root.mkpath(QStringLiteral("Test.bundle/interface/sub")));
-    QVERIFY(root.mkpath(QStringLiteral("Test.bundle/pictures/folder.tiff")));
+    QVERIFY(root.mkpath(u"Test.bundle/interface/sub"_s));
+    QVERIFY(root.mkpath(u"Test.bundle/pictures/folder.tiff"_s));
     for (const char *name :
          {"outside.ui", "outside.tiff", "Test.bundle/stray.ui", "Test.bundle/interface/Panel.ui",
           "Test.bundle/interface/.hidden.ui", "Test.bundle/interface/sub/Deep.ui",
           "Test.bundle/interface/a%1b.ui", "Test.bundle/pictures/load.tiff"})
         write(QString::fromLatin1(name));
-    m_bundle = Bundle::open(root.filePath(QStringLiteral("Test.bundle")));
+    m_bundle = Bundle::open(root.filePath(u"Test.bundle"_s));
     QVERIFY(m_bundle);
 }
 
@@ -65,29 +66,29 @@ void BundleResourcesTest::write(const QString &name)
 
 void BundleResourcesTest::anInterfaceFileLiesInItsFolder()
 {
-    QCOMPARE(m_bundle->pathForResource(QStringLiteral("Panel"), QStringLiteral("ui")),
-             m_bundle->path() + QStringLiteral("/interface/Panel.ui"));
-    QCOMPARE(m_bundle->pathForResource(QStringLiteral("a%1b"), QStringLiteral("ui")),
-             m_bundle->path() + QStringLiteral("/interface/a%1b.ui"));
+    QCOMPARE(m_bundle->pathForResource(u"Panel"_s, u"ui"_s),
+             m_bundle->path() + u"/interface/Panel.ui"_s);
+    QCOMPARE(m_bundle->pathForResource(u"a%1b"_s, u"ui"_s),
+             m_bundle->path() + u"/interface/a%1b.ui"_s);
 }
 
 void BundleResourcesTest::everythingElseLiesAmongThePictures()
 {
-    QCOMPARE(m_bundle->pathForResource(QStringLiteral("load"), QStringLiteral("tiff")),
-             m_bundle->path() + QStringLiteral("/pictures/load.tiff"));
+    QCOMPARE(m_bundle->pathForResource(u"load"_s, u"tiff"_s),
+             m_bundle->path() + u"/pictures/load.tiff"_s);
 }
 
 void BundleResourcesTest::aMissingResourceIsNull_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("type");
-    QTest::newRow("no such file") << QStringLiteral("Nobody") << QStringLiteral("ui");
-    QTest::newRow("in the other folder") << QStringLiteral("load") << QStringLiteral("ui");
-    QTest::newRow("of another type") << QStringLiteral("load") << QStringLiteral("png");
-    QTest::newRow("a folder") << QStringLiteral("folder") << QStringLiteral("tiff");
-    QTest::newRow("other case") << QStringLiteral("panel") << QStringLiteral("ui");
-    QTest::newRow("no name") << QString() << QStringLiteral("ui");
-    QTest::newRow("no type") << QStringLiteral("load") << QString();
+    QTest::newRow("no such file") << u"Nobody"_s << u"ui"_s;
+    QTest::newRow("in the other folder") << u"load"_s << u"ui"_s;
+    QTest::newRow("of another type") << u"load"_s << u"png"_s;
+    QTest::newRow("a folder") << u"folder"_s << u"tiff"_s;
+    QTest::newRow("other case") << u"panel"_s << u"ui"_s;
+    QTest::newRow("no name") << QString() << u"ui"_s;
+    QTest::newRow("no type") << u"load"_s << QString();
 }
 
 void BundleResourcesTest::aMissingResourceIsNull()
@@ -101,16 +102,12 @@ void BundleResourcesTest::aNameThatLeavesTheFolderFindsNothing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("type");
-    QTest::newRow("parent of the bundle")
-        << QStringLiteral("../../outside") << QStringLiteral("ui");
-    QTest::newRow("parent in the middle")
-        << QStringLiteral("sub/../../stray") << QStringLiteral("ui");
-    QTest::newRow("sub-folder") << QStringLiteral("sub/Deep") << QStringLiteral("ui");
-    QTest::newRow("hidden file") << QStringLiteral(".hidden") << QStringLiteral("ui");
-    QTest::newRow("absolute") << m_root->filePath(QStringLiteral("outside"))
-                              << QStringLiteral("ui");
-    QTest::newRow("through the type")
-        << QStringLiteral("folder") << QStringLiteral("tiff/../../stray.ui");
+    QTest::newRow("parent of the bundle") << u"../../outside"_s << u"ui"_s;
+    QTest::newRow("parent in the middle") << u"sub/../../stray"_s << u"ui"_s;
+    QTest::newRow("sub-folder") << u"sub/Deep"_s << u"ui"_s;
+    QTest::newRow("hidden file") << u".hidden"_s << u"ui"_s;
+    QTest::newRow("absolute") << m_root->filePath(u"outside"_s) << u"ui"_s;
+    QTest::newRow("through the type") << u"folder"_s << u"tiff/../../stray.ui"_s;
 }
 
 void BundleResourcesTest::aNameThatLeavesTheFolderFindsNothing()
@@ -132,7 +129,7 @@ void BundleResourcesTest::codeThatNobodyAssociatedHasNoBundle()
 void BundleResourcesTest::aModuleThatDoesNotExistIsNotMistakenForTheProgram()
 {
     Bundle::associateModule(QCoreApplication::applicationFilePath(), nullptr);
-    Bundle::associateModule(m_root->filePath(QStringLiteral("no-such-module.so")), m_bundle);
+    Bundle::associateModule(m_root->filePath(u"no-such-module.so"_s), m_bundle);
     QVERIFY(!Bundle::bundleForCode(address(&someCode)));
 }
 

@@ -3,6 +3,7 @@
 #include "platform/foundation/NotificationCenter.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class NotificationCenterTest : public QObject
 {
@@ -30,8 +31,8 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString name = QStringLiteral("PMPaperDidChange");
-const QString otherName = QStringLiteral("PMPaperWillChange");
+const QString name = u"PMPaperDidChange"_s;
+const QString otherName = u"PMPaperWillChange"_s;
 } // namespace
 
 void NotificationCenterTest::deliveryIsAtOnceAndInTheOrderOfRegistration()
@@ -40,12 +41,10 @@ void NotificationCenterTest::deliveryIsAtOnceAndInTheOrderOfRegistration()
     QStringList heard;
     int a = 0;
     int b = 0;
-    center.addObserver(&b, name, nullptr,
-                       [&](const Notification &) { heard += QStringLiteral("b"); });
-    center.addObserver(&a, name, nullptr,
-                       [&](const Notification &) { heard += QStringLiteral("a"); });
+    center.addObserver(&b, name, nullptr, [&](const Notification &) { heard += u"b"_s; });
+    center.addObserver(&a, name, nullptr, [&](const Notification &) { heard += u"a"_s; });
     center.post(name, nullptr);
-    QCOMPARE(heard, (QStringList{QStringLiteral("b"), QStringLiteral("a")}));
+    QCOMPARE(heard, (QStringList{u"b"_s, u"a"_s}));
 }
 
 void NotificationCenterTest::onlyTheNameThatWasAskedForIsDelivered()
@@ -97,7 +96,7 @@ void NotificationCenterTest::theUserInformationIsDelivered()
     NotificationCenter center;
     Notification heard;
     center.addObserver(this, name, nullptr, [&](const Notification &n) { heard = n; });
-    const QVariantMap information{{QStringLiteral("key"), 3}};
+    const QVariantMap information{{u"key"_s, 3}};
     center.post(name, this, information);
     QCOMPARE(heard.name, name);
     QCOMPARE(heard.sender, static_cast<void *>(this));
@@ -159,8 +158,7 @@ void NotificationCenterTest::removingOneRegistrationKeepsTheOthers()
     center.removeObserver(this, name, &sender);
     center.post(name, &sender);
     center.post(otherName, &sender);
-    QCOMPARE(heard, (QStringList{QStringLiteral("any sender"), QStringLiteral("other observer"),
-                                 QStringLiteral("other name")}));
+    QCOMPARE(heard, (QStringList{u"any sender"_s, u"other observer"_s, u"other name"_s}));
 }
 
 void NotificationCenterTest::removingWhatWasNeverRegisteredIsNoError()
@@ -226,7 +224,7 @@ void NotificationCenterTest::anObserverMayRemoveItselfInItsHandler()
 {
     NotificationCenter center;
     QString heard;
-    const QString token = QStringLiteral("kept by the handler");
+    const QString token = u"kept by the handler"_s;
     center.addObserver(this, name, nullptr, [&center, &heard, token, this](const Notification &n) {
         center.removeObserver(this);
         heard = token + n.name; // what the handler holds must still be there
@@ -243,15 +241,14 @@ void NotificationCenterTest::aHandlerMayPostAgain()
     NotificationCenter center;
     QStringList heard;
     center.addObserver(this, name, nullptr, [&](const Notification &) {
-        heard += QStringLiteral("before");
+        heard += u"before"_s;
         center.post(otherName, nullptr);
-        heard += QStringLiteral("after");
+        heard += u"after"_s;
     });
     center.addObserver(this, otherName, nullptr,
-                       [&](const Notification &) { heard += QStringLiteral("inner"); });
+                       [&](const Notification &) { heard += u"inner"_s; });
     center.post(name, nullptr);
-    QCOMPARE(heard, (QStringList{QStringLiteral("before"), QStringLiteral("inner"),
-                                 QStringLiteral("after")}));
+    QCOMPARE(heard, (QStringList{u"before"_s, u"inner"_s, u"after"_s}));
 }
 
 void NotificationCenterTest::anExceptionOfAHandlerReachesThePoster()

@@ -3,6 +3,7 @@
 #include "platform/foundation/ValueTransformer.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class ValueTransformerTest : public QObject
 {
@@ -10,7 +11,7 @@ class ValueTransformerTest : public QObject
 
 private Q_SLOTS:
     // A look-up that finds nothing is no error, so its message is off unless asked for.
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("corvana.*.info=true")); }
+    void initTestCase() { QLoggingCategory::setFilterRules(u"corvana.*.info=true"_s); }
     void aRegisteredTransformerIsFound();
     void aLaterRegistrationReplacesTheEarlier();
     void theRegistryKeepsItsTransformersAlive();
@@ -72,8 +73,8 @@ void ValueTransformerTest::theRegistryKeepsItsTransformersAlive()
 
 void ValueTransformerTest::anUnknownTransformerIsNullAndLogged()
 {
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("NobodyTransformer")));
-    QVERIFY(!ValueTransformer::valueTransformerForName(QStringLiteral("NobodyTransformer")));
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"NobodyTransformer"_s));
+    QVERIFY(!ValueTransformer::valueTransformerForName(u"NobodyTransformer"_s));
 }
 
 void ValueTransformerTest::namesAreCaseSensitive()

@@ -6,6 +6,7 @@
 #include "platform/foundation/Values.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class ValuesTest : public QObject
 {
@@ -220,8 +221,8 @@ void ValuesTest::anythingElseIsZeroAndFalse_data()
     QTest::newRow("null pointer") << QVariant::fromValue(nullptr);
     QTest::newRow("bytes") << QVariant(QByteArray("12"));
     QTest::newRow("character") << QVariant(QChar(u'7'));
-    QTest::newRow("list") << QVariant(QStringList{QStringLiteral("12")});
-    QTest::newRow("map") << QVariant(QVariantMap{{QStringLiteral("a"), 1}});
+    QTest::newRow("list") << QVariant(QStringList{u"12"_s});
+    QTest::newRow("map") << QVariant(QVariantMap{{u"a"_s, 1}});
     QTest::newRow("date") << QVariant(QDate(2020, 1, 1));
 }
 

@@ -6,6 +6,7 @@
 #include "platform/imaging/ImageFilter.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class ImageFilterTest : public QObject
 {
@@ -218,9 +219,9 @@ void ImageFilterTest::parametersAreReadAsTheyWereSet()
     QCOMPARE(controls->valueForKey(kCIInputBrightnessKey).typeId(), int(QMetaType::Float));
     QVERIFY(controls->valueForKey(kCIInputImageKey).value<FilterImage>().isNull());
 
-    const auto matrix = ImageFilter::filterWithName(QStringLiteral("CIColorMatrix"));
+    const auto matrix = ImageFilter::filterWithName(u"CIColorMatrix"_s);
     const FilterVector vector{-20 / 35.0 + 1, 0, 0};
-    matrix->setValue_forKey(vector, QStringLiteral("inputRVector"));
+    matrix->setValue_forKey(vector, u"inputRVector"_s);
     QVERIFY(matrix->valueForKey("inputRVector").value<FilterVector>() == vector);
     QVERIFY(matrix->valueForKey("inputBiasVector").value<FilterVector>() == FilterVector{});
 
@@ -246,7 +247,7 @@ void ImageFilterTest::withoutAnImageThereIsNoOutput()
 
 void ImageFilterTest::anUnknownFilterIsNoneAndLogged()
 {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("CIUnheardOf")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"CIUnheardOf"_s));
     QVERIFY(!ImageFilter::filterWithName("CIUnheardOf"));
 }
 
@@ -254,12 +255,12 @@ void ImageFilterTest::anUnknownKeyIsIgnoredAndLogged()
 {
     const auto filter = ImageFilter::filterWithName(kCIColorControls);
     filter->setValue_forKey(picture(QColor(200, 100, 50)), kCIInputImageKey);
-    const QRegularExpression message(QStringLiteral("CIColorControls.*inputRVector"));
+    const QRegularExpression message(u"CIColorControls.*inputRVector"_s);
     QTest::ignoreMessage(QtWarningMsg, message);
     filter->setValue_forKey(FilterVector{0.5, 0, 0}, kCIInputRVectorKey);
     QTest::ignoreMessage(QtWarningMsg, message);
     QVERIFY(!filter->valueForKey(kCIInputRVectorKey).isValid());
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("outputImage")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"outputImage"_s));
     filter->setValue_forKey(picture(Qt::black), kCIOutputImageKey);
     QCOMPARE(color(filter->outputImage()), QColor(200, 100, 50));
 }
@@ -274,7 +275,7 @@ void ImageFilterTest::anUnusableValueIsIgnoredAndLogged_data()
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
     row("nothing", kCIColorControls, kCIInputContrastKey, QVariant());
-    row("text", kCIColorControls, kCIInputContrastKey, QStringLiteral("2"));
+    row("text", kCIColorControls, kCIInputContrastKey, u"2"_s);
     row("vector for a number", kCIColorControls, kCIInputContrastKey, FilterVector{2, 2, 2});
     row("endless number", kCIColorControls, kCIInputContrastKey, kInfinity);
     row("no number", kCIColorControls, kCIInputBrightnessKey, kNone);
@@ -283,7 +284,7 @@ void ImageFilterTest::anUnusableValueIsIgnoredAndLogged_data()
     row("red from alpha", kCIColorMatrix, kCIInputRVectorKey, FilterVector{0.5, 0, 0, 1});
     row("more alpha", kCIColorMatrix, kCIInputBiasVectorKey, FilterVector{0, 0, 0, 1});
     row("invalid colour", kCIColorMonochrome, kCIInputColorKey, QColor());
-    row("text for a colour", kCIColorMonochrome, kCIInputColorKey, QStringLiteral("white"));
+    row("text for a colour", kCIColorMonochrome, kCIInputColorKey, u"white"_s);
     row("picture without filters", kCIColorMatrix, kCIInputImageKey,
         QImage(2, 2, QImage::Format_RGB32));
 }

@@ -15,6 +15,7 @@
 
 using namespace corvana;
 using namespace corvana::test;
+using namespace Qt::StringLiterals;
 
 class PixelKernelTest : public QObject
 {
@@ -326,7 +327,7 @@ void PixelKernelTest::aPixelDoesNotDependOnItsPlace()
                         {reinterpret_cast<uchar *>(result.data() + start), 4 * strideOfResult},
                         QSize(width, kHeight), form);
                     QVERIFY2(result == expected,
-                             qPrintable(QStringLiteral("%1: %2 wide, from %3, gaps %4 and %5")
+                             qPrintable(u"%1: %2 wide, from %3, gaps %4 and %5"_s
                                             .arg(QLatin1StringView(target))
                                             .arg(width)
                                             .arg(start)

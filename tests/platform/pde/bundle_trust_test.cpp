@@ -13,6 +13,7 @@
 #include "BundleFolder.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BundleTrustTest : public QObject
 {
@@ -73,9 +74,9 @@ std::optional<gid_t> groupOfOthers()
 void addTrustRows()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("module") << QStringLiteral("first/Test.bundle/module/test.so");
-    QTest::newRow("folder of the module") << QStringLiteral("first/Test.bundle/module");
-    QTest::newRow("bundle") << QStringLiteral("first/Test.bundle");
+    QTest::newRow("module") << u"first/Test.bundle/module/test.so"_s;
+    QTest::newRow("folder of the module") << u"first/Test.bundle/module"_s;
+    QTest::newRow("bundle") << u"first/Test.bundle"_s;
 }
 
 } // namespace
@@ -83,13 +84,13 @@ void addTrustRows()
 void BundleTrustTest::init()
 {
     m_folder = std::make_unique<BundleFolder>();
-    QVERIFY(BundleFolder::makeBundle(place("first/Test.bundle"), QStringLiteral("Good"),
+    QVERIFY(BundleFolder::makeBundle(place("first/Test.bundle"), u"Good"_s,
                                      BundleFolder::info("module/test.so")));
 }
 
 void BundleTrustTest::loadAndCompareRefused(const QString &reason)
 {
-    const LoadedPlugIn loaded = loadPlugInBundle(QStringLiteral("Test.bundle"), {m_folder->root()});
+    const LoadedPlugIn loaded = loadPlugInBundle(u"Test.bundle"_s, {m_folder->root()});
     QVERIFY(!loaded.plugIn);
     QVERIFY2(loaded.problem.contains(reason), qPrintable(loaded.problem));
     QCOMPARE(m_folder->marks(), 0);
@@ -97,7 +98,7 @@ void BundleTrustTest::loadAndCompareRefused(const QString &reason)
 
 bool BundleTrustTest::loads(const QStringList &roots)
 {
-    const LoadedPlugIn loaded = loadPlugInBundle(QStringLiteral("Test.bundle"), roots);
+    const LoadedPlugIn loaded = loadPlugInBundle(u"Test.bundle"_s, roots);
     return loaded.plugIn && m_folder->marks() == 1;
 }
 
@@ -115,7 +116,7 @@ void BundleTrustTest::whatEverybodyCanWriteIsRefused()
 {
     QFETCH(QString, name);
     QVERIFY(QFile::setPermissions(m_folder->path(name), kEverybody));
-    loadAndCompareRefused(name + QStringLiteral(" can be written by everybody"));
+    loadAndCompareRefused(name + u" can be written by everybody"_s);
 }
 
 void BundleTrustTest::whatAGroupCanWriteIsRefused_data()
@@ -131,7 +132,7 @@ void BundleTrustTest::whatAGroupCanWriteIsRefused()
     if (!group || ::chown(file.constData(), uid_t(-1), *group) != 0)
         QSKIP("only the superuser, or a member, can give a file to a group");
     QVERIFY(QFile::setPermissions(m_folder->path(name), kGroup));
-    loadAndCompareRefused(name + QStringLiteral(" can be written by the group "));
+    loadAndCompareRefused(name + u" can be written by the group "_s);
 }
 
 // As with a umask of 002, where every user has a group of the same name.
@@ -161,21 +162,21 @@ void BundleTrustTest::whatAnotherUserOwnsIsRefused()
     const QByteArray file = QFile::encodeName(m_folder->path(name));
     if (::geteuid() != 0 || ::chown(file.constData(), kNobody, gid_t(-1)) != 0)
         QSKIP("only the superuser can give a file away");
-    loadAndCompareRefused(name + QStringLiteral(" belongs to another user"));
+    loadAndCompareRefused(name + u" belongs to another user"_s);
 }
 
 void BundleTrustTest::aBundleThatIsALinkOutOfTheRootIsRefused()
 {
     QVERIFY(QDir().rename(place("first/Test.bundle"), place("elsewhere.bundle")));
     QVERIFY(QFile::link(place("elsewhere.bundle"), place("first/Test.bundle")));
-    loadAndCompareRefused(QStringLiteral("leads out of the trusted folder"));
+    loadAndCompareRefused(u"leads out of the trusted folder"_s);
 }
 
 void BundleTrustTest::aLinkOutOfTheRootIsRefusedEvenIntoTheOtherRoot()
 {
     QVERIFY(QDir().rename(place("first/Test.bundle"), place("second/Real.bundle")));
     QVERIFY(QFile::link(place("second/Real.bundle"), place("first/Test.bundle")));
-    const LoadedPlugIn loaded = loadPlugInBundle(QStringLiteral("Test.bundle"), m_folder->roots());
+    const LoadedPlugIn loaded = loadPlugInBundle(u"Test.bundle"_s, m_folder->roots());
     QVERIFY(!loaded.plugIn);
     QCOMPARE(m_folder->marks(), 0);
 }
@@ -184,14 +185,14 @@ void BundleTrustTest::aModuleThatIsALinkOutOfTheBundleIsRefused()
 {
     QVERIFY(QFile::rename(place("first/Test.bundle/module/test.so"), place("first/test.so")));
     QVERIFY(QFile::link(place("first/test.so"), place("first/Test.bundle/module/test.so")));
-    loadAndCompareRefused(QStringLiteral("leads out of the bundle"));
+    loadAndCompareRefused(u"leads out of the bundle"_s);
 }
 
 void BundleTrustTest::aModuleFolderThatIsALinkOutOfTheBundleIsRefused()
 {
     QVERIFY(QDir().rename(place("first/Test.bundle/module"), place("first/module")));
     QVERIFY(QFile::link(place("first/module"), place("first/Test.bundle/module")));
-    loadAndCompareRefused(QStringLiteral("leads out of the bundle"));
+    loadAndCompareRefused(u"leads out of the bundle"_s);
 }
 
 void BundleTrustTest::aLinkInsideTheRootIsFollowed()
@@ -208,14 +209,14 @@ void BundleTrustTest::theTargetOfALinkMustBeTrustedToo()
     QVERIFY(QFile::link(place("first/versions/Test.bundle"), place("first/Test.bundle")));
     // Whoever writes here can replace the whole bundle.
     QVERIFY(QFile::setPermissions(place("first/versions"), kEverybody));
-    loadAndCompareRefused(QStringLiteral("first/versions can be written by everybody"));
+    loadAndCompareRefused(u"first/versions can be written by everybody"_s);
 }
 
 void BundleTrustTest::aRootThatIsALinkIsFollowed()
 {
     QVERIFY(QFile::link(m_folder->root(), place("link")));
     QVERIFY(loads({place("link")}));
-    QVERIFY(loadPlugInBundle(QStringLiteral("Test.bundle"), {place("link/../first/")}).plugIn);
+    QVERIFY(loadPlugInBundle(u"Test.bundle"_s, {place("link/../first/")}).plugIn);
 }
 
 void BundleTrustTest::permissionsAboveTheRootDoNotMatter()

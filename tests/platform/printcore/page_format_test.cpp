@@ -3,6 +3,7 @@
 #include "platform/printcore/PageFormat.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class PageFormatTest : public QObject
 {
@@ -23,8 +24,8 @@ private Q_SLOTS:
 
 namespace {
 
-const Paper a4{QStringLiteral("A4"), QStringLiteral("A4.Full"), 595.0, 842.0};
-const QString untouched = QStringLiteral("untouched");
+const Paper a4{u"A4"_s, u"A4.Full"_s, 595.0, 842.0};
+const QString untouched = u"untouched"_s;
 
 } // namespace
 
@@ -48,14 +49,14 @@ void PageFormatTest::theNameIsAnswered()
 {
     QString name;
     QCOMPARE(PMPaperGetName(&a4, &name), kPMNoError);
-    QCOMPARE(name, QStringLiteral("A4"));
+    QCOMPARE(name, u"A4"_s);
 }
 
 void PageFormatTest::thePpdNameIsAnswered()
 {
     QString name;
     QCOMPARE(PMPaperGetPPDPaperName(&a4, &name), kPMNoError);
-    QCOMPARE(name, QStringLiteral("A4.Full"));
+    QCOMPARE(name, u"A4.Full"_s);
 }
 
 void PageFormatTest::theSizeIsInPoints()
@@ -70,7 +71,7 @@ void PageFormatTest::theSizeIsInPoints()
 
 void PageFormatTest::aPaperWithoutANameHasNoneToGive()
 {
-    const Paper nameless{{}, QStringLiteral("A4"), 595.0, 842.0};
+    const Paper nameless{{}, u"A4"_s, 595.0, 842.0};
     QString name = untouched;
     QCOMPARE(PMPaperGetName(&nameless, &name), kPMValueUnavailable);
     QCOMPARE(name, untouched);
@@ -78,7 +79,7 @@ void PageFormatTest::aPaperWithoutANameHasNoneToGive()
 
 void PageFormatTest::aSizeThatThePpdLacksHasNoPpdName()
 {
-    const Paper custom{QStringLiteral("Custom.200x300"), std::nullopt, 200.0, 300.0};
+    const Paper custom{u"Custom.200x300"_s, std::nullopt, 200.0, 300.0};
     QString name = untouched;
     QCOMPARE(PMPaperGetPPDPaperName(&custom, &name), kPMValueUnavailable);
     QCOMPARE(name, untouched);
@@ -107,7 +108,7 @@ void PageFormatTest::pageFormatsAreComparedByValue()
 {
     const PageFormat format{a4};
     QVERIFY(format == PageFormat{a4});
-    const Paper variants[] = {{QStringLiteral("A5"), a4.ppdPaperName, a4.width, a4.height},
+    const Paper variants[] = {{u"A5"_s, a4.ppdPaperName, a4.width, a4.height},
                               {a4.name, std::nullopt, a4.width, a4.height},
                               {a4.name, a4.ppdPaperName, a4.width + 1, a4.height},
                               {a4.name, a4.ppdPaperName, a4.width, a4.height + 1}};

@@ -5,6 +5,7 @@
 #include "platform/printcore/Ppd.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -81,24 +82,24 @@ void PpdTest::initTestCase()
 
 void PpdTest::anOptionIsFoundByItsKeyword()
 {
-    const ppd_option_t *option = ppdOption(m_ppd.get(), QStringLiteral("QXMediaType"));
+    const ppd_option_t *option = ppdOption(m_ppd.get(), u"QXMediaType"_s);
     QVERIFY(option);
-    QCOMPARE(ppdKeyword(option->keyword), QStringLiteral("QXMediaType"));
+    QCOMPARE(ppdKeyword(option->keyword), u"QXMediaType"_s);
 }
 
 void PpdTest::whatIsNoKeywordFindsNothing_data()
 {
     QTest::addColumn<QString>("keyword");
-    QTest::newRow("unknown") << QStringLiteral("QXNoSuch");
-    QTest::newRow("other case") << QStringLiteral("qxmediatype");
-    QTest::newRow("one letter in the other case") << QStringLiteral("QXMediatype");
-    QTest::newRow("prefix") << QStringLiteral("QXMedia");
-    QTest::newRow("trailing blank") << QStringLiteral("QXMediaType ");
-    QTest::newRow("Latin-1 letter") << QStringLiteral("QXN\u00e9");
-    QTest::newRow("Japanese") << QStringLiteral("用紙");
-    QTest::newRow("full-width letters") << QStringLiteral("ＱＸMediaType");
-    QTest::newRow("null character inside") << QStringLiteral("QXMediaType\0x").left(12);
-    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("unknown") << u"QXNoSuch"_s;
+    QTest::newRow("other case") << u"qxmediatype"_s;
+    QTest::newRow("one letter in the other case") << u"QXMediatype"_s;
+    QTest::newRow("prefix") << u"QXMedia"_s;
+    QTest::newRow("trailing blank") << u"QXMediaType "_s;
+    QTest::newRow("Latin-1 letter") << u"QXN\u00e9"_s;
+    QTest::newRow("Japanese") << u"用紙"_s;
+    QTest::newRow("full-width letters") << u"ＱＸMediaType"_s;
+    QTest::newRow("null character inside") << u"QXMediaType\0x"_s.left(12);
+    QTest::newRow("empty") << u""_s;
     QTest::newRow("null") << QString();
 }
 
@@ -120,14 +121,14 @@ void PpdTest::nothingIsMarkedBeforeTheDefaultsAre()
     const std::unique_ptr<ppd_file_t, Closer> fresh(
         ppdOpenFile(QFile::encodeName(file.fileName()).constData()));
     QVERIFY(fresh);
-    QVERIFY(!ppdMarkedChoice(fresh.get(), QStringLiteral("QXMediaType")));
+    QVERIFY(!ppdMarkedChoice(fresh.get(), u"QXMediaType"_s));
 }
 
 void PpdTest::theMarkedChoiceIsAnswered()
 {
     ppdMarkDefaults(m_ppd.get());
     ppdMarkOption(m_ppd.get(), "QXMediaType", "Thick");
-    const ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), QStringLiteral("QXMediaType"));
+    const ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), u"QXMediaType"_s);
     QVERIFY(marked);
     QCOMPARE(marked->choice, "Thick");
 }
@@ -136,7 +137,7 @@ void PpdTest::aCustomMarkIsTheChoiceCustom()
 {
     ppdMarkDefaults(m_ppd.get());
     ppdMarkOption(m_ppd.get(), "QXSleepTime", "Custom.12");
-    const ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), QStringLiteral("QXSleepTime"));
+    const ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), u"QXSleepTime"_s);
     QVERIFY(marked);
     QCOMPARE(marked->choice, "Custom");
 }
@@ -145,13 +146,13 @@ void PpdTest::aChoiceIsFoundByItsExactKeyword_data()
 {
     QTest::addColumn<QString>("choice");
     QTest::addColumn<bool>("found");
-    QTest::newRow("first") << QStringLiteral("Plain") << true;
-    QTest::newRow("second") << QStringLiteral("Thick") << true;
-    QTest::newRow("other case") << QStringLiteral("plain") << false;
-    QTest::newRow("prefix") << QStringLiteral("Pla") << false;
-    QTest::newRow("its text") << QStringLiteral("Plain Paper") << false;
-    QTest::newRow("Latin-1 letter") << QStringLiteral("Caf\u00e9") << false;
-    QTest::newRow("empty") << QStringLiteral("") << false;
+    QTest::newRow("first") << u"Plain"_s << true;
+    QTest::newRow("second") << u"Thick"_s << true;
+    QTest::newRow("other case") << u"plain"_s << false;
+    QTest::newRow("prefix") << u"Pla"_s << false;
+    QTest::newRow("its text") << u"Plain Paper"_s << false;
+    QTest::newRow("Latin-1 letter") << u"Caf\u00e9"_s << false;
+    QTest::newRow("empty") << u""_s << false;
     QTest::newRow("null") << QString() << false;
 }
 
@@ -159,8 +160,7 @@ void PpdTest::aChoiceIsFoundByItsExactKeyword()
 {
     QFETCH(QString, choice);
     QFETCH(bool, found);
-    const ppd_choice_t *answer =
-        ppdChoice(ppdOption(m_ppd.get(), QStringLiteral("QXMediaType")), choice);
+    const ppd_choice_t *answer = ppdChoice(ppdOption(m_ppd.get(), u"QXMediaType"_s), choice);
     QCOMPARE(answer != nullptr, found);
     if (answer)
         QCOMPARE(ppdKeyword(answer->choice), choice);
@@ -168,15 +168,14 @@ void PpdTest::aChoiceIsFoundByItsExactKeyword()
 
 void PpdTest::aChoiceOfNoOptionIsNone()
 {
-    QVERIFY(!ppdChoice(nullptr, QStringLiteral("Plain")));
+    QVERIFY(!ppdChoice(nullptr, u"Plain"_s));
 }
 
 void PpdTest::theCustomParameterIsFound()
 {
-    QVERIFY(ppdHasCustomOption(m_ppd.get(), QStringLiteral("QXSleepTime")));
-    QVERIFY(!ppdHasCustomOption(m_ppd.get(), QStringLiteral("QXMediaType")));
-    const ppd_cparam_t *time =
-        ppdCustomParameter(m_ppd.get(), QStringLiteral("QXSleepTime"), QStringLiteral("Time"));
+    QVERIFY(ppdHasCustomOption(m_ppd.get(), u"QXSleepTime"_s));
+    QVERIFY(!ppdHasCustomOption(m_ppd.get(), u"QXMediaType"_s));
+    const ppd_cparam_t *time = ppdCustomParameter(m_ppd.get(), u"QXSleepTime"_s, u"Time"_s);
     QVERIFY(time);
     QCOMPARE(time->minimum.custom_int, 1);
     QCOMPARE(time->maximum.custom_int, 99);
@@ -186,17 +185,15 @@ void PpdTest::aCustomParameterNeedsExactNames_data()
 {
     QTest::addColumn<QString>("keyword");
     QTest::addColumn<QString>("name");
-    const QString sleep = QStringLiteral("QXSleepTime");
-    QTest::newRow("option without custom values")
-        << QStringLiteral("QXMediaType") << QStringLiteral("Time");
-    QTest::newRow("unknown option") << QStringLiteral("QXNoSuch") << QStringLiteral("Time");
-    QTest::newRow("option in other case")
-        << QStringLiteral("qxsleeptime") << QStringLiteral("Time");
-    QTest::newRow("unknown parameter") << sleep << QStringLiteral("Minutes");
-    QTest::newRow("parameter in other case") << sleep << QStringLiteral("time");
-    QTest::newRow("parameter not ASCII") << sleep << QStringLiteral("Tim\u00e9");
-    QTest::newRow("empty parameter") << sleep << QStringLiteral("");
-    QTest::newRow("empty option") << QString() << QStringLiteral("Time");
+    const QString sleep = u"QXSleepTime"_s;
+    QTest::newRow("option without custom values") << u"QXMediaType"_s << u"Time"_s;
+    QTest::newRow("unknown option") << u"QXNoSuch"_s << u"Time"_s;
+    QTest::newRow("option in other case") << u"qxsleeptime"_s << u"Time"_s;
+    QTest::newRow("unknown parameter") << sleep << u"Minutes"_s;
+    QTest::newRow("parameter in other case") << sleep << u"time"_s;
+    QTest::newRow("parameter not ASCII") << sleep << u"Tim\u00e9"_s;
+    QTest::newRow("empty parameter") << sleep << u""_s;
+    QTest::newRow("empty option") << QString() << u"Time"_s;
 }
 
 void PpdTest::aCustomParameterNeedsExactNames()
@@ -208,10 +205,10 @@ void PpdTest::aCustomParameterNeedsExactNames()
 
 void PpdTest::aMissingPpdHasNothing()
 {
-    QVERIFY(!ppdOption(nullptr, QStringLiteral("QXMediaType")));
-    QVERIFY(!ppdMarkedChoice(nullptr, QStringLiteral("QXMediaType")));
-    QVERIFY(!ppdHasCustomOption(nullptr, QStringLiteral("QXSleepTime")));
-    QVERIFY(!ppdCustomParameter(nullptr, QStringLiteral("QXSleepTime"), QStringLiteral("Time")));
+    QVERIFY(!ppdOption(nullptr, u"QXMediaType"_s));
+    QVERIFY(!ppdMarkedChoice(nullptr, u"QXMediaType"_s));
+    QVERIFY(!ppdHasCustomOption(nullptr, u"QXSleepTime"_s));
+    QVERIFY(!ppdCustomParameter(nullptr, u"QXSleepTime"_s, u"Time"_s));
 }
 
 void PpdTest::aTextIsDecodedStrictly_data()
@@ -219,12 +216,10 @@ void PpdTest::aTextIsDecodedStrictly_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("readable");
     QTest::addColumn<QString>("text");
-    QTest::newRow("ASCII") << QByteArray("Plain Paper") << true << QStringLiteral("Plain Paper");
+    QTest::newRow("ASCII") << QByteArray("Plain Paper") << true << u"Plain Paper"_s;
     QTest::newRow("empty") << QByteArray("") << true << QString();
-    QTest::newRow("Japanese") << QByteArray("\xe7\x94\xa8\xe7\xb4\x99") << true
-                              << QStringLiteral("用紙");
-    QTest::newRow("outside the basic plane")
-        << QByteArray("\xf0\xa0\xae\xb7") << true << QStringLiteral("𠮷");
+    QTest::newRow("Japanese") << QByteArray("\xe7\x94\xa8\xe7\xb4\x99") << true << u"用紙"_s;
+    QTest::newRow("outside the basic plane") << QByteArray("\xf0\xa0\xae\xb7") << true << u"𠮷"_s;
     QTest::newRow("Latin-1") << QByteArray("Caf\xe9 noir") << false << QString();
     QTest::newRow("Shift JIS") << QByteArray("\x97\x70\x8e\x86") << false << QString();
     QTest::newRow("cut in the middle of a letter") << QByteArray("A\xe7\x94") << false << QString();
@@ -254,7 +249,7 @@ void PpdTest::aMissingTextIsNone()
 
 void PpdTest::aKeywordIsTakenAsItStands()
 {
-    QCOMPARE(ppdKeyword("QXMediaType"), QStringLiteral("QXMediaType"));
+    QCOMPARE(ppdKeyword("QXMediaType"), u"QXMediaType"_s);
     QVERIFY(ppdKeyword("").isEmpty());
     QVERIFY(ppdKeyword(nullptr).isNull());
 }

@@ -3,6 +3,7 @@
 #include "platform/printcore/PrintSettings.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class PrintSettingsTest : public QObject
 {
@@ -30,18 +31,18 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString key = QStringLiteral("com.corvana.print.PrintSettings.densitymode");
+const QString key = u"com.corvana.print.PrintSettings.densitymode"_s;
 }
 
 void PrintSettingsTest::aWrittenEntryIsReadWithItsType_data()
 {
     QTest::addColumn<QVariant>("value");
-    QTest::newRow("text") << QVariant(QStringLiteral("12"));
+    QTest::newRow("text") << QVariant(u"12"_s);
     QTest::newRow("number") << QVariant(qint64(12));
     QTest::newRow("double") << QVariant(0.5);
     QTest::newRow("boolean") << QVariant(true);
-    QTest::newRow("empty text") << QVariant(QStringLiteral(""));
-    QTest::newRow("map") << QVariant(QVariantMap{{QStringLiteral("a"), 1}});
+    QTest::newRow("empty text") << QVariant(u""_s);
+    QTest::newRow("map") << QVariant(QVariantMap{{u"a"_s, 1}});
 }
 
 void PrintSettingsTest::aWrittenEntryIsReadWithItsType()
@@ -85,21 +86,21 @@ void PrintSettingsTest::theLaterWriteReplacesTheEarlier()
 {
     PrintSettings settings;
     PMPrintSettingsSetValue(&settings, key, 1, false);
-    PMPrintSettingsSetValue(&settings, key, QStringLiteral("two"), false);
-    QCOMPARE(settings.entries(), (QVariantMap{{key, QStringLiteral("two")}}));
+    PMPrintSettingsSetValue(&settings, key, u"two"_s, false);
+    QCOMPARE(settings.entries(), (QVariantMap{{key, u"two"_s}}));
 }
 
 void PrintSettingsTest::aLockedWriteIsLoggedAndDone()
 {
     PrintSettings settings;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be locked")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"cannot be locked"_s));
     QCOMPARE(PMPrintSettingsSetValue(&settings, key, 3, true), kPMNoError);
     QCOMPARE(settings.value(key), QVariant(3));
 }
 
 void PrintSettingsTest::anUnlockedWriteIsNotLogged()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
     PrintSettings settings;
     PMPrintSettingsSetValue(&settings, key, 3, false);
 }
@@ -116,7 +117,7 @@ void PrintSettingsTest::allEntriesAreReplacedAtOnce()
 {
     PrintSettings settings;
     settings.setValue(key, 1);
-    const QVariantMap snapshot{{QStringLiteral("other"), 2}};
+    const QVariantMap snapshot{{u"other"_s, 2}};
     settings.setEntries(snapshot);
     QCOMPARE(settings.entries(), snapshot);
     QVERIFY(!settings.contains(key));
@@ -178,7 +179,7 @@ void PrintSettingsTest::duplexWithoutSettingsIsAnInvalidObject()
 void PrintSettingsTest::duplexWithoutAHandlerIsLogged()
 {
     PrintSettings settings;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("two-sided.*mode 2")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"two-sided.*mode 2"_s));
     QCOMPARE(PMSetDuplex(&settings, kPMDuplexNoTumble), kPMNoError);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/toolkit/BindingDictionary.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BindingDictionaryTest : public QObject
 {
@@ -19,20 +20,20 @@ private Q_SLOTS:
 void BindingDictionaryTest::whatWasNeverWrittenIsInvalid()
 {
     const BindingDictionary dictionary;
-    QVERIFY(!dictionary.contains(QStringLiteral("density")));
-    QVERIFY(!dictionary.value(QStringLiteral("density")).isValid());
+    QVERIFY(!dictionary.contains(u"density"_s));
+    QVERIFY(!dictionary.value(u"density"_s).isValid());
 }
 
 void BindingDictionaryTest::aWrittenValueIsReadWithItsType()
 {
     BindingDictionary dictionary;
-    dictionary.setValue(QStringLiteral("density"), QStringLiteral("-2"));
-    QVERIFY(dictionary.contains(QStringLiteral("density")));
-    QVERIFY(!dictionary.contains(QStringLiteral("Density")));
-    QCOMPARE(dictionary.value(QStringLiteral("density")).typeId(), int(QMetaType::QString));
-    dictionary.setValue(QStringLiteral("density"), qint64(-2));
-    QCOMPARE(dictionary.value(QStringLiteral("density")), QVariant(qint64(-2)));
-    QCOMPARE(dictionary.value(QStringLiteral("density")).typeId(), int(QMetaType::LongLong));
+    dictionary.setValue(u"density"_s, u"-2"_s);
+    QVERIFY(dictionary.contains(u"density"_s));
+    QVERIFY(!dictionary.contains(u"Density"_s));
+    QCOMPARE(dictionary.value(u"density"_s).typeId(), int(QMetaType::QString));
+    dictionary.setValue(u"density"_s, qint64(-2));
+    QCOMPARE(dictionary.value(u"density"_s), QVariant(qint64(-2)));
+    QCOMPARE(dictionary.value(u"density"_s).typeId(), int(QMetaType::LongLong));
 }
 
 void BindingDictionaryTest::everyWriteIsToldAlsoAnEqualOne()
@@ -40,9 +41,9 @@ void BindingDictionaryTest::everyWriteIsToldAlsoAnEqualOne()
     BindingDictionary dictionary;
     const QSignalSpy written(&dictionary, &BindingDictionary::valueWritten);
     for (int i = 0; i < 3; ++i)
-        dictionary.setValue(QStringLiteral("density"), 4);
+        dictionary.setValue(u"density"_s, 4);
     QCOMPARE(written.count(), 3);
-    QCOMPARE(written.last(), (QVariantList{QStringLiteral("density"), 4}));
+    QCOMPARE(written.last(), (QVariantList{u"density"_s, 4}));
 }
 
 void BindingDictionaryTest::aWriteIsDoneWhenItIsTold()
@@ -51,7 +52,7 @@ void BindingDictionaryTest::aWriteIsDoneWhenItIsTold()
     QVariant seen;
     connect(&dictionary, &BindingDictionary::valueWritten, this,
             [&](const QString &key) { seen = dictionary.value(key); });
-    dictionary.setValue(QStringLiteral("density"), 4);
+    dictionary.setValue(u"density"_s, 4);
     QCOMPARE(seen, QVariant(4));
 }
 
@@ -63,11 +64,11 @@ void BindingDictionaryTest::aWriteInsideAWriteIsToldWithItsOwnValue()
             [&](const QString &, const QVariant &value) {
                 seen += value;
                 if (value == QVariant(1))
-                    dictionary.setValue(QStringLiteral("density"), 2);
+                    dictionary.setValue(u"density"_s, 2);
             });
-    dictionary.setValue(QStringLiteral("density"), 1);
+    dictionary.setValue(u"density"_s, 1);
     QCOMPARE(seen, (QVariantList{1, 2}));
-    QCOMPARE(dictionary.value(QStringLiteral("density")), QVariant(2));
+    QCOMPARE(dictionary.value(u"density"_s), QVariant(2));
 }
 
 QTEST_GUILESS_MAIN(BindingDictionaryTest)

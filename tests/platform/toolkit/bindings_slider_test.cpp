@@ -9,6 +9,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BindingsSliderTest : public QObject
 {
@@ -36,7 +37,7 @@ private Q_SLOTS:
 private:
     qint64 stored() const { return m_dictionary->value(key).toLongLong(); }
 
-    static inline const QString key = QStringLiteral("density");
+    static inline const QString key = u"density"_s;
     std::unique_ptr<QSlider> m_slider;
     std::unique_ptr<BindingDictionary> m_dictionary;
     int m_writes = 0;
@@ -107,7 +108,7 @@ void BindingsSliderTest::anyKindOfNumberIsShown_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<int>("shown");
-    QTest::newRow("text") << QVariant(QStringLiteral(" 7 points")) << 7;
+    QTest::newRow("text") << QVariant(u" 7 points"_s) << 7;
     QTest::newRow("fraction") << QVariant(6.9) << 6;
     QTest::newRow("boolean") << QVariant(true) << 1;
     QTest::newRow("nothing") << QVariant() << 0;
@@ -181,7 +182,7 @@ void BindingsSliderTest::aValueThatIsThereAlreadyIsShownAtOnce()
 
 void BindingsSliderTest::anotherKeyIsNotShown()
 {
-    m_dictionary->setValue(QStringLiteral("contrast"), qint64(4));
+    m_dictionary->setValue(u"contrast"_s, qint64(4));
     QCOMPARE(m_slider->value(), 0);
 }
 

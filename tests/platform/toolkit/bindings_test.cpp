@@ -16,6 +16,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class BindingsTest : public QObject
 {
@@ -42,7 +43,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QString key = QStringLiteral("key");
+const QString key = u"key"_s;
 
 class GreyWhenFalse : public ValueTransformer
 {
@@ -58,10 +59,7 @@ public:
 class NoColor : public GreyWhenFalse
 {
 public:
-    QVariant transformedValue(const QVariant &) const override
-    {
-        return QStringList{QStringLiteral("red")};
-    }
+    QVariant transformedValue(const QVariant &) const override { return QStringList{u"red"_s}; }
 };
 
 } // namespace
@@ -73,8 +71,8 @@ void BindingsTest::aCheckBoxShowsTheBoolean_data()
     QTest::newRow("true") << QVariant(true) << true;
     QTest::newRow("false") << QVariant(false) << false;
     QTest::newRow("number") << QVariant(2) << true;
-    QTest::newRow("text") << QVariant(QStringLiteral("True")) << true;
-    QTest::newRow("text that is no word for true") << QVariant(QStringLiteral("ON")) << false;
+    QTest::newRow("text") << QVariant(u"True"_s) << true;
+    QTest::newRow("text that is no word for true") << QVariant(u"ON"_s) << false;
     QTest::newRow("nothing") << QVariant() << false;
 }
 
@@ -120,12 +118,12 @@ void BindingsTest::aFieldShowsTheText_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("text");
-    QTest::newRow("text") << QVariant(QStringLiteral("濃度 0x")) << QStringLiteral("濃度 0x");
-    QTest::newRow("empty text") << QVariant(QStringLiteral("")) << QString();
-    QTest::newRow("number") << QVariant(qint64(-2)) << QStringLiteral("-2");
-    QTest::newRow("fraction") << QVariant(-2.9) << QStringLiteral("-2");
+    QTest::newRow("text") << QVariant(u"濃度 0x"_s) << u"濃度 0x"_s;
+    QTest::newRow("empty text") << QVariant(u""_s) << QString();
+    QTest::newRow("number") << QVariant(qint64(-2)) << u"-2"_s;
+    QTest::newRow("fraction") << QVariant(-2.9) << u"-2"_s;
     QTest::newRow("64 bits") << QVariant(std::numeric_limits<qint64>::min())
-                             << QStringLiteral("-9223372036854775808");
+                             << u"-9223372036854775808"_s;
 }
 
 void BindingsTest::aFieldShowsTheText()
@@ -152,13 +150,13 @@ void BindingsTest::aFieldWritesBackWhenItIsLeftOrConfirmed()
     QVERIFY(bindValue(field, &dictionary, key));
     QVERIFY(user::show(&window));
     field->setFocus();
-    QTest::keyClicks(field, QStringLiteral("12"));
+    QTest::keyClicks(field, u"12"_s);
     QTest::keyClick(field, Qt::Key_Return);
-    QCOMPARE(dictionary.value(key), QVariant(QStringLiteral("12")));
-    QTest::keyClicks(field, QStringLiteral("3"));
+    QCOMPARE(dictionary.value(key), QVariant(u"12"_s));
+    QTest::keyClicks(field, u"3"_s);
     QTest::keyClick(field, Qt::Key_Tab);
     QVERIFY(other->hasFocus());
-    QCOMPARE(dictionary.value(key), QVariant(QStringLiteral("123")));
+    QCOMPARE(dictionary.value(key), QVariant(u"123"_s));
 }
 
 void BindingsTest::aFieldThatIsBeingTypedInWritesNothingBack()
@@ -167,7 +165,7 @@ void BindingsTest::aFieldThatIsBeingTypedInWritesNothingBack()
     BindingDictionary dictionary;
     QVERIFY(bindValue(&field, &dictionary, key));
     QVERIFY(user::show(&field));
-    QTest::keyClicks(&field, QStringLiteral("12"));
+    QTest::keyClicks(&field, u"12"_s);
     QVERIFY(!dictionary.contains(key));
 }
 
@@ -177,9 +175,9 @@ void BindingsTest::aFieldRewritesWhatTheDictionarySays()
     BindingDictionary dictionary;
     QVERIFY(bindValue(&field, &dictionary, key));
     dictionary.setValue(key, qint64(6));
-    field.setText(QStringLiteral("999"));
+    field.setText(u"999"_s);
     dictionary.setValue(key, qint64(6));
-    QCOMPARE(field.text(), QStringLiteral("6"));
+    QCOMPARE(field.text(), u"6"_s);
 }
 
 void BindingsTest::aLabelShowsTheText()
@@ -187,10 +185,10 @@ void BindingsTest::aLabelShowsTheText()
     QLabel label;
     BindingDictionary dictionary;
     QVERIFY(bindValue(&label, &dictionary, key));
-    dictionary.setValue(key, QStringLiteral("用紙"));
-    QCOMPARE(label.text(), QStringLiteral("用紙"));
+    dictionary.setValue(key, u"用紙"_s);
+    QCOMPARE(label.text(), u"用紙"_s);
     dictionary.setValue(key, qint64(5));
-    QCOMPARE(label.text(), QStringLiteral("5"));
+    QCOMPARE(label.text(), u"5"_s);
 }
 
 void BindingsTest::aControlWithoutAValueCannotBeBound()
@@ -214,7 +212,7 @@ void BindingsTest::enabledFollowsTheDictionary()
     box.setEnabled(true);
     dictionary.setValue(key, false);
     QVERIFY(!isControlEnabled(&box));
-    dictionary.setValue(key, QStringLiteral("YES"));
+    dictionary.setValue(key, u"YES"_s);
     QVERIFY(isControlEnabled(&box));
 }
 
@@ -233,11 +231,10 @@ void BindingsTest::visibleFollowsTheDictionary()
 
 void BindingsTest::theTransformerChoosesTheTextColor()
 {
-    ValueTransformer::setValueTransformer(std::make_shared<GreyWhenFalse>(),
-                                          QStringLiteral("GreyWhenFalse"));
+    ValueTransformer::setValueTransformer(std::make_shared<GreyWhenFalse>(), u"GreyWhenFalse"_s);
     QLabel label;
     BindingDictionary dictionary;
-    bindTextColor(&label, &dictionary, key, QStringLiteral("GreyWhenFalse"));
+    bindTextColor(&label, &dictionary, key, u"GreyWhenFalse"_s);
     dictionary.setValue(key, false);
     QCOMPARE(textColor(&label), ControlTextColor::Disabled);
     dictionary.setValue(key, true);
@@ -248,22 +245,21 @@ void BindingsTest::aTransformerRegisteredLaterIsFound()
 {
     QLabel label;
     BindingDictionary dictionary;
-    bindTextColor(&label, &dictionary, key, QStringLiteral("Later"));
+    bindTextColor(&label, &dictionary, key, u"Later"_s);
     dictionary.setValue(key, false);
     QCOMPARE(textColor(&label), ControlTextColor::Normal);
-    ValueTransformer::setValueTransformer(std::make_shared<GreyWhenFalse>(),
-                                          QStringLiteral("Later"));
+    ValueTransformer::setValueTransformer(std::make_shared<GreyWhenFalse>(), u"Later"_s);
     dictionary.setValue(key, false);
     QCOMPARE(textColor(&label), ControlTextColor::Disabled);
 }
 
 void BindingsTest::aTransformerThatGivesNoColorIsLogged()
 {
-    ValueTransformer::setValueTransformer(std::make_shared<NoColor>(), QStringLiteral("NoColor"));
+    ValueTransformer::setValueTransformer(std::make_shared<NoColor>(), u"NoColor"_s);
     QLabel label;
     BindingDictionary dictionary;
-    bindTextColor(&label, &dictionary, key, QStringLiteral("NoColor"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("NoColor")));
+    bindTextColor(&label, &dictionary, key, u"NoColor"_s);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"NoColor"_s));
     dictionary.setValue(key, false);
     QCOMPARE(textColor(&label), ControlTextColor::Normal);
 }

@@ -16,6 +16,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class ControlActionsTest : public QObject
 {
@@ -127,11 +128,11 @@ void ControlActionsTest::aFieldFiresWhenItIsLeftOrConfirmed()
     QVERIFY(connectControlAction(field, counter()));
     QVERIFY(user::show(&window));
     field->setFocus();
-    QTest::keyClicks(field, QStringLiteral("12"));
+    QTest::keyClicks(field, u"12"_s);
     QCOMPARE(m_fired.count(), 0);
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(m_fired.count(), 1);
-    QTest::keyClicks(field, QStringLiteral("3"));
+    QTest::keyClicks(field, u"3"_s);
     QTest::keyClick(field, Qt::Key_Tab);
     QVERIFY(other->hasFocus());
     QCOMPARE(m_fired.count(), 2);
@@ -153,7 +154,7 @@ void ControlActionsTest::aFieldThatNobodyChangedFiresNothing()
     QCOMPARE(m_fired.count(), 0);
     // Confirmed with Return and then left: that was one act.
     field->setFocus();
-    QTest::keyClicks(field, QStringLiteral("5"));
+    QTest::keyClicks(field, u"5"_s);
     QTest::keyClick(field, Qt::Key_Return);
     QTest::keyClick(field, Qt::Key_Tab);
     QVERIFY(other->hasFocus());
@@ -185,7 +186,7 @@ void ControlActionsTest::aProgrammaticChangeNeverFires()
         box.setChecked(true);
         button.click();
         slider.setValue(5);
-        field.setText(QStringLiteral("5"));
+        field.setText(u"5"_s);
         Q_EMIT field.editingFinished();
     }
     QCoreApplication::processEvents();
@@ -219,7 +220,7 @@ void ControlActionsTest::theTagIsThatOfTheInterfaceFile_data()
     QTest::newRow("none") << QVariant() << 0;
     QTest::newRow("number") << QVariant(7) << 7;
     QTest::newRow("negative") << QVariant(-1) << -1;
-    QTest::newRow("text") << QVariant(QStringLiteral("seven")) << 0;
+    QTest::newRow("text") << QVariant(u"seven"_s) << 0;
 }
 
 void ControlActionsTest::theTagIsThatOfTheInterfaceFile()

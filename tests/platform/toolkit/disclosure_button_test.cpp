@@ -9,6 +9,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class DisclosureButtonTest : public QObject
 {
@@ -19,7 +20,7 @@ private Q_SLOTS:
     {
         m_window = std::make_unique<QDialog>();
         auto *layout = new QVBoxLayout(m_window.get());
-        m_heading = new QLabel(QStringLiteral("Advanced"));
+        m_heading = new QLabel(u"Advanced"_s);
         m_button = new DisclosureButton;
         layout->addWidget(m_heading);
         layout->addWidget(m_button);
@@ -90,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(m_heading->buddy(), m_button);
         QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(m_button);
         QVERIFY(interface);
-        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Advanced"));
+        QCOMPARE(interface->text(QAccessible::Name), u"Advanced"_s);
         QVERIFY(interface->state().checkable);
     }
 

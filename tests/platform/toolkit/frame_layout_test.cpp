@@ -5,6 +5,7 @@
 #include "platform/toolkit/ViewFrame.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 /// Views that are laid out by the frames of their interface file. The tests' views have a font of
 /// 12 pixels, at which a point is a pixel.
@@ -120,10 +121,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stretch");
         QTest::addColumn<QSize>("size");
         QTest::newRow("not") << QString() << QSize(80, 20);
-        QTest::newRow("width") << QStringLiteral("width") << QSize(180, 20);
-        QTest::newRow("height") << QStringLiteral("height") << QSize(80, 120);
-        QTest::newRow("both") << QStringLiteral("both") << QSize(180, 120);
-        QTest::newRow("an unknown word") << QStringLiteral("depth") << QSize(80, 20);
+        QTest::newRow("width") << u"width"_s << QSize(180, 20);
+        QTest::newRow("height") << u"height"_s << QSize(80, 120);
+        QTest::newRow("both") << u"both"_s << QSize(180, 120);
+        QTest::newRow("an unknown word") << u"depth"_s << QSize(80, 20);
     }
     void childrenFollowTheSizeOfTheirView()
     {
@@ -140,7 +141,7 @@ private Q_SLOTS:
 
     void aStretchedChildMovedUpKeepsItsMarginBelow()
     {
-        m_lower->setProperty("stretch", QStringLiteral("height"));
+        m_lower->setProperty("stretch", u"height"_s);
         layOut(200, 100);
         QVERIFY(m_layout->setFrame(m_lower, QRectF(10, 30, 80, 20)));
         m_layout->setGeometry(QRect(0, 0, 200, 100));

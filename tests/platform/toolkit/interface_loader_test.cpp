@@ -17,6 +17,7 @@
 #include "tests/support/TestPaths.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class InterfaceLoaderTest : public QObject
 {
@@ -119,7 +120,7 @@ constexpr char kInterface[] = R"ui(<?xml version="1.0" encoding="UTF-8"?>
 void InterfaceLoaderTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_file = m_folder->filePath(QStringLiteral("Test.ui"));
+    m_file = m_folder->filePath(u"Test.ui"_s);
     QFile file(m_file);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(kInterface);
@@ -130,12 +131,12 @@ void InterfaceLoaderTest::init()
 InterfaceConnections InterfaceLoaderTest::owner()
 {
     InterfaceConnections connections;
-    connections.outlet(QStringLiteral("slider"), m_slider);
-    connections.outlet(QStringLiteral("box"), m_box);
-    connections.outlet(QStringLiteral("matrix"), m_matrix);
-    connections.outlet(QStringLiteral("missing"), m_missing);
-    connections.outlet(QStringLiteral("popUp"), m_anyWidget);
-    connections.action(QStringLiteral("act"), [this](QWidget *control) { m_fired += control; });
+    connections.outlet(u"slider"_s, m_slider);
+    connections.outlet(u"box"_s, m_box);
+    connections.outlet(u"matrix"_s, m_matrix);
+    connections.outlet(u"missing"_s, m_missing);
+    connections.outlet(u"popUp"_s, m_anyWidget);
+    connections.action(u"act"_s, [this](QWidget *control) { m_fired += control; });
     connections.bindingDictionary(m_dictionary);
     return connections;
 }
@@ -145,7 +146,7 @@ void InterfaceLoaderTest::theViewIsTheRootOfTheFile()
     const LoadedInterface loaded = loadInterface(m_file, owner());
     QVERIFY2(loaded.view, qPrintable(loaded.problems.join(u'\n')));
     QVERIFY(loaded.problems.isEmpty());
-    QCOMPARE(loaded.view->objectName(), QStringLiteral("panelView"));
+    QCOMPARE(loaded.view->objectName(), u"panelView"_s);
     QVERIFY(!loaded.view->isVisible());
     QVERIFY(takeInterfaceProblems().isEmpty());
 }
@@ -154,7 +155,7 @@ void InterfaceLoaderTest::outletsAreConnectedByName()
 {
     const LoadedInterface loaded = loadInterface(m_file, owner());
     QVERIFY(loaded.view);
-    QCOMPARE(m_slider.data(), loaded.view->findChild<QSlider *>(QStringLiteral("slider")));
+    QCOMPARE(m_slider.data(), loaded.view->findChild<QSlider *>(u"slider"_s));
     QVERIFY(m_slider);
     QVERIFY(m_box);
     QVERIFY(m_matrix);
@@ -194,7 +195,7 @@ void InterfaceLoaderTest::nothingFiresWhileAFileIsLoaded()
     QVERIFY(m_fired.isEmpty());
     // Nothing was written back either.
     QVERIFY(m_dictionary);
-    QVERIFY(!m_dictionary->contains(QStringLiteral("density")));
+    QVERIFY(!m_dictionary->contains(u"density"_s));
 }
 
 void InterfaceLoaderTest::tagsAreRead()
@@ -217,24 +218,23 @@ void InterfaceLoaderTest::bindingsShowAndWriteBack()
 {
     const LoadedInterface loaded = loadInterface(m_file, owner());
     QVERIFY(loaded.view);
-    m_dictionary->setValue(QStringLiteral("density"), 6);
+    m_dictionary->setValue(u"density"_s, 6);
     QCOMPARE(m_slider->value(), 6);
-    m_dictionary->setValue(QStringLiteral("isColor"), false);
+    m_dictionary->setValue(u"isColor"_s, false);
     QVERIFY(!isControlEnabled(m_matrix));
-    m_dictionary->setValue(QStringLiteral("hasMatrix"), false);
+    m_dictionary->setValue(u"hasMatrix"_s, false);
     QVERIFY(m_matrix->isHidden());
     QVERIFY(m_fired.isEmpty());
     QVERIFY(user::setValue(m_slider, 9));
-    QCOMPARE(m_dictionary->value(QStringLiteral("density")).toInt(), 9);
+    QCOMPARE(m_dictionary->value(u"density"_s).toInt(), 9);
 }
 
 void InterfaceLoaderTest::aBindingIsWrittenBackBeforeTheActionRuns()
 {
     InterfaceConnections connections = owner();
     int seen = -1;
-    connections.action(QStringLiteral("act"), [&](QWidget *) {
-        seen = m_dictionary->value(QStringLiteral("density")).toInt();
-    });
+    connections.action(u"act"_s,
+                       [&](QWidget *) { seen = m_dictionary->value(u"density"_s).toInt(); });
     const LoadedInterface loaded = loadInterface(m_file, connections);
     QVERIFY(loaded.view);
     m_slider->setValue(8);
@@ -279,7 +279,7 @@ void InterfaceLoaderTest::twoViewsOfOneFileAreIndependent()
     const LoadedInterface second = loadInterface(m_file, owner());
     QVERIFY(first.view && second.view);
     QVERIFY(firstDictionary != m_dictionary);
-    firstDictionary->setValue(QStringLiteral("density"), 9);
+    firstDictionary->setValue(u"density"_s, 9);
     QCOMPARE(firstSlider->value(), 9);
     QCOMPARE(m_slider->value(), 3);
 }
@@ -298,7 +298,7 @@ LoadedInterface InterfaceLoaderTest::loadControls(const QByteArray &controls)
 void InterfaceLoaderTest::tableAndPagesShareTheirRows()
 {
     QPointer<ArrayController> rows;
-    m_owner.arrayController(QStringLiteral("rows"), rows);
+    m_owner.arrayController(u"rows"_s, rows);
     const QByteArray property =
         "<property name=\"arrayController\" stdset=\"0\"><string>rows</string></property>";
     const LoadedInterface loaded = loadControls(
@@ -307,30 +307,29 @@ void InterfaceLoaderTest::tableAndPagesShareTheirRows()
         "<widget class=\"QWidget\" name=\"a\"/><widget class=\"QWidget\" name=\"b\"/></widget>");
     QVERIFY(loaded.view);
     QVERIFY(rows);
-    rows->addObject({{QStringLiteral("id"), QStringLiteral("a")}});
-    rows->addObject({{QStringLiteral("id"), QStringLiteral("b")}});
+    rows->addObject({{u"id"_s, u"a"_s}});
+    rows->addObject({{u"id"_s, u"b"_s}});
     auto *table = loaded.view->findChild<QTableView *>();
     auto *pages = loaded.view->findChild<QStackedWidget *>();
     table->setCurrentIndex(rows->index(0));
-    QCOMPARE(pages->currentWidget()->objectName(), QStringLiteral("a"));
+    QCOMPARE(pages->currentWidget()->objectName(), u"a"_s);
     table->setCurrentIndex(rows->index(1));
-    QCOMPARE(pages->currentWidget()->objectName(), QStringLiteral("b"));
+    QCOMPARE(pages->currentWidget()->objectName(), u"b"_s);
     QCOMPARE(rows->parent(), loaded.view.get());
 }
 
 void InterfaceLoaderTest::aFieldHasItsDelegate()
 {
     int told = 0;
-    m_owner.textFieldDelegate(QStringLiteral("panel"),
-                              {[&told](const Notification &) { ++told; },
-                               [](QWidget *, const QString &) { return true; }});
+    m_owner.textFieldDelegate(u"panel"_s, {[&told](const Notification &) { ++told; },
+                                           [](QWidget *, const QString &) { return true; }});
     const LoadedInterface loaded = loadControls(
         "<widget class=\"QLineEdit\" name=\"field\"><property name=\"text\"><string>5</string>"
         "</property><property name=\"delegate\" stdset=\"0\"><string>panel</string></property>"
         "</widget>");
     QVERIFY(loaded.view);
     QCOMPARE(told, 0);
-    QTest::keyClicks(loaded.view->findChild<QLineEdit *>(), QStringLiteral("7"));
+    QTest::keyClicks(loaded.view->findChild<QLineEdit *>(), u"7"_s);
     QCOMPARE(told, 1);
 }
 
@@ -358,11 +357,11 @@ void InterfaceLoaderTest::companionsWorkTogether()
     QCOMPARE(qobject_cast<QLabel *>(named("heading"))->buddy(), named("more"));
     QVERIFY(user::show(loaded.view.get()));
     auto *number = qobject_cast<QLineEdit *>(named("number"));
-    number->setText(QStringLiteral("99"));
+    number->setText(u"99"_s);
     QTest::keyClick(number, Qt::Key_Return);
-    QCOMPARE(number->text(), QStringLiteral("6"));
+    QCOMPARE(number->text(), u"6"_s);
     QCOMPARE(qobject_cast<QSlider *>(named("slider"))->value(), 6);
-    QCOMPARE(m_dictionary->value(QStringLiteral("density")), QVariant(qint64(6)));
+    QCOMPARE(m_dictionary->value(u"density"_s), QVariant(qint64(6)));
     auto *stepper = qobject_cast<QAbstractSlider *>(named("stepper"));
     named("minutes")->setFocus();
     QTest::keyClick(named("minutes"), Qt::Key_Up);
@@ -386,40 +385,40 @@ void InterfaceLoaderTest::aViewIsLaidOutByFramesWhereItSaysSo()
 void InterfaceLoaderTest::aClassOfTheOwnersIsMadeByTheOwner()
 {
     QWidget *made = nullptr;
-    m_owner.controlClass(QStringLiteral("Knob"), [&made](QWidget *parent) {
+    m_owner.controlClass(u"Knob"_s, [&made](QWidget *parent) {
         made = new QSlider(parent);
         return made;
     });
     const LoadedInterface loaded = loadControls("<widget class=\"Knob\" name=\"knob\"/>");
     QVERIFY(loaded.view);
     QVERIFY(made);
-    QCOMPARE(loaded.view->findChild<QWidget *>(QStringLiteral("knob")), made);
+    QCOMPARE(loaded.view->findChild<QWidget *>(u"knob"_s), made);
 }
 
 void InterfaceLoaderTest::theShippedInterfacesLoad_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("print setting") << QStringLiteral("QXLaserPrintSetting");
-    QTest::newRow("color setting") << QStringLiteral("QXLaserColorSetting");
+    QTest::newRow("print setting") << u"QXLaserPrintSetting"_s;
+    QTest::newRow("color setting") << u"QXLaserColorSetting"_s;
 }
 
 void InterfaceLoaderTest::theShippedInterfacesLoad()
 {
     QFETCH(QString, name);
-    const QString file = corvana::test::bundleFile(QStringLiteral("interface/%1.ui")).arg(name);
+    const QString file = corvana::test::bundleFile(u"interface/%1.ui"_s).arg(name);
     // Every action that the file names; the panels check that they offer them.
     QFile source(file);
     QVERIFY(source.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(source.readAll());
     InterfaceConnections connections;
-    QRegularExpression action(QStringLiteral("name=\"action\"[^>]*>\\s*<string[^>]*>([^<]+)<"));
+    QRegularExpression action(u"name=\"action\"[^>]*>\\s*<string[^>]*>([^<]+)<"_s);
     for (auto match = action.globalMatch(text); match.hasNext();)
         connections.action(match.next().captured(1), [](QWidget *) {});
-    connections.controlClass(QStringLiteral("ExtraAccessoryView"),
+    connections.controlClass(u"ExtraAccessoryView"_s,
                              [](QWidget *parent) { return new QWidget(parent); });
-    connections.textFieldDelegate(QStringLiteral("panel"), {});
+    connections.textFieldDelegate(u"panel"_s, {});
     QPointer<ArrayController> rows;
-    connections.arrayController(QStringLiteral("arrayController"), rows);
+    connections.arrayController(u"arrayController"_s, rows);
     const LoadedInterface loaded = loadInterface(file, connections);
     QVERIFY2(loaded.view, qPrintable(loaded.problems.join(u'\n')));
 }

@@ -6,6 +6,7 @@
 #include "platform/toolkit/InterfaceLoader.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class InterfaceProblemsTest : public QObject
 {
@@ -54,11 +55,11 @@ QByteArray stringProperty(const QByteArray &name, const QByteArray &text)
 void InterfaceProblemsTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_file = m_folder->filePath(QStringLiteral("Test.ui"));
+    m_file = m_folder->filePath(u"Test.ui"_s);
     m_owner = {};
-    m_owner.action(QStringLiteral("requestNewOutputBin"), [](QWidget *) {});
-    m_owner.textFieldDelegate(QStringLiteral("panel"), {});
-    m_owner.arrayController(QStringLiteral("rows"), m_rows);
+    m_owner.action(u"requestNewOutputBin"_s, [](QWidget *) {});
+    m_owner.textFieldDelegate(u"panel"_s, {});
+    m_owner.arrayController(u"rows"_s, m_rows);
     takeInterfaceProblems();
 }
 
@@ -176,7 +177,7 @@ void InterfaceProblemsTest::aFileThatCannotBeUsedLoadsNoView()
 
 void InterfaceProblemsTest::aMissingFileIsNamed()
 {
-    const QString missing = m_folder->filePath(QStringLiteral("Nowhere.ui"));
+    const QString missing = m_folder->filePath(u"Nowhere.ui"_s);
     const LoadedInterface loaded = loadInterface(missing, m_owner);
     QVERIFY(!loaded.view);
     QCOMPARE(loaded.problems.count(), 1);
@@ -204,7 +205,7 @@ void InterfaceProblemsTest::anEntityBombIsRefusedQuickly()
 void InterfaceProblemsTest::anOutletOfAnotherClassIsRefused()
 {
     QPointer<QSlider> slider;
-    m_owner.outlet(QStringLiteral("density"), slider);
+    m_owner.outlet(u"density"_s, slider);
     const LoadedInterface loaded = load(form("<widget class=\"QCheckBox\" name=\"density\"/>"));
     QVERIFY(!loaded.view);
     QVERIFY(!slider);
@@ -217,7 +218,7 @@ void InterfaceProblemsTest::nothingIsConnectedWhenAFileIsRefused()
 {
     QPointer<QCheckBox> box;
     QPointer<BindingDictionary> dictionary;
-    m_owner.outlet(QStringLiteral("box"), box);
+    m_owner.outlet(u"box"_s, box);
     m_owner.bindingDictionary(dictionary);
     const LoadedInterface loaded = load(form("<widget class=\"QCheckBox\" name=\"box\">" +
                                              stringProperty("action", "nobody") + "</widget>"));
@@ -240,8 +241,7 @@ void InterfaceProblemsTest::everyProblemIsToldAtOnce()
 
 void InterfaceProblemsTest::problemsAreLogged()
 {
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("Test\\.ui:4:.*\"QKnob\"")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Test\\.ui:4:.*\"QKnob\""_s));
     load(form("<widget class=\"QKnob\" name=\"a\"/>"));
 }
 

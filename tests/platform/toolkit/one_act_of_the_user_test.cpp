@@ -10,6 +10,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class OneActOfTheUserTest : public QObject
 {
@@ -58,17 +59,16 @@ void OneActOfTheUserTest::aPickFromTheListFiresOnce()
 {
     user::pick(m_popUp.get(), 1);
     QCoreApplication::processEvents();
-    QCOMPARE(m_fired, QStringList{QStringLiteral("Cassette")});
+    QCOMPARE(m_fired, QStringList{u"Cassette"_s});
 }
 
 void OneActOfTheUserTest::theCurrentItemPickedAgainFires()
 {
     user::pick(m_popUp.get(), 0);
-    QCOMPARE(m_fired, QStringList{QStringLiteral("Auto")});
+    QCOMPARE(m_fired, QStringList{u"Auto"_s});
     user::pick(m_popUp.get(), 2);
     user::pick(m_popUp.get(), 2);
-    QCOMPARE(m_fired,
-             (QStringList{QStringLiteral("Auto"), QStringLiteral("Tray"), QStringLiteral("Tray")}));
+    QCOMPARE(m_fired, (QStringList{u"Auto"_s, u"Tray"_s, u"Tray"_s}));
 }
 
 void OneActOfTheUserTest::anArrowKeyFiresOnce()
@@ -76,22 +76,21 @@ void OneActOfTheUserTest::anArrowKeyFiresOnce()
     QTest::keyClick(m_popUp.get(), Qt::Key_Down);
     QTest::keyClick(m_popUp.get(), Qt::Key_Down);
     QTest::keyClick(m_popUp.get(), Qt::Key_Up);
-    QCOMPARE(m_fired, (QStringList{QStringLiteral("Cassette"), QStringLiteral("Tray"),
-                                   QStringLiteral("Cassette")}));
+    QCOMPARE(m_fired, (QStringList{u"Cassette"_s, u"Tray"_s, u"Cassette"_s}));
 }
 
 void OneActOfTheUserTest::typingTheFirstLetterFiresOnce()
 {
     QTest::keyClick(m_popUp.get(), Qt::Key_T);
     QCoreApplication::processEvents();
-    QCOMPARE(m_fired, QStringList{QStringLiteral("Tray")});
+    QCOMPARE(m_fired, QStringList{u"Tray"_s});
 }
 
 void OneActOfTheUserTest::assistiveTechnologyFiresOnce()
 {
     m_popUp->setCurrentIndex(2); // nobody but the program's own scopes is programmatic
     QCoreApplication::processEvents();
-    QCOMPARE(m_fired, QStringList{QStringLiteral("Tray")});
+    QCOMPARE(m_fired, QStringList{u"Tray"_s});
     // What follows is an act of its own.
     user::pick(m_popUp.get(), 2);
     QCOMPARE(m_fired.count(), 2);
@@ -110,7 +109,7 @@ void OneActOfTheUserTest::anActionThatWaitsFiresOnce()
     m_then = &user::runNestedEventLoop;
     user::pick(m_popUp.get(), 1);
     QCoreApplication::processEvents();
-    QCOMPARE(m_fired, QStringList{QStringLiteral("Cassette")});
+    QCOMPARE(m_fired, QStringList{u"Cassette"_s});
 }
 
 void OneActOfTheUserTest::anActionThatWaitsFiresOnceEachTime()
@@ -131,7 +130,7 @@ void OneActOfTheUserTest::quickPicksFireOnceEachEvenIfOneWaits()
     };
     QTest::keyClick(m_popUp.get(), Qt::Key_Down);
     QTest::keyClick(m_popUp.get(), Qt::Key_Down);
-    QCOMPARE(m_fired, (QStringList{QStringLiteral("Cassette"), QStringLiteral("Tray")}));
+    QCOMPARE(m_fired, (QStringList{u"Cassette"_s, u"Tray"_s}));
 }
 
 void OneActOfTheUserTest::aPickWhileAnActionWaitsFiresOnceEach()
@@ -143,7 +142,7 @@ void OneActOfTheUserTest::aPickWhileAnActionWaitsFiresOnceEach()
         }
     };
     QTest::keyClick(m_popUp.get(), Qt::Key_Down);
-    QCOMPARE(m_fired, (QStringList{QStringLiteral("Cassette"), QStringLiteral("Tray")}));
+    QCOMPARE(m_fired, (QStringList{u"Cassette"_s, u"Tray"_s}));
 }
 
 void OneActOfTheUserTest::aRefusedPickFiresOnceAndCanBeRepeated()
@@ -152,19 +151,19 @@ void OneActOfTheUserTest::aRefusedPickFiresOnceAndCanBeRepeated()
     user::pick(m_popUp.get(), 2);
     QCOMPARE(m_popUp->currentIndex(), 0);
     user::pick(m_popUp.get(), 2);
-    QCOMPARE(m_fired, (QStringList{QStringLiteral("Tray"), QStringLiteral("Tray")}));
+    QCOMPARE(m_fired, (QStringList{u"Tray"_s, u"Tray"_s}));
 }
 
 void OneActOfTheUserTest::anActionMayRebuildTheItems()
 {
     m_then = [this] {
         popup::removeAllItems(m_popUp.get());
-        popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Tray"));
+        popup::addItemWithTitle(m_popUp.get(), u"Tray"_s);
         popup::selectItemAt(m_popUp.get(), 0);
     };
     user::pick(m_popUp.get(), 2);
     QCoreApplication::processEvents();
-    QCOMPARE(m_fired, QStringList{QStringLiteral("Tray")});
+    QCOMPARE(m_fired, QStringList{u"Tray"_s});
 }
 
 void OneActOfTheUserTest::aPickRightAfterTheItemsWereRebuiltFires()

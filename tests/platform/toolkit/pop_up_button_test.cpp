@@ -6,6 +6,7 @@
 #include "platform/toolkit/PopUpButton.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class PopUpButtonTest : public QObject
 {
@@ -69,24 +70,23 @@ void PopUpButtonTest::nothingIsSelectedAfterItWasFilled()
 void PopUpButtonTest::addingKeepsTheSelection()
 {
     popup::selectItemAt(m_popUp.get(), 1);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Label"));
-    QCOMPARE(m_popUp->currentText(), QStringLiteral("Thick"));
+    popup::addItemWithTitle(m_popUp.get(), u"Label"_s);
+    QCOMPARE(m_popUp->currentText(), u"Thick"_s);
 }
 
 void PopUpButtonTest::aTitleThatIsThereAlreadyReplacesItsItem()
 {
     popup::selectItemAt(m_popUp.get(), 2);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
-    QCOMPARE(titles(), (QStringList{QStringLiteral("Thick"), QStringLiteral("Envelope"),
-                                    QStringLiteral("Plain")}));
+    popup::addItemWithTitle(m_popUp.get(), u"Plain"_s);
+    QCOMPARE(titles(), (QStringList{u"Thick"_s, u"Envelope"_s, u"Plain"_s}));
     QVERIFY(!popup::representedObject(m_popUp.get(), 2).isValid()); // a new item
-    QCOMPARE(m_popUp->currentText(), QStringLiteral("Envelope"));
+    QCOMPARE(m_popUp->currentText(), u"Envelope"_s);
 }
 
 void PopUpButtonTest::replacingTheSelectedItemSelectsNothing()
 {
     popup::selectItemAt(m_popUp.get(), 0);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    popup::addItemWithTitle(m_popUp.get(), u"Plain"_s);
     QCOMPARE(m_popUp->currentIndex(), -1);
 }
 
@@ -111,9 +111,9 @@ void PopUpButtonTest::removingAnotherItemKeepsTheSelectedOne()
 {
     popup::selectItemAt(m_popUp.get(), 1);
     popup::removeItemAt(m_popUp.get(), 0);
-    QCOMPARE(m_popUp->currentText(), QStringLiteral("Thick"));
+    QCOMPARE(m_popUp->currentText(), u"Thick"_s);
     popup::removeItemAt(m_popUp.get(), 1);
-    QCOMPARE(m_popUp->currentText(), QStringLiteral("Thick"));
+    QCOMPARE(m_popUp->currentText(), u"Thick"_s);
 }
 
 void PopUpButtonTest::removingWhatDoesNotExistIsIgnored()
@@ -134,7 +134,7 @@ void PopUpButtonTest::removingAllSelectsNothing()
     popup::removeAllItems(m_popUp.get());
     QCOMPARE(m_popUp->count(), 0);
     QCOMPARE(m_popUp->currentIndex(), -1);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    popup::addItemWithTitle(m_popUp.get(), u"Plain"_s);
     QCOMPARE(m_popUp->currentIndex(), -1);
 }
 
@@ -142,12 +142,12 @@ void PopUpButtonTest::titlesAreFoundExactly_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<int>("index");
-    QTest::newRow("exact") << QStringLiteral("Thick") << 1;
-    QTest::newRow("other case") << QStringLiteral("thick") << -1;
-    QTest::newRow("prefix") << QStringLiteral("Thi") << -1;
-    QTest::newRow("wildcard") << QStringLiteral("T*") << -1;
-    QTest::newRow("represented object") << QStringLiteral("THICK") << -1;
-    QTest::newRow("empty") << QStringLiteral("") << -1;
+    QTest::newRow("exact") << u"Thick"_s << 1;
+    QTest::newRow("other case") << u"thick"_s << -1;
+    QTest::newRow("prefix") << u"Thi"_s << -1;
+    QTest::newRow("wildcard") << u"T*"_s << -1;
+    QTest::newRow("represented object") << u"THICK"_s << -1;
+    QTest::newRow("empty") << u""_s << -1;
     QTest::newRow("null") << QString() << -1;
 }
 
@@ -162,12 +162,12 @@ void PopUpButtonTest::representedObjectsAreFoundExactly_data()
 {
     QTest::addColumn<QVariant>("object");
     QTest::addColumn<int>("index");
-    QTest::newRow("exact") << QVariant(QStringLiteral("THICK")) << 1;
-    QTest::newRow("other case") << QVariant(QStringLiteral("Thick")) << -1;
-    QTest::newRow("prefix") << QVariant(QStringLiteral("THI")) << -1;
+    QTest::newRow("exact") << QVariant(u"THICK"_s) << 1;
+    QTest::newRow("other case") << QVariant(u"Thick"_s) << -1;
+    QTest::newRow("prefix") << QVariant(u"THI"_s) << -1;
     QTest::newRow("of another type") << QVariant(12) << -1;
-    QTest::newRow("text of a number") << QVariant(QStringLiteral("12")) << 3;
-    QTest::newRow("empty text") << QVariant(QStringLiteral("")) << -1;
+    QTest::newRow("text of a number") << QVariant(u"12"_s) << 3;
+    QTest::newRow("empty text") << QVariant(u""_s) << -1;
     QTest::newRow("nothing") << QVariant() << -1;
 }
 
@@ -175,21 +175,21 @@ void PopUpButtonTest::representedObjectsAreFoundExactly()
 {
     QFETCH(QVariant, object);
     QFETCH(int, index);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Twelve"));
-    popup::setRepresentedObject(m_popUp.get(), 3, QStringLiteral("12"));
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Carries nothing"));
+    popup::addItemWithTitle(m_popUp.get(), u"Twelve"_s);
+    popup::setRepresentedObject(m_popUp.get(), 3, u"12"_s);
+    popup::addItemWithTitle(m_popUp.get(), u"Carries nothing"_s);
     QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), object), index);
 }
 
 void PopUpButtonTest::theFirstItemWithTheObjectCounts()
 {
-    popup::setRepresentedObject(m_popUp.get(), 2, QStringLiteral("PLAIN"));
-    QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), QStringLiteral("PLAIN")), 0);
+    popup::setRepresentedObject(m_popUp.get(), 2, u"PLAIN"_s);
+    QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), u"PLAIN"_s), 0);
 }
 
 void PopUpButtonTest::anItemWithoutARepresentedObjectHasNone()
 {
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Label"));
+    popup::addItemWithTitle(m_popUp.get(), u"Label"_s);
     QVERIFY(!popup::representedObject(m_popUp.get(), 3).isValid());
     QVERIFY(!popup::representedObject(m_popUp.get(), 4).isValid());
     QVERIFY(!popup::representedObject(m_popUp.get(), -1).isValid());
@@ -211,8 +211,8 @@ void PopUpButtonTest::anImageDoesNotChangeTheItem()
     popup::setItemImage(m_popUp.get(), 1, QIcon(picture));
     QVERIFY(!m_popUp->itemIcon(1).isNull());
     QVERIFY(m_popUp->itemIcon(0).isNull());
-    QCOMPARE(m_popUp->itemText(1), QStringLiteral("Thick"));
-    QCOMPARE(popup::representedObject(m_popUp.get(), 1), QVariant(QStringLiteral("THICK")));
+    QCOMPARE(m_popUp->itemText(1), u"Thick"_s);
+    QCOMPARE(popup::representedObject(m_popUp.get(), 1), QVariant(u"THICK"_s));
     QCOMPARE(m_popUp->currentIndex(), -1);
 }
 
@@ -227,7 +227,7 @@ void PopUpButtonTest::anItemCanBeDisabled()
     QVERIFY(popup::isItemEnabled(m_popUp.get(), 1));
     // An item that takes the title of a disabled one can be picked.
     popup::setItemEnabled(m_popUp.get(), 1, false);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Thick"));
+    popup::addItemWithTitle(m_popUp.get(), u"Thick"_s);
     QVERIFY(popup::isItemEnabled(m_popUp.get(), 2));
 }
 
@@ -253,7 +253,7 @@ void PopUpButtonTest::nothingHereFiresAnAction()
     int fired = 0;
     connectControlAction(m_popUp.get(), [&](QWidget *) { ++fired; });
     popup::selectItemAt(m_popUp.get(), 0);
-    popup::addItemWithTitle(m_popUp.get(), QStringLiteral("Plain"));
+    popup::addItemWithTitle(m_popUp.get(), u"Plain"_s);
     popup::selectItemAt(m_popUp.get(), 1);
     popup::removeItemAt(m_popUp.get(), 0);
     popup::removeItemAt(m_popUp.get(), 0);

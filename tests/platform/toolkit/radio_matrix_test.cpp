@@ -6,6 +6,7 @@
 #include "platform/toolkit/RadioMatrix.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class RadioMatrixTest : public QObject
 {
@@ -68,9 +69,9 @@ void RadioMatrixTest::aNewMatrixIsEmpty()
 void RadioMatrixTest::rowsAreAddedAndRemovedAtTheEnd()
 {
     m_matrix->setNumberOfRows(3);
-    QCOMPARE(titles().join(QString()), QStringLiteral("abc"));
+    QCOMPARE(titles().join(QString()), u"abc"_s);
     m_matrix->setNumberOfRows(4);
-    QCOMPARE(titles().join(u'|'), QStringLiteral("a|b|c|"));
+    QCOMPARE(titles().join(u'|'), u"a|b|c|"_s);
     QVERIFY(!m_matrix->representedObject(3).isValid());
     m_matrix->addRow();
     QCOMPARE(m_matrix->numberOfRows(), 5);
@@ -89,10 +90,10 @@ void RadioMatrixTest::fewerThanNoRowsAreNone()
 void RadioMatrixTest::theOthersKeepTheirOrderWhenARowIsRemoved()
 {
     m_matrix->removeRow(1);
-    QCOMPARE(titles().join(QString()), QStringLiteral("acde"));
+    QCOMPARE(titles().join(QString()), u"acde"_s);
     QCOMPARE(m_matrix->representedObject(1), QVariant(20));
     m_matrix->removeRow(0);
-    QCOMPARE(titles().join(QString()), QStringLiteral("cde"));
+    QCOMPARE(titles().join(QString()), u"cde"_s);
 }
 
 void RadioMatrixTest::rowsRemovedFromTheEndDownKeepTheFirst()
@@ -100,7 +101,7 @@ void RadioMatrixTest::rowsRemovedFromTheEndDownKeepTheFirst()
     // The order in which a panel takes surplus rows away: 2, 1.
     m_matrix->removeRow(2);
     m_matrix->removeRow(1);
-    QCOMPARE(titles().join(QString()), QStringLiteral("ade"));
+    QCOMPARE(titles().join(QString()), u"ade"_s);
     // What is seen has the same order.
     int lowest = -1;
     m_matrix->resize(200, 200);
@@ -139,20 +140,20 @@ void RadioMatrixTest::removingAnotherRowKeepsTheSelectedOne()
     m_matrix->selectRow(3);
     m_matrix->removeRow(1);
     QCOMPARE(m_matrix->selectedRow(), 2);
-    QCOMPARE(m_matrix->cellTitle(2), QStringLiteral("d"));
+    QCOMPARE(m_matrix->cellTitle(2), u"d"_s);
 }
 
 void RadioMatrixTest::aTitleIsShownAndReadAsGiven_data()
 {
     QTest::addColumn<QString>("title");
-    QTest::newRow("plain") << QStringLiteral("Tray 1");
+    QTest::newRow("plain") << u"Tray 1"_s;
     QTest::newRow("empty") << QString();
-    QTest::newRow("ampersand") << QStringLiteral("Black & White");
-    QTest::newRow("two ampersands") << QStringLiteral("A && B");
-    QTest::newRow("three in a row") << QStringLiteral("&&&");
-    QTest::newRow("at the end") << QStringLiteral("A&");
-    QTest::newRow("mark-up") << QStringLiteral("<b>A</b>");
-    QTest::newRow("Japanese") << QStringLiteral("写真＆図(&P)");
+    QTest::newRow("ampersand") << u"Black & White"_s;
+    QTest::newRow("two ampersands") << u"A && B"_s;
+    QTest::newRow("three in a row") << u"&&&"_s;
+    QTest::newRow("at the end") << u"A&"_s;
+    QTest::newRow("mark-up") << u"<b>A</b>"_s;
+    QTest::newRow("Japanese") << u"写真＆図(&P)"_s;
 }
 
 void RadioMatrixTest::aTitleIsShownAndReadAsGiven()
@@ -167,7 +168,7 @@ void RadioMatrixTest::aTitleIsShownAndReadAsGiven()
 
 void RadioMatrixTest::aTitleMakesNoShortcut()
 {
-    m_matrix->setCellTitle(1, QStringLiteral("Photo (&P)"));
+    m_matrix->setCellTitle(1, u"Photo (&P)"_s);
     QVERIFY(m_matrix->cell(1)->shortcut().isEmpty());
 }
 
@@ -219,13 +220,13 @@ void RadioMatrixTest::twoMatricesOfOneParentAreIndependent()
 void RadioMatrixTest::aRowThatDoesNotExistAnswersNothing()
 {
     for (const int row : {-1, 5}) {
-        m_matrix->setCellTitle(row, QStringLiteral("x"));
+        m_matrix->setCellTitle(row, u"x"_s);
         m_matrix->setRepresentedObject(row, 1);
         QVERIFY(m_matrix->cellTitle(row).isNull());
         QVERIFY(!m_matrix->representedObject(row).isValid());
         QVERIFY(!m_matrix->cell(row));
     }
-    QCOMPARE(titles().join(QString()), QStringLiteral("abcde"));
+    QCOMPARE(titles().join(QString()), u"abcde"_s);
 }
 
 void RadioMatrixTest::theFocusGoesToACellThatExists()

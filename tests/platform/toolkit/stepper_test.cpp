@@ -10,6 +10,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class StepperTest : public QObject
 {
@@ -109,10 +110,10 @@ private Q_SLOTS:
     {
         m_stepper->setField(m_field);
         m_field->setFocus();
-        QTest::keyClicks(m_field, QStringLiteral("12"));
+        QTest::keyClicks(m_field, u"12"_s);
         QTest::keyClick(m_field, Qt::Key_Home);
         QTest::keyClick(m_field, Qt::Key_Right);
-        QCOMPARE(m_field->text(), QStringLiteral("12"));
+        QCOMPARE(m_field->text(), u"12"_s);
         QCOMPARE(m_field->cursorPosition(), 1);
         QCOMPARE(m_steps, 0);
     }

@@ -12,6 +12,7 @@
 #include "UserActs.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 class WheelTest : public QObject
 {
@@ -76,20 +77,20 @@ void WheelTest::init()
     m_window = std::make_unique<Page>();
     auto *layout = new QVBoxLayout(m_window.get());
     auto *other = new QSpinBox;
-    other->setObjectName(QStringLiteral("other"));
+    other->setObjectName(u"other"_s);
     layout->addWidget(other);
     auto *popUp = new QComboBox;
-    popUp->setObjectName(QStringLiteral("popUp"));
-    popUp->addItems({QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")});
+    popUp->setObjectName(u"popUp"_s);
+    popUp->addItems({u"0"_s, u"1"_s, u"2"_s});
     popUp->setCurrentIndex(1);
     layout->addWidget(popUp);
     auto *slider = new QSlider(Qt::Horizontal);
-    slider->setObjectName(QStringLiteral("slider"));
+    slider->setObjectName(u"slider"_s);
     slider->setRange(0, 100);
     slider->setValue(50);
     layout->addWidget(slider);
     auto *number = new QSpinBox;
-    number->setObjectName(QStringLiteral("number"));
+    number->setObjectName(u"number"_s);
     number->setValue(50);
     layout->addWidget(number);
     for (QWidget *control : {static_cast<QWidget *>(popUp), static_cast<QWidget *>(slider),

@@ -13,6 +13,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Reads the attributes of a message; `rest` gets what stands behind them.
@@ -104,7 +106,7 @@ CannedAnswer ippAnswer(ipp_t *message)
 struct CannedServer::State
 {
     explicit State(Answerer newAnswerer)
-        : answerer(std::move(newAnswerer)), thread(QStringLiteral("canned server"))
+        : answerer(std::move(newAnswerer)), thread(u"canned server"_s)
     {
     }
 

@@ -9,6 +9,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray content(const QString &path)
@@ -32,10 +34,9 @@ using Run = std::pair<int, int>;
 
 QList<Run> runs(const QString &folder, const QString &suffix)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d+)-(\\d+)\\."));
+    static const QRegularExpression form(u"^(\\d+)-(\\d+)\\."_s);
     QList<Run> result;
-    for (const QString &name :
-         QDir(folder).entryList({QStringLiteral("*-*.") + suffix}, QDir::Files)) {
+    for (const QString &name : QDir(folder).entryList({u"*-*."_s + suffix}, QDir::Files)) {
         const QRegularExpressionMatch match = form.match(name);
         if (match.hasMatch())
             result.emplaceBack(match.captured(1).toInt(), match.captured(2).toInt());
@@ -54,19 +55,19 @@ CaptureDevice &CaptureDevice::pages(int count)
 
 CaptureDevice &CaptureDevice::waitAtStart()
 {
-    m_waits.append(QStringLiteral("start"));
+    m_waits.append(u"start"_s);
     return *this;
 }
 
 CaptureDevice &CaptureDevice::waitAtPages()
 {
-    m_waits.append(QStringLiteral("pages"));
+    m_waits.append(u"pages"_s);
     return *this;
 }
 
 CaptureDevice &CaptureDevice::waitAtEnd()
 {
-    m_waits.append(QStringLiteral("end"));
+    m_waits.append(u"end"_s);
     return *this;
 }
 
@@ -84,20 +85,18 @@ CaptureDevice &CaptureDevice::report(const QString &line)
 
 QString CaptureDevice::uri() const
 {
-    QStringList query{QStringLiteral("pages=%1").arg(m_pages),
-                      QStringLiteral("exit=%1").arg(m_exit)};
+    QStringList query{u"pages=%1"_s.arg(m_pages), u"exit=%1"_s.arg(m_exit)};
     for (const QString &point : m_waits)
-        query.append(QStringLiteral("wait=") + point);
+        query.append(u"wait="_s + point);
     for (const QString &line : m_reports)
-        query.append(QStringLiteral("report=") +
-                     QString::fromLatin1(QUrl::toPercentEncoding(line)));
-    return QStringLiteral("capture:") +
-           QString::fromLatin1(QUrl::toPercentEncoding(m_folder, "/")) + u'?' + query.join(u'&');
+        query.append(u"report="_s + QString::fromLatin1(QUrl::toPercentEncoding(line)));
+    return u"capture:"_s + QString::fromLatin1(QUrl::toPercentEncoding(m_folder, "/")) + u'?' +
+           query.join(u'&');
 }
 
 void CaptureDevice::release(const QString &point) const
 {
-    QFile file(m_folder + QStringLiteral("/release-") + point);
+    QFile file(m_folder + u"/release-"_s + point);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("cannot write %s", qPrintable(file.fileName()));
 }
@@ -105,30 +104,30 @@ void CaptureDevice::release(const QString &point) const
 void CaptureDevice::withdrawReleases() const
 {
     QDir folder(m_folder);
-    for (const QString &name : folder.entryList({QStringLiteral("release-*")}, QDir::Files))
+    for (const QString &name : folder.entryList({u"release-*"_s}, QDir::Files))
         folder.remove(name);
 }
 
 bool CaptureDevice::hasReached(int id, const QString &point) const
 {
-    return QFile::exists(QStringLiteral("%1/reached-%2-%3").arg(m_folder).arg(id).arg(point));
+    return QFile::exists(u"%1/reached-%2-%3"_s.arg(m_folder).arg(id).arg(point));
 }
 
 QList<CapturedJob> CaptureDevice::jobs() const
 {
     QList<CapturedJob> result;
-    for (const auto &[id, document] : runs(m_folder, QStringLiteral("data"))) {
-        const QString name = QStringLiteral("%1/%2-%3.").arg(m_folder).arg(id).arg(document);
-        const QStringList arguments = texts(content(name + QStringLiteral("arguments")));
+    for (const auto &[id, document] : runs(m_folder, u"data"_s)) {
+        const QString name = u"%1/%2-%3."_s.arg(m_folder).arg(id).arg(document);
+        const QStringList arguments = texts(content(name + u"arguments"_s));
         CapturedJob job;
         job.id = id;
         job.user = arguments.value(2);
         job.title = arguments.value(3);
         job.copies = arguments.value(4).toInt();
         job.options = arguments.value(5);
-        for (const QString &line : texts(content(name + QStringLiteral("environment"))))
+        for (const QString &line : texts(content(name + u"environment"_s)))
             job.environment.insert(line.section(u'=', 0, 0), line.section(u'=', 1));
-        job.data = content(name + QStringLiteral("data"));
+        job.data = content(name + u"data"_s);
         result.append(job);
     }
     return result;
@@ -137,7 +136,7 @@ QList<CapturedJob> CaptureDevice::jobs() const
 QList<int> CaptureDevice::begunJobs() const
 {
     QList<int> result;
-    for (const auto &[id, document] : runs(m_folder, QStringLiteral("arguments"))) {
+    for (const auto &[id, document] : runs(m_folder, u"arguments"_s)) {
         if (!result.contains(id))
             result.append(id);
     }

@@ -15,6 +15,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int waitingClients = 64;
@@ -43,7 +45,7 @@ class FaultyServer::Worker
 {
 public:
     Worker(quint16 upstreamPort, Manner manner)
-        : script(manner), m_upstreamPort(upstreamPort), m_thread(QStringLiteral("faulty server"))
+        : script(manner), m_upstreamPort(upstreamPort), m_thread(u"faulty server"_s)
     {
         run([this, manner] { setListening(manner != Manner::Refuses); });
     }

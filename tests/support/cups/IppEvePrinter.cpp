@@ -8,6 +8,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray content(const QString &path)
@@ -20,32 +22,30 @@ QByteArray content(const QString &path)
 
 IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats)
 {
-    const QString bus = m_folder.filePath(QStringLiteral("bus"));
-    const QString spool = m_folder.filePath(QStringLiteral("spool"));
-    const QString logFile = m_folder.filePath(QStringLiteral("log"));
+    const QString bus = m_folder.filePath(u"bus"_s);
+    const QString spool = m_folder.filePath(u"spool"_s);
+    const QString logFile = m_folder.filePath(u"log"_s);
     if (!m_folder.isValid() || !QDir().mkpath(spool))
         throw std::runtime_error("no temporary folder");
     // It ends without a system bus, and goes on when nobody there knows DNS-SD.
-    m_bus.start(QStringLiteral("dbus-daemon"),
-                {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                 QStringLiteral("--nopidfile"), QStringLiteral("--nosyslog"),
-                 QStringLiteral("--address=unix:path=") + bus},
+    m_bus.start(u"dbus-daemon"_s,
+                {u"--session"_s, u"--nofork"_s, u"--nopidfile"_s, u"--nosyslog"_s,
+                 u"--address=unix:path="_s + bus},
                 logFile);
     if (!m_bus.waitUntil([&] { return QFile::exists(bus); }))
         throw std::runtime_error("no message bus for ippeveprinter: " +
                                  content(logFile).toStdString());
     m_printer.start(
-        QStringLiteral("ippeveprinter"),
+        u"ippeveprinter"_s,
         // The name has an address of both kinds; it wants to listen on both.
-        {QStringLiteral("-n"), QStringLiteral("localhost"), QStringLiteral("-p"),
-         QString::number(port()), QStringLiteral("-r"), QStringLiteral("off"), QStringLiteral("-k"),
-         QStringLiteral("-d"), spool, QStringLiteral("-f"),
+        {u"-n"_s, u"localhost"_s, u"-p"_s, QString::number(port()), u"-r"_s, u"off"_s, u"-k"_s,
+         u"-d"_s, spool, u"-f"_s,
          formats.join(u','), // Without a command it would be busy with each job for seconds.
-         QStringLiteral("-c"), systemProgram(QStringLiteral("true")), QStringLiteral("-v"), name},
+         u"-c"_s, systemProgram(u"true"_s), u"-v"_s, name},
         logFile,
-        {QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS=unix:path=") + bus,
+        {u"DBUS_SYSTEM_BUS_ADDRESS=unix:path="_s + bus,
          // Its certificates would go to the home of whoever runs the test.
-         QStringLiteral("HOME=") + m_folder.path()});
+         u"HOME="_s + m_folder.path()});
     if (!m_printer.waitUntil([this] { return m_port.answers(); }))
         throw std::runtime_error("ippeveprinter does not start: " + content(logFile).toStdString());
 }
@@ -57,13 +57,13 @@ IppEvePrinter::~IppEvePrinter()
 
 bool IppEvePrinter::isAvailable()
 {
-    return !systemProgram(QStringLiteral("ippeveprinter")).isEmpty() &&
-           !systemProgram(QStringLiteral("dbus-daemon")).isEmpty();
+    return !systemProgram(u"ippeveprinter"_s).isEmpty() &&
+           !systemProgram(u"dbus-daemon"_s).isEmpty();
 }
 
 QString IppEvePrinter::uri() const
 {
-    return QStringLiteral("ipp://localhost:%1/ipp/print").arg(port());
+    return u"ipp://localhost:%1/ipp/print"_s.arg(port());
 }
 
 void IppEvePrinter::stop()
@@ -73,7 +73,7 @@ void IppEvePrinter::stop()
 
 QList<QByteArray> IppEvePrinter::documents() const
 {
-    const QDir spool(m_folder.filePath(QStringLiteral("spool")));
+    const QDir spool(m_folder.filePath(u"spool"_s));
     QFileInfoList files = spool.entryInfoList(QDir::Files);
     // The output of the command lies beside "1-name.pdf".
     files.removeIf([](const QFileInfo &file) { return file.suffix() == u"prn"; });
@@ -89,7 +89,7 @@ QList<QByteArray> IppEvePrinter::documents() const
 
 QString IppEvePrinter::log() const
 {
-    return QString::fromUtf8(content(m_folder.filePath(QStringLiteral("log"))));
+    return QString::fromUtf8(content(m_folder.filePath(u"log"_s)));
 }
 
 } // namespace corvana::test

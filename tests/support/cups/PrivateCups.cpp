@@ -12,6 +12,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Permission = QFileDevice::Permission;
@@ -134,8 +136,7 @@ PrivateCups::~PrivateCups()
 
 bool PrivateCups::isAvailable()
 {
-    return !systemProgram(QStringLiteral("cupsd")).isEmpty() &&
-           !systemProgram(QStringLiteral("lpadmin")).isEmpty();
+    return !systemProgram(u"cupsd"_s).isEmpty() && !systemProgram(u"lpadmin"_s).isEmpty();
 }
 
 void PrivateCups::makeFolders() const
@@ -149,29 +150,29 @@ void PrivateCups::makeFolders() const
         makeFolder(m_folder.filePath(QString::fromLatin1(name)));
     // What a filter keeps for a moment; the sticky bit is of no use where there is one user.
     if (isRoot())
-        QFile::setPermissions(m_folder.filePath(QStringLiteral("spool/tmp")),
+        QFile::setPermissions(m_folder.filePath(u"spool/tmp"_s),
                               everybodyReads | Permission::WriteGroup | Permission::WriteOther);
 }
 
 void PrivateCups::installPrograms() const
 {
     const QString original = QStringLiteral(CORVANA_TEST_CUPS_SERVERBIN);
-    const QString own = m_folder.filePath(QStringLiteral("bin"));
+    const QString own = m_folder.filePath(u"bin"_s);
     makeFolder(own);
     for (const QString &name : QDir(original).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         if (name != u"backend" && name != u"filter")
             QFile::link(original + u'/' + name, own + u'/' + name);
     }
-    makeFolderOfLinks(own + QStringLiteral("/backend"), original + QStringLiteral("/backend"));
-    makeFolderOfLinks(own + QStringLiteral("/filter"), original + QStringLiteral("/filter"));
+    makeFolderOfLinks(own + u"/backend"_s, original + u"/backend"_s);
+    makeFolderOfLinks(own + u"/filter"_s, original + u"/filter"_s);
 
     // A copy belongs to whoever runs the test, as the server wants it. What nobody else may run, it
     // starts as root instead of as its user for filters, so that the test's folders are open to it.
-    const QString backend = own + QStringLiteral("/backend/capture");
+    const QString backend = own + u"/backend/capture"_s;
     if (!QFile::copy(QStringLiteral(CORVANA_TEST_CAPTURE), backend) ||
         !QFile::setPermissions(backend, onlyOwner))
-        fail(QStringLiteral("cannot install the capturing backend"));
-    const QString filter = own + QStringLiteral("/filter/") + QString::fromLatin1(failingFilter);
+        fail(u"cannot install the capturing backend"_s);
+    const QString filter = own + u"/filter/"_s + QString::fromLatin1(failingFilter);
     write(filter, "#!/bin/sh\n"
                   "cat \"${6:--}\" >/dev/null\n"
                   "echo 'ERROR: This filter always fails.' >&2\n"
@@ -190,11 +191,11 @@ void PrivateCups::writeConfiguration() const
                        "/state/printcap\nFileDevice Yes\nSyncOnClose No\n";
     if (isRoot())
         files += "User lp\nGroup lp\n";
-    write(m_folder.filePath(QStringLiteral("etc/cups-files.conf")), files);
+    write(m_folder.filePath(u"etc/cups-files.conf"_s), files);
 
     const QByteArray everybody = "Order allow,deny\nAllow all\n";
     write(
-        m_folder.filePath(QStringLiteral("etc/cupsd.conf")),
+        m_folder.filePath(u"etc/cupsd.conf"_s),
         (m_settings.encryption == CupsSettings::Encryption::Always ? "SSLListen " : "Listen ") +
             server().toLatin1() +
             "\nLogLevel debug\nMaxLogSize 0\nBrowsing No\nWebInterface No\n"
@@ -213,13 +214,12 @@ void PrivateCups::writeConfiguration() const
 
 void PrivateCups::start()
 {
-    m_process.start(QStringLiteral("cupsd"),
-                    {QStringLiteral("-f"), QStringLiteral("-c"),
-                     m_folder.filePath(QStringLiteral("etc/cupsd.conf")), QStringLiteral("-s"),
-                     m_folder.filePath(QStringLiteral("etc/cups-files.conf"))},
-                    m_folder.filePath(QStringLiteral("log/output")));
+    m_process.start(u"cupsd"_s,
+                    {u"-f"_s, u"-c"_s, m_folder.filePath(u"etc/cupsd.conf"_s), u"-s"_s,
+                     m_folder.filePath(u"etc/cups-files.conf"_s)},
+                    m_folder.filePath(u"log/output"_s));
     if (!m_process.waitUntil([this] { return m_port.answers(); }))
-        fail(QStringLiteral("cupsd does not start"));
+        fail(u"cupsd does not start"_s);
 }
 
 void PrivateCups::stop()
@@ -240,12 +240,10 @@ void PrivateCups::restart()
 
 QString PrivateCups::queueUri(const QString &name) const
 {
-    return QStringLiteral("%1://%2/%3/%4")
-        .arg(m_settings.encryption == CupsSettings::Encryption::Always ? QStringLiteral("ipps")
-                                                                       : QStringLiteral("ipp"),
-             server(),
-             m_classes.contains(name) ? QStringLiteral("classes") : QStringLiteral("printers"),
-             QString::fromLatin1(QUrl::toPercentEncoding(name)));
+    return u"%1://%2/%3/%4"_s.arg(
+        m_settings.encryption == CupsSettings::Encryption::Always ? u"ipps"_s : u"ipp"_s, server(),
+        m_classes.contains(name) ? u"classes"_s : u"printers"_s,
+        QString::fromLatin1(QUrl::toPercentEncoding(name)));
 }
 
 void PrivateCups::lpadmin(const QStringList &arguments) const
@@ -253,57 +251,55 @@ void PrivateCups::lpadmin(const QStringList &arguments) const
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     // Neither the configuration nor the certificates of the machine or its user are touched.
-    environment.insert(QStringLiteral("CUPS_SERVERROOT"), m_folder.filePath(QStringLiteral("etc")));
-    environment.insert(QStringLiteral("HOME"), m_folder.filePath(QStringLiteral("home")));
+    environment.insert(u"CUPS_SERVERROOT"_s, m_folder.filePath(u"etc"_s));
+    environment.insert(u"HOME"_s, m_folder.filePath(u"home"_s));
     if (m_settings.encryption == CupsSettings::Encryption::Always)
-        environment.insert(QStringLiteral("CUPS_ENCRYPTION"), QStringLiteral("Always"));
+        environment.insert(u"CUPS_ENCRYPTION"_s, u"Always"_s);
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(systemProgram(QStringLiteral("lpadmin")),
-                  QStringList{QStringLiteral("-h"), server()} + arguments);
+    process.start(systemProgram(u"lpadmin"_s), QStringList{u"-h"_s, server()} + arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit ||
         process.exitCode() != 0)
-        fail(QStringLiteral("lpadmin ") + arguments.join(u' ') + QStringLiteral(": ") +
+        fail(u"lpadmin "_s + arguments.join(u' ') + u": "_s +
              QString::fromUtf8(process.readAll().trimmed()));
 }
 
 void PrivateCups::addQueue(const QString &name, const QString &ppdPath,
                            const QueueSettings &settings)
 {
-    setUpQueue(name, {QStringLiteral("-P"), ppdPath}, settings);
+    setUpQueue(name, {u"-P"_s, ppdPath}, settings);
 }
 
 void PrivateCups::addRawQueue(const QString &name, const QueueSettings &settings)
 {
-    setUpQueue(name, {QStringLiteral("-m"), QStringLiteral("raw")}, settings);
+    setUpQueue(name, {u"-m"_s, u"raw"_s}, settings);
 }
 
 void PrivateCups::addEverywhereQueue(const QString &name, const QString &deviceUri)
 {
     QueueSettings settings;
     settings.deviceUri = deviceUri;
-    setUpQueue(name, {QStringLiteral("-m"), QStringLiteral("everywhere")}, settings);
+    setUpQueue(name, {u"-m"_s, u"everywhere"_s}, settings);
 }
 
 void PrivateCups::setUpQueue(const QString &name, const QStringList &driver,
                              const QueueSettings &settings) const
 {
-    QStringList arguments{QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
+    QStringList arguments{u"-p"_s, name, u"-E"_s, u"-v"_s,
                           settings.deviceUri.isEmpty() ? capture(name).uri() : settings.deviceUri};
     arguments += driver;
-    arguments +=
-        {QStringLiteral("-D"), settings.description, QStringLiteral("-L"), settings.location};
+    arguments += {u"-D"_s, settings.description, u"-L"_s, settings.location};
     if (!settings.users.isEmpty())
-        arguments += {QStringLiteral("-u"), settings.users};
+        arguments += {u"-u"_s, settings.users};
     for (const QString &option : settings.options)
-        arguments += {QStringLiteral("-o"), option};
+        arguments += {u"-o"_s, option};
     lpadmin(arguments);
 }
 
 void PrivateCups::addClass(const QString &name, const QStringList &members)
 {
     for (const QString &member : members)
-        lpadmin({QStringLiteral("-p"), member, QStringLiteral("-c"), name});
+        lpadmin({u"-p"_s, member, u"-c"_s, name});
     m_classes.append(name);
     startQueue(name);
     acceptJobs(name);
@@ -311,18 +307,18 @@ void PrivateCups::addClass(const QString &name, const QStringList &members)
 
 void PrivateCups::removeQueue(const QString &name)
 {
-    lpadmin({QStringLiteral("-x"), name});
+    lpadmin({u"-x"_s, name});
     m_classes.removeAll(name);
 }
 
 void PrivateCups::setPpd(const QString &name, const QString &ppdPath)
 {
-    lpadmin({QStringLiteral("-p"), name, QStringLiteral("-P"), ppdPath});
+    lpadmin({u"-p"_s, name, u"-P"_s, ppdPath});
 }
 
 void PrivateCups::setDefault(const QString &name)
 {
-    lpadmin({QStringLiteral("-d"), name});
+    lpadmin({u"-d"_s, name});
 }
 
 void PrivateCups::stopQueue(const QString &name, const QString &reason)
@@ -357,8 +353,8 @@ void PrivateCups::queueOperation(ipp_op_t operation, const QString &name,
 
 void PrivateCups::cancelJob(int id)
 {
-    ipp_t *request = newRequest(IPP_OP_CANCEL_JOB, "job-uri",
-                                QStringLiteral("ipp://%1/jobs/%2").arg(server()).arg(id));
+    ipp_t *request =
+        newRequest(IPP_OP_CANCEL_JOB, "job-uri", u"ipp://%1/jobs/%2"_s.arg(server()).arg(id));
     ask(request, "/jobs/");
 }
 
@@ -375,7 +371,7 @@ PrivateCups::Answer PrivateCups::ask(ipp_t *request, const char *resource) const
     if (!connection)
         ippDelete(request);
     if (!answer || ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING)
-        fail(QStringLiteral("the test's own request failed: ") +
+        fail(u"the test's own request failed: "_s +
              QString::fromUtf8(connection ? cupsLastErrorString() : "no connection"));
     return answer;
 }
@@ -385,7 +381,7 @@ QList<KnownJob> PrivateCups::jobs(const QString &name) const
     static const char *const wanted[] = {"job-id",          "job-state",
                                          "job-name",        "job-originating-user-name",
                                          "job-printer-uri", "job-state-reasons"};
-    const QString everyQueue = QStringLiteral("ipp://%1/").arg(server());
+    const QString everyQueue = u"ipp://%1/"_s.arg(server());
     ipp_t *request =
         newRequest(IPP_OP_GET_JOBS, "printer-uri", name.isEmpty() ? everyQueue : queueUri(name));
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "all");
@@ -416,29 +412,28 @@ KnownJob PrivateCups::job(int id) const
 
 CaptureDevice PrivateCups::capture(const QString &name) const
 {
-    const QString path = m_folder.filePath(QStringLiteral("capture/") + name);
+    const QString path = m_folder.filePath(u"capture/"_s + name);
     makeFolder(path);
     return CaptureDevice(path);
 }
 
 QString PrivateCups::errorLog() const
 {
-    return QString::fromUtf8(content(m_folder.filePath(QStringLiteral("log/error_log"))));
+    return QString::fromUtf8(content(m_folder.filePath(u"log/error_log"_s)));
 }
 
 QString PrivateCups::accessLog() const
 {
-    return QString::fromUtf8(content(m_folder.filePath(QStringLiteral("log/access_log"))));
+    return QString::fromUtf8(content(m_folder.filePath(u"log/access_log"_s)));
 }
 
 void PrivateCups::fail(const QString &what) const
 {
     constexpr int tail = 2000; // bytes that tell enough
-    throw std::runtime_error(
-        (what.toUtf8() + '\n' +
-         content(m_folder.filePath(QStringLiteral("log/output"))).right(tail) +
-         content(m_folder.filePath(QStringLiteral("log/error_log"))).right(tail))
-            .toStdString());
+    throw std::runtime_error((what.toUtf8() + '\n' +
+                              content(m_folder.filePath(u"log/output"_s)).right(tail) +
+                              content(m_folder.filePath(u"log/error_log"_s)).right(tail))
+                                 .toStdString());
 }
 
 QByteArray withFailingFilter(const QByteArray &ppd)

@@ -14,6 +14,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int startTime = 10000; // milliseconds
@@ -56,7 +58,7 @@ LoopbackPort::~LoopbackPort()
 
 QString LoopbackPort::server() const
 {
-    return QStringLiteral("127.0.0.1:%1").arg(m_number);
+    return u"127.0.0.1:%1"_s.arg(m_number);
 }
 
 bool LoopbackPort::answers() const
@@ -74,8 +76,7 @@ QString systemProgram(const QString &name)
     if (!found.isEmpty())
         return found;
     return QStandardPaths::findExecutable(
-        name, {QStringLiteral("/usr/local/sbin"), QStringLiteral("/usr/sbin"),
-               QStringLiteral("/sbin"), QStringLiteral("/usr/bin"), QStringLiteral("/bin")});
+        name, {u"/usr/local/sbin"_s, u"/usr/sbin"_s, u"/sbin"_s, u"/usr/bin"_s, u"/bin"_s});
 }
 
 ServerProcess::~ServerProcess()

@@ -15,6 +15,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::time_t kDay = 24 * 60 * 60;
@@ -143,13 +145,13 @@ TestCertificate::List TestCertificate::list() const
 
 void TestCertificate::giveTo(const PrivateCups &server) const
 {
-    const QDir folder(server.folder() + QStringLiteral("/ssl"));
-    const QStringList names = folder.entryList({QStringLiteral("*.crt")});
+    const QDir folder(server.folder() + u"/ssl"_s);
+    const QStringList names = folder.entryList({u"*.crt"_s});
     if (names.isEmpty())
         throw std::runtime_error("the server has no certificate yet");
     for (const QString &name : names) {
         write(folder.filePath(name), certificate());
-        write(folder.filePath(name.chopped(3) + QStringLiteral("key")), privateKey());
+        write(folder.filePath(name.chopped(3) + u"key"_s), privateKey());
     }
 }
 

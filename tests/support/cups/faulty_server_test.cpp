@@ -12,10 +12,11 @@
 #include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString queue = QStringLiteral("office");
+const QString queue = u"office"_s;
 constexpr auto format = "application/octet-stream";
 constexpr int shortTime = 200; // milliseconds, after which a test gives up waiting for nothing
 
@@ -85,16 +86,16 @@ private Q_SLOTS:
 
     void aFileIsFetchedThroughIt()
     {
-        const QString other = QStringLiteral("withppd");
+        const QString other = u"withppd"_s;
         QTemporaryDir folder;
-        QFile ppd(folder.filePath(QStringLiteral("sample.ppd")));
+        QFile ppd(folder.filePath(u"sample.ppd"_s));
         QVERIFY(ppd.open(QIODevice::WriteOnly));
         ppd.write(samplePpd(5));
         ppd.close();
         m_cups->addQueue(other, ppd.fileName());
         Client client(m_server->server());
         // The library writes only to a file that exists.
-        QFile fetched(folder.filePath(QStringLiteral("fetched.ppd")));
+        QFile fetched(folder.filePath(u"fetched.ppd"_s));
         QVERIFY(fetched.open(QIODevice::ReadWrite));
         QCOMPARE(cupsGetFile(client.http(), "/printers/withppd.ppd",
                              QFile::encodeName(fetched.fileName()).constData()),
@@ -270,7 +271,7 @@ private Q_SLOTS:
     void aPasswordIsAskedForUntilTheRightOneComes()
     {
         QFETCH(int, operation);
-        m_server->askForPassword(QStringLiteral("lisa"), QStringLiteral("sesame"), operation);
+        m_server->askForPassword(u"lisa"_s, u"sesame"_s, operation);
         static int questions;
         questions = 0;
         cupsSetPasswordCB2(

@@ -9,12 +9,13 @@
 #include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 QByteArray pages()
 {
-    QFile file(corvana::test::sourceFile(QStringLiteral("tests/data/pages.pdf")));
+    QFile file(corvana::test::sourceFile(u"tests/data/pages.pdf"_s));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -60,8 +61,7 @@ private Q_SLOTS:
 
     void itSaysWhatItTakes()
     {
-        const IppEvePrinter printer(QStringLiteral("Everywhere"),
-                                    {QStringLiteral("application/pdf")});
+        const IppEvePrinter printer(u"Everywhere"_s, {u"application/pdf"_s});
         const Ipp answer = ask(printer, IPP_OP_GET_PRINTER_ATTRIBUTES);
         QVERIFY2(answer, cupsLastErrorString());
         ipp_attribute_t *formats =
@@ -95,7 +95,7 @@ private Q_SLOTS:
         const IppEvePrinter printer;
         PrivateCups cups;
         cups.start();
-        const QString queue = QStringLiteral("everywhere");
+        const QString queue = u"everywhere"_s;
         cups.addRawQueue(queue, {.deviceUri = printer.uri()});
         const std::unique_ptr<http_t, void (*)(http_t *)> http(
             httpConnect2("127.0.0.1", cups.port(), nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 5000,
@@ -106,10 +106,10 @@ private Q_SLOTS:
                      "ipp://localhost/printers/everywhere");
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                      "application/pdf");
-        const Ipp answer(cupsDoFileRequest(http.get(), request, "/printers/everywhere",
-                                           qUtf8Printable(corvana::test::sourceFile(
-                                               QStringLiteral("tests/data/pages.pdf")))),
-                         ippDelete);
+        const Ipp answer(
+            cupsDoFileRequest(http.get(), request, "/printers/everywhere",
+                              qUtf8Printable(corvana::test::sourceFile(u"tests/data/pages.pdf"_s))),
+            ippDelete);
         QCOMPARE(ippGetStatusCode(answer.get()), IPP_STATUS_OK);
         QTRY_COMPARE_WITH_TIMEOUT(printer.documents().size(), 1, 10000);
         QTRY_COMPARE_WITH_TIMEOUT(cups.jobs(queue).first().state, IPP_JSTATE_COMPLETED, 10000);

@@ -13,17 +13,18 @@
 #include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto text = "text/plain";
 /// What the server logs when it ends in good order.
 constexpr auto goodbye = "Scheduler shutting down";
-const QString queue = QStringLiteral("office");
+const QString queue = u"office"_s;
 
 QByteArray sample()
 {
-    QFile file(corvana::test::sourceFile(QStringLiteral("tests/data/page.txt")));
+    QFile file(corvana::test::sourceFile(u"tests/data/page.txt"_s));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -51,7 +52,7 @@ private Q_SLOTS:
         if (!PrivateCups::isAvailable())
             QSKIP("no CUPS server here");
         QVERIFY(m_folder.isValid());
-        m_ppd = write(QStringLiteral("sample.ppd"), samplePpd(5));
+        m_ppd = write(u"sample.ppd"_s, samplePpd(5));
         QVERIFY(!sample().isEmpty());
     }
 
@@ -77,23 +78,20 @@ private Q_SLOTS:
         QVERIFY(captured.first().data.contains("CorvanaOption(QXMediaType=Thick)"));
         QVERIFY(!captured.first().data.contains("CorvanaOption(QXMediaType=Plain)"));
         QCOMPARE(captured.first().id, id);
-        QCOMPARE(captured.first().title, QStringLiteral("A job"));
+        QCOMPARE(captured.first().title, u"A job"_s);
         QVERIFY(captured.first().options.contains(u"QXMediaType=Thick"));
-        QCOMPARE(captured.first().environment.value(QStringLiteral("PRINTER")), queue);
+        QCOMPARE(captured.first().environment.value(u"PRINTER"_s), queue);
         QCOMPARE(captured.first().user, QString::fromUtf8(cupsUser()));
     }
 
     void aQueueSaysWhatTheAdministratorSays()
     {
-        m_cups->addQueue(queue, m_ppd,
-                         {QStringLiteral("Büro <1>"),
-                          QStringLiteral("2nd floor"),
-                          {QStringLiteral("QXMediaType=Glossy")}});
+        m_cups->addQueue(queue, m_ppd, {u"Büro <1>"_s, u"2nd floor"_s, {u"QXMediaType=Glossy"_s}});
         Client client(m_cups->server());
-        QCOMPARE(client.queueValue(queue, "printer-info"), QStringLiteral("Büro <1>"));
-        QCOMPARE(client.queueValue(queue, "printer-location"), QStringLiteral("2nd floor"));
-        QCOMPARE(client.queueValue(queue, "printer-is-accepting-jobs"), QStringLiteral("true"));
-        QCOMPARE(client.queueValue(queue, "printer-state"), QStringLiteral("idle"));
+        QCOMPARE(client.queueValue(queue, "printer-info"), u"Büro <1>"_s);
+        QCOMPARE(client.queueValue(queue, "printer-location"), u"2nd floor"_s);
+        QCOMPARE(client.queueValue(queue, "printer-is-accepting-jobs"), u"true"_s);
+        QCOMPARE(client.queueValue(queue, "printer-state"), u"idle"_s);
         const int id = client.print(queue, sample(), text);
         QVERIFY2(id > 0, cupsLastErrorString());
         QTRY_COMPARE(m_cups->job(id).state, IPP_JSTATE_COMPLETED);
@@ -112,7 +110,7 @@ private Q_SLOTS:
 
     void aClassPrintsOnAMember()
     {
-        const QString all = QStringLiteral("all");
+        const QString all = u"all"_s;
         m_cups->addRawQueue(queue);
         m_cups->addClass(all, {queue});
         const int id = Client(m_cups->server()).print(all, sample(), text);
@@ -123,14 +121,13 @@ private Q_SLOTS:
 
     void queuesComeAndGoAndChange()
     {
-        const QString other = QStringLiteral("other");
+        const QString other = u"other"_s;
         m_cups->addQueue(queue, m_ppd);
         m_cups->addQueue(other, m_ppd);
         Client client(m_cups->server());
         const QString model = client.queueValue(queue, "printer-make-and-model");
         QVERIFY(!model.isEmpty());
-        m_cups->setPpd(queue,
-                       corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-ml3.ppd")));
+        m_cups->setPpd(queue, corvana::test::sourceFile(u"resources/ppd/corvana-ml3.ppd"_s));
         QVERIFY(client.queueValue(queue, "printer-make-and-model") != model);
         for (const QString &name : {other, queue}) {
             m_cups->setDefault(name);
@@ -145,10 +142,10 @@ private Q_SLOTS:
     void aStoppedQueueKeepsItsJobs()
     {
         m_cups->addRawQueue(queue);
-        m_cups->stopQueue(queue, QStringLiteral("Kein Papier"));
+        m_cups->stopQueue(queue, u"Kein Papier"_s);
         Client client(m_cups->server());
-        QCOMPARE(client.queueValue(queue, "printer-state"), QStringLiteral("stopped"));
-        QCOMPARE(client.queueValue(queue, "printer-state-message"), QStringLiteral("Kein Papier"));
+        QCOMPARE(client.queueValue(queue, "printer-state"), u"stopped"_s);
+        QCOMPARE(client.queueValue(queue, "printer-state-message"), u"Kein Papier"_s);
         const int id = client.print(queue, sample(), text);
         QCOMPARE(m_cups->job(id).state, IPP_JSTATE_PENDING);
         m_cups->startQueue(queue);
@@ -158,9 +155,9 @@ private Q_SLOTS:
     void aQueueThatRejectsTakesNoJob()
     {
         m_cups->addRawQueue(queue);
-        m_cups->rejectJobs(queue, QStringLiteral("Moved"));
+        m_cups->rejectJobs(queue, u"Moved"_s);
         Client client(m_cups->server());
-        QCOMPARE(client.queueValue(queue, "printer-is-accepting-jobs"), QStringLiteral("false"));
+        QCOMPARE(client.queueValue(queue, "printer-is-accepting-jobs"), u"false"_s);
         QCOMPARE(client.print(queue, sample(), text), 0);
         QCOMPARE(client.status(), IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS);
         m_cups->acceptJobs(queue);
@@ -188,9 +185,9 @@ private Q_SLOTS:
         m_cups->addRawQueue(queue, {.deviceUri = device.waitAtEnd().exitWith(status).uri()});
         Client client(m_cups->server());
         const int id = client.print(queue, sample(), text);
-        QTRY_VERIFY(device.hasReached(id, QStringLiteral("end")));
+        QTRY_VERIFY(device.hasReached(id, u"end"_s));
         QCOMPARE(m_cups->job(id).state, IPP_JSTATE_PROCESSING);
-        device.release(QStringLiteral("end"));
+        device.release(u"end"_s);
         QTRY_COMPARE(m_cups->job(id).state, jobState);
         QTRY_COMPARE(client.queueValue(queue, "printer-state"), queueState);
     }
@@ -198,31 +195,30 @@ private Q_SLOTS:
     void aTestStepsThePrinter()
     {
         CaptureDevice device = m_cups->capture(queue);
-        device.pages(4).waitAtStart().waitAtPages().report(
-            QStringLiteral("STATE: +media-empty-warning"));
+        device.pages(4).waitAtStart().waitAtPages().report(u"STATE: +media-empty-warning"_s);
         m_cups->addRawQueue(queue, {.deviceUri = device.uri()});
         Client client(m_cups->server());
         const int id = client.print(queue, sample(), text);
-        QTRY_VERIFY(device.hasReached(id, QStringLiteral("start")));
+        QTRY_VERIFY(device.hasReached(id, u"start"_s));
         QCOMPARE(device.begunJobs(), QList<int>{id});
         QVERIFY(device.jobs().isEmpty());
-        QVERIFY(!device.hasReached(id, QStringLiteral("page-1")));
-        device.release(QStringLiteral("start"));
+        QVERIFY(!device.hasReached(id, u"page-1"_s));
+        device.release(u"start"_s);
 
-        QTRY_COMPARE(client.jobValue(id, "job-media-progress"), QStringLiteral("25"));
-        QTRY_VERIFY(device.hasReached(id, QStringLiteral("page-1")));
+        QTRY_COMPARE(client.jobValue(id, "job-media-progress"), u"25"_s);
+        QTRY_VERIFY(device.hasReached(id, u"page-1"_s));
         QCOMPARE(device.jobs().size(), 1);
         QTRY_VERIFY(
             client.queueValue(queue, "printer-state-reasons").contains(u"media-empty-warning"));
-        QVERIFY(!device.hasReached(id, QStringLiteral("page-2")));
-        device.release(QStringLiteral("page-1"));
-        QTRY_COMPARE(client.jobValue(id, "job-media-progress"), QStringLiteral("50"));
-        device.release(QStringLiteral("all"));
+        QVERIFY(!device.hasReached(id, u"page-2"_s));
+        device.release(u"page-1"_s);
+        QTRY_COMPARE(client.jobValue(id, "job-media-progress"), u"50"_s);
+        device.release(u"all"_s);
         QTRY_COMPARE(m_cups->job(id).state, IPP_JSTATE_COMPLETED);
 
         device.withdrawReleases();
         const int next = client.print(queue, sample(), text);
-        QTRY_VERIFY(device.hasReached(next, QStringLiteral("start")));
+        QTRY_VERIFY(device.hasReached(next, u"start"_s));
         m_cups->cancelJob(next);
         QTRY_COMPARE(m_cups->job(next).state, IPP_JSTATE_CANCELED);
         QCOMPARE(device.jobs().size(), 1);
@@ -230,8 +226,7 @@ private Q_SLOTS:
 
     void aFilterThatFailsStopsTheJob()
     {
-        m_cups->addQueue(queue,
-                         write(QStringLiteral("failing.ppd"), withFailingFilter(samplePpd(5))));
+        m_cups->addQueue(queue, write(u"failing.ppd"_s, withFailingFilter(samplePpd(5))));
         const int id = Client(m_cups->server()).print(queue, sample(), text);
         QVERIFY(id > 0);
         QTRY_COMPARE(m_cups->job(id).state, IPP_JSTATE_STOPPED);
@@ -240,8 +235,7 @@ private Q_SLOTS:
 
     void aFilterThatIsMissingIsToldByTheQueue()
     {
-        m_cups->addQueue(queue,
-                         write(QStringLiteral("missing.ppd"), withMissingFilter(samplePpd(5))));
+        m_cups->addQueue(queue, write(u"missing.ppd"_s, withMissingFilter(samplePpd(5))));
         Client client(m_cups->server());
         QTRY_VERIFY(
             client.queueValue(queue, "printer-state-reasons").contains(u"cups-missing-filter"));
@@ -269,13 +263,13 @@ private Q_SLOTS:
         m_cups->addRawQueue(queue, {.deviceUri = device.waitAtEnd().uri()});
         Client client(m_cups->server());
         const int id = client.print(queue, sample(), text);
-        QTRY_VERIFY(device.hasReached(id, QStringLiteral("end")));
+        QTRY_VERIFY(device.hasReached(id, u"end"_s));
         m_cups->kill();
         QVERIFY(!m_cups->isRunning());
         QVERIFY(!m_cups->errorLog().contains(QString::fromLatin1(goodbye)));
         QCOMPARE(client.ask(IPP_OP_GET_PRINTER_ATTRIBUTES, queue),
                  IPP_STATUS_ERROR_SERVICE_UNAVAILABLE);
-        device.release(QStringLiteral("all"));
+        device.release(u"all"_s);
         m_cups->restart();
         QCOMPARE(Client(m_cups->server()).ask(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), IPP_STATUS_OK);
     }
@@ -304,7 +298,7 @@ private Q_SLOTS:
 
     void aQueueTakesNoJobsOfAUser()
     {
-        m_cups->addRawQueue(queue, {.users = QStringLiteral("deny:") + cupsUser()});
+        m_cups->addRawQueue(queue, {.users = u"deny:"_s + cupsUser()});
         Client client(m_cups->server());
         QCOMPARE(client.print(queue, sample(), text), 0);
         QCOMPARE(client.status(), IPP_STATUS_ERROR_NOT_AUTHORIZED);
@@ -334,9 +328,9 @@ private Q_SLOTS:
 
     void whatCannotBeSetUpThrows()
     {
-        QVERIFY_EXCEPTION_THROWN(m_cups->addQueue(queue, QStringLiteral("/nonexistent.ppd")),
+        QVERIFY_EXCEPTION_THROWN(m_cups->addQueue(queue, u"/nonexistent.ppd"_s),
                                  std::runtime_error);
-        QVERIFY_EXCEPTION_THROWN(m_cups->stopQueue(QStringLiteral("none")), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(m_cups->stopQueue(u"none"_s), std::runtime_error);
         CupsSettings settings;
         settings.directives = "<Location /unfinished>\n";
         PrivateCups broken(settings);
@@ -360,7 +354,7 @@ private Q_SLOTS:
         QVERIFY(test.waitForFinished());
         QCOMPARE(test.exitStatus(), QProcess::CrashExit);
         const QString line = QString::fromUtf8(test.readAllStandardOutput()).trimmed();
-        const QString server = QStringLiteral("127.0.0.1:") + line.section(u' ', 0, 0);
+        const QString server = u"127.0.0.1:"_s + line.section(u' ', 0, 0);
         QVERIFY(server.section(u':', 1).toInt() > 0);
         QTRY_VERIFY(!Client(server).isConnected());
         QVERIFY(QDir(line.section(u' ', 1)).removeRecursively());
