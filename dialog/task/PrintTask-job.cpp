@@ -1,5 +1,7 @@
 #include <utility>
 
+#include <QFileInfo>
+
 #include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/session/OptionNames.h"
@@ -8,7 +10,6 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/PrinterOpening.h"
 #include "dialog/task/RefusalText.h"
-#include <QFileInfo>
 
 namespace corvana {
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <QPointer>
+
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/RefusalText.h"
@@ -199,8 +201,11 @@ void PrintTask::sayRefusal(const Refusal &refusal)
     const QList<OptionChoice> wayOut = m_opened->session->wayOut(refusal.proposed);
     if (!wayOut.isEmpty()) {
         message.offer = wayOutText(wayOut, *m_opened->session);
-        message.take = [this, wayOut, proposed = refusal.proposed] {
-            takeWayOut(wayOut, proposed);
+        // The offer may outlive the printer that it was made for.
+        const QPointer<PpdSession> session = m_opened->session.get();
+        message.take = [this, session, wayOut, proposed = refusal.proposed] {
+            if (session)
+                takeWayOut(wayOut, proposed);
         };
     }
     Q_EMIT said(message);

@@ -98,6 +98,38 @@ private Q_SLOTS:
         QVERIFY(!m_panel->outputBin().contains(QString()));
     }
 
+    // chooseAsUser
+
+    void aChoiceOnBehalfOfTheUserActsAsAPick_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::addColumn<QString>("choice");
+        QTest::newRow("pop-up") << u"QXMediaType"_s << u"Thick"_s;
+        QTest::newRow("radio buttons") << u"QXQuietMode"_s << u"OFF"_s;
+        QTest::newRow("box") << u"QXGray"_s << u"ON"_s;
+    }
+    void aChoiceOnBehalfOfTheUserActsAsAPick()
+    {
+        QFETCH(QString, keyword);
+        QFETCH(QString, choice);
+        QVERIFY(m_panel->chooseAsUser(keyword, choice));
+        QCOMPARE(stored(keyword), choice);
+        QVERIFY(m_host->asked().contains(keyword + u'=' + choice));
+        // The same once more is no news, and is taken all the same.
+        QVERIFY(m_panel->chooseAsUser(keyword, choice));
+    }
+
+    void whatNoControlOffersIsNotChosen()
+    {
+        QVERIFY(!m_panel->chooseAsUser(u"QXMediaType"_s, u"Film"_s));
+        QVERIFY(!m_panel->chooseAsUser(u"QXQuietMode"_s, u"Film"_s));
+        QVERIFY(!m_panel->chooseAsUser(u"QXGray"_s, u"Film"_s));
+        QVERIFY(!m_panel->chooseAsUser(u"QXOutput"_s, u"FAX"_s));
+        m_popUp->setEnabled(false);
+        QVERIFY(!m_panel->chooseAsUser(u"QXMediaType"_s, u"Thick"_s));
+        QVERIFY(m_host->asked().isEmpty());
+    }
+
     // requestNewOutputBin
 
     void anAcceptedPickRunsItsStepsInOrder()
