@@ -75,7 +75,6 @@ QList<JobOption> PrintTask::jobAttributes() const
 std::optional<TaskRefusal> PrintTask::finish()
 {
     using Place = TaskRefusal::Place;
-    m_run.held = false;
     if (!m_face.finishEditing())
         return TaskRefusal{{}, Place::Nowhere, true};
     if (printsToFile() && m_output.path.isEmpty() && !m_request.documents.isEmpty())

@@ -1,5 +1,6 @@
 #include <optional>
 
+#include <QFile>
 #include <QTest>
 
 #include "dialog/session/JobTicket.h"
@@ -165,6 +166,46 @@ private Q_SLOTS:
                      outcome.problems.constFirst().contains(range),
                  qPrintable(outcome.problems.constFirst()));
         QCOMPARE(m_session->snapshot(), before);
+    }
+
+    // An envelope makes the panel propose its medium, which here cannot be printed on both sides.
+    void aMediumThatWasNamedCountsMoreThanTheOneThatAPaperBrings_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("medium");  // null where nothing is taken
+        QTest::addColumn<QString>("problem"); // null where everything is
+        QTest::newRow("named") << u"PageSize=EnvDL QXMediaType=Thick Duplex=DuplexNoTumble"_s
+                               << u"Thick"_s << QString();
+        QTest::newRow("named first") << u"Duplex=DuplexNoTumble QXMediaType=Thick PageSize=EnvDL"_s
+                                     << u"Thick"_s << QString();
+        QTest::newRow("not named") << u"PageSize=EnvDL Duplex=DuplexNoTumble"_s << QString()
+                                   << u"QXMediaType=Env: this cannot be combined with "
+                                      "Duplex=DuplexNoTumble."_s;
+        QTest::newRow("named, and itself in the way")
+            << u"PageSize=EnvDL QXMediaType=Thicker Duplex=DuplexNoTumble"_s << QString()
+            << u"QXMediaType=Thicker: this cannot be combined with Duplex=DuplexNoTumble."_s;
+        QTest::newRow("nothing in the way") << u"PageSize=EnvDL"_s << u"Env"_s << QString();
+    }
+    void aMediumThatWasNamedCountsMoreThanTheOneThatAPaperBrings()
+    {
+        QFETCH(QString, options);
+        QFETCH(QString, medium);
+        QFETCH(QString, problem);
+        QFile ppd(samplePpdPath());
+        QVERIFY(ppd.open(QIODevice::ReadOnly));
+        m_panels.reset();
+        m_session =
+            sessionFor(ppd.readAll() + "*UIConstraints: *QXMediaType Env *Duplex DuplexNoTumble\n"
+                                       "*UIConstraints: *Duplex DuplexNoTumble *QXMediaType Env\n");
+        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, *m_presenter);
+        if (medium == u"Env"_s)
+            m_presenter->expect(); // how envelopes are loaded
+        const OptionOutcome outcome = apply({options});
+        if (problem.isNull())
+            QCOMPARE(outcome.problems, QStringList());
+        else
+            QVERIFY2(outcome.problems.contains(problem), qPrintable(outcome.problems.join(u' ')));
+        QCOMPARE(inJob(u"QXMediaType"_s), medium.isNull() ? u"Plain"_s : medium);
     }
 
     void aDensityIsNeverMarked()

@@ -55,6 +55,44 @@ private Q_SLOTS:
     void init() { m_scene = std::make_unique<TaskScene>(); }
     void cleanup() { m_scene.reset(); }
 
+    // Copies beyond what a printer makes
+
+    void moreCopiesThanThePrinterMakes_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<bool>("byCommandLine"); // -n
+        QTest::addColumn<bool>("isRefused");     // where nobody has seen the number
+        QTest::newRow("of an option") << u"copies=9"_s << false << true;
+        QTest::newRow("of -n") << QString() << true << true;
+        QTest::newRow("of a program") << QString() << false << false;
+    }
+    void moreCopiesThanThePrinterMakes()
+    {
+        QFETCH(QString, option);
+        QFETCH(bool, byCommandLine);
+        QFETCH(bool, isRefused);
+        PrintRequest request = with(m_scene->request(officePrinter()), option);
+        request.copies = option.isEmpty() ? 9 : 1;
+        request.copiesWereNamed = byCommandLine;
+        m_scene->make(request).startUnattended();
+        FetchedPrinter five = fetched(officePrinter().text());
+        PrinterCapabilities capabilities;
+        capabilities.maximumCopies = 5;
+        five.capabilities = std::make_shared<const PrinterCapabilities>(capabilities);
+        Q_EMIT task().printers().ready(five);
+        task().print();
+        const QString problem = u"The printer prints at most 5 copies at once, not 9."_s;
+        QCOMPARE(m_scene->face.problems(), isRefused ? QStringList(problem) : QStringList());
+        QVERIFY2(m_scene->face.message().contains(problem), qPrintable(m_scene->face.message()));
+        if (isRefused)
+            task().print(); // it was seen
+        QVERIFY(m_scene->reaches(Phase::Ended));
+        QVERIFY(m_scene->arguments().contains("5"));
+        QVERIFY(!m_scene->arguments().contains("9"));
+    }
+
+    // What goes along
+
     // The first printer may take none of the options, and with them not the pages.
     void pagesThatOnlyTheSecondPrinterTakesAreItsPages()
     {

@@ -7,6 +7,7 @@
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/window/PrintWindow.h"
+#include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 #include "tests/dialog/job/FakeFilter.h"
@@ -127,6 +128,8 @@ private Q_SLOTS:
         QTRY_VERIFY(isReady());
         becomes("no PPD");
         QVERIFY2(waiting().contains(u"Missing asterisk"_s), qPrintable(waiting()));
+        const auto *status = part<PrinterStatusLine>(u"printerStatus"_s);
+        QVERIFY2(status->text().contains(u"Missing asterisk"_s), qPrintable(status->text()));
         QVERIFY(!part<QPushButton>(u"print"_s)->isEnabled());
         // The list of printers speaks of it every few seconds.
         QString error;
