@@ -12,6 +12,8 @@ namespace corvana {
 
 namespace {
 
+bool themeIsAsked = false;
+
 // All drawings are made on a square of this many units.
 constexpr qreal kGrid = 24;
 
@@ -155,7 +157,7 @@ PrinterLook lookOf(const Printer &printer, Presence presence)
 QIcon printerIcon(PrinterLook look)
 {
     return QIcon(new DrawnIcon([look](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
-        const QIcon theme = QIcon::fromTheme(QStringLiteral("printer"));
+        const QIcon theme = themeIsAsked ? QIcon::fromTheme(QStringLiteral("printer")) : QIcon();
         if (!theme.isNull())
             theme.paint(&painter, rect, Qt::AlignCenter,
                         mode == QIcon::Disabled ? mode : QIcon::Normal);
@@ -167,6 +169,11 @@ QIcon printerIcon(PrinterLook look)
         if (look != PrinterLook::Ready)
             drawMark(painter, look);
     }));
+}
+
+void takePrinterIconsFromTheme()
+{
+    themeIsAsked = true;
 }
 
 QIcon searchIcon()

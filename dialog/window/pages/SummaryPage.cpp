@@ -8,8 +8,13 @@
 
 namespace corvana {
 
-SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent), m_table(new QTableWidget(0, 2, this))
+SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent) {}
+
+void SummaryPage::build()
 {
+    if (m_table)
+        return;
+    m_table = new QTableWidget(0, 2, this);
     m_table->setObjectName(QStringLiteral("summary"));
     m_table->setAccessibleName(tr("Summary"));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -29,6 +34,7 @@ SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent), m_table(new QTableW
 
 void SummaryPage::setLines(const QList<SummaryLine> &lines)
 {
+    build();
     m_table->setRowCount(static_cast<int>(lines.size()));
     for (int row = 0; row < m_table->rowCount(); ++row) {
         m_table->setItem(row, 0, new QTableWidgetItem(lines.at(row).title));
