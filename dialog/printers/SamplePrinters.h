@@ -8,7 +8,8 @@
 namespace corvana {
 
 /// The sample printers in a folder of PPD files, the newest model first. Files that are no PPD are
-/// left out and logged.
+/// left out and logged. One that begins like a PPD and goes on wrongly is found out when its
+/// printer is opened: the list needs the first lines alone.
 QList<Printer> samplePrinters(const QString &folder);
 
 /// The printer of one PPD file; the file's name without its suffix is the printer's name.

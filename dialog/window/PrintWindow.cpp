@@ -49,7 +49,6 @@ PrintWindow::~PrintWindow()
 void PrintWindow::buildWindow()
 {
     setWindowTitle(tr("Print"));
-    setWindowIcon(QIcon::fromTheme(u"document-print"_s));
     m_header = new PrinterHeader(m_task->request().title, m_task->output(), this);
     m_message = new MessageBar(this);
     m_message->setObjectName(u"message"_s);
@@ -149,10 +148,18 @@ void PrintWindow::paintEvent(QPaintEvent *event)
     if (!std::exchange(m_painted, true)) {
         // Only a window that is there has the frame that its screen gives it.
         QTimer::singleShot(0, this, [this] { m_growth.keepOnScreen(); });
+        QTimer::singleShot(0, this, &PrintWindow::takeIconsFromTheme);
         QTimer::singleShot(0, m_task.get(), &PrintTask::bringUp);
         // After that, so that nothing of it delays what is on the screen already.
         QTimer::singleShot(0, this, &PrintWindow::followList);
     }
+}
+
+// Only now, because looking through the folders of themes takes as long as the first paint itself.
+void PrintWindow::takeIconsFromTheme()
+{
+    setWindowIcon(QIcon::fromTheme(u"document-print"_s));
+    m_header->takeIconsFromTheme();
 }
 
 void PrintWindow::followPanelView()

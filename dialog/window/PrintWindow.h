@@ -57,6 +57,7 @@ private:
     void addPageShortcuts();
     void orderFocus();
     void followList();
+    void takeIconsFromTheme();
     void followPanelView();
     void showHelp();
     void showHelpPage(const HelpPage &page);

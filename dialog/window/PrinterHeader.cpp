@@ -10,6 +10,7 @@
 
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/chooser/PrinterComboBox.h"
+#include "dialog/window/chooser/PrinterIcon.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/PlainText.h"
@@ -101,6 +102,13 @@ void PrinterHeader::showDestination(bool fileOnly, bool toFile)
     m_toFile->setChecked(toFile);
     m_toFileLabel->setVisible(fileOnly);
     m_outputRow->setEnabled(fileOnly || toFile);
+}
+
+void PrinterHeader::takeIconsFromTheme()
+{
+    takePrinterIconsFromTheme();
+    m_status->updateIcon();
+    m_printers->update();
 }
 
 void PrinterHeader::focusOutput()

@@ -25,6 +25,8 @@ public:
 
     PrinterComboBox *printers() const { return m_printers; }
     PrinterStatusLine *status() const { return m_status; }
+    /// Shows the printers with the icons of the desktop's theme; until then with our own.
+    void takeIconsFromTheme();
     /// A queue can be printed to a file instead; a printer of a PPD file (`fileOnly`) prints
     /// nowhere but to a file.
     void showDestination(bool fileOnly, bool toFile);

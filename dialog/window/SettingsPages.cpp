@@ -75,6 +75,7 @@ bool SettingsPages::showPanels()
     if (std::exchange(m_showsPanels, true))
         return false;
     showPanelViews();
+    m_summary->build();
     enter(currentIndex());
     return true;
 }

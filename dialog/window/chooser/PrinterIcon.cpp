@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+bool themeIsAsked = false;
+
 // All drawings are made on a square of this many units.
 constexpr qreal kGrid = 24;
 
@@ -157,7 +159,7 @@ PrinterLook lookOf(const Printer &printer, Presence presence)
 QIcon printerIcon(PrinterLook look)
 {
     return QIcon(new DrawnIcon([look](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
-        const QIcon theme = QIcon::fromTheme(u"printer"_s);
+        const QIcon theme = themeIsAsked ? QIcon::fromTheme(u"printer"_s) : QIcon();
         if (!theme.isNull())
             theme.paint(&painter, rect, Qt::AlignCenter,
                         mode == QIcon::Disabled ? mode : QIcon::Normal);
@@ -169,6 +171,11 @@ QIcon printerIcon(PrinterLook look)
         if (look != PrinterLook::Ready)
             drawMark(painter, look);
     }));
+}
+
+void takePrinterIconsFromTheme()
+{
+    themeIsAsked = true;
 }
 
 QIcon searchIcon()

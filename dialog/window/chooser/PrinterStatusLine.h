@@ -34,13 +34,15 @@ public:
 
     QString text() const;
 
+    /// Draws the icon anew, which may look different by now.
+    void updateIcon();
+
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void showLine(const QIcon &icon, const QString &text, const QString &head,
                   const std::function<void()> &retry);
-    void updateIcon();
 
     QLabel *m_icon;
     ElidedLabel *m_text;

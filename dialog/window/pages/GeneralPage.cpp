@@ -14,6 +14,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "dialog/window/pages/ClearButton.h"
 #include "dialog/window/pages/CustomPaperSize.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/MenuActions.h"
@@ -75,7 +76,7 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     qobject_cast<QLabel *>(layout->labelForField(row))->setBuddy(m_copies);
     m_pageRanges->setObjectName(u"pageRanges"_s);
     m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
-    m_pageRanges->setClearButtonEnabled(true);
+    addClearButton(m_pageRanges);
     layout->addRow(tr("Pa&ges:"), m_pageRanges);
     connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPage::copiesEdited);
     connect(m_pageRanges, &QLineEdit::textChanged, this,

@@ -12,6 +12,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/window/pages/ChoiceDelegate.h"
 #include "dialog/window/pages/ChoiceEditor.h"
+#include "dialog/window/pages/ClearButton.h"
 #include "dialog/window/pages/OptionsModel.h"
 #include "dialog/window/pages/OptionsView.h"
 #include "platform/toolkit/PlainText.h"
@@ -54,7 +55,7 @@ void OptionsPage::buildSearch()
     m_search->setObjectName(u"search"_s);
     m_search->setPlaceholderText(tr("Search options and choices"));
     m_search->setAccessibleName(tr("Search options and choices"));
-    m_search->setClearButtonEnabled(true);
+    addClearButton(m_search);
     m_search->installEventFilter(this);
     const bool needed = m_model->optionCount() > kMostWithoutSearch;
     m_search->setVisible(needed);

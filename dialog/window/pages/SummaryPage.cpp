@@ -10,8 +10,13 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent), m_table(new QTableWidget(0, 2, this))
+SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent) {}
+
+void SummaryPage::build()
 {
+    if (m_table)
+        return;
+    m_table = new QTableWidget(0, 2, this);
     m_table->setObjectName(u"summary"_s);
     m_table->setAccessibleName(tr("Summary"));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -31,6 +36,7 @@ SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent), m_table(new QTableW
 
 void SummaryPage::setLines(const QList<SummaryLine> &lines)
 {
+    build();
     m_table->setRowCount(static_cast<int>(lines.size()));
     for (int row = 0; row < m_table->rowCount(); ++row) {
         m_table->setItem(row, 0, new QTableWidgetItem(lines.at(row).title));

@@ -17,10 +17,13 @@ class SummaryPage : public QWidget
 public:
     explicit SummaryPage(QWidget *parent = nullptr);
 
+    /// Makes the table, which is no part of a window that is just coming up.
+    void build();
+    /// The page is built first where it was not yet.
     void setLines(const QList<SummaryLine> &lines);
 
 private:
-    QTableWidget *m_table;
+    QTableWidget *m_table = nullptr;
 };
 
 } // namespace corvana
