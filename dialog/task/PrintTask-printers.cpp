@@ -103,6 +103,7 @@ void PrintTask::open(const FetchedPrinter &ready)
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
     QStringList lost;
     const auto restore = [&](PpdSession &session) {
+        m_baseline.opened = session.snapshot();
         if (memory.session)
             lost = restoreLeft(*memory.session, ready.ppd->hash, session);
     };
