@@ -47,6 +47,8 @@ void PrintTask::choosePrinter(const Printer &printer)
     enter(Phase::Fetching);
     Q_EMIT printerChanged();
     m_source.open(printer);
+    if (m_phase == Phase::Fetching)
+        Q_EMIT printerChanged(); // from here on it is one of printers()
 }
 
 void PrintTask::retry()
@@ -199,6 +201,8 @@ void PrintTask::printerFailed(const QString &problem, const QString &brief)
     if (m_phase == Phase::Ended)
         return;
     m_chosen.problem = {problem, brief};
+    if (m_chosen.printer.name.isEmpty())
+        m_chosen.printer = m_source.asked(); // whose name nobody had to say
     if (!m_opened)
         enter(Phase::Missing);
     Q_EMIT printerChanged();

@@ -48,6 +48,15 @@ QString releaseCommand(const PrintRequest &request, const Printer &printer, int 
     return QStringLiteral("lp %1-i %2 -H resume").arg(server, shellWord(name));
 }
 
+// A window shows beside a problem which printer it is about.
+QString withName(const QString &problem, const Printer &printer)
+{
+    return printer.origin == PrinterOrigin::File || problem.contains(printer.name)
+               ? problem
+               : Texts::tr("%1 So the printer “%2” could not be asked for.")
+                     .arg(problem, printer.name);
+}
+
 // For somebody who has mistyped the name of a printer that needs no server.
 QString withOtherPrinters(const QString &problem, const PrintRequest &request)
 {
@@ -103,7 +112,8 @@ private:
             // Not in the midst of what opened it.
             QMetaObject::invokeMethod(&m_task, &PrintTask::print, Qt::QueuedConnection);
         } else if (phase == Phase::Missing) {
-            end({withOtherPrinters(m_task.problem().text, m_task.request())});
+            const QString problem = withName(m_task.problem().text, m_task.printer());
+            end({withOtherPrinters(problem, m_task.request())});
         } else if (phase == Phase::Ended && m_task.outcome() == JobOutcome()) {
             if (m_termination.caught())
                 end({Texts::tr("Interrupted.")});
