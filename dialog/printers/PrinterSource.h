@@ -64,6 +64,10 @@ public:
     /// The user has seen that there is something to do about the list.
     void retryList() { m_queues.retry(); }
 
+    /// The printer that is open, or is being asked for, or could not be asked for. Without a name
+    /// while it is not known which one that is.
+    const Printer &asked() const { return m_open.printer; }
+
     const ServerContext &serverOf(const Printer &printer) const;
 
     /// The printer is now the one to open first next time.

@@ -14,7 +14,7 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-Q_LOGGING_CATEGORY(lcQueues, "corvana.dialog.queues", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcSamples, "corvana.dialog.printers", QtWarningMsg)
 
 namespace {
 
@@ -89,7 +89,7 @@ QList<Printer> samplePrinters(const QString &folder)
         if (error.isEmpty())
             printers += printer;
         else
-            qCWarning(lcQueues).noquote() << error;
+            qCWarning(lcSamples).noquote() << error;
     }
     // The newest model is what most people want to see.
     std::stable_sort(printers.begin(), printers.end(), [](const Printer &a, const Printer &b) {

@@ -1,3 +1,5 @@
+#include "dialog/task/PrintTask.h"
+
 #include <utility>
 
 #include <QFileInfo>
@@ -7,9 +9,8 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
-#include "dialog/task/PrintTask.h"
-#include "dialog/task/PrinterOpening.h"
 #include "dialog/task/RefusalText.h"
+#include "dialog/task/ServerJobRequests.h"
 
 namespace corvana {
 
@@ -112,7 +113,7 @@ std::optional<TaskRefusal> PrintTask::askPanels()
     const bool allowed = m_opened->panels->shouldPrint();
     if (m_phase != Phase::Asking)
         return std::nullopt;
-    const Instructions instructions = m_face.instructions(!printsToFile());
+    const Instructions instructions = m_face.instructions();
     if (instructions == Instructions::Refuse)
         return TaskRefusal{{tr("The printer's settings show instructions.")}};
     m_run.held = instructions == Instructions::Wait;
@@ -180,6 +181,7 @@ void PrintTask::interrupt(OnInterrupt job)
 void PrintTask::jobFinished(const JobOutcome &outcome)
 {
     using Kind = JobOutcome::Kind;
+    m_run.job->disconnect(this);
     m_run.job.release()->deleteLater();
     m_run.outcome = outcome;
     Memory &memory = m_memory[idOf(m_chosen.printer)];

@@ -1,8 +1,8 @@
+#include "dialog/task/PrintTask.h"
+
 #include <QTimer>
 
 #include "dialog/session/OptionNames.h"
-#include "dialog/task/PrintTask.h"
-#include "dialog/task/PrinterOpening.h"
 
 namespace corvana {
 
@@ -48,7 +48,8 @@ void PrintTask::choosePrinter(const Printer &printer)
     Q_EMIT phaseChanged(m_phase); // also while another printer is being asked for
     Q_EMIT printerChanged();
     m_source.open(printer);
-    Q_EMIT printerChanged(); // a printer that no list has is among the printers from now on
+    if (m_phase == Phase::Fetching)
+        Q_EMIT printerChanged(); // from here on it is one of printers()
 }
 
 void PrintTask::retry()
@@ -105,6 +106,7 @@ void PrintTask::open(const FetchedPrinter &ready)
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
     QStringList lost;
     const auto restore = [&](PpdSession &session) {
+        m_baseline.opened = session.snapshot();
         if (memory.session)
             lost = restoreLeft(*memory.session, ready.ppd->hash, session);
     };
@@ -144,10 +146,12 @@ void PrintTask::rememberSession()
     if (m_phase != Phase::Ready)
         return;
     m_face.finishEditing(); // what is being typed counts as well
+    // So does what a panel has not saved yet, such as a slider that was moved: one that is left
+    // saves.
+    m_opened->panels->visit(-1);
     // What was asked for on the command line is the user's as well.
     if (isUntouched() && m_request.options.isEmpty())
         return;
-    m_opened->panels->visit(-1); // a panel that is left saves
     QList<JobOption> attributes = m_settings.attributes();
     attributes.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
@@ -200,6 +204,8 @@ void PrintTask::printerFailed(const QString &problem, const QString &brief)
     if (m_phase == Phase::Ended)
         return;
     m_chosen.problem = {problem, brief};
+    if (m_chosen.printer.name.isEmpty())
+        m_chosen.printer = m_source.asked(); // whose name nobody had to say
     if (!m_opened)
         enter(Phase::Missing);
     Q_EMIT printerChanged();

@@ -58,9 +58,12 @@ void PrintTask::bringUp()
         return;
     const QList<Refusal> refusals = bringPanelsUp();
     noteMissingPages();
-    m_baseline.opened = m_opened->session->snapshot();
+    if (!m_memory.value(idOf(m_chosen.printer)).session)
+        m_baseline.opened = m_opened->session->snapshot();
     m_chosen.unset = applyStartOptions();
     m_baseline.started = m_opened->session->snapshot();
+    if (m_phase != Phase::Opened)
+        return; // interrupted, while an alert of a panel was waiting for its answer
     enter(Phase::Ready);
     showSettings();
     for (const Refusal &refusal : refusals)
@@ -92,7 +95,11 @@ QStringList PrintTask::applyStartOptions()
         m_settings.addAttributes(memory.session->attributes);
         if (memory.session->copies)
             m_settings.askForCopies(*memory.session->copies, By::UserQueues);
-        m_baseline.opened = memory.session->opened;
+        const SessionSnapshot &opened = memory.session->opened;
+        if (memory.session->ppdHash == m_opened->fetched.ppd->hash)
+            m_baseline.opened = opened;
+        else // its choices are those of other options; what panels wrote is not the user's either
+            m_baseline.opened.entries.insert(opened.entries);
         m_opened->panels->restoreAll();
         return takeMostCopies();
     }

@@ -36,8 +36,8 @@ public:
     /// canAsk().
     virtual void askCredentials(const CredentialsQuestion &question,
                                 const CredentialStore::Answer &answer) = 0;
-    /// What instructions mean for a job that goes to a queue (`canWait`) or into a file.
-    virtual Instructions instructions(bool canWait) const = 0;
+    /// What the instructions that the panels have just shown mean for the job.
+    virtual Instructions instructions() const = 0;
 
     /// Takes a value that is being typed. False when it cannot be taken; the face then says why.
     virtual bool finishEditing() { return true; }

@@ -31,7 +31,7 @@ void TerminalFace::askCredentials(const CredentialsQuestion &question,
     m_questioner(question, answer);
 }
 
-TaskFace::Instructions TerminalFace::instructions(bool) const
+TaskFace::Instructions TerminalFace::instructions() const
 {
     if (!m_presenter || !m_presenter->jobMustWait())
         return Instructions::Followed;

@@ -27,7 +27,7 @@ public:
     bool canAsk() const override { return bool(m_questioner); }
     void askCredentials(const CredentialsQuestion &question,
                         const CredentialStore::Answer &answer) override;
-    Instructions instructions(bool canWait) const override;
+    Instructions instructions() const override;
     /// What -o and --output name was meant.
     bool mayOverwrite(const QString &) override { return true; }
     void writeSummary(const QList<SummaryLine> &lines) override;

@@ -49,12 +49,13 @@ QString releaseCommand(const PrintRequest &request, const Printer &printer, int 
     return u"lp %1-i %2 -H resume"_s.arg(server, shellWord(name));
 }
 
-// A problem of a server does not name the printer that it keeps from being asked for.
-QString withPrinter(const QString &problem, const QString &name)
+// A window shows beside a problem which printer it is about.
+QString withName(const QString &problem, const Printer &printer)
 {
-    return problem.contains(name)
+    return printer.origin == PrinterOrigin::File || problem.contains(printer.name)
                ? problem
-               : Texts::tr("%1 So the printer “%2” could not be asked for.").arg(problem, name);
+               : Texts::tr("%1 So the printer “%2” could not be asked for.")
+                     .arg(problem, printer.name);
 }
 
 // For somebody who has mistyped the name of a printer that needs no server.
@@ -111,9 +112,8 @@ private:
             // Not in the midst of what opened it.
             QMetaObject::invokeMethod(&m_task, &PrintTask::print, Qt::QueuedConnection);
         } else if (phase == Phase::Missing) {
-            end({withOtherPrinters(
-                withPrinter(m_task.problem().text, m_task.request().wantedPrinter),
-                m_task.request())});
+            const QString problem = withName(m_task.problem().text, m_task.printer());
+            end({withOtherPrinters(problem, m_task.request())});
         } else if (phase == Phase::Ended && m_task.outcome() == JobOutcome()) {
             if (m_termination.caught())
                 end({Texts::tr("Interrupted.")});

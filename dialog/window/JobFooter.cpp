@@ -94,7 +94,13 @@ void JobFooter::buildButtons()
 
 void JobFooter::setCanPrint(bool canPrint)
 {
+    // A button that is disabled hands the focus on, to Cancel: a second Space would take back what
+    // the first has begun.
+    if (!canPrint && m_print->hasFocus())
+        m_progress->setFocus(Qt::OtherFocusReason);
     m_print->setEnabled(canPrint);
+    if (canPrint && m_progress->hasFocus())
+        m_print->setFocus(Qt::OtherFocusReason);
 }
 
 void JobFooter::showRunning(bool running)

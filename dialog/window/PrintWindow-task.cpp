@@ -27,6 +27,7 @@ void PrintWindow::connectTask()
     connect(task, &PrintTask::phaseChanged, this, &PrintWindow::phaseChanged);
     connect(task, &PrintTask::printerClosed, m_pages, &SettingsPages::close);
     connect(task, &PrintTask::printerClosed, this, &PrintWindow::updateSilencedAlerts);
+    connect(task, &PrintTask::printerClosed, m_message, &MessageBar::withdrawOffer);
     connect(task, &PrintTask::printerChanged, this, &PrintWindow::showPrinter);
     connect(task, &PrintTask::settingsChanged, m_pages, &SettingsPages::refresh);
     connect(task, &PrintTask::settingsChanged, this, &PrintWindow::updateSilencedAlerts);
@@ -47,10 +48,14 @@ void PrintWindow::connectTask()
 void PrintWindow::phaseChanged(PrintTask::Phase phase)
 {
     using Phase = PrintTask::Phase;
-    m_footer->setCanPrint(m_task->canPrint());
     const bool running =
         phase == Phase::Printing || phase == Phase::Canceling || phase == Phase::Leaving;
-    m_header->printers()->setEnabled(!running);
+    m_header->setJobRunning(running);
+    // First, so that the focus can go to what shows the progress.
+    if (phase == Phase::Printing)
+        m_footer->showRunning(true);
+    // While panels are asked, an alert is in front of the button, or nobody has the time to press.
+    m_footer->setCanPrint(m_task->canPrint() || phase == Phase::Asking);
     switch (phase) {
     case Phase::Fetching:
     case Phase::Missing:
@@ -65,14 +70,14 @@ void PrintWindow::phaseChanged(PrintTask::Phase phase)
             orderFocus();
         break;
     case Phase::Asking:
-        break;
     case Phase::Printing:
-        m_footer->showRunning(true);
         break;
     case Phase::Canceling:
         m_footer->showCanceling();
         break;
     case Phase::Leaving:
+        if (!m_task->isJobHandedOver())
+            m_footer->showCanceling(); // interrupted: the server is being told
         break;
     case Phase::Ended:
         ended();
@@ -213,8 +218,8 @@ void PrintWindow::showRefusal(const TaskRefusal &refusal)
 void PrintWindow::jobEnded(const JobOutcome &outcome)
 {
     using Kind = JobOutcome::Kind;
-    if (outcome.isDone() || outcome.kind == Kind::AlreadyThere)
-        m_report = outcome.text;
+    const bool isThere = outcome.isDone() || outcome.kind == Kind::AlreadyThere;
+    m_report = isThere ? outcome.text : QString();
     const bool lost = outcome.kind == Kind::Failed || outcome.kind == Kind::Stopped ||
                       outcome.kind == Kind::Unknown || outcome.kind == Kind::PrinterChanged;
     const bool wasEnded = m_task->phase() == PrintTask::Phase::Ended;

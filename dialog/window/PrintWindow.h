@@ -82,7 +82,7 @@ private:
     AlertPresenter &alerts() override { return m_presenter; }
     void askCredentials(const CredentialsQuestion &question,
                         const CredentialStore::Answer &answer) override;
-    Instructions instructions(bool) const override { return Instructions::Followed; }
+    Instructions instructions() const override { return Instructions::Followed; }
     bool finishEditing() override;
     bool userIsBusy() const override;
     bool mayOverwrite(const QString &file) override;

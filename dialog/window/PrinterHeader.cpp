@@ -111,6 +111,13 @@ void PrinterHeader::takeIconsFromTheme()
     m_printers->update();
 }
 
+void PrinterHeader::setJobRunning(bool running)
+{
+    m_printers->setEnabled(!running);
+    m_toFile->setEnabled(!running);
+    m_outputRow->setEnabled(!running && (m_toFile->isHidden() || m_toFile->isChecked()));
+}
+
 void PrinterHeader::focusOutput()
 {
     m_output->setFocus();

@@ -30,6 +30,8 @@ public:
     /// A queue can be printed to a file instead; a printer of a PPD file (`fileOnly`) prints
     /// nowhere but to a file.
     void showDestination(bool fileOnly, bool toFile);
+    /// While a job runs, neither its printer nor its file can be another one.
+    void setJobRunning(bool running);
     /// Puts the focus where the file is named.
     void focusOutput();
 

@@ -893,6 +893,10 @@
 <context>
     <name>UnattendedRun</name>
     <message>
+        <source>%1 So the printer “%2” could not be asked for.</source>
+        <translation>%1そのため、プリンター「%2」を確認できませんでした。</translation>
+    </message>
+    <message>
         <source>Nothing was printed.</source>
         <translation>何も印刷されませんでした。</translation>
     </message>

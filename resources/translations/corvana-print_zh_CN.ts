@@ -893,6 +893,10 @@
 <context>
     <name>UnattendedRun</name>
     <message>
+        <source>%1 So the printer “%2” could not be asked for.</source>
+        <translation>%1因此无法查询打印机“%2”。</translation>
+    </message>
+    <message>
         <source>Nothing was printed.</source>
         <translation>没有打印任何内容。</translation>
     </message>

@@ -129,7 +129,7 @@ dialog/window/chooser/A.cpp  dialog/window/pages/GeneralPage.h  refused
 dialog/window/chooser/A.cpp  dialog/session/PpdSession.h        refused
 dialog/window/pages/A.cpp    dialog/session/PpdSession.h        allowed
 dialog/window/pages/A.cpp    dialog/printers/Printer.h          refused
-dialog/window/pages/A.cpp    dialog/app/PrintWindow.h           refused
+dialog/window/pages/A.cpp    dialog/window/PrintWindow.h        refused
 dialog/task/A.cpp            dialog/job/Job.h                   allowed
 dialog/task/A.cpp            dialog/window/PrintWindow.h        refused
 dialog/task/A.cpp            dialog/terminal/TerminalFace.h     refused
@@ -143,7 +143,7 @@ dialog/app/A.cpp             ../../panel/OptionKeywords.h       refused
 dialog/app/A.cpp             dialog/../panel/OptionKeywords.h   refused
 dialog/app/A.cpp             OptionKeywords.h                   refused
 platform/pde/A.h             panel/OptionKeywords.h             refused
-platform/pde/A.h             dialog/app/PrintWindow.h           refused
+platform/pde/A.h             dialog/window/PrintWindow.h        refused
 platform/pde/A.h             platform/toolkit/Alert.h           allowed
 platform/printcore/A.cpp     platform/foundation/Values.h       refused
 platform/printcore/A.cpp     platform/toolkit/Alert.h           refused
@@ -163,13 +163,13 @@ platform/toolkit/A.cpp       platform/foundation/Values.h       allowed
 panel/A.cpp                  platform/pde/PDEPanel.h            allowed
 panel/A.cpp                  printsetting/PrintSettingKeys.h    refused
 panel/A.cpp                  plugin/QXJobValues.h               refused
-panel/A.cpp                  dialog/app/PrintWindow.h           refused
+panel/A.cpp                  dialog/window/PrintWindow.h        refused
 printsetting/A.cpp           colorsetting/EffectSet.h           refused
 printsetting/A.cpp           panel/OptionKeywords.h             allowed
-printsetting/A.cpp           dialog/app/PrintWindow.h           refused
+printsetting/A.cpp           dialog/window/PrintWindow.h        refused
 colorsetting/A.cpp           printsetting/ValueBounds.h         refused
 colorsetting/A.cpp           panel/OptionKeywords.h             allowed
-plugin/A.cpp                 dialog/app/PrintWindow.h           refused
+plugin/A.cpp                 dialog/window/PrintWindow.h        refused
 plugin/A.cpp                 colorsetting/EffectSet.h           allowed
 plugin/A.cpp                 A.moc                              allowed
 ROWS

@@ -176,11 +176,12 @@ private Q_SLOTS:
         QTest::newRow("a queue that takes no jobs")
             << int(Rejecting) << u"The queue “office” takes no jobs at the moment."_s;
         QTest::newRow("a queue that was never there")
-            << int(Unknown) << u"There is no printer “office” at “"_s;
+            << int(Unknown) << u"There is no printer “office” at “127.0.0.1:"_s;
         QTest::newRow("a queue that is not there any more")
-            << int(Deleted) << u"There is no printer “office” at “"_s;
+            << int(Deleted) << u"There is no printer “office” at “127.0.0.1:"_s;
         QTest::newRow("a server that is not there any more")
-            << int(ServerGone) << u"cannot be reached"_s;
+            << int(ServerGone)
+            << u"cannot be reached. So the printer “office” could not be asked for."_s;
     }
     void whatCannotBePrintedIsSaid()
     {

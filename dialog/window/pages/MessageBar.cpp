@@ -146,6 +146,12 @@ void MessageBar::dismiss()
     hide();
 }
 
+void MessageBar::withdrawOffer()
+{
+    if (m_do)
+        dismiss();
+}
+
 QString MessageBar::text() const
 {
     return isHidden() ? QString() : m_text->text();

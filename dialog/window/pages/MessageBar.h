@@ -27,6 +27,8 @@ public:
     void showMessage(Kind kind, const QString &text, const QString &actionText,
                      const std::function<void()> &action);
     void dismiss();
+    /// Takes a message back that offers to do something: it was said of a printer that is gone.
+    void withdrawOffer();
     QString text() const;
 
 private:

@@ -49,7 +49,7 @@ public:
         ++passwords;
         answer(std::nullopt);
     }
-    Instructions instructions(bool) const override { return instructionsAre; }
+    Instructions instructions() const override { return instructionsAre; }
     bool finishEditing() override { return takesWhatIsTyped; }
     bool userIsBusy() const override { return busy; }
     bool mayOverwrite(const QString &file) override

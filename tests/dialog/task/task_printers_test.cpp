@@ -169,6 +169,29 @@ private Q_SLOTS:
                  qPrintable(m_scene->face.message()));
     }
 
+    // What an administrator has set is not what the user has chosen, however often that changes.
+    void aDefaultThatChangesTwiceIsTheLastOne()
+    {
+        const auto withMedium = [](const QByteArray &medium) {
+            return officePrinter().text().replace("*DefaultMedia: Plain",
+                                                  "*DefaultMedia: " + medium);
+        };
+        m_scene->open(m_scene->request(officePrinter()));
+        task().propose(u"Tray"_s, u"Lower"_s);
+        for (const char *medium : {"Card", "Film", "Creme"}) {
+            becomes(withMedium(medium));
+            task().bringUp();
+            QCOMPARE(m_scene->session().markedChoice(u"Media"_s), QString::fromLatin1(medium));
+            QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+            task().propose(u"Punch"_s, QLatin1StringView(medium) == "Card"_L1 ? u"ON"_s : u"OFF"_s);
+        }
+        task().propose(u"Media"_s, u"Plain"_s);
+        becomes(withMedium("Card"));
+        task().bringUp();
+        QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Plain"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Punch"_s), u"OFF"_s);
+    }
+
     void whatAChangedPrinterHasNoMoreIsNamed()
     {
         const PpdBuilder less = PpdBuilder().option(

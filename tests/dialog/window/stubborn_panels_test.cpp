@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
@@ -130,6 +131,23 @@ private Q_SLOTS:
         m_dialog.reset();
         QVERIFY(m_filter->content(u"out.ps"_s).isNull());
         QVERIFY(!QFile::exists(m_filter->path(u"ran"_s)));
+    }
+
+    // Without its controls a panel would print other choices than with them.
+    void aPanelWithoutAnythingToShowPrintsNothing()
+    {
+        const Variable without("TEST_PANEL_WITHOUT_VIEW", "Second");
+        const PrintRequest request = m_dialog->task().request();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"has no view"_s));
+        m_dialog = std::make_unique<PrintWindow>(request);
+        m_dialog->show();
+        QTRY_COMPARE(m_dialog->task().phase(), PrintTask::Phase::Ready);
+        const auto *message = m_dialog->findChild<QLabel *>(u"messageText"_s);
+        QVERIFY2(message->text().endsWith(u"“Second” has nothing to show."_s),
+                 qPrintable(message->text()));
+        QVERIFY(!m_dialog->findChild<QPushButton *>(u"print"_s)->isEnabled());
+        m_dialog->accept();
+        QCOMPARE(m_dialog->task().phase(), PrintTask::Phase::Ready);
     }
 
     void theDialogCanBeCanceledAllTheSame()

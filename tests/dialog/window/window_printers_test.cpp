@@ -7,6 +7,7 @@
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/window/PrintWindow.h"
+#include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
@@ -94,6 +95,8 @@ private Q_SLOTS:
         m_window = std::make_unique<PrintWindow>(queueRequest());
         QVERIFY2(waiting().startsWith(u"Asking “127.0.0.1:1”"_s), qPrintable(waiting()));
         QVERIFY(!part<QPushButton>(u"print"_s)->isEnabled());
+        const auto chosen = part<PrinterComboBox>(u"printers"_s)->currentPrinter();
+        QCOMPARE(chosen ? chosen->name : QString(), u"office"_s);
         m_window->show();
         QTRY_VERIFY(part<QPushButton>(u"retry"_s));
         QVERIFY(!part<QPushButton>(u"print"_s)->isEnabled());

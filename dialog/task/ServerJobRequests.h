@@ -1,11 +1,6 @@
 #pragma once
 
-#include <memory>
-
-#include <QTemporaryFile>
-
 #include "dialog/job/ServerJob.h"
-#include "dialog/session/OptionRequest.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
 

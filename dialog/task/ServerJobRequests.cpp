@@ -1,21 +1,8 @@
-#include "dialog/task/PrinterOpening.h"
-
-#include <QCoreApplication>
+#include "dialog/task/ServerJobRequests.h"
 
 #include "dialog/driverless/StandardJobOptions.h"
 
 namespace corvana {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(QueueOpening)
-};
-
-} // namespace
 
 ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerContext &server,
                                   const PrintRequest &request, const JobTicket &ticket)
