@@ -912,10 +912,6 @@
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1プリントサーバーを必要としないプリンター: %2。</translation>
     </message>
-    <message>
-        <source>%1 So the printer “%2” could not be asked for.</source>
-        <translation>%1そのため、プリンター「%2」を確認できませんでした。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::ChoiceEditor</name>

@@ -912,10 +912,6 @@
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1不需要打印服务器的打印机：%2。</translation>
     </message>
-    <message>
-        <source>%1 So the printer “%2” could not be asked for.</source>
-        <translation>%1因此无法查询打印机“%2”。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::ChoiceEditor</name>

@@ -1,3 +1,4 @@
+#include <QSlider>
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
@@ -328,6 +329,26 @@ private Q_SLOTS:
         QCOMPARE(session().markedChoice(u"QXMediaType"_s), u"Glossy"_s);
         QCOMPARE(session().markedChoice(u"Duplex"_s), u"None"_s);
         QCOMPARE(m_face->presenter.shown().size(), 1);
+    }
+
+    void whatAPanelHasNotSavedComesBackWithItsPrinter()
+    {
+        PrintRequest two = request();
+        two.bundleRoots = builtBundleRoots();
+        two.printers = {{u"first"_s, u"First"_s, samplePpdPath(), 5},
+                        {u"second"_s, u"Second"_s, samplePpdPath(), 5}};
+        open(two);
+        m_task->opened()->panels->visit(1);
+        auto *red = m_task->opened()->panels->views().at(1)->findChild<QSlider *>(u"redSlider"_s);
+        QVERIFY(red);
+        red->setValue(7);
+        m_task->choosePrinter(two.printers.at(1));
+        m_task->bringUp();
+        m_task->choosePrinter(two.printers.at(0));
+        m_task->bringUp();
+        m_task->print();
+        QVERIFY(ends());
+        QVERIFY(arguments().contains("QXRed=7"));
     }
 
     // Two printers of one PPD, so that everything of the one could be set on the other.

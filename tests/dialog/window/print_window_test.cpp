@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include "dialog/printers/PrinterFetching.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/window/PrintWindow.h"
 #include "tests/dialog/job/FakeFilter.h"
@@ -208,6 +209,26 @@ private Q_SLOTS:
         QVERIFY(m_dialog->printedTo().isEmpty());
     }
 
+    void theFocusOfPrintDoesNotGoToCancelWhileTheJobRuns()
+    {
+        open("touch $DIR/started; sleep 300\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        m_dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        auto *print = control<QPushButton>(u"print"_s);
+        print->setFocus();
+        QTest::keyClick(print, Qt::Key_Space);
+        QVERIFY(m_filter->waitForFile(u"started"_s));
+        // A second press takes nothing back.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(m_dialog->task().phase(), PrintTask::Phase::Printing);
+        QVERIFY(!control<QLineEdit>(u"output"_s)->isEnabled());
+        m_dialog->reject();
+        QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), 10000);
+        QVERIFY(print->hasFocus());
+        QVERIFY(control<QLineEdit>(u"output"_s)->isEnabled());
+    }
+
     void aRunningJobDoesNotWidenTheWindow()
     {
         open("touch $DIR/started; sleep 300\n", {sample()});
@@ -326,6 +347,20 @@ private Q_SLOTS:
         control<QPushButton>(u"messageAction"_s)->click();
         QCOMPARE(shown(u"Media"_s), u"Transparency"_s);
         QCOMPARE(shown(u"Staple"_s), u"Off"_s);
+    }
+
+    void anOfferGoesWithThePrinterThatItWasMadeFor()
+    {
+        openOffice({u"Staple=Left"_s});
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
+        choose(u"Media"_s, u"trans"_s);
+        QVERIFY(!message().isEmpty());
+        // Its options change at the server to something that cannot be opened.
+        writeFile(m_filter->ppdPath(), "no PPD any more");
+        Q_EMIT m_dialog->task().printers().ready(printerWithItsFile(small()));
+        QVERIFY(!control<QWidget>(u"messageAction"_s)->isVisible());
+        QCOMPARE(m_dialog->task().phase(), PrintTask::Phase::Missing);
     }
 
     void aRefusedValueIsSaidAsThePagesShowIt()
