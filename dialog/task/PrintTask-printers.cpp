@@ -135,7 +135,8 @@ void PrintTask::close()
     if (!m_opened)
         return;
     m_settings.leavePrinter();
-    m_settings.askForCopies(m_request.copies, JobSettings::By::Program); // where its own counted
+    // Counts where the options of the printer that is left had asked for copies.
+    m_settings.askForCopies(m_request.copies, JobSettings::By::Program);
     m_opened.reset();
     Q_EMIT printerClosed();
 }
