@@ -6,7 +6,8 @@
 //   opening_benchmark --check   the same, and fails when the dialog takes longer than it should
 //
 // It measures without a display and, where there is one, with it. Every window is a fresh one. What
-// follows the first paint, as the panels do, does not count.
+// follows the first paint, as the panels do, does not count. Then it measures whole programs, from
+// exec to the first window, with an X server of its own (see WholeProcesses.h).
 //
 // Other arguments are those of Google Benchmark. Exit status: 0; 1 when a window does not come up
 // or
@@ -32,6 +33,7 @@
 #include <QPrinter>
 #endif
 
+#include "benchmarks/opening/WholeProcesses.h"
 #include "benchmarks/support/BestTimes.h"
 #include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/window/PrintWindow.h"
@@ -185,5 +187,10 @@ int main(int argc, char **argv)
     bool good = benchmarks::inOwnProcess([&] { return measure("offscreen", check); }) == 0;
     if (qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
         good = benchmarks::inOwnProcess([&] { return measure(nullptr, check); }) == 0 && good;
+#ifdef CORVANA_BENCHMARK_PROGRAM
+    const int whole =
+        benchmarks::inOwnProcess([] { return benchmarks::measureWholeProcesses() ? 0 : 1; });
+    good = (whole == 0 || !check) && good;
+#endif
     return good ? 0 : 1;
 }

@@ -28,7 +28,8 @@ QByteArray valueIn(const QByteArray &head, const QByteArray &keyword)
     if (start < 0)
         return {};
     const qsizetype value = start + keyword.size() + 4;
-    return head.sliced(value, head.indexOf('\n', value) - value).trimmed();
+    const qsizetype end = head.indexOf('\n', value);
+    return head.sliced(value, (end < 0 ? head.size() : end) - value).trimmed();
 }
 
 // A sample as its PPD's first lines describe it. Nothing when they do not say everything in the
