@@ -33,7 +33,9 @@ endif()
 add_library(corvana_pch OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled.cpp)
 set_target_properties(corvana_pch PROPERTIES AUTOMOC OFF)
 target_link_libraries(corvana_pch PRIVATE Qt6::Widgets Cups::Cups)
-target_precompile_headers(corvana_pch PRIVATE ${CMAKE_SOURCE_DIR}/cmake/precompiled.h)
+target_include_directories(corvana_pch PRIVATE ${CMAKE_SOURCE_DIR})
+# Named within the tree: an absolute path in the header would make it another one in each clone.
+target_precompile_headers(corvana_pch PRIVATE <cmake/precompiled.h>)
 
 # corvana_target(NAME): include paths and the shared precompiled header for a target.
 function(corvana_target name)
