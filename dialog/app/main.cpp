@@ -10,6 +10,7 @@
 #include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/app/Translations.h"
 #include "dialog/terminal/ListPrinters.h"
+#include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "dialog/terminal/UnattendedRun.h"
 #include "dialog/window/Placeholders.h"
@@ -106,11 +107,14 @@ int main(int argc, char **argv)
         arguments += QString::fromLocal8Bit(argv[i]);
     const ParsedCommandLine parsed = parseCommandLine(arguments);
     if (!parsed.commandLine) {
-        QTextStream(parsed.exitStatus == 0 ? stdout : stderr) << parsed.text;
-        return parsed.exitStatus;
+        QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
+        return int(parsed.exitStatus);
     }
     const CommandLine &line = *parsed.commandLine;
 
+    // Before there is a second thread: libcups asks for it in each.
+    if (!line.user.isEmpty())
+        qputenv("CUPS_USER", line.user.toLocal8Bit());
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
@@ -132,6 +136,8 @@ int main(int argc, char **argv)
 
     QString error;
     const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
+    if (!request && line.json)
+        writeLine(refusalLine({}, {error}));
     if (!request)
         return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)

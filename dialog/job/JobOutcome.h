@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace corvana {
 
@@ -25,6 +26,10 @@ struct JobOutcome
     int job = 0;    ///< its number at the server; 0 when it never had one
     QString text{}; ///< for a person: one or more sentences
     QString file{}; ///< absolute path of a result that is a file; empty for a job of a server
+
+    QString queue{};       ///< that has the job, without an instance; empty where there is none
+    QStringList reasons{}; ///< what its server says last of its state: IPP keywords
+    int pages = 0;         ///< pages or sheets that came out; 0 where nobody counts
 
     bool operator==(const JobOutcome &) const = default;
     /// Whether the server has the job, or the file is there, for the exit status.
