@@ -4,8 +4,8 @@ namespace corvana {
 
 void FollowedJob::begin(ServerConnection &connection)
 {
-    if (m_toItsEnd)
-        m_ends.remember(connection, m_queue);
+    if (m_toItsEnd && m_queue.origin == PrinterOrigin::Queue)
+        m_ends.remember(connection);
 }
 
 void FollowedJob::end(ServerConnection &connection)
@@ -30,8 +30,6 @@ std::optional<JobStatus> FollowedJob::lookUp(ServerConnection &connection)
     if (const auto queue = movedTo(*status, m_queue)) {
         m_queue = *queue;
         m_outcomes.moveTo(m_queue);
-        if (m_toItsEnd && !status->isOver())
-            m_ends.remember(connection, m_queue);
     }
     return status;
 }

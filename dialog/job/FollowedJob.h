@@ -6,7 +6,7 @@
 namespace corvana {
 
 /// A job at its server, wherever it is by now: in the queue that it was sent to, in another one, or
-/// at its end, of which only its queue has heard.
+/// at its end, which its server remembers apart.
 /// Ownership: the outcomes are borrowed; they are told what is seen. Thread: the worker's.
 class FollowedJob
 {

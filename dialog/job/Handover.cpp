@@ -33,7 +33,8 @@ struct Texts
 
 JobProgress progressOf(const JobStatus &status, int job)
 {
-    JobProgress progress{JobProgress::Stage::Waiting, job, status.pages, 0, 0, status.message};
+    JobProgress progress{
+        JobProgress::Stage::Waiting, job, status.pages, 0, 0, status.message, status.reasons};
     if (status.state == IPP_JSTATE_PROCESSING)
         progress.stage = JobProgress::Stage::Printing;
     else if (status.state == IPP_JSTATE_HELD)

@@ -54,6 +54,12 @@ void HandoverOutcomes::see(const JobStatus &status)
     m_pages = status.pages;
 }
 
+void HandoverOutcomes::see(const JobProgress &progress)
+{
+    m_reasons = progress.reasons;
+    m_pages = progress.page;
+}
+
 JobOutcome HandoverOutcomes::outcome(Kind kind, const QString &text) const
 {
     JobOutcome outcome{kind, m_job, text};

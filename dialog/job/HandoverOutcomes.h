@@ -27,6 +27,7 @@ public:
     void moveTo(const Printer &queue);
     /// What its server says of it, the last time.
     void see(const JobStatus &status);
+    void see(const JobProgress &progress);
 
     // Nothing was sent
 

@@ -1,7 +1,5 @@
 #include "dialog/job/JobEnds.h"
 
-#include "dialog/printers/QueueRequests.h"
-
 namespace corvana {
 
 namespace {
@@ -9,6 +7,8 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+// All queues of it.
+constexpr auto kServer = "ipp://localhost/"_L1;
 // A program that crashes leaves its subscription behind for this long.
 constexpr std::chrono::seconds kLease = 300s;
 
@@ -31,18 +31,16 @@ void readInto(Event *event, ipp_attribute_t *attribute)
         event->status.reasons = ippTexts(attribute);
     else if (name == "job-impressions-completed"_L1)
         event->status.pages = ippNumber(attribute);
+    else if (name == "notify-printer-uri"_L1)
+        event->status.queueUri = ippText(attribute);
     else if (name == "notify-text"_L1)
         event->status.message = ippText(attribute);
 }
 
 } // namespace
 
-void JobEnds::remember(ServerConnection &connection, const Printer &queue)
+void JobEnds::remember(ServerConnection &connection)
 {
-    forget(connection);
-    if (queue.origin != PrinterOrigin::Queue)
-        return;
-    m_queue = queue;
     IppMessage request = newRequest(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS);
     addIppKeywords(request.get(), IPP_TAG_SUBSCRIPTION, "notify-events", {"job-completed"});
     ippAddString(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-pull-method",
@@ -50,7 +48,7 @@ void JobEnds::remember(ServerConnection &connection, const Printer &queue)
     ippAddInteger(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_INTEGER, "notify-lease-duration",
                   static_cast<int>(kLease.count()));
     const ServerConnection::Aside aside(connection);
-    const IppMessage response = connection.request(std::move(request), resourceOf(m_queue));
+    const IppMessage response = connection.request(std::move(request));
     if (response)
         m_subscription =
             ippNumber(ippFindAttribute(response.get(), "notify-subscription-id", IPP_TAG_INTEGER));
@@ -66,18 +64,18 @@ void JobEnds::keepRemembering(ServerConnection &connection)
     ippAddInteger(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_INTEGER, "notify-lease-duration",
                   static_cast<int>(kLease.count()));
     const ServerConnection::Aside aside(connection);
-    connection.request(std::move(request), resourceOf(m_queue));
+    connection.request(std::move(request));
 }
 
 std::optional<JobStatus> JobEnds::endOf(ServerConnection &connection, int job)
 {
     if (m_subscription <= 0)
         return std::nullopt;
-    IppMessage request = newIppRequest(IPP_OP_GET_NOTIFICATIONS, m_queue.uri);
+    IppMessage request = newIppRequest(IPP_OP_GET_NOTIFICATIONS, kServer);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-ids",
                   m_subscription);
     const ServerConnection::Aside aside(connection);
-    const IppMessage response = connection.request(std::move(request), resourceOf(m_queue));
+    const IppMessage response = connection.request(std::move(request));
     if (!response)
         return std::nullopt;
     Event event;
@@ -106,13 +104,13 @@ void JobEnds::forget(ServerConnection &connection)
     if (m_subscription <= 0)
         return;
     const ServerConnection::Aside aside(connection);
-    connection.request(newRequest(IPP_OP_CANCEL_SUBSCRIPTION), resourceOf(m_queue));
+    connection.request(newRequest(IPP_OP_CANCEL_SUBSCRIPTION));
     m_subscription = 0;
 }
 
 IppMessage JobEnds::newRequest(ipp_op_t operation) const
 {
-    IppMessage request = newIppRequest(operation, m_queue.uri);
+    IppMessage request = newIppRequest(operation, kServer);
     if (m_subscription > 0)
         ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-id",
                       m_subscription);

@@ -207,6 +207,7 @@ void ServerJob::letGo()
     m_work = {};
     HandoverOutcomes outcomes(m_request.printer);
     outcomes.setJob(progress()->job);
+    outcomes.see(*progress());
     if (progress()->stage == JobProgress::Stage::Stopped)
         return finish(outcomes.inQueue(*progress()));
     JobOutcome outcome = outcomes.inQueue({});

@@ -1,5 +1,6 @@
 #include "dialog/terminal/UnattendedRun.h"
 
+#include <csignal>
 #include <utility>
 
 #include <QCoreApplication>
@@ -85,6 +86,8 @@ QString writeToStandardOutput(const QString &path)
 {
     QFile file(path);
     QFile out;
+    // A reader that is gone is said, and the program lives to remove its files.
+    std::signal(SIGPIPE, SIG_IGN);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     if (!out.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered))
@@ -164,7 +167,10 @@ private:
             m_patience.start(*m_task.request().wait);
         if (std::exchange(m_stage, progress.stage) != progress.stage &&
             progress.stage == JobProgress::Stage::Stopped)
-            QTextStream(stderr) << terminalText(progress.text()) << "\n";
+            QTextStream(stderr) << Texts::tr("Job %1: %2")
+                                       .arg(terminalLine(jobName(m_task.printer(), progress.job)),
+                                            terminalLine(progress.text()))
+                                << "\n";
     }
 
     // The time of --wait is over.
@@ -187,7 +193,8 @@ private:
             status = ExitStatus::StillThere;
         if (!outcome.isDone()) {
             sayProblem(outcome.text);
-            if (m_task.printsToFile())
+            // A part of the result may have got to standard output.
+            if (m_task.printsToFile() && !m_task.request().standardOutput)
                 QTextStream(stderr) << Texts::tr("Nothing was printed.") << "\n";
             return end(status);
         }
