@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <optional>
 
 #include <QList>
 #include <QString>
@@ -22,6 +23,8 @@ struct SaidOfJob
     int documents = 1; ///< -1: does not say
     ipp_status_t status = IPP_STATUS_OK;
     bool hangsUp = false;
+    const char *queue = nullptr; ///< that has it; null: does not say
+    bool wantsLogIn = false;     ///< the device has not let it in
 };
 
 /// A server of one queue and at most two jobs, which says of them what a test wants.
@@ -59,9 +62,17 @@ public:
         LostAndUnlistable,
         LostAndGuarded, ///< the list of jobs wants a password
         Refused,
+        NotAccepted, ///< for the reason "Toner is being changed."
     };
     void setCreation(Creation creation) { m_creation = creation; }
     void forgetTheQueue() { m_knowsQueue = false; }
+    /// Lets clients subscribe, and says to those who have that the job has ended so. Another job
+    /// has ended before it, in whatever way.
+    void rememberTheEnd(const SaidOfJob &end)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_end = end;
+    }
     void setPpdStatus(int status) { m_ppdStatus = status; }
 
     /// Prints a document on its queue. The server may not ask for a password.
@@ -76,6 +87,7 @@ private:
     CannedAnswer answer(const CannedRequest &request);
     CannedAnswer answerToCreation(const CannedRequest &request);
     CannedAnswer listOfJobs();
+    CannedAnswer answerToSubscriber(const CannedRequest &request);
     SaidOfJob afterCancel();
     SaidOfJob stateOf(int job);
 
@@ -83,6 +95,7 @@ private:
     QList<SaidOfJob> m_states{SaidOfJob()};
     SaidOfJob m_earlier;
     SaidOfJob m_afterCancel;
+    std::optional<SaidOfJob> m_end;
     std::atomic<bool> m_losesAnswer{false};
     std::atomic<bool> m_cancels{true};
     std::atomic<int> m_ppdStatus{404};

@@ -50,7 +50,10 @@ const Content kContents[] = {
     {"nothing", "", QString()},
     {"an empty line", "\nsecret\n", QString()},
     {"no text", QByteArray("a\0b\n", 4), QString()},
-    {"another encoding", "gr\xf6\xdf" "e\n", QString()},
+    {"another encoding",
+     "gr\xf6\xdf"
+     "e\n",
+     QString()},
     {"as long as can be", QByteArray(1024, 'x'), QString(1024, u'x')},
     {"a document", QByteArray(100000, 'x'), QString()},
 };
