@@ -1,6 +1,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cups/cups.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTextStream>
@@ -112,9 +114,11 @@ int main(int argc, char **argv)
     }
     const CommandLine &line = *parsed.commandLine;
 
-    // Before there is a second thread: libcups asks for it in each.
-    if (!line.user.isEmpty())
+    // Before there is a second thread: libcups reads it in each, and has done so in this one.
+    if (!line.user.isEmpty()) {
         qputenv("CUPS_USER", line.user.toLocal8Bit());
+        cupsSetUser(line.user.toUtf8().constData());
+    }
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();

@@ -262,9 +262,12 @@ QString whyNotAccepting(ServerConnection &connection, const Printer &printer)
                    {"printer-state-message"});
     const ServerConnection::Aside aside(connection);
     const IppMessage response = connection.request(std::move(request), resourceOf(printer));
-    return response
-               ? ippText(ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_ZERO))
-               : QString();
+    if (!response)
+        return {};
+    const QString reason =
+        ippText(ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_ZERO));
+    // What CUPS says where its administrator has said nothing.
+    return reason == "Rejecting Jobs"_L1 ? QString() : reason;
 }
 
 bool authenticateJob(ServerConnection &connection, const Printer &printer, int job,
