@@ -248,6 +248,8 @@ QString contradictionIn(const CommandLine &line)
         return u"--password-file and --password-fd cannot be combined."_s;
     if (line.passwordDescriptor == 0 && line.documents.contains(kStandardStream))
         return u"standard input cannot be the document and the password."_s;
+    if (line.json && !line.noDialog)
+        return u"--format=json is for runs without a window (--no-dialog)."_s;
     if (line.output != kStandardStream)
         return {};
     if (line.json)

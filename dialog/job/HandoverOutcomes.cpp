@@ -23,7 +23,7 @@ QString withMessage(const QString &text, const QString &message)
 // What others write may end its sentence or not.
 QString withoutFullStop(QString text)
 {
-    while (text.endsWith(u'.'))
+    while (text.endsWith(u'.') || text.endsWith(u'。'))
         text.chop(1);
     return text;
 }

@@ -113,8 +113,10 @@ private Q_SLOTS:
             l.switches = {{u"job-hold-until"_s, u"evening"_s}};
         });
         row("a limited wait", {u"--wait=30"_s, doc}, [](CommandLine &l) { l.wait = 30; });
-        row("a line for programs", {u"--format=json"_s, doc},
-            [](CommandLine &l) { l.json = true; });
+        row("a line for programs", {u"--format=json"_s, u"--no-dialog"_s, doc}, [](CommandLine &l) {
+            l.json = true;
+            l.noDialog = true;
+        });
         row("lines for people", {u"--format"_s, u"text"_s, doc}, [](CommandLine &) {});
         row("a password in a file", {u"--password-file"_s, u"secret"_s, doc},
             [](CommandLine &l) { l.passwordFile = u"secret"_s; });
@@ -180,6 +182,7 @@ private Q_SLOTS:
         row("no time at all", {u"--wait"_s, u"0"_s, doc}, u"--wait 0"_s);
         row("a wait without end", {u"--wait"_s, u"99999999999"_s, doc}, u"--wait"_s);
         row("wait and do not wait", {u"--wait=3"_s, u"--no-wait"_s, doc}, u"--no-wait"_s);
+        row("a line for programs from a window", {u"--format=json"_s, doc}, u"--no-dialog"_s);
         row("unknown format", {u"--format=xml"_s, doc}, u"json or text"_s);
         row("mail", {u"-m"_s, doc}, u"no mail"_s);
         row("two passwords", {u"--password-fd=3"_s, u"--password-file=x"_s, doc},
