@@ -119,7 +119,10 @@ private:
         context.mayAsk = false;
         context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
         context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
+        const bool isFollowed = m_connection == m_another.get();
         m_another = std::make_unique<ServerConnection>(context, nullptr);
+        if (isFollowed) // on the one that has just gone
+            m_connection = m_another.get();
         return *m_another;
     }
 
