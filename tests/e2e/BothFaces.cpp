@@ -29,6 +29,7 @@ QString textOf(const PrintWindow &window, const QString &name)
 QString saidIn(const PrintWindow &window)
 {
     QString said = textOf(window, u"messageText"_s) + textOf(window, u"waitingText"_s);
+    said.remove(u'\u200B'); // where a long word may be broken
     return said.remove(u"What was asked for cannot be set:\n"_s);
 }
 

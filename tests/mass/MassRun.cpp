@@ -33,7 +33,7 @@ bool isForJobs(const PpdTextOption &option)
     return !option.isInstallable && option.keyword != "PageRegion" && option.choices.size() > 1;
 }
 
-QString argumentOf(const QPair<QByteArray, QByteArray> &choice)
+QString argumentOf(const PpdTextChoice &choice)
 {
     return QString::fromLatin1(choice.first + '=' + choice.second);
 }
@@ -51,13 +51,12 @@ QString firstDifference(const QByteArray &data, const QByteArray &other)
     return {};
 }
 
-// Whether what was said names two choices that a line of the PPD excludes: "A=b: this cannot be
+// Whether what was said names the choices that a line of the PPD excludes: "A=b: this cannot be
 // combined with C=d, E=f."
 bool namesOpponents(const QString &said, const PpdText &text)
 {
-    static const QRegularExpression word(u"([!-<>-~]+)=([!-~]*[!-+\\--9;-~])"_s);
-    Q_ASSERT(word.isValid());
-    QList<QPair<QByteArray, QByteArray>> named;
+    static const QRegularExpression word(u"([!-<>-~]+)=([!-~]+)"_s);
+    QList<PpdTextChoice> named;
     auto found = word.globalMatch(said);
     while (found.hasNext()) {
         const QRegularExpressionMatch match = found.next();
@@ -66,13 +65,7 @@ bool namesOpponents(const QString &said, const PpdText &text)
             choice.chop(1);
         named += {match.captured(1).toLatin1(), choice};
     }
-    for (qsizetype i = 0; i < named.size(); ++i) {
-        for (qsizetype j = i + 1; j < named.size(); ++j) {
-            if (text.excludes(named[i].first, named[i].second, named[j].first, named[j].second))
-                return true;
-        }
-    }
-    return false;
+    return text.excludes(named);
 }
 
 QString cupsFilter()
@@ -166,7 +159,7 @@ QString MassRun::problemOf(const PpdText &text, const Choices &choices)
     if (terminal.printed != window.printed)
         return u"another result in the window: "_s +
                firstDifference(terminal.printed, window.printed);
-    const QByteArray chain = chainAlone(text, choices);
+    const QByteArray chain = chainAlone(choices);
     if (chain.isEmpty())
         return u"the chain alone makes nothing of it"_s;
     return terminal.printed == chain
@@ -174,16 +167,12 @@ QString MassRun::problemOf(const PpdText &text, const Choices &choices)
                : u"another result than the chain's: "_s + firstDifference(terminal.printed, chain);
 }
 
-// The same by the chain of CUPS alone. Paper is printed on one side unless somebody asks for more,
-// whatever a PPD comes with.
-QByteArray MassRun::chainAlone(const PpdText &text, const Choices &choices) const
+// The same by the chain of CUPS alone.
+QByteArray MassRun::chainAlone(const Choices &choices) const
 {
     const QString output = m_folder.filePath(u"chain.ps"_s);
     QStringList arguments{u"-p"_s,          m_ppd,   u"-e"_s,       u"-m"_s,
                           u"printer/foo"_s, u"-t"_s, u"pages.pdf"_s};
-    const PpdTextOption *duplex = text.option("Duplex");
-    if (duplex && duplex->choices.contains("None") && duplex->defaultChoice != "None")
-        arguments += {u"-o"_s, u"Duplex=None"_s};
     for (const auto &choice : choices)
         arguments += {u"-o"_s, argumentOf(choice)};
     QProcess chain;

@@ -35,13 +35,12 @@ public:
     const MassCount &count() const { return m_count; }
 
 private:
-    /// Choices for an option each: keyword and choice.
-    using Choices = QList<QPair<QByteArray, QByteArray>>;
+    using Choices = QList<PpdTextChoice>;
 
     Choices twoChoices(const PpdText &text);
     void tryChoices(const PpdText &text, const Choices &choices);
     QString problemOf(const PpdText &text, const Choices &choices);
-    QByteArray chainAlone(const PpdText &text, const Choices &choices) const;
+    QByteArray chainAlone(const Choices &choices) const;
 
     unsigned m_seed;
     std::mt19937 m_chance;

@@ -13,9 +13,11 @@ bool isOff(const QByteArray &choice)
     return word == "none" || word == "false" || word == "off";
 }
 
-bool isMeant(const QByteArray &inConstraint, const QByteArray &choice)
+bool isMeant(const PpdTextChoice &inConstraint, const PpdTextChoice &choice)
 {
-    return inConstraint.isEmpty() ? !isOff(choice) : inConstraint == choice;
+    return inConstraint.first == choice.first &&
+           (inConstraint.second.isEmpty() ? !isOff(choice.second)
+                                          : inConstraint.second == choice.second);
 }
 
 // "*Keyword Choice/Text" less its text, and without the asterisk.
@@ -49,6 +51,8 @@ public:
             m_option.clear();
         else if (keyword == "UIConstraints" || keyword == "NonUIConstraints")
             addConstraint(value.simplified().split(' '));
+        else if (keyword == "cupsUIConstraints")
+            addConstraint(QByteArray(value).replace('"', "").simplified().split(' '));
         else if (words.size() == 1 && keyword == "Default" + m_option)
             text.options.last().defaultChoice = value;
         else if (words.size() > 1 && keyword == m_option)
@@ -78,14 +82,11 @@ private:
     void addConstraint(const QList<QByteArray> &words)
     {
         PpdTextConstraint constraint;
-        bool isOther = false;
         for (const QByteArray &word : words) {
-            if (word.startsWith('*')) {
-                isOther = !constraint.keyword.isEmpty();
-                (isOther ? constraint.otherKeyword : constraint.keyword) = word.mid(1);
-            } else {
-                (isOther ? constraint.otherChoice : constraint.choice) = word;
-            }
+            if (word.startsWith('*'))
+                constraint += {word.mid(1), QByteArray()};
+            else if (!constraint.isEmpty())
+                constraint.last().second = word;
         }
         text.constraints += constraint;
     }
@@ -100,19 +101,14 @@ const PpdTextOption *PpdText::option(const QByteArray &keyword) const
     return found == options.cend() ? nullptr : &*found;
 }
 
-bool PpdText::excludes(const QByteArray &keyword, const QByteArray &choice,
-                       const QByteArray &otherKeyword, const QByteArray &otherChoice) const
+bool PpdText::excludes(const QList<PpdTextChoice> &choices) const
 {
-    return std::any_of(
-        constraints.cbegin(), constraints.cend(), [&](const PpdTextConstraint &constraint) {
-            const auto says = [&](const QByteArray &k, const QByteArray &c, const QByteArray &ok,
-                                  const QByteArray &oc) {
-                return constraint.keyword == k && isMeant(constraint.choice, c) &&
-                       constraint.otherKeyword == ok && isMeant(constraint.otherChoice, oc);
-            };
-            return says(keyword, choice, otherKeyword, otherChoice) ||
-                   says(otherKeyword, otherChoice, keyword, choice);
+    return std::any_of(constraints.cbegin(), constraints.cend(), [&](const PpdTextConstraint &c) {
+        return std::all_of(c.cbegin(), c.cend(), [&](const PpdTextChoice &part) {
+            return std::any_of(choices.cbegin(), choices.cend(),
+                               [&](const PpdTextChoice &choice) { return isMeant(part, choice); });
         });
+    });
 }
 
 PpdText readPpdText(const QByteArray &ppd)

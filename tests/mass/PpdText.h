@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
-#include <QMap>
+#include <QPair>
 #include <QString>
 
 namespace corvana::test {
@@ -16,13 +16,12 @@ struct PpdTextOption
     bool isInstallable = false; ///< says what the printer has, and is nothing to choose for a job
 };
 
-/// Two choices that a PPD says cannot be combined. An empty choice stands for every one that
-/// switches its option on.
-struct PpdTextConstraint
-{
-    QByteArray keyword, choice;
-    QByteArray otherKeyword, otherChoice;
-};
+/// A choice of an option: keyword and choice.
+using PpdTextChoice = QPair<QByteArray, QByteArray>;
+
+/// Choices that a PPD says cannot be combined, two or more. An empty choice stands for every one
+/// that switches its option on.
+using PpdTextConstraint = QList<PpdTextChoice>;
 
 /// What the lines of any PPD say of its options, read without the functions that the program reads
 /// them with: whatever both agree on, two readers have read.
@@ -33,9 +32,8 @@ struct PpdText
 
     /// Null when the PPD has no option of that keyword.
     const PpdTextOption *option(const QByteArray &keyword) const;
-    /// Whether a line says that these two choices cannot be combined, in either order.
-    bool excludes(const QByteArray &keyword, const QByteArray &choice,
-                  const QByteArray &otherKeyword, const QByteArray &otherChoice) const;
+    /// Whether a line says that some of these choices cannot be combined.
+    bool excludes(const QList<PpdTextChoice> &choices) const;
 };
 
 PpdText readPpdText(const QByteArray &ppd);

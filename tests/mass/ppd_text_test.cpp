@@ -30,6 +30,7 @@ const QByteArray kPpd = R"(*PPD-Adobe: "4.3"
 *JCLCloseUI: *JCLEconomy
 *UIConstraints: *MediaType Film *JCLEconomy
 *UIConstraints: *Tray2 False *MediaType Plain
+*cupsUIConstraints three: "*Tray2 True *MediaType Film *JCLEconomy False"
 )";
 
 } // namespace
@@ -56,16 +57,23 @@ private Q_SLOTS:
     void aConstraintHoldsInEitherOrder()
     {
         const PpdText text = readPpdText(kPpd);
-        QVERIFY(text.excludes("Tray2", "False", "MediaType", "Plain"));
-        QVERIFY(text.excludes("MediaType", "Plain", "Tray2", "False"));
-        QVERIFY(!text.excludes("MediaType", "Film", "Tray2", "False"));
+        QVERIFY(text.excludes({{"Tray2", "False"}, {"MediaType", "Plain"}}));
+        QVERIFY(text.excludes({{"MediaType", "Plain"}, {"Tray2", "False"}}));
+        QVERIFY(!text.excludes({{"MediaType", "Film"}, {"Tray2", "False"}}));
     }
 
     void aConstraintWithoutAChoiceMeansEveryOneThatSwitchesOn()
     {
         const PpdText text = readPpdText(kPpd);
-        QVERIFY(text.excludes("JCLEconomy", "True", "MediaType", "Film"));
-        QVERIFY(!text.excludes("JCLEconomy", "False", "MediaType", "Film"));
+        QVERIFY(text.excludes({{"JCLEconomy", "True"}, {"MediaType", "Film"}}));
+        QVERIFY(!text.excludes({{"JCLEconomy", "False"}, {"MediaType", "Film"}}));
+    }
+
+    void aConstraintOfThreeNeedsAllThree()
+    {
+        const PpdText text = readPpdText(kPpd);
+        QVERIFY(text.excludes({{"Tray2", "True"}, {"JCLEconomy", "False"}, {"MediaType", "Film"}}));
+        QVERIFY(!text.excludes({{"Tray2", "True"}, {"MediaType", "Film"}}));
     }
 };
 
