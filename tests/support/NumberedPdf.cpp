@@ -50,9 +50,8 @@ QByteArray numberedPdf(const QByteArray &name, const QList<QSizeF> &pages)
     pdf.add("<< /Type /Pages /Count " + QByteArray::number(count) + " /Kids [ " + kids + "] >>");
     pdf.add("<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>");
     for (int i = 0; i < count; ++i) {
-        const QByteArray text = "BT /F 48 Tf 100 " +
-                                QByteArray::number(pages.at(i).height() / 2) + " Td (" + name + ' ' +
-                                QByteArray::number(i + 1) + ") Tj ET";
+        const QByteArray text = "BT /F 48 Tf 100 " + QByteArray::number(pages.at(i).height() / 2) +
+                                " Td (" + name + ' ' + QByteArray::number(i + 1) + ") Tj ET";
         pdf.add("<< /Type /Page /Parent 2 0 R /MediaBox [0 0 " +
                 QByteArray::number(pages.at(i).width()) + ' ' +
                 QByteArray::number(pages.at(i).height()) +

@@ -16,9 +16,9 @@ QStringList printedSides(const QByteArray &data)
         return {};
     file.close();
     QProcess reader;
-    reader.start(u"gs"_s, {u"-q"_s, u"-dSAFER"_s, u"-dBATCH"_s, u"-dNOPAUSE"_s,
-                           u"-sDEVICE=txtwrite"_s, u"-o"_s, folder.filePath(u"%d.txt"_s),
-                           file.fileName()});
+    reader.start(u"gs"_s,
+                 {u"-q"_s, u"-dSAFER"_s, u"-dBATCH"_s, u"-dNOPAUSE"_s, u"-sDEVICE=txtwrite"_s,
+                  u"-o"_s, folder.filePath(u"%d.txt"_s), file.fileName()});
     if (!reader.waitForFinished() || reader.exitCode() != 0)
         return {};
     QStringList sides;
