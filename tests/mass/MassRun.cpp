@@ -68,6 +68,16 @@ bool namesOpponents(const QString &said, const PpdText &text)
     return text.excludes(named);
 }
 
+// By a program of CUPS, which knows nothing of ours.
+bool isReadable(const QString &ppd)
+{
+    constexpr int kNotConforming = 4; // to the letter of the format, see cupstestppd(1)
+    QProcess tester;
+    tester.start(u"cupstestppd"_s, {u"-q"_s, u"-W"_s, u"all"_s, ppd});
+    return tester.waitForFinished() &&
+           (tester.exitCode() == 0 || tester.exitCode() == kNotConforming);
+}
+
 QString cupsFilter()
 {
     QString found = QStandardPaths::findExecutable(u"cupsfilter"_s);
@@ -101,8 +111,19 @@ void MassRun::tryPpd(const NamedPpd &ppd)
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         throw std::runtime_error("the temporary folder cannot be written");
     file.close();
-    const PpdText text = readPpdText(content);
+    PpdText text = readPpdText(content);
+    // libcups takes these two for forms of one choice, whatever a PPD says.
+    text.constraints += PpdTextConstraint{{"InputSlot", QByteArray()}, {"ManualFeed", "True"}};
     ++m_count.ppds;
+    if (!isReadable(m_ppd)) {
+        ++m_count.broken;
+        if (printInTerminal(
+                {u"--ppd"_s, m_ppd, u"--output"_s, m_folder.filePath(u"job.ps"_s), m_document},
+                m_folder.filePath(u"job.ps"_s))
+                .isPrinted)
+            m_count.faults += m_name + u": printed although CUPS cannot read it"_s;
+        return;
+    }
     tryChoices(text, {});
     tryChoices(text, twoChoices(text));
 }

@@ -18,13 +18,15 @@ struct MassCount
     int ppds = 0;
     int printed = 0;
     int refused = 0;
+    int broken = 0; ///< PPDs that CUPS itself cannot read
     QStringList faults{}; ///< one sentence each, with what repeats it
 };
 
 /// Prints with PPDs that nobody has looked at before, each with its defaults and with two choices
 /// of chance together: in a window, without one, and with the filter chain alone. What is printed
 /// has to be what the chain makes of the same choices, in both faces; what is refused has to be
-/// something that a line of the PPD excludes, and that line's choices have to be named.
+/// something that a line of the PPD excludes, and that line's choices have to be named. A PPD that CUPS cannot read is refused in every
+/// case.
 class MassRun
 {
 public:

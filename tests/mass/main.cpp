@@ -73,8 +73,8 @@ int main(int argc, char **argv)
     try {
         const QString place = parser.positionalArguments().value(0, usualPlace());
         const MassCount count = run(PpdCollection(place), parser.value(seed).toUInt(), extent);
-        std::printf("%s: %d PPDs, printed %d, refused %d, faults %d\n", qPrintable(place),
-                    count.ppds, count.printed, count.refused,
+        std::printf("%s: %d PPDs (%d broken), printed %d, refused %d, faults %d\n",
+                    qPrintable(place), count.ppds, count.broken, count.printed, count.refused,
                     static_cast<int>(count.faults.size()));
         return count.faults.isEmpty() && count.printed > 0 ? 0 : 1;
     } catch (const std::exception &error) {
