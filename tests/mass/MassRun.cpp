@@ -73,7 +73,7 @@ bool isReadable(const QString &ppd)
 {
     constexpr int kNotConforming = 4; // to the letter of the format, see cupstestppd(1)
     QProcess tester;
-    tester.start(u"cupstestppd"_s, {u"-q"_s, u"-W"_s, u"all"_s, ppd});
+    tester.start(u"cupstestppd"_s, {u"-q"_s, u"-r"_s, u"-W"_s, u"all"_s, ppd});
     return tester.waitForFinished() &&
            (tester.exitCode() == 0 || tester.exitCode() == kNotConforming);
 }
