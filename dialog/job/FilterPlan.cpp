@@ -245,7 +245,8 @@ private:
     {
         const JobTicket &ticket = m_request.ticket;
         if (!m_places.resultsCanFollow) {
-            const Output whole = newPart("pdf"_L1);
+            const QString path = m_places.folder + u"/whole.pdf"_s;
+            const Output whole{path, path};
             putTogether(whole);
             return toPrinterData({whole.path, kPdf, ticket.title}, ticket.copies,
                                  optionsAfterLayout(ticket.options), result());
