@@ -1,10 +1,14 @@
 #include "dialog/session/JobAttributes.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include <QCoreApplication>
 #include <QRegularExpression>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/PrinterAttributes.h"
 
 namespace corvana {
 
@@ -225,7 +229,7 @@ constexpr JobAttribute kAttributes[] = {
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Headers on Text Pages"),
      {kTrueOrFalse}},
-    {"collate"_L1,
+    {kCollateAttribute,
      AppliedTo::Job,
      "true"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Collate"),
@@ -253,10 +257,26 @@ constexpr JobAttribute kAttributes[] = {
 
 bool isIn(const AllowedValues::Range &range, const QString &value)
 {
-    static const QRegularExpression whole(u"^[0-9]{1,5}\\z"_s);
-    static const QRegularExpression decimal(u"^[0-9]{1,5}([.][0-9]{1,3})?\\z"_s);
+    static const QRegularExpression whole(u"^[0-9]{1,6}\\z"_s);
+    static const QRegularExpression decimal(u"^[0-9]{1,6}([.][0-9]{1,3})?\\z"_s);
     return (range.isWhole ? whole : decimal).match(value).hasMatch() &&
            value.toDouble() >= range.least && value.toDouble() <= range.most;
+}
+
+std::array<std::span<const JobAttribute>, 2> tables()
+{
+    return {std::span<const JobAttribute>(kAttributes), printerAttributes()};
+}
+
+// What libcups takes for a truth value beside "true" and "false".
+std::optional<bool> truthOf(const QString &value)
+{
+    const QString word = value.toLower();
+    if (word == "yes"_L1 || word == "on"_L1)
+        return true;
+    if (word == "no"_L1 || word == "off"_L1)
+        return false;
+    return std::nullopt;
 }
 
 } // namespace
@@ -268,9 +288,23 @@ const Word *AllowedValues::word(const QString &value) const
     return found == words.end() ? nullptr : &*found;
 }
 
-bool AllowedValues::accepts(const QString &value) const
+std::optional<QString> AllowedValues::inOneSpelling(const QString &value) const
 {
-    return word(value) || (range && isIn(*range, value)) || (form && form->accepts(value));
+    const auto isSame = [&](const Word &word) {
+        // IPP writes a name of several words with hyphens.
+        return value.compare(word.value, Qt::CaseInsensitive) == 0 ||
+               value.compare(QString(word.meaning).replace(u' ', u'-'), Qt::CaseInsensitive) == 0;
+    };
+    const auto found =
+        value.isEmpty() ? words.end() : std::find_if(words.begin(), words.end(), isSame);
+    if (found != words.end())
+        return QString(found->value);
+    if (words.data() == std::data(kTrueOrFalse)) {
+        if (const std::optional<bool> isTrue = truthOf(value))
+            return QString(isTrue.value() ? "true"_L1 : "false"_L1);
+    }
+    const bool taken = (range && isIn(*range, value)) || (form && form->accepts(value));
+    return taken ? std::optional(value) : std::nullopt;
 }
 
 QString AllowedValues::text() const
@@ -288,9 +322,13 @@ QString AllowedValues::text() const
 
 const JobAttribute *jobAttribute(const QString &name)
 {
-    const auto found = std::find_if(std::begin(kAttributes), std::end(kAttributes),
-                                    [&](const JobAttribute &a) { return a.name == name; });
-    return found == std::end(kAttributes) ? nullptr : found;
+    for (const std::span<const JobAttribute> table : tables()) {
+        for (const JobAttribute &attribute : table) {
+            if (attribute.name == name)
+                return &attribute;
+        }
+    }
+    return nullptr;
 }
 
 bool isAppliedTo(AppliedTo what, const JobOption &option)
@@ -321,6 +359,12 @@ JobOption inOneSpelling(const JobOption &option)
         return {u"orientation-requested"_s, u"4"_s};
     if (is("landscape", "false"))
         return {u"orientation-requested"_s, u"3"_s};
+    if (option.name == kHandlingAttribute && option.value == kCollated)
+        return {kCollateAttribute, u"true"_s};
+    if (option.name == kHandlingAttribute && option.value == kUncollated)
+        return {kCollateAttribute, u"false"_s};
+    if (option.name == "resolution"_L1)
+        return {u"printer-resolution"_s, option.value};
     if (option.name == "fitplot"_L1)
         return {u"fit-to-page"_s, option.value};
     return option;
@@ -329,8 +373,10 @@ JobOption inOneSpelling(const JobOption &option)
 QStringList jobAttributeNames()
 {
     QStringList names;
-    for (const JobAttribute &attribute : kAttributes)
-        names += attribute.name;
+    for (const std::span<const JobAttribute> table : tables()) {
+        for (const JobAttribute &attribute : table)
+            names += attribute.name;
+    }
     return names;
 }
 
