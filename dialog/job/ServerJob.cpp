@@ -4,6 +4,7 @@
 
 #include "dialog/job/JobRequests.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 
 namespace corvana {
 
@@ -93,7 +94,10 @@ QList<JobOption> ServerJob::layout() const
 
 bool ServerJob::isTaken(const JobOption &option) const
 {
-    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(option.name) ||
+    // Printers know "collate" by its name of IPP.
+    const QString name =
+        option.name == kCollateAttribute ? QString(kHandlingAttribute) : option.name;
+    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(name) ||
            asksForNothing(option, m_request.ticket.copies);
 }
 

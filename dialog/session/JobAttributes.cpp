@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QRegularExpression>
 
 #include "dialog/session/OptionNames.h"
@@ -243,7 +244,7 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Job,
      "no-hold"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Hold Until"),
-     {kHolds, {}, AllowedValues::Form{"a time HH:MM"_L1, isTime}}},
+     {kHolds, {}, AllowedValues::Form{"a time HH:MM in UTC"_L1, isTime}}},
     {"job-priority"_L1, AppliedTo::Job, "50"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Priority"),
      wholeNumbers(1, 100)},
     {"job-sheets"_L1, AppliedTo::Job, "none"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
@@ -255,70 +256,28 @@ constexpr JobAttribute kAttributes[] = {
      form("a text of up to 255 bytes"_L1, isBilling)},
 };
 
-bool isIn(const AllowedValues::Range &range, const QString &value)
-{
-    static const QRegularExpression whole(u"^[0-9]{1,6}\\z"_s);
-    static const QRegularExpression decimal(u"^[0-9]{1,6}([.][0-9]{1,3})?\\z"_s);
-    return (range.isWhole ? whole : decimal).match(value).hasMatch() &&
-           value.toDouble() >= range.least && value.toDouble() <= range.most;
-}
-
 std::array<std::span<const JobAttribute>, 2> tables()
 {
     return {std::span<const JobAttribute>(kAttributes), printerAttributes()};
 }
 
-// What libcups takes for a truth value beside "true" and "false".
-std::optional<bool> truthOf(const QString &value)
+// Servers take a time for UTC, and lp leaves it at that. So does the dialog, and says what it is
+// here.
+QString timeText(const QString &value)
 {
-    const QString word = value.toLower();
-    if (word == "yes"_L1 || word == "on"_L1)
-        return true;
-    if (word == "no"_L1 || word == "off"_L1)
-        return false;
-    return std::nullopt;
+    const QTime time = QTime::fromString(value, value.count(u':') > 1 ? u"H:m:s"_s : u"H:m"_s);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    QDateTime until(now.date(), time, Qt::UTC);
+    if (until < now)
+        until = until.addDays(1);
+    const QDateTime here = until.toLocalTime();
+    if (here.offsetFromUtc() == 0)
+        return QCoreApplication::translate("JobAttributes", "%1 UTC").arg(value);
+    return QCoreApplication::translate("JobAttributes", "%1 UTC (%2 here)")
+        .arg(value, here.time().toString(u"HH:mm"_s));
 }
 
 } // namespace
-
-const Word *AllowedValues::word(const QString &value) const
-{
-    const auto found = std::find_if(words.begin(), words.end(),
-                                    [&](const Word &word) { return word.value == value; });
-    return found == words.end() ? nullptr : &*found;
-}
-
-std::optional<QString> AllowedValues::inOneSpelling(const QString &value) const
-{
-    const auto isSame = [&](const Word &word) {
-        // IPP writes a name of several words with hyphens.
-        return value.compare(word.value, Qt::CaseInsensitive) == 0 ||
-               value.compare(QString(word.meaning).replace(u' ', u'-'), Qt::CaseInsensitive) == 0;
-    };
-    const auto found =
-        value.isEmpty() ? words.end() : std::find_if(words.begin(), words.end(), isSame);
-    if (found != words.end())
-        return QString(found->value);
-    if (words.data() == std::data(kTrueOrFalse)) {
-        if (const std::optional<bool> isTrue = truthOf(value))
-            return QString(isTrue.value() ? "true"_L1 : "false"_L1);
-    }
-    const bool taken = (range && isIn(*range, value)) || (form && form->accepts(value));
-    return taken ? std::optional(value) : std::nullopt;
-}
-
-QString AllowedValues::text() const
-{
-    QStringList parts;
-    for (const Word &word : words)
-        parts += word.meaning.isEmpty() ? QString(word.value)
-                                        : u"%1 (%2)"_s.arg(word.value, word.meaning);
-    if (range)
-        parts += u"%1 to %2 %3"_s.arg(range->least).arg(range->most).arg(range->unit).trimmed();
-    if (form)
-        parts += (parts.isEmpty() ? QString() : u"or "_s) + form->text;
-    return parts.join(u", "_s);
-}
 
 const JobAttribute *jobAttribute(const QString &name)
 {
@@ -345,6 +304,8 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
     const auto translated = [](const char *text) {
         return QCoreApplication::translate("JobAttributes", text);
     };
+    if (attribute.name == kJobHoldUntilAttribute && isTime(attribute.value))
+        return {translated(known->title), timeText(attribute.value)};
     const Word *word = known->allowed.word(attribute.value);
     return {translated(known->title),
             word && word->shown ? translated(word->shown) : attribute.value};

@@ -68,6 +68,9 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
 
 QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd)
 {
+    if (refusal.conflicting.isEmpty())
+        return Texts::tr("%1: the printer's options cannot be set to this value.")
+            .arg(named(refusal.proposed, ppd));
     QStringList others;
     for (const OptionChoice &other : refusal.conflicting)
         others += named(other, ppd);
@@ -119,7 +122,12 @@ QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues
     for (const JobOption &option : own) {
         const OptionChoice choice{option.name, option.value};
         ppd_option_t *found = ppdOption(session.ppd(), option.name);
-        if (found && !option.value.startsWith(kCustomPrefix) && !ppdChoice(found, option.value)) {
+        // A panel may write a number for which the PPD has lost the choice.
+        const bool isTaken =
+            option.value.startsWith(kCustomPrefix)
+                ? checkCustomValue(session.ppd(), option.name, option.value).value.has_value()
+                : ppdChoice(found, option.value) != nullptr;
+        if (found && !isTaken) {
             problems +=
                 Texts::tr("%1: this value is not allowed. Allowed: %2.")
                     .arg(asked(option, session.ppd()), allowedChoices(session.ppd(), found));

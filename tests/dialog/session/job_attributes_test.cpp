@@ -1,3 +1,5 @@
+#include <ctime>
+
 #include <QTest>
 
 #include "dialog/session/JobAttributes.h"
@@ -127,7 +129,7 @@ constexpr Said kSaid[] = {
     {"cpi", "1 to 100"},
     {"page-left", "0 to 9999 points of 1/72 inch"},
     {"job-hold-until", "no-hold, indefinite, day-time, evening, night, second-shift, third-shift, "
-                       "weekend, or a time HH:MM"},
+                       "weekend, or a time HH:MM in UTC"},
 };
 
 } // namespace
@@ -274,6 +276,22 @@ private Q_SLOTS:
         QFETCH(QString, value);
         const JobAttributeText text = textOfJobAttribute({name, value});
         QTEST(u"%1: %2"_s.arg(text.title, text.value), "shown");
+    }
+
+    // As lp and the servers take it.
+    void aTimeIsSaidToBeUtc()
+    {
+        const QByteArray before = qgetenv("TZ");
+        const auto here = [](const char *zone, const QString &time) {
+            qputenv("TZ", zone);
+            tzset();
+            return textOfJobAttribute({u"job-hold-until"_s, time}).value;
+        };
+        QCOMPARE(here("UTC0", u"22:30"_s), u"22:30 UTC"_s);
+        QCOMPARE(here("JST-9", u"22:30"_s), u"22:30 UTC (07:30 here)"_s);
+        QCOMPARE(here("JST-9", u"evening"_s), u"evening"_s);
+        before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
+        tzset();
     }
 
     void olderSpellings_data()
