@@ -84,7 +84,7 @@ ChoiceEditor::ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *p
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_choices, 1);
     if (m_limits)
-        addField(*m_limits);
+        addField();
     setAutoFillBackground(true);
     setFocusProxy(m_choices);
     addChoices();
@@ -122,7 +122,7 @@ void ChoiceEditor::addChoices()
     }
 }
 
-void ChoiceEditor::addField(const CustomLimits &limits)
+void ChoiceEditor::addField()
 {
     m_field = new QLineEdit(this);
     m_field->setObjectName(u"customValue"_s);
