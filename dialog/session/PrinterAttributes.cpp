@@ -51,7 +51,7 @@ constexpr JobAttribute kAttributes[] = {
     {"job-cancel-after"_L1,
      AppliedTo::Job,
      {},
-     QT_TRANSLATE_NOOP("JobAttributes", "Canceled After"),
+     QT_TRANSLATE_NOOP("JobAttributes", "Canceled After, in Seconds"),
      {{}, AllowedValues::Range{1, 999999, true, "seconds"_L1}}},
     {"print-color-mode"_L1,
      AppliedTo::Job,

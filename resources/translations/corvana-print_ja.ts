@@ -273,8 +273,8 @@
         <translation>高</translation>
     </message>
     <message>
-        <source>Canceled After</source>
-        <translation>取り消すまでの時間</translation>
+        <source>Canceled After, in Seconds</source>
+        <translation>取り消すまでの秒数</translation>
     </message>
     <message>
         <source>Color Mode</source>

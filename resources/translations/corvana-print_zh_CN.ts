@@ -273,8 +273,8 @@
         <translation>高</translation>
     </message>
     <message>
-        <source>Canceled After</source>
-        <translation>超时后取消</translation>
+        <source>Canceled After, in Seconds</source>
+        <translation>超时后取消（秒）</translation>
     </message>
     <message>
         <source>Color Mode</source>
