@@ -179,13 +179,13 @@ private:
         return {said.remove(u"corvana-print: "_s).trimmed()};
     }
 
-    static QString textOf(const PrintWindow &window, const QString &name)
+    static QString textOf(const WindowDriver &window, const QString &name)
     {
-        const auto *label = window.findChild<QLabel *>(name);
+        const auto *label = window.child<QLabel>(name);
         return label && label->isVisible() ? label->text() : QString();
     }
     // Everything that the window says to whoever wants to print.
-    static QString saidIn(const PrintWindow &window)
+    static QString saidIn(const WindowDriver &window)
     {
         QString said = textOf(window, u"messageText"_s) + textOf(window, u"waitingText"_s);
         return said.remove(u"What was asked for cannot be set:\n"_s);
@@ -200,11 +200,10 @@ private:
         if (!request)
             return {error};
         AlertAnswerer alerts;
-        PrintWindow window(*request);
-        window.show();
+        WindowDriver window(*request);
         const bool opened = QTest::qWaitFor(
             [&] {
-                const Phase phase = window.task().phase();
+                const Phase phase = window.dialog().task().phase();
                 return phase == Phase::Ready || phase == Phase::Missing;
             },
             kPatience);
@@ -212,12 +211,12 @@ private:
             return {u"the printer does not open"_s};
         if (const QString said = saidIn(window); !said.isEmpty())
             return {said};
-        window.findChild<QPushButton *>(u"print"_s)->click();
+        window.pressPrint();
         const bool ended = QTest::qWaitFor(
-            [&] { return !window.isVisible() || !saidIn(window).isEmpty(); }, kPatience);
+            [&] { return !window.dialog().isVisible() || !saidIn(window).isEmpty(); }, kPatience);
         if (!ended)
             return {u"the job does not end"_s};
-        if (window.isVisible())
+        if (window.dialog().isVisible())
             return {saidIn(window)};
         return {{}, takeOutput(inWork(wish.output)), true};
     }
