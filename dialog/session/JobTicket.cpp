@@ -45,7 +45,7 @@ QRegularExpression quotedInAnyWay(const QString &secret)
         if (character == U'\\')
             pattern += u"\\\\+"_s;
         else if (character == U'\'')
-            pattern += QStringLiteral(R"((?:'\\+''|'"'"'|\\*'))");
+            pattern += uR"((?:'\\+''|'"'"'|\\*'))"_s;
         else
             pattern += u"\\\\*"_s + QRegularExpression::escape(QString::fromUcs4(&character, 1));
     }
