@@ -1,6 +1,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cups/cups.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTextStream>
@@ -10,6 +12,7 @@
 #include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/app/Translations.h"
 #include "dialog/terminal/ListPrinters.h"
+#include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "dialog/terminal/UnattendedRun.h"
 #include "dialog/window/Placeholders.h"
@@ -106,11 +109,16 @@ int main(int argc, char **argv)
         arguments += QString::fromLocal8Bit(argv[i]);
     const ParsedCommandLine parsed = parseCommandLine(arguments);
     if (!parsed.commandLine) {
-        QTextStream(parsed.exitStatus == 0 ? stdout : stderr) << parsed.text;
-        return parsed.exitStatus;
+        QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
+        return int(parsed.exitStatus);
     }
     const CommandLine &line = *parsed.commandLine;
 
+    // Before there is a second thread: libcups reads it in each, and has done so in this one.
+    if (!line.user.isEmpty()) {
+        qputenv("CUPS_USER", line.user.toLocal8Bit());
+        cupsSetUser(line.user.toUtf8().constData());
+    }
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
@@ -132,6 +140,8 @@ int main(int argc, char **argv)
 
     QString error;
     const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
+    if (!request && line.json)
+        writeLine(refusalLine({}, {error}));
     if (!request)
         return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)

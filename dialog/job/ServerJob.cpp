@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "dialog/job/DocumentCopies.h"
+#include "dialog/job/HandoverOutcomes.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/PpdFilters.h"
@@ -316,9 +317,15 @@ void ServerJob::letGo()
     if (!m_handedOver || outcome() || m_canceled)
         return;
     m_work = {};
-    finish({JobOutcome::Kind::InQueue, progress()->job,
-            tr("Job %1 is in the queue; it was not followed to its end.")
-                .arg(jobName(m_request.printer, progress()->job))});
+    HandoverOutcomes outcomes(m_request.printer);
+    outcomes.setJob(progress()->job);
+    outcomes.see(*progress());
+    if (progress()->stage == JobProgress::Stage::Stopped)
+        return finish(outcomes.inQueue(*progress()));
+    JobOutcome outcome = outcomes.inQueue({});
+    outcome.text = tr("Job %1 is in the queue; it was not followed to its end.")
+                       .arg(jobName(m_request.printer, outcome.job));
+    finish(outcome);
 }
 
 } // namespace corvana

@@ -23,6 +23,8 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
+    if (m_request.credentials)
+        m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
     if (!m_face.canAsk())
         return;

@@ -9,9 +9,11 @@
 
 namespace corvana {
 
-TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination)
+TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination,
+                           FILE *forPeople)
     : m_policy(policy),
-      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; }))
+      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; })),
+      m_forPeople(forPeople)
 {
 }
 
@@ -40,7 +42,7 @@ TaskFace::Instructions TerminalFace::instructions() const
 
 void TerminalFace::writeSummary(const QList<SummaryLine> &lines)
 {
-    QTextStream(stdout) << summaryText(lines);
+    QTextStream(m_forPeople) << summaryText(lines);
 }
 
 } // namespace corvana

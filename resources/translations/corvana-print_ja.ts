@@ -395,6 +395,37 @@
     </message>
 </context>
 <context>
+    <name>PasswordFile</name>
+    <message>
+        <source>The password cannot be read from %1: %2.</source>
+        <translation>%1 からパスワードを読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is empty; a password was expected.</source>
+        <translation>%1 の最初の行が空です。パスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is no password: at most %2 bytes of UTF-8 were expected.</source>
+        <translation>%1 の最初の行はパスワードではありません。UTF-8 で %2 バイト以内にしてください。</translation>
+    </message>
+    <message>
+        <source>The password cannot be read from %1: it is no file.</source>
+        <translation>%1 からパスワードを読み取れません: ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: the file belongs to somebody else.</source>
+        <translation>%1 のパスワードは使用しません。ファイルの所有者が別のユーザーです。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
+        <translation>%1 のパスワードは使用しません。所有者以外もファイルにアクセスできます (モードは %2、chmod 600 で禁止できます)。</translation>
+    </message>
+    <message>
+        <source>descriptor %1</source>
+        <translation>記述子 %1</translation>
+    </message>
+</context>
+<context>
     <name>PpdCopy</name>
     <message>
         <source>The printer&apos;s options cannot be written to %1: %2</source>
@@ -762,12 +793,12 @@
         <translation>ジョブ %1 はキュー「%2」にあります。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
-    </message>
-    <message>
         <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
         <translation>ジョブ %1 はすべて送信されました。%2そのため、印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
+        <translation>「%1」にジョブ %2 として送信しました。ページに何か印刷されたかどうかはわかりません。</translation>
     </message>
     <message>
         <source>Printed on “%1” as job %2.</source>
@@ -848,6 +879,22 @@
     <message>
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>ジョブ %1 をキャンセルできませんでした。印刷される可能性があります。%2</translation>
+    </message>
+    <message>
+        <source>%1 The job had been moved from the queue “%2” to “%3”.</source>
+        <translation>%1ジョブはキュー「%2」から「%3」に移動されていました。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
+        <translation>キュー「%1」は現在ジョブを受け付けていません: %2。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。そのため、印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over to the queue “%2”.</source>
+        <translation>ジョブ %1 をキュー「%2」に渡しました。</translation>
     </message>
 </context>
 <context>
@@ -1019,6 +1066,18 @@
     <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1プリントサーバーを必要としないプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+    <message>
+        <source>Printed to standard output</source>
+        <translation>標準出力に印刷しました</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output: %1.</source>
+        <translation>結果を標準出力に書き込めませんでした: %1。</translation>
     </message>
 </context>
 <context>
@@ -1531,6 +1590,14 @@ For the command line: %2</source>
     <message>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
         <translation>既定のプリンターがありません。-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>
+        <translation>インスタンス「%1」はありません。lpoptions にはキュー「%2」のインスタンスがありません。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”. The queue “%2” has: %3.</source>
+        <translation>インスタンス「%1」はありません。キュー「%2」にあるのは次のとおりです: %3。</translation>
     </message>
 </context>
 <context>

@@ -395,6 +395,37 @@
     </message>
 </context>
 <context>
+    <name>PasswordFile</name>
+    <message>
+        <source>The password cannot be read from %1: %2.</source>
+        <translation>无法从 %1 读取密码：%2。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is empty; a password was expected.</source>
+        <translation>%1 的第一行为空；此处应为密码。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is no password: at most %2 bytes of UTF-8 were expected.</source>
+        <translation>%1 的第一行不是密码：应为最多 %2 字节的 UTF-8 文本。</translation>
+    </message>
+    <message>
+        <source>The password cannot be read from %1: it is no file.</source>
+        <translation>无法从 %1 读取密码：它不是文件。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: the file belongs to somebody else.</source>
+        <translation>不使用 %1 中的密码：该文件属于其他用户。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
+        <translation>不使用 %1 中的密码：所有者以外的用户也能访问该文件（权限为 %2；chmod 600 可取消）。</translation>
+    </message>
+    <message>
+        <source>descriptor %1</source>
+        <translation>描述符 %1</translation>
+    </message>
+</context>
+<context>
     <name>PpdCopy</name>
     <message>
         <source>The printer&apos;s options cannot be written to %1: %2</source>
@@ -762,12 +793,12 @@
         <translation>作业 %1 在队列“%2”中。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
-    </message>
-    <message>
         <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
         <translation>作业 %1 已完整发送。%2因此不知道是否已打印。</translation>
+    </message>
+    <message>
+        <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
+        <translation>已作为作业 %2 发送到“%1”。不知道页面上是否有内容。</translation>
     </message>
     <message>
         <source>Printed on “%1” as job %2.</source>
@@ -848,6 +879,22 @@
     <message>
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>无法取消作业 %1，它仍可能被打印。%2</translation>
+    </message>
+    <message>
+        <source>%1 The job had been moved from the queue “%2” to “%3”.</source>
+        <translation>%1该作业已从队列“%2”移到“%3”。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
+        <translation>队列“%1”目前不接受作业：%2。未打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。因此不知道是否已打印。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over to the queue “%2”.</source>
+        <translation>作业 %1 已交给队列“%2”。</translation>
     </message>
 </context>
 <context>
@@ -1019,6 +1066,18 @@
     <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1不需要打印服务器的打印机：%2。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>作业 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printed to standard output</source>
+        <translation>已打印到标准输出</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output: %1.</source>
+        <translation>无法将结果写入标准输出：%1。</translation>
     </message>
 </context>
 <context>
@@ -1531,6 +1590,14 @@ For the command line: %2</source>
     <message>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
         <translation>没有默认打印机。请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>
+        <translation>没有实例“%1”：lpoptions 中没有队列“%2”的任何实例。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”. The queue “%2” has: %3.</source>
+        <translation>没有实例“%1”。队列“%2”有：%3。</translation>
     </message>
 </context>
 <context>
