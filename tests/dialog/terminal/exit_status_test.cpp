@@ -11,13 +11,13 @@ using Kind = JobOutcome::Kind;
 namespace {
 
 // What scripts rely on: numbers that never change.
-struct Row
+struct StatusOf
 {
     const char *name;
     Kind kind;
     int status;
 };
-constexpr Row kStatuses[] = {
+constexpr StatusOf kStatuses[] = {
     {"printed", Kind::Printed, 0},
     {"sent", Kind::Sent, 0},
     {"in its queue", Kind::InQueue, 0},

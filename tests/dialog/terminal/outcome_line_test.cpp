@@ -7,6 +7,7 @@
 
 using namespace corvana;
 using namespace Qt::StringLiterals;
+using Kind = JobOutcome::Kind;
 
 /// What becomes of a job, for programs.
 class OutcomeLineTest : public QObject
@@ -40,7 +41,6 @@ private Q_SLOTS:
 
     void everyStateHasAKeywordOfItsOwn()
     {
-        using Kind = JobOutcome::Kind;
         QStringList states;
         for (const Kind kind :
              {Kind::Printed, Kind::Sent, Kind::InQueue, Kind::Stopped, Kind::Failed, Kind::Canceled,
