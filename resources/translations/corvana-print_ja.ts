@@ -79,6 +79,21 @@
     </message>
 </context>
 <context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>すべての文書を 1 部ずつ繰り返す (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>文書ごとに全部数を続けて (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>ページごとに全部数を続けて (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
     <name>JobAttributes</name>
     <message>
         <source>Pages per Sheet</source>
@@ -296,6 +311,13 @@
     <message>
         <source>1 to %1</source>
         <translation>1～%1</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
     </message>
 </context>
 <context>
@@ -749,6 +771,18 @@
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>ジョブ %1 をキャンセルできませんでした。印刷される可能性があります。%2</translation>
     </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>前回のジョブ %1 では、文書 %3 個のうち %2 個がプリンターに送られています。残りだけを印刷するか、すべてをもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 ジョブ %2 は一部の文書とともにプリントサーバーに残っていて、それらが印刷される可能性があります。キャンセルできませんでした: %3 もう一度印刷すると、まずこのジョブを確認します。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>ジョブ %1 は、文書 %3 個のうち %2 個だけが印刷されました。</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -1073,6 +1107,14 @@
     <message>
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>文書をプリンター用に変換できませんでした: ページ数を確認できません。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>文書をプリンター用に変換できませんでした: 時間がかかりすぎました。</translation>
     </message>
 </context>
 <context>
@@ -1449,6 +1491,22 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま印刷されます。1 枚に複数ページを割り付けること (number-up) も、ページを選ぶこと (page-ranges、page-set) もできません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>プリンターが一度に受け取る文書は 1 つのため、文書は 1 つにまとめられました。各文書は新しい用紙から始まります。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,21 @@
     </message>
 </context>
 <context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>所有文档依次打印一份后再重复 (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>每个文档连续打印所有份数 (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>每一页连续打印所有份数 (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
     <name>JobAttributes</name>
     <message>
         <source>Pages per Sheet</source>
@@ -296,6 +311,13 @@
     <message>
         <source>1 to %1</source>
         <translation>1 到 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
 </context>
 <context>
@@ -749,6 +771,18 @@
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>无法取消作业 %1，它仍可能被打印。%2</translation>
     </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>上次的作业 %1 已将 %3 个文档中的 %2 个送到打印机。请单独打印其余文档，或全部重新打印。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 作业 %2 可能仍带着部分文档留在打印服务器上，并可能打印这些文档。无法取消它：%3 再次打印时会先查找该作业。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>作业 %1 只打印了 %3 个文档中的 %2 个。</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -1073,6 +1107,14 @@
     <message>
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>无法为打印机转换文档：无法确定其页数。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>无法为打印机转换文档：耗时过长。</translation>
     </message>
 </context>
 <context>
@@ -1449,6 +1491,22 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会原样打印文档：既不能在一张纸上放置多页 (number-up)，也不能选择页面 (page-ranges、page-set)。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>由于打印机一次只接收一个文档，这些文档已合并为一个；每个文档都从新的一张纸开始。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>份数过多，无法按套发送。顺序为：%1。</translation>
     </message>
 </context>
 <context>
