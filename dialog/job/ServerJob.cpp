@@ -141,8 +141,8 @@ QString ServerJob::problemOfRawQueue() const
                   "Print the documents one at a time. Nothing was printed.")
             .arg(m_request.printer.name, first->title);
     if (mustPickPages(m_request.ticket.options))
-        return tr("The queue “%1” has no driver and prints documents as they are: it can put "
-                  "neither several pages on a sheet (number-up) nor choose pages (page-ranges, "
+        return tr("The queue “%1” has no driver and prints documents as they are: it can "
+                  "neither put several pages on a sheet (number-up) nor choose pages (page-ranges, "
                   "page-set). Nothing was printed.")
             .arg(m_request.printer.name);
     return {};

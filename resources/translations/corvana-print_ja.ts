@@ -15,8 +15,8 @@
         <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -362,7 +362,7 @@
         <translation>このプリンターでは用紙サイズを選択できません。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1: プリンターの設定により、ここでは使用できません。%2 になりました。</translation>
     </message>
     <message>
@@ -382,7 +382,7 @@
         <translation>1～%1</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <source>%1: the printer's options cannot be set to this value.</source>
         <translation>%1: プリンターのオプションをこの値に設定できません。</translation>
     </message>
     <message>
@@ -428,7 +428,7 @@
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
     </message>
 </context>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>、</translation>
     </message>
     <message>
@@ -675,7 +675,7 @@
         <translation>%1 に変更</translation>
     </message>
     <message>
-        <source>The printer&apos;s options cannot be set to %1.</source>
+        <source>The printer's options cannot be set to %1.</source>
         <translation>プリンターのオプションを%1に設定できません。</translation>
     </message>
 </context>
@@ -895,6 +895,22 @@
     <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>ジョブ %1 をキュー「%2」に渡しました。</translation>
+    </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>前回のジョブ %1 では、文書 %3 個のうち %2 個がプリンターに送られています。残りだけを印刷するか、すべてをもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 ジョブ %2 は一部の文書とともにプリントサーバーに残っていて、それらが印刷される可能性があります。キャンセルできませんでした: %3 もう一度印刷すると、まずこのジョブを確認します。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>ジョブ %1 は、文書 %3 個のうち %2 個だけが印刷されました。</translation>
     </message>
 </context>
 <context>
@@ -1241,6 +1257,14 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
     </message>
+<message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>文書をプリンター用に変換できませんでした: ページ数を確認できません。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>文書をプリンター用に変換できませんでした: 時間がかかりすぎました。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -1381,7 +1405,7 @@ For the command line: %2</source>
         <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>プリンターの設定に指示が表示されました。</translation>
     </message>
     <message>
@@ -1389,7 +1413,7 @@ For the command line: %2</source>
         <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
     </message>
     <message>
@@ -1397,7 +1421,7 @@ For the command line: %2</source>
         <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>プリンター固有の設定を使用できません: %1</translation>
     </message>
     <message>
@@ -1425,7 +1449,7 @@ For the command line: %2</source>
         <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
     <message>
@@ -1625,6 +1649,22 @@ For the command line: %2</source>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
     </message>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま印刷されます。1 枚に複数ページを割り付けること (number-up) も、ページを選ぶこと (page-ranges、page-set) もできません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>プリンターが一度に受け取る文書は 1 つのため、文書は 1 つにまとめられました。各文書は新しい用紙から始まります。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SettingsPages</name>
@@ -1665,6 +1705,28 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>すべての文書を 1 部ずつ繰り返す (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>文書ごとに全部数を続けて (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>ページごとに全部数を続けて (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
     </message>
 </context>
 </TS>

@@ -15,8 +15,8 @@
         <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
     </message>
 </context>
 <context>
@@ -362,7 +362,7 @@
         <translation>此打印机没有可选的纸张尺寸。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1：打印机设置不允许在此使用，已变为 %2。</translation>
     </message>
     <message>
@@ -382,7 +382,7 @@
         <translation>1 到 %1</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <source>%1: the printer's options cannot be set to this value.</source>
         <translation>%1：无法将打印机的选项设置为此值。</translation>
     </message>
     <message>
@@ -428,7 +428,7 @@
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>无法将打印机选项写入 %1：%2</translation>
     </message>
 </context>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>，</translation>
     </message>
     <message>
@@ -675,7 +675,7 @@
         <translation>更改为%1</translation>
     </message>
     <message>
-        <source>The printer&apos;s options cannot be set to %1.</source>
+        <source>The printer's options cannot be set to %1.</source>
         <translation>无法将打印机的选项设置为%1。</translation>
     </message>
 </context>
@@ -895,6 +895,22 @@
     <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>作业 %1 已交给队列“%2”。</translation>
+    </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>上次的作业 %1 已将 %3 个文档中的 %2 个送到打印机。请单独打印其余文档，或全部重新打印。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 作业 %2 可能仍带着部分文档留在打印服务器上，并可能打印这些文档。无法取消它：%3 再次打印时会先查找该作业。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>作业 %1 只打印了 %3 个文档中的 %2 个。</translation>
     </message>
 </context>
 <context>
@@ -1241,6 +1257,14 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
     </message>
+<message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>无法为打印机转换文档：无法确定其页数。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>无法为打印机转换文档：耗时过长。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -1381,7 +1405,7 @@ For the command line: %2</source>
         <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>打印机设置显示了说明。</translation>
     </message>
     <message>
@@ -1389,7 +1413,7 @@ For the command line: %2</source>
         <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>由于打印机设置，作业未打印。</translation>
     </message>
     <message>
@@ -1397,7 +1421,7 @@ For the command line: %2</source>
         <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>无法使用打印机专用设置：%1</translation>
     </message>
     <message>
@@ -1425,7 +1449,7 @@ For the command line: %2</source>
         <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
     <message>
@@ -1625,6 +1649,22 @@ For the command line: %2</source>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
     </message>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会原样打印文档：既不能在一张纸上放置多页 (number-up)，也不能选择页面 (page-ranges、page-set)。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>由于打印机一次只接收一个文档，这些文档已合并为一个；每个文档都从新的一张纸开始。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>份数过多，无法按套发送。顺序为：%1。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SettingsPages</name>
@@ -1665,6 +1705,28 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>打印</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>所有文档依次打印一份后再重复 (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>每个文档连续打印所有份数 (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>每一页连续打印所有份数 (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
 </context>
 </TS>
