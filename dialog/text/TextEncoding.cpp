@@ -148,16 +148,19 @@ double scoreOf(const Legacy &legacy, const QByteArray &sample)
     if (counts.characters == 0)
         return 0.5; // nothing but signs
     double share = double(counts.frequent + counts.kana) / counts.characters;
+    // A few words say nothing of their language; the user's decides.
+    constexpr int kSentence = 20;
+    if (counts.characters < kSentence)
+        return share;
     // A Japanese text has syllables between its ideographs, or is no sentence.
     const bool isJapanese = QLatin1StringView(legacy.language) == "ja"_L1;
     if (isJapanese && counts.kana * 20 < counts.characters)
         share *= 0.8;
-    // Korean syllables fill a part of the rows that Chinese ideographs are in.
+    // Korean syllables fill a part of the rows that Chinese ideographs are in: all of a text in
+    // that part is no chance.
     const bool isKorean = QLatin1StringView(legacy.language) == "ko"_L1;
-    if (isKorean && share < 0.95)
-        share *= 0.5;
-    if (isKorean && share >= 0.95)
-        share += 0.02;
+    if (isKorean)
+        share = share < 0.95 ? 0.5 * share : share + 2 * kOwnLanguage;
     return share;
 }
 
@@ -193,6 +196,7 @@ double scoreOfWestern(const QByteArray &sample)
 }
 
 // UTF-16 without a mark: half of the bytes of its ASCII characters are zero, always the same half.
+// A fifth of all bytes has to be, or it could be anything.
 QByteArray unmarkedUtf16(const QByteArray &beginning)
 {
     qsizetype zeros[2] = {0, 0};
@@ -202,7 +206,7 @@ QByteArray unmarkedUtf16(const QByteArray &beginning)
     }
     const qsizetype most = std::max(zeros[0], zeros[1]);
     const qsizetype least = std::min(zeros[0], zeros[1]);
-    if (most == 0 || least * 10 > most)
+    if (most == 0 || most * 5 < beginning.size() || least * 10 > most)
         return {};
     const QByteArray encoding = zeros[0] > zeros[1] ? "UTF-16BE" : "UTF-16LE";
     TextDecoder decoder(encoding);
