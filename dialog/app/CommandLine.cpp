@@ -110,6 +110,11 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     return problem->isEmpty() ? std::optional(line) : std::nullopt;
 }
 
+bool needsDocument(const CommandLine &line)
+{
+    return !line.listPrinters && !line.checkDisplay && !line.summary;
+}
+
 // Why a command line cannot be understood although each of its values can be read; empty when it
 // can.
 QString problemOf(const CommandLine &line)
@@ -122,15 +127,14 @@ QString problemOf(const CommandLine &line)
     }
     if (line.documents.count(u"-"_s) > 1)
         return u"standard input (-) can be read once only."_s;
-    const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
-    if ((line.documents.isEmpty() && needsDocument) || line.documents.contains(QString()))
+    if ((line.documents.isEmpty() && needsDocument(line)) || line.documents.contains(QString()))
         return u"the name of a document is missing."_s;
     return {};
 }
 
 } // namespace
 
-ParsedCommandLine parseCommandLine(const QStringList &arguments)
+ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven)
 {
     const Options options;
     QCommandLineParser parser;
@@ -151,7 +155,9 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
         return {std::nullopt, u"corvana-print %1\n"_s.arg(QLatin1StringView(CORVANA_VERSION)), 0};
 
     QString problem;
-    const std::optional<CommandLine> line = readValues(parser, options, &problem);
+    std::optional<CommandLine> line = readValues(parser, options, &problem);
+    if (line && inputIsGiven && line->documents.isEmpty() && needsDocument(*line))
+        line->documents = QStringList{u"-"_s};
     if (line)
         problem = problemOf(*line);
     if (!problem.isEmpty())

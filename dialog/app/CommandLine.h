@@ -41,7 +41,8 @@ struct ParsedCommandLine
     int exitStatus = 0; ///< 0 for help and version, 2 for a command line that cannot be understood
 };
 
-/// `arguments` begin with the program's name.
-ParsedCommandLine parseCommandLine(const QStringList &arguments);
+/// `arguments` begin with the program's name. `inputIsGiven`: standard input is the document where
+/// no file is named.
+ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven = false);
 
 } // namespace corvana

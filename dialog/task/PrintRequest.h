@@ -13,8 +13,6 @@
 #include "dialog/task/AlertPolicy.h"
 #include "platform/pde/PDEJobValues.h"
 
-class QTemporaryFile;
-
 namespace corvana {
 
 /// What is to be printed and how, as it was asked for: documents that were looked into, printers
@@ -22,8 +20,6 @@ namespace corvana {
 struct PrintRequest
 {
     QList<Document> documents; ///< printed one after the other, as one job
-    /// Holds what came on standard input; null without it.
-    std::shared_ptr<QTemporaryFile> standardInput;
     /// Those that no server is needed for: PPD files and samples.
     QList<Printer> printers;
     /// A printer by its name, a queue or a URI; empty for the usual one.

@@ -28,7 +28,7 @@ bool PrintTask::printsToFile() const
 void PrintTask::setOutput(const QString &path, bool confirmed)
 {
     if (path != m_output.path || confirmed)
-        m_output = {path, m_output.toFile, confirmed};
+        m_output = {path, m_output.toFile, confirmed, m_output.proposed};
 }
 
 void PrintTask::print()

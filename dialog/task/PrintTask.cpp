@@ -18,7 +18,8 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
       m_credentials(CredentialStore::create()),
       m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
                ServerContext{m_request.server, m_credentials}),
-      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed}
+      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed,
+               m_request.outputWasNamed ? QString() : m_request.output}
 {
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,

@@ -136,6 +136,8 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// What is written is another kind of file, and another name for it is proposed: output().
+    void outputProposed();
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
     void unsaid();
@@ -174,6 +176,7 @@ private:
         QString path;
         bool toFile = false;
         bool confirmed = false;
+        QString proposed{}; // and nobody's choice
     };
     struct Baseline
     {
@@ -190,6 +193,7 @@ private:
     void takeNext();
     void open(const FetchedPrinter &ready);
     void close();
+    void proposeOutput();
     void rememberSession();
     void takeExpectedPrinter();
     void printerChecked(const FetchedPrinter &checked);

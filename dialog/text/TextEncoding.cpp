@@ -20,6 +20,9 @@ constexpr auto kWestern = "CP1252";
 // How much of a text is looked at. What is plain ASCII says nothing and does not count.
 constexpr qsizetype kPiece = 4096;
 constexpr qsizetype kEnough = 128 * 1024;
+// A text that is plain ASCII for so long is taken for that. Units: bytes.
+constexpr qint64 kBlock = 1 << 20;
+constexpr qint64 kMostLookedAt = 64 * kBlock;
 // More than this share of broken characters is another encoding; less is damage.
 constexpr double kMostBroken = 0.01;
 // What the user's language adds to a score.
@@ -225,17 +228,32 @@ bool switchesSets(const QByteArray &sample)
            (sample.contains("\x1B(B") || sample.contains("\x1B(J"));
 }
 
-// What is worth looking at: pieces, whole lines where there are any, that are no plain ASCII.
+bool saysSomething(char c)
+{
+    return isHigh(c) || c == '\x1B';
+}
+
+// What is worth looking at: lines that are no plain ASCII.
 QByteArray sampleOf(QIODevice &text)
 {
     QByteArray sample;
-    while (!text.atEnd() && sample.size() < kEnough) {
-        QByteArray piece = text.readLine(kPiece);
-        if (piece.isEmpty())
+    qint64 lookedAt = 0;
+    while (lookedAt < kMostLookedAt && sample.size() < kEnough) {
+        QByteArray block = text.read(kBlock);
+        if (block.isEmpty())
             break;
-        if (std::any_of(piece.cbegin(), piece.cend(),
-                        [](char c) { return isHigh(c) || c == '\x1B'; }))
-            sample += piece;
+        block += text.readLine(kPiece); // so that it ends where a line ends
+        lookedAt += block.size();
+        if (std::none_of(block.cbegin(), block.cend(), saysSomething))
+            continue;
+        for (qsizetype begin = 0; begin < block.size() && sample.size() < kEnough;) {
+            const qsizetype newline = block.indexOf('\n', begin);
+            const qsizetype end = newline < 0 ? block.size() : newline + 1;
+            const QByteArray line = block.mid(begin, std::min(end - begin, kEnough));
+            if (std::any_of(line.cbegin(), line.cend(), saysSomething))
+                sample += line;
+            begin = end;
+        }
     }
     return sample;
 }

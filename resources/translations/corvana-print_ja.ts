@@ -1371,8 +1371,8 @@ For the command line: %2</source>
         <translation>ファイルに出力</translation>
     </message>
     <message>
-        <source>PostScript (*.ps);;All files (*)</source>
-        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>

@@ -1371,8 +1371,8 @@ For the command line: %2</source>
         <translation>打印到文件</translation>
     </message>
     <message>
-        <source>PostScript (*.ps);;All files (*)</source>
-        <translation>PostScript (*.ps);;所有文件 (*)</translation>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
     </message>
 </context>
 <context>
