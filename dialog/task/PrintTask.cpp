@@ -8,6 +8,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
@@ -57,6 +58,7 @@ void PrintTask::bringUp()
 {
     if (m_phase != Phase::Opened)
         return;
+    lookForMissingCharacters();
     const QList<Refusal> refusals = bringPanelsUp();
     noteMissingPages();
     if (!m_memory.value(idOf(m_chosen.printer)).session)

@@ -19,6 +19,8 @@
 
 namespace corvana {
 
+class TextCheck;
+
 /// Why a printer cannot be asked for, whole and in few words.
 struct PrinterProblem
 {
@@ -214,6 +216,8 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
+    void lookForMissingCharacters();
+    bool mayPrintTexts();
     void startJob(const JobTicket &ticket);
     void jobFinished(const JobOutcome &outcome);
 
@@ -228,6 +232,7 @@ private:
     JobSettings m_settings;
     Output m_output;
     Run m_run;
+    std::unique_ptr<TextCheck> m_textCheck;
     Phase m_phase = Phase::Fetching;
 };
 

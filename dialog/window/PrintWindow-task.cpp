@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QLoggingCategory>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QTextStream>
 
@@ -293,6 +294,16 @@ bool PrintWindow::mayOverwrite(const QString &file)
     box.setDefaultButton(QMessageBox::No);
     makePlain(&box);
     return box.exec() == QMessageBox::Yes;
+}
+
+bool PrintWindow::mayPrintWithout(const QString &what)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Print"), what, QMessageBox::Cancel, this);
+    QPushButton *print = box.addButton(tr("Print Anyway"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    makePlain(&box);
+    box.exec();
+    return box.clickedButton() == print;
 }
 
 void PrintWindow::writeSummary(const QList<SummaryLine> &lines)

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/text/TextCheck.h"
 #include "dialog/text/TextConversion.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/Rows.h"
@@ -269,6 +270,48 @@ private Q_SLOTS:
         conversion.cancel();
         QVERIFY(finished.wait(5000));
         QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void whatNoFontHasIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("named");
+        QTest::newRow("nothing") << QByteArray("日本語 Größe ｱ ─\t\f\x1B[0m\n") << QString();
+        // A character that Unicode does not have.
+        QTest::newRow("one, twice") << QByteArray("a\u0378b\u0378\n") << u"\u0378 (U+0378)"_s;
+        QTest::newRow("behind a megabyte")
+            << QByteArray("x\n").repeated(500'000) + "\u0378" << u"\u0378 (U+0378)"_s;
+    }
+    void whatNoFontHasIsNamed()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, named);
+        const TextCheck check({writeFile(path(u"notes.txt"_s), text)});
+        QCOMPARE(check.missing(std::chrono::seconds(20)), named);
+    }
+
+    void noMoreThanAFewAreNamed()
+    {
+        QByteArray text;
+        for (const char32_t c :
+             {0x378, 0x379, 0x380, 0x381, 0x382, 0x383, 0x38B, 0x38D, 0x3A2, 0x530})
+            text += QString::fromUcs4(&c, 1).toUtf8();
+        const TextCheck check({writeFile(path(u"notes.txt"_s), text)});
+        const QString named = check.missing(std::chrono::seconds(20));
+        QCOMPARE(named.count(u"U+"_s), 8);
+        QVERIFY(named.endsWith(u'…'));
+    }
+
+    void aCheckOfALongTextIsLeftAtOnce()
+    {
+        writeFile(path(u"notes.txt"_s), QByteArray("日本語の文書\n").repeated(2'000'000));
+        QElapsedTimer timer;
+        timer.start();
+        {
+            const TextCheck check({path(u"notes.txt"_s)});
+            QCOMPARE(check.missing(std::chrono::milliseconds(1)), QString());
+        }
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     }
 
