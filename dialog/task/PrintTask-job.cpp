@@ -1,18 +1,29 @@
 #include "dialog/task/PrintTask.h"
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include <QFileInfo>
 
 #include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
+#include "dialog/job/TextDocuments.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
+#include "dialog/text/TextCheck.h"
 
 namespace corvana {
+
+namespace {
+
+// How long Print waits for what is known of a text's characters; usually that is known long before.
+constexpr std::chrono::milliseconds kPatienceWithTexts{2000};
+
+} // namespace
 
 bool PrintTask::canPrint() const
 {
@@ -28,7 +39,7 @@ bool PrintTask::printsToFile() const
 void PrintTask::setOutput(const QString &path, bool confirmed)
 {
     if (path != m_output.path || confirmed)
-        m_output = {path, m_output.toFile, confirmed};
+        m_output = {path, m_output.toFile, confirmed, m_output.proposed};
 }
 
 void PrintTask::print()
@@ -88,6 +99,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
+    if (!mayPrintTexts())
+        return TaskRefusal{{}, Place::Nowhere, true};
     if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
             return refusal;
@@ -104,6 +117,33 @@ std::optional<TaskRefusal> PrintTask::finish()
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
+}
+
+// Once for a task: its documents stay the same.
+void PrintTask::lookForMissingCharacters()
+{
+    QStringList texts;
+    for (const Document &document : m_request.documents) {
+        if (isTextToLayOut(document, {}))
+            texts += document.path;
+    }
+    if (!m_textCheck && !texts.isEmpty())
+        m_textCheck = std::make_unique<TextCheck>(texts);
+}
+
+// A text whose characters nobody has is not printed without a word.
+bool PrintTask::mayPrintTexts()
+{
+    const QList<JobOption> attributes = jobAttributes();
+    const bool anyText =
+        std::any_of(m_request.documents.cbegin(), m_request.documents.cend(),
+                    [&](const Document &document) { return isTextToLayOut(document, attributes); });
+    const QString missing =
+        anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
+    return missing.isEmpty() ||
+           m_face.mayPrintWithout(tr("No font of this computer has these characters of the text: "
+                                     "%1. An empty frame is printed for each of them.")
+                                      .arg(missing));
 }
 
 // The panels say whether they let the job go, and may show instructions first.

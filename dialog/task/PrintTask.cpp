@@ -8,6 +8,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
@@ -18,7 +19,8 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
       m_credentials(CredentialStore::create()),
       m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
                ServerContext{m_request.server, m_credentials}),
-      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed}
+      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed,
+               m_request.outputWasNamed ? QString() : m_request.output}
 {
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,
@@ -58,6 +60,7 @@ void PrintTask::bringUp()
 {
     if (m_phase != Phase::Opened)
         return;
+    lookForMissingCharacters();
     const QList<Refusal> refusals = bringPanelsUp();
     noteMissingPages();
     if (!m_memory.value(idOf(m_chosen.printer)).session)

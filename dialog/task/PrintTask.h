@@ -19,6 +19,8 @@
 
 namespace corvana {
 
+class TextCheck;
+
 /// Why a printer cannot be asked for, whole and in few words.
 struct PrinterProblem
 {
@@ -136,6 +138,8 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// What is written is another kind of file, and another name for it is proposed: output().
+    void outputProposed();
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
     void unsaid();
@@ -175,6 +179,7 @@ private:
         QString path;
         bool toFile = false;
         bool confirmed = false;
+        QString proposed{}; // and nobody's choice
     };
     struct Baseline
     {
@@ -191,6 +196,7 @@ private:
     void takeNext();
     void open(const FetchedPrinter &ready);
     void close();
+    void proposeOutput();
     void rememberSession();
     void takeExpectedPrinter();
     void printerChecked(const FetchedPrinter &checked);
@@ -210,6 +216,8 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
+    void lookForMissingCharacters();
+    bool mayPrintTexts();
     void startJob(const JobTicket &ticket);
     void jobFinished(const JobOutcome &outcome);
 
@@ -224,6 +232,7 @@ private:
     JobSettings m_settings;
     Output m_output;
     Run m_run;
+    std::unique_ptr<TextCheck> m_textCheck;
     Phase m_phase = Phase::Fetching;
 };
 

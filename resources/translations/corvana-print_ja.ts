@@ -77,6 +77,14 @@
         <source>%1 is no ordinary file; a document was expected.</source>
         <translation>%1 は通常のファイルではありません。文書を指定してください。</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: nobody writes into it.</source>
+        <translation>%1 を読み取れません: 書き込むプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be kept: it has more than %2 bytes.</source>
+        <translation>%1 を保存できません: %2 バイトを超えています。</translation>
+    </message>
 </context>
 <context>
     <name>JobAttributes</name>
@@ -687,6 +695,10 @@
             <numerusform>%1 ほか %n 件</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1: the name is not written in UTF-8.</source>
+        <translation>%1: 名前が UTF-8 ではありません。</translation>
+    </message>
 </context>
 <context>
     <name>ResultFile</name>
@@ -1059,6 +1071,13 @@
     <message>
         <source>Password: </source>
         <translation>パスワード: </translation>
+    </message>
+</context>
+<context>
+    <name>TextFormat</name>
+    <message>
+        <source>The margins, columns and characters per inch that were asked for leave no room for a text on this paper (%1 × %2 points).</source>
+        <translation>指定された余白、段数、1 インチあたりの文字数では、この用紙 (%1 × %2 ポイント) にテキストの入る余地がありません。</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1475,10 @@ For the command line: %2</source>
         <source>“%1” has nothing to show.</source>
         <translation>「%1」には表示するものがありません。</translation>
     </message>
+    <message>
+        <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
+        <translation>このコンピューターのどのフォントにも、テキスト中の次の文字がありません: %1。それぞれの代わりに空の枠が印刷されます。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1527,6 +1550,10 @@ For the command line: %2</source>
         <source>Help on Printing</source>
         <translation>印刷のヘルプ</translation>
     </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>このまま印刷</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -1562,8 +1589,8 @@ For the command line: %2</source>
         <translation>ファイルに出力</translation>
     </message>
     <message>
-        <source>PostScript (*.ps);;All files (*)</source>
-        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -1697,6 +1724,36 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::TextConversion</name>
+    <message>
+        <source>There are no fonts for the text %1.</source>
+        <translation>テキスト %1 のためのフォントがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>%1 would have more than %2 pages, and a text is printed on no more than that.</source>
+        <translation>%1 は %2 ページを超えます。テキストはこれより多いページには印刷されません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TextDocuments</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>no display can be reached. Print without a window with --no-dialog.</source>
@@ -1705,6 +1762,10 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書の選択</translation>
     </message>
 </context>
 <context>

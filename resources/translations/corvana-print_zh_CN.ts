@@ -77,6 +77,14 @@
         <source>%1 is no ordinary file; a document was expected.</source>
         <translation>%1 不是普通文件；请指定文档。</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: nobody writes into it.</source>
+        <translation>无法读取 %1：没有程序向其中写入。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be kept: it has more than %2 bytes.</source>
+        <translation>无法保存 %1：超过了 %2 字节。</translation>
+    </message>
 </context>
 <context>
     <name>JobAttributes</name>
@@ -687,6 +695,10 @@
             <numerusform>%1 等另外 %n 个</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1: the name is not written in UTF-8.</source>
+        <translation>%1：名称不是 UTF-8 编码。</translation>
+    </message>
 </context>
 <context>
     <name>ResultFile</name>
@@ -1059,6 +1071,13 @@
     <message>
         <source>Password: </source>
         <translation>密码：</translation>
+    </message>
+</context>
+<context>
+    <name>TextFormat</name>
+    <message>
+        <source>The margins, columns and characters per inch that were asked for leave no room for a text on this paper (%1 × %2 points).</source>
+        <translation>按所要求的页边距、栏数和每英寸字符数，此纸张（%1 × %2 点）上没有放置文本的空间。</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1475,10 @@ For the command line: %2</source>
         <source>“%1” has nothing to show.</source>
         <translation>“%1”没有可显示的内容。</translation>
     </message>
+    <message>
+        <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
+        <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1527,6 +1550,10 @@ For the command line: %2</source>
         <source>Help on Printing</source>
         <translation>打印帮助</translation>
     </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>仍然打印</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -1562,8 +1589,8 @@ For the command line: %2</source>
         <translation>打印到文件</translation>
     </message>
     <message>
-        <source>PostScript (*.ps);;All files (*)</source>
-        <translation>PostScript (*.ps);;所有文件 (*)</translation>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -1697,6 +1724,36 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::TextConversion</name>
+    <message>
+        <source>There are no fonts for the text %1.</source>
+        <translation>没有可用于文本 %1 的字体。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+    <message>
+        <source>%1 would have more than %2 pages, and a text is printed on no more than that.</source>
+        <translation>%1 将超过 %2 页，而文本最多只打印这么多页。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TextDocuments</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>no display can be reached. Print without a window with --no-dialog.</source>
@@ -1705,6 +1762,10 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>打印</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>选择要打印的文档</translation>
     </message>
 </context>
 <context>
