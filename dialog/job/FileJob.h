@@ -41,6 +41,7 @@ public:
 private:
     QString prepare();
     void converted(const QString &problem);
+    void publish(const QString &problem);
     void fail(const QString &problem);
 
     FileJobRequest m_request;

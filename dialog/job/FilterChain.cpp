@@ -197,6 +197,8 @@ void FilterChain::stepFinished(int exitCode, QProcess::ExitStatus status)
     // A filter of the chain may outlive the program that started it.
     if ((m_canceled || !m_writeError.isEmpty()) && m_group > 0)
         ::kill(-m_group, SIGKILL);
+    m_cameOutEmpty = !m_canceled && m_writeError.isEmpty() && status == QProcess::NormalExit &&
+                     exitCode == 0 && QFileInfo(step().output).size() == 0;
     const QString problem = problemOfStep(exitCode, status);
     if (!problem.isEmpty())
         return finish(problem);

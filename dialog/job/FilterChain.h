@@ -37,6 +37,8 @@ public:
     void cancel();
     /// Whether cancel() was in time.
     bool isCanceled() const { return m_canceled; }
+    /// Whether the last program that ran called it a success that nothing came out.
+    bool cameOutEmpty() const { return m_cameOutEmpty; }
 
 Q_SIGNALS:
     /// A filter has come to this page. Range: 1 and more.
@@ -65,6 +67,7 @@ private:
     QString m_writeError; // why that could not be written
     QByteArray m_log;     // of the current step
     bool m_canceled = false;
+    bool m_cameOutEmpty = false;
 };
 
 } // namespace corvana

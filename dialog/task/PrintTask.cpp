@@ -24,6 +24,7 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     m_settings.askForCopies(m_request.copies,
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
     connectSource();
+    connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(
@@ -146,7 +147,7 @@ QStringList PrintTask::takeMostCopies()
     return {};
 }
 
-QList<SummaryLine> PrintTask::summary()
+QList<SummaryLine> PrintTask::summaryOfSettings()
 {
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(),
                           jobAttributes());
