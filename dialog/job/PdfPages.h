@@ -32,6 +32,9 @@ struct PdfPages
 /// the first `described` ones.
 QStringList pdfPagesArguments(const QString &path, int described);
 inline constexpr const char *kPdfInfoProgram = "pdfinfo";
+/// How it ends for a PDF without any page: no first page is there that it could describe. One that
+/// it cannot read has another status.
+inline constexpr int kPdfInfoFoundNoPage = 99;
 
 /// What it has answered. Errors: nothing for what is no answer. What a document says of itself (its
 /// title may look like such an answer) is not taken for one.

@@ -86,11 +86,11 @@ void ProgramRun::ended(int exitCode, QProcess::ExitStatus status)
 {
     read();
     if (!m_stopped.isEmpty())
-        finish(m_stopped);
-    else if (status != QProcess::NormalExit)
-        finish(u"crashed"_s);
-    else
-        finish(exitCode == 0 ? QString() : u"ended with status %1"_s.arg(exitCode));
+        return finish(m_stopped);
+    if (status != QProcess::NormalExit)
+        return finish(u"crashed"_s);
+    m_exitStatus = exitCode;
+    finish(exitCode == 0 ? QString() : u"ended with status %1"_s.arg(exitCode));
 }
 
 // Never before start() returns.

@@ -30,6 +30,8 @@ public:
 
     /// Starts. `finished` follows in every case, never before this returns.
     void start();
+    /// The exit status of a program that has ended by itself; -1 before that, and for any other.
+    int exitStatus() const { return m_exitStatus; }
 
 Q_SIGNALS:
     /// `problem` is for a log; empty when the program has done its work.
@@ -46,6 +48,7 @@ private:
     QTimer m_patience;
     QByteArray m_output;
     QString m_stopped; // why
+    int m_exitStatus = -1;
     bool m_told = false;
 };
 

@@ -93,13 +93,10 @@ void checkResultPages(const QString &path, QObject *owner,
         return later(isKnownToBeEmpty(head, tail, file.size()) ? noPage() : QString());
     auto *run =
         new ProgramRun(QString::fromLatin1(kPdfInfoProgram), pdfPagesArguments(path, 0), {}, owner);
-    QObject::connect(run, &ProgramRun::finished, owner,
-                     [answer, run](const QByteArray &said, const QString &problem) {
-                         run->deleteLater();
-                         const auto pages = readPdfPages(said);
-                         const bool isEmpty = problem.isEmpty() && pages && pages->count == 0;
-                         answer(isEmpty ? noPage() : QString());
-                     });
+    QObject::connect(run, &ProgramRun::finished, owner, [answer, run] {
+        run->deleteLater();
+        answer(run->exitStatus() == kPdfInfoFoundNoPage ? noPage() : QString());
+    });
     run->start();
 }
 

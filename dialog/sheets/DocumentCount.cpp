@@ -163,17 +163,20 @@ void DocumentCount::countSides()
         });
 }
 
-// The chain looks at the pages that are printed before it decides whether to scale them, so that
-// the probe holds each kind of those, and all of what it holds is printed.
+// The chain looks at all pages that it is given before it decides whether to scale any, whichever
+// of them are printed: one page that is too large shrinks the others. So the probe holds each kind
+// of them, and all of what it holds is printed. Where several pages go on a side, the chain is
+// given the chosen ones only.
 void DocumentCount::layOutProbe()
 {
-    const PageChoice choice = pageChoice(m_request.options);
-    QList<PdfPage> printed;
-    for (int page = 1; page <= m_pages.size(); ++page) {
-        if (isChosen(page, choice))
-            printed += m_pages.at(page - 1);
+    const WantedPages choice = wantedPages(m_request.options);
+    const QList<bool> isPrinted = printedPages(static_cast<int>(m_pages.size()), choice);
+    m_printed.clear();
+    for (qsizetype page = 0; page < m_pages.size(); ++page) {
+        if (isPrinted.at(page))
+            m_printed += m_pages.at(page);
     }
-    const QList<PdfPage> kinds = kindsOfPages(printed);
+    const QList<PdfPage> kinds = kindsOfPages(choice.arePicked ? m_printed : m_pages);
     // Of the pages that were not described nobody knows the kinds.
     if (kinds.isEmpty() || m_pages.size() < *m_sheets.pages)
         return Q_EMIT finished({});
@@ -198,7 +201,8 @@ void DocumentCount::readProbe(const QList<PdfPage> &kinds)
         const QList<double> scales = scalesOfProbe(said, kinds);
         for (qsizetype i = 0; i < kinds.size(); ++i) {
             const PageScale scale{sizeOfPage(kinds.at(i)), scales.at(i)};
-            if (scale.scale > 0 && !m_sheets.scales.contains(scale))
+            if (scale.scale > 0 && m_printed.contains(kinds.at(i)) &&
+                !m_sheets.scales.contains(scale))
                 m_sheets.scales += scale;
         }
         Q_EMIT finished({});

@@ -59,7 +59,8 @@ private:
     QString m_folder;
     QString m_pdf; // of the document
     DocumentSheets m_sheets;
-    QList<PdfPage> m_pages;
+    QList<PdfPage> m_pages;   // of the document, as far as they were described
+    QList<PdfPage> m_printed; // among them
     std::unique_ptr<Conversion> m_conversion;
     std::unique_ptr<FilterChain> m_chain;
     std::unique_ptr<ProgramRun> m_run;

@@ -15,8 +15,8 @@ namespace corvana {
 /// stacked. A plain value; a printer's filters, commands and texts are no part of it.
 struct LayoutTraits
 {
-    QSizeF paper;      ///< Units: points
-    QMarginsF margins; ///< Units: points
+    QSizeF paper{};      ///< Units: points
+    QMarginsF margins{}; ///< Units: points
     bool isTwoSided = false;
     bool isReversed = false;  ///< the last page comes first
     bool fillsSheets = false; ///< a blank side is added where the last sheet lacks one

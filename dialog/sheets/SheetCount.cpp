@@ -24,18 +24,18 @@ int numberOr(const QString &text, int other)
 
 } // namespace
 
-PageChoice pageChoice(const QList<JobOption> &options)
+WantedPages wantedPages(const QList<JobOption> &options)
 {
-    PageChoice choice;
+    WantedPages choice;
     for (const JobOption &option : options) {
         if (option.name == kPageRangesAttribute)
             choice.ranges = option.value;
         else if (option.name == "page-set"_L1)
-            choice.set = option.value == "odd"_L1    ? PageChoice::Set::Odd
-                         : option.value == "even"_L1 ? PageChoice::Set::Even
-                                                     : PageChoice::Set::All;
+            choice.set = option.value == "odd"_L1    ? WantedPages::Set::Odd
+                         : option.value == "even"_L1 ? WantedPages::Set::Even
+                                                     : WantedPages::Set::All;
         else if (option.name == "number-up"_L1)
-            choice.pagesOnASide = std::max(1, numberOr(option.value, 1));
+            choice.arePicked = numberOr(option.value, 1) > 1;
     }
     return choice;
 }
@@ -80,28 +80,29 @@ QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages)
     return beyond;
 }
 
-bool isChosen(int page, const PageChoice &choice)
+QList<bool> printedPages(int pages, const WantedPages &choice)
 {
-    const bool isOfSet = choice.pagesOnASide > 1 || choice.set == PageChoice::Set::All ||
-                         (page % 2 == 1) == (choice.set == PageChoice::Set::Odd);
-    if (!isOfSet || choice.ranges.isEmpty())
-        return isOfSet;
-    const QList<PageRange> ranges = rangesOf(choice.ranges);
-    return std::any_of(ranges.cbegin(), ranges.cend(), [page](const PageRange &range) {
-        return page >= range.first && page <= range.last;
-    });
+    QList<bool> printed(pages, choice.ranges.isEmpty());
+    for (const PageRange &range : rangesWithin(rangesOf(choice.ranges), pages))
+        std::fill(printed.begin() + range.first - 1, printed.begin() + range.last, true);
+    for (int page = 1; page <= pages; ++page) {
+        const bool isOdd = page % 2 == 1;
+        if (choice.set != WantedPages::Set::All && isOdd != (choice.set == WantedPages::Set::Odd))
+            printed[page - 1] = false;
+    }
+    return printed;
 }
 
-int chosenPages(int pages, const PageChoice &choice)
+int chosenPages(int pages, const WantedPages &choice)
 {
-    const bool all = choice.pagesOnASide > 1 || choice.set == PageChoice::Set::All;
+    const bool all = choice.set == WantedPages::Set::All;
     const QList<PageRange> ranges =
         choice.ranges.isEmpty() ? QList{PageRange{1, pages}} : rangesOf(choice.ranges);
     int chosen = 0;
     for (const PageRange &range : rangesWithin(ranges, pages)) {
         const int odd = (range.last + 1) / 2 - range.first / 2;
         const int every = range.last - range.first + 1;
-        chosen += all ? every : choice.set == PageChoice::Set::Odd ? odd : every - odd;
+        chosen += all ? every : choice.set == WantedPages::Set::Odd ? odd : every - odd;
     }
     return chosen;
 }

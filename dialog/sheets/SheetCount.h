@@ -43,18 +43,20 @@ struct JobSheets
     bool operator==(const JobSheets &) const = default;
 };
 
-/// Which pages of a document a job prints, and how they are put on sides.
-struct PageChoice
+/// Which pages of each document a job prints: its own pages, whatever lies together on a side.
+struct WantedPages
 {
     /// As the job's attribute of that name says it; empty for all.
     QString ranges{};
     enum class Set { All, Odd, Even } set = Set::All;
-    int pagesOnASide = 1;
+    /// Whether they are picked before the layout step, which counts sides where there are several
+    /// pages on one. It then knows of no others.
+    bool arePicked = false;
 
-    bool operator==(const PageChoice &) const = default;
+    bool operator==(const WantedPages &) const = default;
 };
 
-PageChoice pageChoice(const QList<JobOption> &options);
+WantedPages wantedPages(const QList<JobOption> &options);
 
 /// Numbers of pages, from 1 on; both ends belong to it.
 struct PageRange
@@ -72,11 +74,10 @@ QList<PageRange> rangesOf(const QString &text);
 QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages);
 QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages);
 
-/// Whether a page is printed. With several pages on a side, "odd" and "even" speak of sides: every
-/// page of the ranges may be printed then.
-bool isChosen(int page, const PageChoice &choice);
-/// How many pages of a document of so many are printed, as far as that follows from the choice.
-int chosenPages(int pages, const PageChoice &choice);
+/// For each page of a document of so many, whether it is printed.
+QList<bool> printedPages(int pages, const WantedPages &choice);
+/// How many pages of a document of so many are printed.
+int chosenPages(int pages, const WantedPages &choice);
 
 /// Sheets of paper for one copy. Each document begins on a sheet of its own.
 /// Errors: nothing where a document could not be counted.

@@ -45,9 +45,9 @@ public:
     explicit SheetCounter(QObject *parent = nullptr);
     ~SheetCounter() override;
 
-    /// Counts, unless that was done or is being done. `finished` follows in every case, never before
-    /// this returns, unless a newer request comes or cancel() is called. `Soon` waits for further
-    /// changes.
+    /// Counts, unless that was done or is being done. `finished` follows in every case, never
+    /// before this returns, unless a newer request comes or cancel() is called. `Soon` waits for
+    /// further changes.
     void count(const SheetRequest &request, When when);
     /// What was counted for this request; null while it was not.
     const JobSheets *counted(const SheetRequest &request) const;

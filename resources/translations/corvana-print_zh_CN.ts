@@ -577,6 +577,13 @@
     </message>
 </context>
 <context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>不会打印任何内容：生成的数据中没有页面。</translation>
+    </message>
+</context>
+<context>
     <name>ServerAddress</name>
     <message>
         <source>this computer</source>
@@ -843,6 +850,109 @@
     <message>
         <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the line “%2” from the file %3.</source>
         <translation>打印服务器“%1”的证书与以前的不同：证书已被替换，或有人在中间拦截。如果是有意替换的，请从文件 %3 中删除“%2”这一行。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 页</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 页</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 张</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 张</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>“%1”有 %2</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 及之后</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了偶数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了奇数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>将单面打印，因为只有一面要打印</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档将单面打印：%1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>无法计数</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 份 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 为 %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>纸张数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>不存在的页</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>打印大小</translation>
     </message>
 </context>
 <context>
@@ -1264,6 +1374,14 @@ For the command line: %2</source>
     <message>
         <source>“%1” has nothing to show.</source>
         <translation>“%1”没有可显示的内容。</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
     </message>
 </context>
 <context>

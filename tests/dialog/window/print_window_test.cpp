@@ -319,8 +319,9 @@ private Q_SLOTS:
         QStringList lines;
         for (int row = 0; row < summary->rowCount(); ++row)
             lines += summary->item(row, 0)->text() + u": "_s + summary->item(row, 1)->text();
-        QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Two-Sided: Off"_s, u"Paper Size: A4"_s,
-                                     u"Paper Source: Lower Tray"_s, u"Sleep Time: 12"_s}));
+        QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Sheets: …"_s, u"Two-Sided: Off"_s,
+                                     u"Paper Size: A4"_s, u"Paper Source: Lower Tray"_s,
+                                     u"Sleep Time: 12"_s}));
     }
 
     void theOptionsOfAPrinterWithoutPanelsArePrinted()
