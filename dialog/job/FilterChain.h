@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include "dialog/job/FilterPlan.h"
 
@@ -37,7 +38,7 @@ public:
     void cancel();
     /// Whether cancel() was in time.
     bool isCanceled() const { return m_canceled; }
-    /// Whether the last program that ran called it a success that nothing came out.
+    /// Whether the last step yielded nothing, without any program calling that a failure.
     bool cameOutEmpty() const { return m_cameOutEmpty; }
 
 Q_SIGNALS:
@@ -49,6 +50,9 @@ Q_SIGNALS:
 private:
     const FilterStep &step() const { return m_plan.constFirst(); }
     void startNextStep();
+    QStringList argumentsOfStep(QString *problem) const;
+    void skipStep();
+    void goOn();
     void stepFinished(int exitCode, QProcess::ExitStatus status);
     QString problemOfStep(int exitCode, QProcess::ExitStatus status) const;
     QString problemOfWriting() const;
@@ -66,6 +70,8 @@ private:
     QFile m_output;       // of the current step; closed where it writes a file of its own
     QString m_writeError; // why that could not be written
     QByteArray m_log;     // of the current step
+    QTimer m_patience;    // with the current step
+    bool m_tookTooLong = false;
     bool m_canceled = false;
     bool m_cameOutEmpty = false;
 };

@@ -31,11 +31,6 @@ bool hasSizes(const Document &document)
     return document.format == kPdf || document.format == "application/postscript"_L1;
 }
 
-bool choosesPages(const JobOption &option)
-{
-    return option.name == kPageRangesAttribute || option.name == "page-set"_L1;
-}
-
 QList<JobOption> applied(JobAttribute::AppliedTo what, const QList<JobOption> &options)
 {
     QList<JobOption> some;
@@ -169,14 +164,15 @@ void DocumentCount::countSides()
 // given the chosen ones only.
 void DocumentCount::layOutProbe()
 {
-    const WantedPages choice = wantedPages(m_request.options);
+    const PageChoice choice = pageChoiceOf(m_request.options);
     const QList<bool> isPrinted = printedPages(static_cast<int>(m_pages.size()), choice);
     m_printed.clear();
     for (qsizetype page = 0; page < m_pages.size(); ++page) {
         if (isPrinted.at(page))
             m_printed += m_pages.at(page);
     }
-    const QList<PdfPage> kinds = kindsOfPages(choice.arePicked ? m_printed : m_pages);
+    const QList<PdfPage> kinds =
+        kindsOfPages(mustPickPages(m_request.options) ? m_printed : m_pages);
     // Of the pages that were not described nobody knows the kinds.
     if (kinds.isEmpty() || m_pages.size() < *m_sheets.pages)
         return Q_EMIT finished({});
@@ -188,7 +184,7 @@ void DocumentCount::layOutProbe()
         return fail(output.errorString());
     output.close();
     ConversionRequest request = layoutOf(probe, file(u"probed.pdf"_s));
-    request.layout.removeIf(choosesPages);
+    request.layout.removeIf(isOfPageChoice);
     convert(request, [this, kinds](bool empty) {
         empty ? fail(u"nothing of the probe came out"_s) : readProbe(kinds);
     });

@@ -5,8 +5,6 @@
 
 #include <QStringList>
 
-#include "dialog/session/OptionNames.h"
-
 namespace corvana {
 
 using namespace Qt::StringLiterals;
@@ -23,22 +21,6 @@ int numberOr(const QString &text, int other)
 }
 
 } // namespace
-
-WantedPages wantedPages(const QList<JobOption> &options)
-{
-    WantedPages choice;
-    for (const JobOption &option : options) {
-        if (option.name == kPageRangesAttribute)
-            choice.ranges = option.value;
-        else if (option.name == "page-set"_L1)
-            choice.set = option.value == "odd"_L1    ? WantedPages::Set::Odd
-                         : option.value == "even"_L1 ? WantedPages::Set::Even
-                                                     : WantedPages::Set::All;
-        else if (option.name == "number-up"_L1)
-            choice.arePicked = numberOr(option.value, 1) > 1;
-    }
-    return choice;
-}
 
 QList<PageRange> rangesOf(const QString &text)
 {
@@ -80,29 +62,29 @@ QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages)
     return beyond;
 }
 
-QList<bool> printedPages(int pages, const WantedPages &choice)
+QList<bool> printedPages(int pages, const PageChoice &choice)
 {
     QList<bool> printed(pages, choice.ranges.isEmpty());
     for (const PageRange &range : rangesWithin(rangesOf(choice.ranges), pages))
         std::fill(printed.begin() + range.first - 1, printed.begin() + range.last, true);
     for (int page = 1; page <= pages; ++page) {
         const bool isOdd = page % 2 == 1;
-        if (choice.set != WantedPages::Set::All && isOdd != (choice.set == WantedPages::Set::Odd))
+        if (choice.set != PageChoice::Set::All && isOdd != (choice.set == PageChoice::Set::Odd))
             printed[page - 1] = false;
     }
     return printed;
 }
 
-int chosenPages(int pages, const WantedPages &choice)
+int chosenPages(int pages, const PageChoice &choice)
 {
-    const bool all = choice.set == WantedPages::Set::All;
+    const bool all = choice.set == PageChoice::Set::All;
     const QList<PageRange> ranges =
         choice.ranges.isEmpty() ? QList{PageRange{1, pages}} : rangesOf(choice.ranges);
     int chosen = 0;
     for (const PageRange &range : rangesWithin(ranges, pages)) {
         const int odd = (range.last + 1) / 2 - range.first / 2;
         const int every = range.last - range.first + 1;
-        chosen += all ? every : choice.set == WantedPages::Set::Odd ? odd : every - odd;
+        chosen += all ? every : choice.set == PageChoice::Set::Odd ? odd : every - odd;
     }
     return chosen;
 }

@@ -6,7 +6,7 @@
 #include <QSizeF>
 #include <QString>
 
-#include "platform/pde/PDEJobValues.h"
+#include "dialog/job/PageChoice.h"
 
 namespace corvana {
 
@@ -43,21 +43,6 @@ struct JobSheets
     bool operator==(const JobSheets &) const = default;
 };
 
-/// Which pages of each document a job prints: its own pages, whatever lies together on a side.
-struct WantedPages
-{
-    /// As the job's attribute of that name says it; empty for all.
-    QString ranges{};
-    enum class Set { All, Odd, Even } set = Set::All;
-    /// Whether they are picked before the layout step, which counts sides where there are several
-    /// pages on one. It then knows of no others.
-    bool arePicked = false;
-
-    bool operator==(const WantedPages &) const = default;
-};
-
-WantedPages wantedPages(const QList<JobOption> &options);
-
 /// Numbers of pages, from 1 on; both ends belong to it.
 struct PageRange
 {
@@ -75,9 +60,9 @@ QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages);
 QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages);
 
 /// For each page of a document of so many, whether it is printed.
-QList<bool> printedPages(int pages, const WantedPages &choice);
+QList<bool> printedPages(int pages, const PageChoice &choice);
 /// How many pages of a document of so many are printed.
-int chosenPages(int pages, const WantedPages &choice);
+int chosenPages(int pages, const PageChoice &choice);
 
 /// Sheets of paper for one copy. Each document begins on a sheet of its own.
 /// Errors: nothing where a document could not be counted.

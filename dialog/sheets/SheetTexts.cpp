@@ -64,7 +64,7 @@ QString rangeText(const PageRange &range)
 }
 
 // A sentence on pages that are not there; empty when none are missing.
-QString beyondText(const DocumentSheets &document, const WantedPages &choice, bool isOnly)
+QString beyondText(const DocumentSheets &document, const PageChoice &choice, bool isOnly)
 {
     const QList<PageRange> beyond = rangesBeyond(rangesOf(choice.ranges), *document.pages);
     if (beyond.isEmpty())
@@ -78,7 +78,7 @@ QString beyondText(const DocumentSheets &document, const WantedPages &choice, bo
     return form.arg(hasPages(document, isOnly, At::Begin), joined(texts));
 }
 
-QString emptyText(const DocumentSheets &document, const WantedPages &choice, bool isOnly)
+QString emptyText(const DocumentSheets &document, const PageChoice &choice, bool isOnly)
 {
     const bool isInRanges = choice.ranges.isEmpty() ||
                             !rangesWithin(rangesOf(choice.ranges), *document.pages).isEmpty();
@@ -86,11 +86,11 @@ QString emptyText(const DocumentSheets &document, const WantedPages &choice, boo
         return beyondText(document, choice, isOnly);
     const QString has = hasPages(document, isOnly, At::Middle);
     switch (choice.set) {
-    case WantedPages::Set::Even:
+    case PageChoice::Set::Even:
         return Texts::tr("Nothing would be printed: %1, and only even pages were chosen.").arg(has);
-    case WantedPages::Set::Odd:
+    case PageChoice::Set::Odd:
         return Texts::tr("Nothing would be printed: %1, and only odd pages were chosen.").arg(has);
-    case WantedPages::Set::All:
+    case PageChoice::Set::All:
         break;
     }
     return Texts::tr("Nothing would be printed: %1, and none of them is left.").arg(has);
@@ -116,7 +116,7 @@ QString sizeName(QSizeF points)
 
 } // namespace
 
-QStringList emptyDocuments(const JobSheets &sheets, const WantedPages &choice)
+QStringList emptyDocuments(const JobSheets &sheets, const PageChoice &choice)
 {
     QStringList texts;
     for (const DocumentSheets &document : sheets.documents) {
@@ -126,7 +126,7 @@ QStringList emptyDocuments(const JobSheets &sheets, const WantedPages &choice)
     return texts;
 }
 
-QStringList missingPages(const JobSheets &sheets, const WantedPages &choice)
+QStringList missingPages(const JobSheets &sheets, const PageChoice &choice)
 {
     QStringList texts;
     for (const DocumentSheets &document : sheets.documents) {
@@ -157,7 +157,7 @@ QString oneSidedReason(const JobSheets &sheets)
     return Texts::tr("one-sided where a document has only one side: %1").arg(joined(titles));
 }
 
-QString countText(const JobSheets &sheets, const WantedPages &choice, int copies)
+QString countText(const JobSheets &sheets, const PageChoice &choice, int copies)
 {
     const std::optional<int> once = sheetsOfOneCopy(sheets);
     if (!once)
@@ -185,7 +185,7 @@ QString scaleText(const JobSheets &sheets)
     return joined(texts);
 }
 
-QList<SummaryLine> sheetLines(const JobSheets *sheets, const WantedPages &choice, int copies)
+QList<SummaryLine> sheetLines(const JobSheets *sheets, const PageChoice &choice, int copies)
 {
     if (!sheets)
         return {{Texts::tr("Sheets"), u"…"_s}};

@@ -51,7 +51,7 @@ QList<SummaryLine> PrintTask::withSheets(QList<SummaryLine> lines, const JobTick
 {
     const SheetRequest request = sheetRequest(ticket);
     const JobSheets *sheets = m_sheets.counted(request);
-    const QList<SummaryLine> more = sheetLines(sheets, wantedPages(request.options), ticket.copies);
+    const QList<SummaryLine> more = sheetLines(sheets, pageChoiceOf(request.options), ticket.copies);
     for (qsizetype i = 0; i < more.size(); ++i)
         lines.insert(std::min(lines.size(), i + 1), more.at(i));
     const QString reason = sheets ? oneSidedReason(*sheets) : QString();
@@ -86,7 +86,7 @@ void PrintTask::sheetsKnown()
     if (!isCounting())
         return Q_EMIT sheetsCounted();
     const SheetRequest request = sheetRequest(m_run.ticket);
-    const WantedPages choice = wantedPages(request.options);
+    const PageChoice choice = pageChoiceOf(request.options);
     const JobSheets *sheets = m_sheets.counted(request);
     if (m_request.summary)
         m_face.writeSummary(withSheets(m_run.lines, m_run.ticket));

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNoEnd = std::numeric_limits<int>::max();
-using Set = WantedPages::Set;
+using Set = PageChoice::Set;
 
 struct Ranges
 {
@@ -40,7 +40,7 @@ struct Chosen
 {
     const char *name;
     int pages;
-    WantedPages choice;
+    PageChoice choice;
     int count;
 };
 const Chosen kChosen[] = {
@@ -105,16 +105,6 @@ private Q_SLOTS:
             sheets.documents += DocumentSheets{u"a"_s, sides, sides};
         QCOMPARE(sheetsOfOneCopy(sheets), row.sheets);
         QCOMPARE(isUncounted(sheets), !row.sheets.has_value());
-    }
-
-    void theChoiceOfPagesIsReadFromTheJob()
-    {
-        const WantedPages choice = wantedPages({{u"page-set"_s, u"odd"_s},
-                                                {u"Duplex"_s, u"None"_s},
-                                                {u"number-up"_s, u"4"_s},
-                                                {u"page-ranges"_s, u"1-3"_s}});
-        QCOMPARE(choice, (WantedPages{u"1-3"_s, Set::Odd, true}));
-        QCOMPARE(wantedPages({}), WantedPages());
     }
 };
 

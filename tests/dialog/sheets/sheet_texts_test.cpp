@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Set = WantedPages::Set;
+using Set = PageChoice::Set;
 
 DocumentSheets document(int pages, int sides, const QString &title = u"a.pdf"_s)
 {
@@ -22,7 +22,7 @@ struct Empty
 {
     const char *name;
     QList<DocumentSheets> documents;
-    WantedPages choice;
+    PageChoice choice;
     QStringList texts;
 };
 const Empty kEmpty[] = {
@@ -59,7 +59,7 @@ struct Count
     const char *name;
     QList<DocumentSheets> documents;
     bool twoSided;
-    WantedPages choice;
+    PageChoice choice;
     int copies;
     QString text;
 };
