@@ -71,7 +71,7 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
+    countBeforeJob();
 }
 
 QList<JobOption> PrintTask::jobAttributes() const
@@ -108,14 +108,15 @@ std::optional<TaskRefusal> PrintTask::finish()
     if (m_phase != Phase::Asking)
         return std::nullopt;
     // Before the ticket: the panels restore and save on the way.
-    const QList<SummaryLine> lines = summary();
-    if (m_request.summary)
-        m_face.writeSummary(lines);
+    m_run.lines = summaryOfSettings();
     QStringList problems;
     const QList<Refusal> refusals = m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    // What is printed is counted first.
+    if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
+        m_face.writeSummary(m_run.lines);
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
 }
 
@@ -177,6 +178,8 @@ void PrintTask::startJob(const JobTicket &ticket)
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
+        const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
+        request.mayBeEmpty = !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
     }
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
@@ -192,6 +195,8 @@ void PrintTask::cancel()
 {
     if (m_phase != Phase::Printing)
         return;
+    if (isCounting())
+        return endCounting();
     // A server that does not answer has a few seconds to be told.
     enter(Phase::Canceling);
     m_run.job->cancel();
@@ -200,7 +205,7 @@ void PrintTask::cancel()
 void PrintTask::leave()
 {
     // What is being canceled is waited for: whether it still was in time has to be known.
-    if (m_phase != Phase::Printing || !m_run.job->isHandedOver())
+    if (m_phase != Phase::Printing || !isJobHandedOver())
         return;
     enter(Phase::Leaving);
     m_run.job->letGo();
@@ -210,8 +215,10 @@ void PrintTask::interrupt(OnInterrupt job)
 {
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
-    if (!m_run.job)
+    if (!m_run.job) {
+        m_sheets.cancel();
         return enter(Phase::Ended);
+    }
     if (job == OnInterrupt::LeaveJob)
         leave();
     if (m_phase == Phase::Leaving)

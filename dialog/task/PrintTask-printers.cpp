@@ -149,6 +149,7 @@ void PrintTask::proposeOutput()
 // The panels delete their views, so a face lets go of its pages only afterwards.
 void PrintTask::close()
 {
+    m_sheets.cancel();
     if (!m_opened)
         return;
     m_settings.leavePrinter();
@@ -192,7 +193,7 @@ void PrintTask::takeExpectedPrinter()
     if (m_chosen.deliberately || m_run.job || m_phase == Phase::Ended || !isUntouched())
         return;
     // The list may have nothing more to say afterwards.
-    if (m_face.userIsBusy() || m_phase == Phase::Asking) {
+    if (m_face.userIsBusy() || isPrinting()) {
         QTimer::singleShot(kPatience, this, &PrintTask::takeExpectedPrinter);
         return;
     }

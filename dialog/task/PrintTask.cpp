@@ -28,6 +28,7 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     if (m_request.credentials)
         m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
+    connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(
@@ -151,7 +152,7 @@ QStringList PrintTask::takeMostCopies()
     return {};
 }
 
-QList<SummaryLine> PrintTask::summary()
+QList<SummaryLine> PrintTask::summaryOfSettings()
 {
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(),
                           jobAttributes());

@@ -55,6 +55,8 @@ private:
     void showPanelViews();
     void addGeneral();
     void enter(int page);
+    void showSummary();
+    void showCountedSheets();
 
     PrintTask &m_task;
     GeneralPage *m_general = nullptr;

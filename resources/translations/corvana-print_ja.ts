@@ -1479,6 +1479,14 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>このコンピューターのどのフォントにも、テキスト中の次の文字がありません: %1。それぞれの代わりに空の枠が印刷されます。</translation>
     </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1591,6 +1599,10 @@ For the command line: %2</source>
     <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+<message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -1788,6 +1800,116 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>何も印刷されません。作成されたデータにページがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 ページ</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 枚</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>「%1」は %2です</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 以降</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>何も印刷されません。%1。偶数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>何も印刷されません。%1。奇数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>数えられませんでした</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 部 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 は %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>用紙の枚数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>存在しないページ</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>印刷される大きさ</translation>
     </message>
 </context>
 </TS>

@@ -1479,6 +1479,14 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
     </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1591,6 +1599,10 @@ For the command line: %2</source>
     <message>
         <source>All files (*)</source>
         <translation>所有文件 (*)</translation>
+    </message>
+<message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -1788,6 +1800,116 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>不会打印任何内容：生成的数据中没有页面。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 页</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 页</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 张</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 张</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>“%1”有 %2</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 及之后</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了偶数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了奇数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>将单面打印，因为只有一面要打印</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档将单面打印：%1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>无法计数</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 份 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 为 %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>纸张数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>不存在的页</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>打印大小</translation>
     </message>
 </context>
 </TS>
