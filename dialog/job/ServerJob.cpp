@@ -124,7 +124,7 @@ void ServerJob::convert()
 
 ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
 {
-    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppd->path};
     request.result = ConversionRequest::Result::Pdf;
     request.layout = pages;
     if (!m_request.chosenOptions.isEmpty())
@@ -134,7 +134,7 @@ ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
 
 ConversionRequest ServerJob::toRaster() const
 {
-    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppd->path};
     request.ticket.copies = 1; // the printer repeats them
     return request;
 }

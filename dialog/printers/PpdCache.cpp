@@ -29,7 +29,6 @@ constexpr QLatin1StringView kMakeAndModel = "makeAndModel"_L1;
 constexpr QLatin1StringView kUri = "uri"_L1;
 constexpr QLatin1StringView kDeviceUri = "deviceUri"_L1;
 constexpr QLatin1StringView kIsClass = "isClass"_L1;
-constexpr QLatin1StringView kLastModified = "lastModified"_L1;
 // Entries that have another name for it are of times when nobody looked at a PPD before it was
 // stored.
 constexpr QLatin1StringView kHash = "sha256"_L1;
@@ -86,8 +85,7 @@ QByteArray contentOf(const QString &path, qint64 most)
 bool isPpd(const QByteArray &content)
 {
     QString error;
-    const SharedPpd copy =
-        content.size() <= kLargestPpd ? temporaryPpd(content, 0, &error) : nullptr;
+    const SharedPpd copy = content.size() <= kLargestPpd ? temporaryPpd(content, &error) : nullptr;
     if (copy && openPpdFile(copy->path, &error))
         return true;
     qCWarning(lcPpdCache).noquote() << "What was fetched is no PPD and is not kept:" << error;
@@ -137,35 +135,35 @@ std::optional<FetchedPrinter> PpdCache::find(const QString &server, const QStrin
     printer.deviceUri = said.value(kDeviceUri).toString();
     printer.isClass = said.value(kIsClass).toBool();
     noteUse(path);
-    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(
-                                       PpdCopy{path, said.value(kLastModified).toInteger(), hash})};
+    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(PpdCopy{path, hash})};
 }
 
 SharedPpd PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                          qint64 lastModified) const
+                          const QByteArray &hash) const
 {
-    if (!isPpd(ppd))
-        return nullptr;
-    const QByteArray hash = hashOfPpd(ppd);
     const QString path = pathOf(server, printer.name, ppdSuffix(hash));
+    // What lies there already was opened before it was stored.
+    const bool isThere = !ppd.isEmpty() && contentOf(path, kLargestPpd) == ppd;
+    if (!isThere && !isPpd(ppd))
+        return nullptr;
     if (!QDir().mkpath(QFileInfo(path).path()))
         return nullptr;
     // Where a printer stands, and how it is reached, is nobody else's business.
     QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QJsonObject said{
-        {kDescription, printer.description},   {kLocation, printer.location},
-        {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
-        {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
-        {kLastModified, lastModified},         {kHash, QString::fromLatin1(hash)}};
-    const bool isThere = contentOf(path, kLargestPpd) == ppd;
+    const QJsonObject said{{kDescription, printer.description},   {kLocation, printer.location},
+                           {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
+                           {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
+                           {kHash, QString::fromLatin1(hash)}};
     if (isThere)
         noteUse(path);
     if (!isThere && !save(path, ppd))
         return nullptr;
-    if (!save(pathOf(server, printer.name, kEntrySuffix), QJsonDocument(said).toJson()))
+    const QString entry = pathOf(server, printer.name, kEntrySuffix);
+    const QByteArray text = QJsonDocument(said).toJson();
+    if (contentOf(entry, kLargestDescription) != text && !save(entry, text))
         return nullptr;
     removeFormerPpds(server, printer.name, path);
-    return std::make_shared<const PpdCopy>(PpdCopy{path, lastModified, hash});
+    return std::make_shared<const PpdCopy>(PpdCopy{path, hash});
 }
 
 void PpdCache::remove(const QString &server, const QString &queue) const

@@ -20,31 +20,28 @@ struct Texts
 FetchedPrinter withWrittenPpd(const Printer &printer, const PrinterCapabilities &capabilities,
                               QString *error)
 {
-    return {printer, temporaryPpd(ppdOfCapabilities(capabilities), 0, error),
+    return {printer, writtenPpd(ppdOfCapabilities(capabilities), error),
             std::make_shared<const PrinterCapabilities>(capabilities)};
 }
 
 SharedPpd keptPpd(const QueueDetails &details, const PpdCache &cache, const ServerAddress &server,
                   QString *error)
 {
-    SharedPpd kept =
-        cache.store(server.argument(), details.printer, details.ppd, details.lastModified);
+    SharedPpd kept = cache.store(server.argument(), details.printer, details.ppd, details.ppdHash);
     // Without a cache it works as well, only not while the server is away.
-    return kept ? kept : temporaryPpd(details.ppd, details.lastModified, error);
+    return kept ? kept : temporaryPpd(details.ppd, error);
 }
 
 } // namespace
 
-FetchedPrinter fetchedPrinter(const QueueDetails &details, const SharedPpd &known,
-                              const PpdCache &cache, const ServerAddress &server, QString *error)
+FetchedPrinter fetchedPrinter(const QueueDetails &details, const PpdCache &cache,
+                              const ServerAddress &server, QString *error)
 {
     switch (details.state) {
     case QueueDetails::Ppd::None:
         return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()), error);
-    case QueueDetails::Ppd::New:
+    case QueueDetails::Ppd::Read:
         return {details.printer, keptPpd(details, cache, server, error)};
-    case QueueDetails::Ppd::Unchanged:
-        return {details.printer, known};
     case QueueDetails::Ppd::Unknown:
         break;
     }

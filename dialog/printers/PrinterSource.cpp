@@ -51,7 +51,7 @@ QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &serv
 bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
 {
     QString error;
-    const SharedPpd copy = temporaryPpd(details.ppd, 0, &error);
+    const SharedPpd copy = temporaryPpd(details.ppd, &error);
     const PpdFile ppd = copy ? openPpdFile(copy->path, &error) : nullptr;
     return ppd && decidePanels(ppd.get(), details.printer, bundleRoots).panels;
 }
@@ -120,8 +120,8 @@ Printer PrinterSource::first()
     Printer printer = queueNamed(name, &m_deviceServer.address);
     if (printer.origin == PrinterOrigin::Device)
         return printer;
-    const auto cached = m_cache.find(m_queues.context().address.argument(), name);
-    return cached ? cached->printer : printer;
+    m_first = m_cache.find(m_queues.context().address.argument(), name);
+    return m_first ? m_first->printer : printer;
 }
 
 const ServerContext &PrinterSource::serverOf(const Printer &printer) const
@@ -153,12 +153,9 @@ void PrinterSource::openWanted()
     });
 }
 
-// What is in the cache only spares the way of options that have not changed.
 void PrinterSource::openFresh(const QString &name)
 {
     reset(queueNamed(name, &m_deviceServer.address));
-    if (const auto cached = m_cache.find(m_queues.context().address.argument(), name))
-        m_known = cached->ppd;
     inspect(true);
 }
 
@@ -167,7 +164,6 @@ void PrinterSource::reset(const Printer &printer)
 {
     m_inspection = {};
     m_open = {printer};
-    m_known = nullptr;
     m_inspecting = false;
     m_inspectionFailed = false;
     m_configured = 0;
@@ -186,13 +182,21 @@ void PrinterSource::open(const Printer &printer)
         return;
     }
     if (printer.origin == PrinterOrigin::Queue) {
-        const QString server = m_queues.context().address.argument();
-        if (const auto cached = m_cache.find(server, printer.name)) {
-            m_open.ppd = m_known = cached->ppd;
+        if (const auto cached = kept(printer)) {
+            m_open.ppd = cached->ppd;
             Q_EMIT ready(FetchedPrinter(m_open));
         }
     }
     inspect(false);
+}
+
+// As the printer was when it was used last. The one that first() has found is not read once more.
+std::optional<FetchedPrinter> PrinterSource::kept(const Printer &printer)
+{
+    const auto first = std::exchange(m_first, std::nullopt);
+    if (first && first->printer.name == printer.name)
+        return first;
+    return m_cache.find(m_queues.context().address.argument(), printer.name);
 }
 
 void PrinterSource::retry()
@@ -206,12 +210,10 @@ void PrinterSource::inspect(bool mayAsk)
     ServerContext server = serverOf(m_open.printer);
     server.mayAsk = mayAsk;
     m_inspecting = true;
-    const qint64 since = m_known ? m_known->lastModified : 0;
-    m_inspection =
-        ServerWork(server, [this, printer = m_open.printer, since](ServerWorker &worker) {
-            const QueueDetails details = inspectQueue(worker.connection(), printer, since);
-            worker.post([this, details] { inspected(details); });
-        });
+    m_inspection = ServerWork(server, [this, printer = m_open.printer](ServerWorker &worker) {
+        const QueueDetails details = inspectQueue(worker.connection(), printer);
+        worker.post([this, details] { inspected(details); });
+    });
 }
 
 void PrinterSource::inspected(const QueueDetails &details)
@@ -230,17 +232,15 @@ void PrinterSource::inspected(const QueueDetails &details)
         return;
     }
     QString error;
-    FetchedPrinter now =
-        fetchedPrinter(details, m_known, m_cache, serverOf(m_open.printer).address, &error);
+    FetchedPrinter now = fetchedPrinter(details, m_cache, serverOf(m_open.printer).address, &error);
     if (!now.ppd) {
         Q_EMIT failed(error, error);
         return;
     }
     const bool same = m_open.ppd && now.ppd->hash == m_open.ppd->hash;
     if (same) // written anew or not, it is open where it was
-        now.ppd = withDate(m_open.ppd, details.lastModified);
+        now.ppd = m_open.ppd;
     m_open = now;
-    m_known = now.ppd;
     m_configured = details.printer.configured;
     m_lacksPpd = details.state == QueueDetails::Ppd::None;
     if (m_lacksPpd) // any more: it would be opened with the one that it had
@@ -274,8 +274,8 @@ void PrinterSource::lookForBetterQueue()
     m_lacksPpd = false; // once is enough
     m_comparison = ServerWork(m_queues.context(), [this, twins](ServerWorker &worker) {
         for (const Printer &twin : twins) {
-            const QueueDetails details = inspectQueue(worker.connection(), twin, 0);
-            if (details.state == QueueDetails::Ppd::New)
+            const QueueDetails details = inspectQueue(worker.connection(), twin);
+            if (details.state == QueueDetails::Ppd::Read)
                 worker.post([this, details] { compareWith(details); });
         }
     });

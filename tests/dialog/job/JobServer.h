@@ -15,6 +15,9 @@ namespace corvana::test {
 inline constexpr int kJob = 8;
 inline constexpr int kEarlierJob = 7;
 
+/// The PPD of the queue, where its server says that it has one.
+inline constexpr auto kServersPpd = "*PPD-Adobe: \"4.3\"\n";
+
 /// What a server says of a job.
 struct SaidOfJob
 {
@@ -64,7 +67,7 @@ public:
     void forgetTheQueue() { m_knowsQueue = false; }
     void setPpdStatus(int status) { m_ppdStatus = status; }
 
-    /// Prints a document on its queue. The server may not ask for a password.
+    /// Prints a document on its queue, which has no PPD. The server may not ask for a password.
     ServerJobRequest request(const Document &document) const;
     quint16 port() const { return m_server.port(); }
     /// Whether a worker is still there.

@@ -148,7 +148,6 @@ private Q_SLOTS:
         open(request());
         task().propose(u"Tray"_s, u"Lower"_s);
         QCOMPARE(task().settings().copies(), 3);
-        QTest::qWait(1100); // servers date what they have in whole seconds
         m_cups->addQueue(u"office"_s,
                          ppd(officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}})));
         task().retry();
@@ -210,6 +209,31 @@ private Q_SLOTS:
             QCOMPARE(m_cups->jobs().size(), jobs.at(i));
             QCOMPARE(task().phase(), Phase::Ready);
         }
+    }
+
+    // What is opened here is compared with what its server has at the moment of printing.
+    void whatWasOpenedIsNotPrintedWithAnotherPpdWhateverItsDate()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        const QString path = m_cups->folder() + u"/etc/ppd/office.ppd"_s;
+        const auto date = QFileInfo(path).lastModified();
+        open(request());
+        const PpdBuilder other =
+            officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}});
+        writeFile(path, other.text());
+        QFile changed(path);
+        QVERIFY(changed.open(QIODevice::ReadWrite) &&
+                changed.setFileTime(date, QFileDevice::FileModificationTime));
+        changed.close();
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, Kind::PrinterChanged);
+        QVERIFY(m_cups->jobs().isEmpty());
+        // It has been opened anew by then, and prints.
+        QTRY_VERIFY_WITH_TIMEOUT(task().phase() == Phase::Opened, kPatience);
+        task().bringUp();
+        QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, Kind::Printed);
     }
 
     void aFaceThatDoesNotWantToWaitIsDoneWhenTheQueueHasTheJob()
