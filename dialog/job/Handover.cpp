@@ -58,7 +58,7 @@ public:
              const std::function<void(const JobProgress &)> &report)
         : m_worker(worker), m_request(request), m_document(document), m_report(report),
           m_connection(&worker.connection()), m_logIn(worker, request.printer),
-          m_outcomes(request.printer)
+          m_outcomes(request.printer, request.mayBeEmpty)
     {
     }
 

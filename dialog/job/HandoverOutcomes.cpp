@@ -191,6 +191,11 @@ JobOutcome HandoverOutcomes::inQueue(const JobProgress &progress) const
 
 JobOutcome HandoverOutcomes::ended(const JobStatus &status, bool canceledHere) const
 {
+    if (status.state == IPP_JSTATE_COMPLETED && m_mayBeEmpty)
+        return outcome(Kind::Sent,
+                       Texts::tr("Sent to “%1” as job %2. Whether anything was on its pages is not "
+                                 "known.")
+                           .arg(m_printer.name, name()));
     if (status.state == IPP_JSTATE_COMPLETED)
         return outcome(Kind::Printed,
                        Texts::tr("Printed on “%1” as job %2.").arg(m_printer.name, name()));

@@ -14,8 +14,12 @@ namespace corvana {
 class HandoverOutcomes
 {
 public:
+    /// `mayBeEmpty`: nobody could count the pages of the job.
     /// Ownership: the printer is borrowed.
-    explicit HandoverOutcomes(const Printer &printer) : m_printer(printer) {}
+    explicit HandoverOutcomes(const Printer &printer, bool mayBeEmpty = false)
+        : m_printer(printer), m_mayBeEmpty(mayBeEmpty)
+    {
+    }
 
     /// The number of the job at its server, once it has one.
     void setJob(int job) { m_job = job; }
@@ -64,6 +68,7 @@ private:
     QString name() const { return jobName(m_printer, m_job); }
 
     const Printer &m_printer;
+    bool m_mayBeEmpty = false;
     int m_job = 0;
 };
 

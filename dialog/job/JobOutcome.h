@@ -8,7 +8,10 @@ namespace corvana {
 struct JobOutcome
 {
     enum class Kind {
-        Printed,      ///< the server says that it is complete, or the file has its name
+        Printed, ///< the server says that it is complete, or the file has its name
+        /// The server says that it is complete, but nobody could count its pages: not even an empty
+        /// one would have been noticed.
+        Sent,
         InQueue,      ///< the server has all of it and will print it; `text` says what it waits for
         Stopped,      ///< the server has all of it, and prints it when somebody releases it
         Failed,       ///< it will not be printed
@@ -25,7 +28,10 @@ struct JobOutcome
 
     bool operator==(const JobOutcome &) const = default;
     /// Whether the server has the job, or the file is there, for the exit status.
-    bool isDone() const { return kind == Kind::Printed || kind == Kind::InQueue; }
+    bool isDone() const
+    {
+        return kind == Kind::Printed || kind == Kind::Sent || kind == Kind::InQueue;
+    }
 };
 
 } // namespace corvana

@@ -198,6 +198,7 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
     if (outcome.kind == Kind::PrinterChanged)
         m_source.retry();
     const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed ||
+                      outcome.kind == Kind::Sent ||
                       (outcome.kind == Kind::InQueue && m_request.noWait);
     enter(ends ? Phase::Ended : Phase::Ready);
     Q_EMIT jobEnded(outcome);

@@ -670,6 +670,10 @@
         <translation>ジョブ %1 はすべて送信されました。%2そのため、印刷されたかどうかはわかりません。</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
+        <translation>「%1」にジョブ %2 として送信しました。ページに何か印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>「%1」でジョブ %2 として印刷しました。</translation>
     </message>

@@ -670,6 +670,10 @@
         <translation>作业 %1 已完整发送。%2因此不知道是否已打印。</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
+        <translation>已作为作业 %2 发送到“%1”。不知道页面上是否有内容。</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>已在“%1”上作为作业 %2 打印。</translation>
     </message>

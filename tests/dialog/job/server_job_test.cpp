@@ -167,6 +167,18 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
     }
 
+    void aJobWhosePagesNobodyCountedIsSentAndNeverPrinted()
+    {
+        m_request.mayBeEmpty = true;
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Sent);
+        QVERIFY(outcome.isDone());
+        QVERIFY2(outcome.text.startsWith(u"Sent to “office” as job office-8."_s),
+                 qPrintable(outcome.text));
+        m_server->say({{IPP_JSTATE_ABORTED}});
+        QCOMPARE(print().kind, Kind::Failed);
+    }
+
     void anEarlierTryIsNotRepeatedByAccident_data() { addRows(kEarlierTries); }
     void anEarlierTryIsNotRepeatedByAccident()
     {
