@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
@@ -33,6 +34,8 @@ constexpr QLatin1StringView kIsClass = "isClass"_L1;
 // stored.
 constexpr QLatin1StringView kHash = "sha256"_L1;
 
+constexpr QLatin1StringView kDefaults = "defaults"_L1;
+
 constexpr QLatin1StringView kEntrySuffix = ".json"_L1;
 // Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
 constexpr qsizetype kHashInName = 16;
@@ -60,6 +63,27 @@ bool isHash(const QByteArray &text)
 QString ppdSuffix(const QByteArray &hash)
 {
     return u"-%1.ppd"_s.arg(QLatin1StringView(hash.first(qMin(kHashInName, hash.size()))));
+}
+
+// In the order in which they apply, each as [name, value].
+QJsonArray toJson(const QList<JobOption> &options)
+{
+    QJsonArray array;
+    for (const JobOption &option : options)
+        array += QJsonArray{option.name, option.value};
+    return array;
+}
+
+QList<JobOption> fromJson(const QJsonArray &array)
+{
+    QList<JobOption> options;
+    for (const QJsonValue &value : array) {
+        const QJsonArray pair = value.toArray();
+        const JobOption option{pair.at(0).toString(), pair.at(1).toString()};
+        if (!option.name.isEmpty() && !option.value.isEmpty())
+            options += option;
+    }
+    return options;
 }
 
 bool save(const QString &path, const QByteArray &content)
@@ -135,12 +159,15 @@ std::optional<FetchedPrinter> PpdCache::find(const QString &server, const QStrin
     printer.deviceUri = said.value(kDeviceUri).toString();
     printer.isClass = said.value(kIsClass).toBool();
     noteUse(path);
-    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(PpdCopy{path, hash})};
+    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(PpdCopy{path, hash}),
+                          fromJson(said.value(kDefaults).toArray())};
 }
 
-SharedPpd PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                          const QByteArray &hash) const
+SharedPpd PpdCache::store(const QString &server, const QueueDetails &details) const
 {
+    const Printer &printer = details.printer;
+    const QByteArray &ppd = details.ppd;
+    const QByteArray &hash = details.ppdHash;
     const QString path = pathOf(server, printer.name, ppdSuffix(hash));
     // What lies there already was opened before it was stored.
     const bool isThere = !ppd.isEmpty() && contentOf(path, kLargestPpd) == ppd;
@@ -150,10 +177,11 @@ SharedPpd PpdCache::store(const QString &server, const Printer &printer, const Q
         return nullptr;
     // Where a printer stands, and how it is reached, is nobody else's business.
     QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QJsonObject said{{kDescription, printer.description},   {kLocation, printer.location},
-                           {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
-                           {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
-                           {kHash, QString::fromLatin1(hash)}};
+    const QJsonObject said{
+        {kDescription, printer.description},   {kLocation, printer.location},
+        {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
+        {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
+        {kHash, QString::fromLatin1(hash)},    {kDefaults, toJson(details.defaults)}};
     if (isThere)
         noteUse(path);
     if (!isThere && !save(path, ppd))

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "dialog/printers/FetchedPrinter.h"
+#include "dialog/printers/QueueRequests.h"
 
 namespace corvana {
 
@@ -27,10 +28,8 @@ public:
     /// PPD is not the one that was stored is dropped, so that the server is asked for a whole one.
     std::optional<FetchedPrinter> find(const QString &server, const QString &queue) const;
 
-    /// Keeps a PPD that opens; `hash` is its digest. Errors: null; the queue then works from
-    /// wherever its PPD is.
-    SharedPpd store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                    const QByteArray &hash) const;
+    /// Keeps a queue whose PPD opens. Errors: null; the queue then works from wherever its PPD is.
+    SharedPpd store(const QString &server, const QueueDetails &details) const;
     void remove(const QString &server, const QString &queue) const;
 
 private:

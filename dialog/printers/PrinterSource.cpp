@@ -184,6 +184,7 @@ void PrinterSource::open(const Printer &printer)
     if (printer.origin == PrinterOrigin::Queue) {
         if (const auto cached = kept(printer)) {
             m_open.ppd = cached->ppd;
+            m_open.defaults = cached->defaults;
             Q_EMIT ready(FetchedPrinter(m_open));
         }
     }
@@ -240,12 +241,14 @@ void PrinterSource::inspected(const QueueDetails &details)
     const bool same = m_open.ppd && now.ppd->hash == m_open.ppd->hash;
     if (same) // written anew or not, it is open where it was
         now.ppd = m_open.ppd;
+    // Where a task starts from is another place, if nobody has gone on from there.
+    const bool startsAsBefore = same && now.defaults == m_open.defaults;
     m_open = now;
     m_configured = details.printer.configured;
     m_lacksPpd = details.state == QueueDetails::Ppd::None;
     if (m_lacksPpd) // any more: it would be opened with the one that it had
         m_cache.remove(m_queues.context().address.argument(), m_open.printer.name);
-    if (same)
+    if (startsAsBefore)
         Q_EMIT checked(now);
     else
         Q_EMIT ready(now);

@@ -76,7 +76,8 @@ public:
 Q_SIGNALS:
     /// printers() or the state of the list.
     void listChanged();
-    /// The printer can be opened, or has to be opened anew because its options are others now.
+    /// The printer can be opened, or has to be opened anew because its options are others now, or
+    /// its queue's own defaults.
     void ready(const corvana::FetchedPrinter &printer);
     /// What its server says of the printer that is open, whose options are as they were: its PPD
     /// lies where it lay.

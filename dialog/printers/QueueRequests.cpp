@@ -4,6 +4,7 @@
 
 #include <QSet>
 
+#include "dialog/driverless/QueueDefaults.h"
 #include "dialog/printers/PpdCopy.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueues.h"
@@ -224,6 +225,7 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer)
         details.state = QueueDetails::Ppd::None;
         return details;
     }
+    details.defaults = queueDefaults(response.get());
     fetchPpd(connection, now.isClass ? firstMember(response.get()) : queueOfInstance(printer.name),
              &details);
     return details;

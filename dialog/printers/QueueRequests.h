@@ -7,6 +7,7 @@
 
 #include "dialog/printers/Printer.h"
 #include "dialog/server/ServerConnection.h"
+#include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
 
@@ -38,6 +39,7 @@ struct QueueDetails
     QByteArray ppd{};
     QByteArray ppdHash{}; ///< see hashOfPpd()
     std::shared_ptr<ipp_t> attributes{};
+    QList<JobOption> defaults{}; ///< see queueDefaults(); none of a device
     ServerProblem problem{};
 };
 

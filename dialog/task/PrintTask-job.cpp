@@ -9,8 +9,10 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
+#include "dialog/task/StartValues.h"
 
 namespace corvana {
 
@@ -60,7 +62,9 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
+    startJob(passesFilesOn()
+                 ? ticketOfPassedOn(jobAttributes(), m_request.title, m_settings.copies())
+                 : makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
 }
 
 QList<JobOption> PrintTask::jobAttributes() const
@@ -68,7 +72,7 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
-    return settings.attributes();
+    return withAnswersToDefaults(settings.attributes(), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -88,7 +92,15 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
-    if (!m_request.documents.isEmpty()) {
+    if (passesFilesOn()) {
+        QList<JobOption> asked = m_settings.attributes();
+        const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
+        if (!problems.isEmpty())
+            return TaskRefusal{problems,
+                               m_settings.pageRanges().isEmpty() ? Place::Nowhere : Place::Pages};
+        if (printsToFile())
+            return TaskRefusal{{tr("What is passed on as it is cannot be printed to a file.")}};
+    } else if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
             return refusal;
     }
@@ -134,6 +146,11 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        request.mayBeEmpty = passesFilesOn();
+        if (m_settings.attributes().contains(kRaw)) {
+            for (Document &document : request.documents)
+                document.format = kRawFormat;
+        }
         request.earlierJob = m_memory.value(idOf(m_chosen.printer)).earlierJob;
         m_run.job = std::make_unique<ServerJob>(request);
     }

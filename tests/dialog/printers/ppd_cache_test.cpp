@@ -81,6 +81,7 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_cache = PpdCache(m_folder->filePath(u"a/queues"_s));
+        m_defaults = {};
     }
 
     void whatWasKeptComesBackButForTheState()
@@ -97,6 +98,16 @@ private Q_SLOTS:
         QCOMPARE(entry->ppd->path, path);
         QCOMPARE(entry->printer, expected);
         QCOMPARE(entry->ppd->hash, hashOfPpd(kPpd));
+    }
+
+    void theDefaultsOfAQueueAreKeptInTheirOrderAndReplaced()
+    {
+        m_defaults = {{u"number-up"_s, u"2"_s}, {u"job-sheets"_s, u"standard,none"_s}};
+        keep(queueOf(u"office"_s), kPpd);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->defaults, m_defaults);
+        m_defaults = {};
+        keep(queueOf(u"office"_s), kPpd);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->defaults, m_defaults);
     }
 
     void namesOfAnyKindStayWithinTheFolder_data()
@@ -325,10 +336,13 @@ private Q_SLOTS:
 private:
     SharedPpd keep(const Printer &printer, const QByteArray &ppd, const QString &server = kServer)
     {
-        return m_cache.store(server, printer, ppd, hashOfPpd(ppd));
+        QueueDetails details{printer, QueueDetails::Ppd::Read, ppd, hashOfPpd(ppd)};
+        details.defaults = m_defaults;
+        return m_cache.store(server, details);
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
+    QList<JobOption> m_defaults;
     PpdCache m_cache{QString()};
 };
 
