@@ -34,6 +34,11 @@ const QList<const char *> kListed{"printer-name",
                                   "printer-config-change-time",
                                   "auth-info-required"};
 
+// Without a PPD; sizes and margins of papers come only by their name.
+const QList<const char *> kWhatAPrinterCan{"all", "media-col-database"};
+// With any other name beside it, cupsd leaves out the defaults that an administrator has made up.
+const QList<const char *> kEverythingOfAQueue{"all"};
+
 PrinterState stateOf(int value)
 {
     switch (value) {
@@ -196,8 +201,9 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer)
 {
     QueueDetails details;
     details.printer = printer;
+    const bool isDevice = printer.origin == PrinterOrigin::Device;
     const std::shared_ptr<ipp_t> response =
-        askPrinter(connection, printer, {"all", "media-col-database"});
+        askPrinter(connection, printer, isDevice ? kWhatAPrinterCan : kEverythingOfAQueue);
     if (!response) {
         details.problem = connection.problem();
         return details;
@@ -221,13 +227,19 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer)
     if (now.description.isEmpty())
         now.description = printer.description.isEmpty() ? printer.name : printer.description;
     details.printer = now;
-    if (printer.origin == PrinterOrigin::Device) {
+    if (isDevice) {
         details.state = QueueDetails::Ppd::None;
         return details;
     }
     details.defaults = queueDefaults(response.get());
     fetchPpd(connection, now.isClass ? firstMember(response.get()) : queueOfInstance(printer.name),
              &details);
+    if (details.state == QueueDetails::Ppd::None && !isRawQueue(response.get()))
+        details.attributes = askPrinter(connection, printer, kWhatAPrinterCan);
+    if (!details.attributes) {
+        details.state = QueueDetails::Ppd::Unknown;
+        details.problem = connection.problem();
+    }
     return details;
 }
 

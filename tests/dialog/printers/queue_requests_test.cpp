@@ -237,7 +237,14 @@ private Q_SLOTS:
         QCOMPARE(details.state, state);
         QCOMPARE(server.requests().constFirst().head.path,
                  QByteArray(printer.uri.toUtf8()).remove(0, qstrlen("ipp://localhost")));
-        QCOMPARE(server.requests().constLast().head.path, path);
+        QCOMPARE(server.requests().at(1).head.path, path);
+        // Only of a queue without a PPD it is asked what its printer can do.
+        QCOMPARE(server.requests().size(), state == QueueDetails::Ppd::None ? 3 : 2);
+        QCOMPARE(server.requests()
+                     .constLast()
+                     .values("requested-attributes")
+                     .contains("media-col-database"_L1),
+                 state == QueueDetails::Ppd::None);
         QCOMPARE(details.printer.name, name); // as the dialog knows it
         QCOMPARE(details.printer.uri, printer.uri);
         QCOMPARE(details.printer.description, u"Hall"_s);
