@@ -299,6 +299,25 @@
     </message>
 </context>
 <context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>キュー「%1」はファイルをそのまま渡します。%2 は実行できません。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>「raw」ではファイルがそのまま渡されます。%1 は実行できません。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>そのまま渡されます</translation>
+    </message>
+</context>
+<context>
     <name>PpdCopy</name>
     <message>
         <source>The printer&apos;s options cannot be written to %1: %2</source>
@@ -852,8 +871,16 @@
 <context>
     <name>StartValues</name>
     <message>
-        <source>This printer has no option of the name %1.</source>
+        <source>This printer has no option of this name: %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>キュー「%1」の既定値: %2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
     </message>
 </context>
 <context>
@@ -1268,6 +1295,16 @@ For the command line: %2</source>
     <message>
         <source>“%1” has nothing to show.</source>
         <translation>「%1」には表示するものがありません。</translation>
+    </message>
+    <message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>そのまま渡される文書はファイルに印刷できません。</translation>
+    </message>
+    <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>このプリンターに設定されている内容の一部は使用できませんでした:
+%1</translation>
     </message>
 </context>
 <context>
