@@ -98,8 +98,6 @@ OptionOutcome applyUsersOptions(QList<JobOption> options, OpenedPrinter &printer
     if (!unknown.isEmpty())
         outcome.problems.prepend(
             Texts::tr("This printer has no option of this name: %1.").arg(unknown.join(u", "_s)));
-    for (QString &problem : outcome.problems)
-        problem.prepend("lpoptions: "_L1);
     return outcome;
 }
 
@@ -220,8 +218,14 @@ bool areMarked(const QList<JobOption> &choices, const PpdSession &session)
 
 // What a job says to a default of its queue that it does not name. Nothing where it says it by
 // choices alone.
-QList<JobOption> answerTo(const JobOption &option, const OpenedPrinter &printer)
+QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attributes,
+                          const OpenedPrinter &printer)
 {
+    const JobOption inOne = inOneSpelling(option);
+    // The job says the same in the other spelling, or says otherwise. Such an option is on or off.
+    if (inOne.name != option.name)
+        return attributes.contains(inOne) ? QList<JobOption>()
+                                          : QList{JobOption{option.name, u"false"_s}};
     const QString usual = usualValue(option.name);
     const QList<JobOption> choices = choicesOf(option, printer);
     // Where no value asks for nothing, the server's own stays.
@@ -259,6 +263,10 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
         const OptionOutcome taken =
             isRefused ? OptionOutcome() : applyLayer(layer, options.at(i), printer);
         problems += taken.problems;
+        if (layer.by == By::UserQueues) {
+            for (QString &problem : problems)
+                problem.prepend("lpoptions: "_L1);
+        }
         settings.addAttributes(taken.attributes);
         if (taken.copies)
             settings.askForCopies(*taken.copies, layer.by);
@@ -275,7 +283,7 @@ QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
         return all;
     for (const JobOption &option : printer.fetched.defaults) {
         if (!isNamed(attributes, option.name) && !isSaidByTheJob(option, printer))
-            all += answerTo(option, printer);
+            all += answerTo(option, attributes, printer);
     }
     return all;
 }

@@ -211,6 +211,10 @@ private Q_SLOTS:
         row("cover sheets", u"job-sheets=standard,none"_s, {}, u"job-sheets=none"_s);
         row("colours", u"print-color-mode=monochrome"_s, {}, u"print-color-mode=color"_s);
         row("pages", u"page-ranges=1-2"_s, {}, u"page-ranges=1-"_s);
+        row("another spelling", u"landscape=true"_s, u"orientation-requested=4"_s,
+            u"orientation-requested=4"_s);
+        row("another spelling of something else", u"landscape=true"_s, u"orientation-requested=3"_s,
+            u"orientation-requested=3 landscape=false"_s);
         row("what nothing can be said against", u"Sparkle=bright"_s, {}, u"Sparkle=bright"_s);
         row("a choice of the PPD", u"Media=Card"_s, {}, {});
         row("what is a choice of the PPD", u"sides=two-sided-long-edge"_s, {}, {});
