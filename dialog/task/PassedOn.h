@@ -13,8 +13,6 @@ struct SummaryLine;
 /// "-o raw": the documents reach the printer as they are, past all filters. Kept among the
 /// attributes of a job; no server gets it.
 extern const JobOption kRaw;
-/// The format of documents that a server hands on past all filters.
-inline constexpr QLatin1StringView kRawFormat{"application/vnd.cups-raw"};
 
 /// Whether the queue of a printer does nothing to documents: so everything that is done to pages,
 /// or is said to the printer in front of them, is left out there.
