@@ -190,7 +190,8 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
     Q_EMIT unsaid();
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
-    if (result.outcome != ChangeResult::Outcome::Conflict)
+    if (result.outcome != ChangeResult::Outcome::Conflict &&
+        result.outcome != ChangeResult::Outcome::NotMarked)
         return; // taken; or no choice of this printer, which the session has logged
     sayRefusal({{keyword, choice}, result.conflicting});
     showSettings(); // the page shows what the user picked

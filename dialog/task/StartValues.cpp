@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "dialog/printers/UserQueues.h"
+#include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -175,37 +176,12 @@ QString usualValue(const QString &name)
     return attribute ? QString(attribute->usual) : QString();
 }
 
-// The choices that CUPS makes of an attribute.
-QList<JobOption> choicesByCups(ppd_file_t *ppd, const JobOption &attribute)
-{
-    while (auto *choice = static_cast<ppd_choice_t *>(cupsArrayFirst(ppd->marked))) {
-        choice->marked = 0;
-        cupsArrayRemove(ppd->marked, choice);
-    }
-    cups_option_t *option = nullptr;
-    const int count = cupsAddOption(attribute.name.toUtf8().constData(),
-                                    attribute.value.toUtf8().constData(), 0, &option);
-    cupsMarkOptions(ppd, count, option);
-    cupsFreeOptions(count, option);
-    QList<JobOption> choices;
-    for (auto *choice = static_cast<ppd_choice_t *>(cupsArrayFirst(ppd->marked)); choice;
-         choice = static_cast<ppd_choice_t *>(cupsArrayNext(ppd->marked)))
-        choices += JobOption{ppdKeyword(choice->option->keyword), ppdKeyword(choice->choice)};
-    return choices;
-}
-
-// The choices that a default of the queue stands for, and that its usual value does not.
+// The choices that a default of the queue stands for.
 QList<JobOption> choicesOf(const JobOption &option, const OpenedPrinter &printer)
 {
-    QString error;
-    const PpdFile ppd = openPpdFile(printer.fetched.ppd->path, &error);
-    if (!ppd)
+    if (!AttributeReader::isFor(option.name))
         return {};
-    // libcups marks a quality along with a colour mode; it is none of that mode's.
-    const QList<JobOption> usual = choicesByCups(ppd.get(), {option.name, usualValue(option.name)});
-    QList<JobOption> choices = choicesByCups(ppd.get(), option);
-    choices.removeIf([&](const JobOption &choice) { return usual.contains(choice); });
-    return choices;
+    return AttributeReader(printer.session->ppd(), printer.jobValues).read(option).choices;
 }
 
 bool areMarked(const QList<JobOption> &choices, const PpdSession &session)

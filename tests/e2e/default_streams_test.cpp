@@ -58,6 +58,8 @@ struct DefaultRun
     const char *marker = ""; // in what the printer gets
     /// lp takes what a server says of the PPD for the queue's own default, where it says both.
     bool isAsWithLp = true;
+    /// What lp has to be told besides: it does not know the options of these printers.
+    const char *toLp = nullptr;
 };
 
 constexpr DefaultRun kDefaults[] = {
@@ -67,7 +69,10 @@ constexpr DefaultRun kDefaults[] = {
      2},
     {"no cover sheet after all", "job-sheets-default=standard,none", "job-sheets=none",
      "Banner Pages: none"},
-    {"black and white", "print-color-mode-default=monochrome", nullptr, "monochrome"},
+    {"black and white", "print-color-mode-default=monochrome", nullptr, "Color Mode: ", 1,
+     "CorvanaOption(QXMonoColor=Mono)", true, "QXMonoColor=Mono"},
+    {"colours after all", "print-color-mode-default=monochrome", "print-color-mode=color",
+     "Color Mode: ", 1, "CorvanaOption(QXMonoColor=Color)", true, "QXMonoColor=Color"},
     {"both sides", "sides-default=two-sided-long-edge", nullptr, "Long-Edge", 1,
      "CorvanaOption(Duplex=DuplexNoTumble)", false},
     {"one side after all", "sides-default=two-sided-long-edge", "sides=one-sided", "Two-Sided", 1,
@@ -128,6 +133,8 @@ private Q_SLOTS:
         const QByteArray ours = lastStream();
         QCOMPARE(ours.count("%!PS-Adobe-3.0"), qsizetype(row.streams));
         QVERIFY2(ours.contains(row.marker), row.marker);
+        if (row.toLp)
+            arguments += {u"-o"_s, QString::fromLatin1(row.toLp)};
         if (row.isAsWithLp)
             runLp(arguments + QStringList{kThreePages});
         else
