@@ -75,7 +75,7 @@ void JobSettings::leavePrinter()
         m_pageRanges = ranges;
     m_attributes.clear();
     m_mostCopies = 0;
-    if (m_by == By::UserQueues) {
+    if (m_by == By::Queue || m_by == By::UserQueues) {
         m_copies = 1;
         m_by = By::Program;
     }

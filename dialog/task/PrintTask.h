@@ -108,6 +108,9 @@ public:
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
+    /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
+    /// that is done to pages has an effect.
+    bool passesFilesOn() const;
 
     // The job (PrintTask-job.cpp)
 
@@ -149,7 +152,8 @@ Q_SIGNALS:
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
     void unsaid();
-    /// Something in lpoptions, which nobody has asked for just now, cannot be taken.
+    /// Something that nobody has asked for just now, in lpoptions or among the defaults of the
+    /// queue, cannot be taken or is not understood. It is said to the user as well.
     void ignored(const QString &problem);
     /// print() prints nothing.
     void refused(const corvana::TaskRefusal &refusal);
@@ -172,6 +176,7 @@ private:
         bool canBeAnother = false;          // somebody sits there who can choose
         PrinterProblem problem;             // why it cannot be asked for
         QStringList unset;                  // what was asked for with it and cannot be set
+        QStringList ignored;                // the same of what nobody has asked for just now
         std::optional<FetchedPrinter> next; // while the one that is open is in use
     };
     struct Run
@@ -191,9 +196,10 @@ private:
     };
     struct Baseline
     {
-        SessionSnapshot opened;  // before any option was taken
-        SessionSnapshot started; // before the user changed anything
-        SessionSnapshot shown;   // as the face was told last
+        SessionSnapshot opened;        // before any option was taken
+        SessionSnapshot started;       // before the user changed anything
+        QList<JobOption> attributes{}; // of the job, at the same time
+        SessionSnapshot shown;         // as the face was told last
     };
 
     void enter(Phase phase);
@@ -205,7 +211,7 @@ private:
     void open(const FetchedPrinter &ready);
     void close();
     void proposeOutput();
-    void rememberSession();
+    void rememberSession(const FetchedPrinter *next = nullptr);
     void takeExpectedPrinter();
     void printerChecked(const FetchedPrinter &checked);
     void printerFailed(const QString &problem, const QString &brief);
@@ -214,7 +220,8 @@ private:
     bool isPrinting() const;
 
     QList<Refusal> bringPanelsUp();
-    QStringList applyStartOptions();
+    void applyStartOptions();
+    void sayStartProblems();
     QStringList takeMostCopies();
     void noteMissingPages();
     void settled();
@@ -222,6 +229,7 @@ private:
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
     QList<JobOption> jobAttributes() const;
+    QList<JobOption> attributesButPages() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
     void lookForMissingCharacters();

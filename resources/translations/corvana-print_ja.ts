@@ -1026,6 +1026,18 @@
         <source>This printer has no option of the name %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>
     </message>
+<message>
+        <source>This printer has no option of this name: %1.</source>
+        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>キュー「%1」の既定値: %2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1487,6 +1499,16 @@ For the command line: %2</source>
         <source>Printing was canceled.</source>
         <translation>印刷を中止しました。</translation>
     </message>
+<message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>そのまま渡される文書はファイルに印刷できません。</translation>
+    </message>
+    <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>このプリンターに設定されている内容の一部は使用できませんでした:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1910,6 +1932,25 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>印刷される大きさ</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>キュー「%1」はファイルをそのまま渡します。%2 は実行できません。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>「raw」ではファイルがそのまま渡されます。%1 は実行できません。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>そのまま渡されます</translation>
     </message>
 </context>
 </TS>

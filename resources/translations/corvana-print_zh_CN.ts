@@ -1026,6 +1026,18 @@
         <source>This printer has no option of the name %1.</source>
         <translation>此打印机没有以下名称的选项：%1</translation>
     </message>
+<message>
+        <source>This printer has no option of this name: %1.</source>
+        <translation>此打印机没有以下名称的选项：%1。</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>队列“%1”的默认值：%2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>队列“%1”会给每个作业添加以下设置，其作用在此未知：%2。</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1487,6 +1499,16 @@ For the command line: %2</source>
         <source>Printing was canceled.</source>
         <translation>已取消打印。</translation>
     </message>
+<message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>原样传送的文档无法打印到文件。</translation>
+    </message>
+    <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>为此打印机设置的内容未能全部采用：
+%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1910,6 +1932,25 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>打印大小</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>队列“%1”会原样传送文件：无法执行 %2。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>使用“raw”时文件会原样传送：无法执行 %1。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>原样传送</translation>
     </message>
 </context>
 </TS>
