@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QRegularExpression>
 
 namespace corvana {
@@ -62,10 +63,23 @@ constexpr Word kTrueOrFalse[] = {
     {"false"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Off")},
 };
 constexpr Word kPagesOnASheet[] = {{"1"_L1}, {"2"_L1}, {"4"_L1}, {"6"_L1}, {"9"_L1}, {"16"_L1}};
-constexpr Word kOrdersOnASheet[] = {{"btlr"_L1}, {"btrl"_L1}, {"lrbt"_L1}, {"lrtb"_L1},
-                                    {"rlbt"_L1}, {"rltb"_L1}, {"tblr"_L1}, {"tbrl"_L1}};
+constexpr Word kOrdersOnASheet[] = {
+    {"btlr"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Up, Then to the Right")},
+    {"btrl"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Up, Then to the Left")},
+    {"lrbt"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "To the Right, Then Up")},
+    {"lrtb"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "To the Right, Then Down")},
+    {"rlbt"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "To the Left, Then Up")},
+    {"rltb"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "To the Left, Then Down")},
+    {"tblr"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Down, Then to the Right")},
+    {"tbrl"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Down, Then to the Left")},
+};
 constexpr Word kBorders[] = {
-    {"none"_L1}, {"single"_L1}, {"single-thick"_L1}, {"double"_L1}, {"double-thick"_L1}};
+    {"none"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "None")},
+    {"single"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Thin Line")},
+    {"single-thick"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Thick Line")},
+    {"double"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Two Thin Lines")},
+    {"double-thick"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Two Thick Lines")},
+};
 constexpr Word kPageSets[] = {
     {"all"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "All")},
     {"even"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Even Pages Only")},
@@ -77,23 +91,37 @@ constexpr Word kOrientations[] = {
     {"5"_L1, "reverse landscape"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Reverse Landscape")},
     {"6"_L1, "reverse portrait"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Reverse Portrait")},
 };
-constexpr Word kScalings[] = {{"auto"_L1}, {"auto-fit"_L1}, {"fill"_L1}, {"fit"_L1}, {"none"_L1}};
-constexpr Word kPositions[] = {{"center"_L1}, {"top"_L1},         {"left"_L1},
-                               {"right"_L1},  {"top-left"_L1},    {"top-right"_L1},
-                               {"bottom"_L1}, {"bottom-left"_L1}, {"bottom-right"_L1}};
+constexpr Word kScalings[] = {
+    {"auto"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Automatic")},
+    {"auto-fit"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fit to Paper If Too Large")},
+    {"fill"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fill Paper")},
+    {"fit"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fit to Paper")},
+    {"none"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Actual Size")},
+};
+constexpr Word kPositions[] = {
+    {"center"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Center")},
+    {"top"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Top")},
+    {"left"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Left")},
+    {"right"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Right")},
+    {"top-left"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Top Left")},
+    {"top-right"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Top Right")},
+    {"bottom"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bottom")},
+    {"bottom-left"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bottom Left")},
+    {"bottom-right"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bottom Right")},
+};
 constexpr Word kOutputOrders[] = {
     {"normal"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "First Page First")},
     {"reverse"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Last Page First")},
 };
 constexpr Word kHolds[] = {
-    {"no-hold"_L1},
+    {"no-hold"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Print at Once")},
     {"indefinite"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Until It Is Released")},
-    {"day-time"_L1},
-    {"evening"_L1},
-    {"night"_L1},
-    {"second-shift"_L1},
-    {"third-shift"_L1},
-    {"weekend"_L1},
+    {"day-time"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Daytime")},
+    {"evening"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Evening")},
+    {"night"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Night")},
+    {"second-shift"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Second Shift")},
+    {"third-shift"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Third Shift")},
+    {"weekend"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Weekend")},
 };
 
 constexpr AllowedValues wholeNumbers(int least, int most)
@@ -101,18 +129,19 @@ constexpr AllowedValues wholeNumbers(int least, int most)
     return {{}, AllowedValues::Range{double(least), double(most)}};
 }
 
-constexpr AllowedValues numbers(int least, int most, QLatin1StringView unit = {})
+constexpr AllowedValues numbers(int least, int most, const char *unit = "")
 {
-    return {{}, AllowedValues::Range{double(least), double(most), false, unit}};
+    return {{}, AllowedValues::Range{double(least), double(most), false, QLatin1StringView(unit)}};
 }
 
-constexpr AllowedValues form(QLatin1StringView text, bool (*accepts)(const QString &))
+constexpr AllowedValues form(const char *text, bool (*accepts)(const QString &))
 {
-    return {{}, {}, AllowedValues::Form{text, accepts}};
+    return {{}, {}, AllowedValues::Form{QLatin1StringView(text), accepts}};
 }
 
 // A margin beyond this leaves nothing of any paper.
-constexpr AllowedValues kMargins = numbers(0, 9999, "points of 1/72 inch"_L1);
+constexpr AllowedValues kMargins =
+    numbers(0, 9999, QT_TRANSLATE_NOOP("JobAttributes", "points of 1/72 inch"));
 
 constexpr JobAttribute kAttributes[] = {
     {"number-up"_L1,
@@ -122,7 +151,7 @@ constexpr JobAttribute kAttributes[] = {
      {kPagesOnASheet}},
     {"number-up-layout"_L1,
      AppliedTo::Pages,
-     {},
+     "lrtb"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Order on the Sheet"),
      {kOrdersOnASheet}},
     {"page-border"_L1,
@@ -134,7 +163,9 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Pages,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Pages"),
-     form("pages and ranges in ascending order, such as 1-4,7,9-"_L1, isPageRanges)},
+     form(QT_TRANSLATE_NOOP("JobAttributes",
+                            "pages and ranges in ascending order, such as 1-4,7,9-"),
+          isPageRanges)},
     {"page-set"_L1,
      AppliedTo::Pages,
      "all"_L1,
@@ -239,16 +270,19 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Job,
      "no-hold"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Hold Until"),
-     {kHolds, {}, AllowedValues::Form{"a time HH:MM"_L1, isTime}}},
+     {kHolds,
+      {},
+      AllowedValues::Form{QLatin1StringView(QT_TRANSLATE_NOOP("JobAttributes", "a time HH:MM")),
+                          isTime}}},
     {"job-priority"_L1, AppliedTo::Job, "50"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Priority"),
      wholeNumbers(1, 100)},
     {"job-sheets"_L1, AppliedTo::Job, "none"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
-     form("one or two names of banner pages"_L1, isJobSheets)},
+     form(QT_TRANSLATE_NOOP("JobAttributes", "one or two names of banner pages"), isJobSheets)},
     {"job-billing"_L1,
      AppliedTo::Job,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Billed To"),
-     form("a text of up to 255 bytes"_L1, isBilling)},
+     form(QT_TRANSLATE_NOOP("JobAttributes", "a text of up to 255 bytes"), isBilling)},
 };
 
 bool isIn(const AllowedValues::Range &range, const QString &value)
@@ -257,6 +291,11 @@ bool isIn(const AllowedValues::Range &range, const QString &value)
     static const QRegularExpression decimal(u"^[0-9]{1,5}([.][0-9]{1,3})?\\z"_s);
     return (range.isWhole ? whole : decimal).match(value).hasMatch() &&
            value.toDouble() >= range.least && value.toDouble() <= range.most;
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("JobAttributes", text);
 }
 
 } // namespace
@@ -299,14 +338,27 @@ bool isAppliedTo(AppliedTo what, const JobOption &option)
     return attribute && attribute->appliedTo == what;
 }
 
+QString allowedText(const AllowedValues &allowed)
+{
+    QStringList parts;
+    for (const Word &word : allowed.words)
+        parts += word.shown ? translated(word.shown) : QString(word.value);
+    if (const auto &range = allowed.range) {
+        const QString limits =
+            translated(QT_TRANSLATE_NOOP("JobAttributes", "%1 to %2"))
+                .arg(QLocale().toString(int(range->least)), QLocale().toString(int(range->most)));
+        parts += range->unit.isEmpty() ? limits : limits + u' ' + translated(range->unit.data());
+    }
+    if (allowed.form)
+        parts += translated(allowed.form->text.data());
+    return parts.join(u", "_s);
+}
+
 JobAttributeText textOfJobAttribute(const JobOption &attribute)
 {
     const JobAttribute *known = jobAttribute(attribute.name);
     if (!known)
         return {attribute.name, attribute.value};
-    const auto translated = [](const char *text) {
-        return QCoreApplication::translate("JobAttributes", text);
-    };
     const Word *word = known->allowed.word(attribute.value);
     return {translated(known->title),
             word && word->shown ? translated(word->shown) : attribute.value};

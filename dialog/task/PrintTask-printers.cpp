@@ -153,13 +153,14 @@ void PrintTask::rememberSession()
     // What was asked for on the command line is the user's as well.
     if (isUntouched() && m_request.options.isEmpty())
         return;
-    QList<JobOption> attributes = m_settings.attributes();
+    QList<JobOption> attributes = m_settings.attributesOfOthers();
     attributes.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
     LeftSession left{m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash,
                      attributes};
     if (m_settings.copiesAskedForBy() == JobSettings::By::UserQueues)
         left.copies = m_settings.copiesAskedFor();
+    left.chosen = m_settings.chosenAttributes();
     m_memory[idOf(m_chosen.printer)].session = left;
 }
 
@@ -167,7 +168,8 @@ void PrintTask::rememberSession()
 // along.
 bool PrintTask::isUntouched() const
 {
-    return m_phase != Phase::Ready || m_opened->session->snapshot() == m_baseline.started;
+    return m_phase != Phase::Ready || (m_opened->session->snapshot() == m_baseline.started &&
+                                       m_settings.chosenAttributes() == m_baseline.chosen);
 }
 
 void PrintTask::takeExpectedPrinter()
