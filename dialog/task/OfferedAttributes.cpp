@@ -74,8 +74,11 @@ bool hasColorOption(const PpdSession &session)
 // their letters.
 ppd_option_t *ownOption(const QString &name, const PpdSession &session)
 {
-    ppd_option_t *option = ppdOption(session.ppd(), name);
-    return session.options().contains(option) ? option : nullptr;
+    for (ppd_option_t *option : session.options()) {
+        if (ppdKeyword(option->keyword).compare(name, Qt::CaseInsensitive) == 0)
+            return option;
+    }
+    return nullptr;
 }
 
 // "none,none" is two of them: before the job and behind it.

@@ -12,6 +12,7 @@
 
 #include "dialog/session/JobAttributes.h"
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -80,7 +81,7 @@ public:
     NumberField(const AllowedValues::Range &range, bool canBeNone, QWidget *parent)
         : QDoubleSpinBox(parent), m_range(range), m_canBeNone(canBeNone)
     {
-        constexpr double kMostThatFits = 99999;
+        constexpr double kMostThatFits = 999999;
         setDecimals(range.isWhole ? 0 : 3);
         setRange(canBeNone ? kNone : 0, kMostThatFits);
         setKeyboardTracking(false); // a number counts when it is complete
@@ -103,8 +104,15 @@ public:
     {
         if (text.isEmpty())
             return QValidator::Intermediate;
+        if (m_canBeNone && text == specialValueText())
+            return QValidator::Acceptable;
         return text.startsWith(locale().negativeSign()) ? QValidator::Invalid
                                                         : QDoubleSpinBox::validate(text, position);
+    }
+    double valueFromText(const QString &text) const override
+    {
+        return m_canBeNone && text == specialValueText() ? kNone
+                                                         : QDoubleSpinBox::valueFromText(text);
     }
     void fixup(QString &text) const override
     {
@@ -324,6 +332,11 @@ void AttributeEditor::setField(QWidget *field)
 {
     layout()->addWidget(field);
     setFocusProxy(control());
+    // A screen reader takes a pop-up's name from a label beside it, and that of the row is outside.
+    QLabel *name = plainLabel({}, control()->parentWidget());
+    name->hide();
+    name->setBuddy(control());
+    setLiteralText(name, titleOf(m_attribute));
 }
 
 void AttributeEditor::setHint(const QString &hint)

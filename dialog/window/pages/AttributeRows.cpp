@@ -30,7 +30,11 @@ QString briefly(const QString &value)
 
 } // namespace
 
-AttributeRows::AttributeRows(QFormLayout *form) : QObject(form->parentWidget()), m_form(form) {}
+AttributeRows::AttributeRows(QFormLayout *form)
+    : QObject(form->parentWidget()), m_form(form),
+      m_before(form->itemAt(form->rowCount() - 1, QFormLayout::FieldRole)->widget())
+{
+}
 
 QWidget *AttributeRows::window() const
 {
@@ -186,10 +190,9 @@ bool AttributeRows::finishEditing()
 // In reading order, whenever the rows were made.
 void AttributeRows::orderFocus()
 {
-    QWidget *former = nullptr;
+    QWidget *former = m_before;
     const auto append = [&](QWidget *first, QWidget *last) {
-        if (former)
-            QWidget::setTabOrder(former, first);
+        QWidget::setTabOrder(former, first);
         if (first != last)
             QWidget::setTabOrder(first, last);
         former = last;

@@ -23,7 +23,7 @@ class AttributeRows : public QObject
     Q_OBJECT
 
 public:
-    /// Adds its rows at the end of a form, which has one. Borrows it.
+    /// Adds its rows at the end of a form, which has others. Borrows it.
     explicit AttributeRows(QFormLayout *form);
 
     /// Shows what is offered and in force. Attributes beside the copies are none of these rows.
@@ -51,6 +51,7 @@ private:
     QWidget *window() const;
 
     QFormLayout *m_form;
+    QWidget *m_before; // the field above the first of these rows
     QList<OfferedAttribute> m_offered;
     QList<AttributeEditor *> m_front;
     QList<AttributeEditor *> m_more;
