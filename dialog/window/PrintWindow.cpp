@@ -59,7 +59,7 @@ void PrintWindow::buildWindow()
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_footer);
     const int em = fontMetrics().height();
-    m_growth.open(QSize(36 * em, 34 * em));
+    m_growth.open(QSize(36 * em, 37 * em));
 }
 
 void PrintWindow::connectParts()

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -287,6 +288,56 @@ private Q_SLOTS:
         QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
         QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
         QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+    }
+
+    void theAttributesOfAJobAreWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<bool>("opened");
+        for (const bool dark : {false, true}) {
+            for (const bool opened : {false, true})
+                QTest::addRow("attributes_%s_%s", opened ? "opened" : "closed",
+                              dark ? "dark" : "light")
+                    << dark << opened;
+        }
+    }
+
+    // With each kind of row, something of every kind in force, and a value that is refused.
+    void theAttributesOfAJobAreWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(bool, opened);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        QString options = QStringLiteral(
+            "number-up=4 print-scaling=auto-fit number-up-layout=tbrl page-border=double-thick "
+            "job-hold-until=12:30 job-sheets=standard,classified ppi=300");
+        if (!opened) // what a disclosure says of these has no end
+            options +=
+                QStringLiteral(" position=bottom-right job-billing=%1").arg(QString(200, u'm'));
+        PrintWindow dialog(request({options}));
+        const int width = dialog.width();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        QTRY_COMPARE(dialog.findChild<QComboBox *>(QStringLiteral("number-up"))->currentText(),
+                     QStringLiteral("4"));
+        if (opened) {
+            dialog.findChild<QPushButton *>(QStringLiteral("more"))->click();
+            auto *priority = dialog.findChild<QDoubleSpinBox *>(QStringLiteral("job-priority"));
+            priority->setValue(101);
+            const auto *note = dialog.findChild<QLabel *>(QStringLiteral("job-priorityNote"));
+            QVERIFY(note && note->isVisibleTo(&dialog));
+        }
+        QTest::qWait(50);
+        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        auto *area = pages->currentWidget()->findChild<QScrollArea *>();
+        QCOMPARE(clippedControls(area->widget()).join(u'\n'), QString());
+        QCOMPARE(clippedTexts(&dialog).join(u'\n'), QString());
+        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
+        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+        QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(dialog.width(), width);
     }
 
     void theOptionsOfAPrinterWithoutPanelsAreWhole_data()
