@@ -1,5 +1,7 @@
 #include "dialog/job/Conversion.h"
 
+#include <utility>
+
 #include <QFile>
 #include <QTimer>
 
@@ -9,6 +11,22 @@
 namespace corvana {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A PPD that has the filter for the layout of pages fill the last sheet of a two-sided document.
+QByteArray fillingSheets(const QByteArray &ppd)
+{
+    QByteArray filling;
+    const QByteArrayList lines = ppd.split('\n');
+    for (const QByteArray &line : lines) {
+        if (!line.startsWith("*cupsEvenDuplex"))
+            filling += line + '\n';
+    }
+    return filling + "*cupsEvenDuplex: True\n";
+}
+
+} // namespace
 
 Conversion::Conversion(const ConversionRequest &request, QObject *parent)
     : QObject(parent), m_request(request)
@@ -46,23 +64,29 @@ FilterPlan Conversion::prepare(QString *problem)
         return {};
     }
     const QString own = m_parts->filePath(u"printer.ppd"_s);
-    *problem = takePpd(own);
-    return planConversion(m_request, {filter, own, m_parts->path()});
+    const QString filling = m_parts->filePath(u"filling.ppd"_s);
+    *problem = takePpd(own, filling);
+    return planConversion(m_request,
+                          {filter, own, filling, m_parts->path(), streamOfPpd(own).continues});
 }
 
 // The chain gets a PPD that is its own: what was looked at is what its filters read, whoever writes
 // the other one. Answers what stands in the way.
-QString Conversion::takePpd(const QString &own) const
+QString Conversion::takePpd(const QString &own, const QString &filling) const
 {
     // The filter chain would do without a PPD, and print a file without any of the choices.
     QFile ppd(m_request.ppdPath);
     if (!ppd.open(QIODevice::ReadOnly))
         return tr("%1 cannot be read: %2").arg(m_request.ppdPath, ppd.errorString());
     const QByteArray content = ppd.readAll();
-    QFile copy(own);
-    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-        copy.write(content) != content.size())
-        return tr("%1 cannot be written: %2").arg(own, copy.errorString());
+    const std::pair<QString, QByteArray> copies[] = {{own, content},
+                                                     {filling, fillingSheets(content)}};
+    for (const auto &[path, text] : copies) {
+        QFile copy(path);
+        if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+            copy.write(text) != text.size())
+            return tr("%1 cannot be written: %2").arg(path, copy.errorString());
+    }
     // A PDF is made by filters of the system only.
     if (m_request.result == ConversionRequest::Result::Pdf)
         return {};

@@ -1,8 +1,10 @@
 #include "dialog/job/FilterChain.h"
 
+#include <algorithm>
 #include <csignal>
 
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QFileInfo>
@@ -33,6 +35,31 @@ QProcessEnvironment environmentOfChain()
     for (const QLatin1StringView name : kPlacesOfFilters)
         environment.remove(name);
     return environment;
+}
+
+// What a program of ours that works on PDFs may use at most: a small hostile one can ask for much.
+// Units: bytes.
+constexpr rlim_t kMostMemory = rlim_t(4) << 30;
+constexpr rlim_t kMostOutput = rlim_t(16) << 30;
+
+// More pages than any document has. Whatever says more is not counting.
+constexpr int kMostPages = 10000000;
+
+// Whether a part that a former step has yielded is empty.
+bool isEmptyPart(const QString &path)
+{
+    return QFileInfo(path).size() == 0;
+}
+
+// Errors: 0.
+int pageCountIn(const QString &path)
+{
+    QFile file(path);
+    constexpr qint64 kLongestNumber = 16;
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLongestNumber)
+        return 0;
+    const int pages = file.readAll().trimmed().toInt();
+    return pages <= kMostPages ? pages : 0;
 }
 
 // Whether a PDF has its end.
@@ -73,12 +100,23 @@ int pageInLine(const QByteArray &line)
 
 FilterChain::FilterChain(QObject *parent) : QObject(parent)
 {
-    m_process.setChildProcessModifier([] {
+    m_process.setChildProcessModifier([this] {
         ::setpgid(0, 0);
         ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        if (!m_patience.isActive())
+            return;
+        const rlimit memory{kMostMemory, kMostMemory};
+        const rlimit output{kMostOutput, kMostOutput};
+        ::setrlimit(RLIMIT_AS, &memory);
+        ::setrlimit(RLIMIT_FSIZE, &output);
     });
     m_process.setProcessEnvironment(environmentOfChain());
     m_process.setStandardInputFile(QProcess::nullDevice());
+    m_patience.setSingleShot(true);
+    connect(&m_patience, &QTimer::timeout, this, [this] {
+        m_tookTooLong = true;
+        stop();
+    });
     connect(&m_process, &QProcess::finished, this, &FilterChain::stepFinished);
     connect(&m_process, &QProcess::readyReadStandardError, this, &FilterChain::readLog);
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &FilterChain::readOutput);
@@ -104,10 +142,63 @@ void FilterChain::start(const FilterPlan &plan, const QStringList &secrets)
     startNextStep();
 }
 
+// The arguments with the pages that are picked and without what turned out to be empty; none when
+// nothing is left to work on.
+QStringList FilterChain::argumentsOfStep(QString *problem) const
+{
+    const QStringList &parts = step().parts;
+    if (!parts.isEmpty() && std::all_of(parts.cbegin(), parts.cend(), isEmptyPart))
+        return {};
+    QStringList arguments = step().arguments;
+    arguments.removeIf(
+        [&](const QString &argument) { return parts.contains(argument) && isEmptyPart(argument); });
+    if (!step().pick)
+        return arguments;
+    const PagePick &pick = *step().pick;
+    const int pages = pageCountIn(pick.counted);
+    if (pages <= 0)
+        *problem = tr("The document could not be converted for the printer: how many pages it has "
+                      "could not be found out.");
+    const QStringList picked = pickedPages(pick.choice, pages, pick.document);
+    if (picked.isEmpty())
+        return {};
+    const qsizetype place = arguments.indexOf(kPickedPages);
+    return arguments.first(place) + picked + arguments.sliced(place + 1);
+}
+
+// What has nothing to work on yields nothing.
+void FilterChain::skipStep()
+{
+    m_output.setFileName(step().output);
+    if (!m_output.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        m_writeError = m_output.errorString();
+        return finish(problemOfWriting());
+    }
+    m_output.close();
+    if (m_plan.size() == 1 && step().yields == FilterStep::Yields::Something)
+        return finish(noSuchPages());
+    goOn();
+}
+
+void FilterChain::goOn()
+{
+    m_plan.removeFirst();
+    if (m_plan.isEmpty())
+        finish({});
+    else
+        startNextStep();
+}
+
 void FilterChain::startNextStep()
 {
     m_log.clear();
     m_writeError.clear();
+    QString problem;
+    const QStringList arguments = argumentsOfStep(&problem);
+    if (!problem.isEmpty())
+        return finish(problem);
+    if (arguments.isEmpty())
+        return skipStep();
     m_output.setFileName(step().output);
     if (step().writes == FilterStep::Writes::StandardOutput &&
         !m_output.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
@@ -115,9 +206,10 @@ void FilterChain::startNextStep()
         return finish(problemOfWriting());
     }
     m_process.setProgram(step().program);
-    m_process.setArguments(step().arguments);
-    qCInfo(lcJob).noquote() << step().program
-                            << withoutSecrets(step().arguments.join(u' '), m_secrets);
+    m_process.setArguments(arguments);
+    qCInfo(lcJob).noquote() << step().program << withoutSecrets(arguments.join(u' '), m_secrets);
+    if (step().patience.count() > 0)
+        m_patience.start(step().patience);
     m_process.start();
     m_group = static_cast<pid_t>(m_process.processId());
 }
@@ -191,20 +283,17 @@ void FilterChain::closeOutput()
 
 void FilterChain::stepFinished(int exitCode, QProcess::ExitStatus status)
 {
+    m_patience.stop();
     readLog();
     readOutput();
     closeOutput();
     // A filter of the chain may outlive the program that started it.
-    if ((m_canceled || !m_writeError.isEmpty()) && m_group > 0)
+    if ((m_canceled || m_tookTooLong || !m_writeError.isEmpty()) && m_group > 0)
         ::kill(-m_group, SIGKILL);
     const QString problem = problemOfStep(exitCode, status);
     if (!problem.isEmpty())
         return finish(problem);
-    m_plan.removeFirst();
-    if (m_plan.isEmpty())
-        finish({});
-    else
-        startNextStep();
+    goOn();
 }
 
 QString FilterChain::problemOfWriting() const
@@ -218,15 +307,20 @@ QString FilterChain::problemOfStep(int exitCode, QProcess::ExitStatus status) co
         return tr("Printing was canceled.");
     if (!m_writeError.isEmpty())
         return problemOfWriting();
+    if (m_tookTooLong)
+        return tr("The document could not be converted for the printer: that took too long.");
     if (status != QProcess::NormalExit)
         return tr("The filter chain of CUPS crashed.");
     const QString said = withoutSecrets(errorInLog(m_log, step().program), m_secrets);
     if (exitCode != 0)
         return tr("The document could not be converted for the printer: %1")
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);
-    if (QFileInfo(step().output).size() == 0)
+    const bool isEmpty = isEmptyPart(step().output);
+    if (isEmpty && step().yields == FilterStep::Yields::Something)
         return tr("The document could not be converted for the printer: nothing came out. %1")
             .arg(said);
+    if (isEmpty)
+        return {};
     if (step().writes == FilterStep::Writes::FileOfItsOwn && !isCompletePdf(step().output))
         return tr("The documents could not be put together: %1 is incomplete. Is the disk full?")
             .arg(step().outputName);

@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include "dialog/job/FilterPlan.h"
 
@@ -47,6 +48,9 @@ Q_SIGNALS:
 private:
     const FilterStep &step() const { return m_plan.constFirst(); }
     void startNextStep();
+    QStringList argumentsOfStep(QString *problem) const;
+    void skipStep();
+    void goOn();
     void stepFinished(int exitCode, QProcess::ExitStatus status);
     QString problemOfStep(int exitCode, QProcess::ExitStatus status) const;
     QString problemOfWriting() const;
@@ -64,6 +68,8 @@ private:
     QFile m_output;       // of the current step; closed where it writes a file of its own
     QString m_writeError; // why that could not be written
     QByteArray m_log;     // of the current step
+    QTimer m_patience;    // with the current step
+    bool m_tookTooLong = false;
     bool m_canceled = false;
 };
 

@@ -1,7 +1,9 @@
 #include "dialog/job/FilterPlan.h"
 
 #include <algorithm>
+#include <iterator>
 
+#include "dialog/job/DocumentCopies.h"
 #include "dialog/session/JobAttributes.h"
 
 namespace corvana {
@@ -15,6 +17,23 @@ constexpr auto kPrinterFormat = "printer/foo"_L1;
 constexpr auto kPdf = "application/pdf"_L1;
 // A PDF that the filter for the layout of pages has been at; a mere PDF passes through untouched.
 constexpr auto kLaidOutPdf = "application/vnd.cups-pdf"_L1;
+
+// What works on PDFs without a look at their pages takes fractions of a second for each thousand of
+// them. A document that was made to keep it busy is given up.
+constexpr std::chrono::seconds kPatienceWithPdfs{120};
+
+// Options of a PPD, and of IPP, that make a job two-sided.
+constexpr QLatin1StringView kTwoSided[] = {"Duplex"_L1, "JCLDuplex"_L1, "EFDuplex"_L1,
+                                           "KD03Duplex"_L1, "sides"_L1};
+// Options that turn pages round or over, beside the attributes of a job.
+constexpr QLatin1StringView kTurning[] = {"OutputOrder"_L1, "MirrorPrint"_L1};
+
+template <size_t N> bool isOneOf(const QString &name, const QLatin1StringView (&list)[N])
+{
+    return std::any_of(std::begin(list), std::end(list), [&](QLatin1StringView one) {
+        return name.compare(one, Qt::CaseInsensitive) == 0;
+    });
+}
 
 // One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
 QString optionArgument(const JobOption &option)
@@ -48,18 +67,26 @@ class Planner
 {
 public:
     Planner(const ConversionRequest &request, const FilterPlaces &places)
-        : m_request(request), m_places(places)
+        : m_request(request), m_places(places), m_choice(pageChoiceOf(chainOptions())),
+          m_picks(mustPick())
     {
     }
 
     FilterPlan plan()
     {
-        if (m_request.result == ConversionRequest::Result::PrinterData)
-            makePrinterData();
+        using Result = ConversionRequest::Result;
+        const bool several = m_request.documents.size() > 1;
+        const Document &first = m_request.documents.constFirst();
+        if (m_request.result == Result::ChosenPages)
+            pick(asPdf(first), result());
+        else if (m_request.result == Result::PrinterData)
+            several ? makeDataOfSeveral() : makePrinterData(picked(first), result());
+        else if (several)
+            putTogether(result());
         else if (m_request.layout.isEmpty())
-            unite({m_request.outputPath, m_request.outputName});
+            convert(first, kPdf, {}, pageOptions(m_request.ticket.options), result());
         else
-            makeLaidOutPdf();
+            layOut(m_picks ? picked(first) : asPdf(first), m_places.ppd, result());
         return m_plan;
     }
 
@@ -72,67 +99,189 @@ private:
 
     const ConversionRequest &m_request;
     const FilterPlaces &m_places;
+    const PageChoice m_choice;
+    const bool m_picks; // before the chain, which is told nothing of it then
     FilterPlan m_plan;
+    int m_parts = 0;
 
     Output result() const { return {m_request.outputPath, m_request.outputName}; }
-    Output part(const QString &name) const
+    Output newPart(QLatin1StringView suffix)
     {
-        const QString path = m_places.folder + u'/' + name;
+        const QString path = u"%1/%2.%3"_s.arg(m_places.folder).arg(m_parts++).arg(suffix);
         return {path, path};
+    }
+
+    // Everything that the filter chain is asked for, as far as it is asked for its layout.
+    QList<JobOption> chainOptions() const
+    {
+        if (m_request.result != ConversionRequest::Result::Pdf)
+            return m_request.ticket.options;
+        QList<JobOption> options = pageOptions(m_request.ticket.options);
+        for (const JobOption &option : m_request.ticket.options) {
+            if (isOneOf(option.name, kTwoSided))
+                options += option;
+        }
+        for (const JobOption &option : m_request.layout) {
+            if (!options.contains(option))
+                options += option;
+        }
+        return options;
+    }
+
+    // Of several documents one may have none of the pages. That is known of what is picked, where
+    // a filter that yields nothing could as well have failed.
+    bool mustPick() const
+    {
+        return mustPickPages(chainOptions()) ||
+               (m_request.documents.size() > 1 && !m_choice.isAll());
+    }
+
+    QList<JobOption> remainingOptions() const
+    {
+        QList<JobOption> options = chainOptions();
+        if (m_picks)
+            options.removeIf(isOfPageChoice);
+        return options;
+    }
+
+    // What a step reads of former ones. A document itself is none of them.
+    QStringList partsOf(const Document &document) const
+    {
+        return document.path.startsWith(m_places.folder + u'/') ? QStringList{document.path}
+                                                                : QStringList();
     }
 
     // `more` are further arguments of the program.
     void convert(const Document &document, QLatin1StringView format, const QStringList &more,
-                 const QList<JobOption> &options, const Output &output)
+                 const QList<JobOption> &options, const Output &output,
+                 const QString &ppd = QString())
     {
-        QStringList arguments{u"-p"_s, m_places.ppd, u"-i"_s, document.format, u"-m"_s, format};
+        QStringList arguments{
+            u"-p"_s, ppd.isEmpty() ? m_places.ppd : ppd, u"-i"_s, document.format, u"-m"_s, format};
         arguments += more;
         for (const JobOption &option : options)
             arguments << u"-o"_s << optionArgument(option);
         arguments << document.path;
-        m_plan += FilterStep{m_places.cupsFilter, arguments, output.path, output.name};
+        FilterStep step{m_places.cupsFilter, arguments, output.path, output.name};
+        step.parts = partsOf(document);
+        m_plan += step;
     }
 
-    // Makes one PDF of all documents.
-    void unite(const Output &output)
+    void runQpdf(const QStringList &arguments, const Output &output, FilterStep step)
     {
-        const QList<JobOption> options = pageOptions(m_request.ticket.options);
-        if (m_request.documents.size() == 1)
-            return convert(m_request.documents.constFirst(), kPdf, {}, options, output);
+        step.program = u"qpdf"_s;
+        // What is damaged and could be mended is no failure; its warnings are of no interest.
+        step.arguments = QStringList{u"--no-warn"_s, u"--warning-exit-0"_s} + arguments;
+        step.output = output.path;
+        step.outputName = output.name;
+        step.patience = kPatienceWithPdfs;
+        m_plan += step;
+    }
+
+    Document toPdf(const Document &document)
+    {
+        const Output pdf = newPart("pdf"_L1);
+        convert(document, kPdf, {}, pageOptions(m_request.ticket.options), pdf);
+        return {pdf.path, kPdf, document.title};
+    }
+
+    Document asPdf(const Document &document)
+    {
+        return document.format == kPdf ? document : toPdf(document);
+    }
+
+    // The document stays itself: what it says of encryption, layers and forms goes along.
+    void pick(const Document &document, const Output &output)
+    {
+        const Output count = newPart("count"_L1);
+        runQpdf({u"--show-npages"_s, document.path}, count, {});
+        FilterStep step;
+        step.writes = FilterStep::Writes::FileOfItsOwn;
+        step.yields = FilterStep::Yields::PerhapsNothing;
+        step.pick = PagePick{m_choice, document.path, count.path};
+        runQpdf({document.path, u"--pages"_s, kPickedPages, u"--"_s, output.path}, output, step);
+    }
+
+    Document picked(const Document &document)
+    {
+        if (!m_picks)
+            return document;
+        const Document pdf = asPdf(document);
+        const Output some = newPart("pdf"_L1);
+        pick(pdf, some);
+        return {some.path, kPdf, document.title};
+    }
+
+    void layOut(const Document &document, const QString &ppd, const Output &output,
+                const QList<JobOption> &more = {})
+    {
+        convert(document, kLaidOutPdf, {}, remainingOptions() + more, output, ppd);
+    }
+
+    // Lays each document out by itself and makes one PDF of them. Each begins on a sheet of its
+    // own: all but the last are filled up with a blank side.
+    void putTogether(const Output &output)
+    {
         QStringList parts;
         for (const Document &document : m_request.documents) {
-            const Output one = part(u"%1.pdf"_s.arg(parts.size()));
-            convert(document, kPdf, {}, options, one);
+            const bool isLast = parts.size() == m_request.documents.size() - 1;
+            const Document pages = m_picks ? picked(document) : asPdf(document);
+            const Output one = newPart("pdf"_L1);
+            // The printer's own commands stand before a PDF, so that they belong to the whole.
+            layOut(pages, isLast ? m_places.ppd : m_places.fillingPpd, one,
+                   {{u"emit-jcl"_s, u"false"_s}});
             parts += one.path;
         }
-        m_plan += FilterStep{u"pdfunite"_s, parts << output.path, output.path, output.name,
-                             FilterStep::Writes::FileOfItsOwn};
+        FilterStep step;
+        step.writes = FilterStep::Writes::FileOfItsOwn;
+        step.parts = parts;
+        // There may be more documents than files that can be open.
+        runQpdf(QStringList{u"--empty"_s, u"--keep-files-open=n"_s, u"--pages"_s} + parts +
+                    QStringList{u"--"_s, output.path},
+                output, step);
     }
 
-    Document united()
-    {
-        const Output whole = part(u"whole.pdf"_s);
-        unite(whole);
-        return {whole.path, kPdf, m_request.ticket.title};
-    }
-
-    void makeLaidOutPdf()
-    {
-        const Document whole = united();
-        convert(whole, kLaidOutPdf, {}, pageOptions(m_request.ticket.options) + m_request.layout,
-                result());
-    }
-
-    void makePrinterData()
+    void makeDataOfSeveral()
     {
         const JobTicket &ticket = m_request.ticket;
-        const Document whole =
-            m_request.documents.size() == 1 ? m_request.documents.constFirst() : united();
+        if (!m_places.resultsCanFollow) {
+            const QString path = m_places.folder + u"/whole.pdf"_s;
+            const Output whole{path, path};
+            putTogether(whole);
+            return toPrinterData({whole.path, kPdf, ticket.title}, ticket.copies,
+                                 optionsAfterLayout(ticket.options), result());
+        }
+        const int times = repetitionsOf(ticket, int(m_request.documents.size()));
+        QStringList parts;
+        for (const Document &document : m_request.documents) {
+            const Output one = newPart("data"_L1);
+            makePrinterData(picked(document), one, times > 1 ? 1 : ticket.copies);
+            parts += one.path;
+        }
+        FilterStep step{u"cat"_s, {}, m_request.outputPath, m_request.outputName};
+        step.parts = parts;
+        for (int i = 0; i < times; ++i)
+            step.arguments += parts;
+        m_plan += step;
+    }
+
+    void makePrinterData(const Document &document, const Output &output)
+    {
+        makePrinterData(document, output, m_request.ticket.copies);
+    }
+    void makePrinterData(const Document &document, const Output &output, int copies)
+    {
+        toPrinterData(document, copies, remainingOptions(), output);
+    }
+
+    void toPrinterData(const Document &document, int copies, const QList<JobOption> &options,
+                       const Output &output)
+    {
         // The PPD's own filters are used only on demand; without them everything would become
         // PostScript.
-        convert(whole, kPrinterFormat,
-                {u"-e"_s, u"-t"_s, ticket.title, u"-n"_s, QString::number(ticket.copies)},
-                ticket.options, result());
+        convert(document, kPrinterFormat,
+                {u"-e"_s, u"-t"_s, m_request.ticket.title, u"-n"_s, QString::number(copies)},
+                options, output);
     }
 };
 
@@ -141,6 +290,24 @@ private:
 FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &places)
 {
     return Planner(request, places).plan();
+}
+
+QList<JobOption> optionsAfterLayout(const QList<JobOption> &options)
+{
+    QList<JobOption> after;
+    for (const JobOption &option : options) {
+        const JobAttribute *attribute = jobAttribute(option.name);
+        const bool shapes = isForPages(option) || isOneOf(option.name, kTurning);
+        if (option.name == "orientation-requested"_L1)
+            after += {option.name, u"3"_s};
+        else if (!shapes && !isAppliedTo(JobAttribute::AppliedTo::Pages, option))
+            after += option;
+        else if (!shapes && !attribute->usual.isEmpty() && option.name != "print-scaling"_L1)
+            after += {option.name, attribute->usual};
+    }
+    // A page that has the size of the paper already is not made smaller for its margins.
+    return after << JobOption{u"print-scaling"_s, u"none"_s}
+                 << JobOption{u"outputorder"_s, u"normal"_s};
 }
 
 bool shapesDocuments(const QList<JobOption> &options)

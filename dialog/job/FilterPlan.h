@@ -1,10 +1,14 @@
 #pragma once
 
+#include <chrono>
+#include <optional>
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include "dialog/job/Document.h"
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobTicket.h"
 
 namespace corvana {
@@ -15,9 +19,12 @@ struct ConversionRequest
     enum class Result {
         PrinterData, ///< what the printer would have got, through the filters of its PPD
         Pdf,         ///< one PDF on the printer's paper, for a queue that does the rest itself
+        /// The pages of one document that the ticket asks for, as a PDF, for a queue that does the
+        /// rest itself; an empty file for a document that has none of them.
+        ChosenPages,
     };
 
-    QList<Document> documents; ///< one or more; several become one PDF first
+    QList<Document> documents; ///< one or more; choices of pages count in each
     JobTicket ticket;
     QString ppdPath;      ///< of the printer; never empty
     QString outputPath{}; ///< is written over
@@ -28,19 +35,41 @@ struct ConversionRequest
     QList<JobOption> layout{};
 };
 
+/// Pages that are picked once it is known how many there are.
+struct PagePick
+{
+    PageChoice choice;
+    QString document; ///< a PDF
+    QString counted;  ///< path of the file with the number of its pages
+
+    bool operator==(const PagePick &) const = default;
+};
+
 /// One program of a plan.
 struct FilterStep
 {
     enum class Writes { StandardOutput, FileOfItsOwn };
+    enum class Yields { Something, PerhapsNothing };
 
     QString program;
     QStringList arguments;
     QString output;     ///< path of the file that holds what it yields
     QString outputName; ///< what messages call that
     Writes writes = Writes::StandardOutput;
+    Yields yields = Yields::Something;
+    /// What it reads of what former steps have yielded. Those that turned out to be empty are left
+    /// out of the arguments; a step that has nothing left yields nothing.
+    QStringList parts{};
+    /// The pages that stand in the arguments in the place of kPickedPages.
+    std::optional<PagePick> pick{};
+    /// How long it may take; 0: as long as it wants.
+    std::chrono::seconds patience{0};
 
     bool operator==(const FilterStep &) const = default;
 };
+
+/// Stands for the pages of a PagePick among the arguments of a step. No program has such an option.
+inline constexpr QLatin1StringView kPickedPages{"--picked-pages--"};
 
 /// The programs that make one result of documents, each after the other. A value: nothing was
 /// looked for and nothing runs.
@@ -51,10 +80,18 @@ struct FilterPlaces
 {
     QString cupsFilter; ///< path of the program
     QString ppd;        ///< of the chain's own; the one of the request is not read
-    QString folder;     ///< for what stands between the documents and the result
+    /// The same, but it has the last sheet of a two-sided document filled with a blank side.
+    QString fillingPpd;
+    QString folder; ///< for what stands between the documents and the result
+    /// Whether what becomes of two documents can stand one after the other in a file.
+    bool resultsCanFollow = true;
 };
 
 FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &places);
+
+/// The options of a job whose pages were laid out already: each that would change them again has
+/// its usual value, so that nobody's default takes its place.
+QList<JobOption> optionsAfterLayout(const QList<JobOption> &options);
 
 /// Whether any of the options shapes the pages of a text or a picture, so that it has to be applied
 /// when a PDF is made of those.

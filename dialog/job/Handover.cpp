@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include "dialog/job/DeviceLogIn.h"
+#include "dialog/job/EarlierJob.h"
 #include "dialog/job/HandoverOutcomes.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/printers/QueueRequests.h"
@@ -60,9 +61,10 @@ QByteArray contentOf(const QString &path)
 class Handover
 {
 public:
-    Handover(ServerWorker &worker, const ServerJobRequest &request, const Document &document,
+    Handover(ServerWorker &worker, const ServerJobRequest &request,
+             const QList<Document> &documents,
              const std::function<void(const JobProgress &)> &report)
-        : m_worker(worker), m_request(request), m_document(document), m_report(report),
+        : m_worker(worker), m_request(request), m_documents(documents), m_report(report),
           m_connection(&worker.connection()), m_logIn(worker, request.printer),
           m_outcomes(request.printer)
     {
@@ -70,9 +72,22 @@ public:
 
     JobOutcome run()
     {
-        QFile file(m_document.path);
-        if (!file.open(QIODevice::ReadOnly))
-            return m_outcomes.cannotBeRead(m_document.title, file.errorString());
+        JobOutcome outcome = createAndFollow();
+        if (outcome.job > 0 && outcome.job == job())
+            outcome.documents = documentCount();
+        return outcome;
+    }
+
+private:
+    JobOutcome createAndFollow()
+    {
+        // Each is opened when its turn comes: there may be more of them than files can be open.
+        for (const Document &document : m_documents) {
+            QFile file(document.path);
+            if (!file.open(QIODevice::ReadOnly))
+                return m_outcomes.cannotBeRead(document.title, file.errorString());
+            m_totalSize += file.size();
+        }
         if (std::optional<JobOutcome> reason = whyNotToSend())
             return *reason;
         if (!m_logIn.ask())
@@ -83,22 +98,24 @@ public:
         if (!job)
             return withdrawNumberless(token);
         m_outcomes.setJob(*job);
-        return sendAndFollow(file);
+        return sendAndFollow();
     }
 
-private:
     ServerWorker &m_worker;
     const ServerJobRequest &m_request;
-    const Document &m_document;
+    const QList<Document> &m_documents;
     const std::function<void(const JobProgress &)> &m_report;
     ServerConnection *m_connection;
     std::unique_ptr<ServerConnection> m_another; // after the first one was lost
     DeviceLogIn m_logIn;
     HandoverOutcomes m_outcomes;
-    bool m_whole = false;      // the server may have all of the document
+    qint64 m_totalSize = 0;    // of the documents
+    bool m_hasPart = false;    // the server may have some of the documents
+    bool m_whole = false;      // the server may have all of them
     bool m_isComplete = false; // the server has all of the job
 
     int job() const { return m_outcomes.job(); }
+    int documentCount() const { return static_cast<int>(m_documents.size()); }
     QString inWords(const ServerProblem &problem) const
     {
         return problem.text(m_worker.context().address);
@@ -146,7 +163,7 @@ private:
 
     std::optional<JobOutcome> whyNotToSend()
     {
-        if (std::optional<JobOutcome> earlier = whatBecameOfTheEarlierJob())
+        if (std::optional<JobOutcome> earlier = whatBecameOfEarlierJob(m_worker, m_request))
             return earlier;
         if (m_request.printer.origin != PrinterOrigin::Queue)
             return std::nullopt;
@@ -171,36 +188,38 @@ private:
         return m_outcomes.notCreated(m_connection->problem(), whatIsWrong());
     }
 
-    // Nothing where the same may be sent again.
-    std::optional<JobOutcome> whatBecameOfTheEarlierJob()
+    JobOutcome sendAndFollow()
     {
-        const int job = m_request.earlierJob;
-        if (job <= 0)
-            return std::nullopt;
-        const auto status = lookUpJob(*m_connection, m_request.printer, job);
-        if (!status && m_connection->problem().kind != ServerProblem::Kind::NotFound)
-            return m_outcomes.earlierJobUnknown(whatIsWrong(), job);
-        const bool mayPrint = status && (status->state == IPP_JSTATE_COMPLETED ||
-                                         (!status->isOver() && status->documents != 0));
-        if (mayPrint)
-            return m_outcomes.earlierJobIsThere(*status, job);
-        return std::nullopt;
+        qint64 before = 0;
+        for (int i = 0; i < documentCount(); ++i) {
+            const Document &document = m_documents.at(i);
+            QFile file(document.path);
+            if (!file.open(QIODevice::ReadOnly))
+                return withdraw(
+                    Kind::Failed,
+                    Texts::tr("%1 cannot be read: %2.").arg(document.title, file.errorString()));
+            const auto reportSent = [&](qint64 bytes) {
+                m_report({JobProgress::Stage::Sending, job(), 0, before + bytes, m_totalSize});
+            };
+            reportSent(0);
+            const bool isLast = i == documentCount() - 1;
+            if (!sendDocument(*m_connection, m_request.printer, job(),
+                              {document.format, document.title, file, isLast}, reportSent))
+                return notSent(isLast);
+            m_hasPart = true;
+            before += file.size();
+        }
+        m_whole = true;
+        return confirmAndFollow();
     }
 
-    JobOutcome sendAndFollow(QFile &file)
+    JobOutcome notSent(bool wasLast)
     {
-        const qint64 total = file.size();
-        m_report({JobProgress::Stage::Sending, job(), 0, 0, total});
-        const bool sent =
-            sendDocument(*m_connection, m_request.printer, job(), m_document.format,
-                         m_document.title, file, [&](qint64 bytes) {
-                             m_report({JobProgress::Stage::Sending, job(), 0, bytes, total});
-                         });
-        const bool mayHaveAll = sent || m_connection->problem().mayPass() ||
-                                m_connection->problem().kind == ServerProblem::Kind::Canceled;
-        m_whole = mayHaveAll && m_connection->documentWasSent();
-        if (sent)
-            return confirmAndFollow();
+        const bool mayHaveIt = (m_connection->problem().mayPass() ||
+                                m_connection->problem().kind == ServerProblem::Kind::Canceled) &&
+                               m_connection->documentWasSent();
+        m_whole = mayHaveIt && wasLast;
+        m_hasPart = m_hasPart || mayHaveIt;
         if (m_worker.isCanceled())
             return withdrawCanceled(m_whole);
         const QString problem = whatIsWrong();
@@ -230,22 +249,33 @@ private:
             const ServerProblem refusal = m_another->problem();
             const auto status = lookUpJob(*m_another, m_request.printer, job());
             if (status && status->isOver())
-                return m_outcomes.ended(*status, m_worker.isCanceled());
+                return ended(*status);
             if (m_isComplete)
                 return m_outcomes.lostSight(refusal, inWords(refusal));
         }
+        if (m_hasPart && !m_whole)
+            return m_outcomes.partNotWithdrawn(why, inWords(m_another->problem()));
         return m_outcomes.notWithdrawn(kind, why, inWords(m_another->problem()), m_whole);
     }
 
-    // The document was sent, and then the server went silent: it may have the job or not.
+    // A server may begin a job anew after a crash, with the documents that it has got by then.
+    JobOutcome ended(const JobStatus &status) const
+    {
+        if (status.state == IPP_JSTATE_COMPLETED && status.lacksDocuments(documentCount()))
+            return m_outcomes.endedInPart(status, documentCount());
+        return m_outcomes.ended(status, m_worker.isCanceled());
+    }
+
+    // The documents were sent, and then the server went silent: it may have the job or not.
     JobOutcome findOut(const QString &problem)
     {
         for (int i = 0; i < kLookUpsAfterFailure; ++i) {
             const auto status = lookUpJob(another(), m_request.printer, job());
             if (status) {
                 m_connection = m_another.get();
-                if (status->documents == 0 && !status->isOver()) {
+                if (status->lacksDocuments(documentCount()) && !status->isOver()) {
                     m_whole = false;
+                    m_hasPart = status->documents > 0;
                     return withdraw(Kind::Failed, problem);
                 }
                 return follow(status);
@@ -284,7 +314,7 @@ private:
                            ? canceledOrLeftAlone()
                            : m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
             if (status->isOver())
-                return m_outcomes.ended(*status, m_worker.isCanceled());
+                return ended(*status);
             const JobProgress progress = progressOf(*status, job());
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
@@ -335,10 +365,11 @@ private:
 
 } // namespace
 
-JobOutcome handOver(ServerWorker &worker, const ServerJobRequest &request, const Document &document,
+JobOutcome handOver(ServerWorker &worker, const ServerJobRequest &request,
+                    const QList<Document> &documents,
                     const std::function<void(const JobProgress &)> &report)
 {
-    return Handover(worker, request, document, report).run();
+    return Handover(worker, request, documents, report).run();
 }
 
 } // namespace corvana

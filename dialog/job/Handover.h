@@ -38,14 +38,18 @@ struct ServerJobRequest
     /// A job of an earlier try whose fate is not known, or 0. It is looked up first, so that the
     /// same is not printed twice by accident.
     int earlierJob = 0;
+    /// How many documents that one was to have; 0 where that is not known.
+    int earlierDocuments = 0;
     /// Whether to follow the job to its end, rather than until the server has all of it.
     bool follow = true;
 };
 
-/// Hands one document to a print server as a job: looks whether it may be sent, creates the job,
-/// sends the document, asks for the job again, and follows it. Waits for a network: for workers.
-/// `report` is told how far it is, on the worker's thread.
-JobOutcome handOver(ServerWorker &worker, const ServerJobRequest &request, const Document &document,
+/// Hands documents to a print server as one job: looks whether they may be sent, creates the job,
+/// sends one document after the other, asks for the job again, and follows it. Waits for a network:
+/// for workers. `documents` stand for those of the request. `report` is told how far it is, on the
+/// worker's thread.
+JobOutcome handOver(ServerWorker &worker, const ServerJobRequest &request,
+                    const QList<Document> &documents,
                     const std::function<void(const JobProgress &)> &report);
 
 } // namespace corvana

@@ -94,6 +94,17 @@ JobOutcome HandoverOutcomes::earlierJobIsThere(const JobStatus &status, int earl
     return {Kind::AlreadyThere, earlierJob, whereTheEarlierJobIs(status).arg(earlierJob)};
 }
 
+JobOutcome HandoverOutcomes::earlierJobIsThereInPart(const JobStatus &status, int earlierJob,
+                                                     int documents) const
+{
+    return {Kind::AlreadyThere, earlierJob,
+            Texts::tr("Job %1 of the earlier try has got %2 of its %3 documents to the printer. "
+                      "Print the others by themselves, or everything once more.")
+                .arg(earlierJob)
+                .arg(status.documents)
+                .arg(documents)};
+}
+
 JobOutcome HandoverOutcomes::mayBeThereWithoutNumber(Kind kind, const QString &why,
                                                      const QString &whyNot) const
 {
@@ -125,6 +136,15 @@ JobOutcome HandoverOutcomes::notWithdrawn(Kind kind, const QString &why, const Q
     return failed(Texts::tr("%1 Job %2 may still be at the print server, without its whole "
                             "document. It could not be canceled: %3")
                       .arg(why, name(), whyNot));
+}
+
+JobOutcome HandoverOutcomes::partNotWithdrawn(const QString &why, const QString &whyNot) const
+{
+    return outcome(Kind::Unknown,
+                   Texts::tr("%1 Job %2 may still be at the print server with some of its "
+                             "documents, and may print these. It could not be canceled: %3 "
+                             "Printing again looks for it first.")
+                       .arg(why, name(), whyNot));
 }
 
 QString HandoverOutcomes::credentialsRefused() const
@@ -202,6 +222,14 @@ JobOutcome HandoverOutcomes::ended(const JobStatus &status, bool canceledHere) c
         return canceledBefore();
     return outcome(Kind::Canceled,
                    Texts::tr("Job %1 was canceled at the printer or its server.").arg(name()));
+}
+
+JobOutcome HandoverOutcomes::endedInPart(const JobStatus &status, int documents) const
+{
+    return failed(Texts::tr("Job %1 was printed with %2 of its %3 documents only.")
+                      .arg(name())
+                      .arg(status.documents)
+                      .arg(documents));
 }
 
 } // namespace corvana

@@ -34,6 +34,9 @@ public:
     /// Whether the job of an earlier try was printed could not be found out.
     JobOutcome earlierJobUnknown(const QString &why, int earlierJob) const;
     JobOutcome earlierJobIsThere(const JobStatus &status, int earlierJob) const;
+    /// It has, or prints, some of its documents only: the others never came.
+    JobOutcome earlierJobIsThereInPart(const JobStatus &status, int earlierJob,
+                                       int documents) const;
 
     // It may have been made, or it was taken back: `why` is a sentence about what made that
     // necessary, `whyNot` the one about what stood in the way
@@ -44,6 +47,8 @@ public:
     /// `isWhole`: the server may have all of the document.
     JobOutcome notWithdrawn(JobOutcome::Kind kind, const QString &why, const QString &whyNot,
                             bool isWhole) const;
+    /// The server may have some of the documents, and will print them although the rest never came.
+    JobOutcome partNotWithdrawn(const QString &why, const QString &whyNot) const;
     /// A reason to take a job back.
     QString credentialsRefused() const;
 
@@ -57,6 +62,8 @@ public:
     JobOutcome inQueue(const JobProgress &progress) const;
     /// `canceledHere`: by the user, rather than at the printer or its server.
     JobOutcome ended(const JobStatus &status, bool canceledHere) const;
+    /// It was printed without some of its documents.
+    JobOutcome endedInPart(const JobStatus &status, int documents) const;
 
 private:
     JobOutcome outcome(JobOutcome::Kind kind, const QString &text) const;

@@ -19,9 +19,10 @@ struct JobOutcome
     };
 
     Kind kind = Kind::Failed;
-    int job = 0;    ///< its number at the server; 0 when it never had one
-    QString text{}; ///< for a person: one or more sentences
-    QString file{}; ///< absolute path of a result that is a file; empty for a job of a server
+    int job = 0;       ///< its number at the server; 0 when it never had one
+    QString text{};    ///< for a person: one or more sentences
+    QString file{};    ///< absolute path of a result that is a file; empty for a job of a server
+    int documents = 0; ///< how many the job at its server was to have; 0 where that is not known
 
     bool operator==(const JobOutcome &) const = default;
     /// Whether the server has the job, or the file is there, for the exit status.

@@ -181,17 +181,17 @@ std::optional<int> findJob(ServerConnection &connection, const Printer &printer,
 }
 
 bool sendDocument(ServerConnection &connection, const Printer &printer, int job,
-                  const QString &format, const QString &title, QIODevice &document,
-                  const std::function<void(qint64 sent)> &progress)
+                  const DocumentToSend &document, const std::function<void(qint64 sent)> &progress)
 {
     IppMessage request = newIppRequest(IPP_OP_SEND_DOCUMENT, printer.uri);
     addJob(request.get(), job);
     addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name",
-                 withinLimit(shownText(title.toUtf8().constData())));
-    addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", format);
-    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
-    return connection.request(std::move(request), resourceOf(printer), document, progress) !=
-           nullptr;
+                 withinLimit(shownText(document.title.toUtf8().constData())));
+    addIppString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format",
+                 document.format);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", document.isLast ? 1 : 0);
+    return connection.request(std::move(request), resourceOf(printer), document.content,
+                              progress) != nullptr;
 }
 
 std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &printer, int job)

@@ -25,6 +25,9 @@ struct JobStatus
     bool begun = true; ///< whether anything of it may have got to the printer
 
     bool isOver() const { return state >= IPP_JSTATE_CANCELED; }
+    /// Whether it has fewer documents than it was to have. What the server does not count, or
+    /// nobody remembers (0), is no less.
+    bool lacksDocuments(int wanted) const { return documents >= 0 && documents < wanted; }
     bool operator==(const JobStatus &) const = default;
 };
 
@@ -47,10 +50,18 @@ std::optional<int> createJob(ServerConnection &connection, const Printer &printe
 std::optional<int> findJob(ServerConnection &connection, const Printer &printer,
                            const QString &token);
 
-/// Sends the document of a job, its only one. Errors: false.
+/// One document on its way to a job.
+struct DocumentToSend
+{
+    QString format;
+    QString title;
+    QIODevice &content;
+    bool isLast = true; ///< of its job, which may be printed from then on
+};
+
+/// Sends a document of a job. Errors: false.
 bool sendDocument(ServerConnection &connection, const Printer &printer, int job,
-                  const QString &format, const QString &title, QIODevice &document,
-                  const std::function<void(qint64 sent)> &progress);
+                  const DocumentToSend &document, const std::function<void(qint64 sent)> &progress);
 
 /// Errors: nothing; the problem is `NotFound` for a job that its server does not know.
 std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &printer, int job);

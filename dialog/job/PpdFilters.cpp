@@ -92,6 +92,33 @@ template <size_t N> bool isOneOf(const QString &text, const QLatin1StringView (&
     return std::find(std::begin(list), std::end(list), text) != std::end(list);
 }
 
+// Programs that end with a file rather than with a stream; what their names end with.
+constexpr QLatin1StringView kMakersOfFiles[] = {"topdf"_L1, "topclm"_L1, "topwg"_L1, "tourf"_L1,
+                                                "toraster"_L1};
+
+// Formats of files that nothing can be appended to.
+bool isFormatOfFiles(const QString &format)
+{
+    return format.startsWith("image/"_L1) || format.endsWith("pdf"_L1) ||
+           format.endsWith("pclm"_L1) || format == "application/vnd.cups-raster"_L1;
+}
+
+// Whether a line leads to a file. A filter line without a destination says only by its program what
+// comes out; with one it says so itself.
+bool leadsToFile(const QByteArray &line)
+{
+    const QStringList words = QString::fromLatin1(line).simplified().toLower().split(u' ');
+    const FilterLine read = readFilterLine(line);
+    if (read.source == kCommandFormat || words.size() < 3)
+        return false;
+    if (words.at(1).contains(u'/'))
+        return isFormatOfFiles(words.at(1));
+    if (read.program == kNoProgram)
+        return isFormatOfFiles(read.source);
+    return std::any_of(std::begin(kMakersOfFiles), std::end(kMakersOfFiles),
+                       [&](QLatin1StringView end) { return read.program.endsWith(end); });
+}
+
 // The lines that libcups goes by. It is asked for them, so that there is one reading of a PPD.
 QList<QByteArray> filterLines(ppd_file_t *ppd)
 {
@@ -143,6 +170,18 @@ QString problemOfPpdFilters(const QString &ppdPath)
     return Texts::tr("The driver of this printer needs the program “%1”, which only a print server "
                      "may run. Print on the printer itself instead of into a file.")
         .arg(shownFilter(*unsafe));
+}
+
+PpdStream streamOfPpd(const QString &ppdPath)
+{
+    QString problem;
+    const PpdFile ppd = openPpdFile(ppdPath, &problem);
+    if (!ppd)
+        return {};
+    const QList<QByteArray> lines = filterLines(ppd.get());
+    const ppd_attr_t *single = ppdFindAttr(ppd.get(), "cupsSingleFile", nullptr);
+    return {std::none_of(lines.cbegin(), lines.cend(), leadsToFile),
+            single && QByteArray(single->value).toLower() == "true"};
 }
 
 } // namespace corvana

@@ -20,4 +20,20 @@ bool isSafeFilterLine(const QByteArray &line);
 /// Errors: a PPD that cannot be opened is a reason.
 QString problemOfPpdFilters(const QString &ppdPath);
 
+/// What becomes of several documents of one job, as the PPD of their queue has it.
+struct PpdStream
+{
+    /// Whether what the filters make of two documents can stand one after the other in a stream:
+    /// PostScript and the languages of printers can. Of two PDF or raster files in a row a printer
+    /// sees the first at most.
+    bool continues = true;
+    /// Whether a print server hands each document to the device by itself all the same.
+    bool isCutByServer = false;
+
+    bool operator==(const PpdStream &) const = default;
+};
+
+/// Errors: a PPD that cannot be opened has a stream that continues.
+PpdStream streamOfPpd(const QString &ppdPath);
+
 } // namespace corvana

@@ -2,7 +2,12 @@
 
 #include <algorithm>
 
+#include <QFileInfo>
+
+#include "dialog/job/DocumentCopies.h"
 #include "dialog/job/JobRequests.h"
+#include "dialog/job/PageChoice.h"
+#include "dialog/job/PpdFilters.h"
 #include "dialog/session/JobAttributes.h"
 
 namespace corvana {
@@ -62,7 +67,10 @@ void ServerJob::start()
     if (secret && !m_request.server.address.isLocal() &&
         m_request.server.address.encryption != HTTP_ENCRYPTION_ALWAYS)
         m_request.server.address.encryption = HTTP_ENCRYPTION_REQUIRED;
-    convert();
+    if (m_request.printer.origin == PrinterOrigin::Queue)
+        convertForQueue();
+    else
+        convertForDevice();
 }
 
 // The options that only the printer could follow, and does not know.
@@ -81,7 +89,7 @@ QList<JobOption> ServerJob::refusedOptions() const
 QList<JobOption> ServerJob::layout() const
 {
     QList<JobOption> layout;
-    bool allTaken = true;
+    bool allTaken = m_request.documents.size() == 1 && !mustPickPages(m_request.ticket.options);
     for (const JobOption &option : m_request.ticket.options) {
         if (!isAppliedByChain(option) || asksForNothing(option, m_request.ticket.copies))
             continue;
@@ -97,8 +105,46 @@ bool ServerJob::isTaken(const JobOption &option) const
            asksForNothing(option, m_request.ticket.copies);
 }
 
-// Several documents become one; and what an IPP printer does not take becomes what it does take.
-void ServerJob::convert()
+// The filters of a queue convert each document of a job by itself.
+void ServerJob::convertForQueue()
+{
+    const QList<Document> &documents = m_request.documents;
+    const bool several = documents.size() > 1;
+    const bool isRaw = m_request.ppdLastModified == 0;
+    const bool picks = mustPickPages(m_request.ticket.options);
+    if (const QString problem = isRaw ? problemOfRawQueue() : QString(); !problem.isEmpty())
+        return finish({JobOutcome::Kind::Failed, 0, problem});
+    const PpdStream stream = isRaw ? PpdStream() : streamOfPpd(m_request.ppdPath);
+    if (several && !stream.continues && !stream.isCutByServer)
+        return putTogether();
+    if (picks)
+        return pickNext();
+    send(documents, m_request.ticket);
+}
+
+// A queue without a driver hands everything to its device as it comes, in one stream.
+QString ServerJob::problemOfRawQueue() const
+{
+    const QList<Document> &documents = m_request.documents;
+    const auto continues = [](const Document &document) {
+        return document.format == "application/postscript"_L1 || document.format == "text/plain"_L1;
+    };
+    const auto first = std::find_if_not(documents.cbegin(), documents.cend(), continues);
+    if (documents.size() > 1 && first != documents.cend())
+        return tr("The queue “%1” has no driver and sends documents to its printer as they are, in "
+                  "one stream, where a printer finds the end of %2 only by the end of the job. "
+                  "Print the documents one at a time. Nothing was printed.")
+            .arg(m_request.printer.name, first->title);
+    if (mustPickPages(m_request.ticket.options))
+        return tr("The queue “%1” has no driver and prints documents as they are: it can put "
+                  "neither several pages on a sheet (number-up) nor choose pages (page-ranges, "
+                  "page-set). Nothing was printed.")
+            .arg(m_request.printer.name);
+    return {};
+}
+
+// What an IPP printer does not take becomes what it does take; several documents become one.
+void ServerJob::convertForDevice()
 {
     const QStringList &formats = m_request.formats;
     const Document &first = m_request.documents.constFirst();
@@ -111,8 +157,10 @@ void ServerJob::convert()
         !formats.isEmpty() && first.format != kPdf && shapesDocuments(m_request.ticket.options);
     const bool taken = formats.isEmpty() || formats.contains(first.format) ||
                        (!convertible && formats.contains("application/octet-stream"_L1));
-    if (m_request.documents.size() == 1 && taken && pages.isEmpty() && !isShaped)
-        return send(first, m_request.ticket);
+    const bool several = m_request.documents.size() > 1;
+    if (!several && taken && pages.isEmpty() && !isShaped)
+        return send(m_request.documents, m_request.ticket);
+    m_isPutTogether = several;
     if (formats.isEmpty() || formats.contains(kPdf))
         return runConversion(toPdf(pages), kPdf);
     if (formats.contains(kRaster))
@@ -120,6 +168,33 @@ void ServerJob::convert()
     finish({JobOutcome::Kind::Failed, 0,
             tr("The printer “%1” takes documents of these kinds only: %2.")
                 .arg(m_request.printer.name, formats.join(u", "_s))});
+}
+
+// For a queue whose printer would see only the first of several files in a stream. Its filters do
+// what remains, which is nothing to the pages any more.
+void ServerJob::putTogether()
+{
+    m_isPutTogether = true;
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    request.result = ConversionRequest::Result::Pdf;
+    request.layout = m_request.ticket.options;
+    runConversion(request, kPdf);
+}
+
+// The next document with the pages that are asked for. One that has none of them is left out.
+void ServerJob::pickNext()
+{
+    const qsizetype next = m_pickedOf;
+    if (next == m_request.documents.size()) {
+        if (m_picked.isEmpty())
+            return finish({JobOutcome::Kind::Failed, 0, noSuchPages()});
+        JobTicket ticket = m_request.ticket;
+        ticket.options = withoutPageChoice(ticket.options);
+        return send(m_picked, ticket);
+    }
+    ConversionRequest request{{m_request.documents.at(next)}, m_request.ticket, m_request.ppdPath};
+    request.result = ConversionRequest::Result::ChosenPages;
+    runConversion(request, kPdf);
 }
 
 ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
@@ -142,44 +217,77 @@ ConversionRequest ServerJob::toRaster() const
 void ServerJob::runConversion(const ConversionRequest &request, QLatin1StringView format)
 {
     report({JobProgress::Stage::Converting});
-    m_parts = std::make_unique<QTemporaryDir>();
+    if (!m_parts)
+        m_parts = std::make_unique<QTemporaryDir>();
     if (!m_parts->isValid())
         return finish({JobOutcome::Kind::Failed, 0, m_parts->errorString()});
-    m_converted = {m_parts->filePath(u"document"_s), format, m_request.ticket.title};
+    const bool isOne = request.documents.size() == 1;
+    m_converted = {m_parts->filePath(u"document-%1"_s.arg(m_pickedOf)), format,
+                   isOne ? request.documents.constFirst().title : m_request.ticket.title};
     ConversionRequest intoFile = request;
     intoFile.outputPath = m_converted.path;
     intoFile.outputName = m_converted.path;
     m_conversion = std::make_unique<Conversion>(intoFile);
-    connect(m_conversion.get(), &Conversion::finished, this, &ServerJob::converted);
+    const bool picks = request.result == ConversionRequest::Result::ChosenPages;
+    connect(m_conversion.get(), &Conversion::finished, this,
+            [this, picks](const QString &problem) { converted(problem, picks); });
     m_conversion->start();
 }
 
-void ServerJob::converted(const QString &problem)
+void ServerJob::converted(const QString &problem, bool isPicked)
 {
     m_conversion.release()->deleteLater();
     if (m_canceled)
         return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
+    if (isPicked) {
+        if (QFileInfo(m_converted.path).size() > 0)
+            m_picked += m_converted;
+        ++m_pickedOf;
+        return pickNext();
+    }
     JobTicket ticket = m_request.ticket;
-    const bool isLaidOut = m_converted.format == kRaster || !layout().isEmpty();
-    if (isLaidOut)
+    if (m_request.printer.origin == PrinterOrigin::Queue)
+        ticket.options = optionsAfterLayout(ticket.options);
+    else if (m_converted.format == kRaster || m_isPutTogether || !layout().isEmpty())
         ticket.options.removeIf(isAppliedByChain);
-    send(m_converted, ticket);
+    send({m_converted}, ticket);
 }
 
-void ServerJob::send(const Document &document, const JobTicket &ticket)
+void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
 {
     report({JobProgress::Stage::Sending});
     ServerJobRequest request = m_request;
     request.ticket = ticket;
-    m_work = ServerWork(m_request.server, [this, request, document](ServerWorker &worker) {
-        const JobOutcome outcome =
-            handOver(worker, request, document, [&](const JobProgress &progress) {
-                worker.post([this, progress] { followed(progress); });
-            });
+    const int times = repetitionsOf(ticket, static_cast<int>(documents.size()));
+    QList<Document> all;
+    for (int i = 0; i < times; ++i)
+        all += documents;
+    if (times > 1)
+        request.ticket.copies = 1;
+    const QString remark = remarkOn(ticket, static_cast<int>(documents.size()));
+    m_work = ServerWork(m_request.server, [this, request, all, remark](ServerWorker &worker) {
+        JobOutcome outcome = handOver(worker, request, all, [&](const JobProgress &progress) {
+            worker.post([this, progress] { followed(progress); });
+        });
+        if (outcome.isDone() && !remark.isEmpty())
+            outcome.text += u' ' + remark;
         worker.post([this, outcome] { finish(outcome); });
     });
+}
+
+// What comes out otherwise than somebody might expect who has given several documents.
+QString ServerJob::remarkOn(const JobTicket &ticket, int documents) const
+{
+    if (m_isPutTogether)
+        return tr("The documents were put together as one, because the printer takes one at a "
+                  "time; each begins on a new sheet.");
+    const CopiesOrder order = copiesOrder(ticket, documents, false);
+    if (order == CopiesOrder::EachDocument && isCollated(ticket.options))
+        return tr("There are too many copies to send them in sets. Their order is: %1.")
+            .arg(textOf(order));
+    return {};
 }
 
 void ServerJob::followed(const JobProgress &progress)

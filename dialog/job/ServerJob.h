@@ -12,7 +12,7 @@
 namespace corvana {
 
 /// Hands one job to a print server and follows it: converts what has to be converted, creates the
-/// job, sends the document, and asks for the job again before anything is called printed.
+/// job, sends the documents, and asks for the job again before anything is called printed.
 class ServerJob : public Job
 {
     Q_OBJECT
@@ -32,18 +32,26 @@ private:
     QList<JobOption> refusedOptions() const;
     QList<JobOption> layout() const;
     bool isTaken(const JobOption &option) const;
-    void convert();
+    void convertForQueue();
+    void convertForDevice();
+    QString problemOfRawQueue() const;
+    void putTogether();
+    void pickNext();
     ConversionRequest toPdf(const QList<JobOption> &pages) const;
     ConversionRequest toRaster() const;
     void runConversion(const ConversionRequest &request, QLatin1StringView format);
-    void converted(const QString &problem);
-    void send(const Document &document, const JobTicket &ticket);
+    void converted(const QString &problem, bool isPicked);
+    void send(const QList<Document> &documents, const JobTicket &ticket);
+    QString remarkOn(const JobTicket &ticket, int documents) const;
     void followed(const JobProgress &progress);
 
     ServerJobRequest m_request;
     std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<Conversion> m_conversion;
     Document m_converted;
+    QList<Document> m_picked;
+    qsizetype m_pickedOf = 0; // documents
+    bool m_isPutTogether = false;
     ServerWork m_work;
     bool m_canceled = false;
     bool m_handedOver = false;

@@ -134,7 +134,9 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
-        request.earlierJob = m_memory.value(idOf(m_chosen.printer)).earlierJob;
+        const Memory memory = m_memory.value(idOf(m_chosen.printer));
+        request.earlierJob = memory.earlierJob;
+        request.earlierDocuments = memory.earlierDocuments;
         m_run.job = std::make_unique<ServerJob>(request);
     }
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
@@ -188,10 +190,12 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a
     // number has learnt nothing about an earlier one.
     if (outcome.kind == Kind::Unknown || outcome.kind == Kind::InQueue ||
-        outcome.kind == Kind::Stopped)
+        outcome.kind == Kind::Stopped) {
         memory.earlierJob = outcome.job;
-    else if (outcome.job > 0)
+        memory.earlierDocuments = outcome.documents;
+    } else if (outcome.job > 0) {
         memory.earlierJob = 0;
+    }
     // What a script prints to says nothing about what its user opens next.
     if (m_chosen.canBeAnother && outcome.isDone() && outcome.file.isEmpty())
         m_source.rememberUse(m_chosen.printer);

@@ -159,6 +159,7 @@ private:
     {
         std::optional<LeftSession> session;
         int earlierJob = 0; // that may print yet
+        int earlierDocuments = 0;
     };
     struct Chosen
     {

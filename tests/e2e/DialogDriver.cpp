@@ -1,5 +1,5 @@
-#include "dialog/app/RequestFromCommandLine.h"
 #include "tests/e2e/DialogDriver.h"
+#include "dialog/app/RequestFromCommandLine.h"
 
 #include <stdexcept>
 

@@ -1,5 +1,5 @@
-#include "dialog/app/RequestFromCommandLine.h"
 #include "tests/e2e/QueueDriver.h"
+#include "dialog/app/RequestFromCommandLine.h"
 
 #include <algorithm>
 #include <stdexcept>

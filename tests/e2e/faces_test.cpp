@@ -1,14 +1,9 @@
 #include <QDir>
 #include <QFile>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
-#include "dialog/app/CommandLine.h"
-#include "dialog/app/RequestFromCommandLine.h"
 #include "tests/dialog/support/TestPrinters.h"
-#include "tests/e2e/DialogDriver.h"
-#include "tests/e2e/ProgramRunner.h"
+#include "tests/e2e/BothFaces.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
 
@@ -17,8 +12,6 @@ using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kPatience = 30000; // milliseconds that printing may take on a busy machine
 
 /// What a user asks for. In every text {work} is a folder of the test's own.
 struct Wish
@@ -126,13 +119,6 @@ class FacesTest : public QObject
     Q_OBJECT
 
 private:
-    struct End
-    {
-        QString said{}; ///< instead of printing
-        QByteArray printed{};
-        bool isPrinted = false;
-    };
-
     std::unique_ptr<QTemporaryDir> m_work;
 
     QString inWork(const QString &text) const
@@ -155,71 +141,13 @@ private:
         QFile file(name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    // What was printed, less when that was; nothing of it is left.
-    static QByteArray takeOutput(const QString &name)
+    FaceEnd inTerminal(const Wish &wish) const
     {
-        QByteArrayList lines = contentOf(name).split('\n');
-        lines.removeIf([](const QByteArray &line) { return line.startsWith("%%CreationDate: "); });
-        QFile::remove(name);
-        return lines.join('\n');
+        return printInTerminal(arguments(wish), inWork(wish.output));
     }
-
-    End printInTerminal(const Wish &wish)
+    FaceEnd inWindow(const Wish &wish) const
     {
-        ProgramRunner runner(u"127.0.0.1:1"_s);
-        runner.setVariable(u"LC_ALL"_s, qEnvironmentVariable("LC_ALL"));
-        const RunEnd run = runner.run(arguments(wish));
-        if (run.status == 0)
-            return {{}, takeOutput(inWork(wish.output)), true};
-        const QString nothing = u"Nothing was printed.\n"_s;
-        if (run.status != 1 || !run.err.endsWith(nothing))
-            return {u"status %1: %2"_s.arg(run.status).arg(run.err)};
-        QString said = run.err.chopped(nothing.size());
-        said.replace(u"\ncorvana-print: "_s, u"\n"_s);
-        return {said.remove(u"corvana-print: "_s).trimmed()};
-    }
-
-    static QString textOf(const PrintWindow &window, const QString &name)
-    {
-        const auto *label = window.findChild<QLabel *>(name);
-        return label && label->isVisible() ? label->text() : QString();
-    }
-    // Everything that the window says to whoever wants to print.
-    static QString saidIn(const PrintWindow &window)
-    {
-        QString said = textOf(window, u"messageText"_s) + textOf(window, u"waitingText"_s);
-        return said.remove(u"What was asked for cannot be set:\n"_s);
-    }
-    End printInWindow(const Wish &wish)
-    {
-        using Phase = PrintTask::Phase;
-        const ParsedCommandLine parsed = parseCommandLine(
-            QStringList{u"corvana-print"_s, u"--bundle-root"_s, bundleRoot()} + arguments(wish));
-        QString error;
-        const auto request = preparePrintRequest(parsed.commandLine.value(), &error);
-        if (!request)
-            return {error};
-        AlertAnswerer alerts;
-        PrintWindow window(*request);
-        window.show();
-        const bool opened = QTest::qWaitFor(
-            [&] {
-                const Phase phase = window.task().phase();
-                return phase == Phase::Ready || phase == Phase::Missing;
-            },
-            kPatience);
-        if (!opened)
-            return {u"the printer does not open"_s};
-        if (const QString said = saidIn(window); !said.isEmpty())
-            return {said};
-        window.findChild<QPushButton *>(u"print"_s)->click();
-        const bool ended = QTest::qWaitFor(
-            [&] { return !window.isVisible() || !saidIn(window).isEmpty(); }, kPatience);
-        if (!ended)
-            return {u"the job does not end"_s};
-        if (window.isVisible())
-            return {saidIn(window)};
-        return {{}, takeOutput(inWork(wish.output)), true};
+        return printInWindow(arguments(wish), inWork(wish.output));
     }
 
 private Q_SLOTS:
@@ -247,8 +175,8 @@ private Q_SLOTS:
     void whatIsRefusedIsRefusedInTheSameWords()
     {
         const Wish &wish = currentRow(kRefused);
-        const End terminal = printInTerminal(wish);
-        const End window = printInWindow(wish);
+        const FaceEnd terminal = inTerminal(wish);
+        const FaceEnd window = inWindow(wish);
         QVERIFY(!terminal.isPrinted);
         QVERIFY(!window.isPrinted);
         const QString expected = inWork(QString::fromUtf8(wish.says));
@@ -263,9 +191,9 @@ private Q_SLOTS:
     void whatIsPrintedIsTheSame()
     {
         const Wish &wish = currentRow(kPrinted);
-        const End terminal = printInTerminal(wish);
+        const FaceEnd terminal = inTerminal(wish);
         QVERIFY2(terminal.isPrinted, qPrintable(terminal.said));
-        const End window = printInWindow(wish);
+        const FaceEnd window = inWindow(wish);
         QVERIFY2(window.isPrinted, qPrintable(window.said));
         QVERIFY(terminal.printed.startsWith("%!PS"));
         QVERIFY(window.printed == terminal.printed);
@@ -284,9 +212,9 @@ private Q_SLOTS:
         QFETCH(QString, policy);
         QFETCH(QString, says);
         const Wish wish{"", {u"-o"_s, u"QXMediaType=Label"_s, u"--on-alert="_s + policy}};
-        const End terminal = printInTerminal(wish);
+        const FaceEnd terminal = inTerminal(wish);
         QVERIFY2(!terminal.isPrinted && terminal.said.contains(says), qPrintable(terminal.said));
-        const End window = printInWindow(wish);
+        const FaceEnd window = inWindow(wish);
         QVERIFY2(window.isPrinted, qPrintable(window.said));
     }
 };

@@ -26,6 +26,23 @@ theManualExplainsEveryOption() {
     done
 }
 
+# What the package cups does with the file: the drivers that it lists are searched for the expression,
+# then for the name that a queue's PPD has.
+queuesOfOurPpdsAreRenewedWithAnUpgradeAndNoOthers() {
+    local ppd name DRIVER_REGEXP='' GENNICKNAME_REGEXP=''
+    # shellcheck source=packaging/cups/corvana-print.ppd-updater
+    . "$source_root/packaging/cups/corvana-print.ppd-updater"
+    for ppd in "$source_root"/resources/ppd/*.ppd; do
+        name=$(sed -n 's/^\*NickName: "\(.*\)"/\1/p' "$ppd")
+        printf 'corvana/%s %s\n' "$(basename "$ppd")" "$name"
+    done >"$work/drivers"
+    [ "$(wc -l <"$work/drivers")" -gt 2 ] || fail 'no PPDs were found'
+    expect_equal "$(grep -cE "$DRIVER_REGEXP" "$work/drivers")" "$(wc -l <"$work/drivers")"
+    expect_equal "$(printf 'everywhere IPP Everywhere\ndrv:///sample.drv/corvana/x.ppd Sample\n' |
+        grep -cE "$DRIVER_REGEXP")" 0
+    expect_nothing 'two PPDs have one name' "$(cut -d ' ' -f 2- "$work/drivers" | sort | uniq -d)"
+}
+
 theManualHasNoErrors() {
     LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings --encoding=UTF-8 --local-file "$manual" \
         >/dev/null 2>"$work/err" || fail 'the manual cannot be read'

@@ -18,6 +18,9 @@ CannedAnswer answerAbout(const SaidOfJob &job)
     ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", job.state);
     if (job.documents >= 0)
         ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", job.documents);
+    // What has not happened yet has no time.
+    if (!job.begun)
+        ippAddOutOfBand(answer, IPP_TAG_JOB, IPP_TAG_NOVALUE, "time-at-processing");
     return ippAnswer(answer);
 }
 
@@ -48,8 +51,10 @@ CannedAnswer JobServer::answer(const CannedRequest &request)
     case IPP_OP_GET_JOBS:
         return listOfJobs();
     case IPP_OP_SEND_DOCUMENT:
-        return m_losesAnswer ? CannedAnswer{{}, true} : ippAnswer(newIppAnswer());
+        return answerToDocument();
     case IPP_OP_CANCEL_JOB:
+        if (m_losesCancellation)
+            return {{}, true};
         say({afterCancel()});
         return ippAnswer(newIppAnswer(m_cancels ? IPP_STATUS_OK : IPP_STATUS_ERROR_NOT_POSSIBLE));
     case IPP_OP_GET_JOB_ATTRIBUTES:
@@ -80,6 +85,17 @@ CannedAnswer JobServer::answerToCreation(const CannedRequest &request)
     default:
         return {{}, true};
     }
+}
+
+CannedAnswer JobServer::answerToDocument()
+{
+    const int number = ++m_documents;
+    if (m_act)
+        m_act(number);
+    if (m_losesAnswerTo == 0 || m_losesAnswerTo == number)
+        return {{}, true};
+    return ippAnswer(newIppAnswer(
+        m_refuses == number ? IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED : IPP_STATUS_OK));
 }
 
 CannedAnswer JobServer::listOfJobs()

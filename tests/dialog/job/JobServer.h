@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <mutex>
 
 #include <QList>
@@ -22,6 +23,7 @@ struct SaidOfJob
     int documents = 1; ///< -1: does not say
     ipp_status_t status = IPP_STATUS_OK;
     bool hangsUp = false;
+    bool begun = true; ///< something of it may have got to the printer
 };
 
 /// A server of one queue and at most two jobs, which says of them what a test wants.
@@ -41,9 +43,15 @@ public:
         const std::scoped_lock lock(m_mutex);
         m_earlier = state;
     }
-    /// Hangs up when it has the whole document, instead of an answer.
-    void loseTheAnswerToTheDocument() { m_losesAnswer = true; }
+    /// Hangs up when it has the whole document, instead of an answer; the one of that number only
+    /// (from 1), where it is given.
+    void loseTheAnswerToTheDocument(int number = 0) { m_losesAnswerTo = number; }
+    /// Refuses the document of that number.
+    void refuseTheDocument(int number) { m_refuses = number; }
+    /// Called in the server's thread when the document of a number has come.
+    void whenADocumentComes(const std::function<void(int number)> &act) { m_act = act; }
     void refuseToCancel() { m_cancels = false; }
+    void loseTheAnswerToTheCancellation() { m_losesCancellation = true; }
     /// Said of the job as soon as it was to be canceled, whether or not that was done.
     void sayAfterCancel(const SaidOfJob &state)
     {
@@ -76,6 +84,7 @@ private:
     CannedAnswer answer(const CannedRequest &request);
     CannedAnswer answerToCreation(const CannedRequest &request);
     CannedAnswer listOfJobs();
+    CannedAnswer answerToDocument();
     SaidOfJob afterCancel();
     SaidOfJob stateOf(int job);
 
@@ -83,8 +92,13 @@ private:
     QList<SaidOfJob> m_states{SaidOfJob()};
     SaidOfJob m_earlier;
     SaidOfJob m_afterCancel;
-    std::atomic<bool> m_losesAnswer{false};
+    static constexpr int kNone = -1;
+    std::atomic<int> m_losesAnswerTo{kNone};
+    std::atomic<int> m_refuses{kNone};
+    std::atomic<int> m_documents{0};
+    std::function<void(int)> m_act; // set before anything is sent
     std::atomic<bool> m_cancels{true};
+    std::atomic<bool> m_losesCancellation{false};
     std::atomic<int> m_ppdStatus{404};
     std::atomic<bool> m_knowsQueue{true};
     std::atomic<Creation> m_creation{Creation::Answered};

@@ -24,19 +24,24 @@ using Kind = JobOutcome::Kind;
 
 namespace {
 
-// One script for the filter chain and for the program that unites documents. Each call is a stage,
-// named by what it reads: "one.txt", "two.txt", "unite", "whole.pdf". The test makes a file
-// hold-STAGE, fail-STAGE or crash-STAGE to say what shall become of it.
+// One script for the filter chain and for the program that works on PDFs. Each call is a stage,
+// named by what it reads ("one.txt", "0.pdf" for what that has become, "whole.pdf") or does
+// ("count", "pick", "unite"). The test makes a file hold-STAGE, fail-STAGE or crash-STAGE to say
+// what shall become of it. Every document has as many pages as the file "pages" says.
 constexpr char kStages[] = R"sh(
 program=${0##*/}
 for last in "$@"; do :; done
 stage=${last##*/}
-[ "$program" = pdfunite ] && stage=unite
+[ "$program" = qpdf ] && stage=pick
+for argument in "$@"; do
+    [ "$argument" = --show-npages ] && stage=count
+    [ "$argument" = --empty ] && stage=unite
+done
 printf '%s\n' "$@" >"$DIR/arguments-$stage"
 echo "$stage" >>"$DIR/stages"
 echo $$ >"$DIR/pid"
 output=/dev/stdout
-[ "$program" = pdfunite ] && output=$last
+[ "$stage" = unite ] || [ "$stage" = pick ] && output=$last
 if [ -e "$DIR/hold-$stage" ]; then
     echo half >"$output"
     touch "$DIR/held"
@@ -51,7 +56,13 @@ fi
 [ -e "$DIR/nothing-$stage" ] && exit 0
 [ -e "$DIR/half-$stage" ] && { echo half >"$output"; exit 0; }
 case $stage in
-unite) while [ $# -gt 1 ]; do grep -v EOF "$1"; shift; done >"$output"; echo '%%EOF' >>"$output" ;;
+unite)
+    for part in "$@"; do [ -f "$part" ] && [ "$part" != "$last" ] && grep -v EOF "$part"; done >"$output"
+    echo '%%EOF' >>"$output"
+    ;;
+count) cat "$DIR/pages" ;;
+pick) { grep -v EOF "$3" | sed "s/\$/, pages $6/"; echo '%%EOF'; } >"$output" ;;
+[0-9]*.pdf) cat "$last" ;;
 whole.pdf) grep -v EOF "$last" ;;
 *) printf '%s as PDF\n%%%%EOF\n' "$(cat "$last")" ;;
 esac
@@ -63,10 +74,8 @@ struct Stage
     const char *stage;
 };
 constexpr Stage kStageRows[] = {
-    {"the first document", "one.txt"},
-    {"another document", "two.txt"},
-    {"uniting them", "unite"},
-    {"the result", "whole.pdf"},
+    {"the first document", "one.txt"}, {"its layout", "0.pdf"},   {"another document", "two.txt"},
+    {"the layout of that", "2.pdf"},   {"uniting them", "unite"}, {"the result", "whole.pdf"},
 };
 
 struct Failure
@@ -82,6 +91,9 @@ constexpr Failure kFailures[] = {
     {"another document fails", "fail-two.txt", "two.txt is upside down"},
     {"another document crashes", "crash-two.txt", "crashed"},
     {"another document yields nothing", "nothing-two.txt", "nothing came out"},
+    {"a layout fails", "fail-2.pdf", "2.pdf is upside down"},
+    {"a layout crashes", "crash-2.pdf", "crashed"},
+    {"a layout yields nothing", "nothing-2.pdf", "nothing came out"},
     {"uniting fails", "fail-unite", "unite is upside down"},
     {"uniting crashes", "crash-unite", "crashed"},
     {"uniting yields nothing", "nothing-unite", "nothing came out"},
@@ -204,12 +216,17 @@ private Q_SLOTS:
     void init()
     {
         m_filter = std::make_unique<FakeFilter>(kStages);
-        QVERIFY(QFile::copy(path(u"filter"_s), path(u"pdfunite"_s)));
+        QVERIFY(QFile::copy(path(u"filter"_s), path(u"qpdf"_s)));
         m_path = std::make_unique<Variable>("PATH", QFile::encodeName(path(QString())) + ':' +
                                                         qgetenv("PATH"));
         m_temporary = std::make_unique<QTemporaryDir>();
         m_temporaryPath =
             std::make_unique<Variable>("TMPDIR", QFile::encodeName(m_temporary->path()));
+        // What becomes of two documents cannot stand in a row.
+        writeFile(m_filter->ppdPath(),
+                  PpdBuilder().text() +
+                      "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n");
+        writeFile(path(u"pages"_s), "5\n");
         writeFile(path(u"one.txt"_s), "1");
         writeFile(path(u"two.txt"_s), "2");
         writeFile(m_filter->output(), "yesterday's");
@@ -225,8 +242,8 @@ private Q_SLOTS:
     void theDocumentsArePrintedInTheirOrderAsOneJob()
     {
         QCOMPARE(printed({document(u"two.txt"_s), document(u"one.txt"_s)}), QString());
-        QCOMPARE(lines(u"stages"_s),
-                 (QStringList{u"two.txt"_s, u"one.txt"_s, u"unite"_s, u"whole.pdf"_s}));
+        QCOMPARE(lines(u"stages"_s), (QStringList{u"two.txt"_s, u"0.pdf"_s, u"one.txt"_s,
+                                                  u"2.pdf"_s, u"unite"_s, u"whole.pdf"_s}));
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("2 as PDF\n1 as PDF\n"));
         QCOMPARE(m_filter->leftOvers(), QStringList());
         QCOMPARE(temporaryFiles(), QStringList());
@@ -238,26 +255,114 @@ private Q_SLOTS:
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n1 as PDF\n"));
     }
 
-    // The pages, their order and their number are those of the whole.
-    void theJobsOptionsApplyToTheWholeAndThePaperToEachDocument()
+    void eachDocumentIsLaidOutAndFilledUpByItself()
     {
         const JobTicket ticket{
             u"Title"_s,
             3,
-            {{u"PageSize"_s, u"A5"_s}, {u"page-ranges"_s, u"2-3,7"_s}, {u"Tray"_s, u"Lower"_s}}};
+            {{u"PageSize"_s, u"A5"_s}, {u"number-up"_s, u"2"_s}, {u"Tray"_s, u"Lower"_s}}};
         QCOMPARE(printed(documents(), ticket), QString());
-        for (const QString &name : {u"one.txt"_s, u"two.txt"_s}) {
-            const QStringList told = lines(u"arguments-"_s + name);
-            QVERIFY(told.value(1).endsWith(u"/printer.ppd"_s));
-            QCOMPARE(told,
-                     (QStringList{u"-p"_s, told.value(1), u"-i"_s, u"text/plain"_s, u"-m"_s,
-                                  u"application/pdf"_s, u"-o"_s, u"PageSize=A5"_s, path(name)}));
-        }
+        const QStringList first = lines(u"arguments-0.pdf"_s);
+        QCOMPARE(first.mid(2, first.size() - 3),
+                 (QStringList{u"-i"_s, u"application/pdf"_s, u"-m"_s, u"application/vnd.cups-pdf"_s,
+                              u"-o"_s, u"PageSize=A5"_s, u"-o"_s, u"number-up=2"_s, u"-o"_s,
+                              u"Tray=Lower"_s, u"-o"_s, u"emit-jcl=false"_s}));
+        QVERIFY(first.value(1).endsWith(u"/filling.ppd"_s));
+        const QStringList last = lines(u"arguments-2.pdf"_s);
+        QCOMPARE(last.mid(2, last.size() - 3), first.mid(2, first.size() - 3));
+        QVERIFY(last.value(1).endsWith(u"/printer.ppd"_s)); // no blank side at the end
+    }
+
+    void theWholeIsNotLaidOutOnceMore()
+    {
+        const JobTicket ticket{
+            u"Title"_s,
+            3,
+            {{u"PageSize"_s, u"A5"_s}, {u"number-up"_s, u"2"_s}, {u"Tray"_s, u"Lower"_s}}};
+        QCOMPARE(printed(documents(), ticket), QString());
         const QStringList whole = lines(u"arguments-whole.pdf"_s);
         QCOMPARE(whole.mid(2, whole.size() - 3),
                  (QStringList{u"-i"_s, u"application/pdf"_s, u"-m"_s, u"printer/foo"_s, u"-e"_s,
                               u"-t"_s, u"Title"_s, u"-n"_s, u"3"_s, u"-o"_s, u"PageSize=A5"_s,
-                              u"-o"_s, u"page-ranges=2-3,7"_s, u"-o"_s, u"Tray=Lower"_s}));
+                              u"-o"_s, u"number-up=1"_s, u"-o"_s, u"Tray=Lower"_s, u"-o"_s,
+                              u"print-scaling=none"_s, u"-o"_s, u"outputorder=normal"_s}));
+    }
+
+    void choicesOfPagesCountInEachDocument()
+    {
+        QCOMPARE(printed(documents(), {u"Title"_s, 1, {{u"page-ranges"_s, u"2-3,7"_s}}}),
+                 QString());
+        QCOMPARE(m_filter->content(u"out.ps"_s),
+                 QByteArray("1 as PDF, pages 2-3\n2 as PDF, pages 2-3\n"));
+        for (const QString &stage : {u"arguments-2.pdf"_s, u"arguments-whole.pdf"_s})
+            QVERIFY(!lines(stage).join(u' ').contains(u"page-ranges"_s));
+    }
+
+    void pagesThatNoDocumentHasAreSaid()
+    {
+        const QString problem = printed(documents(), {u"t"_s, 1, {{u"page-ranges"_s, u"6-9"_s}}});
+        QVERIFY2(problem.contains(u"none of the documents"_s), qPrintable(problem));
+        verifyNothingIsLeft();
+    }
+
+    void aDocumentWhosePagesNobodyCanCountIsNotGuessed_data()
+    {
+        QTest::addColumn<QByteArray>("count");
+        QTest::newRow("no number") << QByteArray("many\n");
+        QTest::newRow("none") << QByteArray("0\n");
+        QTest::newRow("more than there can be") << QByteArray("2000000000\n");
+        QTest::newRow("two answers") << QByteArray("5\n5\n");
+        QTest::newRow("an endless one") << QByteArray(100, '1');
+    }
+    void aDocumentWhosePagesNobodyCanCountIsNotGuessed()
+    {
+        QFETCH(QByteArray, count);
+        writeFile(path(u"pages"_s), count);
+        const QString problem = printed(documents(), {u"t"_s, 1, {{u"page-ranges"_s, u"1"_s}}});
+        QVERIFY2(problem.contains(u"could not be found out"_s), qPrintable(problem));
+        verifyNothingIsLeft();
+    }
+
+    void withSeveralPagesOnASheetThePagesOfTheDocumentArePickedFirst()
+    {
+        const JobTicket ticket{u"t"_s, 1, {{u"number-up"_s, u"2"_s}, {u"page-ranges"_s, u"3-4"_s}}};
+        QCOMPARE(printed({document(u"one.txt"_s)}, ticket), QString());
+        QCOMPARE(lines(u"stages"_s),
+                 (QStringList{u"one.txt"_s, u"count"_s, u"pick"_s, u"1.pdf"_s}));
+        const QString told = lines(u"arguments-1.pdf"_s).join(u' ');
+        QVERIFY2(told.contains(u"number-up=2"_s) && !told.contains(u"page-ranges"_s),
+                 qPrintable(told));
+        QVERIFY(m_filter->content(u"out.ps"_s).startsWith("1 as PDF, pages 3-4\n"));
+    }
+
+    void whatCanStandInARowDoes()
+    {
+        writeFile(m_filter->ppdPath(), PpdBuilder().text());
+        QCOMPARE(printed(documents()), QString());
+        QCOMPARE(lines(u"stages"_s), (QStringList{u"one.txt"_s, u"two.txt"_s}));
+        QVERIFY(lines(u"arguments-one.txt"_s).contains(u"printer/foo"_s));
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n%%EOF\n2 as PDF\n%%EOF\n"));
+    }
+
+    void copiesOfWhatStandsInARowComeInSets_data()
+    {
+        QTest::addColumn<QList<JobOption>>("options");
+        QTest::addColumn<QString>("copies");
+        QTest::addColumn<QByteArray>("order");
+        QTest::newRow("as usual") << QList<JobOption>() << u"1"_s << QByteArray("1 2 1 2 ");
+        QTest::newRow("not collated")
+            << QList<JobOption>{{u"collate"_s, u"false"_s}} << u"2"_s << QByteArray("1 2 ");
+    }
+    void copiesOfWhatStandsInARowComeInSets()
+    {
+        QFETCH(QList<JobOption>, options);
+        QFETCH(QString, copies);
+        QFETCH(QByteArray, order);
+        writeFile(m_filter->ppdPath(), PpdBuilder().text());
+        QCOMPARE(printed(documents(), {u"t"_s, 2, options}), QString());
+        QCOMPARE(m_filter->content(u"out.ps"_s).replace("as PDF\n%%EOF\n", ""), order);
+        const QStringList told = lines(u"arguments-one.txt"_s);
+        QCOMPARE(told.value(told.indexOf(u"-n"_s) + 1), copies);
     }
 
     void eachDocumentKeepsItsFormat()
@@ -311,16 +416,16 @@ private Q_SLOTS:
 
     void aMissingProgramToUniteIsNamed()
     {
-        QVERIFY(QFile::remove(path(u"pdfunite"_s)));
+        QVERIFY(QFile::remove(path(u"qpdf"_s)));
         {
-            // The shell of the filter has to be found, pdfunite of the system not.
+            // The shell of the filter has to be found, qpdf of the system not.
             const Variable nothing("PATH", QFile::encodeName(path(QString())));
             make(u"nothing-whole.pdf"_s);
             const FakeFilter plain("exec /bin/echo '%%EOF'\n");
             const QString problem = printed(documents());
-            QVERIFY2(problem.startsWith(u"pdfunite cannot be started"_s), qPrintable(problem));
+            QVERIFY2(problem.startsWith(u"qpdf cannot be started"_s), qPrintable(problem));
         }
-        QVERIFY(QFile::copy(path(u"filter"_s), path(u"pdfunite"_s)));
+        QVERIFY(QFile::copy(path(u"filter"_s), path(u"qpdf"_s)));
         verifyNothingIsLeft();
     }
 

@@ -7,8 +7,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const FilterPlaces kPlaces{u"/sbin/cupsfilter"_s, u"/parts/printer.ppd"_s, u"/parts"_s};
+const FilterPlaces kPlaces{u"/sbin/cupsfilter"_s, u"/parts/printer.ppd"_s, u"/parts/filling.ppd"_s,
+                           u"/parts"_s};
+// Of a printer that takes PDF or raster files.
+const FilterPlaces kOneFile{kPlaces.cupsFilter, kPlaces.ppd, kPlaces.fillingPpd, kPlaces.folder,
+                            false};
 const Document kText{u"/one.txt"_s, u"text/plain"_s, u"one.txt"_s};
+const Document kPdf{u"/three.pdf"_s, u"application/pdf"_s, u"three.pdf"_s};
 const Document kPicture{u"/two.png"_s, u"image/png"_s, u"two.png"_s};
 const QList<JobOption> kOptions{{u"PageSize"_s, u"A5"_s},
                                 {u"cpi"_s, u"12"_s},
@@ -22,40 +27,34 @@ ConversionRequest request(const QList<Document> &documents, ConversionRequest::R
         result};
 }
 
-// What the chain is called with. `more` stand between the format and the options.
-FilterStep conversion(const Document &document, const QString &format, const QStringList &more,
-                      const QStringList &options, const QString &output, const QString &name)
+// The steps of a plan in short: what each does, and to what.
+QStringList inShort(const FilterPlan &plan)
 {
-    QStringList arguments{u"-p"_s, kPlaces.ppd, u"-i"_s, document.format, u"-m"_s, format};
-    arguments += more;
-    for (const QString &option : options)
-        arguments << u"-o"_s << option;
-    return {kPlaces.cupsFilter, arguments << document.path, output, name};
+    QStringList steps;
+    for (const FilterStep &step : plan) {
+        const QStringList &told = step.arguments;
+        if (step.program == kPlaces.cupsFilter)
+            steps += told.constLast() + u" to "_s + told.value(5) + u" as "_s + step.output;
+        else if (step.pick)
+            steps += u"pick of "_s + step.pick->document + u" as "_s + step.output;
+        else if (told.contains(u"--show-npages"_s))
+            steps += u"count "_s + told.constLast();
+        else
+            steps += step.program + u' ' + step.parts.join(u' ') + u" as "_s + step.output;
+    }
+    return steps;
 }
 
-FilterStep part(const Document &document, const QString &file)
+// The values of "-o" of a step.
+QStringList optionsOf(const FilterStep &step)
 {
-    return conversion(document, u"application/pdf"_s, {}, {u"PageSize=A5"_s, u"cpi=12"_s}, file,
-                      file);
+    QStringList options;
+    for (qsizetype i = 0; i + 1 < step.arguments.size(); ++i) {
+        if (step.arguments.at(i) == u"-o"_s)
+            options += step.arguments.at(i + 1);
+    }
+    return options;
 }
-
-FilterStep uniting(const QString &output, const QString &name)
-{
-    return {u"pdfunite"_s,
-            {u"/parts/0.pdf"_s, u"/parts/1.pdf"_s, output},
-            output,
-            name,
-            FilterStep::Writes::FileOfItsOwn};
-}
-
-FilterStep printing(const Document &document)
-{
-    return conversion(document, u"printer/foo"_s, {u"-e"_s, u"-t"_s, u"Title"_s, u"-n"_s, u"3"_s},
-                      {u"PageSize=A5"_s, u"cpi=12"_s, u"number-up=2"_s, u"Tray=Lower"_s},
-                      u"/out.part"_s, u"out.ps"_s);
-}
-
-const Document kWhole{u"/parts/whole.pdf"_s, u"application/pdf"_s, u"Title"_s};
 
 } // namespace
 
@@ -69,46 +68,120 @@ class FilterPlanTest : public QObject
 private Q_SLOTS:
     void oneDocumentIsPrintedInOneStep()
     {
-        QCOMPARE(planConversion(request({kText}, Result::PrinterData), kPlaces),
-                 FilterPlan{printing(kText)});
+        const FilterStep step{kPlaces.cupsFilter,
+                              {u"-p"_s,          kPlaces.ppd,      u"-i"_s,         u"text/plain"_s,
+                               u"-m"_s,          u"printer/foo"_s, u"-e"_s,         u"-t"_s,
+                               u"Title"_s,       u"-n"_s,          u"3"_s,          u"-o"_s,
+                               u"PageSize=A5"_s, u"-o"_s,          u"cpi=12"_s,     u"-o"_s,
+                               u"number-up=2"_s, u"-o"_s,          u"Tray=Lower"_s, kText.path},
+                              u"/out.part"_s,
+                              u"out.ps"_s};
+        QCOMPARE(planConversion(request({kText}, Result::PrinterData), kPlaces), FilterPlan{step});
     }
 
-    void severalDocumentsBecomeOneFirst()
+    void streamsStandInARow()
     {
-        QCOMPARE(planConversion(request({kText, kPicture}, Result::PrinterData), kPlaces),
-                 (FilterPlan{part(kText, u"/parts/0.pdf"_s), part(kPicture, u"/parts/1.pdf"_s),
-                             uniting(kWhole.path, kWhole.path), printing(kWhole)}));
+        ConversionRequest two = request({kText, kPicture}, Result::PrinterData);
+        two.ticket.copies = 1;
+        QCOMPARE(inShort(planConversion(two, kPlaces)),
+                 (QStringList{u"/one.txt to printer/foo as /parts/0.data"_s,
+                              u"/two.png to printer/foo as /parts/1.data"_s,
+                              u"cat /parts/0.data /parts/1.data as /out.part"_s}));
+    }
+
+    void filesArePutTogetherOfLaidOutPages()
+    {
+        QCOMPARE(inShort(planConversion(request({kText, kPdf}, Result::PrinterData), kOneFile)),
+                 (QStringList{u"/one.txt to application/pdf as /parts/0.pdf"_s,
+                              u"/parts/0.pdf to application/vnd.cups-pdf as /parts/1.pdf"_s,
+                              u"/three.pdf to application/vnd.cups-pdf as /parts/2.pdf"_s,
+                              u"qpdf /parts/1.pdf /parts/2.pdf as /parts/whole.pdf"_s,
+                              u"/parts/whole.pdf to printer/foo as /out.part"_s}));
     }
 
     void aPdfOfOneDocumentHasItsPaperAndNoOtherChoice()
     {
-        FilterStep step = part(kText, u"/out.part"_s);
-        step.outputName = u"out.ps"_s;
-        QCOMPARE(planConversion(request({kText}, Result::Pdf), kPlaces), FilterPlan{step});
+        const FilterPlan plan = planConversion(request({kText}, Result::Pdf), kPlaces);
+        QCOMPARE(inShort(plan), QStringList{u"/one.txt to application/pdf as /out.part"_s});
+        QCOMPARE(optionsOf(plan.constFirst()), (QStringList{u"PageSize=A5"_s, u"cpi=12"_s}));
+        QVERIFY(!plan.constFirst().arguments.contains(u"-e"_s));
     }
 
     void aPdfOfSeveralEndsWithTheirUnion()
     {
-        QCOMPARE(planConversion(request({kText, kPicture}, Result::Pdf), kPlaces),
-                 (FilterPlan{part(kText, u"/parts/0.pdf"_s), part(kPicture, u"/parts/1.pdf"_s),
-                             uniting(u"/out.part"_s, u"out.ps"_s)}));
+        QCOMPARE(inShort(planConversion(request({kText, kPdf}, Result::Pdf), kPlaces)),
+                 (QStringList{u"/one.txt to application/pdf as /parts/0.pdf"_s,
+                              u"/parts/0.pdf to application/vnd.cups-pdf as /parts/1.pdf"_s,
+                              u"/three.pdf to application/vnd.cups-pdf as /parts/2.pdf"_s,
+                              u"qpdf /parts/1.pdf /parts/2.pdf as /out.part"_s}));
     }
 
     void aPdfIsLaidOutWhereThatIsAskedFor()
     {
         ConversionRequest laidOut = request({kText}, Result::Pdf);
+        laidOut.ticket.options += {u"Duplex"_s, u"DuplexNoTumble"_s};
         laidOut.layout = {{u"page-ranges"_s, u"2-3"_s}};
-        QCOMPARE(planConversion(laidOut, kPlaces),
-                 (FilterPlan{part(kText, kWhole.path),
-                             conversion(kWhole, u"application/vnd.cups-pdf"_s, {},
-                                        {u"PageSize=A5"_s, u"cpi=12"_s, u"page-ranges=2-3"_s},
-                                        u"/out.part"_s, u"out.ps"_s)}));
+        const FilterPlan plan = planConversion(laidOut, kPlaces);
+        QCOMPARE(inShort(plan),
+                 (QStringList{u"/one.txt to application/pdf as /parts/0.pdf"_s,
+                              u"/parts/0.pdf to application/vnd.cups-pdf as /out.part"_s}));
+        // The order of the pages depends on whether they have backs.
+        QCOMPARE(optionsOf(plan.constLast()),
+                 (QStringList{u"PageSize=A5"_s, u"cpi=12"_s, u"Duplex=DuplexNoTumble"_s,
+                              u"page-ranges=2-3"_s}));
+    }
+
+    void pagesThatTheChainWouldCountAsSidesArePickedBefore_data()
+    {
+        QTest::addColumn<ConversionRequest::Result>("result");
+        QTest::addColumn<QStringList>("steps");
+        QTest::newRow("for a printer")
+            << Result::PrinterData
+            << QStringList{u"count /three.pdf"_s, u"pick of /three.pdf as /parts/0.pdf"_s,
+                           u"/parts/0.pdf to printer/foo as /out.part"_s};
+        QTest::newRow("as a PDF")
+            << Result::Pdf
+            << QStringList{u"count /three.pdf"_s, u"pick of /three.pdf as /parts/0.pdf"_s,
+                           u"/parts/0.pdf to application/vnd.cups-pdf as /out.part"_s};
+        QTest::newRow("for a queue")
+            << Result::ChosenPages
+            << QStringList{u"count /three.pdf"_s, u"pick of /three.pdf as /out.part"_s};
+    }
+    void pagesThatTheChainWouldCountAsSidesArePickedBefore()
+    {
+        QFETCH(ConversionRequest::Result, result);
+        ConversionRequest odd = request({kPdf}, result);
+        odd.ticket.options += {u"page-set"_s, u"odd"_s};
+        odd.layout = {{u"number-up"_s, u"2"_s}, {u"page-set"_s, u"odd"_s}};
+        const FilterPlan plan = planConversion(odd, kPlaces);
+        QTEST(inShort(plan), "steps");
+        for (const FilterStep &step : plan)
+            QVERIFY(!optionsOf(step).contains(u"page-set=odd"_s));
+    }
+
+    void whatWasLaidOutIsLeftAsItIs()
+    {
+        const QList<JobOption> before{
+            {u"PageSize"_s, u"A5"_s},           {u"number-up"_s, u"4"_s},
+            {u"number-up-layout"_s, u"tblr"_s}, {u"page-ranges"_s, u"2-"_s},
+            {u"page-set"_s, u"odd"_s},          {u"orientation-requested"_s, u"4"_s},
+            {u"OutputOrder"_s, u"Reverse"_s},   {u"MirrorPrint"_s, u"True"_s},
+            {u"mirror"_s, u"true"_s},           {u"page-left"_s, u"50"_s},
+            {u"print-scaling"_s, u"fit"_s},     {u"Duplex"_s, u"DuplexNoTumble"_s},
+            {u"job-priority"_s, u"70"_s}};
+        const QList<JobOption> after{
+            {u"PageSize"_s, u"A5"_s},       {u"number-up"_s, u"1"_s},
+            {u"page-set"_s, u"all"_s},      {u"orientation-requested"_s, u"3"_s},
+            {u"mirror"_s, u"false"_s},      {u"Duplex"_s, u"DuplexNoTumble"_s},
+            {u"job-priority"_s, u"70"_s},   {u"print-scaling"_s, u"none"_s},
+            {u"outputorder"_s, u"normal"_s}};
+        QCOMPARE(optionsAfterLayout(before), after);
     }
 
     void onlyAResultForAPrinterUsesTheFiltersOfItsPpd()
     {
         for (const Result result : {Result::PrinterData, Result::Pdf}) {
-            const FilterPlan plan = planConversion(request({kText, kPicture}, result), kPlaces);
+            const FilterPlan plan = planConversion(request({kText, kPicture}, result), kOneFile);
             int steps = 0;
             for (const FilterStep &step : plan)
                 steps += step.arguments.contains(u"-e"_s) ? 1 : 0;
@@ -116,6 +189,13 @@ private Q_SLOTS:
             for (const FilterStep &step : plan)
                 QVERIFY(!step.arguments.contains(u"/server/printer.ppd"_s));
         }
+    }
+
+    void programsThatReadHostilePdfsHaveTheirTime()
+    {
+        const FilterPlan plan = planConversion(request({kPdf}, Result::ChosenPages), kPlaces);
+        for (const FilterStep &step : plan)
+            QVERIFY(step.patience.count() > 0);
     }
 
     void whatShapesThePagesOfATextIsKnown()

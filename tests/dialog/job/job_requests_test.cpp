@@ -159,7 +159,7 @@ private Q_SLOTS:
         QBuffer document;
         document.setData("x");
         QVERIFY(document.open(QIODevice::ReadOnly));
-        QVERIFY(sendDocument(connection, office(), 7, u"text/plain"_s, title, document, {}));
+        QVERIFY(sendDocument(connection, office(), 7, {u"text/plain"_s, title, document}, {}));
         const QString cut = title.left(characters);
         QCOMPARE(server.requests().at(0).value("job-name"), cut);
         QCOMPARE(server.requests().at(1).value("document-name"), cut);
@@ -291,7 +291,8 @@ private Q_SLOTS:
         QBuffer document;
         document.setData(QByteArray(100000, 'x'));
         QVERIFY(document.open(QIODevice::ReadOnly));
-        QVERIFY(sendDocument(connection, office(), 7, u"application/pdf"_s, u"t"_s, document, {}));
+        QVERIFY(
+            sendDocument(connection, office(), 7, {u"application/pdf"_s, u"t"_s, document}, {}));
         const CannedRequest request = server.requests().constFirst();
         QCOMPARE(request.operation, int(IPP_OP_SEND_DOCUMENT));
         QCOMPARE(request.value("job-id"), u"7"_s);

@@ -1,0 +1,141 @@
+#include <QTest>
+
+#include "dialog/job/DocumentCopies.h"
+#include "dialog/job/PageChoice.h"
+#include "tests/support/Rows.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+using Set = PageChoice::Set;
+
+namespace {
+
+// What is picked of a document of five pages called "d".
+struct Pick
+{
+    const char *name;
+    const char *ranges;
+    Set set;
+    const char *picked;
+};
+constexpr Pick kPicks[] = {
+    {"all", "", Set::All, "d 1-5"},
+    {"a page", "3", Set::All, "d 3-3"},
+    {"a range", "2-4", Set::All, "d 2-4"},
+    {"some ranges", "1,3-4,5-", Set::All, "d 1-1 d 3-4 d 5-5"},
+    {"up to a page", "-2", Set::All, "d 1-2"},
+    {"from a page on", "4-", Set::All, "d 4-5"},
+    {"beyond the end", "4-99", Set::All, "d 4-5"},
+    {"behind the end", "6,8-9", Set::All, ""},
+    {"odd pages", "", Set::Odd, "d 1-5:odd"},
+    {"even pages", "", Set::Even, "d 2-5:odd"},
+    {"odd pages of a range", "2-5", Set::Odd, "d 3-5:odd"},
+    {"even pages of a range", "2-5", Set::Even, "d 2-5:odd"},
+    {"an even page of odd ones", "3", Set::Even, ""},
+    {"the last page, which is odd", "5-", Set::Even, ""},
+};
+
+struct Copies
+{
+    const char *name;
+    int copies;
+    int documents;
+    JobOption option;
+    bool arePutTogether;
+    int repetitions;
+    CopiesOrder order;
+};
+const Copies kCopies[] = {
+    {"one copy", 1, 3, {}, false, 1, CopiesOrder::Plain},
+    {"one document", 3, 1, {}, false, 1, CopiesOrder::Plain},
+    {"sets", 3, 2, {}, false, 3, CopiesOrder::SetOfAll},
+    {"as many as are sent", 50, 2, {}, false, 50, CopiesOrder::SetOfAll},
+    {"too many to be sent", 51, 2, {}, false, 1, CopiesOrder::EachDocument},
+    {"too many documents", 2, 300, {}, false, 1, CopiesOrder::EachDocument},
+    {"not collated", 2, 2, {u"collate"_s, u"false"_s}, false, 1, CopiesOrder::EachDocument},
+    {"not collated by the PPD",
+     2,
+     2,
+     {u"Collate"_s, u"False"_s},
+     false,
+     1,
+     CopiesOrder::EachDocument},
+    {"not collated in words of IPP",
+     2,
+     2,
+     {u"multiple-document-handling"_s, u"separate-documents-uncollated-copies"_s},
+     false,
+     1,
+     CopiesOrder::EachDocument},
+    {"collated in words of IPP",
+     2,
+     2,
+     {u"multiple-document-handling"_s, u"separate-documents-collated-copies"_s},
+     false,
+     2,
+     CopiesOrder::SetOfAll},
+    {"put together", 200, 2, {}, true, 1, CopiesOrder::SetOfAll},
+    {"put together, not collated",
+     2,
+     2,
+     {u"collate"_s, u"false"_s},
+     true,
+     1,
+     CopiesOrder::EachPage},
+};
+
+} // namespace
+
+/// Which pages of each document are meant, and in which order several documents are repeated.
+class PageChoiceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pagesAreThoseOfTheDocument_data() { addRows(kPicks); }
+    void pagesAreThoseOfTheDocument()
+    {
+        const auto &[name, ranges, set, picked] = currentRow(kPicks);
+        QCOMPARE(pickedPages({QString::fromLatin1(ranges), set}, 5, u"d"_s).join(u' '),
+                 QString::fromLatin1(picked));
+    }
+
+    void theChoiceIsAmongTheOptions()
+    {
+        const QList<JobOption> options{
+            {u"page-ranges"_s, u"2-"_s}, {u"number-up"_s, u"2"_s}, {u"page-set"_s, u"even"_s}};
+        QCOMPARE(pageChoiceOf(options), (PageChoice{u"2-"_s, Set::Even}));
+        QVERIFY(pageChoiceOf({{u"page-set"_s, u"all"_s}}).isAll());
+        // The set stays, so that no default of the queue's takes its place.
+        QCOMPARE(withoutPageChoice(options),
+                 (QList<JobOption>{{u"number-up"_s, u"2"_s}, {u"page-set"_s, u"all"_s}}));
+    }
+
+    void pagesArePickedWhereSeveralShareASide()
+    {
+        const JobOption two{u"number-up"_s, u"2"_s};
+        QVERIFY(mustPickPages({two, {u"page-ranges"_s, u"3"_s}}));
+        QVERIFY(mustPickPages({two, {u"page-set"_s, u"odd"_s}}));
+        QVERIFY(!mustPickPages({two}));
+        QVERIFY(!mustPickPages({two, {u"page-set"_s, u"all"_s}}));
+        QVERIFY(!mustPickPages({{u"number-up"_s, u"1"_s}, {u"page-ranges"_s, u"3"_s}}));
+        QVERIFY(!mustPickPages({{u"page-ranges"_s, u"3"_s}}));
+    }
+
+    void theOrderOfCopiesIsKnownBefore_data() { addRows(kCopies); }
+    void theOrderOfCopiesIsKnownBefore()
+    {
+        const auto &[name, copies, documents, option, together, repetitions, order] =
+            currentRow(kCopies);
+        const JobTicket ticket{u"t"_s, copies, {option}};
+        QCOMPARE(copiesOrder(ticket, documents, together), order);
+        if (!together)
+            QCOMPARE(repetitionsOf(ticket, documents), repetitions);
+        QCOMPARE(textOf(order).isEmpty(), order == CopiesOrder::Plain);
+    }
+};
+
+QTEST_GUILESS_MAIN(PageChoiceTest)
+
+#include "page_choice_test.moc"

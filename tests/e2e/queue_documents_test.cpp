@@ -1,0 +1,410 @@
+#include <algorithm>
+
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+#include "tests/e2e/QueueRuns.h"
+#include "tests/support/TestPaths.h"
+#include "tests/support/cups/IppEvePrinter.h"
+
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
+
+constexpr int kPatience = 30000; // milliseconds that a program may take on a busy machine
+
+// What a printer is told to take, instead of PostScript.
+constexpr char kPdfLine[] = "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n";
+constexpr char kRasterLine[] = "*cupsFilter2: \"image/pwg-raster image/pwg-raster 0 -\"\n";
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A PDF whose pages say "NAME1", "NAME2" and so on, on A4.
+QByteArray pdfOf(const QByteArray &name, int pages)
+{
+    QByteArrayList objects{"<</Type/Catalog/Pages 2 0 R>>", QByteArray(),
+                           "<</Type/Font/Subtype/Type1/BaseFont/Helvetica>>"};
+    QByteArray kids;
+    for (int page = 1; page <= pages; ++page) {
+        const QByteArray content =
+            "BT /F 40 Tf 100 400 Td (" + name + QByteArray::number(page) + ") Tj ET";
+        kids += QByteArray::number(objects.size() + 1) + " 0 R ";
+        objects += "<</Type/Page/Parent 2 0 R/MediaBox[0 0 595 842]/Resources<</Font<</F 3 0 R>>>>"
+                   "/Contents " +
+                   QByteArray::number(objects.size() + 2) + " 0 R>>";
+        objects += "<</Length " + QByteArray::number(content.size()) + ">>stream\n" + content +
+                   "\nendstream";
+    }
+    objects[1] = "<</Type/Pages/Kids[" + kids + "]/Count " + QByteArray::number(pages) + ">>";
+    QByteArray pdf = "%PDF-1.4\n";
+    QByteArray places;
+    for (qsizetype i = 0; i < objects.size(); ++i) {
+        places += QByteArray::number(pdf.size()).rightJustified(10, '0') + " 00000 n \n";
+        pdf += QByteArray::number(i + 1) + " 0 obj\n" + objects.at(i) + "\nendobj\n";
+    }
+    const QByteArray size = QByteArray::number(objects.size() + 1);
+    const QByteArray begin = QByteArray::number(pdf.size());
+    return pdf + "xref\n0 " + size + "\n0000000000 65535 f \n" + places + "trailer<</Size " + size +
+           "/Root 1 0 R>>\nstartxref\n" + begin + "\n%%EOF\n";
+}
+
+QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    [&] { QVERIFY2(process.waitForFinished(kPatience), qPrintable(program)); }();
+    return process.readAllStandardOutput();
+}
+
+// Without the lines that are different in every job.
+QByteArray comparable(const QByteArray &data)
+{
+    QByteArrayList lines = data.split('\n');
+    lines.removeIf([](const QByteArray &line) { return line.startsWith("%%CreationDate: "); });
+    return lines.join('\n');
+}
+
+// Where two streams part, for a test that fails.
+QByteArray firstDifference(const QByteArray &data, const QByteArray &other)
+{
+    const QByteArrayList lines = data.split('\n');
+    const QByteArrayList others = other.split('\n');
+    for (qsizetype i = 0; i < std::max(lines.size(), others.size()); ++i) {
+        if (lines.value(i) != others.value(i))
+            return lines.value(i).left(200) + " / " + others.value(i).left(200);
+    }
+    return {};
+}
+
+} // namespace
+
+/// Several documents as one job, and pages of each: what a printer gets, read by Ghostscript, and
+/// beside what lp gets there.
+class QueueDocumentsTest : public QueueRuns
+{
+    Q_OBJECT
+
+private:
+    QString document(const QByteArray &name, int pages) const
+    {
+        return write(QString::fromLatin1(name) + u".pdf"_s, pdfOf(name, pages));
+    }
+    QString write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(m_runner->filePath(name));
+        [&] {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QCOMPARE(file.write(content), content.size());
+        }();
+        return file.fileName();
+    }
+    // "five:5" is the document five.pdf of five pages.
+    QStringList documents(const QString &words) const
+    {
+        QStringList paths;
+        for (const QString &word : words.split(u' '))
+            paths += document(word.section(u':', 0, 0).toLatin1(), word.section(u':', 1).toInt());
+        return paths;
+    }
+    // The sample printer with other filter lines.
+    QString ppd(const QByteArray &lines) const
+    {
+        if (lines.isEmpty())
+            return kPpd;
+        QByteArray text;
+        for (const QByteArray &line : contentOf(kPpd).split('\n')) {
+            if (!line.startsWith("*cupsFilter"))
+                text += line + '\n';
+        }
+        return write(u"queue.ppd"_s, text + lines);
+    }
+    // What stands on each side that a printer would print, its words in the order of the alphabet:
+    // "a1 a2 | b1"; "-" is a blank side.
+    QString sidesOf(const QByteArray &data) const
+    {
+        const QString stream = write(u"stream"_s, data);
+        const QString pdf = m_runner->filePath(u"sides.pdf"_s);
+        outputOf(u"gs"_s, {u"-q"_s, u"-dNOPAUSE"_s, u"-dBATCH"_s, u"-sDEVICE=pdfwrite"_s, u"-o"_s,
+                           pdf, stream});
+        QStringList sides = QString::fromUtf8(outputOf(u"pdftotext"_s, {pdf, u"-"_s})).split(u'\f');
+        sides.removeLast();
+        for (QString &side : sides) {
+            QStringList words = side.simplified().split(u' ', Qt::SkipEmptyParts);
+            words.sort();
+            side = words.isEmpty() ? u"-"_s : words.join(u' ');
+        }
+        return sides.join(u" | "_s);
+    }
+    static QStringList withOptions(const QStringList &options)
+    {
+        QStringList arguments;
+        for (const QString &option : options)
+            arguments +=
+                option.startsWith(u'-') ? QStringList{option} : QStringList{u"-o"_s, option};
+        return arguments;
+    }
+    // What the printer gets of a job that lp sends.
+    QByteArray printedByLp(const QString &queue, const QStringList &arguments) const
+    {
+        const qsizetype before = m_cups->capture(queue).jobs().size();
+        outputOf(u"lp"_s, QStringList{u"-h"_s, m_cups->server(), u"-d"_s, queue} + arguments);
+        [&] {
+            QTRY_COMPARE_WITH_TIMEOUT(m_cups->capture(queue).jobs().size(), before + 1, kPatience);
+        }();
+        return m_cups->capture(queue).jobs().constLast().data;
+    }
+
+private Q_SLOTS:
+    void aPrinterGetsWhatLpSendsIt_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("sides");
+        QTest::newRow("as they are")
+            << QStringList() << u"five1 | five2 | five3 | five4 | five5 | two1 | two2"_s;
+        QTest::newRow("pages of each")
+            << QStringList{u"page-ranges=1-2"_s} << u"five1 | five2 | two1 | two2"_s;
+        QTest::newRow("two-sided") << QStringList{u"sides=two-sided-long-edge"_s}
+                                   << u"five1 | five2 | five3 | five4 | five5 | two1 | two2"_s;
+        QTest::newRow("two on a side")
+            << QStringList{u"number-up=2"_s} << u"five1 five2 | five3 five4 | five5 | two1 two2"_s;
+        QTest::newRow("odd pages of each")
+            << QStringList{u"page-set=odd"_s} << u"five1 | five3 | five5 | two1"_s;
+    }
+    void aPrinterGetsWhatLpSendsIt()
+    {
+        QFETCH(QStringList, options);
+        m_cups->addQueue(u"office"_s, kPpd);
+        const QStringList arguments = QStringList{u"-t"_s, u"Letters"_s} + withOptions(options) +
+                                      documents(u"five:5 two:2"_s);
+        const QByteArray ours = comparable(printed(u"office"_s, arguments).data);
+        QTEST(sidesOf(ours), "sides");
+        const QByteArray lps = comparable(printedByLp(u"office"_s, arguments));
+        QVERIFY2(ours == lps, firstDifference(ours, lps).constData());
+    }
+
+    // The filter chain counts sides, and lp leaves it at that.
+    void rangesArePagesOfTheDocument_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QString>("documents");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("sides");
+        const QStringList range{u"number-up=2"_s, u"page-ranges=3-4"_s};
+        const QStringList odd{u"number-up=2"_s, u"page-set=odd"_s};
+        QTest::newRow("a range") << QByteArray() << u"five:5"_s << range << u"five3 five4"_s;
+        QTest::newRow("odd pages")
+            << QByteArray() << u"five:5"_s << odd << u"five1 five3 | five5"_s;
+        QTest::newRow("of several")
+            << QByteArray() << u"five:5 four:4"_s << range << u"five3 five4 | four3 four4"_s;
+        QTest::newRow("of several, one of which is short")
+            << QByteArray() << u"two:2 five:5"_s << range << u"five3 five4"_s;
+        QTest::newRow("for a printer of PDF")
+            << QByteArray(kPdfLine) << u"five:5"_s << range << u"five3 five4"_s;
+        QTest::newRow("of several for a printer of PDF")
+            << QByteArray(kPdfLine) << u"five:5 four:4"_s << odd
+            << u"five1 five3 | five5 | four1 four3"_s;
+    }
+    void rangesArePagesOfTheDocument()
+    {
+        QFETCH(QByteArray, lines);
+        QFETCH(QString, documents);
+        QFETCH(QStringList, options);
+        const QString path = ppd(lines);
+        m_cups->addQueue(u"office"_s, path);
+        const QStringList arguments = withOptions(options) + this->documents(documents);
+        QTEST(sidesOf(printed(u"office"_s, arguments).data), "sides");
+        const QString output = m_runner->filePath(u"result"_s);
+        const RunEnd filed =
+            m_runner->run(QStringList{u"--ppd"_s, path, u"--output"_s, output} + arguments);
+        QVERIFY2(filed.status == 0, filed.text().constData());
+        QTEST(sidesOf(contentOf(output)), "sides");
+    }
+
+    void aPrinterOfPdfGetsOneOfWholeSheets_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("sides");
+        QTest::newRow("one-sided") << QStringList() << u"three1 | three2 | three3 | two1 | two2"_s;
+        QTest::newRow("two-sided") << QStringList{u"sides=two-sided-long-edge"_s}
+                                   << u"three1 | three2 | three3 | - | two1 | two2"_s;
+        QTest::newRow("pages of each, two-sided")
+            << QStringList{u"page-ranges=2-3"_s, u"Duplex=DuplexTumble"_s}
+            << u"three2 | three3 | two2"_s;
+        QTest::newRow("two on a side, two-sided")
+            << QStringList{u"number-up=2"_s, u"Duplex=DuplexNoTumble"_s}
+            << u"three1 three2 | three3 | two1 two2"_s;
+        QTest::newRow("backwards")
+            << QStringList{u"outputorder=reverse"_s} << u"three3 | three2 | three1 | two2 | two1"_s;
+    }
+    void aPrinterOfPdfGetsOneOfWholeSheets()
+    {
+        QFETCH(QStringList, options);
+        const QString path = ppd(kPdfLine);
+        m_cups->addQueue(u"office"_s, path);
+        const QStringList arguments = withOptions(options) + documents(u"three:3 two:2"_s);
+        const CapturedJob job = printed(u"office"_s, arguments);
+        QCOMPARE(job.data.count("%PDF-"), qsizetype(1));
+        QTEST(sidesOf(job.data), "sides");
+        const QString output = m_runner->filePath(u"result"_s);
+        const RunEnd filed =
+            m_runner->run(QStringList{u"--ppd"_s, path, u"--output"_s, output} + arguments);
+        QVERIFY2(filed.status == 0, filed.text().constData());
+        QCOMPARE(contentOf(output).count("%PDF-"), qsizetype(1));
+        QTEST(sidesOf(contentOf(output)), "sides");
+        // What it is about.
+        QCOMPARE(printedByLp(u"office"_s, arguments).count("%PDF-"), qsizetype(2));
+    }
+
+    void thatTheyWerePutTogetherIsSaid()
+    {
+        m_cups->addQueue(u"office"_s, ppd(kPdfLine));
+        const RunEnd end =
+            m_runner->run(QStringList{u"-d"_s, u"office"_s} + documents(u"a:1 b:1"_s));
+        QCOMPARE(end.status, 0);
+        QVERIFY2(end.out.startsWith(u"Printed on “office” as job office-1. The documents were put "
+                                    "together as one"_s),
+                 end.text().constData());
+    }
+
+    void aRasterFileIsOne()
+    {
+        const QString output = m_runner->filePath(u"result"_s);
+        const RunEnd end =
+            m_runner->run(QStringList{u"--ppd"_s, ppd(kRasterLine), u"--output"_s, output} +
+                          documents(u"three:3 two:2"_s));
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY(contentOf(output).startsWith("RaS2"));
+        QCOMPARE(contentOf(output).count("RaS2PwgRaster"), qsizetype(1));
+        QCOMPARE(contentOf(output).count("PwgRaster"), qsizetype(5)); // a header a page
+    }
+
+    void aFileOfPostScriptHasThemInARow()
+    {
+        const QString output = m_runner->filePath(u"result.ps"_s);
+        const RunEnd end =
+            m_runner->run(QStringList{u"--ppd"_s, kPpd, u"--output"_s, output, u"-n"_s, u"2"_s} +
+                          documents(u"two:2 one:1"_s));
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(sidesOf(contentOf(output)), u"two1 | two2 | one1 | two1 | two2 | one1"_s);
+    }
+
+    void copiesComeInSets_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("sides");
+        QTest::addColumn<int>("copies"); // that the printer makes of each page
+        QTest::newRow("as usual") << QStringList() << u"two1 | two2 | one1 | two1 | two2 | one1"_s
+                                  << 1;
+        QTest::newRow("not collated")
+            << QStringList{u"collate=false"_s} << u"two1 | two2 | one1"_s << 2;
+    }
+    void copiesComeInSets()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(int, copies);
+        m_cups->addQueue(u"office"_s, kPpd);
+        const CapturedJob job =
+            printed(u"office"_s, QStringList{u"-n"_s, u"2"_s} + withOptions(options) +
+                                     documents(u"two:2 one:1"_s));
+        QTEST(sidesOf(job.data), "sides");
+        QCOMPARE(job.data.contains("NumCopies 2"), copies == 2);
+    }
+
+    void hostilePdfsArePickedOrRefused_data()
+    {
+        QTest::addColumn<QStringList>("qpdf"); // how the document is made of a good one
+        QTest::addColumn<QByteArray>("cutAt");
+        QTest::addColumn<QString>("sides"); // null: refused
+        QTest::newRow("damaged") << QStringList() << QByteArray("startxref\n") << u"five3 five4"_s;
+        QTest::newRow("of half a page") << QStringList() << QByteArray("/Contents") << QString();
+        QTest::newRow("with a password")
+            << QStringList{u"--encrypt"_s, u"secret"_s, u"owner"_s, u"256"_s, u"--"_s}
+            << QByteArray() << QString();
+        QTest::newRow("that may not be printed")
+            << QStringList{u"--encrypt"_s, u""_s, u"owner"_s, u"256"_s, u"--print=none"_s, u"--"_s}
+            << QByteArray() << QString();
+        QTest::newRow("that may not be changed")
+            << QStringList{u"--encrypt"_s, u""_s, u"owner"_s, u"256"_s, u"--modify=none"_s, u"--"_s}
+            << QByteArray() << u"five3 five4"_s;
+    }
+    void hostilePdfsArePickedOrRefused()
+    {
+        QFETCH(QStringList, qpdf);
+        QFETCH(QByteArray, cutAt);
+        QFETCH(QString, sides);
+        QString path = document("five", 5);
+        if (!cutAt.isEmpty())
+            write(u"five.pdf"_s, contentOf(path).left(contentOf(path).indexOf(cutAt)));
+        if (!qpdf.isEmpty()) {
+            const QString plain = path;
+            path = m_runner->filePath(u"closed.pdf"_s);
+            outputOf(u"qpdf"_s, QStringList{plain} + qpdf + QStringList{path});
+        }
+        const QString output = m_runner->filePath(u"result"_s);
+        const RunEnd end = m_runner->run({u"--ppd"_s, kPpd, u"--output"_s, output, u"-o"_s,
+                                          u"number-up=2"_s, u"-o"_s, u"page-ranges=3-4"_s, path});
+        QCOMPARE(end.status, sides.isNull() ? 1 : 0);
+        QCOMPARE(QFile::exists(output), !sides.isNull());
+        if (!sides.isNull())
+            QCOMPARE(sidesOf(contentOf(output)), sides);
+    }
+
+    void aPrinterForEverywhereGetsEachByItself()
+    {
+        if (!IppEvePrinter::isAvailable())
+            QSKIP("no ippeveprinter here");
+        const IppEvePrinter printer;
+        m_cups->addEverywhereQueue(u"everywhere"_s, printer.uri());
+        const RunEnd end =
+            m_runner->run(QStringList{u"-d"_s, u"everywhere"_s} + documents(u"three:3 two:2"_s));
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(printer.documents().size(), 2);
+        QCOMPARE(sidesOf(printer.documents().at(0)), u"three1 | three2 | three3"_s);
+        QCOMPARE(sidesOf(printer.documents().at(1)), u"two1 | two2"_s);
+    }
+
+    void aPrinterThatIsSpokenToGetsOne_data()
+    {
+        QTest::addColumn<QStringList>("formats");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("sides");
+        const QStringList pdf{u"application/pdf"_s};
+        QTest::newRow("PDF") << pdf << QStringList() << u"three1 | three2 | three3 | two1 | two2"_s;
+        QTest::newRow("pages of each")
+            << pdf << QStringList{u"page-ranges=2-3"_s} << u"three2 | three3 | two2"_s;
+        QTest::newRow("pages of each, two on a side")
+            << pdf << QStringList{u"page-ranges=2-3"_s, u"number-up=2"_s}
+            << u"three2 three3 | two2"_s;
+        QTest::newRow("raster") << QStringList{u"image/pwg-raster"_s} << QStringList() << QString();
+    }
+    void aPrinterThatIsSpokenToGetsOne()
+    {
+        QFETCH(QStringList, formats);
+        QFETCH(QStringList, options);
+        QFETCH(QString, sides);
+        if (!IppEvePrinter::isAvailable())
+            QSKIP("no ippeveprinter here");
+        const IppEvePrinter printer(u"Direct"_s, formats);
+        const RunEnd end = m_runner->run(QStringList{u"-d"_s, printer.uri()} +
+                                         withOptions(options) + documents(u"three:3 two:2"_s));
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(end.out.contains(u"put together"_s), end.text().constData());
+        QCOMPARE(printer.documents().size(), 1);
+        if (sides.isNull())
+            QCOMPARE(printer.documents().constFirst().count("PwgRaster"), qsizetype(5));
+        else
+            QCOMPARE(sidesOf(printer.documents().constFirst()), sides);
+    }
+};
+
+QTEST_GUILESS_MAIN(QueueDocumentsTest)
+
+#include "queue_documents_test.moc"
