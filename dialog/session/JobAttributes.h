@@ -80,7 +80,7 @@ QStringList jobAttributeNames();
 /// Whether an option is an attribute that is applied there.
 bool isAppliedTo(JobAttribute::AppliedTo what, const JobOption &option);
 
-/// The values that an attribute takes, translated, for people who do not write them out: "1 to 100".
+/// The values that an attribute takes, translated, for people who pick them: "1 to 100".
 QString allowedText(const AllowedValues &allowed);
 
 /// Title and value of an attribute, translated, for the summary.

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/session/JobAttributes.h"
+#include "dialog/window/pages/NumberField.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
@@ -73,87 +73,14 @@ private:
     QLineEdit *m_text;
 };
 
-/// A number field that lets every number in, so that one outside the range is refused in words
-/// rather than turned into another one. Its arrows keep to the range.
-class NumberField : public QDoubleSpinBox
-{
-public:
-    NumberField(const AllowedValues::Range &range, bool canBeNone, QWidget *parent)
-        : QDoubleSpinBox(parent), m_range(range), m_canBeNone(canBeNone)
-    {
-        constexpr double kMostThatFits = 999999;
-        setDecimals(range.isWhole ? 0 : 3);
-        setRange(canBeNone ? kNone : 0, kMostThatFits);
-        setKeyboardTracking(false); // a number counts when it is complete
-        if (canBeNone)
-            setSpecialValueText(automatic());
-    }
-
-    bool isNone() const { return m_canBeNone && value() == kNone; }
-    void setNone() { setValue(kNone); }
-
-    QString textFromValue(double number) const override
-    {
-        QString text = QLocale(locale()).toString(number, 'f', decimals());
-        const QString point = locale().decimalPoint();
-        while (text.contains(point) && (text.endsWith(u'0') || text.endsWith(point)))
-            text.chop(1);
-        return text.remove(locale().groupSeparator());
-    }
-    QValidator::State validate(QString &text, int &position) const override
-    {
-        if (text.isEmpty())
-            return QValidator::Intermediate;
-        if (m_canBeNone && text == specialValueText())
-            return QValidator::Acceptable;
-        return text.startsWith(locale().negativeSign()) ? QValidator::Invalid
-                                                        : QDoubleSpinBox::validate(text, position);
-    }
-    double valueFromText(const QString &text) const override
-    {
-        return m_canBeNone && text == specialValueText() ? kNone
-                                                         : QDoubleSpinBox::valueFromText(text);
-    }
-    void fixup(QString &text) const override
-    {
-        if (text.isEmpty() && m_canBeNone)
-            text = specialValueText();
-    }
-    void stepBy(int steps) override
-    {
-        if (isNone())
-            return setValue(m_range.least);
-        const double next = value() + steps * singleStep();
-        if (m_canBeNone && next < m_range.least && value() <= m_range.least)
-            return setNone();
-        setValue(qBound(m_range.least, next, m_range.most));
-    }
-
-protected:
-    StepEnabled stepEnabled() const override
-    {
-        StepEnabled enabled = StepNone;
-        if (isNone() || value() < m_range.most)
-            enabled |= StepUpEnabled;
-        if (!isNone() && (m_canBeNone || value() > m_range.least))
-            enabled |= StepDownEnabled;
-        return enabled;
-    }
-
-private:
-    static constexpr double kNone = -1;
-
-    AllowedValues::Range m_range;
-    bool m_canBeNone;
-};
-
 /// A number, and beside it the range.
 class NumberEditor : public AttributeEditor
 {
 public:
     NumberEditor(const JobAttribute &attribute, QWidget *parent)
         : AttributeEditor(attribute, parent),
-          m_number(new NumberField(*attribute.allowed.range, attribute.usual.isEmpty(), this))
+          m_number(new NumberField(*attribute.allowed.range,
+                                   attribute.usual.isEmpty() ? automatic() : QString(), this))
     {
         m_number->setObjectName(attribute.name);
         m_number->setAccessibleName(titleOf(attribute));
@@ -168,7 +95,7 @@ public:
         row->addWidget(range, 1);
         setField(field);
         takeReturnIn(m_number);
-        connect(m_number, &QDoubleSpinBox::valueChanged, this, [this] {
+        connect(m_number, &NumberField::valueChanged, this, [this] {
             if (!ProgrammaticChange::isInProgress())
                 propose();
         });
