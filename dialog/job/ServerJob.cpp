@@ -9,6 +9,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/PpdFilters.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 
 namespace corvana {
 
@@ -101,7 +102,10 @@ QList<JobOption> ServerJob::layout() const
 
 bool ServerJob::isTaken(const JobOption &option) const
 {
-    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(option.name) ||
+    // Printers know "collate" by its name of IPP.
+    const QString name =
+        option.name == kCollateAttribute ? QString(kHandlingAttribute) : option.name;
+    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(name) ||
            asksForNothing(option, m_request.ticket.copies);
 }
 

@@ -1,13 +1,17 @@
 #include "dialog/session/JobAttributes.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QLocale>
 #include <QRegularExpression>
 
 #include "dialog/session/AttributeWords.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/PrinterAttributes.h"
 
 namespace corvana {
 
@@ -193,7 +197,7 @@ constexpr JobAttribute kAttributes[] = {
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Headers on Text Pages"),
      {kTrueOrFalse}},
-    {"collate"_L1,
+    {kCollateAttribute,
      AppliedTo::Job,
      "true"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Collate"),
@@ -209,8 +213,8 @@ constexpr JobAttribute kAttributes[] = {
      QT_TRANSLATE_NOOP("JobAttributes", "Hold Until"),
      {kHolds,
       {},
-      AllowedValues::Form{QLatin1StringView(QT_TRANSLATE_NOOP("JobAttributes", "a time HH:MM")),
-                          isTime}}},
+      AllowedValues::Form{
+          QLatin1StringView(QT_TRANSLATE_NOOP("JobAttributes", "a time HH:MM in UTC")), isTime}}},
     {"job-priority"_L1, AppliedTo::Job, "50"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Priority"),
      wholeNumbers(1, 100)},
     {"job-sheets"_L1, AppliedTo::Job, "none"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
@@ -222,12 +226,25 @@ constexpr JobAttribute kAttributes[] = {
      form(QT_TRANSLATE_NOOP("JobAttributes", "a text of up to 255 bytes"), isBilling)},
 };
 
-bool isIn(const AllowedValues::Range &range, const QString &value)
+std::array<std::span<const JobAttribute>, 2> tables()
 {
-    static const QRegularExpression whole(u"^[0-9]{1,5}\\z"_s);
-    static const QRegularExpression decimal(u"^[0-9]{1,5}([.][0-9]{1,3})?\\z"_s);
-    return (range.isWhole ? whole : decimal).match(value).hasMatch() &&
-           value.toDouble() >= range.least && value.toDouble() <= range.most;
+    return {std::span<const JobAttribute>(kAttributes), printerAttributes()};
+}
+
+// Servers take a time for UTC, and lp leaves it at that. So does the dialog, and says what it is
+// here.
+QString timeText(const QString &value)
+{
+    const QTime time = QTime::fromString(value, value.count(u':') > 1 ? u"H:m:s"_s : u"H:m"_s);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    QDateTime until(now.date(), time, Qt::UTC);
+    if (until < now)
+        until = until.addDays(1);
+    const QDateTime here = until.toLocalTime();
+    if (here.offsetFromUtc() == 0)
+        return QCoreApplication::translate("JobAttributes", "%1 UTC").arg(value);
+    return QCoreApplication::translate("JobAttributes", "%1 UTC (%2 here)")
+        .arg(value, here.time().toString(u"HH:mm"_s));
 }
 
 QString translated(const char *text)
@@ -237,36 +254,15 @@ QString translated(const char *text)
 
 } // namespace
 
-const Word *AllowedValues::word(const QString &value) const
-{
-    const auto found = std::find_if(words.begin(), words.end(),
-                                    [&](const Word &word) { return word.value == value; });
-    return found == words.end() ? nullptr : &*found;
-}
-
-bool AllowedValues::accepts(const QString &value) const
-{
-    return word(value) || (range && isIn(*range, value)) || (form && form->accepts(value));
-}
-
-QString AllowedValues::text() const
-{
-    QStringList parts;
-    for (const Word &word : words)
-        parts += word.meaning.isEmpty() ? QString(word.value)
-                                        : u"%1 (%2)"_s.arg(word.value, word.meaning);
-    if (range)
-        parts += u"%1 to %2 %3"_s.arg(range->least).arg(range->most).arg(range->unit).trimmed();
-    if (form)
-        parts += (parts.isEmpty() ? QString() : u"or "_s) + form->text;
-    return parts.join(u", "_s);
-}
-
 const JobAttribute *jobAttribute(const QString &name)
 {
-    const auto found = std::find_if(std::begin(kAttributes), std::end(kAttributes),
-                                    [&](const JobAttribute &a) { return a.name == name; });
-    return found == std::end(kAttributes) ? nullptr : found;
+    for (const std::span<const JobAttribute> table : tables()) {
+        for (const JobAttribute &attribute : table) {
+            if (attribute.name == name)
+                return &attribute;
+        }
+    }
+    return nullptr;
 }
 
 bool isAppliedTo(AppliedTo what, const JobOption &option)
@@ -296,6 +292,8 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
     const JobAttribute *known = jobAttribute(attribute.name);
     if (!known)
         return {attribute.name, attribute.value};
+    if (attribute.name == kJobHoldUntilAttribute && isTime(attribute.value))
+        return {translated(known->title), timeText(attribute.value)};
     const Word *word = known->allowed.word(attribute.value);
     return {translated(known->title),
             word && word->shown ? translated(word->shown) : attribute.value};
@@ -310,6 +308,12 @@ JobOption inOneSpelling(const JobOption &option)
         return {u"orientation-requested"_s, u"4"_s};
     if (is("landscape", "false"))
         return {u"orientation-requested"_s, u"3"_s};
+    if (option.name == kHandlingAttribute && option.value == kCollated)
+        return {kCollateAttribute, u"true"_s};
+    if (option.name == kHandlingAttribute && option.value == kUncollated)
+        return {kCollateAttribute, u"false"_s};
+    if (option.name == "resolution"_L1)
+        return {u"printer-resolution"_s, option.value};
     if (option.name == "fitplot"_L1)
         return {u"fit-to-page"_s, option.value};
     return option;
@@ -318,8 +322,10 @@ JobOption inOneSpelling(const JobOption &option)
 QStringList jobAttributeNames()
 {
     QStringList names;
-    for (const JobAttribute &attribute : kAttributes)
-        names += attribute.name;
+    for (const std::span<const JobAttribute> table : tables()) {
+        for (const JobAttribute &attribute : table)
+            names += attribute.name;
+    }
     return names;
 }
 

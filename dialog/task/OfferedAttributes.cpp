@@ -15,7 +15,6 @@ using Place = OfferedAttribute::Place;
 
 namespace {
 
-constexpr QLatin1StringView kCollate{"collate"};
 constexpr QLatin1StringView kNumberUp{"number-up"};
 constexpr QLatin1StringView kNumberUpLayout{"number-up-layout"};
 constexpr QLatin1StringView kPrintColorMode{"print-color-mode"};
@@ -29,7 +28,7 @@ struct Offer
 // What is offered although nobody has asked for it yet. Every other attribute is behind "More" as
 // soon as it is in force.
 constexpr Offer kOffers[] = {
-    {kCollate, Place::BesideCopies},
+    {kCollateAttribute, Place::BesideCopies},
     {kPrintColorMode, Place::Front},
     {kNumberUp, Place::Front},
     {"print-scaling"_L1, Place::Front},
@@ -98,7 +97,7 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
     if (const ppd_option_t *own = ownOption(offer.name, *printer.session))
         one.value = printer.session->markedChoice(ppdKeyword(own->keyword)).toLower();
     one.isUsual = isUsual(one.value, attribute);
-    if (offer.name == kCollate)
+    if (offer.name == kCollateAttribute)
         one.hasEffect = settings.copies() > 1;
     if (offer.name == kNumberUpLayout)
         one.hasEffect = !isUsual(settings.attribute(kNumberUp), *jobAttribute(kNumberUp));
@@ -141,7 +140,7 @@ QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const Ope
 std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
                                       const OpenedPrinter &printer)
 {
-    if (name != kCollate)
+    if (name != kCollateAttribute)
         return std::nullopt;
     const ppd_option_t *option = ownOption(name, *printer.session);
     for (int i = 0; option && i < option->num_choices; ++i) {

@@ -180,7 +180,8 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
     Q_EMIT unsaid();
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
-    if (result.outcome != ChangeResult::Outcome::Conflict)
+    if (result.outcome != ChangeResult::Outcome::Conflict &&
+        result.outcome != ChangeResult::Outcome::NotMarked)
         return; // taken; or no choice of this printer, which the session has logged
     sayRefusal({{keyword, choice}, result.conflicting});
     showSettings(); // the page shows what the user picked
@@ -201,12 +202,14 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         propose(own->keyword, own->choice);
         return {};
     }
-    if (!value.isNull() && !attribute->accepts(value))
+    const std::optional<QString> taken =
+        value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
+    if (!taken)
         return tr("“%1” is not allowed. Allowed: %2.").arg(value, allowedText(attribute->allowed));
-    if (value == m_settings.attribute(name))
+    if (*taken == m_settings.attribute(name))
         return {};
     Q_EMIT unsaid();
-    m_settings.setAttribute(name, value);
+    m_settings.setAttribute(name, *taken);
     showSettings();
     return {};
 }

@@ -241,6 +241,90 @@
         <translation>解除されるまで</translation>
     </message>
     <message>
+        <source>%1 UTC</source>
+        <translation>%1 UTC</translation>
+    </message>
+    <message>
+        <source>%1 UTC (%2 here)</source>
+        <translation>%1 UTC（現地時刻 %2）</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Canceled After, in Seconds</source>
+        <translation>取り消すまでの秒数</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>a resolution such as 600dpi or 1200x600dpi</source>
+        <translation>600dpi や 1200x600dpi のような解像度</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>排紙先</translation>
+    </message>
+    <message>
+        <source>the name of an output bin</source>
+        <translation>排紙先の名前</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>numbers or names of finishings</source>
+        <translation>仕上げの番号または名前</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>給紙方法</translation>
+    </message>
+    <message>
+        <source>the name of a paper source</source>
+        <translation>給紙方法の名前</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>the name of a media type</source>
+        <translation>用紙の種類の名前</translation>
+    </message>
+    <message>
         <source>Up, Then to the Right</source>
         <translation>上、次に右へ</translation>
     </message>
@@ -291,10 +375,6 @@
     <message>
         <source>Two Thick Lines</source>
         <translation>太い二重線</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>自動</translation>
     </message>
     <message>
         <source>Fit to Paper If Too Large</source>
@@ -385,8 +465,8 @@
         <translation>昇順のページと範囲 (例: 1-4,7,9-)</translation>
     </message>
     <message>
-        <source>a time HH:MM</source>
-        <translation>時刻 HH:MM</translation>
+        <source>a time HH:MM in UTC</source>
+        <translation>時刻 HH:MM (UTC)</translation>
     </message>
     <message>
         <source>one or two names of banner pages</source>
@@ -456,6 +536,18 @@
     <message>
         <source>1 to %1</source>
         <translation>1～%1</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <translation>%1: プリンターのオプションをこの値に設定できません。</translation>
+    </message>
+    <message>
+        <source>this printer has nothing to choose from for this.</source>
+        <translation>このプリンターには、これに対する選択肢がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は使用できません。使用できる値: %2。</translation>
     </message>
 </context>
 <context>
@@ -706,6 +798,10 @@
     <message>
         <source>Change to %1</source>
         <translation>%1 に変更</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s options cannot be set to %1.</source>
+        <translation>プリンターのオプションを%1に設定できません。</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1121,14 @@
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1, collated</source>
+        <translation>%1（部単位）</translation>
+    </message>
+    <message>
+        <source>%1, not collated</source>
+        <translation>%1（ページ単位）</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,90 @@
         <translation>直到被释放</translation>
     </message>
     <message>
+        <source>%1 UTC</source>
+        <translation>%1 UTC</translation>
+    </message>
+    <message>
+        <source>%1 UTC (%2 here)</source>
+        <translation>%1 UTC（本地时间 %2）</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>黑白</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>草稿</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Canceled After, in Seconds</source>
+        <translation>超时后取消（秒）</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>颜色模式</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>a resolution such as 600dpi or 1200x600dpi</source>
+        <translation>分辨率，例如 600dpi 或 1200x600dpi</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>出纸盒</translation>
+    </message>
+    <message>
+        <source>the name of an output bin</source>
+        <translation>出纸盒的名称</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>后处理</translation>
+    </message>
+    <message>
+        <source>numbers or names of finishings</source>
+        <translation>后处理的编号或名称</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>纸张来源</translation>
+    </message>
+    <message>
+        <source>the name of a paper source</source>
+        <translation>纸张来源的名称</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>介质类型</translation>
+    </message>
+    <message>
+        <source>the name of a media type</source>
+        <translation>介质类型的名称</translation>
+    </message>
+    <message>
         <source>Up, Then to the Right</source>
         <translation>先向上，再向右</translation>
     </message>
@@ -291,10 +375,6 @@
     <message>
         <source>Two Thick Lines</source>
         <translation>双粗线</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>自动</translation>
     </message>
     <message>
         <source>Fit to Paper If Too Large</source>
@@ -385,8 +465,8 @@
         <translation>按升序排列的页码和范围，例如 1-4,7,9-</translation>
     </message>
     <message>
-        <source>a time HH:MM</source>
-        <translation>时间 HH:MM</translation>
+        <source>a time HH:MM in UTC</source>
+        <translation>时间 HH:MM (UTC)</translation>
     </message>
     <message>
         <source>one or two names of banner pages</source>
@@ -456,6 +536,18 @@
     <message>
         <source>1 to %1</source>
         <translation>1 到 %1</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <translation>%1：无法将打印机的选项设置为此值。</translation>
+    </message>
+    <message>
+        <source>this printer has nothing to choose from for this.</source>
+        <translation>此打印机对此没有可供选择的项目。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许“%1”。允许的值：%2。</translation>
     </message>
 </context>
 <context>
@@ -706,6 +798,10 @@
     <message>
         <source>Change to %1</source>
         <translation>更改为%1</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s options cannot be set to %1.</source>
+        <translation>无法将打印机的选项设置为%1。</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1121,14 @@
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1, collated</source>
+        <translation>%1（逐份打印）</translation>
+    </message>
+    <message>
+        <source>%1, not collated</source>
+        <translation>%1（逐页打印）</translation>
     </message>
 </context>
 <context>

@@ -10,8 +10,7 @@
 
 namespace corvana::test {
 
-/// What is said of a job of the queue "office" that was printed; %1 is its number.
-inline const QString kPrintedAs = QStringLiteral("Printed on “office” as job office-%1\\.");
+using namespace Qt::StringLiterals;
 
 /// A fault that meets somebody who prints, and what becomes of it.
 struct QueueFault

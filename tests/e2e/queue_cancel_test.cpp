@@ -37,7 +37,7 @@ private Q_SLOTS:
     void printingIsCanceledAtEveryStage_data()
     {
         QTest::addColumn<Fault>("fault");
-        const auto cancel = [](Scene &scene) { QVERIFY(scene.window->press("cancel")); };
+        const auto cancel = [](Scene &scene) { QVERIFY(scene.window->press(u"cancel"_s)); };
         const auto progress = [](const QString &text) {
             return [text](Scene &scene) { return scene.window->progress().startsWith(text); };
         };
@@ -126,7 +126,7 @@ private Q_SLOTS:
         // Nobody can take it back then, and it will be printed.
         fault.strike = [](Scene &scene) {
             scene.goAway();
-            QVERIFY(scene.window->press("cancel"));
+            QVERIFY(scene.window->press(u"cancel"_s));
         };
         fault.says = u"Job office-1 could not be canceled and may still be "
                      "printed\\. .+"_s;
@@ -159,11 +159,11 @@ private Q_SLOTS:
         scene.open({m_player->document()});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QVERIFY(!window.press("leave"));
-        QVERIFY(window.press("print"));
+        QVERIFY(!window.press(u"leave"_s));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitUntil([&] { return window.progress().startsWith(u"Printing page"_s); }));
         if (byTheButton)
-            QVERIFY(window.press("leave"));
+            QVERIFY(window.press(u"leave"_s));
         else
             window.dialog().close();
         QTRY_VERIFY(!window.dialog().isVisible());

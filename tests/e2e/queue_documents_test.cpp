@@ -13,19 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-
 constexpr int kPatience = 30000; // milliseconds that a program may take on a busy machine
 
 // What a printer is told to take, instead of PostScript.
 constexpr char kPdfLine[] = "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n";
 constexpr char kRasterLine[] = "*cupsFilter2: \"image/pwg-raster image/pwg-raster 0 -\"\n";
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // A PDF whose pages say "NAME1", "NAME2" and so on, on A4.
 QByteArray pdfOf(const QByteArray &name, int pages)
@@ -120,7 +112,7 @@ private:
         if (lines.isEmpty())
             return kPpd;
         QByteArray text;
-        for (const QByteArray &line : contentOf(kPpd).split('\n')) {
+        for (const QByteArray &line : readAll(kPpd).split('\n')) {
             if (!line.startsWith("*cupsFilter"))
                 text += line + '\n';
         }
@@ -225,7 +217,7 @@ private Q_SLOTS:
         const RunEnd filed =
             m_runner->run(QStringList{u"--ppd"_s, path, u"--output"_s, output} + arguments);
         QVERIFY2(filed.status == 0, filed.text().constData());
-        QTEST(sidesOf(contentOf(output)), "sides");
+        QTEST(sidesOf(readAll(output)), "sides");
     }
 
     void aPrinterOfPdfGetsOneOfWholeSheets_data()
@@ -257,8 +249,8 @@ private Q_SLOTS:
         const RunEnd filed =
             m_runner->run(QStringList{u"--ppd"_s, path, u"--output"_s, output} + arguments);
         QVERIFY2(filed.status == 0, filed.text().constData());
-        QCOMPARE(contentOf(output).count("%PDF-"), qsizetype(1));
-        QTEST(sidesOf(contentOf(output)), "sides");
+        QCOMPARE(readAll(output).count("%PDF-"), qsizetype(1));
+        QTEST(sidesOf(readAll(output)), "sides");
         // What it is about.
         QCOMPARE(printedByLp(u"office"_s, arguments).count("%PDF-"), qsizetype(2));
     }
@@ -281,9 +273,9 @@ private Q_SLOTS:
             m_runner->run(QStringList{u"--ppd"_s, ppd(kRasterLine), u"--output"_s, output} +
                           documents(u"three:3 two:2"_s));
         QVERIFY2(end.status == 0, end.text().constData());
-        QVERIFY(contentOf(output).startsWith("RaS2"));
-        QCOMPARE(contentOf(output).count("RaS2PwgRaster"), qsizetype(1));
-        QCOMPARE(contentOf(output).count("PwgRaster"), qsizetype(5)); // a header a page
+        QVERIFY(readAll(output).startsWith("RaS2"));
+        QCOMPARE(readAll(output).count("RaS2PwgRaster"), qsizetype(1));
+        QCOMPARE(readAll(output).count("PwgRaster"), qsizetype(5)); // a header a page
     }
 
     void aFileOfPostScriptHasThemInARow()
@@ -293,7 +285,7 @@ private Q_SLOTS:
             m_runner->run(QStringList{u"--ppd"_s, kPpd, u"--output"_s, output, u"-n"_s, u"2"_s} +
                           documents(u"two:2 one:1"_s));
         QVERIFY2(end.status == 0, end.text().constData());
-        QCOMPARE(sidesOf(contentOf(output)), u"two1 | two2 | one1 | two1 | two2 | one1"_s);
+        QCOMPARE(sidesOf(readAll(output)), u"two1 | two2 | one1 | two1 | two2 | one1"_s);
     }
 
     void copiesComeInSets_data()
@@ -342,7 +334,7 @@ private Q_SLOTS:
         QFETCH(QString, sides);
         QString path = document("five", 5);
         if (!cutAt.isEmpty())
-            write(u"five.pdf"_s, contentOf(path).left(contentOf(path).indexOf(cutAt)));
+            write(u"five.pdf"_s, readAll(path).left(readAll(path).indexOf(cutAt)));
         if (!qpdf.isEmpty()) {
             const QString plain = path;
             path = m_runner->filePath(u"closed.pdf"_s);
@@ -354,7 +346,7 @@ private Q_SLOTS:
         QCOMPARE(end.status, sides.isNull() ? 1 : 0);
         QCOMPARE(QFile::exists(output), !sides.isNull());
         if (!sides.isNull())
-            QCOMPARE(sidesOf(contentOf(output)), sides);
+            QCOMPARE(sidesOf(readAll(output)), sides);
     }
 
     void aPrinterForEverywhereGetsEachByItself()

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kSample = corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
+const QString kSample = corvana::test::sourceFile(u"resources/sample/welcome.pdf"_s);
 
 /// Without the lines that are different in every job: its date and its number.
 QByteArray comparable(const QByteArray &data)

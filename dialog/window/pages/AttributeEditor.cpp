@@ -130,17 +130,18 @@ class WordEditor : public AttributeEditor
 {
 public:
     WordEditor(const JobAttribute &attribute, QWidget *parent)
-        : AttributeEditor(attribute, parent), m_words(new QComboBox(this))
+        : AttributeEditor(attribute, parent), m_words(new QComboBox(this)),
+          m_usual(attribute.usual.isEmpty() ? QString() : QString(attribute.usual))
     {
         m_words->setObjectName(attribute.name);
         m_words->setAccessibleName(titleOf(attribute));
         m_words->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         m_words->setMinimumContentsLength(12);
         ignoreWheelWithoutFocus(m_words);
-        if (attribute.usual.isEmpty())
-            add(automatic(), QString());
         for (const AllowedValues::Word &word : attribute.allowed.words)
             add(textOfJobAttribute({attribute.name, word.value}).value, QString(word.value));
+        if (attribute.usual.isEmpty())
+            addAutomatic();
         auto *field = new QWidget(this);
         auto *row = new QHBoxLayout(field);
         row->setContentsMargins(0, 0, 0, 0);
@@ -157,8 +158,7 @@ public:
 protected:
     void put(const QString &value) override
     {
-        const QString usual = attribute().usual.isEmpty() ? QString() : attribute().usual;
-        const QString shown = value.isNull() ? usual : value;
+        const QString shown = value.isNull() ? m_usual : value;
         int index = indexOf(shown);
         if (index < 0 && !m_other) {
             // A server's default may be a word that nobody here knows.
@@ -196,6 +196,16 @@ private:
         m_words->addItem(title, value);
     }
 
+    // A word may stand for that already.
+    void addAutomatic()
+    {
+        const ProgrammaticChange change;
+        if (const int word = m_words->findText(automatic()); word >= 0)
+            m_usual = valueAt(word);
+        else
+            m_words->insertItem(0, automatic(), QString());
+    }
+
     void addOther(QHBoxLayout *row)
     {
         add(AttributeEditor::tr("Other…"), QString(u""_s));
@@ -228,6 +238,7 @@ private:
     }
 
     QComboBox *m_words;
+    QString m_usual; // what is chosen while nobody asks for anything; null for no word
     QLineEdit *m_other = nullptr;
 };
 

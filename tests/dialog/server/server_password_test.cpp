@@ -14,17 +14,12 @@ using namespace std::chrono_literals;
 using Kind = ServerProblem::Kind;
 
 /// Who is asked for a password, how often, and what becomes of it.
-class ServerPasswordTest : public QObject
+class ServerPasswordTest : public ServerFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_scene.emplace();
-    }
+    void initTestCase() { startScene(); }
     void cleanupTestCase() { m_scene.reset(); }
     void init() { m_scene->anew(); }
 
@@ -191,9 +186,6 @@ private Q_SLOTS:
         QCOMPARE(problem.kind, Kind::PasswordCanceled);
         QCOMPARE(asked, 1);
     }
-
-private:
-    std::optional<ServerScene> m_scene;
 };
 
 QTEST_GUILESS_MAIN(ServerPasswordTest)

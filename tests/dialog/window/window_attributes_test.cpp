@@ -104,7 +104,7 @@ private Q_SLOTS:
         control<QSpinBox>(u"copies"_s)->setValue(2);
         QVERIFY(collate->isEnabled());
         QVERIFY(click(collate));
-        QCOMPARE(summary(u"Collate"_s), QStringList{u"Off"_s});
+        QCOMPARE(summary(u"Copies"_s), QStringList{u"2, not collated"_s});
         QVERIFY(printed().contains("collate=false"));
     }
 

@@ -53,6 +53,7 @@ struct ShownCase
 
 const QList<ShownCase> kShown{
     {"a word by its text", front(u"print-scaling"_s, u"none"_s), u"Actual Size"_s},
+    {"nothing, where a word says so", front(u"print-color-mode"_s), u"Automatic"_s},
     {"the usual word", front(u"print-scaling"_s), u"Automatic"_s},
     {"no word", front(u"orientation-requested"_s), u"Automatic"_s},
     {"a word where there may be none", front(u"orientation-requested"_s, u"4"_s), u"Landscape"_s},
@@ -202,6 +203,20 @@ private Q_SLOTS:
         QVERIFY(pick(control<QComboBox>(u"print-scaling"_s), u"Fill Paper"_s));
         QCOMPARE(m_proposed->size(), 1);
         QCOMPARE(proposal(), (QStringList{u"print-scaling"_s, u"fill"_s}));
+    }
+
+    // Of print-color-mode nobody can tell "nothing" from "auto".
+    void noItemStandsTwiceInAList()
+    {
+        for (const QString &name : jobAttributeNames()) {
+            open({front(name)});
+            auto *words = control<QComboBox>(name);
+            QStringList titles;
+            for (int i = 0; words && i < words->count(); ++i)
+                titles += words->itemText(i);
+            QVERIFY2(titles.removeDuplicates() == 0, qPrintable(name));
+            QVERIFY2(!words || words->currentIndex() >= 0, qPrintable(name));
+        }
     }
 
     void anAttributeCanBeTakenBack()
