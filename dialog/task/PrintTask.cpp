@@ -9,6 +9,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
@@ -19,12 +20,16 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
       m_credentials(CredentialStore::create()),
       m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
                ServerContext{m_request.server, m_credentials}),
-      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed}
+      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed,
+               m_request.outputWasNamed ? QString() : m_request.output}
 {
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
+    if (m_request.credentials)
+        m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
+    connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(
@@ -57,6 +62,7 @@ void PrintTask::bringUp()
 {
     if (m_phase != Phase::Opened)
         return;
+    lookForMissingCharacters();
     const QList<Refusal> refusals = bringPanelsUp();
     noteMissingPages();
     if (!m_memory.value(idOf(m_chosen.printer)).session)
@@ -149,7 +155,7 @@ QStringList PrintTask::takeMostCopies()
     return {};
 }
 
-QList<SummaryLine> PrintTask::summary()
+QList<SummaryLine> PrintTask::summaryOfSettings()
 {
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(),
                           jobAttributes());

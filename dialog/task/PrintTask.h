@@ -10,6 +10,7 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/sheets/SheetCounter.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
@@ -19,6 +20,8 @@
 #include "dialog/task/TaskMessage.h"
 
 namespace corvana {
+
+class TextCheck;
 
 /// Why a printer cannot be asked for, whole and in few words.
 struct PrinterProblem
@@ -48,7 +51,7 @@ public:
         Opened,    ///< its session is there; its panels have not come up
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
-        Printing,  ///< a job runs
+        Printing,  ///< its sheets are counted, then a job runs
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -108,6 +111,9 @@ public:
     void showSettings();
     /// The summary of the job as it stands now.
     QList<SummaryLine> summary();
+    /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
+    /// follows where the summary does not have them already.
+    void countSheets();
 
     // The job (PrintTask-job.cpp)
 
@@ -121,7 +127,7 @@ public:
     /// Prints: asks the panels, makes a ticket of everything, and starts the job. refused() or
     /// jobEnded() follows. Without any document only the summary is written.
     void print();
-    /// Takes the job back wherever it is.
+    /// Takes the job back wherever it is; nothing more is heard of one that was not begun.
     void cancel();
     /// Lets a job that its queue has go on by itself; the task then ends.
     void leave();
@@ -142,6 +148,10 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// What is written is another kind of file, and another name for it is proposed: output().
+    void outputProposed();
+    /// The summary says more about the sheets than it did.
+    void sheetsCounted();
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
     void unsaid();
@@ -173,14 +183,17 @@ private:
     struct Run
     {
         std::unique_ptr<Job> job;
-        JobOutcome outcome; // of the last one
-        bool held = false;  // the job waits until its instructions have been followed
+        JobTicket ticket;         // of the one whose sheets are counted
+        QList<SummaryLine> lines; // of its summary
+        JobOutcome outcome;       // of the last one
+        bool held = false;        // the job waits until its instructions have been followed
     };
     struct Output
     {
         QString path;
         bool toFile = false;
         bool confirmed = false;
+        QString proposed{}; // and nobody's choice
     };
     struct Baseline
     {
@@ -198,6 +211,7 @@ private:
     void takeNext();
     void open(const FetchedPrinter &ready);
     void close();
+    void proposeOutput();
     void rememberSession();
     void takeExpectedPrinter();
     void printerChecked(const FetchedPrinter &checked);
@@ -217,7 +231,18 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
+    void lookForMissingCharacters();
+    bool mayPrintTexts();
     void startJob(const JobTicket &ticket);
+
+    JobTicket ticket() const;
+    SheetRequest sheetRequest(const JobTicket &ticket) const;
+    QList<SummaryLine> withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const;
+    QList<SummaryLine> summaryOfSettings();
+    void countBeforeJob();
+    void sheetsKnown();
+    void endCounting();
+    bool isCounting() const { return m_phase == Phase::Printing && !m_run.job; }
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;
@@ -230,7 +255,9 @@ private:
     Baseline m_baseline;
     JobSettings m_settings;
     Output m_output;
+    SheetCounter m_sheets;
     Run m_run;
+    std::unique_ptr<TextCheck> m_textCheck;
     Phase m_phase = Phase::Fetching;
 };
 

@@ -25,6 +25,7 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent) : QTabWidget(pare
     setObjectName(u"pages"_s);
     setDocumentMode(false);
     connect(this, &QTabWidget::currentChanged, this, &SettingsPages::enter);
+    connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
 }
 
 void SettingsPages::open()
@@ -166,7 +167,21 @@ void SettingsPages::refresh()
     showAttributes();
     if (m_options)
         m_options->refresh();
-    if (currentWidget() == m_summary)
+    showSummary();
+}
+
+// Counted is only for somebody who looks at it.
+void SettingsPages::showSummary()
+{
+    if (!m_summary || currentWidget() != m_summary)
+        return;
+    m_summary->setLines(m_task.summary());
+    m_task.countSheets();
+}
+
+void SettingsPages::showCountedSheets()
+{
+    if (m_summary && currentWidget() == m_summary)
         m_summary->setLines(m_task.summary());
 }
 

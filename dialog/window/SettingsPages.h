@@ -63,6 +63,8 @@ private:
     void addGeneral();
     void showAttributes();
     void enter(int page);
+    void showSummary();
+    void showCountedSheets();
 
     PrintTask &m_task;
     GeneralPage *m_general = nullptr;
