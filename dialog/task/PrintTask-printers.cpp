@@ -174,11 +174,15 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
     const bool asksAnew = next && next->ppd->hash == m_opened->fetched.ppd->hash;
     if (isUntouched() && (m_request.options.isEmpty() || asksAnew))
         return;
+    QList<JobOption> attributes = m_settings.attributesOfOthers();
+    attributes.removeIf(
+        [](const JobOption &option) { return option.name == kPageRangesAttribute; });
     LeftSession left{m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash,
-                     attributesButPages()};
+                     attributes};
     const JobSettings::By by = m_settings.copiesAskedForBy();
     if (by == JobSettings::By::Queue || by == JobSettings::By::UserQueues)
         left.copies = m_settings.copiesAskedFor();
+    left.chosen = m_settings.chosenAttributes();
     m_memory[idOf(m_chosen.printer)].session = left;
 }
 
@@ -187,15 +191,7 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
 bool PrintTask::isUntouched() const
 {
     return m_phase != Phase::Ready || (m_opened->session->snapshot() == m_baseline.started &&
-                                       attributesButPages() == m_baseline.attributes);
-}
-
-QList<JobOption> PrintTask::attributesButPages() const
-{
-    QList<JobOption> attributes = m_settings.attributes();
-    attributes.removeIf(
-        [](const JobOption &option) { return option.name == kPageRangesAttribute; });
-    return attributes;
+                                       m_settings.chosenAttributes() == m_baseline.chosen);
 }
 
 void PrintTask::takeExpectedPrinter()

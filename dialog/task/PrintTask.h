@@ -13,6 +13,7 @@
 #include "dialog/sheets/SheetCounter.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
+#include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/TaskFace.h"
@@ -101,6 +102,11 @@ public:
     JobSettings &settings() { return m_settings; }
     /// The user picked a choice on a page of the dialog.
     void propose(const QString &keyword, const QString &choice);
+    /// The job attributes that a face offers, with what is in force.
+    QList<OfferedAttribute> attributes() const;
+    /// The user chose a value of a job attribute; null: none. Answers why it is not taken, in words
+    /// for the place where it was entered; empty when it is.
+    QString setAttribute(const QString &name, const QString &value);
     /// Makes every face show the settings anew.
     void showSettings();
     /// The summary of the job as it stands now.
@@ -196,10 +202,10 @@ private:
     };
     struct Baseline
     {
-        SessionSnapshot opened;        // before any option was taken
-        SessionSnapshot started;       // before the user changed anything
-        QList<JobOption> attributes{}; // of the job, at the same time
-        SessionSnapshot shown;         // as the face was told last
+        SessionSnapshot opened;  // before any option was taken
+        SessionSnapshot started; // before the user changed anything
+        SessionSnapshot shown;   // as the face was told last
+        QList<JobOption> chosen; // attributes, before the user changed anything
     };
 
     void enter(Phase phase);
@@ -229,7 +235,6 @@ private:
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
     QList<JobOption> jobAttributes() const;
-    QList<JobOption> attributesButPages() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
     void lookForMissingCharacters();

@@ -91,8 +91,7 @@ void PrintWindow::printerOpened()
     panels->setWindow(this);
     connect(panels, &PanelHost::settled, this, &PrintWindow::updateSilencedAlerts);
     // Later: a panel is in the midst of its work when it says so.
-    connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPanelView,
-            Qt::QueuedConnection);
+    connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPage, Qt::QueuedConnection);
     m_pages->open();
     updateSilencedAlerts();
     if (m_painted)

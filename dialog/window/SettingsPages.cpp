@@ -65,10 +65,23 @@ void SettingsPages::addGeneral()
     m_general->setCopies(m_task.settings().copies());
     addTab(m_general, tr("General"));
     connect(m_general, &GeneralPage::proposed, &m_task, &PrintTask::propose);
-    connect(m_general, &GeneralPage::copiesEdited, this,
-            [this](int copies) { m_task.settings().askForCopies(copies, JobSettings::By::User); });
+    connect(m_general, &GeneralPage::copiesEdited, this, [this](int copies) {
+        m_task.settings().askForCopies(copies, JobSettings::By::User);
+        showAttributes(); // some of them are about several copies
+    });
     connect(m_general, &GeneralPage::pageRangesEdited, this,
             [this](const QString &ranges) { m_task.settings().setPageRanges(ranges); });
+    connect(m_general, &GeneralPage::attributeProposed, this,
+            [this](const QString &name, const QString &value) {
+                m_general->showAttributeProblem(name, m_task.setAttribute(name, value));
+            });
+    connect(m_general, &GeneralPage::heightChanged, this, &SettingsPages::heightChanged);
+    showAttributes();
+}
+
+void SettingsPages::showAttributes()
+{
+    m_general->setAttributes(m_task.attributes());
 }
 
 bool SettingsPages::showPanels()
@@ -152,6 +165,7 @@ void SettingsPages::refresh()
     if (m_general->pageRanges() != settings.pageRanges())
         m_general->setPageRanges(settings.pageRanges());
     m_general->refresh();
+    showAttributes();
     if (m_options)
         m_options->refresh();
     showSummary();
@@ -174,6 +188,11 @@ void SettingsPages::showCountedSheets()
 
 bool SettingsPages::finishEditing()
 {
+    if (m_general && !m_general->finishEditing()) {
+        setCurrentWidget(m_general);
+        m_general->finishEditing(); // the focus goes only where it is seen
+        return false;
+    }
     if (!m_options || m_options->finishEditing())
         return true;
     setCurrentWidget(m_options);
@@ -195,6 +214,13 @@ int SettingsPages::currentPanel() const
 PanelPage *SettingsPages::currentPanelPage() const
 {
     return qobject_cast<PanelPage *>(currentWidget());
+}
+
+std::optional<int> SettingsPages::missingHeight() const
+{
+    if (PanelPage *page = currentPanelPage())
+        return page->followView();
+    return currentWidget() == m_general && m_general ? m_general->missingHeight() : std::nullopt;
 }
 
 void SettingsPages::turn(int step)

@@ -332,6 +332,162 @@
         <source>the name of a media type</source>
         <translation>用紙の種類の名前</translation>
     </message>
+<message>
+        <source>Up, Then to the Right</source>
+        <translation>上、次に右へ</translation>
+    </message>
+    <message>
+        <source>Up, Then to the Left</source>
+        <translation>上、次に左へ</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Up</source>
+        <translation>右、次に上へ</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Down</source>
+        <translation>右、次に下へ</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Up</source>
+        <translation>左、次に上へ</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Down</source>
+        <translation>左、次に下へ</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Right</source>
+        <translation>下、次に右へ</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Left</source>
+        <translation>下、次に左へ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Thin Line</source>
+        <translation>細い線</translation>
+    </message>
+    <message>
+        <source>Thick Line</source>
+        <translation>太い線</translation>
+    </message>
+    <message>
+        <source>Two Thin Lines</source>
+        <translation>細い二重線</translation>
+    </message>
+    <message>
+        <source>Two Thick Lines</source>
+        <translation>太い二重線</translation>
+    </message>
+    <message>
+        <source>Fit to Paper If Too Large</source>
+        <translation>はみ出す場合は用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Fill Paper</source>
+        <translation>用紙全体に広げる</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Print at Once</source>
+        <translation>すぐに印刷</translation>
+    </message>
+    <message>
+        <source>Daytime</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>夕方</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>Second Shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>Third Shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>Weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>points of 1/72 inch</source>
+        <translation>ポイント (1/72 インチ)</translation>
+    </message>
+    <message>
+        <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
+        <translation>昇順のページと範囲 (例: 1-4,7,9-)</translation>
+    </message>
+    <message>
+        <source>a time HH:MM in UTC</source>
+        <translation>時刻 HH:MM (UTC)</translation>
+    </message>
+    <message>
+        <source>one or two names of banner pages</source>
+        <translation>バナーページの名前を 1 つか 2 つ</translation>
+    </message>
+    <message>
+        <source>a text of up to 255 bytes</source>
+        <translation>255 バイトまでの文字列</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -1509,6 +1665,14 @@ For the command line: %2</source>
         <translation>このプリンターに設定されている内容の一部は使用できませんでした:
 %1</translation>
     </message>
+<message>
+        <source>There is no job attribute of the name %1.</source>
+        <translation>%1 という名前のジョブ属性はありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1951,6 +2115,40 @@ For the command line: %2</source>
     <message>
         <source>Passed on as it is</source>
         <translation>そのまま渡されます</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>その他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>詳細(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>詳細、%1</translation>
     </message>
 </context>
 </TS>

@@ -332,6 +332,162 @@
         <source>the name of a media type</source>
         <translation>介质类型的名称</translation>
     </message>
+<message>
+        <source>Up, Then to the Right</source>
+        <translation>先向上，再向右</translation>
+    </message>
+    <message>
+        <source>Up, Then to the Left</source>
+        <translation>先向上，再向左</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Up</source>
+        <translation>先向右，再向上</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Down</source>
+        <translation>先向右，再向下</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Up</source>
+        <translation>先向左，再向上</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Down</source>
+        <translation>先向左，再向下</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Right</source>
+        <translation>先向下，再向右</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Left</source>
+        <translation>先向下，再向左</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Thin Line</source>
+        <translation>细线</translation>
+    </message>
+    <message>
+        <source>Thick Line</source>
+        <translation>粗线</translation>
+    </message>
+    <message>
+        <source>Two Thin Lines</source>
+        <translation>双细线</translation>
+    </message>
+    <message>
+        <source>Two Thick Lines</source>
+        <translation>双粗线</translation>
+    </message>
+    <message>
+        <source>Fit to Paper If Too Large</source>
+        <translation>超出时缩小以适合纸张</translation>
+    </message>
+    <message>
+        <source>Fill Paper</source>
+        <translation>填满纸张</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>适合纸张</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Print at Once</source>
+        <translation>立即打印</translation>
+    </message>
+    <message>
+        <source>Daytime</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>傍晚</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>Second Shift</source>
+        <translation>第二班</translation>
+    </message>
+    <message>
+        <source>Third Shift</source>
+        <translation>第三班</translation>
+    </message>
+    <message>
+        <source>Weekend</source>
+        <translation>周末</translation>
+    </message>
+    <message>
+        <source>points of 1/72 inch</source>
+        <translation>点 (1/72 英寸)</translation>
+    </message>
+    <message>
+        <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
+        <translation>按升序排列的页码和范围，例如 1-4,7,9-</translation>
+    </message>
+    <message>
+        <source>a time HH:MM in UTC</source>
+        <translation>时间 HH:MM (UTC)</translation>
+    </message>
+    <message>
+        <source>one or two names of banner pages</source>
+        <translation>一个或两个分隔页的名称</translation>
+    </message>
+    <message>
+        <source>a text of up to 255 bytes</source>
+        <translation>最多 255 字节的文本</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -1509,6 +1665,14 @@ For the command line: %2</source>
         <translation>为此打印机设置的内容未能全部采用：
 %1</translation>
     </message>
+<message>
+        <source>There is no job attribute of the name %1.</source>
+        <translation>没有名为 %1 的作业属性。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许使用“%1”。允许的值：%2。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1951,6 +2115,40 @@ For the command line: %2</source>
     <message>
         <source>Passed on as it is</source>
         <translation>原样传送</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>其他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>更多(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>更多，%1</translation>
     </message>
 </context>
 </TS>
