@@ -32,19 +32,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ServerJob)
 };
 
-JobProgress progressOf(const JobStatus &status, int job)
-{
-    JobProgress progress{
-        JobProgress::Stage::Waiting, job, status.pages, 0, 0, status.message, status.reasons};
-    if (status.state == IPP_JSTATE_PROCESSING)
-        progress.stage = JobProgress::Stage::Printing;
-    else if (status.state == IPP_JSTATE_HELD)
-        progress.stage = JobProgress::Stage::Held;
-    else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
-        progress.stage = JobProgress::Stage::Stopped;
-    return progress;
-}
-
 bool isHeldForLogIn(const JobStatus &status)
 {
     return status.state == IPP_JSTATE_HELD &&
@@ -130,7 +117,10 @@ private:
         context.mayAsk = false;
         context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
         context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
+        const bool isFollowed = m_connection == m_another.get();
         m_another = std::make_unique<ServerConnection>(context, nullptr);
+        if (isFollowed) // on the one that has just gone
+            m_connection = m_another.get();
         return *m_another;
     }
 
@@ -321,7 +311,7 @@ private:
                            : m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
             if (status->isOver())
                 return ended(*status);
-            const JobProgress progress = progressOf(*status, job());
+            const JobProgress progress = m_followed.progress(*status);
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
                 return m_outcomes.stopped(*status);

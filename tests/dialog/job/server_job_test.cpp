@@ -329,6 +329,18 @@ private Q_SLOTS:
         QVERIFY(subscribed < operations.indexOf(IPP_OP_SEND_DOCUMENT));
     }
 
+    // The connection that it was made on is gone by then.
+    void aJobThatIsTakenBackNeedsItsSubscriptionNoLonger()
+    {
+        m_server->rememberTheEnd({IPP_JSTATE_CANCELED});
+        m_server->loseTheAnswerToTheDocument();
+        m_server->say({{IPP_JSTATE_HELD, 0}});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(u"office-8 was canceled"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_SUBSCRIPTION), 1);
+    }
+
     void aJobThatIsNotFollowedNeedsNoSubscription()
     {
         m_request.follow = false;
