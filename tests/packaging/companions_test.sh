@@ -234,7 +234,7 @@ theActionsOfFileManagersAreForTheFilesThatTheProgramPrints() {
 
 # default_of TYPE: what opens a file of a type where no other program is installed.
 default_of() {
-    env -i PATH="$PATH" HOME="$work/home" XDG_DATA_DIRS="$work/share" XDG_DATA_HOME="$work/none" \
+    env -i LC_ALL=C.UTF-8 PATH="$PATH" HOME="$work/home" XDG_DATA_DIRS="$work/share" XDG_DATA_HOME="$work/none" \
         XDG_CONFIG_DIRS="$work/none" XDG_CONFIG_HOME="$work/none" gio mime "$1" 2>&1
 }
 
