@@ -44,17 +44,19 @@ public:
     /// What an HTTP GET brought.
     struct File
     {
-        enum class State { Failed, Unchanged, Missing, Read };
+        enum class State { Failed, Missing, Read };
         State state = State::Failed;
         QByteArray content;
-        qint64 lastModified = 0; ///< seconds since 1970, 0 when the server does not say
     };
-    /// Fetches a file of the server's, if it has changed since `modifiedSince` (0: in any case).
-    /// Errors: `Failed`; problem() says why.
-    File get(const QByteArray &resource, qint64 modifiedSince = 0);
+    /// Fetches a file of the server's. Errors: `Failed`; problem() says why.
+    File get(const QByteArray &resource);
 
     /// Why the last operation failed.
     const ServerProblem &problem() const { return m_line.problem(); }
+
+    /// Goes back to the problem of an earlier operation, where a later one was only to find out
+    /// more about it.
+    void restore(const ServerProblem &problem) { m_line.restore(problem); }
 
     /// Whether the complete document had been sent when the last request failed: then the server
     /// may have done what it was asked for, without its answer getting here.
@@ -62,17 +64,33 @@ public:
     /// Whether the server may have got the last request at all: there was a connection for it.
     bool requestWasSent() const { return m_requestSent; }
 
+    /// While it lives, nothing that is asked is of any importance to the user; see HttpLine.
+    class Aside
+    {
+    public:
+        explicit Aside(ServerConnection &connection) : m_line(connection.m_line)
+        {
+            m_line.setAside(true);
+        }
+        ~Aside() { m_line.setAside(false); }
+        Aside(const Aside &) = delete;
+        Aside &operator=(const Aside &) = delete;
+
+    private:
+        HttpLine &m_line;
+    };
+
 private:
     IppMessage exchange(IppMessage message, const QByteArray &resource, QIODevice *document,
                         const std::function<void(qint64)> &progress);
     http_status_t sendIpp(ipp_t *message, const QByteArray &resource, QIODevice *document,
                           const std::function<void(qint64)> &progress);
     bool sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
-    http_status_t sendGet(const QByteArray &resource, qint64 modifiedSince);
+    http_status_t sendGet(const QByteArray &resource);
     IppMessage readIpp();
     IppMessage unlessRefused(IppMessage response);
     File readFile();
-    File takeRefusal(http_status_t status, qint64 modifiedSince);
+    File takeRefusal(http_status_t status);
     void noteUnread(const AnswerReader &reader);
 
     HttpLine m_line;
