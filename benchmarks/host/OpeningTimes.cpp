@@ -77,8 +77,13 @@ void makeKnown(const QString &server)
     printer.description = kQueue;
     printer.origin = PrinterOrigin::Queue;
     printer.uri = queueUri(kQueue);
+    QueueDetails details;
+    details.state = QueueDetails::Ppd::New;
+    details.printer = printer;
     QFile ppd(kSamplePpd);
-    if (!ppd.open(QIODevice::ReadOnly) || !PpdCache().store(server, printer, ppd.readAll(), 1))
+    if (ppd.open(QIODevice::ReadOnly))
+        details.ppd = ppd.readAll();
+    if (!PpdCache().store(server, details))
         throw std::runtime_error("the sample printer cannot be kept");
     rememberPrinter(server, kQueue);
 }
