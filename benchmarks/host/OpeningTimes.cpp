@@ -78,11 +78,12 @@ void makeKnown(const QString &server)
     printer.origin = PrinterOrigin::Queue;
     printer.uri = queueUri(kQueue);
     QueueDetails details;
-    details.state = QueueDetails::Ppd::New;
+    details.state = QueueDetails::Ppd::Read;
     details.printer = printer;
     QFile ppd(kSamplePpd);
     if (ppd.open(QIODevice::ReadOnly))
         details.ppd = ppd.readAll();
+    details.ppdHash = hashOfPpd(details.ppd);
     if (!PpdCache().store(server, details))
         throw std::runtime_error("the sample printer cannot be kept");
     rememberPrinter(server, kQueue);

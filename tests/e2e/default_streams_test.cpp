@@ -12,17 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-const QString kThreePages =
-    corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
-const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Without a cover sheet, which has the number of its job on it, and the lines that are different
 /// in every job, or say beside "Duplex" that a job is two-sided.
 QByteArray comparable(const QByteArray &data)
@@ -101,7 +90,7 @@ private:
     void printAsItIs()
     {
         Client client(m_cups->server());
-        QVERIFY(client.print(u"office"_s, contentOf(kThreePages), "application/pdf") > 0);
+        QVERIFY(client.print(u"office"_s, readAll(kThreePages), "application/pdf") > 0);
         QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED, 20000);
     }
     void runLp(const QStringList &arguments)
@@ -175,7 +164,7 @@ private Q_SLOTS:
         QVERIFY2(end.text().contains("Sent to"), end.text().constData());
         const CapturedJob job = m_cups->capture(u"office"_s).jobs().constLast();
         QCOMPARE(job.copies, 3);
-        QVERIFY(job.data == contentOf(kThreePages));
+        QVERIFY(job.data == readAll(kThreePages));
     }
 
     void aRawQueueRefusesWhatItDoesNotDo_data()
@@ -206,7 +195,7 @@ private Q_SLOTS:
         QVERIFY2(end.status == 0, end.text().constData());
         QVERIFY2(end.text().contains("Sent to"), end.text().constData());
         const CapturedJob ours = m_cups->capture(u"office"_s).jobs().constLast();
-        QVERIFY(ours.data == contentOf(kText));
+        QVERIFY(ours.data == readAll(kText));
         runLp(arguments);
         const CapturedJob theirs = m_cups->capture(u"office"_s).jobs().constLast();
         QVERIFY(theirs.id != ours.id);
