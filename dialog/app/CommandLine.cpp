@@ -260,6 +260,11 @@ QString contradictionIn(const CommandLine &line)
     return {};
 }
 
+bool needsDocument(const CommandLine &line)
+{
+    return !line.listPrinters && !line.checkDisplay && !line.summary;
+}
+
 // Why a command line cannot be understood although each of its values can be read; empty when it
 // can.
 QString problemOf(const CommandLine &line)
@@ -274,15 +279,14 @@ QString problemOf(const CommandLine &line)
         return u"standard input (-) can be read once only."_s;
     if (const QString contradiction = contradictionIn(line); !contradiction.isEmpty())
         return contradiction;
-    const bool needsDocument = !line.listPrinters && !line.checkDisplay && !line.summary;
-    if ((line.documents.isEmpty() && needsDocument) || line.documents.contains(QString()))
+    if ((line.documents.isEmpty() && needsDocument(line)) || line.documents.contains(QString()))
         return u"the name of a document is missing."_s;
     return {};
 }
 
 } // namespace
 
-ParsedCommandLine parseCommandLine(const QStringList &arguments)
+ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven)
 {
     const Options options;
     QCommandLineParser parser;
@@ -306,7 +310,10 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
     QString problem = emptyName(parser, options);
     if (!problem.isEmpty())
         return notUnderstood(problem);
-    const std::optional<CommandLine> line = readValues(parser, options, &problem);
+    std::optional<CommandLine> line = readValues(parser, options, &problem);
+    if (line && inputIsGiven && line->passwordDescriptor != 0 && line->documents.isEmpty() &&
+        needsDocument(*line))
+        line->documents = QStringList{kStandardStream};
     if (line)
         problem = problemOf(*line);
     if (!problem.isEmpty())

@@ -55,7 +55,8 @@ struct ParsedCommandLine
     ExitStatus exitStatus = ExitStatus::Done;
 };
 
-/// `arguments` begin with the program's name.
-ParsedCommandLine parseCommandLine(const QStringList &arguments);
+/// `arguments` begin with the program's name. `inputIsGiven`: standard input is the document where
+/// no file is named.
+ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven = false);
 
 } // namespace corvana

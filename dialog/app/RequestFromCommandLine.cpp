@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 
 #include "dialog/app/Language.h"
+#include "dialog/job/FileBytes.h"
+#include "dialog/job/ResultFormat.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/terminal/PasswordFile.h"
@@ -28,17 +30,14 @@ QString besideProgram(const QString &relative)
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
 }
 
-// A name in the current folder that nothing has yet. A desktop starts programs in a folder where
+// A name in the current folder that nothing has yet; a task gives it the ending that suits its
+// printer. A desktop starts programs in a folder where
 // nothing can be written; then it is the user's own.
 QString freeOutputName(const QString &title)
 {
     const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
     const QDir folder = writable ? QDir::current() : QDir::home();
-    const QString base = QFileInfo(title).completeBaseName();
-    QString name = folder.absoluteFilePath(base + u".ps"_s);
-    for (int i = 2; QFileInfo::exists(name); ++i)
-        name = folder.absoluteFilePath(u"%1-%2.ps"_s.arg(base).arg(i));
-    return name;
+    return freeResultName(folder.path(), QFileInfo(title).completeBaseName(), u"ps"_s);
 }
 
 // The dialog's own help, in the localisation that suits the user best; empty when there is none.
@@ -110,9 +109,17 @@ QStringList trustedBundleRoots(const CommandLine &line)
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
+    // Only documents are found by any name; a result under another name than the one that was
+    // given would be lost.
+    for (const QString &name : {line.output, line.ppd}) {
+        if (hasStrayBytes(name)) {
+            *error = Texts::tr("%1: the name is not written in UTF-8.").arg(shownName(name));
+            return std::nullopt;
+        }
+    }
     for (const QString &name : line.documents) {
-        const Document document = name == "-"_L1 ? readStandardInput(&request.standardInput, error)
-                                                 : inspectDocument(name, error);
+        const Document document =
+            name == "-"_L1 ? readStandardInput(error) : inspectDocument(name, error);
         if (document.path.isEmpty())
             return std::nullopt;
         request.documents += document;

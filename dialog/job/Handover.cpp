@@ -38,12 +38,6 @@ bool isHeldForLogIn(const JobStatus &status)
            status.reasons.contains("cups-held-for-authentication"_L1);
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // One job, from the question whether to send it at all to its end. What it comes to is put into
 // words by HandoverOutcomes.
 class Handover
@@ -162,17 +156,15 @@ private:
             return earlier;
         if (m_request.printer.origin != PrinterOrigin::Queue)
             return std::nullopt;
-        const QueueDetails now =
-            lookForNewPpd(*m_connection, m_request.printer, m_request.ppdLastModified);
+        const QueueDetails now = fetchPpdOnly(*m_connection, m_request.printer);
+        const PpdCopy &opened = *m_request.ppd;
         switch (now.state) {
-        case QueueDetails::Ppd::Unchanged:
-            return std::nullopt;
-        case QueueDetails::Ppd::New:
-            if (now.ppd == contentOf(m_request.ppdPath))
-                return std::nullopt; // installed once more, or its queue was
+        case QueueDetails::Ppd::Read:
+            if (!opened.isWritten && now.ppdHash == opened.hash)
+                return std::nullopt;
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::None:
-            if (m_request.ppdLastModified == 0)
+            if (opened.isWritten)
                 return std::nullopt;
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::Unknown:

@@ -16,7 +16,6 @@
 #include "platform/pde/PDEJobValues.h"
 
 class QTemporaryDir;
-class QTemporaryFile;
 
 namespace corvana {
 
@@ -25,8 +24,6 @@ namespace corvana {
 struct PrintRequest
 {
     QList<Document> documents; ///< printed one after the other, as one job
-    /// Holds what came on standard input; null without it.
-    std::shared_ptr<QTemporaryFile> standardInput;
     /// Those that no server is needed for: PPD files and samples.
     QList<Printer> printers;
     /// A printer by its name, a queue or a URI; empty for the usual one.

@@ -1,18 +1,31 @@
 #include "dialog/task/PrintTask.h"
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include <QFileInfo>
 
 #include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
+#include "dialog/job/TextDocuments.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
+#include "dialog/task/StartValues.h"
+#include "dialog/text/TextCheck.h"
 
 namespace corvana {
+
+namespace {
+
+// How long Print waits for what is known of a text's characters; usually that is known long before.
+constexpr std::chrono::milliseconds kPatienceWithTexts{2000};
+
+} // namespace
 
 bool PrintTask::canPrint() const
 {
@@ -28,7 +41,7 @@ bool PrintTask::printsToFile() const
 void PrintTask::setOutput(const QString &path, bool confirmed)
 {
     if (path != m_output.path || confirmed)
-        m_output = {path, m_output.toFile, confirmed};
+        m_output = {path, m_output.toFile, confirmed, m_output.proposed};
 }
 
 void PrintTask::print()
@@ -60,7 +73,7 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
+    countBeforeJob();
 }
 
 QList<JobOption> PrintTask::jobAttributes() const
@@ -68,7 +81,7 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
-    return settings.attributes();
+    return withAnswersToDefaults(settings.attributes(), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -88,22 +101,60 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
-    if (!m_request.documents.isEmpty()) {
+    if (passesFilesOn()) {
+        QList<JobOption> asked = m_settings.attributes();
+        const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
+        if (!problems.isEmpty())
+            return TaskRefusal{problems,
+                               m_settings.pageRanges().isEmpty() ? Place::Nowhere : Place::Pages};
+        if (printsToFile())
+            return TaskRefusal{{tr("What is passed on as it is cannot be printed to a file.")}};
+    } else if (!mayPrintTexts()) {
+        return TaskRefusal{{}, Place::Nowhere, true};
+    } else if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
             return refusal;
     }
     if (m_phase != Phase::Asking)
         return std::nullopt;
     // Before the ticket: the panels restore and save on the way.
-    const QList<SummaryLine> lines = summary();
-    if (m_request.summary)
-        m_face.writeSummary(lines);
+    m_run.lines = summaryOfSettings();
     QStringList problems;
     const QList<Refusal> refusals = m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    // What is printed is counted first.
+    if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
+        m_face.writeSummary(m_run.lines);
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
+}
+
+// Once for a task: its documents stay the same.
+void PrintTask::lookForMissingCharacters()
+{
+    QStringList texts;
+    for (const Document &document : m_request.documents) {
+        if (isTextToLayOut(document, {}))
+            texts += document.path;
+    }
+    if (!m_textCheck && !texts.isEmpty())
+        m_textCheck = std::make_unique<TextCheck>(texts);
+}
+
+// A text whose characters nobody has is not printed without a word.
+bool PrintTask::mayPrintTexts()
+{
+    const QList<JobOption> attributes = jobAttributes();
+    const bool anyText =
+        std::any_of(m_request.documents.cbegin(), m_request.documents.cend(),
+                    [&](const Document &document) { return isTextToLayOut(document, attributes); });
+    const QString missing =
+        anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
+    return missing.isEmpty() ||
+           m_face.mayPrintWithout(tr("No font of this computer has these characters of the text: "
+                                     "%1. An empty frame is printed for each of them.")
+                                      .arg(missing));
 }
 
 // The panels say whether they let the job go, and may show instructions first.
@@ -134,9 +185,15 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        if (m_settings.attributes().contains(kRaw)) {
+            for (Document &document : request.documents)
+                document.format = kRawFormat;
+        }
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
+        const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
+        request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
     }
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
@@ -152,6 +209,8 @@ void PrintTask::cancel()
 {
     if (m_phase != Phase::Printing)
         return;
+    if (isCounting())
+        return endCounting();
     // A server that does not answer has a few seconds to be told.
     enter(Phase::Canceling);
     m_run.job->cancel();
@@ -160,7 +219,7 @@ void PrintTask::cancel()
 void PrintTask::leave()
 {
     // What is being canceled is waited for: whether it still was in time has to be known.
-    if (m_phase != Phase::Printing || !m_run.job->isHandedOver())
+    if (m_phase != Phase::Printing || !isJobHandedOver())
         return;
     enter(Phase::Leaving);
     m_run.job->letGo();
@@ -170,8 +229,10 @@ void PrintTask::interrupt(OnInterrupt job)
 {
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
-    if (!m_run.job)
+    if (!m_run.job) {
+        m_sheets.cancel();
         return enter(Phase::Ended);
+    }
     if (job == OnInterrupt::LeaveJob)
         leave();
     if (m_phase == Phase::Leaving)

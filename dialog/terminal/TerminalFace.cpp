@@ -6,6 +6,7 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/terminal/TerminalQuestions.h"
 #include "dialog/terminal/TerminationSignals.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -38,6 +39,12 @@ TaskFace::Instructions TerminalFace::instructions() const
     if (!m_presenter || !m_presenter->jobMustWait())
         return Instructions::Followed;
     return m_presenter->policy() == AlertPolicy::Hold ? Instructions::Wait : Instructions::Refuse;
+}
+
+bool TerminalFace::mayPrintWithout(const QString &what)
+{
+    QTextStream(stderr) << "corvana-print: " << terminalText(what) << "\n";
+    return true;
 }
 
 void TerminalFace::writeSummary(const QList<SummaryLine> &lines)

@@ -33,6 +33,8 @@ public:
     Instructions instructions() const override;
     /// What -o and --output name was meant.
     bool mayOverwrite(const QString &) override { return true; }
+    /// Says it; whoever prints from a script wants what can be had.
+    bool mayPrintWithout(const QString &what) override;
     void writeSummary(const QList<SummaryLine> &lines) override;
 
 private:

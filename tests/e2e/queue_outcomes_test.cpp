@@ -16,9 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
-
 constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
 
 // Whether the server remembers jobs that are over.

@@ -219,12 +219,42 @@ theDesktopEntryFollowsTheStandard() {
     expect_nothing 'hints of the standard' "$(cat "$work/out")"
 }
 
-theDesktopEntryIsForTheFilesThatTheProgramPrints() {
-    local type
-    for type in $(sed -n 's/^MimeType=//p' "$desktop" | tr ';' ' '); do
-        grep -qF "\"$type\"" "$source_root/dialog/job/Document.cpp" || fail "not printed: $type"
+theActionsOfFileManagersAreForTheFilesThatTheProgramPrints() {
+    local action type count=0
+    for action in "${desktop%.desktop}".{servicemenu.desktop,action.desktop,nemo_action}; do
+        for type in $(sed -nE 's/^Mime[Tt]ypes?=//p' "$action" | tr ';' ' '); do
+            grep -qF "\"$type\"" "$source_root/dialog/job/Document.cpp" ||
+                fail "not printed: $type"
+            count=$((count + 1))
+        done
+        grep -qF 'Exec=corvana-print %F' "$action" || fail "$action starts something else"
     done
-    grep -q '^MimeType=application/pdf;' "$desktop" || fail 'nothing was compared'
+    expect_equal "$count" 15
+}
+
+# default_of TYPE: what opens a file of a type where no other program is installed.
+default_of() {
+    env -i LC_ALL=C.UTF-8 PATH="$PATH" HOME="$work/home" XDG_DATA_DIRS="$work/share" XDG_DATA_HOME="$work/none" \
+        XDG_CONFIG_DIRS="$work/none" XDG_CONFIG_HOME="$work/none" gio mime "$1" 2>&1
+}
+
+nothingIsOpenedByPrintingIt() {
+    command -v gio >/dev/null || skip 'gio is missing.'
+    local type
+    mkdir -p share/applications home
+    sed 's/^TryExec=.*/TryExec=true/; s/^Exec=corvana-print/Exec=true/' "$desktop" \
+        >share/applications/corvana-print.desktop
+    # What update-desktop-database would write.
+    { echo '[MIME Cache]'; sed -n 's/^MimeType=//p' share/applications/corvana-print.desktop |
+        tr ';' '\n' | sed -n 's/..*/&=corvana-print.desktop;/p'; } \
+        >share/applications/mimeinfo.cache
+    for type in application/pdf text/plain image/png image/jpeg application/postscript; do
+        expect_equal "$(default_of "$type" | head -n 1)" \
+            "No default applications for “$type”"
+    done
+    # The check sees an entry that names its types.
+    echo 'text/plain=corvana-print.desktop;' >>share/applications/mimeinfo.cache
+    default_of text/plain | grep -q corvana-print || fail 'gio reads other entries'
 }
 
 theDesktopEntryIsTranslated() {
