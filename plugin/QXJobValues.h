@@ -16,6 +16,7 @@ public:
     QList<JobOption> impliedMarks(const PrintSettings &settings, ppd_file_t *ppd) const override;
     QList<JobOption> companions(const JobOption &marked, const PrintSettings &settings,
                                 ppd_file_t *ppd) const override;
+    QList<JobOption> choicesFor(const JobOption &attribute, ppd_file_t *ppd) const override;
 };
 
 } // namespace corvana

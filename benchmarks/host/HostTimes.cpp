@@ -1,5 +1,5 @@
-#include "dialog/app/RequestFromCommandLine.h"
 #include "benchmarks/host/HostTimes.h"
+#include "dialog/app/RequestFromCommandLine.h"
 
 #include <stdexcept>
 
@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace corvana::benchmarks {
 

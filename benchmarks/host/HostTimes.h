@@ -13,6 +13,8 @@
 
 namespace corvana::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 constexpr int kRepetitions = 25;
 /// Short, and with the network in between, so that the best takes longer to come.
 constexpr int kOpenings = 75;
@@ -20,7 +22,7 @@ constexpr int kPatience = 30000; ///< milliseconds
 
 inline const QString kSamplePpd =
     QStringLiteral(CORVANA_BENCHMARK_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
-inline const QString kQueue = QStringLiteral("office");
+inline const QString kQueue = u"office"_s;
 
 using Clock = std::chrono::steady_clock;
 

@@ -40,6 +40,8 @@
 
 using namespace corvana;
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kRepetitions = 25;
@@ -159,7 +161,7 @@ int measure(const char *platform, bool check)
     line.documents = {QStringLiteral(CORVANA_BENCHMARK_SOURCE_DIR "/resources/sample/welcome.pdf")};
     line.ppd = QStringLiteral(CORVANA_BENCHMARK_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
     line.bundleRoots = {QStringLiteral(CORVANA_BENCHMARK_BUNDLE_DIR "/..")};
-    line.output = folder.filePath(QStringLiteral("job.ps"));
+    line.output = folder.filePath(u"job.ps"_s);
     QString error;
     const PrintRequest request = preparePrintRequest(line, &error).value_or(PrintRequest());
     if (request.printers.isEmpty()) {

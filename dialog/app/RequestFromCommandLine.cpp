@@ -3,12 +3,14 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
 #include "dialog/job/ResultFormat.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/terminal/PasswordFile.h"
 #include "platform/foundation/Bundle.h"
 
 namespace corvana {
@@ -56,6 +58,35 @@ QString titleOf(const QList<Document> &documents)
     return others == 0 ? first : Texts::tr("%1 and %n more", nullptr, others).arg(first);
 }
 
+// Errors: false.
+bool takeCredentials(const CommandLine &line, PrintRequest *request, QString *error)
+{
+    if (line.passwordFile.isEmpty() && !line.passwordDescriptor)
+        return true;
+    const std::optional<QString> password =
+        line.passwordDescriptor ? passwordFromDescriptor(*line.passwordDescriptor, error)
+                                : passwordInFile(line.passwordFile, error);
+    if (password)
+        request->credentials = Credentials{QString::fromUtf8(cupsUser()), *password};
+    return password.has_value();
+}
+
+// Errors: false.
+bool takeOutput(const CommandLine &line, PrintRequest *request, QString *error)
+{
+    request->outputWasNamed = !line.output.isEmpty();
+    request->output = line.output;
+    if (line.output == kStandardStream) {
+        request->standardOutput = std::make_shared<QTemporaryDir>();
+        request->output = request->standardOutput->filePath(u"result"_s);
+        *error = request->standardOutput->errorString();
+        return request->standardOutput->isValid();
+    }
+    if (line.output.isEmpty() && !request->documents.isEmpty())
+        request->output = freeOutputName(request->documents.constFirst().title);
+    return true;
+}
+
 } // namespace
 
 QList<Printer> offeredPrinters(const CommandLine &line)
@@ -99,15 +130,19 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.server = request.serverWasNamed
                          ? ServerAddress::parse(line.server).value_or(ServerAddress::configured())
                          : ServerAddress::configured();
-    request.options = parseOptions(line.options);
+    if (line.encrypt && request.server.encryption != HTTP_ENCRYPTION_ALWAYS)
+        request.server.encryption = HTTP_ENCRYPTION_REQUIRED;
+    if (!takeCredentials(line, &request, error) || !takeOutput(line, &request, error))
+        return std::nullopt;
+    request.options = parseOptions(line.options) + line.switches;
     request.bundleRoots = trustedBundleRoots(line);
     request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
-    request.outputWasNamed = !line.output.isEmpty();
-    request.output = line.output.isEmpty() && !request.documents.isEmpty()
-                         ? freeOutputName(request.documents.constFirst().title)
-                         : line.output;
     request.onAlert = line.onAlert;
     request.noWait = line.noWait;
+    if (line.wait)
+        request.wait = std::chrono::seconds(*line.wait);
+    request.quiet = line.quiet;
+    request.json = line.json;
     request.copies = line.copies.value_or(1);
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;

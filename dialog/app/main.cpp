@@ -1,6 +1,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cups/cups.h>
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -13,6 +15,7 @@
 #include "dialog/job/Document.h"
 #include "dialog/job/FileBytes.h"
 #include "dialog/terminal/ListPrinters.h"
+#include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "dialog/terminal/UnattendedRun.h"
 #include "dialog/window/Placeholders.h"
@@ -139,11 +142,16 @@ int main(int argc, char **argv)
         argc == 1 && !isStandardInputGiven() && ::isatty(STDIN_FILENO) == 0;
     const ParsedCommandLine parsed = parseCommandLine(arguments, isStandardInputGiven());
     if (!parsed.commandLine && !choosesDocument) {
-        QTextStream(parsed.exitStatus == 0 ? stdout : stderr) << parsed.text;
-        return parsed.exitStatus;
+        QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
+        return int(parsed.exitStatus);
     }
     CommandLine line = parsed.commandLine.value_or(CommandLine());
 
+    // Before there is a second thread: libcups reads it in each, and has done so in this one.
+    if (!line.user.isEmpty()) {
+        qputenv("CUPS_USER", line.user.toLocal8Bit());
+        cupsSetUser(line.user.toUtf8().constData());
+    }
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended =
@@ -170,6 +178,8 @@ int main(int argc, char **argv)
         return 1;
     QString error;
     const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
+    if (!request && line.json)
+        writeLine(refusalLine({}, {error}));
     if (!request)
         return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)

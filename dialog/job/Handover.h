@@ -40,6 +40,9 @@ struct ServerJobRequest
     int earlierJob = 0;
     /// How many documents that one was to have; 0 where that is not known.
     int earlierDocuments = 0;
+    /// Whether nobody could count what comes out, so that there may be no page at all: such a job
+    /// is "sent", never "printed".
+    bool mayBeEmpty = false;
     /// Whether to follow the job to its end, rather than until the server has all of it.
     bool follow = true;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace corvana {
 
@@ -8,7 +9,10 @@ namespace corvana {
 struct JobOutcome
 {
     enum class Kind {
-        Printed,      ///< the server says that it is complete, or the file has its name
+        Printed, ///< the server says that it is complete, or the file has its name
+        /// The server says that it is complete, but nobody could count its pages: not even an empty
+        /// one would have been noticed.
+        Sent,
         InQueue,      ///< the server has all of it and will print it; `text` says what it waits for
         Stopped,      ///< the server has all of it, and prints it when somebody releases it
         Failed,       ///< it will not be printed
@@ -24,9 +28,16 @@ struct JobOutcome
     QString file{};    ///< absolute path of a result that is a file; empty for a job of a server
     int documents = 0; ///< how many the job at its server was to have; 0 where that is not known
 
+    QString queue{};       ///< that has the job, without an instance; empty where there is none
+    QStringList reasons{}; ///< what its server says last of its state: IPP keywords
+    int pages = 0;         ///< pages or sheets that came out; 0 where nobody counts
+
     bool operator==(const JobOutcome &) const = default;
     /// Whether the server has the job, or the file is there, for the exit status.
-    bool isDone() const { return kind == Kind::Printed || kind == Kind::InQueue; }
+    bool isDone() const
+    {
+        return kind == Kind::Printed || kind == Kind::Sent || kind == Kind::InQueue;
+    }
 };
 
 } // namespace corvana

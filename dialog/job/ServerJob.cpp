@@ -5,10 +5,12 @@
 #include <QFileInfo>
 
 #include "dialog/job/DocumentCopies.h"
+#include "dialog/job/HandoverOutcomes.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/PpdFilters.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 
 namespace corvana {
 
@@ -88,11 +90,7 @@ bool ServerJob::laysOutTexts() const
         m_request.printer.origin == PrinterOrigin::Queue && m_request.ppdLastModified == 0;
     const bool takesPages =
         formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
-    const QList<Document> &documents = m_request.documents;
-    return !isRaw && takesPages &&
-           std::any_of(documents.cbegin(), documents.cend(), [this](const Document &document) {
-               return isTextToLayOut(document, m_request.ticket.options);
-           });
+    return !isRaw && takesPages && hasTextToLayOut(m_request.documents, m_request.ticket.options);
 }
 
 // Texts are made into pages before anything else, with fonts that have their characters: what a
@@ -144,7 +142,10 @@ QList<JobOption> ServerJob::layout() const
 
 bool ServerJob::isTaken(const JobOption &option) const
 {
-    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(option.name) ||
+    // Printers know "collate" by its name of IPP.
+    const QString name =
+        option.name == kCollateAttribute ? QString(kHandlingAttribute) : option.name;
+    return m_request.takenAttributes.isEmpty() || m_request.takenAttributes.contains(name) ||
            asksForNothing(option, m_request.ticket.copies);
 }
 
@@ -179,8 +180,8 @@ QString ServerJob::problemOfRawQueue() const
                   "Print the documents one at a time. Nothing was printed.")
             .arg(m_request.printer.name, first->title);
     if (mustPickPages(m_request.ticket.options))
-        return tr("The queue “%1” has no driver and prints documents as they are: it can put "
-                  "neither several pages on a sheet (number-up) nor choose pages (page-ranges, "
+        return tr("The queue “%1” has no driver and prints documents as they are: it can "
+                  "neither put several pages on a sheet (number-up) nor choose pages (page-ranges, "
                   "page-set). Nothing was printed.")
             .arg(m_request.printer.name);
     return {};
@@ -357,9 +358,15 @@ void ServerJob::letGo()
     if (!m_handedOver || outcome() || m_canceled)
         return;
     m_work = {};
-    finish({JobOutcome::Kind::InQueue, progress()->job,
-            tr("Job %1 is in the queue; it was not followed to its end.")
-                .arg(jobName(m_request.printer, progress()->job))});
+    HandoverOutcomes outcomes(m_request.printer);
+    outcomes.setJob(progress()->job);
+    outcomes.see(*progress());
+    if (progress()->stage == JobProgress::Stage::Stopped)
+        return finish(outcomes.inQueue(*progress()));
+    JobOutcome outcome = outcomes.inQueue({});
+    outcome.text = tr("Job %1 is in the queue; it was not followed to its end.")
+                       .arg(jobName(m_request.printer, outcome.job));
+    finish(outcome);
 }
 
 } // namespace corvana

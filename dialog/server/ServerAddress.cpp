@@ -19,8 +19,8 @@ ServerAddress ServerAddress::configured()
 
 std::optional<ServerAddress> ServerAddress::parse(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral(
-        R"(^(?:\[([0-9A-Fa-f:.%]+(?:%[A-Za-z0-9]+)?)\]|([^\s:/\[\]@]+))(?::([0-9]{1,5}))?\z)"));
+    static const QRegularExpression form(
+        uR"(^(?:\[([0-9A-Fa-f:.%]+(?:%[A-Za-z0-9]+)?)\]|([^\s:/\[\]@]+))(?::([0-9]{1,5}))?\z)"_s);
     if (text.startsWith(u'/'))
         return ServerAddress{text, kUsualPort, HTTP_ENCRYPTION_IF_REQUESTED};
     const QRegularExpressionMatch match = form.match(text);
@@ -36,7 +36,7 @@ std::optional<ServerAddress> ServerAddress::parse(const QString &text)
 bool ServerAddress::isLocal() const
 {
     // A name may begin with the same digits, and lead anywhere.
-    static const QRegularExpression loopback(QStringLiteral(R"(^127(?:\.[0-9]{1,3}){3}\z)"));
+    static const QRegularExpression loopback(uR"(^127(?:\.[0-9]{1,3}){3}\z)"_s);
     return host.startsWith(u'/') || host == "localhost"_L1 || host == "::1"_L1 ||
            loopback.match(host).hasMatch();
 }

@@ -8,6 +8,7 @@
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PaperSize.h"
+#include "dialog/session/SecretNames.h"
 
 namespace corvana {
 
@@ -66,9 +67,13 @@ CustomValueCheck checkPageSize(const ppd_file_t *ppd, const QString &value)
             refused.allowed};
 }
 
-// The only parameter of a custom option; null when it has several or none.
+// The only parameter of a custom option; null when it has several or none. A PPD may describe
+// parameters without the choice "Custom", or lose that choice with a line of the option: libcups
+// then marks nothing, and the printer would do what it does by default.
 ppd_cparam_t *onlyParameter(ppd_file_t *ppd, const QString &keyword)
 {
+    if (!ppdChoice(ppdOption(ppd, keyword), kCustomChoice))
+        return nullptr;
     ppd_coption_t *custom = ppdFindCustomOption(ppd, keyword.toLatin1().constData());
     if (!custom || cupsArrayCount(custom->params) != 1)
         return nullptr;
@@ -140,17 +145,22 @@ std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword
         return CustomLimits{parameter->type == PPD_CUSTOM_POINTS ? Kind::Points : Kind::Number,
                             number(parameter, bounds->first), number(parameter, bounds->second)};
     }
-    const bool hidden =
-        parameter->type == PPD_CUSTOM_PASSCODE || parameter->type == PPD_CUSTOM_PASSWORD;
-    return CustomLimits{hidden ? Kind::HiddenText : Kind::Text,
+    return CustomLimits{isSecret(ppd, keyword) ? Kind::HiddenText : Kind::Text,
                         QString::number(parameter->minimum.custom_string),
                         QString::number(parameter->maximum.custom_string)};
 }
 
 bool isSecret(ppd_file_t *ppd, const QString &keyword)
 {
-    const auto limits = customLimits(ppd, keyword);
-    return limits && limits->kind == CustomLimits::Kind::HiddenText;
+    const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
+    if (!parameter)
+        return false;
+    if (parameter->type == PPD_CUSTOM_PASSCODE || parameter->type == PPD_CUSTOM_PASSWORD)
+        return true;
+    const ppd_option_t *option = ppdOption(ppd, keyword);
+    return soundsSecret(keyword) || soundsSecret(ppdText(option->text).value_or(QString())) ||
+           soundsSecret(ppdKeyword(parameter->name)) ||
+           soundsSecret(ppdText(parameter->text).value_or(QString()));
 }
 
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)

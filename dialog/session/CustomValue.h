@@ -37,7 +37,8 @@ struct CustomLimits
 /// The limits of an option with exactly one custom parameter; nothing for any other.
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword);
 
-/// Whether the custom value of an option is a password, which is neither shown nor logged.
+/// Whether the custom value of an option is a password or a PIN, by its type or by what its keyword
+/// and its texts say. Such a value is neither shown nor logged.
 bool isSecret(ppd_file_t *ppd, const QString &keyword);
 /// How many dots stand for a password, whatever its length: that is a part of it.
 inline constexpr int kHiddenLength = 6;

@@ -1,10 +1,15 @@
 #include "dialog/session/JobAttributes.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QRegularExpression>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/PrinterAttributes.h"
 
 namespace corvana {
 
@@ -225,7 +230,7 @@ constexpr JobAttribute kAttributes[] = {
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Headers on Text Pages"),
      {kTrueOrFalse}},
-    {"collate"_L1,
+    {kCollateAttribute,
      AppliedTo::Job,
      "true"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Collate"),
@@ -239,7 +244,7 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Job,
      "no-hold"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Hold Until"),
-     {kHolds, {}, AllowedValues::Form{"a time HH:MM"_L1, isTime}}},
+     {kHolds, {}, AllowedValues::Form{"a time HH:MM in UTC"_L1, isTime}}},
     {"job-priority"_L1, AppliedTo::Job, "50"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Priority"),
      wholeNumbers(1, 100)},
     {"job-sheets"_L1, AppliedTo::Job, "none"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
@@ -251,46 +256,38 @@ constexpr JobAttribute kAttributes[] = {
      form("a text of up to 255 bytes"_L1, isBilling)},
 };
 
-bool isIn(const AllowedValues::Range &range, const QString &value)
+std::array<std::span<const JobAttribute>, 2> tables()
 {
-    static const QRegularExpression whole(u"^[0-9]{1,5}\\z"_s);
-    static const QRegularExpression decimal(u"^[0-9]{1,5}([.][0-9]{1,3})?\\z"_s);
-    return (range.isWhole ? whole : decimal).match(value).hasMatch() &&
-           value.toDouble() >= range.least && value.toDouble() <= range.most;
+    return {std::span<const JobAttribute>(kAttributes), printerAttributes()};
+}
+
+// Servers take a time for UTC, and lp leaves it at that. So does the dialog, and says what it is
+// here.
+QString timeText(const QString &value)
+{
+    const QTime time = QTime::fromString(value, value.count(u':') > 1 ? u"H:m:s"_s : u"H:m"_s);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    QDateTime until(now.date(), time, Qt::UTC);
+    if (until < now)
+        until = until.addDays(1);
+    const QDateTime here = until.toLocalTime();
+    if (here.offsetFromUtc() == 0)
+        return QCoreApplication::translate("JobAttributes", "%1 UTC").arg(value);
+    return QCoreApplication::translate("JobAttributes", "%1 UTC (%2 here)")
+        .arg(value, here.time().toString(u"HH:mm"_s));
 }
 
 } // namespace
 
-const Word *AllowedValues::word(const QString &value) const
-{
-    const auto found = std::find_if(words.begin(), words.end(),
-                                    [&](const Word &word) { return word.value == value; });
-    return found == words.end() ? nullptr : &*found;
-}
-
-bool AllowedValues::accepts(const QString &value) const
-{
-    return word(value) || (range && isIn(*range, value)) || (form && form->accepts(value));
-}
-
-QString AllowedValues::text() const
-{
-    QStringList parts;
-    for (const Word &word : words)
-        parts += word.meaning.isEmpty() ? QString(word.value)
-                                        : u"%1 (%2)"_s.arg(word.value, word.meaning);
-    if (range)
-        parts += u"%1 to %2 %3"_s.arg(range->least).arg(range->most).arg(range->unit).trimmed();
-    if (form)
-        parts += (parts.isEmpty() ? QString() : u"or "_s) + form->text;
-    return parts.join(u", "_s);
-}
-
 const JobAttribute *jobAttribute(const QString &name)
 {
-    const auto found = std::find_if(std::begin(kAttributes), std::end(kAttributes),
-                                    [&](const JobAttribute &a) { return a.name == name; });
-    return found == std::end(kAttributes) ? nullptr : found;
+    for (const std::span<const JobAttribute> table : tables()) {
+        for (const JobAttribute &attribute : table) {
+            if (attribute.name == name)
+                return &attribute;
+        }
+    }
+    return nullptr;
 }
 
 bool isAppliedTo(AppliedTo what, const JobOption &option)
@@ -307,6 +304,8 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
     const auto translated = [](const char *text) {
         return QCoreApplication::translate("JobAttributes", text);
     };
+    if (attribute.name == kJobHoldUntilAttribute && isTime(attribute.value))
+        return {translated(known->title), timeText(attribute.value)};
     const Word *word = known->allowed.word(attribute.value);
     return {translated(known->title),
             word && word->shown ? translated(word->shown) : attribute.value};
@@ -321,6 +320,12 @@ JobOption inOneSpelling(const JobOption &option)
         return {u"orientation-requested"_s, u"4"_s};
     if (is("landscape", "false"))
         return {u"orientation-requested"_s, u"3"_s};
+    if (option.name == kHandlingAttribute && option.value == kCollated)
+        return {kCollateAttribute, u"true"_s};
+    if (option.name == kHandlingAttribute && option.value == kUncollated)
+        return {kCollateAttribute, u"false"_s};
+    if (option.name == "resolution"_L1)
+        return {u"printer-resolution"_s, option.value};
     if (option.name == "fitplot"_L1)
         return {u"fit-to-page"_s, option.value};
     return option;
@@ -329,8 +334,10 @@ JobOption inOneSpelling(const JobOption &option)
 QStringList jobAttributeNames()
 {
     QStringList names;
-    for (const JobAttribute &attribute : kAttributes)
-        names += attribute.name;
+    for (const std::span<const JobAttribute> table : tables()) {
+        for (const JobAttribute &attribute : table)
+            names += attribute.name;
+    }
     return names;
 }
 

@@ -40,7 +40,10 @@ struct AllowedValues
     std::optional<Range> range{};
     std::optional<Form> form{};
 
-    bool accepts(const QString &value) const;
+    bool accepts(const QString &value) const { return inOneSpelling(value).has_value(); }
+    /// The value as the job carries it: words in small letters, the number of a word that has one
+    /// ("high" is "5"), "true" of "Yes". Errors: nothing for a value that is not taken.
+    std::optional<QString> inOneSpelling(const QString &value) const;
     /// For a message: "no-hold, evening, or a time HH:MM".
     QString text() const;
     /// The word of that value, or null.

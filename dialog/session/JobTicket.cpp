@@ -45,7 +45,7 @@ QRegularExpression quotedInAnyWay(const QString &secret)
         if (character == U'\\')
             pattern += u"\\\\+"_s;
         else if (character == U'\'')
-            pattern += QStringLiteral(R"((?:'\\+''|'"'"'|\\*'))");
+            pattern += uR"((?:'\\+''|'"'"'|\\*'))"_s;
         else
             pattern += u"\\\\*"_s + QRegularExpression::escape(QString::fromUcs4(&character, 1));
     }
@@ -73,6 +73,29 @@ QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobVa
         options += JobOption{keyword, custom.isNull() ? marked : custom};
     }
     return options + own + attributes;
+}
+
+bool isCollated(const PpdSession &session, const QList<JobOption> &attributes)
+{
+    if (const QString marked = session.markedChoice(kCollateOption); !marked.isNull())
+        return marked != "False"_L1;
+    const auto asked =
+        std::find_if(attributes.cbegin(), attributes.cend(), [](const JobOption &attribute) {
+            return attribute.name == kCollateAttribute;
+        });
+    return asked == attributes.cend() || asked->value != "false"_L1;
+}
+
+QList<JobOption> withCollation(QList<JobOption> attributes, int copies, const PpdSession &session)
+{
+    const bool isAsked = names(attributes, kCollateAttribute);
+    if ((copies < 2 && !isAsked) || ppdOption(session.ppd(), kCollateOption))
+        return attributes;
+    const bool collated = isCollated(session, attributes);
+    if (!isAsked)
+        attributes += JobOption{kCollateAttribute, u"true"_s};
+    attributes += JobOption{kHandlingAttribute, collated ? kCollated : kUncollated};
+    return attributes;
 }
 
 QStringList secretsOf(const PpdSession &session)

@@ -28,8 +28,16 @@ struct JobTicket
 QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobValues,
                             const QList<JobOption> &attributes);
 
-/// The custom values of a session that are nobody else's business: what the PPD calls a password or
-/// a passcode.
+/// Whether several copies come out one after the other rather than each page several times: what
+/// the PPD's own option says, else what an attribute says, else yes.
+bool isCollated(const PpdSession &session, const QList<JobOption> &attributes);
+
+/// The attributes as a job of so many copies carries them. Filters that are told nothing leave the
+/// copies to the printer, which makes each page several times; and filters, back ends and printers
+/// each know another name of it, so that the job says both.
+QList<JobOption> withCollation(QList<JobOption> attributes, int copies, const PpdSession &session);
+
+/// The custom values of a session that are nobody else's business: passwords and PINs (isSecret()).
 QStringList secretsOf(const PpdSession &session);
 
 /// A text with dots in the place of each secret, also where a program has quoted it.

@@ -24,5 +24,12 @@ inline constexpr QLatin1StringView kPageRangesAttribute{"page-ranges"};
 /// What makes a job wait in its queue until somebody releases it.
 inline constexpr QLatin1StringView kJobHoldUntilAttribute{"job-hold-until"};
 inline constexpr QLatin1StringView kHeldIndefinitely{"indefinite"};
+/// Whether several copies of a document come out one after the other, or each page several times:
+/// the attribute of CUPS' filters, that of IPP with its values, and the option of some PPDs.
+inline constexpr QLatin1StringView kCollateAttribute{"collate"};
+inline constexpr QLatin1StringView kHandlingAttribute{"multiple-document-handling"};
+inline constexpr QLatin1StringView kCollated{"separate-documents-collated-copies"};
+inline constexpr QLatin1StringView kUncollated{"separate-documents-uncollated-copies"};
+inline constexpr QLatin1StringView kCollateOption{"Collate"};
 
 } // namespace corvana

@@ -11,9 +11,10 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionTexts.h"
 #include "dialog/session/PanelHost.h"
-#include "dialog/session/PaperSize.h"
 #include "dialog/session/PpdSession.h"
+#include "dialog/session/RequestedOptions.h"
 
 namespace corvana {
 
@@ -26,208 +27,15 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(OptionRequest)
 };
 
-// "Tray=Lower"; a password is one, whatever has become of it.
-QString said(ppd_file_t *ppd, const QString &name, const QString &value)
-{
-    const bool secret = isSecret(ppd, name) && !ppdChoice(ppdOption(ppd, name), value);
-    return u"%1=%2"_s.arg(name, secret ? QString(kHiddenLength, u'•') : value);
-}
-
 QString asked(const JobOption &option, ppd_file_t *ppd)
 {
-    return said(ppd, option.name, option.value);
+    return optionText(ppd, option.name, option.value);
 }
 
 QString named(const OptionChoice &choice, ppd_file_t *ppd)
 {
-    return said(ppd, choice.keyword, choice.choice);
+    return optionText(ppd, choice.keyword, choice.choice);
 }
-
-QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
-{
-    QStringList allowed;
-    for (int i = 0; i < option->num_choices; ++i) {
-        if (const QString choice = ppdKeyword(option->choices[i].choice); choice != kCustomChoice)
-            allowed += choice;
-    }
-    const QString custom = allowedCustomValues(ppd, ppdKeyword(option->keyword));
-    if (!custom.isEmpty())
-        allowed += custom;
-    return allowed.join(u", "_s);
-}
-
-// Names of lp's for what the printer, or the dialog, has another one.
-constexpr QLatin1StringView kMediaOption{"media"};
-constexpr QLatin1StringView kSidesOption{"sides"};
-constexpr QLatin1StringView kCopiesOption{"copies"};
-
-QStringList translatedOptions()
-{
-    return {kMediaOption, kSidesOption, kCopiesOption};
-}
-
-// Sorts the requested options by who takes them, and collects what nobody does.
-class Request
-{
-public:
-    Request(PpdSession &session, const PDEJobValues *jobValues)
-        : m_session(session), m_jobValues(jobValues)
-    {
-    }
-
-    QStringList problems;
-    QList<OptionChoice> choices;  // for the PPD
-    QList<JobOption> panelValues; // for the plug-in
-    QList<JobOption> attributes;  // for CUPS
-    std::optional<int> copies;
-
-    void add(const JobOption &given)
-    {
-        const JobOption option = inOneSpelling(given);
-        if (option.name == kMediaOption)
-            addMedia(option);
-        else if (option.name == kSidesOption)
-            addSides(option);
-        else if (option.name == kCopiesOption)
-            addCopies(option);
-        else if (addPanelValue(option) || addChoice(option, option.name) || addAttribute(option))
-            return;
-        else
-            refuse(option,
-                   Texts::tr("this printer has no such option. Options: %1. Job attributes: %2.")
-                       .arg(optionNames(), attributeNames()));
-    }
-
-private:
-    void refuse(const JobOption &option, const QString &why)
-    {
-        problems += u"%1: %2"_s.arg(asked(option, m_session.ppd()), why);
-    }
-
-    void refuseValue(const JobOption &option, const QString &allowed)
-    {
-        refuse(option, Texts::tr("this value is not allowed. Allowed: %1.").arg(allowed));
-    }
-
-    QString optionNames() const
-    {
-        QStringList names;
-        for (const ppd_option_t *option : m_session.options())
-            names += ppdKeyword(option->keyword);
-        return names.join(u", "_s);
-    }
-
-    static QString attributeNames()
-    {
-        return (translatedOptions() + jobAttributeNames()).join(u", "_s);
-    }
-
-    void addMedia(const JobOption &option)
-    {
-        const QString size = pageSizeOfMedia(m_session.ppd(), option.value);
-        if (!size.isNull())
-            choices += OptionChoice{kPageSizeOption, size};
-        else if (option.value.startsWith(kCustomPrefix) && addChoice(option, kPageSizeOption))
-            return;
-        else if (const ppd_option_t *sizes = ppdOption(m_session.ppd(), kPageSizeOption))
-            refuseValue(option, allowedChoices(m_session.ppd(), sizes));
-        else
-            refuse(option, Texts::tr("this printer has no paper sizes to choose from."));
-    }
-
-    void addSides(const JobOption &option)
-    {
-        struct Side
-        {
-            QLatin1StringView sides;
-            QLatin1StringView duplex; // empty: the one-sided choice, which is the default
-        };
-        static constexpr Side kSides[] = {
-            {"one-sided"_L1, QLatin1StringView()},
-            {"two-sided-long-edge"_L1, kDuplexLongEdge},
-            {"two-sided-short-edge"_L1, kDuplexShortEdge},
-        };
-        const QString keyword = kDuplexOption;
-        ppd_option_t *duplex = ppdOption(m_session.ppd(), keyword);
-        QStringList allowed;
-        for (const Side &side : kSides) {
-            const QString choice = side.duplex.isEmpty() && duplex ? ppdKeyword(duplex->defchoice)
-                                                                   : QString(side.duplex);
-            const bool possible =
-                duplex ? ppdChoice(duplex, choice) != nullptr : side.duplex.isEmpty();
-            if (!possible)
-                continue;
-            allowed += side.sides;
-            if (option.value != side.sides)
-                continue;
-            if (duplex)
-                choices += OptionChoice{keyword, choice};
-            return;
-        }
-        refuseValue(option, allowed.join(u", "_s));
-    }
-
-    void addCopies(const JobOption &option)
-    {
-        bool isNumber = false;
-        const int number = option.value.toInt(&isNumber);
-        if (isNumber && number >= 1 && number <= kMostCopies)
-            copies = number;
-        else
-            refuseValue(option, Texts::tr("1 to %1").arg(kMostCopies));
-    }
-
-    // A trial on a copy of the entries: nothing is written before everything has been checked.
-    bool addPanelValue(const JobOption &option)
-    {
-        if (!m_jobValues)
-            return false;
-        PrintSettings trial;
-        trial.setEntries(m_session.printSettings().entries());
-        const JobValueClaim claim = m_jobValues->takeJobOption(option, trial, m_session.ppd());
-        if (claim.outcome == JobValueClaim::Outcome::NotMine)
-            return false;
-        if (claim.outcome == JobValueClaim::Outcome::Refused)
-            refuseValue(option, claim.allowed);
-        else
-            panelValues += option;
-        return true;
-    }
-
-    bool addChoice(const JobOption &option, const QString &keyword)
-    {
-        ppd_option_t *found = ppdOption(m_session.ppd(), keyword);
-        if (!m_session.options().contains(found))
-            return false;
-        if (option.value.startsWith(kCustomPrefix)) {
-            const CustomValueCheck check = checkCustomValue(m_session.ppd(), keyword, option.value);
-            if (check.value)
-                choices += OptionChoice{keyword, *check.value};
-            else
-                refuseValue(option, allowedChoices(m_session.ppd(), found));
-        } else if (ppdChoice(found, option.value) && option.value != kCustomChoice) {
-            choices += OptionChoice{keyword, option.value};
-        } else {
-            refuseValue(option, allowedChoices(m_session.ppd(), found));
-        }
-        return true;
-    }
-
-    bool addAttribute(const JobOption &option)
-    {
-        const JobAttribute *attribute = jobAttribute(option.name);
-        if (!attribute)
-            return false;
-        if (attribute->accepts(option.value))
-            attributes += option;
-        else
-            refuseValue(option, attribute->allowed.text());
-        return true;
-    }
-
-    PpdSession &m_session;
-    const PDEJobValues *m_jobValues;
-};
 
 bool isNamed(const QList<OptionChoice> &choices, const QString &keyword)
 {
@@ -260,6 +68,9 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
 
 QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd)
 {
+    if (refusal.conflicting.isEmpty())
+        return Texts::tr("%1: the printer's options cannot be set to this value.")
+            .arg(named(refusal.proposed, ppd));
     QStringList others;
     for (const OptionChoice &other : refusal.conflicting)
         others += named(other, ppd);
@@ -285,8 +96,10 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
 
 bool isKnownOption(const QString &name, const PpdSession &session)
 {
-    return ppdOption(session.ppd(), name) || translatedOptions().contains(name) ||
-           jobAttribute(inOneSpelling({name, u"true"_s}).name);
+    const QString known = nameInOneCase(name, session.ppd());
+    return ppdOption(session.ppd(), known) ||
+           RequestedOptions::translatedOptions().contains(known) ||
+           jobAttribute(inOneSpelling({known, u"true"_s}).name);
 }
 
 bool isWellFormed(const QString &argument)
@@ -309,7 +122,12 @@ QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues
     for (const JobOption &option : own) {
         const OptionChoice choice{option.name, option.value};
         ppd_option_t *found = ppdOption(session.ppd(), option.name);
-        if (found && !option.value.startsWith(kCustomPrefix) && !ppdChoice(found, option.value)) {
+        // A panel may write a number for which the PPD has lost the choice.
+        const bool isTaken =
+            option.value.startsWith(kCustomPrefix)
+                ? checkCustomValue(session.ppd(), option.name, option.value).value.has_value()
+                : ppdChoice(found, option.value) != nullptr;
+        if (found && !isTaken) {
             problems +=
                 Texts::tr("%1: this value is not allowed. Allowed: %2.")
                     .arg(asked(option, session.ppd()), allowedChoices(session.ppd(), found));
@@ -345,9 +163,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     panels.bringUp();
     const SessionSnapshot before = session.snapshot();
 
-    Request request(session, jobValues);
-    for (const JobOption &option : requested)
-        request.add(option);
+    const RequestedOptions request(requested, session, jobValues);
     if (!request.problems.isEmpty())
         return {request.problems, {}, {}};
 

@@ -34,6 +34,32 @@ constexpr Unit kUnits[] = {
     {"m"_L1, 1000 * kPointsPerMillimetre},
 };
 
+// "custom_mine_10x15cm". libcups takes every unit but inches for millimetres.
+QSize dimensionOfCustomName(const QString &name)
+{
+    const QString text = name.section(u'_', -1);
+    const std::optional<QSizeF> points =
+        text.endsWith(u'm') || text.endsWith(u'n') || text.endsWith(u't') ? sizeWithUnit(text)
+                                                                          : std::nullopt;
+    constexpr double kLongest = 3e6; // more would be no number of hundredths of a millimetre
+    if (!points || points->width() > kLongest || points->height() > kLongest)
+        return {};
+    return {qRound(hundredthsOfPoints(points->width())),
+            qRound(hundredthsOfPoints(points->height()))};
+}
+
+// What printers call the smallest and the largest paper that they take.
+bool isLimit(const QString &media)
+{
+    static const QRegularExpression limit(u"^(custom|roll)_(min|max)_"_s);
+    return limit.match(media).hasMatch();
+}
+
+bool isSame(const QString &keyword, const QString &media)
+{
+    return keyword.compare(media, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 std::optional<QSizeF> sizeWithUnit(const QString &text)
@@ -63,6 +89,10 @@ bool isPaper(QSize dimension)
 
 QSize dimensionOfMedia(const QString &name)
 {
+    if (name.startsWith("custom_"_L1)) {
+        const QSize size = dimensionOfCustomName(name);
+        return isPaper(size) ? size : QSize();
+    }
     const QByteArray bytes = name.toUtf8();
     const pwg_media_t *media = pwgMediaForPWG(bytes.constData());
     if (!media)
@@ -74,9 +104,17 @@ QSize dimensionOfMedia(const QString &name)
 QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
 {
     // The entry "Custom" is no size of its own: it has the one that was asked for last.
-    if (media != kCustomChoice && ppdChoice(ppdOption(ppd, kPageSizeOption), media))
+    ppd_option_t *sizes = ppdOption(ppd, kPageSizeOption);
+    if (isSame(media, kCustomChoice))
+        return {};
+    if (ppdChoice(sizes, media))
         return media;
-    const QSize dimension = dimensionOfMedia(media);
+    for (int i = 0; sizes && i < sizes->num_choices; ++i) {
+        if (const QString keyword = ppdKeyword(sizes->choices[i].choice); isSame(keyword, media))
+            return keyword;
+    }
+    const QString name = media.toLower();
+    const QSize dimension = isLimit(name) ? QSize() : dimensionOfMedia(name);
     if (dimension.isEmpty())
         return {};
     constexpr double kTolerance = 5.0; // points, as CUPS matches media sizes
@@ -91,6 +129,22 @@ QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media)
             return ppdKeyword(size.name);
     }
     return {};
+}
+
+QString customChoiceOfMedia(const QString &media)
+{
+    const QString name = media.toLower();
+    std::optional<QSizeF> points;
+    if (name.startsWith(QString(kCustomPrefix).toLower())) {
+        points = sizeWithUnit(name.mid(kCustomPrefix.size()));
+    } else if (const QSize size = isLimit(name) ? QSize() : dimensionOfMedia(name);
+               !size.isEmpty()) {
+        points = QSizeF(pointsOfHundredths(size.width()), pointsOfHundredths(size.height()));
+    }
+    if (!points)
+        return {};
+    return u"%1%2x%3"_s.arg(kCustomPrefix, QString::number(points->width(), 'f', 6),
+                            QString::number(points->height(), 'f', 6));
 }
 
 QString customMediaName(QSize dimension)

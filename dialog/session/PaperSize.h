@@ -41,9 +41,14 @@ bool isPaper(QSize dimension);
 /// Errors: an empty size for any other name, and for what can be no paper.
 QSize dimensionOfMedia(const QString &name);
 
-/// The page size of a PPD for a media name: its own keyword, or one of the same size.
-/// Errors: empty.
+/// The page size of a PPD for a media name: its own keyword in any case, or one of the same size.
+/// Errors: empty, also for the names by which printers state the limits of their sizes.
 QString pageSizeOfMedia(ppd_file_t *ppd, const QString &media);
+
+/// A media name as a custom page size of a PPD, in points: "Custom.4x6IN", "custom_mine_10x15cm",
+/// "iso_a6_105x148mm". Whether a printer takes that size is checkCustomValue()'s to say.
+/// Errors: empty for a name that states no size.
+QString customChoiceOfMedia(const QString &media);
 
 /// The name by which IPP knows a paper of any size ("custom_100x150mm_100x150mm").
 /// Units: hundredths of a millimetre.

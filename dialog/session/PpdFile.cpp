@@ -24,6 +24,22 @@ void keepOneSidedAsDefault(ppd_file_t *ppd)
     qstrncpy(duplex->defchoice, oneSided->choice, sizeof duplex->defchoice);
 }
 
+// Most PPDs that can collate do not by default, and the printer then makes each page several times.
+void collateByDefault(ppd_file_t *ppd)
+{
+    ppd_option_t *collate = ppdOption(ppd, kCollateOption);
+    const ppd_choice_t *on = ppdChoice(collate, u"True"_s);
+    if (!on || !ppdChoice(collate, u"False"_s))
+        return;
+    const QByteArray former = collate->defchoice;
+    const int conflicts = ppdConflicts(ppd);
+    if (ppdMarkOption(ppd, collate->keyword, on->choice) > conflicts) {
+        ppdMarkOption(ppd, collate->keyword, former.constData());
+        return;
+    }
+    qstrncpy(collate->defchoice, on->choice, sizeof collate->defchoice);
+}
+
 QString openError(const QString &path)
 {
     int line = 0;
@@ -52,6 +68,7 @@ PpdFile openPpdFile(const QString &path, QString *error)
     ppdLocalize(ppd.get());
     ppdMarkDefaults(ppd.get());
     keepOneSidedAsDefault(ppd.get());
+    collateByDefault(ppd.get());
     return ppd;
 }
 

@@ -22,6 +22,8 @@ using PpdFile = std::unique_ptr<ppd_file_t, PpdCloser>;
 /// when two-sided is made a queue's default; then the one-sided choice becomes the default again
 /// and the queue's wish stays as the mark.
 ///
+/// Copies are collated by default, where the PPD has an option "Collate" and nothing is in its way.
+///
 /// Errors: null; `error` then says which file, which line where one is known, and what is wrong.
 PpdFile openPpdFile(const QString &path, QString *error);
 

@@ -116,7 +116,15 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
             }
             return {Outcome::Conflict, conflicting};
         }
-        mark(keyword, choice);
+        if (!mark(keyword, choice)) {
+            qCWarning(lcSession) << "refused: libcups does not mark" << keyword
+                                 << choiceKeyword(choice);
+            if (origin == Origin::Panel) {
+                m_refusals.insert(keyword, Refusal{{keyword, choice}, {}});
+                Q_EMIT refused();
+            }
+            return {Outcome::NotMarked, {}};
+        }
     }
     m_refusals.remove(keyword);
     m_printSettings.setValue(keyword, choiceKeyword(choice));
@@ -136,9 +144,11 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
     QList<OptionChoice> ordered = choices;
     std::stable_partition(ordered.begin(), ordered.end(),
                           [](const OptionChoice &c) { return c.keyword == kPageSizeOption; });
-    for (const OptionChoice &choice : std::as_const(ordered))
-        mark(choice.keyword, choice.choice);
     QList<Refusal> refusals;
+    for (const OptionChoice &choice : std::as_const(ordered)) {
+        if (!mark(choice.keyword, choice.choice))
+            refusals += Refusal{choice, {}};
+    }
     for (const OptionChoice &choice : std::as_const(ordered)) {
         const QList<OptionChoice> conflicting = conflictsOf(choice);
         if (!conflicting.isEmpty())
@@ -214,17 +224,22 @@ QList<Refusal> PpdSession::takeRefusals()
     return std::exchange(m_refusals, {}).values();
 }
 
-void PpdSession::mark(const QString &keyword, const QString &choice)
+// Whether libcups marked what was meant. Of a PPD with a broken option it marks nothing, and says
+// nothing.
+bool PpdSession::mark(const QString &keyword, const QString &choice)
 {
     // Of an option that allows several choices at once libcups would keep the former ones, too.
     if (const ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
         option && option->ui == PPD_UI_PICKMANY)
         unmark(m_ppd.get(), keyword);
     ppdMarkOption(m_ppd.get(), keyword.toLatin1().constData(), choice.toLatin1().constData());
+    if (markedChoice(keyword) != choiceKeyword(choice))
+        return false;
     if (choice.startsWith(kCustomPrefix))
         m_customValues.insert(keyword, choice);
     else if (choice != kCustomChoice)
         m_customValues.remove(keyword);
+    return true;
 }
 
 void PpdSession::recordMarks()

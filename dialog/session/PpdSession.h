@@ -34,7 +34,8 @@ struct SessionSnapshot
     bool operator==(const SessionSnapshot &) const = default;
 };
 
-/// A choice that was refused, and the marked choices that it collides with.
+/// A choice that was refused, and the marked choices that it collides with; none where libcups does
+/// not take it from this PPD.
 struct Refusal
 {
     OptionChoice proposed;
@@ -46,7 +47,13 @@ struct Refusal
 /// What became of one change.
 struct ChangeResult
 {
-    enum class Outcome { Accepted, UnknownOption, UnknownChoice, Conflict };
+    enum class Outcome {
+        Accepted,
+        UnknownOption,
+        UnknownChoice,
+        Conflict,
+        NotMarked, ///< libcups does not take it from this PPD
+    };
 
     Outcome outcome = Outcome::Accepted;
     QList<OptionChoice> conflicting; ///< the marked choices in the way of a conflict
@@ -94,8 +101,8 @@ public:
     ChangeResult change(const QString &keyword, const QString &choice, Origin origin);
 
     /// Marks several choices together: only the set as a whole must be free of conflicts.
-    /// Errors: the conflicts of the set; nothing is changed then. Unknown names must have been
-    /// refused before.
+    /// Errors: the conflicts of the set, and what libcups did not mark; nothing is changed then.
+    /// Unknown names must have been refused before.
     QList<Refusal> changeTogether(const QList<OptionChoice> &choices);
 
     /// Other choices that make room for the proposed one; empty when there are none.
@@ -121,7 +128,7 @@ Q_SIGNALS:
     void paperChanged();
 
 private:
-    void mark(const QString &keyword, const QString &choice);
+    bool mark(const QString &keyword, const QString &choice);
     void recordMarks();
     bool updatePageFormat();
     void setDuplex(PMDuplexMode mode);

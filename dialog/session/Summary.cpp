@@ -5,6 +5,7 @@
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PaperSize.h"
 #include "platform/foundation/ForeignText.h"
@@ -48,6 +49,14 @@ QList<const ppd_option_t *> installedParts(ppd_file_t *ppd)
             options += &group.options[j];
     }
     return options;
+}
+
+QString copiesText(int copies, bool collated)
+{
+    if (copies < 2)
+        return QString::number(copies);
+    return collated ? QCoreApplication::translate("Summary", "%1, collated").arg(copies)
+                    : QCoreApplication::translate("Summary", "%1, not collated").arg(copies);
 }
 
 } // namespace
@@ -102,14 +111,16 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
 {
     // The panels first: they restore and save on the way, which may change a mark.
     const QList<SummaryLine> panelLines = panels.summary();
-    QList<SummaryLine> lines{
-        {QCoreApplication::translate("Summary", "Copies"), QString::number(copies)}};
+    QList<SummaryLine> lines{{QCoreApplication::translate("Summary", "Copies"),
+                              copiesText(copies, isCollated(session, attributes))}};
     for (const QString &keyword : generalOptionKeywords()) {
         const SummaryLine line = optionLine(session, keyword);
         if (!line.title.isEmpty())
             lines += line;
     }
     for (const JobOption &attribute : attributes) {
+        if (copies > 1 && attribute.name == kCollateAttribute)
+            continue; // stands beside the copies
         const JobAttributeText text = textOfJobAttribute(attribute);
         lines += SummaryLine{text.title, text.value};
     }
@@ -118,6 +129,8 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     const QStringList told = keywordsOfPanels(panels);
     for (const ppd_option_t *option : optionsBesideGeneral(session)) {
         const QString keyword = ppdKeyword(option->keyword);
+        if (copies > 1 && keyword == kCollateOption)
+            continue;
         if (!told.contains(keyword) && session.differsFromDefault(keyword))
             lines += optionLine(session, keyword);
     }

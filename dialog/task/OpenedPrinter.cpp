@@ -51,8 +51,10 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
 JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
                      const QString &title, int copies)
 {
-    return {title, copies, jobOptions(*printer.session, printer.jobValues, attributes),
-            secretsOf(*printer.session)};
+    const PpdSession &session = *printer.session;
+    return {title, copies,
+            jobOptions(session, printer.jobValues, withCollation(attributes, copies, session)),
+            secretsOf(session)};
 }
 
 } // namespace corvana

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -9,9 +10,12 @@
 
 #include "dialog/job/Document.h"
 #include "dialog/printers/Printer.h"
+#include "dialog/server/CredentialStore.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/task/AlertPolicy.h"
 #include "platform/pde/PDEJobValues.h"
+
+class QTemporaryDir;
 
 namespace corvana {
 
@@ -31,11 +35,19 @@ struct PrintRequest
     QString title;
     QString output;              ///< never empty where there is a document
     bool outputWasNamed = false; ///< so a file is wanted, whatever the printer
+    /// Holds the result until it is complete and can go to standard output; null for other results.
+    std::shared_ptr<QTemporaryDir> standardOutput;
     int copies = 1;
     bool copiesWereNamed = false; ///< by -n, which counts more than any option
     bool summary = false;
     std::optional<AlertPolicy> onAlert; ///< nothing: as suits where the job goes
     bool noWait = false;
+    /// How long a job that its queue has is followed at most; nothing: to its end.
+    std::optional<std::chrono::seconds> wait;
+    bool quiet = false; ///< what was asked for and was done needs no word
+    bool json = false;  ///< what became of the job is said for a program, too
+    /// A user and a password that were given in advance, so that nobody has to be asked.
+    std::optional<Credentials> credentials;
     /// The page of the dialog's own help, in the user's language; empty when it is not installed.
     QString helpPage;
 };

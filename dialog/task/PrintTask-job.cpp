@@ -1,6 +1,5 @@
 #include "dialog/task/PrintTask.h"
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -134,10 +133,7 @@ void PrintTask::lookForMissingCharacters()
 // A text whose characters nobody has is not printed without a word.
 bool PrintTask::mayPrintTexts()
 {
-    const QList<JobOption> attributes = jobAttributes();
-    const bool anyText =
-        std::any_of(m_request.documents.cbegin(), m_request.documents.cend(),
-                    [&](const Document &document) { return isTextToLayOut(document, attributes); });
+    const bool anyText = hasTextToLayOut(m_request.documents, jobAttributes());
     const QString missing =
         anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
     return missing.isEmpty() ||
@@ -242,6 +238,7 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
     if (outcome.kind == Kind::PrinterChanged)
         m_source.retry();
     const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed ||
+                      outcome.kind == Kind::Sent ||
                       (outcome.kind == Kind::InQueue && m_request.noWait);
     enter(ends ? Phase::Ended : Phase::Ready);
     Q_EMIT jobEnded(outcome);

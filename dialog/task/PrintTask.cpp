@@ -25,6 +25,8 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
+    if (m_request.credentials)
+        m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
     if (!m_face.canAsk())
         return;
@@ -180,7 +182,8 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
     Q_EMIT unsaid();
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
-    if (result.outcome != ChangeResult::Outcome::Conflict)
+    if (result.outcome != ChangeResult::Outcome::Conflict &&
+        result.outcome != ChangeResult::Outcome::NotMarked)
         return; // taken; or no choice of this printer, which the session has logged
     sayRefusal({{keyword, choice}, result.conflicting});
     showSettings(); // the page shows what the user picked

@@ -41,6 +41,9 @@ QString textOf(const QList<OptionChoice> &choices, const PpdSession &session)
 
 QString refusalText(const Refusal &refusal, const PpdSession &session)
 {
+    if (refusal.conflicting.isEmpty())
+        return Texts::tr("The printer's options cannot be set to %1.")
+            .arg(textOf(refusal.proposed, session));
     return Texts::tr("%1 cannot be combined with %2.")
         .arg(textOf(refusal.proposed, session), textOf(refusal.conflicting, session));
 }

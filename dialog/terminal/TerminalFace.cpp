@@ -10,9 +10,11 @@
 
 namespace corvana {
 
-TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination)
+TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination,
+                           FILE *forPeople)
     : m_policy(policy),
-      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; }))
+      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; })),
+      m_forPeople(forPeople)
 {
 }
 
@@ -47,7 +49,7 @@ bool TerminalFace::mayPrintWithout(const QString &what)
 
 void TerminalFace::writeSummary(const QList<SummaryLine> &lines)
 {
-    QTextStream(stdout) << summaryText(lines);
+    QTextStream(m_forPeople) << summaryText(lines);
 }
 
 } // namespace corvana

@@ -10,7 +10,6 @@
 
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/chooser/PrinterComboBox.h"
-#include "dialog/window/chooser/PrinterIcon.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/PlainText.h"
@@ -113,9 +112,8 @@ void PrinterHeader::showDestination(bool fileOnly, bool toFile)
 
 void PrinterHeader::takeIconsFromTheme()
 {
-    takePrinterIconsFromTheme();
-    m_status->updateIcon();
-    m_printers->update();
+    m_status->takeIconFromTheme();
+    m_printers->printers()->setIconSource(IconSource::Theme);
 }
 
 void PrinterHeader::setJobRunning(bool running)

@@ -71,6 +71,17 @@ public:
     {
         return {};
     }
+
+    /// The choices of the PPD that say the same as one value of a standard job attribute
+    /// ("print-color-mode=monochrome"), where an option has a name of the printers' own. Empty for
+    /// every other attribute and value, and without such an option. The values are those of IPP, or
+    /// keywords of choices, in any case; of the attributes "print-color-mode", "media-source",
+    /// "media-type" and "printer-resolution".
+    virtual QList<JobOption> choicesFor([[maybe_unused]] const JobOption &attribute,
+                                        [[maybe_unused]] ppd_file_t *ppd) const
+    {
+        return {};
+    }
 };
 
 } // namespace corvana

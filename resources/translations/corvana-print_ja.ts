@@ -15,8 +15,8 @@
         <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -248,6 +248,90 @@
         <source>Until It Is Released</source>
         <translation>解除されるまで</translation>
     </message>
+    <message>
+        <source>%1 UTC</source>
+        <translation>%1 UTC</translation>
+    </message>
+    <message>
+        <source>%1 UTC (%2 here)</source>
+        <translation>%1 UTC（現地時刻 %2）</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Canceled After, in Seconds</source>
+        <translation>取り消すまでの秒数</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>a resolution such as 600dpi or 1200x600dpi</source>
+        <translation>600dpi や 1200x600dpi のような解像度</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>排紙先</translation>
+    </message>
+    <message>
+        <source>the name of an output bin</source>
+        <translation>排紙先の名前</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>numbers or names of finishings</source>
+        <translation>仕上げの番号または名前</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>給紙方法</translation>
+    </message>
+    <message>
+        <source>the name of a paper source</source>
+        <translation>給紙方法の名前</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>the name of a media type</source>
+        <translation>用紙の種類の名前</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -286,7 +370,7 @@
         <translation>このプリンターでは用紙サイズを選択できません。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1: プリンターの設定により、ここでは使用できません。%2 になりました。</translation>
     </message>
     <message>
@@ -305,11 +389,54 @@
         <source>1 to %1</source>
         <translation>1～%1</translation>
     </message>
+    <message>
+        <source>%1: the printer's options cannot be set to this value.</source>
+        <translation>%1: プリンターのオプションをこの値に設定できません。</translation>
+    </message>
+    <message>
+        <source>this printer has nothing to choose from for this.</source>
+        <translation>このプリンターには、これに対する選択肢がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は使用できません。使用できる値: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordFile</name>
+    <message>
+        <source>The password cannot be read from %1: %2.</source>
+        <translation>%1 からパスワードを読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is empty; a password was expected.</source>
+        <translation>%1 の最初の行が空です。パスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is no password: at most %2 bytes of UTF-8 were expected.</source>
+        <translation>%1 の最初の行はパスワードではありません。UTF-8 で %2 バイト以内にしてください。</translation>
+    </message>
+    <message>
+        <source>The password cannot be read from %1: it is no file.</source>
+        <translation>%1 からパスワードを読み取れません: ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: the file belongs to somebody else.</source>
+        <translation>%1 のパスワードは使用しません。ファイルの所有者が別のユーザーです。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
+        <translation>%1 のパスワードは使用しません。所有者以外もファイルにアクセスできます (モードは %2、chmod 600 で禁止できます)。</translation>
+    </message>
+    <message>
+        <source>descriptor %1</source>
+        <translation>記述子 %1</translation>
+    </message>
 </context>
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
     </message>
 </context>
@@ -483,7 +610,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>、</translation>
     </message>
     <message>
@@ -554,6 +681,10 @@
     <message>
         <source>Change to %1</source>
         <translation>%1 に変更</translation>
+    </message>
+    <message>
+        <source>The printer's options cannot be set to %1.</source>
+        <translation>プリンターのオプションを%1に設定できません。</translation>
     </message>
 </context>
 <context>
@@ -674,12 +805,12 @@
         <translation>ジョブ %1 はキュー「%2」にあります。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
-    </message>
-    <message>
         <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
         <translation>ジョブ %1 はすべて送信されました。%2そのため、印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
+        <translation>「%1」にジョブ %2 として送信しました。ページに何か印刷されたかどうかはわかりません。</translation>
     </message>
     <message>
         <source>Printed on “%1” as job %2.</source>
@@ -760,6 +891,38 @@
     <message>
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>ジョブ %1 をキャンセルできませんでした。印刷される可能性があります。%2</translation>
+    </message>
+    <message>
+        <source>%1 The job had been moved from the queue “%2” to “%3”.</source>
+        <translation>%1ジョブはキュー「%2」から「%3」に移動されていました。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
+        <translation>キュー「%1」は現在ジョブを受け付けていません: %2。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。そのため、印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over to the queue “%2”.</source>
+        <translation>ジョブ %1 をキュー「%2」に渡しました。</translation>
+    </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>前回のジョブ %1 では、文書 %3 個のうち %2 個がプリンターに送られています。残りだけを印刷するか、すべてをもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 ジョブ %2 は一部の文書とともにプリントサーバーに残っていて、それらが印刷される可能性があります。キャンセルできませんでした: %3 もう一度印刷すると、まずこのジョブを確認します。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>ジョブ %1 は、文書 %3 個のうち %2 個だけが印刷されました。</translation>
     </message>
 </context>
 <context>
@@ -878,6 +1041,14 @@
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
     </message>
+    <message>
+        <source>%1, collated</source>
+        <translation>%1（部単位）</translation>
+    </message>
+    <message>
+        <source>%1, not collated</source>
+        <translation>%1（ページ単位）</translation>
+    </message>
 </context>
 <context>
     <name>TerminalQuestions</name>
@@ -930,6 +1101,18 @@
     <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1プリントサーバーを必要としないプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+    <message>
+        <source>Printed to standard output</source>
+        <translation>標準出力に印刷しました</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output: %1.</source>
+        <translation>結果を標準出力に書き込めませんでした: %1。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1276,14 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
     </message>
+<message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>文書をプリンター用に変換できませんでした: ページ数を確認できません。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>文書をプリンター用に変換できませんでした: 時間がかかりすぎました。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -1233,7 +1424,7 @@ For the command line: %2</source>
         <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>プリンターの設定に指示が表示されました。</translation>
     </message>
     <message>
@@ -1241,7 +1432,7 @@ For the command line: %2</source>
         <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
     </message>
     <message>
@@ -1249,7 +1440,7 @@ For the command line: %2</source>
         <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>プリンター固有の設定を使用できません: %1</translation>
     </message>
     <message>
@@ -1277,7 +1468,7 @@ For the command line: %2</source>
         <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
     <message>
@@ -1451,6 +1642,14 @@ For the command line: %2</source>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
         <translation>既定のプリンターがありません。-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
     </message>
+    <message>
+        <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>
+        <translation>インスタンス「%1」はありません。lpoptions にはキュー「%2」のインスタンスがありません。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”. The queue “%2” has: %3.</source>
+        <translation>インスタンス「%1」はありません。キュー「%2」にあるのは次のとおりです: %3。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterStatusLine</name>
@@ -1476,6 +1675,22 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
+    </message>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま印刷されます。1 枚に複数ページを割り付けること (number-up) も、ページを選ぶこと (page-ranges、page-set) もできません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>プリンターが一度に受け取る文書は 1 つのため、文書は 1 つにまとめられました。各文書は新しい用紙から始まります。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
     </message>
 </context>
 <context>
@@ -1551,6 +1766,28 @@ For the command line: %2</source>
     <message>
         <source>Choose Documents to Print</source>
         <translation>印刷する文書の選択</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>すべての文書を 1 部ずつ繰り返す (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>文書ごとに全部数を続けて (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>ページごとに全部数を続けて (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
     </message>
 </context>
 </TS>

@@ -15,8 +15,8 @@
         <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
     </message>
 </context>
 <context>
@@ -248,6 +248,90 @@
         <source>Until It Is Released</source>
         <translation>直到被释放</translation>
     </message>
+    <message>
+        <source>%1 UTC</source>
+        <translation>%1 UTC</translation>
+    </message>
+    <message>
+        <source>%1 UTC (%2 here)</source>
+        <translation>%1 UTC（本地时间 %2）</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>黑白</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>草稿</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Canceled After, in Seconds</source>
+        <translation>超时后取消（秒）</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>颜色模式</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>a resolution such as 600dpi or 1200x600dpi</source>
+        <translation>分辨率，例如 600dpi 或 1200x600dpi</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>出纸盒</translation>
+    </message>
+    <message>
+        <source>the name of an output bin</source>
+        <translation>出纸盒的名称</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>后处理</translation>
+    </message>
+    <message>
+        <source>numbers or names of finishings</source>
+        <translation>后处理的编号或名称</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>纸张来源</translation>
+    </message>
+    <message>
+        <source>the name of a paper source</source>
+        <translation>纸张来源的名称</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>介质类型</translation>
+    </message>
+    <message>
+        <source>the name of a media type</source>
+        <translation>介质类型的名称</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -286,7 +370,7 @@
         <translation>此打印机没有可选的纸张尺寸。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1：打印机设置不允许在此使用，已变为 %2。</translation>
     </message>
     <message>
@@ -305,11 +389,54 @@
         <source>1 to %1</source>
         <translation>1 到 %1</translation>
     </message>
+    <message>
+        <source>%1: the printer's options cannot be set to this value.</source>
+        <translation>%1：无法将打印机的选项设置为此值。</translation>
+    </message>
+    <message>
+        <source>this printer has nothing to choose from for this.</source>
+        <translation>此打印机对此没有可供选择的项目。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许“%1”。允许的值：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordFile</name>
+    <message>
+        <source>The password cannot be read from %1: %2.</source>
+        <translation>无法从 %1 读取密码：%2。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is empty; a password was expected.</source>
+        <translation>%1 的第一行为空；此处应为密码。</translation>
+    </message>
+    <message>
+        <source>The first line of %1 is no password: at most %2 bytes of UTF-8 were expected.</source>
+        <translation>%1 的第一行不是密码：应为最多 %2 字节的 UTF-8 文本。</translation>
+    </message>
+    <message>
+        <source>The password cannot be read from %1: it is no file.</source>
+        <translation>无法从 %1 读取密码：它不是文件。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: the file belongs to somebody else.</source>
+        <translation>不使用 %1 中的密码：该文件属于其他用户。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
+        <translation>不使用 %1 中的密码：所有者以外的用户也能访问该文件（权限为 %2；chmod 600 可取消）。</translation>
+    </message>
+    <message>
+        <source>descriptor %1</source>
+        <translation>描述符 %1</translation>
+    </message>
 </context>
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>无法将打印机选项写入 %1：%2</translation>
     </message>
 </context>
@@ -483,7 +610,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>，</translation>
     </message>
     <message>
@@ -554,6 +681,10 @@
     <message>
         <source>Change to %1</source>
         <translation>更改为%1</translation>
+    </message>
+    <message>
+        <source>The printer's options cannot be set to %1.</source>
+        <translation>无法将打印机的选项设置为%1。</translation>
     </message>
 </context>
 <context>
@@ -674,12 +805,12 @@
         <translation>作业 %1 在队列“%2”中。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
-    </message>
-    <message>
         <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
         <translation>作业 %1 已完整发送。%2因此不知道是否已打印。</translation>
+    </message>
+    <message>
+        <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
+        <translation>已作为作业 %2 发送到“%1”。不知道页面上是否有内容。</translation>
     </message>
     <message>
         <source>Printed on “%1” as job %2.</source>
@@ -760,6 +891,38 @@
     <message>
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>无法取消作业 %1，它仍可能被打印。%2</translation>
+    </message>
+    <message>
+        <source>%1 The job had been moved from the queue “%2” to “%3”.</source>
+        <translation>%1该作业已从队列“%2”移到“%3”。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
+        <translation>队列“%1”目前不接受作业：%2。未打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。因此不知道是否已打印。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over to the queue “%2”.</source>
+        <translation>作业 %1 已交给队列“%2”。</translation>
+    </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>上次的作业 %1 已将 %3 个文档中的 %2 个送到打印机。请单独打印其余文档，或全部重新打印。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 作业 %2 可能仍带着部分文档留在打印服务器上，并可能打印这些文档。无法取消它：%3 再次打印时会先查找该作业。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>作业 %1 只打印了 %3 个文档中的 %2 个。</translation>
     </message>
 </context>
 <context>
@@ -878,6 +1041,14 @@
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
     </message>
+    <message>
+        <source>%1, collated</source>
+        <translation>%1（逐份打印）</translation>
+    </message>
+    <message>
+        <source>%1, not collated</source>
+        <translation>%1（逐页打印）</translation>
+    </message>
 </context>
 <context>
     <name>TerminalQuestions</name>
@@ -930,6 +1101,18 @@
     <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1不需要打印服务器的打印机：%2。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>作业 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printed to standard output</source>
+        <translation>已打印到标准输出</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output: %1.</source>
+        <translation>无法将结果写入标准输出：%1。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1276,14 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
     </message>
+<message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>无法为打印机转换文档：无法确定其页数。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>无法为打印机转换文档：耗时过长。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -1233,7 +1424,7 @@ For the command line: %2</source>
         <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>打印机设置显示了说明。</translation>
     </message>
     <message>
@@ -1241,7 +1432,7 @@ For the command line: %2</source>
         <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>由于打印机设置，作业未打印。</translation>
     </message>
     <message>
@@ -1249,7 +1440,7 @@ For the command line: %2</source>
         <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>无法使用打印机专用设置：%1</translation>
     </message>
     <message>
@@ -1277,7 +1468,7 @@ For the command line: %2</source>
         <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
     <message>
@@ -1451,6 +1642,14 @@ For the command line: %2</source>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
         <translation>没有默认打印机。请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
     </message>
+    <message>
+        <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>
+        <translation>没有实例“%1”：lpoptions 中没有队列“%2”的任何实例。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”. The queue “%2” has: %3.</source>
+        <translation>没有实例“%1”。队列“%2”有：%3。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterStatusLine</name>
@@ -1476,6 +1675,22 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
+    </message>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会原样打印文档：既不能在一张纸上放置多页 (number-up)，也不能选择页面 (page-ranges、page-set)。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>由于打印机一次只接收一个文档，这些文档已合并为一个；每个文档都从新的一张纸开始。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>份数过多，无法按套发送。顺序为：%1。</translation>
     </message>
 </context>
 <context>
@@ -1551,6 +1766,28 @@ For the command line: %2</source>
     <message>
         <source>Choose Documents to Print</source>
         <translation>选择要打印的文档</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>所有文档依次打印一份后再重复 (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>每个文档连续打印所有份数 (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>每一页连续打印所有份数 (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
 </context>
 </TS>

@@ -1,35 +1,28 @@
 // Every page of the dialog, looked at for what a designer would not let pass: clipped texts,
 // overlapping controls, texts that cannot be read on their background, controls without a name.
 
-#include <QAbstractButton>
-#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
 #include <QStyleFactory>
-#include <QStyleOptionFrame>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
 
-#include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/app/Translations.h"
-#include "dialog/window/PrintWindow.h"
+#include "tests/appearance/Inspection.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/support/WindowDriver.h"
 #include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,210 +34,13 @@ QPalette darkPalette()
     return palette;
 }
 
-PrintRequest request(const QStringList &options, const QString &printer = QStringLiteral("cl5"))
+PrintRequest request(const QStringList &options, const QString &printer = u"cl5"_s)
 {
-    CommandLine line;
-    line.documents = {corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"))};
-    line.ppd = corvana::test::sharedFile(QStringLiteral("ppd/corvana-%1.ppd")).arg(printer);
-    line.bundleRoots = {corvana::test::bundleRoot()};
+    CommandLine line = sampleDocument();
+    line.ppd = sharedFile(u"ppd/corvana-%1.ppd"_s).arg(printer);
     line.options = options;
-    QString error;
-    return preparePrintRequest(line, &error).value_or(PrintRequest());
+    return requestFor(line);
 }
-
-QString described(const QWidget *widget)
-{
-    return QStringLiteral("%1 \"%2\"")
-        .arg(QLatin1StringView(widget->metaObject()->className()), widget->objectName());
-}
-
-// Controls whose whole text must be seen without scrolling.
-bool showsItsText(const QWidget *widget)
-{
-    if (const auto *label = qobject_cast<const QLabel *>(widget))
-        return !label->wordWrap() && !label->text().isEmpty();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-        return !button->text().isEmpty();
-    return qobject_cast<const QComboBox *>(widget);
-}
-
-bool isVisibleInside(const QWidget *ancestor, const QWidget *widget)
-{
-    return widget->isVisibleTo(ancestor) && !widget->size().isEmpty();
-}
-
-QStringList clippedControls(const QWidget *page)
-{
-    QStringList clipped;
-    const auto widgets = page->findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        if (!isVisibleInside(page, widget) || !showsItsText(widget))
-            continue;
-        if (widget->minimumSizeHint().width() > widget->width())
-            clipped += described(widget) + QStringLiteral(" is narrower than its text");
-        const QRect inWindow(widget->mapTo(page, QPoint()), widget->size());
-        if (!page->rect().contains(inWindow))
-            clipped += described(widget) + QStringLiteral(" reaches out of its page");
-    }
-    return clipped;
-}
-
-QStringList overlappingControls(const QWidget *page)
-{
-    QStringList overlapping;
-    const auto parents = page->findChildren<QWidget *>();
-    for (const QWidget *parent : parents) {
-        // The parts inside one control are its own affair.
-        if (qobject_cast<const QComboBox *>(parent) ||
-            qobject_cast<const QAbstractScrollArea *>(parent) ||
-            qobject_cast<const QLineEdit *>(parent))
-            continue;
-        const auto children = parent->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
-        for (qsizetype i = 0; i < children.size(); ++i) {
-            for (qsizetype j = i + 1; j < children.size(); ++j) {
-                const QWidget *a = children.at(i);
-                const QWidget *b = children.at(j);
-                if (isVisibleInside(page, a) && isVisibleInside(page, b) && !a->isWindow() &&
-                    !b->isWindow() && a->geometry().intersects(b->geometry()))
-                    overlapping += described(a) + QStringLiteral(" overlaps ") + described(b);
-            }
-        }
-    }
-    return overlapping;
-}
-
-// Texts in fields and lists, which are cut off silently.
-QStringList clippedTexts(const QWidget *page)
-{
-    QStringList clipped;
-    const auto fields = page->findChildren<QLineEdit *>();
-    for (const QLineEdit *field : fields) {
-        // A long text scrolls; a number must be seen whole, and the longest ones have three digits.
-        const bool number = field->width() < 8 * field->fontMetrics().height();
-        if (!number || !isVisibleInside(page, field))
-            continue;
-        QStyleOptionFrame option;
-        option.initFrom(field);
-        option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
-        constexpr int kTextMargins = 4; // pixels that a field keeps free at both ends, together
-        const int room =
-            field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field).width() -
-            kTextMargins;
-        if (field->fontMetrics().horizontalAdvance(QStringLiteral("240")) > room)
-            clipped += described(field) + QStringLiteral(" is narrower than its numbers");
-    }
-    const auto tables = page->findChildren<QTableView *>();
-    for (const QTableView *table : tables) {
-        if (!isVisibleInside(page, table) || !table->model()->rowCount())
-            continue;
-        const QAbstractItemView *view = table; // asking a table is not public
-        if (view->sizeHintForColumn(0) > table->columnWidth(0))
-            clipped += described(table) + QStringLiteral(" is narrower than its texts");
-        if (table->horizontalScrollBar()->maximum() > 0)
-            clipped += described(table) + QStringLiteral(" scrolls sideways");
-    }
-    return clipped;
-}
-
-// The difference in brightness between the darkest and the lightest pixel of a label.
-int contrastOf(QWidget *label)
-{
-    const QImage image = label->window()
-                             ->grab(QRect(label->mapTo(label->window(), QPoint()), label->size()))
-                             .toImage();
-    int darkest = 255;
-    int lightest = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const int gray = qGray(image.pixel(x, y));
-            darkest = qMin(darkest, gray);
-            lightest = qMax(lightest, gray);
-        }
-    }
-    return lightest - darkest;
-}
-
-QStringList unreadableLabels(QWidget *page)
-{
-    QStringList unreadable;
-    const auto labels = page->findChildren<QLabel *>();
-    for (QLabel *label : labels) {
-        if (!isVisibleInside(page, label) || !showsItsText(label) || !label->isEnabled())
-            continue;
-        // Black on white is 255; people with weak sight need about half of it.
-        if (contrastOf(label) < 110)
-            unreadable += described(label) + QStringLiteral(" cannot be read on its background");
-    }
-    return unreadable;
-}
-
-QStringList namelessControls(const QWidget *page)
-{
-    QStringList nameless;
-    const auto widgets = page->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (!isVisibleInside(page, widget) || !qobject_cast<QComboBox *>(widget))
-            continue;
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        if (!accessible || accessible->text(QAccessible::Name).isEmpty())
-            nameless += described(widget) + QStringLiteral(" has no name for a screen reader");
-    }
-    return nameless;
-}
-
-void save(QWidget &window, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("CORVANA_SCREENSHOTS");
-    if (folder.isEmpty())
-        return;
-    QDir().mkpath(folder);
-    window.grab().save(QStringLiteral("%1/%2_%3x_%4.png")
-                           .arg(folder, qEnvironmentVariable("LC_ALL").section(u'.', 0, 0),
-                                qEnvironmentVariable("QT_SCALE_FACTOR"), name));
-}
-
-// Looks at each alert that comes up, and answers it with its first button.
-class AlertInspector : public QObject
-{
-public:
-    explicit AlertInspector(const QString &name) : m_name(name) { qApp->installEventFilter(this); }
-
-    int seen = 0;
-    QStringList faults;
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        auto *box = qobject_cast<QMessageBox *>(watched);
-        if (box && event->type() == QEvent::Show)
-            QMetaObject::invokeMethod(
-                box, [this, box] { inspect(*box); }, Qt::QueuedConnection);
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    void inspect(QMessageBox &box)
-    {
-        ++seen;
-        save(box, m_name);
-        faults += clippedControls(&box) + overlappingControls(&box) + unreadableLabels(&box);
-        const auto labels = box.findChildren<QLabel *>();
-        for (const QLabel *label : labels) {
-            if (label->wordWrap() && label->isVisible() &&
-                label->height() < label->heightForWidth(label->width()))
-                faults += described(label) + QStringLiteral(" is lower than its text");
-        }
-        const auto *picture = box.findChild<QWidget *>(QStringLiteral("accessoryView"));
-        if (!picture || !picture->isVisible() ||
-            !box.rect().contains(QRect(picture->mapTo(&box, QPoint()), picture->size())))
-            faults += QStringLiteral("the picture is not seen whole");
-        const QSize room = box.screen()->availableSize();
-        if (box.width() > room.width() || box.height() > room.height())
-            faults += QStringLiteral("the alert is larger than the screen");
-        box.buttons().constFirst()->click();
-    }
-
-    QString m_name;
-};
 
 } // namespace
 
@@ -255,8 +51,8 @@ class AppearanceTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        installTranslations(*qApp, corvana::test::sharedFile(QStringLiteral("translations")));
+        QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+        installTranslations(*qApp, corvana::test::sharedFile(u"translations"_s));
     }
 
     void everyPageIsWhole_data()
@@ -275,18 +71,14 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         QFETCH(int, page);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-        PrintWindow dialog(request({}));
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        WindowDriver window(request({}));
+        PrintWindow &dialog = window.dialog();
+        auto *pages = window.pages();
         QCOMPARE(pages->count(), 4);
         pages->setCurrentIndex(page);
         QTest::qWait(50);
-        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
-        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
-        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
-        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+        savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(faultsOf(&dialog), QString());
     }
 
     void theOptionsOfAPrinterWithoutPanelsAreWhole_data()
@@ -306,22 +98,21 @@ private Q_SLOTS:
         QFETCH(QString, edited);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
         const QTemporaryDir folder;
-        PrintRequest office = request({QStringLiteral(
-            "PageSize=Postcard Staple=Left Sleep=Custom.12 Tray2=ON Pin=Custom.1234")});
-        office.printers = {
-            {QStringLiteral("office"), QStringLiteral("Office"),
-             writeFile(folder.filePath(QStringLiteral("office.ppd")), officePrinter().text()), 1}};
+        PrintRequest office =
+            request({u"PageSize=Postcard Staple=Left Sleep=Custom.12 Tray2=ON Pin=Custom.1234"_s});
+        office.printers = {{u"office"_s, u"Office"_s,
+                            writeFile(folder.filePath(u"office.ppd"_s), officePrinter().text()),
+                            1}};
         office.wantedPrinter.clear();
-        PrintWindow dialog(office);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        WindowDriver window(office);
+        PrintWindow &dialog = window.dialog();
         dialog.activateWindow();
-        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        auto *pages = window.pages();
         QCOMPARE(pages->count(), 3);
         pages->setCurrentIndex(1);
-        auto *options = dialog.findChild<QTreeView *>(QStringLiteral("options"));
+        auto *options = window.child<QTreeView>(u"options"_s);
         // The options are taken after the first paint.
-        auto *sizes = dialog.findChild<QComboBox *>(QStringLiteral("PageSize"));
+        auto *sizes = window.child<QComboBox>(u"PageSize"_s);
         QTRY_COMPARE(sizes->currentIndex(), 1);
         const QModelIndexList found =
             options->model()->match(options->model()->index(0, 0), Qt::UserRole, edited, 1,
@@ -332,14 +123,10 @@ private Q_SLOTS:
             QTest::keyClick(options, Qt::Key_Return);
         }
         QTest::qWait(50);
-        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
         if (QWidget *list = QApplication::activePopupWidget())
-            save(*list,
-                 QStringLiteral("list_%1").arg(QString::fromLatin1(QTest::currentDataTag())));
-        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
-        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
-        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
-        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
+            savePicture(*list, u"list_%1"_s.arg(QString::fromLatin1(QTest::currentDataTag())));
+        QCOMPARE(faultsOf(&dialog), QString());
         QCOMPARE(options->horizontalScrollBar()->maximum(), 0);
     }
 
@@ -351,15 +138,12 @@ private Q_SLOTS:
         // Between them they have each option in each of its forms.
         const std::pair<const char *, QStringList> printers[] = {
             {"cl5",
-             {QStringLiteral("TonerSaveMode"), QStringLiteral("ImproveOutput"),
-              QStringLiteral("QXDensityAdjustment"), QStringLiteral("QXSleepTime"),
-              QStringLiteral("QXQuietMode"), QStringLiteral("OtherOption")}},
+             {u"TonerSaveMode"_s, u"ImproveOutput"_s, u"QXDensityAdjustment"_s, u"QXSleepTime"_s,
+              u"QXQuietMode"_s, u"OtherOption"_s}},
             {"cl3",
-             {QStringLiteral("ImproveOutput"), QStringLiteral("QXDensityAdjustment"),
-              QStringLiteral("QXQuietMode"), QStringLiteral("OtherOption")}},
+             {u"ImproveOutput"_s, u"QXDensityAdjustment"_s, u"QXQuietMode"_s, u"OtherOption"_s}},
             {"cl2",
-             {QStringLiteral("TonerSaveMode"), QStringLiteral("ImproveOutput"),
-              QStringLiteral("QXDensityAdjustment"), QStringLiteral("QXSleepTime")}},
+             {u"TonerSaveMode"_s, u"ImproveOutput"_s, u"QXDensityAdjustment"_s, u"QXSleepTime"_s}},
         };
         for (const bool dark : {false, true}) {
             for (const auto &[printer, pages] : printers) {
@@ -377,28 +161,24 @@ private Q_SLOTS:
         QFETCH(QString, printer);
         QFETCH(QString, page);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-        PrintWindow dialog(request({}, printer));
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        WindowDriver window(request({}, printer));
+        PrintWindow &dialog = window.dialog();
+        auto *pages = window.pages();
         pages->setCurrentIndex(1);
         auto *panel = qobject_cast<QScrollArea *>(pages->currentWidget());
-        QTRY_VERIFY(panel->widget());
-        panel->widget()->findChild<QPushButton *>(QStringLiteral("optionButton"))->click();
-        auto *rows = panel->widget()->findChild<QTableView *>(QStringLiteral("advancedTableView"));
+        QVERIFY(window.waitForPanel(pages->currentIndex()));
+        panel->widget()->findChild<QPushButton *>(u"optionButton"_s)->click();
+        auto *rows = panel->widget()->findChild<QTableView *>(u"advancedTableView"_s);
         auto *shown = panel->widget()->findChild<QWidget *>(page);
         QVERIFY(shown && rows->isVisible());
         for (int row = 0; row < rows->model()->rowCount() && !shown->isVisible(); ++row)
             rows->selectRow(row);
         QVERIFY(shown->isVisible());
         QTest::qWait(50);
-        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(faultsOf(&dialog), QString());
         QCOMPARE(clippedControls(shown).join(u'\n'), QString());
         QCOMPARE(clippedTexts(&dialog).join(u'\n'), QString());
-        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
-        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
-        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
         // The window has grown as far as is needed.
         QCOMPARE(panel->verticalScrollBar()->maximum(), 0);
         QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
@@ -421,23 +201,19 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         QFETCH(QString, printer);
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-        PrintWindow dialog(request({}, printer));
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        WindowDriver window(request({}, printer));
+        PrintWindow &dialog = window.dialog();
+        auto *pages = window.pages();
         pages->setCurrentIndex(2);
         auto *panel = qobject_cast<QScrollArea *>(pages->currentWidget());
-        QTRY_VERIFY(panel->widget());
-        panel->widget()->findChild<QPushButton *>(QStringLiteral("optionButton"))->click();
-        auto *preview = panel->widget()->findChild<QWidget *>(QStringLiteral("effectImageView"));
+        QVERIFY(window.waitForPanel(pages->currentIndex()));
+        panel->widget()->findChild<QPushButton *>(u"optionButton"_s)->click();
+        auto *preview = panel->widget()->findChild<QWidget *>(u"effectImageView"_s);
         QTRY_VERIFY(preview->isVisible());
         QTest::qWait(50);
-        save(dialog, QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
+        savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(faultsOf(&dialog), QString());
         QCOMPARE(clippedTexts(&dialog).join(u'\n'), QString());
-        QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
-        QCOMPARE(unreadableLabels(&dialog).join(u'\n'), QString());
-        QCOMPARE(namelessControls(&dialog).join(u'\n'), QString());
         QCOMPARE(panel->verticalScrollBar()->maximum(), 0);
         QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
         // The preview shows something to judge by.
@@ -457,10 +233,9 @@ private Q_SLOTS:
         for (const bool dark : {false, true}) {
             const char *look = dark ? "dark" : "light";
             const auto alert = [&](const char *medium, const char *duplex, bool whenPrinting) {
-                QStringList options{
-                    QStringLiteral("QXMediaType=%1").arg(QLatin1StringView(medium))};
+                QStringList options{u"QXMediaType=%1"_s.arg(QLatin1StringView(medium))};
                 if (*duplex)
-                    options += QStringLiteral("Duplex=%1").arg(QLatin1StringView(duplex));
+                    options += u"Duplex=%1"_s.arg(QLatin1StringView(duplex));
                 QTest::addRow("alert_%s_%s%s_%s", whenPrinting ? "back-cover" : "media", medium,
                               *duplex ? "_two-sided" : "", look)
                     << dark << whenPrinting << options;
@@ -484,18 +259,17 @@ private Q_SLOTS:
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
         QTemporaryDir folder;
         PrintRequest wanted = request(whenPrinting ? options : QStringList());
-        wanted.output = folder.filePath(QStringLiteral("job.ps"));
-        PrintWindow dialog(wanted);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        wanted.output = folder.filePath(u"job.ps"_s);
+        WindowDriver window(wanted);
+        PrintWindow &dialog = window.dialog();
+        auto *pages = window.pages();
         pages->setCurrentIndex(1);
-        QTRY_VERIFY(qobject_cast<QScrollArea *>(pages->currentWidget())->widget());
+        QVERIFY(window.waitForPanel(1));
         AlertInspector inspector(QString::fromLatin1(QTest::currentDataTag()));
         if (whenPrinting) {
-            dialog.findChild<QPushButton *>(QStringLiteral("print"))->click();
+            QVERIFY(window.pressPrint());
         } else {
-            auto *media = dialog.findChild<QComboBox *>(QStringLiteral("mediaTypePopup"));
+            auto *media = window.child<QComboBox>(u"mediaTypePopup"_s);
             const QString medium = options.constFirst().section(u'=', 1);
             media->setCurrentIndex(media->findData(medium));
             Q_EMIT media->activated(media->currentIndex());
@@ -508,26 +282,23 @@ private Q_SLOTS:
     void aMessageFitsIntoTheDialog()
     {
         QApplication::setPalette(QApplication::style()->standardPalette());
-        PrintWindow dialog(request({QStringLiteral("QXMediaType=Glossy")}));
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        WindowDriver window(request({u"QXMediaType=Glossy"_s}));
+        PrintWindow &dialog = window.dialog();
         QTest::qWait(50);
-        auto *duplex = dialog.findChild<QComboBox *>(QStringLiteral("Duplex"));
+        auto *duplex = window.child<QComboBox>(u"Duplex"_s);
         duplex->setCurrentIndex(1);
         QTest::qWait(50);
-        auto *message = dialog.findChild<QLabel *>(QStringLiteral("messageText"));
-        QVERIFY(message->isVisible());
-        save(dialog, QStringLiteral("conflict"));
+        QVERIFY(!window.message().isNull());
+        savePicture(dialog, u"conflict"_s);
         QCOMPARE(clippedControls(&dialog).join(u'\n'), QString());
         QCOMPARE(overlappingControls(&dialog).join(u'\n'), QString());
     }
 
     void aNarrowedDialogScrollsInsteadOfClipping()
     {
-        PrintWindow dialog(request({}));
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        WindowDriver window(request({}));
+        PrintWindow &dialog = window.dialog();
+        auto *pages = window.pages();
         pages->setCurrentIndex(2);
         dialog.resize(dialog.minimumSizeHint());
         QTest::qWait(50);

@@ -12,14 +12,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/session/DialogPreferences.h"
-#include "dialog/window/PrintWindow.h"
 #include "dialog/window/WindowSize.h"
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/pages/MessageBar.h"
 #include "platform/foundation/UserDefaults.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/support/WindowDriver.h"
 #include "tests/support/TestPaths.h"
 
 using namespace corvana;
@@ -32,30 +31,24 @@ class SmallScreenTest : public QObject
 
 private:
     std::unique_ptr<QTemporaryDir> m_preferences;
-    std::unique_ptr<PrintWindow> m_dialog;
+    std::unique_ptr<WindowDriver> m_window;
     QFont m_font;
 
+    PrintWindow &dialog() const { return m_window->dialog(); }
     template <typename Control> Control *control(const QString &name) const
     {
-        return m_dialog->findChild<Control *>(name);
+        return m_window->child<Control>(name);
     }
-    QTabWidget *pages() const { return control<QTabWidget>(u"pages"_s); }
 
     void open(const QString &title, const QByteArray &ppd = {})
     {
-        CommandLine line;
-        line.documents = {sourceFile(u"resources/sample/welcome.pdf"_s)};
+        CommandLine line = sampleDocument();
         line.ppd = ppd.isEmpty() ? sharedFile(u"ppd/corvana-cl5.ppd"_s)
                                  : writeFile(m_preferences->filePath(u"office.ppd"_s), ppd);
-        line.bundleRoots = {bundleRoot()};
         line.title = title;
         line.output = u"/tmp/%1.ps"_s.arg(title);
-        QString error;
-        m_dialog = std::make_unique<PrintWindow>(
-            preparePrintRequest(line, &error).value_or(PrintRequest()));
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-        QTRY_VERIFY(pages()->count() > 2);
+        m_window = std::make_unique<WindowDriver>(requestFor(line));
+        QTRY_VERIFY(m_window->pages()->count() > 2);
         settle();
     }
     // What is laid out queues more of it.
@@ -69,8 +62,8 @@ private:
     // What of the window is not on the screen; empty when all is.
     QString whatIsOff() const
     {
-        const QRect screen = m_dialog->screen()->availableGeometry();
-        const QRect window = m_dialog->frameGeometry();
+        const QRect screen = dialog().screen()->availableGeometry();
+        const QRect window = dialog().frameGeometry();
         const auto told = [](const QString &what, const QRect &place) {
             QString text;
             QDebug(&text) << what << place;
@@ -101,7 +94,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        m_dialog.reset();
+        m_window.reset();
         QApplication::setFont(m_font);
     }
 
@@ -130,15 +123,16 @@ private Q_SLOTS:
         QApplication::setFont(font);
         open(title, panels ? QByteArray() : officePrinter().text());
         const QString folder = qEnvironmentVariable("CORVANA_SCREENSHOTS");
-        for (int page = 0; page < pages()->count(); ++page) {
-            pages()->setCurrentIndex(page);
+        for (int page = 0; page < m_window->pages()->count(); ++page) {
+            m_window->pages()->setCurrentIndex(page);
             settle();
-            if (auto *more = pages()->currentWidget()->findChild<QPushButton *>(u"optionButton"_s))
+            if (auto *more =
+                    m_window->pages()->currentWidget()->findChild<QPushButton *>(u"optionButton"_s))
                 more->setChecked(true);
             settle();
             QCOMPARE(whatIsOff(), QString());
             if (!folder.isEmpty())
-                m_dialog->grab().save(u"%1/small-%2-%3.png"_s.arg(
+                dialog().grab().save(u"%1/small-%2-%3.png"_s.arg(
                     folder, QString::fromUtf8(QTest::currentDataTag()).replace(u' ', u'-'),
                     QString::number(page)));
         }
@@ -148,14 +142,14 @@ private Q_SLOTS:
                              u"Change to %1"_s.arg(QString(150, u'w')), [] {});
         settle();
         QCOMPARE(whatIsOff(), QString());
-        pages()->setCurrentIndex(0);
+        m_window->pages()->setCurrentIndex(0);
         settle();
         QCOMPARE(whatIsOff(), QString());
         if (!folder.isEmpty())
-            m_dialog->grab().save(u"%1/small-%2-message.png"_s.arg(
+            dialog().grab().save(u"%1/small-%2-message.png"_s.arg(
                 folder, QString::fromUtf8(QTest::currentDataTag()).replace(u' ', u'-')));
         // What has no room scrolls.
-        auto *area = pages()->currentWidget()->findChild<QScrollArea *>();
+        auto *area = m_window->pages()->currentWidget()->findChild<QScrollArea *>();
         const auto fields = area->findChildren<QComboBox *>();
         QVERIFY(!fields.isEmpty());
         for (QComboBox *field : fields) {
@@ -166,7 +160,7 @@ private Q_SLOTS:
             QVERIFY2(place.top() >= 0 && place.top() < area->viewport()->height(),
                      qPrintable(field->objectName()));
         }
-        m_dialog->close();
+        dialog().close();
         const QVariantMap kept = UserDefaults::standardUserDefaults()
                                      .persistentDomainForName(kDialogDomain)
                                      .value_or(QVariantMap());
@@ -176,11 +170,11 @@ private Q_SLOTS:
     void aLongNameKeepsBothItsEndsAndTheWindowItsWidth()
     {
         open(u"short"_s);
-        const QSize usual = m_dialog->size();
-        m_dialog->close();
+        const QSize usual = dialog().size();
+        dialog().close();
         const QString name = u"begin"_s + QString(240, u'm') + u"end"_s;
         open(name);
-        QCOMPARE(m_dialog->size(), usual);
+        QCOMPARE(dialog().size(), usual);
         const auto *shown = control<ElidedLabel>(u"document"_s);
         QCOMPARE(shown->text(), name);
         QVERIFY(shown->shownText().startsWith(u"begin"_s));
@@ -194,16 +188,16 @@ private Q_SLOTS:
         rememberWindowSize({1800, 1000});
         open(u"short"_s);
         QCOMPARE(whatIsOff(), QString());
-        m_dialog->close();
+        dialog().close();
         QCOMPARE(rememberedWindowSize({700, 600}, {4000, 3000}), QSize(1800, 1000));
     }
 
     void whatTheUserMakesOfItIsRemembered()
     {
         open(u"short"_s);
-        m_dialog->resize(640, 500);
+        dialog().resize(640, 500);
         settle();
-        m_dialog->close();
+        dialog().close();
         QCOMPARE(rememberedWindowSize({700, 600}, {4000, 3000}), QSize(640, 500));
     }
 };

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 #include "dialog/app/CommandLine.h"
@@ -19,14 +18,14 @@ namespace {
 
 constexpr int kPatience = 30000; // milliseconds that printing may take on a busy machine
 
-QString textOf(const PrintWindow &window, const QString &name)
+QString textOf(const WindowDriver &window, const QString &name)
 {
-    const auto *label = window.findChild<QLabel *>(name);
+    const auto *label = window.child<QLabel>(name);
     return label && label->isVisible() ? label->text() : QString();
 }
 
 // Everything that the window says to whoever wants to print.
-QString saidIn(const PrintWindow &window)
+QString saidIn(const WindowDriver &window)
 {
     QString said = textOf(window, u"messageText"_s) + textOf(window, u"waitingText"_s);
     said.remove(u'\u200B'); // where a long word may be broken
@@ -71,11 +70,10 @@ FaceEnd printInWindow(const QStringList &arguments, const QString &output)
     if (!request)
         return {error};
     AlertAnswerer alerts;
-    PrintWindow window(*request);
-    window.show();
+    WindowDriver window(*request);
     const bool opened = QTest::qWaitFor(
         [&] {
-            const Phase phase = window.task().phase();
+            const Phase phase = window.dialog().task().phase();
             return phase == Phase::Ready || phase == Phase::Missing;
         },
         kPatience);
@@ -83,12 +81,12 @@ FaceEnd printInWindow(const QStringList &arguments, const QString &output)
         return {u"the printer does not open"_s};
     if (const QString said = saidIn(window); !said.isEmpty())
         return {said};
-    window.findChild<QPushButton *>(u"print"_s)->click();
+    window.pressPrint();
     const bool ended = QTest::qWaitFor(
-        [&] { return !window.isVisible() || !saidIn(window).isEmpty(); }, kPatience);
+        [&] { return !window.dialog().isVisible() || !saidIn(window).isEmpty(); }, kPatience);
     if (!ended)
         return {u"the job does not end"_s};
-    if (window.isVisible())
+    if (window.dialog().isVisible())
         return {saidIn(window)};
     return {{}, takeResult(output), true};
 }

@@ -1,5 +1,4 @@
 #include "tests/e2e/DialogDriver.h"
-#include "dialog/app/RequestFromCommandLine.h"
 
 #include <stdexcept>
 
@@ -7,15 +6,11 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QSlider>
-#include <QTabWidget>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTest>
 
 #include "platform/toolkit/PopUpButton.h"
@@ -23,33 +18,25 @@
 #include "tests/support/Gestures.h"
 #include "tests/support/TestPaths.h"
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 namespace {
 
-constexpr int kPatience = 20000; // milliseconds that printing may take on a busy machine
-
-CommandLine sampleDocument(const QStringList &options)
+CommandLine smallDocument(const QStringList &options)
 {
-    CommandLine line;
-    line.documents = {corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"))};
-    line.bundleRoots = {corvana::test::bundleRoot()};
+    CommandLine line = sampleDocument();
+    // Two pages with hardly anything on them: what is looked at are the codes around them, and the
+    // filters need a third of the time.
+    line.documents = {sourceFile(u"tests/data/pages.pdf"_s)};
     line.options = options;
     return line;
 }
 
-PrintRequest request(const CommandLine &line)
-{
-    QString error;
-    PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());
-    if (!error.isEmpty())
-        throw std::runtime_error(error.toStdString());
-    return prepared;
-}
-
 QString check(const QCheckBox *box)
 {
-    return box->isChecked() ? QStringLiteral("ON") : QStringLiteral("OFF");
+    return box->isChecked() ? u"ON"_s : u"OFF"_s;
 }
 
 // With the keys alone: to the lower end, and from there up.
@@ -65,7 +52,7 @@ SeenAlert seenAlert(const QMessageBox &box)
     SeenAlert alert{box.text(), box.informativeText(), {}, box.checkBox() != nullptr, {}};
     for (const QAbstractButton *button : box.buttons())
         alert.buttons += button->text().remove(u'&');
-    const auto *picture = box.findChild<QWidget *>(QStringLiteral("accessoryView"));
+    const auto *picture = box.findChild<QWidget *>(u"accessoryView"_s);
     if (picture && picture->isVisible())
         alert.picture = picture->size();
     return alert;
@@ -103,49 +90,37 @@ bool AlertAnswerer::eventFilter(QObject *watched, QEvent *event)
 
 DialogDriver::DialogDriver(const QString &printer, const QStringList &options)
 {
-    CommandLine line = sampleDocument(options);
-    line.ppd = corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer);
-    line.output = m_folder.filePath(QStringLiteral("job.ps"));
-    open(line);
+    CommandLine line = smallDocument(options);
+    line.ppd = corvana::test::sourceFile(u"resources/ppd/%1.ppd"_s).arg(printer);
+    line.output = m_folder.filePath(u"job.ps"_s);
+    openAndDisclose(line);
 }
 
 DialogDriver::DialogDriver(const QueueAt &queue, const QStringList &options)
 {
-    CommandLine line = sampleDocument(options);
+    CommandLine line = smallDocument(options);
     line.server = queue.server;
     line.printer = queue.name;
-    open(line);
+    if (!queue.document.isEmpty())
+        line.documents = {queue.document};
+    openAndDisclose(line);
 }
 
-void DialogDriver::open(const CommandLine &line)
+void DialogDriver::openAndDisclose(const CommandLine &line)
 {
-    m_dialog = std::make_unique<PrintWindow>(request(line));
-    m_dialog->show();
-    const auto panelIsUp = [this] {
-        auto *pages = m_dialog->findChild<QTabWidget *>(QStringLiteral("pages"));
-        auto *page = qobject_cast<QScrollArea *>(pages->widget(1));
-        m_panel = page ? page->widget() : nullptr;
-        return !m_panel.isNull();
-    };
-    if (!QTest::qWaitForWindowExposed(m_dialog.get()) || !QTest::qWaitFor(panelIsUp, kPatience))
+    open(requestFor(line));
+    m_panel = waitForPanel(1);
+    if (m_panel.isNull())
         throw std::runtime_error("the panel does not come up");
     showPage(1);
-    auto *disclosure = control<QPushButton>(QStringLiteral("optionButton"));
+    auto *disclosure = control<QPushButton>(u"optionButton"_s);
     if (disclosure && !disclosure->isChecked())
         disclosure->click();
 }
 
-DialogDriver::~DialogDriver() = default;
-
-void DialogDriver::showPage(int page)
+DialogDriver::~DialogDriver()
 {
-    m_dialog->findChild<QTabWidget *>(QStringLiteral("pages"))->setCurrentIndex(page);
-    QCoreApplication::processEvents();
-}
-
-void DialogDriver::showLastPage()
-{
-    showPage(m_dialog->findChild<QTabWidget *>(QStringLiteral("pages"))->count() - 1);
+    destroyDialog();
 }
 
 bool DialogDriver::reach(QWidget *control)
@@ -154,7 +129,7 @@ bool DialogDriver::reach(QWidget *control)
         return false;
     if (control->isVisible())
         return true;
-    auto *rows = m_panel->findChild<QTableView *>(QStringLiteral("advancedTableView"));
+    auto *rows = m_panel->findChild<QTableView *>(u"advancedTableView"_s);
     for (int row = 0; rows && rows->isVisible() && row < rows->model()->rowCount(); ++row) {
         rows->selectRow(row);
         if (control->isVisible())
@@ -173,7 +148,7 @@ QStringList DialogDriver::offered(const QWidget *control)
         for (int row = 0; row < matrix->numberOfRows(); ++row)
             choices += matrix->representedObject(row).toString();
     } else if (qobject_cast<const QCheckBox *>(control)) {
-        choices = {QStringLiteral("OFF"), QStringLiteral("ON")};
+        choices = {u"OFF"_s, u"ON"_s};
     } else if (const auto *slider = qobject_cast<const QSlider *>(control)) {
         for (int step = slider->minimum(); step <= slider->maximum(); ++step)
             choices += QString::number(step);
@@ -210,26 +185,12 @@ bool DialogDriver::choose(QWidget *control, const QString &choice)
     return chosen(control) == choice;
 }
 
-QString DialogDriver::message() const
-{
-    const auto *bar = m_dialog->findChild<QWidget *>(QStringLiteral("message"));
-    const auto *text = m_dialog->findChild<QLabel *>(QStringLiteral("messageText"));
-    return bar->isVisible() ? text->text() : QString();
-}
-
 QMap<QString, QString> DialogDriver::summary()
 {
-    showLastPage();
-    const auto *table = m_dialog->findChild<QTableWidget *>(QStringLiteral("summary"));
     QMap<QString, QString> lines;
-    for (int row = 0; row < table->rowCount(); ++row)
-        lines.insert(table->item(row, 0)->text(), table->item(row, 1)->text());
+    for (const auto &[title, value] : summaryLines())
+        lines.insert(title, value);
     return lines;
-}
-
-void DialogDriver::pressPrint()
-{
-    m_dialog->findChild<QPushButton *>(QStringLiteral("print"))->click();
 }
 
 bool DialogDriver::somethingWasWritten() const
@@ -239,16 +200,16 @@ bool DialogDriver::somethingWasWritten() const
 
 QString DialogDriver::waitForReport()
 {
-    const bool closed = QTest::qWaitFor([this] { return !m_dialog->isVisible(); }, kPatience);
-    return closed ? m_dialog->report() : QString();
+    const bool closed = QTest::qWaitFor([this] { return !dialog().isVisible(); }, kWindowPatience);
+    return closed ? dialog().report() : QString();
 }
 
 QByteArray DialogDriver::print()
 {
     pressPrint();
-    if (!QTest::qWaitFor([this] { return !m_dialog->printedTo().isEmpty(); }, kPatience))
+    if (!QTest::qWaitFor([this] { return !dialog().printedTo().isEmpty(); }, kWindowPatience))
         return {};
-    QFile file(m_dialog->printedTo());
+    QFile file(dialog().printedTo());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

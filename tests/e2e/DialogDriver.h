@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include <QByteArray>
 #include <QComboBox>
@@ -15,8 +14,7 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
-#include "dialog/app/CommandLine.h"
-#include "dialog/window/PrintWindow.h"
+#include "tests/dialog/support/WindowDriver.h"
 
 class QMessageBox;
 
@@ -53,6 +51,7 @@ struct QueueAt
 {
     QString server;
     QString name;
+    QString document{}; ///< what is printed; empty for two pages with hardly anything on them
 };
 
 /// The dialog for a sample printer or for a queue, shown, with its panels up, worked through its
@@ -60,7 +59,7 @@ struct QueueAt
 /// with OK.
 ///
 /// Settings that outlive a dialog are its caller's affair (XDG_CONFIG_HOME).
-class DialogDriver
+class DialogDriver : public WindowDriver
 {
 public:
     /// Opens the dialog on the page "Print Setting", with its advanced options disclosed. With
@@ -68,9 +67,8 @@ public:
     explicit DialogDriver(const QString &printer, const QStringList &options = {});
     /// The same for a queue, whose PPD is asked for first.
     explicit DialogDriver(const QueueAt &queue, const QStringList &options = {});
-    ~DialogDriver();
+    ~DialogDriver() override;
 
-    PrintWindow &dialog() { return *m_dialog; }
     AlertAnswerer &alerts() { return m_alerts; }
     /// The view of the Print Setting panel.
     QWidget *panel() const { return m_panel; }
@@ -80,8 +78,6 @@ public:
         return m_panel->findChild<Control *>(name);
     }
 
-    void showPage(int page);
-    void showLastPage();
     /// Selects the row of the advanced options that shows the control. False when none does, and it
     /// does not stand on the main part either: no user can get at it.
     bool reach(QWidget *control);
@@ -94,12 +90,8 @@ public:
     /// Chooses as a user does. False when the control does not offer the choice or is disabled.
     static bool choose(QWidget *control, const QString &choice);
 
-    /// What the message bar says; null when it is not there.
-    QString message() const;
     /// The lines of the page "Summary", value by title. It stays the current page.
     QMap<QString, QString> summary();
-    /// Presses Print, without waiting for anything.
-    void pressPrint();
     /// Whether there is anything where the job is printed to.
     bool somethingWasWritten() const;
     /// Presses Print and answers the data that the printer would get; null when nothing was
@@ -110,11 +102,10 @@ public:
     QString waitForReport();
 
 private:
-    void open(const CommandLine &line);
+    void openAndDisclose(const CommandLine &line);
 
     QTemporaryDir m_folder;
     AlertAnswerer m_alerts;
-    std::unique_ptr<PrintWindow> m_dialog;
     QPointer<QWidget> m_panel;
 };
 

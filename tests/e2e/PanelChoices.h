@@ -13,6 +13,8 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 /// An option of the Print Setting panel and the control that it is chosen with.
 struct PanelOption
 {
@@ -42,8 +44,8 @@ QString chooseAll(DialogDriver &driver, const PanelJob &job);
 /// How the panels call the two choices of a check box in a summary.
 struct OnOffTexts
 {
-    QString on = QStringLiteral("On");
-    QString off = QStringLiteral("Off");
+    QString on = u"On"_s;
+    QString off = u"Off"_s;
 };
 
 /// Compares a summary with the texts that the PPD has for the choices. Null, or the first line that

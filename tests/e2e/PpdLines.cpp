@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 namespace {
@@ -19,7 +21,7 @@ QRegularExpression lineOf(const char *pattern)
 
 PpdLines::PpdLines(const QString &printer, const QString &language)
 {
-    QFile file(corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer));
+    QFile file(corvana::test::sourceFile(u"resources/ppd/%1.ppd"_s).arg(printer));
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("there is no PPD of " + printer.toStdString());
     const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
@@ -86,7 +88,7 @@ std::optional<PpdLines::Numbers> PpdLines::numbers(const QString &keyword,
     if (!m_numbers.contains(name))
         return std::nullopt;
     Numbers numbers = m_numbers.value(name);
-    numbers.text = m_translations.value(QStringLiteral("ParamCustom%1").arg(name), numbers.text);
+    numbers.text = m_translations.value(u"ParamCustom%1"_s.arg(name), numbers.text);
     return numbers;
 }
 

@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 namespace {
@@ -21,21 +23,20 @@ constexpr int kPatience = 30000; // milliseconds that a run may take on a busy m
 
 QByteArray RunEnd::text() const
 {
-    return QStringLiteral("status %1\n%2%3").arg(status).arg(out, err).toUtf8();
+    return u"status %1\n%2%3"_s.arg(status).arg(out, err).toUtf8();
 }
 
 ProgramRun::ProgramRun(const QProcessEnvironment &environment, const QStringList &arguments,
                        const QString &standardInput)
 {
     m_process.setProcessEnvironment(environment);
-    m_process.setWorkingDirectory(environment.value(QStringLiteral("HOME")));
+    m_process.setWorkingDirectory(environment.value(u"HOME"_s));
     m_process.setStandardInputFile(standardInput.isEmpty() ? QProcess::nullDevice()
                                                            : standardInput);
     // In a session of its own, which no terminal controls, wherever the tests are run from.
     m_process.setChildProcessModifier([] { ::setsid(); });
     m_process.start(QStringLiteral(CORVANA_TEST_PROGRAM),
-                    QStringList{QStringLiteral("--no-dialog"), QStringLiteral("--bundle-root"),
-                                corvana::test::bundleRoot()} +
+                    QStringList{u"--no-dialog"_s, u"--bundle-root"_s, corvana::test::bundleRoot()} +
                         arguments);
     if (!m_process.waitForStarted())
         throw std::runtime_error("the program cannot be started");
@@ -99,8 +100,8 @@ ProgramRunner::ProgramRunner(const QString &server)
                              "WAYLAND_DISPLAY", "QT_LOGGING_RULES", "CORVANA_PRINT_PATIENCE",
                              "CORVANA_PRINT_CUPSFILTER", "QT_QPA_PLATFORM"})
         m_environment.remove(QString::fromLatin1(name));
-    setVariable(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    setVariable(QStringLiteral("HOME"), m_home.path());
+    setVariable(u"LC_ALL"_s, u"C.UTF-8"_s);
+    setVariable(u"HOME"_s, m_home.path());
     for (const char *name :
          {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
         const QString folder = filePath(QString::fromLatin1(name));
@@ -108,11 +109,11 @@ ProgramRunner::ProgramRunner(const QString &server)
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         setVariable(QString::fromLatin1(name), folder);
     }
-    setVariable(QStringLiteral("CUPS_SERVER"), server);
-    setVariable(QStringLiteral("CUPS_SERVERROOT"), QStringLiteral("/nonexistent"));
+    setVariable(u"CUPS_SERVER"_s, server);
+    setVariable(u"CUPS_SERVERROOT"_s, u"/nonexistent"_s);
     // No desktop is there to be asked.
     for (const char *name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
-        setVariable(QString::fromLatin1(name), QStringLiteral("disabled:"));
+        setVariable(QString::fromLatin1(name), u"disabled:"_s);
 }
 
 void ProgramRunner::setVariable(const QString &name, const QString &value)
@@ -122,8 +123,8 @@ void ProgramRunner::setVariable(const QString &name, const QString &value)
 
 void ProgramRunner::setUserOptions(const QByteArray &lines)
 {
-    QDir(m_home.path()).mkpath(QStringLiteral(".cups"));
-    QFile file(filePath(QStringLiteral(".cups/lpoptions")));
+    QDir(m_home.path()).mkpath(u".cups"_s);
+    QFile file(filePath(u".cups/lpoptions"_s));
     if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size())
         throw std::runtime_error("lpoptions cannot be written");
 }
@@ -141,7 +142,7 @@ RunEnd ProgramRunner::run(const QStringList &arguments, const QString &standardI
 
 int jobNamed(const QString &queue, const QString &text)
 {
-    const QRegularExpression name(QRegularExpression::escape(queue) + QStringLiteral("-(\\d+)"));
+    const QRegularExpression name(QRegularExpression::escape(queue) + u"-(\\d+)"_s);
     return name.match(text).captured(1).toInt();
 }
 

@@ -1,8 +1,6 @@
 #include "tests/e2e/QueueDriver.h"
-#include "dialog/app/RequestFromCommandLine.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
 #include <QApplication>
@@ -13,7 +11,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
-#include <QTableWidget>
 #include <QTest>
 
 #include "dialog/window/CredentialsDialog.h"
@@ -21,6 +18,8 @@
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "tests/support/TestPaths.h"
+
+using namespace Qt::StringLiterals;
 
 namespace corvana::test {
 
@@ -37,11 +36,7 @@ PrintRequest requestOf(const QueueDriver::Start &start)
     line.options = start.options;
     line.copies = start.copies;
     line.bundleRoots = {corvana::test::bundleRoot()};
-    QString error;
-    PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());
-    if (!error.isEmpty())
-        throw std::runtime_error(error.toStdString());
-    return prepared;
+    return requestFor(line);
 }
 
 } // namespace
@@ -93,13 +88,12 @@ bool LoginAnswerer::eventFilter(QObject *watched, QEvent *event)
         QMetaObject::invokeMethod(
             dialog,
             [this, dialog] {
-                warned = dialog->findChild<QLabel *>(QStringLiteral("notEncrypted")) != nullptr;
+                warned = dialog->findChild<QLabel *>(u"notEncrypted"_s) != nullptr;
                 auto *buttons = dialog->findChild<QDialogButtonBox *>();
                 if (!answer)
                     return buttons->button(QDialogButtonBox::Cancel)->click();
-                dialog->findChild<QLineEdit *>(QStringLiteral("user"))->setText(answer->user);
-                dialog->findChild<QLineEdit *>(QStringLiteral("password"))
-                    ->setText(answer->password);
+                dialog->findChild<QLineEdit *>(u"user"_s)->setText(answer->user);
+                dialog->findChild<QLineEdit *>(u"password"_s)->setText(answer->password);
                 buttons->button(QDialogButtonBox::Ok)->click();
             },
             Qt::QueuedConnection);
@@ -110,14 +104,14 @@ bool LoginAnswerer::eventFilter(QObject *watched, QEvent *event)
 QueueDriver::QueueDriver(const Start &start)
 {
     m_heart.start();
-    m_dialog = std::make_unique<PrintWindow>(requestOf(start));
-    m_dialog->show();
-    if (!QTest::qWaitForWindowExposed(m_dialog.get()))
-        throw std::runtime_error("the window does not come up");
+    open(requestOf(start));
     m_heart.stop();
 }
 
-QueueDriver::~QueueDriver() = default;
+QueueDriver::~QueueDriver()
+{
+    destroyDialog();
+}
 
 bool QueueDriver::waitUntil(const std::function<bool()> &isSo, int milliseconds)
 {
@@ -129,13 +123,13 @@ bool QueueDriver::waitUntil(const std::function<bool()> &isSo, int milliseconds)
 
 bool QueueDriver::canPrint() const
 {
-    const auto *print = child<QPushButton>("print");
-    return print->isEnabled() && child<QSpinBox>("copies");
+    const auto *print = child<QPushButton>(u"print"_s);
+    return print->isEnabled() && child<QSpinBox>(u"copies"_s);
 }
 
 bool QueueDriver::isPrinting() const
 {
-    return m_dialog->isVisible() && child<QWidget>("progress")->isVisible();
+    return dialog().isVisible() && child<QWidget>(u"progress"_s)->isVisible();
 }
 
 bool QueueDriver::waitForTheEnd()
@@ -143,52 +137,37 @@ bool QueueDriver::waitForTheEnd()
     return waitUntil([this] { return !isPrinting(); }, 60000);
 }
 
-bool QueueDriver::press(const char *button)
+bool QueueDriver::press(const QString &button)
 {
-    auto *found = child<QPushButton>(button);
-    if (!found || !found->isVisible() || !found->isEnabled())
-        return false;
     m_heart.start();
-    found->click();
+    const bool pressed = WindowDriver::press(button);
     QCoreApplication::processEvents();
     m_heart.stop();
-    return true;
-}
-
-QString QueueDriver::labelText(const char *parent, const char *name) const
-{
-    const auto *holder = child<QWidget>(parent);
-    const auto *label = holder ? holder->findChild<QLabel *>(QString::fromLatin1(name)) : nullptr;
-    return label && label->isVisible() ? label->text() : QString();
-}
-
-QString QueueDriver::message() const
-{
-    return labelText("message", "messageText");
+    return pressed;
 }
 
 QString QueueDriver::status() const
 {
-    return child<PrinterStatusLine>("printerStatus")->text();
+    return child<PrinterStatusLine>(u"printerStatus"_s)->text();
 }
 
 QString QueueDriver::waiting() const
 {
-    const auto *page = child<QWidget>("waiting");
+    const auto *page = child<QWidget>(u"waiting"_s);
     const auto *label = page ? page->findChild<QLabel *>() : nullptr;
     return label ? label->text() : QString();
 }
 
 QString QueueDriver::progress() const
 {
-    return child<QLabel>("progressText")->text();
+    return child<QLabel>(u"progressText"_s)->text();
 }
 
 QString QueueDriver::footer()
 {
-    auto *box = child<PrinterComboBox>("printers");
+    auto *box = child<PrinterComboBox>(u"printers"_s);
     box->showPopup();
-    const auto *line = child<ElidedLabel>("printerFooter");
+    const auto *line = child<ElidedLabel>(u"printerFooter"_s);
     const QString text = line && line->isVisible() ? line->text() : QString();
     box->hidePopup();
     return text;
@@ -196,7 +175,7 @@ QString QueueDriver::footer()
 
 QStringList QueueDriver::printers() const
 {
-    const PrinterModel *model = child<PrinterComboBox>("printers")->printers();
+    const PrinterModel *model = child<PrinterComboBox>(u"printers"_s)->printers();
     QStringList names;
     for (int row = 0; row < model->rowCount(); ++row)
         names += model->data(model->index(row), Qt::DisplayRole).toString();
@@ -205,22 +184,22 @@ QStringList QueueDriver::printers() const
 
 QString QueueDriver::printer() const
 {
-    const std::optional<Printer> current = child<PrinterComboBox>("printers")->currentPrinter();
+    const std::optional<Printer> current = child<PrinterComboBox>(u"printers"_s)->currentPrinter();
     return current ? current->name : QString();
 }
 
 bool QueueDriver::isPrinterGone() const
 {
-    return child<PrinterComboBox>("printers")->isCurrentPrinterGone();
+    return child<PrinterComboBox>(u"printers"_s)->isCurrentPrinterGone();
 }
 
 void QueueDriver::changeSettings(bool twoSided)
 {
     m_heart.start();
-    child<QSpinBox>("copies")->setValue(3);
-    auto *ranges = child<QLineEdit>("pageRanges");
-    ranges->setText(QStringLiteral("1-2"));
-    auto *sides = child<QComboBox>("Duplex");
+    child<QSpinBox>(u"copies"_s)->setValue(3);
+    auto *ranges = child<QLineEdit>(u"pageRanges"_s);
+    ranges->setText(u"1-2"_s);
+    auto *sides = child<QComboBox>(u"Duplex"_s);
     if (sides && twoSided) {
         sides->setCurrentIndex(sides->count() - 1);
         Q_EMIT sides->activated(sides->currentIndex());
@@ -231,17 +210,13 @@ void QueueDriver::changeSettings(bool twoSided)
 
 QStringList QueueDriver::settings()
 {
-    auto *pages = child<QTabWidget>("pages");
-    const int current = pages->currentIndex();
-    pages->setCurrentIndex(pages->count() - 1);
-    QStringList lines{QStringLiteral("printer ") + printer(),
-                      QStringLiteral("file ") + child<QLineEdit>("output")->text(),
-                      QStringLiteral("copies ") + child<QSpinBox>("copies")->text(),
-                      QStringLiteral("pages ") + child<QLineEdit>("pageRanges")->text()};
-    const auto *table = child<QTableWidget>("summary");
-    for (int row = 0; row < table->rowCount(); ++row)
-        lines += table->item(row, 0)->text() + QStringLiteral(": ") + table->item(row, 1)->text();
-    pages->setCurrentIndex(current);
+    const int current = pages()->currentIndex();
+    QStringList lines{u"printer "_s + printer(), u"file "_s + child<QLineEdit>(u"output"_s)->text(),
+                      u"copies "_s + child<QSpinBox>(u"copies"_s)->text(),
+                      u"pages "_s + child<QLineEdit>(u"pageRanges"_s)->text()};
+    for (const auto &[title, value] : summaryLines())
+        lines += title + u": "_s + value;
+    showPage(current);
     return lines;
 }
 

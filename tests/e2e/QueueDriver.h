@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 
 #include <QElapsedTimer>
@@ -9,7 +8,6 @@
 #include <QStringList>
 #include <QTimer>
 
-#include "dialog/window/PrintWindow.h"
 #include "dialog/server/CredentialStore.h"
 #include "tests/e2e/DialogDriver.h"
 
@@ -62,7 +60,7 @@ public:
 ///
 /// Settings and caches that outlive a dialog are its caller's affair (XDG_CONFIG_HOME,
 /// XDG_CACHE_HOME).
-class QueueDriver
+class QueueDriver : public WindowDriver
 {
 public:
     struct Start
@@ -77,9 +75,8 @@ public:
     /// Opens the dialog and returns when its window is on the screen. Errors: throws
     /// std::runtime_error.
     explicit QueueDriver(const Start &start);
-    ~QueueDriver();
+    ~QueueDriver() override;
 
-    PrintWindow &dialog() { return *m_dialog; }
     Heartbeat &heart() { return m_heart; }
     LoginAnswerer &logins() { return m_logins; }
     AlertAnswerer &alerts() { return m_alerts; }
@@ -91,12 +88,11 @@ public:
     bool isPrinting() const;
     /// Waits until what Print began has ended, one way or the other.
     bool waitForTheEnd();
-    /// Presses the button of this name as a user does. False when it is not there, or disabled.
-    bool press(const char *button);
+    /// Presses the button of this name as a user does; the heart beats meanwhile.
+    bool press(const QString &button);
 
-    /// What a person reads: in the message bar, below the printer, in the place of the pages, and
-    /// beside the progress bar. Null when it is not there.
-    QString message() const;
+    /// What a person reads: below the printer, in the place of the pages, and beside the progress
+    /// bar. Null when it is not there.
     QString status() const;
     QString waiting() const;
     QString progress() const;
@@ -115,16 +111,9 @@ public:
     QStringList settings();
 
 private:
-    template <typename Child> Child *child(const char *name) const
-    {
-        return m_dialog->findChild<Child *>(QString::fromLatin1(name));
-    }
-    QString labelText(const char *parent, const char *name) const;
-
     AlertAnswerer m_alerts;
     LoginAnswerer m_logins;
     Heartbeat m_heart;
-    std::unique_ptr<PrintWindow> m_dialog;
 };
 
 } // namespace corvana::test

@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 namespace {
@@ -28,7 +30,7 @@ qint64 usualGap(const QList<qint64> &gaps)
 
 FaultPlayer::FaultPlayer()
     : m_document(m_folders.longDocument()),
-      m_largeDocument(m_folders.longDocument(QStringLiteral("large.ps"), kLargeDocument))
+      m_largeDocument(m_folders.longDocument(u"large.ps"_s, kLargeDocument))
 {
 }
 
@@ -77,8 +79,8 @@ void FaultPlayer::playOnce(const QueueFault &fault)
     QueueScene scene;
     if (fault.device)
         fault.device(scene.device);
-    scene.addQueue(fault.ppd.isEmpty() ? samplePpdPath(QStringLiteral("corvana-cl5"))
-                                       : m_folders.write(QStringLiteral("queue.ppd"), fault.ppd));
+    scene.addQueue(fault.ppd.isEmpty() ? samplePpdPath(u"corvana-cl5"_s)
+                                       : m_folders.write(u"queue.ppd"_s, fault.ppd));
     QStringList documents{m_document};
     if (fault.sends == QueueFault::Sends::SeveralDocuments)
         documents += m_document;
@@ -90,6 +92,8 @@ void FaultPlayer::playOnce(const QueueFault &fault)
     window.changeSettings();
     m_gaps.opening = window.heart().takeLargestGap();
     tryTwice(scene, fault);
+    if (fault.verify && !QTest::currentTestFailed())
+        fault.verify(scene);
     m_gaps.printing = window.heart().takeLargestGap();
 }
 
@@ -100,7 +104,7 @@ void FaultPlayer::tryTwice(QueueScene &scene, const QueueFault &fault)
         fault.arrange(scene);
     const QStringList settings = window.settings();
     window.heart().takeLargestGap();
-    QVERIFY(window.press("print"));
+    QVERIFY(window.press(u"print"_s));
     QVERIFY(!fault.strike == !fault.when);
     if (fault.strike) {
         QVERIFY2(window.waitUntil([&] { return fault.when(scene); }),
@@ -116,7 +120,7 @@ void FaultPlayer::tryTwice(QueueScene &scene, const QueueFault &fault)
     fault.mend(scene);
     if (fault.saysAgain.isEmpty())
         return;
-    QVERIFY(window.press("print"));
+    QVERIFY(window.press(u"print"_s));
     QVERIFY(window.waitForTheEnd());
     verifyEnd(scene, fault.saysAgain, fault.closesAgain, fault.jobsAgain, fault.documentsAgain);
     if (!fault.closesAgain)
@@ -139,8 +143,7 @@ void FaultPlayer::verifyEnd(QueueScene &scene, const QString &says, bool closes,
                                  [](const CapturedJob &job) { return !job.data.isEmpty(); }));
     };
     QTRY_COMPARE(arrived(), documents);
-    static const QRegularExpression printed(
-        QStringLiteral("Printed on|earlier try has been printed"));
+    static const QRegularExpression printed(u"Printed on|earlier try has been printed"_s);
     const bool claimed = printed.match(said + dialog.report()).hasMatch();
     QVERIFY2(!claimed || scene.states().contains(IPP_JSTATE_COMPLETED), qPrintable(said));
 }

@@ -10,8 +10,7 @@
 
 namespace corvana::test {
 
-/// What is said of a job of the queue "office" that was printed; %1 is its number.
-inline const QString kPrintedAs = QStringLiteral("Printed on “office” as job office-%1\\.");
+using namespace Qt::StringLiterals;
 
 /// A fault that meets somebody who prints, and what becomes of it.
 struct QueueFault
@@ -37,6 +36,7 @@ struct QueueFault
     States jobsAgain{};
     int documentsAgain = 0;
     Sends sends = Sends::OneDocument;
+    Act verify{}; ///< what else is so after the last try
 };
 
 /// Plays faults from the opening of a window to the second try, and watches whether the window

@@ -1,12 +1,15 @@
 #include "tests/e2e/QueueRuns.h"
 
+#include <QFile>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace corvana::test {
 
 CapturedJob QueueRuns::printed(const QString &queue, const QStringList &arguments)
 {
-    const RunEnd end = m_runner->run(QStringList{QStringLiteral("-d"), queue} + arguments);
+    const RunEnd end = m_runner->run(QStringList{u"-d"_s, queue} + arguments);
     [&] { QVERIFY2(end.status == 0, end.text().constData()); }();
     const QList<CapturedJob> jobs = m_cups->capture(queue).jobs();
     [&] { QCOMPARE(jobs.size(), 1); }();
@@ -36,6 +39,12 @@ void QueueRuns::cleanup()
 {
     m_runner.reset();
     m_cups.reset();
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QByteArray codeOf(const QByteArray &choice)

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 namespace {
@@ -16,11 +18,10 @@ constexpr auto kPatience = "2";
 
 UserFolders::UserFolders()
 {
-    const std::pair<const char *, QString> folders[] = {
-        {"HOME", QStringLiteral("home")},
-        {"XDG_CONFIG_HOME", QStringLiteral("config")},
-        {"XDG_CACHE_HOME", QStringLiteral("cache")},
-        {"XDG_DATA_HOME", QStringLiteral("data")}};
+    const std::pair<const char *, QString> folders[] = {{"HOME", u"home"_s},
+                                                        {"XDG_CONFIG_HOME", u"config"_s},
+                                                        {"XDG_CACHE_HOME", u"cache"_s},
+                                                        {"XDG_DATA_HOME", u"data"_s}};
     for (const auto &[name, folder] : folders) {
         if (!QDir(m_folder.path()).mkdir(folder))
             throw std::runtime_error("no temporary folder");
@@ -39,7 +40,7 @@ QString UserFolders::write(const QString &name, const QByteArray &content) const
 
 QString UserFolders::longDocument(const QString &name, int size) const
 {
-    const QString page = corvana::test::sourceFile(QStringLiteral("tests/data/page.ps"));
+    const QString page = corvana::test::sourceFile(u"tests/data/page.ps"_s);
     const QByteArray comment = "% A long document.\n";
     QByteArray document = contentOf(page);
     document.insert(document.indexOf("gsave"), comment.repeated(size / comment.size()));
@@ -56,7 +57,7 @@ QByteArray contentOf(const QString &path)
 
 QString samplePpdPath(const QString &printer)
 {
-    return corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer);
+    return corvana::test::sourceFile(u"resources/ppd/%1.ppd"_s).arg(printer);
 }
 
 bool matches(const QString &text, const QString &expression)

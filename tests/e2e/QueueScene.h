@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "tests/e2e/QueueDriver.h"
 #include "tests/support/cups/FaultyServer.h"
@@ -13,8 +15,18 @@
 
 namespace corvana::test {
 
+using namespace Qt::StringLiterals;
+
 /// The queue of a QueueScene.
-inline const QString kQueue = QStringLiteral("office");
+inline const QString kQueue = u"office"_s;
+/// The printer of a window that prints into files.
+inline const QString kFilePrinter = u"PostScript File"_s;
+
+// What the window says, as expressions: the beginning of a complaint about the server, the end of
+// one about a job, and the report of a job with that number.
+inline const QString kServer = u"The print server “127\\.0\\.0\\.1:[0-9]+” "_s;
+inline const QString kNothingPrinted = u" Nothing was printed\\."_s;
+inline const QString kPrintedAs = u"Printed on “office” as job office-%1\\."_s;
 
 /// A user's folders for the time of a test program: home, preferences and caches are empty, and
 /// servers are waited for two seconds. One for a program, before any window.
@@ -28,8 +40,7 @@ public:
     /// Writes a file and answers its path. Errors: throws std::runtime_error.
     QString write(const QString &name, const QByteArray &content) const;
     /// Writes a page of PostScript that is longer than what is sent in one piece. Units: bytes.
-    QString longDocument(const QString &name = QStringLiteral("document.ps"),
-                         int size = 600000) const;
+    QString longDocument(const QString &name = u"document.ps"_s, int size = 600000) const;
 
 private:
     QTemporaryDir m_folder;
@@ -49,7 +60,7 @@ struct QueueScene
     explicit QueueScene(const CupsSettings &settings = {});
 
     /// Adds the queue "office", a printer with panels that prints to `device`.
-    void addQueue(const QString &ppdPath = samplePpdPath(QStringLiteral("corvana-cl5")));
+    void addQueue(const QString &ppdPath = samplePpdPath(u"corvana-cl5"_s));
     /// Opens the window; without a printer that is named where `printer` is empty.
     void open(const QStringList &documents, const QString &printer = kQueue);
     /// The states of all jobs, by their numbers.
@@ -64,6 +75,30 @@ struct QueueScene
     FaultyServer between;
     CaptureDevice device;
     std::unique_ptr<QueueDriver> window;
+};
+
+/// What tests of one queue set up: folders of a user, a document, and a window whose settings are
+/// not what it comes with.
+class QueueFixture : public QObject
+{
+protected:
+    void makeFolders()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        m_folders.emplace();
+        m_document = m_folders->longDocument();
+    }
+    void open(QueueScene &scene)
+    {
+        scene.addQueue();
+        scene.open({m_document});
+        QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
+        scene.window->changeSettings();
+    }
+
+    std::optional<UserFolders> m_folders;
+    QString m_document;
 };
 
 } // namespace corvana::test

@@ -14,6 +14,8 @@
 #include <QTextEdit>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 namespace {
@@ -27,14 +29,13 @@ public:
 
     void visit(QWidget *widget)
     {
-        const QString name =
-            QStringLiteral("%1 \"%2\"")
-                .arg(QString::fromLatin1(widget->metaObject()->className()), widget->objectName());
-        guessed(name + QStringLiteral(" tool tip"), widget->toolTip());
-        guessed(name + QStringLiteral(" what's this"), widget->whatsThis());
+        const QString name = u"%1 \"%2\""_s.arg(
+            QString::fromLatin1(widget->metaObject()->className()), widget->objectName());
+        guessed(name + u" tool tip"_s, widget->toolTip());
+        guessed(name + u" what's this"_s, widget->whatsThis());
         for (const QAction *action : widget->actions()) {
-            guessed(name + QStringLiteral(" action"), action->toolTip());
-            guessed(name + QStringLiteral(" action"), action->whatsThis());
+            guessed(name + u" action"_s, action->toolTip());
+            guessed(name + u" action"_s, action->whatsThis());
         }
         if (const auto *label = qobject_cast<const QLabel *>(widget))
             visitLabel(name, *label);
@@ -57,8 +58,7 @@ public:
     {
         QHelpEvent event(QEvent::ToolTip, at, widget->mapToGlobal(at));
         QApplication::sendEvent(widget, &event);
-        guessed(QString::fromLatin1(widget->metaObject()->className()) +
-                    QStringLiteral(" under the pointer"),
+        guessed(QString::fromLatin1(widget->metaObject()->className()) + u" under the pointer"_s,
                 QToolTip::text());
         QToolTip::hideText();
     }
@@ -71,7 +71,7 @@ private:
     }
     void rich(const QString &where, const QString &text)
     {
-        found.rich += QStringLiteral("%1: %2").arg(where, text);
+        found.rich += u"%1: %2"_s.arg(where, text);
     }
 
     // A text of which Qt guesses what it is.
@@ -108,8 +108,8 @@ private:
     {
         for (int tab = 0; tab < tabs.count(); ++tab) {
             shownPlain(tabs.tabText(tab));
-            guessed(name + QStringLiteral(" tab"), tabs.tabToolTip(tab));
-            guessed(name + QStringLiteral(" tab"), tabs.tabWhatsThis(tab));
+            guessed(name + u" tab"_s, tabs.tabToolTip(tab));
+            guessed(name + u" tab"_s, tabs.tabWhatsThis(tab));
         }
     }
 
@@ -121,8 +121,8 @@ private:
             for (int column = 0; column < model->columnCount(parent); ++column) {
                 const QModelIndex item = model->index(row, column, parent);
                 shownPlain(item.data().toString());
-                guessed(name + QStringLiteral(" item"), item.data(Qt::ToolTipRole).toString());
-                guessed(name + QStringLiteral(" item"), item.data(Qt::WhatsThisRole).toString());
+                guessed(name + u" item"_s, item.data(Qt::ToolTipRole).toString());
+                guessed(name + u" item"_s, item.data(Qt::WhatsThisRole).toString());
                 visitItems(name, model, item);
             }
         }

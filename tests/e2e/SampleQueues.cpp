@@ -5,12 +5,14 @@
 #include "tests/e2e/ProgramRunner.h"
 #include "tests/support/TestPaths.h"
 
+using namespace Qt::StringLiterals;
+
 namespace corvana::test {
 
 SampleQueues::SampleQueues()
 {
-    qputenv("XDG_CONFIG_HOME", m_home.filePath(QStringLiteral("config")).toLocal8Bit());
-    qputenv("XDG_CACHE_HOME", m_home.filePath(QStringLiteral("cache")).toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", m_home.filePath(u"config"_s).toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", m_home.filePath(u"cache"_s).toLocal8Bit());
     m_cups.start();
     for (const QString &printer : printers())
         m_cups.addQueue(printer, ppdOf(printer));
@@ -18,26 +20,26 @@ SampleQueues::SampleQueues()
 
 QStringList SampleQueues::printers()
 {
-    return {QStringLiteral("corvana-cl2"), QStringLiteral("corvana-cl3"),
-            QStringLiteral("corvana-cl4"), QStringLiteral("corvana-cl5"),
-            QStringLiteral("corvana-mf4"), QStringLiteral("corvana-ml3")};
+    return {u"corvana-cl2"_s, u"corvana-cl3"_s, u"corvana-cl4"_s,
+            u"corvana-cl5"_s, u"corvana-mf4"_s, u"corvana-ml3"_s};
 }
 
 QString SampleQueues::ppdOf(const QString &printer)
 {
-    return corvana::test::sourceFile(QStringLiteral("resources/ppd/%1.ppd")).arg(printer);
+    return corvana::test::sourceFile(u"resources/ppd/%1.ppd"_s).arg(printer);
 }
 
-std::unique_ptr<DialogDriver> SampleQueues::open(const QString &printer, const QStringList &options)
+std::unique_ptr<DialogDriver> SampleQueues::open(const QString &printer, const QStringList &options,
+                                                 const QString &document)
 {
-    return std::make_unique<DialogDriver>(QueueAt{m_cups.server(), printer}, options);
+    return std::make_unique<DialogDriver>(QueueAt{m_cups.server(), printer, document}, options);
 }
 
 QByteArray SampleQueues::printedBy(DialogDriver &driver, const QString &printer)
 {
     const QString report = driver.waitForReport();
     const int id = jobNamed(printer, report);
-    if (report != QStringLiteral("Printed on “%1” as job %1-%2.").arg(printer).arg(id) ||
+    if (report != u"Printed on “%1” as job %1-%2."_s.arg(printer).arg(id) ||
         m_cups.job(id).state != IPP_JSTATE_COMPLETED)
         return {};
     const QList<CapturedJob> jobs = m_cups.capture(printer).jobs();

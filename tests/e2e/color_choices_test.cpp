@@ -28,7 +28,7 @@ constexpr int kMonochromeEffects = 2;
 
 template <typename Control> Control *colorControl(DialogDriver &driver, const QString &name)
 {
-    return driver.dialog().findChild<Control *>(name);
+    return driver.child<Control>(name);
 }
 
 // Once, and nothing else of the option.

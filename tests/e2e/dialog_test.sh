@@ -19,9 +19,9 @@ choicesOfTheGeneralPageByKeyboardReachThePrinter() {
     print_in_dialog
     expect_code Duplex=DuplexNoTumble PageSize=Letter QXOutput=FAX \
         AP_ColorMatchingMode=AP_ApplicationColorMatching
-    expect_lines 'Copies: 3' 'Two-Sided Printing: Long-Edge Binding' 'Paper Size: US Letter' \
+    expect_lines 'Copies: 3, collated' 'Two-Sided Printing: Long-Edge Binding' 'Paper Size: US Letter' \
         'Output To: Fax' 'Colors Matched By: Application'
-    grep -aq '^%RBINumCopies: 3$' "$output" || fail 'the number of copies is missing'
+    expect_equal "$(grep -ac '^%%Page: ' "$output")" 9 # each copy after the other
 }
 
 printChoicesByKeyboardReachThePrinter() {
@@ -145,7 +145,7 @@ theDialogKeepsEverythingWhenPrintingFailsAndPrintsAtTheNextTry() {
     print_in_dialog
     expect_code Duplex=DuplexNoTumble QXMediaType=Thin QXColorMatching=Vivid QXInputSlot=Tray1
     # Both tries told the same.
-    expect_equal "$(grep -c '^Copies: 2$' "$work/out")" 2
+    expect_equal "$(grep -c '^Copies: 2, collated$' "$work/out")" 2
     expect_equal "$(grep -c '^Color Matching: Vivid$' "$work/out")" 2
 }
 

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "tests/e2e/ProgramRunner.h"
+#include "tests/e2e/QueueRuns.h"
 #include "tests/support/TestPaths.h"
 #include "tests/support/cups/FaultyServer.h"
 #include "tests/support/cups/IppEvePrinter.h"
@@ -15,19 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPages = corvana::test::sourceFile(QStringLiteral("tests/data/pages.pdf"));
-const QString kThreePages =
-    corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
-const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
-const QString kPicture = corvana::test::sourceFile(QStringLiteral("tests/data/page.png"));
-const QString kPhoto = corvana::test::sourceFile(QStringLiteral("tests/data/page.jpg"));
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+const QString kPages = corvana::test::sourceFile(u"tests/data/pages.pdf"_s);
+const QString kPhoto = corvana::test::sourceFile(u"tests/data/page.jpg"_s);
 
 /// What pdfinfo says of a PDF.
 QString infoOf(const QByteArray &pdf, const QString &what)
@@ -98,7 +88,7 @@ private Q_SLOTS:
                                        u"Übersicht"_s, u"-o"_s, u"media=Legal"_s, document});
         QVERIFY2(end.status == 0, end.text().constData());
         QVERIFY2(end.out.startsWith(u"Printed on “"_s), end.text().constData());
-        QCOMPARE(printer.documents(), QList{contentOf(document)});
+        QCOMPARE(printer.documents(), QList{readAll(document)});
         QCOMPARE(jobValue(printer, "job-state"), u"completed"_s);
         QCOMPARE(jobValue(printer, "job-name"), u"Übersicht"_s);
         QCOMPARE(jobValue(printer, "job-originating-user-name"), QString::fromUtf8(cupsUser()));
@@ -233,7 +223,7 @@ private Q_SLOTS:
                                .run({u"-d"_s, u"everywhere"_s, u"-t"_s, u"Übersicht"_s, kPages});
         QVERIFY2(end.status == 0, end.text().constData());
         QCOMPARE(end.out, u"Printed on “everywhere” as job everywhere-1.\n"_s);
-        QCOMPARE(printer.documents(), QList{contentOf(kPages)});
+        QCOMPARE(printer.documents(), QList{readAll(kPages)});
         QVERIFY(jobValue(printer, "job-name").contains(u"Übersicht"_s));
     }
 

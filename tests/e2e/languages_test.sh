@@ -63,19 +63,19 @@ theSummaryIsToldInThreeLanguages() {
     local lines
     print "${choices[@]}"
     expect_printed
-    expect_lines 'Copies: 2' 'Two-Sided Printing: Long-Edge Binding' 'Media Type: Thick Paper' \
+    expect_lines 'Copies: 2, collated' 'Two-Sided Printing: Long-Edge Binding' 'Media Type: Thick Paper' \
         'Color Mode: Color' 'Print Gray with Black Toner Only: On' "Printed to $output"
     lines=$(wc -l <"$work/out")
     in_language ja_JP
     print "${choices[@]}"
     expect_printed
-    expect_lines '部数: 2' '両面印刷: 長辺とじ' '用紙の種類: 厚紙' 'カラーモード: カラー' \
+    expect_lines '部数: 2（部単位）' '両面印刷: 長辺とじ' '用紙の種類: 厚紙' 'カラーモード: カラー' \
         'グレーを黒トナーのみで印刷: する' "$output に出力しました"
     expect_equal "$(wc -l <"$work/out")" "$lines"
     in_language zh_CN
     print "${choices[@]}"
     expect_printed
-    expect_lines '份数: 2' '介质类型: 厚纸' '灰色仅用黑色墨粉打印: 开' "已输出到 $output"
+    expect_lines '份数: 2（逐份打印）' '介质类型: 厚纸' '灰色仅用黑色墨粉打印: 开' "已输出到 $output"
     expect_equal "$(wc -l <"$work/out")" "$lines"
 }
 

@@ -69,15 +69,15 @@ class MarkupTextsTest : public QObject
 private:
     QTemporaryDir m_folder;
     AlertAnswerer m_alerts;
-    std::unique_ptr<PrintWindow> m_dialog;
+    std::unique_ptr<WindowDriver> m_window;
     QStringList m_rich;
     int m_boxes = 0;
 
     template <typename Control> Control *control(const QString &name) const
     {
-        return m_dialog->findChild<Control *>(name);
+        return m_window->child<Control>(name);
     }
-    QTabWidget *pages() const { return control<QTabWidget>(u"pages"_s); }
+    QTabWidget *pages() const { return m_window->pages(); }
 
     void open(bool withPanels)
     {
@@ -104,9 +104,7 @@ private:
         request.bundleRoots = withPanels ? QStringList{bundleRoot()} : QStringList();
         request.printers = {printer, printer};
         request.printers[1].name = u"other"_s;
-        m_dialog = std::make_unique<PrintWindow>(request);
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+        m_window = std::make_unique<WindowDriver>(request);
         QTRY_VERIFY(pages()->count() > 2);
         QCoreApplication::processEvents();
     }
@@ -139,7 +137,7 @@ private Q_SLOTS:
             box.buttons().constLast()->click();
         };
     }
-    void cleanup() { m_dialog.reset(); }
+    void cleanup() { m_window.reset(); }
 
     void aPrinterWithPanels()
     {

@@ -12,10 +12,10 @@ everyMainChoiceReachesThePrinterInsteadOfItsDefault() {
     print -n 2 -o "${choices[*]}"
     expect_printed
     expect_code "${choices[@]}"
-    expect_lines 'Copies: 2' 'Paper Size: US Letter' 'Two-Sided Printing: Long-Edge Binding' \
+    expect_lines 'Copies: 2, collated' 'Paper Size: US Letter' 'Two-Sided Printing: Long-Edge Binding' \
         'Paper Source: Tray 1' 'Media Type: Thick Paper' 'Resolution: 1200 dpi' 'Color Mode: Color' \
         'Output To: Fax' 'Colors Matched By: Application'
-    grep -aq '^%RBINumCopies: 2$' "$output" || fail 'the number of copies is missing'
+    expect_equal "$(grep -ac '^%%Page: ' "$output")" 6 # each copy after the other
 }
 
 # Gray with black toner only rules out enhanced black, so it needs a run of its own.

@@ -29,8 +29,7 @@ private:
     // The panels' texts as translators write them.
     void readTexts(const QString &table)
     {
-        QFile file(
-            corvana::test::sourceFile(QStringLiteral("resources/bundle/strings/%1.ts")).arg(table));
+        QFile file(corvana::test::sourceFile(u"resources/bundle/strings/%1.ts"_s).arg(table));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QXmlStreamReader xml(&file);
         QString key;
@@ -63,7 +62,7 @@ private Q_SLOTS:
         const bool chinese = locale.startsWith(u"zh_CN"_s);
         m_language = japanese ? u"ja"_s : chinese ? u"zh_CN"_s : u"en"_s;
         readTexts(japanese ? u"Japanese"_s : chinese ? u"zh_CN"_s : u"English"_s);
-        installTranslations(*qApp, corvana::test::sharedFile(QStringLiteral("translations")));
+        installTranslations(*qApp, corvana::test::sharedFile(u"translations"_s));
     }
     // Nothing is silenced when a test begins.
     void init()
@@ -135,7 +134,7 @@ private Q_SLOTS:
         const PpdLines ppd(printer, m_language);
         DialogDriver driver(printer);
         driver.showPage(0);
-        auto *sizes = driver.dialog().findChild<QComboBox *>(u"PageSize"_s);
+        auto *sizes = driver.child<QComboBox>(u"PageSize"_s);
         sizes->setCurrentText(ppd.text(u"PageSize"_s, u"EnvDL"_s));
         Q_EMIT sizes->activated(sizes->currentIndex());
         QTRY_COMPARE(driver.alerts().seen.size(), 1);
@@ -264,7 +263,7 @@ private Q_SLOTS:
         };
         {
             DialogDriver driver(u"corvana-cl5"_s);
-            auto *button = driver.dialog().findChild<QToolButton *>(u"silencedAlerts"_s);
+            auto *button = driver.child<QToolButton>(u"silencedAlerts"_s);
             QVERIFY(!button->isVisible());
             driver.alerts().answer = [](QMessageBox &box) {
                 if (box.checkBox())
@@ -281,7 +280,7 @@ private Q_SLOTS:
         }
         // The next dialog knows of it.
         DialogDriver driver(u"corvana-cl5"_s);
-        auto *button = driver.dialog().findChild<QToolButton *>(u"silencedAlerts"_s);
+        auto *button = driver.child<QToolButton>(u"silencedAlerts"_s);
         QVERIFY(button->isVisible());
         chooseAgain(driver, u"Thick"_s);
         QCOMPARE(driver.alerts().seen.size(), 0);

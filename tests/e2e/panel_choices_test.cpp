@@ -66,7 +66,7 @@ private Q_SLOTS:
         m_language = QString::fromLatin1(qgetenv("LC_ALL").left(5)).section(u'.', 0, 0);
         if (m_language == u"ja_JP"_s)
             m_language = u"ja"_s;
-        installTranslations(*qApp, corvana::test::sharedFile(QStringLiteral("translations")));
+        installTranslations(*qApp, corvana::test::sharedFile(u"translations"_s));
     }
 
     void everyChoiceReachesThePrinterAndTheSummary_data()
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTest::newRow("corvana-cl5") << 35;
         QTest::newRow("corvana-mf4") << 20;
         QTest::newRow("corvana-ml3") << 10;
-        const QStringList files = QDir(corvana::test::sourceFile(QStringLiteral("resources/ppd")))
+        const QStringList files = QDir(corvana::test::sourceFile(u"resources/ppd"_s))
                                       .entryList({u"*.ppd"_s}, QDir::Files);
         QCOMPARE(files.size(), 6);
     }

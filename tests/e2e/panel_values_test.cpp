@@ -223,7 +223,7 @@ private Q_SLOTS:
         const PpdLines ppd(printer, u"en"_s);
         DialogDriver driver(printer);
         driver.showPage(0);
-        auto *popUp = driver.dialog().findChild<QComboBox *>(other);
+        auto *popUp = driver.child<QComboBox>(other);
         popUp->setCurrentText(ppd.text(other, otherChoice));
         Q_EMIT popUp->activated(popUp->currentIndex());
         driver.showPage(1);

@@ -20,9 +20,6 @@ using States = QList<int>;
 
 const Credentials kRight{u"lisa"_s, u"right"_s};
 const Credentials kWrong{u"lisa"_s, u"wrong"_s};
-const QString kServer = u"The print server “127\\.0\\.0\\.1:[0-9]+” "_s;
-const QString kNothingPrinted = u" Nothing was printed\\."_s;
-const QString kPrintedAs = u"Printed on “office” as job office-%1\\."_s;
 
 CupsSettings onlyTls()
 {
@@ -35,22 +32,11 @@ CupsSettings onlyTls()
 
 /// Print servers and printers that want to know who prints, and those that want to be spoken to in
 /// secret: how often somebody is asked, and what is said.
-class QueueAccessTest : public QObject
+class QueueAccessTest : public QueueFixture
 {
     Q_OBJECT
 
 private:
-    std::optional<UserFolders> m_folders;
-    QString m_document;
-
-    void open(QueueScene &scene)
-    {
-        scene.addQueue();
-        scene.open({m_document});
-        QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
-        scene.window->changeSettings();
-    }
-
     static void verifyPrinted(QueueScene &scene, int job)
     {
         QVERIFY(scene.window->waitForTheEnd());
@@ -68,13 +54,7 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_folders.emplace();
-        m_document = m_folders->longDocument();
-    }
+    void initTestCase() { makeFolders(); }
 
     void cleanup() { cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED); }
 
@@ -92,7 +72,7 @@ private Q_SLOTS:
         open(scene);
         scene.between.askForPassword(kRight.user, kRight.password, operation);
         scene.window->logins().answer = kRight;
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyPrinted(scene, 1);
         QCOMPARE(scene.window->logins().asked, 1);
         QVERIFY(!scene.window->logins().warned); // it does not leave the machine
@@ -105,9 +85,9 @@ private Q_SLOTS:
         open(scene);
         scene.between.askForPassword(kRight.user, kRight.password, IPP_OP_CREATE_JOB);
         scene.window->logins().answer = kRight;
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyFailed(scene, u"Job office-1 failed.*"_s);
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyFailed(scene, u"Job office-2 failed.*"_s);
         QCOMPARE(scene.window->logins().asked, 1);
     }
@@ -133,13 +113,13 @@ private Q_SLOTS:
         LoginAnswerer &logins = scene.window->logins();
         if (!canceled)
             logins.answer = kWrong;
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyFailed(scene, says);
         QCOMPARE(logins.asked, 1);
         QCOMPARE(scene.states(), States());
         QCOMPARE(scene.window->settings(), settings);
         logins.answer = kRight;
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyPrinted(scene, 1);
         QCOMPARE(logins.asked, 2);
     }
@@ -157,16 +137,16 @@ private Q_SLOTS:
             return matches(window.waiting(), kServer + u"wants a user and a password\\."_s);
         }));
         QCOMPARE(window.logins().asked, 0);
-        QVERIFY(window.press("retry"));
+        QVERIFY(window.press(u"retry"_s));
         QVERIFY(window.waitUntil([&] {
             return matches(window.waiting(),
                            kServer + u"does not accept this user and password\\."_s);
         }));
         QCOMPARE(window.logins().asked, 1);
         window.logins().answer = kRight;
-        QVERIFY(window.press("retry"));
+        QVERIFY(window.press(u"retry"_s));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         verifyPrinted(scene, 1);
         QCOMPARE(window.logins().asked, 2);
     }
@@ -183,7 +163,7 @@ private Q_SLOTS:
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
 
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         verifyFailed(scene,
                      u"The printer “office” wants a user and a password; none was given\\."_s +
                          kNothingPrinted);
@@ -191,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(scene.states(), States());
 
         window.logins().answer = kRight;
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         verifyPrinted(scene, 1);
         QCOMPARE(window.logins().asked, 2);
         if (::getuid() != 0)
@@ -216,7 +196,7 @@ private Q_SLOTS:
         const QString says = u"The printer “office” does not accept this user and password\\. Job "
                              "office-%1 was canceled; nothing was printed\\."_s;
         for (const int job : {1, 2}) {
-            QVERIFY(window.press("print"));
+            QVERIFY(window.press(u"print"_s));
             verifyFailed(scene, says.arg(job));
             QCOMPARE(window.logins().asked, job);
         }
@@ -230,7 +210,7 @@ private Q_SLOTS:
         scene.between.askForEncryption();
         scene.open({m_document});
         QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyPrinted(scene, 1);
         QVERIFY(scene.between.upgrades() > 0);
         QCOMPARE(scene.between.count(IPP_OP_SEND_DOCUMENT), 0); // none that others could read
@@ -243,7 +223,7 @@ private Q_SLOTS:
         cupsSetEncryption(HTTP_ENCRYPTION_ALWAYS); // as the user's client.conf says
         scene.open({m_document});
         QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyPrinted(scene, 1);
     }
 
@@ -263,7 +243,7 @@ private Q_SLOTS:
         for (const QString &name : keys.entryList(QDir::Files))
             QVERIFY(QFile::remove(keys.filePath(name)));
         scene.cups.start();
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         verifyFailed(scene,
                      u"The certificate of the print server “127\\.0\\.0\\.1:[0-9]+” is not the "
                      "one that it had before: .* remove the line “127\\.0\\.0\\.1:[0-9]+” "

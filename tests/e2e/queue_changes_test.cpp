@@ -18,10 +18,6 @@ namespace {
 using States = QList<int>;
 using Manner = FaultyServer::Manner;
 
-const QString kServer = u"The print server “127\\.0\\.0\\.1:[0-9]+” "_s;
-const QString kNothingPrinted = u" Nothing was printed\\."_s;
-const QString kPrintedAs = u"Printed on “office” as job office-%1\\."_s;
-const QString kFilePrinter = u"PostScript File"_s;
 /// How late a change of the queues may show. Units: milliseconds.
 constexpr int kSeconds = 8000;
 /// After this time a server that is away is asked again by itself. Units: milliseconds.
@@ -32,25 +28,14 @@ constexpr qint64 kLongestGap = 250 * kSlowdown;
 } // namespace
 
 /// Queues that change, go, come back or are late while the window is open.
-class QueueChangesTest : public QObject
+class QueueChangesTest : public QueueFixture
 {
     Q_OBJECT
 
 private:
-    std::optional<UserFolders> m_folders;
-    QString m_document;
-
-    void open(QueueScene &scene)
-    {
-        scene.addQueue();
-        scene.open({m_document});
-        QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
-        scene.window->changeSettings();
-    }
-
     static void verifyPrinted(QueueScene &scene, int job)
     {
-        QVERIFY(scene.window->press("print"));
+        QVERIFY(scene.window->press(u"print"_s));
         QVERIFY(scene.window->waitForTheEnd());
         QVERIFY2(matches(scene.window->dialog().report(), kPrintedAs.arg(job)),
                  qPrintable(scene.window->message()));
@@ -101,13 +86,7 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_folders.emplace();
-        m_document = m_folders->longDocument();
-    }
+    void initTestCase() { makeFolders(); }
 
     void aPrinterThatWasNamedIsThereWhenItsServerIs_data() { manners(); }
     void aPrinterThatWasNamedIsThereWhenItsServerIs()
@@ -120,12 +99,12 @@ private Q_SLOTS:
         scene.open({m_document});
         QueueDriver &window = *scene.window;
         QCOMPARE(window.printer(), kQueue);
-        QVERIFY(!window.press("print"));
+        QVERIFY(!window.press(u"print"_s));
         QVERIFY2(window.waitUntil([&] { return matches(window.waiting(), says); }),
                  qPrintable(window.waiting()));
         QVERIFY(!window.canPrint());
         scene.mend();
-        QVERIFY(window.press("retry"));
+        QVERIFY(window.press(u"retry"_s));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         verifyPrinted(scene, 1);
         QVERIFY(window.heart().takeLargestGap() < kLongestGap);
@@ -149,7 +128,7 @@ private Q_SLOTS:
         QVERIFY2(matches(window.footer(), says), qPrintable(window.footer()));
         QVERIFY(window.canPrint());
         scene.mend();
-        QVERIFY(window.press("printerStatusRetry"));
+        QVERIFY(window.press(u"printerStatusRetry"_s));
         QVERIFY(window.waitUntil([&] { return window.printer() == kQueue && window.canPrint(); }));
         QCOMPARE(window.footer(), QString());
         verifyPrinted(scene, 1);
@@ -168,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(window.printer(), kQueue);
         window.changeSettings();
         const QStringList settings = window.settings();
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QVERIFY2(matches(window.message(), kServer + u"does not answer\\."_s + kNothingPrinted),
                  qPrintable(window.message()));
@@ -316,8 +295,8 @@ private Q_SLOTS:
         window.changeSettings();
         const QStringList settings = window.settings();
         scene.cups.setPpd(kQueue, otherPpd());
-        const QPointer<QObject> opened = window.dialog().findChild<QObject *>(u"copies"_s);
-        QVERIFY(window.press("print"));
+        const QPointer<QObject> opened = window.child<QObject>(u"copies"_s);
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QVERIFY2(matches(window.message(),
                          u"The options of the printer “office” have changed at its server\\."_s +
@@ -349,7 +328,7 @@ private Q_SLOTS:
             QVERIFY2(other.message().contains(u"have changed at its server"_s),
                      qPrintable(other.message()));
         }
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QVERIFY2(matches(window.message(),
                          u"The options of the printer “office” have changed at its server\\."_s +
@@ -367,12 +346,12 @@ private Q_SLOTS:
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         const auto hasPanels = [&] {
-            const auto *pages = window.dialog().findChild<QTabWidget *>(u"pages"_s);
+            const auto *pages = window.pages();
             return pages->count() > 1 && pages->tabText(1) == u"Print Setting"_s;
         };
         QVERIFY(!hasPanels());
         scene.cups.setPpd(kQueue, samplePpdPath(u"corvana-cl5"_s));
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QVERIFY2(matches(window.message(),
                          u"The options of the printer “office” have changed at its server\\."_s +
@@ -401,9 +380,9 @@ private Q_SLOTS:
         scene.open({m_document}, {});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return scene.between.faultsMade() > 0; }));
-        auto *box = window.dialog().findChild<PrinterComboBox *>(u"printers"_s);
+        auto *box = window.child<PrinterComboBox>(u"printers"_s);
         box->showPopup();
-        auto *popup = window.dialog().findChild<QWidget *>(u"printerPopup"_s);
+        auto *popup = window.child<QWidget>(u"printerPopup"_s);
         QVERIFY(popup && popup->isVisible());
         window.heart().takeLargestGap();
         scene.mend();

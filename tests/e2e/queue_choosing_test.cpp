@@ -24,11 +24,10 @@ namespace {
 
 using Manner = FaultyServer::Manner;
 
-const QString kFilePrinter = u"PostScript File"_s;
 /// A device that two queues can share; nobody listens there.
 const QString kDevice = u"socket://127.0.0.1:9"_s;
 /// How late the list of printers may be. Units: milliseconds.
-constexpr int kSeconds = 15000;
+constexpr int kListPatience = 15000;
 
 } // namespace
 
@@ -43,17 +42,17 @@ private:
 
     static bool shows(QueueDriver &window, const QStringList &printers)
     {
-        return window.waitUntil([&] { return window.printers() == printers; }, kSeconds);
+        return window.waitUntil([&] { return window.printers() == printers; }, kListPatience);
     }
 
     static bool choose(QueueDriver &window, const QString &printer)
     {
-        return pick(window.dialog().findChild<QComboBox *>(u"printers"_s), printer);
+        return pick(window.child<QComboBox>(u"printers"_s), printer);
     }
 
     static QStringList pages(QueueDriver &window)
     {
-        const auto *tabs = window.dialog().findChild<QTabWidget *>(u"pages"_s);
+        const auto *tabs = window.pages();
         QStringList titles;
         for (int i = 0; i < tabs->count(); ++i)
             titles += tabs->tabText(i);
@@ -68,8 +67,8 @@ private:
         scene.between.answerIpp(IPP_STATUS_ERROR_BUSY, IPP_OP_CUPS_GET_PRINTERS);
         scene.between.setManner(Manner::Refuses);
         scene.open({m_document});
-        QVERIFY(scene.window->waitUntil(
-            [&] { return scene.window->dialog().findChild<QPushButton *>(u"retry"_s); }));
+        QVERIFY(
+            scene.window->waitUntil([&] { return scene.window->child<QPushButton>(u"retry"_s); }));
         scene.between.setManner(Manner::Passes);
     }
 
@@ -106,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(window.printer(), found);
         QVERIFY(!window.isPrinterGone());
         QVERIFY(window.settings().contains(u"copies 3"_s)); // it was not opened anew
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QVERIFY2(matches(window.dialog().report(), u"Printed on .* as job %1-1\\."_s.arg(found)),
                  qPrintable(window.dialog().report() + window.message()));
@@ -142,15 +141,14 @@ private Q_SLOTS:
             QueueDriver::Start{scene.between.server(), printer.uri(), {m_document}, {}, 1500});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        const auto copies = [&] {
-            return window.dialog().findChild<QSpinBox *>(u"copies"_s)->value();
-        };
+        const auto copies = [&] { return window.child<QSpinBox>(u"copies"_s)->value(); };
         QCOMPARE(copies(), 999);
         QCOMPARE(
             window.message(),
             u"What was asked for cannot be set:\nThe printer prints at most 999 copies at once, "
             "not 1500."_s);
-        QVERIFY(window.waitUntil([&] { return window.printers().contains(kQueue); }, kSeconds));
+        QVERIFY(
+            window.waitUntil([&] { return window.printers().contains(kQueue); }, kListPatience));
         QVERIFY(choose(window, kQueue));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QCOMPARE(copies(), 1500);
@@ -166,14 +164,14 @@ private Q_SLOTS:
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(shows(window, {kQueue, kFilePrinter}));
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QCOMPARE(scene.states(), QList<int>{IPP_JSTATE_HELD});
         QVERIFY(choose(window, kFilePrinter));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(choose(window, kQueue));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QVERIFY(window.press("print"));
+        QVERIFY(window.press(u"print"_s));
         QVERIFY(window.waitForTheEnd());
         QCOMPARE(window.message(), u"Job 1 of the earlier try is held in the queue."_s);
         QCOMPARE(scene.states(), QList<int>{IPP_JSTATE_HELD});
@@ -188,11 +186,11 @@ private Q_SLOTS:
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QCOMPARE(window.printer(), u"file"_s);
-        window.dialog().findChild<QSpinBox *>(u"copies"_s)->setValue(3);
+        window.child<QSpinBox>(u"copies"_s)->setValue(3);
         QVERIFY(
             window.waitUntil([&] { return scene.between.count(IPP_OP_CUPS_GET_PRINTERS) > 0; }));
         scene.between.releaseResponses();
-        QVERIFY2(window.waitUntil([&] { return window.printer() == kQueue; }, kSeconds),
+        QVERIFY2(window.waitUntil([&] { return window.printer() == kQueue; }, kListPatience),
                  qPrintable(window.printers().join(u'|') + window.printer()));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(window.settings().contains(u"copies 3"_s));
@@ -208,7 +206,7 @@ private Q_SLOTS:
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(window.settings().contains(u"pages 1-2"_s));
         QVERIFY(shows(window, {kQueue, kFilePrinter}));
-        window.dialog().findChild<QLineEdit *>(u"pageRanges"_s)->clear();
+        window.child<QLineEdit>(u"pageRanges"_s)->clear();
         QVERIFY(choose(window, kFilePrinter));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(window.settings().contains(u"pages "_s));
@@ -224,7 +222,7 @@ private Q_SLOTS:
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(shows(window, {kQueue, u"silent"_s, kFilePrinter}));
-        auto *button = window.dialog().findChild<QToolButton *>(u"silencedAlerts"_s);
+        auto *button = window.child<QToolButton>(u"silencedAlerts"_s);
         QVERIFY(!button->isVisible());
         const int width = window.dialog().width();
         QVERIFY(UserDefaults::standardUserDefaults().setPersistentDomain_forName(
@@ -255,7 +253,7 @@ private Q_SLOTS:
         QueueScene scene;
         openWithoutServer(scene);
         QueueDriver &window = *scene.window;
-        auto *retry = window.dialog().findChild<QPushButton *>(u"retry"_s);
+        auto *retry = window.child<QPushButton>(u"retry"_s);
         retry->click();
         QVERIFY(!retry->isEnabled());
         retry->click();
@@ -268,7 +266,7 @@ private Q_SLOTS:
         QueueScene scene;
         openWithoutServer(scene);
         QueueDriver &window = *scene.window;
-        window.dialog().findChild<QPushButton *>(u"retry"_s)->click();
+        window.child<QPushButton>(u"retry"_s)->click();
         QVERIFY(choose(window, kFilePrinter)); // needs nobody's answer
         QCoreApplication::processEvents();
         QVERIFY(window.waiting().isNull());
@@ -291,7 +289,7 @@ private Q_SLOTS:
                  "pages with all of its settings."_s);
         QCOMPARE(window.printer(), u"plain"_s); // it is an offer
         QVERIFY(!pages(window).contains(u"Print Setting"_s));
-        QVERIFY(window.press("messageAction"));
+        QVERIFY(window.press(u"messageAction"_s));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QCOMPARE(window.printer(), u"full"_s);
         QVERIFY2(pages(window).contains(u"Print Setting"_s), qPrintable(pages(window).join(u' ')));
@@ -321,7 +319,8 @@ private Q_SLOTS:
         // Two more looks at the list: everything that it leads to has been asked by then.
         const int asked = scene.between.count(IPP_OP_CUPS_GET_PRINTERS);
         QVERIFY(window.waitUntil(
-            [&] { return scene.between.count(IPP_OP_CUPS_GET_PRINTERS) >= asked + 2; }, kSeconds));
+            [&] { return scene.between.count(IPP_OP_CUPS_GET_PRINTERS) >= asked + 2; },
+            kListPatience));
         QVERIFY2(window.message().isNull(), qPrintable(window.message()));
     }
 
@@ -343,7 +342,7 @@ private Q_SLOTS:
         {
             QueueDriver other({beside.server(), kQueue, {m_document}});
             QVERIFY(other.waitUntil([&] { return beside.count(IPP_OP_CUPS_GET_PRINTERS) >= 3; },
-                                    kSeconds));
+                                    kListPatience));
         }
         QCOMPARE(scene.between.count(IPP_OP_CUPS_GET_PRINTERS), asked);
         // What changed meanwhile is there at once: sooner than two looks follow each other.

@@ -44,7 +44,7 @@ private:
     static void disclose(DialogDriver &driver)
     {
         driver.showPage(kColorSettingPage);
-        auto *slider = driver.dialog().findChild<QSlider *>(u"brightnessSlider"_s);
+        auto *slider = driver.child<QSlider>(u"brightnessSlider"_s);
         for (auto *button : driver.dialog().findChildren<QAbstractButton *>(u"optionButton"_s)) {
             if (button->isVisible() && !button->isChecked())
                 button->click();
@@ -97,7 +97,7 @@ private Q_SLOTS:
             if (mono)
                 QVERIFY(DialogDriver::choose(driver->control<QWidget>(u"monoColorPopup"_s), set));
             disclose(*driver);
-            auto *matching = driver->dialog().findChild<QWidget *>(u"colorMatchingMatrix"_s);
+            auto *matching = driver->child<QWidget>(u"colorMatchingMatrix"_s);
             if (!mono && DialogDriver::chosen(matching) != set)
                 QVERIFY(DialogDriver::choose(matching, set));
             PanelJob expected;
@@ -110,7 +110,7 @@ private Q_SLOTS:
                     continue;
                 }
                 const int value = kEffectValues.at((i + shift) % kEffectValues.size());
-                auto *slider = driver->dialog().findChild<QSlider *>(name);
+                auto *slider = driver->child<QSlider>(name);
                 slider->setValue(value == 0 ? 7 : 0); // 0 has to be come back to
                 slider->setValue(value);
                 expected += {keyword, QString::number(value)};
@@ -151,7 +151,7 @@ private Q_SLOTS:
         for (const QString &choice : ppd.choices(u"QXColorMatching"_s)) {
             auto driver = m_queues->open(printer);
             disclose(*driver);
-            auto *matrix = driver->dialog().findChild<QWidget *>(u"colorMatchingMatrix"_s);
+            auto *matrix = driver->child<QWidget>(u"colorMatchingMatrix"_s);
             for (const QString &other : DialogDriver::offered(matrix)) {
                 if (other != choice)
                     QVERIFY(DialogDriver::choose(matrix, other));
@@ -166,7 +166,7 @@ private Q_SLOTS:
                 if (!ppd.has(keyword))
                     continue;
                 const bool on = gray == (keyword == u"QXGray"_s);
-                auto *box = driver->dialog().findChild<QCheckBox *>(name);
+                auto *box = driver->child<QCheckBox>(name);
                 if (on)
                     QVERIFY(DialogDriver::choose(box, u"ON"_s));
                 expected += {keyword, on ? u"ON"_s : u"OFF"_s};

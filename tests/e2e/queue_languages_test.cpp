@@ -14,9 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
-
 /// Something that a run without a window has to say, whatever the language.
 struct Occasion
 {

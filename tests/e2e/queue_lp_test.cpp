@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kQueue = u"office"_s;
+const QString kTitle = u"letters"_s;
 constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
 
 /// A request that lp understands as well, and what the printer has to get for it.
@@ -49,7 +50,8 @@ const QList<Wish> kWishes{
     {"several documents on both sides begin on a sheet each",
      {u"sides=two-sided-long-edge"_s, u"page-ranges=1-3"_s},
      {u"five"_s, u"two"_s},
-     {u"five 1"_s, u"five 2"_s, u"five 3"_s, QString(), u"two 1"_s, u"two 2"_s}},
+     // A stream each: the printer ejects the sheet at the end of the first.
+     {u"five 1"_s, u"five 2"_s, u"five 3"_s, u"two 1"_s, u"two 2"_s}},
     {"two pages of several documents on a side",
      {u"number-up=2"_s},
      {u"five"_s, u"two"_s},
@@ -174,7 +176,7 @@ private:
         environment.insert(u"HOME"_s, m_runner->filePath(QString()));
         environment.remove(u"CUPS_SERVERROOT"_s);
         lp.setProcessEnvironment(environment);
-        lp.start(u"lp"_s, QStringList{u"-h"_s, m_cups->server(), u"-d"_s, kQueue} +
+        lp.start(u"lp"_s, QStringList{u"-h"_s, m_cups->server(), u"-d"_s, kQueue, u"-t"_s, kTitle} +
                               optionsOf(wish) + paths(wish));
         lp.waitForFinished();
         const int job = lastJob();
@@ -198,8 +200,9 @@ private Q_SLOTS:
         if (!wish.userDefaults.isEmpty())
             m_runner->setUserOptions("Dest " + kQueue.toLatin1() + ' ' + wish.userDefaults + '\n');
 
-        const RunEnd run = m_runner->run(QStringList{u"-d"_s, kQueue, u"--summary"_s} +
-                                         optionsOf(wish) + paths(wish));
+        const RunEnd run =
+            m_runner->run(QStringList{u"-d"_s, kQueue, u"-t"_s, kTitle, u"--summary"_s} +
+                          optionsOf(wish) + paths(wish));
         if (wish.refusal) {
             QVERIFY2(run.status == 1, run.text().constData());
             QVERIFY2(run.err.contains(QString::fromUtf8(wish.refusal)), run.text().constData());

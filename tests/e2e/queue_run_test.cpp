@@ -10,20 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-const QString kThreePages =
-    corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
-const QString kPicture = corvana::test::sourceFile(QStringLiteral("tests/data/page.png"));
-const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
-
-constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 qsizetype pagesOf(const QByteArray &data)
 {
     return data.count("\n%%Page: ");
@@ -166,7 +152,7 @@ private Q_SLOTS:
     void aRawQueueGetsTheDocumentAsItIs()
     {
         m_cups->addRawQueue(u"raw"_s);
-        QCOMPARE(printed(u"raw"_s, {kThreePages}).data, contentOf(kThreePages));
+        QCOMPARE(printed(u"raw"_s, {kThreePages}).data, readAll(kThreePages));
     }
 
     // What is printed
@@ -179,7 +165,7 @@ private Q_SLOTS:
         QCOMPARE(onlyJob(u"office"_s).state, IPP_JSTATE_COMPLETED);
         QCOMPARE(pagesOf(job.data), 5);
         QCOMPARE(job.title, u"welcome.pdf and 2 more"_s);
-        QCOMPARE(job.data.count(codeOf("QXMediaType=Thick")), qsizetype(1));
+        QCOMPARE(job.data.count(codeOf("QXMediaType=Thick")), qsizetype(3)); // each for itself
     }
 
     void standardInputIsPrinted()
@@ -250,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(onlyJob(u"office"_s).id, first);
         QVERIFY(onlyJob(u"office"_s).state < IPP_JSTATE_CANCELED);
         device.release(u"all"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->job(first).state, IPP_JSTATE_COMPLETED, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_cups->job(first).state, IPP_JSTATE_COMPLETED, kQueuePatience);
     }
 
     void withoutNoWaitTheRunEndsWhenTheJobIsPrinted()
@@ -259,7 +245,7 @@ private Q_SLOTS:
                          {.deviceUri = m_cups->capture(u"office"_s).waitAtEnd().uri()});
         const CaptureDevice device = m_cups->capture(u"office"_s);
         const auto run = m_runner->start({u"-d"_s, u"office"_s, kText});
-        QTRY_VERIFY_WITH_TIMEOUT(device.hasReached(1, u"end"_s), kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(device.hasReached(1, u"end"_s), kQueuePatience);
         QVERIFY(run->isRunning());
         QCOMPARE(run->out(), QString());
         device.release(u"all"_s);

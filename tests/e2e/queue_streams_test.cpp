@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kSample = corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
+const QString kSample = corvana::test::sourceFile(u"resources/sample/welcome.pdf"_s);
 
 /// Without the lines that are different in every job: its date and its number.
 QByteArray comparable(const QByteArray &data)
@@ -80,7 +80,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, printer);
         QFETCH(QStringList, options);
-        const auto driver = m_queues->open(printer, options);
+        const auto driver = m_queues->open(printer, options, kSample);
         driver->summary(); // every page has been seen
         driver->pressPrint();
         const QByteArray window = comparable(m_queues->printedBy(*driver, printer));

@@ -245,6 +245,42 @@ theTitleAndTheCopiesReachTheFilters() {
     expect_equal "$(recorded -t)" welcome.pdf
 }
 
+# Filters that are told nothing leave the copies to the printer, which makes each page several times.
+severalCopiesComeOutOneAfterTheOther() {
+    local spelling
+    record_filter
+    print -n 3
+    expect_printed
+    expect_options collate=true multiple-document-handling=separate-documents-collated-copies
+    expect_lines 'Copies: 3, collated'
+    expect_equal "$(grep -ac '^%%Page: ' "$output")" 9
+    for spelling in collate=false Collate=False nocollate \
+        multiple-document-handling=separate-documents-uncollated-copies; do
+        print -n 3 -o "$spelling"
+        expect_printed
+        expect_lines 'Copies: 3, not collated'
+        expect_equal "$(grep -ac '^%%Page: ' "$output")" 3
+    done
+}
+
+# A PPD may describe a number and lose the choice that it belongs to.
+aNumberThatThePpdHasLostIsRefused() {
+    changed_ppd '/^\*CloseUI: \*QXSleepTime/d'
+    expect_refusal QXSleepTime=Custom.12 Default -- -o QXSleepTime=Custom.12
+    changed_ppd '/^\*CustomQXSleepTime/d'
+    expect_refusal QXSleepTime=Custom.12 Default -- -o QXSleepTime=Custom.12
+}
+
+# As lp says it: the attribute is a choice of the PPD, whatever the case of its letters.
+theAttributesOfLpBecomeChoices() {
+    print -o print-color-mode=Monochrome -o Media=a5,tray1 -o printer-resolution=1200dpi
+    expect_printed
+    expect_code QXMonoColor=Mono PageSize=A5 QXInputSlot=Tray1 QXResolution=1200dpi
+    expect_refusal output-bin=Upper nothing -- -o output-bin=Upper
+    expect_refusal finishings=staple '3 (none)' -- -o finishings=staple
+    expect_refusal print-quality=5 '4 (normal)' -- -o print-quality=5
+}
+
 theFilterProgramCanBeNamed() {
     record_filter
     environment=("CORVANA_PRINT_CUPSFILTER=$work/bin/cupsfilter")

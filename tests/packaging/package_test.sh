@@ -78,30 +78,54 @@ theChecksumsHold() {
     expect_equal "$(cd root && find usr -type f | sort)" "$(cut -c 35- root/DEBIAN/md5sums | sort)"
 }
 
-theBinariesAreStrippedAndKnowNothingOfTheBuildFolder() {
-    local binary path
+# extract_binaries: unpacks the package to root/ and says in binaries what of it is machine code.
+extract_binaries() {
     dpkg-deb --extract "$package" root
-    for binary in root/usr/bin/corvana-print root/usr/lib/corvana-print/libcorvana-platform.so.*.* \
-        root/usr/lib/corvana-print/plugins/*/module/*.so; do
+    binaries=(root/usr/bin/corvana-print root/usr/lib/corvana-print/libcorvana-platform.so.*.*
+        root/usr/lib/corvana-print/libcorvana-pdf-pictures.so
+        root/usr/lib/corvana-print/plugins/*/module/*.so)
+}
+
+theBinariesAreStrippedAndKnowNothingOfTheBuildFolder() {
+    local binary path count=0
+    extract_binaries
+    for binary in "${binaries[@]}"; do
+        count=$((count + 1))
         ! readelf --sections --wide "$binary" | grep -qE '\.debug_info|\.symtab' ||
             fail "$binary is not stripped"
         ! grep -qaF "$source_root" "$binary" || fail "$binary names the folder $source_root"
         path=$(readelf --dynamic --wide "$binary" | sed -n 's/.*\(RPATH\|RUNPATH\).*\[\(.*\)\]/\2/p')
         # Only what needs the library beside it has a path at all.
-        [[ $binary == *platform* ]] && expect_equal "$path" ''
-        [[ $binary == *platform* || $path =~ ^\$ORIGIN/[^:]+$ ]] || fail "$binary searches: $path"
+        case $binary in
+        */libcorvana-*) expect_equal "$path" '' ;;
+        *) [[ $path =~ ^\$ORIGIN/[^:]+$ ]] || fail "$binary searches: $path" ;;
+        esac
         # Nothing that could be redirected is left writable after it was loaded.
         readelf --dynamic --wide "$binary" | grep -q BIND_NOW || fail "$binary binds lazily"
+        readelf --program-headers --wide "$binary" | grep -q GNU_RELRO || fail "$binary keeps its tables writable"
     done
+    expect_equal $count 4
 }
 
 theBinariesEndAtAnOverrun() {
     local binary
-    dpkg-deb --extract "$package" root
-    for binary in root/usr/bin/corvana-print root/usr/lib/corvana-print/libcorvana-platform.so.*.* \
-        root/usr/lib/corvana-print/plugins/*/module/*.so; do
+    extract_binaries
+    for binary in "${binaries[@]}"; do
         readelf --dyn-syms --wide "$binary" | grep -q ' __stack_chk_fail@' ||
             fail "$binary does not guard its stack"
+    done
+}
+
+# It brings thirty libraries along, for pictures that hardly any panel has.
+popplerIsLoadedWithTheFirstPdfPictureOnly() {
+    local binary
+    extract_binaries
+    for binary in "${binaries[@]}"; do
+        if readelf --dynamic --wide "$binary" | grep -q 'NEEDED.*\[libpoppler'; then
+            [[ $binary == */libcorvana-pdf-pictures.so ]] || fail "$binary needs Poppler"
+        else
+            [[ $binary != */libcorvana-pdf-pictures.so ]] || fail "$binary does not need Poppler"
+        fi
     done
 }
 

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kDisclosureEntry = u"com.corvana.print.PrintSettings.advancedItem"_s;
+const QString kAdvancedItemEntry = u"com.corvana.print.PrintSettings.advancedItem"_s;
 
 } // namespace
 
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QFETCH(bool, toggled);
         m_host->settings().setEntries({});
         if (!job.isEmpty())
-            m_host->settings().setValue(kDisclosureEntry, job);
+            m_host->settings().setValue(kAdvancedItemEntry, job);
         if (!held.isEmpty())
             m_panel->effectContent->setValue(u"advancedItem"_s, held);
         m_panel->restoreOptionState();
@@ -241,10 +241,10 @@ private Q_SLOTS:
     {
         m_host->settings().setEntries({});
         m_panel->saveOptionState();
-        QCOMPARE(m_host->settings().value(kDisclosureEntry), QVariant(false));
+        QCOMPARE(m_host->settings().value(kAdvancedItemEntry), QVariant(false));
         m_panel->effectContent->setValue(u"advancedItem"_s, true);
         m_panel->saveOptionState();
-        QCOMPARE(m_host->settings().value(kDisclosureEntry), QVariant(true));
+        QCOMPARE(m_host->settings().value(kAdvancedItemEntry), QVariant(true));
     }
 
     void aSilencedAlertStaysSilentAcrossPanels()

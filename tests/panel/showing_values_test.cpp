@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-PpdBuilder printer()
+PpdBuilder printerForShowing()
 {
     PpdBuilder ppd;
     ppd.option("QXMediaType", "Media Type", "Plain",
@@ -64,7 +64,7 @@ class ShowingValuesTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_host = RecordingHost::forPpd(printer().text());
+        m_host = RecordingHost::forPpd(printerForShowing().text());
         m_panel = std::make_unique<TestPanel>(
             QStringList{u"QXMediaType"_s, u"QXQuietMode"_s, u"QXGray"_s, u"MirrorPrint"_s});
         QVERIFY(m_panel->initWithHost(m_host));

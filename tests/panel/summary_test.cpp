@@ -13,7 +13,7 @@ namespace {
 
 const QString kOrder = QLatin1StringView(kSummaryDisplayOrder);
 
-PpdBuilder printer()
+PpdBuilder printerForSummary()
 {
     PpdBuilder ppd;
     ppd.option("QXMediaType", "Media Type", "Plain",
@@ -35,7 +35,7 @@ private Q_SLOTS:
     {
         m_bundle = std::make_unique<TestBundle>();
         m_bundle->setTexts({{u"ON"_s, u"Yes"_s}, {u"OFF"_s, u"No"_s}});
-        m_host = RecordingHost::forPpd(printer().text());
+        m_host = RecordingHost::forPpd(printerForSummary().text());
     }
     void cleanup()
     {

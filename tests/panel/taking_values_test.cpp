@@ -19,7 +19,7 @@ namespace {
 const QStringList kKeywords{u"QXMediaType"_s, u"QXQuietMode"_s, u"QXGray"_s, u"MirrorPrint"_s,
                             u"QXSlowDrying"_s};
 
-PpdBuilder printer()
+PpdBuilder printerForTaking()
 {
     PpdBuilder ppd;
     ppd.option("QXMediaType", "Media Type", "Plain",
@@ -50,7 +50,7 @@ class TakingValuesTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_host = RecordingHost::forPpd(printer().text());
+        m_host = RecordingHost::forPpd(printerForTaking().text());
         m_panel = std::make_unique<TestPanel>(kKeywords);
         QVERIFY(m_panel->initWithHost(m_host));
         m_popUp = m_panel->addPopUp(u"QXMediaType"_s);

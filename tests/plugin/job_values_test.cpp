@@ -11,13 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView kSleep{"com.corvana.print.PrintSettings.sleep"};
-constexpr QLatin1StringView kSleepMode{"com.corvana.print.PrintSettings.sleepmode"};
-constexpr QLatin1StringView kDensity{"com.corvana.print.PrintSettings.densitymode"};
-constexpr QLatin1StringView kNormalEffect{"com.corvana.print.PrintSettings.NormalEffect"};
-constexpr QLatin1StringView kVividEffect{"com.corvana.print.PrintSettings.VividEffect"};
-constexpr QLatin1StringView kMonoEffect{"com.corvana.print.PrintSettings.MonoEffect"};
-
 using Outcome = JobValueClaim::Outcome;
 
 QList<JobOption> zeroEffects()

@@ -11,14 +11,6 @@ using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr QLatin1StringView kNormalEffect{"com.corvana.print.PrintSettings.NormalEffect"};
-constexpr QLatin1StringView kMonoEffect{"com.corvana.print.PrintSettings.MonoEffect"};
-constexpr QLatin1StringView kSleepMode{"com.corvana.print.PrintSettings.sleepmode"};
-
-} // namespace
-
 class ValuesInForceTest : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ PpdBuilder printer()
     return ppd;
 }
 
-PpdBuilder withDensity()
+PpdBuilder printerWithDensity()
 {
     return printer().option("QXDensityAdjustment", "Density", "0", {{"0", "Standard"}});
 }
@@ -150,15 +150,17 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("ppd");
         QTest::addColumn<qint64>("minimum");
         QTest::addColumn<qint64>("maximum");
-        QTest::newRow("no custom option") << withDensity().text() << qint64(-6) << qint64(6);
+        QTest::newRow("no custom option") << printerWithDensity().text() << qint64(-6) << qint64(6);
         QTest::newRow("declared bounds")
-            << withDensity().customInteger("QXDensityAdjustment", "Density", "D", -3, 4).text()
+            << printerWithDensity()
+                   .customInteger("QXDensityAdjustment", "Density", "D", -3, 4)
+                   .text()
             << qint64(-3) << qint64(4);
         QTest::newRow("no parameter Density")
-            << withDensity().customInteger("QXDensityAdjustment", "Steps", "S", -3, 4).text()
+            << printerWithDensity().customInteger("QXDensityAdjustment", "Steps", "S", -3, 4).text()
             << qint64(-6) << qint64(6);
         QTest::newRow("a parameter that is no whole number")
-            << withDensity().customOfType("QXDensityAdjustment", "Density", "real").text()
+            << printerWithDensity().customOfType("QXDensityAdjustment", "Density", "real").text()
             << qint64(-6) << qint64(6);
     }
     void densityBoundsComeFromThePpd()
@@ -182,7 +184,7 @@ private Q_SLOTS:
 
     void theDefaultDensityIsTheNumberZero()
     {
-        auto panel = makePanel(withDensity());
+        auto panel = makePanel(printerWithDensity());
         QVERIFY(panel->panelView());
         const QString key = QXLaserPrintSetting::densityParamKey();
         panel->m_outputBin.insert(key, u"5"_s);
@@ -196,7 +198,7 @@ private Q_SLOTS:
 
     void aDensityThatIsTakenOverAlreadyIsKept()
     {
-        auto panel = makePanel(withDensity());
+        auto panel = makePanel(printerWithDensity());
         const QString key = QXLaserPrintSetting::densityParamKey();
         panel->m_outputBin.insert(key, u"5"_s);
         panel->setDefaults();

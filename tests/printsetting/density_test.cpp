@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "tests/printsetting/PrintSettingProbe.h"
+#include "tests/printsetting/PrintSettingFixture.h"
 #include "tests/support/PpdBuilder.h"
 #include "tests/support/TestBundle.h"
 
@@ -15,25 +15,18 @@ const QString kKey = u"QXDensityAdjustment_Density"_s;
 } // namespace
 
 /// The density's slider and field, which show one number.
-class DensityTest : public QObject
+class DensityTest : public PrintSettingFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_host = RecordingHost::forSamplePrinter();
-        m_panel = std::make_unique<PrintSettingProbe>(m_host);
-        QVERIFY(m_panel->initWithHost());
-        QVERIFY(m_panel->panelView());
-        m_panel->willShow();
-        m_host->forgetCalls();
+        m_bundle.emplace(TestBundle::built());
+        openPanel(RecordingHost::forSamplePrinter());
+        showPanel();
     }
-    void cleanup()
-    {
-        m_panel.reset();
-        m_host.reset();
-    }
+    void cleanup() { closeAll(); }
 
     void aMoveOfTheSliderReachesFieldPanelAndJob()
     {
@@ -177,10 +170,6 @@ private:
         QCOMPARE(m_panel->outputBin().value(kKey).toLongLong(), density);
         QCOMPARE(m_panel->entry(kDensityEntry), QVariant(QString::number(density)));
     }
-
-    TestBundle m_bundle = TestBundle::built();
-    std::shared_ptr<RecordingHost> m_host;
-    std::unique_ptr<PrintSettingProbe> m_panel;
 };
 
 QTEST_MAIN(DensityTest)

@@ -2,7 +2,7 @@
 
 #include "platform/toolkit/InterfaceLoader.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "tests/printsetting/PrintSettingProbe.h"
+#include "tests/printsetting/PrintSettingFixture.h"
 #include "tests/support/Gestures.h"
 #include "tests/support/TestBundle.h"
 
@@ -11,25 +11,18 @@ using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 /// The panel with the interface file that is shipped.
-class InterfaceTest : public QObject
+class InterfaceTest : public PrintSettingFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_host = RecordingHost::forSamplePrinter();
-        m_panel = std::make_unique<PrintSettingProbe>(m_host);
-        QVERIFY(m_panel->initWithHost());
-        QVERIFY(m_panel->panelView());
-        m_panel->willShow();
-        m_host->forgetCalls();
+        m_bundle.emplace(TestBundle::built());
+        openPanel(RecordingHost::forSamplePrinter());
+        showPanel();
     }
-    void cleanup()
-    {
-        m_panel.reset();
-        m_host.reset();
-    }
+    void cleanup() { closeAll(); }
 
     void everyOutletIsConnected()
     {
@@ -131,11 +124,6 @@ private Q_SLOTS:
         QCOMPARE(m_panel->mediaTypePopup->currentText(), u"Thin Paper"_s);
         QCOMPARE(m_panel->mediaTypePopup->count(), 10);
     }
-
-private:
-    TestBundle m_bundle = TestBundle::built();
-    std::shared_ptr<RecordingHost> m_host;
-    std::unique_ptr<PrintSettingProbe> m_panel;
 };
 
 QTEST_MAIN(InterfaceTest)

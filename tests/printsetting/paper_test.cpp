@@ -1,36 +1,13 @@
-#include <stdexcept>
-
 #include <QTest>
 
 #include "panel/OptionKeywords.h"
-#include "platform/printcore/PageFormat.h"
-#include "platform/toolkit/MenuActions.h"
-#include "tests/printsetting/PrintSettingProbe.h"
-#include "tests/support/Gestures.h"
-#include "tests/support/PpdBuilder.h"
-#include "tests/support/TestBundle.h"
+#include "tests/printsetting/PaperFixture.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A printer without rules but those of paper and medium.
-PpdBuilder printer()
-{
-    return PpdBuilder().option("QXMediaType", "Media Type", "Plain",
-                               {{"Plain", "Plain"},
-                                {"Thin", "Thin"},
-                                {"Thick", "Thick"},
-                                {"Glossy", "Glossy"},
-                                {"Env", "Envelopes"}});
-}
-
-Paper listed(const QString &name)
-{
-    return {name, name, 595, 842};
-}
 
 Paper unlisted(const QString &name, double width, double height)
 {
@@ -39,32 +16,20 @@ Paper unlisted(const QString &name, double width, double height)
 
 } // namespace
 
-/// How the panel judges the page's paper, and what a new paper brings with it.
-class PaperTest : public QObject
+/// How the panel judges the page's paper, and which medium it brings.
+class PaperTest : public PaperFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_preferences.emplace();
-        m_bundle.emplace(TestBundle::built());
-    }
-    void cleanup()
-    {
-        if (m_host)
-            QCOMPARE(m_host->alerts().outstanding(), 0);
-        m_panel.reset();
-        m_host.reset();
-        m_bundle.reset();
-        m_preferences.reset();
-    }
+    void init() { openForPaper(); }
+    void cleanup() { closeAll(); }
 
     // The name
 
     void thePageNamesThePaper()
     {
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_host->page().paper = listed(u"A5"_s);
         QVERIFY(m_panel->readPageSetup());
         QCOMPARE(m_panel->paperName, u"A5"_s);
@@ -82,7 +47,7 @@ private Q_SLOTS:
     {
         QFETCH(QVariant, mapped);
         QFETCH(QString, name);
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_host->page().paper = listed(u"A5"_s);
         m_host->settings().setValue(kPageToPaperMappingEntry, mapped);
         QVERIFY(m_panel->readPageSetup());
@@ -91,7 +56,7 @@ private Q_SLOTS:
 
     void aMappedPaperNeedsNoPage()
     {
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_host->answerNoPageFormat();
         m_host->settings().setValue(kPageToPaperMappingEntry, u"Custom.A"_s);
         QVERIFY(m_panel->readPageSetup()); // and nothing says that it would not fit
@@ -108,7 +73,7 @@ private Q_SLOTS:
     void aPaperThatCannotBeReadChangesNothing()
     {
         QFETCH(QString, lack);
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_panel->setMode(kModeEnvelopePaper, true);
         m_host->page().paper = listed(u"A5"_s);
         if (lack == u"no operation for print settings")
@@ -177,7 +142,7 @@ private Q_SLOTS:
     {
         QFETCH(Paper, paper);
         QFETCH(QString, name);
-        makePanel(printer().customPageSize(200, 300, 612, 792));
+        makePanel(printerOfMedia().customPageSize(200, 300, 612, 792));
         m_host->page().paper = paper;
         QVERIFY(m_panel->readPageSetup());
         QCOMPARE(m_panel->paperName, name);
@@ -185,7 +150,7 @@ private Q_SLOTS:
 
     void aPrinterWithoutCustomSizesTakesNone()
     {
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_host->page().paper = unlisted(u"Letter"_s, 612, 792);
         postPaperChange();
         QCOMPARE(m_panel->paperName, QString(kUnsupportedPaper));
@@ -198,7 +163,7 @@ private Q_SLOTS:
 
     void aMappedPaperIsMeasuredByThePage()
     {
-        makePanel(printer().customPageSize(200, 300, 612, 792));
+        makePanel(printerOfMedia().customPageSize(200, 300, 612, 792));
         m_host->settings().setValue(kPageToPaperMappingEntry, u"Letter"_s);
         m_host->page().paper = unlisted(u"A4"_s, 900, 900);
         QVERIFY(m_panel->readPageSetup());
@@ -219,7 +184,7 @@ private Q_SLOTS:
     {
         QFETCH(QVariant, medium);
         QFETCH(bool, kept);
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_panel->paperName = QString();
         if (medium.isValid())
             m_panel->m_outputBin.insert(u"QXMediaType"_s, medium);
@@ -255,7 +220,7 @@ private Q_SLOTS:
         QFETCH(QString, medium);
         QFETCH(bool, envelope);
         for (const bool before : {false, true}) {
-            makePanel(printer());
+            makePanel(printerOfMedia());
             m_panel->m_outputBin.insert(u"QXMediaType"_s, u"Glossy"_s);
             m_panel->setMode(kModeEnvelopePaper, before);
             m_host->page().paper = listed(paper);
@@ -269,7 +234,7 @@ private Q_SLOTS:
 
     void aRefusedMediumLeavesThePaperJudged()
     {
-        makePanel(printer());
+        makePanel(printerOfMedia());
         m_host->refuseEverything();
         m_host->page().paper = listed(u"EnvDL"_s);
         QVERIFY(m_panel->readPageSetup());
@@ -277,236 +242,6 @@ private Q_SLOTS:
         QVERIFY(m_panel->hasMode(kModeEnvelopePaper));
         QCOMPARE(m_panel->stored(u"QXMediaType"_s), u"Plain"_s);
     }
-
-    // Following the paper
-
-    void aNewPaperIsFollowedStepByStep()
-    {
-        makePanel(printer());
-        m_panel->tracing = true;
-        m_host->page().paper = listed(u"A5"_s);
-        postPaperChange();
-        const QList<HostCall> unseen{
-            {u"readPageSetup"_s, {u"A4"_s}},
-            {u"willChangePPDOptionKeyValue_ppdChoice"_s, {u"QXMediaType"_s, u"Plain"_s}},
-            {u"checkConstraints"_s, {}}};
-        QCOMPARE(m_host->calls(), unseen);
-        QVERIFY2(!m_panel->m_panelView, "no view is needed for that");
-
-        m_panel->tracing = false;
-        QVERIFY(m_panel->panelView());
-        m_panel->willShow();
-        m_panel->tracing = true;
-        m_host->forgetCalls();
-        m_host->page().paper = listed(u"A4"_s);
-        postPaperChange();
-        const QList<HostCall> seen{
-            {u"readPageSetup"_s, {u"A5"_s}},
-            {u"willChangePPDOptionKeyValue_ppdChoice"_s, {u"QXMediaType"_s, u"Plain"_s}},
-            {u"checkConstraints"_s, {}},
-            {u"updateUI"_s, {}},
-            {u"updateUIforKey"_s, {u"QXMediaType"_s}}};
-        QCOMPARE(m_host->calls(), seen);
-
-        m_host->forgetCalls();
-        postPaperChange(); // the same paper once more
-        QCOMPARE(m_host->calls(), (QList<HostCall>{{u"readPageSetup"_s, {u"A4"_s}}}));
-    }
-
-    void aNewPaperIsShownInTheControls()
-    {
-        makePanel(printer());
-        QVERIFY(m_panel->panelView());
-        m_panel->willShow();
-        m_host->page().paper = listed(u"Postcard"_s);
-        postPaperChange();
-        QCOMPARE(m_panel->mediaTypePopup->currentText(), u"Thick"_s);
-    }
-
-    void anEnvelopeSaysHowToLoadItWhateverTheModel_data()
-    {
-        QTest::addColumn<int>("model");
-        QTest::newRow("4") << 4;
-        QTest::newRow("5") << 5;
-    }
-    void anEnvelopeSaysHowToLoadItWhateverTheModel()
-    {
-        QFETCH(int, model);
-        makePanel(printer().modelNumber(model));
-        m_host->alerts().expect({0, true});
-        m_host->page().paper = listed(u"EnvDL"_s);
-        postPaperChange();
-        QVERIFY2(m_panel->m_panelView, "the view was loaded for its illustration");
-        QCOMPARE(m_host->alerts().shown().size(), 1);
-        QCOMPARE(m_host->alerts().shown().first().alert.messageText, u"Envelopes"_s);
-        QVERIFY(!m_panel->shouldShowAlert(u"FrontPaper_Env"_s));
-        // Silenced: not when the next envelope comes.
-        m_host->page().paper = listed(u"A4"_s);
-        postPaperChange();
-        m_host->page().paper = listed(u"EnvC5"_s);
-        postPaperChange();
-        QCOMPARE(m_host->alerts().shown().size(), 1);
-    }
-
-    void anEnvelopeThatTheHostRefusesIsNotExplained()
-    {
-        makePanel(printer());
-        m_host->refuseEverything();
-        m_host->page().paper = listed(u"EnvDL"_s);
-        postPaperChange();
-        QCOMPARE(m_panel->paperName, u"EnvDL"_s);
-    }
-
-    // The host keeps the thick envelopes that were chosen before.
-    void aNewPaperExplainsThePlainEnvelopeOnly()
-    {
-        makePanel(printer());
-        m_panel->m_outputBin.insert(u"QXMediaType"_s, u"EnvThick"_s);
-        m_host->refuseEverything();
-        m_host->page().paper = listed(u"EnvDL"_s);
-        postPaperChange();
-        QCOMPARE(m_panel->paperName, u"EnvDL"_s);
-        QCOMPARE(m_panel->stored(u"QXMediaType"_s), u"EnvThick"_s);
-        QVERIFY(m_host->alerts().shown().isEmpty());
-    }
-
-    void onlyTheMenuWithThePapersCounts_data()
-    {
-        QTest::addColumn<QStringList>("items");
-        QTest::addColumn<bool>("hasUserInfo");
-        QTest::addColumn<bool>("counts");
-        const QStringList papers{u"Letter"_s, u"A4"_s};
-        QTest::newRow("papers") << papers << true << true;
-        QTest::newRow("papers, nothing told") << papers << false << false;
-        QTest::newRow("another menu") << QStringList{u"A40"_s, u"a4"_s} << true << false;
-        QTest::newRow("an empty menu") << QStringList{} << true << false;
-    }
-    void onlyTheMenuWithThePapersCounts()
-    {
-        QFETCH(QStringList, items);
-        QFETCH(bool, hasUserInfo);
-        QFETCH(bool, counts);
-        makePanel(printer());
-        QComboBox menu;
-        menu.addItems(items);
-        m_host->page().paper = listed(u"A5"_s);
-        m_panel->checkPageSizeChange(
-            {QLatin1StringView(kMenuDidSendActionNotification), &menu, {}, hasUserInfo});
-        QCOMPARE(m_panel->paperName, counts ? u"A5"_s : u"A4"_s);
-    }
-
-    void aMenuActWithoutAMenuIsIgnored()
-    {
-        makePanel(printer());
-        m_host->page().paper = listed(u"A5"_s);
-        m_panel->checkPageSizeChange(
-            {QLatin1StringView(kMenuDidSendActionNotification), nullptr, {}, true});
-        QCOMPARE(m_panel->paperName, u"A4"_s);
-    }
-
-    void thePaperMenuIsKnownByItsTranslatedTitle()
-    {
-        m_bundle.reset();
-        m_bundle.emplace(TestBundle::copied());
-        m_bundle->setTexts({{u"A4"_s, u"A4 Sheet"_s}});
-        makePanel(printer());
-        QComboBox menu;
-        menu.addItem(u"A4 Sheet"_s);
-        m_host->page().paper = listed(u"A5"_s);
-        m_panel->checkPageSizeChange(
-            {QLatin1StringView(kMenuDidSendActionNotification), &menu, {}, true});
-        QCOMPARE(m_panel->paperName, u"A5"_s);
-    }
-
-    void aPanelWithoutOptionsFollowsThePaperMenuOnceForEachPick()
-    {
-        m_bundle.reset();
-        m_bundle.emplace(TestBundle::copied());
-        m_bundle->edit(u"info.json"_s, "\"PMPPDKeysSupported\"", "\"Other\"");
-        makePanel(printer());
-        QVERIFY(!m_panel->PPDKeys);
-        QComboBox menu;
-        menu.addItems({u"A4"_s, u"A5"_s});
-        postNotificationWhenMenuActs(&menu);
-        m_panel->tracing = true;
-        for (int i = 0; i < 4; ++i) {
-            m_host->forgetCalls();
-            QVERIFY(pick(&menu, u"A5"_s));
-            QCOMPARE(m_host->calls().size(), 1);
-            QVERIFY(pick(&menu, u"A4"_s));
-        }
-    }
-
-    void anExceptionOfTheHostEndsAllObservations_data()
-    {
-        QTest::addColumn<QString>("where");
-        QTest::addColumn<bool>("standard");
-        QTest::newRow("while the page is read") << u"page"_s << true;
-        QTest::newRow("while the medium is asked for") << u"medium"_s << true;
-        QTest::newRow("while the alert is shown") << u"alert"_s << true;
-        QTest::newRow("of no common kind") << u"medium"_s << false;
-    }
-    void anExceptionOfTheHostEndsAllObservations()
-    {
-        QFETCH(QString, where);
-        QFETCH(bool, standard);
-        makePanel(printer());
-        m_host->page().paper = listed(u"EnvDL"_s);
-        const auto fail = [standard] {
-            if (standard)
-                throw std::runtime_error("gone");
-            throw 42;
-        };
-        if (where == u"page") {
-            m_host->whenPageIsRead = fail;
-        } else if (where == u"medium") {
-            m_host->whenAsked = fail;
-        } else {
-            m_host->alerts().expect();
-            m_host->alerts().whenShown = [fail](const Alert &) { fail(); };
-        }
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not followed any more"_s));
-        postPaperChange();
-        m_host->whenPageIsRead = nullptr;
-        m_host->whenAsked = nullptr;
-        m_host->alerts().whenShown = nullptr;
-        m_host->forgetCalls();
-        m_panel->tracing = true;
-        m_host->page().paper = listed(u"B5"_s);
-        postPaperChange();
-        QVERIFY(m_host->calls().isEmpty());
-        QVERIFY2(m_panel->readPageSetup(), "the panel itself still works");
-    }
-
-    void aPanelThatIsGoneHearsNothing()
-    {
-        makePanel(printer());
-        m_panel.reset();
-        m_host->forgetCalls();
-        postPaperChange();
-        QVERIFY(m_host->calls().isEmpty());
-    }
-
-private:
-    void makePanel(const PpdBuilder &ppd)
-    {
-        m_panel.reset();
-        m_host = RecordingHost::forPpd(ppd.text());
-        m_panel = std::make_unique<PrintSettingProbe>(m_host);
-        QVERIFY(m_panel->initWithHost());
-        QCOMPARE(m_panel->paperName, u"A4"_s);
-        m_host->forgetCalls();
-    }
-    static void postPaperChange()
-    {
-        NotificationCenter::defaultCenter().post(
-            QLatin1StringView(kPrintDestinationPaperDidChangeNotification), nullptr);
-    }
-
-    std::optional<UserPreferences> m_preferences;
-    std::optional<TestBundle> m_bundle;
-    std::shared_ptr<RecordingHost> m_host;
-    std::unique_ptr<PrintSettingProbe> m_panel;
 };
 
 QTEST_MAIN(PaperTest)

@@ -20,7 +20,7 @@ struct SleepTimeCase
     qint64 maximum;
 };
 
-PpdBuilder withSleepTime()
+PpdBuilder printerWithSleepTime()
 {
     PpdBuilder ppd;
     ppd.option("QXSleepTime", "Sleep Time", "Default", {{"Default", "Automatic"}});
@@ -30,13 +30,16 @@ PpdBuilder withSleepTime()
 QList<SleepTimeCase> sleepTimeCases()
 {
     return {
-        {"no custom option", withSleepTime(), QString(), 1, 99},
-        {"no parameter Time", withSleepTime().customInteger("QXSleepTime", "Span", "Span", 5, 50),
-         QString(), 1, 99},
-        {"declared bounds", withSleepTime().customInteger("QXSleepTime", "Time", "Minutes", 5, 50),
+        {"no custom option", printerWithSleepTime(), QString(), 1, 99},
+        {"no parameter Time",
+         printerWithSleepTime().customInteger("QXSleepTime", "Span", "Span", 5, 50), QString(), 1,
+         99},
+        {"declared bounds",
+         printerWithSleepTime().customInteger("QXSleepTime", "Time", "Minutes", 5, 50),
          u"QXSleepTime_Time"_s, 5, 50},
         {"a parameter that is no whole number",
-         withSleepTime().customOfType("QXSleepTime", "Time", "real"), u"QXSleepTime_Time"_s, 1, 99},
+         printerWithSleepTime().customOfType("QXSleepTime", "Time", "real"), u"QXSleepTime_Time"_s,
+         1, 99},
     };
 }
 

@@ -8,7 +8,7 @@ test_theReleaseIsTestedWhereNothingElseIsSaid() {
     start test
     expect_status 0
     expect_order 'cmake --build --preset release' 'ctest --preset release'
-    expect_call "ctest in $checkout with 4 jobs"
+    expect_call "ctest in $checkout with 24 jobs"
 }
 
 test_aPresetIsBuiltAndTested() {

@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool themeIsAsked = false;
-
 // All drawings are made on a square of this many units.
 constexpr qreal kGrid = 24;
 
@@ -156,10 +154,11 @@ PrinterLook lookOf(const Printer &printer, Presence presence)
     return printer.state == PrinterState::Processing ? PrinterLook::Printing : PrinterLook::Ready;
 }
 
-QIcon printerIcon(PrinterLook look)
+QIcon printerIcon(PrinterLook look, IconSource source)
 {
-    return QIcon(new DrawnIcon([look](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
-        const QIcon theme = themeIsAsked ? QIcon::fromTheme(u"printer"_s) : QIcon();
+    const bool asksTheme = source == IconSource::Theme;
+    return QIcon(new DrawnIcon([=](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
+        const QIcon theme = asksTheme ? QIcon::fromTheme(u"printer"_s) : QIcon();
         if (!theme.isNull())
             theme.paint(&painter, rect, Qt::AlignCenter,
                         mode == QIcon::Disabled ? mode : QIcon::Normal);
@@ -171,11 +170,6 @@ QIcon printerIcon(PrinterLook look)
         if (look != PrinterLook::Ready)
             drawMark(painter, look);
     }));
-}
-
-void takePrinterIconsFromTheme()
-{
-    themeIsAsked = true;
 }
 
 QIcon searchIcon()

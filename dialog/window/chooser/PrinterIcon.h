@@ -11,15 +11,14 @@ enum class PrinterLook { Ready, Printing, Stopped, TakesNoJobs, Gone };
 
 PrinterLook lookOf(const Printer &printer, Presence presence = Presence::Listed);
 
-/// The theme's printer, or one of our own where the theme has none, with a mark that tells the
-/// looks apart by its form as well as by its colour. Follows the palette; sharp at any scale.
-///
-/// It is our own until takePrinterIconsFromTheme() was called.
-QIcon printerIcon(PrinterLook look);
+/// Whose picture of a printer is shown. The first question to a theme reads its folders, so a
+/// window shows our own picture until it is on the screen.
+enum class IconSource { Own, Theme };
 
-/// From now on the theme is asked, also by icons that were made before. The first question to a
-/// theme reads its folders, so a window asks when it is on the screen.
-void takePrinterIconsFromTheme();
+/// The theme's printer, or one of our own where the theme has none or is not asked, with a mark
+/// that tells the looks apart by its form as well as by its colour. Follows the palette; sharp at
+/// any scale.
+QIcon printerIcon(PrinterLook look, IconSource source);
 
 /// The sign of a search field: the theme's, or one of our own.
 QIcon searchIcon();

@@ -4,7 +4,6 @@
 
 #include <QHash>
 
-#include "dialog/window/chooser/PrinterIcon.h"
 #include "dialog/window/chooser/PrinterSearch.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 
@@ -232,6 +231,13 @@ const QString &PrinterModel::searchKey(int row) const
     return found.searchKey;
 }
 
+void PrinterModel::setIconSource(IconSource source)
+{
+    m_iconSource = source;
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::DecorationRole});
+}
+
 int PrinterModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(m_rows.size());
@@ -246,7 +252,7 @@ QVariant PrinterModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return displayName(row.printer);
     case Qt::DecorationRole:
-        return printerIcon(lookOf(row.printer, row.presence));
+        return printerIcon(lookOf(row.printer, row.presence), m_iconSource);
     case Qt::ToolTipRole:
         return printerToolTip(row.printer, row.presence);
     case Qt::AccessibleTextRole:

@@ -7,6 +7,7 @@
 #include <QPersistentModelIndex>
 
 #include "dialog/printers/PrinterId.h"
+#include "dialog/window/chooser/PrinterIcon.h"
 #include "dialog/window/chooser/PrinterTexts.h"
 
 namespace corvana {
@@ -39,6 +40,9 @@ public:
     /// Keeps the printer of this row, or of none (-1), when a later list lacks it: it stays where
     /// it was, as one that is gone, until another one is kept or it is listed again.
     void keep(int row);
+
+    /// Where the pictures of the printers come from; at first they are our own.
+    void setIconSource(IconSource source);
 
     /// Range: an existing row.
     const Printer &printer(int row) const;
@@ -78,6 +82,7 @@ private:
 
     Rows m_rows;
     QPersistentModelIndex m_kept;
+    IconSource m_iconSource = IconSource::Own;
 };
 
 } // namespace corvana

@@ -8,7 +8,6 @@
 #include <QStyle>
 
 #include "dialog/window/chooser/ElidedLabel.h"
-#include "dialog/window/chooser/PrinterIcon.h"
 
 namespace corvana {
 
@@ -40,13 +39,15 @@ PrinterStatusLine::PrinterStatusLine(QWidget *parent)
 void PrinterStatusLine::setPrinter(const Printer &printer, Presence presence)
 {
     const QString text = statusText(printer, presence);
-    showLine(text.isEmpty() ? QIcon() : printerIcon(lookOf(printer, presence)), text,
+    m_look = lookOf(printer, presence);
+    showLine(text.isEmpty() ? QIcon() : printerIcon(*m_look, m_source), text,
              plainLine(printer.location), {});
 }
 
 void PrinterStatusLine::setProblem(const QString &text, const std::function<void()> &retry,
                                    const QString &buttonText)
 {
+    m_look.reset();
     m_retryButton->setText(buttonText.isEmpty() ? tr("Try Again") : buttonText);
     showLine(style()->standardIcon(QStyle::SP_MessageBoxWarning), plainLine(text), QString(),
              retry);
@@ -56,6 +57,7 @@ void PrinterStatusLine::setProblem(const QString &text, const std::function<void
 
 void PrinterStatusLine::clear()
 {
+    m_look.reset();
     showLine(QIcon(), QString(), QString(), {});
 }
 
@@ -79,6 +81,14 @@ void PrinterStatusLine::updateIcon()
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(m_shownIcon.pixmap(QSize(side, side), devicePixelRatioF()));
     m_icon->setVisible(!m_shownIcon.isNull());
+}
+
+void PrinterStatusLine::takeIconFromTheme()
+{
+    m_source = IconSource::Theme;
+    if (m_look && !m_shownIcon.isNull())
+        m_shownIcon = printerIcon(*m_look, m_source);
+    updateIcon();
 }
 
 void PrinterStatusLine::changeEvent(QEvent *event)

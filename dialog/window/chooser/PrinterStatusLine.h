@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QWidget>
 
+#include "dialog/window/chooser/PrinterIcon.h"
 #include "dialog/window/chooser/PrinterTexts.h"
 
 class QLabel;
@@ -34,13 +36,14 @@ public:
 
     QString text() const;
 
-    /// Draws the icon anew, which may look different by now.
-    void updateIcon();
+    /// From now on the printer's picture is the theme's.
+    void takeIconFromTheme();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void updateIcon();
     void showLine(const QIcon &icon, const QString &text, const QString &head,
                   const std::function<void()> &retry);
 
@@ -48,6 +51,8 @@ private:
     ElidedLabel *m_text;
     QPushButton *m_retryButton;
     QIcon m_shownIcon;
+    std::optional<PrinterLook> m_look; ///< of the printer; nothing when no printer is shown
+    IconSource m_source = IconSource::Own;
     std::function<void()> m_retry;
 };
 

@@ -84,7 +84,7 @@ ChoiceEditor::ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *p
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_choices, 1);
     if (m_limits)
-        addField(*m_limits);
+        addField();
     setAutoFillBackground(true);
     setFocusProxy(m_choices);
     addChoices();
@@ -122,7 +122,7 @@ void ChoiceEditor::addChoices()
     }
 }
 
-void ChoiceEditor::addField(const CustomLimits &limits)
+void ChoiceEditor::addField()
 {
     m_field = new QLineEdit(this);
     m_field->setObjectName(u"customValue"_s);
@@ -130,7 +130,7 @@ void ChoiceEditor::addField(const CustomLimits &limits)
     m_field->setAccessibleDescription(allowed());
     m_field->setPlaceholderText(allowed());
     m_field->setToolTip(plainToolTip(allowed()));
-    if (limits.kind == CustomLimits::Kind::HiddenText)
+    if (isSecret(m_session.ppd(), m_keyword))
         m_field->setEchoMode(QLineEdit::Password);
     layout()->addWidget(m_field);
     static_cast<QHBoxLayout *>(layout())->setStretchFactor(m_field, 1);
@@ -236,7 +236,7 @@ QString ChoiceEditor::hint() const
 
 QString ChoiceEditor::problem() const
 {
-    const bool shown = m_limits->kind != CustomLimits::Kind::HiddenText;
+    const bool shown = !isSecret(m_session.ppd(), m_keyword);
     return shown ? tr("“%1” is not possible for %2. Allowed: %3.")
                        .arg(m_field->text(), m_field->accessibleName(), allowed())
                  : tr("This is not possible for %1. Allowed: %2.")

@@ -65,7 +65,7 @@ protected:
 
 private:
     void addChoices();
-    void addField(const CustomLimits &limits);
+    void addField();
     bool isCustom() const;
     void picked();
     void showField(bool shown);

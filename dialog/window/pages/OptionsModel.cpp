@@ -68,12 +68,11 @@ OptionsModel::OptionsModel(PpdSession &session, QObject *parent)
             if (!isOffered.contains(option))
                 continue;
             const QString keyword = ppdKeyword(option->keyword);
-            const auto limits = customLimits(session.ppd(), keyword);
             Option row;
             row.option = option;
             row.keyword = keyword;
             row.title = ppdText(option->text).value_or(keyword);
-            row.isHidden = limits && limits->kind == CustomLimits::Kind::HiddenText;
+            row.isHidden = isSecret(session.ppd(), keyword);
             readMark(row);
             found.options += row;
         }

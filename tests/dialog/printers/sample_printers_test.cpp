@@ -62,6 +62,38 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList{u"good"_s});
     }
 
+    // Looking through whole PPDs would take longer than everything else before the window.
+    void theFirstLinesOfASampleSayEverything_data()
+    {
+        QTest::addColumn<QByteArray>("head");
+        const QByteArray begin = "*PPD-Adobe: \"4.3\"\n";
+        const QByteArray name = "*NickName: \"Head Only\"\n";
+        const QByteArray number = "*cupsModelNumber: 7\n";
+        QTest::newRow("the number last") << begin + name + number;
+        QTest::newRow("the name last") << begin + number + name;
+        QTest::newRow("lines between and behind")
+            << begin + "*% A comment\n" + name + "*Product: \"(Head)\"\n" + number + "*%\n";
+    }
+    void theFirstLinesOfASampleSayEverything()
+    {
+        QFETCH(QByteArray, head);
+        // Whoever opens this says that it is no PPD.
+        write(u"head.ppd"_s, head + "*OpenUI which is broken");
+        const QList<Printer> printers = samplePrinters(m_folder->path());
+        QCOMPARE(printers.size(), 1);
+        QCOMPARE(printers.at(0).description, u"Head Only"_s);
+        QCOMPARE(printers.at(0).modelNumber, 7);
+    }
+
+    void aSampleThatEndsInItsFirstLinesIsReadToItsEnd()
+    {
+        write(u"short.ppd"_s, PpdBuilder().modelNumber(3).text().trimmed());
+        write(u"last.ppd"_s, "*PPD-Adobe: \"4.3\"\n*NickName: \"Last\"\n*cupsModelNumber: 12");
+        const QList<Printer> printers = samplePrinters(m_folder->path());
+        QCOMPARE(names(), QStringList({u"last"_s, u"short"_s}));
+        QCOMPARE(printers.value(0).modelNumber, 12);
+    }
+
     void otherFilesAreNotLookedAt()
     {
         write(u"good.ppd"_s, PpdBuilder().text());

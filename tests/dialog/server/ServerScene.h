@@ -2,10 +2,13 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 
 #include <QFile>
 #include <QMetaType>
+#include <QObject>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "dialog/server/ServerConnection.h"
 #include "tests/support/cups/FaultyServer.h"
@@ -67,6 +70,21 @@ struct ServerScene
     QTemporaryDir home;
     PrivateCups cups;
     std::unique_ptr<FaultyServer> server;
+};
+
+/// What nearly every test with a ServerScene sets up: one for the whole test, and for each function
+/// another server in front of it.
+class ServerFixture : public QObject
+{
+protected:
+    void startScene()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+        m_scene.emplace();
+    }
+
+    std::optional<ServerScene> m_scene;
 };
 
 } // namespace corvana::test

@@ -84,17 +84,12 @@ QByteArray manyMedia(int media)
 } // namespace
 
 /// Answers that are none, that have no end, or that take their time.
-class ServerAnswerTest : public QObject
+class ServerAnswerTest : public ServerFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_scene.emplace();
-    }
+    void initTestCase() { startScene(); }
     void cleanupTestCase() { m_scene.reset(); }
     void init() { m_scene->anew(); }
 
@@ -305,9 +300,6 @@ private Q_SLOTS:
         const ServerWait::Clock::time_point begin{1000h};
         QCOMPARE(AnswerPace(begin, 20s).deadline(received, begin + after) - begin, until);
     }
-
-private:
-    std::optional<ServerScene> m_scene;
 };
 
 QTEST_GUILESS_MAIN(ServerAnswerTest)

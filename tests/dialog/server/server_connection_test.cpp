@@ -36,17 +36,12 @@ protected:
 } // namespace
 
 /// One connection, against servers in every manner.
-class ServerConnectionTest : public QObject
+class ServerConnectionTest : public ServerFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_scene.emplace();
-    }
+    void initTestCase() { startScene(); }
     void cleanupTestCase() { m_scene.reset(); }
     void init() { m_scene->anew(); }
 
@@ -271,9 +266,6 @@ private Q_SLOTS:
         QCOMPARE(patience.connecting.count(),
                  milliseconds ? milliseconds : usual.connecting.count());
     }
-
-private:
-    std::optional<ServerScene> m_scene;
 };
 
 QTEST_GUILESS_MAIN(ServerConnectionTest)

@@ -16,17 +16,12 @@ using Kind = ServerProblem::Kind;
 using State = ServerConnection::File::State;
 
 /// Connections that are encrypted, and to whom.
-class ServerEncryptionTest : public QObject
+class ServerEncryptionTest : public ServerFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_scene.emplace();
-    }
+    void initTestCase() { startScene(); }
     void cleanupTestCase() { m_scene.reset(); }
     void init() { m_scene->anew(); }
 
@@ -235,8 +230,6 @@ private:
         context.address.encryption = HTTP_ENCRYPTION_ALWAYS;
         return context;
     }
-
-    std::optional<ServerScene> m_scene;
 };
 
 QTEST_GUILESS_MAIN(ServerEncryptionTest)

@@ -14,17 +14,12 @@ using Kind = ServerProblem::Kind;
 using State = ServerConnection::File::State;
 
 /// Files that are fetched from a server.
-class ServerGetTest : public QObject
+class ServerGetTest : public ServerFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_scene.emplace();
-    }
+    void initTestCase() { startScene(); }
     void cleanupTestCase() { m_scene.reset(); }
     void init() { m_scene->anew(); }
 
@@ -158,9 +153,6 @@ private Q_SLOTS:
         QVERIFY(file.content.isEmpty());
         QCOMPARE(connection.problem().kind, Kind::TooLarge);
     }
-
-private:
-    std::optional<ServerScene> m_scene;
 };
 
 QTEST_GUILESS_MAIN(ServerGetTest)

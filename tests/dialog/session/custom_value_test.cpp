@@ -46,6 +46,60 @@ private:
     std::unique_ptr<PpdSession> m_custom;
 
 private Q_SLOTS:
+    void aPinIsASecretWhateverItsType_data()
+    {
+        QTest::addColumn<QByteArray>("keyword");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<bool>("secret");
+        const auto row = [](const char *name, const char *keyword, const char *text,
+                            const char *type, bool secret) {
+            QTest::newRow(name) << QByteArray(keyword) << QByteArray(text) << QByteArray(type)
+                                << secret;
+        };
+        row("by its type", "Lock", "Lock", "passcode", true);
+        row("a number, by its keyword", "JobPin", "Lock", "int", true);
+        row("a number, by its text", "Lock", "Access Code", "int", true);
+        row("a text", "Lock", "暗証番号", "string", true);
+        row("a fraction", "Lock", "密码", "real", true);
+        row("any other number", "Spinning", "Spinning", "int", false);
+    }
+    void aPinIsASecretWhateverItsType()
+    {
+        QFETCH(QByteArray, keyword);
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, type);
+        const auto session = sessionFor(PpdBuilder()
+                                            .option(keyword, text, "None", {{"None", "None"}})
+                                            .customOfType(keyword, "Value", type));
+        QTEST(isSecret(session->ppd(), QString::fromUtf8(keyword)), "secret");
+    }
+
+    void aParameterWithoutTheChoiceCustomTakesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("ppd");
+        const PpdBuilder whole =
+            PpdBuilder().onOff("Sleep", "Sleep").customInteger("Sleep", "Time", "Minutes", 1, 99);
+        QTest::newRow("no line for the choice")
+            << whole.text().replace("*CustomSleep True/Custom: \"\"\n", "");
+        QTest::newRow("the option is not closed") << whole.text().replace("*CloseUI: *Sleep\n", "");
+    }
+    void aParameterWithoutTheChoiceCustomTakesNothing()
+    {
+        QFETCH(QByteArray, ppd);
+        const auto session = sessionFor(ppd);
+        QVERIFY(!checkCustomValue(session->ppd(), u"Sleep"_s, u"Custom.12"_s).value);
+        QVERIFY(!customLimits(session->ppd(), u"Sleep"_s));
+        QVERIFY(allowedCustomValues(session->ppd(), u"Sleep"_s).isEmpty());
+        // Whoever does not check hears it from the session.
+        const ChangeResult result =
+            session->change(u"Sleep"_s, u"Custom.12"_s, PpdSession::Origin::Dialog);
+        QVERIFY(!result.accepted());
+        QVERIFY(!session->changeTogether({{u"Sleep"_s, u"Custom.12"_s}}).isEmpty());
+        QCOMPARE(session->markedChoice(u"Sleep"_s), u"OFF"_s);
+        QVERIFY(session->customValue(u"Sleep"_s).isNull());
+    }
+
     void initTestCase()
     {
         m_sample = sampleSession();

@@ -1,3 +1,5 @@
+#include <ctime>
+
 #include <QTest>
 
 #include "dialog/session/JobAttributes.h"
@@ -22,12 +24,10 @@ const QList<Samples> &samples()
         {u"number-up"_s,
          {u"1"_s, u"2"_s, u"4"_s, u"6"_s, u"9"_s, u"16"_s},
          {QString(), u"0"_s, u"3"_s, u"8"_s, u"-2"_s, u"02"_s, u"2 "_s, u"2\n"_s, u"two"_s}},
-        {u"number-up-layout"_s,
-         {u"lrtb"_s, u"tbrl"_s},
-         {QString(), u"ltrb"_s, u"LRTB"_s, u"lrtb "_s}},
+        {u"number-up-layout"_s, {u"lrtb"_s, u"tbrl"_s}, {QString(), u"ltrb"_s, u"lrtb "_s}},
         {u"page-border"_s,
          {u"none"_s, u"single"_s, u"double-thick"_s},
-         {QString(), u"thick"_s, u"None"_s}},
+         {QString(), u"thick"_s, u"None "_s}},
         {u"page-ranges"_s,
          {u"1"_s, u"1-4"_s, u"1-4,7,9-"_s, u"-3"_s, u"3-3"_s, u"2,4,6"_s, u"999999999"_s,
           u"5-999999999"_s},
@@ -53,21 +53,19 @@ const QList<Samples> &samples()
           u"0-4"_s,
           u"-0"_s,
           u"１"_s}},
-        {u"page-set"_s, {u"all"_s, u"even"_s, u"odd"_s}, {QString(), u"Even"_s, u"none"_s}},
+        {u"page-set"_s, {u"all"_s, u"even"_s, u"odd"_s}, {QString(), u"none"_s}},
         {u"orientation-requested"_s,
          {u"3"_s, u"4"_s, u"5"_s, u"6"_s},
-         {QString(), u"2"_s, u"7"_s, u"portrait"_s, u"03"_s}},
-        {u"fit-to-page"_s,
-         {u"true"_s, u"false"_s},
-         {QString(), u"True"_s, u"yes"_s, u"1"_s, u"on"_s}},
+         {QString(), u"2"_s, u"7"_s, u"sideways"_s, u"03"_s}},
+        {u"fit-to-page"_s, {u"true"_s, u"false"_s}, {QString(), u"1"_s, u"perhaps"_s, u"true "_s}},
         {u"print-scaling"_s,
          {u"auto"_s, u"auto-fit"_s, u"fill"_s, u"fit"_s, u"none"_s},
-         {QString(), u"Fit"_s, u"100"_s}},
+         {QString(), u"100"_s}},
         {u"scaling"_s, {u"1"_s, u"100"_s, u"800"_s}, {QString(), u"0"_s, u"801"_s, u"50.5"_s}},
         {u"natural-scaling"_s, {u"1"_s, u"800"_s}, {QString(), u"0"_s, u"-1"_s, u"50%"_s}},
         {u"ppi"_s, {u"1"_s, u"9600"_s}, {QString(), u"0"_s, u"9601"_s, u"99999999999"_s}},
         {u"position"_s, {u"center"_s, u"bottom-right"_s}, {QString(), u"middle"_s}},
-        {u"mirror"_s, {u"true"_s, u"false"_s}, {QString(), u"yes"_s}},
+        {u"mirror"_s, {u"true"_s, u"false"_s}, {QString(), u"2"_s}},
         {u"page-left"_s, {u"0"_s, u"36"_s, u"28.35"_s, u"9999"_s}, {QString(), u"-1"_s, u"1cm"_s}},
         {u"page-right"_s, {u"36"_s}, {QString(), u"10000"_s}},
         {u"page-top"_s, {u"36"_s}, {QString(), u"3,5"_s}},
@@ -76,14 +74,14 @@ const QList<Samples> &samples()
         {u"lpi"_s, {u"6"_s, u"8"_s}, {QString(), u"0"_s, u"six"_s}},
         {u"columns"_s, {u"1"_s, u"3"_s}, {QString(), u"0"_s, u"1.5"_s, u"101"_s}},
         {u"wrap"_s, {u"true"_s, u"false"_s}, {QString(), u"0"_s}},
-        {u"prettyprint"_s, {u"true"_s, u"false"_s}, {QString(), u"on"_s}},
-        {u"collate"_s, {u"true"_s, u"false"_s}, {QString(), u"FALSE"_s, u"no"_s}},
-        {u"outputorder"_s, {u"normal"_s, u"reverse"_s}, {QString(), u"Normal"_s, u"backwards"_s}},
+        {u"prettyprint"_s, {u"true"_s, u"false"_s}, {QString(), u"1"_s}},
+        {u"collate"_s, {u"true"_s, u"false"_s}, {QString(), u"0"_s}},
+        {u"outputorder"_s, {u"normal"_s, u"reverse"_s}, {QString(), u"backwards"_s}},
         {u"job-hold-until"_s,
          {u"no-hold"_s, u"indefinite"_s, u"day-time"_s, u"evening"_s, u"night"_s, u"second-shift"_s,
           u"third-shift"_s, u"weekend"_s, u"00:00"_s, u"7:05"_s, u"23:59"_s, u"12:30:59"_s},
          {QString(), u"24:00"_s, u"12:60"_s, u"12:5"_s, u"12"_s, u"12:30:60"_s, u"noon"_s,
-          u"12:30\n"_s, u"Night"_s}},
+          u"12:30\n"_s}},
         {u"job-priority"_s,
          {u"1"_s, u"50"_s, u"100"_s},
          {QString(), u"0"_s, u"101"_s, u"-1"_s, u"50.0"_s, u"high"_s, u" 50"_s, u"50\n"_s,
@@ -95,6 +93,22 @@ const QList<Samples> &samples()
         {u"job-billing"_s,
          {u"Accounts 12"_s, u"経理"_s, QString(255, u'x')},
          {QString(), QString(256, u'x'), QString(100, u'経'), u"a\nb"_s}},
+        {u"job-cancel-after"_s,
+         {u"1"_s, u"3600"_s, u"999999"_s},
+         {QString(), u"0"_s, u"-1"_s, u"1h"_s, u"1000000"_s}},
+        {u"print-color-mode"_s,
+         {u"auto"_s, u"color"_s, u"monochrome"_s, u"Monochrome"_s},
+         {QString(), u"grey"_s, u"monochrome "_s}},
+        {u"print-quality"_s,
+         {u"3"_s, u"4"_s, u"5"_s, u"draft"_s, u"High"_s},
+         {QString(), u"2"_s, u"6"_s, u"best"_s}},
+        {u"printer-resolution"_s,
+         {u"600dpi"_s, u"1200x600dpi"_s},
+         {QString(), u"600"_s, u"600x"_s, u"600dpcm"_s, u"Custom.600dpi"_s}},
+        {u"output-bin"_s, {u"face-down"_s, u"Upper"_s}, {QString(), u"two words"_s, u"{a}"_s}},
+        {u"finishings"_s, {u"3"_s, u"4,5"_s, u"staple"_s}, {QString(), u"4,"_s, u"4 5"_s}},
+        {u"media-source"_s, {u"tray-1"_s, u"Lower"_s}, {QString(), u"a,b"_s}},
+        {u"media-type"_s, {u"stationery"_s}, {QString(), u"a/b"_s}},
     };
     return all;
 }
@@ -115,7 +129,7 @@ constexpr Said kSaid[] = {
     {"cpi", "1 to 100"},
     {"page-left", "0 to 9999 points of 1/72 inch"},
     {"job-hold-until", "no-hold, indefinite, day-time, evening, night, second-shift, third-shift, "
-                       "weekend, or a time HH:MM"},
+                       "weekend, or a time HH:MM in UTC"},
 };
 
 } // namespace
@@ -163,6 +177,32 @@ private Q_SLOTS:
         QCOMPARE(attribute->accepts(value), taken);
     }
 
+    void aValueHasOneSpellingInside_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("inside");
+        const auto row = [](const QString &name, const QString &value, const QString &inside) {
+            QTest::newRow(qPrintable(name + u'=' + value)) << name << value << inside;
+        };
+        row(u"number-up-layout"_s, u"LRTB"_s, u"lrtb"_s);
+        row(u"page-set"_s, u"Even"_s, u"even"_s);
+        row(u"fit-to-page"_s, u"True"_s, u"true"_s);
+        row(u"fit-to-page"_s, u"Yes"_s, u"true"_s);
+        row(u"collate"_s, u"off"_s, u"false"_s);
+        row(u"orientation-requested"_s, u"landscape"_s, u"4"_s);
+        row(u"orientation-requested"_s, u"Reverse-Portrait"_s, u"6"_s);
+        row(u"print-quality"_s, u"High"_s, u"5"_s);
+        row(u"job-hold-until"_s, u"Night"_s, u"night"_s);
+        row(u"job-billing"_s, u"Accounts"_s, u"Accounts"_s);
+    }
+    void aValueHasOneSpellingInside()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QTEST(jobAttribute(name)->allowed.inOneSpelling(value).value_or(QString()), "inside");
+    }
+
     void whatIsSaidOfTheValuesIsWhatIsChecked()
     {
         for (const QString &name : jobAttributeNames()) {
@@ -207,7 +247,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::newRow("unknown") << u"staple"_s;
         QTest::newRow("empty") << QString();
-        QTest::newRow("other case") << u"Number-Up"_s;
+        QTest::newRow("other case; whoever reads options finds it") << u"Number-Up"_s;
         QTest::newRow("the number of copies has an option of its own") << u"copies"_s;
         QTest::newRow("raw data would skip every setting") << u"raw"_s;
     }
@@ -238,6 +278,22 @@ private Q_SLOTS:
         QTEST(u"%1: %2"_s.arg(text.title, text.value), "shown");
     }
 
+    // As lp and the servers take it.
+    void aTimeIsSaidToBeUtc()
+    {
+        const QByteArray before = qgetenv("TZ");
+        const auto here = [](const char *zone, const QString &time) {
+            qputenv("TZ", zone);
+            tzset();
+            return textOfJobAttribute({u"job-hold-until"_s, time}).value;
+        };
+        QCOMPARE(here("UTC0", u"22:30"_s), u"22:30 UTC"_s);
+        QCOMPARE(here("JST-9", u"22:30"_s), u"22:30 UTC (07:30 here)"_s);
+        QCOMPARE(here("JST-9", u"evening"_s), u"evening"_s);
+        before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
+        tzset();
+    }
+
     void olderSpellings_data()
     {
         QTest::addColumn<QString>("name");
@@ -251,6 +307,13 @@ private Q_SLOTS:
         row(u"landscape"_s, u"perhaps"_s, u"landscape=perhaps"_s);
         row(u"fitplot"_s, u"true"_s, u"fit-to-page=true"_s);
         row(u"number-up"_s, u"2"_s, u"number-up=2"_s);
+        row(u"multiple-document-handling"_s, u"separate-documents-collated-copies"_s,
+            u"collate=true"_s);
+        row(u"multiple-document-handling"_s, u"separate-documents-uncollated-copies"_s,
+            u"collate=false"_s);
+        row(u"multiple-document-handling"_s, u"single-document"_s,
+            u"multiple-document-handling=single-document"_s);
+        row(u"resolution"_s, u"600dpi"_s, u"printer-resolution=600dpi"_s);
     }
     void olderSpellings()
     {

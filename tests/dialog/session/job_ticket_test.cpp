@@ -61,6 +61,46 @@ private Q_SLOTS:
                                    {u"AP_ColorMatchingMode"_s, u"AP_VendorColorMatching"_s}}));
     }
 
+    void severalCopiesAreCollatedUnlessSomebodyWantsThemOtherwise_data()
+    {
+        QTest::addColumn<bool>("hasOption");
+        QTest::addColumn<int>("copies");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QString>("job");
+        const auto row = [](const char *name, bool hasOption, int copies, const QString &asked,
+                            const QString &job) {
+            QTest::newRow(name) << hasOption << copies << asked << job;
+        };
+        const QString on =
+            u"collate=true multiple-document-handling=separate-documents-collated-copies"_s;
+        const QString off =
+            u"collate=false multiple-document-handling=separate-documents-uncollated-copies"_s;
+        row("one copy says nothing", false, 1, {}, {});
+        row("one copy, asked for", false, 1, u"false"_s, off);
+        row("several", false, 3, {}, on);
+        row("several, asked for", false, 3, u"true"_s, on);
+        row("several, not collated", false, 3, u"false"_s, off);
+        row("the printer's own option says it", true, 3, {}, {});
+    }
+    void severalCopiesAreCollatedUnlessSomebodyWantsThemOtherwise()
+    {
+        QFETCH(bool, hasOption);
+        QFETCH(int, copies);
+        QFETCH(QString, asked);
+        PpdBuilder ppd;
+        if (hasOption)
+            ppd.option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}});
+        const auto session = sessionFor(ppd);
+        QList<JobOption> attributes;
+        if (!asked.isEmpty())
+            attributes += JobOption{u"collate"_s, asked};
+        QStringList job;
+        for (const JobOption &option : withCollation(attributes, copies, *session))
+            job += option.name + u'=' + option.value;
+        QTEST(job.join(u' '), "job");
+        QCOMPARE(isCollated(*session, attributes), asked != u"false"_s);
+    }
+
     void anOptionWithoutAMarkIsLeftToThePrinter()
     {
         const auto session = sessionFor(

@@ -100,6 +100,27 @@ private Q_SLOTS:
         row(u"media=custom_mine_148x210mm"_s, page, u"A5"_s);
         row(u"media=Custom.100x200mm"_s, page, u"Custom"_s, u"Custom.283.46457x566.92913"_s);
 
+        // Names and words are the same to lp in any case.
+        row(u"qxmediatype=THICK"_s, u"QXMediaType"_s, u"Thick"_s);
+        row(u"pagesize=letter"_s, page, u"Letter"_s);
+        row(u"Media=a5"_s, page, u"A5"_s);
+        row(u"media=ISO_A5_148x210MM"_s, page, u"A5"_s);
+        row(u"PageSize=custom.100x200MM"_s, page, u"Custom"_s, u"Custom.283.46457x566.92913"_s);
+        row(u"SIDES=One-Sided"_s, u"Duplex"_s, u"None"_s);
+
+        // Any size, in any unit and spelling.
+        row(u"media=custom.100x200mm"_s, page, u"Custom"_s, u"Custom.283.46457x566.92913"_s);
+        row(u"media=Custom.4x6in"_s, page, u"Custom"_s, u"Custom.288x432"_s);
+        row(u"media=Custom.288x432"_s, page, u"Custom"_s, u"Custom.288x432"_s);
+        row(u"media=Custom.10x20CM"_s, page, u"Custom"_s, u"Custom.283.46457x566.92913"_s);
+        row(u"media=Custom.0.1x0.2m"_s, page, u"Custom"_s, u"Custom.283.46457x566.92913"_s);
+        row(u"media=Custom.0.5x1ft"_s, page, u"Custom"_s, u"Custom.432x864"_s);
+        row(u"media=custom_100x200mm_100x200mm"_s, page, u"Custom"_s,
+            u"Custom.283.46457x566.92913"_s);
+        row(u"media=custom_mine_10x20cm"_s, page, u"Custom"_s, u"Custom.283.46457x566.92913"_s);
+        row(u"media=custom_4x6in_4x6in"_s, page, u"Custom"_s, u"Custom.288x432"_s);
+        row(u"media=jis_b6_128x182mm"_s, page, u"Custom"_s, u"Custom.362.83465x515.90551"_s);
+
         row(u"sides=one-sided"_s, u"Duplex"_s, u"None"_s);
         row(u"sides=two-sided-long-edge"_s, u"Duplex"_s, u"DuplexNoTumble"_s);
         row(u"sides=two-sided-short-edge"_s, u"Duplex"_s, u"DuplexTumble"_s);
@@ -140,12 +161,10 @@ private Q_SLOTS:
         row("unknown option", u"Stapler=ON"_s,
             {u"no such option"_s, u"QXMediaType"_s, u"PageSize"_s, u"number-up"_s},
             {u"PageRegion"_s});
-        row("option in other case", u"duplex=None"_s, {u"no such option"_s, u"Duplex"_s});
         row("page region, which follows the page size", u"PageRegion=A5"_s,
             {u"no such option"_s, u"PageSize"_s});
         row("unknown choice", u"Duplex=Both"_s,
             {u"not allowed"_s, u"None, DuplexNoTumble, DuplexTumble"_s});
-        row("choice in other case", u"Duplex=none"_s, {u"None, DuplexNoTumble, DuplexTumble"_s});
         row("choice with a line break", u"Duplex='None\n'"_s, {u"None, DuplexNoTumble"_s});
         row("empty choice", u"Duplex="_s, {u"None, DuplexNoTumble, DuplexTumble"_s});
         row("custom value of an option without any", u"Duplex=Custom.1"_s,
@@ -160,6 +179,10 @@ private Q_SLOTS:
         row("media the printer lacks", u"media=iso_a3_297x420mm"_s, {u"A4"_s, u"EnvDL"_s});
         row("media without a size", u"media=Custom"_s, {u"A4"_s, u"Custom.WIDTH"_s});
         row("custom media out of range", u"media=Custom.1x1mm"_s, {u"A4"_s, u"Custom.WIDTH"_s});
+        row("the least size that a printer takes", u"media=custom_min_90x140mm"_s, {u"A4"_s});
+        row("the largest size that a printer takes", u"media=custom_max_200x300mm"_s, {u"A4"_s});
+        row("a size in a unit that nobody knows", u"media=custom_mine_100x200px"_s, {u"A4"_s});
+        row("a size without a unit", u"media=custom_mine_300x400"_s, {u"A4"_s});
         row("sides nobody knows", u"sides=three-sided"_s,
             {u"one-sided, two-sided-long-edge, two-sided-short-edge"_s});
         row("attribute", u"number-up=3"_s, {u"1, 2, 4, 6, 9, 16"_s});
@@ -213,7 +236,8 @@ private Q_SLOTS:
     {
         // The entry "Custom" of the PPD's own list has the size that was asked for last.
         QVERIFY(apply({u"PageSize=Custom.90x200mm"_s}).ok());
-        QVERIFY(!apply({u"media=custom_mine_90x200mm"_s}).ok());
+        QVERIFY(apply({u"media=custom_mine_91x200mm"_s}).ok());
+        QCOMPARE(m_session->customValue(u"PageSize"_s), u"Custom.257.95276x566.92913"_s);
     }
 };
 

@@ -41,6 +41,27 @@ private Q_SLOTS:
         QVERIFY(ppdIsMarked(ppd.get(), "Duplex", "None"));
     }
 
+    void copiesAreCollatedByDefault()
+    {
+        const PpdBuilder printer =
+            PpdBuilder().option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}});
+        const PpdFile ppd = openedPpd(printer.text());
+        QVERIFY(ppdIsMarked(ppd.get(), "Collate", "True"));
+        QCOMPARE(QByteArray(ppdFindOption(ppd.get(), "Collate")->defchoice), QByteArray("True"));
+    }
+
+    void copiesAreNotCollatedWhereThatCollidesWithTheDefaults()
+    {
+        PpdBuilder printer =
+            PpdBuilder()
+                .option("Memory", "Memory", "Small", {{"Small", "64 MB"}})
+                .option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}});
+        printer.constraint("Collate", "True", "Memory", "Small");
+        const PpdFile ppd = openedPpd(printer.text());
+        QVERIFY(ppdIsMarked(ppd.get(), "Collate", "False"));
+        QCOMPARE(QByteArray(ppdFindOption(ppd.get(), "Collate")->defchoice), QByteArray("False"));
+    }
+
     void aMissingFileIsNamed()
     {
         QString error;

@@ -28,13 +28,38 @@ private Q_SLOTS:
         plugIn.panels.at(0)->summaryLines = {{u"Media"_s, u"Plain Paper"_s}};
         plugIn.panels.at(1)->summaryLines = {{u"Color"_s, u"Vivid"_s}};
         QCOMPARE(sessionSummary(*session, panels, 3, {}),
-                 (QList<SummaryLine>{{u"Copies"_s, u"3"_s},
+                 (QList<SummaryLine>{{u"Copies"_s, u"3, collated"_s},
                                      {u"Two-Sided"_s, u"Short Edge"_s},
                                      {u"Paper Size"_s, u"A4"_s},
                                      {u"Output To"_s, u"Printer"_s},
                                      {u"Colors Matched By"_s, u"Printer"_s},
                                      {u"Media"_s, u"Plain Paper"_s},
                                      {u"Color"_s, u"Vivid"_s}}));
+    }
+
+    void theCopiesSayWhetherTheyAreCollated()
+    {
+        const auto session = sessionFor(PpdBuilder());
+        PanelHost panels(*session, nullptr, m_presenter);
+        const QList<JobOption> uncollated{{u"collate"_s, u"false"_s}};
+        QCOMPARE(
+            sessionSummary(*session, panels, 3, uncollated),
+            (QList<SummaryLine>{{u"Copies"_s, u"3, not collated"_s}, {u"Paper Size"_s, u"A4"_s}}));
+        QCOMPARE(sessionSummary(*session, panels, 1, uncollated),
+                 (QList<SummaryLine>{
+                     {u"Copies"_s, u"1"_s}, {u"Paper Size"_s, u"A4"_s}, {u"Collate"_s, u"Off"_s}}));
+    }
+
+    void thePrintersOwnOptionSaysWhetherCopiesAreCollated()
+    {
+        const auto session = sessionFor(
+            PpdBuilder().option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}}));
+        PanelHost panels(*session, nullptr, m_presenter);
+        QCOMPARE(sessionSummary(*session, panels, 2, {}).constFirst().value, u"2, collated"_s);
+        session->change(u"Collate"_s, u"False"_s, Origin::Dialog);
+        QCOMPARE(
+            sessionSummary(*session, panels, 2, {}),
+            (QList<SummaryLine>{{u"Copies"_s, u"2, not collated"_s}, {u"Paper Size"_s, u"A4"_s}}));
     }
 
     void optionsThatThePrinterLacksHaveNoLine()

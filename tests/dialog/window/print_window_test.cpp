@@ -1,24 +1,28 @@
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollArea>
 #include <QTabWidget>
-#include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/session/OptionRequest.h"
-#include "dialog/window/PrintWindow.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/support/WindowDriver.h"
 #include "tests/support/Gestures.h"
 
 using namespace corvana;
@@ -32,7 +36,7 @@ class PrintWindowTest : public QObject
 
 private:
     std::unique_ptr<FakeFilter> m_filter;
-    std::unique_ptr<PrintWindow> m_dialog;
+    std::unique_ptr<WindowDriver> m_window;
 
     void open(const QByteArray &script, const QList<Printer> &printers)
     {
@@ -43,10 +47,8 @@ private:
         request.output = m_filter->output();
         request.bundleRoots = builtBundleRoots();
         request.printers = printers;
-        m_dialog = std::make_unique<PrintWindow>(request);
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-        QTRY_VERIFY(!m_dialog->findChildren<QScrollArea *>().isEmpty());
+        m_window = std::make_unique<WindowDriver>(request);
+        QTRY_VERIFY(!dialog().findChildren<QScrollArea *>().isEmpty());
     }
     /// A printer without panels; the filter notes its arguments, one a line.
     void openOffice(const QStringList &options, const PpdBuilder &ppd = officePrinter())
@@ -59,10 +61,7 @@ private:
         request.output = m_filter->output();
         request.options = options.isEmpty() ? QList<JobOption>() : parseOptions(options);
         request.printers = {small()};
-        m_dialog = std::make_unique<PrintWindow>(request);
-        m_dialog->show();
-        m_dialog->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        m_window = std::make_unique<WindowDriver>(request, WindowDriver::Activation::Yes);
     }
     QModelIndex option(const QString &keyword)
     {
@@ -90,31 +89,18 @@ private:
     static Printer sample() { return {u"cl5"_s, u"CL"_s, samplePpdPath(), 5}; }
     Printer small() const { return {u"small"_s, u"Small"_s, m_filter->ppdPath(), 1}; }
 
+    PrintWindow &dialog() { return m_window->dialog(); }
     template <typename Control> Control *control(const QString &name)
     {
-        return m_dialog->findChild<Control *>(name);
+        return m_window->child<Control>(name);
     }
-    QList<QWidget *> panelViews()
-    {
-        QList<QWidget *> views;
-        auto *pages = control<QTabWidget>(u"pages"_s);
-        for (int i = 0; i < pages->count(); ++i) {
-            auto *page = qobject_cast<QScrollArea *>(pages->widget(i));
-            if (page && page->widget())
-                views += page->widget();
-        }
-        return views;
-    }
-    QString message()
-    {
-        auto *text = control<QLabel>(u"messageText"_s);
-        return control<QWidget>(u"message"_s)->isVisible() ? text->text() : QString();
-    }
+    QList<QWidget *> panelViews() { return m_window->panelViews(); }
+    QString message() { return m_window->message(); }
 
 private Q_SLOTS:
     void cleanup()
     {
-        m_dialog.reset();
+        m_window.reset();
         m_filter.reset();
     }
 
@@ -153,6 +139,48 @@ private Q_SLOTS:
         QTRY_COMPARE(media->currentData().toString(), u"Env"_s);
     }
 
+    // The first question to a theme takes as long as the first paint itself.
+    void thePrintersPictureIsTheThemesAfterTheFirstPaint()
+    {
+        const QTemporaryDir themes;
+        const QColor unmistakable(1, 200, 100);
+        QVERIFY(QDir(themes.path()).mkpath(u"test/48"_s));
+        writeFile(themes.filePath(u"test/index.theme"_s),
+                  "[Icon Theme]\nName=test\nDirectories=48\n[48]\nSize=48\n");
+        QImage picture(48, 48, QImage::Format_ARGB32);
+        picture.fill(unmistakable);
+        QVERIFY(picture.save(themes.filePath(u"test/48/printer.png"_s)));
+        const auto former = std::pair(QIcon::themeSearchPaths(), QIcon::themeName());
+        const auto restored = qScopeGuard([&former] {
+            QIcon::setThemeSearchPaths(former.first);
+            QIcon::setThemeName(former.second);
+        });
+        QIcon::setThemeSearchPaths({themes.path()});
+        QIcon::setThemeName(u"test"_s);
+        const auto isThemes = [&](const QPixmap &pixmap) {
+            return pixmap.toImage().pixelColor(pixmap.width() / 4, pixmap.height() / 4) ==
+                   unmistakable;
+        };
+        // Twice: what an earlier window has asked for counts for no later one.
+        for (int window = 0; window < 2; ++window) {
+            m_filter = std::make_unique<FakeFilter>("echo ok\n");
+            PrintRequest request;
+            request.documents = {m_filter->document()};
+            request.output = m_filter->output();
+            request.printers = {small()};
+            request.printers[0].state = PrinterState::Processing; // told below the printer
+            const auto shown = [](PrintWindow &of) {
+                const auto *printers = of.findChild<QComboBox *>(u"printers"_s);
+                return printers->itemIcon(printers->currentIndex()).pixmap(48, 48);
+            };
+            PrintWindow unseen(request);
+            QVERIFY(!isThemes(shown(unseen)));
+            m_window = std::make_unique<WindowDriver>(request);
+            QTRY_VERIFY(isThemes(shown(dialog())));
+            QVERIFY(!isThemes(shown(unseen)));
+        }
+    }
+
     void panelsComeUpAfterTheFirstPaint()
     {
         open("echo ok\n", {sample()});
@@ -188,10 +216,10 @@ private Q_SLOTS:
             }
         };
         verify();
-        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_window->pressPrint());
         QVERIFY(m_filter->waitForFile(u"started"_s));
         verify();
-        m_dialog->reject();
+        dialog().reject();
         QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
         verify();
     }
@@ -203,27 +231,27 @@ private Q_SLOTS:
         QTRY_VERIFY(print->isEnabled());
         print->click();
         QVERIFY(m_filter->waitForFile(u"started"_s));
-        m_dialog->reject();
+        dialog().reject();
         QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), 10000);
-        QVERIFY(m_dialog->isVisible());
-        QVERIFY(m_dialog->printedTo().isEmpty());
+        QVERIFY(dialog().isVisible());
+        QVERIFY(dialog().printedTo().isEmpty());
     }
 
     void theFocusOfPrintDoesNotGoToCancelWhileTheJobRuns()
     {
         open("touch $DIR/started; sleep 300\n", {sample()});
         QTRY_COMPARE(panelViews().size(), 2);
-        m_dialog->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        dialog().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog()));
         auto *print = control<QPushButton>(u"print"_s);
         print->setFocus();
         QTest::keyClick(print, Qt::Key_Space);
         QVERIFY(m_filter->waitForFile(u"started"_s));
         // A second press takes nothing back.
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QCOMPARE(m_dialog->task().phase(), PrintTask::Phase::Printing);
+        QCOMPARE(dialog().task().phase(), PrintTask::Phase::Printing);
         QVERIFY(!control<QLineEdit>(u"output"_s)->isEnabled());
-        m_dialog->reject();
+        dialog().reject();
         QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), 10000);
         QVERIFY(print->hasFocus());
         QVERIFY(control<QLineEdit>(u"output"_s)->isEnabled());
@@ -233,16 +261,16 @@ private Q_SLOTS:
     {
         open("touch $DIR/started; sleep 300\n", {sample()});
         QTRY_COMPARE(panelViews().size(), 2);
-        const int width = m_dialog->width();
-        control<QPushButton>(u"print"_s)->click();
+        const int width = dialog().width();
+        QVERIFY(m_window->pressPrint());
         QVERIFY(m_filter->waitForFile(u"started"_s));
         QVERIFY(control<QLabel>(u"progressText"_s)->isVisible());
         // What a printer says may be long, and a job that a queue has can be left as well.
         control<QLabel>(u"progressText"_s)->setText(QString(200, u'w'));
         control<QPushButton>(u"leave"_s)->show();
-        m_dialog->layout()->activate();
-        QCOMPARE(m_dialog->width(), width);
-        m_dialog->reject();
+        dialog().layout()->activate();
+        QCOMPARE(dialog().width(), width);
+        dialog().reject();
         QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
         QVERIFY(!control<QLabel>(u"progressText"_s)->isVisible());
     }
@@ -263,22 +291,22 @@ private Q_SLOTS:
             control<QTabWidget>(u"pages"_s)->removeTab(0);
         for (QWidget *field : {control<QWidget>(u"printers"_s), control<QWidget>(u"output"_s)})
             field->setMinimumWidth(1);
-        m_dialog->layout()->activate();
-        m_dialog->resize(1, m_dialog->height());
-        const int width = m_dialog->width();
+        dialog().layout()->activate();
+        dialog().resize(1, dialog().height());
+        const int width = dialog().width();
         control<QWidget>(button)->show();
-        m_dialog->layout()->activate();
-        QCOMPARE(m_dialog->width(), width);
-        QVERIFY(width < m_dialog->fontMetrics().height() * 36); // which is what it begins with
+        dialog().layout()->activate();
+        QCOMPARE(dialog().width(), width);
+        QVERIFY(width < dialog().fontMetrics().height() * 36); // which is what it begins with
     }
 
     void aPrintedJobClosesTheDialogAndNamesItsPlace()
     {
         open("echo ok\n", {sample()});
         QTRY_COMPARE(panelViews().size(), 2);
-        control<QPushButton>(u"print"_s)->click();
-        QTRY_COMPARE_WITH_TIMEOUT(m_dialog->printedTo(), m_filter->output(), 10000);
-        QVERIFY(!m_dialog->isVisible());
+        QVERIFY(m_window->pressPrint());
+        QTRY_COMPARE_WITH_TIMEOUT(dialog().printedTo(), m_filter->output(), 10000);
+        QVERIFY(!dialog().isVisible());
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("ok\n"));
     }
 
@@ -286,9 +314,9 @@ private Q_SLOTS:
     {
         open("echo $$ > $DIR/parent; touch $DIR/started; sleep 300\n", {sample()});
         QTRY_COMPARE(panelViews().size(), 2);
-        control<QPushButton>(u"print"_s)->click();
+        QVERIFY(m_window->pressPrint());
         QVERIFY(m_filter->waitForFile(u"started"_s));
-        m_dialog.reset();
+        m_window.reset();
         QVERIFY(m_filter->waitForEndOf(u"parent"_s));
         QVERIFY(m_filter->leftOvers().isEmpty());
     }
@@ -314,11 +342,9 @@ private Q_SLOTS:
         QCOMPARE(pages->tabText(1), u"Options"_s);
         QTRY_COMPARE(shown(u"Tray"_s), u"Lower Tray"_s);
         QCOMPARE(shown(u"Sleep"_s), u"Custom: 12"_s);
-        pages->setCurrentIndex(2);
-        const auto *summary = control<QTableWidget>(u"summary"_s);
         QStringList lines;
-        for (int row = 0; row < summary->rowCount(); ++row)
-            lines += summary->item(row, 0)->text() + u": "_s + summary->item(row, 1)->text();
+        for (const auto &[title, value] : m_window->summaryLines())
+            lines += title + u": "_s + value;
         QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Two-Sided: Off"_s, u"Paper Size: A4"_s,
                                      u"Paper Source: Lower Tray"_s, u"Sleep Time: 12"_s}));
     }
@@ -326,11 +352,11 @@ private Q_SLOTS:
     void theOptionsOfAPrinterWithoutPanelsArePrinted()
     {
         openOffice({});
-        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        m_window->showPage(1);
         choose(u"Tray"_s, u"upper"_s);
         QCOMPARE(shown(u"Tray"_s), u"Upper Tray"_s);
-        control<QPushButton>(u"print"_s)->click();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isVisible(), 10000);
+        QVERIFY(m_window->pressPrint());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog().isVisible(), 10000);
         const QByteArrayList arguments = m_filter->content(u"arguments"_s).split('\n');
         QVERIFY(arguments.contains("Tray=Upper"));
         QVERIFY(arguments.contains("Media=Plain"));
@@ -339,12 +365,12 @@ private Q_SLOTS:
     void aRefusedOptionIsPutBackAndTheWayOutTakesIt()
     {
         openOffice({u"Staple=Left"_s});
-        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        m_window->showPage(1);
         QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
         choose(u"Media"_s, u"trans"_s);
         QVERIFY2(message().contains(u"Top Left"_s), qPrintable(message()));
         QCOMPARE(shown(u"Media"_s), u"Plain Paper"_s);
-        control<QPushButton>(u"messageAction"_s)->click();
+        QVERIFY(m_window->press(u"messageAction"_s));
         QCOMPARE(shown(u"Media"_s), u"Transparency"_s);
         QCOMPARE(shown(u"Staple"_s), u"Off"_s);
     }
@@ -352,22 +378,22 @@ private Q_SLOTS:
     void anOfferGoesWithThePrinterThatItWasMadeFor()
     {
         openOffice({u"Staple=Left"_s});
-        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        m_window->showPage(1);
         QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
         choose(u"Media"_s, u"trans"_s);
         QVERIFY(!message().isEmpty());
         // Its options change at the server to something that cannot be opened.
         writeFile(m_filter->ppdPath(), "no PPD any more");
-        Q_EMIT m_dialog->task().printers().ready(printerWithItsFile(small()));
+        Q_EMIT dialog().task().printers().ready(printerWithItsFile(small()));
         QVERIFY(!control<QWidget>(u"messageAction"_s)->isVisible());
-        QCOMPARE(m_dialog->task().phase(), PrintTask::Phase::Missing);
+        QCOMPARE(dialog().task().phase(), PrintTask::Phase::Missing);
     }
 
     void aRefusedValueIsSaidAsThePagesShowIt()
     {
         openOffice({u"Staple=Left"_s},
                    officePrinter().constraint("Sleep", "Custom", "Staple", "Left"));
-        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        m_window->showPage(1);
         QTRY_COMPARE(shown(u"Staple"_s), u"Top Left"_s);
         choose(u"Sleep"_s, u"Custom"_s);
         choose(u"Sleep"_s, u"12"_s);
@@ -382,15 +408,15 @@ private Q_SLOTS:
         QTRY_COMPARE(shown(u"Sleep"_s), u"Custom: 12"_s);
         choose(u"Sleep"_s, u"100"_s);
         pages->setCurrentIndex(0);
-        control<QPushButton>(u"print"_s)->click();
-        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_window->pressPrint());
+        QVERIFY(dialog().isVisible());
         QCOMPARE(pages->currentIndex(), 1);
         QVERIFY(control<QLabel>(u"hint"_s)->text().contains(u"1 to 99"_s));
         QCOMPARE(control<QLineEdit>(u"customValue"_s)->text(), u"100"_s);
         QVERIFY(control<QLineEdit>(u"customValue"_s)->hasFocus());
         choose(u"Sleep"_s, u"42"_s);
-        control<QPushButton>(u"print"_s)->click();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isVisible(), 10000);
+        QVERIFY(m_window->pressPrint());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog().isVisible(), 10000);
         QVERIFY(m_filter->content(u"arguments"_s).split('\n').contains("Sleep=Custom.42"));
     }
 
@@ -413,7 +439,7 @@ private Q_SLOTS:
         QTRY_COMPARE(panelViews().size(), 2);
         auto *duplex = control<QComboBox>(u"Duplex"_s);
         QVERIFY(pick(duplex, u"Long-Edge Binding"_s));
-        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        m_window->showPage(1);
         auto *media = panelViews().at(0)->findChild<QComboBox *>(u"mediaTypePopup"_s);
         QVERIFY(media);
         const QString before = media->currentText();
@@ -429,7 +455,7 @@ private Q_SLOTS:
             shown = true;
             alert->buttons().constFirst()->click();
         });
-        control<QPushButton>(u"messageAction"_s)->click();
+        QVERIFY(m_window->press(u"messageAction"_s));
         QVERIFY(shown);
         QTRY_COMPARE(media->currentText(), u"Glossy Paper"_s);
         QCOMPARE(duplex->currentText(), u"Off (1-Sided)"_s);

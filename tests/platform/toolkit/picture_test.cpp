@@ -1,6 +1,12 @@
+#include <dlfcn.h>
+
+#include <QFileInfo>
 #include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/toolkit/ImageView.h"
 
@@ -74,7 +80,49 @@ private Q_SLOTS:
         QVERIFY(readPicture(file.fileName(), 1.0).isNull());
     }
 
+    // What draws PDF pages is a library of its own, which an installation may lack.
+    void aPdfPageIsSkippedWhereNothingDrawsIt()
+    {
+        const QString file = m_folder.filePath(u"page.pdf"_s);
+        {
+            QPdfWriter writer(file);
+            QPainter painter(&writer);
+            painter.drawEllipse(QRect(0, 0, 100, 100));
+        }
+        if (qEnvironmentVariableIsSet(kWithoutTheLibrary)) {
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(u"pictures that are PDF pages cannot be shown: "
+                                                    ".*libcorvana-pdf-pictures"_s));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"is no picture"_s));
+            QVERIFY(readPicture(file, 1.0).isNull());
+            // Said once, as often as it is missed.
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"is no picture"_s));
+            QVERIFY(readPicture(file, 1.0).isNull());
+            return;
+        }
+        QVERIFY(!readPicture(file, 1.0).isNull());
+        // The same once more, in a process whose platform library lies there alone.
+        const QFileInfo library(libraryOf(reinterpret_cast<const void *>(&readPicture)));
+        QVERIFY(QFile::copy(library.filePath(), m_folder.filePath(library.fileName())));
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LD_LIBRARY_PATH"_s, m_folder.path());
+        environment.insert(QString::fromLatin1(kWithoutTheLibrary), u"1"_s);
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::arguments().constFirst(),
+                      {QString::fromLatin1(QTest::currentTestFunction())});
+        QVERIFY(process.waitForFinished());
+        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
+    }
+
 private:
+    static QString libraryOf(const void *code)
+    {
+        Dl_info library{};
+        return ::dladdr(code, &library) ? QFile::decodeName(library.dli_fname) : QString();
+    }
+
+    static constexpr char kWithoutTheLibrary[] = "CORVANA_TEST_WITHOUT_PDF_PICTURES";
     QTemporaryDir m_folder;
 };
 

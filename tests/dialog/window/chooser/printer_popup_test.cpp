@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "dialog/window/chooser/ElidedLabel.h"
@@ -75,6 +76,27 @@ private Q_SLOTS:
     {
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
         m_window.reset();
+    }
+
+    void theSearchCanBeClearedFromItsFirstLetterOn()
+    {
+        open(queues(3));
+        // Qt keeps the button in its place and makes it transparent where there is nothing to
+        // clear.
+        QToolButton *clear = nullptr;
+        for (QToolButton *button : field()->findChildren<QToolButton *>()) {
+            if (button->pos().x() > field()->width() / 2)
+                clear = button;
+        }
+        QVERIFY(clear);
+        const auto opacity = [clear] { return clear->property("opacity").toDouble(); };
+        QCOMPARE(opacity(), 0.0);
+        press(Qt::Key_1);
+        QTRY_COMPARE(opacity(), 1.0);
+        QTest::mouseClick(clear, Qt::LeftButton);
+        QCOMPARE(field()->text(), QString());
+        QCOMPARE(list()->model()->rowCount(), 3);
+        QTRY_COMPARE(opacity(), 0.0);
     }
 
     void itOpensAtTheChosenPrinterWithTheFocusInTheSearch()

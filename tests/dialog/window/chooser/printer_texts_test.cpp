@@ -207,7 +207,7 @@ private Q_SLOTS:
         for (const PrinterLook look :
              {PrinterLook::Ready, PrinterLook::Printing, PrinterLook::Stopped,
               PrinterLook::TakesNoJobs, PrinterLook::Gone}) {
-            const QImage picture = printerIcon(look).pixmap(QSize(24, 24), 2.0).toImage();
+            const QImage picture = printerIcon(look, IconSource::Own).pixmap(QSize(24, 24), 2.0).toImage();
             QCOMPARE(picture.size(), QSize(48, 48));
             QVERIFY(!pictures.contains(picture));
             pictures += picture;

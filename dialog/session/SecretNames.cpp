@@ -1,0 +1,53 @@
+#include "dialog/session/SecretNames.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Words that mean a secret wherever they stand, since no other word contains them.
+constexpr const char16_t *kPieces[] = {
+    u"password",   u"passcode",       u"passwd",     u"passphrase", u"pincode",
+    u"accesscode", u"securitycode",   u"暗証",       u"暗证",       u"パスワード",
+    u"パスコード", u"アクセスコード", u"認証コード", u"密码",       u"密碼",
+    u"口令",       u"访问码",         u"访问代码",   u"验证码",     u"识别码",
+};
+
+// Words that mean it only as a whole: "Spinning" and "Secretary" contain them, too.
+constexpr const char16_t *kWords[] = {u"pin", u"pins", u"secret", u"passkey"};
+
+// The words of "HPPinPrnt", "JOB_PIN2", "PINNumber" and "Access Code", in small letters.
+QStringList wordsOf(const QString &name)
+{
+    static const QRegularExpression word(u"\\p{Lu}+(?![\\p{Ll}])|\\p{Lu}?\\p{Ll}+"_s,
+                                         QRegularExpression::UseUnicodePropertiesOption);
+    QStringList words;
+    auto matches = word.globalMatch(name);
+    while (matches.hasNext())
+        words += matches.next().captured().toLower();
+    return words;
+}
+
+} // namespace
+
+bool soundsSecret(const QString &name)
+{
+    const QStringList words = wordsOf(name);
+    // "Access Code" and "AccessCode" are the same.
+    const QString joined = QString(name).remove(u' ').remove(u'_').remove(u'-').toLower();
+    return std::any_of(
+               std::begin(kPieces), std::end(kPieces),
+               [&](const char16_t *piece) { return joined.contains(QStringView(piece)); }) ||
+           std::any_of(std::begin(kWords), std::end(kWords), [&](const char16_t *word) {
+               return words.contains(QString::fromUtf16(word));
+           });
+}
+
+} // namespace corvana
