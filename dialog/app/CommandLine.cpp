@@ -225,11 +225,6 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     return problem->isEmpty() ? std::optional(line) : std::nullopt;
 }
 
-bool needsDocument(const CommandLine &line)
-{
-    return !line.listPrinters && !line.checkDisplay && !line.summary;
-}
-
 // A name that is empty, as when the variable of a script is: the usual value is not what was meant.
 QString emptyName(const QCommandLineParser &parser, const Options &options)
 {
@@ -263,6 +258,11 @@ QString contradictionIn(const CommandLine &line)
     if (!line.noDialog)
         return u"--output - is for runs without a window (--no-dialog)."_s;
     return {};
+}
+
+bool needsDocument(const CommandLine &line)
+{
+    return !line.listPrinters && !line.checkDisplay && !line.summary;
 }
 
 // Why a command line cannot be understood although each of its values can be read; empty when it
@@ -311,9 +311,8 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiv
     if (!problem.isEmpty())
         return notUnderstood(problem);
     std::optional<CommandLine> line = readValues(parser, options, &problem);
-    // Standard input may be where the password comes from.
-    if (line && inputIsGiven && line->documents.isEmpty() && needsDocument(*line) &&
-        line->passwordDescriptor != 0)
+    if (line && inputIsGiven && line->passwordDescriptor != 0 && line->documents.isEmpty() &&
+        needsDocument(*line))
         line->documents = QStringList{kStandardStream};
     if (line)
         problem = problemOf(*line);

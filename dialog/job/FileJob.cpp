@@ -1,5 +1,7 @@
 #include "dialog/job/FileJob.h"
 
+#include "dialog/job/ResultPages.h"
+
 namespace corvana {
 
 FileJob::FileJob(const FileJobRequest &request, QObject *parent) : Job(parent), m_request(request)
@@ -75,6 +77,13 @@ void FileJob::cancel()
 }
 
 void FileJob::converted(const QString &problem)
+{
+    if (!problem.isEmpty())
+        return fail(problem);
+    checkResultPages(m_result->path(), this, [this](const QString &why) { publish(why); });
+}
+
+void FileJob::publish(const QString &problem)
 {
     const QString why = problem.isEmpty() ? m_result->publish() : problem;
     if (!why.isEmpty())

@@ -44,6 +44,7 @@ private:
     QString prepare();
     void convert(const QString &problem);
     void converted(const QString &problem);
+    void publish(const QString &problem);
     void fail(const QString &problem);
 
     FileJobRequest m_request;

@@ -26,6 +26,14 @@ QStringList keywordsOfPanels(PanelHost &panels)
     return keywords;
 }
 
+QString copiesText(int copies, bool collated)
+{
+    if (copies < 2)
+        return QString::number(copies);
+    return collated ? QCoreApplication::translate("Summary", "%1, collated").arg(copies)
+                    : QCoreApplication::translate("Summary", "%1, not collated").arg(copies);
+}
+
 QList<ppd_option_t *> optionsBesideGeneral(const PpdSession &session)
 {
     QList<ppd_option_t *> options = session.options();
@@ -49,14 +57,6 @@ QList<const ppd_option_t *> installedParts(ppd_file_t *ppd)
             options += &group.options[j];
     }
     return options;
-}
-
-QString copiesText(int copies, bool collated)
-{
-    if (copies < 2)
-        return QString::number(copies);
-    return collated ? QCoreApplication::translate("Summary", "%1, collated").arg(copies)
-                    : QCoreApplication::translate("Summary", "%1, not collated").arg(copies);
 }
 
 } // namespace

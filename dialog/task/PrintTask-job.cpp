@@ -11,8 +11,10 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
+#include "dialog/task/StartValues.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
@@ -70,7 +72,7 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
+    countBeforeJob();
 }
 
 QList<JobOption> PrintTask::jobAttributes() const
@@ -78,7 +80,7 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
-    return settings.attributes();
+    return withAnswersToDefaults(settings.attributes(), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -98,23 +100,32 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
-    if (!mayPrintTexts())
+    if (passesFilesOn()) {
+        QList<JobOption> asked = m_settings.attributes();
+        const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
+        if (!problems.isEmpty())
+            return TaskRefusal{problems,
+                               m_settings.pageRanges().isEmpty() ? Place::Nowhere : Place::Pages};
+        if (printsToFile())
+            return TaskRefusal{{tr("What is passed on as it is cannot be printed to a file.")}};
+    } else if (!mayPrintTexts()) {
         return TaskRefusal{{}, Place::Nowhere, true};
-    if (!m_request.documents.isEmpty()) {
+    } else if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
             return refusal;
     }
     if (m_phase != Phase::Asking)
         return std::nullopt;
     // Before the ticket: the panels restore and save on the way.
-    const QList<SummaryLine> lines = summary();
-    if (m_request.summary)
-        m_face.writeSummary(lines);
+    m_run.lines = summaryOfSettings();
     QStringList problems;
     const QList<Refusal> refusals = m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    // What is printed is counted first.
+    if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
+        m_face.writeSummary(m_run.lines);
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
 }
 
@@ -170,9 +181,15 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        if (m_settings.attributes().contains(kRaw)) {
+            for (Document &document : request.documents)
+                document.format = kRawFormat;
+        }
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
+        const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
+        request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
     }
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
@@ -188,6 +205,8 @@ void PrintTask::cancel()
 {
     if (m_phase != Phase::Printing)
         return;
+    if (isCounting())
+        return endCounting();
     // A server that does not answer has a few seconds to be told.
     enter(Phase::Canceling);
     m_run.job->cancel();
@@ -196,7 +215,7 @@ void PrintTask::cancel()
 void PrintTask::leave()
 {
     // What is being canceled is waited for: whether it still was in time has to be known.
-    if (m_phase != Phase::Printing || !m_run.job->isHandedOver())
+    if (m_phase != Phase::Printing || !isJobHandedOver())
         return;
     enter(Phase::Leaving);
     m_run.job->letGo();
@@ -206,8 +225,10 @@ void PrintTask::interrupt(OnInterrupt job)
 {
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
-    if (!m_run.job)
+    if (!m_run.job) {
+        m_sheets.cancel();
         return enter(Phase::Ended);
+    }
     if (job == OnInterrupt::LeaveJob)
         leave();
     if (m_phase == Phase::Leaving)

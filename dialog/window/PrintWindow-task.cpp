@@ -38,9 +38,6 @@ void PrintWindow::connectTask()
     connect(task, &PrintTask::unsaid, m_message, &MessageBar::dismiss);
     connect(task, &PrintTask::refused, this, &PrintWindow::showRefusal);
     connect(task, &PrintTask::jobEnded, this, &PrintWindow::jobEnded);
-    connect(task, &PrintTask::ignored, this, [](const QString &problem) {
-        qCWarning(lcWindow).noquote() << "lpoptions:" << problem;
-    });
     connect(task, &PrintTask::progressed, this, [this](const JobProgress &progress) {
         m_footer->showProgress(progress, m_task->isJobHandedOver());
     });
@@ -94,8 +91,7 @@ void PrintWindow::printerOpened()
     panels->setWindow(this);
     connect(panels, &PanelHost::settled, this, &PrintWindow::updateSilencedAlerts);
     // Later: a panel is in the midst of its work when it says so.
-    connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPanelView,
-            Qt::QueuedConnection);
+    connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPage, Qt::QueuedConnection);
     m_pages->open();
     updateSilencedAlerts();
     if (m_painted)

@@ -58,7 +58,7 @@ private:
     void orderFocus();
     void followList();
     void takeIconsFromTheme();
-    void followPanelView();
+    void followPage();
     void showHelp();
     void showHelpPage(const HelpPage &page);
     void updateSilencedAlerts();

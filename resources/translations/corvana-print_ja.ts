@@ -332,6 +332,162 @@
         <source>the name of a media type</source>
         <translation>用紙の種類の名前</translation>
     </message>
+<message>
+        <source>Up, Then to the Right</source>
+        <translation>上、次に右へ</translation>
+    </message>
+    <message>
+        <source>Up, Then to the Left</source>
+        <translation>上、次に左へ</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Up</source>
+        <translation>右、次に上へ</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Down</source>
+        <translation>右、次に下へ</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Up</source>
+        <translation>左、次に上へ</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Down</source>
+        <translation>左、次に下へ</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Right</source>
+        <translation>下、次に右へ</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Left</source>
+        <translation>下、次に左へ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Thin Line</source>
+        <translation>細い線</translation>
+    </message>
+    <message>
+        <source>Thick Line</source>
+        <translation>太い線</translation>
+    </message>
+    <message>
+        <source>Two Thin Lines</source>
+        <translation>細い二重線</translation>
+    </message>
+    <message>
+        <source>Two Thick Lines</source>
+        <translation>太い二重線</translation>
+    </message>
+    <message>
+        <source>Fit to Paper If Too Large</source>
+        <translation>はみ出す場合は用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Fill Paper</source>
+        <translation>用紙全体に広げる</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Print at Once</source>
+        <translation>すぐに印刷</translation>
+    </message>
+    <message>
+        <source>Daytime</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>夕方</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>Second Shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>Third Shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>Weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>points of 1/72 inch</source>
+        <translation>ポイント (1/72 インチ)</translation>
+    </message>
+    <message>
+        <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
+        <translation>昇順のページと範囲 (例: 1-4,7,9-)</translation>
+    </message>
+    <message>
+        <source>a time HH:MM in UTC</source>
+        <translation>時刻 HH:MM (UTC)</translation>
+    </message>
+    <message>
+        <source>one or two names of banner pages</source>
+        <translation>バナーページの名前を 1 つか 2 つ</translation>
+    </message>
+    <message>
+        <source>a text of up to 255 bytes</source>
+        <translation>255 バイトまでの文字列</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -1026,6 +1182,18 @@
         <source>This printer has no option of the name %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>
     </message>
+<message>
+        <source>This printer has no option of this name: %1.</source>
+        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>キュー「%1」の既定値: %2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1479,6 +1647,32 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>このコンピューターのどのフォントにも、テキスト中の次の文字がありません: %1。それぞれの代わりに空の枠が印刷されます。</translation>
     </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+<message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>そのまま渡される文書はファイルに印刷できません。</translation>
+    </message>
+    <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>このプリンターに設定されている内容の一部は使用できませんでした:
+%1</translation>
+    </message>
+<message>
+        <source>There is no job attribute of the name %1.</source>
+        <translation>%1 という名前のジョブ属性はありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1591,6 +1785,10 @@ For the command line: %2</source>
     <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+<message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -1788,6 +1986,169 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>何も印刷されません。作成されたデータにページがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 ページ</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 枚</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>「%1」は %2です</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 以降</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>何も印刷されません。%1。偶数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>何も印刷されません。%1。奇数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>数えられませんでした</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 部 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 は %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>用紙の枚数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>存在しないページ</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>印刷される大きさ</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>キュー「%1」はファイルをそのまま渡します。%2 は実行できません。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>「raw」ではファイルがそのまま渡されます。%1 は実行できません。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>そのまま渡されます</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>その他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>詳細(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>詳細、%1</translation>
     </message>
 </context>
 </TS>

@@ -332,6 +332,162 @@
         <source>the name of a media type</source>
         <translation>介质类型的名称</translation>
     </message>
+<message>
+        <source>Up, Then to the Right</source>
+        <translation>先向上，再向右</translation>
+    </message>
+    <message>
+        <source>Up, Then to the Left</source>
+        <translation>先向上，再向左</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Up</source>
+        <translation>先向右，再向上</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Down</source>
+        <translation>先向右，再向下</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Up</source>
+        <translation>先向左，再向上</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Down</source>
+        <translation>先向左，再向下</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Right</source>
+        <translation>先向下，再向右</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Left</source>
+        <translation>先向下，再向左</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Thin Line</source>
+        <translation>细线</translation>
+    </message>
+    <message>
+        <source>Thick Line</source>
+        <translation>粗线</translation>
+    </message>
+    <message>
+        <source>Two Thin Lines</source>
+        <translation>双细线</translation>
+    </message>
+    <message>
+        <source>Two Thick Lines</source>
+        <translation>双粗线</translation>
+    </message>
+    <message>
+        <source>Fit to Paper If Too Large</source>
+        <translation>超出时缩小以适合纸张</translation>
+    </message>
+    <message>
+        <source>Fill Paper</source>
+        <translation>填满纸张</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>适合纸张</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Print at Once</source>
+        <translation>立即打印</translation>
+    </message>
+    <message>
+        <source>Daytime</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>傍晚</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>Second Shift</source>
+        <translation>第二班</translation>
+    </message>
+    <message>
+        <source>Third Shift</source>
+        <translation>第三班</translation>
+    </message>
+    <message>
+        <source>Weekend</source>
+        <translation>周末</translation>
+    </message>
+    <message>
+        <source>points of 1/72 inch</source>
+        <translation>点 (1/72 英寸)</translation>
+    </message>
+    <message>
+        <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
+        <translation>按升序排列的页码和范围，例如 1-4,7,9-</translation>
+    </message>
+    <message>
+        <source>a time HH:MM in UTC</source>
+        <translation>时间 HH:MM (UTC)</translation>
+    </message>
+    <message>
+        <source>one or two names of banner pages</source>
+        <translation>一个或两个分隔页的名称</translation>
+    </message>
+    <message>
+        <source>a text of up to 255 bytes</source>
+        <translation>最多 255 字节的文本</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -1026,6 +1182,18 @@
         <source>This printer has no option of the name %1.</source>
         <translation>此打印机没有以下名称的选项：%1</translation>
     </message>
+<message>
+        <source>This printer has no option of this name: %1.</source>
+        <translation>此打印机没有以下名称的选项：%1。</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>队列“%1”的默认值：%2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>队列“%1”会给每个作业添加以下设置，其作用在此未知：%2。</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1479,6 +1647,32 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
     </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+<message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>原样传送的文档无法打印到文件。</translation>
+    </message>
+    <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>为此打印机设置的内容未能全部采用：
+%1</translation>
+    </message>
+<message>
+        <source>There is no job attribute of the name %1.</source>
+        <translation>没有名为 %1 的作业属性。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许使用“%1”。允许的值：%2。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1591,6 +1785,10 @@ For the command line: %2</source>
     <message>
         <source>All files (*)</source>
         <translation>所有文件 (*)</translation>
+    </message>
+<message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -1788,6 +1986,169 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>不会打印任何内容：生成的数据中没有页面。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 页</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 页</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 张</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 张</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>“%1”有 %2</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 及之后</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了偶数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了奇数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>将单面打印，因为只有一面要打印</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档将单面打印：%1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>无法计数</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 份 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 为 %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>纸张数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>不存在的页</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>打印大小</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>队列“%1”会原样传送文件：无法执行 %2。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>使用“raw”时文件会原样传送：无法执行 %1。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>原样传送</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>其他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>更多(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>更多，%1</translation>
     </message>
 </context>
 </TS>
