@@ -18,7 +18,10 @@ void FileJob::start()
     if (!problem.isEmpty())
         return fail(problem);
     report({JobProgress::Stage::Printing});
-    m_texts->start();
+    if (hasTextToLayOut(m_request.documents, m_request.ticket.options))
+        m_texts->start();
+    else
+        convert({});
 }
 
 // Makes the file that is written. Answers what stands in the way.

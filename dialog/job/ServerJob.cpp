@@ -89,11 +89,7 @@ bool ServerJob::laysOutTexts() const
     const bool isRaw = m_request.printer.origin == PrinterOrigin::Queue && m_request.ppd->isWritten;
     const bool takesPages =
         formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
-    const QList<Document> &documents = m_request.documents;
-    return !isRaw && takesPages &&
-           std::any_of(documents.cbegin(), documents.cend(), [this](const Document &document) {
-               return isTextToLayOut(document, m_request.ticket.options);
-           });
+    return !isRaw && takesPages && hasTextToLayOut(m_request.documents, m_request.ticket.options);
 }
 
 // Texts are made into pages before anything else, with fonts that have their characters: what a

@@ -26,6 +26,12 @@ bool isTextToLayOut(const Document &document, const QList<JobOption> &options)
            });
 }
 
+bool hasTextToLayOut(const QList<Document> &documents, const QList<JobOption> &options)
+{
+    return std::any_of(documents.cbegin(), documents.cend(),
+                       [&](const Document &document) { return isTextToLayOut(document, options); });
+}
+
 TextDocuments::TextDocuments(const QList<Document> &documents, const QList<JobOption> &options,
                              const QString &ppdPath, QObject *parent)
     : QObject(parent), m_documents(documents), m_options(options), m_ppdPath(ppdPath)

@@ -17,6 +17,9 @@ namespace corvana {
 /// With the option "raw" everything goes to the printer as it is.
 bool isTextToLayOut(const Document &document, const QList<JobOption> &options);
 
+/// Whether there is any such text.
+bool hasTextToLayOut(const QList<Document> &documents, const QList<JobOption> &options);
+
 /// Makes PDFs of the texts among documents, with the fonts, the paper and the options of a job; the
 /// other documents stay what they are.
 ///

@@ -1,6 +1,5 @@
 #include "dialog/task/PrintTask.h"
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -145,10 +144,7 @@ void PrintTask::lookForMissingCharacters()
 // A text whose characters nobody has is not printed without a word.
 bool PrintTask::mayPrintTexts()
 {
-    const QList<JobOption> attributes = jobAttributes();
-    const bool anyText =
-        std::any_of(m_request.documents.cbegin(), m_request.documents.cend(),
-                    [&](const Document &document) { return isTextToLayOut(document, attributes); });
+    const bool anyText = hasTextToLayOut(m_request.documents, jobAttributes());
     const QString missing =
         anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
     return missing.isEmpty() ||
