@@ -86,8 +86,7 @@ void ServerJob::convert()
 bool ServerJob::laysOutTexts() const
 {
     const QStringList &formats = m_request.formats;
-    const bool isRaw =
-        m_request.printer.origin == PrinterOrigin::Queue && m_request.ppdLastModified == 0;
+    const bool isRaw = m_request.printer.origin == PrinterOrigin::Queue && m_request.ppd->isWritten;
     const bool takesPages =
         formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
     const QList<Document> &documents = m_request.documents;
@@ -104,7 +103,7 @@ void ServerJob::layOutTexts()
     report({JobProgress::Stage::Converting});
     const QList<JobOption> &options =
         m_request.chosenOptions.isEmpty() ? m_request.ticket.options : m_request.chosenOptions;
-    m_texts = std::make_unique<TextDocuments>(m_request.documents, options, m_request.ppdPath);
+    m_texts = std::make_unique<TextDocuments>(m_request.documents, options, m_request.ppd->path);
     connect(m_texts.get(), &TextDocuments::finished, this, [this](const QString &problem) {
         if (m_canceled)
             return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
