@@ -41,11 +41,17 @@ QList<JobOption> applied(JobAttribute::AppliedTo what, const QList<JobOption> &o
     return some;
 }
 
-// What shapes the pages, and the only paper of our PPD.
+// Options, with the only paper of our PPD.
+QList<JobOption> onLayoutPaper(QList<JobOption> options)
+{
+    options.removeIf([](const JobOption &option) { return option.name == kPageSizeOption; });
+    return QList{JobOption{kPageSizeOption, QString::fromLatin1(kLayoutPaper)}} + options;
+}
+
+// What shapes the pages.
 QList<JobOption> documentOptions(const QList<JobOption> &options)
 {
-    return QList{JobOption{kPageSizeOption, QString::fromLatin1(kLayoutPaper)}} +
-           applied(JobAttribute::AppliedTo::Document, options);
+    return onLayoutPaper(applied(JobAttribute::AppliedTo::Document, options));
 }
 
 // What the layout step does. Never empty: a PDF is laid out in any case.
@@ -78,9 +84,25 @@ void DocumentCount::start()
         lookAtPages();
     } else if (isPicture(m_document)) {
         convertPicture();
+    } else if (isTextToLayOut(m_document, m_request.options)) {
+        convertText();
     } else {
         makePdf();
     }
+}
+
+// The same pages as a job makes of it.
+void DocumentCount::convertText()
+{
+    m_texts =
+        std::make_unique<TextDocuments>(QList{m_document}, onLayoutPaper(m_request.options), m_ppd);
+    connect(m_texts.get(), &TextDocuments::finished, this, [this](const QString &problem) {
+        if (!problem.isEmpty())
+            return fail(problem);
+        m_pdf = m_texts->documents().constFirst().path;
+        lookAtPages();
+    });
+    m_texts->start();
 }
 
 void DocumentCount::makePdf()
@@ -127,7 +149,9 @@ void DocumentCount::lookAtPages()
 ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &result) const
 {
     ConversionRequest request{{{pdf, kPdf, m_document.title}}, {}, m_ppd, result, result};
-    request.ticket.options = documentOptions(m_request.options);
+    // What has shaped the pages of a text does not do so a second time.
+    request.ticket.options = documentOptions(
+        m_texts ? optionsAfterTexts(m_request.options, m_request.documents) : m_request.options);
     request.result = ConversionRequest::Result::Pdf;
     request.layout = layoutOptions(m_request.options);
     return request;

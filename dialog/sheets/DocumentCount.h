@@ -8,6 +8,7 @@
 #include "dialog/job/Conversion.h"
 #include "dialog/job/PdfPages.h"
 #include "dialog/job/ProgramRun.h"
+#include "dialog/job/TextDocuments.h"
 #include "dialog/sheets/SheetCounter.h"
 
 namespace corvana {
@@ -40,6 +41,7 @@ private:
     QString file(const QString &name) const { return m_folder + u'/' + name; }
     void makePdf();
     void convertPicture();
+    void convertText();
     void lookAtPages();
     void layOut();
     void countSides();
@@ -59,8 +61,9 @@ private:
     QString m_folder;
     QString m_pdf; // of the document
     DocumentSheets m_sheets;
-    QList<PdfPage> m_pages;   // of the document, as far as they were described
-    QList<PdfPage> m_printed; // among them
+    QList<PdfPage> m_pages;                 // of the document, as far as they were described
+    QList<PdfPage> m_printed;               // among them
+    std::unique_ptr<TextDocuments> m_texts; // holds the PDF of a text
     std::unique_ptr<Conversion> m_conversion;
     std::unique_ptr<FilterChain> m_chain;
     std::unique_ptr<ProgramRun> m_run;

@@ -13,15 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray kHeader(100, '\1');
+const QByteArray kRasterHeader(100, '\1');
 
-struct Result
+struct EmptyResult
 {
     const char *name;
     QByteArray content;
     bool isEmpty;
 };
-const Result kResults[] = {
+const EmptyResult kEmptyResults[] = {
     {"PostScript with pages", "%!PS-Adobe-3.0\n%%Pages: (atend)\n%%Trailer\n%%Pages: 5\n%%EOF\n",
      false},
     {"PostScript without a page",
@@ -32,10 +32,10 @@ const Result kResults[] = {
     {"PostScript behind commands", "\033%-12345X@PJL\n%!PS-Adobe-3.0\n%%Trailer\n%%Pages: 0\n",
      true},
     {"raster without a page", "RaS2", true},
-    {"raster with a page", "RaS2" + kHeader, false},
+    {"raster with a page", "RaS2" + kRasterHeader, false},
     {"raster of another byte order, without a page", "3SaR", true},
     {"the other raster without a page", QByteArray("UNIRAST\0\0\0\0\0", 12), true},
-    {"the other raster with a page", QByteArray("UNIRAST\0\0\0\0\1", 12) + kHeader, false},
+    {"the other raster with a page", QByteArray("UNIRAST\0\0\0\0\1", 12) + kRasterHeader, false},
     {"PCL", "\033E\033&l1X", false},
     {"a PDF without a page",
      "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n<< /Type /Pages /Kids "
@@ -49,15 +49,15 @@ const Result kResults[] = {
     {"a PDF that nobody can read", "%PDF-1.4\n", false},
 };
 
-struct Answer
+struct PdfInfoAnswer
 {
     const char *name;
     QByteArray text;
     int count; // -1: none
     QList<PdfPage> pages;
 };
-const QRectF kBox(QPointF(0, 0), QPointF(595, 842));
-const Answer kAnswers[] = {
+const QRectF kPageBox(QPointF(0, 0), QPointF(595, 842));
+const PdfInfoAnswer kPdfInfoAnswers[] = {
     {"one page", "Title: a\nPages:           1\nEncrypted: no\n", 1, {}},
     {"nothing", "", -1, {}},
     {"no number", "Pages:           many\n", -1, {}},
@@ -69,7 +69,7 @@ const Answer kAnswers[] = {
      "Page    1 TrimBox:      0.00     0.00   595.00   842.00\n"
      "Page    2 MediaBox:    -5.00     0.00   590.00   842.00\n",
      2,
-     {{kBox, kBox, kBox, 0}, {QRectF(QPointF(-5, 0), QPointF(590, 842)), {}, {}, 90}}},
+     {{kPageBox, kPageBox, kPageBox, 0}, {QRectF(QPointF(-5, 0), QPointF(590, 842)), {}, {}, 90}}},
     {"pages that there are not",
      "Pages:           1\nPage    2 rot:   90\nPage    0 rot:   90\n",
      1,
@@ -105,10 +105,10 @@ private:
     }
 
 private Q_SLOTS:
-    void aResultWithoutAPageIsNoticed_data() { addRows(kResults); }
+    void aResultWithoutAPageIsNoticed_data() { addRows(kEmptyResults); }
     void aResultWithoutAPageIsNoticed()
     {
-        const Result &row = currentRow(kResults);
+        const EmptyResult &row = currentRow(kEmptyResults);
         const QTemporaryDir folder;
         const QString path = writeFile(folder.filePath(u"result"_s), row.content);
         std::optional<QString> problem;
@@ -131,10 +131,10 @@ private Q_SLOTS:
         QTRY_VERIFY(problem && !problem->isEmpty());
     }
 
-    void anAnswerOfPdfinfoIsRead_data() { addRows(kAnswers); }
+    void anAnswerOfPdfinfoIsRead_data() { addRows(kPdfInfoAnswers); }
     void anAnswerOfPdfinfoIsRead()
     {
-        const Answer &row = currentRow(kAnswers);
+        const PdfInfoAnswer &row = currentRow(kPdfInfoAnswers);
         const auto pages = readPdfPages(row.text);
         QCOMPARE(pages ? pages->count : -1, row.count);
         if (pages)

@@ -73,13 +73,13 @@ const Order kOrders[] = {
     {"asked not for", "*DefaultOutputOrder: Reverse\n", {{u"OutputOrder"_s, u"Normal"_s}}, false},
 };
 
-struct Bad
+struct BadNumbers
 {
     const char *name;
     QByteArray dimension;
     QByteArray area;
 };
-const Bad kBad[] = {
+const BadNumbers kBadNumbers[] = {
     {"no paper at all", "0 0", "0 0 0 0"},
     {"less than nothing", "-595 -842", "0 0 0 0"},
     {"far too large", "1e30 1e30", "0 0 1e30 1e30"},
@@ -159,10 +159,10 @@ private Q_SLOTS:
         QVERIFY(ppdIsMarked(ppd.get(), "Duplex", "DuplexNoTumble"));
     }
 
-    void impossibleNumbersBecomePossibleOnes_data() { addRows(kBad); }
+    void impossibleNumbersBecomePossibleOnes_data() { addRows(kBadNumbers); }
     void impossibleNumbersBecomePossibleOnes()
     {
-        const Bad &row = currentRow(kBad);
+        const BadNumbers &row = currentRow(kBadNumbers);
         const LayoutTraits traits = traitsOf(ppdWith("", row.dimension, row.area), {});
         const PpdFile ppd = opened(traits);
         QVERIFY(ppd);

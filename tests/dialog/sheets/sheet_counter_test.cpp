@@ -16,19 +16,19 @@ using When = SheetCounter::When;
 
 namespace {
 
-constexpr int kPatience = 20000;
+constexpr int kCountPatience = 20000;
 
 // Counts how often it was called, and hands the last argument, a document, on.
 constexpr char kPassing[] = "echo . >>$DIR/calls; for last in \"$@\"; do :; done; cat \"$last\"\n";
 constexpr char kHanging[] = "echo $$ >$DIR/pid; sleep 300\n";
 
-struct Bad
+struct BadDocument
 {
     const char *name;
     QByteArray content;
     QString format;
 };
-const Bad kBad[] = {
+const BadDocument kBadDocuments[] = {
     {"no PDF", "not a PDF at all", u"application/pdf"_s},
     {"nothing", "", u"application/pdf"_s},
     {"a PDF without pages",
@@ -56,10 +56,10 @@ private:
     static Document pdf(const QString &path) { return {path, u"application/pdf"_s, u"a.pdf"_s}; }
 
 private Q_SLOTS:
-    void whatCannotBeCountedIsSaidToBeUncounted_data() { addRows(kBad); }
+    void whatCannotBeCountedIsSaidToBeUncounted_data() { addRows(kBadDocuments); }
     void whatCannotBeCountedIsSaidToBeUncounted()
     {
-        const Bad &row = currentRow(kBad);
+        const BadDocument &row = currentRow(kBadDocuments);
         const QTemporaryDir folder;
         const SheetRequest request =
             requestFor({writeFile(folder.filePath(u"bad"_s), row.content), row.format, u"bad"_s});
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
         QCOMPARE(counter.counted(request), nullptr);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QVERIFY(counter.counted(request));
         QVERIFY(isUncounted(*counter.counted(request)));
     }
@@ -82,7 +82,7 @@ private Q_SLOTS:
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         const JobSheets sheets = *counter.counted(request);
         QCOMPARE(sheets.documents.size(), 2);
         QVERIFY(!sheets.documents.at(0).sides);
@@ -97,7 +97,7 @@ private Q_SLOTS:
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QVERIFY(isUncounted(*counter.counted(request)));
     }
 
@@ -109,7 +109,7 @@ private Q_SLOTS:
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QCOMPARE(counter.counted(request)->documents.constFirst().pages, std::optional(1));
     }
 
@@ -121,17 +121,17 @@ private Q_SLOTS:
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         const QByteArray calls = filter.content(u"calls"_s);
         QVERIFY(!calls.isEmpty());
         counter.count(request, When::Now);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QCOMPARE(filter.content(u"calls"_s), calls);
         // Other contents under the same name are another document.
         writeFile(path, pdfOfSizes({kA4, kA4}));
         QCOMPARE(counter.counted(request), nullptr);
         counter.count(request, When::Now);
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QCOMPARE(counter.counted(request)->documents.constFirst().sides, std::optional(2));
     }
 
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(filter.waitForFile(u"pid"_s));
         counter.count(newer, When::Now);
         QVERIFY(filter.waitForEndOf(u"pid"_s));
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QCOMPARE(finished.size(), 1);
         QVERIFY(counter.counted(newer));
         QCOMPARE(counter.counted(older), nullptr);
@@ -181,7 +181,7 @@ private Q_SLOTS:
                           When::Soon);
         QTest::qWait(50);
         QVERIFY(filter.content(u"calls"_s).isNull());
-        QVERIFY(finished.wait(kPatience));
+        QVERIFY(finished.wait(kCountPatience));
         QTest::qWait(300);
         QCOMPARE(finished.size(), 1);
         QVERIFY(counter.counted(requestFor(document, {{u"page-ranges"_s, u"1-3"_s}})));

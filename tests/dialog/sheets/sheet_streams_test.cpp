@@ -20,11 +20,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kPatience = 60000; // milliseconds that a chain may take on a busy machine
+constexpr int kStreamPatience = 60000; // milliseconds that a chain may take on a busy machine
 
 enum class Kind { Five, One, Mixed, TwoLetters, Small, Text, Picture, Nine };
 
-struct Row
+struct StreamRow
 {
     const char *name;
     QList<Kind> documents;
@@ -54,7 +54,7 @@ JobOption paper(const char *value)
 const JobOption kTwoSided{u"Duplex"_s, u"DuplexNoTumble"_s};
 const JobOption kReverse{u"outputorder"_s, u"reverse"_s};
 
-const Row kRows[] = {
+const StreamRow kStreamRows[] = {
     {"as it is", {Kind::Five}, {}},
     {"two-sided", {Kind::Five}, {kTwoSided}},
     {"one page, two-sided", {Kind::One}, {kTwoSided}},
@@ -85,7 +85,11 @@ const Row kRows[] = {
     {"a small page, fit", {Kind::Small}, {scaling("fit")}},
     {"landscape", {Kind::Five}, {{u"orientation-requested"_s, u"4"_s}}},
     {"text", {Kind::Text}, {}},
+    {"text, landscape", {Kind::Text}, {{u"orientation-requested"_s, u"4"_s}}},
     {"text, two on a side", {Kind::Text}, {number("2")}},
+    {"text with few lines to an inch",
+     {Kind::Text},
+     {{u"lpi"_s, u"3"_s}, {u"page-top"_s, u"200"_s}, {u"columns"_s, u"2"_s}}},
     {"text, two-sided pages", {Kind::Text}, {kTwoSided, pages("2-")}},
     {"a picture", {Kind::Picture}, {}},
     {"a picture, four on a side", {Kind::Picture}, {number("4"), kTwoSided}},
@@ -102,7 +106,7 @@ QByteArray saidBy(const QString &program, const QStringList &arguments)
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
-    return process.waitForFinished(kPatience) ? process.readAll() : QByteArray();
+    return process.waitForFinished(kStreamPatience) ? process.readAll() : QByteArray();
 }
 
 QByteArray textOf(int lines)
@@ -152,7 +156,7 @@ private:
                 u"text.txt"_s};
     }
 
-    JobTicket ticket(const Row &row) const
+    JobTicket ticket(const StreamRow &row) const
     {
         JobTicket ticket{u"Job"_s, 1, {{u"PageSize"_s, u"A4"_s}}};
         for (const JobOption &option : row.options) {
@@ -180,12 +184,12 @@ private:
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, SheetCounter::When::Now);
-        if (finished.isEmpty() && !finished.wait(kPatience))
+        if (finished.isEmpty() && !finished.wait(kStreamPatience))
             return std::nullopt;
         return *counter.counted(request);
     }
 
-    SheetRequest request(const Row &row)
+    SheetRequest request(const StreamRow &row)
     {
         SheetRequest request;
         for (const Kind kind : row.documents)
@@ -202,10 +206,10 @@ private Q_SLOTS:
             QSKIP("Ghostscript is not installed");
     }
 
-    void asManySidesAreCountedAsTheStreamHas_data() { addRows(kRows); }
+    void asManySidesAreCountedAsTheStreamHas_data() { addRows(kStreamRows); }
     void asManySidesAreCountedAsTheStreamHas()
     {
-        const Row &row = currentRow(kRows);
+        const StreamRow &row = currentRow(kStreamRows);
         const SheetRequest asked = request(row);
         const auto sheets = counted(asked);
         QVERIFY(sheets);
@@ -219,10 +223,10 @@ private Q_SLOTS:
     }
 
     // Words of the same letters are as wide in the stream as the scale says.
-    void theScaleIsThatOfTheStream_data() { addRows(kRows); }
+    void theScaleIsThatOfTheStream_data() { addRows(kStreamRows); }
     void theScaleIsThatOfTheStream()
     {
-        const Row &row = currentRow(kRows);
+        const StreamRow &row = currentRow(kStreamRows);
         if (row.documents != QList{Kind::Mixed} && row.documents != QList{Kind::Small} &&
             row.documents != QList{Kind::TwoLetters})
             return;

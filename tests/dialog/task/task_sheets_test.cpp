@@ -15,9 +15,9 @@ using Phase = PrintTask::Phase;
 
 namespace {
 
-constexpr int kPatience = 60000; // milliseconds that a chain may take on a busy machine
+constexpr int kSheetsPatience = 60000; // milliseconds that a chain may take on a busy machine
 
-struct Expected
+struct ExpectedSheets
 {
     const char *name;
     QList<QList<QSizeF>> documents;
@@ -27,7 +27,7 @@ struct Expected
     QStringList lines;  // of the summary
     QStringList absent; // titles that the summary does not have
 };
-const Expected kJobs[] = {
+const ExpectedSheets kSheetJobs[] = {
     {"as it is",
      {{kA4, kA4, kA4, kA4, kA4}},
      {},
@@ -136,17 +136,18 @@ private Q_SLOTS:
         m_scene.reset();
     }
 
-    void whatComesOutIsSaidOrRefused_data() { addRows(kJobs); }
+    void whatComesOutIsSaidOrRefused_data() { addRows(kSheetJobs); }
     void whatComesOutIsSaidOrRefused()
     {
-        const Expected &row = currentRow(kJobs);
+        const ExpectedSheets &row = currentRow(kSheetJobs);
         PrintRequest asked = request(row.documents);
         asked.options = row.options;
         asked.copies = row.copies;
         PrintTask &task = m_scene->open(asked);
         ScriptedFace &face = m_scene->face;
         task.print();
-        QTRY_VERIFY_WITH_TIMEOUT(!face.refusals.isEmpty() || !face.outcomes.isEmpty(), kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(!face.refusals.isEmpty() || !face.outcomes.isEmpty(),
+                                 kSheetsPatience);
         QCOMPARE(face.problems().join(u'\n'), row.refusal);
         QCOMPARE(task.phase(), row.refusal.isEmpty() ? Phase::Ended : Phase::Ready);
         QCOMPARE(QFile::exists(asked.output), row.refusal.isEmpty());
@@ -168,12 +169,12 @@ private Q_SLOTS:
         QSignalSpy counted(&task, &PrintTask::sheetsCounted);
         QCOMPARE(summary().at(1), u"Sheets: …"_s);
         task.countSheets();
-        QVERIFY(counted.wait(kPatience));
+        QVERIFY(counted.wait(kSheetsPatience));
         QCOMPARE(summary().at(1), u"Sheets: 3 pages = 3 sheets"_s);
         task.settings().setPageRanges(u"2-3"_s);
         QCOMPARE(summary().at(1), u"Sheets: …"_s);
         task.countSheets();
-        QVERIFY(counted.wait(kPatience));
+        QVERIFY(counted.wait(kSheetsPatience));
         QCOMPARE(summary().at(1), u"Sheets: 2 pages = 2 sheets"_s);
         // The number of copies is no reason to count anew.
         task.settings().askForCopies(3, JobSettings::By::User);
@@ -213,7 +214,7 @@ private Q_SLOTS:
         PrintTask &task = m_scene->open(request({{kA4, kA4, kA4}}));
         task.print();
         task.settings().setPageRanges(u"9"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_scene->face.outcomes.isEmpty(), kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_scene->face.outcomes.isEmpty(), kSheetsPatience);
         QCOMPARE(m_scene->face.problems(), QStringList());
         QCOMPARE(m_scene->face.summaries.constFirst().at(1).value, u"3 pages = 3 sheets"_s);
         QCOMPARE(task.phase(), Phase::Ended);
@@ -226,7 +227,7 @@ private Q_SLOTS:
             "case \" $* \" in *' -m application/vnd.cups-pdf '*) exit 1 ;; esac; echo data\n");
         PrintTask &task = m_scene->open(request({{kA4}}));
         task.print();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_scene->face.outcomes.isEmpty(), kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_scene->face.outcomes.isEmpty(), kSheetsPatience);
         QCOMPARE(m_scene->face.problems(), QStringList());
         QCOMPARE(m_scene->face.summaries.constFirst().at(1).value, u"could not be counted"_s);
         QCOMPARE(task.outcome().kind, JobOutcome::Kind::Printed);
