@@ -1,10 +1,8 @@
-#include <QFile>
 #include <QProcess>
 #include <QTest>
 
 #include "tests/e2e/QueueRuns.h"
 #include "tests/support/Rows.h"
-#include "tests/support/TestPaths.h"
 #include "tests/support/cups/Client.h"
 
 using namespace corvana::test;
@@ -12,20 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kPpd = corvana::test::sourceFile(QStringLiteral("resources/ppd/corvana-cl5.ppd"));
-const QString kThreePages =
-    corvana::test::sourceFile(QStringLiteral("resources/sample/welcome.pdf"));
-const QString kText = corvana::test::sourceFile(QStringLiteral("tests/data/page.txt"));
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Without a cover sheet, which has the number of its job on it, and the lines that are different
 /// in every job, or say beside "Duplex" that a job is two-sided.
-QByteArray comparable(const QByteArray &data)
+QByteArray ownData(const QByteArray &data)
 {
     QByteArrayList lines = data.mid(data.lastIndexOf("%!PS-Adobe-")).split('\n');
     lines.removeIf([](const QByteArray &line) {
@@ -35,7 +22,7 @@ QByteArray comparable(const QByteArray &data)
     return lines.join('\n');
 }
 
-QByteArray firstDifference(const QByteArray &data, const QByteArray &other)
+QByteArray firstLineApart(const QByteArray &data, const QByteArray &other)
 {
     const QByteArrayList lines = data.split('\n');
     const QByteArrayList otherLines = other.split('\n');
@@ -62,7 +49,7 @@ struct DefaultRun
     const char *toLp = nullptr;
 };
 
-constexpr DefaultRun kDefaults[] = {
+constexpr DefaultRun kDefaultRuns[] = {
     {"two pages on a sheet", "number-up-default=2", nullptr, "Pages per Sheet: 2"},
     {"one page on a sheet after all", "number-up-default=2", "number-up=1", "Pages per Sheet: 1"},
     {"a cover sheet", "job-sheets-default=standard,none", nullptr, "Banner Pages: standard,none",
@@ -101,8 +88,9 @@ private:
     void printAsItIs()
     {
         Client client(m_cups->server());
-        QVERIFY(client.print(u"office"_s, contentOf(kThreePages), "application/pdf") > 0);
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED, 20000);
+        QVERIFY(client.print(u"office"_s, readAll(kThreePages), "application/pdf") > 0);
+        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED,
+                                  kQueuePatience);
     }
     void runLp(const QStringList &arguments)
     {
@@ -114,14 +102,15 @@ private:
         lp.start(u"lp"_s, arguments);
         QVERIFY(lp.waitForFinished());
         QVERIFY2(lp.exitCode() == 0, lp.readAllStandardError().constData());
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED, 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED,
+                                  kQueuePatience);
     }
 
 private Q_SLOTS:
-    void theProgramAndLpPrintTheSame_data() { addRows(kDefaults); }
+    void theProgramAndLpPrintTheSame_data() { addRows(kDefaultRuns); }
     void theProgramAndLpPrintTheSame()
     {
-        const DefaultRun &row = currentRow(kDefaults);
+        const DefaultRun &row = currentRow(kDefaultRuns);
         m_cups->addQueue(u"office"_s, kPpd, {.options = {QString::fromLatin1(row.byQueue)}});
         QStringList arguments{u"-d"_s, u"office"_s};
         if (row.option)
@@ -141,9 +130,9 @@ private Q_SLOTS:
             printAsItIs();
         const QByteArray theirs = lastStream();
         QCOMPARE(theirs.count("%!PS-Adobe-3.0"), qsizetype(row.streams));
-        const QByteArray our = comparable(ours);
-        const QByteArray their = comparable(theirs);
-        QVERIFY2(our == their, firstDifference(our, their).constData());
+        const QByteArray our = ownData(ours);
+        const QByteArray their = ownData(theirs);
+        QVERIFY2(our == their, firstLineApart(our, their).constData());
     }
 
     void aDefaultThatNobodyUnderstandsIsSaid()
@@ -175,7 +164,7 @@ private Q_SLOTS:
         QVERIFY2(end.text().contains("Sent to"), end.text().constData());
         const CapturedJob job = m_cups->capture(u"office"_s).jobs().constLast();
         QCOMPARE(job.copies, 3);
-        QVERIFY(job.data == contentOf(kThreePages));
+        QVERIFY(job.data == readAll(kThreePages));
     }
 
     void aRawQueueRefusesWhatItDoesNotDo_data()
@@ -206,7 +195,7 @@ private Q_SLOTS:
         QVERIFY2(end.status == 0, end.text().constData());
         QVERIFY2(end.text().contains("Sent to"), end.text().constData());
         const CapturedJob ours = m_cups->capture(u"office"_s).jobs().constLast();
-        QVERIFY(ours.data == contentOf(kText));
+        QVERIFY(ours.data == readAll(kText));
         runLp(arguments);
         const CapturedJob theirs = m_cups->capture(u"office"_s).jobs().constLast();
         QVERIFY(theirs.id != ours.id);
