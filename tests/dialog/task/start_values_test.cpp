@@ -260,12 +260,12 @@ private Q_SLOTS:
                 .option("ColorModel", "Color", "RGB", {{"Gray", "Gray"}, {"RGB", "RGB"}})
                 .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
                 .text()));
-        say(By::UserQueues, u"print-color-mode=monochrome media=A5,Lower"_s);
+        say(By::UserQueues, u"print-color-mode=monochrome media=Postcard,Lower"_s);
         const StartOutcome outcome = start();
         QVERIFY2(outcome.ignored.isEmpty(), qPrintable(outcome.ignored.value(0)));
         QCOMPARE(m_printer->session->markedChoice(u"ColorModel"_s), u"Gray"_s);
         QCOMPARE(m_printer->session->markedChoice(u"InputSlot"_s), u"Lower"_s);
-        QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"A5"_s);
+        QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"Postcard"_s);
     }
 
     // What is passed on as it is
