@@ -77,8 +77,14 @@ void makeKnown(const QString &server)
     printer.description = kQueue;
     printer.origin = PrinterOrigin::Queue;
     printer.uri = queueUri(kQueue);
+    QueueDetails details;
+    details.state = QueueDetails::Ppd::Read;
+    details.printer = printer;
     QFile ppd(kSamplePpd);
-    if (!ppd.open(QIODevice::ReadOnly) || !PpdCache().store(server, printer, ppd.readAll(), 1))
+    if (ppd.open(QIODevice::ReadOnly))
+        details.ppd = ppd.readAll();
+    details.ppdHash = hashOfPpd(details.ppd);
+    if (!PpdCache().store(server, details))
         throw std::runtime_error("the sample printer cannot be kept");
     rememberPrinter(server, kQueue);
 }

@@ -6,8 +6,13 @@
 #include <QStringList>
 
 #include "dialog/task/AlertPolicy.h"
+#include "dialog/terminal/ExitStatus.h"
+#include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
+
+/// The document, or the result, that has no name but is standard input or output.
+inline constexpr QLatin1StringView kStandardStream{"-"};
 
 /// What the user asked for on the command line.
 struct CommandLine
@@ -19,6 +24,7 @@ struct CommandLine
     QString output;
     QString title;
     QStringList options;       ///< each value of -o
+    QList<JobOption> switches; ///< what -P, -q and -H stand for; they count more than -o
     std::optional<int> copies; ///< of -n
     QStringList bundleRoots;
     bool demo = false;
@@ -27,6 +33,13 @@ struct CommandLine
     bool summary = false;
     bool checkDisplay = false;
     bool noWait = false;
+    std::optional<int> wait; ///< of --wait, in seconds
+    bool quiet = false;
+    bool json = false; ///< of --format
+    QString user;      ///< of -U; empty for the environment's
+    bool encrypt = false;
+    QString passwordFile;
+    std::optional<int> passwordDescriptor;
     /// Nothing: what suits where the job goes.
     std::optional<AlertPolicy> onAlert;
 
@@ -37,11 +50,13 @@ struct CommandLine
 struct ParsedCommandLine
 {
     std::optional<CommandLine> commandLine;
-    QString text;       ///< the help, the version or the error
-    int exitStatus = 0; ///< 0 for help and version, 2 for a command line that cannot be understood
+    QString text{}; ///< the help, the version or the error
+    /// `Done` for help and version, `NotUnderstood` for a command line that cannot be understood.
+    ExitStatus exitStatus = ExitStatus::Done;
 };
 
-/// `arguments` begin with the program's name.
-ParsedCommandLine parseCommandLine(const QStringList &arguments);
+/// `arguments` begin with the program's name. `inputIsGiven`: standard input is the document where
+/// no file is named.
+ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven = false);
 
 } // namespace corvana

@@ -40,7 +40,10 @@ QStringList userLanguages(const QProcessEnvironment &environment)
         if (locale.isEmpty())
             locale = environment.value(QString::fromLatin1(variable));
     }
-    if (asksForNoLanguage(locale))
+    // "C.UTF-8" is a locale as any other to gettext: it has no language of its own, and leaves the
+    // choice to LANGUAGE. Only plain "C" wants none.
+    const bool isPlain = !locale.contains(u'.');
+    if (isPlain && asksForNoLanguage(locale))
         return {};
     const QStringList list =
         environment.value(QString::fromLatin1(kLanguage)).split(u':', Qt::SkipEmptyParts);

@@ -22,8 +22,8 @@ struct Language
 /// The first of the user's languages that the dialog has texts in, else that of the source.
 ///
 /// The languages are found as gettext does: LANGUAGE, a list, comes before LC_ALL, LC_MESSAGES and
-/// LANG, but counts for nothing where these ask for no language at all ("C"). Other than there, a
-/// locale needs not be installed.
+/// LANG, but counts for nothing where these ask for no language at all ("C", other than "C.UTF-8").
+/// Other than there, a locale needs not be installed.
 Language languageOf(const QProcessEnvironment &environment);
 
 /// Makes languageOf() the environment's the one of this process. The dialog's and the panels' texts

@@ -3,10 +3,14 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include "dialog/app/Language.h"
+#include "dialog/job/FileBytes.h"
+#include "dialog/job/ResultFormat.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/terminal/PasswordFile.h"
 #include "platform/foundation/Bundle.h"
 
 namespace corvana {
@@ -26,17 +30,14 @@ QString besideProgram(const QString &relative)
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
 }
 
-// A name in the current folder that nothing has yet. A desktop starts programs in a folder where
+// A name in the current folder that nothing has yet; a task gives it the ending that suits its
+// printer. A desktop starts programs in a folder where
 // nothing can be written; then it is the user's own.
 QString freeOutputName(const QString &title)
 {
     const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
     const QDir folder = writable ? QDir::current() : QDir::home();
-    const QString base = QFileInfo(title).completeBaseName();
-    QString name = folder.absoluteFilePath(base + u".ps"_s);
-    for (int i = 2; QFileInfo::exists(name); ++i)
-        name = folder.absoluteFilePath(u"%1-%2.ps"_s.arg(base).arg(i));
-    return name;
+    return freeResultName(folder.path(), QFileInfo(title).completeBaseName(), u"ps"_s);
 }
 
 // The dialog's own help, in the localisation that suits the user best; empty when there is none.
@@ -55,6 +56,35 @@ QString titleOf(const QList<Document> &documents)
     const QString first = documents.constFirst().title;
     const int others = static_cast<int>(documents.size()) - 1;
     return others == 0 ? first : Texts::tr("%1 and %n more", nullptr, others).arg(first);
+}
+
+// Errors: false.
+bool takeCredentials(const CommandLine &line, PrintRequest *request, QString *error)
+{
+    if (line.passwordFile.isEmpty() && !line.passwordDescriptor)
+        return true;
+    const std::optional<QString> password =
+        line.passwordDescriptor ? passwordFromDescriptor(*line.passwordDescriptor, error)
+                                : passwordInFile(line.passwordFile, error);
+    if (password)
+        request->credentials = Credentials{QString::fromUtf8(cupsUser()), *password};
+    return password.has_value();
+}
+
+// Errors: false.
+bool takeOutput(const CommandLine &line, PrintRequest *request, QString *error)
+{
+    request->outputWasNamed = !line.output.isEmpty();
+    request->output = line.output;
+    if (line.output == kStandardStream) {
+        request->standardOutput = std::make_shared<QTemporaryDir>();
+        request->output = request->standardOutput->filePath(u"result"_s);
+        *error = request->standardOutput->errorString();
+        return request->standardOutput->isValid();
+    }
+    if (line.output.isEmpty() && !request->documents.isEmpty())
+        request->output = freeOutputName(request->documents.constFirst().title);
+    return true;
 }
 
 } // namespace
@@ -79,9 +109,17 @@ QStringList trustedBundleRoots(const CommandLine &line)
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
+    // Only documents are found by any name; a result under another name than the one that was
+    // given would be lost.
+    for (const QString &name : {line.output, line.ppd}) {
+        if (hasStrayBytes(name)) {
+            *error = Texts::tr("%1: the name is not written in UTF-8.").arg(shownName(name));
+            return std::nullopt;
+        }
+    }
     for (const QString &name : line.documents) {
-        const Document document = name == "-"_L1 ? readStandardInput(&request.standardInput, error)
-                                                 : inspectDocument(name, error);
+        const Document document =
+            name == "-"_L1 ? readStandardInput(error) : inspectDocument(name, error);
         if (document.path.isEmpty())
             return std::nullopt;
         request.documents += document;
@@ -92,15 +130,19 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.server = request.serverWasNamed
                          ? ServerAddress::parse(line.server).value_or(ServerAddress::configured())
                          : ServerAddress::configured();
-    request.options = parseOptions(line.options);
+    if (line.encrypt && request.server.encryption != HTTP_ENCRYPTION_ALWAYS)
+        request.server.encryption = HTTP_ENCRYPTION_REQUIRED;
+    if (!takeCredentials(line, &request, error) || !takeOutput(line, &request, error))
+        return std::nullopt;
+    request.options = parseOptions(line.options) + line.switches;
     request.bundleRoots = trustedBundleRoots(line);
     request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
-    request.outputWasNamed = !line.output.isEmpty();
-    request.output = line.output.isEmpty() && !request.documents.isEmpty()
-                         ? freeOutputName(request.documents.constFirst().title)
-                         : line.output;
     request.onAlert = line.onAlert;
     request.noWait = line.noWait;
+    if (line.wait)
+        request.wait = std::chrono::seconds(*line.wait);
+    request.quiet = line.quiet;
+    request.json = line.json;
     request.copies = line.copies.value_or(1);
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;

@@ -1,7 +1,10 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cups/cups.h>
+
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QTextStream>
 
@@ -9,7 +12,10 @@
 #include "dialog/app/Language.h"
 #include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/app/Translations.h"
+#include "dialog/job/Document.h"
+#include "dialog/job/FileBytes.h"
 #include "dialog/terminal/ListPrinters.h"
+#include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "dialog/terminal/UnattendedRun.h"
 #include "dialog/window/Placeholders.h"
@@ -48,8 +54,18 @@ void choosePlatform(bool needsWindow)
     }
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
-    const bool wayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;wayland;offscreen");
+    // What there is no sign of is not tried: the libraries below Qt would complain of it, too.
+    const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
+    const QString socket = qEnvironmentVariable("WAYLAND_DISPLAY");
+    const bool wayland = !socket.isEmpty() && (socket.startsWith(u'/') ||
+                                               !qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"));
+    QByteArrayList platforms;
+    if (wayland)
+        platforms += "wayland";
+    if (x11)
+        platforms += "xcb";
+    platforms += "offscreen";
+    qputenv("QT_QPA_PLATFORM", platforms.join(';'));
 }
 
 // Whatever has no HOME, such as a job of the system's, would keep its files in "/".
@@ -63,6 +79,10 @@ void findHome()
 
 bool ignoresMissingRuntimeFolder = false;
 
+// While Qt looks for a platform that works, what it says of the others is left out: when none does,
+// our own sentence says so, and when one does, nobody needs to know.
+bool looksForPlatform = false;
+
 // What is logged is read in a terminal as well, and quotes PPDs and servers. Qt complains of a
 // missing folder that a program without a window has no use for; cron would send that to its user
 // as a mail, each time.
@@ -72,6 +92,11 @@ void logForTerminals(bool unattended)
     ignoresMissingRuntimeFolder = unattended;
     others = qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+            const bool isOfPlatforms = QByteArrayView(context.category).startsWith("qt.qpa") ||
+                                       text.startsWith("QStandardPaths:"_L1) ||
+                                       text.startsWith("Failed to create wl_display"_L1);
+            if (looksForPlatform && type == QtWarningMsg && isOfPlatforms)
+                return;
             if (!ignoresMissingRuntimeFolder ||
                 !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set"_L1))
                 others(type, context, terminalText(text));
@@ -81,6 +106,14 @@ void logForTerminals(bool unattended)
 bool hasWindows()
 {
     return QGuiApplication::platformName() != "offscreen"_L1;
+}
+
+// Asks which documents to print. False when none.
+bool chooseDocuments(CommandLine *line)
+{
+    line->documents = QFileDialog::getOpenFileNames(
+        nullptr, QCoreApplication::translate("main", "Choose Documents to Print"));
+    return !line->documents.isEmpty();
 }
 
 int runDialog(const PrintRequest &request)
@@ -103,20 +136,31 @@ int main(int argc, char **argv)
     speakOneLanguage();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments += QString::fromLocal8Bit(argv[i]);
-    const ParsedCommandLine parsed = parseCommandLine(arguments);
-    if (!parsed.commandLine) {
-        QTextStream(parsed.exitStatus == 0 ? stdout : stderr) << parsed.text;
-        return parsed.exitStatus;
+        arguments += nameOfBytes(argv[i]);
+    // Whoever starts the program from a desktop's list of programs gives it nothing at all.
+    const bool choosesDocument =
+        argc == 1 && !isStandardInputGiven() && ::isatty(STDIN_FILENO) == 0;
+    const ParsedCommandLine parsed = parseCommandLine(arguments, isStandardInputGiven());
+    if (!parsed.commandLine && !choosesDocument) {
+        QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
+        return int(parsed.exitStatus);
     }
-    const CommandLine &line = *parsed.commandLine;
+    CommandLine line = parsed.commandLine.value_or(CommandLine());
 
+    // Before there is a second thread: libcups reads it in each, and has done so in this one.
+    if (!line.user.isEmpty()) {
+        qputenv("CUPS_USER", line.user.toLocal8Bit());
+        cupsSetUser(line.user.toUtf8().constData());
+    }
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    const bool unattended = line.noDialog || line.listPrinters || line.documents.isEmpty();
+    const bool unattended =
+        line.noDialog || line.listPrinters || (line.documents.isEmpty() && !choosesDocument);
     choosePlatform(!unattended || line.checkDisplay);
     logForTerminals(unattended);
+    looksForPlatform = !explicitPlatform;
     QApplication application(argc, argv);
+    looksForPlatform = false;
     QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
     QApplication::setApplicationName(u"corvana-print"_s);
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
@@ -130,8 +174,12 @@ int main(int argc, char **argv)
         return fail(QCoreApplication::translate(
             "main", "no display can be reached. Print without a window with --no-dialog."));
 
+    if (choosesDocument && !chooseDocuments(&line))
+        return 1;
     QString error;
     const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
+    if (!request && line.json)
+        writeLine(refusalLine({}, {error}));
     if (!request)
         return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)

@@ -125,6 +125,14 @@ public:
         for (const CapabilityChoice &choice : option.choices)
             textLine(keyword + ' ' + choice.keyword, choice.text, '"' + choice.code + '"');
         line("*CloseUI: *" + keyword);
+        if (option.attribute != "finishings")
+            return;
+        // By these lines libcups finds the choice of "finishings=4".
+        for (const CapabilityChoice &choice : option.choices) {
+            if (!choice.value.isEmpty())
+                line("*cupsIPPFinishings " + choice.value.toLatin1() + '/' + choice.keyword +
+                     ": \"*" + keyword + ' ' + choice.keyword + '"');
+        }
     }
     // The main texts of a PPD are ASCII: where that is not enough, they are translated to English.
     QByteArray text() const

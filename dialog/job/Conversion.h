@@ -30,6 +30,8 @@ public:
     void cancel() { m_chain.cancel(); }
     /// Whether cancel() was in time.
     bool isCanceled() const { return m_chain.isCanceled(); }
+    /// Whether the problem is that no page is left: every filter has done its work.
+    bool cameOutEmpty() const { return m_chain.cameOutEmpty(); }
 
 Q_SIGNALS:
     /// A filter has come to this page. Range: 1 and more.

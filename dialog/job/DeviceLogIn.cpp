@@ -34,9 +34,15 @@ void DeviceLogIn::forget()
         store->forget(realm(), *m_credentials);
 }
 
-QString DeviceLogIn::realm() const
+bool DeviceLogIn::wasGuess() const
 {
-    return u"%1 %2"_s.arg(m_worker.context().address.argument(), m_printer.uri);
+    const auto &store = m_worker.context().credentials;
+    return store && store->isGuess(realm());
+}
+
+CredentialRealm DeviceLogIn::realm() const
+{
+    return {m_worker.context().address.argument(), m_printer.uri};
 }
 
 } // namespace corvana

@@ -24,11 +24,13 @@ public:
     bool ask();
     /// They were wrong: the next job asks again.
     void forget();
+    /// Whether they were given for the server, and only tried for the device.
+    bool wasGuess() const;
 
     const std::optional<Credentials> &credentials() const { return m_credentials; }
 
 private:
-    QString realm() const;
+    CredentialRealm realm() const;
 
     ServerWorker &m_worker;
     const Printer &m_printer;

@@ -1,14 +1,21 @@
 #include "dialog/job/Document.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <cerrno>
 #include <iterator>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
-#include <QTemporaryFile>
+
+#include "dialog/job/DocumentCopy.h"
+#include "dialog/job/FileBytes.h"
+#include "dialog/text/TextEncoding.h"
 
 namespace corvana {
 
@@ -42,77 +49,125 @@ const Format *formatOf(const QMimeType &type)
     return found == std::end(kFormats) ? nullptr : found;
 }
 
-} // namespace
-
-Document inspectDocument(const QString &path, QString *error)
+// What a file holds. The filter chain reads no UTF-16 and no escape sequences, and no database of
+// types calls them text; pages are made of them here.
+const Format *formatOfContent(QFile &file, const QMimeType &type)
 {
-    const QFileInfo info(path);
+    constexpr qint64 kBeginning = 4096;
+    if (const Format *known = formatOf(type))
+        return known;
+    constexpr const Format *kText = std::end(kFormats) - 1;
+    file.seek(0);
+    return type.isDefault() && looksLikeText(file.read(kBeginning)) ? kText : nullptr;
+}
+
+// `name` is what the user calls it. Errors: see inspectDocument().
+Document inspectFile(const QString &path, const QString &name, QString *error)
+{
     QFile file(path);
-    if (!info.exists()) {
-        *error = Texts::tr("%1: there is no such file.").arg(path);
-        return {};
-    }
-    if (info.isDir()) {
-        *error = Texts::tr("%1 is a folder; a document was expected.").arg(path);
-        return {};
-    }
-    // A pipe or a device can be read only once, and perhaps never ends.
-    if (!info.isFile()) {
-        *error = Texts::tr("%1 is no ordinary file; a document was expected.").arg(path);
-        return {};
-    }
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = Texts::tr("%1 cannot be read: %2").arg(path, file.errorString());
+        *error = Texts::tr("%1 cannot be read: %2").arg(name, file.errorString());
         return {};
     }
-    if (info.size() == 0) {
-        *error = Texts::tr("%1 is empty.").arg(path);
+    if (file.size() == 0) {
+        *error = Texts::tr("%1 is empty.").arg(name);
         return {};
     }
     const QMimeDatabase database;
     const QMimeType content = database.mimeTypeForData(&file);
-    const Format *held = formatOf(content);
-    const auto namedTypes = database.mimeTypesForFileName(info.fileName());
+    const Format *held = formatOfContent(file, content);
+    const QString fileName = QFileInfo(name).fileName();
+    const auto namedTypes = database.mimeTypesForFileName(fileName);
     const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
     if (!held) {
         *error =
             Texts::tr(
                 "%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
                 "or JPEG.")
-                .arg(path, content.comment());
+                .arg(name, content.comment());
         return {};
     }
     if (promised && promised != held) {
         *error = Texts::tr("%1 is named like a %2, but holds a %3. Rename it if that is right.")
-                     .arg(path, Texts::tr(promised->name), Texts::tr(held->name));
+                     .arg(name, Texts::tr(promised->name), Texts::tr(held->name));
         return {};
     }
-    return {info.absoluteFilePath(), held->mimeType, info.fileName()};
+    return {QFileInfo(path).absoluteFilePath(), held->mimeType, fileName};
 }
 
-Document readStandardInput(std::shared_ptr<QTemporaryFile> *file, QString *error)
+// What can be read only once, or has a name that no program of the chain can be told.
+Document inspectCopy(int descriptor, const QString &name, QString *error)
 {
-    const QString name = Texts::tr("standard input");
-    QFile input;
-    auto copy = std::make_shared<QTemporaryFile>();
-    if (!input.open(stdin, QIODevice::ReadOnly) || !copy->open()) {
-        *error = Texts::tr("%1 cannot be read: %2").arg(name, input.errorString());
+    const std::shared_ptr<QTemporaryDir> copy = copyOfDocument(descriptor, name, error);
+    if (!copy)
+        return {};
+    Document document = inspectFile(pathOfCopy(*copy), name, error);
+    if (!document.path.isEmpty())
+        document.copy = copy;
+    return document;
+}
+
+// Closes a file at its end.
+struct Descriptor
+{
+    int number = -1;
+    explicit Descriptor(int opened) : number(opened) {}
+    ~Descriptor()
+    {
+        if (number >= 0)
+            ::close(number);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+};
+
+} // namespace
+
+Document inspectDocument(const QString &path, QString *error)
+{
+    const QString name = shownName(path);
+    const QByteArray bytes = bytesOfName(path);
+    struct stat info
+    {
+    };
+    if (::stat(bytes.constData(), &info) != 0) {
+        *error = errno == ENOENT || errno == ENOTDIR
+                     ? Texts::tr("%1: there is no such file.").arg(name)
+                     : Texts::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno));
         return {};
     }
-    constexpr qint64 kChunk = 1 << 20;
-    for (QByteArray chunk = input.read(kChunk); !chunk.isEmpty(); chunk = input.read(kChunk)) {
-        if (copy->write(chunk) != chunk.size()) {
-            *error = Texts::tr("%1 cannot be kept: %2").arg(name, copy->errorString());
-            return {};
-        }
+    if (S_ISDIR(info.st_mode)) {
+        *error = Texts::tr("%1 is a folder; a document was expected.").arg(name);
+        return {};
     }
-    copy->close();
-    Document document = inspectDocument(copy->fileName(), error);
-    if (document.path.isEmpty())
-        error->replace(copy->fileName(), name);
-    document.title = name;
-    *file = copy;
-    return document;
+    // A device perhaps never ends.
+    if (!S_ISREG(info.st_mode) && !S_ISFIFO(info.st_mode)) {
+        *error = Texts::tr("%1 is no ordinary file; a document was expected.").arg(name);
+        return {};
+    }
+    if (S_ISREG(info.st_mode) && !hasStrayBytes(path))
+        return inspectFile(path, name, error);
+    // A pipe without a writer would be waited for without end.
+    const Descriptor file(::open(bytes.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (file.number < 0) {
+        *error = Texts::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno));
+        return {};
+    }
+    return inspectCopy(file.number, name, error);
+}
+
+Document readStandardInput(QString *error)
+{
+    return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), error);
+}
+
+bool isStandardInputGiven()
+{
+    struct stat info
+    {
+    };
+    return ::fstat(STDIN_FILENO, &info) == 0 &&
+           (S_ISFIFO(info.st_mode) || S_ISREG(info.st_mode) || S_ISSOCK(info.st_mode));
 }
 
 } // namespace corvana

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-class QTemporaryFile;
+class QTemporaryDir;
 
 namespace corvana {
 
@@ -14,6 +14,8 @@ struct Document
     QString path;   ///< absolute
     QString format; ///< MIME type, as the filter chain names it
     QString title;  ///< the file's name
+    /// Holds a file of our own while it is needed; null where the document is the user's file.
+    std::shared_ptr<QTemporaryDir> copy{};
 
     bool operator==(const Document &) const = default;
 };
@@ -24,12 +26,18 @@ struct Document
 /// it is; a file whose name promises something else is refused, because it is more often a web
 /// server's error page than a picture in disguise.
 ///
+/// `path` may have bytes that are no characters, as nameOfBytes() has them. Such a file, and a
+/// named pipe, are read to their ends into a file of the user's own; devices are refused.
+///
 /// Errors: an empty path; `error` then says which file and what is wrong with it.
 Document inspectDocument(const QString &path, QString *error);
 
 /// The document that comes on standard input, read to its end into a temporary file of the user's.
-/// Ownership: `file` holds the data and removes it at its end.
 /// Errors: as inspectDocument().
-Document readStandardInput(std::shared_ptr<QTemporaryFile> *file, QString *error);
+Document readStandardInput(QString *error);
+
+/// Whether standard input is what somebody gave this program to read: a pipe or a file. A terminal
+/// is where its user types, and whatever starts programs in the background gives them /dev/null.
+bool isStandardInputGiven();
 
 } // namespace corvana

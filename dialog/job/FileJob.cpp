@@ -1,5 +1,7 @@
 #include "dialog/job/FileJob.h"
 
+#include "dialog/job/ResultPages.h"
+
 namespace corvana {
 
 FileJob::FileJob(const FileJobRequest &request, QObject *parent) : Job(parent), m_request(request)
@@ -16,7 +18,7 @@ void FileJob::start()
     if (!problem.isEmpty())
         return fail(problem);
     report({JobProgress::Stage::Printing});
-    m_conversion->start();
+    m_texts->start();
 }
 
 // Makes the file that is written. Answers what stands in the way.
@@ -30,9 +32,25 @@ QString FileJob::prepare()
     m_result = ResultFile::create(m_request.outputPath, &problem);
     if (!m_result)
         return problem;
+    m_texts = std::make_unique<TextDocuments>(m_request.documents, m_request.ticket.options,
+                                              m_request.ppdPath);
+    connect(m_texts.get(), &TextDocuments::finished, this, &FileJob::convert);
+    connect(m_texts.get(), &TextDocuments::pageReached, this, [this](int page) {
+        report({JobProgress::Stage::Printing, 0, page});
+    });
+    return {};
+}
+
+// The texts among the documents have become pages.
+void FileJob::convert(const QString &problem)
+{
+    if (!problem.isEmpty())
+        return fail(problem);
     ConversionRequest request;
-    request.documents = m_request.documents;
+    request.documents = m_texts->documents();
     request.ticket = m_request.ticket;
+    if (request.documents != m_request.documents)
+        request.ticket.options = optionsAfterTexts(request.ticket.options, request.documents);
     request.ppdPath = m_request.ppdPath;
     request.outputPath = m_result->path();
     request.outputName = m_request.outputPath;
@@ -41,7 +59,7 @@ QString FileJob::prepare()
     connect(m_conversion.get(), &Conversion::pageReached, this, [this](int page) {
         report({JobProgress::Stage::Printing, 0, page});
     });
-    return {};
+    m_conversion->start();
 }
 
 void FileJob::cancel()
@@ -50,10 +68,19 @@ void FileJob::cancel()
         return;
     if (m_conversion)
         m_conversion->cancel();
+    else if (m_texts)
+        m_texts->cancel();
     m_canceled = !m_conversion || m_conversion->isCanceled();
 }
 
 void FileJob::converted(const QString &problem)
+{
+    if (!problem.isEmpty())
+        return fail(problem);
+    checkResultPages(m_result->path(), this, [this](const QString &why) { publish(why); });
+}
+
+void FileJob::publish(const QString &problem)
 {
     const QString why = problem.isEmpty() ? m_result->publish() : problem;
     if (!why.isEmpty())

@@ -9,6 +9,7 @@
 #include "dialog/job/Document.h"
 #include "dialog/job/Job.h"
 #include "dialog/job/ResultFile.h"
+#include "dialog/job/TextDocuments.h"
 #include "dialog/session/JobTicket.h"
 
 namespace corvana {
@@ -23,7 +24,8 @@ struct FileJobRequest
 };
 
 /// Prints into a file: the documents go through the filter chain of CUPS with the printer's PPD and
-/// become what the printer would have got. Several documents are put together into one PDF first.
+/// become what the printer would have got. Texts are made into pages before that, and several
+/// documents are put together into one PDF.
 ///
 /// The result appears under its name when it is complete, see ResultFile.
 class FileJob : public Job
@@ -40,11 +42,14 @@ public:
 
 private:
     QString prepare();
+    void convert(const QString &problem);
     void converted(const QString &problem);
+    void publish(const QString &problem);
     void fail(const QString &problem);
 
     FileJobRequest m_request;
     std::unique_ptr<ResultFile> m_result;
+    std::unique_ptr<TextDocuments> m_texts;
     std::unique_ptr<Conversion> m_conversion;
     bool m_canceled = false;
 };

@@ -175,6 +175,7 @@ void FilterChain::skipStep()
         return finish(problemOfWriting());
     }
     m_output.close();
+    m_cameOutEmpty = true;
     if (m_plan.size() == 1 && step().yields == FilterStep::Yields::Something)
         return finish(noSuchPages());
     goOn();
@@ -290,6 +291,9 @@ void FilterChain::stepFinished(int exitCode, QProcess::ExitStatus status)
     // A filter of the chain may outlive the program that started it.
     if ((m_canceled || m_tookTooLong || !m_writeError.isEmpty()) && m_group > 0)
         ::kill(-m_group, SIGKILL);
+    m_cameOutEmpty = !m_canceled && !m_tookTooLong && m_writeError.isEmpty() &&
+                     status == QProcess::NormalExit && exitCode == 0 &&
+                     isEmptyPart(step().output);
     const QString problem = problemOfStep(exitCode, status);
     if (!problem.isEmpty())
         return finish(problem);

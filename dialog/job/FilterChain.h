@@ -38,6 +38,8 @@ public:
     void cancel();
     /// Whether cancel() was in time.
     bool isCanceled() const { return m_canceled; }
+    /// Whether the last step yielded nothing, without any program calling that a failure.
+    bool cameOutEmpty() const { return m_cameOutEmpty; }
 
 Q_SIGNALS:
     /// A filter has come to this page. Range: 1 and more.
@@ -71,6 +73,7 @@ private:
     QTimer m_patience;    // with the current step
     bool m_tookTooLong = false;
     bool m_canceled = false;
+    bool m_cameOutEmpty = false;
 };
 
 } // namespace corvana

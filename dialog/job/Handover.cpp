@@ -8,7 +8,7 @@
 
 #include "dialog/job/DeviceLogIn.h"
 #include "dialog/job/EarlierJob.h"
-#include "dialog/job/HandoverOutcomes.h"
+#include "dialog/job/FollowedJob.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/printers/QueueRequests.h"
 
@@ -32,18 +32,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ServerJob)
 };
 
-JobProgress progressOf(const JobStatus &status, int job)
-{
-    JobProgress progress{JobProgress::Stage::Waiting, job, status.pages, 0, 0, status.message};
-    if (status.state == IPP_JSTATE_PROCESSING)
-        progress.stage = JobProgress::Stage::Printing;
-    else if (status.state == IPP_JSTATE_HELD)
-        progress.stage = JobProgress::Stage::Held;
-    else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
-        progress.stage = JobProgress::Stage::Stopped;
-    return progress;
-}
-
 bool isHeldForLogIn(const JobStatus &status)
 {
     return status.state == IPP_JSTATE_HELD &&
@@ -60,7 +48,8 @@ public:
              const std::function<void(const JobProgress &)> &report)
         : m_worker(worker), m_request(request), m_documents(documents), m_report(report),
           m_connection(&worker.connection()), m_logIn(worker, request.printer),
-          m_outcomes(request.printer, request.mayBeEmpty)
+          m_outcomes(request.printer, request.mayBeEmpty),
+          m_followed(request.printer, request.follow, m_outcomes)
     {
     }
 
@@ -92,7 +81,10 @@ private:
         if (!job)
             return withdrawNumberless(token);
         m_outcomes.setJob(*job);
-        return sendAndFollow();
+        m_followed.begin(*m_connection);
+        const JobOutcome outcome = sendAndFollow();
+        m_followed.end(*m_connection);
+        return outcome;
     }
 
     ServerWorker &m_worker;
@@ -103,6 +95,7 @@ private:
     std::unique_ptr<ServerConnection> m_another; // after the first one was lost
     DeviceLogIn m_logIn;
     HandoverOutcomes m_outcomes;
+    FollowedJob m_followed;
     qint64 m_totalSize = 0;    // of the documents
     bool m_hasPart = false;    // the server may have some of the documents
     bool m_whole = false;      // the server may have all of them
@@ -124,7 +117,10 @@ private:
         context.mayAsk = false;
         context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
         context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
+        const bool isFollowed = m_connection == m_another.get();
         m_another = std::make_unique<ServerConnection>(context, nullptr);
+        if (isFollowed) // on the one that has just gone
+            m_connection = m_another.get();
         return *m_another;
     }
 
@@ -138,8 +134,7 @@ private:
             m_connection->requestWasSent() &&
             (!problem || problem.mayPass() || problem.kind == ServerProblem::Kind::Canceled);
         if (!mayBeThere)
-            return canceled ? m_outcomes.canceledBefore()
-                            : m_outcomes.notCreated(problem, whatIsWrong());
+            return canceled ? m_outcomes.canceledBefore() : notCreated(problem);
         const auto kind = canceled ? Kind::Canceled : Kind::Failed;
         QString why = whatIsWrong();
         if (canceled)
@@ -177,7 +172,15 @@ private:
         }
         if (m_worker.isCanceled())
             return m_outcomes.canceledBefore();
-        return m_outcomes.notCreated(m_connection->problem(), whatIsWrong());
+        return notCreated(m_connection->problem());
+    }
+
+    JobOutcome notCreated(const ServerProblem &problem)
+    {
+        const QString reason = problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS
+                                   ? whyNotAccepting(*m_connection, m_request.printer)
+                                   : QString();
+        return m_outcomes.notCreated(problem, inWords(problem), reason);
     }
 
     JobOutcome sendAndFollow()
@@ -228,9 +231,9 @@ private:
     // Takes back a job that is not to be printed, and says whether that worked.
     JobOutcome withdraw(Kind kind, const QString &why, bool mayHavePrinted = false)
     {
-        if (cancelJob(another(), m_request.printer, job())) {
+        if (cancelJob(another(), m_followed.queue(), job())) {
             if (mayHavePrinted) {
-                const auto status = lookUpJob(*m_another, m_request.printer, job());
+                const auto status = m_followed.lookUp(*m_another);
                 mayHavePrinted = !status || status->begun;
             }
             return m_outcomes.withdrawn(kind, why, mayHavePrinted);
@@ -239,7 +242,7 @@ private:
             m_another->problem().kind == ServerProblem::Kind::NotFound) {
             // It is over already, one way or the other, or it is somebody else's business.
             const ServerProblem refusal = m_another->problem();
-            const auto status = lookUpJob(*m_another, m_request.printer, job());
+            const auto status = m_followed.lookUp(*m_another);
             if (status && status->isOver())
                 return ended(*status);
             if (m_isComplete)
@@ -262,7 +265,7 @@ private:
     JobOutcome findOut(const QString &problem)
     {
         for (int i = 0; i < kLookUpsAfterFailure; ++i) {
-            const auto status = lookUpJob(another(), m_request.printer, job());
+            const auto status = m_followed.lookUp(another());
             if (status) {
                 m_connection = m_another.get();
                 if (status->lacksDocuments(documentCount()) && !status->isOver()) {
@@ -282,14 +285,15 @@ private:
 
     JobOutcome confirmAndFollow()
     {
-        const auto status = lookUpJob(*m_connection, m_request.printer, job());
+        const auto status = m_followed.lookUp(*m_connection);
         if (status)
             return follow(*status);
         if (m_worker.isCanceled())
             return withdrawCanceled(true);
         // It was taken, by a server that forgets a job as soon as that is over.
         if (m_connection->problem().kind == ServerProblem::Kind::NotFound)
-            return m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
+            return m_request.follow ? m_outcomes.lostSight(m_connection->problem(), whatIsWrong())
+                                    : m_outcomes.handedOver();
         return findOut(whatIsWrong());
     }
 
@@ -307,19 +311,24 @@ private:
                            : m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
             if (status->isOver())
                 return ended(*status);
-            const JobProgress progress = progressOf(*status, job());
+            const JobProgress progress = m_followed.progress(*status);
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
                 return m_outcomes.stopped(*status);
-            if (isHeldForLogIn(*status) && m_logIn.isNeeded())
-                return notLetIn();
+            if (isHeldForLogIn(*status) && m_logIn.isNeeded()) {
+                if (!logInOnceMore())
+                    return notLetIn();
+                status = m_followed.lookUp(*m_connection);
+                continue;
+            }
             if (status->state == IPP_JSTATE_HELD)
                 return m_outcomes.held(*status);
             if (!m_request.follow)
                 return m_outcomes.inQueue(progress);
             if (!m_worker.sleep(kLookUpInterval))
                 return canceledOrLeftAlone();
-            status = lookUpJob(*m_connection, m_request.printer, job());
+            m_followed.keepFollowing(*m_connection);
+            status = m_followed.lookUp(*m_connection);
         }
     }
 
@@ -334,7 +343,7 @@ private:
             if (!problem.mayPass() || std::chrono::steady_clock::now() >= enough ||
                 !m_worker.sleep(pause))
                 return std::nullopt;
-            if (const auto status = lookUpJob(*m_connection, m_request.printer, job()))
+            if (const auto status = m_followed.lookUp(*m_connection))
                 return status;
         }
     }
@@ -345,6 +354,17 @@ private:
         if (m_worker.isLeftAlone())
             return m_outcomes.inQueue({});
         return withdrawCanceled(true);
+    }
+
+    // The server's user and password were tried for the device, and are not those: now the user is
+    // asked.
+    bool logInOnceMore()
+    {
+        if (!m_logIn.wasGuess())
+            return false;
+        m_logIn.forget();
+        return m_logIn.ask() && m_logIn.credentials() &&
+               authenticateJob(*m_connection, m_followed.queue(), job(), *m_logIn.credentials());
     }
 
     // What was given for the device was wrong; the next try asks again, and sends another job.

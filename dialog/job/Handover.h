@@ -40,11 +40,11 @@ struct ServerJobRequest
     /// A job of an earlier try whose fate is not known, or 0. It is looked up first, so that the
     /// same is not printed twice by accident.
     int earlierJob = 0;
+    /// How many documents that one was to have; 0 where that is not known.
+    int earlierDocuments = 0;
     /// Whether nobody could count what comes out, so that there may be no page at all: such a job
     /// is "sent", never "printed".
     bool mayBeEmpty = false;
-    /// How many documents that one was to have; 0 where that is not known.
-    int earlierDocuments = 0;
     /// Whether to follow the job to its end, rather than until the server has all of it.
     bool follow = true;
 };

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "dialog/printers/UserQueues.h"
+
 namespace corvana {
 
 namespace {
@@ -18,6 +20,14 @@ QString withMessage(const QString &text, const QString &message)
     return message.isEmpty() ? text : Texts::tr("%1 The printer says: %2").arg(text, message);
 }
 
+// What others write may end its sentence or not.
+QString withoutFullStop(QString text)
+{
+    while (text.endsWith(u'.') || text.endsWith(u'。'))
+        text.chop(1);
+    return text;
+}
+
 QString whereTheEarlierJobIs(const JobStatus &job)
 {
     if (job.state == IPP_JSTATE_COMPLETED)
@@ -31,9 +41,36 @@ QString whereTheEarlierJobIs(const JobStatus &job)
 
 } // namespace
 
+void HandoverOutcomes::moveTo(const Printer &queue)
+{
+    if (m_movedFrom.isEmpty())
+        m_movedFrom = queueOfInstance(m_printer.name);
+    m_printer = queue;
+}
+
+void HandoverOutcomes::see(const JobStatus &status)
+{
+    m_reasons = status.reasons;
+    m_pages = status.pages;
+}
+
+void HandoverOutcomes::see(const JobProgress &progress)
+{
+    m_reasons = progress.reasons;
+    m_pages = progress.page;
+}
+
 JobOutcome HandoverOutcomes::outcome(Kind kind, const QString &text) const
 {
-    return {kind, m_job, text};
+    JobOutcome outcome{kind, m_job, text};
+    outcome.queue = queueOfInstance(m_printer.name);
+    outcome.reasons = m_reasons;
+    outcome.pages = m_pages;
+    // Whoever looks for it where it was sent to would not find it.
+    if (!m_movedFrom.isEmpty())
+        outcome.text = Texts::tr("%1 The job had been moved from the queue “%2” to “%3”.")
+                           .arg(text, m_movedFrom, m_printer.name);
+    return outcome;
 }
 
 JobOutcome HandoverOutcomes::failed(const QString &text) const
@@ -58,14 +95,19 @@ JobOutcome HandoverOutcomes::noCredentials() const
                       .arg(m_printer.name));
 }
 
-JobOutcome HandoverOutcomes::notCreated(const ServerProblem &problem, const QString &why) const
+JobOutcome HandoverOutcomes::notCreated(const ServerProblem &problem, const QString &why,
+                                        const QString &reason) const
 {
     if (problem.kind == ServerProblem::Kind::NotFound)
         return failed(Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
                           .arg(m_printer.name));
     if (problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
-        return failed(Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
-                          .arg(m_printer.name));
+        return failed(
+            reason.isEmpty()
+                ? Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
+                      .arg(m_printer.name)
+                : Texts::tr("The queue “%1” takes no jobs at the moment: %2. Nothing was printed.")
+                      .arg(m_printer.name, withoutFullStop(reason)));
     return nothingPrinted(why);
 }
 
@@ -172,13 +214,20 @@ JobOutcome HandoverOutcomes::mayBePrinted(const QString &why) const
 JobOutcome HandoverOutcomes::lostSight(const ServerProblem &problem, const QString &why) const
 {
     if (problem.kind == ServerProblem::Kind::NotFound)
-        return outcome(Kind::InQueue,
+        return outcome(Kind::Unknown,
                        Texts::tr("Job %1 has left the queue “%2”, whose server keeps no record of "
-                                 "it.")
+                                 "it. So whether it has been printed is not known.")
                            .arg(name(), m_printer.name));
     return outcome(Kind::Unknown, Texts::tr("Job %1 was handed over completely. %2 So whether it "
                                             "has been printed is not known.")
                                       .arg(name(), why));
+}
+
+JobOutcome HandoverOutcomes::handedOver() const
+{
+    return outcome(
+        Kind::InQueue,
+        Texts::tr("Job %1 was handed over to the queue “%2”.").arg(name(), m_printer.name));
 }
 
 JobOutcome HandoverOutcomes::stopped(const JobStatus &status) const

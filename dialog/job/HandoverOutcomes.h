@@ -15,7 +15,6 @@ class HandoverOutcomes
 {
 public:
     /// `mayBeEmpty`: nobody could count the pages of the job.
-    /// Ownership: the printer is borrowed.
     explicit HandoverOutcomes(const Printer &printer, bool mayBeEmpty = false)
         : m_printer(printer), m_mayBeEmpty(mayBeEmpty)
     {
@@ -24,6 +23,11 @@ public:
     /// The number of the job at its server, once it has one.
     void setJob(int job) { m_job = job; }
     int job() const { return m_job; }
+    /// The job is in another queue by now: it is called by that from here on.
+    void moveTo(const Printer &queue);
+    /// What its server says of it, the last time.
+    void see(const JobStatus &status);
+    void see(const JobProgress &progress);
 
     // Nothing was sent
 
@@ -31,8 +35,9 @@ public:
     JobOutcome nothingPrinted(const QString &why) const;
     JobOutcome cannotBeRead(const QString &document, const QString &why) const;
     JobOutcome noCredentials() const;
-    /// `why` is the problem in words.
-    JobOutcome notCreated(const ServerProblem &problem, const QString &why) const;
+    /// `why` is the problem in words; `reason` what a queue that takes no jobs says of that.
+    JobOutcome notCreated(const ServerProblem &problem, const QString &why,
+                          const QString &reason) const;
     JobOutcome printerChanged() const;
     JobOutcome canceledBefore() const;
     /// Whether the job of an earlier try was printed could not be found out.
@@ -61,6 +66,8 @@ public:
     JobOutcome notKnownAnyMore(const QString &why) const;
     JobOutcome mayBePrinted(const QString &why) const;
     JobOutcome lostSight(const ServerProblem &problem, const QString &why) const;
+    /// Nobody wanted to know more, and its server has forgotten it already.
+    JobOutcome handedOver() const;
     JobOutcome stopped(const JobStatus &status) const;
     JobOutcome held(const JobStatus &status) const;
     JobOutcome inQueue(const JobProgress &progress) const;
@@ -74,9 +81,12 @@ private:
     JobOutcome failed(const QString &text) const;
     QString name() const { return jobName(m_printer, m_job); }
 
-    const Printer &m_printer;
+    Printer m_printer;
+    QString m_movedFrom; // the name of the queue; empty where it still is there
     bool m_mayBeEmpty = false;
     int m_job = 0;
+    QStringList m_reasons;
+    int m_pages = 0;
 };
 
 } // namespace corvana

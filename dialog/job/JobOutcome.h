@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace corvana {
 
@@ -26,6 +27,10 @@ struct JobOutcome
     QString text{};    ///< for a person: one or more sentences
     QString file{};    ///< absolute path of a result that is a file; empty for a job of a server
     int documents = 0; ///< how many the job at its server was to have; 0 where that is not known
+
+    QString queue{};       ///< that has the job, without an instance; empty where there is none
+    QStringList reasons{}; ///< what its server says last of its state: IPP keywords
+    int pages = 0;         ///< pages or sheets that came out; 0 where nobody counts
 
     bool operator==(const JobOutcome &) const = default;
     /// Whether the server has the job, or the file is there, for the exit status.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "dialog/printers/Printer.h"
 
@@ -17,6 +18,7 @@ struct JobProgress
     qint64 sent = 0;   ///< bytes
     qint64 total = 0;  ///< bytes; 0 where nothing is being sent
     QString message{}; ///< what the printer says
+    QStringList reasons{}; ///< what its server says of its state: IPP keywords
 
     bool operator==(const JobProgress &) const = default;
     /// For a person: "Printing page 3…".

@@ -4,9 +4,12 @@
 
 #include <QCoreApplication>
 #include <QIODevice>
+#include <QUrl>
 #include <QUuid>
 
+#include "dialog/printers/PrinterId.h"
 #include "dialog/printers/QueueRequests.h"
+#include "dialog/printers/UserQueues.h"
 
 namespace corvana {
 
@@ -41,6 +44,25 @@ void addJob(ipp_t *request, int job)
     ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
 }
 
+// In the order in which the device wants them.
+void addAuthInfo(ipp_t *request, const Printer &printer, const Credentials &forDevice)
+{
+    QList<QByteArray> values;
+    for (const QString &wanted : printer.authInfo) {
+        if (wanted == "username"_L1)
+            values += forDevice.user.toUtf8();
+        else if (wanted == "password"_L1)
+            values += forDevice.password.toUtf8();
+        else
+            values += QByteArray();
+    }
+    QList<const char *> pointers;
+    for (const QByteArray &value : std::as_const(values))
+        pointers += value.constData();
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_TEXT, "auth-info",
+                  static_cast<int>(pointers.size()), nullptr, pointers.constData());
+}
+
 // A job that comes to a queue which is stopped already says nothing of it.
 void noteStoppedPrinter(ServerConnection &connection, const Printer &printer, JobStatus *status)
 {
@@ -52,6 +74,8 @@ void noteStoppedPrinter(ServerConnection &connection, const Printer &printer, Jo
                          IPP_PSTATE_STOPPED)
         return;
     status->printerStopped = true;
+    status->reasons.removeAll("none"_L1);
+    status->reasons += u"printer-stopped"_s;
     if (status->message.isEmpty())
         status->message =
             ippText(ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_ZERO));
@@ -122,23 +146,8 @@ std::optional<int> createJob(ServerConnection &connection, const Printer &printe
         options.add(option.name, option.value);
     options.add(u"copies"_s, QString::number(ticket.copies));
     options.encode(request.get(), IPP_TAG_OPERATION);
-    if (forDevice) {
-        // In the order in which the device wants them.
-        QList<QByteArray> values;
-        for (const QString &wanted : printer.authInfo) {
-            if (wanted == "username"_L1)
-                values += forDevice->user.toUtf8();
-            else if (wanted == "password"_L1)
-                values += forDevice->password.toUtf8();
-            else
-                values += QByteArray();
-        }
-        QList<const char *> pointers;
-        for (const QByteArray &value : std::as_const(values))
-            pointers += value.constData();
-        ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_TEXT, "auth-info",
-                      static_cast<int>(pointers.size()), nullptr, pointers.constData());
-    }
+    if (forDevice)
+        addAuthInfo(request.get(), printer, *forDevice);
     options.encode(request.get(), IPP_TAG_JOB);
     addIppString(request.get(), IPP_TAG_JOB, kTokenType, kTokenAttribute, token);
     const IppMessage response = connection.request(std::move(request), resourceOf(printer));
@@ -201,7 +210,8 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
                    {"job-id", "job-state", "job-state-reasons", "job-printer-state-message",
                     "job-printer-state-reasons", "job-state-message", "job-media-sheets-completed",
-                    "job-impressions-completed", "number-of-documents", "time-at-processing"});
+                    "job-impressions-completed", "number-of-documents", "time-at-processing",
+                    "job-printer-uri"});
     const IppMessage response = connection.request(std::move(request), resourceOf(printer));
     if (!response)
         return std::nullopt;
@@ -217,6 +227,7 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     status.begun = !processing || ippGetValueTag(processing) == IPP_TAG_INTEGER;
     status.documents = ippNumber(find("number-of-documents"), -1);
     status.reasons = ippTexts(find("job-state-reasons"));
+    status.queueUri = ippText(find("job-printer-uri"));
     status.message = ippText(find("job-printer-state-message"));
     if (status.message.isEmpty())
         status.message = ippText(find("job-state-message"));
@@ -224,6 +235,48 @@ std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &
     if (status.state == IPP_JSTATE_PENDING)
         noteStoppedPrinter(connection, printer, &status);
     return status;
+}
+
+std::optional<Printer> movedTo(const JobStatus &status, const Printer &printer)
+{
+    // "…/printers/NAME" or "…/classes/NAME", with what the name needs escaped.
+    const QString path = QUrl(status.queueUri).path(QUrl::FullyDecoded);
+    const QString name = path.section(u'/', -1);
+    const bool isClass = path.startsWith("/classes/"_L1);
+    if (printer.origin != PrinterOrigin::Queue || name.isEmpty() ||
+        (!isClass && !path.startsWith("/printers/"_L1)) ||
+        isSameQueue(name, queueOfInstance(printer.name)))
+        return std::nullopt;
+    Printer other;
+    other.origin = PrinterOrigin::Queue;
+    other.name = name;
+    other.isClass = isClass;
+    other.uri = queueUri(name, isClass);
+    return other;
+}
+
+QString whyNotAccepting(ServerConnection &connection, const Printer &printer)
+{
+    IppMessage request = newIppRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer.uri);
+    addIppKeywords(request.get(), IPP_TAG_OPERATION, "requested-attributes",
+                   {"printer-state-message"});
+    const ServerConnection::Aside aside(connection);
+    const IppMessage response = connection.request(std::move(request), resourceOf(printer));
+    if (!response)
+        return {};
+    const QString reason =
+        ippText(ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_ZERO));
+    // What CUPS says where its administrator has said nothing.
+    return reason == "Rejecting Jobs"_L1 ? QString() : reason;
+}
+
+bool authenticateJob(ServerConnection &connection, const Printer &printer, int job,
+                     const Credentials &forDevice)
+{
+    IppMessage request = newIppRequest(IPP_OP_CUPS_AUTHENTICATE_JOB, printer.uri);
+    addJob(request.get(), job);
+    addAuthInfo(request.get(), printer, forDevice);
+    return connection.request(std::move(request), "/jobs/") != nullptr;
 }
 
 bool cancelJob(ServerConnection &connection, const Printer &printer, int job)

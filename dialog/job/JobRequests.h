@@ -21,6 +21,7 @@ struct JobStatus
     int documents = -1; ///< -1 where the server does not say
     QString message{};  ///< what the printer says of the job
     QStringList reasons{};
+    QString queueUri{}; ///< the queue that has it now; empty where the server does not say
     bool printerStopped = false;
     bool begun = true; ///< whether anything of it may have got to the printer
 
@@ -65,6 +66,19 @@ bool sendDocument(ServerConnection &connection, const Printer &printer, int job,
 
 /// Errors: nothing; the problem is `NotFound` for a job that its server does not know.
 std::optional<JobStatus> lookUpJob(ServerConnection &connection, const Printer &printer, int job);
+
+/// The queue that has a job now, where an administrator has moved it to another one of the same
+/// server; nothing where it still is where it was sent to.
+std::optional<Printer> movedTo(const JobStatus &status, const Printer &printer);
+
+/// Why a queue takes no jobs, in its administrator's words; empty where they say nothing.
+/// Errors: empty.
+QString whyNotAccepting(ServerConnection &connection, const Printer &printer);
+
+/// Gives a job that its device has not let in another user and password, and lets it go on.
+/// Errors: false.
+bool authenticateJob(ServerConnection &connection, const Printer &printer, int job,
+                     const Credentials &forDevice);
 
 /// Errors: false.
 bool cancelJob(ServerConnection &connection, const Printer &printer, int job);

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "dialog/job/DocumentCopies.h"
+#include "dialog/job/HandoverOutcomes.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/PpdFilters.h"
@@ -68,10 +69,52 @@ void ServerJob::start()
     if (secret && !m_request.server.address.isLocal() &&
         m_request.server.address.encryption != HTTP_ENCRYPTION_ALWAYS)
         m_request.server.address.encryption = HTTP_ENCRYPTION_REQUIRED;
+    if (laysOutTexts())
+        return layOutTexts();
+    convert();
+}
+
+void ServerJob::convert()
+{
     if (m_request.printer.origin == PrinterOrigin::Queue)
         convertForQueue();
     else
         convertForDevice();
+}
+
+// A queue without a driver gets everything as it is, and so does a printer that takes no pages.
+bool ServerJob::laysOutTexts() const
+{
+    const QStringList &formats = m_request.formats;
+    const bool isRaw = m_request.printer.origin == PrinterOrigin::Queue && m_request.ppd->isWritten;
+    const bool takesPages =
+        formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
+    const QList<Document> &documents = m_request.documents;
+    return !isRaw && takesPages &&
+           std::any_of(documents.cbegin(), documents.cend(), [this](const Document &document) {
+               return isTextToLayOut(document, m_request.ticket.options);
+           });
+}
+
+// Texts are made into pages before anything else, with fonts that have their characters: what a
+// print server has is not known, and its filter prints what it lacks as boxes.
+void ServerJob::layOutTexts()
+{
+    report({JobProgress::Stage::Converting});
+    const QList<JobOption> &options =
+        m_request.chosenOptions.isEmpty() ? m_request.ticket.options : m_request.chosenOptions;
+    m_texts = std::make_unique<TextDocuments>(m_request.documents, options, m_request.ppd->path);
+    connect(m_texts.get(), &TextDocuments::finished, this, [this](const QString &problem) {
+        if (m_canceled)
+            return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
+        if (!problem.isEmpty())
+            return finish({JobOutcome::Kind::Failed, 0, problem});
+        m_request.documents = m_texts->documents();
+        for (QList<JobOption> *list : {&m_request.ticket.options, &m_request.chosenOptions})
+            *list = optionsAfterTexts(*list, m_request.documents);
+        convert();
+    });
+    m_texts->start();
 }
 
 // The options that only the printer could follow, and does not know.
@@ -143,8 +186,8 @@ QString ServerJob::problemOfRawQueue() const
                   "Print the documents one at a time. Nothing was printed.")
             .arg(m_request.printer.name, first->title);
     if (mustPickPages(m_request.ticket.options))
-        return tr("The queue “%1” has no driver and prints documents as they are: it can put "
-                  "neither several pages on a sheet (number-up) nor choose pages (page-ranges, "
+        return tr("The queue “%1” has no driver and prints documents as they are: it can "
+                  "neither put several pages on a sheet (number-up) nor choose pages (page-ranges, "
                   "page-set). Nothing was printed.")
             .arg(m_request.printer.name);
     return {};
@@ -310,6 +353,8 @@ void ServerJob::cancel()
     if (m_canceled || outcome())
         return;
     m_canceled = true;
+    if (m_texts)
+        m_texts->cancel();
     if (m_conversion)
         m_conversion->cancel();
     m_work.cancel();
@@ -320,9 +365,15 @@ void ServerJob::letGo()
     if (!m_handedOver || outcome() || m_canceled)
         return;
     m_work = {};
-    finish({JobOutcome::Kind::InQueue, progress()->job,
-            tr("Job %1 is in the queue; it was not followed to its end.")
-                .arg(jobName(m_request.printer, progress()->job))});
+    HandoverOutcomes outcomes(m_request.printer);
+    outcomes.setJob(progress()->job);
+    outcomes.see(*progress());
+    if (progress()->stage == JobProgress::Stage::Stopped)
+        return finish(outcomes.inQueue(*progress()));
+    JobOutcome outcome = outcomes.inQueue({});
+    outcome.text = tr("Job %1 is in the queue; it was not followed to its end.")
+                       .arg(jobName(m_request.printer, outcome.job));
+    finish(outcome);
 }
 
 } // namespace corvana

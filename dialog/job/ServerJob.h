@@ -8,6 +8,7 @@
 #include "dialog/job/Document.h"
 #include "dialog/job/Handover.h"
 #include "dialog/job/Job.h"
+#include "dialog/job/TextDocuments.h"
 
 namespace corvana {
 
@@ -32,6 +33,9 @@ private:
     QList<JobOption> refusedOptions() const;
     QList<JobOption> layout() const;
     bool isTaken(const JobOption &option) const;
+    bool laysOutTexts() const;
+    void layOutTexts();
+    void convert();
     void convertForQueue();
     void convertForDevice();
     QString problemOfRawQueue() const;
@@ -46,6 +50,7 @@ private:
     void followed(const JobProgress &progress);
 
     ServerJobRequest m_request;
+    std::unique_ptr<TextDocuments> m_texts;
     std::unique_ptr<QTemporaryDir> m_parts;
     std::unique_ptr<Conversion> m_conversion;
     Document m_converted;

@@ -111,8 +111,12 @@ Printer PrinterSource::first()
     if (m_wish.name.isEmpty() && !m_wish.files.isEmpty())
         return m_wish.files.constFirst();
     QString name = m_wish.name.isEmpty() ? m_userQueues.defaultName : m_wish.name;
-    if (name.isEmpty())
+    if (name.isEmpty()) {
+        // Nobody asks for the instance now; where it is gone, its queue is the next best.
         name = lastPrinter(m_queues.context().address.argument());
+        if (!m_userQueues.hasInstance(name))
+            name = queueOfInstance(name);
+    }
     if (name.isEmpty()) {
         m_provisional = true;
         return m_filePrinter.printer;
@@ -156,7 +160,8 @@ void PrinterSource::openWanted()
 void PrinterSource::openFresh(const QString &name)
 {
     reset(queueNamed(name, &m_deviceServer.address));
-    inspect(true);
+    if (!lacksInstance())
+        inspect(true);
 }
 
 // Forgets what is known of the printer that was open.
@@ -181,6 +186,8 @@ void PrinterSource::open(const Printer &printer)
         Q_EMIT ready(FetchedPrinter(m_open));
         return;
     }
+    if (lacksInstance())
+        return;
     if (printer.origin == PrinterOrigin::Queue) {
         if (const auto cached = kept(printer)) {
             m_open.ppd = cached->ppd;
@@ -189,6 +196,23 @@ void PrinterSource::open(const Printer &printer)
         }
     }
     inspect(false);
+}
+
+// An instance that nobody has made would be its queue without the options that were meant.
+bool PrinterSource::lacksInstance()
+{
+    const QString &name = m_open.printer.name;
+    if (m_open.printer.origin != PrinterOrigin::Queue || m_userQueues.hasInstance(name))
+        return false;
+    const QString queue = queueOfInstance(name);
+    const QStringList instances = m_userQueues.instancesOf(queue);
+    const QString problem =
+        instances.isEmpty() ? tr("There is no instance “%1”: lpoptions has none of the queue “%2”.")
+                                  .arg(name, queue)
+                            : tr("There is no instance “%1”. The queue “%2” has: %3.")
+                                  .arg(name, queue, instances.join(u", "_s));
+    Q_EMIT failed(problem, problem);
+    return true;
 }
 
 // As the printer was when it was used last. The one that first() has found is not read once more.
@@ -202,7 +226,7 @@ std::optional<FetchedPrinter> PrinterSource::kept(const Printer &printer)
 
 void PrinterSource::retry()
 {
-    if (m_open.printer.origin != PrinterOrigin::File)
+    if (m_open.printer.origin != PrinterOrigin::File && !lacksInstance())
         inspect(true);
 }
 

@@ -94,6 +94,7 @@ private:
     void inspect(bool mayAsk);
     void openFresh(const QString &name);
     void reset(const Printer &printer);
+    bool lacksInstance();
     bool isOpenQueue(const Printer &printer) const;
     void lookForBetterQueue();
     void compareWith(const QueueDetails &details);

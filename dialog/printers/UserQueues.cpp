@@ -53,6 +53,11 @@ QList<JobOption> UserQueues::optionsOf(const QString &name) const
     return options.value(spellingOf(name, *this));
 }
 
+bool UserQueues::hasInstance(const QString &name) const
+{
+    return !name.contains(u'/') || options.contains(spellingOf(name, *this));
+}
+
 QStringList UserQueues::instancesOf(const QString &queue) const
 {
     QStringList instances;

@@ -19,6 +19,8 @@ struct UserQueues
 
     /// What was set for "NAME" or "NAME/INSTANCE", in whatever spelling of the name.
     QList<JobOption> optionsOf(const QString &name) const;
+    /// Whether there is an instance of that name; every queue is one without a name.
+    bool hasInstance(const QString &name) const;
     /// The instances of a queue, by their whole names.
     QStringList instancesOf(const QString &queue) const;
 };

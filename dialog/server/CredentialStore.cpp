@@ -22,28 +22,67 @@ void CredentialStore::setQuestioner(Questioner questioner)
     m_questioner = std::move(questioner);
 }
 
-std::optional<Credentials> CredentialStore::known(const QString &realm) const
+void CredentialStore::giveInAdvance(const Credentials &credentials)
 {
     const std::scoped_lock lock(m_mutex);
-    const auto found = m_known.find(realm);
-    return found == m_known.end() ? std::nullopt : std::optional(found->second);
+    m_given = credentials;
 }
 
-void CredentialStore::forget(const QString &realm, const Credentials &refused)
+std::optional<Credentials> CredentialStore::known(const CredentialRealm &realm) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return knownOrGiven(realm);
+}
+
+bool CredentialStore::isGuess(const CredentialRealm &realm) const
 {
     const std::scoped_lock lock(m_mutex);
     const auto found = m_known.find(realm);
-    if (found != m_known.end() && found->second == refused)
+    return found != m_known.end() && found->second.isGuess;
+}
+
+void CredentialStore::forget(const CredentialRealm &realm, const Credentials &refused)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (mayBeRight(realm, refused))
+        m_refused[realm] += refused;
+    const auto found = m_known.find(realm);
+    if (found != m_known.end() && found->second.credentials == refused)
         m_known.erase(found);
 }
 
-CredentialStore::Outcome CredentialStore::ask(const QString &realm,
+bool CredentialStore::mayBeRight(const CredentialRealm &realm, const Credentials &credentials) const
+{
+    const auto refused = m_refused.find(realm);
+    return refused == m_refused.end() || !refused->second.contains(credentials);
+}
+
+std::optional<Credentials> CredentialStore::knownOrGiven(const CredentialRealm &realm) const
+{
+    if (const auto found = m_known.find(realm); found != m_known.end())
+        return found->second.credentials;
+    return m_given && mayBeRight(realm, *m_given) ? m_given : std::nullopt;
+}
+
+// What was given for somebody else of the same server.
+std::optional<Credentials> CredentialStore::guess(const CredentialRealm &realm)
+{
+    for (const auto &[other, known] : m_known) {
+        if (other.server == realm.server && mayBeRight(realm, known.credentials))
+            return (m_known[realm] = {known.credentials, true}).credentials;
+    }
+    return std::nullopt;
+}
+
+CredentialStore::Outcome CredentialStore::ask(const CredentialRealm &realm,
                                               const CredentialsQuestion &question,
                                               const std::function<bool()> &canceled)
 {
     std::unique_lock lock(m_mutex);
-    if (const auto found = m_known.find(realm); found != m_known.end())
-        return {found->second, false};
+    if (const auto known = knownOrGiven(realm))
+        return {known, false};
+    if (const auto tried = guess(realm))
+        return {tried, false};
     if (!m_questioner)
         return {std::nullopt, true};
     std::shared_ptr<Pending> pending = m_pending[realm];
@@ -59,7 +98,7 @@ CredentialStore::Outcome CredentialStore::ask(const QString &realm,
 
 void CredentialStore::putQuestions()
 {
-    std::map<QString, CredentialsQuestion> questions;
+    std::map<CredentialRealm, CredentialsQuestion> questions;
     Questioner questioner;
     {
         const std::scoped_lock lock(m_mutex);
@@ -80,14 +119,15 @@ void CredentialStore::putQuestions()
     }
 }
 
-void CredentialStore::answered(const QString &realm, const std::optional<Credentials> &answer)
+void CredentialStore::answered(const CredentialRealm &realm,
+                               const std::optional<Credentials> &answer)
 {
     const std::scoped_lock lock(m_mutex);
     const auto found = m_pending.find(realm);
     if (found == m_pending.end())
         return;
     if (answer)
-        m_known[realm] = *answer;
+        m_known[realm] = {*answer, false};
     found->second->answered = true;
     found->second->answer = answer;
     m_pending.erase(found);

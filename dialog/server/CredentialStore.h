@@ -6,7 +6,9 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <tuple>
 
+#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -32,8 +34,27 @@ struct CredentialsQuestion
     bool forDevice = false; ///< the printer behind the queue wants them, not the server
 };
 
+/// Who wants a user and a password: a server, or a device behind one of its queues.
+struct CredentialRealm
+{
+    CredentialRealm(const QString &serverArgument, const QString &deviceUri = {})
+        : server(serverArgument), device(deviceUri)
+    {
+    }
+
+    QString server; ///< as ServerAddress::argument() has it
+    QString device; ///< empty for the server itself
+
+    bool operator<(const CredentialRealm &other) const
+    {
+        return std::tie(server, device) < std::tie(other.server, other.device);
+    }
+};
+
 /// Users and passwords for as long as the program runs, one for each server and each device, so
-/// that nobody is asked twice. Workers ask for them; the question is put on the GUI thread.
+/// that nobody is asked twice. A server and the devices behind its queues mostly want the same
+/// ones: what is known of one of them is tried for another one before anybody is asked. Workers ask
+/// for them; the question is put on the GUI thread.
 ///
 /// Thread: all operations but the construction and setQuestioner() from any thread.
 class CredentialStore : public QObject
@@ -53,10 +74,17 @@ public:
     /// Who puts the questions; without one there is nobody to ask.
     void setQuestioner(Questioner questioner);
 
+    /// What everybody gets who wants any, so that nobody is asked; where they turn out wrong, they
+    /// are not given again.
+    void giveInAdvance(const Credentials &credentials);
+
     /// What was given before; nothing when nobody was asked yet.
-    std::optional<Credentials> known(const QString &realm) const;
+    std::optional<Credentials> known(const CredentialRealm &realm) const;
+    /// Whether what is known was given for somebody else, and is only tried here: the user has not
+    /// been asked yet.
+    bool isGuess(const CredentialRealm &realm) const;
     /// They turned out wrong, so the next one is asked again; unless others were given meanwhile.
-    void forget(const QString &realm, const Credentials &refused);
+    void forget(const CredentialRealm &realm, const Credentials &refused);
 
     struct Outcome
     {
@@ -65,7 +93,7 @@ public:
     };
     /// Asks, and waits for the answer. A second worker that wants the same while the question
     /// stands gets the same answer. `canceled` ends the waiting; it is looked at often.
-    Outcome ask(const QString &realm, const CredentialsQuestion &question,
+    Outcome ask(const CredentialRealm &realm, const CredentialsQuestion &question,
                 const std::function<bool()> &canceled);
 
 private:
@@ -77,14 +105,25 @@ private:
         std::optional<Credentials> answer{};
     };
 
+    struct Known
+    {
+        Credentials credentials;
+        bool isGuess = false;
+    };
+
     Q_INVOKABLE void putQuestions();
-    void answered(const QString &realm, const std::optional<Credentials> &answer);
+    void answered(const CredentialRealm &realm, const std::optional<Credentials> &answer);
+    bool mayBeRight(const CredentialRealm &realm, const Credentials &credentials) const;
+    std::optional<Credentials> knownOrGiven(const CredentialRealm &realm) const;
+    std::optional<Credentials> guess(const CredentialRealm &realm);
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     Questioner m_questioner;
-    std::map<QString, Credentials> m_known;
-    std::map<QString, std::shared_ptr<Pending>> m_pending;
+    std::optional<Credentials> m_given; // in advance
+    std::map<CredentialRealm, Known> m_known;
+    std::map<CredentialRealm, QList<Credentials>> m_refused;
+    std::map<CredentialRealm, std::shared_ptr<Pending>> m_pending;
 };
 
 } // namespace corvana

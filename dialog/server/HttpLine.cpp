@@ -230,7 +230,7 @@ void HttpLine::noteFailure(http_status_t status)
     case HTTP_STATUS_FORBIDDEN:
         fail({ServerProblem::Kind::Forbidden});
         // Another user may be allowed to do it; the next try asks which.
-        if (m_inUse && m_context.credentials) {
+        if (m_inUse && m_context.credentials && !m_isAside) {
             m_context.credentials->forget(realm(), *m_inUse);
             m_problem.anotherUserMay = true;
         }
@@ -276,16 +276,19 @@ const char *HttpLine::givePassword(http_t *http)
         return nullptr;
     const auto &store = m_context.credentials;
     if (m_given) {
-        if (store)
+        const bool wasGuess = store && store->isGuess(realm());
+        if (store && !m_isAside)
             store->forget(realm(), *m_given);
-        fail({ServerProblem::Kind::PasswordRefused});
-        return nullptr;
+        if (!wasGuess || m_isAside) {
+            fail({ServerProblem::Kind::PasswordRefused});
+            return nullptr;
+        }
     }
     if (!trustsCertificate())
         return nullptr;
     m_given = store ? store->known(realm()) : std::nullopt;
     if (!m_given) {
-        if (!store || !m_context.mayAsk) {
+        if (!store || !m_context.mayAsk || m_isAside) {
             fail({ServerProblem::Kind::PasswordNeeded});
             return nullptr;
         }

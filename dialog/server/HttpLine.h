@@ -54,9 +54,15 @@ public:
     /// Why the last operation failed.
     const ServerProblem &problem() const { return m_problem; }
     void fail(const ServerProblem &problem);
+    /// Goes back to a problem that was noted before.
+    void restore(const ServerProblem &problem) { m_problem = problem; }
     /// The same, from what HTTP says, where nobody knows it better.
     void noteFailure(http_status_t status);
     bool isCanceled() const { return m_wait.isCanceled(); }
+
+    /// Whether what is sent from now on is of no importance to the user: nobody is asked for a
+    /// password for it, and a refusal says nothing about those that are known.
+    void setAside(bool aside) { m_isAside = aside; }
 
 private:
     void prepare();
@@ -80,6 +86,7 @@ private:
     QByteArray m_password;              // libcups borrows it while it authenticates
     bool m_hasAnswered = false;         // this connection, so that it may have been closed since
     bool m_wasTurnedAway = false;
+    bool m_isAside = false;
 };
 
 } // namespace corvana

@@ -54,11 +54,31 @@ public:
     /// Why the last operation failed.
     const ServerProblem &problem() const { return m_line.problem(); }
 
+    /// Goes back to the problem of an earlier operation, where a later one was only to find out
+    /// more about it.
+    void restore(const ServerProblem &problem) { m_line.restore(problem); }
+
     /// Whether the complete document had been sent when the last request failed: then the server
     /// may have done what it was asked for, without its answer getting here.
     bool documentWasSent() const { return m_documentSent && !m_line.wasTurnedAway(); }
     /// Whether the server may have got the last request at all: there was a connection for it.
     bool requestWasSent() const { return m_requestSent; }
+
+    /// While it lives, nothing that is asked is of any importance to the user; see HttpLine.
+    class Aside
+    {
+    public:
+        explicit Aside(ServerConnection &connection) : m_line(connection.m_line)
+        {
+            m_line.setAside(true);
+        }
+        ~Aside() { m_line.setAside(false); }
+        Aside(const Aside &) = delete;
+        Aside &operator=(const Aside &) = delete;
+
+    private:
+        HttpLine &m_line;
+    };
 
 private:
     IppMessage exchange(IppMessage message, const QByteArray &resource, QIODevice *document,

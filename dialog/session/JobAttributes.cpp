@@ -6,8 +6,10 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QLocale>
 #include <QRegularExpression>
 
+#include "dialog/session/AttributeWords.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PrinterAttributes.h"
 
@@ -18,6 +20,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using AppliedTo = JobAttribute::AppliedTo;
 using Word = AllowedValues::Word;
+using namespace attributewords;
 
 // "1-4,7,9-": ascending ranges of pages, each page at least 1.
 bool isPageRanges(const QString &value)
@@ -62,62 +65,24 @@ bool isBilling(const QString &value)
            std::all_of(value.cbegin(), value.cend(), [](QChar c) { return c.isPrint(); });
 }
 
-constexpr Word kTrueOrFalse[] = {
-    {"true"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "On")},
-    {"false"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Off")},
-};
-constexpr Word kPagesOnASheet[] = {{"1"_L1}, {"2"_L1}, {"4"_L1}, {"6"_L1}, {"9"_L1}, {"16"_L1}};
-constexpr Word kOrdersOnASheet[] = {{"btlr"_L1}, {"btrl"_L1}, {"lrbt"_L1}, {"lrtb"_L1},
-                                    {"rlbt"_L1}, {"rltb"_L1}, {"tblr"_L1}, {"tbrl"_L1}};
-constexpr Word kBorders[] = {
-    {"none"_L1}, {"single"_L1}, {"single-thick"_L1}, {"double"_L1}, {"double-thick"_L1}};
-constexpr Word kPageSets[] = {
-    {"all"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "All")},
-    {"even"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Even Pages Only")},
-    {"odd"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Odd Pages Only")},
-};
-constexpr Word kOrientations[] = {
-    {"3"_L1, "portrait"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Portrait")},
-    {"4"_L1, "landscape"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Landscape")},
-    {"5"_L1, "reverse landscape"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Reverse Landscape")},
-    {"6"_L1, "reverse portrait"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Reverse Portrait")},
-};
-constexpr Word kScalings[] = {{"auto"_L1}, {"auto-fit"_L1}, {"fill"_L1}, {"fit"_L1}, {"none"_L1}};
-constexpr Word kPositions[] = {{"center"_L1}, {"top"_L1},         {"left"_L1},
-                               {"right"_L1},  {"top-left"_L1},    {"top-right"_L1},
-                               {"bottom"_L1}, {"bottom-left"_L1}, {"bottom-right"_L1}};
-constexpr Word kOutputOrders[] = {
-    {"normal"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "First Page First")},
-    {"reverse"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Last Page First")},
-};
-constexpr Word kHolds[] = {
-    {"no-hold"_L1},
-    {"indefinite"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Until It Is Released")},
-    {"day-time"_L1},
-    {"evening"_L1},
-    {"night"_L1},
-    {"second-shift"_L1},
-    {"third-shift"_L1},
-    {"weekend"_L1},
-};
-
 constexpr AllowedValues wholeNumbers(int least, int most)
 {
     return {{}, AllowedValues::Range{double(least), double(most)}};
 }
 
-constexpr AllowedValues numbers(int least, int most, QLatin1StringView unit = {})
+constexpr AllowedValues numbers(int least, int most, const char *unit = "")
 {
-    return {{}, AllowedValues::Range{double(least), double(most), false, unit}};
+    return {{}, AllowedValues::Range{double(least), double(most), false, QLatin1StringView(unit)}};
 }
 
-constexpr AllowedValues form(QLatin1StringView text, bool (*accepts)(const QString &))
+constexpr AllowedValues form(const char *text, bool (*accepts)(const QString &))
 {
-    return {{}, {}, AllowedValues::Form{text, accepts}};
+    return {{}, {}, AllowedValues::Form{QLatin1StringView(text), accepts}};
 }
 
 // A margin beyond this leaves nothing of any paper.
-constexpr AllowedValues kMargins = numbers(0, 9999, "points of 1/72 inch"_L1);
+constexpr AllowedValues kMargins =
+    numbers(0, 9999, QT_TRANSLATE_NOOP("JobAttributes", "points of 1/72 inch"));
 
 constexpr JobAttribute kAttributes[] = {
     {"number-up"_L1,
@@ -127,7 +92,7 @@ constexpr JobAttribute kAttributes[] = {
      {kPagesOnASheet}},
     {"number-up-layout"_L1,
      AppliedTo::Pages,
-     {},
+     "lrtb"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Order on the Sheet"),
      {kOrdersOnASheet}},
     {"page-border"_L1,
@@ -139,7 +104,9 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Pages,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Pages"),
-     form("pages and ranges in ascending order, such as 1-4,7,9-"_L1, isPageRanges)},
+     form(QT_TRANSLATE_NOOP("JobAttributes",
+                            "pages and ranges in ascending order, such as 1-4,7,9-"),
+          isPageRanges)},
     {"page-set"_L1,
      AppliedTo::Pages,
      "all"_L1,
@@ -244,16 +211,19 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Job,
      "no-hold"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Hold Until"),
-     {kHolds, {}, AllowedValues::Form{"a time HH:MM in UTC"_L1, isTime}}},
+     {kHolds,
+      {},
+      AllowedValues::Form{
+          QLatin1StringView(QT_TRANSLATE_NOOP("JobAttributes", "a time HH:MM in UTC")), isTime}}},
     {"job-priority"_L1, AppliedTo::Job, "50"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Priority"),
      wholeNumbers(1, 100)},
     {"job-sheets"_L1, AppliedTo::Job, "none"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Banner Pages"),
-     form("one or two names of banner pages"_L1, isJobSheets)},
+     form(QT_TRANSLATE_NOOP("JobAttributes", "one or two names of banner pages"), isJobSheets)},
     {"job-billing"_L1,
      AppliedTo::Job,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Billed To"),
-     form("a text of up to 255 bytes"_L1, isBilling)},
+     form(QT_TRANSLATE_NOOP("JobAttributes", "a text of up to 255 bytes"), isBilling)},
 };
 
 std::array<std::span<const JobAttribute>, 2> tables()
@@ -277,6 +247,11 @@ QString timeText(const QString &value)
         .arg(value, here.time().toString(u"HH:mm"_s));
 }
 
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("JobAttributes", text);
+}
+
 } // namespace
 
 const JobAttribute *jobAttribute(const QString &name)
@@ -296,14 +271,27 @@ bool isAppliedTo(AppliedTo what, const JobOption &option)
     return attribute && attribute->appliedTo == what;
 }
 
+QString allowedText(const AllowedValues &allowed)
+{
+    QStringList parts;
+    for (const Word &word : allowed.words)
+        parts += word.shown ? translated(word.shown) : QString(word.value);
+    if (const auto &range = allowed.range) {
+        const QString limits =
+            translated(QT_TRANSLATE_NOOP("JobAttributes", "%1 to %2"))
+                .arg(QLocale().toString(int(range->least)), QLocale().toString(int(range->most)));
+        parts += range->unit.isEmpty() ? limits : limits + u' ' + translated(range->unit.data());
+    }
+    if (allowed.form)
+        parts += translated(allowed.form->text.data());
+    return parts.join(u", "_s);
+}
+
 JobAttributeText textOfJobAttribute(const JobOption &attribute)
 {
     const JobAttribute *known = jobAttribute(attribute.name);
     if (!known)
         return {attribute.name, attribute.value};
-    const auto translated = [](const char *text) {
-        return QCoreApplication::translate("JobAttributes", text);
-    };
     if (attribute.name == kJobHoldUntilAttribute && isTime(attribute.value))
         return {translated(known->title), timeText(attribute.value)};
     const Word *word = known->allowed.word(attribute.value);

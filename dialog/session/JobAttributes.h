@@ -83,6 +83,9 @@ QStringList jobAttributeNames();
 /// Whether an option is an attribute that is applied there.
 bool isAppliedTo(JobAttribute::AppliedTo what, const JobOption &option);
 
+/// The values that an attribute takes, translated, for people who pick them: "1 to 100".
+QString allowedText(const AllowedValues &allowed);
+
 /// Title and value of an attribute, translated, for the summary.
 struct JobAttributeText
 {

@@ -34,6 +34,31 @@ QString copiesText(int copies, bool collated)
                     : QCoreApplication::translate("Summary", "%1, not collated").arg(copies);
 }
 
+QList<ppd_option_t *> optionsBesideGeneral(const PpdSession &session)
+{
+    QList<ppd_option_t *> options = session.options();
+    const QStringList general = generalOptionKeywords();
+    options.removeIf([&](const ppd_option_t *option) {
+        return option->num_choices == 0 || general.contains(ppdKeyword(option->keyword));
+    });
+    return options;
+}
+
+// What is built into a printer is no choice of who prints: an administrator says it once, for
+// everybody.
+QList<const ppd_option_t *> installedParts(ppd_file_t *ppd)
+{
+    QList<const ppd_option_t *> options;
+    for (int i = 0; i < ppd->num_groups; ++i) {
+        const ppd_group_t &group = ppd->groups[i];
+        const bool isOfParts = QLatin1StringView(group.name) == "InstallableOptions"_L1 ||
+                               QLatin1StringView(group.name) == "InstallableOption"_L1;
+        for (int j = 0; isOfParts && j < group.num_options; ++j)
+            options += &group.options[j];
+    }
+    return options;
+}
+
 } // namespace
 
 QStringList generalOptionKeywords()
@@ -43,11 +68,9 @@ QStringList generalOptionKeywords()
 
 QList<ppd_option_t *> furtherOptions(const PpdSession &session)
 {
-    QList<ppd_option_t *> options = session.options();
-    const QStringList general = generalOptionKeywords();
-    options.removeIf([&](const ppd_option_t *option) {
-        return option->num_choices == 0 || general.contains(ppdKeyword(option->keyword));
-    });
+    QList<ppd_option_t *> options = optionsBesideGeneral(session);
+    const QList<const ppd_option_t *> installed = installedParts(session.ppd());
+    options.removeIf([&](const ppd_option_t *option) { return installed.contains(option); });
     return options;
 }
 
@@ -104,7 +127,7 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.
     const QStringList told = keywordsOfPanels(panels);
-    for (const ppd_option_t *option : furtherOptions(session)) {
+    for (const ppd_option_t *option : optionsBesideGeneral(session)) {
         const QString keyword = ppdKeyword(option->keyword);
         if (copies > 1 && keyword == kCollateOption)
             continue;

@@ -12,7 +12,8 @@ namespace corvana {
 QStringList generalOptionKeywords();
 
 /// The other options of the PPD that have choices, in its order: what a printer without panels is
-/// set with beside the General page.
+/// set with beside the General page. What is built into the printer ("Options Installed", the group
+/// InstallableOptions) is nobody's to choose for a job.
 QList<ppd_option_t *> furtherOptions(const PpdSession &session);
 
 /// What a custom value ("Custom.…") is to a person: a paper size in the units of the user's region,

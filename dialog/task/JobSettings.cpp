@@ -14,6 +14,13 @@ bool isPageRanges(const JobOption &option)
     return option.name == kPageRangesAttribute;
 }
 
+QString valueOf(const QString &name, const QList<JobOption> &options)
+{
+    const auto found = std::find_if(options.cbegin(), options.cend(),
+                                    [&](const JobOption &option) { return option.name == name; });
+    return found == options.cend() ? QString() : found->value;
+}
+
 } // namespace
 
 void JobSettings::askForCopies(int copies, By by)
@@ -63,9 +70,36 @@ QList<JobOption> JobSettings::attributes() const
 {
     QList<JobOption> all = m_attributes;
     all.removeIf(isPageRanges);
+    for (const JobOption &chosen : m_chosen) {
+        const auto former = std::find_if(all.begin(), all.end(), [&](const JobOption &option) {
+            return option.name == chosen.name;
+        });
+        if (former == all.end())
+            all += chosen;
+        else
+            *former = chosen;
+    }
+    all.removeIf([](const JobOption &option) { return option.value.isNull(); });
     if (const QString ranges = pageRanges(); !ranges.isEmpty())
         all += JobOption{kPageRangesAttribute, ranges};
     return all;
+}
+
+QString JobSettings::attribute(const QString &name) const
+{
+    return valueOf(name, attributes());
+}
+
+void JobSettings::setAttribute(const QString &name, const QString &value)
+{
+    if (name == kPageRangesAttribute)
+        return setPageRanges(value);
+    m_chosen.removeIf([&](const JobOption &option) { return option.name == name; });
+    const QString former = valueOf(name, m_attributes);
+    const JobAttribute *known = jobAttribute(name);
+    const bool isDoneAnyway = former.isNull() && known && value == known->usual;
+    if (value != former && !isDoneAnyway)
+        m_chosen += JobOption{name, value};
 }
 
 void JobSettings::leavePrinter()
@@ -74,6 +108,7 @@ void JobSettings::leavePrinter()
     if (const QString ranges = pageRanges(); !ranges.isEmpty())
         m_pageRanges = ranges;
     m_attributes.clear();
+    m_chosen.clear();
     m_mostCopies = 0;
     if (m_by == By::Queue || m_by == By::UserQueues) {
         m_copies = 1;

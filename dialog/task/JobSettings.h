@@ -42,6 +42,17 @@ public:
     void addAttributes(const QList<JobOption> &attributes);
     /// The attributes of the job, its pages among them.
     QList<JobOption> attributes() const;
+    /// The value of an attribute that is in force; null where nobody asks for one.
+    QString attribute(const QString &name) const;
+    /// The user chooses a value, which counts most; null: none. One that is usual is kept where it
+    /// was chosen over another one.
+    void setAttribute(const QString &name, const QString &value);
+    /// The attributes that were added, whatever the user has chosen since.
+    const QList<JobOption> &attributesOfOthers() const { return m_attributes; }
+    /// What the user has chosen himself, with a null value for an attribute that he wants none of.
+    const QList<JobOption> &chosenAttributes() const { return m_chosen; }
+    /// Takes choices of the user's back that were kept with their printer.
+    void restoreChosenAttributes(const QList<JobOption> &chosen) { m_chosen = chosen; }
 
     /// The printer is left: what was asked for only by its own options stays behind.
     void leavePrinter();
@@ -52,6 +63,7 @@ private:
     int m_mostCopies = 0;
     std::optional<QString> m_pageRanges; // as the user left them
     QList<JobOption> m_attributes;
+    QList<JobOption> m_chosen; // by the user, in place of those
 };
 
 } // namespace corvana

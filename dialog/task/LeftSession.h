@@ -22,6 +22,7 @@ struct LeftSession
     QByteArray ppdHash;          ///< of the options that it was set with
     QList<JobOption> attributes; ///< of the job, but for its pages
     std::optional<int> copies{}; ///< where the printer's own options asked for them
+    QList<JobOption> chosen{};   ///< attributes, as JobSettings::chosenAttributes() has them
 };
 
 /// Brings a session that was just opened to where it was left, before any panel is built on it.

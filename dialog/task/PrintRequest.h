@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -9,11 +10,12 @@
 
 #include "dialog/job/Document.h"
 #include "dialog/printers/Printer.h"
+#include "dialog/server/CredentialStore.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/task/AlertPolicy.h"
 #include "platform/pde/PDEJobValues.h"
 
-class QTemporaryFile;
+class QTemporaryDir;
 
 namespace corvana {
 
@@ -22,8 +24,6 @@ namespace corvana {
 struct PrintRequest
 {
     QList<Document> documents; ///< printed one after the other, as one job
-    /// Holds what came on standard input; null without it.
-    std::shared_ptr<QTemporaryFile> standardInput;
     /// Those that no server is needed for: PPD files and samples.
     QList<Printer> printers;
     /// A printer by its name, a queue or a URI; empty for the usual one.
@@ -35,11 +35,19 @@ struct PrintRequest
     QString title;
     QString output;              ///< never empty where there is a document
     bool outputWasNamed = false; ///< so a file is wanted, whatever the printer
+    /// Holds the result until it is complete and can go to standard output; null for other results.
+    std::shared_ptr<QTemporaryDir> standardOutput;
     int copies = 1;
     bool copiesWereNamed = false; ///< by -n, which counts more than any option
     bool summary = false;
     std::optional<AlertPolicy> onAlert; ///< nothing: as suits where the job goes
     bool noWait = false;
+    /// How long a job that its queue has is followed at most; nothing: to its end.
+    std::optional<std::chrono::seconds> wait;
+    bool quiet = false; ///< what was asked for and was done needs no word
+    bool json = false;  ///< what became of the job is said for a program, too
+    /// A user and a password that were given in advance, so that nobody has to be asked.
+    std::optional<Credentials> credentials;
     /// The page of the dialog's own help, in the user's language; empty when it is not installed.
     QString helpPage;
 };

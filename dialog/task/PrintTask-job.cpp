@@ -1,11 +1,14 @@
 #include "dialog/task/PrintTask.h"
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include <QFileInfo>
 
 #include "dialog/job/FileJob.h"
 #include "dialog/job/ServerJob.h"
+#include "dialog/job/TextDocuments.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
@@ -13,8 +16,16 @@
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/text/TextCheck.h"
 
 namespace corvana {
+
+namespace {
+
+// How long Print waits for what is known of a text's characters; usually that is known long before.
+constexpr std::chrono::milliseconds kPatienceWithTexts{2000};
+
+} // namespace
 
 bool PrintTask::canPrint() const
 {
@@ -30,7 +41,7 @@ bool PrintTask::printsToFile() const
 void PrintTask::setOutput(const QString &path, bool confirmed)
 {
     if (path != m_output.path || confirmed)
-        m_output = {path, m_output.toFile, confirmed};
+        m_output = {path, m_output.toFile, confirmed, m_output.proposed};
 }
 
 void PrintTask::print()
@@ -62,9 +73,7 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    startJob(passesFilesOn()
-                 ? ticketOfPassedOn(jobAttributes(), m_request.title, m_settings.copies())
-                 : makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies()));
+    countBeforeJob();
 }
 
 QList<JobOption> PrintTask::jobAttributes() const
@@ -100,6 +109,8 @@ std::optional<TaskRefusal> PrintTask::finish()
                                m_settings.pageRanges().isEmpty() ? Place::Nowhere : Place::Pages};
         if (printsToFile())
             return TaskRefusal{{tr("What is passed on as it is cannot be printed to a file.")}};
+    } else if (!mayPrintTexts()) {
+        return TaskRefusal{{}, Place::Nowhere, true};
     } else if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
             return refusal;
@@ -107,15 +118,43 @@ std::optional<TaskRefusal> PrintTask::finish()
     if (m_phase != Phase::Asking)
         return std::nullopt;
     // Before the ticket: the panels restore and save on the way.
-    const QList<SummaryLine> lines = summary();
-    if (m_request.summary)
-        m_face.writeSummary(lines);
+    m_run.lines = summaryOfSettings();
     QStringList problems;
     const QList<Refusal> refusals = m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    // What is printed is counted first.
+    if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
+        m_face.writeSummary(m_run.lines);
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
+}
+
+// Once for a task: its documents stay the same.
+void PrintTask::lookForMissingCharacters()
+{
+    QStringList texts;
+    for (const Document &document : m_request.documents) {
+        if (isTextToLayOut(document, {}))
+            texts += document.path;
+    }
+    if (!m_textCheck && !texts.isEmpty())
+        m_textCheck = std::make_unique<TextCheck>(texts);
+}
+
+// A text whose characters nobody has is not printed without a word.
+bool PrintTask::mayPrintTexts()
+{
+    const QList<JobOption> attributes = jobAttributes();
+    const bool anyText =
+        std::any_of(m_request.documents.cbegin(), m_request.documents.cend(),
+                    [&](const Document &document) { return isTextToLayOut(document, attributes); });
+    const QString missing =
+        anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
+    return missing.isEmpty() ||
+           m_face.mayPrintWithout(tr("No font of this computer has these characters of the text: "
+                                     "%1. An empty frame is printed for each of them.")
+                                      .arg(missing));
 }
 
 // The panels say whether they let the job go, and may show instructions first.
@@ -146,7 +185,6 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
-        request.mayBeEmpty = passesFilesOn();
         if (m_settings.attributes().contains(kRaw)) {
             for (Document &document : request.documents)
                 document.format = kRawFormat;
@@ -154,6 +192,8 @@ void PrintTask::startJob(const JobTicket &ticket)
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
+        const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
+        request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
     }
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
@@ -169,6 +209,8 @@ void PrintTask::cancel()
 {
     if (m_phase != Phase::Printing)
         return;
+    if (isCounting())
+        return endCounting();
     // A server that does not answer has a few seconds to be told.
     enter(Phase::Canceling);
     m_run.job->cancel();
@@ -177,7 +219,7 @@ void PrintTask::cancel()
 void PrintTask::leave()
 {
     // What is being canceled is waited for: whether it still was in time has to be known.
-    if (m_phase != Phase::Printing || !m_run.job->isHandedOver())
+    if (m_phase != Phase::Printing || !isJobHandedOver())
         return;
     enter(Phase::Leaving);
     m_run.job->letGo();
@@ -187,8 +229,10 @@ void PrintTask::interrupt(OnInterrupt job)
 {
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
-    if (!m_run.job)
+    if (!m_run.job) {
+        m_sheets.cancel();
         return enter(Phase::Ended);
+    }
     if (job == OnInterrupt::LeaveJob)
         leave();
     if (m_phase == Phase::Leaving)

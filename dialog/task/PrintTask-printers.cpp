@@ -1,7 +1,9 @@
 #include "dialog/task/PrintTask.h"
 
+#include <QFileInfo>
 #include <QTimer>
 
+#include "dialog/job/ResultFormat.h"
 #include "dialog/session/OptionNames.h"
 
 namespace corvana {
@@ -120,6 +122,7 @@ void PrintTask::open(const FetchedPrinter &ready)
     }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
     m_chosen.problem = {};
+    proposeOutput();
     enter(Phase::Opened);
     if (!m_opened->panelProblem.isEmpty())
         say(TaskMessage::Kind::Problem,
@@ -129,9 +132,24 @@ void PrintTask::open(const FetchedPrinter &ready)
             tr("Not everything could be set as before:\n%1").arg(lost.join(u'\n')));
 }
 
+// Gives the name that nobody has chosen the ending of what this printer's filters yield.
+void PrintTask::proposeOutput()
+{
+    if (m_output.proposed.isEmpty() || m_output.path != m_output.proposed)
+        return;
+    const QString suffix = resultSuffix(m_opened->session->ppd());
+    const QFileInfo former(m_request.output);
+    if (QFileInfo(m_output.path).suffix() == suffix)
+        return;
+    m_output.path = m_output.proposed =
+        freeResultName(former.path(), former.completeBaseName(), suffix);
+    Q_EMIT outputProposed();
+}
+
 // The panels delete their views, so a face lets go of its pages only afterwards.
 void PrintTask::close()
 {
+    m_sheets.cancel();
     if (!m_opened)
         return;
     m_settings.leavePrinter();
@@ -156,11 +174,15 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
     const bool asksAnew = next && next->ppd->hash == m_opened->fetched.ppd->hash;
     if (isUntouched() && (m_request.options.isEmpty() || asksAnew))
         return;
+    QList<JobOption> attributes = m_settings.attributesOfOthers();
+    attributes.removeIf(
+        [](const JobOption &option) { return option.name == kPageRangesAttribute; });
     LeftSession left{m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash,
-                     attributesButPages()};
+                     attributes};
     const JobSettings::By by = m_settings.copiesAskedForBy();
     if (by == JobSettings::By::Queue || by == JobSettings::By::UserQueues)
         left.copies = m_settings.copiesAskedFor();
+    left.chosen = m_settings.chosenAttributes();
     m_memory[idOf(m_chosen.printer)].session = left;
 }
 
@@ -169,15 +191,7 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
 bool PrintTask::isUntouched() const
 {
     return m_phase != Phase::Ready || (m_opened->session->snapshot() == m_baseline.started &&
-                                       attributesButPages() == m_baseline.attributes);
-}
-
-QList<JobOption> PrintTask::attributesButPages() const
-{
-    QList<JobOption> attributes = m_settings.attributes();
-    attributes.removeIf(
-        [](const JobOption &option) { return option.name == kPageRangesAttribute; });
-    return attributes;
+                                       m_settings.chosenAttributes() == m_baseline.chosen);
 }
 
 void PrintTask::takeExpectedPrinter()
@@ -185,7 +199,7 @@ void PrintTask::takeExpectedPrinter()
     if (m_chosen.deliberately || m_run.job || m_phase == Phase::Ended || !isUntouched())
         return;
     // The list may have nothing more to say afterwards.
-    if (m_face.userIsBusy() || m_phase == Phase::Asking) {
+    if (m_face.userIsBusy() || isPrinting()) {
         QTimer::singleShot(kPatience, this, &PrintTask::takeExpectedPrinter);
         return;
     }

@@ -4,11 +4,13 @@
 
 #include <QPointer>
 
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/InterfaceLoader.h"
 
@@ -19,12 +21,16 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
       m_credentials(CredentialStore::create()),
       m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
                ServerContext{m_request.server, m_credentials}),
-      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed}
+      m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed,
+               m_request.outputWasNamed ? QString() : m_request.output}
 {
     using By = JobSettings::By;
     m_settings.askForCopies(m_request.copies,
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
+    if (m_request.credentials)
+        m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
+    connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(
@@ -57,13 +63,14 @@ void PrintTask::bringUp()
 {
     if (m_phase != Phase::Opened)
         return;
+    lookForMissingCharacters();
     const QList<Refusal> refusals = bringPanelsUp();
     noteMissingPages();
     if (!m_memory.value(idOf(m_chosen.printer)).session)
         m_baseline.opened = m_opened->session->snapshot();
     applyStartOptions();
     m_baseline.started = m_opened->session->snapshot();
-    m_baseline.attributes = attributesButPages();
+    m_baseline.chosen = m_settings.chosenAttributes();
     if (m_phase != Phase::Opened)
         return; // interrupted, while an alert of a panel was waiting for its answer
     enter(Phase::Ready);
@@ -94,6 +101,7 @@ void PrintTask::applyStartOptions()
     const Memory &memory = m_memory[idOf(m_chosen.printer)];
     if (memory.session) {
         m_settings.addAttributes(memory.session->attributes);
+        m_settings.restoreChosenAttributes(memory.session->chosen);
         if (memory.session->copies)
             m_settings.askForCopies(*memory.session->copies, By::UserQueues);
         const SessionSnapshot &opened = memory.session->opened;
@@ -152,7 +160,7 @@ QStringList PrintTask::takeMostCopies()
     return {};
 }
 
-QList<SummaryLine> PrintTask::summary()
+QList<SummaryLine> PrintTask::summaryOfSettings()
 {
     const QList<JobOption> attributes = jobAttributes();
     if (passesFilesOn())
@@ -195,6 +203,33 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
         return; // taken; or no choice of this printer, which the session has logged
     sayRefusal({{keyword, choice}, result.conflicting});
     showSettings(); // the page shows what the user picked
+}
+
+QList<OfferedAttribute> PrintTask::attributes() const
+{
+    return offeredAttributes(m_settings, *m_opened);
+}
+
+QString PrintTask::setAttribute(const QString &name, const QString &value)
+{
+    bringUp();
+    const JobAttribute *attribute = jobAttribute(name);
+    if (!attribute)
+        return tr("There is no job attribute of the name %1.").arg(name);
+    if (const std::optional<OptionChoice> own = ownChoice(name, value, *m_opened)) {
+        propose(own->keyword, own->choice);
+        return {};
+    }
+    const std::optional<QString> taken =
+        value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
+    if (!taken)
+        return tr("“%1” is not allowed. Allowed: %2.").arg(value, allowedText(attribute->allowed));
+    if (*taken == m_settings.attribute(name))
+        return {};
+    Q_EMIT unsaid();
+    m_settings.setAttribute(name, *taken);
+    showSettings();
+    return {};
 }
 
 void PrintTask::settled()

@@ -10,14 +10,18 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/sheets/SheetCounter.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
+#include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
 
 namespace corvana {
+
+class TextCheck;
 
 /// Why a printer cannot be asked for, whole and in few words.
 struct PrinterProblem
@@ -47,7 +51,7 @@ public:
         Opened,    ///< its session is there; its panels have not come up
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
-        Printing,  ///< a job runs
+        Printing,  ///< its sheets are counted, then a job runs
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -98,10 +102,18 @@ public:
     JobSettings &settings() { return m_settings; }
     /// The user picked a choice on a page of the dialog.
     void propose(const QString &keyword, const QString &choice);
+    /// The job attributes that a face offers, with what is in force.
+    QList<OfferedAttribute> attributes() const;
+    /// The user chose a value of a job attribute; null: none. Answers why it is not taken, in words
+    /// for the place where it was entered; empty when it is.
+    QString setAttribute(const QString &name, const QString &value);
     /// Makes every face show the settings anew.
     void showSettings();
     /// The summary of the job as it stands now.
     QList<SummaryLine> summary();
+    /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
+    /// follows where the summary does not have them already.
+    void countSheets();
     /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
     /// that is done to pages has an effect.
     bool passesFilesOn() const;
@@ -118,7 +130,7 @@ public:
     /// Prints: asks the panels, makes a ticket of everything, and starts the job. refused() or
     /// jobEnded() follows. Without any document only the summary is written.
     void print();
-    /// Takes the job back wherever it is.
+    /// Takes the job back wherever it is; nothing more is heard of one that was not begun.
     void cancel();
     /// Lets a job that its queue has go on by itself; the task then ends.
     void leave();
@@ -139,6 +151,10 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// What is written is another kind of file, and another name for it is proposed: output().
+    void outputProposed();
+    /// The summary says more about the sheets than it did.
+    void sheetsCounted();
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
     void unsaid();
@@ -172,21 +188,24 @@ private:
     struct Run
     {
         std::unique_ptr<Job> job;
-        JobOutcome outcome; // of the last one
-        bool held = false;  // the job waits until its instructions have been followed
+        JobTicket ticket;         // of the one whose sheets are counted
+        QList<SummaryLine> lines; // of its summary
+        JobOutcome outcome;       // of the last one
+        bool held = false;        // the job waits until its instructions have been followed
     };
     struct Output
     {
         QString path;
         bool toFile = false;
         bool confirmed = false;
+        QString proposed{}; // and nobody's choice
     };
     struct Baseline
     {
-        SessionSnapshot opened;        // before any option was taken
-        SessionSnapshot started;       // before the user changed anything
-        QList<JobOption> attributes{}; // of the job, at the same time
-        SessionSnapshot shown;         // as the face was told last
+        SessionSnapshot opened;  // before any option was taken
+        SessionSnapshot started; // before the user changed anything
+        SessionSnapshot shown;   // as the face was told last
+        QList<JobOption> chosen; // attributes, before the user changed anything
     };
 
     void enter(Phase phase);
@@ -197,6 +216,7 @@ private:
     void takeNext();
     void open(const FetchedPrinter &ready);
     void close();
+    void proposeOutput();
     void rememberSession(const FetchedPrinter *next = nullptr);
     void takeExpectedPrinter();
     void printerChecked(const FetchedPrinter &checked);
@@ -215,10 +235,20 @@ private:
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
     QList<JobOption> jobAttributes() const;
-    QList<JobOption> attributesButPages() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
+    void lookForMissingCharacters();
+    bool mayPrintTexts();
     void startJob(const JobTicket &ticket);
+
+    JobTicket ticket() const;
+    SheetRequest sheetRequest(const JobTicket &ticket) const;
+    QList<SummaryLine> withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const;
+    QList<SummaryLine> summaryOfSettings();
+    void countBeforeJob();
+    void sheetsKnown();
+    void endCounting();
+    bool isCounting() const { return m_phase == Phase::Printing && !m_run.job; }
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;
@@ -231,7 +261,9 @@ private:
     Baseline m_baseline;
     JobSettings m_settings;
     Output m_output;
+    SheetCounter m_sheets;
     Run m_run;
+    std::unique_ptr<TextCheck> m_textCheck;
     Phase m_phase = Phase::Fetching;
 };
 

@@ -46,6 +46,8 @@ public:
     virtual bool userIsBusy() const { return false; }
     /// Whether a file that stands there already may be replaced.
     virtual bool mayOverwrite(const QString &file) = 0;
+    /// Whether to print although something will be missing on paper; `what` says what.
+    virtual bool mayPrintWithout(const QString &what) = 0;
     /// Writes the summary where the user has asked for it. Called only then.
     virtual void writeSummary(const QList<SummaryLine> &lines) = 0;
 };

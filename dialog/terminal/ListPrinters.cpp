@@ -79,6 +79,8 @@ int listPrinters(const PrintRequest &request)
     ServerContext server{request.server, CredentialStore::create()};
     server.credentials->setQuestioner(
         terminalQuestioner([&termination] { return termination.caught() != 0; }));
+    if (request.credentials)
+        server.credentials->giveInAdvance(*request.credentials);
     server.mayAsk = true;
     const Listed listed = listQueuesOf(server, termination);
     write(listed.queues, readUserQueues());

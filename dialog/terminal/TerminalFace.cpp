@@ -6,12 +6,15 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/terminal/TerminalQuestions.h"
 #include "dialog/terminal/TerminationSignals.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
-TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination)
+TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination,
+                           FILE *forPeople)
     : m_policy(policy),
-      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; }))
+      m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; })),
+      m_forPeople(forPeople)
 {
 }
 
@@ -38,9 +41,15 @@ TaskFace::Instructions TerminalFace::instructions() const
     return m_presenter->policy() == AlertPolicy::Hold ? Instructions::Wait : Instructions::Refuse;
 }
 
+bool TerminalFace::mayPrintWithout(const QString &what)
+{
+    QTextStream(stderr) << "corvana-print: " << terminalText(what) << "\n";
+    return true;
+}
+
 void TerminalFace::writeSummary(const QList<SummaryLine> &lines)
 {
-    QTextStream(stdout) << summaryText(lines);
+    QTextStream(m_forPeople) << summaryText(lines);
 }
 
 } // namespace corvana

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <optional>
 
 #include "dialog/task/TaskFace.h"
@@ -16,8 +17,10 @@ class TerminalFace : public TaskFace
 {
 public:
     /// Borrows the signals, which end a question for a password.
-    /// `policy`: nothing for the one that suits where the job goes.
-    TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination);
+    /// `policy`: nothing for the one that suits where the job goes. `forPeople`: where the summary
+    /// goes.
+    TerminalFace(std::optional<AlertPolicy> policy, const TerminationSignals &termination,
+                 FILE *forPeople = stdout);
 
     /// The task that it is the face of. Borrowed; to be set before the task is started.
     void setTask(const PrintTask *task) { m_task = task; }
@@ -30,12 +33,15 @@ public:
     Instructions instructions() const override;
     /// What -o and --output name was meant.
     bool mayOverwrite(const QString &) override { return true; }
+    /// Says it; whoever prints from a script wants what can be had.
+    bool mayPrintWithout(const QString &what) override;
     void writeSummary(const QList<SummaryLine> &lines) override;
 
 private:
     std::optional<AlertPolicy> m_policy;
     CredentialStore::Questioner m_questioner;
     const PrintTask *m_task = nullptr;
+    FILE *m_forPeople;
     std::optional<TerminalAlertPresenter> m_presenter; // once it is known where the job goes
 };
 

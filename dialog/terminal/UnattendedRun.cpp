@@ -1,13 +1,19 @@
 #include "dialog/terminal/UnattendedRun.h"
 
+#include <csignal>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QFile>
 #include <QRegularExpression>
 #include <QTextStream>
+#include <QTimer>
 
+#include "dialog/printers/UserQueues.h"
 #include "dialog/task/PrintTask.h"
+#include "dialog/terminal/ExitStatus.h"
+#include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminalFace.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "platform/foundation/ForeignText.h"
@@ -19,6 +25,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Phase = PrintTask::Phase;
+
+// Of a result on its way to standard output. Units: bytes.
+constexpr qint64 kBlock = 65536;
 
 struct Texts
 {
@@ -72,14 +81,37 @@ QString withOtherPrinters(const QString &problem, const PrintRequest &request)
                                  .arg(problem, names.join(u", "_s));
 }
 
+// A complete file. Answers why it could not be written; empty when it was.
+QString writeToStandardOutput(const QString &path)
+{
+    QFile file(path);
+    QFile out;
+    // A reader that is gone is said, and the program lives to remove its files.
+    std::signal(SIGPIPE, SIG_IGN);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    if (!out.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return out.errorString();
+    while (!file.atEnd()) {
+        const QByteArray block = file.read(kBlock);
+        if (block.isEmpty())
+            return file.errorString();
+        if (out.write(block) != block.size())
+            return out.errorString();
+    }
+    return {};
+}
+
 // One task, followed from its start to its end on standard output and standard error.
 class Run
 {
 public:
     explicit Run(const PrintRequest &request)
-        : m_face(request.onAlert, m_termination), m_task(request, m_face)
+        : m_face(request.onAlert, m_termination, forPeople(request)), m_task(request, m_face)
     {
         m_face.setTask(&m_task);
+        m_patience.setSingleShot(true);
+        QObject::connect(&m_patience, &QTimer::timeout, &m_loop, [this] { stopWaiting(); });
         QObject::connect(&m_termination, &TerminationSignals::received, &m_task,
                          [this] { m_task.interrupt(PrintTask::OnInterrupt::CancelJob); });
         QObject::connect(&m_task, &PrintTask::phaseChanged, &m_loop,
@@ -118,35 +150,78 @@ private:
             if (m_termination.caught())
                 end({Texts::tr("Interrupted.")});
             else
-                end(0); // there was no document: only the summary was asked for
+                end(ExitStatus::Done); // there was no document: only the summary was asked for
         }
+    }
+
+    // Standard output belongs to programs where a result or a line for one goes there.
+    static FILE *forPeople(const PrintRequest &request)
+    {
+        return request.json || request.standardOutput ? stderr : stdout;
     }
 
     // Whoever waits is told what for.
     void showProgress(const JobProgress &progress)
     {
+        if (m_task.isJobHandedOver() && m_task.request().wait && !m_patience.isActive())
+            m_patience.start(*m_task.request().wait);
         if (std::exchange(m_stage, progress.stage) != progress.stage &&
             progress.stage == JobProgress::Stage::Stopped)
-            QTextStream(stderr) << terminalText(progress.text()) << "\n";
+            QTextStream(stderr) << Texts::tr("Job %1: %2")
+                                       .arg(terminalLine(jobName(m_task.printer(), progress.job)),
+                                            terminalLine(progress.text()))
+                                << "\n";
     }
 
-    void jobEnded(const JobOutcome &outcome)
+    // The time of --wait is over.
+    void stopWaiting()
     {
+        m_waitIsOver = true;
+        m_task.leave();
+    }
+
+    void jobEnded(JobOutcome outcome)
+    {
+        if (outcome.queue.isEmpty() && !m_task.printsToFile())
+            outcome.queue = queueOfInstance(m_task.printer().name);
+        if (outcome.isDone() && m_task.request().standardOutput)
+            writeResult(&outcome);
+        if (m_task.request().json)
+            writeLine(outcomeLine(outcome));
+        ExitStatus status = exitStatusOf(outcome);
+        if (m_waitIsOver && outcome.kind == JobOutcome::Kind::InQueue)
+            status = ExitStatus::StillThere;
         if (!outcome.isDone()) {
             sayProblem(outcome.text);
-            if (m_task.printsToFile())
+            // A part of the result may have got to standard output.
+            if (m_task.printsToFile() && !m_task.request().standardOutput)
                 QTextStream(stderr) << Texts::tr("Nothing was printed.") << "\n";
-            return end(1);
+            return end(status);
         }
-        QTextStream out(stdout);
-        out << terminalText(outcome.text) << "\n";
+        QTextStream out(forPeople(m_task.request()));
+        // Where the job is still waiting is nothing that was asked for.
+        if (!m_task.request().quiet || status != ExitStatus::Done)
+            out << terminalText(outcome.text) << "\n";
         if (m_task.isHeld())
             out << Texts::tr("It waits until the instructions have been followed. Release it with: "
                              "%1")
                        .arg(terminalLine(
                            releaseCommand(m_task.request(), m_task.printer(), outcome.job)))
                 << "\n";
-        end(0);
+        end(status);
+    }
+
+    // The result is complete, so it goes where it was meant to.
+    void writeResult(JobOutcome *outcome)
+    {
+        const QString problem = writeToStandardOutput(outcome->file);
+        outcome->file.clear();
+        outcome->text = Texts::tr("Printed to standard output");
+        if (problem.isEmpty())
+            return;
+        outcome->kind = JobOutcome::Kind::Failed;
+        outcome->text =
+            Texts::tr("The result could not be written to standard output: %1.").arg(problem);
     }
 
     void end(const QStringList &problems)
@@ -154,13 +229,17 @@ private:
         for (const QString &problem : problems)
             sayProblem(problem);
         QTextStream(stderr) << Texts::tr("Nothing was printed.") << "\n";
-        end(1);
+        if (m_task.request().json)
+            writeLine(refusalLine(m_task.printsToFile() ? QString()
+                                                        : queueOfInstance(m_task.printer().name),
+                                  problems));
+        end(ExitStatus::Failed);
     }
 
-    void end(int status)
+    void end(ExitStatus status)
     {
         if (m_status < 0)
-            m_status = status;
+            m_status = int(status);
         m_loop.quit();
     }
 
@@ -169,6 +248,8 @@ private:
     PrintTask m_task;
     QEventLoop m_loop;
     JobProgress::Stage m_stage = JobProgress::Stage::Sending;
+    QTimer m_patience; // of --wait, once the queue has the job
+    bool m_waitIsOver = false;
     int m_status = -1; // until it is known
 };
 

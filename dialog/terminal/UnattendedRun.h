@@ -8,8 +8,7 @@ namespace corvana {
 ///
 /// Writes the summary and what became of the job to standard output, problems to standard error.
 /// A signal that asks the program to end cancels the job.
-/// Returns the program's exit status: 0 printed, or in the queue; 1 refused or failed; 128 and more
-/// ended by a signal.
+/// Returns an ExitStatus, or 128 and more where a signal ended it.
 int runUnattended(const PrintRequest &request);
 
 } // namespace corvana

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QLoggingCategory>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QTextStream>
 
@@ -25,6 +26,8 @@ void PrintWindow::connectTask()
 {
     PrintTask *task = m_task.get();
     connect(task, &PrintTask::phaseChanged, this, &PrintWindow::phaseChanged);
+    connect(task, &PrintTask::outputProposed, m_header,
+            [this] { m_header->showOutput(m_task->output()); });
     connect(task, &PrintTask::printerClosed, m_pages, &SettingsPages::close);
     connect(task, &PrintTask::printerClosed, this, &PrintWindow::updateSilencedAlerts);
     connect(task, &PrintTask::printerClosed, m_message, &MessageBar::withdrawOffer);
@@ -88,8 +91,7 @@ void PrintWindow::printerOpened()
     panels->setWindow(this);
     connect(panels, &PanelHost::settled, this, &PrintWindow::updateSilencedAlerts);
     // Later: a panel is in the midst of its work when it says so.
-    connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPanelView,
-            Qt::QueuedConnection);
+    connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPage, Qt::QueuedConnection);
     m_pages->open();
     updateSilencedAlerts();
     if (m_painted)
@@ -285,8 +287,19 @@ bool PrintWindow::mayOverwrite(const QString &file)
     QMessageBox box(QMessageBox::Question, tr("Print to File"),
                     tr("%1 exists already. Replace it?").arg(name),
                     QMessageBox::Yes | QMessageBox::No, this);
+    box.setDefaultButton(QMessageBox::No);
     makePlain(&box);
     return box.exec() == QMessageBox::Yes;
+}
+
+bool PrintWindow::mayPrintWithout(const QString &what)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Print"), what, QMessageBox::Cancel, this);
+    QPushButton *print = box.addButton(tr("Print Anyway"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    makePlain(&box);
+    box.exec();
+    return box.clickedButton() == print;
 }
 
 void PrintWindow::writeSummary(const QList<SummaryLine> &lines)

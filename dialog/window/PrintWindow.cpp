@@ -16,7 +16,6 @@
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/SilencedAlerts.h"
 #include "dialog/window/pages/MessageBar.h"
-#include "dialog/window/pages/PanelPage.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
 
@@ -60,7 +59,7 @@ void PrintWindow::buildWindow()
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_footer);
     const int em = fontMetrics().height();
-    m_growth.open(QSize(36 * em, 31 * em));
+    m_growth.open(QSize(36 * em, 37 * em));
 }
 
 void PrintWindow::connectParts()
@@ -76,7 +75,8 @@ void PrintWindow::connectParts()
         showPrinter();
     });
     connect(m_header, &PrinterHeader::outputChanged, m_task.get(), &PrintTask::setOutput);
-    connect(m_pages, &SettingsPages::entered, this, &PrintWindow::followPanelView);
+    connect(m_pages, &SettingsPages::entered, this, &PrintWindow::followPage);
+    connect(m_pages, &SettingsPages::heightChanged, this, &PrintWindow::followPage);
     connect(m_pages, &SettingsPages::retryPressed, m_task.get(), &PrintTask::retry);
     connect(m_footer, &JobFooter::helpPressed, this, &PrintWindow::showHelp);
     connect(m_footer, &JobFooter::printPressed, this, &PrintWindow::accept);
@@ -162,10 +162,10 @@ void PrintWindow::takeIconsFromTheme()
     m_header->takeIconsFromTheme();
 }
 
-void PrintWindow::followPanelView()
+void PrintWindow::followPage()
 {
-    if (PanelPage *page = m_pages->currentPanelPage())
-        m_growth.follow(page->followView());
+    if (const std::optional<int> missing = m_pages->missingHeight())
+        m_growth.follow(*missing);
     else
         m_growth.giveBack();
 }

@@ -58,7 +58,7 @@ private:
     void orderFocus();
     void followList();
     void takeIconsFromTheme();
-    void followPanelView();
+    void followPage();
     void showHelp();
     void showHelpPage(const HelpPage &page);
     void updateSilencedAlerts();
@@ -86,6 +86,7 @@ private:
     bool finishEditing() override;
     bool userIsBusy() const override;
     bool mayOverwrite(const QString &file) override;
+    bool mayPrintWithout(const QString &what) override;
     void writeSummary(const QList<SummaryLine> &lines) override;
 
     WindowAlertPresenter m_presenter;

@@ -87,12 +87,19 @@ QWidget *PrinterHeader::buildOutputRow(const QString &output)
 
 void PrinterHeader::chooseOutput()
 {
+    // Whether a file is replaced is asked when it is printed to, with No as the answer of an Enter
+    // that was meant for something else; the file dialog's own question would take a file's name
+    // for markup.
     const QString file = QFileDialog::getSaveFileName(this, tr("Print to File"), m_output->text(),
-                                                      tr("PostScript (*.ps);;All files (*)"));
-    if (file.isEmpty())
-        return;
+                                                      tr("All files (*)"), nullptr,
+                                                      QFileDialog::DontConfirmOverwrite);
+    if (!file.isEmpty())
+        showOutput(file);
+}
+
+void PrinterHeader::showOutput(const QString &file)
+{
     m_output->setText(QDir::toNativeSeparators(file));
-    Q_EMIT outputChanged(file, true); // the file dialog has asked already
 }
 
 void PrinterHeader::showDestination(bool fileOnly, bool toFile)

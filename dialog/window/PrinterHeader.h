@@ -32,6 +32,7 @@ public:
     void showDestination(bool fileOnly, bool toFile);
     /// While a job runs, neither its printer nor its file can be another one.
     void setJobRunning(bool running);
+    void showOutput(const QString &file);
     /// Puts the focus where the file is named.
     void focusOutput();
 

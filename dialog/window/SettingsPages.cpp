@@ -25,6 +25,7 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent) : QTabWidget(pare
     setObjectName(u"pages"_s);
     setDocumentMode(false);
     connect(this, &QTabWidget::currentChanged, this, &SettingsPages::enter);
+    connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
 }
 
 void SettingsPages::open()
@@ -64,10 +65,23 @@ void SettingsPages::addGeneral()
     m_general->setCopies(m_task.settings().copies());
     addTab(m_general, tr("General"));
     connect(m_general, &GeneralPage::proposed, &m_task, &PrintTask::propose);
-    connect(m_general, &GeneralPage::copiesEdited, this,
-            [this](int copies) { m_task.settings().askForCopies(copies, JobSettings::By::User); });
+    connect(m_general, &GeneralPage::copiesEdited, this, [this](int copies) {
+        m_task.settings().askForCopies(copies, JobSettings::By::User);
+        showAttributes(); // some of them are about several copies
+    });
     connect(m_general, &GeneralPage::pageRangesEdited, this,
             [this](const QString &ranges) { m_task.settings().setPageRanges(ranges); });
+    connect(m_general, &GeneralPage::attributeProposed, this,
+            [this](const QString &name, const QString &value) {
+                m_general->showAttributeProblem(name, m_task.setAttribute(name, value));
+            });
+    connect(m_general, &GeneralPage::heightChanged, this, &SettingsPages::heightChanged);
+    showAttributes();
+}
+
+void SettingsPages::showAttributes()
+{
+    m_general->setAttributes(m_task.attributes());
 }
 
 bool SettingsPages::showPanels()
@@ -151,14 +165,34 @@ void SettingsPages::refresh()
     if (m_general->pageRanges() != settings.pageRanges())
         m_general->setPageRanges(settings.pageRanges());
     m_general->refresh();
+    showAttributes();
     if (m_options)
         m_options->refresh();
-    if (currentWidget() == m_summary)
+    showSummary();
+}
+
+// Counted is only for somebody who looks at it.
+void SettingsPages::showSummary()
+{
+    if (!m_summary || currentWidget() != m_summary)
+        return;
+    m_summary->setLines(m_task.summary());
+    m_task.countSheets();
+}
+
+void SettingsPages::showCountedSheets()
+{
+    if (m_summary && currentWidget() == m_summary)
         m_summary->setLines(m_task.summary());
 }
 
 bool SettingsPages::finishEditing()
 {
+    if (m_general && !m_general->finishEditing()) {
+        setCurrentWidget(m_general);
+        m_general->finishEditing(); // the focus goes only where it is seen
+        return false;
+    }
     if (!m_options || m_options->finishEditing())
         return true;
     setCurrentWidget(m_options);
@@ -180,6 +214,13 @@ int SettingsPages::currentPanel() const
 PanelPage *SettingsPages::currentPanelPage() const
 {
     return qobject_cast<PanelPage *>(currentWidget());
+}
+
+std::optional<int> SettingsPages::missingHeight() const
+{
+    if (PanelPage *page = currentPanelPage())
+        return page->followView();
+    return currentWidget() == m_general && m_general ? m_general->missingHeight() : std::nullopt;
 }
 
 void SettingsPages::turn(int step)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QList>
 #include <QTabWidget>
 
@@ -42,6 +44,9 @@ public:
     int currentPanel() const;
     /// The page of a panel that is shown; null on a page of the dialog.
     PanelPage *currentPanelPage() const;
+    /// By how much the page that is shown is too low for its contents; negative: higher than they
+    /// need. Nothing for a page that needs no height of its own. Units: pixels.
+    std::optional<int> missingHeight() const;
     /// Goes on to the next page or back to the one before, in a circle.
     void turn(int step);
 
@@ -49,12 +54,17 @@ Q_SIGNALS:
     void retryPressed();
     /// A page was entered, and every page shows the settings.
     void entered();
+    /// missingHeight() has another answer.
+    void heightChanged();
 
 private:
     void addPages();
     void showPanelViews();
     void addGeneral();
+    void showAttributes();
     void enter(int page);
+    void showSummary();
+    void showCountedSheets();
 
     PrintTask &m_task;
     GeneralPage *m_general = nullptr;

@@ -7,7 +7,7 @@ _corvana_print_printers() {
     while ((word < COMP_CWORD)); do
         case ${COMP_WORDS[word]} in
         --demo) offer+=(--demo) ;;
-        --server | --ppd)
+        -h | --server | --ppd)
             # The shell may have made the sign "=" a word of its own.
             if [[ ${COMP_WORDS[word + 1]-} == = ]]; then
                 offer+=("${COMP_WORDS[word]}" "${COMP_WORDS[word + 2]-}")
@@ -47,6 +47,44 @@ _corvana_print_words() {
     done
 }
 
+# _corvana_print_keywords: the job attributes that -o takes. Those of a printer stand in its PPD.
+_corvana_print_keywords() {
+    local keyword
+    compopt -o nospace 2>/dev/null
+    for keyword in media sides copies landscape number-up number-up-layout page-border page-ranges \
+        page-set orientation-requested fit-to-page print-scaling scaling natural-scaling ppi \
+        position mirror page-left page-right page-top page-bottom cpi lpi columns wrap prettyprint \
+        collate outputorder job-hold-until job-priority job-sheets job-billing; do
+        [[ $keyword == "$current"* ]] && COMPREPLY+=("$keyword=")
+    done
+}
+
+# _corvana_print_values KEYWORD: what such an attribute can be, where that is a matter of words.
+_corvana_print_values() {
+    case $1 in
+    media) _corvana_print_words A4 A5 A3 Letter Legal ;;
+    sides) _corvana_print_words one-sided two-sided-long-edge two-sided-short-edge ;;
+    number-up) _corvana_print_words 1 2 4 6 9 16 ;;
+    number-up-layout) _corvana_print_words btlr btrl lrbt lrtb rlbt rltb tblr tbrl ;;
+    page-border) _corvana_print_words none single single-thick double double-thick ;;
+    page-set) _corvana_print_words all even odd ;;
+    orientation-requested) _corvana_print_words 3 4 5 6 ;;
+    print-scaling) _corvana_print_words auto auto-fit fill fit none ;;
+    position)
+        _corvana_print_words center top left right top-left top-right bottom bottom-left \
+            bottom-right
+        ;;
+    outputorder) _corvana_print_words normal reverse ;;
+    job-hold-until)
+        _corvana_print_words no-hold indefinite day-time evening night second-shift third-shift \
+            weekend
+        ;;
+    landscape | fit-to-page | mirror | wrap | prettyprint | collate)
+        _corvana_print_words true false
+        ;;
+    esac
+}
+
 _corvana_print() {
     local current=$2 previous=$3 printers
     COMPREPLY=()
@@ -55,6 +93,13 @@ _corvana_print() {
         current=
     elif [[ $previous == = ]]; then
         previous=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    # "-o sides=" is a fourth word in front of these.
+    local sign=$((COMP_CWORD - 1))
+    [[ $2 == = ]] && sign=$COMP_CWORD
+    if ((sign >= 3)) && [[ ${COMP_WORDS[sign]} == = && ${COMP_WORDS[sign - 2]} == -o ]]; then
+        _corvana_print_values "${COMP_WORDS[sign - 1]}"
+        return
     fi
 
     case $previous in
@@ -67,11 +112,27 @@ _corvana_print() {
         _corvana_print_words print hold refuse
         return
         ;;
+    --format)
+        _corvana_print_words json text
+        return
+        ;;
+    -H)
+        _corvana_print_words hold immediate day-time evening night second-shift third-shift weekend
+        return
+        ;;
+    -o | --option)
+        _corvana_print_keywords
+        return
+        ;;
+    -U)
+        mapfile -t COMPREPLY < <(compgen -u -- "$current")
+        return
+        ;;
     --ppd)
         _corvana_print_files ppd
         return
         ;;
-    --output)
+    --output | --password-file)
         _corvana_print_files
         return
         ;;
@@ -80,18 +141,19 @@ _corvana_print() {
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
         return
         ;;
-    --server)
+    -h | --server)
         mapfile -t COMPREPLY < <(compgen -A hostname -- "$current")
         return
         ;;
     # What only the user knows.
-    -o | --option | -n | --copies | -t | --title) return ;;
+    -n | --copies | -t | --title | -P | -q | --wait | --password-fd) return ;;
     esac
 
     if [[ $current == -* ]]; then
-        _corvana_print_words -d --printer --server --ppd --demo --list-printers -o --option -n \
-            --copies -t --title --output --no-dialog --summary --on-alert --no-wait --bundle-root \
-            --check-display -h --help --version
+        _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd --ppd \
+            --demo --list-printers -o --option -n --copies -P -q -H -t --title --output \
+            --no-dialog --summary --on-alert --wait --no-wait --format -s -c -m --bundle-root \
+            --check-display --help --version
         return
     fi
     _corvana_print_files pdf ps eps txt text png jpg jpeg

@@ -15,8 +15,8 @@
         <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -76,6 +76,14 @@
     <message>
         <source>%1 is no ordinary file; a document was expected.</source>
         <translation>%1 は通常のファイルではありません。文書を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: nobody writes into it.</source>
+        <translation>%1 を読み取れません: 書き込むプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be kept: it has more than %2 bytes.</source>
+        <translation>%1 を保存できません: %2 バイトを超えています。</translation>
     </message>
 </context>
 <context>
@@ -324,6 +332,162 @@
         <source>the name of a media type</source>
         <translation>用紙の種類の名前</translation>
     </message>
+<message>
+        <source>Up, Then to the Right</source>
+        <translation>上、次に右へ</translation>
+    </message>
+    <message>
+        <source>Up, Then to the Left</source>
+        <translation>上、次に左へ</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Up</source>
+        <translation>右、次に上へ</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Down</source>
+        <translation>右、次に下へ</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Up</source>
+        <translation>左、次に上へ</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Down</source>
+        <translation>左、次に下へ</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Right</source>
+        <translation>下、次に右へ</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Left</source>
+        <translation>下、次に左へ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Thin Line</source>
+        <translation>細い線</translation>
+    </message>
+    <message>
+        <source>Thick Line</source>
+        <translation>太い線</translation>
+    </message>
+    <message>
+        <source>Two Thin Lines</source>
+        <translation>細い二重線</translation>
+    </message>
+    <message>
+        <source>Two Thick Lines</source>
+        <translation>太い二重線</translation>
+    </message>
+    <message>
+        <source>Fit to Paper If Too Large</source>
+        <translation>はみ出す場合は用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Fill Paper</source>
+        <translation>用紙全体に広げる</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Print at Once</source>
+        <translation>すぐに印刷</translation>
+    </message>
+    <message>
+        <source>Daytime</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>夕方</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>Second Shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>Third Shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>Weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>points of 1/72 inch</source>
+        <translation>ポイント (1/72 インチ)</translation>
+    </message>
+    <message>
+        <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
+        <translation>昇順のページと範囲 (例: 1-4,7,9-)</translation>
+    </message>
+    <message>
+        <source>a time HH:MM in UTC</source>
+        <translation>時刻 HH:MM (UTC)</translation>
+    </message>
+    <message>
+        <source>one or two names of banner pages</source>
+        <translation>バナーページの名前を 1 つか 2 つ</translation>
+    </message>
+    <message>
+        <source>a text of up to 255 bytes</source>
+        <translation>255 バイトまでの文字列</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -362,7 +526,7 @@
         <translation>このプリンターでは用紙サイズを選択できません。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1: プリンターの設定により、ここでは使用できません。%2 になりました。</translation>
     </message>
     <message>
@@ -382,7 +546,7 @@
         <translation>1～%1</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <source>%1: the printer's options cannot be set to this value.</source>
         <translation>%1: プリンターのオプションをこの値に設定できません。</translation>
     </message>
     <message>
@@ -395,28 +559,40 @@
     </message>
 </context>
 <context>
-    <name>PassedOn</name>
+    <name>PasswordFile</name>
     <message>
-        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
-        <translation>キュー「%1」はファイルをそのまま渡します。%2 は実行できません。</translation>
+        <source>The password cannot be read from %1: %2.</source>
+        <translation>%1 からパスワードを読み取れません: %2。</translation>
     </message>
     <message>
-        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
-        <translation>「raw」ではファイルがそのまま渡されます。%1 は実行できません。</translation>
+        <source>The first line of %1 is empty; a password was expected.</source>
+        <translation>%1 の最初の行が空です。パスワードが必要です。</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>文書</translation>
+        <source>The first line of %1 is no password: at most %2 bytes of UTF-8 were expected.</source>
+        <translation>%1 の最初の行はパスワードではありません。UTF-8 で %2 バイト以内にしてください。</translation>
     </message>
     <message>
-        <source>Passed on as it is</source>
-        <translation>そのまま渡されます</translation>
+        <source>The password cannot be read from %1: it is no file.</source>
+        <translation>%1 からパスワードを読み取れません: ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: the file belongs to somebody else.</source>
+        <translation>%1 のパスワードは使用しません。ファイルの所有者が別のユーザーです。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
+        <translation>%1 のパスワードは使用しません。所有者以外もファイルにアクセスできます (モードは %2、chmod 600 で禁止できます)。</translation>
+    </message>
+    <message>
+        <source>descriptor %1</source>
+        <translation>記述子 %1</translation>
     </message>
 </context>
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
     </message>
 </context>
@@ -590,7 +766,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>、</translation>
     </message>
     <message>
@@ -663,7 +839,7 @@
         <translation>%1 に変更</translation>
     </message>
     <message>
-        <source>The printer&apos;s options cannot be set to %1.</source>
+        <source>The printer's options cannot be set to %1.</source>
         <translation>プリンターのオプションを%1に設定できません。</translation>
     </message>
 </context>
@@ -674,6 +850,10 @@
         <translation>
             <numerusform>%1 ほか %n 件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: the name is not written in UTF-8.</source>
+        <translation>%1: 名前が UTF-8 ではありません。</translation>
     </message>
 </context>
 <context>
@@ -781,10 +961,6 @@
         <translation>ジョブ %1 はキュー「%2」にあります。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
-    </message>
-    <message>
         <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
         <translation>ジョブ %1 はすべて送信されました。%2そのため、印刷されたかどうかはわかりません。</translation>
     </message>
@@ -871,6 +1047,38 @@
     <message>
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>ジョブ %1 をキャンセルできませんでした。印刷される可能性があります。%2</translation>
+    </message>
+    <message>
+        <source>%1 The job had been moved from the queue “%2” to “%3”.</source>
+        <translation>%1ジョブはキュー「%2」から「%3」に移動されていました。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
+        <translation>キュー「%1」は現在ジョブを受け付けていません: %2。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。そのため、印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over to the queue “%2”.</source>
+        <translation>ジョブ %1 をキュー「%2」に渡しました。</translation>
+    </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>前回のジョブ %1 では、文書 %3 個のうち %2 個がプリンターに送られています。残りだけを印刷するか、すべてをもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 ジョブ %2 は一部の文書とともにプリントサーバーに残っていて、それらが印刷される可能性があります。キャンセルできませんでした: %3 もう一度印刷すると、まずこのジョブを確認します。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>ジョブ %1 は、文書 %3 個のうち %2 個だけが印刷されました。</translation>
     </message>
 </context>
 <context>
@@ -971,6 +1179,10 @@
 <context>
     <name>StartValues</name>
     <message>
+        <source>This printer has no option of the name %1.</source>
+        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+<message>
         <source>This printer has no option of this name: %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>
     </message>
@@ -1030,6 +1242,13 @@
     </message>
 </context>
 <context>
+    <name>TextFormat</name>
+    <message>
+        <source>The margins, columns and characters per inch that were asked for leave no room for a text on this paper (%1 × %2 points).</source>
+        <translation>指定された余白、段数、1 インチあたりの文字数では、この用紙 (%1 × %2 ポイント) にテキストの入る余地がありません。</translation>
+    </message>
+</context>
+<context>
     <name>UnattendedRun</name>
     <message>
         <source>%1 So the printer “%2” could not be asked for.</source>
@@ -1050,6 +1269,18 @@
     <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1プリントサーバーを必要としないプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+    <message>
+        <source>Printed to standard output</source>
+        <translation>標準出力に印刷しました</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output: %1.</source>
+        <translation>結果を標準出力に書き込めませんでした: %1。</translation>
     </message>
 </context>
 <context>
@@ -1213,6 +1444,14 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
     </message>
+<message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>文書をプリンター用に変換できませんでした: ページ数を確認できません。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>文書をプリンター用に変換できませんでした: 時間がかかりすぎました。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -1353,7 +1592,7 @@ For the command line: %2</source>
         <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>プリンターの設定に指示が表示されました。</translation>
     </message>
     <message>
@@ -1361,7 +1600,7 @@ For the command line: %2</source>
         <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
     </message>
     <message>
@@ -1369,7 +1608,7 @@ For the command line: %2</source>
         <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>プリンター固有の設定を使用できません: %1</translation>
     </message>
     <message>
@@ -1397,7 +1636,7 @@ For the command line: %2</source>
         <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
     <message>
@@ -1405,6 +1644,18 @@ For the command line: %2</source>
         <translation>「%1」には表示するものがありません。</translation>
     </message>
     <message>
+        <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
+        <translation>このコンピューターのどのフォントにも、テキスト中の次の文字がありません: %1。それぞれの代わりに空の枠が印刷されます。</translation>
+    </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+<message>
         <source>What is passed on as it is cannot be printed to a file.</source>
         <translation>そのまま渡される文書はファイルに印刷できません。</translation>
     </message>
@@ -1413,6 +1664,14 @@ For the command line: %2</source>
 %1</source>
         <translation>このプリンターに設定されている内容の一部は使用できませんでした:
 %1</translation>
+    </message>
+<message>
+        <source>There is no job attribute of the name %1.</source>
+        <translation>%1 という名前のジョブ属性はありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1744,10 @@ For the command line: %2</source>
         <source>Help on Printing</source>
         <translation>印刷のヘルプ</translation>
     </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>このまま印刷</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -1520,6 +1783,10 @@ For the command line: %2</source>
         <translation>ファイルに出力</translation>
     </message>
     <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+<message>
         <source>PostScript (*.ps);;All files (*)</source>
         <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
     </message>
@@ -1573,6 +1840,14 @@ For the command line: %2</source>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
         <translation>既定のプリンターがありません。-d でプリンターを指定するか、--ppd FILE で PPD を指定するか、--demo でサンプルプリンターを試してください。</translation>
     </message>
+    <message>
+        <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>
+        <translation>インスタンス「%1」はありません。lpoptions にはキュー「%2」のインスタンスがありません。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”. The queue “%2” has: %3.</source>
+        <translation>インスタンス「%1」はありません。キュー「%2」にあるのは次のとおりです: %3。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterStatusLine</name>
@@ -1598,6 +1873,22 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
+    </message>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま印刷されます。1 枚に複数ページを割り付けること (number-up) も、ページを選ぶこと (page-ranges、page-set) もできません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>プリンターが一度に受け取る文書は 1 つのため、文書は 1 つにまとめられました。各文書は新しい用紙から始まります。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1922,36 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::TextConversion</name>
+    <message>
+        <source>There are no fonts for the text %1.</source>
+        <translation>テキスト %1 のためのフォントがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>%1 would have more than %2 pages, and a text is printed on no more than that.</source>
+        <translation>%1 は %2 ページを超えます。テキストはこれより多いページには印刷されません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TextDocuments</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>no display can be reached. Print without a window with --no-dialog.</source>
@@ -1639,6 +1960,195 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書の選択</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>すべての文書を 1 部ずつ繰り返す (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>文書ごとに全部数を続けて (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>ページごとに全部数を続けて (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>何も印刷されません。作成されたデータにページがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 ページ</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 枚</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>「%1」は %2です</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 以降</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>何も印刷されません。%1。偶数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>何も印刷されません。%1。奇数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>数えられませんでした</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 部 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 は %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>用紙の枚数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>存在しないページ</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>印刷される大きさ</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>キュー「%1」はファイルをそのまま渡します。%2 は実行できません。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>「raw」ではファイルがそのまま渡されます。%1 は実行できません。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>そのまま渡されます</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>その他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>詳細(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>詳細、%1</translation>
     </message>
 </context>
 </TS>

@@ -15,8 +15,8 @@
         <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
     </message>
 </context>
 <context>
@@ -76,6 +76,14 @@
     <message>
         <source>%1 is no ordinary file; a document was expected.</source>
         <translation>%1 不是普通文件；请指定文档。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: nobody writes into it.</source>
+        <translation>无法读取 %1：没有程序向其中写入。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be kept: it has more than %2 bytes.</source>
+        <translation>无法保存 %1：超过了 %2 字节。</translation>
     </message>
 </context>
 <context>
@@ -324,6 +332,162 @@
         <source>the name of a media type</source>
         <translation>介质类型的名称</translation>
     </message>
+<message>
+        <source>Up, Then to the Right</source>
+        <translation>先向上，再向右</translation>
+    </message>
+    <message>
+        <source>Up, Then to the Left</source>
+        <translation>先向上，再向左</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Up</source>
+        <translation>先向右，再向上</translation>
+    </message>
+    <message>
+        <source>To the Right, Then Down</source>
+        <translation>先向右，再向下</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Up</source>
+        <translation>先向左，再向上</translation>
+    </message>
+    <message>
+        <source>To the Left, Then Down</source>
+        <translation>先向左，再向下</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Right</source>
+        <translation>先向下，再向右</translation>
+    </message>
+    <message>
+        <source>Down, Then to the Left</source>
+        <translation>先向下，再向左</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Thin Line</source>
+        <translation>细线</translation>
+    </message>
+    <message>
+        <source>Thick Line</source>
+        <translation>粗线</translation>
+    </message>
+    <message>
+        <source>Two Thin Lines</source>
+        <translation>双细线</translation>
+    </message>
+    <message>
+        <source>Two Thick Lines</source>
+        <translation>双粗线</translation>
+    </message>
+    <message>
+        <source>Fit to Paper If Too Large</source>
+        <translation>超出时缩小以适合纸张</translation>
+    </message>
+    <message>
+        <source>Fill Paper</source>
+        <translation>填满纸张</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>适合纸张</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Print at Once</source>
+        <translation>立即打印</translation>
+    </message>
+    <message>
+        <source>Daytime</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>傍晚</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>Second Shift</source>
+        <translation>第二班</translation>
+    </message>
+    <message>
+        <source>Third Shift</source>
+        <translation>第三班</translation>
+    </message>
+    <message>
+        <source>Weekend</source>
+        <translation>周末</translation>
+    </message>
+    <message>
+        <source>points of 1/72 inch</source>
+        <translation>点 (1/72 英寸)</translation>
+    </message>
+    <message>
+        <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
+        <translation>按升序排列的页码和范围，例如 1-4,7,9-</translation>
+    </message>
+    <message>
+        <source>a time HH:MM in UTC</source>
+        <translation>时间 HH:MM (UTC)</translation>
+    </message>
+    <message>
+        <source>one or two names of banner pages</source>
+        <translation>一个或两个分隔页的名称</translation>
+    </message>
+    <message>
+        <source>a text of up to 255 bytes</source>
+        <translation>最多 255 字节的文本</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -362,7 +526,7 @@
         <translation>此打印机没有可选的纸张尺寸。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1：打印机设置不允许在此使用，已变为 %2。</translation>
     </message>
     <message>
@@ -382,7 +546,7 @@
         <translation>1 到 %1</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <source>%1: the printer's options cannot be set to this value.</source>
         <translation>%1：无法将打印机的选项设置为此值。</translation>
     </message>
     <message>
@@ -395,28 +559,40 @@
     </message>
 </context>
 <context>
-    <name>PassedOn</name>
+    <name>PasswordFile</name>
     <message>
-        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
-        <translation>队列“%1”会原样传送文件：无法执行 %2。</translation>
+        <source>The password cannot be read from %1: %2.</source>
+        <translation>无法从 %1 读取密码：%2。</translation>
     </message>
     <message>
-        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
-        <translation>使用“raw”时文件会原样传送：无法执行 %1。</translation>
+        <source>The first line of %1 is empty; a password was expected.</source>
+        <translation>%1 的第一行为空；此处应为密码。</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>文档</translation>
+        <source>The first line of %1 is no password: at most %2 bytes of UTF-8 were expected.</source>
+        <translation>%1 的第一行不是密码：应为最多 %2 字节的 UTF-8 文本。</translation>
     </message>
     <message>
-        <source>Passed on as it is</source>
-        <translation>原样传送</translation>
+        <source>The password cannot be read from %1: it is no file.</source>
+        <translation>无法从 %1 读取密码：它不是文件。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: the file belongs to somebody else.</source>
+        <translation>不使用 %1 中的密码：该文件属于其他用户。</translation>
+    </message>
+    <message>
+        <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
+        <translation>不使用 %1 中的密码：所有者以外的用户也能访问该文件（权限为 %2；chmod 600 可取消）。</translation>
+    </message>
+    <message>
+        <source>descriptor %1</source>
+        <translation>描述符 %1</translation>
     </message>
 </context>
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>无法将打印机选项写入 %1：%2</translation>
     </message>
 </context>
@@ -590,7 +766,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>，</translation>
     </message>
     <message>
@@ -663,7 +839,7 @@
         <translation>更改为%1</translation>
     </message>
     <message>
-        <source>The printer&apos;s options cannot be set to %1.</source>
+        <source>The printer's options cannot be set to %1.</source>
         <translation>无法将打印机的选项设置为%1。</translation>
     </message>
 </context>
@@ -674,6 +850,10 @@
         <translation>
             <numerusform>%1 等另外 %n 个</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: the name is not written in UTF-8.</source>
+        <translation>%1：名称不是 UTF-8 编码。</translation>
     </message>
 </context>
 <context>
@@ -781,10 +961,6 @@
         <translation>作业 %1 在队列“%2”中。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
-    </message>
-    <message>
         <source>Job %1 was handed over completely. %2 So whether it has been printed is not known.</source>
         <translation>作业 %1 已完整发送。%2因此不知道是否已打印。</translation>
     </message>
@@ -871,6 +1047,38 @@
     <message>
         <source>Job %1 could not be canceled and may still be printed. %2</source>
         <translation>无法取消作业 %1，它仍可能被打印。%2</translation>
+    </message>
+    <message>
+        <source>%1 The job had been moved from the queue “%2” to “%3”.</source>
+        <translation>%1该作业已从队列“%2”移到“%3”。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
+        <translation>队列“%1”目前不接受作业：%2。未打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。因此不知道是否已打印。</translation>
+    </message>
+    <message>
+        <source>Job %1 was handed over to the queue “%2”.</source>
+        <translation>作业 %1 已交给队列“%2”。</translation>
+    </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
+    </message>
+    <message>
+        <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
+        <translation>上次的作业 %1 已将 %3 个文档中的 %2 个送到打印机。请单独打印其余文档，或全部重新打印。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
+        <translation>%1 作业 %2 可能仍带着部分文档留在打印服务器上，并可能打印这些文档。无法取消它：%3 再次打印时会先查找该作业。</translation>
+    </message>
+    <message>
+        <source>Job %1 was printed with %2 of its %3 documents only.</source>
+        <translation>作业 %1 只打印了 %3 个文档中的 %2 个。</translation>
     </message>
 </context>
 <context>
@@ -971,6 +1179,10 @@
 <context>
     <name>StartValues</name>
     <message>
+        <source>This printer has no option of the name %1.</source>
+        <translation>此打印机没有以下名称的选项：%1</translation>
+    </message>
+<message>
         <source>This printer has no option of this name: %1.</source>
         <translation>此打印机没有以下名称的选项：%1。</translation>
     </message>
@@ -1030,6 +1242,13 @@
     </message>
 </context>
 <context>
+    <name>TextFormat</name>
+    <message>
+        <source>The margins, columns and characters per inch that were asked for leave no room for a text on this paper (%1 × %2 points).</source>
+        <translation>按所要求的页边距、栏数和每英寸字符数，此纸张（%1 × %2 点）上没有放置文本的空间。</translation>
+    </message>
+</context>
+<context>
     <name>UnattendedRun</name>
     <message>
         <source>%1 So the printer “%2” could not be asked for.</source>
@@ -1050,6 +1269,18 @@
     <message>
         <source>%1 Printers that need no print server: %2.</source>
         <translation>%1不需要打印服务器的打印机：%2。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>作业 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printed to standard output</source>
+        <translation>已打印到标准输出</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output: %1.</source>
+        <translation>无法将结果写入标准输出：%1。</translation>
     </message>
 </context>
 <context>
@@ -1213,6 +1444,14 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
     </message>
+<message>
+        <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
+        <translation>无法为打印机转换文档：无法确定其页数。</translation>
+    </message>
+    <message>
+        <source>The document could not be converted for the printer: that took too long.</source>
+        <translation>无法为打印机转换文档：耗时过长。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::GeneralPage</name>
@@ -1353,7 +1592,7 @@ For the command line: %2</source>
         <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>打印机设置显示了说明。</translation>
     </message>
     <message>
@@ -1361,7 +1600,7 @@ For the command line: %2</source>
         <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>由于打印机设置，作业未打印。</translation>
     </message>
     <message>
@@ -1369,7 +1608,7 @@ For the command line: %2</source>
         <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>无法使用打印机专用设置：%1</translation>
     </message>
     <message>
@@ -1397,7 +1636,7 @@ For the command line: %2</source>
         <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
     <message>
@@ -1405,6 +1644,18 @@ For the command line: %2</source>
         <translation>“%1”没有可显示的内容。</translation>
     </message>
     <message>
+        <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
+        <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
+    </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+<message>
         <source>What is passed on as it is cannot be printed to a file.</source>
         <translation>原样传送的文档无法打印到文件。</translation>
     </message>
@@ -1413,6 +1664,14 @@ For the command line: %2</source>
 %1</source>
         <translation>为此打印机设置的内容未能全部采用：
 %1</translation>
+    </message>
+<message>
+        <source>There is no job attribute of the name %1.</source>
+        <translation>没有名为 %1 的作业属性。</translation>
+    </message>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许使用“%1”。允许的值：%2。</translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1744,10 @@ For the command line: %2</source>
         <source>Help on Printing</source>
         <translation>打印帮助</translation>
     </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>仍然打印</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterComboBox</name>
@@ -1520,6 +1783,10 @@ For the command line: %2</source>
         <translation>打印到文件</translation>
     </message>
     <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+<message>
         <source>PostScript (*.ps);;All files (*)</source>
         <translation>PostScript (*.ps);;所有文件 (*)</translation>
     </message>
@@ -1573,6 +1840,14 @@ For the command line: %2</source>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
         <translation>没有默认打印机。请用 -d 指定打印机，或用 --ppd FILE 指定 PPD，或用 --demo 试用示例打印机。</translation>
     </message>
+    <message>
+        <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>
+        <translation>没有实例“%1”：lpoptions 中没有队列“%2”的任何实例。</translation>
+    </message>
+    <message>
+        <source>There is no instance “%1”. The queue “%2” has: %3.</source>
+        <translation>没有实例“%1”。队列“%2”有：%3。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterStatusLine</name>
@@ -1598,6 +1873,22 @@ For the command line: %2</source>
     <message>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
+    </message>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会原样打印文档：既不能在一张纸上放置多页 (number-up)，也不能选择页面 (page-ranges、page-set)。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The documents were put together as one, because the printer takes one at a time; each begins on a new sheet.</source>
+        <translation>由于打印机一次只接收一个文档，这些文档已合并为一个；每个文档都从新的一张纸开始。</translation>
+    </message>
+    <message>
+        <source>There are too many copies to send them in sets. Their order is: %1.</source>
+        <translation>份数过多，无法按套发送。顺序为：%1。</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1922,36 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::TextConversion</name>
+    <message>
+        <source>There are no fonts for the text %1.</source>
+        <translation>没有可用于文本 %1 的字体。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+    <message>
+        <source>%1 would have more than %2 pages, and a text is printed on no more than that.</source>
+        <translation>%1 将超过 %2 页，而文本最多只打印这么多页。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TextDocuments</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>已取消打印。</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>no display can be reached. Print without a window with --no-dialog.</source>
@@ -1639,6 +1960,195 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>打印</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>选择要打印的文档</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>所有文档依次打印一份后再重复 (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>每个文档连续打印所有份数 (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>每一页连续打印所有份数 (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>不会打印任何内容：生成的数据中没有页面。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 页</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 页</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 张</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 张</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>“%1”有 %2</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 及之后</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了偶数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了奇数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>将单面打印，因为只有一面要打印</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档将单面打印：%1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>无法计数</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 份 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 为 %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>纸张数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>不存在的页</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>打印大小</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>队列“%1”会原样传送文件：无法执行 %2。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>使用“raw”时文件会原样传送：无法执行 %1。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>原样传送</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>其他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>更多(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>更多，%1</translation>
     </message>
 </context>
 </TS>

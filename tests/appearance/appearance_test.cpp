@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -79,6 +81,53 @@ private Q_SLOTS:
         QTest::qWait(50);
         savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
         QCOMPARE(faultsOf(&dialog), QString());
+    }
+
+    void theAttributesOfAJobAreWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<bool>("opened");
+        for (const bool dark : {false, true}) {
+            for (const bool opened : {false, true})
+                QTest::addRow("attributes_%s_%s", opened ? "opened" : "closed",
+                              dark ? "dark" : "light")
+                    << dark << opened;
+        }
+    }
+
+    // With each kind of row, something of every kind in force, and a value that is refused.
+    void theAttributesOfAJobAreWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(bool, opened);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        QString options = QStringLiteral(
+            "number-up=4 print-scaling=auto-fit number-up-layout=tbrl page-border=double-thick "
+            "job-hold-until=12:30 job-sheets=standard,classified ppi=300");
+        if (!opened) // what a disclosure says of these has no end
+            options +=
+                QStringLiteral(" position=bottom-right job-billing=%1").arg(QString(200, u'm'));
+        PrintWindow dialog(request({options}));
+        const int width = dialog.width();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *pages = dialog.findChild<QTabWidget *>(QStringLiteral("pages"));
+        QTRY_COMPARE(dialog.findChild<QComboBox *>(QStringLiteral("number-up"))->currentText(),
+                     QStringLiteral("4"));
+        if (opened) {
+            dialog.findChild<QPushButton *>(QStringLiteral("more"))->click();
+            auto *priority = dialog.findChild<QDoubleSpinBox *>(QStringLiteral("job-priority"));
+            priority->setValue(101);
+            const auto *note = dialog.findChild<QLabel *>(QStringLiteral("job-priorityNote"));
+            QVERIFY(note && note->isVisibleTo(&dialog));
+        }
+        QTest::qWait(50);
+        savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        auto *area = pages->currentWidget()->findChild<QScrollArea *>();
+        QCOMPARE(clippedTexts(&dialog).join(u'\n'), QString());
+        QCOMPARE(faultsOf(&dialog), QString());
+        QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(dialog.width(), width);
     }
 
     void theOptionsOfAPrinterWithoutPanelsAreWhole_data()

@@ -129,6 +129,12 @@ private Q_SLOTS:
             if (auto *more =
                     m_window->pages()->currentWidget()->findChild<QPushButton *>(u"optionButton"_s))
                 more->setChecked(true);
+            if (auto *more = m_window->pages()->currentWidget()->findChild<QPushButton *>(u"more"_s)) {
+                more->setChecked(true);
+                settle();
+                auto *area = m_window->pages()->currentWidget()->findChild<QScrollArea *>();
+                QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+            }
             settle();
             QCOMPARE(whatIsOff(), QString());
             if (!folder.isEmpty())

@@ -25,8 +25,10 @@ dialog/session       dialog/session/ platform/
 dialog/server        dialog/server/ platform/
 dialog/driverless    dialog/driverless/ dialog/session/ platform/
 dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
-dialog/job           dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
-dialog/task          dialog/task/ dialog/job/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/text          dialog/text/ dialog/session/ platform/
+dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
+dialog/task          dialog/task/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/window        dialog/window/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
@@ -121,9 +123,19 @@ dialog/printers/A.cpp        dialog/driverless/CapabilityPpd.h  allowed
 dialog/printers/A.cpp        dialog/server/ServerWork.h         allowed
 dialog/printers/A.cpp        dialog/job/ServerJob.h             refused
 dialog/printers/A.cpp        dialog/task/PrintRequest.h         refused
+dialog/text/A.cpp            dialog/session/PpdFile.h           allowed
+dialog/text/A.cpp            dialog/job/Document.h              refused
+dialog/job/A.cpp             dialog/text/TextFormat.h           allowed
 dialog/job/A.cpp             dialog/printers/Printer.h          allowed
 dialog/job/A.cpp             dialog/window/pages/GeneralPage.h  refused
 dialog/job/A.cpp             dialog/task/PrintRequest.h         refused
+dialog/job/A.cpp             dialog/sheets/SheetCount.h         refused
+dialog/sheets/A.cpp          dialog/job/Conversion.h            allowed
+dialog/sheets/A.cpp          dialog/session/JobAttributes.h     allowed
+dialog/sheets/A.cpp          dialog/printers/Printer.h          refused
+dialog/sheets/A.cpp          dialog/task/JobSettings.h          refused
+dialog/task/A.cpp            dialog/sheets/SheetCounter.h       allowed
+dialog/window/pages/A.cpp    dialog/sheets/SheetCounter.h       refused
 dialog/window/chooser/A.cpp  dialog/printers/Printer.h          allowed
 dialog/window/chooser/A.cpp  dialog/window/pages/GeneralPage.h  refused
 dialog/window/chooser/A.cpp  dialog/session/PpdSession.h        refused

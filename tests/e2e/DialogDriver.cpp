@@ -101,6 +101,8 @@ DialogDriver::DialogDriver(const QueueAt &queue, const QStringList &options)
     CommandLine line = smallDocument(options);
     line.server = queue.server;
     line.printer = queue.name;
+    if (!queue.document.isEmpty())
+        line.documents = {queue.document};
     openAndDisclose(line);
 }
 

@@ -51,6 +51,7 @@ struct QueueAt
 {
     QString server;
     QString name;
+    QString document{}; ///< what is printed; empty for two pages with hardly anything on them
 };
 
 /// The dialog for a sample printer or for a queue, shown, with its panels up, worked through its

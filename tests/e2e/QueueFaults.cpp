@@ -92,6 +92,8 @@ void FaultPlayer::playOnce(const QueueFault &fault)
     window.changeSettings();
     m_gaps.opening = window.heart().takeLargestGap();
     tryTwice(scene, fault);
+    if (fault.verify && !QTest::currentTestFailed())
+        fault.verify(scene);
     m_gaps.printing = window.heart().takeLargestGap();
 }
 

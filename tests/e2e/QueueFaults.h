@@ -36,6 +36,7 @@ struct QueueFault
     States jobsAgain{};
     int documentsAgain = 0;
     Sends sends = Sends::OneDocument;
+    Act verify{}; ///< what else is so after the last try
 };
 
 /// Plays faults from the opening of a window to the second try, and watches whether the window

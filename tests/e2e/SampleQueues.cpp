@@ -29,9 +29,10 @@ QString SampleQueues::ppdOf(const QString &printer)
     return corvana::test::sourceFile(u"resources/ppd/%1.ppd"_s).arg(printer);
 }
 
-std::unique_ptr<DialogDriver> SampleQueues::open(const QString &printer, const QStringList &options)
+std::unique_ptr<DialogDriver> SampleQueues::open(const QString &printer, const QStringList &options,
+                                                 const QString &document)
 {
-    return std::make_unique<DialogDriver>(QueueAt{m_cups.server(), printer}, options);
+    return std::make_unique<DialogDriver>(QueueAt{m_cups.server(), printer, document}, options);
 }
 
 QByteArray SampleQueues::printedBy(DialogDriver &driver, const QString &printer)

@@ -33,7 +33,8 @@ public:
     static QString ppdOf(const QString &printer);
 
     PrivateCups &cups() { return m_cups; }
-    std::unique_ptr<DialogDriver> open(const QString &printer, const QStringList &options = {});
+    std::unique_ptr<DialogDriver> open(const QString &printer, const QStringList &options = {},
+                                       const QString &document = {});
     /// Waits until a dialog has closed over its job, and answers what the printer got; null when
     /// the dialog does not say, or not rightly, that it was printed.
     QByteArray printedBy(DialogDriver &driver, const QString &printer);

@@ -1,8 +1,10 @@
+#include <QFile>
 #include <QProcess>
 #include <QTest>
 
 #include "tests/e2e/QueueRuns.h"
 #include "tests/support/Rows.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/Client.h"
 
 using namespace corvana::test;
@@ -12,7 +14,7 @@ namespace {
 
 /// Without a cover sheet, which has the number of its job on it, and the lines that are different
 /// in every job, or say beside "Duplex" that a job is two-sided.
-QByteArray ownData(const QByteArray &data)
+QByteArray comparable(const QByteArray &data)
 {
     QByteArrayList lines = data.mid(data.lastIndexOf("%!PS-Adobe-")).split('\n');
     lines.removeIf([](const QByteArray &line) {
@@ -22,7 +24,7 @@ QByteArray ownData(const QByteArray &data)
     return lines.join('\n');
 }
 
-QByteArray firstLineApart(const QByteArray &data, const QByteArray &other)
+QByteArray firstDifference(const QByteArray &data, const QByteArray &other)
 {
     const QByteArrayList lines = data.split('\n');
     const QByteArrayList otherLines = other.split('\n');
@@ -49,7 +51,7 @@ struct DefaultRun
     const char *toLp = nullptr;
 };
 
-constexpr DefaultRun kDefaultRuns[] = {
+constexpr DefaultRun kDefaults[] = {
     {"two pages on a sheet", "number-up-default=2", nullptr, "Pages per Sheet: 2"},
     {"one page on a sheet after all", "number-up-default=2", "number-up=1", "Pages per Sheet: 1"},
     {"a cover sheet", "job-sheets-default=standard,none", nullptr, "Banner Pages: standard,none",
@@ -89,8 +91,7 @@ private:
     {
         Client client(m_cups->server());
         QVERIFY(client.print(u"office"_s, readAll(kThreePages), "application/pdf") > 0);
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED,
-                                  kQueuePatience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED, 20000);
     }
     void runLp(const QStringList &arguments)
     {
@@ -102,15 +103,14 @@ private:
         lp.start(u"lp"_s, arguments);
         QVERIFY(lp.waitForFinished());
         QVERIFY2(lp.exitCode() == 0, lp.readAllStandardError().constData());
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED,
-                                  kQueuePatience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_cups->jobs().constLast().state, IPP_JSTATE_COMPLETED, 20000);
     }
 
 private Q_SLOTS:
-    void theProgramAndLpPrintTheSame_data() { addRows(kDefaultRuns); }
+    void theProgramAndLpPrintTheSame_data() { addRows(kDefaults); }
     void theProgramAndLpPrintTheSame()
     {
-        const DefaultRun &row = currentRow(kDefaultRuns);
+        const DefaultRun &row = currentRow(kDefaults);
         m_cups->addQueue(u"office"_s, kPpd, {.options = {QString::fromLatin1(row.byQueue)}});
         QStringList arguments{u"-d"_s, u"office"_s};
         if (row.option)
@@ -130,9 +130,9 @@ private Q_SLOTS:
             printAsItIs();
         const QByteArray theirs = lastStream();
         QCOMPARE(theirs.count("%!PS-Adobe-3.0"), qsizetype(row.streams));
-        const QByteArray our = ownData(ours);
-        const QByteArray their = ownData(theirs);
-        QVERIFY2(our == their, firstLineApart(our, their).constData());
+        const QByteArray our = comparable(ours);
+        const QByteArray their = comparable(theirs);
+        QVERIFY2(our == their, firstDifference(our, their).constData());
     }
 
     void aDefaultThatNobodyUnderstandsIsSaid()

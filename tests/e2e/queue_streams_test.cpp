@@ -80,7 +80,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, printer);
         QFETCH(QStringList, options);
-        const auto driver = m_queues->open(printer, options);
+        const auto driver = m_queues->open(printer, options, kSample);
         driver->summary(); // every page has been seen
         driver->pressPrint();
         const QByteArray window = comparable(m_queues->printedBy(*driver, printer));

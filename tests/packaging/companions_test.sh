@@ -11,7 +11,7 @@ icon=$source_root/packaging/desktop/corvana-print.svg
 
 # options: those that the program lists, one a line.
 options() {
-    "$build/bin/corvana-print" --help | grep -E '^  -' | grep -oE -- '(^|[ ,])--?[a-z][a-z-]*' |
+    "$build/bin/corvana-print" --help | grep -E '^  -' | grep -oE -- '(^|[ ,])--?[A-Za-z][a-z-]*' |
         tr -d ' ,' >"$work/options"
     [ "$(wc -l <"$work/options")" -gt 10 ] || fail 'the options were not found' "$(cat "$work/options")"
     cat "$work/options"
@@ -21,7 +21,7 @@ theManualExplainsEveryOption() {
     local option
     man --local-file "$manual" >"$work/manual" 2>"$work/err" || fail 'the manual cannot be read'
     for option in $(options); do
-        grep -qE -- "^ {7}(-[a-z], )?$option( |\$)|^ {7}$option," "$work/manual" ||
+        grep -qE -- "^ {7}(-[A-Za-z], )?$option( |\$)|^ {7}$option," "$work/manual" ||
             fail "the manual has no paragraph on $option"
     done
 }
@@ -148,9 +148,67 @@ documentsAreOfferedByTheirKind() {
     expect_equal "$(complete_line corvana-print --bundle-root a)" 'a folder'
 }
 
+# refused_as_unknown OPTION: whether the program has never heard of it.
+refused_as_unknown() {
+    ! "$build/bin/corvana-print" --bundle-root "$build/plugins" --demo --no-dialog --summary -o "$1" >"$work/out" 2>&1 &&
+        grep -q 'has no such option' "$work/out"
+}
+
+keywordsOfJobsAreOffered() {
+    local keyword
+    expect_equal "$(offered corvana-print -o sid)" 'sides= '
+    expect_equal "$(offered corvana-print --option page-s)" 'page-set= '
+    refused_as_unknown nonsense=1 || fail 'an unknown option is not told from others' "$(cat out)"
+    for keyword in $(complete_line corvana-print -o ''); do
+        ! refused_as_unknown "${keyword}1" || fail "offered, and not known: $keyword"
+    done
+}
+
+valuesOfKeywordsAreOffered() {
+    local keyword value
+    expect_equal "$(offered corvana-print -o sides = two)" \
+        'two-sided-long-edge two-sided-short-edge '
+    expect_equal "$(offered corvana-print -o page-set =)" 'all even odd '
+    for keyword in $(complete_line corvana-print -o ''); do
+        for value in $(complete_line corvana-print -o "${keyword%=}" = ''); do
+            "$build/bin/corvana-print" --bundle-root "$build/plugins" --demo --no-dialog \
+                --summary -o "$keyword$value" >"$work/out" 2>&1 || fail "not taken: $keyword$value" "$(cat "$work/out")"
+        done
+    done
+}
+
+everyShellOffersTheSame() {
+    local shell word file
+    for shell in zsh fish; do
+        file=$source_root/packaging/completion/corvana-print.fish
+        [ $shell = fish ] || file=$source_root/packaging/completion/_corvana-print
+        for word in $(options); do
+            case $shell:$word in
+            fish:--*) grep -qE -- " -l ${word#--}( |\$)" "$file" ;;
+            fish:*) grep -qE -- " -s ${word#-}( |\$)" "$file" ;;
+            *) grep -qE -- "[{',)*]$word[]+=,[}]" "$file" ;;
+            esac || fail "not offered in $shell: $word"
+        done
+        for word in $(complete_line corvana-print -o ''); do
+            grep -qE -- "(^|[ *])${word%=}([ =]|\$)" "$file" || fail "not offered in $shell: $word"
+        done
+        command -v $shell >/dev/null || continue
+        $shell -n "$file" 2>"$work/err" || fail "not understood by $shell" "$(cat "$work/err")"
+    done
+}
+
+everyExitStatusIsInTheManual() {
+    local status
+    "$build/bin/corvana-print" --help | sed -nE 's/^  ([0-9]+)  +.*/\1/p' >"$work/statuses"
+    [ "$(wc -l <"$work/statuses")" -ge 5 ] || fail 'the exit statuses were not found'
+    while read -r status; do
+        grep -qx "\.B $status" "$manual" || fail "the manual has no paragraph on $status"
+    done <"$work/statuses"
+}
+
 valuesThatOnlyTheUserKnowsAreLeftAlone() {
     touch 3.pdf
-    for option in -o -n -t --option --copies --title; do
+    for option in -n -t --copies --title -P -q --wait --password-fd; do
         expect_equal "$(offered corvana-print $option '')" ' '
     done
 }
@@ -161,12 +219,42 @@ theDesktopEntryFollowsTheStandard() {
     expect_nothing 'hints of the standard' "$(cat "$work/out")"
 }
 
-theDesktopEntryIsForTheFilesThatTheProgramPrints() {
-    local type
-    for type in $(sed -n 's/^MimeType=//p' "$desktop" | tr ';' ' '); do
-        grep -qF "\"$type\"" "$source_root/dialog/job/Document.cpp" || fail "not printed: $type"
+theActionsOfFileManagersAreForTheFilesThatTheProgramPrints() {
+    local action type count=0
+    for action in "${desktop%.desktop}".{servicemenu.desktop,action.desktop,nemo_action}; do
+        for type in $(sed -nE 's/^Mime[Tt]ypes?=//p' "$action" | tr ';' ' '); do
+            grep -qF "\"$type\"" "$source_root/dialog/job/Document.cpp" ||
+                fail "not printed: $type"
+            count=$((count + 1))
+        done
+        grep -qF 'Exec=corvana-print %F' "$action" || fail "$action starts something else"
     done
-    grep -q '^MimeType=application/pdf;' "$desktop" || fail 'nothing was compared'
+    expect_equal "$count" 15
+}
+
+# default_of TYPE: what opens a file of a type where no other program is installed.
+default_of() {
+    env -i LC_ALL=C.UTF-8 PATH="$PATH" HOME="$work/home" XDG_DATA_DIRS="$work/share" XDG_DATA_HOME="$work/none" \
+        XDG_CONFIG_DIRS="$work/none" XDG_CONFIG_HOME="$work/none" gio mime "$1" 2>&1
+}
+
+nothingIsOpenedByPrintingIt() {
+    command -v gio >/dev/null || skip 'gio is missing.'
+    local type
+    mkdir -p share/applications home
+    sed 's/^TryExec=.*/TryExec=true/; s/^Exec=corvana-print/Exec=true/' "$desktop" \
+        >share/applications/corvana-print.desktop
+    # What update-desktop-database would write.
+    { echo '[MIME Cache]'; sed -n 's/^MimeType=//p' share/applications/corvana-print.desktop |
+        tr ';' '\n' | sed -n 's/..*/&=corvana-print.desktop;/p'; } \
+        >share/applications/mimeinfo.cache
+    for type in application/pdf text/plain image/png image/jpeg application/postscript; do
+        expect_equal "$(default_of "$type" | head -n 1)" \
+            "No default applications for “$type”"
+    done
+    # The check sees an entry that names its types.
+    echo 'text/plain=corvana-print.desktop;' >>share/applications/mimeinfo.cache
+    default_of text/plain | grep -q corvana-print || fail 'gio reads other entries'
 }
 
 theDesktopEntryIsTranslated() {

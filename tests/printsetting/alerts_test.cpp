@@ -132,7 +132,7 @@ private Q_SLOTS:
 
     void aPieceWithoutTranslationIsLeftOut()
     {
-        QMap<QString, QString> texts = kTexts;
+        QMap<QString, QString> texts = textsOfAlerts();
         texts.remove(u"STR_MES_BACKCOVER_OPEN"_s);
         texts.remove(u"DLG_TITLE_BACKCOVER"_s);
         m_bundle.reset();

@@ -1,5 +1,6 @@
 #include "dialog/window/pages/GeneralPage.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHash>
@@ -14,8 +15,10 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "dialog/window/pages/AttributeRows.h"
 #include "dialog/window/pages/ClearButton.h"
 #include "dialog/window/pages/CustomPaperSize.h"
+#include "dialog/window/pages/RowMnemonics.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/MenuActions.h"
 #include "platform/toolkit/Mnemonics.h"
@@ -60,11 +63,24 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
       m_pageRanges(new QLineEdit(this))
 {
     auto *rows = new QWidget;
-    auto *layout = new QFormLayout(rows);
-    m_rows = layout;
-    layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_rows = new QFormLayout(rows);
+    m_rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    m_rows->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    addJobFields(m_rows);
+    scroll(rows);
+    for (const QString &keyword : generalOptionKeywords())
+        addOption(keyword);
+    m_attributes = new AttributeRows(m_rows);
+    connect(m_attributes, &AttributeRows::proposed, this, &GeneralPage::attributeProposed);
+    // Later: the rows are laid out by then.
+    connect(m_attributes, &AttributeRows::heightChanged, this, &GeneralPage::heightChanged,
+            Qt::QueuedConnection);
+    refresh();
+}
+
+void GeneralPage::addJobFields(QFormLayout *form)
+{
     m_copies->setObjectName(u"copies"_s);
     m_copies->setRange(1, kMostCopies);
     ignoreWheelWithoutFocus(m_copies);
@@ -72,29 +88,30 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     auto *row = new QHBoxLayout; // a number needs no more width than its digits
     row->addWidget(m_copies);
     row->addStretch();
-    layout->addRow(tr("&Copies:"), row);
-    qobject_cast<QLabel *>(layout->labelForField(row))->setBuddy(m_copies);
+    form->addRow(tr("&Copies:"), row);
+    qobject_cast<QLabel *>(form->labelForField(row))->setBuddy(m_copies);
     m_pageRanges->setObjectName(u"pageRanges"_s);
     m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
     addClearButton(m_pageRanges);
-    layout->addRow(tr("Pa&ges:"), m_pageRanges);
+    form->addRow(tr("Pa&ges:"), m_pageRanges);
     connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPage::copiesEdited);
     connect(m_pageRanges, &QLineEdit::textChanged, this,
             [this] { Q_EMIT pageRangesEdited(pageRanges()); });
-    // On a small screen, or with a large font, it scrolls rather than push the buttons below the
-    // edge.
-    auto *area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(rows);
-    area->viewport()->setAutoFillBackground(false);
+}
+
+// On a small screen, or with a large font, the page scrolls rather than push the buttons below the
+// edge.
+void GeneralPage::scroll(QWidget *rows)
+{
+    m_area = new QScrollArea(this);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setWidgetResizable(true);
+    m_area->setWidget(rows);
+    m_area->viewport()->setAutoFillBackground(false);
     rows->setAutoFillBackground(false);
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(area);
-    for (const QString &keyword : generalOptionKeywords())
-        addOption(keyword);
-    refresh();
+    whole->addWidget(m_area);
 }
 
 int GeneralPage::copies() const
@@ -136,6 +153,59 @@ void GeneralPage::focusPageRanges()
 {
     m_pageRanges->setFocus();
     m_pageRanges->selectAll();
+}
+
+void GeneralPage::setAttributes(const QList<OfferedAttribute> &offered)
+{
+    for (const OfferedAttribute &one : offered) {
+        if (one.place == OfferedAttribute::Place::BesideCopies)
+            showCollate(one);
+    }
+    m_attributes->show(offered);
+}
+
+void GeneralPage::showCollate(const OfferedAttribute &collate)
+{
+    constexpr QLatin1StringView kOn{"true"};
+    const JobAttribute &attribute = *jobAttribute(collate.name);
+    if (!m_collate) {
+        m_collate = new QCheckBox(this);
+        m_collate->setObjectName(collate.name);
+        m_collate->setText(withFreeMnemonic(textOfJobAttribute({collate.name, {}}).title,
+                                            QLatin1StringView(attribute.title), window()));
+        auto *row =
+            qobject_cast<QHBoxLayout *>(m_rows->itemAt(0, QFormLayout::FieldRole)->layout());
+        row->insertSpacing(1, row->spacing());
+        row->insertWidget(2, m_collate);
+        setTabOrder(m_copies, m_collate);
+        connectControlAction(m_collate, [this, name = collate.name](QWidget *) {
+            Q_EMIT attributeProposed(name, m_collate->isChecked() ? u"true"_s : u"false"_s);
+        });
+    }
+    const ProgrammaticChange change;
+    m_collate->setChecked((collate.value.isNull() ? QString(attribute.usual) : collate.value) ==
+                          kOn);
+    m_collate->setEnabled(collate.hasEffect);
+}
+
+void GeneralPage::showAttributeProblem(const QString &name, const QString &problem)
+{
+    m_attributes->showProblem(name, problem);
+}
+
+bool GeneralPage::finishEditing()
+{
+    return m_attributes->finishEditing();
+}
+
+std::optional<int> GeneralPage::missingHeight() const
+{
+    if (!m_attributes->showsMore())
+        return std::nullopt;
+    const int width = m_area->viewport()->width();
+    const int needed = m_rows->hasHeightForWidth() ? m_rows->heightForWidth(width)
+                                                   : m_rows->minimumSize().height();
+    return needed - m_area->viewport()->height();
 }
 
 void GeneralPage::addOption(const QString &keyword)

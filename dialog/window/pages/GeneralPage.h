@@ -1,24 +1,33 @@
 #pragma once
 
+#include <optional>
+
+#include <QList>
 #include <QMap>
 #include <QString>
 #include <QWidget>
 
+#include "dialog/session/OfferedAttribute.h"
+
+class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
+class QScrollArea;
 class QSpinBox;
 
 namespace corvana {
 
+class AttributeRows;
 class CustomPaperSize;
 class PpdSession;
 
-/// Copies, pages, and the PPD options that no panel owns: two-sided, paper size, output
-/// destination, and who matches the colours; each only where the printer has it, in the PPD's own
-/// words.
+/// Copies, pages, the PPD options that no panel owns (two-sided, paper size, output destination,
+/// and who matches the colours; each only where the printer has it, in the PPD's own words), and
+/// the attributes of the job.
 ///
-/// It shows the session and proposes changes; it changes nothing itself.
+/// It shows the session and what it is told of the job, and proposes changes; it changes nothing
+/// itself.
 class GeneralPage : public QWidget
 {
     Q_OBJECT
@@ -42,6 +51,16 @@ public:
     void focusPageRanges();
     /// Shows the session's marks.
     void refresh();
+    /// Shows the attributes of the job. To be called with the page in its window.
+    void setAttributes(const QList<OfferedAttribute> &offered);
+    /// Says beside an attribute why what was entered is not taken; an empty text: it was.
+    void showAttributeProblem(const QString &name, const QString &problem);
+    /// Takes what is being typed. Errors: false; the page says beside it why, and has the focus
+    /// there.
+    bool finishEditing();
+    /// By how much the page is too low for what was disclosed; negative: higher than that needs.
+    /// Units: pixels.
+    std::optional<int> missingHeight() const;
 
 Q_SIGNALS:
     /// The user picked a choice.
@@ -50,8 +69,15 @@ Q_SIGNALS:
     void copiesEdited(int copies);
     /// The pages are others, whoever changed them; as pageRanges() gives them.
     void pageRangesEdited(const QString &ranges);
+    /// The user chose a value of an attribute; null: none.
+    void attributeProposed(const QString &name, const QString &value);
+    /// missingHeight() has another answer.
+    void heightChanged();
 
 private:
+    void addJobFields(QFormLayout *form);
+    void scroll(QWidget *rows);
+    void showCollate(const OfferedAttribute &collate);
     void addOption(const QString &keyword);
     void refreshOption(const QString &keyword, QComboBox *popUp);
     void addCustomPaperSize(QComboBox *sizes);
@@ -60,7 +86,10 @@ private:
 
     PpdSession &m_session;
     QFormLayout *m_rows = nullptr;
+    QScrollArea *m_area = nullptr;
+    AttributeRows *m_attributes = nullptr;
     QSpinBox *m_copies;
+    QCheckBox *m_collate = nullptr; // where the printer can
     QLineEdit *m_pageRanges;
     QMap<QString, QComboBox *> m_popUps;
     CustomPaperSize *m_customPaper = nullptr; // where the printer takes such sizes

@@ -67,7 +67,11 @@ private Q_SLOTS:
         row("an empty list is none", "LANGUAGE= LANG=ja_JP.UTF-8", "Japanese", "ja_JP.UTF-8");
         row("a list of nothing is none", "LANGUAGE=:: LANG=ja_JP.UTF-8", "Japanese", "ja_JP.UTF-8");
         row("LANGUAGE counts for nothing in C", "LANGUAGE=ja LC_ALL=C", "English", "C");
-        row("nor in C with an encoding", "LANGUAGE=ja LANG=C.UTF-8", "English", "C");
+        row("nor in POSIX", "LANGUAGE=ja LANG=POSIX", "English", "C");
+        row("but in C with an encoding", "LANGUAGE=ja LANG=C.UTF-8", "Japanese", "ja_JP.UTF-8");
+        row("whichever variable says so", "LANGUAGE=zh_CN LC_ALL=C.UTF-8 LANG=en_US.UTF-8", "zh_CN",
+            "zh_CN.UTF-8");
+        row("and it may end at C there, too", "LANGUAGE=de:C:ja LC_ALL=C.UTF-8", "English", "C");
         row("nor without a locale", "LANGUAGE=ja", "English", "C");
     }
     void theEnvironmentChoosesTheLanguage()

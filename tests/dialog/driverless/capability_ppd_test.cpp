@@ -12,6 +12,7 @@
 #include "dialog/driverless/CapabilityPpd.h"
 #include "dialog/job/CupsFilter.h"
 #include "dialog/job/FileJob.h"
+#include "dialog/session/AttributeChoices.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
@@ -175,6 +176,22 @@ class CapabilityPpdTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anAttributeFindsTheChoicesThatStandForIt()
+    {
+        const auto session = sessionOf(profile("office laser"));
+        const auto choice = [&](const QString &name, const QString &value) {
+            const AttributeChoices found =
+                AttributeReader(session->ppd(), nullptr).read({name, value});
+            QStringList choices;
+            for (const JobOption &one : found.choices)
+                choices += one.name + u'=' + one.value;
+            return choices.join(u' ');
+        };
+        QCOMPARE(choice(u"finishings"_s, u"staple-top-left"_s), u"StapleLocation=StapleTopLeft"_s);
+        QCOMPARE(choice(u"finishings"_s, u"20"_s), u"StapleLocation=StapleTopLeft"_s);
+        QCOMPARE(choice(u"print-color-mode"_s, u"monochrome"_s), u"ColorModel=Gray"_s);
+    }
+
     void cleanup() { QLocale::setDefault(QLocale::c()); }
 
     void thePpdHasNoFault_data() { addProfiles(); }

@@ -16,6 +16,10 @@ CannedAnswer answerAbout(const SaidOfJob &job)
         return ippAnswer(newIppAnswer(job.status));
     ipp_t *answer = newIppAnswer();
     ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", job.state);
+    ippAddString(answer, IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-state-reasons", nullptr,
+                 job.wantsLogIn ? "cups-held-for-authentication" : "none");
+    if (job.queue)
+        ippAddString(answer, IPP_TAG_JOB, IPP_TAG_URI, "job-printer-uri", nullptr, job.queue);
     if (job.documents >= 0)
         ippAddInteger(answer, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", job.documents);
     // What has not happened yet has no time.
@@ -61,11 +65,16 @@ CannedAnswer JobServer::answer(const CannedRequest &request)
         return ippAnswer(newIppAnswer(m_cancels ? IPP_STATUS_OK : IPP_STATUS_ERROR_NOT_POSSIBLE));
     case IPP_OP_GET_JOB_ATTRIBUTES:
         return answerAbout(stateOf(request.value("job-id").toInt()));
+    case IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS:
+    case IPP_OP_GET_NOTIFICATIONS:
+        return answerToSubscriber(request);
     default: {
         if (!m_knowsQueue)
             return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_FOUND));
         ipp_t *answer = newIppAnswer();
         ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "office");
+        ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_TEXT, "printer-state-message", nullptr,
+                     "Toner is being changed.");
         return ippAnswer(answer);
     }
     }
@@ -88,6 +97,8 @@ CannedAnswer JobServer::answerToCreation(const CannedRequest &request)
         return ippAnswer(answer);
     case Creation::Numberless:
         return ippAnswer(newIppAnswer());
+    case Creation::NotAccepted:
+        return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS));
     case Creation::Refused:
         return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_BUSY));
     default:
@@ -122,6 +133,33 @@ CannedAnswer JobServer::listOfJobs()
     add(kEarlierJob, u"urn:uuid:another"_s);
     if (m_creation == Creation::Numberless || m_creation == Creation::LostAndListed)
         add(kJob, m_token);
+    return ippAnswer(answer);
+}
+
+CannedAnswer JobServer::answerToSubscriber(const CannedRequest &request)
+{
+    constexpr int kSubscription = 5;
+    const std::scoped_lock lock(m_mutex);
+    if (!m_end)
+        return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_TOO_MANY_SUBSCRIPTIONS));
+    ipp_t *answer = newIppAnswer();
+    constexpr ipp_tag_t group = IPP_TAG_EVENT_NOTIFICATION;
+    const auto addEvent = [&](int job, int state, const char *queue) {
+        ippAddInteger(answer, group, IPP_TAG_INTEGER, "notify-subscription-id", kSubscription);
+        ippAddString(answer, group, IPP_TAG_TEXT, "notify-text", nullptr, "It has ended.");
+        ippAddInteger(answer, group, IPP_TAG_INTEGER, "notify-job-id", job);
+        ippAddInteger(answer, group, IPP_TAG_ENUM, "job-state", state);
+        if (queue)
+            ippAddString(answer, group, IPP_TAG_URI, "notify-printer-uri", nullptr, queue);
+    };
+    if (request.operation == IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS) {
+        ippAddInteger(answer, IPP_TAG_SUBSCRIPTION, IPP_TAG_INTEGER, "notify-subscription-id",
+                      kSubscription);
+    } else if (request.value("notify-subscription-ids").toInt() == kSubscription) {
+        addEvent(kEarlierJob, IPP_JSTATE_ABORTED, nullptr);
+        addEvent(kJob, m_end->state, m_end->queue);
+        addEvent(kJob + 1, IPP_JSTATE_ABORTED, nullptr);
+    }
     return ippAnswer(answer);
 }
 

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <functional>
 #include <mutex>
+#include <optional>
 
 #include <QList>
 #include <QString>
@@ -27,6 +28,8 @@ struct SaidOfJob
     ipp_status_t status = IPP_STATUS_OK;
     bool hangsUp = false;
     bool begun = true; ///< something of it may have got to the printer
+    const char *queue = nullptr; ///< that has it; null: does not say
+    bool wantsLogIn = false;     ///< the device has not let it in
 };
 
 /// A server of one queue and at most two jobs, which says of them what a test wants.
@@ -70,9 +73,17 @@ public:
         LostAndUnlistable,
         LostAndGuarded, ///< the list of jobs wants a password
         Refused,
+        NotAccepted, ///< for the reason "Toner is being changed."
     };
     void setCreation(Creation creation) { m_creation = creation; }
     void forgetTheQueue() { m_knowsQueue = false; }
+    /// Lets clients subscribe, and says to those who have that the job has ended so. Another job
+    /// has ended before it, in whatever way.
+    void rememberTheEnd(const SaidOfJob &end)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_end = end;
+    }
     void setPpdStatus(int status) { m_ppdStatus = status; }
     /// The queue has this PPD.
     void setPpd(const QByteArray &ppd)
@@ -96,6 +107,7 @@ private:
     CannedAnswer answerToCreation(const CannedRequest &request);
     CannedAnswer listOfJobs();
     CannedAnswer answerToDocument();
+    CannedAnswer answerToSubscriber(const CannedRequest &request);
     SaidOfJob afterCancel();
     SaidOfJob stateOf(int job);
 
@@ -108,6 +120,8 @@ private:
     std::atomic<int> m_refuses{kNone};
     std::atomic<int> m_documents{0};
     std::function<void(int)> m_act; // set before anything is sent
+    std::optional<SaidOfJob> m_end;
+    std::atomic<bool> m_losesAnswer{false};
     std::atomic<bool> m_cancels{true};
     std::atomic<bool> m_losesCancellation{false};
     std::atomic<int> m_ppdStatus{404};

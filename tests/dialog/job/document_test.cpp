@@ -1,12 +1,16 @@
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/job/Document.h"
+#include "dialog/job/DocumentCopy.h"
+#include "dialog/job/FileBytes.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/TestPaths.h"
 
@@ -144,7 +148,6 @@ private Q_SLOTS:
         QTest::newRow("binary junk named PDF")
             << u"junk.pdf"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
         QTest::newRow("an archive") << u"archive.zip"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
-        QTest::newRow("a pipe, which would never end") << u"pipe"_s << u"no ordinary file"_s;
         QTest::newRow("a device") << u"device"_s << u"no ordinary file"_s;
     }
     void whatIsNoDocumentIsRefusedByName()
@@ -163,13 +166,80 @@ private Q_SLOTS:
         else if (kind.startsWith(u"archive"_s))
             writeFile(path,
                       QByteArray("PK\x03\x04\x14\x00\x00\x00\x08\x00", 10) + QByteArray(40, 'x'));
-        else if (kind == u"pipe"_s)
-            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
         else if (kind == u"device"_s)
             QVERIFY(QFile::link(u"/dev/zero"_s, path));
         const QString refusal = refusalOf(path);
         QVERIFY2(refusal.startsWith(path), qPrintable(refusal));
         QVERIFY2(refusal.contains(told), qPrintable(refusal));
+    }
+
+    void aPipeIsReadToItsEndAndKept()
+    {
+        const QString path = m_folder->filePath(u"pipe.txt"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        // The writer comes late, and in two pieces.
+        QProcess writer;
+        writer.start(u"sh"_s,
+                     {u"-c"_s, u"sleep 0.3; (echo one; sleep 0.3; echo two) > \"$0\""_s, path});
+        QVERIFY(writer.waitForStarted());
+        QString error;
+        const Document document = inspectDocument(path, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        writer.waitForFinished();
+        QCOMPARE(document.title, u"pipe.txt"_s);
+        QCOMPARE(contentOf(document.path), QByteArray("one\ntwo\n"));
+    }
+
+    void aPipeThatNobodyWritesMuchIntoIsEmpty()
+    {
+        const QString path = m_folder->filePath(u"pipe"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        QProcess writer;
+        writer.start(u"sh"_s, {u"-c"_s, u": > \"$0\""_s, path});
+        QVERIFY(writer.waitForStarted());
+        const QString refusal = refusalOf(path);
+        writer.waitForFinished();
+        QVERIFY2(refusal.contains(u"is empty"_s), qPrintable(refusal));
+    }
+
+    void noMoreIsKeptThanThereIsRoomFor()
+    {
+        const QString path = writeFile(m_folder->filePath(u"big"_s), QByteArray(100'000, 'x'));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QString error;
+        QVERIFY(!copyOfDocument(file.handle(), u"big"_s, &error, 99'999));
+        QVERIFY2(error.contains(u"more than 99999 bytes"_s), qPrintable(error));
+        error.clear();
+        file.seek(0);
+        QVERIFY(copyOfDocument(file.handle(), u"big"_s, &error, 100'000));
+    }
+
+    void aNameThatIsNoTextIsFoundAndShown()
+    {
+        const QByteArray bytes = QFile::encodeName(m_folder->path()) + "/r\xE9sum\xE9.txt";
+        const int file = ::open(bytes.constData(), O_WRONLY | O_CREAT, 0600);
+        QVERIFY(file >= 0);
+        QCOMPARE(::write(file, "text\n", 5), 5);
+        ::close(file);
+        QString error;
+        const Document document = inspectDocument(nameOfBytes(bytes), &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(document.title, u"r\uFFFDsum\uFFFD.txt"_s);
+        QCOMPARE(contentOf(document.path), QByteArray("text\n"));
+        QVERIFY(document.copy);
+    }
+
+    void anyBytesAreANameAndComeBack()
+    {
+        const QByteArray names[] = {"plain.txt", "\xE5\x8D\xB0.txt",     "\xFF\xFE",
+                                    "a\xE5\x8D", "\xF0\x9F\x98\x80\x80", "\xED\xB2\x80",
+                                    "\xC0\xAF"};
+        for (const QByteArray &bytes : names) {
+            QCOMPARE(bytesOfName(nameOfBytes(bytes)), bytes);
+            QCOMPARE(hasStrayBytes(nameOfBytes(bytes)), QString::fromUtf8(bytes).toUtf8() != bytes);
+            QVERIFY(shownName(nameOfBytes(bytes)).isValidUtf16());
+        }
     }
 
     void aDocumentThatCannotBeReadIsNamed()

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 #include <QTest>
 
 #include "dialog/job/FileJob.h"
@@ -165,7 +164,10 @@ private:
     std::unique_ptr<Variable> m_temporaryPath;
 
     QString path(const QString &name) const { return m_filter->path(name); }
-    Document document(const QString &name) const { return {path(name), u"text/plain"_s, name}; }
+    Document document(const QString &name) const
+    {
+        return {path(name), u"application/postscript"_s, name};
+    }
     QList<Document> documents() const { return {document(u"one.txt"_s), document(u"two.txt"_s)}; }
     QStringList lines(const QString &name) const
     {
@@ -370,33 +372,31 @@ private Q_SLOTS:
         Document picture = document(u"two.txt"_s);
         picture.format = u"image/png"_s;
         QCOMPARE(printed({document(u"one.txt"_s), picture}), QString());
-        QVERIFY(lines(u"arguments-one.txt"_s).contains(u"text/plain"_s));
+        QVERIFY(lines(u"arguments-one.txt"_s).contains(u"application/postscript"_s));
         QVERIFY(lines(u"arguments-two.txt"_s).contains(u"image/png"_s));
     }
 
     void standardInputIsADocumentLikeOthers()
     {
-        writeFile(path(u"piped"_s), "from a pipe\n");
+        writeFile(path(u"piped"_s), "%!PS from a pipe\n");
         QVERIFY(std::freopen(QFile::encodeName(path(u"piped"_s)).constData(), "r", stdin));
-        std::shared_ptr<QTemporaryFile> held;
         QString error;
-        const Document piped = readStandardInput(&held, &error);
+        Document piped = readStandardInput(&error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
-        QCOMPARE(piped.format, u"text/plain"_s);
+        QCOMPARE(piped.format, u"application/postscript"_s);
         QCOMPARE(piped.title, u"standard input"_s);
         QCOMPARE(printed({document(u"one.txt"_s), piped}), QString());
-        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\nfrom a pipe as PDF\n"));
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n%!PS from a pipe as PDF\n"));
         QVERIFY(QFile::exists(piped.path)); // for another try
-        held.reset();
+        piped.copy.reset();
         QVERIFY(!QFile::exists(piped.path));
     }
 
     void anEmptyStandardInputIsRefusedByItsName()
     {
         QVERIFY(std::freopen("/dev/null", "r", stdin));
-        std::shared_ptr<QTemporaryFile> held;
         QString error;
-        QVERIFY(readStandardInput(&held, &error).path.isEmpty());
+        QVERIFY(readStandardInput(&error).path.isEmpty());
         QCOMPARE(error, u"standard input is empty."_s);
     }
 

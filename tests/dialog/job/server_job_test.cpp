@@ -4,6 +4,7 @@
 
 #include "dialog/job/ServerJob.h"
 #include "tests/dialog/job/JobServer.h"
+#include "tests/dialog/server/WorkerThread.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;
@@ -15,6 +16,14 @@ using Kind = JobOutcome::Kind;
 namespace {
 
 constexpr SaidOfJob kHangsUp{0, -1, IPP_STATUS_OK, true};
+constexpr SaidOfJob kForgotten{0, -1, IPP_STATUS_ERROR_NOT_FOUND};
+
+SaidOfJob in(const char *queue, int state)
+{
+    SaidOfJob said{state};
+    said.queue = queue;
+    return said;
+}
 
 // What the server says of a job at last, and what that is called.
 struct End
@@ -99,7 +108,7 @@ struct LostJob
     const char *words;
 };
 constexpr LostJob kLostJobs[] = {
-    {"no record is kept", {0, -1, IPP_STATUS_ERROR_NOT_FOUND}, Kind::InQueue, "has left the queue"},
+    {"no record is kept", kForgotten, Kind::Unknown, "has left the queue"},
     {"the server is gone", kHangsUp, Kind::Unknown, "is not known"},
     {"the server refuses", {0, -1, IPP_STATUS_ERROR_NOT_AUTHORIZED}, Kind::Unknown, "is not known"},
 };
@@ -148,7 +157,7 @@ private Q_SLOTS:
         QFile file(m_folder.filePath(u"document.txt"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("Hello\n");
-        m_request = m_server->request({file.fileName(), u"text/plain"_s, u"document.txt"_s});
+        m_request = m_server->request({file.fileName(), u"application/postscript"_s, u"document.txt"_s});
         m_request.server.mayAsk = true;
         m_request.ticket.options = {{u"media"_s, u"A4"_s}};
     }
@@ -289,6 +298,108 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
     }
 
+    // A server without a job history forgets a job as it ends.
+    void theEndOfAForgottenJobIsKnownFromItsServer_data() { addRows(kEnds); }
+    void theEndOfAForgottenJobIsKnownFromItsServer()
+    {
+        const auto &[name, state, kind] = currentRow(kEnds);
+        const bool isEnd = state >= IPP_JSTATE_CANCELED;
+        m_server->rememberTheEnd({state});
+        m_server->say({{IPP_JSTATE_PROCESSING}, kForgotten});
+        const JobOutcome outcome = print();
+        // What is no end says nothing.
+        QCOMPARE(outcome.kind, isEnd ? kind : Kind::Unknown);
+        QVERIFY2(outcome.text.contains(u"office-8"_s), qPrintable(outcome.text));
+        QCOMPARE(outcome.text.contains(u"It has ended."_s), kind == Kind::Failed);
+        QCOMPARE(m_server->count(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS), 1);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_SUBSCRIPTION), 1);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
+    }
+
+    void whoSubscribesDoesSoBeforeTheJobCanEnd()
+    {
+        m_server->rememberTheEnd({IPP_JSTATE_COMPLETED});
+        m_server->say({kForgotten});
+        QCOMPARE(print().kind, Kind::Printed);
+        QList<int> operations;
+        for (const CannedRequest &request : m_server->requests())
+            operations += request.operation;
+        const auto subscribed = operations.indexOf(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS);
+        QVERIFY(subscribed > operations.indexOf(IPP_OP_CREATE_JOB));
+        QVERIFY(subscribed < operations.indexOf(IPP_OP_SEND_DOCUMENT));
+    }
+
+    // The connection that it was made on is gone by then.
+    void aJobThatIsTakenBackNeedsItsSubscriptionNoLonger()
+    {
+        m_server->rememberTheEnd({IPP_JSTATE_CANCELED});
+        m_server->loseTheAnswerToTheDocument();
+        m_server->say({{IPP_JSTATE_HELD, 0}});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(u"office-8 was canceled"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_SUBSCRIPTION), 1);
+    }
+
+    void aJobThatIsNotFollowedNeedsNoSubscription()
+    {
+        m_request.follow = false;
+        m_server->rememberTheEnd({IPP_JSTATE_ABORTED});
+        m_server->say({kForgotten});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::InQueue);
+        QVERIFY2(outcome.text.contains(u"handed over"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS), 0);
+    }
+
+    void aJobThatWasMovedIsReportedUnderItsNewQueue_data()
+    {
+        QTest::addColumn<QString>("uri");
+        QTest::addColumn<QString>("queue"); // null: it is where it was
+        QTest::addColumn<bool>("forgotten");
+        const auto row = [](const char *name, const char *uri, const QString &queue,
+                            bool forgotten = false) {
+            QTest::newRow(name) << QString::fromLatin1(uri) << queue << forgotten;
+        };
+        row("another queue", "ipp://print/printers/lab", u"lab"_s);
+        row("a class", "ipp://print/classes/all", u"all"_s);
+        row("an escaped name", "ipp://print/printers/l%C3%A4b", u"läb"_s);
+        row("as its end says", "ipp://print/printers/lab", u"lab"_s, true);
+        row("where it was", "ipp://print/printers/office", QString());
+        row("where it was, in another spelling", "ipp://print/printers/OFFICE", QString());
+        row("no queue", "ipp://print/jobs/8", QString());
+        row("nothing", "", QString());
+    }
+    void aJobThatWasMovedIsReportedUnderItsNewQueue()
+    {
+        QFETCH(QString, uri);
+        QFETCH(QString, queue);
+        QFETCH(bool, forgotten);
+        const QByteArray bytes = uri.toLatin1();
+        if (forgotten) {
+            m_server->rememberTheEnd(in(bytes.constData(), IPP_JSTATE_COMPLETED));
+            m_server->say({{IPP_JSTATE_PROCESSING}, kForgotten});
+        } else {
+            m_server->say({{IPP_JSTATE_PROCESSING},
+                           in(bytes.constData(), IPP_JSTATE_PROCESSING),
+                           in(bytes.constData(), IPP_JSTATE_COMPLETED)});
+        }
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Printed);
+        QCOMPARE(outcome.queue, queue.isNull() ? u"office"_s : queue);
+        QVERIFY2(outcome.text.contains(outcome.queue + u"-8"_s), qPrintable(outcome.text));
+        QCOMPARE(outcome.text.contains(u"moved from the queue “office”"_s), !queue.isNull());
+    }
+
+    void theReasonOfAQueueThatTakesNoJobsIsSaid()
+    {
+        m_server->setCreation(JobServer::Creation::NotAccepted);
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QCOMPARE(outcome.text, u"The queue “office” takes no jobs at the moment: Toner is being "
+                               "changed. Nothing was printed."_s);
+    }
+
     void anAnswerThatIsLostIsFoundOut_data() { addRows(kLostAnswers); }
     void anAnswerThatIsLostIsFoundOut()
     {
@@ -419,6 +530,48 @@ private Q_SLOTS:
         for (const auto &request : m_server->requests())
             sent += request.values("auth-info");
         QCOMPARE(sent, given ? (QStringList{u"lisa"_s, u"secret"_s}) : QStringList());
+    }
+
+    // The server's was tried for the device first, and may be another one.
+    void aDeviceThatWantsAnotherPasswordIsAskedForWhileTheJobWaits_data()
+    {
+        QTest::addColumn<bool>("known");
+        QTest::newRow("the server's was tried") << true;
+        QTest::newRow("the user was asked already") << false;
+    }
+    void aDeviceThatWantsAnotherPasswordIsAskedForWhileTheJobWaits()
+    {
+        QFETCH(bool, known);
+        m_request.printer.authInfo = {u"username"_s, u"password"_s};
+        QStringList passwords{u"device"_s};
+        if (known)
+            passwords.prepend(u"server"_s);
+        int asked = 0;
+        m_request.server.credentials->setQuestioner(
+            [&](const CredentialsQuestion &, const auto &answer) {
+                answer(Credentials{u"lisa"_s, passwords.value(asked++)});
+            });
+        if (known) {
+            const WorkerThread server([&] {
+                m_request.server.credentials->ask(m_request.server.address.argument(), {},
+                                                  [] { return false; });
+            });
+            QTRY_VERIFY(server.isDone());
+        }
+        SaidOfJob held{IPP_JSTATE_HELD};
+        held.wantsLogIn = true;
+        m_server->say({held, {IPP_JSTATE_COMPLETED}});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, known ? Kind::Printed : Kind::Failed);
+        QCOMPARE(asked, passwords.size());
+        QStringList sent;
+        for (const auto &request : m_server->requests())
+            sent += request.values("auth-info");
+        QCOMPARE(sent, known ? (QStringList{u"lisa"_s, u"server"_s, u"lisa"_s, u"device"_s})
+                             : (QStringList{u"lisa"_s, u"device"_s}));
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);
+        QCOMPARE(m_server->count(IPP_OP_CUPS_AUTHENTICATE_JOB), known ? 1 : 0);
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), known ? 0 : 1);
     }
 
     void aJobWhoseWindowIsGoneStaysInTheQueue()

@@ -30,6 +30,20 @@ class UserQueuesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anInstanceIsWhatSomebodyHasMade()
+    {
+        UserQueues queues;
+        queues.options = {{u"office"_s, {}}, {u"office/draft"_s, {}}};
+        QVERIFY(queues.hasInstance(u"office/draft"_s));
+        QVERIFY(queues.hasInstance(u"OFFICE/draft"_s));
+        QVERIFY(!queues.hasInstance(u"office/drfat"_s));
+        QVERIFY(!queues.hasInstance(u"office/"_s));
+        QVERIFY(!queues.hasInstance(u"lab/draft"_s));
+        // Whether there is such a queue is for its server to say.
+        QVERIFY(queues.hasInstance(u"lab"_s));
+        QVERIFY(queues.hasInstance(QString()));
+    }
+
     void filesAreRead_data()
     {
         QTest::addColumn<QList<QByteArray>>("files");

@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kRealm = u"print:631"_s;
+const QString kDevice = u"ipp://localhost/printers/office"_s;
 const Credentials kLisa{u"lisa"_s, u"secret"_s};
 
 bool never()
@@ -163,6 +164,60 @@ private Q_SLOTS:
         QVERIFY(m_store->known(kRealm));
         m_store->forget(kRealm, kLisa);
         QCOMPARE(!m_store->known(kRealm), isForgotten);
+    }
+
+    void whatWasGivenInAdvanceIsForEverybodyAndNobodyIsAsked()
+    {
+        answerAtOnce(std::nullopt);
+        m_store->giveInAdvance(kLisa);
+        QVERIFY(m_store->known(kRealm) == kLisa);
+        CredentialStore::Outcome outcome;
+        onWorker([&] { outcome = m_store->ask({kRealm, kDevice}, {}, never); });
+        QVERIFY(outcome.credentials == kLisa);
+        QVERIFY(m_questions.isEmpty());
+        QVERIFY(!m_store->isGuess(kRealm));
+    }
+
+    void whatWasGivenInAdvanceIsNotTriedTwiceInVain()
+    {
+        m_store->giveInAdvance(kLisa);
+        m_store->forget(kRealm, kLisa);
+        QVERIFY(!m_store->known(kRealm));
+        QVERIFY(m_store->known({kRealm, kDevice}) == kLisa);
+    }
+
+    void whatTheDeviceWasGivenIsTriedForItsServerBeforeAnybodyIsAsked_data()
+    {
+        QTest::addColumn<bool>("isRight");
+        QTest::newRow("and is right") << true;
+        QTest::newRow("and is wrong") << false;
+    }
+    void whatTheDeviceWasGivenIsTriedForItsServerBeforeAnybodyIsAsked()
+    {
+        QFETCH(bool, isRight);
+        answerAtOnce(kLisa);
+        onWorker([&] { m_store->ask({kRealm, kDevice}, {}, never); });
+        QVERIFY(!m_store->isGuess({kRealm, kDevice}));
+        CredentialStore::Outcome outcome;
+        onWorker([&] { outcome = m_store->ask(kRealm, {}, never); });
+        QVERIFY(outcome.credentials == kLisa);
+        QVERIFY(m_store->isGuess(kRealm));
+        QCOMPARE(m_questions.size(), 1);
+        if (!isRight) {
+            m_store->forget(kRealm, kLisa);
+            QVERIFY(m_store->known({kRealm, kDevice}) == kLisa);
+            onWorker([&] { m_store->ask(kRealm, {}, never); });
+            QVERIFY(!m_store->isGuess(kRealm));
+        }
+        QCOMPARE(m_questions.size(), isRight ? 1 : 2);
+    }
+
+    void anotherServerIsNotTriedWithIt()
+    {
+        answerAtOnce(kLisa);
+        onWorker([&] { m_store->ask({kRealm, kDevice}, {}, never); });
+        onWorker([&] { m_store->ask(u"other:631"_s, {}, never); });
+        QCOMPARE(m_questions.size(), 2);
     }
 
     void whoeverDoesNotWantToIsAskedAgainNextTime()

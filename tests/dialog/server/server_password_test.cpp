@@ -109,6 +109,96 @@ private Q_SLOTS:
         }
     }
 
+    void whatTheDeviceWasGivenIsTriedFirst_data()
+    {
+        QTest::addColumn<QString>("forDevice");
+        QTest::addColumn<int>("questions");
+        QTest::newRow("the same") << u"secret"_s << 0;
+        QTest::newRow("another one") << u"other"_s << 1;
+    }
+    void whatTheDeviceWasGivenIsTriedFirst()
+    {
+        QFETCH(QString, forDevice);
+        QFETCH(int, questions);
+        m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
+        int asked = 0;
+        ServerContext context = contextFor(m_scene->server->port());
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        context.credentials->setQuestioner(
+            [&](const CredentialsQuestion &question, const auto &answer) {
+                asked += question.forDevice ? 0 : 1;
+                answer(Credentials{u"lisa"_s, question.forDevice ? forDevice : u"secret"_s});
+            });
+        const CredentialRealm device(context.address.argument(), u"ipp://localhost/printers/a"_s);
+        ServerProblem problem;
+        onWorker([&] {
+            CredentialsQuestion question;
+            question.forDevice = true;
+            context.credentials->ask(device, question, [] { return false; });
+            ServerConnection connection(context, nullptr);
+            connection.request(aboutQueue());
+            problem = connection.problem();
+        });
+        QCOMPARE(problem.kind, Kind::None);
+        QCOMPARE(asked, questions);
+    }
+
+    // What is asked aside, such as a subscription, may be for others than this user.
+    void aRefusalOfWhatIsAskedAsideForgetsNothing_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::newRow("not allowed") << 403;
+        QTest::newRow("another password") << 401;
+    }
+    void aRefusalOfWhatIsAskedAsideForgetsNothing()
+    {
+        QFETCH(int, status);
+        const CannedServer server([status](const CannedRequest &request) {
+            if (request.head.field("Authorization").isEmpty())
+                return httpAnswer(401, {}, "WWW-Authenticate: Basic realm=\"CUPS\"\r\n");
+            return httpAnswer(status, {}, "WWW-Authenticate: Basic realm=\"CUPS\"\r\n");
+        });
+        ServerContext context = contextFor(server.port());
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        context.credentials->giveInAdvance({u"lisa"_s, u"secret"_s});
+        for (const bool aside : {true, false}) {
+            onWorker([&] {
+                ServerConnection connection(context, nullptr);
+                std::optional<ServerConnection::Aside> keeping;
+                if (aside)
+                    keeping.emplace(connection);
+                connection.request(aboutQueue());
+            });
+            QCOMPARE(context.credentials->known(context.address.argument()).has_value(), aside);
+        }
+    }
+
+    void nobodyIsAskedForWhatIsAskedAside()
+    {
+        m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);
+        ServerContext context = contextFor(m_scene->server->port());
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        int asked = 0;
+        context.credentials->setQuestioner([&](const CredentialsQuestion &, const auto &answer) {
+            ++asked;
+            answer(Credentials{u"lisa"_s, u"secret"_s});
+        });
+        ServerProblem problem;
+        onWorker([&] {
+            ServerConnection connection(context, nullptr);
+            {
+                const ServerConnection::Aside aside(connection);
+                connection.request(aboutQueue());
+            }
+            problem = connection.problem();
+        });
+        QCOMPARE(problem.kind, Kind::PasswordNeeded);
+        QCOMPARE(asked, 0);
+    }
+
     void whatIsKnownIsUsedByTheNextConnectionWithoutAQuestion()
     {
         m_scene->server->askForPassword(u"lisa"_s, u"secret"_s);

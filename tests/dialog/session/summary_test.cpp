@@ -124,6 +124,24 @@ private Q_SLOTS:
         QCOMPARE(keywords, (QStringList{u"Tray"_s, u"Media"_s, u"Boost"_s}));
     }
 
+    void whatIsBuiltInIsNoChoiceOfAJob()
+    {
+        const auto session = sessionFor(smallPrinter().text() +
+                                        "*OpenGroup: InstallableOptions/Options Installed\n*OpenUI "
+                                        "*Finisher/Finisher: Boolean\n"
+                                        "*DefaultFinisher: False\n*Finisher True/Installed: \"\"\n"
+                                        "*Finisher False/Not Installed: \"\"\n*CloseUI: *Finisher\n"
+                                        "*CloseGroup: InstallableOptions\n");
+        QVERIFY(ppdOption(session->ppd(), u"Finisher"_s) != nullptr);
+        for (const ppd_option_t *option : furtherOptions(*session))
+            QVERIFY(ppdKeyword(option->keyword) != u"Finisher"_s);
+        // Who asks for it all the same is told what the job has.
+        QVERIFY(session->change(u"Finisher"_s, u"True"_s, Origin::Dialog).accepted());
+        FakePlugIn plugIn({u"A"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        QVERIFY(sessionSummary(*session, panels, 1, {}).contains({u"Finisher"_s, u"Installed"_s}));
+    }
+
     void aMarkThatAPanelChangesForItsSummaryIsTheMarkThatIsTold()
     {
         const auto session = sessionFor(smallPrinter());

@@ -19,6 +19,7 @@ public:
 
     // What it answers.
     bool overwrites = true;
+    bool printsWithout = true;
     bool takesWhatIsTyped = true;
     bool canBeAsked = true;
     bool busy = false;
@@ -37,6 +38,7 @@ public:
     QList<QList<SummaryLine>> summaries;
     ScriptedAlertPresenter presenter;
 
+    QStringList warnings; ///< what it was asked to print without
     /// The problems of the last refusal; empty when there is none.
     QStringList problems() const;
     /// The text of the last message; null when there is none.
@@ -58,6 +60,11 @@ public:
         if (meanwhile)
             meanwhile();
         return overwrites;
+    }
+    bool mayPrintWithout(const QString &what) override
+    {
+        warnings += what;
+        return printsWithout;
     }
     void writeSummary(const QList<SummaryLine> &lines) override { summaries += lines; }
 };

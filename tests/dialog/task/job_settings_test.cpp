@@ -77,6 +77,38 @@ const QList<LeavingCase> kLeaving{
     {"copies of the user's", {}, {}, {3, By::User}, {{u"page-ranges"_s, u"7-9"_s}}, 3},
 };
 
+struct ChoosingCase
+{
+    const char *name;
+    QList<JobOption> others; // by options and defaults
+    QList<JobOption> chosen; // by the user, one after the other
+    QList<JobOption> attributes;
+};
+
+const QList<ChoosingCase> kChoosing{
+    {"nothing", {{u"number-up"_s, u"2"_s}}, {}, {{u"number-up"_s, u"2"_s}}},
+    {"where nobody asked", {}, {{u"number-up"_s, u"4"_s}}, {{u"number-up"_s, u"4"_s}}},
+    {"what is done anyway", {}, {{u"number-up"_s, u"1"_s}}, {}},
+    {"there and back", {}, {{u"number-up"_s, u"4"_s}, {u"number-up"_s, u"1"_s}}, {}},
+    {"the usual value over another one",
+     {{u"number-up"_s, u"2"_s}},
+     {{u"number-up"_s, u"1"_s}},
+     {{u"number-up"_s, u"1"_s}}},
+    {"in the place of what was asked for",
+     {{u"number-up"_s, u"2"_s}, {u"mirror"_s, u"true"_s}},
+     {{u"number-up"_s, u"4"_s}},
+     {{u"number-up"_s, u"4"_s}, {u"mirror"_s, u"true"_s}}},
+    {"none",
+     {{u"orientation-requested"_s, u"4"_s}, {u"mirror"_s, u"true"_s}},
+     {{u"orientation-requested"_s, QString()}},
+     {{u"mirror"_s, u"true"_s}}},
+    {"none, and again what was asked for",
+     {{u"ppi"_s, u"300"_s}},
+     {{u"ppi"_s, QString()}, {u"ppi"_s, u"300"_s}},
+     {{u"ppi"_s, u"300"_s}}},
+    {"pages", {}, {{u"page-ranges"_s, u"2-3"_s}}, {{u"page-ranges"_s, u"2-3"_s}}},
+};
+
 struct PagesCase
 {
     const char *name;
@@ -141,6 +173,42 @@ private Q_SLOTS:
         settings.setPageRanges(row.typed);
         QCOMPARE(settings.pageRanges(), row.pages);
         QCOMPARE(settings.hasValidPageRanges(), row.valid);
+    }
+
+    void theUsersOwnChoiceCountsMost_data() { addRows(kChoosing); }
+    void theUsersOwnChoiceCountsMost()
+    {
+        const ChoosingCase &row = currentRow(kChoosing);
+        JobSettings settings;
+        settings.addAttributes(row.others);
+        for (const JobOption &choice : row.chosen)
+            settings.setAttribute(choice.name, choice.value);
+        QCOMPARE(settings.attributes(), row.attributes);
+        for (const JobOption &option : row.attributes)
+            QCOMPARE(settings.attribute(option.name), option.value);
+        QVERIFY(settings.attribute(u"job-billing"_s).isNull());
+    }
+
+    // A default that comes late, of a queue whose server has just answered, is no wish.
+    void aDefaultThatComesLaterDoesNotCountMore()
+    {
+        JobSettings settings;
+        settings.setAttribute(u"number-up"_s, u"4"_s);
+        settings.addAttributes({{u"number-up"_s, u"2"_s}});
+        QCOMPARE(settings.attribute(u"number-up"_s), u"4"_s);
+    }
+
+    void whatWasChosenStaysWithItsPrinter()
+    {
+        JobSettings settings;
+        settings.addAttributes({{u"number-up"_s, u"2"_s}});
+        settings.setAttribute(u"number-up"_s, u"1"_s);
+        const QList<JobOption> chosen = settings.chosenAttributes();
+        settings.leavePrinter();
+        QVERIFY(settings.attributes().isEmpty());
+        settings.addAttributes({{u"number-up"_s, u"2"_s}});
+        settings.restoreChosenAttributes(chosen);
+        QCOMPARE(settings.attribute(u"number-up"_s), u"1"_s);
     }
 
     void anAttributeTakesThePlaceOfItsNamesake()

@@ -24,7 +24,9 @@ private:
     static constexpr int kPatience = 10000;
     // Notes its arguments, one a line, and prints.
     static constexpr char kPrints[] = "printf '%s\\n' \"$@\" >$DIR/arguments; echo printed\n";
-    static constexpr char kHangs[] = "touch $DIR/started; sleep 300\n";
+    // The document cannot be counted, and its job hangs.
+    static constexpr char kHangs[] = "case \" $* \" in *' -m application/pdf '*) exit 1 ;; esac; "
+                                     "touch $DIR/started; sleep 300\n";
 
     std::unique_ptr<FakeFilter> m_filter;
     std::unique_ptr<ScriptedFace> m_face;
@@ -219,6 +221,52 @@ private Q_SLOTS:
         m_task->print();
         QVERIFY(ends());
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("printed\n"));
+    }
+
+    void whatNoFontHasIsSaidBeforeItIsPrinted()
+    {
+        PrintRequest text = request();
+        const QString path = m_filter->path(u"notes.txt"_s);
+        writeFile(path, "a\u0378b\n"); // which Unicode does not have
+        text.documents = {{path, u"text/plain"_s, u"notes.txt"_s}};
+        open(text);
+        m_face->printsWithout = false;
+        m_task->print();
+        QCOMPARE(m_face->warnings.size(), 1);
+        QVERIFY2(m_face->warnings.first().contains(u"U+0378"_s),
+                 qPrintable(m_face->warnings.first()));
+        QCOMPARE(m_task->phase(), Phase::Ready);
+        QVERIFY(!m_filter->hasOutput());
+        m_face->printsWithout = true;
+        m_task->print();
+        QVERIFY(ends());
+        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("printed\n"));
+    }
+
+    void theNameThatIsProposedFitsWhatThePrinterGets()
+    {
+        const QString ppd = m_filter->path(u"pdf.ppd"_s);
+        writeFile(ppd, smallPrinter().text() + "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n");
+        PrintRequest pdf = request();
+        pdf.outputWasNamed = false;
+        pdf.output = m_filter->path(u"letter.ps"_s);
+        pdf.printers = {{u"pdf"_s, u"PDF"_s, ppd, 5}};
+        pdf.wantedPrinter.clear();
+        open(pdf);
+        QCOMPARE(m_task->output(), m_filter->path(u"letter.pdf"_s));
+    }
+
+    void aNameThatTheUserGaveStays()
+    {
+        const QString ppd = m_filter->path(u"pdf.ppd"_s);
+        writeFile(ppd, smallPrinter().text() + "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n");
+        PrintRequest pdf = request();
+        pdf.outputWasNamed = true;
+        pdf.output = m_filter->path(u"letter.ps"_s);
+        pdf.printers = {{u"pdf"_s, u"PDF"_s, ppd, 5}};
+        pdf.wantedPrinter.clear();
+        open(pdf);
+        QCOMPARE(m_task->output(), m_filter->path(u"letter.ps"_s));
     }
 
     void aFileThatWasNamedIsNotAskedFor()

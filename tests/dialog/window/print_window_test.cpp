@@ -345,8 +345,9 @@ private Q_SLOTS:
         QStringList lines;
         for (const auto &[title, value] : m_window->summaryLines())
             lines += title + u": "_s + value;
-        QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Two-Sided: Off"_s, u"Paper Size: A4"_s,
-                                     u"Paper Source: Lower Tray"_s, u"Sleep Time: 12"_s}));
+        QCOMPARE(lines, (QStringList{u"Copies: 1"_s, u"Sheets: …"_s, u"Two-Sided: Off"_s,
+                                     u"Paper Size: A4"_s, u"Paper Source: Lower Tray"_s,
+                                     u"Sleep Time: 12"_s}));
     }
 
     void theOptionsOfAPrinterWithoutPanelsArePrinted()

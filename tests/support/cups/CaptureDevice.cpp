@@ -7,17 +7,13 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include "tests/support/cups/ServerFiles.h"
+
 namespace corvana::test {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// Texts that each end with a NUL.
 QStringList texts(const QByteArray &bytes)
@@ -118,16 +114,16 @@ QList<CapturedJob> CaptureDevice::jobs() const
     QList<CapturedJob> result;
     for (const auto &[id, document] : runs(m_folder, u"data"_s)) {
         const QString name = u"%1/%2-%3."_s.arg(m_folder).arg(id).arg(document);
-        const QStringList arguments = texts(content(name + u"arguments"_s));
+        const QStringList arguments = texts(serverFile(name + u"arguments"_s));
         CapturedJob job;
         job.id = id;
         job.user = arguments.value(2);
         job.title = arguments.value(3);
         job.copies = arguments.value(4).toInt();
         job.options = arguments.value(5);
-        for (const QString &line : texts(content(name + u"environment"_s)))
+        for (const QString &line : texts(serverFile(name + u"environment"_s)))
             job.environment.insert(line.section(u'=', 0, 0), line.section(u'=', 1));
-        job.data = content(name + u"data"_s);
+        job.data = serverFile(name + u"data"_s);
         result.append(job);
     }
     return result;

@@ -55,6 +55,8 @@ std::optional<Fault> FaultScript::take(const SeenRequest &request, bool operatio
         const Fault found = *fault;
         if (fault->times > 0 && --fault->times == 0)
             m_faults.erase(fault);
+        if (found.kind == Fault::Kind::None)
+            return std::nullopt;
         return found;
     }
     return std::nullopt;

@@ -26,6 +26,7 @@ struct Fault
         AnswerIpp,
         AnswerInPieces,
         AskForEncryption,
+        None, ///< takes the place of an older fault
     };
     Kind kind = Kind::SwallowResponse;
     int operation = FaultyServer::anyOperation;

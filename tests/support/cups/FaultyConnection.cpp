@@ -8,7 +8,7 @@ namespace corvana::test {
 namespace {
 
 /// A complete HTTP answer. The connection stays open, as that of a server that means well.
-QByteArray httpAnswer(int status, const QByteArray &fields, const QByteArray &body = {})
+QByteArray rawAnswer(int status, const QByteArray &fields, const QByteArray &body = {})
 {
     return "HTTP/1.1 " + QByteArray::number(status) + ' ' +
            httpStatus(static_cast<http_status_t>(status)) + "\r\n" + fields +
@@ -42,8 +42,8 @@ QByteArray ippBeginning(int status, int requestId)
 /// An IPP answer that says its status and nothing else.
 QByteArray ippAnswer(int status, int requestId)
 {
-    return httpAnswer(HTTP_STATUS_OK, "Content-Type: application/ipp\r\n",
-                      ippBeginning(status, requestId) + ippNumber(IPP_TAG_END, 1));
+    return rawAnswer(HTTP_STATUS_OK, "Content-Type: application/ipp\r\n",
+                     ippBeginning(status, requestId) + ippNumber(IPP_TAG_END, 1));
 }
 
 /// A piece of an answer whose length is not said before.
@@ -242,11 +242,11 @@ void FaultyConnection::answer(const Fault &fault)
     case Fault::Kind::AskForPassword:
         ++m_script.passwordQuestions;
         m_client->write(
-            httpAnswer(HTTP_STATUS_UNAUTHORIZED, "WWW-Authenticate: Basic realm=\"Test\"\r\n"));
+            rawAnswer(HTTP_STATUS_UNAUTHORIZED, "WWW-Authenticate: Basic realm=\"Test\"\r\n"));
         break;
     case Fault::Kind::AskForEncryption:
-        m_client->write(httpAnswer(HTTP_STATUS_UPGRADE_REQUIRED,
-                                   "Connection: Upgrade\r\nUpgrade: TLS/1.2,HTTP/1.1\r\n"));
+        m_client->write(rawAnswer(HTTP_STATUS_UPGRADE_REQUIRED,
+                                  "Connection: Upgrade\r\nUpgrade: TLS/1.2,HTTP/1.1\r\n"));
         break;
     case Fault::Kind::AnswerIpp:
         m_client->write(ippAnswer(fault.status, m_request.requestId));
@@ -259,7 +259,7 @@ void FaultyConnection::answer(const Fault &fault)
         sendPieces();
         break;
     default:
-        m_client->write(httpAnswer(fault.status, {}));
+        m_client->write(rawAnswer(fault.status, {}));
         break;
     }
     countFault();

@@ -187,6 +187,11 @@ void FaultyServer::delayResponse(int operation, int times)
     m_worker->script.add({Fault::Kind::DelayResponse, operation, times});
 }
 
+void FaultyServer::letPass(int operation, int times)
+{
+    m_worker->script.add({Fault::Kind::None, operation, times});
+}
+
 void FaultyServer::askForPassword(const QString &user, const QString &password, int operation)
 {
     m_worker->script.add({.kind = Fault::Kind::AskForPassword,

@@ -93,6 +93,8 @@ public:
     /// Answers 426 to a request that comes in plain. A client that then asks for the upgrade speaks
     /// TLS with the server behind; what it says from there on passes unseen and without faults.
     void askForEncryption(int operation = anyOperation, int times = always);
+    /// The faults that were made for this operation begin after so many more requests.
+    void letPass(int operation, int times);
     void clearFaults();
 
     /// Requests in the order in which their operation became known.

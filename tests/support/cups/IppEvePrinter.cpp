@@ -6,17 +6,13 @@
 #include <QDir>
 #include <QFile>
 
+#include "tests/support/cups/ServerFiles.h"
+
 namespace corvana::test {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -34,7 +30,7 @@ IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats)
                 logFile);
     if (!m_bus.waitUntil([&] { return QFile::exists(bus); }))
         throw std::runtime_error("no message bus for ippeveprinter: " +
-                                 content(logFile).toStdString());
+                                 serverFile(logFile).toStdString());
     m_printer.start(
         u"ippeveprinter"_s,
         // The name has an address of both kinds; it wants to listen on both.
@@ -47,7 +43,8 @@ IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats)
          // Its certificates would go to the home of whoever runs the test.
          u"HOME="_s + m_folder.path()});
     if (!m_printer.waitUntil([this] { return m_port.answers(); }))
-        throw std::runtime_error("ippeveprinter does not start: " + content(logFile).toStdString());
+        throw std::runtime_error("ippeveprinter does not start: " +
+                                 serverFile(logFile).toStdString());
 }
 
 IppEvePrinter::~IppEvePrinter()
@@ -83,13 +80,13 @@ QList<QByteArray> IppEvePrinter::documents() const
     });
     QList<QByteArray> result;
     for (const QFileInfo &file : files)
-        result.append(content(file.filePath()));
+        result.append(serverFile(file.filePath()));
     return result;
 }
 
 QString IppEvePrinter::log() const
 {
-    return QString::fromUtf8(content(m_folder.filePath(u"log"_s)));
+    return QString::fromUtf8(serverFile(m_folder.filePath(u"log"_s)));
 }
 
 } // namespace corvana::test

@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QUrl>
 
+#include "tests/support/cups/ServerFiles.h"
+
 namespace corvana::test {
 
 using namespace Qt::StringLiterals;
@@ -30,19 +32,6 @@ constexpr auto failingFilter = "corvana-failing-filter";
 bool isRoot()
 {
     return ::geteuid() == 0;
-}
-
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        throw std::runtime_error("cannot write " + path.toStdString());
 }
 
 void makeFolder(const QString &path, QFileDevice::Permissions permissions = everybodyReads)
@@ -173,10 +162,10 @@ void PrivateCups::installPrograms() const
         !QFile::setPermissions(backend, onlyOwner))
         fail(u"cannot install the capturing backend"_s);
     const QString filter = own + u"/filter/"_s + QString::fromLatin1(failingFilter);
-    write(filter, "#!/bin/sh\n"
-                  "cat \"${6:--}\" >/dev/null\n"
-                  "echo 'ERROR: This filter always fails.' >&2\n"
-                  "exit 1\n");
+    writeServerFile(filter, "#!/bin/sh\n"
+                            "cat \"${6:--}\" >/dev/null\n"
+                            "echo 'ERROR: This filter always fails.' >&2\n"
+                            "exit 1\n");
     QFile::setPermissions(filter, everybodyReads);
 }
 
@@ -191,10 +180,10 @@ void PrivateCups::writeConfiguration() const
                        "/state/printcap\nFileDevice Yes\nSyncOnClose No\n";
     if (isRoot())
         files += "User lp\nGroup lp\n";
-    write(m_folder.filePath(u"etc/cups-files.conf"_s), files);
+    writeServerFile(m_folder.filePath(u"etc/cups-files.conf"_s), files);
 
     const QByteArray everybody = "Order allow,deny\nAllow all\n";
-    write(
+    writeServerFile(
         m_folder.filePath(u"etc/cupsd.conf"_s),
         (m_settings.encryption == CupsSettings::Encryption::Always ? "SSLListen " : "Listen ") +
             server().toLatin1() +
@@ -419,20 +408,20 @@ CaptureDevice PrivateCups::capture(const QString &name) const
 
 QString PrivateCups::errorLog() const
 {
-    return QString::fromUtf8(content(m_folder.filePath(u"log/error_log"_s)));
+    return QString::fromUtf8(serverFile(m_folder.filePath(u"log/error_log"_s)));
 }
 
 QString PrivateCups::accessLog() const
 {
-    return QString::fromUtf8(content(m_folder.filePath(u"log/access_log"_s)));
+    return QString::fromUtf8(serverFile(m_folder.filePath(u"log/access_log"_s)));
 }
 
 void PrivateCups::fail(const QString &what) const
 {
     constexpr int tail = 2000; // bytes that tell enough
     throw std::runtime_error((what.toUtf8() + '\n' +
-                              content(m_folder.filePath(u"log/output"_s)).right(tail) +
-                              content(m_folder.filePath(u"log/error_log"_s)).right(tail))
+                              serverFile(m_folder.filePath(u"log/output"_s)).right(tail) +
+                              serverFile(m_folder.filePath(u"log/error_log"_s)).right(tail))
                                  .toStdString());
 }
 

@@ -12,6 +12,7 @@
 #include <QtEndian>
 
 #include "tests/support/cups/PrivateCups.h"
+#include "tests/support/cups/ServerFiles.h"
 
 namespace corvana::test {
 
@@ -33,13 +34,6 @@ template <typename Export> QByteArray exported(Export exportTo)
     size_t size = bytes.size();
     check(exportTo(bytes.data(), &size));
     return {bytes.data(), static_cast<qsizetype>(size)};
-}
-
-void write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        throw std::runtime_error("the server's folder cannot be written");
 }
 
 } // namespace
@@ -150,8 +144,8 @@ void TestCertificate::giveTo(const PrivateCups &server) const
     if (names.isEmpty())
         throw std::runtime_error("the server has no certificate yet");
     for (const QString &name : names) {
-        write(folder.filePath(name), certificate());
-        write(folder.filePath(name.chopped(3) + u"key"_s), privateKey());
+        writeServerFile(folder.filePath(name), certificate());
+        writeServerFile(folder.filePath(name.chopped(3) + u"key"_s), privateKey());
     }
 }
 

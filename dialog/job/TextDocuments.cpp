@@ -1,0 +1,101 @@
+#include "dialog/job/TextDocuments.h"
+
+#include <algorithm>
+
+#include <QTimer>
+
+#include "dialog/session/JobAttributes.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kText = "text/plain"_L1;
+constexpr auto kPdf = "application/pdf"_L1;
+constexpr auto kRaw = "raw"_L1;
+
+} // namespace
+
+bool isTextToLayOut(const Document &document, const QList<JobOption> &options)
+{
+    return document.format == kText &&
+           std::none_of(options.cbegin(), options.cend(), [](const JobOption &option) {
+               return option.name == kRaw && option.value != "false"_L1;
+           });
+}
+
+TextDocuments::TextDocuments(const QList<Document> &documents, const QList<JobOption> &options,
+                             const QString &ppdPath, QObject *parent)
+    : QObject(parent), m_documents(documents), m_options(options), m_ppdPath(ppdPath)
+{
+}
+
+TextDocuments::~TextDocuments() = default;
+
+void TextDocuments::start()
+{
+    convertNext();
+}
+
+void TextDocuments::cancel()
+{
+    m_canceled = true;
+    if (m_conversion)
+        m_conversion->cancel();
+}
+
+void TextDocuments::convertNext()
+{
+    while (m_next < m_documents.size() && !isTextToLayOut(m_documents.at(m_next), m_options))
+        ++m_next;
+    if (m_next == m_documents.size())
+        return end({});
+    if (!m_folder)
+        m_folder = std::make_unique<QTemporaryDir>();
+    if (!m_folder->isValid())
+        return end(m_folder->errorString());
+    Document &document = m_documents[m_next];
+    QString problem;
+    const TextFormat format = textFormat(m_ppdPath, m_options, document.title, &problem);
+    if (!problem.isEmpty())
+        return end(problem);
+    const QString pdf = m_folder->filePath(u"%1.pdf"_s.arg(m_next));
+    m_conversion = std::make_unique<TextConversion>(document.path, format, pdf);
+    connect(m_conversion.get(), &TextConversion::pageReached, this, &TextDocuments::pageReached);
+    connect(m_conversion.get(), &TextConversion::finished, this,
+            [this, pdf](const QString &failure) {
+                m_conversion.release()->deleteLater();
+                if (!failure.isEmpty())
+                    return end(failure);
+                m_documents[m_next].path = pdf;
+                m_documents[m_next].format = kPdf;
+                convertNext();
+            });
+    m_conversion->start();
+}
+
+void TextDocuments::end(const QString &problem)
+{
+    QTimer::singleShot(0, this, [this, problem] {
+        Q_EMIT finished(m_canceled ? tr("Printing was canceled.") : problem);
+    });
+}
+
+QList<JobOption> optionsAfterTexts(const QList<JobOption> &options,
+                                   const QList<Document> &documents)
+{
+    QList<JobOption> left = options;
+    const bool anyPicture =
+        std::any_of(documents.cbegin(), documents.cend(), [](const Document &document) {
+            return document.format.startsWith("image/"_L1);
+        });
+    if (!anyPicture)
+        left.removeIf([](const JobOption &option) {
+            return isAppliedTo(JobAttribute::AppliedTo::Document, option);
+        });
+    return left;
+}
+
+} // namespace corvana

@@ -1,0 +1,237 @@
+#include "dialog/sheets/DocumentCount.h"
+
+#include <algorithm>
+
+#include <QFile>
+
+#include "dialog/job/CupsFilter.h"
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/sheets/ScaleProbe.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kPdf = "application/pdf"_L1;
+constexpr auto kLaidOutPdf = "application/vnd.cups-pdf"_L1;
+// Of how many pages of a document the sizes are looked at.
+constexpr int kMostDescribed = 10000;
+
+bool isPicture(const Document &document)
+{
+    return document.format.startsWith("image/"_L1);
+}
+
+// The pages of these have sizes of their own; the others are made for the paper.
+bool hasSizes(const Document &document)
+{
+    return document.format == kPdf || document.format == "application/postscript"_L1;
+}
+
+QList<JobOption> applied(JobAttribute::AppliedTo what, const QList<JobOption> &options)
+{
+    QList<JobOption> some;
+    for (const JobOption &option : options) {
+        if (isAppliedTo(what, option))
+            some += option;
+    }
+    return some;
+}
+
+// What shapes the pages, and the only paper of our PPD.
+QList<JobOption> documentOptions(const QList<JobOption> &options)
+{
+    return QList{JobOption{kPageSizeOption, QString::fromLatin1(kLayoutPaper)}} +
+           applied(JobAttribute::AppliedTo::Document, options);
+}
+
+// What the layout step does. Never empty: a PDF is laid out in any case.
+QList<JobOption> layoutOptions(const QList<JobOption> &options)
+{
+    QList<JobOption> layout = applied(JobAttribute::AppliedTo::Pages, options);
+    const bool hasNumber = std::any_of(layout.cbegin(), layout.cend(), [](const JobOption &option) {
+        return option.name == "number-up"_L1;
+    });
+    if (!hasNumber)
+        layout += JobOption{u"number-up"_s, u"1"_s};
+    return layout;
+}
+
+} // namespace
+
+DocumentCount::DocumentCount(const SheetRequest &request, const Document &document,
+                             const QString &ppd, const QString &folder, QObject *parent)
+    : QObject(parent), m_request(request), m_document(document), m_ppd(ppd), m_folder(folder)
+{
+    m_sheets.title = document.title;
+}
+
+DocumentCount::~DocumentCount() = default;
+
+void DocumentCount::start()
+{
+    if (m_document.format == kPdf) {
+        m_pdf = m_document.path;
+        lookAtPages();
+    } else if (isPicture(m_document)) {
+        convertPicture();
+    } else {
+        makePdf();
+    }
+}
+
+void DocumentCount::makePdf()
+{
+    m_pdf = file(u"document.pdf"_s);
+    ConversionRequest request{{m_document}, {}, m_ppd, m_pdf, m_pdf};
+    request.ticket.options = documentOptions(m_request.options);
+    request.result = ConversionRequest::Result::Pdf;
+    convert(request,
+            [this](bool empty) { empty ? fail(u"the document became no PDF"_s) : lookAtPages(); });
+}
+
+// The chain has a filter that puts a picture on pages at once; only by way of the printer's raster
+// data would it become a mere PDF, which takes ten times as long.
+void DocumentCount::convertPicture()
+{
+    QString problem;
+    const QString filter = findCupsFilter(&problem);
+    m_pdf = file(u"document.pdf"_s);
+    QStringList arguments{u"-p"_s, m_ppd, u"-i"_s, m_document.format, u"-m"_s, kLaidOutPdf};
+    const QList<JobOption> options = documentOptions(m_request.options);
+    for (const JobOption &option : options)
+        arguments << u"-o"_s << u"%1=%2"_s.arg(option.name, option.value);
+    m_chain = std::make_unique<FilterChain>();
+    connect(m_chain.get(), &FilterChain::finished, this,
+            [this](const QString &why) { why.isEmpty() ? lookAtPages() : fail(why); });
+    if (!problem.isEmpty())
+        return fail(problem);
+    m_chain->start({{filter, arguments << m_document.path, m_pdf, m_pdf}}, {});
+}
+
+void DocumentCount::lookAtPages()
+{
+    run(kPdfInfoProgram, pdfPagesArguments(m_pdf, kMostDescribed), [this](const QByteArray &said) {
+        const std::optional<PdfPages> pages = readPdfPages(said);
+        if (!pages || pages->count == 0)
+            return fail(u"pdfinfo found no pages"_s);
+        m_sheets.pages = pages->count;
+        m_pages = pages->pages;
+        layOut();
+    });
+}
+
+ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &result) const
+{
+    ConversionRequest request{{{pdf, kPdf, m_document.title}}, {}, m_ppd, result, result};
+    request.ticket.options = documentOptions(m_request.options);
+    request.result = ConversionRequest::Result::Pdf;
+    request.layout = layoutOptions(m_request.options);
+    return request;
+}
+
+void DocumentCount::layOut()
+{
+    convert(layoutOf(m_pdf, file(u"sides.pdf"_s)), [this](bool empty) {
+        if (!empty)
+            return countSides();
+        m_sheets.sides = 0;
+        Q_EMIT finished({});
+    });
+}
+
+void DocumentCount::countSides()
+{
+    run(kPdfInfoProgram, pdfPagesArguments(file(u"sides.pdf"_s), 0),
+        [this](const QByteArray &said) {
+            const std::optional<PdfPages> pages = readPdfPages(said);
+            if (!pages)
+                return fail(u"pdfinfo found no sides"_s);
+            m_sheets.sides = pages->count;
+            if (pages->count > 0 && hasSizes(m_document))
+                layOutProbe();
+            else
+                Q_EMIT finished({});
+        });
+}
+
+// The chain looks at all pages that it is given before it decides whether to scale any, whichever
+// of them are printed: one page that is too large shrinks the others. So the probe holds each kind
+// of them, and all of what it holds is printed. Where several pages go on a side, the chain is
+// given the chosen ones only.
+void DocumentCount::layOutProbe()
+{
+    const PageChoice choice = pageChoiceOf(m_request.options);
+    const QList<bool> isPrinted = printedPages(static_cast<int>(m_pages.size()), choice);
+    m_printed.clear();
+    for (qsizetype page = 0; page < m_pages.size(); ++page) {
+        if (isPrinted.at(page))
+            m_printed += m_pages.at(page);
+    }
+    const QList<PdfPage> kinds =
+        kindsOfPages(mustPickPages(m_request.options) ? m_printed : m_pages);
+    // Of the pages that were not described nobody knows the kinds.
+    if (kinds.isEmpty() || m_pages.size() < *m_sheets.pages)
+        return Q_EMIT finished({});
+    const QString probe = file(u"probe.pdf"_s);
+    const QByteArray content = probeDocument(kinds);
+    QFile output(probe);
+    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size() ||
+        !output.flush())
+        return fail(output.errorString());
+    output.close();
+    ConversionRequest request = layoutOf(probe, file(u"probed.pdf"_s));
+    request.layout.removeIf(isOfPageChoice);
+    convert(request, [this, kinds](bool empty) {
+        empty ? fail(u"nothing of the probe came out"_s) : readProbe(kinds);
+    });
+}
+
+void DocumentCount::readProbe(const QList<PdfPage> &kinds)
+{
+    const QString laidOut = file(u"probed.pdf"_s);
+    run(kPdfTextProgram, probeReadingArguments(laidOut), [this, kinds](const QByteArray &said) {
+        const QList<double> scales = scalesOfProbe(said, kinds);
+        for (qsizetype i = 0; i < kinds.size(); ++i) {
+            const PageScale scale{sizeOfPage(kinds.at(i)), scales.at(i)};
+            if (scale.scale > 0 && m_printed.contains(kinds.at(i)) &&
+                !m_sheets.scales.contains(scale))
+                m_sheets.scales += scale;
+        }
+        Q_EMIT finished({});
+    });
+}
+
+void DocumentCount::convert(const ConversionRequest &request, const std::function<void(bool)> &then)
+{
+    m_conversion = std::make_unique<Conversion>(request);
+    connect(m_conversion.get(), &Conversion::finished, this, [this, then](const QString &problem) {
+        const bool isEmpty = m_conversion->cameOutEmpty();
+        m_conversion.release()->deleteLater();
+        problem.isEmpty() || isEmpty ? then(isEmpty) : fail(problem);
+    });
+    m_conversion->start();
+}
+
+void DocumentCount::run(const char *program, const QStringList &arguments,
+                        const std::function<void(const QByteArray &)> &then)
+{
+    m_run =
+        std::make_unique<ProgramRun>(QString::fromLatin1(program), arguments, ProgramRun::Limits());
+    connect(m_run.get(), &ProgramRun::finished, this,
+            [this, then](const QByteArray &said, const QString &problem) {
+                m_run.release()->deleteLater();
+                problem.isEmpty() ? then(said) : fail(problem);
+            });
+    m_run->start();
+}
+
+void DocumentCount::fail(const QString &problem)
+{
+    QTimer::singleShot(0, this, [this, problem] { Q_EMIT finished(problem); });
+}
+
+} // namespace corvana

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QString>
+
+#include "dialog/job/Conversion.h"
+#include "dialog/job/PdfPages.h"
+#include "dialog/job/ProgramRun.h"
+#include "dialog/sheets/SheetCounter.h"
+
+namespace corvana {
+
+/// Counts what comes out of one document: makes a PDF of it, asks how many pages that has, has it
+/// laid out as the job wants it, and asks again. A probe, laid out in the same way, tells the
+/// scale.
+///
+/// Thread: GUI thread; whatever takes time is a process of its own, which ends with this object.
+class DocumentCount : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `folder` is for files that nobody else writes. `ppd` holds the traits of the request.
+    DocumentCount(const SheetRequest &request, const Document &document, const QString &ppd,
+                  const QString &folder, QObject *parent = nullptr);
+    ~DocumentCount() override;
+
+    /// Starts. `finished` follows in every case, never before this returns.
+    void start();
+    /// What is known by now.
+    const DocumentSheets &sheets() const { return m_sheets; }
+
+Q_SIGNALS:
+    /// `problem` is for a log; empty when everything was counted.
+    void finished(const QString &problem);
+
+private:
+    QString file(const QString &name) const { return m_folder + u'/' + name; }
+    void makePdf();
+    void convertPicture();
+    void lookAtPages();
+    void layOut();
+    void countSides();
+    void layOutProbe();
+    void readProbe(const QList<PdfPage> &kinds);
+    ConversionRequest layoutOf(const QString &pdf, const QString &result) const;
+    void fail(const QString &problem);
+
+    // Each calls `then` when it is done, and fail() when it could not be.
+    void convert(const ConversionRequest &request, const std::function<void(bool empty)> &then);
+    void run(const char *program, const QStringList &arguments,
+             const std::function<void(const QByteArray &)> &then);
+
+    SheetRequest m_request;
+    Document m_document;
+    QString m_ppd;
+    QString m_folder;
+    QString m_pdf; // of the document
+    DocumentSheets m_sheets;
+    QList<PdfPage> m_pages;   // of the document, as far as they were described
+    QList<PdfPage> m_printed; // among them
+    std::unique_ptr<Conversion> m_conversion;
+    std::unique_ptr<FilterChain> m_chain;
+    std::unique_ptr<ProgramRun> m_run;
+};
+
+} // namespace corvana

@@ -1,0 +1,113 @@
+#include "dialog/sheets/SheetCount.h"
+
+#include <algorithm>
+#include <limits>
+
+#include <QStringList>
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kOpenEnd = std::numeric_limits<int>::max();
+
+int numberOr(const QString &text, int other)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? number : other;
+}
+
+} // namespace
+
+QList<PageRange> rangesOf(const QString &text)
+{
+    QList<PageRange> ranges;
+    const QStringList parts = text.split(u',', Qt::SkipEmptyParts);
+    for (const QString &part : parts) {
+        const qsizetype dash = part.indexOf(u'-');
+        PageRange range;
+        if (dash < 0)
+            range.first = range.last = numberOr(part, 0);
+        else
+            range = {dash == 0 ? 1 : numberOr(part.first(dash), 0),
+                     numberOr(part.mid(dash + 1), kOpenEnd)};
+        if (range.first >= 1 && range.last >= range.first)
+            ranges += range;
+    }
+    return ranges;
+}
+
+QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages)
+{
+    QList<PageRange> within;
+    for (const PageRange &range : ranges) {
+        if (range.first <= pages)
+            within += PageRange{range.first, std::min(range.last, pages)};
+    }
+    return within;
+}
+
+QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages)
+{
+    QList<PageRange> beyond;
+    for (const PageRange &range : ranges) {
+        if (range.first > pages)
+            beyond += range;
+        else if (range.last > pages && range.last != kOpenEnd)
+            beyond += PageRange{pages + 1, range.last};
+    }
+    return beyond;
+}
+
+QList<bool> printedPages(int pages, const PageChoice &choice)
+{
+    QList<bool> printed(pages, choice.ranges.isEmpty());
+    for (const PageRange &range : rangesWithin(rangesOf(choice.ranges), pages))
+        std::fill(printed.begin() + range.first - 1, printed.begin() + range.last, true);
+    for (int page = 1; page <= pages; ++page) {
+        const bool isOdd = page % 2 == 1;
+        if (choice.set != PageChoice::Set::All && isOdd != (choice.set == PageChoice::Set::Odd))
+            printed[page - 1] = false;
+    }
+    return printed;
+}
+
+int chosenPages(int pages, const PageChoice &choice)
+{
+    const bool all = choice.set == PageChoice::Set::All;
+    const QList<PageRange> ranges =
+        choice.ranges.isEmpty() ? QList{PageRange{1, pages}} : rangesOf(choice.ranges);
+    int chosen = 0;
+    for (const PageRange &range : rangesWithin(ranges, pages)) {
+        const int odd = (range.last + 1) / 2 - range.first / 2;
+        const int every = range.last - range.first + 1;
+        chosen += all ? every : choice.set == PageChoice::Set::Odd ? odd : every - odd;
+    }
+    return chosen;
+}
+
+std::optional<int> sheetsOfOneCopy(const JobSheets &sheets)
+{
+    int count = 0;
+    for (const DocumentSheets &document : sheets.documents) {
+        if (!document.sides)
+            return std::nullopt;
+        count += sheets.isTwoSided ? (*document.sides + 1) / 2 : *document.sides;
+    }
+    return count;
+}
+
+bool isUncounted(const JobSheets &sheets)
+{
+    return !sheetsOfOneCopy(sheets);
+}
+
+bool comesOutOneSided(const DocumentSheets &document)
+{
+    return document.sides == 1;
+}
+
+} // namespace corvana

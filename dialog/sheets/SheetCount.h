@@ -1,0 +1,75 @@
+#pragma once
+
+#include <optional>
+
+#include <QList>
+#include <QSizeF>
+#include <QString>
+
+#include "dialog/job/PageChoice.h"
+
+namespace corvana {
+
+/// How large the pages of one size are printed.
+struct PageScale
+{
+    QSizeF size;        ///< as a reader sees the page; Units: points
+    double scale = 1.0; ///< 1 is the actual size
+
+    bool operator==(const PageScale &) const = default;
+};
+
+/// What comes out of one document, for one copy.
+struct DocumentSheets
+{
+    QString title{};
+    /// Of the document itself; nothing where nobody could count them.
+    std::optional<int> pages{};
+    /// The printed sides of sheets, blank ones among them that the chain adds; nothing where nobody
+    /// could count them.
+    std::optional<int> sides{};
+    /// For each size of page that is printed, where it was found out.
+    QList<PageScale> scales{};
+
+    bool operator==(const DocumentSheets &) const = default;
+};
+
+/// What comes out of a job.
+struct JobSheets
+{
+    QList<DocumentSheets> documents{};
+    bool isTwoSided = false; ///< was asked for
+
+    bool operator==(const JobSheets &) const = default;
+};
+
+/// Numbers of pages, from 1 on; both ends belong to it.
+struct PageRange
+{
+    int first = 1;
+    int last = 1;
+
+    bool operator==(const PageRange &) const = default;
+};
+/// The ranges of "1-4,7,9-". An open end is the largest number that there is.
+/// Errors: leaves out what is no range.
+QList<PageRange> rangesOf(const QString &text);
+/// What of these ranges a document of so many pages has, and what it lacks. An open end lacks
+/// nothing unless it begins behind the last page.
+QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages);
+QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages);
+
+/// For each page of a document of so many, whether it is printed.
+QList<bool> printedPages(int pages, const PageChoice &choice);
+/// How many pages of a document of so many are printed.
+int chosenPages(int pages, const PageChoice &choice);
+
+/// Sheets of paper for one copy. Each document begins on a sheet of its own.
+/// Errors: nothing where a document could not be counted.
+std::optional<int> sheetsOfOneCopy(const JobSheets &sheets);
+/// Whether nobody could count the sides of some document.
+bool isUncounted(const JobSheets &sheets);
+/// Whether a document of a two-sided job comes out one-sided: a single side has no back.
+bool comesOutOneSided(const DocumentSheets &document);
+
+} // namespace corvana

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+
+#include <QDateTime>
+#include <QObject>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "dialog/job/Document.h"
+#include "dialog/sheets/LayoutTraits.h"
+#include "dialog/sheets/SheetCount.h"
+
+namespace corvana {
+
+class DocumentCount;
+
+/// Of which job the sheets are counted.
+struct SheetRequest
+{
+    QList<Document> documents;
+    /// The options of the job, in the words of its printer's PPD.
+    QList<JobOption> options;
+    LayoutTraits traits;
+
+    bool operator==(const SheetRequest &) const = default;
+};
+
+/// Counts the sheets of a job: what the layout step of the filter chain makes of its documents, one
+/// copy of them. What was counted last is kept, and a newer request ends an older one.
+///
+/// A document that cannot be counted (it is damaged, takes too long, or makes a program crash) is
+/// none that cannot be printed: the log says why it was not counted.
+///
+/// Thread: GUI thread; whatever takes time is a process of its own.
+class SheetCounter : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class When { Now, Soon };
+
+    explicit SheetCounter(QObject *parent = nullptr);
+    ~SheetCounter() override;
+
+    /// Counts, unless that was done or is being done. `finished` follows in every case, never
+    /// before this returns, unless a newer request comes or cancel() is called. `Soon` waits for
+    /// further changes.
+    void count(const SheetRequest &request, When when);
+    /// What was counted for this request; null while it was not.
+    const JobSheets *counted(const SheetRequest &request) const;
+    /// Ends what is going on.
+    void cancel();
+
+Q_SIGNALS:
+    void finished();
+
+private:
+    // Other contents under the same name are another document.
+    struct Content
+    {
+        QString path;
+        qint64 size = 0;
+        QDateTime changed;
+
+        bool operator==(const Content &) const = default;
+    };
+    static QList<Content> contentsOf(const SheetRequest &request);
+
+    void begin();
+    void countNext();
+    void documentCounted();
+    void end();
+    bool isFor(const SheetRequest &request) const;
+
+    std::optional<SheetRequest> m_request;
+    QList<Content> m_contents;
+    std::optional<JobSheets> m_sheets; // once they are counted
+    JobSheets m_sofar;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<DocumentCount> m_document; // that is being counted
+    QTimer m_delay;
+    QTimer m_patience;
+};
+
+} // namespace corvana

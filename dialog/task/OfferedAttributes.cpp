@@ -1,0 +1,154 @@
+#include "dialog/task/OfferedAttributes.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/task/JobSettings.h"
+#include "dialog/task/OpenedPrinter.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+using Place = OfferedAttribute::Place;
+
+namespace {
+
+constexpr QLatin1StringView kNumberUp{"number-up"};
+constexpr QLatin1StringView kNumberUpLayout{"number-up-layout"};
+constexpr QLatin1StringView kPrintColorMode{"print-color-mode"};
+
+struct Offer
+{
+    QLatin1StringView name;
+    Place place;
+};
+
+// What is offered although nobody has asked for it yet. Every other attribute is behind "More" as
+// soon as it is in force.
+constexpr Offer kOffers[] = {
+    {kCollateAttribute, Place::BesideCopies},
+    {kPrintColorMode, Place::Front},
+    {kNumberUp, Place::Front},
+    {"print-scaling"_L1, Place::Front},
+    {"orientation-requested"_L1, Place::More},
+    {"page-set"_L1, Place::More},
+    {"outputorder"_L1, Place::More},
+    {kNumberUpLayout, Place::More},
+    {"page-border"_L1, Place::More},
+    {"mirror"_L1, Place::More},
+    {"job-sheets"_L1, Place::More},
+    {"job-hold-until"_L1, Place::More},
+    {"job-priority"_L1, Place::More},
+};
+
+bool isOffered(const QString &name)
+{
+    return std::any_of(std::begin(kOffers), std::end(kOffers),
+                       [&](const Offer &offer) { return offer.name == name; });
+}
+
+// Whether the options of the printer have a choice without colours.
+bool hasColorOption(const PpdSession &session)
+{
+    static constexpr QLatin1StringView kWithoutColor[] = {"gray"_L1, "grey"_L1, "mono"_L1,
+                                                          "black"_L1};
+    for (const ppd_option_t *option : session.options()) {
+        const bool isAboutColor =
+            ppdKeyword(option->keyword).contains("color"_L1, Qt::CaseInsensitive);
+        for (int i = 0; isAboutColor && i < option->num_choices; ++i) {
+            const QString choice = ppdKeyword(option->choices[i].choice);
+            if (std::any_of(std::begin(kWithoutColor), std::end(kWithoutColor),
+                            [&](QLatin1StringView word) {
+                                return choice.startsWith(word, Qt::CaseInsensitive);
+                            }))
+                return true;
+        }
+    }
+    return false;
+}
+
+// An option of the PPD whose name is the attribute's: CUPS takes them for one, whatever the case of
+// their letters.
+ppd_option_t *ownOption(const QString &name, const PpdSession &session)
+{
+    for (ppd_option_t *option : session.options()) {
+        if (ppdKeyword(option->keyword).compare(name, Qt::CaseInsensitive) == 0)
+            return option;
+    }
+    return nullptr;
+}
+
+// "none,none" is two of them: before the job and behind it.
+bool isUsual(const QString &value, const JobAttribute &attribute)
+{
+    const QStringList values = value.split(u',');
+    return value.isNull() || std::all_of(values.cbegin(), values.cend(), [&](const QString &one) {
+               return !attribute.usual.isEmpty() && one == attribute.usual;
+           });
+}
+
+OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
+                         const OpenedPrinter &printer)
+{
+    const JobAttribute &attribute = *jobAttribute(offer.name);
+    OfferedAttribute one{offer.name, settings.attribute(offer.name), offer.place};
+    if (const ppd_option_t *own = ownOption(offer.name, *printer.session))
+        one.value = printer.session->markedChoice(ppdKeyword(own->keyword)).toLower();
+    one.isUsual = isUsual(one.value, attribute);
+    if (offer.name == kCollateAttribute)
+        one.hasEffect = settings.copies() > 1;
+    if (offer.name == kNumberUpLayout)
+        one.hasEffect = !isUsual(settings.attribute(kNumberUp), *jobAttribute(kNumberUp));
+    return one;
+}
+
+} // namespace
+
+bool offersAttribute(const QString &name, const OpenedPrinter &printer)
+{
+    const PpdSession &session = *printer.session;
+    if (name == kPrintColorMode)
+        return session.ppd()->color_device && !hasColorOption(session);
+    return !ownOption(name, session) || ownChoice(name, u"true"_s, printer);
+}
+
+QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const OpenedPrinter &printer)
+{
+    // What is in force, and what the user has just taken out of force.
+    QStringList asked;
+    for (const JobOption &option : settings.attributes() + settings.chosenAttributes()) {
+        if (jobAttribute(option.name) && !asked.contains(option.name))
+            asked += option.name;
+    }
+    asked.removeAll(kPageRangesAttribute);
+
+    QList<OfferedAttribute> all;
+    for (const Offer &offer : kOffers) {
+        if (jobAttribute(offer.name) &&
+            (asked.contains(offer.name) || offersAttribute(offer.name, printer)))
+            all += offered(offer, settings, printer);
+    }
+    for (const QString &name : std::as_const(asked)) {
+        if (!isOffered(name))
+            all += offered({jobAttribute(name)->name, Place::More}, settings, printer);
+    }
+    return all;
+}
+
+std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
+                                      const OpenedPrinter &printer)
+{
+    if (name != kCollateAttribute)
+        return std::nullopt;
+    const ppd_option_t *option = ownOption(name, *printer.session);
+    for (int i = 0; option && i < option->num_choices; ++i) {
+        const QString choice = ppdKeyword(option->choices[i].choice);
+        if (choice.compare(value, Qt::CaseInsensitive) == 0)
+            return OptionChoice{ppdKeyword(option->keyword), choice};
+    }
+    return std::nullopt;
+}
+
+} // namespace corvana

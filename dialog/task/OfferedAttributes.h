@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+
+#include <QList>
+#include <QString>
+
+#include "dialog/session/OfferedAttribute.h"
+#include "dialog/session/PpdSession.h"
+
+namespace corvana {
+
+class JobSettings;
+struct OpenedPrinter;
+
+/// Whether an attribute has an effect on this printer and is nothing that the printer has an option
+/// of its own for.
+bool offersAttribute(const QString &name, const OpenedPrinter &printer);
+
+/// The attributes that every face offers, in the order in which they are read: those that people
+/// look for, and each one that is in force, whoever asked for it. The pages, which have a field of
+/// their own, are not among them.
+QList<OfferedAttribute> offeredAttributes(const JobSettings &settings,
+                                          const OpenedPrinter &printer);
+
+/// The choice of a printer's own option that an attribute stands for ("Collate" of some PPDs);
+/// nothing where it is an attribute of the job.
+std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
+                                      const OpenedPrinter &printer);
+
+} // namespace corvana

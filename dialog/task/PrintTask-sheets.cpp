@@ -1,0 +1,120 @@
+#include "dialog/task/PrintTask.h"
+
+#include <algorithm>
+
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/Summary.h"
+#include "dialog/sheets/SheetTexts.h"
+#include "dialog/task/PassedOn.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the number of sheets depends on, besides the traits of the printer.
+bool mattersForSheets(const JobOption &option)
+{
+    return isAppliedTo(JobAttribute::AppliedTo::Pages, option) ||
+           isAppliedTo(JobAttribute::AppliedTo::Document, option) || option.name == "raw"_L1;
+}
+
+} // namespace
+
+JobTicket PrintTask::ticket() const
+{
+    return passesFilesOn()
+               ? ticketOfPassedOn(jobAttributes(), m_request.title, m_settings.copies())
+               : makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies());
+}
+
+SheetRequest PrintTask::sheetRequest(const JobTicket &ticket) const
+{
+    SheetRequest request;
+    request.documents = m_request.documents;
+    for (const JobOption &option : ticket.options) {
+        if (mattersForSheets(option))
+            request.options += option;
+    }
+    request.traits = layoutTraits(m_opened->session->ppd(), ticket.options);
+    return request;
+}
+
+QList<SummaryLine> PrintTask::summary()
+{
+    const QList<SummaryLine> lines = summaryOfSettings();
+    // Nobody lays out what is passed on as it is.
+    return m_request.documents.isEmpty() || passesFilesOn() ? lines : withSheets(lines, ticket());
+}
+
+// Says what comes out: the sheets behind the copies, and beside a choice that has no effect what
+// happens instead.
+QList<SummaryLine> PrintTask::withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const
+{
+    const SheetRequest request = sheetRequest(ticket);
+    const JobSheets *sheets = m_sheets.counted(request);
+    const QList<SummaryLine> more = sheetLines(sheets, pageChoiceOf(request.options), ticket.copies);
+    for (qsizetype i = 0; i < more.size(); ++i)
+        lines.insert(std::min(lines.size(), i + 1), more.at(i));
+    const QString reason = sheets ? oneSidedReason(*sheets) : QString();
+    const QString twoSided = optionLine(*m_opened->session, kDuplexOption).title;
+    for (SummaryLine &line : lines) {
+        if (!reason.isEmpty() && line.title == twoSided)
+            line.value = tr("%1 (%2)").arg(line.value, reason);
+    }
+    return lines;
+}
+
+void PrintTask::countSheets()
+{
+    if (!m_opened || m_phase != Phase::Ready || m_request.documents.isEmpty() || passesFilesOn())
+        return;
+    const SheetRequest request = sheetRequest(ticket());
+    if (!m_sheets.counted(request))
+        m_sheets.count(request, SheetCounter::When::Soon);
+}
+
+// The ticket is made by now: what is set while the sheets are counted belongs to the next job.
+void PrintTask::countBeforeJob()
+{
+    m_run.ticket = ticket();
+    if (passesFilesOn()) {
+        if (m_request.summary)
+            m_face.writeSummary(m_run.lines);
+        return startJob(m_run.ticket);
+    }
+    enter(Phase::Printing);
+    if (m_phase == Phase::Printing)
+        m_sheets.count(sheetRequest(m_run.ticket), SheetCounter::When::Now);
+}
+
+void PrintTask::sheetsKnown()
+{
+    if (!isCounting())
+        return Q_EMIT sheetsCounted();
+    const SheetRequest request = sheetRequest(m_run.ticket);
+    const PageChoice choice = pageChoiceOf(request.options);
+    const JobSheets *sheets = m_sheets.counted(request);
+    if (m_request.summary)
+        m_face.writeSummary(withSheets(m_run.lines, m_run.ticket));
+    const QStringList problems = sheets ? emptyDocuments(*sheets, choice) : QStringList();
+    if (problems.isEmpty())
+        return startJob(m_run.ticket);
+    enter(Phase::Ready);
+    Q_EMIT refused({problems, TaskRefusal::Place::Pages});
+    takeNext();
+}
+
+// Nothing was begun that would have to be taken back.
+void PrintTask::endCounting()
+{
+    m_sheets.cancel();
+    m_run.outcome = {JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")};
+    enter(Phase::Ready);
+    Q_EMIT jobEnded(m_run.outcome);
+    takeNext();
+}
+
+} // namespace corvana

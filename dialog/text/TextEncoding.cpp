@@ -1,0 +1,338 @@
+#include "dialog/text/TextEncoding.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include <QIODevice>
+#include <QList>
+
+#include "dialog/text/TextDecoder.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kUtf8 = "UTF-8";
+constexpr auto kWestern = "CP1252";
+
+// How much of a text is looked at. What is plain ASCII says nothing and does not count.
+constexpr qsizetype kPiece = 4096;
+constexpr qsizetype kEnough = 128 * 1024;
+// A text that is plain ASCII for so long is taken for that. Units: bytes.
+constexpr qint64 kBlock = 1 << 20;
+constexpr qint64 kMostLookedAt = 64 * kBlock;
+// More than this share of broken characters is another encoding; less is damage.
+constexpr double kMostBroken = 0.01;
+// What the user's language adds to a score.
+constexpr double kOwnLanguage = 0.05;
+
+struct Marker
+{
+    const char *bytes;
+    const char *encoding;
+};
+constexpr Marker kMarkers[] = {
+    {"\xEF\xBB\xBF", kUtf8},
+    {"\xFF\xFE", "UTF-16LE"},
+    {"\xFE\xFF", "UTF-16BE"},
+};
+
+bool isIn(char32_t character, char32_t first, char32_t last)
+{
+    return character >= first && character <= last;
+}
+
+bool isHigh(char c)
+{
+    return static_cast<uchar>(c) >= 0x80;
+}
+
+bool isKana(char32_t c)
+{
+    return isIn(c, 0x3041, 0x30FE);
+}
+
+bool isHangul(char32_t c)
+{
+    return isIn(c, 0xAC00, 0xD7A3);
+}
+
+bool isIdeograph(char32_t c)
+{
+    return isIn(c, 0x3400, 0x9FFF);
+}
+
+// The share of two-byte characters whose first byte is in a range: where an encoding has its
+// frequent ideographs.
+struct Frequent
+{
+    uchar first;
+    uchar last;
+};
+
+struct Legacy
+{
+    const char *name;
+    const char *language;
+    Frequent frequent; // the first bytes of the ideographs or syllables that are used most
+    Frequent kana;     // of the Japanese syllables; none where its texts have them as guests only
+    bool pairsOfHigh;  // both bytes of a frequent character are beyond ASCII
+};
+
+// The ideographs of these standards are in order of their frequency: half of them, the first half,
+// is nearly everything that a text has.
+constexpr Legacy kLegacy[] = {
+    {"CP932", "ja", {0x88, 0x97}, {0x82, 0x83}, false},
+    {"EUC-JP-MS", "ja", {0xB0, 0xCF}, {0xA4, 0xA5}, true},
+    {"GB18030", "zh_CN", {0xB0, 0xD7}, {0, 0}, true},
+    {"BIG5-HKSCS", "zh_TW", {0xA4, 0xC6}, {0, 0}, false},
+    {"UHC", "ko", {0xB0, 0xC8}, {0, 0}, true},
+};
+
+struct Counts
+{
+    int characters = 0; // of two bytes or more
+    int frequent = 0;
+    int kana = 0;
+    int odd = 0; // what such a text hardly has: halves of syllables, private characters
+};
+
+bool contains(const Frequent &range, uchar byte)
+{
+    return byte >= range.first && byte <= range.last && range.last != 0;
+}
+
+// Reads pairs of bytes as the encoding does. The decoder has said already that they are characters.
+Counts countPairs(const Legacy &legacy, const QByteArray &sample)
+{
+    const bool isShiftJis = QLatin1StringView(legacy.name) == "CP932"_L1;
+    Counts counts;
+    for (qsizetype i = 0; i < sample.size(); ++i) {
+        const auto byte = static_cast<uchar>(sample.at(i));
+        if (byte < 0x80)
+            continue;
+        if (isShiftJis && byte >= 0xA1 && byte <= 0xDF) {
+            ++counts.characters;
+            ++counts.odd; // a half-width syllable
+            continue;
+        }
+        const uchar next = i + 1 < sample.size() ? static_cast<uchar>(sample.at(i + 1)) : 0;
+        ++i;
+        // Signs say nothing, since each of these encodings has them in one row.
+        const bool isSign = isShiftJis ? byte == 0x81 : byte == 0xA1 || byte == 0xA3;
+        if (isSign && next >= 0x40)
+            continue;
+        ++counts.characters;
+        const bool asUsual = !legacy.pairsOfHigh || next >= 0xA1;
+        if (contains(legacy.kana, byte))
+            ++counts.kana;
+        else if (asUsual && contains(legacy.frequent, byte))
+            ++counts.frequent;
+        else
+            ++counts.odd;
+    }
+    return counts;
+}
+
+// How much a sample looks like a text in an encoding. Range: 0 to 1.
+double scoreOf(const Legacy &legacy, const QByteArray &sample)
+{
+    TextDecoder decoder(legacy.name);
+    const std::u32string text = decoder.decode(sample);
+    if (!decoder.isValid() || text.empty())
+        return 0;
+    const auto beyond =
+        std::count_if(text.cbegin(), text.cend(), [](char32_t c) { return c >= 0x80; });
+    if (beyond == 0 || double(decoder.broken()) > kMostBroken * double(beyond))
+        return 0;
+    const Counts counts = countPairs(legacy, sample);
+    if (counts.characters == 0)
+        return 0.5; // nothing but signs
+    double share = double(counts.frequent + counts.kana) / counts.characters;
+    // A few words say nothing of their language; the user's decides.
+    constexpr int kSentence = 20;
+    if (counts.characters < kSentence)
+        return share;
+    // A Japanese text has syllables between its ideographs, or is no sentence.
+    const bool isJapanese = QLatin1StringView(legacy.language) == "ja"_L1;
+    if (isJapanese && counts.kana * 20 < counts.characters)
+        share *= 0.8;
+    // Korean syllables fill a part of the rows that Chinese ideographs are in: all of a text in
+    // that part is no chance.
+    const bool isKorean = QLatin1StringView(legacy.language) == "ko"_L1;
+    if (isKorean)
+        share = share < 0.95 ? 0.5 * share : share + 2 * kOwnLanguage;
+    return share;
+}
+
+// Single letters between others: "Müller". Two bytes of an ideograph stand beside each other, or
+// one stands before a letter or a sign that no word goes on with.
+double scoreOfWestern(const QByteArray &sample)
+{
+    int letters = 0;
+    int all = 0;
+    for (qsizetype i = 0; i < sample.size();) {
+        if (!isHigh(sample.at(i))) {
+            ++i;
+            continue;
+        }
+        qsizetype end = i;
+        while (end < sample.size() && isHigh(sample.at(end)))
+            ++end;
+        const char before = i > 0 ? sample.at(i - 1) : ' ';
+        const char after = end < sample.size() ? sample.at(end) : ' ';
+        const auto isWordly = [](char c) {
+            return QChar::isLetter(uchar(c)) || QByteArrayView(" \n\r\t,.;:!?'\"()-").contains(c);
+        };
+        const auto first = static_cast<uchar>(sample.at(i));
+        const bool isKnown = first >= 0xA0 || QByteArrayView("\x80\x84\x85\x8A\x8C\x8E\x91\x92\x93"
+                                                             "\x94\x96\x97\x9A\x9C\x9E\x9F")
+                                                  .contains(char(first));
+        ++all;
+        if (end - i == 1 && isKnown && isWordly(before) && isWordly(after))
+            ++letters;
+        i = end;
+    }
+    return all == 0 ? 0 : 0.97 * letters / all;
+}
+
+// UTF-16 without a mark: half of the bytes of its ASCII characters are zero, always the same half.
+// A fifth of all bytes has to be, or it could be anything.
+QByteArray unmarkedUtf16(const QByteArray &beginning)
+{
+    qsizetype zeros[2] = {0, 0};
+    for (qsizetype i = 0; i < beginning.size(); ++i) {
+        if (beginning.at(i) == 0)
+            ++zeros[i % 2];
+    }
+    const qsizetype most = std::max(zeros[0], zeros[1]);
+    const qsizetype least = std::min(zeros[0], zeros[1]);
+    if (most == 0 || most * 5 < beginning.size() || least * 10 > most)
+        return {};
+    const QByteArray encoding = zeros[0] > zeros[1] ? "UTF-16BE" : "UTF-16LE";
+    TextDecoder decoder(encoding);
+    const std::u32string text = decoder.decode(beginning);
+    const auto isSound = [](char32_t c) {
+        return c != TextDecoder::kBroken &&
+               (c >= 0x20 || c == '\n' || c == '\r' || c == '\t' || c == '\f');
+    };
+    return std::all_of(text.cbegin(), text.cend(), isSound) ? encoding : QByteArray();
+}
+
+// "Escape $" and "Escape (" switch between the sets of characters of a mail in Japanese.
+bool switchesSets(const QByteArray &sample)
+{
+    return (sample.contains("\x1B$B") || sample.contains("\x1B$@")) &&
+           (sample.contains("\x1B(B") || sample.contains("\x1B(J"));
+}
+
+bool saysSomething(char c)
+{
+    return isHigh(c) || c == '\x1B';
+}
+
+// What is worth looking at: lines that are no plain ASCII.
+QByteArray sampleOf(QIODevice &text)
+{
+    QByteArray sample;
+    qint64 lookedAt = 0;
+    while (lookedAt < kMostLookedAt && sample.size() < kEnough) {
+        QByteArray block = text.read(kBlock);
+        if (block.isEmpty())
+            break;
+        block += text.readLine(kPiece); // so that it ends where a line ends
+        lookedAt += block.size();
+        if (std::none_of(block.cbegin(), block.cend(), saysSomething))
+            continue;
+        for (qsizetype begin = 0; begin < block.size() && sample.size() < kEnough;) {
+            const qsizetype newline = block.indexOf('\n', begin);
+            const qsizetype end = newline < 0 ? block.size() : newline + 1;
+            const QByteArray line = block.mid(begin, std::min(end - begin, kEnough));
+            if (std::any_of(line.cbegin(), line.cend(), saysSomething))
+                sample += line;
+            begin = end;
+        }
+    }
+    return sample;
+}
+
+bool isUtf8(const QByteArray &sample)
+{
+    TextDecoder decoder(kUtf8);
+    const std::u32string text = decoder.decode(sample);
+    const auto beyond =
+        std::count_if(text.cbegin(), text.cend(), [](char32_t c) { return c >= 0x80; });
+    // A text of another encoding is broken at nearly every character.
+    return double(decoder.broken()) <= 0.1 * double(beyond);
+}
+
+// The language whose shapes of the ideographs a Unicode text wants.
+QString languageOfUnicode(const QByteArray &sample, const QString &userLanguage)
+{
+    TextDecoder decoder(kUtf8);
+    const std::u32string text = decoder.decode(sample);
+    const auto count = [&](bool (*is)(char32_t)) {
+        return std::count_if(text.cbegin(), text.cend(), is);
+    };
+    const auto ideographs = count(isIdeograph);
+    if (count(isKana) * 20 > ideographs && count(isKana) > 0)
+        return u"ja"_s;
+    if (count(isHangul) > ideographs)
+        return u"ko"_s;
+    // Ideographs alone: Chinese, unless the user reads something else that is written so.
+    return ideographs > 0 && userLanguage.isEmpty() ? u"zh_CN"_s : userLanguage;
+}
+
+} // namespace
+
+TextEncoding recognizeEncoding(QIODevice &text, const QString &userLanguage)
+{
+    text.seek(0);
+    const QByteArray beginning = text.peek(kPiece);
+    for (const Marker &marker : kMarkers) {
+        if (beginning.startsWith(marker.bytes)) {
+            const auto length = static_cast<int>(qstrlen(marker.bytes));
+            text.seek(length);
+            const bool eight = marker.encoding == kUtf8;
+            return {marker.encoding,
+                    eight ? languageOfUnicode(sampleOf(text), userLanguage) : userLanguage, length};
+        }
+    }
+    if (const QByteArray wide = unmarkedUtf16(beginning); !wide.isEmpty())
+        return {wide, userLanguage};
+    const QByteArray sample = sampleOf(text);
+    if (switchesSets(sample))
+        return {"ISO-2022-JP", u"ja"_s, 0, true};
+    if (isUtf8(sample))
+        return {kUtf8, languageOfUnicode(sample, userLanguage)};
+    TextEncoding best{kWestern, userLanguage};
+    double bestScore = scoreOfWestern(sample);
+    for (const Legacy &legacy : kLegacy) {
+        double score = scoreOf(legacy, sample);
+        if (score > 0 && userLanguage == QLatin1StringView(legacy.language))
+            score += kOwnLanguage;
+        if (score > bestScore) {
+            bestScore = score;
+            best = {legacy.name, QString::fromLatin1(legacy.language), 0, true};
+        }
+    }
+    return best;
+}
+
+bool looksLikeText(const QByteArray &beginning)
+{
+    for (const Marker &marker : kMarkers) {
+        if (beginning.startsWith(marker.bytes))
+            return true;
+    }
+    if (!unmarkedUtf16(beginning).isEmpty())
+        return true;
+    return std::all_of(beginning.cbegin(), beginning.cend(), [](char c) {
+        const auto byte = static_cast<uchar>(c);
+        return byte >= 0x20 || QByteArrayView("\b\t\n\v\f\r\x1B").contains(c);
+    });
+}
+
+} // namespace corvana

@@ -1,0 +1,266 @@
+#include <QTest>
+
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionRequest.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/TaskScene.h"
+#include "tests/support/Rows.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+using Phase = PrintTask::Phase;
+using Place = OfferedAttribute::Place;
+
+namespace {
+
+PpdBuilder plainPrinter()
+{
+    return PpdBuilder().option("Tray", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}});
+}
+
+PpdBuilder collatingPrinter()
+{
+    return plainPrinter().option("Collate", "Collate", "True",
+                                 {{"True", "Sorted"}, {"False", "Unsorted"}});
+}
+
+const OfferedAttribute *find(const QList<OfferedAttribute> &offered, const QString &name)
+{
+    for (const OfferedAttribute &one : offered) {
+        if (one.name == name)
+            return &one;
+    }
+    return nullptr;
+}
+
+struct ShownCase
+{
+    const char *name;
+    QString options; // as on a command line
+    OfferedAttribute shown;
+};
+
+const QList<ShownCase> kShown{
+    {"nobody asked", {}, {u"number-up"_s, {}, Place::Front, true, true}},
+    {"asked", u"number-up=4"_s, {u"number-up"_s, u"4"_s, Place::Front, true, false}},
+    {"scaling",
+     u"print-scaling=none"_s,
+     {u"print-scaling"_s, u"none"_s, Place::Front, true, false}},
+    {"banner pages",
+     u"job-sheets=standard"_s,
+     {u"job-sheets"_s, u"standard"_s, Place::More, true, false}},
+    {"no banner page, said twice",
+     u"job-sheets=none,none"_s,
+     {u"job-sheets"_s, u"none,none"_s, Place::More, true, true}},
+    {"an attribute that is not offered by itself",
+     u"job-billing=Accounts"_s,
+     {u"job-billing"_s, u"Accounts"_s, Place::More, true, false}},
+    {"one copy has no order", {}, {u"collate"_s, {}, Place::BesideCopies, false, true}},
+    {"several copies have",
+     u"copies=2 collate=false"_s,
+     {u"collate"_s, u"false"_s, Place::BesideCopies, true, false}},
+    {"one page on a sheet has no order", {}, {u"number-up-layout"_s, {}, Place::More, false, true}},
+    {"several pages on a sheet have",
+     u"number-up=4 number-up-layout=tblr"_s,
+     {u"number-up-layout"_s, u"tblr"_s, Place::More, true, false}},
+};
+
+struct RefusedCase
+{
+    const char *name;
+    QString attribute;
+    QString value;
+    QString allowed; // that the answer names
+};
+
+const QList<RefusedCase> kRefused{
+    {"below the range", u"job-priority"_s, u"0"_s, u"1 to 100"_s},
+    {"above the range", u"job-priority"_s, u"101"_s, u"1 to 100"_s},
+    {"not of the form", u"job-hold-until"_s, u"25:99"_s, u"a time HH:MM"_s},
+    {"no word of the list", u"number-up"_s, u"3"_s, u"16"_s},
+    {"empty", u"job-sheets"_s, u""_s, u"names of banner pages"_s},
+};
+
+} // namespace
+
+/// The attributes of a job, as every face offers and changes them.
+class TaskAttributesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TaskScene> m_scene;
+
+    PrintTask &open(const QString &options, const PpdBuilder &ppd = plainPrinter())
+    {
+        PrintRequest request = m_scene->request(ppd);
+        if (!options.isEmpty())
+            request.options = parseOptions({options});
+        return m_scene->open(request);
+    }
+    QStringList summary(const QString &title)
+    {
+        QStringList values;
+        for (const SummaryLine &line : m_scene->task->summary()) {
+            if (line.title == title)
+                values += line.value;
+        }
+        return values;
+    }
+    bool prints(const QByteArray &option)
+    {
+        m_scene->task->print();
+        if (!m_scene->reaches(Phase::Ended))
+            return false;
+        const QByteArrayList arguments = m_scene->arguments();
+        return arguments.contains(option);
+    }
+
+private Q_SLOTS:
+    void init() { m_scene = std::make_unique<TaskScene>(); }
+    void cleanup() { m_scene.reset(); }
+
+    void whatIsInForceIsOffered_data() { addRows(kShown); }
+    void whatIsInForceIsOffered()
+    {
+        const ShownCase &row = currentRow(kShown);
+        const QList<OfferedAttribute> offered = open(row.options).attributes();
+        const OfferedAttribute *shown = find(offered, row.shown.name);
+        QVERIFY(shown);
+        QCOMPARE(shown->value, row.shown.value);
+        QCOMPARE(shown->value.isNull(), row.shown.value.isNull());
+        QVERIFY(*shown == row.shown);
+    }
+
+    // Of every attribute there is, so that none is in force that nobody can see and change.
+    void nothingIsInForceThatIsNotOffered()
+    {
+        for (const QString &name : jobAttributeNames()) {
+            const JobAttribute &attribute = *jobAttribute(name);
+            QString value = u"1"_s;
+            if (!attribute.allowed.words.empty())
+                value = attribute.allowed.words.back().value;
+            const bool hasField = name == u"page-ranges"_s;
+            PrintTask &task = open({});
+            task.settings().addAttributes({{name, value}});
+            QVERIFY2((find(task.attributes(), name) != nullptr) != hasField, qPrintable(name));
+        }
+    }
+
+    void whatNobodyAskedForIsOfferedWherePeopleLookForIt()
+    {
+        const QList<OfferedAttribute> offered = open({}).attributes();
+        for (const QString &name :
+             {u"collate"_s, u"number-up"_s, u"print-scaling"_s, u"page-set"_s, u"outputorder"_s})
+            QVERIFY2(find(offered, name), qPrintable(name));
+        for (const QString &name : {u"job-billing"_s, u"ppi"_s, u"fit-to-page"_s, u"page-ranges"_s})
+            QVERIFY2(!find(offered, name), qPrintable(name));
+    }
+
+    void aChoiceStandsInSummaryAndJob()
+    {
+        PrintTask &task = open({});
+        QCOMPARE(task.setAttribute(u"number-up"_s, u"4"_s), QString());
+        QCOMPARE(task.setAttribute(u"print-scaling"_s, u"none"_s), QString());
+        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"4"_s});
+        QCOMPARE(summary(u"Scaling"_s), QStringList{u"Actual Size"_s});
+        QVERIFY(prints("number-up=4"));
+        QVERIFY(m_scene->arguments().contains("print-scaling=none"));
+    }
+
+    void theUsualValueOverADefaultStandsInSummaryAndJob()
+    {
+        PrintTask &task = open(u"number-up=2"_s);
+        QCOMPARE(task.setAttribute(u"number-up"_s, u"1"_s), QString());
+        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"1"_s});
+        QVERIFY(prints("number-up=1"));
+    }
+
+    void whatIsTakenBackIsStillOffered()
+    {
+        PrintTask &task = open(u"ppi=300"_s);
+        QCOMPARE(task.setAttribute(u"ppi"_s, {}), QString());
+        QVERIFY(find(task.attributes(), u"ppi"_s));
+        QVERIFY(find(task.attributes(), u"ppi"_s)->value.isNull());
+        QVERIFY(summary(u"Pixels per Inch"_s).isEmpty());
+        QVERIFY(!prints("ppi=300"));
+    }
+
+    void aChangeIsShownAtOnceAndOnce()
+    {
+        PrintTask &task = open({});
+        int shown = 0;
+        connect(&task, &PrintTask::settingsChanged, this, [&] { ++shown; });
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        QCOMPARE(shown, 1);
+        task.setAttribute(u"number-up"_s, u"4"_s); // what it is already
+        QCOMPARE(shown, 1);
+    }
+
+    void aValueThatIsNotAllowedIsRefusedInWords_data() { addRows(kRefused); }
+    void aValueThatIsNotAllowedIsRefusedInWords()
+    {
+        const RefusedCase &row = currentRow(kRefused);
+        PrintTask &task = open(u"job-priority=20"_s);
+        const QList<JobOption> before = task.settings().attributes();
+        const QString problem = task.setAttribute(row.attribute, row.value);
+        QVERIFY2(problem.contains(u"“%1”"_s.arg(row.value)), qPrintable(problem));
+        QVERIFY2(problem.contains(row.allowed), qPrintable(problem));
+        QCOMPARE(task.settings().attributes(), before);
+    }
+
+    void aNameThatMeansNothingIsRefused()
+    {
+        QVERIFY(open({}).setAttribute(u"no-such-thing"_s, u"1"_s).contains(u"no-such-thing"_s));
+    }
+
+    // CUPS tells option and attribute apart by nothing but the case of their letters.
+    void thePrintersOwnCollationIsTheOneThatChanges()
+    {
+        PrintTask &task = open(u"copies=2"_s, collatingPrinter());
+        QCOMPARE(find(task.attributes(), u"collate"_s)->value, u"true"_s);
+        QCOMPARE(task.setAttribute(u"collate"_s, u"false"_s), QString());
+        QCOMPARE(m_scene->session().markedChoice(u"Collate"_s), u"False"_s);
+        QCOMPARE(find(task.attributes(), u"collate"_s)->value, u"false"_s);
+        QCOMPARE(task.settings().attribute(u"collate"_s), QString());
+        QVERIFY(prints("Collate=False"));
+        QVERIFY(!m_scene->arguments().contains("collate=false"));
+    }
+
+    void anOptionOfThePrinterIsNoAttributeBesideIt()
+    {
+        const PpdBuilder ppd = plainPrinter().option("OutputOrder", "Order", "Normal",
+                                                     {{"Normal", "First"}, {"Reverse", "Last"}});
+        QVERIFY(!find(open({}, ppd).attributes(), u"outputorder"_s));
+        QVERIFY(find(open({}).attributes(), u"outputorder"_s));
+    }
+
+    void whatWasChosenComesBackWithItsPrinter()
+    {
+        const Printer first = m_scene->printer(u"first"_s, plainPrinter().text());
+        const Printer second = m_scene->printer(u"second"_s, collatingPrinter().text());
+        PrintTask &task = m_scene->open(m_scene->request(QList{first, second}));
+        task.choosePrinter(first);
+        task.bringUp();
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.choosePrinter(second);
+        task.bringUp();
+        QCOMPARE(task.settings().attribute(u"number-up"_s), QString());
+        task.choosePrinter(first);
+        task.bringUp();
+        QCOMPARE(task.settings().attribute(u"number-up"_s), u"4"_s);
+        // And so does that it was taken back.
+        task.setAttribute(u"number-up"_s, u"1"_s);
+        task.choosePrinter(second);
+        task.bringUp();
+        task.choosePrinter(first);
+        task.bringUp();
+        QCOMPARE(task.settings().attribute(u"number-up"_s), QString());
+    }
+};
+
+QTEST_MAIN(TaskAttributesTest)
+
+#include "task_attributes_test.moc"

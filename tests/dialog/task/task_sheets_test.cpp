@@ -1,0 +1,238 @@
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/sheets/TestPdf.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/TaskScene.h"
+#include "tests/support/Rows.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+using Phase = PrintTask::Phase;
+
+namespace {
+
+constexpr int kPatience = 60000; // milliseconds that a chain may take on a busy machine
+
+struct Expected
+{
+    const char *name;
+    QList<QList<QSizeF>> documents;
+    QList<JobOption> options;
+    int copies;
+    QString refusal;    // empty: it is printed
+    QStringList lines;  // of the summary
+    QStringList absent; // titles that the summary does not have
+};
+const Expected kJobs[] = {
+    {"as it is",
+     {{kA4, kA4, kA4, kA4, kA4}},
+     {},
+     1,
+     {},
+     {u"Sheets: 5 pages = 5 sheets"_s, u"Two-Sided Printing: Off (1-Sided)"_s},
+     {u"Printed Size"_s, u"Pages Not There"_s}},
+    {"two-up, two-sided, copies",
+     {{kA4, kA4, kA4, kA4, kA4}},
+     {{u"number-up"_s, u"2"_s}, {u"Duplex"_s, u"DuplexNoTumble"_s}},
+     2,
+     {},
+     {u"Sheets: 5 pages × 2 copies = 4 sheets"_s, u"Two-Sided Printing: Long-Edge Binding"_s},
+     {u"Pages Not There"_s}},
+    {"pages that the document lacks",
+     {{kA4, kA4, kA4, kA4, kA4}},
+     {{u"page-ranges"_s, u"9-12"_s}},
+     1,
+     u"The document has 5 pages; 9 to 12 are not in it."_s,
+     {},
+     {}},
+    {"pages of which the document has some",
+     {{kA4, kA4, kA4, kA4, kA4}},
+     {{u"page-ranges"_s, u"4-9"_s}},
+     1,
+     {},
+     {u"Sheets: 2 pages = 2 sheets"_s,
+      u"Pages Not There: The document has 5 pages; 6 to 9 are not in it."_s},
+     {}},
+    {"even pages of one",
+     {{kA4}},
+     {{u"page-set"_s, u"even"_s}},
+     1,
+     u"Nothing would be printed: the document has 1 page, and only even pages were chosen."_s,
+     {},
+     {}},
+    {"mixed sizes",
+     {{kA4, kLetter, kA5}},
+     {},
+     1,
+     {},
+     {u"Printed Size: A4 at 96 %, Letter at 93 %, A5 at 136 %"_s},
+     {}},
+    {"one page, two-sided",
+     {{kA4}},
+     {{u"Duplex"_s, u"DuplexTumble"_s}},
+     1,
+     {},
+     {u"Two-Sided Printing: Short-Edge Binding (comes out one-sided, because only one side is printed)"_s},
+     {}},
+    {"a document among others of which nothing is left",
+     {{kA4, kA4}, {kA4}},
+     {{u"page-ranges"_s, u"2"_s}},
+     1,
+     u"“document1.pdf” has 1 page; 2 is not in it."_s,
+     {},
+     {}},
+};
+
+} // namespace
+
+class TaskSheetsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TaskScene> m_scene;
+    std::unique_ptr<Variable> m_filter; // the real one, in place of the scene's
+
+    PrintRequest request(const QList<QList<QSizeF>> &documents)
+    {
+        PrintRequest request = m_scene->request({m_scene->printer(u"laser"_s, samplePpd(5))});
+        request.documents.clear();
+        request.summary = true;
+        for (const QList<QSizeF> &sizes : documents) {
+            const QString name = u"document%1.pdf"_s.arg(request.documents.size());
+            request.documents += Document{writeFile(m_scene->filter.path(name), pdfOfSizes(sizes)),
+                                          u"application/pdf"_s, name};
+        }
+        return request;
+    }
+    QStringList summary() const
+    {
+        QStringList lines;
+        for (const SummaryLine &line : m_scene->task->summary())
+            lines += line.title + u": "_s + line.value;
+        return lines;
+    }
+    void useFilter(const QByteArray &script)
+    {
+        const QString path = writeFile(m_scene->filter.path(u"own"_s), "#!/bin/sh\n" + script);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+        m_filter.reset();
+        m_filter = std::make_unique<Variable>("CORVANA_PRINT_CUPSFILTER", path.toUtf8());
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_scene = std::make_unique<TaskScene>();
+        m_filter = std::make_unique<Variable>("CORVANA_PRINT_CUPSFILTER", "");
+    }
+    void cleanup()
+    {
+        m_filter.reset();
+        m_scene.reset();
+    }
+
+    void whatComesOutIsSaidOrRefused_data() { addRows(kJobs); }
+    void whatComesOutIsSaidOrRefused()
+    {
+        const Expected &row = currentRow(kJobs);
+        PrintRequest asked = request(row.documents);
+        asked.options = row.options;
+        asked.copies = row.copies;
+        PrintTask &task = m_scene->open(asked);
+        ScriptedFace &face = m_scene->face;
+        task.print();
+        QTRY_VERIFY_WITH_TIMEOUT(!face.refusals.isEmpty() || !face.outcomes.isEmpty(), kPatience);
+        QCOMPARE(face.problems().join(u'\n'), row.refusal);
+        QCOMPARE(task.phase(), row.refusal.isEmpty() ? Phase::Ended : Phase::Ready);
+        QCOMPARE(QFile::exists(asked.output), row.refusal.isEmpty());
+        QCOMPARE(face.summaries.size(), 1);
+        QStringList lines;
+        for (const SummaryLine &line : face.summaries.constFirst()) {
+            lines += line.title + u": "_s + line.value;
+            QVERIFY2(!row.absent.contains(line.title), qPrintable(line.title));
+        }
+        for (const QString &line : row.lines)
+            QVERIFY2(lines.contains(line),
+                     qPrintable(line + u" is not in\n"_s + lines.join(u'\n')));
+    }
+
+    // Somebody who looks at the summary sees the count come, and go with what it belongs to.
+    void theSummaryIsCountedForWhoeverLooksAtIt()
+    {
+        PrintTask &task = m_scene->open(request({{kA4, kA4, kA4}}));
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        QCOMPARE(summary().at(1), u"Sheets: …"_s);
+        task.countSheets();
+        QVERIFY(counted.wait(kPatience));
+        QCOMPARE(summary().at(1), u"Sheets: 3 pages = 3 sheets"_s);
+        task.settings().setPageRanges(u"2-3"_s);
+        QCOMPARE(summary().at(1), u"Sheets: …"_s);
+        task.countSheets();
+        QVERIFY(counted.wait(kPatience));
+        QCOMPARE(summary().at(1), u"Sheets: 2 pages = 2 sheets"_s);
+        // The number of copies is no reason to count anew.
+        task.settings().askForCopies(3, JobSettings::By::User);
+        QCOMPARE(summary().at(1), u"Sheets: 2 pages × 3 copies = 6 sheets"_s);
+        QCOMPARE(task.phase(), Phase::Ready);
+    }
+
+    void countingCanBeCanceled()
+    {
+        useFilter("sleep 300\n");
+        PrintTask &task = m_scene->open(request({{kA4}}));
+        task.print();
+        QCOMPARE(task.phase(), Phase::Printing);
+        QTest::qWait(100);
+        task.cancel();
+        QCOMPARE(task.phase(), Phase::Ready);
+        QCOMPARE(task.outcome().kind, JobOutcome::Kind::Canceled);
+        QCOMPARE(m_scene->face.outcomes.size(), 1);
+        QVERIFY(!QFile::exists(task.output()));
+        QVERIFY(task.canPrint());
+    }
+
+    void anInterruptionEndsTheCounting()
+    {
+        useFilter("sleep 300\n");
+        PrintTask &task = m_scene->open(request({{kA4}}));
+        task.print();
+        QTest::qWait(100);
+        task.interrupt(PrintTask::OnInterrupt::LeaveJob);
+        QCOMPARE(task.phase(), Phase::Ended);
+        QVERIFY(!QFile::exists(task.output()));
+    }
+
+    // What is set while the sheets are counted belongs to the next job.
+    void theJobIsThatOfTheMomentOfPrint()
+    {
+        PrintTask &task = m_scene->open(request({{kA4, kA4, kA4}}));
+        task.print();
+        task.settings().setPageRanges(u"9"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_scene->face.outcomes.isEmpty(), kPatience);
+        QCOMPARE(m_scene->face.problems(), QStringList());
+        QCOMPARE(m_scene->face.summaries.constFirst().at(1).value, u"3 pages = 3 sheets"_s);
+        QCOMPARE(task.phase(), Phase::Ended);
+    }
+
+    // A program that only the counting needs is no reason not to print.
+    void whatCannotBeCountedIsPrinted()
+    {
+        useFilter(
+            "case \" $* \" in *' -m application/vnd.cups-pdf '*) exit 1 ;; esac; echo data\n");
+        PrintTask &task = m_scene->open(request({{kA4}}));
+        task.print();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_scene->face.outcomes.isEmpty(), kPatience);
+        QCOMPARE(m_scene->face.problems(), QStringList());
+        QCOMPARE(m_scene->face.summaries.constFirst().at(1).value, u"could not be counted"_s);
+        QCOMPARE(task.outcome().kind, JobOutcome::Kind::Printed);
+    }
+};
+
+QTEST_MAIN(TaskSheetsTest)
+
+#include "task_sheets_test.moc"
