@@ -227,7 +227,10 @@ private Q_SLOTS:
         QFETCH(QString, sent);
         start();
         m_printer->fetched.defaults = parseOptions({byQueue});
-        QCOMPARE(withAnswersToDefaults(parseOptions({ofJob}), *m_printer), parseOptions({sent}));
+        QStringList answered;
+        for (const JobOption &option : withAnswersToDefaults(parseOptions({ofJob}), *m_printer))
+            answered += u"%1=%2"_s.arg(option.name, option.value);
+        QCOMPARE(answered.join(u' '), sent);
     }
 
     // CUPS makes a choice of it, which the user can change; then the attribute must not say
@@ -246,6 +249,23 @@ private Q_SLOTS:
         m_printer->session->change(u"ColorModel"_s, u"Gray"_s, PpdSession::Origin::Dialog);
         QCOMPARE(withAnswersToDefaults({}, *m_printer),
                  parseOptions({u"print-color-mode=monochrome"_s}));
+    }
+
+    // How an administrator forbids colours on many desks, and names a tray.
+    void whatLpKnowsIsTakenFromLpoptionsAsChoices()
+    {
+        m_fetched.ppd = ppdOfFile(writeFile(
+            m_home->filePath(u"c.ppd"_s),
+            PpdBuilder()
+                .option("ColorModel", "Color", "RGB", {{"Gray", "Gray"}, {"RGB", "RGB"}})
+                .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
+                .text()));
+        say(By::UserQueues, u"print-color-mode=monochrome media=Postcard,Lower"_s);
+        const StartOutcome outcome = start();
+        QVERIFY2(outcome.ignored.isEmpty(), qPrintable(outcome.ignored.value(0)));
+        QCOMPARE(m_printer->session->markedChoice(u"ColorModel"_s), u"Gray"_s);
+        QCOMPARE(m_printer->session->markedChoice(u"InputSlot"_s), u"Lower"_s);
+        QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"Postcard"_s);
     }
 
     // What is passed on as it is
