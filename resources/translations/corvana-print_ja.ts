@@ -15,8 +15,8 @@
         <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ &quot;cups&quot;）に含まれています。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -84,21 +84,6 @@
     <message>
         <source>%1 cannot be kept: it has more than %2 bytes.</source>
         <translation>%1 を保存できません: %2 バイトを超えています。</translation>
-    </message>
-</context>
-<context>
-    <name>DocumentCopies</name>
-    <message>
-        <source>all documents, then all of them again (A B A B)</source>
-        <translation>すべての文書を 1 部ずつ繰り返す (A B A B)</translation>
-    </message>
-    <message>
-        <source>each document with all its copies (A A B B)</source>
-        <translation>文書ごとに全部数を続けて (A A B B)</translation>
-    </message>
-    <message>
-        <source>each page with all its copies (1 1 2 2)</source>
-        <translation>ページごとに全部数を続けて (1 1 2 2)</translation>
     </message>
 </context>
 <context>
@@ -347,7 +332,7 @@
         <source>the name of a media type</source>
         <translation>用紙の種類の名前</translation>
     </message>
-    <message>
+<message>
         <source>Up, Then to the Right</source>
         <translation>上、次に右へ</translation>
     </message>
@@ -541,7 +526,7 @@
         <translation>このプリンターでは用紙サイズを選択できません。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1: プリンターの設定により、ここでは使用できません。%2 になりました。</translation>
     </message>
     <message>
@@ -561,7 +546,7 @@
         <translation>1～%1</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <source>%1: the printer's options cannot be set to this value.</source>
         <translation>%1: プリンターのオプションをこの値に設定できません。</translation>
     </message>
     <message>
@@ -571,13 +556,6 @@
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>「%1」は使用できません。使用できる値: %2。</translation>
-    </message>
-</context>
-<context>
-    <name>PageChoice</name>
-    <message>
-        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
-        <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
     </message>
 </context>
 <context>
@@ -614,7 +592,7 @@
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>プリンターのオプションを %1 に書き込めません: %2</translation>
     </message>
 </context>
@@ -788,7 +766,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>、</translation>
     </message>
     <message>
@@ -861,7 +839,7 @@
         <translation>%1 に変更</translation>
     </message>
     <message>
-        <source>The printer&apos;s options cannot be set to %1.</source>
+        <source>The printer's options cannot be set to %1.</source>
         <translation>プリンターのオプションを%1に設定できません。</translation>
     </message>
 </context>
@@ -895,13 +873,6 @@
     <message>
         <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
         <translation>%1 は、その間に別のプログラムによって書き込まれたため、そのまま残されています。置き換えるにはもう一度印刷するか、別のファイル名を指定してください。</translation>
-    </message>
-</context>
-<context>
-    <name>ResultPages</name>
-    <message>
-        <source>Nothing would be printed: what came out has no page.</source>
-        <translation>何も印刷されません。作成されたデータにページがありません。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1064,10 @@
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>ジョブ %1 をキュー「%2」に渡しました。</translation>
     </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
+    </message>
     <message>
         <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
         <translation>前回のジョブ %1 では、文書 %3 個のうち %2 個がプリンターに送られています。残りだけを印刷するか、すべてをもう一度印刷してください。</translation>
@@ -1202,113 +1177,22 @@
     </message>
 </context>
 <context>
-    <name>SheetTexts</name>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>1 page</source>
-        <translation>1 ページ</translation>
-    </message>
-    <message>
-        <source>%1 pages</source>
-        <translation>%1 ページ</translation>
-    </message>
-    <message>
-        <source>1 sheet</source>
-        <translation>1 枚</translation>
-    </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 枚</translation>
-    </message>
-    <message>
-        <source>“%1” has %2</source>
-        <translation>「%1」は %2です</translation>
-    </message>
-    <message>
-        <source>The document has %1</source>
-        <translation>この文書は %1です</translation>
-    </message>
-    <message>
-        <source>the document has %1</source>
-        <translation>この文書は %1です</translation>
-    </message>
-    <message>
-        <source>%1 and later</source>
-        <translation>%1 以降</translation>
-    </message>
-    <message>
-        <source>%1 to %2</source>
-        <translation>%1～%2</translation>
-    </message>
-    <message>
-        <source>%1; %2 is not in it.</source>
-        <translation>%1。%2 ページはありません。</translation>
-    </message>
-    <message>
-        <source>%1; %2 are not in it.</source>
-        <translation>%1。%2 ページはありません。</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
-        <translation>何も印刷されません。%1。偶数ページだけが選択されています。</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
-        <translation>何も印刷されません。%1。奇数ページだけが選択されています。</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: %1, and none of them is left.</source>
-        <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because only one side is printed</source>
-        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because each document has only one side</source>
-        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
-    </message>
-    <message>
-        <source>one-sided where a document has only one side: %1</source>
-        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
-    </message>
-    <message>
-        <source>could not be counted</source>
-        <translation>数えられませんでした</translation>
-    </message>
-    <message>
-        <source>%1 = %2</source>
-        <translation>%1 = %2</translation>
-    </message>
-    <message>
-        <source>%1 × %2 copies = %3</source>
-        <translation>%1 × %2 部 = %3</translation>
-    </message>
-    <message>
-        <source>%1 at %2 %</source>
-        <translation>%1 は %2 %</translation>
-    </message>
-    <message>
-        <source>Sheets</source>
-        <translation>用紙の枚数</translation>
-    </message>
-    <message>
-        <source>Pages Not There</source>
-        <translation>存在しないページ</translation>
-    </message>
-    <message>
-        <source>Printed Size</source>
-        <translation>印刷される大きさ</translation>
-    </message>
-</context>
-<context>
     <name>StartValues</name>
     <message>
         <source>This printer has no option of the name %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+<message>
+        <source>This printer has no option of this name: %1.</source>
+        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>キュー「%1」の既定値: %2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
     </message>
 </context>
 <context>
@@ -1397,40 +1281,6 @@
     <message>
         <source>The result could not be written to standard output: %1.</source>
         <translation>結果を標準出力に書き込めませんでした: %1。</translation>
-    </message>
-</context>
-<context>
-    <name>corvana::AttributeEditor</name>
-    <message>
-        <source>Automatic</source>
-        <translation>自動</translation>
-    </message>
-    <message>
-        <source>Other…</source>
-        <translation>その他…</translation>
-    </message>
-</context>
-<context>
-    <name>corvana::AttributeRows</name>
-    <message>
-        <source>&amp;More</source>
-        <translation>詳細(&amp;M)</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>詳細</translation>
-    </message>
-    <message>
-        <source>More, %1</source>
-        <translation>詳細、%1</translation>
     </message>
 </context>
 <context>
@@ -1594,7 +1444,7 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>文書を 1 つにまとめられませんでした: %1 が不完全です。ディスクがいっぱいではありませんか？</translation>
     </message>
-    <message>
+<message>
         <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
         <translation>文書をプリンター用に変換できませんでした: ページ数を確認できません。</translation>
     </message>
@@ -1742,7 +1592,7 @@ For the command line: %2</source>
         <translation>「%1」はページ指定として正しくありません。1-4, 7, 9- のように、昇順で指定してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>プリンターの設定に指示が表示されました。</translation>
     </message>
     <message>
@@ -1750,7 +1600,7 @@ For the command line: %2</source>
         <translation>この指示に従うまでジョブを待たせる必要がありますが、ファイルへの出力は待機できません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>プリンターの設定により、ジョブは印刷されませんでした。</translation>
     </message>
     <message>
@@ -1758,7 +1608,7 @@ For the command line: %2</source>
         <translation>プリンターのオプションがサーバーで変更されました。選択した設定はそのまま残っています。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>プリンター固有の設定を使用できません: %1</translation>
     </message>
     <message>
@@ -1786,7 +1636,7 @@ For the command line: %2</source>
         <translation>このプリンターで一度に印刷できるのは %1 部までです（指定: %2 部）。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>プリンターの設定ページを表示できません: %1</translation>
     </message>
     <message>
@@ -1797,7 +1647,7 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>このコンピューターのどのフォントにも、テキスト中の次の文字がありません: %1。それぞれの代わりに空の枠が印刷されます。</translation>
     </message>
-    <message>
+<message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
     </message>
@@ -1805,7 +1655,17 @@ For the command line: %2</source>
         <source>Printing was canceled.</source>
         <translation>印刷を中止しました。</translation>
     </message>
+<message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>そのまま渡される文書はファイルに印刷できません。</translation>
+    </message>
     <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>このプリンターに設定されている内容の一部は使用できませんでした:
+%1</translation>
+    </message>
+<message>
         <source>There is no job attribute of the name %1.</source>
         <translation>%1 という名前のジョブ属性はありません。</translation>
     </message>
@@ -1926,6 +1786,10 @@ For the command line: %2</source>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
     </message>
+<message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterPopup</name>
@@ -2010,7 +1874,7 @@ For the command line: %2</source>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
     </message>
-    <message>
+<message>
         <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
         <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
     </message>
@@ -2100,6 +1964,191 @@ For the command line: %2</source>
     <message>
         <source>Choose Documents to Print</source>
         <translation>印刷する文書の選択</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>すべての文書を 1 部ずつ繰り返す (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>文書ごとに全部数を続けて (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>ページごとに全部数を続けて (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>何も印刷されません。作成されたデータにページがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 ページ</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 枚</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>「%1」は %2です</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>この文書は %1です</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 以降</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1。%2 ページはありません。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>何も印刷されません。%1。偶数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>何も印刷されません。%1。奇数ページだけが選択されています。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>数えられませんでした</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 部 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 は %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>用紙の枚数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>存在しないページ</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>印刷される大きさ</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>キュー「%1」はファイルをそのまま渡します。%2 は実行できません。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>「raw」ではファイルがそのまま渡されます。%1 は実行できません。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>そのまま渡されます</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>その他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>詳細(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>詳細、%1</translation>
     </message>
 </context>
 </TS>

@@ -15,8 +15,8 @@
         <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 &quot;cups&quot;）。</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
     </message>
 </context>
 <context>
@@ -84,21 +84,6 @@
     <message>
         <source>%1 cannot be kept: it has more than %2 bytes.</source>
         <translation>无法保存 %1：超过了 %2 字节。</translation>
-    </message>
-</context>
-<context>
-    <name>DocumentCopies</name>
-    <message>
-        <source>all documents, then all of them again (A B A B)</source>
-        <translation>所有文档依次打印一份后再重复 (A B A B)</translation>
-    </message>
-    <message>
-        <source>each document with all its copies (A A B B)</source>
-        <translation>每个文档连续打印所有份数 (A A B B)</translation>
-    </message>
-    <message>
-        <source>each page with all its copies (1 1 2 2)</source>
-        <translation>每一页连续打印所有份数 (1 1 2 2)</translation>
     </message>
 </context>
 <context>
@@ -347,7 +332,7 @@
         <source>the name of a media type</source>
         <translation>介质类型的名称</translation>
     </message>
-    <message>
+<message>
         <source>Up, Then to the Right</source>
         <translation>先向上，再向右</translation>
     </message>
@@ -541,7 +526,7 @@
         <translation>此打印机没有可选的纸张尺寸。</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s settings do not allow this here; it became %2.</source>
+        <source>%1: the printer's settings do not allow this here; it became %2.</source>
         <translation>%1：打印机设置不允许在此使用，已变为 %2。</translation>
     </message>
     <message>
@@ -561,7 +546,7 @@
         <translation>1 到 %1</translation>
     </message>
     <message>
-        <source>%1: the printer&apos;s options cannot be set to this value.</source>
+        <source>%1: the printer's options cannot be set to this value.</source>
         <translation>%1：无法将打印机的选项设置为此值。</translation>
     </message>
     <message>
@@ -571,13 +556,6 @@
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>不允许“%1”。允许的值：%2。</translation>
-    </message>
-</context>
-<context>
-    <name>PageChoice</name>
-    <message>
-        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
-        <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
 </context>
 <context>
@@ -614,7 +592,7 @@
 <context>
     <name>PpdCopy</name>
     <message>
-        <source>The printer&apos;s options cannot be written to %1: %2</source>
+        <source>The printer's options cannot be written to %1: %2</source>
         <translation>无法将打印机选项写入 %1：%2</translation>
     </message>
 </context>
@@ -788,7 +766,7 @@
     </message>
     <message>
         <source>, </source>
-        <comment>between the words of a printer&apos;s state</comment>
+        <comment>between the words of a printer's state</comment>
         <translation>，</translation>
     </message>
     <message>
@@ -861,7 +839,7 @@
         <translation>更改为%1</translation>
     </message>
     <message>
-        <source>The printer&apos;s options cannot be set to %1.</source>
+        <source>The printer's options cannot be set to %1.</source>
         <translation>无法将打印机的选项设置为%1。</translation>
     </message>
 </context>
@@ -895,13 +873,6 @@
     <message>
         <source>%1 was written by another program meanwhile, and is left as it is. Print again to replace it, or name another file.</source>
         <translation>%1 在此期间已被另一个程序写入，因此保持原样。要替换它，请重新打印，或指定另一个文件。</translation>
-    </message>
-</context>
-<context>
-    <name>ResultPages</name>
-    <message>
-        <source>Nothing would be printed: what came out has no page.</source>
-        <translation>不会打印任何内容：生成的数据中没有页面。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1064,10 @@
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>作业 %1 已交给队列“%2”。</translation>
     </message>
+<message>
+        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
+        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
+    </message>
     <message>
         <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
         <translation>上次的作业 %1 已将 %3 个文档中的 %2 个送到打印机。请单独打印其余文档，或全部重新打印。</translation>
@@ -1202,113 +1177,22 @@
     </message>
 </context>
 <context>
-    <name>SheetTexts</name>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>1 page</source>
-        <translation>1 页</translation>
-    </message>
-    <message>
-        <source>%1 pages</source>
-        <translation>%1 页</translation>
-    </message>
-    <message>
-        <source>1 sheet</source>
-        <translation>1 张</translation>
-    </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 张</translation>
-    </message>
-    <message>
-        <source>“%1” has %2</source>
-        <translation>“%1”有 %2</translation>
-    </message>
-    <message>
-        <source>The document has %1</source>
-        <translation>该文档有 %1</translation>
-    </message>
-    <message>
-        <source>the document has %1</source>
-        <translation>该文档有 %1</translation>
-    </message>
-    <message>
-        <source>%1 and later</source>
-        <translation>%1 及之后</translation>
-    </message>
-    <message>
-        <source>%1 to %2</source>
-        <translation>%1 到 %2</translation>
-    </message>
-    <message>
-        <source>%1; %2 is not in it.</source>
-        <translation>%1；其中没有第 %2 页。</translation>
-    </message>
-    <message>
-        <source>%1; %2 are not in it.</source>
-        <translation>%1；其中没有第 %2 页。</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
-        <translation>不会打印任何内容：%1，而只选择了偶数页。</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
-        <translation>不会打印任何内容：%1，而只选择了奇数页。</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: %1, and none of them is left.</source>
-        <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because only one side is printed</source>
-        <translation>将单面打印，因为只有一面要打印</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because each document has only one side</source>
-        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
-    </message>
-    <message>
-        <source>one-sided where a document has only one side: %1</source>
-        <translation>只有一面要打印的文档将单面打印：%1</translation>
-    </message>
-    <message>
-        <source>could not be counted</source>
-        <translation>无法计数</translation>
-    </message>
-    <message>
-        <source>%1 = %2</source>
-        <translation>%1 = %2</translation>
-    </message>
-    <message>
-        <source>%1 × %2 copies = %3</source>
-        <translation>%1 × %2 份 = %3</translation>
-    </message>
-    <message>
-        <source>%1 at %2 %</source>
-        <translation>%1 为 %2 %</translation>
-    </message>
-    <message>
-        <source>Sheets</source>
-        <translation>纸张数</translation>
-    </message>
-    <message>
-        <source>Pages Not There</source>
-        <translation>不存在的页</translation>
-    </message>
-    <message>
-        <source>Printed Size</source>
-        <translation>打印大小</translation>
-    </message>
-</context>
-<context>
     <name>StartValues</name>
     <message>
         <source>This printer has no option of the name %1.</source>
         <translation>此打印机没有以下名称的选项：%1</translation>
+    </message>
+<message>
+        <source>This printer has no option of this name: %1.</source>
+        <translation>此打印机没有以下名称的选项：%1。</translation>
+    </message>
+    <message>
+        <source>Default of the queue “%1”: %2</source>
+        <translation>队列“%1”的默认值：%2</translation>
+    </message>
+    <message>
+        <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
+        <translation>队列“%1”会给每个作业添加以下设置，其作用在此未知：%2。</translation>
     </message>
 </context>
 <context>
@@ -1397,40 +1281,6 @@
     <message>
         <source>The result could not be written to standard output: %1.</source>
         <translation>无法将结果写入标准输出：%1。</translation>
-    </message>
-</context>
-<context>
-    <name>corvana::AttributeEditor</name>
-    <message>
-        <source>Automatic</source>
-        <translation>自动</translation>
-    </message>
-    <message>
-        <source>Other…</source>
-        <translation>其他…</translation>
-    </message>
-</context>
-<context>
-    <name>corvana::AttributeRows</name>
-    <message>
-        <source>&amp;More</source>
-        <translation>更多(&amp;M)</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>，</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>更多</translation>
-    </message>
-    <message>
-        <source>More, %1</source>
-        <translation>更多，%1</translation>
     </message>
 </context>
 <context>
@@ -1594,7 +1444,7 @@
         <source>The documents could not be put together: %1 is incomplete. Is the disk full?</source>
         <translation>无法合并文档：%1 不完整。磁盘是否已满？</translation>
     </message>
-    <message>
+<message>
         <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
         <translation>无法为打印机转换文档：无法确定其页数。</translation>
     </message>
@@ -1742,7 +1592,7 @@ For the command line: %2</source>
         <translation>“%1”不是有效的页码。请按升序指定，例如 1-4, 7, 9-。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings show instructions.</source>
+        <source>The printer's settings show instructions.</source>
         <translation>打印机设置显示了说明。</translation>
     </message>
     <message>
@@ -1750,7 +1600,7 @@ For the command line: %2</source>
         <translation>作业需要等待执行这些说明，而文件输出无法等待。请按说明操作后使用 --on-alert=print 打印。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings hold the job back.</source>
+        <source>The printer's settings hold the job back.</source>
         <translation>由于打印机设置，作业未打印。</translation>
     </message>
     <message>
@@ -1758,7 +1608,7 @@ For the command line: %2</source>
         <translation>打印机选项已在服务器上更改；您的设置已保留。</translation>
     </message>
     <message>
-        <source>The printer&apos;s own settings are missing: %1</source>
+        <source>The printer's own settings are missing: %1</source>
         <translation>无法使用打印机专用设置：%1</translation>
     </message>
     <message>
@@ -1786,7 +1636,7 @@ For the command line: %2</source>
         <translation>此打印机一次最多打印 %1 份，而不是 %2 份。</translation>
     </message>
     <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <source>A page of the printer's settings cannot be shown: %1</source>
         <translation>无法显示打印机的设置页：%1</translation>
     </message>
     <message>
@@ -1797,7 +1647,7 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
     </message>
-    <message>
+<message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
     </message>
@@ -1805,7 +1655,17 @@ For the command line: %2</source>
         <source>Printing was canceled.</source>
         <translation>已取消打印。</translation>
     </message>
+<message>
+        <source>What is passed on as it is cannot be printed to a file.</source>
+        <translation>原样传送的文档无法打印到文件。</translation>
+    </message>
     <message>
+        <source>Not everything that is set for this printer could be taken:
+%1</source>
+        <translation>为此打印机设置的内容未能全部采用：
+%1</translation>
+    </message>
+<message>
         <source>There is no job attribute of the name %1.</source>
         <translation>没有名为 %1 的作业属性。</translation>
     </message>
@@ -1926,6 +1786,10 @@ For the command line: %2</source>
         <source>All files (*)</source>
         <translation>所有文件 (*)</translation>
     </message>
+<message>
+        <source>PostScript (*.ps);;All files (*)</source>
+        <translation>PostScript (*.ps);;所有文件 (*)</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrinterPopup</name>
@@ -2010,7 +1874,7 @@ For the command line: %2</source>
         <source>The printer “%1” does not take these settings of a job: %2. Nothing was printed.</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
     </message>
-    <message>
+<message>
         <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
         <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
     </message>
@@ -2100,6 +1964,191 @@ For the command line: %2</source>
     <message>
         <source>Choose Documents to Print</source>
         <translation>选择要打印的文档</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCopies</name>
+    <message>
+        <source>all documents, then all of them again (A B A B)</source>
+        <translation>所有文档依次打印一份后再重复 (A B A B)</translation>
+    </message>
+    <message>
+        <source>each document with all its copies (A A B B)</source>
+        <translation>每个文档连续打印所有份数 (A A B B)</translation>
+    </message>
+    <message>
+        <source>each page with all its copies (1 1 2 2)</source>
+        <translation>每一页连续打印所有份数 (1 1 2 2)</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
+        <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPages</name>
+    <message>
+        <source>Nothing would be printed: what came out has no page.</source>
+        <translation>不会打印任何内容：生成的数据中没有页面。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 页</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 页</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 张</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 张</translation>
+    </message>
+    <message>
+        <source>“%1” has %2</source>
+        <translation>“%1”有 %2</translation>
+    </message>
+    <message>
+        <source>The document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>the document has %1</source>
+        <translation>该文档有 %1</translation>
+    </message>
+    <message>
+        <source>%1 and later</source>
+        <translation>%1 及之后</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 is not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>%1; %2 are not in it.</source>
+        <translation>%1；其中没有第 %2 页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only even pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了偶数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and only odd pages were chosen.</source>
+        <translation>不会打印任何内容：%1，而只选择了奇数页。</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: %1, and none of them is left.</source>
+        <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because only one side is printed</source>
+        <translation>将单面打印，因为只有一面要打印</translation>
+    </message>
+    <message>
+        <source>comes out one-sided, because each document has only one side</source>
+        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
+    </message>
+    <message>
+        <source>one-sided where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档将单面打印：%1</translation>
+    </message>
+    <message>
+        <source>could not be counted</source>
+        <translation>无法计数</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 copies = %3</source>
+        <translation>%1 × %2 份 = %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <translation>%1 为 %2 %</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>纸张数</translation>
+    </message>
+    <message>
+        <source>Pages Not There</source>
+        <translation>不存在的页</translation>
+    </message>
+    <message>
+        <source>Printed Size</source>
+        <translation>打印大小</translation>
+    </message>
+</context>
+<context>
+    <name>PassedOn</name>
+    <message>
+        <source>The queue “%1” passes files on as they are: %2 cannot be done.</source>
+        <translation>队列“%1”会原样传送文件：无法执行 %2。</translation>
+    </message>
+    <message>
+        <source>With “raw” files are passed on as they are: %1 cannot be done.</source>
+        <translation>使用“raw”时文件会原样传送：无法执行 %1。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Passed on as it is</source>
+        <translation>原样传送</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeEditor</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>其他…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::AttributeRows</name>
+    <message>
+        <source>&amp;More</source>
+        <translation>更多(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>More, %1</source>
+        <translation>更多，%1</translation>
     </message>
 </context>
 </TS>
