@@ -6,6 +6,8 @@
 
 namespace corvana::attribute {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // More of them could neither be shown nor be chosen from.
@@ -38,7 +40,47 @@ bool isKeyword(const QString &value)
                         [&](QChar c) { return kMeaningful.contains(c); });
 }
 
+// As a job option has it. Null where there is no such form.
+QString optionValueAt(ipp_attribute_t *attribute, int index)
+{
+    switch (ippGetValueTag(attribute)) {
+    case IPP_TAG_INTEGER:
+    case IPP_TAG_ENUM:
+        return QString::number(ippGetInteger(attribute, index));
+    case IPP_TAG_BOOLEAN:
+        return ippGetBoolean(attribute, index) ? u"true"_s : u"false"_s;
+    case IPP_TAG_RANGE: {
+        int upper = 0;
+        const int lower = ippGetRange(attribute, index, &upper);
+        return u"%1-%2"_s.arg(lower).arg(upper);
+    }
+    case IPP_TAG_RESOLUTION: {
+        ipp_res_t unit = IPP_RES_PER_INCH;
+        int y = 0;
+        const int x = ippGetResolution(attribute, index, &y, &unit);
+        const QString name = unit == IPP_RES_PER_CM ? u"dpcm"_s : u"dpi"_s;
+        return x == y ? QString::number(x) + name : u"%1x%2"_s.arg(x).arg(y) + name;
+    }
+    default: {
+        const QString value = stringAt(attribute, index);
+        return isKeyword(value) ? value : QString();
+    }
+    }
+}
+
 } // namespace
+
+QStringList optionValuesOf(ipp_attribute_t *attribute)
+{
+    QStringList values;
+    for (int i = 0; i < valueCount(attribute); ++i) {
+        const QString value = optionValueAt(attribute, i);
+        if (value.isNull())
+            return {};
+        values += value;
+    }
+    return values;
+}
 
 ipp_attribute_t *find(ipp_t *attributes, const char *name)
 {

@@ -28,6 +28,10 @@ QStringList keywordsOf(ipp_t *attributes, const char *name);
 /// Whether the values are integers or enumerations.
 bool isNumber(ipp_attribute_t *attribute);
 
+/// All values in the form that job options have ("two-sided-long-edge", "4", "600dpi"). Empty where
+/// one of them has no such form.
+QStringList optionValuesOf(ipp_attribute_t *attribute);
+
 /// Integers and enumerations, each once.
 QList<int> numbersOf(ipp_t *attributes, const char *name);
 

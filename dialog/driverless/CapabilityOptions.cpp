@@ -351,6 +351,8 @@ CapabilityOption finishing(const char *keyword, QLatin1StringView name,
 
 QList<CapabilityOption> capabilityOptions(const PrinterCapabilities &printer)
 {
+    if (printer.passesFilesOn)
+        return {};
     QList<CapabilityOption> options{
         pageSize(printer),
         sides(printer),

@@ -5,6 +5,7 @@
 
 #include "dialog/driverless/AttributeReading.h"
 #include "dialog/driverless/CapabilityPapers.h"
+#include "dialog/driverless/QueueDefaults.h"
 
 namespace corvana {
 
@@ -91,6 +92,9 @@ PrinterCapabilities capabilitiesOf(ipp_t *attributes)
     PrinterCapabilities printer;
     printer.info = textOf(attributes, "printer-info");
     printer.makeAndModel = textOf(attributes, "printer-make-and-model");
+    printer.passesFilesOn = isRawQueue(attributes);
+    if (printer.passesFilesOn)
+        return printer;
     readPapers(attributes, printer);
     readMediaDetails(attributes, printer);
 

@@ -54,6 +54,9 @@ struct MediaSizeRange
 /// Nothing listed means that the printer does not say.
 struct PrinterCapabilities
 {
+    /// Documents reach the printer as they are: none of what follows can be asked for.
+    bool passesFilesOn = false;
+
     QString info;         ///< what the administrator calls it
     QString makeAndModel; ///< what the maker calls it
 

@@ -34,4 +34,22 @@ std::optional<JobStatus> FollowedJob::lookUp(ServerConnection &connection)
     return status;
 }
 
+JobProgress FollowedJob::progress(const JobStatus &status) const
+{
+    JobProgress progress{JobProgress::Stage::Waiting,
+                         m_outcomes.job(),
+                         status.pages,
+                         0,
+                         0,
+                         status.message,
+                         status.reasons};
+    if (status.state == IPP_JSTATE_PROCESSING)
+        progress.stage = JobProgress::Stage::Printing;
+    else if (status.state == IPP_JSTATE_HELD)
+        progress.stage = JobProgress::Stage::Held;
+    else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
+        progress.stage = JobProgress::Stage::Stopped;
+    return progress;
+}
+
 } // namespace corvana

@@ -29,6 +29,8 @@ public:
 
     /// Errors: as lookUpJob().
     std::optional<JobStatus> lookUp(ServerConnection &connection);
+    /// How far a job is that its server describes so.
+    JobProgress progress(const JobStatus &status) const;
 
 private:
     Printer m_queue;

@@ -32,29 +32,10 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ServerJob)
 };
 
-JobProgress progressOf(const JobStatus &status, int job)
-{
-    JobProgress progress{
-        JobProgress::Stage::Waiting, job, status.pages, 0, 0, status.message, status.reasons};
-    if (status.state == IPP_JSTATE_PROCESSING)
-        progress.stage = JobProgress::Stage::Printing;
-    else if (status.state == IPP_JSTATE_HELD)
-        progress.stage = JobProgress::Stage::Held;
-    else if (status.printerStopped || status.state == IPP_JSTATE_STOPPED)
-        progress.stage = JobProgress::Stage::Stopped;
-    return progress;
-}
-
 bool isHeldForLogIn(const JobStatus &status)
 {
     return status.state == IPP_JSTATE_HELD &&
            status.reasons.contains("cups-held-for-authentication"_L1);
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // One job, from the question whether to send it at all to its end. What it comes to is put into
@@ -136,7 +117,10 @@ private:
         context.mayAsk = false;
         context.patience.connecting = std::min(context.patience.connecting, kPatienceAfterFailure);
         context.patience.answering = std::min(context.patience.answering, kPatienceAfterFailure);
+        const bool isFollowed = m_connection == m_another.get();
         m_another = std::make_unique<ServerConnection>(context, nullptr);
+        if (isFollowed) // on the one that has just gone
+            m_connection = m_another.get();
         return *m_another;
     }
 
@@ -172,17 +156,15 @@ private:
             return earlier;
         if (m_request.printer.origin != PrinterOrigin::Queue)
             return std::nullopt;
-        const QueueDetails now =
-            lookForNewPpd(*m_connection, m_request.printer, m_request.ppdLastModified);
+        const QueueDetails now = fetchPpdOnly(*m_connection, m_request.printer);
+        const PpdCopy &opened = *m_request.ppd;
         switch (now.state) {
-        case QueueDetails::Ppd::Unchanged:
-            return std::nullopt;
-        case QueueDetails::Ppd::New:
-            if (now.ppd == contentOf(m_request.ppdPath))
-                return std::nullopt; // installed once more, or its queue was
+        case QueueDetails::Ppd::Read:
+            if (!opened.isWritten && now.ppdHash == opened.hash)
+                return std::nullopt;
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::None:
-            if (m_request.ppdLastModified == 0)
+            if (opened.isWritten)
                 return std::nullopt;
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::Unknown:
@@ -329,7 +311,7 @@ private:
                            : m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
             if (status->isOver())
                 return ended(*status);
-            const JobProgress progress = progressOf(*status, job());
+            const JobProgress progress = m_followed.progress(*status);
             m_report(progress);
             if (status->state == IPP_JSTATE_STOPPED)
                 return m_outcomes.stopped(*status);

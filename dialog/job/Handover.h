@@ -9,11 +9,15 @@
 #include "dialog/job/Document.h"
 #include "dialog/job/JobOutcome.h"
 #include "dialog/job/JobProgress.h"
+#include "dialog/printers/PpdCopy.h"
 #include "dialog/printers/Printer.h"
 #include "dialog/server/ServerWork.h"
 #include "dialog/session/JobTicket.h"
 
 namespace corvana {
+
+/// The format of documents that a server hands on past all filters.
+inline constexpr QLatin1StringView kRawFormat{"application/vnd.cups-raw"};
 
 /// A job for a queue of a print server, or for an IPP printer.
 struct ServerJobRequest
@@ -22,11 +26,9 @@ struct ServerJobRequest
     Printer printer;
     QList<Document> documents;
     JobTicket ticket;
-    /// The PPD that documents are put together with; never empty.
-    QString ppdPath;
-    /// When the PPD in use was last changed at the server, to find out whether it still is the
-    /// same; 0 for a queue that had none.
-    qint64 ppdLastModified = 0;
+    /// The PPD in use: documents are put together with it, and a queue that has another one by now
+    /// gets nothing. Never null.
+    SharedPpd ppd;
     /// The document formats that an IPP printer takes; empty where everything is taken.
     QStringList formats{};
     /// The attributes that an IPP printer takes with a job; empty where everything is taken, or

@@ -158,11 +158,14 @@ void ServerJob::convertForQueue()
 {
     const QList<Document> &documents = m_request.documents;
     const bool several = documents.size() > 1;
-    const bool isRaw = m_request.ppdLastModified == 0;
+    // What goes past the filters is nothing that they could put together.
+    if (documents.constFirst().format == kRawFormat)
+        return send(documents, m_request.ticket);
+    const bool isRaw = m_request.ppd->isWritten;
     const bool picks = mustPickPages(m_request.ticket.options);
     if (const QString problem = isRaw ? problemOfRawQueue() : QString(); !problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
-    const PpdStream stream = isRaw ? PpdStream() : streamOfPpd(m_request.ppdPath);
+    const PpdStream stream = isRaw ? PpdStream() : streamOfPpd(m_request.ppd->path);
     if (several && !stream.continues && !stream.isCutByServer)
         return putTogether();
     if (picks)
@@ -223,7 +226,7 @@ void ServerJob::convertForDevice()
 void ServerJob::putTogether()
 {
     m_isPutTogether = true;
-    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppd->path};
     request.result = ConversionRequest::Result::Pdf;
     request.layout = m_request.ticket.options;
     runConversion(request, kPdf);
@@ -240,14 +243,15 @@ void ServerJob::pickNext()
         ticket.options = withoutPageChoice(ticket.options);
         return send(m_picked, ticket);
     }
-    ConversionRequest request{{m_request.documents.at(next)}, m_request.ticket, m_request.ppdPath};
+    ConversionRequest request{
+        {m_request.documents.at(next)}, m_request.ticket, m_request.ppd->path};
     request.result = ConversionRequest::Result::ChosenPages;
     runConversion(request, kPdf);
 }
 
 ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
 {
-    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppd->path};
     request.result = ConversionRequest::Result::Pdf;
     request.layout = pages;
     if (!m_request.chosenOptions.isEmpty())
@@ -257,7 +261,7 @@ ConversionRequest ServerJob::toPdf(const QList<JobOption> &pages) const
 
 ConversionRequest ServerJob::toRaster() const
 {
-    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppdPath};
+    ConversionRequest request{m_request.documents, m_request.ticket, m_request.ppd->path};
     request.ticket.copies = 1; // the printer repeats them
     return request;
 }

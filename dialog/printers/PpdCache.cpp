@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
@@ -29,10 +30,11 @@ constexpr QLatin1StringView kMakeAndModel = "makeAndModel"_L1;
 constexpr QLatin1StringView kUri = "uri"_L1;
 constexpr QLatin1StringView kDeviceUri = "deviceUri"_L1;
 constexpr QLatin1StringView kIsClass = "isClass"_L1;
-constexpr QLatin1StringView kLastModified = "lastModified"_L1;
 // Entries that have another name for it are of times when nobody looked at a PPD before it was
 // stored.
 constexpr QLatin1StringView kHash = "sha256"_L1;
+
+constexpr QLatin1StringView kDefaults = "defaults"_L1;
 
 constexpr QLatin1StringView kEntrySuffix = ".json"_L1;
 // Enough to tell the PPDs of one queue apart. Units: hexadecimal digits.
@@ -63,6 +65,27 @@ QString ppdSuffix(const QByteArray &hash)
     return u"-%1.ppd"_s.arg(QLatin1StringView(hash.first(qMin(kHashInName, hash.size()))));
 }
 
+// In the order in which they apply, each as [name, value].
+QJsonArray toJson(const QList<JobOption> &options)
+{
+    QJsonArray array;
+    for (const JobOption &option : options)
+        array += QJsonArray{option.name, option.value};
+    return array;
+}
+
+QList<JobOption> fromJson(const QJsonArray &array)
+{
+    QList<JobOption> options;
+    for (const QJsonValue &value : array) {
+        const QJsonArray pair = value.toArray();
+        const JobOption option{pair.at(0).toString(), pair.at(1).toString()};
+        if (!option.name.isEmpty() && !option.value.isEmpty())
+            options += option;
+    }
+    return options;
+}
+
 bool save(const QString &path, const QByteArray &content)
 {
     QSaveFile file(path);
@@ -86,8 +109,7 @@ QByteArray contentOf(const QString &path, qint64 most)
 bool isPpd(const QByteArray &content)
 {
     QString error;
-    const SharedPpd copy =
-        content.size() <= kLargestPpd ? temporaryPpd(content, 0, &error) : nullptr;
+    const SharedPpd copy = content.size() <= kLargestPpd ? temporaryPpd(content, &error) : nullptr;
     if (copy && openPpdFile(copy->path, &error))
         return true;
     qCWarning(lcPpdCache).noquote() << "What was fetched is no PPD and is not kept:" << error;
@@ -137,17 +159,20 @@ std::optional<FetchedPrinter> PpdCache::find(const QString &server, const QStrin
     printer.deviceUri = said.value(kDeviceUri).toString();
     printer.isClass = said.value(kIsClass).toBool();
     noteUse(path);
-    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(
-                                       PpdCopy{path, said.value(kLastModified).toInteger(), hash})};
+    return FetchedPrinter{printer, std::make_shared<const PpdCopy>(PpdCopy{path, hash}),
+                          fromJson(said.value(kDefaults).toArray())};
 }
 
-SharedPpd PpdCache::store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                          qint64 lastModified) const
+SharedPpd PpdCache::store(const QString &server, const QueueDetails &details) const
 {
-    if (!isPpd(ppd))
-        return nullptr;
-    const QByteArray hash = hashOfPpd(ppd);
+    const Printer &printer = details.printer;
+    const QByteArray &ppd = details.ppd;
+    const QByteArray &hash = details.ppdHash;
     const QString path = pathOf(server, printer.name, ppdSuffix(hash));
+    // What lies there already was opened before it was stored.
+    const bool isThere = !ppd.isEmpty() && contentOf(path, kLargestPpd) == ppd;
+    if (!isThere && !isPpd(ppd))
+        return nullptr;
     if (!QDir().mkpath(QFileInfo(path).path()))
         return nullptr;
     // Where a printer stands, and how it is reached, is nobody else's business.
@@ -156,16 +181,17 @@ SharedPpd PpdCache::store(const QString &server, const Printer &printer, const Q
         {kDescription, printer.description},   {kLocation, printer.location},
         {kMakeAndModel, printer.makeAndModel}, {kUri, printer.uri},
         {kDeviceUri, printer.deviceUri},       {kIsClass, printer.isClass},
-        {kLastModified, lastModified},         {kHash, QString::fromLatin1(hash)}};
-    const bool isThere = contentOf(path, kLargestPpd) == ppd;
+        {kHash, QString::fromLatin1(hash)},    {kDefaults, toJson(details.defaults)}};
     if (isThere)
         noteUse(path);
     if (!isThere && !save(path, ppd))
         return nullptr;
-    if (!save(pathOf(server, printer.name, kEntrySuffix), QJsonDocument(said).toJson()))
+    const QString entry = pathOf(server, printer.name, kEntrySuffix);
+    const QByteArray text = QJsonDocument(said).toJson();
+    if (contentOf(entry, kLargestDescription) != text && !save(entry, text))
         return nullptr;
     removeFormerPpds(server, printer.name, path);
-    return std::make_shared<const PpdCopy>(PpdCopy{path, lastModified, hash});
+    return std::make_shared<const PpdCopy>(PpdCopy{path, hash});
 }
 
 void PpdCache::remove(const QString &server, const QString &queue) const

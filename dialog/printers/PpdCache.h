@@ -6,11 +6,13 @@
 #include <QString>
 
 #include "dialog/printers/FetchedPrinter.h"
+#include "dialog/printers/QueueRequests.h"
 
 namespace corvana {
 
 /// The PPDs of the queues that were used, so that a printer is there at once, even while its server
-/// is away. One folder of the user's; entries appear and disappear as a whole.
+/// is away. What is kept is for that moment only: nobody spares himself the way to the server
+/// because of it. One folder of the user's; entries appear and disappear as a whole.
 ///
 /// A file holds one PPD for as long as it exists: a new one of the same queue gets a file of its
 /// own. Whoever has opened the former one, in this process or another, prints with what was opened.
@@ -26,9 +28,8 @@ public:
     /// PPD is not the one that was stored is dropped, so that the server is asked for a whole one.
     std::optional<FetchedPrinter> find(const QString &server, const QString &queue) const;
 
-    /// Keeps a PPD that opens. Errors: null; the queue then works from wherever its PPD is.
-    SharedPpd store(const QString &server, const Printer &printer, const QByteArray &ppd,
-                    qint64 lastModified) const;
+    /// Keeps a queue whose PPD opens. Errors: null; the queue then works from wherever its PPD is.
+    SharedPpd store(const QString &server, const QueueDetails &details) const;
     void remove(const QString &server, const QString &queue) const;
 
 private:

@@ -28,23 +28,26 @@ SharedPpd ppdOfFile(const QString &path)
     return std::make_shared<const PpdCopy>(PpdCopy{path});
 }
 
-SharedPpd temporaryPpd(const QByteArray &content, qint64 lastModified, QString *error)
+SharedPpd temporaryPpd(const QByteArray &content, QString *error)
 {
     auto file =
         std::make_shared<QTemporaryFile>(QDir::temp().filePath(u"corvana-print-XXXXXX.ppd"_s));
     if (file->open() && file->write(content) == content.size() && file->flush())
         return std::make_shared<const PpdCopy>(
-            PpdCopy{file->fileName(), lastModified, hashOfPpd(content), file});
+            PpdCopy{file->fileName(), hashOfPpd(content), false, file});
     *error = Texts::tr("The printer's options cannot be written to %1: %2")
                  .arg(QDir::tempPath(), file->errorString());
     return nullptr;
 }
 
-SharedPpd withDate(const SharedPpd &ppd, qint64 lastModified)
+SharedPpd writtenPpd(const QByteArray &content, QString *error)
 {
-    PpdCopy dated = *ppd;
-    dated.lastModified = lastModified;
-    return std::make_shared<const PpdCopy>(std::move(dated));
+    const SharedPpd ppd = temporaryPpd(content, error);
+    if (!ppd)
+        return nullptr;
+    PpdCopy written = *ppd;
+    written.isWritten = true;
+    return std::make_shared<const PpdCopy>(std::move(written));
 }
 
 } // namespace corvana

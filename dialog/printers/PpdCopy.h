@@ -14,26 +14,26 @@ namespace corvana {
 struct PpdCopy
 {
     QString path;
-    /// When it was changed at its server. Units: seconds since 1970; 0 where nobody knows, or where
-    /// it comes from no server.
-    qint64 lastModified = 0;
     QByteArray hash{}; ///< see hashOfPpd(); empty where nobody has to compare it
+    /// It was written here, because its printer has none.
+    bool isWritten = false;
     /// Removes the file behind the last one who works with it; null for a file that stays.
     std::shared_ptr<QTemporaryFile> owner{};
 };
 
 using SharedPpd = std::shared_ptr<const PpdCopy>;
 
-/// By which a PPD is known again.
+/// By which a PPD is known again. Its date says nothing: a PPD that is restored from a backup is
+/// older than the one in its place, and servers count whole seconds.
 QByteArray hashOfPpd(const QByteArray &ppd);
 
 /// A PPD that somebody else keeps in a file.
 SharedPpd ppdOfFile(const QString &path);
 
 /// Writes a PPD into a file of its own. Errors: null; `error` says why it cannot be written.
-SharedPpd temporaryPpd(const QByteArray &content, qint64 lastModified, QString *error);
+SharedPpd temporaryPpd(const QByteArray &content, QString *error);
 
-/// The same PPD with the date that its server gives it by now.
-SharedPpd withDate(const SharedPpd &ppd, qint64 lastModified);
+/// The same for a printer that has none: what it says of itself, as a PPD.
+SharedPpd writtenPpd(const QByteArray &content, QString *error);
 
 } // namespace corvana

@@ -18,33 +18,31 @@ struct Texts
 };
 
 FetchedPrinter withWrittenPpd(const Printer &printer, const PrinterCapabilities &capabilities,
-                              QString *error)
+                              const QList<JobOption> &defaults, QString *error)
 {
-    return {printer, temporaryPpd(ppdOfCapabilities(capabilities), 0, error),
+    return {printer, writtenPpd(ppdOfCapabilities(capabilities), error), defaults,
             std::make_shared<const PrinterCapabilities>(capabilities)};
 }
 
 SharedPpd keptPpd(const QueueDetails &details, const PpdCache &cache, const ServerAddress &server,
                   QString *error)
 {
-    SharedPpd kept =
-        cache.store(server.argument(), details.printer, details.ppd, details.lastModified);
+    SharedPpd kept = cache.store(server.argument(), details);
     // Without a cache it works as well, only not while the server is away.
-    return kept ? kept : temporaryPpd(details.ppd, details.lastModified, error);
+    return kept ? kept : temporaryPpd(details.ppd, error);
 }
 
 } // namespace
 
-FetchedPrinter fetchedPrinter(const QueueDetails &details, const SharedPpd &known,
-                              const PpdCache &cache, const ServerAddress &server, QString *error)
+FetchedPrinter fetchedPrinter(const QueueDetails &details, const PpdCache &cache,
+                              const ServerAddress &server, QString *error)
 {
     switch (details.state) {
     case QueueDetails::Ppd::None:
-        return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()), error);
-    case QueueDetails::Ppd::New:
-        return {details.printer, keptPpd(details, cache, server, error)};
-    case QueueDetails::Ppd::Unchanged:
-        return {details.printer, known};
+        return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()),
+                              details.defaults, error);
+    case QueueDetails::Ppd::Read:
+        return {details.printer, keptPpd(details, cache, server, error), details.defaults};
     case QueueDetails::Ppd::Unknown:
         break;
     }
@@ -75,7 +73,7 @@ FetchedPrinter filePrinter(QString *error)
     Printer printer;
     printer.name = u"file"_s;
     printer.description = Texts::tr("PostScript File");
-    return withWrittenPpd(printer, PrinterCapabilities(), error);
+    return withWrittenPpd(printer, PrinterCapabilities(), {}, error);
 }
 
 } // namespace corvana

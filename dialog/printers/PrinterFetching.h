@@ -6,12 +6,11 @@
 
 namespace corvana {
 
-/// Puts what a server said of a queue where a session can open it: a new PPD into the cache, the
-/// PPD that a queue without one needs into a file of its own. `known` is the PPD that is here and
-/// may be unchanged; null where there is none.
+/// Puts what a server said of a queue where a session can open it: its PPD into the cache, the PPD
+/// that a queue without one needs into a file of its own.
 /// Errors: no PPD; `error` says what could not be written.
-FetchedPrinter fetchedPrinter(const QueueDetails &details, const SharedPpd &known,
-                              const PpdCache &cache, const ServerAddress &server, QString *error);
+FetchedPrinter fetchedPrinter(const QueueDetails &details, const PpdCache &cache,
+                              const ServerAddress &server, QString *error);
 
 /// A printer that is a PPD file.
 FetchedPrinter printerWithItsFile(const Printer &printer);

@@ -51,7 +51,7 @@ QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &serv
 bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
 {
     QString error;
-    const SharedPpd copy = temporaryPpd(details.ppd, 0, &error);
+    const SharedPpd copy = temporaryPpd(details.ppd, &error);
     const PpdFile ppd = copy ? openPpdFile(copy->path, &error) : nullptr;
     return ppd && decidePanels(ppd.get(), details.printer, bundleRoots).panels;
 }
@@ -124,8 +124,8 @@ Printer PrinterSource::first()
     Printer printer = queueNamed(name, &m_deviceServer.address);
     if (printer.origin == PrinterOrigin::Device)
         return printer;
-    const auto cached = m_cache.find(m_queues.context().address.argument(), name);
-    return cached ? cached->printer : printer;
+    m_first = m_cache.find(m_queues.context().address.argument(), name);
+    return m_first ? m_first->printer : printer;
 }
 
 const ServerContext &PrinterSource::serverOf(const Printer &printer) const
@@ -157,12 +157,9 @@ void PrinterSource::openWanted()
     });
 }
 
-// What is in the cache only spares the way of options that have not changed.
 void PrinterSource::openFresh(const QString &name)
 {
     reset(queueNamed(name, &m_deviceServer.address));
-    if (const auto cached = m_cache.find(m_queues.context().address.argument(), name))
-        m_known = cached->ppd;
     if (!lacksInstance())
         inspect(true);
 }
@@ -172,7 +169,6 @@ void PrinterSource::reset(const Printer &printer)
 {
     m_inspection = {};
     m_open = {printer};
-    m_known = nullptr;
     m_inspecting = false;
     m_inspectionFailed = false;
     m_configured = 0;
@@ -193,9 +189,9 @@ void PrinterSource::open(const Printer &printer)
     if (lacksInstance())
         return;
     if (printer.origin == PrinterOrigin::Queue) {
-        const QString server = m_queues.context().address.argument();
-        if (const auto cached = m_cache.find(server, printer.name)) {
-            m_open.ppd = m_known = cached->ppd;
+        if (const auto cached = kept(printer)) {
+            m_open.ppd = cached->ppd;
+            m_open.defaults = cached->defaults;
             Q_EMIT ready(FetchedPrinter(m_open));
         }
     }
@@ -219,6 +215,15 @@ bool PrinterSource::lacksInstance()
     return true;
 }
 
+// As the printer was when it was used last. The one that first() has found is not read once more.
+std::optional<FetchedPrinter> PrinterSource::kept(const Printer &printer)
+{
+    const auto first = std::exchange(m_first, std::nullopt);
+    if (first && first->printer.name == printer.name)
+        return first;
+    return m_cache.find(m_queues.context().address.argument(), printer.name);
+}
+
 void PrinterSource::retry()
 {
     if (m_open.printer.origin != PrinterOrigin::File && !lacksInstance())
@@ -230,12 +235,10 @@ void PrinterSource::inspect(bool mayAsk)
     ServerContext server = serverOf(m_open.printer);
     server.mayAsk = mayAsk;
     m_inspecting = true;
-    const qint64 since = m_known ? m_known->lastModified : 0;
-    m_inspection =
-        ServerWork(server, [this, printer = m_open.printer, since](ServerWorker &worker) {
-            const QueueDetails details = inspectQueue(worker.connection(), printer, since);
-            worker.post([this, details] { inspected(details); });
-        });
+    m_inspection = ServerWork(server, [this, printer = m_open.printer](ServerWorker &worker) {
+        const QueueDetails details = inspectQueue(worker.connection(), printer);
+        worker.post([this, details] { inspected(details); });
+    });
 }
 
 void PrinterSource::inspected(const QueueDetails &details)
@@ -254,22 +257,22 @@ void PrinterSource::inspected(const QueueDetails &details)
         return;
     }
     QString error;
-    FetchedPrinter now =
-        fetchedPrinter(details, m_known, m_cache, serverOf(m_open.printer).address, &error);
+    FetchedPrinter now = fetchedPrinter(details, m_cache, serverOf(m_open.printer).address, &error);
     if (!now.ppd) {
         Q_EMIT failed(error, error);
         return;
     }
     const bool same = m_open.ppd && now.ppd->hash == m_open.ppd->hash;
     if (same) // written anew or not, it is open where it was
-        now.ppd = withDate(m_open.ppd, details.lastModified);
+        now.ppd = m_open.ppd;
+    // Where a task starts from is another place, if nobody has gone on from there.
+    const bool startsAsBefore = same && now.defaults == m_open.defaults;
     m_open = now;
-    m_known = now.ppd;
     m_configured = details.printer.configured;
     m_lacksPpd = details.state == QueueDetails::Ppd::None;
     if (m_lacksPpd) // any more: it would be opened with the one that it had
         m_cache.remove(m_queues.context().address.argument(), m_open.printer.name);
-    if (same)
+    if (startsAsBefore)
         Q_EMIT checked(now);
     else
         Q_EMIT ready(now);
@@ -298,8 +301,8 @@ void PrinterSource::lookForBetterQueue()
     m_lacksPpd = false; // once is enough
     m_comparison = ServerWork(m_queues.context(), [this, twins](ServerWorker &worker) {
         for (const Printer &twin : twins) {
-            const QueueDetails details = inspectQueue(worker.connection(), twin, 0);
-            if (details.state == QueueDetails::Ppd::New)
+            const QueueDetails details = inspectQueue(worker.connection(), twin);
+            if (details.state == QueueDetails::Ppd::Read)
                 worker.post([this, details] { compareWith(details); });
         }
     });

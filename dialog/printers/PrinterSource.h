@@ -76,10 +76,11 @@ public:
 Q_SIGNALS:
     /// printers() or the state of the list.
     void listChanged();
-    /// The printer can be opened, or has to be opened anew because its options are others now.
+    /// The printer can be opened, or has to be opened anew because its options are others now, or
+    /// its queue's own defaults.
     void ready(const corvana::FetchedPrinter &printer);
     /// What its server says of the printer that is open, whose options are as they were: its PPD
-    /// lies where it lay, although it may have a new date.
+    /// lies where it lay.
     void checked(const corvana::FetchedPrinter &printer);
     /// The printer that is to be opened, or is open, could not be asked for; `brief` says the same
     /// in few words.
@@ -89,6 +90,7 @@ Q_SIGNALS:
     void betterQueueFound(const corvana::Printer &printer);
 
 private:
+    std::optional<FetchedPrinter> kept(const Printer &printer);
     void inspect(bool mayAsk);
     void openFresh(const QString &name);
     void reset(const Printer &printer);
@@ -107,8 +109,8 @@ private:
     ServerContext m_deviceServer; // of an IPP printer without a queue
     ServerWork m_inspection;
     ServerWork m_comparison;
-    FetchedPrinter m_open; // with a PPD once it is ready
-    SharedPpd m_known;     // its PPD as far as it is here, in use or not
+    FetchedPrinter m_open;                 // with a PPD once it is ready
+    std::optional<FetchedPrinter> m_first; // as first() has found it, until it is opened
     bool m_inspecting = false;
     bool m_inspectionFailed = false; // the server has to be asked again when it is back
     bool m_provisional = false;

@@ -2,9 +2,10 @@
 
 #include <array>
 
-#include <QDateTime>
 #include <QSet>
 
+#include "dialog/driverless/QueueDefaults.h"
+#include "dialog/printers/PpdCopy.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueues.h"
 
@@ -32,6 +33,11 @@ const QList<const char *> kListed{"printer-name",
                                   "device-uri",
                                   "printer-config-change-time",
                                   "auth-info-required"};
+
+// Without a PPD; sizes and margins of papers come only by their name.
+const QList<const char *> kWhatAPrinterCan{"all", "media-col-database"};
+// With any other name beside it, cupsd leaves out the defaults that an administrator has made up.
+const QList<const char *> kEverythingOfAQueue{"all"};
 
 PrinterState stateOf(int value)
 {
@@ -73,18 +79,11 @@ QString firstMember(ipp_t *response)
     return ippText(ippFindAttribute(response, "member-names", IPP_TAG_NAME));
 }
 
-// A date that is still to come would make a server say for years that nothing has changed. libcups
-// reads some of those as negative numbers.
-qint64 pastDate(qint64 seconds)
+// Always the whole one: whether it is the one that is here is known by its digest, and not by what
+// a server says of dates.
+void fetchPpd(ServerConnection &connection, const QString &owner, QueueDetails *details)
 {
-    return seconds > 0 && seconds <= QDateTime::currentSecsSinceEpoch() ? seconds : 0;
-}
-
-void fetchPpd(ServerConnection &connection, const QString &owner, qint64 modifiedSince,
-              QueueDetails *details)
-{
-    const ServerConnection::File file = connection.get(ppdResource(owner), modifiedSince);
-    details->lastModified = pastDate(file.lastModified);
+    const ServerConnection::File file = connection.get(ppdResource(owner));
     switch (file.state) {
     case ServerConnection::File::State::Failed:
         details->state = QueueDetails::Ppd::Unknown;
@@ -93,12 +92,10 @@ void fetchPpd(ServerConnection &connection, const QString &owner, qint64 modifie
     case ServerConnection::File::State::Missing:
         details->state = QueueDetails::Ppd::None;
         break;
-    case ServerConnection::File::State::Unchanged:
-        details->state = QueueDetails::Ppd::Unchanged;
-        break;
     case ServerConnection::File::State::Read:
-        details->state = QueueDetails::Ppd::New;
+        details->state = QueueDetails::Ppd::Read;
         details->ppd = file.content;
+        details->ppdHash = hashOfPpd(file.content);
         break;
     }
 }
@@ -200,13 +197,13 @@ QString defaultQueue(ServerConnection &connection)
                     : QString();
 }
 
-QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
-                          qint64 modifiedSince)
+QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer)
 {
     QueueDetails details;
     details.printer = printer;
+    const bool isDevice = printer.origin == PrinterOrigin::Device;
     const std::shared_ptr<ipp_t> response =
-        askPrinter(connection, printer, {"all", "media-col-database"});
+        askPrinter(connection, printer, isDevice ? kWhatAPrinterCan : kEverythingOfAQueue);
     if (!response) {
         details.problem = connection.problem();
         return details;
@@ -230,22 +227,28 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
     if (now.description.isEmpty())
         now.description = printer.description.isEmpty() ? printer.name : printer.description;
     details.printer = now;
-    if (printer.origin == PrinterOrigin::Device) {
+    if (isDevice) {
         details.state = QueueDetails::Ppd::None;
         return details;
     }
+    details.defaults = queueDefaults(response.get());
     fetchPpd(connection, now.isClass ? firstMember(response.get()) : queueOfInstance(printer.name),
-             modifiedSince, &details);
+             &details);
+    if (details.state == QueueDetails::Ppd::None && !isRawQueue(response.get()))
+        details.attributes = askPrinter(connection, printer, kWhatAPrinterCan);
+    if (!details.attributes) {
+        details.state = QueueDetails::Ppd::Unknown;
+        details.problem = connection.problem();
+    }
     return details;
 }
 
-QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
-                           qint64 modifiedSince)
+QueueDetails fetchPpdOnly(ServerConnection &connection, const Printer &printer)
 {
     QueueDetails details;
     details.printer = printer;
     if (!printer.isClass) {
-        fetchPpd(connection, queueOfInstance(printer.name), modifiedSince, &details);
+        fetchPpd(connection, queueOfInstance(printer.name), &details);
         if (details.state != QueueDetails::Ppd::None)
             return details;
     }
@@ -258,7 +261,7 @@ QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
     }
     details.state = QueueDetails::Ppd::None;
     if (const QString member = firstMember(response.get()); !member.isEmpty())
-        fetchPpd(connection, member, modifiedSince, &details);
+        fetchPpd(connection, member, &details);
     return details;
 }
 

@@ -7,6 +7,7 @@
 
 #include "dialog/printers/Printer.h"
 #include "dialog/server/ServerConnection.h"
+#include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
 
@@ -28,30 +29,26 @@ QString defaultQueue(ServerConnection &connection);
 struct QueueDetails
 {
     enum class Ppd {
-        Unknown,   ///< see `problem`
-        Unchanged, ///< the one that is here already
-        New,       ///< in `ppd`
-        None,      ///< the queue has none; `attributes` say what it supports
+        Unknown, ///< see `problem`
+        Read,    ///< in `ppd`
+        None,    ///< the queue has none; `attributes` say what it supports
     };
 
     Printer printer;
     Ppd state = Ppd::Unknown;
     QByteArray ppd{};
-    qint64 lastModified = 0;
+    QByteArray ppdHash{}; ///< see hashOfPpd()
     std::shared_ptr<ipp_t> attributes{};
+    QList<JobOption> defaults{}; ///< see queueDefaults(); none of a device
     ServerProblem problem{};
 };
 
-/// Looks at one queue and fetches its PPD, if that has changed since `modifiedSince` (0: in any
-/// case).
-QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer,
-                          qint64 modifiedSince);
+/// Looks at one queue and fetches its PPD.
+QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer);
 
-/// Looks only whether the PPD of a queue has changed since `modifiedSince`: of the answer `state`,
-/// `ppd`, `lastModified` and `problem` are of use. The problem is `NotFound` for a queue that is
-/// not there any more.
-QueueDetails lookForNewPpd(ServerConnection &connection, const Printer &printer,
-                           qint64 modifiedSince);
+/// Fetches only the PPD of a queue, to compare it: of the answer `state`, `ppd`, `ppdHash` and
+/// `problem` are of use. The problem is `NotFound` for a queue that is not there any more.
+QueueDetails fetchPpdOnly(ServerConnection &connection, const Printer &printer);
 
 /// The path of a printer's requests at its server, not escaped: libcups does that.
 QByteArray resourceOf(const Printer &printer);

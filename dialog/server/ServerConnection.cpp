@@ -148,21 +148,17 @@ void ServerConnection::noteUnread(const AnswerReader &reader)
         m_line.fail({ServerProblem::Kind::NotUnderstood});
 }
 
-ServerConnection::File ServerConnection::get(const QByteArray &resource, qint64 modifiedSince)
+ServerConnection::File ServerConnection::get(const QByteArray &resource)
 {
     qCDebug(lcServer) << "GET" << resource;
-    const auto status =
-        m_line.converse("GET", resource, true, [&] { return sendGet(resource, modifiedSince); });
+    const auto status = m_line.converse("GET", resource, true, [&] { return sendGet(resource); });
     if (!status)
         return {};
-    return *status == HTTP_STATUS_OK ? readFile() : takeRefusal(*status, modifiedSince);
+    return *status == HTTP_STATUS_OK ? readFile() : takeRefusal(*status);
 }
 
 ServerConnection::File ServerConnection::readFile()
 {
-    File file{File::State::Read,
-              {},
-              httpGetDateTime(httpGetField(m_line.http(), HTTP_FIELD_LAST_MODIFIED))};
     const bool isLast = m_line.isLastAnswer();
     AnswerReader reader(m_line.http(), m_line.wait(), kLargestFile);
     auto content = reader.readAll();
@@ -171,18 +167,15 @@ ServerConnection::File ServerConnection::readFile()
         m_line.close();
         return {};
     }
-    file.content = std::move(*content);
     if (isLast)
         m_line.close();
-    return file;
+    return {File::State::Read, std::move(*content)};
 }
 
-// "There is none" and "It has not changed" are answers; anything else is a failure.
-ServerConnection::File ServerConnection::takeRefusal(http_status_t status, qint64 modifiedSince)
+// "There is none" is an answer; anything else is a failure.
+ServerConnection::File ServerConnection::takeRefusal(http_status_t status)
 {
-    // Nothing was there before that could be unchanged.
-    const bool isUnchanged = status == HTTP_STATUS_NOT_MODIFIED && modifiedSince > 0;
-    if (!isUnchanged && status != HTTP_STATUS_NOT_FOUND) {
+    if (status != HTTP_STATUS_NOT_FOUND) {
         m_line.noteFailure(status);
         m_line.close();
         return {};
@@ -190,20 +183,14 @@ ServerConnection::File ServerConnection::takeRefusal(http_status_t status, qint6
     const bool isLast = m_line.isLastAnswer();
     if (!AnswerReader(m_line.http(), m_line.wait(), kLargestRefusal).readAll() || isLast)
         m_line.close();
-    return isUnchanged ? File{File::State::Unchanged, {}, modifiedSince}
-                       : File{File::State::Missing, {}, 0};
+    return {File::State::Missing, {}};
 }
 
-http_status_t ServerConnection::sendGet(const QByteArray &resource, qint64 modifiedSince)
+http_status_t ServerConnection::sendGet(const QByteArray &resource)
 {
     httpClearFields(m_line.http());
     if (const char *authorization = httpGetAuthString(m_line.http()))
         httpSetField(m_line.http(), HTTP_FIELD_AUTHORIZATION, authorization);
-    if (modifiedSince > 0) {
-        std::array<char, 64> date{};
-        httpSetField(m_line.http(), HTTP_FIELD_IF_MODIFIED_SINCE,
-                     httpGetDateString2(modifiedSince, date.data(), static_cast<int>(date.size())));
-    }
     // A connection that had been idle for too long is made anew.
     if (httpGet(m_line.http(), resource.constData()) != 0 &&
         (!m_line.reconnect() || httpGet(m_line.http(), resource.constData()) != 0))

@@ -44,14 +44,12 @@ public:
     /// What an HTTP GET brought.
     struct File
     {
-        enum class State { Failed, Unchanged, Missing, Read };
+        enum class State { Failed, Missing, Read };
         State state = State::Failed;
         QByteArray content;
-        qint64 lastModified = 0; ///< seconds since 1970, 0 when the server does not say
     };
-    /// Fetches a file of the server's, if it has changed since `modifiedSince` (0: in any case).
-    /// Errors: `Failed`; problem() says why.
-    File get(const QByteArray &resource, qint64 modifiedSince = 0);
+    /// Fetches a file of the server's. Errors: `Failed`; problem() says why.
+    File get(const QByteArray &resource);
 
     /// Why the last operation failed.
     const ServerProblem &problem() const { return m_line.problem(); }
@@ -88,11 +86,11 @@ private:
     http_status_t sendIpp(ipp_t *message, const QByteArray &resource, QIODevice *document,
                           const std::function<void(qint64)> &progress);
     bool sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
-    http_status_t sendGet(const QByteArray &resource, qint64 modifiedSince);
+    http_status_t sendGet(const QByteArray &resource);
     IppMessage readIpp();
     IppMessage unlessRefused(IppMessage response);
     File readFile();
-    File takeRefusal(http_status_t status, qint64 modifiedSince);
+    File takeRefusal(http_status_t status);
     void noteUnread(const AnswerReader &reader);
 
     HttpLine m_line;

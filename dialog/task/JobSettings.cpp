@@ -110,7 +110,7 @@ void JobSettings::leavePrinter()
     m_attributes.clear();
     m_chosen.clear();
     m_mostCopies = 0;
-    if (m_by == By::UserQueues) {
+    if (m_by == By::Queue || m_by == By::UserQueues) {
         m_copies = 1;
         m_by = By::Program;
     }

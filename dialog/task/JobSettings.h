@@ -16,8 +16,9 @@ namespace corvana {
 class JobSettings
 {
 public:
-    /// Who asks for a number of copies. A later one counts more.
-    enum class By { Program, UserQueues, Options, CommandLine, User };
+    /// Who asks for something. A later one counts more; startLayers() says where each one's wishes
+    /// come from.
+    enum class By { Program, Queue, UserQueues, Options, CommandLine, User };
 
     /// Takes a number of copies, unless somebody who counts more has asked already.
     /// Range: 1 and more.

@@ -12,8 +12,10 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
+#include "dialog/task/StartValues.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
@@ -79,7 +81,7 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
-    return settings.attributes();
+    return withAnswersToDefaults(settings.attributes(), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -99,9 +101,17 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
-    if (!mayPrintTexts())
+    if (passesFilesOn()) {
+        QList<JobOption> asked = m_settings.attributes();
+        const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
+        if (!problems.isEmpty())
+            return TaskRefusal{problems,
+                               m_settings.pageRanges().isEmpty() ? Place::Nowhere : Place::Pages};
+        if (printsToFile())
+            return TaskRefusal{{tr("What is passed on as it is cannot be printed to a file.")}};
+    } else if (!mayPrintTexts()) {
         return TaskRefusal{{}, Place::Nowhere, true};
-    if (!m_request.documents.isEmpty()) {
+    } else if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
             return refusal;
     }
@@ -175,11 +185,15 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        if (m_settings.attributes().contains(kRaw)) {
+            for (Document &document : request.documents)
+                document.format = kRawFormat;
+        }
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
         const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
-        request.mayBeEmpty = !sheets || isUncounted(*sheets);
+        request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
     }
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {

@@ -84,7 +84,7 @@ void PrintTask::take(const FetchedPrinter &ready)
     }
     m_chosen.next.reset();
     const bool again = m_opened != nullptr;
-    rememberSession();
+    rememberSession(&ready);
     open(ready);
     if (again && m_opened)
         Q_EMIT said({TaskMessage::Kind::Information,
@@ -159,8 +159,9 @@ void PrintTask::close()
     Q_EMIT printerClosed();
 }
 
-// Keeps what the user has set, so that it comes back with the printer.
-void PrintTask::rememberSession()
+// Keeps what the user has set, so that it comes back with the printer. `next` is what the same
+// printer is opened with now, if it is.
+void PrintTask::rememberSession(const FetchedPrinter *next)
 {
     if (m_phase != Phase::Ready)
         return;
@@ -168,15 +169,18 @@ void PrintTask::rememberSession()
     // So does what a panel has not saved yet, such as a slider that was moved: one that is left
     // saves.
     m_opened->panels->visit(-1);
-    // What was asked for on the command line is the user's as well.
-    if (isUntouched() && m_request.options.isEmpty())
+    // What was asked for on the command line is the user's as well; with the same options it is
+    // asked for anew.
+    const bool asksAnew = next && next->ppd->hash == m_opened->fetched.ppd->hash;
+    if (isUntouched() && (m_request.options.isEmpty() || asksAnew))
         return;
     QList<JobOption> attributes = m_settings.attributesOfOthers();
     attributes.removeIf(
         [](const JobOption &option) { return option.name == kPageRangesAttribute; });
     LeftSession left{m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash,
                      attributes};
-    if (m_settings.copiesAskedForBy() == JobSettings::By::UserQueues)
+    const JobSettings::By by = m_settings.copiesAskedForBy();
+    if (by == JobSettings::By::Queue || by == JobSettings::By::UserQueues)
         left.copies = m_settings.copiesAskedFor();
     left.chosen = m_settings.chosenAttributes();
     m_memory[idOf(m_chosen.printer)].session = left;

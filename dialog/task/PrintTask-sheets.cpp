@@ -6,6 +6,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/Summary.h"
 #include "dialog/sheets/SheetTexts.h"
+#include "dialog/task/PassedOn.h"
 
 namespace corvana {
 
@@ -24,7 +25,9 @@ bool mattersForSheets(const JobOption &option)
 
 JobTicket PrintTask::ticket() const
 {
-    return makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies());
+    return passesFilesOn()
+               ? ticketOfPassedOn(jobAttributes(), m_request.title, m_settings.copies())
+               : makeTicket(*m_opened, jobAttributes(), m_request.title, m_settings.copies());
 }
 
 SheetRequest PrintTask::sheetRequest(const JobTicket &ticket) const
@@ -42,7 +45,8 @@ SheetRequest PrintTask::sheetRequest(const JobTicket &ticket) const
 QList<SummaryLine> PrintTask::summary()
 {
     const QList<SummaryLine> lines = summaryOfSettings();
-    return m_request.documents.isEmpty() ? lines : withSheets(lines, ticket());
+    // Nobody lays out what is passed on as it is.
+    return m_request.documents.isEmpty() || passesFilesOn() ? lines : withSheets(lines, ticket());
 }
 
 // Says what comes out: the sheets behind the copies, and beside a choice that has no effect what
@@ -65,7 +69,7 @@ QList<SummaryLine> PrintTask::withSheets(QList<SummaryLine> lines, const JobTick
 
 void PrintTask::countSheets()
 {
-    if (!m_opened || m_phase != Phase::Ready || m_request.documents.isEmpty())
+    if (!m_opened || m_phase != Phase::Ready || m_request.documents.isEmpty() || passesFilesOn())
         return;
     const SheetRequest request = sheetRequest(ticket());
     if (!m_sheets.counted(request))
@@ -76,6 +80,11 @@ void PrintTask::countSheets()
 void PrintTask::countBeforeJob()
 {
     m_run.ticket = ticket();
+    if (passesFilesOn()) {
+        if (m_request.summary)
+            m_face.writeSummary(m_run.lines);
+        return startJob(m_run.ticket);
+    }
     enter(Phase::Printing);
     if (m_phase == Phase::Printing)
         m_sheets.count(sheetRequest(m_run.ticket), SheetCounter::When::Now);

@@ -7,6 +7,7 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/StartValues.h"
 #include "dialog/text/TextCheck.h"
@@ -67,7 +68,7 @@ void PrintTask::bringUp()
     noteMissingPages();
     if (!m_memory.value(idOf(m_chosen.printer)).session)
         m_baseline.opened = m_opened->session->snapshot();
-    m_chosen.unset = applyStartOptions();
+    applyStartOptions();
     m_baseline.started = m_opened->session->snapshot();
     m_baseline.chosen = m_settings.chosenAttributes();
     if (m_phase != Phase::Opened)
@@ -76,9 +77,7 @@ void PrintTask::bringUp()
     showSettings();
     for (const Refusal &refusal : refusals)
         sayRefusal(refusal);
-    if (!m_chosen.unset.isEmpty())
-        say(TaskMessage::Kind::Problem,
-            tr("What was asked for cannot be set:\n%1").arg(m_chosen.unset.join(u'\n')));
+    sayStartProblems();
     for (const Refusal &refusal : refusals)
         m_chosen.unset += refusalText(refusal, *m_opened->session);
 }
@@ -91,11 +90,12 @@ QList<Refusal> PrintTask::bringPanelsUp()
     return m_opened->session->takeRefusals();
 }
 
-// Takes what the printer starts with: what the user had set before, else lpoptions and what was
-// asked for. Answers what was asked for and cannot be had.
-QStringList PrintTask::applyStartOptions()
+// Takes what the printer starts with: what the user had set before, else what a job starts with.
+void PrintTask::applyStartOptions()
 {
     using By = JobSettings::By;
+    m_chosen.unset.clear();
+    m_chosen.ignored.clear();
     // What happens on the way is part of the outcome, not an event of the user's.
     const QSignalBlocker blocker(m_opened->panels.get());
     const Memory &memory = m_memory[idOf(m_chosen.printer)];
@@ -110,24 +110,28 @@ QStringList PrintTask::applyStartOptions()
         else // its choices are those of other options; what panels wrote is not the user's either
             m_baseline.opened.entries.insert(opened.entries);
         m_opened->panels->restoreAll();
-        return takeMostCopies();
+    } else {
+        const StartOutcome started = applyStartValues(m_request, *m_opened, m_settings);
+        m_chosen.unset = started.unset;
+        m_chosen.ignored = started.ignored;
     }
-    if (m_chosen.printer.origin == PrinterOrigin::Queue) {
-        // A choice of long ago does not stop a job; what is asked for now does.
-        const FittedOptions fitted =
-            applyWhatFits(readUserQueues().optionsOf(m_chosen.printer.name), *m_opened);
-        m_settings.addAttributes(fitted.attributes);
-        if (fitted.copies)
-            m_settings.askForCopies(*fitted.copies, By::UserQueues);
-        for (const QString &problem : fitted.problems)
-            Q_EMIT ignored(problem);
-    }
-    const OptionOutcome asked =
-        applyOptions(m_request.options, *m_opened->session, m_opened->jobValues, *m_opened->panels);
-    m_settings.addAttributes(asked.attributes);
-    if (asked.copies)
-        m_settings.askForCopies(*asked.copies, By::Options);
-    return asked.problems + takeMostCopies();
+    m_chosen.unset += takeMostCopies();
+}
+
+// Everything that is not as somebody wanted it, in one message: a face shows one.
+void PrintTask::sayStartProblems()
+{
+    for (const QString &problem : std::as_const(m_chosen.ignored))
+        Q_EMIT ignored(problem);
+    QStringList texts;
+    if (!m_chosen.unset.isEmpty())
+        texts += tr("What was asked for cannot be set:\n%1").arg(m_chosen.unset.join(u'\n'));
+    if (!m_chosen.ignored.isEmpty())
+        texts += tr("Not everything that is set for this printer could be taken:\n%1")
+                     .arg(m_chosen.ignored.join(u'\n'));
+    if (!texts.isEmpty())
+        say(m_chosen.unset.isEmpty() ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem,
+            texts.join(u'\n'));
 }
 
 QStringList PrintTask::takeMostCopies()
@@ -144,8 +148,9 @@ QStringList PrintTask::takeMostCopies()
     case By::Options:
     case By::CommandLine:
         return {problem};
+    case By::Queue:
     case By::UserQueues:
-        Q_EMIT ignored(problem);
+        m_chosen.ignored += problem;
         break;
     case By::Program:
     case By::User:
@@ -157,8 +162,15 @@ QStringList PrintTask::takeMostCopies()
 
 QList<SummaryLine> PrintTask::summaryOfSettings()
 {
-    return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(),
-                          jobAttributes());
+    const QList<JobOption> attributes = jobAttributes();
+    if (passesFilesOn())
+        return summaryOfPassedOn(attributes, m_settings.copies());
+    return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(), attributes);
+}
+
+bool PrintTask::passesFilesOn() const
+{
+    return m_opened && corvana::passesFilesOn(*m_opened, m_settings.attributes());
 }
 
 // Without its controls a panel would print other choices than with them.

@@ -114,6 +114,9 @@ public:
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
+    /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
+    /// that is done to pages has an effect.
+    bool passesFilesOn() const;
 
     // The job (PrintTask-job.cpp)
 
@@ -155,7 +158,8 @@ Q_SIGNALS:
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
     void unsaid();
-    /// Something in lpoptions, which nobody has asked for just now, cannot be taken.
+    /// Something that nobody has asked for just now, in lpoptions or among the defaults of the
+    /// queue, cannot be taken or is not understood. It is said to the user as well.
     void ignored(const QString &problem);
     /// print() prints nothing.
     void refused(const corvana::TaskRefusal &refusal);
@@ -178,6 +182,7 @@ private:
         bool canBeAnother = false;          // somebody sits there who can choose
         PrinterProblem problem;             // why it cannot be asked for
         QStringList unset;                  // what was asked for with it and cannot be set
+        QStringList ignored;                // the same of what nobody has asked for just now
         std::optional<FetchedPrinter> next; // while the one that is open is in use
     };
     struct Run
@@ -212,7 +217,7 @@ private:
     void open(const FetchedPrinter &ready);
     void close();
     void proposeOutput();
-    void rememberSession();
+    void rememberSession(const FetchedPrinter *next = nullptr);
     void takeExpectedPrinter();
     void printerChecked(const FetchedPrinter &checked);
     void printerFailed(const QString &problem, const QString &brief);
@@ -221,7 +226,8 @@ private:
     bool isPrinting() const;
 
     QList<Refusal> bringPanelsUp();
-    QStringList applyStartOptions();
+    void applyStartOptions();
+    void sayStartProblems();
     QStringList takeMostCopies();
     void noteMissingPages();
     void settled();

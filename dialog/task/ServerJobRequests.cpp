@@ -13,8 +13,7 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     job.printer = printer.fetched.printer;
     job.documents = request.documents;
     job.ticket = ticket;
-    job.ppdPath = printer.fetched.ppd->path;
-    job.ppdLastModified = printer.fetched.ppd->lastModified;
+    job.ppd = printer.fetched.ppd;
     job.follow = !request.noWait;
     if (const auto &capabilities = printer.fetched.capabilities) {
         job.chosenOptions = ticket.options;

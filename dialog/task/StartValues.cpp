@@ -1,8 +1,17 @@
 #include "dialog/task/StartValues.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QCoreApplication>
 
+#include "dialog/printers/UserQueues.h"
+#include "dialog/session/AttributeChoices.h"
+#include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PassedOn.h"
+#include "dialog/task/PrintRequest.h"
 
 namespace corvana {
 
@@ -10,42 +19,249 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using By = JobSettings::By;
+using Taking = StartLayer::Taking;
+
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(StartValues)
 };
 
-} // namespace
-
-FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
+QList<JobOption> defaultsOfQueue(const OpenedPrinter &printer, const PrintRequest &)
 {
-    QList<JobOption> known;
-    QStringList unknown;
-    for (const JobOption &option : options) {
-        if (isKnownOption(option.name, *printer.session))
-            known += option;
-        else
-            unknown += option.name;
-    }
-    FittedOptions fitted;
-    // All of their names in one line: whoever has set them for another program knows them.
-    if (!unknown.isEmpty())
-        fitted.problems +=
-            Texts::tr("This printer has no option of the name %1.").arg(unknown.join(u", "_s));
+    return printer.fetched.defaults;
+}
+
+QList<JobOption> usersOptions(const OpenedPrinter &printer, const PrintRequest &)
+{
+    if (printer.fetched.printer.origin != PrinterOrigin::Queue)
+        return {};
+    return readUserQueues().optionsOf(printer.fetched.printer.name);
+}
+
+QList<JobOption> requestedOptions(const OpenedPrinter &, const PrintRequest &request)
+{
+    return request.options;
+}
+
+constexpr StartLayer kLayers[] = {
+    {By::Queue, Taking::AsFarAsItGoes, defaultsOfQueue},
+    {By::UserQueues, Taking::AsFarAsItGoes, usersOptions},
+    {By::Options, Taking::AsAWhole, requestedOptions},
+};
+
+bool isNamed(const QList<JobOption> &options, const QString &name)
+{
+    return std::any_of(options.cbegin(), options.cend(),
+                       [&](const JobOption &option) { return option.name == name; });
+}
+
+// As much as the printer has. `problems` names each option that was not taken.
+OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
+{
     const auto apply = [&](const QList<JobOption> &some) {
-        const OptionOutcome outcome =
-            applyOptions(some, *printer.session, printer.jobValues, *printer.panels);
-        fitted.attributes += outcome.attributes;
-        if (outcome.copies)
-            fitted.copies = outcome.copies;
-        return outcome.problems;
+        return applyOptions(some, *printer.session, printer.jobValues, *printer.panels);
     };
-    if (known.isEmpty() || apply(known).isEmpty())
+    if (options.isEmpty())
+        return {};
+    OptionOutcome fitted = apply(options);
+    if (fitted.ok())
         return fitted;
     // Together they cannot be taken, so each for itself, as far as they go.
-    for (const JobOption &option : std::as_const(known))
-        fitted.problems += apply({option});
+    fitted = {};
+    for (const JobOption &option : options) {
+        const OptionOutcome one = apply({option});
+        fitted.problems += one.problems;
+        fitted.attributes += one.attributes;
+        if (one.copies)
+            fitted.copies = one.copies;
+    }
     return fitted;
+}
+
+QString named(const JobOption &option)
+{
+    return u"%1=%2"_s.arg(option.name, option.value);
+}
+
+// Options that no printer, panel or attribute has the name of: whoever has set them for another
+// program knows them.
+OptionOutcome applyUsersOptions(QList<JobOption> options, OpenedPrinter &printer)
+{
+    QStringList unknown;
+    options.removeIf([&](const JobOption &option) {
+        const bool isUnknown = !isKnownOption(option.name, *printer.session);
+        if (isUnknown)
+            unknown += named(option);
+        return isUnknown;
+    });
+    OptionOutcome outcome = applyWhatFits(options, printer);
+    if (!unknown.isEmpty())
+        outcome.problems.prepend(
+            Texts::tr("This printer has no option of this name: %1.").arg(unknown.join(u", "_s)));
+    return outcome;
+}
+
+// Whether the job says what the option asks for in another way, which counts more than what the
+// server adds: by choices of the PPD, or by its number of copies.
+bool isSaidByTheJob(const JobOption &option, const OpenedPrinter &printer)
+{
+    static constexpr QLatin1StringView kNames[] = {"copies"_L1, "media"_L1, "sides"_L1};
+    return ppdOption(printer.session->ppd(), option.name) ||
+           std::any_of(std::begin(kNames), std::end(kNames),
+                       [&](QLatin1StringView name) { return option.name == name; });
+}
+
+// The server adds these to the job, understood or not. What nobody here understands, or takes, is
+// kept as it is, so that it is seen.
+OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinter &printer)
+{
+    const QString queue = printer.fetched.printer.name;
+    OptionOutcome outcome;
+    QStringList kept;
+    for (const JobOption &option : options) {
+        const bool isKnown = isKnownOption(option.name, *printer.session);
+        const OptionOutcome one = isKnown ? applyWhatFits({option}, printer) : OptionOutcome();
+        outcome.attributes += one.attributes;
+        if (one.copies)
+            outcome.copies = one.copies;
+        if (isKnown && one.ok())
+            continue;
+        if (isSaidByTheJob(option, printer)) {
+            for (const QString &problem : one.problems)
+                outcome.problems += Texts::tr("Default of the queue “%1”: %2").arg(queue, problem);
+        } else {
+            outcome.attributes += option;
+            kept += named(option);
+        }
+    }
+    if (!kept.isEmpty())
+        outcome.problems +=
+            Texts::tr("The queue “%1” adds this to each job; what it does is not known here: %2.")
+                .arg(queue, kept.join(u", "_s));
+    return outcome;
+}
+
+OptionOutcome applyLayer(const StartLayer &layer, const QList<JobOption> &options,
+                         OpenedPrinter &printer)
+{
+    switch (layer.by) {
+    case By::Queue:
+        return applyDefaultsOfQueue(options, printer);
+    case By::UserQueues:
+        return applyUsersOptions(options, printer);
+    default:
+        return applyOptions(options, *printer.session, printer.jobValues, *printer.panels);
+    }
+}
+
+// What asks for nothing, where a queue's default asks for something.
+QString usualValue(const QString &name)
+{
+    struct Usual
+    {
+        QLatin1StringView name;
+        QLatin1StringView value;
+    };
+    static constexpr Usual kUsual[] = {
+        {"page-ranges"_L1, "1-"_L1},
+        {"print-color-mode"_L1, "color"_L1},
+        {"print-quality"_L1, "4"_L1},
+    };
+    for (const Usual &usual : kUsual) {
+        if (name == usual.name)
+            return usual.value;
+    }
+    const JobAttribute *attribute = jobAttribute(name);
+    return attribute ? QString(attribute->usual) : QString();
+}
+
+// The choices that a default of the queue stands for.
+QList<JobOption> choicesOf(const JobOption &option, const OpenedPrinter &printer)
+{
+    if (!AttributeReader::isFor(option.name))
+        return {};
+    return AttributeReader(printer.session->ppd(), printer.jobValues).read(option).choices;
+}
+
+bool areMarked(const QList<JobOption> &choices, const PpdSession &session)
+{
+    return !choices.isEmpty() &&
+           std::all_of(choices.cbegin(), choices.cend(), [&](const JobOption &choice) {
+               return session.markedChoice(choice.name) == choice.value;
+           });
+}
+
+// What a job says to a default of its queue that it does not name. Nothing where it says it by
+// choices alone.
+QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attributes,
+                          const OpenedPrinter &printer)
+{
+    const JobOption inOne = inOneSpelling(option);
+    // The job says the same in the other spelling, or says otherwise. Such an option is on or off.
+    if (inOne.name != option.name)
+        return attributes.contains(inOne) ? QList<JobOption>()
+                                          : QList{JobOption{option.name, u"false"_s}};
+    const QString usual = usualValue(option.name);
+    const QList<JobOption> choices = choicesOf(option, printer);
+    // Where no value asks for nothing, the server's own stays.
+    if (usual.isEmpty())
+        return choices.isEmpty() ? QList{option} : QList<JobOption>();
+    return {areMarked(choices, *printer.session) ? option : JobOption{option.name, usual}};
+}
+
+} // namespace
+
+std::span<const StartLayer> startLayers()
+{
+    return kLayers;
+}
+
+StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printer,
+                              JobSettings &settings)
+{
+    StartOutcome outcome;
+    QList<QList<JobOption>> options;
+    for (const StartLayer &layer : startLayers())
+        options += layer.options(printer, request);
+    const bool passesOn = takeRaw(options, printer);
+    if (passesOn && !passesFilesOn(printer))
+        settings.addAttributes({kRaw});
+    for (qsizetype i = 0; i < options.size(); ++i) {
+        const StartLayer &layer = startLayers()[static_cast<std::size_t>(i)];
+        QStringList problems;
+        if (passesOn)
+            problems = takeWhatCannotBeDone(options[i], printer);
+        // What such a queue's own defaults ask for is done by nobody.
+        if (layer.by == By::Queue)
+            problems.clear();
+        const bool isRefused = layer.taking == Taking::AsAWhole && !problems.isEmpty();
+        const OptionOutcome taken =
+            isRefused ? OptionOutcome() : applyLayer(layer, options.at(i), printer);
+        problems += taken.problems;
+        if (layer.by == By::UserQueues) {
+            for (QString &problem : problems)
+                problem.prepend("lpoptions: "_L1);
+        }
+        settings.addAttributes(taken.attributes);
+        if (taken.copies)
+            settings.askForCopies(*taken.copies, layer.by);
+        (layer.taking == Taking::AsAWhole ? outcome.unset : outcome.ignored) += problems;
+    }
+    return outcome;
+}
+
+QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
+                                       const OpenedPrinter &printer)
+{
+    QList<JobOption> all = attributes;
+    if (passesFilesOn(printer))
+        return all;
+    for (const JobOption &option : printer.fetched.defaults) {
+        if (!isNamed(attributes, option.name) && !isSaidByTheJob(option, printer))
+            all += answerTo(option, attributes, printer);
+    }
+    return all;
 }
 
 } // namespace corvana

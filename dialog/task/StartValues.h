@@ -1,18 +1,50 @@
 #pragma once
 
-#include <optional>
+#include <span>
+
+#include <QList>
+#include <QStringList>
 
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/JobSettings.h"
 
 namespace corvana {
 
 struct OpenedPrinter;
+struct PrintRequest;
 
-/// What became of options that nobody has asked for just now. `problems` names each one that was
-/// not taken.
-using FittedOptions = OptionOutcome;
+/// Where the values of a job start. The PPD's own default choices are what a session begins with;
+/// the rows of startLayers() come on top of them, each over the ones before; a number of copies
+/// that has an option of its own (-n) and the user come last.
+struct StartLayer
+{
+    enum class Taking {
+        AsFarAsItGoes, ///< set long ago, for whatever jobs: what cannot be had stops none of them
+        AsAWhole,      ///< asked for just now: all of it, or nothing is printed
+    };
 
-/// Takes what the user has set for a queue with lpoptions: as much as the printer still has.
-FittedOptions applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer);
+    JobSettings::By by;
+    Taking taking;
+    QList<JobOption> (*options)(const OpenedPrinter &printer, const PrintRequest &request);
+};
+
+/// In the order in which they are taken: a later one counts more.
+std::span<const StartLayer> startLayers();
+
+/// What became of the values that a job starts with.
+struct StartOutcome
+{
+    QStringList ignored; ///< of what was set long ago; each with its origin, name and value
+    QStringList unset;   ///< what was asked for just now and cannot be had
+};
+
+/// Brings a printer that was just opened, and the settings of its job, to where a job starts.
+StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printer,
+                              JobSettings &settings);
+
+/// The attributes of a job, and an answer to each default of its queue that they do not name: the
+/// server would add that otherwise, although the user has chosen something else meanwhile.
+QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
+                                       const OpenedPrinter &printer);
 
 } // namespace corvana

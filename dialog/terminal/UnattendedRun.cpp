@@ -117,7 +117,7 @@ public:
         QObject::connect(&m_task, &PrintTask::phaseChanged, &m_loop,
                          [this](Phase phase) { phaseChanged(phase); });
         QObject::connect(&m_task, &PrintTask::ignored, &m_loop,
-                         [](const QString &problem) { sayProblem(u"lpoptions: "_s + problem); });
+                         [](const QString &problem) { sayProblem(problem); });
         QObject::connect(&m_task, &PrintTask::refused, &m_loop,
                          [this](const TaskRefusal &refusal) { end(refusal.problems); });
         QObject::connect(&m_task, &PrintTask::progressed, &m_loop,

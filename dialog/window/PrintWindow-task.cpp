@@ -38,9 +38,6 @@ void PrintWindow::connectTask()
     connect(task, &PrintTask::unsaid, m_message, &MessageBar::dismiss);
     connect(task, &PrintTask::refused, this, &PrintWindow::showRefusal);
     connect(task, &PrintTask::jobEnded, this, &PrintWindow::jobEnded);
-    connect(task, &PrintTask::ignored, this, [](const QString &problem) {
-        qCWarning(lcWindow).noquote() << "lpoptions:" << problem;
-    });
     connect(task, &PrintTask::progressed, this, [this](const JobProgress &progress) {
         m_footer->showProgress(progress, m_task->isJobHandedOver());
     });

@@ -159,6 +159,7 @@ void SettingsPages::refresh()
         return;
     const JobSettings &settings = m_task.settings();
     m_general->setMostCopies(settings.mostCopies());
+    m_general->offerPageRanges(!m_task.passesFilesOn());
     m_general->setCopies(settings.copies());
     // As it was typed, the text may hold blanks.
     if (m_general->pageRanges() != settings.pageRanges())

@@ -15,7 +15,7 @@ everyMainChoiceReachesThePrinterInsteadOfItsDefault() {
     expect_lines 'Copies: 2, collated' 'Paper Size: US Letter' 'Two-Sided Printing: Long-Edge Binding' \
         'Paper Source: Tray 1' 'Media Type: Thick Paper' 'Resolution: 1200 dpi' 'Color Mode: Color' \
         'Output To: Fax' 'Colors Matched By: Application'
-    expect_equal "$(grep -ac '^%%Page: ' "$output")" 6 # each copy after the other
+    expect_equal "$(grep -ac '^%%Page: ' "$output")" 8 # each copy begins on a sheet of its own
 }
 
 # Gray with black toner only rules out enhanced black, so it needs a run of its own.

@@ -78,7 +78,8 @@ private Q_SLOTS:
 
         fault = unsent;
         fault.arrange = [](Scene &scene) { scene.cups.rejectJobs(kQueue, u"Moving house"_s); };
-        fault.says = u"The queue “office” takes no jobs at the moment\\."_s + kNothingPrinted;
+        fault.says =
+            u"The queue “office” takes no jobs at the moment: Moving house\\."_s + kNothingPrinted;
         fault.mend = [](Scene &scene) { scene.cups.acceptJobs(kQueue); };
         QTest::newRow("takes no jobs") << fault;
 

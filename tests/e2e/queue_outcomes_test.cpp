@@ -207,6 +207,27 @@ private Q_SLOTS:
         QCOMPARE(job.user, u"lisa"_s);
     }
 
+    void theServerIsSpokenToInSecretWhereThatIsAskedFor_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("inSecret");
+        QTest::newRow("asked for") << QStringList{u"-E"_s} << true;
+        QTest::newRow("not asked for") << QStringList() << false;
+    }
+    void theServerIsSpokenToInSecretWhereThatIsAskedFor()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(bool, inSecret);
+        startServer(History::Kept);
+        addQueue(u"office"_s);
+        FaultyServer server(m_cups->port());
+        const RunEnd end = m_runner->run(
+            QStringList{u"-h"_s, server.server(), u"-d"_s, u"office"_s, kText} + arguments);
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(server.upgrades() > 0, inSecret);
+        QCOMPARE(server.count(IPP_OP_CREATE_JOB), inSecret ? 0 : 1); // it is not seen in between
+    }
+
     void anInstanceThatNobodyHasMadeIsRefused()
     {
         startServer(History::Kept);

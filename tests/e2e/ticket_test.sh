@@ -60,7 +60,8 @@ expect_summary_of_the_job() {
         key=${keyword[$title]-}
         case $key in
         '')
-            [ "$value" = "$(recorded -n)" ] || [ "$value" = 'Corvana CL-550 Color' ] ||
+            # Behind the number of copies stands whether they are collated.
+            [ "${value%%[^0-9]*}" = "$(recorded -n)" ] || [ "$value" = 'Corvana CL-550 Color' ] ||
                 fail "no option has the title of: $line"
             continue
             ;;

@@ -150,8 +150,8 @@ documentsAreOfferedByTheirKind() {
 
 # refused_as_unknown OPTION: whether the program has never heard of it.
 refused_as_unknown() {
-    ! "$build/bin/corvana-print" --demo --no-dialog --summary -o "$1" >"$work/out" 2>&1 &&
-        grep -q 'no option of the name' "$work/out"
+    ! "$build/bin/corvana-print" --bundle-root "$build/plugins" --demo --no-dialog --summary -o "$1" >"$work/out" 2>&1 &&
+        grep -q 'has no such option' "$work/out"
 }
 
 keywordsOfJobsAreOffered() {
@@ -171,8 +171,8 @@ valuesOfKeywordsAreOffered() {
     expect_equal "$(offered corvana-print -o page-set =)" 'all even odd '
     for keyword in $(complete_line corvana-print -o ''); do
         for value in $(complete_line corvana-print -o "${keyword%=}" = ''); do
-            "$build/bin/corvana-print" --demo --no-dialog --summary -o "$keyword$value" \
-                >"$work/out" 2>&1 || fail "not taken: $keyword$value" "$(cat "$work/out")"
+            "$build/bin/corvana-print" --bundle-root "$build/plugins" --demo --no-dialog \
+                --summary -o "$keyword$value" >"$work/out" 2>&1 || fail "not taken: $keyword$value" "$(cat "$work/out")"
         done
     done
 }
@@ -186,7 +186,7 @@ everyShellOffersTheSame() {
             case $shell:$word in
             fish:--*) grep -qE -- " -l ${word#--}( |\$)" "$file" ;;
             fish:*) grep -qE -- " -s ${word#-}( |\$)" "$file" ;;
-            *) grep -qE -- "[{',)]$word[]+=,[}]" "$file" ;;
+            *) grep -qE -- "[{',)*]$word[]+=,[}]" "$file" ;;
             esac || fail "not offered in $shell: $word"
         done
         for word in $(complete_line corvana-print -o ''); do
@@ -234,7 +234,7 @@ theActionsOfFileManagersAreForTheFilesThatTheProgramPrints() {
 
 # default_of TYPE: what opens a file of a type where no other program is installed.
 default_of() {
-    env -i PATH="$PATH" HOME="$work/home" XDG_DATA_DIRS="$work/share" XDG_DATA_HOME="$work/none" \
+    env -i LC_ALL=C.UTF-8 PATH="$PATH" HOME="$work/home" XDG_DATA_DIRS="$work/share" XDG_DATA_HOME="$work/none" \
         XDG_CONFIG_DIRS="$work/none" XDG_CONFIG_HOME="$work/none" gio mime "$1" 2>&1
 }
 

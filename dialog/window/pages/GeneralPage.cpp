@@ -144,6 +144,11 @@ void GeneralPage::setPageRanges(const QString &ranges)
     m_pageRanges->setText(ranges);
 }
 
+void GeneralPage::offerPageRanges(bool offer)
+{
+    m_rows->setRowVisible(m_pageRanges, offer || !pageRanges().isEmpty());
+}
+
 void GeneralPage::focusPageRanges()
 {
     m_pageRanges->setFocus();

@@ -45,6 +45,8 @@ public:
     /// The pages to print ("1-4,7"); empty for all. As typed, less blanks.
     QString pageRanges() const;
     void setPageRanges(const QString &ranges);
+    /// Whether pages can be chosen at all. What was typed already stays to be seen.
+    void offerPageRanges(bool offer);
     /// Puts the focus where the pages are typed.
     void focusPageRanges();
     /// Shows the session's marks.

@@ -32,13 +32,13 @@ PrinterAttributes nothing()
     return {};
 }
 
-// As CUPS 2.4 answers for a queue that was made with "lpadmin -m raw".
-PrinterAttributes rawQueue()
+// As CUPS 2.4 answers for a queue without a PPD that leads to another server's.
+PrinterAttributes remoteQueue()
 {
     return PrinterAttributes()
         .enums("printer-type", {4})
         .text("printer-info", "raw1")
-        .text("printer-make-and-model", "Local Raw Printer")
+        .text("printer-make-and-model", "Remote Printer")
         .keywords("print-color-mode-default", {"monochrome"})
         .enums("print-quality-default", {4})
         .enums("finishings-supported", {3})
@@ -257,7 +257,7 @@ ipp_t *mediaDefault(int width, int height, const QByteArray &type, const QByteAr
 
 QList<Profile> printerProfiles()
 {
-    return {{"nothing known", nothing},    {"raw queue", rawQueue},
+    return {{"nothing known", nothing},    {"queue of another server", remoteQueue},
             {"office laser", officeLaser}, {"label printer", labelPrinter},
             {"photo inkjet", photoInkjet}, {"A3 with 500 media", largeOffice}};
 }

@@ -99,7 +99,8 @@ private Q_SLOTS:
 
     void aQueueOfAServerTakesNoDetailsOfThePaper()
     {
-        const PrinterCapabilities printer = capabilitiesOf(printerProfile("raw queue").ipp());
+        const PrinterCapabilities printer =
+            capabilitiesOf(printerProfile("queue of another server").ipp());
         QVERIFY(!printer.mediaDetails);
         QCOMPARE(printer.maximumCopies, 9999);
         auto office = printerProfile("office laser");
@@ -111,7 +112,8 @@ private Q_SLOTS:
     void aDefaultThatIsNotSupportedIsNone()
     {
         // As a queue without a driver says it.
-        const PrinterCapabilities printer = capabilitiesOf(printerProfile("raw queue").ipp());
+        const PrinterCapabilities printer =
+            capabilitiesOf(printerProfile("queue of another server").ipp());
         QCOMPARE(printer.defaultColorMode, QString());
         QCOMPARE(printer.defaultQuality, 0);
     }

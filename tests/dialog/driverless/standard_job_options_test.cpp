@@ -240,7 +240,7 @@ private Q_SLOTS:
         row("others are passed on", "office laser",
             {{u"page-ranges"_s, u"1-4"_s}, {u"Duplex"_s, u"DuplexTumble"_s}, {u"x"_s, u"{y}"_s}},
             u"sides=two-sided-short-edge page-ranges=1-4 x={y}"_s);
-        row("a printer that says nothing gets the standard's words", "raw queue",
+        row("a printer that says nothing gets the standard's words", "queue of another server",
             {{u"PageSize"_s, u"A4"_s}, {u"Duplex"_s, u"None"_s}, {u"ColorModel"_s, u"Gray"_s}},
             u"media=iso_a4_210x297mm sides=one-sided print-color-mode=monochrome"_s);
         row("a printer that says nothing gets any size", "nothing known",

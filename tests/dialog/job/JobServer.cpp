@@ -40,6 +40,8 @@ ServerJobRequest JobServer::request(const Document &document) const
     request.printer.origin = PrinterOrigin::Queue;
     request.printer.name = u"office"_s;
     request.printer.uri = u"ipp://localhost/printers/office"_s;
+    QString error;
+    request.ppd = writtenPpd("*PPD-Adobe: \"4.3\"\n", &error);
     request.documents = {document};
     request.ticket = {document.title, 1, {}};
     return request;
@@ -49,7 +51,7 @@ CannedAnswer JobServer::answer(const CannedRequest &request)
 {
     switch (request.operation) {
     case 0:
-        return httpAnswer(m_ppdStatus, m_ppdStatus == 200 ? "*PPD-Adobe: \"4.3\"\n" : "");
+        return answerToGet();
     case IPP_OP_CREATE_JOB:
         return answerToCreation(request);
     case IPP_OP_GET_JOBS:
@@ -76,6 +78,12 @@ CannedAnswer JobServer::answer(const CannedRequest &request)
         return ippAnswer(answer);
     }
     }
+}
+
+CannedAnswer JobServer::answerToGet()
+{
+    const std::scoped_lock lock(m_mutex);
+    return httpAnswer(m_ppdStatus, m_ppdStatus == 200 ? m_ppd : QByteArray());
 }
 
 CannedAnswer JobServer::answerToCreation(const CannedRequest &request)

@@ -17,6 +17,9 @@ namespace corvana::test {
 inline constexpr int kJob = 8;
 inline constexpr int kEarlierJob = 7;
 
+/// The PPD of the queue, where its server says that it has one.
+inline constexpr auto kServersPpd = "*PPD-Adobe: \"4.3\"\n";
+
 /// What a server says of a job.
 struct SaidOfJob
 {
@@ -82,8 +85,15 @@ public:
         m_end = end;
     }
     void setPpdStatus(int status) { m_ppdStatus = status; }
+    /// The queue has this PPD.
+    void setPpd(const QByteArray &ppd)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_ppd = ppd;
+        m_ppdStatus = 200;
+    }
 
-    /// Prints a document on its queue. The server may not ask for a password.
+    /// Prints a document on its queue, which has no PPD. The server may not ask for a password.
     ServerJobRequest request(const Document &document) const;
     quint16 port() const { return m_server.port(); }
     /// Whether a worker is still there.
@@ -93,6 +103,7 @@ public:
 
 private:
     CannedAnswer answer(const CannedRequest &request);
+    CannedAnswer answerToGet();
     CannedAnswer answerToCreation(const CannedRequest &request);
     CannedAnswer listOfJobs();
     CannedAnswer answerToDocument();
@@ -114,6 +125,7 @@ private:
     std::atomic<bool> m_cancels{true};
     std::atomic<bool> m_losesCancellation{false};
     std::atomic<int> m_ppdStatus{404};
+    QByteArray m_ppd = kServersPpd;
     std::atomic<bool> m_knowsQueue{true};
     std::atomic<Creation> m_creation{Creation::Answered};
     QString m_token;       // in the server's thread

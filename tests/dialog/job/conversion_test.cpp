@@ -246,6 +246,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ConversionTest)
+QTEST_MAIN(ConversionTest)
 
 #include "conversion_test.moc"

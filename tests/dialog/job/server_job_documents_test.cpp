@@ -314,9 +314,9 @@ private:
     // The queue has a driver of its own.
     void usePpd(const QByteArray &text)
     {
-        m_request.ppdPath = writeFile(m_folder.filePath(u"queue.ppd"_s), text);
-        m_request.ppdLastModified = 1000000000;
-        m_server->setPpdStatus(304);
+        QString error;
+        m_request.ppd = temporaryPpd(text, &error);
+        m_server->setPpd(text);
     }
     JobOutcome print()
     {

@@ -15,8 +15,6 @@ using Kind = JobOutcome::Kind;
 
 namespace {
 
-constexpr auto kDay = 1000000000; // when the PPD was changed last
-
 constexpr SaidOfJob kHangsUp{0, -1, IPP_STATUS_OK, true};
 constexpr SaidOfJob kForgotten{0, -1, IPP_STATUS_ERROR_NOT_FOUND};
 
@@ -65,17 +63,21 @@ constexpr EarlierTry kEarlierTries[] = {
 struct NewOptions
 {
     const char *name;
+    const char *opened; // null: one that was written because the queue had none
     int status;
     bool queueIsThere;
     Kind kind;
     const char *words;
 };
 constexpr NewOptions kNewOptions[] = {
-    {"the same", 304, true, Kind::Printed, ""},
-    {"another PPD", 200, true, Kind::PrinterChanged, "have changed"},
-    {"none any more", 404, true, Kind::PrinterChanged, "have changed"},
-    {"no queue any more", 404, false, Kind::Failed, "not there"},
-    {"not to be found out", 403, true, Kind::Failed, "not allow"},
+    {"the same", kServersPpd, 200, true, Kind::Printed, ""},
+    {"another PPD", "*PPD-Adobe: \"4.2\"\n", 200, true, Kind::PrinterChanged, "have changed"},
+    {"none any more", kServersPpd, 404, true, Kind::PrinterChanged, "have changed"},
+    {"no queue any more", kServersPpd, 404, false, Kind::Failed, "not there"},
+    {"not to be found out", kServersPpd, 403, true, Kind::Failed, "not allow"},
+    {"not said, because it has not changed", kServersPpd, 304, true, Kind::Failed, ""},
+    {"none, as before", nullptr, 404, true, Kind::Printed, ""},
+    {"one where there was none", nullptr, 200, true, Kind::PrinterChanged, "have changed"},
 };
 
 // How often such a job is looked for and canceled.
@@ -206,11 +208,12 @@ private Q_SLOTS:
     void aPrinterWhoseOptionsAreOthersByNowGetsNothing_data() { addRows(kNewOptions); }
     void aPrinterWhoseOptionsAreOthersByNowGetsNothing()
     {
-        const auto &[name, status, queueIsThere, kind, words] = currentRow(kNewOptions);
+        const auto &[name, opened, status, queueIsThere, kind, words] = currentRow(kNewOptions);
         m_server->setPpdStatus(status);
         if (!queueIsThere)
             m_server->forgetTheQueue();
-        m_request.ppdLastModified = kDay;
+        QString error;
+        m_request.ppd = opened ? temporaryPpd(opened, &error) : writtenPpd(kServersPpd, &error);
         const JobOutcome outcome = print();
         QCOMPARE(outcome.kind, kind);
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), kind == Kind::Printed ? 1 : 0);
@@ -219,10 +222,11 @@ private Q_SLOTS:
         QVERIFY2(outcome.text.contains(QString::fromUtf8(words)), qPrintable(outcome.text));
     }
 
-    void forAnUnchangedPpdTheQueueIsAskedNothingElse()
+    void forAPpdThatIsTheSameTheQueueIsAskedNothingElse()
     {
-        m_server->setPpdStatus(304);
-        m_request.ppdLastModified = kDay;
+        m_server->setPpdStatus(200);
+        QString error;
+        m_request.ppd = temporaryPpd(kServersPpd, &error);
         QCOMPARE(print().kind, Kind::Printed);
         QCOMPARE(m_server->count(IPP_OP_GET_PRINTER_ATTRIBUTES), 0);
     }
@@ -323,6 +327,18 @@ private Q_SLOTS:
         const auto subscribed = operations.indexOf(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS);
         QVERIFY(subscribed > operations.indexOf(IPP_OP_CREATE_JOB));
         QVERIFY(subscribed < operations.indexOf(IPP_OP_SEND_DOCUMENT));
+    }
+
+    // The connection that it was made on is gone by then.
+    void aJobThatIsTakenBackNeedsItsSubscriptionNoLonger()
+    {
+        m_server->rememberTheEnd({IPP_JSTATE_CANCELED});
+        m_server->loseTheAnswerToTheDocument();
+        m_server->say({{IPP_JSTATE_HELD, 0}});
+        const JobOutcome outcome = print();
+        QCOMPARE(outcome.kind, Kind::Failed);
+        QVERIFY2(outcome.text.contains(u"office-8 was canceled"_s), qPrintable(outcome.text));
+        QCOMPARE(m_server->count(IPP_OP_CANCEL_SUBSCRIPTION), 1);
     }
 
     void aJobThatIsNotFollowedNeedsNoSubscription()

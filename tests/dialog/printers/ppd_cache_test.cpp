@@ -81,6 +81,7 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_cache = PpdCache(m_folder->filePath(u"a/queues"_s));
+        m_defaults = {};
     }
 
     void whatWasKeptComesBackButForTheState()
@@ -89,14 +90,24 @@ private Q_SLOTS:
         printer.state = PrinterState::Stopped;
         printer.stateMessage = u"No paper"_s;
         printer.accepting = false;
-        const QString path = m_cache.store(kServer, printer, kPpd, 77)->path;
+        const QString path = keep(printer, kPpd)->path;
         QCOMPARE(contentOf(path), kPpd);
         const auto entry = m_cache.find(kServer, u"office"_s);
         QVERIFY(entry);
         Printer expected = queueOf(u"office"_s);
         QCOMPARE(entry->ppd->path, path);
         QCOMPARE(entry->printer, expected);
-        QCOMPARE(entry->ppd->lastModified, 77);
+        QCOMPARE(entry->ppd->hash, hashOfPpd(kPpd));
+    }
+
+    void theDefaultsOfAQueueAreKeptInTheirOrderAndReplaced()
+    {
+        m_defaults = {{u"number-up"_s, u"2"_s}, {u"job-sheets"_s, u"standard,none"_s}};
+        keep(queueOf(u"office"_s), kPpd);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->defaults, m_defaults);
+        m_defaults = {};
+        keep(queueOf(u"office"_s), kPpd);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->defaults, m_defaults);
     }
 
     void namesOfAnyKindStayWithinTheFolder_data()
@@ -120,7 +131,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, server);
         QFETCH(QString, queue);
-        const QString path = m_cache.store(server, queueOf(queue), kPpd, 1)->path;
+        const QString path = keep(queueOf(queue), kPpd, server)->path;
         QVERIFY(!path.isEmpty());
         const QStringList files = filesIn(m_folder->path());
         QCOMPARE(files.size(), 2);
@@ -141,7 +152,7 @@ private Q_SLOTS:
     {
         const QStringList names{u"a%2Fb"_s, u"a%252Fb"_s, u"a.b"_s, u"a%2Eb"_s, u"Ü.b"_s, u"ü.b"_s};
         for (const QString &name : names)
-            QVERIFY(m_cache.store(kServer, queueOf(name), ppdOf(name), 1));
+            QVERIFY(keep(queueOf(name), ppdOf(name)));
         for (const QString &name : names)
             QCOMPARE(contentOf(m_cache.find(kServer, name)->ppd->path), ppdOf(name));
         QVERIFY(!m_cache.find(u"other:631"_s, u"a.b"_s));
@@ -149,10 +160,12 @@ private Q_SLOTS:
 
     void aQueueIsFoundInAnySpelling()
     {
-        m_cache.store(kServer, queueOf(u"Office"_s), kPpd, 1);
-        m_cache.store(kServer, queueOf(u"oFFICE"_s), kPpd, 2);
+        keep(queueOf(u"Office"_s), kPpd);
+        Printer moved = queueOf(u"oFFICE"_s);
+        moved.location = u"Hall"_s;
+        keep(moved, kPpd);
         QCOMPARE(filesIn(m_folder->path()).size(), 2);
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->lastModified, 2);
+        QCOMPARE(m_cache.find(kServer, u"office"_s)->printer.location, u"Hall"_s);
     }
 
     void aPpdThatIsNotTheStoredOneDropsItsEntry_data()
@@ -168,7 +181,7 @@ private Q_SLOTS:
     void aPpdThatIsNotTheStoredOneDropsItsEntry()
     {
         QFETCH(QByteArray, content);
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString path = keep(queueOf(u"office"_s), kPpd)->path;
         QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->hash, hashOfPpd(kPpd));
         writeOver(path, content);
         QVERIFY(!m_cache.find(kServer, u"office"_s));
@@ -176,9 +189,9 @@ private Q_SLOTS:
         writeOver(path, kPpd);
         QVERIFY(!m_cache.find(kServer, u"office"_s));
         writeOver(path, content);
-        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2)->path, path);
+        QCOMPARE(keep(queueOf(u"office"_s), kPpd)->path, path);
         QCOMPARE(contentOf(path), kPpd);
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->lastModified, 2);
+        QVERIFY(m_cache.find(kServer, u"office"_s));
     }
 
     void whatIsNoPpdIsNotKept_data()
@@ -193,17 +206,17 @@ private Q_SLOTS:
     void whatIsNoPpdIsNotKept()
     {
         QFETCH(QByteArray, content);
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString path = keep(queueOf(u"office"_s), kPpd)->path;
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"is no PPD and is not kept"_s));
-        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), content, 2));
-        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path, path);
+        QVERIFY(!keep(queueOf(u"office"_s), content));
+        QCOMPARE(keep(queueOf(u"office"_s), kPpd)->path, path);
         QCOMPARE(filesIn(m_folder->path()).size(), 2);
     }
 
     // Nobody had opened its PPD before it was stored.
     void anEntryOfFormerTimesIsNone()
     {
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString path = keep(queueOf(u"office"_s), kPpd)->path;
         const QString entry = QFileInfo(path).dir().filePath(u"office.json"_s);
         writeOver(entry, contentOf(entry).replace("\"sha256\"", "\"hash\""));
         QVERIFY(!m_cache.find(kServer, u"office"_s));
@@ -211,7 +224,7 @@ private Q_SLOTS:
 
     void anInstanceHasThePpdOfItsQueueAndItsOwnName()
     {
-        m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        keep(queueOf(u"office"_s), kPpd);
         const auto entry = m_cache.find(kServer, u"office/draft"_s);
         QVERIFY(entry);
         QCOMPARE(entry->printer.name, u"office/draft"_s);
@@ -241,7 +254,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, suffix);
         QFETCH(QByteArray, content);
-        const QString ppd = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString ppd = keep(queueOf(u"office"_s), kPpd)->path;
         const QString path =
             suffix == u"ppd"_s ? ppd : QFileInfo(ppd).dir().filePath(u"office.json"_s);
         QVERIFY(QFile::remove(path));
@@ -252,14 +265,14 @@ private Q_SLOTS:
         }
         QVERIFY(!m_cache.find(kServer, u"office"_s));
         // The next look at the server mends it.
-        QVERIFY(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2));
-        QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->lastModified, 2);
+        QVERIFY(keep(queueOf(u"office"_s), kPpd));
+        QVERIFY(m_cache.find(kServer, u"office"_s));
     }
 
     void aNewPpdLeavesTheOldOneToWhoeverHasOpenedIt()
     {
-        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
-        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2)->path;
+        const QString first = keep(queueOf(u"office"_s), kPpd)->path;
+        const QString second = keep(queueOf(u"office"_s), kOtherPpd)->path;
         QCOMPARE(contentOf(first), kPpd);
         QCOMPARE(contentOf(second), kOtherPpd);
         QCOMPARE(m_cache.find(kServer, u"office"_s)->ppd->path, second);
@@ -269,23 +282,23 @@ private Q_SLOTS:
 
     void aPpdThatIsLookedAtIsInUse()
     {
-        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString first = keep(queueOf(u"office"_s), kPpd)->path;
         makeOld(first);
         QVERIFY(m_cache.find(kServer, u"office"_s));
-        m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 2);
+        keep(queueOf(u"office"_s), kOtherPpd);
         QCOMPARE(contentOf(first), kPpd);
     }
 
     void aPpdThatNobodyHasUsedForLongGoesWhenThereIsANewOne()
     {
-        const QString others = m_cache.store(kServer, queueOf(u"office-2"_s), kPpd, 1)->path;
-        const QString first = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString others = keep(queueOf(u"office-2"_s), kPpd)->path;
+        const QString first = keep(queueOf(u"office"_s), kPpd)->path;
         makeOld(others);
         makeOld(first);
-        QCOMPARE(m_cache.store(kServer, queueOf(u"office"_s), kPpd, 2)->path, first);
+        QCOMPARE(keep(queueOf(u"office"_s), kPpd)->path, first);
         QCOMPARE(contentOf(first), kPpd); // it is the new one
         makeOld(first);
-        const QString second = m_cache.store(kServer, queueOf(u"office"_s), kOtherPpd, 3)->path;
+        const QString second = keep(queueOf(u"office"_s), kOtherPpd)->path;
         QVERIFY(!QFile::exists(first));
         QVERIFY(QFile::exists(second));
         QVERIFY(QFile::exists(others));
@@ -296,32 +309,40 @@ private Q_SLOTS:
         // A file stands where the folder would be; that stops root as well.
         QFile file(m_folder->filePath(u"a"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1));
+        QVERIFY(!keep(queueOf(u"office"_s), kPpd));
         QVERIFY(!m_cache.find(kServer, u"office"_s));
     }
 
     void aFileThatCannotBeWrittenIsSaidAndCostsTheEntry()
     {
-        const QString path = m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1)->path;
+        const QString path = keep(queueOf(u"office"_s), kPpd)->path;
         m_cache.remove(kServer, u"office"_s);
         QVERIFY(QFile::remove(path));
         QVERIFY(QDir().mkpath(path)); // a folder of its name
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(u"office-[0-9a-f]{16}.ppd cannot be written"_s));
-        QVERIFY(!m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1));
+        QVERIFY(!keep(queueOf(u"office"_s), kPpd));
         QVERIFY(!m_cache.find(kServer, u"office"_s));
     }
 
     void nobodyElseMayLookIntoIt()
     {
-        m_cache.store(kServer, queueOf(u"office"_s), kPpd, 1);
+        keep(queueOf(u"office"_s), kPpd);
         const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                             QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
         QVERIFY(!(QFile::permissions(m_folder->filePath(u"a/queues"_s)) & others));
     }
 
 private:
+    SharedPpd keep(const Printer &printer, const QByteArray &ppd, const QString &server = kServer)
+    {
+        QueueDetails details{printer, QueueDetails::Ppd::Read, ppd, hashOfPpd(ppd)};
+        details.defaults = m_defaults;
+        return m_cache.store(server, details);
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
+    QList<JobOption> m_defaults;
     PpdCache m_cache{QString()};
 };
 

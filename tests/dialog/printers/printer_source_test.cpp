@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QSignalSpy>
@@ -185,7 +186,7 @@ private Q_SLOTS:
             QVERIFY(told.said.isEmpty()); // nobody knows it yet
             QTRY_COMPARE(told.said, QStringList{u"ready"_s});
             QCOMPARE(told.last.printer.name, name);
-            QVERIFY(told.last.ppd->lastModified > 0);
+            QCOMPARE(told.last.ppd->hash, hashOfPpd(contentOf(told.last.ppd->path)));
             QVERIFY(contentOf(told.last.ppd->path).startsWith("*PPD-Adobe"));
             QVERIFY(!told.last.capabilities); // it is the queue's own
         }
@@ -251,6 +252,46 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(told.said.count(u"ready"_s), 2, kLong);
         QVERIFY(contentOf(told.last.ppd->path) != before);
         m_cups->setPpd(kQueue, ppdOf(5));
+    }
+
+    void aPpdIsKnownByWhatItSaysWhateverItsDate_data()
+    {
+        QTest::addColumn<int>("later");
+        QTest::newRow("restored from a backup") << -86400;
+        QTest::newRow("twice within a second") << 0;
+    }
+    void aPpdIsKnownByWhatItSaysWhateverItsDate()
+    {
+        QFETCH(int, later);
+        PrinterWish request;
+        request.name = kQueue;
+        const QDateTime now = QDateTime::currentDateTime();
+        dateTo(now);
+        useOnce(request);
+        m_cups->setPpd(kQueue, ppdOf(6));
+        dateTo(now.addSecs(later));
+        PrinterSource source(request, m_server);
+        Told told(source);
+        source.open(source.first());
+        const QByteArray before = contentOf(told.last.ppd->path);
+        QTRY_COMPARE(told.said, (QStringList{u"ready"_s, u"ready"_s}));
+        QVERIFY(contentOf(told.last.ppd->path) != before);
+        m_cups->setPpd(kQueue, ppdOf(5));
+    }
+
+    // The window stands before anybody is asked, so this time is waited for by its user.
+    void whatIsKeptIsReadOnceBeforeItIsThere()
+    {
+        PrinterWish request;
+        request.name = kQueue;
+        useOnce(request);
+        m_gate->setManner(FaultyServer::Manner::Refuses);
+        PrinterSource source(request, m_server);
+        Told told(source);
+        const Printer first = source.first();
+        QVERIFY(QDir(m_home->path()).removeRecursively());
+        source.open(first);
+        QCOMPARE(told.said, QStringList{u"ready"_s});
     }
 
     // Written anew with a later date, it is the same; what is stored is not read to find that out.
@@ -407,15 +448,15 @@ private:
     }
 
     /// The PPD of the queue is from long ago: dates are counted in seconds.
-    void dateBack()
+    void dateBack() { dateTo(QDateTime::currentDateTime().addSecs(-3600)); }
+    void dateTo(const QDateTime &date)
     {
         for (QDirIterator it(m_cups->folder(), {kQueue + u".ppd"_s}, QDir::Files,
                              QDirIterator::Subdirectories);
              it.hasNext();) {
             QFile ppd(it.next());
             QVERIFY(ppd.open(QIODevice::ReadWrite));
-            QVERIFY(ppd.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
-                                    QFileDevice::FileModificationTime));
+            QVERIFY(ppd.setFileTime(date, QFileDevice::FileModificationTime));
         }
     }
 

@@ -1,6 +1,6 @@
-#include <QDateTime>
 #include <QTest>
 
+#include "dialog/printers/PpdCopy.h"
 #include "dialog/printers/QueueRequests.h"
 #include "tests/dialog/printers/CannedQueues.h"
 
@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPage = 200;
+const QByteArray kPpd = "*PPD-Adobe: \"4.3\"\n";
 
 ServerContext contextFor(quint16 port)
 {
@@ -199,16 +200,15 @@ private Q_SLOTS:
         QTest::addColumn<QueueDetails::Ppd>("state");
         using Ppd = QueueDetails::Ppd;
         const QByteArray path("/printers/office.ppd");
-        QTest::newRow("new") << u"office"_s << QString() << path << 200 << Ppd::New;
-        QTest::newRow("unchanged") << u"office"_s << QString() << path << 304 << Ppd::Unchanged;
+        QTest::newRow("there") << u"office"_s << QString() << path << 200 << Ppd::Read;
         QTest::newRow("none") << u"office"_s << QString() << path << 404 << Ppd::None;
         QTest::newRow("refused") << u"office"_s << QString() << path << 403 << Ppd::Unknown;
-        QTest::newRow("instance") << u"office/draft"_s << QString() << path << 200 << Ppd::New;
+        QTest::newRow("instance") << u"office/draft"_s << QString() << path << 200 << Ppd::Read;
         QTest::newRow("umlaut") << u"Büro"_s << QString() << QByteArray("/printers/B%C3%BCro.ppd")
-                                << 200 << Ppd::New;
+                                << 200 << Ppd::Read;
         QTest::newRow("percent") << u"a%41"_s << QString() << QByteArray("/printers/a%2541.ppd")
-                                 << 200 << Ppd::New;
-        QTest::newRow("class") << u"all"_s << u"office"_s << path << 200 << Ppd::New;
+                                 << 200 << Ppd::Read;
+        QTest::newRow("class") << u"all"_s << u"office"_s << path << 200 << Ppd::Read;
     }
     void thePpdIsFetchedWhereItIs()
     {
@@ -219,8 +219,7 @@ private Q_SLOTS:
         QFETCH(QueueDetails::Ppd, state);
         const CannedServer server([&](const CannedRequest &request) {
             if (request.operation == 0)
-                return httpAnswer(status, status == 200 ? "*PPD-Adobe: \"4.3\"\n" : "",
-                                  "Last-Modified: Sun, 09 Sep 2001 01:46:40 GMT\r\n");
+                return httpAnswer(status, status == 200 ? kPpd : QByteArray());
             ipp_t *answer = newIppAnswer();
             ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "office");
             ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_TEXT, "printer-info", nullptr, "Hall");
@@ -234,46 +233,28 @@ private Q_SLOTS:
         });
         ServerConnection connection(contextFor(server.port()), nullptr);
         const Printer printer = queueOfName(name);
-        const QueueDetails details = inspectQueue(connection, printer, 1000000000);
+        const QueueDetails details = inspectQueue(connection, printer);
         QCOMPARE(details.state, state);
         QCOMPARE(server.requests().constFirst().head.path,
                  QByteArray(printer.uri.toUtf8()).remove(0, qstrlen("ipp://localhost")));
-        QCOMPARE(server.requests().constLast().head.path, path);
+        QCOMPARE(server.requests().at(1).head.path, path);
+        // Only of a queue without a PPD it is asked what its printer can do.
+        QCOMPARE(server.requests().size(), state == QueueDetails::Ppd::None ? 3 : 2);
+        QCOMPARE(server.requests()
+                     .constLast()
+                     .values("requested-attributes")
+                     .contains("media-col-database"_L1),
+                 state == QueueDetails::Ppd::None);
         QCOMPARE(details.printer.name, name); // as the dialog knows it
         QCOMPARE(details.printer.uri, printer.uri);
         QCOMPARE(details.printer.description, u"Hall"_s);
         QCOMPARE(bool(details.problem), state == QueueDetails::Ppd::Unknown);
-        QCOMPARE(!details.ppd.isEmpty(), state == QueueDetails::Ppd::New);
-        if (state == QueueDetails::Ppd::New)
-            QCOMPARE(details.lastModified, 1000000000);
+        QCOMPARE(!details.ppd.isEmpty(), state == QueueDetails::Ppd::Read);
+        QCOMPARE(details.ppdHash,
+                 state == QueueDetails::Ppd::Read ? hashOfPpd(kPpd) : QByteArray());
     }
 
-    // The server would say until that day that nothing has changed.
-    void aDateThatIsStillToComeIsNotBelieved()
-    {
-        QByteArray date;
-        const CannedServer server([&](const CannedRequest &request) {
-            return request.operation == 0 ? httpAnswer(200, "*PPD-Adobe: \"4.3\"\n", date)
-                                          : ippAnswer(newIppAnswer());
-        });
-        ServerConnection connection(contextFor(server.port()), nullptr);
-        const auto dateAfter = [&](const QByteArray &said) {
-            date = "Last-Modified: " + said + "\r\n";
-            return inspectQueue(connection, queueOfName(u"office"_s), 0).lastModified;
-        };
-        const auto dateIn = [](int seconds) {
-            char text[64];
-            return QByteArray(httpGetDateString2(QDateTime::currentSecsSinceEpoch() + seconds, text,
-                                                 sizeof text));
-        };
-        QCOMPARE(dateAfter("Sun, 09 Sep 2001 01:46:40 GMT"), 1000000000);
-        QVERIFY(dateAfter(dateIn(-1)) > 1000000000);
-        QCOMPARE(dateAfter(dateIn(86400)), 0);
-        QCOMPARE(dateAfter("Tue, 09 Sep 2195 01:46:40 GMT"), 0);
-        QCOMPARE(dateAfter(""), 0);
-    }
-
-    void aPpdThatMayBeNewIsLookedForWithoutAskingForMore_data()
+    void aPpdIsFetchedToBeComparedWithoutAskingForMore_data()
     {
         QTest::addColumn<QString>("member"); // of a class
         QTest::addColumn<bool>("knownAsClass");
@@ -288,17 +269,16 @@ private Q_SLOTS:
                             Ppd state, const QByteArrayList &paths) {
             QTest::newRow(name) << member << known << status << state << paths;
         };
-        row("unchanged", {}, false, 304, Ppd::Unchanged, {ppd});
-        row("new", {}, false, 200, Ppd::New, {ppd});
+        row("there", {}, false, 200, Ppd::Read, {ppd});
         row("refused", {}, false, 403, Ppd::Unknown, {ppd});
         row("none", {}, false, 404, Ppd::None, {ppd, queue});
-        row("class", u"office"_s, true, 304, Ppd::Unchanged, {queue, members});
+        row("class", u"office"_s, true, 200, Ppd::Read, {queue, members});
         row("class whose member has none", u"office"_s, true, 404, Ppd::None, {queue, members});
         row("class without members", {}, true, 404, Ppd::None, {queue});
-        row("nobody knew that it is a class", u"office"_s, false, 304, Ppd::Unchanged,
+        row("nobody knew that it is a class", u"office"_s, false, 200, Ppd::Read,
             {ppd, queue, members});
     }
-    void aPpdThatMayBeNewIsLookedForWithoutAskingForMore()
+    void aPpdIsFetchedToBeComparedWithoutAskingForMore()
     {
         QFETCH(QString, member);
         QFETCH(bool, knownAsClass);
@@ -310,7 +290,7 @@ private Q_SLOTS:
                 !request.head.path.contains(member.toUtf8()))
                 return httpAnswer(404); // classes have no PPD of their own
             if (request.operation == 0)
-                return httpAnswer(status, status == 200 ? "*PPD-Adobe: \"4.3\"\n" : "");
+                return httpAnswer(status, status == 200 ? kPpd : QByteArray());
             ipp_t *answer = newIppAnswer();
             ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "all");
             if (!member.isEmpty())
@@ -321,10 +301,10 @@ private Q_SLOTS:
         ServerConnection connection(contextFor(server.port()), nullptr);
         Printer printer = queueOfName(u"all"_s);
         printer.isClass = knownAsClass;
-        const QueueDetails details = lookForNewPpd(connection, printer, 1000000000);
+        const QueueDetails details = fetchPpdOnly(connection, printer);
         QCOMPARE(details.state, state);
         QCOMPARE(bool(details.problem), state == QueueDetails::Ppd::Unknown);
-        QCOMPARE(!details.ppd.isEmpty(), state == QueueDetails::Ppd::New);
+        QCOMPARE(!details.ppd.isEmpty(), state == QueueDetails::Ppd::Read);
         QByteArrayList asked;
         for (const CannedRequest &request : server.requests()) {
             asked += request.head.path;
@@ -334,14 +314,14 @@ private Q_SLOTS:
         QCOMPARE(asked, paths);
     }
 
-    void aQueueThatWentAwayHasNoNewPpd()
+    void aQueueThatWentAwayHasNoPpd()
     {
         const CannedServer server([](const CannedRequest &request) {
             return request.operation == 0 ? httpAnswer(404)
                                           : ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_FOUND));
         });
         ServerConnection connection(contextFor(server.port()), nullptr);
-        const QueueDetails details = lookForNewPpd(connection, queueOfName(u"gone"_s), 1);
+        const QueueDetails details = fetchPpdOnly(connection, queueOfName(u"gone"_s));
         QCOMPARE(details.state, QueueDetails::Ppd::Unknown);
         QCOMPARE(details.problem.kind, ServerProblem::Kind::NotFound);
     }
@@ -352,7 +332,7 @@ private Q_SLOTS:
             return ippAnswer(newIppAnswer(IPP_STATUS_ERROR_NOT_FOUND));
         });
         ServerConnection connection(contextFor(server.port()), nullptr);
-        const QueueDetails details = inspectQueue(connection, queueOfName(u"gone"_s), 0);
+        const QueueDetails details = inspectQueue(connection, queueOfName(u"gone"_s));
         QCOMPARE(details.state, QueueDetails::Ppd::Unknown);
         QCOMPARE(details.problem.kind, ServerProblem::Kind::NotFound);
         QCOMPARE(server.requests().size(), 1); // no PPD is asked for

@@ -46,7 +46,7 @@ private:
     FetchedPrinter fetched(const QByteArray &ppd)
     {
         QString error;
-        return {task().printer(), temporaryPpd(ppd, 0, &error)};
+        return {task().printer(), temporaryPpd(ppd, &error)};
     }
     // As the source of printers tells it.
     void becomes(const QByteArray &ppd) { Q_EMIT task().printers().ready(fetched(ppd)); }

@@ -73,6 +73,14 @@ private:
         task().print();
         return QTest::qWaitFor([&] { return face().outcomes.size() > before; }, kPatience);
     }
+    QString attribute(const QString &name)
+    {
+        for (const JobOption &option : task().settings().attributes()) {
+            if (option.name == name)
+                return option.value;
+        }
+        return {};
+    }
     QString jobValue(int job, const char *attribute)
     {
         return Client(m_cups->server()).jobValue(job, attribute);
@@ -122,9 +130,12 @@ private Q_SLOTS:
         open(request());
         QCOMPARE(face().ignored.size(), 2);
         QVERIFY2(face().ignored.at(0).contains(u"Sparkle"_s), qPrintable(face().ignored.at(0)));
-        QVERIFY2(face().ignored.at(1).startsWith(u"Media=Silk"_s),
+        QVERIFY2(face().ignored.at(1).startsWith(u"lpoptions: Media=Silk"_s),
                  qPrintable(face().ignored.at(1)));
-        QVERIFY2(face().messages.isEmpty(), qPrintable(face().message()));
+        // In front of a person as well, with the value and with what is allowed.
+        QCOMPARE(face().messages.size(), 1);
+        QVERIFY2(face().message().contains(u"Sparkle=ON"_s), qPrintable(face().message()));
+        QVERIFY2(face().message().contains(u"Plain, Card"_s), qPrintable(face().message()));
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
         QVERIFY(printed());
         QCOMPARE(task().outcome().kind, Kind::Printed);
@@ -148,7 +159,6 @@ private Q_SLOTS:
         open(request());
         task().propose(u"Tray"_s, u"Lower"_s);
         QCOMPARE(task().settings().copies(), 3);
-        QTest::qWait(1100); // servers date what they have in whole seconds
         m_cups->addQueue(u"office"_s,
                          ppd(officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}})));
         task().retry();
@@ -176,6 +186,78 @@ private Q_SLOTS:
         QVERIFY(m_scene->reaches(Phase::Opened));
         task().bringUp();
         QCOMPARE(task().settings().copies(), 3);
+    }
+
+    // What the queue itself starts with
+
+    void whatTheQueueAddsIsWhereATaskStarts()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()),
+                         {.options = {u"number-up-default=2"_s, u"copies-default=3"_s}});
+        open(request());
+        QCOMPARE(attribute(u"number-up"_s), u"2"_s);
+        QCOMPARE(task().settings().copies(), 3);
+        QVERIFY2(face().messages.isEmpty(), qPrintable(face().message()));
+    }
+
+    void whatTheQueueAddedLastTimeIsThereAtOnceAndThenCorrected_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::newRow("nothing was asked for") << QString();
+        QTest::newRow("something was asked for") << u"Media=Card"_s;
+    }
+    void whatTheQueueAddedLastTimeIsThereAtOnceAndThenCorrected()
+    {
+        QFETCH(QString, options);
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()),
+                         {.options = {u"number-up-default=2"_s}});
+        open(request());
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()),
+                         {.options = {u"number-up-default=4"_s}});
+        m_scene->make(request(options)).start();
+        QCOMPARE(task().phase(), Phase::Opened); // nobody has answered yet
+        task().bringUp();
+        QCOMPARE(attribute(u"number-up"_s), u"2"_s);
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        task().bringUp();
+        QCOMPARE(attribute(u"number-up"_s), u"4"_s);
+        QVERIFY(printed());
+        QCOMPARE(jobValue(task().outcome().job, "number-up"), u"4"_s);
+    }
+
+    void whatTheUserHasSetOutlastsAnotherDefaultOfTheQueue()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        open(request());
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()),
+                         {.options = {u"number-up-default=4"_s}});
+        m_scene->make(request()).start();
+        task().bringUp();
+        task().propose(u"Tray"_s, u"Lower"_s);
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        task().bringUp();
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+        // One page on a sheet was in front of the user, so it is what is printed.
+        QVERIFY(printed());
+        QCOMPARE(jobValue(task().outcome().job, "number-up"), u"1"_s);
+    }
+
+    void aRawQueueSaysWhatItCannotDoBeforeAnythingIsSent()
+    {
+        m_cups->addRawQueue(u"office"_s);
+        open(request());
+        QVERIFY(task().passesFilesOn());
+        QVERIFY(m_scene->session().options().isEmpty());
+        task().settings().setPageRanges(u"1-2"_s);
+        task().print();
+        QCOMPARE(face().refusals.size(), 1);
+        QVERIFY2(face().problems().constFirst().contains(u"page-ranges=1-2"_s),
+                 qPrintable(face().problems().constFirst()));
+        QCOMPARE(face().refusals.constFirst().place, TaskRefusal::Place::Pages);
+        QVERIFY(m_cups->jobs().isEmpty());
+        task().settings().setPageRanges({});
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, Kind::Sent);
     }
 
     // What becomes of a job
@@ -210,6 +292,31 @@ private Q_SLOTS:
             QCOMPARE(m_cups->jobs().size(), jobs.at(i));
             QCOMPARE(task().phase(), Phase::Ready);
         }
+    }
+
+    // What is opened here is compared with what its server has at the moment of printing.
+    void whatWasOpenedIsNotPrintedWithAnotherPpdWhateverItsDate()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        const QString path = m_cups->folder() + u"/etc/ppd/office.ppd"_s;
+        const auto date = QFileInfo(path).lastModified();
+        open(request());
+        const PpdBuilder other =
+            officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}});
+        writeFile(path, other.text());
+        QFile changed(path);
+        QVERIFY(changed.open(QIODevice::ReadWrite) &&
+                changed.setFileTime(date, QFileDevice::FileModificationTime));
+        changed.close();
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, Kind::PrinterChanged);
+        QVERIFY(m_cups->jobs().isEmpty());
+        // It has been opened anew by then, and prints.
+        QTRY_VERIFY_WITH_TIMEOUT(task().phase() == Phase::Opened, kPatience);
+        task().bringUp();
+        QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, Kind::Printed);
     }
 
     void aFaceThatDoesNotWantToWaitIsDoneWhenTheQueueHasTheJob()

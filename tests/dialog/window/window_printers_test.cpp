@@ -74,7 +74,7 @@ private:
     {
         QString error;
         Q_EMIT m_window->task().printers().ready(
-            {m_window->task().printer(), temporaryPpd(ppd, 0, &error)});
+            {m_window->task().printer(), temporaryPpd(ppd, &error)});
     }
     static QByteArray samplePpd()
     {
@@ -137,7 +137,7 @@ private Q_SLOTS:
         // The list of printers speaks of it every few seconds.
         QString error;
         Q_EMIT m_window->task().printers().checked(
-            {m_window->task().printer(), temporaryPpd("no PPD", 0, &error)});
+            {m_window->task().printer(), temporaryPpd("no PPD", &error)});
         QVERIFY2(waiting().contains(u"Missing asterisk"_s), qPrintable(waiting()));
     }
 

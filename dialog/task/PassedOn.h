@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+
+#include "dialog/session/JobTicket.h"
+
+namespace corvana {
+
+struct OpenedPrinter;
+struct SummaryLine;
+
+/// "-o raw": the documents reach the printer as they are, past all filters. Kept among the
+/// attributes of a job; no server gets it.
+extern const JobOption kRaw;
+
+/// Whether the queue of a printer does nothing to documents: so everything that is done to pages,
+/// or is said to the printer in front of them, is left out there.
+bool passesFilesOn(const OpenedPrinter &printer);
+/// The same of a job with these attributes.
+bool passesFilesOn(const OpenedPrinter &printer, const QList<JobOption> &attributes);
+
+/// Takes "raw" out of several sets of options, of which a later one counts more, where it can be
+/// had. Answers whether the documents are passed on as they are.
+bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer);
+
+/// Takes out of a set of options what is not done to documents that are passed on as they are.
+/// Answers a sentence for each option that asks for something.
+QStringList takeWhatCannotBeDone(QList<JobOption> &options, const OpenedPrinter &printer);
+
+/// The job of documents that are passed on: nothing of the printer's own settings is in it.
+JobTicket ticketOfPassedOn(const QList<JobOption> &attributes, const QString &title, int copies);
+/// What its summary says.
+QList<SummaryLine> summaryOfPassedOn(const QList<JobOption> &attributes, int copies);
+
+} // namespace corvana

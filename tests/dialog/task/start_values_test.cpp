@@ -1,0 +1,315 @@
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PassedOn.h"
+#include "dialog/task/PrintRequest.h"
+#include "dialog/task/StartValues.h"
+#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+using By = JobSettings::By;
+
+/// Where the values of a job start: every place beside every other one.
+class StartValuesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::vector<std::unique_ptr<Variable>> m_variables;
+    ScriptedAlertPresenter m_presenter;
+    FetchedPrinter m_fetched;
+    PrintRequest m_request;
+    JobSettings m_settings;
+    std::unique_ptr<OpenedPrinter> m_printer;
+
+    void setUserOptions(const QString &options)
+    {
+        QDir(m_home->path()).mkpath(u".cups"_s);
+        writeFile(m_home->filePath(u".cups/lpoptions"_s), "Dest office " + options.toUtf8() + '\n');
+    }
+    // Says an option in the place that a layer reads.
+    void say(By by, const QString &option)
+    {
+        switch (by) {
+        case By::Queue:
+            m_fetched.defaults = parseOptions({option});
+            break;
+        case By::UserQueues:
+            setUserOptions(option);
+            break;
+        default:
+            m_request.options = parseOptions({option});
+        }
+    }
+    StartOutcome start()
+    {
+        QString error;
+        m_printer = openPrinter(m_fetched, {}, m_presenter, &error);
+        return applyStartValues(m_request, *m_printer, m_settings);
+    }
+    QString attribute(const QString &name)
+    {
+        for (const JobOption &option : m_settings.attributes()) {
+            if (option.name == name)
+                return option.value;
+        }
+        return {};
+    }
+    void addPairs()
+    {
+        QTest::addColumn<int>("earlier");
+        QTest::addColumn<int>("later");
+        const auto layers = startLayers();
+        for (std::size_t i = 0; i < layers.size(); ++i) {
+            for (std::size_t k = i; k < layers.size(); ++k)
+                QTest::addRow("%d before %d", int(layers[i].by), int(layers[k].by))
+                    << int(layers[i].by) << int(layers[k].by);
+        }
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        m_variables.push_back(std::make_unique<Variable>("HOME", m_home->path().toUtf8()));
+        m_variables.push_back(std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent"));
+        m_fetched = {};
+        m_fetched.printer.name = u"office"_s;
+        m_fetched.printer.origin = PrinterOrigin::Queue;
+        m_fetched.ppd = ppdOfFile(writeFile(m_home->filePath(u"a.ppd"_s), smallPrinter().text()));
+        m_request = {};
+        m_settings = {};
+    }
+    void cleanup()
+    {
+        m_printer.reset();
+        m_variables.clear();
+        m_home.reset();
+    }
+
+    void everyPlaceIsReadAndTheOrderIsTheOneOfWhoCountsMore()
+    {
+        QList<By> order;
+        for (const StartLayer &layer : startLayers())
+            order += layer.by;
+        QCOMPARE(order, (QList<By>{By::Queue, By::UserQueues, By::Options}));
+        QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
+    }
+
+    void whatThePpdSaysIsWhereASessionBegins()
+    {
+        start();
+        QCOMPARE(m_printer->session->markedChoice(u"Media"_s), u"Plain"_s);
+        QVERIFY(m_settings.attributes().isEmpty());
+        QCOMPARE(m_settings.copies(), 1);
+    }
+
+    void theLaterPlaceCountsForAnAttribute_data() { addPairs(); }
+    void theLaterPlaceCountsForAnAttribute()
+    {
+        QFETCH(int, earlier);
+        QFETCH(int, later);
+        say(By(earlier), u"number-up=2"_s);
+        say(By(later), u"number-up=4"_s);
+        const StartOutcome outcome = start();
+        QVERIFY(outcome.ignored.isEmpty() && outcome.unset.isEmpty());
+        QCOMPARE(attribute(u"number-up"_s), u"4"_s);
+        QCOMPARE(m_settings.attributes().size(), 1);
+    }
+
+    void theLaterPlaceCountsForAChoice_data() { addPairs(); }
+    void theLaterPlaceCountsForAChoice()
+    {
+        QFETCH(int, earlier);
+        QFETCH(int, later);
+        say(By(earlier), u"Media=Card"_s);
+        say(By(later), u"Media=Film"_s);
+        const StartOutcome outcome = start();
+        QVERIFY(outcome.ignored.isEmpty() && outcome.unset.isEmpty());
+        QCOMPARE(m_printer->session->markedChoice(u"Media"_s), u"Film"_s);
+    }
+
+    void theLaterPlaceCountsForCopies_data() { addPairs(); }
+    void theLaterPlaceCountsForCopies()
+    {
+        QFETCH(int, earlier);
+        QFETCH(int, later);
+        say(By(earlier), u"copies=2"_s);
+        say(By(later), u"copies=3"_s);
+        m_settings.askForCopies(1, By::Program);
+        start();
+        QCOMPARE(m_settings.copies(), 3);
+        QCOMPARE(m_settings.copiesAskedForBy(), By(later));
+        m_settings.askForCopies(4, By::CommandLine);
+        QCOMPARE(m_settings.copies(), 4);
+        m_settings.askForCopies(5, By::User);
+        start();
+        QCOMPARE(m_settings.copies(), 5);
+    }
+
+    void aDefaultThatNobodyUnderstandsIsKeptAndSaid_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("its name") << u"Sparkle=bright"_s;
+        QTest::newRow("its value") << u"number-up=3"_s;
+    }
+    void aDefaultThatNobodyUnderstandsIsKeptAndSaid()
+    {
+        QFETCH(QString, option);
+        say(By::Queue, option);
+        const StartOutcome outcome = start();
+        QCOMPARE(outcome.ignored.size(), 1);
+        QVERIFY2(outcome.ignored.constFirst().contains(u"“office”"_s) &&
+                     outcome.ignored.constFirst().contains(option),
+                 qPrintable(outcome.ignored.constFirst()));
+        QCOMPARE(m_settings.attributes(), parseOptions({option}));
+    }
+
+    // Its jobs name a paper of their own, so the server adds none.
+    void aDefaultThatTheJobSaysByAChoiceIsNotKept()
+    {
+        say(By::Queue, u"media=parchment"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(outcome.ignored.size(), 1);
+        QVERIFY2(outcome.ignored.constFirst().contains(u"parchment"_s),
+                 qPrintable(outcome.ignored.constFirst()));
+        QVERIFY(m_settings.attributes().isEmpty());
+    }
+
+    void whatIsNotUnderstoodInLpoptionsIsSaidWithItsValue()
+    {
+        say(By::UserQueues, u"Sparkle=bright number-up=3 Tray=Lower"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(outcome.ignored.size(), 2);
+        QVERIFY(outcome.ignored.at(0).startsWith(u"lpoptions: "_s));
+        QVERIFY(outcome.ignored.at(0).contains(u"Sparkle=bright"_s));
+        QVERIFY(outcome.ignored.at(1).contains(u"number-up=3"_s));
+        QVERIFY(outcome.ignored.at(1).contains(u"1, 2, 4, 6, 9, 16"_s));
+        QVERIFY(m_settings.attributes().isEmpty());
+        QCOMPARE(m_printer->session->markedChoice(u"Tray"_s), u"Lower"_s);
+    }
+
+    void aDefaultThatTheJobDoesNotNameIsAnswered_data()
+    {
+        QTest::addColumn<QString>("byQueue");
+        QTest::addColumn<QString>("ofJob");
+        QTest::addColumn<QString>("sent");
+        const auto row = [](const char *name, const QString &byQueue, const QString &ofJob,
+                            const QString &sent) {
+            QTest::newRow(name) << byQueue << ofJob << sent;
+        };
+        row("taken back", u"number-up=2"_s, {}, u"number-up=1"_s);
+        row("named", u"number-up=2"_s, u"number-up=4"_s, u"number-up=4"_s);
+        row("cover sheets", u"job-sheets=standard,none"_s, {}, u"job-sheets=none"_s);
+        row("colours", u"print-color-mode=monochrome"_s, {}, u"print-color-mode=color"_s);
+        row("pages", u"page-ranges=1-2"_s, {}, u"page-ranges=1-"_s);
+        row("another spelling", u"landscape=true"_s, u"orientation-requested=4"_s,
+            u"orientation-requested=4"_s);
+        row("another spelling of something else", u"landscape=true"_s, u"orientation-requested=3"_s,
+            u"orientation-requested=3 landscape=false"_s);
+        row("what nothing can be said against", u"Sparkle=bright"_s, {}, u"Sparkle=bright"_s);
+        row("a choice of the PPD", u"Media=Card"_s, {}, {});
+        row("what is a choice of the PPD", u"sides=two-sided-long-edge"_s, {}, {});
+        row("none", {}, u"number-up=4"_s, u"number-up=4"_s);
+    }
+    void aDefaultThatTheJobDoesNotNameIsAnswered()
+    {
+        QFETCH(QString, byQueue);
+        QFETCH(QString, ofJob);
+        QFETCH(QString, sent);
+        start();
+        m_printer->fetched.defaults = parseOptions({byQueue});
+        QCOMPARE(withAnswersToDefaults(parseOptions({ofJob}), *m_printer), parseOptions({sent}));
+    }
+
+    // CUPS makes a choice of it, which the user can change; then the attribute must not say
+    // otherwise.
+    void aColorModeThatAChoiceStandsForFollowsTheChoice()
+    {
+        m_fetched.ppd = ppdOfFile(
+            writeFile(m_home->filePath(u"b.ppd"_s),
+                      PpdBuilder()
+                          .option("ColorModel", "Color", "RGB", {{"Gray", "Gray"}, {"RGB", "RGB"}})
+                          .text()));
+        start();
+        m_printer->fetched.defaults = {{u"print-color-mode"_s, u"monochrome"_s}};
+        QCOMPARE(withAnswersToDefaults({}, *m_printer),
+                 parseOptions({u"print-color-mode=color"_s}));
+        m_printer->session->change(u"ColorModel"_s, u"Gray"_s, PpdSession::Origin::Dialog);
+        QCOMPARE(withAnswersToDefaults({}, *m_printer),
+                 parseOptions({u"print-color-mode=monochrome"_s}));
+    }
+
+    // What is passed on as it is
+
+    void aRawQueueTakesOnlyWhatIsDoneToTheJob_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<bool>("isTaken");
+        for (const char *option : {"copies=3", "job-priority=70", "job-hold-until=indefinite",
+                                   "raw", "number-up=1", "job-sheets=none"})
+            QTest::newRow(option) << QString::fromLatin1(option) << true;
+        for (const char *option :
+             {"page-ranges=1-2", "number-up=2", "sides=two-sided-long-edge", "landscape",
+              "print-scaling=fit", "media=A4", "job-sheets=standard", "PageSize=A4"})
+            QTest::newRow(option) << QString::fromLatin1(option) << false;
+    }
+    void aRawQueueTakesOnlyWhatIsDoneToTheJob()
+    {
+        QFETCH(QString, option);
+        QFETCH(bool, isTaken);
+        PrinterCapabilities raw;
+        raw.passesFilesOn = true;
+        m_fetched.capabilities = std::make_shared<const PrinterCapabilities>(raw);
+        say(By::Options, option);
+        StartOutcome outcome = start();
+        QCOMPARE(outcome.unset.isEmpty(), isTaken);
+        if (!isTaken) {
+            QVERIFY2(outcome.unset.constFirst().startsWith(
+                         u"The queue “office” passes files on as they are: "_s),
+                     qPrintable(outcome.unset.constFirst()));
+            QVERIFY(outcome.unset.constFirst().contains(option.section(u'=', 0, 0)));
+        }
+        // What was set long ago stops nothing, and is said.
+        say(By::Options, {});
+        say(By::UserQueues, option);
+        outcome = start();
+        QVERIFY(outcome.unset.isEmpty());
+        QCOMPARE(outcome.ignored.isEmpty(), isTaken);
+    }
+
+    void rawIsTakenOnAnyQueueAndThenNothingElse()
+    {
+        say(By::Options, u"raw copies=2"_s);
+        QVERIFY(start().unset.isEmpty());
+        QVERIFY(passesFilesOn(*m_printer, m_settings.attributes()));
+        QVERIFY(!passesFilesOn(*m_printer));
+        const JobTicket ticket = ticketOfPassedOn(m_settings.attributes(), u"Job"_s, 2);
+        QVERIFY(ticket.options.isEmpty());
+        m_settings = {};
+        say(By::Options, u"raw Media=Card"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(outcome.unset.size(), 1);
+        QVERIFY2(outcome.unset.constFirst().contains(u"Media=Card"_s),
+                 qPrintable(outcome.unset.constFirst()));
+    }
+
+    void onlyAQueueHasFiltersToGoPast()
+    {
+        m_fetched.printer.origin = PrinterOrigin::File;
+        say(By::Options, u"raw"_s);
+        QCOMPARE(start().unset.size(), 1);
+        QVERIFY(!passesFilesOn(*m_printer, m_settings.attributes()));
+    }
+};
+
+QTEST_MAIN(StartValuesTest)
+#include "start_values_test.moc"
