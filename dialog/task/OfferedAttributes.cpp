@@ -7,6 +7,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PassedOn.h"
 
 namespace corvana {
 
@@ -108,6 +109,8 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
 
 bool offersAttribute(const QString &name, const OpenedPrinter &printer)
 {
+    if (passesFilesOn(printer))
+        return isDoneWhenPassedOn(name, printer);
     const PpdSession &session = *printer.session;
     if (name == kPrintColorMode)
         return session.ppd()->color_device && !hasColorOption(session);

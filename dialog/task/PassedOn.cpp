@@ -26,19 +26,9 @@ struct Texts
 // What a server does with a job whatever is in its documents. A device gets a document as often as
 // there are copies.
 constexpr QLatin1StringView kDone[] = {
-    "copies"_L1,       "job-billing"_L1, "job-cancel-after"_L1,
-    "job-hold-until"_L1, "job-priority"_L1,
+    "copies"_L1, "job-billing"_L1, "job-cancel-after"_L1, "job-hold-until"_L1, "job-priority"_L1,
 };
 constexpr auto kSheets = "job-sheets"_L1;
-
-bool isDone(const QString &name, const OpenedPrinter &printer)
-{
-    // A queue without filters would print what cover sheets are made of, rather than these.
-    if (name == kSheets)
-        return !passesFilesOn(printer);
-    return std::any_of(std::begin(kDone), std::end(kDone),
-                       [&](QLatin1StringView done) { return name == done; });
-}
 
 bool asksForNothing(const JobOption &option)
 {
@@ -52,6 +42,15 @@ bool isRaw(const JobOption &option)
 }
 
 } // namespace
+
+bool isDoneWhenPassedOn(const QString &name, const OpenedPrinter &printer)
+{
+    // A queue without filters would print what cover sheets are made of, rather than these.
+    if (name == kSheets)
+        return !passesFilesOn(printer);
+    return std::any_of(std::begin(kDone), std::end(kDone),
+                       [&](QLatin1StringView done) { return name == done; });
+}
 
 bool passesFilesOn(const OpenedPrinter &printer)
 {
@@ -83,7 +82,7 @@ QStringList takeWhatCannotBeDone(QList<JobOption> &options, const OpenedPrinter 
 {
     QStringList named;
     options.removeIf([&](const JobOption &option) {
-        if (isDone(inOneSpelling(option).name, printer) || isRaw(option))
+        if (isDoneWhenPassedOn(inOneSpelling(option).name, printer) || isRaw(option))
             return false;
         if (!asksForNothing(inOneSpelling(option)))
             named += u"%1=%2"_s.arg(option.name, option.value);

@@ -20,6 +20,10 @@ bool passesFilesOn(const OpenedPrinter &printer);
 /// The same of a job with these attributes.
 bool passesFilesOn(const OpenedPrinter &printer, const QList<JobOption> &attributes);
 
+/// Whether an attribute has an effect on documents that are passed on as they are: what a server
+/// does with a job, whatever is in it.
+bool isDoneWhenPassedOn(const QString &name, const OpenedPrinter &printer);
+
 /// Takes "raw" out of several sets of options, of which a later one counts more, where it can be
 /// had. Answers whether the documents are passed on as they are.
 bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer);

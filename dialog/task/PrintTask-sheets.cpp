@@ -55,7 +55,8 @@ QList<SummaryLine> PrintTask::withSheets(QList<SummaryLine> lines, const JobTick
 {
     const SheetRequest request = sheetRequest(ticket);
     const JobSheets *sheets = m_sheets.counted(request);
-    const QList<SummaryLine> more = sheetLines(sheets, pageChoiceOf(request.options), ticket.copies);
+    const QList<SummaryLine> more =
+        sheetLines(sheets, pageChoiceOf(request.options), ticket.copies);
     for (qsizetype i = 0; i < more.size(); ++i)
         lines.insert(std::min(lines.size(), i + 1), more.at(i));
     const QString reason = sheets ? oneSidedReason(*sheets) : QString();

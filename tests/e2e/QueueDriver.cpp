@@ -214,6 +214,13 @@ QStringList QueueDriver::settings()
     QStringList lines{u"printer "_s + printer(), u"file "_s + child<QLineEdit>(u"output"_s)->text(),
                       u"copies "_s + child<QSpinBox>(u"copies"_s)->text(),
                       u"pages "_s + child<QLineEdit>(u"pageRanges"_s)->text()};
+    // What comes out is counted in the background.
+    const auto isCounted = [this] {
+        const auto summary = summaryLines();
+        return std::none_of(summary.cbegin(), summary.cend(),
+                            [](const auto &line) { return line.second == u"…"_s; });
+    };
+    waitUntil(isCounted);
     for (const auto &[title, value] : summaryLines())
         lines += title + u": "_s + value;
     showPage(current);

@@ -119,7 +119,7 @@ anUnknownOptionIsRefusedWithTheKnownOnes() {
 
 anUnknownChoiceIsRefusedWithTheKnownOnes() {
     expect_refusal QXMediaType=Silk 'Plain, Thin, Thick' -- -o QXMediaType=Silk
-    expect_refusal QXMediaType=thick 'Plain, Thin, Thick' -- -o QXMediaType=thick
+    expect_refusal QXMediaType=Thic 'Plain, Thin, Thick' -- -o QXMediaType=Thic
     expect_refusal QXSkipBlank=true 'OFF, ON' -- -o QXSkipBlank
 }
 
@@ -223,7 +223,7 @@ aFilterChainThatFailsPrintsNothing() {
     printf '#!/bin/sh\nexit 3\n' >"$work/filter"
     expect_refusal 'exit status 3' --
     printf '#!/bin/sh\nexit 0\n' >"$work/filter"
-    expect_refusal 'nothing came out' --
+    expect_refusal 'Nothing would be printed' --
 }
 
 # The command line

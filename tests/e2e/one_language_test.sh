@@ -47,10 +47,17 @@ theVariablesOverruleEachOtherForAllTextsAlike() {
 }
 
 whoWantsNoLanguageGetsEnglish() {
-    expect_language english LC_ALL=C.UTF-8 LANGUAGE=ja
+    expect_language english LC_ALL=C LANGUAGE=ja
     expect_language english LANG=C LANGUAGE=ja:zh_CN
     expect_language english LANGUAGE=ja
     expect_language english
+}
+
+# C.UTF-8 says how characters are written, and nothing of a language.
+aLanguageCountsBesideALocaleThatNamesNone() {
+    expect_language japanese LC_ALL=C.UTF-8 LANGUAGE=ja
+    expect_language chinese LANG=C.UTF-8 LANGUAGE=zh_CN
+    expect_language english LC_ALL=C.UTF-8
 }
 
 relatedRegionsReadTheSameLanguage() {

@@ -127,7 +127,7 @@ aPrinterThatThePlugInDoesNotKnowHasNoPanels() {
     expect_said 'has no panels' "$bundle" QXColorMatching
     sed -i '$d' "$work/out"
     expect_equal "$(sed 's/:.*//' "$work/out" | tr '\n' ';')" \
-        'Copies;Two-Sided Printing;Paper Size;Output To;Colors Matched By;Media Type;'
+        'Copies;Sheets;Two-Sided Printing;Paper Size;Output To;Colors Matched By;Media Type;'
     expect_lines 'Media Type: Thick Paper' # of the other options what is not at its default
     # The panels would have refused saving toner at this resolution.
     print -o QXResolution=1200dpi -o TonerSaveMode=ON

@@ -60,8 +60,10 @@ expect_summary_of_the_job() {
         key=${keyword[$title]-}
         case $key in
         '')
-            # Behind the number of copies stands whether they are collated.
+            # Behind the number of copies stands whether they are collated; then come the sheets,
+            # "3 pages = 3 sheets".
             [ "${value%%[^0-9]*}" = "$(recorded -n)" ] || [ "$value" = 'Corvana CL-550 Color' ] ||
+                [[ $value == *' = '* ]] ||
                 fail "no option has the title of: $line"
             continue
             ;;
@@ -128,7 +130,7 @@ theSummaryFollowsTheOrderOfThePages() {
     print -o QXSleepTime=Custom.42
     expect_printed
     sed -i '$d' "$work/out"
-    expect_equal "$(sed 's/:.*//' "$work/out" | tr '\n' ';')" "$(printf '%s;' Copies 'Two-Sided Printing' \
+    expect_equal "$(sed 's/:.*//' "$work/out" | tr '\n' ';')" "$(printf '%s;' Copies Sheets 'Two-Sided Printing' \
         'Paper Size' 'Output To' 'Colors Matched By' Model Resolution 'Media Type' 'Color Mode' \
         'Paper Source' 'Toner Save' 'Improve Print Output' 'Reduce Ghosting' 'Density Adjustment' \
         'Sleep Time' 'Quiet Mode' 'Skip Blank Pages' 'Minutes (1 to 99)' 'Color Matching' \
