@@ -158,8 +158,6 @@ private Q_SLOTS:
             << QByteArray() << u"five:5"_s << odd << u"five1 five3 | five5"_s;
         QTest::newRow("of several")
             << QByteArray() << u"five:5 four:4"_s << range << u"five3 five4 | four3 four4"_s;
-        QTest::newRow("of several, one of which is short")
-            << QByteArray() << u"two:2 five:5"_s << range << u"five3 five4"_s;
         QTest::newRow("for a printer of PDF")
             << QByteArray(kPdfLine) << u"five:5"_s << range << u"five3 five4"_s;
         QTest::newRow("of several for a printer of PDF")
@@ -180,6 +178,18 @@ private Q_SLOTS:
             m_runner->run(QStringList{u"--ppd"_s, path, u"--output"_s, output} + arguments);
         QVERIFY2(filed.status == 0, filed.text().constData());
         QTEST(sidesOf(readAll(output)), "sides");
+    }
+
+    void aDocumentThatHasNoneOfThePagesKeepsAllFromBeingPrinted()
+    {
+        m_cups->addQueue(u"office"_s, ppd({}));
+        const RunEnd end =
+            m_runner->run(withOptions({u"page-ranges=3-4"_s}) + QStringList{u"-d"_s, u"office"_s} +
+                          documents(u"two:2 five:5"_s));
+        QCOMPARE(end.status, 1);
+        QVERIFY2(end.err.contains(u"two"_s) && end.err.contains(u"2 pages"_s),
+                 end.text().constData());
+        QVERIFY(m_cups->jobs().isEmpty());
     }
 
     void aPrinterOfPdfGetsOneOfWholeSheets_data()

@@ -69,7 +69,12 @@ const QList<Wish> kWishes{
      {},
      {},
      "5 pages"},
-    {"even pages of a single one", {u"page-set=even"_s}, {u"one"_s}, {}, {}, "one.pdf"},
+    {"even pages of a single one",
+     {u"page-set=even"_s},
+     {u"one"_s},
+     {},
+     {},
+     "Nothing would be printed"},
     {"two pages on a side are the queue's default",
      {},
      {u"five"_s},
@@ -104,7 +109,11 @@ const QList<Wish> kWishes{
      {},
      "number-up=2"},
     {"one page, two-sided", {u"sides=two-sided-long-edge"_s}, {u"one"_s}, {u"one 1"_s}},
-    {"papers of several sizes", {}, {u"mixed"_s}, {u"mixed 1"_s, u"mixed 2"_s, u"mixed 3"_s}},
+    {"papers of several sizes",
+     {},
+     {u"mixed"_s},
+     {u"mixed 1"_s, u"mixed 2"_s, u"mixed 3"_s},
+     {u"Sheets: 3 pages = 3 sheets"_s}},
 };
 
 // The pages on each side. Where several share one, the order in which Ghostscript comes to them is

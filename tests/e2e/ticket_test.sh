@@ -61,9 +61,9 @@ expect_summary_of_the_job() {
         case $key in
         '')
             # Behind the number of copies stands whether they are collated; then come the sheets,
-            # "3 pages = 3 sheets".
+            # "3 pages = 3 sheets", and the scale.
             [ "${value%%[^0-9]*}" = "$(recorded -n)" ] || [ "$value" = 'Corvana CL-550 Color' ] ||
-                [[ $value == *' = '* ]] ||
+                [[ $value == *' = '* || $value == *' %' ]] ||
                 fail "no option has the title of: $line"
             continue
             ;;

@@ -22,6 +22,10 @@ using OnInterrupt = PrintTask::OnInterrupt;
 using Phase = PrintTask::Phase;
 
 namespace {
+
+// The filter of these tests makes nothing that could be counted, so nobody knows what was on the
+// pages.
+constexpr auto kTaken = JobOutcome::Kind::Sent;
 constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
 } // namespace
 
@@ -138,7 +142,7 @@ private Q_SLOTS:
         QVERIFY2(face().message().contains(u"Plain, Card"_s), qPrintable(face().message()));
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
         QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::Printed);
+        QCOMPARE(task().outcome().kind, kTaken);
         QCOMPARE(jobValue(task().outcome().job, "number-up"), u"2"_s);
     }
 
@@ -277,7 +281,7 @@ private Q_SLOTS:
         face().instructionsAre = TaskFace::Instructions::Followed;
         QVERIFY(printed());
         QVERIFY(!task().isHeld());
-        QCOMPARE(task().outcome().kind, Kind::Printed);
+        QCOMPARE(task().outcome().kind, kTaken);
     }
 
     void aJobThatMayPrintYetIsLookedUpBeforeItIsSentAgain()
@@ -316,7 +320,7 @@ private Q_SLOTS:
         task().bringUp();
         QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
         QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::Printed);
+        QCOMPARE(task().outcome().kind, kTaken);
     }
 
     void aFaceThatDoesNotWantToWaitIsDoneWhenTheQueueHasTheJob()
@@ -403,7 +407,7 @@ private Q_SLOTS:
         m_scene->make(request()).startUnattended();
         QVERIFY(m_scene->reaches(Phase::Opened));
         QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::Printed);
+        QCOMPARE(task().outcome().kind, kTaken);
         const QString server = request().server.argument();
         QCOMPARE(lastPrinter(server), QString());
         open(request());
