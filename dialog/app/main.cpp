@@ -103,6 +103,16 @@ void logForTerminals(bool unattended)
         });
 }
 
+// What was left to be deleted by an event loop is deleted although none runs any more: jobs have
+// folders of the user's documents.
+struct LeftForLater
+{
+    LeftForLater() = default;
+    LeftForLater(const LeftForLater &) = delete;
+    LeftForLater &operator=(const LeftForLater &) = delete;
+    ~LeftForLater() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+};
+
 bool hasWindows()
 {
     return QGuiApplication::platformName() != "offscreen"_L1;
@@ -160,6 +170,7 @@ int main(int argc, char **argv)
     logForTerminals(unattended);
     looksForPlatform = !explicitPlatform;
     QApplication application(argc, argv);
+    const LeftForLater leftForLater;
     looksForPlatform = false;
     QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
     QApplication::setApplicationName(u"corvana-print"_s);

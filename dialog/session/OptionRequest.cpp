@@ -1,6 +1,7 @@
 #include "dialog/session/OptionRequest.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 #include <cups/cups.h>
@@ -43,6 +44,21 @@ bool isNamed(const QList<OptionChoice> &choices, const QString &keyword)
                        [&](const OptionChoice &choice) { return choice.keyword == keyword; });
 }
 
+// libcups takes a tray and the feeding by hand for two forms of one choice: marking the one takes
+// the mark of the other away, whatever the PPD says (ppdMarkOption). Answers the other one.
+QList<OptionChoice> takenInstead(const JobOption &option, const QList<JobOption> &expected)
+{
+    constexpr QLatin1StringView kForms[] = {"InputSlot"_L1, "ManualFeed"_L1};
+    QList<OptionChoice> others;
+    for (const JobOption &other : expected) {
+        const bool isForm =
+            std::find(std::begin(kForms), std::end(kForms), other.name) != std::end(kForms);
+        if (isForm && other.name != option.name)
+            others += OptionChoice{other.name, other.value};
+    }
+    return others;
+}
+
 // What the panels made of that which was asked for, where it is something else.
 QStringList differences(const QList<JobOption> &expected, const PpdSession &session,
                         const PDEJobValues *jobValues)
@@ -53,13 +69,14 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
         const auto now = std::find_if(job.cbegin(), job.cend(), [&](const JobOption &candidate) {
             return candidate.name == option.name;
         });
-        if (now == job.cend() || now->value != option.value) {
+        if (now == job.cend())
+            problems += conflictMessage(
+                {{option.name, option.value}, takenInstead(option, expected)}, session.ppd());
+        else if (now->value != option.value)
             problems +=
                 Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
                     .arg(asked(option, session.ppd()),
-                         now == job.cend() ? QString()
-                                           : withoutSecrets(now->value, secretsOf(session)));
-        }
+                         withoutSecrets(now->value, secretsOf(session)));
     }
     return problems;
 }

@@ -14,14 +14,15 @@ choicesOfTheGeneralPageByKeyboardReachThePrinter() {
     open_dialog
     settle
     press ctrl+a 3
-    press Tab Tab Down Tab Down Tab Down Tab Up # past the pages: two-sided, paper size, output, colors matched by
+    press Tab Tab Tab Down Tab Down Tab Down Tab Up # past collating and pages: two-sided, paper size, output, colors matched by
     settle
     print_in_dialog
     expect_code Duplex=DuplexNoTumble PageSize=Letter QXOutput=FAX \
         AP_ColorMatchingMode=AP_ApplicationColorMatching
     expect_lines 'Copies: 3, collated' 'Two-Sided Printing: Long-Edge Binding' 'Paper Size: US Letter' \
         'Output To: Fax' 'Colors Matched By: Application'
-    expect_equal "$(grep -ac '^%%Page: ' "$output")" 9 # each copy after the other
+    # Each copy after the other, with a blank back to its third page.
+    expect_equal "$(grep -ac '^%%Page: ' "$output")" 12
 }
 
 printChoicesByKeyboardReachThePrinter() {
@@ -134,7 +135,7 @@ theDialogKeepsEverythingWhenPrintingFailsAndPrintsAtTheNextTry() {
     output=$folder/missing/job.ps
     open_dialog -o QXInputSlot=Tray1
     settle
-    press ctrl+a 2 Tab Tab Down ctrl+Next Down ctrl+Next Down
+    press ctrl+a 2 Tab Tab Tab Down ctrl+Next Down ctrl+Next Down
     settle
     press alt+p
     await 'the message' message_is_logged 'cannot be written'

@@ -14,6 +14,8 @@ signals=('--default-signal=INT,TERM,HUP')
 long_chain() {
     cat >"$work/filter" <<END
 #!/bin/sh
+# The sheets cannot be counted, and the job is printed all the same.
+case "\$*" in *application/vnd.cups-pdf*) exit 1 ;; esac
 sleep 300 &
 echo \$! >"$work/child"
 echo \$\$ >"$work/chain"
@@ -63,6 +65,26 @@ INT 2
 TERM 15
 HUP 1
 TABLE
+}
+
+aSignalEndsTheCountingOfSheets() {
+    long_chain
+    sed -i '/vnd.cups-pdf/d' "$work/filter"
+    start_print "$document"
+    kill -s INT "$dialog"
+    expect_end
+    expect_status 130
+    expect_said 'Nothing was printed.'
+    expect_nothing_left
+}
+
+# What texts become on the way is the user's.
+aTextLeavesNothingBehind() {
+    mkdir "$work/tmp"
+    environment+=("TMPDIR=$work/tmp")
+    print "$source_root/tests/data/page.txt"
+    expect_printed
+    expect_equal "$(ls -A "$work/tmp")" ''
 }
 
 aSecondSignalChangesNothing() {

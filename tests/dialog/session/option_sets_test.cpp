@@ -57,6 +57,21 @@ private Q_SLOTS:
                                         u"A.restore"_s, u"B.restore"_s}));
     }
 
+    // For libcups they are two forms of one choice, whatever a PPD says.
+    void aTrayAndFeedingByHandExcludeEachOtherByName()
+    {
+        cleanup();
+        m_session = sessionFor(
+            smallPrinter()
+                .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
+                .option("ManualFeed", "By Hand", "False", {{"True", "Yes"}, {"False", "No"}}));
+        m_plugIn = std::make_unique<FakePlugIn>(QStringList{u"A"_s});
+        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn.get(), m_presenter);
+        QCOMPARE(apply({u"InputSlot=Lower ManualFeed=True"_s}).problems,
+                 QStringList{u"InputSlot=Lower: this cannot be combined with ManualFeed=True."_s});
+        QVERIFY(apply({u"InputSlot=Lower"_s}).ok());
+    }
+
     void noOptionsLeaveTheSessionAsItIs()
     {
         const SessionSnapshot before = m_session->snapshot();
