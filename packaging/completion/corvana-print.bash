@@ -62,7 +62,7 @@ _corvana_print_keywords() {
 # _corvana_print_values KEYWORD: what such an attribute can be, where that is a matter of words.
 _corvana_print_values() {
     case $1 in
-    media) _corvana_print_words A4 A5 A3 Letter Legal ;;
+    media) _corvana_print_words A4 A5 Letter Legal ;;
     sides) _corvana_print_words one-sided two-sided-long-edge two-sided-short-edge ;;
     number-up) _corvana_print_words 1 2 4 6 9 16 ;;
     number-up-layout) _corvana_print_words btlr btrl lrbt lrtb rlbt rltb tblr tbrl ;;

@@ -95,7 +95,7 @@ private Q_SLOTS:
               .arrange = [](PrivateCups &cups,
                             FaultyServer &) { cups.rejectJobs(u"office"_s, u"Moving"_s); },
               .status = 1,
-              .names = {u"office"_s}}},
+              .names = {u"office"_s, u"Moving"_s}}},
             {"a value that is not allowed",
              {.arguments = QStringList{u"-o"_s, u"QXMediaType=Silk"_s} + office,
               .status = 1,

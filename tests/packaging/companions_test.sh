@@ -160,7 +160,7 @@ keywordsOfJobsAreOffered() {
     expect_equal "$(offered corvana-print --option page-s)" 'page-set= '
     refused_as_unknown nonsense=1 || fail 'an unknown option is not told from others' "$(cat out)"
     for keyword in $(complete_line corvana-print -o ''); do
-        ! refused_as_unknown "${keyword}1" || fail "offered, and not known: $keyword"
+        ! refused_as_unknown "${keyword}1" || ! refused_as_unknown "${keyword}true" || fail "offered, and not known: $keyword"
     done
 }
 
@@ -186,11 +186,11 @@ everyShellOffersTheSame() {
             case $shell:$word in
             fish:--*) grep -qE -- " -l ${word#--}( |\$)" "$file" ;;
             fish:*) grep -qE -- " -s ${word#-}( |\$)" "$file" ;;
-            *) grep -qE -- "[{',)*]$word[]+=,[}]" "$file" ;;
+            *) grep -qE -- "[{',)*]${word}[]+=,[}]" "$file" ;;
             esac || fail "not offered in $shell: $word"
         done
         for word in $(complete_line corvana-print -o ''); do
-            grep -qE -- "(^|[ *])${word%=}([ =]|\$)" "$file" || fail "not offered in $shell: $word"
+            grep -qE -- "(^|[ *'])${word%=}([ =]|\$)" "$file" || fail "not offered in $shell: $word"
         done
         command -v $shell >/dev/null || continue
         $shell -n "$file" 2>"$work/err" || fail "not understood by $shell" "$(cat "$work/err")"
@@ -249,8 +249,8 @@ nothingIsOpenedByPrintingIt() {
         tr ';' '\n' | sed -n 's/..*/&=corvana-print.desktop;/p'; } \
         >share/applications/mimeinfo.cache
     for type in application/pdf text/plain image/png image/jpeg application/postscript; do
-        expect_equal "$(default_of "$type" | head -n 1)" \
-            "No default applications for “$type”"
+        [[ $(default_of "$type" | head -n 1) == "No default applications for "* ]] ||
+            fail "there is a default for $type" "$(default_of "$type")"
     done
     # The check sees an entry that names its types.
     echo 'text/plain=corvana-print.desktop;' >>share/applications/mimeinfo.cache

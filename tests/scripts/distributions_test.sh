@@ -38,7 +38,7 @@ esac
 END
     add_program pkg-config <<<'echo 22.12.0'
     add_program fc-list <<<'echo DejaVu Sans Mono'
-    for program in ninja gs pdftops cupsfilter Xvfb xauth xdotool convert compare identify \
+    for program in ninja gs pdftops qpdf cupsfilter Xvfb xauth xdotool convert compare identify \
         shellcheck; do
         add_program "$program" <<<'exit 0'
     done

@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(ticket.title, u"Title"_s);
         QCOMPARE(ticket.copies, 4);
         QVERIFY(ticket.options.contains({u"QXMediaType"_s, u"Thick"_s}));
-        QCOMPARE(ticket.options.constLast(), (JobOption{u"number-up"_s, u"2"_s}));
+        QVERIFY(ticket.options.contains({u"number-up"_s, u"2"_s}));
     }
 };
 

@@ -169,12 +169,16 @@ private Q_SLOTS:
             {u"mirror"_s, u"true"_s},           {u"page-left"_s, u"50"_s},
             {u"print-scaling"_s, u"fit"_s},     {u"Duplex"_s, u"DuplexNoTumble"_s},
             {u"job-priority"_s, u"70"_s}};
-        const QList<JobOption> after{
-            {u"PageSize"_s, u"A5"_s},       {u"number-up"_s, u"1"_s},
-            {u"page-set"_s, u"all"_s},      {u"orientation-requested"_s, u"3"_s},
-            {u"mirror"_s, u"false"_s},      {u"Duplex"_s, u"DuplexNoTumble"_s},
-            {u"job-priority"_s, u"70"_s},   {u"print-scaling"_s, u"none"_s},
-            {u"outputorder"_s, u"normal"_s}};
+        const QList<JobOption> after{{u"PageSize"_s, u"A5"_s},
+                                     {u"number-up"_s, u"1"_s},
+                                     {u"number-up-layout"_s, u"lrtb"_s},
+                                     {u"page-set"_s, u"all"_s},
+                                     {u"orientation-requested"_s, u"3"_s},
+                                     {u"mirror"_s, u"false"_s},
+                                     {u"Duplex"_s, u"DuplexNoTumble"_s},
+                                     {u"job-priority"_s, u"70"_s},
+                                     {u"print-scaling"_s, u"none"_s},
+                                     {u"outputorder"_s, u"normal"_s}};
         QCOMPARE(optionsAfterLayout(before), after);
     }
 

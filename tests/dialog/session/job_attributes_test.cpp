@@ -289,7 +289,7 @@ private Q_SLOTS:
         };
         QCOMPARE(here("UTC0", u"22:30"_s), u"22:30 UTC"_s);
         QCOMPARE(here("JST-9", u"22:30"_s), u"22:30 UTC (07:30 here)"_s);
-        QCOMPARE(here("JST-9", u"evening"_s), u"evening"_s);
+        QCOMPARE(here("JST-9", u"evening"_s), u"Evening"_s);
         before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
         tzset();
     }

@@ -137,13 +137,13 @@ private Q_SLOTS:
 
     void whatIsSetIsWhatIsPrinted()
     {
-        open(with(request(), {u"Tray=Lower Sleep=Custom.12 number-up=2"_s}));
+        open(with(request(), {u"Tray=Lower Sleep=Custom.12 page-border=single"_s}));
         m_task->propose(u"Media"_s, u"Film"_s);
         m_task->settings().askForCopies(3, JobSettings::By::User);
         m_task->settings().setPageRanges(u"1-2, 4"_s);
         m_task->print();
         QVERIFY(ends());
-        for (const char *argument : {"Tray=Lower", "Sleep=Custom.12", "Media=Film", "number-up=2",
+        for (const char *argument : {"Tray=Lower", "Sleep=Custom.12", "Media=Film", "page-border=single",
                                      "page-ranges=1-2,4", "3"})
             QVERIFY2(arguments().contains(argument), argument);
     }
