@@ -270,7 +270,7 @@ private Q_SLOTS:
         conversion.cancel();
         QVERIFY(finished.wait(5000));
         QCOMPARE(finished.at(0).at(0).toString(), u"Printing was canceled."_s);
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
     }
 
     void whatNoFontHasIsNamed_data()
@@ -312,7 +312,7 @@ private Q_SLOTS:
             const TextCheck check({path(u"notes.txt"_s)});
             QCOMPARE(check.missing(std::chrono::milliseconds(1)), QString());
         }
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
     }
 
     void aFullDiskIsNoticed()
