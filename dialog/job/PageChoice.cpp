@@ -1,6 +1,7 @@
 #include "dialog/job/PageChoice.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QCoreApplication>
 
@@ -14,15 +15,56 @@ constexpr auto kRanges = "page-ranges"_L1;
 constexpr auto kSet = "page-set"_L1;
 constexpr auto kPagesOnASide = "number-up"_L1;
 
-// The page that a side of a range names; what is left open is the first or the last page.
-int pageOr(const QString &text, int otherwise)
+constexpr int kOpenEnd = std::numeric_limits<int>::max();
+
+int numberOr(const QString &text, int other)
 {
     bool isNumber = false;
-    const int page = text.toInt(&isNumber);
-    return isNumber ? page : otherwise;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? number : other;
 }
 
 } // namespace
+
+QList<PageRange> rangesOf(const QString &text)
+{
+    QList<PageRange> ranges;
+    const QStringList parts = text.split(u',', Qt::SkipEmptyParts);
+    for (const QString &part : parts) {
+        const qsizetype dash = part.indexOf(u'-');
+        PageRange range;
+        if (dash < 0)
+            range.first = range.last = numberOr(part, 0);
+        else
+            range = {dash == 0 ? 1 : numberOr(part.first(dash), 0),
+                     numberOr(part.mid(dash + 1), kOpenEnd)};
+        if (range.first >= 1 && range.last >= range.first)
+            ranges += range;
+    }
+    return ranges;
+}
+
+QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages)
+{
+    QList<PageRange> within;
+    for (const PageRange &range : ranges) {
+        if (range.first <= pages)
+            within += PageRange{range.first, std::min(range.last, pages)};
+    }
+    return within;
+}
+
+QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages)
+{
+    QList<PageRange> beyond;
+    for (const PageRange &range : ranges) {
+        if (range.first > pages)
+            beyond += range;
+        else if (range.last > pages && range.last != kOpenEnd)
+            beyond += PageRange{pages + 1, range.last};
+    }
+    return beyond;
+}
 
 PageChoice pageChoiceOf(const QList<JobOption> &options)
 {
@@ -73,14 +115,10 @@ QString noSuchPages()
 QStringList pickedPages(const PageChoice &choice, int pagesOfDocument, const QString &file)
 {
     QStringList picked;
-    const QStringList ranges =
-        choice.ranges.isEmpty() ? QStringList{u"1-"_s} : choice.ranges.split(u',');
-    for (const QString &range : ranges) {
-        const bool isOne = !range.contains(u'-');
-        int first = pageOr(range.section(u'-', 0, 0), 1);
-        int last = isOne ? first : pageOr(range.section(u'-', 1), pagesOfDocument);
-        first = std::max(first, 1);
-        last = std::min(last, pagesOfDocument);
+    const QList<PageRange> ranges =
+        choice.ranges.isEmpty() ? QList{PageRange{1, pagesOfDocument}} : rangesOf(choice.ranges);
+    for (const auto &[start, last] : rangesWithin(ranges, pagesOfDocument)) {
+        int first = start;
         // ":odd" means every other page of a range, beginning with its first.
         const bool isOdd = first % 2 == 1;
         if ((choice.set == PageChoice::Set::Odd && !isOdd) ||

@@ -1,66 +1,8 @@
 #include "dialog/sheets/SheetCount.h"
 
 #include <algorithm>
-#include <limits>
-
-#include <QStringList>
 
 namespace corvana {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int kOpenEnd = std::numeric_limits<int>::max();
-
-int numberOr(const QString &text, int other)
-{
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber ? number : other;
-}
-
-} // namespace
-
-QList<PageRange> rangesOf(const QString &text)
-{
-    QList<PageRange> ranges;
-    const QStringList parts = text.split(u',', Qt::SkipEmptyParts);
-    for (const QString &part : parts) {
-        const qsizetype dash = part.indexOf(u'-');
-        PageRange range;
-        if (dash < 0)
-            range.first = range.last = numberOr(part, 0);
-        else
-            range = {dash == 0 ? 1 : numberOr(part.first(dash), 0),
-                     numberOr(part.mid(dash + 1), kOpenEnd)};
-        if (range.first >= 1 && range.last >= range.first)
-            ranges += range;
-    }
-    return ranges;
-}
-
-QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages)
-{
-    QList<PageRange> within;
-    for (const PageRange &range : ranges) {
-        if (range.first <= pages)
-            within += PageRange{range.first, std::min(range.last, pages)};
-    }
-    return within;
-}
-
-QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages)
-{
-    QList<PageRange> beyond;
-    for (const PageRange &range : ranges) {
-        if (range.first > pages)
-            beyond += range;
-        else if (range.last > pages && range.last != kOpenEnd)
-            beyond += PageRange{pages + 1, range.last};
-    }
-    return beyond;
-}
 
 QList<bool> printedPages(int pages, const PageChoice &choice)
 {

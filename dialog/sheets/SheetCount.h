@@ -43,22 +43,6 @@ struct JobSheets
     bool operator==(const JobSheets &) const = default;
 };
 
-/// Numbers of pages, from 1 on; both ends belong to it.
-struct PageRange
-{
-    int first = 1;
-    int last = 1;
-
-    bool operator==(const PageRange &) const = default;
-};
-/// The ranges of "1-4,7,9-". An open end is the largest number that there is.
-/// Errors: leaves out what is no range.
-QList<PageRange> rangesOf(const QString &text);
-/// What of these ranges a document of so many pages has, and what it lacks. An open end lacks
-/// nothing unless it begins behind the last page.
-QList<PageRange> rangesWithin(const QList<PageRange> &ranges, int pages);
-QList<PageRange> rangesBeyond(const QList<PageRange> &ranges, int pages);
-
 /// For each page of a document of so many, whether it is printed.
 QList<bool> printedPages(int pages, const PageChoice &choice);
 /// How many pages of a document of so many are printed.
