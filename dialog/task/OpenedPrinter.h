@@ -31,6 +31,12 @@ struct OpenedPrinter
     QString panelProblem;
 };
 
+/// How many copies the printer makes at once; 0: as many as anybody can ask for.
+inline int mostCopiesOf(const OpenedPrinter &printer)
+{
+    return printer.fetched.capabilities ? printer.fetched.capabilities->maximumCopies : 0;
+}
+
 /// The job as the printer is set now.
 JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
                      const QString &title, int copies);

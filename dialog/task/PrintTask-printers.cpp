@@ -122,6 +122,8 @@ void PrintTask::open(const FetchedPrinter &ready)
     }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
     m_chosen.problem = {};
+    // A face may show the copies before the panels come up, and shows as many as are printed.
+    m_settings.setMostCopies(mostCopiesOf(*m_opened));
     proposeOutput();
     enter(Phase::Opened);
     if (!m_opened->panelProblem.isEmpty())

@@ -137,8 +137,7 @@ void PrintTask::sayStartProblems()
 QStringList PrintTask::takeMostCopies()
 {
     using By = JobSettings::By;
-    m_settings.setMostCopies(
-        m_opened->fetched.capabilities ? m_opened->fetched.capabilities->maximumCopies : 0);
+    m_settings.setMostCopies(mostCopiesOf(*m_opened));
     if (!m_settings.asksForTooMany())
         return {};
     const QString problem = tr("The printer prints at most %1 copies at once, not %2.")

@@ -62,6 +62,7 @@ void SettingsPages::addPages()
 void SettingsPages::addGeneral()
 {
     m_general = new GeneralPage(*m_task.opened()->session);
+    m_general->setMostCopies(m_task.settings().mostCopies());
     m_general->setCopies(m_task.settings().copies());
     addTab(m_general, tr("General"));
     connect(m_general, &GeneralPage::proposed, &m_task, &PrintTask::propose);

@@ -1,7 +1,6 @@
 #include "tests/e2e/QueueDriver.h"
 
 #include <algorithm>
-#include <utility>
 
 #include <QApplication>
 #include <QComboBox>
@@ -25,8 +24,6 @@ namespace corvana::test {
 
 namespace {
 
-constexpr int kBeat = 10; // milliseconds
-
 PrintRequest requestOf(const QueueDriver::Start &start)
 {
     CommandLine line;
@@ -40,39 +37,6 @@ PrintRequest requestOf(const QueueDriver::Start &start)
 }
 
 } // namespace
-
-Heartbeat::Heartbeat()
-{
-    m_timer.setTimerType(Qt::PreciseTimer);
-    m_timer.setInterval(kBeat);
-    connect(&m_timer, &QTimer::timeout, this, &Heartbeat::beat);
-}
-
-void Heartbeat::start()
-{
-    if (m_timer.isActive())
-        return;
-    m_last.start();
-    m_timer.start();
-}
-
-void Heartbeat::stop()
-{
-    if (!m_timer.isActive())
-        return;
-    beat();
-    m_timer.stop();
-}
-
-qint64 Heartbeat::takeLargestGap()
-{
-    return std::exchange(m_largest, 0);
-}
-
-void Heartbeat::beat()
-{
-    m_largest = std::max(m_largest, m_last.restart());
-}
 
 LoginAnswerer::LoginAnswerer()
 {
@@ -121,10 +85,12 @@ bool QueueDriver::waitUntil(const std::function<bool()> &isSo, int milliseconds)
     return is;
 }
 
-bool QueueDriver::canPrint() const
+bool QueueDriver::canPrint()
 {
     const auto *print = child<QPushButton>(u"print"_s);
-    return print->isEnabled() && child<QSpinBox>(u"copies"_s);
+    // Before the first paint, the button can be pressed while nothing has been taken yet.
+    return print->isEnabled() && child<QSpinBox>(u"copies"_s) &&
+           dialog().task().phase() == PrintTask::Phase::Ready;
 }
 
 bool QueueDriver::isPrinting() const

@@ -2,14 +2,13 @@
 
 #include <optional>
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 
 #include "dialog/server/CredentialStore.h"
 #include "tests/e2e/DialogDriver.h"
+#include "tests/e2e/Heartbeat.h"
 
 namespace corvana::test {
 
@@ -19,26 +18,6 @@ inline constexpr int kSlowdown = 5;
 #else
 inline constexpr int kSlowdown = 1;
 #endif
-
-/// The pulse of the thread that it lives in: how long nothing else had its turn there.
-class Heartbeat : public QObject
-{
-public:
-    Heartbeat();
-
-    void start();
-    /// What the test itself does from here on does not count.
-    void stop();
-    /// The longest time between two beats since it was asked for last. Units: milliseconds.
-    qint64 takeLargestGap();
-
-private:
-    void beat();
-
-    QTimer m_timer;
-    QElapsedTimer m_last;
-    qint64 m_largest = 0;
-};
 
 /// Answers every question for a user and a password. Works for as long as it lives.
 class LoginAnswerer : public QObject
@@ -83,8 +62,9 @@ public:
 
     /// Turns the event loop until `isSo`, which must not block. The heart beats meanwhile.
     bool waitUntil(const std::function<bool()> &isSo, int milliseconds = 15000);
-    /// Whether the printer's pages are there and Print can be pressed.
-    bool canPrint() const;
+    /// Whether the printer's pages are there, with everything that was asked for, and Print can be
+    /// pressed.
+    bool canPrint();
     bool isPrinting() const;
     /// Waits until what Print began has ended, one way or the other.
     bool waitForTheEnd();

@@ -1,6 +1,8 @@
+#include <ctime>
 #include <optional>
 
 #include <QTest>
+#include <QThread>
 
 #include "tests/e2e/QueueFaults.h"
 
@@ -34,6 +36,33 @@ private Q_SLOTS:
             QSKIP("no CUPS server here");
         m_player.emplace();
         m_player->learnTheUsual();
+    }
+
+    // Or nothing below would say that a window reacts.
+    void theHeartNoticesWhatStopsIt_data()
+    {
+        QTest::addColumn<bool>("computes");
+        QTest::newRow("waiting") << false;
+        QTest::newRow("computing") << true;
+    }
+    void theHeartNoticesWhatStopsIt()
+    {
+        QFETCH(bool, computes);
+        constexpr int kStop = 300; // milliseconds
+        Heartbeat heart;
+        heart.start();
+        QTest::qWait(50);
+        heart.takeLargestGap();
+        const std::clock_t computed = std::clock();
+        if (computes) {
+            while (std::clock() - computed < kStop * (CLOCKS_PER_SEC / 1000)) {
+            }
+        } else {
+            QThread::msleep(kStop);
+        }
+        QTest::qWait(50);
+        const qint64 gap = heart.takeLargestGap();
+        QVERIFY2(gap >= kStop - 50, qPrintable(QString::number(gap)));
     }
 
     void aFailedJobLeavesEverythingInPlace_data()

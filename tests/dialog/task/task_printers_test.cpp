@@ -80,6 +80,9 @@ private Q_SLOTS:
         capabilities.maximumCopies = 5;
         five.capabilities = std::make_shared<const PrinterCapabilities>(capabilities);
         Q_EMIT task().printers().ready(five);
+        // A face shows it before the panels are up, and before the number of the options is known.
+        QCOMPARE(task().phase(), Phase::Opened);
+        QCOMPARE(task().settings().copies(), option.isEmpty() ? 5 : 1);
         task().print();
         const QString problem = u"The printer prints at most 5 copies at once, not 9."_s;
         QCOMPARE(m_scene->face.problems(), isRefused ? QStringList(problem) : QStringList());
