@@ -102,6 +102,7 @@ void PrintTask::applyStartOptions()
     if (memory.session) {
         m_settings.addAttributes(memory.session->attributes);
         m_settings.restoreChosenAttributes(memory.session->chosen);
+        takeInevitableDefaults();
         if (memory.session->copies)
             m_settings.askForCopies(*memory.session->copies, By::UserQueues);
         const SessionSnapshot &opened = memory.session->opened;
@@ -116,6 +117,20 @@ void PrintTask::applyStartOptions()
         m_chosen.ignored = started.ignored;
     }
     m_chosen.unset += takeMostCopies();
+}
+
+// What the queue adds to each job by now, whatever was so when it was left.
+void PrintTask::takeInevitableDefaults()
+{
+    QList<JobOption> chosen = m_settings.chosenAttributes();
+    const QList<JobOption> defaults = inevitableDefaults(*m_opened);
+    for (const JobOption &option : defaults) {
+        chosen.removeIf(
+            [&](const JobOption &one) { return one.name == option.name && one.value.isNull(); });
+        m_settings.restoreChosenAttributes(chosen);
+        if (m_settings.attribute(option.name).isNull())
+            m_settings.addAttributes({option});
+    }
 }
 
 // Everything that is not as somebody wanted it, in one message: a face shows one.
@@ -219,6 +234,9 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         propose(own->keyword, own->choice);
         return {};
     }
+    if (value.isNull() && !canBeNone(name, *m_opened))
+        return tr("The queue “%1” sets this for every job that does not name it. Allowed: %2.")
+            .arg(m_chosen.printer.name, allowedText(attribute->allowed));
     const std::optional<QString> taken =
         value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
     if (!taken)

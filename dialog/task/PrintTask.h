@@ -227,6 +227,7 @@ private:
 
     QList<Refusal> bringPanelsUp();
     void applyStartOptions();
+    void takeInevitableDefaults();
     void sayStartProblems();
     QStringList takeMostCopies();
     void noteMissingPages();

@@ -192,6 +192,13 @@ bool areMarked(const QList<JobOption> &choices, const PpdSession &session)
            });
 }
 
+// Whether the server adds a default to every job that does not name it, and no value takes it back.
+bool isInevitable(const JobOption &option, const OpenedPrinter &printer)
+{
+    return inOneSpelling(option).name == option.name && usualValue(option.name).isEmpty() &&
+           choicesOf(option, printer).isEmpty() && !isSaidByTheJob(option, printer);
+}
+
 // What a job says to a default of its queue that it does not name. Nothing where it says it by
 // choices alone.
 QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attributes,
@@ -202,11 +209,12 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
     if (inOne.name != option.name)
         return attributes.contains(inOne) ? QList<JobOption>()
                                           : QList{JobOption{option.name, u"false"_s}};
+    if (isInevitable(option, printer))
+        return {option};
     const QString usual = usualValue(option.name);
     const QList<JobOption> choices = choicesOf(option, printer);
-    // Where no value asks for nothing, the server's own stays.
     if (usual.isEmpty())
-        return choices.isEmpty() ? QList{option} : QList<JobOption>();
+        return {};
     return {areMarked(choices, *printer.session) ? option : JobOption{option.name, usual}};
 }
 
@@ -262,6 +270,23 @@ QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
             all += answerTo(option, attributes, printer);
     }
     return all;
+}
+
+QList<JobOption> inevitableDefaults(const OpenedPrinter &printer)
+{
+    QList<JobOption> defaults;
+    if (passesFilesOn(printer))
+        return defaults;
+    for (const JobOption &option : printer.fetched.defaults) {
+        if (isInevitable(option, printer))
+            defaults += option;
+    }
+    return defaults;
+}
+
+bool canBeNone(const QString &name, const OpenedPrinter &printer)
+{
+    return !isNamed(inevitableDefaults(printer), name);
 }
 
 } // namespace corvana

@@ -47,4 +47,11 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
 QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
                                        const OpenedPrinter &printer);
 
+/// The defaults of the queue that no job can do without: the server adds them to each job that
+/// names none, and no value asks for nothing, as there is none for a page that lies as it is.
+QList<JobOption> inevitableDefaults(const OpenedPrinter &printer);
+
+/// Whether a job can do without any value of an attribute.
+bool canBeNone(const QString &name, const OpenedPrinter &printer);
+
 } // namespace corvana

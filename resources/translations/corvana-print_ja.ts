@@ -1673,6 +1673,10 @@ For the command line: %2</source>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>「%1」は指定できません。指定できる値: %2。</translation>
     </message>
+    <message>
+        <source>The queue “%1” sets this for every job that does not name it. Allowed: %2.</source>
+        <translation>キュー「%1」は、この値が指定されていないジョブすべてに自分の値を設定します。指定できる値: %2。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

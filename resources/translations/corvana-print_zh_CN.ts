@@ -1673,6 +1673,10 @@ For the command line: %2</source>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>不允许使用“%1”。允许的值：%2。</translation>
     </message>
+    <message>
+        <source>The queue “%1” sets this for every job that does not name it. Allowed: %2.</source>
+        <translation>队列“%1”会为每个未指定此项的作业设置它。允许的值：%2。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -188,6 +188,51 @@ private Q_SLOTS:
         QVERIFY(!prints("ppi=300"));
     }
 
+    // The server would add its own value again, and the window would show none.
+    void whatItsQueueAlwaysSetsCannotBeTakenBackButChanged()
+    {
+        PrintTask &task = open(u"orientation-requested=4"_s);
+        task.opened()->fetched.defaults = {{u"orientation-requested"_s, u"4"_s}};
+        const QString problem = task.setAttribute(u"orientation-requested"_s, {});
+        QVERIFY2(problem.contains(u"office"_s) && problem.contains(u"Portrait"_s),
+                 qPrintable(problem));
+        QCOMPARE(task.settings().attribute(u"orientation-requested"_s), u"4"_s);
+        QCOMPARE(task.setAttribute(u"orientation-requested"_s, u"3"_s), QString());
+        QVERIFY(prints("orientation-requested=3"));
+    }
+
+    void whatItsQueueSetsIsTakenBackWhereAValueAsksForNothing()
+    {
+        PrintTask &task = open(u"number-up=4"_s);
+        task.opened()->fetched.defaults = {{u"number-up"_s, u"4"_s}};
+        QCOMPARE(task.setAttribute(u"number-up"_s, {}), QString());
+        QVERIFY(prints("number-up=1"));
+    }
+
+    // "landscape=false" takes it back.
+    void whatItsQueueSetsInAnotherSpellingCanBeTakenBack()
+    {
+        PrintTask &task = open(u"orientation-requested=4"_s);
+        task.opened()->fetched.defaults = {{u"landscape"_s, u"true"_s}};
+        QCOMPARE(task.setAttribute(u"orientation-requested"_s, {}), QString());
+        QVERIFY(prints("landscape=false"));
+    }
+
+    void aDefaultThatItsQueueHasGotMeanwhileIsShownWhenItComesBack()
+    {
+        const Printer printer = m_scene->printer(u"first"_s, plainPrinter().text());
+        PrintTask &task = m_scene->open(m_scene->request(QList{printer}));
+        task.setAttribute(u"orientation-requested"_s, u"3"_s);
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"orientation-requested"_s, {});
+        FetchedPrinter changed = task.opened()->fetched;
+        changed.defaults = {{u"orientation-requested"_s, u"4"_s}};
+        Q_EMIT task.printers().ready(changed);
+        task.bringUp();
+        QCOMPARE(task.settings().attribute(u"number-up"_s), u"4"_s);
+        QCOMPARE(find(task.attributes(), u"orientation-requested"_s)->value, u"4"_s);
+    }
+
     void aChangeIsShownAtOnceAndOnce()
     {
         PrintTask &task = open({});
