@@ -54,7 +54,9 @@ _corvana_print_keywords() {
     for keyword in media sides copies landscape number-up number-up-layout page-border page-ranges \
         page-set orientation-requested fit-to-page print-scaling scaling natural-scaling ppi \
         position mirror page-left page-right page-top page-bottom cpi lpi columns wrap prettyprint \
-        collate outputorder job-hold-until job-priority job-sheets job-billing; do
+        collate multiple-document-handling outputorder job-hold-until job-priority job-sheets \
+        job-billing job-cancel-after print-color-mode print-quality printer-resolution output-bin \
+        finishings media-source media-type media-col raw; do
         [[ $keyword == "$current"* ]] && COMPREPLY+=("$keyword=")
     done
 }
@@ -79,7 +81,12 @@ _corvana_print_values() {
         _corvana_print_words no-hold indefinite day-time evening night second-shift third-shift \
             weekend
         ;;
-    landscape | fit-to-page | mirror | wrap | prettyprint | collate)
+    multiple-document-handling)
+        _corvana_print_words separate-documents-collated-copies \
+            separate-documents-uncollated-copies
+        ;;
+    print-color-mode) _corvana_print_words auto color monochrome ;;
+    landscape | fit-to-page | mirror | wrap | prettyprint | collate | raw)
         _corvana_print_words true false
         ;;
     esac

@@ -31,11 +31,15 @@ function __corvana_print_options
     printf 'position=%s\n' center top left right top-left top-right bottom bottom-left bottom-right
     printf 'outputorder=%s\n' normal reverse
     printf 'job-hold-until=%s\n' no-hold indefinite day-time evening night second-shift third-shift weekend
-    for keyword in landscape fit-to-page mirror wrap prettyprint collate
+    printf 'multiple-document-handling=%s\n' separate-documents-collated-copies \
+        separate-documents-uncollated-copies
+    printf 'print-color-mode=%s\n' auto color monochrome
+    for keyword in landscape fit-to-page mirror wrap prettyprint collate raw
         printf "$keyword=%s\n" true false
     end
     printf '%s=\n' copies page-ranges scaling natural-scaling ppi page-left page-right page-top \
-        page-bottom cpi lpi columns job-priority job-sheets job-billing
+        page-bottom cpi lpi columns job-priority job-sheets job-billing job-cancel-after \
+        print-quality printer-resolution output-bin finishings media-source media-type media-col
 end
 
 complete -c corvana-print -s d -l printer -x -a '(__corvana_print_printers)' -d 'Print to this printer'
