@@ -1,7 +1,6 @@
 #include "dialog/text/TextPdf.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QDateTime>
 #include <QLocale>
@@ -18,25 +17,10 @@ constexpr int kCatalog = 1;
 constexpr int kPageTree = 2;
 constexpr int kResources = 3;
 
-// A glyph is made in a space of its own, where two columns are 1000 wide and the height of the font
-// is 1000: then every glyph of a line follows the one before without being placed.
-constexpr double kGlyphSpace = 1000;
 // The text filter of CUPS fills so many of the 72 points of an inch with its lines.
 constexpr double kFontHeightPerInch = 68;
 // Where the baseline lies between the top of a line and its end, of the height of the font.
 constexpr double kAscent = 0.8;
-// A glyph of another proportion is stretched or narrowed so far and no further.
-constexpr double kMostStretch = 1.1;
-
-QByteArray number(double value)
-{
-    QByteArray text = QByteArray::number(value, 'f', 3);
-    while (text.endsWith('0'))
-        text.chop(1);
-    if (text.endsWith('.'))
-        text.chop(1);
-    return text == "-0" ? QByteArray("0") : text;
-}
 
 QByteArray reference(int object)
 {
@@ -50,80 +34,13 @@ QByteArray deflated(const QByteArray &content)
     return qCompress(content, kFast).mid(4);
 }
 
-QByteArray utf16(char32_t character)
-{
-    QByteArray hex;
-    const QString text = QString::fromUcs4(&character, 1);
-    for (const QChar unit : text)
-        hex += QByteArray::number(unit.unicode(), 16).rightJustified(4, '0');
-    return hex;
-}
-
-QByteArray pathProgram(const QPainterPath &path)
-{
-    QByteArray program;
-    const auto point = [&](int i) {
-        const QPainterPath::Element element = path.elementAt(i);
-        program += QByteArray::number(qRound(element.x)) + ' ' +
-                   QByteArray::number(qRound(element.y)) + ' ';
-    };
-    for (int i = 0; i < path.elementCount(); ++i) {
-        switch (path.elementAt(i).type) {
-        case QPainterPath::MoveToElement:
-            point(i);
-            program += "m\n";
-            break;
-        case QPainterPath::LineToElement:
-            point(i);
-            program += "l\n";
-            break;
-        case QPainterPath::CurveToElement:
-            point(i);
-            point(i + 1);
-            point(i + 2);
-            program += "c\n";
-            i += 2;
-            break;
-        case QPainterPath::CurveToDataElement:
-            break;
-        }
-    }
-    return program + "f\n";
-}
-
-// What stands for a character that no font has: an empty frame, so that something is missed. The
-// inner rectangle goes the other way round, which makes it a hole.
-QPainterPath frame(double width)
-{
-    constexpr double kHeight = 0.7 * kGlyphSpace;
-    constexpr double kLine = 50;
-    const double left = 0.1 * width;
-    const double right = 0.9 * width;
-    QPainterPath path;
-    path.addRect(left, 0, right - left, kHeight);
-    path.moveTo(left + kLine, kLine);
-    path.lineTo(left + kLine, kHeight - kLine);
-    path.lineTo(right - kLine, kHeight - kLine);
-    path.lineTo(right - kLine, kLine);
-    path.closeSubpath();
-    return path;
-}
-
-// By its name a glyph is known again in PostScript, which has no other table for that.
-QByteArray glyphName(char32_t character, int cells)
-{
-    const QByteArray hex = QByteArray::number(uint(character), 16).toUpper();
-    const QByteArray name = character > 0xFFFF ? "u" + hex : "uni" + hex.rightJustified(4, '0');
-    return cells == cellsOf(character) ? name : name + ".alt";
-}
-
 } // namespace
 
 TextPdf::TextPdf(QIODevice &file, const TextFormat &format, TextGlyphs &glyphs)
     : m_file(file), m_format(format), m_glyphs(glyphs), m_places(kResources + 1),
       m_date(QLocale::c().toString(QDateTime::currentDateTime(), u"yyyy-MM-dd HH:mm").toLatin1())
 {
-    Font latin;
+    TextFont latin;
     latin.characters.resize(kPlacesInFont);
     m_fonts.push_back(latin);
     write("%PDF-1.5\n%\xE2\xE3\xCF\xD3\n");
@@ -168,9 +85,9 @@ bool TextPdf::addPage(const TextPage &page)
     m_pages.push_back(object);
     writeStream(content, contentOf(page));
     writeObject(object, "<</Type/Page/Parent " + reference(kPageTree) + "/MediaBox[0 0 " +
-                            number(m_format.page.width()) + ' ' + number(m_format.page.height()) +
-                            "]/Resources " + reference(kResources) + "/Contents " +
-                            reference(content) + ">>");
+                            pdfNumber(m_format.page.width()) + ' ' +
+                            pdfNumber(m_format.page.height()) + "]/Resources " +
+                            reference(kResources) + "/Contents " + reference(content) + ">>");
     return m_isWhole;
 }
 
@@ -184,12 +101,12 @@ TextPdf::Place TextPdf::placeOf(char32_t character, int cells, bool bold)
     if (!bold && cells == 1 && character < kPlacesInFont) {
         place.code = static_cast<uchar>(character);
     } else {
-        const auto hasRoom = [&](const Font &font) {
+        const auto hasRoom = [&](const TextFont &font) {
             return font.bold == bold && font.characters.size() < kPlacesInFont;
         };
         auto font = std::find_if(m_fonts.begin() + 1, m_fonts.end(), hasRoom);
         if (font == m_fonts.end())
-            font = m_fonts.insert(m_fonts.end(), Font{bold, {}});
+            font = m_fonts.insert(m_fonts.end(), TextFont{bold, {}});
         place.font = static_cast<int>(font - m_fonts.begin());
         place.code = static_cast<uchar>(font->characters.size());
         font->characters.emplace_back();
@@ -209,9 +126,9 @@ double TextPdf::baselineOf(int line) const
 
 QByteArray TextPdf::textMatrix(double x, double y) const
 {
-    return number(2 * m_format.cellWidth()) + " 0 0 " +
-           number(kFontHeightPerInch / m_format.linesPerInch) + ' ' + number(x) + ' ' + number(y) +
-           " Tm\n";
+    return pdfNumber(2 * m_format.cellWidth()) + " 0 0 " +
+           pdfNumber(kFontHeightPerInch / m_format.linesPerInch) + ' ' + pdfNumber(x) + ' ' +
+           pdfNumber(y) + " Tm\n";
 }
 
 QByteArray TextPdf::contentOf(const TextPage &page)
@@ -266,9 +183,9 @@ QByteArray TextPdf::contentOfMarks(const TextLine &line, double baseline)
                        QByteArray(1, static_cast<char>(place.code)).toHex() + "> Tj ET\n";
         }
         if (cell.underlined)
-            content += number(x) + ' ' + number(baseline - 0.12 * m_format.lineHeight()) + ' ' +
-                       number(cell.cells * m_format.cellWidth()) + ' ' +
-                       number(0.05 * m_format.lineHeight()) + " re f\n";
+            content += pdfNumber(x) + ' ' + pdfNumber(baseline - 0.12 * m_format.lineHeight()) +
+                       ' ' + pdfNumber(cell.cells * m_format.cellWidth()) + ' ' +
+                       pdfNumber(0.05 * m_format.lineHeight()) + " re f\n";
     }
     return content;
 }
@@ -296,65 +213,23 @@ QByteArray TextPdf::header()
     const double top = m_format.page.height() - m_format.margins.top();
     const double height = 2 * m_format.lineHeight();
     const double width = m_format.page.width() - m_format.margins.left() - m_format.margins.right();
-    const QByteArray band = "ET\nq 0.9 g " + number(m_format.margins.left()) + ' ' +
-                            number(top - height) + ' ' + number(width) + ' ' + number(height) +
-                            " re f Q\nBT\n";
+    const QByteArray band = "ET\nq 0.9 g " + pdfNumber(m_format.margins.left()) + ' ' +
+                            pdfNumber(top - height) + ' ' + pdfNumber(width) + ' ' +
+                            pdfNumber(height) + " re f Q\nBT\n";
     return band + contentOfLine(line, top - 1.3 * m_format.lineHeight());
 }
 
-// The outline of a glyph in a space where its columns have their widths, and the width.
-QByteArray TextPdf::glyphProgram(const Character &character, bool bold)
-{
-    const double width = character.cells * kGlyphSpace / 2;
-    const TextGlyph glyph = m_glyphs.glyph(character.character, bold);
-    QPainterPath path = frame(width);
-    if (glyph.isThere) {
-        // How wide a column is for a font of this height, against how wide the glyph wants it.
-        const double fontHeight = kFontHeightPerInch / m_format.linesPerInch;
-        const double natural = fontHeight / (2 * m_format.cellWidth());
-        const double toFit = glyph.advance > 0 ? width / glyph.advance : natural;
-        // A glyph that is as narrow as its columns fills them, as in any text of fixed width.
-        const double scale = std::min(toFit, kMostStretch * natural);
-        const double indent = std::max(0.0, (width - scale * glyph.advance) / 2);
-        path = QTransform(scale, 0, 0, -1, indent, 0).map(glyph.outline);
-    }
-    const QRectF bounds = path.boundingRect();
-    return number(width) + " 0 " + number(std::floor(bounds.left()) - 1) + ' ' +
-           number(std::floor(bounds.top()) - 1) + ' ' + number(std::ceil(bounds.right()) + 1) +
-           ' ' + number(std::ceil(bounds.bottom()) + 1) + " d1\n" +
-           (path.isEmpty() ? QByteArray() : pathProgram(path));
-}
-
-// What the codes of a font mean, for whoever searches or copies the text.
-QByteArray TextPdf::meaningsOf(const Font &font)
-{
-    constexpr qsizetype kMostInList = 100;
-    QByteArrayList meanings;
-    for (size_t code = 0; code < font.characters.size(); ++code) {
-        const char32_t character = font.characters[code].character;
-        if (character != 0)
-            meanings += '<' + QByteArray::number(code, 16).rightJustified(2, '0') + "> <" +
-                        utf16(character) + ">\n";
-    }
-    QByteArray lists;
-    for (qsizetype done = 0; done < meanings.size(); done += kMostInList) {
-        const QByteArrayList list = meanings.mid(done, kMostInList);
-        lists += QByteArray::number(list.size()) + " beginbfchar\n" + list.join() + "endbfchar\n";
-    }
-    return "/CIDInit /ProcSet findresource begin\n12 dict begin\nbegincmap\n"
-           "/CMapName /Text def\n/CMapType 2 def\n"
-           "1 begincodespacerange\n<00> <FF>\nendcodespacerange\n" +
-           lists + "endcmap\nCMapName currentdict /CMap defineresource pop\nend\nend\n";
-}
-
 // Answers its object.
-int TextPdf::writeFont(const Font &font)
+int TextPdf::writeFont(const TextFont &font)
 {
+    // How wide a column is for a font of this height, against how wide a glyph wants it.
+    const double proportion =
+        kFontHeightPerInch / m_format.linesPerInch / (2 * m_format.cellWidth());
     QByteArray programs;
     QByteArray names;
     QByteArray widths;
     for (size_t code = 0; code < font.characters.size(); ++code) {
-        const Character &character = font.characters[code];
+        const TextFont::Character &character = font.characters[code];
         const QByteArray name =
             '/' + (character.character == 0 ? QByteArray(".notdef")
                                             : glyphName(character.character, character.cells));
@@ -363,7 +238,9 @@ int TextPdf::writeFont(const Font &font)
         if (character.character == 0)
             continue;
         const int program = reserve();
-        writeStream(program, glyphProgram(character, font.bold));
+        writeStream(program,
+                    glyphProgram(character.cells, m_glyphs.glyph(character.character, font.bold),
+                                 proportion));
         programs += name + ' ' + reference(program);
     }
     const int meanings = reserve();

@@ -8,6 +8,7 @@
 #include <QList>
 
 #include "dialog/text/TextFlow.h"
+#include "dialog/text/TextFont.h"
 #include "dialog/text/TextGlyphs.h"
 
 namespace corvana {
@@ -39,16 +40,6 @@ private:
         int font = 0;
         uchar code = 0;
     };
-    struct Character
-    {
-        char32_t character = 0; // 0: the place is free
-        int cells = 1;
-    };
-    struct Font
-    {
-        bool bold = false;
-        std::vector<Character> characters;
-    };
 
     Place placeOf(char32_t character, int cells, bool bold);
     QByteArray contentOf(const TextPage &page);
@@ -57,9 +48,7 @@ private:
     QByteArray header();
     double baselineOf(int line) const;
     QByteArray textMatrix(double x, double y) const;
-    QByteArray glyphProgram(const Character &character, bool bold);
-    static QByteArray meaningsOf(const Font &font);
-    int writeFont(const Font &font);
+    int writeFont(const TextFont &font);
 
     int reserve();
     void beginObject(int object);
@@ -72,7 +61,7 @@ private:
     TextGlyphs &m_glyphs;
     std::vector<qint64> m_places; // of the objects in the file, by their numbers
     std::vector<int> m_pages;     // their objects
-    std::vector<Font> m_fonts;
+    std::vector<TextFont> m_fonts;
     QHash<quint64, Place> m_known;
     QByteArray m_date; // for the header
     qint64 m_written = 0;
