@@ -67,7 +67,8 @@ QString TextConversion::convert()
     QFile file(m_pdf);
     if (!problem.isEmpty())
         return tr("%1 cannot be read: %2").arg(name, problem);
-    if (!file.open(QIODevice::WriteOnly))
+    // What a buffer could not write would be reported without its reason.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return tr("%1 cannot be written: %2").arg(m_pdf, file.errorString());
     TextGlyphs glyphs(source.encoding().language);
     TextPdf pdf(file, m_format, glyphs);
@@ -94,7 +95,7 @@ QString TextConversion::convert()
             .arg(name)
             .arg(kMostPagesOfText);
     isWritten = isWritten && flow.finish() && pdf.finish();
-    if (!isWritten || !file.flush())
+    if (!isWritten)
         return tr("%1 cannot be written: %2").arg(m_pdf, file.errorString());
     return {};
 }

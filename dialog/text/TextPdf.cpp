@@ -48,7 +48,13 @@ TextPdf::TextPdf(QIODevice &file, const TextFormat &format, TextGlyphs &glyphs)
 
 void TextPdf::write(const QByteArray &bytes)
 {
-    m_isWhole = m_isWhole && m_file.write(bytes) == bytes.size();
+    // A disk that is just full takes a part, and says why only when it is asked for the rest.
+    qint64 taken = 0;
+    while (m_isWhole && taken < bytes.size()) {
+        const qint64 more = m_file.write(bytes.constData() + taken, bytes.size() - taken);
+        m_isWhole = more > 0;
+        taken += more;
+    }
     m_written += bytes.size();
 }
 
@@ -260,19 +266,19 @@ bool TextPdf::finish()
     for (size_t i = 0; i < m_fonts.size(); ++i)
         fonts += "/F" + QByteArray::number(i) + ' ' + reference(writeFont(m_fonts[i]));
     writeObject(kResources, "<</Font<<" + fonts + ">>>>");
-    beginObject(kPageTree);
-    write("<</Type/Pages/Count " + QByteArray::number(m_pages.size()) + "/Kids[");
+    QByteArray pages;
     for (const int page : m_pages)
-        write(reference(page) + '\n');
-    write("]>>\nendobj\n");
+        pages += reference(page) + '\n';
+    writeObject(kPageTree, "<</Type/Pages/Count " + QByteArray::number(m_pages.size()) + "/Kids[" +
+                               pages + "]>>");
     writeObject(kCatalog, "<</Type/Catalog/Pages " + reference(kPageTree) + ">>");
     const qint64 table = m_written;
     const QByteArray count = QByteArray::number(m_places.size());
-    write("xref\n0 " + count + "\n0000000000 65535 f \n");
+    QByteArray places = "xref\n0 " + count + "\n0000000000 65535 f \n";
     for (size_t i = 1; i < m_places.size(); ++i)
-        write(QByteArray::number(m_places[i]).rightJustified(10, '0') + " 00000 n \n");
-    write("trailer\n<</Size " + count + "/Root " + reference(kCatalog) + ">>\nstartxref\n" +
-          QByteArray::number(table) + "\n%%EOF\n");
+        places += QByteArray::number(m_places[i]).rightJustified(10, '0') + " 00000 n \n";
+    write(places + "trailer\n<</Size " + count + "/Root " + reference(kCatalog) +
+          ">>\nstartxref\n" + QByteArray::number(table) + "\n%%EOF\n");
     return m_isWhole;
 }
 

@@ -1,7 +1,11 @@
 #include <algorithm>
+#include <csignal>
+
+#include <sys/resource.h>
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -51,6 +55,28 @@ const Layout kLayouts[] = {
     {"two columns", {u"columns=2"_s}},
     {"three columns of small letters", {u"columns=3"_s, u"cpi=15"_s}},
     {"long lines are cut", {u"wrap=false"_s}},
+};
+
+/// How large the files are that this program writes, at most, while this lives.
+class LimitedFiles
+{
+public:
+    explicit LimitedFiles(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limited{bytes, m_former.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limited);
+    }
+    ~LimitedFiles()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_former);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Q_DISABLE_COPY_MOVE(LimitedFiles)
+
+private:
+    void (*m_handler)(int);
+    rlimit m_former{};
 };
 
 // Where the words of a PDF's first page are: "xMin yMin xMax yMax" of each.
@@ -113,6 +139,17 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    // What is said when a text of some pages is written there.
+    static QString problemOfWriting(const QString &pdf)
+    {
+        QString problem;
+        TextConversion conversion(sourceFile("tests/data/page.txt"_L1),
+                                  textFormat(samplePpdPath(), {}, {}, &problem), pdf);
+        QSignalSpy finished(&conversion, &TextConversion::finished);
+        conversion.start();
+        return finished.wait(60000) ? finished.at(0).at(0).toString() : u"nothing"_s;
+    }
 
     // The PDF of a text, or an empty name; `problem` is what was said.
     QString converted(const QByteArray &text, const QStringList &options, QString *problem)
@@ -317,13 +354,17 @@ private Q_SLOTS:
 
     void aFullDiskIsNoticed()
     {
-        QString problem;
-        TextConversion conversion(sourceFile("tests/data/page.txt"_L1),
-                                  textFormat(samplePpdPath(), {}, {}, &problem), u"/dev/full"_s);
-        QSignalSpy finished(&conversion, &TextConversion::finished);
-        conversion.start();
-        QVERIFY(finished.wait(60000));
-        QVERIFY(finished.at(0).at(0).toString().contains(u"cannot be written"_s));
+        const QString problem = problemOfWriting(u"/dev/full"_s);
+        QCOMPARE(problem, u"/dev/full cannot be written: No space left on device"_s);
+    }
+
+    // A file of a limited size takes a part of what is written, as a disk does that is just full.
+    void whatIsWrongIsSaidWhereAPartIsWritten()
+    {
+        const LimitedFiles limited(10'000);
+        const QString pdf = path(u"out.pdf"_s);
+        QCOMPARE(problemOfWriting(pdf), u"%1 cannot be written: File too large"_s.arg(pdf));
+        QCOMPARE(QFileInfo(pdf).size(), 10'000);
     }
 };
 
