@@ -21,8 +21,9 @@ namespace corvana {
 
 namespace {
 
-// How long Print waits for what is known of a text's characters; usually that is known long before.
-constexpr std::chrono::milliseconds kPatienceWithTexts{2000};
+// How long a job waits for what is known of a text's characters; usually that is known long before
+// Print is pressed.
+constexpr std::chrono::milliseconds kPatienceWithTexts{5000};
 
 } // namespace
 
@@ -61,6 +62,7 @@ void PrintTask::print()
         return;
     }
     enter(Phase::Asking);
+    m_run.textsAreSettled = false;
     const std::optional<TaskRefusal> refusal = finish();
     // Interrupted, while an alert was waiting for its answer.
     if (m_phase != Phase::Asking)
@@ -72,7 +74,7 @@ void PrintTask::print()
     }
     if (m_request.documents.isEmpty())
         return enter(Phase::Ended);
-    countBeforeJob();
+    prepareJob();
 }
 
 QList<JobOption> PrintTask::jobAttributes() const
@@ -108,7 +110,7 @@ std::optional<TaskRefusal> PrintTask::finish()
                                m_settings.pageRanges().isEmpty() ? Place::Nowhere : Place::Pages};
         if (printsToFile())
             return TaskRefusal{{tr("What is passed on as it is cannot be printed to a file.")}};
-    } else if (!mayPrintTexts()) {
+    } else if (isTextCheckOver() && !mayPrintTexts()) {
         return TaskRefusal{{}, Place::Nowhere, true};
     } else if (!m_request.documents.isEmpty()) {
         if (auto refusal = askPanels())
@@ -137,20 +139,57 @@ void PrintTask::lookForMissingCharacters()
         if (isTextToLayOut(document, {}))
             texts += document.path;
     }
-    if (!m_textCheck && !texts.isEmpty())
-        m_textCheck = std::make_unique<TextCheck>(texts);
+    if (m_textCheck || texts.isEmpty())
+        return;
+    m_textCheck = std::make_unique<TextCheck>(texts);
+    connect(m_textCheck.get(), &TextCheck::finished, this, &PrintTask::settleTexts);
 }
 
-// A text whose characters nobody has is not printed without a word.
+bool PrintTask::isTextCheckOver() const
+{
+    return !m_textCheck || m_textCheck->finding();
+}
+
+// A text whose characters nobody has, or may not have, is not printed without a word.
 bool PrintTask::mayPrintTexts()
 {
-    const bool anyText = hasTextToLayOut(m_request.documents, jobAttributes());
-    const QString missing =
-        anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
-    return missing.isEmpty() ||
-           m_face.mayPrintWithout(tr("No font of this computer has these characters of the text: "
-                                     "%1. An empty frame is printed for each of them.")
-                                      .arg(missing));
+    m_run.textsAreSettled = true;
+    if (!m_textCheck || !hasTextToLayOut(m_request.documents, jobAttributes()))
+        return true;
+    const auto finding = m_textCheck->finding();
+    if (finding && !finding->missing.isEmpty())
+        return m_face.mayPrintWithout(tr("No font of this computer has these characters of the "
+                                         "text: %1. An empty frame is printed for each of them.")
+                                          .arg(finding->missing));
+    return (finding && finding->isWhole) ||
+           m_face.mayPrintWithout(
+               tr("Not all of the text could be looked through for characters that no font of this "
+                  "computer has. An empty frame is printed for each of them."));
+}
+
+// Texts that nobody could say anything about before are waited for, but not for long.
+void PrintTask::awaitTexts()
+{
+    m_run.awaits = Run::Awaits::Texts;
+    if (m_run.textsAreSettled || isTextCheckOver())
+        return settleTexts();
+    m_textPatience.start(kPatienceWithTexts);
+}
+
+void PrintTask::settleTexts()
+{
+    if (m_run.awaits != Run::Awaits::Texts)
+        return;
+    m_textPatience.stop();
+    m_run.awaits = Run::Awaits::Nothing; // while the user is asked
+    const bool mayPrint = m_run.textsAreSettled || mayPrintTexts();
+    if (m_phase != Phase::Printing)
+        return;
+    if (mayPrint)
+        return countBeforeJob();
+    enter(Phase::Ready);
+    Q_EMIT refused({{}, TaskRefusal::Place::Nowhere, true});
+    takeNext();
 }
 
 // The panels say whether they let the job go, and may show instructions first.
@@ -205,8 +244,8 @@ void PrintTask::cancel()
 {
     if (m_phase != Phase::Printing)
         return;
-    if (isCounting())
-        return endCounting();
+    if (!m_run.job)
+        return endPreparing();
     // A server that does not answer has a few seconds to be told.
     enter(Phase::Canceling);
     m_run.job->cancel();
@@ -226,7 +265,7 @@ void PrintTask::interrupt(OnInterrupt job)
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
     if (!m_run.job) {
-        m_sheets.cancel();
+        stopPreparing();
         return enter(Phase::Ended);
     }
     if (job == OnInterrupt::LeaveJob)

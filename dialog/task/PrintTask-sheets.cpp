@@ -77,8 +77,8 @@ void PrintTask::countSheets()
         m_sheets.count(request, SheetCounter::When::Soon);
 }
 
-// The ticket is made by now: what is set while the sheets are counted belongs to the next job.
-void PrintTask::countBeforeJob()
+// The ticket is made by now: what is set while the job is prepared belongs to the next one.
+void PrintTask::prepareJob()
 {
     m_run.ticket = ticket();
     if (passesFilesOn()) {
@@ -88,13 +88,20 @@ void PrintTask::countBeforeJob()
     }
     enter(Phase::Printing);
     if (m_phase == Phase::Printing)
-        m_sheets.count(sheetRequest(m_run.ticket), SheetCounter::When::Now);
+        awaitTexts();
+}
+
+void PrintTask::countBeforeJob()
+{
+    m_run.awaits = Run::Awaits::Sheets;
+    m_sheets.count(sheetRequest(m_run.ticket), SheetCounter::When::Now);
 }
 
 void PrintTask::sheetsKnown()
 {
-    if (!isCounting())
+    if (m_run.awaits != Run::Awaits::Sheets)
         return Q_EMIT sheetsCounted();
+    m_run.awaits = Run::Awaits::Nothing;
     const SheetRequest request = sheetRequest(m_run.ticket);
     const PageChoice choice = pageChoiceOf(request.options);
     const JobSheets *sheets = m_sheets.counted(request);
@@ -108,10 +115,17 @@ void PrintTask::sheetsKnown()
     takeNext();
 }
 
-// Nothing was begun that would have to be taken back.
-void PrintTask::endCounting()
+void PrintTask::stopPreparing()
 {
+    m_run.awaits = Run::Awaits::Nothing;
+    m_textPatience.stop();
     m_sheets.cancel();
+}
+
+// Nothing was begun that would have to be taken back.
+void PrintTask::endPreparing()
+{
+    stopPreparing();
     m_run.outcome = {JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")};
     enter(Phase::Ready);
     Q_EMIT jobEnded(m_run.outcome);

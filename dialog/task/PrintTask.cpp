@@ -31,6 +31,8 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
         m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
+    m_textPatience.setSingleShot(true);
+    connect(&m_textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QTimer>
 
 #include "dialog/job/Job.h"
 #include "dialog/printers/PrinterId.h"
@@ -51,7 +52,7 @@ public:
         Opened,    ///< its session is there; its panels have not come up
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
-        Printing,  ///< its sheets are counted, then a job runs
+        Printing,  ///< texts are looked through, sheets are counted, then a job runs
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -187,11 +188,15 @@ private:
     };
     struct Run
     {
+        // What is not known yet of a job that is about to begin.
+        enum class Awaits { Nothing, Texts, Sheets };
         std::unique_ptr<Job> job;
-        JobTicket ticket;         // of the one whose sheets are counted
-        QList<SummaryLine> lines; // of its summary
-        JobOutcome outcome;       // of the last one
-        bool held = false;        // the job waits until its instructions have been followed
+        JobTicket ticket;             // of the one whose sheets are counted
+        QList<SummaryLine> lines;     // of its summary
+        JobOutcome outcome;           // of the last one
+        bool held = false;            // the job waits until its instructions have been followed
+        bool textsAreSettled = false; // nothing has to be asked about them any more
+        Awaits awaits = Awaits::Nothing;
     };
     struct Output
     {
@@ -239,17 +244,21 @@ private:
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
     void lookForMissingCharacters();
+    bool isTextCheckOver() const;
     bool mayPrintTexts();
+    void awaitTexts();
+    void settleTexts();
     void startJob(const JobTicket &ticket);
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;
     QList<SummaryLine> withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const;
     QList<SummaryLine> summaryOfSettings();
+    void prepareJob();
     void countBeforeJob();
     void sheetsKnown();
-    void endCounting();
-    bool isCounting() const { return m_phase == Phase::Printing && !m_run.job; }
+    void stopPreparing();
+    void endPreparing();
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;
@@ -265,6 +274,7 @@ private:
     SheetCounter m_sheets;
     Run m_run;
     std::unique_ptr<TextCheck> m_textCheck;
+    QTimer m_textPatience; // until a job is made without its finding
     Phase m_phase = Phase::Fetching;
 };
 

@@ -30,12 +30,12 @@ QString named(char32_t character)
 
 TextCheck::TextCheck(const QStringList &paths)
 {
-    if (paths.isEmpty() || !qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+    if (paths.isEmpty() || !qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        m_finding = Finding{};
         return;
-    m_thread.reset(QThread::create([this, paths] {
-        for (const QString &path : paths)
-            look(path);
-    }));
+    }
+    m_thread.reset(QThread::create([this, paths] { look(paths); }));
+    connect(m_thread.get(), &QThread::finished, this, &TextCheck::finished);
     m_thread->start(QThread::LowPriority);
 }
 
@@ -46,36 +46,49 @@ TextCheck::~TextCheck()
         m_thread->wait();
 }
 
-void TextCheck::look(const QString &path)
+std::optional<TextCheck::Finding> TextCheck::finding() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_finding;
+}
+
+// Runs on the other thread.
+void TextCheck::look(const QStringList &paths)
+{
+    Finding found;
+    std::u32string missing;
+    for (const QString &path : paths)
+        found.isWhole = lookInto(path, missing) && found.isWhole;
+    QStringList names;
+    for (size_t i = 0; i < missing.size() && i < kMostNamed; ++i)
+        names += named(missing[i]);
+    if (missing.size() > kMostNamed)
+        names += u"…"_s;
+    found.missing = names.join(u", "_s);
+    const std::scoped_lock lock(m_mutex);
+    m_finding = found;
+}
+
+// Answers whether nothing is left of the text that could lack more. Ends where enough is missing.
+bool TextCheck::lookInto(const QString &path, std::u32string &missing) const
 {
     QString problem;
     TextSource source(path, textLanguageOf(QLocale().name()), &problem);
     if (!problem.isEmpty())
-        return; // said by whoever prints it
+        return true; // said by whoever prints it
     TextGlyphs glyphs(source.encoding().language);
     std::unordered_set<char32_t> seen;
     while (!m_canceled && !source.atEnd() && source.position() < kMostBytes &&
-           m_missing.size() <= kMostNamed) {
+           missing.size() <= kMostNamed) {
         for (const char32_t character : source.read()) {
             // Control characters are printed as signs of others.
             const bool isPrinted = character >= 0xA0 && cellsOf(character) > 0;
-            if (isPrinted && !m_canceled && m_missing.size() <= kMostNamed &&
+            if (isPrinted && !m_canceled && missing.size() <= kMostNamed &&
                 seen.insert(character).second && !glyphs.has(character))
-                m_missing += character;
+                missing += character;
         }
     }
-}
-
-QString TextCheck::missing(std::chrono::milliseconds patience) const
-{
-    if (!m_thread || !m_thread->wait(QDeadlineTimer(patience)))
-        return {};
-    QStringList names;
-    for (size_t i = 0; i < m_missing.size() && i < kMostNamed; ++i)
-        names += named(m_missing[i]);
-    if (m_missing.size() > kMostNamed)
-        names += u"…"_s;
-    return names.join(u", "_s);
+    return source.atEnd() || missing.size() > kMostNamed;
 }
 
 } // namespace corvana

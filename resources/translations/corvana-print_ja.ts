@@ -1647,6 +1647,10 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>このコンピューターのどのフォントにも、テキスト中の次の文字がありません: %1。それぞれの代わりに空の枠が印刷されます。</translation>
     </message>
+    <message>
+        <source>Not all of the text could be looked through for characters that no font of this computer has. An empty frame is printed for each of them.</source>
+        <translation>このコンピューターのどのフォントにもない文字があるかどうか、テキストの全体は調べられませんでした。そのような文字の代わりに空の枠が印刷されます。</translation>
+    </message>
 <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>

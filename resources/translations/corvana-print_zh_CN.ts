@@ -1647,6 +1647,10 @@ For the command line: %2</source>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
         <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
     </message>
+    <message>
+        <source>Not all of the text could be looked through for characters that no font of this computer has. An empty frame is printed for each of them.</source>
+        <translation>未能检查整个文本中是否有此计算机的任何字体都没有的字符。每个这样的字符都将打印为空框。</translation>
+    </message>
 <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>

@@ -143,8 +143,8 @@ private Q_SLOTS:
         m_task->settings().setPageRanges(u"1-2, 4"_s);
         m_task->print();
         QVERIFY(ends());
-        for (const char *argument : {"Tray=Lower", "Sleep=Custom.12", "Media=Film", "page-border=single",
-                                     "page-ranges=1-2,4", "3"})
+        for (const char *argument : {"Tray=Lower", "Sleep=Custom.12", "Media=Film",
+                                     "page-border=single", "page-ranges=1-2,4", "3"})
             QVERIFY2(arguments().contains(argument), argument);
     }
 
@@ -218,26 +218,6 @@ private Q_SLOTS:
         QCOMPARE(m_face->asked, QStringList(m_filter->output()));
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("former"));
         m_face->overwrites = true;
-        m_task->print();
-        QVERIFY(ends());
-        QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("printed\n"));
-    }
-
-    void whatNoFontHasIsSaidBeforeItIsPrinted()
-    {
-        PrintRequest text = request();
-        const QString path = m_filter->path(u"notes.txt"_s);
-        writeFile(path, "a\u0378b\n"); // which Unicode does not have
-        text.documents = {{path, u"text/plain"_s, u"notes.txt"_s}};
-        open(text);
-        m_face->printsWithout = false;
-        m_task->print();
-        QCOMPARE(m_face->warnings.size(), 1);
-        QVERIFY2(m_face->warnings.first().contains(u"U+0378"_s),
-                 qPrintable(m_face->warnings.first()));
-        QCOMPARE(m_task->phase(), Phase::Ready);
-        QVERIFY(!m_filter->hasOutput());
-        m_face->printsWithout = true;
         m_task->print();
         QVERIFY(ends());
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("printed\n"));
