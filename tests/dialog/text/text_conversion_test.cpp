@@ -1,7 +1,4 @@
 #include <algorithm>
-#include <csignal>
-
-#include <sys/resource.h>
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -15,6 +12,7 @@
 #include "dialog/text/TextCheck.h"
 #include "dialog/text/TextConversion.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
 
@@ -55,28 +53,6 @@ const Layout kLayouts[] = {
     {"two columns", {u"columns=2"_s}},
     {"three columns of small letters", {u"columns=3"_s, u"cpi=15"_s}},
     {"long lines are cut", {u"wrap=false"_s}},
-};
-
-/// How large the files are that this program writes, at most, while this lives.
-class LimitedFiles
-{
-public:
-    explicit LimitedFiles(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limited{bytes, m_former.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~LimitedFiles()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_former);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(LimitedFiles)
-
-private:
-    void (*m_handler)(int);
-    rlimit m_former{};
 };
 
 // Where the words of a PDF's first page are: "xMin yMin xMax yMax" of each.
@@ -373,7 +349,7 @@ private Q_SLOTS:
     // A file of a limited size takes a part of what is written, as a disk does that is just full.
     void whatIsWrongIsSaidWhereAPartIsWritten()
     {
-        const LimitedFiles limited(10'000);
+        const FileSizeLimit limit(10'000);
         const QString pdf = path(u"out.pdf"_s);
         QCOMPARE(problemOfWriting(pdf), u"%1 cannot be written: File too large"_s.arg(pdf));
         QCOMPARE(QFileInfo(pdf).size(), 10'000);
