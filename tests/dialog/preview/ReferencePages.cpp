@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QFile>
+#include <QImageReader>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -21,6 +22,7 @@ QImage drawnByPdftoppm(const QString &file, int page, QSize size)
                    QString::number(size.height()), file, folder.filePath(u"page"_s)});
     if (!program.waitForFinished(60000) || program.exitCode() != 0)
         return {};
+    QImageReader::setAllocationLimit(0); // some are large
     return QImage(folder.filePath(u"page.ppm"_s)).convertToFormat(QImage::Format_RGB32);
 }
 
