@@ -40,7 +40,7 @@ public:
     QByteArray mutated(const QByteArray &sample)
     {
         QByteArray result = sample;
-        const qsizetype changes = 1 + below(12);
+        const qsizetype changes = 1 + below(4);
         for (qsizetype i = 0; i < changes && result.size() > 4; ++i)
             change(result);
         return result;
