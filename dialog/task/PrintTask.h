@@ -95,6 +95,18 @@ public:
     /// Null while there is none.
     OpenedPrinter *opened() const { return m_opened.get(); }
 
+    // What is printed (PrintTask-documents.cpp)
+
+    /// In the order in which they are printed.
+    const QList<Document> &documents() const { return m_request.documents; }
+    /// Whether they can be others now: not while they are printed.
+    bool canChangeDocuments() const;
+    /// Adds files behind those that are there. What cannot be printed is said, for each of them, in
+    /// the words of the command line; the others are taken.
+    void addDocuments(const QStringList &paths);
+    void removeDocument(int index);
+    void moveDocument(int from, int to);
+
     // What is set (PrintTask.cpp)
 
     /// Brings the panels up and the options of the request in; once for a printer.
@@ -151,6 +163,8 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// Other documents are printed, or in another order.
+    void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
     void outputProposed();
     /// The summary says more about the sheets than it did.
@@ -210,6 +224,8 @@ private:
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
+
+    void setDocuments(const QList<Document> &documents);
 
     void connectSource();
     void take(const FetchedPrinter &ready);
