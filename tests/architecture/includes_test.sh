@@ -19,6 +19,8 @@ platform             platform/
 panel                panel/ platform/
 printsetting         printsetting/ panel/ platform/
 colorsetting         colorsetting/ panel/ platform/
+renderer             renderer/
+renderer/protocol    renderer/protocol/
 plugin               plugin/ printsetting/ colorsetting/ panel/ platform/
 dialog               platform/
 dialog/session       dialog/session/ platform/
@@ -28,8 +30,9 @@ dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/s
 dialog/text          dialog/text/ dialog/session/ platform/
 dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
+dialog/preview       dialog/preview/ renderer/protocol/ platform/
 dialog/task          dialog/task/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
-dialog/window        dialog/window/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/window        dialog/window/ dialog/preview/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
 dialog/terminal      dialog/terminal/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
@@ -135,6 +138,15 @@ dialog/sheets/A.cpp          dialog/session/JobAttributes.h     allowed
 dialog/sheets/A.cpp          dialog/printers/Printer.h          refused
 dialog/sheets/A.cpp          dialog/task/JobSettings.h          refused
 dialog/task/A.cpp            dialog/sheets/SheetCounter.h       allowed
+dialog/preview/A.cpp         renderer/protocol/Messages.h       allowed
+dialog/preview/A.cpp         renderer/OpenedDocument.h          refused
+dialog/preview/A.cpp         dialog/sheets/SheetCounter.h       refused
+dialog/sheets/A.cpp          dialog/preview/PagePictures.h      refused
+dialog/app/A.cpp             renderer/protocol/Messages.h       refused
+renderer/A.cpp               renderer/protocol/Messages.h       allowed
+renderer/A.cpp               platform/foundation/Values.h       refused
+renderer/A.cpp               dialog/preview/PagePictures.h      refused
+renderer/protocol/A.cpp      renderer/Service.h                 refused
 dialog/window/pages/A.cpp    dialog/sheets/SheetCounter.h       refused
 dialog/window/chooser/A.cpp  dialog/printers/Printer.h          allowed
 dialog/window/chooser/A.cpp  dialog/window/pages/GeneralPage.h  refused

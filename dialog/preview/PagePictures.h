@@ -1,0 +1,72 @@
+#pragma once
+
+#include <memory>
+
+#include <QHash>
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include "dialog/preview/PageDrawer.h"
+#include "dialog/preview/PictureCache.h"
+
+namespace corvana {
+
+/// Pictures of pages of PDF files, drawn by a process of its own and kept in a bounded cache. To be
+/// used by whatever shows pages: it says what it needs now and shows what there is.
+///
+/// Files are known by their names; who writes another document under the same name calls forget().
+/// Thread: GUI thread, which is never kept: drawing and copying happen elsewhere.
+class PagePictures : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All pictures together. Units: bytes.
+    static constexpr qint64 kRoom = 64LL << 20;
+    /// One picture. A larger one is drawn with fewer pixels of the same proportions, so that more
+    /// than one has room. Units: pixels
+    static constexpr qint64 kMostPixels = 8LL << 20;
+
+    explicit PagePictures(QObject *parent = nullptr);
+    explicit PagePictures(const RendererSettings &settings, QObject *parent = nullptr);
+    ~PagePictures() override;
+
+    /// Gets ready to draw, so that the first page does not wait for that.
+    void prepare();
+    /// What is needed now, most urgent first; replaces what was wanted before (what is in work is
+    /// finished or dropped). Nothing is drawn for nobody, and nothing that there is no room for
+    /// beside what is more urgent.
+    void want(const QList<PageToDraw> &pages);
+    /// The picture (RGB32, opaque white paper), null while it is not drawn. Of other proportions
+    /// than the page the picture is distorted. It has fewer pixels than asked for where those would
+    /// be more than kMostPixels.
+    QImage picture(const PageToDraw &page) const;
+    /// Any picture of that page, of another size, to be shown scaled meanwhile; null without one.
+    QImage anyPicture(const QString &file, int page) const;
+    /// Why a page cannot be drawn, translated, for its place; empty while it can.
+    QString problem(const QString &file, int page) const;
+    /// Forgets a file (it was replaced by another layout).
+    void forget(const QString &file);
+
+Q_SIGNALS:
+    /// picture() or problem() has another answer.
+    void drawn(const QString &file, int page);
+
+private:
+    /// Page of a trouble that all pages of the document have.
+    static constexpr int kWholeDocument = -1;
+    using Troubles = QHash<int, PageTrouble>;
+
+    PageDrawer &drawer();
+    void takeFinished();
+    bool hasTrouble(const PageToDraw &page) const;
+
+    RendererSettings m_settings;
+    mutable PictureCache m_cache{kRoom};  // looking at a picture keeps it
+    QHash<QString, Troubles> m_troubles;  // of a file
+    std::unique_ptr<PageDrawer> m_drawer; // last; nothing runs before the first wish
+};
+
+} // namespace corvana

@@ -1,0 +1,45 @@
+// corvana-page-renderer: draws pages of documents for another program, which need not trust the
+// documents, nor this program. It is started by that program with a socket as descriptor 3 (see
+// protocol/Messages.h), and of no use to anybody else.
+
+#include <cstdio>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+
+#include <poppler-global.h>
+
+#include "renderer/Service.h"
+#include "renderer/protocol/MessageSocket.h"
+
+using namespace corvana::renderer;
+
+namespace {
+
+constexpr int kSocket = 3;
+
+bool isSocket(int descriptor)
+{
+    int type = 0;
+    socklen_t size = sizeof(type);
+    return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0 &&
+           type == SOCK_SEQPACKET;
+}
+
+} // namespace
+
+int main()
+{
+    if (!isSocket(kSocket)) {
+        std::fputs("corvana-page-renderer is started by corvana-print, which hands it a socket.\n",
+                   stderr);
+        return 2;
+    }
+    // What is wrong with a document is of no use to anyone in Poppler's words.
+    poppler::set_debug_error_function([](const std::string &, void *) {}, nullptr);
+
+    auto ready = made<Ready>(0);
+    if (!sendMessage(kSocket, ready))
+        return 1;
+    return Service(kSocket).run() ? 0 : 1;
+}
