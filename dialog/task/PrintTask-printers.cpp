@@ -150,6 +150,7 @@ void PrintTask::proposeOutput()
 void PrintTask::close()
 {
     m_sheets.cancel();
+    m_preview = {};
     if (!m_opened)
         return;
     m_settings.leavePrinter();

@@ -16,6 +16,7 @@
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
+#include "dialog/task/SheetPreview.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
 
@@ -126,6 +127,9 @@ public:
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
+    /// What is known of the sheets of the job as it stands now; sheetsCounted() says when that is
+    /// more. A face that shows it calls countSheets() after each change.
+    SheetPreview sheetPreview() const;
     /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
     /// that is done to pages has an effect.
     bool passesFilesOn() const;
@@ -167,7 +171,7 @@ Q_SIGNALS:
     void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
     void outputProposed();
-    /// The summary says more about the sheets than it did.
+    /// More is known of the sheets than before: the summary and sheetPreview() say other things.
     void sheetsCounted();
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
@@ -264,6 +268,7 @@ private:
     void countBeforeJob();
     void sheetsKnown();
     void endCounting();
+    SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     bool isCounting() const { return m_phase == Phase::Printing && !m_run.job; }
     void jobFinished(const JobOutcome &outcome);
 
@@ -278,6 +283,7 @@ private:
     JobSettings m_settings;
     Output m_output;
     SheetCounter m_sheets;
+    SheetPreview m_preview; // that was known last
     Run m_run;
     std::unique_ptr<TextCheck> m_textCheck;
     Phase m_phase = Phase::Fetching;
