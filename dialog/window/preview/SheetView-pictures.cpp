@@ -103,6 +103,8 @@ PaintedSide SheetView::painted(SideIndex index) const
     side.turn = planned.turn;
     side.bound = boundEdge(m_sheets.plan, index);
     side.isCurrent = hasFocus() && index == m_current;
+    if (planned.kind == PlannedSide::Kind::Cover)
+        side.problem = tr("Cover sheet of the queue: %1").arg(planned.cover);
     if (!m_pictures || planned.laidOutPage < 0)
         return side;
     const SidePictures::Wish wish = wishFor(m_sheets, planned, pictureSize(index));

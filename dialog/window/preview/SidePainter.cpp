@@ -38,6 +38,8 @@ void paintShadow(QPainter &painter, const QRect &paper)
 // Stitches beside the bound edge, outside the paper.
 void paintBoundEdge(QPainter &painter, const PaintedSide &side, const QColor &color)
 {
+    if (!side.bound)
+        return;
     constexpr int kAway = 4;
     constexpr int kIn = 3;
     const QRect edge = side.paper.adjusted(-kAway, -kAway, kAway - 1, kAway - 1);
@@ -46,19 +48,17 @@ void paintBoundEdge(QPainter &painter, const PaintedSide &side, const QColor &co
     pen.setDashPattern({3, 2});
     pen.setCapStyle(Qt::FlatCap);
     painter.setPen(pen);
-    switch (side.bound) {
-    case BoundEdge::None:
-        break;
-    case BoundEdge::Left:
+    switch (*side.bound) {
+    case Qt::LeftEdge:
         painter.drawLine(edge.left(), along.top(), edge.left(), along.bottom());
         break;
-    case BoundEdge::Right:
+    case Qt::RightEdge:
         painter.drawLine(edge.right() + 1, along.top(), edge.right() + 1, along.bottom());
         break;
-    case BoundEdge::Top:
+    case Qt::TopEdge:
         painter.drawLine(along.left(), edge.top(), along.right(), edge.top());
         break;
-    case BoundEdge::Bottom:
+    case Qt::BottomEdge:
         painter.drawLine(along.left(), edge.bottom() + 1, along.right(), edge.bottom() + 1);
         break;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QImage>
 #include <QPalette>
 #include <QRect>
@@ -20,8 +22,8 @@ struct PaintedSide
     QString text{};      ///< in that line
     QImage picture{};    ///< as it was laid out; null while there is none
     int turn = 0;        ///< of the picture; Units: degrees clockwise
-    QString problem{};   ///< stands on the paper where there can be no picture
-    BoundEdge bound = BoundEdge::None;
+    QString problem{};   ///< stands on the paper instead of a picture
+    std::optional<Qt::Edge> bound{};
     bool isCurrent = false; ///< and has the focus
 };
 

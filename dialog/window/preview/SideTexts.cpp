@@ -17,13 +17,18 @@ bool isTwoSided(const SheetPlan &plan)
     return plan.binding != SheetPlan::Binding::None;
 }
 
-QString pagesText(const QList<int> &pages)
+// What is on a side.
+QString contentsText(const PlannedSide &side)
 {
-    QStringList numbers;
-    for (const int page : pages)
-        numbers += QString::number(page);
-    if (numbers.isEmpty())
+    if (side.kind == PlannedSide::Kind::Cover)
+        return Texts::tr("cover sheet");
+    if (side.kind == PlannedSide::Kind::Blank)
         return Texts::tr("blank");
+    QStringList numbers;
+    for (const int page : side.pages)
+        numbers += QString::number(page);
+    if (numbers.isEmpty()) // nobody knows which
+        return Texts::tr("printed");
     if (numbers.size() == 1)
         return Texts::tr("page %1").arg(numbers.constFirst());
     return Texts::tr("pages %1").arg(QLocale().createSeparatedList(numbers));
@@ -41,18 +46,12 @@ const PlannedSide *sideOf(const SheetPlan &plan, SideIndex side)
     return sheet.back ? &*sheet.back : nullptr;
 }
 
-// A sheet is turned over at its bound edge: what is at the left of its front is at the right of its
-// back, and below the pages that are bound at their top.
-BoundEdge boundEdge(const SheetPlan &plan, SideIndex side)
+std::optional<Qt::Edge> boundEdge(const SheetPlan &plan, SideIndex side)
 {
     const PlannedSide *planned = sideOf(plan, side);
-    if (!planned || !isTwoSided(plan))
-        return BoundEdge::None;
-    const bool isLandscape = planned->paper.width() > planned->paper.height();
-    const bool atSide = (plan.binding == SheetPlan::Binding::LongEdge) != isLandscape;
-    if (atSide)
-        return side.isBack ? BoundEdge::Right : BoundEdge::Left;
-    return side.isBack ? BoundEdge::Bottom : BoundEdge::Top;
+    if (!planned)
+        return std::nullopt;
+    return bindingEdge(plan.binding, *planned, side.isBack ? SheetSide::Back : SheetSide::Front);
 }
 
 QString sideLabel(const SheetPlan &plan, SideIndex side)
@@ -68,7 +67,7 @@ QString sideDescription(const SheetPlan &plan, const QStringList &titles, SideIn
     const PlannedSide *planned = sideOf(plan, side);
     if (!planned)
         return {};
-    QString pages = pagesText(planned->pages);
+    QString pages = contentsText(*planned);
     if (titles.size() > 1 && !planned->pages.isEmpty())
         pages = Texts::tr("%1 of %2").arg(pages, titles.value(planned->document));
     const int number = side.sheet + 1;
@@ -85,16 +84,17 @@ QString sideDescription(const SheetPlan &plan, const QStringList &titles, SideIn
 
 QString boundEdgeText(const SheetPlan &plan, SideIndex side)
 {
-    switch (boundEdge(plan, side)) {
-    case BoundEdge::None:
+    const std::optional<Qt::Edge> edge = boundEdge(plan, side);
+    if (!edge)
         return {};
-    case BoundEdge::Left:
+    switch (*edge) {
+    case Qt::LeftEdge:
         return Texts::tr("Bound at the left edge");
-    case BoundEdge::Top:
+    case Qt::TopEdge:
         return Texts::tr("Bound at the top edge");
-    case BoundEdge::Right:
+    case Qt::RightEdge:
         return Texts::tr("Bound at the right edge");
-    case BoundEdge::Bottom:
+    case Qt::BottomEdge:
         return Texts::tr("Bound at the bottom edge");
     }
     return {};

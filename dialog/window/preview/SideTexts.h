@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 #include <QStringList>
 
@@ -7,9 +9,8 @@
 
 namespace corvana {
 
-/// The edge of a side, as it is read, at which its sheet is bound.
-enum class BoundEdge { None, Left, Top, Right, Bottom };
-BoundEdge boundEdge(const SheetPlan &plan, SideIndex side);
+/// The edge of a side, as it is read, at which its sheet is bound; nothing where none is.
+std::optional<Qt::Edge> boundEdge(const SheetPlan &plan, SideIndex side);
 
 /// The side of a plan; null where there is none. Ownership: the plan's.
 const PlannedSide *sideOf(const SheetPlan &plan, SideIndex side);
