@@ -1,5 +1,6 @@
 #include "dialog/window/preview/DocumentArea.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -56,7 +57,9 @@ void DocumentArea::buildHeader()
     m_add = addButton(u"documentAdd"_s, tr("Print further documents in the same job"));
     m_add->setText(tr("Add…"));
     auto *header = new QHBoxLayout;
-    header->setSpacing(2);
+    header->setSpacing(4);
+    // As high as the row of the printer beside it.
+    header->addStrut(QComboBox().sizeHint().height());
     header->addWidget(m_title, 1);
     for (QToolButton *button : {m_up, m_down, m_remove, m_add})
         header->addWidget(button);
@@ -71,7 +74,6 @@ QToolButton *DocumentArea::addButton(const QString &name, const QString &what)
 {
     auto *button = new QToolButton(this);
     button->setObjectName(name);
-    button->setAutoRaise(true);
     button->setToolTip(plainToolTip(what));
     button->setAccessibleName(what);
     return button;

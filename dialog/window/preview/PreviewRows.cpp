@@ -76,7 +76,6 @@ CountsRow::CountsRow(QWidget *parent)
     font.setBold(true);
     m_counts->setFont(font);
     m_fold->setObjectName(u"foldPreview"_s);
-    m_fold->setAutoRaise(true);
     m_fold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     QHBoxLayout *layout = rowLayout(this);
     layout->addWidget(m_counts, 1);
@@ -112,6 +111,8 @@ void CountsRow::setFolded(bool folded, bool canUnfold)
 {
     m_isFolded = folded;
     m_fold->setText(folded ? tr("Show Preview") : tr("Hide Preview"));
+    const bool toTheLeft = folded == isRightToLeft();
+    m_fold->setArrowType(toTheLeft ? Qt::LeftArrow : Qt::RightArrow);
     m_fold->setVisible(!folded || canUnfold);
 }
 

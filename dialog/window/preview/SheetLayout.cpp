@@ -77,6 +77,8 @@ double SheetLayout::fittingScale(const Zoom &zoom) const
 
 void SheetLayout::placeRows()
 {
+    m_hasBacks = std::any_of(m_plan.sheets.begin(), m_plan.sheets.end(),
+                             [](const PlannedSheet &sheet) { return sheet.back.has_value(); });
     m_cell = 0;
     for (const PlannedSheet &sheet : std::as_const(m_plan.sheets))
         m_cell = std::max(m_cell, sheetWidth(sheet));
@@ -112,8 +114,11 @@ QSize SheetLayout::paperSize(const PlannedSide &side) const
 
 int SheetLayout::sheetWidth(const PlannedSheet &sheet) const
 {
+    // The last sheet of a two-sided job may lack a back. Its front is below the others all the same.
     const int front = paperSize(sheet.front).width();
-    return sheet.back ? front + innerGap() + paperSize(*sheet.back).width() : front;
+    if (!m_hasBacks)
+        return front;
+    return front + innerGap() + (sheet.back ? paperSize(*sheet.back).width() : front);
 }
 
 QRect SheetLayout::sheet(int index) const
@@ -141,8 +146,7 @@ QRect SheetLayout::paper(SideIndex side) const
         return {};
     const QSize size = paperSize(side.isBack ? *planned.back : planned.front);
     const bool atRight = side.isBack != m_space.isMirrored;
-    const int left =
-        planned.back && atRight ? whole.right() + 1 - size.width() : whole.left();
+    const int left = m_hasBacks && atRight ? whole.right() + 1 - size.width() : whole.left();
     // Small sheets stand on the line that their labels are below.
     const int bottom = whole.bottom() + 1 - m_space.labelHeight;
     return {{left, bottom - size.height()}, size};

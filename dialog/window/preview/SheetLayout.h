@@ -86,7 +86,7 @@ private:
     QSize paperSize(const PlannedSide &side) const;
     int sheetWidth(const PlannedSheet &sheet) const;
     int gap() const { return margin(m_space); }
-    int innerGap() const { return qMax(4, gap() / 2); }
+    int innerGap() const { return qMax(4, gap() * 2 / 3); }
     double fittingScale(const Zoom &zoom) const;
     void placeRows();
     int rowAt(int height) const;
@@ -94,6 +94,7 @@ private:
     SheetPlan m_plan; // shared with whoever made it
     SheetSpace m_space;
     double m_scale = 1.0;
+    bool m_hasBacks = false;
     int m_columns = 1;
     int m_cell = 0; // the width that each sheet of a row has
     QList<Row> m_rows;

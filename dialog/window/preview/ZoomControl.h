@@ -2,16 +2,15 @@
 
 #include <QWidget>
 
-class QAction;
+class QComboBox;
 class QToolButton;
 
 namespace corvana {
 
 class SheetView;
-struct Zoom;
 
-/// The buttons that enlarge and reduce the sheets of a view, and between them how large they are,
-/// with all there is to choose. Its keys work in the whole window.
+/// How large the sheets of a view are shown, with all there is to choose, and buttons that go to
+/// the next size. Its keys work in the whole window.
 class ZoomControl : public QWidget
 {
     Q_OBJECT
@@ -25,13 +24,12 @@ public:
 
 private:
     QToolButton *button(const QString &name, const QString &text, const QString &what);
-    void buildMenu();
-    void addChoice(const QString &text, const Zoom &zoom);
+    void fillSizes();
     void refresh();
 
     SheetView &m_view;
     QToolButton *m_out;
-    QToolButton *m_size;
+    QComboBox *m_sizes;
     QToolButton *m_in;
 };
 
