@@ -121,6 +121,9 @@ void PrintTask::open(const FetchedPrinter &ready)
         return;
     }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
+    // A panel is asked for what it shows when it is done with what it is doing.
+    connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::showColors,
+            Qt::QueuedConnection);
     m_chosen.problem = {};
     proposeOutput();
     enter(Phase::Opened);
@@ -157,6 +160,7 @@ void PrintTask::close()
     // Counts where the options of the printer that is left had asked for copies.
     m_settings.askForCopies(m_request.copies, JobSettings::By::Program);
     m_opened.reset();
+    settingsAffectColors();
     Q_EMIT printerClosed();
 }
 

@@ -11,6 +11,7 @@
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
@@ -134,6 +135,16 @@ public:
     /// that is done to pages has an effect.
     bool passesFilesOn() const;
 
+    // The colours of its pages (PrintTask-colors.cpp)
+
+    /// How colours come out, as far as a screen can show it: with what the panels show now, while a
+    /// slider is being moved as well. pageColorsChanged() says when they are others. Those of the
+    /// document until the panels have come up.
+    const PageColors &pageColors() const { return m_colors.shown; }
+    /// What of the colours a preview shows and what it does not know, in sentences; empty while
+    /// there is nothing to say.
+    const QString &pageColorsText() const { return m_colors.text; }
+
     // The job (PrintTask-job.cpp)
 
     bool canPrint() const;
@@ -171,6 +182,8 @@ Q_SIGNALS:
     void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
     void outputProposed();
+    /// pageColors() are others, or pageColorsText().
+    void pageColorsChanged();
     /// More is known of the sheets than before: the summary and sheetPreview() say other things.
     void sheetsCounted();
     void said(const corvana::TaskMessage &message);
@@ -218,6 +231,12 @@ private:
         bool confirmed = false;
         QString proposed{}; // and nobody's choice
     };
+    struct Colors
+    {
+        PageColors shown;
+        QString text;
+        bool isBlack = false; // the job is black and white, whatever the panels say
+    };
     struct Baseline
     {
         SessionSnapshot opened;  // before any option was taken
@@ -254,6 +273,9 @@ private:
     void sayRefusal(const Refusal &refusal);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
+    void settingsAffectColors();
+    void showColors();
+
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
@@ -281,6 +303,7 @@ private:
     QHash<PrinterId, Memory> m_memory;
     Baseline m_baseline;
     JobSettings m_settings;
+    Colors m_colors;
     Output m_output;
     SheetCounter m_sheets;
     SheetPreview m_preview; // that was known last

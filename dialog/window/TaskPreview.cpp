@@ -19,12 +19,15 @@ TaskPreview::TaskPreview(PrintTask &task, PreviewPane &pane, QObject *parent)
     connect(&task, &PrintTask::sheetsCounted, this, &TaskPreview::showSheets);
     connect(&task, &PrintTask::settingsChanged, this, &TaskPreview::update);
     connect(&task, &PrintTask::printerChanged, this, &TaskPreview::update);
+    // At once: a slider is being moved.
+    connect(&task, &PrintTask::pageColorsChanged, this, &TaskPreview::showColors);
     connect(&task, &PrintTask::phaseChanged, this, [this] {
         m_pane.documents()->setCanChange(m_task.canChangeDocuments());
         update();
     });
     connectDocuments();
     showDocuments();
+    showColors();
     showSheets();
 }
 
@@ -52,6 +55,11 @@ void TaskPreview::showDocuments()
     for (const Document &document : m_task.documents())
         listed += {document.title, nameOfFormat(document.format), document.path};
     m_pane.documents()->setDocuments(m_task.request().title, listed);
+}
+
+void TaskPreview::showColors()
+{
+    m_pane.setColors(m_task.pageColors().transform, m_task.pageColorsText());
 }
 
 void TaskPreview::showSheets()

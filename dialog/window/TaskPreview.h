@@ -32,6 +32,7 @@ public:
 private:
     void connectDocuments();
     void showDocuments();
+    void showColors();
     void showSheets();
     QString note() const;
     ShownPreview shown(const SheetPreview &preview) const;

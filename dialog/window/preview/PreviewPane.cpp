@@ -65,9 +65,10 @@ void PreviewPane::showPreview(const ShownPreview &preview)
     arrange();
 }
 
-void PreviewPane::setColors(const ColorTransform &colors)
+void PreviewPane::setColors(const ColorTransform &colors, const QString &text)
 {
     m_colors = colors;
+    m_colorsRow->setText(text, !colors.isIdentity());
     m_view->setColors(m_colorsRow->button()->isDown() ? ColorTransform() : colors);
     arrange();
 }
@@ -90,7 +91,7 @@ void PreviewPane::arrange()
     m_documents->setFolded(m_isFolded);
     m_stack->setVisible(!m_isFolded);
     m_sheetsRow->setVisible(!m_isFolded && hasSheets);
-    m_colorsRow->setVisible(!m_isFolded && hasSheets && !m_colors.isIdentity());
+    m_colorsRow->setVisible(!m_isFolded && hasSheets && !m_colorsRow->isEmpty());
 }
 
 QList<QWidget *> PreviewPane::focusOrder() const

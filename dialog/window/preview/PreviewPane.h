@@ -48,9 +48,9 @@ public:
     SheetsRow *sheetsRow() const { return m_sheetsRow; }
 
     void showPreview(const ShownPreview &preview);
-    /// What the settings do to the colors of pages; a sentence and a button to compare are there
-    /// while they do anything.
-    void setColors(const ColorTransform &colors);
+    /// What the settings do to the colors of pages, and what is to be said of that. A button to
+    /// compare is there while they do anything.
+    void setColors(const ColorTransform &colors, const QString &text);
     /// Folded, only the counts are there. `canUnfold`: whether there would be room for more.
     void setFolded(bool folded, bool canUnfold);
     bool isFolded() const { return m_isFolded; }

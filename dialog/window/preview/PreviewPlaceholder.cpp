@@ -16,6 +16,8 @@ namespace {
 
 // A line of text is read well up to this width. Units: heights of the font.
 constexpr int kWidestText = 26;
+// How much larger what has to be read is than what may be.
+constexpr double kReasonSize = 1.25;
 
 QLabel *centered(QLabel *label, int em)
 {
@@ -54,6 +56,9 @@ PreviewPlaceholder::PreviewPlaceholder(QWidget *parent)
     layout->addWidget(m_choose, 0, Qt::AlignHCenter);
     layout->addStretch(1);
     connect(m_choose, &QPushButton::clicked, this, &PreviewPlaceholder::choosePressed);
+    QFont font = m_reason->font();
+    font.setPointSizeF(font.pointSizeF() * kReasonSize);
+    m_reason->setFont(font);
     showReason({}, {});
 }
 

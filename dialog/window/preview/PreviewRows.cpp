@@ -54,7 +54,7 @@ ColorsRow::ColorsRow(QWidget *parent)
     : QWidget(parent), m_text(new ElidedLabel(this)), m_compare(new QPushButton(this))
 {
     m_text->setObjectName(u"colorsText"_s);
-    m_text->setText(tr("Shows your adjustments; colors on paper differ."));
+    m_text->setTwoLines();
     m_compare->setObjectName(u"compare"_s);
     m_compare->setText(tr("Hold to Compare"));
     m_compare->setToolTip(
@@ -65,6 +65,17 @@ ColorsRow::ColorsRow(QWidget *parent)
     layout->addWidget(m_compare);
     connect(m_compare, &QPushButton::pressed, this, [this] { Q_EMIT original(true); });
     connect(m_compare, &QPushButton::released, this, [this] { Q_EMIT original(false); });
+}
+
+void ColorsRow::setText(const QString &text, bool canCompare)
+{
+    m_text->setLine(text);
+    m_compare->setVisible(canCompare);
+}
+
+bool ColorsRow::isEmpty() const
+{
+    return m_text->text().isEmpty() && m_compare->isHidden();
 }
 
 CountsRow::CountsRow(QWidget *parent)

@@ -34,7 +34,7 @@ private:
     ZoomControl *m_zoom;
 };
 
-/// Says that the colors of the sheets are those of the settings, and compares on demand.
+/// Says how far the colors of the sheets are those of the settings, and compares on demand.
 class ColorsRow : public QWidget
 {
     Q_OBJECT
@@ -42,6 +42,8 @@ class ColorsRow : public QWidget
 public:
     explicit ColorsRow(QWidget *parent = nullptr);
 
+    void setText(const QString &text, bool canCompare);
+    bool isEmpty() const;
     QPushButton *button() const { return m_compare; }
 
 Q_SIGNALS:
