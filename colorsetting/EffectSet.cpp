@@ -1,6 +1,7 @@
 #include "colorsetting/EffectSet.h"
 
 #include "colorsetting/ColorSettingKeys.h"
+#include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 
 namespace corvana {
@@ -46,6 +47,33 @@ QVariantList storedEffectSet(const EffectSet &set)
         values.append(usableEffectValue(value == set.end() ? QVariant() : value->second));
     }
     return values;
+}
+
+bool printsInMonochrome(const PrintSettings &settings)
+{
+    return settings.value(kQXMonoColor).toString() == kMono;
+}
+
+bool driverMatchesColors(const PrintSettings &settings, ppd_file_t *ppd)
+{
+    return ppdFindAttr(ppd, kSupportsCustomColorMatching, nullptr) &&
+           settings.value(kColorMatchingMode).toString() != kApplicationColorMatching;
+}
+
+QString effectSetKey(const PrintSettings &settings)
+{
+    return effectSetKey(printsInMonochrome(settings), settings.value(kQXColorMatching).toString());
+}
+
+EffectSet effectSetOf(const PrintSettings &settings)
+{
+    return usableEffectSet(settings.value(effectSetKey(settings)));
+}
+
+bool isInForce(const EffectInfo &effect, const PrintSettings &settings, ppd_file_t *ppd)
+{
+    return driverMatchesColors(settings, ppd) &&
+           (effect.inMonochrome || !printsInMonochrome(settings));
 }
 
 } // namespace corvana

@@ -7,6 +7,8 @@
 #include <QVariantList>
 
 #include "colorsetting/Effects.h"
+#include "platform/printcore/Ppd.h"
+#include "platform/printcore/PrintSettings.h"
 
 namespace corvana {
 
@@ -30,5 +32,20 @@ EffectSet usableEffectSet(const QVariant &stored);
 
 /// The form in which a set is stored: its values, in the order of kEffectTable, each usable.
 QVariantList storedEffectSet(const EffectSet &set);
+
+/// Whether a job is printed in monochrome.
+bool printsInMonochrome(const PrintSettings &settings);
+
+/// Whether the printer's driver matches the colours of a job, rather than the application: no
+/// effect is in force otherwise.
+bool driverMatchesColors(const PrintSettings &settings, ppd_file_t *ppd);
+
+/// The print settings entry of the effect set of a job, and the set itself.
+QString effectSetKey(const PrintSettings &settings);
+EffectSet effectSetOf(const PrintSettings &settings);
+
+/// Whether an effect applies to a job: none does while the application matches the colours, and few
+/// do in monochrome printing. The panel's summary names just these.
+bool isInForce(const EffectInfo &effect, const PrintSettings &settings, ppd_file_t *ppd);
 
 } // namespace corvana

@@ -75,4 +75,21 @@ void QXLaserColorSettingPDE::saveEffectValues()
     PMPrintSettingsSetValue(settings, currentEffectSetKey(), storedEffectSet(set), false);
 }
 
+void QXLaserColorSettingPDE::writeShownValues(PrintSettings &settings) const
+{
+    if (!effectContent)
+        return;
+    EffectSet set;
+    for (const EffectInfo &effect : kEffectTable)
+        set[effect.effect] = effectValue(effect.keyword);
+    settings.setValue(currentEffectSetKey(), storedEffectSet(set));
+}
+
+void QXLaserColorSettingPDE::sayShownEffectsChanged()
+{
+    if (pdePluginCallbackObject &&
+        pdePluginCallbackObject->respondsTo(PDECallbackOperation::shownValuesDidChange))
+        pdePluginCallbackObject->shownValuesDidChange();
+}
+
 } // namespace corvana

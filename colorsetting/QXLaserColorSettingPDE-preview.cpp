@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 #include "colorsetting/ColorSettingKeys.h"
-#include "colorsetting/Effects.h"
+#include "colorsetting/EffectPreview.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
 #include "platform/toolkit/ControlActions.h"
@@ -131,16 +131,16 @@ void QXLaserColorSettingPDE::effectValueDidChange(QWidget *sender)
 void QXLaserColorSettingPDE::redrawEffectImage()
 {
     const bool mono = hasMode(kModeMono);
-    const bool unmatched = m_outputBin.value(kQXColorMatching) == QVariant(QString(kNone));
-    if (hasMode(kModeFaxOutput) || (unmatched && mono)) {
+    const QVariant matching = m_outputBin.value(kQXColorMatching);
+    switch (previewColors(matching.toString(), mono, hasMode(kModeFaxOutput))) {
+    case PreviewColors::Grey:
         setRefImageWithName(kNone);
-        showPreview(monochrome(refImage()));
-    } else if (unmatched) {
-        showPreview(refImage());
-    } else {
-        constexpr int kAll = -1;
-        showPreview(
-            applyColorMatrixFilter_code(applyColorControlFilter_code(refImage(), kAll), kAll));
+        return showPreview(monochrome(refImage()));
+    case PreviewColors::AsTheyAre:
+        return showPreview(refImage());
+    case PreviewColors::WithEffects:
+        const auto value = [this](const EffectInfo &effect) { return effectValue(effect.keyword); };
+        return showPreview(withEffects(refImage(), value, mono, *ccFilter, *cmFilter));
     }
 }
 

@@ -74,10 +74,12 @@ void QXLaserColorSettingPDE::connectInterface(InterfaceConnections &connections)
         if (std::exchange(m_lastReportIsStale, false))
             EffectVal() = {-1, 0};
         effectValueDidChange(sender);
+        sayShownEffectsChanged();
     });
     connections.action(u"revertEffectDialog"_s, [this](QWidget *sender) {
         revertEffectDialog(sender);
         updateUI(); // reverting leaves the effects disabled until the controls are updated
+        sayShownEffectsChanged();
     });
     connections.action(u"updateImage"_s, [this](QWidget *sender) { updateImage(sender); });
 }

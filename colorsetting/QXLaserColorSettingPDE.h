@@ -63,6 +63,8 @@ public:
     virtual void setEffectDefaults();
     virtual void restoreEffectValues();
     virtual void saveEffectValues();
+    /// The six effects as the controls show them; a slider is saved only later.
+    void writeShownValues(PrintSettings &settings) const override;
 
     // Preview (QXLaserColorSettingPDE-preview.cpp)
 
@@ -145,6 +147,7 @@ private:
     QString currentEffectSetKey() const;
     qint64 effectValue(QLatin1StringView keyword) const;
     void connectOutlets(InterfaceConnections &connections);
+    void sayShownEffectsChanged();
     void noteRestoredEffect(const EffectInfo &effect, qint64 restored);
     void showPreview(const FilterImage &image);
     void titleEffectLabel(QLatin1StringView keyword);

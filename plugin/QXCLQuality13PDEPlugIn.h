@@ -4,6 +4,7 @@
 
 #include "platform/pde/PDEPlugIn.h"
 #include "plugin/QXJobValues.h"
+#include "plugin/QXPageColors.h"
 
 namespace corvana {
 
@@ -20,9 +21,11 @@ public:
     PDEPanelsForType_withHostInfo(const QString &type,
                                   const std::shared_ptr<PDEPluginCallback> &host) override;
     PDEJobValues *jobValues() override { return &m_jobValues; }
+    PDEPageColors *pageColors() override { return &m_pageColors; }
 
 private:
     QXJobValues m_jobValues;
+    QXPageColors m_pageColors;
 };
 
 } // namespace corvana

@@ -159,31 +159,10 @@ JobValueClaim takeDensity(const QString &value, PrintSettings &settings, ppd_fil
 
 // Colour effects
 
-QString effectSetInForce(const PrintSettings &settings)
-{
-    return effectSetKey(settings.value(kQXMonoColor).toString() == kMono,
-                        settings.value(kQXColorMatching).toString());
-}
-
-EffectSet effectsInForce(const PrintSettings &settings)
-{
-    return usableEffectSet(settings.value(effectSetInForce(settings)));
-}
-
-// Whether an effect applies: none does while the application matches the colours, and few do in
-// monochrome printing. The panel's summary names just these.
-bool isInForce(const EffectInfo &effect, const PrintSettings &settings, ppd_file_t *ppd)
-{
-    if (!ppdFindAttr(ppd, kSupportsCustomColorMatching, nullptr) ||
-        settings.value(kColorMatchingMode).toString() == kApplicationColorMatching)
-        return false;
-    return effect.inMonochrome || settings.value(kQXMonoColor).toString() != kMono;
-}
-
 QList<JobOption> effectOptions(const PrintSettings &settings, ppd_file_t *ppd)
 {
     QList<JobOption> options;
-    const EffectSet values = effectsInForce(settings);
+    const EffectSet values = effectSetOf(settings);
     for (const EffectInfo &effect : kEffectTable) {
         ppd_option_t *option = ppdOption(ppd, effect.keyword);
         const qint64 value = integerValue(values.at(effect.effect));
@@ -216,9 +195,9 @@ JobValueClaim takeEffect(const JobOption &offered, PrintSettings &settings, ppd_
                                      : nullptr;
     if (!choice)
         return refused(bounds, u"%1"_s);
-    EffectSet values = effectsInForce(settings);
+    EffectSet values = effectSetOf(settings);
     values[effect->effect] = *value;
-    settings.setValue(effectSetInForce(settings), storedEffectSet(values));
+    settings.setValue(effectSetKey(settings), storedEffectSet(values));
     return accepted({offered.name, ppdKeyword(choice->choice)});
 }
 

@@ -107,6 +107,8 @@ struct Options
     }
 };
 
+constexpr QStringView kMissingDocument = u"the name of a document is missing.";
+
 ParsedCommandLine notUnderstood(const QString &what)
 {
     return {std::nullopt,
@@ -260,9 +262,15 @@ QString contradictionIn(const CommandLine &line)
     return {};
 }
 
-bool needsDocument(const CommandLine &line)
+bool takesDocument(const CommandLine &line)
 {
     return !line.listPrinters && !line.checkDisplay && !line.summary;
+}
+
+// In a window documents can be chosen.
+bool needsDocument(const CommandLine &line)
+{
+    return line.noDialog && takesDocument(line);
 }
 
 // Why a command line cannot be understood although each of its values can be read; empty when it
@@ -280,11 +288,16 @@ QString problemOf(const CommandLine &line)
     if (const QString contradiction = contradictionIn(line); !contradiction.isEmpty())
         return contradiction;
     if ((line.documents.isEmpty() && needsDocument(line)) || line.documents.contains(QString()))
-        return u"the name of a document is missing."_s;
+        return kMissingDocument.toString();
     return {};
 }
 
 } // namespace
+
+ParsedCommandLine missingDocument()
+{
+    return notUnderstood(kMissingDocument.toString());
+}
 
 ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven)
 {
@@ -312,7 +325,7 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiv
         return notUnderstood(problem);
     std::optional<CommandLine> line = readValues(parser, options, &problem);
     if (line && inputIsGiven && line->passwordDescriptor != 0 && line->documents.isEmpty() &&
-        needsDocument(*line))
+        takesDocument(*line))
         line->documents = QStringList{kStandardStream};
     if (line)
         problem = problemOf(*line);

@@ -17,7 +17,8 @@ inline constexpr QLatin1StringView kStandardStream{"-"};
 /// What the user asked for on the command line.
 struct CommandLine
 {
-    QStringList documents; ///< as given; "-" is standard input
+    /// As given; "-" is standard input. Without any, documents are chosen in the window.
+    QStringList documents;
     QString printer;       ///< a name, or the URI of an IPP printer
     QString server;        ///< "HOST", "HOST:PORT" or a socket; empty for the environment's
     QString ppd;
@@ -58,5 +59,8 @@ struct ParsedCommandLine
 /// `arguments` begin with the program's name. `inputIsGiven`: standard input is the document where
 /// no file is named.
 ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven = false);
+
+/// What a command line without a document gets where no window can be shown.
+ParsedCommandLine missingDocument();
 
 } // namespace corvana

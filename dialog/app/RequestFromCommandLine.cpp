@@ -7,9 +7,9 @@
 
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
-#include "dialog/job/ResultFormat.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/JobNames.h"
 #include "dialog/terminal/PasswordFile.h"
 #include "platform/foundation/Bundle.h"
 
@@ -30,16 +30,6 @@ QString besideProgram(const QString &relative)
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
 }
 
-// A name in the current folder that nothing has yet; a task gives it the ending that suits its
-// printer. A desktop starts programs in a folder where
-// nothing can be written; then it is the user's own.
-QString freeOutputName(const QString &title)
-{
-    const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
-    const QDir folder = writable ? QDir::current() : QDir::home();
-    return freeResultName(folder.path(), QFileInfo(title).completeBaseName(), u"ps"_s);
-}
-
 // The dialog's own help, in the localisation that suits the user best; empty when there is none.
 QString dialogHelpPage()
 {
@@ -47,15 +37,6 @@ QString dialogHelpPage()
     const QFileInfo page(
         besideProgram(u"../share/corvana-print/help/%1/index.html"_s.arg(localization)));
     return page.isFile() ? page.canonicalFilePath() : QString();
-}
-
-QString titleOf(const QList<Document> &documents)
-{
-    if (documents.isEmpty())
-        return {};
-    const QString first = documents.constFirst().title;
-    const int others = static_cast<int>(documents.size()) - 1;
-    return others == 0 ? first : Texts::tr("%1 and %n more", nullptr, others).arg(first);
 }
 
 // Errors: false.
@@ -82,8 +63,8 @@ bool takeOutput(const CommandLine &line, PrintRequest *request, QString *error)
         *error = request->standardOutput->errorString();
         return request->standardOutput->isValid();
     }
-    if (line.output.isEmpty() && !request->documents.isEmpty())
-        request->output = freeOutputName(request->documents.constFirst().title);
+    if (line.output.isEmpty())
+        request->output = proposedOutput(request->documents);
     return true;
 }
 
@@ -136,7 +117,8 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
         return std::nullopt;
     request.options = parseOptions(line.options) + line.switches;
     request.bundleRoots = trustedBundleRoots(line);
-    request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
+    request.titleWasNamed = !line.title.isEmpty();
+    request.title = request.titleWasNamed ? line.title : titleOfDocuments(request.documents);
     request.onAlert = line.onAlert;
     request.noWait = line.noWait;
     if (line.wait)

@@ -4,7 +4,6 @@
 #include <cups/cups.h>
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QTextStream>
 
@@ -118,12 +117,11 @@ bool hasWindows()
     return QGuiApplication::platformName() != "offscreen"_L1;
 }
 
-// Asks which documents to print. False when none.
-bool chooseDocuments(CommandLine *line)
+// What a command line asks for that prints nothing, or why it cannot be understood.
+int writeInstead(const ParsedCommandLine &parsed)
 {
-    line->documents = QFileDialog::getOpenFileNames(
-        nullptr, QCoreApplication::translate("main", "Choose Documents to Print"));
-    return !line->documents.isEmpty();
+    QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
+    return int(parsed.exitStatus);
 }
 
 int runDialog(const PrintRequest &request)
@@ -147,15 +145,10 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments += nameOfBytes(argv[i]);
-    // Whoever starts the program from a desktop's list of programs gives it nothing at all.
-    const bool choosesDocument =
-        argc == 1 && !isStandardInputGiven() && ::isatty(STDIN_FILENO) == 0;
     const ParsedCommandLine parsed = parseCommandLine(arguments, isStandardInputGiven());
-    if (!parsed.commandLine && !choosesDocument) {
-        QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
-        return int(parsed.exitStatus);
-    }
-    CommandLine line = parsed.commandLine.value_or(CommandLine());
+    if (!parsed.commandLine)
+        return writeInstead(parsed);
+    const CommandLine &line = *parsed.commandLine;
 
     // Before there is a second thread: libcups reads it in each, and has done so in this one.
     if (!line.user.isEmpty()) {
@@ -165,7 +158,7 @@ int main(int argc, char **argv)
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended =
-        line.noDialog || line.listPrinters || (line.documents.isEmpty() && !choosesDocument);
+        line.noDialog || line.listPrinters || (line.documents.isEmpty() && line.summary);
     choosePlatform(!unattended || line.checkDisplay);
     logForTerminals(unattended);
     looksForPlatform = !explicitPlatform;
@@ -181,12 +174,12 @@ int main(int argc, char **argv)
 
     if (line.checkDisplay)
         return hasWindows() ? 0 : 1;
+    if (!unattended && !hasWindows() && line.documents.isEmpty())
+        return writeInstead(missingDocument());
     if (!unattended && !explicitPlatform && !hasWindows())
         return fail(QCoreApplication::translate(
             "main", "no display can be reached. Print without a window with --no-dialog."));
 
-    if (choosesDocument && !chooseDocuments(&line))
-        return 1;
     QString error;
     const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
     if (!request && line.json)

@@ -156,6 +156,13 @@ Document inspectDocument(const QString &path, QString *error)
     return inspectCopy(file.number, name, error);
 }
 
+QString nameOfFormat(const QString &format)
+{
+    const auto found = std::find_if(std::begin(kFormats), std::end(kFormats),
+                                    [&](const Format &f) { return format == f.mimeType; });
+    return found == std::end(kFormats) ? QString() : Texts::tr(found->name);
+}
+
 Document readStandardInput(QString *error)
 {
     return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), error);

@@ -36,6 +36,9 @@ Document inspectDocument(const QString &path, QString *error);
 /// Errors: as inspectDocument().
 Document readStandardInput(QString *error);
 
+/// What such a format is called, for people: "PDF document". Empty for one that is not printed.
+QString nameOfFormat(const QString &format);
+
 /// Whether standard input is what somebody gave this program to read: a pipe or a file. A terminal
 /// is where its user types, and whatever starts programs in the background gives them /dev/null.
 bool isStandardInputGiven();

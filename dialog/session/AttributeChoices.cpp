@@ -241,6 +241,11 @@ bool AttributeReader::isMarked(const QList<JobOption> &choices) const
            });
 }
 
+bool AttributeReader::isMonochromeMarked() const
+{
+    return isMarked(colorModeChoices(kMonochrome));
+}
+
 // What a colour mode stands for and another one does not: libcups marks a quality along with it.
 QList<JobOption> AttributeReader::colorModeChoices(const QString &mode) const
 {
@@ -315,7 +320,7 @@ AttributeChoices AttributeReader::readQuality(const QString &asked,
 {
     QString mode = valueOf(others, kColorMode).toLower();
     if (mode.isEmpty())
-        mode = isMarked(colorModeChoices(kMonochrome)) ? kMonochrome : kColor;
+        mode = isMonochromeMarked() ? kMonochrome : kColor;
     const QList<JobOption> normal = qualityChoices(mode, kNormalQuality);
     QStringList allowed;
     AttributeChoices result;

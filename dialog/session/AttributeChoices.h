@@ -42,6 +42,9 @@ public:
     /// quality may be another choice in colour than in black and white.
     AttributeChoices read(const JobOption &attribute, const QList<JobOption> &others = {}) const;
 
+    /// Whether the marks of the PPD ask for pages in black and white.
+    bool isMonochromeMarked() const;
+
     /// The source or the type of paper that a part of "media=A4,Upper,Glossy" names; empty for
     /// neither.
     QList<JobOption> sourceOrType(const QString &media) const;

@@ -11,14 +11,17 @@ namespace corvana {
 Q_LOGGING_CATEGORY(lcHost, "corvana.dialog.host", QtWarningMsg)
 
 HostCallback::HostCallback(PpdSession &session, AlertPresenter &presenter,
-                           std::function<void()> viewResized)
-    : m_session(session), m_presenter(presenter), m_viewResized(std::move(viewResized))
+                           std::function<void()> viewResized, std::function<void()> shownChanged)
+    : m_session(session), m_presenter(presenter), m_viewResized(std::move(viewResized)),
+      m_shownChanged(std::move(shownChanged))
 {
 }
 
 bool HostCallback::respondsTo(PDECallbackOperation operation) const
 {
-    return operation != PDECallbackOperation::panelViewDidResize || m_viewResized;
+    if (operation == PDECallbackOperation::panelViewDidResize)
+        return m_viewResized != nullptr;
+    return operation != PDECallbackOperation::shownValuesDidChange || m_shownChanged;
 }
 
 ppd_file_t *HostCallback::ppdFile()
@@ -54,6 +57,12 @@ void HostCallback::panelViewDidResize()
 {
     if (m_viewResized)
         m_viewResized();
+}
+
+void HostCallback::shownValuesDidChange()
+{
+    if (m_shownChanged)
+        m_shownChanged();
 }
 
 AlertPresenter *HostCallback::alertPresenter()

@@ -16,9 +16,10 @@ class HostCallback : public PDEPluginCallback
 {
 public:
     /// `viewResized` runs when a panel's view has taken another size; it must not call a panel.
-    /// Without it this host takes no resize notices.
+    /// Without it this host takes no resize notices. `shownChanged` does the same for values that
+    /// a panel shows and has not saved.
     HostCallback(PpdSession &session, AlertPresenter &presenter,
-                 std::function<void()> viewResized = {});
+                 std::function<void()> viewResized = {}, std::function<void()> shownChanged = {});
 
     bool respondsTo(PDECallbackOperation operation) const override;
     ppd_file_t *ppdFile() override;
@@ -27,12 +28,14 @@ public:
     bool willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
                                                const QString &choice) override;
     void panelViewDidResize() override;
+    void shownValuesDidChange() override;
     AlertPresenter *alertPresenter() override;
 
 private:
     PpdSession &m_session;
     AlertPresenter &m_presenter;
     std::function<void()> m_viewResized;
+    std::function<void()> m_shownChanged;
 };
 
 } // namespace corvana

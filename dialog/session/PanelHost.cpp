@@ -85,8 +85,9 @@ private:
 
 PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &presenter)
     : m_session(session), m_alerts(std::make_unique<HeldAlerts>(*this, presenter)),
-      m_callback(
-          std::make_shared<HostCallback>(session, *m_alerts, [this] { Q_EMIT viewResized(); }))
+      m_callback(std::make_shared<HostCallback>(
+          session, *m_alerts, [this] { Q_EMIT viewResized(); },
+          [this] { Q_EMIT shownValuesChanged(); }))
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
     connect(&session, &PpdSession::refused, this, [this] {
@@ -200,6 +201,17 @@ bool PanelHost::pick(const QString &keyword, const QString &choice)
             return true;
     }
     return false;
+}
+
+QVariantMap PanelHost::shownEntries() const
+{
+    const PrintSettings &saved = m_session.printSettings();
+    if (!m_visible || panelIsBusy())
+        return saved.entries();
+    PrintSettings shown;
+    shown.setEntries(saved.entries());
+    m_visible->writeShownValues(shown);
+    return shown.entries();
 }
 
 void PanelHost::restoreAll()

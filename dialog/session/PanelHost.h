@@ -68,6 +68,10 @@ public:
     /// there. False when no panel has one.
     bool pick(const QString &keyword, const QString &choice);
 
+    /// The entries of the print settings, with what the visible panel shows and has not saved yet.
+    /// Nothing is saved. In the midst of a panel's work they are the entries themselves.
+    QVariantMap shownEntries() const;
+
     /// Restores all panels, hidden or not, in their order.
     void restoreAll();
 
@@ -87,6 +91,8 @@ Q_SIGNALS:
     void settled();
     /// A panel's view asks for another size. Receivers must not call a panel.
     void viewResized();
+    /// shownEntries() are others, at each step of a slider. Receivers must not call a panel.
+    void shownValuesChanged();
 
 private:
     class Call;

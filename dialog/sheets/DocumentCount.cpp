@@ -1,12 +1,14 @@
 #include "dialog/sheets/DocumentCount.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QFile>
 
 #include "dialog/job/CupsFilter.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/sheets/LaidOutDocument.h"
 #include "dialog/sheets/ScaleProbe.h"
 
 namespace corvana {
@@ -159,7 +161,10 @@ ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &res
 
 void DocumentCount::layOut()
 {
-    convert(layoutOf(m_pdf, file(u"sides.pdf"_s)), [this](bool empty) {
+    m_sides = std::make_unique<QTemporaryDir>();
+    if (!m_sides->isValid())
+        return fail(m_sides->errorString());
+    convert(layoutOf(m_pdf, sidesPath()), [this](bool empty) {
         if (!empty)
             return countSides();
         m_sheets.sides = 0;
@@ -169,17 +174,30 @@ void DocumentCount::layOut()
 
 void DocumentCount::countSides()
 {
-    run(kPdfInfoProgram, pdfPagesArguments(file(u"sides.pdf"_s), 0),
+    run(kPdfInfoProgram, pdfPagesArguments(sidesPath(), kMostDescribed),
         [this](const QByteArray &said) {
             const std::optional<PdfPages> pages = readPdfPages(said);
             if (!pages)
                 return fail(u"pdfinfo found no sides"_s);
             m_sheets.sides = pages->count;
-            if (pages->count > 0 && hasSizes(m_document))
+            keepSides(*pages);
+            if (pages->count > 0)
                 layOutProbe();
             else
                 Q_EMIT finished({});
         });
+}
+
+void DocumentCount::keepSides(const PdfPages &sides)
+{
+    const QString path = sidesPath();
+    m_sheets.laidOut =
+        std::make_shared<LaidOutDocument>(std::move(m_sides), path, sides.count, sides.pages);
+}
+
+QString DocumentCount::sidesPath() const
+{
+    return m_sides->filePath(u"sides.pdf"_s);
 }
 
 // The chain looks at all pages that it is given before it decides whether to scale any, whichever
@@ -218,8 +236,11 @@ void DocumentCount::readProbe(const QList<PdfPage> &kinds)
 {
     const QString laidOut = file(u"probed.pdf"_s);
     run(kPdfTextProgram, probeReadingArguments(laidOut), [this, kinds](const QByteArray &said) {
+        const QList<int> turns = turnsOfProbe(said, kinds);
+        for (const PdfPage &page : std::as_const(m_pages))
+            m_sheets.turns += turns.value(kinds.indexOf(page));
         const QList<double> scales = scalesOfProbe(said, kinds);
-        for (qsizetype i = 0; i < kinds.size(); ++i) {
+        for (qsizetype i = 0; hasSizes(m_document) && i < kinds.size(); ++i) {
             const PageScale scale{sizeOfPage(kinds.at(i)), scales.at(i)};
             if (scale.scale > 0 && m_printed.contains(kinds.at(i)) &&
                 !m_sheets.scales.contains(scale))
@@ -255,6 +276,9 @@ void DocumentCount::run(const char *program, const QStringList &arguments,
 
 void DocumentCount::fail(const QString &problem)
 {
+    // Sides that are known are no trouble, whatever becomes of their scale.
+    if (!m_sheets.sides)
+        m_sheets.trouble = DocumentSheets::Trouble::Failed;
     QTimer::singleShot(0, this, [this, problem] { Q_EMIT finished(problem); });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include <QObject>
 #include <QString>
@@ -15,7 +16,7 @@ namespace corvana {
 
 /// Counts what comes out of one document: makes a PDF of it, asks how many pages that has, has it
 /// laid out as the job wants it, and asks again. A probe, laid out in the same way, tells the
-/// scale.
+/// scale and which way round the pages lie.
 ///
 /// Thread: GUI thread; whatever takes time is a process of its own, which ends with this object.
 class DocumentCount : public QObject
@@ -30,8 +31,9 @@ public:
 
     /// Starts. `finished` follows in every case, never before this returns.
     void start();
-    /// What is known by now.
-    const DocumentSheets &sheets() const { return m_sheets; }
+    /// What was found out, once it has finished. Given away, since this object may live on for a
+    /// moment, and the sides belong to whoever shows them.
+    DocumentSheets takeSheets() { return std::move(m_sheets); }
 
 Q_SIGNALS:
     /// `problem` is for a log; empty when everything was counted.
@@ -48,6 +50,8 @@ private:
     void layOutProbe();
     void readProbe(const QList<PdfPage> &kinds);
     ConversionRequest layoutOf(const QString &pdf, const QString &result) const;
+    void keepSides(const PdfPages &sides);
+    QString sidesPath() const;
     void fail(const QString &problem);
 
     // Each calls `then` when it is done, and fail() when it could not be.
@@ -59,7 +63,8 @@ private:
     Document m_document;
     QString m_ppd;
     QString m_folder;
-    QString m_pdf; // of the document
+    QString m_pdf;                          // of the document
+    std::unique_ptr<QTemporaryDir> m_sides; // holds the sides until they are known
     DocumentSheets m_sheets;
     QList<PdfPage> m_pages;                 // of the document, as far as they were described
     QList<PdfPage> m_printed;               // among them

@@ -124,6 +124,48 @@ double scaleOf(const QList<Mark> &marks, const QRectF &box)
     return scale;
 }
 
+// Which way is up on a page as a reader sees it, in the page's own coordinates.
+QPointF upOf(const PdfPage &page)
+{
+    switch (page.rotation) {
+    case 90:
+        return {-1, 0};
+    case 180:
+        return {0, -1};
+    case 270:
+        return {1, 0};
+    default:
+        return {0, 1};
+    }
+}
+
+// Of the two marks that are farthest from each other from the bottom to the top of the page. A page
+// that is mirrored has its top where it would be without that.
+int turnOf(const QList<Mark> &marks, const PdfPage &page)
+{
+    const QRectF box = visibleBox(page);
+    const QPointF up = upOf(page);
+    double farthest = 0;
+    int turn = 0;
+    for (const Mark &one : marks) {
+        for (const Mark &other : marks) {
+            const QPointF before = placeOf(other.number, box) - placeOf(one.number, box);
+            const double along = QPointF::dotProduct(before, up);
+            const bool isStraight = std::abs(before.x() * up.y() - before.y() * up.x()) < 0.01;
+            if (!isStraight || along <= farthest)
+                continue;
+            farthest = along;
+            // pdftotext measures downwards.
+            const QPointF after = other.place - one.place;
+            if (std::abs(after.x()) > std::abs(after.y()))
+                turn = after.x() > 0 ? 270 : 90;
+            else
+                turn = after.y() > 0 ? 180 : 0;
+        }
+    }
+    return turn;
+}
+
 } // namespace
 
 QList<PdfPage> kindsOfPages(const QList<PdfPage> &pages)
@@ -181,6 +223,15 @@ QList<double> scalesOfProbe(const QByteArray &answer, const QList<PdfPage> &kind
     for (qsizetype kind = 0; kind < kinds.size(); ++kind)
         scales += scaleOf(marks.at(kind), visibleBox(kinds.at(kind)));
     return scales;
+}
+
+QList<int> turnsOfProbe(const QByteArray &answer, const QList<PdfPage> &kinds)
+{
+    const QList<QList<Mark>> marks = marksIn(answer, kinds.size());
+    QList<int> turns;
+    for (qsizetype kind = 0; kind < kinds.size(); ++kind)
+        turns += turnOf(marks.at(kind), kinds.at(kind));
+    return turns;
 }
 
 } // namespace corvana

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include <QList>
@@ -9,6 +10,8 @@
 #include "dialog/job/PageChoice.h"
 
 namespace corvana {
+
+class LaidOutDocument;
 
 /// How large the pages of one size are printed.
 struct PageScale
@@ -30,6 +33,14 @@ struct DocumentSheets
     std::optional<int> sides{};
     /// For each size of page that is printed, where it was found out.
     QList<PageScale> scales{};
+    /// For each page of the document, by how much its side is turned to read that page upright,
+    /// where it was found out. Units: degrees clockwise.
+    QList<int> turns{};
+    /// The sides themselves; null where there are none.
+    std::shared_ptr<const LaidOutDocument> laidOut{};
+    /// Why nobody could count the sides.
+    enum class Trouble { None, Failed, TookTooLong };
+    Trouble trouble = Trouble::None;
 
     bool operator==(const DocumentSheets &) const = default;
 };

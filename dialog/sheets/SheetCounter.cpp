@@ -1,5 +1,7 @@
 #include "dialog/sheets/SheetCounter.h"
 
+#include <utility>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -18,12 +20,6 @@ namespace {
 constexpr int kDelay = 200;
 constexpr int kPatience = 60000;
 
-// What is sent as it is, whatever it holds.
-bool isRaw(const SheetRequest &request)
-{
-    return request.options.contains(JobOption{u"raw"_s, u"true"_s});
-}
-
 } // namespace
 
 SheetCounter::SheetCounter(QObject *parent) : QObject(parent)
@@ -33,7 +29,7 @@ SheetCounter::SheetCounter(QObject *parent) : QObject(parent)
     connect(&m_delay, &QTimer::timeout, this, &SheetCounter::begin);
     connect(&m_patience, &QTimer::timeout, this, [this] {
         qCInfo(lcSheets) << "the sheets were not counted in" << kPatience << "ms";
-        end();
+        end(DocumentSheets::Trouble::TookTooLong);
     });
 }
 
@@ -75,7 +71,10 @@ void SheetCounter::count(const SheetRequest &request, When when)
     cancel();
     m_request = request;
     m_contents = contentsOf(request);
-    m_delay.start(when == When::Now ? 0 : kDelay);
+    // The first change is shown at once; others that follow it closely are shown together.
+    const bool isOneOfMany = m_sinceAsked.isValid() && m_sinceAsked.elapsed() < kDelay;
+    m_sinceAsked.start();
+    m_delay.start(when == When::Soon && isOneOfMany ? kDelay : 0);
 }
 
 void SheetCounter::cancel()
@@ -85,6 +84,7 @@ void SheetCounter::cancel()
     m_document.reset();
     m_folder.reset();
     m_sheets.reset();
+    m_sofar = {};
     m_request.reset();
 }
 
@@ -96,10 +96,9 @@ void SheetCounter::begin()
     const QByteArray content = layoutPpd(m_request->traits);
     const bool isReady =
         ppd.open(QIODevice::WriteOnly) && ppd.write(content) == content.size() && ppd.flush();
-    if (!isReady || isRaw(*m_request)) {
-        qCInfo(lcSheets) << "the sheets are not counted:"
-                         << (isReady ? u"raw"_s : ppd.errorString());
-        return end();
+    if (!isReady) {
+        qCInfo(lcSheets) << "the sheets are not counted:" << ppd.errorString();
+        return end(DocumentSheets::Trouble::Failed);
     }
     m_patience.start(kPatience);
     countNext();
@@ -109,14 +108,14 @@ void SheetCounter::countNext()
 {
     const qsizetype next = m_sofar.documents.size();
     if (next == m_request->documents.size())
-        return end();
+        return end(DocumentSheets::Trouble::None);
     m_document =
         std::make_unique<DocumentCount>(*m_request, m_request->documents.at(next),
                                         m_folder->filePath(u"layout.ppd"_s), m_folder->path());
     connect(m_document.get(), &DocumentCount::finished, this, [this](const QString &problem) {
         if (!problem.isEmpty())
-            qCInfo(lcSheets).noquote()
-                << m_document->sheets().title << "was not counted:" << problem;
+            qCInfo(lcSheets).noquote() << m_request->documents.at(m_sofar.documents.size()).title
+                                       << "was not counted:" << problem;
         documentCounted();
     });
     m_document->start();
@@ -124,20 +123,22 @@ void SheetCounter::countNext()
 
 void SheetCounter::documentCounted()
 {
-    m_sofar.documents += m_document->sheets();
+    m_sofar.documents += m_document->takeSheets();
     m_document.release()->deleteLater();
     countNext();
 }
 
 // What there was no time for is not counted.
-void SheetCounter::end()
+void SheetCounter::end(DocumentSheets::Trouble trouble)
 {
     m_patience.stop();
     m_document.reset();
     m_folder.reset();
-    for (qsizetype i = m_sofar.documents.size(); i < m_request->documents.size(); ++i)
+    for (qsizetype i = m_sofar.documents.size(); i < m_request->documents.size(); ++i) {
         m_sofar.documents += DocumentSheets{m_request->documents.at(i).title};
-    m_sheets = m_sofar;
+        m_sofar.documents.last().trouble = trouble;
+    }
+    m_sheets = std::exchange(m_sofar, {});
     Q_EMIT finished();
 }
 

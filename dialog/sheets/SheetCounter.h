@@ -5,6 +5,7 @@
 #include <optional>
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -47,7 +48,7 @@ public:
 
     /// Counts, unless that was done or is being done. `finished` follows in every case, never
     /// before this returns, unless a newer request comes or cancel() is called. `Soon` waits for
-    /// further changes.
+    /// further changes where one has just been made.
     void count(const SheetRequest &request, When when);
     /// What was counted for this request; null while it was not.
     const JobSheets *counted(const SheetRequest &request) const;
@@ -72,7 +73,7 @@ private:
     void begin();
     void countNext();
     void documentCounted();
-    void end();
+    void end(DocumentSheets::Trouble trouble);
     bool isFor(const SheetRequest &request) const;
 
     std::optional<SheetRequest> m_request;
@@ -81,6 +82,7 @@ private:
     JobSheets m_sofar;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<DocumentCount> m_document; // that is being counted
+    QElapsedTimer m_sinceAsked;
     QTimer m_delay;
     QTimer m_patience;
 };

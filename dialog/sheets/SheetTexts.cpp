@@ -126,6 +126,24 @@ QStringList emptyDocuments(const JobSheets &sheets, const PageChoice &choice)
     return texts;
 }
 
+QStringList previewProblems(const JobSheets &sheets)
+{
+    using Trouble = DocumentSheets::Trouble;
+    QStringList texts;
+    for (const DocumentSheets &document : sheets.documents) {
+        if (document.trouble == Trouble::None)
+            continue;
+        const QString form =
+            document.trouble == Trouble::TookTooLong
+                ? Texts::tr("“%1” takes too long to be laid out here. It can be printed without a "
+                            "preview.")
+                : Texts::tr("“%1” could not be laid out here, so that there is no preview of it. "
+                            "Printing it may work.");
+        texts += form.arg(terminalLine(document.title));
+    }
+    return texts;
+}
+
 QStringList missingPages(const JobSheets &sheets, const PageChoice &choice)
 {
     QStringList texts;

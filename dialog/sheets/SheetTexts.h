@@ -15,6 +15,10 @@ namespace corvana {
 /// Why a job is not printed: a sentence for each document of which nothing would come out.
 QStringList emptyDocuments(const JobSheets &sheets, const PageChoice &choice);
 
+/// Why documents are not shown in a preview although they may be printed: a sentence or two for
+/// each.
+QStringList previewProblems(const JobSheets &sheets);
+
 /// Which of the pages that were asked for a document lacks that is printed without them; a sentence
 /// each.
 QStringList missingPages(const JobSheets &sheets, const PageChoice &choice);

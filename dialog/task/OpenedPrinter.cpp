@@ -39,6 +39,7 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
     }
     if (plugIn) {
         opened->jobValues = plugIn->jobValues();
+        opened->pageColors = plugIn->pageColors();
         // Entries that are stored already come before the panels, which would overwrite them.
         const QStringList refused = markImplied(*opened->session, opened->jobValues);
         for (const QString &problem : refused)

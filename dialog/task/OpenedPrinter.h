@@ -14,6 +14,7 @@ namespace corvana {
 
 class Bundle;
 class PDEJobValues;
+class PDEPageColors;
 
 /// One printer, opened: its session and its panels. Another printer, PPD or language needs another
 /// one.
@@ -25,6 +26,8 @@ struct OpenedPrinter
     std::unique_ptr<PanelHost> panels;
     /// Null for a printer without panels. Ownership: the plug-in's.
     PDEJobValues *jobValues = nullptr;
+    /// The same; null also for panels that do nothing to colours. Ownership: the plug-in's.
+    PDEPageColors *pageColors = nullptr;
     /// The bundle that the panels come from, or null.
     std::shared_ptr<Bundle> bundle;
     /// Why the printer has no panels although it should; empty otherwise.

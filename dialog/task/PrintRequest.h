@@ -33,6 +33,7 @@ struct PrintRequest
     QList<JobOption> options;
     QStringList bundleRoots;
     QString title;
+    bool titleWasNamed = false;  ///< so other documents do not change it
     QString output;              ///< never empty where there is a document
     bool outputWasNamed = false; ///< so a file is wanted, whatever the printer
     /// Holds the result until it is complete and can go to standard output; null for other results.

@@ -30,7 +30,8 @@ constexpr std::chrono::milliseconds kPatienceWithTexts{5000};
 bool PrintTask::canPrint() const
 {
     return m_opened && (m_phase == Phase::Opened || m_phase == Phase::Ready) &&
-           m_opened->panelProblem.isEmpty();
+           m_opened->panelProblem.isEmpty() &&
+           (!m_request.documents.isEmpty() || m_request.summary);
 }
 
 bool PrintTask::printsToFile() const
@@ -59,6 +60,10 @@ void PrintTask::print()
         return;
     if (!m_opened->panelProblem.isEmpty()) {
         Q_EMIT refused({{m_opened->panelProblem}});
+        return;
+    }
+    if (m_request.documents.isEmpty() && !m_request.summary) {
+        Q_EMIT refused({{tr("Choose a document to print.")}});
         return;
     }
     enter(Phase::Asking);
@@ -131,7 +136,7 @@ std::optional<TaskRefusal> PrintTask::finish()
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
 }
 
-// Once for a task: its documents stay the same.
+// Once for the same documents.
 void PrintTask::lookForMissingCharacters()
 {
     QStringList texts;

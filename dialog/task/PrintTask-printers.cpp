@@ -121,6 +121,9 @@ void PrintTask::open(const FetchedPrinter &ready)
         return;
     }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
+    // A panel is asked for what it shows when it is done with what it is doing.
+    connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::showColors,
+            Qt::QueuedConnection);
     m_chosen.problem = {};
     // A face may show the copies before the panels come up, and shows as many as are printed.
     m_settings.setMostCopies(mostCopiesOf(*m_opened));
@@ -152,12 +155,14 @@ void PrintTask::proposeOutput()
 void PrintTask::close()
 {
     m_sheets.cancel();
+    m_preview = {};
     if (!m_opened)
         return;
     m_settings.leavePrinter();
     // Counts where the options of the printer that is left had asked for copies.
     m_settings.askForCopies(m_request.copies, JobSettings::By::Program);
     m_opened.reset();
+    settingsAffectColors();
     Q_EMIT printerClosed();
 }
 

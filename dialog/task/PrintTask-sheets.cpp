@@ -18,7 +18,7 @@ namespace {
 bool mattersForSheets(const JobOption &option)
 {
     return isAppliedTo(JobAttribute::AppliedTo::Pages, option) ||
-           isAppliedTo(JobAttribute::AppliedTo::Document, option) || option.name == "raw"_L1;
+           isAppliedTo(JobAttribute::AppliedTo::Document, option);
 }
 
 } // namespace
@@ -77,6 +77,48 @@ void PrintTask::countSheets()
         m_sheets.count(request, SheetCounter::When::Soon);
 }
 
+SheetPreview PrintTask::sheetPreview() const
+{
+    using State = SheetPreview::State;
+    if (m_request.documents.isEmpty())
+        return {State::None, tr("No document has been chosen.")};
+    if (!m_opened)
+        return {State::None, tr("There is a preview once the printer is known.")};
+    if (passesFilesOn())
+        return {State::None, tr("Files are passed on to the printer as they are. What comes out is "
+                                "not known here.")};
+    // While a panel is being asked there is no ticket yet.
+    const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
+    const JobTicket job = hasTicket ? m_run.ticket : ticket();
+    if (const JobSheets *sheets = m_sheets.counted(sheetRequest(job)))
+        return previewOf(*sheets, job);
+    SheetPreview older = m_preview;
+    older.state = State::Counting;
+    older.reason.clear();
+    older.counts.clear();
+    return older;
+}
+
+SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job) const
+{
+    const PageChoice choice = pageChoiceOf(job.options);
+    SheetPreview preview;
+    const QStringList problems = previewProblems(sheets) + emptyDocuments(sheets, choice);
+    preview.reason = problems.join(u' ');
+    preview.counts = countText(sheets, choice, job.copies);
+    const bool printsCovers = !printsToFile() && m_chosen.printer.origin == PrinterOrigin::Queue;
+    preview.plan = planSheets(
+        sheets, sheetArrangement(job.options, layoutTraits(m_opened->session->ppd(), job.options),
+                                 printsCovers));
+    bool anything = false;
+    for (const DocumentSheets &document : sheets.documents) {
+        anything = anything || document.laidOut;
+        preview.files += document.laidOut;
+    }
+    preview.state = anything ? SheetPreview::State::Known : SheetPreview::State::None;
+    return preview;
+}
+
 // The ticket is made by now: what is set while the job is prepared belongs to the next one.
 void PrintTask::prepareJob()
 {
@@ -99,8 +141,10 @@ void PrintTask::countBeforeJob()
 
 void PrintTask::sheetsKnown()
 {
-    if (m_run.awaits != Run::Awaits::Sheets)
+    if (m_run.awaits != Run::Awaits::Sheets) {
+        m_preview = sheetPreview();
         return Q_EMIT sheetsCounted();
+    }
     m_run.awaits = Run::Awaits::Nothing;
     const SheetRequest request = sheetRequest(m_run.ticket);
     const PageChoice choice = pageChoiceOf(request.options);

@@ -268,6 +268,7 @@ void PrintTask::showSettings()
 {
     Q_EMIT settingsChanged();
     m_baseline.shown = m_opened->session->snapshot();
+    settingsAffectColors();
 }
 
 void PrintTask::sayRefusal(const Refusal &refusal)

@@ -12,11 +12,13 @@
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
+#include "dialog/task/SheetPreview.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
 
@@ -96,6 +98,18 @@ public:
     /// Null while there is none.
     OpenedPrinter *opened() const { return m_opened.get(); }
 
+    // What is printed (PrintTask-documents.cpp)
+
+    /// In the order in which they are printed.
+    const QList<Document> &documents() const { return m_request.documents; }
+    /// Whether they can be others now: not while they are printed.
+    bool canChangeDocuments() const;
+    /// Adds files behind those that are there. What cannot be printed is said, for each of them, in
+    /// the words of the command line; the others are taken.
+    void addDocuments(const QStringList &paths);
+    void removeDocument(int index);
+    void moveDocument(int from, int to);
+
     // What is set (PrintTask.cpp)
 
     /// Brings the panels up and the options of the request in; once for a printer.
@@ -115,9 +129,22 @@ public:
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
+    /// What is known of the sheets of the job as it stands now; sheetsCounted() says when that is
+    /// more. A face that shows it calls countSheets() after each change.
+    SheetPreview sheetPreview() const;
     /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
     /// that is done to pages has an effect.
     bool passesFilesOn() const;
+
+    // The colours of its pages (PrintTask-colors.cpp)
+
+    /// How colours come out, as far as a screen can show it: with what the panels show now, while a
+    /// slider is being moved as well. pageColorsChanged() says when they are others. Those of the
+    /// document until the panels have come up.
+    const PageColors &pageColors() const { return m_colors.shown; }
+    /// What of the colours a preview shows and what it does not know, in sentences; empty while
+    /// there is nothing to say.
+    const QString &pageColorsText() const { return m_colors.text; }
 
     // The job (PrintTask-job.cpp)
 
@@ -152,9 +179,13 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// Other documents are printed, or in another order.
+    void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
     void outputProposed();
-    /// The summary says more about the sheets than it did.
+    /// pageColors() are others, or pageColorsText().
+    void pageColorsChanged();
+    /// More is known of the sheets than before: the summary and sheetPreview() say other things.
     void sheetsCounted();
     void said(const corvana::TaskMessage &message);
     /// What the task had said last is settled.
@@ -205,6 +236,12 @@ private:
         bool confirmed = false;
         QString proposed{}; // and nobody's choice
     };
+    struct Colors
+    {
+        PageColors shown;
+        QString text;
+        bool isBlack = false; // the job is black and white, whatever the panels say
+    };
     struct Baseline
     {
         SessionSnapshot opened;  // before any option was taken
@@ -215,6 +252,8 @@ private:
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
+
+    void setDocuments(const QList<Document> &documents);
 
     void connectSource();
     void take(const FetchedPrinter &ready);
@@ -240,6 +279,9 @@ private:
     void sayRefusal(const Refusal &refusal);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
+    void settingsAffectColors();
+    void showColors();
+
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
@@ -259,6 +301,7 @@ private:
     void sheetsKnown();
     void stopPreparing();
     void endPreparing();
+    SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;
@@ -270,8 +313,10 @@ private:
     QHash<PrinterId, Memory> m_memory;
     Baseline m_baseline;
     JobSettings m_settings;
+    Colors m_colors;
     Output m_output;
     SheetCounter m_sheets;
+    SheetPreview m_preview; // that was known last
     Run m_run;
     std::unique_ptr<TextCheck> m_textCheck;
     QTimer m_textPatience; // until a job is made without its finding

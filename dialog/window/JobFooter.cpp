@@ -40,8 +40,8 @@ JobFooter::JobFooter(QWidget *parent) : QWidget(parent)
     row->addWidget(m_silenced);
     row->addStretch();
     row->addWidget(m_leave); // next to the stretch, so that its place is no gap
-    row->addWidget(m_print);
     row->addWidget(m_cancel);
+    row->addWidget(m_print); // last, where the eye ends, and what Enter does
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(progress);
@@ -147,7 +147,7 @@ void JobFooter::focusPrint()
 
 QList<QWidget *> JobFooter::buttons() const
 {
-    return {m_help, m_silenced, m_leave, m_print, m_cancel};
+    return {m_help, m_silenced, m_leave, m_cancel, m_print};
 }
 
 } // namespace corvana

@@ -28,6 +28,8 @@ void PrintWindow::connectTask()
     connect(task, &PrintTask::phaseChanged, this, &PrintWindow::phaseChanged);
     connect(task, &PrintTask::outputProposed, m_header,
             [this] { m_header->showOutput(m_task->output()); });
+    connect(task, &PrintTask::documentsChanged, this,
+            [this] { m_footer->setCanPrint(m_task->canPrint()); });
     connect(task, &PrintTask::printerClosed, m_pages, &SettingsPages::close);
     connect(task, &PrintTask::printerClosed, this, &PrintWindow::updateSilencedAlerts);
     connect(task, &PrintTask::printerClosed, m_message, &MessageBar::withdrawOffer);

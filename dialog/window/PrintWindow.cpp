@@ -4,24 +4,45 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
+#include "dialog/window/PreviewFolding.h"
 #include "dialog/window/PrinterHeader.h"
+#include "dialog/window/SettingsColumn.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/SilencedAlerts.h"
+#include "dialog/window/TaskPreview.h"
+#include "dialog/window/WindowParts.h"
 #include "dialog/window/pages/MessageBar.h"
+#include "dialog/window/preview/DocumentArea.h"
+#include "dialog/window/preview/PreviewPane.h"
+#include "dialog/window/preview/PreviewRows.h"
+#include "dialog/window/preview/ZoomControl.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
 
 namespace corvana {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Of a window that nobody has given another size yet. Units: heights of the font.
+constexpr int kUsualWidth = 80;
+constexpr int kUsualHeight = 54;
+// Whatever the font. Units: pixels.
+constexpr QSize kLargestAtFirst{1200, 850};
+
+} // namespace
 
 PrintWindow::PrintWindow(PrintRequest request, QWidget *parent)
     : QDialog(parent),
@@ -42,29 +63,55 @@ PrintWindow::~PrintWindow()
     HelpManager::sharedHelpManager().setViewer(nullptr);
     // What the task says while it goes is heard by nobody: the window is half gone.
     m_task->disconnect(this);
+    delete m_taskPreview;
     m_task.reset();
 }
 
 void PrintWindow::buildWindow()
 {
     setWindowTitle(tr("Print"));
-    m_header = new PrinterHeader(m_task->request().title, m_task->output(), this);
-    m_message = new MessageBar(this);
-    m_message->setObjectName(u"message"_s);
-    m_pages = new SettingsPages(*m_task, this);
-    m_footer = new JobFooter(this);
+    setAcceptDrops(true);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_header);
-    layout->addWidget(m_message);
-    layout->addWidget(m_pages, 1);
+    auto *settings = new SettingsColumn(this);
+    buildColumns(settings);
+    m_footer = new JobFooter(this);
     layout->addWidget(m_footer);
+    auto *parts = new WindowParts(this);
+    parts->add(settings, [this] { return m_pages->tabBar(); });
+    parts->add(m_preview, [this] { return m_preview->focusTarget(); });
+    parts->add(m_footer, [this] { return m_footer->buttons().constLast(); });
     const int em = fontMetrics().height();
-    m_growth.open(QSize(36 * em, 37 * em));
+    m_growth.open(QSize(kUsualWidth * em, kUsualHeight * em).boundedTo(kLargestAtFirst));
+    m_folding->follow();
+}
+
+// What comes out, and beside it what is set for it.
+void PrintWindow::buildColumns(SettingsColumn *settings)
+{
+    m_header = new PrinterHeader(m_task->output(), settings);
+    m_message = new MessageBar(settings);
+    m_message->setObjectName(u"message"_s);
+    m_pages = new SettingsPages(*m_task, settings);
+    for (QWidget *part : {static_cast<QWidget *>(m_header), static_cast<QWidget *>(m_message)})
+        settings->layout()->addWidget(part);
+    static_cast<QBoxLayout *>(settings->layout())->addWidget(m_pages, 1);
+    m_preview = new PreviewPane(this); // behind the settings for Tab
+    auto *columns = new QBoxLayout(QBoxLayout::LeftToRight);
+    columns->setSpacing(fontMetrics().height());
+    columns->addWidget(m_preview, 1);
+    columns->addWidget(settings);
+    static_cast<QBoxLayout *>(layout())->addLayout(columns, 1);
+    m_folding = std::make_unique<PreviewFolding>(*this, *columns, *m_preview, *settings);
 }
 
 void PrintWindow::connectParts()
 {
     addPageShortcuts();
+    m_preview->sheetsRow()->zoom()->addShortcuts(this);
+    connect(m_preview, &PreviewPane::foldPressed, this,
+            [this](bool fold) { m_folding->fold(fold); });
+    m_taskPreview = new TaskPreview(*m_task, *m_preview, this);
+    connect(m_pages, &SettingsPages::jobEdited, m_taskPreview, &TaskPreview::update);
     connect(m_header, &PrinterHeader::picked, this, [this](const Printer &printer) {
         // Picked again: nothing that was set so far is lost.
         if (idOf(printer) != idOf(m_task->printer()))
@@ -104,12 +151,14 @@ void PrintWindow::addPageShortcuts()
                 [this, step = step] { m_pages->turn(step); });
 }
 
-// The footer comes behind the pages, whose controls are younger than it.
+// In the order of reading: the controls of the pages are younger than all that comes behind them.
 void PrintWindow::orderFocus()
 {
-    const QList<QWidget *> buttons = m_footer->buttons();
-    for (QWidget *button : buttons)
-        setTabOrder(previousInFocusChain(), button);
+    QList<QWidget *> behind = m_preview->focusOrder();
+    behind += m_message->focusOrder();
+    behind += m_footer->buttons();
+    for (QWidget *widget : std::as_const(behind))
+        setTabOrder(previousInFocusChain(), widget);
 }
 
 void PrintWindow::accept()
@@ -174,6 +223,7 @@ void PrintWindow::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     m_growth.resized(event->size());
+    m_folding->follow();
 }
 
 void PrintWindow::changeEvent(QEvent *event)
@@ -207,6 +257,28 @@ void PrintWindow::hideEvent(QHideEvent *event)
     if (event->spontaneous())
         return; // minimised
     m_growth.remember();
+}
+
+void PrintWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!m_task->canChangeDocuments() || localFiles(*event->mimeData()).isEmpty())
+        return;
+    event->acceptProposedAction();
+    m_preview->setDropHovers(true);
+}
+
+void PrintWindow::dragLeaveEvent(QDragLeaveEvent *)
+{
+    m_preview->setDropHovers(false);
+}
+
+void PrintWindow::dropEvent(QDropEvent *event)
+{
+    m_preview->setDropHovers(false);
+    event->acceptProposedAction();
+    // Later: whoever gave the documents waits for this answer, and looking at them takes time.
+    const QStringList files = localFiles(*event->mimeData());
+    QTimer::singleShot(0, m_task.get(), [this, files] { m_task->addDocuments(files); });
 }
 
 void PrintWindow::showHelp()

@@ -12,8 +12,12 @@ namespace corvana {
 class HelpWindow;
 class JobFooter;
 class MessageBar;
+class PreviewFolding;
+class PreviewPane;
 class PrinterHeader;
+class SettingsColumn;
 class SettingsPages;
+class TaskPreview;
 
 /// The face of a task that a person sits in front of: the print dialog. It stays open until the job
 /// is printed or the user cancels; a failure leaves every setting in place.
@@ -48,11 +52,15 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     // The window itself (PrintWindow.cpp)
 
     void buildWindow();
+    void buildColumns(SettingsColumn *settings);
     void connectParts();
     void addPageShortcuts();
     void orderFocus();
@@ -91,6 +99,9 @@ private:
 
     WindowAlertPresenter m_presenter;
     std::unique_ptr<PrintTask> m_task;
+    PreviewPane *m_preview = nullptr;
+    TaskPreview *m_taskPreview = nullptr;
+    std::unique_ptr<PreviewFolding> m_folding;
     PrinterHeader *m_header = nullptr;
     MessageBar *m_message = nullptr;
     SettingsPages *m_pages = nullptr;

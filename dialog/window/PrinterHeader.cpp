@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "platform/toolkit/ControlActions.h"
@@ -18,15 +17,11 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-PrinterHeader::PrinterHeader(const QString &title, const QString &output, QWidget *parent)
+PrinterHeader::PrinterHeader(const QString &output, QWidget *parent)
     : QWidget(parent), m_printers(new PrinterComboBox(this)), m_status(new PrinterStatusLine(this))
 {
     m_printers->setObjectName(u"printers"_s);
     m_status->setObjectName(u"printerStatus"_s);
-    auto *document = new ElidedLabel(this);
-    document->setObjectName(u"document"_s);
-    document->setMiddleCut();
-    document->setLine(title);
 
     auto *form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
@@ -34,7 +29,6 @@ PrinterHeader::PrinterHeader(const QString &title, const QString &output, QWidge
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("P&rinter:"), m_printers);
     form->addRow(QString(), m_status);
-    form->addRow(tr("Document:"), document);
     m_outputRow = buildOutputRow(output);
     form->addRow(buildOutputLabel(), m_outputRow);
     connectControlAction(m_printers, [this](QWidget *) {

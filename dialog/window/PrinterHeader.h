@@ -13,15 +13,15 @@ namespace corvana {
 class PrinterComboBox;
 class PrinterStatusLine;
 
-/// The upper part of the print window: which printer, where it stands and what it is doing, which
-/// document, and the file that it may be printed to.
+/// The head of the print window's settings: which printer, where it stands and what it is doing, and
+/// the file that may be printed to instead.
 class PrinterHeader : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `title` is the job's, `output` the file that is proposed.
-    PrinterHeader(const QString &title, const QString &output, QWidget *parent = nullptr);
+    /// `output` is the file that is proposed.
+    explicit PrinterHeader(const QString &output, QWidget *parent = nullptr);
 
     PrinterComboBox *printers() const { return m_printers; }
     PrinterStatusLine *status() const { return m_status; }

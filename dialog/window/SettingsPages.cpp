@@ -69,9 +69,12 @@ void SettingsPages::addGeneral()
     connect(m_general, &GeneralPage::copiesEdited, this, [this](int copies) {
         m_task.settings().askForCopies(copies, JobSettings::By::User);
         showAttributes(); // some of them are about several copies
+        Q_EMIT jobEdited();
     });
-    connect(m_general, &GeneralPage::pageRangesEdited, this,
-            [this](const QString &ranges) { m_task.settings().setPageRanges(ranges); });
+    connect(m_general, &GeneralPage::pageRangesEdited, this, [this](const QString &ranges) {
+        m_task.settings().setPageRanges(ranges);
+        Q_EMIT jobEdited();
+    });
     connect(m_general, &GeneralPage::attributeProposed, this,
             [this](const QString &name, const QString &value) {
                 m_general->showAttributeProblem(name, m_task.setAttribute(name, value));

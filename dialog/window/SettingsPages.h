@@ -56,6 +56,8 @@ Q_SIGNALS:
     void entered();
     /// missingHeight() has another answer.
     void heightChanged();
+    /// Other copies or other pages were typed.
+    void jobEdited();
 
 private:
     void addPages();

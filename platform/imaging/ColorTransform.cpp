@@ -2,6 +2,14 @@
 
 namespace corvana {
 
+ColorTransform ColorTransform::grey()
+{
+    ColorTransform grey;
+    for (auto &row : grey.rows)
+        row = {kLumaWeights[0], kLumaWeights[1], kLumaWeights[2], 0};
+    return grey;
+}
+
 ColorTransform ColorTransform::then(const ColorTransform &next) const
 {
     ColorTransform both;

@@ -13,10 +13,6 @@ Q_LOGGING_CATEGORY(lcFilter, "corvana.imaging.filter", QtWarningMsg)
 
 namespace {
 
-/// Weights of red, green and blue in a pixel's grey, applied to the encoded components as they are.
-/// Source: ITU-R BT.709, luma coefficients.
-constexpr FilterVector kLuma{0.2126, 0.7152, 0.0722};
-
 bool isNumber(const QVariant &value)
 {
     switch (value.typeId()) {
@@ -55,7 +51,8 @@ ColorTransform colorControls(const QVariantMap &values)
     const double grey = 1 - saturation;
     ColorTransform saturate;
     for (std::size_t row = 0; row < 3; ++row) {
-        saturate.rows[row] = {grey * kLuma.red, grey * kLuma.green, grey * kLuma.blue, 0};
+        saturate.rows[row] = {grey * kLumaWeights[0], grey * kLumaWeights[1],
+                              grey * kLumaWeights[2], 0};
         saturate.rows[row][row] += saturation;
     }
     ColorTransform brighten;
@@ -90,7 +87,8 @@ ColorTransform colorMonochrome(const QVariantMap &values)
     ColorTransform result;
     for (std::size_t row = 0; row < 3; ++row) {
         const double share = intensity * components[row];
-        result.rows[row] = {share * kLuma.red, share * kLuma.green, share * kLuma.blue, 0};
+        result.rows[row] = {share * kLumaWeights[0], share * kLumaWeights[1],
+                            share * kLumaWeights[2], 0};
         result.rows[row][row] += 1 - intensity;
     }
     return result;

@@ -11,6 +11,8 @@ class QWidget;
 
 namespace corvana {
 
+class PrintSettings;
+
 /// Key of the summary dictionary under which the option texts stand in display order.
 inline constexpr char kSummaryDisplayOrder[] = "Summary Display Order";
 
@@ -44,6 +46,10 @@ public:
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
     /// Makes the panel write its values into the print settings. Errors: as above.
     virtual bool saveValuesAndReturnError(QString *error) = 0;
+    /// Writes what the panel's controls show and it has not saved yet into `settings`, a copy of
+    /// the job's, so that a host can show what a control does while it is still being moved. Panel
+    /// and job stay as they are. By default there is nothing of the kind.
+    virtual void writeShownValues([[maybe_unused]] PrintSettings &settings) const {}
 
     /// Option text to choice text, plus the order under kSummaryDisplayOrder. The panel restores
     /// and saves on the way, so it asks the host again.

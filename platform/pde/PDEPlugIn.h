@@ -13,6 +13,7 @@ namespace corvana {
 
 class Bundle;
 class PDEJobValues;
+class PDEPageColors;
 class PDEPluginCallback;
 
 /// The type identifier under which a host asks for print dialog panels.
@@ -40,11 +41,17 @@ public:
 
     /// The optional interface for values that the panels own, or null. Ownership: the plug-in's.
     virtual PDEJobValues *jobValues() = 0;
+
+    /// The optional interface for what the panels' settings do to colours, or null. Ownership: the
+    /// plug-in's.
+    virtual PDEPageColors *pageColors() { return nullptr; }
 };
 
 } // namespace corvana
 
 /// Identifies the contract and its version; a module that was built for another one is refused
-/// before any of its code runs.
-#define CORVANA_PDE_PLUGIN_IID "com.corvana.print.pde.PlugIn/1"
+/// before any of its code runs. Each virtual function that is added makes a new version, even one
+/// with a default: a module that was built before has no place for it in its tables, and a host
+/// would call whatever lies behind them. Its source need not be changed to be built anew.
+#define CORVANA_PDE_PLUGIN_IID "com.corvana.print.pde.PlugIn/2"
 Q_DECLARE_INTERFACE(corvana::PDEPlugIn, CORVANA_PDE_PLUGIN_IID)

@@ -17,6 +17,7 @@ enum class PDECallbackOperation {
     pageFormat,
     willChangePPDOptionKeyValue_ppdChoice,
     panelViewDidResize,
+    shownValuesDidChange,
     alertPresenter,
 };
 
@@ -53,6 +54,10 @@ public:
 
     /// The panel's view has taken another size.
     virtual void panelViewDidResize() = 0;
+
+    /// The user has moved a control whose value the panel keeps to itself until it saves
+    /// (PDEPanel::writeShownValues()). Said at each step of a slider.
+    virtual void shownValuesDidChange() = 0;
 
     /// Who shows the panels' alerts. Ownership: the host's. Never null where the host answers it.
     virtual AlertPresenter *alertPresenter() = 0;

@@ -2186,4 +2186,32 @@ For the command line: %2</source>
         <translation>ページを描画するプログラムが動作しないため、ページを表示できません。</translation>
     </message>
 </context>
+<context>
+    <name>JobColors</name>
+    <message>
+        <source>Shown in black and white, with your adjustments.</source>
+        <translation>白黒で、調整した内容を反映して表示しています。</translation>
+    </message>
+    <message>
+        <source>Shown in black and white.</source>
+        <translation>白黒で表示しています。</translation>
+    </message>
+    <message>
+        <source>Shows your adjustments; colors on paper differ.</source>
+        <translation>調整した内容を表示しています。紙の上の色とは異なります。</translation>
+    </message>
+    <message>
+        <source>Colors on paper differ from those on the screen.</source>
+        <translation>紙の上の色は画面の色とは異なります。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>“%1: %2” is not shown.</source>
+        <translation>「%1: %2」は表示に反映されません。</translation>
+    </message>
+</context>
 </TS>

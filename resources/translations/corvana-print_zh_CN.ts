@@ -2186,4 +2186,32 @@ For the command line: %2</source>
         <translation>绘制页面的程序未运行，无法显示页面。</translation>
     </message>
 </context>
+<context>
+    <name>JobColors</name>
+    <message>
+        <source>Shown in black and white, with your adjustments.</source>
+        <translation>以黑白显示，并已应用您的调整。</translation>
+    </message>
+    <message>
+        <source>Shown in black and white.</source>
+        <translation>以黑白显示。</translation>
+    </message>
+    <message>
+        <source>Shows your adjustments; colors on paper differ.</source>
+        <translation>显示了您的调整；纸上的颜色会有所不同。</translation>
+    </message>
+    <message>
+        <source>Colors on paper differ from those on the screen.</source>
+        <translation>纸上的颜色与屏幕上的颜色不同。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>“%1: %2” is not shown.</source>
+        <translation>“%1：%2”未在预览中体现。</translation>
+    </message>
+</context>
 </TS>

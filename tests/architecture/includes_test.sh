@@ -32,9 +32,10 @@ dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ di
 dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
 dialog/preview       dialog/preview/ renderer/protocol/ platform/
 dialog/task          dialog/task/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
-dialog/window        dialog/window/ dialog/preview/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/window        dialog/window/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
+dialog/window/preview dialog/window/preview/ dialog/window/chooser/ dialog/preview/ dialog/sheets/ platform/
 dialog/terminal      dialog/terminal/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/app           dialog/ platform/
 '
@@ -154,6 +155,9 @@ dialog/window/chooser/A.cpp  dialog/session/PpdSession.h        refused
 dialog/window/pages/A.cpp    dialog/session/PpdSession.h        allowed
 dialog/window/pages/A.cpp    dialog/printers/Printer.h          refused
 dialog/window/pages/A.cpp    dialog/window/PrintWindow.h        refused
+dialog/window/preview/A.cpp  dialog/sheets/SheetPlan.h          allowed
+dialog/window/preview/A.cpp  dialog/preview/PagePictures.h      allowed
+dialog/window/preview/A.cpp  dialog/task/PrintTask.h            refused
 dialog/task/A.cpp            dialog/job/Job.h                   allowed
 dialog/task/A.cpp            dialog/window/PrintWindow.h        refused
 dialog/task/A.cpp            dialog/terminal/TerminalFace.h     refused

@@ -4,13 +4,10 @@
 #include "colorsetting/EffectSet.h"
 #include "colorsetting/QXLaserColorSettingPDE.h"
 #include "panel/OptionKeywords.h"
+#include "tests/support/EffectEntries.h"
 #include "tests/support/RecordingHost.h"
 
 namespace corvana::test {
-
-inline constexpr QLatin1StringView kNormalEffect{"com.corvana.print.PrintSettings.NormalEffect"};
-inline constexpr QLatin1StringView kVividEffect{"com.corvana.print.PrintSettings.VividEffect"};
-inline constexpr QLatin1StringView kMonoEffect{"com.corvana.print.PrintSettings.MonoEffect"};
 
 /// The Color Setting panel with everything protected open to tests. Its main steps are noted
 /// between the calls of its host while `tracing` is on.

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "platform/pde/PDEJobValues.h"
+#include "tests/support/EffectEntries.h"
 
 namespace corvana {
 
@@ -19,9 +20,6 @@ namespace test {
 inline constexpr QLatin1StringView kSleep{"com.corvana.print.PrintSettings.sleep"};
 inline constexpr QLatin1StringView kSleepMode{"com.corvana.print.PrintSettings.sleepmode"};
 inline constexpr QLatin1StringView kDensity{"com.corvana.print.PrintSettings.densitymode"};
-inline constexpr QLatin1StringView kNormalEffect{"com.corvana.print.PrintSettings.NormalEffect"};
-inline constexpr QLatin1StringView kVividEffect{"com.corvana.print.PrintSettings.VividEffect"};
-inline constexpr QLatin1StringView kMonoEffect{"com.corvana.print.PrintSettings.MonoEffect"};
 
 /// "keyword=value" of each.
 inline QStringList valuesOf(const QList<JobOption> &options)

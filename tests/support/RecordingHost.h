@@ -56,6 +56,8 @@ public:
     /// Only the changes asked for, in order, each as "keyword=choice".
     QStringList asked() const;
     void forgetCalls() { m_calls.clear(); }
+    /// How often a panel has said that it shows other values. Not among the calls.
+    int shownChanges() const { return m_shownChanges; }
     /// Puts something that happened elsewhere (a panel's step, a notification) between the calls.
     void note(const QString &operation, const QStringList &arguments = {});
 
@@ -97,6 +99,7 @@ public:
     bool willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
                                                const QString &choice) override;
     void panelViewDidResize() override;
+    void shownValuesDidChange() override { ++m_shownChanges; }
     AlertPresenter *alertPresenter() override;
 
 private:
@@ -111,6 +114,7 @@ private:
 
     QList<HostCall> m_calls;
     std::set<PDECallbackOperation> m_lacking;
+    int m_shownChanges = 0;
     QStringList m_refused; // "keyword=choice"
     bool m_refusesEverything = false;
     bool m_answersNoPrintSettings = false;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
 
@@ -17,7 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMostLines = 5;     // what a message may take from the pages; the rest scrolls
+constexpr int kFewLines = 2;
+constexpr int kMostLines = 8;     // what a message may take from the pages; the rest scrolls
 constexpr int kLongestWord = 30;  // letters in a row; a longer word is broken anywhere
 constexpr int kWidestAction = 24; // heights of the font
 constexpr char16_t kMayBreak = 0x200b;
@@ -40,76 +42,131 @@ QString breakable(const QString &text)
     return broken;
 }
 
-// As high as the text is at the width that there is, up to a limit.
+} // namespace
+
+// As high as the text is at the width that there is, up to two lines, or to some more when the
+// whole is wanted.
 class MessageText : public QScrollArea
 {
 public:
-    MessageText(QLabel *label, QWidget *parent) : QScrollArea(parent), m_label(label)
+    explicit MessageText(QWidget *parent) : QScrollArea(parent), m_label(plainLabel())
     {
         setFrameShape(QFrame::NoFrame);
         setFocusPolicy(Qt::NoFocus);
         setWidgetResizable(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setWidget(label);
+        m_label->setObjectName(u"messageText"_s);
+        m_label->setWordWrap(true);
+        m_label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+        m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        setWidget(m_label);
         viewport()->setAutoFillBackground(false);
-        label->setAutoFillBackground(false);
-        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        m_label->setAutoFillBackground(false);
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         policy.setHeightForWidth(true);
         setSizePolicy(policy);
+        setWhole(false);
     }
+
+    QString text() const { return m_label->text(); }
+    void setText(const QString &text)
+    {
+        m_label->setText(text);
+        setWhole(false);
+    }
+    void setWhole(bool whole)
+    {
+        m_isWhole = whole;
+        setVerticalScrollBarPolicy(whole ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+        verticalScrollBar()->setValue(0);
+        updateGeometry();
+    }
+    bool isWhole() const { return m_isWhole; }
+    /// Whether there is more than two lines have room for.
+    bool isLong() const { return m_label->heightForWidth(width()) > heightOf(kFewLines); }
 
     int heightForWidth(int width) const override
     {
-        return qMin(m_label->heightForWidth(width), kMostLines * fontMetrics().lineSpacing());
+        return qMin(m_label->heightForWidth(width), heightOf(m_isWhole ? kMostLines : kFewLines));
     }
     QSize sizeHint() const override
     {
         const int width = m_label->sizeHint().width();
         return {width, heightForWidth(width)};
     }
-    QSize minimumSizeHint() const override
-    {
-        const int line = fontMetrics().lineSpacing();
-        return {4 * line, line};
-    }
+    QSize minimumSizeHint() const override { return {4 * heightOf(1), heightOf(1)}; }
 
 private:
+    int heightOf(int lines) const { return lines * fontMetrics().lineSpacing(); }
+
     QLabel *m_label;
+    bool m_isWhole = false;
 };
 
-} // namespace
-
 MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), m_icon(new QLabel(this)), m_text(plainLabel({}, this)),
-      m_action(new QPushButton(this))
+    : QFrame(parent), m_icon(new QLabel(this)), m_text(new MessageText(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
-    m_text->setObjectName(u"messageText"_s);
-    m_text->setWordWrap(true);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    buildButtons();
+    auto *line = new QHBoxLayout;
+    line->addWidget(m_icon, 0, Qt::AlignTop);
+    line->addWidget(m_text, 1, Qt::AlignTop);
+    line->addWidget(m_close, 0, Qt::AlignTop);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_details);
+    buttons->addWidget(m_action);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(line);
+    layout->addLayout(buttons);
+    hide();
+}
+
+void MessageBar::buildButtons()
+{
+    m_action = new QPushButton(this);
     m_action->setObjectName(u"messageAction"_s);
-    auto *close = new QToolButton(this);
-    close->setAutoRaise(true);
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setToolTip(plainToolTip(tr("Dismiss this message")));
-    close->setAccessibleName(tr("Dismiss this message"));
-
-    auto *layout = new QHBoxLayout(this);
-    layout->addWidget(m_icon, 0, Qt::AlignTop);
-    layout->addWidget(new MessageText(m_text, this), 1);
-    layout->addWidget(m_action, 0, Qt::AlignVCenter);
-    layout->addWidget(close, 0, Qt::AlignTop);
-
-    connect(close, &QToolButton::clicked, this, &MessageBar::dismiss);
+    m_action->setAutoDefault(false);
+    m_details = new QToolButton(this);
+    m_details->setObjectName(u"messageDetails"_s);
+    m_details->setText(tr("Details"));
+    m_details->setToolTip(plainToolTip(tr("Show all of this message")));
+    m_details->setAutoRaise(true);
+    m_details->setCheckable(true);
+    m_details->hide();
+    m_close = new QToolButton(this);
+    m_close->setObjectName(u"messageClose"_s);
+    m_close->setAutoRaise(true);
+    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setToolTip(plainToolTip(tr("Dismiss this message")));
+    m_close->setAccessibleName(tr("Dismiss this message"));
+    connect(m_close, &QToolButton::clicked, this, &MessageBar::dismiss);
+    connect(m_details, &QToolButton::toggled, this, [this](bool whole) { m_text->setWhole(whole); });
     connect(m_action, &QPushButton::clicked, this, [this] {
         const std::function<void()> action = m_do;
         dismiss();
         if (action)
             action();
     });
-    hide();
+}
+
+// How many lines a text has is known when it has its width.
+void MessageBar::updateDetails()
+{
+    m_details->setVisible(m_text->isWhole() || m_text->isLong());
+}
+
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    updateDetails();
+}
+
+QList<QWidget *> MessageBar::focusOrder() const
+{
+    return {m_details, m_action, m_close};
 }
 
 void MessageBar::showMessage(Kind kind, const QString &text)
@@ -125,7 +182,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
     m_text->setText(breakable(text));
-    m_text->parentWidget()->parentWidget()->updateGeometry();
+    m_details->setChecked(false);
     // Names of printers and choices may hold "&", which a button takes for an accelerator.
     const QString shown = fontMetrics().elidedText(actionText, Qt::ElideMiddle,
                                                    kWidestAction * fontMetrics().height());
@@ -134,6 +191,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     m_action->setVisible(!actionText.isEmpty());
     m_do = action;
     show();
+    updateDetails();
     // A screen reader says it, although the focus stays where the user works.
     setAccessibleName(text);
     QAccessibleEvent event(this, QAccessible::Alert);

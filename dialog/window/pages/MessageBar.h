@@ -11,8 +11,11 @@ class QToolButton;
 
 namespace corvana {
 
-/// A message inside the dialog, with at most one thing to do about it. It never takes the focus and
-/// never blocks; it goes when it is dismissed or the next message comes.
+class MessageText;
+
+/// A message inside the dialog, with at most one thing to do about it. It has two lines; a longer
+/// one is there as a whole when its reader wants that. It never takes the focus and never blocks; it
+/// goes when it is dismissed or the next message comes.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -30,11 +33,21 @@ public:
     /// Takes a message back that offers to do something: it was said of a printer that is gone.
     void withdrawOffer();
     QString text() const;
+    /// The controls that Tab reaches, in its order.
+    QList<QWidget *> focusOrder() const;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void buildButtons();
+    void updateDetails();
+
     QLabel *m_icon;
-    QLabel *m_text;
-    QPushButton *m_action;
+    MessageText *m_text;
+    QPushButton *m_action = nullptr;
+    QToolButton *m_details = nullptr;
+    QToolButton *m_close = nullptr;
     std::function<void()> m_do;
 };
 

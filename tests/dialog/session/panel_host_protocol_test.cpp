@@ -325,6 +325,43 @@ private Q_SLOTS:
         m_host.reset();
         QVERIFY(panel.expired());
     }
+
+    void onlyTheVisiblePanelSaysWhatItShows()
+    {
+        m_host->bringUp();
+        const QVariantMap saved = m_session->printSettings().entries();
+        m_plugIn->panels.at(0)->shown = {{u"shown"_s, 1}};
+        m_plugIn->panels.at(1)->shown = {{u"shown"_s, 2}};
+        QCOMPARE(m_host->shownEntries(), saved);
+        QVERIFY(m_host->visit(1));
+        QCOMPARE(m_host->shownEntries().value(u"shown"_s), 2);
+        QCOMPARE(m_session->printSettings().entries(), saved);
+        QVERIFY(m_host->visit(-1));
+        QCOMPARE(m_host->shownEntries(), saved);
+    }
+
+    void aPanelAtWorkIsNotAskedWhatItShows()
+    {
+        QVERIFY(m_host->visit(0));
+        m_plugIn->panels.at(0)->shown = {{u"shown"_s, 1}};
+        QVariantMap meanwhile;
+        m_plugIn->panels.at(0)->inside.insert(u"save"_s,
+                                              [&] { meanwhile = m_host->shownEntries(); });
+        m_host->summary();
+        QVERIFY(!meanwhile.isEmpty() && !meanwhile.contains(u"shown"_s));
+    }
+
+    void eachStepOfASliderIsHeard()
+    {
+        m_host->bringUp();
+        int heard = 0;
+        connect(m_host.get(), &PanelHost::shownValuesChanged, this, [&] { ++heard; });
+        PDEPluginCallback &host = m_plugIn->panels.at(0)->host();
+        QVERIFY(host.respondsTo(PDECallbackOperation::shownValuesDidChange));
+        host.shownValuesDidChange();
+        host.shownValuesDidChange();
+        QCOMPARE(heard, 2);
+    }
 };
 
 QTEST_MAIN(PanelHostProtocolTest)

@@ -3,8 +3,8 @@
 #include <QTest>
 
 #include "dialog/sheets/ScaleProbe.h"
-#include "tests/dialog/sheets/TestPdf.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/NumberedPdf.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;

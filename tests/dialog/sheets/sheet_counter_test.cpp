@@ -3,10 +3,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/sheets/LaidOutDocument.h"
 #include "dialog/sheets/SheetCounter.h"
 #include "tests/dialog/job/FakeFilter.h"
-#include "tests/dialog/sheets/TestPdf.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/NumberedPdf.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;
@@ -76,7 +78,7 @@ private Q_SLOTS:
     void oneBadDocumentIsOne()
     {
         const QTemporaryDir folder;
-        const Document good = pdf(writeFile(folder.filePath(u"good"_s), pdfOfSizes({kA4, kA4})));
+        const Document good = pdf(writeFile(folder.filePath(u"good"_s), numberedPdf("page", 2)));
         const Document bad = pdf(writeFile(folder.filePath(u"bad"_s), "bad"));
         const SheetRequest request{{bad, good}, {}, {kA4}};
         SheetCounter counter;
@@ -89,23 +91,12 @@ private Q_SLOTS:
         QCOMPARE(sheets.documents.at(1).sides, std::optional(2));
     }
 
-    void rawDataIsNotCounted()
-    {
-        const QTemporaryDir folder;
-        const SheetRequest request = requestFor(
-            pdf(writeFile(folder.filePath(u"a"_s), pdfOfSizes({kA4}))), {{u"raw"_s, u"true"_s}});
-        SheetCounter counter;
-        QSignalSpy finished(&counter, &SheetCounter::finished);
-        counter.count(request, When::Now);
-        QVERIFY(finished.wait(kCountPatience));
-        QVERIFY(isUncounted(*counter.counted(request)));
-    }
-
     void aTitleIsNotTakenForPages()
     {
         const QTemporaryDir folder;
         const SheetRequest request = requestFor(
-            pdf(writeFile(folder.filePath(u"a"_s), pdfOfSizes({kA4}, "x\\nPages:           700"))));
+            pdf(writeFile(folder.filePath(u"a"_s),
+                          numberedPdf("page", QList<QSizeF>{kA4}, "x\\nPages:           700"))));
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
@@ -116,7 +107,7 @@ private Q_SLOTS:
     void whatWasCountedIsKept()
     {
         const FakeFilter filter(kPassing);
-        const QString path = writeFile(filter.path(u"a.pdf"_s), pdfOfSizes({kA4}));
+        const QString path = writeFile(filter.path(u"a.pdf"_s), numberedPdf("page", 1));
         const SheetRequest request = requestFor(pdf(path));
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
@@ -128,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(finished.wait(kCountPatience));
         QCOMPARE(filter.content(u"calls"_s), calls);
         // Other contents under the same name are another document.
-        writeFile(path, pdfOfSizes({kA4, kA4}));
+        writeFile(path, numberedPdf("page", 2));
         QCOMPARE(counter.counted(request), nullptr);
         counter.count(request, When::Now);
         QVERIFY(finished.wait(kCountPatience));
@@ -139,7 +130,7 @@ private Q_SLOTS:
     {
         const FakeFilter filter(kHanging);
         const SheetRequest older =
-            requestFor(pdf(writeFile(filter.path(u"a.pdf"_s), pdfOfSizes({kA4}))));
+            requestFor(pdf(writeFile(filter.path(u"a.pdf"_s), numberedPdf("page", 1))));
         const SheetRequest newer =
             requestFor(pdf(writeFile(filter.path(u"b.pdf"_s), "no PDF at all")));
         SheetCounter counter;
@@ -158,7 +149,7 @@ private Q_SLOTS:
     {
         const FakeFilter filter(kHanging);
         const SheetRequest request =
-            requestFor(pdf(writeFile(filter.path(u"a.pdf"_s), pdfOfSizes({kA4}))));
+            requestFor(pdf(writeFile(filter.path(u"a.pdf"_s), numberedPdf("page", 1))));
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         counter.count(request, When::Now);
@@ -173,7 +164,7 @@ private Q_SLOTS:
     void soonWaitsForFurtherChanges()
     {
         const FakeFilter filter(kPassing);
-        const Document document = pdf(writeFile(filter.path(u"a.pdf"_s), pdfOfSizes({kA4})));
+        const Document document = pdf(writeFile(filter.path(u"a.pdf"_s), numberedPdf("page", 1)));
         SheetCounter counter;
         QSignalSpy finished(&counter, &SheetCounter::finished);
         for (const char *ranges : {"1", "1-2", "1-3"})
@@ -185,6 +176,50 @@ private Q_SLOTS:
         QTest::qWait(300);
         QCOMPARE(finished.size(), 1);
         QVERIFY(counter.counted(requestFor(document, {{u"page-ranges"_s, u"1-3"_s}})));
+    }
+
+    // Whoever changes one thing and looks does not wait for changes that never come.
+    void theFirstChangeIsCountedAtOnce()
+    {
+        const FakeFilter filter(kHanging);
+        SheetCounter counter;
+        counter.count(requestFor(pdf(writeFile(filter.path(u"a.pdf"_s), numberedPdf("page", 1)))),
+                      When::Soon);
+        QTest::qWait(100);
+        QVERIFY(!filter.content(u"pid"_s).isNull());
+    }
+
+    // Whoever shows the sides of an older layout goes on showing them while a newer one is made;
+    // nothing of it stays behind in the end.
+    void sidesLiveAsLongAsSomebodyHoldsThem()
+    {
+        const QTemporaryDir folder;
+        const Variable temporary("TMPDIR", folder.path().toLocal8Bit());
+        const Document document = pdf(writeFile(folder.filePath(u"a.pdf"_s), numberedPdf("a", 3)));
+        const auto left = [&] {
+            return QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        };
+        std::shared_ptr<const LaidOutDocument> held;
+        {
+            SheetCounter counter;
+            QSignalSpy finished(&counter, &SheetCounter::finished);
+            const SheetRequest older = requestFor(document);
+            counter.count(older, When::Now);
+            QVERIFY(finished.wait(kCountPatience));
+            held = counter.counted(older)->documents.constFirst().laidOut;
+            QVERIFY(held);
+            QCOMPARE(held->count(), 3);
+            QCOMPARE(held->size(2), kA4);
+            QCOMPARE(held->size(3), QSizeF());
+            counter.count(requestFor(document, {{u"number-up"_s, u"2"_s}}), When::Now);
+            QVERIFY(QFile::exists(held->path()));
+            QVERIFY(finished.wait(kCountPatience));
+            QVERIFY(QFile::exists(held->path()));
+            QCOMPARE(left().size(), 2);
+        }
+        QCOMPARE(left().size(), 1);
+        held.reset();
+        QCOMPARE(left(), QStringList());
     }
 };
 

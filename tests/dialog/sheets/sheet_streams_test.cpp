@@ -6,8 +6,8 @@
 
 #include "dialog/job/FileJob.h"
 #include "dialog/sheets/SheetCounter.h"
-#include "tests/dialog/sheets/TestPdf.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/NumberedPdf.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
 
@@ -131,7 +131,7 @@ private:
     {
         const auto pdf = [&](const char *name, const QList<QSizeF> &sizes) {
             const QString file = QString::fromLatin1(name);
-            return Document{writeFile(m_folder.filePath(file), pdfOfSizes(sizes)),
+            return Document{writeFile(m_folder.filePath(file), numberedPdf("page", sizes)),
                             u"application/pdf"_s, file};
         };
         switch (kind) {
@@ -246,7 +246,7 @@ private Q_SLOTS:
             const auto found = match.next();
             const double width = found.captured(3).toDouble() - found.captured(1).toDouble();
             const double height = found.captured(4).toDouble() - found.captured(2).toDouble();
-            widths += qMax(width, height) / 66.72; // of "page1" in 24 points
+            widths += qMax(width, height) / 106.752; // of "page" in 48 points
         }
         QVERIFY(!widths.isEmpty());
         const QList<PageScale> &scales = sheets->documents.constFirst().scales;

@@ -2,7 +2,7 @@
 #include <QTest>
 
 #include "dialog/sheets/SheetTexts.h"
-#include "tests/dialog/sheets/TestPdf.h"
+#include "tests/support/NumberedPdf.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;

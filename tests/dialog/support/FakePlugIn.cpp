@@ -57,6 +57,12 @@ bool FakePanel::saveValuesAndReturnError(QString *)
     return true;
 }
 
+void FakePanel::writeShownValues(PrintSettings &settings) const
+{
+    for (auto value = shown.cbegin(); value != shown.cend(); ++value)
+        settings.setValue(value.key(), value.value());
+}
+
 QVariantMap FakePanel::summaryInfo()
 {
     note(QStringLiteral("summary"));

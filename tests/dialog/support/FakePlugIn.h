@@ -38,6 +38,8 @@ public:
     /// What summaryInfo() answers: title and value, in display order.
     QList<std::pair<QString, QString>> summaryLines;
     bool hasView = true;
+    /// What it shows beside what it has saved, by key.
+    QVariantMap shown{};
     /// What supportedPPDOptionKeys() answers.
     std::optional<QStringList> supported{};
 
@@ -52,6 +54,7 @@ public:
     bool shouldHide() override;
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
+    void writeShownValues(PrintSettings &settings) const override;
     QVariantMap summaryInfo() override;
     std::optional<QStringList> supportedPPDOptionKeys() override { return supported; }
     void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,

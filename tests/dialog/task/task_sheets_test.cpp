@@ -3,9 +3,9 @@
 #include <QTest>
 
 #include "tests/dialog/job/Variable.h"
-#include "tests/dialog/sheets/TestPdf.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
+#include "tests/support/NumberedPdf.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;
@@ -104,8 +104,9 @@ private:
         request.summary = true;
         for (const QList<QSizeF> &sizes : documents) {
             const QString name = u"document%1.pdf"_s.arg(request.documents.size());
-            request.documents += Document{writeFile(m_scene->filter.path(name), pdfOfSizes(sizes)),
-                                          u"application/pdf"_s, name};
+            request.documents +=
+                Document{writeFile(m_scene->filter.path(name), numberedPdf("page", sizes)),
+                         u"application/pdf"_s, name};
         }
         return request;
     }
@@ -180,6 +181,57 @@ private Q_SLOTS:
         task.settings().askForCopies(3, JobSettings::By::User);
         QCOMPARE(summary().at(1), u"Sheets: 2 pages × 3 copies = 6 sheets"_s);
         QCOMPARE(task.phase(), Phase::Ready);
+    }
+
+    // A preview knows the sheets, dims the older ones while newer ones are made, and says why there
+    // is none.
+    void theSheetsArePreviewed()
+    {
+        using State = SheetPreview::State;
+        PrintTask &task = m_scene->open(request({{kA4, kA4, kA4}}));
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        QCOMPARE(task.sheetPreview().state, State::Counting);
+        QVERIFY(task.sheetPreview().plan.sheets.isEmpty());
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        SheetPreview preview = task.sheetPreview();
+        QCOMPARE(preview.state, State::Known);
+        QCOMPARE(preview.reason, QString());
+        QCOMPARE(preview.counts, u"3 pages = 3 sheets"_s);
+        QCOMPARE(preview.files.size(), 1);
+        QCOMPARE(preview.plan.sheets.size(), 3);
+        QCOMPARE(preview.plan.sheets.at(2).front.pages, QList<int>{3});
+        QCOMPARE(task.setAttribute(u"number-up"_s, u"2"_s), QString());
+        const SheetPreview older = task.sheetPreview();
+        QCOMPARE(older.state, State::Counting);
+        QCOMPARE(older.counts, QString());
+        QCOMPARE(older.plan, preview.plan);
+        QCOMPARE(older.files, preview.files);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        QVERIFY(QFile::exists(preview.files.constFirst()->path()));
+        preview = task.sheetPreview();
+        QCOMPARE(preview.state, State::Known);
+        QCOMPARE(preview.plan.sheets.size(), 2);
+        const PlannedSide &side = preview.plan.sheets.constFirst().front;
+        QCOMPARE(side.pages, (QList<int>{1, 2}));
+        QVERIFY(side.paper.width() > side.paper.height());
+    }
+
+    void aDocumentThatCannotBeLaidOutHasNoPreview()
+    {
+        PrintRequest asked = request({{kA4}, {kA4}});
+        writeFile(asked.documents.constFirst().path, "%PDF-1.4 and nothing more");
+        asked.documents.removeLast();
+        PrintTask &task = m_scene->open(asked);
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        const SheetPreview preview = task.sheetPreview();
+        QCOMPARE(preview.state, SheetPreview::State::None);
+        QVERIFY2(preview.reason.contains(u"“document0.pdf” could not be laid out here"_s),
+                 qPrintable(preview.reason));
+        QVERIFY(preview.plan.sheets.isEmpty());
     }
 
     void countingCanBeCanceled()

@@ -5,9 +5,9 @@
 #include <QTest>
 
 #include "dialog/window/PrintWindow.h"
-#include "tests/dialog/sheets/TestPdf.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/NumberedPdf.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -39,7 +39,7 @@ private Q_SLOTS:
     void theSummaryCountsWhileItIsLookedAt()
     {
         PrintRequest request;
-        const QString path = writeFile(m_folder.filePath(u"a.pdf"_s), pdfOfSizes({kA4, kA4, kA4}));
+        const QString path = writeFile(m_folder.filePath(u"a.pdf"_s), numberedPdf("page", 3));
         request.documents = {{path, u"application/pdf"_s, u"a.pdf"_s}};
         request.title = u"Job"_s;
         request.output = m_folder.filePath(u"out.ps"_s);

@@ -1,6 +1,8 @@
+#include <QColor>
 #include <QtTest>
 
 #include "platform/imaging/ColorTransform.h"
+#include "platform/imaging/ImageFilter.h"
 
 using namespace corvana;
 
@@ -12,6 +14,7 @@ private Q_SLOTS:
     void theOneThatChangesNothingIsTheDefault();
     void theFirstOneIsAppliedFirst();
     void changingNothingBeforeOrAfterChangesNothing();
+    void aGreyIsTheLuminanceAndStaysItself();
 };
 
 void ColorTransformTest::theOneThatChangesNothingIsTheDefault()
@@ -38,6 +41,19 @@ void ColorTransformTest::changingNothingBeforeOrAfterChangesNothing()
     const ColorTransform some{{{{0.1, 0.2, 0.3, 0.4}, {5, 6, 7, 8}, {-9, 1e9, 11, 12}}}};
     QVERIFY(some.then({}) == some);
     QVERIFY(ColorTransform().then(some) == some);
+}
+
+void ColorTransformTest::aGreyIsTheLuminanceAndStaysItself()
+{
+    const ColorTransform grey = ColorTransform::grey();
+    const auto filter = ImageFilter::filterWithName(kCIColorMonochrome);
+    filter->setValue_forKey(FilterImage(QImage(1, 1, QImage::Format_RGB32)), kCIInputImageKey);
+    filter->setValue_forKey(QColor(Qt::white), kCIInputColorKey);
+    QVERIFY(filter->outputImage().transform() == grey);
+    for (const auto &row : grey.then(grey).rows) {
+        for (std::size_t column = 0; column < 4; ++column)
+            QVERIFY(qAbs(row[column] - grey.rows[0][column]) < 1e-12);
+    }
 }
 
 QTEST_GUILESS_MAIN(ColorTransformTest)

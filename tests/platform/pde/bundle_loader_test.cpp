@@ -210,7 +210,7 @@ void BundleLoaderTest::aModuleForAnotherContractNeverRuns()
     QVERIFY(
         BundleFolder::makeBundle(bundle(), u"OlderContract"_s, BundleFolder::info(kExecutable)));
     const LoadedPlugIn loaded = load();
-    compareRefused(loaded, u"\"com.corvana.print.pde.PlugIn/0\""_s);
+    compareRefused(loaded, u"\"com.corvana.print.pde.PlugIn/1\""_s);
     QVERIFY2(loaded.problem.contains(QLatin1StringView(CORVANA_PDE_PLUGIN_IID)),
              qPrintable(loaded.problem));
     QCOMPARE(m_folder->marks(), 0);

@@ -1,0 +1,116 @@
+#include "dialog/window/TaskPreview.h"
+
+#include "dialog/task/PrintTask.h"
+#include "dialog/window/preview/DocumentArea.h"
+#include "dialog/window/preview/DrawnPages.h"
+#include "dialog/window/preview/PreviewPane.h"
+
+namespace corvana {
+
+TaskPreview::TaskPreview(PrintTask &task, PreviewPane &pane, QObject *parent)
+    : QObject(parent), m_task(task), m_pane(pane)
+{
+    m_updating.setSingleShot(true);
+    m_updating.setInterval(0);
+    connect(&m_updating, &QTimer::timeout, this, [this] {
+        m_task.countSheets();
+        showSheets();
+    });
+    connect(&task, &PrintTask::sheetsCounted, this, &TaskPreview::showSheets);
+    connect(&task, &PrintTask::settingsChanged, this, &TaskPreview::update);
+    connect(&task, &PrintTask::printerChanged, this, &TaskPreview::update);
+    // At once: a slider is being moved.
+    connect(&task, &PrintTask::pageColorsChanged, this, &TaskPreview::showColors);
+    connect(&task, &PrintTask::phaseChanged, this, [this] {
+        m_pane.documents()->setCanChange(m_task.canChangeDocuments());
+        update();
+    });
+    connectDocuments();
+    showDocuments();
+    showColors();
+    showSheets();
+}
+
+// While the window goes the view must not ask for pictures any more.
+TaskPreview::~TaskPreview()
+{
+    m_pane.sheets()->setPictures(nullptr);
+}
+
+void TaskPreview::connectDocuments()
+{
+    const DocumentArea *documents = m_pane.documents();
+    connect(&m_task, &PrintTask::documentsChanged, this, [this] {
+        showDocuments();
+        update();
+    });
+    connect(documents, &DocumentArea::chosen, &m_task, &PrintTask::addDocuments);
+    connect(documents, &DocumentArea::removed, &m_task, &PrintTask::removeDocument);
+    connect(documents, &DocumentArea::moved, &m_task, &PrintTask::moveDocument);
+}
+
+void TaskPreview::showDocuments()
+{
+    QList<ListedDocument> listed;
+    for (const Document &document : m_task.documents())
+        listed += {document.title, nameOfFormat(document.format), document.path};
+    m_pane.documents()->setDocuments(m_task.request().title, listed);
+}
+
+void TaskPreview::showColors()
+{
+    m_pane.setColors(m_task.pageColors().transform, m_task.pageColorsText());
+}
+
+void TaskPreview::showSheets()
+{
+    SheetPreview preview = m_task.sheetPreview();
+    m_pane.showPreview(shown(preview));
+    if (preview.state == SheetPreview::State::Counting)
+        return; // what is shown is of before, and so are its files
+    const SheetPreview before = std::exchange(m_preview, std::move(preview));
+    if (m_preview.state != SheetPreview::State::Known)
+        return;
+    if (!m_pictures) {
+        m_pictures = std::make_unique<DrawnPages>();
+        m_pane.sheets()->setPictures(m_pictures.get());
+    }
+    m_pictures->keepOnly(m_pane.sheets()->sheets().files);
+}
+
+// What it means for printing that nothing can be shown.
+QString TaskPreview::note() const
+{
+    return m_task.canPrint() ? tr("It can be printed all the same.") : QString();
+}
+
+ShownPreview TaskPreview::shown(const SheetPreview &preview) const
+{
+    using State = ShownPreview::State;
+    ShownPreview shown;
+    if (m_task.documents().isEmpty()) {
+        shown.state = State::NoDocument;
+        return shown;
+    }
+    switch (preview.state) {
+    case SheetPreview::State::None:
+        shown.note = note();
+        break;
+    case SheetPreview::State::Counting:
+        shown.state = State::Updating;
+        break;
+    case SheetPreview::State::Known:
+        shown.state = State::Known;
+        break;
+    }
+    shown.reason = preview.reason;
+    shown.counts = preview.counts;
+    shown.sheets.plan = preview.plan;
+    for (const auto &file : preview.files)
+        shown.sheets.files += file ? file->path() : QString();
+    for (const Document &document : m_task.documents())
+        shown.sheets.titles += document.title;
+    return shown;
+}
+
+} // namespace corvana

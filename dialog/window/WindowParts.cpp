@@ -1,0 +1,60 @@
+#include "dialog/window/WindowParts.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QShortcut>
+
+namespace corvana {
+
+namespace {
+
+bool canFocus(const QWidget *widget)
+{
+    return widget && widget->isVisible() && widget->isEnabled() &&
+           widget->focusPolicy() != Qt::NoFocus;
+}
+
+} // namespace
+
+WindowParts::WindowParts(QWidget *window) : QObject(window), m_window(window)
+{
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *now) { focusChanged(now); });
+    connect(new QShortcut(Qt::Key_F6, window), &QShortcut::activated, this, [this] { go(1); });
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F6, window), &QShortcut::activated, this,
+            [this] { go(-1); });
+}
+
+void WindowParts::add(QWidget *part, const std::function<QWidget *()> &first)
+{
+    m_parts += {part, first, nullptr};
+}
+
+void WindowParts::focusChanged(QWidget *now)
+{
+    for (Part &part : m_parts) {
+        if (now && part.widget && (part.widget == now || part.widget->isAncestorOf(now)))
+            part.last = now;
+    }
+}
+
+void WindowParts::go(int step)
+{
+    const QWidget *focus = m_window->focusWidget();
+    const auto holds = [focus](const Part &part) {
+        return focus && part.widget && (part.widget == focus || part.widget->isAncestorOf(focus));
+    };
+    const auto found = std::find_if(m_parts.begin(), m_parts.end(), holds);
+    const qsizetype count = m_parts.size();
+    const qsizetype from = found == m_parts.end() ? (step > 0 ? count - 1 : 0)
+                                                  : found - m_parts.begin();
+    for (qsizetype i = 1; i <= count; ++i) {
+        const Part &part = m_parts.at(((from + i * step) % count + count) % count);
+        QWidget *target = canFocus(part.last) ? part.last.data() : part.first();
+        if (canFocus(target))
+            return target->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
+} // namespace corvana
