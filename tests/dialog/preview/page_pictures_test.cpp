@@ -20,20 +20,41 @@ namespace {
 
 constexpr int kPatience = 20000; // milliseconds
 
+/// Japanese in a font that the document does not bring along: Poppler's tables and a font of the
+/// system are read when the renderer is locked in already.
+QByteArray japanesePdf()
+{
+    return "%PDF-1.4\n1 0 obj\n<</Type/Catalog/Pages 2 0 R>>\nendobj\n"
+           "2 0 obj\n<</Type/Pages/Count 1/Kids[3 0 R]>>\nendobj\n"
+           "3 0 obj\n<</Type/Page/Parent 2 0 R/MediaBox[0 0 595 842]/Contents 4 0 R/Resources<<"
+           "/Font<</F <</Type/Font/Subtype/Type0/BaseFont/Ryumin-Light/Encoding/UniJIS-UTF16-H/"
+           "DescendantFonts[<</Type/Font/Subtype/CIDFontType0/BaseFont/Ryumin-Light/CIDSystemInfo"
+           "<</Registry(Adobe)/Ordering(Japan1)/Supplement 4>>/FontDescriptor<</Type/"
+           "FontDescriptor/FontName/Ryumin-Light/Flags 4/FontBBox[0 -200 1000 900]/ItalicAngle 0/"
+           "Ascent 700/Descent -150/StemV 70>>>>]>>>>>>>>\nendobj\n"
+           "4 0 obj\n<</Length 44>>\nstream\nBT /F 90 Tf 50 400 Td <65e5672c8a9e> Tj ET  \n"
+           "endstream\nendobj\ntrailer\n<</Root 1 0 R/Size 5>>\n";
+}
+
+/// The samples of the source tree, and what the test writes.
 struct Drawing
 {
     const char *name;
-    const char *file; // of the source tree; null: numbered pages
+    const char *file;
     int page;
     QSize size;
+    bool isTurned = false;
 };
 const Drawing kDrawings[] = {
     {"a page of text", "resources/sample/welcome.pdf", 0, {595, 842}},
     {"larger", "resources/sample/welcome.pdf", 0, {1190, 1684}},
     {"a thumbnail", "tests/data/pages.pdf", 1, {60, 85}},
     {"distorted", "tests/data/pages.pdf", 0, {500, 300}},
-    {"a font that is not in the document", nullptr, 1, {595, 842}},
-    {"another paper", nullptr, 2, {612, 792}},
+    {"a font that is not in the document", "numbered.pdf", 1, {595, 842}},
+    {"another paper", "numbered.pdf", 2, {612, 792}},
+    {"a page that is turned", "turned.pdf", 0, {842, 595}, true},
+    {"a page that is cropped", "cropped.pdf", 0, {400, 300}},
+    {"Japanese", "japanese.pdf", 0, {595, 842}},
 };
 
 } // namespace
@@ -47,6 +68,12 @@ private Q_SLOTS:
     {
         m_numbered = writtenFile(m_folder.path(), u"numbered.pdf"_s,
                                  numberedPdf("page", {kA4, kA4, kLetter}));
+        writtenFile(m_folder.path(), u"turned.pdf"_s,
+                    numberedPdf("page", 1).replace("/Type /Page /", "/Type /Page /Rotate 90 /"));
+        writtenFile(m_folder.path(), u"cropped.pdf"_s,
+                    numberedPdf("page", 1).replace("/Type /Page /",
+                                                   "/Type /Page /CropBox [50 300 450 600] /"));
+        writtenFile(m_folder.path(), u"japanese.pdf"_s, japanesePdf());
         m_many = writtenFile(m_folder.path(), u"many.pdf"_s, numberedPdf("page", kManyPages));
     }
 
@@ -54,7 +81,8 @@ private Q_SLOTS:
     void pagesLookAsPdftoppmDrawsThem()
     {
         const Drawing &row = currentRow(kDrawings);
-        const PageToDraw page{row.file ? sourceFile(QLatin1StringView(row.file)) : m_numbered,
+        const QString name = QString::fromLatin1(row.file);
+        const PageToDraw page{name.contains(u'/') ? sourceFile(name) : m_folder.filePath(name),
                               row.page, row.size};
         PagePictures pictures;
         pictures.want({page});
@@ -63,7 +91,12 @@ private Q_SLOTS:
         QCOMPARE(picture.format(), QImage::Format_RGB32);
         QCOMPARE(picture.size(), row.size);
         // The same library with the same settings.
-        QCOMPARE(largestDifference(picture, drawnByPdftoppm(page.file, row.page, row.size)), 0);
+        QCOMPARE(largestDifference(picture,
+                                   drawnByPdftoppm(page.file, row.page, row.size, row.isTurned)),
+                 0);
+        QImage blank(row.size, QImage::Format_RGB32);
+        blank.fill(Qt::white);
+        QVERIFY(picture != blank);
     }
 
     void nothingRunsBeforeTheFirstWish()
