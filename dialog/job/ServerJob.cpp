@@ -30,13 +30,7 @@ bool isAppliedByChain(const JobOption &option)
 // A value that asks for nothing but what is done anyway.
 bool asksForNothing(const JobOption &option, int copies)
 {
-    if (copies == 1 && option.name == "collate"_L1)
-        return true;
-    const JobAttribute *attribute = jobAttribute(option.name);
-    const QStringList values = option.value.split(u','); // before and behind the job
-    return attribute && !attribute->usual.isEmpty() &&
-           std::all_of(values.cbegin(), values.cend(),
-                       [&](const QString &value) { return value == attribute->usual; });
+    return (copies == 1 && option.name == "collate"_L1) || corvana::asksForNothing(option);
 }
 
 } // namespace

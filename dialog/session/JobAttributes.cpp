@@ -271,6 +271,15 @@ bool isAppliedTo(AppliedTo what, const JobOption &option)
     return attribute && attribute->appliedTo == what;
 }
 
+bool asksForNothing(const JobOption &option)
+{
+    const JobAttribute *attribute = jobAttribute(option.name);
+    const QStringList values = option.value.split(u','); // before and behind the job
+    return attribute && !attribute->usual.isEmpty() &&
+           std::all_of(values.cbegin(), values.cend(),
+                       [&](const QString &value) { return value == attribute->usual; });
+}
+
 QString allowedText(const AllowedValues &allowed)
 {
     QStringList parts;

@@ -8,6 +8,7 @@
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
+#include "dialog/task/SavedAsPdf.h"
 
 namespace corvana {
 
@@ -111,6 +112,8 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer)
 {
     if (passesFilesOn(printer))
         return isDoneWhenPassedOn(name, printer);
+    if (savesPdf(printer) && !isDoneInPdf(name))
+        return false;
     const PpdSession &session = *printer.session;
     if (name == kPrintColorMode)
         return session.ppd()->color_device && !hasColorOption(session);

@@ -12,6 +12,7 @@
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/PrintRequest.h"
+#include "dialog/task/SavedAsPdf.h"
 
 namespace corvana {
 
@@ -232,6 +233,8 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
         QStringList problems;
         if (passesOn)
             problems = takeWhatCannotBeDone(options[i], printer);
+        else if (savesPdf(printer))
+            problems = takeWhatPdfLacks(options[i]);
         // What such a queue's own defaults ask for is done by nobody.
         if (layer.by == By::Queue)
             problems.clear();

@@ -606,8 +606,8 @@
 <context>
     <name>PrinterFetching</name>
     <message>
-        <source>PostScript File</source>
-        <translation>PostScript ファイル</translation>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
     </message>
 </context>
 <context>
@@ -1673,6 +1673,10 @@ For the command line: %2</source>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>「%1」は指定できません。指定できる値: %2。</translation>
     </message>
+    <message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF ファイルは 1 つだけ保存されます。部数は指定できません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2177,6 +2181,13 @@ For the command line: %2</source>
     <message>
         <source>“%1: %2” is not shown.</source>
         <translation>「%1: %2」は表示に反映されません。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF ファイルは保留も印刷もされません。%1 は実行できません。</translation>
     </message>
 </context>
 </TS>

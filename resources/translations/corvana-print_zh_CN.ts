@@ -606,8 +606,8 @@
 <context>
     <name>PrinterFetching</name>
     <message>
-        <source>PostScript File</source>
-        <translation>PostScript 文件</translation>
+        <source>Save as PDF</source>
+        <translation>另存为 PDF</translation>
     </message>
 </context>
 <context>
@@ -1673,6 +1673,10 @@ For the command line: %2</source>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>不允许使用“%1”。允许的值：%2。</translation>
     </message>
+    <message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF 文件只保存一次，没有份数。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2177,6 +2181,13 @@ For the command line: %2</source>
     <message>
         <source>“%1: %2” is not shown.</source>
         <translation>“%1：%2”未在预览中体现。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF 文件既不会被保留也不会被打印：无法执行 %1。</translation>
     </message>
 </context>
 </TS>
