@@ -301,6 +301,7 @@ void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
     report({JobProgress::Stage::Sending});
     ServerJobRequest request = m_request;
     request.ticket = ticket;
+    request.ticket.options = withoutPageOrder(ticket.options); // nobody else knows them
     const int times = repetitionsOf(ticket, static_cast<int>(documents.size()));
     QList<Document> all;
     for (int i = 0; i < times; ++i)

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
@@ -236,6 +237,10 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         return {};
     Q_EMIT unsaid();
     m_settings.setAttribute(name, *taken);
+    const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
+    const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
+    if (isBooklet && folding)
+        propose(folding->keyword, folding->choice);
     showSettings();
     return {};
 }

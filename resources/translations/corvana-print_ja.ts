@@ -488,6 +488,22 @@
         <source>%1 to %2</source>
         <translation>%1～%2</translation>
     </message>
+    <message>
+        <source>Bound at the Left</source>
+        <translation>左とじ</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右とじ</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>冊子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>同じページの 1 面あたりの回数</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -1990,6 +2006,14 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>冊子は各面に 2 ページを独自の順序で配置します。%1 は併用できません。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>各ページが 1 つの面に %1 回配置されます。%2 は併用できません。</translation>
     </message>
 </context>
 <context>

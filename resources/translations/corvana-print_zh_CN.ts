@@ -488,6 +488,22 @@
         <source>%1 to %2</source>
         <translation>%1 至 %2</translation>
     </message>
+    <message>
+        <source>Bound at the Left</source>
+        <translation>左侧装订</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右侧装订</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>每面重复同一页的次数</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -1990,6 +2006,14 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>小册子每面有两页，并有自己的顺序：无法同时执行 %1。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>每页在一面上重复 %1 次：无法同时执行 %2。</translation>
     </message>
 </context>
 <context>

@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QProcess>
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
@@ -40,6 +41,12 @@ const QList<SavedCase> kSaved{
      {},
      {u"a 5"_s, u"a 4"_s, u"a 3"_s, u"a 2"_s, u"a 1"_s},
      u"Sheets: 5 pages = 5 sheets"_s},
+    {"a booklet",
+     u"booklet=left"_s,
+     {},
+     {u"a 1"_s, u"a 2"_s, u"a 3"_s, u"a 4 a 5"_s},
+     u"Sheets: 5 pages = 4 sheets"_s},
+    {"each page twice", u"repeat=2"_s, u"5"_s, {u"a 5 a 5"_s}, u"Pages per Sheet: 2"_s},
     {"on another paper", u"media=A5"_s, u"1"_s, {u"a 1"_s}, u"Paper Size: A5"_s},
 };
 
@@ -134,6 +141,33 @@ private Q_SLOTS:
         for (const SummaryLine &line : m_scene->face.summaries.value(0))
             lines += line.title + u": "_s + line.value;
         QVERIFY2(lines.contains(row.line), qPrintable(lines.join(u'\n')));
+    }
+
+    void whatIsPickedIsWhatACommandLineAsksFor()
+    {
+        PrintTask &task = open(request({}));
+        QCOMPARE(task.setAttribute(u"booklet"_s, u"left"_s), QString());
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.print();
+        QVERIFY(m_scene->face.problems().join(u' ').contains(u"number-up=4"_s));
+        task.setAttribute(u"number-up"_s, QString());
+        task.print();
+        QVERIFY(m_scene->reaches(Phase::Ended));
+        QCOMPARE(inAnyOrder(printedSides(saved())),
+                 inAnyOrder({u"a 1"_s, u"a 2"_s, u"a 3"_s, u"a 4 a 5"_s}));
+    }
+
+    // Beside each other as they are read: the sheet is turned, with its left half below.
+    void theFirstPageOfABookletIsOnTheRight()
+    {
+        PrintTask &task = open(request(u"booklet=left"_s));
+        task.settings().setPageRanges(u"1-4"_s);
+        task.print();
+        QVERIFY(m_scene->reaches(Phase::Ended));
+        QProcess reader;
+        reader.start(u"pdftotext"_s, {u"-raw"_s, u"-l"_s, u"1"_s, task.output(), u"-"_s});
+        QVERIFY(reader.waitForFinished());
+        QCOMPARE(reader.readAllStandardOutput().simplified(), QByteArray("a 4 a 1"));
     }
 
     void whatAFileDoesNotDoIsRefusedByName_data() { addRows(kRefusedByPdf); }
