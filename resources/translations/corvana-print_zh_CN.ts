@@ -488,6 +488,22 @@
         <source>%1 to %2</source>
         <translation>%1 至 %2</translation>
     </message>
+<message>
+        <source>Bound at the Left</source>
+        <translation>左侧装订</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右侧装订</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>每面重复同一页的次数</translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -608,6 +624,10 @@
     <message>
         <source>PostScript File</source>
         <translation>PostScript 文件</translation>
+    </message>
+<message>
+        <source>Save as PDF</source>
+        <translation>另存为 PDF</translation>
     </message>
 </context>
 <context>
@@ -1681,6 +1701,10 @@ For the command line: %2</source>
         <source>The queue “%1” sets this for every job that does not name it. Allowed: %2.</source>
         <translation>队列“%1”会为每个未指定此项的作业设置它。允许的值：%2。</translation>
     </message>
+<message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF 文件只保存一次，没有份数。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1995,6 +2019,14 @@ For the command line: %2</source>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
+<message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>小册子每面有两页，并有自己的顺序：无法同时执行 %1。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>每页在一面上重复 %1 次：无法同时执行 %2。</translation>
+    </message>
 </context>
 <context>
     <name>ResultPages</name>
@@ -2212,6 +2244,13 @@ For the command line: %2</source>
     <message>
         <source>“%1: %2” is not shown.</source>
         <translation>“%1：%2”未在预览中体现。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF 文件既不会被保留也不会被打印：无法执行 %1。</translation>
     </message>
 </context>
 </TS>

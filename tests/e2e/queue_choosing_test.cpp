@@ -185,7 +185,7 @@ private Q_SLOTS:
         scene.open({m_document}, {});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QCOMPARE(window.printer(), u"file"_s);
+        QCOMPARE(window.printer(), u"pdf"_s);
         window.child<QSpinBox>(u"copies"_s)->setValue(3);
         QVERIFY(
             window.waitUntil([&] { return scene.between.count(IPP_OP_CUPS_GET_PRINTERS) > 0; }));
