@@ -9,7 +9,9 @@
 
 #include <poppler-global.h>
 
+#include "renderer/Fonts.h"
 #include "renderer/Service.h"
+#include "renderer/lock/Lock.h"
 #include "renderer/protocol/MessageSocket.h"
 
 using namespace corvana::renderer;
@@ -38,7 +40,10 @@ int main()
     // What is wrong with a document is of no use to anyone in Poppler's words.
     poppler::set_debug_error_function([](const std::string &, void *) {}, nullptr);
 
+    const Locks locks = lockIn(kSocket, prepareFonts());
     auto ready = made<Ready>(0);
+    ready.filtersCalls = locks.filtersCalls ? 1 : 0;
+    ready.fencesFiles = static_cast<std::uint32_t>(locks.fencesFiles);
     if (!sendMessage(kSocket, ready))
         return 1;
     return Service(kSocket).run() ? 0 : 1;
