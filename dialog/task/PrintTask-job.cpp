@@ -65,6 +65,8 @@ void PrintTask::print()
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;
     }
+    if (!m_request.documents.isEmpty() && !documentsAreReady())
+        return;
     enter(Phase::Asking);
     const std::optional<TaskRefusal> refusal = finish();
     // Interrupted, while an alert was waiting for its answer.
@@ -105,6 +107,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
+    if (!mayPrintWithoutLostPages())
+        return TaskRefusal{{}, Place::Nowhere, true};
     if (passesFilesOn()) {
         QList<JobOption> asked = m_settings.attributes();
         const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
@@ -142,8 +146,8 @@ void PrintTask::lookForMissingCharacters()
         if (isTextToLayOut(document, {}))
             texts += document.path;
     }
-    if (!m_textCheck && !texts.isEmpty())
-        m_textCheck = std::make_unique<TextCheck>(texts);
+    if (!m_looks.texts && !texts.isEmpty())
+        m_looks.texts = std::make_unique<TextCheck>(texts);
 }
 
 // A text whose characters nobody has is not printed without a word.
@@ -151,7 +155,7 @@ bool PrintTask::mayPrintTexts()
 {
     const bool anyText = hasTextToLayOut(m_request.documents, jobAttributes());
     const QString missing =
-        anyText && m_textCheck ? m_textCheck->missing(kPatienceWithTexts) : QString();
+        anyText && m_looks.texts ? m_looks.texts->missing(kPatienceWithTexts) : QString();
     return missing.isEmpty() ||
            m_face.mayPrintWithout(tr("No font of this computer has these characters of the text: "
                                      "%1. An empty frame is printed for each of them.")
@@ -182,10 +186,11 @@ void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
     if (printsToFile()) {
-        m_run.job = std::make_unique<FileJob>(FileJobRequest{
-            m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
+        m_run.job = std::make_unique<FileJob>(
+            FileJobRequest{printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        request.documents = printedDocuments();
         if (m_settings.attributes().contains(kRaw)) {
             for (Document &document : request.documents)
                 document.format = kRawFormat;

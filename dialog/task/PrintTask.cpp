@@ -31,6 +31,9 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
         m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
+    connect(&m_looks.documents, &DocumentChecks::changed, this, &PrintTask::documentsLookedAt);
+    if (m_request.documentPassword)
+        m_looks.documents.addPassword(*m_request.documentPassword);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(
@@ -80,6 +83,10 @@ void PrintTask::bringUp()
     sayStartProblems();
     for (const Refusal &refusal : refusals)
         m_chosen.unset += refusalText(refusal, *m_opened->session);
+    if (!m_looks.documents.isDone())
+        return;
+    sayOfDocuments();
+    askForPasswords();
 }
 
 // Answers what the panels proposed in vain while they came up: nobody could be told yet.
