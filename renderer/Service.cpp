@@ -86,4 +86,20 @@ bool Service::answer(const CloseDocument &request, const Descriptor &)
     return sendMessage(m_socket, closed);
 }
 
+bool Service::answer(const CheckDocument &request, const Descriptor &descriptor)
+{
+    auto checked = made<Checked>(request.header.sequence);
+    m_checked.reset();
+    m_checked = CheckedDocument::check(descriptor.get(),
+                                       {request.password.data(), request.passwordBytes}, checked);
+    return sendMessage(m_socket, checked);
+}
+
+bool Service::answer(const CopyDocument &request, const Descriptor &descriptor)
+{
+    auto copied = made<Copied>(request.header.sequence);
+    copied.status = m_checked ? m_checked->copy(descriptor.get()) : Status::Refused;
+    return sendMessage(m_socket, copied);
+}
+
 } // namespace corvana::renderer

@@ -1,7 +1,8 @@
-// corvana-page-renderer: draws pages of documents for another program, which need not trust the
-// documents, nor this program. It is started by that program with a socket as descriptor 3 (see
-// protocol/Messages.h), and of no use to anybody else.
+// corvana-page-renderer: looks into documents and draws their pages for another program, which need
+// not trust the documents, nor this program. It is started by that program with a socket as
+// descriptor 3 (see protocol/Messages.h), and of no use to anybody else.
 
+#include <csignal>
 #include <cstdio>
 
 #include <sys/socket.h>
@@ -39,6 +40,9 @@ int main()
     }
     // What is wrong with a document is of no use to anyone in Poppler's words.
     poppler::set_debug_error_function([](const std::string &, void *) {}, nullptr);
+
+    // A copy that becomes larger than a file may be here is an error of that copy.
+    std::signal(SIGXFSZ, SIG_IGN);
 
     const Locks locks = lockIn(kSocket, prepareFonts());
     auto ready = made<Ready>(0);

@@ -42,6 +42,11 @@ struct Options
     QCommandLineOption passwordDescriptor{
         u"password-fd"_s, u"The same from the open file descriptor N (0 is standard input)."_s,
         u"N"_s};
+    QCommandLineOption documentPasswordFile{
+        u"document-password-file"_s,
+        u"Open protected PDF documents with the password in the first line of FILE, which nobody "
+        "but its owner may read."_s,
+        u"FILE"_s};
     QCommandLineOption ppd{u"ppd"_s, u"Print for the printer that the PPD FILE describes."_s,
                            u"FILE"_s};
     QCommandLineOption output{
@@ -98,12 +103,36 @@ struct Options
 
     void addTo(QCommandLineParser &parser) const
     {
-        parser.addOptions(
-            {printer, server,     encrypt,      user,         passwordFile, passwordDescriptor,
-             ppd,     output,     demo,         listPrinters, option,       copies,
-             pages,   priority,   hold,         title,        quiet,        copy,
-             mail,    noDialog,   summary,      onAlert,      wait,         noWait,
-             format,  bundleRoot, checkDisplay, help,         version});
+        parser.addOptions({printer,
+                           server,
+                           encrypt,
+                           user,
+                           passwordFile,
+                           passwordDescriptor,
+                           documentPasswordFile,
+                           ppd,
+                           output,
+                           demo,
+                           listPrinters,
+                           option,
+                           copies,
+                           pages,
+                           priority,
+                           hold,
+                           title,
+                           quiet,
+                           copy,
+                           mail,
+                           noDialog,
+                           summary,
+                           onAlert,
+                           wait,
+                           noWait,
+                           format,
+                           bundleRoot,
+                           checkDisplay,
+                           help,
+                           version});
     }
 };
 
@@ -203,6 +232,7 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.encrypt = parser.isSet(options.encrypt);
     line.user = parser.value(options.user);
     line.passwordFile = parser.value(options.passwordFile);
+    line.documentPasswordFile = parser.value(options.documentPasswordFile);
     line.json = parser.value(options.format) == "json"_L1;
     line.documents = parser.positionalArguments();
     if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
@@ -232,7 +262,7 @@ QString emptyName(const QCommandLineParser &parser, const Options &options)
 {
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
-          &options.bundleRoot}) {
+          &options.documentPasswordFile, &options.bundleRoot}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
             return u"%1 \"\": %2 is missing."_s.arg((name.size() == 1 ? u"-"_s : u"--"_s) + name,

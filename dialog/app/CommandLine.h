@@ -19,8 +19,8 @@ struct CommandLine
 {
     /// As given; "-" is standard input. Without any, documents are chosen in the window.
     QStringList documents;
-    QString printer;       ///< a name, or the URI of an IPP printer
-    QString server;        ///< "HOST", "HOST:PORT" or a socket; empty for the environment's
+    QString printer; ///< a name, or the URI of an IPP printer
+    QString server;  ///< "HOST", "HOST:PORT" or a socket; empty for the environment's
     QString ppd;
     QString output;
     QString title;
@@ -41,6 +41,7 @@ struct CommandLine
     bool encrypt = false;
     QString passwordFile;
     std::optional<int> passwordDescriptor;
+    QString documentPasswordFile;
     /// Nothing: what suits where the job goes.
     std::optional<AlertPolicy> onAlert;
 

@@ -53,6 +53,15 @@ bool takeCredentials(const CommandLine &line, PrintRequest *request, QString *er
 }
 
 // Errors: false.
+bool takeDocumentPassword(const CommandLine &line, PrintRequest *request, QString *error)
+{
+    if (line.documentPasswordFile.isEmpty())
+        return true;
+    request->documentPassword = passwordInFile(line.documentPasswordFile, error);
+    return request->documentPassword.has_value();
+}
+
+// Errors: false.
 bool takeOutput(const CommandLine &line, PrintRequest *request, QString *error)
 {
     request->outputWasNamed = !line.output.isEmpty();
@@ -113,7 +122,8 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
                          : ServerAddress::configured();
     if (line.encrypt && request.server.encryption != HTTP_ENCRYPTION_ALWAYS)
         request.server.encryption = HTTP_ENCRYPTION_REQUIRED;
-    if (!takeCredentials(line, &request, error) || !takeOutput(line, &request, error))
+    if (!takeCredentials(line, &request, error) || !takeDocumentPassword(line, &request, error) ||
+        !takeOutput(line, &request, error))
         return std::nullopt;
     request.options = parseOptions(line.options) + line.switches;
     request.bundleRoots = trustedBundleRoots(line);

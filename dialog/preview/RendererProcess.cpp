@@ -326,4 +326,36 @@ RendererProcess::Outcome RendererProcess::close(quint32 document)
     return ask(request, -1, &answer);
 }
 
+RendererProcess::Outcome RendererProcess::check(const QString &file, const QString &password,
+                                                CheckedPdf *checked)
+{
+    *checked = {};
+    const QByteArray secret = password.toUtf8();
+    if (secret.size() >= static_cast<qsizetype>(renderer::kPasswordRoom))
+        return Outcome::PasswordNeeded;
+    const Descriptor opened = openDocumentFile(file);
+    if (!opened)
+        return Outcome::Unreadable;
+    auto request = made<renderer::CheckDocument>(++m_sequence);
+    request.passwordBytes = static_cast<std::uint32_t>(secret.size());
+    std::copy(secret.begin(), secret.end(), request.password.begin());
+    renderer::Checked answer;
+    const Outcome outcome = ask(request, opened.get(), &answer);
+    checked->isEncrypted = answer.isEncrypted != 0;
+    checked->mayPrint = answer.mayPrint != 0;
+    checked->isOwner = answer.isOwner != 0;
+    checked->isDamaged = answer.isDamaged != 0;
+    checked->pages = static_cast<int>(answer.pages);
+    checked->lostPages = static_cast<int>(answer.lostPages);
+    checked->damagedAt = answer.damagedAt;
+    checked->detail = QString::fromLatin1(answer.detail.data(), answer.detailBytes);
+    return outcome;
+}
+
+RendererProcess::Outcome RendererProcess::copy(int file)
+{
+    renderer::Copied answer;
+    return ask(made<renderer::CopyDocument>(++m_sequence), file, &answer);
+}
+
 } // namespace corvana

@@ -27,6 +27,19 @@ struct RendererSettings
     static RendererSettings shipped();
 };
 
+/// What the renderer finds in a PDF that is to be printed.
+struct CheckedPdf
+{
+    bool isEncrypted = false;
+    bool mayPrint = true; ///< without the owner's password
+    bool isOwner = false; ///< the password is the owner's
+    bool isDamaged = false;
+    int pages = 0; ///< that can be read
+    int lostPages = 0;
+    quint64 damagedAt = 0; ///< byte; 0: nobody knows
+    QString detail{};      ///< what is wrong, in a library's words
+};
+
 /// The program that draws pages, which is a process of its own and may do anything but harm: it may
 /// die, hang, or answer nonsense. After any of these it is gone and can be started again.
 ///
@@ -75,6 +88,11 @@ public:
     /// Range of `size`: what renderer::isPictureSize() allows, else TooLarge.
     Outcome draw(quint32 document, int page, QSize size, QImage *picture);
     Outcome close(quint32 document);
+    /// Looks into a PDF. `checked` says what is wrong with one that is Damaged, too.
+    Outcome check(const QString &file, const QString &password, CheckedPdf *checked);
+    /// Writes what was checked last into an open, empty file, without a password and without what
+    /// could not be read.
+    Outcome copy(int file);
 
 private:
     using Clock = std::chrono::steady_clock;

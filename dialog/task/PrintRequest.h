@@ -49,6 +49,8 @@ struct PrintRequest
     bool json = false;  ///< what became of the job is said for a program, too
     /// A user and a password that were given in advance, so that nobody has to be asked.
     std::optional<Credentials> credentials;
+    /// Of documents that are protected, so that nobody has to be asked.
+    std::optional<QString> documentPassword;
     /// The page of the dialog's own help, in the user's language; empty when it is not installed.
     QString helpPage;
 };

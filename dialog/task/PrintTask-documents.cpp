@@ -71,7 +71,8 @@ void PrintTask::setDocuments(const QList<Document> &documents)
             proposeOutput();
         Q_EMIT outputProposed();
     }
-    m_textCheck.reset();
+    m_looks.texts.reset();
+    m_looks.documents.check(documents);
     if (m_phase == Phase::Ready)
         lookForMissingCharacters();
     // What was sent before is another job.
@@ -79,8 +80,11 @@ void PrintTask::setDocuments(const QList<Document> &documents)
         memory.earlierJob = memory.earlierDocuments = 0;
     Q_EMIT unsaid();
     Q_EMIT documentsChanged();
-    if (m_phase == Phase::Ready)
-        showSettings();
+    if (m_phase != Phase::Ready)
+        return;
+    showSettings();
+    sayOfDocuments();
+    askForPasswords();
 }
 
 } // namespace corvana

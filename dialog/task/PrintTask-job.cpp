@@ -67,6 +67,8 @@ void PrintTask::print()
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;
     }
+    if (!m_request.documents.isEmpty() && !documentsAreReady())
+        return;
     enter(Phase::Asking);
     m_run.textsAreSettled = false;
     const std::optional<TaskRefusal> refusal = finish();
@@ -110,6 +112,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
+    if (!mayPrintWithoutLostPages())
+        return TaskRefusal{{}, Place::Nowhere, true};
     if (passesFilesOn()) {
         QList<JobOption> asked = m_settings.attributes();
         const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
@@ -147,24 +151,24 @@ void PrintTask::lookForMissingCharacters()
         if (isTextToLayOut(document, {}))
             texts += document.path;
     }
-    if (m_textCheck || texts.isEmpty())
+    if (m_looks.texts || texts.isEmpty())
         return;
-    m_textCheck = std::make_unique<TextCheck>(texts);
-    connect(m_textCheck.get(), &TextCheck::finished, this, &PrintTask::settleTexts);
+    m_looks.texts = std::make_unique<TextCheck>(texts);
+    connect(m_looks.texts.get(), &TextCheck::finished, this, &PrintTask::settleTexts);
 }
 
 bool PrintTask::isTextCheckOver() const
 {
-    return !m_textCheck || m_textCheck->finding();
+    return !m_looks.texts || m_looks.texts->finding();
 }
 
 // A text whose characters nobody has, or may not have, is not printed without a word.
 bool PrintTask::mayPrintTexts()
 {
     m_run.textsAreSettled = true;
-    if (!m_textCheck || !hasTextToLayOut(m_request.documents, jobAttributes()))
+    if (!m_looks.texts || !hasTextToLayOut(m_request.documents, jobAttributes()))
         return true;
-    const auto finding = m_textCheck->finding();
+    const auto finding = m_looks.texts->finding();
     if (finding && !finding->missing.isEmpty())
         return m_face.mayPrintWithout(tr("No font of this computer has these characters of the "
                                          "text: %1. An empty frame is printed for each of them.")
@@ -181,14 +185,14 @@ void PrintTask::awaitTexts()
     m_run.awaits = Run::Awaits::Texts;
     if (m_run.textsAreSettled || isTextCheckOver())
         return settleTexts();
-    m_textPatience.start(kPatienceWithTexts);
+    m_looks.textPatience.start(kPatienceWithTexts);
 }
 
 void PrintTask::settleTexts()
 {
     if (m_run.awaits != Run::Awaits::Texts)
         return;
-    m_textPatience.stop();
+    m_looks.textPatience.stop();
     m_run.awaits = Run::Awaits::Nothing; // while the user is asked
     const bool mayPrint = m_run.textsAreSettled || mayPrintTexts();
     if (m_phase != Phase::Printing)
@@ -224,10 +228,11 @@ void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
     if (printsToFile()) {
-        m_run.job = std::make_unique<FileJob>(FileJobRequest{
-            m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
+        m_run.job = std::make_unique<FileJob>(
+            FileJobRequest{printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        request.documents = printedDocuments();
         if (m_settings.attributes().contains(kRaw)) {
             for (Document &document : request.documents)
                 document.format = kRawFormat;

@@ -27,6 +27,7 @@ void PrintTask::connectSource()
 void PrintTask::start()
 {
     m_chosen.canBeAnother = true;
+    m_looks.documents.check(m_request.documents);
     choosePrinter(m_source.first());
     m_chosen.deliberately = !m_source.firstIsProvisional();
 }
@@ -34,6 +35,7 @@ void PrintTask::start()
 void PrintTask::startUnattended()
 {
     m_chosen.deliberately = true;
+    m_looks.documents.check(m_request.documents);
     m_source.openWanted();
 }
 

@@ -34,7 +34,7 @@ JobTicket PrintTask::ticket() const
 SheetRequest PrintTask::sheetRequest(const JobTicket &ticket) const
 {
     SheetRequest request;
-    request.documents = m_request.documents;
+    request.documents = printedDocuments();
     for (const JobOption &option : ticket.options) {
         if (mattersForSheets(option))
             request.options += option;
@@ -87,6 +87,9 @@ void PrintTask::countSheets()
 {
     if (!m_opened || m_phase != Phase::Ready || m_request.documents.isEmpty() || passesFilesOn())
         return;
+    m_looks.countsThen = !documentsCanBeCounted();
+    if (m_looks.countsThen)
+        return;
     const SheetRequest request = sheetRequest(ticket());
     if (!m_sheets.counted(request))
         m_sheets.count(request, SheetCounter::When::Soon);
@@ -102,6 +105,8 @@ SheetPreview PrintTask::sheetPreview() const
     if (passesFilesOn())
         return {State::None, tr("Files are passed on to the printer as they are. What comes out is "
                                 "not known here.")};
+    if (const QStringList problems = documentProblems().problems; !problems.isEmpty())
+        return {State::None, problems.join(u' ')};
     // While a panel is being asked there is no ticket yet.
     const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
     const JobTicket job = hasTicket ? m_run.ticket : ticket();
@@ -177,7 +182,7 @@ void PrintTask::sheetsKnown()
 void PrintTask::stopPreparing()
 {
     m_run.awaits = Run::Awaits::Nothing;
-    m_textPatience.stop();
+    m_looks.textPatience.stop();
     m_sheets.cancel();
 }
 

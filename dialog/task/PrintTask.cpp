@@ -33,8 +33,11 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
         m_credentials->giveInAdvance(*m_request.credentials);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
-    m_textPatience.setSingleShot(true);
-    connect(&m_textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
+    m_looks.textPatience.setSingleShot(true);
+    connect(&m_looks.textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
+    connect(&m_looks.documents, &DocumentChecks::changed, this, &PrintTask::documentsLookedAt);
+    if (m_request.documentPassword)
+        m_looks.documents.addPassword(*m_request.documentPassword);
     if (!m_face.canAsk())
         return;
     m_credentials->setQuestioner(
@@ -84,6 +87,10 @@ void PrintTask::bringUp()
     sayStartProblems();
     for (const Refusal &refusal : refusals)
         m_chosen.unset += refusalText(refusal, *m_opened->session);
+    if (!m_looks.documents.isDone())
+        return;
+    sayOfDocuments();
+    askForPasswords();
 }
 
 // Answers what the panels proposed in vain while they came up: nobody could be told yet.

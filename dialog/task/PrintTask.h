@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include "dialog/documents/DocumentChecks.h"
 #include "dialog/job/Job.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
@@ -110,6 +111,9 @@ public:
     void removeDocument(int index);
     void moveDocument(int from, int to);
 
+    /// Whether all of them were looked into; the summary and a preview wait for that.
+    bool knowsDocuments() const { return m_looks.documents.isDone(); }
+
     // What is set (PrintTask.cpp)
 
     /// Brings the panels up and the options of the request in; once for a printer.
@@ -195,6 +199,9 @@ Q_SIGNALS:
     /// Something that nobody has asked for just now, in lpoptions or among the defaults of the
     /// queue, cannot be taken or is not understood. It is said to the user as well.
     void ignored(const QString &problem);
+    /// Something that whoever prints has to know, such as that a protected document goes out
+    /// without protection. It is said to the user as well.
+    void noted(const QString &what);
     /// print() prints nothing.
     void refused(const corvana::TaskRefusal &refusal);
     void progressed(const corvana::JobProgress &progress);
@@ -244,6 +251,18 @@ private:
         QString text;
         bool isBlack = false; // the job is black and white, whatever the panels say
     };
+    // What is found out about the documents before they are printed.
+    struct Looks
+    {
+        DocumentChecks documents;
+        std::unique_ptr<TextCheck> texts;
+        QTimer textPatience;  // until a job is made without the finding of the texts
+        QStringList declined; // documents whose password somebody does not want to give
+        QStringList told;     // what was said of them
+        bool isAsking = false;
+        bool printsThen = false; // Print was chosen meanwhile
+        bool countsThen = false;
+    };
     struct Baseline
     {
         SessionSnapshot opened;  // before any option was taken
@@ -256,6 +275,19 @@ private:
     void say(TaskMessage::Kind kind, const QString &text);
 
     void setDocuments(const QList<Document> &documents);
+
+    void documentsLookedAt();
+    void sayOfDocuments();
+    QString problemOf(const Document &document) const;
+    TaskRefusal documentProblems() const;
+    bool mayAskForPassword() const;
+    bool documentsAreReady();
+    bool documentsCanBeCounted() const;
+    bool mayPrintWithoutLostPages();
+    void askForPasswords();
+    void askForPassword(const Document &document);
+    void passwordDeclined(const Document &document);
+    QList<Document> printedDocuments() const;
 
     void connectSource();
     void take(const FetchedPrinter &ready);
@@ -321,8 +353,7 @@ private:
     SheetCounter m_sheets;
     SheetPreview m_preview; // that was known last
     Run m_run;
-    std::unique_ptr<TextCheck> m_textCheck;
-    QTimer m_textPatience; // until a job is made without its finding
+    Looks m_looks;
     Phase m_phase = Phase::Fetching;
 };
 

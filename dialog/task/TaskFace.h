@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+
 #include <QList>
 #include <QString>
 
@@ -8,6 +11,14 @@
 #include "platform/toolkit/Alert.h"
 
 namespace corvana {
+
+/// Which document wants a password.
+struct DocumentPasswordQuestion
+{
+    QString title{};       ///< its name
+    bool forOwner = false; ///< it opens, and the owner's password would allow printing
+    bool isRetry = false;  ///< the password that was given is wrong
+};
 
 /// What a task asks of the face that a user sees it by: a window, a terminal, a test. A face shows,
 /// asks and answers; what follows from an answer is the task's to know.
@@ -36,6 +47,11 @@ public:
     /// canAsk().
     virtual void askCredentials(const CredentialsQuestion &question,
                                 const CredentialStore::Answer &answer) = 0;
+    /// Asks for the password of a document, and calls `answer` once, now or later; with nothing
+    /// when nobody gives it. Called only where canAsk().
+    using PasswordAnswer = std::function<void(const std::optional<QString> &)>;
+    virtual void askDocumentPassword(const DocumentPasswordQuestion &question,
+                                     const PasswordAnswer &answer) = 0;
     /// What the instructions that the panels have just shown mean for the job.
     virtual Instructions instructions() const = 0;
 

@@ -16,6 +16,7 @@ struct TaskMessage
     QString offer{};              ///< what the user can do about it ("Change to …"); else empty
     std::function<void()> take{}; ///< does it; for as long as the printer is open
     bool canWait = false;         ///< not worth saying while something else is being said
+    QString details{};            ///< names, numbers, programs' words, for who asks; else empty
 };
 
 /// Why a task does not print, and where a user can mend it.
@@ -27,6 +28,7 @@ struct TaskRefusal
     Place place = Place::Nowhere;
     /// The user has just said so, in the alert of a panel, and need not be told.
     bool answered = false;
+    QString details{}; ///< as in a TaskMessage
 };
 
 } // namespace corvana

@@ -14,7 +14,7 @@ TerminalFace::TerminalFace(std::optional<AlertPolicy> policy, const TerminationS
                            FILE *forPeople)
     : m_policy(policy),
       m_questioner(terminalQuestioner([&termination] { return termination.caught() != 0; })),
-      m_forPeople(forPeople)
+      m_termination(termination), m_forPeople(forPeople)
 {
 }
 
@@ -32,6 +32,12 @@ void TerminalFace::askCredentials(const CredentialsQuestion &question,
                                   const CredentialStore::Answer &answer)
 {
     m_questioner(question, answer);
+}
+
+void TerminalFace::askDocumentPassword(const DocumentPasswordQuestion &question,
+                                       const PasswordAnswer &answer)
+{
+    answer(documentPasswordFromTerminal(question, [this] { return m_termination.caught() != 0; }));
 }
 
 TaskFace::Instructions TerminalFace::instructions() const

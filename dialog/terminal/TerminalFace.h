@@ -30,6 +30,8 @@ public:
     bool canAsk() const override { return bool(m_questioner); }
     void askCredentials(const CredentialsQuestion &question,
                         const CredentialStore::Answer &answer) override;
+    void askDocumentPassword(const DocumentPasswordQuestion &question,
+                             const PasswordAnswer &answer) override;
     Instructions instructions() const override;
     /// What -o and --output name was meant.
     bool mayOverwrite(const QString &) override { return true; }
@@ -40,6 +42,7 @@ public:
 private:
     std::optional<AlertPolicy> m_policy;
     CredentialStore::Questioner m_questioner;
+    const TerminationSignals &m_termination;
     const PrintTask *m_task = nullptr;
     FILE *m_forPeople;
     std::optional<TerminalAlertPresenter> m_presenter; // once it is known where the job goes

@@ -52,6 +52,25 @@ std::optional<QByteArray> readLine(int terminal, const std::function<bool()> &en
     }
 }
 
+// One line that nobody sees.
+std::optional<QByteArray> readHidden(int terminal, const QString &prompt,
+                                     const std::function<bool()> &ending)
+{
+    termios shown{};
+    const bool canHide = ::tcgetattr(terminal, &shown) == 0;
+    termios hidden = shown;
+    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    // Before the prompt, so that not a single character shows of who types as soon as it is there.
+    if (canHide)
+        ::tcsetattr(terminal, TCSAFLUSH, &hidden);
+    write(terminal, prompt);
+    std::optional<QByteArray> line = readLine(terminal, ending);
+    if (canHide)
+        ::tcsetattr(terminal, TCSAFLUSH, &shown);
+    write(terminal, u"\n"_s);
+    return line;
+}
+
 std::optional<Credentials> ask(const CredentialsQuestion &question,
                                const std::function<bool()> &ending)
 {
@@ -72,18 +91,8 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
     const std::optional<QByteArray> user = readLine(terminal, ending);
     if (!user)
         return std::nullopt;
-    termios shown{};
-    const bool canHide = ::tcgetattr(terminal, &shown) == 0;
-    termios hidden = shown;
-    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    // Before the prompt, so that not a single character shows of who types as soon as it is there.
-    if (canHide)
-        ::tcsetattr(terminal, TCSAFLUSH, &hidden);
-    write(terminal, Texts::tr("Password: "));
-    std::optional<QByteArray> password = readLine(terminal, ending);
-    if (canHide)
-        ::tcsetattr(terminal, TCSAFLUSH, &shown);
-    write(terminal, u"\n"_s);
+    const std::optional<QByteArray> password =
+        readHidden(terminal, Texts::tr("Password: "), ending);
     if (!password)
         return std::nullopt;
     return Credentials{user->isEmpty() ? question.user : QString::fromLocal8Bit(*user),
@@ -91,6 +100,21 @@ std::optional<Credentials> ask(const CredentialsQuestion &question,
 }
 
 } // namespace
+
+std::optional<QString> documentPasswordFromTerminal(const DocumentPasswordQuestion &question,
+                                                    const std::function<bool()> &ending)
+{
+    const int terminal = ::open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY);
+    if (terminal < 0)
+        return std::nullopt;
+    const auto closing = qScopeGuard([&] { ::close(terminal); });
+    if (question.isRetry)
+        write(terminal, Texts::tr("That is not the password.") + u'\n');
+    const std::optional<QByteArray> password = readHidden(
+        terminal, Texts::tr("Password of “%1”: ").arg(terminalLine(question.title)), ending);
+    return password && !password->isEmpty() ? std::optional(QString::fromLocal8Bit(*password))
+                                            : std::nullopt;
+}
 
 CredentialStore::Questioner terminalQuestioner(const std::function<bool()> &ending)
 {

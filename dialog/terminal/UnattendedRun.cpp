@@ -118,6 +118,8 @@ public:
                          [this](Phase phase) { phaseChanged(phase); });
         QObject::connect(&m_task, &PrintTask::ignored, &m_loop,
                          [](const QString &problem) { sayProblem(problem); });
+        QObject::connect(&m_task, &PrintTask::noted, &m_loop,
+                         [](const QString &what) { sayProblem(what); });
         QObject::connect(&m_task, &PrintTask::refused, &m_loop,
                          [this](const TaskRefusal &refusal) { end(refusal.problems); });
         QObject::connect(&m_task, &PrintTask::progressed, &m_loop,

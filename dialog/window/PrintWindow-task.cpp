@@ -10,6 +10,7 @@
 
 #include "dialog/session/Summary.h"
 #include "dialog/window/CredentialsDialog.h"
+#include "dialog/window/DocumentPasswordDialog.h"
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/PrinterHeader.h"
 #include "dialog/window/SettingsPages.h"
@@ -264,6 +265,17 @@ void PrintWindow::askCredentials(const CredentialsQuestion &question,
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, [dialog, answer](int result) {
         answer(result == QDialog::Accepted ? std::optional(dialog->credentials()) : std::nullopt);
+    });
+    dialog->open();
+}
+
+void PrintWindow::askDocumentPassword(const DocumentPasswordQuestion &question,
+                                      const PasswordAnswer &answer)
+{
+    auto *dialog = new DocumentPasswordDialog(question, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this, [dialog, answer](int result) {
+        answer(result == QDialog::Accepted ? std::optional(dialog->password()) : std::nullopt);
     });
     dialog->open();
 }

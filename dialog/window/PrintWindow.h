@@ -90,6 +90,8 @@ private:
     AlertPresenter &alerts() override { return m_presenter; }
     void askCredentials(const CredentialsQuestion &question,
                         const CredentialStore::Answer &answer) override;
+    void askDocumentPassword(const DocumentPasswordQuestion &question,
+                             const PasswordAnswer &answer) override;
     Instructions instructions() const override { return Instructions::Followed; }
     bool finishEditing() override;
     bool userIsBusy() const override;

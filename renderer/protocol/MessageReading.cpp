@@ -22,12 +22,27 @@ template <typename Message> std::optional<Message> framed(std::span<const std::b
     return message;
 }
 
-bool isGood(const OpenDocument &request)
+// A string that ends within its room can be given to anyone.
+template <typename Message> bool hasGoodPassword(const Message &request)
 {
-    // A string that ends within its room can be given to anyone.
-    return request.document != 0 && request.passwordBytes < kPasswordRoom &&
+    return request.passwordBytes < kPasswordRoom &&
            std::all_of(request.password.begin() + request.passwordBytes, request.password.end(),
                        [](char c) { return c == 0; });
+}
+
+bool isGood(const OpenDocument &request)
+{
+    return request.document != 0 && hasGoodPassword(request);
+}
+
+bool isGood(const CheckDocument &request)
+{
+    return hasGoodPassword(request);
+}
+
+bool isGood(const CopyDocument &)
+{
+    return true;
 }
 
 bool isGood(const ListSizes &request)
@@ -50,7 +65,8 @@ template <typename Message>
 std::optional<Request> readAs(std::span<const std::byte> bytes, bool hasDescriptor)
 {
     constexpr bool bringsDescriptor =
-        std::is_same_v<Message, OpenDocument> || std::is_same_v<Message, DrawPage>;
+        std::is_same_v<Message, OpenDocument> || std::is_same_v<Message, DrawPage> ||
+        std::is_same_v<Message, CheckDocument> || std::is_same_v<Message, CopyDocument>;
     const std::optional<Message> message = framed<Message>(bytes);
     if (!message || message->header.sequence == 0 || hasDescriptor != bringsDescriptor ||
         !isGood(*message))
@@ -107,6 +123,25 @@ bool isGood(const Closed &answer)
     return isStatus(answer.status);
 }
 
+bool isGood(const Checked &answer)
+{
+    const bool done = answer.status == Status::Done;
+    const bool hasGoodDetail =
+        answer.detailBytes <= kDetailRoom &&
+        std::all_of(answer.detail.begin(), answer.detail.begin() + answer.detailBytes,
+                    [](char c) { return c >= ' ' && c <= '~'; }) &&
+        std::all_of(answer.detail.begin() + answer.detailBytes, answer.detail.end(),
+                    [](char c) { return c == 0; });
+    return isStatus(answer.status) && hasGoodDetail && done == (answer.pages > 0) &&
+           answer.pages <= kMaxPages && answer.lostPages <= kMaxPages && answer.isEncrypted <= 1 &&
+           answer.mayPrint <= 1 && answer.isOwner <= 1 && answer.isDamaged <= 1;
+}
+
+bool isGood(const Copied &answer)
+{
+    return isStatus(answer.status);
+}
+
 } // namespace
 
 bool isPictureSize(std::uint32_t width, std::uint32_t height)
@@ -130,6 +165,10 @@ std::optional<Request> readRequest(std::span<const std::byte> bytes, bool hasDes
         return readAs<DrawPage>(bytes, hasDescriptor);
     case Kind::CloseDocument:
         return readAs<CloseDocument>(bytes, hasDescriptor);
+    case Kind::CheckDocument:
+        return readAs<CheckDocument>(bytes, hasDescriptor);
+    case Kind::CopyDocument:
+        return readAs<CopyDocument>(bytes, hasDescriptor);
     default:
         return std::nullopt;
     }
@@ -150,5 +189,7 @@ template std::optional<Opened> readAnswer(std::span<const std::byte>, bool, std:
 template std::optional<Sizes> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Drawn> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Closed> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
+template std::optional<Checked> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
+template std::optional<Copied> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 
 } // namespace corvana::renderer

@@ -9,7 +9,8 @@
 
 namespace corvana::renderer {
 
-using Request = std::variant<OpenDocument, ListSizes, DrawPage, CloseDocument>;
+using Request =
+    std::variant<OpenDocument, ListSizes, DrawPage, CloseDocument, CheckDocument, CopyDocument>;
 
 /// Reads what the renderer was asked.
 /// Errors: nothing for a message that is not exactly a request of this version with all its values
@@ -28,6 +29,8 @@ extern template std::optional<Opened> readAnswer(std::span<const std::byte>, boo
 extern template std::optional<Sizes> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 extern template std::optional<Drawn> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 extern template std::optional<Closed> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
+extern template std::optional<Checked> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
+extern template std::optional<Copied> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 
 /// Whether a picture of that size may be asked for.
 bool isPictureSize(std::uint32_t width, std::uint32_t height);

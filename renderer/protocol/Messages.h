@@ -29,6 +29,7 @@ inline constexpr std::uint32_t kMaxDocuments = 64;      ///< open at a time
 inline constexpr float kMaxPaper = 1'000'000;           ///< a side of a page. Units: points
 inline constexpr std::uint32_t kSizesAtOnce = 256;
 inline constexpr std::uint32_t kPasswordRoom = 128; ///< longer ones do not exist in a PDF
+inline constexpr std::uint32_t kDetailRoom = 200;   ///< for what is wrong with a document
 
 enum class Kind : std::uint16_t {
     // Requests.
@@ -36,12 +37,16 @@ enum class Kind : std::uint16_t {
     ListSizes = 2,
     DrawPage = 3, ///< the memory for the picture comes with it
     CloseDocument = 4,
+    CheckDocument = 5, ///< the document's descriptor comes with it
+    CopyDocument = 6,  ///< the file for the copy comes with it
     // Answers.
     Ready = 100,
     Opened = 101,
     Sizes = 102,
     Drawn = 103,
     Closed = 104,
+    Checked = 105,
+    Copied = 106,
 };
 
 enum class Status : std::uint32_t {
@@ -99,6 +104,22 @@ struct CloseDocument
     std::uint32_t document = 0;
 };
 
+/// Looks into a PDF that is to be printed. It stays at hand until the next one is checked.
+struct CheckDocument
+{
+    static constexpr Kind kKind = Kind::CheckDocument;
+    Header header;
+    std::uint32_t passwordBytes = 0;
+    std::array<char, kPasswordRoom> password{}; ///< zeros behind the password
+};
+
+/// Writes what was checked last: without a password, and without what could not be read.
+struct CopyDocument
+{
+    static constexpr Kind kKind = Kind::CopyDocument;
+    Header header;
+};
+
 // ---- Answers
 
 /// What keeps the renderer in. Limits of memory and privileges are always there.
@@ -149,6 +170,29 @@ struct Closed
     Status status = Status::Done;
 };
 
+struct Checked
+{
+    static constexpr Kind kKind = Kind::Checked;
+    Header header;
+    Status status = Status::Done;
+    std::uint32_t isEncrypted = 0; ///< 1: yes, as in what follows
+    std::uint32_t mayPrint = 0;    ///< whoever has no owner password
+    std::uint32_t isOwner = 0;     ///< the password is the owner's
+    std::uint32_t isDamaged = 0;
+    std::uint32_t pages = 0; ///< that can be read; 0 unless done
+    std::uint32_t lostPages = 0;
+    std::uint32_t detailBytes = 0;
+    std::uint64_t damagedAt = 0; ///< the byte at which the first damage was found; 0: nobody knows
+    std::array<char, kDetailRoom> detail{}; ///< what is wrong, in a library's words: plain ASCII
+};
+
+struct Copied
+{
+    static constexpr Kind kKind = Kind::Copied;
+    Header header;
+    Status status = Status::Done;
+};
+
 inline constexpr std::size_t kLargestMessage = sizeof(Sizes);
 
 // A gap between the fields would carry bytes of one program's memory into the other.
@@ -164,6 +208,10 @@ static_assert(std::has_unique_object_representations_v<Ready>);
 static_assert(std::has_unique_object_representations_v<Opened>);
 static_assert(std::has_unique_object_representations_v<Drawn>);
 static_assert(std::has_unique_object_representations_v<Closed>);
+static_assert(std::has_unique_object_representations_v<CheckDocument>);
+static_assert(std::has_unique_object_representations_v<CopyDocument>);
+static_assert(std::has_unique_object_representations_v<Checked>);
+static_assert(std::has_unique_object_representations_v<Copied>);
 static_assert(kIsPlain<Sizes> && sizeof(Sizes) == sizeof(Header) + 8 + 8 * kSizesAtOnce);
 
 /// A message with its header filled in.

@@ -31,7 +31,8 @@ dialog/text          dialog/text/ dialog/session/ platform/
 dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
 dialog/preview       dialog/preview/ renderer/protocol/ platform/
-dialog/task          dialog/task/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/documents     dialog/documents/ dialog/preview/ dialog/job/ renderer/protocol/ platform/
+dialog/task          dialog/task/ dialog/documents/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/window        dialog/window/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/

@@ -12,6 +12,7 @@ void ScriptedFace::watch(PrintTask &task)
             [this](const TaskRefusal &refusal) { refusals += refusal; });
     connect(&task, &PrintTask::ignored, this,
             [this](const QString &problem) { ignored += problem; });
+    connect(&task, &PrintTask::noted, this, [this](const QString &what) { notes += what; });
     connect(&task, &PrintTask::jobEnded, this,
             [this](const JobOutcome &outcome) { outcomes += outcome; });
 }

@@ -24,6 +24,8 @@ public:
     bool canBeAsked = true;
     bool busy = false;
     Instructions instructionsAre = Instructions::Followed;
+    /// What it answers when a document's password is asked for; then nothing.
+    QStringList documentPasswords;
     /// What happens while the task asks, such as news from a server; may be empty.
     std::function<void()> meanwhile;
 
@@ -33,7 +35,9 @@ public:
     QList<TaskRefusal> refusals;
     QStringList ignored; ///< of lpoptions
     QStringList asked;   ///< files that may be overwritten or not
-    int passwords = 0;   ///< how often one was asked for
+    QStringList notes;   ///< on documents
+    QList<DocumentPasswordQuestion> passwordQuestions;
+    int passwords = 0; ///< how often one was asked for
     QList<JobOutcome> outcomes;
     QList<QList<SummaryLine>> summaries;
     ScriptedAlertPresenter presenter;
@@ -50,6 +54,13 @@ public:
     {
         ++passwords;
         answer(std::nullopt);
+    }
+    void askDocumentPassword(const DocumentPasswordQuestion &question,
+                             const PasswordAnswer &answer) override
+    {
+        passwordQuestions += question;
+        answer(documentPasswords.isEmpty() ? std::nullopt
+                                           : std::optional(documentPasswords.takeFirst()));
     }
     Instructions instructions() const override { return instructionsAre; }
     bool finishEditing() override { return takesWhatIsTyped; }

@@ -1,0 +1,106 @@
+#include "dialog/documents/DocumentChecks.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include "dialog/job/DocumentCopy.h"
+#include "platform/foundation/ForeignText.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(lcDocuments, "corvana.dialog.documents", QtWarningMsg)
+
+DocumentChecks::DocumentChecks(RendererSettings settings, QObject *parent)
+    : QObject(parent), m_settings(std::move(settings))
+{
+}
+
+DocumentChecks::~DocumentChecks() = default;
+
+void DocumentChecks::addPassword(const QString &password)
+{
+    if (!m_passwords.contains(password))
+        m_passwords += password;
+}
+
+void DocumentChecks::check(const QList<Document> &documents)
+{
+    const QHash<QString, Known> before = std::exchange(m_known, {});
+    for (const Document &document : documents) {
+        if (document.format != "application/pdf"_L1 || m_known.contains(document.path))
+            continue;
+        const QFileInfo info(document.path);
+        const auto known = before.find(document.path);
+        if (known != before.end() && known->size == info.size() &&
+            known->time == info.lastModified())
+            m_known.insert(document.path, *known);
+        else
+            look(document, m_passwords);
+    }
+}
+
+void DocumentChecks::look(const Document &document, const QStringList &passwords)
+{
+    if (!m_worker) {
+        m_worker = std::make_unique<DocumentWorker>(
+            m_settings, [this](const DocumentWorker::Found &found) {
+                QMetaObject::invokeMethod(
+                    this, [this, found] { take(found); }, Qt::QueuedConnection);
+            });
+    }
+    const QFileInfo info(document.path);
+    Known &known = m_known[document.path];
+    known.size = info.size();
+    known.time = info.lastModified();
+    known.work = ++m_lastWork;
+    m_worker->look({known.work, document.path, passwords});
+}
+
+bool DocumentChecks::isDone() const
+{
+    return std::none_of(m_known.cbegin(), m_known.cend(),
+                        [](const Known &known) { return known.work != 0; });
+}
+
+DocumentState DocumentChecks::stateOf(const Document &document) const
+{
+    return m_known.value(document.path).state;
+}
+
+void DocumentChecks::unlock(const Document &document, const QString &password)
+{
+    look(document, {password});
+}
+
+Document DocumentChecks::printed(const Document &document) const
+{
+    Document printed = document;
+    if (const Known known = m_known.value(document.path); known.copy) {
+        printed.path = pathOfCopy(*known.copy);
+        printed.copy = known.copy;
+    }
+    return printed;
+}
+
+void DocumentChecks::take(const DocumentWorker::Found &found)
+{
+    const auto known = std::find_if(m_known.begin(), m_known.end(),
+                                    [&](const Known &one) { return one.work == found.number; });
+    if (known == m_known.end())
+        return; // nobody wants to know any more
+    known->work = 0;
+    known->state = found.state;
+    known->copy = found.copy;
+    if (!found.state.details.isEmpty() || found.state.kind == DocumentState::Kind::Unknown)
+        qCInfo(lcDocuments).noquote()
+            << known.key() << "was looked at:" << terminalLine(found.state.details);
+    if (isDone())
+        Q_EMIT changed();
+}
+
+} // namespace corvana

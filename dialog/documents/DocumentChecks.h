@@ -1,0 +1,70 @@
+#pragma once
+
+#include <memory>
+
+#include <QDateTime>
+#include <QHash>
+#include <QObject>
+
+#include "dialog/documents/DocumentState.h"
+#include "dialog/documents/DocumentWorker.h"
+#include "dialog/job/Document.h"
+
+namespace corvana {
+
+/// Looks into documents before anything else does: whether they are protected, forbid printing, or
+/// are damaged. Where a document is printed with a password, or not whole, a copy is made of what
+/// is printed, which lasts as long as somebody holds the document that printed() answers.
+///
+/// What cannot be found out is nothing that stands in the way of printing: the filter chain looks
+/// once more.
+///
+/// Thread: GUI thread; documents are read by a process of its own.
+class DocumentChecks : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentChecks(RendererSettings settings = RendererSettings::shipped(),
+                            QObject *parent = nullptr);
+    ~DocumentChecks() override;
+
+    /// Tried with each document that asks for one, without anybody being asked.
+    void addPassword(const QString &password);
+    /// Looks at those that nobody has looked at, or that are others by now; the rest is forgotten.
+    /// changed() follows where there are any.
+    void check(const QList<Document> &documents);
+    /// Whether all documents of the last check() were looked at.
+    bool isDone() const;
+    /// Kind::Unknown while nobody has looked.
+    DocumentState stateOf(const Document &document) const;
+    /// Looks at a document once more, with a password. changed() follows.
+    void unlock(const Document &document, const QString &password);
+    /// What is printed of a document: itself, or the copy.
+    Document printed(const Document &document) const;
+
+Q_SIGNALS:
+    /// All documents of the last check() were looked at.
+    void changed();
+
+private:
+    struct Known
+    {
+        qint64 size = 0;
+        QDateTime time;
+        int work = 0; // its number while somebody looks
+        DocumentState state;
+        std::shared_ptr<QTemporaryDir> copy;
+    };
+
+    void look(const Document &document, const QStringList &passwords);
+    void take(const DocumentWorker::Found &found);
+
+    RendererSettings m_settings;
+    QHash<QString, Known> m_known; // by path
+    QStringList m_passwords;
+    int m_lastWork = 0;
+    std::unique_ptr<DocumentWorker> m_worker; // once there is a document to be looked at
+};
+
+} // namespace corvana

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include "dialog/documents/DocumentState.h"
+
+namespace corvana {
+
+// What the state of a document means to a person, in sentences that begin with its name.
+
+/// Why it is not printed; empty when it is.
+QString documentProblem(const QString &title, const DocumentState &state);
+/// What will be missing on paper; empty when nothing will.
+QString documentLoss(const QString &title, const DocumentState &state);
+/// What somebody who prints it has to know all the same; empty when there is nothing.
+QString documentNote(const QString &title, const DocumentState &state);
+
+} // namespace corvana

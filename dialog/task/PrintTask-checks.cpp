@@ -1,0 +1,211 @@
+#include "dialog/task/PrintTask.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dialog/documents/DocumentTexts.h"
+#include "platform/foundation/ForeignText.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+using Kind = DocumentState::Kind;
+
+namespace {
+
+// Whether a password would help.
+bool wantsPassword(const DocumentState &state)
+{
+    return state.kind == Kind::Locked || state.kind == Kind::Forbidden;
+}
+
+QString detailsOf(const Document &document, const DocumentState &state)
+{
+    return state.details.isEmpty()
+               ? QString()
+               : u"%1: %2"_s.arg(terminalLine(document.path), terminalLine(state.details));
+}
+
+} // namespace
+
+void PrintTask::documentsLookedAt()
+{
+    if (std::exchange(m_looks.countsThen, false))
+        countSheets();
+    Q_EMIT sheetsCounted();
+    if (m_phase != Phase::Ready)
+        return;
+    sayOfDocuments();
+    if (std::exchange(m_looks.printsThen, false))
+        return print();
+    askForPasswords();
+}
+
+// Once for each of them.
+void PrintTask::sayOfDocuments()
+{
+    QStringList notes;
+    QStringList warnings;
+    QStringList details;
+    for (const Document &document : std::as_const(m_request.documents)) {
+        const DocumentState state = m_looks.documents.stateOf(document);
+        const QString note = documentNote(document.title, state);
+        const QString warning = documentLoss(document.title, state);
+        const QString text = note.isEmpty() ? warning : note;
+        if (text.isEmpty() || m_looks.told.contains(document.path + text))
+            continue;
+        m_looks.told += document.path + text;
+        (note.isEmpty() ? warnings : notes) += text;
+        if (const QString detail = detailsOf(document, state); !detail.isEmpty())
+            details += detail;
+    }
+    for (const QString &note : std::as_const(notes))
+        Q_EMIT noted(note);
+    if (notes.isEmpty() && warnings.isEmpty())
+        return;
+    TaskMessage message;
+    message.kind = warnings.isEmpty() ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem;
+    message.text = (warnings + notes).join(u'\n');
+    message.details = details.join(u'\n');
+    Q_EMIT said(message);
+}
+
+// A script cannot be asked, and has another way to say it.
+QString PrintTask::problemOf(const Document &document) const
+{
+    const DocumentState state = m_looks.documents.stateOf(document);
+    const QString problem = documentProblem(document.title, state);
+    const bool needsHint =
+        wantsPassword(state) && !m_chosen.canBeAnother && !m_request.documentPassword;
+    return needsHint ? tr("%1 %2", "two sentences")
+                           .arg(problem, tr("Give the password with --document-password-file."))
+                     : problem;
+}
+
+TaskRefusal PrintTask::documentProblems() const
+{
+    TaskRefusal refusal;
+    QStringList details;
+    for (const Document &document : m_request.documents) {
+        const QString problem = problemOf(document);
+        if (problem.isEmpty())
+            continue;
+        refusal.problems += problem;
+        const QString detail = detailsOf(document, m_looks.documents.stateOf(document));
+        if (!detail.isEmpty())
+            details += detail;
+    }
+    refusal.details = details.join(u'\n');
+    return refusal;
+}
+
+// Whoever has given one in advance does not sit there.
+bool PrintTask::mayAskForPassword() const
+{
+    return m_face.canAsk() && (m_chosen.canBeAnother || !m_request.documentPassword);
+}
+
+// Whether all can be printed; else that was said, or is asked or waited for, and print() follows.
+bool PrintTask::documentsAreReady()
+{
+    // They may be others by now.
+    m_looks.documents.check(m_request.documents);
+    if (!m_looks.documents.isDone() || m_looks.isAsking) {
+        m_looks.printsThen = true;
+        return false;
+    }
+    for (const Document &document : std::as_const(m_request.documents)) {
+        if (m_looks.documents.stateOf(document).kind != Kind::Locked || !mayAskForPassword())
+            continue;
+        m_looks.printsThen = true;
+        askForPassword(document);
+        return false;
+    }
+    const TaskRefusal refusal = documentProblems();
+    if (!refusal.problems.isEmpty())
+        Q_EMIT refused(refusal);
+    return refusal.problems.isEmpty();
+}
+
+bool PrintTask::documentsCanBeCounted() const
+{
+    return m_looks.documents.isDone() && documentProblems().problems.isEmpty();
+}
+
+bool PrintTask::mayPrintWithoutLostPages()
+{
+    QStringList losses;
+    for (const Document &document : std::as_const(m_request.documents)) {
+        const QString loss = documentLoss(document.title, m_looks.documents.stateOf(document));
+        if (!loss.isEmpty())
+            losses += loss;
+    }
+    return losses.isEmpty() || m_face.mayPrintWithout(losses.join(u'\n'));
+}
+
+// For somebody who sits there, one document after the other.
+void PrintTask::askForPasswords()
+{
+    if (!m_chosen.canBeAnother || !mayAskForPassword() || m_looks.isAsking)
+        return;
+    for (const Document &document : std::as_const(m_request.documents)) {
+        const DocumentState state = m_looks.documents.stateOf(document);
+        if (m_looks.declined.contains(document.path))
+            continue;
+        if (state.kind == Kind::Locked || (state.kind == Kind::Forbidden && state.isPasswordWrong))
+            return askForPassword(document);
+        // Who may not print it learns so at once, and is asked for the owner's password only when
+        // he has it.
+        if (!documentProblem(document.title, state).isEmpty())
+            return passwordDeclined(document);
+    }
+}
+
+void PrintTask::askForPassword(const Document &document)
+{
+    const DocumentState state = m_looks.documents.stateOf(document);
+    m_looks.isAsking = true;
+    m_looks.declined.removeAll(document.path);
+    m_face.askDocumentPassword(
+        {document.title, state.kind == Kind::Forbidden, state.isPasswordWrong},
+        [this, document](const std::optional<QString> &password) {
+            m_looks.isAsking = false;
+            if (!m_request.documents.contains(document))
+                return;
+            if (password)
+                m_looks.documents.unlock(document, *password);
+            else
+                passwordDeclined(document);
+        });
+}
+
+void PrintTask::passwordDeclined(const Document &document)
+{
+    m_looks.declined += document.path;
+    const DocumentState state = m_looks.documents.stateOf(document);
+    const bool wasToBePrinted = std::exchange(m_looks.printsThen, false);
+    TaskMessage message{TaskMessage::Kind::Problem, problemOf(document)};
+    message.details = detailsOf(document, state);
+    if (wantsPassword(state) && mayAskForPassword()) {
+        message.offer = state.kind == Kind::Locked ? tr("Enter the Password…")
+                                                   : tr("Enter the Owner's Password…");
+        message.take = [this, document] {
+            if (!m_looks.isAsking && m_request.documents.contains(document))
+                askForPassword(document);
+        };
+    }
+    Q_EMIT said(message);
+    if (wasToBePrinted)
+        Q_EMIT refused({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
+}
+
+// What was unlocked or repaired is printed instead of the file that was chosen.
+QList<Document> PrintTask::printedDocuments() const
+{
+    QList<Document> printed;
+    for (const Document &document : m_request.documents)
+        printed += m_looks.documents.printed(document);
+    return printed;
+}
+
+} // namespace corvana
