@@ -87,6 +87,13 @@
     </message>
 </context>
 <context>
+    <name>HttpLine</name>
+    <message>
+        <source>The password is sent to “%1” without encryption: others in the network can read it. “-E” encrypts.</source>
+        <translation>パスワードは暗号化されずに「%1」へ送信されます。ネットワーク上の他の人が読み取れます。「-E」を指定すると暗号化されます。</translation>
+    </message>
+</context>
+<context>
     <name>JobAttributes</name>
     <message>
         <source>Pages per Sheet</source>

@@ -87,6 +87,13 @@
     </message>
 </context>
 <context>
+    <name>HttpLine</name>
+    <message>
+        <source>The password is sent to “%1” without encryption: others in the network can read it. “-E” encrypts.</source>
+        <translation>密码将不加密地发送到“%1”：网络中的其他人可以读取它。使用“-E”可加密。</translation>
+    </message>
+</context>
+<context>
     <name>JobAttributes</name>
     <message>
         <source>Pages per Sheet</source>
