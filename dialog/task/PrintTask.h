@@ -244,6 +244,7 @@ private:
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
     void lookForMissingCharacters();
+    QString unknownDocument() const;
     bool isTextCheckOver() const;
     bool mayPrintTexts();
     void awaitTexts();

@@ -1678,6 +1678,10 @@ For the command line: %2</source>
     </message>
 <message>
         <source>There is no job attribute of the name %1.</source>
+    <message>
+        <source>%1 is of a kind that is not known here. Only a queue can pass it on to its printer, as it is, with the option “raw”.</source>
+        <translation>%1 は対応していない種類の文書です。オプション「raw」を付けて、キューからプリンターへそのまま渡すことだけができます。</translation>
+    </message>
         <translation>%1 という名前のジョブ属性はありません。</translation>
     </message>
     <message>

@@ -1678,6 +1678,10 @@ For the command line: %2</source>
     </message>
 <message>
         <source>There is no job attribute of the name %1.</source>
+    <message>
+        <source>%1 is of a kind that is not known here. Only a queue can pass it on to its printer, as it is, with the option “raw”.</source>
+        <translation>%1 是此处无法识别的类型。只有队列可以通过选项“raw”将其原样传给打印机。</translation>
+    </message>
         <translation>没有名为 %1 的作业属性。</translation>
     </message>
     <message>
