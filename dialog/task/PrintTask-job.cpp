@@ -242,6 +242,7 @@ void PrintTask::startJob(const JobTicket &ticket)
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
+        request.sentDocuments = memory.sentDocuments;
         const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
         request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
@@ -306,6 +307,11 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
         memory.earlierDocuments = outcome.documents;
     } else if (outcome.job > 0) {
         memory.earlierJob = 0;
+    }
+    // What failed before anything was asked of a server says nothing of them.
+    if (outcome.documents > 0) {
+        memory.earlierDocuments = outcome.documents;
+        memory.sentDocuments = outcome.sentDocuments;
     }
     // What a script prints to says nothing about what its user opens next.
     if (m_chosen.canBeAnother && outcome.isDone() && outcome.file.isEmpty())
