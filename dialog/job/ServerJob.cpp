@@ -90,17 +90,18 @@ bool ServerJob::laysOutTexts() const
     const bool isRaw = m_request.printer.origin == PrinterOrigin::Queue && m_request.ppd->isWritten;
     const bool takesPages =
         formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
-    return !isRaw && takesPages && hasTextToLayOut(m_request.documents, m_request.ticket.options);
+    return !isRaw && takesPages && hasDocumentToLayOut(m_request.documents, m_request.ticket);
 }
 
-// Texts are made into pages before anything else, with fonts that have their characters: what a
-// print server has is not known, and its filter prints what it lacks as boxes.
+// Texts (and some PostScript) are made into pages before anything else, with fonts that have their
+// characters: what a print server has is not known, and its filter prints what it lacks as boxes.
 void ServerJob::layOutTexts()
 {
     report({JobProgress::Stage::Converting});
-    const QList<JobOption> &options =
-        m_request.chosenOptions.isEmpty() ? m_request.ticket.options : m_request.chosenOptions;
-    m_texts = std::make_unique<TextDocuments>(m_request.documents, options, m_request.ppd->path);
+    JobTicket ticket = m_request.ticket;
+    if (!m_request.chosenOptions.isEmpty())
+        ticket.options = m_request.chosenOptions;
+    m_texts = std::make_unique<TextDocuments>(m_request.documents, ticket, m_request.ppd->path);
     connect(m_texts.get(), &TextDocuments::finished, this, [this](const QString &problem) {
         if (m_canceled)
             return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});

@@ -7,6 +7,7 @@
 
 #include "tests/e2e/QueueRuns.h"
 #include "tests/support/NumberedPdf.h"
+#include "tests/support/PpdBuilder.h"
 #include "tests/support/PrintedSides.h"
 #include "tests/support/TestPaths.h"
 #include "tests/support/cups/IppEvePrinter.h"
@@ -28,6 +29,23 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
     process.start(program, arguments);
     [&] { QVERIFY2(process.waitForFinished(kPatience), qPrintable(program)); }();
     return process.readAllStandardOutput();
+}
+
+// How much of each page each ink covers, the last page first: "0.00000 0.1 0.1 0.00000" of cyan to
+// black.
+QByteArrayList inksOf(const QByteArray &data)
+{
+    QProcess process;
+    process.start(u"gs"_s, {u"-q"_s, u"-o"_s, u"-"_s, u"-sDEVICE=inkcov"_s, u"-"_s});
+    process.write(data);
+    process.closeWriteChannel();
+    [&] { QVERIFY(process.waitForFinished(kPatience)); }();
+    QByteArrayList pages;
+    for (const QByteArray &line : process.readAllStandardOutput().split('\n')) {
+        if (line.contains("CMYK"))
+            pages.prepend(line.simplified().split(' ').mid(0, 4).join(' '));
+    }
+    return pages;
 }
 
 // Where two streams part, for a test that fails.
@@ -238,24 +256,6 @@ private Q_SLOTS:
                  end.text().constData());
     }
 
-    void aRasterFileIsOne()
-    {
-        const QString output = m_runner->filePath(u"result"_s);
-        const RunEnd end =
-            m_runner->run(QStringList{u"--ppd"_s, ppd(kRasterLine), u"--output"_s, output} +
-                          documents(u"three:3 two:2"_s));
-        QVERIFY2(end.status == 0, end.text().constData());
-        QVERIFY(readAll(output).startsWith("RaS2"));
-        QCOMPARE(readAll(output).count("RaS2PwgRaster"), qsizetype(1));
-        QCOMPARE(readAll(output).count("PwgRaster"), qsizetype(5)); // a header a page
-    }
-
-    void aFileOfPostScriptHasThemInARow()
-    {
-        const QString output = m_runner->filePath(u"result.ps"_s);
-        const RunEnd end =
-            m_runner->run(QStringList{u"--ppd"_s, kPpd, u"--output"_s, output, u"-n"_s, u"2"_s} +
-                          documents(u"two:2 one:1"_s));
     void aQueueWithoutADriverGetsAJobForEach()
     {
         m_cups->addRawQueue(u"office"_s);
@@ -310,6 +310,24 @@ private Q_SLOTS:
             QVERIFY(!inksOf(printedWith(u"color"_s)).value(0).startsWith("0.00000 0.00000"));
     }
 
+    void aRasterFileIsOne()
+    {
+        const QString output = m_runner->filePath(u"result"_s);
+        const RunEnd end =
+            m_runner->run(QStringList{u"--ppd"_s, ppd(kRasterLine), u"--output"_s, output} +
+                          documents(u"three:3 two:2"_s));
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY(readAll(output).startsWith("RaS2"));
+        QCOMPARE(readAll(output).count("RaS2PwgRaster"), qsizetype(1));
+        QCOMPARE(readAll(output).count("PwgRaster"), qsizetype(5)); // a header a page
+    }
+
+    void aFileOfPostScriptHasThemInARow()
+    {
+        const QString output = m_runner->filePath(u"result.ps"_s);
+        const RunEnd end =
+            m_runner->run(QStringList{u"--ppd"_s, kPpd, u"--output"_s, output, u"-n"_s, u"2"_s} +
+                          documents(u"two:2 one:1"_s));
         QVERIFY2(end.status == 0, end.text().constData());
         QCOMPARE(sidesOf(readAll(output)), u"two1 | two2 | one1 | two1 | two2 | one1"_s);
     }
