@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "dialog/job/CupsFilter.h"
 #include "dialog/session/JobAttributes.h"
@@ -22,6 +23,8 @@ constexpr auto kPdf = "application/pdf"_L1;
 constexpr auto kLaidOutPdf = "application/vnd.cups-pdf"_L1;
 // Of how many pages of a document the sizes are looked at.
 constexpr int kMostDescribed = 10000;
+// The sides are kept as long as they are shown, in a folder that may be in memory.
+constexpr qint64 kMostBytesKept = qint64(512) << 20;
 
 // The pages of these have sizes of their own; the others are made for the paper.
 bool hasSizes(const Document &document)
@@ -203,8 +206,13 @@ void DocumentCount::keepSides(const PdfPages &sides)
     m_sheets.sides = sides.count;
     m_rotation = sides.pages.isEmpty() ? 0 : sides.pages.constFirst().rotation;
     const QString path = sidesPath();
-    m_sheets.laidOut =
-        std::make_shared<LaidOutDocument>(std::move(m_sides), path, sides.count, sides.pages);
+    if (QFileInfo(path).size() > kMostBytesKept) {
+        m_sheets.trouble = DocumentSheets::Trouble::TooLarge;
+        m_sides.reset();
+    } else {
+        m_sheets.laidOut =
+            std::make_shared<LaidOutDocument>(std::move(m_sides), path, sides.count, sides.pages);
+    }
     if (sides.count > 0 && !m_isLaidOut)
         return layOutProbe();
     m_sheets.turns = QList<int>(sides.count, m_pictureTurn);

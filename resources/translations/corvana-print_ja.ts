@@ -1736,6 +1736,18 @@ For the command line: %2</source>
         <source>A PDF file is saved once: there are no copies of it.</source>
         <translation>PDF ファイルは 1 つだけ保存されます。部数は指定できません。</translation>
     </message>
+<message>
+        <source>No document has been chosen.</source>
+        <translation>文書が選択されていません。</translation>
+    </message>
+    <message>
+        <source>There is a preview once the printer is known.</source>
+        <translation>プリンターが決まるとプレビューが表示されます。</translation>
+    </message>
+    <message>
+        <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
+        <translation>ファイルはそのままプリンターに渡されます。何が印刷されるかはここではわかりません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1949,7 +1961,11 @@ For the command line: %2</source>
         <source>There are too many copies to send them in sets. Their order is: %1.</source>
         <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
     </message>
-</context>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
+    </message>
+    </context>
 <context>
     <name>corvana::SettingsPages</name>
     <message>
@@ -2163,6 +2179,18 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>印刷される大きさ</translation>
+    </message>
+<message>
+        <source>“%1” takes too long to be shown. It can be printed without a preview.</source>
+        <translation>「%1」の表示には時間がかかりすぎます。プレビューなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be shown. It can be printed without a preview.</source>
+        <translation>「%1」は大きすぎて表示できません。プレビューなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
+        <translation>「%1」をページに配置できなかったため、プレビューはありません。それでも印刷できることがあります。</translation>
     </message>
 </context>
 <context>

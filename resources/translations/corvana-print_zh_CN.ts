@@ -1736,6 +1736,18 @@ For the command line: %2</source>
         <source>A PDF file is saved once: there are no copies of it.</source>
         <translation>PDF 文件只保存一次，没有份数。</translation>
     </message>
+<message>
+        <source>No document has been chosen.</source>
+        <translation>尚未选择文档。</translation>
+    </message>
+    <message>
+        <source>There is a preview once the printer is known.</source>
+        <translation>确定打印机后会显示预览。</translation>
+    </message>
+    <message>
+        <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
+        <translation>文件会原样传送到打印机。这里无法得知打印结果。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1949,7 +1961,11 @@ For the command line: %2</source>
         <source>There are too many copies to send them in sets. Their order is: %1.</source>
         <translation>份数过多，无法按套发送。顺序为：%1。</translation>
     </message>
-</context>
+<message>
+        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
+        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
+    </message>
+    </context>
 <context>
     <name>corvana::SettingsPages</name>
     <message>
@@ -2163,6 +2179,18 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>打印大小</translation>
+    </message>
+<message>
+        <source>“%1” takes too long to be shown. It can be printed without a preview.</source>
+        <translation>显示“%1”所需时间过长。可以在没有预览的情况下打印。</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be shown. It can be printed without a preview.</source>
+        <translation>“%1”太大，无法显示。可以在没有预览的情况下打印。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
+        <translation>无法对“%1”进行排版，因此没有预览。仍有可能打印成功。</translation>
     </message>
 </context>
 <context>
