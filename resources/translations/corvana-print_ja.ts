@@ -1583,6 +1583,14 @@
         <source>Dismiss this message</source>
         <translation>このメッセージを閉じる</translation>
     </message>
+<message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Show all of this message</source>
+        <translation>メッセージ全体を表示</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsModel</name>
@@ -1747,6 +1755,10 @@ For the command line: %2</source>
     <message>
         <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
         <translation>ファイルはそのままプリンターに渡されます。何が印刷されるかはここではわかりません。</translation>
+    </message>
+<message>
+        <source>Choose a document to print.</source>
+        <translation>印刷する文書を選択してください。</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2318,235 @@ For the command line: %2</source>
     <message>
         <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
         <translation>PDF ファイルは保留も印刷もされません。%1 は実行できません。</translation>
+    </message>
+</context>
+<context>
+    <name>JobNames</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SheetView</name>
+    <message>
+        <source>cover sheet</source>
+        <translation>カバーシート</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>白紙</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>印刷あり</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>%L1 back</source>
+        <translation>%L1 裏</translation>
+    </message>
+    <message>
+        <source>%L1 front</source>
+        <translation>%L1 表</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 の %1</translation>
+    </message>
+    <message>
+        <source>Sheet %L1: %2</source>
+        <translation>%L1 枚目: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, back: %2</source>
+        <translation>%L1 枚目の裏: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, front: %2</source>
+        <translation>%L1 枚目の表: %2</translation>
+    </message>
+    <message>
+        <source>%1, landscape</source>
+        <translation>%1、横向き</translation>
+    </message>
+    <message>
+        <source>Bound at the left edge</source>
+        <translation>左端でとじます</translation>
+    </message>
+    <message>
+        <source>Bound at the top edge</source>
+        <translation>上端でとじます</translation>
+    </message>
+    <message>
+        <source>Bound at the right edge</source>
+        <translation>右端でとじます</translation>
+    </message>
+    <message>
+        <source>Bound at the bottom edge</source>
+        <translation>下端でとじます</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ColorsRow</name>
+    <message>
+        <source>Hold to Compare</source>
+        <translation>押して比較</translation>
+    </message>
+    <message>
+        <source>While it is held, the document is shown as it is, without adjustments.</source>
+        <translation>押している間は、調整していない元の文書を表示します。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CountsRow</name>
+    <message>
+        <source>Sheets</source>
+        <translation>枚数</translation>
+    </message>
+    <message>
+        <source>Show Preview</source>
+        <translation>プレビューを表示</translation>
+    </message>
+    <message>
+        <source>Hide Preview</source>
+        <translation>プレビューを隠す</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::DocumentArea</name>
+    <message>
+        <source>Print this document earlier</source>
+        <translation>この文書を前に印刷</translation>
+    </message>
+    <message>
+        <source>Print this document later</source>
+        <translation>この文書を後に印刷</translation>
+    </message>
+    <message>
+        <source>Do not print this document</source>
+        <translation>この文書を印刷しない</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Print further documents in the same job</source>
+        <translation>ほかの文書も同じジョブで印刷</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Documents in the order in which they are printed</source>
+        <translation>印刷する順に並んだ文書</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents, printed in this order:</source>
+        <translation>
+            <numerusform>%n 個の文書をこの順に印刷:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書を選択</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPane</name>
+    <message>
+        <source>Counting the sheets…</source>
+        <translation>枚数を数えています…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPlaceholder</name>
+    <message>
+        <source>Choose &amp;Documents…</source>
+        <translation>文書を選択(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Drop documents here to print them.</source>
+        <translation>印刷する文書をここにドロップしてください。</translation>
+    </message>
+    <message>
+        <source>PDF, PostScript, text, PNG and JPEG; several are one job.</source>
+        <translation>PDF、PostScript、テキスト、PNG、JPEG。複数の文書は 1 つのジョブになります。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SheetView</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Preview. %1</source>
+        <translation>プレビュー。%1</translation>
+    </message>
+    <message>
+        <source>Cover sheet of the queue: %1</source>
+        <translation>キューのカバーシート: %1</translation>
+    </message>
+    <message>
+        <source>Updating…</source>
+        <translation>更新しています…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SheetsRow</name>
+    <message>
+        <source>Sheet %L1 of %L2</source>
+        <translation>%L1 / %L2 枚</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskPreview</name>
+    <message>
+        <source>It can be printed all the same.</source>
+        <translation>プレビューがなくても印刷できます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ZoomControl</name>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Size of the sheets</source>
+        <translation>表示の大きさ</translation>
+    </message>
+    <message>
+        <source>Fit Page</source>
+        <translation>ページ全体</translation>
+    </message>
+    <message>
+        <source>Fit Width</source>
+        <translation>幅に合わせる</translation>
+    </message>
+    <message>
+        <source>%L1 %</source>
+        <translation>%L1 %</translation>
     </message>
 </context>
 </TS>

@@ -1583,6 +1583,14 @@
         <source>Dismiss this message</source>
         <translation>关闭此消息</translation>
     </message>
+<message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>Show all of this message</source>
+        <translation>显示完整消息</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsModel</name>
@@ -1747,6 +1755,10 @@ For the command line: %2</source>
     <message>
         <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
         <translation>文件会原样传送到打印机。这里无法得知打印结果。</translation>
+    </message>
+<message>
+        <source>Choose a document to print.</source>
+        <translation>请选择要打印的文档。</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2318,235 @@ For the command line: %2</source>
     <message>
         <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
         <translation>PDF 文件既不会被保留也不会被打印：无法执行 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>JobNames</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 等另外 %n 个</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SheetView</name>
+    <message>
+        <source>cover sheet</source>
+        <translation>封面页</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>有内容</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>%L1 back</source>
+        <translation>%L1 背面</translation>
+    </message>
+    <message>
+        <source>%L1 front</source>
+        <translation>%L1 正面</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 的%1</translation>
+    </message>
+    <message>
+        <source>Sheet %L1: %2</source>
+        <translation>第 %L1 张：%2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, back: %2</source>
+        <translation>第 %L1 张背面：%2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, front: %2</source>
+        <translation>第 %L1 张正面：%2</translation>
+    </message>
+    <message>
+        <source>%1, landscape</source>
+        <translation>%1，横向</translation>
+    </message>
+    <message>
+        <source>Bound at the left edge</source>
+        <translation>在左边装订</translation>
+    </message>
+    <message>
+        <source>Bound at the top edge</source>
+        <translation>在上边装订</translation>
+    </message>
+    <message>
+        <source>Bound at the right edge</source>
+        <translation>在右边装订</translation>
+    </message>
+    <message>
+        <source>Bound at the bottom edge</source>
+        <translation>在下边装订</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ColorsRow</name>
+    <message>
+        <source>Hold to Compare</source>
+        <translation>按住对比</translation>
+    </message>
+    <message>
+        <source>While it is held, the document is shown as it is, without adjustments.</source>
+        <translation>按住时显示未经调整的原文档。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CountsRow</name>
+    <message>
+        <source>Sheets</source>
+        <translation>张数</translation>
+    </message>
+    <message>
+        <source>Show Preview</source>
+        <translation>显示预览</translation>
+    </message>
+    <message>
+        <source>Hide Preview</source>
+        <translation>隐藏预览</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::DocumentArea</name>
+    <message>
+        <source>Print this document earlier</source>
+        <translation>提前打印此文档</translation>
+    </message>
+    <message>
+        <source>Print this document later</source>
+        <translation>延后打印此文档</translation>
+    </message>
+    <message>
+        <source>Do not print this document</source>
+        <translation>不打印此文档</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Print further documents in the same job</source>
+        <translation>在同一作业中打印其他文档</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>添加…</translation>
+    </message>
+    <message>
+        <source>Documents in the order in which they are printed</source>
+        <translation>按打印顺序排列的文档</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents, printed in this order:</source>
+        <translation>
+            <numerusform>%n 个文档，按此顺序打印：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>选择要打印的文档</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPane</name>
+    <message>
+        <source>Counting the sheets…</source>
+        <translation>正在计算张数…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPlaceholder</name>
+    <message>
+        <source>Choose &amp;Documents…</source>
+        <translation>选择文档(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Drop documents here to print them.</source>
+        <translation>将要打印的文档拖放到此处。</translation>
+    </message>
+    <message>
+        <source>PDF, PostScript, text, PNG and JPEG; several are one job.</source>
+        <translation>PDF、PostScript、文本、PNG 和 JPEG；多个文档合为一个作业。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SheetView</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Preview. %1</source>
+        <translation>预览。%1</translation>
+    </message>
+    <message>
+        <source>Cover sheet of the queue: %1</source>
+        <translation>队列的封面页：%1</translation>
+    </message>
+    <message>
+        <source>Updating…</source>
+        <translation>正在更新…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SheetsRow</name>
+    <message>
+        <source>Sheet %L1 of %L2</source>
+        <translation>第 %L1 张，共 %L2 张</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskPreview</name>
+    <message>
+        <source>It can be printed all the same.</source>
+        <translation>没有预览也可以打印。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ZoomControl</name>
+    <message>
+        <source>Smaller</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Size of the sheets</source>
+        <translation>显示大小</translation>
+    </message>
+    <message>
+        <source>Fit Page</source>
+        <translation>适合页面</translation>
+    </message>
+    <message>
+        <source>Fit Width</source>
+        <translation>适合宽度</translation>
+    </message>
+    <message>
+        <source>%L1 %</source>
+        <translation>%L1 %</translation>
     </message>
 </context>
 </TS>
