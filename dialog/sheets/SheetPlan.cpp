@@ -37,18 +37,6 @@ QString valueOf(const QList<JobOption> &options, QLatin1StringView name)
     return value;
 }
 
-// The pages of a document that are printed, from 1 on.
-QList<int> pagesInOrder(const DocumentSheets &document, const PageChoice &choice)
-{
-    QList<int> pages;
-    const QList<bool> isPrinted = printedPages(document.pages.value_or(0), choice);
-    for (int page = 0; page < isPrinted.size(); ++page) {
-        if (isPrinted.at(page))
-            pages += page + 1;
-    }
-    return pages;
-}
-
 // The turn of most pages; of the first ones where as many are turned otherwise.
 int turnOf(const QList<int> &pages, const QList<int> &turns)
 {
@@ -71,7 +59,7 @@ class DocumentSides
 public:
     DocumentSides(int index, const DocumentSheets &document, const SheetArrangement &arrangement)
         : m_index(index), m_document(document), m_arrangement(arrangement),
-          m_pages(pagesInOrder(document, arrangement.choice))
+          m_pages(pagesInOrder(arrangement.choice, document.pages.value_or(0)))
     {
     }
 
@@ -86,10 +74,8 @@ public:
         QList<PlannedSide> sides;
         for (int i = 0; i < count; ++i) {
             const int place = m_arrangement.isReversed ? count - 1 - i : i;
-            const bool isBlank = isKnown && place >= withPages;
-            sides += isBlank
-                         ? blank()
-                         : side(i, isKnown ? m_pages.mid(place * perSide, perSide) : QList<int>());
+            const QList<int> pages = isKnown ? pagesAt(place * perSide, perSide) : QList<int>();
+            sides += isKnown && pages.isEmpty() ? blank() : side(i, pages);
         }
         return sides;
     }
@@ -108,6 +94,16 @@ private:
     const DocumentSheets &m_document;
     const SheetArrangement &m_arrangement;
     QList<int> m_pages;
+
+    // What a person reads there: without the blank pages of a booklet, and a page that is repeated
+    // once.
+    QList<int> pagesAt(qsizetype first, qsizetype number) const
+    {
+        QList<int> pages = m_pages.mid(first, number);
+        pages.removeAll(0);
+        pages.erase(std::unique(pages.begin(), pages.end()), pages.end());
+        return pages;
+    }
 
     PlannedSide side(int laidOutPage, const QList<int> &pages) const
     {
@@ -170,7 +166,8 @@ SheetArrangement sheetArrangement(const QList<JobOption> &options, const LayoutT
 {
     SheetArrangement arrangement;
     arrangement.choice = pageChoiceOf(options);
-    arrangement.pagesPerSide = std::max(1, valueOf(options, "number-up"_L1).toInt());
+    arrangement.pagesPerSide =
+        std::max(1, valueOf(withPagesOfOrder(options), "number-up"_L1).toInt());
     arrangement.isReversed = traits.isReversed;
     arrangement.paper = traits.paper;
     if (traits.isTwoSided)

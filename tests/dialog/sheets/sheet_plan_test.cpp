@@ -43,6 +43,8 @@ struct Planned
 };
 constexpr auto kLong = Binding::LongEdge;
 const PageChoice kOdd{{}, PageChoice::Set::Odd};
+const PageChoice kBooklet{.booklet = PageChoice::Booklet::Left};
+const PageChoice kTwice{.repetitions = 2};
 const Planned kPlans[] = {
     {"one-sided", 3, 3, {}, u"1 2 3"_s},
     {"two-sided", 3, 3, {{}, 1, false, kLong}, u"1|2 3"_s},
@@ -57,6 +59,10 @@ const Planned kPlans[] = {
     {"a range, two on a side", 9, 2, {{u"2-3,7"_s}, 2}, u"2+3 7"_s},
     {"odd pages", 5, 3, {kOdd}, u"1 3 5"_s},
     {"odd pages, two-sided", 5, 4, {kOdd, 1, false, kLong}, u"1|3 5|-"_s},
+    {"a booklet", 8, 4, {kBooklet, 2, false, Binding::ShortEdge}, u"8+1|2+7 6+3|4+5"_s},
+    {"a booklet with blank pages", 5, 4, {kBooklet, 2, false, Binding::ShortEdge}, u"1|2 3|4+5"_s},
+    {"a booklet of one page", 1, 2, {kBooklet, 2, false, Binding::ShortEdge}, u"1|-"_s},
+    {"each page twice on a side", 2, 2, {kTwice, 2}, u"1 2"_s},
     {"another number of sides than anybody knows", 5, 9, {}, u"? ? ? ? ? ? ? ? ?"_s},
     {"fewer sides than pages", 5, 2, {}, u"? ?"_s},
     {"nothing comes out", 5, 0, {}, u""_s},
@@ -84,6 +90,8 @@ const Arranged kArrangements[] = {
      {{}, 1, false, Binding::ShortEdge}},
     {"an option that the printer has no use for", {{u"Duplex"_s, u"DuplexTumble"_s}}, false, {}},
     {"pages on a side", {{u"number-up"_s, u"4"_s}}, false, {{}, 4}},
+    {"a booklet", {{u"booklet"_s, u"left"_s}}, false, {kBooklet, 2}},
+    {"each page twice", {{u"repeat"_s, u"2"_s}}, false, {kTwice, 2}},
     {"one cover",
      {{u"job-sheets"_s, u"standard,none"_s}},
      false,
