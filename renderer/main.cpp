@@ -3,13 +3,17 @@
 // protocol/Messages.h), and of no use to anybody else.
 
 #include <cstdio>
+#include <optional>
 
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 
 #include <poppler-global.h>
 
+#include "renderer/Fonts.h"
 #include "renderer/Service.h"
+#include "renderer/lock/Lock.h"
 #include "renderer/protocol/MessageSocket.h"
 
 using namespace corvana::renderer;
@@ -17,6 +21,7 @@ using namespace corvana::renderer;
 namespace {
 
 constexpr int kSocket = 3;
+constexpr int kHurry = 10; ///< milliseconds
 
 bool isSocket(int descriptor)
 {
@@ -24,6 +29,12 @@ bool isSocket(int descriptor)
     socklen_t size = sizeof(type);
     return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0 &&
            type == SOCK_SEQPACKET;
+}
+
+bool hasRequestWithin(int milliseconds)
+{
+    pollfd socket{kSocket, POLLIN, 0};
+    return ::poll(&socket, 1, milliseconds) > 0;
 }
 
 } // namespace
@@ -38,8 +49,15 @@ int main()
     // What is wrong with a document is of no use to anyone in Poppler's words.
     poppler::set_debug_error_function([](const std::string &, void *) {}, nullptr);
 
+    const Locks locks = lockIn(kSocket, prepareFonts());
     auto ready = made<Ready>(0);
+    ready.filtersCalls = locks.filtersCalls ? 1 : 0;
+    ready.fencesFiles = static_cast<std::uint32_t>(locks.fencesFiles);
     if (!sendMessage(kSocket, ready))
         return 1;
+    // Somebody who is in a hurry has sent a request already, and is served first.
+    std::optional<WarmFonts> fonts;
+    if (!hasRequestWithin(kHurry))
+        fonts.emplace();
     return Service(kSocket).run() ? 0 : 1;
 }

@@ -21,7 +21,7 @@ QString pageTroubleText(PageTrouble trouble)
     case PageTrouble::Damaged:
         return Texts::tr("This page cannot be shown: it is damaged.");
     case PageTrouble::TooLarge:
-        return Texts::tr("This page cannot be shown: it needs too much memory.");
+        return Texts::tr("This page cannot be shown: it is too large.");
     case PageTrouble::TakesTooLong:
         return Texts::tr("This page cannot be shown: drawing it takes too long.");
     case PageTrouble::PasswordNeeded:

@@ -2414,4 +2414,31 @@ For the command line: %2</source>
         <translation>「%1: %2」は表示に反映されません。</translation>
     </message>
 </context>
+<context>
+    <name>PageTrouble</name>
+    <message>
+        <source>This page cannot be shown: it is damaged.</source>
+        <translation>このページは壊れているため表示できません。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: it is too large.</source>
+        <translation>このページは大きすぎるため表示できません。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: drawing it takes too long.</source>
+        <translation>このページは描画に時間がかかりすぎるため表示できません。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: the document is protected by a password.</source>
+        <translation>文書がパスワードで保護されているため、このページは表示できません。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: the file cannot be read.</source>
+        <translation>ファイルを読み込めないため、このページは表示できません。</translation>
+    </message>
+    <message>
+        <source>Pages cannot be shown: the program that draws them does not run.</source>
+        <translation>ページを描画するプログラムが動作しないため、ページを表示できません。</translation>
+    </message>
+</context>
 </TS>

@@ -2414,4 +2414,31 @@ For the command line: %2</source>
         <translation>“%1：%2”未在预览中体现。</translation>
     </message>
 </context>
+<context>
+    <name>PageTrouble</name>
+    <message>
+        <source>This page cannot be shown: it is damaged.</source>
+        <translation>此页已损坏，无法显示。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: it is too large.</source>
+        <translation>此页过大，无法显示。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: drawing it takes too long.</source>
+        <translation>绘制此页所需时间过长，无法显示。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: the document is protected by a password.</source>
+        <translation>文档受密码保护，无法显示此页。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown: the file cannot be read.</source>
+        <translation>无法读取文件，因此无法显示此页。</translation>
+    </message>
+    <message>
+        <source>Pages cannot be shown: the program that draws them does not run.</source>
+        <translation>绘制页面的程序未运行，无法显示页面。</translation>
+    </message>
+</context>
 </TS>
