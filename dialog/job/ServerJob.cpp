@@ -157,7 +157,11 @@ void ServerJob::convertForQueue()
     if (documents.constFirst().format == kRawFormat)
         return send(documents, m_request.ticket);
     const bool isRaw = m_request.ppd->isWritten;
-    const bool picks = mustPickPages(m_request.ticket.options);
+    const bool picks =
+        mustPickPages(m_request.ticket.options) ||
+        (!isRaw && std::any_of(documents.cbegin(), documents.cend(), [this](const Document &one) {
+            return mustBecomePdf(one, m_request.ticket.options);
+        }));
     if (const QString problem = isRaw ? problemOfRawQueue() : QString(); !problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
     const PpdStream stream = isRaw ? PpdStream() : streamOfPpd(m_request.ppd->path);

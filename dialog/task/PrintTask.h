@@ -285,6 +285,7 @@ private:
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;
+    bool putsDocumentsTogether() const;
     QList<SummaryLine> withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const;
     QList<SummaryLine> summaryOfSettings();
     void countBeforeJob();

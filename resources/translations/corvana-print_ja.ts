@@ -1848,6 +1848,18 @@ For the command line: %2</source>
         <source>Choose a document to print.</source>
         <translation>印刷する文書を選択してください。</translation>
     </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>文書が選択されていません。</translation>
+    </message>
+    <message>
+        <source>There is a preview once the printer is known.</source>
+        <translation>プリンターが決まるとプレビューが表示されます。</translation>
+    </message>
+    <message>
+        <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
+        <translation>ファイルはそのままプリンターに渡されます。何が印刷されるかはここではわかりません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2331,6 +2343,18 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>印刷される大きさ</translation>
+    </message>
+    <message>
+        <source>“%1” takes too long to be shown. It can be printed without a preview.</source>
+        <translation>「%1」の表示には時間がかかりすぎます。プレビューなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be shown. It can be printed without a preview.</source>
+        <translation>「%1」は大きすぎて表示できません。プレビューなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
+        <translation>「%1」をページに配置できなかったため、プレビューはありません。それでも印刷できることがあります。</translation>
     </message>
 </context>
 <context>

@@ -1848,6 +1848,18 @@ For the command line: %2</source>
         <source>Choose a document to print.</source>
         <translation>请选择要打印的文档。</translation>
     </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>尚未选择文档。</translation>
+    </message>
+    <message>
+        <source>There is a preview once the printer is known.</source>
+        <translation>确定打印机后会显示预览。</translation>
+    </message>
+    <message>
+        <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
+        <translation>文件会原样传送到打印机。这里无法得知打印结果。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2331,6 +2343,18 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>打印大小</translation>
+    </message>
+    <message>
+        <source>“%1” takes too long to be shown. It can be printed without a preview.</source>
+        <translation>显示“%1”所需时间过长。可以在没有预览的情况下打印。</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be shown. It can be printed without a preview.</source>
+        <translation>“%1”太大，无法显示。可以在没有预览的情况下打印。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
+        <translation>无法对“%1”进行排版，因此没有预览。仍有可能打印成功。</translation>
     </message>
 </context>
 <context>

@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY(counted.wait(kSheetsPatience));
         const SheetPreview preview = task.sheetPreview();
         QCOMPARE(preview.state, SheetPreview::State::None);
-        QVERIFY2(preview.reason.contains(u"“document0.pdf” could not be laid out here"_s),
+        QVERIFY2(preview.reason.contains(u"“document0.pdf” could not be laid out"_s),
                  qPrintable(preview.reason));
         QVERIFY(preview.plan.sheets.isEmpty());
     }
