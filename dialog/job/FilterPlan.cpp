@@ -149,7 +149,7 @@ private:
         QList<JobOption> options = chainOptions();
         if (m_picks)
             options.removeIf(isOfPageChoice);
-        return options;
+        return withoutPageOrder(options);
     }
 
     // What a step reads of former ones. A document itself is none of them.
@@ -206,7 +206,7 @@ private:
         FilterStep step;
         step.writes = FilterStep::Writes::FileOfItsOwn;
         step.yields = FilterStep::Yields::PerhapsNothing;
-        step.pick = PagePick{m_choice, document.path, count.path};
+        step.pick = PagePick{m_choice, document.path, count.path, m_places.blankPage};
         runQpdf({document.path, u"--pages"_s, kPickedPages, u"--"_s, output.path}, output, step);
     }
 

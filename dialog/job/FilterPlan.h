@@ -43,6 +43,7 @@ struct PagePick
     PageChoice choice;
     QString document; ///< a PDF
     QString counted;  ///< path of the file with the number of its pages
+    QString blank{};  ///< path of a PDF of an empty page
 
     bool operator==(const PagePick &) const = default;
 };
@@ -87,6 +88,9 @@ struct FilterPlaces
     QString folder; ///< for what stands between the documents and the result
     /// Whether what becomes of two documents can stand one after the other in a file.
     bool resultsCanFollow = true;
+    /// A PDF of one empty page, for booklets. It is smaller than any page, since the chain looks at
+    /// all of them before it scales any.
+    QString blankPage{};
 };
 
 FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &places);

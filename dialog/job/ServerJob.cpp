@@ -30,13 +30,7 @@ bool isAppliedByChain(const JobOption &option)
 // A value that asks for nothing but what is done anyway.
 bool asksForNothing(const JobOption &option, int copies)
 {
-    if (copies == 1 && option.name == "collate"_L1)
-        return true;
-    const JobAttribute *attribute = jobAttribute(option.name);
-    const QStringList values = option.value.split(u','); // before and behind the job
-    return attribute && !attribute->usual.isEmpty() &&
-           std::all_of(values.cbegin(), values.cend(),
-                       [&](const QString &value) { return value == attribute->usual; });
+    return (copies == 1 && option.name == "collate"_L1) || corvana::asksForNothing(option);
 }
 
 } // namespace
@@ -311,6 +305,7 @@ void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
     report({JobProgress::Stage::Sending});
     ServerJobRequest request = m_request;
     request.ticket = ticket;
+    request.ticket.options = withoutPageOrder(ticket.options); // nobody else knows them
     const int times = repetitionsOf(ticket, static_cast<int>(documents.size()));
     QList<Document> all;
     for (int i = 0; i < times; ++i)

@@ -488,6 +488,22 @@
         <source>%1 to %2</source>
         <translation>%1～%2</translation>
     </message>
+    <message>
+        <source>Bound at the Left</source>
+        <translation>左とじ</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右とじ</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>冊子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>同じページの 1 面あたりの回数</translation>
+    </message>
 </context>
 <context>
     <name>JobNames</name>
@@ -615,8 +631,8 @@
 <context>
     <name>PrinterFetching</name>
     <message>
-        <source>PostScript File</source>
-        <translation>PostScript ファイル</translation>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
     </message>
 </context>
 <context>
@@ -1860,6 +1876,10 @@ For the command line: %2</source>
         <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
         <translation>ファイルはそのままプリンターに渡されます。何が印刷されるかはここではわかりません。</translation>
     </message>
+    <message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF ファイルは 1 つだけ保存されます。部数は指定できません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2234,6 +2254,14 @@ For the command line: %2</source>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
     </message>
+    <message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>冊子は各面に 2 ページを独自の順序で配置します。%1 は併用できません。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>各ページが 1 つの面に %1 回配置されます。%2 は併用できません。</translation>
+    </message>
 </context>
 <context>
     <name>ResultPages</name>
@@ -2463,6 +2491,13 @@ For the command line: %2</source>
     <message>
         <source>Pages cannot be shown: the program that draws them does not run.</source>
         <translation>ページを描画するプログラムが動作しないため、ページを表示できません。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF ファイルは保留も印刷もされません。%1 は実行できません。</translation>
     </message>
 </context>
 </TS>

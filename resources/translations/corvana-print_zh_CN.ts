@@ -488,6 +488,22 @@
         <source>%1 to %2</source>
         <translation>%1 至 %2</translation>
     </message>
+    <message>
+        <source>Bound at the Left</source>
+        <translation>左侧装订</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右侧装订</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>每面重复同一页的次数</translation>
+    </message>
 </context>
 <context>
     <name>JobNames</name>
@@ -615,8 +631,8 @@
 <context>
     <name>PrinterFetching</name>
     <message>
-        <source>PostScript File</source>
-        <translation>PostScript 文件</translation>
+        <source>Save as PDF</source>
+        <translation>另存为 PDF</translation>
     </message>
 </context>
 <context>
@@ -1860,6 +1876,10 @@ For the command line: %2</source>
         <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
         <translation>文件会原样传送到打印机。这里无法得知打印结果。</translation>
     </message>
+    <message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF 文件只保存一次，没有份数。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2234,6 +2254,14 @@ For the command line: %2</source>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
+    <message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>小册子每面有两页，并有自己的顺序：无法同时执行 %1。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>每页在一面上重复 %1 次：无法同时执行 %2。</translation>
+    </message>
 </context>
 <context>
     <name>ResultPages</name>
@@ -2463,6 +2491,13 @@ For the command line: %2</source>
     <message>
         <source>Pages cannot be shown: the program that draws them does not run.</source>
         <translation>绘制页面的程序未运行，无法显示页面。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF 文件既不会被保留也不会被打印：无法执行 %1。</translation>
     </message>
 </context>
 </TS>
