@@ -166,8 +166,14 @@ void PrintWindow::orderFocus()
     QList<QWidget *> behind = m_preview->focusOrder();
     behind += m_message->focusOrder();
     behind += m_footer->buttons();
-    for (QWidget *widget : std::as_const(behind))
-        setTabOrder(previousInFocusChain(), widget);
+    QWidget *before = previousInFocusChain();
+    // What never has the focus is left where it is, and so is what is put behind it.
+    while (before != this && (before->focusPolicy() == Qt::NoFocus || behind.contains(before)))
+        before = before->previousInFocusChain();
+    for (QWidget *widget : std::as_const(behind)) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
 }
 
 PrintWindow::Taken PrintWindow::taken() const

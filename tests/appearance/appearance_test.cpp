@@ -132,6 +132,8 @@ private Q_SLOTS:
         savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
         const QString faults = faultsOf(&dialog);
         QApplication::setLayoutDirection(Qt::LeftToRight);
+        if (shape == "folded"_L1)
+            window.child<QToolButton>(u"foldPreview"_s)->click(); // which is remembered
         QCOMPARE(faults, QString());
     }
 

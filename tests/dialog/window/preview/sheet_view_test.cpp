@@ -287,6 +287,19 @@ private Q_SLOTS:
         QCOMPARE(m_view->current(), SideIndex{9});
     }
 
+    void whatIsFittedNeedsNoBars()
+    {
+        show(sheetsOfPages(4, true));
+        // From a view with a bar to one that has room for everything.
+        for (const QSize size : {QSize(400, 300), QSize(330, 620), QSize(500, 200), QSize(330, 900)}) {
+            m_view->resize(size);
+            QCoreApplication::processEvents();
+            QCOMPARE(m_view->horizontalScrollBar()->maximum(), 0);
+        }
+        QCOMPARE(m_view->verticalScrollBar()->maximum(), 0);
+        QVERIFY(!m_view->verticalScrollBar()->isVisible());
+    }
+
     void oldSheetsAreDimmedOnlyWhenTheNewOnesTakeLong()
     {
         show(sheetsOfPages(3));
