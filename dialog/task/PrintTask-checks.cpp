@@ -30,9 +30,10 @@ QString detailsOf(const Document &document, const DocumentState &state)
 
 void PrintTask::documentsLookedAt()
 {
-    if (std::exchange(m_looks.countsThen, false))
+    if (std::exchange(m_looks.countsThen, false) && documentsCanBeCounted())
         countSheets();
-    Q_EMIT sheetsCounted();
+    else
+        Q_EMIT sheetsCounted(); // why there are none
     if (m_phase != Phase::Ready)
         return;
     sayOfDocuments();
@@ -44,12 +45,13 @@ void PrintTask::documentsLookedAt()
 // Once for each of them.
 void PrintTask::sayOfDocuments()
 {
+    const PrintsTo to = printsToFile() ? PrintsTo::File : PrintsTo::Server;
     QStringList notes;
     QStringList warnings;
     QStringList details;
     for (const Document &document : std::as_const(m_request.documents)) {
         const DocumentState state = m_looks.documents.stateOf(document);
-        const QString note = documentNote(document.title, state);
+        const QString note = documentNote(document.title, state, to);
         const QString warning = documentLoss(document.title, state);
         const QString text = note.isEmpty() ? warning : note;
         if (text.isEmpty() || m_looks.told.contains(document.path + text))
@@ -122,9 +124,13 @@ bool PrintTask::documentsAreReady()
         return false;
     }
     const TaskRefusal refusal = documentProblems();
-    if (!refusal.problems.isEmpty())
+    if (!refusal.problems.isEmpty()) {
         Q_EMIT refused(refusal);
-    return refusal.problems.isEmpty();
+        return false;
+    }
+    // It may go elsewhere than when this was said.
+    sayOfDocuments();
+    return true;
 }
 
 bool PrintTask::documentsCanBeCounted() const
