@@ -34,6 +34,12 @@ void PrintTask::documentsLookedAt()
         countSheets();
     else
         Q_EMIT sheetsCounted(); // why there are none
+    if (isCounting() && m_looks.printsThen) {
+        m_looks.printsThen = false;
+        if (documentsAreReady())
+            countJob();
+        return;
+    }
     if (m_phase != Phase::Ready)
         return;
     sayOfDocuments();
@@ -107,12 +113,11 @@ bool PrintTask::mayAskForPassword() const
     return m_face.canAsk() && (m_chosen.canBeAnother || !m_request.documentPassword);
 }
 
-// Whether all can be printed; else that was said, or is asked or waited for, and print() follows.
+// Of documents that were looked into, whether all can be printed. Else that was said, or is being
+// asked, and printing goes on with the answer.
 bool PrintTask::documentsAreReady()
 {
-    // They may be others by now.
-    m_looks.documents.check(m_request.documents);
-    if (!m_looks.documents.isDone() || m_looks.isAsking) {
+    if (m_looks.isAsking) {
         m_looks.printsThen = true;
         return false;
     }
@@ -125,17 +130,30 @@ bool PrintTask::documentsAreReady()
     }
     const TaskRefusal refusal = documentProblems();
     if (!refusal.problems.isEmpty()) {
-        Q_EMIT refused(refusal);
+        refuseDocuments(refusal);
         return false;
     }
-    // It may go elsewhere than when this was said.
+    // They may go elsewhere than when it was said.
     sayOfDocuments();
-    return true;
+    if (mayPrintWithoutLostPages())
+        return true;
+    refuseDocuments({{}, TaskRefusal::Place::Nowhere, true});
+    return false;
 }
 
 bool PrintTask::documentsCanBeCounted() const
 {
     return m_looks.documents.isDone() && documentProblems().problems.isEmpty();
+}
+
+void PrintTask::refuseDocuments(const TaskRefusal &refusal)
+{
+    const bool wasCounting = isCounting();
+    if (wasCounting)
+        enter(Phase::Ready);
+    Q_EMIT refused(refusal);
+    if (wasCounting)
+        takeNext();
 }
 
 bool PrintTask::mayPrintWithoutLostPages()
@@ -202,7 +220,7 @@ void PrintTask::passwordDeclined(const Document &document)
     }
     Q_EMIT said(message);
     if (wasToBePrinted)
-        Q_EMIT refused({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
+        refuseDocuments({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
 }
 
 // What was unlocked or repaired is printed instead of the file that was chosen.

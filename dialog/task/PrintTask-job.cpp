@@ -65,7 +65,11 @@ void PrintTask::print()
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;
     }
-    if (!m_request.documents.isEmpty() && !documentsAreReady())
+    // They may be others by now. What is not known yet is waited for when the job is made, so that
+    // it is the job of this moment.
+    m_looks.documents.check(m_request.documents);
+    m_looks.areReady = m_looks.documents.isDone();
+    if (m_looks.areReady && !documentsAreReady())
         return;
     enter(Phase::Asking);
     const std::optional<TaskRefusal> refusal = finish();
@@ -107,8 +111,6 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
-    if (!mayPrintWithoutLostPages())
-        return TaskRefusal{{}, Place::Nowhere, true};
     if (passesFilesOn()) {
         QList<JobOption> asked = m_settings.attributes();
         const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);

@@ -128,14 +128,21 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
 void PrintTask::countBeforeJob()
 {
     m_run.ticket = ticket();
-    if (passesFilesOn()) {
-        if (m_request.summary)
-            m_face.writeSummary(m_run.lines);
-        return startJob(m_run.ticket);
-    }
     enter(Phase::Printing);
-    if (m_phase == Phase::Printing)
-        m_sheets.count(sheetRequest(m_run.ticket), SheetCounter::When::Now);
+    m_looks.printsThen = !m_looks.areReady;
+    if (m_looks.areReady)
+        countJob();
+}
+
+void PrintTask::countJob()
+{
+    if (m_phase != Phase::Printing)
+        return;
+    if (!passesFilesOn())
+        return m_sheets.count(sheetRequest(m_run.ticket), SheetCounter::When::Now);
+    if (m_request.summary)
+        m_face.writeSummary(m_run.lines);
+    startJob(m_run.ticket);
 }
 
 void PrintTask::sheetsKnown()
@@ -161,6 +168,7 @@ void PrintTask::sheetsKnown()
 void PrintTask::endCounting()
 {
     m_sheets.cancel();
+    m_looks.printsThen = false;
     m_run.outcome = {JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")};
     enter(Phase::Ready);
     Q_EMIT jobEnded(m_run.outcome);

@@ -252,6 +252,7 @@ private:
         QStringList declined; // documents whose password somebody does not want to give
         QStringList told;     // what was said of them
         bool isAsking = false;
+        bool areReady = false;   // of the job that is made; else they are waited for
         bool printsThen = false; // Print was chosen meanwhile
         bool countsThen = false;
     };
@@ -276,6 +277,7 @@ private:
     bool documentsAreReady();
     bool documentsCanBeCounted() const;
     bool mayPrintWithoutLostPages();
+    void refuseDocuments(const TaskRefusal &refusal);
     void askForPasswords();
     void askForPassword(const Document &document);
     void passwordDeclined(const Document &document);
@@ -319,6 +321,7 @@ private:
     QList<SummaryLine> withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const;
     QList<SummaryLine> summaryOfSettings();
     void countBeforeJob();
+    void countJob();
     void sheetsKnown();
     void endCounting();
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
