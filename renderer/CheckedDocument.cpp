@@ -216,12 +216,15 @@ void CheckedDocument::describe(const std::string &password, Checked &answer)
     answer.mayPrint = content.pdf.allowPrintLowRes() || content.pdf.allowPrintHighRes() ? 1 : 0;
     // Nobody has proved anything with an empty password.
     answer.isOwner = !password.empty() && content.pdf.ownerPasswordMatched() ? 1 : 0;
-    content.tree = readPageTree(content.pdf);
+    content.tree = readPageTree(
+        content.pdf, m_completed.empty() ? 0 : static_cast<qpdf_offset_t>(m_file.size()));
     noteWarnings(content.pdf, answer);
     answer.pages = static_cast<std::uint32_t>(content.tree.pages.size());
     answer.lostPages = content.tree.lost;
     if (content.tree.lost > 0 || content.tree.isLoose)
         answer.isDamaged = 1;
+    // What lies behind its end is ours.
+    answer.damagedAt = std::min<std::uint64_t>(answer.damagedAt, m_file.size());
     answer.status = answer.pages > 0 ? Status::Done : Status::Damaged;
 }
 

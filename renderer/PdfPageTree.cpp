@@ -22,19 +22,35 @@ bool isOfType(QPDFObjectHandle object, const char *type)
     return object.isDictionary() && object.getKey("/Type").isNameAndEquals(type);
 }
 
+// Whether something that pages are drawn with is there, and not cut off.
+bool isWhole(QPDFObjectHandle stream, qpdf_offset_t end)
+{
+    if (!stream.isStream())
+        return false;
+    QPDFObjectHandle length = stream.getDict().getKey("/Length");
+    return end == 0 || !length.isInteger() || stream.getParsedOffset() + length.getIntValue() < end;
+}
+
 // A page that says what is on it, where that lies in a part of the file that cannot be read, would
 // come out blank.
-bool hasLostItsContents(QPDFObjectHandle page)
+bool hasItsContents(QPDFObjectHandle page, qpdf_offset_t end)
 {
-    const Attributes keys = page.getDictAsMap();
-    const auto contents = keys.find("/Contents");
-    return contents != keys.end() && QPDFObjectHandle(contents->second).isNull();
+    Attributes keys = page.getDictAsMap();
+    const auto found = keys.find("/Contents");
+    if (found == keys.end())
+        return true;
+    QPDFObjectHandle contents = found->second;
+    if (!contents.isArray())
+        return isWhole(contents, end);
+    std::vector<QPDFObjectHandle> parts = contents.getArrayAsVector();
+    return std::all_of(parts.begin(), parts.end(),
+                       [end](const QPDFObjectHandle &part) { return isWhole(part, end); });
 }
 
 class Reader
 {
 public:
-    explicit Reader(QPDF &pdf) : m_pdf(pdf) {}
+    Reader(QPDF &pdf, qpdf_offset_t end) : m_pdf(pdf), m_end(end) {}
 
     PdfPageTree read()
     {
@@ -76,7 +92,7 @@ private:
     {
         if (isOfType(page, "/Pages"))
             return; // a branch without pages
-        if (m_pdf.anyWarnings() && hasLostItsContents(page)) {
+        if (m_pdf.anyWarnings() && !hasItsContents(page, m_end)) {
             ++m_tree.lost;
             return;
         }
@@ -112,15 +128,16 @@ private:
     }
 
     QPDF &m_pdf;
+    const qpdf_offset_t m_end;
     PdfPageTree m_tree;
     std::set<QPDFObjGen> m_branches;
 };
 
 } // namespace
 
-PdfPageTree readPageTree(QPDF &pdf)
+PdfPageTree readPageTree(QPDF &pdf, qpdf_offset_t end)
 {
-    return Reader(pdf).read();
+    return Reader(pdf, end).read();
 }
 
 void setPages(QPDF &pdf, const PdfPageTree &tree)

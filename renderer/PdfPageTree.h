@@ -17,9 +17,10 @@ struct PdfPageTree
     bool isLoose = false;                ///< nobody knows their order
 };
 
-/// In the order of the document. Where it has no order any more, the pages that lie in the file
-/// come in the order of their numbers.
-PdfPageTree readPageTree(QPDF &pdf);
+/// `end`: where the file was cut off, so that what reaches it is not whole; 0 for a file that has
+/// its end. In the order of the document. Where it has no order any more, the pages that lie in the
+/// file come in the order of their numbers.
+PdfPageTree readPageTree(QPDF &pdf, qpdf_offset_t end);
 
 /// Gives the document these pages and no others.
 void setPages(QPDF &pdf, const PdfPageTree &tree);

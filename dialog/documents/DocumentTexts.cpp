@@ -69,15 +69,17 @@ QString documentLoss(const QString &title, const DocumentState &state)
             : Texts::tr("%1 of its %2 pages can be printed.").arg(state.pages).arg(all));
 }
 
-QString documentNote(const QString &title, const DocumentState &state)
+QString documentNote(const QString &title, const DocumentState &state, PrintsTo to)
 {
     const QString name = terminalLine(title);
     if (state.kind != Kind::Fine)
         return {};
     if (state.isUnlocked)
-        return Texts::tr("“%1” is protected. A copy without protection goes to the printer and its "
-                         "server.")
-            .arg(name);
+        return to == PrintsTo::File
+                   ? Texts::tr("“%1” is protected. The file that is printed to is not.").arg(name)
+                   : Texts::tr(
+                         "“%1” is protected. The print server gets a copy without protection.")
+                         .arg(name);
     if (state.isDamaged && state.lostPages == 0)
         return twoSentences(isDamaged(name, state),
                             Texts::tr("All pages that were found in it are printed."));

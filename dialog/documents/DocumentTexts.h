@@ -13,6 +13,7 @@ QString documentProblem(const QString &title, const DocumentState &state);
 /// What will be missing on paper; empty when nothing will.
 QString documentLoss(const QString &title, const DocumentState &state);
 /// What somebody who prints it has to know all the same; empty when there is nothing.
-QString documentNote(const QString &title, const DocumentState &state);
+enum class PrintsTo { Server, File };
+QString documentNote(const QString &title, const DocumentState &state, PrintsTo to);
 
 } // namespace corvana

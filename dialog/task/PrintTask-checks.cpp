@@ -30,9 +30,16 @@ QString detailsOf(const Document &document, const DocumentState &state)
 
 void PrintTask::documentsLookedAt()
 {
-    if (std::exchange(m_looks.countsThen, false))
+    if (std::exchange(m_looks.countsThen, false) && documentsCanBeCounted())
         countSheets();
-    Q_EMIT sheetsCounted();
+    else
+        Q_EMIT sheetsCounted(); // why there are none
+    if (isPreparing() && m_looks.printsThen) {
+        m_looks.printsThen = false;
+        if (documentsAreReady())
+            goOnWithJob();
+        return;
+    }
     if (m_phase != Phase::Ready)
         return;
     sayOfDocuments();
@@ -44,12 +51,13 @@ void PrintTask::documentsLookedAt()
 // Once for each of them.
 void PrintTask::sayOfDocuments()
 {
+    const PrintsTo to = printsToFile() ? PrintsTo::File : PrintsTo::Server;
     QStringList notes;
     QStringList warnings;
     QStringList details;
     for (const Document &document : std::as_const(m_request.documents)) {
         const DocumentState state = m_looks.documents.stateOf(document);
-        const QString note = documentNote(document.title, state);
+        const QString note = documentNote(document.title, state, to);
         const QString warning = documentLoss(document.title, state);
         const QString text = note.isEmpty() ? warning : note;
         if (text.isEmpty() || m_looks.told.contains(document.path + text))
@@ -105,12 +113,11 @@ bool PrintTask::mayAskForPassword() const
     return m_face.canAsk() && (m_chosen.canBeAnother || !m_request.documentPassword);
 }
 
-// Whether all can be printed; else that was said, or is asked or waited for, and print() follows.
+// Of documents that were looked into, whether all can be printed. Else that was said, or is being
+// asked, and printing goes on with the answer.
 bool PrintTask::documentsAreReady()
 {
-    // They may be others by now.
-    m_looks.documents.check(m_request.documents);
-    if (!m_looks.documents.isDone() || m_looks.isAsking) {
+    if (m_looks.isAsking) {
         m_looks.printsThen = true;
         return false;
     }
@@ -122,14 +129,31 @@ bool PrintTask::documentsAreReady()
         return false;
     }
     const TaskRefusal refusal = documentProblems();
-    if (!refusal.problems.isEmpty())
-        Q_EMIT refused(refusal);
-    return refusal.problems.isEmpty();
+    if (!refusal.problems.isEmpty()) {
+        refuseDocuments(refusal);
+        return false;
+    }
+    // They may go elsewhere than when it was said.
+    sayOfDocuments();
+    if (mayPrintWithoutLostPages())
+        return true;
+    refuseDocuments({{}, TaskRefusal::Place::Nowhere, true});
+    return false;
 }
 
 bool PrintTask::documentsCanBeCounted() const
 {
     return m_looks.documents.isDone() && documentProblems().problems.isEmpty();
+}
+
+void PrintTask::refuseDocuments(const TaskRefusal &refusal)
+{
+    const bool wasPreparing = isPreparing();
+    if (wasPreparing)
+        enter(Phase::Ready);
+    Q_EMIT refused(refusal);
+    if (wasPreparing)
+        takeNext();
 }
 
 bool PrintTask::mayPrintWithoutLostPages()
@@ -196,7 +220,7 @@ void PrintTask::passwordDeclined(const Document &document)
     }
     Q_EMIT said(message);
     if (wasToBePrinted)
-        Q_EMIT refused({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
+        refuseDocuments({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
 }
 
 // What was unlocked or repaired is printed instead of the file that was chosen.

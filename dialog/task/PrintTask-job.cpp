@@ -68,7 +68,11 @@ void PrintTask::print()
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;
     }
-    if (!m_request.documents.isEmpty() && !documentsAreReady())
+    // They may be others by now. What is not known yet is waited for when the job is made, so that
+    // it is the job of this moment.
+    m_looks.documents.check(m_request.documents);
+    m_looks.areReady = m_looks.documents.isDone();
+    if (m_looks.areReady && !documentsAreReady())
         return;
     enter(Phase::Asking);
     m_run.textsAreSettled = false;
@@ -118,8 +122,6 @@ std::optional<TaskRefusal> PrintTask::finish()
             {tr("%1 is of a kind that is not known here. Only a queue can pass it on "
                 "to its printer, as it is, with the option “raw”.")
                  .arg(unknown)}};
-    if (!mayPrintWithoutLostPages())
-        return TaskRefusal{{}, Place::Nowhere, true};
     if (passesFilesOn()) {
         QList<JobOption> asked = m_settings.attributes();
         const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);

@@ -143,14 +143,22 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
 void PrintTask::prepareJob()
 {
     m_run.ticket = ticket();
-    if (passesFilesOn()) {
-        if (m_request.summary)
-            m_face.writeSummary(m_run.lines);
-        return startJob(m_run.ticket);
-    }
     enter(Phase::Printing);
-    if (m_phase == Phase::Printing)
-        awaitTexts();
+    m_looks.printsThen = !m_looks.areReady;
+    if (m_looks.areReady)
+        goOnWithJob();
+}
+
+// Its documents are known.
+void PrintTask::goOnWithJob()
+{
+    if (m_phase != Phase::Printing)
+        return;
+    if (!passesFilesOn())
+        return awaitTexts();
+    if (m_request.summary)
+        m_face.writeSummary(m_run.lines);
+    startJob(m_run.ticket);
 }
 
 void PrintTask::countBeforeJob()
@@ -184,6 +192,7 @@ void PrintTask::stopPreparing()
     m_run.awaits = Run::Awaits::Nothing;
     m_looks.textPatience.stop();
     m_sheets.cancel();
+    m_looks.printsThen = false;
 }
 
 // Nothing was begun that would have to be taken back.

@@ -261,6 +261,7 @@ private:
         QStringList declined; // documents whose password somebody does not want to give
         QStringList told;     // what was said of them
         bool isAsking = false;
+        bool areReady = false;   // of the job that is made; else they are waited for
         bool printsThen = false; // Print was chosen meanwhile
         bool countsThen = false;
     };
@@ -285,6 +286,7 @@ private:
     bool documentsAreReady();
     bool documentsCanBeCounted() const;
     bool mayPrintWithoutLostPages();
+    void refuseDocuments(const TaskRefusal &refusal);
     void askForPasswords();
     void askForPassword(const Document &document);
     void passwordDeclined(const Document &document);
@@ -335,7 +337,9 @@ private:
     QList<SummaryLine> summaryOfSettings();
     void prepareJob();
     void countBeforeJob();
+    void goOnWithJob();
     void sheetsKnown();
+    bool isPreparing() const { return m_phase == Phase::Printing && !m_run.job; }
     void stopPreparing();
     void endPreparing();
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;

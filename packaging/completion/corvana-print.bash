@@ -141,7 +141,7 @@ _corvana_print() {
         _corvana_print_files ppd
         return
         ;;
-    --output | --password-file)
+    --output | --password-file | --document-password-file)
         _corvana_print_files
         return
         ;;
@@ -159,8 +159,8 @@ _corvana_print() {
     esac
 
     if [[ $current == -* ]]; then
-        _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd --ppd \
-            --demo --list-printers -o --option -n --copies -P -q -H -t --title --output \
+        _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd \
+            --document-password-file --ppd --demo --list-printers -o --option -n --copies -P -q -H -t --title --output \
             --no-dialog --summary --on-alert --wait --no-wait --format -s -c -m --bundle-root \
             --check-display --help --version
         return

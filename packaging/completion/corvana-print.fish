@@ -50,6 +50,7 @@ complete -c corvana-print -s E -d 'Speak to the print server with encryption onl
 complete -c corvana-print -s U -x -a '(__fish_complete_users)' -d 'Print as this user'
 complete -c corvana-print -l password-file -r -d 'Take the password from this file'
 complete -c corvana-print -l password-fd -x -d 'Take the password from this descriptor'
+complete -c corvana-print -l document-password-file -r -d 'Open protected documents with the password in this file'
 complete -c corvana-print -l ppd -r -d 'Print for the printer of this PPD'
 complete -c corvana-print -l output -r -d 'Write the data for the printer to this file'
 complete -c corvana-print -l demo -d 'Offer the sample printers'

@@ -1287,6 +1287,14 @@
         <source>Password: </source>
         <translation>パスワード: </translation>
     </message>
+<message>
+        <source>That is not the password.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>Password of “%1”: </source>
+        <translation>「%1」のパスワード: </translation>
+    </message>
 </context>
 <context>
     <name>TextFormat</name>
@@ -1759,6 +1767,23 @@ For the command line: %2</source>
 <message>
         <source>Choose a document to print.</source>
         <translation>印刷する文書を選択してください。</translation>
+    </message>
+<message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Give the password with --document-password-file.</source>
+        <translation>パスワードは --document-password-file で指定してください。</translation>
+    </message>
+    <message>
+        <source>Enter the Password…</source>
+        <translation>パスワードを入力…</translation>
+    </message>
+    <message>
+        <source>Enter the Owner's Password…</source>
+        <translation>所有者のパスワードを入力…</translation>
     </message>
 </context>
 <context>
@@ -2547,6 +2572,93 @@ For the command line: %2</source>
     <message>
         <source>%L1 %</source>
         <translation>%L1 %</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTexts</name>
+    <message>
+        <source>“%1” is damaged at byte %2.</source>
+        <translation>「%1」は %2 バイト目で壊れています。</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged.</source>
+        <translation>「%1」は壊れています。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>“%1” is protected, and the password that was given does not open it.</source>
+        <translation>「%1」は保護されています。指定されたパスワードでは開けません。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected: it is printed only with its password.</source>
+        <translation>「%1」は保護されています。印刷するにはパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>“%1” does not allow printing. Only its owner's password does.</source>
+        <translation>「%1」は印刷が許可されていません。印刷できるのは所有者のパスワードがある場合だけです。</translation>
+    </message>
+    <message>
+        <source>None of its pages can be printed.</source>
+        <translation>印刷できるページはありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected, and a copy without protection could not be made: it is too large, or there is no room for it.</source>
+        <translation>「%1」は保護されています。大きすぎるか空き容量がないため、保護のないコピーを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>1 of its %1 pages can be printed.</source>
+        <translation>全 %1 ページのうち 1 ページを印刷できます。</translation>
+    </message>
+    <message>
+        <source>%1 of its %2 pages can be printed.</source>
+        <translation>全 %2 ページのうち %1 ページを印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected. The file that is printed to is not.</source>
+        <translation>「%1」は保護されていますが、印刷先のファイルは保護されません。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected. The print server gets a copy without protection.</source>
+        <translation>「%1」は保護されていますが、プリントサーバーには保護のないコピーが送られます。</translation>
+    </message>
+    <message>
+        <source>All pages that were found in it are printed.</source>
+        <translation>見つかったページはすべて印刷されます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::DocumentPasswordDialog</name>
+    <message>
+        <source>Protected Document</source>
+        <translation>保護された文書</translation>
+    </message>
+    <message>
+        <source>“%1” does not allow printing. With its owner's password it can be printed.</source>
+        <translation>「%1」は印刷が許可されていません。所有者のパスワードがあれば印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected: enter its password. The password is forgotten when the print dialog closes.</source>
+        <translation>「%1」は保護されています。パスワードを入力してください。パスワードは印刷ダイアログを閉じると破棄されます。</translation>
+    </message>
+    <message>
+        <source>That is not the password. Try again.</source>
+        <translation>パスワードが違います。もう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

@@ -1287,6 +1287,14 @@
         <source>Password: </source>
         <translation>密码：</translation>
     </message>
+<message>
+        <source>That is not the password.</source>
+        <translation>密码不正确。</translation>
+    </message>
+    <message>
+        <source>Password of “%1”: </source>
+        <translation>“%1”的密码：</translation>
+    </message>
 </context>
 <context>
     <name>TextFormat</name>
@@ -1759,6 +1767,23 @@ For the command line: %2</source>
 <message>
         <source>Choose a document to print.</source>
         <translation>请选择要打印的文档。</translation>
+    </message>
+<message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Give the password with --document-password-file.</source>
+        <translation>请使用 --document-password-file 提供密码。</translation>
+    </message>
+    <message>
+        <source>Enter the Password…</source>
+        <translation>输入密码…</translation>
+    </message>
+    <message>
+        <source>Enter the Owner's Password…</source>
+        <translation>输入所有者密码…</translation>
     </message>
 </context>
 <context>
@@ -2547,6 +2572,93 @@ For the command line: %2</source>
     <message>
         <source>%L1 %</source>
         <translation>%L1 %</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTexts</name>
+    <message>
+        <source>“%1” is damaged at byte %2.</source>
+        <translation>“%1”在第 %2 字节处已损坏。</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged.</source>
+        <translation>“%1”已损坏。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>“%1” is protected, and the password that was given does not open it.</source>
+        <translation>“%1”受密码保护，所给的密码无法将其打开。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected: it is printed only with its password.</source>
+        <translation>“%1”受密码保护：只有提供密码才能打印。</translation>
+    </message>
+    <message>
+        <source>“%1” does not allow printing. Only its owner's password does.</source>
+        <translation>“%1”不允许打印，只有使用所有者密码才能打印。</translation>
+    </message>
+    <message>
+        <source>None of its pages can be printed.</source>
+        <translation>没有任何页可以打印。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected, and a copy without protection could not be made: it is too large, or there is no room for it.</source>
+        <translation>“%1”受密码保护，但无法生成不受保护的副本：文件太大，或存储空间不足。</translation>
+    </message>
+    <message>
+        <source>1 of its %1 pages can be printed.</source>
+        <translation>共 %1 页，其中 1 页可以打印。</translation>
+    </message>
+    <message>
+        <source>%1 of its %2 pages can be printed.</source>
+        <translation>共 %2 页，其中 %1 页可以打印。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected. The file that is printed to is not.</source>
+        <translation>“%1”受密码保护，但打印生成的文件不受保护。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected. The print server gets a copy without protection.</source>
+        <translation>“%1”受密码保护，但发送到打印服务器的是不受保护的副本。</translation>
+    </message>
+    <message>
+        <source>All pages that were found in it are printed.</source>
+        <translation>将打印在其中找到的所有页。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::DocumentPasswordDialog</name>
+    <message>
+        <source>Protected Document</source>
+        <translation>受保护的文档</translation>
+    </message>
+    <message>
+        <source>“%1” does not allow printing. With its owner's password it can be printed.</source>
+        <translation>“%1”不允许打印。使用所有者密码可以打印。</translation>
+    </message>
+    <message>
+        <source>“%1” is protected: enter its password. The password is forgotten when the print dialog closes.</source>
+        <translation>“%1”受密码保护：请输入密码。关闭打印对话框后不会保留密码。</translation>
+    </message>
+    <message>
+        <source>That is not the password. Try again.</source>
+        <translation>密码不正确，请重试。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>密码(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>

@@ -120,6 +120,8 @@ private Q_SLOTS:
         row("lines for people", {u"--format"_s, u"text"_s, doc}, [](CommandLine &) {});
         row("a password in a file", {u"--password-file"_s, u"secret"_s, doc},
             [](CommandLine &l) { l.passwordFile = u"secret"_s; });
+        row("a password of documents in a file", {u"--document-password-file"_s, u"secret"_s, doc},
+            [](CommandLine &l) { l.documentPasswordFile = u"secret"_s; });
         row("a password from a descriptor", {u"--password-fd=0"_s, doc},
             [](CommandLine &l) { l.passwordDescriptor = 0; });
         row("standard output as the result", {u"--output"_s, u"-"_s, u"--no-dialog"_s, doc},
@@ -175,8 +177,8 @@ private Q_SLOTS:
         row("option without its value", {doc, u"-d"_s}, u"d"_s);
         row("value for what takes none", {u"--demo=yes"_s, doc}, u"demo"_s);
         row("-h is no help any more", {doc, u"-h"_s}, u"-h"_s);
-        for (const char *name :
-             {"-d", "--printer", "--ppd", "--output", "-U", "--password-file", "--bundle-root"})
+        for (const char *name : {"-d", "--printer", "--ppd", "--output", "-U", "--password-file",
+                                 "--document-password-file", "--bundle-root"})
             row(name, {QString::fromUtf8(name), QString(u""_s), doc}, u"is missing"_s);
         row("no server", {u"-h"_s, QString(u""_s), doc}, u"HOST"_s);
         row("pages that go back", {u"-P"_s, u"3-1"_s, doc}, u"-P \"3-1\""_s);
