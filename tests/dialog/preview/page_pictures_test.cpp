@@ -211,19 +211,48 @@ private Q_SLOTS:
         QVERIFY(pictures.picture(page) != old);
     }
 
+    void aFileThatIsForgottenInTheMidstOfAPageShowsNothingOfTheOldOne()
+    {
+        const PageToDraw page{m_folder.filePath(u"layout.pdf"_s), 0, {1000, 1400}};
+        const auto write = [&](const QByteArray &content) {
+            QFile::remove(page.file);
+            writtenFile(m_folder.path(), u"layout.pdf"_s, content);
+        };
+        write(numberedPdf("new", 1));
+        const QImage expected = drawnByPdftoppm(page.file, 0, page.size);
+        for (int round = 0; round < 12; ++round) {
+            PagePictures pictures;
+            write(numberedPdf("old", 1));
+            // It is being drawn, wherever it is.
+            const PageToDraw other{m_numbered, 0, {60, 85}};
+            pictures.want({other});
+            QTRY_VERIFY_WITH_TIMEOUT(!pictures.picture(other).isNull(), kPatience);
+            pictures.want({page});
+            QTest::qSleep(round * 3);
+            write(numberedPdf("new", 1));
+            pictures.forget(page.file);
+            pictures.want({page});
+            QTRY_VERIFY_WITH_TIMEOUT(!pictures.picture(page).isNull(), kPatience);
+            QCOMPARE(largestDifference(pictures.picture(page), expected), 0);
+        }
+    }
+
     void moreDocumentsThanARendererHoldsAreDrawnAllTheSame()
     {
         PagePictures pictures;
+        QList<pid_t> renderers;
         for (int round = 0; round < 2; ++round) {
-            for (int i = 0; i < 40; ++i) {
+            for (int i = 0; i < static_cast<int>(renderer::kMaxDocuments) + 6; ++i) {
                 const QString file =
                     writtenFile(m_folder.path(), u"%1.pdf"_s.arg(i), numberedPdf("page", 1));
                 const PageToDraw page{file, 0, {60 + round, 85}};
                 pictures.want({page});
                 QTRY_VERIFY_WITH_TIMEOUT(!pictures.picture(page).isNull(), kPatience);
+                if (renderers.isEmpty())
+                    renderers = runningRenderers();
             }
         }
-        QCOMPARE(runningRenderers().size(), 1);
+        QCOMPARE(runningRenderers(), renderers); // the same one
     }
 
     void whyAPageIsNotShownIsSaid()

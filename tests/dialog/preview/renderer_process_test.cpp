@@ -1,4 +1,7 @@
+#include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -74,6 +77,18 @@ const Sides kSides[] = {
     {"in several bands", {5000, 7000}, Outcome::Done},
 };
 
+struct Kernel
+{
+    const char *name; ///< what it lacks
+    bool hasSeccomp;
+    bool hasLandlock;
+};
+const Kernel kKernels[] = {
+    {"landlock", true, false},
+    {"seccomp", false, true},
+    {"both", false, false},
+};
+
 bool isOpaque(const QImage &picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
@@ -140,8 +155,38 @@ private Q_SLOTS:
     {
         RendererProcess process(RendererSettings::shipped());
         QCOMPARE(process.start(), Outcome::Done);
-        QCOMPARE(process.locks().filtersCalls, 1U);
-        QVERIFY(process.locks().fencesFiles > 0);
+        if (process.locks().filtersCalls == 0 || process.locks().fencesFiles == 0)
+            QSKIP("This system lacks Landlock or seccomp.");
+        QCOMPARE(runningRenderers(), QList<pid_t>{process.processId()});
+        QFile status(u"/proc/%1/status"_s.arg(process.processId()));
+        QVERIFY(status.open(QIODevice::ReadOnly));
+        const QByteArray text = status.readAll();
+        for (const char *line :
+             {"NoNewPrivs:\t1\n", "Seccomp:\t2\n", "CapEff:\t0000000000000000\n"})
+            QVERIFY2(text.contains(line), text.constData());
+    }
+
+    void olderKernelsDrawToo_data() { addRows(kKernels); }
+    void olderKernelsDrawToo()
+    {
+        const Kernel &row = currentRow(kKernels);
+        RendererSettings settings = RendererSettings::shipped();
+        qputenv("OLD_KERNEL_RUNS", settings.program.toLocal8Bit());
+        qputenv("OLD_KERNEL_LACKS", row.name);
+        settings.program = QCoreApplication::applicationDirPath() + u"/old_kernel"_s;
+        const QRegularExpression warning(u"This system has no "_s);
+        QTest::ignoreMessage(QtWarningMsg, warning);
+        if (!row.hasSeccomp && !row.hasLandlock)
+            QTest::ignoreMessage(QtWarningMsg, warning);
+        RendererProcess process(settings);
+        QCOMPARE(process.start(), Outcome::Done);
+        QCOMPARE(process.locks().filtersCalls == 1, row.hasSeccomp);
+        QCOMPARE(process.locks().fencesFiles > 0, row.hasLandlock);
+        int pages = 0;
+        QImage picture;
+        QCOMPARE(process.open(kDocument, m_file, {}, &pages), Outcome::Done);
+        QCOMPARE(process.draw(kDocument, 0, {595, 842}, &picture), Outcome::Done);
+        QCOMPARE(largestDifference(picture, drawnByPdftoppm(m_file, 0, {595, 842})), 0);
     }
 
     void documentsAreOpenedListedDrawnAndClosed()
