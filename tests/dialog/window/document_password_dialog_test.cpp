@@ -42,7 +42,7 @@ private Q_SLOTS:
 
     void itSaysWhichDocumentAndWhatWasWrong()
     {
-        const QString name = u"<b>" + QString(500, u'x') + u".pdf"_s;
+        const QString name = u"<b>"_s + QString(500, u'x') + u".pdf"_s;
         const DocumentPasswordDialog first({name});
         const auto *question = first.findChild<QLabel *>(u"question"_s);
         QVERIFY(question->text().contains(u"<b>xxx"_s));

@@ -151,7 +151,7 @@ const DamagedDocument kDamaged[] = {
 } // namespace
 
 // Documents that cannot simply be printed, from the real renderer to the real filter chain.
-class TaskDocumentsTest : public QObject
+class TaskProtectedTest : public QObject
 {
     Q_OBJECT
 
@@ -414,6 +414,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TaskDocumentsTest)
+QTEST_MAIN(TaskProtectedTest)
 
-#include "task_documents_test.moc"
+#include "task_protected_test.moc"
