@@ -83,15 +83,6 @@ std::set<std::string> linkedFonts()
     return found;
 }
 
-void drawFirstPage()
-{
-    const std::unique_ptr<poppler::document> document(poppler::document::load_from_raw_data(
-        kFirstPage.data(), static_cast<int>(kFirstPage.size())));
-    const std::unique_ptr<poppler::page> page(document ? document->create_page(0) : nullptr);
-    if (page)
-        poppler::page_renderer().render_page(page.get());
-}
-
 } // namespace
 
 std::vector<std::string> prepareFonts()
@@ -101,8 +92,19 @@ std::vector<std::string> prepareFonts()
     readable.merge(linkedFonts());
     // Where distributions have the package poppler-data, and where it is built by hand.
     readable.insert({"/usr/share/poppler", "/usr/local/share/poppler"});
-    drawFirstPage();
     return {readable.begin(), readable.end()};
 }
+
+WarmFonts::WarmFonts()
+    : m_document(poppler::document::load_from_raw_data(kFirstPage.data(),
+                                                       static_cast<int>(kFirstPage.size())))
+{
+    const std::unique_ptr<poppler::page> page(m_document ? m_document->create_page(0) : nullptr);
+    if (page)
+        poppler::page_renderer().render_page(page.get());
+}
+
+WarmFonts::~WarmFonts() = default;
+WarmFonts::WarmFonts(WarmFonts &&) noexcept = default;
 
 } // namespace corvana::renderer

@@ -4,7 +4,9 @@
 
 #include <csignal>
 #include <cstdio>
+#include <optional>
 
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 
@@ -20,6 +22,7 @@ using namespace corvana::renderer;
 namespace {
 
 constexpr int kSocket = 3;
+constexpr int kHurry = 10; ///< milliseconds
 
 bool isSocket(int descriptor)
 {
@@ -27,6 +30,12 @@ bool isSocket(int descriptor)
     socklen_t size = sizeof(type);
     return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0 &&
            type == SOCK_SEQPACKET;
+}
+
+bool hasRequestWithin(int milliseconds)
+{
+    pollfd socket{kSocket, POLLIN, 0};
+    return ::poll(&socket, 1, milliseconds) > 0;
 }
 
 } // namespace
@@ -50,5 +59,9 @@ int main()
     ready.fencesFiles = static_cast<std::uint32_t>(locks.fencesFiles);
     if (!sendMessage(kSocket, ready))
         return 1;
+    // Somebody who is in a hurry has sent a request already, and is served first.
+    std::optional<WarmFonts> fonts;
+    if (!hasRequestWithin(kHurry))
+        fonts.emplace();
     return Service(kSocket).run() ? 0 : 1;
 }

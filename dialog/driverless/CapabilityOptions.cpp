@@ -171,7 +171,8 @@ CapabilityOption pageSize(const PrinterCapabilities &printer)
     const auto add = [&](const MediaSize &size, const MediaMargins &margins,
                          const CapabilityText &text) {
         QByteArray keyword = pageSizeKeyword(size.dimension);
-        if (margins.isBorderless())
+        // Where every paper is printed up to its edges, none has to say so.
+        if (margins.isBorderless() && !printer.margins.isBorderless())
             keyword += ".Fullbleed";
         option.choices += CapabilityChoice{keywords.unique(keyword, "."), text,           size.name,
                                            pageSizeCode(size.dimension),  size.dimension, margins};

@@ -26,6 +26,22 @@ QByteArray fillingSheets(const QByteArray &ppd)
     return filling + "*cupsEvenDuplex: True\n";
 }
 
+constexpr char kBlankPage[] = "%PDF-1.4\n"
+                              "1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+                              "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+                              "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 72 102]"
+                              "/Resources<<>>>>endobj\n"
+                              "xref\n"
+                              "0 4\n"
+                              "0000000000 65535 f \n"
+                              "0000000009 00000 n \n"
+                              "0000000052 00000 n \n"
+                              "0000000101 00000 n \n"
+                              "trailer<</Size 4/Root 1 0 R>>\n"
+                              "startxref\n"
+                              "177\n"
+                              "%%EOF\n";
+
 } // namespace
 
 Conversion::Conversion(const ConversionRequest &request, QObject *parent)
@@ -65,22 +81,23 @@ FilterPlan Conversion::prepare(QString *problem)
     }
     const QString own = m_parts->filePath(u"printer.ppd"_s);
     const QString filling = m_parts->filePath(u"filling.ppd"_s);
-    *problem = takePpd(own, filling);
-    return planConversion(m_request,
-                          {filter, own, filling, m_parts->path(), streamOfPpd(own).continues});
+    const QString blank = m_parts->filePath(u"blank.pdf"_s);
+    *problem = takePpd(own, filling, blank);
+    return planConversion(
+        m_request, {filter, own, filling, m_parts->path(), streamOfPpd(own).continues, blank});
 }
 
 // The chain gets a PPD that is its own: what was looked at is what its filters read, whoever writes
 // the other one. Answers what stands in the way.
-QString Conversion::takePpd(const QString &own, const QString &filling) const
+QString Conversion::takePpd(const QString &own, const QString &filling, const QString &blank) const
 {
     // The filter chain would do without a PPD, and print a file without any of the choices.
     QFile ppd(m_request.ppdPath);
     if (!ppd.open(QIODevice::ReadOnly))
         return tr("%1 cannot be read: %2").arg(m_request.ppdPath, ppd.errorString());
     const QByteArray content = ppd.readAll();
-    const std::pair<QString, QByteArray> copies[] = {{own, content},
-                                                     {filling, fillingSheets(content)}};
+    const std::pair<QString, QByteArray> copies[] = {
+        {own, content}, {filling, fillingSheets(content)}, {blank, kBlankPage}};
     for (const auto &[path, text] : copies) {
         QFile copy(path);
         if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||

@@ -41,7 +41,7 @@ Q_SIGNALS:
 
 private:
     FilterPlan prepare(QString *problem);
-    QString takePpd(const QString &own, const QString &filling) const;
+    QString takePpd(const QString &own, const QString &filling, const QString &blank) const;
 
     ConversionRequest m_request;
     std::unique_ptr<QTemporaryDir> m_parts;

@@ -159,7 +159,7 @@ QStringList FilterChain::argumentsOfStep(QString *problem) const
     if (pages <= 0)
         *problem = tr("The document could not be converted for the printer: how many pages it has "
                       "could not be found out.");
-    const QStringList picked = pickedPages(pick.choice, pages, pick.document);
+    const QStringList picked = pickedPages(pick.choice, pages, pick.document, pick.blank);
     if (picked.isEmpty())
         return {};
     const qsizetype place = arguments.indexOf(kPickedPages);
@@ -292,8 +292,7 @@ void FilterChain::stepFinished(int exitCode, QProcess::ExitStatus status)
     if ((m_canceled || m_tookTooLong || !m_writeError.isEmpty()) && m_group > 0)
         ::kill(-m_group, SIGKILL);
     m_cameOutEmpty = !m_canceled && !m_tookTooLong && m_writeError.isEmpty() &&
-                     status == QProcess::NormalExit && exitCode == 0 &&
-                     isEmptyPart(step().output);
+                     status == QProcess::NormalExit && exitCode == 0 && isEmptyPart(step().output);
     const QString problem = problemOfStep(exitCode, status);
     if (!problem.isEmpty())
         return finish(problem);

@@ -1,6 +1,7 @@
 #include "dialog/job/FilterPlan.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 
 #include "dialog/job/DocumentCopies.h"
@@ -62,6 +63,13 @@ QList<JobOption> pageOptions(const QList<JobOption> &options)
     return chosen;
 }
 
+// What is asked for when a document becomes a PDF. A picture becomes a mere PDF only by way of the
+// printer's raster data: without its colours, dithered, and without its margins.
+QLatin1StringView formatOfPdf(const Document &document)
+{
+    return isPicture(document) ? kLaidOutPdf : kPdf;
+}
+
 // Makes the steps of one request, each behind the other.
 class Planner
 {
@@ -84,7 +92,7 @@ public:
         else if (several)
             putTogether(result());
         else if (m_request.layout.isEmpty())
-            convert(first, kPdf, {}, pageOptions(m_request.ticket.options), result());
+            convert(first, formatOfPdf(first), {}, pageOptions(m_request.ticket.options), result());
         else
             layOut(m_picks ? picked(first) : asPdf(first), m_places.ppd, result());
         return m_plan;
@@ -132,8 +140,8 @@ private:
     // a filter that yields nothing could as well have failed.
     bool mustPick() const
     {
-        return mustPickPages(chainOptions()) ||
-               (m_request.documents.size() > 1 && !m_choice.isAll());
+        const bool isOneOfSeveral = m_request.picksPages || m_request.documents.size() > 1;
+        return mustPickPages(chainOptions()) || (isOneOfSeveral && !m_choice.isAll());
     }
 
     QList<JobOption> remainingOptions() const
@@ -141,7 +149,7 @@ private:
         QList<JobOption> options = chainOptions();
         if (m_picks)
             options.removeIf(isOfPageChoice);
-        return options;
+        return withoutPageOrder(options);
     }
 
     // What a step reads of former ones. A document itself is none of them.
@@ -181,7 +189,7 @@ private:
     Document toPdf(const Document &document)
     {
         const Output pdf = newPart("pdf"_L1);
-        convert(document, kPdf, {}, pageOptions(m_request.ticket.options), pdf);
+        convert(document, formatOfPdf(document), {}, pageOptions(m_request.ticket.options), pdf);
         return {pdf.path, kPdf, document.title};
     }
 
@@ -198,15 +206,17 @@ private:
         FilterStep step;
         step.writes = FilterStep::Writes::FileOfItsOwn;
         step.yields = FilterStep::Yields::PerhapsNothing;
-        step.pick = PagePick{m_choice, document.path, count.path};
+        step.pick = PagePick{m_choice, document.path, count.path, m_places.blankPage};
         runQpdf({document.path, u"--pages"_s, kPickedPages, u"--"_s, output.path}, output, step);
     }
 
     Document picked(const Document &document)
     {
-        if (!m_picks)
+        if (!m_picks && !mustBecomePdf(document, chainOptions()))
             return document;
         const Document pdf = asPdf(document);
+        if (!m_picks)
+            return pdf;
         const Output some = newPart("pdf"_L1);
         pick(pdf, some);
         return {some.path, kPdf, document.title};
@@ -308,6 +318,33 @@ QList<JobOption> optionsAfterLayout(const QList<JobOption> &options)
     // A page that has the size of the paper already is not made smaller for its margins.
     return after << JobOption{u"print-scaling"_s, u"none"_s}
                  << JobOption{u"outputorder"_s, u"normal"_s};
+}
+
+bool isPicture(const Document &document)
+{
+    return document.format.startsWith("image/"_L1);
+}
+
+bool mustBecomePdf(const Document &document, const QList<JobOption> &options)
+{
+    const bool isPostScript = document.format == "application/postscript"_L1;
+    if (!isPicture(document) && !isPostScript)
+        return false;
+    const auto asksForPages = [&](const JobOption &option) {
+        const auto is = [&](QLatin1StringView name,
+                            std::initializer_list<QLatin1StringView> usual) {
+            return option.name == name &&
+                   std::find(usual.begin(), usual.end(), option.value) == usual.end();
+        };
+        const bool byAny = is("number-up"_L1, {"1"_L1}) || is("page-border"_L1, {"none"_L1});
+        const bool byPicture = is("mirror"_L1, {"false"_L1});
+        const bool byPostScript = is("orientation-requested"_L1, {"3"_L1}) ||
+                                  is("print-scaling"_L1, {"auto"_L1, "none"_L1}) ||
+                                  is("fit-to-page"_L1, {"false"_L1});
+        return byAny || (isPostScript ? byPostScript : byPicture);
+    };
+    return !pageChoiceOf(options).isAll() ||
+           std::any_of(options.cbegin(), options.cend(), asksForPages);
 }
 
 bool shapesDocuments(const QList<JobOption> &options)

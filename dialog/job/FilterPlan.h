@@ -33,6 +33,8 @@ struct ConversionRequest
     /// The options that are applied to a PDF all the same: which pages, how many on a sheet, in
     /// which order.
     QList<JobOption> layout{};
+    /// The document is one of several of its job, whose pages are picked before the chain.
+    bool picksPages = false;
 };
 
 /// Pages that are picked once it is known how many there are.
@@ -41,6 +43,7 @@ struct PagePick
     PageChoice choice;
     QString document; ///< a PDF
     QString counted;  ///< path of the file with the number of its pages
+    QString blank{};  ///< path of a PDF of an empty page
 
     bool operator==(const PagePick &) const = default;
 };
@@ -85,6 +88,9 @@ struct FilterPlaces
     QString folder; ///< for what stands between the documents and the result
     /// Whether what becomes of two documents can stand one after the other in a file.
     bool resultsCanFollow = true;
+    /// A PDF of one empty page, for booklets. It is smaller than any page, since the chain looks at
+    /// all of them before it scales any.
+    QString blankPage{};
 };
 
 FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &places);
@@ -92,6 +98,16 @@ FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &
 /// The options of a job whose pages were laid out already: each that would change them again has
 /// its usual value, so that nobody's default takes its place.
 QList<JobOption> optionsAfterLayout(const QList<JobOption> &options);
+
+/// Whether a picture or PostScript has to become a PDF before the filter chain sees it, so that one
+/// filter lays out whatever is printed. What the chain makes of a picture at once has neither
+/// several pages on a side nor borders nor chosen pages, or has them from a filter behind it, where
+/// the printer takes PostScript, which also mirrors what is mirrored already. PostScript for such a
+/// printer is laid out by that filter, which scales, turns and fills up in ways of its own.
+bool mustBecomePdf(const Document &document, const QList<JobOption> &options);
+
+/// Whether a document is a picture.
+bool isPicture(const Document &document);
 
 /// Whether any of the options shapes the pages of a text or a picture, so that it has to be applied
 /// when a PDF is made of those.

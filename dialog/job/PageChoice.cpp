@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <QCoreApplication>
 
@@ -22,6 +23,43 @@ int numberOr(const QString &text, int other)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     return isNumber ? number : other;
+}
+
+// Four pages a sheet: the outer side of the outermost one has the last page and the first one, its
+// inner side the second one and the last but one, and so on.
+QList<int> pagesOfBooklet(QList<int> pages, PageChoice::Booklet booklet)
+{
+    while (pages.size() % 4 != 0)
+        pages += 0;
+    QList<int> sides;
+    for (qsizetype front = 0, back = pages.size() - 1; front < back; ++front, --back) {
+        // The lower number is on the right of an outer side and on the left of an inner one.
+        const bool isLowerFirst = (front % 2 == 1) == (booklet == PageChoice::Booklet::Left);
+        const int lower = pages.at(front);
+        const int higher = pages.at(back);
+        sides << (isLowerFirst ? lower : higher) << (isLowerFirst ? higher : lower);
+    }
+    return sides;
+}
+
+// As arguments of qpdf. One of them has no more than a thousand pages: the system bounds its
+// length.
+QStringList orderedPages(const QList<int> &pages, const QString &file, const QString &blank)
+{
+    constexpr int kMostPages = 1000;
+    QStringList arguments;
+    QStringList numbers;
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        const bool isBlank = pages.at(i) == 0;
+        numbers += QString::number(isBlank ? 1 : pages.at(i));
+        const bool isLast = i + 1 == pages.size() || (pages.at(i + 1) == 0) != isBlank ||
+                            numbers.size() == kMostPages;
+        if (!isLast)
+            continue;
+        arguments << (isBlank ? blank : file) << numbers.join(u',');
+        numbers.clear();
+    }
+    return arguments;
 }
 
 } // namespace
@@ -76,13 +114,20 @@ PageChoice pageChoiceOf(const QList<JobOption> &options)
             choice.set = PageChoice::Set::Odd;
         else if (option.name == kSet && option.value == "even"_L1)
             choice.set = PageChoice::Set::Even;
+        else if (option.name == kBookletAttribute && option.value == "left"_L1)
+            choice.booklet = PageChoice::Booklet::Left;
+        else if (option.name == kBookletAttribute && option.value == "right"_L1)
+            choice.booklet = PageChoice::Booklet::Right;
+        else if (option.name == kRepeatAttribute)
+            choice.repetitions = std::max(1, numberOr(option.value, 1));
     }
     return choice;
 }
 
 bool isOfPageChoice(const JobOption &option)
 {
-    return option.name == kRanges || option.name == kSet;
+    return option.name == kRanges || option.name == kSet || option.name == kBookletAttribute ||
+           option.name == kRepeatAttribute;
 }
 
 bool mustPickPages(const QList<JobOption> &options)
@@ -90,7 +135,8 @@ bool mustPickPages(const QList<JobOption> &options)
     const bool several = std::any_of(options.cbegin(), options.cend(), [](const JobOption &option) {
         return option.name == kPagesOnASide && option.value.toInt() > 1;
     });
-    return several && !pageChoiceOf(options).isAll();
+    const PageChoice choice = pageChoiceOf(options);
+    return choice.isOrdered() || (several && !choice.isAll());
 }
 
 QList<JobOption> withoutPageChoice(const QList<JobOption> &options)
@@ -106,14 +152,86 @@ QList<JobOption> withoutPageChoice(const QList<JobOption> &options)
     return others;
 }
 
+QList<JobOption> withoutPageOrder(const QList<JobOption> &options)
+{
+    QList<JobOption> others = options;
+    others.removeIf([](const JobOption &option) {
+        return option.name == kBookletAttribute || option.name == kRepeatAttribute;
+    });
+    return others;
+}
+
 QString noSuchPages()
 {
     return QCoreApplication::translate("PageChoice", "The pages that were asked for are in none of "
                                                      "the documents. Nothing was printed.");
 }
 
-QStringList pickedPages(const PageChoice &choice, int pagesOfDocument, const QString &file)
+QList<JobOption> withPagesOfOrder(const QList<JobOption> &options)
 {
+    const PageChoice choice = pageChoiceOf(options);
+    if (!choice.isOrdered())
+        return options;
+    const int onASide = choice.booklet == PageChoice::Booklet::No ? choice.repetitions : 2;
+    QList<JobOption> ordered = options;
+    ordered.removeIf([](const JobOption &option) { return option.name == kPagesOnASide; });
+    return ordered << JobOption{QString(kPagesOnASide), QString::number(onASide)};
+}
+
+QStringList problemsOfOrder(const QList<JobOption> &options)
+{
+    const PageChoice choice = pageChoiceOf(options);
+    const bool isBooklet = choice.booklet != PageChoice::Booklet::No;
+    QStringList others;
+    for (const JobOption &option : options) {
+        const bool isNumber = option.name == kPagesOnASide && option.value != "1"_L1 &&
+                              option.value.toInt() != (isBooklet ? 2 : choice.repetitions);
+        const bool isOrder =
+            isBooklet && option.name == "number-up-layout"_L1 && option.value != "lrtb"_L1;
+        const bool isRepeated =
+            isBooklet && option.name == kRepeatAttribute && option.value != "1"_L1;
+        if (choice.isOrdered() && (isNumber || isOrder || isRepeated))
+            others += option.name + u'=' + option.value;
+    }
+    if (others.isEmpty())
+        return {};
+    const QString named = others.join(u", "_s);
+    return {isBooklet
+                ? QCoreApplication::translate("PageChoice", "A booklet has two pages on each side, "
+                                                            "in an order of its own: %1 cannot be "
+                                                            "done with it.")
+                      .arg(named)
+                : QCoreApplication::translate("PageChoice", "Each page is repeated %1 times on a "
+                                                            "side: %2 cannot be done with it.")
+                      .arg(choice.repetitions)
+                      .arg(named)};
+}
+
+QList<int> pagesInOrder(const PageChoice &choice, int pagesOfDocument)
+{
+    const QList<PageRange> ranges =
+        choice.ranges.isEmpty() ? QList{PageRange{1, pagesOfDocument}} : rangesOf(choice.ranges);
+    QList<int> chosen;
+    for (const auto &[first, last] : rangesWithin(ranges, pagesOfDocument)) {
+        for (int page = first; page <= last; ++page) {
+            const bool isOdd = page % 2 == 1;
+            if (choice.set == PageChoice::Set::All || isOdd == (choice.set == PageChoice::Set::Odd))
+                chosen += page;
+        }
+    }
+    if (choice.booklet != PageChoice::Booklet::No)
+        return pagesOfBooklet(chosen, choice.booklet);
+    QList<int> repeated;
+    for (const int page : std::as_const(chosen))
+        repeated += QList<int>(choice.repetitions, page);
+    return repeated;
+}
+
+QStringList pickedPages(const PageChoice &choice, int pagesOfDocument, const QString &file,
+                        const QString &blank)
+{
+    if (choice.isOrdered())
+        return orderedPages(pagesInOrder(choice, pagesOfDocument), file, blank);
     QStringList picked;
     const QList<PageRange> ranges =
         choice.ranges.isEmpty() ? QList{PageRange{1, pagesOfDocument}} : rangesOf(choice.ranges);

@@ -30,13 +30,7 @@ bool isAppliedByChain(const JobOption &option)
 // A value that asks for nothing but what is done anyway.
 bool asksForNothing(const JobOption &option, int copies)
 {
-    if (copies == 1 && option.name == "collate"_L1)
-        return true;
-    const JobAttribute *attribute = jobAttribute(option.name);
-    const QStringList values = option.value.split(u','); // before and behind the job
-    return attribute && !attribute->usual.isEmpty() &&
-           std::all_of(values.cbegin(), values.cend(),
-                       [&](const QString &value) { return value == attribute->usual; });
+    return (copies == 1 && option.name == "collate"_L1) || corvana::asksForNothing(option);
 }
 
 } // namespace
@@ -157,7 +151,11 @@ void ServerJob::convertForQueue()
     if (documents.constFirst().format == kRawFormat)
         return send(documents, m_request.ticket);
     const bool isRaw = m_request.ppd->isWritten;
-    const bool picks = mustPickPages(m_request.ticket.options);
+    const bool picks =
+        mustPickPages(m_request.ticket.options) ||
+        (!isRaw && std::any_of(documents.cbegin(), documents.cend(), [this](const Document &one) {
+            return mustBecomePdf(one, m_request.ticket.options);
+        }));
     if (const QString problem = isRaw ? problemOfRawQueue() : QString(); !problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
     const PpdStream stream = isRaw ? PpdStream() : streamOfPpd(m_request.ppd->path);
@@ -307,6 +305,7 @@ void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
     report({JobProgress::Stage::Sending});
     ServerJobRequest request = m_request;
     request.ticket = ticket;
+    request.ticket.options = withoutPageOrder(ticket.options); // nobody else knows them
     const int times = repetitionsOf(ticket, static_cast<int>(documents.size()));
     QList<Document> all;
     for (int i = 0; i < times; ++i)

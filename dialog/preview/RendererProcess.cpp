@@ -248,7 +248,9 @@ RendererProcess::Outcome RendererProcess::ask(const Asked &request, int descript
     if (const Outcome outcome = receive(m_settings.pagePatience, answer); outcome != Outcome::Done)
         return outcome;
     const Outcome outcome = outcomeOf(answer->status);
-    return outcome == Outcome::Died ? ended(outcome) : outcome;
+    // What a document that wanted too much has taken may never be given back.
+    const bool isUsedUp = outcome == Outcome::Died || outcome == Outcome::TooLarge;
+    return isUsedUp ? ended(outcome) : outcome;
 }
 
 RendererProcess::Outcome RendererProcess::open(quint32 document, const QString &file,

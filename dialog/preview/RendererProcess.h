@@ -77,8 +77,8 @@ public:
     /// What keeps the running process in.
     const renderer::Ready &locks() const { return m_locks; }
 
-    // What follows needs a process that runs. Outcomes from OutOfTime on have ended it, and with it
-    // all its documents are closed.
+    // What follows needs a process that runs. OutOfTime, Died and Interrupted have ended it, as has
+    // TooLarge when the process itself said so; with it all its documents are closed.
 
     /// `document` is a number that no open document has; from 1.
     Outcome open(quint32 document, const QString &file, const QString &password, int *pages);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLatin1StringView>
 #include <QString>
 #include <QStringList>
 
@@ -39,5 +40,15 @@ struct Printer
 
     bool operator==(const Printer &) const = default;
 };
+
+/// What -d calls the printer that saves documents as PDF. A queue of that name goes before it.
+inline constexpr QLatin1StringView kPdfPrinterName{"pdf"};
+
+/// Whether a printer is that one: it has no device, and its PPD is ours.
+inline bool savesPdf(const Printer &printer)
+{
+    return printer.origin == PrinterOrigin::File && printer.ppdPath.isEmpty() &&
+           printer.name == kPdfPrinterName;
+}
 
 } // namespace corvana

@@ -68,12 +68,19 @@ Printer queueNamed(const QString &name, ServerAddress *server)
     return printer;
 }
 
-FetchedPrinter filePrinter(QString *error)
+FetchedPrinter pdfPrinter(QString *error)
 {
     Printer printer;
-    printer.name = u"file"_s;
-    printer.description = Texts::tr("PostScript File");
-    return withWrittenPpd(printer, PrinterCapabilities(), {}, error);
+    printer.name = kPdfPrinterName;
+    printer.description = Texts::tr("Save as PDF");
+    // Paper that has no backs, no strips that nobody can print on, and is there once.
+    PrinterCapabilities file;
+    file.documentFormats = QStringList{u"application/pdf"_s};
+    file.sides = QStringList{u"one-sided"_s};
+    file.colorModes = QStringList{u"color"_s};
+    file.margins = {0, 0, 0, 0};
+    file.maximumCopies = 1;
+    return withWrittenPpd(printer, file, {}, error);
 }
 
 } // namespace corvana

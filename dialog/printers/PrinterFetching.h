@@ -18,8 +18,9 @@ FetchedPrinter printerWithItsFile(const Printer &printer);
 /// A queue of which only the name is known, or the printer that a URI names with its server.
 Printer queueNamed(const QString &name, ServerAddress *server);
 
-/// The printer that stands for no printer: prints any document into a PostScript file.
+/// The printer that is always there: saves any document as a PDF that is laid out on paper as
+/// every printer would have it.
 /// Errors: no PPD; `error` says what could not be written.
-FetchedPrinter filePrinter(QString *error);
+FetchedPrinter pdfPrinter(QString *error);
 
 } // namespace corvana

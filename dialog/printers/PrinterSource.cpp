@@ -67,11 +67,9 @@ PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObj
         lookForBetterQueue();
         Q_EMIT listChanged();
     });
-    if (!m_wish.files.isEmpty())
-        return;
     // Where it cannot be written, there is none; the printers of the list are not touched by that.
     QString error;
-    m_filePrinter = filePrinter(&error);
+    m_pdfPrinter = pdfPrinter(&error);
 }
 
 void PrinterSource::start()
@@ -89,8 +87,8 @@ QList<Printer> PrinterSource::printers() const
                            !find(m_queues.printers(), m_open.printer.name));
     if (unlisted)
         all.prepend(m_open.printer);
-    if (m_filePrinter.ppd)
-        all += m_filePrinter.printer;
+    if (m_pdfPrinter.ppd)
+        all += m_pdfPrinter.printer;
     return all;
 }
 
@@ -119,7 +117,7 @@ Printer PrinterSource::first()
     }
     if (name.isEmpty()) {
         m_provisional = true;
-        return m_filePrinter.printer;
+        return m_pdfPrinter.printer;
     }
     Printer printer = queueNamed(name, &m_deviceServer.address);
     if (printer.origin == PrinterOrigin::Device)
@@ -180,9 +178,8 @@ void PrinterSource::open(const Printer &printer)
 {
     reset(printer);
     if (printer.origin == PrinterOrigin::File) {
-        const bool isFilePrinter =
-            m_filePrinter.ppd && idOf(printer) == idOf(m_filePrinter.printer);
-        m_open = isFilePrinter ? m_filePrinter : printerWithItsFile(printer);
+        const bool isPdfPrinter = m_pdfPrinter.ppd && idOf(printer) == idOf(m_pdfPrinter.printer);
+        m_open = isPdfPrinter ? m_pdfPrinter : printerWithItsFile(printer);
         Q_EMIT ready(FetchedPrinter(m_open));
         return;
     }
@@ -241,11 +238,24 @@ void PrinterSource::inspect(bool mayAsk)
     });
 }
 
+// Whether the name that was asked for is that of no queue, as far as anybody can say: the printer
+// that needs no server does not wait for one.
+bool PrinterSource::meansPdfPrinter(const ServerProblem &problem) const
+{
+    using Kind = ServerProblem::Kind;
+    const bool isNoQueue = problem.kind == Kind::NotFound || problem.kind == Kind::Unreachable ||
+                           problem.kind == Kind::NoAnswer;
+    return isNoQueue && m_pdfPrinter.ppd && !m_open.ppd &&
+           m_open.printer.origin == PrinterOrigin::Queue && m_open.printer.name == kPdfPrinterName;
+}
+
 void PrinterSource::inspected(const QueueDetails &details)
 {
     m_inspecting = false;
     m_inspectionFailed = details.state == QueueDetails::Ppd::Unknown;
     if (details.state == QueueDetails::Ppd::Unknown) {
+        if (meansPdfPrinter(details.problem))
+            return open(Printer(m_pdfPrinter.printer));
         const ServerAddress &server = serverOf(m_open.printer).address;
         if (details.problem.kind == ServerProblem::Kind::NotFound) {
             const QString problem =

@@ -39,15 +39,14 @@ public:
     void questionPut() { m_queues.questionPut(); }
     void questionAnswered() { m_queues.questionAnswered(); }
 
-    /// Those of PPD files, then the queues; behind them the one that prints into a file, where
-    /// there is no other of its kind.
+    /// Those of PPD files, then the queues; behind them the one that saves documents as PDF.
     QList<Printer> printers() const;
     const QueueList &queues() const { return m_queues; }
     /// The printer of the list that a user would expect to be chosen; nothing while none is known.
     std::optional<Printer> expected() const;
 
     /// What to open first, of what is known without asking anybody: the printer that was named, the
-    /// user's default, the one used last, else the one that prints into a file.
+    /// user's default, the one used last, else the one that saves documents as PDF.
     Printer first();
     /// Whether first() is only there because nobody has been asked yet.
     bool firstIsProvisional() const { return m_provisional; }
@@ -95,6 +94,7 @@ private:
     void openFresh(const QString &name);
     void reset(const Printer &printer);
     bool lacksInstance();
+    bool meansPdfPrinter(const ServerProblem &problem) const;
     bool isOpenQueue(const Printer &printer) const;
     void lookForBetterQueue();
     void compareWith(const QueueDetails &details);
@@ -102,7 +102,7 @@ private:
     void follow();
 
     PrinterWish m_wish;
-    FetchedPrinter m_filePrinter;
+    FetchedPrinter m_pdfPrinter;
     UserQueues m_userQueues;
     PpdCache m_cache;
     QueueList m_queues;

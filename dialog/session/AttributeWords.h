@@ -16,6 +16,11 @@ inline constexpr Word kTrueOrFalse[] = {
 };
 inline constexpr Word kPagesOnASheet[] = {{"1"_L1}, {"2"_L1}, {"4"_L1},
                                           {"6"_L1}, {"9"_L1}, {"16"_L1}};
+inline constexpr Word kBooklets[] = {
+    {"no"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Off")},
+    {"left"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bound at the Left")},
+    {"right"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bound at the Right")},
+};
 inline constexpr Word kOrdersOnASheet[] = {
     {"btlr"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Up, Then to the Right")},
     {"btrl"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Up, Then to the Left")},

@@ -95,6 +95,16 @@ constexpr JobAttribute kAttributes[] = {
      "lrtb"_L1,
      QT_TRANSLATE_NOOP("JobAttributes", "Order on the Sheet"),
      {kOrdersOnASheet}},
+    {"booklet"_L1,
+     AppliedTo::Pages,
+     "no"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Booklet"),
+     {kBooklets}},
+    {"repeat"_L1,
+     AppliedTo::Pages,
+     "1"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Each Page, Times on a Side"),
+     {kPagesOnASheet}},
     {"page-border"_L1,
      AppliedTo::Pages,
      "none"_L1,
@@ -269,6 +279,15 @@ bool isAppliedTo(AppliedTo what, const JobOption &option)
 {
     const JobAttribute *attribute = jobAttribute(option.name);
     return attribute && attribute->appliedTo == what;
+}
+
+bool asksForNothing(const JobOption &option)
+{
+    const JobAttribute *attribute = jobAttribute(option.name);
+    const QStringList values = option.value.split(u','); // before and behind the job
+    return attribute && !attribute->usual.isEmpty() &&
+           std::all_of(values.cbegin(), values.cend(),
+                       [&](const QString &value) { return value == attribute->usual; });
 }
 
 QString allowedText(const AllowedValues &allowed)

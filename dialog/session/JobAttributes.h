@@ -83,6 +83,9 @@ QStringList jobAttributeNames();
 /// Whether an option is an attribute that is applied there.
 bool isAppliedTo(JobAttribute::AppliedTo what, const JobOption &option);
 
+/// Whether an option is an attribute whose value asks for nothing but what is done anyway.
+bool asksForNothing(const JobOption &option);
+
 /// The values that an attribute takes, translated, for people who pick them: "1 to 100".
 QString allowedText(const AllowedValues &allowed);
 

@@ -4,11 +4,13 @@
 #include <utility>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "dialog/job/CupsFilter.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/sheets/LaidOutDocument.h"
+#include "dialog/sheets/PictureTurn.h"
 #include "dialog/sheets/ScaleProbe.h"
 
 namespace corvana {
@@ -21,11 +23,8 @@ constexpr auto kPdf = "application/pdf"_L1;
 constexpr auto kLaidOutPdf = "application/vnd.cups-pdf"_L1;
 // Of how many pages of a document the sizes are looked at.
 constexpr int kMostDescribed = 10000;
-
-bool isPicture(const Document &document)
-{
-    return document.format.startsWith("image/"_L1);
-}
+// The sides are kept as long as they are shown, in a folder that may be in memory.
+constexpr qint64 kMostBytesKept = qint64(512) << 20;
 
 // The pages of these have sizes of their own; the others are made for the paper.
 bool hasSizes(const Document &document)
@@ -41,6 +40,18 @@ QList<JobOption> applied(JobAttribute::AppliedTo what, const QList<JobOption> &o
             some += option;
     }
     return some;
+}
+
+bool isOfMirror(const JobOption &option)
+{
+    return option.name == "mirror"_L1;
+}
+
+// The chain mirrors a side from the left to the right before it turns it as its page says. Answers
+// by how much what lies that way then is turned.
+int mirroredTurn(int turn, int rotation)
+{
+    return (rotation % 180 == 0 ? 360 - turn : 540 - turn) % 360;
 }
 
 // Options, with the only paper of our PPD.
@@ -85,6 +96,8 @@ void DocumentCount::start()
         m_pdf = m_document.path;
         lookAtPages();
     } else if (isPicture(m_document)) {
+        m_isLaidOut = !m_request.makesPdfs && !mustPickPages(m_request.options) &&
+                      !mustBecomePdf(m_document, m_request.options);
         convertPicture();
     } else if (isTextToLayOut(m_document, m_request.options)) {
         convertText();
@@ -117,22 +130,26 @@ void DocumentCount::makePdf()
             [this](bool empty) { empty ? fail(u"the document became no PDF"_s) : lookAtPages(); });
 }
 
-// The chain has a filter that puts a picture on pages at once; only by way of the printer's raster
-// data would it become a mere PDF, which takes ten times as long.
+// The chain has a filter that lays a picture out at once; only by way of the printer's raster data
+// would it become a mere PDF, which takes ten times as long.
 void DocumentCount::convertPicture()
 {
     QString problem;
     const QString filter = findCupsFilter(&problem);
-    m_pdf = file(u"document.pdf"_s);
+    if (!problem.isEmpty() || !makeSidesFolder(&problem))
+        return fail(problem);
+    m_pdf = m_isLaidOut ? sidesPath() : file(u"document.pdf"_s);
     QStringList arguments{u"-p"_s, m_ppd, u"-i"_s, m_document.format, u"-m"_s, kLaidOutPdf};
-    const QList<JobOption> options = documentOptions(m_request.options);
-    for (const JobOption &option : options)
+    QList<JobOption> options = documentOptions(m_request.options);
+    if (m_isLaidOut)
+        options += applied(JobAttribute::AppliedTo::Pages, m_request.options);
+    for (const JobOption &option : std::as_const(options))
         arguments << u"-o"_s << u"%1=%2"_s.arg(option.name, option.value);
     m_chain = std::make_unique<FilterChain>();
-    connect(m_chain.get(), &FilterChain::finished, this,
-            [this](const QString &why) { why.isEmpty() ? lookAtPages() : fail(why); });
-    if (!problem.isEmpty())
-        return fail(problem);
+    connect(m_chain.get(), &FilterChain::finished, this, [this](const QString &why) {
+        m_pictureTurn = turnOfPicture(m_pdf);
+        why.isEmpty() ? lookAtPages() : fail(why);
+    });
     m_chain->start({{filter, arguments << m_document.path, m_pdf, m_pdf}}, {});
 }
 
@@ -144,7 +161,7 @@ void DocumentCount::lookAtPages()
             return fail(u"pdfinfo found no pages"_s);
         m_sheets.pages = pages->count;
         m_pages = pages->pages;
-        layOut();
+        m_isLaidOut ? keepSides(*pages) : layOut();
     });
 }
 
@@ -156,14 +173,15 @@ ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &res
         m_texts ? optionsAfterTexts(m_request.options, m_request.documents) : m_request.options);
     request.result = ConversionRequest::Result::Pdf;
     request.layout = layoutOptions(m_request.options);
+    request.picksPages = m_request.picksPages;
     return request;
 }
 
 void DocumentCount::layOut()
 {
-    m_sides = std::make_unique<QTemporaryDir>();
-    if (!m_sides->isValid())
-        return fail(m_sides->errorString());
+    QString problem;
+    if (!makeSidesFolder(&problem))
+        return fail(problem);
     convert(layoutOf(m_pdf, sidesPath()), [this](bool empty) {
         if (!empty)
             return countSides();
@@ -179,20 +197,35 @@ void DocumentCount::countSides()
             const std::optional<PdfPages> pages = readPdfPages(said);
             if (!pages)
                 return fail(u"pdfinfo found no sides"_s);
-            m_sheets.sides = pages->count;
             keepSides(*pages);
-            if (pages->count > 0)
-                layOutProbe();
-            else
-                Q_EMIT finished({});
         });
 }
 
 void DocumentCount::keepSides(const PdfPages &sides)
 {
+    m_sheets.sides = sides.count;
+    m_rotation = sides.pages.isEmpty() ? 0 : sides.pages.constFirst().rotation;
     const QString path = sidesPath();
-    m_sheets.laidOut =
-        std::make_shared<LaidOutDocument>(std::move(m_sides), path, sides.count, sides.pages);
+    if (QFileInfo(path).size() > kMostBytesKept) {
+        m_sheets.trouble = DocumentSheets::Trouble::TooLarge;
+        m_sides.reset();
+    } else {
+        m_sheets.laidOut =
+            std::make_shared<LaidOutDocument>(std::move(m_sides), path, sides.count, sides.pages);
+    }
+    if (sides.count > 0 && !m_isLaidOut)
+        return layOutProbe();
+    m_sheets.turns = QList<int>(sides.count, m_pictureTurn);
+    Q_EMIT finished({});
+}
+
+bool DocumentCount::makeSidesFolder(QString *problem)
+{
+    if (!m_sides)
+        m_sides = std::make_unique<QTemporaryDir>();
+    if (!m_sides->isValid())
+        *problem = m_sides->errorString();
+    return problem->isEmpty();
 }
 
 QString DocumentCount::sidesPath() const
@@ -227,6 +260,8 @@ void DocumentCount::layOutProbe()
     output.close();
     ConversionRequest request = layoutOf(probe, file(u"probed.pdf"_s));
     request.layout.removeIf(isOfPageChoice);
+    // Nobody can read marks that are mirrored.
+    request.layout.removeIf(isOfMirror);
     convert(request, [this, kinds](bool empty) {
         empty ? fail(u"nothing of the probe came out"_s) : readProbe(kinds);
     });
@@ -237,8 +272,12 @@ void DocumentCount::readProbe(const QList<PdfPage> &kinds)
     const QString laidOut = file(u"probed.pdf"_s);
     run(kPdfTextProgram, probeReadingArguments(laidOut), [this, kinds](const QByteArray &said) {
         const QList<int> turns = turnsOfProbe(said, kinds);
-        for (const PdfPage &page : std::as_const(m_pages))
-            m_sheets.turns += turns.value(kinds.indexOf(page));
+        const bool isMirrored = m_request.options.contains(JobOption{u"mirror"_s, u"true"_s});
+        for (const PdfPage &page : std::as_const(m_pages)) {
+            // A picture may be turned on its page as well.
+            const int turn = (turns.value(kinds.indexOf(page)) + m_pictureTurn) % 360;
+            m_sheets.turns += isMirrored ? mirroredTurn(turn, m_rotation) : turn;
+        }
         const QList<double> scales = scalesOfProbe(said, kinds);
         for (qsizetype i = 0; hasSizes(m_document) && i < kinds.size(); ++i) {
             const PageScale scale{sizeOfPage(kinds.at(i)), scales.at(i)};

@@ -50,6 +50,7 @@ private:
     void layOutProbe();
     void readProbe(const QList<PdfPage> &kinds);
     ConversionRequest layoutOf(const QString &pdf, const QString &result) const;
+    bool makeSidesFolder(QString *problem);
     void keepSides(const PdfPages &sides);
     QString sidesPath() const;
     void fail(const QString &problem);
@@ -65,6 +66,9 @@ private:
     QString m_folder;
     QString m_pdf;                          // of the document
     std::unique_ptr<QTemporaryDir> m_sides; // holds the sides until they are known
+    bool m_isLaidOut = false;               // that PDF, at once
+    int m_rotation = 0;                     // of its sides, as their pages say
+    int m_pictureTurn = 0;                  // of what is on its pages
     DocumentSheets m_sheets;
     QList<PdfPage> m_pages;                 // of the document, as far as they were described
     QList<PdfPage> m_printed;               // among them

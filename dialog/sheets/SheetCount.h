@@ -36,10 +36,11 @@ struct DocumentSheets
     /// For each page of the document, by how much its side is turned to read that page upright,
     /// where it was found out. Units: degrees clockwise.
     QList<int> turns{};
-    /// The sides themselves; null where there are none.
+    /// The sides themselves; null where there are none, or where they cannot be shown.
     std::shared_ptr<const LaidOutDocument> laidOut{};
-    /// Why nobody could count the sides.
-    enum class Trouble { None, Failed, TookTooLong };
+    /// Why the sides cannot be shown. Of those that are too large their number is known all the
+    /// same.
+    enum class Trouble { None, Failed, TookTooLong, TooLarge };
     Trouble trouble = Trouble::None;
 
     bool operator==(const DocumentSheets &) const = default;

@@ -25,6 +25,11 @@ struct SheetRequest
     /// The options of the job, in the words of its printer's PPD.
     QList<JobOption> options;
     LayoutTraits traits;
+    /// Whether the job picks pages before the filter chain even where the chain could do it.
+    bool picksPages = false;
+    /// Whether the job makes PDFs of pictures before anything is laid out, rather than have the
+    /// chain's filter for pictures lay them out.
+    bool makesPdfs = false;
 
     bool operator==(const SheetRequest &) const = default;
 };

@@ -131,14 +131,22 @@ QStringList previewProblems(const JobSheets &sheets)
     using Trouble = DocumentSheets::Trouble;
     QStringList texts;
     for (const DocumentSheets &document : sheets.documents) {
-        if (document.trouble == Trouble::None)
+        QString form;
+        switch (document.trouble) {
+        case Trouble::None:
             continue;
-        const QString form =
-            document.trouble == Trouble::TookTooLong
-                ? Texts::tr("“%1” takes too long to be laid out here. It can be printed without a "
-                            "preview.")
-                : Texts::tr("“%1” could not be laid out here, so that there is no preview of it. "
-                            "Printing it may work.");
+        case Trouble::TookTooLong:
+            form =
+                Texts::tr("“%1” takes too long to be shown. It can be printed without a preview.");
+            break;
+        case Trouble::TooLarge:
+            form = Texts::tr("“%1” is too large to be shown. It can be printed without a preview.");
+            break;
+        case Trouble::Failed:
+            form = Texts::tr("“%1” could not be laid out, so there is no preview. Printing it may "
+                             "work all the same.");
+            break;
+        }
         texts += form.arg(terminalLine(document.title));
     }
     return texts;

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <iterator>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
+#include "dialog/task/SavedAsPdf.h"
 
 namespace corvana {
 
@@ -38,6 +40,8 @@ constexpr Offer kOffers[] = {
     {"outputorder"_L1, Place::More},
     {kNumberUpLayout, Place::More},
     {"page-border"_L1, Place::More},
+    {kBookletAttribute, Place::More},
+    {kRepeatAttribute, Place::More},
     {"mirror"_L1, Place::More},
     {"job-sheets"_L1, Place::More},
     {"job-hold-until"_L1, Place::More},
@@ -111,7 +115,11 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer)
 {
     if (passesFilesOn(printer))
         return isDoneWhenPassedOn(name, printer);
+    if (savesPdf(printer) && !isDoneInPdf(name))
+        return false;
     const PpdSession &session = *printer.session;
+    if (name == kBookletAttribute)
+        return savesPdf(printer) || choiceForBooklet(printer);
     if (name == kPrintColorMode)
         return session.ppd()->color_device && !hasColorOption(session);
     return !ownOption(name, session) || ownChoice(name, u"true"_s, printer);
@@ -152,6 +160,14 @@ std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
             return OptionChoice{ppdKeyword(option->keyword), choice};
     }
     return std::nullopt;
+}
+
+std::optional<OptionChoice> choiceForBooklet(const OpenedPrinter &printer)
+{
+    ppd_option_t *option = ppdOption(printer.session->ppd(), kDuplexOption);
+    if (!ppdChoice(option, kDuplexShortEdge))
+        return std::nullopt;
+    return OptionChoice{kDuplexOption, kDuplexShortEdge};
 }
 
 } // namespace corvana

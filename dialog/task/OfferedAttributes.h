@@ -28,4 +28,8 @@ QList<OfferedAttribute> offeredAttributes(const JobSettings &settings,
 std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
                                       const OpenedPrinter &printer);
 
+/// The choice by which a printer turns the sheets of a booklet over; nothing where it prints on one
+/// side only.
+std::optional<OptionChoice> choiceForBooklet(const OpenedPrinter &printer);
+
 } // namespace corvana

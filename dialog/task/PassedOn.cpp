@@ -30,12 +30,6 @@ constexpr QLatin1StringView kDone[] = {
 };
 constexpr auto kSheets = "job-sheets"_L1;
 
-bool asksForNothing(const JobOption &option)
-{
-    const JobAttribute *attribute = jobAttribute(option.name);
-    return attribute && !attribute->usual.isEmpty() && option.value == attribute->usual;
-}
-
 bool isRaw(const JobOption &option)
 {
     return option.name == kRaw.name;

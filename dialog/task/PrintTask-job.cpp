@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "dialog/job/FileJob.h"
+#include "dialog/job/PageChoice.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/job/TextDocuments.h"
 #include "dialog/session/OptionNames.h"
@@ -91,7 +92,7 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
-    return withAnswersToDefaults(settings.attributes(), *m_opened);
+    return withAnswersToDefaults(withPagesOfOrder(settings.attributes()), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -108,6 +109,8 @@ std::optional<TaskRefusal> PrintTask::finish()
                                "expected, such as 1-4, 7, 9-.")
                                 .arg(m_settings.pageRanges())},
                            Place::Pages};
+    if (const QStringList problems = problemsOfOrder(m_settings.attributes()); !problems.isEmpty())
+        return TaskRefusal{problems};
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialog/job/PpdFilters.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/Summary.h"
@@ -39,7 +40,21 @@ SheetRequest PrintTask::sheetRequest(const JobTicket &ticket) const
             request.options += option;
     }
     request.traits = layoutTraits(m_opened->session->ppd(), ticket.options);
+    const bool isForDevice = !printsToFile() && m_chosen.printer.origin == PrinterOrigin::Device;
+    const bool becomesOne = isForDevice || putsDocumentsTogether();
+    request.makesPdfs = becomesOne;
+    request.picksPages = request.documents.size() > 1 && (becomesOne || printsToFile());
     return request;
+}
+
+// Where what the filters make of several documents cannot stand in one stream, the job makes one
+// document of them.
+bool PrintTask::putsDocumentsTogether() const
+{
+    if (m_request.documents.size() < 2)
+        return false;
+    const PpdStream stream = streamOfPpd(m_opened->fetched.ppd->path);
+    return !stream.continues && (printsToFile() || !stream.isCutByServer);
 }
 
 QList<SummaryLine> PrintTask::summary()

@@ -4,11 +4,13 @@
 
 #include <QPointer>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
+#include "dialog/task/SavedAsPdf.h"
 #include "dialog/task/StartValues.h"
 #include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
@@ -148,9 +150,11 @@ QStringList PrintTask::takeMostCopies()
         m_opened->fetched.capabilities ? m_opened->fetched.capabilities->maximumCopies : 0);
     if (!m_settings.asksForTooMany())
         return {};
-    const QString problem = tr("The printer prints at most %1 copies at once, not %2.")
-                                .arg(m_settings.mostCopies())
-                                .arg(m_settings.copiesAskedFor());
+    const QString problem = savesAsPdf()
+                                ? tr("A PDF file is saved once: there are no copies of it.")
+                                : tr("The printer prints at most %1 copies at once, not %2.")
+                                      .arg(m_settings.mostCopies())
+                                      .arg(m_settings.copiesAskedFor());
     switch (m_settings.copiesAskedForBy()) {
     case By::Options:
     case By::CommandLine:
@@ -178,6 +182,11 @@ QList<SummaryLine> PrintTask::summaryOfSettings()
 bool PrintTask::passesFilesOn() const
 {
     return m_opened && corvana::passesFilesOn(*m_opened, m_settings.attributes());
+}
+
+bool PrintTask::savesAsPdf() const
+{
+    return m_opened && savesPdf(*m_opened);
 }
 
 // Without its controls a panel would print other choices than with them.
@@ -235,6 +244,10 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         return {};
     Q_EMIT unsaid();
     m_settings.setAttribute(name, *taken);
+    const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
+    const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
+    if (isBooklet && folding)
+        propose(folding->keyword, folding->choice);
     showSettings();
     return {};
 }

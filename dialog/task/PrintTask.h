@@ -74,7 +74,7 @@ public:
     // The printer (PrintTask-printers.cpp)
 
     /// Opens the first printer for somebody who can choose another one: the printer that was named,
-    /// the user's default, the one used last, else one that prints into a file. It is there at once
+    /// the user's default, the one used last, else the one that saves a PDF. It is there at once
     /// where its options are known from before.
     void start();
     /// Opens the printer for somebody who cannot choose: the one that was named, the user's
@@ -138,6 +138,8 @@ public:
     /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
     /// that is done to pages has an effect.
     bool passesFilesOn() const;
+    /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
+    bool savesAsPdf() const;
 
     // The colours of its pages (PrintTask-colors.cpp)
 
@@ -318,6 +320,7 @@ private:
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;
+    bool putsDocumentsTogether() const;
     QList<SummaryLine> withSheets(QList<SummaryLine> lines, const JobTicket &ticket) const;
     QList<SummaryLine> summaryOfSettings();
     void countBeforeJob();

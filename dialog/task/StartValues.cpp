@@ -5,13 +5,16 @@
 
 #include <QCoreApplication>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/PrintRequest.h"
+#include "dialog/task/SavedAsPdf.h"
 
 namespace corvana {
 
@@ -210,6 +213,17 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
     return {areMarked(choices, *printer.session) ? option : JobOption{option.name, usual}};
 }
 
+// A booklet is printed on both sides, which are turned over at the short edge, unless its options
+// say how themselves.
+QList<JobOption> foldingOf(const QList<JobOption> &options, const OpenedPrinter &printer)
+{
+    const bool isSaid = isNamed(options, u"sides"_s) || isNamed(options, kDuplexOption);
+    const std::optional<OptionChoice> folding = choiceForBooklet(printer);
+    if (isSaid || !folding || pageChoiceOf(options).booklet == PageChoice::Booklet::No)
+        return {};
+    return {{folding->keyword, folding->choice}};
+}
+
 } // namespace
 
 std::span<const StartLayer> startLayers()
@@ -232,6 +246,9 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
         QStringList problems;
         if (passesOn)
             problems = takeWhatCannotBeDone(options[i], printer);
+        else if (savesPdf(printer))
+            problems = takeWhatPdfLacks(options[i]);
+        options[i] += foldingOf(options.at(i), printer);
         // What such a queue's own defaults ask for is done by nobody.
         if (layer.by == By::Queue)
             problems.clear();

@@ -49,6 +49,13 @@ int PreviewFolding::leastWidth() const
     return m_settings.usualWidth() + kLeastPreview + around();
 }
 
+int PreviewFolding::openingWidth(int wanted) const
+{
+    const int room = m_window.screen()->availableSize().width();
+    const bool folded = m_byHand || qMin(wanted, room) < leastWidth();
+    return folded ? m_settings.usualWidth() + around() : wanted;
+}
+
 void PreviewFolding::follow()
 {
     apply();

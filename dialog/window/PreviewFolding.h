@@ -20,6 +20,9 @@ public:
     PreviewFolding(QWidget &window, QBoxLayout &columns, PreviewPane &preview,
                    SettingsColumn &settings);
 
+    /// The width that a window opens with which nobody has given another one: `wanted`, or that of
+    /// the settings alone where the preview is not there. Units: pixels.
+    int openingWidth(int wanted) const;
     /// The window has another size.
     void follow();
     /// The user folds the preview, or wants it back: the window gets narrower, or wider as far as

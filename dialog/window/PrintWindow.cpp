@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QResizeEvent>
 #include <QScreen>
@@ -41,6 +43,11 @@ constexpr int kUsualWidth = 80;
 constexpr int kUsualHeight = 54;
 // Whatever the font. Units: pixels.
 constexpr QSize kLargestAtFirst{1200, 850};
+
+bool isEnter(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
 
 } // namespace
 
@@ -81,7 +88,9 @@ void PrintWindow::buildWindow()
     parts->add(m_preview, [this] { return m_preview->focusTarget(); });
     parts->add(m_footer, [this] { return m_footer->buttons().constLast(); });
     const int em = fontMetrics().height();
-    m_growth.open(QSize(kUsualWidth * em, kUsualHeight * em).boundedTo(kLargestAtFirst));
+    QSize usual = QSize(kUsualWidth * em, kUsualHeight * em).boundedTo(kLargestAtFirst);
+    usual.setWidth(m_folding->openingWidth(usual.width()));
+    m_growth.open(usual);
     m_folding->follow();
 }
 
@@ -157,8 +166,40 @@ void PrintWindow::orderFocus()
     QList<QWidget *> behind = m_preview->focusOrder();
     behind += m_message->focusOrder();
     behind += m_footer->buttons();
-    for (QWidget *widget : std::as_const(behind))
-        setTabOrder(previousInFocusChain(), widget);
+    QWidget *before = previousInFocusChain();
+    // What never has the focus is left where it is, and so is what is put behind it.
+    while (before != this && (before->focusPolicy() == Qt::NoFocus || behind.contains(before)))
+        before = before->previousInFocusChain();
+    for (QWidget *widget : std::as_const(behind)) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
+}
+
+PrintWindow::Taken PrintWindow::taken() const
+{
+    if (!m_task->opened())
+        return {};
+    return {m_task->opened()->session->snapshot(), m_task->settings().attributes(),
+            m_task->settings().copies()};
+}
+
+bool PrintWindow::event(QEvent *event)
+{
+    // Asked before the field that has the focus gets the key.
+    if (event->type() == QEvent::ShortcutOverride && isEnter(static_cast<QKeyEvent *>(event)))
+        m_beforeEnter = taken();
+    return QDialog::event(event);
+}
+
+// Enter prints, unless it has just taken what was typed into a field: nobody has seen yet what came
+// of that.
+void PrintWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (isEnter(event) && !qobject_cast<QAbstractButton *>(focusWidget()) &&
+        taken() != m_beforeEnter)
+        return;
+    QDialog::keyPressEvent(event);
 }
 
 void PrintWindow::accept()

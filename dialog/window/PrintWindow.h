@@ -47,6 +47,8 @@ public:
     void reject() override;
 
 protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -57,12 +59,23 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    // What Enter in a field may take.
+    struct Taken
+    {
+        SessionSnapshot session;
+        QList<JobOption> attributes;
+        int copies = 1;
+
+        bool operator==(const Taken &) const = default;
+    };
+
     // The window itself (PrintWindow.cpp)
 
     void buildWindow();
     void buildColumns(SettingsColumn *settings);
     void connectParts();
     void addPageShortcuts();
+    Taken taken() const;
     void orderFocus();
     void followList();
     void takeIconsFromTheme();
@@ -111,6 +124,7 @@ private:
     HelpWindow *m_help = nullptr;
     WindowGrowth m_growth;
     QString m_report;
+    Taken m_beforeEnter;
     bool m_painted = false;
 };
 

@@ -51,8 +51,8 @@ _corvana_print_words() {
 _corvana_print_keywords() {
     local keyword
     compopt -o nospace 2>/dev/null
-    for keyword in media sides copies landscape number-up number-up-layout page-border page-ranges \
-        page-set orientation-requested fit-to-page print-scaling scaling natural-scaling ppi \
+    for keyword in media sides copies landscape number-up number-up-layout booklet repeat \
+        page-border page-ranges page-set orientation-requested fit-to-page print-scaling scaling natural-scaling ppi \
         position mirror page-left page-right page-top page-bottom cpi lpi columns wrap prettyprint \
         collate outputorder job-hold-until job-priority job-sheets job-billing; do
         [[ $keyword == "$current"* ]] && COMPREPLY+=("$keyword=")
@@ -65,6 +65,8 @@ _corvana_print_values() {
     media) _corvana_print_words A4 A5 Letter Legal ;;
     sides) _corvana_print_words one-sided two-sided-long-edge two-sided-short-edge ;;
     number-up) _corvana_print_words 1 2 4 6 9 16 ;;
+    booklet) _corvana_print_words left right no ;;
+    repeat) _corvana_print_words 1 2 4 6 9 16 ;;
     number-up-layout) _corvana_print_words btlr btrl lrbt lrtb rlbt rltb tblr tbrl ;;
     page-border) _corvana_print_words none single single-thick double double-thick ;;
     page-set) _corvana_print_words all even odd ;;

@@ -23,6 +23,8 @@ function __corvana_print_options
     end
     printf 'sides=%s\n' one-sided two-sided-long-edge two-sided-short-edge
     printf 'number-up=%s\n' 1 2 4 6 9 16
+    printf 'booklet=%s\n' left right no
+    printf 'repeat=%s\n' 1 2 4 6 9 16
     printf 'number-up-layout=%s\n' btlr btrl lrbt lrtb rlbt rltb tblr tbrl
     printf 'page-border=%s\n' none single single-thick double double-thick
     printf 'page-set=%s\n' all even odd

@@ -24,6 +24,8 @@ constexpr int kAllowed[] = {
     SCMP_SYS(access), SCMP_SYS(faccessat), SCMP_SYS(faccessat2), SCMP_SYS(readlink),
     SCMP_SYS(readlinkat), SCMP_SYS(getdents), SCMP_SYS(getdents64), SCMP_SYS(fadvise64),
     SCMP_SYS(statfs), SCMP_SYS(fstatfs), SCMP_SYS(statfs64), SCMP_SYS(fstatfs64), SCMP_SYS(getcwd),
+    // Waiting for a request.
+    SCMP_SYS(poll), SCMP_SYS(ppoll), SCMP_SYS(ppoll_time64),
     // The picture: the memory that came with a request is written like a file.
     SCMP_SYS(pwrite64),
     // Memory. What may be mapped, see below.

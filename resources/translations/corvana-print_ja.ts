@@ -488,6 +488,31 @@
         <source>%1 to %2</source>
         <translation>%1～%2</translation>
     </message>
+    <message>
+        <source>Bound at the Left</source>
+        <translation>左とじ</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右とじ</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>冊子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>同じページの 1 面あたりの回数</translation>
+    </message>
+</context>
+<context>
+    <name>JobNames</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -606,8 +631,8 @@
 <context>
     <name>PrinterFetching</name>
     <message>
-        <source>PostScript File</source>
-        <translation>PostScript ファイル</translation>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
     </message>
 </context>
 <context>
@@ -845,12 +870,6 @@
 </context>
 <context>
     <name>RequestFromCommandLine</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 ほか %n 件</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: the name is not written in UTF-8.</source>
         <translation>%1: 名前が UTF-8 ではありません。</translation>
@@ -1177,6 +1196,73 @@
     </message>
 </context>
 <context>
+    <name>SheetView</name>
+    <message>
+        <source>cover sheet</source>
+        <translation>カバーシート</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>白紙</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>印刷あり</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>%L1 back</source>
+        <translation>%L1 裏</translation>
+    </message>
+    <message>
+        <source>%L1 front</source>
+        <translation>%L1 表</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 の %1</translation>
+    </message>
+    <message>
+        <source>Sheet %L1: %2</source>
+        <translation>%L1 枚目: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, back: %2</source>
+        <translation>%L1 枚目の裏: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, front: %2</source>
+        <translation>%L1 枚目の表: %2</translation>
+    </message>
+    <message>
+        <source>%1, landscape</source>
+        <translation>%1、横向き</translation>
+    </message>
+    <message>
+        <source>Bound at the left edge</source>
+        <translation>左端でとじます</translation>
+    </message>
+    <message>
+        <source>Bound at the top edge</source>
+        <translation>上端でとじます</translation>
+    </message>
+    <message>
+        <source>Bound at the right edge</source>
+        <translation>右端でとじます</translation>
+    </message>
+    <message>
+        <source>Bound at the bottom edge</source>
+        <translation>下端でとじます</translation>
+    </message>
+</context>
+<context>
     <name>StartValues</name>
     <message>
         <source>This printer has no option of the name %1.</source>
@@ -1331,6 +1417,17 @@
     </message>
 </context>
 <context>
+    <name>corvana::ColorsRow</name>
+    <message>
+        <source>Hold to Compare</source>
+        <translation>押して比較</translation>
+    </message>
+    <message>
+        <source>While it is held, the document is shown as it is, without adjustments.</source>
+        <translation>押している間は、調整していない元の文書を表示します。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1339,6 +1436,21 @@
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>%1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CountsRow</name>
+    <message>
+        <source>Sheets</source>
+        <translation>枚数</translation>
+    </message>
+    <message>
+        <source>Show Preview</source>
+        <translation>プレビューを表示</translation>
+    </message>
+    <message>
+        <source>Hide Preview</source>
+        <translation>プレビューを隠す</translation>
     </message>
 </context>
 <context>
@@ -1401,6 +1513,51 @@
     <message>
         <source>inches</source>
         <translation>インチ</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::DocumentArea</name>
+    <message>
+        <source>Print this document earlier</source>
+        <translation>この文書を前に印刷</translation>
+    </message>
+    <message>
+        <source>Print this document later</source>
+        <translation>この文書を後に印刷</translation>
+    </message>
+    <message>
+        <source>Do not print this document</source>
+        <translation>この文書を印刷しない</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Print further documents in the same job</source>
+        <translation>ほかの文書も同じジョブで印刷</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Documents in the order in which they are printed</source>
+        <translation>印刷する順に並んだ文書</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents, printed in this order:</source>
+        <translation>
+            <numerusform>%n 個の文書をこの順に印刷:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書を選択</translation>
     </message>
 </context>
 <context>
@@ -1544,6 +1701,14 @@
         <source>Dismiss this message</source>
         <translation>このメッセージを閉じる</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Show all of this message</source>
+        <translation>メッセージ全体を表示</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsModel</name>
@@ -1587,6 +1752,28 @@ For the command line: %2</source>
     <message>
         <source>Nothing contains “%1”.</source>
         <translation>「%1」を含むものはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPane</name>
+    <message>
+        <source>Counting the sheets…</source>
+        <translation>枚数を数えています…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPlaceholder</name>
+    <message>
+        <source>Choose &amp;Documents…</source>
+        <translation>文書を選択(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Drop documents here to print them.</source>
+        <translation>印刷する文書をここにドロップしてください。</translation>
+    </message>
+    <message>
+        <source>PDF, PostScript, text, PNG and JPEG; several are one job.</source>
+        <translation>PDF、PostScript、テキスト、PNG、JPEG。複数の文書は 1 つのジョブになります。</translation>
     </message>
 </context>
 <context>
@@ -1697,6 +1884,26 @@ For the command line: %2</source>
     <message>
         <source>Enter the Owner&apos;s Password…</source>
         <translation>所有者のパスワードを入力…</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>印刷する文書を選択してください。</translation>
+    </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>文書が選択されていません。</translation>
+    </message>
+    <message>
+        <source>There is a preview once the printer is known.</source>
+        <translation>プリンターが決まるとプレビューが表示されます。</translation>
+    </message>
+    <message>
+        <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
+        <translation>ファイルはそのままプリンターに渡されます。何が印刷されるかはここではわかりません。</translation>
+    </message>
+    <message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF ファイルは 1 つだけ保存されます。部数は指定できません。</translation>
     </message>
 </context>
 <context>
@@ -1940,10 +2147,43 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::SheetView</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Preview. %1</source>
+        <translation>プレビュー。%1</translation>
+    </message>
+    <message>
+        <source>Cover sheet of the queue: %1</source>
+        <translation>キューのカバーシート: %1</translation>
+    </message>
+    <message>
+        <source>Updating…</source>
+        <translation>更新しています…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SheetsRow</name>
+    <message>
+        <source>Sheet %L1 of %L2</source>
+        <translation>%L1 / %L2 枚</translation>
+    </message>
+</context>
+<context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>設定一覧</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskPreview</name>
+    <message>
+        <source>It can be printed all the same.</source>
+        <translation>プレビューがなくても印刷できます。</translation>
     </message>
 </context>
 <context>
@@ -1974,6 +2214,33 @@ For the command line: %2</source>
     <message>
         <source>Printing was canceled.</source>
         <translation>印刷を中止しました。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ZoomControl</name>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Size of the sheets</source>
+        <translation>表示の大きさ</translation>
+    </message>
+    <message>
+        <source>Fit Page</source>
+        <translation>ページ全体</translation>
+    </message>
+    <message>
+        <source>Fit Width</source>
+        <translation>幅に合わせる</translation>
+    </message>
+    <message>
+        <source>%L1 %</source>
+        <translation>%L1 %</translation>
     </message>
 </context>
 <context>
@@ -2011,6 +2278,14 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>冊子は各面に 2 ページを独自の順序で配置します。%1 は併用できません。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>各ページが 1 つの面に %1 回配置されます。%2 は併用できません。</translation>
     </message>
 </context>
 <context>
@@ -2121,6 +2396,18 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>印刷される大きさ</translation>
+    </message>
+    <message>
+        <source>“%1” takes too long to be shown. It can be printed without a preview.</source>
+        <translation>「%1」の表示には時間がかかりすぎます。プレビューなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be shown. It can be printed without a preview.</source>
+        <translation>「%1」は大きすぎて表示できません。プレビューなしで印刷できます。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
+        <translation>「%1」をページに配置できなかったため、プレビューはありません。それでも印刷できることがあります。</translation>
     </message>
 </context>
 <context>
@@ -2316,6 +2603,13 @@ For the command line: %2</source>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF ファイルは保留も印刷もされません。%1 は実行できません。</translation>
     </message>
 </context>
 </TS>

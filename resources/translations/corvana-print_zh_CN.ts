@@ -488,6 +488,31 @@
         <source>%1 to %2</source>
         <translation>%1 至 %2</translation>
     </message>
+    <message>
+        <source>Bound at the Left</source>
+        <translation>左侧装订</translation>
+    </message>
+    <message>
+        <source>Bound at the Right</source>
+        <translation>右侧装订</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Each Page, Times on a Side</source>
+        <translation>每面重复同一页的次数</translation>
+    </message>
+</context>
+<context>
+    <name>JobNames</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 等另外 %n 个</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>JobRequests</name>
@@ -606,8 +631,8 @@
 <context>
     <name>PrinterFetching</name>
     <message>
-        <source>PostScript File</source>
-        <translation>PostScript 文件</translation>
+        <source>Save as PDF</source>
+        <translation>另存为 PDF</translation>
     </message>
 </context>
 <context>
@@ -845,12 +870,6 @@
 </context>
 <context>
     <name>RequestFromCommandLine</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 等另外 %n 个</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: the name is not written in UTF-8.</source>
         <translation>%1：名称不是 UTF-8 编码。</translation>
@@ -1177,6 +1196,73 @@
     </message>
 </context>
 <context>
+    <name>SheetView</name>
+    <message>
+        <source>cover sheet</source>
+        <translation>封面页</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>有内容</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>%L1 back</source>
+        <translation>%L1 背面</translation>
+    </message>
+    <message>
+        <source>%L1 front</source>
+        <translation>%L1 正面</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 的%1</translation>
+    </message>
+    <message>
+        <source>Sheet %L1: %2</source>
+        <translation>第 %L1 张：%2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, back: %2</source>
+        <translation>第 %L1 张背面：%2</translation>
+    </message>
+    <message>
+        <source>Sheet %L1, front: %2</source>
+        <translation>第 %L1 张正面：%2</translation>
+    </message>
+    <message>
+        <source>%1, landscape</source>
+        <translation>%1，横向</translation>
+    </message>
+    <message>
+        <source>Bound at the left edge</source>
+        <translation>在左边装订</translation>
+    </message>
+    <message>
+        <source>Bound at the top edge</source>
+        <translation>在上边装订</translation>
+    </message>
+    <message>
+        <source>Bound at the right edge</source>
+        <translation>在右边装订</translation>
+    </message>
+    <message>
+        <source>Bound at the bottom edge</source>
+        <translation>在下边装订</translation>
+    </message>
+</context>
+<context>
     <name>StartValues</name>
     <message>
         <source>This printer has no option of the name %1.</source>
@@ -1331,6 +1417,17 @@
     </message>
 </context>
 <context>
+    <name>corvana::ColorsRow</name>
+    <message>
+        <source>Hold to Compare</source>
+        <translation>按住对比</translation>
+    </message>
+    <message>
+        <source>While it is held, the document is shown as it is, without adjustments.</source>
+        <translation>按住时显示未经调整的原文档。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1339,6 +1436,21 @@
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CountsRow</name>
+    <message>
+        <source>Sheets</source>
+        <translation>张数</translation>
+    </message>
+    <message>
+        <source>Show Preview</source>
+        <translation>显示预览</translation>
+    </message>
+    <message>
+        <source>Hide Preview</source>
+        <translation>隐藏预览</translation>
     </message>
 </context>
 <context>
@@ -1401,6 +1513,51 @@
     <message>
         <source>inches</source>
         <translation>英寸</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::DocumentArea</name>
+    <message>
+        <source>Print this document earlier</source>
+        <translation>提前打印此文档</translation>
+    </message>
+    <message>
+        <source>Print this document later</source>
+        <translation>延后打印此文档</translation>
+    </message>
+    <message>
+        <source>Do not print this document</source>
+        <translation>不打印此文档</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Print further documents in the same job</source>
+        <translation>在同一作业中打印其他文档</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>添加…</translation>
+    </message>
+    <message>
+        <source>Documents in the order in which they are printed</source>
+        <translation>按打印顺序排列的文档</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents, printed in this order:</source>
+        <translation>
+            <numerusform>%n 个文档，按此顺序打印：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>选择要打印的文档</translation>
     </message>
 </context>
 <context>
@@ -1544,6 +1701,14 @@
         <source>Dismiss this message</source>
         <translation>关闭此消息</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>Show all of this message</source>
+        <translation>显示完整消息</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsModel</name>
@@ -1587,6 +1752,28 @@ For the command line: %2</source>
     <message>
         <source>Nothing contains “%1”.</source>
         <translation>没有包含“%1”的内容。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPane</name>
+    <message>
+        <source>Counting the sheets…</source>
+        <translation>正在计算张数…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PreviewPlaceholder</name>
+    <message>
+        <source>Choose &amp;Documents…</source>
+        <translation>选择文档(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Drop documents here to print them.</source>
+        <translation>将要打印的文档拖放到此处。</translation>
+    </message>
+    <message>
+        <source>PDF, PostScript, text, PNG and JPEG; several are one job.</source>
+        <translation>PDF、PostScript、文本、PNG 和 JPEG；多个文档合为一个作业。</translation>
     </message>
 </context>
 <context>
@@ -1697,6 +1884,26 @@ For the command line: %2</source>
     <message>
         <source>Enter the Owner&apos;s Password…</source>
         <translation>输入所有者密码…</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>请选择要打印的文档。</translation>
+    </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>尚未选择文档。</translation>
+    </message>
+    <message>
+        <source>There is a preview once the printer is known.</source>
+        <translation>确定打印机后会显示预览。</translation>
+    </message>
+    <message>
+        <source>Files are passed on to the printer as they are. What comes out is not known here.</source>
+        <translation>文件会原样传送到打印机。这里无法得知打印结果。</translation>
+    </message>
+    <message>
+        <source>A PDF file is saved once: there are no copies of it.</source>
+        <translation>PDF 文件只保存一次，没有份数。</translation>
     </message>
 </context>
 <context>
@@ -1940,10 +2147,43 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>corvana::SheetView</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Preview. %1</source>
+        <translation>预览。%1</translation>
+    </message>
+    <message>
+        <source>Cover sheet of the queue: %1</source>
+        <translation>队列的封面页：%1</translation>
+    </message>
+    <message>
+        <source>Updating…</source>
+        <translation>正在更新…</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SheetsRow</name>
+    <message>
+        <source>Sheet %L1 of %L2</source>
+        <translation>第 %L1 张，共 %L2 张</translation>
+    </message>
+</context>
+<context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>设置摘要</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskPreview</name>
+    <message>
+        <source>It can be printed all the same.</source>
+        <translation>没有预览也可以打印。</translation>
     </message>
 </context>
 <context>
@@ -1974,6 +2214,33 @@ For the command line: %2</source>
     <message>
         <source>Printing was canceled.</source>
         <translation>已取消打印。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ZoomControl</name>
+    <message>
+        <source>Smaller</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Size of the sheets</source>
+        <translation>显示大小</translation>
+    </message>
+    <message>
+        <source>Fit Page</source>
+        <translation>适合页面</translation>
+    </message>
+    <message>
+        <source>Fit Width</source>
+        <translation>适合宽度</translation>
+    </message>
+    <message>
+        <source>%L1 %</source>
+        <translation>%L1 %</translation>
     </message>
 </context>
 <context>
@@ -2011,6 +2278,14 @@ For the command line: %2</source>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
+        <translation>小册子每面有两页，并有自己的顺序：无法同时执行 %1。</translation>
+    </message>
+    <message>
+        <source>Each page is repeated %1 times on a side: %2 cannot be done with it.</source>
+        <translation>每页在一面上重复 %1 次：无法同时执行 %2。</translation>
     </message>
 </context>
 <context>
@@ -2121,6 +2396,18 @@ For the command line: %2</source>
     <message>
         <source>Printed Size</source>
         <translation>打印大小</translation>
+    </message>
+    <message>
+        <source>“%1” takes too long to be shown. It can be printed without a preview.</source>
+        <translation>显示“%1”所需时间过长。可以在没有预览的情况下打印。</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be shown. It can be printed without a preview.</source>
+        <translation>“%1”太大，无法显示。可以在没有预览的情况下打印。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
+        <translation>无法对“%1”进行排版，因此没有预览。仍有可能打印成功。</translation>
     </message>
 </context>
 <context>
@@ -2316,6 +2603,13 @@ For the command line: %2</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>SavedAsPdf</name>
+    <message>
+        <source>A PDF file is neither held nor printed: %1 cannot be done.</source>
+        <translation>PDF 文件既不会被保留也不会被打印：无法执行 %1。</translation>
     </message>
 </context>
 </TS>

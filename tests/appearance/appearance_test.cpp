@@ -14,9 +14,12 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeView>
 
 #include "dialog/app/Translations.h"
+#include "dialog/window/pages/MessageBar.h"
+#include "dialog/window/preview/SheetView.h"
 #include "tests/appearance/Inspection.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/support/WindowDriver.h"
@@ -81,6 +84,57 @@ private Q_SLOTS:
         QTest::qWait(50);
         savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
         QCOMPARE(faultsOf(&dialog), QString());
+    }
+
+    void everyShapeOfTheWindowIsWhole_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QString>("shape");
+        for (const bool dark : {false, true}) {
+            for (const char *shape : {"two-sided", "several-documents", "no-document", "folded",
+                                      "mirrored", "narrow", "message"})
+                QTest::addRow("shape_%s_%s", shape, dark ? "dark" : "light")
+                    << dark << QString::fromLatin1(shape);
+        }
+    }
+
+    void everyShapeOfTheWindowIsWhole()
+    {
+        QFETCH(bool, dark);
+        QFETCH(QString, shape);
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        QApplication::setLayoutDirection(shape == "mirrored"_L1 ? Qt::RightToLeft
+                                                                : Qt::LeftToRight);
+        PrintRequest wanted = request({u"sides=two-sided-long-edge"_s});
+        if (shape == "several-documents"_L1) {
+            while (wanted.documents.size() < 6)
+                wanted.documents += wanted.documents.constFirst();
+            wanted.documents[1].title = QString(150, u'm') + u".pdf"_s;
+        }
+        if (shape == "no-document"_L1)
+            wanted.documents.clear();
+        WindowDriver window(wanted);
+        PrintWindow &dialog = window.dialog();
+        QTRY_COMPARE(dialog.task().phase(), PrintTask::Phase::Ready);
+        if (shape == "narrow"_L1)
+            dialog.resize(dialog.width() - window.child<QWidget>(u"preview"_s)->width() + 330,
+                          dialog.height());
+        if (shape == "folded"_L1)
+            window.child<QToolButton>(u"foldPreview"_s)->click();
+        if (shape == "message"_L1)
+            window.child<MessageBar>(u"message"_s)
+                ->showMessage(MessageBar::Kind::Problem, u"Some words. "_s.repeated(60),
+                              u"Change it"_s, [] {});
+        auto *sheets = window.child<SheetView>(u"sheets"_s);
+        if (shape != "no-document"_L1)
+            QTRY_VERIFY_WITH_TIMEOUT(!sheets->sheets().plan.sheets.isEmpty(), kWindowPatience);
+        QTest::qWait(500); // for the pictures
+        savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
+        const QString faults = faultsOf(&dialog);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        if (shape == "folded"_L1)
+            window.child<QToolButton>(u"foldPreview"_s)->click(); // which is remembered
+        QCOMPARE(faults, QString());
     }
 
     void theAttributesOfAJobAreWhole_data()

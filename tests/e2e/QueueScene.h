@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 /// The queue of a QueueScene.
 inline const QString kQueue = u"office"_s;
 /// The printer of a window that prints into files.
-inline const QString kFilePrinter = u"PostScript File"_s;
+inline const QString kFilePrinter = u"Save as PDF"_s;
 
 // What the window says, as expressions: the beginning of a complaint about the server, the end of
 // one about a job, and the report of a job with that number.

@@ -165,11 +165,11 @@ open_conflict() {
     read -r bar_left bar_top bar_right _ <<<"$area"
 }
 
-# The button stands at the right of the message, left of a small one that closes it, at half of a
-# height that depends on the text. Above it nothing takes a click.
+# The button stands at the right below the text of the message, whose height depends on the text.
+# The text takes a click as well, to be copied: what is tried begins below its two lines.
 press_button_of_message() {
     local below
-    for below in 12 20 28 36 44 52; do
+    for below in 44 52 60 68 76; do
         # The pointer is in the picture, too.
         xdotool mousemove $((bar_right - 60)) $((bar_top + below))
         take_picture before

@@ -107,6 +107,18 @@ whatCameOnStandardInputIsRemovedAsWell() {
     expect_nothing_left
 }
 
+# The sides that were laid out to be counted are kept, so that they can be shown.
+theSidesThatAreKeptAreRemovedAsWell() {
+    long_chain
+    sed -i "s|exit 1|PATH=\$PATH:/usr/sbin exec cupsfilter \"\$@\"|" "$work/filter"
+    start_print "$document"
+    [ -n "$(find "$work/tmp" -name sides.pdf)" ] || fail 'no sides are kept'
+    kill -s TERM "$dialog"
+    expect_end
+    expect_status 143
+    expect_nothing_left
+}
+
 # As after nohup.
 aSignalThatWasIgnoredStaysIgnored() {
     signals=('--default-signal=INT,TERM' --ignore-signal=HUP)

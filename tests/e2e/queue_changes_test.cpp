@@ -389,7 +389,7 @@ private Q_SLOTS:
         QVERIFY(window.waitUntil([&] { return window.printers().size() == many + 1; }));
         QVERIFY(popup->isVisible());
         QCOMPARE(window.printers().value(2), u"Room 2"_s);
-        QCOMPARE(window.printer(), u"file"_s); // nobody's choice is changed under the open list
+        QCOMPARE(window.printer(), u"pdf"_s); // nobody's choice is changed under the open list
         box->hidePopup();
         const qint64 gap = window.heart().takeLargestGap();
         QVERIFY2(gap < kLongestGap, qPrintable(QString::number(gap)));

@@ -130,7 +130,7 @@ void DocumentArea::setDocuments(const QString &title, const QList<ListedDocument
 void DocumentArea::updateHeight()
 {
     const int rows = qBound(2, m_list->count(), kMostRows);
-    const int row = qMax(fontMetrics().height() + 4, m_list->sizeHintForRow(0));
+    const int row = m_list->count() > 0 ? m_list->sizeHintForRow(0) : fontMetrics().height();
     m_list->setFixedHeight(rows * row + 2 * m_list->frameWidth());
 }
 

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -51,10 +52,11 @@ void SheetsRow::refresh()
 }
 
 ColorsRow::ColorsRow(QWidget *parent)
-    : QWidget(parent), m_text(new ElidedLabel(this)), m_compare(new QPushButton(this))
+    : QWidget(parent), m_text(plainLabel({}, this)), m_compare(new QPushButton(this))
 {
     m_text->setObjectName(u"colorsText"_s);
-    m_text->setTwoLines();
+    m_text->setWordWrap(true);
+    m_text->setMinimumWidth(1);
     m_compare->setObjectName(u"compare"_s);
     m_compare->setText(tr("Hold to Compare"));
     m_compare->setToolTip(
@@ -69,7 +71,7 @@ ColorsRow::ColorsRow(QWidget *parent)
 
 void ColorsRow::setText(const QString &text, bool canCompare)
 {
-    m_text->setLine(text);
+    m_text->setText(text);
     m_compare->setVisible(canCompare);
 }
 

@@ -51,7 +51,7 @@ Q_SIGNALS:
     void original(bool original);
 
 private:
-    ElidedLabel *m_text;
+    QLabel *m_text;
     QPushButton *m_compare;
 };
 

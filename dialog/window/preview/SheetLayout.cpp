@@ -109,7 +109,8 @@ void SheetLayout::placeRows()
 QSize SheetLayout::paperSize(const PlannedSide &side) const
 {
     const QSizeF paper = bounded(side.paper) * (m_scale * m_space.pixelsPerPoint);
-    return {std::max(1, qRound(paper.width())), std::max(1, qRound(paper.height()))};
+    // Rounded down, so that what is fitted into a view needs no bar for a last pixel.
+    return {std::max(1, int(paper.width())), std::max(1, int(paper.height()))};
 }
 
 int SheetLayout::sheetWidth(const PlannedSheet &sheet) const

@@ -45,7 +45,8 @@ QSize SheetView::pictureSize(SideIndex side) const
     return planned->turn % 180 == 0 ? size : size.transposed();
 }
 
-// The visible sides, then those that come next when somebody scrolls, nearest first.
+// The sheet that is looked at and the others that can be seen, then those that come next when
+// somebody scrolls, nearest first.
 void SheetView::askForPictures()
 {
     if (!m_pictures || !m_isSeen)
@@ -61,8 +62,13 @@ void SheetView::askForPictures()
     };
     const QRect seen = seenPart();
     const auto [first, last] = m_layout.sheetsBetween(seen.top(), seen.bottom());
-    for (int sheet = first; sheet <= last; ++sheet)
-        add(sheet);
+    const int best = lookedAt();
+    if (best >= 0)
+        add(best);
+    for (int sheet = first; sheet <= last; ++sheet) {
+        if (sheet != best)
+            add(sheet);
+    }
     if (first <= last) {
         const auto [above, below] =
             m_layout.sheetsBetween(seen.top() - seen.height(), seen.bottom() + seen.height());

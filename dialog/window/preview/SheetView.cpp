@@ -144,16 +144,16 @@ void SheetView::layOut(std::optional<QPoint> fixed)
         room.rheight() -= bar;
         m_layout = layoutFor(room);
     }
-    setRanges();
+    setRanges(room);
     moveTo(anchor);
     viewport()->update();
     m_asking.start();
     tellLookedAt();
 }
 
-void SheetView::setRanges()
+// `room` is the viewport as it will be when the bars that are not needed have gone.
+void SheetView::setRanges(QSize room)
 {
-    const QSize room = viewport()->size();
     const QSize all = m_layout.contents();
     verticalScrollBar()->setPageStep(room.height());
     verticalScrollBar()->setSingleStep(3 * fontMetrics().height());

@@ -99,7 +99,7 @@ private:
 
     void layOut(std::optional<QPoint> fixed = {});
     SheetLayout layoutFor(QSize room) const;
-    void setRanges();
+    void setRanges(QSize room);
     Anchor anchorAt(QPoint place) const;
     void moveTo(const Anchor &anchor);
     QPoint offset() const;

@@ -137,6 +137,11 @@ private Q_SLOTS:
             l.checkDisplay = true;
             l.documents.clear();
         });
+        row("a window without a document", {}, [](CommandLine &l) { l.documents.clear(); });
+        row("options without a document", {u"-d"_s, u"office"_s}, [](CommandLine &l) {
+            l.printer = u"office"_s;
+            l.documents.clear();
+        });
         row("summary without a document", {u"--summary"_s, u"--demo"_s}, [](CommandLine &l) {
             l.summary = true;
             l.demo = true;
@@ -160,9 +165,9 @@ private Q_SLOTS:
             QTest::newRow(name) << arguments << named;
         };
         const QString doc = u"report.pdf"_s;
-        row("nothing", {}, u"document"_s);
         row("an empty name", {QString(u""_s)}, u"document"_s);
         row("no document", {u"--no-dialog"_s}, u"document"_s);
+        row("no document for a terminal", {u"--no-dialog"_s, u"-d"_s, u"office"_s}, u"document"_s);
         row("standard input twice", {u"-"_s, u"-"_s}, u"standard input"_s);
         row("an option that cannot be read", {u"-o"_s, u"A=1 =2"_s, doc}, u"A=1 =2"_s);
         row("an open quote", {u"-o"_s, u"A=\"1"_s, doc}, u"KEY=VALUE"_s);

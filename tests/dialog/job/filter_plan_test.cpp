@@ -1,8 +1,10 @@
 #include <QTest>
 
 #include "dialog/job/FilterPlan.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
+using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,6 +28,38 @@ ConversionRequest request(const QList<Document> &documents, ConversionRequest::R
         documents, {u"Title"_s, 3, kOptions}, u"/server/printer.ppd"_s, u"/out.part"_s, u"out.ps"_s,
         result};
 }
+
+const Document kPostScript{u"/four.ps"_s, u"application/postscript"_s, u"four.ps"_s};
+
+bool isPagesOnASide(const JobOption &option)
+{
+    return option.name == u"number-up"_s;
+}
+
+struct Asked
+{
+    const char *name;
+    const char *option;
+    const char *value;
+    bool picture;
+    bool postScript;
+};
+const Asked kAsked[] = {
+    {"one page on a side", "number-up", "1", false, false},
+    {"two pages on a side", "number-up", "2", true, true},
+    {"no border", "page-border", "none", false, false},
+    {"a border", "page-border", "double", true, true},
+    {"all pages", "page-set", "all", false, false},
+    {"even pages", "page-set", "even", true, true},
+    {"a range", "page-ranges", "1-2", true, true},
+    {"upright", "orientation-requested", "3", false, false},
+    {"landscape", "orientation-requested", "4", false, true},
+    {"scaled as usual", "print-scaling", "auto", false, false},
+    {"not scaled", "print-scaling", "none", false, false},
+    {"scaled", "print-scaling", "fill", false, true},
+    {"mirrored", "mirror", "true", true, false},
+    {"an option of the printer", "Tray", "Lower", false, false},
+};
 
 // The steps of a plan in short: what each does, and to what.
 QStringList inShort(const FilterPlan &plan)
@@ -83,10 +117,53 @@ private Q_SLOTS:
     {
         ConversionRequest two = request({kText, kPicture}, Result::PrinterData);
         two.ticket.copies = 1;
+        two.ticket.options.removeIf(isPagesOnASide);
         QCOMPARE(inShort(planConversion(two, kPlaces)),
                  (QStringList{u"/one.txt to printer/foo as /parts/0.data"_s,
                               u"/two.png to printer/foo as /parts/1.data"_s,
                               u"cat /parts/0.data /parts/1.data as /out.part"_s}));
+    }
+
+    // What the chain makes of a picture at once has not what was asked for.
+    void aPictureThatSharesItsSideBecomesAPdfFirst()
+    {
+        QCOMPARE(inShort(planConversion(request({kPicture}, Result::PrinterData), kPlaces)),
+                 (QStringList{u"/two.png to application/vnd.cups-pdf as /parts/0.pdf"_s,
+                              u"/parts/0.pdf to printer/foo as /out.part"_s}));
+        ConversionRequest plain = request({kPicture}, Result::PrinterData);
+        plain.ticket.options.removeIf(isPagesOnASide);
+        QCOMPARE(inShort(planConversion(plain, kPlaces)),
+                 QStringList{u"/two.png to printer/foo as /out.part"_s});
+    }
+
+    void aPdfOfAPictureKeepsItsColors()
+    {
+        QCOMPARE(inShort(planConversion(request({kPicture}, Result::Pdf), kPlaces)),
+                 QStringList{u"/two.png to application/vnd.cups-pdf as /out.part"_s});
+    }
+
+    void whatBecomesAPdfDependsOnItsKind_data() { addRows(kAsked); }
+    void whatBecomesAPdfDependsOnItsKind()
+    {
+        const Asked &row = currentRow(kAsked);
+        const QList<JobOption> options{
+            {QString::fromLatin1(row.option), QString::fromLatin1(row.value)}};
+        QCOMPARE(mustBecomePdf(kPicture, options), row.picture);
+        QCOMPARE(mustBecomePdf(kPostScript, options), row.postScript);
+        QVERIFY(!mustBecomePdf(kText, options));
+        QVERIFY(!mustBecomePdf(kPdf, options));
+    }
+
+    // Of several documents one may have none of the pages, whoever converts them one by one.
+    void pagesOfOneOfSeveralArePickedBefore()
+    {
+        ConversionRequest one = request({kPdf}, Result::PrinterData);
+        one.ticket.options = {{u"page-set"_s, u"even"_s}};
+        QCOMPARE(planConversion(one, kPlaces).size(), 1);
+        one.picksPages = true;
+        QCOMPARE(planConversion(one, kPlaces).size(), 3);
+        one.ticket.options = {};
+        QCOMPARE(planConversion(one, kPlaces).size(), 1);
     }
 
     void filesArePutTogetherOfLaidOutPages()

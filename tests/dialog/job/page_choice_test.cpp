@@ -85,6 +85,61 @@ const Copies kCopies[] = {
      CopiesOrder::EachPage},
 };
 
+using Booklet = PageChoice::Booklet;
+
+struct OrderedPages
+{
+    const char *name;
+    PageChoice choice;
+    int pages;
+    QList<int> order;
+    QString picked;
+};
+const QList<OrderedPages> kOrderedPages{
+    {"one sheet", {{}, Set::All, Booklet::Left}, 4, {4, 1, 2, 3}, u"d 4,1,2,3"_s},
+    {"two sheets",
+     {{}, Set::All, Booklet::Left},
+     8,
+     {8, 1, 2, 7, 6, 3, 4, 5},
+     u"d 8,1,2,7,6,3,4,5"_s},
+    {"bound at the right",
+     {{}, Set::All, Booklet::Right},
+     8,
+     {1, 8, 7, 2, 3, 6, 5, 4},
+     u"d 1,8,7,2,3,6,5,4"_s},
+    {"filled up",
+     {{}, Set::All, Booklet::Left},
+     5,
+     {0, 1, 2, 0, 0, 3, 4, 5},
+     u"b 1 d 1,2 b 1,1 d 3,4,5"_s},
+    {"one page", {{}, Set::All, Booklet::Left}, 1, {0, 1, 0, 0}, u"b 1 d 1 b 1,1"_s},
+    {"some pages", {u"2,4-9"_s, Set::All, Booklet::Left}, 5, {0, 2, 4, 5}, u"b 1 d 2,4,5"_s},
+    {"odd pages", {{}, Set::Odd, Booklet::Left}, 7, {7, 1, 3, 5}, u"d 7,1,3,5"_s},
+    {"none of the pages", {u"9"_s, Set::All, Booklet::Left}, 5, {}, {}},
+    {"repeated", {u"2-3"_s, Set::All, Booklet::No, 2}, 5, {2, 2, 3, 3}, u"d 2,2,3,3"_s},
+};
+
+struct Excluded
+{
+    const char *name;
+    QList<JobOption> options;
+    QString named;
+};
+const QList<Excluded> kExcluded{
+    {"nothing", {{u"number-up"_s, u"4"_s}, {u"repeat"_s, u"1"_s}, {u"booklet"_s, u"no"_s}}, {}},
+    {"what it is anyway", {{u"booklet"_s, u"left"_s}, {u"number-up"_s, u"2"_s}}, {}},
+    {"pages on a side",
+     {{u"booklet"_s, u"left"_s}, {u"number-up"_s, u"4"_s}},
+     u"number-up=4 cannot"_s},
+    {"an order on the side",
+     {{u"booklet"_s, u"right"_s}, {u"number-up-layout"_s, u"rltb"_s}},
+     u"number-up-layout=rltb cannot"_s},
+    {"both", {{u"booklet"_s, u"right"_s}, {u"repeat"_s, u"2"_s}}, u"repeat=2 cannot"_s},
+    {"other pages than the repeated ones",
+     {{u"repeat"_s, u"4"_s}, {u"number-up"_s, u"2"_s}},
+     u"number-up=2 cannot"_s},
+};
+
 } // namespace
 
 /// Which pages of each document are meant, and in which order several documents are repeated.
@@ -99,6 +154,47 @@ private Q_SLOTS:
         const auto &[name, ranges, set, picked] = currentRow(kPicks);
         QCOMPARE(pickedPages({QString::fromLatin1(ranges), set}, 5, u"d"_s).join(u' '),
                  QString::fromLatin1(picked));
+    }
+
+    void pagesComeInTheOrderOfABooklet_data() { addRows(kOrderedPages); }
+    void pagesComeInTheOrderOfABooklet()
+    {
+        const OrderedPages &row = currentRow(kOrderedPages);
+        QCOMPARE(pagesInOrder(row.choice, row.pages), row.order);
+        QCOMPARE(pickedPages(row.choice, row.pages, u"d"_s, u"b"_s).join(u' '), row.picked);
+    }
+
+    // A line of arguments is bounded.
+    void aLongBookletIsToldInParts()
+    {
+        const PageChoice choice{{}, Set::All, Booklet::Left};
+        const QStringList picked = pickedPages(choice, 5000, u"d"_s, u"b"_s);
+        QCOMPARE(picked.size(), 10);
+        QCOMPARE(picked.at(1).count(u','), 999);
+        QVERIFY(picked.at(1).startsWith(u"5000,1,2,4999,"_s));
+    }
+
+    void theOrderNamesWhatItExcludes_data() { addRows(kExcluded); }
+    void theOrderNamesWhatItExcludes()
+    {
+        const Excluded &row = currentRow(kExcluded);
+        const QString problem = problemsOfOrder(row.options).join(u' ');
+        QCOMPARE(problem.isEmpty(), row.named.isEmpty());
+        QVERIFY2(problem.contains(row.named), qPrintable(problem));
+    }
+
+    void asManyPagesShareASideAsTheOrderNeeds()
+    {
+        const JobOption four{u"number-up"_s, u"4"_s};
+        const JobOption booklet{u"booklet"_s, u"left"_s};
+        const JobOption repeat{u"repeat"_s, u"6"_s};
+        QCOMPARE(withPagesOfOrder({four}), QList{four});
+        QCOMPARE(withPagesOfOrder({booklet}), (QList{booklet, JobOption{u"number-up"_s, u"2"_s}}));
+        QCOMPARE(withPagesOfOrder({repeat}), (QList{repeat, JobOption{u"number-up"_s, u"6"_s}}));
+        QVERIFY(mustPickPages({booklet}));
+        QVERIFY(mustPickPages({repeat}));
+        QCOMPARE(withoutPageChoice({booklet, repeat, four}), QList{four});
+        QCOMPARE(withoutPageOrder({booklet, four, repeat}), QList{four});
     }
 
     void theChoiceIsAmongTheOptions()

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QFile>
+#include <QImageReader>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -10,17 +11,19 @@ namespace corvana::test {
 
 using namespace Qt::StringLiterals;
 
-QImage drawnByPdftoppm(const QString &file, int page, QSize size)
+QImage drawnByPdftoppm(const QString &file, int page, QSize size, bool isTurned)
 {
+    const QSize asked = isTurned ? size.transposed() : size;
     const QTemporaryDir folder;
     const QString number = QString::number(page + 1);
     QProcess program;
     program.start(u"pdftoppm"_s,
                   {u"-q"_s, u"-cropbox"_s, u"-f"_s, number, u"-l"_s, number, u"-singlefile"_s,
-                   u"-scale-to-x"_s, QString::number(size.width()), u"-scale-to-y"_s,
-                   QString::number(size.height()), file, folder.filePath(u"page"_s)});
+                   u"-scale-to-x"_s, QString::number(asked.width()), u"-scale-to-y"_s,
+                   QString::number(asked.height()), file, folder.filePath(u"page"_s)});
     if (!program.waitForFinished(60000) || program.exitCode() != 0)
         return {};
+    QImageReader::setAllocationLimit(0); // some are large
     return QImage(folder.filePath(u"page.ppm"_s)).convertToFormat(QImage::Format_RGB32);
 }
 

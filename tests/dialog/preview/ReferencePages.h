@@ -7,8 +7,9 @@
 namespace corvana::test {
 
 /// A page as pdftoppm draws it, which knows nothing of this project's own programs. Of the format
-/// RGB32. Page from 0. Errors: null.
-QImage drawnByPdftoppm(const QString &file, int page, QSize size);
+/// RGB32. Page from 0. `isTurned` says that the page is turned by a quarter: pdftoppm asks for the
+/// size that it has before. Errors: null.
+QImage drawnByPdftoppm(const QString &file, int page, QSize size, bool isTurned = false);
 
 /// The largest difference of a component of any two pixels at the same place; 255 for pictures of
 /// different sizes.

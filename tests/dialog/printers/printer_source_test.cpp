@@ -128,7 +128,7 @@ private Q_SLOTS:
                  isDevice ? u"printer.example"_s : u"127.0.0.1"_s);
     }
 
-    void filesAreBeforeQueuesAndNeedNoOtherOne()
+    void filesAreBeforeQueuesAndThePdfBehindThem()
     {
         Printer file;
         file.name = u"sample"_s;
@@ -138,12 +138,50 @@ private Q_SLOTS:
         PrinterSource source(request, m_server);
         QCOMPARE(source.first(), file);
         source.start();
-        QTRY_COMPARE(source.printers().size(), 2);
+        QTRY_COMPARE(source.printers().size(), 3);
         QCOMPARE(source.printers()[0], file);
         QCOMPARE(source.printers()[1].name, kQueue);
+        QVERIFY(savesPdf(source.printers()[2]));
         Told told(source);
         source.open(file);
         QCOMPARE(told.said, QStringList{u"ready"_s}); // at once
+    }
+
+    // Its name on a command line is no queue's, as far as anybody can say.
+    void aPdfIsSavedWhereNoQueueHasThatName_data()
+    {
+        QTest::addColumn<int>("manner");
+        QTest::newRow("the server knows no such queue") << int(FaultyServer::Manner::Passes);
+        QTest::newRow("no server") << int(FaultyServer::Manner::Refuses);
+    }
+    void aPdfIsSavedWhereNoQueueHasThatName()
+    {
+        QFETCH(int, manner);
+        m_gate->setManner(FaultyServer::Manner(manner));
+        PrinterWish request;
+        request.name = kPdfPrinterName;
+        for (const bool canChoose : {true, false}) {
+            PrinterSource source(request, m_server);
+            Told told(source);
+            canChoose ? source.open(source.first()) : source.openWanted();
+            QTRY_COMPARE_WITH_TIMEOUT(told.said, QStringList{u"ready"_s}, kLong);
+            QVERIFY(savesPdf(told.last.printer));
+            QVERIFY(QFile::exists(told.last.ppd->path));
+        }
+    }
+
+    void aQueueOfThatNameGoesFirst()
+    {
+        m_cups->addQueue(u"PDF"_s, ppdOf(5));
+        PrinterWish request;
+        request.name = kPdfPrinterName;
+        PrinterSource source(request, m_server);
+        Told told(source);
+        source.openWanted();
+        QTRY_COMPARE_WITH_TIMEOUT(told.said, QStringList{u"ready"_s}, kLong);
+        QCOMPARE(told.last.printer.origin, PrinterOrigin::Queue);
+        QCOMPARE(told.last.printer.name, u"PDF"_s);
+        m_cups->removeQueue(u"PDF"_s);
     }
 
     void theListTellsWhatAUserExpects()

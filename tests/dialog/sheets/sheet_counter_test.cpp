@@ -72,6 +72,9 @@ private Q_SLOTS:
         QVERIFY(finished.wait(kCountPatience));
         QVERIFY(counter.counted(request));
         QVERIFY(isUncounted(*counter.counted(request)));
+        const DocumentSheets &document = counter.counted(request)->documents.constFirst();
+        QCOMPARE(document.trouble, DocumentSheets::Trouble::Failed);
+        QVERIFY(!document.laidOut);
     }
 
     // The other documents of the job are counted all the same.

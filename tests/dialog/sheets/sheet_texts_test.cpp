@@ -104,6 +104,23 @@ class SheetTextsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void whatIsNotShownIsNamedWithTheReason()
+    {
+        using Trouble = DocumentSheets::Trouble;
+        JobSheets sheets{{document(3, 3), document(1, 1, u"slow\n.pdf"_s),
+                          document(1, 1, u"large.pdf"_s), document(1, 1, u"bad.pdf"_s)}};
+        sheets.documents[1].trouble = Trouble::TookTooLong;
+        sheets.documents[2].trouble = Trouble::TooLarge;
+        sheets.documents[3].trouble = Trouble::Failed;
+        QCOMPARE(previewProblems(sheets),
+                 (QStringList{u"“slow<U+000A>.pdf” takes too long to be shown. It can be printed "
+                              "without a preview."_s,
+                              u"“large.pdf” is too large to be shown. It can be printed without a "
+                              "preview."_s,
+                              u"“bad.pdf” could not be laid out, so there is no preview. Printing "
+                              "it may work all the same."_s}));
+    }
+
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
 
     void documentsOfWhichNothingComesOutAreNamed_data() { addRows(kEmpty); }

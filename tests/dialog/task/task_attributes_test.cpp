@@ -122,6 +122,26 @@ private Q_SLOTS:
     void init() { m_scene = std::make_unique<TaskScene>(); }
     void cleanup() { m_scene.reset(); }
 
+    void aBookletIsTurnedOverAtTheShortEdge()
+    {
+        PrintTask &task = open({}, smallPrinter());
+        QVERIFY(find(task.attributes(), u"booklet"_s));
+        QCOMPARE(task.setAttribute(u"booklet"_s, u"right"_s), QString());
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
+        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"2"_s});
+        QCOMPARE(summary(u"Booklet"_s), QStringList{u"Bound at the Right"_s});
+    }
+
+    void backsThatTheMediumLacksAreSaid()
+    {
+        PrintTask &task = open(u"Media=Card"_s, smallPrinter());
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"None"_s);
+        QVERIFY2(m_scene->face.message().contains(u"Card"_s), qPrintable(m_scene->face.message()));
+    }
+
+    void aPrinterOfOneSideOffersNoBooklet() { QVERIFY(!find(open({}).attributes(), u"booklet"_s)); }
+
     void whatIsInForceIsOffered_data() { addRows(kShown); }
     void whatIsInForceIsOffered()
     {

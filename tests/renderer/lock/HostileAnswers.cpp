@@ -7,7 +7,6 @@
 #include <iterator>
 #include <vector>
 
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include "renderer/protocol/MessageReading.h"
@@ -55,11 +54,6 @@ struct Manner
     void (*answer)(Wire &wire);
 };
 
-void ready(const Wire &wire)
-{
-    wire.answer(made<Ready>(0));
-}
-
 template <typename Change> void drawnBut(Wire &wire, Change change)
 {
     if (wire.isOpening())
@@ -80,7 +74,8 @@ template <typename Change> void openedBut(Wire &wire, Change change)
 void sendBytes(Wire &wire, std::size_t size)
 {
     const std::vector<std::byte> bytes(size);
-    ::send(wire.socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    sendMessage(wire.socket,
+                std::span<const std::byte>(bytes)); // the filter lets no other call send
 }
 
 /// Every pixel transparent, and another one every time it is looked at.
@@ -153,7 +148,7 @@ const Manner kManners[] = {
 
 } // namespace
 
-bool answerBadly(std::string_view manner, int socket)
+bool answerBadly(std::string_view manner, int socket, const Locks &locks)
 {
     Wire wire{socket, {}, {}};
     if (manner == "never ready") {
@@ -171,7 +166,10 @@ bool answerBadly(std::string_view manner, int socket)
                      [manner](const Manner &row) { return row.name == manner; });
     if (found == std::end(kManners))
         return false;
-    ready(wire);
+    auto ready = made<Ready>(0);
+    ready.filtersCalls = locks.filtersCalls ? 1 : 0;
+    ready.fencesFiles = static_cast<std::uint32_t>(locks.fencesFiles);
+    wire.answer(ready);
     while (wire.receive())
         found->answer(wire);
     return true;

@@ -24,10 +24,9 @@ namespace {
 constexpr int kSocket = 3;
 constexpr int kNotLocked = 12;
 
-bool lock()
+renderer::Locks lock()
 {
-    const renderer::Locks locks = renderer::lockIn(kSocket, renderer::prepareFonts());
-    return locks.filtersCalls && locks.fencesFiles > 0;
+    return renderer::lockIn(kSocket, renderer::prepareFonts());
 }
 
 } // namespace
@@ -36,13 +35,15 @@ int main(int argc, char **argv)
 {
     if (argc != 4) {
         const char *manner = std::getenv("HOSTILE_MANNER");
-        lock();
-        return test::answerBadly(manner ? manner : "", kSocket) ? 0 : 2;
+        return test::answerBadly(manner ? manner : "", kSocket, lock()) ? 0 : 2;
     }
     int ends[2];
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET, 0, ends) != 0 || ::dup2(ends[0], kSocket) < 0)
         return 1;
-    if (argv[1] == std::string_view("locked") && !lock())
-        return kNotLocked;
+    if (argv[1] == std::string_view("locked")) {
+        const renderer::Locks locks = lock();
+        if (!locks.filtersCalls || locks.fencesFiles == 0)
+            return kNotLocked;
+    }
     return test::attempt(argv[2], argv[3]);
 }

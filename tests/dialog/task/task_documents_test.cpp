@@ -1,0 +1,172 @@
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/TaskScene.h"
+#include "tests/support/TestPaths.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// Documents that are chosen once the printer is open.
+class TaskDocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TaskScene> m_scene;
+    QTemporaryDir m_folder;
+    QStringList m_said;
+
+    PrintTask &task() { return *m_scene->task; }
+    QString file(const QString &name, const QByteArray &content = "Some words.\n")
+    {
+        return writeFile(m_folder.filePath(name), content);
+    }
+    QStringList titles()
+    {
+        QStringList titles;
+        for (const Document &document : task().documents())
+            titles += document.title;
+        return titles;
+    }
+    /// As a window is opened that has no document.
+    void openWithout()
+    {
+        PrintRequest request = m_scene->request(officePrinter());
+        request.documents.clear();
+        request.title.clear();
+        request.output.clear();
+        m_scene->open(request);
+        connect(&task(), &PrintTask::said, this,
+                [this](const TaskMessage &message) { m_said += message.text; });
+        task().bringUp();
+        QCOMPARE(task().phase(), PrintTask::Phase::Ready);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_scene = std::make_unique<TaskScene>();
+        m_said.clear();
+        QDir::setCurrent(m_folder.path());
+    }
+    void cleanup() { m_scene.reset(); }
+
+    void nothingIsPrintedWithoutADocument()
+    {
+        openWithout();
+        QVERIFY(!task().canPrint());
+        QStringList refused;
+        connect(&task(), &PrintTask::refused, this,
+                [&](const TaskRefusal &refusal) { refused = refusal.problems; });
+        task().print();
+        QCOMPARE(refused, QStringList{u"Choose a document to print."_s});
+        QCOMPARE(task().phase(), PrintTask::Phase::Ready);
+    }
+
+    void aDocumentThatIsAddedIsPrinted()
+    {
+        openWithout();
+        QSignalSpy changed(&task(), &PrintTask::documentsChanged);
+        QSignalSpy shown(&task(), &PrintTask::settingsChanged);
+        QSignalSpy proposed(&task(), &PrintTask::outputProposed);
+        task().addDocuments({file(u"letter.txt"_s)});
+        QCOMPARE(titles(), QStringList{u"letter.txt"_s});
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!shown.isEmpty());
+        QVERIFY(task().canPrint());
+        QCOMPARE(task().request().title, u"letter.txt"_s);
+        // It has a file to be printed to, with the ending of the printer.
+        QVERIFY(!proposed.isEmpty());
+        QCOMPARE(task().output(), m_folder.filePath(u"letter.ps"_s));
+        task().print();
+        QVERIFY(m_scene->reaches(PrintTask::Phase::Ended));
+        QVERIFY(task().outcome().isDone());
+    }
+
+    void whatCannotBePrintedIsSaidAndTheRestIsTaken()
+    {
+        openWithout();
+        const QString program = file(u"program"_s, QByteArray("\x7f" "ELF\x02\x01\x01\0\0\0", 10));
+        task().addDocuments(
+            {file(u"a.txt"_s), m_folder.filePath(u"missing.pdf"_s), program, m_folder.path(),
+             file(u"b.txt"_s), file(u"empty.txt"_s, "")});
+        QCOMPARE(titles(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+        QCOMPARE(m_said.size(), 1);
+        const QStringList problems = m_said.constFirst().split(u'\n');
+        QCOMPARE(problems.size(), 4);
+        // In the words of the command line.
+        QString expected;
+        inspectDocument(m_folder.filePath(u"missing.pdf"_s), &expected);
+        QCOMPARE(problems.at(0), expected);
+        QVERIFY2(problems.at(1).contains(u"program"_s), qPrintable(problems.at(1)));
+        QVERIFY2(problems.at(2).contains(u"folder"_s), qPrintable(problems.at(2)));
+        QVERIFY2(problems.at(3).contains(u"empty"_s), qPrintable(problems.at(3)));
+    }
+
+    void documentsArePutInOrderAndRemoved()
+    {
+        openWithout();
+        task().addDocuments({file(u"a.txt"_s), file(u"b.txt"_s), file(u"c.txt"_s)});
+        QCOMPARE(task().request().title, u"a.txt and 2 more"_s);
+        task().moveDocument(2, 0);
+        QCOMPARE(titles(), (QStringList{u"c.txt"_s, u"a.txt"_s, u"b.txt"_s}));
+        task().moveDocument(0, 1);
+        QCOMPARE(titles(), (QStringList{u"a.txt"_s, u"c.txt"_s, u"b.txt"_s}));
+        task().removeDocument(1);
+        QCOMPARE(titles(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+        QSignalSpy changed(&task(), &PrintTask::documentsChanged);
+        for (const int index : {-1, 2, 1000})
+            task().removeDocument(index);
+        task().moveDocument(0, 2);
+        task().moveDocument(-1, 0);
+        QVERIFY(changed.isEmpty());
+        task().removeDocument(0);
+        task().removeDocument(0);
+        QVERIFY(!task().canPrint());
+    }
+
+    void namesThatSomebodyHasChosenStay()
+    {
+        openWithout();
+        PrintRequest request = m_scene->request(officePrinter());
+        request.title = u"Named"_s;
+        request.titleWasNamed = true;
+        request.output = m_folder.filePath(u"named.ps"_s);
+        request.outputWasNamed = true;
+        m_scene->open(request);
+        task().bringUp();
+        task().addDocuments({file(u"a.txt"_s)});
+        QCOMPARE(task().request().title, u"Named"_s);
+        QCOMPARE(task().output(), m_folder.filePath(u"named.ps"_s));
+    }
+
+    void aFileThatTheUserNamedStays()
+    {
+        openWithout();
+        task().addDocuments({file(u"a.txt"_s)});
+        task().setOutput(m_folder.filePath(u"mine.ps"_s));
+        task().addDocuments({file(u"b.txt"_s)});
+        QCOMPARE(task().output(), m_folder.filePath(u"mine.ps"_s));
+    }
+
+    void documentsStayTheSameWhileTheyArePrinted()
+    {
+        openWithout();
+        task().addDocuments({file(u"a.txt"_s), file(u"b.txt"_s)});
+        task().print();
+        QVERIFY(!task().canChangeDocuments());
+        task().removeDocument(0);
+        task().addDocuments({file(u"c.txt"_s)});
+        task().moveDocument(0, 1);
+        QCOMPARE(titles(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+        QVERIFY(m_scene->reaches(PrintTask::Phase::Ended));
+    }
+};
+
+QTEST_MAIN(TaskDocumentsTest)
+#include "task_documents_test.moc"
