@@ -30,7 +30,8 @@ QString detailsOf(const Document &document, const DocumentState &state)
 
 void PrintTask::documentsLookedAt()
 {
-    if (std::exchange(m_looks.countsThen, false) && documentsCanBeCounted())
+    // A face asks once; what is locked is counted when it was unlocked.
+    if (m_looks.countsThen && documentsCanBeCounted())
         countSheets();
     else
         Q_EMIT sheetsCounted(); // why there are none

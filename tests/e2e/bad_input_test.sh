@@ -62,7 +62,7 @@ aDocumentThatCannotBeReadIsRefused() {
 aTruncatedPdfIsNotPrinted() {
     document=$work/truncated.pdf
     head -c 3000 "$sample" >"$document"
-    expect_refusal 'could not be converted' --
+    expect_refusal 'is damaged at byte 3,000' 'None of its pages can be printed' --
 }
 
 everyKindOfDocumentPrints() {

@@ -72,6 +72,26 @@ Sizes sizes()
     return message; // the second page is damaged
 }
 
+CheckDocument checkDocument()
+{
+    auto message = made<CheckDocument>(kSequence);
+    message.passwordBytes = 3;
+    std::copy_n("abc", 3, message.password.begin());
+    return message;
+}
+
+Checked checked()
+{
+    auto message = made<Checked>(kSequence);
+    message.isEncrypted = message.mayPrint = message.isOwner = message.isDamaged = 1;
+    message.pages = 3;
+    message.lostPages = 2;
+    message.damagedAt = 1024;
+    message.detailBytes = 5;
+    std::copy_n("worse", 5, message.detail.begin());
+    return message;
+}
+
 Ready ready()
 {
     auto message = made<Ready>(kSequence);
@@ -171,6 +191,20 @@ const BadRequest kBadRequests[] = {
     {"something behind the password",
      [] { return changed(openDocument(), [](OpenDocument &m) { m.password.back() = 'x'; }); },
      kWithDescriptor},
+    {"a document to be checked without a descriptor", [] { return bytesOf(checkDocument()); },
+     false},
+    {"a copy without a descriptor", [] { return bytesOf(made<CopyDocument>(kSequence)); }, false},
+    {"a password that fills its room, to be checked",
+     [] {
+         return changed(checkDocument(), [](CheckDocument &m) {
+             m.passwordBytes = kPasswordRoom;
+             m.password.fill('x');
+         });
+     },
+     kWithDescriptor},
+    {"something behind the password, to be checked",
+     [] { return changed(checkDocument(), [](CheckDocument &m) { m.password.back() = 'x'; }); },
+     kWithDescriptor},
     {"a page that no document has",
      [] { return changed(drawPage(), [](DrawPage &m) { m.page = kMaxPages; }); }, kWithDescriptor},
     {"sizes of pages that no document has",
@@ -213,6 +247,8 @@ const GoodRequest kGoodRequests[] = {
     {"the most pixels", [] { return bytesOf(drawPage(8000, 8000)); }, kWithDescriptor},
     {"the widest", [] { return bytesOf(drawPage(kMaxSide, 3906)); }, kWithDescriptor},
     {"closing", [] { return bytesOf(closeDocument()); }, false},
+    {"checking", [] { return bytesOf(checkDocument()); }, kWithDescriptor},
+    {"copying", [] { return bytesOf(made<CopyDocument>(kSequence)); }, kWithDescriptor},
 };
 
 struct BadAnswer
@@ -276,12 +312,32 @@ const BadAnswer kBadAnswers[] = {
      [] { return isRead(sizes(), [](Sizes &m) {
               m.sizes[255] = {-1, 1};
           }); }},
+    {"a checked document without pages",
+     [] { return isRead(checked(), [](Checked &m) { m.pages = 0; }); }},
+    {"more checked pages than there can be",
+     [] { return isRead(checked(), [](Checked &m) { m.pages = kMaxPages + 1; }); }},
+    {"more lost pages than there can be",
+     [] { return isRead(checked(), [](Checked &m) { m.lostPages = kMaxPages + 1; }); }},
+    {"pages of a locked document",
+     [] { return isRead(checked(), [](Checked &m) { m.status = Status::PasswordNeeded; }); }},
+    {"half an owner", [] { return isRead(checked(), [](Checked &m) { m.isOwner = 2; }); }},
+    {"half a permission", [] { return isRead(checked(), [](Checked &m) { m.mayPrint = 2; }); }},
+    {"half an encryption", [] { return isRead(checked(), [](Checked &m) { m.isEncrypted = 2; }); }},
+    {"half a damage", [] { return isRead(checked(), [](Checked &m) { m.isDamaged = 2; }); }},
+    {"a detail longer than its room",
+     [] { return isRead(checked(), [](Checked &m) { m.detailBytes = kDetailRoom + 1; }); }},
+    {"a detail that moves the cursor",
+     [] { return isRead(checked(), [](Checked &m) { m.detail[0] = '\x1b'; }); }},
+    {"something behind the detail",
+     [] { return isRead(checked(), [](Checked &m) { m.detail.back() = 'x'; }); }},
+    {"a copy with a status that nobody knows",
+     [] { return isRead(made<Copied>(kSequence), [](Copied &m) { m.status = Status{5}; }); }},
     {"half a lock", [] { return isRead(ready(), [](Ready &m) { m.filtersCalls = 2; }); }},
     {"a fence of a far future",
      [] { return isRead(ready(), [](Ready &m) { m.fencesFiles = 0xffffffff; }); }},
 };
 
-/// How many messages are read with that fault; without one there are nine.
+/// How many messages are read with that fault; without one there are thirteen.
 int readWith(void (*change)(Header &header))
 {
     const auto request = [&](auto message, bool hasDescriptor) {
@@ -294,7 +350,9 @@ int readWith(void (*change)(Header &header))
     };
     return request(openDocument(), true) + request(listSizes(), false) + request(drawPage(), true) +
            request(closeDocument(), false) + answer(ready()) + answer(opened()) + answer(sizes()) +
-           answer(made<Drawn>(kSequence)) + answer(made<Closed>(kSequence));
+           answer(made<Drawn>(kSequence)) + answer(made<Closed>(kSequence)) +
+           request(checkDocument(), true) + request(made<CopyDocument>(kSequence), true) +
+           answer(checked()) + answer(made<Copied>(kSequence));
 }
 
 } // namespace
@@ -306,7 +364,7 @@ class MessageReadingTest : public QObject
 private Q_SLOTS:
     void messagesAreReadAsTheyWereWritten()
     {
-        QCOMPARE(readWith([](Header &) {}), 9);
+        QCOMPARE(readWith([](Header &) {}), 13);
         const std::optional<Request> request = readRequest(bytesOf(openDocument()), true);
         QVERIFY(request);
         const auto &read = std::get<OpenDocument>(*request);

@@ -1,0 +1,96 @@
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/window/DocumentPasswordDialog.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/ProtectedPdf.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/support/WindowDriver.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+// Documents that want a password, as somebody at a window sees them.
+class WindowDocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static constexpr int kPatience = 60000;
+
+    QTemporaryDir m_folder;
+
+    static DocumentPasswordDialog *question(const WindowDriver &window)
+    {
+        auto *dialog = window.dialog().findChild<DocumentPasswordDialog *>();
+        return dialog && dialog->isVisible() ? dialog : nullptr;
+    }
+    static void answer(DocumentPasswordDialog *dialog, const QString &password)
+    {
+        dialog->findChild<QLineEdit *>(u"password"_s)->setText(password);
+        dialog->accept();
+    }
+    PrintRequest request(Protection protection) const
+    {
+        PrintRequest request;
+        const QString path = protectedPdf(m_folder.filePath(u"a.pdf"_s), protection);
+        request.documents = {{path, u"application/pdf"_s, u"a.pdf"_s}};
+        request.title = u"Job"_s;
+        request.output = m_folder.filePath(u"out.ps"_s);
+        request.bundleRoots = builtBundleRoots();
+        request.printers = {{u"cl5"_s, u"CL"_s, samplePpdPath(), 5}};
+        return request;
+    }
+
+private Q_SLOTS:
+    void thePasswordIsAskedUntilItIsRight()
+    {
+        WindowDriver window(request(Protection::AesWith256Bits));
+        QTRY_VERIFY_WITH_TIMEOUT(question(window), kPatience);
+        answer(question(window), u"wrong"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            question(window) && question(window)->findChild<QWidget *>(u"wrong"_s), kPatience);
+        answer(question(window), kUserPassword);
+        QTRY_COMPARE_WITH_TIMEOUT(window.message(),
+                                  u"“a.pdf” is protected. The file that is printed to is not."_s,
+                                  kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().sheetPreview().counts,
+                                  u"5 pages = 5 sheets"_s, kPatience);
+        QVERIFY(window.pressPrint());
+        QTRY_VERIFY_WITH_TIMEOUT(!window.dialog().report().isEmpty(), kPatience);
+    }
+
+    void whoDoesNotKnowItCancels()
+    {
+        WindowDriver window(request(Protection::AesWith256Bits));
+        QTRY_VERIFY_WITH_TIMEOUT(question(window), kPatience);
+        question(window)->reject();
+        const QString locked = u"“a.pdf” is protected: it is printed only with its password."_s;
+        QTRY_COMPARE(window.message(), locked);
+        QVERIFY(!question(window));
+        // Print asks once more.
+        QVERIFY(window.pressPrint());
+        QTRY_VERIFY(question(window));
+        question(window)->reject();
+        QTRY_COMPARE(window.message(), locked);
+        QCOMPARE(window.dialog().task().phase(), PrintTask::Phase::Ready);
+    }
+
+    void whatForbidsPrintingIsRefusedInItsWords()
+    {
+        WindowDriver window(request(Protection::OwnerOnlyNoPrinting));
+        const QString forbids =
+            u"“a.pdf” does not allow printing. Only its owner's password does."_s;
+        QTRY_COMPARE_WITH_TIMEOUT(window.message(), forbids, kPatience);
+        QVERIFY(!question(window));
+        QVERIFY(window.pressPrint());
+        QTRY_COMPARE(window.message(), forbids);
+        QVERIFY(window.dialog().report().isEmpty());
+    }
+};
+
+QTEST_MAIN(WindowDocumentsTest)
+
+#include "window_documents_test.moc"
