@@ -183,9 +183,10 @@ private Q_SLOTS:
         task().propose(u"Tray"_s, u"Lower"_s);
         const Printer office = task().printer();
         const QList<Printer> printers = task().printers().printers();
-        task().choosePrinter(printers.constLast()); // prints into a file
+        task().choosePrinter(printers.constLast()); // saves one PDF, whatever is asked for
         task().bringUp();
-        QCOMPARE(task().settings().copies(), 2);
+        QCOMPARE(task().settings().copiesAskedFor(), 2);
+        QCOMPARE(task().settings().copies(), 1);
         task().choosePrinter(office);
         QVERIFY(m_scene->reaches(Phase::Opened));
         task().bringUp();
