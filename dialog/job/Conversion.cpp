@@ -105,7 +105,7 @@ QString Conversion::takePpd(const QString &own, const QString &filling, const QS
             return tr("%1 cannot be written: %2").arg(path, copy.errorString());
     }
     // A PDF is made by filters of the system only.
-    if (m_request.result == ConversionRequest::Result::Pdf)
+    if (m_request.result != ConversionRequest::Result::PrinterData)
         return {};
     return problemOfPpdFilters(own).replace(own, m_request.ppdPath);
 }

@@ -30,7 +30,7 @@ qint64 usualGap(const QList<qint64> &gaps)
 
 FaultPlayer::FaultPlayer()
     : m_document(m_folders.longDocument()),
-      m_largeDocument(m_folders.longDocument(u"large.ps"_s, kLargeDocument))
+      m_largeDocument(m_folders.longDocument(u"large.pdf"_s, kLargeDocument))
 {
 }
 

@@ -1,11 +1,13 @@
 #include "tests/e2e/QueueScene.h"
-#include "tests/support/TestPaths.h"
 
 #include <stdexcept>
 
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+
+#include "tests/support/NumberedPdf.h"
+#include "tests/support/TestPaths.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,12 +40,12 @@ QString UserFolders::write(const QString &name, const QByteArray &content) const
     return file.fileName();
 }
 
+// A PDF, which goes to the server as it is. What lies before "startxref" no reader looks at.
 QString UserFolders::longDocument(const QString &name, int size) const
 {
-    const QString page = corvana::test::sourceFile(u"tests/data/page.ps"_s);
     const QByteArray comment = "% A long document.\n";
-    QByteArray document = contentOf(page);
-    document.insert(document.indexOf("gsave"), comment.repeated(size / comment.size()));
+    QByteArray document = numberedPdf("page", 3);
+    document.insert(document.lastIndexOf("startxref"), comment.repeated(size / comment.size()));
     return write(name, document);
 }
 

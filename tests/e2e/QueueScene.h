@@ -39,8 +39,8 @@ public:
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
     /// Writes a file and answers its path. Errors: throws std::runtime_error.
     QString write(const QString &name, const QByteArray &content) const;
-    /// Writes a page of PostScript that is longer than what is sent in one piece. Units: bytes.
-    QString longDocument(const QString &name = u"document.ps"_s, int size = 600000) const;
+    /// Writes a PDF of three pages that is longer than what is sent in one piece. Units: bytes.
+    QString longDocument(const QString &name = u"document.pdf"_s, int size = 600000) const;
 
 private:
     QTemporaryDir m_folder;

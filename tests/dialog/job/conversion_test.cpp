@@ -201,23 +201,28 @@ private Q_SLOTS:
         writeTool(u"tool"_s);
         const QString ppd = writeFile(path(u"printer.ppd"_s),
                                       ppdWithFilters(inFolder(currentRow(kForeignFilters).lines)));
+        using Result = ConversionRequest::Result;
         QString problem;
-        const Document document =
-            inspectDocument(source(u"resources/sample/welcome.pdf"_s), &problem);
+        const Document pdf = inspectDocument(source(u"resources/sample/welcome.pdf"_s), &problem);
+        const Document postScript = inspectDocument(source(u"tests/data/page.ps"_s), &problem);
+        JobTicket firstPage;
+        firstPage.options = {{u"page-ranges"_s, u"1"_s}};
         const QString output = path(u"out.pdf"_s);
-        Conversion conversion({{document, document},
-                               {},
-                               ppd,
-                               output,
-                               output,
-                               ConversionRequest::Result::Pdf,
-                               {{u"number-up"_s, u"2"_s}}});
-        QSignalSpy finished(&conversion, &Conversion::finished);
-        conversion.start();
-        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 30000);
-        QCOMPARE(finished.at(0).at(0).toString(), QString());
-        QVERIFY(contentOf(path(u"out.pdf"_s)).startsWith("%PDF"));
-        QVERIFY(!QFile::exists(path(u"ran"_s)));
+        const ConversionRequest requests[] = {
+            {{pdf, pdf}, {}, ppd, output, output, Result::Pdf, {{u"number-up"_s, u"2"_s}}},
+            {{pdf}, firstPage, ppd, output, output, Result::ChosenPages},
+            {{postScript}, firstPage, ppd, output, output, Result::ChosenPages},
+        };
+        for (const ConversionRequest &request : requests) {
+            QFile::remove(output);
+            Conversion conversion(request);
+            QSignalSpy finished(&conversion, &Conversion::finished);
+            conversion.start();
+            QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 30000);
+            QCOMPARE(finished.at(0).at(0).toString(), QString());
+            QVERIFY(contentOf(output).startsWith("%PDF"));
+            QVERIFY(!QFile::exists(path(u"ran"_s)));
+        }
     }
 
     void filtersOfTheSystemRun_data() { addRows(kOwnFilters); }
