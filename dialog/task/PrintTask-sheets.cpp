@@ -106,7 +106,7 @@ SheetPreview PrintTask::sheetPreview() const
         return {State::None, tr("Files are passed on to the printer as they are. What comes out is "
                                 "not known here.")};
     if (const QStringList problems = documentProblems().problems; !problems.isEmpty())
-        return {State::None, problems.join(u' ')};
+        return {State::None, problems.join(u' '), false};
     // While a panel is being asked there is no ticket yet.
     const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
     const JobTicket job = hasTicket ? m_run.ticket : ticket();

@@ -23,6 +23,8 @@ struct SheetPreview
     State state = State::None;
     /// A sentence or two for its place. With Known: which of the documents is not shown, and why.
     QString reason{};
+    /// Whether printing may work all the same where nothing can be shown.
+    bool canBePrinted = true;
     QString counts{}; ///< "9 pages × 2 copies = 6 sheets"; of this job, so empty while Counting
     SheetPlan plan{};
     /// One for each document of the job; null for one that is not shown.

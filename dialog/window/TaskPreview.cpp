@@ -94,7 +94,7 @@ ShownPreview TaskPreview::shown(const SheetPreview &preview) const
     }
     switch (preview.state) {
     case SheetPreview::State::None:
-        shown.note = note();
+        shown.note = preview.canBePrinted ? note() : QString();
         break;
     case SheetPreview::State::Counting:
         shown.state = State::Updating;

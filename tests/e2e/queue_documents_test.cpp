@@ -198,6 +198,27 @@ private Q_SLOTS:
         QTEST(sidesOf(readAll(output)), "sides");
     }
 
+    // The filters of a server take no password.
+    void aProtectedDocumentReachesTheQueueWithoutProtection()
+    {
+        m_cups->addQueue(u"office"_s, ppd(kPdfLine));
+        const QString file = m_runner->filePath(u"protected.pdf"_s);
+        QCOMPARE(QProcess::execute(u"qpdf"_s, {u"--encrypt"_s, u"sesame"_s, u"owner"_s, u"256"_s,
+                                               u"--"_s, document("five", 5), file}),
+                 0);
+        const QString password = write(u"password"_s, "sesame\n");
+        QVERIFY(QFile::setPermissions(password, QFile::ReadOwner | QFile::WriteOwner));
+        const RunEnd end = m_runner->run({u"-d"_s, u"office"_s, u"--document-password-file"_s,
+                                          password, document("two", 2), file});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(end.err.contains(u"“protected.pdf” is protected. The print server gets a copy "
+                                  "without protection."_s),
+                 end.text().constData());
+        const CapturedJob job = m_cups->capture(u"office"_s).jobs().constLast();
+        QCOMPARE(sidesOf(job.data), u"two1 | two2 | five1 | five2 | five3 | five4 | five5"_s);
+        QVERIFY(!job.options.contains(u"sesame"_s));
+    }
+
     void aDocumentThatHasNoneOfThePagesKeepsAllFromBeingPrinted()
     {
         m_cups->addQueue(u"office"_s, ppd({}));

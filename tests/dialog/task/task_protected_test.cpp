@@ -274,6 +274,7 @@ private Q_SLOTS:
         QCOMPARE(face.messages.constLast().offer, u"Enter the Password…"_s);
         QCOMPARE(task.sheetPreview().state, SheetPreview::State::None);
         QCOMPARE(task.sheetPreview().reason, kIsLocked);
+        QVERIFY(!task.sheetPreview().canBePrinted);
         face.documentPasswords = QStringList{u"wrong"_s, kUserPassword};
         face.messages.constLast().take();
         QTRY_COMPARE(face.message(), kFileIsPlain);
