@@ -107,7 +107,8 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
 }
 
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
-                                  const QList<JobOption> &attributes)
+                                  const QList<JobOption> &attributes,
+                                  const QHash<QString, QString> &remarks)
 {
     // The panels first: they restore and save on the way, which may change a mark.
     const QList<SummaryLine> panelLines = panels.summary();
@@ -122,7 +123,12 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
         if (copies > 1 && attribute.name == kCollateAttribute)
             continue; // stands beside the copies
         const JobAttributeText text = textOfJobAttribute(attribute);
-        lines += SummaryLine{text.title, text.value};
+        const QString remark = remarks.value(attribute.name);
+        lines += SummaryLine{
+            text.title,
+            remark.isEmpty()
+                ? text.value
+                : QCoreApplication::translate("Summary", "%1 (%2)").arg(text.value, remark)};
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.

@@ -9,6 +9,7 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/PrintRequest.h"
@@ -112,6 +113,11 @@ bool isSaidByTheJob(const JobOption &option, const OpenedPrinter &printer)
                        [&](QLatin1StringView name) { return option.name == name; });
 }
 
+QString ofQueue(const QString &problem, const OpenedPrinter &printer)
+{
+    return Texts::tr("Default of the queue “%1”: %2").arg(printer.fetched.printer.name, problem);
+}
+
 // The server adds these to the job, understood or not. What nobody here understands, or takes, is
 // kept as it is, so that it is seen.
 OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinter &printer)
@@ -129,7 +135,7 @@ OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinte
             continue;
         if (isSaidByTheJob(option, printer)) {
             for (const QString &problem : one.problems)
-                outcome.problems += Texts::tr("Default of the queue “%1”: %2").arg(queue, problem);
+                outcome.problems += ofQueue(problem, printer);
         } else {
             outcome.attributes += option;
             kept += named(option);
@@ -240,9 +246,15 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
         QStringList problems;
         if (passesOn)
             problems = takeWhatCannotBeDone(options[i], printer);
-        // What such a queue's own defaults ask for is done by nobody.
-        if (layer.by == By::Queue)
-            problems.clear();
+        else
+            problems = takeWhatHasNoEffect(options[i], request.documents, printer);
+        if (layer.by == By::Queue) {
+            // What such a queue's own defaults ask for is done by nobody.
+            if (passesOn)
+                problems.clear();
+            for (QString &problem : problems)
+                problem = ofQueue(problem, printer);
+        }
         const bool isRefused = layer.taking == Taking::AsAWhole && !problems.isEmpty();
         const OptionOutcome taken =
             isRefused ? OptionOutcome() : applyLayer(layer, options.at(i), printer);
