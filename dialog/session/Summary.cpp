@@ -100,10 +100,13 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
     if (!choice)
         return {};
     const QString custom = session.customValue(keyword);
+    const QString title = ppdText(option->text).value_or(keyword);
+    if (isSecretChoice(session.ppd(), keyword, ppdKeyword(choice->choice)))
+        return {title, QString(kHiddenLength, u'•')};
     const QString value = custom.isNull()
                               ? ppdText(choice->text).value_or(ppdKeyword(choice->choice))
                               : customText(session, keyword, custom);
-    return {ppdText(option->text).value_or(keyword), value};
+    return {title, value};
 }
 
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
