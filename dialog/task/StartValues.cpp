@@ -57,6 +57,22 @@ bool isNamed(const QList<JobOption> &options, const QString &name)
                        [&](const JobOption &option) { return option.name == name; });
 }
 
+// A list of a paper, its source and its type is as many wishes.
+QList<JobOption> inParts(const QList<JobOption> &options)
+{
+    QList<JobOption> parts;
+    for (const JobOption &option : options) {
+        if (option.name.compare("media"_L1, Qt::CaseInsensitive) != 0) {
+            parts += option;
+            continue;
+        }
+        const QStringList words = option.value.split(u',');
+        for (const QString &word : words)
+            parts += JobOption{option.name, word};
+    }
+    return parts;
+}
+
 // As much as the printer has. `problems` names each option that was not taken.
 OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
 {
@@ -70,7 +86,7 @@ OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &prin
         return fitted;
     // Together they cannot be taken, so each for itself, as far as they go.
     fitted = {};
-    for (const JobOption &option : options) {
+    for (const JobOption &option : inParts(options)) {
         const OptionOutcome one = apply({option});
         fitted.problems += one.problems;
         fitted.attributes += one.attributes;

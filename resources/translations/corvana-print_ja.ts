@@ -385,8 +385,8 @@
         <translation>太い二重線</translation>
     </message>
     <message>
-        <source>Fit to Paper If Too Large</source>
-        <translation>はみ出す場合は用紙に合わせる</translation>
+        <source>Fit All Pages If One Is Too Large</source>
+        <translation>はみ出すページがあれば全ページを用紙に合わせる</translation>
     </message>
     <message>
         <source>Fill Paper</source>
@@ -2066,16 +2066,16 @@ For the command line: %2</source>
         <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
     </message>
     <message>
-        <source>comes out one-sided, because only one side is printed</source>
-        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
+        <source>the back stays empty, because only one side is printed</source>
+        <translation>印刷する面が 1 つだけなので、裏面は白紙になります</translation>
     </message>
     <message>
-        <source>comes out one-sided, because each document has only one side</source>
-        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
+        <source>the backs stay empty, because each document has only one side</source>
+        <translation>どの文書も印刷する面が 1 つだけなので、裏面は白紙になります</translation>
     </message>
     <message>
-        <source>one-sided where a document has only one side: %1</source>
-        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
+        <source>the back stays empty where a document has only one side: %1</source>
+        <translation>印刷する面が 1 つだけの文書は裏面が白紙になります: %1</translation>
     </message>
     <message>
         <source>could not be counted</source>

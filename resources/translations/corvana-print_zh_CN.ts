@@ -385,8 +385,8 @@
         <translation>双粗线</translation>
     </message>
     <message>
-        <source>Fit to Paper If Too Large</source>
-        <translation>超出时缩小以适合纸张</translation>
+        <source>Fit All Pages If One Is Too Large</source>
+        <translation>有页面超出时使所有页面适合纸张</translation>
     </message>
     <message>
         <source>Fill Paper</source>
@@ -2066,16 +2066,16 @@ For the command line: %2</source>
         <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
     </message>
     <message>
-        <source>comes out one-sided, because only one side is printed</source>
-        <translation>将单面打印，因为只有一面要打印</translation>
+        <source>the back stays empty, because only one side is printed</source>
+        <translation>背面将留空，因为只有一面要打印</translation>
     </message>
     <message>
-        <source>comes out one-sided, because each document has only one side</source>
-        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
+        <source>the backs stay empty, because each document has only one side</source>
+        <translation>背面将留空，因为每个文档都只有一面要打印</translation>
     </message>
     <message>
-        <source>one-sided where a document has only one side: %1</source>
-        <translation>只有一面要打印的文档将单面打印：%1</translation>
+        <source>the back stays empty where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档背面将留空：%1</translation>
     </message>
     <message>
         <source>could not be counted</source>

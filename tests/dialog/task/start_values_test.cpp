@@ -417,6 +417,36 @@ private Q_SLOTS:
         QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"Postcard"_s);
     }
 
+    void aListOfPapersIsTakenPartByPart_data()
+    {
+        QTest::addColumn<int>("by");
+        QTest::newRow("queue") << int(By::Queue);
+        QTest::newRow("lpoptions") << int(By::UserQueues);
+    }
+    void aListOfPapersIsTakenPartByPart()
+    {
+        QFETCH(int, by);
+        say(By(by), u"media=Postcard,Cellar,Attic"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"Postcard"_s);
+        QCOMPARE(outcome.ignored.size(), 2);
+        QVERIFY2(outcome.ignored.at(0).contains(u"media=Cellar"_s),
+                 qPrintable(outcome.ignored.at(0)));
+        QVERIFY2(outcome.ignored.at(1).contains(u"media=Attic"_s),
+                 qPrintable(outcome.ignored.at(1)));
+    }
+
+    // What was asked for just now is taken as a whole, and every part that is missing is named.
+    void eachPartOfAListThatIsNotTakenIsNamed()
+    {
+        say(By::Options, u"media=Postcard,Cellar,Attic"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(outcome.unset.size(), 2);
+        QVERIFY(outcome.unset.at(0).contains(u"“Cellar”"_s));
+        QVERIFY(outcome.unset.at(1).contains(u"“Attic”"_s));
+        QVERIFY(m_printer->session->markedChoice(u"PageSize"_s) != u"Postcard"_s);
+    }
+
     // What is passed on as it is
 
     void aRawQueueTakesOnlyWhatIsDoneToTheJob_data()
