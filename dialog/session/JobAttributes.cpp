@@ -315,13 +315,11 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
 
 JobOption inOneSpelling(const JobOption &option)
 {
-    const auto is = [&](const char *name, const char *value) {
-        return option.name == QLatin1StringView(name) && option.value == QLatin1StringView(value);
-    };
-    if (is("landscape", "true"))
-        return {u"orientation-requested"_s, u"4"_s};
-    if (is("landscape", "false"))
-        return {u"orientation-requested"_s, u"3"_s};
+    if (option.name == kLandscapeOption) {
+        const AllowedValues truths{kTrueOrFalse};
+        if (const std::optional<QString> value = truths.inOneSpelling(option.value))
+            return {u"orientation-requested"_s, *value == "true"_L1 ? u"4"_s : u"3"_s};
+    }
     if (option.name == kHandlingAttribute && option.value == kCollated)
         return {kCollateAttribute, u"true"_s};
     if (option.name == kHandlingAttribute && option.value == kUncollated)

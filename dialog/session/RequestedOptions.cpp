@@ -117,6 +117,8 @@ void RequestedOptions::add(const JobOption &option)
         addCopies(option);
     else if (option.name == kHandlingAttribute)
         refuseValue(option, handlings());
+    else if (option.name == kLandscapeOption && !ppdOption(m_session.ppd(), option.name))
+        refuseValue(option, u"true, false"_s);
     else if (!addPanelValue(option) && !addChoice(option, option.name) &&
              !addChoicesOfAttribute(option) && !addAttribute(option))
         refuse(option,

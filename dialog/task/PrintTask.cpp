@@ -6,6 +6,7 @@
 
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/PassedOn.h"
@@ -182,8 +183,11 @@ QList<SummaryLine> PrintTask::summaryOfSettings()
     QList<JobOption> attributes = jobAttributes();
     if (passesFilesOn())
         return summaryOfPassedOn(attributes, m_settings.copies());
-    attributes.removeIf(
-        [&](const JobOption &one) { return !hasEffectOn(m_request.documents, one); });
+    attributes.removeIf([&](const JobOption &one) {
+        // The same in other letters, for a queue that writes it so, is said already.
+        const bool isSaid = nameInOneCase(one.name, m_opened->session->ppd()) != one.name;
+        return isSaid || !hasEffectOn(m_request.documents, one);
+    });
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(), attributes,
                           remarksOn(attributes, *m_opened, m_request.documents));
 }

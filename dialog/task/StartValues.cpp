@@ -9,6 +9,7 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -226,6 +227,15 @@ bool isInevitable(const JobOption &option, const OpenedPrinter &printer)
 QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attributes,
                           const OpenedPrinter &printer)
 {
+    // CUPS' filters take "Collate" and "collate" for the same, and servers do not: the job says the
+    // same under both names.
+    if (const QString name = nameInOneCase(option.name, printer.session->ppd());
+        name != option.name) {
+        const auto said = std::find_if(attributes.cbegin(), attributes.cend(),
+                                       [&](const JobOption &one) { return one.name == name; });
+        const QString value = said == attributes.cend() ? usualValue(name) : said->value;
+        return value.isEmpty() ? QList<JobOption>() : QList{JobOption{option.name, value}};
+    }
     const JobOption inOne = inOneSpelling(option);
     // The job says the same in the other spelling, or says otherwise. Such an option is on or off.
     if (inOne.name != option.name)

@@ -85,6 +85,10 @@
         <source>%1 cannot be kept: it has more than %2 bytes.</source>
         <translation>%1 を保存できません: %2 バイトを超えています。</translation>
     </message>
+    <message>
+        <source>%1 cannot be printed: it holds data that are ready for a printer. A queue passes them on as they are with the option “raw”.</source>
+        <translation>%1 は印刷できません。プリンター用に変換済みのデータです。オプション「raw」を付けると、キューがそのまま渡します。</translation>
+    </message>
 </context>
 <context>
     <name>JobAttributes</name>
@@ -1217,6 +1221,10 @@
         <source>%1, not collated</source>
         <translation>%1（ページ単位）</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>TerminalQuestions</name>
@@ -2157,6 +2165,25 @@ For the command line: %2</source>
     <message>
         <source>More, %1</source>
         <translation>詳細、%1</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeEffects</name>
+    <message>
+        <source>%1 has no effect on %2: only texts follow it.</source>
+        <translation>%1 は %2 には効果がありません。テキストにのみ適用されます。</translation>
+    </message>
+    <message>
+        <source>%1 has no effect on %2: only pictures follow it.</source>
+        <translation>%1 は %2 には効果がありません。画像にのみ適用されます。</translation>
+    </message>
+    <message>
+        <source>asked for by the queue; what the printer makes of it is not known</source>
+        <translation>キューの指定。プリンターがどう扱うかは不明</translation>
+    </message>
+    <message>
+        <source>only where a page is scaled</source>
+        <translation>ページが拡大・縮小される場合のみ</translation>
     </message>
 </context>
 </TS>

@@ -85,6 +85,10 @@
         <source>%1 cannot be kept: it has more than %2 bytes.</source>
         <translation>无法保存 %1：超过了 %2 字节。</translation>
     </message>
+    <message>
+        <source>%1 cannot be printed: it holds data that are ready for a printer. A queue passes them on as they are with the option “raw”.</source>
+        <translation>无法打印 %1：其内容是已为打印机准备好的数据。使用选项“raw”时，队列会原样传递。</translation>
+    </message>
 </context>
 <context>
     <name>JobAttributes</name>
@@ -1217,6 +1221,10 @@
         <source>%1, not collated</source>
         <translation>%1（逐页打印）</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>TerminalQuestions</name>
@@ -2157,6 +2165,25 @@ For the command line: %2</source>
     <message>
         <source>More, %1</source>
         <translation>更多，%1</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeEffects</name>
+    <message>
+        <source>%1 has no effect on %2: only texts follow it.</source>
+        <translation>%1 对 %2 无效：只适用于文本。</translation>
+    </message>
+    <message>
+        <source>%1 has no effect on %2: only pictures follow it.</source>
+        <translation>%1 对 %2 无效：只适用于图片。</translation>
+    </message>
+    <message>
+        <source>asked for by the queue; what the printer makes of it is not known</source>
+        <translation>由队列指定；打印机如何处理未知</translation>
+    </message>
+    <message>
+        <source>only where a page is scaled</source>
+        <translation>仅在页面缩放时</translation>
     </message>
 </context>
 </TS>

@@ -254,6 +254,11 @@ private Q_SLOTS:
             u"orientation-requested=4"_s);
         row("another spelling of something else", u"landscape=true"_s, u"orientation-requested=3"_s,
             u"orientation-requested=3 landscape=false"_s);
+        row("in other letters", u"Collate=False"_s, u"collate=false"_s,
+            u"collate=false Collate=false"_s);
+        row("something else in other letters", u"Number-Up=2"_s, u"number-up=4"_s,
+            u"number-up=4 Number-Up=4"_s);
+        row("taken back in other letters", u"Collate=False"_s, {}, u"Collate=true"_s);
         row("what nothing can be said against", u"Sparkle=bright"_s, {}, u"Sparkle=bright"_s);
         row("a choice of the PPD", u"Media=Card"_s, {}, {});
         row("what is a choice of the PPD", u"sides=two-sided-long-edge"_s, {}, {});

@@ -195,6 +195,14 @@ private Q_SLOTS:
         QVERIFY2(line.startsWith(u"bright (asked for by the queue"_s), qPrintable(line));
     }
 
+    void whatAQueueWritesInOtherLettersIsOneLine()
+    {
+        PrintTask &task = open(u"number-up=2"_s);
+        task.opened()->fetched.defaults = {{u"Number-Up"_s, u"2"_s}};
+        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"2"_s});
+        QVERIFY(summary(u"Number-Up"_s).isEmpty());
+    }
+
     // The server adds it to every job; nobody follows it in this one.
     void whatDoesNothingToTheDocumentIsNotInTheSummary()
     {
