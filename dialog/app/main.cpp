@@ -94,7 +94,9 @@ void logForTerminals(bool unattended)
             const bool isOfPlatforms = QByteArrayView(context.category).startsWith("qt.qpa") ||
                                        text.startsWith("QStandardPaths:"_L1) ||
                                        text.startsWith("Failed to create wl_display"_L1);
-            if (looksForPlatform && type == QtWarningMsg && isOfPlatforms)
+            // A platform that was found and cannot be used is told of with a type of its own.
+            const bool isRemark = type != QtCriticalMsg && type != QtFatalMsg;
+            if (looksForPlatform && isRemark && isOfPlatforms)
                 return;
             if (!ignoresMissingRuntimeFolder ||
                 !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set"_L1))

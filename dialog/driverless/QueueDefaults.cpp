@@ -29,7 +29,8 @@ struct SaidOfAnyQueue
 constexpr SaidOfAnyQueue kSaidOfAnyQueue[] = {
     {"copies"_L1, "1"_L1},
     {"document-format"_L1, {}},
-    {"job-cancel-after"_L1, {}},
+    {"job-cancel-after"_L1, "10800"_L1}, // three hours, as CUPS comes
+    {"job-cancel-after"_L1, "0"_L1},     // never
     {"job-hold-until"_L1, "no-hold"_L1},
     {"job-priority"_L1, "50"_L1},
     {"job-sheets"_L1, "none,none"_L1},

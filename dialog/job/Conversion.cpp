@@ -7,6 +7,7 @@
 
 #include "dialog/job/CupsFilter.h"
 #include "dialog/job/PpdFilters.h"
+#include "dialog/text/WholeWrite.h"
 
 namespace corvana {
 
@@ -100,8 +101,7 @@ QString Conversion::takePpd(const QString &own, const QString &filling, const QS
         {own, content}, {filling, fillingSheets(content)}, {blank, kBlankPage}};
     for (const auto &[path, text] : copies) {
         QFile copy(path);
-        if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-            copy.write(text) != text.size())
+        if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeWhole(copy, text))
             return tr("%1 cannot be written: %2").arg(path, copy.errorString());
     }
     // A PDF is made by filters of the system only.

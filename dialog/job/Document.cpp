@@ -49,16 +49,32 @@ const Format *formatOf(const QMimeType &type)
     return found == std::end(kFormats) ? nullptr : found;
 }
 
+QByteArray beginningOf(QFile &file)
+{
+    constexpr qint64 kBeginning = 4096;
+    file.seek(0);
+    return file.read(kBeginning);
+}
+
+// What a driver has made for a printer. It may look like a text, and pages of it would be full of
+// commands.
+bool isPrinterData(const QByteArray &beginning)
+{
+    return beginning.startsWith("\x1B%-12345X") || beginning.startsWith("\x1B"
+                                                                        "E\x1B");
+}
+
 // What a file holds. The filter chain reads no UTF-16 and no escape sequences, and no database of
 // types calls them text; pages are made of them here.
 const Format *formatOfContent(QFile &file, const QMimeType &type)
 {
-    constexpr qint64 kBeginning = 4096;
-    if (const Format *known = formatOf(type))
+    const Format *known = formatOf(type);
+    if (isPrinterData(beginningOf(file)))
+        return nullptr;
+    if (known)
         return known;
     constexpr const Format *kText = std::end(kFormats) - 1;
-    file.seek(0);
-    return type.isDefault() && looksLikeText(file.read(kBeginning)) ? kText : nullptr;
+    return type.isDefault() && looksLikeText(beginningOf(file)) ? kText : nullptr;
 }
 
 // `name` is what the user calls it. Errors: see inspectDocument().
@@ -83,6 +99,12 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
                 fileName};
     const auto namedTypes = database.mimeTypesForFileName(fileName);
     const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
+    if (!held && isPrinterData(beginningOf(file))) {
+        *error = Texts::tr("%1 cannot be printed: it holds data that are ready for a printer. A "
+                           "queue passes them on as they are with the option “raw”.")
+                     .arg(name);
+        return {};
+    }
     if (!held) {
         *error =
             Texts::tr(

@@ -28,6 +28,15 @@ QString withoutFullStop(QString text)
     return text;
 }
 
+// The server has answered, and will not take the job from this user as it is.
+bool saysNo(const ServerProblem &problem)
+{
+    using Problem = ServerProblem::Kind;
+    return problem.kind == Problem::Refused || problem.kind == Problem::Forbidden ||
+           problem.kind == Problem::PasswordNeeded || problem.kind == Problem::PasswordRefused ||
+           problem.kind == Problem::PasswordCanceled;
+}
+
 QString whereTheEarlierJobIs(const JobStatus &job)
 {
     if (job.state == IPP_JSTATE_COMPLETED)
@@ -78,6 +87,11 @@ JobOutcome HandoverOutcomes::failed(const QString &text) const
     return outcome(Kind::Failed, text);
 }
 
+JobOutcome HandoverOutcomes::refused(const QString &text) const
+{
+    return outcome(Kind::Refused, text);
+}
+
 JobOutcome HandoverOutcomes::nothingPrinted(const QString &why) const
 {
     return failed(Texts::tr("%1 Nothing was printed.").arg(why));
@@ -90,25 +104,26 @@ JobOutcome HandoverOutcomes::cannotBeRead(const QString &document, const QString
 
 JobOutcome HandoverOutcomes::noCredentials() const
 {
-    return failed(Texts::tr("The printer “%1” wants a user and a password; none was given. "
-                            "Nothing was printed.")
-                      .arg(m_printer.name));
+    return refused(Texts::tr("The printer “%1” wants a user and a password; none was given. "
+                             "Nothing was printed.")
+                       .arg(m_printer.name));
 }
 
 JobOutcome HandoverOutcomes::notCreated(const ServerProblem &problem, const QString &why,
                                         const QString &reason) const
 {
     if (problem.kind == ServerProblem::Kind::NotFound)
-        return failed(Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
-                          .arg(m_printer.name));
+        return refused(Texts::tr("The queue “%1” is not there any more. Nothing was printed.")
+                           .arg(m_printer.name));
     if (problem.status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
-        return failed(
+        return refused(
             reason.isEmpty()
                 ? Texts::tr("The queue “%1” takes no jobs at the moment. Nothing was printed.")
                       .arg(m_printer.name)
                 : Texts::tr("The queue “%1” takes no jobs at the moment: %2. Nothing was printed.")
                       .arg(m_printer.name, withoutFullStop(reason)));
-    return nothingPrinted(why);
+    return saysNo(problem) ? refused(Texts::tr("%1 Nothing was printed.").arg(why))
+                           : nothingPrinted(why);
 }
 
 JobOutcome HandoverOutcomes::printerChanged() const

@@ -79,6 +79,7 @@ public:
 private:
     JobOutcome outcome(JobOutcome::Kind kind, const QString &text) const;
     JobOutcome failed(const QString &text) const;
+    JobOutcome refused(const QString &text) const;
     QString name() const { return jobName(m_printer, m_job); }
 
     Printer m_printer;

@@ -16,6 +16,7 @@ struct JobOutcome
         InQueue,      ///< the server has all of it and will print it; `text` says what it waits for
         Stopped,      ///< the server has all of it, and prints it when somebody releases it
         Failed,       ///< it will not be printed
+        Refused,      ///< its queue does not take it: no job was made
         Canceled,     ///< somebody ended it, here or at the server
         Unknown,      ///< it was sent, and nobody can say what became of it
         AlreadyThere, ///< an earlier try turned out to have reached the queue; nothing was sent

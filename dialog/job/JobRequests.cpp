@@ -75,7 +75,8 @@ void noteStoppedPrinter(ServerConnection &connection, const Printer &printer, Jo
         return;
     status->printerStopped = true;
     status->reasons.removeAll("none"_L1);
-    status->reasons += u"printer-stopped"_s;
+    if (!status->reasons.contains("printer-stopped"_L1))
+        status->reasons += u"printer-stopped"_s;
     if (status->message.isEmpty())
         status->message =
             ippText(ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_ZERO));

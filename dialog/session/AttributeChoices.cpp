@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 
+#include "dialog/session/ColorModeNames.h"
 #include "dialog/session/MarksByCups.h"
 #include "dialog/session/OptionNames.h"
 
@@ -254,15 +255,20 @@ QList<JobOption> AttributeReader::colorModeChoices(const QString &mode) const
         if (!own.isEmpty())
             return own;
     }
+    const auto byCups = [&](const QString &one) {
+        return choicesByCups(m_ppd, {{kColorMode, one}});
+    };
+    if (byCups(kMonochrome) == byCups(kColor))
+        return colorModeByName(m_ppd, mode);
     const QString opposite = mode == kMonochrome ? kColor : kMonochrome;
-    const QList<JobOption> others = choicesByCups(m_ppd, {{kColorMode, opposite}});
-    QList<JobOption> choices = choicesByCups(m_ppd, {{kColorMode, mode}});
+    const QList<JobOption> others = byCups(opposite);
+    QList<JobOption> choices = byCups(mode);
     choices.removeIf([&](const JobOption &choice) { return others.contains(choice); });
     if (mode == kMonochrome)
         return choices;
     // Some PPDs have a choice for black and white only.
     for (const JobOption &grey : others) {
-        if (valueOf(choicesByCups(m_ppd, {{kColorMode, mode}}), grey.name).isNull()) {
+        if (valueOf(byCups(mode), grey.name).isNull()) {
             const JobOption other = otherThan(grey);
             if (!other.name.isEmpty())
                 choices += other;

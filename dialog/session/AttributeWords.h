@@ -51,7 +51,10 @@ inline constexpr Word kOrientations[] = {
 };
 inline constexpr Word kScalings[] = {
     {"auto"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Automatic")},
-    {"auto-fit"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fit to Paper If Too Large")},
+    // As soon as one page of a document is larger than the paper, all of its pages fill the
+    // printable area, so that smaller ones are enlarged. "auto" does the same, and crops on
+    // borderless paper.
+    {"auto-fit"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fit All Pages If One Is Too Large")},
     {"fill"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fill Paper")},
     {"fit"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Fit to Paper")},
     {"none"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Actual Size")},

@@ -102,6 +102,13 @@ std::optional<std::pair<double, double>> range(const ppd_cparam_t *parameter)
     }
 }
 
+bool isCalledSecret(ppd_file_t *ppd, const QString &keyword)
+{
+    const ppd_option_t *option = ppdOption(ppd, keyword);
+    return option &&
+           (soundsSecret(keyword) || soundsSecret(ppdText(option->text).value_or(QString())));
+}
+
 } // namespace
 
 bool takesCustomPageSizes(const ppd_file_t *ppd)
@@ -155,12 +162,16 @@ bool isSecret(ppd_file_t *ppd, const QString &keyword)
     const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
     if (!parameter)
         return false;
-    if (parameter->type == PPD_CUSTOM_PASSCODE || parameter->type == PPD_CUSTOM_PASSWORD)
-        return true;
-    const ppd_option_t *option = ppdOption(ppd, keyword);
-    return soundsSecret(keyword) || soundsSecret(ppdText(option->text).value_or(QString())) ||
-           soundsSecret(ppdKeyword(parameter->name)) ||
+    return parameter->type == PPD_CUSTOM_PASSCODE || parameter->type == PPD_CUSTOM_PASSWORD ||
+           isCalledSecret(ppd, keyword) || soundsSecret(ppdKeyword(parameter->name)) ||
            soundsSecret(ppdText(parameter->text).value_or(QString()));
+}
+
+bool isSecretChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    const bool hasDigit =
+        std::any_of(choice.cbegin(), choice.cend(), [](QChar c) { return c.isDigit(); });
+    return hasDigit && (isSecret(ppd, keyword) || isCalledSecret(ppd, keyword));
 }
 
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)

@@ -40,6 +40,9 @@ std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword
 /// Whether the custom value of an option is a password or a PIN, by its type or by what its keyword
 /// and its texts say. Such a value is neither shown nor logged.
 bool isSecret(ppd_file_t *ppd, const QString &keyword);
+/// Whether a choice of an option tells a secret: a number among the choices of "AccessCode".
+/// Whether there is one ("None", "On") is no secret.
+bool isSecretChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);
 /// How many dots stand for a password, whatever its length: that is a part of it.
 inline constexpr int kHiddenLength = 6;
 

@@ -19,6 +19,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using AppliedTo = JobAttribute::AppliedTo;
+using Shapes = JobAttribute::Shapes;
 using Word = AllowedValues::Word;
 using namespace attributewords;
 
@@ -141,22 +142,26 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Size on the Page, in %"),
-     wholeNumbers(1, 800)},
+     wholeNumbers(1, 800),
+     Shapes::Pictures},
     {"natural-scaling"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Size of the Picture, in %"),
-     wholeNumbers(1, 800)},
+     wholeNumbers(1, 800),
+     Shapes::Pictures},
     {"ppi"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Pixels per Inch"),
-     wholeNumbers(1, 9600)},
+     wholeNumbers(1, 9600),
+     Shapes::Pictures},
     {"position"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Position"),
-     {kPositions}},
+     {kPositions},
+     Shapes::Pictures},
     {"mirror"_L1,
      AppliedTo::Pages,
      "false"_L1,
@@ -166,47 +171,56 @@ constexpr JobAttribute kAttributes[] = {
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Left Margin"),
-     kMargins},
+     kMargins,
+     Shapes::ScaledPages},
     {"page-right"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Right Margin"),
-     kMargins},
+     kMargins,
+     Shapes::ScaledPages},
     {"page-top"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Top Margin"),
-     kMargins},
+     kMargins,
+     Shapes::ScaledPages},
     {"page-bottom"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Bottom Margin"),
-     kMargins},
+     kMargins,
+     Shapes::ScaledPages},
     {"cpi"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Characters per Inch"),
-     numbers(1, 100)},
+     numbers(1, 100),
+     Shapes::Texts},
     {"lpi"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Lines per Inch"),
-     numbers(1, 100)},
+     numbers(1, 100),
+     Shapes::Texts},
     {"columns"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Columns of Text"),
-     wholeNumbers(1, 100)},
+     wholeNumbers(1, 100),
+     Shapes::Texts},
     {"wrap"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Long Lines Continue"),
-     {kTrueOrFalse}},
+     {kTrueOrFalse},
+     Shapes::Texts},
     {"prettyprint"_L1,
      AppliedTo::Document,
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Headers on Text Pages"),
-     {kTrueOrFalse}},
+     {kTrueOrFalse},
+     Shapes::Texts},
     {kCollateAttribute,
      AppliedTo::Job,
      "true"_L1,
@@ -320,13 +334,11 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
 
 JobOption inOneSpelling(const JobOption &option)
 {
-    const auto is = [&](const char *name, const char *value) {
-        return option.name == QLatin1StringView(name) && option.value == QLatin1StringView(value);
-    };
-    if (is("landscape", "true"))
-        return {u"orientation-requested"_s, u"4"_s};
-    if (is("landscape", "false"))
-        return {u"orientation-requested"_s, u"3"_s};
+    if (option.name == kLandscapeOption) {
+        const AllowedValues truths{kTrueOrFalse};
+        if (const std::optional<QString> value = truths.inOneSpelling(option.value))
+            return {u"orientation-requested"_s, *value == "true"_L1 ? u"4"_s : u"3"_s};
+    }
     if (option.name == kHandlingAttribute && option.value == kCollated)
         return {kCollateAttribute, u"true"_s};
     if (option.name == kHandlingAttribute && option.value == kUncollated)

@@ -60,6 +60,14 @@ struct JobAttribute
         Job,      ///< the job as a whole: only its printer, or its queue, can
     };
 
+    /// Which documents are other ones with it.
+    enum class Shapes {
+        Everything,
+        Texts,
+        Pictures,
+        ScaledPages, ///< texts and pictures; pages that have a size only where they are scaled
+    };
+
     QLatin1StringView name;
     AppliedTo appliedTo;
     /// The value that asks for nothing but what is done anyway; empty where there is none.
@@ -67,6 +75,7 @@ struct JobAttribute
     /// What the summary calls it; to be translated in the context "JobAttributes".
     const char *title;
     AllowedValues allowed;
+    Shapes shapes = Shapes::Everything;
 
     bool accepts(const QString &value) const { return allowed.accepts(value); }
 };

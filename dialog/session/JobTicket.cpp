@@ -106,6 +106,11 @@ QStringList secretsOf(const PpdSession &session)
         const QString custom = session.customValue(keyword);
         if (!custom.isEmpty() && isSecret(session.ppd(), keyword))
             secrets += custom.mid(kCustomPrefix.size());
+        // One or two letters stand in every log, where dots would only tell which they are.
+        constexpr qsizetype kTooShort = 3;
+        const QString choice = session.markedChoice(keyword);
+        if (choice.size() >= kTooShort && isSecretChoice(session.ppd(), keyword, choice))
+            secrets += choice;
     }
     return secrets;
 }

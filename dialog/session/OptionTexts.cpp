@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 QString optionText(ppd_file_t *ppd, const QString &name, const QString &value)
 {
-    const bool secret = isSecret(ppd, name) && !ppdChoice(ppdOption(ppd, name), value);
+    const bool secret = ppdChoice(ppdOption(ppd, name), value) ? isSecretChoice(ppd, name, value)
+                                                               : isSecret(ppd, name);
     return u"%1=%2"_s.arg(name, secret ? QString(kHiddenLength, u'•') : value);
 }
 

@@ -117,6 +117,8 @@ void RequestedOptions::add(const JobOption &option)
         addCopies(option);
     else if (option.name == kHandlingAttribute)
         refuseValue(option, handlings());
+    else if (option.name == kLandscapeOption && !ppdOption(m_session.ppd(), option.name))
+        refuseValue(option, u"true, false"_s);
     else if (!addPanelValue(option) && !addChoice(option, option.name) &&
              !addChoicesOfAttribute(option) && !addAttribute(option))
         refuse(option,
@@ -170,6 +172,7 @@ void RequestedOptions::addMedia(const JobOption &option)
     ppd_file_t *ppd = m_session.ppd();
     const ppd_option_t *sizes = ppdOption(ppd, kPageSizeOption);
     const QStringList words = option.value.split(u',');
+    // Each part that is not taken is named.
     for (const QString &word : words) {
         const QList<OptionChoice> paper = paperOf(word);
         choices += paper;
@@ -183,13 +186,13 @@ void RequestedOptions::addMedia(const JobOption &option)
             if (const QString more = reader.read({part, QString()}).allowed; !more.isEmpty())
                 allowed += more;
         }
-        if (allowed.isEmpty())
-            return refuse(option, Texts::tr("this printer has no paper sizes to choose from."));
-        // The word that is meant, where there are several.
         const QString text = allowed.join(u", "_s);
-        if (words.size() == 1)
-            return refuseValue(option, text);
-        return refuse(option, Texts::tr("“%1” is not allowed. Allowed: %2.").arg(word, text));
+        if (allowed.isEmpty())
+            refuse(option, Texts::tr("this printer has no paper sizes to choose from."));
+        else if (words.size() == 1)
+            refuseValue(option, text);
+        else
+            refuse(option, Texts::tr("“%1” is not allowed. Allowed: %2.").arg(word, text));
     }
 }
 

@@ -14,10 +14,11 @@ namespace {
 
 // Words that mean a secret wherever they stand, since no other word contains them.
 constexpr const char16_t *kPieces[] = {
-    u"password",   u"passcode",       u"passwd",     u"passphrase", u"pincode",
-    u"accesscode", u"securitycode",   u"暗証",       u"暗证",       u"パスワード",
-    u"パスコード", u"アクセスコード", u"認証コード", u"密码",       u"密碼",
-    u"口令",       u"访问码",         u"访问代码",   u"验证码",     u"识别码",
+    u"passwort", u"kennwort",   u"pinnumber",  u"securecode",     u"releasecode",  u"keycode",
+    u"lockcode", u"usercode",   u"jobpin",     u"userpin",        u"password",     u"passcode",
+    u"passwd",   u"passphrase", u"pincode",    u"accesscode",     u"securitycode", u"暗証",
+    u"暗证",     u"パスワード", u"パスコード", u"アクセスコード", u"認証コード",   u"密码",
+    u"密碼",     u"口令",       u"访问码",     u"访问代码",       u"验证码",       u"识别码",
 };
 
 // Words that mean it only as a whole: "Spinning" and "Secretary" contain them, too.
@@ -40,6 +41,11 @@ QStringList wordsOf(const QString &name)
 bool soundsSecret(const QString &name)
 {
     const QStringList words = wordsOf(name);
+    // "PINs" and "PINnumber": no rule of words parts these, and nothing else is written like that.
+    static const QRegularExpression pin(u"(?<!\\p{Lu})PIN(?!\\p{Lu})"_s,
+                                        QRegularExpression::UseUnicodePropertiesOption);
+    if (pin.match(name).hasMatch())
+        return true;
     // "Access Code" and "AccessCode" are the same.
     const QString joined = QString(name).remove(u' ').remove(u'_').remove(u'-').toLower();
     return std::any_of(

@@ -100,14 +100,18 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
     if (!choice)
         return {};
     const QString custom = session.customValue(keyword);
+    const QString title = ppdText(option->text).value_or(keyword);
+    if (isSecretChoice(session.ppd(), keyword, ppdKeyword(choice->choice)))
+        return {title, QString(kHiddenLength, u'•')};
     const QString value = custom.isNull()
                               ? ppdText(choice->text).value_or(ppdKeyword(choice->choice))
                               : customText(session, keyword, custom);
-    return {ppdText(option->text).value_or(keyword), value};
+    return {title, value};
 }
 
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
-                                  const QList<JobOption> &attributes)
+                                  const QList<JobOption> &attributes,
+                                  const QHash<QString, QString> &remarks)
 {
     // The panels first: they restore and save on the way, which may change a mark.
     const QList<SummaryLine> panelLines = panels.summary();
@@ -122,7 +126,12 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
         if (copies > 1 && attribute.name == kCollateAttribute)
             continue; // stands beside the copies
         const JobAttributeText text = textOfJobAttribute(attribute);
-        lines += SummaryLine{text.title, text.value};
+        const QString remark = remarks.value(attribute.name);
+        lines += SummaryLine{
+            text.title,
+            remark.isEmpty()
+                ? text.value
+                : QCoreApplication::translate("Summary", "%1 (%2)").arg(text.value, remark)};
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.

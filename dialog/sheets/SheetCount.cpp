@@ -47,7 +47,7 @@ bool isUncounted(const JobSheets &sheets)
     return !sheetsOfOneCopy(sheets);
 }
 
-bool comesOutOneSided(const DocumentSheets &document)
+bool hasEmptyBacks(const DocumentSheets &document)
 {
     return document.sides == 1;
 }

@@ -65,7 +65,8 @@ int chosenPages(int pages, const PageChoice &choice);
 std::optional<int> sheetsOfOneCopy(const JobSheets &sheets);
 /// Whether nobody could count the sides of some document.
 bool isUncounted(const JobSheets &sheets);
-/// Whether a document of a two-sided job comes out one-sided: a single side has no back.
-bool comesOutOneSided(const DocumentSheets &document);
+/// Whether the backs of a document stay empty in a two-sided job. Its stream may be one-sided then,
+/// or two-sided with blank backs: that depends on the printer, and on how the copies are made.
+bool hasEmptyBacks(const DocumentSheets &document);
 
 } // namespace corvana

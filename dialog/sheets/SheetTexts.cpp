@@ -171,16 +171,17 @@ QString oneSidedReason(const JobSheets &sheets)
         return {};
     QStringList titles;
     for (const DocumentSheets &document : sheets.documents) {
-        if (comesOutOneSided(document))
+        if (hasEmptyBacks(document))
             titles += u"“%1”"_s.arg(terminalLine(document.title));
     }
     if (titles.isEmpty())
         return {};
     if (titles.size() == sheets.documents.size())
         return titles.size() == 1
-                   ? Texts::tr("comes out one-sided, because only one side is printed")
-                   : Texts::tr("comes out one-sided, because each document has only one side");
-    return Texts::tr("one-sided where a document has only one side: %1").arg(joined(titles));
+                   ? Texts::tr("the back stays empty, because only one side is printed")
+                   : Texts::tr("the backs stay empty, because each document has only one side");
+    return Texts::tr("the back stays empty where a document has only one side: %1")
+        .arg(joined(titles));
 }
 
 QString countText(const JobSheets &sheets, const PageChoice &choice, int copies)

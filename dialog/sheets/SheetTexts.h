@@ -23,7 +23,7 @@ QStringList previewProblems(const JobSheets &sheets);
 /// each.
 QStringList missingPages(const JobSheets &sheets, const PageChoice &choice);
 
-/// Why sheets of a two-sided job come out one-sided; empty where they do not.
+/// Why backs stay empty in a two-sided job; nothing where they do not.
 QString oneSidedReason(const JobSheets &sheets);
 
 /// "9 pages × 2 copies = 6 sheets"; says so where nobody could count them.

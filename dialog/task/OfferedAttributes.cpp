@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "dialog/job/PageChoice.h"
+#include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/JobSettings.h"
@@ -54,26 +55,6 @@ bool isOffered(const QString &name)
                        [&](const Offer &offer) { return offer.name == name; });
 }
 
-// Whether the options of the printer have a choice without colours.
-bool hasColorOption(const PpdSession &session)
-{
-    static constexpr QLatin1StringView kWithoutColor[] = {"gray"_L1, "grey"_L1, "mono"_L1,
-                                                          "black"_L1};
-    for (const ppd_option_t *option : session.options()) {
-        const bool isAboutColor =
-            ppdKeyword(option->keyword).contains("color"_L1, Qt::CaseInsensitive);
-        for (int i = 0; isAboutColor && i < option->num_choices; ++i) {
-            const QString choice = ppdKeyword(option->choices[i].choice);
-            if (std::any_of(std::begin(kWithoutColor), std::end(kWithoutColor),
-                            [&](QLatin1StringView word) {
-                                return choice.startsWith(word, Qt::CaseInsensitive);
-                            }))
-                return true;
-        }
-    }
-    return false;
-}
-
 // An option of the PPD whose name is the attribute's: CUPS takes them for one, whatever the case of
 // their letters.
 ppd_option_t *ownOption(const QString &name, const PpdSession &session)
@@ -83,6 +64,25 @@ ppd_option_t *ownOption(const QString &name, const PpdSession &session)
             return option;
     }
     return nullptr;
+}
+
+// Of some PPDs "Collate" is an option of their own.
+PrinterChoices collation(const QString &value, const PpdSession &session)
+{
+    const ppd_option_t *option = ownOption(kCollateAttribute, session);
+    for (int i = 0; option && i < option->num_choices; ++i) {
+        const QString choice = ppdKeyword(option->choices[i].choice);
+        if (choice.compare(value, Qt::CaseInsensitive) == 0)
+            return {{OptionChoice{ppdKeyword(option->keyword), choice}}};
+    }
+    return {};
+}
+
+// Whether a value is done although no option of the printer's stands for it.
+bool isAttributeAlone(const QString &name, const QString &value, const OpenedPrinter &printer)
+{
+    const PrinterChoices own = choicesOfPrinter(name, value, printer);
+    return own.choices.isEmpty() && !own.isRefused;
 }
 
 // "none,none" is two of them: before the job and behind it.
@@ -121,8 +121,9 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer)
     if (name == kBookletAttribute)
         return savesPdf(printer) || choiceForBooklet(printer);
     if (name == kPrintColorMode)
-        return session.ppd()->color_device && !hasColorOption(session);
-    return !ownOption(name, session) || ownChoice(name, u"true"_s, printer);
+        return session.ppd()->color_device && isAttributeAlone(name, u"monochrome"_s, printer);
+    return !ownOption(name, session) ||
+           !choicesOfPrinter(name, u"true"_s, printer).choices.isEmpty();
 }
 
 QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const OpenedPrinter &printer)
@@ -148,18 +149,23 @@ QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const Ope
     return all;
 }
 
-std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
-                                      const OpenedPrinter &printer)
+PrinterChoices choicesOfPrinter(const QString &name, const QString &value,
+                                const OpenedPrinter &printer)
 {
-    if (name != kCollateAttribute)
-        return std::nullopt;
-    const ppd_option_t *option = ownOption(name, *printer.session);
-    for (int i = 0; option && i < option->num_choices; ++i) {
-        const QString choice = ppdKeyword(option->choices[i].choice);
-        if (choice.compare(value, Qt::CaseInsensitive) == 0)
-            return OptionChoice{ppdKeyword(option->keyword), choice};
-    }
-    return std::nullopt;
+    if (value.isNull())
+        return {};
+    if (name == kCollateAttribute)
+        return collation(value, *printer.session);
+    if (!AttributeReader::isFor(name))
+        return {};
+    const AttributeChoices read =
+        AttributeReader(printer.session->ppd(), printer.jobValues).read({name, value});
+    PrinterChoices own;
+    own.isRefused = read.outcome == AttributeChoices::Outcome::Refused;
+    own.allowed = read.allowed;
+    for (const JobOption &choice : read.choices)
+        own.choices += OptionChoice{choice.name, choice.value};
+    return own;
 }
 
 std::optional<OptionChoice> choiceForBooklet(const OpenedPrinter &printer)

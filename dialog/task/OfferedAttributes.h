@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include <QList>
 #include <QString>
 
@@ -23,10 +21,18 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer);
 QList<OfferedAttribute> offeredAttributes(const JobSettings &settings,
                                           const OpenedPrinter &printer);
 
-/// The choice of a printer's own option that an attribute stands for ("Collate" of some PPDs);
-/// nothing where it is an attribute of the job.
-std::optional<OptionChoice> ownChoice(const QString &name, const QString &value,
-                                      const OpenedPrinter &printer);
+/// What a printer's own options make of a value of an attribute.
+struct PrinterChoices
+{
+    /// The choices that it stands for ("Collate" of some PPDs); empty where it is an attribute of
+    /// the job, or is refused.
+    QList<OptionChoice> choices{};
+    bool isRefused = false; ///< nobody would do it
+    QString allowed{};      ///< of a refusal: what would be done
+};
+/// `value` is in the spelling of AllowedValues; null: none, which no option has anything to say to.
+PrinterChoices choicesOfPrinter(const QString &name, const QString &value,
+                                const OpenedPrinter &printer);
 
 /// The choice by which a printer turns the sheets of a booklet over; nothing where it prints on one
 /// side only.

@@ -7,7 +7,9 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SavedAsPdf.h"
@@ -189,10 +191,16 @@ QStringList PrintTask::takeMostCopies()
 
 QList<SummaryLine> PrintTask::summaryOfSettings()
 {
-    const QList<JobOption> attributes = jobAttributes();
+    QList<JobOption> attributes = jobAttributes();
     if (passesFilesOn())
         return summaryOfPassedOn(attributes, m_settings.copies());
-    return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(), attributes);
+    attributes.removeIf([&](const JobOption &one) {
+        // The same in other letters, for a queue that writes it so, is said already.
+        const bool isSaid = nameInOneCase(one.name, m_opened->session->ppd()) != one.name;
+        return isSaid || !hasEffectOn(m_request.documents, one);
+    });
+    return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(), attributes,
+                          remarksOn(attributes, *m_opened, m_request.documents));
 }
 
 bool PrintTask::passesFilesOn() const
@@ -239,7 +247,11 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
 
 QList<OfferedAttribute> PrintTask::attributes() const
 {
-    return offeredAttributes(m_settings, *m_opened);
+    QList<OfferedAttribute> offered = offeredAttributes(m_settings, *m_opened);
+    offered.removeIf([&](const OfferedAttribute &one) {
+        return !passesFilesOn() && !hasEffectOn(m_request.documents, {one.name, one.value});
+    });
+    return offered;
 }
 
 QString PrintTask::setAttribute(const QString &name, const QString &value)
@@ -248,17 +260,21 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     const JobAttribute *attribute = jobAttribute(name);
     if (!attribute)
         return tr("There is no job attribute of the name %1.").arg(name);
-    if (const std::optional<OptionChoice> own = ownChoice(name, value, *m_opened)) {
-        propose(own->keyword, own->choice);
+    const std::optional<QString> taken =
+        value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
+    const PrinterChoices own = choicesOfPrinter(name, taken.value_or(value), *m_opened);
+    if (!own.choices.isEmpty()) {
+        for (const OptionChoice &choice : own.choices)
+            propose(choice.keyword, choice.choice);
         return {};
     }
     if (value.isNull() && !canBeNone(name, *m_opened))
         return tr("The queue “%1” sets this for every job that does not name it. Allowed: %2.")
             .arg(m_chosen.printer.name, allowedText(attribute->allowed));
-    const std::optional<QString> taken =
-        value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
     if (!taken)
         return tr("“%1” is not allowed. Allowed: %2.").arg(value, allowedText(attribute->allowed));
+    if (own.isRefused)
+        return tr("“%1” is not allowed. Allowed: %2.").arg(*taken, own.allowed);
     if (*taken == m_settings.attribute(name))
         return {};
     Q_EMIT unsaid();

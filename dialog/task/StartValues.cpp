@@ -10,6 +10,8 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/RequestedOptions.h"
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -59,6 +61,22 @@ bool isNamed(const QList<JobOption> &options, const QString &name)
                        [&](const JobOption &option) { return option.name == name; });
 }
 
+// A list of a paper, its source and its type is as many wishes.
+QList<JobOption> inParts(const QList<JobOption> &options)
+{
+    QList<JobOption> parts;
+    for (const JobOption &option : options) {
+        if (option.name.compare("media"_L1, Qt::CaseInsensitive) != 0) {
+            parts += option;
+            continue;
+        }
+        const QStringList words = option.value.split(u',');
+        for (const QString &word : words)
+            parts += JobOption{option.name, word};
+    }
+    return parts;
+}
+
 // As much as the printer has. `problems` names each option that was not taken.
 OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
 {
@@ -72,7 +90,7 @@ OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &prin
         return fitted;
     // Together they cannot be taken, so each for itself, as far as they go.
     fitted = {};
-    for (const JobOption &option : options) {
+    for (const JobOption &option : inParts(options)) {
         const OptionOutcome one = apply({option});
         fitted.problems += one.problems;
         fitted.attributes += one.attributes;
@@ -115,6 +133,11 @@ bool isSaidByTheJob(const JobOption &option, const OpenedPrinter &printer)
                        [&](QLatin1StringView name) { return option.name == name; });
 }
 
+QString ofQueue(const QString &problem, const OpenedPrinter &printer)
+{
+    return Texts::tr("Default of the queue “%1”: %2").arg(printer.fetched.printer.name, problem);
+}
+
 // The server adds these to the job, understood or not. What nobody here understands, or takes, is
 // kept as it is, so that it is seen.
 OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinter &printer)
@@ -132,7 +155,7 @@ OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinte
             continue;
         if (isSaidByTheJob(option, printer)) {
             for (const QString &problem : one.problems)
-                outcome.problems += Texts::tr("Default of the queue “%1”: %2").arg(queue, problem);
+                outcome.problems += ofQueue(problem, printer);
         } else {
             outcome.attributes += option;
             kept += named(option);
@@ -207,6 +230,15 @@ bool isInevitable(const JobOption &option, const OpenedPrinter &printer)
 QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attributes,
                           const OpenedPrinter &printer)
 {
+    // CUPS' filters take "Collate" and "collate" for the same, and servers do not: the job says the
+    // same under both names.
+    if (const QString name = nameInOneCase(option.name, printer.session->ppd());
+        name != option.name) {
+        const auto said = std::find_if(attributes.cbegin(), attributes.cend(),
+                                       [&](const JobOption &one) { return one.name == name; });
+        const QString value = said == attributes.cend() ? usualValue(name) : said->value;
+        return value.isEmpty() ? QList<JobOption>() : QList{JobOption{option.name, value}};
+    }
     const JobOption inOne = inOneSpelling(option);
     // The job says the same in the other spelling, or says otherwise. Such an option is on or off.
     if (inOne.name != option.name)
@@ -254,12 +286,19 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
         QStringList problems;
         if (passesOn)
             problems = takeWhatCannotBeDone(options[i], printer);
-        else if (savesPdf(printer))
-            problems = takeWhatPdfLacks(options[i]);
+        else {
+            if (savesPdf(printer))
+                problems = takeWhatPdfLacks(options[i]);
+            problems += takeWhatHasNoEffect(options[i], request.documents, printer);
+        }
         options[i] += foldingOf(options.at(i), printer);
-        // What such a queue's own defaults ask for is done by nobody.
-        if (layer.by == By::Queue)
-            problems.clear();
+        if (layer.by == By::Queue) {
+            // What such a queue's own defaults ask for is done by nobody.
+            if (passesOn)
+                problems.clear();
+            for (QString &problem : problems)
+                problem = ofQueue(problem, printer);
+        }
         const bool isRefused = layer.taking == Taking::AsAWhole && !problems.isEmpty();
         const OptionOutcome taken =
             isRefused ? OptionOutcome() : applyLayer(layer, options.at(i), printer);

@@ -33,6 +33,7 @@ ExitStatus exitStatusOf(const JobOutcome &outcome)
         return ExitStatus::Unknown;
     case JobOutcome::Kind::Stopped:
     case JobOutcome::Kind::Failed:
+    case JobOutcome::Kind::Refused:
     case JobOutcome::Kind::Canceled:
     case JobOutcome::Kind::AlreadyThere:
     case JobOutcome::Kind::PrinterChanged:

@@ -14,6 +14,9 @@ namespace {
 
 using Kind = JobOutcome::Kind;
 
+// By the dialog or by a queue: whoever reads it need not know which.
+constexpr auto kRefused = "refused"_L1;
+
 QLatin1StringView keyword(Kind kind)
 {
     switch (kind) {
@@ -27,6 +30,8 @@ QLatin1StringView keyword(Kind kind)
         return "stopped"_L1;
     case Kind::Failed:
         return "failed"_L1;
+    case Kind::Refused:
+        return kRefused;
     case Kind::Canceled:
         return "canceled"_L1;
     case Kind::Unknown:
@@ -75,7 +80,7 @@ QByteArray refusalLine(const QString &queue, const QStringList &problems)
     JobOutcome outcome;
     outcome.queue = queue;
     outcome.text = problems.join(u'\n');
-    return line("refused"_L1, outcome);
+    return line(kRefused, outcome);
 }
 
 void writeLine(const QByteArray &line)

@@ -30,11 +30,14 @@ constexpr double kOwnLanguage = 0.05;
 
 struct Marker
 {
-    const char *bytes;
+    QByteArrayView bytes;
     const char *encoding;
 };
 constexpr Marker kMarkers[] = {
     {"\xEF\xBB\xBF", kUtf8},
+    // Before those of UTF-16, of which the first begins alike.
+    {QByteArrayView("\xFF\xFE\0\0", 4), "UTF-32LE"},
+    {QByteArrayView("\0\0\xFE\xFF", 4), "UTF-32BE"},
     {"\xFF\xFE", "UTF-16LE"},
     {"\xFE\xFF", "UTF-16BE"},
 };
@@ -293,7 +296,7 @@ TextEncoding recognizeEncoding(QIODevice &text, const QString &userLanguage)
     const QByteArray beginning = text.peek(kPiece);
     for (const Marker &marker : kMarkers) {
         if (beginning.startsWith(marker.bytes)) {
-            const auto length = static_cast<int>(qstrlen(marker.bytes));
+            const auto length = static_cast<int>(marker.bytes.size());
             text.seek(length);
             const bool eight = marker.encoding == kUtf8;
             return {marker.encoding,

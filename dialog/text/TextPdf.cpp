@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include "dialog/text/CharacterCells.h"
+#include "dialog/text/WholeWrite.h"
 
 namespace corvana {
 
@@ -48,13 +49,7 @@ TextPdf::TextPdf(QIODevice &file, const TextFormat &format, TextGlyphs &glyphs)
 
 void TextPdf::write(const QByteArray &bytes)
 {
-    // A disk that is just full takes a part, and says why only when it is asked for the rest.
-    qint64 taken = 0;
-    while (m_isWhole && taken < bytes.size()) {
-        const qint64 more = m_file.write(bytes.constData() + taken, bytes.size() - taken);
-        m_isWhole = more > 0;
-        taken += more;
-    }
+    m_isWhole = m_isWhole && writeWhole(m_file, bytes);
     m_written += bytes.size();
 }
 

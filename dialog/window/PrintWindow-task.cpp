@@ -222,8 +222,9 @@ void PrintWindow::jobEnded(const JobOutcome &outcome)
     using Kind = JobOutcome::Kind;
     const bool isThere = outcome.isDone() || outcome.kind == Kind::AlreadyThere;
     m_report = isThere ? outcome.text : QString();
-    const bool lost = outcome.kind == Kind::Failed || outcome.kind == Kind::Stopped ||
-                      outcome.kind == Kind::Unknown || outcome.kind == Kind::PrinterChanged;
+    const bool lost = outcome.kind == Kind::Failed || outcome.kind == Kind::Refused ||
+                      outcome.kind == Kind::Stopped || outcome.kind == Kind::Unknown ||
+                      outcome.kind == Kind::PrinterChanged;
     const bool wasEnded = m_task->phase() == PrintTask::Phase::Ended;
     // The window may be gone when somebody asks what went wrong.
     if (lost || (wasEnded && outcome.kind == Kind::Canceled && outcome.job > 0))

@@ -85,6 +85,10 @@
         <source>%1 cannot be kept: it has more than %2 bytes.</source>
         <translation>%1 を保存できません: %2 バイトを超えています。</translation>
     </message>
+<message>
+        <source>%1 cannot be printed: it holds data that are ready for a printer. A queue passes them on as they are with the option “raw”.</source>
+        <translation>%1 は印刷できません。プリンター用に変換済みのデータです。オプション「raw」を付けると、キューがそのまま渡します。</translation>
+    </message>
 </context>
 <context>
     <name>HttpLine</name>
@@ -511,7 +515,11 @@
         <source>Each Page, Times on a Side</source>
         <translation>同じページの 1 面あたりの回数</translation>
     </message>
-</context>
+<message>
+        <source>Fit All Pages If One Is Too Large</source>
+        <translation>はみ出すページがあれば全ページを用紙に合わせる</translation>
+    </message>
+    </context>
 <context>
     <name>JobRequests</name>
     <message>
@@ -1263,6 +1271,10 @@
     <message>
         <source>%1, not collated</source>
         <translation>%1（ページ単位）</translation>
+    </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>
@@ -2229,7 +2241,19 @@ For the command line: %2</source>
         <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
         <translation>「%1」をページに配置できなかったため、プレビューはありません。それでも印刷できることがあります。</translation>
     </message>
-</context>
+<message>
+        <source>the back stays empty, because only one side is printed</source>
+        <translation>印刷する面が 1 つだけなので、裏面は白紙になります</translation>
+    </message>
+    <message>
+        <source>the backs stay empty, because each document has only one side</source>
+        <translation>どの文書も印刷する面が 1 つだけなので、裏面は白紙になります</translation>
+    </message>
+    <message>
+        <source>the back stays empty where a document has only one side: %1</source>
+        <translation>印刷する面が 1 つだけの文書は裏面が白紙になります: %1</translation>
+    </message>
+    </context>
 <context>
     <name>PassedOn</name>
     <message>
@@ -2659,6 +2683,25 @@ For the command line: %2</source>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeEffects</name>
+    <message>
+        <source>%1 has no effect on %2: only texts follow it.</source>
+        <translation>%1 は %2 には効果がありません。テキストにのみ適用されます。</translation>
+    </message>
+    <message>
+        <source>%1 has no effect on %2: only pictures follow it.</source>
+        <translation>%1 は %2 には効果がありません。画像にのみ適用されます。</translation>
+    </message>
+    <message>
+        <source>asked for by the queue; what the printer makes of it is not known</source>
+        <translation>キューの指定。プリンターがどう扱うかは不明</translation>
+    </message>
+    <message>
+        <source>only where a page is scaled</source>
+        <translation>ページが拡大・縮小される場合のみ</translation>
     </message>
 </context>
 </TS>

@@ -85,6 +85,10 @@
         <source>%1 cannot be kept: it has more than %2 bytes.</source>
         <translation>无法保存 %1：超过了 %2 字节。</translation>
     </message>
+<message>
+        <source>%1 cannot be printed: it holds data that are ready for a printer. A queue passes them on as they are with the option “raw”.</source>
+        <translation>无法打印 %1：其内容是已为打印机准备好的数据。使用选项“raw”时，队列会原样传递。</translation>
+    </message>
 </context>
 <context>
     <name>HttpLine</name>
@@ -511,7 +515,11 @@
         <source>Each Page, Times on a Side</source>
         <translation>每面重复同一页的次数</translation>
     </message>
-</context>
+<message>
+        <source>Fit All Pages If One Is Too Large</source>
+        <translation>有页面超出时使所有页面适合纸张</translation>
+    </message>
+    </context>
 <context>
     <name>JobRequests</name>
     <message>
@@ -1263,6 +1271,10 @@
     <message>
         <source>%1, not collated</source>
         <translation>%1（逐页打印）</translation>
+    </message>
+<message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>
@@ -2229,7 +2241,19 @@ For the command line: %2</source>
         <source>“%1” could not be laid out, so there is no preview. Printing it may work all the same.</source>
         <translation>无法对“%1”进行排版，因此没有预览。仍有可能打印成功。</translation>
     </message>
-</context>
+<message>
+        <source>the back stays empty, because only one side is printed</source>
+        <translation>背面将留空，因为只有一面要打印</translation>
+    </message>
+    <message>
+        <source>the backs stay empty, because each document has only one side</source>
+        <translation>背面将留空，因为每个文档都只有一面要打印</translation>
+    </message>
+    <message>
+        <source>the back stays empty where a document has only one side: %1</source>
+        <translation>只有一面要打印的文档背面将留空：%1</translation>
+    </message>
+    </context>
 <context>
     <name>PassedOn</name>
     <message>
@@ -2659,6 +2683,25 @@ For the command line: %2</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeEffects</name>
+    <message>
+        <source>%1 has no effect on %2: only texts follow it.</source>
+        <translation>%1 对 %2 无效：只适用于文本。</translation>
+    </message>
+    <message>
+        <source>%1 has no effect on %2: only pictures follow it.</source>
+        <translation>%1 对 %2 无效：只适用于图片。</translation>
+    </message>
+    <message>
+        <source>asked for by the queue; what the printer makes of it is not known</source>
+        <translation>由队列指定；打印机如何处理未知</translation>
+    </message>
+    <message>
+        <source>only where a page is scaled</source>
+        <translation>仅在页面缩放时</translation>
     </message>
 </context>
 </TS>

@@ -20,7 +20,6 @@ PrinterAttributes untouched()
     queue.enums("printer-type", {CUPS_PRINTER_COLOR | CUPS_PRINTER_DUPLEX});
     queue.integers("copies-default", {1});
     queue.formats({"application/octet-stream"});
-    queue.integers("job-cancel-after-default", {10800});
     queue.keywords("job-hold-until-default", {"no-hold"});
     queue.integers("job-priority-default", {50});
     queue.integers("notify-lease-duration-default", {86400});
@@ -79,6 +78,15 @@ const QList<DefaultCase> kDefaults{
     {"on or off",
      [](PrinterAttributes &q) { q.boolean("fit-to-page-default", true); },
      {{u"fit-to-page"_s, u"true"_s}}},
+    {"the usual end to waiting",
+     [](PrinterAttributes &q) { q.integers("job-cancel-after-default", {10800}); },
+     {}},
+    {"an end to waiting",
+     [](PrinterAttributes &q) { q.integers("job-cancel-after-default", {60}); },
+     {{u"job-cancel-after"_s, u"60"_s}}},
+    {"an end to waiting that never comes",
+     [](PrinterAttributes &q) { q.integers("job-cancel-after-default", {0}); },
+     {}},
     {"a name that nobody knows",
      [](PrinterAttributes &q) { q.names("Sparkle-default", {"bright"}); },
      {{u"Sparkle"_s, u"bright"_s}}},

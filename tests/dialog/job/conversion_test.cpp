@@ -8,6 +8,7 @@
 #include "dialog/job/FileJob.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
 
@@ -235,6 +236,18 @@ private Q_SLOTS:
             printed(source(u"resources/sample/welcome.pdf"_s), {}, &problem, 1, ppd);
         QVERIFY2(problem.isEmpty(), qPrintable(problem));
         QVERIFY2(data.startsWith(own.begin), data.left(20).toHex(' ').constData());
+    }
+
+    // A folder of a limited size takes a part of the PPD, as a disk does that is just full.
+    void aDiskThatGetsFullIsCalledFull()
+    {
+        QString problem;
+        const QString document = source(u"resources/sample/welcome.pdf"_s);
+        {
+            const FileSizeLimit limit(10'000);
+            printed(document, {}, &problem);
+        }
+        QVERIFY2(problem.endsWith(u"cannot be written: File too large"_s), qPrintable(problem));
     }
 
     void theEnvironmentDoesNotMoveTheFolderOfTheFilters()

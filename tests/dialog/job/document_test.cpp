@@ -206,6 +206,25 @@ private Q_SLOTS:
         QVERIFY2(refusal.contains(told), qPrintable(refusal));
     }
 
+    // Printed as a text it would be pages full of commands.
+    void whatIsReadyForAPrinterIsNoText_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        QTest::newRow("PJL") << QByteArray("\x1B%-12345X@PJL ENTER LANGUAGE=PCL\nHello");
+        QTest::newRow("PJL before PostScript")
+            << QByteArray("\x1B%-12345X@PJL ENTER LANGUAGE=POSTSCRIPT\n%!PS\nshowpage\n");
+        QTest::newRow("PCL") << QByteArray("\x1B"
+                                           "E\x1B&l0OHello");
+    }
+    void whatIsReadyForAPrinterIsNoText()
+    {
+        QFETCH(QByteArray, data);
+        const QString refusal = refusalOf(writeFile(m_folder->filePath(u"job.prn"_s), data));
+        QVERIFY2(refusal.contains(u"job.prn"_s) && refusal.contains(u"ready for a printer"_s) &&
+                     refusal.contains(u"raw"_s),
+                 qPrintable(refusal));
+    }
+
     void aPipeIsReadToItsEndAndKept()
     {
         const QString path = m_folder->filePath(u"pipe.txt"_s);

@@ -88,7 +88,8 @@ private Q_SLOTS:
         const auto &[name, creation, looked, canceled, words] = currentRow(kNumberlessJobs);
         m_server->setCreation(creation);
         const JobOutcome outcome = print();
-        QCOMPARE(outcome.kind, Kind::Failed);
+        QCOMPARE(outcome.kind,
+                 creation == JobServer::Creation::Refused ? Kind::Refused : Kind::Failed);
         QVERIFY2(outcome.text.contains(QString::fromUtf8(words)), qPrintable(outcome.text));
         QCOMPARE(outcome.job, canceled > 0 ? kJob : 0);
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), 1);

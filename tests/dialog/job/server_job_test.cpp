@@ -46,8 +46,8 @@ constexpr NewOptions kNewOptions[] = {
     {"the same", kServersPpd, 200, true, Kind::Printed, ""},
     {"another PPD", "*PPD-Adobe: \"4.2\"\n", 200, true, Kind::PrinterChanged, "have changed"},
     {"none any more", kServersPpd, 404, true, Kind::PrinterChanged, "have changed"},
-    {"no queue any more", kServersPpd, 404, false, Kind::Failed, "not there"},
-    {"not to be found out", kServersPpd, 403, true, Kind::Failed, "not allow"},
+    {"no queue any more", kServersPpd, 404, false, Kind::Refused, "not there"},
+    {"not to be found out", kServersPpd, 403, true, Kind::Refused, "not allow"},
     {"not said, because it has not changed", kServersPpd, 304, true, Kind::Failed, ""},
     {"none, as before", nullptr, 404, true, Kind::Printed, ""},
     {"one where there was none", nullptr, 200, true, Kind::PrinterChanged, "have changed"},
@@ -149,7 +149,7 @@ private Q_SLOTS:
     {
         m_server->setCreation(JobServer::Creation::NotAccepted);
         const JobOutcome outcome = print();
-        QCOMPARE(outcome.kind, Kind::Failed);
+        QCOMPARE(outcome.kind, Kind::Refused);
         QCOMPARE(outcome.text, u"The queue “office” takes no jobs at the moment: Toner is being "
                                "changed. Nothing was printed."_s);
     }
@@ -262,7 +262,7 @@ private Q_SLOTS:
             });
         const JobOutcome outcome = print();
         QCOMPARE(asked, 1);
-        QCOMPARE(outcome.kind, given ? Kind::Printed : Kind::Failed);
+        QCOMPARE(outcome.kind, given ? Kind::Printed : Kind::Refused);
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), given ? 1 : 0);
         QVERIFY(!outcome.text.contains(u"secret"_s));
         QStringList sent;

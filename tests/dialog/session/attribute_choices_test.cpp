@@ -52,6 +52,17 @@ PpdBuilder colorWithoutOption()
         .line("*cupsFilter: \"application/vnd.cups-raster 0 -\"");
 }
 
+// A printer that takes PDF as it is, with choices that libcups has no name for. One option speaks
+// of colours and is about something else.
+PpdBuilder greyByName(const char *byDefault)
+{
+    return PpdBuilder()
+        .line("*ColorDevice: True")
+        .line("*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"")
+        .option("ColorTrapping", "Trapping", "off", {{"off", "Off"}, {"black", "Black"}})
+        .option("ColorModel", "Color", byDefault, {{"color", "Color"}, {"grayscale", "Gray"}});
+}
+
 PpdBuilder postScriptPrinter()
 {
     return PpdBuilder()
@@ -66,7 +77,16 @@ PpdBuilder monochromePrinter()
         .line("*cupsFilter: \"application/vnd.cups-raster 0 -\"");
 }
 
-enum class Which { Raster, GreyByChoice, ColorWithoutOption, PostScript, Monochrome, Sample };
+enum class Which {
+    Raster,
+    GreyByChoice,
+    GreyByName,
+    UsuallyGrey,
+    ColorWithoutOption,
+    PostScript,
+    Monochrome,
+    Sample
+};
 
 struct Row
 {
@@ -84,6 +104,12 @@ constexpr Row kRows[] = {
      "HPColorAsGray=True"},
     {"colour, where grey is the choice", Which::GreyByChoice, "print-color-mode=color",
      "HPColorAsGray=False"},
+    {"colour mode, by the names of choices", Which::GreyByName, "print-color-mode=monochrome",
+     "ColorModel=grayscale"},
+    {"colour, by the names of choices", Which::UsuallyGrey, "print-color-mode=color",
+     "ColorModel=color"},
+    {"automatic, by the names of choices", Which::UsuallyGrey, "print-color-mode=auto",
+     "ColorModel=color"},
     {"colour mode that nobody follows", Which::ColorWithoutOption, "print-color-mode=monochrome",
      "refused: auto, color"},
     {"colour, which comes anyway", Which::ColorWithoutOption, "print-color-mode=color",
@@ -161,6 +187,10 @@ QByteArray ppdOf(Which which)
         return rasterPrinter().text();
     case Which::GreyByChoice:
         return greyByChoice().text();
+    case Which::GreyByName:
+        return greyByName("color").text();
+    case Which::UsuallyGrey:
+        return greyByName("grayscale").text();
     case Which::ColorWithoutOption:
         return colorWithoutOption().text();
     case Which::PostScript:

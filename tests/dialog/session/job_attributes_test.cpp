@@ -308,6 +308,8 @@ private Q_SLOTS:
         };
         row(u"landscape"_s, u"true"_s, u"orientation-requested=4"_s);
         row(u"landscape"_s, u"false"_s, u"orientation-requested=3"_s);
+        row(u"landscape"_s, u"Yes"_s, u"orientation-requested=4"_s);
+        row(u"landscape"_s, u"off"_s, u"orientation-requested=3"_s);
         row(u"landscape"_s, u"perhaps"_s, u"landscape=perhaps"_s);
         row(u"fitplot"_s, u"true"_s, u"fit-to-page=true"_s);
         row(u"number-up"_s, u"2"_s, u"number-up=2"_s);

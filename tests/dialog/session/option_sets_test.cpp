@@ -104,6 +104,14 @@ private Q_SLOTS:
         QCOMPARE(m_session->markedChoice(u"Tray"_s), u"Upper"_s);
     }
 
+    void landscapeIsOnOrOff()
+    {
+        const OptionOutcome outcome = apply({u"landscape=perhaps"_s});
+        QCOMPARE(outcome.problems,
+                 QStringList{u"landscape=perhaps: this value is not allowed. Allowed: true, "
+                             "false."_s});
+    }
+
     void landscapeIsAnOrientation()
     {
         QCOMPARE(apply({u"landscape"_s}).attributes,

@@ -1,5 +1,7 @@
 #include <QTest>
 
+#include "dialog/session/JobTicket.h"
+#include "dialog/session/OptionTexts.h"
 #include "dialog/session/Summary.h"
 #include "tests/dialog/support/FakePlugIn.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -113,6 +115,26 @@ private Q_SLOTS:
         const auto session = sessionFor(officePrinter());
         session->change(u"Pin"_s, u"Custom.4711"_s, Origin::Dialog);
         QCOMPARE(optionLine(*session, u"Pin"_s), (SummaryLine{u"PIN Code"_s, u"••••••"_s}));
+    }
+
+    // Whatever the type that a PPD gives it. That there is one, or none, may be told.
+    void aSecretThatIsAChoiceIsNotTold()
+    {
+        const auto session = sessionFor(
+            PpdBuilder()
+                .option("AccessCode", "Access", "None",
+                        {{"None", "None"}, {"1234", "1234"}, {"Always", "Always"}})
+                .option("Tray", "Tray", "Upper", {{"Upper", "Upper"}, {"Tray1234", "Tray 1234"}}));
+        ppd_file_t *ppd = session->ppd();
+        QCOMPARE(optionLine(*session, u"AccessCode"_s), (SummaryLine{u"Access"_s, u"None"_s}));
+        QVERIFY(secretsOf(*session).isEmpty());
+        session->change(u"AccessCode"_s, u"1234"_s, Origin::Dialog);
+        session->change(u"Tray"_s, u"Tray1234"_s, Origin::Dialog);
+        QCOMPARE(optionLine(*session, u"AccessCode"_s), (SummaryLine{u"Access"_s, u"••••••"_s}));
+        QCOMPARE(optionLine(*session, u"Tray"_s), (SummaryLine{u"Tray"_s, u"Tray 1234"_s}));
+        QCOMPARE(secretsOf(*session), QStringList{u"1234"_s});
+        QCOMPARE(optionText(ppd, u"AccessCode"_s, u"1234"_s), u"AccessCode=••••••"_s);
+        QCOMPARE(optionText(ppd, u"AccessCode"_s, u"Always"_s), u"AccessCode=Always"_s);
     }
 
     void whatTheGeneralPageOffersIsNoFurtherOption()

@@ -82,19 +82,19 @@ struct OneSided
 const OneSided kOneSided[] = {
     {"not asked for two sides", {document(1, 1)}, false, {}},
     {"two sides", {document(2, 2)}, true, {}},
-    {"one", {document(1, 1)}, true, u"comes out one-sided, because only one side is printed"_s},
+    {"one", {document(1, 1)}, true, u"the back stays empty, because only one side is printed"_s},
     {"four pages on one side",
      {document(4, 1)},
      true,
-     u"comes out one-sided, because only one side is printed"_s},
+     u"the back stays empty, because only one side is printed"_s},
     {"several of one",
      {document(1, 1), document(1, 1)},
      true,
-     u"comes out one-sided, because each document has only one side"_s},
+     u"the backs stay empty, because each document has only one side"_s},
     {"some of one",
      {document(1, 1), document(3, 3)},
      true,
-     u"one-sided where a document has only one side: “a.pdf”"_s},
+     u"the back stays empty where a document has only one side: “a.pdf”"_s},
 };
 
 } // namespace

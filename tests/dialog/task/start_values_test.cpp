@@ -2,12 +2,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/StartValues.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 
 using namespace corvana;
@@ -15,6 +17,43 @@ using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 using By = JobSettings::By;
+
+namespace {
+
+// A colour printer whose jobs no filter of CUPS makes grey.
+PpdBuilder passingPdfOn()
+{
+    return PpdBuilder()
+        .line("*ColorDevice: True")
+        .line("*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"");
+}
+
+struct Shape
+{
+    const char *name;
+    const char *format;
+    const char *option;
+    bool isTaken;
+};
+constexpr Shape kShapes[] = {
+    {"size of a picture", "image/png", "scaling=50", true},
+    {"size of a picture, of a PDF", "application/pdf", "scaling=50", false},
+    {"in other letters", "application/pdf", "Scaling=50", false},
+    {"natural size", "application/pdf", "natural-scaling=50", false},
+    {"pixels per inch of a text", "text/plain", "ppi=300", false},
+    {"pixels per inch", "image/jpeg", "ppi=300", true},
+    {"position", "application/postscript", "position=top", false},
+    {"characters of a picture", "image/png", "cpi=12", false},
+    {"characters of a text", "text/plain", "cpi=12", true},
+    {"lines of a PDF", "application/pdf", "lpi=8", false},
+    {"columns of a PDF", "application/pdf", "columns=2", false},
+    {"long lines of a picture", "image/png", "wrap=false", false},
+    {"headers of a PDF", "application/pdf", "prettyprint=true", false},
+    {"a margin of a page that is perhaps scaled", "application/pdf", "page-left=36", true},
+    {"what any page follows", "application/pdf", "number-up=2", true},
+};
+
+} // namespace
 
 /// Where the values of a job start: every place beside every other one.
 class StartValuesTest : public QObject
@@ -215,6 +254,11 @@ private Q_SLOTS:
             u"orientation-requested=4"_s);
         row("another spelling of something else", u"landscape=true"_s, u"orientation-requested=3"_s,
             u"orientation-requested=3 landscape=false"_s);
+        row("in other letters", u"Collate=False"_s, u"collate=false"_s,
+            u"collate=false Collate=false"_s);
+        row("something else in other letters", u"Number-Up=2"_s, u"number-up=4"_s,
+            u"number-up=4 Number-Up=4"_s);
+        row("taken back in other letters", u"Collate=False"_s, {}, u"Collate=true"_s);
         row("what nothing can be said against", u"Sparkle=bright"_s, {}, u"Sparkle=bright"_s);
         row("a choice of the PPD", u"Media=Card"_s, {}, {});
         row("what is a choice of the PPD", u"sides=two-sided-long-edge"_s, {}, {});
@@ -251,6 +295,116 @@ private Q_SLOTS:
                  parseOptions({u"print-color-mode=monochrome"_s}));
     }
 
+    // The printer's own option and the attribute of IPP are two names of one thing. Whoever counts
+    // more decides, and the job says one thing under both names.
+    void aColorModeAndAChoiceOfColorsFollowTheOrderOfPlaces_data()
+    {
+        QTest::addColumn<QString>("byQueue");
+        QTest::addColumn<QString>("byUser");
+        QTest::addColumn<QString>("onCommandLine");
+        QTest::addColumn<QString>("marked");
+        QTest::addColumn<QString>("sent");
+        const QString grey = u"print-color-mode=monochrome"_s;
+        const QString colored = u"print-color-mode=color"_s;
+        QTest::newRow("the queue alone")
+            << grey << QString() << QString() << u"grayscale"_s << grey;
+        QTest::newRow("a choice over the queue")
+            << grey << QString() << u"ColorModel=color"_s << u"color"_s << colored;
+        QTest::newRow("an attribute over the queue")
+            << grey << QString() << colored << u"color"_s << colored;
+        QTest::newRow("lpoptions over the queue")
+            << grey << u"ColorModel=color"_s << QString() << u"color"_s << colored;
+        QTest::newRow("the command line over lpoptions")
+            << grey << u"ColorModel=color"_s << grey << u"grayscale"_s << grey;
+        QTest::newRow("lpoptions alone")
+            << QString() << grey << QString() << u"grayscale"_s << QString();
+    }
+    void aColorModeAndAChoiceOfColorsFollowTheOrderOfPlaces()
+    {
+        QFETCH(QString, byQueue);
+        QFETCH(QString, byUser);
+        QFETCH(QString, onCommandLine);
+        QFETCH(QString, marked);
+        QFETCH(QString, sent);
+        m_fetched.ppd = ppdOfFile(writeFile(
+            m_home->filePath(u"d.ppd"_s),
+            passingPdfOn()
+                .option("ColorModel", "Color", "color", {{"color", "Color"}, {"grayscale", "Gray"}})
+                .text()));
+        say(By::Queue, byQueue);
+        say(By::UserQueues, byUser);
+        say(By::Options, onCommandLine);
+        const StartOutcome outcome = start();
+        QVERIFY2(outcome.ignored.isEmpty() && outcome.unset.isEmpty(),
+                 qPrintable((outcome.ignored + outcome.unset).value(0)));
+        QCOMPARE(m_printer->session->markedChoice(u"ColorModel"_s), marked);
+        QCOMPARE(withAnswersToDefaults(m_settings.attributes(), *m_printer), parseOptions({sent}));
+    }
+
+    // The server adds it all the same, and the printer may know what to do.
+    void whatIsRefusedOfAQueueIsSentAndNotCalledDone()
+    {
+        m_fetched.ppd = ppdOfFile(writeFile(m_home->filePath(u"e.ppd"_s), passingPdfOn().text()));
+        say(By::Queue, u"print-color-mode=monochrome number-up=2 Sparkle=bright"_s);
+        start();
+        const QList<JobOption> all = withAnswersToDefaults(m_settings.attributes(), *m_printer);
+        QCOMPARE(all.size(), 3);
+        const QHash<QString, QString> remarks = remarksOn(all, *m_printer, {});
+        QVERIFY(remarks.value(u"print-color-mode"_s).contains(u"not known"_s));
+        QVERIFY(remarks.value(u"Sparkle"_s).contains(u"not known"_s));
+        QVERIFY(!remarks.contains(u"number-up"_s));
+        // What a user has chosen instead is what nobody doubts.
+        QVERIFY(remarksOn(parseOptions({u"print-color-mode=color"_s}), *m_printer, {}).isEmpty());
+    }
+
+    // What does nothing to these documents
+
+    void whatNoDocumentFollowsIsRefusedOrLeftOut_data() { addRows(kShapes); }
+    void whatNoDocumentFollowsIsRefusedOrLeftOut()
+    {
+        const Shape &row = currentRow(kShapes);
+        m_request.documents = {{u"/a"_s, QString::fromUtf8(row.format), u"a\n.doc"_s}};
+        for (const By by : {By::Queue, By::UserQueues, By::Options}) {
+            m_settings = {};
+            m_fetched.defaults.clear();
+            setUserOptions({});
+            m_request.options.clear();
+            say(by, QString::fromUtf8(row.option));
+            const StartOutcome outcome = start();
+            const QStringList said = by == By::Options ? outcome.unset : outcome.ignored;
+            QCOMPARE(said.isEmpty(), row.isTaken);
+            QCOMPARE(m_settings.attributes().isEmpty(), !row.isTaken);
+            if (!row.isTaken)
+                QVERIFY2(said.constFirst().contains(QString::fromUtf8(row.option)) &&
+                             said.constFirst().contains(u"“a<U+000A>.doc”"_s),
+                         qPrintable(said.constFirst()));
+            QVERIFY(by == By::Options || outcome.unset.isEmpty());
+        }
+    }
+
+    void oneDocumentThatFollowsIsEnough()
+    {
+        m_request.documents = {{u"/a"_s, u"application/pdf"_s, u"a.pdf"_s},
+                               {u"/b"_s, u"text/plain"_s, u"b.txt"_s}};
+        say(By::Options, u"cpi=12"_s);
+        QVERIFY(start().unset.isEmpty());
+        QCOMPARE(attribute(u"cpi"_s), u"12"_s);
+    }
+
+    // It is the printer's, whatever CUPS has under the same name.
+    void anOptionOfThePrinterIsNoAttribute()
+    {
+        m_fetched.ppd = ppdOfFile(
+            writeFile(m_home->filePath(u"f.ppd"_s),
+                      PpdBuilder()
+                          .option("position", "Staple", "top", {{"top", "Top"}, {"left", "Left"}})
+                          .text()));
+        m_request.documents = {{u"/a"_s, u"application/pdf"_s, u"a.pdf"_s}};
+        say(By::Options, u"position=left"_s);
+        QVERIFY(start().unset.isEmpty());
+        QCOMPARE(m_printer->session->markedChoice(u"position"_s), u"left"_s);
+    }
+
     // How an administrator forbids colours on many desks, and names a tray.
     void whatLpKnowsIsTakenFromLpoptionsAsChoices()
     {
@@ -266,6 +420,36 @@ private Q_SLOTS:
         QCOMPARE(m_printer->session->markedChoice(u"ColorModel"_s), u"Gray"_s);
         QCOMPARE(m_printer->session->markedChoice(u"InputSlot"_s), u"Lower"_s);
         QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"Postcard"_s);
+    }
+
+    void aListOfPapersIsTakenPartByPart_data()
+    {
+        QTest::addColumn<int>("by");
+        QTest::newRow("queue") << int(By::Queue);
+        QTest::newRow("lpoptions") << int(By::UserQueues);
+    }
+    void aListOfPapersIsTakenPartByPart()
+    {
+        QFETCH(int, by);
+        say(By(by), u"media=Postcard,Cellar,Attic"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(m_printer->session->markedChoice(u"PageSize"_s), u"Postcard"_s);
+        QCOMPARE(outcome.ignored.size(), 2);
+        QVERIFY2(outcome.ignored.at(0).contains(u"media=Cellar"_s),
+                 qPrintable(outcome.ignored.at(0)));
+        QVERIFY2(outcome.ignored.at(1).contains(u"media=Attic"_s),
+                 qPrintable(outcome.ignored.at(1)));
+    }
+
+    // What was asked for just now is taken as a whole, and every part that is missing is named.
+    void eachPartOfAListThatIsNotTakenIsNamed()
+    {
+        say(By::Options, u"media=Postcard,Cellar,Attic"_s);
+        const StartOutcome outcome = start();
+        QCOMPARE(outcome.unset.size(), 2);
+        QVERIFY(outcome.unset.at(0).contains(u"“Cellar”"_s));
+        QVERIFY(outcome.unset.at(1).contains(u"“Attic”"_s));
+        QVERIFY(m_printer->session->markedChoice(u"PageSize"_s) != u"Postcard"_s);
     }
 
     // What is passed on as it is

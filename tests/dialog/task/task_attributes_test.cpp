@@ -163,7 +163,10 @@ private Q_SLOTS:
             if (!attribute.allowed.words.empty())
                 value = attribute.allowed.words.back().value;
             const bool hasField = name == u"page-ranges"_s;
-            PrintTask &task = open({});
+            PrintRequest request = m_scene->request(plainPrinter());
+            for (const QString &format : {u"text/plain"_s, u"image/png"_s})
+                request.documents += Document{u"/nonexistent"_s, format, u"other"_s};
+            PrintTask &task = m_scene->open(request);
             task.settings().addAttributes({{name, value}});
             QVERIFY2((find(task.attributes(), name) != nullptr) != hasField, qPrintable(name));
         }
@@ -177,6 +180,57 @@ private Q_SLOTS:
             QVERIFY2(find(offered, name), qPrintable(name));
         for (const QString &name : {u"job-billing"_s, u"ppi"_s, u"fit-to-page"_s, u"page-ranges"_s})
             QVERIFY2(!find(offered, name), qPrintable(name));
+    }
+
+    // What one face refuses every face refuses: a list with a value that nobody follows is none.
+    void aColorModeIsOfferedWhereItIsDoneAndHasNoOptionOfItsOwn()
+    {
+        const PpdBuilder pdf =
+            PpdBuilder()
+                .line("*ColorDevice: True")
+                .line("*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"");
+        QVERIFY(!find(open({}, pdf).attributes(), u"print-color-mode"_s));
+        const QString problem = m_scene->task->setAttribute(u"print-color-mode"_s, u"monochrome"_s);
+        QVERIFY2(problem.contains(u"auto, color"_s), qPrintable(problem));
+        QVERIFY(summary(u"Color Mode"_s).isEmpty());
+        const PpdBuilder postScript =
+            PpdBuilder()
+                .line("*ColorDevice: True")
+                .line("*cupsFilter2: \"application/vnd.cups-postscript application/postscript 0 "
+                      "-\"");
+        QVERIFY(find(open({}, postScript).attributes(), u"print-color-mode"_s));
+        PpdBuilder choosing = pdf;
+        choosing.option("ColorModel", "Color", "color",
+                        {{"color", "Color"}, {"grayscale", "Gray"}});
+        QVERIFY(!find(open({}, choosing).attributes(), u"print-color-mode"_s));
+        QCOMPARE(m_scene->task->setAttribute(u"print-color-mode"_s, u"monochrome"_s), QString());
+        QCOMPARE(m_scene->session().markedChoice(u"ColorModel"_s), u"grayscale"_s);
+    }
+
+    void whatIsNotKnownToBeDoneIsNoFactInTheSummary()
+    {
+        PrintTask &task = open({});
+        task.opened()->fetched.defaults = {{u"Sparkle"_s, u"bright"_s}};
+        const QString line = summary(u"Sparkle"_s).value(0);
+        QVERIFY2(line.startsWith(u"bright (asked for by the queue"_s), qPrintable(line));
+    }
+
+    void whatAQueueWritesInOtherLettersIsOneLine()
+    {
+        PrintTask &task = open(u"number-up=2"_s);
+        task.opened()->fetched.defaults = {{u"Number-Up"_s, u"2"_s}};
+        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"2"_s});
+        QVERIFY(summary(u"Number-Up"_s).isEmpty());
+    }
+
+    // The server adds it to every job; nobody follows it in this one.
+    void whatDoesNothingToTheDocumentIsNotInTheSummary()
+    {
+        PrintTask &task = open({});
+        task.opened()->fetched.defaults = {{u"ppi"_s, u"300"_s}};
+        QVERIFY(summary(u"Pixels per Inch"_s).isEmpty());
+        task.settings().addAttributes({{u"page-left"_s, u"36"_s}});
+        QCOMPARE(summary(u"Left Margin"_s), QStringList{u"36 (only where a page is scaled)"_s});
     }
 
     void aChoiceStandsInSummaryAndJob()
@@ -200,12 +254,12 @@ private Q_SLOTS:
 
     void whatIsTakenBackIsStillOffered()
     {
-        PrintTask &task = open(u"ppi=300"_s);
-        QCOMPARE(task.setAttribute(u"ppi"_s, {}), QString());
-        QVERIFY(find(task.attributes(), u"ppi"_s));
-        QVERIFY(find(task.attributes(), u"ppi"_s)->value.isNull());
-        QVERIFY(summary(u"Pixels per Inch"_s).isEmpty());
-        QVERIFY(!prints("ppi=300"));
+        PrintTask &task = open(u"job-billing=Ada"_s);
+        QCOMPARE(task.setAttribute(u"job-billing"_s, {}), QString());
+        QVERIFY(find(task.attributes(), u"job-billing"_s));
+        QVERIFY(find(task.attributes(), u"job-billing"_s)->value.isNull());
+        QVERIFY(summary(u"Billed To"_s).isEmpty());
+        QVERIFY(!prints("job-billing=Ada"));
     }
 
     // The server would add its own value again, and the window would show none.

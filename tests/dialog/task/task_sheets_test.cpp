@@ -76,7 +76,7 @@ const ExpectedSheets kSheetJobs[] = {
      {{u"Duplex"_s, u"DuplexTumble"_s}},
      1,
      {},
-     {u"Two-Sided Printing: Short-Edge Binding (comes out one-sided, because only one side is printed)"_s},
+     {u"Two-Sided Printing: Short-Edge Binding (the back stays empty, because only one side is printed)"_s},
      {}},
     {"a document among others of which nothing is left",
      {{kA4, kA4}, {kA4}},

@@ -49,7 +49,7 @@ struct Writing
     const char *found;    // what it is recognised as
     const char *language;
     const char *user = "";
-    const char *marker = "";
+    QByteArrayView marker = "";
 };
 constexpr Writing kWritings[] = {
     {"ASCII", "plain text\n", "ASCII", "UTF-8", ""},
@@ -61,6 +61,10 @@ constexpr Writing kWritings[] = {
     {"UTF-8 with a mark", kJapanese, "UTF-8", "UTF-8", "ja", "", "\xEF\xBB\xBF"},
     {"UTF-16LE with a mark", kJapanese, "UTF-16LE", "UTF-16LE", "", "", "\xFF\xFE"},
     {"UTF-16BE with a mark", kJapanese, "UTF-16BE", "UTF-16BE", "", "", "\xFE\xFF"},
+    {"UTF-32LE with a mark", kJapanese, "UTF-32LE", "UTF-32LE", "", "",
+     QByteArrayView("\xFF\xFE\0\0", 4)},
+    {"UTF-32BE with a mark", kJapanese, "UTF-32BE", "UTF-32BE", "", "",
+     QByteArrayView("\0\0\xFE\xFF", 4)},
     {"UTF-16LE without a mark", kGerman, "UTF-16LE", "UTF-16LE", ""},
     {"UTF-16BE without a mark", kGerman, "UTF-16BE", "UTF-16BE", ""},
     {"Shift_JIS", kJapanese, "CP932", "CP932", "ja"},
@@ -119,12 +123,12 @@ private Q_SLOTS:
         const QByteArray bytes = encoded(row.text, row.encoding);
         QVERIFY(!bytes.isEmpty());
         QBuffer file;
-        file.setData(row.marker + bytes);
+        file.setData(row.marker.toByteArray() + bytes);
         file.open(QIODevice::ReadOnly);
         const TextEncoding encoding = recognizeEncoding(file, QString::fromLatin1(row.user));
         QCOMPARE(encoding.name, QByteArray(row.found));
         QCOMPARE(encoding.language, QString::fromLatin1(row.language));
-        QCOMPARE(encoding.marker, int(qstrlen(row.marker)));
+        QCOMPARE(encoding.marker, int(row.marker.size()));
         TextDecoder decoder(encoding.name);
         QCOMPARE(QString::fromStdU32String(decoder.decode(bytes, true)),
                  QString::fromUtf8(row.text));
