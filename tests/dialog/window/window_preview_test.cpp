@@ -244,8 +244,9 @@ private Q_SLOTS:
         const qsizetype view = place(sheets());
         const qsizetype cancel = place(child<QWidget>(u"cancel"_s));
         const qsizetype print = place(child<QWidget>(u"print"_s));
-        QVERIFY2(0 < tabs && tabs < size && size < view && view < cancel && cancel < print,
-                 qPrintable(u"%1 %2 %3 %4 %5"_s.arg(tabs).arg(size).arg(view).arg(cancel).arg(print)));
+        QVERIFY2(
+            0 < tabs && tabs < size && size < view && view < cancel && cancel < print,
+            qPrintable(u"%1 %2 %3 %4 %5"_s.arg(tabs).arg(size).arg(view).arg(cancel).arg(print)));
     }
 
     void aKeyGoesFromPartToPart()
