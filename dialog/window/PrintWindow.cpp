@@ -238,6 +238,7 @@ void PrintWindow::paintEvent(QPaintEvent *event)
     if (!std::exchange(m_painted, true)) {
         // Only a window that is there has the frame that its screen gives it.
         QTimer::singleShot(0, this, [this] { m_growth.keepOnScreen(); });
+        QTimer::singleShot(0, m_preview, &PreviewPane::complete);
         QTimer::singleShot(0, this, &PrintWindow::takeIconsFromTheme);
         QTimer::singleShot(0, m_task.get(), &PrintTask::bringUp);
         // After that, so that nothing of it delays what is on the screen already.

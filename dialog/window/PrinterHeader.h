@@ -13,8 +13,8 @@ namespace corvana {
 class PrinterComboBox;
 class PrinterStatusLine;
 
-/// The head of the print window's settings: which printer, where it stands and what it is doing, and
-/// the file that may be printed to instead.
+/// The head of the print window's settings: which printer, where it stands and what it is doing,
+/// and the file that may be printed to instead.
 class PrinterHeader : public QWidget
 {
     Q_OBJECT

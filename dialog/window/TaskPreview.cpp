@@ -59,7 +59,12 @@ void TaskPreview::showDocuments()
 
 void TaskPreview::showColors()
 {
-    m_pane.setColors(m_task.pageColors().transform, m_task.pageColorsText());
+    // What is not among the sheets comes first: it is missed more than a color.
+    QStringList texts{m_task.pageColorsText()};
+    if (m_preview.state == SheetPreview::State::Known)
+        texts.prepend(m_preview.reason);
+    texts.removeAll(QString());
+    m_pane.setColors(m_task.pageColors().transform, texts.join(u'\n'));
 }
 
 void TaskPreview::showSheets()
@@ -69,6 +74,7 @@ void TaskPreview::showSheets()
     if (preview.state == SheetPreview::State::Counting)
         return; // what is shown is of before, and so are its files
     const SheetPreview before = std::exchange(m_preview, std::move(preview));
+    showColors();
     if (m_preview.state != SheetPreview::State::Known)
         return;
     if (!m_pictures) {

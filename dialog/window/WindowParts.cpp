@@ -47,8 +47,8 @@ void WindowParts::go(int step)
     };
     const auto found = std::find_if(m_parts.begin(), m_parts.end(), holds);
     const qsizetype count = m_parts.size();
-    const qsizetype from = found == m_parts.end() ? (step > 0 ? count - 1 : 0)
-                                                  : found - m_parts.begin();
+    const qsizetype from =
+        found == m_parts.end() ? (step > 0 ? count - 1 : 0) : found - m_parts.begin();
     for (qsizetype i = 1; i <= count; ++i) {
         const Part &part = m_parts.at(((from + i * step) % count + count) % count);
         QWidget *target = canFocus(part.last) ? part.last.data() : part.first();

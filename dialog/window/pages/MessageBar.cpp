@@ -143,7 +143,8 @@ void MessageBar::buildButtons()
     m_close->setToolTip(plainToolTip(tr("Dismiss this message")));
     m_close->setAccessibleName(tr("Dismiss this message"));
     connect(m_close, &QToolButton::clicked, this, &MessageBar::dismiss);
-    connect(m_details, &QToolButton::toggled, this, [this](bool whole) { m_text->setWhole(whole); });
+    connect(m_details, &QToolButton::toggled, this,
+            [this](bool whole) { m_text->setWhole(whole); });
     connect(m_action, &QPushButton::clicked, this, [this] {
         const std::function<void()> action = m_do;
         dismiss();

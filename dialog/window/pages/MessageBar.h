@@ -14,8 +14,8 @@ namespace corvana {
 class MessageText;
 
 /// A message inside the dialog, with at most one thing to do about it. It has two lines; a longer
-/// one is there as a whole when its reader wants that. It never takes the focus and never blocks; it
-/// goes when it is dismissed or the next message comes.
+/// one is there as a whole when its reader wants that. It never takes the focus and never blocks;
+/// it goes when it is dismissed or the next message comes.
 class MessageBar : public QFrame
 {
     Q_OBJECT

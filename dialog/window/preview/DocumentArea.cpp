@@ -66,7 +66,8 @@ void DocumentArea::buildHeader()
     static_cast<QVBoxLayout *>(layout())->insertLayout(0, header);
     connect(m_up, &QToolButton::clicked, this, [this] { moveCurrent(-1); });
     connect(m_down, &QToolButton::clicked, this, [this] { moveCurrent(1); });
-    connect(m_remove, &QToolButton::clicked, this, [this] { Q_EMIT removed(m_list->currentRow()); });
+    connect(m_remove, &QToolButton::clicked, this,
+            [this] { Q_EMIT removed(m_list->currentRow()); });
     connect(m_add, &QToolButton::clicked, this, &DocumentArea::choose);
 }
 
@@ -95,8 +96,8 @@ void DocumentArea::buildList()
                 QMetaObject::invokeMethod(
                     this, [this, from, to] { Q_EMIT moved(from, to); }, Qt::QueuedConnection);
             });
-    auto *removing = new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr,
-                                   Qt::WidgetShortcut);
+    auto *removing =
+        new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr, Qt::WidgetShortcut);
     connect(removing, &QShortcut::activated, this, [this] {
         if (m_remove->isEnabled())
             Q_EMIT removed(m_list->currentRow());

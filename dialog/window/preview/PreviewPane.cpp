@@ -34,9 +34,14 @@ PreviewPane::PreviewPane(QWidget *parent)
     layout->addWidget(m_countsRow);
     connect(m_countsRow, &CountsRow::foldPressed, this, &PreviewPane::foldPressed);
     connect(m_placeholder, &PreviewPlaceholder::choosePressed, m_documents, &DocumentArea::choose);
-    connect(m_colorsRow, &ColorsRow::original, this, [this](bool original) {
-        m_view->setColors(original ? ColorTransform() : m_colors);
-    });
+    connect(m_colorsRow, &ColorsRow::original, this,
+            [this](bool original) { m_view->setColors(original ? ColorTransform() : m_colors); });
+    arrange();
+}
+
+void PreviewPane::complete()
+{
+    m_isComplete = true;
     arrange();
 }
 
@@ -57,9 +62,8 @@ void PreviewPane::showPreview(const ShownPreview &preview)
         m_stack->setCurrentWidget(shows ? static_cast<QWidget *>(m_view) : m_placeholder);
     }
     if (isUpdating)
-        m_countsRow->setCounts(preview.counts.isEmpty() ? tr("Counting the sheets…")
-                                                        : preview.counts,
-                               true);
+        m_countsRow->setCounts(
+            preview.counts.isEmpty() ? tr("Counting the sheets…") : preview.counts, true);
     else
         m_countsRow->setCounts(preview.counts, false);
     arrange();
@@ -88,7 +92,8 @@ void PreviewPane::setDropHovers(bool hovers)
 void PreviewPane::arrange()
 {
     const bool hasSheets = m_stack->currentWidget() == m_view;
-    m_documents->setFolded(m_isFolded);
+    m_documents->setFolded(m_isFolded || !m_isComplete);
+    m_countsRow->setVisible(m_isComplete);
     m_stack->setVisible(!m_isFolded);
     m_sheetsRow->setVisible(!m_isFolded && hasSheets);
     m_colorsRow->setVisible(!m_isFolded && hasSheets && !m_colorsRow->isEmpty());

@@ -43,6 +43,9 @@ class PreviewPane : public QWidget
 public:
     explicit PreviewPane(QWidget *parent = nullptr);
 
+    /// Shows more than the place of the sheets. To be called when the window has been painted once:
+    /// every control that is in it before makes it come up later.
+    void complete();
     SheetView *sheets() const { return m_view; }
     DocumentArea *documents() const { return m_documents; }
     SheetsRow *sheetsRow() const { return m_sheetsRow; }
@@ -77,6 +80,7 @@ private:
     CountsRow *m_countsRow;
     ColorTransform m_colors;
     bool m_isFolded = false;
+    bool m_isComplete = false;
 };
 
 } // namespace corvana

@@ -115,7 +115,8 @@ QSize SheetLayout::paperSize(const PlannedSide &side) const
 
 int SheetLayout::sheetWidth(const PlannedSheet &sheet) const
 {
-    // The last sheet of a two-sided job may lack a back. Its front is below the others all the same.
+    // The last sheet of a two-sided job may lack a back. Its front is below the others all the
+    // same.
     const int front = paperSize(sheet.front).width();
     if (!m_hasBacks)
         return front;

@@ -45,7 +45,8 @@ bool SheetView::moveByKey(int key)
         if (scrollsWithinSide(direction))
             return true;
         SideIndex next{m_current.sheet + direction * perRow, m_current.isBack};
-        if (next.sheet >= m_layout.sheets() && m_current.sheet / perRow < (m_layout.sheets() - 1) / perRow)
+        if (next.sheet >= m_layout.sheets() &&
+            m_current.sheet / perRow < (m_layout.sheets() - 1) / perRow)
             next.sheet = m_layout.sheets() - 1;
         if (next.sheet >= 0 && next.sheet < m_layout.sheets())
             setCurrent(sideOf(m_sheets.plan, next) ? next : SideIndex{next.sheet});

@@ -102,8 +102,8 @@ PaintedSide SheetView::painted(SideIndex index) const
     PaintedSide side;
     const PlannedSide &planned = *sideOf(m_sheets.plan, index);
     side.paper = m_layout.paper(index).translated(-offset());
-    const int labelHeight = m_layout.sheet(index.sheet).bottom() + 1 - offset().y() -
-                            (side.paper.bottom() + 1);
+    const int labelHeight =
+        m_layout.sheet(index.sheet).bottom() + 1 - offset().y() - (side.paper.bottom() + 1);
     side.label = {side.paper.left(), side.paper.bottom() + 1, side.paper.width(), labelHeight};
     side.text = sideLabel(m_sheets.plan, index);
     side.turn = planned.turn;

@@ -105,11 +105,10 @@ void SheetView::setZoom(const Zoom &zoom)
 void SheetView::zoomBy(int direction, std::optional<QPoint> fixed)
 {
     const int now = percent();
-    const auto *next = direction > 0
-                           ? std::find_if(std::begin(kSteps), std::end(kSteps),
-                                          [now](int step) { return step > now; })
-                           : std::find_if(std::begin(kSteps), std::end(kSteps),
-                                          [now](int step) { return step >= now; });
+    const auto *next = direction > 0 ? std::find_if(std::begin(kSteps), std::end(kSteps),
+                                                    [now](int step) { return step > now; })
+                                     : std::find_if(std::begin(kSteps), std::end(kSteps),
+                                                    [now](int step) { return step >= now; });
     if (direction > 0 ? next == std::end(kSteps) : next == std::begin(kSteps))
         return;
     m_zoom = {Zoom::Fit::Percent, direction > 0 ? *next : *(next - 1)};
@@ -200,10 +199,10 @@ void SheetView::moveTo(const Anchor &anchor)
     if (anchor.sheet < 0 || anchor.sheet >= m_layout.sheets())
         return;
     const QRect sheet = m_layout.sheet(anchor.sheet);
-    const QPoint target = sheet.topLeft() +
-                          QPointF(anchor.part.x() * sheet.width(), anchor.part.y() * sheet.height())
-                              .toPoint() -
-                          anchor.seen;
+    const QPoint target =
+        sheet.topLeft() +
+        QPointF(anchor.part.x() * sheet.width(), anchor.part.y() * sheet.height()).toPoint() -
+        anchor.seen;
     verticalScrollBar()->setValue(target.y());
     QScrollBar *bar = horizontalScrollBar();
     bar->setValue(isRightToLeft() ? bar->maximum() - target.x() : target.x());

@@ -112,8 +112,9 @@ void SidePainter::paint(QPainter &painter, const PaintedSide &side, const QPalet
     if (!side.label.intersects(exposed))
         return;
     painter.setPen(side.isCurrent ? text : weak);
-    painter.drawText(side.label, int(Qt::AlignHCenter) | int(Qt::AlignBottom),
-                     painter.fontMetrics().elidedText(side.text, Qt::ElideRight, side.label.width()));
+    painter.drawText(
+        side.label, int(Qt::AlignHCenter) | int(Qt::AlignBottom),
+        painter.fontMetrics().elidedText(side.text, Qt::ElideRight, side.label.width()));
 }
 
 QImage SidePainter::colored(const QImage &picture, const QRect &part)

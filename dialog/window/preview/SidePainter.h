@@ -17,12 +17,12 @@ namespace corvana {
 /// What is painted of one side.
 struct PaintedSide
 {
-    QRect paper{};       ///< where it lies
-    QRect label{};       ///< the line below it
-    QString text{};      ///< in that line
-    QImage picture{};    ///< as it was laid out; null while there is none
-    int turn = 0;        ///< of the picture; Units: degrees clockwise
-    QString problem{};   ///< stands on the paper instead of a picture
+    QRect paper{};     ///< where it lies
+    QRect label{};     ///< the line below it
+    QString text{};    ///< in that line
+    QImage picture{};  ///< as it was laid out; null while there is none
+    int turn = 0;      ///< of the picture; Units: degrees clockwise
+    QString problem{}; ///< stands on the paper instead of a picture
     std::optional<Qt::Edge> bound{};
     bool isCurrent = false; ///< and has the focus
 };

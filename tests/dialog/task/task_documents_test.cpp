@@ -91,10 +91,11 @@ private Q_SLOTS:
     void whatCannotBePrintedIsSaidAndTheRestIsTaken()
     {
         openWithout();
-        const QString program = file(u"program"_s, QByteArray("\x7f" "ELF\x02\x01\x01\0\0\0", 10));
-        task().addDocuments(
-            {file(u"a.txt"_s), m_folder.filePath(u"missing.pdf"_s), program, m_folder.path(),
-             file(u"b.txt"_s), file(u"empty.txt"_s, "")});
+        const QString program = file(u"program"_s, QByteArray("\x7f"
+                                                              "ELF\x02\x01\x01\0\0\0",
+                                                              10));
+        task().addDocuments({file(u"a.txt"_s), m_folder.filePath(u"missing.pdf"_s), program,
+                             m_folder.path(), file(u"b.txt"_s), file(u"empty.txt"_s, "")});
         QCOMPARE(titles(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
         QCOMPARE(m_said.size(), 1);
         const QStringList problems = m_said.constFirst().split(u'\n');

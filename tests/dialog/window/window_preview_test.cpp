@@ -227,6 +227,16 @@ private Q_SLOTS:
         QCOMPARE(child<QLabel>(u"document"_s)->text(), titles().constFirst());
     }
 
+    void aDocumentThatIsNotShownIsSaid()
+    {
+        const QString damaged =
+            writeFile(m_folder->filePath(u"damaged.pdf"_s), "%PDF-1.4\nnothing of a document\n");
+        open({sample().constFirst(), damaged});
+        QTRY_VERIFY_WITH_TIMEOUT(sheets()->isVisible(), kWindowPatience);
+        QTRY_VERIFY(child<QLabel>(u"colorsText"_s)->text().contains(u"damaged.pdf"_s));
+        QVERIFY(child<QLabel>(u"colorsText"_s)->isVisible());
+    }
+
     void tabGoesInTheOrderOfReading()
     {
         open(sample());
@@ -244,8 +254,9 @@ private Q_SLOTS:
         const qsizetype view = place(sheets());
         const qsizetype cancel = place(child<QWidget>(u"cancel"_s));
         const qsizetype print = place(child<QWidget>(u"print"_s));
-        QVERIFY2(0 < tabs && tabs < size && size < view && view < cancel && cancel < print,
-                 qPrintable(u"%1 %2 %3 %4 %5"_s.arg(tabs).arg(size).arg(view).arg(cancel).arg(print)));
+        QVERIFY2(
+            0 < tabs && tabs < size && size < view && view < cancel && cancel < print,
+            qPrintable(u"%1 %2 %3 %4 %5"_s.arg(tabs).arg(size).arg(view).arg(cancel).arg(print)));
     }
 
     void aKeyGoesFromPartToPart()

@@ -53,8 +53,7 @@ inline ShownSheets sheetsOfPages(int pages, bool twoSided = false, QSizeF paper 
     ShownSheets sheets;
     sheets.files = {QStringLiteral("/laid-out.pdf")};
     sheets.titles = {QStringLiteral("report.pdf")};
-    sheets.plan.binding =
-        twoSided ? SheetPlan::Binding::LongEdge : SheetPlan::Binding::None;
+    sheets.plan.binding = twoSided ? SheetPlan::Binding::LongEdge : SheetPlan::Binding::None;
     for (int page = 0; page < pages; ++page) {
         PlannedSide side;
         side.laidOutPage = page;

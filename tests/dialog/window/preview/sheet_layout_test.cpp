@@ -39,8 +39,8 @@ private Q_SLOTS:
             const QRect whole = layout.sheet(0);
             QVERIFY(QRect(QPoint(), viewport).contains(whole));
             // One of the directions is used up, but for the margin.
-            const bool full = viewport.width() - whole.width() <= 42 ||
-                              viewport.height() - whole.height() <= 42;
+            const bool full =
+                viewport.width() - whole.width() <= 42 || viewport.height() - whole.height() <= 42;
             QVERIFY(full);
         }
     }
@@ -175,19 +175,46 @@ struct Said
 const Said kSaid[] = {
     {"one-sided", false, {3}, false, PlannedSide::Kind::Pages, {2}, "3", "Sheet 3: page 3"},
     {"front", true, {1}, false, PlannedSide::Kind::Pages, {0}, "1 front", "Sheet 1, front: page 1"},
-    {"several pages, landscape", true, {7, 8}, true, PlannedSide::Kind::Pages, {1, true}, "2 back",
+    {"several pages, landscape",
+     true,
+     {7, 8},
+     true,
+     PlannedSide::Kind::Pages,
+     {1, true},
+     "2 back",
      "Sheet 2, back: pages 7 and 8, landscape"},
-    {"blank", true, {}, false, PlannedSide::Kind::Blank, {1, true}, "2 back",
+    {"blank",
+     true,
+     {},
+     false,
+     PlannedSide::Kind::Blank,
+     {1, true},
+     "2 back",
      "Sheet 2, back: blank"},
-    {"cover", true, {}, false, PlannedSide::Kind::Cover, {0}, "1 front",
+    {"cover",
+     true,
+     {},
+     false,
+     PlannedSide::Kind::Cover,
+     {0},
+     "1 front",
      "Sheet 1, front: cover sheet"},
-    {"nobody knows the pages", false, {}, false, PlannedSide::Kind::Pages, {0}, "1",
+    {"nobody knows the pages",
+     false,
+     {},
+     false,
+     PlannedSide::Kind::Pages,
+     {0},
+     "1",
      "Sheet 1: printed"},
 };
 
 } // namespace
 
-void SheetLayoutTest::aSideIsSaidInWords_data() { addRows(kSaid); }
+void SheetLayoutTest::aSideIsSaidInWords_data()
+{
+    addRows(kSaid);
+}
 void SheetLayoutTest::aSideIsSaidInWords()
 {
     const Said &row = currentRow(kSaid);

@@ -118,8 +118,9 @@ private Q_SLOTS:
         const QRect where = m_view->sheetLayout().paper({0});
         const double ratio = shown.devicePixelRatio();
         const auto at = [&](double part) {
-            return shown.pixel((QPointF(where.left() + part * where.width(), where.center().y()) * ratio)
-                                   .toPoint());
+            return shown.pixel(
+                (QPointF(where.left() + part * where.width(), where.center().y()) * ratio)
+                    .toPoint());
         };
         QCOMPARE(at(0.75), kInk);
         QCOMPARE(at(0.25), QRgb(0xffffffff));
@@ -291,7 +292,8 @@ private Q_SLOTS:
     {
         show(sheetsOfPages(4, true));
         // From a view with a bar to one that has room for everything.
-        for (const QSize size : {QSize(400, 300), QSize(330, 620), QSize(500, 200), QSize(330, 900)}) {
+        for (const QSize size :
+             {QSize(400, 300), QSize(330, 620), QSize(500, 200), QSize(330, 900)}) {
             m_view->resize(size);
             QCoreApplication::processEvents();
             QCOMPARE(m_view->horizontalScrollBar()->maximum(), 0);
