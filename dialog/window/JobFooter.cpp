@@ -92,6 +92,11 @@ void JobFooter::buildButtons()
     connect(m_cancel, &QPushButton::clicked, this, &JobFooter::cancelPressed);
 }
 
+void JobFooter::setSaves(bool saves)
+{
+    m_print->setText(saves ? tr("Sa&ve…") : tr("&Print"));
+}
+
 void JobFooter::setCanPrint(bool canPrint)
 {
     // A button that is disabled hands the focus on, to Cancel: a second Space would take back what

@@ -22,6 +22,8 @@ public:
     explicit JobFooter(QWidget *parent = nullptr);
 
     void setCanPrint(bool canPrint);
+    /// Whether the job is a file that is kept rather than paper.
+    void setSaves(bool saves);
     /// A job runs, or none does.
     void showRunning(bool running);
     /// `canLeave`: whether the job needs this window no more.

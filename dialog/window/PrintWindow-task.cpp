@@ -106,6 +106,7 @@ void PrintWindow::showPrinter()
     const Printer &printer = m_task->printer();
     const PrinterProblem &problem = m_task->problem();
     m_footer->setCanPrint(m_task->canPrint());
+    m_footer->setSaves(m_task->savesAsPdf());
     m_header->showDestination(printer.origin == PrinterOrigin::File, m_task->printsToFile());
     if (problem.text.isEmpty())
         m_header->status()->setPrinter(printer);
@@ -199,12 +200,15 @@ void PrintWindow::showMessage(const TaskMessage &message)
         m_message->showMessage(kind, message.text);
     else
         m_message->showMessage(kind, message.text, message.offer, message.take);
+    m_message->addDetails(message.details);
 }
 
 void PrintWindow::showRefusal(const TaskRefusal &refusal)
 {
-    if (!refusal.answered)
+    if (!refusal.answered) {
         m_message->showMessage(MessageBar::Kind::Problem, refusal.problems.join(u'\n'));
+        m_message->addDetails(refusal.details);
+    }
     switch (refusal.place) {
     case TaskRefusal::Place::Nowhere:
         break;

@@ -1557,6 +1557,10 @@
 <context>
     <name>corvana::JobFooter</name>
     <message>
+        <source>Sa&amp;ve…</source>
+        <translation>保存(&amp;V)…</translation>
+    </message>
+    <message>
         <source>Printing</source>
         <translation>印刷中</translation>
     </message>

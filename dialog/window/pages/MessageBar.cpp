@@ -68,22 +68,27 @@ public:
         setWhole(false);
     }
 
-    QString text() const { return m_label->text(); }
-    void setText(const QString &text)
+    QString text() const { return m_text; }
+    void setText(const QString &text, const QString &details)
     {
-        m_label->setText(text);
+        m_text = text;
+        m_details = details;
         setWhole(false);
     }
     void setWhole(bool whole)
     {
         m_isWhole = whole;
+        m_label->setText(whole && !m_details.isEmpty() ? m_text + u'\n' + m_details : m_text);
         setVerticalScrollBarPolicy(whole ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
         verticalScrollBar()->setValue(0);
         updateGeometry();
     }
     bool isWhole() const { return m_isWhole; }
-    /// Whether there is more than two lines have room for.
-    bool isLong() const { return m_label->heightForWidth(width()) > heightOf(kFewLines); }
+    /// Whether there is more than two lines have room for, or than was meant for everybody.
+    bool isLong() const
+    {
+        return !m_details.isEmpty() || m_label->heightForWidth(width()) > heightOf(kFewLines);
+    }
 
     int heightForWidth(int width) const override
     {
@@ -100,6 +105,8 @@ private:
     int heightOf(int lines) const { return lines * fontMetrics().lineSpacing(); }
 
     QLabel *m_label;
+    QString m_text;
+    QString m_details;
     bool m_isWhole = false;
 };
 
@@ -182,7 +189,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
         kind == Kind::Problem ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
-    m_text->setText(breakable(text));
+    m_text->setText(breakable(text), {});
     m_details->setChecked(false);
     // Names of printers and choices may hold "&", which a button takes for an accelerator.
     const QString shown = fontMetrics().elidedText(actionText, Qt::ElideMiddle,
@@ -197,6 +204,12 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     setAccessibleName(text);
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
+}
+
+void MessageBar::addDetails(const QString &details)
+{
+    m_text->setText(m_text->text(), breakable(details));
+    updateDetails();
 }
 
 void MessageBar::dismiss()

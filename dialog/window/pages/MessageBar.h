@@ -29,6 +29,9 @@ public:
     /// The same, with a button that does something about it.
     void showMessage(Kind kind, const QString &text, const QString &actionText,
                      const std::function<void()> &action);
+    /// Adds what only whoever asks for the details of the message that is shown reads: numbers, and
+    /// the words of programs.
+    void addDetails(const QString &details);
     void dismiss();
     /// Takes a message back that offers to do something: it was said of a printer that is gone.
     void withdrawOffer();

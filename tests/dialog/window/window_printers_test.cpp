@@ -125,6 +125,21 @@ private Q_SLOTS:
         QCOMPARE(pages()->currentIndex(), 0);
     }
 
+    void theButtonSaysWhetherSomethingIsPrintedOrSaved()
+    {
+        open(request());
+        QTRY_VERIFY(isReady());
+        QCOMPARE(part<QPushButton>(u"print"_s)->text(), u"&Print"_s);
+        const Printer pdf = m_window->task().printers().printers().constLast();
+        m_window->task().choosePrinter(pdf);
+        QTRY_VERIFY(isReady());
+        QVERIFY(m_window->task().savesAsPdf());
+        QCOMPARE(part<QPushButton>(u"print"_s)->text(), u"Sa&ve…"_s);
+        m_window->task().choosePrinter(request().printers.constFirst());
+        QTRY_VERIFY(isReady());
+        QCOMPARE(part<QPushButton>(u"print"_s)->text(), u"&Print"_s);
+    }
+
     void aPrinterWithOptionsThatCannotBeReadSaysSoInPlaceOfItsPages()
     {
         open(request());
