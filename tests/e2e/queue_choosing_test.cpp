@@ -179,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(scene.states(), QList<int>{IPP_JSTATE_HELD});
     }
 
-    void aListThatComesLateTakesThePlaceOfTheFileAlthoughCopiesWereSet()
+    void aListThatComesLateTakesThePlaceOfTheFileAlthoughPagesWereSet()
     {
         QueueScene scene;
         scene.addQueue();
@@ -188,14 +188,14 @@ private Q_SLOTS:
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QCOMPARE(window.printer(), u"pdf"_s);
-        window.child<QSpinBox>(u"copies"_s)->setValue(3);
+        window.child<QLineEdit>(u"pageRanges"_s)->setText(u"1-2"_s);
         QVERIFY(
             window.waitUntil([&] { return scene.between.count(IPP_OP_CUPS_GET_PRINTERS) > 0; }));
         scene.between.releaseResponses();
         QVERIFY2(window.waitUntil([&] { return window.printer() == kQueue; }, kListPatience),
                  qPrintable(window.printers().join(u'|') + window.printer()));
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QVERIFY(window.settings().contains(u"copies 3"_s));
+        QVERIFY(window.settings().contains(u"pages 1-2"_s));
     }
 
     void pagesThatWereClearedStayCleared()
