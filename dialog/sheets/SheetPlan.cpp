@@ -170,7 +170,8 @@ SheetArrangement sheetArrangement(const QList<JobOption> &options, const LayoutT
         std::max(1, valueOf(withPagesOfOrder(options), "number-up"_L1).toInt());
     arrangement.isReversed = traits.isReversed;
     arrangement.paper = traits.paper;
-    if (traits.isTwoSided)
+    // A booklet is bound where it is folded, at no edge.
+    if (traits.isTwoSided && arrangement.choice.booklet == PageChoice::Booklet::No)
         arrangement.binding = bindsAtShortEdge(options) ? SheetPlan::Binding::ShortEdge
                                                         : SheetPlan::Binding::LongEdge;
     if (printsCovers) {
