@@ -144,8 +144,11 @@ void PrintTask::prepareJob()
 {
     m_run.ticket = ticket();
     enter(Phase::Printing);
-    m_looks.printsThen = !m_looks.areReady;
-    if (m_looks.areReady)
+    if (m_phase != Phase::Printing)
+        return;
+    // They may have been looked into while an alert of a panel was waiting for its answer.
+    m_looks.printsThen = !m_looks.areReady && !m_looks.documents.isDone();
+    if (!m_looks.printsThen && (m_looks.areReady || documentsAreReady()))
         goOnWithJob();
 }
 

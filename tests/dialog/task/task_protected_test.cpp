@@ -405,6 +405,26 @@ private Q_SLOTS:
         QCOMPARE(task.phase(), Phase::Ready);
     }
 
+    // Questions before a job take as long as their reader does.
+    void documentsThatBecomeKnownWhileSomethingIsAskedArePrinted()
+    {
+        for (const Protection protection :
+             {Protection::OwnerOnly, Protection::OwnerOnlyNoPrinting}) {
+            ScriptedFace &face = m_scene->face;
+            PrintTask &task = m_scene->open(request(protection));
+            writeFile(m_scene->filter.path(u"out.ps"_s), "yesterday's");
+            face.refusals.clear();
+            face.overwrites = true;
+            face.meanwhile = [&] { QTRY_VERIFY(task.knowsDocuments()); };
+            print(task);
+            const bool isPrinted = protection == Protection::OwnerOnly;
+            QCOMPARE(face.problems(), isPrinted ? QStringList() : QStringList{kForbids});
+            QCOMPARE(face.outcomes.size(), isPrinted ? 1 : 0);
+            face.meanwhile = nullptr;
+            face.outcomes.clear();
+        }
+    }
+
     // Whoever ends the task while a document is looked at need not wait.
     void aTaskCanEndAtAnyTime()
     {
