@@ -396,7 +396,7 @@ private Q_SLOTS:
         open(request());
         m_between->askForPassword(u"lisa"_s, u"right"_s, IPP_OP_CREATE_JOB);
         QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::Failed);
+        QCOMPARE(task().outcome().kind, Kind::Refused);
         QCOMPARE(face().passwords, canBeAsked ? 1 : 0);
         QCOMPARE(task().outcome().text.contains(u"none was given"_s), canBeAsked);
     }
