@@ -10,6 +10,7 @@
 #include "dialog/job/ResultFormat.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/terminal/PasswordFile.h"
 #include "platform/foundation/Bundle.h"
 
@@ -117,9 +118,11 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
             return std::nullopt;
         }
     }
+    request.options = parseOptions(line.options) + line.switches;
+    const auto kinds = asksForRaw(request.options) ? DocumentKinds::Any : DocumentKinds::Known;
     for (const QString &name : line.documents) {
         const Document document =
-            name == "-"_L1 ? readStandardInput(error) : inspectDocument(name, error);
+            name == "-"_L1 ? readStandardInput(error, kinds) : inspectDocument(name, error, kinds);
         if (document.path.isEmpty())
             return std::nullopt;
         request.documents += document;
@@ -134,7 +137,6 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
         request.server.encryption = HTTP_ENCRYPTION_REQUIRED;
     if (!takeCredentials(line, &request, error) || !takeOutput(line, &request, error))
         return std::nullopt;
-    request.options = parseOptions(line.options) + line.switches;
     request.bundleRoots = trustedBundleRoots(line);
     request.title = line.title.isEmpty() ? titleOf(request.documents) : line.title;
     request.onAlert = line.onAlert;

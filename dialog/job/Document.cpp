@@ -78,7 +78,7 @@ const Format *formatOfContent(QFile &file, const QMimeType &type)
 }
 
 // `name` is what the user calls it. Errors: see inspectDocument().
-Document inspectFile(const QString &path, const QString &name, QString *error)
+Document inspectFile(const QString &path, const QString &name, DocumentKinds kinds, QString *error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -93,6 +93,10 @@ Document inspectFile(const QString &path, const QString &name, QString *error)
     const QMimeType content = database.mimeTypeForData(&file);
     const Format *held = formatOfContent(file, content);
     const QString fileName = QFileInfo(name).fileName();
+    // What is in it is its printer's affair, and so is whether its name fits.
+    if (kinds == DocumentKinds::Any)
+        return {QFileInfo(path).absoluteFilePath(), held ? held->mimeType : kUnknownFormat,
+                fileName};
     const auto namedTypes = database.mimeTypesForFileName(fileName);
     const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
     if (!held && isPrinterData(beginningOf(file))) {
@@ -118,12 +122,12 @@ Document inspectFile(const QString &path, const QString &name, QString *error)
 }
 
 // What can be read only once, or has a name that no program of the chain can be told.
-Document inspectCopy(int descriptor, const QString &name, QString *error)
+Document inspectCopy(int descriptor, const QString &name, DocumentKinds kinds, QString *error)
 {
     const std::shared_ptr<QTemporaryDir> copy = copyOfDocument(descriptor, name, error);
     if (!copy)
         return {};
-    Document document = inspectFile(pathOfCopy(*copy), name, error);
+    Document document = inspectFile(pathOfCopy(*copy), name, kinds, error);
     if (!document.path.isEmpty())
         document.copy = copy;
     return document;
@@ -145,7 +149,7 @@ struct Descriptor
 
 } // namespace
 
-Document inspectDocument(const QString &path, QString *error)
+Document inspectDocument(const QString &path, QString *error, DocumentKinds kinds)
 {
     const QString name = shownName(path);
     const QByteArray bytes = bytesOfName(path);
@@ -168,19 +172,19 @@ Document inspectDocument(const QString &path, QString *error)
         return {};
     }
     if (S_ISREG(info.st_mode) && !hasStrayBytes(path))
-        return inspectFile(path, name, error);
+        return inspectFile(path, name, kinds, error);
     // A pipe without a writer would be waited for without end.
     const Descriptor file(::open(bytes.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (file.number < 0) {
         *error = Texts::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno));
         return {};
     }
-    return inspectCopy(file.number, name, error);
+    return inspectCopy(file.number, name, kinds, error);
 }
 
-Document readStandardInput(QString *error)
+Document readStandardInput(QString *error, DocumentKinds kinds)
 {
-    return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), error);
+    return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), kinds, error);
 }
 
 bool isStandardInputGiven()

@@ -20,7 +20,17 @@ struct Document
     bool operator==(const Document &) const = default;
 };
 
-/// Looks at a document: PDF, PostScript, plain text, PNG, JPEG.
+/// The format of a document that is of no kind known here. Only its printer may know what it is.
+inline constexpr QLatin1StringView kUnknownFormat{"application/octet-stream"};
+
+/// Which documents are taken.
+enum class DocumentKinds {
+    Known, ///< those that can be laid out
+    Any,   ///< whatever a printer may take as it is
+};
+
+/// Looks at a document: PDF, PostScript, plain text, PNG, JPEG; with `Any` anything that is not
+/// empty.
 ///
 /// The content decides, since the filter chain would send what it does not know to the printer as
 /// it is; a file whose name promises something else is refused, because it is more often a web
@@ -30,11 +40,12 @@ struct Document
 /// named pipe, are read to their ends into a file of the user's own; devices are refused.
 ///
 /// Errors: an empty path; `error` then says which file and what is wrong with it.
-Document inspectDocument(const QString &path, QString *error);
+Document inspectDocument(const QString &path, QString *error,
+                         DocumentKinds kinds = DocumentKinds::Known);
 
 /// The document that comes on standard input, read to its end into a temporary file of the user's.
 /// Errors: as inspectDocument().
-Document readStandardInput(QString *error);
+Document readStandardInput(QString *error, DocumentKinds kinds = DocumentKinds::Known);
 
 /// Whether standard input is what somebody gave this program to read: a pipe or a file. A terminal
 /// is where its user types, and whatever starts programs in the background gives them /dev/null.

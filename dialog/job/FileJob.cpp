@@ -18,7 +18,7 @@ void FileJob::start()
     if (!problem.isEmpty())
         return fail(problem);
     report({JobProgress::Stage::Printing});
-    if (hasTextToLayOut(m_request.documents, m_request.ticket.options))
+    if (hasDocumentToLayOut(m_request.documents, m_request.ticket))
         m_texts->start();
     else
         convert({});
@@ -35,8 +35,8 @@ QString FileJob::prepare()
     m_result = ResultFile::create(m_request.outputPath, &problem);
     if (!m_result)
         return problem;
-    m_texts = std::make_unique<TextDocuments>(m_request.documents, m_request.ticket.options,
-                                              m_request.ppdPath);
+    m_texts =
+        std::make_unique<TextDocuments>(m_request.documents, m_request.ticket, m_request.ppdPath);
     connect(m_texts.get(), &TextDocuments::finished, this, &FileJob::convert);
     connect(m_texts.get(), &TextDocuments::pageReached, this, [this](int page) {
         report({JobProgress::Stage::Printing, 0, page});

@@ -42,6 +42,8 @@ struct ServerJobRequest
     int earlierJob = 0;
     /// How many documents that one was to have; 0 where that is not known.
     int earlierDocuments = 0;
+    /// How many of the documents were sent by earlier tries, as jobs of their own.
+    int sentDocuments = 0;
     /// Whether nobody could count what comes out, so that there may be no page at all: such a job
     /// is "sent", never "printed".
     bool mayBeEmpty = false;

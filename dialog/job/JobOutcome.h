@@ -28,6 +28,8 @@ struct JobOutcome
     QString text{};    ///< for a person: one or more sentences
     QString file{};    ///< absolute path of a result that is a file; empty for a job of a server
     int documents = 0; ///< how many the job at its server was to have; 0 where that is not known
+    /// How many of these the next try leaves out, because they are jobs of their own already.
+    int sentDocuments = 0;
 
     QString queue{};       ///< that has the job, without an instance; empty where there is none
     QStringList reasons{}; ///< what its server says last of its state: IPP keywords

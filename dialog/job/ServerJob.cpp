@@ -9,6 +9,7 @@
 #include "dialog/job/JobRequests.h"
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/PpdFilters.h"
+#include "dialog/job/SeparateJobs.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 
@@ -89,17 +90,18 @@ bool ServerJob::laysOutTexts() const
     const bool isRaw = m_request.printer.origin == PrinterOrigin::Queue && m_request.ppd->isWritten;
     const bool takesPages =
         formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
-    return !isRaw && takesPages && hasTextToLayOut(m_request.documents, m_request.ticket.options);
+    return !isRaw && takesPages && hasDocumentToLayOut(m_request.documents, m_request.ticket);
 }
 
-// Texts are made into pages before anything else, with fonts that have their characters: what a
-// print server has is not known, and its filter prints what it lacks as boxes.
+// Texts (and some PostScript) are made into pages before anything else, with fonts that have their
+// characters: what a print server has is not known, and its filter prints what it lacks as boxes.
 void ServerJob::layOutTexts()
 {
     report({JobProgress::Stage::Converting});
-    const QList<JobOption> &options =
-        m_request.chosenOptions.isEmpty() ? m_request.ticket.options : m_request.chosenOptions;
-    m_texts = std::make_unique<TextDocuments>(m_request.documents, options, m_request.ppd->path);
+    JobTicket ticket = m_request.ticket;
+    if (!m_request.chosenOptions.isEmpty())
+        ticket.options = m_request.chosenOptions;
+    m_texts = std::make_unique<TextDocuments>(m_request.documents, ticket, m_request.ppd->path);
     connect(m_texts.get(), &TextDocuments::finished, this, [this](const QString &problem) {
         if (m_canceled)
             return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
@@ -153,13 +155,19 @@ void ServerJob::convertForQueue()
 {
     const QList<Document> &documents = m_request.documents;
     const bool several = documents.size() > 1;
+    const bool isRaw = m_request.ppd->isWritten;
+    const bool picks = mustPickPages(m_request.ticket.options);
+    if (isRaw && picks)
+        return finish(
+            {JobOutcome::Kind::Failed, 0,
+             tr("The queue “%1” has no driver and prints documents as they are: it can neither put "
+                "several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). "
+                "Nothing was printed.")
+                 .arg(m_request.printer.name)});
+    m_sendsSeparately = needsJobsOfTheirOwn();
     // What goes past the filters is nothing that they could put together.
     if (documents.constFirst().format == kRawFormat)
         return send(documents, m_request.ticket);
-    const bool isRaw = m_request.ppd->isWritten;
-    const bool picks = mustPickPages(m_request.ticket.options);
-    if (const QString problem = isRaw ? problemOfRawQueue() : QString(); !problem.isEmpty())
-        return finish({JobOutcome::Kind::Failed, 0, problem});
     const PpdStream stream = isRaw ? PpdStream() : streamOfPpd(m_request.ppd->path);
     if (several && !stream.continues && !stream.isCutByServer)
         return putTogether();
@@ -168,25 +176,16 @@ void ServerJob::convertForQueue()
     send(documents, m_request.ticket);
 }
 
-// A queue without a driver hands everything to its device as it comes, in one stream.
-QString ServerJob::problemOfRawQueue() const
+// A queue without a driver hands everything to its device as it comes, in one stream, where a
+// printer finds the end of most documents only by the end of the job.
+bool ServerJob::needsJobsOfTheirOwn() const
 {
     const QList<Document> &documents = m_request.documents;
     const auto continues = [](const Document &document) {
         return document.format == "application/postscript"_L1 || document.format == "text/plain"_L1;
     };
-    const auto first = std::find_if_not(documents.cbegin(), documents.cend(), continues);
-    if (documents.size() > 1 && first != documents.cend())
-        return tr("The queue “%1” has no driver and sends documents to its printer as they are, in "
-                  "one stream, where a printer finds the end of %2 only by the end of the job. "
-                  "Print the documents one at a time. Nothing was printed.")
-            .arg(m_request.printer.name, first->title);
-    if (mustPickPages(m_request.ticket.options))
-        return tr("The queue “%1” has no driver and prints documents as they are: it can "
-                  "neither put several pages on a sheet (number-up) nor choose pages (page-ranges, "
-                  "page-set). Nothing was printed.")
-            .arg(m_request.printer.name);
-    return {};
+    return m_request.ppd->isWritten && documents.size() > 1 &&
+           !std::all_of(documents.cbegin(), documents.cend(), continues);
 }
 
 // What an IPP printer does not take becomes what it does take; several documents become one.
@@ -314,8 +313,10 @@ void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
     if (times > 1)
         request.ticket.copies = 1;
     const QString remark = remarkOn(ticket, static_cast<int>(documents.size()));
-    m_work = ServerWork(m_request.server, [this, request, all, remark](ServerWorker &worker) {
-        JobOutcome outcome = handOver(worker, request, all, [&](const JobProgress &progress) {
+    m_work = ServerWork(m_request.server, [this, request, all, remark,
+                                           separately = m_sendsSeparately](ServerWorker &worker) {
+        const auto handOverAll = separately ? handOverSeparately : handOver;
+        JobOutcome outcome = handOverAll(worker, request, all, [&](const JobProgress &progress) {
             worker.post([this, progress] { followed(progress); });
         });
         if (outcome.isDone() && !remark.isEmpty())

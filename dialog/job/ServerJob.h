@@ -38,7 +38,7 @@ private:
     void convert();
     void convertForQueue();
     void convertForDevice();
-    QString problemOfRawQueue() const;
+    bool needsJobsOfTheirOwn() const;
     void putTogether();
     void pickNext();
     ConversionRequest toPdf(const QList<JobOption> &pages) const;
@@ -57,6 +57,7 @@ private:
     QList<Document> m_picked;
     qsizetype m_pickedOf = 0; // documents
     bool m_isPutTogether = false;
+    bool m_sendsSeparately = false;
     ServerWork m_work;
     bool m_canceled = false;
     bool m_handedOver = false;

@@ -28,6 +28,12 @@ void CredentialStore::giveInAdvance(const Credentials &credentials)
     m_given = credentials;
 }
 
+bool CredentialStore::isFirstInPlain(const CredentialRealm &realm, const Credentials &sent)
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_given == sent && m_sentInPlain.insert(realm).second;
+}
+
 std::optional<Credentials> CredentialStore::known(const CredentialRealm &realm) const
 {
     const std::scoped_lock lock(m_mutex);

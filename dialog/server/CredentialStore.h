@@ -6,6 +6,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <tuple>
 
 #include <QList>
@@ -78,6 +79,10 @@ public:
     /// are not given again.
     void giveInAdvance(const Credentials &credentials);
 
+    /// Whether these were given in advance and are about to be sent where others can read along,
+    /// for the first time: of what nobody was asked, somebody has to be told.
+    bool isFirstInPlain(const CredentialRealm &realm, const Credentials &sent);
+
     /// What was given before; nothing when nobody was asked yet.
     std::optional<Credentials> known(const CredentialRealm &realm) const;
     /// Whether what is known was given for somebody else, and is only tried here: the user has not
@@ -121,6 +126,7 @@ private:
     std::condition_variable m_changed;
     Questioner m_questioner;
     std::optional<Credentials> m_given; // in advance
+    std::set<CredentialRealm> m_sentInPlain;
     std::map<CredentialRealm, Known> m_known;
     std::map<CredentialRealm, QList<Credentials>> m_refused;
     std::map<CredentialRealm, std::shared_ptr<Pending>> m_pending;

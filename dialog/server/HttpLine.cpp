@@ -5,6 +5,7 @@
 
 #include <poll.h>
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 namespace corvana {
@@ -18,6 +19,11 @@ constexpr int kMostAttempts = 6;
 // How long libcups waits for keys while it connects, whatever it is told, and says of that only
 // that a function has failed.
 constexpr std::chrono::seconds kHandshakePatience{10};
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(HttpLine)
+};
 
 // Why there is no connection. libcups says "Host is down" of every host that it does not get to.
 QString reasonOfLibcups()
@@ -305,10 +311,25 @@ const char *HttpLine::givePassword(http_t *http)
             return nullptr;
         }
     }
+    warnOfPlainPassword();
     cupsSetUser(m_given->user.toUtf8().constData());
     m_password = m_given->password.toUtf8();
     m_inUse = m_given;
     return m_password.constData();
+}
+
+// Who is asked for a password is told so beside the question; a password from a file goes unasked.
+void HttpLine::warnOfPlainPassword()
+{
+    const QByteArrayView wanted = httpGetField(m_http, HTTP_FIELD_WWW_AUTHENTICATE);
+    const bool isRead =
+        httpIsEncrypted(m_http) == 0 && !m_context.address.isLocal() && wanted.startsWith("Basic");
+    if (isRead && m_context.credentials && m_context.credentials->isFirstInPlain(realm(), *m_given))
+        qCWarning(lcServer).noquote()
+            << Texts::tr(
+                   "The password is sent to “%1” without encryption: others in the network can "
+                   "read it. “-E” encrypts.")
+                   .arg(m_context.address.text());
 }
 
 } // namespace corvana

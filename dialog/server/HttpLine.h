@@ -73,6 +73,7 @@ private:
     bool goOverToTls();
     QString realm() const;
     const char *givePassword(http_t *http);
+    void warnOfPlainPassword();
 
     static const char *passwordWanted(const char *prompt, http_t *http, const char *method,
                                       const char *resource, void *self);

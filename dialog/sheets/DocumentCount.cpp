@@ -94,8 +94,8 @@ void DocumentCount::start()
 // The same pages as a job makes of it.
 void DocumentCount::convertText()
 {
-    m_texts =
-        std::make_unique<TextDocuments>(QList{m_document}, onLayoutPaper(m_request.options), m_ppd);
+    m_texts = std::make_unique<TextDocuments>(
+        QList{m_document}, JobTicket{{}, 1, onLayoutPaper(m_request.options), {}}, m_ppd);
     connect(m_texts.get(), &TextDocuments::finished, this, [this](const QString &problem) {
         if (!problem.isEmpty())
             return fail(problem);

@@ -62,6 +62,16 @@ bool passesFilesOn(const OpenedPrinter &printer, const QList<JobOption> &attribu
     return passesFilesOn(printer) || attributes.contains(kRaw);
 }
 
+bool asksForRaw(const QList<JobOption> &options)
+{
+    bool raw = false;
+    for (const JobOption &option : options) {
+        if (isRaw(option))
+            raw = option.value != "false"_L1;
+    }
+    return raw;
+}
+
 bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer)
 {
     bool raw = false;
@@ -69,10 +79,8 @@ bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer)
     if (printer.fetched.printer.origin != PrinterOrigin::Queue)
         return raw;
     for (QList<JobOption> &options : sets) {
-        for (const JobOption &option : std::as_const(options)) {
-            if (isRaw(option))
-                raw = option.value != "false"_L1;
-        }
+        if (std::any_of(options.cbegin(), options.cend(), isRaw))
+            raw = asksForRaw(options);
         options.removeIf(isRaw);
     }
     return raw || passesFilesOn(printer);

@@ -24,6 +24,9 @@ bool passesFilesOn(const OpenedPrinter &printer, const QList<JobOption> &attribu
 /// does with a job, whatever is in it.
 bool isDoneWhenPassedOn(const QString &name, const OpenedPrinter &printer);
 
+/// Whether options ask for that.
+bool asksForRaw(const QList<JobOption> &options);
+
 /// Takes "raw" out of several sets of options, of which a later one counts more, where it can be
 /// had. Answers whether the documents are passed on as they are.
 bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer);

@@ -1,5 +1,6 @@
 #include "dialog/task/PrintTask.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -102,6 +103,11 @@ std::optional<TaskRefusal> PrintTask::finish()
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
+    if (const QString unknown = unknownDocument(); !passesFilesOn() && !unknown.isEmpty())
+        return TaskRefusal{
+            {tr("%1 is of a kind that is not known here. Only a queue can pass it on "
+                "to its printer, as it is, with the option “raw”.")
+                 .arg(unknown)}};
     if (passesFilesOn()) {
         QList<JobOption> asked = m_settings.attributes();
         const QStringList problems = takeWhatCannotBeDone(asked, *m_opened);
@@ -129,6 +135,15 @@ std::optional<TaskRefusal> PrintTask::finish()
     if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
         m_face.writeSummary(m_run.lines);
     return problems.isEmpty() ? std::nullopt : std::optional(TaskRefusal{problems});
+}
+
+// The name of a document that nothing can be made of; null where there is none.
+QString PrintTask::unknownDocument() const
+{
+    const auto isUnknown = [](const Document &one) { return one.format == kUnknownFormat; };
+    const QList<Document> &documents = m_request.documents;
+    const auto found = std::find_if(documents.cbegin(), documents.cend(), isUnknown);
+    return found == documents.cend() ? QString() : found->title;
 }
 
 // Once for a task: its documents stay the same.
@@ -220,13 +235,14 @@ void PrintTask::startJob(const JobTicket &ticket)
             m_request.documents, ticket, m_opened->fetched.ppd->path, m_output.path});
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
-        if (m_settings.attributes().contains(kRaw)) {
+        if (m_settings.attributes().contains(kRaw) || !unknownDocument().isNull()) {
             for (Document &document : request.documents)
                 document.format = kRawFormat;
         }
         const Memory memory = m_memory.value(idOf(m_chosen.printer));
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
+        request.sentDocuments = memory.sentDocuments;
         const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
         request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         m_run.job = std::make_unique<ServerJob>(request);
@@ -291,6 +307,11 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
         memory.earlierDocuments = outcome.documents;
     } else if (outcome.job > 0) {
         memory.earlierJob = 0;
+    }
+    // What failed before anything was asked of a server says nothing of them.
+    if (outcome.documents > 0) {
+        memory.earlierDocuments = outcome.documents;
+        memory.sentDocuments = outcome.sentDocuments;
     }
     // What a script prints to says nothing about what its user opens next.
     if (m_chosen.canBeAnother && outcome.isDone() && outcome.file.isEmpty())

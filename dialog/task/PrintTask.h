@@ -175,6 +175,7 @@ private:
         std::optional<LeftSession> session;
         int earlierJob = 0; // that may print yet
         int earlierDocuments = 0;
+        int sentDocuments = 0; // as jobs of their own
     };
     struct Chosen
     {
@@ -243,6 +244,7 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
+    QString unknownDocument() const;
     void lookForMissingCharacters();
     bool isTextCheckOver() const;
     bool mayPrintTexts();

@@ -91,6 +91,13 @@
     </message>
 </context>
 <context>
+    <name>HttpLine</name>
+    <message>
+        <source>The password is sent to “%1” without encryption: others in the network can read it. “-E” encrypts.</source>
+        <translation>パスワードは暗号化されずに「%1」へ送信されます。ネットワーク上の他の人が読み取れます。「-E」を指定すると暗号化されます。</translation>
+    </message>
+</context>
+<context>
     <name>JobAttributes</name>
     <message>
         <source>Pages per Sheet</source>
@@ -889,6 +896,26 @@
 <context>
     <name>ServerJob</name>
     <message>
+        <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 キュー「%2」にはドライバーがなく、文書が 1 つのデータとして続けて送られるため、文書ごとに別のジョブにしました: %3。</translation>
+    </message>
+    <message>
+        <source>Job %1 was canceled or given up at the printer or its server.</source>
+        <translation>ジョブ %1 はプリンターまたはサーバーでキャンセルまたは中止されました。</translation>
+    </message>
+    <message>
+        <source>Job %1 is still in the queue.</source>
+        <translation>ジョブ %1 はまだキューにあります。</translation>
+    </message>
+    <message>
+        <source>%1 Documents that were sent before, each as a job of its own: %2 of %3. Printing again sends the others.</source>
+        <translation>%1 それまでに別々のジョブとして送られた文書: %3 個のうち %2 個。もう一度印刷すると残りが送られます。</translation>
+    </message>
+    <message>
+        <source>Job %1 was canceled; pages that the printer has already may still come out.</source>
+        <translation>ジョブ %1 はキャンセルされました。プリンターにすでに届いたページは印刷されることがあります。</translation>
+    </message>
+    <message>
         <source>%1 The printer says: %2</source>
         <translation>%1プリンターのメッセージ: %2</translation>
     </message>
@@ -1659,6 +1686,10 @@ For the command line: %2</source>
         <source>Not all of the text could be looked through for characters that no font of this computer has. An empty frame is printed for each of them.</source>
         <translation>このコンピューターのどのフォントにもない文字があるかどうか、テキストの全体は調べられませんでした。そのような文字の代わりに空の枠が印刷されます。</translation>
     </message>
+    <message>
+        <source>%1 is of a kind that is not known here. Only a queue can pass it on to its printer, as it is, with the option “raw”.</source>
+        <translation>%1 は対応していない種類の文書です。オプション「raw」を付けて、キューからプリンターへそのまま渡すことだけができます。</translation>
+    </message>
 <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
@@ -1891,10 +1922,6 @@ For the command line: %2</source>
         <translation>プリンター「%1」では、ジョブの次の設定を使用できません: %2。何も印刷されませんでした。</translation>
     </message>
 <message>
-        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
-        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
-    </message>
-    <message>
         <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
         <translation>キュー「%1」にはドライバーがなく、文書はそのまま印刷されます。1 枚に複数ページを割り付けること (number-up) も、ページを選ぶこと (page-ranges、page-set) もできません。何も印刷されませんでした。</translation>
     </message>

@@ -91,6 +91,13 @@
     </message>
 </context>
 <context>
+    <name>HttpLine</name>
+    <message>
+        <source>The password is sent to “%1” without encryption: others in the network can read it. “-E” encrypts.</source>
+        <translation>密码将不加密地发送到“%1”：网络中的其他人可以读取它。使用“-E”可加密。</translation>
+    </message>
+</context>
+<context>
     <name>JobAttributes</name>
     <message>
         <source>Pages per Sheet</source>
@@ -889,6 +896,26 @@
 <context>
     <name>ServerJob</name>
     <message>
+        <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 队列“%2”没有驱动程序，会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 was canceled or given up at the printer or its server.</source>
+        <translation>作业 %1 已在打印机或其服务器上被取消或放弃。</translation>
+    </message>
+    <message>
+        <source>Job %1 is still in the queue.</source>
+        <translation>作业 %1 仍在队列中。</translation>
+    </message>
+    <message>
+        <source>%1 Documents that were sent before, each as a job of its own: %2 of %3. Printing again sends the others.</source>
+        <translation>%1 之前已作为单独作业发送的文档：%3 个中的 %2 个。再次打印会发送其余文档。</translation>
+    </message>
+    <message>
+        <source>Job %1 was canceled; pages that the printer has already may still come out.</source>
+        <translation>作业 %1 已取消；打印机已收到的页面可能仍会打印出来。</translation>
+    </message>
+    <message>
         <source>%1 The printer says: %2</source>
         <translation>%1打印机的消息：%2</translation>
     </message>
@@ -1659,6 +1686,10 @@ For the command line: %2</source>
         <source>Not all of the text could be looked through for characters that no font of this computer has. An empty frame is printed for each of them.</source>
         <translation>未能检查整个文本中是否有此计算机的任何字体都没有的字符。每个这样的字符都将打印为空框。</translation>
     </message>
+    <message>
+        <source>%1 is of a kind that is not known here. Only a queue can pass it on to its printer, as it is, with the option “raw”.</source>
+        <translation>%1 是此处无法识别的类型。只有队列可以通过选项“raw”将其原样传给打印机。</translation>
+    </message>
 <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
@@ -1891,10 +1922,6 @@ For the command line: %2</source>
         <translation>打印机“%1”不接受作业的以下设置：%2。没有打印任何内容。</translation>
     </message>
 <message>
-        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
-        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
-    </message>
-    <message>
         <source>The queue “%1” has no driver and prints documents as they are: it can neither put several pages on a sheet (number-up) nor choose pages (page-ranges, page-set). Nothing was printed.</source>
         <translation>队列“%1”没有驱动程序，会原样打印文档：既不能在一张纸上放置多页 (number-up)，也不能选择页面 (page-ranges、page-set)。没有打印任何内容。</translation>
     </message>

@@ -148,4 +148,18 @@ void FaultPlayer::verifyEnd(QueueScene &scene, const QString &says, bool closes,
     QVERIFY2(!claimed || scene.states().contains(IPP_JSTATE_COMPLETED), qPrintable(said));
 }
 
+void QueueFaultTest::initTestCase()
+{
+    if (!PrivateCups::isAvailable())
+        QSKIP("no CUPS server here");
+    m_player.emplace();
+    m_player->learnTheUsual();
+}
+
+void QueueFaultTest::playRow()
+{
+    QFETCH(QueueFault, fault);
+    m_player->play(fault);
+}
+
 } // namespace corvana::test

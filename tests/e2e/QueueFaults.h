@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QByteArray>
 #include <QList>
+#include <QObject>
 #include <QString>
 
 #include "tests/e2e/QueueScene.h"
@@ -79,6 +81,29 @@ private:
     QString m_largeDocument;
     Gaps m_usual; // without any fault
     Gaps m_gaps;  // of the scene that was played last
+};
+
+/// A test of what faults come to: its player has learnt what is usual before the first one. The
+/// faults of a test stand in the column "fault" of its data.
+class QueueFaultTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    using Scene = QueueScene;
+    using Fault = QueueFault;
+    using States = QueueFault::States;
+    static constexpr qint64 kPartOfDocument = FaultPlayer::partOfDocument;
+
+    FaultPlayer &player() { return *m_player; }
+    /// Plays the fault of the current row.
+    void playRow();
+
+private Q_SLOTS:
+    void initTestCase();
+
+private:
+    std::optional<FaultPlayer> m_player;
 };
 
 } // namespace corvana::test

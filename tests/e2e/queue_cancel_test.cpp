@@ -1,5 +1,3 @@
-#include <optional>
-
 #include <QTest>
 
 #include "tests/e2e/QueueFaults.h"
@@ -8,32 +6,13 @@ using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-using Scene = QueueScene;
-using Fault = QueueFault;
-using States = QueueFault::States;
-
-} // namespace
-
 /// What becomes of a job when whoever prints it cancels it, or leaves the window, at any point of
 /// the way.
-class QueueCancelTest : public QObject
+class QueueCancelTest : public QueueFaultTest
 {
     Q_OBJECT
 
-private:
-    std::optional<FaultPlayer> m_player;
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_player.emplace();
-        m_player->learnTheUsual();
-    }
-
     void printingIsCanceledAtEveryStage_data()
     {
         QTest::addColumn<Fault>("fault");
@@ -133,11 +112,7 @@ private Q_SLOTS:
         fault.documentsAgain = 1;
         QTest::newRow("printing, while the server is away") << fault;
     }
-    void printingIsCanceledAtEveryStage()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void printingIsCanceledAtEveryStage() { playRow(); }
 
     void aJobGoesOnWhenTheWindowIsLeft_data()
     {
@@ -151,7 +126,7 @@ private Q_SLOTS:
         Scene scene;
         scene.device.pages(1).waitAtPages();
         scene.addQueue();
-        scene.open({m_player->document()});
+        scene.open({player().document()});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QVERIFY(!window.press(u"leave"_s));

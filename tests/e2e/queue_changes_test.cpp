@@ -143,7 +143,7 @@ private Q_SLOTS:
         scene.fallSilent();
         scene.open({m_document}, {});
         QueueDriver &window = *scene.window;
-        QVERIFY(window.canPrint());
+        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         QCOMPARE(window.printer(), kQueue);
         window.changeSettings();
         const QStringList settings = window.settings();

@@ -1,5 +1,3 @@
-#include <optional>
-
 #include <QTest>
 
 #include "tests/e2e/QueueFaults.h"
@@ -11,11 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Scene = QueueScene;
-using Fault = QueueFault;
-using States = QueueFault::States;
-
-constexpr qint64 kPartOfDocument = FaultPlayer::partOfDocument;
 /// Two documents in three sets, as the settings of every fault ask for.
 constexpr int kDocuments = 6;
 
@@ -31,7 +24,7 @@ QByteArray takingPdf(const QByteArray &ppd)
 }
 
 // Every job that was printed has all of its documents, and the printer got them all.
-void verifyWhole(Scene &scene)
+void verifyWhole(QueueScene &scene)
 {
     Client client(scene.cups.server());
     for (const KnownJob &job : scene.cups.jobs()) {
@@ -47,22 +40,11 @@ void verifyWhole(Scene &scene)
 
 /// The same faults as with one document, in the midst of several: none is printed twice, none is
 /// lost, and what is said is so.
-class QueueDocumentFaultsTest : public QObject
+class QueueDocumentFaultsTest : public QueueFaultTest
 {
     Q_OBJECT
 
-private:
-    std::optional<FaultPlayer> m_player;
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_player.emplace();
-        m_player->learnTheUsual();
-    }
-
     void aJobThatLacksADocumentPrintsNone_data()
     {
         QTest::addColumn<Fault>("fault");
@@ -107,11 +89,7 @@ private Q_SLOTS:
             "hangs up after the first",
             [](FaultyServer &between) { between.closeBeforeResponse(IPP_OP_SEND_DOCUMENT, 1); }, 0);
     }
-    void aJobThatLacksADocumentPrintsNone()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void aJobThatLacksADocumentPrintsNone() { playRow(); }
 
     void aPartThatStaysAtTheServerIsTakenBackByTheNextTry()
     {
@@ -128,7 +106,7 @@ private Q_SLOTS:
         fault.saysAgain = kPrintedAs.arg(2);
         fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
         fault.documentsAgain = 1;
-        m_player->play(fault);
+        player().play(fault);
     }
 
     void aServerThatCrashesBetweenTheDocumentsPrintsThemOnce()
@@ -152,7 +130,7 @@ private Q_SLOTS:
         fault.saysAgain = kPrintedAs.arg(2);
         fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
         fault.documentsAgain = 1;
-        m_player->play(fault);
+        player().play(fault);
     }
 
     void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne_data()
@@ -199,11 +177,7 @@ private Q_SLOTS:
         gone.documentsAgain = 1;
         QTest::newRow("gone after the last, printed meanwhile") << gone;
     }
-    void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne() { playRow(); }
 
     void whatThePrinterDoesWithTheJobIsSaid_data()
     {
@@ -246,11 +220,7 @@ private Q_SLOTS:
         fault.documentsAgain = 2;
         QTest::newRow("canceled at the server while printing") << fault;
     }
-    void whatThePrinterDoesWithTheJobIsSaid()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void whatThePrinterDoesWithTheJobIsSaid() { playRow(); }
 
     void theUserCancelsBetweenTheDocuments()
     {
@@ -267,7 +237,7 @@ private Q_SLOTS:
         fault.saysAgain = kPrintedAs.arg(2);
         fault.jobsAgain = {IPP_JSTATE_CANCELED, IPP_JSTATE_COMPLETED};
         fault.documentsAgain = 1;
-        m_player->play(fault);
+        player().play(fault);
     }
 
     void theUserCancelsWhileTheyArePutTogether()
@@ -282,7 +252,7 @@ private Q_SLOTS:
         fault.saysAgain = kPrintedAs.arg(1) + u" The documents were put together .+"_s;
         fault.jobsAgain = {IPP_JSTATE_COMPLETED};
         fault.documentsAgain = 1;
-        m_player->play(fault);
+        player().play(fault);
     }
 };
 

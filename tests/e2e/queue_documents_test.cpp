@@ -7,6 +7,7 @@
 
 #include "tests/e2e/QueueRuns.h"
 #include "tests/support/NumberedPdf.h"
+#include "tests/support/PpdBuilder.h"
 #include "tests/support/PrintedSides.h"
 #include "tests/support/TestPaths.h"
 #include "tests/support/cups/IppEvePrinter.h"
@@ -28,6 +29,23 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
     process.start(program, arguments);
     [&] { QVERIFY2(process.waitForFinished(kPatience), qPrintable(program)); }();
     return process.readAllStandardOutput();
+}
+
+// How much of each page each ink covers, the last page first: "0.00000 0.1 0.1 0.00000" of cyan to
+// black.
+QByteArrayList inksOf(const QByteArray &data)
+{
+    QProcess process;
+    process.start(u"gs"_s, {u"-q"_s, u"-o"_s, u"-"_s, u"-sDEVICE=inkcov"_s, u"-"_s});
+    process.write(data);
+    process.closeWriteChannel();
+    [&] { QVERIFY(process.waitForFinished(kPatience)); }();
+    QByteArrayList pages;
+    for (const QByteArray &line : process.readAllStandardOutput().split('\n')) {
+        if (line.contains("CMYK"))
+            pages.prepend(line.simplified().split(' ').mid(0, 4).join(' '));
+    }
+    return pages;
 }
 
 // Where two streams part, for a test that fails.
@@ -236,6 +254,60 @@ private Q_SLOTS:
         QVERIFY2(end.out.startsWith(u"Printed on “office” as job office-1. The documents were put "
                                     "together as one"_s),
                  end.text().constData());
+    }
+
+    void aQueueWithoutADriverGetsAJobForEach()
+    {
+        m_cups->addRawQueue(u"office"_s);
+        const QStringList paths = documents(u"one:1 two:2"_s);
+        const RunEnd end = m_runner->run(QStringList{u"-d"_s, u"office"_s} + paths);
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(end.out.contains(u"So each is a job of its own: office-1, office-2."_s),
+                 end.text().constData());
+        const QList<CapturedJob> jobs = m_cups->capture(u"office"_s).jobs();
+        QCOMPARE(jobs.size(), 2);
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(jobs.at(i).data, readAll(paths.at(i)));
+    }
+
+    // Only the filter behind PDF follows the attribute where the PPD has no option for it.
+    void postScriptIsBlackAndWhiteAsWell_data()
+    {
+        QTest::addColumn<bool>("intoFile");
+        QTest::addColumn<bool>("withPdf"); // in front of it
+        QTest::newRow("at a queue") << false << false;
+        QTest::newRow("in a file") << true << false;
+        QTest::newRow("behind a PDF") << false << true;
+    }
+    void postScriptIsBlackAndWhiteAsWell()
+    {
+        QFETCH(bool, intoFile);
+        QFETCH(bool, withPdf);
+        const QString path = write(u"color.ppd"_s, PpdBuilder().text() + "*ColorDevice: True\n");
+        const QString red =
+            write(u"red.ps"_s, "%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n"
+                               "1 0 0 setrgbcolor 100 100 200 200 rectfill\n"
+                               "showpage\n%%EOF\n");
+        m_cups->addQueue(u"office"_s, path);
+        QStringList documents{red};
+        if (withPdf)
+            documents.prepend(document("one", 1));
+        const auto printedWith = [&](const QString &mode) {
+            const QStringList arguments = withOptions({u"print-color-mode="_s + mode}) + documents;
+            if (!intoFile) {
+                printed(u"office"_s, arguments);
+                return m_cups->capture(u"office"_s).jobs().constLast().data;
+            }
+            const QString output = m_runner->filePath(u"result.ps"_s);
+            m_runner->run(QStringList{u"--ppd"_s, path, u"--output"_s, output} + arguments);
+            return readAll(output);
+        };
+        // The printer gets each document of a job for itself: the last one is the red one.
+        const QByteArray gray = inksOf(printedWith(u"monochrome"_s)).value(0);
+        QVERIFY2(gray.startsWith("0.00000 0.00000 0.00000 0.0") && !gray.endsWith("0.00000"),
+                 gray.constData());
+        if (intoFile)
+            QVERIFY(!inksOf(printedWith(u"color"_s)).value(0).startsWith("0.00000 0.00000"));
     }
 
     void aRasterFileIsOne()

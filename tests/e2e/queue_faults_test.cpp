@@ -1,5 +1,4 @@
 #include <ctime>
-#include <optional>
 
 #include <QTest>
 #include <QThread>
@@ -10,34 +9,13 @@ using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-using Scene = QueueScene;
-using Fault = QueueFault;
-using States = QueueFault::States;
-
-constexpr qint64 kPartOfDocument = FaultPlayer::partOfDocument;
-
-} // namespace
-
 /// What somebody sees and has when the print server, the queue or the printer fails at any point
 /// of the way: a message that is true, the settings, no second copy, and a window that reacts.
-class QueueFaultsTest : public QObject
+class QueueFaultsTest : public QueueFaultTest
 {
     Q_OBJECT
 
-private:
-    std::optional<FaultPlayer> m_player;
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_player.emplace();
-        m_player->learnTheUsual();
-    }
-
     // Or nothing below would say that a window reacts.
     void theHeartNoticesWhatStopsIt_data()
     {
@@ -174,11 +152,7 @@ private Q_SLOTS:
         fault.jobsAgain = {IPP_JSTATE_HELD, IPP_JSTATE_COMPLETED};
         QTest::newRow("gone in the middle of the document") << fault;
     }
-    void aFailedJobLeavesEverythingInPlace()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void aFailedJobLeavesEverythingInPlace() { playRow(); }
 
     void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne_data()
     {
@@ -255,11 +229,7 @@ private Q_SLOTS:
         printing.documentsAgain = 2; // the server begins anew by itself
         QTest::newRow("killed while printing") << printing;
     }
-    void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void anAnswerThatIsLostLosesNoJobAndMakesNoSecondOne() { playRow(); }
 
     void aServerThatCrashesInTheMidstOfTheDocumentPrintsItOnce_data()
     {
@@ -285,18 +255,14 @@ private Q_SLOTS:
                               "document\\. It could not be canceled: .+"_s;
         QTest::newRow("before all of it is on its way") << killed;
     }
-    void aServerThatCrashesInTheMidstOfTheDocumentPrintsItOnce()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void aServerThatCrashesInTheMidstOfTheDocumentPrintsItOnce() { playRow(); }
 
     void anotherCopyIsPrintedOnRequest()
     {
         Scene scene;
         scene.device.waitAtEnd();
         scene.addQueue();
-        scene.open({m_player->document()});
+        scene.open({player().document()});
         QueueDriver &window = *scene.window;
         QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
         scene.between.swallowResponse(IPP_OP_SEND_DOCUMENT);
@@ -392,11 +358,7 @@ private Q_SLOTS:
         fault.documents = 1;
         QTest::newRow("queue stopped for a while") << fault;
     }
-    void whatThePrinterDoesWithTheJobIsSaid()
-    {
-        QFETCH(Fault, fault);
-        m_player->play(fault);
-    }
+    void whatThePrinterDoesWithTheJobIsSaid() { playRow(); }
 };
 
 QTEST_MAIN(QueueFaultsTest)

@@ -157,6 +157,40 @@ private Q_SLOTS:
 
     // What is printed
 
+    void aQueueIsAskedToPassOnWhatNobodyKnows_data()
+    {
+        QTest::addColumn<bool>("hasDriver");
+        QTest::addColumn<bool>("byPipe");
+        QTest::newRow("with a driver") << true << false;
+        QTest::newRow("without a driver") << false << false;
+        QTest::newRow("from a pipe") << true << true;
+    }
+    void aQueueIsAskedToPassOnWhatNobodyKnows()
+    {
+        QFETCH(bool, hasDriver);
+        QFETCH(bool, byPipe);
+        if (hasDriver)
+            m_cups->addQueue(u"office"_s, kPpd);
+        else
+            m_cups->addRawQueue(u"office"_s);
+        const QByteArray pcl("\x1B"
+                             "E\x1B&l26AHello\x1B"
+                             "E\0\x01",
+                             18);
+        const QString path = m_runner->filePath(u"job.pcl"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(pcl) == pcl.size());
+        file.close();
+        const QStringList arguments{u"-d"_s, u"office"_s, byPipe ? u"-"_s : path};
+        const RunEnd refused = m_runner->run(arguments, path);
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(refused.err.contains(u"cannot be printed"_s), refused.text().constData());
+        const RunEnd end = m_runner->run(arguments + QStringList{u"-o"_s, u"raw"_s}, path);
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(end.out.startsWith(u"Sent to “office”"_s), end.text().constData());
+        QCOMPARE(m_cups->capture(u"office"_s).jobs().constLast().data, pcl);
+    }
+
     void severalDocumentsAreOneJob()
     {
         m_cups->addQueue(u"office"_s, kPpd);

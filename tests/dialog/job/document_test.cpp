@@ -106,6 +106,39 @@ private Q_SLOTS:
         QCOMPARE(document.title, name);
     }
 
+    // What a printer takes as it is, is its own affair; that there is something, is not.
+    void anyKindIsTakenWhereThatIsWanted_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("format"); // null: refused
+        const QByteArray pcl("\x1B"
+                             "E\x1B&l26AHello\x1B"
+                             "E\0\x01",
+                             18);
+        const QString unknown = kUnknownFormat;
+        QTest::newRow("printer data") << u"job.pcl"_s << pcl << unknown;
+        QTest::newRow("printer data by another name") << u"job.pdf"_s << pcl << unknown;
+        QTest::newRow("a picture by another name")
+            << u"scan.jpg"_s << contentOf(dataFile(u"page.png"_s)) << u"image/png"_s;
+        QTest::newRow("a web page")
+            << u"a.html"_s << QByteArray("<html><body>x</body></html>\n") << u"text/plain"_s;
+        QTest::newRow("nothing") << u"job.pcl"_s << QByteArray() << QString();
+    }
+    void anyKindIsTakenWhereThatIsWanted()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, format);
+        const QString path = writeFile(m_folder->filePath(name), content);
+        QString error;
+        const Document document = inspectDocument(path, &error, DocumentKinds::Any);
+        QCOMPARE(document.format, format);
+        QCOMPARE(error.isEmpty(), !format.isNull());
+        if (format == QString(kUnknownFormat))
+            QVERIFY(inspectDocument(path, &error) == Document{});
+    }
+
     void aNameThatPromisesSomethingElseIsRefused_data()
     {
         QTest::addColumn<QString>("name");

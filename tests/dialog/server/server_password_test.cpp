@@ -1,3 +1,4 @@
+#include <mutex>
 #include <optional>
 
 #include <QBuffer>
@@ -12,6 +13,45 @@ using namespace corvana::test;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Kind = ServerProblem::Kind;
+
+namespace {
+
+/// What is logged while this lives, from whatever thread.
+class Warnings
+{
+public:
+    Warnings() : m_former(qInstallMessageHandler(&Warnings::take)) { texts().clear(); }
+    ~Warnings() { qInstallMessageHandler(m_former); }
+    Q_DISABLE_COPY_MOVE(Warnings)
+
+    QStringList said() const
+    {
+        const std::scoped_lock lock(mutex());
+        return texts();
+    }
+
+private:
+    static std::mutex &mutex()
+    {
+        static std::mutex guards;
+        return guards;
+    }
+    static QStringList &texts()
+    {
+        static QStringList all;
+        return all;
+    }
+    static void take(QtMsgType type, const QMessageLogContext &, const QString &text)
+    {
+        const std::scoped_lock lock(mutex());
+        if (type == QtWarningMsg)
+            texts() += text;
+    }
+
+    QtMessageHandler m_former;
+};
+
+} // namespace
 
 /// Who is asked for a password, how often, and what becomes of it.
 class ServerPasswordTest : public ServerFixture
@@ -173,6 +213,52 @@ private Q_SLOTS:
             });
             QCOMPARE(context.credentials->known(context.address.argument()).has_value(), aside);
         }
+    }
+
+    void aPasswordThatNobodyWasAskedForIsNotSentInPlainWithoutAWord_data()
+    {
+        QTest::addColumn<QString>("host");
+        QTest::addColumn<QByteArray>("scheme");
+        QTest::addColumn<bool>("inAdvance");
+        QTest::addColumn<int>("warnings");
+        // It leads here as well, and says as little of that as any name in the network.
+        const QString elsewhere = u"0.0.0.0"_s;
+        const QByteArray basic = "Basic realm=\"CUPS\"";
+        QTest::newRow("to another machine") << elsewhere << basic << true << 1;
+        QTest::newRow("to this machine") << u"127.0.0.1"_s << basic << true << 0;
+        QTest::newRow("the user was asked") << elsewhere << basic << false << 0;
+        QTest::newRow("a digest of it")
+            << elsewhere << QByteArray("Digest realm=\"CUPS\", nonce=\"12345\"") << true << 0;
+    }
+    void aPasswordThatNobodyWasAskedForIsNotSentInPlainWithoutAWord()
+    {
+        QFETCH(QString, host);
+        QFETCH(QByteArray, scheme);
+        QFETCH(bool, inAdvance);
+        const CannedServer server([scheme](const CannedRequest &request) {
+            if (request.head.field("Authorization").isEmpty())
+                return httpAnswer(401, {}, "WWW-Authenticate: " + scheme + "\r\n");
+            return httpAnswer(404, {});
+        });
+        ServerContext context = contextFor(server.port());
+        context.address.host = host;
+        context.mayAsk = true;
+        context.credentials = std::make_shared<CredentialStore>();
+        const Credentials lisa{u"lisa"_s, u"secret"_s};
+        if (inAdvance)
+            context.credentials->giveInAdvance(lisa);
+        context.credentials->setQuestioner(
+            [&](const CredentialsQuestion &, const auto &answer) { answer(lisa); });
+        const Warnings warnings;
+        for (int connections = 0; connections < 2; ++connections) {
+            onWorker([&] {
+                ServerConnection connection(context, nullptr);
+                connection.request(aboutQueue());
+            });
+        }
+        const QStringList said = warnings.said().filter(u"without encryption"_s);
+        QTEST(int(said.size()), "warnings");
+        QVERIFY(!said.join(u' ').contains(u"secret"_s));
     }
 
     void nobodyIsAskedForWhatIsAskedAside()

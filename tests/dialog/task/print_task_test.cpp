@@ -223,6 +223,19 @@ private Q_SLOTS:
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("printed\n"));
     }
 
+    // Such a document comes in with "-o raw"; another printer may have been chosen since.
+    void nothingIsMadeOfADocumentThatNobodyKnows()
+    {
+        PrintRequest unknown = request();
+        unknown.documents += {m_filter->path(u"job.pcl"_s), kUnknownFormat, u"job.pcl"_s};
+        open(unknown);
+        m_task->print();
+        QCOMPARE(m_face->problems().size(), 1);
+        QVERIFY2(m_face->problems().first().startsWith(u"job.pcl is of a kind"_s),
+                 qPrintable(m_face->problems().first()));
+        QCOMPARE(m_task->phase(), Phase::Ready);
+    }
+
     void theNameThatIsProposedFitsWhatThePrinterGets()
     {
         const QString ppd = m_filter->path(u"pdf.ppd"_s);
