@@ -125,6 +125,9 @@ private:
     {
         if (m_worker.isCanceled() && !m_worker.isLeftAlone())
             takeBackTheOthers(&outcome);
+        // Of the order as a whole jobs were made.
+        if (m_sent > 0 && outcome.kind == Kind::Refused)
+            outcome.kind = Kind::Failed;
         if (m_sent > 0)
             outcome.text =
                 Texts::tr("%1 Documents that were sent before, each as a job of its own: "

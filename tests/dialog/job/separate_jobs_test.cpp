@@ -157,6 +157,20 @@ private Q_SLOTS:
         QCOMPARE(arrived(), each());
     }
 
+    // A job was made, so the whole is not refused.
+    void whatTheQueueRefusesAfterTheFirstHasFailed()
+    {
+        addQueue(m_cups->capture(kQueue));
+        m_between->answerHttp(HTTP_STATUS_FORBIDDEN, IPP_OP_CREATE_JOB);
+        QCOMPARE(print().kind, Kind::Refused);
+        m_between->clearFaults();
+        m_between->answerHttp(HTTP_STATUS_FORBIDDEN, IPP_OP_CREATE_JOB);
+        m_between->letPass(IPP_OP_CREATE_JOB, 1);
+        const JobOutcome failed = print();
+        QCOMPARE(failed.kind, Kind::Failed);
+        QCOMPARE(failed.sentDocuments, 1);
+    }
+
     // Its server has the document, and nobody has heard so.
     void aDocumentWhoseFateIsUnknownIsLookedUpBeforeTheRestIsSent()
     {
