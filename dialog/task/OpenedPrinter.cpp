@@ -14,6 +14,20 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(lcPrinter, "corvana.dialog.printer", QtWarningMsg)
 
+namespace {
+
+// CUPS 2.4 gives each queue whose PPD has a DefaultColorModel other than these two names the
+// default "monochrome", and does nothing with it. Nobody has asked for that, so it makes no job
+// gray.
+bool makesUpMonochrome(ppd_file_t *ppd)
+{
+    const ppd_attr_t *model = ppdFindAttr(ppd, "DefaultColorModel", nullptr);
+    return ppd->color_device && model && model->value && qstricmp(model->value, "RGB") != 0 &&
+           qstricmp(model->value, "CMYK") != 0;
+}
+
+} // namespace
+
 std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
                                            const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error,
@@ -24,6 +38,8 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
     opened->session = PpdSession::open(fetched.ppd->path, error);
     if (!opened->session)
         return nullptr;
+    if (makesUpMonochrome(opened->session->ppd()))
+        opened->fetched.defaults.removeAll({u"print-color-mode"_s, u"monochrome"_s});
     if (restore)
         restore(*opened->session);
 

@@ -56,6 +56,30 @@ private Q_SLOTS:
         QVERIFY(printer->panelProblem.isEmpty());
     }
 
+    // CUPS gives queues of some PPDs a default that nobody has asked for.
+    void aMadeUpDefaultMakesNoPrinterGray()
+    {
+        struct Row
+        {
+            const char *model;
+            bool isMadeUp;
+        };
+        for (const Row &row : {Row{"RGB", false}, Row{"CMYK", false}, Row{"color", true}}) {
+            FetchedPrinter fetched = printerWithItsFile(
+                printerOf(PpdBuilder()
+                              .option("ColorModel", "Color Model", row.model,
+                                      {{row.model, row.model}, {"grayscale", "Gray"}})
+                              .text()));
+            const QList<JobOption> said{{u"print-color-mode"_s, u"monochrome"_s},
+                                        {u"number-up"_s, u"2"_s}};
+            fetched.defaults = said;
+            QString error;
+            const auto printer = openPrinter(fetched, {}, m_presenter, &error);
+            QVERIFY2(printer, qPrintable(error));
+            QCOMPARE(printer->fetched.defaults, row.isMadeUp ? said.mid(1) : said);
+        }
+    }
+
     void aMissingBundleIsTheProblemOfAPrinterThatWantsIt()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"none of the trusted folders"_s));

@@ -309,13 +309,13 @@ private Q_SLOTS:
         QTest::newRow("the queue alone")
             << grey << QString() << QString() << u"grayscale"_s << grey;
         QTest::newRow("a choice over the queue")
-            << grey << QString() << u"ColorModel=color"_s << u"color"_s << colored;
+            << grey << QString() << u"ColorModel=RGB"_s << u"RGB"_s << colored;
         QTest::newRow("an attribute over the queue")
-            << grey << QString() << colored << u"color"_s << colored;
+            << grey << QString() << colored << u"RGB"_s << colored;
         QTest::newRow("lpoptions over the queue")
-            << grey << u"ColorModel=color"_s << QString() << u"color"_s << colored;
+            << grey << u"ColorModel=RGB"_s << QString() << u"RGB"_s << colored;
         QTest::newRow("the command line over lpoptions")
-            << grey << u"ColorModel=color"_s << grey << u"grayscale"_s << grey;
+            << grey << u"ColorModel=RGB"_s << grey << u"grayscale"_s << grey;
         QTest::newRow("lpoptions alone")
             << QString() << grey << QString() << u"grayscale"_s << QString();
     }
@@ -329,7 +329,7 @@ private Q_SLOTS:
         m_fetched.ppd = ppdOfFile(writeFile(
             m_home->filePath(u"d.ppd"_s),
             passingPdfOn()
-                .option("ColorModel", "Color", "color", {{"color", "Color"}, {"grayscale", "Gray"}})
+                .option("ColorModel", "Color", "RGB", {{"RGB", "Color"}, {"grayscale", "Gray"}})
                 .text()));
         say(By::Queue, byQueue);
         say(By::UserQueues, byUser);
