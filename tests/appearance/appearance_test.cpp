@@ -157,10 +157,10 @@ private Q_SLOTS:
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
         QString options = QStringLiteral(
             "number-up=4 print-scaling=auto-fit number-up-layout=tbrl page-border=double-thick "
-            "job-hold-until=12:30 job-sheets=standard,classified ppi=300");
+            "job-hold-until=12:30 job-sheets=standard,classified page-top=36");
         if (!opened) // what a disclosure says of these has no end
             options +=
-                QStringLiteral(" position=bottom-right job-billing=%1").arg(QString(200, u'm'));
+                QStringLiteral(" outputorder=reverse job-billing=%1").arg(QString(200, u'm'));
         PrintWindow dialog(request({options}));
         const int width = dialog.width();
         dialog.show();
