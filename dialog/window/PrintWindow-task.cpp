@@ -96,6 +96,7 @@ void PrintWindow::printerOpened()
     // Later: a panel is in the midst of its work when it says so.
     connect(panels, &PanelHost::viewResized, this, &PrintWindow::followPage, Qt::QueuedConnection);
     m_pages->open();
+    m_footer->setSaves(m_task->savesAsPdf());
     updateSilencedAlerts();
     if (m_painted)
         m_task->bringUp();
@@ -106,7 +107,6 @@ void PrintWindow::showPrinter()
     const Printer &printer = m_task->printer();
     const PrinterProblem &problem = m_task->problem();
     m_footer->setCanPrint(m_task->canPrint());
-    m_footer->setSaves(m_task->savesAsPdf());
     m_header->showDestination(printer.origin == PrinterOrigin::File, m_task->printsToFile());
     if (problem.text.isEmpty())
         m_header->status()->setPrinter(printer);

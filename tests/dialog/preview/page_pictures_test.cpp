@@ -68,11 +68,9 @@ private Q_SLOTS:
     {
         m_numbered = writtenFile(m_folder.path(), u"numbered.pdf"_s,
                                  numberedPdf("page", {kA4, kA4, kLetter}));
-        writtenFile(m_folder.path(), u"turned.pdf"_s,
-                    numberedPdf("page", 1).replace("/Type /Page /", "/Type /Page /Rotate 90 /"));
+        writtenFile(m_folder.path(), u"turned.pdf"_s, numberedPdf("page", {NumberedPage{kA4, 90}}));
         writtenFile(m_folder.path(), u"cropped.pdf"_s,
-                    numberedPdf("page", 1).replace("/Type /Page /",
-                                                   "/Type /Page /CropBox [50 300 450 600] /"));
+                    numberedPdf("page", {NumberedPage{kA4, 0, QRectF(50, 300, 400, 300)}}));
         writtenFile(m_folder.path(), u"japanese.pdf"_s, japanesePdf());
         m_many = writtenFile(m_folder.path(), u"many.pdf"_s, numberedPdf("page", kManyPages));
     }
