@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
 #include <QTabBar>
