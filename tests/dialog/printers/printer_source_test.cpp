@@ -1,85 +1,18 @@
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/printers/LastPrinter.h"
-#include "dialog/printers/PrinterSource.h"
-#include "tests/support/PpdBuilder.h"
-#include "tests/support/cups/FaultyServer.h"
-#include "tests/support/cups/PrivateCups.h"
+#include "tests/dialog/printers/PrinterSourceScene.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
-
-namespace {
-
-constexpr int kLong = 60000; // far more than the time between two looks at the list
-const QString kQueue = u"office"_s;
-
-/// What a source tells, in its order.
-class Told : public QObject
-{
-public:
-    explicit Told(PrinterSource &source)
-    {
-        connect(&source, &PrinterSource::ready, this, [this](const FetchedPrinter &printer) {
-            said += u"ready"_s;
-            last = printer;
-        });
-        connect(&source, &PrinterSource::checked, this, [this] { said += u"checked"_s; });
-        connect(&source, &PrinterSource::failed, this, [this](const QString &why) {
-            said += u"failed"_s;
-            problem = why;
-        });
-    }
-
-    QStringList said;
-    FetchedPrinter last;
-    QString problem;
-};
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 /// Where printers come from, with a real server behind.
-class PrinterSourceTest : public QObject
+class PrinterSourceTest : public PrinterSourceScene
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-        m_cups = std::make_unique<PrivateCups>();
-        m_cups->start();
-        m_cups->addQueue(kQueue, ppdOf(5));
-    }
-    void cleanupTestCase() { m_cups.reset(); }
-
-    void init()
-    {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "HOME"})
-            qputenv(name, QFile::encodeName(m_home->path()));
-        qunsetenv("LPDEST");
-        m_gate = std::make_unique<FaultyServer>(m_cups->port());
-        m_server = {};
-        m_server.address = {u"127.0.0.1"_s, m_gate->port(), HTTP_ENCRYPTION_IF_REQUESTED};
-        m_server.patience = {20s, 20s};
-    }
-    void cleanup() { m_gate.reset(); }
-
     void aUserWithoutHistoryBeginsWithThePrinterOfFiles()
     {
         PrinterSource source(PrinterWish(), m_server);
@@ -272,90 +205,6 @@ private Q_SLOTS:
         QTRY_COMPARE(told.said, (QStringList{u"failed"_s, u"ready"_s}));
     }
 
-    void aPpdThatHasChangedIsTakenAnew()
-    {
-        PrinterWish request;
-        request.name = kQueue;
-        dateBack();
-        useOnce(request);
-        PrinterSource source(request, m_server);
-        Told told(source);
-        source.start();
-        source.open(source.first());
-        QTRY_VERIFY(told.said.contains(u"checked"_s));
-        const QByteArray before = contentOf(told.last.ppd->path);
-        QCOMPARE(told.said.count(u"ready"_s), 1);
-
-        m_cups->setPpd(kQueue, ppdOf(6));
-        QTRY_COMPARE_WITH_TIMEOUT(told.said.count(u"ready"_s), 2, kLong);
-        QVERIFY(contentOf(told.last.ppd->path) != before);
-        m_cups->setPpd(kQueue, ppdOf(5));
-    }
-
-    void aPpdIsKnownByWhatItSaysWhateverItsDate_data()
-    {
-        QTest::addColumn<int>("later");
-        QTest::newRow("restored from a backup") << -86400;
-        QTest::newRow("twice within a second") << 0;
-    }
-    void aPpdIsKnownByWhatItSaysWhateverItsDate()
-    {
-        QFETCH(int, later);
-        PrinterWish request;
-        request.name = kQueue;
-        const QDateTime now = QDateTime::currentDateTime();
-        dateTo(now);
-        useOnce(request);
-        m_cups->setPpd(kQueue, ppdOf(6));
-        dateTo(now.addSecs(later));
-        PrinterSource source(request, m_server);
-        Told told(source);
-        source.open(source.first());
-        const QByteArray before = contentOf(told.last.ppd->path);
-        QTRY_COMPARE(told.said, (QStringList{u"ready"_s, u"ready"_s}));
-        QVERIFY(contentOf(told.last.ppd->path) != before);
-        m_cups->setPpd(kQueue, ppdOf(5));
-    }
-
-    // The window stands before anybody is asked, so this time is waited for by its user.
-    void whatIsKeptIsReadOnceBeforeItIsThere()
-    {
-        PrinterWish request;
-        request.name = kQueue;
-        useOnce(request);
-        m_gate->setManner(FaultyServer::Manner::Refuses);
-        PrinterSource source(request, m_server);
-        Told told(source);
-        const Printer first = source.first();
-        QVERIFY(QDir(m_home->path()).removeRecursively());
-        source.open(first);
-        QCOMPARE(told.said, QStringList{u"ready"_s});
-    }
-
-    // Written anew with a later date, it is the same; what is stored is not read to find that out.
-    void aPpdThatWasInstalledAgainIsKnownByItsHash()
-    {
-        PrinterWish request;
-        request.name = kQueue;
-        dateBack();
-        useOnce(request);
-        PrinterSource source(request, m_server);
-        Told told(source);
-        source.start();
-        source.open(source.first());
-        QTRY_VERIFY(told.said.contains(u"checked"_s));
-        QFile stored(told.last.ppd->path);
-        QVERIFY(stored.open(QIODevice::WriteOnly));
-        stored.close();
-        // The server counts seconds.
-        const qint64 now = QDateTime::currentSecsSinceEpoch();
-        QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() > now);
-        m_cups->setPpd(kQueue, ppdOf(5));
-        // It is fetched, and stored once more.
-        QTRY_VERIFY_WITH_TIMEOUT(contentOf(stored.fileName()).startsWith("*PPD-Adobe"), kLong);
-        QCOMPARE(told.said.count(u"ready"_s), 1);
-    }
-
     void aQueueIsTheSameInAnySpelling_data()
     {
         QTest::addColumn<QString>("wanted");
@@ -473,45 +322,6 @@ private Q_SLOTS:
         rememberPrinter(u"other:631"_s, u"hall"_s);
         QCOMPARE(lastPrinter(u"other:631"_s), u"hall"_s);
     }
-
-private:
-    /// The path of a PPD of that model.
-    QString ppdOf(int model)
-    {
-        const QString path = m_ppds.filePath(QString::number(model) + u".ppd"_s);
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(samplePpd(model));
-        return path;
-    }
-
-    /// The PPD of the queue is from long ago: dates are counted in seconds.
-    void dateBack() { dateTo(QDateTime::currentDateTime().addSecs(-3600)); }
-    void dateTo(const QDateTime &date)
-    {
-        for (QDirIterator it(m_cups->folder(), {kQueue + u".ppd"_s}, QDir::Files,
-                             QDirIterator::Subdirectories);
-             it.hasNext();) {
-            QFile ppd(it.next());
-            QVERIFY(ppd.open(QIODevice::ReadWrite));
-            QVERIFY(ppd.setFileTime(date, QFileDevice::FileModificationTime));
-        }
-    }
-
-    /// Puts the wanted printer into the cache.
-    void useOnce(const PrinterWish &request)
-    {
-        PrinterSource source(request, m_server);
-        Told told(source);
-        source.open(source.first());
-        QTRY_COMPARE(told.said.value(0), u"ready"_s);
-    }
-
-    QTemporaryDir m_ppds;
-    std::unique_ptr<PrivateCups> m_cups;
-    std::unique_ptr<FaultyServer> m_gate;
-    std::unique_ptr<QTemporaryDir> m_home;
-    ServerContext m_server;
 };
 
 QTEST_GUILESS_MAIN(PrinterSourceTest)

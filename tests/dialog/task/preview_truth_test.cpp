@@ -3,7 +3,7 @@
 #include <random>
 
 #include <QFile>
-#include <QPainter>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -13,6 +13,7 @@
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/SidePictures.h"
 #include "tests/dialog/task/TaskScene.h"
+#include "tests/dialog/task/TruthSamples.h"
 #include "tests/support/NumberedPdf.h"
 #include "tests/support/PrintedSides.h"
 #include "tests/support/Rows.h"
@@ -62,86 +63,6 @@ QString text(const PictureDifference &difference)
 // Where pictures go that are not alike, for whoever wants to see them.
 constexpr const char *kKeepVariable = "CORVANA_TRUTH_PICTURES";
 
-struct NamedLayout
-{
-    QString name;
-    QList<JobOption> options;
-};
-
-NamedLayout operator+(const NamedLayout &one, const NamedLayout &other)
-{
-    return {one.name + u", "_s + other.name, one.options + other.options};
-}
-
-NamedLayout layout(const char *name, const char *value)
-{
-    const JobOption option{QString::fromLatin1(name), QString::fromLatin1(value)};
-    return {option.name + u'=' + option.value, {option}};
-}
-
-// Each control. Values of one control stand in a list of their own: a pair has two controls.
-QList<QList<NamedLayout>> controls()
-{
-    const auto values = [](const char *name, const QList<const char *> &texts) {
-        QList<NamedLayout> layouts;
-        for (const char *value : texts)
-            layouts += layout(name, value);
-        return layouts;
-    };
-    QList<NamedLayout> orders;
-    for (const char *order : {"lrbt", "rltb", "rlbt", "tblr", "tbrl", "btlr", "btrl"})
-        orders += layout("number-up", "6") + layout("number-up-layout", order);
-    return {
-        values("number-up", {"2", "4", "6", "9"}) + orders,
-        values("page-border", {"single", "double-thick"}),
-        values("orientation-requested", {"3", "4", "5", "6"}),
-        values("print-scaling", {"auto", "auto-fit", "fit", "fill", "none"}),
-        values("mirror", {"true"}),
-        values("page-ranges", {"2-3", "1,3-"}),
-        values("page-set", {"odd", "even"}),
-        values("outputorder", {"reverse"}),
-        values("Duplex", {"DuplexNoTumble", "DuplexTumble"}),
-        values("PageSize", {"Letter", "A5", "Executive"}),
-    };
-}
-
-enum class Kind {
-    A4,
-    Letter,
-    Landscape,
-    Mixed,
-    Rotated,
-    Cropped,
-    Portrait, // a picture
-    Wide,     // a picture
-    Text,
-    PostScript,
-    Several,
-    Long,
-    VeryLong,
-};
-
-struct NamedKind
-{
-    const char *name;
-    Kind kind;
-};
-const NamedKind kKinds[] = {
-    {"A4", Kind::A4},
-    {"Letter", Kind::Letter},
-    {"landscape", Kind::Landscape},
-    {"mixed", Kind::Mixed},
-    {"rotated", Kind::Rotated},
-    {"cropped", Kind::Cropped},
-    {"picture", Kind::Portrait},
-    {"wide picture", Kind::Wide},
-    {"text", Kind::Text},
-    {"PostScript", Kind::PostScript},
-    {"several", Kind::Several},
-    {"60 pages", Kind::Long},
-    {"500 pages", Kind::VeryLong},
-};
-
 const JobOption kMirror{u"mirror"_s, u"true"_s};
 
 // What the chain turns, of documents whose pages are all alike.
@@ -183,30 +104,6 @@ const Turned kTurned[] = {
      false},
 };
 
-QByteArray textOfLines(int lines)
-{
-    QByteArray text;
-    for (int line = 1; line <= lines; ++line)
-        text += "line " + QByteArray::number(line) + " of a text that is printed\n";
-    return text;
-}
-
-QByteArray postScriptOfPages(int pages)
-{
-    QByteArray data =
-        "%!PS-Adobe-3.0\n%%BoundingBox: 0 0 595 842\n%%Pages: " + QByteArray::number(pages) +
-        "\n%%EndComments\n";
-    for (int page = 1; page <= pages; ++page) {
-        const QByteArray number = QByteArray::number(page);
-        data += "%%Page: " + number + ' ' + number +
-                "\n2 setlinewidth 50 50 495 742 rectstroke 1 0 0 setrgbcolor 58 744 60 40 rectfill "
-                "0 0 1 setrgbcolor 497 764 40 20 rectfill 0 setgray /Helvetica 48 selectfont 100 "
-                "421 moveto (a " +
-                number + ") show showpage\n";
-    }
-    return data + "%%Trailer\n%%EOF\n";
-}
-
 } // namespace
 
 class PreviewTruthTest : public QObject
@@ -222,71 +119,6 @@ private:
     QList<Trial> m_trials;
     std::unique_ptr<TaskScene> m_scene;
     std::unique_ptr<Variable> m_filter; // the real one, in place of the scene's
-
-    Document pdf(const QString &name, const QByteArray &content)
-    {
-        return {writeFile(m_scene->filter.path(name + u".pdf"_s), content), u"application/pdf"_s,
-                name};
-    }
-
-    Document picture(QSize size)
-    {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(Qt::white);
-        // Nothing thin: that would be lost, or not, when the picture is made smaller.
-        QPainter painter(&image);
-        painter.fillRect(image.rect().adjusted(0, size.height() - 30, 0, 0), Qt::darkGray);
-        painter.fillRect(20, 20, 120, 80, Qt::red);
-        painter.fillRect(size.width() - 100, 20, 80, 40, Qt::blue);
-        painter.fillRect(size.width() / 3, size.height() / 2, 100, 60, Qt::black);
-        painter.end();
-        const QString path = m_scene->filter.path(u"picture.png"_s);
-        image.save(path);
-        return {path, u"image/png"_s, u"picture.png"_s};
-    }
-
-    QList<Document> documents(Kind kind)
-    {
-        const QSizeF wide = kA4.transposed();
-        switch (kind) {
-        case Kind::A4:
-            return {pdf(u"a"_s, numberedPdf("a", 3))};
-        case Kind::Letter:
-            return {pdf(u"a"_s, numberedPdf("a", QList<QSizeF>{kLetter, kLetter, kLetter}))};
-        case Kind::Landscape:
-            return {pdf(u"a"_s, numberedPdf("a", QList<QSizeF>{wide, wide, wide}))};
-        case Kind::Mixed:
-            return {pdf(u"a"_s, numberedPdf("a", QList<QSizeF>{kA4, kLetter, wide, kA5, kA3}))};
-        case Kind::Rotated:
-            return {
-                pdf(u"a"_s, numberedPdf("a", QList<NumberedPage>{
-                                                 {kA4, 90}, {kA4, 270}, {kA4, 180}, {wide, 90}}))};
-        case Kind::Cropped:
-            return {
-                pdf(u"a"_s, numberedPdf("a", QList<NumberedPage>{{kA4, 0, {40, 100, 500, 700}},
-                                                                 {kA3, 0, {30, 500, 595, 650}},
-                                                                 {kA4, 90, {40, 40, 400, 700}}}))};
-        case Kind::Portrait:
-            return {picture({600, 800})};
-        case Kind::Wide:
-            return {picture({1000, 600})};
-        case Kind::Text:
-            return {{writeFile(m_scene->filter.path(u"a.txt"_s), textOfLines(150)), u"text/plain"_s,
-                     u"a.txt"_s}};
-        case Kind::PostScript:
-            return {{writeFile(m_scene->filter.path(u"a.ps"_s), postScriptOfPages(3)),
-                     u"application/postscript"_s, u"a.ps"_s}};
-        case Kind::Several:
-            return {pdf(u"a"_s, numberedPdf("a", 3)),
-                    pdf(u"b"_s, numberedPdf("b", QList<QSizeF>{wide, wide})),
-                    pdf(u"c"_s, numberedPdf("c", QList<QSizeF>{kLetter, kLetter, kLetter}))};
-        case Kind::Long:
-            return {pdf(u"a"_s, numberedPdf("a", 60))};
-        case Kind::VeryLong:
-            return {pdf(u"a"_s, numberedPdf("a", 500))};
-        }
-        return {};
-    }
 
     // Each control with each kind of document, or with those that chance has chosen; then pairs.
     void chooseTrials()
@@ -343,7 +175,7 @@ private:
     std::optional<Result> printed(const Trial &trial)
     {
         PrintRequest request = m_scene->request({m_scene->printer(u"laser"_s, samplePpd(5))});
-        request.documents = documents(trial.kind);
+        request.documents = documentsOf(trial.kind, QFileInfo(m_scene->filter.output()).path());
         request.options = trial.layout.options;
         PrintTask &task = m_scene->open(request);
         QSignalSpy counted(&task, &PrintTask::sheetsCounted);

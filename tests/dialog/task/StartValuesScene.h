@@ -1,0 +1,93 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QDir>
+#include <QObject>
+#include <QTemporaryDir>
+
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PrintRequest.h"
+#include "dialog/task/StartValues.h"
+#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+
+namespace corvana::test {
+
+/// A printer that is opened, and a job whose values start in the places that a test says. The base
+/// of tests of both.
+class StartValuesScene : public QObject
+{
+    Q_OBJECT
+
+protected:
+    using By = JobSettings::By;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::vector<std::unique_ptr<Variable>> m_variables;
+    ScriptedAlertPresenter m_presenter;
+    FetchedPrinter m_fetched;
+    PrintRequest m_request;
+    JobSettings m_settings;
+    std::unique_ptr<OpenedPrinter> m_printer;
+
+    void setUserOptions(const QString &options)
+    {
+        QDir(m_home->path()).mkpath(QStringLiteral(".cups"));
+        writeFile(m_home->filePath(QStringLiteral(".cups/lpoptions")),
+                  "Dest office " + options.toUtf8() + '\n');
+    }
+    // Says an option in the place that a layer reads.
+    void say(By by, const QString &option)
+    {
+        switch (by) {
+        case By::Queue:
+            m_fetched.defaults = parseOptions({option});
+            break;
+        case By::UserQueues:
+            setUserOptions(option);
+            break;
+        default:
+            m_request.options = parseOptions({option});
+        }
+    }
+    StartOutcome start()
+    {
+        QString error;
+        m_printer = openPrinter(m_fetched, {}, m_presenter, &error);
+        return applyStartValues(m_request, *m_printer, m_settings);
+    }
+    QString attribute(const QString &name)
+    {
+        for (const JobOption &option : m_settings.attributes()) {
+            if (option.name == name)
+                return option.value;
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        m_variables.push_back(std::make_unique<Variable>("HOME", m_home->path().toUtf8()));
+        m_variables.push_back(std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent"));
+        m_fetched = {};
+        m_fetched.printer.name = QStringLiteral("office");
+        m_fetched.printer.origin = PrinterOrigin::Queue;
+        m_fetched.ppd =
+            ppdOfFile(writeFile(m_home->filePath(QStringLiteral("a.ppd")), smallPrinter().text()));
+        m_request = {};
+        m_settings = {};
+    }
+    void cleanup()
+    {
+        m_printer.reset();
+        m_variables.clear();
+        m_home.reset();
+    }
+};
+
+} // namespace corvana::test
