@@ -12,6 +12,7 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
 #include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
@@ -141,6 +142,14 @@ public:
     bool passesFilesOn() const;
     /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
     bool savesAsPdf() const;
+
+    // Its pages (PrintTask-pages.cpp)
+
+    /// What pages there are to be chosen. More is known of them when sheetsCounted() says so.
+    ChoosablePages choosablePages() const;
+    /// The user chose pages, as ChoosablePages::valueFor() writes them. Why they are not taken is
+    /// said.
+    void choosePages(const QString &ranges);
 
     // The colours of its pages (PrintTask-colors.cpp)
 
@@ -342,6 +351,7 @@ private:
     bool isPreparing() const { return m_phase == Phase::Printing && !m_run.job; }
     void stopPreparing();
     void endPreparing();
+    ChoosableDocument choosable(const Document &document, const DocumentSheets *counted) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     void jobFinished(const JobOutcome &outcome);
 
