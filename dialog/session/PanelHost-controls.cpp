@@ -6,7 +6,7 @@ namespace corvana {
 
 QList<PanelControl> PanelHost::controls(int panel)
 {
-    if (m_controls.isEmpty() && m_broughtUp && !panelIsBusy()) {
+    if (m_controls.isEmpty() && m_broughtUp && !isBusy()) {
         for (const auto &asked : std::as_const(m_panels)) {
             const Call call(*this, *asked);
             m_controls += asked->controls();
@@ -30,7 +30,7 @@ int PanelHost::panelOf(const QString &keyword)
 void PanelHost::disclose(const QString &keyword)
 {
     const int panel = panelOf(keyword);
-    if (panel < 0 || panelIsBusy())
+    if (panel < 0 || isBusy())
         return;
     const Call call(*this, *m_panels.at(panel));
     m_panels.at(panel)->disclose(keyword);

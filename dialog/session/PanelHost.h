@@ -82,6 +82,12 @@ public:
 
     /// Restores all panels, hidden or not, in their order.
     void restoreAll();
+    /// Brings the session and all panels to a state that they had, exactly. What a panel proposes
+    /// on the way is nobody's act and is dropped, and no alert is shown: its user has answered it
+    /// when the state came about.
+    void restoreTo(const SessionSnapshot &snapshot);
+    /// Whether a panel is in the midst of its work, or an alert of one is open.
+    bool isBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
 
     /// The panels' summaries, one after the other.
     QList<SummaryLine> summary();
@@ -99,7 +105,8 @@ Q_SIGNALS:
     void settled();
     /// A panel's view asks for another size. Receivers must not call a panel.
     void viewResized();
-    /// shownEntries() are others, at each step of a slider. Receivers must not call a panel.
+    /// shownEntries() are others, at each step of a slider and when a panel has saved. Receivers
+    /// must not call a panel.
     void shownValuesChanged();
 
 private:
@@ -110,22 +117,25 @@ private:
         QString choice;
         PDEPanel *source; // does not need to be told; null for the dialog's own changes
     };
-
-    /// What the panels or the task have to be told at the next delivery, beside changes.
+    // What has happened beside changes of choices.
     struct News
     {
-        bool refused = false;
-        bool paperChanged = false;
-        bool scheduled = false; ///< the delivery itself
+        bool refusal = false;
+        bool paper = false;
+        bool entries = false;
+        bool scheduled = false; // all of it will be delivered
     };
 
+    void followSession();
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
     void announcePaper();
     void markCompanions(const QString &keyword, const QString &choice);
     void scheduleDelivery();
-    bool hasNews() const { return !m_pending.isEmpty() || m_news.refused || m_news.paperChanged; }
-    bool panelIsBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
+    bool hasNews() const
+    {
+        return !m_pending.isEmpty() || m_news.refusal || m_news.paper || m_news.entries;
+    }
     bool leaveVisible();
     void saveVisible();
     void restoreHidden();
@@ -146,6 +156,7 @@ private:
     QList<QList<PanelControl>> m_controls; // by panel; empty until they were asked for
     News m_news;
     bool m_broughtUp = false;
+    bool m_isRestoring = false; // to a state that was there before
 };
 
 } // namespace corvana
