@@ -6,6 +6,7 @@
 
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
@@ -281,7 +282,9 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     m_settings.setAttribute(name, *taken);
     const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
     const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
-    if (isBooklet && folding)
+    if (isBooklet && canTurnByHand(*m_opened))
+        m_settings.setAttribute(kSidesByHandAttribute, kByHandShortEdge);
+    else if (isBooklet && folding)
         propose(folding->keyword, folding->choice);
     showSettings();
     return {};
