@@ -33,5 +33,12 @@ inline constexpr QLatin1StringView kHandlingAttribute{"multiple-document-handlin
 inline constexpr QLatin1StringView kCollated{"separate-documents-collated-copies"};
 inline constexpr QLatin1StringView kUncollated{"separate-documents-uncollated-copies"};
 inline constexpr QLatin1StringView kCollateOption{"Collate"};
+/// Two sides, one after the other, on a printer that turns no sheets over; and how the sheets lie
+/// when somebody puts them back. Both are ours: no server gets them.
+inline constexpr QLatin1StringView kSidesByHandAttribute{"sides-by-hand"};
+inline constexpr QLatin1StringView kByHandLongEdge{"long-edge"};
+inline constexpr QLatin1StringView kByHandShortEdge{"short-edge"};
+inline constexpr QLatin1StringView kPutBackAttribute{"put-back"};
+inline constexpr QLatin1StringView kPutBackFaceUp{"face-up"};
 
 } // namespace corvana

@@ -14,6 +14,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/OptionTexts.h"
 #include "dialog/session/PaperSize.h"
+#include "dialog/session/TwoSided.h"
 
 namespace corvana {
 
@@ -263,7 +264,12 @@ void RequestedOptions::addSides(const JobOption &option)
         choices += asked;
         return;
     }
-    refuseValue(option, allowed.join(u", "_s));
+    const QString text = allowed.join(u", "_s);
+    if (turnsSheetsOver(ppd))
+        return refuseValue(option, text);
+    refuse(option, Texts::tr("this printer prints on one side only. Allowed: %1. Two sides by "
+                             "hand: %2=%3, %2=%4.")
+                       .arg(text, kSidesByHandAttribute, kByHandLongEdge, kByHandShortEdge));
 }
 
 void RequestedOptions::addCopies(const JobOption &option)
@@ -345,7 +351,12 @@ bool RequestedOptions::addAttribute(const JobOption &option)
     const JobAttribute *attribute = jobAttribute(option.name);
     if (!attribute)
         return false;
-    if (const std::optional<QString> value = attribute->allowed.inOneSpelling(option.value))
+    const std::optional<QString> value = attribute->allowed.inOneSpelling(option.value);
+    if (value && isTwoSidedByHand({{option.name, *value}}) && turnsSheetsOver(m_session.ppd()))
+        refuse(option, Texts::tr("this printer turns sheets over itself. Allowed: %1=no; for two "
+                                 "sides use %2.")
+                           .arg(option.name, kSidesOption));
+    else if (value)
         attributes += JobOption{option.name, *value};
     else
         refuseValue(option, attribute->allowed.text());

@@ -72,7 +72,7 @@ void PrintTask::retry()
 bool PrintTask::isPrinting() const
 {
     return m_phase == Phase::Asking || m_phase == Phase::Printing || m_phase == Phase::Canceling ||
-           m_phase == Phase::Leaving;
+           m_phase == Phase::Turning || m_phase == Phase::Leaving;
 }
 
 // A printer is not taken away while it prints or one of its panels is at work.

@@ -297,7 +297,9 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     noteTouched(name);
     const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
     const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
-    if (isBooklet && folding)
+    if (isBooklet && canTurnByHand(*m_opened))
+        m_settings.setAttribute(kSidesByHandAttribute, kByHandShortEdge);
+    else if (isBooklet && folding)
         propose(folding->keyword, folding->choice);
     showSettings();
     return {};

@@ -14,6 +14,7 @@
 #include "dialog/session/JobTicket.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
@@ -59,6 +60,7 @@ public:
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
         Printing,  ///< texts are looked through, sheets are counted, then a job runs
+        Turning,   ///< one half of the sides is printed; somebody puts the sheets back
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -211,7 +213,17 @@ public:
     void leave();
     /// Ends the task from outside, whatever it is doing.
     void interrupt(OnInterrupt job);
-    bool isJobHandedOver() const { return m_run.job && m_run.job->isHandedOver(); }
+    /// Whether the job goes on without this program. One whose sheets have to be put back does not.
+    bool isJobHandedOver() const
+    {
+        return m_run.job && m_run.job->isHandedOver() && !isFirstPass();
+    }
+    /// Whether one half of the sides is printed by now, or is being printed, and the other half is
+    /// not.
+    bool isBetweenPasses() const
+    {
+        return m_phase == Phase::Turning || (m_run.job && isFirstPass());
+    }
     /// Of the job that ended last; Failed without a text before that.
     const JobOutcome &outcome() const { return m_run.outcome; }
     /// Whether the job waits in its queue for instructions to be followed.
@@ -282,6 +294,7 @@ private:
         bool held = false;            // the job waits until its instructions have been followed
         bool textsAreSettled = false; // nothing has to be asked about them any more
         Awaits awaits = Awaits::Nothing;
+        std::optional<HandRun> hand{}; // of a job that is printed on both sides by hand
     };
     struct Output
     {
@@ -386,6 +399,15 @@ private:
     void awaitTexts();
     void settleTexts();
     void startJob(const JobTicket &ticket);
+    void followJob(std::unique_ptr<Job> job);
+
+    void startByHand(const JobTicket &ticket);
+    void startPass();
+    bool isFirstPass() const;
+    std::optional<JobOutcome> afterPass(const JobOutcome &outcome);
+    QString textOfHalf(const QString &other) const;
+    void askToTurn();
+    void endBetweenPasses(Phase next);
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;

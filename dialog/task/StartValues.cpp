@@ -12,6 +12,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -257,11 +258,14 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
 // say how themselves.
 QList<JobOption> foldingOf(const QList<JobOption> &options, const OpenedPrinter &printer)
 {
-    const bool isSaid = isNamed(options, u"sides"_s) || isNamed(options, kDuplexOption);
-    const std::optional<OptionChoice> folding = choiceForBooklet(printer);
-    if (isSaid || !folding || pageChoiceOf(options).booklet == PageChoice::Booklet::No)
+    const bool isSaid = isNamed(options, u"sides"_s) || isNamed(options, kDuplexOption) ||
+                        isNamed(options, kSidesByHandAttribute);
+    if (isSaid || pageChoiceOf(options).booklet == PageChoice::Booklet::No)
         return {};
-    return {{folding->keyword, folding->choice}};
+    if (canTurnByHand(printer))
+        return {{kSidesByHandAttribute, kByHandShortEdge}};
+    const std::optional<OptionChoice> folding = choiceForBooklet(printer);
+    return folding ? QList{JobOption{folding->keyword, folding->choice}} : QList<JobOption>();
 }
 
 } // namespace
