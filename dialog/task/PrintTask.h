@@ -142,6 +142,14 @@ public:
     /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
     bool savesAsPdf() const;
 
+    // What an administrator has decided (PrintTask-policy.cpp)
+
+    /// Who keeps an option, an attribute of the job or the number of copies ("copies") at what it
+    /// is, in a sentence for the place where it is shown; null where nobody does.
+    QString lockedBy(const QString &name) const;
+    /// Why nothing of the printer that is open goes into a file; empty where it may.
+    QString whyNoFile() const;
+
     // The colours of its pages (PrintTask-colors.cpp)
 
     /// How colours come out, as far as a screen can show it: with what the panels show now, while a
@@ -315,6 +323,13 @@ private:
     void settled();
     void sayRefusal(const Refusal &refusal);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
+
+    void lock(OpenedPrinter &opened);
+    QStringList keepLocks();
+    QStringList lockedTexts(const QStringList &keywords) const;
+    QStringList lockedCopies() const;
+    QStringList problemsOfLocks() const;
+    void sayLocked(const QStringList &keywords);
 
     void settingsAffectColors();
     void showColors();
