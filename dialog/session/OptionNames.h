@@ -24,6 +24,8 @@ inline constexpr QLatin1StringView kPageRangesAttribute{"page-ranges"};
 /// What makes a job wait in its queue until somebody releases it.
 inline constexpr QLatin1StringView kJobHoldUntilAttribute{"job-hold-until"};
 inline constexpr QLatin1StringView kHeldIndefinitely{"indefinite"};
+/// The number of copies, which is no option of any PPD.
+inline constexpr QLatin1StringView kCopiesAttribute{"copies"};
 /// An orientation as lp names it, which is on or off.
 inline constexpr QLatin1StringView kLandscapeOption{"landscape"};
 /// Whether several copies of a document come out one after the other, or each page several times:

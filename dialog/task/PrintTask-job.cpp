@@ -106,6 +106,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     using Place = TaskRefusal::Place;
     if (!m_face.finishEditing())
         return TaskRefusal{{}, Place::Nowhere, true};
+    if (const QString forbidden = whyNoFile(); printsToFile() && !forbidden.isEmpty())
+        return TaskRefusal{{forbidden}, Place::Output};
     if (printsToFile() && m_output.path.isEmpty() && !m_request.documents.isEmpty())
         return TaskRefusal{{tr("Name the file to print to.")}, Place::Output};
     if (!m_settings.hasValidPageRanges())
@@ -143,13 +145,16 @@ std::optional<TaskRefusal> PrintTask::finish()
     }
     if (m_phase != Phase::Asking)
         return std::nullopt;
+    // Panels have saved what is theirs alone; a job is not printed with other values than were shown.
+    const QStringList locked = lockedTexts(keepLocks());
     // Before the ticket: the panels restore and save on the way.
     m_run.lines = summaryOfSettings();
-    QStringList problems;
+    QStringList problems = locked;
     const QList<Refusal> refusals = m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    problems += problemsOfLocks();
     // What is printed is counted first.
     if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
         m_face.writeSummary(m_run.lines);

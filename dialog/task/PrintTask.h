@@ -157,6 +157,7 @@ public:
     /// The user chose pages, as ChoosablePages::valueFor() writes them. Why they are not taken is
     /// said.
     void choosePages(const QString &ranges);
+
     // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
     // printer is ready.
 
@@ -184,6 +185,14 @@ public:
     void redo();
     /// What is typed or moved from now on is another step: a field was left, a slider let go.
     void endStep();
+
+    // What an administrator has decided (PrintTask-policy.cpp)
+
+    /// Who keeps an option, an attribute of the job or the number of copies ("copies") at what it
+    /// is, in a sentence for the place where it is shown; null where nobody does.
+    QString lockedBy(const QString &name) const;
+    /// Why nothing of the printer that is open goes into a file; empty where it may.
+    QString whyNoFile() const;
 
     // The colours of its pages (PrintTask-colors.cpp)
 
@@ -385,6 +394,13 @@ private:
     void recordSoon();
     void recordStep(const QString &name = {});
     QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
+
+    void lock(OpenedPrinter &opened);
+    QStringList keepLocks();
+    QStringList lockedTexts(const QStringList &keywords) const;
+    QStringList lockedCopies() const;
+    QStringList problemsOfLocks() const;
+    void sayLocked(const QStringList &keywords);
 
     void settingsAffectColors();
     void showColors();
