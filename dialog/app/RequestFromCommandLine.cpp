@@ -7,6 +7,7 @@
 
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/policy/Policy.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/JobNames.h"
@@ -141,6 +142,7 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
     request.instance = line.instance;
+    request.policy = Policy::ofThisComputer();
     request.helpPage = dialogHelpPage();
     return request;
 }

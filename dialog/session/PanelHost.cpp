@@ -1,4 +1,4 @@
-#include "dialog/session/PanelHost.h"
+#include "dialog/session/PanelHost-call.h"
 
 #include <algorithm>
 #include <utility>
@@ -43,24 +43,6 @@ QMap<QString, QString> marksWithValues(const PpdSession &session)
 
 } // namespace
 
-// Marks that a panel is being called, so that nobody calls another one meanwhile.
-class PanelHost::Call
-{
-public:
-    Call(PanelHost &host, PDEPanel &panel) : m_host(host) { m_host.m_callStack.append(&panel); }
-    ~Call()
-    {
-        m_host.m_callStack.removeLast();
-        if (m_host.hasNews())
-            m_host.scheduleDelivery();
-    }
-    Call(const Call &) = delete;
-    Call &operator=(const Call &) = delete;
-
-private:
-    PanelHost &m_host;
-};
-
 // While an alert runs, a panel is in the midst of its work, though it may be the user and not this
 // host who called it: through the action of a control.
 class PanelHost::HeldAlerts : public AlertPresenter
@@ -70,6 +52,8 @@ public:
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override
     {
+        if (m_host.m_isRestoring)
+            return {};
         ++m_host.m_uninterruptible;
         const auto done = qScopeGuard([this] { --m_host.m_uninterruptible; });
         const AlertAnswer answer = m_presenter.runModal(alert, parent);
@@ -89,15 +73,7 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
           session, *m_alerts, [this] { Q_EMIT viewResized(); },
           [this] { Q_EMIT shownValuesChanged(); }))
 {
-    connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
-    connect(&session, &PpdSession::refused, this, [this] {
-        m_refused = true;
-        scheduleDelivery();
-    });
-    connect(&session, &PpdSession::paperChanged, this, [this] {
-        m_paperChanged = true;
-        scheduleDelivery();
-    });
+    followSession();
     m_told = marksWithValues(session);
     if (!plugIn)
         return;
@@ -206,7 +182,7 @@ bool PanelHost::pick(const QString &keyword, const QString &choice)
 QVariantMap PanelHost::shownEntries() const
 {
     const PrintSettings &saved = m_session.printSettings();
-    if (!m_visible || panelIsBusy())
+    if (!m_visible || isBusy())
         return saved.entries();
     PrintSettings shown;
     shown.setEntries(saved.entries());
@@ -273,21 +249,23 @@ void PanelHost::noteChange(const QString &keyword, const QString &choice, PpdSes
 
 void PanelHost::scheduleDelivery()
 {
-    if (std::exchange(m_scheduled, true))
+    if (std::exchange(m_news.scheduled, true))
         return;
     QTimer::singleShot(0, this, [this] {
-        m_scheduled = false;
+        m_news.scheduled = false;
         deliverPending();
     });
 }
 
 void PanelHost::deliverPending()
 {
-    if (panelIsBusy())
+    if (isBusy())
         return; // when it has returned, delivery is scheduled again
     if (!m_broughtUp)
         return; // nobody is told anything before it was shown; bringUp() delivers
-    bool anything = std::exchange(m_refused, false);
+    if (std::exchange(m_news.entries, false))
+        Q_EMIT shownValuesChanged();
+    bool anything = std::exchange(m_news.refusal, false);
     announcePaper();
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
@@ -305,7 +283,7 @@ void PanelHost::deliverPending()
 // Panels judge a new paper at once, and may propose another medium for it or run an alert.
 void PanelHost::announcePaper()
 {
-    if (!std::exchange(m_paperChanged, false))
+    if (!std::exchange(m_news.paper, false))
         return;
     ++m_uninterruptible;
     const auto done = qScopeGuard([this] { --m_uninterruptible; });

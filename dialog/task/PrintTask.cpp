@@ -6,6 +6,7 @@
 
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
@@ -13,6 +14,7 @@
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SavedAsPdf.h"
+#include "dialog/task/SettingsValues.h"
 #include "dialog/task/StartValues.h"
 #include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
@@ -23,7 +25,8 @@ namespace corvana {
 PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     : QObject(parent), m_request(std::move(request)), m_face(face),
       m_credentials(CredentialStore::create()),
-      m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
+      m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots,
+                whyNotOffered(m_request)},
                ServerContext{m_request.server, m_credentials}),
       m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed,
                m_request.outputWasNamed ? QString() : m_request.output}
@@ -82,6 +85,7 @@ void PrintTask::bringUp()
     m_baseline.chosen = m_settings.chosenAttributes();
     if (m_phase != Phase::Opened)
         return; // interrupted, while an alert of a panel was waiting for its answer
+    beginHistory();
     enter(Phase::Ready);
     showSettings();
     for (const Refusal &refusal : refusals)
@@ -129,7 +133,8 @@ void PrintTask::applyStartOptions()
         m_chosen.unset = started.unset;
         m_chosen.ignored = started.ignored;
     }
-    m_chosen.unset += takeMostCopies();
+    m_chosen.unset += lockedCopies() + takeMostCopies();
+    keepLocks();
 }
 
 // What the queue adds to each job by now, whatever was so when it was left.
@@ -179,6 +184,7 @@ QStringList PrintTask::takeMostCopies()
         return {problem};
     case By::Queue:
     case By::UserQueues:
+    case By::Policy:
         m_chosen.ignored += problem;
         break;
     case By::Program:
@@ -238,11 +244,24 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
     Q_EMIT unsaid();
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
-    if (result.outcome != ChangeResult::Outcome::Conflict &&
-        result.outcome != ChangeResult::Outcome::NotMarked)
+    if (result.outcome == ChangeResult::Outcome::Accepted ||
+        result.outcome == ChangeResult::Outcome::UnknownOption ||
+        result.outcome == ChangeResult::Outcome::UnknownChoice)
         return; // taken; or no choice of this printer, which the session has logged
-    sayRefusal({{keyword, choice}, result.conflicting});
+    sayRefusal({{keyword, choice}, result.conflicting, result.locked});
     showSettings(); // the page shows what the user picked
+}
+
+void PrintTask::setCopies(int copies)
+{
+    m_settings.askForCopies(copies, JobSettings::By::User);
+    noteTouched(kCopiesSetting);
+}
+
+void PrintTask::setPageRanges(const QString &ranges)
+{
+    m_settings.setPageRanges(ranges);
+    noteTouched(kPageRangesAttribute);
 }
 
 QList<OfferedAttribute> PrintTask::attributes() const
@@ -262,6 +281,10 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         return tr("There is no job attribute of the name %1.").arg(name);
     const std::optional<QString> taken =
         value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
+    if (const QString by = m_settings.lockedBy(name); !by.isNull()) {
+        showSettings(); // the page shows what the user picked
+        return taken == m_settings.attribute(name) ? QString() : lockedText(by);
+    }
     const PrinterChoices own = choicesOfPrinter(name, taken.value_or(value), *m_opened);
     if (!own.choices.isEmpty()) {
         for (const OptionChoice &choice : own.choices)
@@ -279,9 +302,12 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         return {};
     Q_EMIT unsaid();
     m_settings.setAttribute(name, *taken);
+    noteTouched(name);
     const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
     const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
-    if (isBooklet && folding)
+    if (isBooklet && canTurnByHand(*m_opened))
+        m_settings.setAttribute(kSidesByHandAttribute, kByHandShortEdge);
+    else if (isBooklet && folding)
         propose(folding->keyword, folding->choice);
     showSettings();
     return {};
@@ -295,9 +321,11 @@ void PrintTask::settled()
         m_phase == Phase::Asking ? QList<Refusal>() : m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         sayRefusal(refusal);
+    sayLocked(keepLocks());
     // Showing the settings asks the panels, which save again: only another state is news.
     if (m_opened->session->snapshot() != m_baseline.shown || !refusals.isEmpty())
         showSettings();
+    recordSoon();
 }
 
 void PrintTask::showSettings()

@@ -12,7 +12,9 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/InstanceDraft.h"
 #include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
@@ -20,9 +22,11 @@
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
+#include "dialog/task/SettingsHistory.h"
 #include "dialog/task/SheetPreview.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
+#include "dialog/task/TaskSettings.h"
 
 namespace corvana {
 
@@ -57,6 +61,7 @@ public:
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
         Printing,  ///< texts are looked through, sheets are counted, then a job runs
+        Turning,   ///< one half of the sides is printed; somebody puts the sheets back
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -120,6 +125,9 @@ public:
     /// Brings the panels up and the options of the request in; once for a printer.
     void bringUp();
     JobSettings &settings() { return m_settings; }
+    /// The user chose a number of copies, or pages as JobSettings::setPageRanges() takes them.
+    void setCopies(int copies);
+    void setPageRanges(const QString &ranges);
     /// The user picked a choice on a page of the dialog.
     void propose(const QString &keyword, const QString &choice);
     /// The job attributes that a face offers, with what is in force.
@@ -146,6 +154,50 @@ public:
     bool passesFilesOn() const;
     /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
     bool savesAsPdf() const;
+
+    // Its pages (PrintTask-pages.cpp)
+
+    /// What pages there are to be chosen. More is known of them when sheetsCounted() says so.
+    ChoosablePages choosablePages() const;
+    /// The user chose pages, as ChoosablePages::valueFor() writes them. Why they are not taken is
+    /// said.
+    void choosePages(const QString &ranges);
+
+    // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
+    // printer is ready.
+
+    TaskSettings settingsNow() const;
+    /// Brings the task to a state that it had. Panels are restored, and faces are told. Another
+    /// printer is chosen first; the rest follows when it is open. Whoever calls this for a user
+    /// calls recordStep() then.
+    void restoreSettings(const TaskSettings &settings);
+    /// What "changed" compares with and "back" returns to.
+    using Base = SettingsBase;
+    const Base &base() const { return m_baseline.base; }
+    void setBase(const Base &base);
+    /// The options, attributes and values of the panels' own that differ from base(), by keyword.
+    /// Copies and pages belong to this job alone and are not among them.
+    QStringList changedSettings() const;
+
+    /// Not while a job is made or printed.
+    bool canUndo() const;
+    bool canRedo() const;
+    /// What undo() would take back: "Undo Media Type"; "Undo" where there is nothing.
+    QString undoText() const;
+    QString redoText() const;
+    /// Takes back the last thing that the user did, with all that came of it.
+    void undo();
+    void redo();
+    /// What is typed or moved from now on is another step: a field was left, a slider let go.
+    void endStep();
+
+    // What an administrator has decided (PrintTask-policy.cpp)
+
+    /// Who keeps an option, an attribute of the job or the number of copies ("copies") at what it
+    /// is, in a sentence for the place where it is shown; null where nobody does.
+    QString lockedBy(const QString &name) const;
+    /// Why nothing of the printer that is open goes into a file; empty where it may.
+    QString whyNoFile() const;
 
     // The colours of its pages (PrintTask-colors.cpp)
 
@@ -175,7 +227,17 @@ public:
     void leave();
     /// Ends the task from outside, whatever it is doing.
     void interrupt(OnInterrupt job);
-    bool isJobHandedOver() const { return m_run.job && m_run.job->isHandedOver(); }
+    /// Whether the job goes on without this program. One whose sheets have to be put back does not.
+    bool isJobHandedOver() const
+    {
+        return m_run.job && m_run.job->isHandedOver() && !isFirstPass();
+    }
+    /// Whether one half of the sides is printed by now, or is being printed, and the other half is
+    /// not.
+    bool isBetweenPasses() const
+    {
+        return m_phase == Phase::Turning || (m_run.job && isFirstPass());
+    }
     /// Of the job that ended last; Failed without a text before that.
     const JobOutcome &outcome() const { return m_run.outcome; }
     /// Whether the job waits in its queue for instructions to be followed.
@@ -190,6 +252,8 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// canUndo(), canRedo(), their texts or base() are others.
+    void historyChanged();
     /// Other documents are printed, or in another order.
     void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
@@ -221,6 +285,7 @@ private:
         int earlierJob = 0; // that may print yet
         int earlierDocuments = 0;
         int sentDocuments = 0; // as jobs of their own
+        std::optional<Base> base{};
     };
     struct Chosen
     {
@@ -243,6 +308,7 @@ private:
         bool held = false;            // the job waits until its instructions have been followed
         bool textsAreSettled = false; // nothing has to be asked about them any more
         Awaits awaits = Awaits::Nothing;
+        std::optional<HandRun> hand{}; // of a job that is printed on both sides by hand
     };
     struct Output
     {
@@ -276,6 +342,11 @@ private:
         SessionSnapshot started; // before the user changed anything
         SessionSnapshot shown;   // as the face was told last
         QList<JobOption> chosen; // attributes, before the user changed anything
+        Base base;
+        SettingsHistory history;
+        QStringList touched;                // since the last step, in this order
+        std::optional<TaskSettings> coming; // to be restored when their printer is open
+        bool willRecord = false;
     };
 
     void enter(Phase phase);
@@ -321,6 +392,21 @@ private:
     void sayRefusal(const Refusal &refusal);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
+    void beginHistory();
+    void takeComingSettings();
+    void goTo(const TaskSettings &state);
+    void noteTouched(const QString &name);
+    void recordSoon();
+    void recordStep(const QString &name = {});
+    QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
+
+    void lock(OpenedPrinter &opened);
+    QStringList keepLocks();
+    QStringList lockedTexts(const QStringList &keywords) const;
+    QStringList lockedCopies() const;
+    QStringList problemsOfLocks() const;
+    void sayLocked(const QStringList &keywords);
+
     void settingsAffectColors();
     void showColors();
 
@@ -335,6 +421,15 @@ private:
     void awaitTexts();
     void settleTexts();
     void startJob(const JobTicket &ticket);
+    void followJob(std::unique_ptr<Job> job);
+
+    void startByHand(const JobTicket &ticket);
+    void startPass();
+    bool isFirstPass() const;
+    std::optional<JobOutcome> afterPass(const JobOutcome &outcome);
+    QString textOfHalf(const QString &other) const;
+    void askToTurn();
+    void endBetweenPasses(Phase next);
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;
@@ -348,6 +443,7 @@ private:
     bool isPreparing() const { return m_phase == Phase::Printing && !m_run.job; }
     void stopPreparing();
     void endPreparing();
+    ChoosableDocument choosable(const Document &document, const DocumentSheets *counted) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     void jobFinished(const JobOutcome &outcome);
 

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/task/PrintTask.h"
+#include "dialog/window/PageChoosing.h"
 #include "dialog/window/pages/GeneralPage.h"
 #include "dialog/window/pages/OptionsPage.h"
 #include "dialog/window/pages/PanelPage.h"
@@ -67,19 +68,22 @@ void SettingsPages::addGeneral()
     addTab(m_general, tr("General"));
     connect(m_general, &GeneralPage::proposed, &m_task, &PrintTask::propose);
     connect(m_general, &GeneralPage::copiesEdited, this, [this](int copies) {
-        m_task.settings().askForCopies(copies, JobSettings::By::User);
+        m_task.setCopies(copies);
         showAttributes(); // some of them are about several copies
         Q_EMIT jobEdited();
     });
     connect(m_general, &GeneralPage::pageRangesEdited, this, [this](const QString &ranges) {
-        m_task.settings().setPageRanges(ranges);
+        m_task.setPageRanges(ranges);
         Q_EMIT jobEdited();
     });
     connect(m_general, &GeneralPage::attributeProposed, this,
             [this](const QString &name, const QString &value) {
                 m_general->showAttributeProblem(name, m_task.setAttribute(name, value));
             });
+    connect(m_general, &GeneralPage::choosePagesPressed, this,
+            [this] { choosePages(m_task, window()); });
     connect(m_general, &GeneralPage::heightChanged, this, &SettingsPages::heightChanged);
+    m_general->setCanChoosePages(!m_task.documents().isEmpty());
     showAttributes();
 }
 
@@ -164,6 +168,7 @@ void SettingsPages::refresh()
     const JobSettings &settings = m_task.settings();
     m_general->setMostCopies(settings.mostCopies());
     m_general->offerPageRanges(!m_task.passesFilesOn());
+    m_general->setCanChoosePages(!m_task.documents().isEmpty());
     m_general->setCopies(settings.copies());
     // As it was typed, the text may hold blanks.
     if (m_general->pageRanges() != settings.pageRanges())
