@@ -7,6 +7,7 @@
 
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/presets/LastUsed.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/JobNames.h"
@@ -97,6 +98,12 @@ QStringList trustedBundleRoots(const CommandLine &line)
     return line.bundleRoots + QStringList{besideProgram(u"../lib/corvana-print/plugins"_s)};
 }
 
+bool isUnattended(const CommandLine &line)
+{
+    return line.noDialog || line.listPrinters || line.listPresets || !line.savePreset.isEmpty() ||
+           (line.documents.isEmpty() && line.summary);
+}
+
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
@@ -141,6 +148,10 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
     request.helpPage = dialogHelpPage();
+    request.presetPlaces = PresetPlaces::ofUser();
+    request.preset = line.preset;
+    request.presetToSave = line.savePreset;
+    request.remembersLastUsed = !isUnattended(line) && remembersLastUsed();
     return request;
 }
 

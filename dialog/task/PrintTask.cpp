@@ -179,6 +179,8 @@ QStringList PrintTask::takeMostCopies()
         return {problem};
     case By::Queue:
     case By::UserQueues:
+    case By::LastUsed: // keeps no copies
+    case By::Preset:
         m_chosen.ignored += problem;
         break;
     case By::Program:

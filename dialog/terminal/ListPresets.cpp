@@ -1,0 +1,26 @@
+#include "dialog/terminal/ListPresets.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include "dialog/presets/PresetStore.h"
+#include "platform/foundation/ForeignText.h"
+
+namespace corvana {
+
+int listPresets(const PrintRequest &request)
+{
+    const PresetListing all = PresetStore(request.presetPlaces).listAll();
+    QTextStream out(stdout);
+    for (const StoredPreset &stored : all.presets) {
+        const QString model = stored.preset.model.isEmpty()
+                                  ? QCoreApplication::translate("ListPresets", "all printers")
+                                  : stored.preset.model;
+        out << terminalLine(stored.preset.name) << "\t" << terminalLine(model) << "\n";
+    }
+    for (const QString &problem : all.problems)
+        QTextStream(stderr) << "corvana-print: " << terminalText(problem) << "\n";
+    return all.problems.isEmpty() ? 0 : 1;
+}
+
+} // namespace corvana
