@@ -70,6 +70,8 @@ public:
 
     AlertAnswer runModal(const Alert &alert, QWidget *parent) override
     {
+        if (m_host.m_isRestoring)
+            return {};
         ++m_host.m_uninterruptible;
         const auto done = qScopeGuard([this] { --m_host.m_uninterruptible; });
         const AlertAnswer answer = m_presenter.runModal(alert, parent);
@@ -89,15 +91,7 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
           session, *m_alerts, [this] { Q_EMIT viewResized(); },
           [this] { Q_EMIT shownValuesChanged(); }))
 {
-    connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
-    connect(&session, &PpdSession::refused, this, [this] {
-        m_refused = true;
-        scheduleDelivery();
-    });
-    connect(&session, &PpdSession::paperChanged, this, [this] {
-        m_paperChanged = true;
-        scheduleDelivery();
-    });
+    followSession();
     m_told = marksWithValues(session);
     if (!plugIn)
         return;
@@ -206,7 +200,7 @@ bool PanelHost::pick(const QString &keyword, const QString &choice)
 QVariantMap PanelHost::shownEntries() const
 {
     const PrintSettings &saved = m_session.printSettings();
-    if (!m_visible || panelIsBusy())
+    if (!m_visible || isBusy())
         return saved.entries();
     PrintSettings shown;
     shown.setEntries(saved.entries());
@@ -283,11 +277,13 @@ void PanelHost::scheduleDelivery()
 
 void PanelHost::deliverPending()
 {
-    if (panelIsBusy())
+    if (isBusy())
         return; // when it has returned, delivery is scheduled again
     if (!m_broughtUp)
         return; // nobody is told anything before it was shown; bringUp() delivers
-    bool anything = std::exchange(m_refused, false);
+    if (std::exchange(m_news.entries, false))
+        Q_EMIT shownValuesChanged();
+    bool anything = std::exchange(m_news.refusal, false);
     announcePaper();
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
@@ -305,7 +301,7 @@ void PanelHost::deliverPending()
 // Panels judge a new paper at once, and may propose another medium for it or run an alert.
 void PanelHost::announcePaper()
 {
-    if (!std::exchange(m_paperChanged, false))
+    if (!std::exchange(m_news.paper, false))
         return;
     ++m_uninterruptible;
     const auto done = qScopeGuard([this] { --m_uninterruptible; });

@@ -74,6 +74,12 @@ public:
 
     /// Restores all panels, hidden or not, in their order.
     void restoreAll();
+    /// Brings the session and all panels to a state that they had, exactly. What a panel proposes
+    /// on the way is nobody's act and is dropped, and no alert is shown: its user has answered it
+    /// when the state came about.
+    void restoreTo(const SessionSnapshot &snapshot);
+    /// Whether a panel is in the midst of its work, or an alert of one is open.
+    bool isBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
 
     /// The panels' summaries, one after the other.
     QList<SummaryLine> summary();
@@ -91,7 +97,8 @@ Q_SIGNALS:
     void settled();
     /// A panel's view asks for another size. Receivers must not call a panel.
     void viewResized();
-    /// shownEntries() are others, at each step of a slider. Receivers must not call a panel.
+    /// shownEntries() are others, at each step of a slider and when a panel has saved. Receivers
+    /// must not call a panel.
     void shownValuesChanged();
 
 private:
@@ -102,14 +109,24 @@ private:
         QString choice;
         PDEPanel *source; // does not need to be told; null for the dialog's own changes
     };
+    // What has happened beside changes of choices.
+    struct News
+    {
+        bool refusal = false;
+        bool paper = false;
+        bool entries = false;
+    };
 
+    void followSession();
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
     void announcePaper();
     void markCompanions(const QString &keyword, const QString &choice);
     void scheduleDelivery();
-    bool hasNews() const { return !m_pending.isEmpty() || m_refused || m_paperChanged; }
-    bool panelIsBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
+    bool hasNews() const
+    {
+        return !m_pending.isEmpty() || m_news.refusal || m_news.paper || m_news.entries;
+    }
     bool leaveVisible();
     void saveVisible();
     void restoreHidden();
@@ -127,10 +144,10 @@ private:
     QMap<QString, QString> m_told; // the marks, custom ones with their values, that panels know of
     QPointer<QWidget> m_room; // never shown; holds the views that nobody has taken out of it yet
     QList<QPointer<QWidget>> m_views;
-    bool m_refused = false;
-    bool m_paperChanged = false;
+    News m_news;
     bool m_scheduled = false;
     bool m_broughtUp = false;
+    bool m_isRestoring = false; // to a state that was there before
 };
 
 } // namespace corvana

@@ -55,6 +55,7 @@ std::unique_ptr<PpdSession> PpdSession::open(const QString &ppdPath, QString *er
 PpdSession::PpdSession(PpdFile ppd) : m_ppd(std::move(ppd))
 {
     m_printSettings.setDuplexHandler([this](PMDuplexMode mode) { setDuplex(mode); });
+    m_printSettings.setChangeHandler([this] { Q_EMIT entriesChanged(); });
     recordMarks();
     updatePageFormat();
 }

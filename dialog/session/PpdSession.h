@@ -126,6 +126,8 @@ Q_SIGNALS:
     void refused();
     /// The paper is another one; everything else is already up to date.
     void paperChanged();
+    /// An entry of the print settings is another one.
+    void entriesChanged();
 
 private:
     bool mark(const QString &keyword, const QString &choice);

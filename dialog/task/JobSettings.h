@@ -57,6 +57,8 @@ public:
     /// The printer is left: what was asked for only by its own options stays behind.
     void leavePrinter();
 
+    bool operator==(const JobSettings &) const = default;
+
 private:
     int m_copies = 1;
     By m_by = By::Program;

@@ -41,8 +41,11 @@ void PrintTask::startUnattended()
 
 void PrintTask::choosePrinter(const Printer &printer)
 {
+    recordStep();
     rememberSession();
     close();
+    if (m_baseline.coming && idOf(m_baseline.coming->printer) != idOf(printer))
+        m_baseline.coming.reset();
     Q_EMIT unsaid(); // and with it an offer that was meant for the other printer
     m_chosen.printer = printer;
     m_chosen.deliberately = true;
@@ -123,6 +126,8 @@ void PrintTask::open(const FetchedPrinter &ready)
         return;
     }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
+    connect(m_opened->session.get(), &PpdSession::changed, this, &PrintTask::noteTouched);
+    connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::recordSoon);
     // A panel is asked for what it shows when it is done with what it is doing.
     connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::showColors,
             Qt::QueuedConnection);
@@ -193,6 +198,7 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
         left.copies = m_settings.copiesAskedFor();
     left.chosen = m_settings.chosenAttributes();
     m_memory[idOf(m_chosen.printer)].session = left;
+    m_memory[idOf(m_chosen.printer)].base = m_baseline.base;
 }
 
 // Whether nothing would be lost if another printer took the place of this one. Copies and pages go
@@ -215,8 +221,10 @@ void PrintTask::takeExpectedPrinter()
     // The first printer was there for want of a better one.
     const std::optional<Printer> expected = m_source.expected();
     const bool complete = m_source.queues().state() == QueueList::State::Known;
-    if (expected && (complete || expected->isDefault))
+    if (expected && (complete || expected->isDefault)) {
+        m_baseline.history.clear();
         choosePrinter(*expected);
+    }
 }
 
 void PrintTask::printerChecked(const FetchedPrinter &checked)

@@ -6,6 +6,7 @@
 
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
@@ -13,6 +14,7 @@
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SavedAsPdf.h"
+#include "dialog/task/SettingsValues.h"
 #include "dialog/task/StartValues.h"
 #include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
@@ -82,6 +84,7 @@ void PrintTask::bringUp()
     m_baseline.chosen = m_settings.chosenAttributes();
     if (m_phase != Phase::Opened)
         return; // interrupted, while an alert of a panel was waiting for its answer
+    beginHistory();
     enter(Phase::Ready);
     showSettings();
     for (const Refusal &refusal : refusals)
@@ -247,6 +250,18 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
     showSettings(); // the page shows what the user picked
 }
 
+void PrintTask::setCopies(int copies)
+{
+    m_settings.askForCopies(copies, JobSettings::By::User);
+    noteTouched(kCopiesSetting);
+}
+
+void PrintTask::setPageRanges(const QString &ranges)
+{
+    m_settings.setPageRanges(ranges);
+    noteTouched(kPageRangesAttribute);
+}
+
 QList<OfferedAttribute> PrintTask::attributes() const
 {
     QList<OfferedAttribute> offered = offeredAttributes(m_settings, *m_opened);
@@ -281,6 +296,7 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         return {};
     Q_EMIT unsaid();
     m_settings.setAttribute(name, *taken);
+    noteTouched(name);
     const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
     const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
     if (isBooklet && folding)
@@ -300,6 +316,7 @@ void PrintTask::settled()
     // Showing the settings asks the panels, which save again: only another state is news.
     if (m_opened->session->snapshot() != m_baseline.shown || !refusals.isEmpty())
         showSettings();
+    recordSoon();
 }
 
 void PrintTask::showSettings()

@@ -19,9 +19,11 @@
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
+#include "dialog/task/SettingsHistory.h"
 #include "dialog/task/SheetPreview.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
+#include "dialog/task/TaskSettings.h"
 
 namespace corvana {
 
@@ -119,6 +121,9 @@ public:
     /// Brings the panels up and the options of the request in; once for a printer.
     void bringUp();
     JobSettings &settings() { return m_settings; }
+    /// The user chose a number of copies, or pages as JobSettings::setPageRanges() takes them.
+    void setCopies(int copies);
+    void setPageRanges(const QString &ranges);
     /// The user picked a choice on a page of the dialog.
     void propose(const QString &keyword, const QString &choice);
     /// The job attributes that a face offers, with what is in force.
@@ -141,6 +146,34 @@ public:
     bool passesFilesOn() const;
     /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
     bool savesAsPdf() const;
+
+    // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
+    // printer is ready.
+
+    TaskSettings settingsNow() const;
+    /// Brings the task to a state that it had. Panels are restored, and faces are told. Another
+    /// printer is chosen first; the rest follows when it is open. Whoever calls this for a user
+    /// calls recordStep() then.
+    void restoreSettings(const TaskSettings &settings);
+    /// What "changed" compares with and "back" returns to.
+    using Base = SettingsBase;
+    const Base &base() const { return m_baseline.base; }
+    void setBase(const Base &base);
+    /// The options, attributes and values of the panels' own that differ from base(), by keyword.
+    /// Copies and pages belong to this job alone and are not among them.
+    QStringList changedSettings() const;
+
+    /// Not while a job is made or printed.
+    bool canUndo() const;
+    bool canRedo() const;
+    /// What undo() would take back: "Undo Media Type"; "Undo" where there is nothing.
+    QString undoText() const;
+    QString redoText() const;
+    /// Takes back the last thing that the user did, with all that came of it.
+    void undo();
+    void redo();
+    /// What is typed or moved from now on is another step: a field was left, a slider let go.
+    void endStep();
 
     // The colours of its pages (PrintTask-colors.cpp)
 
@@ -185,6 +218,8 @@ Q_SIGNALS:
     void printerChanged();
     /// A choice is another one: what a face shows has to be read again.
     void settingsChanged();
+    /// canUndo(), canRedo(), their texts or base() are others.
+    void historyChanged();
     /// Other documents are printed, or in another order.
     void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
@@ -216,6 +251,7 @@ private:
         int earlierJob = 0; // that may print yet
         int earlierDocuments = 0;
         int sentDocuments = 0; // as jobs of their own
+        std::optional<Base> base{};
     };
     struct Chosen
     {
@@ -271,6 +307,11 @@ private:
         SessionSnapshot started; // before the user changed anything
         SessionSnapshot shown;   // as the face was told last
         QList<JobOption> chosen; // attributes, before the user changed anything
+        Base base;
+        SettingsHistory history;
+        QStringList touched;                // since the last step, in this order
+        std::optional<TaskSettings> coming; // to be restored when their printer is open
+        bool willRecord = false;
     };
 
     void enter(Phase phase);
@@ -315,6 +356,14 @@ private:
     void settled();
     void sayRefusal(const Refusal &refusal);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
+
+    void beginHistory();
+    void takeComingSettings();
+    void goTo(const TaskSettings &state);
+    void noteTouched(const QString &name);
+    void recordSoon();
+    void recordStep(const QString &name = {});
+    QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
 
     void settingsAffectColors();
     void showColors();

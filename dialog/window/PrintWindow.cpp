@@ -17,12 +17,14 @@
 
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
+#include "dialog/window/PresetRow.h"
 #include "dialog/window/PreviewFolding.h"
 #include "dialog/window/PrinterHeader.h"
 #include "dialog/window/SettingsColumn.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/SilencedAlerts.h"
 #include "dialog/window/TaskPreview.h"
+#include "dialog/window/UndoKeys.h"
 #include "dialog/window/WindowParts.h"
 #include "dialog/window/pages/MessageBar.h"
 #include "dialog/window/preview/DocumentArea.h"
@@ -98,10 +100,12 @@ void PrintWindow::buildWindow()
 void PrintWindow::buildColumns(SettingsColumn *settings)
 {
     m_header = new PrinterHeader(m_task->output(), settings);
+    auto *presets = new PresetRow(*m_task, settings);
     m_message = new MessageBar(settings);
     m_message->setObjectName(u"message"_s);
     m_pages = new SettingsPages(*m_task, settings);
-    for (QWidget *part : {static_cast<QWidget *>(m_header), static_cast<QWidget *>(m_message)})
+    for (QWidget *part : {static_cast<QWidget *>(m_header), static_cast<QWidget *>(presets),
+                          static_cast<QWidget *>(m_message)})
         settings->layout()->addWidget(part);
     static_cast<QBoxLayout *>(settings->layout())->addWidget(m_pages, 1);
     m_preview = new PreviewPane(this); // behind the settings for Tab
@@ -116,6 +120,7 @@ void PrintWindow::buildColumns(SettingsColumn *settings)
 void PrintWindow::connectParts()
 {
     addPageShortcuts();
+    new UndoKeys(*m_task, this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);
     connect(m_preview, &PreviewPane::foldPressed, this,
             [this](bool fold) { m_folding->fold(fold); });

@@ -67,12 +67,12 @@ void SettingsPages::addGeneral()
     addTab(m_general, tr("General"));
     connect(m_general, &GeneralPage::proposed, &m_task, &PrintTask::propose);
     connect(m_general, &GeneralPage::copiesEdited, this, [this](int copies) {
-        m_task.settings().askForCopies(copies, JobSettings::By::User);
+        m_task.setCopies(copies);
         showAttributes(); // some of them are about several copies
         Q_EMIT jobEdited();
     });
     connect(m_general, &GeneralPage::pageRangesEdited, this, [this](const QString &ranges) {
-        m_task.settings().setPageRanges(ranges);
+        m_task.setPageRanges(ranges);
         Q_EMIT jobEdited();
     });
     connect(m_general, &GeneralPage::attributeProposed, this,

@@ -6,6 +6,16 @@ namespace corvana {
 
 Q_LOGGING_CATEGORY(lcPrintCore, "corvana.printcore", QtWarningMsg)
 
+void PrintSettings::setValue(const QString &key, const QVariant &value)
+{
+    QVariant &entry = m_entries[key];
+    // A number and a text, or two numbers of different types, are different entries.
+    const bool isSame = entry.metaType() == value.metaType() && entry == value;
+    entry = value;
+    if (!isSame && m_changeHandler)
+        m_changeHandler();
+}
+
 PMStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key, QVariant *value)
 {
     if (!settings)

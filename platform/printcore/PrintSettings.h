@@ -40,7 +40,9 @@ public:
     bool contains(const QString &key) const { return m_entries.contains(key); }
     /// The entry under `key`; invalid when there is none.
     QVariant value(const QString &key) const { return m_entries.value(key); }
-    void setValue(const QString &key, const QVariant &value) { m_entries.insert(key, value); }
+    void setValue(const QString &key, const QVariant &value);
+    /// `handler` runs whenever setValue() has made an entry another one. It must not write entries.
+    void setChangeHandler(std::function<void()> handler) { m_changeHandler = std::move(handler); }
 
     void setDuplexHandler(DuplexHandler handler) { m_duplexHandler = std::move(handler); }
     const DuplexHandler &duplexHandler() const { return m_duplexHandler; }
@@ -48,6 +50,7 @@ public:
 private:
     QVariantMap m_entries;
     DuplexHandler m_duplexHandler;
+    std::function<void()> m_changeHandler;
 };
 
 /// A borrowed reference to a job's print settings; null means that the host has none.

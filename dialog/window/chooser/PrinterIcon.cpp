@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
 #include <QPixmap>
 
@@ -59,6 +60,18 @@ void drawSearch(QPainter &painter, QIcon::Mode mode)
     painter.setPen(QPen(ink, 2, Qt::SolidLine, Qt::RoundCap));
     painter.drawEllipse(QPointF(10, 10), 6, 6);
     painter.drawLine(QPointF(14.6, 14.6), QPointF(20, 20));
+}
+
+// Up, over and down again to where it began.
+void drawTurn(QPainter &painter, QIcon::Mode mode)
+{
+    painter.setPen(QPen(inkFor(mode), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    QPainterPath arrow(QPointF(5, 9.5));
+    arrow.lineTo(14.5, 9.5);
+    arrow.arcTo(QRectF(9.5, 9.5, 10, 9), 90, -180);
+    arrow.lineTo(10, 18.5);
+    painter.drawPath(arrow);
+    painter.drawPolyline(QPolygonF{{8.8, 5.2}, {4.6, 9.5}, {8.8, 13.8}});
 }
 
 // A disc in the lower right corner, cut free of what is behind it, with a white sign.
@@ -180,6 +193,24 @@ QIcon searchIcon()
     return QIcon(new DrawnIcon([](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
         scaleToGrid(painter, rect);
         drawSearch(painter, mode);
+    }));
+}
+
+QIcon undoIcon()
+{
+    return QIcon(new DrawnIcon([](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
+        scaleToGrid(painter, rect);
+        drawTurn(painter, mode);
+    }));
+}
+
+QIcon redoIcon()
+{
+    return QIcon(new DrawnIcon([](QPainter &painter, const QRect &rect, QIcon::Mode mode) {
+        scaleToGrid(painter, rect);
+        painter.translate(kGrid, 0);
+        painter.scale(-1, 1);
+        drawTurn(painter, mode);
     }));
 }
 

@@ -23,4 +23,9 @@ QIcon printerIcon(PrinterLook look, IconSource source);
 /// The sign of a search field: the theme's, or one of our own.
 QIcon searchIcon();
 
+/// An arrow that turns back, and one that turns forward again. Our own, whatever the theme: the two
+/// stand in a window that is just coming up.
+QIcon undoIcon();
+QIcon redoIcon();
+
 } // namespace corvana

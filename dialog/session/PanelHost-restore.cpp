@@ -1,0 +1,37 @@
+#include "dialog/session/PanelHost.h"
+
+#include <QScopeGuard>
+
+namespace corvana {
+
+void PanelHost::followSession()
+{
+    connect(&m_session, &PpdSession::changed, this, &PanelHost::noteChange);
+    connect(&m_session, &PpdSession::refused, this, [this] {
+        m_news.refusal = true;
+        scheduleDelivery();
+    });
+    connect(&m_session, &PpdSession::paperChanged, this, [this] {
+        m_news.paper = true;
+        scheduleDelivery();
+    });
+    connect(&m_session, &PpdSession::entriesChanged, this, [this] {
+        m_news.entries = true;
+        scheduleDelivery();
+    });
+}
+
+void PanelHost::restoreTo(const SessionSnapshot &snapshot)
+{
+    m_isRestoring = true;
+    const auto done = qScopeGuard([this] { m_isRestoring = false; });
+    m_session.restore(snapshot);
+    deliverPending(); // panels judge the paper, and may propose a medium for it
+    m_session.restore(snapshot);
+    restoreAll();
+    m_session.restore(snapshot); // panels write entries of their own while they restore
+    m_pending.clear();
+    m_news = {};
+}
+
+} // namespace corvana

@@ -1,0 +1,191 @@
+#include "dialog/task/PrintTask.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QTimer>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/task/SettingsValues.h"
+#include "platform/pde/PDEPanel.h"
+
+namespace corvana {
+
+TaskSettings PrintTask::settingsNow() const
+{
+    TaskSettings now{m_chosen.printer, m_opened->fetched.ppd->hash, m_opened->session->snapshot(),
+                     m_settings};
+    now.session.entries = m_opened->panels->shownEntries();
+    return now;
+}
+
+void PrintTask::restoreSettings(const TaskSettings &settings)
+{
+    if (m_phase != Phase::Ready)
+        return;
+    m_baseline.coming = settings;
+    if (idOf(settings.printer) != idOf(m_chosen.printer))
+        return choosePrinter(settings.printer);
+    takeComingSettings();
+    showSettings();
+}
+
+// The settings that were asked for, when the printer that they are for is open.
+void PrintTask::takeComingSettings()
+{
+    const std::optional<TaskSettings> settings = std::exchange(m_baseline.coming, std::nullopt);
+    if (!settings || idOf(settings->printer) != idOf(m_chosen.printer))
+        return;
+    // A printer whose options are others by now has taken what it has still.
+    if (settings->ppdHash != m_opened->fetched.ppd->hash)
+        return;
+    m_opened->panels->restoreTo(settings->session);
+    m_settings = settings->job;
+    m_settings.setMostCopies(mostCopiesOf(*m_opened));
+}
+
+void PrintTask::setBase(const Base &base)
+{
+    m_baseline.base = base;
+    Q_EMIT historyChanged();
+}
+
+// A printer has come up: the first one, another one, or the same with other options.
+void PrintTask::beginHistory()
+{
+    const Memory memory = m_memory.value(idOf(m_chosen.printer));
+    m_baseline.base =
+        memory.session && memory.base ? *memory.base : Base{settingsNow(), tr("Printer Defaults")};
+    takeComingSettings();
+    SettingsHistory &history = m_baseline.history;
+    const TaskSettings now = settingsNow();
+    m_baseline.touched.clear();
+    if (!history.hasBegun())
+        history.begin(now);
+    else if (idOf(history.present().printer) != idOf(now.printer))
+        history.add(now, {tr("Printer"), {}});
+    else if (history.present().ppdHash != now.ppdHash)
+        history.begin(now);
+    else
+        history.replacePresent(now);
+    Q_EMIT historyChanged();
+}
+
+QStringList PrintTask::changedSettings() const
+{
+    if (m_phase != Phase::Ready)
+        return {};
+    QStringList changed = differences(m_baseline.base.settings, settingsNow(), *m_opened);
+    // They belong to this job alone, and no base has them.
+    changed.removeAll(kCopiesSetting);
+    changed.removeAll(kPageRangesAttribute);
+    return changed;
+}
+
+bool PrintTask::canUndo() const
+{
+    return m_phase == Phase::Ready && m_baseline.history.canUndo();
+}
+
+bool PrintTask::canRedo() const
+{
+    return m_phase == Phase::Ready && m_baseline.history.canRedo();
+}
+
+QString PrintTask::undoText() const
+{
+    const QString name = m_baseline.history.undoName();
+    return name.isEmpty() ? tr("Undo") : tr("Undo %1").arg(name);
+}
+
+QString PrintTask::redoText() const
+{
+    const QString name = m_baseline.history.redoName();
+    return name.isEmpty() ? tr("Redo") : tr("Redo %1").arg(name);
+}
+
+void PrintTask::undo()
+{
+    if (m_phase == Phase::Ready && m_face.finishEditing())
+        recordStep();
+    if (canUndo())
+        goTo(m_baseline.history.undo());
+}
+
+void PrintTask::redo()
+{
+    if (m_phase == Phase::Ready && m_face.finishEditing())
+        recordStep();
+    if (canRedo())
+        goTo(m_baseline.history.redo());
+}
+
+void PrintTask::goTo(const TaskSettings &state)
+{
+    Q_EMIT unsaid();
+    restoreSettings(TaskSettings(state));
+    m_baseline.touched.clear();
+    Q_EMIT historyChanged();
+}
+
+void PrintTask::endStep()
+{
+    // What has been typed or moved up to now still belongs to it.
+    recordStep();
+    m_baseline.history.endStep();
+}
+
+void PrintTask::noteTouched(const QString &name)
+{
+    if (m_phase == Phase::Ready && !m_baseline.touched.contains(name))
+        m_baseline.touched += name;
+    recordSoon();
+}
+
+// When what is going on now has been told to all panels.
+void PrintTask::recordSoon()
+{
+    if (std::exchange(m_baseline.willRecord, true))
+        return;
+    QTimer::singleShot(0, this, [this] {
+        m_baseline.willRecord = false;
+        recordStep();
+    });
+}
+
+// What one event has changed is found by comparing, whatever panels have said on the way: a box
+// that is ticked and disabled asks for on and off again at each save.
+void PrintTask::recordStep(const QString &name)
+{
+    if (m_phase != Phase::Ready || m_opened->panels->isBusy())
+        return; // it is recorded when the panel is done
+    m_opened->panels->deliverPending();
+    if (m_phase != Phase::Ready || m_opened->panels->isBusy())
+        return;
+    SettingsHistory &history = m_baseline.history;
+    const TaskSettings now = settingsNow();
+    const QStringList touched = std::exchange(m_baseline.touched, {});
+    if (!history.hasBegun() || now == history.present())
+        return;
+    const QStringList changed = differences(history.present(), now, *m_opened);
+    if (changed.isEmpty())
+        return history.replacePresent(now); // nothing of it is in the job
+    const bool goesOn = name.isEmpty() && changed.size() == 1 &&
+                        isTypedOrMoved(changed.constFirst(), now, *m_opened);
+    history.add(now, {name.isEmpty() ? nameOfStep(changed, touched) : name, changed, goesOn});
+    Q_EMIT historyChanged();
+}
+
+// What was set first made the rules set the others.
+QString PrintTask::nameOfStep(const QStringList &changed, const QStringList &touched) const
+{
+    const auto isFirst = [&](const QString &name) { return changed.contains(name); };
+    const auto first = std::find_if(touched.cbegin(), touched.cend(), isFirst);
+    const QString name = first == touched.cend() ? changed.constFirst() : *first;
+    if (const QString title = settingTitle(name, *m_opened); !title.isEmpty())
+        return title;
+    const int panel = m_opened->panels->visiblePanel();
+    return panel < 0 ? tr("Setting") : m_opened->panels->panels().at(panel)->panelName();
+}
+
+} // namespace corvana

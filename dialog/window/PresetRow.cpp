@@ -1,0 +1,57 @@
+#include "dialog/window/PresetRow.h"
+
+#include <QHBoxLayout>
+
+#include "dialog/task/PrintTask.h"
+#include "dialog/window/ElidedToolButton.h"
+#include "dialog/window/chooser/PrinterIcon.h"
+#include "platform/toolkit/PlainText.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task(task)
+{
+    buildButtons();
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    row->addWidget(m_undo);
+    row->addWidget(m_redo);
+    connect(&m_task, &PrintTask::historyChanged, this, &PresetRow::refresh);
+    connect(&m_task, &PrintTask::phaseChanged, this, &PresetRow::refresh);
+    refresh();
+}
+
+void PresetRow::buildButtons()
+{
+    m_undo = new ElidedToolButton(this);
+    m_undo->setObjectName(u"undo"_s);
+    m_undo->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_undo->setIcon(undoIcon());
+    m_redo = new QToolButton(this);
+    m_redo->setObjectName(u"redo"_s);
+    m_redo->setIcon(redoIcon());
+    for (QToolButton *button : {static_cast<QToolButton *>(m_undo), m_redo})
+        button->setAutoRaise(true);
+    connect(m_undo, &QToolButton::clicked, &m_task, &PrintTask::undo);
+    connect(m_redo, &QToolButton::clicked, &m_task, &PrintTask::redo);
+}
+
+// The steps have the names of the printer's options: none of them may be taken for markup or for a
+// key.
+void PresetRow::refresh()
+{
+    const QString undo = m_task.undoText();
+    m_undo->setText(QString(undo).replace(u'&', "&&"_L1));
+    m_undo->setToolTip(plainToolTip(tr("%1 (Ctrl+Z)").arg(undo)));
+    m_undo->setAccessibleName(undo);
+    m_undo->setEnabled(m_task.canUndo());
+    const QString redo = m_task.redoText();
+    m_redo->setToolTip(plainToolTip(tr("%1 (Shift+Ctrl+Z)").arg(redo)));
+    m_redo->setAccessibleName(redo);
+    m_redo->setEnabled(m_task.canRedo());
+}
+
+} // namespace corvana
