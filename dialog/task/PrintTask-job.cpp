@@ -17,6 +17,7 @@
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/task/TaskPresets.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
@@ -244,6 +245,7 @@ std::optional<TaskRefusal> PrintTask::askPanels()
 void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
+    presets().jobBegins();
     if (printsToFile()) {
         m_run.job = std::make_unique<FileJob>(
             FileJobRequest{printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path});
@@ -331,6 +333,7 @@ void PrintTask::jobFinished(const JobOutcome &outcome)
     // What a script prints to says nothing about what its user opens next.
     if (m_chosen.canBeAnother && outcome.isDone() && outcome.file.isEmpty())
         m_source.rememberUse(m_chosen.printer);
+    presets().jobEnded(outcome);
     if (outcome.kind == Kind::PrinterChanged)
         m_source.retry();
     const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed ||
