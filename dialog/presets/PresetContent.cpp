@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
+
+#include <QSet>
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
@@ -34,18 +37,54 @@ bool isAmong(const QString &name, std::span<const QLatin1StringView> names)
                        [&](QLatin1StringView one) { return one == name; });
 }
 
+bool hasDigit(const ppd_choice_t &choice)
+{
+    const QLatin1StringView keyword(choice.choice);
+    return std::any_of(keyword.begin(), keyword.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
 // Whether an option holds a password or a PIN, or a part of one.
 bool holdsSecret(ppd_file_t *ppd, const QString &keyword)
 {
     const ppd_option_t *option = ppdOption(ppd, keyword);
     if (!option)
         return false;
-    if (isSecret(ppd, keyword) && ppdHasCustomOption(ppd, keyword))
-        return true;
-    return std::any_of(option->choices, option->choices + option->num_choices,
-                       [&](const ppd_choice_t &choice) {
-                           return isSecretChoice(ppd, keyword, ppdKeyword(choice.choice));
-                       });
+    ppd_choice_t *const end = option->choices + option->num_choices;
+    const ppd_choice_t *digit = std::find_if(option->choices, end, hasDigit);
+    const bool hasCustom = ppdHasCustomOption(ppd, keyword);
+    if (digit == end && !hasCustom)
+        return false;
+    return (hasCustom && isSecret(ppd, keyword)) ||
+           (digit != end && isSecretChoice(ppd, keyword, ppdKeyword(digit->choice)));
+}
+
+// The options of a printer that are never kept. To find them means to look into all words of all
+// options, and their printer is asked again and again.
+const QSet<QString> &neverKept(const PpdSession &session)
+{
+    struct Known
+    {
+        const ppd_file_t *ppd = nullptr;
+        QStringList options{};
+        QSet<QString> never{};
+    };
+    thread_local Known known;
+    QStringList options;
+    for (const ppd_option_t *option : session.options())
+        options += ppdKeyword(option->keyword) + u' ' + QString::fromUtf8(option->text) + u' ' +
+                   QString::number(option->num_choices);
+    // Another PPD may lie where a former one was.
+    if (known.ppd == session.ppd() && known.options == options)
+        return known.never;
+    known = {session.ppd(), options, {}};
+    for (const QString &keyword : installedPartKeywords(session))
+        known.never += keyword;
+    for (const ppd_option_t *option : session.options()) {
+        if (const QString keyword = ppdKeyword(option->keyword);
+            holdsSecret(session.ppd(), keyword))
+            known.never += keyword;
+    }
+    return known.never;
 }
 
 bool setsUpDevice(const QStringList &options, const QStringList &device)
@@ -87,10 +126,10 @@ PresetContent contentOf(const PpdSession &session, const PDEJobValues *jobValues
                         const QList<JobOption> &attributes, bool withDevice)
 {
     PresetContent content;
-    const QStringList installed = installedPartKeywords(session);
+    const QSet<QString> &never = neverKept(session);
     const QList<JobOption> options = jobOptions(session, jobValues, {});
     for (const JobOption &option : options) {
-        if (!installed.contains(option.name) && !holdsSecret(session.ppd(), option.name))
+        if (!never.contains(option.name))
             content.options.insert(option.name, option.value);
     }
     const QStringList device =

@@ -59,7 +59,7 @@ void applyNamedPreset(const PrintRequest &request, OpenedPrinter &printer, JobSe
             all.presets.isEmpty()
                 ? Texts::tr("There is no preset “%1”, nor any other for this printer.")
                       .arg(request.preset)
-                : Texts::tr("There is no preset “%1” for this printer. There is: %2.")
+                : Texts::tr("There is no preset “%1” for this printer. Presets: %2.")
                       .arg(request.preset, all.names().join(u", "_s));
         return;
     }
