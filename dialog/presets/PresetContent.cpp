@@ -4,8 +4,6 @@
 #include <iterator>
 #include <span>
 
-#include <QSet>
-
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/JobTicket.h"
@@ -58,35 +56,6 @@ bool holdsSecret(ppd_file_t *ppd, const QString &keyword)
            (digit != end && isSecretChoice(ppd, keyword, ppdKeyword(digit->choice)));
 }
 
-// The options of a printer that are never kept. To find them means to look into all words of all
-// options, and their printer is asked again and again.
-const QSet<QString> &neverKept(const PpdSession &session)
-{
-    struct Known
-    {
-        const ppd_file_t *ppd = nullptr;
-        QStringList options{};
-        QSet<QString> never{};
-    };
-    thread_local Known known;
-    QStringList options;
-    for (const ppd_option_t *option : session.options())
-        options += ppdKeyword(option->keyword) + u' ' + QString::fromUtf8(option->text) + u' ' +
-                   QString::number(option->num_choices);
-    // Another PPD may lie where a former one was.
-    if (known.ppd == session.ppd() && known.options == options)
-        return known.never;
-    known = {session.ppd(), options, {}};
-    for (const QString &keyword : installedPartKeywords(session))
-        known.never += keyword;
-    for (const ppd_option_t *option : session.options()) {
-        if (const QString keyword = ppdKeyword(option->keyword);
-            holdsSecret(session.ppd(), keyword))
-            known.never += keyword;
-    }
-    return known.never;
-}
-
 bool setsUpDevice(const QStringList &options, const QStringList &device)
 {
     return std::any_of(options.cbegin(), options.cend(),
@@ -113,6 +82,35 @@ template <class Map> void takeBack(Map *now, const Map &before, const Map &start
 }
 
 } // namespace
+
+// To find them means to look into all words of all options, and their printer is asked again and
+// again.
+const QSet<QString> &neverKept(const PpdSession &session)
+{
+    struct Known
+    {
+        const ppd_file_t *ppd = nullptr;
+        QStringList options{};
+        QSet<QString> never{};
+    };
+    thread_local Known known;
+    QStringList options;
+    for (const ppd_option_t *option : session.options())
+        options += ppdKeyword(option->keyword) + u' ' + QString::fromUtf8(option->text) + u' ' +
+                   QString::number(option->num_choices);
+    // Another PPD may lie where a former one was.
+    if (known.ppd == session.ppd() && known.options == options)
+        return known.never;
+    known = {session.ppd(), options, {}};
+    for (const QString &keyword : installedPartKeywords(session))
+        known.never += keyword;
+    for (const ppd_option_t *option : session.options()) {
+        if (const QString keyword = ppdKeyword(option->keyword);
+            holdsSecret(session.ppd(), keyword))
+            known.never += keyword;
+    }
+    return known.never;
+}
 
 QList<JobOption> PresetContent::jobOptions() const
 {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -34,6 +35,10 @@ struct PresetContent
 /// `withDevice` is true. `jobValues` may be null.
 PresetContent contentOf(const PpdSession &session, const PDEJobValues *jobValues,
                         const QList<JobOption> &attributes, bool withDevice);
+
+/// The options of a printer that are never kept: passwords and what is built into it. The answer
+/// counts until the next call.
+const QSet<QString> &neverKept(const PpdSession &session);
 
 /// The values that the panels keep for a job of a session. `jobValues` may be null.
 QList<PanelEntry> panelEntries(const PpdSession &session, const PDEJobValues *jobValues);

@@ -4,13 +4,9 @@
 
 namespace corvana {
 
-PresetShelf::PresetShelf(PresetPlaces places, QObject *parent)
-    : QObject(parent), m_store(std::move(places))
+void PresetShelf::setPrinter(const PresetPlaces &places, const QString &model)
 {
-}
-
-void PresetShelf::setModel(const QString &model)
-{
+    m_store = PresetStore(places);
     if (m_model != model) {
         m_model = model;
         m_listing = {};

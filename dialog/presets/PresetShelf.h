@@ -19,10 +19,10 @@ class PresetShelf : public QObject
 public:
     enum class Change { Saved, Renamed, Removed, LastJob };
 
-    explicit PresetShelf(PresetPlaces places, QObject *parent = nullptr);
+    explicit PresetShelf(QObject *parent = nullptr) : QObject(parent) {}
 
-    /// The model whose presets are listed from now on. changed() follows.
-    void setModel(const QString &model);
+    /// Where presets lie, and for which model they are listed from now on. changed() follows.
+    void setPrinter(const PresetPlaces &places, const QString &model);
     /// Looks again, since other windows keep presets as well. changed() follows where there are
     /// others.
     void look();
@@ -45,7 +45,7 @@ Q_SIGNALS:
 private:
     void run(Change change, const QString &name, std::function<QString()> work);
 
-    PresetStore m_store;
+    PresetStore m_store{PresetPlaces()};
     QString m_model;
     PresetListing m_listing;
     PresetWork m_work; // last: what it does may still use a copy of the others

@@ -143,11 +143,17 @@ PresetListing PresetStore::list(const QString &model) const
     for (const QString &one : std::as_const(models)) {
         PresetListing part;
         read(m_places.own, folderName(one), true, &part);
-        for (const QString &place : m_places.forEverybody)
-            read(place, folderName(one), false, &part);
+        // An administrator may put files anywhere; each says itself which printers it is for.
+        for (const QString &place : m_places.forEverybody) {
+            for (const QString &folder : {folderName(one), u"."_s})
+                read(place, folder, false, &part);
+        }
         keepModel(&part, one);
         sortByName(&part.presets);
-        listing.problems += part.problems;
+        for (const QString &problem : std::as_const(part.problems)) {
+            if (!listing.problems.contains(problem))
+                listing.problems += problem;
+        }
         for (const StoredPreset &stored : std::as_const(part.presets)) {
             if (!listing.find(stored.preset.name))
                 listing.presets += stored;
@@ -160,7 +166,7 @@ PresetListing PresetStore::listAll() const
 {
     PresetListing listing;
     const auto readBelow = [&](const QString &place, bool isOwn) {
-        const QStringList folders = QDir(place).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        const QStringList folders = QDir(place).entryList(QDir::Dirs | QDir::NoDotDot);
         for (const QString &folder : folders.mid(0, kMostPresets))
             read(place, folder, isOwn, &listing);
     };

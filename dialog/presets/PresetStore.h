@@ -14,7 +14,7 @@ namespace corvana {
 struct PresetPlaces
 {
     QString own;                ///< the user's; one folder a model below it
-    QStringList forEverybody{}; ///< an administrator's, in the same form; only read
+    QStringList forEverybody{}; ///< an administrator's, there or in it itself; only read
 
     bool operator==(const PresetPlaces &) const = default;
     /// Those of this user: $XDG_DATA_HOME/corvana-print/presets.

@@ -31,7 +31,7 @@ void PanelHost::restoreTo(const SessionSnapshot &snapshot)
     restoreAll();
     m_session.restore(snapshot); // panels write entries of their own while they restore
     m_pending.clear();
-    m_news = {};
+    m_news = {.scheduled = m_news.scheduled};
 }
 
 } // namespace corvana

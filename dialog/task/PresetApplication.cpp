@@ -6,6 +6,7 @@
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/session/LockedValues.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/OptionTexts.h"
@@ -75,6 +76,9 @@ private:
         trial.setEntries(m_session.printSettings().entries());
         const QList<JobOption> options = m_content.jobOptions();
         for (const JobOption &option : options) {
+            // A file may name them all the same.
+            if (neverKept(m_session).contains(option.name))
+                continue;
             JobValueClaim claim;
             if (m_printer.jobValues)
                 claim = m_printer.jobValues->takeJobOption(option, trial, m_session.ppd());
@@ -131,10 +135,13 @@ private:
     void markTogether()
     {
         while (true) {
-            const QList<Refusal> refusals = m_session.changeTogether(otherChoices());
+            const QList<OptionChoice> others = otherChoices();
+            const QList<Refusal> refusals = m_session.changeTogether(others);
             if (refusals.isEmpty())
                 return;
-            const Refusal left = leastMissed(refusals);
+            Refusal left = leastMissed(refusals);
+            if (!m_choices.contains(left.proposed))
+                left.proposed = others.constLast(); // which is in the way of something locked
             note(left.proposed.keyword, refusalText(left, m_session));
             m_choices.removeAll(left.proposed);
         }
@@ -170,6 +177,8 @@ private:
         markImplied(m_session, m_printer.jobValues);
         m_printer.panels->deliverPending();
         m_printer.panels->restoreAll();
+        if (!putBackLockedValues(m_session, m_printer.jobValues).isEmpty())
+            m_printer.panels->restoreAll();
         // What a panel proposed beside all that, nobody wishes; what became of it is compared.
         m_session.takeRefusals();
     }
@@ -262,6 +271,9 @@ private:
                 m_settings.setAttribute(attribute.name, attribute.value);
             else
                 m_settings.addAttributes({attribute});
+            if (m_settings.attribute(attribute.name) != attribute.value &&
+                !m_settings.lockedBy(attribute.name).isNull())
+                note(attribute.name, lockedText(attribute.name, m_session));
         }
         m_printer.panels->deliverPending();
     }

@@ -12,7 +12,9 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
@@ -60,6 +62,7 @@ public:
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
         Printing,  ///< texts are looked through, sheets are counted, then a job runs
+        Turning,   ///< one half of the sides is printed; somebody puts the sheets back
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -149,6 +152,14 @@ public:
     /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
     bool savesAsPdf() const;
 
+    // Its pages (PrintTask-pages.cpp)
+
+    /// What pages there are to be chosen. More is known of them when sheetsCounted() says so.
+    ChoosablePages choosablePages() const;
+    /// The user chose pages, as ChoosablePages::valueFor() writes them. Why they are not taken is
+    /// said.
+    void choosePages(const QString &ranges);
+
     // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
     // printer is ready.
 
@@ -180,6 +191,14 @@ public:
     /// Settings that come from before and are kept for later.
     TaskPresets &presets() const { return *m_baseline.presets; }
 
+    // What an administrator has decided (PrintTask-policy.cpp)
+
+    /// Who keeps an option, an attribute of the job or the number of copies ("copies") at what it
+    /// is, in a sentence for the place where it is shown; null where nobody does.
+    QString lockedBy(const QString &name) const;
+    /// Why nothing of the printer that is open goes into a file; empty where it may.
+    QString whyNoFile() const;
+
     // The colours of its pages (PrintTask-colors.cpp)
 
     /// How colours come out, as far as a screen can show it: with what the panels show now, while a
@@ -208,7 +227,17 @@ public:
     void leave();
     /// Ends the task from outside, whatever it is doing.
     void interrupt(OnInterrupt job);
-    bool isJobHandedOver() const { return m_run.job && m_run.job->isHandedOver(); }
+    /// Whether the job goes on without this program. One whose sheets have to be put back does not.
+    bool isJobHandedOver() const
+    {
+        return m_run.job && m_run.job->isHandedOver() && !isFirstPass();
+    }
+    /// Whether one half of the sides is printed by now, or is being printed, and the other half is
+    /// not.
+    bool isBetweenPasses() const
+    {
+        return m_phase == Phase::Turning || (m_run.job && isFirstPass());
+    }
     /// Of the job that ended last; Failed without a text before that.
     const JobOutcome &outcome() const { return m_run.outcome; }
     /// Whether the job waits in its queue for instructions to be followed.
@@ -282,6 +311,7 @@ private:
         bool held = false;            // the job waits until its instructions have been followed
         bool textsAreSettled = false; // nothing has to be asked about them any more
         Awaits awaits = Awaits::Nothing;
+        std::optional<HandRun> hand{}; // of a job that is printed on both sides by hand
     };
     struct Output
     {
@@ -374,6 +404,13 @@ private:
     void recordStep(const QString &name = {});
     QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
 
+    void lock(OpenedPrinter &opened);
+    QStringList keepLocks();
+    QStringList lockedTexts(const QStringList &keywords) const;
+    QStringList lockedCopies() const;
+    QStringList problemsOfLocks() const;
+    void sayLocked(const QStringList &keywords);
+
     void settingsAffectColors();
     void showColors();
 
@@ -387,6 +424,15 @@ private:
     void awaitTexts();
     void settleTexts();
     void startJob(const JobTicket &ticket);
+    void followJob(std::unique_ptr<Job> job);
+
+    void startByHand(const JobTicket &ticket);
+    void startPass();
+    bool isFirstPass() const;
+    std::optional<JobOutcome> afterPass(const JobOutcome &outcome);
+    QString textOfHalf(const QString &other) const;
+    void askToTurn();
+    void endBetweenPasses(Phase next);
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;
@@ -400,6 +446,7 @@ private:
     bool isPreparing() const { return m_phase == Phase::Printing && !m_run.job; }
     void stopPreparing();
     void endPreparing();
+    ChoosableDocument choosable(const Document &document, const DocumentSheets *counted) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     void jobFinished(const JobOutcome &outcome);
 

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 
+#include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/presets/PresetStore.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -28,7 +29,7 @@ void applyLastUsed(const PrintRequest &request, OpenedPrinter &printer, JobSetti
                    StartOutcome *outcome)
 {
     outcome->defaults = outcome->kept = contentOf(printer, settings);
-    if (!request.remembersLastUsed)
+    if (!remembersLastUsed(request, printer.fetched.printer))
         return;
     const LastUsedReading reading = readLastUsed(printer.fetched.printer, request.server.text());
     if (!reading.problem.isEmpty())
@@ -50,8 +51,8 @@ void applyNamedPreset(const PrintRequest &request, OpenedPrinter &printer, JobSe
 {
     if (request.preset.isEmpty())
         return;
-    const PresetListing all =
-        PresetStore(request.presetPlaces).list(modelOf(printer.session->ppd()));
+    const PresetListing all = PresetStore(presetPlacesOf(request, printer.fetched.printer))
+                                  .list(modelOf(printer.session->ppd()));
     const std::optional<StoredPreset> found = all.find(presetName(request.preset));
     if (!found) {
         outcome->unset += all.problems;
@@ -75,6 +76,19 @@ void applyNamedPreset(const PrintRequest &request, OpenedPrinter &printer, JobSe
 }
 
 } // namespace
+
+bool remembersLastUsed(const PrintRequest &request, const Printer &printer)
+{
+    return request.remembersLastUsed && policyOf(request).bringsLastUsedBack(printer);
+}
+
+PresetPlaces presetPlacesOf(const PrintRequest &request, const Printer &printer)
+{
+    PresetPlaces places = request.presetPlaces;
+    if (const QString folder = policyOf(request).presetsFolder(printer); !folder.isEmpty())
+        places.forEverybody += folder;
+    return places;
+}
 
 PresetContent contentOf(const OpenedPrinter &printer, const JobSettings &settings, bool withDevice)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/presets/PresetContent.h"
+#include "dialog/presets/PresetStore.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/StartValues.h"
 
@@ -8,6 +8,14 @@ namespace corvana {
 
 struct OpenedPrinter;
 struct PrintRequest;
+struct Printer;
+
+/// Whether jobs of a printer start with what was changed for the last one: the user and the
+/// administrator want it.
+bool remembersLastUsed(const PrintRequest &request, const Printer &printer);
+
+/// Where presets for a printer lie: the user's, and the administrator's for everybody.
+PresetPlaces presetPlacesOf(const PrintRequest &request, const Printer &printer);
 
 /// What is set now that can be kept for a later job.
 PresetContent contentOf(const OpenedPrinter &printer, const JobSettings &settings,

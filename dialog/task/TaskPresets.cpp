@@ -4,6 +4,7 @@
 
 #include <QSignalBlocker>
 
+#include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintTask.h"
@@ -29,7 +30,7 @@ QString sentences(const QStringList &all)
 
 } // namespace
 
-TaskPresets::TaskPresets(PrintTask &task) : m_task(task), m_shelf(task.request().presetPlaces)
+TaskPresets::TaskPresets(PrintTask &task) : m_task(task)
 {
     connect(&m_shelf, &PresetShelf::changed, this, &TaskPresets::listed);
     connect(&m_shelf, &PresetShelf::ended, this, &TaskPresets::changeEnded);
@@ -99,9 +100,8 @@ void TaskPresets::start(const StartOutcome &started)
 
 void TaskPresets::begin()
 {
-    // What a script keeps it keeps by its name; nobody chooses there.
-    if (m_task.m_chosen.canBeAnother)
-        m_shelf.setModel(modelName());
+    if (m_task.m_chosen.canBeAnother || !m_task.request().presetToSave.isEmpty())
+        m_shelf.setPrinter(presetPlacesOf(m_task.request(), m_task.printer()), modelName());
     Q_EMIT changed();
 }
 
@@ -262,7 +262,12 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
 
 bool TaskPresets::remembersLastUsed() const
 {
-    return m_task.request().remembersLastUsed;
+    return corvana::remembersLastUsed(m_task.request(), m_task.printer());
+}
+
+bool TaskPresets::mayRememberLastUsed() const
+{
+    return policyOf(m_task.request()).bringsLastUsedBack(m_task.printer());
 }
 
 void TaskPresets::setRemembersLastUsed(bool remembers)

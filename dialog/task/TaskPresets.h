@@ -93,6 +93,8 @@ public:
 
     /// Whether jobs start with what was changed for the last one.
     bool remembersLastUsed() const;
+    /// Whether the administrator leaves that to the user.
+    bool mayRememberLastUsed() const;
     /// The user's preference, for all windows from now on. Switched off, what is remembered goes.
     void setRemembersLastUsed(bool remembers);
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QTextStream>
 
+#include "dialog/policy/Policy.h"
 #include "dialog/presets/PresetStore.h"
 #include "platform/foundation/ForeignText.h"
 
@@ -10,7 +11,15 @@ namespace corvana {
 
 int listPresets(const PrintRequest &request)
 {
-    const PresetListing all = PresetStore(request.presetPlaces).listAll();
+    PresetPlaces places = request.presetPlaces;
+    const Policy &policy = policyOf(request);
+    for (const PolicyEntry &entry : policy.reading().entries) {
+        const bool isFolder = entry.key == PolicyKey::Presets && !entry.value.isEmpty();
+        if (isFolder && policy.appliesToUser(entry.scope) &&
+            !places.forEverybody.contains(entry.value))
+            places.forEverybody += entry.value;
+    }
+    const PresetListing all = PresetStore(places).listAll();
     QTextStream out(stdout);
     for (const StoredPreset &stored : all.presets) {
         const QString model = stored.preset.model.isEmpty()

@@ -98,6 +98,7 @@ void PresetMenu::addChanges()
     QAction *remember = addAction(tr("Re&member the Settings of the Last Job"));
     remember->setCheckable(true);
     remember->setChecked(m_presets.remembersLastUsed());
+    remember->setEnabled(m_presets.mayRememberLastUsed());
     connect(remember, &QAction::triggered, &m_presets, &TaskPresets::setRemembersLastUsed);
 }
 
