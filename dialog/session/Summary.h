@@ -17,6 +17,9 @@ QStringList generalOptionKeywords();
 /// InstallableOptions) is nobody's to choose for a job.
 QList<ppd_option_t *> furtherOptions(const PpdSession &session);
 
+/// The options of what is built into the printer.
+QStringList installedPartKeywords(const PpdSession &session);
+
 /// What a custom value ("Custom.…") is to a person: a paper size in the units of the user's region,
 /// dots for a password, else the value itself.
 QString customText(const PpdSession &session, const QString &keyword, const QString &custom);
