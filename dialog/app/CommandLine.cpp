@@ -283,8 +283,8 @@ QString emptyName(const QCommandLineParser &parser, const Options &options)
 {
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
-          &options.documentPasswordFile, &options.bundleRoot, &options.preset,
-          &options.savePreset, &options.saveInstance}) {
+          &options.documentPasswordFile, &options.bundleRoot, &options.preset, &options.savePreset,
+          &options.saveInstance}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
             return u"%1 \"\": %2 is missing."_s.arg((name.size() == 1 ? u"-"_s : u"--"_s) + name,
@@ -306,7 +306,7 @@ QString contradictionIn(const CommandLine &line)
         return u"--save-preset prints nothing: no document can be named."_s;
     if (line.json && !line.noDialog)
         return u"--format=json is for runs without a window (--no-dialog)."_s;
-    if (!line.instance.isEmpty() && !line.noDialog)
+    if (!line.instance.isEmpty() && !line.documents.isEmpty() && !line.noDialog)
         return u"--save-instance is for runs without a window (--no-dialog)."_s;
     if (line.output != kStandardStream)
         return {};
@@ -321,8 +321,7 @@ QString contradictionIn(const CommandLine &line)
 bool takesDocument(const CommandLine &line)
 {
     return !line.listPrinters && !line.listPresets && line.savePreset.isEmpty() &&
-           !line.checkDisplay && !line.summary &&
-           line.instance.isEmpty();
+           !line.checkDisplay && !line.summary && line.instance.isEmpty();
 }
 
 // In a window documents can be chosen.

@@ -141,10 +141,9 @@ public:
     void showSettings();
     /// The summary of the job as it stands now.
     QList<SummaryLine> summary();
-    /// What the settings would be as an instance of the queue, under a name that was made from this
-    /// one (PrintTask-instances.cpp). Whoever is told so writes it with UserQueuesFile, which waits.
-    /// `own`: the instances that may be replaced.
-    InstanceDraft instanceDraft(const QString &name, const QStringList &own = {});
+    /// What the settings would be as an instance of the queue, under a name that is made from this
+    /// one (PrintTask-instances.cpp). Whoever wants it writes it with writeInstance(), which waits.
+    InstanceDraft instanceDraft(const QString &name, const KnownInstances &known, bool withDevice);
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
@@ -423,6 +422,7 @@ private:
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
     std::optional<TaskRefusal> saveInstance();
+    void sayOfInstance(const InstanceDraft &draft);
     QString unknownDocument() const;
     void lookForMissingCharacters();
     bool isTextCheckOver() const;

@@ -195,7 +195,17 @@ void TaskPresets::save(const PresetToSave &wanted)
         preset.model.clear();
         preset.content = changes;
     }
-    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow()};
+    InstanceDraft instance;
+    if (!wanted.instance.isEmpty()) {
+        lookForInstances();
+        instance = m_task.instanceDraft(wanted.instance, m_known, wanted.device);
+    }
+    if (!instance.problem.isEmpty()) {
+        m_task.say(TaskMessage::Kind::Problem, instance.problem);
+        Q_EMIT ended(instance.problem);
+        return;
+    }
+    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), instance};
     m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
 }
 
@@ -203,8 +213,11 @@ void TaskPresets::update()
 {
     const SelectedPreset selected = m_kept.selected;
     const std::optional<StoredPreset> found = listing().find(selected.name);
-    if (selected.kind == Kind::Preset)
-        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true});
+    if (selected.kind != Kind::Preset)
+        return;
+    lookForInstances();
+    save({selected.name, found && found->preset.model.isEmpty(), selected.device, true,
+          instanceOf(selected.name).section(u'/', 1)});
 }
 
 void TaskPresets::rename(const QString &name)
@@ -248,10 +261,16 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
     } else if (saving && isReady) {
         m_kept.selected = saving->selected;
         m_task.setBase({saving->settings, selectedName()});
+        if (!saving->instance.name.isEmpty()) {
+            Q_EMIT changed();
+            return keepInstance(*saving);
+        }
     } else if (change == Change::Renamed && isReady) {
+        renameInstance(m_kept.selected.name, name);
         m_kept.selected.name = name;
         m_task.setBase({m_task.base().settings, selectedName()});
     } else if (change == Change::Removed && m_kept.selected.name == name && isReady) {
+        removeInstance(name);
         m_kept.selected = {};
         m_task.setBase({m_task.base().settings, selectedName()});
     }

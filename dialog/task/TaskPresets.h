@@ -5,6 +5,8 @@
 #include <QObject>
 
 #include "dialog/presets/PresetShelf.h"
+#include "dialog/presets/PresetWork.h"
+#include "dialog/task/InstanceDraft.h"
 #include "dialog/task/TaskSettings.h"
 
 namespace corvana {
@@ -46,6 +48,9 @@ struct PresetToSave
     bool forAllPrinters = false; ///< else for those of the model that is open
     bool device = false;         ///< with what sets up the device as well
     bool replaces = false;       ///< a preset of that name may be there
+    /// The name under which other programs are to have them as well, as an instance of the queue
+    /// that is open; empty: they do not.
+    QString instance{};
 };
 
 /// The settings of one task that come from before and are kept for later: presets, the defaults of
@@ -75,6 +80,18 @@ public:
     QString modelName() const;
     /// The options that set up the device, by their texts; empty where this printer has none.
     QString deviceSettings() const;
+
+    // Presets in other programs (TaskPresets-instances.cpp)
+
+    /// Looks for the instances that are there.
+    void lookForInstances() { m_known = KnownInstances::read(); }
+    /// Whether the printer that is open has instances.
+    bool canHaveInstances() const;
+    /// What a preset of that name would be called there, or why it cannot be there.
+    InstanceDraft instanceNamed(const QString &name) const;
+    /// As what other programs have the preset of that name on the printer that is open
+    /// ("lobby/reports"); null when they have not.
+    QString instanceOf(const QString &name) const;
 
     // Each is one step, and says what of it the printer has not.
 
@@ -121,6 +138,7 @@ private:
     {
         SelectedPreset selected;
         TaskSettings settings;
+        InstanceDraft instance{};
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
@@ -129,6 +147,9 @@ private:
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
     QStringList namesOf(const PresetContent &content) const;
+    void keepInstance(const Saving &saving);
+    void removeInstance(const QString &name);
+    void renameInstance(const QString &name, const QString &newName);
 
     PrintTask &m_task;
     PresetShelf m_shelf;
@@ -136,6 +157,8 @@ private:
     PresetContent m_ofJob; // that is printed
     std::optional<Saving> m_saving;
     QStringList m_told; // files that were spoken of
+    KnownInstances m_known;
+    PresetWork m_work; // on instances
 };
 
 } // namespace corvana

@@ -166,7 +166,7 @@ private:
         if (name.isEmpty())
             m_task.print();
         else
-            m_task.presets().save({name, false, false, true});
+            m_task.presets().save({name, false, false, true, m_task.request().instance});
     }
 
     void presetEnded(const QString &problem)

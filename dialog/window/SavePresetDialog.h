@@ -21,20 +21,23 @@ class SavePresetDialog : public QDialog
     Q_OBJECT
 
 public:
-    SavePresetDialog(const TaskPresets &presets, bool rename, QWidget *parent = nullptr);
+    SavePresetDialog(TaskPresets &presets, bool rename, QWidget *parent = nullptr);
 
     PresetToSave preset() const;
 
 private:
     void addRange();
+    void addInstance();
+    QString checkInstance();
     void check();
 
-    const TaskPresets &m_presets;
+    TaskPresets &m_presets;
     const bool m_renames;
     QLineEdit *m_name;
     QRadioButton *m_forModel = nullptr;
     QRadioButton *m_forAll = nullptr;
     QCheckBox *m_device = nullptr;
+    QCheckBox *m_instance = nullptr; // null: the printer has none
     QLabel *m_remark = nullptr;
     QPushButton *m_save = nullptr;
     bool m_replaces = false; // as the button says
