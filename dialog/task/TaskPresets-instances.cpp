@@ -2,9 +2,13 @@
 
 #include "dialog/printers/OwnInstances.h"
 #include "dialog/printers/UserQueuesFile.h"
+#include "dialog/session/JobAttributes.h"
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/StartValues.h"
 
 namespace corvana {
+
+using namespace Qt::StringLiterals;
 
 bool TaskPresets::canHaveInstances() const
 {
@@ -23,6 +27,39 @@ QString TaskPresets::instanceOf(const QString &name) const
     return canHaveInstances() && !name.isEmpty()
                ? m_known.ofSettings(name, queueOfInstance(m_task.printer().name))
                : QString();
+}
+
+QStringList TaskPresets::instancesOfOthers() const
+{
+    if (!canHaveInstances())
+        return {};
+    QStringList names = m_known.queues.instancesOf(queueOfInstance(m_task.printer().name));
+    names.removeIf([this](const QString &name) { return m_known.own.contains(name); });
+    return names;
+}
+
+void TaskPresets::useInstance(const QString &name)
+{
+    lookForInstances();
+    const QList<JobOption> options = m_known.queues.optionsOf(name);
+    if (options.isEmpty())
+        return m_task.say(TaskMessage::Kind::Problem,
+                          tr("“%1” is not there any more, or has no settings.").arg(name));
+    apply(m_kept.defaults, {}, {SelectedPreset::Kind::Preset, name}, options);
+}
+
+// Pages and copies are of one job, whoever has set them. Answers what this printer does not take.
+QStringList TaskPresets::takeInstance(const QList<JobOption> &options)
+{
+    QList<JobOption> kept = options;
+    kept.removeIf([](const JobOption &option) {
+        const QString name = inOneSpelling(option).name;
+        return name == "copies"_L1 || (jobAttribute(name) && !isKept(name));
+    });
+    const OptionOutcome outcome = applyUsersOptions(kept, *m_task.opened());
+    for (const JobOption &attribute : outcome.attributes)
+        m_task.settings().setAttribute(attribute.name, attribute.value);
+    return outcome.problems;
 }
 
 // The preset is kept. Other programs get it beside the GUI thread, since they may be writing the

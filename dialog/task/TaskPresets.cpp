@@ -129,7 +129,7 @@ void TaskPresets::use(const QString &name)
 
 // `chosen`: what of the content was chosen by somebody.
 void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
-                        const SelectedPreset &selected)
+                        const SelectedPreset &selected, const QList<JobOption> &ofInstance)
 {
     if (m_task.phase() != Phase::Ready || !m_task.m_face.finishEditing())
         return;
@@ -141,6 +141,8 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
         const QSignalBlocker blocker(m_task.opened()->panels.get());
         outcome = applyPreset(content, {PresetUse::Others::Cleared, chosen}, m_task.documents(),
                               *m_task.opened(), m_task.settings());
+        if (!ofInstance.isEmpty())
+            outcome.missing += takeInstance(ofInstance);
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer

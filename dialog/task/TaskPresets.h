@@ -93,11 +93,15 @@ public:
     /// ("lobby/reports"); null when they have not.
     QString instanceOf(const QString &name) const;
 
+    /// The instances of the queue that is open which others have made, by their whole names.
+    QStringList instancesOfOthers() const;
+
     // Each is one step, and says what of it the printer has not.
 
     void useDefaults();
     void useLastUsed();
     void use(const QString &name);
+    void useInstance(const QString &name);
 
     // Beside the GUI thread: ended() follows. What cannot be done is said; the settings of the task
     // are the same then.
@@ -142,7 +146,8 @@ private:
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
-               const SelectedPreset &selected);
+               const SelectedPreset &selected, const QList<JobOption> &ofInstance = {});
+    QStringList takeInstance(const QList<JobOption> &options);
     void say(const QStringList &missing, const QStringList &details);
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);

@@ -34,6 +34,7 @@ PresetMenu::PresetMenu(TaskPresets &presets, QWidget *parent) : QMenu(parent), m
     setObjectName(u"presetMenu"_s);
     connect(this, &QMenu::aboutToShow, this, [this] {
         m_presets.look(); // other windows keep some as well
+        m_presets.lookForInstances();
         fill();
     });
     connect(&m_presets, &TaskPresets::changed, this, [this] {
@@ -75,6 +76,14 @@ void PresetMenu::addPresets()
         wasForModel = isForModel;
         QAction *action = addChoice(presetLabel(name), {Kind::Preset, name});
         connect(action, &QAction::triggered, &m_presets, [this, name] { m_presets.use(name); });
+    }
+    const QStringList instances = m_presets.instancesOfOthers();
+    if (!instances.isEmpty())
+        addSection(tr("From Other Programs"));
+    for (const QString &name : instances) {
+        QAction *action = addChoice(presetLabel(name), {Kind::Preset, name});
+        connect(action, &QAction::triggered, &m_presets,
+                [this, name] { m_presets.useInstance(name); });
     }
 }
 

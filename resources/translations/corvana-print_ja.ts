@@ -2943,6 +2943,10 @@ For the command line: %2</source>
         <source>Delete</source>
         <translation>削除</translation>
     </message>
+    <message>
+        <source>From Other Programs</source>
+        <translation>他のプログラムの設定</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PresetRow</name>
@@ -3065,6 +3069,10 @@ For the command line: %2</source>
     <message>
         <source>Other programs still have “%1”: %2</source>
         <translation>他のプログラムにはまだ「%1」があります: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more, or has no settings.</source>
+        <translation>「%1」はもう存在しないか、設定がありません。</translation>
     </message>
 </context>
 <context>

@@ -2943,6 +2943,10 @@ For the command line: %2</source>
         <source>Delete</source>
         <translation>删除</translation>
     </message>
+    <message>
+        <source>From Other Programs</source>
+        <translation>来自其他程序</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PresetRow</name>
@@ -3065,6 +3069,10 @@ For the command line: %2</source>
     <message>
         <source>Other programs still have “%1”: %2</source>
         <translation>其他程序中仍有“%1”：%2</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more, or has no settings.</source>
+        <translation>“%1”已不存在，或没有任何设置。</translation>
     </message>
 </context>
 <context>
