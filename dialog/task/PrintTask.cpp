@@ -7,6 +7,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/OptionValues.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/AttributeEffects.h"
@@ -236,6 +237,8 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
 {
     bringUp();
     Q_EMIT unsaid();
+    if (isValueOfPanels({keyword, choice}, *m_opened->session, m_opened->jobValues))
+        return proposeToPanels({keyword, choice});
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
     if (result.outcome != ChangeResult::Outcome::Conflict &&
@@ -243,6 +246,16 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
         return; // taken; or no choice of this printer, which the session has logged
     sayRefusal({{keyword, choice}, result.conflicting});
     showSettings(); // the page shows what the user picked
+}
+
+// A value that the panels keep themselves: the mark of the PPD would be nothing that they print.
+void PrintTask::proposeToPanels(const JobOption &option)
+{
+    const OptionOutcome outcome =
+        applyOptions({option}, *m_opened->session, m_opened->jobValues, *m_opened->panels);
+    if (!outcome.ok())
+        say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
+    showSettings();
 }
 
 QList<OfferedAttribute> PrintTask::attributes() const

@@ -51,6 +51,7 @@ void SettingsPages::addPages()
     }
     if (m_panelPages.isEmpty() && OptionsPage::hasOptions(*printer.session)) {
         m_options = new OptionsPage(*printer.session);
+        m_optionsTab = m_options;
         addTab(m_options, tr("Options"));
         connect(m_options, &OptionsPage::proposed, &m_task, &PrintTask::propose);
     }
@@ -93,6 +94,7 @@ bool SettingsPages::showPanels()
     if (std::exchange(m_showsPanels, true))
         return false;
     showPanelViews();
+    addAllOptions();
     m_summary->build();
     enter(currentIndex());
     return true;
@@ -120,6 +122,7 @@ void SettingsPages::close()
     m_panelPages.clear();
     m_showsPanels = false;
     m_general = nullptr;
+    m_optionsTab = nullptr;
     m_options = nullptr;
     m_summary = nullptr;
 }
@@ -199,7 +202,7 @@ bool SettingsPages::finishEditing()
     }
     if (!m_options || m_options->finishEditing())
         return true;
-    setCurrentWidget(m_options);
+    setCurrentWidget(m_optionsTab);
     m_options->focusEditor();
     return false;
 }
@@ -237,6 +240,8 @@ void SettingsPages::enter(int)
 {
     if (!m_general || m_task.phase() == PrintTask::Phase::Opened)
         return;
+    if (currentWidget() == m_optionsTab)
+        makeOptions();
     PanelHost &panels = *m_task.opened()->panels;
     if (!panels.visit(currentPanel())) {
         const QSignalBlocker blocker(this);
