@@ -67,11 +67,22 @@ QStringList generalOptionKeywords()
     return {kDuplexOption, kPageSizeOption, kOutputOption, kColorMatchingModeOption};
 }
 
+QList<ppd_option_t *> choosableOptions(const PpdSession &session)
+{
+    QList<ppd_option_t *> options = session.options();
+    const QList<const ppd_option_t *> installed = installedParts(session.ppd());
+    options.removeIf([&](const ppd_option_t *option) {
+        return option->num_choices == 0 || installed.contains(option);
+    });
+    return options;
+}
+
 QList<ppd_option_t *> furtherOptions(const PpdSession &session)
 {
-    QList<ppd_option_t *> options = optionsBesideGeneral(session);
-    const QList<const ppd_option_t *> installed = installedParts(session.ppd());
-    options.removeIf([&](const ppd_option_t *option) { return installed.contains(option); });
+    QList<ppd_option_t *> options = choosableOptions(session);
+    const QStringList general = generalOptionKeywords();
+    options.removeIf(
+        [&](const ppd_option_t *option) { return general.contains(ppdKeyword(option->keyword)); });
     return options;
 }
 

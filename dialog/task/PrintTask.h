@@ -385,6 +385,7 @@ private:
     void noteMissingPages();
     void settled();
     void sayRefusal(const Refusal &refusal);
+    void proposeToPanels(const JobOption &option);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
     void beginHistory();

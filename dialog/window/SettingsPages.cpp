@@ -52,6 +52,7 @@ void SettingsPages::addPages()
     }
     if (m_panelPages.isEmpty() && OptionsPage::hasOptions(*printer.session)) {
         m_options = new OptionsPage(*printer.session);
+        m_optionsTab = m_options;
         addTab(m_options, tr("Options"));
         connect(m_options, &OptionsPage::proposed, &m_task, &PrintTask::propose);
     }
@@ -97,6 +98,7 @@ bool SettingsPages::showPanels()
     if (std::exchange(m_showsPanels, true))
         return false;
     showPanelViews();
+    addAllOptions();
     m_summary->build();
     enter(currentIndex());
     return true;
@@ -124,6 +126,7 @@ void SettingsPages::close()
     m_panelPages.clear();
     m_showsPanels = false;
     m_general = nullptr;
+    m_optionsTab = nullptr;
     m_options = nullptr;
     m_summary = nullptr;
 }
@@ -204,7 +207,7 @@ bool SettingsPages::finishEditing()
     }
     if (!m_options || m_options->finishEditing())
         return true;
-    setCurrentWidget(m_options);
+    setCurrentWidget(m_optionsTab);
     m_options->focusEditor();
     return false;
 }
@@ -242,6 +245,8 @@ void SettingsPages::enter(int)
 {
     if (!m_general || m_task.phase() == PrintTask::Phase::Opened)
         return;
+    if (currentWidget() == m_optionsTab)
+        makeOptions();
     PanelHost &panels = *m_task.opened()->panels;
     if (!panels.visit(currentPanel())) {
         const QSignalBlocker blocker(this);

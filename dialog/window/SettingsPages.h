@@ -12,6 +12,7 @@ class OptionsPage;
 class PanelPage;
 class PrintTask;
 class SummaryPage;
+struct Setting;
 
 /// The pages of a task's settings: General, one for each panel (the options of a printer without
 /// any), Summary; or one that says what is being waited for.
@@ -40,6 +41,15 @@ public:
     bool finishEditing();
     /// Shows where the pages to print are typed.
     void showPageRanges();
+    /// Where a setting is seen.
+    struct Shown
+    {
+        QWidget *control = nullptr; ///< null where it is not shown
+        QRect part{};               ///< of the control, where that shows many settings
+        bool canBeSet = false;      ///< it has the focus
+    };
+    /// Goes to the page of a setting, opens what hides it there, and puts the focus on it.
+    Shown goTo(const Setting &setting);
     /// The index of the panel whose page is shown; -1 on a page of the dialog.
     int currentPanel() const;
     /// The page of a panel that is shown; null on a page of the dialog.
@@ -56,11 +66,16 @@ Q_SIGNALS:
     void entered();
     /// missingHeight() has another answer.
     void heightChanged();
+    /// A page got further controls, which come last for Tab.
+    void controlsAdded();
     /// Other copies or other pages were typed.
     void jobEdited();
 
 private:
     void addPages();
+    void addAllOptions();
+    void makeOptions();
+    QWidget *disclose(const Setting &setting);
     void showPanelViews();
     void addGeneral();
     void showAttributes();
@@ -71,7 +86,8 @@ private:
     PrintTask &m_task;
     GeneralPage *m_general = nullptr;
     QList<PanelPage *> m_panelPages;
-    OptionsPage *m_options = nullptr; // of a printer without panels
+    QWidget *m_optionsTab = nullptr;  // that has the list of options, once it was looked at
+    OptionsPage *m_options = nullptr; // null until then, and where there is none
     SummaryPage *m_summary = nullptr;
     bool m_showsPanels = false;
     QString m_former; // the title of the page that was shown when the pages were closed

@@ -166,6 +166,18 @@ void AttributeRows::sayWhatIsSet()
     Q_EMIT heightChanged();
 }
 
+QWidget *AttributeRows::disclose(const QString &name)
+{
+    const auto found =
+        std::find_if(m_offered.cbegin(), m_offered.cend(),
+                     [&name](const OfferedAttribute &one) { return one.name == name; });
+    const bool isMore = found != m_offered.cend() && found->place == Place::More;
+    if (isMore && m_disclosure)
+        m_disclosure->setChecked(true); // which makes the rows behind it
+    AttributeEditor *row = editor(name);
+    return row ? row->control() : nullptr;
+}
+
 void AttributeRows::showProblem(const QString &name, const QString &problem)
 {
     if (AttributeEditor *row = editor(name))

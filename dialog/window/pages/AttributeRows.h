@@ -32,6 +32,8 @@ public:
     void showProblem(const QString &name, const QString &problem);
     /// Takes what is being typed. Errors: false; the row is shown, says why, and has the focus.
     bool finishEditing();
+    /// The control of an attribute, disclosed; null for one that is none of these rows.
+    QWidget *disclose(const QString &name);
     /// The disclosure is open.
     bool showsMore() const;
 

@@ -181,6 +181,19 @@ void GeneralPage::focusPageRanges()
     m_pageRanges->selectAll();
 }
 
+QWidget *GeneralPage::disclose(const QString &name)
+{
+    if (name == m_copies->objectName())
+        return m_copies;
+    if (name == kPageRangesAttribute)
+        return m_pageRanges;
+    if (m_collate && name == m_collate->objectName())
+        return m_collate;
+    if (QComboBox *popUp = m_popUps.value(name))
+        return popUp;
+    return m_attributes->disclose(name);
+}
+
 void GeneralPage::setAttributes(const QList<OfferedAttribute> &offered)
 {
     for (const OfferedAttribute &one : offered) {

@@ -52,6 +52,9 @@ public:
     void setCanChoosePages(bool can);
     /// Puts the focus where the pages are typed.
     void focusPageRanges();
+    /// The control of an option, an attribute, the copies ("copies") or the pages, disclosed; null
+    /// for what is not on this page.
+    QWidget *disclose(const QString &name);
     /// Shows the session's marks.
     void refresh();
     /// Shows the attributes of the job. To be called with the page in its window.

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <QWidget>
+
+#include "dialog/window/pages/ListedOptions.h"
 
 class QAction;
 class QLabel;
@@ -15,8 +18,9 @@ class OptionsModel;
 class OptionsView;
 class PpdSession;
 
-/// Every option of a printer that the General page does not offer, in the groups, the order and the
-/// words of its PPD: for printers that no panel knows.
+/// Options of a printer in the groups, the order and the words of its PPD: every one that the
+/// General page does not offer, for printers that no panel knows; or all of them, where panels
+/// leave some out.
 ///
 /// It shows the session and proposes changes; it changes nothing itself.
 class OptionsPage : public QWidget
@@ -24,8 +28,9 @@ class OptionsPage : public QWidget
     Q_OBJECT
 
 public:
-    /// Borrows the session.
-    explicit OptionsPage(PpdSession &session, QWidget *parent = nullptr);
+    /// Borrows the session, and the plug-in's values.
+    explicit OptionsPage(PpdSession &session, const ListedOptions &listed = {},
+                         QWidget *parent = nullptr);
     ~OptionsPage() override;
 
     /// Whether a session has any option for this page.
@@ -36,6 +41,14 @@ public:
     /// Takes what is being edited. False when that is not possible: the page says why, and the
     /// editor keeps it.
     bool finishEditing();
+    /// Shows an option, whatever was searched for, and puts the focus on it. Answers what shows it,
+    /// and where in that; null for an option that is not listed.
+    struct Row
+    {
+        QWidget *view = nullptr;
+        QRect place{};
+    };
+    Row goTo(const QString &keyword);
     /// Puts the focus where something is being edited.
     void focusEditor();
 
