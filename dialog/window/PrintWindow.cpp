@@ -120,6 +120,9 @@ void PrintWindow::connectParts()
     connect(m_preview, &PreviewPane::foldPressed, this,
             [this](bool fold) { m_folding->fold(fold); });
     m_taskPreview = new TaskPreview(*m_task, *m_preview, this);
+    connect(m_taskPreview, &TaskPreview::markPressed, this, [this](const QString &text) {
+        m_message->showMessage(MessageBar::Kind::Information, text);
+    });
     connect(m_pages, &SettingsPages::jobEdited, m_taskPreview, &TaskPreview::update);
     connect(m_header, &PrinterHeader::picked, this, [this](const Printer &printer) {
         // Picked again: nothing that was set so far is lost.
