@@ -258,6 +258,8 @@ Q_SIGNALS:
     /// More is known of the sheets than before: the summary and sheetPreview() say other things.
     void sheetsCounted();
     void said(const corvana::TaskMessage &message);
+    /// The user wants to see the first sheet of the document of that path.
+    void sheetWanted(const QString &path);
     /// What the task had said last is settled.
     void unsaid();
     /// Something that nobody has asked for just now, in lpoptions or among the defaults of the
@@ -352,6 +354,7 @@ private:
     void documentsLookedAt();
     void sayOfDocuments();
     QString problemOf(const Document &document) const;
+    QString damageOf(const Document &document) const;
     TaskRefusal documentProblems() const;
     bool mayAskForPassword() const;
     bool documentsAreReady();

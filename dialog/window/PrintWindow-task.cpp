@@ -204,6 +204,8 @@ void PrintWindow::showMessage(const TaskMessage &message)
         m_message->showMessage(kind, message.text);
     else
         m_message->showMessage(kind, message.text, message.offer, message.take);
+    if (message.staysWithoutPrinter)
+        m_message->keepOffer();
     m_message->addDetails(message.details);
 }
 

@@ -128,6 +128,9 @@ void PrintWindow::connectParts()
             [this](bool fold) { m_folding->fold(fold); });
     m_taskPreview = new TaskPreview(*m_task, *m_preview, this);
     new SettingFinder(*m_task, *m_footer->finder(), *m_pages, *m_message, this);
+    connect(m_taskPreview, &TaskPreview::markPressed, this, [this](const QString &text) {
+        m_message->showMessage(MessageBar::Kind::Information, text);
+    });
     connect(m_pages, &SettingsPages::jobEdited, m_taskPreview, &TaskPreview::update);
     connect(m_header, &PrinterHeader::picked, this, [this](const Printer &printer) {
         // Picked again: nothing that was set so far is lost.

@@ -1542,6 +1542,18 @@
         <source>Width × height:</source>
         <translation>幅 × 高さ:</translation>
     </message>
+<message>
+        <source>All, or such as 1-4, 7, 9-</source>
+        <translation>すべて。または 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>Choose Page&amp;s…</source>
+        <translation>ページを選択(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>文書が選択されていません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::HelpWindow</name>
@@ -1800,6 +1812,22 @@ For the command line: %2</source>
     <message>
         <source>Enter the Owner's Password…</source>
         <translation>所有者のパスワードを入力…</translation>
+    </message>
+<message>
+        <source>Show Its First Sheet</source>
+        <translation>最初の用紙を表示</translation>
+    </message>
+    <message>
+        <source>Its pages are made while it is printed. The preview shows them.</source>
+        <translation>ページは印刷時に作成されます。プレビューで確認できます。</translation>
+    </message>
+    <message>
+        <source>How many pages it has is not known.</source>
+        <translation>ページ数は不明です。</translation>
+    </message>
+    <message>
+        <source>It is being looked at…</source>
+        <translation>調べています…</translation>
     </message>
 </context>
 <context>
@@ -2564,6 +2592,10 @@ For the command line: %2</source>
         <source>Updating…</source>
         <translation>更新しています…</translation>
     </message>
+<message>
+        <source>%1. Note: %2</source>
+        <translation>%1。注意: %2</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SheetsRow</name>
@@ -2809,6 +2841,138 @@ For the command line: %2</source>
     <message>
         <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
         <translation>「%1」は、ほかの設定が今のままでは変更できません。「%2」にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>ChoosablePages</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Only the odd ones of them are printed, as is set for this job.</source>
+        <translation>このジョブの設定により、そのうち奇数ページだけが印刷されます。</translation>
+    </message>
+    <message>
+        <source>Only the even ones of them are printed, as is set for this job.</source>
+        <translation>このジョブの設定により、そのうち偶数ページだけが印刷されます。</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>ページが選択されていません。</translation>
+    </message>
+    <message>
+        <source>How many pages there are is not known.</source>
+        <translation>ページ数は不明です。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 page numbers chosen.</source>
+        <translation>%L2 個のページ番号のうち %L1 個を選択。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 pages chosen.</source>
+        <translation>%L2 ページのうち %L1 ページを選択。</translation>
+    </message>
+    <message>
+        <source>There are no pages %1.</source>
+        <translation>%1 ページはありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is no page. Pages are typed as in 1-4, 7, 9-.</source>
+        <translation>「%1」はページではありません。1-4, 7, 9- のように入力します。</translation>
+    </message>
+    <message>
+        <source>“%1” ends before it begins.</source>
+        <translation>「%1」は終わりが始まりより前です。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetMarks</name>
+    <message>
+        <source>The back of this sheet stays empty: only one side is printed.</source>
+        <translation>印刷する面が 1 つだけなので、この用紙の裏面は白紙になります。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageChooser</name>
+    <message>
+        <source>Choose Pages</source>
+        <translation>ページの選択</translation>
+    </message>
+    <message>
+        <source>&amp;Pages:</source>
+        <translation>ページ(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Such as 1-4, 7, 9-</source>
+        <translation>例: 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>なし(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Odd</source>
+        <translation>奇数(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Even</source>
+        <translation>偶数(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反転(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
+        <translation>ページ番号はどの文書にも共通です。1 つの文書で選択した番号は、すべての文書で選択されます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>page, its label</comment>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageModel</name>
+    <message>
+        <source>It has %L1 pages, too many to be shown here. They can be typed.</source>
+        <translation>%L1 ページあり、多すぎてここには表示できません。番号で入力できます。</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>Page %1 (%2)</source>
+        <translation>%1 ページ（%2）</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 の %1</translation>
+    </message>
+    <message>
+        <source>%1, chosen</source>
+        <translation>%1、選択</translation>
+    </message>
+    <message>
+        <source>%1, not chosen</source>
+        <translation>%1、未選択</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageThumbnails</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
     </message>
 </context>
 </TS>

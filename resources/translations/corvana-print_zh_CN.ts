@@ -1542,6 +1542,18 @@
         <source>Width × height:</source>
         <translation>宽 × 高:</translation>
     </message>
+<message>
+        <source>All, or such as 1-4, 7, 9-</source>
+        <translation>全部，或 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>Choose Page&amp;s…</source>
+        <translation>选择页面(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>尚未选择文档。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::HelpWindow</name>
@@ -1800,6 +1812,22 @@ For the command line: %2</source>
     <message>
         <source>Enter the Owner's Password…</source>
         <translation>输入所有者密码…</translation>
+    </message>
+<message>
+        <source>Show Its First Sheet</source>
+        <translation>显示其第一张纸</translation>
+    </message>
+    <message>
+        <source>Its pages are made while it is printed. The preview shows them.</source>
+        <translation>页面在打印时生成，可在预览中查看。</translation>
+    </message>
+    <message>
+        <source>How many pages it has is not known.</source>
+        <translation>页数未知。</translation>
+    </message>
+    <message>
+        <source>It is being looked at…</source>
+        <translation>正在检查…</translation>
     </message>
 </context>
 <context>
@@ -2564,6 +2592,10 @@ For the command line: %2</source>
         <source>Updating…</source>
         <translation>正在更新…</translation>
     </message>
+<message>
+        <source>%1. Note: %2</source>
+        <translation>%1。注意：%2</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SheetsRow</name>
@@ -2809,6 +2841,138 @@ For the command line: %2</source>
     <message>
         <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
         <translation>在其他设置保持不变时，无法更改“%1”。它位于“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>ChoosablePages</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Only the odd ones of them are printed, as is set for this job.</source>
+        <translation>按照此作业的设置，其中只打印奇数页。</translation>
+    </message>
+    <message>
+        <source>Only the even ones of them are printed, as is set for this job.</source>
+        <translation>按照此作业的设置，其中只打印偶数页。</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>未选择任何页面。</translation>
+    </message>
+    <message>
+        <source>How many pages there are is not known.</source>
+        <translation>页数未知。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 page numbers chosen.</source>
+        <translation>已选择 %L2 个页码中的 %L1 个。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 pages chosen.</source>
+        <translation>已选择 %L2 页中的 %L1 页。</translation>
+    </message>
+    <message>
+        <source>There are no pages %1.</source>
+        <translation>没有第 %1 页。</translation>
+    </message>
+    <message>
+        <source>“%1” is no page. Pages are typed as in 1-4, 7, 9-.</source>
+        <translation>“%1”不是页码。请按 1-4, 7, 9- 的形式输入。</translation>
+    </message>
+    <message>
+        <source>“%1” ends before it begins.</source>
+        <translation>“%1”的结束页在起始页之前。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetMarks</name>
+    <message>
+        <source>The back of this sheet stays empty: only one side is printed.</source>
+        <translation>只打印一面，因此这张纸的背面是空白的。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageChooser</name>
+    <message>
+        <source>Choose Pages</source>
+        <translation>选择页面</translation>
+    </message>
+    <message>
+        <source>&amp;Pages:</source>
+        <translation>页面(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Such as 1-4, 7, 9-</source>
+        <translation>例如 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Odd</source>
+        <translation>奇数(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Even</source>
+        <translation>偶数(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反选(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
+        <translation>页码对每个文档都有效：在一个文档中勾选，就在所有文档中勾选。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>page, its label</comment>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageModel</name>
+    <message>
+        <source>It has %L1 pages, too many to be shown here. They can be typed.</source>
+        <translation>共 %L1 页，数量太多，无法在此显示。可以输入页码。</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>Page %1 (%2)</source>
+        <translation>第 %1 页（%2）</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 的%1</translation>
+    </message>
+    <message>
+        <source>%1, chosen</source>
+        <translation>%1，已选择</translation>
+    </message>
+    <message>
+        <source>%1, not chosen</source>
+        <translation>%1，未选择</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageThumbnails</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
     </message>
 </context>
 </TS>

@@ -108,7 +108,7 @@ void GeneralPage::addPageRanges(QFormLayout *form)
     row->addWidget(m_choosePages);
     field->setFocusProxy(m_pageRanges);
     m_pageRanges->setObjectName(u"pageRanges"_s);
-    m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
+    m_pageRanges->setPlaceholderText(tr("All, or such as 1-4, 7, 9-"));
     m_pageRanges->setMaxLength(kMostLetters);
     addClearButton(m_pageRanges);
     m_choosePages->setObjectName(u"choosePages"_s);
