@@ -519,6 +519,34 @@
         <source>Fit All Pages If One Is Too Large</source>
         <translation>はみ出すページがあれば全ページを用紙に合わせる</translation>
     </message>
+    <message>
+        <source>One-Sided</source>
+        <translation>片面</translation>
+    </message>
+    <message>
+        <source>Long Edge (by Hand)</source>
+        <translation>長辺とじ（手動）</translation>
+    </message>
+    <message>
+        <source>Short Edge (by Hand)</source>
+        <translation>短辺とじ（手動）</translation>
+    </message>
+    <message>
+        <source>Printed Side Down</source>
+        <translation>印刷面を下に</translation>
+    </message>
+    <message>
+        <source>Printed Side Up</source>
+        <translation>印刷面を上に</translation>
+    </message>
+    <message>
+        <source>Two-Sided</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Sheets Are Put Back</source>
+        <translation>用紙の戻し方</translation>
+    </message>
     </context>
 <context>
     <name>JobRequests</name>
@@ -587,6 +615,14 @@
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>「%1」は使用できません。使用できる値: %2。</translation>
+    </message>
+<message>
+        <source>this printer prints on one side only. Allowed: %1. Two sides by hand: %2=%3, %2=%4.</source>
+        <translation>このプリンターは片面にのみ印刷します。指定できる値: %1。手動で両面にするには: %2=%3、%2=%4。</translation>
+    </message>
+    <message>
+        <source>this printer turns sheets over itself. Allowed: %1=no; for two sides use %2.</source>
+        <translation>このプリンターは用紙を自動で裏返します。指定できる値: %1=no。両面には %2 を使ってください。</translation>
     </message>
 </context>
 <context>
@@ -1135,6 +1171,14 @@
         <source>Job %1 was printed with %2 of its %3 documents only.</source>
         <translation>ジョブ %1 は、文書 %3 個のうち %2 個だけが印刷されました。</translation>
     </message>
+<message>
+        <source>First sides: %1</source>
+        <translation>1 回目の面: %1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>もう一方の面: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -1306,6 +1350,10 @@
     <message>
         <source>Password of “%1”: </source>
         <translation>「%1」のパスワード: </translation>
+    </message>
+<message>
+        <source>Enter prints the other sides, Ctrl+D leaves them unprinted: </source>
+        <translation>Enter でもう一方の面を印刷、Ctrl+D で印刷せずに終了: </translation>
     </message>
 </context>
 <context>
@@ -1612,6 +1660,10 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+<message>
+        <source>The first sides are printed.</source>
+        <translation>1 回目の面が印刷されました。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::MessageBar</name>
@@ -1829,6 +1881,38 @@ For the command line: %2</source>
         <source>It is being looked at…</source>
         <translation>調べています…</translation>
     </message>
+<message>
+        <source>The sides of “%1” are not known here, so they cannot be printed in two halves. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>“%1” の面の構成が不明なため、2 回に分けて印刷することができません。sides-by-hand=no を指定すると片面に印刷されます。</translation>
+    </message>
+    <message>
+        <source>%1 (other sides)</source>
+        <translation>%1（もう一方の面）</translation>
+    </message>
+    <message>
+        <source>%1 (first sides)</source>
+        <translation>%1（1 回目の面）</translation>
+    </message>
+    <message>
+        <source>First sides: %1</source>
+        <translation>1 回目の面: %1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>もう一方の面: %1</translation>
+    </message>
+    <message>
+        <source>First sides: %1 Other sides: %2</source>
+        <translation>1 回目の面: %1もう一方の面: %2</translation>
+    </message>
+    <message>
+        <source>Not printed.</source>
+        <translation>印刷されていません。</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
+        <translation>ジョブはこれらの指示を待つ必要がありますが、手動両面印刷では待つことができません。指示に従ってから --on-alert=print で印刷してください。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1903,6 +1987,26 @@ For the command line: %2</source>
     <message>
         <source>Print Anyway</source>
         <translation>このまま印刷</translation>
+    </message>
+<message>
+        <source>Two-Sided by Hand</source>
+        <translation>手動両面印刷</translation>
+    </message>
+    <message>
+        <source>Only the first sides of the sheets are printed. Leave the other sides unprinted?</source>
+        <translation>用紙の 1 回目の面だけが印刷されています。もう一方の面を印刷せずに終了しますか？</translation>
+    </message>
+    <message>
+        <source>The first sides of the sheets are being printed. Stop that, and leave the other sides unprinted?</source>
+        <translation>用紙の 1 回目の面を印刷しています。中止して、もう一方の面を印刷せずに終了しますか？</translation>
+    </message>
+    <message>
+        <source>Leave Unprinted</source>
+        <translation>印刷せずに終了</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>戻る</translation>
     </message>
 </context>
 <context>
@@ -2288,6 +2392,10 @@ For the command line: %2</source>
     <message>
         <source>the back stays empty where a document has only one side: %1</source>
         <translation>印刷する面が 1 つだけの文書は裏面が白紙になります: %1</translation>
+    </message>
+    <message>
+        <source>%1, two-sided by hand</source>
+        <translation>%1、手動両面</translation>
     </message>
     </context>
 <context>
@@ -2973,6 +3081,111 @@ For the command line: %2</source>
     <message>
         <source>Pages</source>
         <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>ByHand</name>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Take the printed sheet out of the printer.</source>
+        <translation>印刷された用紙をプリンターから取り出します。</translation>
+    </message>
+    <message>
+        <source>Take the %1 printed sheets out of the printer, as one stack.</source>
+        <translation>印刷された %1 枚の用紙を、重なった順序のままプリンターから取り出します。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side down, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>印刷面を下に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side up, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>印刷面を上に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost. Nothing is printed on it so far.</source>
+        <translation>最後の用紙が一番上になります。この用紙にはまだ何も印刷されていません。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost.</source>
+        <translation>最後の用紙が一番上になります。</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1, lies uppermost.</source>
+        <translation>最後の用紙（%1）が一番上になります。</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1 of “%2”, lies uppermost.</source>
+        <translation>最後の用紙（“%2” の %1）が一番上になります。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs a printer that sheets are put back into: it cannot be done in a file.</source>
+        <translation>手動両面印刷（%1）では用紙をプリンターに戻す必要があります。ファイルへは実行できません。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) cannot be combined with %2: the queue would add these pages to both halves.</source>
+        <translation>手動両面印刷（%1）は %2 と組み合わせることができません。キューがこれらのページを両方の回に追加するためです。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs somebody who puts the sheets back, and nobody can be asked here. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>手動両面印刷（%1）では用紙を戻す人が必要ですが、ここでは尋ねることができません。sides-by-hand=no を指定すると片面に印刷されます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PassJob</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷は中止されました。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TurnSheetsDialog</name>
+    <message>
+        <source>Two-Sided by Hand</source>
+        <translation>手動両面印刷</translation>
+    </message>
+    <message>
+        <source>Put the sheets back for their other sides</source>
+        <translation>もう一方の面を印刷するために用紙を戻してください</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Other Sides</source>
+        <translation>もう一方の面を印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

@@ -519,6 +519,34 @@
         <source>Fit All Pages If One Is Too Large</source>
         <translation>有页面超出时使所有页面适合纸张</translation>
     </message>
+    <message>
+        <source>One-Sided</source>
+        <translation>单面</translation>
+    </message>
+    <message>
+        <source>Long Edge (by Hand)</source>
+        <translation>长边（手动）</translation>
+    </message>
+    <message>
+        <source>Short Edge (by Hand)</source>
+        <translation>短边（手动）</translation>
+    </message>
+    <message>
+        <source>Printed Side Down</source>
+        <translation>打印面朝下</translation>
+    </message>
+    <message>
+        <source>Printed Side Up</source>
+        <translation>打印面朝上</translation>
+    </message>
+    <message>
+        <source>Two-Sided</source>
+        <translation>双面打印</translation>
+    </message>
+    <message>
+        <source>Sheets Are Put Back</source>
+        <translation>放回纸张的方式</translation>
+    </message>
     </context>
 <context>
     <name>JobRequests</name>
@@ -587,6 +615,14 @@
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>不允许“%1”。允许的值：%2。</translation>
+    </message>
+<message>
+        <source>this printer prints on one side only. Allowed: %1. Two sides by hand: %2=%3, %2=%4.</source>
+        <translation>此打印机只能单面打印。允许的值：%1。手动双面：%2=%3、%2=%4。</translation>
+    </message>
+    <message>
+        <source>this printer turns sheets over itself. Allowed: %1=no; for two sides use %2.</source>
+        <translation>此打印机会自动翻转纸张。允许的值：%1=no；双面打印请使用 %2。</translation>
     </message>
 </context>
 <context>
@@ -1135,6 +1171,14 @@
         <source>Job %1 was printed with %2 of its %3 documents only.</source>
         <translation>作业 %1 只打印了 %3 个文档中的 %2 个。</translation>
     </message>
+<message>
+        <source>First sides: %1</source>
+        <translation>第一面：%1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>另一面：%1</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -1306,6 +1350,10 @@
     <message>
         <source>Password of “%1”: </source>
         <translation>“%1”的密码：</translation>
+    </message>
+<message>
+        <source>Enter prints the other sides, Ctrl+D leaves them unprinted: </source>
+        <translation>按 Enter 打印另一面，按 Ctrl+D 不打印：</translation>
     </message>
 </context>
 <context>
@@ -1612,6 +1660,10 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+<message>
+        <source>The first sides are printed.</source>
+        <translation>第一面已打印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::MessageBar</name>
@@ -1829,6 +1881,38 @@ For the command line: %2</source>
         <source>It is being looked at…</source>
         <translation>正在检查…</translation>
     </message>
+<message>
+        <source>The sides of “%1” are not known here, so they cannot be printed in two halves. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>此处不知道“%1”的各面内容，因此无法分两次打印。使用 sides-by-hand=no 则只打印纸张的一面。</translation>
+    </message>
+    <message>
+        <source>%1 (other sides)</source>
+        <translation>%1（另一面）</translation>
+    </message>
+    <message>
+        <source>%1 (first sides)</source>
+        <translation>%1（第一面）</translation>
+    </message>
+    <message>
+        <source>First sides: %1</source>
+        <translation>第一面：%1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>另一面：%1</translation>
+    </message>
+    <message>
+        <source>First sides: %1 Other sides: %2</source>
+        <translation>第一面：%1另一面：%2</translation>
+    </message>
+    <message>
+        <source>Not printed.</source>
+        <translation>未打印。</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
+        <translation>作业需要等待完成这些指示，而手动双面打印无法等待。请先按指示操作，再使用 --on-alert=print 打印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -1903,6 +1987,26 @@ For the command line: %2</source>
     <message>
         <source>Print Anyway</source>
         <translation>仍然打印</translation>
+    </message>
+<message>
+        <source>Two-Sided by Hand</source>
+        <translation>手动双面打印</translation>
+    </message>
+    <message>
+        <source>Only the first sides of the sheets are printed. Leave the other sides unprinted?</source>
+        <translation>纸张只打印了第一面。是否不打印另一面？</translation>
+    </message>
+    <message>
+        <source>The first sides of the sheets are being printed. Stop that, and leave the other sides unprinted?</source>
+        <translation>正在打印纸张的第一面。是否停止，并且不打印另一面？</translation>
+    </message>
+    <message>
+        <source>Leave Unprinted</source>
+        <translation>不打印</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>返回</translation>
     </message>
 </context>
 <context>
@@ -2288,6 +2392,10 @@ For the command line: %2</source>
     <message>
         <source>the back stays empty where a document has only one side: %1</source>
         <translation>只有一面要打印的文档背面将留空：%1</translation>
+    </message>
+    <message>
+        <source>%1, two-sided by hand</source>
+        <translation>%1，手动双面</translation>
     </message>
     </context>
 <context>
@@ -2973,6 +3081,111 @@ For the command line: %2</source>
     <message>
         <source>Pages</source>
         <translation>页面</translation>
+    </message>
+</context>
+<context>
+    <name>ByHand</name>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Take the printed sheet out of the printer.</source>
+        <translation>从打印机中取出已打印的纸张。</translation>
+    </message>
+    <message>
+        <source>Take the %1 printed sheets out of the printer, as one stack.</source>
+        <translation>从打印机中取出已打印的 %1 张纸，保持整叠顺序。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side down, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>将打印面朝下放回纸盒，使页面的%1边先进入打印机。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side up, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>将打印面朝上放回纸盒，使页面的%1边先进入打印机。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost. Nothing is printed on it so far.</source>
+        <translation>最后一张纸在最上面，它上面还没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost.</source>
+        <translation>最后一张纸在最上面。</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1, lies uppermost.</source>
+        <translation>最后一张纸（%1）在最上面。</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1 of “%2”, lies uppermost.</source>
+        <translation>最后一张纸（“%2”的%1）在最上面。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs a printer that sheets are put back into: it cannot be done in a file.</source>
+        <translation>手动双面打印（%1）需要将纸张放回打印机，不能输出到文件。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) cannot be combined with %2: the queue would add these pages to both halves.</source>
+        <translation>手动双面打印（%1）不能与 %2 同时使用：队列会在两次打印中都加入这些页。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs somebody who puts the sheets back, and nobody can be asked here. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>手动双面打印（%1）需要有人将纸张放回，而此处无法询问任何人。使用 sides-by-hand=no 则只打印纸张的一面。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PassJob</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>打印已取消。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TurnSheetsDialog</name>
+    <message>
+        <source>Two-Sided by Hand</source>
+        <translation>手动双面打印</translation>
+    </message>
+    <message>
+        <source>Put the sheets back for their other sides</source>
+        <translation>请放回纸张以打印另一面</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Other Sides</source>
+        <translation>打印另一面(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>
