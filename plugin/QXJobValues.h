@@ -17,6 +17,8 @@ public:
     QList<JobOption> companions(const JobOption &marked, const PrintSettings &settings,
                                 ppd_file_t *ppd) const override;
     QList<JobOption> choicesFor(const JobOption &attribute, ppd_file_t *ppd) const override;
+    QList<PanelEntry> entries(const PrintSettings &settings, ppd_file_t *ppd) const override;
+    QStringList deviceOptions() const override;
 };
 
 } // namespace corvana

@@ -53,6 +53,14 @@ struct Options
         u"output"_s, u"Write the printer-ready data to FILE; - is standard output."_s, u"FILE"_s};
     QCommandLineOption demo{u"demo"_s, u"Offer the sample printers."_s};
     QCommandLineOption listPrinters{u"list-printers"_s, u"List the printers and exit."_s};
+    QCommandLineOption preset{
+        u"preset"_s, u"Start with the settings of the preset NAME; -o counts more."_s, u"NAME"_s};
+    QCommandLineOption listPresets{u"list-presets"_s, u"List the presets and exit."_s};
+    QCommandLineOption savePreset{
+        u"save-preset"_s,
+        u"Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. "
+        "A preset of that name is replaced."_s,
+        u"NAME"_s};
     QCommandLineOption option{{u"o"_s, u"option"_s},
                               u"Set an option of the printer or of the job; may be repeated."_s,
                               u"KEY=VALUE"_s};
@@ -114,6 +122,9 @@ struct Options
                            output,
                            demo,
                            listPrinters,
+                           preset,
+                           listPresets,
+                           savePreset,
                            option,
                            copies,
                            pages,
@@ -224,6 +235,9 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.bundleRoots = parser.values(options.bundleRoot);
     line.demo = parser.isSet(options.demo);
     line.listPrinters = parser.isSet(options.listPrinters);
+    line.preset = parser.value(options.preset);
+    line.savePreset = parser.value(options.savePreset);
+    line.listPresets = parser.isSet(options.listPresets);
     line.noDialog = parser.isSet(options.noDialog);
     line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
@@ -262,7 +276,8 @@ QString emptyName(const QCommandLineParser &parser, const Options &options)
 {
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
-          &options.documentPasswordFile, &options.bundleRoot}) {
+          &options.documentPasswordFile, &options.bundleRoot, &options.preset,
+          &options.savePreset}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
             return u"%1 \"\": %2 is missing."_s.arg((name.size() == 1 ? u"-"_s : u"--"_s) + name,
@@ -280,6 +295,8 @@ QString contradictionIn(const CommandLine &line)
         return u"--password-file and --password-fd cannot be combined."_s;
     if (line.passwordDescriptor == 0 && line.documents.contains(kStandardStream))
         return u"standard input cannot be the document and the password."_s;
+    if (!line.savePreset.isEmpty() && !line.documents.isEmpty())
+        return u"--save-preset prints nothing: no document can be named."_s;
     if (line.json && !line.noDialog)
         return u"--format=json is for runs without a window (--no-dialog)."_s;
     if (line.output != kStandardStream)
@@ -294,7 +311,8 @@ QString contradictionIn(const CommandLine &line)
 
 bool takesDocument(const CommandLine &line)
 {
-    return !line.listPrinters && !line.checkDisplay && !line.summary;
+    return !line.listPrinters && !line.listPresets && line.savePreset.isEmpty() &&
+           !line.checkDisplay && !line.summary;
 }
 
 // In a window documents can be chosen.

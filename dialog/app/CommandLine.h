@@ -28,6 +28,9 @@ struct CommandLine
     QList<JobOption> switches; ///< what -P, -q and -H stand for; they count more than -o
     std::optional<int> copies; ///< of -n
     QStringList bundleRoots;
+    QString preset;     ///< the name of the one that the job starts with
+    QString savePreset; ///< the name under which the settings are kept, instead of printing
+    bool listPresets = false;
     bool demo = false;
     bool listPrinters = false;
     bool noDialog = false;

@@ -8,6 +8,7 @@
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
 #include "dialog/policy/Policy.h"
+#include "dialog/presets/LastUsed.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/JobNames.h"
@@ -98,6 +99,12 @@ QStringList trustedBundleRoots(const CommandLine &line)
     return line.bundleRoots + QStringList{besideProgram(u"../lib/corvana-print/plugins"_s)};
 }
 
+bool isUnattended(const CommandLine &line)
+{
+    return line.noDialog || line.listPrinters || line.listPresets || !line.savePreset.isEmpty() ||
+           (line.documents.isEmpty() && line.summary);
+}
+
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
@@ -143,6 +150,10 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.summary = line.summary;
     request.policy = Policy::ofThisComputer();
     request.helpPage = dialogHelpPage();
+    request.presetPlaces = PresetPlaces::ofUser();
+    request.preset = line.preset;
+    request.presetToSave = line.savePreset;
+    request.remembersLastUsed = !isUnattended(line) && remembersLastUsed();
     return request;
 }
 

@@ -9,6 +9,9 @@ namespace corvana {
 /// Errors: nothing; `error` says which document is missing or wrong.
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error);
 
+/// Whether a command line wants no window.
+bool isUnattended(const CommandLine &line);
+
 /// The printers that the command line offers without any server.
 QList<Printer> offeredPrinters(const CommandLine &line);
 

@@ -13,6 +13,7 @@
 #include "dialog/app/Translations.h"
 #include "dialog/job/Document.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/terminal/ListPresets.h"
 #include "dialog/terminal/ListPrinters.h"
 #include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
@@ -159,8 +160,7 @@ int main(int argc, char **argv)
     }
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    const bool unattended =
-        line.noDialog || line.listPrinters || (line.documents.isEmpty() && line.summary);
+    const bool unattended = isUnattended(line);
     choosePlatform(!unattended || line.checkDisplay);
     logForTerminals(unattended);
     looksForPlatform = !explicitPlatform;
@@ -190,5 +190,7 @@ int main(int argc, char **argv)
         return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)
         return listPrinters(*request);
+    if (line.listPresets)
+        return listPresets(*request);
     return unattended ? runUnattended(*request) : runDialog(*request);
 }

@@ -7,6 +7,7 @@
 #include <cups/cups.h>
 
 #include <QCoreApplication>
+#include <QHash>
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
@@ -59,24 +60,20 @@ QList<OptionChoice> takenInstead(const JobOption &option, const QList<JobOption>
     return others;
 }
 
-// What the panels made of that which was asked for, where it is something else.
 QStringList differences(const QList<JobOption> &expected, const PpdSession &session,
                         const PDEJobValues *jobValues)
 {
     QStringList problems;
-    const QList<JobOption> job = jobOptions(session, jobValues, {});
-    for (const JobOption &option : expected) {
-        const auto now = std::find_if(job.cbegin(), job.cend(), [&](const JobOption &candidate) {
-            return candidate.name == option.name;
-        });
-        if (now == job.cend())
+    const QList<OptionDifference> all = optionDifferences(expected, session, jobValues);
+    for (const OptionDifference &one : all) {
+        const JobOption &option = one.asked;
+        if (one.now.isNull())
             problems += conflictMessage(
                 {{option.name, option.value}, takenInstead(option, expected)}, session);
-        else if (now->value != option.value)
+        else
             problems +=
                 Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
-                    .arg(asked(option, session.ppd()),
-                         withoutSecrets(now->value, secretsOf(session)));
+                    .arg(asked(option, session.ppd()), withoutSecrets(one.now, secretsOf(session)));
     }
     return problems;
 }
@@ -102,6 +99,21 @@ QString conflictMessage(const Refusal &refusal, const PpdSession &session)
             text += u'\n' + lockedText(other.keyword, session);
     }
     return text;
+}
+
+QList<OptionDifference> optionDifferences(const QList<JobOption> &asked, const PpdSession &session,
+                                          const PDEJobValues *jobValues)
+{
+    QHash<QString, QString> job;
+    const QList<JobOption> options = jobOptions(session, jobValues, {});
+    for (const JobOption &option : options)
+        job.insert(option.name, option.value);
+    QList<OptionDifference> differences;
+    for (const JobOption &option : asked) {
+        if (const QString now = job.value(option.name); now != option.value)
+            differences += OptionDifference{option, now};
+    }
+    return differences;
 }
 
 QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)

@@ -42,6 +42,17 @@ struct OptionOutcome
 OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &session,
                            const PDEJobValues *jobValues, PanelHost &panels);
 
+/// An option that did not become what was asked for.
+struct OptionDifference
+{
+    JobOption asked;
+    QString now; ///< null: the job names it not at all
+};
+
+/// What the panels made of that which was asked for, where it is something else.
+QList<OptionDifference> optionDifferences(const QList<JobOption> &asked, const PpdSession &session,
+                                          const PDEJobValues *jobValues);
+
 /// Whether the printer, its panels or CUPS know an option of that name at all.
 bool isKnownOption(const QString &name, const PpdSession &session);
 

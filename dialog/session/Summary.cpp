@@ -86,6 +86,15 @@ QList<ppd_option_t *> furtherOptions(const PpdSession &session)
     return options;
 }
 
+QStringList installedPartKeywords(const PpdSession &session)
+{
+    QStringList keywords;
+    const QList<const ppd_option_t *> installed = installedParts(session.ppd());
+    for (const ppd_option_t *option : installed)
+        keywords += ppdKeyword(option->keyword);
+    return keywords;
+}
+
 QString customText(const PpdSession &session, const QString &keyword, const QString &custom)
 {
     if (isSecret(session.ppd(), keyword))

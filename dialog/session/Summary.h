@@ -20,6 +20,9 @@ QList<ppd_option_t *> choosableOptions(const PpdSession &session);
 /// beside that page.
 QList<ppd_option_t *> furtherOptions(const PpdSession &session);
 
+/// The options of what is built into the printer.
+QStringList installedPartKeywords(const PpdSession &session);
+
 /// What a custom value ("Custom.…") is to a person: a paper size in the units of the user's region,
 /// dots for a password, else the value itself.
 QString customText(const PpdSession &session, const QString &keyword, const QString &custom);

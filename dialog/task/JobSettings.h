@@ -19,7 +19,17 @@ class JobSettings
 public:
     /// Who asks for something. A later one counts more; startLayers() says where each one's wishes
     /// come from.
-    enum class By { Program, Queue, UserQueues, Policy, Options, CommandLine, User };
+    enum class By {
+        Program,
+        Queue,
+        UserQueues,
+        Policy,
+        LastUsed,
+        Preset,
+        Options,
+        CommandLine,
+        User
+    };
 
     /// Takes a number of copies, unless somebody who counts more has asked already.
     /// Range: 1 and more.

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include "dialog/job/Document.h"
+#include "dialog/presets/PresetStore.h"
 #include "dialog/printers/Printer.h"
 #include "dialog/server/CredentialStore.h"
 #include "dialog/server/ServerAddress.h"
@@ -53,6 +54,15 @@ struct PrintRequest
     std::optional<std::chrono::seconds> wait;
     bool quiet = false; ///< what was asked for and was done needs no word
     bool json = false;  ///< what became of the job is said for a program, too
+    /// Where presets are kept; nowhere: there are none.
+    PresetPlaces presetPlaces{};
+    /// The name of the preset that a job starts with; empty for none.
+    QString preset{};
+    /// The name under which the settings are kept instead of being printed with; empty otherwise.
+    QString presetToSave{};
+    /// Whether a job starts with what its user changed for the last one, and leaves that to the
+    /// next one. Not without a window: what a script prints is the same each time.
+    bool remembersLastUsed = false;
     /// A user and a password that were given in advance, so that nobody has to be asked.
     std::optional<Credentials> credentials;
     /// Of documents that are protected, so that nobody has to be asked.

@@ -7,6 +7,7 @@
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/SettingsValues.h"
+#include "dialog/task/TaskPresets.h"
 #include "platform/pde/PDEPanel.h"
 
 namespace corvana {
@@ -54,8 +55,8 @@ void PrintTask::setBase(const Base &base)
 void PrintTask::beginHistory()
 {
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
-    m_baseline.base =
-        memory.session && memory.base ? *memory.base : Base{settingsNow(), tr("Printer Defaults")};
+    m_baseline.base = memory.session && memory.base ? *memory.base
+                                                    : Base{settingsNow(), presets().selectedName()};
     takeComingSettings();
     SettingsHistory &history = m_baseline.history;
     const TaskSettings now = settingsNow();

@@ -18,6 +18,7 @@
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/task/TaskPresets.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
@@ -258,6 +259,7 @@ std::optional<TaskRefusal> PrintTask::askPanels()
 void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
+    presets().jobBegins();
     m_run.hand.reset();
     if (printsToFile()) {
         followJob(std::make_unique<FileJob>(FileJobRequest{
@@ -362,6 +364,7 @@ void PrintTask::jobFinished(const JobOutcome &ofJob)
     // What a script prints to says nothing about what its user opens next.
     if (m_chosen.canBeAnother && outcome.isDone() && outcome.file.isEmpty())
         m_source.rememberUse(m_chosen.printer);
+    presets().jobEnded(outcome);
     if (outcome.kind == Kind::PrinterChanged)
         m_source.retry();
     const bool ends = m_phase == Phase::Leaving || outcome.kind == Kind::Printed ||

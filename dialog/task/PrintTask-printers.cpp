@@ -6,6 +6,7 @@
 #include "dialog/job/ResultFormat.h"
 #include "dialog/session/LockedValues.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/task/TaskPresets.h"
 
 namespace corvana {
 
@@ -203,8 +204,10 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
         by == JobSettings::By::Policy)
         left.copies = m_settings.copiesAskedFor();
     left.chosen = m_settings.chosenAttributes();
-    m_memory[idOf(m_chosen.printer)].session = left;
-    m_memory[idOf(m_chosen.printer)].base = m_baseline.base;
+    Memory &memory = m_memory[idOf(m_chosen.printer)];
+    memory.session = left;
+    memory.base = m_baseline.base;
+    memory.kept = std::make_shared<const KeptSettings>(presets().kept());
 }
 
 // Whether nothing would be lost if another printer took the place of this one. Copies and pages go

@@ -17,6 +17,7 @@
 #include "dialog/task/SavedAsPdf.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/task/TaskPresets.h"
 #include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/InterfaceLoader.h"
@@ -37,6 +38,7 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
     if (m_request.credentials)
         m_credentials->giveInAdvance(*m_request.credentials);
+    m_baseline.presets = std::make_unique<TaskPresets>(*this);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
     m_looks.textPatience.setSingleShot(true);
@@ -88,6 +90,7 @@ void PrintTask::bringUp()
         return; // interrupted, while an alert of a panel was waiting for its answer
     beginHistory();
     enter(Phase::Ready);
+    presets().begin();
     showSettings();
     for (const Refusal &refusal : refusals)
         sayRefusal(refusal);
@@ -118,6 +121,8 @@ void PrintTask::applyStartOptions()
     const QSignalBlocker blocker(m_opened->panels.get());
     const Memory &memory = m_memory[idOf(m_chosen.printer)];
     if (memory.session) {
+        if (memory.kept)
+            presets().comeBack(*memory.kept);
         m_settings.addAttributes(memory.session->attributes);
         m_settings.restoreChosenAttributes(memory.session->chosen);
         takeInevitableDefaults();
@@ -133,6 +138,7 @@ void PrintTask::applyStartOptions()
         const StartOutcome started = applyStartValues(m_request, *m_opened, m_settings);
         m_chosen.unset = started.unset;
         m_chosen.ignored = started.ignored;
+        presets().start(started);
     }
     m_chosen.unset += lockedCopies() + takeMostCopies();
     keepLocks();
@@ -163,9 +169,18 @@ void PrintTask::sayStartProblems()
     if (!m_chosen.ignored.isEmpty())
         texts += tr("Not everything that is set for this printer could be taken:\n%1")
                      .arg(m_chosen.ignored.join(u'\n'));
+    TaskMessage message{m_chosen.unset.isEmpty() ? TaskMessage::Kind::Information
+                                                 : TaskMessage::Kind::Problem};
+    // Settings that nobody has chosen for this job are named, with the way out of them.
+    const bool isLeft = m_memory.value(idOf(m_chosen.printer)).session.has_value();
+    if (!isLeft && presets().selected().kind == SelectedPreset::Kind::LastUsed) {
+        texts.prepend(tr("As in your last job."));
+        message.offer = tr("Use Defaults");
+        message.take = [this] { presets().useDefaults(); };
+    }
+    message.text = texts.join(u'\n');
     if (!texts.isEmpty())
-        say(m_chosen.unset.isEmpty() ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem,
-            texts.join(u'\n'));
+        Q_EMIT said(message);
 }
 
 QStringList PrintTask::takeMostCopies()
@@ -186,6 +201,8 @@ QStringList PrintTask::takeMostCopies()
     case By::Queue:
     case By::UserQueues:
     case By::Policy:
+    case By::LastUsed: // keeps no copies
+    case By::Preset:
         m_chosen.ignored += problem;
         break;
     case By::Program:

@@ -29,7 +29,9 @@
 
 namespace corvana {
 
+class TaskPresets;
 class TextCheck;
+struct KeptSettings;
 
 /// Why a printer cannot be asked for, whole and in few words.
 struct PrinterProblem
@@ -186,6 +188,9 @@ public:
     /// What is typed or moved from now on is another step: a field was left, a slider let go.
     void endStep();
 
+    /// Settings that come from before and are kept for later.
+    TaskPresets &presets() const { return *m_baseline.presets; }
+
     // What an administrator has decided (PrintTask-policy.cpp)
 
     /// Who keeps an option, an attribute of the job or the number of copies ("copies") at what it
@@ -275,11 +280,14 @@ Q_SIGNALS:
     void jobEnded(const corvana::JobOutcome &outcome);
 
 private:
+    friend class TaskPresets;
+
     // What a task remembers of a printer while another one is open.
     struct Memory
     {
         std::optional<LeftSession> session;
-        int earlierJob = 0; // that may print yet
+        std::shared_ptr<const KeptSettings> kept; // of the same
+        int earlierJob = 0;                       // that may print yet
         int earlierDocuments = 0;
         int sentDocuments = 0; // as jobs of their own
         std::optional<Base> base{};
@@ -341,7 +349,8 @@ private:
         QList<JobOption> chosen; // attributes, before the user changed anything
         Base base;
         SettingsHistory history;
-        QStringList touched;                // since the last step, in this order
+        QStringList touched; // since the last step, in this order
+        std::unique_ptr<TaskPresets> presets;
         std::optional<TaskSettings> coming; // to be restored when their printer is open
         bool willRecord = false;
     };

@@ -39,6 +39,11 @@ QString textOf(const QList<OptionChoice> &choices, const PpdSession &session)
 
 } // namespace
 
+QString choiceText(const OptionChoice &choice, const PpdSession &session)
+{
+    return textOf(choice, session);
+}
+
 QString refusalText(const Refusal &refusal, const PpdSession &session)
 {
     if (!refusal.locked.keyword.isNull())

@@ -7,6 +7,10 @@
 
 namespace corvana {
 
+/// An option and one of its choices in the words of the PPD: "“Media Type: Glossy”"; by their
+/// keywords where it has no words for them. Passwords are dots.
+QString choiceText(const OptionChoice &choice, const PpdSession &session);
+
 /// What a refused choice says to a person, in the words of the PPD: "“Media Type: Glossy” cannot be
 /// combined with “Two-Sided: Long-Edge”." Passwords are dots.
 QString refusalText(const Refusal &refusal, const PpdSession &session);

@@ -19,6 +19,7 @@
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/SavedAsPdf.h"
+#include "dialog/task/StartPresets.h"
 
 namespace corvana {
 
@@ -64,6 +65,8 @@ constexpr StartLayer kLayers[] = {
     {By::Queue, Taking::AsFarAsItGoes, defaultsOfQueue},
     {By::UserQueues, Taking::AsFarAsItGoes, usersOptions},
     {By::Policy, Taking::AsFarAsItGoes, policysDefaults},
+    {By::LastUsed, Taking::AsFarAsItGoes, nullptr},
+    {By::Preset, Taking::AsFarAsItGoes, nullptr},
     {By::Options, Taking::AsAWhole, requestedOptions},
 };
 
@@ -307,12 +310,16 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
     StartOutcome outcome;
     QList<QList<JobOption>> options;
     for (const StartLayer &layer : startLayers())
-        options += layer.options(printer, request);
+        options += layer.options ? layer.options(printer, request) : QList<JobOption>();
     const bool passesOn = takeRaw(options, printer);
     if (passesOn && !passesFilesOn(printer))
         settings.addAttributes({kRaw});
     for (qsizetype i = 0; i < options.size(); ++i) {
         const StartLayer &layer = startLayers()[static_cast<std::size_t>(i)];
+        if (!layer.options) {
+            applyKeptSettings(layer.by, request, printer, settings, &outcome);
+            continue;
+        }
         QStringList problems;
         if (passesOn)
             problems = takeWhatCannotBeDone(options[i], printer);

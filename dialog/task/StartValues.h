@@ -5,6 +5,7 @@
 #include <QList>
 #include <QStringList>
 
+#include "dialog/presets/PresetContent.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/JobSettings.h"
 
@@ -25,6 +26,7 @@ struct StartLayer
 
     JobSettings::By by;
     Taking taking;
+    /// What is set there as options; null for a place that keeps presets.
     QList<JobOption> (*options)(const OpenedPrinter &printer, const PrintRequest &request);
 };
 
@@ -36,6 +38,13 @@ struct StartOutcome
 {
     QStringList ignored; ///< of what was set long ago; each with its origin, name and value
     QStringList unset;   ///< what was asked for just now and cannot be had
+    /// Where a job on this printer starts for everybody: "Default Settings".
+    PresetContent defaults{};
+    /// What the user has kept from before: of the last job, or as a preset.
+    PresetContent lastUsed{}; ///< changes of `defaults`; empty when there are none
+    PresetContent kept{};     ///< in force before any option was asked for
+    QString preset{};         ///< the name of the preset that was applied; empty for none
+    bool isForDevice = false; ///< that preset sets up the device as well
 };
 
 /// Brings a printer that was just opened, and the settings of its job, to where a job starts.

@@ -12,6 +12,7 @@
 
 #include "dialog/printers/UserQueues.h"
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/TaskPresets.h"
 #include "dialog/terminal/ExitStatus.h"
 #include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminalFace.h"
@@ -124,6 +125,8 @@ public:
                          [this](const TaskRefusal &refusal) { end(refusal.problems); });
         QObject::connect(&m_task, &PrintTask::progressed, &m_loop,
                          [this](const JobProgress &progress) { showProgress(progress); });
+        QObject::connect(&m_task.presets(), &TaskPresets::ended, &m_loop,
+                         [this](const QString &problem) { presetEnded(problem); });
         QObject::connect(&m_task, &PrintTask::jobEnded, &m_loop,
                          [this](const JobOutcome &outcome) { jobEnded(outcome); });
     }
@@ -144,7 +147,8 @@ private:
     {
         if (phase == Phase::Opened) {
             // Not in the midst of what opened it.
-            QMetaObject::invokeMethod(&m_task, &PrintTask::print, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                &m_task, [this] { begin(); }, Qt::QueuedConnection);
         } else if (phase == Phase::Missing) {
             const QString problem = withName(m_task.problem().text, m_task.printer());
             end({withOtherPrinters(problem, m_task.request())});
@@ -154,6 +158,26 @@ private:
             else
                 end(ExitStatus::Done); // there was no document: only the summary was asked for
         }
+    }
+
+    void begin()
+    {
+        const QString &name = m_task.request().presetToSave;
+        if (name.isEmpty())
+            m_task.print();
+        else
+            m_task.presets().save({name, false, false, true});
+    }
+
+    void presetEnded(const QString &problem)
+    {
+        if (!problem.isEmpty())
+            return end({problem});
+        if (!m_task.request().quiet)
+            QTextStream(stdout) << Texts::tr("The preset “%1” is kept.")
+                                       .arg(terminalLine(m_task.request().presetToSave))
+                                << "\n";
+        end(ExitStatus::Done);
     }
 
     // Standard output belongs to programs where a result or a line for one goes there.
@@ -230,7 +254,10 @@ private:
     {
         for (const QString &problem : problems)
             sayProblem(problem);
-        QTextStream(stderr) << Texts::tr("Nothing was printed.") << "\n";
+        QTextStream(stderr) << (m_task.request().presetToSave.isEmpty()
+                                    ? Texts::tr("Nothing was printed.")
+                                    : Texts::tr("No preset was kept."))
+                            << "\n";
         if (m_task.request().json)
             writeLine(refusalLine(m_task.printsToFile() ? QString()
                                                         : queueOfInstance(m_task.printer().name),

@@ -1,9 +1,12 @@
 #include "dialog/window/PresetRow.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/TaskPresets.h"
 #include "dialog/window/ElidedToolButton.h"
+#include "dialog/window/PresetMenu.h"
 #include "dialog/window/chooser/PrinterIcon.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -13,15 +16,41 @@ using namespace Qt::StringLiterals;
 
 PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task(task)
 {
+    buildPreset();
     buildButtons();
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addStretch();
+    row->addWidget(m_label);
+    row->addWidget(m_preset);
+    row->addStretch(1);
     row->addWidget(m_undo);
     row->addWidget(m_redo);
     connect(&m_task, &PrintTask::historyChanged, this, &PresetRow::refresh);
     connect(&m_task, &PrintTask::phaseChanged, this, &PresetRow::refresh);
+    connect(&m_task.presets(), &TaskPresets::changed, this, &PresetRow::refreshPreset);
     refresh();
+}
+
+void PresetRow::buildPreset()
+{
+    m_preset = new ElidedToolButton(this);
+    m_preset->setObjectName(u"preset"_s);
+    m_preset->setPopupMode(QToolButton::InstantPopup);
+    m_preset->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_preset->setFocusPolicy(Qt::StrongFocus);
+    m_preset->setMenu(new PresetMenu(m_task.presets(), m_preset));
+    m_label = new QLabel(tr("Prese&t:"), this);
+    m_label->setBuddy(m_preset);
+}
+
+void PresetRow::refreshPreset()
+{
+    const TaskPresets &presets = m_task.presets();
+    const QString name = presetLabel(presets.selectedName());
+    const QString text = presets.isChanged() ? tr("%1 (changed)").arg(name) : name;
+    m_preset->setText(text);
+    m_preset->setAccessibleName(tr("Preset: %1").arg(QString(text).replace("&&"_L1, "&"_L1)));
+    m_preset->setEnabled(m_task.phase() == PrintTask::Phase::Ready);
 }
 
 void PresetRow::buildButtons()
@@ -43,6 +72,7 @@ void PresetRow::buildButtons()
 // key.
 void PresetRow::refresh()
 {
+    refreshPreset();
     const QString undo = m_task.undoText();
     m_undo->setText(QString(undo).replace(u'&', "&&"_L1));
     m_undo->setToolTip(plainToolTip(tr("%1 (Ctrl+Z)").arg(undo)));

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QToolButton;
 
 namespace corvana {
@@ -21,10 +22,14 @@ public:
     explicit PresetRow(PrintTask &task, QWidget *parent = nullptr);
 
 private:
+    void buildPreset();
     void buildButtons();
+    void refreshPreset();
     void refresh();
 
     PrintTask &m_task;
+    QLabel *m_label = nullptr;
+    ElidedToolButton *m_preset = nullptr;
     ElidedToolButton *m_undo = nullptr;
     QToolButton *m_redo = nullptr;
 };

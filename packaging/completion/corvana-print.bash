@@ -21,6 +21,15 @@ _corvana_print_printers() {
     timeout 2 "${COMP_WORDS[0]}" "${offer[@]}" --list-printers 2>/dev/null </dev/null | cut -f 1
 }
 
+# _corvana_print_presets: the names of presets, which may have blanks.
+_corvana_print_presets() {
+    local preset presets=()
+    while IFS=$'\t' read -r preset _; do
+        [[ $preset != "$current"* ]] || presets+=("$(printf '%q' "$preset")")
+    done < <(timeout 2 "${COMP_WORDS[0]}" --list-presets 2>/dev/null </dev/null)
+    COMPREPLY=("${presets[@]}")
+}
+
 # _corvana_print_files [ENDING...]: folders, and files with one of the endings or all files.
 _corvana_print_files() {
     local file ending files=()
@@ -123,6 +132,10 @@ _corvana_print() {
         _corvana_print_words print hold refuse
         return
         ;;
+    --preset | --save-preset)
+        _corvana_print_presets
+        return
+        ;;
     --format)
         _corvana_print_words json text
         return
@@ -162,7 +175,8 @@ _corvana_print() {
 
     if [[ $current == -* ]]; then
         _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd \
-            --document-password-file --ppd --demo --list-printers -o --option -n --copies -P -q -H -t --title --output \
+            --document-password-file --ppd --demo --list-printers \
+            --preset --list-presets --save-preset -o --option -n --copies -P -q -H -t --title --output \
             --no-dialog --summary --on-alert --wait --no-wait --format -s -c -m --bundle-root \
             --check-display --help --version
         return

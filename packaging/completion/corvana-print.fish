@@ -16,6 +16,11 @@ function __corvana_print_printers
     timeout 2 $line[1] $offer --list-printers 2>/dev/null </dev/null
 end
 
+function __corvana_print_presets
+    set -l line (commandline -opc)
+    timeout 2 $line[1] --list-presets 2>/dev/null </dev/null
+end
+
 # The job attributes; the options of a printer stand in its PPD.
 function __corvana_print_options
     for size in A4 A5 A3 Letter Legal
@@ -57,6 +62,9 @@ complete -c corvana-print -l ppd -r -d 'Print for the printer of this PPD'
 complete -c corvana-print -l output -r -d 'Write the data for the printer to this file'
 complete -c corvana-print -l demo -d 'Offer the sample printers'
 complete -c corvana-print -l list-printers -d 'List the printers and exit'
+complete -c corvana-print -l preset -x -a '(__corvana_print_presets)' -d 'Start with the settings of this preset'
+complete -c corvana-print -l list-presets -d 'List the presets and exit'
+complete -c corvana-print -l save-preset -x -a '(__corvana_print_presets)' -d 'Keep the settings as this preset, and exit'
 complete -c corvana-print -s o -l option -x -a '(__corvana_print_options)' -d 'Set an option of the printer or of the job'
 complete -c corvana-print -s n -l copies -x -d 'Print this many copies'
 complete -c corvana-print -s P -x -d 'Print these pages'

@@ -35,6 +35,16 @@ struct JobValueClaim
     QString allowed;
 };
 
+/// An entry of the print settings in which panels keep a value of their own.
+struct PanelEntry
+{
+    QString key;
+    QVariant value;      ///< in the one form in which equal values are equal, stored or not
+    QStringList options; ///< of a job, that say it while it is in force
+
+    bool operator==(const PanelEntry &) const = default;
+};
+
 /// The optional part of the contract: values that the panels keep in print settings entries of
 /// their own, beside the PPD's choices. With it a host carries them into a job, and options of a
 /// command line or a preset into the entries, without knowing a single key.
@@ -82,6 +92,20 @@ public:
     {
         return {};
     }
+
+    /// The values that panels keep for a job of this printer, those that are not in force among
+    /// them, and those that were never stored as what that means. A host may write them into the
+    /// settings of a later job. Whatever else panels store is how they look, such as what is
+    /// disclosed, and belongs to no job. Empty: only what jobOptions() names can be kept.
+    virtual QList<PanelEntry> entries([[maybe_unused]] const PrintSettings &settings,
+                                      [[maybe_unused]] ppd_file_t *ppd) const
+    {
+        return {};
+    }
+
+    /// Options that set up the device rather than a job, such as a time until it sleeps. A host
+    /// keeps them for later jobs only where the user says so.
+    virtual QStringList deviceOptions() const { return {}; }
 };
 
 } // namespace corvana

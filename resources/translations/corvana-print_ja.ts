@@ -1397,6 +1397,14 @@
         <source>The result could not be written to standard output: %1.</source>
         <translation>結果を標準出力に書き込めませんでした: %1。</translation>
     </message>
+<message>
+        <source>The preset “%1” is kept.</source>
+        <translation>プリセット「%1」を保存しました。</translation>
+    </message>
+    <message>
+        <source>No preset was kept.</source>
+        <translation>プリセットは保存されませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ChoiceEditor</name>
@@ -1912,6 +1920,14 @@ For the command line: %2</source>
     <message>
         <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
         <translation>ジョブはこれらの指示を待つ必要がありますが、手動両面印刷では待つことができません。指示に従ってから --on-alert=print で印刷してください。</translation>
+    </message>
+<message>
+        <source>As in your last job.</source>
+        <translation>前回の印刷と同じ設定です。</translation>
+    </message>
+    <message>
+        <source>Use Defaults</source>
+        <translation>既定値を使用</translation>
     </message>
 </context>
 <context>
@@ -3186,6 +3202,325 @@ For the command line: %2</source>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>LastUsed</name>
+    <message>
+        <source>The settings of the last job cannot be read, and stay as they are in “%1”: %2.</source>
+        <translation>前回の印刷の設定を読み込めません。「%1」はそのまま残されます: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be removed: %2.</source>
+        <translation>「%1」を削除できません: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written.</source>
+        <translation>「%1」に書き込めません。</translation>
+    </message>
+</context>
+<context>
+    <name>ListPresets</name>
+    <message>
+        <source>all printers</source>
+        <translation>すべてのプリンター</translation>
+    </message>
+</context>
+<context>
+    <name>Preset</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>プリセットには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>The name of a preset has at most %1 characters.</source>
+        <translation>プリセットの名前は %1 文字までです。</translation>
+    </message>
+    <message>
+        <source>The name of a preset holds only characters that can be seen.</source>
+        <translation>プリセットの名前に使えるのは表示できる文字だけです。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetApplication</name>
+    <message>
+        <source>%1 is not possible on this printer. Allowed: %2.</source>
+        <translation>このプリンターでは%1を使えません。使用できる値: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is not possible together with the other settings.</source>
+        <translation>%1はほかの設定と組み合わせられません。</translation>
+    </message>
+    <message>
+        <source>The printer's settings do not allow %1 here; it became %2.</source>
+        <translation>プリンターの設定により%1は使えないため、%2になりました。</translation>
+    </message>
+    <message>
+        <source>%1 is not on this printer.</source>
+        <translation>%1はこのプリンターにありません。</translation>
+    </message>
+    <message>
+        <source>A value of the printer's own settings (%1) is not possible here.</source>
+        <translation>プリンター固有の設定の値 (%1) はここでは使えません。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>“%1”: expected was %2</source>
+        <translation>「%1」: %2 が必要です</translation>
+    </message>
+    <message>
+        <source>it was written by a later version of this program</source>
+        <translation>このプログラムの新しいバージョンで作成されています</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>at most %1 values</source>
+        <translation>%1 個以下の値</translation>
+    </message>
+    <message>
+        <source>the name of an option</source>
+        <translation>オプションの名前</translation>
+    </message>
+    <message>
+        <source>a value or a list of values</source>
+        <translation>値または値のリスト</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>expected was { … }</source>
+        <translation>{ … } が必要です</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>“%1” is damaged and is left as it is: %2.</source>
+        <translation>「%1」は壊れているため、そのまま残されます: %2。</translation>
+    </message>
+    <message>
+        <source>There is no place to keep presets.</source>
+        <translation>プリセットの保存場所がありません。</translation>
+    </message>
+    <message>
+        <source>Another program is writing presets. Try again.</source>
+        <translation>ほかのプログラムがプリセットを書き込んでいます。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>no space left, or no permission</source>
+        <translation>空き容量がないか、権限がありません</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>There is a preset of the name “%1” already.</source>
+        <translation>「%1」という名前のプリセットはすでにあります。</translation>
+    </message>
+    <message>
+        <source>There is no preset of the name “%1” any more.</source>
+        <translation>「%1」という名前のプリセットはもうありません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be removed: %2.</source>
+        <translation>「%1」を削除できません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>StartPresets</name>
+    <message>
+        <source>Last job: %1</source>
+        <translation>前回の印刷: %1</translation>
+    </message>
+    <message>
+        <source>There is no preset “%1”, nor any other for this printer.</source>
+        <translation>プリセット「%1」はありません。このプリンター用のプリセットはほかにもありません。</translation>
+    </message>
+    <message>
+        <source>There is no preset “%1” for this printer. Presets: %2.</source>
+        <translation>このプリンター用のプリセット「%1」はありません。プリセット: %2。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PresetMenu</name>
+    <message>
+        <source>Printer &amp;Defaults</source>
+        <translation>プリンターの既定値(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Last Used</source>
+        <translation>前回の設定(&amp;L)</translation>
+    </message>
+    <message>
+        <source>For This Model</source>
+        <translation>この機種用</translation>
+    </message>
+    <message>
+        <source>For All Printers</source>
+        <translation>すべてのプリンター用</translation>
+    </message>
+    <message>
+        <source>&amp;Save Preset…</source>
+        <translation>プリセットを保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Update “%1”</source>
+        <translation>「%1」を更新(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename “%1”…</source>
+        <translation>「%1」の名前を変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>D&amp;elete “%1”…</source>
+        <translation>「%1」を削除(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;member the Settings of the Last Job</source>
+        <translation>前回の印刷の設定を記憶する(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>プリセットの削除</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? The settings stay as they are.</source>
+        <translation>プリセット「%1」を削除しますか? 現在の設定は変わりません。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PresetRow</name>
+    <message>
+        <source>Prese&amp;t:</source>
+        <translation>プリセット(&amp;T):</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（変更あり）</translation>
+    </message>
+    <message>
+        <source>Preset: %1</source>
+        <translation>プリセット: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SavePresetDialog</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセットの名前を変更</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>プリセットを保存</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>For printers of this &amp;model (%1)</source>
+        <translation>この機種のプリンター用(&amp;M) (%1)</translation>
+    </message>
+    <message>
+        <source>For &amp;all printers, as far as they have these settings</source>
+        <translation>これらの設定があるすべてのプリンター用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;With what sets up the printer itself (%1)</source>
+        <translation>プリンター本体の設定も含める(&amp;W) (%1)</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already.</source>
+        <translation>この名前のプリセットはすでにあります。</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already. It will be replaced.</source>
+        <translation>この名前のプリセットはすでにあります。置き換えられます。</translation>
+    </message>
+    <message>
+        <source>There is another preset of this name, which stays.</source>
+        <translation>この名前のプリセットがほかにもあります。それはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskPresets</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>There is no preset of the name “%1” any more.</source>
+        <translation>「%1」という名前のプリセットはもうありません。</translation>
+    </message>
+    <message>
+        <source>Not everything of “%1” is possible here:
+%2</source>
+        <translation>「%1」の一部はここでは使えません:
+%2</translation>
+    </message>
+    <message>
+        <source>“%1” was kept with settings that this printer does not have.</source>
+        <translation>「%1」には、このプリンターにない設定が含まれています。</translation>
+    </message>
+    <message>
+        <source>%1 Your settings are as they were.</source>
+        <translation>%1 現在の設定は変わっていません。</translation>
     </message>
 </context>
 </TS>

@@ -1397,6 +1397,14 @@
         <source>The result could not be written to standard output: %1.</source>
         <translation>无法将结果写入标准输出：%1。</translation>
     </message>
+<message>
+        <source>The preset “%1” is kept.</source>
+        <translation>预设“%1”已保存。</translation>
+    </message>
+    <message>
+        <source>No preset was kept.</source>
+        <translation>未保存任何预设。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ChoiceEditor</name>
@@ -1912,6 +1920,14 @@ For the command line: %2</source>
     <message>
         <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
         <translation>作业需要等待完成这些指示，而手动双面打印无法等待。请先按指示操作，再使用 --on-alert=print 打印。</translation>
+    </message>
+<message>
+        <source>As in your last job.</source>
+        <translation>与您上次打印的设置相同。</translation>
+    </message>
+    <message>
+        <source>Use Defaults</source>
+        <translation>使用默认值</translation>
     </message>
 </context>
 <context>
@@ -3186,6 +3202,325 @@ For the command line: %2</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>LastUsed</name>
+    <message>
+        <source>The settings of the last job cannot be read, and stay as they are in “%1”: %2.</source>
+        <translation>无法读取上次打印的设置，“%1”保持原样：%2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be removed: %2.</source>
+        <translation>无法删除“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written.</source>
+        <translation>无法写入“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>ListPresets</name>
+    <message>
+        <source>all printers</source>
+        <translation>所有打印机</translation>
+    </message>
+</context>
+<context>
+    <name>Preset</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>预设需要名称。</translation>
+    </message>
+    <message>
+        <source>The name of a preset has at most %1 characters.</source>
+        <translation>预设的名称最多 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>The name of a preset holds only characters that can be seen.</source>
+        <translation>预设的名称只能包含可见字符。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetApplication</name>
+    <message>
+        <source>%1 is not possible on this printer. Allowed: %2.</source>
+        <translation>此打印机不支持%1。允许的值：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not possible together with the other settings.</source>
+        <translation>%1无法与其他设置同时使用。</translation>
+    </message>
+    <message>
+        <source>The printer's settings do not allow %1 here; it became %2.</source>
+        <translation>打印机的设置在此不允许%1，已变为%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not on this printer.</source>
+        <translation>此打印机没有%1。</translation>
+    </message>
+    <message>
+        <source>A value of the printer's own settings (%1) is not possible here.</source>
+        <translation>打印机自身设置的值（%1）在此不可用。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>“%1”: expected was %2</source>
+        <translation>“%1”：应为 %2</translation>
+    </message>
+    <message>
+        <source>it was written by a later version of this program</source>
+        <translation>它由此程序的较新版本写入</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>at most %1 values</source>
+        <translation>最多 %1 个值</translation>
+    </message>
+    <message>
+        <source>the name of an option</source>
+        <translation>选项的名称</translation>
+    </message>
+    <message>
+        <source>a value or a list of values</source>
+        <translation>值或值的列表</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>无法写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>expected was { … }</source>
+        <translation>应为 { … }</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>它不是文件</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>它大于 %1 字节</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>“%1” is damaged and is left as it is: %2.</source>
+        <translation>“%1”已损坏，保持原样：%2。</translation>
+    </message>
+    <message>
+        <source>There is no place to keep presets.</source>
+        <translation>没有保存预设的位置。</translation>
+    </message>
+    <message>
+        <source>Another program is writing presets. Try again.</source>
+        <translation>另一个程序正在写入预设。请重试。</translation>
+    </message>
+    <message>
+        <source>no space left, or no permission</source>
+        <translation>没有空间或没有权限</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>无法写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>There is a preset of the name “%1” already.</source>
+        <translation>已有名为“%1”的预设。</translation>
+    </message>
+    <message>
+        <source>There is no preset of the name “%1” any more.</source>
+        <translation>名为“%1”的预设已不存在。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be removed: %2.</source>
+        <translation>无法删除“%1”：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>StartPresets</name>
+    <message>
+        <source>Last job: %1</source>
+        <translation>上次打印：%1</translation>
+    </message>
+    <message>
+        <source>There is no preset “%1”, nor any other for this printer.</source>
+        <translation>没有预设“%1”，此打印机也没有其他预设。</translation>
+    </message>
+    <message>
+        <source>There is no preset “%1” for this printer. Presets: %2.</source>
+        <translation>此打印机没有预设“%1”。预设：%2。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PresetMenu</name>
+    <message>
+        <source>Printer &amp;Defaults</source>
+        <translation>打印机默认值(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Last Used</source>
+        <translation>上次使用(&amp;L)</translation>
+    </message>
+    <message>
+        <source>For This Model</source>
+        <translation>用于此型号</translation>
+    </message>
+    <message>
+        <source>For All Printers</source>
+        <translation>用于所有打印机</translation>
+    </message>
+    <message>
+        <source>&amp;Save Preset…</source>
+        <translation>保存预设(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Update “%1”</source>
+        <translation>更新“%1”(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename “%1”…</source>
+        <translation>重命名“%1”(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>D&amp;elete “%1”…</source>
+        <translation>删除“%1”(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;member the Settings of the Last Job</source>
+        <translation>记住上次打印的设置(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>删除预设</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? The settings stay as they are.</source>
+        <translation>要删除预设“%1”吗？当前设置保持不变。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PresetRow</name>
+    <message>
+        <source>Prese&amp;t:</source>
+        <translation>预设(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（已更改）</translation>
+    </message>
+    <message>
+        <source>Preset: %1</source>
+        <translation>预设：%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SavePresetDialog</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>重命名预设</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>保存预设</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>For printers of this &amp;model (%1)</source>
+        <translation>用于此型号的打印机(&amp;M)（%1）</translation>
+    </message>
+    <message>
+        <source>For &amp;all printers, as far as they have these settings</source>
+        <translation>用于所有具有这些设置的打印机(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;With what sets up the printer itself (%1)</source>
+        <translation>包括打印机本身的设置(&amp;W)（%1）</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already.</source>
+        <translation>已有此名称的预设。</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already. It will be replaced.</source>
+        <translation>已有此名称的预设，将被替换。</translation>
+    </message>
+    <message>
+        <source>There is another preset of this name, which stays.</source>
+        <translation>另有一个此名称的预设，它将保留。</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskPresets</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 项</translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>打印机默认值</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>上次使用</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>There is no preset of the name “%1” any more.</source>
+        <translation>名为“%1”的预设已不存在。</translation>
+    </message>
+    <message>
+        <source>Not everything of “%1” is possible here:
+%2</source>
+        <translation>“%1”中的某些设置在此不可用：
+%2</translation>
+    </message>
+    <message>
+        <source>“%1” was kept with settings that this printer does not have.</source>
+        <translation>“%1”包含此打印机没有的设置。</translation>
+    </message>
+    <message>
+        <source>%1 Your settings are as they were.</source>
+        <translation>%1 您的设置保持不变。</translation>
     </message>
 </context>
 </TS>

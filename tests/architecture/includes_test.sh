@@ -28,19 +28,20 @@ dialog/server        dialog/server/ platform/
 dialog/driverless    dialog/driverless/ dialog/session/ platform/
 dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/policy        dialog/policy/ dialog/printers/ dialog/session/ platform/
+dialog/presets       dialog/presets/ dialog/printers/ dialog/session/ platform/
 dialog/text          dialog/text/ dialog/session/ platform/
 dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
 dialog/preview       dialog/preview/ renderer/protocol/ platform/
 dialog/documents     dialog/documents/ dialog/preview/ dialog/job/ renderer/protocol/ platform/
-dialog/task          dialog/task/ dialog/policy/ dialog/documents/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
-dialog/window        dialog/window/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/task          dialog/task/ dialog/policy/ dialog/presets/ dialog/documents/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/window        dialog/window/ dialog/presets/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/find   dialog/window/find/ dialog/window/chooser/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
 dialog/window/thumbnails dialog/window/thumbnails/ dialog/preview/ dialog/sheets/ platform/
 dialog/window/preview dialog/window/preview/ dialog/window/chooser/ dialog/preview/ dialog/sheets/ platform/
-dialog/terminal      dialog/terminal/ dialog/policy/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/terminal      dialog/terminal/ dialog/policy/ dialog/presets/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/app           dialog/ platform/
 '
 
@@ -131,6 +132,10 @@ dialog/printers/A.cpp        dialog/driverless/CapabilityPpd.h  allowed
 dialog/printers/A.cpp        dialog/server/ServerWork.h         allowed
 dialog/printers/A.cpp        dialog/job/ServerJob.h             refused
 dialog/printers/A.cpp        dialog/task/PrintRequest.h         refused
+dialog/presets/A.cpp         dialog/printers/PrinterId.h        allowed
+dialog/presets/A.cpp         dialog/task/PrintTask.h            refused
+dialog/printers/A.cpp        dialog/presets/Preset.h            refused
+dialog/session/A.cpp         dialog/presets/Preset.h            refused
 dialog/text/A.cpp            dialog/session/PpdFile.h           allowed
 dialog/text/A.cpp            dialog/job/Document.h              refused
 dialog/job/A.cpp             dialog/text/TextFormat.h           allowed

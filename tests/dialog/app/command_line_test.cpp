@@ -133,6 +133,18 @@ private Q_SLOTS:
             l.listPrinters = true;
             l.documents.clear();
         });
+        row("a preset to start with", {u"--preset"_s, u"Monthly reports"_s, doc},
+            [](CommandLine &l) { l.preset = u"Monthly reports"_s; });
+        row("presets without a document", {u"--list-presets"_s}, [](CommandLine &l) {
+            l.listPresets = true;
+            l.documents.clear();
+        });
+        row("a preset to keep without a document",
+            {u"--save-preset"_s, u"Reports"_s, u"--no-dialog"_s}, [](CommandLine &l) {
+                l.savePreset = u"Reports"_s;
+                l.noDialog = true;
+                l.documents.clear();
+            });
         row("display check without a document", {u"--check-display"_s}, [](CommandLine &l) {
             l.checkDisplay = true;
             l.documents.clear();
@@ -177,9 +189,12 @@ private Q_SLOTS:
         row("option without its value", {doc, u"-d"_s}, u"d"_s);
         row("value for what takes none", {u"--demo=yes"_s, doc}, u"demo"_s);
         row("-h is no help any more", {doc, u"-h"_s}, u"-h"_s);
-        for (const char *name : {"-d", "--printer", "--ppd", "--output", "-U", "--password-file",
-                                 "--document-password-file", "--bundle-root"})
+        for (const char *name :
+             {"-d", "--printer", "--ppd", "--output", "-U", "--password-file",
+              "--document-password-file", "--bundle-root", "--preset", "--save-preset"})
             row(name, {QString::fromUtf8(name), QString(u""_s), doc}, u"is missing"_s);
+        row("a document beside a preset to keep", {u"--save-preset"_s, u"Reports"_s, doc},
+            u"--save-preset"_s);
         row("no server", {u"-h"_s, QString(u""_s), doc}, u"HOST"_s);
         row("pages that go back", {u"-P"_s, u"3-1"_s, doc}, u"-P \"3-1\""_s);
         row("no pages", {u"-P"_s, QString(u""_s), doc}, u"-P"_s);
@@ -231,8 +246,9 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, ExitStatus::Done);
         for (const QString &option :
              {u"-d"_s, u"--printer"_s, u"--ppd"_s, u"--output"_s, u"--demo"_s, u"--list-printers"_s,
-              u"-o"_s, u"-n"_s, u"-t"_s, u"--no-dialog"_s, u"--summary"_s, u"--bundle-root"_s,
-              u"--check-display"_s, u"--version"_s, u"FILE"_s})
+              u"--preset"_s, u"--list-presets"_s, u"--save-preset"_s, u"-o"_s, u"-n"_s, u"-t"_s,
+              u"--no-dialog"_s, u"--summary"_s, u"--bundle-root"_s, u"--check-display"_s,
+              u"--version"_s, u"FILE"_s})
             QVERIFY2(result.text.contains(option), qPrintable(option));
     }
 

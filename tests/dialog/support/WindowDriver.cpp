@@ -23,6 +23,8 @@ PrintRequest requestFor(const CommandLine &line)
     PrintRequest prepared = preparePrintRequest(line, &error).value_or(PrintRequest());
     if (!error.isEmpty())
         throw std::runtime_error(error.toStdString());
+    // What one test has printed is nothing to the next.
+    prepared.remembersLastUsed = false;
     return prepared;
 }
 

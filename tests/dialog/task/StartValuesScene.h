@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QTemporaryDir>
 
+#include "dialog/presets/LastUsed.h"
+#include "dialog/presets/PresetStore.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/StartValues.h"
@@ -49,9 +51,31 @@ protected:
         case By::UserQueues:
             setUserOptions(option);
             break;
+        case By::LastUsed:
+            m_request.remembersLastUsed = true;
+            writeLastUsed(m_fetched.printer, m_request.server.text(), contentWith(option));
+            break;
+        case By::Preset: {
+            Preset preset;
+            preset.name = m_request.preset = QStringLiteral("Reports");
+            preset.content = contentWith(option);
+            PresetStore(m_request.presetPlaces).save(preset, PresetStore::Replacing::Yes);
+            break;
+        }
         default:
             m_request.options = parseOptions({option});
         }
+    }
+    static PresetContent contentWith(const QString &option)
+    {
+        PresetContent content;
+        for (const JobOption &one : parseOptions({option})) {
+            if (isKept(one.name))
+                content.attributes.insert(one.name, one.value);
+            else
+                content.options.insert(one.name, one.value);
+        }
+        return content;
     }
     StartOutcome start()
     {
@@ -73,6 +97,7 @@ private Q_SLOTS:
     {
         m_home = std::make_unique<QTemporaryDir>();
         m_variables.push_back(std::make_unique<Variable>("HOME", m_home->path().toUtf8()));
+        m_variables.push_back(std::make_unique<Variable>("XDG_DATA_HOME", m_home->path().toUtf8()));
         m_variables.push_back(std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent"));
         m_fetched = {};
         m_fetched.printer.name = QStringLiteral("office");
@@ -80,6 +105,7 @@ private Q_SLOTS:
         m_fetched.ppd =
             ppdOfFile(writeFile(m_home->filePath(QStringLiteral("a.ppd")), smallPrinter().text()));
         m_request = {};
+        m_request.presetPlaces = {m_home->filePath(QStringLiteral("presets"))};
         m_settings = {};
     }
     void cleanup()

@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -8,6 +6,7 @@
 #include "dialog/window/SilencedAlerts.h"
 #include "platform/foundation/UserDefaults.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/OrdinaryUser.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -16,26 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kBundle = u"com.corvana.test.silenced"_s;
-
-// A user who may only do what permissions allow, while it lives; the superuser may do everything.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser() : m_wasSuperuser(::geteuid() == 0)
-    {
-        constexpr uid_t kNobody = 65534;
-        if (m_wasSuperuser && ::setresuid(kNobody, kNobody, 0) != 0)
-            qFatal("the superuser cannot become somebody else");
-    }
-    ~OrdinaryUser()
-    {
-        if (m_wasSuperuser && ::setresuid(0, 0, 0) != 0)
-            qFatal("the superuser does not come back");
-    }
-
-private:
-    bool m_wasSuperuser;
-};
 
 } // namespace
 

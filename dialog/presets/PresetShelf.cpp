@@ -1,0 +1,64 @@
+#include "dialog/presets/PresetShelf.h"
+
+#include <utility>
+
+namespace corvana {
+
+void PresetShelf::setPrinter(const PresetPlaces &places, const QString &model)
+{
+    m_store = PresetStore(places);
+    if (m_model != model) {
+        m_model = model;
+        m_listing = {};
+        Q_EMIT changed();
+    }
+    look();
+}
+
+void PresetShelf::look()
+{
+    m_work.run([this, store = m_store, model = m_model]() -> PresetWork::Then {
+        // Only the answer, on the GUI thread, speaks of this object, which is alive then.
+        return [this, model, found = store.list(model)] {
+            if (model != m_model || found == m_listing)
+                return;
+            m_listing = found;
+            Q_EMIT changed();
+        };
+    });
+}
+
+void PresetShelf::run(Change change, const QString &name, std::function<QString()> work)
+{
+    m_work.run([this, change, name, work = std::move(work)]() -> PresetWork::Then {
+        return [this, change, name, problem = work()] { Q_EMIT ended(change, name, problem); };
+    });
+    if (change != Change::LastJob)
+        look();
+}
+
+void PresetShelf::save(const Preset &preset, PresetStore::Replacing replacing)
+{
+    run(Change::Saved, preset.name,
+        [store = m_store, preset, replacing] { return store.save(preset, replacing); });
+}
+
+void PresetShelf::rename(const Preset &preset, const QString &name)
+{
+    run(Change::Renamed, name,
+        [store = m_store, preset, name] { return store.rename(preset, name); });
+}
+
+void PresetShelf::remove(const Preset &preset)
+{
+    run(Change::Removed, preset.name, [store = m_store, preset] { return store.remove(preset); });
+}
+
+void PresetShelf::keepLastJob(const Printer &printer, const QString &server,
+                              const PresetContent &changes)
+{
+    run(Change::LastJob, {},
+        [printer, server, changes] { return writeLastUsed(printer, server, changes); });
+}
+
+} // namespace corvana

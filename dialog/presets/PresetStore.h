@@ -1,0 +1,88 @@
+#pragma once
+
+#include <optional>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "dialog/presets/Preset.h"
+
+namespace corvana {
+
+/// Where presets lie.
+struct PresetPlaces
+{
+    QString own;                ///< the user's; one folder a model below it
+    QStringList forEverybody{}; ///< an administrator's, there or in it itself; only read
+
+    bool operator==(const PresetPlaces &) const = default;
+    /// Those of this user: $XDG_DATA_HOME/corvana-print/presets.
+    static PresetPlaces ofUser();
+};
+
+/// A preset and where it lies.
+struct StoredPreset
+{
+    Preset preset;
+    QString path;
+    bool isOwn = true; ///< else the administrator's, which nobody changes here
+
+    bool operator==(const StoredPreset &) const = default;
+};
+
+/// What there is, and what cannot be read.
+struct PresetListing
+{
+    QList<StoredPreset> presets{};
+    /// One sentence for each file that is damaged, with its path. It stays where it is, as it is.
+    QStringList problems{};
+
+    bool operator==(const PresetListing &) const = default;
+    /// The preset of that name; nothing when there is none.
+    std::optional<StoredPreset> find(const QString &name) const;
+    QStringList names() const;
+};
+
+/// The presets of a user and those of an administrator for everybody, one file each. Several
+/// programs may use them at once. A value; each operation reads or writes files, and so does not
+/// belong on the GUI thread where it can be avoided.
+class PresetStore
+{
+public:
+    enum class Replacing { No, Yes };
+
+    explicit PresetStore(PresetPlaces places = PresetPlaces::ofUser()) : m_places(std::move(places))
+    {
+    }
+
+    /// Those for the printers of a model, then those for all printers; each by name, and of one
+    /// name only the first: the user's own before the administrator's, the model's before those for
+    /// all. At most kMostPresets.
+    PresetListing list(const QString &model) const;
+    /// Those of all models.
+    PresetListing listAll() const;
+
+    /// Keeps a preset. What a later version of the program has written into the file that is
+    /// replaced stays in it. Errors: why it was not kept; a file that is damaged is never replaced.
+    QString save(const Preset &preset, Replacing replacing) const;
+    /// Errors: why it was not renamed; then everything is as it was.
+    QString rename(const Preset &preset, const QString &name) const;
+    /// Errors: why it was not removed.
+    QString remove(const Preset &preset) const;
+
+private:
+    class Lock;
+
+    QString folderOf(const QString &model) const;
+    /// The file of a preset, also one that somebody has copied here under another name.
+    QString fileOf(const Preset &preset) const;
+    QString write(Preset preset, Replacing replacing) const;
+
+    PresetPlaces m_places;
+};
+
+/// The most presets that are read of one folder.
+inline constexpr int kMostPresets = 500;
+
+} // namespace corvana

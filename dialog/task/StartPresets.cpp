@@ -1,0 +1,107 @@
+#include "dialog/task/StartPresets.h"
+
+#include <optional>
+
+#include <QCoreApplication>
+
+#include "dialog/policy/Policy.h"
+#include "dialog/presets/LastUsed.h"
+#include "dialog/presets/PresetStore.h"
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/PresetApplication.h"
+#include "dialog/task/PrintRequest.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using By = JobSettings::By;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(StartPresets)
+};
+
+// What the user changed for the last job.
+void applyLastUsed(const PrintRequest &request, OpenedPrinter &printer, JobSettings &settings,
+                   StartOutcome *outcome)
+{
+    outcome->defaults = outcome->kept = contentOf(printer, settings);
+    if (!remembersLastUsed(request, printer.fetched.printer))
+        return;
+    const LastUsedReading reading = readLastUsed(printer.fetched.printer, request.server.text());
+    if (!reading.problem.isEmpty())
+        outcome->ignored += reading.problem;
+    if (reading.changes.isEmpty())
+        return;
+    const PresetUse use{PresetUse::Others::Kept, {}, By::LastUsed};
+    const PresetOutcome taken =
+        applyPreset(reading.changes, use, request.documents, printer, settings);
+    for (const QString &problem : taken.missing)
+        outcome->ignored += Texts::tr("Last job: %1").arg(problem);
+    outcome->lastUsed = reading.changes;
+    outcome->kept = contentOf(printer, settings);
+}
+
+// The preset that was named for this job.
+void applyNamedPreset(const PrintRequest &request, OpenedPrinter &printer, JobSettings &settings,
+                      StartOutcome *outcome)
+{
+    if (request.preset.isEmpty())
+        return;
+    const PresetListing all = PresetStore(presetPlacesOf(request, printer.fetched.printer))
+                                  .list(modelOf(printer.session->ppd()));
+    const std::optional<StoredPreset> found = all.find(presetName(request.preset));
+    if (!found) {
+        outcome->unset += all.problems;
+        outcome->unset +=
+            all.presets.isEmpty()
+                ? Texts::tr("There is no preset “%1”, nor any other for this printer.")
+                      .arg(request.preset)
+                : Texts::tr("There is no preset “%1” for this printer. Presets: %2.")
+                      .arg(request.preset, all.names().join(u", "_s));
+        return;
+    }
+    const Preset &preset = found->preset;
+    const PresetUse use{PresetUse::Others::Cleared, preset.changed, By::Preset};
+    const PresetOutcome taken = applyPreset(withChanges(outcome->defaults, preset.content), use,
+                                            request.documents, printer, settings);
+    for (const QString &problem : taken.missing + taken.details)
+        outcome->ignored += Texts::tr("%1: %2").arg(preset.name, problem);
+    outcome->preset = preset.name;
+    outcome->isForDevice = preset.device;
+    outcome->kept = contentOf(printer, settings, preset.device);
+}
+
+} // namespace
+
+bool remembersLastUsed(const PrintRequest &request, const Printer &printer)
+{
+    return request.remembersLastUsed && policyOf(request).bringsLastUsedBack(printer);
+}
+
+PresetPlaces presetPlacesOf(const PrintRequest &request, const Printer &printer)
+{
+    PresetPlaces places = request.presetPlaces;
+    if (const QString folder = policyOf(request).presetsFolder(printer); !folder.isEmpty())
+        places.forEverybody += folder;
+    return places;
+}
+
+PresetContent contentOf(const OpenedPrinter &printer, const JobSettings &settings, bool withDevice)
+{
+    return contentOf(*printer.session, printer.jobValues, settings.attributes(), withDevice);
+}
+
+void applyKeptSettings(JobSettings::By by, const PrintRequest &request, OpenedPrinter &printer,
+                       JobSettings &settings, StartOutcome *outcome)
+{
+    if (by == By::LastUsed)
+        applyLastUsed(request, printer, settings, outcome);
+    else
+        applyNamedPreset(request, printer, settings, outcome);
+}
+
+} // namespace corvana

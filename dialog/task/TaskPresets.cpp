@@ -1,0 +1,301 @@
+#include "dialog/task/TaskPresets.h"
+
+#include <utility>
+
+#include <QSignalBlocker>
+
+#include "dialog/policy/Policy.h"
+#include "dialog/presets/LastUsed.h"
+#include "dialog/task/PresetApplication.h"
+#include "dialog/task/PrintTask.h"
+#include "dialog/task/StartPresets.h"
+
+namespace corvana {
+
+using Kind = SelectedPreset::Kind;
+using Phase = PrintTask::Phase;
+
+namespace {
+
+// More of them fill a screen and are read by nobody.
+constexpr qsizetype kMostSentences = 12;
+
+QString sentences(const QStringList &all)
+{
+    QString text = all.mid(0, kMostSentences).join(u'\n');
+    if (all.size() > kMostSentences)
+        text += u'\n' + TaskPresets::tr("and %1 more").arg(all.size() - kMostSentences);
+    return text;
+}
+
+} // namespace
+
+TaskPresets::TaskPresets(PrintTask &task) : m_task(task)
+{
+    connect(&m_shelf, &PresetShelf::changed, this, &TaskPresets::listed);
+    connect(&m_shelf, &PresetShelf::ended, this, &TaskPresets::changeEnded);
+}
+
+QString TaskPresets::selectedName() const
+{
+    switch (m_kept.selected.kind) {
+    case Kind::Defaults:
+        return tr("Printer Defaults");
+    case Kind::LastUsed:
+        return tr("Last Used");
+    case Kind::Preset:
+        break;
+    }
+    return m_kept.selected.name;
+}
+
+bool TaskPresets::isChanged() const
+{
+    QStringList changed = m_task.changedSettings();
+    const OpenedPrinter *opened = m_task.opened();
+    if (opened && opened->jobValues && !m_kept.selected.device) {
+        const QStringList device = opened->jobValues->deviceOptions();
+        changed.removeIf([&](const QString &name) { return device.contains(name); });
+    }
+    return !changed.isEmpty();
+}
+
+QString TaskPresets::modelName() const
+{
+    return m_task.opened() ? modelOf(m_task.opened()->session->ppd()) : QString();
+}
+
+QString TaskPresets::deviceSettings() const
+{
+    const OpenedPrinter *opened = m_task.opened();
+    if (!opened || !opened->jobValues)
+        return {};
+    QStringList texts;
+    for (const QString &keyword : opened->jobValues->deviceOptions()) {
+        if (const ppd_option_t *option = ppdOption(opened->session->ppd(), keyword))
+            texts += ppdText(option->text).value_or(keyword);
+    }
+    return texts.join(tr(", "));
+}
+
+QStringList TaskPresets::namesOf(const PresetContent &content) const
+{
+    const OpenedPrinter *opened = m_task.opened();
+    return opened ? namesIn(content, panelEntries(*opened->session, opened->jobValues))
+                  : QStringList();
+}
+
+void TaskPresets::start(const StartOutcome &started)
+{
+    m_kept = {{},
+              started.defaults,
+              started.lastUsed,
+              started.kept,
+              contentOf(*m_task.opened(), m_task.settings(), started.isForDevice)};
+    if (!started.preset.isEmpty())
+        m_kept.selected = {Kind::Preset, started.preset, started.isForDevice};
+    else if (!started.lastUsed.isEmpty())
+        m_kept.selected = {Kind::LastUsed};
+}
+
+void TaskPresets::begin()
+{
+    if (m_task.m_chosen.canBeAnother || !m_task.request().presetToSave.isEmpty())
+        m_shelf.setPrinter(presetPlacesOf(m_task.request(), m_task.printer()), modelName());
+    Q_EMIT changed();
+}
+
+void TaskPresets::useDefaults()
+{
+    apply(m_kept.defaults, {}, {});
+}
+
+void TaskPresets::useLastUsed()
+{
+    apply(withChanges(m_kept.defaults, m_kept.lastUsed), namesOf(m_kept.lastUsed),
+          {Kind::LastUsed});
+}
+
+void TaskPresets::use(const QString &name)
+{
+    const std::optional<StoredPreset> found = listing().find(name);
+    if (!found)
+        return m_task.say(TaskMessage::Kind::Problem,
+                          tr("There is no preset of the name “%1” any more.").arg(name));
+    const Preset &preset = found->preset;
+    apply(withChanges(m_kept.defaults, preset.content), preset.changed,
+          {Kind::Preset, preset.name, preset.device});
+}
+
+// `chosen`: what of the content was chosen by somebody.
+void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
+                        const SelectedPreset &selected)
+{
+    if (m_task.phase() != Phase::Ready || !m_task.m_face.finishEditing())
+        return;
+    Q_EMIT m_task.unsaid();
+    m_task.recordStep(); // what was typed just now
+    PresetOutcome outcome;
+    {
+        // What happens on the way is a part of it, and is told when it is over.
+        const QSignalBlocker blocker(m_task.opened()->panels.get());
+        outcome = applyPreset(content, {PresetUse::Others::Cleared, chosen}, m_task.documents(),
+                              *m_task.opened(), m_task.settings());
+    }
+    if (m_task.phase() != Phase::Ready)
+        return; // interrupted, while an alert of a panel was waiting for its answer
+    m_kept.selected = selected;
+    m_task.recordStep(selectedName());
+    m_task.setBase({m_task.settingsNow(), selectedName()});
+    m_task.showSettings();
+    Q_EMIT changed();
+    say(outcome.missing, outcome.details);
+}
+
+void TaskPresets::say(const QStringList &missing, const QStringList &details)
+{
+    TaskMessage message{
+        TaskMessage::Kind::Problem,
+        tr("Not everything of “%1” is possible here:\n%2").arg(selectedName(), sentences(missing))};
+    if (missing.isEmpty())
+        message = {
+            TaskMessage::Kind::Information,
+            tr("“%1” was kept with settings that this printer does not have.").arg(selectedName())};
+    message.details = details.join(u'\n');
+    if (!missing.isEmpty() || !details.isEmpty())
+        Q_EMIT m_task.said(message);
+}
+
+void TaskPresets::save(const PresetToSave &wanted)
+{
+    using Replacing = PresetStore::Replacing;
+    if (m_task.phase() == Phase::Opened) {
+        // Nobody waits for anything to be shown, and what cannot be set nobody has seen.
+        m_task.bringUp();
+        const QStringList &unset = m_task.m_chosen.unset;
+        if (!unset.isEmpty()) {
+            Q_EMIT m_task.refused({unset});
+            return;
+        }
+    }
+    if (m_task.phase() != Phase::Ready || !m_task.m_face.finishEditing())
+        return;
+    const OpenedPrinter &opened = *m_task.opened();
+    // What a panel shows and has not saved yet, such as a slider that was moved, belongs to it.
+    opened.panels->summary();
+    Preset preset{presetName(wanted.name),
+                  modelName(),
+                  wanted.device,
+                  contentOf(opened, m_task.settings(), wanted.device),
+                  {}};
+    const PresetContent changes = changesIn(preset.content, m_kept.defaults);
+    preset.changed = namesOf(changes);
+    // What is usual is another printer's own affair.
+    if (wanted.forAllPrinters) {
+        preset.model.clear();
+        preset.content = changes;
+    }
+    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow()};
+    m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
+}
+
+void TaskPresets::update()
+{
+    const SelectedPreset selected = m_kept.selected;
+    const std::optional<StoredPreset> found = listing().find(selected.name);
+    if (selected.kind == Kind::Preset)
+        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true});
+}
+
+void TaskPresets::rename(const QString &name)
+{
+    const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
+    if (m_kept.selected.kind == Kind::Preset && found && found->isOwn)
+        m_shelf.rename(found->preset, presetName(name));
+}
+
+void TaskPresets::remove()
+{
+    const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
+    if (m_kept.selected.kind == Kind::Preset && found && found->isOwn)
+        m_shelf.remove(found->preset);
+}
+
+void TaskPresets::listed()
+{
+    // Each file is spoken of once, however often it is looked at.
+    QStringList news = listing().problems;
+    news.removeIf([this](const QString &problem) { return m_told.contains(problem); });
+    m_told += news;
+    if (!news.isEmpty())
+        Q_EMIT m_task.said({TaskMessage::Kind::Information, sentences(news), {}, {}, true});
+    Q_EMIT changed();
+}
+
+void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
+                              const QString &problem)
+{
+    using Change = PresetShelf::Change;
+    const bool isReady = m_task.phase() == Phase::Ready;
+    const std::optional<Saving> saving =
+        change == Change::Saved ? std::exchange(m_saving, std::nullopt) : std::nullopt;
+    if (!problem.isEmpty()) {
+        if (change == Change::LastJob) // it is printed, whatever is remembered of it
+            Q_EMIT m_task.noted(problem);
+        else
+            m_task.say(TaskMessage::Kind::Problem,
+                       tr("%1 Your settings are as they were.").arg(problem));
+    } else if (saving && isReady) {
+        m_kept.selected = saving->selected;
+        m_task.setBase({saving->settings, selectedName()});
+    } else if (change == Change::Renamed && isReady) {
+        m_kept.selected.name = name;
+        m_task.setBase({m_task.base().settings, selectedName()});
+    } else if (change == Change::Removed && m_kept.selected.name == name && isReady) {
+        m_kept.selected = {};
+        m_task.setBase({m_task.base().settings, selectedName()});
+    }
+    Q_EMIT changed();
+    if (change != Change::LastJob)
+        Q_EMIT ended(problem);
+}
+
+bool TaskPresets::remembersLastUsed() const
+{
+    return corvana::remembersLastUsed(m_task.request(), m_task.printer());
+}
+
+bool TaskPresets::mayRememberLastUsed() const
+{
+    return policyOf(m_task.request()).bringsLastUsedBack(m_task.printer());
+}
+
+void TaskPresets::setRemembersLastUsed(bool remembers)
+{
+    m_task.m_request.remembersLastUsed = remembers;
+    const QString problem = corvana::setRemembersLastUsed(remembers);
+    if (!problem.isEmpty())
+        m_task.say(TaskMessage::Kind::Problem, problem);
+    if (!remembers)
+        m_kept.lastUsed = {};
+    Q_EMIT changed();
+}
+
+void TaskPresets::jobBegins()
+{
+    m_ofJob = contentOf(*m_task.opened(), m_task.settings());
+}
+
+// Keeps what the user has changed for a job that was taken.
+void TaskPresets::jobEnded(const JobOutcome &outcome)
+{
+    const bool isTaken = outcome.isDone() || outcome.kind == JobOutcome::Kind::Stopped ||
+                         outcome.kind == JobOutcome::Kind::AlreadyThere;
+    if (!isTaken || !m_task.opened() || !m_task.m_chosen.canBeAnother || !remembersLastUsed())
+        return;
+    const PresetContent wished = withoutRequest(m_ofJob, m_kept.before, m_kept.started);
+    m_kept.lastUsed = withoutWishesForOneJob(changesIn(wished, m_kept.defaults));
+    m_shelf.keepLastJob(m_task.printer(), m_task.request().server.text(), m_kept.lastUsed);
+}
+
+} // namespace corvana

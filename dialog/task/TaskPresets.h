@@ -1,0 +1,141 @@
+#pragma once
+
+#include <optional>
+
+#include <QObject>
+
+#include "dialog/presets/PresetShelf.h"
+#include "dialog/task/TaskSettings.h"
+
+namespace corvana {
+
+class PrintTask;
+struct JobOutcome;
+struct StartOutcome;
+
+/// By which name the settings of a task go.
+struct SelectedPreset
+{
+    enum class Kind {
+        Defaults, ///< where a job starts for everybody
+        LastUsed, ///< with what the user changed for the last job
+        Preset,   ///< kept under a name
+    };
+
+    Kind kind = Kind::Defaults;
+    QString name{};      ///< of a preset
+    bool device = false; ///< it sets up the device as well
+
+    bool operator==(const SelectedPreset &) const = default;
+};
+
+/// What a task knows of the settings that were kept for one printer.
+struct KeptSettings
+{
+    SelectedPreset selected{};
+    PresetContent defaults{}; ///< where a job on this printer starts for everybody
+    PresetContent lastUsed{}; ///< changes of that
+    PresetContent before{};   ///< in force before any option was asked for
+    PresetContent started{};  ///< in force before the user changed anything
+};
+
+/// How the settings of a task are to be kept.
+struct PresetToSave
+{
+    QString name;
+    bool forAllPrinters = false; ///< else for those of the model that is open
+    bool device = false;         ///< with what sets up the device as well
+    bool replaces = false;       ///< a preset of that name may be there
+};
+
+/// The settings of one task that come from before and are kept for later: presets, the defaults of
+/// the printer, and what was changed for the last job. Applying them is one step of the task's
+/// history, and what "changed" compares with from then on.
+///
+/// Ownership: the task's, which it borrows. Thread: GUI thread only.
+class TaskPresets : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TaskPresets(PrintTask &task);
+
+    /// Of the printer that is open, as far as they are known; changed() says when that is more.
+    const PresetListing &listing() const { return m_shelf.listing(); }
+    /// Looks for those that other windows have kept.
+    void look() { m_shelf.look(); }
+
+    const SelectedPreset &selected() const { return m_kept.selected; }
+    /// For people: "Printer Defaults", "Last Used", or the preset's own name.
+    QString selectedName() const;
+    /// Whether something that is kept is set otherwise than selected() has it.
+    bool isChanged() const;
+    bool hasLastUsed() const { return !m_kept.lastUsed.isEmpty(); }
+    /// Which printers a preset is for that is kept now; empty while none is open.
+    QString modelName() const;
+    /// The options that set up the device, by their texts; empty where this printer has none.
+    QString deviceSettings() const;
+
+    // Each is one step, and says what of it the printer has not.
+
+    void useDefaults();
+    void useLastUsed();
+    void use(const QString &name);
+
+    // Beside the GUI thread: ended() follows. What cannot be done is said; the settings of the task
+    // are the same then.
+
+    void save(const PresetToSave &wanted);
+    /// Keeps the settings under the name that is selected.
+    void update();
+    void rename(const QString &name);
+    void remove();
+
+    /// Whether jobs start with what was changed for the last one.
+    bool remembersLastUsed() const;
+    /// Whether the administrator leaves that to the user.
+    bool mayRememberLastUsed() const;
+    /// The user's preference, for all windows from now on. Switched off, what is remembered goes.
+    void setRemembersLastUsed(bool remembers);
+
+    // What the task tells.
+
+    /// A job starts with this.
+    void start(const StartOutcome &started);
+    /// The settings are the user's from here on.
+    void begin();
+    const KeptSettings &kept() const { return m_kept; }
+    /// A printer that was left has come back.
+    void comeBack(const KeptSettings &kept) { m_kept = kept; }
+    void jobBegins();
+    void jobEnded(const JobOutcome &outcome);
+
+Q_SIGNALS:
+    /// listing(), selected() or hasLastUsed() are others. Of isChanged() the task's history tells.
+    void changed();
+    /// `problem`: why a preset was not kept, renamed or removed; empty when it was.
+    void ended(const QString &problem);
+
+private:
+    struct Saving
+    {
+        SelectedPreset selected;
+        TaskSettings settings;
+    };
+
+    void apply(const PresetContent &content, const QStringList &chosen,
+               const SelectedPreset &selected);
+    void say(const QStringList &missing, const QStringList &details);
+    void listed();
+    void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
+    QStringList namesOf(const PresetContent &content) const;
+
+    PrintTask &m_task;
+    PresetShelf m_shelf;
+    KeptSettings m_kept;
+    PresetContent m_ofJob; // that is printed
+    std::optional<Saving> m_saving;
+    QStringList m_told; // files that were spoken of
+};
+
+} // namespace corvana

@@ -1,0 +1,97 @@
+#include "dialog/window/SavePresetDialog.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "dialog/window/PresetMenu.h"
+#include "platform/toolkit/PlainText.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+SavePresetDialog::SavePresetDialog(const TaskPresets &presets, bool rename, QWidget *parent)
+    : QDialog(parent), m_presets(presets), m_renames(rename), m_name(new QLineEdit(this))
+{
+    setWindowTitle(rename ? tr("Rename Preset") : tr("Save Preset"));
+    setWindowModality(Qt::WindowModal);
+    m_name->setObjectName(u"presetName"_s);
+    m_name->setMaxLength(int(kLongestPresetName));
+    auto *layout = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    form->addRow(tr("&Name:"), m_name);
+    layout->addLayout(form);
+    if (!rename)
+        addRange();
+    m_remark = plainLabel({}, this);
+    m_remark->setObjectName(u"presetRemark"_s);
+    m_remark->setWordWrap(true);
+    layout->addWidget(m_remark);
+    auto *buttons =
+        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, Qt::Horizontal, this);
+    m_save = buttons->button(QDialogButtonBox::Ok);
+    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+    setMinimumWidth(26 * fontMetrics().height());
+    const SelectedPreset &selected = presets.selected();
+    if (selected.kind == SelectedPreset::Kind::Preset)
+        m_name->setText(selected.name);
+    m_name->selectAll();
+    m_name->setFocus();
+    connect(m_name, &QLineEdit::textChanged, this, &SavePresetDialog::check);
+    check();
+}
+
+void SavePresetDialog::addRange()
+{
+    auto *box = static_cast<QVBoxLayout *>(layout());
+    m_forModel = new QRadioButton(
+        tr("For printers of this &model (%1)").arg(presetLabel(m_presets.modelName())), this);
+    m_forModel->setChecked(true);
+    m_forAll = new QRadioButton(tr("For &all printers, as far as they have these settings"), this);
+    m_forAll->setObjectName(u"presetForAll"_s);
+    connect(m_forAll, &QRadioButton::toggled, this, &SavePresetDialog::check);
+    box->addWidget(m_forModel);
+    box->addWidget(m_forAll);
+    const QString device = m_presets.deviceSettings();
+    if (device.isEmpty())
+        return;
+    m_device = new QCheckBox(
+        tr("&With what sets up the printer itself (%1)").arg(presetLabel(device)), this);
+    m_device->setObjectName(u"presetDevice"_s);
+    m_device->setChecked(m_presets.selected().device);
+    box->addWidget(m_device);
+}
+
+PresetToSave SavePresetDialog::preset() const
+{
+    const bool forAll = m_forAll && m_forAll->isChecked();
+    return {presetName(m_name->text()), forAll, m_device && m_device->isChecked(), m_replaces};
+}
+
+// Says what pressing the button will do, before it is pressed.
+void SavePresetDialog::check()
+{
+    const PresetToSave wanted = preset();
+    const bool isSame = m_renames && wanted.name == m_presets.selected().name;
+    const std::optional<StoredPreset> there = m_presets.listing().find(wanted.name);
+    m_replaces = there && there->isOwn && there->preset.model.isEmpty() == wanted.forAllPrinters;
+    QString remark = m_name->text().isEmpty() ? QString() : problemOfPresetName(wanted.name);
+    const bool canBe = problemOfPresetName(wanted.name).isEmpty() && !(m_renames && there);
+    if (remark.isEmpty() && there && !isSame)
+        remark = m_renames    ? tr("There is a preset of this name already.")
+                 : m_replaces ? tr("There is a preset of this name already. It will be replaced.")
+                              : tr("There is another preset of this name, which stays.");
+    m_remark->setText(remark);
+    m_save->setText(m_renames ? tr("Rename") : m_replaces ? tr("Replace") : tr("Save"));
+    m_save->setEnabled(canBe);
+}
+
+} // namespace corvana

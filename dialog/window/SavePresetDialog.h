@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDialog>
+
+#include "dialog/task/TaskPresets.h"
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace corvana {
+
+/// Asks under which name the settings are to be kept, and for which printers; or only for another
+/// name of those that are in use.
+///
+/// Ownership: borrows the presets.
+class SavePresetDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    SavePresetDialog(const TaskPresets &presets, bool rename, QWidget *parent = nullptr);
+
+    PresetToSave preset() const;
+
+private:
+    void addRange();
+    void check();
+
+    const TaskPresets &m_presets;
+    const bool m_renames;
+    QLineEdit *m_name;
+    QRadioButton *m_forModel = nullptr;
+    QRadioButton *m_forAll = nullptr;
+    QCheckBox *m_device = nullptr;
+    QLabel *m_remark = nullptr;
+    QPushButton *m_save = nullptr;
+    bool m_replaces = false; // as the button says
+};
+
+} // namespace corvana
