@@ -83,6 +83,11 @@ struct Options
     QCommandLineOption noDialog{u"no-dialog"_s, u"Print without a window."_s};
     QCommandLineOption summary{u"summary"_s,
                                u"Write the settings of the job to standard output."_s};
+    QCommandLineOption saveInstance{
+        u"save-instance"_s,
+        u"Without a window: keep the settings in lpoptions as an instance of the queue, so that lp "
+        "-d QUEUE/NAME and other programs print with them."_s,
+        u"NAME"_s};
     QCommandLineOption onAlert{
         u"on-alert"_s,
         u"Without a window: what to do when the printer's settings "
@@ -136,6 +141,7 @@ struct Options
                            mail,
                            noDialog,
                            summary,
+                           saveInstance,
                            onAlert,
                            wait,
                            noWait,
@@ -241,6 +247,7 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.noDialog = parser.isSet(options.noDialog);
     line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
+    line.instance = parser.value(options.saveInstance);
     line.checkDisplay = parser.isSet(options.checkDisplay);
     line.quiet = parser.isSet(options.quiet);
     line.encrypt = parser.isSet(options.encrypt);
@@ -277,7 +284,7 @@ QString emptyName(const QCommandLineParser &parser, const Options &options)
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
           &options.documentPasswordFile, &options.bundleRoot, &options.preset,
-          &options.savePreset}) {
+          &options.savePreset, &options.saveInstance}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
             return u"%1 \"\": %2 is missing."_s.arg((name.size() == 1 ? u"-"_s : u"--"_s) + name,
@@ -299,6 +306,8 @@ QString contradictionIn(const CommandLine &line)
         return u"--save-preset prints nothing: no document can be named."_s;
     if (line.json && !line.noDialog)
         return u"--format=json is for runs without a window (--no-dialog)."_s;
+    if (!line.instance.isEmpty() && !line.noDialog)
+        return u"--save-instance is for runs without a window (--no-dialog)."_s;
     if (line.output != kStandardStream)
         return {};
     if (line.json)
@@ -312,7 +321,8 @@ QString contradictionIn(const CommandLine &line)
 bool takesDocument(const CommandLine &line)
 {
     return !line.listPrinters && !line.listPresets && line.savePreset.isEmpty() &&
-           !line.checkDisplay && !line.summary;
+           !line.checkDisplay && !line.summary &&
+           line.instance.isEmpty();
 }
 
 // In a window documents can be chosen.

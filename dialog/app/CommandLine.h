@@ -35,6 +35,7 @@ struct CommandLine
     bool listPrinters = false;
     bool noDialog = false;
     bool summary = false;
+    QString instance; ///< of --save-instance
     bool checkDisplay = false;
     bool noWait = false;
     std::optional<int> wait; ///< of --wait, in seconds

@@ -148,6 +148,7 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.copies = line.copies.value_or(1);
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
+    request.instance = line.instance;
     request.policy = Policy::ofThisComputer();
     request.helpPage = dialogHelpPage();
     request.presetPlaces = PresetPlaces::ofUser();

@@ -296,6 +296,8 @@ QString SharedFile::change(const Change &change) const
         late = writtenSince(&changed.former);
         if (late)
             continue;
+        if (!change.isIn)
+            return {};
         std::this_thread::sleep_for(kUntilLookedAtAgain);
         late = writtenSince(&changed.former);
         Found now;

@@ -33,7 +33,8 @@ public:
         /// What is to stand there instead. Called several times; what it makes of its own result
         /// is the same again.
         std::function<QByteArray(const QByteArray &content)> edit;
-        /// Whether a content says so, in whatever words another program has put it.
+        /// Whether a content says so, in whatever words another program has put it. Null for a
+        /// file that nobody else writes: it is not looked at again.
         std::function<bool(const QByteArray &content)> isIn;
     };
 

@@ -48,6 +48,8 @@ struct PrintRequest
     int copies = 1;
     bool copiesWereNamed = false; ///< by -n, which counts more than any option
     bool summary = false;
+    /// The name under which the settings become an instance of the queue; empty: they do not.
+    QString instance{};
     std::optional<AlertPolicy> onAlert; ///< nothing: as suits where the job goes
     bool noWait = false;
     /// How long a job that its queue has is followed at most; nothing: to its end.
@@ -69,6 +71,9 @@ struct PrintRequest
     std::optional<QString> documentPassword;
     /// The page of the dialog's own help, in the user's language; empty when it is not installed.
     QString helpPage;
+
+    /// Whether something is to be done with the settings, so that no document is needed.
+    bool isForSettings() const { return summary || !instance.isEmpty(); }
 };
 
 /// What an administrator has decided; an empty policy where nobody has.

@@ -35,7 +35,7 @@ bool PrintTask::canPrint() const
 {
     return m_opened && (m_phase == Phase::Opened || m_phase == Phase::Ready) &&
            m_opened->panelProblem.isEmpty() &&
-           (!m_request.documents.isEmpty() || m_request.summary);
+           (!m_request.documents.isEmpty() || m_request.isForSettings());
 }
 
 bool PrintTask::printsToFile() const
@@ -66,7 +66,7 @@ void PrintTask::print()
         Q_EMIT refused({{m_opened->panelProblem}});
         return;
     }
-    if (m_request.documents.isEmpty() && !m_request.summary) {
+    if (m_request.documents.isEmpty() && !m_request.isForSettings()) {
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;
     }
@@ -78,7 +78,9 @@ void PrintTask::print()
         return;
     enter(Phase::Asking);
     m_run.textsAreSettled = false;
-    const std::optional<TaskRefusal> refusal = finish();
+    std::optional<TaskRefusal> refusal = finish();
+    if (!refusal && m_phase == Phase::Asking && !m_request.instance.isEmpty())
+        refusal = saveInstance();
     // Interrupted, while an alert was waiting for its answer.
     if (m_phase != Phase::Asking)
         return;

@@ -358,10 +358,16 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
 QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
                                        const OpenedPrinter &printer)
 {
+    return withAnswersTo(printer.fetched.defaults, attributes, printer);
+}
+
+QList<JobOption> withAnswersTo(const QList<JobOption> &defaults, const QList<JobOption> &attributes,
+                               const OpenedPrinter &printer)
+{
     QList<JobOption> all = attributes;
     if (passesFilesOn(printer))
         return all;
-    for (const JobOption &option : printer.fetched.defaults) {
+    for (const JobOption &option : defaults) {
         if (!isNamed(attributes, option.name) && !isSaidByTheJob(option, printer))
             all += answerTo(option, attributes, printer);
     }

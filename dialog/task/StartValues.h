@@ -56,6 +56,10 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
 QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,
                                        const OpenedPrinter &printer);
 
+/// The same for whatever else adds options to a job that does not name them.
+QList<JobOption> withAnswersTo(const QList<JobOption> &defaults, const QList<JobOption> &attributes,
+                               const OpenedPrinter &printer);
+
 /// The defaults of the queue that no job can do without: the server adds them to each job that
 /// names none, and no value asks for nothing, as there is none for a page that lies as it is.
 QList<JobOption> inevitableDefaults(const OpenedPrinter &printer);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "dialog/printers/UserQueues.h"
+#include "dialog/task/JobSettings.h"
+
+namespace corvana {
+
+struct OpenedPrinter;
+
+/// The settings of a job as an instance of its queue, by which other programs print with them
+/// (`lp -d lobby/reports`): what would be written into lpoptions.
+struct InstanceDraft
+{
+    QString name{}; ///< "lobby/reports"; empty where no such name can be made
+    QList<JobOption> options{};
+    /// What other programs cannot have of the settings, a sentence each.
+    QStringList leftOut{};
+    /// Why there can be no such instance, for the user; empty when there can.
+    QString problem{};
+
+    bool operator==(const InstanceDraft &) const = default;
+};
+
+/// What an instance is called for which a person has found a name: small ASCII letters, digits,
+/// and "-" for what lies between words ("Monthly Reports" is "monthly-reports"). Letters of other
+/// scripts are left out. Empty where nothing is left.
+QString instanceNameOf(const QString &name);
+
+/// What a job says as it is set now, and an answer to whatever the instance would be given
+/// otherwise: by the queue, and by the user's line for the queue without an instance, which some
+/// programs add to it. No pages, copies and secrets are in it; a booklet, which only this program
+/// can make, is left out and said.
+///
+/// `queues`: what stands in lpoptions. `own`: the instances there that may be replaced; another one
+/// of that name is somebody else's.
+InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
+                            const JobSettings &settings, const UserQueues &queues,
+                            const QStringList &own);
+
+} // namespace corvana

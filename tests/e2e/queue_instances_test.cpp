@@ -1,0 +1,244 @@
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <cups/cups.h>
+
+#include "tests/e2e/QueueRuns.h"
+#include "tests/support/PrintedSides.h"
+#include "tests/support/Rows.h"
+
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kQueue = u"office"_s;
+const QString kInstance = u"office/reports"_s;
+const QString kTitle = u"letters"_s;
+
+/// Settings that are kept as an instance, where queue and user have set something themselves.
+struct Kept
+{
+    const char *name;
+    QStringList options; ///< each with -o
+    /// Defaults of the queue, as lpadmin takes them.
+    QStringList queueDefaults{};
+    /// The user's ~/.cups/lpoptions.
+    QByteArray userOptions{};
+    /// What the run has to say.
+    const char *saying = "office/reports";
+};
+
+const QList<Kept> kKept{
+    {"nothing but the usual", {}},
+    {"choices of the printer", {u"QXMediaType=Thick"_s, u"Duplex=DuplexNoTumble"_s}},
+    {"values of the panels' own",
+     {u"QXSleepTime=Custom.12"_s, u"QXDensityAdjustment=-3"_s, u"QXBrightness=4"_s,
+      u"QXColorMatching=Normal"_s}},
+    {"black and white", {u"QXMonoColor=mono"_s}},
+    {"black and white, by the name of all printers", {u"print-color-mode=monochrome"_s}},
+    {"a paper of its own", {u"media=Custom.100x200mm"_s}},
+    {"a layout", {u"number-up=2"_s, u"page-border=single"_s, u"outputorder=reverse"_s}},
+    {"one page on a side, where the queue puts two",
+     {u"number-up=1"_s},
+     {u"number-up-default=2"_s}},
+    {"one-sided, where the queue prints two-sided",
+     {u"sides=one-sided"_s},
+     {u"sides-default=two-sided-long-edge"_s}},
+    {"the user's own options for the queue do not count",
+     {u"number-up=1"_s, u"media=A4"_s, u"sides=one-sided"_s, u"QXMediaType=Plain"_s},
+     {},
+     "Dest office number-up=4 media=A5 sides=two-sided-long-edge QXMediaType=Thick copies=2 "
+     "page-ranges=1 mirror=true\n"},
+    {"no pages and no copies are kept", {u"page-ranges=1"_s, u"copies=3"_s}},
+    {"a booklet is left out and said", {u"booklet=left"_s}, {}, {}, "Booklet"},
+};
+
+QStringList asArguments(const QStringList &options)
+{
+    QStringList arguments;
+    for (const QString &option : options)
+        arguments += {u"-o"_s, option};
+    return arguments;
+}
+
+} // namespace
+
+/// An instance that was written here, in the hands of everybody else: listed by CUPS' own tools,
+/// read by libcups, and printed by lp as this program prints with the same settings.
+class QueueInstancesTest : public QueueRuns
+{
+    Q_OBJECT
+
+private:
+    QProcessEnvironment environment() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"HOME"_s, m_runner->filePath(QString()));
+        environment.insert(u"CUPS_SERVER"_s, m_cups->server());
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.remove(u"CUPS_SERVERROOT"_s);
+        return environment;
+    }
+    QByteArray tool(const QString &name, const QStringList &arguments) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.start(name, arguments);
+        process.waitForFinished();
+        return process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
+    }
+    QByteArray lastStream()
+    {
+        const QList<KnownJob> jobs = m_cups->jobs(kQueue);
+        const int last = jobs.isEmpty() ? 0 : jobs.last().id;
+        if (!QTest::qWaitFor([&] { return m_cups->job(last).state >= IPP_JSTATE_CANCELED; },
+                             kQueuePatience))
+            return {};
+        QByteArray data;
+        const QList<CapturedJob> captured = m_cups->capture(kQueue).jobs();
+        for (const CapturedJob &job : captured) {
+            if (job.id == last)
+                data += job.data;
+        }
+        return withoutDates(data);
+    }
+    QByteArray printedByLp(const QStringList &arguments)
+    {
+        if (tool(u"lp"_s, QStringList{u"-t"_s, kTitle} + arguments + QStringList{kThreePages})
+                .isEmpty())
+            return {};
+        return lastStream();
+    }
+    QByteArray printedHere(const QStringList &arguments)
+    {
+        const RunEnd end = m_runner->run(QStringList{u"--no-dialog"_s, u"-t"_s, kTitle} +
+                                         arguments + QStringList{kThreePages});
+        [&] { QVERIFY2(end.status == 0, end.text().constData()); }();
+        return lastStream();
+    }
+    RunEnd save(const QStringList &options = {}, const QString &name = u"Reports"_s) const
+    {
+        return m_runner->run(
+            QStringList{u"--no-dialog"_s, u"-d"_s, kQueue, u"--save-instance"_s, name} +
+            asArguments(options));
+    }
+    QByteArray userOptions() const { return readAll(m_runner->filePath(u".cups/lpoptions"_s)); }
+
+private Q_SLOTS:
+    void lpPrintsAnInstanceAsTheSettingsArePrintedHere_data() { addRows(kKept); }
+    void lpPrintsAnInstanceAsTheSettingsArePrintedHere()
+    {
+        const Kept &row = currentRow(kKept);
+        QueueSettings settings;
+        settings.options = row.queueDefaults;
+        m_cups->addQueue(kQueue, kPpd, settings);
+        if (!row.userOptions.isEmpty())
+            m_runner->setUserOptions(row.userOptions);
+        const RunEnd saved = save(row.options);
+        QVERIFY2(saved.status == 0, saved.text().constData());
+        QVERIFY2(saved.err.contains(QString::fromUtf8(row.saying)), saved.text().constData());
+        QVERIFY(m_cups->jobs().isEmpty());
+        QVERIFY(userOptions().startsWith(row.userOptions + "Dest office/reports "));
+
+        const QByteArray theirs = printedByLp({u"-d"_s, kInstance});
+        QVERIFY(!theirs.isEmpty());
+        QCOMPARE(printedSides(printedHere({u"-d"_s, kInstance})), printedSides(theirs));
+        QCOMPARE(lastStream() == theirs, true);
+        // Pages, copies and a booklet are of one job.
+        QStringList options = row.options;
+        options.removeIf([](const QString &option) {
+            return option.startsWith(u"page-ranges"_s) || option.startsWith(u"copies"_s) ||
+                   option.startsWith(u"booklet"_s);
+        });
+        if (row.userOptions.isEmpty() && options.size() == row.options.size()) {
+            const QByteArray ours =
+                printedHere(QStringList{u"-d"_s, kQueue} + asArguments(options));
+            QCOMPARE(printedFeatures(ours), printedFeatures(theirs));
+            QCOMPARE(ours == theirs, true);
+        }
+    }
+
+    void toolsAndLibrariesOfCupsKnowTheInstance()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        m_runner->setUserOptions("# by hand\nDest office number-up=4 copies=2\nDest gone x=1\n");
+        const RunEnd saved = save({u"QXMediaType=Thick"_s, u"number-up=1"_s});
+        QVERIFY2(saved.status == 0, saved.text().constData());
+        QVERIFY(tool(u"lpstat"_s, {u"-a"_s}).contains("office/reports accepting"));
+        const QByteArray listed = tool(u"lpoptions"_s, {u"-p"_s, kInstance});
+        for (const char *option : {" QXMediaType=Thick ", "number-up=1 ", "copies=1 "})
+            QVERIFY2(listed.contains(option), listed.constData());
+        QVERIFY(tool(u"lpoptions"_s, {u"-p"_s, kInstance, u"-l"_s}).contains("QXMediaType/"));
+        QVERIFY(tool(u"lpoptions"_s, {u"-p"_s, kQueue}).contains("number-up=4"));
+        // As programs with a dialog of their own ask.
+        QProcess reader;
+        reader.setProcessEnvironment(environment());
+        reader.start(QStringLiteral(CORVANA_DESTS_READER), {kQueue, u"reports"_s});
+        QVERIFY(reader.waitForFinished());
+        const QByteArray read = reader.readAllStandardOutput();
+        for (const char *line : {"named office/reports QXMediaType=Thick number-up=1 copies=1",
+                                 "listed office/reports QXMediaType=Thick number-up=1 copies=1",
+                                 "listed office/- QXMediaType= number-up=4 copies=2"})
+            QVERIFY2(read.contains(line), read.constData());
+    }
+
+    void anInstanceOfOthersIsNotReplaced()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        const QByteArray before = "Dest office/Reports x=1";
+        m_runner->setUserOptions(before);
+        const RunEnd saved = save();
+        QCOMPARE(saved.status, 1);
+        QVERIFY2(saved.err.contains(u"is there already"_s), saved.text().constData());
+        QCOMPARE(userOptions(), before);
+    }
+
+    void oneOfOursIsReplaced()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        QCOMPARE(save().status, 0);
+        const RunEnd saved = save({u"QXMediaType=Thick"_s});
+        QVERIFY2(saved.status == 0, saved.text().constData());
+        QCOMPARE(userOptions().count("office/reports"), 1);
+        QVERIFY(userOptions().contains("QXMediaType=Thick"));
+    }
+
+    void aNameWithoutLatinLettersIsRefusedWithAnotherOne()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        const RunEnd saved = save({}, u"報告書"_s);
+        QCOMPARE(saved.status, 1);
+        QVERIFY2(saved.err.contains(u"such as “preset1”"_s), saved.text().constData());
+        QVERIFY(userOptions().isEmpty());
+    }
+
+    // lpoptions empties the file and writes it in place, from what it has read before.
+    void nobodyLosesALineWhileLpoptionsWrites()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        m_cups->addQueue(u"lab"_s, kPpd);
+        m_runner->setUserOptions("Dest lab x=1\n");
+        QCOMPARE(tool(u"lpoptions"_s, {u"-p"_s, u"lab"_s, u"-o"_s, u"first=1"_s}), QByteArray());
+        std::vector<std::unique_ptr<ProgramRun>> windows;
+        for (int window = 0; window < 2; ++window)
+            windows.push_back(
+                m_runner->start({u"--no-dialog"_s, u"-d"_s, kQueue, u"--save-instance"_s,
+                                 u"window%1"_s.arg(window), u"-o"_s, u"QXMediaType=Thick"_s}));
+        for (int round = 0; round < 60 && (windows[0]->isRunning() || windows[1]->isRunning());
+             ++round)
+            tool(u"lpoptions"_s, {u"-p"_s, u"lab"_s, u"-o"_s, u"round=%1"_s.arg(round)});
+        for (const auto &window : windows) {
+            const RunEnd end = window->wait();
+            QVERIFY2(end.status == 0, end.text().constData());
+        }
+        const QByteArray content = userOptions();
+        for (const char *line : {"Dest office/window0 ", "Dest office/window1 ", "Dest lab "})
+            QVERIFY2(content.count(line) == 1, content.constData());
+        QVERIFY2(content.contains(" first=1") && content.contains(" x=1"), content.constData());
+    }
+};
+
+QTEST_GUILESS_MAIN(QueueInstancesTest)
+#include "queue_instances_test.moc"
