@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <sys/mman.h>
@@ -77,6 +79,28 @@ std::optional<Paper> paperOf(const poppler::page &page)
     if (!isSide(paper.width) || !isSide(paper.height))
         return std::nullopt;
     return paper;
+}
+
+/// As much of a text as has room, and nothing that would move a cursor. Characters are not cut.
+PageLabel pageLabel(const poppler::byte_array &text, int number)
+{
+    const std::string_view bytes(text.data(), text.size());
+    if (bytes == std::to_string(number))
+        return {};
+    std::size_t size = std::min<std::size_t>(bytes.size(), kLabelRoom);
+    const auto continues = [&](std::size_t at) {
+        return at < bytes.size() && (static_cast<unsigned char>(bytes[at]) & 0xc0) == 0x80;
+    };
+    while (size > 0 && continues(size))
+        --size;
+    PageLabel label;
+    label.bytes = static_cast<std::uint32_t>(size);
+    std::transform(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size),
+                   label.text.begin(), [](char c) {
+                       const auto byte = static_cast<unsigned char>(c);
+                       return byte < 0x20 || byte == 0x7f ? '?' : c;
+                   });
+    return label;
 }
 
 /// What pdftoppm draws with, too: pages look as they do in other viewers.
@@ -155,6 +179,12 @@ PageSize OpenedDocument::size(int page) const
     if (!paper)
         return {};
     return {static_cast<float>(paper->width), static_cast<float>(paper->height)};
+}
+
+PageLabel OpenedDocument::label(int page) const
+{
+    const std::unique_ptr<poppler::page> found(m_document->create_page(page));
+    return found ? pageLabel(found->label().to_utf8(), page + 1) : PageLabel();
 }
 
 Status OpenedDocument::draw(const DrawPage &request, int picture) const

@@ -47,6 +47,8 @@ public:
     int pages() const { return m_pages; }
     /// Both sides 0 for a page that cannot be read.
     PageSize size(int page) const;
+    /// What the document calls a page; nothing where that is its number.
+    PageLabel label(int page) const;
     /// Draws a page of exactly that many pixels into the file `picture`.
     Status draw(const DrawPage &request, int picture) const;
 

@@ -66,6 +66,27 @@ bool Service::answer(const ListSizes &request, const Descriptor &)
     return sendMessage(m_socket, sizes);
 }
 
+bool Service::answer(const ListLabels &request, const Descriptor &)
+{
+    auto labels = made<Labels>(request.header.sequence);
+    const auto found = m_documents.find(request.document);
+    if (found == m_documents.end() ||
+        request.first >= static_cast<std::uint32_t>(found->second->pages())) {
+        labels.status = Status::Refused;
+        return sendMessage(m_socket, labels);
+    }
+    try {
+        const auto pages = static_cast<std::uint32_t>(found->second->pages());
+        labels.count = std::min(pages - request.first, kLabelsAtOnce);
+        for (std::uint32_t i = 0; i < labels.count; ++i)
+            labels.labels[i] = found->second->label(static_cast<int>(request.first + i));
+    } catch (const std::bad_alloc &) {
+        labels = made<Labels>(request.header.sequence);
+        labels.status = Status::TooLarge;
+    }
+    return sendMessage(m_socket, labels);
+}
+
 bool Service::answer(const DrawPage &request, const Descriptor &descriptor)
 {
     auto drawn = made<Drawn>(request.header.sequence);

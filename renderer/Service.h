@@ -22,6 +22,7 @@ public:
 private:
     bool answer(const OpenDocument &request, const Descriptor &descriptor);
     bool answer(const ListSizes &request, const Descriptor &);
+    bool answer(const ListLabels &request, const Descriptor &);
     bool answer(const DrawPage &request, const Descriptor &descriptor);
     bool answer(const CloseDocument &request, const Descriptor &);
     bool answer(const CheckDocument &request, const Descriptor &descriptor);

@@ -100,6 +100,7 @@ void PageDrawer::forget(const QString &file)
 {
     const std::scoped_lock lock(m_mutex);
     m_pages.removeIf([&](const PageToDraw &page) { return page.file == file; });
+    m_toDescribe.removeAll(file);
     std::erase_if(m_finished, [&](const FinishedPage &page) { return page.page.file == file; });
     if (m_inWork && m_inWork->page.file == file)
         m_inWork->isForgotten = true;
@@ -111,6 +112,20 @@ std::vector<FinishedPage> PageDrawer::takeFinished()
 {
     const std::scoped_lock lock(m_mutex);
     return std::exchange(m_finished, {});
+}
+
+void PageDrawer::describe(const QString &file)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (!m_toDescribe.contains(file))
+        m_toDescribe.append(file);
+    wake();
+}
+
+std::vector<DescribedPages> PageDrawer::takeDescribed()
+{
+    const std::scoped_lock lock(m_mutex);
+    return std::exchange(m_described, {});
 }
 
 bool PageDrawer::keepOn()
@@ -129,13 +144,15 @@ void PageDrawer::run()
     std::unique_lock lock(m_mutex);
     while (true) {
         m_changed.wait(lock, [this] {
-            return m_ends || m_isToPrepare || !m_forgotten.isEmpty() || !m_pages.isEmpty();
+            return m_ends || m_isToPrepare || !m_forgotten.isEmpty() || !m_toDescribe.isEmpty() ||
+                   !m_pages.isEmpty();
         });
         if (m_ends)
             break;
         const QStringList forgotten = std::exchange(m_forgotten, {});
         const bool isToPrepare = std::exchange(m_isToPrepare, false);
-        if (!m_pages.isEmpty())
+        const QString toDescribe = m_toDescribe.isEmpty() ? QString() : m_toDescribe.takeFirst();
+        if (toDescribe.isNull() && !m_pages.isEmpty())
             m_inWork.emplace().page = m_pages.takeFirst();
         const std::optional<InWork> work = m_inWork;
         lock.unlock();
@@ -143,6 +160,9 @@ void PageDrawer::run()
         closeForgotten(forgotten);
         if (isToPrepare)
             m_renderer.start();
+        std::optional<DescribedPages> description;
+        if (!toDescribe.isNull())
+            description = described(toDescribe);
         std::optional<FinishedPage> finished;
         if (work)
             finished = drawn(work->page);
@@ -150,6 +170,10 @@ void PageDrawer::run()
         lock.lock();
         const bool isForgotten = m_inWork && m_inWork->isForgotten;
         m_inWork.reset();
+        if (description && !m_ends) {
+            m_described.push_back(std::move(*description));
+            m_tell();
+        }
         if (finished && !isForgotten && !m_ends) {
             m_finished.push_back(std::move(*finished));
             m_tell();
@@ -207,6 +231,23 @@ PageDrawer::Outcome PageDrawer::tryToDraw(const PageToDraw &page, Known &known,
     return m_renderer.draw(known.number, page.page, page.size, &finished->picture);
 }
 
+// What cannot be found out is left out: a page that is drawn says why it cannot be.
+DescribedPages PageDrawer::described(const QString &file)
+{
+    DescribedPages pages{file, {}, {}};
+    Known &known = m_documents[file];
+    Outcome outcome = startRenderer();
+    known.used = ++m_uses;
+    if (outcome == Outcome::Done && known.number == 0)
+        outcome = openDocument(file, known);
+    if (outcome != Outcome::Done || known.pages > kMostDescribed)
+        return pages;
+    outcome = m_renderer.listSizes(known.number, known.pages, &pages.sizes);
+    if (outcome == Outcome::Done)
+        m_renderer.listLabels(known.number, known.pages, &pages.labels);
+    return pages;
+}
+
 // A renderer that was started anew has no document.
 PageDrawer::Outcome PageDrawer::startRenderer()
 {
@@ -229,8 +270,10 @@ PageDrawer::Outcome PageDrawer::openDocument(const QString &file, Known &known)
     int pages = 0;
     const quint32 number = ++m_lastNumber;
     const Outcome outcome = m_renderer.open(number, file, {}, &pages);
-    if (outcome == Outcome::Done)
+    if (outcome == Outcome::Done) {
         known.number = number;
+        known.pages = pages;
+    }
     return outcome;
 }
 

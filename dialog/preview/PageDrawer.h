@@ -11,7 +11,9 @@
 #include <QImage>
 #include <QList>
 #include <QSize>
+#include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include "dialog/preview/PageTrouble.h"
 #include "dialog/preview/RendererProcess.h"
@@ -42,11 +44,21 @@ struct FinishedPage
     bool concernsDocument = false; ///< none of the document's pages can be drawn
 };
 
+/// What is known of the pages of a document without drawing them; empty where it cannot be read.
+struct DescribedPages
+{
+    QString file;
+    QList<QSizeF> sizes; ///< as each page is read; Units: points; null: the page is damaged
+    QStringList labels;  ///< what the document calls each; empty where that is its number
+};
+
 /// Draws pages one after the other on a thread of its own, which talks to the renderer, starts it
 /// again when it dies and copies the pictures. A page during which it dies twice is given up.
 class PageDrawer
 {
 public:
+    static constexpr int kMostDescribed = 20'000;
+
     /// `tell` is called on the drawer's thread when there is something to be taken. It is not
     /// called after the destructor.
     PageDrawer(RendererSettings settings, std::function<void()> tell);
@@ -64,6 +76,10 @@ public:
     /// Nothing of that file is finished any more, and it is opened anew when it is needed again.
     void forget(const QString &file);
     std::vector<FinishedPage> takeFinished();
+    /// Reads sizes and labels of a document's pages, before anything else is drawn. Of one with
+    /// more than kMostDescribed pages nothing is read.
+    void describe(const QString &file);
+    std::vector<DescribedPages> takeDescribed();
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -81,6 +97,7 @@ private:
     {
         quint32 number = 0; ///< of the document in the renderer; 0 while it is not open there
         int deaths = 0;     ///< of the renderer, since a page of it was drawn
+        int pages = 0;
         quint64 used = 0;
     };
 
@@ -91,6 +108,7 @@ private:
     std::optional<FinishedPage> drawn(const PageToDraw &page);
     Outcome tryToDraw(const PageToDraw &page, Known &known, FinishedPage *finished);
     Outcome startRenderer();
+    DescribedPages described(const QString &file);
     Outcome openDocument(const QString &file, Known &known);
     void makeRoomForDocument();
 
@@ -101,6 +119,8 @@ private:
     QStringList m_forgotten;
     std::optional<InWork> m_inWork;
     std::vector<FinishedPage> m_finished;
+    QStringList m_toDescribe;
+    std::vector<DescribedPages> m_described;
     bool m_isToPrepare = false;
     bool m_ends = false;
 

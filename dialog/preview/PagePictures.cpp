@@ -36,8 +36,8 @@ PageToDraw drawnFor(const PageToDraw &page)
 
 PagePictures::PagePictures(QObject *parent) : PagePictures(RendererSettings::shipped(), parent) {}
 
-PagePictures::PagePictures(const RendererSettings &settings, QObject *parent)
-    : QObject(parent), m_settings(settings)
+PagePictures::PagePictures(const RendererSettings &settings, QObject *parent, qint64 room)
+    : QObject(parent), m_settings(settings), m_room(room), m_cache(room)
 {
 }
 
@@ -69,7 +69,7 @@ void PagePictures::want(const QList<PageToDraw> &pages)
 {
     QList<PageToDraw> wanted;
     QList<PageToDraw> missing;
-    qint64 room = kRoom;
+    qint64 room = m_room;
     for (const PageToDraw &page : pages) {
         if (page.page < 0 || page.size.isEmpty() || hasTrouble(page))
             continue;
@@ -106,6 +106,11 @@ QString PagePictures::problem(const QString &file, int page) const
     return pageTroubleText(troubles.value(page, troubles.value(kWholeDocument, PageTrouble::None)));
 }
 
+void PagePictures::describe(const QString &file)
+{
+    drawer().describe(file);
+}
+
 void PagePictures::forget(const QString &file)
 {
     m_cache.forget(file);
@@ -116,6 +121,8 @@ void PagePictures::forget(const QString &file)
 
 void PagePictures::takeFinished()
 {
+    for (const DescribedPages &pages : m_drawer->takeDescribed())
+        Q_EMIT described(pages);
     for (const FinishedPage &finished : m_drawer->takeFinished()) {
         const PageToDraw &page = finished.page;
         if (finished.trouble == PageTrouble::None)

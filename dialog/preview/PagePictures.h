@@ -23,14 +23,16 @@ class PagePictures : public QObject
     Q_OBJECT
 
 public:
-    /// All pictures together. Units: bytes.
+    /// All pictures together, of somebody who names no other bound. Units: bytes.
     static constexpr qint64 kRoom = 64LL << 20;
     /// One picture. A larger one is drawn with fewer pixels of the same proportions, so that more
     /// than one has room. Units: pixels
     static constexpr qint64 kMostPixels = 8LL << 20;
 
     explicit PagePictures(QObject *parent = nullptr);
-    explicit PagePictures(const RendererSettings &settings, QObject *parent = nullptr);
+    /// `room` is for all pictures together. Units: bytes.
+    explicit PagePictures(const RendererSettings &settings, QObject *parent = nullptr,
+                          qint64 room = kRoom);
     ~PagePictures() override;
 
     /// Gets ready to draw, so that the first page does not wait for that.
@@ -47,12 +49,16 @@ public:
     QImage anyPicture(const QString &file, int page) const;
     /// Why a page cannot be drawn, translated, for its place; empty while it can.
     QString problem(const QString &file, int page) const;
+    /// Has sizes and labels of the pages of a file read; described() follows.
+    void describe(const QString &file);
     /// Forgets a file (it was replaced by another layout).
     void forget(const QString &file);
 
 Q_SIGNALS:
     /// picture() or problem() has another answer.
     void drawn(const QString &file, int page);
+    /// What describe() has asked for.
+    void described(const corvana::DescribedPages &pages);
 
 private:
     /// Page of a trouble that all pages of the document have.
@@ -64,7 +70,8 @@ private:
     bool hasTrouble(const PageToDraw &page) const;
 
     RendererSettings m_settings;
-    mutable PictureCache m_cache{kRoom};  // looking at a picture keeps it
+    qint64 m_room;
+    mutable PictureCache m_cache;         // looking at a picture keeps it
     QHash<QString, Troubles> m_troubles;  // of a file
     std::unique_ptr<PageDrawer> m_drawer; // last; nothing runs before the first wish
 };

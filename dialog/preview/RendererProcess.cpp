@@ -20,6 +20,7 @@
 #include <QLoggingCategory>
 
 #include "dialog/preview/PictureMemory.h"
+#include "platform/foundation/ForeignText.h"
 
 Q_LOGGING_CATEGORY(lcRenderer, "corvana.preview.renderer", QtWarningMsg)
 
@@ -289,6 +290,29 @@ RendererProcess::Outcome RendererProcess::listSizes(quint32 document, int pages,
             return ended(Outcome::Died);
         for (std::uint32_t i = 0; i < answer.count; ++i)
             sizes->append(QSizeF(answer.sizes[i].width, answer.sizes[i].height));
+    }
+    return Outcome::Done;
+}
+
+RendererProcess::Outcome RendererProcess::listLabels(quint32 document, int pages,
+                                                     QStringList *labels)
+{
+    labels->clear();
+    while (labels->size() < pages) {
+        auto request = made<renderer::ListLabels>(++m_sequence);
+        request.document = document;
+        request.first = static_cast<std::uint32_t>(labels->size());
+        renderer::Labels answer;
+        const Outcome outcome = ask(request, -1, &answer);
+        if (outcome != Outcome::Done)
+            return outcome;
+        const auto missing = static_cast<std::uint32_t>(pages - labels->size());
+        if (answer.count != std::min(missing, renderer::kLabelsAtOnce))
+            return ended(Outcome::Died);
+        for (std::uint32_t i = 0; i < answer.count; ++i) {
+            const renderer::PageLabel &label = answer.labels[i];
+            labels->append(terminalLine(QString::fromUtf8(label.text.data(), label.bytes)));
+        }
     }
     return Outcome::Done;
 }

@@ -10,6 +10,7 @@
 #include <QSize>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include "renderer/protocol/MessageReading.h"
 #include "renderer/protocol/MessageSocket.h"
@@ -84,6 +85,9 @@ public:
     Outcome open(quint32 document, const QString &file, const QString &password, int *pages);
     /// All sizes of its pages. Units: points. Empty for a page that cannot be read.
     Outcome listSizes(quint32 document, int pages, QList<QSizeF> *sizes);
+    /// What the document calls its pages, one text for each; empty where that is a page's number.
+    /// One line each, without control characters, however hostile the document.
+    Outcome listLabels(quint32 document, int pages, QStringList *labels);
     /// `picture` is opaque, of the format RGB32, and nobody else's.
     /// Range of `size`: what renderer::isPictureSize() allows, else TooLarge.
     Outcome draw(quint32 document, int page, QSize size, QImage *picture);

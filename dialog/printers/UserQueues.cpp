@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include <QDir>
 #include <QFile>
-
-#include <cups/cups.h>
+#include <QFileInfo>
 
 #include "dialog/printers/PrinterId.h"
+#include "dialog/printers/UserQueuesFile.h"
+#include "dialog/printers/UserQueuesLine.h"
 
 namespace corvana {
 
@@ -24,26 +24,20 @@ QString spellingOf(const QString &name, const UserQueues &queues)
 }
 
 // libcups reads such a line itself only while it asks a server.
-void readLine(const QString &line, UserQueues *queues)
+void readLine(QByteArrayView line, UserQueues *queues)
 {
-    const QString keyword = line.section(u' ', 0, 0, QString::SectionSkipEmpty).toLower();
-    const QString rest = line.section(u' ', 1, -1, QString::SectionSkipEmpty).trimmed();
-    const bool isDefault = keyword == "default"_L1;
-    if ((!isDefault && keyword != "dest"_L1) || rest.isEmpty())
+    const std::optional<UserQueuesLine> read = userQueuesLine(line);
+    if (!read)
         return;
-    const QString name = rest.section(u' ', 0, 0);
-    if (isDefault)
+    const QString name = QString::fromUtf8(read->name);
+    if (read->isDefault)
         queues->defaultName = name;
-    cups_option_t *parsed = nullptr;
-    const int count = cupsParseOptions(rest.mid(name.size()).toUtf8().constData(), 0, &parsed);
     QList<JobOption> &options = queues->options[spellingOf(name, *queues)];
-    for (int i = 0; i < count; ++i) {
-        const JobOption option{QString::fromUtf8(parsed[i].name),
-                               QString::fromUtf8(parsed[i].value)};
+    const QList<JobOption> added = optionsOfLine(*read);
+    for (const JobOption &option : added) {
         options.removeIf([&](const JobOption &o) { return o.name == option.name; });
         options += option;
     }
-    cupsFreeOptions(count, parsed);
 }
 
 } // namespace
@@ -72,20 +66,21 @@ UserQueues readUserQueues(const QStringList &files)
 {
     UserQueues queues;
     for (const QString &name : files) {
+        // What is no file may have no end, or keep whoever opens it waiting.
         QFile file(name);
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
-        while (!file.atEnd())
-            readLine(QString::fromUtf8(file.readLine()).simplified(), &queues);
+        const QByteArray content = file.read(kMostBytesOfUserQueues);
+        const QList<QByteArrayView> lines = linesOfUserQueues(content);
+        for (const QByteArrayView line : lines)
+            readLine(line, &queues);
     }
     return queues;
 }
 
 UserQueues readUserQueues()
 {
-    const QString root = qEnvironmentVariable("CUPS_SERVERROOT", u"/etc/cups"_s);
-    UserQueues queues =
-        readUserQueues({root + u"/lpoptions"_s, QDir::homePath() + u"/.cups/lpoptions"_s});
+    UserQueues queues = readUserQueues({systemUserQueues(), ownUserQueues()});
     const QString printer = qEnvironmentVariable("PRINTER");
     // "lp" is what old programs set without anybody having chosen it.
     if (!printer.isEmpty() && printer != "lp"_L1)

@@ -5,29 +5,25 @@
 
 #include <QHash>
 #include <QObject>
-#include <QTimer>
 
-#include "dialog/documents/DocumentChecks.h"
 #include "dialog/job/Job.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
-#include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
-#include "dialog/task/SettingsHistory.h"
 #include "dialog/task/SheetPreview.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
+#include "dialog/task/TaskState.h"
 
 namespace corvana {
-
-class TextCheck;
 
 /// Why a printer cannot be asked for, whole and in few words.
 struct PrinterProblem
@@ -147,6 +143,14 @@ public:
     /// Whether nothing is printed: the pages, as a preview shows them, become a PDF in a file.
     bool savesAsPdf() const;
 
+    // Its pages (PrintTask-pages.cpp)
+
+    /// What pages there are to be chosen. More is known of them when sheetsCounted() says so.
+    ChoosablePages choosablePages() const;
+    /// The user chose pages, as ChoosablePages::valueFor() writes them. Why they are not taken is
+    /// said.
+    void choosePages(const QString &ranges);
+
     // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
     // printer is ready.
 
@@ -172,6 +176,14 @@ public:
     /// Takes back the last thing that the user did, with all that came of it.
     void undo();
     void redo();
+    /// "Back to Printer Defaults".
+    QString backText() const;
+    /// What base() has for a setting, as a user reads it; null for nothing.
+    QString baseText(const QString &name) const;
+    /// Brings settings, of those that changedSettings() names, or all of them, back to base(). What
+    /// cannot be had together with the others is said.
+    void resetSettings(const QStringList &names);
+    void resetAll();
     /// What is typed or moved from now on is another step: a field was left, a slider let go.
     void endStep();
 
@@ -275,44 +287,10 @@ private:
         bool textsAreSettled = false; // nothing has to be asked about them any more
         Awaits awaits = Awaits::Nothing;
     };
-    struct Output
-    {
-        QString path;
-        bool toFile = false;
-        bool confirmed = false;
-        QString proposed{}; // and nobody's choice
-    };
-    struct Colors
-    {
-        PageColors shown;
-        QString text;
-        bool isBlack = false; // the job is black and white, whatever the panels say
-    };
-    // What is found out about the documents before they are printed.
-    struct Looks
-    {
-        DocumentChecks documents;
-        std::unique_ptr<TextCheck> texts;
-        QTimer textPatience;  // until a job is made without the finding of the texts
-        QStringList declined; // documents whose password somebody does not want to give
-        QStringList told;     // what was said of them
-        bool isAsking = false;
-        bool areReady = false;   // of the job that is made; else they are waited for
-        bool printsThen = false; // Print was chosen meanwhile
-        bool countsThen = false;
-    };
-    struct Baseline
-    {
-        SessionSnapshot opened;  // before any option was taken
-        SessionSnapshot started; // before the user changed anything
-        SessionSnapshot shown;   // as the face was told last
-        QList<JobOption> chosen; // attributes, before the user changed anything
-        Base base;
-        SettingsHistory history;
-        QStringList touched;                // since the last step, in this order
-        std::optional<TaskSettings> coming; // to be restored when their printer is open
-        bool willRecord = false;
-    };
+    using Colors = TaskState::Colors;
+    using Looks = TaskState::Looks;
+    using Baseline = TaskState::Baseline;
+    using Output = TaskState::Output;
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
@@ -360,6 +338,7 @@ private:
     void beginHistory();
     void takeComingSettings();
     void goTo(const TaskSettings &state);
+    TaskSettings stateOfBase() const;
     void noteTouched(const QString &name);
     void recordSoon();
     void recordStep(const QString &name = {});
@@ -391,6 +370,7 @@ private:
     bool isPreparing() const { return m_phase == Phase::Printing && !m_run.job; }
     void stopPreparing();
     void endPreparing();
+    ChoosableDocument choosable(const Document &document, const DocumentSheets *counted) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     void jobFinished(const JobOutcome &outcome);
 

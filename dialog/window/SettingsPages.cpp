@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/task/PrintTask.h"
+#include "dialog/window/PageChoosing.h"
 #include "dialog/window/pages/GeneralPage.h"
 #include "dialog/window/pages/OptionsPage.h"
 #include "dialog/window/pages/PanelPage.h"
@@ -79,7 +80,10 @@ void SettingsPages::addGeneral()
             [this](const QString &name, const QString &value) {
                 m_general->showAttributeProblem(name, m_task.setAttribute(name, value));
             });
+    connect(m_general, &GeneralPage::choosePagesPressed, this,
+            [this] { choosePages(m_task, window()); });
     connect(m_general, &GeneralPage::heightChanged, this, &SettingsPages::heightChanged);
+    m_general->setCanChoosePages(!m_task.documents().isEmpty());
     showAttributes();
 }
 
@@ -164,6 +168,7 @@ void SettingsPages::refresh()
     const JobSettings &settings = m_task.settings();
     m_general->setMostCopies(settings.mostCopies());
     m_general->offerPageRanges(!m_task.passesFilesOn());
+    m_general->setCanChoosePages(!m_task.documents().isEmpty());
     m_general->setCopies(settings.copies());
     // As it was typed, the text may hold blanks.
     if (m_general->pageRanges() != settings.pageRanges())

@@ -50,6 +50,11 @@ bool isGood(const ListSizes &request)
     return request.document != 0 && request.first < kMaxPages;
 }
 
+bool isGood(const ListLabels &request)
+{
+    return request.document != 0 && request.first < kMaxPages;
+}
+
 bool isGood(const DrawPage &request)
 {
     return request.document != 0 && request.page < kMaxPages &&
@@ -95,6 +100,19 @@ bool isSize(const PageSize &size)
     return size == PageSize{} || (isSide(size.width) && isSide(size.height));
 }
 
+bool isLabel(const PageLabel &label)
+{
+    if (label.bytes > kLabelRoom)
+        return false;
+    const auto *end = label.text.begin() + label.bytes;
+    return std::none_of(label.text.begin(), end,
+                        [](char c) {
+                            const auto byte = static_cast<unsigned char>(c);
+                            return byte < 0x20 || byte == 0x7f;
+                        }) &&
+           std::all_of(end, label.text.end(), [](char c) { return c == 0; });
+}
+
 bool isGood(const Ready &answer)
 {
     return answer.filtersCalls <= 1 && answer.fencesFiles <= 1000;
@@ -111,6 +129,13 @@ bool isGood(const Sizes &answer)
     const bool done = answer.status == Status::Done;
     return isStatus(answer.status) && answer.count <= kSizesAtOnce && done == (answer.count > 0) &&
            std::all_of(answer.sizes.begin(), answer.sizes.end(), isSize);
+}
+
+bool isGood(const Labels &answer)
+{
+    const bool done = answer.status == Status::Done;
+    return isStatus(answer.status) && answer.count <= kLabelsAtOnce && done == (answer.count > 0) &&
+           std::all_of(answer.labels.begin(), answer.labels.end(), isLabel);
 }
 
 bool isGood(const Drawn &answer)
@@ -161,6 +186,8 @@ std::optional<Request> readRequest(std::span<const std::byte> bytes, bool hasDes
         return readAs<OpenDocument>(bytes, hasDescriptor);
     case Kind::ListSizes:
         return readAs<ListSizes>(bytes, hasDescriptor);
+    case Kind::ListLabels:
+        return readAs<ListLabels>(bytes, hasDescriptor);
     case Kind::DrawPage:
         return readAs<DrawPage>(bytes, hasDescriptor);
     case Kind::CloseDocument:
@@ -187,6 +214,7 @@ std::optional<Answer> readAnswer(std::span<const std::byte> bytes, bool hasDescr
 template std::optional<Ready> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Opened> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Sizes> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
+template std::optional<Labels> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Drawn> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Closed> readAnswer(std::span<const std::byte>, bool, std::uint32_t);
 template std::optional<Checked> readAnswer(std::span<const std::byte>, bool, std::uint32_t);

@@ -9,8 +9,8 @@
 
 namespace corvana::renderer {
 
-using Request =
-    std::variant<OpenDocument, ListSizes, DrawPage, CloseDocument, CheckDocument, CopyDocument>;
+using Request = std::variant<OpenDocument, ListSizes, ListLabels, DrawPage, CloseDocument,
+                             CheckDocument, CopyDocument>;
 
 /// Reads what the renderer was asked.
 /// Errors: nothing for a message that is not exactly a request of this version with all its values

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -19,7 +20,7 @@
 namespace corvana::renderer {
 
 inline constexpr std::uint32_t kMagic = 0x52564331; // "1CVR"
-inline constexpr std::uint16_t kVersion = 1;
+inline constexpr std::uint16_t kVersion = 2;
 
 // Bounds, which both sides check.
 inline constexpr std::uint32_t kMaxSide = 16384;        ///< Units: pixels
@@ -28,6 +29,8 @@ inline constexpr std::uint32_t kMaxPages = 1'000'000;   ///< of one document
 inline constexpr std::uint32_t kMaxDocuments = 64;      ///< open at a time
 inline constexpr float kMaxPaper = 1'000'000;           ///< a side of a page. Units: points
 inline constexpr std::uint32_t kSizesAtOnce = 256;
+inline constexpr std::uint32_t kLabelsAtOnce = 64;
+inline constexpr std::uint32_t kLabelRoom = 44;     ///< a longer label is cut
 inline constexpr std::uint32_t kPasswordRoom = 128; ///< longer ones do not exist in a PDF
 inline constexpr std::uint32_t kDetailRoom = 200;   ///< for what is wrong with a document
 
@@ -39,6 +42,7 @@ enum class Kind : std::uint16_t {
     CloseDocument = 4,
     CheckDocument = 5, ///< the document's descriptor comes with it
     CopyDocument = 6,  ///< the file for the copy comes with it
+    ListLabels = 7,
     // Answers.
     Ready = 100,
     Opened = 101,
@@ -47,6 +51,7 @@ enum class Kind : std::uint16_t {
     Closed = 104,
     Checked = 105,
     Copied = 106,
+    Labels = 107,
 };
 
 enum class Status : std::uint32_t {
@@ -80,6 +85,14 @@ struct OpenDocument
 struct ListSizes
 {
     static constexpr Kind kKind = Kind::ListSizes;
+    Header header;
+    std::uint32_t document = 0;
+    std::uint32_t first = 0; ///< page, from 0
+};
+
+struct ListLabels
+{
+    static constexpr Kind kKind = Kind::ListLabels;
     Header header;
     std::uint32_t document = 0;
     std::uint32_t first = 0; ///< page, from 0
@@ -156,6 +169,23 @@ struct Sizes
     std::array<PageSize, kSizesAtOnce> sizes{};
 };
 
+/// What a document calls one of its pages, where that is not the page's number. Whoever shows it
+/// knows that a stranger wrote it.
+struct PageLabel
+{
+    std::uint32_t bytes = 0;             ///< 0: the page has no label of its own
+    std::array<char, kLabelRoom> text{}; ///< meant to be UTF-8; no control characters, zeros behind
+};
+
+struct Labels
+{
+    static constexpr Kind kKind = Kind::Labels;
+    Header header;
+    Status status = Status::Done;
+    std::uint32_t count = 0; ///< 0 unless done; fewer than kLabelsAtOnce only at the end
+    std::array<PageLabel, kLabelsAtOnce> labels{};
+};
+
 struct Drawn
 {
     static constexpr Kind kKind = Kind::Drawn;
@@ -193,7 +223,7 @@ struct Copied
     Status status = Status::Done;
 };
 
-inline constexpr std::size_t kLargestMessage = sizeof(Sizes);
+inline constexpr std::size_t kLargestMessage = std::max(sizeof(Sizes), sizeof(Labels));
 
 // A gap between the fields would carry bytes of one program's memory into the other.
 template <typename Message>
@@ -202,6 +232,7 @@ inline constexpr bool kIsPlain =
 static_assert(std::has_unique_object_representations_v<Header> && sizeof(Header) == 16);
 static_assert(std::has_unique_object_representations_v<OpenDocument>);
 static_assert(std::has_unique_object_representations_v<ListSizes>);
+static_assert(std::has_unique_object_representations_v<ListLabels>);
 static_assert(std::has_unique_object_representations_v<DrawPage>);
 static_assert(std::has_unique_object_representations_v<CloseDocument>);
 static_assert(std::has_unique_object_representations_v<Ready>);
@@ -212,6 +243,7 @@ static_assert(std::has_unique_object_representations_v<CheckDocument>);
 static_assert(std::has_unique_object_representations_v<CopyDocument>);
 static_assert(std::has_unique_object_representations_v<Checked>);
 static_assert(std::has_unique_object_representations_v<Copied>);
+static_assert(std::has_unique_object_representations_v<Labels>);
 static_assert(kIsPlain<Sizes> && sizeof(Sizes) == sizeof(Header) + 8 + 8 * kSizesAtOnce);
 
 /// A message with its header filled in.

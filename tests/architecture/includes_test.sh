@@ -36,6 +36,7 @@ dialog/task          dialog/task/ dialog/documents/ dialog/sheets/ dialog/job/ d
 dialog/window        dialog/window/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
+dialog/window/thumbnails dialog/window/thumbnails/ dialog/preview/ dialog/sheets/ platform/
 dialog/window/preview dialog/window/preview/ dialog/window/chooser/ dialog/preview/ dialog/sheets/ platform/
 dialog/terminal      dialog/terminal/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/app           dialog/ platform/

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -60,7 +61,7 @@ void addChoice(QComboBox *popUp, const QString &title, const QString &choice)
 
 GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
-      m_pageRanges(new QLineEdit(this))
+      m_pageRanges(new QLineEdit(this)), m_choosePages(new QPushButton(this))
 {
     auto *rows = new QWidget;
     m_rows = new QFormLayout(rows);
@@ -90,13 +91,32 @@ void GeneralPage::addJobFields(QFormLayout *form)
     row->addStretch();
     form->addRow(tr("&Copies:"), row);
     qobject_cast<QLabel *>(form->labelForField(row))->setBuddy(m_copies);
-    m_pageRanges->setObjectName(u"pageRanges"_s);
-    m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
-    addClearButton(m_pageRanges);
-    form->addRow(tr("Pa&ges:"), m_pageRanges);
+    addPageRanges(form);
     connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPage::copiesEdited);
     connect(m_pageRanges, &QLineEdit::textChanged, this,
             [this] { Q_EMIT pageRangesEdited(pageRanges()); });
+}
+
+void GeneralPage::addPageRanges(QFormLayout *form)
+{
+    // Every second page of a long document takes more than a field has room for by itself.
+    constexpr int kMostLetters = 1'000'000;
+    auto *field = new QWidget(this);
+    auto *row = new QHBoxLayout(field);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_pageRanges, 1);
+    row->addWidget(m_choosePages);
+    field->setFocusProxy(m_pageRanges);
+    m_pageRanges->setObjectName(u"pageRanges"_s);
+    m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
+    m_pageRanges->setMaxLength(kMostLetters);
+    addClearButton(m_pageRanges);
+    m_choosePages->setObjectName(u"choosePages"_s);
+    m_choosePages->setText(tr("Choose Page&s…"));
+    m_choosePages->setAutoDefault(false);
+    connect(m_choosePages, &QPushButton::clicked, this, &GeneralPage::choosePagesPressed);
+    form->addRow(tr("Pa&ges:"), field);
+    qobject_cast<QLabel *>(form->labelForField(field))->setBuddy(m_pageRanges);
 }
 
 // On a small screen, or with a large font, the page scrolls rather than push the buttons below the
@@ -146,7 +166,13 @@ void GeneralPage::setPageRanges(const QString &ranges)
 
 void GeneralPage::offerPageRanges(bool offer)
 {
-    m_rows->setRowVisible(m_pageRanges, offer || !pageRanges().isEmpty());
+    m_rows->setRowVisible(m_pageRanges->parentWidget(), offer || !pageRanges().isEmpty());
+}
+
+void GeneralPage::setCanChoosePages(bool can)
+{
+    m_choosePages->setEnabled(can);
+    m_choosePages->setToolTip(can ? QString() : plainToolTip(tr("No document has been chosen.")));
 }
 
 void GeneralPage::focusPageRanges()

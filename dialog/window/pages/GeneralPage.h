@@ -13,6 +13,7 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
+class QPushButton;
 class QScrollArea;
 class QSpinBox;
 
@@ -47,6 +48,8 @@ public:
     void setPageRanges(const QString &ranges);
     /// Whether pages can be chosen at all. What was typed already stays to be seen.
     void offerPageRanges(bool offer);
+    /// Whether there are any that can be looked at to be chosen.
+    void setCanChoosePages(bool can);
     /// Puts the focus where the pages are typed.
     void focusPageRanges();
     /// Shows the session's marks.
@@ -69,6 +72,8 @@ Q_SIGNALS:
     void copiesEdited(int copies);
     /// The pages are others, whoever changed them; as pageRanges() gives them.
     void pageRangesEdited(const QString &ranges);
+    /// The user wants to see the pages to choose some.
+    void choosePagesPressed();
     /// The user chose a value of an attribute; null: none.
     void attributeProposed(const QString &name, const QString &value);
     /// missingHeight() has another answer.
@@ -76,6 +81,7 @@ Q_SIGNALS:
 
 private:
     void addJobFields(QFormLayout *form);
+    void addPageRanges(QFormLayout *form);
     void scroll(QWidget *rows);
     void showCollate(const OfferedAttribute &collate);
     void addOption(const QString &keyword);
@@ -91,6 +97,7 @@ private:
     QSpinBox *m_copies;
     QCheckBox *m_collate = nullptr; // where the printer can
     QLineEdit *m_pageRanges;
+    QPushButton *m_choosePages;
     QMap<QString, QComboBox *> m_popUps;
     CustomPaperSize *m_customPaper = nullptr; // where the printer takes such sizes
 };

@@ -71,6 +71,13 @@ private Q_SLOTS:
             {u"office: job-name=two words"_s});
         row("an option without a value", {"Dest office landscape nocollate\n"}, "",
             {u"office: landscape=true collate=false"_s});
+        row("blanks within a value", {"Dest office x='two  words'\ty=1\n"}, "",
+            {u"office: x=two  words y=1"_s});
+        row("a comment behind the options", {"Dest office x=1 # y=2\n"}, "", {u"office: x=1"_s});
+        row("a number sign in a value", {"Dest office x=a\\#b y=1\n"}, "",
+            {u"office: x=a#b y=1"_s});
+        row("line breaks of old systems", {"Default office x=1\rDest b\r"}, "office",
+            {u"b:"_s, u"office: x=1"_s});
         row("an option given twice", {"Dest office x=1 y=2 x=3\n"}, "", {u"office: x=3 y=2"_s});
         row("umlauts", {"Default Büro Papier=größer\n"}, "Büro", {u"Büro: Papier=größer"_s});
         row("comments and other words", {"# Default a\nServer b\n\nDefaults c\n"}, "", {});

@@ -1,0 +1,180 @@
+#include "dialog/printers/UserQueuesFile.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRegularExpression>
+
+#include "dialog/printers/PrinterId.h"
+#include "dialog/printers/UserQueuesLine.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UserQueuesFile)
+};
+
+// libcups reads packed files as well, and would take a line behind one for damage.
+constexpr QByteArrayView kPacked{"\x1f\x8b"};
+
+bool isOf(QByteArrayView line, const QString &name)
+{
+    const std::optional<UserQueuesLine> read = userQueuesLine(line);
+    return read && isSameQueue(QString::fromUtf8(read->name), name);
+}
+
+bool isDefault(const QByteArray &content, const QString &name)
+{
+    const QList<QByteArrayView> lines = linesOfUserQueues(content);
+    return std::any_of(lines.cbegin(), lines.cend(), [&](QByteArrayView line) {
+        return isOf(line, name) && userQueuesLine(line)->isDefault;
+    });
+}
+
+QByteArrayView endOf(QByteArrayView line)
+{
+    const auto end =
+        std::find_if(line.cbegin(), line.cend(), [](char c) { return c == '\n' || c == '\r'; });
+    return line.sliced(end - line.cbegin());
+}
+
+// Whether a content says nothing else of an instance. When libcups writes the file, it leaves out
+// what the queue has as a default, adds what the queue's own line says, and quotes otherwise.
+bool hasInstance(const QByteArray &content, const QString &name, const QList<JobOption> &options)
+{
+    bool isThere = false;
+    const QList<QByteArrayView> lines = linesOfUserQueues(content);
+    for (const QByteArrayView line : lines) {
+        if (!isOf(line, name))
+            continue;
+        isThere = true;
+        const QList<JobOption> found = optionsOfLine(*userQueuesLine(line));
+        for (const JobOption &option : options) {
+            const auto same = std::find_if(found.cbegin(), found.cend(), [&](const JobOption &one) {
+                return one.name == option.name;
+            });
+            if (same != found.cend() && same->value != option.value)
+                return false;
+        }
+    }
+    return isThere;
+}
+
+// What libcups finds in the line that would be written, as far as it is something else.
+QString misreadOption(const QString &name, const QList<JobOption> &options)
+{
+    const std::optional<UserQueuesLine> read = userQueuesLine(lineOf(true, name, options));
+    const QList<JobOption> found = read ? optionsOfLine(*read) : QList<JobOption>();
+    for (const JobOption &option : options) {
+        if (!found.contains(option))
+            return option.name;
+    }
+    return {};
+}
+
+} // namespace
+
+QString ownUserQueues()
+{
+    return QDir::homePath() + u"/.cups/lpoptions"_s;
+}
+
+QString systemUserQueues()
+{
+    return qEnvironmentVariable("CUPS_SERVERROOT", u"/etc/cups"_s) + u"/lpoptions"_s;
+}
+
+QString UserQueuesFile::setInstance(const QString &name, const QList<JobOption> &options) const
+{
+    if (const QString problem = problemOfInstance(name, options); !problem.isEmpty())
+        return problem;
+    bool isPacked = false;
+    const QString problem =
+        m_file.change({[&](const QByteArray &content) {
+                           isPacked = content.startsWith(kPacked);
+                           return isPacked ? content : withInstance(content, name, options);
+                       },
+                       [&](const QByteArray &content) {
+                           return isPacked || hasInstance(content, name, options);
+                       }});
+    if (problem.isEmpty() && isPacked)
+        return Texts::tr("The file of lpoptions is packed, and cannot be changed here.");
+    return problem;
+}
+
+QString UserQueuesFile::removeInstance(const QString &name) const
+{
+    bool staysDefault = false;
+    const QString problem =
+        m_file.change({[&](const QByteArray &content) {
+                           staysDefault = isDefault(content, name);
+                           return staysDefault ? content : withoutInstance(content, name);
+                       },
+                       [&](const QByteArray &content) {
+                           return staysDefault || withoutInstance(content, name) == content;
+                       }});
+    if (problem.isEmpty() && staysDefault)
+        return Texts::tr("“%1” is your default printer, and stays: choose another one first.")
+            .arg(name);
+    return problem;
+}
+
+QString problemOfInstance(const QString &name, const QList<JobOption> &options)
+{
+    static const QRegularExpression form(u"^[^/#\\s\\x00-\\x20\\x7f]+/[A-Za-z0-9._-]+\\z"_s);
+    if (!form.match(name).hasMatch())
+        return Texts::tr("“%1” is no name that other programs can print to.").arg(name);
+    for (const JobOption &option : options) {
+        if (const QString problem = problemOfLine(option); !problem.isEmpty())
+            return problem;
+    }
+    if (lineOf(true, name, options).size() > kMostBytesOfLine)
+        return Texts::tr("“%1” would have more settings than other programs can read.").arg(name);
+    if (const QString misread = misreadOption(name, options); !misread.isNull())
+        return Texts::tr("Other programs would read the value of “%1” as another one.")
+            .arg(misread);
+    return {};
+}
+
+QByteArray withInstance(const QByteArray &content, const QString &name,
+                        const QList<JobOption> &options)
+{
+    QByteArray changed;
+    bool isThere = false;
+    const QList<QByteArrayView> lines = linesOfUserQueues(content);
+    for (const QByteArrayView line : lines) {
+        if (!isOf(line, name)) {
+            changed += line;
+            continue;
+        }
+        // Of several, libcups takes the first one in some calls and all of them in others.
+        changed += lineOf(userQueuesLine(line)->isDefault, name, options);
+        changed += endOf(line);
+        isThere = true;
+    }
+    if (isThere)
+        return changed;
+    if (!lines.isEmpty() && endOf(lines.constLast()).isEmpty())
+        changed += '\n';
+    return changed + lineOf(false, name, options) + '\n';
+}
+
+QByteArray withoutInstance(const QByteArray &content, const QString &name)
+{
+    QByteArray changed;
+    const QList<QByteArrayView> lines = linesOfUserQueues(content);
+    for (const QByteArrayView line : lines) {
+        if (!isOf(line, name) || userQueuesLine(line)->isDefault)
+            changed += line;
+    }
+    return changed;
+}
+
+} // namespace corvana
