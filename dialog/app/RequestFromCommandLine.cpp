@@ -7,6 +7,7 @@
 
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/policy/Policy.h"
 #include "dialog/printers/SamplePrinters.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/JobNames.h"
@@ -140,6 +141,7 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.copies = line.copies.value_or(1);
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
+    request.policy = Policy::ofThisComputer();
     request.helpPage = dialogHelpPage();
     return request;
 }

@@ -15,27 +15,44 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ServerJob)
 };
 
-} // namespace
-
-QString JobProgress::text() const
+QString textOfStage(const JobProgress &progress)
 {
-    switch (stage) {
+    using Stage = JobProgress::Stage;
+    switch (progress.stage) {
     case Stage::Converting:
         return Texts::tr("Preparing…");
     case Stage::Sending:
-        return total > 0 ? Texts::tr("Sending, %1 %…").arg(sent * 100 / total)
-                         : Texts::tr("Asking the print server…");
+        return progress.total > 0
+                   ? Texts::tr("Sending, %1 %…").arg(progress.sent * 100 / progress.total)
+                   : Texts::tr("Asking the print server…");
     case Stage::Waiting:
         return Texts::tr("Waiting in the queue…");
     case Stage::Held:
         return Texts::tr("Held in the queue");
     case Stage::Printing:
-        return page > 0 ? Texts::tr("Printing page %1…").arg(page) : Texts::tr("Printing…");
+        return progress.page > 0 ? Texts::tr("Printing page %1…").arg(progress.page)
+                                 : Texts::tr("Printing…");
     case Stage::Stopped:
-        return message.isEmpty() ? Texts::tr("The printer is stopped.")
-                                 : Texts::tr("The printer is stopped: %1").arg(message);
+        return progress.message.isEmpty()
+                   ? Texts::tr("The printer is stopped.")
+                   : Texts::tr("The printer is stopped: %1").arg(progress.message);
     }
     return {};
+}
+
+} // namespace
+
+QString JobProgress::text() const
+{
+    switch (sides) {
+    case Sides::All:
+        break;
+    case Sides::First:
+        return Texts::tr("First sides: %1").arg(textOfStage(*this));
+    case Sides::Other:
+        return Texts::tr("Other sides: %1").arg(textOfStage(*this));
+    }
+    return textOfStage(*this);
 }
 
 QString jobName(const Printer &printer, int job)

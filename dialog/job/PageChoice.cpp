@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+#include "dialog/session/OptionNames.h"
+
 namespace corvana {
 
 namespace {
@@ -156,7 +158,8 @@ QList<JobOption> withoutPageOrder(const QList<JobOption> &options)
 {
     QList<JobOption> others = options;
     others.removeIf([](const JobOption &option) {
-        return option.name == kBookletAttribute || option.name == kRepeatAttribute;
+        return option.name == kBookletAttribute || option.name == kRepeatAttribute ||
+               option.name == kSidesByHandAttribute || option.name == kPutBackAttribute;
     });
     return others;
 }

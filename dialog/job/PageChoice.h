@@ -76,7 +76,8 @@ bool mustPickPages(const QList<JobOption> &options);
 /// The options of a job whose pages were picked already.
 QList<JobOption> withoutPageChoice(const QList<JobOption> &options);
 
-/// The options of a job without those that say in which order its pages come.
+/// The options of a job without those that say in which order its pages and sides come, which no
+/// program of CUPS knows.
 QList<JobOption> withoutPageOrder(const QList<JobOption> &options);
 
 /// For a person: none of the documents has any of the pages.

@@ -60,7 +60,9 @@ bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
 
 PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObject *parent)
     : QObject(parent), m_wish(wish), m_userQueues(readUserQueues()),
-      m_queues(std::move(server), m_userQueues), m_deviceServer(m_queues.context())
+      m_queues(std::move(server), m_userQueues,
+               [this](const Printer &printer) { return isOffered(printer); }),
+      m_deviceServer(m_queues.context())
 {
     connect(&m_queues, &QueueList::changed, this, [this] {
         follow();
@@ -70,6 +72,27 @@ PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObj
     // Where it cannot be written, there is none; the printers of the list are not touched by that.
     QString error;
     m_pdfPrinter = pdfPrinter(&error);
+    if (!isOffered(m_pdfPrinter.printer))
+        m_pdfPrinter.ppd.reset();
+    m_wish.files.removeIf([this](const Printer &printer) {
+        // What was named is opened, and refused, by its name.
+        return !isOffered(printer) && (m_wish.name.isEmpty() || !isCalled(printer, m_wish.name));
+    });
+}
+
+bool PrinterSource::isOffered(const Printer &printer) const
+{
+    return !m_wish.refusal || m_wish.refusal(printer).isEmpty();
+}
+
+// Whether the printer that is to be opened is offered to nobody; failed() says why then.
+bool PrinterSource::isRefused()
+{
+    const QString problem = m_wish.refusal ? m_wish.refusal(m_open.printer) : QString();
+    if (problem.isEmpty())
+        return false;
+    Q_EMIT failed(problem, problem);
+    return true;
 }
 
 void PrinterSource::start()
@@ -81,11 +104,12 @@ QList<Printer> PrinterSource::printers() const
 {
     QList<Printer> all = m_wish.files + m_queues.printers();
     // What was named is there to be seen while nobody knows whether it is one of the list.
+    all.removeIf([this](const Printer &printer) { return !isOffered(printer); });
     const bool unlisted = m_open.printer.origin == PrinterOrigin::Device ||
                           (m_open.printer.origin == PrinterOrigin::Queue &&
                            m_queues.state() != QueueList::State::Known &&
                            !find(m_queues.printers(), m_open.printer.name));
-    if (unlisted)
+    if (unlisted && isOffered(m_open.printer))
         all.prepend(m_open.printer);
     if (m_pdfPrinter.ppd)
         all += m_pdfPrinter.printer;
@@ -108,12 +132,14 @@ Printer PrinterSource::first()
         return *file;
     if (m_wish.name.isEmpty() && !m_wish.files.isEmpty())
         return m_wish.files.constFirst();
-    QString name = m_wish.name.isEmpty() ? m_userQueues.defaultName : m_wish.name;
+    QString name = m_wish.name.isEmpty() ? usersDefault() : m_wish.name;
     if (name.isEmpty()) {
         // Nobody asks for the instance now; where it is gone, its queue is the next best.
         name = lastPrinter(m_queues.context().address.argument());
         if (!m_userQueues.hasInstance(name))
             name = queueOfInstance(name);
+        if (!name.isEmpty() && !isOffered(queueNamed(name, &m_deviceServer.address)))
+            name.clear();
     }
     if (name.isEmpty()) {
         m_provisional = true;
@@ -131,6 +157,14 @@ const ServerContext &PrinterSource::serverOf(const Printer &printer) const
     return printer.origin == PrinterOrigin::Device ? m_deviceServer : m_queues.context();
 }
 
+// One that is offered to nobody is no default.
+QString PrinterSource::usersDefault()
+{
+    const QString &name = m_userQueues.defaultName;
+    return name.isEmpty() || isOffered(queueNamed(name, &m_deviceServer.address)) ? name
+                                                                                   : QString();
+}
+
 void PrinterSource::openWanted()
 {
     const Printer *file = m_wish.name.isEmpty() ? nullptr : find(m_wish.files, m_wish.name);
@@ -138,7 +172,7 @@ void PrinterSource::openWanted()
         file = &m_wish.files.constFirst();
     if (file)
         return open(Printer(*file));
-    const QString name = m_wish.name.isEmpty() ? m_userQueues.defaultName : m_wish.name;
+    const QString name = m_wish.name.isEmpty() ? usersDefault() : m_wish.name;
     if (!name.isEmpty())
         return openFresh(name);
     ServerContext server = m_queues.context();
@@ -158,7 +192,7 @@ void PrinterSource::openWanted()
 void PrinterSource::openFresh(const QString &name)
 {
     reset(queueNamed(name, &m_deviceServer.address));
-    if (!lacksInstance())
+    if (!isRefused() && !lacksInstance())
         inspect(true);
 }
 
@@ -177,6 +211,8 @@ void PrinterSource::reset(const Printer &printer)
 void PrinterSource::open(const Printer &printer)
 {
     reset(printer);
+    if (isRefused())
+        return;
     if (printer.origin == PrinterOrigin::File) {
         const bool isPdfPrinter = m_pdfPrinter.ppd && idOf(printer) == idOf(m_pdfPrinter.printer);
         m_open = isPdfPrinter ? m_pdfPrinter : printerWithItsFile(printer);
@@ -223,7 +259,7 @@ std::optional<FetchedPrinter> PrinterSource::kept(const Printer &printer)
 
 void PrinterSource::retry()
 {
-    if (m_open.printer.origin != PrinterOrigin::File && !lacksInstance())
+    if (m_open.printer.origin != PrinterOrigin::File && !isRefused() && !lacksInstance())
         inspect(true);
 }
 

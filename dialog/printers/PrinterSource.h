@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QObject>
@@ -18,6 +19,9 @@ struct PrinterWish
     QString name{};
     /// Where plug-in bundles are trusted.
     QStringList bundleRoots{};
+    /// Why a printer is not offered to anybody, such as by an administrator's policy; empty where it
+    /// is. Without it every printer is.
+    std::function<QString(const Printer &)> refusal{};
 };
 
 /// Where the dialog's printers come from: the list of all of them, and the one that is to be
@@ -93,6 +97,9 @@ private:
     void inspect(bool mayAsk);
     void openFresh(const QString &name);
     void reset(const Printer &printer);
+    bool isOffered(const Printer &printer) const;
+    bool isRefused();
+    QString usersDefault();
     bool lacksInstance();
     bool meansPdfPrinter(const ServerProblem &problem) const;
     bool isOpenQueue(const Printer &printer) const;

@@ -64,8 +64,10 @@ QList<Printer> withInstances(const QList<Printer> &queues, const UserQueues &use
 
 } // namespace
 
-QueueList::QueueList(ServerContext context, UserQueues userQueues, QObject *parent)
-    : QObject(parent), m_context(std::move(context)), m_userQueues(std::move(userQueues))
+QueueList::QueueList(ServerContext context, UserQueues userQueues,
+                     std::function<bool(const Printer &)> isOffered, QObject *parent)
+    : QObject(parent), m_context(std::move(context)), m_userQueues(std::move(userQueues)),
+      m_isOffered(std::move(isOffered))
 {
     m_next.setSingleShot(true);
     m_slow.setSingleShot(true);
@@ -161,6 +163,8 @@ void QueueList::take(const QList<Printer> &printers, const QString &serverDefaul
 {
     m_serverDefault = serverDefault;
     QList<Printer> all = sorted(withInstances(printers, m_userQueues));
+    if (m_isOffered)
+        all.removeIf([this](const Printer &printer) { return !m_isOffered(printer); });
     const QString name = defaultName();
     for (Printer &printer : all)
         printer.isDefault = isCalled(printer, name);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
@@ -27,7 +29,9 @@ public:
         Failed,  ///< problem() says why; the printers are the ones known before
     };
 
-    QueueList(ServerContext context, UserQueues userQueues, QObject *parent = nullptr);
+    /// `isOffered` keeps queues out of the list, as if the server had none of that name.
+    QueueList(ServerContext context, UserQueues userQueues,
+              std::function<bool(const Printer &)> isOffered = {}, QObject *parent = nullptr);
 
     /// Looks now, and from then on every few seconds.
     void start();
@@ -62,6 +66,7 @@ private:
 
     ServerContext m_context;
     UserQueues m_userQueues;
+    std::function<bool(const Printer &)> m_isOffered; // empty: all are
     ServerWork m_work;
     QTimer m_next; // the next look
     QTimer m_slow; // when an answer is late

@@ -21,6 +21,15 @@ inline constexpr Word kBooklets[] = {
     {"left"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bound at the Left")},
     {"right"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Bound at the Right")},
 };
+inline constexpr Word kSidesByHand[] = {
+    {"no"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "One-Sided")},
+    {"long-edge"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Long Edge (by Hand)")},
+    {"short-edge"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Short Edge (by Hand)")},
+};
+inline constexpr Word kPutBack[] = {
+    {"face-down"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Printed Side Down")},
+    {"face-up"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Printed Side Up")},
+};
 inline constexpr Word kOrdersOnASheet[] = {
     {"btlr"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Up, Then to the Right")},
     {"btrl"_L1, {}, QT_TRANSLATE_NOOP("JobAttributes", "Up, Then to the Left")},

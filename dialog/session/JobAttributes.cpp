@@ -86,6 +86,16 @@ constexpr AllowedValues kMargins =
     numbers(0, 9999, QT_TRANSLATE_NOOP("JobAttributes", "points of 1/72 inch"));
 
 constexpr JobAttribute kAttributes[] = {
+    {kSidesByHandAttribute,
+     AppliedTo::Job,
+     "no"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Two-Sided"),
+     {kSidesByHand}},
+    {kPutBackAttribute,
+     AppliedTo::Job,
+     "face-down"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Sheets Are Put Back"),
+     {kPutBack}},
     {"number-up"_L1,
      AppliedTo::Pages,
      "1"_L1,

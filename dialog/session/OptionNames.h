@@ -24,6 +24,8 @@ inline constexpr QLatin1StringView kPageRangesAttribute{"page-ranges"};
 /// What makes a job wait in its queue until somebody releases it.
 inline constexpr QLatin1StringView kJobHoldUntilAttribute{"job-hold-until"};
 inline constexpr QLatin1StringView kHeldIndefinitely{"indefinite"};
+/// The number of copies, which is no option of any PPD.
+inline constexpr QLatin1StringView kCopiesAttribute{"copies"};
 /// An orientation as lp names it, which is on or off.
 inline constexpr QLatin1StringView kLandscapeOption{"landscape"};
 /// Whether several copies of a document come out one after the other, or each page several times:
@@ -33,5 +35,12 @@ inline constexpr QLatin1StringView kHandlingAttribute{"multiple-document-handlin
 inline constexpr QLatin1StringView kCollated{"separate-documents-collated-copies"};
 inline constexpr QLatin1StringView kUncollated{"separate-documents-uncollated-copies"};
 inline constexpr QLatin1StringView kCollateOption{"Collate"};
+/// Two sides, one after the other, on a printer that turns no sheets over; and how the sheets lie
+/// when somebody puts them back. Both are ours: no server gets them.
+inline constexpr QLatin1StringView kSidesByHandAttribute{"sides-by-hand"};
+inline constexpr QLatin1StringView kByHandLongEdge{"long-edge"};
+inline constexpr QLatin1StringView kByHandShortEdge{"short-edge"};
+inline constexpr QLatin1StringView kPutBackAttribute{"put-back"};
+inline constexpr QLatin1StringView kPutBackFaceUp{"face-up"};
 
 } // namespace corvana

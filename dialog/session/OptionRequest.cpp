@@ -71,7 +71,7 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
         });
         if (now == job.cend())
             problems += conflictMessage(
-                {{option.name, option.value}, takenInstead(option, expected)}, session.ppd());
+                {{option.name, option.value}, takenInstead(option, expected)}, session);
         else if (now->value != option.value)
             problems +=
                 Texts::tr("%1: the printer's settings do not allow this here; it became %2.")
@@ -83,16 +83,25 @@ QStringList differences(const QList<JobOption> &expected, const PpdSession &sess
 
 } // namespace
 
-QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd)
+QString conflictMessage(const Refusal &refusal, const PpdSession &session)
 {
+    ppd_file_t *ppd = session.ppd();
+    if (!refusal.locked.keyword.isNull())
+        return u"%1: %2"_s.arg(named(refusal.proposed, ppd),
+                               lockedText(refusal.locked.keyword, session));
     if (refusal.conflicting.isEmpty())
         return Texts::tr("%1: the printer's options cannot be set to this value.")
             .arg(named(refusal.proposed, ppd));
     QStringList others;
     for (const OptionChoice &other : refusal.conflicting)
         others += named(other, ppd);
-    return Texts::tr("%1: this cannot be combined with %2.")
-        .arg(named(refusal.proposed, ppd), others.join(u", "_s));
+    QString text = Texts::tr("%1: this cannot be combined with %2.")
+                       .arg(named(refusal.proposed, ppd), others.join(u", "_s));
+    for (const OptionChoice &other : refusal.conflicting) {
+        if (session.locks().contains(other.keyword))
+            text += u'\n' + lockedText(other.keyword, session);
+    }
+    return text;
 }
 
 QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
@@ -106,7 +115,8 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
             session.change(mark.name, mark.value, PpdSession::Origin::Dialog);
         if (!result.accepted())
             problems +=
-                conflictMessage({{mark.name, mark.value}, result.conflicting}, session.ppd());
+                conflictMessage({{mark.name, mark.value}, result.conflicting, result.locked},
+                                session);
     }
     return problems;
 }
@@ -152,7 +162,7 @@ QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues
         }
         const QList<OptionChoice> conflicting = session.conflictsOf(choice);
         if (!conflicting.isEmpty())
-            problems += conflictMessage({choice, conflicting}, session.ppd());
+            problems += conflictMessage({choice, conflicting}, session);
     }
     for (const QString &keyword : optionsWithoutValue(session, jobValues)) {
         problems += Texts::tr("%1=Custom: a value is missing. Allowed: %2.")
@@ -186,13 +196,13 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
 
     OptionOutcome outcome{{}, request.attributes, request.copies};
     for (const Refusal &conflict : session.changeTogether(request.choices))
-        outcome.problems += conflictMessage(conflict, session.ppd());
+        outcome.problems += conflictMessage(conflict, session);
     if (!outcome.ok())
         return {outcome.problems, {}, {}};
     // A new paper makes the panels propose a medium for it; what was asked for comes after that.
     panels.deliverPending();
     for (const Refusal &conflict : session.changeTogether(request.choices))
-        outcome.problems += conflictMessage(conflict, session.ppd());
+        outcome.problems += conflictMessage(conflict, session);
 
     QList<JobOption> expected;
     for (const OptionChoice &choice : std::as_const(request.choices))
@@ -209,7 +219,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     for (const Refusal &refusal : session.takeRefusals()) {
         // What a panel proposes for the new paper, beside a choice that was named, nobody wishes.
         if (!isNamed(request.choices, refusal.proposed.keyword))
-            outcome.problems += conflictMessage(refusal, session.ppd());
+            outcome.problems += conflictMessage(refusal, session);
     }
     outcome.problems += jobProblems(session, jobValues);
     if (outcome.ok())

@@ -56,6 +56,6 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues);
 QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues);
 
 /// What a refusal says in a terminal: the options by their keywords, passwords by dots.
-QString conflictMessage(const Refusal &refusal, ppd_file_t *ppd);
+QString conflictMessage(const Refusal &refusal, const PpdSession &session);
 
 } // namespace corvana

@@ -8,11 +8,11 @@ void PanelHost::followSession()
 {
     connect(&m_session, &PpdSession::changed, this, &PanelHost::noteChange);
     connect(&m_session, &PpdSession::refused, this, [this] {
-        m_news.refused = true;
+        m_news.refusal = true;
         scheduleDelivery();
     });
     connect(&m_session, &PpdSession::paperChanged, this, [this] {
-        m_news.paperChanged = true;
+        m_news.paper = true;
         scheduleDelivery();
     });
     connect(&m_session, &PpdSession::entriesChanged, this, [this] {
@@ -31,7 +31,7 @@ void PanelHost::restoreTo(const SessionSnapshot &snapshot)
     restoreAll();
     m_session.restore(snapshot); // panels write entries of their own while they restore
     m_pending.clear();
-    m_news.refused = m_news.paperChanged = m_news.entries = false;
+    m_news = {.scheduled = m_news.scheduled};
 }
 
 } // namespace corvana

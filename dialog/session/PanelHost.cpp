@@ -265,7 +265,7 @@ void PanelHost::deliverPending()
         return; // nobody is told anything before it was shown; bringUp() delivers
     if (std::exchange(m_news.entries, false))
         Q_EMIT shownValuesChanged();
-    bool anything = std::exchange(m_news.refused, false);
+    bool anything = std::exchange(m_news.refusal, false);
     announcePaper();
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
@@ -283,7 +283,7 @@ void PanelHost::deliverPending()
 // Panels judge a new paper at once, and may propose another medium for it or run an alert.
 void PanelHost::announcePaper()
 {
-    if (!std::exchange(m_news.paperChanged, false))
+    if (!std::exchange(m_news.paper, false))
         return;
     ++m_uninterruptible;
     const auto done = qScopeGuard([this] { --m_uninterruptible; });

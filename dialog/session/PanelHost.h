@@ -117,14 +117,13 @@ private:
         QString choice;
         PDEPanel *source; // does not need to be told; null for the dialog's own changes
     };
-
-    /// What the panels or the task have to be told at the next delivery, beside changes.
+    // What has happened beside changes of choices.
     struct News
     {
-        bool refused = false;
-        bool paperChanged = false;
-        bool entries = false;   ///< of the print settings
-        bool scheduled = false; ///< the delivery itself
+        bool refusal = false;
+        bool paper = false;
+        bool entries = false;
+        bool scheduled = false; // all of it will be delivered
     };
 
     void followSession();
@@ -135,7 +134,7 @@ private:
     void scheduleDelivery();
     bool hasNews() const
     {
-        return !m_pending.isEmpty() || m_news.refused || m_news.paperChanged || m_news.entries;
+        return !m_pending.isEmpty() || m_news.refusal || m_news.paper || m_news.entries;
     }
     bool leaveVisible();
     void saveVisible();

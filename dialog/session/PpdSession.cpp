@@ -107,24 +107,19 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     const bool same =
         before == choiceKeyword(choice) && (!custom || customValue(keyword) == choice);
     if (!same) {
-        const QList<OptionChoice> conflicting = conflictsOf({keyword, choice});
-        if (!conflicting.isEmpty()) {
-            qCInfo(lcSession) << "refused:" << keyword << choiceKeyword(choice) << "collides with"
-                              << conflicting.first().keyword << conflicting.first().choice;
-            if (origin == Origin::Panel) {
-                m_refusals.insert(keyword, Refusal{{keyword, choice}, conflicting});
-                Q_EMIT refused();
-            }
-            return {Outcome::Conflict, conflicting};
-        }
-        if (!mark(keyword, choice)) {
-            qCWarning(lcSession) << "refused: libcups does not mark" << keyword
-                                 << choiceKeyword(choice);
-            if (origin == Origin::Panel) {
-                m_refusals.insert(keyword, Refusal{{keyword, choice}, {}});
-                Q_EMIT refused();
-            }
-            return {Outcome::NotMarked, {}};
+        const OptionChoice proposed{keyword, choice};
+        if (const OptionChoice locked = lockInTheWay(proposed); !locked.keyword.isNull())
+            return refuse({Outcome::Locked, {}, locked}, proposed, origin);
+        const QList<OptionChoice> conflicting = conflictsOf(proposed);
+        if (!conflicting.isEmpty())
+            return refuse({Outcome::Conflict, conflicting}, proposed, origin);
+        const SessionSnapshot former = m_locks.isEmpty() ? SessionSnapshot() : snapshot();
+        if (!mark(keyword, choice))
+            return refuse({Outcome::NotMarked, {}}, proposed, origin);
+        // libcups takes the marks of some options away with those of others.
+        if (const OptionChoice moved = movedLock(); !moved.keyword.isNull()) {
+            restore(former);
+            return refuse({Outcome::Locked, {}, moved}, proposed, origin);
         }
     }
     m_refusals.remove(keyword);
@@ -147,8 +142,17 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
                           [](const OptionChoice &c) { return c.keyword == kPageSizeOption; });
     QList<Refusal> refusals;
     for (const OptionChoice &choice : std::as_const(ordered)) {
-        if (!mark(choice.keyword, choice.choice))
+        if (const OptionChoice locked = lockInTheWay(choice); !locked.keyword.isNull())
+            refusals += Refusal{choice, {}, locked};
+        else if (!mark(choice.keyword, choice.choice))
             refusals += Refusal{choice, {}};
+        else if (const OptionChoice moved = movedLock(); !moved.keyword.isNull())
+            refusals += Refusal{choice, {}, moved};
+    }
+    // Before conflicts are looked for: one with what was not marked would not be there.
+    if (!refusals.isEmpty() && !refusals.constFirst().locked.keyword.isNull()) {
+        restore(before);
+        return refusals;
     }
     for (const OptionChoice &choice : std::as_const(ordered)) {
         const QList<OptionChoice> conflicting = conflictsOf(choice);
@@ -186,7 +190,11 @@ QList<OptionChoice> PpdSession::wayOut(const OptionChoice &proposed)
     others.removeIf([&](const OptionChoice &other) {
         return other.keyword == proposed.keyword || markedChoice(other.keyword) == other.choice;
     });
-    return others;
+    // A way that leads through a lock is none.
+    const bool isLocked = std::any_of(others.cbegin(), others.cend(), [&](const OptionChoice &one) {
+        return !lockInTheWay(one).keyword.isNull();
+    });
+    return isLocked || !lockInTheWay(proposed).keyword.isNull() ? QList<OptionChoice>() : others;
 }
 
 SessionSnapshot PpdSession::snapshot() const
@@ -213,11 +221,76 @@ void PpdSession::restore(const SessionSnapshot &snapshot)
         mark(marked.key(), snapshot.customValues.value(marked.key(), marked.value()));
     m_customValues = snapshot.customValues;
     m_printSettings.setEntries(snapshot.entries);
-    const bool otherPaper = m_pageFormat != snapshot.pageFormat;
+    bool otherPaper = m_pageFormat != snapshot.pageFormat;
     m_pageFormat = snapshot.pageFormat;
     m_refusals.clear();
+    if (!m_locks.isEmpty()) {
+        markLocks();
+        otherPaper = updatePageFormat() || otherPaper;
+    }
     if (otherPaper)
         Q_EMIT paperChanged();
+}
+
+void PpdSession::setLocks(const OptionLocks &locks, const Companions &companions)
+{
+    m_locks = locks;
+    m_companions = companions;
+    markLocks();
+}
+
+// Whatever was restored: it may be the state of a time before the lock.
+void PpdSession::markLocks()
+{
+    for (auto lock = m_locks.cbegin(); lock != m_locks.cend(); ++lock) {
+        if (lock->choice.isNull())
+            continue;
+        mark(lock.key(), lock->choice);
+        m_printSettings.setValue(lock.key(), choiceKeyword(lock->choice));
+    }
+}
+
+// The lock that a choice does not keep to, itself or by another form of it.
+OptionChoice PpdSession::lockInTheWay(const OptionChoice &proposed) const
+{
+    if (m_locks.isEmpty())
+        return {};
+    QList<OptionChoice> all{proposed};
+    if (m_companions)
+        all += m_companions(proposed);
+    for (const OptionChoice &one : std::as_const(all)) {
+        if (const auto lock = m_locks.find(one.keyword);
+            lock != m_locks.cend() && !lock->allows(one.choice))
+            return {one.keyword, lock->choice};
+    }
+    return {};
+}
+
+OptionChoice PpdSession::movedLock() const
+{
+    for (auto lock = m_locks.cbegin(); lock != m_locks.cend(); ++lock) {
+        const QString custom = customValue(lock.key());
+        if (!lock->choice.isNull() &&
+            (custom.isNull() ? markedChoice(lock.key()) : custom) != lock->choice)
+            return {lock.key(), lock->choice};
+    }
+    return {};
+}
+
+// What a panel proposes in vain, somebody has to be told.
+ChangeResult PpdSession::refuse(const ChangeResult &result, const OptionChoice &proposed,
+                                Origin origin)
+{
+    qCInfo(lcSession) << "refused:" << proposed.keyword << choiceKeyword(proposed.choice)
+                      << "because of"
+                      << (result.conflicting.isEmpty() ? result.locked.keyword
+                                                       : result.conflicting.first().keyword);
+    if (origin == Origin::Panel) {
+        m_refusals.insert(proposed.keyword,
+                          Refusal{proposed, result.conflicting, result.locked});
+        Q_EMIT refused();
+    }
+    return result;
 }
 
 QList<Refusal> PpdSession::takeRefusals()

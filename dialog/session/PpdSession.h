@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QList>
@@ -7,6 +8,7 @@
 #include <QObject>
 #include <QString>
 
+#include "dialog/session/OptionLocks.h"
 #include "dialog/session/PpdFile.h"
 #include "platform/printcore/PageFormat.h"
 #include "platform/printcore/PrintSettings.h"
@@ -35,11 +37,12 @@ struct SessionSnapshot
 };
 
 /// A choice that was refused, and the marked choices that it collides with; none where libcups does
-/// not take it from this PPD.
+/// not take it from this PPD, or where it is an administrator's to choose.
 struct Refusal
 {
     OptionChoice proposed;
     QList<OptionChoice> conflicting;
+    OptionChoice locked{}; ///< the choice of an administrator's that it would move
 
     bool operator==(const Refusal &) const = default;
 };
@@ -53,10 +56,12 @@ struct ChangeResult
         UnknownChoice,
         Conflict,
         NotMarked, ///< libcups does not take it from this PPD
+        Locked,    ///< an administrator has chosen
     };
 
     Outcome outcome = Outcome::Accepted;
     QList<OptionChoice> conflicting; ///< the marked choices in the way of a conflict
+    OptionChoice locked{};           ///< the choice of an administrator's that it would move
 
     bool accepted() const { return outcome == Outcome::Accepted; }
 };
@@ -105,6 +110,15 @@ public:
     /// Unknown names must have been refused before.
     QList<Refusal> changeTogether(const QList<OptionChoice> &choices);
 
+    /// Options that say the same as a choice in another form, with the choices that they would get.
+    using Companions = std::function<QList<OptionChoice>(const OptionChoice &)>;
+    /// Keeps options at what they are: no change, restored state or companion of a choice moves them
+    /// from here on. What is to be marked is marked already.
+    void setLocks(const OptionLocks &locks, const Companions &companions = {});
+    const OptionLocks &locks() const { return m_locks; }
+    /// Who keeps an option at what it is: a file and a line; null: nobody does.
+    QString lockedBy(const QString &keyword) const { return m_locks.value(keyword).by; }
+
     /// Other choices that make room for the proposed one; empty when there are none.
     QList<OptionChoice> wayOut(const OptionChoice &proposed);
 
@@ -134,12 +148,18 @@ private:
     void recordMarks();
     bool updatePageFormat();
     void setDuplex(PMDuplexMode mode);
+    ChangeResult refuse(const ChangeResult &result, const OptionChoice &proposed, Origin origin);
+    OptionChoice lockInTheWay(const OptionChoice &proposed) const;
+    OptionChoice movedLock() const;
+    void markLocks();
 
     PpdFile m_ppd;
     PrintSettings m_printSettings;
     PageFormat m_pageFormat;
     QMap<QString, QString> m_customValues;
     QMap<QString, Refusal> m_refusals;
+    OptionLocks m_locks;
+    Companions m_companions;
 };
 
 } // namespace corvana

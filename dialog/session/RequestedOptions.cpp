@@ -14,6 +14,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/OptionTexts.h"
 #include "dialog/session/PaperSize.h"
+#include "dialog/session/TwoSided.h"
 
 namespace corvana {
 
@@ -29,7 +30,7 @@ struct Texts
 constexpr QLatin1StringView kMediaOption{"media"};
 constexpr QLatin1StringView kMediaDetailsOption{"media-col"};
 constexpr QLatin1StringView kSidesOption{"sides"};
-constexpr QLatin1StringView kCopiesOption{"copies"};
+constexpr QLatin1StringView kCopiesOption = kCopiesAttribute;
 
 bool isInSomeCase(const QString &value, const QString &other)
 {
@@ -136,6 +137,16 @@ void RequestedOptions::refuseValue(const JobOption &option, const QString &allow
     refuse(option, allowed.isEmpty()
                        ? Texts::tr("this printer has nothing to choose from for this.")
                        : Texts::tr("this value is not allowed. Allowed: %1.").arg(allowed));
+}
+
+// Whether somebody who counts more keeps an attribute at another value.
+bool RequestedOptions::refuseLocked(const JobOption &attribute)
+{
+    const auto lock = m_session.locks().find(attribute.name);
+    if (lock == m_session.locks().cend() || lock->value == attribute.value)
+        return false;
+    refuse(attribute, lockedText(attribute.name, m_session));
+    return true;
 }
 
 QString RequestedOptions::knownNames() const
@@ -263,16 +274,22 @@ void RequestedOptions::addSides(const JobOption &option)
         choices += asked;
         return;
     }
-    refuseValue(option, allowed.join(u", "_s));
+    const QString text = allowed.join(u", "_s);
+    if (turnsSheetsOver(ppd))
+        return refuseValue(option, text);
+    refuse(option, Texts::tr("this printer prints on one side only. Allowed: %1. Two sides by "
+                             "hand: %2=%3, %2=%4.")
+                       .arg(text, kSidesByHandAttribute, kByHandLongEdge, kByHandShortEdge));
 }
 
 void RequestedOptions::addCopies(const JobOption &option)
 {
     bool isNumber = false;
     const int number = option.value.toInt(&isNumber);
-    if (isNumber && number >= 1 && number <= kMostCopies)
-        copies = number;
-    else
+    if (isNumber && number >= 1 && number <= kMostCopies) {
+        if (!refuseLocked({kCopiesAttribute, QString::number(number)}))
+            copies = number;
+    } else
         refuseValue(option, Texts::tr("1 to %1").arg(kMostCopies));
 }
 
@@ -288,6 +305,10 @@ bool RequestedOptions::addPanelValue(const JobOption &option)
         return false;
     if (claim.outcome == JobValueClaim::Outcome::Refused)
         refuseValue(option, claim.allowed);
+    else if (const auto lock = m_session.locks().find(option.name);
+             lock != m_session.locks().cend() && lock->kind == OptionLock::Kind::PanelValue &&
+             lock->value != claim.standsFor.value)
+        refuse(option, lockedText(option.name, m_session));
     else
         panelValues += option;
     return true;
@@ -345,7 +366,14 @@ bool RequestedOptions::addAttribute(const JobOption &option)
     const JobAttribute *attribute = jobAttribute(option.name);
     if (!attribute)
         return false;
-    if (const std::optional<QString> value = attribute->allowed.inOneSpelling(option.value))
+    const std::optional<QString> value = attribute->allowed.inOneSpelling(option.value);
+    if (value && refuseLocked({option.name, *value}))
+        return true;
+    if (value && isTwoSidedByHand({{option.name, *value}}) && turnsSheetsOver(m_session.ppd()))
+        refuse(option, Texts::tr("this printer turns sheets over itself. Allowed: %1=no; for two "
+                                 "sides use %2.")
+                           .arg(option.name, kSidesOption));
+    else if (value)
         attributes += JobOption{option.name, *value};
     else
         refuseValue(option, attribute->allowed.text());

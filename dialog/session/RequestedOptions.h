@@ -47,6 +47,7 @@ private:
     void addCopies(const JobOption &option);
 
     void refuse(const JobOption &option, const QString &why);
+    bool refuseLocked(const JobOption &attribute);
     void refuseValue(const JobOption &option, const QString &allowed);
     QString knownNames() const;
 

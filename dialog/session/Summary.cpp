@@ -8,6 +8,7 @@
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PaperSize.h"
+#include "dialog/session/TwoSided.h"
 #include "platform/foundation/ForeignText.h"
 #include "platform/pde/PDEPanel.h"
 
@@ -118,6 +119,9 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     QList<SummaryLine> lines{{QCoreApplication::translate("Summary", "Copies"),
                               copiesText(copies, isCollated(session, attributes))}};
     for (const QString &keyword : generalOptionKeywords()) {
+        // Two sides by hand stand among the attributes.
+        if (keyword == kDuplexOption && isTwoSidedByHand(attributes))
+            continue;
         const SummaryLine line = optionLine(session, keyword);
         if (!line.title.isEmpty())
             lines += line;

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <optional>
 
 #include <QString>
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PaperSize.h"
+#include "dialog/session/TwoSided.h"
 
 namespace corvana {
 
@@ -19,18 +19,6 @@ namespace {
 // What the layout step takes where a printer names no paper.
 constexpr QSizeF kUsualPaper(612, 792);
 constexpr QMarginsF kUsualMargins(18, 36, 18, 36);
-
-// The options by which the layout step knows that sheets have two sides, and the choices of theirs
-// that say so. There are no others for it.
-constexpr QLatin1StringView kTwoSidedOptions[] = {kDuplexOption, "JCLDuplex"_L1, "EFDuplex"_L1,
-                                                  "KD03Duplex"_L1};
-constexpr QLatin1StringView kTwoSidedChoices[] = {kDuplexLongEdge, kDuplexShortEdge, "LongEdge"_L1,
-                                                  "ShortEdge"_L1,  "Top"_L1,         "Bottom"_L1};
-
-template <size_t N> bool isOneOf(const QString &text, const QLatin1StringView (&list)[N])
-{
-    return std::find(std::begin(list), std::end(list), text) != std::end(list);
-}
 
 std::optional<QString> valueOf(const QList<JobOption> &options, QLatin1StringView name)
 {
@@ -43,11 +31,9 @@ std::optional<QString> valueOf(const QList<JobOption> &options, QLatin1StringVie
 
 bool isTwoSided(const QList<JobOption> &options)
 {
-    const bool byOption =
-        std::any_of(options.cbegin(), options.cend(), [](const JobOption &option) {
-            return isOneOf(option.name, kTwoSidedOptions) &&
-                   isOneOf(option.value, kTwoSidedChoices);
-        });
+    if (isTwoSidedByHand(options))
+        return true;
+    const bool byOption = std::any_of(options.cbegin(), options.cend(), isTwoSidedChoice);
     return byOption || valueOf(options, "sides"_L1).value_or(QString()).startsWith("two-sided"_L1);
 }
 
@@ -56,11 +42,10 @@ bool saysReverse(const char *text)
     return qstricmp(text, "Reverse") == 0 || qstricmp(text, "reverse-order") == 0;
 }
 
-// In the order in which the layout step looks.
-bool isReversed(ppd_file_t *ppd, const QList<JobOption> &options)
+// Whether the last page has to leave the printer first for a stack that is in order. The layout
+// step looks in the same order.
+bool stacksInReverse(ppd_file_t *ppd, const QList<JobOption> &options)
 {
-    if (const auto order = valueOf(options, "OutputOrder"_L1))
-        return saysReverse(order->toLatin1().constData());
     if (const auto bin = valueOf(options, "OutputBin"_L1)) {
         const ppd_attr_t *stack = ppdFindAttr(ppd, "PageStackOrder", bin->toUtf8().constData());
         if (stack && stack->value)
@@ -68,6 +53,15 @@ bool isReversed(ppd_file_t *ppd, const QList<JobOption> &options)
     }
     const ppd_attr_t *usual = ppdFindAttr(ppd, "DefaultOutputOrder", nullptr);
     return usual && usual->value && saysReverse(usual->value);
+}
+
+bool isReversed(ppd_file_t *ppd, const QList<JobOption> &options)
+{
+    if (const auto order = valueOf(options, "OutputOrder"_L1))
+        return saysReverse(order->toLatin1().constData());
+    // What is printed by hand is laid out in the order of reading: in which order its sides then
+    // leave the printer follows from how the sheets are turned over, see HandPasses.
+    return !isTwoSidedByHand(options) && stacksInReverse(ppd, options);
 }
 
 bool isTrue(ppd_file_t *ppd, const char *attribute)
@@ -124,6 +118,11 @@ QByteArray number(double value)
 
 } // namespace
 
+bool stacksFaceUp(ppd_file_t *ppd, const QList<JobOption> &options)
+{
+    return stacksInReverse(ppd, options);
+}
+
 LayoutTraits layoutTraits(ppd_file_t *ppd, const QList<JobOption> &options)
 {
     const Sheet sheet = sheetOf(ppd, options);
@@ -136,6 +135,7 @@ LayoutTraits layoutTraits(ppd_file_t *ppd, const QList<JobOption> &options)
                       possibleMargin(sheet.margins.right(), width),
                       possibleMargin(sheet.margins.bottom(), height)};
     traits.isTwoSided = isTwoSided(options);
+    traits.isByHand = isTwoSidedByHand(options);
     traits.isReversed = isReversed(ppd, options);
     traits.fillsSheets = isTrue(ppd, "cupsEvenDuplex");
     traits.turnsRight = ppd->landscape < 0;

@@ -51,6 +51,7 @@ struct JobSheets
 {
     QList<DocumentSheets> documents{};
     bool isTwoSided = false; ///< was asked for
+    bool isByHand = false;   ///< is two-sided because somebody turns the sheets over
 
     bool operator==(const JobSheets &) const = default;
 };

@@ -90,7 +90,7 @@ void SheetCounter::cancel()
 
 void SheetCounter::begin()
 {
-    m_sofar = {{}, m_request->traits.isTwoSided};
+    m_sofar = {{}, m_request->traits.isTwoSided, m_request->traits.isByHand};
     m_folder = std::make_unique<QTemporaryDir>();
     QFile ppd(m_folder->filePath(u"layout.ppd"_s));
     const QByteArray content = layoutPpd(m_request->traits);

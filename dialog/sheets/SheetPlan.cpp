@@ -15,13 +15,14 @@ namespace {
 
 // The choices of two-sided options that bind at the short edge.
 constexpr QLatin1StringView kShortEdges[] = {kDuplexShortEdge, "ShortEdge"_L1,
-                                             "two-sided-short-edge"_L1};
+                                             "two-sided-short-edge"_L1, kByHandShortEdge};
 constexpr auto kNoCover = "none"_L1;
 
 bool bindsAtShortEdge(const QList<JobOption> &options)
 {
     return std::any_of(options.cbegin(), options.cend(), [](const JobOption &option) {
-        const bool isTwoSided = option.name.endsWith(kDuplexOption) || option.name == "sides"_L1;
+        const bool isTwoSided = option.name.endsWith(kDuplexOption) || option.name == "sides"_L1 ||
+                                option.name == kSidesByHandAttribute;
         return isTwoSided && std::find(std::begin(kShortEdges), std::end(kShortEdges),
                                        option.value) != std::end(kShortEdges);
     });

@@ -192,7 +192,8 @@ QString countText(const JobSheets &sheets, const PageChoice &choice, int copies)
     int pages = 0;
     for (const DocumentSheets &document : sheets.documents)
         pages += document.pages ? chosenPages(*document.pages, choice) : *document.sides;
-    const QString all = sheetsText(qint64(*once) * copies);
+    const QString number = sheetsText(qint64(*once) * copies);
+    const QString all = sheets.isByHand ? Texts::tr("%1, two-sided by hand").arg(number) : number;
     if (copies == 1)
         return Texts::tr("%1 = %2").arg(pagesText(pages), all);
     return Texts::tr("%1 × %2 copies = %3").arg(pagesText(pages)).arg(copies).arg(all);

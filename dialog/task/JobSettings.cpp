@@ -32,13 +32,22 @@ void JobSettings::askForCopies(int copies, By by)
     m_by = by;
 }
 
+int JobSettings::copiesAskedFor() const
+{
+    const auto lock = m_locks.find(kCopiesAttribute);
+    return lock == m_locks.cend() ? m_copies : lock->value.toInt();
+}
+
 int JobSettings::copies() const
 {
-    return m_mostCopies > 0 ? std::min(m_copies, m_mostCopies) : m_copies;
+    const int copies = copiesAskedFor();
+    return m_mostCopies > 0 ? std::min(copies, m_mostCopies) : copies;
 }
 
 QString JobSettings::pageRanges() const
 {
+    if (const auto lock = m_locks.find(kPageRangesAttribute); lock != m_locks.cend())
+        return lock->value;
     if (m_pageRanges)
         return *m_pageRanges;
     const auto asked = std::find_if(m_attributes.cbegin(), m_attributes.cend(), isPageRanges);
@@ -79,7 +88,15 @@ QList<JobOption> JobSettings::attributes() const
         else
             *former = chosen;
     }
-    all.removeIf([](const JobOption &option) { return option.value.isNull(); });
+    for (auto lock = m_locks.cbegin(); lock != m_locks.cend(); ++lock) {
+        if (lock->kind != OptionLock::Kind::Attribute || lock.key() == kCopiesAttribute)
+            continue;
+        all.removeIf([&](const JobOption &option) { return option.name == lock.key(); });
+        all += JobOption{lock.key(), lock->value};
+    }
+    all.removeIf([](const JobOption &option) {
+        return option.value.isNull() || isPageRanges(option);
+    });
     if (const QString ranges = pageRanges(); !ranges.isEmpty())
         all += JobOption{kPageRangesAttribute, ranges};
     return all;
@@ -111,13 +128,14 @@ void JobSettings::takeAttributesOf(const JobSettings &other)
 
 void JobSettings::leavePrinter()
 {
+    m_locks.clear(); // what this printer's users may not choose says nothing of the next one
     // Where there were none, the next printer's options may still name some.
     if (const QString ranges = pageRanges(); !ranges.isEmpty())
         m_pageRanges = ranges;
     m_attributes.clear();
     m_chosen.clear();
     m_mostCopies = 0;
-    if (m_by == By::Queue || m_by == By::UserQueues) {
+    if (m_by == By::Queue || m_by == By::UserQueues || m_by == By::Policy) {
         m_copies = 1;
         m_by = By::Program;
     }

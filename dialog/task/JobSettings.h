@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include "dialog/session/OptionLocks.h"
 #include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
@@ -18,7 +19,7 @@ class JobSettings
 public:
     /// Who asks for something. A later one counts more; startLayers() says where each one's wishes
     /// come from.
-    enum class By { Program, Queue, UserQueues, Options, CommandLine, User };
+    enum class By { Program, Queue, UserQueues, Policy, Options, CommandLine, User };
 
     /// Takes a number of copies, unless somebody who counts more has asked already.
     /// Range: 1 and more.
@@ -26,9 +27,9 @@ public:
     /// The number of copies that this printer makes: what was asked for, or its most.
     int copies() const;
     /// What was asked for, and by whom, whatever the printer makes.
-    int copiesAskedFor() const { return m_copies; }
+    int copiesAskedFor() const;
     By copiesAskedForBy() const { return m_by; }
-    bool asksForTooMany() const { return m_mostCopies > 0 && m_copies > m_mostCopies; }
+    bool asksForTooMany() const { return m_mostCopies > 0 && copiesAskedFor() > m_mostCopies; }
     /// How many copies the printer makes at once; 0: as many as anybody can ask for.
     void setMostCopies(int copies) { m_mostCopies = copies; }
     int mostCopies() const { return m_mostCopies; }
@@ -37,6 +38,12 @@ public:
     QString pageRanges() const;
     void setPageRanges(const QString &ranges);
     bool hasValidPageRanges() const;
+
+    /// Keeps attributes, and the number of copies, at what an administrator has chosen, whatever
+    /// anybody asks for; those of a session, until the printer is left.
+    void setLocks(const OptionLocks &locks) { m_locks = locks; }
+    /// Who keeps an attribute at what it is: a file and a line; null: nobody does.
+    QString lockedBy(const QString &name) const { return m_locks.value(name).by; }
 
     /// Adds job attributes, each in place of a former one of the same name.
     void addAttributes(const QList<JobOption> &attributes);
@@ -70,6 +77,7 @@ private:
     std::optional<QString> m_pageRanges; // as the user left them
     QList<JobOption> m_attributes;
     QList<JobOption> m_chosen; // by the user, in place of those
+    OptionLocks m_locks;       // over all of them
 };
 
 } // namespace corvana

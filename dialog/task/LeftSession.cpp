@@ -61,7 +61,7 @@ QStringList restoreChanges(const LeftSession &left, PpdSession &session)
         for (const OptionChoice &choice : std::as_const(choices)) {
             const QList<Refusal> refusals = session.changeTogether({choice});
             for (const Refusal &refusal : refusals)
-                problems += conflictMessage(refusal, session.ppd());
+                problems += conflictMessage(refusal, session);
         }
     }
     for (auto entry = left.left.entries.cbegin(); entry != left.left.entries.cend(); ++entry) {

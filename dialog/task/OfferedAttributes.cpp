@@ -7,6 +7,8 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/TwoSided.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -33,6 +35,7 @@ struct Offer
 // soon as it is in force.
 constexpr Offer kOffers[] = {
     {kCollateAttribute, Place::BesideCopies},
+    {kSidesByHandAttribute, Place::Front},
     {kPrintColorMode, Place::Front},
     {kNumberUp, Place::Front},
     {"print-scaling"_L1, Place::Front},
@@ -43,6 +46,7 @@ constexpr Offer kOffers[] = {
     {"page-border"_L1, Place::More},
     {kBookletAttribute, Place::More},
     {kRepeatAttribute, Place::More},
+    {kPutBackAttribute, Place::More},
     {"mirror"_L1, Place::More},
     {"job-sheets"_L1, Place::More},
     {"job-hold-until"_L1, Place::More},
@@ -106,6 +110,8 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
         one.hasEffect = settings.copies() > 1;
     if (offer.name == kNumberUpLayout)
         one.hasEffect = !isUsual(settings.attribute(kNumberUp), *jobAttribute(kNumberUp));
+    if (offer.name == kPutBackAttribute)
+        one.hasEffect = isTwoSidedByHand(settings.attributes());
     return one;
 }
 
@@ -118,8 +124,10 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer)
     if (savesPdf(printer) && !isDoneInPdf(name))
         return false;
     const PpdSession &session = *printer.session;
+    if (name == kSidesByHandAttribute || name == kPutBackAttribute)
+        return canTurnByHand(printer);
     if (name == kBookletAttribute)
-        return savesPdf(printer) || choiceForBooklet(printer);
+        return savesPdf(printer) || canTurnByHand(printer) || choiceForBooklet(printer);
     if (name == kPrintColorMode)
         return session.ppd()->color_device && isAttributeAlone(name, u"monochrome"_s, printer);
     return !ownOption(name, session) ||

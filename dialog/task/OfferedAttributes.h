@@ -34,8 +34,8 @@ struct PrinterChoices
 PrinterChoices choicesOfPrinter(const QString &name, const QString &value,
                                 const OpenedPrinter &printer);
 
-/// The choice by which a printer turns the sheets of a booklet over; nothing where it prints on one
-/// side only.
+/// The choice by which a printer turns the sheets of a booklet over; nothing where it turns none
+/// over.
 std::optional<OptionChoice> choiceForBooklet(const OpenedPrinter &printer);
 
 } // namespace corvana

@@ -31,7 +31,7 @@ bool makesUpMonochrome(ppd_file_t *ppd)
 std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
                                            const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error,
-                                           const std::function<void(PpdSession &)> &restore)
+                                           const std::function<void(OpenedPrinter &)> &prepare)
 {
     auto opened = std::make_unique<OpenedPrinter>();
     opened->fetched = fetched;
@@ -40,8 +40,6 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
         return nullptr;
     if (makesUpMonochrome(opened->session->ppd()))
         opened->fetched.defaults.removeAll({u"print-color-mode"_s, u"monochrome"_s});
-    if (restore)
-        restore(*opened->session);
 
     const Printer &printer = fetched.printer;
     PDEPlugIn *plugIn = nullptr;
@@ -59,6 +57,10 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
     if (plugIn) {
         opened->jobValues = plugIn->jobValues();
         opened->pageColors = plugIn->pageColors();
+    }
+    if (prepare)
+        prepare(*opened);
+    if (plugIn) {
         // Entries that are stored already come before the panels, which would overwrite them.
         const QStringList refused = markImplied(*opened->session, opened->jobValues);
         for (const QString &problem : refused)

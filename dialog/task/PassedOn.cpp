@@ -72,6 +72,10 @@ bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer)
     // Nobody but a print server has filters to go past; any other printer has no such option.
     if (printer.fetched.printer.origin != PrinterOrigin::Queue)
         return raw;
+    // Files that are passed on as they are go past everything that is locked. Each such wish is
+    // refused where it is taken.
+    if (printer.session->locks().contains(kRaw.name))
+        return passesFilesOn(printer);
     for (QList<JobOption> &options : sets) {
         if (std::any_of(options.cbegin(), options.cend(), isRaw))
             raw = asksForRaw(options);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,6 +20,9 @@ class QTemporaryDir;
 
 namespace corvana {
 
+class Policy;
+struct PolicyEntry;
+
 /// What is to be printed and how, as it was asked for: documents that were looked into, printers
 /// that were found, options that nobody has checked yet.
 struct PrintRequest
@@ -32,6 +36,8 @@ struct PrintRequest
     bool serverWasNamed = false; ///< on the command line
     QList<JobOption> options;
     QStringList bundleRoots;
+    /// What an administrator has decided; null: nothing.
+    std::shared_ptr<const Policy> policy{};
     QString title;
     bool titleWasNamed = false;  ///< so other documents do not change it
     QString output;              ///< never empty where there is a document
@@ -54,6 +60,16 @@ struct PrintRequest
     /// The page of the dialog's own help, in the user's language; empty when it is not installed.
     QString helpPage;
 };
+
+/// What an administrator has decided; an empty policy where nobody has.
+const Policy &policyOf(const PrintRequest &request);
+
+/// What an entry of a policy says to somebody who wants a printer that it hides, or a file.
+QString notOfferedText(const PolicyEntry &entry, const Printer &printer);
+
+/// Why a printer is not offered by an administrator, in a sentence; empty where it is. Null where
+/// there is no policy that could say so.
+std::function<QString(const Printer &)> whyNotOffered(const PrintRequest &request);
 
 /// The index of the printer that is wanted among those that no server is needed for; -1 when it is
 /// a queue or a URI, or there is none.

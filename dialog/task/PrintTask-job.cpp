@@ -13,6 +13,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
+#include "dialog/session/TwoSided.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
@@ -105,6 +106,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     using Place = TaskRefusal::Place;
     if (!m_face.finishEditing())
         return TaskRefusal{{}, Place::Nowhere, true};
+    if (const QString forbidden = whyNoFile(); printsToFile() && !forbidden.isEmpty())
+        return TaskRefusal{{forbidden}, Place::Output};
     if (printsToFile() && m_output.path.isEmpty() && !m_request.documents.isEmpty())
         return TaskRefusal{{tr("Name the file to print to.")}, Place::Output};
     if (!m_settings.hasValidPageRanges())
@@ -113,6 +116,10 @@ std::optional<TaskRefusal> PrintTask::finish()
                                 .arg(m_settings.pageRanges())},
                            Place::Pages};
     if (const QStringList problems = problemsOfOrder(m_settings.attributes()); !problems.isEmpty())
+        return TaskRefusal{problems};
+    if (const QStringList problems =
+            problemsOfByHand(m_settings.attributes(), *m_opened, printsToFile(), m_face.canAsk());
+        !problems.isEmpty() && !m_request.documents.isEmpty())
         return TaskRefusal{problems};
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
     if (replaces && !m_face.mayOverwrite(m_output.path))
@@ -138,13 +145,16 @@ std::optional<TaskRefusal> PrintTask::finish()
     }
     if (m_phase != Phase::Asking)
         return std::nullopt;
+    // Panels have saved what is theirs alone; a job is not printed with other values than were shown.
+    const QStringList locked = lockedTexts(keepLocks());
     // Before the ticket: the panels restore and save on the way.
     m_run.lines = summaryOfSettings();
-    QStringList problems;
+    QStringList problems = locked;
     const QList<Refusal> refusals = m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         problems += refusalText(refusal, *m_opened->session);
     problems += jobProblems(*m_opened->session, m_opened->jobValues);
+    problems += problemsOfLocks();
     // What is printed is counted first.
     if (m_request.summary && (!problems.isEmpty() || m_request.documents.isEmpty()))
         m_face.writeSummary(m_run.lines);
@@ -235,6 +245,10 @@ std::optional<TaskRefusal> PrintTask::askPanels()
     if (m_run.held && printsToFile())
         return TaskRefusal{{tr("The job would have to wait for these instructions, and a file "
                                "cannot wait. Follow them and print with --on-alert=print.")}};
+    if (m_run.held && isTwoSidedByHand(m_settings.attributes()))
+        return TaskRefusal{{tr("The job would have to wait for these instructions, and two-sided "
+                               "printing by hand cannot. Follow them and print with "
+                               "--on-alert=print.")}};
     if (!allowed)
         return TaskRefusal{
             {tr("The printer's settings hold the job back.")}, TaskRefusal::Place::Nowhere, true};
@@ -244,9 +258,12 @@ std::optional<TaskRefusal> PrintTask::askPanels()
 void PrintTask::startJob(const JobTicket &ticket)
 {
     Q_EMIT unsaid();
+    m_run.hand.reset();
     if (printsToFile()) {
-        m_run.job = std::make_unique<FileJob>(
-            FileJobRequest{printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path});
+        followJob(std::make_unique<FileJob>(FileJobRequest{
+            printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path}));
+    } else if (isTwoSidedByHand(ticket.options) && !passesFilesOn()) {
+        startByHand(ticket);
     } else {
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
         request.documents = printedDocuments();
@@ -260,8 +277,13 @@ void PrintTask::startJob(const JobTicket &ticket)
         request.sentDocuments = memory.sentDocuments;
         const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
         request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
-        m_run.job = std::make_unique<ServerJob>(request);
+        followJob(std::make_unique<ServerJob>(request));
     }
+}
+
+void PrintTask::followJob(std::unique_ptr<Job> job)
+{
+    m_run.job = std::move(job);
     connect(m_run.job.get(), &Job::progressed, this, [this](const JobProgress &progress) {
         if (!m_run.job->isCanceled())
             Q_EMIT progressed(progress);
@@ -273,6 +295,8 @@ void PrintTask::startJob(const JobTicket &ticket)
 
 void PrintTask::cancel()
 {
+    if (m_phase == Phase::Turning)
+        return endBetweenPasses(Phase::Ready);
     if (m_phase != Phase::Printing)
         return;
     if (!m_run.job)
@@ -295,6 +319,8 @@ void PrintTask::interrupt(OnInterrupt job)
 {
     if (m_phase == Phase::Leaving || m_phase == Phase::Ended)
         return;
+    if (m_phase == Phase::Turning)
+        return endBetweenPasses(Phase::Ended);
     if (!m_run.job) {
         stopPreparing();
         return enter(Phase::Ended);
@@ -307,11 +333,16 @@ void PrintTask::interrupt(OnInterrupt job)
     m_run.job->cancel();
 }
 
-void PrintTask::jobFinished(const JobOutcome &outcome)
+void PrintTask::jobFinished(const JobOutcome &ofJob)
 {
     using Kind = JobOutcome::Kind;
     m_run.job->disconnect(this);
     m_run.job.release()->deleteLater();
+    const std::optional<JobOutcome> whole = m_run.hand ? afterPass(ofJob) : std::optional(ofJob);
+    if (!whole)
+        return;
+    m_run.hand.reset();
+    const JobOutcome &outcome = *whole;
     m_run.outcome = outcome;
     Memory &memory = m_memory[idOf(m_chosen.printer)];
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a

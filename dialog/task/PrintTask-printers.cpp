@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "dialog/job/ResultFormat.h"
+#include "dialog/session/LockedValues.h"
 #include "dialog/session/OptionNames.h"
 
 namespace corvana {
@@ -72,7 +73,7 @@ void PrintTask::retry()
 bool PrintTask::isPrinting() const
 {
     return m_phase == Phase::Asking || m_phase == Phase::Printing || m_phase == Phase::Canceling ||
-           m_phase == Phase::Leaving;
+           m_phase == Phase::Turning || m_phase == Phase::Leaving;
 }
 
 // A printer is not taken away while it prints or one of its panels is at work.
@@ -112,13 +113,16 @@ void PrintTask::open(const FetchedPrinter &ready)
     Q_EMIT printerChanged();
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
     QStringList lost;
-    const auto restore = [&](PpdSession &session) {
-        m_baseline.opened = session.snapshot();
+    const auto prepare = [&](OpenedPrinter &opened) {
+        lock(opened);
+        m_baseline.opened = opened.session->snapshot();
         if (memory.session)
-            lost = restoreLeft(*memory.session, ready.ppd->hash, session);
+            lost = restoreLeft(*memory.session, ready.ppd->hash, *opened.session);
+        // What panels had stored was stored before there was a lock, or another one.
+        putBackLockedValues(*opened.session, opened.jobValues);
     };
     m_opened =
-        openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text, restore);
+        openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text, prepare);
     if (!m_opened) {
         m_chosen.problem.brief = m_chosen.problem.text;
         enter(Phase::Missing);
@@ -132,6 +136,7 @@ void PrintTask::open(const FetchedPrinter &ready)
     connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::showColors,
             Qt::QueuedConnection);
     m_chosen.problem = {};
+    m_settings.setLocks(m_opened->session->locks());
     // A face may show the copies before the panels come up, and shows as many as are printed.
     m_settings.setMostCopies(mostCopiesOf(*m_opened));
     proposeOutput();
@@ -194,7 +199,8 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
     LeftSession left{m_baseline.opened, m_opened->session->snapshot(), m_opened->fetched.ppd->hash,
                      attributes};
     const JobSettings::By by = m_settings.copiesAskedForBy();
-    if (by == JobSettings::By::Queue || by == JobSettings::By::UserQueues)
+    if (by == JobSettings::By::Queue || by == JobSettings::By::UserQueues ||
+        by == JobSettings::By::Policy)
         left.copies = m_settings.copiesAskedFor();
     left.chosen = m_settings.chosenAttributes();
     m_memory[idOf(m_chosen.printer)].session = left;

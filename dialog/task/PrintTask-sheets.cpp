@@ -75,7 +75,9 @@ QList<SummaryLine> PrintTask::withSheets(QList<SummaryLine> lines, const JobTick
     for (qsizetype i = 0; i < more.size(); ++i)
         lines.insert(std::min(lines.size(), i + 1), more.at(i));
     const QString reason = sheets ? oneSidedReason(*sheets) : QString();
-    const QString twoSided = optionLine(*m_opened->session, kDuplexOption).title;
+    const QString twoSided = sheets && sheets->isByHand
+                                 ? textOfJobAttribute({kSidesByHandAttribute, {}}).title
+                                 : optionLine(*m_opened->session, kDuplexOption).title;
     for (SummaryLine &line : lines) {
         if (!reason.isEmpty() && line.title == twoSided)
             line.value = tr("%1 (%2)").arg(line.value, reason);

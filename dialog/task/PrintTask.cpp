@@ -25,7 +25,8 @@ namespace corvana {
 PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     : QObject(parent), m_request(std::move(request)), m_face(face),
       m_credentials(CredentialStore::create()),
-      m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots},
+      m_source({m_request.printers, m_request.wantedPrinter, m_request.bundleRoots,
+                whyNotOffered(m_request)},
                ServerContext{m_request.server, m_credentials}),
       m_output{m_request.output, m_request.outputWasNamed, m_request.outputWasNamed,
                m_request.outputWasNamed ? QString() : m_request.output}
@@ -132,7 +133,8 @@ void PrintTask::applyStartOptions()
         m_chosen.unset = started.unset;
         m_chosen.ignored = started.ignored;
     }
-    m_chosen.unset += takeMostCopies();
+    m_chosen.unset += lockedCopies() + takeMostCopies();
+    keepLocks();
 }
 
 // What the queue adds to each job by now, whatever was so when it was left.
@@ -182,6 +184,7 @@ QStringList PrintTask::takeMostCopies()
         return {problem};
     case By::Queue:
     case By::UserQueues:
+    case By::Policy:
         m_chosen.ignored += problem;
         break;
     case By::Program:
@@ -241,10 +244,11 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
     Q_EMIT unsaid();
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
-    if (result.outcome != ChangeResult::Outcome::Conflict &&
-        result.outcome != ChangeResult::Outcome::NotMarked)
+    if (result.outcome == ChangeResult::Outcome::Accepted ||
+        result.outcome == ChangeResult::Outcome::UnknownOption ||
+        result.outcome == ChangeResult::Outcome::UnknownChoice)
         return; // taken; or no choice of this printer, which the session has logged
-    sayRefusal({{keyword, choice}, result.conflicting});
+    sayRefusal({{keyword, choice}, result.conflicting, result.locked});
     showSettings(); // the page shows what the user picked
 }
 
@@ -277,6 +281,10 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         return tr("There is no job attribute of the name %1.").arg(name);
     const std::optional<QString> taken =
         value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
+    if (const QString by = m_settings.lockedBy(name); !by.isNull()) {
+        showSettings(); // the page shows what the user picked
+        return taken == m_settings.attribute(name) ? QString() : lockedText(by);
+    }
     const PrinterChoices own = choicesOfPrinter(name, taken.value_or(value), *m_opened);
     if (!own.choices.isEmpty()) {
         for (const OptionChoice &choice : own.choices)
@@ -297,7 +305,9 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     noteTouched(name);
     const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
     const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
-    if (isBooklet && folding)
+    if (isBooklet && canTurnByHand(*m_opened))
+        m_settings.setAttribute(kSidesByHandAttribute, kByHandShortEdge);
+    else if (isBooklet && folding)
         propose(folding->keyword, folding->choice);
     showSettings();
     return {};
@@ -311,6 +321,7 @@ void PrintTask::settled()
         m_phase == Phase::Asking ? QList<Refusal>() : m_opened->session->takeRefusals();
     for (const Refusal &refusal : refusals)
         sayRefusal(refusal);
+    sayLocked(keepLocks());
     // Showing the settings asks the panels, which save again: only another state is news.
     if (m_opened->session->snapshot() != m_baseline.shown || !refusals.isEmpty())
         showSettings();

@@ -12,6 +12,7 @@
 #include "dialog/session/JobTicket.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
@@ -54,6 +55,7 @@ public:
         Ready,     ///< everything can be set and printed
         Asking,    ///< Print was chosen; panels are asked, and an alert may be open
         Printing,  ///< texts are looked through, sheets are counted, then a job runs
+        Turning,   ///< one half of the sides is printed; somebody puts the sheets back
         Canceling, ///< the job is being taken back; then everything can be set again
         Leaving,   ///< interrupted, or left by its user: the job's answer ends the task
         Ended,     ///< outcome() says with what
@@ -187,6 +189,14 @@ public:
     /// What is typed or moved from now on is another step: a field was left, a slider let go.
     void endStep();
 
+    // What an administrator has decided (PrintTask-policy.cpp)
+
+    /// Who keeps an option, an attribute of the job or the number of copies ("copies") at what it
+    /// is, in a sentence for the place where it is shown; null where nobody does.
+    QString lockedBy(const QString &name) const;
+    /// Why nothing of the printer that is open goes into a file; empty where it may.
+    QString whyNoFile() const;
+
     // The colours of its pages (PrintTask-colors.cpp)
 
     /// How colours come out, as far as a screen can show it: with what the panels show now, while a
@@ -215,7 +225,17 @@ public:
     void leave();
     /// Ends the task from outside, whatever it is doing.
     void interrupt(OnInterrupt job);
-    bool isJobHandedOver() const { return m_run.job && m_run.job->isHandedOver(); }
+    /// Whether the job goes on without this program. One whose sheets have to be put back does not.
+    bool isJobHandedOver() const
+    {
+        return m_run.job && m_run.job->isHandedOver() && !isFirstPass();
+    }
+    /// Whether one half of the sides is printed by now, or is being printed, and the other half is
+    /// not.
+    bool isBetweenPasses() const
+    {
+        return m_phase == Phase::Turning || (m_run.job && isFirstPass());
+    }
     /// Of the job that ended last; Failed without a text before that.
     const JobOutcome &outcome() const { return m_run.outcome; }
     /// Whether the job waits in its queue for instructions to be followed.
@@ -286,6 +306,7 @@ private:
         bool held = false;            // the job waits until its instructions have been followed
         bool textsAreSettled = false; // nothing has to be asked about them any more
         Awaits awaits = Awaits::Nothing;
+        std::optional<HandRun> hand{}; // of a job that is printed on both sides by hand
     };
     using Colors = TaskState::Colors;
     using Looks = TaskState::Looks;
@@ -344,6 +365,13 @@ private:
     void recordStep(const QString &name = {});
     QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
 
+    void lock(OpenedPrinter &opened);
+    QStringList keepLocks();
+    QStringList lockedTexts(const QStringList &keywords) const;
+    QStringList lockedCopies() const;
+    QStringList problemsOfLocks() const;
+    void sayLocked(const QStringList &keywords);
+
     void settingsAffectColors();
     void showColors();
 
@@ -357,6 +385,15 @@ private:
     void awaitTexts();
     void settleTexts();
     void startJob(const JobTicket &ticket);
+    void followJob(std::unique_ptr<Job> job);
+
+    void startByHand(const JobTicket &ticket);
+    void startPass();
+    bool isFirstPass() const;
+    std::optional<JobOutcome> afterPass(const JobOutcome &outcome);
+    QString textOfHalf(const QString &other) const;
+    void askToTurn();
+    void endBetweenPasses(Phase next);
 
     JobTicket ticket() const;
     SheetRequest sheetRequest(const JobTicket &ticket) const;

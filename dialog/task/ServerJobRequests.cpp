@@ -1,6 +1,7 @@
 #include "dialog/task/ServerJobRequests.h"
 
 #include "dialog/driverless/StandardJobOptions.h"
+#include "dialog/session/OptionNames.h"
 
 namespace corvana {
 
@@ -13,11 +14,15 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     job.printer = printer.fetched.printer;
     job.documents = request.documents;
     job.ticket = ticket;
+    // Who puts sheets back stands here; no printer knows them.
+    job.ticket.options.removeIf([](const JobOption &option) {
+        return option.name == kSidesByHandAttribute || option.name == kPutBackAttribute;
+    });
     job.ppd = printer.fetched.ppd;
     job.follow = !request.noWait;
     if (const auto &capabilities = printer.fetched.capabilities) {
-        job.chosenOptions = ticket.options;
-        job.ticket.options = standardJobOptions(ticket.options, *capabilities);
+        job.chosenOptions = job.ticket.options;
+        job.ticket.options = standardJobOptions(job.chosenOptions, *capabilities);
         if (job.printer.origin == PrinterOrigin::Device) {
             job.formats = capabilities->documentFormats;
             job.takenAttributes = capabilities->jobAttributes;

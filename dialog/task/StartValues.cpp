@@ -6,12 +6,14 @@
 #include <QCoreApplication>
 
 #include "dialog/job/PageChoice.h"
+#include "dialog/policy/Policy.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
+#include "dialog/task/ByHand.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -44,6 +46,15 @@ QList<JobOption> usersOptions(const OpenedPrinter &printer, const PrintRequest &
     return readUserQueues().optionsOf(printer.fetched.printer.name);
 }
 
+QList<JobOption> policysDefaults(const OpenedPrinter &printer, const PrintRequest &request)
+{
+    QList<JobOption> options;
+    const QList<PolicyEntry> defaults = policyOf(request).defaultsOf(printer.fetched.printer);
+    for (const PolicyEntry &entry : defaults)
+        options += JobOption{entry.keyword, entry.value};
+    return options;
+}
+
 QList<JobOption> requestedOptions(const OpenedPrinter &, const PrintRequest &request)
 {
     return request.options;
@@ -52,6 +63,7 @@ QList<JobOption> requestedOptions(const OpenedPrinter &, const PrintRequest &req
 constexpr StartLayer kLayers[] = {
     {By::Queue, Taking::AsFarAsItGoes, defaultsOfQueue},
     {By::UserQueues, Taking::AsFarAsItGoes, usersOptions},
+    {By::Policy, Taking::AsFarAsItGoes, policysDefaults},
     {By::Options, Taking::AsAWhole, requestedOptions},
 };
 
@@ -138,6 +150,18 @@ QString ofQueue(const QString &problem, const OpenedPrinter &printer)
     return Texts::tr("Default of the queue “%1”: %2").arg(printer.fetched.printer.name, problem);
 }
 
+// A problem begins with the name of its option. Where somebody has to look for it is said as well.
+QString ofPolicy(const QString &problem, const OpenedPrinter &printer, const PrintRequest &request)
+{
+    const QList<PolicyEntry> defaults = policyOf(request).defaultsOf(printer.fetched.printer);
+    for (const PolicyEntry &entry : defaults) {
+        const QString known = nameInOneCase(entry.keyword, printer.session->ppd());
+        if (problem.startsWith(known + u'=') || problem.startsWith(entry.keyword + u'='))
+            return PolicyProblem{entry.origin, problem}.text();
+    }
+    return Texts::tr("Default of your administrator: %1").arg(problem);
+}
+
 // The server adds these to the job, understood or not. What nobody here understands, or takes, is
 // kept as it is, so that it is seen.
 OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinter &printer)
@@ -153,7 +177,8 @@ OptionOutcome applyDefaultsOfQueue(const QList<JobOption> &options, OpenedPrinte
             outcome.copies = one.copies;
         if (isKnown && one.ok())
             continue;
-        if (isSaidByTheJob(option, printer)) {
+        if (isSaidByTheJob(option, printer) ||
+            printer.session->locks().contains(inOneSpelling(option).name)) {
             for (const QString &problem : one.problems)
                 outcome.problems += ofQueue(problem, printer);
         } else {
@@ -176,6 +201,8 @@ OptionOutcome applyLayer(const StartLayer &layer, const QList<JobOption> &option
         return applyDefaultsOfQueue(options, printer);
     case By::UserQueues:
         return applyUsersOptions(options, printer);
+    case By::Policy:
+        return applyWhatFits(options, printer);
     default:
         return applyOptions(options, *printer.session, printer.jobValues, *printer.panels);
     }
@@ -257,11 +284,14 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
 // say how themselves.
 QList<JobOption> foldingOf(const QList<JobOption> &options, const OpenedPrinter &printer)
 {
-    const bool isSaid = isNamed(options, u"sides"_s) || isNamed(options, kDuplexOption);
-    const std::optional<OptionChoice> folding = choiceForBooklet(printer);
-    if (isSaid || !folding || pageChoiceOf(options).booklet == PageChoice::Booklet::No)
+    const bool isSaid = isNamed(options, u"sides"_s) || isNamed(options, kDuplexOption) ||
+                        isNamed(options, kSidesByHandAttribute);
+    if (isSaid || pageChoiceOf(options).booklet == PageChoice::Booklet::No)
         return {};
-    return {{folding->keyword, folding->choice}};
+    if (canTurnByHand(printer))
+        return {{kSidesByHandAttribute, kByHandShortEdge}};
+    const std::optional<OptionChoice> folding = choiceForBooklet(printer);
+    return folding ? QList{JobOption{folding->keyword, folding->choice}} : QList<JobOption>();
 }
 
 } // namespace
@@ -306,6 +336,9 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
         if (layer.by == By::UserQueues) {
             for (QString &problem : problems)
                 problem.prepend("lpoptions: "_L1);
+        } else if (layer.by == By::Policy) {
+            for (QString &problem : problems)
+                problem = ofPolicy(problem, printer, request);
         }
         settings.addAttributes(taken.attributes);
         if (taken.copies)

@@ -8,6 +8,7 @@
 
 #include "dialog/server/CredentialStore.h"
 #include "dialog/session/PanelHost.h"
+#include "dialog/task/ByHand.h"
 #include "platform/toolkit/Alert.h"
 
 namespace corvana {
@@ -41,7 +42,7 @@ public:
 
     /// Shows the alerts of the panels. Ownership: the face's; lives as long as the task.
     virtual AlertPresenter &alerts() = 0;
-    /// Whether there is anybody who could be asked for a password.
+    /// Whether there is anybody who could be asked for a password, or to put sheets back.
     virtual bool canAsk() const { return true; }
     /// Asks for a user and a password, and calls `answer` once, now or later. Called only where
     /// canAsk().
@@ -52,6 +53,11 @@ public:
     using PasswordAnswer = std::function<void(const std::optional<QString> &)>;
     virtual void askDocumentPassword(const DocumentPasswordQuestion &question,
                                      const PasswordAnswer &answer) = 0;
+    /// Asks to put the sheets back whose first sides are printed, and calls `answer` once, now or
+    /// later, with whether they are there; else the other sides are not printed. Called only where
+    /// canAsk().
+    using TurnAnswer = std::function<void(bool arePutBack)>;
+    virtual void askToTurn(const TurnQuestion &question, const TurnAnswer &answer) = 0;
     /// What the instructions that the panels have just shown mean for the job.
     virtual Instructions instructions() const = 0;
 

@@ -54,7 +54,8 @@ Listed listQueuesOf(const ServerContext &server, const TerminationSignals &termi
     return answer;
 }
 
-void write(const QList<Printer> &printers, const UserQueues &user)
+void write(const QList<Printer> &printers, const UserQueues &user,
+           const std::function<QString(const Printer &)> &refusal)
 {
     // Names and descriptions are a server's or a PPD's: one line for each printer, whatever they
     // say.
@@ -63,6 +64,8 @@ void write(const QList<Printer> &printers, const UserQueues &user)
         out << terminalLine(name) << "\t" << terminalLine(description) << "\n";
     };
     for (const Printer &printer : printers) {
+        if (refusal && !refusal(printer).isEmpty())
+            continue;
         list(printer.name, printer.description);
         for (const QString &instance : user.instancesOf(printer.name))
             list(instance, printer.description);
@@ -74,7 +77,8 @@ void write(const QList<Printer> &printers, const UserQueues &user)
 int listPrinters(const PrintRequest &request)
 {
     const TerminationSignals termination;
-    write(request.printers, {});
+    const auto refusal = whyNotOffered(request);
+    write(request.printers, {}, refusal);
     // Who is asked for a password is whoever reads the terminal.
     ServerContext server{request.server, CredentialStore::create()};
     server.credentials->setQuestioner(
@@ -83,7 +87,7 @@ int listPrinters(const PrintRequest &request)
         server.credentials->giveInAdvance(*request.credentials);
     server.mayAsk = true;
     const Listed listed = listQueuesOf(server, termination);
-    write(listed.queues, readUserQueues());
+    write(listed.queues, readUserQueues(), refusal);
     if (termination.caught())
         return termination.exitStatus();
     if (!listed.problem)

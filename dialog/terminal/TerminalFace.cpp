@@ -40,6 +40,11 @@ void TerminalFace::askDocumentPassword(const DocumentPasswordQuestion &question,
     answer(documentPasswordFromTerminal(question, [this] { return m_termination.caught() != 0; }));
 }
 
+void TerminalFace::askToTurn(const TurnQuestion &question, const TurnAnswer &answer)
+{
+    answer(sheetsArePutBack(question, [this] { return m_termination.caught() != 0; }));
+}
+
 TaskFace::Instructions TerminalFace::instructions() const
 {
     if (!m_presenter || !m_presenter->jobMustWait())

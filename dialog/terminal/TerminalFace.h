@@ -32,6 +32,8 @@ public:
                         const CredentialStore::Answer &answer) override;
     void askDocumentPassword(const DocumentPasswordQuestion &question,
                              const PasswordAnswer &answer) override;
+    /// On the terminal, which waits for Enter.
+    void askToTurn(const TurnQuestion &question, const TurnAnswer &answer) override;
     Instructions instructions() const override;
     /// What -o and --output name was meant.
     bool mayOverwrite(const QString &) override { return true; }

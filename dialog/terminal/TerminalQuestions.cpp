@@ -116,6 +116,28 @@ std::optional<QString> documentPasswordFromTerminal(const DocumentPasswordQuesti
                                             : std::nullopt;
 }
 
+bool sheetsArePutBack(const TurnQuestion &question, const std::function<bool()> &ending)
+{
+    const int terminal = ::open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY);
+    if (terminal < 0)
+        return false;
+    const auto closing = qScopeGuard([&] { ::close(terminal); });
+    QStringList lines{question.done};
+    if (!question.problem.isEmpty())
+        lines += question.problem;
+    for (const QString &step : question.steps)
+        lines += u"  - "_s + step;
+    for (const QString &line : std::as_const(lines))
+        write(terminal, terminalLine(line) + u'\n');
+    // What was typed before the question is no answer to it.
+    ::tcflush(terminal, TCIFLUSH);
+    write(terminal, Texts::tr("Enter prints the other sides, Ctrl+D leaves them unprinted: "));
+    const bool arePutBack = readLine(terminal, ending).has_value();
+    if (!arePutBack)
+        write(terminal, u"\n"_s);
+    return arePutBack;
+}
+
 CredentialStore::Questioner terminalQuestioner(const std::function<bool()> &ending)
 {
     const int terminal = ::open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY);

@@ -15,4 +15,8 @@ CredentialStore::Questioner terminalQuestioner(const std::function<bool()> &endi
 std::optional<QString> documentPasswordFromTerminal(const DocumentPasswordQuestion &question,
                                                     const std::function<bool()> &ending);
 
+/// Says on that terminal what has to be done with sheets whose first sides are printed, and waits
+/// for Enter. False when the question is left with Ctrl+D, and as above.
+bool sheetsArePutBack(const TurnQuestion &question, const std::function<bool()> &ending);
+
 } // namespace corvana

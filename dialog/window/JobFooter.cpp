@@ -135,6 +135,14 @@ void JobFooter::showCanceling()
     m_progress->setRange(0, 0);
 }
 
+void JobFooter::showTurning()
+{
+    m_leave->hide();
+    m_progressText->setText(tr("The first sides are printed."));
+    m_progress->setRange(0, 2);
+    m_progress->setValue(1);
+}
+
 void JobFooter::showClose()
 {
     m_cancel->setText(tr("Close"));

@@ -29,6 +29,8 @@ public:
     /// `canLeave`: whether the job needs this window no more.
     void showProgress(const JobProgress &progress, bool canLeave);
     void showCanceling();
+    /// One half of the sides is printed; the other half waits for somebody.
+    void showTurning();
     /// There is nothing left to cancel: the job is in its queue.
     void showClose();
     /// Whether alerts of the printer's panels were silenced and can be brought back.

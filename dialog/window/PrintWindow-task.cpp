@@ -14,6 +14,7 @@
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/PrinterHeader.h"
 #include "dialog/window/SettingsPages.h"
+#include "dialog/window/TurnSheetsDialog.h"
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "dialog/window/chooser/PrinterStatusLine.h"
 #include "dialog/window/pages/MessageBar.h"
@@ -51,8 +52,8 @@ void PrintWindow::connectTask()
 void PrintWindow::phaseChanged(PrintTask::Phase phase)
 {
     using Phase = PrintTask::Phase;
-    const bool running =
-        phase == Phase::Printing || phase == Phase::Canceling || phase == Phase::Leaving;
+    const bool running = phase == Phase::Printing || phase == Phase::Turning ||
+                         phase == Phase::Canceling || phase == Phase::Leaving;
     m_header->setJobRunning(running);
     // First, so that the focus can go to what shows the progress.
     if (phase == Phase::Printing)
@@ -74,6 +75,9 @@ void PrintWindow::phaseChanged(PrintTask::Phase phase)
         break;
     case Phase::Asking:
     case Phase::Printing:
+        break;
+    case Phase::Turning:
+        m_footer->showTurning();
         break;
     case Phase::Canceling:
         m_footer->showCanceling();
@@ -283,6 +287,38 @@ void PrintWindow::askDocumentPassword(const DocumentPasswordQuestion &question,
         answer(result == QDialog::Accepted ? std::optional(dialog->password()) : std::nullopt);
     });
     dialog->open();
+}
+
+void PrintWindow::askToTurn(const TurnQuestion &question, const TurnAnswer &answer)
+{
+    auto *dialog = new TurnSheetsDialog(
+        question, [this] { return mayLeaveHalf(); }, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this,
+            [answer](int result) { answer(result == QDialog::Accepted); });
+    dialog->open();
+}
+
+// Sheets with one side are nothing that anybody wants to have by accident.
+bool PrintWindow::mayLeaveHalf()
+{
+    if (!m_task->isBetweenPasses())
+        return true;
+    const bool isPrinted = m_task->phase() == PrintTask::Phase::Turning;
+    QMessageBox box(QMessageBox::Question, tr("Two-Sided by Hand"),
+                    isPrinted ? tr("Only the first sides of the sheets are printed. Leave the "
+                                   "other sides unprinted?")
+                              : tr("The first sides of the sheets are being printed. Stop that, "
+                                   "and leave the other sides unprinted?"),
+                    QMessageBox::NoButton, QApplication::activeModalWidget());
+    QPushButton *leave = box.addButton(tr("Leave Unprinted"), QMessageBox::DestructiveRole);
+    QPushButton *back = box.addButton(tr("Go Back"), QMessageBox::RejectRole);
+    box.setDefaultButton(back);
+    box.setEscapeButton(back);
+    makePlain(&box);
+    box.exec();
+    // Nobody has to answer any more once the task went on without the answer.
+    return box.clickedButton() == leave || !m_task->isBetweenPasses();
 }
 
 bool PrintWindow::finishEditing()

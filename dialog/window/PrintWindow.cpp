@@ -292,6 +292,8 @@ void PrintWindow::followList()
 // Closing the window is no order to cancel what is being printed; that is what Cancel is for.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
+    if (!mayLeaveHalf())
+        return event->ignore();
     if (!m_task->isJobHandedOver())
         return QDialog::closeEvent(event);
     m_task->leave();

@@ -97,6 +97,7 @@ private:
     void showRefusal(const TaskRefusal &refusal);
     void jobEnded(const JobOutcome &outcome);
     void ended();
+    bool mayLeaveHalf();
 
     // What the task asks (PrintWindow-task.cpp)
 
@@ -105,6 +106,7 @@ private:
                         const CredentialStore::Answer &answer) override;
     void askDocumentPassword(const DocumentPasswordQuestion &question,
                              const PasswordAnswer &answer) override;
+    void askToTurn(const TurnQuestion &question, const TurnAnswer &answer) override;
     Instructions instructions() const override { return Instructions::Followed; }
     bool finishEditing() override;
     bool userIsBusy() const override;

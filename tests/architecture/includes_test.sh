@@ -27,18 +27,19 @@ dialog/session       dialog/session/ platform/
 dialog/server        dialog/server/ platform/
 dialog/driverless    dialog/driverless/ dialog/session/ platform/
 dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/policy        dialog/policy/ dialog/printers/ dialog/session/ platform/
 dialog/text          dialog/text/ dialog/session/ platform/
 dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
 dialog/preview       dialog/preview/ renderer/protocol/ platform/
 dialog/documents     dialog/documents/ dialog/preview/ dialog/job/ renderer/protocol/ platform/
-dialog/task          dialog/task/ dialog/documents/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
+dialog/task          dialog/task/ dialog/policy/ dialog/documents/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/window        dialog/window/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
 dialog/window/thumbnails dialog/window/thumbnails/ dialog/preview/ dialog/sheets/ platform/
 dialog/window/preview dialog/window/preview/ dialog/window/chooser/ dialog/preview/ dialog/sheets/ platform/
-dialog/terminal      dialog/terminal/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
+dialog/terminal      dialog/terminal/ dialog/policy/ dialog/task/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/app           dialog/ platform/
 '
 

@@ -237,7 +237,8 @@ std::optional<int> GeneralPage::missingHeight() const
 void GeneralPage::addOption(const QString &keyword)
 {
     ppd_option_t *option = ppdOption(m_session.ppd(), keyword);
-    if (!option)
+    // A printer that names one side as its only choice has nothing to choose from.
+    if (!option || (keyword == kDuplexOption && option->num_choices < 2))
         return;
     auto *popUp = new QComboBox(this);
     popUp->setObjectName(keyword);

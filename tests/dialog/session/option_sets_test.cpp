@@ -145,7 +145,7 @@ private Q_SLOTS:
     {
         QCOMPARE(conflictMessage({{u"Media"_s, u"Card"_s},
                                   {{u"Duplex"_s, u"DuplexTumble"_s}, {u"Tray"_s, u"Lower"_s}}},
-                                 m_session->ppd()),
+                                 *m_session),
                  u"Media=Card: this cannot be combined with Duplex=DuplexTumble, Tray=Lower."_s);
     }
 

@@ -26,6 +26,9 @@ public:
     Instructions instructionsAre = Instructions::Followed;
     /// What it answers when a document's password is asked for; then nothing.
     QStringList documentPasswords;
+    /// What it answers when sheets are to be put back; then turnAnswer waits for the test.
+    QList<bool> turnAnswers;
+    TurnAnswer turnAnswer;
     /// What happens while the task asks, such as news from a server; may be empty.
     std::function<void()> meanwhile;
 
@@ -37,7 +40,8 @@ public:
     QStringList asked;   ///< files that may be overwritten or not
     QStringList notes;   ///< on documents
     QList<DocumentPasswordQuestion> passwordQuestions;
-    int passwords = 0; ///< how often one was asked for
+    QList<TurnQuestion> turns; ///< sheets that were to be put back
+    int passwords = 0;         ///< how often one was asked for
     QList<JobOutcome> outcomes;
     QList<QList<SummaryLine>> summaries;
     ScriptedAlertPresenter presenter;
@@ -61,6 +65,14 @@ public:
         passwordQuestions += question;
         answer(documentPasswords.isEmpty() ? std::nullopt
                                            : std::optional(documentPasswords.takeFirst()));
+    }
+    void askToTurn(const TurnQuestion &question, const TurnAnswer &answer) override
+    {
+        turns += question;
+        if (!turnAnswers.isEmpty())
+            answer(turnAnswers.takeFirst());
+        else
+            turnAnswer = answer;
     }
     Instructions instructions() const override { return instructionsAre; }
     bool finishEditing() override { return takesWhatIsTyped; }

@@ -1,0 +1,161 @@
+#include "dialog/policy/PolicyLocks.h"
+
+#include <algorithm>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionRequest.h"
+#include "dialog/session/PpdSession.h"
+#include "dialog/session/RequestedOptions.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = OptionLock::Kind;
+
+// Takes one entry after the other; each is locked before the next one is looked at.
+class Locker
+{
+public:
+    Locker(PpdSession &session, const PDEJobValues *jobValues)
+        : m_session(session), m_jobValues(jobValues)
+    {
+    }
+
+    QList<PolicyProblem> lock(const QList<PolicyEntry> &entries)
+    {
+        // The paper first: what else is possible may depend on it.
+        QList<PolicyEntry> ordered = entries;
+        std::stable_partition(ordered.begin(), ordered.end(), [](const PolicyEntry &entry) {
+            return entry.keyword.compare(kPageSizeOption, Qt::CaseInsensitive) == 0 ||
+                   entry.keyword.compare("media"_L1, Qt::CaseInsensitive) == 0;
+        });
+        for (const PolicyEntry &entry : std::as_const(ordered))
+            take(entry);
+        if (!m_locks.isEmpty()) {
+            OptionLock raw;
+            raw.kind = Kind::Attribute;
+            raw.by = m_locks.constBegin()->by;
+            m_locks.insert(u"raw"_s, raw);
+            apply();
+        }
+        return m_voids;
+    }
+
+private:
+    void take(const PolicyEntry &entry)
+    {
+        const RequestedOptions asked({{entry.keyword, entry.value}}, m_session, m_jobValues);
+        QStringList problems = asked.problems;
+        if (problems.isEmpty())
+            problems = lockChoices(asked.choices, entry);
+        for (const JobOption &value : asked.panelValues)
+            problems += lockPanelValue(value, entry);
+        if (problems.isEmpty()) {
+            for (const JobOption &attribute : asked.attributes)
+                add(attribute.name, {Kind::Attribute, {}, attribute.value, attribute}, entry);
+            if (asked.copies) {
+                const QString copies = QString::number(*asked.copies);
+                add(kCopiesAttribute, {Kind::Attribute, {}, copies, {kCopiesAttribute, copies}},
+                    entry);
+            }
+        }
+        for (const QString &problem : std::as_const(problems))
+            m_voids += PolicyProblem{entry.origin, problem};
+        apply();
+    }
+
+    QStringList lockChoices(const QList<OptionChoice> &choices, const PolicyEntry &entry)
+    {
+        QList<Refusal> refusals = m_session.changeTogether(choices);
+        // What nobody has locked makes room, as it would for a user who insists.
+        if (!refusals.isEmpty() && choices.size() == 1) {
+            QList<OptionChoice> all = m_session.wayOut(choices.constFirst());
+            if (!all.isEmpty())
+                refusals = m_session.changeTogether(all + choices);
+        }
+        QStringList problems;
+        for (const Refusal &refusal : std::as_const(refusals))
+            problems += conflictMessage(refusal, m_session);
+        if (!problems.isEmpty())
+            return problems;
+        for (const OptionChoice &choice : choices)
+            add(choice.keyword,
+                {Kind::Choice, choice.choice, choice.choice, {choice.keyword, choice.choice}},
+                entry);
+        return {};
+    }
+
+    QStringList lockPanelValue(const JobOption &value, const PolicyEntry &entry)
+    {
+        const SessionSnapshot before = m_session.snapshot();
+        const JobValueClaim claim =
+            m_jobValues->takeJobOption(value, m_session.printSettings(), m_session.ppd());
+        const QStringList problems = markImplied(m_session, m_jobValues);
+        if (!problems.isEmpty()) {
+            m_session.restore(before);
+            return problems;
+        }
+        OptionLock lock{Kind::PanelValue, {}, claim.standsFor.value, value};
+        // Such as "Custom" for a time of its own: a panel that marks another choice asks in vain.
+        for (const JobOption &mark :
+             m_jobValues->impliedMarks(m_session.printSettings(), m_session.ppd())) {
+            if (mark.name == value.name)
+                lock.choice = mark.value;
+        }
+        add(value.name, lock, entry);
+        return {};
+    }
+
+    void add(const QString &name, OptionLock lock, const PolicyEntry &entry)
+    {
+        lock.by = entry.origin.text();
+        m_locks.insert(name, lock);
+    }
+
+    void apply()
+    {
+        const PDEJobValues *jobValues = m_jobValues;
+        PpdSession *session = &m_session;
+        const auto companions = [jobValues, session](const OptionChoice &choice) {
+            QList<OptionChoice> others;
+            const QList<JobOption> all =
+                jobValues ? jobValues->companions({choice.keyword, choice.choice},
+                                                  session->printSettings(), session->ppd())
+                          : QList<JobOption>();
+            for (const JobOption &one : all)
+                others += OptionChoice{one.name, one.value};
+            return others;
+        };
+        m_session.setLocks(m_locks, companions);
+    }
+
+    PpdSession &m_session;
+    const PDEJobValues *m_jobValues;
+    OptionLocks m_locks;
+    QList<PolicyProblem> m_voids;
+};
+
+} // namespace
+
+QList<PolicyProblem> lockSettings(const QList<PolicyEntry> &locks, PpdSession &session,
+                                  const PDEJobValues *jobValues)
+{
+    return locks.isEmpty() ? QList<PolicyProblem>() : Locker(session, jobValues).lock(locks);
+}
+
+QList<PolicyProblem> voidDefaults(const QList<PolicyEntry> &defaults, PpdSession &session,
+                                  const PDEJobValues *jobValues)
+{
+    QList<PolicyProblem> voids;
+    for (const PolicyEntry &entry : defaults) {
+        const RequestedOptions asked({{entry.keyword, entry.value}}, session, jobValues);
+        for (const QString &problem : asked.problems)
+            voids += PolicyProblem{entry.origin, problem};
+    }
+    return voids;
+}
+
+} // namespace corvana

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace corvana {
+
+/// Where a policy is, and whose it is.
+struct PolicyPlace
+{
+    QString folder{}; ///< its whole path
+    /// Whether its files may belong to the user who runs this program: they are of a test, or of
+    /// somebody who tries a policy out. Else they are root's.
+    bool mayBeUsers = false;
+
+    bool operator==(const PolicyPlace &) const = default;
+};
+
+/// The folder of the administrator's policy. The environment variable CORVANA_PRINT_POLICY names
+/// another one where the program's own file belongs to the user who runs it, and to nobody else:
+/// whoever owns the program could make it one without a policy just as well. An installed program is
+/// root's, so that of all users only root, who writes the policy anyway, is listened to.
+PolicyPlace policyPlace();
+
+/// The same for a program at that path.
+PolicyPlace policyPlaceOf(const QString &program);
+
+} // namespace corvana
