@@ -9,12 +9,9 @@
 #include "dialog/job/Job.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
-#include "dialog/session/JobTicket.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
-#include "dialog/task/ByHand.h"
 #include "dialog/task/JobSettings.h"
-#include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
@@ -25,13 +22,6 @@
 #include "dialog/task/TaskState.h"
 
 namespace corvana {
-
-/// Why a printer cannot be asked for, whole and in few words.
-struct PrinterProblem
-{
-    QString text{};
-    QString brief{};
-};
 
 /// One thing that is to be printed, from its documents to what became of them: the printer that is
 /// opened for it, its options and copies, the questions before it is printed, and its job. Every
@@ -276,38 +266,9 @@ Q_SIGNALS:
     void jobEnded(const corvana::JobOutcome &outcome);
 
 private:
-    // What a task remembers of a printer while another one is open.
-    struct Memory
-    {
-        std::optional<LeftSession> session;
-        int earlierJob = 0; // that may print yet
-        int earlierDocuments = 0;
-        int sentDocuments = 0; // as jobs of their own
-        std::optional<Base> base{};
-    };
-    struct Chosen
-    {
-        Printer printer;                    // as its server describes it by now
-        bool deliberately = false;          // named or picked, and not for want of a better one
-        bool canBeAnother = false;          // somebody sits there who can choose
-        PrinterProblem problem;             // why it cannot be asked for
-        QStringList unset;                  // what was asked for with it and cannot be set
-        QStringList ignored;                // the same of what nobody has asked for just now
-        std::optional<FetchedPrinter> next; // while the one that is open is in use
-    };
-    struct Run
-    {
-        // What is not known yet of a job that is about to begin.
-        enum class Awaits { Nothing, Texts, Sheets };
-        std::unique_ptr<Job> job;
-        JobTicket ticket;             // of the one whose sheets are counted
-        QList<SummaryLine> lines;     // of its summary
-        JobOutcome outcome;           // of the last one
-        bool held = false;            // the job waits until its instructions have been followed
-        bool textsAreSettled = false; // nothing has to be asked about them any more
-        Awaits awaits = Awaits::Nothing;
-        std::optional<HandRun> hand{}; // of a job that is printed on both sides by hand
-    };
+    using Memory = TaskState::Memory;
+    using Chosen = TaskState::Chosen;
+    using Run = TaskState::Run;
     using Colors = TaskState::Colors;
     using Looks = TaskState::Looks;
     using Baseline = TaskState::Baseline;
@@ -354,6 +315,7 @@ private:
     void noteMissingPages();
     void settled();
     void sayRefusal(const Refusal &refusal);
+    void proposeToPanels(const JobOption &option);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
     void beginHistory();

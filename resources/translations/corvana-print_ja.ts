@@ -2022,6 +2022,10 @@ For the command line: %2</source>
 <context>
     <name>corvana::SettingsPages</name>
     <message>
+        <source>All Options</source>
+        <translation>すべてのオプション</translation>
+    </message>
+    <message>
         <source>Options</source>
         <translation>オプション</translation>
     </message>
@@ -2706,6 +2710,105 @@ For the command line: %2</source>
     <message>
         <source>only where a page is scaled</source>
         <translation>ページが拡大・縮小される場合のみ</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsIndex</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>All Options</source>
+        <translation>すべてのオプション</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindField</name>
+    <message>
+        <source>Find a setting (Ctrl+F)</source>
+        <translation>設定を検索 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>設定を検索</translation>
+    </message>
+    <message>
+        <source>Type a name, then go to a setting with Enter</source>
+        <translation>名前を入力し、Enter で設定に移動します</translation>
+    </message>
+    <message>
+        <source>Type the name of a setting or of a choice.</source>
+        <translation>設定または選択肢の名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>「%1」という設定はありません。短い言葉か、別の言葉で検索してください。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>「%1」という設定はありません。Enter を押すと「%2」を検索します。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindModel</name>
+    <message>
+        <source>%1, on %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, on %3</source>
+        <translation>%1、%2、%3</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindPopup</name>
+    <message>
+        <source>Settings that were found</source>
+        <translation>見つかった設定</translation>
+    </message>
+    <message>
+        <source>1 setting found</source>
+        <translation>1 件の設定が見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 settings found</source>
+        <translation>%1 件の設定が見つかりました</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SettingFinder</name>
+    <message>
+        <source>now %1</source>
+        <translation>現在 %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
+        <translation>「%1」は、ほかの設定が今のままでは変更できません。「%2」にあります。</translation>
     </message>
 </context>
 </TS>

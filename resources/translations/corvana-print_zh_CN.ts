@@ -2022,6 +2022,10 @@ For the command line: %2</source>
 <context>
     <name>corvana::SettingsPages</name>
     <message>
+        <source>All Options</source>
+        <translation>所有选项</translation>
+    </message>
+    <message>
         <source>Options</source>
         <translation>选项</translation>
     </message>
@@ -2706,6 +2710,105 @@ For the command line: %2</source>
     <message>
         <source>only where a page is scaled</source>
         <translation>仅在页面缩放时</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsIndex</name>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>All Options</source>
+        <translation>所有选项</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindField</name>
+    <message>
+        <source>Find a setting (Ctrl+F)</source>
+        <translation>查找设置 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>查找设置</translation>
+    </message>
+    <message>
+        <source>Type a name, then go to a setting with Enter</source>
+        <translation>键入名称，然后按 Enter 转到设置</translation>
+    </message>
+    <message>
+        <source>Type the name of a setting or of a choice.</source>
+        <translation>请键入设置或选项的名称。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>没有名为“%1”的设置。请尝试更短的词或其他说法。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>没有名为“%1”的设置。按 Enter 改为查找“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindModel</name>
+    <message>
+        <source>%1, on %2</source>
+        <translation>%1，位于%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, on %3</source>
+        <translation>%1，%2，位于%3</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindPopup</name>
+    <message>
+        <source>Settings that were found</source>
+        <translation>找到的设置</translation>
+    </message>
+    <message>
+        <source>1 setting found</source>
+        <translation>找到 1 项设置</translation>
+    </message>
+    <message>
+        <source>%1 settings found</source>
+        <translation>找到 %1 项设置</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SettingFinder</name>
+    <message>
+        <source>now %1</source>
+        <translation>当前为%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
+        <translation>在其他设置保持不变时，无法更改“%1”。它位于“%2”。</translation>
     </message>
 </context>
 </TS>
