@@ -291,6 +291,7 @@ void PrintTask::proposeToPanels(const JobOption &option)
         applyOptions({option}, *m_opened->session, m_opened->jobValues, *m_opened->panels);
     if (!outcome.ok())
         say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
+    noteTouched(option.name);
     showSettings();
 }
 

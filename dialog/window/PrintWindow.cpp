@@ -106,6 +106,7 @@ void PrintWindow::buildColumns(SettingsColumn *settings)
     m_message = new MessageBar(settings);
     m_message->setObjectName(u"message"_s);
     m_pages = new SettingsPages(*m_task, settings);
+    presets->setPages(m_pages);
     for (QWidget *part : {static_cast<QWidget *>(m_header), static_cast<QWidget *>(presets),
                           static_cast<QWidget *>(m_message)})
         settings->layout()->addWidget(part);

@@ -73,6 +73,8 @@ void SettingsPages::makeOptions()
     m_optionsTab->layout()->addWidget(m_options);
     m_optionsTab->setFocusProxy(m_options);
     connect(m_options, &OptionsPage::proposed, &m_task, &PrintTask::propose);
+    connect(m_options, &OptionsPage::resetWanted, this, &SettingsPages::reset);
+    m_options->showChanges(changesNow());
     Q_EMIT controlsAdded();
 }
 

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QTabWidget>
 
+#include "dialog/window/pages/ChangeMarks.h"
+
 namespace corvana {
 
 class GeneralPage;
@@ -13,6 +15,7 @@ class PanelPage;
 class PrintTask;
 class SummaryPage;
 struct Setting;
+struct SummaryLine;
 
 /// The pages of a task's settings: General, one for each panel (the options of a printer without
 /// any), Summary; or one that says what is being waited for.
@@ -50,6 +53,11 @@ public:
     };
     /// Goes to the page of a setting, opens what hides it there, and puts the focus on it.
     Shown goTo(const Setting &setting);
+    /// The same for the setting that the task knows by this name; nothing where no page shows it.
+    Shown goTo(const QString &name);
+    /// The settings of the page that is shown that were changed, and taking them back.
+    QStringList changedOnPage() const;
+    void resetPage();
     /// The index of the panel whose page is shown; -1 on a page of the dialog.
     int currentPanel() const;
     /// The page of a panel that is shown; null on a page of the dialog.
@@ -80,7 +88,13 @@ private:
     void addGeneral();
     void showAttributes();
     void enter(int page);
+    ShownChanges changesNow() const;
+    QList<MarkedControl> controlsOfPanels() const;
+    QStringList settingsOfPage() const;
+    void showChanges();
+    void reset(const QString &name);
     void showSummary();
+    void setSummaryLines(const QList<SummaryLine> &lines);
     void showCountedSheets();
 
     PrintTask &m_task;
@@ -89,6 +103,7 @@ private:
     QWidget *m_optionsTab = nullptr;  // that has the list of options, once it was looked at
     OptionsPage *m_options = nullptr; // null until then, and where there is none
     SummaryPage *m_summary = nullptr;
+    ChangeMarks *m_panelMarks;
     bool m_showsPanels = false;
     QString m_former; // the title of the page that was shown when the pages were closed
 };

@@ -75,8 +75,10 @@ void AttributeRows::show(const QList<OfferedAttribute> &offered)
             m_form->labelForField(row)->setEnabled(one.hasEffect);
         }
     }
-    if (added)
+    if (added) {
         orderFocus();
+        Q_EMIT fieldsChanged();
+    }
     sayWhatIsSet();
 }
 
@@ -164,6 +166,14 @@ void AttributeRows::sayWhatIsSet()
         return;
     m_set->setText(text);
     Q_EMIT heightChanged();
+}
+
+QList<MarkedControl> AttributeRows::fields() const
+{
+    QList<MarkedControl> fields;
+    for (AttributeEditor *editor : m_front + m_more)
+        fields += MarkedControl{editor->name(), editor->control(), m_form->labelForField(editor)};
+    return fields;
 }
 
 QWidget *AttributeRows::disclose(const QString &name)

@@ -115,10 +115,27 @@ const OptionsModel::Option *OptionsModel::optionAt(const QModelIndex &index) con
     return &m_groups.at(static_cast<qsizetype>(index.internalId()) - 1).options.at(index.row());
 }
 
-bool OptionsModel::differsFromDefault(const QModelIndex &index) const
+void OptionsModel::showChanges(const ShownChanges &changes)
+{
+    if (m_changes == changes)
+        return;
+    m_changes = changes;
+    for (int g = 0; g < m_groups.size(); ++g) {
+        const QModelIndex group = index(g, Title);
+        Q_EMIT dataChanged(index(0, Title, group), index(rowCount(group) - 1, Choice, group));
+    }
+}
+
+bool OptionsModel::isChanged(const Option &option) const
+{
+    return m_changes ? m_changes->settings.contains(option.keyword)
+                     : m_values.differsFromDefault(option.keyword);
+}
+
+bool OptionsModel::isChanged(const QModelIndex &index) const
 {
     const Option *option = optionAt(index);
-    return option && m_values.differsFromDefault(option->keyword);
+    return option && isChanged(*option);
 }
 
 void OptionsModel::proposeDefault(const QModelIndex &index)
@@ -181,14 +198,14 @@ QVariant OptionsModel::data(const QModelIndex &index, int role) const
                                             : option->at.custom;
     case Qt::FontRole: {
         QFont font;
-        font.setBold(m_values.differsFromDefault(option->keyword));
+        font.setBold(isChanged(*option));
         return font.bold() ? font : QVariant();
     }
     case Qt::ToolTipRole:
-        return plainToolTip(title ? titleToolTip(*option) : defaultText(*option));
+        return plainToolTip(title ? titleToolTip(*option) : formerText(*option));
     case Qt::AccessibleDescriptionRole:
         // A heading is not read to who goes through the rows.
-        return title ? m_groups.at(index.parent().row()).title : defaultText(*option);
+        return title ? m_groups.at(index.parent().row()).title : formerText(*option);
     case KeywordRole:
         return option->keyword;
     case SearchRole:
@@ -231,8 +248,12 @@ QString OptionsModel::titleToolTip(const Option &option) const
         .arg(option.title, u"-o %1=%2"_s.arg(option.keyword, choice));
 }
 
-QString OptionsModel::defaultText(const Option &option) const
+// What a changed option would be otherwise.
+QString OptionsModel::formerText(const Option &option) const
 {
+    if (m_changes)
+        return isChanged(option) ? tr("Changed. %1").arg(m_changes->settings.value(option.keyword))
+                                 : QString();
     const ppd_choice_t *byDefault = ppdChoice(option.option, ppdKeyword(option.option->defchoice));
     return byDefault && m_values.differsFromDefault(option.keyword)
                ? tr("Default: %1").arg(choiceText(*byDefault))

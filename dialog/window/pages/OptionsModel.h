@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QAbstractItemModel>
 #include <QList>
 #include <QSortFilterProxyModel>
@@ -8,6 +10,7 @@
 
 #include "dialog/session/OptionValues.h"
 #include "dialog/window/pages/ListedOptions.h"
+#include "dialog/window/pages/ShownChanges.h"
 #include "platform/printcore/Ppd.h"
 
 namespace corvana {
@@ -40,8 +43,11 @@ public:
     int optionCount() const;
     /// Shows the session's marks.
     void refresh();
-    /// Whether the option of this row differs from the printer's default.
-    bool differsFromDefault(const QModelIndex &index) const;
+    /// Marks the options that were changed; until this was called, those that differ from the
+    /// printer's own defaults.
+    void showChanges(const ShownChanges &changes);
+    /// Whether the option of this row is marked.
+    bool isChanged(const QModelIndex &index) const;
     /// Proposes the printer's default for the option of this row.
     void proposeDefault(const QModelIndex &index);
 
@@ -76,14 +82,16 @@ private:
     };
 
     const Option *optionAt(const QModelIndex &index) const;
+    bool isChanged(const Option &option) const;
     bool readMark(Option &option) const;
     QString searchText(const Group &group, const Option &option) const;
     QString titleToolTip(const Option &option) const;
-    QString defaultText(const Option &option) const;
+    QString formerText(const Option &option) const;
 
     PpdSession &m_session;
     OptionValues m_values;
     QList<Group> m_groups;
+    std::optional<ShownChanges> m_changes;
 };
 
 /// The options that hold all words of a search, each in its group.

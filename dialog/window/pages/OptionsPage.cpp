@@ -94,6 +94,14 @@ void OptionsPage::refresh()
     m_model->refresh();
 }
 
+void OptionsPage::showChanges(const ShownChanges &changes)
+{
+    m_knowsBase = true;
+    m_reset->setText(QString(changes.back).replace(u'&', "&&"_L1));
+    m_model->showChanges(changes);
+    updateReset();
+}
+
 bool OptionsPage::finishEditing()
 {
     if (ChoiceEditor *editor = m_delegate->editor())
@@ -167,12 +175,16 @@ bool OptionsPage::eventFilter(QObject *watched, QEvent *event)
 
 void OptionsPage::updateReset()
 {
-    m_reset->setEnabled(m_model->differsFromDefault(m_filter->mapToSource(m_view->currentIndex())));
+    m_reset->setEnabled(m_model->isChanged(m_filter->mapToSource(m_view->currentIndex())));
 }
 
 void OptionsPage::resetCurrent()
 {
-    m_model->proposeDefault(m_filter->mapToSource(m_view->currentIndex()));
+    const QModelIndex current = m_filter->mapToSource(m_view->currentIndex());
+    if (m_knowsBase)
+        Q_EMIT resetWanted(current.data(OptionsModel::KeywordRole).toString());
+    else
+        m_model->proposeDefault(current);
 }
 
 // `aloud`: a screen reader says it, although the focus stays where the user works.

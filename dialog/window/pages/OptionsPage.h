@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "dialog/window/pages/ListedOptions.h"
+#include "dialog/window/pages/ShownChanges.h"
 
 class QAction;
 class QLabel;
@@ -38,6 +39,8 @@ public:
 
     /// Shows the session's marks.
     void refresh();
+    /// Marks the options that were changed, and offers to take them back to that.
+    void showChanges(const ShownChanges &changes);
     /// Takes what is being edited. False when that is not possible: the page says why, and the
     /// editor keeps it.
     bool finishEditing();
@@ -55,6 +58,8 @@ public:
 Q_SIGNALS:
     /// The user picked a choice, or entered a value (`Custom.…`) that the option allows.
     void proposed(const QString &keyword, const QString &choice);
+    /// The user wants a changed option back. Only where showChanges() said to what.
+    void resetWanted(const QString &keyword);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -74,6 +79,7 @@ private:
     OptionsView *m_view;
     ChoiceDelegate *m_delegate;
     QAction *m_reset;
+    bool m_knowsBase = false; // where a changed option goes back to
     QLabel *m_hint;
 };
 
