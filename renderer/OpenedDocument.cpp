@@ -6,7 +6,6 @@
 #include <limits>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 
 #include <sys/mman.h>
@@ -81,25 +80,53 @@ std::optional<Paper> paperOf(const poppler::page &page)
     return paper;
 }
 
-/// As much of a text as has room, and nothing that would move a cursor. Characters are not cut.
-PageLabel pageLabel(const poppler::byte_array &text, int number)
+/// A character as UTF-8, by hand: Poppler's own way opens files of the system, which nothing may
+/// here.
+std::string utf8(char32_t character)
 {
-    const std::string_view bytes(text.data(), text.size());
-    if (bytes == std::to_string(number))
-        return {};
-    std::size_t size = std::min<std::size_t>(bytes.size(), kLabelRoom);
-    const auto continues = [&](std::size_t at) {
-        return at < bytes.size() && (static_cast<unsigned char>(bytes[at]) & 0xc0) == 0x80;
+    const auto part = [character](int shift) {
+        return static_cast<char>(0x80 | ((character >> shift) & 0x3f));
     };
-    while (size > 0 && continues(size))
-        --size;
+    if (character < 0x80)
+        return {static_cast<char>(character)};
+    if (character < 0x800)
+        return {static_cast<char>(0xc0 | (character >> 6)), part(0)};
+    if (character < 0x10000)
+        return {static_cast<char>(0xe0 | (character >> 12)), part(6), part(0)};
+    return {static_cast<char>(0xf0 | (character >> 18)), part(12), part(6), part(0)};
+}
+
+/// The character that begins there; U+FFFD for half of one.
+char32_t characterAt(const poppler::ustring &text, std::size_t &at)
+{
+    constexpr char32_t kReplacement = 0xfffd;
+    const char32_t unit = text[at++];
+    const bool isHigh = unit >= 0xd800 && unit < 0xdc00;
+    if (!isHigh)
+        return unit >= 0xdc00 && unit < 0xe000 ? kReplacement : unit;
+    const char32_t low = at < text.size() ? text[at] : 0;
+    if (low < 0xdc00 || low >= 0xe000)
+        return kReplacement;
+    ++at;
+    return 0x10000 + ((unit - 0xd800) << 10) + (low - 0xdc00);
+}
+
+/// As many whole characters as have room, and none that would move a cursor.
+PageLabel pageLabel(const poppler::ustring &text, int number)
+{
+    std::string bytes;
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t character = characterAt(text, at);
+        const std::string next = character < 0x20 || character == 0x7f ? "?" : utf8(character);
+        if (bytes.size() + next.size() > kLabelRoom)
+            break;
+        bytes += next;
+    }
     PageLabel label;
-    label.bytes = static_cast<std::uint32_t>(size);
-    std::transform(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size),
-                   label.text.begin(), [](char c) {
-                       const auto byte = static_cast<unsigned char>(c);
-                       return byte < 0x20 || byte == 0x7f ? '?' : c;
-                   });
+    if (bytes == std::to_string(number))
+        return label;
+    label.bytes = static_cast<std::uint32_t>(bytes.size());
+    std::copy(bytes.begin(), bytes.end(), label.text.begin());
     return label;
 }
 
@@ -184,7 +211,7 @@ PageSize OpenedDocument::size(int page) const
 PageLabel OpenedDocument::label(int page) const
 {
     const std::unique_ptr<poppler::page> found(m_document->create_page(page));
-    return found ? pageLabel(found->label().to_utf8(), page + 1) : PageLabel();
+    return found ? pageLabel(found->label(), page + 1) : PageLabel();
 }
 
 Status OpenedDocument::draw(const DrawPage &request, int picture) const

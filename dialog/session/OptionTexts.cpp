@@ -1,5 +1,6 @@
 #include "dialog/session/OptionTexts.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include "dialog/session/CustomValue.h"
@@ -27,6 +28,22 @@ QString allowedChoices(ppd_file_t *ppd, const ppd_option_t *option)
     if (!custom.isEmpty())
         allowed += custom;
     return allowed.join(u", "_s);
+}
+
+QString groupTitle(const ppd_group_t &group)
+{
+    const QString name = ppdKeyword(group.name);
+    const QString title = ppdText(group.text).value_or(name);
+    if (title == "General"_L1)
+        return QCoreApplication::translate("corvana::OptionsModel", "General");
+    if (title == "Installable Options"_L1)
+        return QCoreApplication::translate("corvana::OptionsModel", "Installable Options");
+    return title;
+}
+
+QString choiceText(const ppd_choice_t &choice)
+{
+    return ppdText(choice.text).value_or(ppdKeyword(choice.choice));
 }
 
 } // namespace corvana

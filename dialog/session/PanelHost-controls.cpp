@@ -27,6 +27,20 @@ int PanelHost::panelOf(const QString &keyword)
     return -1;
 }
 
+QString PanelHost::keywordOf(int panel, const QString &title)
+{
+    QStringList keywords;
+    const QList<PanelControl> shown = controls(panel);
+    for (const PanelControl &control : shown) {
+        const ppd_option_t *option = ppdOption(m_session.ppd(), control.keyword);
+        const bool isCalledSo =
+            control.text == title || (option && ppdText(option->text).value_or(QString()) == title);
+        if (isCalledSo && !keywords.contains(control.keyword))
+            keywords += control.keyword;
+    }
+    return keywords.size() == 1 ? keywords.constFirst() : QString();
+}
+
 void PanelHost::disclose(const QString &keyword)
 {
     const int panel = panelOf(keyword);

@@ -201,19 +201,24 @@ void PanelHost::restoreAll()
     deliverPending();
 }
 
+QVariantMap PanelHost::summaryOf(PDEPanel &panel)
+{
+    const Call call(*this, panel);
+    return panel.summaryInfo();
+}
+
 QList<SummaryLine> PanelHost::summary()
 {
     bringUp();
     deliverPending();
     saveVisible();
     QList<SummaryLine> lines;
-    for (const auto &panel : std::as_const(m_panels)) {
-        const Call call(*this, *panel);
-        const QVariantMap summary = panel->summaryInfo();
+    for (int panel = 0; panel < m_panels.size(); ++panel) {
+        const QVariantMap summary = summaryOf(*m_panels.at(panel));
         const QStringList order =
             summary.value(QLatin1StringView(kSummaryDisplayOrder)).toStringList();
         for (const QString &title : order)
-            lines += SummaryLine{title, summary.value(title).toString()};
+            lines += SummaryLine{title, summary.value(title).toString(), keywordOf(panel, title)};
     }
     deliverPending();
     return lines;

@@ -24,8 +24,15 @@ struct SummaryLine
 {
     QString title;
     QString value;
+    /// The option or attribute that it tells of, for whoever looks for its control; null where the
+    /// line tells of none, or of more than one.
+    QString keyword{};
 
-    bool operator==(const SummaryLine &) const = default;
+    /// Whether both say the same.
+    bool operator==(const SummaryLine &other) const
+    {
+        return title == other.title && value == other.value;
+    }
 };
 
 /// Drives the panels of one session through the panel protocol and keeps its promises: a panel is
@@ -73,6 +80,9 @@ public:
     QList<PanelControl> controls(int panel);
     /// The index of the panel that shows a setting; -1 where none does.
     int panelOf(const QString &keyword);
+    /// The setting of a panel that the user reads under this title; null for none, and where
+    /// several settings have it.
+    QString keywordOf(int panel, const QString &title);
     /// Opens what hides the control of a setting in its panel. The panel is the visible one.
     void disclose(const QString &keyword);
 
@@ -136,6 +146,7 @@ private:
     {
         return !m_pending.isEmpty() || m_news.refusal || m_news.paper || m_news.entries;
     }
+    QVariantMap summaryOf(PDEPanel &panel);
     bool leaveVisible();
     void saveVisible();
     void restoreHidden();

@@ -67,11 +67,22 @@ QStringList generalOptionKeywords()
     return {kDuplexOption, kPageSizeOption, kOutputOption, kColorMatchingModeOption};
 }
 
+QList<ppd_option_t *> choosableOptions(const PpdSession &session)
+{
+    QList<ppd_option_t *> options = session.options();
+    const QList<const ppd_option_t *> installed = installedParts(session.ppd());
+    options.removeIf([&](const ppd_option_t *option) {
+        return option->num_choices == 0 || installed.contains(option);
+    });
+    return options;
+}
+
 QList<ppd_option_t *> furtherOptions(const PpdSession &session)
 {
-    QList<ppd_option_t *> options = optionsBesideGeneral(session);
-    const QList<const ppd_option_t *> installed = installedParts(session.ppd());
-    options.removeIf([&](const ppd_option_t *option) { return installed.contains(option); });
+    QList<ppd_option_t *> options = choosableOptions(session);
+    const QStringList general = generalOptionKeywords();
+    options.removeIf(
+        [&](const ppd_option_t *option) { return general.contains(ppdKeyword(option->keyword)); });
     return options;
 }
 
@@ -112,11 +123,11 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword)
     const QString custom = session.customValue(keyword);
     const QString title = ppdText(option->text).value_or(keyword);
     if (isSecretChoice(session.ppd(), keyword, ppdKeyword(choice->choice)))
-        return {title, QString(kHiddenLength, u'•')};
+        return {title, QString(kHiddenLength, u'•'), keyword};
     const QString value = custom.isNull()
                               ? ppdText(choice->text).value_or(ppdKeyword(choice->choice))
                               : customText(session, keyword, custom);
-    return {title, value};
+    return {title, value, keyword};
 }
 
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
@@ -126,7 +137,7 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     // The panels first: they restore and save on the way, which may change a mark.
     const QList<SummaryLine> panelLines = panels.summary();
     QList<SummaryLine> lines{{QCoreApplication::translate("Summary", "Copies"),
-                              copiesText(copies, isCollated(session, attributes))}};
+                              copiesText(copies, isCollated(session, attributes)), u"copies"_s}};
     for (const QString &keyword : generalOptionKeywords()) {
         // Two sides by hand stand among the attributes.
         if (keyword == kDuplexOption && isTwoSidedByHand(attributes))
@@ -144,7 +155,8 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
             text.title,
             remark.isEmpty()
                 ? text.value
-                : QCoreApplication::translate("Summary", "%1 (%2)").arg(text.value, remark)};
+                : QCoreApplication::translate("Summary", "%1 (%2)").arg(text.value, remark),
+            attribute.name};
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.

@@ -12,9 +12,12 @@ namespace corvana {
 /// The options of the PPD that the General page offers, in its order, as far as a printer has them.
 QStringList generalOptionKeywords();
 
-/// The other options of the PPD that have choices, in its order: what a printer without panels is
-/// set with beside the General page. What is built into the printer ("Options Installed", the group
-/// InstallableOptions) is nobody's to choose for a job.
+/// The options of the PPD that have choices and are somebody's to choose for a job, in its order:
+/// what is built into the printer ("Options Installed", the group InstallableOptions) is not.
+QList<ppd_option_t *> choosableOptions(const PpdSession &session);
+
+/// Those of them that the General page does not offer: what a printer without panels is set with
+/// beside that page.
 QList<ppd_option_t *> furtherOptions(const PpdSession &session);
 
 /// The options of what is built into the printer.

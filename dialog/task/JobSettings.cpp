@@ -119,6 +119,13 @@ void JobSettings::setAttribute(const QString &name, const QString &value)
         m_chosen += JobOption{name, value};
 }
 
+void JobSettings::takeAttributesOf(const JobSettings &other)
+{
+    m_pageRanges = pageRanges(); // also those that an attribute of others asks for
+    m_attributes = other.m_attributes;
+    m_chosen = other.m_chosen;
+}
+
 void JobSettings::leavePrinter()
 {
     m_locks.clear(); // what this printer's users may not choose says nothing of the next one

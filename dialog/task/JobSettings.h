@@ -71,6 +71,10 @@ public:
     /// Takes choices of the user's back that were kept with their printer.
     void restoreChosenAttributes(const QList<JobOption> &chosen) { m_chosen = chosen; }
 
+    /// Takes the attributes of other settings, whoever asked for them, in place of these. Copies and
+    /// pages stay.
+    void takeAttributesOf(const JobSettings &other);
+
     /// The printer is left: what was asked for only by its own options stays behind.
     void leavePrinter();
 

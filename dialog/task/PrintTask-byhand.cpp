@@ -144,7 +144,7 @@ void PrintTask::endBetweenPasses(Phase next)
     m_run.outcome = m_run.hand->first;
     m_run.outcome.kind = JobOutcome::Kind::Canceled;
     m_run.outcome.text =
-        problem.isEmpty() ? textOfHalf({}) : m_run.hand->question.done + u' ' + problem;
+        problem.isEmpty() ? textOfHalf({}) : tr("%1 %2").arg(m_run.hand->question.done, problem);
     m_run.hand.reset();
     enter(next);
     Q_EMIT jobEnded(m_run.outcome);

@@ -49,6 +49,16 @@ void PrintTask::documentsLookedAt()
     askForPasswords();
 }
 
+// What of a document comes out otherwise than it was meant; empty where nothing does.
+QString PrintTask::damageOf(const Document &document) const
+{
+    const DocumentState state = m_looks.documents.stateOf(document);
+    if (!state.isDamaged)
+        return {};
+    const QString loss = documentLoss(document.title, state);
+    return loss.isEmpty() ? documentNote(document.title, state, PrintsTo::File) : loss;
+}
+
 // Once for each of them.
 void PrintTask::sayOfDocuments()
 {
@@ -56,6 +66,7 @@ void PrintTask::sayOfDocuments()
     QStringList notes;
     QStringList warnings;
     QStringList details;
+    QString damaged;
     for (const Document &document : std::as_const(m_request.documents)) {
         const DocumentState state = m_looks.documents.stateOf(document);
         const QString note = documentNote(document.title, state, to);
@@ -65,6 +76,8 @@ void PrintTask::sayOfDocuments()
             continue;
         m_looks.told += document.path + text;
         (note.isEmpty() ? warnings : notes) += text;
+        if (damaged.isEmpty() && !damageOf(document).isEmpty())
+            damaged = document.path;
         if (const QString detail = detailsOf(document, state); !detail.isEmpty())
             details += detail;
     }
@@ -76,6 +89,11 @@ void PrintTask::sayOfDocuments()
     message.kind = warnings.isEmpty() ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem;
     message.text = (warnings + notes).join(u'\n');
     message.details = details.join(u'\n');
+    if (!damaged.isEmpty()) {
+        message.offer = tr("Show Its First Sheet");
+        message.staysWithoutPrinter = true;
+        message.take = [this, damaged] { Q_EMIT sheetWanted(damaged); };
+    }
     Q_EMIT said(message);
 }
 

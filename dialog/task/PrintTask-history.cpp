@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionRequest.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/TaskPresets.h"
 #include "platform/pde/PDEPanel.h"
@@ -119,6 +120,64 @@ void PrintTask::redo()
         recordStep();
     if (canRedo())
         goTo(m_baseline.history.redo());
+}
+
+QString PrintTask::backText() const
+{
+    return tr("Back to %1").arg(m_baseline.base.name);
+}
+
+QString PrintTask::baseText(const QString &name) const
+{
+    if (!m_opened)
+        return {};
+    return valueText(name, valuesOf(m_baseline.base.settings, *m_opened).value(name), *m_opened);
+}
+
+void PrintTask::resetSettings(const QStringList &names)
+{
+    if (m_phase != Phase::Ready || names.isEmpty())
+        return;
+    recordStep();
+    Q_EMIT unsaid();
+    const QMap<QString, QString> base = valuesOf(m_baseline.base.settings, *m_opened);
+    QList<JobOption> options;
+    for (const QString &name : names) {
+        if (ppdOption(m_opened->session->ppd(), name) && base.contains(name))
+            options += JobOption{name, base.value(name)};
+        else
+            m_settings.setAttribute(name, base.value(name));
+    }
+    const OptionOutcome outcome =
+        applyOptions(options, *m_opened->session, m_opened->jobValues, *m_opened->panels);
+    m_baseline.touched = names;
+    showSettings();
+    recordStep(names.size() == 1 ? settingTitle(names.constFirst(), *m_opened) : tr("Reset"));
+    if (!outcome.ok())
+        say(TaskMessage::Kind::Problem,
+            tr("This cannot go back:\n%1").arg(outcome.problems.join(u'\n')));
+}
+
+// The very state of the base, with what is stored in it and not in force.
+void PrintTask::resetAll()
+{
+    if (m_phase != Phase::Ready)
+        return;
+    if (m_baseline.base.settings.ppdHash != m_opened->fetched.ppd->hash)
+        return resetSettings(changedSettings());
+    recordStep();
+    Q_EMIT unsaid();
+    restoreSettings(stateOfBase());
+    recordStep(tr("Reset"));
+}
+
+// With the copies and pages of now, which no base has.
+TaskSettings PrintTask::stateOfBase() const
+{
+    TaskSettings state = m_baseline.base.settings;
+    state.job = m_settings;
+    state.job.takeAttributesOf(m_baseline.base.settings.job);
+    return state;
 }
 
 void PrintTask::goTo(const TaskSettings &state)

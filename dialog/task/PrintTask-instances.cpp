@@ -19,13 +19,17 @@ void PrintTask::sayOfInstance(const InstanceDraft &draft)
     Q_EMIT noted(tr("Other programs print with these settings to “%1”.").arg(draft.name));
 }
 
-// For somebody who waits for the end of the program, and for nothing else.
-std::optional<TaskRefusal> PrintTask::saveInstance()
+std::optional<TaskRefusal> PrintTask::saveInstance(const QString &settings)
 {
-    const InstanceDraft draft = instanceDraft(m_request.instance, KnownInstances::read(), true);
+    if (m_request.instance.isEmpty())
+        return std::nullopt;
+    // A preset has nothing of what sets up the device; what was asked for just now has.
+    const bool withDevice = settings.isEmpty();
+    const InstanceDraft draft =
+        instanceDraft(m_request.instance, KnownInstances::read(), withDevice);
     QString problem = draft.problem;
     if (problem.isEmpty())
-        problem = writeInstance(draft, m_request.instance);
+        problem = writeInstance(draft, withDevice ? m_request.instance : settings);
     if (!problem.isEmpty())
         return TaskRefusal{{problem}};
     sayOfInstance(draft);

@@ -132,6 +132,9 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
     preview.plan = planSheets(
         sheets, sheetArrangement(job.options, layoutTraits(m_opened->session->ppd(), job.options),
                                  printsCovers));
+    preview.marks = sheetMarks(preview.plan, sheets, choice);
+    for (int i = 0; i < m_request.documents.size(); ++i)
+        markDocument(preview.marks, preview.plan, i, damageOf(m_request.documents.at(i)));
     bool anything = false;
     for (const DocumentSheets &document : sheets.documents) {
         anything = anything || document.laidOut;

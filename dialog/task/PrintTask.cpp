@@ -8,6 +8,7 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/OptionValues.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/AttributeEffects.h"
@@ -259,6 +260,8 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
 {
     bringUp();
     Q_EMIT unsaid();
+    if (isValueOfPanels({keyword, choice}, *m_opened->session, m_opened->jobValues))
+        return proposeToPanels({keyword, choice});
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
     if (result.outcome == ChangeResult::Outcome::Accepted ||
@@ -279,6 +282,17 @@ void PrintTask::setPageRanges(const QString &ranges)
 {
     m_settings.setPageRanges(ranges);
     noteTouched(kPageRangesAttribute);
+}
+
+// A value that the panels keep themselves: the mark of the PPD would be nothing that they print.
+void PrintTask::proposeToPanels(const JobOption &option)
+{
+    const OptionOutcome outcome =
+        applyOptions({option}, *m_opened->session, m_opened->jobValues, *m_opened->panels);
+    if (!outcome.ok())
+        say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
+    noteTouched(option.name);
+    showSettings();
 }
 
 QList<OfferedAttribute> PrintTask::attributes() const

@@ -5,41 +5,26 @@
 
 #include <QHash>
 #include <QObject>
-#include <QTimer>
 
-#include "dialog/documents/DocumentChecks.h"
 #include "dialog/job/Job.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
-#include "dialog/session/JobTicket.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
-#include "dialog/task/ByHand.h"
 #include "dialog/task/InstanceDraft.h"
-#include "dialog/task/JobColors.h"
 #include "dialog/task/JobSettings.h"
-#include "dialog/task/LeftSession.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
-#include "dialog/task/SettingsHistory.h"
 #include "dialog/task/SheetPreview.h"
 #include "dialog/task/TaskFace.h"
 #include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
+#include "dialog/task/TaskState.h"
 
 namespace corvana {
 
 class TaskPresets;
-class TextCheck;
-struct KeptSettings;
-
-/// Why a printer cannot be asked for, whole and in few words.
-struct PrinterProblem
-{
-    QString text{};
-    QString brief{};
-};
 
 /// One thing that is to be printed, from its documents to what became of them: the printer that is
 /// opened for it, its options and copies, the questions before it is printed, and its job. Every
@@ -144,6 +129,9 @@ public:
     /// What the settings would be as an instance of the queue, under a name that is made from this
     /// one (PrintTask-instances.cpp). Whoever wants it writes it with writeInstance(), which waits.
     InstanceDraft instanceDraft(const QString &name, const KnownInstances &known, bool withDevice);
+    /// Writes the instance that the request names, for somebody who waits for nothing else.
+    /// `settings`: the preset that it is of; empty for none.
+    std::optional<TaskRefusal> saveInstance(const QString &settings = {});
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
@@ -189,6 +177,14 @@ public:
     /// Takes back the last thing that the user did, with all that came of it.
     void undo();
     void redo();
+    /// "Back to Printer Defaults".
+    QString backText() const;
+    /// What base() has for a setting, as a user reads it; null for nothing.
+    QString baseText(const QString &name) const;
+    /// Brings settings, of those that changedSettings() names, or all of them, back to base(). What
+    /// cannot be had together with the others is said.
+    void resetSettings(const QStringList &names);
+    void resetAll();
     /// What is typed or moved from now on is another step: a field was left, a slider let go.
     void endStep();
 
@@ -267,6 +263,8 @@ Q_SIGNALS:
     /// More is known of the sheets than before: the summary and sheetPreview() say other things.
     void sheetsCounted();
     void said(const corvana::TaskMessage &message);
+    /// The user wants to see the first sheet of the document of that path.
+    void sheetWanted(const QString &path);
     /// What the task had said last is settled.
     void unsaid();
     /// Something that nobody has asked for just now, in lpoptions or among the defaults of the
@@ -284,78 +282,13 @@ Q_SIGNALS:
 private:
     friend class TaskPresets;
 
-    // What a task remembers of a printer while another one is open.
-    struct Memory
-    {
-        std::optional<LeftSession> session;
-        std::shared_ptr<const KeptSettings> kept; // of the same
-        int earlierJob = 0;                       // that may print yet
-        int earlierDocuments = 0;
-        int sentDocuments = 0; // as jobs of their own
-        std::optional<Base> base{};
-    };
-    struct Chosen
-    {
-        Printer printer;                    // as its server describes it by now
-        bool deliberately = false;          // named or picked, and not for want of a better one
-        bool canBeAnother = false;          // somebody sits there who can choose
-        PrinterProblem problem;             // why it cannot be asked for
-        QStringList unset;                  // what was asked for with it and cannot be set
-        QStringList ignored;                // the same of what nobody has asked for just now
-        std::optional<FetchedPrinter> next; // while the one that is open is in use
-    };
-    struct Run
-    {
-        // What is not known yet of a job that is about to begin.
-        enum class Awaits { Nothing, Texts, Sheets };
-        std::unique_ptr<Job> job;
-        JobTicket ticket;             // of the one whose sheets are counted
-        QList<SummaryLine> lines;     // of its summary
-        JobOutcome outcome;           // of the last one
-        bool held = false;            // the job waits until its instructions have been followed
-        bool textsAreSettled = false; // nothing has to be asked about them any more
-        Awaits awaits = Awaits::Nothing;
-        std::optional<HandRun> hand{}; // of a job that is printed on both sides by hand
-    };
-    struct Output
-    {
-        QString path;
-        bool toFile = false;
-        bool confirmed = false;
-        QString proposed{}; // and nobody's choice
-    };
-    struct Colors
-    {
-        PageColors shown;
-        QString text;
-        bool isBlack = false; // the job is black and white, whatever the panels say
-    };
-    // What is found out about the documents before they are printed.
-    struct Looks
-    {
-        DocumentChecks documents;
-        std::unique_ptr<TextCheck> texts;
-        QTimer textPatience;  // until a job is made without the finding of the texts
-        QStringList declined; // documents whose password somebody does not want to give
-        QStringList told;     // what was said of them
-        bool isAsking = false;
-        bool areReady = false;   // of the job that is made; else they are waited for
-        bool printsThen = false; // Print was chosen meanwhile
-        bool countsThen = false;
-    };
-    struct Baseline
-    {
-        SessionSnapshot opened;  // before any option was taken
-        SessionSnapshot started; // before the user changed anything
-        SessionSnapshot shown;   // as the face was told last
-        QList<JobOption> chosen; // attributes, before the user changed anything
-        Base base;
-        SettingsHistory history;
-        QStringList touched; // since the last step, in this order
-        std::unique_ptr<TaskPresets> presets;
-        std::optional<TaskSettings> coming; // to be restored when their printer is open
-        bool willRecord = false;
-    };
+    using Memory = TaskState::Memory;
+    using Chosen = TaskState::Chosen;
+    using Run = TaskState::Run;
+    using Colors = TaskState::Colors;
+    using Looks = TaskState::Looks;
+    using Baseline = TaskState::Baseline;
+    using Output = TaskState::Output;
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
@@ -365,6 +298,7 @@ private:
     void documentsLookedAt();
     void sayOfDocuments();
     QString problemOf(const Document &document) const;
+    QString damageOf(const Document &document) const;
     TaskRefusal documentProblems() const;
     bool mayAskForPassword() const;
     bool documentsAreReady();
@@ -398,11 +332,13 @@ private:
     void noteMissingPages();
     void settled();
     void sayRefusal(const Refusal &refusal);
+    void proposeToPanels(const JobOption &option);
     void takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed);
 
     void beginHistory();
     void takeComingSettings();
     void goTo(const TaskSettings &state);
+    TaskSettings stateOfBase() const;
     void noteTouched(const QString &name);
     void recordSoon();
     void recordStep(const QString &name = {});
@@ -421,7 +357,6 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
-    std::optional<TaskRefusal> saveInstance();
     void sayOfInstance(const InstanceDraft &draft);
     QString unknownDocument() const;
     void lookForMissingCharacters();

@@ -1,8 +1,12 @@
 #include "dialog/task/SettingsValues.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 
+#include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -71,9 +75,30 @@ QString settingTitle(const QString &name, const OpenedPrinter &printer)
 {
     if (name == kCopiesSetting)
         return QCoreApplication::translate("Summary", "Copies");
+    if (const int panel = printer.panels->panelOf(name); panel >= 0) {
+        const QList<PanelControl> controls = printer.panels->controls(panel);
+        const auto isIt = [&](const PanelControl &control) { return control.keyword == name; };
+        const auto found = std::find_if(controls.cbegin(), controls.cend(), isIt);
+        if (found != controls.cend() && !found->text.isEmpty())
+            return found->text;
+    }
     if (const QString title = optionLine(*printer.session, name).title; !title.isEmpty())
         return title;
     return jobAttribute(name) ? textOfJobAttribute({name, {}}).title : QString();
+}
+
+QString valueText(const QString &name, const QString &value, const OpenedPrinter &printer)
+{
+    ppd_file_t *ppd = printer.session->ppd();
+    if (value.isNull() || name == kCopiesSetting)
+        return value;
+    if (value.startsWith(kCustomPrefix) && ppdOption(ppd, name))
+        return customText(*printer.session, name, value);
+    if (isSecretChoice(ppd, name, value))
+        return QString(kHiddenLength, u'•');
+    if (const ppd_choice_t *choice = ppdChoice(ppdOption(ppd, name), value))
+        return ppdText(choice->text).value_or(value);
+    return jobAttribute(name) ? textOfJobAttribute({name, value}).value : value;
 }
 
 } // namespace corvana

@@ -27,7 +27,10 @@ QStringList differences(const TaskSettings &one, const TaskSettings &other,
 bool isTypedOrMoved(const QString &name, const TaskSettings &settings,
                     const OpenedPrinter &printer);
 
-/// What a user calls a setting; null where only its panel could say it.
+/// What a user calls a setting, as the page says that has it; null where nobody has a name for it.
 QString settingTitle(const QString &name, const OpenedPrinter &printer);
+
+/// What a user reads for a value that valuesOf() has; null for none. A password is dots.
+QString valueText(const QString &name, const QString &value, const OpenedPrinter &printer);
 
 } // namespace corvana

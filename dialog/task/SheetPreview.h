@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "dialog/sheets/LaidOutDocument.h"
+#include "dialog/sheets/SheetMarks.h"
 #include "dialog/sheets/SheetPlan.h"
 
 namespace corvana {
@@ -27,6 +28,8 @@ struct SheetPreview
     bool canBePrinted = true;
     QString counts{}; ///< "9 pages × 2 copies = 6 sheets"; of this job, so empty while Counting
     SheetPlan plan{};
+    /// What there is to be said of single sheets.
+    QList<SheetMark> marks{};
     /// One for each document of the job; null for one that is not shown.
     QList<std::shared_ptr<const LaidOutDocument>> files{};
 };

@@ -1,6 +1,7 @@
 #include "dialog/task/TaskPresets.h"
 
 #include "dialog/printers/OwnInstances.h"
+#include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueuesFile.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/task/PrintTask.h"
@@ -10,38 +11,93 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-bool TaskPresets::canHaveInstances() const
+namespace {
+
+// "NAME" of the queue that a printer is; empty for one that is none.
+QString queueOf(const Printer &printer)
 {
-    return m_task.opened() && m_task.opened()->fetched.printer.origin == PrinterOrigin::Queue &&
-           !m_task.passesFilesOn();
+    return printer.origin == PrinterOrigin::Queue ? queueOfInstance(printer.name) : QString();
 }
 
-InstanceDraft TaskPresets::instanceNamed(const QString &name) const
+} // namespace
+
+InstanceDraft TaskPresets::elsewhere(const QString &name) const
 {
-    return m_task.opened() ? nameInstance(name, *m_task.opened(), m_task.settings(), m_known)
-                           : InstanceDraft();
+    return m_task.opened()
+               ? nameInstance(name, *m_task.opened(), m_task.settings(), KnownInstances::read())
+               : InstanceDraft();
 }
 
-QString TaskPresets::instanceOf(const QString &name) const
+QString TaskPresets::selectedElsewhere() const
 {
-    return canHaveInstances() && !name.isEmpty()
-               ? m_known.ofSettings(name, queueOfInstance(m_task.printer().name))
+    const QString queue = queueOf(m_task.printer());
+    return m_kept.selected.kind == SelectedPreset::Kind::Preset && !queue.isEmpty()
+               ? KnownInstances::read().ofSettings(m_kept.selected.name, queue)
                : QString();
+}
+
+// Whoever keeps a preset under the name of an earlier one means its instance, too.
+InstanceDraft TaskPresets::draftElsewhere(const PresetToSave &wanted) const
+{
+    const KnownInstances known = KnownInstances::read();
+    const QString there = known.ofSettings(wanted.name, queueOf(m_task.printer()));
+    return m_task.instanceDraft(there.isEmpty() ? wanted.name : there.section(u'/', 1), known,
+                                wanted.device);
+}
+
+void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)
+{
+    m_written = draft;
+    m_shelf.writeInstance(draft.name, [draft, name] { return writeInstance(draft, name); });
+}
+
+// Nobody else prints any more with a preset that is gone.
+void TaskPresets::removeElsewhere()
+{
+    const QString instance = selectedElsewhere();
+    if (!instance.isEmpty())
+        m_shelf.writeInstance(instance, [instance] {
+            const QString problem = UserQueuesFile().removeInstance(instance);
+            return problem.isEmpty() ? OwnInstances().forget(instance) : problem;
+        });
+}
+
+// Other programs know it by the name that it had: scripts would not find another one.
+void TaskPresets::renameElsewhere(const QString &name)
+{
+    const QString instance = selectedElsewhere();
+    if (!instance.isEmpty())
+        m_shelf.writeInstance(instance,
+                              [instance, name] { return OwnInstances().note(instance, name); });
+}
+
+// An instance was written, or is no more.
+void TaskPresets::elsewhereEnded(const QString &instance, const QString &problem)
+{
+    const std::optional<InstanceDraft> written = std::exchange(m_written, std::nullopt);
+    if (!problem.isEmpty())
+        m_task.say(TaskMessage::Kind::Problem,
+                   tr("“%1” in other programs: %2").arg(instance, problem));
+    else if (written)
+        m_task.sayOfInstance(*written);
+    if (written)
+        Q_EMIT ended(problem);
 }
 
 QStringList TaskPresets::instancesOfOthers() const
 {
-    if (!canHaveInstances())
+    const QString queue = queueOf(m_task.printer());
+    if (queue.isEmpty())
         return {};
-    QStringList names = m_known.queues.instancesOf(queueOfInstance(m_task.printer().name));
-    names.removeIf([this](const QString &name) { return m_known.own.contains(name); });
+    const KnownInstances known = KnownInstances::read();
+    QStringList names = known.queues.instancesOf(queue);
+    names.removeIf([&](const QString &name) { return known.own.contains(name); });
     return names;
 }
 
 void TaskPresets::useInstance(const QString &name)
 {
-    lookForInstances();
-    const QList<JobOption> options = m_known.queues.optionsOf(name);
+    const QList<JobOption> options = KnownInstances::read().queues.optionsOf(name);
     if (options.isEmpty())
         return m_task.say(TaskMessage::Kind::Problem,
                           tr("“%1” is not there any more, or has no settings.").arg(name));
@@ -60,62 +116,6 @@ QStringList TaskPresets::takeInstance(const QList<JobOption> &options)
     for (const JobOption &attribute : outcome.attributes)
         m_task.settings().setAttribute(attribute.name, attribute.value);
     return outcome.problems;
-}
-
-// The preset is kept. Other programs get it beside the GUI thread, since they may be writing the
-// same file.
-void TaskPresets::keepInstance(const Saving &saving)
-{
-    const InstanceDraft draft = saving.instance;
-    const QString settings = saving.selected.name;
-    m_work.run([this, draft, settings]() -> PresetWork::Then {
-        const QString problem = writeInstance(draft, settings);
-        // Called only while this object lives.
-        return [this, draft, problem] {
-            if (problem.isEmpty())
-                m_task.sayOfInstance(draft);
-            else
-                m_task.say(
-                    TaskMessage::Kind::Problem,
-                    tr("The preset is kept, but other programs do not have it: %1").arg(problem));
-            Q_EMIT ended(problem);
-        };
-    });
-}
-
-// Nobody else prints any more with a preset that is gone.
-void TaskPresets::removeInstance(const QString &name)
-{
-    lookForInstances();
-    const QString instance = instanceOf(name);
-    if (instance.isNull())
-        return;
-    m_work.run([this, instance]() -> PresetWork::Then {
-        QString problem = UserQueuesFile().removeInstance(instance);
-        if (problem.isEmpty())
-            problem = OwnInstances().forget(instance);
-        return [this, instance, problem] {
-            if (!problem.isEmpty())
-                m_task.say(TaskMessage::Kind::Problem,
-                           tr("Other programs still have “%1”: %2").arg(instance, problem));
-        };
-    });
-}
-
-// Other programs know it by the name that it had: scripts would not find another one.
-void TaskPresets::renameInstance(const QString &name, const QString &newName)
-{
-    lookForInstances();
-    const QString instance = instanceOf(name);
-    if (instance.isNull())
-        return;
-    m_work.run([this, instance, newName]() -> PresetWork::Then {
-        const QString problem = OwnInstances().note(instance, newName);
-        return [this, problem] {
-            if (!problem.isEmpty())
-                m_task.say(TaskMessage::Kind::Problem, problem);
-        };
-    });
 }
 
 } // namespace corvana

@@ -197,17 +197,9 @@ void TaskPresets::save(const PresetToSave &wanted)
         preset.model.clear();
         preset.content = changes;
     }
-    InstanceDraft instance;
-    if (!wanted.instance.isEmpty()) {
-        lookForInstances();
-        instance = m_task.instanceDraft(wanted.instance, m_known, wanted.device);
-    }
-    if (!instance.problem.isEmpty()) {
-        m_task.say(TaskMessage::Kind::Problem, instance.problem);
-        Q_EMIT ended(instance.problem);
-        return;
-    }
-    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), instance};
+    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), {}};
+    if (wanted.elsewhere)
+        m_saving->elsewhere = draftElsewhere(wanted);
     m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
 }
 
@@ -215,11 +207,9 @@ void TaskPresets::update()
 {
     const SelectedPreset selected = m_kept.selected;
     const std::optional<StoredPreset> found = listing().find(selected.name);
-    if (selected.kind != Kind::Preset)
-        return;
-    lookForInstances();
-    save({selected.name, found && found->preset.model.isEmpty(), selected.device, true,
-          instanceOf(selected.name).section(u'/', 1)});
+    if (selected.kind == Kind::Preset)
+        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true,
+              !selectedElsewhere().isEmpty()});
 }
 
 void TaskPresets::rename(const QString &name)
@@ -232,8 +222,10 @@ void TaskPresets::rename(const QString &name)
 void TaskPresets::remove()
 {
     const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
-    if (m_kept.selected.kind == Kind::Preset && found && found->isOwn)
-        m_shelf.remove(found->preset);
+    if (m_kept.selected.kind != Kind::Preset || !found || !found->isOwn)
+        return;
+    removeElsewhere();
+    m_shelf.remove(found->preset);
 }
 
 void TaskPresets::listed()
@@ -252,6 +244,8 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
 {
     using Change = PresetShelf::Change;
     const bool isReady = m_task.phase() == Phase::Ready;
+    if (change == Change::Instance)
+        return elsewhereEnded(name, problem);
     const std::optional<Saving> saving =
         change == Change::Saved ? std::exchange(m_saving, std::nullopt) : std::nullopt;
     if (!problem.isEmpty()) {
@@ -263,16 +257,18 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
     } else if (saving && isReady) {
         m_kept.selected = saving->selected;
         m_task.setBase({saving->settings, selectedName()});
-        if (!saving->instance.name.isEmpty()) {
+        if (saving->elsewhere && saving->elsewhere->problem.isEmpty()) {
+            writeElsewhere(*saving->elsewhere, saving->selected.name);
             Q_EMIT changed();
-            return keepInstance(*saving);
+            return; // ended with that
         }
+        if (saving->elsewhere)
+            m_task.say(TaskMessage::Kind::Problem, saving->elsewhere->problem);
     } else if (change == Change::Renamed && isReady) {
-        renameInstance(m_kept.selected.name, name);
+        renameElsewhere(name);
         m_kept.selected.name = name;
         m_task.setBase({m_task.base().settings, selectedName()});
     } else if (change == Change::Removed && m_kept.selected.name == name && isReady) {
-        removeInstance(name);
         m_kept.selected = {};
         m_task.setBase({m_task.base().settings, selectedName()});
     }

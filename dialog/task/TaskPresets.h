@@ -5,7 +5,6 @@
 #include <QObject>
 
 #include "dialog/presets/PresetShelf.h"
-#include "dialog/presets/PresetWork.h"
 #include "dialog/task/InstanceDraft.h"
 #include "dialog/task/TaskSettings.h"
 
@@ -48,9 +47,8 @@ struct PresetToSave
     bool forAllPrinters = false; ///< else for those of the model that is open
     bool device = false;         ///< with what sets up the device as well
     bool replaces = false;       ///< a preset of that name may be there
-    /// The name under which other programs are to have them as well, as an instance of the queue
-    /// that is open; empty: they do not.
-    QString instance{};
+    /// Also as an instance of the queue, by which other programs print with it.
+    bool elsewhere = false;
 };
 
 /// The settings of one task that come from before and are kept for later: presets, the defaults of
@@ -81,18 +79,14 @@ public:
     /// The options that set up the device, by their texts; empty where this printer has none.
     QString deviceSettings() const;
 
-    // Presets in other programs (TaskPresets-instances.cpp)
+    // In other programs (TaskPresets-instances.cpp)
 
-    /// Looks for the instances that are there.
-    void lookForInstances() { m_known = KnownInstances::read(); }
-    /// Whether the printer that is open has instances.
-    bool canHaveInstances() const;
-    /// What a preset of that name would be called there, or why it cannot be there.
-    InstanceDraft instanceNamed(const QString &name) const;
-    /// As what other programs have the preset of that name on the printer that is open
-    /// ("lobby/reports"); null when they have not.
-    QString instanceOf(const QString &name) const;
-
+    /// What a preset of this name would be called by other programs; with a problem where they
+    /// cannot have it.
+    InstanceDraft elsewhere(const QString &name) const;
+    /// The instance that this program has made of the preset that is selected; empty where there is
+    /// none of this printer.
+    QString selectedElsewhere() const;
     /// The instances of the queue that is open which others have made, by their whole names.
     QStringList instancesOfOthers() const;
 
@@ -142,7 +136,7 @@ private:
     {
         SelectedPreset selected;
         TaskSettings settings;
-        InstanceDraft instance{};
+        std::optional<InstanceDraft> elsewhere{};
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
@@ -151,19 +145,20 @@ private:
     void say(const QStringList &missing, const QStringList &details);
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
+    InstanceDraft draftElsewhere(const PresetToSave &wanted) const;
+    void writeElsewhere(const InstanceDraft &draft, const QString &name);
+    void removeElsewhere();
+    void renameElsewhere(const QString &name);
+    void elsewhereEnded(const QString &instance, const QString &problem);
     QStringList namesOf(const PresetContent &content) const;
-    void keepInstance(const Saving &saving);
-    void removeInstance(const QString &name);
-    void renameInstance(const QString &name, const QString &newName);
 
     PrintTask &m_task;
     PresetShelf m_shelf;
     KeptSettings m_kept;
     PresetContent m_ofJob; // that is printed
     std::optional<Saving> m_saving;
-    QStringList m_told; // files that were spoken of
-    KnownInstances m_known;
-    PresetWork m_work; // on instances
+    std::optional<InstanceDraft> m_written; // for other programs, just now
+    QStringList m_told;                     // files that were spoken of
 };
 
 } // namespace corvana

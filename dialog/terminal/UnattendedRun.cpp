@@ -166,13 +166,15 @@ private:
         if (name.isEmpty())
             m_task.print();
         else
-            m_task.presets().save({name, false, false, true, m_task.request().instance});
+            m_task.presets().save({name, false, false, true});
     }
 
     void presetEnded(const QString &problem)
     {
         if (!problem.isEmpty())
             return end({problem});
+        if (const auto refusal = m_task.saveInstance(m_task.request().presetToSave))
+            return end(refusal->problems);
         if (!m_task.request().quiet)
             QTextStream(stdout) << Texts::tr("The preset “%1” is kept.")
                                        .arg(terminalLine(m_task.request().presetToSave))

@@ -8,6 +8,7 @@
 #include "dialog/job/JobProgress.h"
 #include "dialog/window/ElidedToolButton.h"
 #include "dialog/window/chooser/ElidedLabel.h"
+#include "dialog/window/find/FindField.h"
 #include "platform/toolkit/PlainText.h"
 
 namespace corvana {
@@ -37,6 +38,7 @@ JobFooter::JobFooter(QWidget *parent) : QWidget(parent)
     progress->addWidget(m_progress);
     auto *row = new QHBoxLayout;
     row->addWidget(m_help);
+    row->addWidget(m_finder);
     row->addWidget(m_silenced);
     row->addStretch();
     row->addWidget(m_leave); // next to the stretch, so that its place is no gap
@@ -68,6 +70,7 @@ void JobFooter::buildButtons()
     m_help->setObjectName(u"helpButton"_s);
     m_help->setAutoDefault(false);
     m_help->setShortcut(QKeySequence::HelpContents);
+    m_finder = new FindField(this);
     m_silenced = new ElidedToolButton(this);
     m_silenced->setObjectName(u"silencedAlerts"_s);
     m_silenced->setText(tr("Show Silenced Messages Again"));
@@ -160,7 +163,8 @@ void JobFooter::focusPrint()
 
 QList<QWidget *> JobFooter::buttons() const
 {
-    return {m_help, m_silenced, m_leave, m_cancel, m_print};
+    return QList<QWidget *>{m_help} + m_finder->focusOrder() +
+           QList<QWidget *>{m_silenced, m_leave, m_cancel, m_print};
 }
 
 } // namespace corvana

@@ -10,6 +10,7 @@ namespace corvana {
 
 class ElidedLabel;
 class ElidedToolButton;
+class FindField;
 struct JobProgress;
 
 /// The lowest part of the print window: how far the job is, and the buttons. It knows no rule: it
@@ -37,7 +38,9 @@ public:
     void showSilencedAlerts(bool silenced);
     /// Puts the focus on Print, which takes what is being typed elsewhere.
     void focusPrint();
-    /// Its buttons in the order in which Tab reaches them.
+    /// Where a setting is searched for.
+    FindField *finder() const { return m_finder; }
+    /// Its field and its buttons in the order in which Tab reaches them.
     QList<QWidget *> buttons() const;
 
 Q_SIGNALS:
@@ -52,6 +55,7 @@ private:
     void buildButtons();
 
     QPushButton *m_help = nullptr;
+    FindField *m_finder = nullptr;
     ElidedToolButton *m_silenced = nullptr;
     QPushButton *m_leave = nullptr; // lets a job go on without the window
     QPushButton *m_print = nullptr;

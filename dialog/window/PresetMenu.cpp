@@ -34,7 +34,6 @@ PresetMenu::PresetMenu(TaskPresets &presets, QWidget *parent) : QMenu(parent), m
     setObjectName(u"presetMenu"_s);
     connect(this, &QMenu::aboutToShow, this, [this] {
         m_presets.look(); // other windows keep some as well
-        m_presets.lookForInstances();
         fill();
     });
     connect(&m_presets, &TaskPresets::changed, this, [this] {

@@ -2,11 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/ElidedToolButton.h"
 #include "dialog/window/PresetMenu.h"
+#include "dialog/window/SettingsPages.h"
 #include "dialog/window/chooser/PrinterIcon.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -17,12 +19,14 @@ using namespace Qt::StringLiterals;
 PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task(task)
 {
     buildPreset();
+    buildReset();
     buildButtons();
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_label);
     row->addWidget(m_preset);
     row->addStretch(1);
+    row->addWidget(m_reset);
     row->addWidget(m_undo);
     row->addWidget(m_redo);
     connect(&m_task, &PrintTask::historyChanged, this, &PresetRow::refresh);
@@ -53,6 +57,38 @@ void PresetRow::refreshPreset()
     m_preset->setEnabled(m_task.phase() == PrintTask::Phase::Ready);
 }
 
+void PresetRow::setPages(SettingsPages *pages)
+{
+    m_pages = pages;
+}
+
+void PresetRow::buildReset()
+{
+    m_reset = new QToolButton(this);
+    m_reset->setObjectName(u"reset"_s);
+    m_reset->setText(tr("Reset"));
+    m_reset->setAutoRaise(true);
+    m_reset->setPopupMode(QToolButton::InstantPopup);
+    auto *menu = new QMenu(m_reset);
+    m_resetPage = menu->addAction({});
+    m_resetPage->setObjectName(u"resetPage"_s);
+    m_resetAll = menu->addAction({});
+    m_resetAll->setObjectName(u"resetAll"_s);
+    m_reset->setMenu(menu);
+    connect(menu, &QMenu::aboutToShow, this, &PresetRow::refreshReset);
+    connect(m_resetPage, &QAction::triggered, this, [this] { m_pages->resetPage(); });
+    connect(m_resetAll, &QAction::triggered, &m_task, &PrintTask::resetAll);
+}
+
+void PresetRow::refreshReset()
+{
+    const QString back = m_task.backText().replace(u'&', "&&"_L1);
+    m_resetPage->setText(tr("This Page: %1").arg(back));
+    m_resetAll->setText(tr("Everything: %1").arg(back));
+    m_resetPage->setEnabled(m_pages && !m_pages->changedOnPage().isEmpty());
+    m_resetAll->setEnabled(!m_task.changedSettings().isEmpty());
+}
+
 void PresetRow::buildButtons()
 {
     m_undo = new ElidedToolButton(this);
@@ -73,6 +109,7 @@ void PresetRow::buildButtons()
 void PresetRow::refresh()
 {
     refreshPreset();
+    m_reset->setEnabled(m_task.phase() == PrintTask::Phase::Ready);
     const QString undo = m_task.undoText();
     m_undo->setText(QString(undo).replace(u'&', "&&"_L1));
     m_undo->setToolTip(plainToolTip(tr("%1 (Ctrl+Z)").arg(undo)));

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QAction;
 class QLabel;
 class QToolButton;
 
@@ -9,6 +10,7 @@ namespace corvana {
 
 class ElidedToolButton;
 class PrintTask;
+class SettingsPages;
 
 /// The row below the printer: what the settings are called, and the way back from the last thing
 /// that was done to them.
@@ -21,15 +23,24 @@ class PresetRow : public QWidget
 public:
     explicit PresetRow(PrintTask &task, QWidget *parent = nullptr);
 
+    /// Offers to take back what was changed on the page that is shown. Borrows the pages.
+    void setPages(SettingsPages *pages);
+
 private:
     void buildPreset();
     void buildButtons();
     void refreshPreset();
+    void buildReset();
+    void refreshReset();
     void refresh();
 
     PrintTask &m_task;
+    SettingsPages *m_pages = nullptr;
     QLabel *m_label = nullptr;
     ElidedToolButton *m_preset = nullptr;
+    QToolButton *m_reset = nullptr;
+    QAction *m_resetPage = nullptr;
+    QAction *m_resetAll = nullptr;
     ElidedToolButton *m_undo = nullptr;
     QToolButton *m_redo = nullptr;
 };

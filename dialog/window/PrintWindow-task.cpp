@@ -204,6 +204,8 @@ void PrintWindow::showMessage(const TaskMessage &message)
         m_message->showMessage(kind, message.text);
     else
         m_message->showMessage(kind, message.text, message.offer, message.take);
+    if (message.staysWithoutPrinter)
+        m_message->keepOffer();
     m_message->addDetails(message.details);
 }
 
@@ -304,13 +306,14 @@ bool PrintWindow::mayLeaveHalf()
 {
     if (!m_task->isBetweenPasses())
         return true;
+    QWidget *modal = QApplication::activeModalWidget();
     const bool isPrinted = m_task->phase() == PrintTask::Phase::Turning;
     QMessageBox box(QMessageBox::Question, tr("Two-Sided by Hand"),
                     isPrinted ? tr("Only the first sides of the sheets are printed. Leave the "
                                    "other sides unprinted?")
                               : tr("The first sides of the sheets are being printed. Stop that, "
                                    "and leave the other sides unprinted?"),
-                    QMessageBox::NoButton, QApplication::activeModalWidget());
+                    QMessageBox::NoButton, modal ? modal : this);
     QPushButton *leave = box.addButton(tr("Leave Unprinted"), QMessageBox::DestructiveRole);
     QPushButton *back = box.addButton(tr("Go Back"), QMessageBox::RejectRole);
     box.setDefaultButton(back);

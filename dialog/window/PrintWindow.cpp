@@ -20,12 +20,14 @@
 #include "dialog/window/PresetRow.h"
 #include "dialog/window/PreviewFolding.h"
 #include "dialog/window/PrinterHeader.h"
+#include "dialog/window/SettingFinder.h"
 #include "dialog/window/SettingsColumn.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/SilencedAlerts.h"
 #include "dialog/window/TaskPreview.h"
 #include "dialog/window/UndoKeys.h"
 #include "dialog/window/WindowParts.h"
+#include "dialog/window/find/FindField.h"
 #include "dialog/window/pages/MessageBar.h"
 #include "dialog/window/preview/DocumentArea.h"
 #include "dialog/window/preview/PreviewPane.h"
@@ -104,6 +106,7 @@ void PrintWindow::buildColumns(SettingsColumn *settings)
     m_message = new MessageBar(settings);
     m_message->setObjectName(u"message"_s);
     m_pages = new SettingsPages(*m_task, settings);
+    presets->setPages(m_pages);
     for (QWidget *part : {static_cast<QWidget *>(m_header), static_cast<QWidget *>(presets),
                           static_cast<QWidget *>(m_message)})
         settings->layout()->addWidget(part);
@@ -125,6 +128,10 @@ void PrintWindow::connectParts()
     connect(m_preview, &PreviewPane::foldPressed, this,
             [this](bool fold) { m_folding->fold(fold); });
     m_taskPreview = new TaskPreview(*m_task, *m_preview, this);
+    new SettingFinder(*m_task, *m_footer->finder(), *m_pages, *m_message, this);
+    connect(m_taskPreview, &TaskPreview::markPressed, this, [this](const QString &text) {
+        m_message->showMessage(MessageBar::Kind::Information, text);
+    });
     connect(m_pages, &SettingsPages::jobEdited, m_taskPreview, &TaskPreview::update);
     connect(m_header, &PrinterHeader::picked, this, [this](const Printer &printer) {
         // Picked again: nothing that was set so far is lost.
@@ -138,6 +145,7 @@ void PrintWindow::connectParts()
     connect(m_header, &PrinterHeader::outputChanged, m_task.get(), &PrintTask::setOutput);
     connect(m_pages, &SettingsPages::entered, this, &PrintWindow::followPage);
     connect(m_pages, &SettingsPages::heightChanged, this, &PrintWindow::followPage);
+    connect(m_pages, &SettingsPages::controlsAdded, this, &PrintWindow::orderFocus);
     connect(m_pages, &SettingsPages::retryPressed, m_task.get(), &PrintTask::retry);
     connect(m_footer, &JobFooter::helpPressed, this, &PrintWindow::showHelp);
     connect(m_footer, &JobFooter::printPressed, this, &PrintWindow::accept);
@@ -256,6 +264,7 @@ void PrintWindow::takeIconsFromTheme()
 {
     setWindowIcon(QIcon::fromTheme(u"document-print"_s));
     m_header->takeIconsFromTheme();
+    m_footer->finder()->takeIconFromTheme();
 }
 
 void PrintWindow::followPage()

@@ -15,7 +15,7 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-SavePresetDialog::SavePresetDialog(TaskPresets &presets, bool rename, QWidget *parent)
+SavePresetDialog::SavePresetDialog(const TaskPresets &presets, bool rename, QWidget *parent)
     : QDialog(parent), m_presets(presets), m_renames(rename), m_name(new QLineEdit(this))
 {
     setWindowTitle(rename ? tr("Rename Preset") : tr("Save Preset"));
@@ -26,10 +26,8 @@ SavePresetDialog::SavePresetDialog(TaskPresets &presets, bool rename, QWidget *p
     auto *form = new QFormLayout;
     form->addRow(tr("&Name:"), m_name);
     layout->addLayout(form);
-    if (!rename) {
+    if (!rename)
         addRange();
-        addInstance();
-    }
     m_remark = plainLabel({}, this);
     m_remark->setObjectName(u"presetRemark"_s);
     m_remark->setWordWrap(true);
@@ -62,6 +60,11 @@ void SavePresetDialog::addRange()
     connect(m_forAll, &QRadioButton::toggled, this, &SavePresetDialog::check);
     box->addWidget(m_forModel);
     box->addWidget(m_forAll);
+    m_elsewhere = new QCheckBox(tr("Also in &other programs"), this);
+    m_elsewhere->setObjectName(u"presetElsewhere"_s);
+    m_elsewhere->setChecked(!m_presets.selectedElsewhere().isEmpty());
+    connect(m_elsewhere, &QCheckBox::toggled, this, &SavePresetDialog::check);
+    box->addWidget(m_elsewhere);
     const QString device = m_presets.deviceSettings();
     if (device.isEmpty())
         return;
@@ -72,38 +75,21 @@ void SavePresetDialog::addRange()
     box->addWidget(m_device);
 }
 
-void SavePresetDialog::addInstance()
-{
-    if (!m_presets.canHaveInstances())
-        return;
-    m_presets.lookForInstances();
-    m_instance = new QCheckBox(this);
-    m_instance->setObjectName(u"presetInstance"_s);
-    m_instance->setChecked(!m_presets.instanceOf(m_presets.selected().name).isEmpty());
-    connect(m_instance, &QCheckBox::toggled, this, &SavePresetDialog::check);
-    layout()->addWidget(m_instance);
-}
-
 PresetToSave SavePresetDialog::preset() const
 {
     const bool forAll = m_forAll && m_forAll->isChecked();
-    const QString name = presetName(m_name->text());
-    const bool isElsewhere = m_instance && m_instance->isChecked();
-    return {name, forAll, m_device && m_device->isChecked(), m_replaces,
-            isElsewhere ? name : QString()};
+    return {presetName(m_name->text()), forAll, m_device && m_device->isChecked(), m_replaces,
+            m_elsewhere && m_elsewhere->isChecked()};
 }
 
-// Names what other programs would print to. Answers why they cannot, where they are to.
-QString SavePresetDialog::checkInstance()
+// By which name other programs will have it, or why they cannot.
+QString SavePresetDialog::remarkOnInstance()
 {
-    if (!m_instance)
+    if (!m_elsewhere || !m_elsewhere->isChecked() || m_name->text().isEmpty())
         return {};
-    const QString name = presetName(m_name->text());
-    const InstanceDraft draft = name.isEmpty() ? InstanceDraft() : m_presets.instanceNamed(name);
-    m_instance->setText(draft.name.isEmpty()
-                            ? tr("Also in &other programs")
-                            : tr("Also in &other programs, as “%1”").arg(presetLabel(draft.name)));
-    return m_instance->isChecked() ? draft.problem : QString();
+    const InstanceDraft draft = m_presets.elsewhere(preset().name);
+    return draft.problem.isEmpty() ? tr("Other programs list it as “%1”.").arg(draft.name)
+                                   : draft.problem;
 }
 
 // Says what pressing the button will do, before it is pressed.
@@ -119,12 +105,11 @@ void SavePresetDialog::check()
         remark = m_renames    ? tr("There is a preset of this name already.")
                  : m_replaces ? tr("There is a preset of this name already. It will be replaced.")
                               : tr("There is another preset of this name, which stays.");
-    const QString elsewhere = checkInstance();
-    if (!elsewhere.isEmpty())
-        remark = elsewhere;
+    if (const QString instance = remarkOnInstance(); !instance.isEmpty())
+        remark = remark.isEmpty() ? instance : remark + u'\n' + instance;
     m_remark->setText(remark);
     m_save->setText(m_renames ? tr("Rename") : m_replaces ? tr("Replace") : tr("Save"));
-    m_save->setEnabled(canBe && elsewhere.isEmpty());
+    m_save->setEnabled(canBe);
 }
 
 } // namespace corvana

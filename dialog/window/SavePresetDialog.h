@@ -21,23 +21,22 @@ class SavePresetDialog : public QDialog
     Q_OBJECT
 
 public:
-    SavePresetDialog(TaskPresets &presets, bool rename, QWidget *parent = nullptr);
+    SavePresetDialog(const TaskPresets &presets, bool rename, QWidget *parent = nullptr);
 
     PresetToSave preset() const;
 
 private:
     void addRange();
-    void addInstance();
-    QString checkInstance();
     void check();
+    QString remarkOnInstance();
 
-    TaskPresets &m_presets;
+    const TaskPresets &m_presets;
     const bool m_renames;
     QLineEdit *m_name;
     QRadioButton *m_forModel = nullptr;
     QRadioButton *m_forAll = nullptr;
     QCheckBox *m_device = nullptr;
-    QCheckBox *m_instance = nullptr; // null: the printer has none
+    QCheckBox *m_elsewhere = nullptr;
     QLabel *m_remark = nullptr;
     QPushButton *m_save = nullptr;
     bool m_replaces = false; // as the button says

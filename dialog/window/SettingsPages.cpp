@@ -21,12 +21,15 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-SettingsPages::SettingsPages(PrintTask &task, QWidget *parent) : QTabWidget(parent), m_task(task)
+SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
+    : QTabWidget(parent), m_task(task), m_panelMarks(new ChangeMarks(this))
 {
     setObjectName(u"pages"_s);
     setDocumentMode(false);
     connect(this, &QTabWidget::currentChanged, this, &SettingsPages::enter);
     connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
+    connect(&m_task, &PrintTask::historyChanged, this, &SettingsPages::showChanges);
+    connect(m_panelMarks, &ChangeMarks::resetWanted, this, &SettingsPages::reset);
 }
 
 void SettingsPages::open()
@@ -52,10 +55,14 @@ void SettingsPages::addPages()
     }
     if (m_panelPages.isEmpty() && OptionsPage::hasOptions(*printer.session)) {
         m_options = new OptionsPage(*printer.session);
+        m_optionsTab = m_options;
         addTab(m_options, tr("Options"));
         connect(m_options, &OptionsPage::proposed, &m_task, &PrintTask::propose);
+        connect(m_options, &OptionsPage::resetWanted, this, &SettingsPages::reset);
     }
     m_summary = new SummaryPage;
+    connect(m_summary, &SummaryPage::settingWanted, this,
+            [this](const QString &name) { goTo(name); });
     addTab(m_summary, tr("Summary"));
     m_general->setFocus();
 }
@@ -82,6 +89,7 @@ void SettingsPages::addGeneral()
             });
     connect(m_general, &GeneralPage::choosePagesPressed, this,
             [this] { choosePages(m_task, window()); });
+    connect(m_general, &GeneralPage::resetWanted, this, &SettingsPages::reset);
     connect(m_general, &GeneralPage::heightChanged, this, &SettingsPages::heightChanged);
     m_general->setCanChoosePages(!m_task.documents().isEmpty());
     showAttributes();
@@ -97,8 +105,10 @@ bool SettingsPages::showPanels()
     if (std::exchange(m_showsPanels, true))
         return false;
     showPanelViews();
+    addAllOptions();
     m_summary->build();
     enter(currentIndex());
+    showChanges();
     return true;
 }
 
@@ -119,11 +129,13 @@ void SettingsPages::close()
     const QSignalBlocker blocker(this);
     if (m_general)
         m_former = tabText(currentIndex());
+    m_panelMarks->show({}, {});
     while (count() > 0)
         delete widget(0);
     m_panelPages.clear();
     m_showsPanels = false;
     m_general = nullptr;
+    m_optionsTab = nullptr;
     m_options = nullptr;
     m_summary = nullptr;
 }
@@ -185,14 +197,14 @@ void SettingsPages::showSummary()
 {
     if (!m_summary || currentWidget() != m_summary)
         return;
-    m_summary->setLines(m_task.summary());
+    setSummaryLines(m_task.summary());
     m_task.countSheets();
 }
 
 void SettingsPages::showCountedSheets()
 {
     if (m_summary && currentWidget() == m_summary)
-        m_summary->setLines(m_task.summary());
+        setSummaryLines(m_task.summary());
 }
 
 bool SettingsPages::finishEditing()
@@ -204,7 +216,7 @@ bool SettingsPages::finishEditing()
     }
     if (!m_options || m_options->finishEditing())
         return true;
-    setCurrentWidget(m_options);
+    setCurrentWidget(m_optionsTab);
     m_options->focusEditor();
     return false;
 }
@@ -242,6 +254,8 @@ void SettingsPages::enter(int)
 {
     if (!m_general || m_task.phase() == PrintTask::Phase::Opened)
         return;
+    if (currentWidget() == m_optionsTab)
+        makeOptions();
     PanelHost &panels = *m_task.opened()->panels;
     if (!panels.visit(currentPanel())) {
         const QSignalBlocker blocker(this);

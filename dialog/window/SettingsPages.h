@@ -5,6 +5,8 @@
 #include <QList>
 #include <QTabWidget>
 
+#include "dialog/window/pages/ChangeMarks.h"
+
 namespace corvana {
 
 class GeneralPage;
@@ -12,6 +14,8 @@ class OptionsPage;
 class PanelPage;
 class PrintTask;
 class SummaryPage;
+struct Setting;
+struct SummaryLine;
 
 /// The pages of a task's settings: General, one for each panel (the options of a printer without
 /// any), Summary; or one that says what is being waited for.
@@ -40,6 +44,20 @@ public:
     bool finishEditing();
     /// Shows where the pages to print are typed.
     void showPageRanges();
+    /// Where a setting is seen.
+    struct Shown
+    {
+        QWidget *control = nullptr; ///< null where it is not shown
+        QRect part{};               ///< of the control, where that shows many settings
+        bool canBeSet = false;      ///< it has the focus
+    };
+    /// Goes to the page of a setting, opens what hides it there, and puts the focus on it.
+    Shown goTo(const Setting &setting);
+    /// The same for the setting that the task knows by this name; nothing where no page shows it.
+    Shown goTo(const QString &name);
+    /// The settings of the page that is shown that were changed, and taking them back.
+    QStringList changedOnPage() const;
+    void resetPage();
     /// The index of the panel whose page is shown; -1 on a page of the dialog.
     int currentPanel() const;
     /// The page of a panel that is shown; null on a page of the dialog.
@@ -56,23 +74,36 @@ Q_SIGNALS:
     void entered();
     /// missingHeight() has another answer.
     void heightChanged();
+    /// A page got further controls, which come last for Tab.
+    void controlsAdded();
     /// Other copies or other pages were typed.
     void jobEdited();
 
 private:
     void addPages();
+    void addAllOptions();
+    void makeOptions();
+    QWidget *disclose(const Setting &setting);
     void showPanelViews();
     void addGeneral();
     void showAttributes();
     void enter(int page);
+    ShownChanges changesNow() const;
+    QList<MarkedControl> controlsOfPanels() const;
+    QStringList settingsOfPage() const;
+    void showChanges();
+    void reset(const QString &name);
     void showSummary();
+    void setSummaryLines(const QList<SummaryLine> &lines);
     void showCountedSheets();
 
     PrintTask &m_task;
     GeneralPage *m_general = nullptr;
     QList<PanelPage *> m_panelPages;
-    OptionsPage *m_options = nullptr; // of a printer without panels
+    QWidget *m_optionsTab = nullptr;  // that has the list of options, once it was looked at
+    OptionsPage *m_options = nullptr; // null until then, and where there is none
     SummaryPage *m_summary = nullptr;
+    ChangeMarks *m_panelMarks;
     bool m_showsPanels = false;
     QString m_former; // the title of the page that was shown when the pages were closed
 };

@@ -25,6 +25,11 @@ TaskPreview::TaskPreview(PrintTask &task, PreviewPane &pane, QObject *parent)
         m_pane.documents()->setCanChange(m_task.canChangeDocuments());
         update();
     });
+    connect(&task, &PrintTask::sheetWanted, this, [this](const QString &path) {
+        m_wanted = path;
+        showWantedSheet();
+    });
+    connect(pane.sheets(), &SheetView::markPressed, this, &TaskPreview::markPressed);
     connectDocuments();
     showDocuments();
     showColors();
@@ -82,6 +87,23 @@ void TaskPreview::showSheets()
         m_pane.sheets()->setPictures(m_pictures.get());
     }
     m_pictures->keepOnly(m_pane.sheets()->sheets().files);
+    showWantedSheet();
+}
+
+// Now, or when its sheets are known.
+void TaskPreview::showWantedSheet()
+{
+    if (m_wanted.isEmpty() || m_preview.state != SheetPreview::State::Known)
+        return;
+    const QString path = std::exchange(m_wanted, {});
+    const QList<Document> &documents = m_task.documents();
+    for (int sheet = 0; sheet < m_preview.plan.sheets.size(); ++sheet) {
+        const int document = m_preview.plan.sheets.at(sheet).front.document;
+        if (document < 0 || document >= documents.size() || documents.at(document).path != path)
+            continue;
+        m_pane.sheets()->setCurrent({sheet});
+        return m_pane.focusTarget()->setFocus();
+    }
 }
 
 // What it means for printing that nothing can be shown.
@@ -112,6 +134,7 @@ ShownPreview TaskPreview::shown(const SheetPreview &preview) const
     shown.reason = preview.reason;
     shown.counts = preview.counts;
     shown.sheets.plan = preview.plan;
+    shown.sheets.marks = preview.marks;
     for (const auto &file : preview.files)
         shown.sheets.files += file ? file->path() : QString();
     for (const Document &document : m_task.documents())

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QObject>
+#include <QString>
 #include <QTimer>
 
 #include "dialog/task/SheetPreview.h"
@@ -29,9 +30,14 @@ public:
     /// Something is set otherwise: has the sheets laid out anew. Several calls in a row are one.
     void update() { m_updating.start(); }
 
+Q_SIGNALS:
+    /// The user wants to read what is to be said of a marked sheet.
+    void markPressed(const QString &text);
+
 private:
     void connectDocuments();
     void showDocuments();
+    void showWantedSheet();
     void showColors();
     void showSheets();
     QString note() const;
@@ -41,6 +47,7 @@ private:
     PreviewPane &m_pane;
     std::unique_ptr<DrawnPages> m_pictures; // from the first sheets on
     SheetPreview m_preview;                 // its files are those that are shown
+    QString m_wanted;                       // the document whose first sheet is to be shown
     QTimer m_updating;
 };
 

@@ -68,7 +68,7 @@ void TurnSheetsDialog::addTexts(const TurnQuestion &question)
     for (int i = 0; i < question.steps.size(); ++i) {
         QLabel *step = wrapped(question.steps.at(i), this);
         step->setObjectName(u"step%1"_s.arg(i + 1));
-        steps->addWidget(plainLabel(tr("%1.").arg(i + 1), this), i, 0, Qt::AlignTop);
+        steps->addWidget(plainLabel(u"%1."_s.arg(i + 1), this), i, 0, Qt::AlignTop);
         steps->addWidget(step, i, 1);
     }
     whole->addLayout(steps);

@@ -60,7 +60,7 @@ _corvana_print_words() {
 _corvana_print_keywords() {
     local keyword
     compopt -o nospace 2>/dev/null
-    for keyword in media sides copies landscape number-up number-up-layout booklet repeat \
+    for keyword in media sides sides-by-hand put-back copies landscape number-up number-up-layout booklet repeat \
         page-border page-ranges page-set orientation-requested fit-to-page print-scaling scaling natural-scaling ppi \
         position mirror page-left page-right page-top page-bottom cpi lpi columns wrap prettyprint \
         collate multiple-document-handling outputorder job-hold-until job-priority job-sheets \
@@ -75,6 +75,8 @@ _corvana_print_values() {
     case $1 in
     media) _corvana_print_words A4 A5 Letter Legal ;;
     sides) _corvana_print_words one-sided two-sided-long-edge two-sided-short-edge ;;
+    sides-by-hand) _corvana_print_words long-edge short-edge no ;;
+    put-back) _corvana_print_words face-down face-up ;;
     number-up) _corvana_print_words 1 2 4 6 9 16 ;;
     booklet) _corvana_print_words left right no ;;
     repeat) _corvana_print_words 1 2 4 6 9 16 ;;

@@ -27,6 +27,8 @@ function __corvana_print_options
         echo media=$size
     end
     printf 'sides=%s\n' one-sided two-sided-long-edge two-sided-short-edge
+    printf 'sides-by-hand=%s\n' long-edge short-edge no
+    printf 'put-back=%s\n' face-down face-up
     printf 'number-up=%s\n' 1 2 4 6 9 16
     printf 'booklet=%s\n' left right no
     printf 'repeat=%s\n' 1 2 4 6 9 16

@@ -519,6 +519,34 @@
         <source>Fit All Pages If One Is Too Large</source>
         <translation>はみ出すページがあれば全ページを用紙に合わせる</translation>
     </message>
+    <message>
+        <source>One-Sided</source>
+        <translation>片面</translation>
+    </message>
+    <message>
+        <source>Long Edge (by Hand)</source>
+        <translation>長辺とじ（手動）</translation>
+    </message>
+    <message>
+        <source>Short Edge (by Hand)</source>
+        <translation>短辺とじ（手動）</translation>
+    </message>
+    <message>
+        <source>Printed Side Down</source>
+        <translation>印刷面を下に</translation>
+    </message>
+    <message>
+        <source>Printed Side Up</source>
+        <translation>印刷面を上に</translation>
+    </message>
+    <message>
+        <source>Two-Sided</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Sheets Are Put Back</source>
+        <translation>用紙の戻し方</translation>
+    </message>
     </context>
 <context>
     <name>JobRequests</name>
@@ -587,6 +615,14 @@
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>「%1」は使用できません。使用できる値: %2。</translation>
+    </message>
+<message>
+        <source>this printer prints on one side only. Allowed: %1. Two sides by hand: %2=%3, %2=%4.</source>
+        <translation>このプリンターは片面にのみ印刷します。指定できる値: %1。手動で両面にするには: %2=%3、%2=%4。</translation>
+    </message>
+    <message>
+        <source>this printer turns sheets over itself. Allowed: %1=no; for two sides use %2.</source>
+        <translation>このプリンターは用紙を自動で裏返します。指定できる値: %1=no。両面には %2 を使ってください。</translation>
     </message>
 </context>
 <context>
@@ -1135,6 +1171,14 @@
         <source>Job %1 was printed with %2 of its %3 documents only.</source>
         <translation>ジョブ %1 は、文書 %3 個のうち %2 個だけが印刷されました。</translation>
     </message>
+<message>
+        <source>First sides: %1</source>
+        <translation>1 回目の面: %1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>もう一方の面: %1</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -1307,6 +1351,10 @@
         <source>Password of “%1”: </source>
         <translation>「%1」のパスワード: </translation>
     </message>
+<message>
+        <source>Enter prints the other sides, Ctrl+D leaves them unprinted: </source>
+        <translation>Enter でもう一方の面を印刷、Ctrl+D で印刷せずに終了: </translation>
+    </message>
 </context>
 <context>
     <name>TextFormat</name>
@@ -1349,7 +1397,7 @@
         <source>The result could not be written to standard output: %1.</source>
         <translation>結果を標準出力に書き込めませんでした: %1。</translation>
     </message>
-    <message>
+<message>
         <source>The preset “%1” is kept.</source>
         <translation>プリセット「%1」を保存しました。</translation>
     </message>
@@ -1550,6 +1598,18 @@
         <source>Width × height:</source>
         <translation>幅 × 高さ:</translation>
     </message>
+<message>
+        <source>All, or such as 1-4, 7, 9-</source>
+        <translation>すべて。または 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>Choose Page&amp;s…</source>
+        <translation>ページを選択(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>文書が選択されていません。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::HelpWindow</name>
@@ -1607,6 +1667,10 @@
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+<message>
+        <source>The first sides are printed.</source>
+        <translation>1 回目の面が印刷されました。</translation>
     </message>
 </context>
 <context>
@@ -1809,7 +1873,55 @@ For the command line: %2</source>
         <source>Enter the Owner's Password…</source>
         <translation>所有者のパスワードを入力…</translation>
     </message>
+<message>
+        <source>Show Its First Sheet</source>
+        <translation>最初の用紙を表示</translation>
+    </message>
     <message>
+        <source>Its pages are made while it is printed. The preview shows them.</source>
+        <translation>ページは印刷時に作成されます。プレビューで確認できます。</translation>
+    </message>
+    <message>
+        <source>How many pages it has is not known.</source>
+        <translation>ページ数は不明です。</translation>
+    </message>
+    <message>
+        <source>It is being looked at…</source>
+        <translation>調べています…</translation>
+    </message>
+<message>
+        <source>The sides of “%1” are not known here, so they cannot be printed in two halves. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>“%1” の面の構成が不明なため、2 回に分けて印刷することができません。sides-by-hand=no を指定すると片面に印刷されます。</translation>
+    </message>
+    <message>
+        <source>%1 (other sides)</source>
+        <translation>%1（もう一方の面）</translation>
+    </message>
+    <message>
+        <source>%1 (first sides)</source>
+        <translation>%1（1 回目の面）</translation>
+    </message>
+    <message>
+        <source>First sides: %1</source>
+        <translation>1 回目の面: %1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>もう一方の面: %1</translation>
+    </message>
+    <message>
+        <source>First sides: %1 Other sides: %2</source>
+        <translation>1 回目の面: %1もう一方の面: %2</translation>
+    </message>
+    <message>
+        <source>Not printed.</source>
+        <translation>印刷されていません。</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
+        <translation>ジョブはこれらの指示を待つ必要がありますが、手動両面印刷では待つことができません。指示に従ってから --on-alert=print で印刷してください。</translation>
+    </message>
+<message>
         <source>As in your last job.</source>
         <translation>前回の印刷と同じ設定です。</translation>
     </message>
@@ -1899,6 +2011,26 @@ For the command line: %2</source>
     <message>
         <source>Print Anyway</source>
         <translation>このまま印刷</translation>
+    </message>
+<message>
+        <source>Two-Sided by Hand</source>
+        <translation>手動両面印刷</translation>
+    </message>
+    <message>
+        <source>Only the first sides of the sheets are printed. Leave the other sides unprinted?</source>
+        <translation>用紙の 1 回目の面だけが印刷されています。もう一方の面を印刷せずに終了しますか？</translation>
+    </message>
+    <message>
+        <source>The first sides of the sheets are being printed. Stop that, and leave the other sides unprinted?</source>
+        <translation>用紙の 1 回目の面を印刷しています。中止して、もう一方の面を印刷せずに終了しますか？</translation>
+    </message>
+    <message>
+        <source>Leave Unprinted</source>
+        <translation>印刷せずに終了</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>戻る</translation>
     </message>
 </context>
 <context>
@@ -2045,6 +2177,10 @@ For the command line: %2</source>
     </context>
 <context>
     <name>corvana::SettingsPages</name>
+    <message>
+        <source>All Options</source>
+        <translation>すべてのオプション</translation>
+    </message>
     <message>
         <source>Options</source>
         <translation>オプション</translation>
@@ -2280,6 +2416,10 @@ For the command line: %2</source>
     <message>
         <source>the back stays empty where a document has only one side: %1</source>
         <translation>印刷する面が 1 つだけの文書は裏面が白紙になります: %1</translation>
+    </message>
+    <message>
+        <source>%1, two-sided by hand</source>
+        <translation>%1、手動両面</translation>
     </message>
     </context>
 <context>
@@ -2584,6 +2724,10 @@ For the command line: %2</source>
         <source>Updating…</source>
         <translation>更新しています…</translation>
     </message>
+<message>
+        <source>%1. Note: %2</source>
+        <translation>%1。注意: %2</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SheetsRow</name>
@@ -2730,6 +2874,342 @@ For the command line: %2</source>
     <message>
         <source>only where a page is scaled</source>
         <translation>ページが拡大・縮小される場合のみ</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsIndex</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>All Options</source>
+        <translation>すべてのオプション</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindField</name>
+    <message>
+        <source>Find a setting (Ctrl+F)</source>
+        <translation>設定を検索 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>設定を検索</translation>
+    </message>
+    <message>
+        <source>Type a name, then go to a setting with Enter</source>
+        <translation>名前を入力し、Enter で設定に移動します</translation>
+    </message>
+    <message>
+        <source>Type the name of a setting or of a choice.</source>
+        <translation>設定または選択肢の名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>「%1」という設定はありません。短い言葉か、別の言葉で検索してください。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>「%1」という設定はありません。Enter を押すと「%2」を検索します。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindModel</name>
+    <message>
+        <source>%1, on %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, on %3</source>
+        <translation>%1、%2、%3</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindPopup</name>
+    <message>
+        <source>Settings that were found</source>
+        <translation>見つかった設定</translation>
+    </message>
+    <message>
+        <source>1 setting found</source>
+        <translation>1 件の設定が見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 settings found</source>
+        <translation>%1 件の設定が見つかりました</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SettingFinder</name>
+    <message>
+        <source>now %1</source>
+        <translation>現在 %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
+        <translation>「%1」は、ほかの設定が今のままでは変更できません。「%2」にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>ChoosablePages</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Only the odd ones of them are printed, as is set for this job.</source>
+        <translation>このジョブの設定により、そのうち奇数ページだけが印刷されます。</translation>
+    </message>
+    <message>
+        <source>Only the even ones of them are printed, as is set for this job.</source>
+        <translation>このジョブの設定により、そのうち偶数ページだけが印刷されます。</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>ページが選択されていません。</translation>
+    </message>
+    <message>
+        <source>How many pages there are is not known.</source>
+        <translation>ページ数は不明です。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 page numbers chosen.</source>
+        <translation>%L2 個のページ番号のうち %L1 個を選択。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 pages chosen.</source>
+        <translation>%L2 ページのうち %L1 ページを選択。</translation>
+    </message>
+    <message>
+        <source>There are no pages %1.</source>
+        <translation>%1 ページはありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is no page. Pages are typed as in 1-4, 7, 9-.</source>
+        <translation>「%1」はページではありません。1-4, 7, 9- のように入力します。</translation>
+    </message>
+    <message>
+        <source>“%1” ends before it begins.</source>
+        <translation>「%1」は終わりが始まりより前です。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetMarks</name>
+    <message>
+        <source>The back of this sheet stays empty: only one side is printed.</source>
+        <translation>印刷する面が 1 つだけなので、この用紙の裏面は白紙になります。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageChooser</name>
+    <message>
+        <source>Choose Pages</source>
+        <translation>ページの選択</translation>
+    </message>
+    <message>
+        <source>&amp;Pages:</source>
+        <translation>ページ(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Such as 1-4, 7, 9-</source>
+        <translation>例: 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>なし(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Odd</source>
+        <translation>奇数(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Even</source>
+        <translation>偶数(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反転(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
+        <translation>ページ番号はどの文書にも共通です。1 つの文書で選択した番号は、すべての文書で選択されます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>page, its label</comment>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageModel</name>
+    <message>
+        <source>It has %L1 pages, too many to be shown here. They can be typed.</source>
+        <translation>%L1 ページあり、多すぎてここには表示できません。番号で入力できます。</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>Page %1 (%2)</source>
+        <translation>%1 ページ（%2）</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 の %1</translation>
+    </message>
+    <message>
+        <source>%1, chosen</source>
+        <translation>%1、選択</translation>
+    </message>
+    <message>
+        <source>%1, not chosen</source>
+        <translation>%1、未選択</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageThumbnails</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>ByHand</name>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Take the printed sheet out of the printer.</source>
+        <translation>印刷された用紙をプリンターから取り出します。</translation>
+    </message>
+    <message>
+        <source>Take the %1 printed sheets out of the printer, as one stack.</source>
+        <translation>印刷された %1 枚の用紙を、重なった順序のままプリンターから取り出します。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side down, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>印刷面を下に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side up, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>印刷面を上に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost. Nothing is printed on it so far.</source>
+        <translation>最後の用紙が一番上になります。この用紙にはまだ何も印刷されていません。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost.</source>
+        <translation>最後の用紙が一番上になります。</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1, lies uppermost.</source>
+        <translation>最後の用紙（%1）が一番上になります。</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1 of “%2”, lies uppermost.</source>
+        <translation>最後の用紙（“%2” の %1）が一番上になります。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs a printer that sheets are put back into: it cannot be done in a file.</source>
+        <translation>手動両面印刷（%1）では用紙をプリンターに戻す必要があります。ファイルへは実行できません。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) cannot be combined with %2: the queue would add these pages to both halves.</source>
+        <translation>手動両面印刷（%1）は %2 と組み合わせることができません。キューがこれらのページを両方の回に追加するためです。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs somebody who puts the sheets back, and nobody can be asked here. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>手動両面印刷（%1）では用紙を戻す人が必要ですが、ここでは尋ねることができません。sides-by-hand=no を指定すると片面に印刷されます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PassJob</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷は中止されました。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TurnSheetsDialog</name>
+    <message>
+        <source>Two-Sided by Hand</source>
+        <translation>手動両面印刷</translation>
+    </message>
+    <message>
+        <source>Put the sheets back for their other sides</source>
+        <translation>もう一方の面を印刷するために用紙を戻してください</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Other Sides</source>
+        <translation>もう一方の面を印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -3019,11 +3499,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Also in &amp;other programs</source>
-        <translation>他のプログラムでも使う(&amp;O)</translation>
+        <translation>ほかのプログラムでも使う(&amp;O)</translation>
     </message>
     <message>
-        <source>Also in &amp;other programs, as “%1”</source>
-        <translation>他のプログラムでも「%1」として使う(&amp;O)</translation>
+        <source>Other programs list it as “%1”.</source>
+        <translation>ほかのプログラムでは「%1」と表示されます。</translation>
     </message>
 </context>
 <context>
@@ -3063,12 +3543,8 @@ For the command line: %2</source>
         <translation>%1 現在の設定は変わっていません。</translation>
     </message>
     <message>
-        <source>The preset is kept, but other programs do not have it: %1</source>
-        <translation>プリセットは保存されましたが、他のプログラムでは使えません: %1</translation>
-    </message>
-    <message>
-        <source>Other programs still have “%1”: %2</source>
-        <translation>他のプログラムにはまだ「%1」があります: %2</translation>
+        <source>“%1” in other programs: %2</source>
+        <translation>他のプログラムの「%1」: %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

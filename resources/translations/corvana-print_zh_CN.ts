@@ -519,6 +519,34 @@
         <source>Fit All Pages If One Is Too Large</source>
         <translation>有页面超出时使所有页面适合纸张</translation>
     </message>
+    <message>
+        <source>One-Sided</source>
+        <translation>单面</translation>
+    </message>
+    <message>
+        <source>Long Edge (by Hand)</source>
+        <translation>长边（手动）</translation>
+    </message>
+    <message>
+        <source>Short Edge (by Hand)</source>
+        <translation>短边（手动）</translation>
+    </message>
+    <message>
+        <source>Printed Side Down</source>
+        <translation>打印面朝下</translation>
+    </message>
+    <message>
+        <source>Printed Side Up</source>
+        <translation>打印面朝上</translation>
+    </message>
+    <message>
+        <source>Two-Sided</source>
+        <translation>双面打印</translation>
+    </message>
+    <message>
+        <source>Sheets Are Put Back</source>
+        <translation>放回纸张的方式</translation>
+    </message>
     </context>
 <context>
     <name>JobRequests</name>
@@ -587,6 +615,14 @@
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
         <translation>不允许“%1”。允许的值：%2。</translation>
+    </message>
+<message>
+        <source>this printer prints on one side only. Allowed: %1. Two sides by hand: %2=%3, %2=%4.</source>
+        <translation>此打印机只能单面打印。允许的值：%1。手动双面：%2=%3、%2=%4。</translation>
+    </message>
+    <message>
+        <source>this printer turns sheets over itself. Allowed: %1=no; for two sides use %2.</source>
+        <translation>此打印机会自动翻转纸张。允许的值：%1=no；双面打印请使用 %2。</translation>
     </message>
 </context>
 <context>
@@ -1135,6 +1171,14 @@
         <source>Job %1 was printed with %2 of its %3 documents only.</source>
         <translation>作业 %1 只打印了 %3 个文档中的 %2 个。</translation>
     </message>
+<message>
+        <source>First sides: %1</source>
+        <translation>第一面：%1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>另一面：%1</translation>
+    </message>
 </context>
 <context>
     <name>ServerProblem</name>
@@ -1307,6 +1351,10 @@
         <source>Password of “%1”: </source>
         <translation>“%1”的密码：</translation>
     </message>
+<message>
+        <source>Enter prints the other sides, Ctrl+D leaves them unprinted: </source>
+        <translation>按 Enter 打印另一面，按 Ctrl+D 不打印：</translation>
+    </message>
 </context>
 <context>
     <name>TextFormat</name>
@@ -1349,7 +1397,7 @@
         <source>The result could not be written to standard output: %1.</source>
         <translation>无法将结果写入标准输出：%1。</translation>
     </message>
-    <message>
+<message>
         <source>The preset “%1” is kept.</source>
         <translation>预设“%1”已保存。</translation>
     </message>
@@ -1550,6 +1598,18 @@
         <source>Width × height:</source>
         <translation>宽 × 高:</translation>
     </message>
+<message>
+        <source>All, or such as 1-4, 7, 9-</source>
+        <translation>全部，或 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>Choose Page&amp;s…</source>
+        <translation>选择页面(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>No document has been chosen.</source>
+        <translation>尚未选择文档。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::HelpWindow</name>
@@ -1607,6 +1667,10 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+<message>
+        <source>The first sides are printed.</source>
+        <translation>第一面已打印。</translation>
     </message>
 </context>
 <context>
@@ -1809,7 +1873,55 @@ For the command line: %2</source>
         <source>Enter the Owner's Password…</source>
         <translation>输入所有者密码…</translation>
     </message>
+<message>
+        <source>Show Its First Sheet</source>
+        <translation>显示其第一张纸</translation>
+    </message>
     <message>
+        <source>Its pages are made while it is printed. The preview shows them.</source>
+        <translation>页面在打印时生成，可在预览中查看。</translation>
+    </message>
+    <message>
+        <source>How many pages it has is not known.</source>
+        <translation>页数未知。</translation>
+    </message>
+    <message>
+        <source>It is being looked at…</source>
+        <translation>正在检查…</translation>
+    </message>
+<message>
+        <source>The sides of “%1” are not known here, so they cannot be printed in two halves. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>此处不知道“%1”的各面内容，因此无法分两次打印。使用 sides-by-hand=no 则只打印纸张的一面。</translation>
+    </message>
+    <message>
+        <source>%1 (other sides)</source>
+        <translation>%1（另一面）</translation>
+    </message>
+    <message>
+        <source>%1 (first sides)</source>
+        <translation>%1（第一面）</translation>
+    </message>
+    <message>
+        <source>First sides: %1</source>
+        <translation>第一面：%1</translation>
+    </message>
+    <message>
+        <source>Other sides: %1</source>
+        <translation>另一面：%1</translation>
+    </message>
+    <message>
+        <source>First sides: %1 Other sides: %2</source>
+        <translation>第一面：%1另一面：%2</translation>
+    </message>
+    <message>
+        <source>Not printed.</source>
+        <translation>未打印。</translation>
+    </message>
+    <message>
+        <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
+        <translation>作业需要等待完成这些指示，而手动双面打印无法等待。请先按指示操作，再使用 --on-alert=print 打印。</translation>
+    </message>
+<message>
         <source>As in your last job.</source>
         <translation>与您上次打印的设置相同。</translation>
     </message>
@@ -1899,6 +2011,26 @@ For the command line: %2</source>
     <message>
         <source>Print Anyway</source>
         <translation>仍然打印</translation>
+    </message>
+<message>
+        <source>Two-Sided by Hand</source>
+        <translation>手动双面打印</translation>
+    </message>
+    <message>
+        <source>Only the first sides of the sheets are printed. Leave the other sides unprinted?</source>
+        <translation>纸张只打印了第一面。是否不打印另一面？</translation>
+    </message>
+    <message>
+        <source>The first sides of the sheets are being printed. Stop that, and leave the other sides unprinted?</source>
+        <translation>正在打印纸张的第一面。是否停止，并且不打印另一面？</translation>
+    </message>
+    <message>
+        <source>Leave Unprinted</source>
+        <translation>不打印</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>返回</translation>
     </message>
 </context>
 <context>
@@ -2045,6 +2177,10 @@ For the command line: %2</source>
     </context>
 <context>
     <name>corvana::SettingsPages</name>
+    <message>
+        <source>All Options</source>
+        <translation>所有选项</translation>
+    </message>
     <message>
         <source>Options</source>
         <translation>选项</translation>
@@ -2280,6 +2416,10 @@ For the command line: %2</source>
     <message>
         <source>the back stays empty where a document has only one side: %1</source>
         <translation>只有一面要打印的文档背面将留空：%1</translation>
+    </message>
+    <message>
+        <source>%1, two-sided by hand</source>
+        <translation>%1，手动双面</translation>
     </message>
     </context>
 <context>
@@ -2584,6 +2724,10 @@ For the command line: %2</source>
         <source>Updating…</source>
         <translation>正在更新…</translation>
     </message>
+<message>
+        <source>%1. Note: %2</source>
+        <translation>%1。注意：%2</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SheetsRow</name>
@@ -2730,6 +2874,342 @@ For the command line: %2</source>
     <message>
         <source>only where a page is scaled</source>
         <translation>仅在页面缩放时</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsIndex</name>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>All Options</source>
+        <translation>所有选项</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindField</name>
+    <message>
+        <source>Find a setting (Ctrl+F)</source>
+        <translation>查找设置 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>查找设置</translation>
+    </message>
+    <message>
+        <source>Type a name, then go to a setting with Enter</source>
+        <translation>键入名称，然后按 Enter 转到设置</translation>
+    </message>
+    <message>
+        <source>Type the name of a setting or of a choice.</source>
+        <translation>请键入设置或选项的名称。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>没有名为“%1”的设置。请尝试更短的词或其他说法。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>没有名为“%1”的设置。按 Enter 改为查找“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindModel</name>
+    <message>
+        <source>%1, on %2</source>
+        <translation>%1，位于%2</translation>
+    </message>
+    <message>
+        <source>%1, %2, on %3</source>
+        <translation>%1，%2，位于%3</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::FindPopup</name>
+    <message>
+        <source>Settings that were found</source>
+        <translation>找到的设置</translation>
+    </message>
+    <message>
+        <source>1 setting found</source>
+        <translation>找到 1 项设置</translation>
+    </message>
+    <message>
+        <source>%1 settings found</source>
+        <translation>找到 %1 项设置</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::SettingFinder</name>
+    <message>
+        <source>now %1</source>
+        <translation>当前为%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
+        <translation>在其他设置保持不变时，无法更改“%1”。它位于“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>ChoosablePages</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Only the odd ones of them are printed, as is set for this job.</source>
+        <translation>按照此作业的设置，其中只打印奇数页。</translation>
+    </message>
+    <message>
+        <source>Only the even ones of them are printed, as is set for this job.</source>
+        <translation>按照此作业的设置，其中只打印偶数页。</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>未选择任何页面。</translation>
+    </message>
+    <message>
+        <source>How many pages there are is not known.</source>
+        <translation>页数未知。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 page numbers chosen.</source>
+        <translation>已选择 %L2 个页码中的 %L1 个。</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 pages chosen.</source>
+        <translation>已选择 %L2 页中的 %L1 页。</translation>
+    </message>
+    <message>
+        <source>There are no pages %1.</source>
+        <translation>没有第 %1 页。</translation>
+    </message>
+    <message>
+        <source>“%1” is no page. Pages are typed as in 1-4, 7, 9-.</source>
+        <translation>“%1”不是页码。请按 1-4, 7, 9- 的形式输入。</translation>
+    </message>
+    <message>
+        <source>“%1” ends before it begins.</source>
+        <translation>“%1”的结束页在起始页之前。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetMarks</name>
+    <message>
+        <source>The back of this sheet stays empty: only one side is printed.</source>
+        <translation>只打印一面，因此这张纸的背面是空白的。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageChooser</name>
+    <message>
+        <source>Choose Pages</source>
+        <translation>选择页面</translation>
+    </message>
+    <message>
+        <source>&amp;Pages:</source>
+        <translation>页面(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Such as 1-4, 7, 9-</source>
+        <translation>例如 1-4, 7, 9-</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Odd</source>
+        <translation>奇数(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Even</source>
+        <translation>偶数(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反选(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
+        <translation>页码对每个文档都有效：在一个文档中勾选，就在所有文档中勾选。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageDelegate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>page, its label</comment>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageModel</name>
+    <message>
+        <source>It has %L1 pages, too many to be shown here. They can be typed.</source>
+        <translation>共 %L1 页，数量太多，无法在此显示。可以输入页码。</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>Page %1 (%2)</source>
+        <translation>第 %1 页（%2）</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 的%1</translation>
+    </message>
+    <message>
+        <source>%1, chosen</source>
+        <translation>%1，已选择</translation>
+    </message>
+    <message>
+        <source>%1, not chosen</source>
+        <translation>%1，未选择</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PageThumbnails</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+</context>
+<context>
+    <name>ByHand</name>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Take the printed sheet out of the printer.</source>
+        <translation>从打印机中取出已打印的纸张。</translation>
+    </message>
+    <message>
+        <source>Take the %1 printed sheets out of the printer, as one stack.</source>
+        <translation>从打印机中取出已打印的 %1 张纸，保持整叠顺序。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side down, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>将打印面朝下放回纸盒，使页面的%1边先进入打印机。</translation>
+    </message>
+    <message>
+        <source>Put them back into the tray with the printed side up, so that the %1 edge of the pages goes into the printer first.</source>
+        <translation>将打印面朝上放回纸盒，使页面的%1边先进入打印机。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost. Nothing is printed on it so far.</source>
+        <translation>最后一张纸在最上面，它上面还没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>The last sheet lies uppermost.</source>
+        <translation>最后一张纸在最上面。</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>pages %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1, lies uppermost.</source>
+        <translation>最后一张纸（%1）在最上面。</translation>
+    </message>
+    <message>
+        <source>The last sheet, with %1 of “%2”, lies uppermost.</source>
+        <translation>最后一张纸（“%2”的%1）在最上面。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs a printer that sheets are put back into: it cannot be done in a file.</source>
+        <translation>手动双面打印（%1）需要将纸张放回打印机，不能输出到文件。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) cannot be combined with %2: the queue would add these pages to both halves.</source>
+        <translation>手动双面打印（%1）不能与 %2 同时使用：队列会在两次打印中都加入这些页。</translation>
+    </message>
+    <message>
+        <source>Two-sided printing by hand (%1) needs somebody who puts the sheets back, and nobody can be asked here. With sides-by-hand=no one side of each sheet is printed.</source>
+        <translation>手动双面打印（%1）需要有人将纸张放回，而此处无法询问任何人。使用 sides-by-hand=no 则只打印纸张的一面。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PassJob</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>打印已取消。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TurnSheetsDialog</name>
+    <message>
+        <source>Two-Sided by Hand</source>
+        <translation>手动双面打印</translation>
+    </message>
+    <message>
+        <source>Put the sheets back for their other sides</source>
+        <translation>请放回纸张以打印另一面</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Other Sides</source>
+        <translation>打印另一面(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -3019,11 +3499,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Also in &amp;other programs</source>
-        <translation>在其他程序中也可用(&amp;O)</translation>
+        <translation>也用于其他程序(&amp;O)</translation>
     </message>
     <message>
-        <source>Also in &amp;other programs, as “%1”</source>
-        <translation>在其他程序中也可用，名为“%1”(&amp;O)</translation>
+        <source>Other programs list it as “%1”.</source>
+        <translation>其他程序中显示为“%1”。</translation>
     </message>
 </context>
 <context>
@@ -3063,12 +3543,8 @@ For the command line: %2</source>
         <translation>%1 您的设置保持不变。</translation>
     </message>
     <message>
-        <source>The preset is kept, but other programs do not have it: %1</source>
-        <translation>预设已保存，但其他程序无法使用：%1</translation>
-    </message>
-    <message>
-        <source>Other programs still have “%1”: %2</source>
-        <translation>其他程序中仍有“%1”：%2</translation>
+        <source>“%1” in other programs: %2</source>
+        <translation>其他程序中的“%1”：%2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

@@ -37,6 +37,7 @@ dialog/documents     dialog/documents/ dialog/preview/ dialog/job/ renderer/prot
 dialog/task          dialog/task/ dialog/policy/ dialog/presets/ dialog/documents/ dialog/sheets/ dialog/job/ dialog/text/ dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/window        dialog/window/ dialog/presets/ dialog/task/ dialog/sheets/ dialog/job/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/window/chooser dialog/window/chooser/ dialog/printers/ platform/
+dialog/window/find   dialog/window/find/ dialog/window/chooser/ platform/
 dialog/window/pages  dialog/window/pages/ dialog/session/ platform/
 dialog/window/thumbnails dialog/window/thumbnails/ dialog/preview/ dialog/sheets/ platform/
 dialog/window/preview dialog/window/preview/ dialog/window/chooser/ dialog/preview/ dialog/sheets/ platform/
@@ -160,6 +161,8 @@ dialog/window/pages/A.cpp    dialog/sheets/SheetCounter.h       refused
 dialog/window/chooser/A.cpp  dialog/printers/Printer.h          allowed
 dialog/window/chooser/A.cpp  dialog/window/pages/GeneralPage.h  refused
 dialog/window/chooser/A.cpp  dialog/session/PpdSession.h        refused
+dialog/window/find/A.cpp     dialog/window/chooser/PrinterIcon.h allowed
+dialog/window/find/A.cpp     dialog/task/SettingsIndex.h        refused
 dialog/window/pages/A.cpp    dialog/session/PpdSession.h        allowed
 dialog/window/pages/A.cpp    dialog/printers/Printer.h          refused
 dialog/window/pages/A.cpp    dialog/window/PrintWindow.h        refused

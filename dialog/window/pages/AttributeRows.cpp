@@ -75,8 +75,10 @@ void AttributeRows::show(const QList<OfferedAttribute> &offered)
             m_form->labelForField(row)->setEnabled(one.hasEffect);
         }
     }
-    if (added)
+    if (added) {
         orderFocus();
+        Q_EMIT fieldsChanged();
+    }
     sayWhatIsSet();
 }
 
@@ -164,6 +166,26 @@ void AttributeRows::sayWhatIsSet()
         return;
     m_set->setText(text);
     Q_EMIT heightChanged();
+}
+
+QList<MarkedControl> AttributeRows::fields() const
+{
+    QList<MarkedControl> fields;
+    for (AttributeEditor *editor : m_front + m_more)
+        fields += MarkedControl{editor->name(), editor->control(), m_form->labelForField(editor)};
+    return fields;
+}
+
+QWidget *AttributeRows::disclose(const QString &name)
+{
+    const auto found =
+        std::find_if(m_offered.cbegin(), m_offered.cend(),
+                     [&name](const OfferedAttribute &one) { return one.name == name; });
+    const bool isMore = found != m_offered.cend() && found->place == Place::More;
+    if (isMore && m_disclosure)
+        m_disclosure->setChecked(true); // which makes the rows behind it
+    AttributeEditor *row = editor(name);
+    return row ? row->control() : nullptr;
 }
 
 void AttributeRows::showProblem(const QString &name, const QString &problem)

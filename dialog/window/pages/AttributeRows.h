@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include "dialog/session/OfferedAttribute.h"
+#include "dialog/window/pages/ChangeMarks.h"
 
 class QFormLayout;
 class QLabel;
@@ -32,11 +33,17 @@ public:
     void showProblem(const QString &name, const QString &problem);
     /// Takes what is being typed. Errors: false; the row is shown, says why, and has the focus.
     bool finishEditing();
+    /// The control of an attribute, disclosed; null for one that is none of these rows.
+    QWidget *disclose(const QString &name);
+    /// The rows that there are, shown or not.
+    QList<MarkedControl> fields() const;
     /// The disclosure is open.
     bool showsMore() const;
 
 Q_SIGNALS:
     void proposed(const QString &name, const QString &value);
+    /// There are other rows, or their titles lie elsewhere.
+    void fieldsChanged();
     /// The rows need more or less height.
     void heightChanged();
 

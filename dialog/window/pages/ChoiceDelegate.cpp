@@ -21,7 +21,8 @@ QWidget *ChoiceDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
 {
     PpdSession &session = m_model.session();
     const QString keyword = index.data(OptionsModel::KeywordRole).toString();
-    auto *editor = new ChoiceEditor(session, ppdOption(session.ppd(), keyword), parent);
+    auto *editor =
+        new ChoiceEditor(session, m_model.values(), ppdOption(session.ppd(), keyword), parent);
     m_editor = editor;
     if (const auto draft = m_drafts.constFind(keyword); draft != m_drafts.cend())
         editor->showDraft(*draft);

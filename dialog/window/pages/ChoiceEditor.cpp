@@ -12,9 +12,10 @@
 #include <QWheelEvent>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionTexts.h"
+#include "dialog/session/OptionValues.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
-#include "dialog/window/pages/OptionsModel.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
@@ -62,9 +63,10 @@ QString described(const SummaryLine &line)
 
 } // namespace
 
-ChoiceEditor::ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *parent)
-    : QWidget(parent), m_session(session), m_option(option), m_keyword(ppdKeyword(option->keyword)),
-      m_limits(customLimits(session.ppd(), m_keyword))
+ChoiceEditor::ChoiceEditor(PpdSession &session, const OptionValues &values, ppd_option_t *option,
+                           QWidget *parent)
+    : QWidget(parent), m_session(session), m_values(values), m_option(option),
+      m_keyword(ppdKeyword(option->keyword)), m_limits(customLimits(session.ppd(), m_keyword))
 {
     auto *choices = new ListedChoices(this);
     choices->listClosed = [this] {
@@ -109,7 +111,7 @@ void ChoiceEditor::addChoices()
         const bool custom =
             keyword == kCustomChoice && ppdHasCustomOption(m_session.ppd(), m_keyword);
         // Several values at once cannot be entered here, only kept.
-        if (custom && !m_limits && m_session.markedChoice(m_keyword) != kCustomChoice)
+        if (custom && !m_limits && m_values.of(m_keyword).choice != kCustomChoice)
             continue;
         const QString text = choiceText(choice);
         m_choices->addItem(custom && m_limits ? text + u'…' : text, keyword);
@@ -143,9 +145,9 @@ void ChoiceEditor::addField()
 void ChoiceEditor::showMark()
 {
     const ProgrammaticChange change;
-    m_choices->setCurrentIndex(m_choices->findData(m_session.markedChoice(m_keyword)));
+    m_choices->setCurrentIndex(m_choices->findData(m_values.of(m_keyword).choice));
     if (m_field)
-        m_field->setText(m_session.customValue(m_keyword).mid(kCustomPrefix.size()));
+        m_field->setText(m_values.of(m_keyword).custom.mid(kCustomPrefix.size()));
     m_changed = false;
     showField(isCustom());
 }
@@ -297,7 +299,7 @@ bool ChoiceEditor::isInside(const QWidget *widget) const
 
 QString ChoiceEditor::conflictNote(const QString &choice) const
 {
-    if (choice == m_session.markedChoice(m_keyword))
+    if (choice == m_values.of(m_keyword).choice)
         return {};
     const QList<OptionChoice> conflicting = m_session.conflictsOf({m_keyword, choice});
     QStringList others;

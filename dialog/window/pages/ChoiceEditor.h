@@ -12,6 +12,7 @@ class QLineEdit;
 
 namespace corvana {
 
+class OptionValues;
 class PpdSession;
 
 /// The choices of one option, in its row: a pop-up, and a field behind it while the choice is a
@@ -22,12 +23,13 @@ class ChoiceEditor : public QWidget
     Q_OBJECT
 
 public:
-    /// Borrows the session and its option.
-    ChoiceEditor(PpdSession &session, ppd_option_t *option, QWidget *parent);
+    /// Borrows the session and its option, and what the options are at.
+    ChoiceEditor(PpdSession &session, const OptionValues &values, ppd_option_t *option,
+                 QWidget *parent);
     ~ChoiceEditor() override;
 
     QString keyword() const { return m_keyword; }
-    /// Shows the session's mark, whatever was picked or typed.
+    /// Shows what the option is at, whatever was picked or typed.
     void showMark();
     /// Starts with a value that was typed earlier and could not be taken.
     void showDraft(const QString &text);
@@ -75,6 +77,7 @@ private:
     QString conflictNote(const QString &choice) const;
 
     PpdSession &m_session;
+    const OptionValues &m_values;
     ppd_option_t *m_option;
     QString m_keyword;
     std::optional<CustomLimits> m_limits; // where the user can enter a value

@@ -60,8 +60,9 @@ void addChoice(QComboBox *popUp, const QString &title, const QString &choice)
 } // namespace
 
 GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
-      m_pageRanges(new QLineEdit(this)), m_choosePages(new QPushButton(this))
+    : QWidget(parent), m_session(session), m_marks(new ChangeMarks(this)),
+      m_copies(new QSpinBox(this)), m_pageRanges(new QLineEdit(this)),
+      m_choosePages(new QPushButton(this))
 {
     auto *rows = new QWidget;
     m_rows = new QFormLayout(rows);
@@ -74,6 +75,8 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
         addOption(keyword);
     m_attributes = new AttributeRows(m_rows);
     connect(m_attributes, &AttributeRows::proposed, this, &GeneralPage::attributeProposed);
+    connect(m_attributes, &AttributeRows::fieldsChanged, this, [this] { showChanges(m_changes); });
+    connect(m_marks, &ChangeMarks::resetWanted, this, &GeneralPage::resetWanted);
     // Later: the rows are laid out by then.
     connect(m_attributes, &AttributeRows::heightChanged, this, &GeneralPage::heightChanged,
             Qt::QueuedConnection);
@@ -108,7 +111,7 @@ void GeneralPage::addPageRanges(QFormLayout *form)
     row->addWidget(m_choosePages);
     field->setFocusProxy(m_pageRanges);
     m_pageRanges->setObjectName(u"pageRanges"_s);
-    m_pageRanges->setPlaceholderText(tr("All pages; or pages and ranges such as 1-4, 7, 9-"));
+    m_pageRanges->setPlaceholderText(tr("All, or such as 1-4, 7, 9-"));
     m_pageRanges->setMaxLength(kMostLetters);
     addClearButton(m_pageRanges);
     m_choosePages->setObjectName(u"choosePages"_s);
@@ -179,6 +182,44 @@ void GeneralPage::focusPageRanges()
 {
     m_pageRanges->setFocus();
     m_pageRanges->selectAll();
+}
+
+QList<MarkedControl> GeneralPage::fields() const
+{
+    QList<MarkedControl> fields = m_attributes->fields();
+    for (auto popUp = m_popUps.cbegin(); popUp != m_popUps.cend(); ++popUp)
+        fields += MarkedControl{popUp.key(), popUp.value(), m_rows->labelForField(popUp.value())};
+    if (m_collate)
+        fields += MarkedControl{m_collate->objectName(), m_collate, nullptr};
+    return fields;
+}
+
+QStringList GeneralPage::settings() const
+{
+    QStringList names;
+    const QList<MarkedControl> shown = fields();
+    for (const MarkedControl &field : shown)
+        names += field.name;
+    return names;
+}
+
+void GeneralPage::showChanges(const ShownChanges &changes)
+{
+    m_changes = changes;
+    m_marks->show(fields(), changes);
+}
+
+QWidget *GeneralPage::disclose(const QString &name)
+{
+    if (name == m_copies->objectName())
+        return m_copies;
+    if (name == kPageRangesAttribute)
+        return m_pageRanges;
+    if (m_collate && name == m_collate->objectName())
+        return m_collate;
+    if (QComboBox *popUp = m_popUps.value(name))
+        return popUp;
+    return m_attributes->disclose(name);
 }
 
 void GeneralPage::setAttributes(const QList<OfferedAttribute> &offered)

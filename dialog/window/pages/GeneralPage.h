@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include "dialog/session/OfferedAttribute.h"
+#include "dialog/window/pages/ChangeMarks.h"
 
 class QCheckBox;
 class QComboBox;
@@ -52,6 +53,13 @@ public:
     void setCanChoosePages(bool can);
     /// Puts the focus where the pages are typed.
     void focusPageRanges();
+    /// The control of an option, an attribute, the copies ("copies") or the pages, disclosed; null
+    /// for what is not on this page.
+    QWidget *disclose(const QString &name);
+    /// Marks the settings that were changed.
+    void showChanges(const ShownChanges &changes);
+    /// The settings of this page, but for the copies and the pages.
+    QStringList settings() const;
     /// Shows the session's marks.
     void refresh();
     /// Shows the attributes of the job. To be called with the page in its window.
@@ -76,6 +84,8 @@ Q_SIGNALS:
     void choosePagesPressed();
     /// The user chose a value of an attribute; null: none.
     void attributeProposed(const QString &name, const QString &value);
+    /// The user wants a changed setting back.
+    void resetWanted(const QString &name);
     /// missingHeight() has another answer.
     void heightChanged();
 
@@ -83,6 +93,7 @@ private:
     void addJobFields(QFormLayout *form);
     void addPageRanges(QFormLayout *form);
     void scroll(QWidget *rows);
+    QList<MarkedControl> fields() const;
     void showCollate(const OfferedAttribute &collate);
     void addOption(const QString &keyword);
     void refreshOption(const QString &keyword, QComboBox *popUp);
@@ -94,6 +105,8 @@ private:
     QFormLayout *m_rows = nullptr;
     QScrollArea *m_area = nullptr;
     AttributeRows *m_attributes = nullptr;
+    ChangeMarks *m_marks;
+    ShownChanges m_changes;
     QSpinBox *m_copies;
     QCheckBox *m_collate = nullptr; // where the printer can
     QLineEdit *m_pageRanges;

@@ -198,6 +198,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     m_action->setToolTip(shown == actionText ? QString() : plainToolTip(actionText));
     m_action->setVisible(!actionText.isEmpty());
     m_do = action;
+    m_keeps = false;
     show();
     updateDetails();
     // A screen reader says it, although the focus stays where the user works.
@@ -220,7 +221,7 @@ void MessageBar::dismiss()
 
 void MessageBar::withdrawOffer()
 {
-    if (m_do)
+    if (m_do && !m_keeps)
         dismiss();
 }
 

@@ -35,6 +35,8 @@ public:
     void dismiss();
     /// Takes a message back that offers to do something: it was said of a printer that is gone.
     void withdrawOffer();
+    /// The message that is shown stays all the same: its offer is about something else.
+    void keepOffer() { m_keeps = true; }
     QString text() const;
     /// The controls that Tab reaches, in its order.
     QList<QWidget *> focusOrder() const;
@@ -52,6 +54,7 @@ private:
     QToolButton *m_details = nullptr;
     QToolButton *m_close = nullptr;
     std::function<void()> m_do;
+    bool m_keeps = false;
 };
 
 } // namespace corvana

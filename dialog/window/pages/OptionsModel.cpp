@@ -6,7 +6,9 @@
 #include <QSet>
 
 #include "dialog/session/CustomValue.h"
+#include "dialog/session/OptionTexts.h"
 #include "dialog/session/PpdSession.h"
+#include "dialog/session/SearchForm.h"
 #include "dialog/session/Summary.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -18,45 +20,14 @@ namespace {
 
 constexpr quintptr kGroupId = 0; // options have the row of their group, from 1
 
-// Options outside any group are put into groups by libcups, whose names for them are not the
-// printer's words.
-QString groupTitle(const ppd_group_t &group)
-{
-    const QString name = ppdKeyword(group.name);
-    const QString title = ppdText(group.text).value_or(name);
-    if (title == "General"_L1)
-        return OptionsModel::tr("General");
-    if (title == "Installable Options"_L1)
-        return OptionsModel::tr("Installable Options");
-    return title;
-}
-
-// Marks that change the sound of a kana are no accents.
-bool isAccent(QChar c)
-{
-    constexpr char16_t kVoiced = 0x3099;
-    constexpr char16_t kSemiVoiced = 0x309a;
-    return c.category() == QChar::Mark_NonSpacing && c != kVoiced && c != kSemiVoiced;
-}
-
 } // namespace
 
-QString choiceText(const ppd_choice_t &choice)
+OptionsModel::OptionsModel(PpdSession &session, const ListedOptions &listed, QObject *parent)
+    : QAbstractItemModel(parent), m_session(session), m_values(session, listed.jobValues)
 {
-    return ppdText(choice.text).value_or(ppdKeyword(choice.choice));
-}
-
-QString searchForm(const QString &text)
-{
-    QString form = text.normalized(QString::NormalizationForm_KD);
-    form.removeIf(isAccent);
-    return form.toCaseFolded();
-}
-
-OptionsModel::OptionsModel(PpdSession &session, QObject *parent)
-    : QAbstractItemModel(parent), m_session(session)
-{
-    const QList<ppd_option_t *> offered = furtherOptions(session);
+    const QList<ppd_option_t *> offered = listed.which == ListedOptions::Which::All
+                                              ? choosableOptions(session)
+                                              : furtherOptions(session);
     const QSet<const ppd_option_t *> isOffered(offered.cbegin(), offered.cend());
     const ppd_file_t *ppd = session.ppd();
     // libcups puts the options of a subgroup into the group around it.
@@ -92,20 +63,33 @@ int OptionsModel::optionCount() const
 // False when that is what is shown already.
 bool OptionsModel::readMark(Option &option) const
 {
-    const QString choice = m_session.markedChoice(option.keyword);
-    const QString custom = m_session.customValue(option.keyword);
-    if (choice == option.choice && custom == option.custom)
+    const OptionValues::Value at = m_values.of(option.keyword);
+    if (at == option.at)
         return false;
-    option.choice = choice;
-    option.custom = custom;
-    option.value = optionLine(m_session, option.keyword).value;
-    if (const ppd_choice_t *marked = ppdChoice(option.option, choice); marked && !custom.isNull())
-        option.value = tr("%1: %2").arg(choiceText(*marked), option.value);
+    option.at = at;
+    option.value = m_values.text(option.keyword);
+    const ppd_choice_t *choice = ppdChoice(option.option, at.choice);
+    if (choice && !at.custom.isNull())
+        option.value = tr("%1: %2").arg(choiceText(*choice), option.value);
     return true;
+}
+
+QModelIndex OptionsModel::indexOf(const QString &keyword) const
+{
+    for (int g = 0; g < m_groups.size(); ++g) {
+        const QList<Option> &options = m_groups.at(g).options;
+        const auto found =
+            std::find_if(options.cbegin(), options.cend(),
+                         [&](const Option &option) { return option.keyword == keyword; });
+        if (found != options.cend())
+            return index(static_cast<int>(found - options.cbegin()), Choice, index(g, Title));
+    }
+    return {};
 }
 
 void OptionsModel::refresh()
 {
+    m_values.refresh();
     for (int g = 0; g < m_groups.size(); ++g) {
         QList<Option> &options = m_groups[g].options;
         int first = -1;
@@ -131,10 +115,27 @@ const OptionsModel::Option *OptionsModel::optionAt(const QModelIndex &index) con
     return &m_groups.at(static_cast<qsizetype>(index.internalId()) - 1).options.at(index.row());
 }
 
-bool OptionsModel::differsFromDefault(const QModelIndex &index) const
+void OptionsModel::showChanges(const ShownChanges &changes)
+{
+    if (m_changes == changes)
+        return;
+    m_changes = changes;
+    for (int g = 0; g < m_groups.size(); ++g) {
+        const QModelIndex group = index(g, Title);
+        Q_EMIT dataChanged(index(0, Title, group), index(rowCount(group) - 1, Choice, group));
+    }
+}
+
+bool OptionsModel::isChanged(const Option &option) const
+{
+    return m_changes ? m_changes->settings.contains(option.keyword)
+                     : m_values.differsFromDefault(option.keyword);
+}
+
+bool OptionsModel::isChanged(const QModelIndex &index) const
 {
     const Option *option = optionAt(index);
-    return option && m_session.differsFromDefault(option->keyword);
+    return option && isChanged(*option);
 }
 
 void OptionsModel::proposeDefault(const QModelIndex &index)
@@ -192,17 +193,19 @@ QVariant OptionsModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return title ? option->title : option->value;
     case Qt::EditRole:
-        return title ? QVariant() : option->custom.isNull() ? option->choice : option->custom;
+        return title                        ? QVariant()
+               : option->at.custom.isNull() ? option->at.choice
+                                            : option->at.custom;
     case Qt::FontRole: {
         QFont font;
-        font.setBold(m_session.differsFromDefault(option->keyword));
+        font.setBold(isChanged(*option));
         return font.bold() ? font : QVariant();
     }
     case Qt::ToolTipRole:
-        return plainToolTip(title ? titleToolTip(*option) : defaultText(*option));
+        return plainToolTip(title ? titleToolTip(*option) : formerText(*option));
     case Qt::AccessibleDescriptionRole:
         // A heading is not read to who goes through the rows.
-        return title ? m_groups.at(index.parent().row()).title : defaultText(*option);
+        return title ? m_groups.at(index.parent().row()).title : formerText(*option);
     case KeywordRole:
         return option->keyword;
     case SearchRole:
@@ -223,8 +226,8 @@ bool OptionsModel::setData(const QModelIndex &index, const QVariant &value, int 
     const QString choice = value.toString();
     Q_EMIT proposed(keyword, choice);
     refresh();
-    const QString custom = m_session.customValue(keyword);
-    return (custom.isNull() ? m_session.markedChoice(keyword) : custom) == choice;
+    const OptionValues::Value now = m_values.of(keyword);
+    return (now.custom.isNull() ? now.choice : now.custom) == choice;
 }
 
 QString OptionsModel::searchText(const Group &group, const Option &option) const
@@ -237,18 +240,22 @@ QString OptionsModel::searchText(const Group &group, const Option &option) const
 
 QString OptionsModel::titleToolTip(const Option &option) const
 {
-    const QString choice = option.custom.isNull() ? option.choice : option.custom;
-    if (option.isHidden && !option.custom.isNull())
+    const QString choice = option.at.custom.isNull() ? option.at.choice : option.at.custom;
+    if (option.isHidden && !option.at.custom.isNull())
         return option.title;
     // The title is cut where it is too long; scripts want the keyword.
     return tr("%1\nFor the command line: %2")
         .arg(option.title, u"-o %1=%2"_s.arg(option.keyword, choice));
 }
 
-QString OptionsModel::defaultText(const Option &option) const
+// What a changed option would be otherwise.
+QString OptionsModel::formerText(const Option &option) const
 {
+    if (m_changes)
+        return isChanged(option) ? tr("Changed. %1").arg(m_changes->settings.value(option.keyword))
+                                 : QString();
     const ppd_choice_t *byDefault = ppdChoice(option.option, ppdKeyword(option.option->defchoice));
-    return byDefault && m_session.differsFromDefault(option.keyword)
+    return byDefault && m_values.differsFromDefault(option.keyword)
                ? tr("Default: %1").arg(choiceText(*byDefault))
                : QString();
 }
@@ -260,7 +267,7 @@ OptionsFilter::OptionsFilter(QObject *parent) : QSortFilterProxyModel(parent)
 
 void OptionsFilter::search(const QString &text)
 {
-    m_words = searchForm(text).simplified().split(u' ', Qt::SkipEmptyParts);
+    m_words = searchWords(text);
     invalidateFilter();
 }
 

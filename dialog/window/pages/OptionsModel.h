@@ -1,19 +1,24 @@
 #pragma once
 
+#include <optional>
+
 #include <QAbstractItemModel>
 #include <QList>
 #include <QSortFilterProxyModel>
 #include <QString>
 #include <QStringList>
 
+#include "dialog/session/OptionValues.h"
+#include "dialog/window/pages/ListedOptions.h"
+#include "dialog/window/pages/ShownChanges.h"
 #include "platform/printcore/Ppd.h"
 
 namespace corvana {
 
 class PpdSession;
 
-/// The options of a printer that the General page does not offer, under the groups of its PPD and
-/// in their order, with the choices that the session has marked.
+/// Options of a printer under the groups of its PPD and in their order, with the choices that they
+/// are at.
 ///
 /// A choice that is set here is proposed; what became of it is shown after refresh().
 class OptionsModel : public QAbstractItemModel
@@ -27,15 +32,22 @@ public:
         SearchRole                  ///< group, option and choices in the form of searchForm()
     };
 
-    /// Borrows the session.
-    explicit OptionsModel(PpdSession &session, QObject *parent = nullptr);
+    /// Borrows the session, and the plug-in's values.
+    explicit OptionsModel(PpdSession &session, const ListedOptions &listed = {},
+                          QObject *parent = nullptr);
 
     PpdSession &session() const { return m_session; }
+    const OptionValues &values() const { return m_values; }
+    /// The row of an option; invalid for one that is not listed.
+    QModelIndex indexOf(const QString &keyword) const;
     int optionCount() const;
     /// Shows the session's marks.
     void refresh();
-    /// Whether the option of this row differs from the printer's default.
-    bool differsFromDefault(const QModelIndex &index) const;
+    /// Marks the options that were changed; until this was called, those that differ from the
+    /// printer's own defaults.
+    void showChanges(const ShownChanges &changes);
+    /// Whether the option of this row is marked.
+    bool isChanged(const QModelIndex &index) const;
     /// Proposes the printer's default for the option of this row.
     void proposeDefault(const QModelIndex &index);
 
@@ -58,10 +70,9 @@ private:
         ppd_option_t *option = nullptr;
         QString keyword;
         QString title;
-        QString choice; ///< the mark that is shown
-        QString custom;
-        QString value;         ///< its text
-        bool isHidden = false; ///< its custom value is a password
+        OptionValues::Value at; ///< what is shown
+        QString value;          ///< its text
+        bool isHidden = false;  ///< its custom value is a password
         mutable QString search;
     };
     struct Group
@@ -71,21 +82,17 @@ private:
     };
 
     const Option *optionAt(const QModelIndex &index) const;
+    bool isChanged(const Option &option) const;
     bool readMark(Option &option) const;
     QString searchText(const Group &group, const Option &option) const;
     QString titleToolTip(const Option &option) const;
-    QString defaultText(const Option &option) const;
+    QString formerText(const Option &option) const;
 
     PpdSession &m_session;
+    OptionValues m_values;
     QList<Group> m_groups;
+    std::optional<ShownChanges> m_changes;
 };
-
-/// The text of an option's choice as the PPD says it; its keyword where that cannot be read.
-QString choiceText(const ppd_choice_t &choice);
-
-/// The form in which texts are compared when somebody searches: without regard to case, accents and
-/// the width of letters.
-QString searchForm(const QString &text);
 
 /// The options that hold all words of a search, each in its group.
 class OptionsFilter : public QSortFilterProxyModel

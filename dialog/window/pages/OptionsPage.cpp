@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "dialog/session/PpdSession.h"
@@ -25,10 +24,10 @@ namespace {
 constexpr int kMostWithoutSearch = 20; // options that can be looked through
 }
 
-OptionsPage::OptionsPage(PpdSession &session, QWidget *parent)
-    : QWidget(parent), m_model(new OptionsModel(session, this)), m_filter(new OptionsFilter(this)),
-      m_search(new QLineEdit(this)), m_view(new OptionsView(this)),
-      m_delegate(new ChoiceDelegate(*m_model, this)),
+OptionsPage::OptionsPage(PpdSession &session, const ListedOptions &listed, QWidget *parent)
+    : QWidget(parent), m_model(new OptionsModel(session, listed, this)),
+      m_filter(new OptionsFilter(this)), m_search(new QLineEdit(this)),
+      m_view(new OptionsView(this)), m_delegate(new ChoiceDelegate(*m_model, this)),
       m_reset(new QAction(tr("Back to the Default"), m_view)), m_hint(plainLabel({}, this))
 {
     m_hint->setObjectName(u"hint"_s);
@@ -61,13 +60,6 @@ void OptionsPage::buildSearch()
     m_search->setVisible(needed);
     setFocusProxy(needed ? static_cast<QWidget *>(m_search) : m_view);
     connect(m_search, &QLineEdit::textChanged, this, &OptionsPage::search);
-    if (!needed)
-        return;
-    auto *find = new QShortcut(QKeySequence::Find, this);
-    connect(find, &QShortcut::activated, m_search, [this] {
-        m_search->setFocus();
-        m_search->selectAll();
-    });
 }
 
 void OptionsPage::buildList()
@@ -102,11 +94,33 @@ void OptionsPage::refresh()
     m_model->refresh();
 }
 
+void OptionsPage::showChanges(const ShownChanges &changes)
+{
+    m_knowsBase = true;
+    m_reset->setText(QString(changes.back).replace(u'&', "&&"_L1));
+    m_model->showChanges(changes);
+    updateReset();
+}
+
 bool OptionsPage::finishEditing()
 {
     if (ChoiceEditor *editor = m_delegate->editor())
         editor->finish();
     return !m_delegate->editor();
+}
+
+OptionsPage::Row OptionsPage::goTo(const QString &keyword)
+{
+    const QModelIndex option = m_model->indexOf(keyword);
+    if (!option.isValid() || !finishEditing())
+        return {};
+    m_search->clear();
+    const QModelIndex row = m_filter->mapFromSource(option);
+    m_view->setCurrentIndex(row);
+    m_view->scrollTo(row);
+    m_view->setFocus();
+    const QRect title = m_view->visualRect(row.siblingAtColumn(OptionsModel::Title));
+    return {m_view->viewport(), title | m_view->visualRect(row)};
 }
 
 void OptionsPage::focusEditor()
@@ -161,12 +175,16 @@ bool OptionsPage::eventFilter(QObject *watched, QEvent *event)
 
 void OptionsPage::updateReset()
 {
-    m_reset->setEnabled(m_model->differsFromDefault(m_filter->mapToSource(m_view->currentIndex())));
+    m_reset->setEnabled(m_model->isChanged(m_filter->mapToSource(m_view->currentIndex())));
 }
 
 void OptionsPage::resetCurrent()
 {
-    m_model->proposeDefault(m_filter->mapToSource(m_view->currentIndex()));
+    const QModelIndex current = m_filter->mapToSource(m_view->currentIndex());
+    if (m_knowsBase)
+        Q_EMIT resetWanted(current.data(OptionsModel::KeywordRole).toString());
+    else
+        m_model->proposeDefault(current);
 }
 
 // `aloud`: a screen reader says it, although the focus stays where the user works.

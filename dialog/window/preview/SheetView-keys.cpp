@@ -52,6 +52,11 @@ bool SheetView::moveByKey(int key)
             setCurrent(sideOf(m_sheets.plan, next) ? next : SideIndex{next.sheet});
         return true;
     }
+    case Qt::Key_Space:
+        if (markOf(m_current).isEmpty())
+            return false;
+        Q_EMIT markPressed(markOf(m_current));
+        return true;
     case Qt::Key_PageDown:
     case Qt::Key_PageUp:
         turnPage(key == Qt::Key_PageDown ? 1 : -1);
@@ -134,7 +139,9 @@ void SheetView::updateCurrent()
 void SheetView::describeCurrent()
 {
     const QString side = sideDescription(m_sheets.plan, m_sheets.titles, m_current);
-    setAccessibleName(side.isEmpty() ? tr("Preview") : tr("Preview. %1").arg(side));
+    const QString mark = markOf(m_current);
+    const QString text = mark.isEmpty() ? side : tr("%1. Note: %2").arg(side, mark);
+    setAccessibleName(side.isEmpty() ? tr("Preview") : tr("Preview. %1").arg(text));
 }
 
 void SheetView::showCurrent()
@@ -178,6 +185,9 @@ void SheetView::mousePressEvent(QMouseEvent *event)
         return event->ignore();
     m_current = side;
     updateCurrent();
+    const QString mark = markOf(side);
+    if (!mark.isEmpty() && markPlace(side).contains(event->position().toPoint()))
+        Q_EMIT markPressed(mark);
 }
 
 void SheetView::focusInEvent(QFocusEvent *event)

@@ -88,6 +88,7 @@ void SheetView::pictureDrawn(const QString &file, int page)
         return;
     const QRect seen = seenPart();
     const auto [first, last] = m_layout.sheetsBetween(seen.top(), seen.bottom());
+    describeCurrent(); // it may be one that cannot be drawn
     for (int sheet = first; sheet <= last; ++sheet) {
         for (const bool isBack : {false, true}) {
             const PlannedSide *side = sideOf(m_sheets.plan, {sheet, isBack});
@@ -109,6 +110,8 @@ PaintedSide SheetView::painted(SideIndex index) const
     side.turn = planned.turn;
     side.bound = boundEdge(m_sheets.plan, index);
     side.isCurrent = hasFocus() && index == m_current;
+    if (!markOf(index).isEmpty())
+        side.mark = markPlace(index);
     if (planned.kind == PlannedSide::Kind::Cover)
         side.problem = tr("Cover sheet of the queue: %1").arg(planned.cover);
     if (!m_pictures || planned.laidOutPage < 0)

@@ -231,9 +231,39 @@ QString SheetView::toolTipAt(QPoint place) const
     const SideIndex side = m_layout.sideAt(offset() + place);
     if (!side.isValid())
         return {};
-    const QString bound = boundEdgeText(m_sheets.plan, side);
-    const QString what = sideDescription(m_sheets.plan, m_sheets.titles, side);
-    return plainToolTip(bound.isEmpty() ? what : what + u'\n' + bound);
+    QStringList texts{sideDescription(m_sheets.plan, m_sheets.titles, side), markOf(side),
+                      boundEdgeText(m_sheets.plan, side)};
+    texts.removeAll(QString());
+    return plainToolTip(texts.join(u'\n'));
+}
+
+// What is to be said of a side: what its task knows, and what whoever draws it has found out.
+QString SheetView::markOf(SideIndex side) const
+{
+    const PlannedSide *planned = sideOf(m_sheets.plan, side);
+    if (!planned)
+        return {};
+    QStringList texts{
+        markOn(m_sheets.marks, side.sheet, side.isBack ? SheetSide::Back : SheetSide::Front)};
+    if (m_pictures && planned->laidOutPage >= 0)
+        texts += m_pictures->problem(m_sheets.files.value(planned->document), planned->laidOutPage);
+    texts.removeAll(QString());
+    return texts.join(u'\n');
+}
+
+// In the viewport, in the corner where a line of text ends.
+QRect SheetView::markPlace(SideIndex side) const
+{
+    const QRect paper = m_layout.paper(side).translated(-offset());
+    const int size = qMin(fontMetrics().height() * 3 / 2, paper.width() / 2);
+    const int away = fontMetrics().height() / 3;
+    QRect place(0, 0, size, size);
+    place.moveTop(paper.top() + away);
+    if (isRightToLeft())
+        place.moveLeft(paper.left() + away);
+    else
+        place.moveRight(paper.right() - away);
+    return place;
 }
 
 bool SheetView::viewportEvent(QEvent *event)

@@ -5,6 +5,7 @@
 #include <QAbstractScrollArea>
 #include <QTimer>
 
+#include "dialog/sheets/SheetMarks.h"
 #include "dialog/window/preview/SheetLayout.h"
 #include "dialog/window/preview/SidePainter.h"
 
@@ -18,6 +19,7 @@ struct ShownSheets
     SheetPlan plan{};
     QStringList files{};  ///< of each document, the one that was laid out
     QStringList titles{}; ///< of each document
+    QList<SheetMark> marks{};
 
     bool operator==(const ShownSheets &) const = default;
 };
@@ -70,6 +72,9 @@ Q_SIGNALS:
     void zoomChanged();
     /// Another sheet is looked at, or there is another number of them.
     void lookedAtChanged();
+    /// A mark was clicked, or Space pressed on a marked side: its user wants to read what it is
+    /// about.
+    void markPressed(const QString &text);
 
 protected:
     bool event(QEvent *event) override;
@@ -106,6 +111,8 @@ private:
     QRect seenPart() const;
     void tellLookedAt();
     QString toolTipAt(QPoint place) const;
+    QString markOf(SideIndex side) const;
+    QRect markPlace(SideIndex side) const;
 
     // Pictures (SheetView-pictures.cpp)
 

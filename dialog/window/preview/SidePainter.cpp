@@ -76,6 +76,28 @@ void paintProblem(QPainter &painter, const PaintedSide &side)
     painter.restore();
 }
 
+// A sign that is read without its color, on a ground of its own, since it may lie on anything.
+void paintMark(QPainter &painter, const QRect &place)
+{
+    constexpr QRgb kGround = 0xfff9c513;
+    constexpr QRgb kSign = 0xff2b2b2b;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF box = QRectF(place).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(QColor::fromRgb(kSign), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(QColor::fromRgb(kGround));
+    painter.drawPolygon(
+        QPolygonF{QPointF(box.center().x(), box.top()), box.bottomRight(), box.bottomLeft()});
+    // An exclamation mark: its stroke, and its dot.
+    const double width = box.width() * 0.11;
+    painter.setPen(QPen(QColor::fromRgb(kSign), width, Qt::SolidLine, Qt::RoundCap));
+    const double x = box.center().x();
+    painter.drawLine(QPointF(x, box.top() + box.height() * 0.38),
+                     QPointF(x, box.top() + box.height() * 0.66));
+    painter.drawPoint(QPointF(x, box.top() + box.height() * 0.84));
+    painter.restore();
+}
+
 } // namespace
 
 QColor SidePainter::background(const QPalette &palette)
@@ -99,6 +121,8 @@ void SidePainter::paint(QPainter &painter, const PaintedSide &side, const QPalet
         if (!side.problem.isEmpty())
             paintProblem(painter, side);
     }
+    if (side.mark.intersects(exposed))
+        paintMark(painter, side.mark);
     const QColor text = palette.color(QPalette::WindowText);
     const QColor weak = mixed(text, background(palette), 35);
     if (side.isCurrent) {

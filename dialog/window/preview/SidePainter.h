@@ -25,6 +25,7 @@ struct PaintedSide
     QString problem{}; ///< stands on the paper instead of a picture
     std::optional<Qt::Edge> bound{};
     bool isCurrent = false; ///< and has the focus
+    QRect mark{};           ///< where it is marked; null where it is not
 };
 
 /// Paints sides of sheets: the paper with its shadow, the picture of what is printed on it in the

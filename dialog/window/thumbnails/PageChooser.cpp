@@ -1,6 +1,7 @@
 #include "dialog/window/thumbnails/PageChooser.h"
 
 #include <limits>
+#include <utility>
 
 #include <QAccessible>
 #include <QDialogButtonBox>
@@ -95,6 +96,20 @@ void PageChooser::build()
     state->addWidget(m_note, 1);
     layout->addLayout(state);
     layout->addWidget(m_buttons);
+    // In the order of reading: the buttons of the choices are the youngest.
+    QWidget *before = m_thumbnails;
+    QList<QWidget *> behind;
+    for (auto *button : findChildren<QPushButton *>()) {
+        if (!m_buttons->isAncestorOf(button))
+            behind += button;
+    }
+    behind += m_field;
+    for (auto *button : m_buttons->buttons())
+        behind += button;
+    for (QWidget *widget : std::as_const(behind)) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
 }
 
 QWidget *PageChooser::buildButtons()
@@ -146,8 +161,8 @@ void PageChooser::setPages(const ChoosablePages &pages)
         }
     }
     m_intro->setVisible(pages.documents.size() > 1);
-    m_intro->setText(tr("The same page numbers are printed of each document: a tick at page 4 of "
-                        "one is a tick at page 4 of all."));
+    m_intro->setText(
+        tr("Page numbers count in each document: what is ticked in one is ticked in all."));
     choose(m_isTouched ? m_ranges : pages.ranges());
 }
 

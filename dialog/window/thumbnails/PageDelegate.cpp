@@ -118,7 +118,7 @@ void PageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     } else {
         if (option.state.testFlag(QStyle::State_HasFocus)) {
             painter->setRenderHint(QPainter::Antialiasing);
-            painter->setPen(QPen(option.palette.color(QPalette::Highlight), 2));
+            painter->setPen(QPen(option.palette.color(QPalette::Active, QPalette::Highlight), 2));
             painter->drawRoundedRect(QRectF(option.rect).adjusted(3, 3, -3, -3), 4, 4);
             painter->setRenderHint(QPainter::Antialiasing, false);
         }
@@ -136,7 +136,7 @@ void PageDelegate::paintHeading(QPainter *painter, const QStyleOptionViewItem &o
     QFont bold = option.font;
     bold.setBold(true);
     painter->setFont(bold);
-    painter->setPen(option.palette.color(QPalette::Text));
+    painter->setPen(option.palette.color(QPalette::Active, QPalette::Text));
     const QRect line(place.topLeft(), QSize(place.width(), option.fontMetrics.height()));
     const int flags =
         int(Qt::AlignVCenter) | int(QStyle::visualAlignment(option.direction, Qt::AlignLeft));
@@ -144,7 +144,7 @@ void PageDelegate::paintHeading(QPainter *painter, const QStyleOptionViewItem &o
                       QFontMetrics(bold).elidedText(index.data(Qt::DisplayRole).toString(),
                                                     Qt::ElideMiddle, line.width()));
     painter->setFont(option.font);
-    painter->setPen(option.palette.color(QPalette::PlaceholderText));
+    painter->setPen(option.palette.color(QPalette::Active, QPalette::PlaceholderText));
     painter->drawText(place.adjusted(0, line.height(), 0, 0),
                       int(Qt::TextWordWrap) |
                           int(QStyle::visualAlignment(option.direction, Qt::AlignLeft)),
@@ -178,12 +178,12 @@ void PageDelegate::paintPaper(QPainter *painter, const QStyleOptionViewItem &opt
         painter->setClipping(false);
     }
     if (index.data(Qt::CheckStateRole).toInt() != Qt::Checked) {
-        QColor veil = option.palette.color(QPalette::Base);
+        QColor veil = option.palette.color(QPalette::Active, QPalette::Base);
         veil.setAlpha(kFaded);
         painter->fillRect(paper, veil);
     }
     // Around the paper, which has the color of many a background.
-    painter->setPen(option.palette.color(QPalette::Mid));
+    painter->setPen(option.palette.color(QPalette::Active, QPalette::Mid));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(paper.adjusted(-1, -1, 0, 0));
 }
@@ -211,7 +211,7 @@ void PageDelegate::paintLine(QPainter *painter, const QStyleOptionViewItem &opti
                   (isTicked ? QStyle::State_On : QStyle::State_Off);
     option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &check, painter,
                                           option.widget);
-    painter->setPen(option.palette.color(QPalette::Text));
+    painter->setPen(option.palette.color(QPalette::Active, QPalette::Text));
     const QRect place = QStyle::alignedRect(option.direction, Qt::AlignRight | Qt::AlignVCenter,
                                             {used - box - between, height}, both);
     painter->drawText(place, int(Qt::AlignVCenter) | int(Qt::AlignHCenter), text);

@@ -10,6 +10,7 @@
 #include "dialog/preview/RendererProcess.h"
 #include "tests/dialog/preview/ReferencePages.h"
 #include "tests/dialog/preview/Renderers.h"
+#include "tests/support/LabelledPdf.h"
 #include "tests/support/NumberedPdf.h"
 #include "tests/support/Rows.h"
 
@@ -220,6 +221,46 @@ private Q_SLOTS:
         QList<QSizeF> sizes;
         QCOMPARE(process.listSizes(kDocument, pages, &sizes), Outcome::Done);
         QCOMPARE(sizes, papers);
+    }
+
+    void labelsAreThoseOfTheDocument()
+    {
+        const QByteArray labels = "0 << /S /r >> 4 << /S /D >> 69 << /P (A-) /S /D >>";
+        const QString file =
+            writtenFile(m_folder.path(), u"labelled.pdf"_s, labelledPdf("page", 70, labels));
+        RendererProcess process(RendererSettings::shipped());
+        QCOMPARE(process.start(), Outcome::Done);
+        int pages = 0;
+        QCOMPARE(process.open(kDocument, file, {}, &pages), Outcome::Done);
+        QStringList found;
+        QCOMPARE(process.listLabels(kDocument, pages, &found), Outcome::Done);
+        QCOMPARE(found.size(), 70); // in two messages
+        QCOMPARE(found.first(5), (QStringList{u"i"_s, u"ii"_s, u"iii"_s, u"iv"_s, u"1"_s}));
+        QCOMPARE(found.constLast(), u"A-1"_s);
+        // A document without labels calls its pages by their numbers.
+        QCOMPARE(process.open(2, m_file, {}, &pages), Outcome::Done);
+        QCOMPARE(process.listLabels(2, pages, &found), Outcome::Done);
+        QCOMPARE(found, (QStringList{QString(), QString(), QString()}));
+    }
+
+    void hostileLabelsAreBoundedAndHarmless()
+    {
+        const QByteArray labels = "0 << /P (" + QByteArray(5000, 'x') +
+                                  ") >> 1 << /P (a\\033[2J\\nb) >> 2 << /P <FEFF0041202E0042> >> "
+                                  "3 << /P <FEFFD83DDE0000E9> >> 4 << /P <FEFFDE00D83D> >>";
+        const QString file =
+            writtenFile(m_folder.path(), u"hostile-labels.pdf"_s, labelledPdf("page", 5, labels));
+        RendererProcess process(RendererSettings::shipped());
+        QCOMPARE(process.start(), Outcome::Done);
+        int pages = 0;
+        QCOMPARE(process.open(kDocument, file, {}, &pages), Outcome::Done);
+        QStringList found;
+        QCOMPARE(process.listLabels(kDocument, pages, &found), Outcome::Done);
+        QCOMPARE(found.value(0), QString(renderer::kLabelRoom, u'x'));
+        QCOMPARE(found.value(1), u"a?[2J?b"_s);
+        QCOMPARE(found.value(2), u"A<U+202E>B"_s);
+        QCOMPARE(found.value(3), u"\U0001F600\u00e9"_s);
+        QCOMPARE(found.value(4), u"\ufffd\ufffd"_s); // halves of a character
     }
 
     void aPasswordOpensWhatIsProtected()

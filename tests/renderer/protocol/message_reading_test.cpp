@@ -72,6 +72,23 @@ Sizes sizes()
     return message; // the second page is damaged
 }
 
+ListLabels listLabels()
+{
+    auto message = made<ListLabels>(kSequence);
+    message.document = 1;
+    message.first = 64;
+    return message;
+}
+
+Labels labels()
+{
+    auto message = made<Labels>(kSequence);
+    message.count = 2;
+    message.labels[0].bytes = 2;
+    std::copy_n("iv", 2, message.labels[0].text.begin());
+    return message; // the second page has none
+}
+
 CheckDocument checkDocument()
 {
     auto message = made<CheckDocument>(kSequence);
@@ -209,6 +226,11 @@ const BadRequest kBadRequests[] = {
      [] { return changed(drawPage(), [](DrawPage &m) { m.page = kMaxPages; }); }, kWithDescriptor},
     {"sizes of pages that no document has",
      [] { return changed(listSizes(), [](ListSizes &m) { m.first = kMaxPages; }); }, false},
+    {"labels with a descriptor", [] { return bytesOf(listLabels()); }, kWithDescriptor},
+    {"document 0, labelled",
+     [] { return changed(listLabels(), [](ListLabels &m) { m.document = 0; }); }, false},
+    {"labels of pages that no document has",
+     [] { return changed(listLabels(), [](ListLabels &m) { m.first = kMaxPages; }); }, false},
     {"no width", [] { return bytesOf(drawPage(0, 842)); }, kWithDescriptor},
     {"no height", [] { return bytesOf(drawPage(595, 0)); }, kWithDescriptor},
     {"too wide", [] { return bytesOf(drawPage(kMaxSide + 1, 1)); }, kWithDescriptor},
@@ -242,6 +264,7 @@ const GoodRequest kGoodRequests[] = {
      },
      kWithDescriptor},
     {"sizes", [] { return bytesOf(listSizes()); }, false},
+    {"labels", [] { return bytesOf(listLabels()); }, false},
     {"drawing", [] { return bytesOf(drawPage()); }, kWithDescriptor},
     {"one pixel", [] { return bytesOf(drawPage(1, 1)); }, kWithDescriptor},
     {"the most pixels", [] { return bytesOf(drawPage(8000, 8000)); }, kWithDescriptor},
@@ -312,6 +335,19 @@ const BadAnswer kBadAnswers[] = {
      [] { return isRead(sizes(), [](Sizes &m) {
               m.sizes[255] = {-1, 1};
           }); }},
+    {"more labels than there is room for",
+     [] { return isRead(labels(), [](Labels &m) { m.count = kLabelsAtOnce + 1; }); }},
+    {"no labels", [] { return isRead(labels(), [](Labels &m) { m.count = 0; }); }},
+    {"labels of a refused request",
+     [] { return isRead(labels(), [](Labels &m) { m.status = Status::Refused; }); }},
+    {"a label longer than its room",
+     [] { return isRead(labels(), [](Labels &m) { m.labels[1].bytes = kLabelRoom + 1; }); }},
+    {"a label that moves the cursor",
+     [] { return isRead(labels(), [](Labels &m) { m.labels[0].text[1] = '\x1b'; }); }},
+    {"something behind a label",
+     [] { return isRead(labels(), [](Labels &m) { m.labels[0].text[2] = 'x'; }); }},
+    {"nonsense behind the labels",
+     [] { return isRead(labels(), [](Labels &m) { m.labels[63].text[0] = 'x'; }); }},
     {"a checked document without pages",
      [] { return isRead(checked(), [](Checked &m) { m.pages = 0; }); }},
     {"more checked pages than there can be",

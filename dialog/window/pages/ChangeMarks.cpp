@@ -1,0 +1,186 @@
+#include "dialog/window/pages/ChangeMarks.h"
+
+#include <QAbstractSpinBox>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
+#include <QStyle>
+
+#include "platform/toolkit/PlainText.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// These have a menu of their own.
+bool isField(const QWidget *widget)
+{
+    return qobject_cast<const QLineEdit *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget);
+}
+
+// Where the text of a title begins and ends. Units: pixels of its parent.
+std::pair<int, int> textOf(const QWidget &title)
+{
+    const QRect whole = title.geometry();
+    const auto *label = qobject_cast<const QLabel *>(&title);
+    if (!label || label->wordWrap())
+        return {whole.left(), whole.right() + 1};
+    const int width = qMin(label->sizeHint().width(), whole.width());
+    const Qt::Alignment alignment =
+        QStyle::visualAlignment(title.layoutDirection(), label->alignment());
+    const int left = alignment & Qt::AlignRight     ? whole.right() + 1 - width
+                     : alignment & Qt::AlignHCenter ? whole.center().x() - width / 2
+                                                    : whole.left();
+    return {left, left + width};
+}
+
+} // namespace
+
+// Lies over the page, in front of the title where there is room, else behind it.
+class ChangeMarks::Dot : public QWidget
+{
+public:
+    explicit Dot(QWidget &title) : QWidget(title.parentWidget()), m_title(title)
+    {
+        setObjectName(u"changed"_s);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    void follow()
+    {
+        const int side = qMax(6, fontMetrics().height() / 2);
+        const QRect whole = m_title.geometry();
+        const auto [left, right] = textOf(m_title);
+        const bool isMirrored = m_title.layoutDirection() == Qt::RightToLeft;
+        const int before = isMirrored ? right + 1 : left - side - 1;
+        const int behind = isMirrored ? left - side - 1 : right + 1;
+        const int most = qMax(0, parentWidget()->width() - side);
+        const bool fits = before >= 0 && before <= most;
+        setGeometry(fits ? before : qBound(0, behind, most), whole.center().y() - side / 2, side,
+                    side);
+        setVisible(m_title.isVisibleTo(m_title.parentWidget()));
+        raise();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette().color(QPalette::Highlight));
+        const qreal side = width();
+        painter.drawEllipse(QRectF(side * 0.15, side * 0.15, side * 0.7, side * 0.7));
+    }
+
+private:
+    QWidget &m_title;
+};
+
+ChangeMarks::ChangeMarks(QObject *parent) : QObject(parent) {}
+
+// The controls may outlive the marks, with what was said of them.
+ChangeMarks::~ChangeMarks()
+{
+    for (Mark &mark : m_marks)
+        unmark(mark);
+}
+
+void ChangeMarks::show(const QList<MarkedControl> &controls, const ShownChanges &changes)
+{
+    m_back = changes.back;
+    QHash<QString, Mark> former = std::exchange(m_marks, {});
+    for (const MarkedControl &control : controls) {
+        const auto change = changes.settings.constFind(control.name);
+        if (change == changes.settings.cend() || !control.control || m_marks.contains(control.name))
+            continue;
+        const auto shown = former.constFind(control.name);
+        if (shown != former.cend() && shown->dot && shown->of.control == control.control)
+            m_marks.insert(control.name, former.take(control.name));
+        mark(control, *change);
+    }
+    for (Mark &gone : former)
+        unmark(gone);
+}
+
+void ChangeMarks::mark(const MarkedControl &control, const QString &text)
+{
+    QWidget *title = control.label ? control.label : control.control;
+    Mark &mark = m_marks[control.name];
+    const QString said = tr("Changed. %1").arg(text);
+    if (!mark.dot) {
+        mark.of = control;
+        mark.dot = new Dot(*title);
+        mark.description = control.control->accessibleDescription();
+        // A title that goes takes its dot along.
+        connect(title, &QObject::destroyed, mark.dot, &QObject::deleteLater);
+        for (QWidget *watched : {title, control.control.data(), static_cast<QWidget *>(mark.dot)})
+            watched->installEventFilter(this);
+    }
+    mark.dot->setToolTip(plainToolTip(said));
+    mark.dot->setAccessibleName(said);
+    control.control->setAccessibleDescription(
+        mark.description.isEmpty() ? said : tr("%1 %2").arg(said, mark.description));
+    mark.dot->follow();
+}
+
+void ChangeMarks::unmark(Mark &mark)
+{
+    if (mark.of.control) {
+        mark.of.control->setAccessibleDescription(mark.description);
+        mark.of.control->removeEventFilter(this);
+    }
+    if (mark.of.label)
+        mark.of.label->removeEventFilter(this);
+    delete mark.dot;
+}
+
+bool ChangeMarks::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ContextMenu:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+        break;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+    for (auto mark = m_marks.cbegin(); mark != m_marks.cend(); ++mark) {
+        const bool isTitle =
+            watched == mark->of.label || (!mark->of.label && watched == mark->of.control);
+        if (event->type() != QEvent::ContextMenu) {
+            if (isTitle && mark->dot && !mark->of.control.isNull())
+                mark->dot->follow();
+            continue;
+        }
+        const bool isMine = isTitle || watched == mark->dot || watched == mark->of.control;
+        if (!isMine || isField(qobject_cast<QWidget *>(watched)))
+            continue;
+        openMenu(mark.key(), static_cast<QContextMenuEvent *>(event)->globalPos());
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ChangeMarks::openMenu(const QString &name, const QPoint &place)
+{
+    auto *menu = new QMenu(m_marks.value(name).of.control->window());
+    menu->setObjectName(u"changedMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QString text = m_back; // may be a preset's name, in which no letter is a key
+    QAction *back = menu->addAction(text.replace(u'&', "&&"_L1));
+    // Later: the menu is in the midst of closing, and the setting may have its own to say.
+    connect(
+        back, &QAction::triggered, this, [this, name] { Q_EMIT resetWanted(name); },
+        Qt::QueuedConnection);
+    menu->popup(place);
+}
+
+} // namespace corvana
