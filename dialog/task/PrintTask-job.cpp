@@ -80,7 +80,7 @@ void PrintTask::print()
     m_run.textsAreSettled = false;
     std::optional<TaskRefusal> refusal = finish();
     if (!refusal && m_phase == Phase::Asking)
-        refusal = saveInstance();
+        refusal = presets().saveInstance();
     // Interrupted, while an alert was waiting for its answer.
     if (m_phase != Phase::Asking)
         return;

@@ -11,7 +11,6 @@
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
-#include "dialog/task/InstanceDraft.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -126,12 +125,6 @@ public:
     void showSettings();
     /// The summary of the job as it stands now.
     QList<SummaryLine> summary();
-    /// What the settings would be as an instance of the queue, under a name that is made from this
-    /// one (PrintTask-instances.cpp). Whoever wants it writes it with writeInstance(), which waits.
-    InstanceDraft instanceDraft(const QString &name, const KnownInstances &known, bool withDevice);
-    /// Writes the instance that the request names, for somebody who waits for nothing else.
-    /// `settings`: the preset that it is of; empty for none.
-    std::optional<TaskRefusal> saveInstance(const QString &settings = {});
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
@@ -357,7 +350,6 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
-    void sayOfInstance(const InstanceDraft &draft);
     QString unknownDocument() const;
     void lookForMissingCharacters();
     bool isTextCheckOver() const;

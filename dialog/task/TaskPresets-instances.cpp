@@ -36,13 +36,46 @@ QString TaskPresets::selectedElsewhere() const
                : QString();
 }
 
+InstanceDraft TaskPresets::draft(const QString &name, const KnownInstances &known,
+                                 bool withDevice) const
+{
+    if (!m_task.opened() || m_task.phase() == PrintTask::Phase::Opened)
+        return {{}, {}, {}, tr("The printer is not known yet.")};
+    // The panels restore and save on the way.
+    m_task.summaryOfSettings();
+    return draftInstance(name, *m_task.opened(), m_task.settings(), known, withDevice);
+}
+
+void TaskPresets::sayOfInstance(const InstanceDraft &draft)
+{
+    for (const QString &sentence : draft.leftOut)
+        Q_EMIT m_task.noted(sentence);
+    Q_EMIT m_task.noted(tr("Other programs print with these settings to “%1”.").arg(draft.name));
+}
+
+std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
+{
+    const QString &name = m_task.request().instance;
+    if (name.isEmpty())
+        return std::nullopt;
+    // A preset has nothing of what sets up the device; what was asked for just now has.
+    const bool withDevice = settings.isEmpty();
+    const InstanceDraft made = draft(name, KnownInstances::read(), withDevice);
+    QString problem = made.problem;
+    if (problem.isEmpty())
+        problem = writeInstance(made, withDevice ? name : settings);
+    if (!problem.isEmpty())
+        return TaskRefusal{{problem}};
+    sayOfInstance(made);
+    return std::nullopt;
+}
+
 // Whoever keeps a preset under the name of an earlier one means its instance, too.
 InstanceDraft TaskPresets::draftElsewhere(const PresetToSave &wanted) const
 {
     const KnownInstances known = KnownInstances::read();
     const QString there = known.ofSettings(wanted.name, queueOf(m_task.printer()));
-    return m_task.instanceDraft(there.isEmpty() ? wanted.name : there.section(u'/', 1), known,
-                                wanted.device);
+    return draft(there.isEmpty() ? wanted.name : there.section(u'/', 1), known, wanted.device);
 }
 
 void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)
@@ -79,7 +112,7 @@ void TaskPresets::elsewhereEnded(const QString &instance, const QString &problem
         m_task.say(TaskMessage::Kind::Problem,
                    tr("“%1” in other programs: %2").arg(instance, problem));
     else if (written)
-        m_task.sayOfInstance(*written);
+        sayOfInstance(*written);
     if (written)
         Q_EMIT ended(problem);
 }

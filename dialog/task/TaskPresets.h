@@ -6,6 +6,7 @@
 
 #include "dialog/presets/PresetShelf.h"
 #include "dialog/task/InstanceDraft.h"
+#include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
 
 namespace corvana {
@@ -87,6 +88,9 @@ public:
     /// The instance that this program has made of the preset that is selected; empty where there is
     /// none of this printer.
     QString selectedElsewhere() const;
+    /// Writes the instance that the request names, for somebody who waits for nothing else; nothing
+    /// where it names none. `settings`: the preset that it is of; empty for none.
+    std::optional<TaskRefusal> saveInstance(const QString &settings = {});
     /// The instances of the queue that is open which others have made, by their whole names.
     QStringList instancesOfOthers() const;
 
@@ -145,7 +149,9 @@ private:
     void say(const QStringList &missing, const QStringList &details);
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
+    InstanceDraft draft(const QString &name, const KnownInstances &known, bool withDevice) const;
     InstanceDraft draftElsewhere(const PresetToSave &wanted) const;
+    void sayOfInstance(const InstanceDraft &draft);
     void writeElsewhere(const InstanceDraft &draft, const QString &name);
     void removeElsewhere();
     void renameElsewhere(const QString &name);

@@ -173,7 +173,7 @@ private:
     {
         if (!problem.isEmpty())
             return end({problem});
-        if (const auto refusal = m_task.saveInstance(m_task.request().presetToSave))
+        if (const auto refusal = m_task.presets().saveInstance(m_task.request().presetToSave))
             return end(refusal->problems);
         if (!m_task.request().quiet)
             QTextStream(stdout) << Texts::tr("The preset “%1” is kept.")

@@ -1929,14 +1929,6 @@ For the command line: %2</source>
         <source>Use Defaults</source>
         <translation>既定値を使用</translation>
     </message>
-    <message>
-        <source>The printer is not known yet.</source>
-        <translation>プリンターの情報がまだありません。</translation>
-    </message>
-    <message>
-        <source>Other programs print with these settings to “%1”.</source>
-        <translation>他のプログラムでは、「%1」に印刷するとこの設定が使われます。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3549,6 +3541,14 @@ For the command line: %2</source>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>「%1」はもう存在しないか、設定がありません。</translation>
+    </message>
+    <message>
+        <source>The printer is not known yet.</source>
+        <translation>プリンターの情報がまだありません。</translation>
+    </message>
+    <message>
+        <source>Other programs print with these settings to “%1”.</source>
+        <translation>他のプログラムでは、「%1」に印刷するとこの設定が使われます。</translation>
     </message>
 </context>
 <context>

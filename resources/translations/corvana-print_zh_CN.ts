@@ -1929,14 +1929,6 @@ For the command line: %2</source>
         <source>Use Defaults</source>
         <translation>使用默认值</translation>
     </message>
-    <message>
-        <source>The printer is not known yet.</source>
-        <translation>尚无打印机的信息。</translation>
-    </message>
-    <message>
-        <source>Other programs print with these settings to “%1”.</source>
-        <translation>其他程序打印到“%1”时使用这些设置。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3549,6 +3541,14 @@ For the command line: %2</source>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>“%1”已不存在，或没有任何设置。</translation>
+    </message>
+    <message>
+        <source>The printer is not known yet.</source>
+        <translation>尚无打印机的信息。</translation>
+    </message>
+    <message>
+        <source>Other programs print with these settings to “%1”.</source>
+        <translation>其他程序打印到“%1”时使用这些设置。</translation>
     </message>
 </context>
 <context>
