@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "dialog/printers/OwnInstances.h"
+#include "dialog/printers/UserQueuesLine.h"
 #include "dialog/task/InstanceDraft.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
@@ -72,10 +73,10 @@ const QList<Drafted> kDrafted{
     {"pages of the queue's default are answered", {}, u"page-set=odd"_s, {}, {u"page-set=all"_s}},
     {"copies of the user's line are answered", {}, {}, u"copies=7"_s, {u"copies=1"_s}},
     {"what a choice says is said by the name of the user's line",
-     u"Duplex=DuplexTumble PageSize=A5"_s,
+     u"Duplex=DuplexTumble"_s,
      {},
-     u"sides=one-sided media=A4"_s,
-     {u"sides=two-sided-short-edge"_s, u"media=A5"_s}},
+     u"sides=one-sided"_s,
+     {u"sides=two-sided-short-edge"_s}},
     {"what a choice says is said by the name of the queue's default",
      u"Duplex=None"_s,
      u"sides=two-sided-long-edge"_s,
@@ -138,7 +139,7 @@ private Q_SLOTS:
             const QString value = expected.section(u'=', 1);
             const QString found = valueOf(made.options, name);
             QVERIFY2(found == value && found.isNull() == !expected.contains(u'='),
-                     qPrintable(name + u": "_s + found));
+                     lineOf(false, made.name, made.options).constData());
         }
         QCOMPARE(made.leftOut.size(), row.said.size());
         for (qsizetype i = 0; i < row.said.size(); ++i)
