@@ -8,6 +8,7 @@
 #include "colorsetting/ColorSettingKeys.h"
 #include "colorsetting/Effects.h"
 #include "panel/Outlet.h"
+#include "platform/toolkit/Mnemonics.h"
 
 namespace corvana {
 
@@ -33,7 +34,7 @@ struct QXLaserColorSettingPDE::Roster
     };
 
     static const Option options[];
-    static const EffectControls effects[];
+    static const EffectControls effects[]; // in the order of the view
     // Controls that show neither an option nor an effect.
     static const Outlet<Panel> furtherOutlets[];
 
@@ -55,15 +56,15 @@ const QXLaserColorSettingPDE::Roster::EffectControls QXLaserColorSettingPDE::Ros
     {Effect::Contrast, outlet<&Panel::contrastLabel>("contrastLabel"_L1),
      outlet<&Panel::contrastField>("contrastField"_L1),
      outlet<&Panel::contrastSlider>("contrastSlider"_L1)},
+    {Effect::Saturation, outlet<&Panel::saturationLabel>("saturationLabel"_L1),
+     outlet<&Panel::saturationField>("saturationField"_L1),
+     outlet<&Panel::saturationSlider>("saturationSlider"_L1)},
     {Effect::Red, outlet<&Panel::redLabel>("redLabel"_L1), outlet<&Panel::redField>("redField"_L1),
      outlet<&Panel::redSlider>("redSlider"_L1)},
     {Effect::Green, outlet<&Panel::greenLabel>("greenLabel"_L1),
      outlet<&Panel::greenField>("greenField"_L1), outlet<&Panel::greenSlider>("greenSlider"_L1)},
     {Effect::Blue, outlet<&Panel::blueLabel>("blueLabel"_L1),
      outlet<&Panel::blueField>("blueField"_L1), outlet<&Panel::blueSlider>("blueSlider"_L1)},
-    {Effect::Saturation, outlet<&Panel::saturationLabel>("saturationLabel"_L1),
-     outlet<&Panel::saturationField>("saturationField"_L1),
-     outlet<&Panel::saturationSlider>("saturationSlider"_L1)},
 };
 
 const Outlet<Panel> QXLaserColorSettingPDE::Roster::furtherOutlets[] = {
@@ -130,6 +131,37 @@ QString QXLaserColorSettingPDE::determineKey(QWidget *control)
             return option.keyword;
     }
     return {};
+}
+
+QList<PanelControl> QXLaserColorSettingPDE::controls()
+{
+    QList<PanelControl> found;
+    for (const Roster::Option &option : Roster::options) {
+        if (const auto control = boundControl(option.keyword))
+            found += *control;
+    }
+    for (const Roster::EffectControls &row : Roster::effects) {
+        const auto *label = qobject_cast<QLabel *>(row.label.widget(*this));
+        const auto effect =
+            std::find_if(kEffectTable.begin(), kEffectTable.end(),
+                         [&row](const EffectInfo &info) { return info.effect == row.effect; });
+        // Effects that the printer lacks have controls, which are not shown.
+        if (!popupInited || !label || !ppdOption(ppd, effect->keyword))
+            continue;
+        found += PanelControl{.keyword = effect->keyword,
+                              .text = literalText(label),
+                              .sections = {advancedTitle()},
+                              .control = row.slider.widget(*this),
+                              .label = row.label.widget(*this),
+                              .companions = {row.field.widget(*this)}};
+    }
+    return found;
+}
+
+void QXLaserColorSettingPDE::disclose(const QString &keyword)
+{
+    if (Roster::findEffect(keyword) && ppdOption(ppd, keyword))
+        openAdvancedPart();
 }
 
 QLineEdit *QXLaserColorSettingPDE::determineField(const QString &keyword)

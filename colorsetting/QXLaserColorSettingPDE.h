@@ -53,6 +53,9 @@ public:
     QWidget *determineUI(const QString &keyword) override;
     QWidget *determineLabel(const QString &keyword) override;
     QString determineKey(QWidget *control) override;
+    /// The bound controls, then the sliders of the effects that the printer has.
+    QList<PanelControl> controls() override;
+    void disclose(const QString &keyword) override;
     /// The field that shows an effect's number, or null.
     virtual QLineEdit *determineField(const QString &keyword);
     /// The slider of an effect, or null.

@@ -85,6 +85,14 @@ public:
         return false;
     }
 
+    QStringList offeredTexts() const override
+    {
+        QStringList texts;
+        for (int row = 0; row < m_matrix->numberOfRows(); ++row)
+            texts += m_matrix->cellTitle(row);
+        return texts;
+    }
+
     std::optional<QString> chosen() const override
     {
         const QVariant choice = m_matrix->representedObject(m_matrix->selectedRow());
@@ -147,6 +155,14 @@ public:
     {
         const bool duplexPlain = keyword() == kQXMediaType && stored.toString() == kPlainDuplex;
         return duplexPlain ? QVariant(QString(kPlain)) : stored;
+    }
+
+    QStringList offeredTexts() const override
+    {
+        QStringList texts;
+        for (int item = 0; item < m_popUp->count(); ++item)
+            texts += m_popUp->itemText(item);
+        return texts;
     }
 
     std::optional<QString> chosen() const override

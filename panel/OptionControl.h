@@ -51,6 +51,8 @@ public:
     /// The choice to show when a change was refused and `stored` is what counts.
     virtual QVariant choiceToRevertTo(const QVariant &stored) const { return stored; }
 
+    /// The texts of the choices that the user can pick from; none for a box.
+    virtual QStringList offeredTexts() const { return {}; }
     /// The choice that the control stands at; nothing when it stands at none.
     virtual std::optional<QString> chosen() const = 0;
     /// The choices to store, one after the other, for what the control stands at.

@@ -115,6 +115,30 @@ bool QXPrintQualityPDE::chooseAsUser(const QString &keyword, const QString &choi
     return control && control->pick(choice);
 }
 
+QList<PanelControl> QXPrintQualityPDE::controls()
+{
+    QList<PanelControl> found;
+    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+        if (const auto control = boundControl(keyword))
+            found += *control;
+    }
+    return found;
+}
+
+std::optional<PanelControl> QXPrintQualityPDE::boundControl(const QString &keyword)
+{
+    QWidget *widget = popupInited ? determineUI(keyword) : nullptr;
+    const ppd_option_t *option = ppdOption(ppd, keyword);
+    if (!widget || !option || !PPDKeys || !PPDKeys->contains(keyword))
+        return {};
+    const auto bound = OptionControl::of(widget, keyword);
+    return PanelControl{.keyword = keyword,
+                        .text = ppdText(option->text).value_or(keyword),
+                        .choices = bound ? bound->offeredTexts() : QStringList(),
+                        .control = widget,
+                        .label = determineLabel(keyword)};
+}
+
 void QXPrintQualityPDE::getUIValues()
 {
     checkUIConstraints();

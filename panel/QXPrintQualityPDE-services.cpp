@@ -62,6 +62,12 @@ void QXPrintQualityPDE::saveOptionState()
 
 void QXPrintQualityPDE::toggleShowOption(QWidget *) {}
 
+void QXPrintQualityPDE::openAdvancedPart()
+{
+    if (optionButton && !optionButton->isChecked())
+        optionButton->click();
+}
+
 void QXPrintQualityPDE::setViewFrameSize(double width, double height)
 {
     if (!pdePluginCallbackObject ||

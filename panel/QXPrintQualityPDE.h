@@ -104,6 +104,8 @@ public:
     void PPDOptionKeyValueDidChange_ppdChoice(const QString &keyword,
                                               const QString &choice) override;
     bool chooseAsUser(const QString &keyword, const QString &choice) override;
+    /// The bound controls, in the order of the panel's options.
+    QList<PanelControl> controls() override;
     /// Hook: a panel's rules between options.
     virtual void checkConstraints();
     /// Enables or disables the controls.
@@ -153,6 +155,13 @@ protected:
 
     bool hasMode(ImageMode mode) const { return (m_imageModeFlag & mode) != 0; }
     void setMode(ImageMode mode, bool on);
+
+    /// The control of an option; nothing where the panel has none for it, or was never shown.
+    std::optional<PanelControl> boundControl(const QString &keyword);
+    /// The title of the part that is folded away, as controls() names it.
+    QString advancedTitle() { return localized(optionName()); }
+    /// Opens the part that is folded away, as a click on its triangle does.
+    void openAdvancedPart();
 
     /// A window has room for the whole view when it is higher than the view by more than this.
     /// Units: points.

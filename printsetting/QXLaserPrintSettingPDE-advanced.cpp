@@ -85,6 +85,22 @@ bool QXLaserPrintSettingPDE::hasAdvancedRow(const AdvancedRow &row) const
     });
 }
 
+int QXLaserPrintSettingPDE::indexOfAdvancedRow(const AdvancedRow &row) const
+{
+    if (!arrayController)
+        return -1;
+    const QList<QVariantMap> &rows = arrayController->arrangedObjects();
+    const auto found = std::find_if(rows.begin(), rows.end(), [&row](const QVariantMap &shown) {
+        return shown.value(ArrayController::kId).toString() == row.id;
+    });
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+QString QXLaserPrintSettingPDE::advancedRowTitle(int index) const
+{
+    return arrayController->arrangedObjects().at(index).value(ArrayController::kLabel).toString();
+}
+
 void QXLaserPrintSettingPDE::addAdvancedRow(const AdvancedRow &row)
 {
     QString label;

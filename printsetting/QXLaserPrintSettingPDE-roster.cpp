@@ -16,10 +16,10 @@ std::span<const QXLaserPrintSettingPDE::Roster::Option> QXLaserPrintSettingPDE::
 {
     constexpr Outlet<Panel> noLabel;
     static constexpr Option rows[] = {
-        {""_L1, outlet<&Panel::resolutionPopup>("resolutionPopup"_L1),
-         outlet<&Panel::resolutionLabel>("resolutionLabel"_L1)},
         {kQXMediaType, outlet<&Panel::mediaTypePopup>("mediaTypePopup"_L1),
          outlet<&Panel::mediaTypeLabel>("mediaTypeLabel"_L1)},
+        {""_L1, outlet<&Panel::resolutionPopup>("resolutionPopup"_L1),
+         outlet<&Panel::resolutionLabel>("resolutionLabel"_L1)},
         {kQXMonoColor, outlet<&Panel::monoColorPopup>("monoColorPopup"_L1),
          outlet<&Panel::monoColorLabel>("monoColorLabel"_L1)},
         {kQXInputSlot, outlet<&Panel::paperFeedPopup>("paperFeedPopup"_L1),
@@ -62,6 +62,16 @@ std::span<const Outlet<Panel>> QXLaserPrintSettingPDE::Roster::furtherOutlets()
     return outlets;
 }
 
+QList<QWidget *> QXLaserPrintSettingPDE::Roster::companions(const Panel &panel,
+                                                            const QString &keyword)
+{
+    if (keyword == kQXDensityAdjustment)
+        return {panel.densityField};
+    if (keyword == kQXSleepTime)
+        return {panel.sleepTimeField, panel.sleepTimeStepper};
+    return {};
+}
+
 const QXLaserPrintSettingPDE::Roster::Option *
 QXLaserPrintSettingPDE::Roster::find(const Panel &panel, const QString &keyword)
 {
@@ -70,6 +80,39 @@ QXLaserPrintSettingPDE::Roster::find(const Panel &panel, const QString &keyword)
         return !keyword.isEmpty() && option.keywordIn(panel) == keyword;
     });
     return found == rows.end() ? nullptr : &*found;
+}
+
+// A setting whose row the panel has not is found nowhere, though it has a control in the interface
+// file.
+QList<PanelControl> QXLaserPrintSettingPDE::controls()
+{
+    QList<PanelControl> found;
+    for (const Roster::Option &option : Roster::options()) {
+        std::optional<PanelControl> control = boundControl(option.keywordIn(*this));
+        if (!control)
+            continue;
+        if (option.disclosure != Roster::Disclosure::MainPart) {
+            const int row = indexOfAdvancedRow(option.row);
+            if (row < 0)
+                continue;
+            control->sections = {advancedTitle(), advancedRowTitle(row)};
+        }
+        control->companions = Roster::companions(*this, control->keyword);
+        found += *control;
+    }
+    return found;
+}
+
+void QXLaserPrintSettingPDE::disclose(const QString &keyword)
+{
+    const Roster::Option *option = Roster::find(*this, keyword);
+    const int row = option && option->disclosure != Roster::Disclosure::MainPart
+                        ? indexOfAdvancedRow(option->row)
+                        : -1;
+    if (row < 0)
+        return;
+    openAdvancedPart();
+    arrayController->setSelectionIndex(row);
 }
 
 void QXLaserPrintSettingPDE::connectOutlets(InterfaceConnections &connections)

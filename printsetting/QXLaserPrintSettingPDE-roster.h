@@ -63,6 +63,9 @@ struct QXLaserPrintSettingPDE::Roster
     /// Controls that show no option of their own.
     static std::span<const Outlet<Panel>> furtherOutlets();
 
+    /// Controls that set the same as an option's control: a number beside a slider or a choice.
+    static QList<QWidget *> companions(const Panel &panel, const QString &keyword);
+
     static const Option *find(const Panel &panel, const QString &keyword);
 };
 

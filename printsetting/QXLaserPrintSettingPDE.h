@@ -43,6 +43,9 @@ public:
     QWidget *determineUI(const QString &keyword) override;
     QWidget *determineLabel(const QString &keyword) override;
     QString determineKey(QWidget *control) override;
+    /// The options of the main part, then those of the advanced rows.
+    QList<PanelControl> controls() override;
+    void disclose(const QString &keyword) override;
 
     // Advanced options (QXLaserPrintSettingPDE-advanced.cpp)
 
@@ -180,6 +183,9 @@ private:
     void addAdvancedRows();
     void addAdvancedRow(const AdvancedRow &row);
     bool hasAdvancedRow(const AdvancedRow &row) const;
+    /// The row's place in the table of the advanced options, or -1.
+    int indexOfAdvancedRow(const AdvancedRow &row) const;
+    QString advancedRowTitle(int index) const;
     void titleDensityControls(const QString &text);
     void titleImproveBoxes(const QString &text);
     void prepareDensityControls();

@@ -1,4 +1,4 @@
-#include "dialog/session/PanelHost.h"
+#include "dialog/session/PanelHost-call.h"
 
 #include <algorithm>
 #include <utility>
@@ -43,24 +43,6 @@ QMap<QString, QString> marksWithValues(const PpdSession &session)
 
 } // namespace
 
-// Marks that a panel is being called, so that nobody calls another one meanwhile.
-class PanelHost::Call
-{
-public:
-    Call(PanelHost &host, PDEPanel &panel) : m_host(host) { m_host.m_callStack.append(&panel); }
-    ~Call()
-    {
-        m_host.m_callStack.removeLast();
-        if (m_host.hasNews())
-            m_host.scheduleDelivery();
-    }
-    Call(const Call &) = delete;
-    Call &operator=(const Call &) = delete;
-
-private:
-    PanelHost &m_host;
-};
-
 // While an alert runs, a panel is in the midst of its work, though it may be the user and not this
 // host who called it: through the action of a control.
 class PanelHost::HeldAlerts : public AlertPresenter
@@ -91,11 +73,11 @@ PanelHost::PanelHost(PpdSession &session, PDEPlugIn *plugIn, AlertPresenter &pre
 {
     connect(&session, &PpdSession::changed, this, &PanelHost::noteChange);
     connect(&session, &PpdSession::refused, this, [this] {
-        m_refused = true;
+        m_news.refused = true;
         scheduleDelivery();
     });
     connect(&session, &PpdSession::paperChanged, this, [this] {
-        m_paperChanged = true;
+        m_news.paperChanged = true;
         scheduleDelivery();
     });
     m_told = marksWithValues(session);
@@ -273,10 +255,10 @@ void PanelHost::noteChange(const QString &keyword, const QString &choice, PpdSes
 
 void PanelHost::scheduleDelivery()
 {
-    if (std::exchange(m_scheduled, true))
+    if (std::exchange(m_news.scheduled, true))
         return;
     QTimer::singleShot(0, this, [this] {
-        m_scheduled = false;
+        m_news.scheduled = false;
         deliverPending();
     });
 }
@@ -287,7 +269,7 @@ void PanelHost::deliverPending()
         return; // when it has returned, delivery is scheduled again
     if (!m_broughtUp)
         return; // nobody is told anything before it was shown; bringUp() delivers
-    bool anything = std::exchange(m_refused, false);
+    bool anything = std::exchange(m_news.refused, false);
     announcePaper();
     // Telling a panel may change something that another one has to know. Rules that never come to
     // rest would be a fault of a plug-in, and must not hang the dialog.
@@ -305,7 +287,7 @@ void PanelHost::deliverPending()
 // Panels judge a new paper at once, and may propose another medium for it or run an alert.
 void PanelHost::announcePaper()
 {
-    if (!std::exchange(m_paperChanged, false))
+    if (!std::exchange(m_news.paperChanged, false))
         return;
     ++m_uninterruptible;
     const auto done = qScopeGuard([this] { --m_uninterruptible; });

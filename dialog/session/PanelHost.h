@@ -10,13 +10,13 @@
 
 #include "dialog/session/HostCallback.h"
 #include "dialog/session/PpdSession.h"
+#include "platform/pde/PDEPanel.h"
 
 class QWidget;
 
 namespace corvana {
 
 class PDEJobValues;
-class PDEPanel;
 class PDEPlugIn;
 
 /// One line of a panel's summary.
@@ -68,6 +68,14 @@ public:
     /// there. False when no panel has one.
     bool pick(const QString &keyword, const QString &choice);
 
+    /// The settings that the user finds in a panel (its index), in the order of its view. Empty
+    /// until the panels were brought up, in the midst of a panel's work, and for no panel.
+    QList<PanelControl> controls(int panel);
+    /// The index of the panel that shows a setting; -1 where none does.
+    int panelOf(const QString &keyword);
+    /// Opens what hides the control of a setting in its panel. The panel is the visible one.
+    void disclose(const QString &keyword);
+
     /// The entries of the print settings, with what the visible panel shows and has not saved yet.
     /// Nothing is saved. In the midst of a panel's work they are the entries themselves.
     QVariantMap shownEntries() const;
@@ -103,12 +111,20 @@ private:
         PDEPanel *source; // does not need to be told; null for the dialog's own changes
     };
 
+    /// What the panels or the task have to be told at the next delivery, beside changes.
+    struct News
+    {
+        bool refused = false;
+        bool paperChanged = false;
+        bool scheduled = false; ///< the delivery itself
+    };
+
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
     void announcePaper();
     void markCompanions(const QString &keyword, const QString &choice);
     void scheduleDelivery();
-    bool hasNews() const { return !m_pending.isEmpty() || m_refused || m_paperChanged; }
+    bool hasNews() const { return !m_pending.isEmpty() || m_news.refused || m_news.paperChanged; }
     bool panelIsBusy() const { return !m_callStack.isEmpty() || m_uninterruptible > 0; }
     bool leaveVisible();
     void saveVisible();
@@ -127,9 +143,8 @@ private:
     QMap<QString, QString> m_told; // the marks, custom ones with their values, that panels know of
     QPointer<QWidget> m_room; // never shown; holds the views that nobody has taken out of it yet
     QList<QPointer<QWidget>> m_views;
-    bool m_refused = false;
-    bool m_paperChanged = false;
-    bool m_scheduled = false;
+    QList<QList<PanelControl>> m_controls; // by panel; empty until they were asked for
+    News m_news;
     bool m_broughtUp = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -15,6 +16,23 @@ class PrintSettings;
 
 /// Key of the summary dictionary under which the option texts stand in display order.
 inline constexpr char kSummaryDisplayOrder[] = "Summary Display Order";
+
+/// A control of a panel: where the user finds one setting. For hosts that find settings by name,
+/// mark what was changed, or show what is locked.
+///
+/// Ownership: the widgets are the view's.
+struct PanelControl
+{
+    QString keyword{}; ///< the option of the PPD, or the name that the setting has in a job
+    QString text{};    ///< what the user reads, without colon and mnemonic
+    QStringList
+        choices{}; ///< what can be chosen, as the user reads it; empty for boxes and numbers
+    QStringList sections{}; ///< the titles of the parts of the panel that hold it, outermost first
+    QWidget *control = nullptr;
+    QWidget *label = nullptr; ///< null where the control has its title itself
+    QList<QWidget *>
+        companions{}; ///< further widgets that set the same, as a field beside a slider
+};
 
 /// The panel protocol: what a host calls on each panel, in the order of a panel's life.
 ///
@@ -68,6 +86,13 @@ public:
     {
         return false;
     }
+
+    /// The settings that the user finds in the panel: what this printer has, in the order of the
+    /// view, also what is folded away now, and values of the panel's own. Empty until the panel was
+    /// shown once; the same from then on.
+    virtual QList<PanelControl> controls() { return {}; }
+    /// Opens what hides the control of a setting; does nothing for a setting that the panel lacks.
+    virtual void disclose([[maybe_unused]] const QString &keyword) {}
 
     /// The user pressed Print; false holds the job back. May run modal alerts.
     virtual bool shouldPrint() = 0;
