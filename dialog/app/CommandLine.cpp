@@ -53,6 +53,12 @@ struct Options
         u"output"_s, u"Write the printer-ready data to FILE; - is standard output."_s, u"FILE"_s};
     QCommandLineOption demo{u"demo"_s, u"Offer the sample printers."_s};
     QCommandLineOption listPrinters{u"list-printers"_s, u"List the printers and exit."_s};
+    QCommandLineOption checkPolicy{
+        u"check-policy"_s,
+        u"Say what the administrator's policy decides, and where, for the printer that is named "
+        "behind it or by -d; as root with -U for another user. Exit with status 1 when something of "
+        "it is not used."_s};
+    QCommandLineOption yes{u"yes"_s, u"Print a job of many sheets without being asked."_s};
     QCommandLineOption option{{u"o"_s, u"option"_s},
                               u"Set an option of the printer or of the job; may be repeated."_s,
                               u"KEY=VALUE"_s};
@@ -114,6 +120,8 @@ struct Options
                            output,
                            demo,
                            listPrinters,
+                           checkPolicy,
+                           yes,
                            option,
                            copies,
                            pages,
@@ -224,6 +232,8 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.bundleRoots = parser.values(options.bundleRoot);
     line.demo = parser.isSet(options.demo);
     line.listPrinters = parser.isSet(options.listPrinters);
+    line.checkPolicy = parser.isSet(options.checkPolicy);
+    line.yes = parser.isSet(options.yes);
     line.noDialog = parser.isSet(options.noDialog);
     line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
@@ -235,6 +245,11 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.documentPasswordFile = parser.value(options.documentPasswordFile);
     line.json = parser.value(options.format) == "json"_L1;
     line.documents = parser.positionalArguments();
+    // What stands behind it is a printer.
+    if (line.checkPolicy && !line.documents.isEmpty() && line.printer.isEmpty())
+        line.printer = line.documents.takeFirst();
+    if (line.checkPolicy && !line.documents.isEmpty())
+        *problem = u"--check-policy takes one printer and no document."_s;
     if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
         *problem = u"--server \"%1\": HOST, HOST:PORT or the path of a socket was expected."_s.arg(
             line.server);
@@ -294,7 +309,7 @@ QString contradictionIn(const CommandLine &line)
 
 bool takesDocument(const CommandLine &line)
 {
-    return !line.listPrinters && !line.checkDisplay && !line.summary;
+    return !line.listPrinters && !line.checkPolicy && !line.checkDisplay && !line.summary;
 }
 
 // In a window documents can be chosen.

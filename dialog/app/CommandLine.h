@@ -30,6 +30,8 @@ struct CommandLine
     QStringList bundleRoots;
     bool demo = false;
     bool listPrinters = false;
+    bool checkPolicy = false; ///< of `printer`; without one, of all
+    bool yes = false;         ///< many sheets are meant
     bool noDialog = false;
     bool summary = false;
     bool checkDisplay = false;

@@ -142,6 +142,7 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
     request.policy = Policy::ofThisComputer();
+    request.manySheetsAreMeant = line.yes;
     request.helpPage = dialogHelpPage();
     return request;
 }

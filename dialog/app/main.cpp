@@ -13,6 +13,7 @@
 #include "dialog/app/Translations.h"
 #include "dialog/job/Document.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/terminal/CheckPolicy.h"
 #include "dialog/terminal/ListPrinters.h"
 #include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
@@ -160,7 +161,7 @@ int main(int argc, char **argv)
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool unattended =
-        line.noDialog || line.listPrinters || (line.documents.isEmpty() && line.summary);
+        line.noDialog || line.listPrinters || line.checkPolicy || (line.documents.isEmpty() && line.summary);
     choosePlatform(!unattended || line.checkDisplay);
     logForTerminals(unattended);
     looksForPlatform = !explicitPlatform;
@@ -190,5 +191,7 @@ int main(int argc, char **argv)
         return unattended || !hasWindows() ? fail(error) : failInWindow(error);
     if (line.listPrinters)
         return listPrinters(*request);
+    if (line.checkPolicy)
+        return checkPolicy(*request, line.user);
     return unattended ? runUnattended(*request) : runDialog(*request);
 }

@@ -64,6 +64,7 @@ private:
     void showPanelViews();
     void addGeneral();
     void showAttributes();
+    void showLocks();
     void enter(int page);
     void showSummary();
     void showCountedSheets();

@@ -47,6 +47,8 @@ public:
     void setPageRanges(const QString &ranges);
     /// Whether pages can be chosen at all. What was typed already stays to be seen.
     void offerPageRanges(bool offer);
+    /// Says who keeps the number of copies, and the pages, at what they are; empty: nobody does.
+    void setLocks(const QString &copiesBy, const QString &pagesBy);
     /// Puts the focus where the pages are typed.
     void focusPageRanges();
     /// Shows the session's marks.

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QFont>
 #include <QSet>
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
+#include "dialog/window/pages/ControlLock.h"
 #include "platform/toolkit/PlainText.h"
 
 namespace corvana {
@@ -29,6 +31,15 @@ QString groupTitle(const ppd_group_t &group)
     if (title == "Installable Options"_L1)
         return OptionsModel::tr("Installable Options");
     return title;
+}
+
+// In the colours of the moment, which may be those of a dark desktop.
+QVariant lockIcon()
+{
+    constexpr int kSize = 16;
+    const qreal ratio = qApp->devicePixelRatio();
+    return lockPicture(qRound(kSize * ratio), QGuiApplication::palette().color(QPalette::Text),
+                       ratio);
 }
 
 // Marks that change the sound of a kana are no accents.
@@ -177,7 +188,8 @@ Qt::ItemFlags OptionsModel::flags(const QModelIndex &index) const
     if (!optionAt(index))
         return Qt::NoItemFlags; // a heading: the keys pass it by
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return index.column() == Choice ? flags | Qt::ItemIsEditable : flags;
+    const bool isLocked = m_session.locks().contains(optionAt(index)->keyword);
+    return index.column() == Choice && !isLocked ? flags | Qt::ItemIsEditable : flags;
 }
 
 QVariant OptionsModel::data(const QModelIndex &index, int role) const
@@ -199,10 +211,12 @@ QVariant OptionsModel::data(const QModelIndex &index, int role) const
         return font.bold() ? font : QVariant();
     }
     case Qt::ToolTipRole:
-        return plainToolTip(title ? titleToolTip(*option) : defaultText(*option));
+        return plainToolTip(title ? titleToolTip(*option) : remark(*option));
+    case Qt::DecorationRole:
+        return !title && m_session.locks().contains(option->keyword) ? lockIcon() : QVariant();
     case Qt::AccessibleDescriptionRole:
         // A heading is not read to who goes through the rows.
-        return title ? m_groups.at(index.parent().row()).title : defaultText(*option);
+        return title ? m_groups.at(index.parent().row()).title : remark(*option);
     case KeywordRole:
         return option->keyword;
     case SearchRole:
@@ -251,6 +265,13 @@ QString OptionsModel::defaultText(const Option &option) const
     return byDefault && m_session.differsFromDefault(option.keyword)
                ? tr("Default: %1").arg(choiceText(*byDefault))
                : QString();
+}
+
+// Who has chosen, where that is somebody else; else what the printer has by default.
+QString OptionsModel::remark(const Option &option) const
+{
+    const QString by = m_session.lockedBy(option.keyword);
+    return by.isNull() ? defaultText(option) : lockedText(by);
 }
 
 OptionsFilter::OptionsFilter(QObject *parent) : QSortFilterProxyModel(parent)

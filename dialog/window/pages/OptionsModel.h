@@ -75,6 +75,7 @@ private:
     QString searchText(const Group &group, const Option &option) const;
     QString titleToolTip(const Option &option) const;
     QString defaultText(const Option &option) const;
+    QString remark(const Option &option) const;
 
     PpdSession &m_session;
     QList<Group> m_groups;

@@ -141,7 +141,7 @@ private Q_SLOTS:
         QRandomGenerator random(15);
         static const QByteArray kPieces[] = {
             "[", "]", "[all]", "[printer ", "group ", ",", "\"", "=", "\n", "\r", "lock.", "hide",
-            "default.A", "yes", "no", "#", " ", "\t", "\xff", "\xc3", "\xe2\x80\xae", "*", "x"};
+            "default.A", "\n[all]\n", "\nhide=yes\n", "yes", "no", "#", " ", "\t", "\xff", "\xc3", "\xe2\x80\xae", "*", "x"};
         qsizetype entries = 0;
         for (int i = 0; i < 20000; ++i) {
             QByteArray text;

@@ -7,10 +7,12 @@
 #include <QObject>
 #include <QTemporaryDir>
 
+#include "dialog/policy/PolicyLocks.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/StartValues.h"
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 
@@ -49,6 +51,14 @@ protected:
         case By::UserQueues:
             setUserOptions(option);
             break;
+        case By::Policy: {
+            QByteArray text = "[all]\n";
+            const QList<JobOption> options = parseOptions({option});
+            for (const JobOption &one : options)
+                text += "default." + one.name.toUtf8() + '=' + one.value.toUtf8() + '\n';
+            m_request.policy = policyFrom(text);
+            break;
+        }
         default:
             m_request.options = parseOptions({option});
         }
@@ -56,7 +66,11 @@ protected:
     StartOutcome start()
     {
         QString error;
-        m_printer = openPrinter(m_fetched, {}, m_presenter, &error);
+        m_printer = openPrinter(m_fetched, {}, m_presenter, &error, [this](OpenedPrinter &opened) {
+            lockSettings(policyOf(m_request).locksOf(opened.fetched.printer), *opened.session,
+                         opened.jobValues);
+        });
+        m_settings.setLocks(m_printer->session->locks());
         return applyStartValues(m_request, *m_printer, m_settings);
     }
     QString attribute(const QString &name)

@@ -44,7 +44,7 @@ private Q_SLOTS:
         QList<By> order;
         for (const StartLayer &layer : startLayers())
             order += layer.by;
-        QCOMPARE(order, (QList<By>{By::Queue, By::UserQueues, By::Options}));
+        QCOMPARE(order, (QList<By>{By::Queue, By::UserQueues, By::Policy, By::Options}));
         QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
     }
 
