@@ -61,6 +61,13 @@ struct Options
         u"Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. "
         "A preset of that name is replaced."_s,
         u"NAME"_s};
+    QCommandLineOption checkPolicy{
+        u"check-policy"_s,
+        u"Say what the administrator's policy decides, and where, for the printer that is named "
+        "behind it or by -d; as root with -U for another user. Exit with status 1 when something "
+        "of "
+        "it is not used."_s};
+    QCommandLineOption yes{u"yes"_s, u"Print a job of many sheets without being asked."_s};
     QCommandLineOption option{{u"o"_s, u"option"_s},
                               u"Set an option of the printer or of the job; may be repeated."_s,
                               u"KEY=VALUE"_s};
@@ -130,6 +137,8 @@ struct Options
                            preset,
                            listPresets,
                            savePreset,
+                           checkPolicy,
+                           yes,
                            option,
                            copies,
                            pages,
@@ -244,6 +253,8 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.preset = parser.value(options.preset);
     line.savePreset = parser.value(options.savePreset);
     line.listPresets = parser.isSet(options.listPresets);
+    line.checkPolicy = parser.isSet(options.checkPolicy);
+    line.yes = parser.isSet(options.yes);
     line.noDialog = parser.isSet(options.noDialog);
     line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
@@ -256,6 +267,11 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.documentPasswordFile = parser.value(options.documentPasswordFile);
     line.json = parser.value(options.format) == "json"_L1;
     line.documents = parser.positionalArguments();
+    // What stands behind it is a printer.
+    if (line.checkPolicy && !line.documents.isEmpty() && line.printer.isEmpty())
+        line.printer = line.documents.takeFirst();
+    if (line.checkPolicy && !line.documents.isEmpty())
+        *problem = u"--check-policy takes one printer and no document."_s;
     if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
         *problem = u"--server \"%1\": HOST, HOST:PORT or the path of a socket was expected."_s.arg(
             line.server);
@@ -283,8 +299,8 @@ QString emptyName(const QCommandLineParser &parser, const Options &options)
 {
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
-          &options.documentPasswordFile, &options.bundleRoot, &options.preset,
-          &options.savePreset, &options.saveInstance}) {
+          &options.documentPasswordFile, &options.bundleRoot, &options.preset, &options.savePreset,
+          &options.saveInstance}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
             return u"%1 \"\": %2 is missing."_s.arg((name.size() == 1 ? u"-"_s : u"--"_s) + name,
@@ -321,8 +337,7 @@ QString contradictionIn(const CommandLine &line)
 bool takesDocument(const CommandLine &line)
 {
     return !line.listPrinters && !line.listPresets && line.savePreset.isEmpty() &&
-           !line.checkDisplay && !line.summary &&
-           line.instance.isEmpty();
+           !line.checkPolicy && !line.checkDisplay && !line.summary && line.instance.isEmpty();
 }
 
 // In a window documents can be chosen.

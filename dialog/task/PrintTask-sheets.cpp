@@ -188,10 +188,17 @@ void PrintTask::sheetsKnown()
     if (m_request.summary)
         m_face.writeSummary(withSheets(m_run.lines, m_run.ticket));
     const QStringList problems = sheets ? emptyDocuments(*sheets, choice) : QStringList();
-    if (problems.isEmpty())
+    std::optional<TaskRefusal> refusal;
+    if (!problems.isEmpty())
+        refusal = TaskRefusal{problems, TaskRefusal::Place::Pages};
+    else
+        refusal = askForManySheets();
+    if (m_phase != Phase::Printing)
+        return; // canceled, while a question was waiting for its answer
+    if (!refusal)
         return startJob(m_run.ticket);
     enter(Phase::Ready);
-    Q_EMIT refused({problems, TaskRefusal::Place::Pages});
+    Q_EMIT refused(*refusal);
     takeNext();
 }
 

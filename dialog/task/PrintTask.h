@@ -348,6 +348,8 @@ private:
     QStringList lockedCopies() const;
     QStringList problemsOfLocks() const;
     void sayLocked(const QStringList &keywords);
+    std::optional<TaskRefusal> askForManySheets();
+    void noteInJournal(const JobOutcome &outcome) const;
 
     void settingsAffectColors();
     void showColors();
