@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>corvana::ChangeMarks</name>
+    <message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -632,6 +643,29 @@
     <message>
         <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
         <translation>このプリンターのドライバーにはプログラム「%1」が必要ですが、これを実行できるのはプリントサーバーだけです。ファイルへの出力ではなく、プリンターで印刷してください。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PresetRow</name>
+    <message>
+        <source>%1 (Ctrl+Z)</source>
+        <translation>%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>%1 (Shift+Ctrl+Z)</source>
+        <translation>%1 (Shift+Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>This Page: %1</source>
+        <translation>このページ: %1</translation>
+    </message>
+    <message>
+        <source>Everything: %1</source>
+        <translation>すべて: %1</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1674,10 @@ For the command line: %2</source>
         <source>Default: %1</source>
         <translation>初期設定: %1</translation>
     </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsPage</name>
@@ -1800,6 +1838,48 @@ For the command line: %2</source>
     <message>
         <source>Enter the Owner's Password…</source>
         <translation>所有者のパスワードを入力…</translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>プリンターの初期設定</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>「%1」を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>「%1」をやり直す</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>「%1」に戻す</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>元の値に戻せません:
+%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
     </message>
 </context>
 <context>
@@ -2045,12 +2125,36 @@ For the command line: %2</source>
         <source>Try Again</source>
         <translation>再試行</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>設定一覧</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1、変更済み</translation>
+    </message>
+    <message>
+        <source>Only what is changed</source>
+        <translation>変更した項目のみ</translation>
+    </message>
+    <message>
+        <source>Nothing is changed.</source>
+        <translation>変更した項目はありません。</translation>
     </message>
 </context>
 <context>

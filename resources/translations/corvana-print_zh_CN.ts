@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>corvana::ChangeMarks</name>
+    <message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -632,6 +643,29 @@
     <message>
         <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
         <translation>此打印机的驱动程序需要程序“%1”，而该程序只能由打印服务器运行。请直接在打印机上打印，不要打印到文件。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::PresetRow</name>
+    <message>
+        <source>%1 (Ctrl+Z)</source>
+        <translation>%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>%1 (Shift+Ctrl+Z)</source>
+        <translation>%1 (Shift+Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>This Page: %1</source>
+        <translation>本页：%1</translation>
+    </message>
+    <message>
+        <source>Everything: %1</source>
+        <translation>全部：%1</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1674,10 @@ For the command line: %2</source>
         <source>Default: %1</source>
         <translation>默认值：%1</translation>
     </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsPage</name>
@@ -1800,6 +1838,48 @@ For the command line: %2</source>
     <message>
         <source>Enter the Owner's Password…</source>
         <translation>输入所有者密码…</translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>打印机默认设置</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销“%1”</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做“%1”</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>恢复为“%1”</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>无法恢复：
+%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
     </message>
 </context>
 <context>
@@ -2045,12 +2125,36 @@ For the command line: %2</source>
         <source>Try Again</source>
         <translation>重试</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>设置摘要</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1，已更改</translation>
+    </message>
+    <message>
+        <source>Only what is changed</source>
+        <translation>仅显示已更改的项</translation>
+    </message>
+    <message>
+        <source>Nothing is changed.</source>
+        <translation>没有更改任何项。</translation>
     </message>
 </context>
 <context>
