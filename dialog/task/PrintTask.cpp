@@ -67,6 +67,9 @@ void PrintTask::enter(Phase phase)
 {
     if (std::exchange(m_phase, phase) != phase)
         Q_EMIT phaseChanged(phase);
+    // What a panel's alert has changed while a job was made can be taken back as well.
+    if (m_phase == Phase::Ready)
+        recordSoon();
 }
 
 void PrintTask::say(TaskMessage::Kind kind, const QString &text)

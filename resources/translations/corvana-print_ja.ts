@@ -1712,6 +1712,10 @@ For the command line: %2</source>
         <source>Default: %1</source>
         <translation>初期設定: %1</translation>
     </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsPage</name>
@@ -1928,6 +1932,48 @@ For the command line: %2</source>
     <message>
         <source>Use Defaults</source>
         <translation>既定値を使用</translation>
+    </message>
+<message>
+        <source>Printer Defaults</source>
+        <translation>プリンターの初期設定</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>「%1」を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>「%1」をやり直す</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>「%1」に戻す</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>元の値に戻せません:
+%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
     </message>
 </context>
 <context>
@@ -2193,12 +2239,36 @@ For the command line: %2</source>
         <source>Try Again</source>
         <translation>再試行</translation>
     </message>
+<message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>設定一覧</translation>
+    </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1、変更済み</translation>
+    </message>
+    <message>
+        <source>Only what is changed</source>
+        <translation>変更した項目のみ</translation>
+    </message>
+    <message>
+        <source>Nothing is changed.</source>
+        <translation>変更した項目はありません。</translation>
     </message>
 </context>
 <context>
@@ -3430,6 +3500,26 @@ For the command line: %2</source>
         <source>Preset: %1</source>
         <translation>プリセット: %1</translation>
     </message>
+<message>
+        <source>%1 (Ctrl+Z)</source>
+        <translation>%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>%1 (Shift+Ctrl+Z)</source>
+        <translation>%1 (Shift+Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>This Page: %1</source>
+        <translation>このページ: %1</translation>
+    </message>
+    <message>
+        <source>Everything: %1</source>
+        <translation>すべて: %1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SavePresetDialog</name>
@@ -3521,6 +3611,17 @@ For the command line: %2</source>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 現在の設定は変わっていません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ChangeMarks</name>
+    <message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
 </context>
 </TS>

@@ -1712,6 +1712,10 @@ For the command line: %2</source>
         <source>Default: %1</source>
         <translation>默认值：%1</translation>
     </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::OptionsPage</name>
@@ -1928,6 +1932,48 @@ For the command line: %2</source>
     <message>
         <source>Use Defaults</source>
         <translation>使用默认值</translation>
+    </message>
+<message>
+        <source>Printer Defaults</source>
+        <translation>打印机默认设置</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销“%1”</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做“%1”</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>恢复为“%1”</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>无法恢复：
+%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
     </message>
 </context>
 <context>
@@ -2193,12 +2239,36 @@ For the command line: %2</source>
         <source>Try Again</source>
         <translation>重试</translation>
     </message>
+<message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>设置摘要</translation>
+    </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1，已更改</translation>
+    </message>
+    <message>
+        <source>Only what is changed</source>
+        <translation>仅显示已更改的项</translation>
+    </message>
+    <message>
+        <source>Nothing is changed.</source>
+        <translation>没有更改任何项。</translation>
     </message>
 </context>
 <context>
@@ -3430,6 +3500,26 @@ For the command line: %2</source>
         <source>Preset: %1</source>
         <translation>预设：%1</translation>
     </message>
+<message>
+        <source>%1 (Ctrl+Z)</source>
+        <translation>%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>%1 (Shift+Ctrl+Z)</source>
+        <translation>%1 (Shift+Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>This Page: %1</source>
+        <translation>本页：%1</translation>
+    </message>
+    <message>
+        <source>Everything: %1</source>
+        <translation>全部：%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SavePresetDialog</name>
@@ -3521,6 +3611,17 @@ For the command line: %2</source>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 您的设置保持不变。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ChangeMarks</name>
+    <message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
 </context>
 </TS>
