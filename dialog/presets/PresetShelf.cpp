@@ -33,7 +33,7 @@ void PresetShelf::run(Change change, const QString &name, std::function<QString(
     m_work.run([this, change, name, work = std::move(work)]() -> PresetWork::Then {
         return [this, change, name, problem = work()] { Q_EMIT ended(change, name, problem); };
     });
-    if (change != Change::LastJob)
+    if (change != Change::LastJob && change != Change::Instance)
         look();
 }
 
@@ -52,6 +52,11 @@ void PresetShelf::rename(const Preset &preset, const QString &name)
 void PresetShelf::remove(const Preset &preset)
 {
     run(Change::Removed, preset.name, [store = m_store, preset] { return store.remove(preset); });
+}
+
+void PresetShelf::writeInstance(const QString &instance, std::function<QString()> write)
+{
+    run(Change::Instance, instance, std::move(write));
 }
 
 void PresetShelf::keepLastJob(const Printer &printer, const QString &server,

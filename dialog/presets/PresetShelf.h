@@ -17,7 +17,7 @@ class PresetShelf : public QObject
     Q_OBJECT
 
 public:
-    enum class Change { Saved, Renamed, Removed, LastJob };
+    enum class Change { Saved, Renamed, Removed, LastJob, Instance };
 
     explicit PresetShelf(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -34,6 +34,9 @@ public:
     void save(const Preset &preset, PresetStore::Replacing replacing);
     void rename(const Preset &preset, const QString &name);
     void remove(const Preset &preset);
+    /// Writes the user's lpoptions, so that other programs have a preset, too, or have it no more;
+    /// `write` borrows nothing.
+    void writeInstance(const QString &instance, std::function<QString()> write);
     void keepLastJob(const Printer &printer, const QString &server, const PresetContent &changes);
 
 Q_SIGNALS:

@@ -6,6 +6,8 @@
 
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
+#include "dialog/printers/OwnInstances.h"
+#include "dialog/printers/UserQueuesFile.h"
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartPresets.h"
@@ -195,8 +197,44 @@ void TaskPresets::save(const PresetToSave &wanted)
         preset.model.clear();
         preset.content = changes;
     }
-    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow()};
+    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), {}};
+    if (wanted.elsewhere)
+        m_saving->elsewhere = elsewhere(preset.name);
     m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
+}
+
+InstanceDraft TaskPresets::elsewhere(const QString &name) const
+{
+    if (m_task.printer().origin != PrinterOrigin::Queue)
+        return {{}, {}, {}, tr("Other programs know only queues of a print server.")};
+    return m_task.instanceDraft(name, OwnInstances().names());
+}
+
+QString TaskPresets::selectedElsewhere() const
+{
+    const Printer &printer = m_task.printer();
+    if (m_kept.selected.kind != Kind::Preset || printer.origin != PrinterOrigin::Queue)
+        return {};
+    const QMap<QString, QString> own = OwnInstances().read();
+    for (auto one = own.cbegin(); one != own.cend(); ++one) {
+        const bool isOfPrinter =
+            isSameQueue(queueOfInstance(one.key()), queueOfInstance(printer.name));
+        if (isOfPrinter && one.value() == m_kept.selected.name)
+            return one.key();
+    }
+    return {};
+}
+
+// What other programs cannot have of it is said with it.
+void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)
+{
+    m_shelf.writeInstance(draft.name, [draft, name] {
+        const QString problem = UserQueuesFile().setInstance(draft.name, draft.options);
+        return problem.isEmpty() ? OwnInstances().note(draft.name, name) : problem;
+    });
+    QStringList sentences{tr("Other programs print with these settings to “%1”.").arg(draft.name)};
+    sentences += draft.leftOut;
+    Q_EMIT m_task.said({TaskMessage::Kind::Information, sentences.join(u'\n')});
 }
 
 void TaskPresets::update()
@@ -204,7 +242,8 @@ void TaskPresets::update()
     const SelectedPreset selected = m_kept.selected;
     const std::optional<StoredPreset> found = listing().find(selected.name);
     if (selected.kind == Kind::Preset)
-        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true});
+        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true,
+              !selectedElsewhere().isEmpty()});
 }
 
 void TaskPresets::rename(const QString &name)
@@ -217,8 +256,14 @@ void TaskPresets::rename(const QString &name)
 void TaskPresets::remove()
 {
     const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
-    if (m_kept.selected.kind == Kind::Preset && found && found->isOwn)
-        m_shelf.remove(found->preset);
+    if (m_kept.selected.kind != Kind::Preset || !found || !found->isOwn)
+        return;
+    if (const QString instance = selectedElsewhere(); !instance.isEmpty())
+        m_shelf.writeInstance(instance, [instance] {
+            const QString problem = UserQueuesFile().removeInstance(instance);
+            return problem.isEmpty() ? OwnInstances().forget(instance) : problem;
+        });
+    m_shelf.remove(found->preset);
 }
 
 void TaskPresets::listed()
@@ -248,6 +293,10 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
     } else if (saving && isReady) {
         m_kept.selected = saving->selected;
         m_task.setBase({saving->settings, selectedName()});
+        if (saving->elsewhere && saving->elsewhere->problem.isEmpty())
+            writeElsewhere(*saving->elsewhere, saving->selected.name);
+        else if (saving->elsewhere)
+            m_task.say(TaskMessage::Kind::Problem, saving->elsewhere->problem);
     } else if (change == Change::Renamed && isReady) {
         m_kept.selected.name = name;
         m_task.setBase({m_task.base().settings, selectedName()});
@@ -256,7 +305,7 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
         m_task.setBase({m_task.base().settings, selectedName()});
     }
     Q_EMIT changed();
-    if (change != Change::LastJob)
+    if (change != Change::LastJob && change != Change::Instance)
         Q_EMIT ended(problem);
 }
 

@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include "dialog/presets/PresetShelf.h"
+#include "dialog/task/InstanceDraft.h"
 #include "dialog/task/TaskSettings.h"
 
 namespace corvana {
@@ -46,6 +47,8 @@ struct PresetToSave
     bool forAllPrinters = false; ///< else for those of the model that is open
     bool device = false;         ///< with what sets up the device as well
     bool replaces = false;       ///< a preset of that name may be there
+    /// Also as an instance of the queue, by which other programs print with it.
+    bool elsewhere = false;
 };
 
 /// The settings of one task that come from before and are kept for later: presets, the defaults of
@@ -75,6 +78,13 @@ public:
     QString modelName() const;
     /// The options that set up the device, by their texts; empty where this printer has none.
     QString deviceSettings() const;
+
+    /// The instance that a preset of this name would be for other programs; with a problem where it
+    /// can be none.
+    InstanceDraft elsewhere(const QString &name) const;
+    /// The instance that this program has made of the preset that is selected; empty where there is
+    /// none of this printer.
+    QString selectedElsewhere() const;
 
     // Each is one step, and says what of it the printer has not.
 
@@ -121,6 +131,7 @@ private:
     {
         SelectedPreset selected;
         TaskSettings settings;
+        std::optional<InstanceDraft> elsewhere{};
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
@@ -128,6 +139,7 @@ private:
     void say(const QStringList &missing, const QStringList &details);
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
+    void writeElsewhere(const InstanceDraft &draft, const QString &name);
     QStringList namesOf(const PresetContent &content) const;
 
     PrintTask &m_task;

@@ -60,6 +60,11 @@ void SavePresetDialog::addRange()
     connect(m_forAll, &QRadioButton::toggled, this, &SavePresetDialog::check);
     box->addWidget(m_forModel);
     box->addWidget(m_forAll);
+    m_elsewhere = new QCheckBox(tr("Also in &other programs"), this);
+    m_elsewhere->setObjectName(u"presetElsewhere"_s);
+    m_elsewhere->setChecked(!m_presets.selectedElsewhere().isEmpty());
+    connect(m_elsewhere, &QCheckBox::toggled, this, &SavePresetDialog::check);
+    box->addWidget(m_elsewhere);
     const QString device = m_presets.deviceSettings();
     if (device.isEmpty())
         return;
@@ -73,7 +78,18 @@ void SavePresetDialog::addRange()
 PresetToSave SavePresetDialog::preset() const
 {
     const bool forAll = m_forAll && m_forAll->isChecked();
-    return {presetName(m_name->text()), forAll, m_device && m_device->isChecked(), m_replaces};
+    return {presetName(m_name->text()), forAll, m_device && m_device->isChecked(), m_replaces,
+            m_elsewhere && m_elsewhere->isChecked()};
+}
+
+// By which name other programs will have it, or why they cannot.
+QString SavePresetDialog::remarkOnInstance()
+{
+    if (!m_elsewhere || !m_elsewhere->isChecked() || m_name->text().isEmpty())
+        return {};
+    const InstanceDraft draft = m_presets.elsewhere(preset().name);
+    return draft.problem.isEmpty() ? tr("Other programs list it as “%1”.").arg(draft.name)
+                                   : draft.problem;
 }
 
 // Says what pressing the button will do, before it is pressed.
@@ -89,6 +105,8 @@ void SavePresetDialog::check()
         remark = m_renames    ? tr("There is a preset of this name already.")
                  : m_replaces ? tr("There is a preset of this name already. It will be replaced.")
                               : tr("There is another preset of this name, which stays.");
+    if (const QString instance = remarkOnInstance(); !instance.isEmpty())
+        remark = remark.isEmpty() ? instance : remark + u'\n' + instance;
     m_remark->setText(remark);
     m_save->setText(m_renames ? tr("Rename") : m_replaces ? tr("Replace") : tr("Save"));
     m_save->setEnabled(canBe);

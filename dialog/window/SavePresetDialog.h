@@ -28,6 +28,7 @@ public:
 private:
     void addRange();
     void check();
+    QString remarkOnInstance();
 
     const TaskPresets &m_presets;
     const bool m_renames;
@@ -35,6 +36,7 @@ private:
     QRadioButton *m_forModel = nullptr;
     QRadioButton *m_forAll = nullptr;
     QCheckBox *m_device = nullptr;
+    QCheckBox *m_elsewhere = nullptr;
     QLabel *m_remark = nullptr;
     QPushButton *m_save = nullptr;
     bool m_replaces = false; // as the button says

@@ -3575,6 +3575,14 @@ For the command line: %2</source>
         <source>Save</source>
         <translation>保存</translation>
     </message>
+    <message>
+        <source>Also in &amp;other programs</source>
+        <translation>ほかのプログラムでも使う(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>ほかのプログラムでは「%1」と表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::TaskPresets</name>
@@ -3611,6 +3619,14 @@ For the command line: %2</source>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 現在の設定は変わっていません。</translation>
+    </message>
+    <message>
+        <source>Other programs know only queues of a print server.</source>
+        <translation>ほかのプログラムで使えるのはプリントサーバーのキューだけです。</translation>
+    </message>
+    <message>
+        <source>Other programs print with these settings to “%1”.</source>
+        <translation>ほかのプログラムは「%1」でこの設定を使って印刷できます。</translation>
     </message>
 </context>
 <context>

@@ -3575,6 +3575,14 @@ For the command line: %2</source>
         <source>Save</source>
         <translation>保存</translation>
     </message>
+    <message>
+        <source>Also in &amp;other programs</source>
+        <translation>也用于其他程序(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>其他程序中显示为“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::TaskPresets</name>
@@ -3611,6 +3619,14 @@ For the command line: %2</source>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 您的设置保持不变。</translation>
+    </message>
+    <message>
+        <source>Other programs know only queues of a print server.</source>
+        <translation>其他程序只能使用打印服务器的队列。</translation>
+    </message>
+    <message>
+        <source>Other programs print with these settings to “%1”.</source>
+        <translation>其他程序可通过“%1”使用这些设置打印。</translation>
     </message>
 </context>
 <context>

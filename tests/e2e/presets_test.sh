@@ -1,0 +1,98 @@
+#!/usr/bin/env bash
+# Settings that are kept under a name in one run and printed with in another one.
+
+# shellcheck source=tests/e2e/support.bash
+. "$(dirname "${BASH_SOURCE[0]}")/support.bash"
+
+settings=(-o QXMediaType=Thick -o QXColorMatching=Vivid -o QXRed=3 -o QXDensityAdjustment=-2
+    -o sides=two-sided-long-edge -o number-up=2)
+
+save() {
+    export XDG_DATA_HOME=$work/data
+    run "${printer[@]}" --save-preset "$1" "${@:2}"
+}
+
+theSameIsPrintedByNameAsByOptions() {
+    save Reports "${settings[@]}"
+    expect_status 0
+    expect_lines 'The preset “Reports” is kept.'
+    print "${settings[@]}"
+    expect_printed
+    mv "$output" "$work/by-options.ps"
+    cp "$work/out" "$work/summary"
+    print --preset Reports
+    expect_printed
+    cmp -s "$output" "$work/by-options.ps" || fail 'another result'
+    expect_equal "$(sed '/^Printed/d' "$work/out")" "$(sed '/^Printed/d' "$work/summary")"
+}
+
+anOptionCountsMore() {
+    save Reports "${settings[@]}"
+    print --preset Reports -o QXMediaType=Thin
+    expect_printed
+    expect_code QXMediaType=Thin QXColorMatching=Vivid
+}
+
+aNameThatThereIsNotIsRefusedWithThoseThatThereAre() {
+    save Reports
+    save 'Monthly letters'
+    expect_refusal '“Drafts”' Reports 'Monthly letters' -- --preset Drafts
+}
+
+whatSetsUpTheDeviceAndCopiesAreNotKept() {
+    save Reports -o QXSleepTime=Custom.12 -n 3
+    print --preset Reports
+    expect_printed
+    expect_equal "$(printed_values QXSleepTime "$output")" ''
+    expect_lines 'Copies: 1'
+}
+
+theyAreListedWithTheirModel() {
+    save Reports
+    run --list-presets
+    expect_status 0
+    expect_equal "$(cat "$work/out")" "Reports"$'\t'"$(sed -n 's/^\*ModelName: "\(.*\)"/\1/p' "$ppd")"
+}
+
+whatCannotBeSetIsNotKept() {
+    save Reports -o QXMediaType=Parchment
+    expect_status 1
+    expect_said QXMediaType=Parchment 'No preset was kept.'
+    run --list-presets
+    expect_equal "$(cat "$work/out")" ''
+}
+
+aDamagedFileIsNamedAndStaysAsItIs() {
+    local file
+    save Reports
+    file=$(find "$XDG_DATA_HOME" -name '*.json')
+    echo '{' >"$file"
+    expect_refusal "$file" -- --preset Reports
+    save Reports
+    expect_status 1
+    expect_said "$file"
+    expect_equal "$(cat "$file")" '{'
+    run --list-presets
+    expect_status 1
+}
+
+# A file by hand: of what it has and the printer has not each is named, and the rest applies.
+whatThePrinterHasNotIsNamed() {
+    local file
+    save Reports -o QXMediaType=Thick
+    file=$(find "$XDG_DATA_HOME" -name '*.json')
+    sed -i 's|"QXInputSlot": "[^"]*"|"QXInputSlot": "Cellar"|; s|"options": {|&"Stapler": "Left",|' "$file"
+    print --preset Reports
+    expect_printed
+    expect_said Cellar Stapler
+    expect_code QXMediaType=Thick
+}
+
+aHomeThatCannotBeWrittenIsSaid() {
+    : >"$work/data"
+    save Reports
+    expect_status 1
+    expect_said "$work/data" 'No preset was kept.'
+}
+
+run_tests
