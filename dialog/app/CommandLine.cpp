@@ -322,7 +322,7 @@ QString contradictionIn(const CommandLine &line)
         return u"--save-preset prints nothing: no document can be named."_s;
     if (line.json && !line.noDialog)
         return u"--format=json is for runs without a window (--no-dialog)."_s;
-    if (!line.instance.isEmpty() && !line.noDialog)
+    if (!line.instance.isEmpty() && !line.documents.isEmpty() && !line.noDialog)
         return u"--save-instance is for runs without a window (--no-dialog)."_s;
     if (line.output != kStandardStream)
         return {};

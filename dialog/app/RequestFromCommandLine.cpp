@@ -102,7 +102,8 @@ QStringList trustedBundleRoots(const CommandLine &line)
 bool isUnattended(const CommandLine &line)
 {
     return line.noDialog || line.listPrinters || line.listPresets || line.checkPolicy ||
-           !line.savePreset.isEmpty() || (line.documents.isEmpty() && line.summary);
+           !line.savePreset.isEmpty() ||
+           (line.documents.isEmpty() && (line.summary || !line.instance.isEmpty()));
 }
 
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)

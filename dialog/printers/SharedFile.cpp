@@ -9,6 +9,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -63,11 +64,26 @@ QString lastError()
     return qt_error_string(errno);
 }
 
+// Clients of a file server refuse leases whoever writes, unless the server has delegated the file.
+bool isOnFileServer(int descriptor)
+{
+    constexpr unsigned kNfs = 0x6969;
+    constexpr unsigned kCifs = 0xff534d42;
+    constexpr unsigned kSmb2 = 0xfe534d42;
+    struct statfs system = {};
+    if (::fstatfs(descriptor, &system) != 0)
+        return true;
+    const auto type = static_cast<unsigned>(system.f_type);
+    return type == kNfs || type == kCifs || type == kSmb2;
+}
+
 // A lease for reading is given only while nobody has the file open for writing. It is given back
 // at once; a writer that comes in between is announced by a signal that does nothing, since the
 // usual one would end the program. Errors: false where the file system knows no leases.
 bool isBeingWritten(int descriptor)
 {
+    if (isOnFileServer(descriptor))
+        return false;
     ::fcntl(descriptor, F_SETSIG, SIGURG);
     if (::fcntl(descriptor, F_SETLEASE, F_RDLCK) != 0)
         return errno == EAGAIN;

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "dialog/job/PageChoice.h"
+#include "dialog/printers/OwnInstances.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueuesFile.h"
 #include "dialog/session/CustomValue.h"
@@ -181,16 +182,16 @@ QString freeName(const QString &queue, const UserQueues &queues)
 }
 
 QString problemOfName(const QString &typed, const QString &queue, const InstanceDraft &draft,
-                      const UserQueues &queues, const QStringList &own)
+                      const KnownInstances &known)
 {
     if (draft.name.isEmpty())
         return Texts::tr("“%1” has no letters that other programs can print to. Give it a name of "
                          "letters from a to z, such as “%2”.")
-            .arg(typed, freeName(queue, queues).section(u'/', 1));
-    const bool isOwn = std::any_of(own.cbegin(), own.cend(), [&](const QString &name) {
-        return isSameQueue(name, draft.name);
-    });
-    if (queues.hasInstance(draft.name) && !isOwn)
+            .arg(typed, freeName(queue, known.queues).section(u'/', 1));
+    const bool isOwn =
+        std::any_of(known.own.keyBegin(), known.own.keyEnd(),
+                    [&](const QString &name) { return isSameQueue(name, draft.name); });
+    if (known.queues.hasInstance(draft.name) && !isOwn)
         return Texts::tr("“%1” is there already, with settings of its own. Choose another name, or "
                          "remove it with “lpoptions -x %1”.")
             .arg(draft.name);
@@ -218,9 +219,23 @@ QString instanceNameOf(const QString &name)
     return plain;
 }
 
-InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
-                            const JobSettings &settings, const UserQueues &queues,
-                            const QStringList &own)
+KnownInstances KnownInstances::read()
+{
+    return {readUserQueues(), OwnInstances().read()};
+}
+
+QString KnownInstances::ofSettings(const QString &settings, const QString &queue) const
+{
+    for (auto it = own.cbegin(); it != own.cend(); ++it) {
+        if (it.value() == settings && isSameQueue(queueOfInstance(it.key()), queue) &&
+            queues.hasInstance(it.key()))
+            return it.key();
+    }
+    return {};
+}
+
+InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
+                           const JobSettings &settings, const KnownInstances &known)
 {
     InstanceDraft draft;
     draft.problem = problemOfPrinter(printer, settings);
@@ -229,20 +244,40 @@ InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
     const QString queue = queueOfInstance(printer.fetched.printer.name);
     if (const QString plain = instanceNameOf(name); !plain.isEmpty())
         draft.name = queue + u'/' + plain;
-    draft.problem = problemOfName(name, queue, draft, queues, own);
+    draft.problem = problemOfName(name, queue, draft, known);
+    return draft;
+}
+
+InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
+                            const JobSettings &settings, const KnownInstances &known,
+                            bool withDevice)
+{
+    InstanceDraft draft = nameInstance(name, printer, settings, known);
+    if (!draft.problem.isEmpty())
+        return draft;
     const PpdSession &session = *printer.session;
-    const QList<JobOption> ofUser = queues.optionsOf(queue);
+    const QString queue = queueOfInstance(draft.name);
+    const QList<JobOption> ofUser = known.queues.optionsOf(queue);
     const QList<JobOption> asked = settings.attributes();
     const QList<JobOption> attributes =
         withAnswersToLine(ofUser, withAnswersToDefaults(withoutPages(asked), printer), printer);
     QList<JobOption> options = jobOptions(session, printer.jobValues, attributes);
+    if (!withDevice && printer.jobValues) {
+        const QStringList device = printer.jobValues->deviceOptions();
+        options.removeIf([&](const JobOption &option) { return device.contains(option.name); });
+    }
     draft.leftOut = lostOrders(asked) + takeSecrets(&options, session);
     options += choicesByOtherNames(printer.fetched.defaults + ofUser, attributes, session);
     draft.options = eachNameOnce(options);
     draft.leftOut += addedByOthers(ofUser, draft.options, queue);
-    if (draft.problem.isEmpty())
-        draft.problem = problemOfInstance(draft.name, draft.options);
+    draft.problem = problemOfInstance(draft.name, draft.options);
     return draft;
+}
+
+QString writeInstance(const InstanceDraft &draft, const QString &settings)
+{
+    const QString problem = UserQueuesFile().setInstance(draft.name, draft.options);
+    return problem.isEmpty() ? OwnInstances().note(draft.name, settings) : problem;
 }
 
 } // namespace corvana

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -30,15 +31,34 @@ struct InstanceDraft
 /// scripts are left out. Empty where nothing is left.
 QString instanceNameOf(const QString &name);
 
+/// What stands in lpoptions, and whose it is.
+struct KnownInstances
+{
+    UserQueues queues{};
+    /// Which of the instances may be replaced, and of which settings they are; the others are
+    /// somebody else's.
+    QMap<QString, QString> own{};
+
+    /// As the files have it now.
+    static KnownInstances read();
+    /// The instance of a queue that is of these settings; null when there is none.
+    QString ofSettings(const QString &settings, const QString &queue) const;
+};
+
+/// The name of such an instance, without its options, and why there can be none.
+InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
+                           const JobSettings &settings, const KnownInstances &known);
+
 /// What a job says as it is set now, and an answer to whatever the instance would be given
 /// otherwise: by the queue, and by the user's line for the queue without an instance, which some
 /// programs add to it. No pages, copies and secrets are in it; a booklet, which only this program
-/// can make, is left out and said.
-///
-/// `queues`: what stands in lpoptions. `own`: the instances there that may be replaced; another one
-/// of that name is somebody else's.
+/// can make, is left out and said. `withDevice`: with what sets up the device, too.
 InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
-                            const JobSettings &settings, const UserQueues &queues,
-                            const QStringList &own);
+                            const JobSettings &settings, const KnownInstances &known,
+                            bool withDevice);
+
+/// Writes an instance and notes whose settings it has. Thread: any; waits for other programs.
+/// Errors: answers a sentence for the user.
+QString writeInstance(const InstanceDraft &draft, const QString &settings);
 
 } // namespace corvana

@@ -79,8 +79,8 @@ void PrintTask::print()
     enter(Phase::Asking);
     m_run.textsAreSettled = false;
     std::optional<TaskRefusal> refusal = finish();
-    if (!refusal && m_phase == Phase::Asking && !m_request.instance.isEmpty())
-        refusal = saveInstance();
+    if (!refusal && m_phase == Phase::Asking)
+        refusal = presets().saveInstance();
     // Interrupted, while an alert was waiting for its answer.
     if (m_phase != Phase::Asking)
         return;
@@ -148,7 +148,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     }
     if (m_phase != Phase::Asking)
         return std::nullopt;
-    // Panels have saved what is theirs alone; a job is not printed with other values than were shown.
+    // Panels have saved what is theirs alone; a job is not printed with other values than were
+    // shown.
     const QStringList locked = lockedTexts(keepLocks());
     // Before the ticket: the panels restore and save on the way.
     m_run.lines = summaryOfSettings();

@@ -11,7 +11,6 @@
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
-#include "dialog/task/InstanceDraft.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -126,10 +125,6 @@ public:
     void showSettings();
     /// The summary of the job as it stands now.
     QList<SummaryLine> summary();
-    /// What the settings would be as an instance of the queue, under a name that was made from this
-    /// one (PrintTask-instances.cpp). Whoever is told so writes it with UserQueuesFile, which waits.
-    /// `own`: the instances that may be replaced.
-    InstanceDraft instanceDraft(const QString &name, const QStringList &own = {});
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
@@ -357,7 +352,6 @@ private:
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
-    std::optional<TaskRefusal> saveInstance();
     QString unknownDocument() const;
     void lookForMissingCharacters();
     bool isTextCheckOver() const;

@@ -120,24 +120,6 @@ QString named(const JobOption &option)
     return u"%1=%2"_s.arg(option.name, option.value);
 }
 
-// Options that no printer, panel or attribute has the name of: whoever has set them for another
-// program knows them.
-OptionOutcome applyUsersOptions(QList<JobOption> options, OpenedPrinter &printer)
-{
-    QStringList unknown;
-    options.removeIf([&](const JobOption &option) {
-        const bool isUnknown = !isKnownOption(option.name, *printer.session);
-        if (isUnknown)
-            unknown += named(option);
-        return isUnknown;
-    });
-    OptionOutcome outcome = applyWhatFits(options, printer);
-    if (!unknown.isEmpty())
-        outcome.problems.prepend(
-            Texts::tr("This printer has no option of this name: %1.").arg(unknown.join(u", "_s)));
-    return outcome;
-}
-
 // Whether the job says what the option asks for in another way, which counts more than what the
 // server adds: by choices of the PPD, or by its number of copies.
 bool isSaidByTheJob(const JobOption &option, const OpenedPrinter &printer)
@@ -298,6 +280,24 @@ QList<JobOption> foldingOf(const QList<JobOption> &options, const OpenedPrinter 
 }
 
 } // namespace
+
+// Options that no printer, panel or attribute has the name of: whoever has set them for another
+// program knows them.
+OptionOutcome applyUsersOptions(QList<JobOption> options, OpenedPrinter &printer)
+{
+    QStringList unknown;
+    options.removeIf([&](const JobOption &option) {
+        const bool isUnknown = !isKnownOption(option.name, *printer.session);
+        if (isUnknown)
+            unknown += named(option);
+        return isUnknown;
+    });
+    OptionOutcome outcome = applyWhatFits(options, printer);
+    if (!unknown.isEmpty())
+        outcome.problems.prepend(
+            Texts::tr("This printer has no option of this name: %1.").arg(unknown.join(u", "_s)));
+    return outcome;
+}
 
 std::span<const StartLayer> startLayers()
 {

@@ -51,6 +51,10 @@ struct StartOutcome
 StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printer,
                               JobSettings &settings);
 
+/// Brings options that somebody has set for another program, such as those of an instance, into a
+/// printer, as far as they go. Answers the attributes among them; `problems` names the rest.
+OptionOutcome applyUsersOptions(QList<JobOption> options, OpenedPrinter &printer);
+
 /// The attributes of a job, and an answer to each default of its queue that they do not name: the
 /// server would add that otherwise, although the user has chosen something else meanwhile.
 QList<JobOption> withAnswersToDefaults(const QList<JobOption> &attributes,

@@ -6,8 +6,6 @@
 
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
-#include "dialog/printers/OwnInstances.h"
-#include "dialog/printers/UserQueuesFile.h"
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartPresets.h"
@@ -131,7 +129,7 @@ void TaskPresets::use(const QString &name)
 
 // `chosen`: what of the content was chosen by somebody.
 void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
-                        const SelectedPreset &selected)
+                        const SelectedPreset &selected, const QList<JobOption> &ofInstance)
 {
     if (m_task.phase() != Phase::Ready || !m_task.m_face.finishEditing())
         return;
@@ -143,6 +141,8 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
         const QSignalBlocker blocker(m_task.opened()->panels.get());
         outcome = applyPreset(content, {PresetUse::Others::Cleared, chosen}, m_task.documents(),
                               *m_task.opened(), m_task.settings());
+        if (!ofInstance.isEmpty())
+            outcome.missing += takeInstance(ofInstance);
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
@@ -199,42 +199,8 @@ void TaskPresets::save(const PresetToSave &wanted)
     }
     m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), {}};
     if (wanted.elsewhere)
-        m_saving->elsewhere = elsewhere(preset.name);
+        m_saving->elsewhere = draftElsewhere(wanted);
     m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
-}
-
-InstanceDraft TaskPresets::elsewhere(const QString &name) const
-{
-    if (m_task.printer().origin != PrinterOrigin::Queue)
-        return {{}, {}, {}, tr("Other programs know only queues of a print server.")};
-    return m_task.instanceDraft(name, OwnInstances().names());
-}
-
-QString TaskPresets::selectedElsewhere() const
-{
-    const Printer &printer = m_task.printer();
-    if (m_kept.selected.kind != Kind::Preset || printer.origin != PrinterOrigin::Queue)
-        return {};
-    const QMap<QString, QString> own = OwnInstances().read();
-    for (auto one = own.cbegin(); one != own.cend(); ++one) {
-        const bool isOfPrinter =
-            isSameQueue(queueOfInstance(one.key()), queueOfInstance(printer.name));
-        if (isOfPrinter && one.value() == m_kept.selected.name)
-            return one.key();
-    }
-    return {};
-}
-
-// What other programs cannot have of it is said with it.
-void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)
-{
-    m_shelf.writeInstance(draft.name, [draft, name] {
-        const QString problem = UserQueuesFile().setInstance(draft.name, draft.options);
-        return problem.isEmpty() ? OwnInstances().note(draft.name, name) : problem;
-    });
-    QStringList sentences{tr("Other programs print with these settings to “%1”.").arg(draft.name)};
-    sentences += draft.leftOut;
-    Q_EMIT m_task.said({TaskMessage::Kind::Information, sentences.join(u'\n')});
 }
 
 void TaskPresets::update()
@@ -258,11 +224,7 @@ void TaskPresets::remove()
     const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
     if (m_kept.selected.kind != Kind::Preset || !found || !found->isOwn)
         return;
-    if (const QString instance = selectedElsewhere(); !instance.isEmpty())
-        m_shelf.writeInstance(instance, [instance] {
-            const QString problem = UserQueuesFile().removeInstance(instance);
-            return problem.isEmpty() ? OwnInstances().forget(instance) : problem;
-        });
+    removeElsewhere();
     m_shelf.remove(found->preset);
 }
 
@@ -282,6 +244,8 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
 {
     using Change = PresetShelf::Change;
     const bool isReady = m_task.phase() == Phase::Ready;
+    if (change == Change::Instance)
+        return elsewhereEnded(name, problem);
     const std::optional<Saving> saving =
         change == Change::Saved ? std::exchange(m_saving, std::nullopt) : std::nullopt;
     if (!problem.isEmpty()) {
@@ -293,11 +257,15 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
     } else if (saving && isReady) {
         m_kept.selected = saving->selected;
         m_task.setBase({saving->settings, selectedName()});
-        if (saving->elsewhere && saving->elsewhere->problem.isEmpty())
+        if (saving->elsewhere && saving->elsewhere->problem.isEmpty()) {
             writeElsewhere(*saving->elsewhere, saving->selected.name);
-        else if (saving->elsewhere)
+            Q_EMIT changed();
+            return; // ended with that
+        }
+        if (saving->elsewhere)
             m_task.say(TaskMessage::Kind::Problem, saving->elsewhere->problem);
     } else if (change == Change::Renamed && isReady) {
+        renameElsewhere(name);
         m_kept.selected.name = name;
         m_task.setBase({m_task.base().settings, selectedName()});
     } else if (change == Change::Removed && m_kept.selected.name == name && isReady) {
@@ -305,7 +273,7 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
         m_task.setBase({m_task.base().settings, selectedName()});
     }
     Q_EMIT changed();
-    if (change != Change::LastJob && change != Change::Instance)
+    if (change != Change::LastJob)
         Q_EMIT ended(problem);
 }
 

@@ -6,6 +6,7 @@
 
 #include "dialog/presets/PresetShelf.h"
 #include "dialog/task/InstanceDraft.h"
+#include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
 
 namespace corvana {
@@ -79,18 +80,26 @@ public:
     /// The options that set up the device, by their texts; empty where this printer has none.
     QString deviceSettings() const;
 
-    /// The instance that a preset of this name would be for other programs; with a problem where it
-    /// can be none.
+    // In other programs (TaskPresets-instances.cpp)
+
+    /// What a preset of this name would be called by other programs; with a problem where they
+    /// cannot have it.
     InstanceDraft elsewhere(const QString &name) const;
     /// The instance that this program has made of the preset that is selected; empty where there is
     /// none of this printer.
     QString selectedElsewhere() const;
+    /// Writes the instance that the request names, for somebody who waits for nothing else; nothing
+    /// where it names none. `settings`: the preset that it is of; empty for none.
+    std::optional<TaskRefusal> saveInstance(const QString &settings = {});
+    /// The instances of the queue that is open which others have made, by their whole names.
+    QStringList instancesOfOthers() const;
 
     // Each is one step, and says what of it the printer has not.
 
     void useDefaults();
     void useLastUsed();
     void use(const QString &name);
+    void useInstance(const QString &name);
 
     // Beside the GUI thread: ended() follows. What cannot be done is said; the settings of the task
     // are the same then.
@@ -135,11 +144,18 @@ private:
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
-               const SelectedPreset &selected);
+               const SelectedPreset &selected, const QList<JobOption> &ofInstance = {});
+    QStringList takeInstance(const QList<JobOption> &options);
     void say(const QStringList &missing, const QStringList &details);
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
+    InstanceDraft draft(const QString &name, const KnownInstances &known, bool withDevice) const;
+    InstanceDraft draftElsewhere(const PresetToSave &wanted) const;
+    void sayOfInstance(const InstanceDraft &draft);
     void writeElsewhere(const InstanceDraft &draft, const QString &name);
+    void removeElsewhere();
+    void renameElsewhere(const QString &name);
+    void elsewhereEnded(const QString &instance, const QString &problem);
     QStringList namesOf(const PresetContent &content) const;
 
     PrintTask &m_task;
@@ -147,7 +163,8 @@ private:
     KeptSettings m_kept;
     PresetContent m_ofJob; // that is printed
     std::optional<Saving> m_saving;
-    QStringList m_told; // files that were spoken of
+    std::optional<InstanceDraft> m_written; // for other programs, just now
+    QStringList m_told;                     // files that were spoken of
 };
 
 } // namespace corvana

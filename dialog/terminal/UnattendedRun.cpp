@@ -173,6 +173,8 @@ private:
     {
         if (!problem.isEmpty())
             return end({problem});
+        if (const auto refusal = m_task.presets().saveInstance(m_task.request().presetToSave))
+            return end(refusal->problems);
         if (!m_task.request().quiet)
             QTextStream(stdout) << Texts::tr("The preset “%1” is kept.")
                                        .arg(terminalLine(m_task.request().presetToSave))

@@ -76,6 +76,14 @@ void PresetMenu::addPresets()
         QAction *action = addChoice(presetLabel(name), {Kind::Preset, name});
         connect(action, &QAction::triggered, &m_presets, [this, name] { m_presets.use(name); });
     }
+    const QStringList instances = m_presets.instancesOfOthers();
+    if (!instances.isEmpty())
+        addSection(tr("From Other Programs"));
+    for (const QString &name : instances) {
+        QAction *action = addChoice(presetLabel(name), {Kind::Preset, name});
+        connect(action, &QAction::triggered, &m_presets,
+                [this, name] { m_presets.useInstance(name); });
+    }
 }
 
 void PresetMenu::addChanges()

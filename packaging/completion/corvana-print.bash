@@ -170,13 +170,14 @@ _corvana_print() {
         return
         ;;
     # What only the user knows.
-    -n | --copies | -t | --title | -P | -q | --wait | --password-fd) return ;;
+    -n | --copies | -t | --title | -P | -q | --wait | --password-fd | --save-instance) return ;;
     esac
 
     if [[ $current == -* ]]; then
         _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd \
             --document-password-file --ppd --demo --list-printers \
-            --preset --list-presets --save-preset -o --option -n --copies -P -q -H -t --title --output \
+            --preset --list-presets --save-preset --save-instance \
+            -o --option -n --copies -P -q -H -t --title --output \
             --no-dialog --summary --on-alert --wait --no-wait --format -s -c -m --bundle-root \
             --check-display --help --version
         return

@@ -3485,6 +3485,10 @@ For the command line: %2</source>
         <source>Delete</source>
         <translation>削除</translation>
     </message>
+    <message>
+        <source>From Other Programs</source>
+        <translation>他のプログラムの設定</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PresetRow</name>
@@ -3621,12 +3625,121 @@ For the command line: %2</source>
         <translation>%1 現在の設定は変わっていません。</translation>
     </message>
     <message>
-        <source>Other programs know only queues of a print server.</source>
-        <translation>ほかのプログラムで使えるのはプリントサーバーのキューだけです。</translation>
+        <source>“%1” in other programs: %2</source>
+        <translation>他のプログラムの「%1」: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more, or has no settings.</source>
+        <translation>「%1」はもう存在しないか、設定がありません。</translation>
+    </message>
+    <message>
+        <source>The printer is not known yet.</source>
+        <translation>プリンターの情報がまだありません。</translation>
     </message>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
-        <translation>ほかのプログラムは「%1」でこの設定を使って印刷できます。</translation>
+        <translation>他のプログラムでは、「%1」に印刷するとこの設定が使われます。</translation>
+    </message>
+</context>
+<context>
+    <name>InstanceDraft</name>
+    <message>
+        <source>Some programs add “%1=%2” to it, which you have set for “%3”.</source>
+        <translation>「%3」に設定されている「%1=%2」を追加するプログラムがあります。</translation>
+    </message>
+    <message>
+        <source>“%1” is left out: it is a secret.</source>
+        <translation>「%1」は秘密の値なので含まれません。</translation>
+    </message>
+    <message>
+        <source>“%1” is left out: other programs cannot print it.</source>
+        <translation>「%1」は他のプログラムでは印刷できないので含まれません。</translation>
+    </message>
+    <message>
+        <source>Other programs know settings of queues only, and “%1” is none.</source>
+        <translation>他のプログラムで使えるのはキューの設定だけで、「%1」はキューではありません。</translation>
+    </message>
+    <message>
+        <source>“%1” gets files as they are, so that no setting has an effect.</source>
+        <translation>「%1」はファイルをそのまま受け取るので、設定は効果がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” has no letters that other programs can print to. Give it a name of letters from a to z, such as “%2”.</source>
+        <translation>「%1」には他のプログラムの印刷先に使える文字がありません。「%2」のように、a から z の文字を使った名前を付けてください。</translation>
+    </message>
+    <message>
+        <source>“%1” is there already, with settings of its own. Choose another name, or remove it with “lpoptions -x %1”.</source>
+        <translation>「%1」は別の設定で既に存在します。別の名前を選ぶか、「lpoptions -x %1」で削除してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SharedFile</name>
+    <message>
+        <source>“%1” cannot be read: %2. It was not changed.</source>
+        <translation>「%1」を読み込めません: %2。ファイルは変更されていません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2. It was not changed.</source>
+        <translation>「%1」に書き込めません: %2。ファイルは変更されていません。</translation>
+    </message>
+    <message>
+        <source>the link leads nowhere</source>
+        <translation>リンク先がありません</translation>
+    </message>
+    <message>
+        <source>the link leads to a file of somebody else</source>
+        <translation>リンク先が他のユーザーのファイルです</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it belongs to somebody else</source>
+        <translation>他のユーザーのファイルです</translation>
+    </message>
+    <message>
+        <source>another program of ours is writing it</source>
+        <translation>このプログラムの別のウィンドウが書き込んでいます</translation>
+    </message>
+    <message>
+        <source>nothing can be written into its folder</source>
+        <translation>フォルダーに書き込めません</translation>
+    </message>
+    <message>
+        <source>other programs write it all the time</source>
+        <translation>他のプログラムが書き込み続けています</translation>
+    </message>
+</context>
+<context>
+    <name>UserQueuesFile</name>
+    <message>
+        <source>The file of lpoptions is packed, and cannot be changed here.</source>
+        <translation>lpoptions のファイルは圧縮されているので、ここでは変更できません。</translation>
+    </message>
+    <message>
+        <source>“%1” is your default printer, and stays: choose another one first.</source>
+        <translation>「%1」は既定のプリンターなので削除されません。先に別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>“%1” is no name that other programs can print to.</source>
+        <translation>「%1」は他のプログラムの印刷先に使えない名前です。</translation>
+    </message>
+    <message>
+        <source>“%1” would have more settings than other programs can read.</source>
+        <translation>「%1」の設定は、他のプログラムで読み込める量を超えます。</translation>
+    </message>
+    <message>
+        <source>Other programs would read the value of “%1” as another one.</source>
+        <translation>他のプログラムは「%1」の値を別の値として読み込みます。</translation>
+    </message>
+    <message>
+        <source>“%1” is no name of an option for other programs.</source>
+        <translation>「%1」は他のプログラムで使えるオプション名ではありません。</translation>
+    </message>
+    <message>
+        <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
+        <translation>「%1」の値に改行または制御文字があります。他のプログラムのオプションには使えません。</translation>
     </message>
 </context>
 <context>

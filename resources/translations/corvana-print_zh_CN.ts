@@ -3485,6 +3485,10 @@ For the command line: %2</source>
         <source>Delete</source>
         <translation>删除</translation>
     </message>
+    <message>
+        <source>From Other Programs</source>
+        <translation>来自其他程序</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PresetRow</name>
@@ -3621,12 +3625,121 @@ For the command line: %2</source>
         <translation>%1 您的设置保持不变。</translation>
     </message>
     <message>
-        <source>Other programs know only queues of a print server.</source>
-        <translation>其他程序只能使用打印服务器的队列。</translation>
+        <source>“%1” in other programs: %2</source>
+        <translation>其他程序中的“%1”：%2</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more, or has no settings.</source>
+        <translation>“%1”已不存在，或没有任何设置。</translation>
+    </message>
+    <message>
+        <source>The printer is not known yet.</source>
+        <translation>尚无打印机的信息。</translation>
     </message>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
-        <translation>其他程序可通过“%1”使用这些设置打印。</translation>
+        <translation>其他程序打印到“%1”时使用这些设置。</translation>
+    </message>
+</context>
+<context>
+    <name>InstanceDraft</name>
+    <message>
+        <source>Some programs add “%1=%2” to it, which you have set for “%3”.</source>
+        <translation>有些程序会加上您为“%3”设置的“%1=%2”。</translation>
+    </message>
+    <message>
+        <source>“%1” is left out: it is a secret.</source>
+        <translation>未包含“%1”：它是保密内容。</translation>
+    </message>
+    <message>
+        <source>“%1” is left out: other programs cannot print it.</source>
+        <translation>未包含“%1”：其他程序无法这样打印。</translation>
+    </message>
+    <message>
+        <source>Other programs know settings of queues only, and “%1” is none.</source>
+        <translation>其他程序只能使用队列的设置，而“%1”不是队列。</translation>
+    </message>
+    <message>
+        <source>“%1” gets files as they are, so that no setting has an effect.</source>
+        <translation>“%1”按原样接收文件，任何设置都不起作用。</translation>
+    </message>
+    <message>
+        <source>“%1” has no letters that other programs can print to. Give it a name of letters from a to z, such as “%2”.</source>
+        <translation>“%1”中没有可供其他程序用作打印目标的字符。请使用由 a 到 z 的字母组成的名称，例如“%2”。</translation>
+    </message>
+    <message>
+        <source>“%1” is there already, with settings of its own. Choose another name, or remove it with “lpoptions -x %1”.</source>
+        <translation>“%1”已存在，并且有自己的设置。请选择其他名称，或用“lpoptions -x %1”将其删除。</translation>
+    </message>
+</context>
+<context>
+    <name>SharedFile</name>
+    <message>
+        <source>“%1” cannot be read: %2. It was not changed.</source>
+        <translation>无法读取“%1”：%2。文件未被更改。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2. It was not changed.</source>
+        <translation>无法写入“%1”：%2。文件未被更改。</translation>
+    </message>
+    <message>
+        <source>the link leads nowhere</source>
+        <translation>链接指向的文件不存在</translation>
+    </message>
+    <message>
+        <source>the link leads to a file of somebody else</source>
+        <translation>链接指向其他用户的文件</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>它不是文件</translation>
+    </message>
+    <message>
+        <source>it belongs to somebody else</source>
+        <translation>它属于其他用户</translation>
+    </message>
+    <message>
+        <source>another program of ours is writing it</source>
+        <translation>本程序的另一个窗口正在写入</translation>
+    </message>
+    <message>
+        <source>nothing can be written into its folder</source>
+        <translation>无法写入其所在的文件夹</translation>
+    </message>
+    <message>
+        <source>other programs write it all the time</source>
+        <translation>其他程序一直在写入</translation>
+    </message>
+</context>
+<context>
+    <name>UserQueuesFile</name>
+    <message>
+        <source>The file of lpoptions is packed, and cannot be changed here.</source>
+        <translation>lpoptions 文件已压缩，无法在此更改。</translation>
+    </message>
+    <message>
+        <source>“%1” is your default printer, and stays: choose another one first.</source>
+        <translation>“%1”是您的默认打印机，因此保留。请先选择另一台。</translation>
+    </message>
+    <message>
+        <source>“%1” is no name that other programs can print to.</source>
+        <translation>“%1”不能用作其他程序的打印目标名称。</translation>
+    </message>
+    <message>
+        <source>“%1” would have more settings than other programs can read.</source>
+        <translation>“%1”的设置超过了其他程序能读取的数量。</translation>
+    </message>
+    <message>
+        <source>Other programs would read the value of “%1” as another one.</source>
+        <translation>其他程序会把“%1”的值读成另一个值。</translation>
+    </message>
+    <message>
+        <source>“%1” is no name of an option for other programs.</source>
+        <translation>“%1”不是其他程序可用的选项名称。</translation>
+    </message>
+    <message>
+        <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
+        <translation>“%1”的值含有换行或控制字符，其他程序的选项不能包含这些字符。</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,8 @@ namespace {
 void write(const char *how, const cups_dest_t &dest)
 {
     std::printf("%s %s/%s", how, dest.name, dest.instance ? dest.instance : "-");
-    for (const char *name : {"QXMediaType", "number-up", "copies"}) {
+    for (const char *name :
+         {"QXMediaType", "number-up", "copies", "page-ranges", "sides", "media"}) {
         const char *value = cupsGetOption(name, dest.num_options, dest.options);
         std::printf(" %s=%s", name, value ? value : "");
     }

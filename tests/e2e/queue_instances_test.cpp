@@ -163,8 +163,10 @@ private Q_SLOTS:
     void toolsAndLibrariesOfCupsKnowTheInstance()
     {
         m_cups->addQueue(kQueue, kPpd);
-        m_runner->setUserOptions("# by hand\nDest office number-up=4 copies=2\nDest gone x=1\n");
-        const RunEnd saved = save({u"QXMediaType=Thick"_s, u"number-up=1"_s});
+        m_runner->setUserOptions("# by hand\nDest office number-up=4 copies=2 page-ranges=1 "
+                                 "sides=two-sided-long-edge media=A5\nDest gone x=1\n");
+        const RunEnd saved =
+            save({u"QXMediaType=Thick"_s, u"number-up=1"_s, u"sides=one-sided"_s, u"media=A4"_s});
         QVERIFY2(saved.status == 0, saved.text().constData());
         QVERIFY(tool(u"lpstat"_s, {u"-a"_s}).contains("office/reports accepting"));
         const QByteArray listed = tool(u"lpoptions"_s, {u"-p"_s, kInstance});
@@ -178,9 +180,15 @@ private Q_SLOTS:
         reader.start(QStringLiteral(CORVANA_DESTS_READER), {kQueue, u"reports"_s});
         QVERIFY(reader.waitForFinished());
         const QByteArray read = reader.readAllStandardOutput();
-        for (const char *line : {"named office/reports QXMediaType=Thick number-up=1 copies=1",
-                                 "listed office/reports QXMediaType=Thick number-up=1 copies=1",
-                                 "listed office/- QXMediaType= number-up=4 copies=2"})
+        for (const char *line : {"named office/reports QXMediaType=Thick number-up=1 copies=1 "
+                                 "page-ranges=1- sides=one-sided "
+                                 "media=A4",
+                                 "listed office/reports QXMediaType=Thick number-up=1 copies=1 "
+                                 "page-ranges=1- sides=one-sided "
+                                 "media=A4",
+                                 "listed office/- QXMediaType= number-up=4 copies=2 page-ranges=1 "
+                                 "sides=two-sided-long-edge "
+                                 "media=A5"})
             QVERIFY2(read.contains(line), read.constData());
     }
 
@@ -203,6 +211,21 @@ private Q_SLOTS:
         QVERIFY2(saved.status == 0, saved.text().constData());
         QCOMPARE(userOptions().count("office/reports"), 1);
         QVERIFY(userOptions().contains("QXMediaType=Thick"));
+    }
+
+    void aPresetIsInOtherProgramsAsWell()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        const RunEnd saved =
+            m_runner->run({u"-d"_s, kQueue, u"--save-preset"_s, u"Monthly Reports"_s,
+                           u"--save-instance"_s, u"reports"_s, u"-o"_s, u"QXMediaType=Thick"_s});
+        QVERIFY2(saved.status == 0, saved.text().constData());
+        QVERIFY2(saved.err.contains(kInstance), saved.text().constData());
+        QVERIFY(userOptions().contains("Dest office/reports "));
+        const QByteArray theirs = printedByLp({u"-d"_s, kInstance});
+        QVERIFY(!theirs.isEmpty());
+        QCOMPARE(printedHere({u"-d"_s, kQueue, u"--preset"_s, u"Monthly Reports"_s}) == theirs,
+                 true);
     }
 
     void aNameWithoutLatinLettersIsRefusedWithAnotherOne()

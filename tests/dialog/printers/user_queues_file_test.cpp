@@ -16,6 +16,7 @@
 #include "dialog/printers/UserQueuesFile.h"
 #include "dialog/printers/UserQueuesLine.h"
 #include "tests/support/FileSizeLimit.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;
@@ -142,27 +143,6 @@ QByteArray randomContent(std::mt19937 &random)
         content += any(kPieces); // without an end
     return content;
 }
-
-/// Somebody without rights, where the tests run as root.
-class Nobody
-{
-public:
-    Nobody() : m_wasRoot(::geteuid() == 0)
-    {
-        if (m_wasRoot && ::seteuid(65534) != 0)
-            qFatal("cannot become nobody");
-    }
-    ~Nobody()
-    {
-        if (m_wasRoot && ::seteuid(0) != 0)
-            qFatal("cannot become root again");
-    }
-    Nobody(const Nobody &) = delete;
-    Nobody &operator=(const Nobody &) = delete;
-
-private:
-    bool m_wasRoot;
-};
 
 mode_t modeOf(const QString &path)
 {
@@ -414,7 +394,7 @@ private Q_SLOTS:
         const QByteArray was = readFile(path);
         const QString kept = path;
         const bool isRoot = ::geteuid() == 0;
-        std::unique_ptr<Nobody> nobody;
+        std::unique_ptr<OrdinaryUser> nobody;
         std::unique_ptr<FileSizeLimit> limit;
         if (what == u"a link that leads nowhere"_s) {
             path = newPath();
@@ -438,7 +418,7 @@ private Q_SLOTS:
                 QCOMPARE(::chown(folder.constData(), 65534, 65534), 0);
             }
             QCOMPARE(::chmod(folder.constData(), 0555), 0);
-            nobody = std::make_unique<Nobody>();
+            nobody = std::make_unique<OrdinaryUser>();
         } else if (what == u"a named pipe"_s) {
             path = newPath();
             QCOMPARE(::mkfifo(path.toUtf8().constData(), 0600), 0);
@@ -450,7 +430,7 @@ private Q_SLOTS:
                 QSKIP("needs root");
             QCOMPARE(::chmod(m_folder.path().toUtf8().constData(), 0755), 0);
             QCOMPARE(::chmod(QFileInfo(path).path().toUtf8().constData(), 0777), 0);
-            nobody = std::make_unique<Nobody>();
+            nobody = std::make_unique<OrdinaryUser>();
         }
         const QString problem = set(path);
         limit.reset();

@@ -1,0 +1,231 @@
+#include <QTest>
+
+#include "dialog/printers/OwnInstances.h"
+#include "dialog/task/InstanceDraft.h"
+#include "tests/dialog/task/StartValuesScene.h"
+#include "tests/support/Rows.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a person calls settings, and what other programs do.
+struct Named
+{
+    const char *name;
+    const char *plain;
+};
+
+const QList<Named> kNamed{
+    {"Reports", "reports"},
+    {"Monthly Reports, A4", "monthly-reports-a4"},
+    {"  (draft)  ", "draft"},
+    {"Übergröße", "ubergrosse"},
+    {"Łódź café", "lodz-cafe"},
+    {"Ｗｉｄｅ２", "wide2"},
+    {"報告 A4", "a4"},
+    {"報告書", ""},
+    {"a/b#c d", "a-b-c-d"},
+    {"--help", "help"},
+    {"under_score", "under_score"},
+    {"0123456789012345678901234567890123456789tail", "0123456789012345678901234567890123456789"},
+};
+
+/// What is set, beside what the queue and the user's line for it would add, and what the instance
+/// says of it: "NAME=VALUE", or "NAME" for one that it does not name.
+struct Drafted
+{
+    const char *name;
+    QString options;
+    QString queueDefault{};
+    QString userOptions{};
+    QStringList expected{};
+    /// What has to be said.
+    QStringList said{};
+};
+
+const QList<Drafted> kDrafted{
+    {"choices of the printer, set or not",
+     u"Media=Card"_s,
+     {},
+     {},
+     {u"Media=Card"_s, u"Tray=Upper"_s, u"Duplex=None"_s}},
+    {"no pages and no copies",
+     u"page-ranges=1-2 page-set=even copies=3"_s,
+     {},
+     {},
+     {u"page-ranges"_s, u"page-set"_s, u"copies"_s}},
+    {"a layout", u"number-up=2"_s, {}, {}, {u"number-up=2"_s}},
+    {"nothing of a booklet, which is said",
+     u"booklet=left"_s,
+     {},
+     {},
+     {u"booklet"_s, u"number-up"_s},
+     {u"Booklet"_s}},
+    {"pages of the user's line are answered",
+     {},
+     {},
+     u"page-ranges=1 page-set=odd"_s,
+     {u"page-ranges=1-"_s, u"page-set=all"_s}},
+    {"pages of the queue's default are answered", {}, u"page-set=odd"_s, {}, {u"page-set=all"_s}},
+    {"copies of the user's line are answered", {}, {}, u"copies=7"_s, {u"copies=1"_s}},
+    {"what a choice says is said by the name of the user's line",
+     u"Duplex=DuplexTumble PageSize=A5"_s,
+     {},
+     u"sides=one-sided media=A4"_s,
+     {u"sides=two-sided-short-edge"_s, u"media=A5"_s}},
+    {"what a choice says is said by the name of the queue's default",
+     u"Duplex=None"_s,
+     u"sides=two-sided-long-edge"_s,
+     {},
+     {u"sides=one-sided"_s}},
+    {"what the job has no answer to is left to the programs, and said",
+     {},
+     {},
+     u"zz=1"_s,
+     {u"zz"_s},
+     {u"“zz=1”"_s}},
+};
+
+QString valueOf(const QList<JobOption> &options, const QString &name)
+{
+    for (const JobOption &option : options) {
+        if (option.name == name)
+            return option.value;
+    }
+    return {};
+}
+
+} // namespace
+
+/// What an instance for other programs is made of.
+class InstanceDraftTest : public StartValuesScene
+{
+    Q_OBJECT
+
+private:
+    InstanceDraft draft(const QString &name = u"Reports"_s)
+    {
+        return draftInstance(name, *m_printer, m_settings, KnownInstances::read(), true);
+    }
+    QString lpoptions() const { return m_home->filePath(u".cups/lpoptions"_s); }
+
+private Q_SLOTS:
+    void namesAreMadeOfLettersThatEverybodyTypes_data() { addRows(kNamed); }
+    void namesAreMadeOfLettersThatEverybodyTypes()
+    {
+        const Named &row = currentRow(kNamed);
+        QCOMPARE(instanceNameOf(QString::fromUtf8(row.name)), QString::fromUtf8(row.plain));
+    }
+
+    void anInstanceSaysWhatTheJobSays_data() { addRows(kDrafted); }
+    void anInstanceSaysWhatTheJobSays()
+    {
+        const Drafted &row = currentRow(kDrafted);
+        if (!row.queueDefault.isEmpty())
+            say(By::Queue, row.queueDefault);
+        if (!row.userOptions.isEmpty())
+            setUserOptions(row.userOptions);
+        say(By::Options, row.options);
+        start();
+        const InstanceDraft made = draft();
+        QCOMPARE(made.problem, QString());
+        QCOMPARE(made.name, u"office/reports"_s);
+        for (const QString &expected : row.expected) {
+            const QString name = expected.section(u'=', 0, 0);
+            const QString value = expected.section(u'=', 1);
+            const QString found = valueOf(made.options, name);
+            QVERIFY2(found == value && found.isNull() == !expected.contains(u'='),
+                     qPrintable(name + u": "_s + found));
+        }
+        QCOMPARE(made.leftOut.size(), row.said.size());
+        for (qsizetype i = 0; i < row.said.size(); ++i)
+            QVERIFY2(made.leftOut.at(i).contains(row.said.at(i)), qPrintable(made.leftOut.at(i)));
+    }
+
+    void secretsAreLeftOutAndNamed()
+    {
+        const QString path = writeFile(m_home->filePath(u"b.ppd"_s), officePrinter().text());
+        m_fetched.ppd = ppdOfFile(path);
+        say(By::Options, u"Pin=Custom.4711"_s);
+        start();
+        const InstanceDraft made = draft();
+        QCOMPARE(made.problem, QString());
+        QVERIFY(valueOf(made.options, u"Pin"_s).isNull());
+        for (const JobOption &option : made.options)
+            QVERIFY(!option.value.contains(u"4711"_s));
+        QCOMPARE(made.leftOut.size(), 1);
+    }
+
+    void namesThatCannotBeAreSaid()
+    {
+        setUserOptions({});
+        start();
+        const InstanceDraft nameless = draft(u"報告書"_s);
+        QVERIFY(nameless.name.isEmpty());
+        QVERIFY2(nameless.problem.contains(u"“preset1”"_s), qPrintable(nameless.problem));
+        writeFile(lpoptions(), "Dest office/Reports x=1\nDest office/preset1\n");
+        QVERIFY2(draft().problem.contains(u"“office/reports” is there already"_s),
+                 qPrintable(draft().problem));
+        QVERIFY(draft(u"報告書"_s).problem.contains(u"“preset2”"_s));
+        QVERIFY(draft(u"Other"_s).problem.isEmpty());
+    }
+
+    void whatWasWrittenHereIsKnown()
+    {
+        start();
+        QCOMPARE(writeInstance(draft(), u"Reports"_s), QString());
+        const KnownInstances known = KnownInstances::read();
+        QCOMPARE(known.own, (QMap<QString, QString>{{u"office/reports"_s, u"Reports"_s}}));
+        QCOMPARE(known.ofSettings(u"Reports"_s, u"OFFICE"_s), u"office/reports"_s);
+        QVERIFY(known.ofSettings(u"Reports"_s, u"lab"_s).isNull());
+        QVERIFY(known.ofSettings(u"Other"_s, u"office"_s).isNull());
+        QCOMPARE(draft().problem, QString());
+        QCOMPARE(OwnInstances().forget(u"office/reports"_s), QString());
+        QVERIFY(!draft().problem.isEmpty());
+    }
+
+    void aListOfOwnInstancesKeepsWhatItDoesNotKnow()
+    {
+        const QString path = m_home->filePath(u"instances.json"_s);
+        const OwnInstances own(path);
+        writeFile(path, R"({"version":2,"more":[1],"instances":{"a/b":{"settings":"B","x":1}}})");
+        QCOMPARE(own.note(u"a/c"_s, u"C"_s), QString());
+        QCOMPARE(own.read(), (QMap<QString, QString>{{u"a/b"_s, u"B"_s}, {u"a/c"_s, u"C"_s}}));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        for (const char *kept : {"\"more\"", "\"x\"", "\"version\": 2"})
+            QVERIFY2(content.contains(kept), content.constData());
+    }
+
+    void aDamagedListKnowsNone()
+    {
+        const QString path = m_home->filePath(u"instances.json"_s);
+        for (const QByteArray &content :
+             {QByteArray("{"), QByteArray("[]"), QByteArray("\0\xff", 2),
+              QByteArray(R"({"instances":[1]})")}) {
+            writeFile(path, content);
+            QVERIFY(OwnInstances(path).names().isEmpty());
+        }
+    }
+
+    void onlyQueuesHaveInstances()
+    {
+        m_fetched.printer.origin = PrinterOrigin::Device;
+        start();
+        QVERIFY2(draft().problem.contains(u"queues only"_s), qPrintable(draft().problem));
+    }
+
+    void whatCannotBeWrittenIsRefusedByName()
+    {
+        start();
+        m_settings.addAttributes({{u"job-billing"_s, u"two\nlines"_s}});
+        QVERIFY2(draft().problem.contains(u"job-billing"_s), qPrintable(draft().problem));
+    }
+};
+
+QTEST_MAIN(InstanceDraftTest)
+#include "instance_draft_test.moc"

@@ -1,0 +1,223 @@
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/task/TaskPresets.h"
+#include "dialog/window/SavePresetDialog.h"
+#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/TaskScene.h"
+#include "tests/support/cups/PrivateCups.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+using Phase = PrintTask::Phase;
+
+/// Keeping a preset for other programs as well: what the dialog says of it, and what becomes of the
+/// instance when the preset becomes another one.
+class SavePresetTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<PrivateCups> m_cups;
+    std::unique_ptr<TaskScene> m_scene;
+
+    PrintTask &task() { return *m_scene->task; }
+    TaskPresets &presets() { return task().presets(); }
+    QString lpoptions() const { return m_home->filePath(u".cups/lpoptions"_s); }
+    QByteArray userOptions() const
+    {
+        QFile file(lpoptions());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void setUserOptions(const QByteArray &content)
+    {
+        QDir(m_home->path()).mkpath(u".cups"_s);
+        writeFile(lpoptions(), content);
+    }
+    // The queue "office", as in a window.
+    void open()
+    {
+        PrintRequest request = m_scene->request(QList<Printer>());
+        request.server = *ServerAddress::parse(m_cups->server());
+        request.serverWasNamed = true;
+        request.wantedPrinter = u"office"_s;
+        request.presetPlaces = {m_home->filePath(u"presets"_s)};
+        m_scene->make(request).start();
+        QVERIFY2(m_scene->reaches(Phase::Opened), qPrintable(task().problem().text));
+        task().bringUp();
+    }
+    // Does something to presets and waits until it is done; answers the problem.
+    QString done(const std::function<void()> &act)
+    {
+        QSignalSpy ended(&presets(), &TaskPresets::ended);
+        act();
+        if (ended.isEmpty() && !ended.wait(20000))
+            return u"nothing ended"_s;
+        QSignalSpy changed(&presets(), &TaskPresets::changed);
+        presets().look();
+        changed.wait(500);
+        return ended.constFirst().constFirst().toString();
+    }
+    QString saveElsewhere(const QString &name = u"Reports"_s)
+    {
+        return done([&] { presets().save({name, false, false, true, true}); });
+    }
+    void propose(const QString &keyword, const QString &choice)
+    {
+        task().propose(keyword, choice);
+        QCoreApplication::processEvents();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!PrivateCups::isAvailable())
+            QSKIP("no CUPS server here");
+    }
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
+            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
+        m_cups = std::make_unique<PrivateCups>();
+        m_cups->start();
+        m_scene = std::make_unique<TaskScene>();
+        m_cups->addQueue(u"office"_s,
+                         writeFile(m_home->filePath(u"office.ppd"_s), smallPrinter().text()));
+    }
+    void cleanup()
+    {
+        m_scene.reset();
+        m_cups.reset();
+        m_variables.clear();
+        m_home.reset();
+    }
+
+    void theDialogShowsTheNameThatOtherProgramsHave()
+    {
+        setUserOptions("Dest office/taken x=1\n");
+        open();
+        SavePresetDialog dialog(presets(), false);
+        auto *name = dialog.findChild<QLineEdit *>(u"presetName"_s);
+        auto *elsewhere = dialog.findChild<QCheckBox *>(u"presetElsewhere"_s);
+        const auto *remark = dialog.findChild<QLabel *>(u"presetRemark"_s);
+        QVERIFY(elsewhere);
+        QVERIFY(!elsewhere->isChecked());
+        elsewhere->setChecked(true);
+        name->setText(u"Monthly Reports"_s);
+        QVERIFY2(remark->text().contains(u"“office/monthly-reports”"_s),
+                 qPrintable(remark->text()));
+        QVERIFY(dialog.preset().elsewhere);
+        for (const auto &[typed, said] : {std::pair(u"Taken"_s, u"is there already"_s),
+                                          std::pair(u"報告書"_s, u"“preset1”"_s)}) {
+            name->setText(typed);
+            QVERIFY2(remark->text().contains(said), qPrintable(remark->text()));
+            elsewhere->setChecked(false);
+            QVERIFY(remark->text().isEmpty());
+            elsewhere->setChecked(true);
+        }
+    }
+
+    void theInstanceGoesAlongWithThePreset()
+    {
+        const QByteArray others = "# by hand\nDest lab x=1\n";
+        setUserOptions(others);
+        open();
+        propose(u"Media"_s, u"Card"_s);
+        QCOMPARE(saveElsewhere(), QString());
+        QVERIFY(userOptions().startsWith(others + "Dest office/reports "));
+        QVERIFY(userOptions().contains(" Media=Card"));
+        SavePresetDialog dialog(presets(), false);
+        QVERIFY(dialog.findChild<QCheckBox *>(u"presetElsewhere"_s)->isChecked());
+
+        propose(u"Media"_s, u"Plain"_s);
+        QCOMPARE(done([&] { presets().update(); }), QString());
+        QVERIFY2(userOptions().contains(" Media=Plain"), userOptions().constData());
+        QCOMPARE(userOptions().count("office/reports"), 1);
+
+        // Scripts go on printing to the name that they know.
+        QCOMPARE(done([&] { presets().rename(u"Accounts"_s); }), QString());
+        QTRY_VERIFY(KnownInstances::read().own.values().contains(u"Accounts"_s));
+        QVERIFY(userOptions().contains("Dest office/reports "));
+
+        QCOMPARE(done([&] { presets().remove(); }), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(userOptions(), others, 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(KnownInstances::read().own.isEmpty(), 20000);
+    }
+
+    void aPresetWithoutTheTickIsNowhereElse()
+    {
+        open();
+        QCOMPARE(done([&] { presets().save({u"Reports"_s, false, false, true}); }), QString());
+        QCOMPARE(done([&] { presets().update(); }), QString());
+        QVERIFY(userOptions().isEmpty());
+    }
+
+    void anInstanceOfOthersStaysAndIsNamed()
+    {
+        setUserOptions("Dest office/Reports x=1\n");
+        open();
+        QCOMPARE(saveElsewhere(), QString());
+        QVERIFY(!m_scene->face.messages.isEmpty());
+        QVERIFY(m_scene->face.messages.constLast().text.contains(u"is there already"_s));
+        QCOMPARE(userOptions(), "Dest office/Reports x=1\n");
+        QCOMPARE(presets().listing().names(), QStringList{u"Reports"_s});
+    }
+
+    void instancesOfOthersAreAppliedLikePresets()
+    {
+        setUserOptions(
+            "Dest office x=1\nDest office/draft Media=Card sides=two-sided-long-edge "
+            "number-up=2 copies=3 page-ranges=1 Tray=Lower nonsense=1\nDest lab/draft a=1\n");
+        open();
+        QCOMPARE(presets().instancesOfOthers(), QStringList{u"office/draft"_s});
+        propose(u"Boost"_s, u"ON"_s);
+        presets().useInstance(u"office/draft"_s);
+        const PpdSession &session = m_scene->session();
+        QCOMPARE(session.markedChoice(u"Tray"_s), u"Lower"_s);
+        QCOMPARE(session.markedChoice(u"Boost"_s), u"OFF"_s);
+        QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
+        QCOMPARE(task().settings().copies(), 1);
+        QVERIFY(task().settings().pageRanges().isEmpty());
+        QCOMPARE(presets().selectedName(), u"office/draft"_s);
+        QVERIFY(!presets().isChanged());
+        // Card is not printed on both sides here: which of the two is there is said.
+        QVERIFY(!m_scene->face.messages.isEmpty());
+        QVERIFY2(m_scene->face.messages.constLast().text.contains(u"nonsense"_s),
+                 qPrintable(m_scene->face.messages.constLast().text));
+        task().undo();
+        QCOMPARE(session.markedChoice(u"Boost"_s), u"ON"_s);
+        QCOMPARE(session.markedChoice(u"Tray"_s), u"Upper"_s);
+    }
+
+    void ourInstancesAreNoPresetsOfOthers()
+    {
+        open();
+        QCOMPARE(saveElsewhere(), QString());
+        QVERIFY(presets().instancesOfOthers().isEmpty());
+    }
+
+    void aFileThatCannotBeWrittenIsSaid()
+    {
+        QVERIFY(QDir().mkpath(lpoptions()));
+        open();
+        const QString problem = saveElsewhere();
+        QVERIFY2(problem.contains(u"lpoptions"_s), qPrintable(problem));
+        QCOMPARE(presets().listing().names(), QStringList{u"Reports"_s});
+    }
+};
+
+QTEST_MAIN(SavePresetTest)
+#include "save_preset_test.moc"
