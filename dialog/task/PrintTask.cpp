@@ -130,6 +130,7 @@ void PrintTask::applyStartOptions()
         m_chosen.unset = started.unset;
         m_chosen.ignored = started.ignored;
     }
+    m_chosen.ignored += policyProblems();
     m_chosen.unset += lockedCopies() + takeMostCopies();
     keepLocks();
 }

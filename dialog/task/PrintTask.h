@@ -232,6 +232,7 @@ private:
         bool canBeAnother = false;          // somebody sits there who can choose
         PrinterProblem problem;             // why it cannot be asked for
         QStringList unset;                  // what was asked for with it and cannot be set
+        bool policyWasTold = false;         // that something of the policy is not used
         QStringList ignored;                // the same of what nobody has asked for just now
         std::optional<FetchedPrinter> next; // while the one that is open is in use
     };
@@ -328,6 +329,7 @@ private:
     QStringList keepLocks();
     QStringList lockedTexts(const QStringList &keywords) const;
     QStringList lockedCopies() const;
+    QStringList policyProblems();
     QStringList problemsOfLocks() const;
     void sayLocked(const QStringList &keywords);
     std::optional<TaskRefusal> askForManySheets();
