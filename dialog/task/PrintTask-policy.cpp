@@ -1,5 +1,7 @@
 #include "dialog/task/PrintTask.h"
 
+#include <utility>
+
 #include <QLoggingCategory>
 
 #include "dialog/job/PageChoice.h"
@@ -65,6 +67,17 @@ void PrintTask::sayLocked(const QStringList &keywords)
     if (keywords.isEmpty())
         return;
     say(TaskMessage::Kind::Problem, lockedTexts(keywords).join(u'\n'));
+}
+
+// Files that somebody else may have written, and lines that nobody understands, decide nothing. Who
+// prints is told once, in few words; the rest is for administrators.
+QStringList PrintTask::policyProblems()
+{
+    if (policyOf(m_request).reading().problems.isEmpty() ||
+        std::exchange(m_chosen.policyWasTold, true))
+        return {};
+    return {tr("Not everything that your administrator has decided can be used. "
+               "“corvana-print --check-policy” says what, and why.")};
 }
 
 // The number of -n was asked for just now; any other is quietly as many as are printed.

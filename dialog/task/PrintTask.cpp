@@ -143,6 +143,7 @@ void PrintTask::applyStartOptions()
         m_chosen.ignored = started.ignored;
         presets().start(started);
     }
+    m_chosen.ignored += policyProblems();
     m_chosen.unset += lockedCopies() + takeMostCopies();
     keepLocks();
 }

@@ -341,6 +341,7 @@ private:
     QStringList keepLocks();
     QStringList lockedTexts(const QStringList &keywords) const;
     QStringList lockedCopies() const;
+    QStringList policyProblems();
     QStringList problemsOfLocks() const;
     void sayLocked(const QStringList &keywords);
     std::optional<TaskRefusal> askForManySheets();

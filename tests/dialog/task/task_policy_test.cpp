@@ -178,6 +178,14 @@ private Q_SLOTS:
         QCOMPARE(session().markedChoice(u"QXSleepTime"_s), u"Custom"_s);
     }
 
+    void whatIsNotUsedOfAPolicyIsToldOnceAndPrintingGoesOn()
+    {
+        m_scene->open(request("[all]\nlokc.Boost=ON\nlock.number-up=2\n"));
+        QCOMPARE(m_scene->face.ignored.size(), 1);
+        QVERIFY(m_scene->face.ignored.at(0).contains(u"--check-policy"_s));
+        QVERIFY(printsWith("number-up=2"));
+    }
+
     void aHiddenPrinterIsInNoListAndIsNotOpenedByName()
     {
         PrintRequest request = m_scene->request(
@@ -255,7 +263,7 @@ private Q_SLOTS:
         task().print();
         QVERIFY(m_scene->reaches(Phase::Ready));
         QVERIFY(!m_scene->filter.hasOutput());
-        QVERIFY(m_scene->face.refusals.constLast().isUsersAnswer());
+        QVERIFY(m_scene->face.refusals.constLast().answered);
         m_scene->face.printsMany = std::nullopt; // nobody is there
         task().print();
         QVERIFY(m_scene->reaches(Phase::Ready));
