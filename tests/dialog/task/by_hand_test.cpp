@@ -40,6 +40,9 @@ constexpr auto kRearBin = "*DefaultOutputOrder: Normal\n"
                           "*CloseUI: *OutputBin\n*PageStackOrder Top: Normal\n"
                           "*PageStackOrder Rear: Reverse\n";
 
+// Takes PDF; any other printer takes PostScript.
+constexpr auto kPdfFaceUp = "*% PDF\n*DefaultOutputOrder: Reverse\n";
+
 struct HandJob
 {
     const char *name;
@@ -59,6 +62,8 @@ const HandJob kHandJobs[] = {
      u"sides-by-hand=long-edge put-back=face-up"_s, Printed::Down},
     {"out face up, back face up", kFaceUp, Kind::A4, u"sides-by-hand=short-edge put-back=face-up"_s,
      Printed::Up},
+    {"a printer of PDF, out face up", kPdfFaceUp, Kind::A4, u"sides-by-hand=short-edge"_s,
+     Printed::Up, 2},
     {"into the rear bin", kRearBin, Kind::A4, u"sides-by-hand=long-edge OutputBin=Rear"_s,
      Printed::Up},
     {"two copies", kFaceDown, Kind::A4, u"sides-by-hand=long-edge"_s, Printed::Down, 2},
@@ -88,8 +93,8 @@ const HandJob kHandJobs[] = {
     {"mirrored", kFaceUp, Kind::A4, u"sides-by-hand=short-edge mirror=true"_s, Printed::Up},
     {"a text", kFaceDown, Kind::Text, u"sides-by-hand=long-edge"_s, Printed::Down},
     {"PostScript", kFaceDown, Kind::PostScript, u"sides-by-hand=short-edge"_s, Printed::Down},
-    {"on Letter", kFaceDown, Kind::A4,
-     u"sides-by-hand=short-edge PageSize=Letter print-scaling=fit"_s, Printed::Down},
+    {"on another paper", kFaceDown, Kind::A4,
+     u"sides-by-hand=short-edge PageSize=B5 print-scaling=fit"_s, Printed::Down},
 };
 
 struct Refused
@@ -149,8 +154,11 @@ private:
     {
         QFile sample(sourceFile(u"resources/ppd/corvana-cl2.ppd"_s));
         QVERIFY(sample.open(QIODevice::ReadOnly));
-        m_cups->addQueue(u"office"_s,
-                         writeFile(m_home->filePath(u"office.ppd"_s), sample.readAll() + lines));
+        QByteArray ppd = sample.readAll() + lines;
+        if (lines.contains("PDF"))
+            ppd.replace("application/vnd.cups-postscript application/postscript",
+                        "application/vnd.cups-pdf application/pdf");
+        m_cups->addQueue(u"office"_s, writeFile(m_home->filePath(u"office.ppd"_s), ppd));
     }
     PrintRequest request(Kind kind, const QString &options)
     {
