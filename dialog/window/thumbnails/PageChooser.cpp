@@ -64,9 +64,11 @@ PageChooser::PageChooser(const ChoosablePages &pages, QWidget *parent)
     resize((kUsualSize * em).boundedTo(room));
 }
 
-// The view goes first: it must not ask for pictures any more.
+// The view goes first: it must not ask for pictures any more. A field that is left while the window
+// goes has nothing to say.
 PageChooser::~PageChooser()
 {
+    m_field->disconnect(this);
     delete m_thumbnails;
 }
 
