@@ -57,6 +57,9 @@ PageChooser::PageChooser(const ChoosablePages &pages, QWidget *parent)
     });
     connect(m_buttons, &QDialogButtonBox::accepted, this, &PageChooser::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &PageChooser::reject);
+    // Qt's own texts are not there in every language.
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("OK"));
+    m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
     setPages(pages);
     m_thumbnails->setFocus();
     const int em = fontMetrics().height();
