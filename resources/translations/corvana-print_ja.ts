@@ -3126,6 +3126,14 @@ For the command line: %2</source>
         <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
         <translation>ページ番号はどの文書にも共通です。1 つの文書で選択した番号は、すべての文書で選択されます。</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PageDelegate</name>

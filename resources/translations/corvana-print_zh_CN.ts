@@ -3126,6 +3126,14 @@ For the command line: %2</source>
         <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
         <translation>页码对每个文档都有效：在一个文档中勾选，就在所有文档中勾选。</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PageDelegate</name>
