@@ -114,6 +114,12 @@ void PagePictures::forget(const QString &file)
         m_drawer->forget(file);
 }
 
+void PagePictures::replace(const QString &file, const QString &longer)
+{
+    m_cache.rename(file, longer);
+    forget(file);
+}
+
 void PagePictures::takeFinished()
 {
     for (const FinishedPage &finished : m_drawer->takeFinished()) {
