@@ -342,7 +342,9 @@ private:
     bool isPreparing() const { return m_phase == Phase::Printing && !m_run.job; }
     void stopPreparing();
     void endPreparing();
+    SheetArrangement arrangementOf(const JobTicket &job) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
+    SheetPreview beginOf(const JobSheets &first, const JobTicket &job) const;
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;

@@ -18,6 +18,7 @@ struct ShownSheets
     SheetPlan plan{};
     QStringList files{};  ///< of each document, the one that was laid out
     QStringList titles{}; ///< of each document
+    bool areAll = true;   ///< else nobody knows how many more there are
 
     bool operator==(const ShownSheets &) const = default;
 };
