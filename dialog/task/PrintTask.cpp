@@ -41,6 +41,10 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     m_baseline.presets = std::make_unique<TaskPresets>(*this);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
+    connect(&m_sheets, &SheetCounter::firstKnown, this, [this] {
+        if (m_run.awaits != Run::Awaits::Sheets)
+            Q_EMIT sheetsCounted();
+    });
     m_looks.textPatience.setSingleShot(true);
     connect(&m_looks.textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
     connect(&m_looks.documents, &DocumentChecks::changed, this, &PrintTask::documentsLookedAt);

@@ -383,7 +383,9 @@ private:
     void stopPreparing();
     void endPreparing();
     ChoosableDocument choosable(const Document &document, const DocumentSheets *counted) const;
+    SheetArrangement arrangementOf(const JobTicket &job) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
+    SheetPreview beginOf(const JobSheets &first, const JobTicket &job) const;
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;

@@ -2436,6 +2436,14 @@ For the command line: %2</source>
         <translation>%1 = %2</translation>
     </message>
     <message>
+        <source>%1, and 1 cover sheet</source>
+        <translation>%1，另有 1 张封面</translation>
+    </message>
+    <message>
+        <source>%1, and %2 cover sheets</source>
+        <translation>%1，另有 %2 张封面</translation>
+    </message>
+    <message>
         <source>%1 × %2 copies = %3</source>
         <translation>%1 × %2 份 = %3</translation>
     </message>
@@ -2793,6 +2801,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>corvana::SheetsRow</name>
+    <message>
+        <source>Sheet %L1</source>
+        <translation>第 %L1 张</translation>
+    </message>
     <message>
         <source>Sheet %L1 of %L2</source>
         <translation>第 %L1 张，共 %L2 张</translation>

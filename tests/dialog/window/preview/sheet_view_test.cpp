@@ -306,7 +306,7 @@ private Q_SLOTS:
         for (int i = 0; i < qMin(4, int(m_pictures.wishes.size())); ++i)
             most += qint64(m_pictures.wishes.at(i).size.width()) *
                     m_pictures.wishes.at(i).size.height() * 4;
-        QVERIFY2(most <= 64 << 20, qPrintable(QString::number(most)));
+        QVERIFY2(most <= 32 << 20, qPrintable(QString::number(most)));
     }
 
     void thePlaceIsKeptWhenSheetsBecomeOthers()
