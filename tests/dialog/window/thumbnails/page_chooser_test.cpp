@@ -17,7 +17,7 @@
 #include "dialog/window/thumbnails/PageModel.h"
 #include "dialog/window/thumbnails/PageThumbnails.h"
 #include "tests/dialog/support/TestPrinters.h"
-#include "tests/e2e/Heartbeat.h"
+#include "tests/support/Heartbeat.h"
 #include "tests/support/LabelledPdf.h"
 #include "tests/support/Rows.h"
 
