@@ -1293,6 +1293,10 @@
         <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
         <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
     </message>
+<message>
+        <source>Default of your administrator: %1</source>
+        <translation>管理者による初期値: %1</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1974,6 +1978,18 @@ For the command line: %2</source>
     <message>
         <source>Setting</source>
         <translation>設定</translation>
+    </message>
+<message>
+        <source>Not everything that your administrator has decided can be used. “corvana-print --check-policy” says what, and why.</source>
+        <translation>管理者の定めた内容の一部は使用できません。「corvana-print --check-policy」で内容と理由を確認できます。</translation>
+    </message>
+    <message>
+        <source>This job takes %1 sheets of paper.</source>
+        <translation>このジョブは用紙を %1 枚使用します。</translation>
+    </message>
+    <message>
+        <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
+        <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
     </message>
 </context>
 <context>
@@ -3771,6 +3787,170 @@ For the command line: %2</source>
     <message>
         <source>%1 %2</source>
         <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPolicy</name>
+    <message>
+        <source>Policy in %1 for the user %2</source>
+        <translation>ユーザー %2 に対する %1 のポリシー</translation>
+    </message>
+    <message>
+        <source>groups: %1</source>
+        <translation>グループ: %1</translation>
+    </message>
+    <message>
+        <source>Not used:</source>
+        <translation>使用されないもの:</translation>
+    </message>
+    <message>
+        <source>Nothing is decided.</source>
+        <translation>何も定められていません。</translation>
+    </message>
+    <message>
+        <source>At the printer %1:</source>
+        <translation>プリンター %1:</translation>
+    </message>
+    <message>
+        <source>Void, because the printer does not take it:</source>
+        <translation>プリンターが対応していないため無効:</translation>
+    </message>
+    <message>
+        <source>For others, who are in these groups:</source>
+        <translation>次のグループのほかのユーザー向け:</translation>
+    </message>
+    <message>
+        <source>Only root may ask what applies to somebody else.</source>
+        <translation>ほかのユーザーに適用される内容を確認できるのは root だけです。</translation>
+    </message>
+    <message>
+        <source>There is no user of the name “%1”.</source>
+        <translation>「%1」という名前のユーザーはいません。</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLocks</name>
+    <message>
+        <source>“%1” is set by your administrator (%2).</source>
+        <translation>「%1」は管理者が設定しています (%2)。</translation>
+    </message>
+    <message>
+        <source>Set by your administrator (%1).</source>
+        <translation>管理者が設定しています (%1)。</translation>
+    </message>
+</context>
+<context>
+    <name>Policy</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は使用できません。使用できるもの: %2。</translation>
+    </message>
+    <message>
+        <source>the path of a folder that begins with /</source>
+        <translation>/ で始まるフォルダーのパス</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>%1 から %2 までの数</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 bytes</source>
+        <translation>行が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the line is not written in UTF-8</source>
+        <translation>行が UTF-8 で書かれていません</translation>
+    </message>
+    <message>
+        <source>the line has a character that cannot be seen</source>
+        <translation>行に表示されない文字があります</translation>
+    </message>
+    <message>
+        <source>there are more problems</source>
+        <translation>ほかにも問題があります</translation>
+    </message>
+    <message>
+        <source>there are more than %1 sections</source>
+        <translation>セクションが %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>“%1” is no section, and what follows in it is left out. Allowed: %2.</source>
+        <translation>「%1」はセクションではなく、その内容は無視されます。使用できるもの: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” is no line of a policy. Expected: %2.</source>
+        <translation>「%1」はポリシーの行ではありません。使用できる形式: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” stands before the first section. Begin with [all].</source>
+        <translation>「%1」が最初のセクションより前にあります。[all] から始めてください。</translation>
+    </message>
+    <message>
+        <source>there is no key “%1”. Keys: %2.</source>
+        <translation>キー「%1」はありません。キー: %2。</translation>
+    </message>
+    <message>
+        <source>%1 needs the keyword of an option or of a job attribute.</source>
+        <translation>%1 にはオプションまたはジョブ属性のキーワードが必要です。</translation>
+    </message>
+    <message>
+        <source>the value is too long</source>
+        <translation>値が長すぎます</translation>
+    </message>
+    <message>
+        <source>the file is not used: it has more than %1 bytes</source>
+        <translation>ファイルは使用されません: %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is no text</source>
+        <translation>ファイルは使用されません: テキストではありません</translation>
+    </message>
+    <message>
+        <source>the file is not used: it has more than %1 lines</source>
+        <translation>ファイルは使用されません: %1 行を超えています</translation>
+    </message>
+    <message>
+        <source>it belongs to the user with the number %1</source>
+        <translation>番号 %1 のユーザーが所有しています</translation>
+    </message>
+    <message>
+        <source>others than its owner may write it</source>
+        <translation>所有者以外が書き込めます</translation>
+    </message>
+    <message>
+        <source>nothing below this folder is used: %1</source>
+        <translation>このフォルダーの中のものは使用されません: %1</translation>
+    </message>
+    <message>
+        <source>nothing in this folder is used: %1</source>
+        <translation>このフォルダーのファイルは使用されません: %1</translation>
+    </message>
+    <message>
+        <source>only the first %1 files are used</source>
+        <translation>最初の %1 個のファイルだけが使用されます</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is a link that leads out of its folder</source>
+        <translation>ファイルは使用されません: フォルダーの外へのリンクです</translation>
+    </message>
+    <message>
+        <source>the file is not used: %1</source>
+        <translation>ファイルは使用されません: %1</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is no ordinary file</source>
+        <translation>ファイルは使用されません: 通常のファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>PrintRequest</name>
+    <message>
+        <source>The printer “%1” is not offered by your administrator (%2).</source>
+        <translation>プリンター「%1」は管理者により提供されていません (%2)。</translation>
+    </message>
+    <message>
+        <source>Printing to a file is not offered by your administrator (%1).</source>
+        <translation>ファイルへの印刷は管理者により提供されていません (%1)。</translation>
     </message>
 </context>
 </TS>
