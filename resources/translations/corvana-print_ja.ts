@@ -3298,7 +3298,7 @@ For the command line: %2</source>
         <translation>手動両面印刷</translation>
     </message>
     <message>
-        <source>Put the sheets back for their other sides</source>
+        <source>Put the sheets back to print their other sides</source>
         <translation>もう一方の面を印刷するために用紙を戻してください</translation>
     </message>
     <message>

@@ -3298,7 +3298,7 @@ For the command line: %2</source>
         <translation>手动双面打印</translation>
     </message>
     <message>
-        <source>Put the sheets back for their other sides</source>
+        <source>Put the sheets back to print their other sides</source>
         <translation>请放回纸张以打印另一面</translation>
     </message>
     <message>

@@ -132,6 +132,15 @@ bool isSameSide(const QImage &one, const QImage &other)
            difference.mean <= kSameSide.mean && difference.worst <= kSameSide.worst;
 }
 
+QString differenceText(const QImage &one, const QImage &other)
+{
+    const PictureDifference difference = differenceOf(one, other);
+    return u"size %1, edges %2, mean %3, worst %4"_s.arg(difference.size)
+        .arg(difference.edges)
+        .arg(difference.mean, 0, 'f', 2)
+        .arg(difference.worst, 0, 'f', 1);
+}
+
 } // namespace
 
 /// Jobs on a queue whose printer turns no sheets over, with a person who does.
@@ -311,8 +320,10 @@ private Q_SLOTS:
                 front = turnedByHalf(front);
                 back = turnedByHalf(back);
             }
-            QVERIFY2(isSameSide(front, shownFront), qPrintable(where + u"its front"_s));
-            QVERIFY2(isSameSide(back, shownBack), qPrintable(where + u"its back"_s));
+            QVERIFY2(isSameSide(front, shownFront),
+                     qPrintable(where + u"its front, "_s + differenceText(front, shownFront)));
+            QVERIFY2(isSameSide(back, shownBack),
+                     qPrintable(where + u"its back, "_s + differenceText(back, shownBack)));
         }
         for (const CapturedJob &job : jobs()) {
             for (const char *ours : {"sides-by-hand", "put-back", "booklet"})
