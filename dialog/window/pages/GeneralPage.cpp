@@ -162,6 +162,9 @@ QString GeneralPage::pageRanges() const
 void GeneralPage::setPageRanges(const QString &ranges)
 {
     m_pageRanges->setText(ranges);
+    // Many ranges are known by their beginning.
+    if (!m_pageRanges->hasFocus())
+        m_pageRanges->setCursorPosition(0);
 }
 
 void GeneralPage::offerPageRanges(bool offer)
