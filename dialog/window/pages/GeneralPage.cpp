@@ -112,7 +112,7 @@ void GeneralPage::addPageRanges(QFormLayout *form)
     m_pageRanges->setMaxLength(kMostLetters);
     addClearButton(m_pageRanges);
     m_choosePages->setObjectName(u"choosePages"_s);
-    m_choosePages->setText(tr("Choose Page&s…"));
+    m_choosePages->setText(tr("Choos&e Pages…"));
     m_choosePages->setAutoDefault(false);
     connect(m_choosePages, &QPushButton::clicked, this, &GeneralPage::choosePagesPressed);
     form->addRow(tr("Pa&ges:"), field);
