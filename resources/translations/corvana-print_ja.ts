@@ -1607,8 +1607,8 @@
         <translation>すべて。または 1-4, 7, 9-</translation>
     </message>
     <message>
-        <source>Choose Page&amp;s…</source>
-        <translation>ページを選択(&amp;S)…</translation>
+        <source>Choos&amp;e Pages…</source>
+        <translation>ページを選択(&amp;E)…</translation>
     </message>
     <message>
         <source>No document has been chosen.</source>

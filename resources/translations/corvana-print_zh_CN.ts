@@ -1607,8 +1607,8 @@
         <translation>全部，或 1-4, 7, 9-</translation>
     </message>
     <message>
-        <source>Choose Page&amp;s…</source>
-        <translation>选择页面(&amp;S)…</translation>
+        <source>Choos&amp;e Pages…</source>
+        <translation>选择页面(&amp;E)…</translation>
     </message>
     <message>
         <source>No document has been chosen.</source>

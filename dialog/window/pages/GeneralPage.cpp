@@ -116,7 +116,7 @@ void GeneralPage::addPageRanges(QFormLayout *form)
     m_pageRanges->setMaxLength(kMostLetters);
     addClearButton(m_pageRanges);
     m_choosePages->setObjectName(u"choosePages"_s);
-    m_choosePages->setText(tr("Choose Page&s…"));
+    m_choosePages->setText(tr("Choos&e Pages…"));
     m_choosePages->setAutoDefault(false);
     connect(m_choosePages, &QPushButton::clicked, this, &GeneralPage::choosePagesPressed);
     form->addRow(tr("Pa&ges:"), field);
@@ -166,6 +166,9 @@ QString GeneralPage::pageRanges() const
 void GeneralPage::setPageRanges(const QString &ranges)
 {
     m_pageRanges->setText(ranges);
+    // Many ranges are known by their beginning.
+    if (!m_pageRanges->hasFocus())
+        m_pageRanges->setCursorPosition(0);
 }
 
 void GeneralPage::offerPageRanges(bool offer)

@@ -316,6 +316,24 @@ private Q_SLOTS:
         QVERIFY(ok()->isEnabled());
     }
 
+    void aFieldHasRoomForEverySecondPageOfALongDocument()
+    {
+        show({{{u"a.txt"_s, {}, 9999, u"The preview shows them."_s}}, {}});
+        child<QPushButton>("chooseOdd")->click();
+        QVERIFY(text().endsWith(", 9999"_L1));
+        QVERIFY(m_chooser->value().endsWith(",9999"_L1));
+    }
+
+    void pagesThatAreTooManyToBeShownAreTyped()
+    {
+        show({{{u"a.pdf"_s, {}, 20000, {}}}, {}});
+        QCOMPARE(view()->model()->rowCount(), 1);
+        QVERIFY(!row(0).data(PageModel::ReasonRole).toString().isEmpty());
+        type(u"19999-"_s);
+        QCOMPARE(m_chooser->value(), u"19999-20000"_s);
+        QVERIFY(ok()->isEnabled());
+    }
+
     void whatIsFoundOutLaterLeavesTheChoice()
     {
         ChoosablePages unknown = twelve();
