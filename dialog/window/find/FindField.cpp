@@ -22,6 +22,8 @@ namespace {
 constexpr int kUsualWidth = 16;
 constexpr int kLeastWidth = 10;
 
+constexpr int kMostLetters = 100; // more than anybody types to find something
+
 // Tells of each press of a mouse button in the program, before anybody has it.
 class PressWatch : public QObject
 {
@@ -54,6 +56,7 @@ FindField::FindField(QWidget *parent)
     m_edit->setPlaceholderText(tr("Find a setting (Ctrl+F)"));
     m_edit->setAccessibleName(tr("Find a setting"));
     m_edit->setAccessibleDescription(tr("Type a name, then go to a setting with Enter"));
+    m_edit->setMaxLength(kMostLetters);
     m_edit->installEventFilter(this);
     m_button->setObjectName(u"findButton"_s);
     m_button->setToolTip(m_edit->placeholderText());
@@ -123,16 +126,17 @@ void FindField::setResults(const QList<FindResult> &results)
     openPopup();
 }
 
-void FindField::setNothingFound(const QString &suggestion)
+void FindField::setNothingFound(const QString &text, const QString &suggestion)
 {
     m_suggestion = suggestion;
-    popup()->setNothing(
-        suggestion.isEmpty()
-            ? tr("No setting is called “%1”. Try a shorter word, or another one for it.")
-                  .arg(m_edit->text())
-            : tr("No setting is called “%1”. Press Enter to search for “%2” instead.")
-                  .arg(m_edit->text(), suggestion));
+    popup()->setNothing(text);
     openPopup();
+}
+
+void FindField::refresh()
+{
+    if (m_popup && m_popup->isVisible())
+        search();
 }
 
 void FindField::finish()

@@ -263,7 +263,7 @@ private Q_SLOTS:
                           list()->visualRect(second).center());
         QVERIFY(!isOpen());
         auto *options = m_window->child<QTreeView>(u"options"_s);
-        QCOMPARE(options->currentIndex().siblingAtColumn(0).data().toString(), u"Paper Type"_s);
+        QCOMPARE(options->currentIndex().siblingAtColumn(0).data().toString(), u"Paper Source"_s);
     }
 
     void tabLeavesTheFieldAndClosesTheList()
@@ -390,7 +390,8 @@ private:
     // it cannot be used now, with a message that says so.
     void compareShown(const Setting &setting)
     {
-        const QByteArray name = setting.keyword.toUtf8();
+        const QByteArray keyword = setting.keyword.toUtf8();
+        const char *name = keyword.constData();
         const QWidget *focus = QApplication::focusWidget();
         QVERIFY2(focus && focus->isVisible(), name);
         QVERIFY2(!isOpen(), name);
