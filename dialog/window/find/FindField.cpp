@@ -21,6 +21,7 @@ namespace {
 // Units: heights of the font.
 constexpr int kUsualWidth = 16;
 constexpr int kLeastWidth = 10;
+constexpr int kMostWidth = 20;
 
 constexpr int kMostLetters = 100; // more than anybody types to find something
 
@@ -61,13 +62,13 @@ FindField::FindField(QWidget *parent)
     m_button->setObjectName(u"findButton"_s);
     m_button->setToolTip(m_edit->placeholderText());
     m_button->setAccessibleName(m_edit->accessibleName());
-    m_button->setAutoRaise(true);
     m_button->hide();
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_edit, 1);
-    layout->addWidget(m_button);
+    layout->addWidget(m_button, 0, Qt::AlignLeft); // beside the button before it
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setMaximumWidth(kMostWidth * fontMetrics().height());
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *before, QWidget *now) {
         if (now == m_edit && before && !isAncestorOf(before))
             m_before = before;
