@@ -3015,14 +3015,6 @@ For the command line: %2</source>
         <source>Type the name of a setting or of a choice.</source>
         <translation>設定または選択肢の名前を入力してください。</translation>
     </message>
-    <message>
-        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
-        <translation>「%1」という設定はありません。短い言葉か、別の言葉で検索してください。</translation>
-    </message>
-    <message>
-        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
-        <translation>「%1」という設定はありません。Enter を押すと「%2」を検索します。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::FindModel</name>
@@ -3052,6 +3044,18 @@ For the command line: %2</source>
 </context>
 <context>
     <name>corvana::SettingFinder</name>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>「%1」という設定はありません。短い言葉か、別の言葉で検索してください。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>「%1」という設定はありません。Enter を押すと「%2」を検索します。</translation>
+    </message>
+    <message>
+        <source>The settings of the printer are not known yet.</source>
+        <translation>プリンターの設定はまだ取得できていません。</translation>
+    </message>
     <message>
         <source>now %1</source>
         <translation>現在 %1</translation>

@@ -3015,14 +3015,6 @@ For the command line: %2</source>
         <source>Type the name of a setting or of a choice.</source>
         <translation>请键入设置或选项的名称。</translation>
     </message>
-    <message>
-        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
-        <translation>没有名为“%1”的设置。请尝试更短的词或其他说法。</translation>
-    </message>
-    <message>
-        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
-        <translation>没有名为“%1”的设置。按 Enter 改为查找“%2”。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::FindModel</name>
@@ -3052,6 +3044,18 @@ For the command line: %2</source>
 </context>
 <context>
     <name>corvana::SettingFinder</name>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>没有名为“%1”的设置。请尝试更短的词或其他说法。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>没有名为“%1”的设置。按 Enter 改为查找“%2”。</translation>
+    </message>
+    <message>
+        <source>The settings of the printer are not known yet.</source>
+        <translation>尚未获取打印机的设置。</translation>
+    </message>
     <message>
         <source>now %1</source>
         <translation>当前为%1</translation>

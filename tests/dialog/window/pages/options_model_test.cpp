@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "dialog/session/SearchForm.h"
 #include "dialog/window/pages/OptionsModel.h"
 #include "tests/dialog/support/TestPrinters.h"
 
