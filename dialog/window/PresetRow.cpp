@@ -41,9 +41,9 @@ void PresetRow::buildReset()
     m_reset->setAutoRaise(true);
     m_reset->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(m_reset);
-    m_resetPage = menu->addAction({});
+    m_resetPage = menu->addAction(QString());
     m_resetPage->setObjectName(u"resetPage"_s);
-    m_resetAll = menu->addAction({});
+    m_resetAll = menu->addAction(QString());
     m_resetAll->setObjectName(u"resetAll"_s);
     m_reset->setMenu(menu);
     connect(menu, &QMenu::aboutToShow, this, &PresetRow::refreshReset);
