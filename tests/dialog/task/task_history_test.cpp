@@ -160,7 +160,7 @@ private Q_SLOTS:
 
     void aBookletAndItsFoldingAreOneStep()
     {
-        openOffice();
+        m_scene->open(m_scene->request(smallPrinter()));
         const TaskSettings before = task().settingsNow();
         QCOMPARE(task().setAttribute(u"booklet"_s, u"left"_s), QString());
         settle();

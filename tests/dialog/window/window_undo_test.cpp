@@ -118,7 +118,7 @@ private Q_SLOTS:
         openOffice();
         QVERIFY(undo() && redo());
         QVERIFY(!undo()->isEnabled() && !redo()->isEnabled());
-        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Short Edge"_s));
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
         QTRY_VERIFY(undo()->isEnabled());
         QVERIFY2(undo()->text().startsWith(u"Undo "_s), qPrintable(undo()->text()));
         QCOMPARE(undo()->accessibleName(), task().undoText());
@@ -128,14 +128,14 @@ private Q_SLOTS:
         QTRY_VERIFY(redo()->isEnabled());
         QVERIFY(redo()->accessibleName().startsWith(u"Redo "_s));
         redo()->click();
-        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexTumble"_s);
-        QCOMPARE(child<QComboBox>(kDuplexOption)->currentText(), u"Short Edge"_s);
+        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
+        QCOMPARE(child<QComboBox>(kDuplexOption)->currentText(), u"Long Edge"_s);
     }
 
     void typingIsTakenBackByItsFieldFirst()
     {
         openOffice();
-        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Short Edge"_s));
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
         auto *ranges = child<QLineEdit>(u"pageRanges"_s);
         focus(ranges);
         type(u"2-3"_s);
@@ -143,13 +143,13 @@ private Q_SLOTS:
         press(Qt::CTRL | Qt::Key_Z);
         QCOMPARE(ranges->text(), QString());
         QCOMPARE(task().settings().pageRanges(), QString());
-        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexTumble"_s);
+        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
         // Nothing of the typing is left: the step before it goes back.
         press(Qt::CTRL | Qt::Key_Z);
-        QVERIFY(task().opened()->session->markedChoice(kDuplexOption) != u"DuplexTumble"_s);
+        QVERIFY(task().opened()->session->markedChoice(kDuplexOption) != u"DuplexNoTumble"_s);
         press(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
         press(Qt::CTRL | Qt::Key_Y);
-        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexTumble"_s);
+        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
     }
 
     void stepsOfANumberAreOneUntilItIsLeft()
@@ -241,7 +241,7 @@ private Q_SLOTS:
         openOffice();
         QCOMPARE(dots(), 0);
         auto *duplex = child<QComboBox>(kDuplexOption);
-        QVERIFY(pick(duplex, u"Short Edge"_s));
+        QVERIFY(pick(duplex, u"Long Edge"_s));
         QTRY_COMPARE(dots(), 1);
         auto *dot = m_window->pages()->currentWidget()->findChild<QWidget *>(u"changed"_s);
         QVERIFY2(dot->toolTip().contains(u"Printer Defaults"_s), qPrintable(dot->toolTip()));
@@ -281,7 +281,7 @@ private Q_SLOTS:
         openOffice();
         auto *duplex = child<QComboBox>(kDuplexOption);
         const QString before = duplex->currentText();
-        QVERIFY(pick(duplex, u"Short Edge"_s));
+        QVERIFY(pick(duplex, u"Long Edge"_s));
         QTRY_COMPARE(dots(), 1);
         QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, duplex->mapToGlobal(QPoint()));
         QCoreApplication::sendEvent(duplex, &event);
@@ -297,7 +297,7 @@ private Q_SLOTS:
     void aPageAndEverythingGoBackByTheRow()
     {
         openOffice();
-        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Short Edge"_s));
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
         task().propose(u"Media"_s, u"Card"_s);
         task().setCopies(2);
         auto *reset = child<QToolButton>(u"reset"_s);
