@@ -26,9 +26,9 @@ public:
     /// All pictures together, of somebody who names no other bound. A preview takes 64 MiB at most,
     /// of which the window's own pixels and a picture that is on its way need a part. Units: bytes.
     static constexpr qint64 kRoom = 32LL << 20;
-    /// One picture. A larger one is drawn with fewer pixels of the same proportions, so that more
-    /// than one has room. Units: pixels
-    static constexpr qint64 kMostPixels = 8000000;
+    /// One picture. A larger one is drawn with fewer pixels of the same proportions, so that it has
+    /// room. Units: pixels
+    static constexpr qint64 kMostPixels = 8LL << 20;
 
     explicit PagePictures(QObject *parent = nullptr);
     /// `room` is for all pictures together. Units: bytes.

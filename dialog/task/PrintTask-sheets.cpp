@@ -109,13 +109,18 @@ SheetPreview PrintTask::sheetPreview() const
                                 "not known here.")};
     if (const QStringList problems = documentProblems().problems; !problems.isEmpty())
         return {State::None, problems.join(u' '), false};
-    // While a panel is being asked there is no ticket yet.
-    const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
-    const JobTicket job = hasTicket ? m_run.ticket : ticket();
-    if (const JobSheets *sheets = m_sheets.counted(sheetRequest(job)))
-        return previewOf(*sheets, job);
-    if (const JobSheets *first = m_sheets.begun(sheetRequest(job)))
-        return beginOf(*first, job);
+    // Before the panels have come up nobody knows what the job will be, and the window, which has
+    // not been painted yet, does not wait for a ticket of it.
+    if (m_phase != Phase::Opened) {
+        // While a panel is being asked there is no ticket yet.
+        const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
+        const JobTicket job = hasTicket ? m_run.ticket : ticket();
+        const SheetRequest request = sheetRequest(job);
+        if (const JobSheets *sheets = m_sheets.counted(request))
+            return previewOf(*sheets, job);
+        if (const JobSheets *first = m_sheets.begun(request))
+            return beginOf(*first, job);
+    }
     SheetPreview older = m_preview;
     older.state = State::Counting;
     older.reason.clear();
