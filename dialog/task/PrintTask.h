@@ -276,18 +276,11 @@ private:
     friend class TaskPresets;
 
     using Memory = TaskState::Memory;
-    using Chosen = TaskState::Chosen;
     using Run = TaskState::Run;
-    using Colors = TaskState::Colors;
-    using Looks = TaskState::Looks;
-    using Baseline = TaskState::Baseline;
-    using Output = TaskState::Output;
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
-
     void setDocuments(const QList<Document> &documents);
-
     void documentsLookedAt();
     void sayOfDocuments();
     QString problemOf(const Document &document) const;
@@ -349,7 +342,6 @@ private:
 
     void settingsAffectColors();
     void showColors();
-
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
@@ -361,7 +353,6 @@ private:
     void settleTexts();
     void startJob(const JobTicket &ticket);
     void followJob(std::unique_ptr<Job> job);
-
     void startByHand(const JobTicket &ticket);
     void startPass();
     bool isFirstPass() const;
@@ -392,17 +383,17 @@ private:
     TaskFace &m_face;
     std::shared_ptr<CredentialStore> m_credentials;
     PrinterSource m_source;
-    Chosen m_chosen;
+    TaskState::Chosen m_chosen;
     std::unique_ptr<OpenedPrinter> m_opened;
     QHash<PrinterId, Memory> m_memory;
-    Baseline m_baseline;
+    TaskState::Baseline m_baseline;
     JobSettings m_settings;
-    Colors m_colors;
-    Output m_output;
+    TaskState::Colors m_colors;
+    TaskState::Output m_output;
     SheetCounter m_sheets;
     SheetPreview m_preview; // that was known last
     Run m_run;
-    Looks m_looks;
+    TaskState::Looks m_looks;
     Phase m_phase = Phase::Fetching;
 };
 
