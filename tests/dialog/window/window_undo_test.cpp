@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -194,7 +195,7 @@ private Q_SLOTS:
         QVERIFY(m_window->waitForPanels(2));
         m_window->showPage(kPrintPage);
         QWidget *panel = m_window->waitForPanel(kPrintPage);
-        auto *media = panel->findChild<QComboBox>(u"mediaTypePopup"_s);
+        auto *media = panel->findChild<QComboBox *>(u"mediaTypePopup"_s);
         QVERIFY(media);
         const QString before = media->currentText();
         focus(media);
@@ -262,7 +263,7 @@ private Q_SLOTS:
         QVERIFY(m_window->waitForPanels(2));
         m_window->showPage(kPrintPage);
         QWidget *panel = m_window->waitForPanel(kPrintPage);
-        auto *media = panel->findChild<QComboBox>(u"mediaTypePopup"_s);
+        auto *media = panel->findChild<QComboBox *>(u"mediaTypePopup"_s);
         QVERIFY(media);
         QTest::qWait(20);
         const QRect place = media->geometry();
