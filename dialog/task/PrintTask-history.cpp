@@ -115,16 +115,14 @@ QString PrintTask::redoText() const
 
 void PrintTask::undo()
 {
-    if (m_phase == Phase::Ready && m_face.finishEditing())
-        recordStep();
+    recordStep();
     if (canUndo())
         goTo(m_baseline.history.undo());
 }
 
 void PrintTask::redo()
 {
-    if (m_phase == Phase::Ready && m_face.finishEditing())
-        recordStep();
+    recordStep();
     if (canRedo())
         goTo(m_baseline.history.redo());
 }

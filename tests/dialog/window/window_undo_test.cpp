@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -194,7 +195,7 @@ private Q_SLOTS:
         QVERIFY(m_window->waitForPanels(2));
         m_window->showPage(kPrintPage);
         QWidget *panel = m_window->waitForPanel(kPrintPage);
-        auto *media = panel->findChild<QComboBox>(u"mediaTypePopup"_s);
+        auto *media = panel->findChild<QComboBox *>(u"mediaTypePopup"_s);
         QVERIFY(media);
         const QString before = media->currentText();
         focus(media);
@@ -262,7 +263,7 @@ private Q_SLOTS:
         QVERIFY(m_window->waitForPanels(2));
         m_window->showPage(kPrintPage);
         QWidget *panel = m_window->waitForPanel(kPrintPage);
-        auto *media = panel->findChild<QComboBox>(u"mediaTypePopup"_s);
+        auto *media = panel->findChild<QComboBox *>(u"mediaTypePopup"_s);
         QVERIFY(media);
         QTest::qWait(20);
         const QRect place = media->geometry();
@@ -348,23 +349,27 @@ private Q_SLOTS:
         QVERIFY(m_window->waitForPanels(2));
         const auto lines = m_window->summaryLines();
         auto *table = child<QTableWidget>(u"summary"_s);
-        int led = 0;
+        QStringList leadNowhere;
         for (int row = 0; row < lines.size(); ++row) {
             m_window->showLastPage();
             table->setCurrentCell(row, 0);
             table->setFocus();
             const QString name = table->item(row, 0)->data(Qt::UserRole).toString();
-            if (name.isEmpty())
+            if (name.isEmpty()) {
+                leadNowhere += lines.at(row).first;
                 continue;
+            }
             QTest::keyClick(table, Qt::Key_Return);
             QTRY_VERIFY2(m_window->pages()->currentWidget() !=
                              m_window->pages()->widget(m_window->pages()->count() - 1),
                          qPrintable(lines.at(row).first));
             QVERIFY(!table->hasFocus());
-            ++led;
         }
         QCOMPARE(task().phase(), PrintTask::Phase::Ready); // Enter went there, and did not print
-        QVERIFY2(led >= lines.size() - 2, qPrintable(QString::number(led)));
+        // They tell of no setting.
+        leadNowhere.removeAll(u"Sheets"_s);
+        leadNowhere.removeAll(u"Model"_s);
+        QCOMPARE(leadNowhere, QStringList());
         m_window->showPage(kGeneralPage);
     }
 };
