@@ -61,7 +61,7 @@ constexpr auto kCollect = "collected";
 
 // About twice what a good run takes: enough for a busy machine, little enough for a loop in a loop
 // to be seen.
-constexpr Demand kDemands[] = {{kFind, kScan, 12.0}, {kCollect, kOpen, 6.0}};
+constexpr Demand kDemands[] = {{kFind, kScan, 6.0}, {kCollect, kOpen, 3.0}};
 
 QString writeLargePpd(const QString &folder)
 {

@@ -6,10 +6,8 @@
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QEvent>
 #include <QFileInfo>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -35,19 +33,6 @@ void measure(const char *name, const std::function<std::optional<double>()> &onc
         ->Iterations(1)
         ->Repetitions(repetitions)
         ->UseManualTime();
-}
-
-bool waitFor(const std::function<bool()> &done)
-{
-    const QDeadlineTimer deadline(kPatience);
-    QTimer waker; // so that the deadline is seen
-    waker.start(kPatience);
-    while (!done()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
 }
 
 void settleDown()

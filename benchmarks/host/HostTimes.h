@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include "benchmarks/support/Waiting.h"
 #include "dialog/app/RequestFromCommandLine.h"
 #include "tests/support/cups/PrivateCups.h"
 
@@ -18,7 +19,6 @@ using namespace Qt::StringLiterals;
 constexpr int kRepetitions = 25;
 /// Short, and with the network in between, so that the best takes longer to come.
 constexpr int kOpenings = 75;
-constexpr int kPatience = 30000; ///< milliseconds
 
 inline const QString kSamplePpd =
     QStringLiteral(CORVANA_BENCHMARK_SOURCE_DIR "/resources/ppd/corvana-cl5.ppd");
@@ -66,8 +66,6 @@ template <typename Work> double timeOf(const Work &work)
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-/// Lets events happen until `done`. False when it takes too long.
-bool waitFor(const std::function<bool()> &done);
 /// Lets what has been posted happen, and go what is to be deleted.
 void settleDown();
 

@@ -12,7 +12,6 @@
 #include <cstdio>
 #include <limits>
 #include <optional>
-#include <stdexcept>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -115,17 +114,5 @@ bool measureAll()
 
 int main(int argc, char **argv)
 {
-    // What is compared must not have been measured at different times: others use the machine too.
-    char interleaving[] = "--benchmark_enable_random_interleaving=true";
-    std::vector<char *> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1, interleaving);
-    bool check = false;
-    if (!benchmarks::takeArguments(static_cast<int>(arguments.size()), arguments.data(), &check))
-        return 2;
-    try {
-        return measureAll() || !check ? 0 : 1;
-    } catch (const std::exception &problem) {
-        std::fprintf(stderr, "host_benchmark: %s\n", problem.what());
-        return 1;
-    }
+    return compare(argc, argv, measureAll);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <exception>
 #include <limits>
 #include <map>
 #include <string>
@@ -72,6 +73,26 @@ inline bool takeArguments(int argc, char **argv, bool *check)
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());
     return !benchmark::ReportUnrecognizedArguments(count, arguments.data());
+}
+
+/// The main() of a program that compares: takes its arguments, and calls `measure`, which answers
+/// whether all is as it should be. What is compared is not measured at different times, since
+/// others use the machine, too.
+/// Errors: an exception of `measure` is said, and nothing was measured.
+template <typename Measure> int compare(int argc, char **argv, const Measure &measure)
+{
+    char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    std::vector<char *> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + 1, interleaving);
+    bool check = false;
+    if (!takeArguments(static_cast<int>(arguments.size()), arguments.data(), &check))
+        return 2;
+    try {
+        return measure() || !check ? 0 : 1;
+    } catch (const std::exception &problem) {
+        std::fprintf(stderr, "%s: %s\n", argv[0], problem.what());
+        return 1;
+    }
 }
 
 /// Runs `run` in a process of its own and answers its exit status: an application's platform and

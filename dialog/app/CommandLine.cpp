@@ -1,7 +1,6 @@
 #include "dialog/app/CommandLine.h"
 
-#include <QCommandLineParser>
-
+#include "dialog/app/CommandLineOptions.h"
 #include "dialog/printers/DevicePrinter.h"
 #include "dialog/server/ServerAddress.h"
 #include "dialog/session/JobAttributes.h"
@@ -19,139 +18,6 @@ namespace {
 constexpr int kLongestWait = 365 * 24 * 60 * 60;
 // No shell opens more.
 constexpr int kHighestDescriptor = 1023;
-
-// The command line is read before there is an application, whose translations would be needed for
-// anything but English.
-struct Options
-{
-    QCommandLineOption printer{{u"d"_s, u"printer"_s},
-                               u"Print to the printer NAME: a queue, an instance "
-                               "NAME/INSTANCE, or an IPP printer ipp://HOST/PATH."_s,
-                               u"NAME"_s};
-    QCommandLineOption server{
-        {u"h"_s, u"server"_s},
-        u"Use the queues of the print server HOST instead of the usual one."_s,
-        u"HOST[:PORT]"_s};
-    QCommandLineOption encrypt{u"E"_s, u"Speak to the print server with encryption only."_s};
-    QCommandLineOption user{u"U"_s, u"Print as the user USER."_s, u"USER"_s};
-    QCommandLineOption passwordFile{
-        u"password-file"_s,
-        u"Take the password from the first line of FILE, which nobody but its owner may read; "
-        "nobody is asked."_s,
-        u"FILE"_s};
-    QCommandLineOption passwordDescriptor{
-        u"password-fd"_s, u"The same from the open file descriptor N (0 is standard input)."_s,
-        u"N"_s};
-    QCommandLineOption documentPasswordFile{
-        u"document-password-file"_s,
-        u"Open protected PDF documents with the password in the first line of FILE, which nobody "
-        "but its owner may read."_s,
-        u"FILE"_s};
-    QCommandLineOption ppd{u"ppd"_s, u"Print for the printer that the PPD FILE describes."_s,
-                           u"FILE"_s};
-    QCommandLineOption output{
-        u"output"_s, u"Write the printer-ready data to FILE; - is standard output."_s, u"FILE"_s};
-    QCommandLineOption demo{u"demo"_s, u"Offer the sample printers."_s};
-    QCommandLineOption listPrinters{u"list-printers"_s, u"List the printers and exit."_s};
-    QCommandLineOption preset{
-        u"preset"_s, u"Start with the settings of the preset NAME; -o counts more."_s, u"NAME"_s};
-    QCommandLineOption listPresets{u"list-presets"_s, u"List the presets and exit."_s};
-    QCommandLineOption savePreset{
-        u"save-preset"_s,
-        u"Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. "
-        "A preset of that name is replaced."_s,
-        u"NAME"_s};
-    QCommandLineOption option{{u"o"_s, u"option"_s},
-                              u"Set an option of the printer or of the job; may be repeated."_s,
-                              u"KEY=VALUE"_s};
-    QCommandLineOption copies{
-        {u"n"_s, u"copies"_s}, u"Print N copies (1 to %1)."_s.arg(kMostCopies), u"N"_s};
-    QCommandLineOption pages{u"P"_s, u"Print these pages (1-4,7,9-), as -o page-ranges= does."_s,
-                             u"LIST"_s};
-    QCommandLineOption priority{
-        u"q"_s, u"Give the job this priority (1 to 100), as -o job-priority= does."_s,
-        u"PRIORITY"_s};
-    QCommandLineOption hold{
-        u"H"_s,
-        u"When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= "
-        "takes."_s,
-        u"WHEN"_s};
-    QCommandLineOption quiet{u"s"_s, u"Do not say which job was printed, only what went wrong."_s};
-    QCommandLineOption copy{u"c"_s, u"Does nothing: the document is always copied to the queue."_s};
-    QCommandLineOption mail{u"m"_s, u"Is refused: no mail is sent."_s};
-    QCommandLineOption title{{u"t"_s, u"title"_s}, u"Name the job TEXT."_s, u"TEXT"_s};
-    QCommandLineOption noDialog{u"no-dialog"_s, u"Print without a window."_s};
-    QCommandLineOption summary{u"summary"_s,
-                               u"Write the settings of the job to standard output."_s};
-    QCommandLineOption saveInstance{
-        u"save-instance"_s,
-        u"Without a window: keep the settings in lpoptions as an instance of the queue, so that lp "
-        "-d QUEUE/NAME and other programs print with them."_s,
-        u"NAME"_s};
-    QCommandLineOption onAlert{
-        u"on-alert"_s,
-        u"Without a window: what to do when the printer's settings "
-        "show instructions: print, hold or refuse. Usually a queue holds the job, "
-        "and a file is printed."_s,
-        u"POLICY"_s};
-    QCommandLineOption noWait{u"no-wait"_s,
-                              u"Without a window: end when the queue has the job, not when it is "
-                              "printed."_s};
-    QCommandLineOption wait{
-        u"wait"_s,
-        u"Without a window: follow the job for SECONDS at most once its queue has it, then leave "
-        "it there."_s,
-        u"SECONDS"_s};
-    QCommandLineOption format{
-        u"format"_s,
-        u"Without a window: json writes what became of the job to standard output, as one line "
-        "that a program can read; text is what people read."_s,
-        u"FORMAT"_s};
-    QCommandLineOption bundleRoot{u"bundle-root"_s,
-                                  u"Also trust the plug-in bundles in the folder DIR."_s, u"DIR"_s};
-    QCommandLineOption checkDisplay{
-        u"check-display"_s, u"Exit with status 0 when a window can be shown, with 1 when not."_s};
-    QCommandLineOption help{u"help"_s, u"Show this help."_s};
-    QCommandLineOption version{u"version"_s, u"Show the version."_s};
-
-    void addTo(QCommandLineParser &parser) const
-    {
-        parser.addOptions({printer,
-                           server,
-                           encrypt,
-                           user,
-                           passwordFile,
-                           passwordDescriptor,
-                           documentPasswordFile,
-                           ppd,
-                           output,
-                           demo,
-                           listPrinters,
-                           preset,
-                           listPresets,
-                           savePreset,
-                           option,
-                           copies,
-                           pages,
-                           priority,
-                           hold,
-                           title,
-                           quiet,
-                           copy,
-                           mail,
-                           noDialog,
-                           summary,
-                           saveInstance,
-                           onAlert,
-                           wait,
-                           noWait,
-                           format,
-                           bundleRoot,
-                           checkDisplay,
-                           help,
-                           version});
-    }
-};
 
 constexpr QStringView kMissingDocument = u"the name of a document is missing.";
 
@@ -196,7 +62,7 @@ std::optional<QList<JobOption>> readHold(const QString &when)
 
 // The switches of lp that stand for an attribute of the job. Errors: `problem` says which one
 // cannot be taken.
-QList<JobOption> readSwitches(const QCommandLineParser &parser, const Options &options,
+QList<JobOption> readSwitches(const QCommandLineParser &parser, const CommandLineOptions &options,
                               QString *problem)
 {
     QList<JobOption> switches;
@@ -228,8 +94,8 @@ QList<JobOption> readSwitches(const QCommandLineParser &parser, const Options &o
 }
 
 // What the values say. Errors: nothing; `problem` says which one cannot be understood.
-std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Options &options,
-                                      QString *problem)
+std::optional<CommandLine> readValues(const QCommandLineParser &parser,
+                                      const CommandLineOptions &options, QString *problem)
 {
     CommandLine line;
     line.printer = parser.value(options.printer);
@@ -244,6 +110,8 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.preset = parser.value(options.preset);
     line.savePreset = parser.value(options.savePreset);
     line.listPresets = parser.isSet(options.listPresets);
+    line.checkPolicy = parser.isSet(options.checkPolicy);
+    line.yes = parser.isSet(options.yes);
     line.noDialog = parser.isSet(options.noDialog);
     line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
@@ -256,6 +124,11 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
     line.documentPasswordFile = parser.value(options.documentPasswordFile);
     line.json = parser.value(options.format) == "json"_L1;
     line.documents = parser.positionalArguments();
+    // What stands behind it is a printer.
+    if (line.checkPolicy && !line.documents.isEmpty() && line.printer.isEmpty())
+        line.printer = line.documents.takeFirst();
+    if (line.checkPolicy && !line.documents.isEmpty())
+        *problem = u"--check-policy takes one printer and no document."_s;
     if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
         *problem = u"--server \"%1\": HOST, HOST:PORT or the path of a socket was expected."_s.arg(
             line.server);
@@ -279,7 +152,7 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser, const Op
 }
 
 // A name that is empty, as when the variable of a script is: the usual value is not what was meant.
-QString emptyName(const QCommandLineParser &parser, const Options &options)
+QString emptyName(const QCommandLineParser &parser, const CommandLineOptions &options)
 {
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
@@ -321,7 +194,7 @@ QString contradictionIn(const CommandLine &line)
 bool takesDocument(const CommandLine &line)
 {
     return !line.listPrinters && !line.listPresets && line.savePreset.isEmpty() &&
-           !line.checkDisplay && !line.summary && line.instance.isEmpty();
+           !line.checkPolicy && !line.checkDisplay && !line.summary && line.instance.isEmpty();
 }
 
 // In a window documents can be chosen.
@@ -358,7 +231,7 @@ ParsedCommandLine missingDocument()
 
 ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven)
 {
-    const Options options;
+    const CommandLineOptions options;
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Prints a document with the settings of its printer, in a dialog or without one."_s);

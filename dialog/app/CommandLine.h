@@ -33,6 +33,8 @@ struct CommandLine
     bool listPresets = false;
     bool demo = false;
     bool listPrinters = false;
+    bool checkPolicy = false; ///< of `printer`; without one, of all
+    bool yes = false;         ///< many sheets are meant
     bool noDialog = false;
     bool summary = false;
     QString instance; ///< of --save-instance

@@ -101,7 +101,8 @@ QStringList trustedBundleRoots(const CommandLine &line)
 
 bool isUnattended(const CommandLine &line)
 {
-    return line.noDialog || line.listPrinters || line.listPresets || !line.savePreset.isEmpty() ||
+    return line.noDialog || line.listPrinters || line.listPresets || line.checkPolicy ||
+           !line.savePreset.isEmpty() ||
            (line.documents.isEmpty() && (line.summary || !line.instance.isEmpty()));
 }
 
@@ -150,6 +151,7 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.summary = line.summary;
     request.instance = line.instance;
     request.policy = Policy::ofThisComputer();
+    request.manySheetsAreMeant = line.yes;
     request.helpPage = dialogHelpPage();
     request.presetPlaces = PresetPlaces::ofUser();
     request.preset = line.preset;

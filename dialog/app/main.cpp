@@ -13,6 +13,7 @@
 #include "dialog/app/Translations.h"
 #include "dialog/job/Document.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/terminal/CheckPolicy.h"
 #include "dialog/terminal/ListPresets.h"
 #include "dialog/terminal/ListPrinters.h"
 #include "dialog/terminal/OutcomeLine.h"
@@ -192,5 +193,7 @@ int main(int argc, char **argv)
         return listPrinters(*request);
     if (line.listPresets)
         return listPresets(*request);
+    if (line.checkPolicy)
+        return checkPolicy(*request, line.user);
     return unattended ? runUnattended(*request) : runDialog(*request);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLatin1StringView>
 #include <QString>
 #include <QStringList>
 
@@ -42,5 +43,9 @@ struct JobOutcome
         return kind == Kind::Printed || kind == Kind::Sent || kind == Kind::InQueue;
     }
 };
+
+/// What a program reads of it: "printed", "in-queue". "refused" is by the dialog or by a queue:
+/// whoever reads it need not know which.
+QLatin1StringView outcomeKeyword(JobOutcome::Kind kind);
 
 } // namespace corvana

@@ -127,7 +127,8 @@ PresetContent contentOf(const PpdSession &session, const PDEJobValues *jobValues
     const QSet<QString> &never = neverKept(session);
     const QList<JobOption> options = jobOptions(session, jobValues, {});
     for (const JobOption &option : options) {
-        if (!never.contains(option.name))
+        // What the plug-in names although the PPD does not is said by its entries.
+        if (ppdOption(session.ppd(), option.name) && !never.contains(option.name))
             content.options.insert(option.name, option.value);
     }
     const QStringList device =

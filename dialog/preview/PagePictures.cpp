@@ -119,6 +119,12 @@ void PagePictures::forget(const QString &file)
         m_drawer->forget(file);
 }
 
+void PagePictures::replace(const QString &file, const QString &longer)
+{
+    m_cache.rename(file, longer);
+    forget(file);
+}
+
 void PagePictures::takeFinished()
 {
     for (const DescribedPages &pages : m_drawer->takeDescribed())

@@ -23,10 +23,11 @@ class PagePictures : public QObject
     Q_OBJECT
 
 public:
-    /// All pictures together, of somebody who names no other bound. Units: bytes.
-    static constexpr qint64 kRoom = 64LL << 20;
-    /// One picture. A larger one is drawn with fewer pixels of the same proportions, so that more
-    /// than one has room. Units: pixels
+    /// All pictures together, of somebody who names no other bound. A preview takes 64 MiB at most,
+    /// of which the window's own pixels and a picture that is on its way need a part. Units: bytes.
+    static constexpr qint64 kRoom = 32LL << 20;
+    /// One picture. A larger one is drawn with fewer pixels of the same proportions, so that it has
+    /// room. Units: pixels
     static constexpr qint64 kMostPixels = 8LL << 20;
 
     explicit PagePictures(QObject *parent = nullptr);
@@ -53,6 +54,9 @@ public:
     void describe(const QString &file);
     /// Forgets a file (it was replaced by another layout).
     void forget(const QString &file);
+    /// Forgets a file, and takes its pictures for those of another one, which begins with the same
+    /// pages: whoever shows that has no blank paper in between.
+    void replace(const QString &file, const QString &longer);
 
 Q_SIGNALS:
     /// picture() or problem() has another answer.

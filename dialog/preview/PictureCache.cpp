@@ -52,6 +52,21 @@ void PictureCache::forget(const QString &file)
         entry = entry.key().file == file ? remove(entry) : std::next(entry);
 }
 
+void PictureCache::rename(const QString &file, const QString &other)
+{
+    Pictures pictures;
+    for (auto entry = m_pictures.cbegin(); entry != m_pictures.cend(); ++entry) {
+        PageToDraw page = entry.key();
+        if (page.file == file)
+            page.file = other;
+        pictures.insert(page, *entry);
+    }
+    m_pictures = pictures;
+    m_bytes = 0; // one of both may have replaced the other
+    for (const Entry &entry : std::as_const(m_pictures))
+        m_bytes += entry.picture.sizeInBytes();
+}
+
 PictureCache::Pictures::iterator PictureCache::remove(Pictures::iterator entry)
 {
     m_bytes -= entry->picture.sizeInBytes();

@@ -26,6 +26,8 @@ public:
     QImage anyPicture(const QString &file, int page);
     void insert(const PageToDraw &page, const QImage &picture);
     void forget(const QString &file);
+    /// The pictures of one file are those of another one from now on.
+    void rename(const QString &file, const QString &other);
     qint64 bytes() const { return m_bytes; }
 
 private:

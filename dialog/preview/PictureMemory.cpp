@@ -1,6 +1,7 @@
 #include "dialog/preview/PictureMemory.h"
 
 #include <cerrno>
+#include <memory>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -17,6 +18,34 @@ std::size_t bytesOf(QSize size)
                                   static_cast<std::uint32_t>(size.height()));
 }
 
+// Memory of its own for each picture, which goes back to the system with it. What malloc() gets
+// back of a dozen megabytes it keeps, and in holes between which the next picture does not fit.
+QImage emptyPicture(QSize size)
+{
+    struct Memory
+    {
+        void *begin;
+        std::size_t bytes;
+    };
+    auto memory = std::make_unique<Memory>(Memory{MAP_FAILED, bytesOf(size)});
+    memory->begin =
+        ::mmap(nullptr, memory->bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory->begin == MAP_FAILED)
+        return {};
+    const auto giveBack = [](void *info) {
+        const std::unique_ptr<Memory> own(static_cast<Memory *>(info));
+        ::munmap(own->begin, own->bytes);
+    };
+    // Rows of 32 bits a pixel have no gaps.
+    return {static_cast<uchar *>(memory->begin),
+            size.width(),
+            size.height(),
+            qsizetype{4} * size.width(),
+            QImage::Format_RGB32,
+            giveBack,
+            memory.release()};
+}
+
 } // namespace
 
 PictureMemory::PictureMemory(QSize size) : m_size(size)
@@ -31,10 +60,9 @@ PictureMemory::PictureMemory(QSize size) : m_size(size)
 
 QImage PictureMemory::copy() const
 {
-    QImage picture(m_size, QImage::Format_RGB32);
+    QImage picture = emptyPicture(m_size);
     if (picture.isNull())
         return picture;
-    // Rows of 32 bits a pixel have no gaps.
     uchar *bytes = picture.bits();
     const std::size_t size = bytesOf(m_size);
     for (std::size_t at = 0; at < size;) {

@@ -259,7 +259,7 @@ std::optional<FetchedPrinter> PrinterSource::kept(const Printer &printer)
 
 void PrinterSource::retry()
 {
-    if (m_open.printer.origin != PrinterOrigin::File && !isRefused() && !lacksInstance())
+    if (!isRefused() && m_open.printer.origin != PrinterOrigin::File && !lacksInstance())
         inspect(true);
 }
 

@@ -61,27 +61,6 @@ AttributeChoices refused(const QString &allowed)
     return {Outcome::Refused, {}, allowed};
 }
 
-// Whether the pages pass the filter that makes PostScript of them. It is the one filter that turns
-// pages grey because the job says so, whatever the PPD has.
-bool getsPostScript(ppd_file_t *ppd)
-{
-    bool namesFilters = ppd->num_filters > 0;
-    const auto isPostScript = [](const char *filter) {
-        return QByteArrayView(filter).contains("postscript");
-    };
-    for (int i = 0; i < ppd->num_filters; ++i) {
-        if (isPostScript(ppd->filters[i]))
-            return true;
-    }
-    for (const ppd_attr_t *attribute = ppdFindAttr(ppd, "cupsFilter2", nullptr); attribute;
-         attribute = ppdFindNextAttr(ppd, "cupsFilter2", nullptr)) {
-        namesFilters = true;
-        if (isPostScript(attribute->value))
-            return true;
-    }
-    return !namesFilters;
-}
-
 // libcups knows trays and types of paper by their standard names only ("tray-1"). Who sets up a
 // queue knows them by the keywords of its PPD.
 QList<JobOption> choicesByKeyword(ppd_file_t *ppd, const JobOption &attribute)
@@ -133,6 +112,25 @@ int finishing(const QString &value)
 }
 
 } // namespace
+
+bool getsPostScript(ppd_file_t *ppd)
+{
+    bool namesFilters = ppd->num_filters > 0;
+    const auto isPostScript = [](const char *filter) {
+        return QByteArrayView(filter).contains("postscript");
+    };
+    for (int i = 0; i < ppd->num_filters; ++i) {
+        if (isPostScript(ppd->filters[i]))
+            return true;
+    }
+    for (const ppd_attr_t *attribute = ppdFindAttr(ppd, "cupsFilter2", nullptr); attribute;
+         attribute = ppdFindNextAttr(ppd, "cupsFilter2", nullptr)) {
+        namesFilters = true;
+        if (isPostScript(attribute->value))
+            return true;
+    }
+    return !namesFilters;
+}
 
 AttributeReader::AttributeReader(ppd_file_t *ppd, const PDEJobValues *jobValues)
     : m_ppd(ppd), m_jobValues(jobValues)

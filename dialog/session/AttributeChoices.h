@@ -22,6 +22,10 @@ struct AttributeChoices
     QString allowed{}; ///< of a refusal: the values that would be taken; empty for none
 };
 
+/// Whether the pages of jobs pass the filter that makes PostScript of them. It is the one filter
+/// that turns pages grey because the job says so, whatever the PPD has.
+bool getsPostScript(ppd_file_t *ppd);
+
 /// The job attributes of lp and IPP that CUPS' filters look for among the options of the PPD:
 /// "print-color-mode", "print-quality", "output-bin" and so on.
 ///

@@ -18,6 +18,7 @@ struct OfferedAttribute
     Place place = Place::More;
     bool hasEffect = true; ///< with what else is set now
     bool isUsual = true;   ///< whether nothing is done that is not done anyway
+    QString lockedBy{};    ///< who keeps it at that, in a sentence; null where nobody does
 
     bool operator==(const OfferedAttribute &) const = default;
 };

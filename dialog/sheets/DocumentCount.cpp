@@ -9,6 +9,7 @@
 #include "dialog/job/CupsFilter.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/sheets/FirstSheets.h"
 #include "dialog/sheets/LaidOutDocument.h"
 #include "dialog/sheets/PictureTurn.h"
 #include "dialog/sheets/ScaleProbe.h"
@@ -136,7 +137,7 @@ void DocumentCount::convertPicture()
 {
     QString problem;
     const QString filter = findCupsFilter(&problem);
-    if (!problem.isEmpty() || !makeSidesFolder(&problem))
+    if (!problem.isEmpty() || !makeFolder(m_sides, &problem))
         return fail(problem);
     m_pdf = m_isLaidOut ? sidesPath() : file(u"document.pdf"_s);
     QStringList arguments{u"-p"_s, m_ppd, u"-i"_s, m_document.format, u"-m"_s, kLaidOutPdf};
@@ -147,7 +148,7 @@ void DocumentCount::convertPicture()
         arguments << u"-o"_s << u"%1=%2"_s.arg(option.name, option.value);
     m_chain = std::make_unique<FilterChain>();
     connect(m_chain.get(), &FilterChain::finished, this, [this](const QString &why) {
-        m_pictureTurn = turnOfPicture(m_pdf);
+        m_turning.picture = turnOfPicture(m_pdf);
         why.isEmpty() ? lookAtPages() : fail(why);
     });
     m_chain->start({{filter, arguments << m_document.path, m_pdf, m_pdf}}, {});
@@ -161,7 +162,11 @@ void DocumentCount::lookAtPages()
             return fail(u"pdfinfo found no pages"_s);
         m_sheets.pages = pages->count;
         m_pages = pages->pages;
-        m_isLaidOut ? keepSides(*pages) : layOut();
+        if (m_isLaidOut)
+            return keepSides(*pages);
+        m_first.pages =
+            pagesOfFirstSheets(m_pages, pages->count, m_request.options, m_request.traits);
+        m_first.pages > 0 ? layOutFirst() : layOut();
     });
 }
 
@@ -177,10 +182,44 @@ ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &res
     return request;
 }
 
+// They are picked before the layout step, which would read the whole document to find them.
+void DocumentCount::layOutFirst()
+{
+    QString problem;
+    if (!makeFolder(m_first.folder, &problem))
+        return fail(problem);
+    const QString path = m_first.folder->filePath(u"first.pdf"_s);
+    ConversionRequest request = layoutOf(m_pdf, path);
+    request.layout += JobOption{u"page-ranges"_s, u"1-%1"_s.arg(m_first.pages)};
+    request.picksPages = true;
+    convert(request, [this, path](bool empty) {
+        if (empty)
+            return fail(u"no first sheets came out"_s);
+        run(kPdfInfoProgram, pdfPagesArguments(path, kMostDescribed),
+            [this](const QByteArray &said) {
+                const std::optional<PdfPages> sides = readPdfPages(said);
+                sides && sides->count > 0 ? keepFirst(*sides)
+                                          : fail(u"pdfinfo found no first sheets"_s);
+            });
+    });
+}
+
+void DocumentCount::keepFirst(const PdfPages &sides)
+{
+    const QString path = m_first.folder->filePath(u"first.pdf"_s);
+    m_turning.rotation = sides.pages.constFirst().rotation;
+    m_first.sheets.title = m_document.title;
+    m_first.sheets.pages = m_first.pages;
+    m_first.sheets.sides = sides.count;
+    m_first.sheets.laidOut = std::make_shared<LaidOutDocument>(std::move(m_first.folder), path,
+                                                               sides.count, sides.pages);
+    layOutProbe();
+}
+
 void DocumentCount::layOut()
 {
     QString problem;
-    if (!makeSidesFolder(&problem))
+    if (!makeFolder(m_sides, &problem))
         return fail(problem);
     convert(layoutOf(m_pdf, sidesPath()), [this](bool empty) {
         if (!empty)
@@ -204,33 +243,33 @@ void DocumentCount::countSides()
 void DocumentCount::keepSides(const PdfPages &sides)
 {
     m_sheets.sides = sides.count;
-    m_rotation = sides.pages.isEmpty() ? 0 : sides.pages.constFirst().rotation;
+    m_turning.rotation = sides.pages.isEmpty() ? 0 : sides.pages.constFirst().rotation;
     const QString path = sidesPath();
     if (QFileInfo(path).size() > kMostBytesKept) {
         m_sheets.trouble = DocumentSheets::Trouble::TooLarge;
         m_sides.reset();
     } else {
-        m_sheets.laidOut =
+        const auto laidOut =
             std::make_shared<LaidOutDocument>(std::move(m_sides), path, sides.count, sides.pages);
+        if (m_first.sheets.laidOut)
+            laidOut->setBegin(m_first.sheets.laidOut->path());
+        m_sheets.laidOut = laidOut;
     }
-    if (sides.count > 0 && !m_isLaidOut)
+    // The first sheets have been probed already, and all pages are of their kind.
+    if (sides.count > 0 && !m_isLaidOut && m_sheets.turns.isEmpty())
         return layOutProbe();
-    m_sheets.turns = QList<int>(sides.count, m_pictureTurn);
+    if (m_isLaidOut)
+        m_sheets.turns = QList<int>(sides.count, m_turning.picture);
     Q_EMIT finished({});
 }
 
-bool DocumentCount::makeSidesFolder(QString *problem)
+bool DocumentCount::makeFolder(std::unique_ptr<QTemporaryDir> &folder, QString *problem)
 {
-    if (!m_sides)
-        m_sides = std::make_unique<QTemporaryDir>();
-    if (!m_sides->isValid())
-        *problem = m_sides->errorString();
+    if (!folder)
+        folder = std::make_unique<QTemporaryDir>();
+    if (!folder->isValid())
+        *problem = folder->errorString();
     return problem->isEmpty();
-}
-
-QString DocumentCount::sidesPath() const
-{
-    return m_sides->filePath(u"sides.pdf"_s);
 }
 
 // The chain looks at all pages that it is given before it decides whether to scale any, whichever
@@ -250,7 +289,7 @@ void DocumentCount::layOutProbe()
         kindsOfPages(mustPickPages(m_request.options) ? m_printed : m_pages);
     // Of the pages that were not described nobody knows the kinds.
     if (kinds.isEmpty() || m_pages.size() < *m_sheets.pages)
-        return Q_EMIT finished({});
+        return probed();
     const QString probe = file(u"probe.pdf"_s);
     const QByteArray content = probeDocument(kinds);
     QFile output(probe);
@@ -275,8 +314,8 @@ void DocumentCount::readProbe(const QList<PdfPage> &kinds)
         const bool isMirrored = m_request.options.contains(JobOption{u"mirror"_s, u"true"_s});
         for (const PdfPage &page : std::as_const(m_pages)) {
             // A picture may be turned on its page as well.
-            const int turn = (turns.value(kinds.indexOf(page)) + m_pictureTurn) % 360;
-            m_sheets.turns += isMirrored ? mirroredTurn(turn, m_rotation) : turn;
+            const int turn = (turns.value(kinds.indexOf(page)) + m_turning.picture) % 360;
+            m_sheets.turns += isMirrored ? mirroredTurn(turn, m_turning.rotation) : turn;
         }
         const QList<double> scales = scalesOfProbe(said, kinds);
         for (qsizetype i = 0; hasSizes(m_document) && i < kinds.size(); ++i) {
@@ -285,8 +324,18 @@ void DocumentCount::readProbe(const QList<PdfPage> &kinds)
                 !m_sheets.scales.contains(scale))
                 m_sheets.scales += scale;
         }
-        Q_EMIT finished({});
+        probed();
     });
+}
+
+void DocumentCount::probed()
+{
+    if (m_first.pages == 0)
+        return Q_EMIT finished({});
+    m_first.pages = 0;
+    m_first.sheets.turns = m_sheets.turns;
+    Q_EMIT begun(m_first.sheets);
+    layOut();
 }
 
 void DocumentCount::convert(const ConversionRequest &request, const std::function<void(bool)> &then)
@@ -315,6 +364,11 @@ void DocumentCount::run(const char *program, const QStringList &arguments,
 
 void DocumentCount::fail(const QString &problem)
 {
+    // Whatever becomes of the first sheets, all of them may be laid out.
+    if (std::exchange(m_first.pages, 0) > 0) {
+        m_first = {};
+        return layOut();
+    }
     // Sides that are known are no trouble, whatever becomes of their scale.
     if (!m_sheets.sides)
         m_sheets.trouble = DocumentSheets::Trouble::Failed;

@@ -30,9 +30,15 @@ public:
     /// points. Range of `page`: from 0 on. Errors: the null size where nobody knows.
     QSizeF size(int page) const { return m_sizes.value(page); }
 
+    /// The laid-out document whose pages are the first ones of this one, by its path; empty: none.
+    /// To be set before anybody else holds this one.
+    const QString &begin() const { return m_begin; }
+    void setBegin(const QString &path) { m_begin = path; }
+
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
+    QString m_begin;
     int m_count;
     QList<QSizeF> m_sizes;
 };

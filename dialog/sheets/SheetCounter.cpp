@@ -55,6 +55,11 @@ const JobSheets *SheetCounter::counted(const SheetRequest &request) const
     return m_sheets && isFor(request) ? &*m_sheets : nullptr;
 }
 
+const JobSheets *SheetCounter::begun(const SheetRequest &request) const
+{
+    return m_begun && isFor(request) ? &*m_begun : nullptr;
+}
+
 void SheetCounter::count(const SheetRequest &request, When when)
 {
     const bool isWanted = isFor(request);
@@ -84,6 +89,7 @@ void SheetCounter::cancel()
     m_document.reset();
     m_folder.reset();
     m_sheets.reset();
+    m_begun.reset();
     m_sofar = {};
     m_request.reset();
 }
@@ -118,6 +124,13 @@ void SheetCounter::countNext()
                                        << "was not counted:" << problem;
         documentCounted();
     });
+    // Nobody sees the begin of a later document before all those before it.
+    if (next == 0) {
+        connect(m_document.get(), &DocumentCount::begun, this, [this](const DocumentSheets &first) {
+            m_begun = JobSheets{{first}, m_sofar.isTwoSided};
+            Q_EMIT firstKnown();
+        });
+    }
     m_document->start();
 }
 
@@ -138,6 +151,7 @@ void SheetCounter::end(DocumentSheets::Trouble trouble)
         m_sofar.documents += DocumentSheets{m_request->documents.at(i).title};
         m_sofar.documents.last().trouble = trouble;
     }
+    m_begun.reset();
     m_sheets = std::exchange(m_sofar, {});
     Q_EMIT finished();
 }

@@ -57,10 +57,15 @@ public:
     void count(const SheetRequest &request, When when);
     /// What was counted for this request; null while it was not.
     const JobSheets *counted(const SheetRequest &request) const;
+    /// The first sheets of the job of this request, as those of a job that has no others; null
+    /// while they are not known, and from when all are.
+    const JobSheets *begun(const SheetRequest &request) const;
     /// Ends what is going on.
     void cancel();
 
 Q_SIGNALS:
+    /// The first sheets of a long document are known; `finished` follows with all of them.
+    void firstKnown();
     void finished();
 
 private:
@@ -84,6 +89,7 @@ private:
     std::optional<SheetRequest> m_request;
     QList<Content> m_contents;
     std::optional<JobSheets> m_sheets; // once they are counted
+    std::optional<JobSheets> m_begun;  // until then, where they are known before
     JobSheets m_sofar;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<DocumentCount> m_document; // that is being counted

@@ -148,7 +148,7 @@ QList<PlannedSheet> sheetsOf(const QList<PlannedSide> &sides, bool isTwoSided)
     return sheets;
 }
 
-QList<PlannedSheet> coverSheets(const QString &name, QSizeF paper)
+QList<PlannedSheet> coverSheet(const QString &name, QSizeF paper)
 {
     if (name.isEmpty())
         return {};
@@ -184,16 +184,22 @@ SheetArrangement sheetArrangement(const QList<JobOption> &options, const LayoutT
     return arrangement;
 }
 
+int coverSheets(const SheetArrangement &arrangement)
+{
+    return (arrangement.coverBefore.isEmpty() ? 0 : 1) +
+           (arrangement.coverBehind.isEmpty() ? 0 : 1);
+}
+
 SheetPlan planSheets(const JobSheets &sheets, const SheetArrangement &arrangement)
 {
     SheetPlan plan;
     plan.binding = arrangement.binding;
-    plan.sheets = coverSheets(arrangement.coverBefore, arrangement.paper);
+    plan.sheets = coverSheet(arrangement.coverBefore, arrangement.paper);
     for (int i = 0; i < sheets.documents.size(); ++i) {
         const DocumentSides sides(i, sheets.documents.at(i), arrangement);
         plan.sheets += sheetsOf(sides.sides(), sheets.isTwoSided);
     }
-    plan.sheets += coverSheets(arrangement.coverBehind, arrangement.paper);
+    plan.sheets += coverSheet(arrangement.coverBehind, arrangement.paper);
     return plan;
 }
 

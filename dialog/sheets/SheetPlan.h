@@ -74,6 +74,9 @@ struct SheetArrangement
     bool operator==(const SheetArrangement &) const = default;
 };
 
+/// How many sheets the queue adds.
+int coverSheets(const SheetArrangement &arrangement);
+
 /// `options` are all those of the job, in the words of its printer's PPD. `printsCovers`: whether
 /// whatever prints the job adds the cover sheets that are among them.
 SheetArrangement sheetArrangement(const QList<JobOption> &options, const LayoutTraits &traits,

@@ -184,7 +184,7 @@ QString oneSidedReason(const JobSheets &sheets)
         .arg(joined(titles));
 }
 
-QString countText(const JobSheets &sheets, const PageChoice &choice, int copies)
+QString countText(const JobSheets &sheets, const PageChoice &choice, int copies, int covers)
 {
     const std::optional<int> once = sheetsOfOneCopy(sheets);
     if (!once)
@@ -192,8 +192,13 @@ QString countText(const JobSheets &sheets, const PageChoice &choice, int copies)
     int pages = 0;
     for (const DocumentSheets &document : sheets.documents)
         pages += document.pages ? chosenPages(*document.pages, choice) : *document.sides;
-    const QString number = sheetsText(qint64(*once) * copies);
-    const QString all = sheets.isByHand ? Texts::tr("%1, two-sided by hand").arg(number) : number;
+    QString all = sheetsText(qint64(*once) * copies);
+    if (sheets.isByHand)
+        all = Texts::tr("%1, two-sided by hand").arg(all);
+    if (covers == 1)
+        all = Texts::tr("%1, and 1 cover sheet").arg(all);
+    else if (covers > 1)
+        all = Texts::tr("%1, and %2 cover sheets").arg(all).arg(covers);
     if (copies == 1)
         return Texts::tr("%1 = %2").arg(pagesText(pages), all);
     return Texts::tr("%1 × %2 copies = %3").arg(pagesText(pages)).arg(copies).arg(all);
@@ -213,11 +218,12 @@ QString scaleText(const JobSheets &sheets)
     return joined(texts);
 }
 
-QList<SummaryLine> sheetLines(const JobSheets *sheets, const PageChoice &choice, int copies)
+QList<SummaryLine> sheetLines(const JobSheets *sheets, const PageChoice &choice, int copies,
+                              int covers)
 {
     if (!sheets)
         return {{Texts::tr("Sheets"), u"…"_s}};
-    QList<SummaryLine> lines{{Texts::tr("Sheets"), countText(*sheets, choice, copies)}};
+    QList<SummaryLine> lines{{Texts::tr("Sheets"), countText(*sheets, choice, copies, covers)}};
     const QStringList missing = missingPages(*sheets, choice) + emptyDocuments(*sheets, choice);
     for (const QString &text : missing)
         lines += SummaryLine{Texts::tr("Pages Not There"), text};

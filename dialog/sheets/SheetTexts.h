@@ -26,13 +26,15 @@ QStringList missingPages(const JobSheets &sheets, const PageChoice &choice);
 /// Why backs stay empty in a two-sided job; nothing where they do not.
 QString oneSidedReason(const JobSheets &sheets);
 
-/// "9 pages × 2 copies = 6 sheets"; says so where nobody could count them.
-QString countText(const JobSheets &sheets, const PageChoice &choice, int copies);
+/// "9 pages × 2 copies = 6 sheets, and 1 cover sheet"; says so where nobody could count them.
+/// `covers`: how many sheets the queue adds to the job, whatever the number of copies.
+QString countText(const JobSheets &sheets, const PageChoice &choice, int copies, int covers = 0);
 
 /// "A4 at 96 %, Letter at 93 %"; empty where everything has its actual size.
 QString scaleText(const JobSheets &sheets);
 
 /// The lines of the summary about the sheets. Null: they are being counted.
-QList<SummaryLine> sheetLines(const JobSheets *sheets, const PageChoice &choice, int copies);
+QList<SummaryLine> sheetLines(const JobSheets *sheets, const PageChoice &choice, int copies,
+                              int covers = 0);
 
 } // namespace corvana

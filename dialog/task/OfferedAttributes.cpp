@@ -98,6 +98,13 @@ bool isUsual(const QString &value, const JobAttribute &attribute)
            });
 }
 
+// Who keeps an attribute at its value, itself or by an option of the printer's of that name.
+QString lockOf(const QString &name, const JobSettings &settings, const OpenedPrinter &printer)
+{
+    const ppd_option_t *own = ownOption(name, *printer.session);
+    return own ? printer.session->lockedBy(ppdKeyword(own->keyword)) : settings.lockedBy(name);
+}
+
 OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
                          const OpenedPrinter &printer)
 {
@@ -106,6 +113,8 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
     if (const ppd_option_t *own = ownOption(offer.name, *printer.session))
         one.value = printer.session->markedChoice(ppdKeyword(own->keyword)).toLower();
     one.isUsual = isUsual(one.value, attribute);
+    if (const QString by = lockOf(offer.name, settings, printer); !by.isNull())
+        one.lockedBy = lockedText(by);
     if (offer.name == kCollateAttribute)
         one.hasEffect = settings.copies() > 1;
     if (offer.name == kNumberUpLayout)

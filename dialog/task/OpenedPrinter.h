@@ -30,6 +30,8 @@ struct OpenedPrinter
     PDEPageColors *pageColors = nullptr;
     /// The bundle that the panels come from, or null.
     std::shared_ptr<Bundle> bundle;
+    /// What an administrator locks and this printer does not have; each with its file and line.
+    QStringList voidLocks;
     /// Why the printer has no panels although it should; empty otherwise.
     QString panelProblem;
 };

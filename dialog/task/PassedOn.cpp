@@ -84,6 +84,14 @@ bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer)
     return raw || passesFilesOn(printer);
 }
 
+QStringList takeLockedRaw(QList<JobOption> &options, const OpenedPrinter &printer)
+{
+    if (!printer.session->locks().contains(kRaw.name) || !asksForRaw(options))
+        return {};
+    options.removeIf(isRaw);
+    return {lockedText(kRaw.name, *printer.session)};
+}
+
 QStringList takeWhatCannotBeDone(QList<JobOption> &options, const OpenedPrinter &printer)
 {
     QStringList named;

@@ -27,6 +27,10 @@ bool isDoneWhenPassedOn(const QString &name, const OpenedPrinter &printer);
 /// Whether options ask for that.
 bool asksForRaw(const QList<JobOption> &options);
 
+/// Takes the wish out of options where files may not be passed on as they are, because something is
+/// locked. Answers who says so.
+QStringList takeLockedRaw(QList<JobOption> &options, const OpenedPrinter &printer);
+
 /// Takes "raw" out of several sets of options, of which a later one counts more, where it can be
 /// had. Answers whether the documents are passed on as they are.
 bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer);

@@ -54,6 +54,9 @@ struct PrintRequest
     bool noWait = false;
     /// How long a job that its queue has is followed at most; nothing: to its end.
     std::optional<std::chrono::seconds> wait;
+    bool manySheetsAreMeant = false; ///< so that nobody has to be asked
+    /// Where lines for the system's journal go, which a policy may ask for; null: there.
+    std::function<void(const QByteArray &)> journal{};
     bool quiet = false; ///< what was asked for and was done needs no word
     bool json = false;  ///< what became of the job is said for a program, too
     /// Where presets are kept; nowhere: there are none.

@@ -64,7 +64,9 @@ void PrintTask::startPass()
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
     request.earlierJob = run.isSecond ? run.earlierJob : memory.earlierJob;
     request.earlierDocuments = request.earlierJob > 0 ? 1 : 0;
-    const PassSource source{run.isSecond ? run.passes.second : run.passes.first, run.documents};
+    PassSource source{run.isSecond ? run.passes.second : run.passes.first, run.documents};
+    if (isReversedOnTheWay(m_opened->session->ppd(), m_run.ticket.options))
+        std::reverse(source.sides.begin(), source.sides.end());
     followJob(std::make_unique<PassJob>(request, source, sides));
 }
 

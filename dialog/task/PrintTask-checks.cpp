@@ -56,7 +56,9 @@ QString PrintTask::damageOf(const Document &document) const
     if (!state.isDamaged)
         return {};
     const QString loss = documentLoss(document.title, state);
-    return loss.isEmpty() ? documentNote(document.title, state, PrintsTo::File) : loss;
+    // What is said of a copy without a password is not about its pages.
+    const bool isSaidOfDamage = loss.isEmpty() && !state.isUnlocked;
+    return isSaidOfDamage ? documentNote(document.title, state, PrintsTo::File) : loss;
 }
 
 // Once for each of them.

@@ -17,8 +17,15 @@ TaskSettings PrintTask::settingsNow() const
 {
     TaskSettings now{m_chosen.printer, m_opened->fetched.ppd->hash, m_opened->session->snapshot(),
                      m_settings};
-    now.session.entries = m_opened->panels->shownEntries();
-    return now;
+    const QVariantMap entries = m_opened->panels->shownEntries();
+    if (entries == now.session.entries)
+        return now;
+    // A panel that is seen shows all of its values, also those that nobody has moved or that stand
+    // for nothing in a job. Only what says something else in the job is a setting of the user's.
+    TaskSettings shown = now;
+    shown.session.entries = entries;
+    const bool isOfAPlugInWithoutValues = !m_opened->jobValues;
+    return isOfAPlugInWithoutValues || !differences(now, shown, *m_opened).isEmpty() ? shown : now;
 }
 
 void PrintTask::restoreSettings(const TaskSettings &settings)
@@ -108,16 +115,14 @@ QString PrintTask::redoText() const
 
 void PrintTask::undo()
 {
-    if (m_phase == Phase::Ready && m_face.finishEditing())
-        recordStep();
+    recordStep();
     if (canUndo())
         goTo(m_baseline.history.undo());
 }
 
 void PrintTask::redo()
 {
-    if (m_phase == Phase::Ready && m_face.finishEditing())
-        recordStep();
+    recordStep();
     if (canRedo())
         goTo(m_baseline.history.redo());
 }

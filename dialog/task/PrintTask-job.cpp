@@ -349,6 +349,7 @@ void PrintTask::jobFinished(const JobOutcome &ofJob)
     m_run.hand.reset();
     const JobOutcome &outcome = *whole;
     m_run.outcome = outcome;
+    noteInJournal(outcome);
     Memory &memory = m_memory[idOf(m_chosen.printer)];
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a
     // number has learnt nothing about an earlier one.

@@ -50,11 +50,8 @@ void PrintTask::choosePages(const QString &ranges)
 {
     if (!m_opened)
         return;
-    QString problem = setAttribute(kPageRangesAttribute, ranges.isEmpty() ? QString() : ranges);
-    // A queue that adds pages of its own to every job that names none has to hear that all are
-    // meant.
-    if (!problem.isEmpty() && ranges.isEmpty())
-        problem = setAttribute(kPageRangesAttribute, u"1-"_s);
+    const QString problem =
+        setAttribute(kPageRangesAttribute, ranges.isEmpty() ? QString() : ranges);
     if (!problem.isEmpty())
         say(TaskMessage::Kind::Problem, problem);
 }

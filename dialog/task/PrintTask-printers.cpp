@@ -43,7 +43,8 @@ void PrintTask::startUnattended()
 
 void PrintTask::choosePrinter(const Printer &printer)
 {
-    recordStep();
+    if (!m_baseline.coming) // else the history is there already
+        recordStep();
     rememberSession();
     close();
     if (m_baseline.coming && idOf(m_baseline.coming->printer) != idOf(printer))

@@ -70,8 +70,8 @@ QList<SummaryLine> PrintTask::withSheets(QList<SummaryLine> lines, const JobTick
 {
     const SheetRequest request = sheetRequest(ticket);
     const JobSheets *sheets = m_sheets.counted(request);
-    const QList<SummaryLine> more =
-        sheetLines(sheets, pageChoiceOf(request.options), ticket.copies);
+    const QList<SummaryLine> more = sheetLines(sheets, pageChoiceOf(request.options), ticket.copies,
+                                               coverSheets(arrangementOf(ticket)));
     for (qsizetype i = 0; i < more.size(); ++i)
         lines.insert(std::min(lines.size(), i + 1), more.at(i));
     const QString reason = sheets ? oneSidedReason(*sheets) : QString();
@@ -109,16 +109,31 @@ SheetPreview PrintTask::sheetPreview() const
                                 "not known here.")};
     if (const QStringList problems = documentProblems().problems; !problems.isEmpty())
         return {State::None, problems.join(u' '), false};
-    // While a panel is being asked there is no ticket yet.
-    const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
-    const JobTicket job = hasTicket ? m_run.ticket : ticket();
-    if (const JobSheets *sheets = m_sheets.counted(sheetRequest(job)))
-        return previewOf(*sheets, job);
+    // Before the panels have come up nobody knows what the job will be, and the window, which has
+    // not been painted yet, does not wait for a ticket of it.
+    if (m_phase != Phase::Opened) {
+        // While a panel is being asked there is no ticket yet.
+        const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
+        const JobTicket job = hasTicket ? m_run.ticket : ticket();
+        const SheetRequest request = sheetRequest(job);
+        if (const JobSheets *sheets = m_sheets.counted(request))
+            return previewOf(*sheets, job);
+        if (const JobSheets *first = m_sheets.begun(request))
+            return beginOf(*first, job);
+    }
     SheetPreview older = m_preview;
     older.state = State::Counting;
     older.reason.clear();
     older.counts.clear();
     return older;
+}
+
+// Only a queue adds cover sheets to a job.
+SheetArrangement PrintTask::arrangementOf(const JobTicket &job) const
+{
+    const bool printsCovers = !printsToFile() && m_chosen.printer.origin == PrinterOrigin::Queue;
+    return sheetArrangement(job.options, layoutTraits(m_opened->session->ppd(), job.options),
+                            printsCovers);
 }
 
 SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job) const
@@ -127,11 +142,9 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
     SheetPreview preview;
     const QStringList problems = previewProblems(sheets) + emptyDocuments(sheets, choice);
     preview.reason = problems.join(u' ');
-    preview.counts = countText(sheets, choice, job.copies);
-    const bool printsCovers = !printsToFile() && m_chosen.printer.origin == PrinterOrigin::Queue;
-    preview.plan = planSheets(
-        sheets, sheetArrangement(job.options, layoutTraits(m_opened->session->ppd(), job.options),
-                                 printsCovers));
+    const SheetArrangement arrangement = arrangementOf(job);
+    preview.counts = countText(sheets, choice, job.copies, coverSheets(arrangement));
+    preview.plan = planSheets(sheets, arrangement);
     preview.marks = sheetMarks(preview.plan, sheets, choice);
     for (int i = 0; i < m_request.documents.size(); ++i)
         markDocument(preview.marks, preview.plan, i, damageOf(m_request.documents.at(i)));
@@ -141,6 +154,24 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
         preview.files += document.laidOut;
     }
     preview.state = anything ? SheetPreview::State::Known : SheetPreview::State::None;
+    return preview;
+}
+
+// The counts are those of all sheets, which nobody knows yet, and nothing comes behind the last
+// one.
+SheetPreview PrintTask::beginOf(const JobSheets &first, const JobTicket &job) const
+{
+    SheetPreview preview = previewOf(first, job);
+    preview.state = SheetPreview::State::Begun;
+    preview.reason.clear();
+    preview.counts.clear();
+    preview.marks.clear(); // what concerns sheets is said of all of them
+    const auto isBehind = [](const PlannedSheet &sheet) {
+        return sheet.front.kind == PlannedSide::Kind::Cover;
+    };
+    QList<PlannedSheet> &sheets = preview.plan.sheets;
+    while (!sheets.isEmpty() && isBehind(sheets.constLast()))
+        sheets.removeLast();
     return preview;
 }
 
@@ -188,10 +219,17 @@ void PrintTask::sheetsKnown()
     if (m_request.summary)
         m_face.writeSummary(withSheets(m_run.lines, m_run.ticket));
     const QStringList problems = sheets ? emptyDocuments(*sheets, choice) : QStringList();
-    if (problems.isEmpty())
+    std::optional<TaskRefusal> refusal;
+    if (!problems.isEmpty())
+        refusal = TaskRefusal{problems, TaskRefusal::Place::Pages};
+    else
+        refusal = askForManySheets();
+    if (m_phase != Phase::Printing)
+        return; // canceled, while a question was waiting for its answer
+    if (!refusal)
         return startJob(m_run.ticket);
     enter(Phase::Ready);
-    Q_EMIT refused({problems, TaskRefusal::Place::Pages});
+    Q_EMIT refused(*refusal);
     takeNext();
 }
 

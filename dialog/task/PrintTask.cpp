@@ -4,11 +4,8 @@
 
 #include <QPointer>
 
-#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
-#include "dialog/session/OptionRequest.h"
-#include "dialog/session/OptionValues.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/AttributeEffects.h"
@@ -41,6 +38,10 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     m_baseline.presets = std::make_unique<TaskPresets>(*this);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
+    connect(&m_sheets, &SheetCounter::firstKnown, this, [this] {
+        if (m_run.awaits != Run::Awaits::Sheets)
+            Q_EMIT sheetsCounted();
+    });
     m_looks.textPatience.setSingleShot(true);
     connect(&m_looks.textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
     connect(&m_looks.documents, &DocumentChecks::changed, this, &PrintTask::documentsLookedAt);
@@ -67,6 +68,9 @@ void PrintTask::enter(Phase phase)
 {
     if (std::exchange(m_phase, phase) != phase)
         Q_EMIT phaseChanged(phase);
+    // What a panel's alert has changed while a job was made can be taken back as well.
+    if (m_phase == Phase::Ready)
+        recordSoon();
 }
 
 void PrintTask::say(TaskMessage::Kind kind, const QString &text)
@@ -140,6 +144,7 @@ void PrintTask::applyStartOptions()
         m_chosen.ignored = started.ignored;
         presets().start(started);
     }
+    m_chosen.ignored += policyProblems();
     m_chosen.unset += lockedCopies() + takeMostCopies();
     keepLocks();
 }
@@ -256,94 +261,6 @@ void PrintTask::noteMissingPages()
         tr("A page of the printer's settings cannot be shown: %1").arg(m_opened->panelProblem));
 }
 
-void PrintTask::propose(const QString &keyword, const QString &choice)
-{
-    bringUp();
-    Q_EMIT unsaid();
-    if (isValueOfPanels({keyword, choice}, *m_opened->session, m_opened->jobValues))
-        return proposeToPanels({keyword, choice});
-    const ChangeResult result =
-        m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
-    if (result.outcome == ChangeResult::Outcome::Accepted ||
-        result.outcome == ChangeResult::Outcome::UnknownOption ||
-        result.outcome == ChangeResult::Outcome::UnknownChoice)
-        return; // taken; or no choice of this printer, which the session has logged
-    sayRefusal({{keyword, choice}, result.conflicting, result.locked});
-    showSettings(); // the page shows what the user picked
-}
-
-void PrintTask::setCopies(int copies)
-{
-    m_settings.askForCopies(copies, JobSettings::By::User);
-    noteTouched(kCopiesSetting);
-}
-
-void PrintTask::setPageRanges(const QString &ranges)
-{
-    m_settings.setPageRanges(ranges);
-    noteTouched(kPageRangesAttribute);
-}
-
-// A value that the panels keep themselves: the mark of the PPD would be nothing that they print.
-void PrintTask::proposeToPanels(const JobOption &option)
-{
-    const OptionOutcome outcome =
-        applyOptions({option}, *m_opened->session, m_opened->jobValues, *m_opened->panels);
-    if (!outcome.ok())
-        say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
-    noteTouched(option.name);
-    showSettings();
-}
-
-QList<OfferedAttribute> PrintTask::attributes() const
-{
-    QList<OfferedAttribute> offered = offeredAttributes(m_settings, *m_opened);
-    offered.removeIf([&](const OfferedAttribute &one) {
-        return !passesFilesOn() && !hasEffectOn(m_request.documents, {one.name, one.value});
-    });
-    return offered;
-}
-
-QString PrintTask::setAttribute(const QString &name, const QString &value)
-{
-    bringUp();
-    const JobAttribute *attribute = jobAttribute(name);
-    if (!attribute)
-        return tr("There is no job attribute of the name %1.").arg(name);
-    const std::optional<QString> taken =
-        value.isNull() ? QString() : attribute->allowed.inOneSpelling(value);
-    if (const QString by = m_settings.lockedBy(name); !by.isNull()) {
-        showSettings(); // the page shows what the user picked
-        return taken == m_settings.attribute(name) ? QString() : lockedText(by);
-    }
-    const PrinterChoices own = choicesOfPrinter(name, taken.value_or(value), *m_opened);
-    if (!own.choices.isEmpty()) {
-        for (const OptionChoice &choice : own.choices)
-            propose(choice.keyword, choice.choice);
-        return {};
-    }
-    if (value.isNull() && !canBeNone(name, *m_opened))
-        return tr("The queue “%1” sets this for every job that does not name it. Allowed: %2.")
-            .arg(m_chosen.printer.name, allowedText(attribute->allowed));
-    if (!taken)
-        return tr("“%1” is not allowed. Allowed: %2.").arg(value, allowedText(attribute->allowed));
-    if (own.isRefused)
-        return tr("“%1” is not allowed. Allowed: %2.").arg(*taken, own.allowed);
-    if (*taken == m_settings.attribute(name))
-        return {};
-    Q_EMIT unsaid();
-    m_settings.setAttribute(name, *taken);
-    noteTouched(name);
-    const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
-    const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
-    if (isBooklet && canTurnByHand(*m_opened))
-        m_settings.setAttribute(kSidesByHandAttribute, kByHandShortEdge);
-    else if (isBooklet && folding)
-        propose(folding->keyword, folding->choice);
-    showSettings();
-    return {};
-}
-
 void PrintTask::settled()
 {
     // While the job is being made, finish() takes them: it must not be printed without what a panel
@@ -364,36 +281,6 @@ void PrintTask::showSettings()
     Q_EMIT settingsChanged();
     m_baseline.shown = m_opened->session->snapshot();
     settingsAffectColors();
-}
-
-void PrintTask::sayRefusal(const Refusal &refusal)
-{
-    TaskMessage message{TaskMessage::Kind::Problem, refusalText(refusal, *m_opened->session)};
-    const QList<OptionChoice> wayOut = m_opened->session->wayOut(refusal.proposed);
-    if (!wayOut.isEmpty()) {
-        message.offer = wayOutText(wayOut, *m_opened->session);
-        // The offer may outlive the printer that it was made for.
-        const QPointer<PpdSession> session = m_opened->session.get();
-        message.take = [this, session, wayOut, proposed = refusal.proposed] {
-            if (session)
-                takeWayOut(wayOut, proposed);
-        };
-    }
-    Q_EMIT said(message);
-}
-
-// Does what the user would have done: makes room, then picks again what was refused, so that the
-// panel's rules and instructions run as they do for any pick.
-void PrintTask::takeWayOut(const QList<OptionChoice> &wayOut, const OptionChoice &proposed)
-{
-    Q_EMIT unsaid();
-    PanelHost &panels = *m_opened->panels;
-    m_opened->session->changeTogether(wayOut);
-    panels.deliverPending();
-    if (!panels.pick(proposed.keyword, proposed.choice))
-        m_opened->session->changeTogether({proposed});
-    panels.deliverPending();
-    showSettings();
 }
 
 } // namespace corvana

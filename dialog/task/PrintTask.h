@@ -276,18 +276,11 @@ private:
     friend class TaskPresets;
 
     using Memory = TaskState::Memory;
-    using Chosen = TaskState::Chosen;
     using Run = TaskState::Run;
-    using Colors = TaskState::Colors;
-    using Looks = TaskState::Looks;
-    using Baseline = TaskState::Baseline;
-    using Output = TaskState::Output;
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
-
     void setDocuments(const QList<Document> &documents);
-
     void documentsLookedAt();
     void sayOfDocuments();
     QString problemOf(const Document &document) const;
@@ -341,12 +334,14 @@ private:
     QStringList keepLocks();
     QStringList lockedTexts(const QStringList &keywords) const;
     QStringList lockedCopies() const;
+    QStringList policyProblems();
     QStringList problemsOfLocks() const;
     void sayLocked(const QStringList &keywords);
+    std::optional<TaskRefusal> askForManySheets();
+    void noteInJournal(const JobOutcome &outcome) const;
 
     void settingsAffectColors();
     void showColors();
-
     QList<JobOption> jobAttributes() const;
     std::optional<TaskRefusal> finish();
     std::optional<TaskRefusal> askPanels();
@@ -358,7 +353,6 @@ private:
     void settleTexts();
     void startJob(const JobTicket &ticket);
     void followJob(std::unique_ptr<Job> job);
-
     void startByHand(const JobTicket &ticket);
     void startPass();
     bool isFirstPass() const;
@@ -380,24 +374,26 @@ private:
     void stopPreparing();
     void endPreparing();
     ChoosableDocument choosable(const Document &document, const DocumentSheets *counted) const;
+    SheetArrangement arrangementOf(const JobTicket &job) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
+    SheetPreview beginOf(const JobSheets &first, const JobTicket &job) const;
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;
     TaskFace &m_face;
     std::shared_ptr<CredentialStore> m_credentials;
     PrinterSource m_source;
-    Chosen m_chosen;
+    TaskState::Chosen m_chosen;
     std::unique_ptr<OpenedPrinter> m_opened;
     QHash<PrinterId, Memory> m_memory;
-    Baseline m_baseline;
+    TaskState::Baseline m_baseline;
     JobSettings m_settings;
-    Colors m_colors;
-    Output m_output;
+    TaskState::Colors m_colors;
+    TaskState::Output m_output;
     SheetCounter m_sheets;
     SheetPreview m_preview; // that was known last
     Run m_run;
-    Looks m_looks;
+    TaskState::Looks m_looks;
     Phase m_phase = Phase::Fetching;
 };
 

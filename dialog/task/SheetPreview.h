@@ -18,6 +18,7 @@ struct SheetPreview
     enum class State {
         None,     ///< nothing can be shown; `reason` says why
         Counting, ///< a layout is in work; plan and files are those of an older one, if any
+        Begun,    ///< plan and files are the first sheets of what will be printed, and not all
         Known,    ///< plan and files are what will be printed
     };
 
@@ -26,7 +27,7 @@ struct SheetPreview
     QString reason{};
     /// Whether printing may work all the same where nothing can be shown.
     bool canBePrinted = true;
-    QString counts{}; ///< "9 pages × 2 copies = 6 sheets"; of this job, so empty while Counting
+    QString counts{}; ///< "9 pages × 2 copies = 6 sheets"; of this job, so empty while not Known
     SheetPlan plan{};
     /// What there is to be said of single sheets.
     QList<SheetMark> marks{};

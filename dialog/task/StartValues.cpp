@@ -328,6 +328,7 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
                 problems = takeWhatPdfLacks(options[i]);
             problems += takeWhatHasNoEffect(options[i], request.documents, printer);
         }
+        problems += takeLockedRaw(options[i], printer);
         options[i] += foldingOf(options.at(i), printer);
         if (layer.by == By::Queue) {
             // What such a queue's own defaults ask for is done by nobody.

@@ -70,6 +70,8 @@ public:
     virtual bool mayOverwrite(const QString &file) = 0;
     /// Whether to print although something will be missing on paper; `what` says what.
     virtual bool mayPrintWithout(const QString &what) = 0;
+    /// Whether to print so many sheets; `what` says how many. Nothing where nobody can be asked.
+    virtual std::optional<bool> mayPrintMany(const QString &what) = 0;
     /// Writes the summary where the user has asked for it. Called only then.
     virtual void writeSummary(const QList<SummaryLine> &lines) = 0;
 };

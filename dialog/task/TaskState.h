@@ -49,6 +49,7 @@ struct TaskState
         bool canBeAnother = false;          // somebody sits there who can choose
         PrinterProblem problem;             // why it cannot be asked for
         QStringList unset;                  // what was asked for with it and cannot be set
+        bool policyWasTold = false;         // that something of the policy is not used
         QStringList ignored;                // the same of what nobody has asked for just now
         std::optional<FetchedPrinter> next; // while the one that is open is in use
     };

@@ -12,38 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Kind = JobOutcome::Kind;
-
-// By the dialog or by a queue: whoever reads it need not know which.
-constexpr auto kRefused = "refused"_L1;
-
-QLatin1StringView keyword(Kind kind)
-{
-    switch (kind) {
-    case Kind::Printed:
-        return "printed"_L1;
-    case Kind::Sent:
-        return "sent"_L1;
-    case Kind::InQueue:
-        return "in-queue"_L1;
-    case Kind::Stopped:
-        return "stopped"_L1;
-    case Kind::Failed:
-        return "failed"_L1;
-    case Kind::Refused:
-        return kRefused;
-    case Kind::Canceled:
-        return "canceled"_L1;
-    case Kind::Unknown:
-        return "unknown"_L1;
-    case Kind::AlreadyThere:
-        return "already-there"_L1;
-    case Kind::PrinterChanged:
-        return "printer-changed"_L1;
-    }
-    return {};
-}
-
 QJsonValue textOrNull(const QString &text)
 {
     return text.isEmpty() ? QJsonValue() : QJsonValue(text);
@@ -72,7 +40,7 @@ QByteArray line(QLatin1StringView state, const JobOutcome &outcome)
 
 QByteArray outcomeLine(const JobOutcome &outcome)
 {
-    return line(keyword(outcome.kind), outcome);
+    return line(outcomeKeyword(outcome.kind), outcome);
 }
 
 QByteArray refusalLine(const QString &queue, const QStringList &problems)
@@ -80,7 +48,7 @@ QByteArray refusalLine(const QString &queue, const QStringList &problems)
     JobOutcome outcome;
     outcome.queue = queue;
     outcome.text = problems.join(u'\n');
-    return line(kRefused, outcome);
+    return line(outcomeKeyword(JobOutcome::Kind::Refused), outcome);
 }
 
 void writeLine(const QByteArray &line)

@@ -39,6 +39,8 @@ public:
     bool mayOverwrite(const QString &) override { return true; }
     /// Says it; whoever prints from a script wants what can be had.
     bool mayPrintWithout(const QString &what) override;
+    /// Whoever means it says so in advance.
+    std::optional<bool> mayPrintMany(const QString &) override { return std::nullopt; }
     void writeSummary(const QList<SummaryLine> &lines) override;
 
 private:

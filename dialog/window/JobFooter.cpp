@@ -77,6 +77,7 @@ void JobFooter::buildButtons()
     m_silenced->setAutoRaise(true);
     m_silenced->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     hideInPlace(m_silenced);
+    showSilencedAlerts(false);
     m_print = new QPushButton(tr("&Print"), this);
     m_print->setObjectName(u"print"_s);
     m_print->setDefault(true);
@@ -154,6 +155,9 @@ void JobFooter::showClose()
 void JobFooter::showSilencedAlerts(bool silenced)
 {
     m_silenced->setVisible(silenced);
+    // Its place is kept for the least width of the window, not for its usual one, which others
+    // need.
+    m_silenced->setMaximumWidth(silenced ? QWIDGETSIZE_MAX : m_silenced->minimumSizeHint().width());
 }
 
 void JobFooter::focusPrint()

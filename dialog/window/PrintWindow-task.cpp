@@ -111,7 +111,8 @@ void PrintWindow::showPrinter()
     const Printer &printer = m_task->printer();
     const PrinterProblem &problem = m_task->problem();
     m_footer->setCanPrint(m_task->canPrint());
-    m_header->showDestination(printer.origin == PrinterOrigin::File, m_task->printsToFile());
+    m_header->showDestination(printer.origin == PrinterOrigin::File, m_task->printsToFile(),
+                              m_task->whyNoFile().isEmpty());
     if (problem.text.isEmpty())
         m_header->status()->setPrinter(printer);
     else if (m_task->opened())
@@ -352,8 +353,18 @@ bool PrintWindow::mayOverwrite(const QString &file)
 
 bool PrintWindow::mayPrintWithout(const QString &what)
 {
+    return confirm(what, tr("Print Anyway"));
+}
+
+std::optional<bool> PrintWindow::mayPrintMany(const QString &what)
+{
+    return confirm(what, tr("Print"));
+}
+
+bool PrintWindow::confirm(const QString &what, const QString &button)
+{
     QMessageBox box(QMessageBox::Warning, tr("Print"), what, QMessageBox::Cancel, this);
-    QPushButton *print = box.addButton(tr("Print Anyway"), QMessageBox::AcceptRole);
+    QPushButton *print = box.addButton(button, QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
     makePlain(&box);
     box.exec();

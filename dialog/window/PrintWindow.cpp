@@ -75,6 +75,7 @@ PrintWindow::~PrintWindow()
     // What the task says while it goes is heard by nobody: the window is half gone.
     m_task->disconnect(this);
     delete m_taskPreview;
+    delete findChild<UndoKeys *>(); // a panel's control may have the focus while it goes
     m_task.reset();
 }
 

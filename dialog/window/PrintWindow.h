@@ -112,6 +112,8 @@ private:
     bool userIsBusy() const override;
     bool mayOverwrite(const QString &file) override;
     bool mayPrintWithout(const QString &what) override;
+    bool confirm(const QString &what, const QString &button);
+    std::optional<bool> mayPrintMany(const QString &what) override;
     void writeSummary(const QList<SummaryLine> &lines) override;
 
     WindowAlertPresenter m_presenter;

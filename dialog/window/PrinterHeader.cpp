@@ -96,12 +96,13 @@ void PrinterHeader::showOutput(const QString &file)
     m_output->setText(QDir::toNativeSeparators(file));
 }
 
-void PrinterHeader::showDestination(bool fileOnly, bool toFile)
+void PrinterHeader::showDestination(bool fileOnly, bool toFile, bool mayBeFile)
 {
-    m_toFile->setVisible(!fileOnly);
+    m_toFile->setVisible(!fileOnly && mayBeFile);
     m_toFile->setChecked(toFile);
     m_toFileLabel->setVisible(fileOnly);
     m_outputRow->setEnabled(fileOnly || toFile);
+    m_outputRow->setVisible(mayBeFile);
 }
 
 void PrinterHeader::takeIconsFromTheme()

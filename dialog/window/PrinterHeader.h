@@ -29,7 +29,7 @@ public:
     void takeIconsFromTheme();
     /// A queue can be printed to a file instead; a printer of a PPD file (`fileOnly`) prints
     /// nowhere but to a file.
-    void showDestination(bool fileOnly, bool toFile);
+    void showDestination(bool fileOnly, bool toFile, bool mayBeFile = true);
     /// While a job runs, neither its printer nor its file can be another one.
     void setJobRunning(bool running);
     void showOutput(const QString &file);

@@ -27,6 +27,8 @@ SettingFinder::SettingFinder(PrintTask &task, FindField &field, SettingsPages &p
     connect(&task, &PrintTask::phaseChanged, this, [this](PrintTask::Phase phase) {
         if (phase == PrintTask::Phase::Opened)
             forget(); // its panels come up, and with them their controls
+        else if (phase == PrintTask::Phase::Ready)
+            m_field.refresh();
     });
 }
 
@@ -35,7 +37,7 @@ void SettingFinder::forget()
     m_index = {};
     m_collected.clear();
     m_found.clear();
-    m_field.finish();
+    m_field.refresh();
 }
 
 // Attributes come and go with what is printed, and with others that are set.
@@ -57,7 +59,7 @@ void SettingFinder::search(const QString &text)
     collect();
     m_found = m_index.find(text);
     if (m_found.isEmpty())
-        return m_field.setNothingFound(m_index.suggestionFor(text));
+        return sayNothingFound(text);
     QList<FindResult> results;
     for (const FoundSetting &found : std::as_const(m_found)) {
         FindResult result{found.setting.name, valueNow(found.setting, m_task),
@@ -70,6 +72,19 @@ void SettingFinder::search(const QString &text)
         results += result;
     }
     m_field.setResults(results);
+}
+
+void SettingFinder::sayNothingFound(const QString &text)
+{
+    if (m_collected.isEmpty())
+        return m_field.setNothingFound(tr("The settings of the printer are not known yet."));
+    const QString suggestion = m_index.suggestionFor(text);
+    m_field.setNothingFound(
+        suggestion.isEmpty()
+            ? tr("No setting is called “%1”. Try a shorter word, or another one for it.").arg(text)
+            : tr("No setting is called “%1”. Press Enter to search for “%2” instead.")
+                  .arg(text, suggestion),
+        suggestion);
 }
 
 void SettingFinder::go(int row)

@@ -25,6 +25,7 @@ public:
 
 private:
     void search(const QString &text);
+    void sayNothingFound(const QString &text);
     void go(int row);
     void collect();
     void forget();

@@ -72,6 +72,9 @@ void SettingsPages::makeOptions()
     m_options = new OptionsPage(*printer.session, {ListedOptions::Which::All, printer.jobValues});
     m_optionsTab->layout()->addWidget(m_options);
     m_optionsTab->setFocusProxy(m_options);
+    // At once, so that a row can be gone to.
+    m_options->show();
+    m_optionsTab->layout()->activate();
     connect(m_options, &OptionsPage::proposed, &m_task, &PrintTask::propose);
     connect(m_options, &OptionsPage::resetWanted, this, &SettingsPages::reset);
     m_options->showChanges(changesNow());

@@ -7,8 +7,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "dialog/session/OptionNames.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/window/PageChoosing.h"
+#include "dialog/window/pages/ControlLock.h"
 #include "dialog/window/pages/GeneralPage.h"
 #include "dialog/window/pages/OptionsPage.h"
 #include "dialog/window/pages/PanelPage.h"
@@ -92,6 +94,7 @@ void SettingsPages::addGeneral()
     connect(m_general, &GeneralPage::resetWanted, this, &SettingsPages::reset);
     connect(m_general, &GeneralPage::heightChanged, this, &SettingsPages::heightChanged);
     m_general->setCanChoosePages(!m_task.documents().isEmpty());
+    showLocks();
     showAttributes();
 }
 
@@ -117,7 +120,7 @@ void SettingsPages::showPanelViews()
     const OpenedPrinter &printer = *m_task.opened();
     for (int i = 0; i < m_panelPages.size(); ++i) {
         if (QWidget *view = printer.panels->views().at(i))
-            m_panelPages.at(i)->setPanelView(view);
+            m_panelPages.at(i)->setPanelView(view); // showLocks() looks for what is locked in it
         else
             m_panelPages.at(i)->setProblem(
                 tr("This page cannot be shown: %1").arg(printer.panelProblem));
@@ -186,10 +189,28 @@ void SettingsPages::refresh()
     if (m_general->pageRanges() != settings.pageRanges())
         m_general->setPageRanges(settings.pageRanges());
     m_general->refresh();
+    showLocks();
     showAttributes();
     if (m_options)
         m_options->refresh();
     showSummary();
+}
+
+// Controls that belong to panels are found by what the panels say of them.
+void SettingsPages::showLocks()
+{
+    m_general->setLocks(m_task.lockedBy(kCopiesAttribute), m_task.lockedBy(kPageRangesAttribute));
+    if (!m_showsPanels || m_task.opened()->session->locks().isEmpty())
+        return;
+    for (int i = 0; i < m_panelPages.size(); ++i) {
+        const QList<PanelControl> controls = m_task.opened()->panels->controls(i);
+        for (const PanelControl &one : controls) {
+            const QString why = m_task.lockedBy(one.keyword);
+            ControlLock::set(one.control, why, one.label);
+            for (QWidget *companion : one.companions)
+                ControlLock::set(companion, why);
+        }
+    }
 }
 
 // Counted is only for somebody who looks at it.

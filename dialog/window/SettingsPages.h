@@ -87,6 +87,7 @@ private:
     void showPanelViews();
     void addGeneral();
     void showAttributes();
+    void showLocks();
     void enter(int page);
     ShownChanges changesNow() const;
     QList<MarkedControl> controlsOfPanels() const;

@@ -1,5 +1,7 @@
 #include "dialog/window/TaskPreview.h"
 
+#include <utility>
+
 #include "dialog/task/PrintTask.h"
 #include "dialog/window/preview/DocumentArea.h"
 #include "dialog/window/preview/DrawnPages.h"
@@ -75,12 +77,17 @@ void TaskPreview::showColors()
 void TaskPreview::showSheets()
 {
     SheetPreview preview = m_task.sheetPreview();
+    for (const auto &file : std::as_const(preview.files)) {
+        if (m_pictures && file && !file->begin().isEmpty())
+            m_pictures->replace(file->begin(), file->path());
+    }
     m_pane.showPreview(shown(preview));
     if (preview.state == SheetPreview::State::Counting)
         return; // what is shown is of before, and so are its files
     const SheetPreview before = std::exchange(m_preview, std::move(preview));
     showColors();
-    if (m_preview.state != SheetPreview::State::Known)
+    if (m_preview.state != SheetPreview::State::Known &&
+        m_preview.state != SheetPreview::State::Begun)
         return;
     if (!m_pictures) {
         m_pictures = std::make_unique<DrawnPages>();
@@ -126,6 +133,10 @@ ShownPreview TaskPreview::shown(const SheetPreview &preview) const
         break;
     case SheetPreview::State::Counting:
         shown.state = State::Updating;
+        break;
+    case SheetPreview::State::Begun:
+        shown.state = State::Begun;
+        shown.sheets.areAll = false;
         break;
     case SheetPreview::State::Known:
         shown.state = State::Known;

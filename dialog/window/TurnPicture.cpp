@@ -67,7 +67,7 @@ void drawArrow(QPainter &painter, QPointF from, QPointF to, const QColor &color)
     const QPointF along = (to - from) / line.length();
     const QPointF across(-along.y(), along.x());
     painter.setPen(QPen(color, 3, Qt::SolidLine, Qt::FlatCap));
-    painter.drawLine(from, to - along * 6);
+    painter.drawLine(from, to - along * 10); // up to the head, which would be darker else
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawPolygon(QPolygonF{to, to - along * 10 + across * 6, to - along * 10 - across * 6});

@@ -42,7 +42,7 @@ TurnSheetsDialog::TurnSheetsDialog(const TurnQuestion &question, std::function<b
 void TurnSheetsDialog::addTexts(const TurnQuestion &question)
 {
     auto *whole = qobject_cast<QVBoxLayout *>(layout());
-    QLabel *heading = wrapped(tr("Put the sheets back for their other sides"), this);
+    QLabel *heading = wrapped(tr("Put the sheets back to print their other sides"), this);
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);
@@ -85,6 +85,7 @@ void TurnSheetsDialog::addButtons()
     cancel->setObjectName(u"cancelOtherSides"_s);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &TurnSheetsDialog::reject);
+    layout()->addItem(new QSpacerItem(0, layout()->spacing() / 2));
     layout()->addWidget(buttons);
     print->setFocus();
 }

@@ -176,7 +176,7 @@ _corvana_print() {
     if [[ $current == -* ]]; then
         _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd \
             --document-password-file --ppd --demo --list-printers \
-            --preset --list-presets --save-preset --save-instance \
+            --preset --list-presets --save-preset --save-instance --check-policy --yes \
             -o --option -n --copies -P -q -H -t --title --output \
             --no-dialog --summary --on-alert --wait --no-wait --format -s -c -m --bundle-root \
             --check-display --help --version

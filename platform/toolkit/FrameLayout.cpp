@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QStyle>
 #include <QVariant>
 #include <QWidget>
 
@@ -181,9 +182,11 @@ void FrameLayout::setGeometry(const QRect &rect)
 {
     QLayout::setGeometry(rect);
     const std::vector<QRect> all = geometries(rect.size());
+    const Qt::LayoutDirection direction = parentWidget()->layoutDirection();
     for (size_t i = 0; i < all.size(); ++i) {
         if (isLaidOut(m_placed[i]))
-            m_placed[i].item->setGeometry(all[i].translated(rect.topLeft()));
+            m_placed[i].item->setGeometry(
+                QStyle::visualRect(direction, rect, all[i].translated(rect.topLeft())));
     }
 }
 

@@ -13,6 +13,8 @@ namespace corvana {
 /// nothing be clipped: a child that needs more height than its frame takes it and moves those below
 /// it down, whatever the language and the font. A child that is hidden takes no room.
 ///
+/// In a view that is mirrored the frames count from its right edge.
+///
 /// Units: points (see ViewFrame.h), here with the y axis downwards from the view's upper edge, to
 /// which all children keep their distance when the view takes another height.
 class CORVANA_PLATFORM_EXPORT FrameLayout : public QLayout

@@ -1293,6 +1293,10 @@
         <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
         <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
     </message>
+<message>
+        <source>Default of your administrator: %1</source>
+        <translation>管理者による初期値: %1</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1603,8 +1607,8 @@
         <translation>すべて。または 1-4, 7, 9-</translation>
     </message>
     <message>
-        <source>Choose Page&amp;s…</source>
-        <translation>ページを選択(&amp;S)…</translation>
+        <source>Choos&amp;e Pages…</source>
+        <translation>ページを選択(&amp;E)…</translation>
     </message>
     <message>
         <source>No document has been chosen.</source>
@@ -1711,6 +1715,10 @@ For the command line: %2</source>
     <message>
         <source>Default: %1</source>
         <translation>初期設定: %1</translation>
+    </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
     </message>
 </context>
 <context>
@@ -1928,6 +1936,60 @@ For the command line: %2</source>
     <message>
         <source>Use Defaults</source>
         <translation>既定値を使用</translation>
+    </message>
+<message>
+        <source>Printer Defaults</source>
+        <translation>プリンターの初期設定</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>「%1」を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>「%1」をやり直す</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>「%1」に戻す</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>元の値に戻せません:
+%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+<message>
+        <source>Not everything that your administrator has decided can be used. “corvana-print --check-policy” says what, and why.</source>
+        <translation>管理者の定めた内容の一部は使用できません。「corvana-print --check-policy」で内容と理由を確認できます。</translation>
+    </message>
+    <message>
+        <source>This job takes %1 sheets of paper.</source>
+        <translation>このジョブは用紙を %1 枚使用します。</translation>
+    </message>
+    <message>
+        <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
+        <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
     </message>
 </context>
 <context>
@@ -2193,12 +2255,36 @@ For the command line: %2</source>
         <source>Try Again</source>
         <translation>再試行</translation>
     </message>
+<message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>設定一覧</translation>
+    </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1、変更済み</translation>
+    </message>
+    <message>
+        <source>Only what is changed</source>
+        <translation>変更した項目のみ</translation>
+    </message>
+    <message>
+        <source>Nothing is changed.</source>
+        <translation>変更した項目はありません。</translation>
     </message>
 </context>
 <context>
@@ -2364,6 +2450,14 @@ For the command line: %2</source>
     <message>
         <source>%1 = %2</source>
         <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1, and 1 cover sheet</source>
+        <translation>%1、および表紙 1 枚</translation>
+    </message>
+    <message>
+        <source>%1, and %2 cover sheets</source>
+        <translation>%1、および表紙 %2 枚</translation>
     </message>
     <message>
         <source>%1 × %2 copies = %3</source>
@@ -2724,6 +2818,10 @@ For the command line: %2</source>
 <context>
     <name>corvana::SheetsRow</name>
     <message>
+        <source>Sheet %L1</source>
+        <translation>%L1 枚目</translation>
+    </message>
+    <message>
         <source>Sheet %L1 of %L2</source>
         <translation>%L1 / %L2 枚</translation>
     </message>
@@ -2917,14 +3015,6 @@ For the command line: %2</source>
         <source>Type the name of a setting or of a choice.</source>
         <translation>設定または選択肢の名前を入力してください。</translation>
     </message>
-    <message>
-        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
-        <translation>「%1」という設定はありません。短い言葉か、別の言葉で検索してください。</translation>
-    </message>
-    <message>
-        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
-        <translation>「%1」という設定はありません。Enter を押すと「%2」を検索します。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::FindModel</name>
@@ -2954,6 +3044,18 @@ For the command line: %2</source>
 </context>
 <context>
     <name>corvana::SettingFinder</name>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>「%1」という設定はありません。短い言葉か、別の言葉で検索してください。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>「%1」という設定はありません。Enter を押すと「%2」を検索します。</translation>
+    </message>
+    <message>
+        <source>The settings of the printer are not known yet.</source>
+        <translation>プリンターの設定はまだ取得できていません。</translation>
+    </message>
     <message>
         <source>now %1</source>
         <translation>現在 %1</translation>
@@ -3055,6 +3157,14 @@ For the command line: %2</source>
     <message>
         <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
         <translation>ページ番号はどの文書にも共通です。1 つの文書で選択した番号は、すべての文書で選択されます。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -3192,7 +3302,7 @@ For the command line: %2</source>
         <translation>手動両面印刷</translation>
     </message>
     <message>
-        <source>Put the sheets back for their other sides</source>
+        <source>Put the sheets back to print their other sides</source>
         <translation>もう一方の面を印刷するために用紙を戻してください</translation>
     </message>
     <message>
@@ -3434,6 +3544,26 @@ For the command line: %2</source>
         <source>Preset: %1</source>
         <translation>プリセット: %1</translation>
     </message>
+<message>
+        <source>%1 (Ctrl+Z)</source>
+        <translation>%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>%1 (Shift+Ctrl+Z)</source>
+        <translation>%1 (Shift+Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>This Page: %1</source>
+        <translation>このページ: %1</translation>
+    </message>
+    <message>
+        <source>Everything: %1</source>
+        <translation>すべて: %1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SavePresetDialog</name>
@@ -3650,6 +3780,181 @@ For the command line: %2</source>
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>「%1」の値に改行または制御文字があります。他のプログラムのオプションには使えません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ChangeMarks</name>
+    <message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPolicy</name>
+    <message>
+        <source>Policy in %1 for the user %2</source>
+        <translation>ユーザー %2 に対する %1 のポリシー</translation>
+    </message>
+    <message>
+        <source>groups: %1</source>
+        <translation>グループ: %1</translation>
+    </message>
+    <message>
+        <source>Not used:</source>
+        <translation>使用されないもの:</translation>
+    </message>
+    <message>
+        <source>Nothing is decided.</source>
+        <translation>何も定められていません。</translation>
+    </message>
+    <message>
+        <source>At the printer %1:</source>
+        <translation>プリンター %1:</translation>
+    </message>
+    <message>
+        <source>Void, because the printer does not take it:</source>
+        <translation>プリンターが対応していないため無効:</translation>
+    </message>
+    <message>
+        <source>For others, who are in these groups:</source>
+        <translation>次のグループのほかのユーザー向け:</translation>
+    </message>
+    <message>
+        <source>Only root may ask what applies to somebody else.</source>
+        <translation>ほかのユーザーに適用される内容を確認できるのは root だけです。</translation>
+    </message>
+    <message>
+        <source>There is no user of the name “%1”.</source>
+        <translation>「%1」という名前のユーザーはいません。</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLocks</name>
+    <message>
+        <source>“%1” is set by your administrator (%2).</source>
+        <translation>「%1」は管理者が設定しています (%2)。</translation>
+    </message>
+    <message>
+        <source>Set by your administrator (%1).</source>
+        <translation>管理者が設定しています (%1)。</translation>
+    </message>
+</context>
+<context>
+    <name>Policy</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は使用できません。使用できるもの: %2。</translation>
+    </message>
+    <message>
+        <source>the path of a folder that begins with /</source>
+        <translation>/ で始まるフォルダーのパス</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>%1 から %2 までの数</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 bytes</source>
+        <translation>行が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the line is not written in UTF-8</source>
+        <translation>行が UTF-8 で書かれていません</translation>
+    </message>
+    <message>
+        <source>the line has a character that cannot be seen</source>
+        <translation>行に表示されない文字があります</translation>
+    </message>
+    <message>
+        <source>there are more problems</source>
+        <translation>ほかにも問題があります</translation>
+    </message>
+    <message>
+        <source>there are more than %1 sections</source>
+        <translation>セクションが %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>“%1” is no section, and what follows in it is left out. Allowed: %2.</source>
+        <translation>「%1」はセクションではなく、その内容は無視されます。使用できるもの: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” is no line of a policy. Expected: %2.</source>
+        <translation>「%1」はポリシーの行ではありません。使用できる形式: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” stands before the first section. Begin with [all].</source>
+        <translation>「%1」が最初のセクションより前にあります。[all] から始めてください。</translation>
+    </message>
+    <message>
+        <source>there is no key “%1”. Keys: %2.</source>
+        <translation>キー「%1」はありません。キー: %2。</translation>
+    </message>
+    <message>
+        <source>%1 needs the keyword of an option or of a job attribute.</source>
+        <translation>%1 にはオプションまたはジョブ属性のキーワードが必要です。</translation>
+    </message>
+    <message>
+        <source>the value is too long</source>
+        <translation>値が長すぎます</translation>
+    </message>
+    <message>
+        <source>the file is not used: it has more than %1 bytes</source>
+        <translation>ファイルは使用されません: %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is no text</source>
+        <translation>ファイルは使用されません: テキストではありません</translation>
+    </message>
+    <message>
+        <source>the file is not used: it has more than %1 lines</source>
+        <translation>ファイルは使用されません: %1 行を超えています</translation>
+    </message>
+    <message>
+        <source>it belongs to the user with the number %1</source>
+        <translation>番号 %1 のユーザーが所有しています</translation>
+    </message>
+    <message>
+        <source>others than its owner may write it</source>
+        <translation>所有者以外が書き込めます</translation>
+    </message>
+    <message>
+        <source>nothing below this folder is used: %1</source>
+        <translation>このフォルダーの中のものは使用されません: %1</translation>
+    </message>
+    <message>
+        <source>nothing in this folder is used: %1</source>
+        <translation>このフォルダーのファイルは使用されません: %1</translation>
+    </message>
+    <message>
+        <source>only the first %1 files are used</source>
+        <translation>最初の %1 個のファイルだけが使用されます</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is a link that leads out of its folder</source>
+        <translation>ファイルは使用されません: フォルダーの外へのリンクです</translation>
+    </message>
+    <message>
+        <source>the file is not used: %1</source>
+        <translation>ファイルは使用されません: %1</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is no ordinary file</source>
+        <translation>ファイルは使用されません: 通常のファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>PrintRequest</name>
+    <message>
+        <source>The printer “%1” is not offered by your administrator (%2).</source>
+        <translation>プリンター「%1」は管理者により提供されていません (%2)。</translation>
+    </message>
+    <message>
+        <source>Printing to a file is not offered by your administrator (%1).</source>
+        <translation>ファイルへの印刷は管理者により提供されていません (%1)。</translation>
     </message>
 </context>
 </TS>

@@ -1293,6 +1293,10 @@
         <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
         <translation>队列“%1”会给每个作业添加以下设置，其作用在此未知：%2。</translation>
     </message>
+<message>
+        <source>Default of your administrator: %1</source>
+        <translation>管理员设置的默认值：%1</translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>
@@ -1603,8 +1607,8 @@
         <translation>全部，或 1-4, 7, 9-</translation>
     </message>
     <message>
-        <source>Choose Page&amp;s…</source>
-        <translation>选择页面(&amp;S)…</translation>
+        <source>Choos&amp;e Pages…</source>
+        <translation>选择页面(&amp;E)…</translation>
     </message>
     <message>
         <source>No document has been chosen.</source>
@@ -1711,6 +1715,10 @@ For the command line: %2</source>
     <message>
         <source>Default: %1</source>
         <translation>默认值：%1</translation>
+    </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
     </message>
 </context>
 <context>
@@ -1928,6 +1936,60 @@ For the command line: %2</source>
     <message>
         <source>Use Defaults</source>
         <translation>使用默认值</translation>
+    </message>
+<message>
+        <source>Printer Defaults</source>
+        <translation>打印机默认设置</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销“%1”</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做“%1”</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>恢复为“%1”</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>无法恢复：
+%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+<message>
+        <source>Not everything that your administrator has decided can be used. “corvana-print --check-policy” says what, and why.</source>
+        <translation>管理员的部分规定无法使用。“corvana-print --check-policy”会说明是哪些以及原因。</translation>
+    </message>
+    <message>
+        <source>This job takes %1 sheets of paper.</source>
+        <translation>此作业需要 %1 张纸。</translation>
+    </message>
+    <message>
+        <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
+        <translation>此作业需要 %1 张纸。超过 %2 张时需使用 --yes 才会打印。</translation>
     </message>
 </context>
 <context>
@@ -2193,12 +2255,36 @@ For the command line: %2</source>
         <source>Try Again</source>
         <translation>重试</translation>
     </message>
+<message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SummaryPage</name>
     <message>
         <source>Summary</source>
         <translation>设置摘要</translation>
+    </message>
+<message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1，已更改</translation>
+    </message>
+    <message>
+        <source>Only what is changed</source>
+        <translation>仅显示已更改的项</translation>
+    </message>
+    <message>
+        <source>Nothing is changed.</source>
+        <translation>没有更改任何项。</translation>
     </message>
 </context>
 <context>
@@ -2364,6 +2450,14 @@ For the command line: %2</source>
     <message>
         <source>%1 = %2</source>
         <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1, and 1 cover sheet</source>
+        <translation>%1，另有 1 张封面</translation>
+    </message>
+    <message>
+        <source>%1, and %2 cover sheets</source>
+        <translation>%1，另有 %2 张封面</translation>
     </message>
     <message>
         <source>%1 × %2 copies = %3</source>
@@ -2724,6 +2818,10 @@ For the command line: %2</source>
 <context>
     <name>corvana::SheetsRow</name>
     <message>
+        <source>Sheet %L1</source>
+        <translation>第 %L1 张</translation>
+    </message>
+    <message>
         <source>Sheet %L1 of %L2</source>
         <translation>第 %L1 张，共 %L2 张</translation>
     </message>
@@ -2917,14 +3015,6 @@ For the command line: %2</source>
         <source>Type the name of a setting or of a choice.</source>
         <translation>请键入设置或选项的名称。</translation>
     </message>
-    <message>
-        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
-        <translation>没有名为“%1”的设置。请尝试更短的词或其他说法。</translation>
-    </message>
-    <message>
-        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
-        <translation>没有名为“%1”的设置。按 Enter 改为查找“%2”。</translation>
-    </message>
 </context>
 <context>
     <name>corvana::FindModel</name>
@@ -2954,6 +3044,18 @@ For the command line: %2</source>
 </context>
 <context>
     <name>corvana::SettingFinder</name>
+    <message>
+        <source>No setting is called “%1”. Try a shorter word, or another one for it.</source>
+        <translation>没有名为“%1”的设置。请尝试更短的词或其他说法。</translation>
+    </message>
+    <message>
+        <source>No setting is called “%1”. Press Enter to search for “%2” instead.</source>
+        <translation>没有名为“%1”的设置。按 Enter 改为查找“%2”。</translation>
+    </message>
+    <message>
+        <source>The settings of the printer are not known yet.</source>
+        <translation>尚未获取打印机的设置。</translation>
+    </message>
     <message>
         <source>now %1</source>
         <translation>当前为%1</translation>
@@ -3055,6 +3157,14 @@ For the command line: %2</source>
     <message>
         <source>Page numbers count in each document: what is ticked in one is ticked in all.</source>
         <translation>页码对每个文档都有效：在一个文档中勾选，就在所有文档中勾选。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -3192,7 +3302,7 @@ For the command line: %2</source>
         <translation>手动双面打印</translation>
     </message>
     <message>
-        <source>Put the sheets back for their other sides</source>
+        <source>Put the sheets back to print their other sides</source>
         <translation>请放回纸张以打印另一面</translation>
     </message>
     <message>
@@ -3434,6 +3544,26 @@ For the command line: %2</source>
         <source>Preset: %1</source>
         <translation>预设：%1</translation>
     </message>
+<message>
+        <source>%1 (Ctrl+Z)</source>
+        <translation>%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>%1 (Shift+Ctrl+Z)</source>
+        <translation>%1 (Shift+Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>This Page: %1</source>
+        <translation>本页：%1</translation>
+    </message>
+    <message>
+        <source>Everything: %1</source>
+        <translation>全部：%1</translation>
+    </message>
 </context>
 <context>
     <name>corvana::SavePresetDialog</name>
@@ -3650,6 +3780,181 @@ For the command line: %2</source>
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>“%1”的值含有换行或控制字符，其他程序的选项不能包含这些字符。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::ChangeMarks</name>
+    <message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPolicy</name>
+    <message>
+        <source>Policy in %1 for the user %2</source>
+        <translation>%1 中适用于用户 %2 的策略</translation>
+    </message>
+    <message>
+        <source>groups: %1</source>
+        <translation>组：%1</translation>
+    </message>
+    <message>
+        <source>Not used:</source>
+        <translation>未使用：</translation>
+    </message>
+    <message>
+        <source>Nothing is decided.</source>
+        <translation>没有任何规定。</translation>
+    </message>
+    <message>
+        <source>At the printer %1:</source>
+        <translation>打印机 %1：</translation>
+    </message>
+    <message>
+        <source>Void, because the printer does not take it:</source>
+        <translation>因打印机不支持而无效：</translation>
+    </message>
+    <message>
+        <source>For others, who are in these groups:</source>
+        <translation>适用于属于以下组的其他用户：</translation>
+    </message>
+    <message>
+        <source>Only root may ask what applies to somebody else.</source>
+        <translation>只有 root 可以查询适用于其他用户的规定。</translation>
+    </message>
+    <message>
+        <source>There is no user of the name “%1”.</source>
+        <translation>没有名为“%1”的用户。</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLocks</name>
+    <message>
+        <source>“%1” is set by your administrator (%2).</source>
+        <translation>“%1”由管理员设置（%2）。</translation>
+    </message>
+    <message>
+        <source>Set by your administrator (%1).</source>
+        <translation>由管理员设置（%1）。</translation>
+    </message>
+</context>
+<context>
+    <name>Policy</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许“%1”。允许：%2。</translation>
+    </message>
+    <message>
+        <source>the path of a folder that begins with /</source>
+        <translation>以 / 开头的文件夹路径</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>%1 到 %2 之间的数字</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 bytes</source>
+        <translation>该行超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>the line is not written in UTF-8</source>
+        <translation>该行不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>the line has a character that cannot be seen</source>
+        <translation>该行含有不可见的字符</translation>
+    </message>
+    <message>
+        <source>there are more problems</source>
+        <translation>还有更多问题</translation>
+    </message>
+    <message>
+        <source>there are more than %1 sections</source>
+        <translation>节的数量超过 %1 个</translation>
+    </message>
+    <message>
+        <source>“%1” is no section, and what follows in it is left out. Allowed: %2.</source>
+        <translation>“%1”不是节，其中的内容将被忽略。允许：%2。</translation>
+    </message>
+    <message>
+        <source>“%1” is no line of a policy. Expected: %2.</source>
+        <translation>“%1”不是策略的行。应为：%2。</translation>
+    </message>
+    <message>
+        <source>“%1” stands before the first section. Begin with [all].</source>
+        <translation>“%1”位于第一个节之前。请以 [all] 开头。</translation>
+    </message>
+    <message>
+        <source>there is no key “%1”. Keys: %2.</source>
+        <translation>没有键“%1”。可用的键：%2。</translation>
+    </message>
+    <message>
+        <source>%1 needs the keyword of an option or of a job attribute.</source>
+        <translation>%1 需要选项或作业属性的关键字。</translation>
+    </message>
+    <message>
+        <source>the value is too long</source>
+        <translation>值太长</translation>
+    </message>
+    <message>
+        <source>the file is not used: it has more than %1 bytes</source>
+        <translation>未使用该文件：超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is no text</source>
+        <translation>未使用该文件：不是文本</translation>
+    </message>
+    <message>
+        <source>the file is not used: it has more than %1 lines</source>
+        <translation>未使用该文件：超过 %1 行</translation>
+    </message>
+    <message>
+        <source>it belongs to the user with the number %1</source>
+        <translation>它属于编号为 %1 的用户</translation>
+    </message>
+    <message>
+        <source>others than its owner may write it</source>
+        <translation>所有者以外的用户可以写入</translation>
+    </message>
+    <message>
+        <source>nothing below this folder is used: %1</source>
+        <translation>未使用此文件夹下的任何内容：%1</translation>
+    </message>
+    <message>
+        <source>nothing in this folder is used: %1</source>
+        <translation>未使用此文件夹中的任何文件：%1</translation>
+    </message>
+    <message>
+        <source>only the first %1 files are used</source>
+        <translation>仅使用前 %1 个文件</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is a link that leads out of its folder</source>
+        <translation>未使用该文件：它是指向文件夹之外的链接</translation>
+    </message>
+    <message>
+        <source>the file is not used: %1</source>
+        <translation>未使用该文件：%1</translation>
+    </message>
+    <message>
+        <source>the file is not used: it is no ordinary file</source>
+        <translation>未使用该文件：不是普通文件</translation>
+    </message>
+</context>
+<context>
+    <name>PrintRequest</name>
+    <message>
+        <source>The printer “%1” is not offered by your administrator (%2).</source>
+        <translation>管理员未提供打印机“%1”（%2）。</translation>
+    </message>
+    <message>
+        <source>Printing to a file is not offered by your administrator (%1).</source>
+        <translation>管理员未提供打印到文件的功能（%1）。</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -92,7 +93,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shape");
         for (const bool dark : {false, true}) {
             for (const char *shape : {"two-sided", "several-documents", "no-document", "folded",
-                                      "mirrored", "narrow", "message"})
+                                      "mirrored", "narrow", "message", "found"})
                 QTest::addRow("shape_%s_%s", shape, dark ? "dark" : "light")
                     << dark << QString::fromLatin1(shape);
         }
@@ -125,6 +126,8 @@ private Q_SLOTS:
             window.child<MessageBar>(u"message"_s)
                 ->showMessage(MessageBar::Kind::Problem, u"Some words. "_s.repeated(60),
                               u"Change it"_s, [] {});
+        if (shape == "found"_L1)
+            window.child<QLineEdit>(u"findField"_s)->setText(u"o"_s); // finds more than it shows
         auto *sheets = window.child<SheetView>(u"sheets"_s);
         if (shape != "no-document"_L1)
             QTRY_VERIFY_WITH_TIMEOUT(!sheets->sheets().plan.sheets.isEmpty(), kWindowPatience);

@@ -8,7 +8,7 @@
 
 #include "dialog/server/CredentialStore.h"
 #include "tests/e2e/DialogDriver.h"
-#include "tests/e2e/Heartbeat.h"
+#include "tests/support/Heartbeat.h"
 
 namespace corvana::test {
 

@@ -105,12 +105,16 @@ bool ElidedLabel::event(QEvent *event)
     return true;
 }
 
+// A text has the direction of its own words, also in a window that is mirrored: the parts of a
+// path, and of "3 pages = 3 sheets", would change their places.
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    style()->drawItemText(&painter, contentsRect(),
-                          int(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
-                          isEnabled(), shownText(), foregroundRole());
+    const QString text = shownText();
+    painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(), alignment());
+    style()->drawItemText(&painter, contentsRect(), int(place | Qt::AlignAbsolute), palette(),
+                          isEnabled(), text, foregroundRole());
 }
 
 } // namespace corvana

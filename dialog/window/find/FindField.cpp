@@ -21,6 +21,9 @@ namespace {
 // Units: heights of the font.
 constexpr int kUsualWidth = 16;
 constexpr int kLeastWidth = 10;
+constexpr int kMostWidth = 20;
+
+constexpr int kMostLetters = 100; // more than anybody types to find something
 
 // Tells of each press of a mouse button in the program, before anybody has it.
 class PressWatch : public QObject
@@ -54,17 +57,18 @@ FindField::FindField(QWidget *parent)
     m_edit->setPlaceholderText(tr("Find a setting (Ctrl+F)"));
     m_edit->setAccessibleName(tr("Find a setting"));
     m_edit->setAccessibleDescription(tr("Type a name, then go to a setting with Enter"));
+    m_edit->setMaxLength(kMostLetters);
     m_edit->installEventFilter(this);
     m_button->setObjectName(u"findButton"_s);
     m_button->setToolTip(m_edit->placeholderText());
     m_button->setAccessibleName(m_edit->accessibleName());
-    m_button->setAutoRaise(true);
     m_button->hide();
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_edit, 1);
-    layout->addWidget(m_button);
+    layout->addWidget(m_button, 0, Qt::AlignLeft); // beside the button before it
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setMaximumWidth(kMostWidth * fontMetrics().height());
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *before, QWidget *now) {
         if (now == m_edit && before && !isAncestorOf(before))
             m_before = before;
@@ -123,16 +127,17 @@ void FindField::setResults(const QList<FindResult> &results)
     openPopup();
 }
 
-void FindField::setNothingFound(const QString &suggestion)
+void FindField::setNothingFound(const QString &text, const QString &suggestion)
 {
     m_suggestion = suggestion;
-    popup()->setNothing(
-        suggestion.isEmpty()
-            ? tr("No setting is called “%1”. Try a shorter word, or another one for it.")
-                  .arg(m_edit->text())
-            : tr("No setting is called “%1”. Press Enter to search for “%2” instead.")
-                  .arg(m_edit->text(), suggestion));
+    popup()->setNothing(text);
     openPopup();
+}
+
+void FindField::refresh()
+{
+    if (m_popup && m_popup->isVisible())
+        search();
 }
 
 void FindField::finish()

@@ -30,9 +30,12 @@ public:
     void activate();
     /// What was found for the text in the field.
     void setResults(const QList<FindResult> &results);
-    /// Nothing was. `suggestion`: a text for which something is found; may be empty.
-    void setNothingFound(const QString &suggestion);
-    /// The user has gone to what was found, or there is nothing any more to be found in.
+    /// Nothing was, and why. `suggestion`: a text for which something is found, which Enter takes;
+    /// may be empty.
+    void setNothingFound(const QString &text, const QString &suggestion = {});
+    /// Searches anew where results are shown: other ones may be there.
+    void refresh();
+    /// The user has gone to what was found.
     void finish();
     /// Only a window that is on the screen looks through the folders of themes.
     void takeIconFromTheme();

@@ -48,6 +48,7 @@ void FoundMark::show(QWidget *control)
     if (!holder)
         return;
     auto *mark = new FoundMark(holder, control);
+    connect(control, &QObject::destroyed, mark, &QObject::deleteLater);
     for (QWidget *moved = control; moved != holder; moved = moved->parentWidget())
         moved->installEventFilter(mark);
     mark->follow();
@@ -93,7 +94,7 @@ bool FoundMark::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
         follow();
-    else if (event->type() == QEvent::Hide)
+    else if (watched == m_control && event->type() == QEvent::Hide)
         deleteLater();
     return QWidget::eventFilter(watched, event);
 }

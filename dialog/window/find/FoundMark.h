@@ -12,6 +12,8 @@ namespace corvana {
 class FoundMark : public QWidget
 {
     Q_OBJECT
+    /// Range: 1, and less while it fades.
+    Q_PROPERTY(double opacity MEMBER m_opacity)
 
 public:
     /// Marks a control; the mark that was there before goes.

@@ -8,6 +8,7 @@
 
 #include "dialog/session/JobAttributes.h"
 #include "dialog/window/pages/AttributeEditor.h"
+#include "dialog/window/pages/ControlLock.h"
 #include "dialog/window/pages/RowMnemonics.h"
 #include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/Mnemonics.h"
@@ -71,6 +72,10 @@ void AttributeRows::show(const QList<OfferedAttribute> &offered)
         }
         if (AttributeEditor *row = editor(one.name)) {
             row->showValue(one.value);
+            QWidget *label = m_form->labelForField(row);
+            ControlLock::set(row->control(), one.lockedBy, label);
+            if (row->lastControl() != row->control())
+                ControlLock::set(row->lastControl(), one.lockedBy, label);
             row->setEnabled(one.hasEffect);
             m_form->labelForField(row)->setEnabled(one.hasEffect);
         }

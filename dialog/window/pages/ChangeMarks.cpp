@@ -16,6 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Between a dot and its title. Units: pixels.
+constexpr int kGap = 3;
+
 // These have a menu of their own.
 bool isField(const QWidget *widget)
 {
@@ -57,11 +60,13 @@ public:
         const QRect whole = m_title.geometry();
         const auto [left, right] = textOf(m_title);
         const bool isMirrored = m_title.layoutDirection() == Qt::RightToLeft;
-        const int before = isMirrored ? right + 1 : left - side - 1;
-        const int behind = isMirrored ? left - side - 1 : right + 1;
+        const int before = isMirrored ? right + kGap : left - side - kGap;
+        const int behind = isMirrored ? left - side - kGap : right + kGap;
         const int most = qMax(0, parentWidget()->width() - side);
-        const bool fits = before >= 0 && before <= most;
-        setGeometry(fits ? before : qBound(0, behind, most), whole.center().y() - side / 2, side,
+        // A title that begins at the very edge of its page has room enough in front of its letters.
+        const int overlap = kGap + side / 4;
+        const bool fits = before >= -overlap && before <= most + overlap;
+        setGeometry(qBound(0, fits ? before : behind, most), whole.center().y() - side / 2, side,
                     side);
         setVisible(m_title.isVisibleTo(m_title.parentWidget()));
         raise();

@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include "dialog/session/PaperSize.h"
+#include "dialog/window/pages/ControlLock.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -124,6 +125,12 @@ void CustomPaperSize::takeSize(const QDoubleSpinBox *field)
     else
         m_points.setHeight(points);
     Q_EMIT entered();
+}
+
+void CustomPaperSize::setLocked(const QString &why)
+{
+    ControlLock::set(m_width, why);
+    ControlLock::set(m_height, why);
 }
 
 } // namespace corvana

@@ -24,6 +24,8 @@ public:
 
     /// Shows a size; one that the printer cannot take is moved to its limits. Units: points.
     void setSize(const QSizeF &points);
+    /// Says who keeps the paper at its size; empty: nobody does.
+    void setLocked(const QString &why);
     /// The size shown. Units: points.
     QSizeF size() const { return m_points; }
 

@@ -18,6 +18,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/window/pages/AttributeRows.h"
 #include "dialog/window/pages/ClearButton.h"
+#include "dialog/window/pages/ControlLock.h"
 #include "dialog/window/pages/CustomPaperSize.h"
 #include "dialog/window/pages/RowMnemonics.h"
 #include "platform/toolkit/ControlActions.h"
@@ -115,7 +116,7 @@ void GeneralPage::addPageRanges(QFormLayout *form)
     m_pageRanges->setMaxLength(kMostLetters);
     addClearButton(m_pageRanges);
     m_choosePages->setObjectName(u"choosePages"_s);
-    m_choosePages->setText(tr("Choose Page&s…"));
+    m_choosePages->setText(tr("Choos&e Pages…"));
     m_choosePages->setAutoDefault(false);
     connect(m_choosePages, &QPushButton::clicked, this, &GeneralPage::choosePagesPressed);
     form->addRow(tr("Pa&ges:"), field);
@@ -165,6 +166,9 @@ QString GeneralPage::pageRanges() const
 void GeneralPage::setPageRanges(const QString &ranges)
 {
     m_pageRanges->setText(ranges);
+    // Many ranges are known by their beginning.
+    if (!m_pageRanges->hasFocus())
+        m_pageRanges->setCursorPosition(0);
 }
 
 void GeneralPage::offerPageRanges(bool offer)
@@ -176,6 +180,12 @@ void GeneralPage::setCanChoosePages(bool can)
 {
     m_choosePages->setEnabled(can);
     m_choosePages->setToolTip(can ? QString() : plainToolTip(tr("No document has been chosen.")));
+}
+
+void GeneralPage::setLocks(const QString &copiesBy, const QString &pagesBy)
+{
+    ControlLock::set(m_copies, copiesBy);
+    ControlLock::set(m_pageRanges, pagesBy, m_rows->labelForField(m_pageRanges));
 }
 
 void GeneralPage::focusPageRanges()
@@ -253,6 +263,7 @@ void GeneralPage::showCollate(const OfferedAttribute &collate)
     m_collate->setChecked((collate.value.isNull() ? QString(attribute.usual) : collate.value) ==
                           kOn);
     m_collate->setEnabled(collate.hasEffect);
+    ControlLock::set(m_collate, collate.lockedBy);
 }
 
 void GeneralPage::showAttributeProblem(const QString &name, const QString &problem)
@@ -349,6 +360,11 @@ void GeneralPage::refreshOption(const QString &keyword, QComboBox *popUp)
 {
     const QString choice = m_session.markedChoice(keyword);
     popup::selectItemAt(popUp, popup::indexOfItemWithRepresentedObject(popUp, choice));
+    const QString by = m_session.lockedBy(keyword);
+    const QString why = by.isNull() ? QString() : lockedText(by);
+    ControlLock::set(popUp, why, m_rows->labelForField(popUp));
+    if (keyword == kPageSizeOption && m_customPaper)
+        m_customPaper->setLocked(why);
     if (keyword == kPageSizeOption && m_customPaper)
         showCustomPaper();
 }

@@ -51,6 +51,8 @@ public:
     void offerPageRanges(bool offer);
     /// Whether there are any that can be looked at to be chosen.
     void setCanChoosePages(bool can);
+    /// Says who keeps the number of copies, and the pages, at what they are; empty: nobody does.
+    void setLocks(const QString &copiesBy, const QString &pagesBy);
     /// Puts the focus where the pages are typed.
     void focusPageRanges();
     /// The control of an option, an attribute, the copies ("copies") or the pages, disclosed; null

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QFont>
 #include <QSet>
 
@@ -10,6 +11,7 @@
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/SearchForm.h"
 #include "dialog/session/Summary.h"
+#include "dialog/window/pages/ControlLock.h"
 #include "platform/toolkit/PlainText.h"
 
 namespace corvana {
@@ -19,6 +21,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr quintptr kGroupId = 0; // options have the row of their group, from 1
+
+// In the colours of the moment, which may be those of a dark desktop.
+QVariant lockIcon()
+{
+    constexpr int kSize = 16;
+    const qreal ratio = qApp->devicePixelRatio();
+    return lockPicture(qRound(kSize * ratio), QGuiApplication::palette().color(QPalette::Text),
+                       ratio);
+}
 
 } // namespace
 
@@ -178,7 +189,8 @@ Qt::ItemFlags OptionsModel::flags(const QModelIndex &index) const
     if (!optionAt(index))
         return Qt::NoItemFlags; // a heading: the keys pass it by
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return index.column() == Choice ? flags | Qt::ItemIsEditable : flags;
+    const bool isLocked = m_session.locks().contains(optionAt(index)->keyword);
+    return index.column() == Choice && !isLocked ? flags | Qt::ItemIsEditable : flags;
 }
 
 QVariant OptionsModel::data(const QModelIndex &index, int role) const
@@ -202,10 +214,12 @@ QVariant OptionsModel::data(const QModelIndex &index, int role) const
         return font.bold() ? font : QVariant();
     }
     case Qt::ToolTipRole:
-        return plainToolTip(title ? titleToolTip(*option) : formerText(*option));
+        return plainToolTip(title ? titleToolTip(*option) : remark(*option));
+    case Qt::DecorationRole:
+        return !title && m_session.locks().contains(option->keyword) ? lockIcon() : QVariant();
     case Qt::AccessibleDescriptionRole:
         // A heading is not read to who goes through the rows.
-        return title ? m_groups.at(index.parent().row()).title : formerText(*option);
+        return title ? m_groups.at(index.parent().row()).title : remark(*option);
     case KeywordRole:
         return option->keyword;
     case SearchRole:
@@ -258,6 +272,13 @@ QString OptionsModel::formerText(const Option &option) const
     return byDefault && m_values.differsFromDefault(option.keyword)
                ? tr("Default: %1").arg(choiceText(*byDefault))
                : QString();
+}
+
+// Who has chosen, where that is somebody else; else what the printer has by default.
+QString OptionsModel::remark(const Option &option) const
+{
+    const QString by = m_session.lockedBy(option.keyword);
+    return by.isNull() ? formerText(option) : lockedText(by);
 }
 
 OptionsFilter::OptionsFilter(QObject *parent) : QSortFilterProxyModel(parent)

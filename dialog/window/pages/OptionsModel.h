@@ -87,6 +87,7 @@ private:
     QString searchText(const Group &group, const Option &option) const;
     QString titleToolTip(const Option &option) const;
     QString formerText(const Option &option) const;
+    QString remark(const Option &option) const;
 
     PpdSession &m_session;
     OptionValues m_values;

@@ -17,6 +17,14 @@ void DrawnPages::prepare()
     m_pages->prepare();
 }
 
+void DrawnPages::replace(const QString &file, const QString &longer)
+{
+    if (m_files.removeAll(file) > 0) {
+        m_pages->replace(file, longer);
+        m_files += longer;
+    }
+}
+
 void DrawnPages::keepOnly(const QStringList &files)
 {
     for (const QString &file : std::as_const(m_files)) {

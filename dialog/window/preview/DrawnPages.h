@@ -19,6 +19,8 @@ public:
 
     /// Gets ready to draw, so that the first side does not wait for that.
     void prepare();
+    /// Another file begins with the pages of one that is shown, and takes its place.
+    void replace(const QString &file, const QString &longer);
     /// Forgets files of an older layout.
     void keepOnly(const QStringList &files);
 

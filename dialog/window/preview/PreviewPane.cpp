@@ -57,11 +57,12 @@ void PreviewPane::showPreview(const ShownPreview &preview)
     if (isUpdating && hasSheets) {
         m_view->setUpdating(true);
     } else {
-        const bool shows = preview.state == State::Known && hasSheets;
+        const bool shows =
+            hasSheets && (preview.state == State::Known || preview.state == State::Begun);
         m_view->setSheets(shows ? preview.sheets : ShownSheets());
         m_stack->setCurrentWidget(shows ? static_cast<QWidget *>(m_view) : m_placeholder);
     }
-    if (isUpdating)
+    if (isUpdating || preview.state == State::Begun)
         m_countsRow->setCounts(
             preview.counts.isEmpty() ? tr("Counting the sheets…") : preview.counts, true);
     else

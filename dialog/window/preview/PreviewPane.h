@@ -21,6 +21,7 @@ struct ShownPreview
     enum class State {
         NoDocument, ///< there is nothing to print yet
         None,       ///< no sheets; `reason` says why
+        Begun,      ///< the sheets are the first ones; how many there will be is not known yet
         Updating,   ///< the sheets are those of older settings, if there are any
         Known,
     };

@@ -46,9 +46,13 @@ SheetsRow::SheetsRow(SheetView &view, QWidget *parent)
 void SheetsRow::refresh()
 {
     const int sheet = m_view.lookedAt();
-    m_lookedAt->setLine(
-        sheet < 0 ? QString()
-                  : tr("Sheet %L1 of %L2").arg(sheet + 1).arg(m_view.sheetLayout().sheets()));
+    if (sheet < 0)
+        m_lookedAt->setLine({});
+    else if (!m_view.sheets().areAll)
+        m_lookedAt->setLine(tr("Sheet %L1").arg(sheet + 1));
+    else
+        m_lookedAt->setLine(
+            tr("Sheet %L1 of %L2").arg(sheet + 1).arg(m_view.sheetLayout().sheets()));
 }
 
 ColorsRow::ColorsRow(QWidget *parent)

@@ -141,7 +141,10 @@ void SheetView::describeCurrent()
     const QString side = sideDescription(m_sheets.plan, m_sheets.titles, m_current);
     const QString mark = markOf(m_current);
     const QString text = mark.isEmpty() ? side : tr("%1. Note: %2").arg(side, mark);
-    setAccessibleName(side.isEmpty() ? tr("Preview") : tr("Preview. %1").arg(text));
+    const QString name = side.isEmpty() ? tr("Preview") : tr("Preview. %1").arg(text);
+    // The same name again would be read again.
+    if (name != accessibleName())
+        setAccessibleName(name);
 }
 
 void SheetView::showCurrent()

@@ -16,7 +16,7 @@ namespace {
 // What all pictures that can be seen at a time may have together: sheets that are enlarged
 // four times on a screen of many pixels would need more memory than a dialog may take.
 // Units: pixels
-constexpr double kMostPixels = 13e6;
+constexpr double kMostPixels = 8e6;
 
 SidePictures::Wish wishFor(const ShownSheets &sheets, const PlannedSide &side, QSize size)
 {

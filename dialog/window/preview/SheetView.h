@@ -20,6 +20,7 @@ struct ShownSheets
     QStringList files{};  ///< of each document, the one that was laid out
     QStringList titles{}; ///< of each document
     QList<SheetMark> marks{};
+    bool areAll = true;   ///< else nobody knows how many more there are
 
     bool operator==(const ShownSheets &) const = default;
 };

@@ -57,6 +57,9 @@ PageChooser::PageChooser(const ChoosablePages &pages, QWidget *parent)
     });
     connect(m_buttons, &QDialogButtonBox::accepted, this, &PageChooser::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &PageChooser::reject);
+    // Qt's own texts are not there in every language.
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("OK"));
+    m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
     setPages(pages);
     m_thumbnails->setFocus();
     const int em = fontMetrics().height();
@@ -64,9 +67,11 @@ PageChooser::PageChooser(const ChoosablePages &pages, QWidget *parent)
     resize((kUsualSize * em).boundedTo(room));
 }
 
-// The view goes first: it must not ask for pictures any more.
+// The view goes first: it must not ask for pictures any more. A field that is left while the window
+// goes has nothing to say.
 PageChooser::~PageChooser()
 {
+    m_field->disconnect(this);
     delete m_thumbnails;
 }
 

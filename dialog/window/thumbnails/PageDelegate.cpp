@@ -20,6 +20,7 @@ constexpr QSizeF kUsualPage{595, 842};
 // Paper is white and what stands on it dark, whatever the desktop looks like.
 constexpr QRgb kPaper = 0xffffffff;
 constexpr QRgb kTextOnPaper = 0xff707070;
+constexpr int kBoxFrame = 110; // of 255
 constexpr int kFaded = 165; // of 255: how much of the background covers a page that is not chosen
 
 int gapOf(const QFontMetrics &metrics)
@@ -211,6 +212,11 @@ void PageDelegate::paintLine(QPainter *painter, const QStyleOptionViewItem &opti
                   (isTicked ? QStyle::State_On : QStyle::State_Off);
     option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &check, painter,
                                           option.widget);
+    // Some styles draw a box that nobody sees on a dark ground.
+    QColor frame = option.palette.color(QPalette::Active, QPalette::Text);
+    frame.setAlpha(kBoxFrame);
+    painter->setPen(frame);
+    painter->drawRect(check.rect.adjusted(0, 0, -1, -1));
     painter->setPen(option.palette.color(QPalette::Active, QPalette::Text));
     const QRect place = QStyle::alignedRect(option.direction, Qt::AlignRight | Qt::AlignVCenter,
                                             {used - box - between, height}, both);

@@ -142,8 +142,8 @@ private Q_SLOTS:
 
     void noMoreIsDrawnThanThereIsRoomFor()
     {
-        // 20 MiB each.
-        constexpr QSize large(2000, 2600);
+        // Nearly a third of the room each.
+        constexpr QSize large(1400, 1900);
         PagePictures pictures;
         QSignalSpy drawn(&pictures, &PagePictures::drawn);
         QList<PageToDraw> all;
@@ -207,6 +207,25 @@ private Q_SLOTS:
         pictures.want({page});
         QTRY_VERIFY_WITH_TIMEOUT(!pictures.picture(page).isNull(), kPatience);
         QVERIFY(pictures.picture(page) != old);
+    }
+
+    // The whole of a document takes the place of its begin.
+    void aLongerFileTakesThePicturesOverWithItsPlace()
+    {
+        const QByteArray pdf = numberedPdf("page", 2);
+        const QString begin = writtenFile(m_folder.path(), u"begin.pdf"_s, pdf);
+        const QString all = writtenFile(m_folder.path(), u"all.pdf"_s, pdf);
+        PagePictures pictures;
+        const PageToDraw page{begin, 1, {300, 420}};
+        pictures.want({page});
+        QTRY_VERIFY_WITH_TIMEOUT(!pictures.picture(page).isNull(), kPatience);
+        const QImage drawn = pictures.picture(page);
+        pictures.replace(begin, all);
+        QVERIFY(pictures.picture(page).isNull());
+        QCOMPARE(pictures.picture({all, 1, {300, 420}}), drawn);
+        QVERIFY(pictures.anyPicture(all, 0).isNull());
+        pictures.want({{all, 0, {300, 420}}});
+        QTRY_VERIFY_WITH_TIMEOUT(!pictures.anyPicture(all, 0).isNull(), kPatience);
     }
 
     void aFileThatIsForgottenInTheMidstOfAPageShowsNothingOfTheOldOne()

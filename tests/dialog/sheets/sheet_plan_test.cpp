@@ -192,6 +192,9 @@ private Q_SLOTS:
     {
         const SheetArrangement none =
             sheetArrangement({{u"job-sheets"_s, u"standard,standard"_s}}, {}, false);
+        QCOMPARE(coverSheets(none), 0);
+        QCOMPARE(coverSheets(sheetArrangement({{u"job-sheets"_s, u"standard,none"_s}}, {}, true)),
+                 1);
         QCOMPARE(none, SheetArrangement());
     }
 

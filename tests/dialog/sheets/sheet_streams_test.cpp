@@ -22,7 +22,13 @@ namespace {
 
 constexpr int kStreamPatience = 60000; // milliseconds that a chain may take on a busy machine
 
-enum class Kind { Five, One, Mixed, TwoLetters, Small, Text, Picture, Nine };
+enum class Kind { Two, TwoOfPostScript, Five, One, Mixed, TwoLetters, Small, Text, Picture, Nine };
+
+constexpr char kTwoPagesOfPostScript[] =
+    "%!PS-Adobe-3.0\n%%Pages: 2\n%%EndComments\n"
+    "%%Page: 1 1\n/Helvetica findfont 40 scalefont setfont 100 500 moveto (one) show showpage\n"
+    "%%Page: 2 2\n/Helvetica findfont 40 scalefont setfont 100 500 moveto (two) show showpage\n"
+    "%%EOF\n";
 
 struct StreamRow
 {
@@ -66,6 +72,14 @@ const StreamRow kStreamRows[] = {
     {"a range behind the last page", {Kind::Five}, {pages("9-12")}},
     {"an open range", {Kind::Nine}, {pages("1,8-"), kTwoSided}},
     {"even pages", {Kind::Five}, {set("even")}},
+    // The layout step adds a blank side to an odd number of even pages, also where it is printed on
+    // a sheet of its own.
+    {"even pages of two", {Kind::Two}, {set("even")}},
+    {"even pages of two in PostScript", {Kind::TwoOfPostScript}, {set("even")}},
+    {"even pages of two in PostScript, two-sided",
+     {Kind::TwoOfPostScript},
+     {set("even"), kTwoSided}},
+    {"odd pages of two in PostScript", {Kind::TwoOfPostScript}, {set("odd")}},
     {"even pages of one", {Kind::One}, {set("even")}},
     {"odd pages, two-sided", {Kind::Five}, {set("odd"), kTwoSided}},
     {"even pages, two on a side", {Kind::Nine}, {set("even"), number("2")}},
@@ -137,6 +151,11 @@ private:
         switch (kind) {
         case Kind::One:
             return pdf("one.pdf", {kA4});
+        case Kind::Two:
+            return pdf("two.pdf", {kA4, kA4});
+        case Kind::TwoOfPostScript:
+            return {writeFile(m_folder.filePath(u"two.ps"_s), kTwoPagesOfPostScript),
+                    u"application/postscript"_s, u"two.ps"_s};
         case Kind::Five:
             return pdf("five.pdf", QList<QSizeF>(5, kA4));
         case Kind::Nine:

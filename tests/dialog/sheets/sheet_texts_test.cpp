@@ -146,6 +146,14 @@ private Q_SLOTS:
         QCOMPARE(countText({row.documents, row.twoSided}, row.choice, row.copies), row.text);
     }
 
+    void sheetsThatAQueueAddsAreCountedApart()
+    {
+        const JobSheets sheets{{document(5, 3)}};
+        QCOMPARE(countText(sheets, {u"1-3"_s}, 2, 1),
+                 u"3 pages × 2 copies = 6 sheets, and 1 cover sheet"_s);
+        QCOMPARE(countText(sheets, {u"1-3"_s}, 1, 2), u"3 pages = 3 sheets, and 2 cover sheets"_s);
+    }
+
     void whatComesOutOneSidedIsSaidWithTheReason_data() { addRows(kOneSided); }
     void whatComesOutOneSidedIsSaidWithTheReason()
     {

@@ -46,6 +46,8 @@ public:
     QList<QList<SummaryLine>> summaries;
     ScriptedAlertPresenter presenter;
 
+    std::optional<bool> printsMany = true; ///< what it answers to a job of many sheets
+    QStringList confirmations;             ///< what it was asked so
     QStringList warnings; ///< what it was asked to print without
     /// The problems of the last refusal; empty when there is none.
     QStringList problems() const;
@@ -88,6 +90,11 @@ public:
     {
         warnings += what;
         return printsWithout;
+    }
+    std::optional<bool> mayPrintMany(const QString &what) override
+    {
+        confirmations += what;
+        return printsMany;
     }
     void writeSummary(const QList<SummaryLine> &lines) override { summaries += lines; }
 };

@@ -7,12 +7,14 @@
 #include <QObject>
 #include <QTemporaryDir>
 
+#include "dialog/policy/PolicyLocks.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/presets/PresetStore.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/StartValues.h"
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 
@@ -62,6 +64,14 @@ protected:
             PresetStore(m_request.presetPlaces).save(preset, PresetStore::Replacing::Yes);
             break;
         }
+        case By::Policy: {
+            QByteArray text = "[all]\n";
+            const QList<JobOption> options = parseOptions({option});
+            for (const JobOption &one : options)
+                text += "default." + one.name.toUtf8() + '=' + one.value.toUtf8() + '\n';
+            m_request.policy = policyFrom(text);
+            break;
+        }
         default:
             m_request.options = parseOptions({option});
         }
@@ -80,7 +90,11 @@ protected:
     StartOutcome start()
     {
         QString error;
-        m_printer = openPrinter(m_fetched, {}, m_presenter, &error);
+        m_printer = openPrinter(m_fetched, {}, m_presenter, &error, [this](OpenedPrinter &opened) {
+            lockSettings(policyOf(m_request).locksOf(opened.fetched.printer), *opened.session,
+                         opened.jobValues);
+        });
+        m_settings.setLocks(m_printer->session->locks());
         return applyStartValues(m_request, *m_printer, m_settings);
     }
     QString attribute(const QString &name)

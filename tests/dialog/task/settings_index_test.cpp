@@ -39,7 +39,7 @@ const Query kQueries[] = {
     {"words in another order", "en", "left staple", "Staple: Top Left"},
     {"an accent that is not typed", "en", "creme", "Paper Type: Crème Letterhead"},
     {"an accent that is typed", "en", "crème", "Paper Type: Crème Letterhead"},
-    {"a name before a choice", "en", "paper", "Paper Source|Paper Type"},
+    {"a name before a choice", "en", "paper", "Paper Size|Paper Source|Paper Type"},
     {"a choice before a keyword", "en", "upper", "Paper Source: Upper Tray"},
     {"a keyword", "en", "Media", "Paper Type"},
     {"a keyword of a choice", "en", "duplexnotumble", "Two-Sided: Long Edge"},
@@ -205,7 +205,7 @@ private Q_SLOTS:
         open(request(officePrinter()));
         const SettingsIndex index = settingsIndexOf(*task);
         for (const Row &row : {Row{"stapel", "Staple"}, Row{"watermrak", "Watermark"},
-                               Row{"ppaer type", "Paper type"}, Row{"xyzzy", ""}, Row{"q", ""}}) {
+                               Row{"ppaer type", "Paper type"}, Row{"xyzzy", ""}, Row{"zq", ""}}) {
             QVERIFY(index.find(QLatin1StringView(row.typed)).isEmpty());
             QCOMPARE(index.suggestionFor(QLatin1StringView(row.typed)),
                      QLatin1StringView(row.suggestion));

@@ -63,8 +63,8 @@ private Q_SLOTS:
 
     void aPresetTakesThePlaceOfTheLastJobAsAWhole()
     {
-        say(By::LastUsed, u"Boost=ON number-up=2"_s);
         fullPreset(u"Media=Film"_s);
+        say(By::LastUsed, u"Boost=ON number-up=2"_s);
         const StartOutcome outcome = start();
         QCOMPARE(marked(u"Media"_s), u"Film"_s);
         QCOMPARE(marked(u"Boost"_s), u"OFF"_s);

@@ -51,8 +51,8 @@ private Q_SLOTS:
         QList<By> order;
         for (const StartLayer &layer : startLayers())
             order += layer.by;
-        QCOMPARE(order,
-                 (QList<By>{By::Queue, By::UserQueues, By::LastUsed, By::Preset, By::Options}));
+        QCOMPARE(order, (QList<By>{By::Queue, By::UserQueues, By::Policy, By::LastUsed, By::Preset,
+                                   By::Options}));
         QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
     }
 

@@ -160,9 +160,9 @@ private Q_SLOTS:
 
     void aBookletAndItsFoldingAreOneStep()
     {
-        openOffice();
+        m_scene->open(m_scene->request(smallPrinter()));
         const TaskSettings before = task().settingsNow();
-        QCOMPARE(task().setAttribute(u"booklet"_s, u"true"_s), QString());
+        QCOMPARE(task().setAttribute(u"booklet"_s, u"left"_s), QString());
         settle();
         QCOMPARE(session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
         QCOMPARE(task().undoText(), u"Undo Booklet"_s);
@@ -205,7 +205,7 @@ private Q_SLOTS:
         task().propose(kPageSizeOption, u"EnvDL"_s);
         settle();
         QCOMPARE(session().markedChoice(u"QXMediaType"_s), u"Env"_s);
-        QCOMPARE(task().undoText(), u"Undo Page Size"_s);
+        QCOMPARE(task().undoText(), u"Undo Paper Size"_s);
         const TaskSettings after = task().settingsNow();
         task().undo();
         settle();
@@ -371,7 +371,7 @@ private Q_SLOTS:
         PrintRequest request = m_scene->request(officePrinter());
         request.options = parseOptions({u"Staple=Left"_s});
         m_scene->open(request);
-        task().propose(u"Staple"_s, u"None"_s);
+        task().propose(u"Staple"_s, u"OFF"_s);
         task().propose(u"Media"_s, u"Film"_s);
         settle();
         task().resetSettings({u"Staple"_s});

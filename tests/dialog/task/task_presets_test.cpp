@@ -223,7 +223,6 @@ private Q_SLOTS:
         task().setAttribute(u"number-up"_s, u"2"_s);
         task().setAttribute(u"mirror"_s, u"true"_s);
         task().setAttribute(u"job-priority"_s, u"70"_s);
-        task().settings().setPageRanges(u"1"_s);
         task().settings().askForCopies(3, JobSettings::By::User);
         print();
         QCOMPARE(lastUsedFiles(), 1);
@@ -233,7 +232,7 @@ private Q_SLOTS:
         QVERIFY(!presets.isChanged());
         QCOMPARE(marked(u"Media"_s), u"Film"_s);
         QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
-        for (const QString &name : {u"mirror"_s, u"job-priority"_s, u"page-ranges"_s})
+        for (const QString &name : {u"mirror"_s, u"job-priority"_s})
             QVERIFY2(task().settings().attribute(name).isNull(), qPrintable(name));
         QCOMPARE(task().settings().copies(), 1);
         const TaskMessage message = m_scene->face.messages.constLast();
@@ -352,6 +351,7 @@ private Q_SLOTS:
     void aScriptKeepsWhatItAsksFor()
     {
         PrintRequest script = request(u"Media=Film number-up=2"_s);
+        script.presetToSave = u"Reports"_s;
         m_scene->make(script).startUnattended();
         QCOMPARE(save(u"Reports"_s), QString());
         const Preset preset =

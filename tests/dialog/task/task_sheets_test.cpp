@@ -218,6 +218,37 @@ private Q_SLOTS:
         QVERIFY(side.paper.width() > side.paper.height());
     }
 
+    // Of a long document the first sheets are there before anybody knows how many there are.
+    void aLongDocumentBeginsToBeShown()
+    {
+        using State = SheetPreview::State;
+        PrintTask &task = m_scene->open(request({QList<QSizeF>(120, kA4)}));
+        QList<SheetPreview> previews;
+        connect(&task, &PrintTask::sheetsCounted, this, [&] { previews += task.sheetPreview(); });
+        task.countSheets();
+        QTRY_COMPARE_WITH_TIMEOUT(previews.size(), 2, kSheetsPatience);
+        QCOMPARE(previews.at(0).state, State::Begun);
+        QCOMPARE(previews.at(0).counts, QString());
+        QCOMPARE(previews.at(0).plan.sheets.size(), 8);
+        QCOMPARE(previews.at(1).state, State::Known);
+        QCOMPARE(previews.at(1).counts, u"120 pages = 120 sheets"_s);
+        QCOMPARE(previews.at(1).plan.sheets.first(8), previews.at(0).plan.sheets);
+        // Other settings are no begin of anything that stood before.
+        QCOMPARE(task.setAttribute(u"page-set"_s, u"even"_s), QString());
+        QCOMPARE(task.sheetPreview().state, State::Counting);
+    }
+
+    // The summary counts what is known as a whole.
+    void whatHasBegunIsNotCounted()
+    {
+        PrintTask &task = m_scene->open(request({QList<QSizeF>(120, kA4)}));
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        QCOMPARE(task.sheetPreview().state, SheetPreview::State::Begun);
+        QCOMPARE(summary().at(1), u"Sheets: …"_s);
+    }
+
     void aDocumentThatCannotBeLaidOutHasNoPreview()
     {
         PrintRequest asked = request({{kA4}, {kA4}});

@@ -104,6 +104,22 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(sheets()->sheets().plan.sheets.size(), 1, kWindowPatience);
     }
 
+    // How many there will be is said when it is known, and what is looked at stays.
+    void aLongDocumentBeginsToBeShown()
+    {
+        const QString path = writeFile(m_folder->filePath(u"long.pdf"_s), numberedPdf("page", 400));
+        QStringList seen;
+        open({path});
+        connect(&dialog().task(), &PrintTask::sheetsCounted, this, [&] {
+            seen += u"%1, %2, %3"_s.arg(counts(), child<QLabel>(u"lookedAt"_s)->text(),
+                                        QString::number(sheets()->sheets().plan.sheets.size()));
+        });
+        QTRY_COMPARE_WITH_TIMEOUT(counts(), u"400 pages = 400 sheets"_s, kWindowPatience);
+        QCOMPARE(seen, (QStringList{u"Counting the sheets…, Sheet 1, 8"_s,
+                                    u"400 pages = 400 sheets, Sheet 1 of 400, 400"_s}));
+        QVERIFY(!sheets()->isDimmed());
+    }
+
     void aLargerWindowIsForTheSheets()
     {
         open(sample());

@@ -43,6 +43,19 @@ private Q_SLOTS:
         QCOMPARE(m_lower->geometry(), QRect(10, 40, 80, 20));
     }
 
+    void aMirroredViewIsMirroredWhole()
+    {
+        layOut(500, 400);
+        m_view->setLayoutDirection(Qt::RightToLeft);
+        layOut(500, 400);
+        QCOMPARE(m_upper->geometry(), QRect(410, 10, 80, 20));
+        QCOMPARE(m_beside->geometry(), QRect(310, 12, 80, 60));
+        QCOMPARE(m_layout->frame(m_lower), QRectF(10, 40, 80, 20));
+        m_view->setLayoutDirection(Qt::LeftToRight);
+        layOut(500, 400);
+        QCOMPARE(m_upper->geometry(), QRect(10, 10, 80, 20));
+    }
+
     void framesGrowWithTheFont()
     {
         setFontSize(24);

@@ -400,8 +400,8 @@ private Q_SLOTS:
                 break;
         }
         QCOMPARE(order.join(u' '),
-                 (QStringList{u"copies"_s, u"collate"_s, u"pageRanges"_s, u"Duplex"_s,
-                              u"PageSize"_s, u"QXOutput"_s, u"AP_ColorMatchingMode"_s,
+                 (QStringList{u"copies"_s, u"collate"_s, u"pageRanges"_s, u"choosePages"_s,
+                              u"Duplex"_s, u"PageSize"_s, u"QXOutput"_s, u"AP_ColorMatchingMode"_s,
                               u"number-up"_s, u"print-scaling"_s, u"more"_s, u"page-set"_s,
                               u"job-hold-until"_s, u"job-hold-untilOther"_s})
                      .join(u' '));

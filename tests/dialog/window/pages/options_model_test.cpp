@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "dialog/session/SearchForm.h"
 #include "dialog/window/pages/OptionsModel.h"
 #include "tests/dialog/support/TestPrinters.h"
 
@@ -189,13 +190,31 @@ private Q_SLOTS:
         QVERIFY(m_session->customValue(u"Sleep"_s).isNull());
     }
 
+    void whatChangesAreComparedWithCanBeSomethingElse()
+    {
+        open(officePrinter());
+        m_session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
+        m_model->refresh();
+        m_model->showChanges({u"Back to Reports"_s, {{u"Media"_s, u"Reports: Card"_s}}});
+        QVERIFY(!isBold(u"Tray"_s, OptionsModel::Title));
+        QVERIFY(!m_model->isChanged(option(u"Tray"_s)));
+        QVERIFY(isBold(u"Media"_s, OptionsModel::Title));
+        QVERIFY(m_model->isChanged(option(u"Media"_s)));
+        QCOMPARE(option(u"Media"_s).data(Qt::ToolTipRole),
+                 QVariant(u"<qt>Changed. Reports: Card</qt>"_s));
+        QCOMPARE(option(u"Media"_s).data(Qt::AccessibleDescriptionRole).toString(),
+                 u"Changed. Reports: Card"_s);
+        m_model->showChanges({u"Back to Reports"_s, {}});
+        QVERIFY(!isBold(u"Media"_s, OptionsModel::Title));
+    }
+
     void withoutADefaultNothingDiffersFromIt()
     {
         open(PpdBuilder().option("Tray", "Tray", "Unknown", {{"A", "A"}, {"B", "B"}}));
         QVERIFY(!isBold(u"Tray"_s, OptionsModel::Choice));
         QVERIFY(m_model->setData(option(u"Tray"_s), u"B"_s, Qt::EditRole));
         QVERIFY(!isBold(u"Tray"_s, OptionsModel::Choice));
-        QVERIFY(!m_model->differsFromDefault(option(u"Tray"_s)));
+        QVERIFY(!m_model->isChanged(option(u"Tray"_s)));
     }
 
     void ofSeveralChoicesAtOnceTheOneThatWasPickedLastCounts()

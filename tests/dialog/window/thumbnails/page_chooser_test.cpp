@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <functional>
+#include <limits>
 #include <memory>
 
 #include <QAccessible>
@@ -14,7 +17,7 @@
 #include "dialog/window/thumbnails/PageModel.h"
 #include "dialog/window/thumbnails/PageThumbnails.h"
 #include "tests/dialog/support/TestPrinters.h"
-#include "tests/e2e/Heartbeat.h"
+#include "tests/support/Heartbeat.h"
 #include "tests/support/LabelledPdf.h"
 #include "tests/support/Rows.h"
 
@@ -76,6 +79,50 @@ const TypedText kTypedTexts[] = {
     {"another order", u"7,1"_s, 2, true},       {"beyond the end", u"11-99"_s, 2, true},
     {"only beyond the end", u"20"_s, 0, false}, {"nothing", u""_s, 0, false},
 };
+
+// What somebody does with many pages, each of it at once.
+struct Work
+{
+    const char *name;
+    void (*act)(PageChooser &chooser);
+};
+const Work kWork[] = {
+    {"a tick",
+     [](PageChooser &chooser) {
+         auto *model = chooser.findChild<PageModel *>();
+         const QModelIndex index = model->index(5);
+         const bool isTicked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+         model->setData(index, isTicked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+     }},
+    {"odd pages",
+     [](PageChooser &chooser) { chooser.findChild<QPushButton *>(u"chooseOdd"_s)->click(); }},
+    {"all pages",
+     [](PageChooser &chooser) { chooser.findChild<QPushButton *>(u"chooseAll"_s)->click(); }},
+    {"scrolling far",
+     [](PageChooser &chooser) {
+         QScrollBar *bar = chooser.findChild<PageThumbnails *>()->verticalScrollBar();
+         bar->setValue((bar->value() + bar->maximum() / 3) % bar->maximum());
+     }},
+    {"another width",
+     [](PageChooser &chooser) { chooser.resize(chooser.width() + 150, chooser.height()); }},
+};
+constexpr qint64 kMostAtOnce = 8; // milliseconds in which nothing else has its turn
+
+// The best of some tries: whatever else a machine does makes it longer. Units: milliseconds.
+qint64 largestGap(const std::function<void()> &act)
+{
+    qint64 best = std::numeric_limits<qint64>::max();
+    for (int i = 0; i < 5; ++i) {
+        Heartbeat heartbeat;
+        heartbeat.start();
+        QTest::qWait(30);
+        act();
+        QTest::qWait(60);
+        heartbeat.stop();
+        best = std::min(best, heartbeat.takeLargestGap());
+    }
+    return best;
+}
 
 } // namespace
 
@@ -225,10 +272,10 @@ private Q_SLOTS:
         QVERIFY(m_chooser->isVisible());
         type(u"9-7"_s);
         QCOMPARE(note(), u"“9-7” ends before it begins."_s);
-        // A click mends it.
+        // A click mends it: what was a range before, while it was typed, is ticked still.
         click(0);
         QVERIFY(ok()->isEnabled());
-        QCOMPARE(text(), u"1-4"_s);
+        QCOMPARE(text(), u"1, 9-12"_s);
     }
 
     void everyDocumentHasTheSameTicks()
@@ -266,6 +313,24 @@ private Q_SLOTS:
         QVERIFY(!m_chooser->hasChanged());
         type(u"2-4,7-"_s);
         QCOMPARE(m_chooser->value(), u"2-4,7-"_s);
+        QVERIFY(ok()->isEnabled());
+    }
+
+    void aFieldHasRoomForEverySecondPageOfALongDocument()
+    {
+        show({{{u"a.txt"_s, {}, 9999, u"The preview shows them."_s}}, {}});
+        child<QPushButton>("chooseOdd")->click();
+        QVERIFY(text().endsWith(", 9999"_L1));
+        QVERIFY(m_chooser->value().endsWith(",9999"_L1));
+    }
+
+    void pagesThatAreTooManyToBeShownAreTyped()
+    {
+        show({{{u"a.pdf"_s, {}, 20000, {}}}, {}});
+        QCOMPARE(view()->model()->rowCount(), 1);
+        QVERIFY(!row(0).data(PageModel::ReasonRole).toString().isEmpty());
+        type(u"19999-"_s);
+        QCOMPARE(m_chooser->value(), u"19999-20000"_s);
         QVERIFY(ok()->isEnabled());
     }
 
@@ -327,43 +392,17 @@ private Q_SLOTS:
 
     void twoThousandPagesDoNotStall()
     {
-        // Drawn by a process that takes its time; nothing of that is this thread's. What a machine
-        // under a sanitizer or a heavy load makes of it is no measure.
-        const ChoosablePages pages{{document(u"long.pdf"_s, numberedPdf("page", 2000), 2000)}, {}};
-        show(pages);
+        show({{document(u"long.pdf"_s, numberedPdf("page", 2000), 2000)}, {}});
         QTRY_VERIFY_WITH_TIMEOUT(!row(1999).data(PageModel::SizeRole).toSizeF().isEmpty(),
                                  kPatience);
-        Heartbeat heartbeat;
-        qint64 largest = 0;
-        const auto measure = [&](const char *what, const std::function<void()> &act) {
-            qint64 best = std::numeric_limits<qint64>::max();
-            for (int i = 0; i < 3; ++i) {
-                heartbeat.takeLargestGap();
-                heartbeat.start();
-                QTest::qWait(30);
-                act();
-                QTest::qWait(60);
-                heartbeat.stop();
-                best = std::min(best, heartbeat.takeLargestGap());
-            }
-            qInfo() << what << best << "ms";
-            largest = std::max(largest, best);
-        };
-        measure("nothing", [] {});
-        measure("ticking one", [this] {
-            m_chooser->findChild<PageModel *>()->setData(row(5), Qt::Unchecked, Qt::CheckStateRole);
-            m_chooser->findChild<PageModel *>()->setData(row(5), Qt::Checked, Qt::CheckStateRole);
-        });
-        measure("odd pages", [this] { child<QPushButton>("chooseOdd")->click(); });
-        measure("all pages", [this] { child<QPushButton>("chooseAll")->click(); });
-        measure("scrolling", [this] {
-            auto *bar = view()->verticalScrollBar();
-            bar->setValue((bar->value() + bar->maximum() / 3) % bar->maximum());
-        });
-        measure("a new width",
-                [this] { m_chooser->resize(m_chooser->width() + 150, m_chooser->height()); });
-        // Ten is the beat itself.
-        QVERIFY2(largest < 60, qPrintable(QString::number(largest)));
+        const qint64 beat = largestGap([] {});
+        for (const Work &work : kWork) {
+            const qint64 gap = largestGap([&] { work.act(*m_chooser); });
+            QVERIFY2(gap <= beat + kMostAtOnce, qPrintable(u"%1: %2 ms, doing nothing: %3 ms"_s
+                                                               .arg(QLatin1StringView(work.name))
+                                                               .arg(gap)
+                                                               .arg(beat)));
+        }
     }
 
     void cancelingChangesNothing()

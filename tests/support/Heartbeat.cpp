@@ -1,4 +1,4 @@
-#include "tests/e2e/Heartbeat.h"
+#include "tests/support/Heartbeat.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,26 +11,25 @@ namespace corvana::test {
 
 namespace {
 
-constexpr int kBeat = 10; // milliseconds
-constexpr qint64 kNanosecondsInOne = 1000 * 1000;
+constexpr qint64 kInMillisecond = 1000 * 1000; // nanoseconds
 
 // How long this thread has been ready to run without getting a processor, since it began. 0 where
-// the system does not tell. Units: milliseconds.
+// the system does not tell. Units: nanoseconds.
 qint64 waitedForProcessor()
 {
-    // Time on a processor, time ready to run, turns; the first two in nanoseconds.
+    // Time on a processor, time ready to run, turns.
     QFile file(u"/proc/thread-self/schedstat"_s);
     if (!file.open(QIODevice::ReadOnly))
         return 0;
-    return file.readAll().split(' ').value(1).toLongLong() / kNanosecondsInOne;
+    return file.readAll().split(' ').value(1).toLongLong();
 }
 
 } // namespace
 
-Heartbeat::Heartbeat()
+Heartbeat::Heartbeat(std::chrono::milliseconds beat)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    m_timer.setInterval(kBeat);
+    m_timer.setInterval(beat);
     connect(&m_timer, &QTimer::timeout, this, &Heartbeat::beat);
 }
 
@@ -53,14 +52,15 @@ void Heartbeat::stop()
 
 qint64 Heartbeat::takeLargestGap()
 {
-    return std::exchange(m_largest, 0);
+    return std::exchange(m_largest, 0) / kInMillisecond;
 }
 
 void Heartbeat::beat()
 {
     const qint64 waited = waitedForProcessor();
     const qint64 inVain = waited - std::exchange(m_waited, waited);
-    m_largest = std::max(m_largest, m_last.restart() - inVain);
+    m_largest = std::max(m_largest, m_last.nsecsElapsed() - inVain);
+    m_last.start();
 }
 
 } // namespace corvana::test

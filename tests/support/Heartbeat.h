@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
@@ -14,7 +16,8 @@ namespace corvana::test {
 class Heartbeat : public QObject
 {
 public:
-    Heartbeat();
+    /// The time between two beats of a thread that has nothing else to do. It is part of each gap.
+    explicit Heartbeat(std::chrono::milliseconds beat = std::chrono::milliseconds(10));
 
     void start();
     /// What the test itself does from here on does not count.
@@ -27,8 +30,8 @@ private:
 
     QTimer m_timer;
     QElapsedTimer m_last;
-    qint64 m_waited = 0; // for a processor, until the last beat; in milliseconds
-    qint64 m_largest = 0;
+    qint64 m_waited = 0;  // for a processor, until the last beat; in nanoseconds
+    qint64 m_largest = 0; // in nanoseconds
 };
 
 } // namespace corvana::test

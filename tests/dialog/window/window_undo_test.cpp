@@ -1,0 +1,378 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+
+#include "dialog/session/OptionNames.h"
+#include "dialog/window/PrintWindow.h"
+#include "tests/dialog/job/FakeFilter.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/support/WindowDriver.h"
+#include "tests/support/Gestures.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kGeneralPage = 0;
+constexpr int kPrintPage = 1;
+constexpr int kColorPage = 2;
+constexpr int kOptionsPage = 1; // of a printer without panels
+
+} // namespace
+
+/// What is undone by keys and buttons, what is marked as changed, and the ways back and to a
+/// setting, in a whole window.
+class WindowUndoTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<FakeFilter> m_filter;
+    std::unique_ptr<WindowDriver> m_window;
+
+    void open(const QString &ppdPath)
+    {
+        PrintRequest request;
+        request.documents = {m_filter->document()};
+        request.title = u"Job"_s;
+        request.output = m_filter->output();
+        request.bundleRoots = builtBundleRoots();
+        request.printers = {{u"printer"_s, u"Printer"_s, ppdPath, 5}};
+        m_window = std::make_unique<WindowDriver>(request, WindowDriver::Activation::Yes);
+        QTRY_COMPARE(task().phase(), PrintTask::Phase::Ready);
+        QTRY_VERIFY(m_window->child<QTableWidget>(u"summary"_s));
+    }
+    void openOffice() { open(writeFile(m_filter->ppdPath(), officePrinter().text())); }
+    void openSample() { open(samplePpdPath()); }
+
+    PrintTask &task() { return m_window->dialog().task(); }
+    template <typename Child> Child *child(const QString &name)
+    {
+        return m_window->child<Child>(name);
+    }
+    QToolButton *undo() { return child<QToolButton>(u"undo"_s); }
+    QToolButton *redo() { return child<QToolButton>(u"redo"_s); }
+    void focus(QWidget *widget)
+    {
+        widget->setFocus();
+        QTRY_VERIFY(widget->hasFocus());
+    }
+    // To whatever has the focus, as a keyboard does.
+    void press(QKeyCombination keys)
+    {
+        QWidget *widget = m_window->dialog().focusWidget();
+        QTest::keyClick(widget ? widget : &m_window->dialog(), keys.key(),
+                        keys.keyboardModifiers());
+        QTest::qWait(1);
+    }
+    void type(const QString &text)
+    {
+        QTest::keyClicks(m_window->dialog().focusWidget(), text);
+        QTest::qWait(1);
+    }
+    // The dots that are seen on the page that is shown.
+    int dots()
+    {
+        int shown = 0;
+        const auto all = m_window->pages()->currentWidget()->findChildren<QWidget *>(u"changed"_s);
+        for (const QWidget *dot : all)
+            shown += dot->isVisible() ? 1 : 0;
+        return shown;
+    }
+    QStringList summaryTitles()
+    {
+        QStringList titles;
+        for (const auto &[title, value] : m_window->summaryLines())
+            titles += title;
+        return titles;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void init()
+    {
+        m_filter = std::make_unique<FakeFilter>("printf '%s\\n' \"$@\" >$DIR/arguments; echo ok\n");
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        m_filter.reset();
+    }
+
+    void theButtonSaysWhatItTakesBack()
+    {
+        openOffice();
+        QVERIFY(undo() && redo());
+        QVERIFY(!undo()->isEnabled() && !redo()->isEnabled());
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
+        QTRY_VERIFY(undo()->isEnabled());
+        QVERIFY2(undo()->text().startsWith(u"Undo "_s), qPrintable(undo()->text()));
+        QCOMPARE(undo()->accessibleName(), task().undoText());
+        QVERIFY(undo()->toolTip().contains(u"Ctrl+Z"_s));
+        undo()->click();
+        QVERIFY(!undo()->isEnabled());
+        QTRY_VERIFY(redo()->isEnabled());
+        QVERIFY(redo()->accessibleName().startsWith(u"Redo "_s));
+        redo()->click();
+        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
+        QCOMPARE(child<QComboBox>(kDuplexOption)->currentText(), u"Long Edge"_s);
+    }
+
+    void typingIsTakenBackByItsFieldFirst()
+    {
+        openOffice();
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
+        auto *ranges = child<QLineEdit>(u"pageRanges"_s);
+        focus(ranges);
+        type(u"2-3"_s);
+        QCOMPARE(task().settings().pageRanges(), u"2-3"_s);
+        press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(ranges->text(), QString());
+        QCOMPARE(task().settings().pageRanges(), QString());
+        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
+        // Nothing of the typing is left: the step before it goes back.
+        press(Qt::CTRL | Qt::Key_Z);
+        QVERIFY(task().opened()->session->markedChoice(kDuplexOption) != u"DuplexNoTumble"_s);
+        press(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+        press(Qt::CTRL | Qt::Key_Y);
+        QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
+    }
+
+    void stepsOfANumberAreOneUntilItIsLeft()
+    {
+        openOffice();
+        auto *copies = child<QSpinBox>(u"copies"_s);
+        focus(copies);
+        for (int i = 0; i < 3; ++i)
+            press(Qt::Key_Up);
+        QCOMPARE(task().settings().copies(), 4);
+        focus(child<QLineEdit>(u"pageRanges"_s));
+        focus(copies);
+        press(Qt::Key_Up);
+        QCOMPARE(task().settings().copies(), 5);
+        press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(copies->value(), 4);
+        press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(copies->value(), 1);
+        QVERIFY(!undo()->isEnabled());
+        press(Qt::CTRL | Qt::Key_Y);
+        QCOMPARE(copies->value(), 4);
+    }
+
+    void theKeysWorkInAList()
+    {
+        openOffice();
+        m_window->showPage(kOptionsPage);
+        auto *options = child<QTreeView>(u"options"_s);
+        QVERIFY(options);
+        task().propose(u"Media"_s, u"Card"_s);
+        focus(options);
+        QTRY_VERIFY(undo()->isEnabled());
+        press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(task().opened()->session->markedChoice(u"Media"_s), u"Plain"_s);
+        press(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+        QCOMPARE(task().opened()->session->markedChoice(u"Media"_s), u"Card"_s);
+    }
+
+    void theKeysWorkOnAPanel()
+    {
+        openSample();
+        QVERIFY(m_window->waitForPanels(2));
+        m_window->showPage(kPrintPage);
+        QWidget *panel = m_window->waitForPanel(kPrintPage);
+        auto *media = panel->findChild<QComboBox *>(u"mediaTypePopup"_s);
+        QVERIFY(media);
+        const QString before = media->currentText();
+        focus(media);
+        QTest::keyClick(media, Qt::Key_Down);
+        QTRY_VERIFY(undo()->isEnabled());
+        QVERIFY(media->currentText() != before);
+        press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(media->currentText(), before);
+        QVERIFY(!undo()->isEnabled());
+    }
+
+    void oneDragOfASliderIsOneStep()
+    {
+        openSample();
+        QVERIFY(m_window->waitForPanels(2));
+        task().propose(u"QXMonoColor"_s, u"Color"_s);
+        m_window->showPage(kColorPage);
+        QWidget *panel = m_window->waitForPanel(kColorPage);
+        auto *slider = panel->findChild<QSlider *>(u"brightnessSlider"_s);
+        QVERIFY(slider && slider->isEnabled());
+        QTest::qWait(1);
+        task().endStep();
+        const QString before = task().undoText();
+        for (const int value : {3, 7}) {
+            QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(1, 1));
+            slider->setValue(value - 1);
+            QTest::qWait(1);
+            slider->setValue(value);
+            QTest::qWait(1);
+            QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(1, 1));
+            QTest::qWait(1);
+        }
+        const int last = slider->value();
+        focus(slider);
+        press(Qt::CTRL | Qt::Key_Z);
+        QVERIFY(slider->value() != last);
+        while (task().canUndo() && task().undoText() != before)
+            press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(slider->value(), 0);
+    }
+
+    void whatIsChangedIsMarkedWithWhatItWas()
+    {
+        openOffice();
+        QCOMPARE(dots(), 0);
+        auto *duplex = child<QComboBox>(kDuplexOption);
+        QVERIFY(pick(duplex, u"Long Edge"_s));
+        QTRY_COMPARE(dots(), 1);
+        auto *dot = m_window->pages()->currentWidget()->findChild<QWidget *>(u"changed"_s);
+        QVERIFY2(dot->toolTip().contains(u"Printer Defaults"_s), qPrintable(dot->toolTip()));
+        QVERIFY2(duplex->accessibleDescription().startsWith(u"Changed."_s),
+                 qPrintable(duplex->accessibleDescription()));
+        QVERIFY(pick(child<QComboBox>(u"number-up"_s), u"4"_s));
+        QTRY_COMPARE(dots(), 2);
+        press(Qt::CTRL | Qt::Key_Z);
+        QTRY_COMPARE(dots(), 1);
+        undo()->click();
+        QTRY_COMPARE(dots(), 0);
+        QCOMPARE(duplex->accessibleDescription(), QString());
+    }
+
+    void aMarkOnAPanelMovesNothing()
+    {
+        openSample();
+        QVERIFY(m_window->waitForPanels(2));
+        m_window->showPage(kPrintPage);
+        QWidget *panel = m_window->waitForPanel(kPrintPage);
+        auto *media = panel->findChild<QComboBox *>(u"mediaTypePopup"_s);
+        QVERIFY(media);
+        QTest::qWait(20);
+        const QRect place = media->geometry();
+        const QSize size = panel->size();
+        QCOMPARE(dots(), 0);
+        QTest::keyClick(media, Qt::Key_Down);
+        QTRY_VERIFY(dots() > 0);
+        QCOMPARE(media->geometry(), place);
+        QCOMPARE(panel->size(), size);
+        for (const QWidget *dot : panel->findChildren<QWidget *>(u"changed"_s))
+            QVERIFY(dot->parentWidget()->rect().contains(dot->geometry()));
+    }
+
+    void aSettingGoesBackByItsMenu()
+    {
+        openOffice();
+        auto *duplex = child<QComboBox>(kDuplexOption);
+        const QString before = duplex->currentText();
+        QVERIFY(pick(duplex, u"Long Edge"_s));
+        QTRY_COMPARE(dots(), 1);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, duplex->mapToGlobal(QPoint()));
+        QCoreApplication::sendEvent(duplex, &event);
+        auto *menu = m_window->dialog().findChild<QMenu *>(u"changedMenu"_s);
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().constFirst()->text(), u"Back to Printer Defaults"_s);
+        menu->actions().constFirst()->trigger();
+        menu->close();
+        QTRY_COMPARE(duplex->currentText(), before);
+        QTRY_COMPARE(dots(), 0);
+    }
+
+    void aPageAndEverythingGoBackByTheRow()
+    {
+        openOffice();
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
+        task().propose(u"Media"_s, u"Card"_s);
+        task().setCopies(2);
+        auto *reset = child<QToolButton>(u"reset"_s);
+        auto *page = child<QAction>(u"resetPage"_s);
+        auto *all = child<QAction>(u"resetAll"_s);
+        QVERIFY(reset && page && all);
+        Q_EMIT reset->menu()->aboutToShow();
+        QVERIFY(page->isEnabled() && all->isEnabled());
+        QVERIFY(all->text().contains(u"Back to Printer Defaults"_s));
+        page->trigger();
+        QCOMPARE(task().changedSettings(), QStringList{u"Media"_s});
+        Q_EMIT reset->menu()->aboutToShow();
+        QVERIFY(!page->isEnabled() && all->isEnabled());
+        all->trigger();
+        QCOMPARE(task().changedSettings(), QStringList());
+        QCOMPARE(task().settings().copies(), 2);
+        Q_EMIT reset->menu()->aboutToShow();
+        QVERIFY(!all->isEnabled());
+        undo()->click();
+        QCOMPARE(task().changedSettings(), QStringList{u"Media"_s});
+    }
+
+    void theSummaryCanShowWhatIsChangedAlone()
+    {
+        openOffice();
+        task().propose(u"Media"_s, u"Card"_s);
+        task().setCopies(2);
+        const QStringList all = summaryTitles();
+        auto *only = child<QCheckBox>(u"onlyChanged"_s);
+        QVERIFY(only && !only->isChecked());
+        only->setChecked(true);
+        QCOMPARE(summaryTitles(), (QStringList{u"Copies"_s, u"Paper Type"_s}));
+        const auto *table = child<QTableWidget>(u"summary"_s);
+        QVERIFY(table->item(1, 0)->toolTip().contains(u"Plain Paper"_s));
+        QCOMPARE(table->item(1, 0)->data(Qt::AccessibleTextRole).toString(),
+                 u"Paper Type, changed"_s);
+        m_window.reset();
+        openOffice(); // remembered
+        QVERIFY(child<QCheckBox>(u"onlyChanged"_s)->isChecked());
+        QCOMPARE(summaryTitles(), QStringList());
+        child<QCheckBox>(u"onlyChanged"_s)->setChecked(false);
+        QVERIFY(summaryTitles().size() >= all.size() - 1);
+    }
+
+    void aLineOfTheSummaryLeadsToItsControl()
+    {
+        openSample();
+        QVERIFY(m_window->waitForPanels(2));
+        const auto lines = m_window->summaryLines();
+        auto *table = child<QTableWidget>(u"summary"_s);
+        QStringList leadNowhere;
+        for (int row = 0; row < lines.size(); ++row) {
+            m_window->showLastPage();
+            table->setCurrentCell(row, 0);
+            table->setFocus();
+            const QString name = table->item(row, 0)->data(Qt::UserRole).toString();
+            if (name.isEmpty()) {
+                leadNowhere += lines.at(row).first;
+                continue;
+            }
+            QTest::keyClick(table, Qt::Key_Return);
+            QTRY_VERIFY2(m_window->pages()->currentWidget() !=
+                             m_window->pages()->widget(m_window->pages()->count() - 1),
+                         qPrintable(lines.at(row).first));
+            QVERIFY(!table->hasFocus());
+        }
+        QCOMPARE(task().phase(), PrintTask::Phase::Ready); // Enter went there, and did not print
+        // They tell of no setting.
+        leadNowhere.removeAll(u"Sheets"_s);
+        leadNowhere.removeAll(u"Model"_s);
+        QCOMPARE(leadNowhere, QStringList());
+        m_window->showPage(kGeneralPage);
+    }
+};
+
+QTEST_MAIN(WindowUndoTest)
+#include "window_undo_test.moc"
