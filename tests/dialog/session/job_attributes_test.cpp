@@ -21,6 +21,10 @@ struct Samples
 const QList<Samples> &samples()
 {
     static const QList<Samples> all{
+        {u"sides-by-hand"_s,
+         {u"no"_s, u"long-edge"_s, u"short-edge"_s},
+         {QString(), u"yes"_s, u"two-sided-long-edge"_s, u"long-edge "_s}},
+        {u"put-back"_s, {u"face-down"_s, u"face-up"_s}, {QString(), u"down"_s, u"face-up "_s}},
         {u"number-up"_s,
          {u"1"_s, u"2"_s, u"4"_s, u"6"_s, u"9"_s, u"16"_s},
          {QString(), u"0"_s, u"3"_s, u"8"_s, u"-2"_s, u"02"_s, u"2 "_s, u"2\n"_s, u"two"_s}},
