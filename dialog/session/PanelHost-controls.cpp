@@ -38,6 +38,16 @@ QString PanelHost::keywordOf(int panel, const QString &title)
         if (isCalledSo && !keywords.contains(control.keyword))
             keywords += control.keyword;
     }
+    // Of its options the panel may have no control for some, and tells of them all the same.
+    const QStringList supported =
+        keywords.isEmpty() && panel < m_panels.size()
+            ? m_panels.at(panel)->supportedPPDOptionKeys().value_or(QStringList())
+            : QStringList();
+    for (const QString &keyword : supported) {
+        const ppd_option_t *option = ppdOption(m_session.ppd(), keyword);
+        if (option && ppdText(option->text).value_or(QString()) == title)
+            keywords += keyword;
+    }
     return keywords.size() == 1 ? keywords.constFirst() : QString();
 }
 

@@ -57,6 +57,10 @@ QString JobSettings::pageRanges() const
 void JobSettings::setPageRanges(const QString &ranges)
 {
     const QString compact = QString(ranges).remove(u' ');
+    if (compact == pageRanges())
+        return;
+    // Pages that were typed and taken back leave nothing.
+    m_pageRanges.reset();
     if (compact != pageRanges())
         m_pageRanges = compact;
 }

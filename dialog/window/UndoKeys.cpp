@@ -78,7 +78,11 @@ bool UndoKeys::isForUs(const QObject *watched, const QKeyEvent *event) const
     if (way == Way::None || !widget || !m_window->isAncestorOf(widget))
         return false;
     const QLineEdit *field = fieldOf(widget);
-    return field && !(way == Way::Back ? field->isUndoAvailable() : field->isRedoAvailable());
+    if (!field)
+        return false;
+    // What was taken back last is done again first, and a field has its turn before the task has.
+    return way == Way::Back ? !field->isUndoAvailable()
+                            : m_task.canRedo() || !field->isRedoAvailable();
 }
 
 } // namespace corvana
