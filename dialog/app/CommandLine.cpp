@@ -56,7 +56,8 @@ struct Options
     QCommandLineOption checkPolicy{
         u"check-policy"_s,
         u"Say what the administrator's policy decides, and where, for the printer that is named "
-        "behind it or by -d; as root with -U for another user. Exit with status 1 when something of "
+        "behind it or by -d; as root with -U for another user. Exit with status 1 when something "
+        "of "
         "it is not used."_s};
     QCommandLineOption yes{u"yes"_s, u"Print a job of many sheets without being asked."_s};
     QCommandLineOption option{{u"o"_s, u"option"_s},

@@ -160,8 +160,8 @@ int main(int argc, char **argv)
     }
     findHome();
     const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    const bool unattended =
-        line.noDialog || line.listPrinters || line.checkPolicy || (line.documents.isEmpty() && line.summary);
+    const bool unattended = line.noDialog || line.listPrinters || line.checkPolicy ||
+                            (line.documents.isEmpty() && line.summary);
     choosePlatform(!unattended || line.checkDisplay);
     logForTerminals(unattended);
     looksForPlatform = !explicitPlatform;

@@ -140,7 +140,8 @@ std::optional<TaskRefusal> PrintTask::finish()
     }
     if (m_phase != Phase::Asking)
         return std::nullopt;
-    // Panels have saved what is theirs alone; a job is not printed with other values than were shown.
+    // Panels have saved what is theirs alone; a job is not printed with other values than were
+    // shown.
     const QStringList locked = lockedTexts(keepLocks());
     // Before the ticket: the panels restore and save on the way.
     m_run.lines = summaryOfSettings();

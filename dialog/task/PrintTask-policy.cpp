@@ -83,7 +83,8 @@ QStringList PrintTask::policyProblems()
 // The number of -n was asked for just now; any other is quietly as many as are printed.
 QStringList PrintTask::lockedCopies() const
 {
-    const bool isOther = m_request.copiesWereNamed && m_request.copies != m_settings.copiesAskedFor();
+    const bool isOther =
+        m_request.copiesWereNamed && m_request.copies != m_settings.copiesAskedFor();
     if (!isOther || m_settings.lockedBy(kCopiesAttribute).isNull())
         return {};
     return lockedTexts({kCopiesAttribute});
@@ -107,8 +108,7 @@ std::optional<TaskRefusal> PrintTask::askForManySheets()
             {tr("This job takes %1 sheets of paper. More than %2 are printed only with --yes.")
                  .arg(all)
                  .arg(most)}};
-    return *may ? std::nullopt
-                : std::optional(TaskRefusal{{}, TaskRefusal::Place::Nowhere, true});
+    return *may ? std::nullopt : std::optional(TaskRefusal{{}, TaskRefusal::Place::Nowhere, true});
 }
 
 void PrintTask::noteInJournal(const JobOutcome &outcome) const
