@@ -13,8 +13,8 @@ struct JournaledJob
 {
     QString user{};
     QString printer{};
-    int job = 0;                  ///< its number at the server; 0 when it never had one
-    std::optional<int> pages{};   ///< of the documents, for one copy; nothing where nobody counted
+    int job = 0;                ///< its number at the server; 0 when it never had one
+    std::optional<int> pages{}; ///< of the documents, for one copy; nothing where nobody counted
     std::optional<qint64> sheets{}; ///< of all copies
     bool isColor = false;
     QString outcome{}; ///< a keyword

@@ -66,8 +66,8 @@ QString policyKeyNames();
 /// Why a value is not taken, with what is; empty when it is.
 QString problemOfValue(const PolicyKeyForm &form, const QString &value);
 
-/// To which printers and to whom a section applies: to those of which one pattern fits, where it has
-/// any, and to users who are in one of its groups, where it has any.
+/// To which printers and to whom a section applies: to those of which one pattern fits, where it
+/// has any, and to users who are in one of its groups, where it has any.
 struct PolicyScope
 {
     QStringList printers{};

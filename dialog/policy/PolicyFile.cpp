@@ -150,7 +150,8 @@ private:
         if (m_result.problems.size() < kMostProblems)
             m_result.problems += PolicyProblem{{m_file, m_line}, what};
         else if (m_result.problems.size() == kMostProblems)
-            m_result.problems += PolicyProblem{{m_file, m_line}, Texts::tr("there are more problems")};
+            m_result.problems +=
+                PolicyProblem{{m_file, m_line}, Texts::tr("there are more problems")};
     }
 
     void takeSection(const QString &line)
@@ -177,18 +178,19 @@ private:
         const QString name = line.left(equals).trimmed();
         const PolicyKeyForm *form = formNamed(name);
         if (!form)
-            return refuse(Texts::tr("there is no key “%1”. Keys: %2.")
-                              .arg(shown(name), policyKeyNames()));
-        PolicyEntry entry{form->key, {}, line.mid(equals + 1).trimmed(), {}, {m_file, m_line},
-                          m_order};
+            return refuse(
+                Texts::tr("there is no key “%1”. Keys: %2.").arg(shown(name), policyKeyNames()));
+        PolicyEntry entry{form->key,        {},     line.mid(equals + 1).trimmed(), {},
+                          {m_file, m_line}, m_order};
         if (form->takesKeyword())
             entry.keyword = name.mid(form->name.size());
         if (form->takesKeyword() && !isKeyword(entry.keyword))
-            return refuse(
-                Texts::tr("%1 needs the keyword of an option or of a job attribute.").arg(form->name));
+            return refuse(Texts::tr("%1 needs the keyword of an option or of a job attribute.")
+                              .arg(form->name));
         if (const QString problem = problemOfValue(*form, shown(entry.value));
             !problem.isEmpty() || entry.value.size() > 1024)
-            return refuse(name + u": "_s + (problem.isEmpty() ? Texts::tr("the value is too long") : problem));
+            return refuse(name + u": "_s +
+                          (problem.isEmpty() ? Texts::tr("the value is too long") : problem));
         if (!m_scope)
             return; // its section was refused
         entry.scope = *m_scope;

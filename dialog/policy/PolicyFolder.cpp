@@ -54,8 +54,7 @@ QString systemError(int error)
 // permissions of the group.
 QString distrust(const struct stat &status, const PolicyPlace &place, bool isAbove)
 {
-    const bool isOwned =
-        status.st_uid == 0 || (place.mayBeUsers && status.st_uid == ::geteuid());
+    const bool isOwned = status.st_uid == 0 || (place.mayBeUsers && status.st_uid == ::geteuid());
     if (!isOwned)
         return Texts::tr("it belongs to the user with the number %1").arg(status.st_uid);
     // In a folder like /tmp nobody can take away what is another's.
@@ -112,11 +111,13 @@ public:
             return m_reading;
         }
         if (const QString why = distrust(status, m_reading.place, false); !why.isEmpty()) {
-            refuse(m_reading.place.folder, Texts::tr("nothing in this folder is used: %1").arg(why));
+            refuse(m_reading.place.folder,
+                   Texts::tr("nothing in this folder is used: %1").arg(why));
             return m_reading;
         }
         const QList<QByteArray> names = namesIn(folder.get());
-        for (const QByteArray &name : names.first(std::min<qsizetype>(names.size(), kMostPolicyFiles)))
+        for (const QByteArray &name :
+             names.first(std::min<qsizetype>(names.size(), kMostPolicyFiles)))
             readFile(folder.get(), name);
         if (names.size() > kMostPolicyFiles)
             refuse(m_reading.place.folder,

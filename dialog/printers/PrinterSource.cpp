@@ -162,7 +162,7 @@ QString PrinterSource::usersDefault()
 {
     const QString &name = m_userQueues.defaultName;
     return name.isEmpty() || isOffered(queueNamed(name, &m_deviceServer.address)) ? name
-                                                                                   : QString();
+                                                                                  : QString();
 }
 
 void PrinterSource::openWanted()

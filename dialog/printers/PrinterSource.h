@@ -19,8 +19,8 @@ struct PrinterWish
     QString name{};
     /// Where plug-in bundles are trusted.
     QStringList bundleRoots{};
-    /// Why a printer is not offered to anybody, such as by an administrator's policy; empty where it
-    /// is. Without it every printer is.
+    /// Why a printer is not offered to anybody, such as by an administrator's policy; empty where
+    /// it is. Without it every printer is.
     std::function<QString(const Printer &)> refusal{};
 };
 

@@ -8,8 +8,8 @@ namespace corvana {
 
 class PpdSession;
 
-// What locks are to values that no mark of the PPD holds: those that panels keep in entries of their
-// own, which they write without asking anybody. Only the plug-in knows these entries.
+// What locks are to values that no mark of the PPD holds: those that panels keep in entries of
+// their own, which they write without asking anybody. Only the plug-in knows these entries.
 
 /// Puts values of the panels' own back to what they are locked at. Answers the options whose values
 /// were others; the panels have to restore then. `jobValues` may be null.

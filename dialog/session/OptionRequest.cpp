@@ -126,9 +126,8 @@ QStringList markImplied(PpdSession &session, const PDEJobValues *jobValues)
         const ChangeResult result =
             session.change(mark.name, mark.value, PpdSession::Origin::Dialog);
         if (!result.accepted())
-            problems +=
-                conflictMessage({{mark.name, mark.value}, result.conflicting, result.locked},
-                                session);
+            problems += conflictMessage(
+                {{mark.name, mark.value}, result.conflicting, result.locked}, session);
     }
     return problems;
 }

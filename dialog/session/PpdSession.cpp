@@ -286,8 +286,7 @@ ChangeResult PpdSession::refuse(const ChangeResult &result, const OptionChoice &
                       << (result.conflicting.isEmpty() ? result.locked.keyword
                                                        : result.conflicting.first().keyword);
     if (origin == Origin::Panel) {
-        m_refusals.insert(proposed.keyword,
-                          Refusal{proposed, result.conflicting, result.locked});
+        m_refusals.insert(proposed.keyword, Refusal{proposed, result.conflicting, result.locked});
         Q_EMIT refused();
     }
     return result;

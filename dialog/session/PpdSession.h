@@ -112,8 +112,8 @@ public:
 
     /// Options that say the same as a choice in another form, with the choices that they would get.
     using Companions = std::function<QList<OptionChoice>(const OptionChoice &)>;
-    /// Keeps options at what they are: no change, restored state or companion of a choice moves them
-    /// from here on. What is to be marked is marked already.
+    /// Keeps options at what they are: no change, restored state or companion of a choice moves
+    /// them from here on. What is to be marked is marked already.
     void setLocks(const OptionLocks &locks, const Companions &companions = {});
     const OptionLocks &locks() const { return m_locks; }
     /// Who keeps an option at what it is: a file and a line; null: nobody does.

@@ -98,9 +98,8 @@ QList<JobOption> JobSettings::attributes() const
         all.removeIf([&](const JobOption &option) { return option.name == lock.key(); });
         all += JobOption{lock.key(), lock->value};
     }
-    all.removeIf([](const JobOption &option) {
-        return option.value.isNull() || isPageRanges(option);
-    });
+    all.removeIf(
+        [](const JobOption &option) { return option.value.isNull() || isPageRanges(option); });
     if (const QString ranges = pageRanges(); !ranges.isEmpty())
         all += JobOption{kPageRangesAttribute, ranges};
     return all;

@@ -51,9 +51,9 @@ JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attri
 /// page and the list of its options only, and the log says why. `prepare` brings the session to
 /// where it was left, and locks what nobody may change, before any panel is built on it. Errors:
 /// null; `error` says what is wrong with the PPD.
-std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
-                                           const QStringList &bundleRoots,
-                                           AlertPresenter &presenter, QString *error,
-                                           const std::function<void(OpenedPrinter &)> &prepare = {});
+std::unique_ptr<OpenedPrinter>
+openPrinter(const FetchedPrinter &fetched, const QStringList &bundleRoots,
+            AlertPresenter &presenter, QString *error,
+            const std::function<void(OpenedPrinter &)> &prepare = {});
 
 } // namespace corvana

@@ -51,8 +51,9 @@ QString refusalText(const Refusal &refusal, const PpdSession &session)
     if (refusal.conflicting.isEmpty())
         return Texts::tr("The printer's options cannot be set to %1.")
             .arg(textOf(refusal.proposed, session));
-    QString text = Texts::tr("%1 cannot be combined with %2.")
-                       .arg(textOf(refusal.proposed, session), textOf(refusal.conflicting, session));
+    QString text =
+        Texts::tr("%1 cannot be combined with %2.")
+            .arg(textOf(refusal.proposed, session), textOf(refusal.conflicting, session));
     for (const OptionChoice &other : refusal.conflicting) {
         if (session.locks().contains(other.keyword))
             text += u'\n' + lockedText(other.keyword, session);

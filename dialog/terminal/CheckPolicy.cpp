@@ -82,8 +82,7 @@ public:
             if (phase != Phase::Fetching)
                 m_loop.quit();
         });
-        QObject::connect(&m_termination, &TerminationSignals::received, &m_loop,
-                         &QEventLoop::quit);
+        QObject::connect(&m_termination, &TerminationSignals::received, &m_loop, &QEventLoop::quit);
     }
 
     // Whether everything is used there.
@@ -156,8 +155,8 @@ int checkPolicy(const PrintRequest &request, const QString &user)
         if (!isUser(user))
             return fail(Texts::tr("There is no user of the name “%1”.").arg(user));
     }
-    asked.policy = std::make_shared<const Policy>(policyOf(request).reading(),
-                                                  userWithGroups(user));
+    asked.policy =
+        std::make_shared<const Policy>(policyOf(request).reading(), userWithGroups(user));
     QTextStream out(stdout);
     bool isWhole = asked.policy->reading().problems.isEmpty();
     if (asked.wantedPrinter.isEmpty() && asked.printers.isEmpty()) {

@@ -39,8 +39,8 @@ protected:
     {
         QPainter painter(this);
         const bool isButton = qobject_cast<QAbstractButton *>(parentWidget()) != nullptr;
-        const bool isField = parentWidget()->inherits("QLineEdit") ||
-                             parentWidget()->inherits("QAbstractSpinBox");
+        const bool isField =
+            parentWidget()->inherits("QLineEdit") || parentWidget()->inherits("QAbstractSpinBox");
         if (!isButton && !parentWidget()->inherits("QAbstractSlider"))
             painter.fillRect(rect(), palette().color(isField ? QPalette::Base : QPalette::Button));
         const int size = qMin(width(), height());
@@ -173,8 +173,8 @@ void ControlLock::say(const QString &why)
     m_control->setToolTip(toolTip);
     if (m_label)
         m_label->setToolTip(toolTip);
-    m_control->setAccessibleDescription(
-        m_description.isEmpty() ? why : m_description + u'\n' + why);
+    m_control->setAccessibleDescription(m_description.isEmpty() ? why
+                                                                : m_description + u'\n' + why);
 }
 
 void ControlLock::placeMark()

@@ -10,10 +10,10 @@ class QWidget;
 namespace corvana {
 
 /// Shows that a control's value is an administrator's to choose: it keeps the focus and stays
-/// readable, a padlock stands on it, its tool tip and its accessible description say who has chosen,
-/// and what would change it is not taken. It is neither disabled, which would take the focus and the
-/// words from a screen reader, nor does it fight rules of its owner that disable it for another
-/// reason.
+/// readable, a padlock stands on it, its tool tip and its accessible description say who has
+/// chosen, and what would change it is not taken. It is neither disabled, which would take the
+/// focus and the words from a screen reader, nor does it fight rules of its owner that disable it
+/// for another reason.
 ///
 /// What gets past it all the same, such as an action of assistive technology, is refused by the
 /// task, which knows the same locks.

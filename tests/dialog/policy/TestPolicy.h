@@ -10,11 +10,12 @@
 
 namespace corvana::test {
 
-/// A policy of files of these texts, named "1.conf", "2.conf" and so on, for a user in these groups.
+/// A policy of files of these texts, named "1.conf", "2.conf" and so on, for a user in these
+/// groups.
 std::shared_ptr<const Policy> policyFrom(const QList<QByteArray> &texts,
-                                       const QStringList &groups = {});
+                                         const QStringList &groups = {});
 inline std::shared_ptr<const Policy> policyFrom(const QByteArray &text,
-                                              const QStringList &groups = {})
+                                                const QStringList &groups = {})
 {
     return policyFrom(QList{text}, groups);
 }

@@ -14,8 +14,8 @@ struct Refused
 {
     const char *name;
     QByteArray text;
-    int line;          ///< that the problem names
-    const char *says;  ///< in the problem
+    int line;         ///< that the problem names
+    const char *says; ///< in the problem
 };
 
 const Refused kRefused[] = {
@@ -70,8 +70,7 @@ private Q_SLOTS:
                                                 "default.Note = a # b = c\n"
                                                 "presets =\n",
                                                 u"/x.conf"_s, 3);
-        QVERIFY2(file.problems.isEmpty(),
-                 qPrintable(file.problems.value(0).text()));
+        QVERIFY2(file.problems.isEmpty(), qPrintable(file.problems.value(0).text()));
         QCOMPARE(file.entries.size(), 5);
         const PolicyEntry &lock = file.entries.at(0);
         QCOMPARE(lock.key, PolicyKey::Lock);
@@ -140,8 +139,10 @@ private Q_SLOTS:
     {
         QRandomGenerator random(15);
         static const QByteArray kPieces[] = {
-            "[", "]", "[all]", "[printer ", "group ", ",", "\"", "=", "\n", "\r", "lock.", "hide",
-            "default.A", "\n[all]\n", "\nhide=yes\n", "yes", "no", "#", " ", "\t", "\xff", "\xc3", "\xe2\x80\xae", "*", "x"};
+            "[",  "]",  "[all]", "[printer ", "group ",    ",",         "\"",           "=",
+            "\n", "\r", "lock.", "hide",      "default.A", "\n[all]\n", "\nhide=yes\n", "yes",
+            "no", "#",  " ",     "\t",        "\xff",      "\xc3",      "\xe2\x80\xae", "*",
+            "x"};
         qsizetype entries = 0;
         for (int i = 0; i < 20000; ++i) {
             QByteArray text;

@@ -32,7 +32,8 @@ constexpr Fit kFits[] = {
     {"one instance only", "[printer lobby/reports]", "lobby", "", false},
     {"that instance", "[printer lobby/reports]", "LOBBY/reports", "", true},
     {"the queue as a device", "[printer lobby]", "ipp://server/printers/lobby", "", true},
-    {"the queue as a device, in capitals", "[printer lobby]", "ipp://server/Printers/LOBBY", "", true},
+    {"the queue as a device, in capitals", "[printer lobby]", "ipp://server/Printers/LOBBY", "",
+     true},
     {"a class as a device", "[printer lobby]", "ipp://server/classes/lobby", "", true},
     {"a device by its address", "[printer ipp://10.0.0.*]", "ipp://10.0.0.7/ipp/print", "", true},
     {"another device", "[printer lobby]", "ipp://server/ipp/print", "", false},
@@ -94,7 +95,7 @@ private Q_SLOTS:
         const Fit &row = currentRow(kFits);
         const QString group = QString::fromUtf8(row.group);
         const auto policy = policyFrom(QByteArray(row.section) + "\nhide = yes\n",
-                                     group.isEmpty() ? QStringList() : QStringList{group});
+                                       group.isEmpty() ? QStringList() : QStringList{group});
         QVERIFY(policy->reading().problems.isEmpty());
         QCOMPARE(policy->whatHides(printerNamed(QString::fromUtf8(row.printer))).has_value(),
                  row.fits);
@@ -131,11 +132,11 @@ private Q_SLOTS:
     void everyKeyIsDecidedByTheSameOrder()
     {
         const auto policy = policyFrom({"[all]\nhide=yes\nfile-output=no\nlast-used=no\n"
-                                      "presets=/a\njournal=yes\njournal-title=yes\n"
-                                      "confirm-sheets=5\n",
-                                      "[printer hall]\nhide=no\nfile-output=yes\nlast-used=yes\n"
-                                      "presets=/b\njournal=no\njournal-title=no\n"
-                                      "confirm-sheets=7\n"});
+                                        "presets=/a\njournal=yes\njournal-title=yes\n"
+                                        "confirm-sheets=5\n",
+                                        "[printer hall]\nhide=no\nfile-output=yes\nlast-used=yes\n"
+                                        "presets=/b\njournal=no\njournal-title=no\n"
+                                        "confirm-sheets=7\n"});
         const Printer lobby = queue(u"lobby"_s);
         const Printer hall = queue(u"hall"_s);
         QVERIFY(policy->whatHides(lobby) && !policy->whatHides(hall));

@@ -48,7 +48,7 @@ public:
 
     std::optional<bool> printsMany = true; ///< what it answers to a job of many sheets
     QStringList confirmations;             ///< what it was asked so
-    QStringList warnings; ///< what it was asked to print without
+    QStringList warnings;                  ///< what it was asked to print without
     /// The problems of the last refusal; empty when there is none.
     QStringList problems() const;
     /// The text of the last message; null when there is none.

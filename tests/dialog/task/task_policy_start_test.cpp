@@ -15,8 +15,8 @@ struct Against
 {
     const char *name;
     By by;
-    const char *lock;   ///< KEYWORD=VALUE
-    const char *option; ///< what somebody sets against it
+    const char *lock;    ///< KEYWORD=VALUE
+    const char *option;  ///< what somebody sets against it
     const char *keyword; ///< that is looked at afterwards
     const char *value;
 };

@@ -208,9 +208,9 @@ private Q_SLOTS:
 
     void aHiddenPrinterIsInNoListAndIsNotOpenedByName()
     {
-        PrintRequest request = m_scene->request(
-            {m_scene->printer(u"one"_s, smallPrinter().text()),
-             m_scene->printer(u"two"_s, smallPrinter().text())});
+        PrintRequest request =
+            m_scene->request({m_scene->printer(u"one"_s, smallPrinter().text()),
+                              m_scene->printer(u"two"_s, smallPrinter().text())});
         request.policy = policyFrom("[printer one]\nhide = yes\n");
         m_scene->make(request).start();
         QCOMPARE(task().printer().name, u"two"_s);
@@ -299,7 +299,7 @@ private Q_SLOTS:
         QVERIFY(m_scene->reaches(Phase::Ended));
         QCOMPARE(lines.size(), 1);
         QVERIFY2(lines.at(0) == "print user=\"anna\" printer=\"cl5\" pages=1 sheets=2 color=yes "
-                                 "outcome=printed",
+                                "outcome=printed",
                  lines.at(0).constData());
         request.policy = policyFrom("[all]\njournal=yes\njournal-title=yes\n");
         m_scene->open(request);

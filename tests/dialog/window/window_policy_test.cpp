@@ -39,9 +39,9 @@ private:
     void strain(QWidget *control)
     {
         control->setFocus();
-        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Home, Qt::Key_Space,
-                                  Qt::Key_F4, Qt::Key_PageDown, Qt::Key_A, Qt::Key_O, Qt::Key_9,
-                                  Qt::Key_Plus, Qt::Key_Right, Qt::Key_Left})
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Home,
+                                  Qt::Key_Space, Qt::Key_F4, Qt::Key_PageDown, Qt::Key_A, Qt::Key_O,
+                                  Qt::Key_9, Qt::Key_Plus, Qt::Key_Right, Qt::Key_Left})
             QTest::keyClick(control, key);
         QTest::keyClick(control, Qt::Key_Down, Qt::AltModifier);
         QTest::mouseClick(control, Qt::LeftButton);
