@@ -192,10 +192,10 @@ theCompletionOffersEveryAttributeOfAJob() {
 
 keywordsOfJobsAreOffered() {
     local keyword
-    expect_equal "$(offered corvana-print -o sid)" 'sides= '
+    expect_equal "$(offered corvana-print -o sid)" 'sides-by-hand= sides= '
     expect_equal "$(offered corvana-print --option page-s)" 'page-set= '
     refused_as_unknown nonsense=1 || fail 'an unknown option is not told from others' "$(cat out)"
-    for keyword in $(complete_line corvana-print -o '' | grep -vx raw=); do
+    for keyword in $(complete_line corvana-print -o '' | grep -vxE 'raw=|sides-by-hand='); do
         ! refused_as_unknown "${keyword}1" || ! refused_as_unknown "${keyword}true" || fail "offered, and not known: $keyword"
     done
 }
@@ -205,8 +205,8 @@ valuesOfKeywordsAreOffered() {
     expect_equal "$(offered corvana-print -o sides = two)" \
         'two-sided-long-edge two-sided-short-edge '
     expect_equal "$(offered corvana-print -o page-set =)" 'all even odd '
-    # A sample printer has no filters to go past.
-    for keyword in $(complete_line corvana-print -o '' | grep -vx raw=); do
+    # A sample printer has no filters to go past, and turns its sheets over itself.
+    for keyword in $(complete_line corvana-print -o '' | grep -vxE 'raw=|sides-by-hand='); do
         for value in $(complete_line corvana-print -o "${keyword%=}" = ''); do
             "$build/bin/corvana-print" --bundle-root "$build/plugins" --demo --no-dialog \
                 --summary -o "$keyword$value" >"$work/out" 2>&1 || fail "not taken: $keyword$value" "$(cat "$work/out")"
