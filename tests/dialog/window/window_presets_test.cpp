@@ -87,7 +87,7 @@ private:
         auto *dialog = inFront<QDialog>();
         QVERIFY(dialog);
         auto *field = dialog->findChild<QLineEdit *>(u"presetName"_s);
-        QVERIFY(field->hasFocus());
+        QTRY_VERIFY(field->hasFocus());
         field->clear();
         QTest::keyClicks(field, name);
         QTest::keyClick(field, Qt::Key_Return);
