@@ -50,6 +50,7 @@ void PrintTask::takeComingSettings()
         return;
     m_opened->panels->restoreTo(settings->session);
     m_settings = settings->job;
+    m_settings.setLocks(m_opened->session->locks());
     m_settings.setMostCopies(mostCopiesOf(*m_opened));
 }
 

@@ -55,14 +55,14 @@ const Chosen kChosen[] = {
     {"nothing of a range", 5, {u"9-"_s}, 0},
 };
 
-struct Paper
+struct PaperRow
 {
     const char *name;
     QList<std::optional<int>> sides;
     bool twoSided;
     std::optional<int> sheets;
 };
-const Paper kPapers[] = {
+const PaperRow kPapers[] = {
     {"one-sided", {5}, false, 5},
     {"two-sided, the last has no back", {5}, true, 3},
     {"two-sided, one side", {1}, true, 1},
@@ -99,7 +99,7 @@ private Q_SLOTS:
     void sidesBecomeSheets_data() { addRows(kPapers); }
     void sidesBecomeSheets()
     {
-        const Paper &row = currentRow(kPapers);
+        const PaperRow &row = currentRow(kPapers);
         JobSheets sheets{{}, row.twoSided};
         for (const std::optional<int> &sides : row.sides)
             sheets.documents += DocumentSheets{u"a"_s, sides, sides};

@@ -5,6 +5,7 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/LeftSession.h"
+#include "dialog/task/PresetApplication.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -91,12 +92,25 @@ private:
             values->takeJobOption(kSome.at(below(kSome.size())), session().printSettings(),
                                   session().ppd());
     }
+    // As one that was kept where nothing was locked.
+    PresetContent anyPreset()
+    {
+        PresetContent preset;
+        for (int i = 0; i < 3; ++i) {
+            const OptionChoice choice = anyChoice();
+            preset.options.insert(choice.keyword, choice.choice);
+            const JobOption attribute = anyAttribute();
+            preset.attributes.insert(attribute.name, attribute.value);
+        }
+        preset.options.insert(u"QXDensityAdjustment"_s, u"-2"_s);
+        return preset;
+    }
     void step()
     {
         const OptionChoice choice = anyChoice();
         const JobOption attribute = anyAttribute();
         PanelHost &panels = *task().opened()->panels;
-        switch (below(12)) {
+        switch (below(16)) {
         case 0:
         case 1:
             return task().propose(choice.keyword, choice.choice);
@@ -129,6 +143,15 @@ private:
             // A state of before the lock, by undo, a preset, or a printer that comes back.
             session().restore(m_free.at(below(m_free.size())));
             panels.restoreAll();
+            return;
+        case 11:
+            return task().undo();
+        case 12:
+            return task().redo();
+        case 13:
+            return task().resetAll();
+        case 14:
+            applyPreset(anyPreset(), {}, task().documents(), *task().opened(), task().settings());
             return;
         default:
             applyOptions({{attribute.name, attribute.value.isNull() ? u"1"_s : attribute.value},
