@@ -223,7 +223,8 @@ void PrintTask::recordSoon()
 // that is ticked and disabled asks for on and off again at each save.
 void PrintTask::recordStep(const QString &name)
 {
-    if (m_phase != Phase::Ready || m_opened->panels->isBusy())
+    // The pages of a printer that is being closed still say that a field was left.
+    if (!m_opened || m_phase != Phase::Ready || m_opened->panels->isBusy())
         return; // it is recorded when the panel is done
     m_opened->panels->deliverPending();
     if (m_phase != Phase::Ready || m_opened->panels->isBusy())

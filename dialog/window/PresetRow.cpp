@@ -7,6 +7,7 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/ElidedToolButton.h"
+#include "dialog/window/PresetButton.h"
 #include "dialog/window/PresetMenu.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/chooser/PrinterIcon.h"
@@ -23,9 +24,7 @@ PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task
     buildButtons();
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_label);
-    row->addWidget(m_preset);
-    row->addStretch(1);
+    row->addWidget(m_preset, 1);
     row->addWidget(m_reset);
     row->addWidget(m_undo);
     row->addWidget(m_redo);
@@ -37,11 +36,8 @@ PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task
 
 void PresetRow::buildPreset()
 {
-    m_preset = new ElidedToolButton(this);
+    m_preset = new PresetButton(this);
     m_preset->setObjectName(u"preset"_s);
-    m_preset->setPopupMode(QToolButton::InstantPopup);
-    m_preset->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_preset->setFocusPolicy(Qt::StrongFocus);
     m_preset->setMenu(new PresetMenu(m_task.presets(), m_preset));
     m_label = new QLabel(tr("Prese&t:"), this);
     m_label->setBuddy(m_preset);
@@ -68,7 +64,9 @@ void PresetRow::buildReset()
     m_reset->setObjectName(u"reset"_s);
     m_reset->setText(tr("Reset"));
     m_reset->setAutoRaise(true);
-    m_reset->setPopupMode(QToolButton::InstantPopup);
+    // The whole of it opens the menu; another kind of button would hide its arrow under the text.
+    m_reset->setPopupMode(QToolButton::MenuButtonPopup);
+    connect(m_reset, &QToolButton::clicked, m_reset, &QToolButton::showMenu);
     auto *menu = new QMenu(m_reset);
     m_resetPage = menu->addAction(QString());
     m_resetPage->setObjectName(u"resetPage"_s);

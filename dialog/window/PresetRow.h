@@ -9,6 +9,7 @@ class QToolButton;
 namespace corvana {
 
 class ElidedToolButton;
+class PresetButton;
 class PrintTask;
 class SettingsPages;
 
@@ -23,6 +24,8 @@ class PresetRow : public QWidget
 public:
     explicit PresetRow(PrintTask &task, QWidget *parent = nullptr);
 
+    /// The label that titles the row, for the column of labels that it stands in.
+    QLabel *label() const { return m_label; }
     /// Offers to take back what was changed on the page that is shown. Borrows the pages.
     void setPages(SettingsPages *pages);
 
@@ -37,7 +40,7 @@ private:
     PrintTask &m_task;
     SettingsPages *m_pages = nullptr;
     QLabel *m_label = nullptr;
-    ElidedToolButton *m_preset = nullptr;
+    PresetButton *m_preset = nullptr;
     QToolButton *m_reset = nullptr;
     QAction *m_resetPage = nullptr;
     QAction *m_resetAll = nullptr;

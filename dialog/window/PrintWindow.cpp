@@ -103,14 +103,14 @@ void PrintWindow::buildWindow()
 void PrintWindow::buildColumns(SettingsColumn *settings)
 {
     m_header = new PrinterHeader(m_task->output(), settings);
-    auto *presets = new PresetRow(*m_task, settings);
+    auto *presets = new PresetRow(*m_task, m_header);
+    m_header->addRow(presets->label(), presets);
     m_message = new MessageBar(settings);
     m_message->setObjectName(u"message"_s);
     m_pages = new SettingsPages(*m_task, settings);
     presets->setPages(m_pages);
-    for (QWidget *part : {static_cast<QWidget *>(m_header), static_cast<QWidget *>(presets),
-                          static_cast<QWidget *>(m_message)})
-        settings->layout()->addWidget(part);
+    settings->layout()->addWidget(m_header);
+    settings->layout()->addWidget(m_message);
     static_cast<QBoxLayout *>(settings->layout())->addWidget(m_pages, 1);
     m_preview = new PreviewPane(this); // behind the settings for Tab
     auto *columns = new QBoxLayout(QBoxLayout::LeftToRight);

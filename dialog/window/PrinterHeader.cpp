@@ -37,6 +37,11 @@ PrinterHeader::PrinterHeader(const QString &output, QWidget *parent)
     });
 }
 
+void PrinterHeader::addRow(QWidget *label, QWidget *row)
+{
+    static_cast<QFormLayout *>(layout())->addRow(label, row);
+}
+
 QWidget *PrinterHeader::buildOutputLabel()
 {
     auto *label = new QWidget(this);

@@ -23,6 +23,8 @@ public:
     /// `output` is the file that is proposed.
     explicit PrinterHeader(const QString &output, QWidget *parent = nullptr);
 
+    /// Adds a row at the end, its label in the column of the others. Ownership: takes both.
+    void addRow(QWidget *label, QWidget *row);
     PrinterComboBox *printers() const { return m_printers; }
     PrinterStatusLine *status() const { return m_status; }
     /// Shows the printers with the icons of the desktop's theme; until then with our own.

@@ -14,7 +14,8 @@ choicesOfTheGeneralPageByKeyboardReachThePrinter() {
     open_dialog
     settle
     press ctrl+a 3
-    press Tab Tab Tab Down Tab Down Tab Down Tab Up # past collating and pages: two-sided, paper size, output, colors matched by
+    # Past collating, the pages and their button: two-sided, paper size, output, colors matched by.
+    press Tab Tab Tab Tab Down Tab Down Tab Down Tab Up
     settle
     print_in_dialog
     expect_code Duplex=DuplexNoTumble PageSize=Letter QXOutput=FAX \
@@ -107,7 +108,7 @@ aBoxClickedByMouseReachesThePrinter() {
     take_picture off
     press space
     take_picture on
-    area=$(changed_area off on)
+    area=$(changed_area off on "$pages_begin") # above them stands what can be undone
     [ -n "$area" ] || fail 'the box does not change'
     press space
     settle
@@ -135,7 +136,7 @@ theDialogKeepsEverythingWhenPrintingFailsAndPrintsAtTheNextTry() {
     output=$folder/missing/job.ps
     open_dialog -o QXInputSlot=Tray1
     settle
-    press ctrl+a 2 Tab Tab Tab Down ctrl+Next Down ctrl+Next Down
+    press ctrl+a 2 Tab Tab Tab Tab Down ctrl+Next Down ctrl+Next Down
     settle
     press alt+p
     await 'the message' message_is_logged 'cannot be written'
@@ -156,7 +157,7 @@ open_conflict() {
     local area
     open_dialog -o QXMediaType=Glossy
     settle
-    press Tab Tab
+    press Tab Tab Tab
     take_picture before
     press Down
     take_picture after

@@ -142,7 +142,7 @@ private Q_SLOTS:
     void aPrinterWithPanels()
     {
         open(true);
-        QCOMPARE(pages()->count(), 4);
+        QCOMPARE(pages()->count(), 5); // with that of all options
         for (int page = 0; page < pages()->count(); ++page) {
             pages()->setCurrentIndex(page);
             if (auto *more = pages()->currentWidget()->findChild<QPushButton *>(u"optionButton"_s);

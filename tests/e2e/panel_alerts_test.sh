@@ -93,7 +93,7 @@ aSilencedAlertStaysAwayUntilTheDialogBringsItBack() {
     press alt+r shift+Tab shift+Tab shift+Tab space
     settle
     settle
-    press alt+r Tab Tab Tab Tab # past the file, its button and the pages' titles, to the media
+    press ctrl+Prior ctrl+Next # to the media, on which the page begins
     press Up Down
     answer_alert Return
     print_in_dialog

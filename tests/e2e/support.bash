@@ -64,6 +64,9 @@ make_work() {
     mkdir -p "$folder" "$work/runtime" "$work/home"
     chmod 700 "$work/runtime"
     export XDG_RUNTIME_DIR=$work/runtime HOME=$work/home XDG_CONFIG_HOME=$work/home/.config
+    # Each window begins with the settings of the printer, not with those of the one before.
+    mkdir -p "$XDG_CONFIG_HOME/corvana-print"
+    printf '[General]\nlastUsed=false\n' >"$XDG_CONFIG_HOME/corvana-print/com.corvana.print.dialog.ini"
     : >"$work/out"
     : >"$work/err"
     cd "$folder" || exit

@@ -81,12 +81,16 @@ take_picture() {
     settle
     cp "$work/screen/Xvfb_screen0" "$work/$1.xwd"
 }
-# changed_area NAME NAME: left, top, right and bottom of what differs between two pictures.
+# Where the pages of a dialog begin that fills the screen from its corner on.
+readonly pages_begin=190
+# changed_area NAME NAME [TOP]: left, top, right and bottom of what differs between two pictures, from
+# the row TOP on.
 changed_area() {
     local header=$(($(stat -c %s "$work/$1.xwd") - screen_width * screen_height * 4))
-    cmp -l "$work/$1.xwd" "$work/$2.xwd" | awk -v header="$header" -v width="$screen_width" '
+    cmp -l "$work/$1.xwd" "$work/$2.xwd" | awk -v header="$header" -v width="$screen_width" -v from="${3-0}" '
         $1 > header {
             pixel = int(($1 - header - 1) / 4); x = pixel % width; y = int(pixel / width)
+            if (y < from) next
             if (!n++) { left = right = x; top = bottom = y }
             if (x < left) left = x; if (x > right) right = x; if (y > bottom) bottom = y
         }

@@ -92,6 +92,7 @@ void FindField::takeIconFromTheme()
     m_edit->setClearButtonEnabled(true);
     m_edit->addAction(searchIcon(), QLineEdit::LeadingPosition);
     m_button->setIcon(searchIcon());
+    m_edit->update(); // its text begins behind the icon by now
 }
 
 QList<QWidget *> FindField::focusOrder() const
