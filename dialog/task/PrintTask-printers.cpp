@@ -95,11 +95,9 @@ void PrintTask::take(const FetchedPrinter &ready)
     rememberSession(&ready);
     open(ready);
     if (again && m_opened)
-        Q_EMIT said({TaskMessage::Kind::Information,
-                     tr("The options of the printer have changed at its server; yours were kept."),
-                     {},
-                     {},
-                     true});
+        Q_EMIT said({.text = tr("The options of the printer have changed at its server; yours were "
+                                "kept."),
+                     .canWait = true});
 }
 
 void PrintTask::takeNext()

@@ -15,9 +15,9 @@ struct TaskMessage
     QString text{};
     QString offer{};              ///< what the user can do about it ("Change to …"); else empty
     std::function<void()> take{}; ///< does it; for as long as the printer is open
+    bool canWait = false;         ///< not worth saying while something else is being said
+    QString details{};            ///< names, numbers, programs' words, for who asks; else empty
     bool staysWithoutPrinter = false; ///< `take` needs no printer: it is about the documents
-    bool canWait = false;             ///< not worth saying while something else is being said
-    QString details{};                ///< names, numbers, programs' words, for who asks; else empty
 };
 
 /// Why a task does not print, and where a user can mend it.

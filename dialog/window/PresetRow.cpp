@@ -17,6 +17,13 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The names of options may be long, and the preset needs room as well. Units: heights of the font.
+constexpr int kUndoWidth = 10;
+
+} // namespace
+
 PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task(task)
 {
     buildPreset();
@@ -96,6 +103,7 @@ void PresetRow::buildButtons()
     m_redo = new QToolButton(this);
     m_redo->setObjectName(u"redo"_s);
     m_redo->setIcon(redoIcon());
+    m_undo->setMaximumWidth(kUndoWidth * fontMetrics().height());
     for (QToolButton *button : {static_cast<QToolButton *>(m_undo), m_redo})
         button->setAutoRaise(true);
     connect(m_undo, &QToolButton::clicked, &m_task, &PrintTask::undo);

@@ -93,7 +93,8 @@ aSilencedAlertStaysAwayUntilTheDialogBringsItBack() {
     press alt+r shift+Tab shift+Tab shift+Tab space
     settle
     settle
-    press ctrl+Prior ctrl+Next # to the media, on which the page begins
+    # Past the file, its button, the preset, the ways back and the pages' titles, to the media.
+    press alt+r Tab Tab Tab Tab Tab Tab Tab
     press Up Down
     answer_alert Return
     print_in_dialog

@@ -81,8 +81,8 @@ take_picture() {
     settle
     cp "$work/screen/Xvfb_screen0" "$work/$1.xwd"
 }
-# Where the pages of a dialog begin that fills the screen from its corner on.
-readonly pages_begin=190
+# Where the pages begin of a dialog in the middle of the screen.
+readonly pages_begin=250
 # changed_area NAME NAME [TOP]: left, top, right and bottom of what differs between two pictures, from
 # the row TOP on.
 changed_area() {
