@@ -17,6 +17,13 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Less than a style has: with large fonts on a small screen each row counts. Units: pixels.
+constexpr int kRowSpacing = 2;
+
+} // namespace
+
 PrinterHeader::PrinterHeader(const QString &output, QWidget *parent)
     : QWidget(parent), m_printers(new PrinterComboBox(this)), m_status(new PrinterStatusLine(this))
 {
@@ -25,6 +32,7 @@ PrinterHeader::PrinterHeader(const QString &output, QWidget *parent)
 
     auto *form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(kRowSpacing);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("P&rinter:"), m_printers);

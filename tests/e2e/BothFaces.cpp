@@ -66,9 +66,10 @@ FaceEnd printInWindow(const QStringList &arguments, const QString &output)
     const ParsedCommandLine parsed = parseCommandLine(
         QStringList{u"corvana-print"_s, u"--bundle-root"_s, bundleRoot()} + arguments);
     QString error;
-    const auto request = preparePrintRequest(parsed.commandLine.value(), &error);
+    auto request = preparePrintRequest(parsed.commandLine.value(), &error);
     if (!request)
         return {error};
+    request->remembersLastUsed = false; // a run without a window knows nothing of it
     AlertAnswerer alerts;
     WindowDriver window(*request);
     const bool opened = QTest::qWaitFor(

@@ -189,10 +189,10 @@ private:
     }
     SheetPreview preview()
     {
-        QSignalSpy counted(&task(), &PrintTask::sheetsCounted);
         task().countSheets();
-        if (counted.isEmpty())
-            counted.wait(kHandPatience);
+        // The first sheets of a long document are known before the whole of it.
+        QTest::qWaitFor([&] { return task().sheetPreview().state == SheetPreview::State::Known; },
+                        kHandPatience);
         return task().sheetPreview();
     }
     bool waitForTheEnd()
