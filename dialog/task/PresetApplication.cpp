@@ -20,6 +20,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Texts
@@ -42,6 +44,7 @@ public:
     {
         m_printer.panels->bringUp();
         sortOptions();
+        leaveOutSourceOfHandFed();
         markChoices();
         writeEntries();
         writeOwnValues();
@@ -90,6 +93,15 @@ private:
                 note(option.name, Texts::tr("%1 is not possible on this printer. Allowed: %2.")
                                       .arg(textOf(option), claim.allowed));
         }
+    }
+
+    // libcups takes the mark of the paper source away when sheets are fed by hand, and the other
+    // way round, so that one of them would undo the other for ever.
+    void leaveOutSourceOfHandFed()
+    {
+        if (m_choices.contains(OptionChoice{u"ManualFeed"_s, u"True"_s}))
+            m_choices.removeIf(
+                [](const OptionChoice &one) { return one.keyword == "InputSlot"_L1; });
     }
 
     void sortChoice(const JobOption &option)

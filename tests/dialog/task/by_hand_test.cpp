@@ -191,9 +191,10 @@ private:
     {
         task().countSheets();
         // The first sheets of a long document are known before the whole of it.
-        QTest::qWaitFor([&] { return task().sheetPreview().state == SheetPreview::State::Known; },
-                        kHandPatience);
-        return task().sheetPreview();
+        const auto isKnown = [&] {
+            return task().sheetPreview().state == SheetPreview::State::Known;
+        };
+        return QTest::qWaitFor(isKnown, kHandPatience) ? task().sheetPreview() : SheetPreview();
     }
     bool waitForTheEnd()
     {

@@ -113,6 +113,8 @@ private:
         if (!option || option->num_choices == 0)
             return;
         const QString keyword = ppdKeyword(option->keyword);
+        if (neverKept(session).contains(keyword))
+            return;
         QString choice = ppdKeyword(option->choices[below(option->num_choices)].choice);
         if (choice == kCustomChoice) {
             if (keyword == kPageSizeOption)
@@ -242,7 +244,8 @@ private Q_SLOTS:
                                   left.at(i).value.toUtf8() + " for " + right.at(i).value.toUtf8())
                                      .constData());
                     QCOMPARE(left.size(), right.size());
-                    if (isFresh)
+                    // Foreign PPDs have options without any text, whose lines say nothing.
+                    if (isFresh && !QFileInfo(ppd).fileName().startsWith("foreign"_L1))
                         QVERIFY2(sortedLines(second.summary()) == sortedLines(first.summary()),
                                  (where + sortedLines(second.summary()).join(u'\n').toUtf8() +
                                   "\nfor\n" + sortedLines(first.summary()).join(u'\n').toUtf8())
