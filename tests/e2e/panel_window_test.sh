@@ -83,7 +83,7 @@ theWindowGrowsWithTheAdvancedOptionsAndShrinksAgain() {
     open_dialog
     settle
     press ctrl+Next Tab Tab Tab Tab
-    resize_window 700 530
+    resize_window 700 505
     closed=$(window_size)
     press space
     open=$(window_size)
@@ -100,7 +100,7 @@ theAdvancedOptionsStayOpenWhenThePageIsLeft() {
     open_dialog
     settle
     press ctrl+Next Tab Tab Tab Tab
-    resize_window 700 530
+    resize_window 700 505
     closed=$(window_size)
     press space
     open=$(window_size)
@@ -131,13 +131,13 @@ aTallWindowDoesNotGrow() {
 theNextDialogHasTheSizeThatTheUserGaveThisOne() {
     open_dialog
     settle
-    resize_window 711 531
+    resize_window 711 506
     press ctrl+Next Tab Tab Tab Tab space
-    expect_taller 711x531 "$(window_size)" # what this needs on top is not the user's
+    expect_taller 711x506 "$(window_size)" # what this needs on top is not the user's
     press Escape
     expect_end
     open_dialog
-    expect_equal "$(window_size)" 711x531
+    expect_equal "$(window_size)" 711x506
     resize_window 803 577
     print_in_dialog
     open_dialog
