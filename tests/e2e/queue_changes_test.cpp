@@ -18,12 +18,14 @@ namespace {
 using States = QList<int>;
 using Manner = FaultyServer::Manner;
 
-/// How late a change of the queues may show. Units: milliseconds.
-constexpr int kSeconds = 8000;
+/// How late a change of the queues may show on a busy machine. Units: milliseconds.
+constexpr int kSeconds = 20000;
 /// After this time a server that is away is asked again by itself. Units: milliseconds.
 constexpr int kNextTry = 20000;
-/// What the arrival of anything may take from the window. Units: milliseconds.
-constexpr qint64 kLongestGap = 250 * kSlowdown;
+/// A window that waits for a server stands still for the patience of the scene, 2 seconds, at
+/// least. What the window does itself is far less, but a busy machine makes many times that of it.
+/// Units: milliseconds.
+constexpr qint64 kLongestGap = 1500;
 
 } // namespace
 
