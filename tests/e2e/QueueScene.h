@@ -77,6 +77,11 @@ struct QueueScene
     std::unique_ptr<QueueDriver> window;
 };
 
+/// A window that waits for a server stands still for the patience of the scene, 2 seconds, at
+/// least. What the window does itself is far less, but a busy machine makes many times that of it.
+/// Units: milliseconds.
+inline constexpr qint64 kLongestGap = 1500;
+
 /// What tests of one queue set up: folders of a user, a document, and a window whose settings are
 /// not what it comes with.
 class QueueFixture : public QObject
@@ -95,6 +100,16 @@ protected:
         scene.open({m_document});
         QVERIFY(scene.window->waitUntil([&] { return scene.window->canPrint(); }));
         scene.window->changeSettings();
+    }
+
+    /// Prints what the window shows; it is the server's job number `job`.
+    static void printAndVerify(QueueScene &scene, int job)
+    {
+        QVERIFY(scene.window->press(u"print"_s));
+        QVERIFY(scene.window->waitForTheEnd());
+        QVERIFY2(matches(scene.window->dialog().report(), kPrintedAs.arg(job)),
+                 qPrintable(scene.window->message()));
+        QCOMPARE(scene.cups.job(job).state, IPP_JSTATE_COMPLETED);
     }
 
     std::optional<UserFolders> m_folders;

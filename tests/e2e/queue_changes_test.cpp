@@ -16,34 +16,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using States = QList<int>;
-using Manner = FaultyServer::Manner;
 
 /// How late a change of the queues may show on a busy machine. Units: milliseconds.
 constexpr int kSeconds = 20000;
-/// After this time a server that is away is asked again by itself. Units: milliseconds.
-constexpr int kNextTry = 20000;
-/// A window that waits for a server stands still for the patience of the scene, 2 seconds, at
-/// least. What the window does itself is far less, but a busy machine makes many times that of it.
-/// Units: milliseconds.
-constexpr qint64 kLongestGap = 1500;
 
 } // namespace
 
-/// Queues that change, go, come back or are late while the window is open.
+/// Queues that change, go or arrive late while the window is open.
 class QueueChangesTest : public QueueFixture
 {
     Q_OBJECT
 
 private:
-    static void verifyPrinted(QueueScene &scene, int job)
-    {
-        QVERIFY(scene.window->press(u"print"_s));
-        QVERIFY(scene.window->waitForTheEnd());
-        QVERIFY2(matches(scene.window->dialog().report(), kPrintedAs.arg(job)),
-                 qPrintable(scene.window->message()));
-        QCOMPARE(scene.cups.job(job).state, IPP_JSTATE_COMPLETED);
-    }
-
     // A server tells the age of its PPDs in whole seconds.
     static void makePpdOlder(const QueueScene &scene)
     {
@@ -69,111 +53,8 @@ private:
         return m_folders->write(u"other.ppd"_s, ppd);
     }
 
-    static void manners()
-    {
-        QTest::addColumn<Manner>("manner");
-        QTest::addColumn<QString>("says");
-        // The same in the line below the printer, where there is little room.
-        QTest::addColumn<QString>("brief");
-        const QString server = u"“127\\.0\\.0\\.1:[0-9]+”"_s;
-        QTest::newRow("refused") << Manner::Refuses << kServer + u"cannot be reached\\."_s
-                                 << server + u" cannot be reached\\."_s;
-        QTest::newRow("never answers") << Manner::NeverAnswers << kServer + u"does not answer\\."_s
-                                       << u"No answer from "_s + server + u"\\."_s;
-        QTest::newRow("hangs up") << Manner::HangsUp << kServer + u"broke the connection\\."_s
-                                  << server + u" broke the connection\\."_s;
-        const QString garbage =
-            u"What "_s + server + u" answers is not what a print server says\\..*"_s;
-        QTest::newRow("garbage") << Manner::Babbles << garbage << garbage;
-    }
-
 private Q_SLOTS:
     void initTestCase() { makeFolders(); }
-
-    void aPrinterThatWasNamedIsThereWhenItsServerIs_data() { manners(); }
-    void aPrinterThatWasNamedIsThereWhenItsServerIs()
-    {
-        QFETCH(Manner, manner);
-        QFETCH(QString, says);
-        QueueScene scene;
-        scene.addQueue();
-        scene.between.setManner(manner);
-        scene.open({m_document});
-        QueueDriver &window = *scene.window;
-        QCOMPARE(window.printer(), kQueue);
-        QVERIFY(!window.press(u"print"_s));
-        QVERIFY2(window.waitUntil([&] { return matches(window.waiting(), says); }),
-                 qPrintable(window.waiting()));
-        QVERIFY(!window.canPrint());
-        scene.mend();
-        QVERIFY(window.press(u"retry"_s));
-        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        verifyPrinted(scene, 1);
-        QCOMPARE_LT(window.heart().takeLargestGap(), kLongestGap);
-    }
-
-    void withoutAServerThereIsTheFileUntilTheServerComesBack_data() { manners(); }
-    void withoutAServerThereIsTheFileUntilTheServerComesBack()
-    {
-        QFETCH(Manner, manner);
-        QFETCH(QString, says);
-        QFETCH(QString, brief);
-        QueueScene scene;
-        scene.addQueue();
-        scene.between.setManner(manner);
-        scene.open({m_document}, {});
-        QueueDriver &window = *scene.window;
-        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QCOMPARE(window.printers(), QStringList{kFilePrinter});
-        QVERIFY2(window.waitUntil([&] { return matches(window.status(), brief); }),
-                 qPrintable(window.status()));
-        QVERIFY2(matches(window.footer(), says), qPrintable(window.footer()));
-        QVERIFY(window.canPrint());
-        scene.mend();
-        QVERIFY(window.press(u"printerStatusRetry"_s));
-        QVERIFY(window.waitUntil([&] { return window.printer() == kQueue && window.canPrint(); }));
-        QCOMPARE(window.footer(), QString());
-        verifyPrinted(scene, 1);
-        QCOMPARE_LT(window.heart().takeLargestGap(), kLongestGap);
-    }
-
-    void thePrinterUsedLastIsThereWithoutItsServer()
-    {
-        QueueScene scene;
-        open(scene);
-        verifyPrinted(scene, 1);
-        scene.fallSilent();
-        scene.open({m_document}, {});
-        QueueDriver &window = *scene.window;
-        QVERIFY(window.waitUntil([&] { return window.canPrint(); }));
-        QCOMPARE(window.printer(), kQueue);
-        window.changeSettings();
-        const QStringList settings = window.settings();
-        QVERIFY(window.press(u"print"_s));
-        QVERIFY(window.waitForTheEnd());
-        QVERIFY2(matches(window.message(), kServer + u"does not answer\\."_s + kNothingPrinted),
-                 qPrintable(window.message()));
-        QCOMPARE(window.settings(), settings);
-        scene.mend();
-        verifyPrinted(scene, 2);
-        QCOMPARE_LT(window.heart().takeLargestGap(), kLongestGap);
-    }
-
-    void aServerThatComesBackIsNoticed()
-    {
-        QueueScene scene;
-        open(scene);
-        QueueDriver &window = *scene.window;
-        QVERIFY(window.waitUntil([&] { return window.printers().size() == 2; }));
-        scene.goAway();
-        scene.cups.addRawQueue(u"attic"_s);
-        QVERIFY(window.waitUntil([&] { return scene.between.openConnections() == 0; }));
-        QCOMPARE(window.printers().size(), 2);
-        QVERIFY(window.canPrint());
-        scene.mend();
-        QVERIFY(window.waitUntil([&] { return window.printers().size() == 3; }, kNextTry));
-        verifyPrinted(scene, 1);
-    }
 
     void changesOfQueuesShow()
     {
@@ -222,7 +103,7 @@ private Q_SLOTS:
         scene.addQueue();
         QVERIFY(window.waitUntil([&] { return !window.isPrinterGone(); }, kSeconds));
         QCOMPARE(window.settings(), settings);
-        verifyPrinted(scene, 1);
+        printAndVerify(scene, 1);
     }
 
     void optionsThatChangeAtTheServerAreTakenOver()
@@ -246,7 +127,7 @@ private Q_SLOTS:
                 kSeconds),
             qPrintable(window.message()));
         QCOMPARE(window.settings(), settings);
-        verifyPrinted(scene, 1);
+        printAndVerify(scene, 1);
     }
 
     void theSameOptionsInstalledOnceMoreChangeNothing()
@@ -261,7 +142,7 @@ private Q_SLOTS:
         const QStringList settings = window.settings();
         scene.cups.setPpd(kQueue, samplePpdPath(u"corvana-cl5"_s));
         QCOMPARE(window.settings(), settings);
-        verifyPrinted(scene, 1);
+        printAndVerify(scene, 1);
     }
 
     void optionsThatAreGoneAreSaid()
@@ -281,7 +162,7 @@ private Q_SLOTS:
                  qPrintable(window.message()));
         QVERIFY(window.settings().contains(u"copies 3"_s));
         QVERIFY(window.settings().contains(u"pages 1-2"_s));
-        verifyPrinted(scene, 1);
+        printAndVerify(scene, 1);
     }
 
     // The list, which tells of changes as well, is not answered here: printing finds out itself.
@@ -309,7 +190,7 @@ private Q_SLOTS:
         QVERIFY(window.waitUntil([&] { return opened.isNull(); }));
         QTRY_VERIFY(window.canPrint());
         QCOMPARE(window.settings(), settings);
-        verifyPrinted(scene, 1);
+        printAndVerify(scene, 1);
     }
 
     // Another window has put the new PPD into the cache that both share.
@@ -360,7 +241,7 @@ private Q_SLOTS:
                              kNothingPrinted),
                  qPrintable(window.message()));
         QVERIFY(window.waitUntil(hasPanels));
-        verifyPrinted(scene, 1);
+        printAndVerify(scene, 1);
     }
 
     void hundredsOfQueuesArriveWhileTheListIsOpen()
