@@ -109,6 +109,10 @@ void PrintTask::takeNext()
 void PrintTask::open(const FetchedPrinter &ready)
 {
     close();
+    // Faces build their pages when they hear of it, those of a printer that comes before the panels
+    // of the last one did as well.
+    if (m_phase == Phase::Opened)
+        m_phase = Phase::Fetching;
     m_chosen.printer = ready.printer;
     Q_EMIT printerChanged();
     const Memory memory = m_memory.value(idOf(m_chosen.printer));

@@ -1,6 +1,7 @@
 #include <optional>
 
 #include <QDir>
+#include <QSignalSpy>
 #include <QTest>
 
 #include "dialog/printers/LastPrinter.h"
@@ -228,6 +229,25 @@ private Q_SLOTS:
         QCOMPARE(attribute(u"number-up"_s), u"4"_s);
         QVERIFY(printed());
         QCOMPARE(jobValue(task().outcome().job, "number-up"), u"4"_s);
+    }
+
+    // A window builds its pages for each, and has let go of the pages of the one before.
+    void optionsThatArriveBeforeThePanelsCameUpAreOpenedOnceMoreForTheFace()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        open(request());
+        m_cups->addQueue(u"office"_s,
+                         ppd(officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}})));
+        PrintTask &again = m_scene->make(request());
+        QSignalSpy closed(&again, &PrintTask::printerClosed);
+        QList<Phase> heard;
+        connect(&again, &PrintTask::phaseChanged, this, [&](Phase phase) { heard.append(phase); });
+        again.start();
+        QCOMPARE(heard, (QList{Phase::Fetching, Phase::Opened}));
+        QVERIFY(closed.wait(kPatience));
+        QCOMPARE(heard, (QList{Phase::Fetching, Phase::Opened, Phase::Opened}));
+        again.bringUp();
+        QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
     }
 
     void whatTheUserHasSetOutlastsAnotherDefaultOfTheQueue()
