@@ -1,0 +1,137 @@
+#!/usr/bin/python3
+"""What a run must not do is noticed: each rule once, with a program that breaks it."""
+import json
+import os
+import pathlib
+import random
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+import kinds  # noqa: E402
+import limits  # noqa: E402
+import mutation  # noqa: E402
+import seeds  # noqa: E402
+from ppd import Ppd, mutate_option  # noqa: E402
+
+# A script of the shell, and what is said of it; nothing for one that is as it should be.
+SCRIPTS = [
+    ("exit 0", ""),
+    ("echo refused >&2; exit 1", ""),
+    ("exit 1", "nothing was said"),
+    ("echo no >&2; exit 7", "the exit status 7"),
+    ("kill -SEGV $$", "SIGSEGV"),
+    ("printf '\\033[31m'", "a control character"),
+    ("printf '\\376'", "no UTF-8"),
+    ("echo 'QString::arg: Argument missing' >&2", "an error of its own"),
+    ("head -c 300000 /dev/zero | tr '\\0' x", "bytes were said"),
+    ("trap '' HUP; sleep 60 & echo", "left behind"),
+    ("set -m; sleep 60 & echo", "left behind"),  # a group of its own
+    ("sleep 20", "no end"),
+    ("touch ../tmp/rest", "left in the temporary folder"),
+    ("echo refused >&2; touch job.ps; exit 1", "nothing was printed, and this was left"),
+    ("exit 0 # prints", "printed, and there is []"),
+    ("echo Red >job.ps", "printed without Ink=Blue"),
+    ("echo Blue >job.ps", ""),
+]
+# A script of Python, and whether it is taken for one that does nothing any more.
+WAITING = [
+    ("time.sleep(60)", True),
+    ("subprocess.run(['sleep', '60'])", True),
+    ("[time.sleep(0.2) for _ in range(300)]", True),  # it only looks at the clock
+    ("while time.monotonic() - begin < 2: pass", False),
+    ("subprocess.run([sys.executable, '-c', 'while True: pass'], timeout=2)", False),
+    ("subprocess.run([sys.executable, '-c', 'while True: pass'], timeout=2, process_group=0)", False),
+    ("[(sum(range(4_000_000)), time.sleep(0.4)) for _ in range(5)]", False),
+]
+PPD = b"""*OpenUI *Ink/Ink: PickOne
+*DefaultInk: Red
+*Ink Red/Red: "Red"
+*Ink Blue/Blue: "Blue"
+*CloseUI: *Ink
+"""
+
+
+class LimitsTest(unittest.TestCase):
+    def case(self, folder, script):
+        case = kinds.Case(pathlib.Path(folder) / "case", random.Random(1), 1, "", "")
+        if "job.ps" in script or "prints" in script:
+            case.use_ppd(PPD)
+            case.choices = ["Ink=Blue", "Ink=Red", "Ink=Blue"]
+            case.print_to_file("document")
+        return case
+
+    def test_every_rule_is_enforced(self):
+        limits.LOOKS = 10
+        for script, said in SCRIPTS:
+            with self.subTest(script), tempfile.TemporaryDirectory() as folder:
+                case = self.case(folder, script)
+                limits.WALL_SECONDS = 1
+                try:
+                    end = limits.run(["sh", "-c", script], dict(os.environ), case.folder)
+                finally:
+                    limits.WALL_SECONDS = 90
+                problems = "; ".join(kinds.problems_of(case, end))
+                self.assertEqual(bool(problems), bool(said), problems)
+                self.assertIn(said, problems)
+
+    def test_a_run_that_does_nothing_is_ended_early(self):
+        for script, is_idle in WAITING:
+            with self.subTest(script), tempfile.TemporaryDirectory() as folder:
+                case = self.case(folder, "")
+                limits.IDLE_SECONDS = 1
+                try:
+                    end = limits.run([sys.executable, "-c", "import subprocess, sys, time; begin = time.monotonic(); "
+                                      + script], dict(os.environ), case.folder)
+                finally:
+                    limits.IDLE_SECONDS = 10
+                self.assertEqual(end.status is None, is_idle, end.err)
+                self.assertEqual("none of it lately" in "; ".join(kinds.problems_of(case, end)), is_idle)
+
+    def test_memory_and_time_are_measured(self):
+        with tempfile.TemporaryDirectory() as folder:
+            case = self.case(folder, "")
+            script = "import time; x = bytes(600 << 20); x = b'1' * (600 << 20); time.sleep(0.3)"
+            end = limits.run([sys.executable, "-c", script], dict(os.environ), case.folder, looks_at_memory=True)
+            self.assertGreater(end.memory, 600 * 1024)
+            self.assertIn("MiB of memory", "; ".join(kinds.problems_of(case, end)))
+            end.cpu = 11
+            self.assertIn("seconds of the processor", "; ".join(kinds.problems_of(case, end)))
+
+    def test_the_same_seed_makes_the_same(self):
+        ppd = seeds.texts("resources/ppd/*.ppd")[0]
+        for change in (mutation.mutate_bytes, mutation.mutate_text, mutate_option):
+            first, again = (change(random.Random(5), ppd, [PPD]) for _ in range(2))
+            self.assertEqual(first, again)
+            self.assertNotEqual(change(random.Random(6), ppd, [PPD]), first)
+
+    def test_what_a_preset_lacks_is_noticed(self):
+        ppd = PPD + b"*OpenGroup: InstallableOptions\n" + PPD.replace(b"Ink", b"Tank") + b"*CloseGroup\n"
+        for options, said in [({"Ink": "Blue"}, ""), ({"Ink": "Red"}, "kept Ink=Red instead of Blue"),
+                              ({}, "kept Ink=None instead of Blue")]:
+            with self.subTest(options), tempfile.TemporaryDirectory() as folder:
+                case = self.case(folder, "")
+                case.use_ppd(ppd)
+                case.keep_as_preset()
+                case.choices = ["Ink=Red", "Tank=Blue", "Ink=Blue"]  # a tank is no setting of a job
+                case.write("home/presets/Kept.json",
+                           json.dumps({"name": "Kept", "options": options}).encode())
+                case.write("home/presets/Broken.json", b"\xff")
+                end = limits.run(["true"], dict(os.environ), case.folder)
+                self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
+
+    def test_choices_that_no_command_line_can_hold_are_not_asked_for(self):
+        self.assertEqual(list(Ppd(PPD.replace(b"Ink Red", b"Ink R\0d")).codes["Ink"]), ["Blue"])
+
+    def test_choices_are_read_from_every_sample_printer(self):
+        for content in seeds.texts("resources/ppd/*.ppd"):
+            ppd = Ppd(content)
+            self.assertIn("PageSize", ppd.codes)
+            self.assertEqual(ppd.missing(["PageSize=A5"], b""), ["PageSize=A5"])
+            self.assertEqual(ppd.missing(["PageSize=A5"], content), [])
+
+
+if __name__ == "__main__":
+    unittest.main()
