@@ -11,6 +11,14 @@ add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_
 # A symbol that a library forgets to link would otherwise surface only when it is loaded.
 add_link_options(-Wl,--no-undefined -Wl,--as-needed)
 
+# libFuzzer sees which branches an input takes where the code counts them. Its counters and those of the
+# coverage are one table a program, so that the platform is linked into the program as well.
+set(CORVANA_PLATFORM_KIND SHARED)
+if(CORVANA_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    set(CORVANA_PLATFORM_KIND STATIC)
+endif()
+
 if(CORVANA_SANITIZE)
     add_compile_options(-fsanitize=${CORVANA_SANITIZE} -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)

@@ -120,8 +120,16 @@ public:
             surroundings.label->show();
             titleLabel(surroundings.label, option);
         }
+        QList<popup::Item> items;
         for (int i = 0; i < option->num_choices; ++i)
-            addItem(option->choices[i], surroundings);
+            collect(option->choices[i], items);
+        popup::setItems(m_popUp, items);
+        if (controlTag(m_popUp) == kTagItemTexts && surroundings.texts) {
+            for (const popup::Item &item : std::as_const(items))
+                surroundings.texts->setValue(item.object.toString(), item.title);
+        }
+        if (controlTag(m_popUp) == kTagItemImages && surroundings.bundle)
+            setImages(*surroundings.bundle);
     }
 
     bool show(const QVariant &choice) override
@@ -179,7 +187,7 @@ public:
     }
 
 private:
-    void addItem(const ppd_choice_t &offered, const Surroundings &surroundings)
+    void collect(const ppd_choice_t &offered, QList<popup::Item> &items) const
     {
         const QString choice = ppdKeyword(offered.choice);
         const std::optional<QString> text = ppdText(offered.text);
@@ -187,15 +195,15 @@ private:
             qCWarning(lcBinding) << keyword() << choice << "is left out: its text is not UTF-8";
             return;
         }
-        if (text->startsWith(kNeverOfferedPrefix) || choice == kPlainDuplex)
-            return;
-        popup::addItemWithTitle(m_popUp, *text);
-        const int item = popup::indexOfItemWithTitle(m_popUp, *text);
-        popup::setRepresentedObject(m_popUp, item, choice);
-        if (controlTag(m_popUp) == kTagItemTexts && surroundings.texts) {
-            surroundings.texts->setValue(choice, *text);
-        } else if (controlTag(m_popUp) == kTagItemImages && surroundings.bundle) {
-            const QPixmap image(surroundings.bundle->pathForResource(choice, u"tiff"_s));
+        if (!text->startsWith(kNeverOfferedPrefix) && choice != kPlainDuplex)
+            items += popup::Item{*text, choice};
+    }
+
+    void setImages(const Bundle &bundle)
+    {
+        for (int item = 0; item < m_popUp->count(); ++item) {
+            const QString choice = popup::representedObject(m_popUp, item).toString();
+            const QPixmap image(bundle.pathForResource(choice, u"tiff"_s));
             if (!image.isNull())
                 popup::setItemImage(m_popUp, item, image);
         }
@@ -296,9 +304,9 @@ void titleLabel(QWidget *label, const ppd_option_t *option)
     if (auto *box = qobject_cast<QGroupBox *>(label))
         box->setTitle(withoutMnemonic(*text));
     else if (auto *textLabel = qobject_cast<QLabel *>(label))
-        setLiteralText(textLabel, *text + ": "_L1);
+        setLiteralText(textLabel, asTitle(*text) + u' ');
     else if (auto *field = qobject_cast<QLineEdit *>(label))
-        field->setText(*text + ": "_L1);
+        field->setText(asTitle(*text) + u' ');
 }
 
 } // namespace corvana

@@ -121,12 +121,13 @@ JobValueClaim takeSleepTime(const QString &value, PrintSettings &settings, ppd_f
 JobOption densityOption(qint64 density, ppd_option_t *option, ppd_file_t *ppd)
 {
     const QString defaultChoice = ppdKeyword(option->defchoice);
-    if (density == integerValue(defaultChoice))
+    if (density == integerValue(defaultChoice) && ppdChoice(option, defaultChoice))
         return {kQXDensityAdjustment, defaultChoice}; // the printer's own density
-    if (ppdCustomParameter(ppd, kQXDensityAdjustment, kDensityParameter))
-        return {kQXDensityAdjustment, customValue(density)};
+    // Before the custom value: whoever asks for a choice by its name gets that choice's code.
     if (const ppd_choice_t *choice = choiceOfNumber(option, density))
         return {kQXDensityAdjustment, ppdKeyword(choice->choice)};
+    if (ppdCustomParameter(ppd, kQXDensityAdjustment, kDensityParameter))
+        return {kQXDensityAdjustment, customValue(density)};
     // No choice has this density. If the option's choices are numbers, the number is named all the
     // same, so that the host can refuse it. Otherwise the density goes under its own name.
     const bool numbers = std::any_of(option->choices, option->choices + option->num_choices,

@@ -10,6 +10,7 @@
 #include "panel/OptionControl.h"
 #include "panel/OptionKeywords.h"
 #include "platform/foundation/Values.h"
+#include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/ProgrammaticChange.h"
 #include "platform/toolkit/ViewFrame.h"
 #include "printsetting/PrintSettingKeys.h"
@@ -134,7 +135,7 @@ void QXLaserPrintSettingPDE::titleImproveBoxes(const QString &text)
 {
     if (!improveLabel)
         return;
-    improveLabel->setText(text + u':');
+    improveLabel->setText(asTitle(text));
     ViewFrame frame = viewFrame(improveLabel);
     frame.y -= kImproveLabelDrop;
     setViewFrame(improveLabel, frame);
@@ -167,9 +168,9 @@ void QXLaserPrintSettingPDE::prepareSleepTimeControls()
     if (text && sleepTimeSuffixLabel)
         sleepTimeSuffixLabel->setText(*text);
     if (sleepTimeField) {
-        const QString allowed = u"%1: %2 – %3"_s.arg(localized(u"AllowedNumbers"_s))
-                                    .arg(kSleepTimeMin)
-                                    .arg(kSleepTimeMax);
+        const QString allowed =
+            u"%1: %2 – %3"_s.arg(localized(u"AllowedNumbers"_s), QString::number(kSleepTimeMin),
+                                 QString::number(kSleepTimeMax));
         sleepTimeField->setToolTip(allowed);
         sleepTimeField->setAccessibleDescription(allowed);
     }

@@ -163,7 +163,12 @@ std::optional<AlertAnswer> QXLaserPrintSettingPDE::runIllustratedAlert(Alert ale
         pluginBundle ? pluginBundle->pathForResource(picture, kImageExtension) : QString();
     if (file.isNull())
         qCWarning(lcAlerts) << "the bundle has no illustration" << picture;
-    const QImage image = file.isNull() ? QImage() : readPicture(file, 1.0);
+    // The view keeps whatever it is given: what it is given twice is the same picture, read once.
+    QImage image = m_illustrations.value(file);
+    if (image.isNull() && !file.isNull())
+        image = readPicture(file, 1.0);
+    if (!image.isNull())
+        m_illustrations.insert(file, image);
     if (accessoryView && !image.isNull()) {
         const QSizeF size = image.deviceIndependentSize();
         setViewFrame(accessoryView, {0, 0, size.width(), size.height()});

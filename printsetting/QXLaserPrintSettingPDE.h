@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHash>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -201,6 +203,9 @@ private:
     bool confirmBackCover(const QString &mediaType);
     std::optional<AlertAnswer> runIllustratedAlert(Alert alert, QLatin1StringView picture);
     QString storedChoice(QLatin1StringView keyword) const;
+
+    /// Those that alerts have shown, by their files.
+    QHash<QString, QImage> m_illustrations;
 };
 
 } // namespace corvana

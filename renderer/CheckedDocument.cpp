@@ -131,9 +131,12 @@ int highestObject(std::string_view file)
 // first; with an end of ours the objects are found where they lie.
 std::string withAnEnd(std::string_view file)
 {
-    const std::string root = std::to_string(highestObject(file) + 1);
+    const int last = highestObject(file) + 1;
+    const std::string root = std::to_string(last);
+    // A copy has a size only where its original has.
     return std::string(file) + "\nendstream\nendobj\n" + root +
-           " 0 obj\n<< /Type /Catalog >>\nendobj\ntrailer\n<< /Root " + root + " 0 R >>\n";
+           " 0 obj\n<< /Type /Catalog >>\nendobj\ntrailer\n<< /Size " + std::to_string(last + 1) +
+           " /Root " + root + " 0 R >>\n";
 }
 
 bool looksLikePdf(std::string_view file)

@@ -40,10 +40,9 @@ std::optional<int> readNumber(const QCommandLineParser &parser, const QCommandLi
     if (isNumber && number >= least && number <= most)
         return number;
     const QString name = option.names().constFirst();
-    *problem = u"%1 %2: a number from %3 to %4 was expected."_s
-                   .arg((name.size() == 1 ? u"-"_s : u"--"_s) + name, parser.value(option))
-                   .arg(least)
-                   .arg(most);
+    *problem = u"%1 %2: a number from %3 to %4 was expected."_s.arg(
+        (name.size() == 1 ? u"-"_s : u"--"_s) + name, parser.value(option), QString::number(least),
+        QString::number(most));
     return std::nullopt;
 }
 

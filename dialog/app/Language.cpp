@@ -62,7 +62,8 @@ QString messagesLocale(const QString &localization, const QString &userLanguage)
 
 QStringList dialogLocalizations()
 {
-    return {u"English"_s, u"Japanese"_s, u"zh_CN"_s};
+    return {u"English"_s, u"Japanese"_s, u"zh_CN"_s, u"de"_s, u"fr"_s,
+            u"es"_s,      u"it"_s,       u"pt_BR"_s, u"ko"_s, u"zh_TW"_s};
 }
 
 Language languageOf(const QProcessEnvironment &environment)

@@ -19,8 +19,8 @@
 #include "dialog/terminal/OutcomeLine.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "dialog/terminal/UnattendedRun.h"
-#include "dialog/window/Placeholders.h"
 #include "dialog/window/PrintWindow.h"
+#include "dialog/window/ReadableTexts.h"
 #include "platform/foundation/ForeignText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -168,7 +168,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     const LeftForLater leftForLater;
     looksForPlatform = false;
-    QApplication::setPalette(withReadablePlaceholders(QApplication::palette()));
+    keepTextsReadable(application);
     QApplication::setApplicationName(u"corvana-print"_s);
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 

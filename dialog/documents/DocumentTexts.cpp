@@ -62,11 +62,11 @@ QString documentLoss(const QString &title, const DocumentState &state)
     if (state.kind != Kind::Fine || state.lostPages == 0)
         return {};
     const int all = state.pages + state.lostPages;
-    return twoSentences(
-        isDamaged(terminalLine(title), state),
-        state.pages == 1
-            ? Texts::tr("1 of its %1 pages can be printed.").arg(all)
-            : Texts::tr("%1 of its %2 pages can be printed.").arg(state.pages).arg(all));
+    return twoSentences(isDamaged(terminalLine(title), state),
+                        state.pages == 1
+                            ? Texts::tr("1 of its %1 pages can be printed.").arg(all)
+                            : Texts::tr("%1 of its %2 pages can be printed.")
+                                  .arg(QString::number(state.pages), QString::number(all)));
 }
 
 QString documentNote(const QString &title, const DocumentState &state, PrintsTo to)

@@ -109,11 +109,14 @@ DocumentWorker::Found DocumentWorker::found(const Work &work)
         else
             result.state.isPasswordWrong = true;
     }
-    if (result.state.kind != Kind::Fine || (!isUnlocked && result.state.lostPages == 0))
+    // What is damaged is printed as it was found here, or the chain may find less of it, or
+    // nothing.
+    const bool needsCopy = isUnlocked || result.state.lostPages > 0;
+    if (result.state.kind != Kind::Fine || (!needsCopy && !result.state.isDamaged))
         return result;
     result.copy = copy();
     result.state.isUnlocked = isUnlocked && result.copy;
-    if (!result.copy)
+    if (!result.copy && needsCopy)
         result.state.kind = isUnlocked ? Kind::NotCopied : Kind::Unknown;
     return result;
 }

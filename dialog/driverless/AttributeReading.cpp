@@ -1,6 +1,9 @@
 #include "dialog/driverless/AttributeReading.h"
 
 #include <algorithm>
+#include <cstring>
+#include <optional>
+#include <type_traits>
 
 #include <QStringDecoder>
 
@@ -40,6 +43,26 @@ bool isKeyword(const QString &value)
                         [&](QChar c) { return kMeaningful.contains(c); });
 }
 
+// A resolution and its unit, which is one byte of the network's: a value of the enumeration that it
+// cannot have must not be read as one. Null for a unit that nobody knows.
+struct Resolution
+{
+    QSize size;
+    bool isPerCentimetre = false;
+};
+std::optional<Resolution> resolutionAt(ipp_attribute_t *attribute, int index)
+{
+    ipp_res_t unit = IPP_RES_PER_INCH;
+    int y = 0;
+    const int x = ippGetResolution(attribute, index, &y, &unit);
+    std::underlying_type_t<ipp_res_t> number = 0;
+    static_assert(sizeof number == sizeof unit);
+    std::memcpy(&number, &unit, sizeof number);
+    if (number != IPP_RES_PER_INCH && number != IPP_RES_PER_CM)
+        return std::nullopt;
+    return Resolution{{x, y}, number == IPP_RES_PER_CM};
+}
+
 // As a job option has it. Null where there is no such form.
 QString optionValueAt(ipp_attribute_t *attribute, int index)
 {
@@ -52,14 +75,16 @@ QString optionValueAt(ipp_attribute_t *attribute, int index)
     case IPP_TAG_RANGE: {
         int upper = 0;
         const int lower = ippGetRange(attribute, index, &upper);
-        return u"%1-%2"_s.arg(lower).arg(upper);
+        return u"%1-%2"_s.arg(QString::number(lower), QString::number(upper));
     }
     case IPP_TAG_RESOLUTION: {
-        ipp_res_t unit = IPP_RES_PER_INCH;
-        int y = 0;
-        const int x = ippGetResolution(attribute, index, &y, &unit);
-        const QString name = unit == IPP_RES_PER_CM ? u"dpcm"_s : u"dpi"_s;
-        return x == y ? QString::number(x) + name : u"%1x%2"_s.arg(x).arg(y) + name;
+        const auto resolution = resolutionAt(attribute, index);
+        if (!resolution)
+            return {};
+        const QString name = resolution->isPerCentimetre ? u"dpcm"_s : u"dpi"_s;
+        const QString x = QString::number(resolution->size.width());
+        const QString y = QString::number(resolution->size.height());
+        return (x == y ? x : x + u'x' + y) + name;
     }
     default: {
         const QString value = stringAt(attribute, index);
@@ -140,15 +165,15 @@ QList<QSize> resolutionsOf(ipp_t *attributes, const char *name)
     if (ippGetValueTag(attribute) != IPP_TAG_RESOLUTION)
         return values;
     for (int i = 0; i < valueCount(attribute); ++i) {
-        ipp_res_t unit = IPP_RES_PER_INCH;
-        int y = 0;
-        const int x = ippGetResolution(attribute, i, &y, &unit);
-        if (x <= 0 || y <= 0 || x > kHighest || y > kHighest)
+        const auto resolution = resolutionAt(attribute, i);
+        if (!resolution || resolution->size.isEmpty() || resolution->size.width() > kHighest ||
+            resolution->size.height() > kHighest)
             continue;
         const auto perInch = [&](int value) {
-            return unit == IPP_RES_PER_CM ? qRound(value * 2.54) : value;
+            return resolution->isPerCentimetre ? qRound(value * 2.54) : value;
         };
-        if (const QSize value(perInch(x), perInch(y)); !values.contains(value))
+        const QSize value(perInch(resolution->size.width()), perInch(resolution->size.height()));
+        if (!values.contains(value))
             values += value;
     }
     return values;

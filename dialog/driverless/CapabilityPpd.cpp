@@ -77,17 +77,6 @@ QByteArray points(int hundredthsOfMillimetre)
     return QByteArray::number(pointsOfHundredths(hundredthsOfMillimetre), 'f', 2);
 }
 
-struct Translation
-{
-    const char *name;
-    QString CapabilityText::*text;
-};
-constexpr Translation kTranslations[] = {
-    {"en", &CapabilityText::english},
-    {"ja", &CapabilityText::japanese},
-    {"zh_CN", &CapabilityText::chinese},
-};
-
 // How a PPD begins. The encoding is that of the main texts; translations are always UTF-8.
 constexpr char kStart[] = "*PPD-Adobe: \"4.3\"\n"
                           "*FormatVersion: \"4.3\"\n"
@@ -139,15 +128,17 @@ public:
     {
         QByteArray languages;
         QByteArray lines;
-        for (const Translation &language : kTranslations) {
-            const QByteArray name = language.name;
-            if (m_ascii && language.text == &CapabilityText::english)
-                continue;
+        const auto add = [&](const QByteArray &name, const auto &textOf) {
             languages += (languages.isEmpty() ? "" : " ") + name;
             for (const Text &one : m_texts)
-                lines += '*' + name + '.' + one.keyword + '/' +
-                         optionText(one.text.*language.text) + ": \"\"\n";
-        }
+                lines += '*' + name + '.' + one.keyword + '/' + optionText(textOf(one.text)) +
+                         ": \"\"\n";
+        };
+        if (!m_ascii)
+            add("en", [](const CapabilityText &text) { return text.english; });
+        for (std::size_t i = 0; i < kCapabilityLanguages.size(); ++i)
+            add(kCapabilityLanguages.at(i),
+                [i](const CapabilityText &text) { return text.translated.at(i); });
         return kStart + ("*cupsLanguages: \"" + languages + "\"\n") + m_lines + lines;
     }
 

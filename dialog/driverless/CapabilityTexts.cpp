@@ -1,8 +1,12 @@
 #include "dialog/driverless/CapabilityTexts.h"
 
+#include <optional>
+
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
+
+#include "dialog/driverless/CapabilityTranslations.h"
 
 namespace corvana {
 
@@ -30,7 +34,7 @@ constexpr Row kTexts[] = {
 
     {"print-quality 3", "Draft", "下書き", "草稿"},
     {"print-quality 4", "Normal", "標準", "标准"},
-    {"print-quality 5", "High", "高品質", "高质量"},
+    {"print-quality 5", "High", "高", "高"},
 
     {"media iso_a3_297x420mm", "A3", "A3", "A3"},
     {"media iso_a4_210x297mm", "A4", "A4", "A4"},
@@ -56,12 +60,12 @@ constexpr Row kTexts[] = {
     {"media iso_dl_110x220mm", "Envelope DL", "封筒 DL", "信封 DL"},
     {"media iso_c5_162x229mm", "Envelope C5", "封筒 C5", "信封 C5"},
     {"media iso_c6_114x162mm", "Envelope C6", "封筒 C6", "信封 C6"},
-    {"media jpn_chou3_120x235mm", "Envelope Chou 3", "長形 3 号", "信封 长形 3 号"},
-    {"media jpn_chou4_90x205mm", "Envelope Chou 4", "長形 4 号", "信封 长形 4 号"},
+    {"media jpn_chou3_120x235mm", "Envelope Chou 3", "封筒 長形 3 号", "信封 长形 3 号"},
+    {"media jpn_chou4_90x205mm", "Envelope Chou 4", "封筒 長形 4 号", "信封 长形 4 号"},
 
     {"media-type auto", "Automatic", "自動", "自动"},
     {"media-type stationery", "Plain Paper", "普通紙", "普通纸"},
-    {"media-type stationery-lightweight", "Thin Paper", "薄紙", "薄纸"},
+    {"media-type stationery-lightweight", "Thin Paper", "普通紙（薄め）", "薄纸"},
     {"media-type stationery-heavyweight", "Thick Paper", "厚紙", "厚纸"},
     {"media-type stationery-coated", "Coated Paper", "コート紙", "铜版纸"},
     {"media-type stationery-inkjet", "Inkjet Paper", "インクジェット紙", "喷墨纸"},
@@ -73,7 +77,7 @@ constexpr Row kTexts[] = {
     {"media-type stationery-fine", "Fine Paper", "上質紙", "优质纸"},
     {"media-type cardstock", "Card Stock", "カード用紙", "卡片纸"},
     {"media-type envelope", "Envelope", "封筒", "信封"},
-    {"media-type labels", "Labels", "ラベル紙", "标签"},
+    {"media-type labels", "Labels", "ラベル紙", "标签纸"},
     {"media-type transparency", "Transparency", "OHP フィルム", "透明胶片"},
     {"media-type continuous", "Continuous Paper", "連続紙", "连续纸"},
     {"media-type disc", "Disc", "ディスク", "光盘"},
@@ -165,25 +169,42 @@ constexpr Row kTexts[] = {
     {"title WidthOffset", "Width Offset", "幅方向のずらし量", "宽度偏移"},
     {"title HeightOffset", "Height Offset", "高さ方向のずらし量", "高度偏移"},
     {"title Orientation", "Orientation", "給紙の向き", "送纸方向"},
-    {"title PrinterDefault", "Printer's Default", "プリンターの既定", "打印机默认"},
+    {"title PrinterDefault", "Printer's Default", "プリンターの既定値", "打印机默认值"},
     {"title borderless", "%1, Borderless", "%1（フチなし）", "%1（无边距）"},
 };
 
-const Row *rowOf(const QString &key)
+// The languages that have a file of their own, in the order of kCapabilityLanguages.
+constexpr auto kTables = {germanTexts,     frenchTexts, spanishTexts,           italianTexts,
+                          portugueseTexts, koreanTexts, traditionalChineseTexts};
+
+using Texts = QHash<QString, CapabilityText>;
+
+Texts allTexts()
 {
-    static const QHash<QString, const Row *> rows = [] {
-        QHash<QString, const Row *> found;
-        for (const Row &row : kTexts)
-            found.insert(QString::fromUtf8(row.key), &row);
-        return found;
-    }();
-    return rows.value(key);
+    Texts texts;
+    for (const Row &row : kTexts) {
+        CapabilityText &text = texts[QString::fromUtf8(row.key)];
+        text = everywhere(QString::fromUtf8(row.english));
+        text.translated[0] = QString::fromUtf8(row.japanese);
+        text.translated[1] = QString::fromUtf8(row.chinese);
+    }
+    std::size_t language = 2;
+    for (const auto &table : kTables) {
+        for (const CapabilityTranslation &row : table()) {
+            if (const auto text = texts.find(QString::fromUtf8(row.key)); text != texts.end())
+                text->translated.at(language) = QString::fromUtf8(row.text);
+        }
+        ++language;
+    }
+    return texts;
 }
 
-CapabilityText textOf(const Row &row)
+// Nothing for a key that no table has.
+std::optional<CapabilityText> textOf(const QString &key)
 {
-    return {QString::fromUtf8(row.english), QString::fromUtf8(row.japanese),
-            QString::fromUtf8(row.chinese)};
+    static const Texts texts = allTexts();
+    const auto found = texts.constFind(key);
+    return found == texts.constEnd() ? std::nullopt : std::optional(*found);
 }
 
 // "letter-head" is a keyword, "Letter Head" and "Büttenpapier" are names.
@@ -220,15 +241,15 @@ QString nameOfMedia(const QString &keyword)
 CapabilityText capabilityText(QLatin1StringView attribute, const QString &keyword)
 {
     const QString prefix = attribute + " "_L1;
-    if (const Row *row = rowOf(prefix + keyword))
-        return textOf(*row);
+    if (const auto text = textOf(prefix + keyword))
+        return *text;
     static const QRegularExpression numbered(u"^([a-z-]+-)([0-9]{1,4})\\z"_s);
     if (const QRegularExpressionMatch match = numbered.match(keyword); match.hasMatch()) {
-        if (const Row *row = rowOf(prefix + match.captured(1) + u"%1"_s))
-            return withArgument(textOf(*row), match.captured(2));
+        if (const auto form = textOf(prefix + match.captured(1) + u"%1"_s))
+            return withArgument(*form, everywhere(match.captured(2)));
     }
     const QString name = attribute == "media"_L1 ? nameOfMedia(keyword) : nameOf(keyword);
-    return {name, name, name};
+    return everywhere(name);
 }
 
 CapabilityText optionTitle(QLatin1StringView option)
@@ -236,16 +257,24 @@ CapabilityText optionTitle(QLatin1StringView option)
     return capabilityText("title"_L1, option);
 }
 
-CapabilityText withArgument(const CapabilityText &form, const QString &argument)
+CapabilityText everywhere(const QString &text)
 {
-    return {form.english.arg(argument), form.japanese.arg(argument), form.chinese.arg(argument)};
+    CapabilityText same{text, {}};
+    same.translated.fill(text);
+    return same;
+}
+
+CapabilityText withArgument(const CapabilityText &form, const CapabilityText &argument)
+{
+    CapabilityText text{form.english.arg(argument.english), {}};
+    for (std::size_t i = 0; i < text.translated.size(); ++i)
+        text.translated[i] = form.translated[i].arg(argument.translated[i]);
+    return text;
 }
 
 CapabilityText borderless(const CapabilityText &paper)
 {
-    const CapabilityText form = optionTitle("borderless"_L1);
-    return {form.english.arg(paper.english), form.japanese.arg(paper.japanese),
-            form.chinese.arg(paper.chinese)};
+    return withArgument(optionTitle("borderless"_L1), paper);
 }
 
 } // namespace corvana

@@ -5,6 +5,7 @@
 
 #include <cups/cups.h>
 
+#include <QHash>
 #include <QLoggingCategory>
 
 #include "dialog/driverless/AttributeReading.h"
@@ -52,6 +53,15 @@ bool isMirror(const QString &name)
                        [&](QLatin1StringView mirror) { return name == mirror; });
 }
 
+// A name with a blank or a "=" would become other options on a command line of the filters.
+bool isNameOfOption(const QString &name)
+{
+    static constexpr QLatin1StringView kSigns{"-._+*"};
+    return !name.isEmpty() && std::all_of(name.cbegin(), name.cend(), [](QChar c) {
+        return (c.unicode() < 0x80 && c.isLetterOrNumber()) || kSigns.contains(c);
+    });
+}
+
 bool isColorPrinter(ipp_t *attributes)
 {
     const QList<int> type = numbersOf(attributes, "printer-type");
@@ -62,21 +72,10 @@ bool isSaidOfAnyQueue(const JobOption &option, ipp_t *attributes)
 {
     if (option.name == "print-color-mode"_L1)
         return option.value == (isColorPrinter(attributes) ? "color"_L1 : "monochrome"_L1);
-    return std::any_of(std::begin(kSaidOfAnyQueue), std::end(kSaidOfAnyQueue),
-                       [&](const SaidOfAnyQueue &said) {
-                           return option.name == said.name &&
-                                  (said.value.isNull() || option.value == said.value);
-                       });
-}
-
-// The values of one attribute in the order in which they were said.
-QStringList allOf(ipp_t *attributes, const QByteArray &name)
-{
-    QStringList all;
-    for (ipp_attribute_t *one = ippFindAttribute(attributes, name.constData(), IPP_TAG_ZERO); one;
-         one = ippFindNextAttribute(attributes, name.constData(), IPP_TAG_ZERO))
-        all += optionValuesOf(one).join(u',');
-    return all;
+    return std::any_of(
+        std::begin(kSaidOfAnyQueue), std::end(kSaidOfAnyQueue), [&](const SaidOfAnyQueue &said) {
+            return option.name == said.name && (said.value.isNull() || option.value == said.value);
+        });
 }
 
 bool isAdministrators(const QString &name, const QStringList &said, ipp_t *attributes)
@@ -89,20 +88,46 @@ bool isAdministrators(const QString &name, const QStringList &said, ipp_t *attri
     return !find(attributes, (name.toLatin1() + "-supported").constData());
 }
 
-// The names of all defaults, each once. Searching for one moves the place of a walk.
-QStringList namesOfDefaults(ipp_t *attributes)
+// A default of a queue, with its values in the order in which they were said.
+struct SaidDefault
 {
-    QStringList names;
+    QString name;
+    QStringList said;
+};
+
+// More of them no job could carry.
+constexpr qsizetype kMostDefaults = 1000;
+
+// All defaults in the order of their names' first. One walk, since searching for a name takes one
+// each, and moves the place of this one.
+QList<SaidDefault> saidDefaults(ipp_t *attributes)
+{
+    QList<SaidDefault> defaults;
+    QHash<QString, qsizetype> places;
     for (ipp_attribute_t *next = ippFirstAttribute(attributes); next;
          next = ippNextAttribute(attributes)) {
-        const QLatin1StringView name(ippGetName(next));
+        const QLatin1StringView full(ippGetName(next));
         const ipp_tag_t tag = ippGetValueTag(next);
         const bool isUnknown = tag == IPP_TAG_NOVALUE || tag == IPP_TAG_UNKNOWN;
-        if (ippGetGroupTag(next) == IPP_TAG_PRINTER && name.endsWith(kSuffix) && !isUnknown)
-            names += name.chopped(kSuffix.size());
+        if (!full.endsWith(kSuffix))
+            continue;
+        const QString name = full.chopped(kSuffix.size());
+        auto place = places.constFind(name);
+        if (place == places.cend()) {
+            if (ippGetGroupTag(next) != IPP_TAG_PRINTER || isUnknown)
+                continue;
+            if (defaults.size() == kMostDefaults) {
+                qCWarning(lcQueueDefaults) << "the queue has too many defaults; from here on they "
+                                              "are not looked at:"
+                                           << name;
+                break;
+            }
+            place = places.insert(name, defaults.size());
+            defaults += SaidDefault{name, {}};
+        }
+        defaults[*place].said += optionValuesOf(next).join(u',');
     }
-    names.removeDuplicates();
-    return names;
+    return defaults;
 }
 
 } // namespace
@@ -112,13 +137,12 @@ QList<JobOption> queueDefaults(ipp_t *attributes)
     QList<JobOption> defaults;
     if (!attributes)
         return defaults;
-    const QStringList names = namesOfDefaults(attributes);
-    for (const QString &name : names) {
-        const QStringList said = allOf(attributes, (name + kSuffix).toLatin1());
+    const QList<SaidDefault> all = saidDefaults(attributes);
+    for (const auto &[name, said] : all) {
         const JobOption option{name, said.value(0)};
         if (isSaidOfAnyQueue(option, attributes) || !isAdministrators(name, said, attributes))
             continue;
-        if (option.value.isEmpty())
+        if (!isNameOfOption(name) || option.value.isEmpty())
             qCWarning(lcQueueDefaults) << "a default of the queue is no job option:" << name;
         else
             defaults += option;

@@ -71,8 +71,8 @@ QList<JobOption> paperOptions(const Paper &paper)
     }
     QString details;
     if (!paper.dimension.isEmpty())
-        details += u" media-size={x-dimension=%1 y-dimension=%2}"_s.arg(paper.dimension.width())
-                       .arg(paper.dimension.height());
+        details += u" media-size={x-dimension=%1 y-dimension=%2}"_s.arg(
+            QString::number(paper.dimension.width()), QString::number(paper.dimension.height()));
     if (paper.borderless) {
         for (const char *margin : {"left", "right", "top", "bottom"})
             details += u" media-%1-margin=0"_s.arg(QLatin1StringView(margin));

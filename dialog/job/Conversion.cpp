@@ -84,6 +84,8 @@ FilterPlan Conversion::prepare(QString *problem)
     const QString filling = m_parts->filePath(u"filling.ppd"_s);
     const QString blank = m_parts->filePath(u"blank.pdf"_s);
     *problem = takePpd(own, filling, blank);
+    if (m_request.result == ConversionRequest::Result::PrinterData)
+        m_request.ticket.options = inOrderForFilters(m_request.ticket.options, own);
     return planConversion(
         m_request, {filter, own, filling, m_parts->path(), streamOfPpd(own).continues, blank});
 }

@@ -77,6 +77,13 @@ const Format *formatOfContent(QFile &file, const QMimeType &type)
     return type.isDefault() && looksLikeText(beginningOf(file)) ? kText : nullptr;
 }
 
+// What is named so and says so itself, as most documents do, is one by any database of types.
+// Reading one takes longer than all else that is done with a document before its window is there.
+bool isPlainlyPdf(QFile &file, const QString &fileName)
+{
+    return fileName.endsWith(".pdf"_L1, Qt::CaseInsensitive) && file.peek(5) == "%PDF-";
+}
+
 // `name` is what the user calls it. Errors: see inspectDocument().
 Document inspectFile(const QString &path, const QString &name, DocumentKinds kinds, QString *error)
 {
@@ -89,10 +96,12 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
         *error = Texts::tr("%1 is empty.").arg(name);
         return {};
     }
+    const QString fileName = QFileInfo(name).fileName();
+    if (isPlainlyPdf(file, fileName))
+        return {QFileInfo(path).absoluteFilePath(), kFormats[0].mimeType, fileName};
     const QMimeDatabase database;
     const QMimeType content = database.mimeTypeForData(&file);
     const Format *held = formatOfContent(file, content);
-    const QString fileName = QFileInfo(name).fileName();
     // What is in it is its printer's affair, and so is whether its name fits.
     if (kinds == DocumentKinds::Any)
         return {QFileInfo(path).absoluteFilePath(), held ? held->mimeType : kUnknownFormat,
@@ -102,6 +111,13 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
     if (!held && isPrinterData(beginningOf(file))) {
         *error = Texts::tr("%1 cannot be printed: it holds data that are ready for a printer. A "
                            "queue passes them on as they are with the option “raw”.")
+                     .arg(name);
+        return {};
+    }
+    // Its name for such data ("unknown") is no name of a thing.
+    if (!held && content.isDefault()) {
+        *error = Texts::tr("%1 cannot be printed: nobody can tell what is in it. Documents can be "
+                           "PDF, PostScript, text, PNG or JPEG.")
                      .arg(name);
         return {};
     }

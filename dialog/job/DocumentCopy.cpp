@@ -75,8 +75,8 @@ std::shared_ptr<QTemporaryDir> copyOfDocument(int descriptor, const QString &nam
         else if (count < 0)
             *error = Texts::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno));
         else if (kept > mostBytes)
-            *error =
-                Texts::tr("%1 cannot be kept: it has more than %2 bytes.").arg(name).arg(mostBytes);
+            *error = Texts::tr("%1 cannot be kept: it has more than %2 bytes.")
+                         .arg(name, QString::number(mostBytes));
         else if (copy.write(piece.data(), count) != count)
             *error = Texts::tr("%1 cannot be kept: %2").arg(name, copy.errorString());
         if (!error->isEmpty())

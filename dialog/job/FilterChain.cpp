@@ -34,6 +34,9 @@ QProcessEnvironment environmentOfChain()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const QLatin1StringView name : kPlacesOfFilters)
         environment.remove(name);
+    // cupsfilter asks the print server for options of its own: it would wait for one that is
+    // silent, and take whatever one says. All options of a job are on its command line.
+    environment.insert(u"CUPS_SERVER"_s, u"/dev/null"_s);
     return environment;
 }
 
@@ -69,23 +72,6 @@ bool isCompletePdf(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && file.seek(qMax(qint64(0), file.size() - kTail)) &&
            file.readAll().contains("%%EOF");
-}
-
-// Why a program failed, in its own words and without their prefix: what its filters said last, else
-// what it said first itself, since the rest only follows from that.
-QString errorInLog(const QByteArray &log, const QString &program)
-{
-    const QByteArray ownPrefix = QFileInfo(program).fileName().toUtf8() + ": ";
-    QString ofFilters;
-    QString own;
-    const QList<QByteArray> lines = log.split('\n');
-    for (const QByteArray &line : lines) {
-        if (line.startsWith("ERROR:"))
-            ofFilters = QString::fromUtf8(line.mid(6)).trimmed();
-        else if (own.isEmpty() && line.startsWith(ownPrefix))
-            own = QString::fromUtf8(line.mid(ownPrefix.size())).trimmed();
-    }
-    return ofFilters.isEmpty() ? own : ofFilters;
 }
 
 // The page that a line of the log speaks of, or 0.
@@ -192,7 +178,7 @@ void FilterChain::goOn()
 
 void FilterChain::startNextStep()
 {
-    m_log.clear();
+    m_log.begin(step().program);
     m_writeError.clear();
     QString problem;
     const QStringList arguments = argumentsOfStep(&problem);
@@ -239,19 +225,12 @@ void FilterChain::signalGroup(int signal)
 
 void FilterChain::readLog()
 {
-    const QByteArray said = m_process.readAllStandardError();
-    // A line at a time: what comes at once may end anywhere in it.
-    const qsizetype begun = m_log.lastIndexOf('\n') + 1;
-    m_log += said;
-    const qsizetype end = m_log.lastIndexOf('\n') + 1;
-    if (end <= begun)
-        return;
-    const QByteArray whole = m_log.mid(begun, end - begun - 1);
-    qCDebug(lcJob).noquote() << withoutSecrets(QString::fromUtf8(whole), m_secrets);
+    const QByteArrayList lines = m_log.add(m_process.readAllStandardError());
     int page = 0;
-    const QList<QByteArray> lines = whole.split('\n');
-    for (const QByteArray &line : lines)
+    for (const QByteArray &line : lines) {
+        qCDebug(lcJob).noquote() << withoutSecrets(QString::fromUtf8(line), m_secrets);
         page = qMax(page, pageInLine(line));
+    }
     if (page > 0)
         Q_EMIT pageReached(page);
 }
@@ -314,7 +293,7 @@ QString FilterChain::problemOfStep(int exitCode, QProcess::ExitStatus status) co
         return tr("The document could not be converted for the printer: that took too long.");
     if (status != QProcess::NormalExit)
         return tr("The filter chain of CUPS crashed.");
-    const QString said = withoutSecrets(errorInLog(m_log, step().program), m_secrets);
+    const QString said = withoutSecrets(m_log.error(), m_secrets);
     if (exitCode != 0)
         return tr("The document could not be converted for the printer: %1")
             .arg(said.isEmpty() ? tr("exit status %1").arg(exitCode) : said);

@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include "dialog/job/FilterLog.h"
 #include "dialog/job/FilterPlan.h"
 
 namespace corvana {
@@ -69,7 +70,7 @@ private:
     pid_t m_group = 0;    // of the program that was started last
     QFile m_output;       // of the current step; closed where it writes a file of its own
     QString m_writeError; // why that could not be written
-    QByteArray m_log;     // of the current step
+    FilterLog m_log;      // of the current step
     QTimer m_patience;    // with the current step
     bool m_tookTooLong = false;
     bool m_canceled = false;

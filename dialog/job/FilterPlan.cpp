@@ -115,7 +115,7 @@ private:
     Output result() const { return {m_request.outputPath, m_request.outputName}; }
     Output newPart(QLatin1StringView suffix)
     {
-        const QString path = u"%1/%2.%3"_s.arg(m_places.folder).arg(m_parts++).arg(suffix);
+        const QString path = u"%1/%2.%3"_s.arg(m_places.folder, QString::number(m_parts++), suffix);
         return {path, path};
     }
 

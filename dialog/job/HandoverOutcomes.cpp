@@ -157,9 +157,8 @@ JobOutcome HandoverOutcomes::earlierJobIsThereInPart(const JobStatus &status, in
     return {Kind::AlreadyThere, earlierJob,
             Texts::tr("Job %1 of the earlier try has got %2 of its %3 documents to the printer. "
                       "Print the others by themselves, or everything once more.")
-                .arg(earlierJob)
-                .arg(status.documents)
-                .arg(documents)};
+                .arg(QString::number(earlierJob), QString::number(status.documents),
+                     QString::number(documents))};
 }
 
 JobOutcome HandoverOutcomes::mayBeThereWithoutNumber(Kind kind, const QString &why,
@@ -296,9 +295,7 @@ JobOutcome HandoverOutcomes::ended(const JobStatus &status, bool canceledHere) c
 JobOutcome HandoverOutcomes::endedInPart(const JobStatus &status, int documents) const
 {
     return failed(Texts::tr("Job %1 was printed with %2 of its %3 documents only.")
-                      .arg(name())
-                      .arg(status.documents)
-                      .arg(documents));
+                      .arg(name(), QString::number(status.documents), QString::number(documents)));
 }
 
 } // namespace corvana

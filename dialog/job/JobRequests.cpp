@@ -119,8 +119,7 @@ QString unsendableOption(const JobTicket &ticket)
             return QCoreApplication::translate("JobRequests",
                                                "The value of “%1” is too long for a print server; "
                                                "at most %2 bytes can be sent.")
-                .arg(option.name)
-                .arg(kLongestValue);
+                .arg(option.name, QString::number(kLongestValue));
         if (!clean)
             return QCoreApplication::translate(
                        "JobRequests", "The value of “%1” has characters that a print server would "

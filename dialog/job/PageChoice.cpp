@@ -206,8 +206,7 @@ QStringList problemsOfOrder(const QList<JobOption> &options)
                       .arg(named)
                 : QCoreApplication::translate("PageChoice", "Each page is repeated %1 times on a "
                                                             "side: %2 cannot be done with it.")
-                      .arg(choice.repetitions)
-                      .arg(named)};
+                      .arg(QString::number(choice.repetitions), named)};
 }
 
 QList<int> pagesInOrder(const PageChoice &choice, int pagesOfDocument)
@@ -247,7 +246,7 @@ QStringList pickedPages(const PageChoice &choice, int pagesOfDocument, const QSt
             ++first;
         if (first > last)
             continue;
-        QString pages = u"%1-%2"_s.arg(first).arg(last);
+        QString pages = u"%1-%2"_s.arg(QString::number(first), QString::number(last));
         if (choice.set != PageChoice::Set::All)
             pages += ":odd"_L1;
         picked << file << pages;

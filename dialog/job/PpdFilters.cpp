@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include "dialog/server/IppMessage.h"
+#include "dialog/session/OutputOrder.h"
 #include "dialog/session/PpdFile.h"
 
 namespace corvana {
@@ -145,6 +146,31 @@ QString shownFilter(const QByteArray &line)
     return shownText(isProgram ? read.program.toLatin1().constData() : line.constData());
 }
 
+// Profiles of colours, which CUPS' filters open by the name that the PPD has for them: below a
+// folder of CUPS, or, with a whole path, anywhere.
+constexpr const char *kProfileKeywords[] = {"cupsICCProfile", "APTiogaProfile"};
+
+// Only what the system's packages brought is opened: another name may stand for a device, a pipe,
+// or a file of the user's.
+bool isSafeProfile(const QByteArray &name)
+{
+    const bool isInPackages = !name.startsWith('/') || name.startsWith("/usr/share/");
+    return isInPackages && !name.contains("..");
+}
+
+// The first profile that is not opened here; null for none.
+QByteArray unsafeProfile(ppd_file_t *ppd)
+{
+    for (const char *keyword : kProfileKeywords) {
+        for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute;
+             attribute = ppdFindNextAttr(ppd, keyword, nullptr)) {
+            if (const QByteArray name(attribute->value); !isSafeProfile(name))
+                return name;
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 bool isSafeFilterLine(const QByteArray &line)
@@ -165,8 +191,15 @@ QString problemOfPpdFilters(const QString &ppdPath)
         return problem;
     const QList<QByteArray> lines = filterLines(ppd.get());
     const auto unsafe = std::find_if_not(lines.cbegin(), lines.cend(), isSafeFilterLine);
-    if (unsafe == lines.cend())
-        return {};
+    if (unsafe == lines.cend()) {
+        const QByteArray profile = unsafeProfile(ppd.get());
+        return profile.isNull()
+                   ? QString()
+                   : Texts::tr(
+                         "The driver of this printer names the file “%1”, which only a print "
+                         "server may open. Print on the printer itself instead of into a file.")
+                         .arg(shownText(profile.constData()));
+    }
     return Texts::tr("The driver of this printer needs the program “%1”, which only a print server "
                      "may run. Print on the printer itself instead of into a file.")
         .arg(shownFilter(*unsafe));
@@ -182,6 +215,13 @@ PpdStream streamOfPpd(const QString &ppdPath)
     const ppd_attr_t *single = ppdFindAttr(ppd.get(), "cupsSingleFile", nullptr);
     return {std::none_of(lines.cbegin(), lines.cend(), leadsToFile),
             single && QByteArray(single->value).toLower() == "true"};
+}
+
+QList<JobOption> inOrderForFilters(const QList<JobOption> &options, const QString &ppdPath)
+{
+    QString problem;
+    const PpdFile ppd = openPpdFile(ppdPath, &problem);
+    return ppd ? withOrderForFilters(options, ppd.get()) : options;
 }
 
 } // namespace corvana

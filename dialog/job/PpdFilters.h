@@ -1,15 +1,19 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
+
+#include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
 
-/// Which programs the filter chain may run for a PPD.
+/// Which programs the filter chain may run for a PPD, and which files these may open.
 ///
 /// A PPD comes from a print server, and its filter lines name programs, which `cupsfilter -e`
 /// starts as the user. So a PPD may only choose among filters of the system that are on a list
-/// here, by their bare names, and for the formats that our chain makes.
+/// here, by their bare names, and for the formats that our chain makes. The colour profiles that it
+/// names are read by such a filter; they have to be the system's own.
 
 /// Whether a filter line of a PPD, the value of `cupsFilter`, `cupsFilter2` or `cupsPreFilter`,
 /// leads to nothing but what is on the list.
@@ -35,5 +39,9 @@ struct PpdStream
 
 /// Errors: a PPD that cannot be opened has a stream that continues.
 PpdStream streamOfPpd(const QString &ppdPath);
+
+/// What withOrderForFilters() answers for a PPD in a file.
+/// Errors: a PPD that cannot be opened changes nothing.
+QList<JobOption> inOrderForFilters(const QList<JobOption> &options, const QString &ppdPath);
 
 } // namespace corvana

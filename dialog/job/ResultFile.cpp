@@ -30,8 +30,8 @@ QString makeFileBeside(const QString &place)
 {
     constexpr int kTries = 100;
     for (int i = 0; i < kTries; ++i) {
-        const QString path = u"%1.%2.part"_s.arg(place).arg(QRandomGenerator::system()->generate(),
-                                                            8, 16, QLatin1Char('0'));
+        const QString path = place + u".%1.part"_s.arg(QRandomGenerator::system()->generate(), 8,
+                                                       16, QLatin1Char('0'));
         const int file = ::open(QFile::encodeName(path).constData(),
                                 O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (file >= 0) {

@@ -4,10 +4,10 @@
 #include <climits>
 #include <iterator>
 #include <optional>
+#include <utility>
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace corvana {
 
@@ -77,16 +77,62 @@ auto suffixIn(const Table &table, const QString &what) -> std::optional<QString>
     return found == std::end(table) ? std::nullopt : std::optional(QString(found->suffix));
 }
 
+bool isBlank(QChar c)
+{
+    return c == u' ' || (c >= u'\t' && c <= u'\r');
+}
+
+// The next word of a line, which is taken from it.
+QStringView takeWord(QStringView *line)
+{
+    const auto *begin = std::find_if_not(line->begin(), line->end(), isBlank);
+    const auto *end = std::find_if(begin, line->end(), isBlank);
+    const QStringView word(begin, end);
+    *line = QStringView(end, line->end());
+    return word;
+}
+
+// "application/pdf"
+bool isFormat(QStringView word)
+{
+    const qsizetype slash = word.indexOf(u'/', 1);
+    return slash > 0 && slash < word.size() - 1;
+}
+
+bool isNumber(QStringView word)
+{
+    return !word.isEmpty() &&
+           std::all_of(word.begin(), word.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+// "maxsize(1000)", which may stand in front of the program.
+QStringView withoutLimit(QStringView program)
+{
+    constexpr auto kLimit = "maxsize("_L1;
+    const qsizetype end = program.indexOf(u')');
+    if (!program.startsWith(kLimit) || end < 0 ||
+        !isNumber(program.first(end).sliced(kLimit.size())))
+        return program;
+    const QStringView behind = program.sliced(end + 1).trimmed();
+    return behind.isEmpty() ? program : behind;
+}
+
+// Read without a pattern: each window would wait for one to be compiled.
 std::optional<FilterLine> readLine(const QByteArray &line)
 {
-    static const QRegularExpression pattern(
-        u"^\\s*(\\S+/\\S+)\\s+(?:(\\S+/\\S+)\\s+)?([0-9]{1,9})\\s+(?:maxsize\\([0-9]+\\)\\s*)?"
-        "(.+?)\\s*$"_s);
-    const QRegularExpressionMatch match = pattern.match(QString::fromLatin1(line));
-    if (!match.hasMatch())
+    constexpr qsizetype kMostDigits = 9;
+    const QString text = QString::fromLatin1(line);
+    QStringView rest(text);
+    const QStringView source = takeWord(&rest);
+    QStringView destination;
+    QStringView cost = takeWord(&rest);
+    if (isFormat(cost))
+        destination = std::exchange(cost, takeWord(&rest));
+    const QStringView program = withoutLimit(rest.trimmed());
+    if (!isFormat(source) || !isNumber(cost) || cost.size() > kMostDigits || program.isEmpty())
         return std::nullopt;
-    return FilterLine{match.captured(1).toLower(), match.captured(2).toLower(),
-                      match.captured(3).toInt(), QFileInfo(match.captured(4)).fileName()};
+    return FilterLine{source.toString().toLower(), destination.toString().toLower(), cost.toInt(),
+                      QFileInfo(program.toString()).fileName()};
 }
 
 QString suffixOf(const FilterLine &line)
@@ -133,7 +179,7 @@ QString freeResultName(const QString &folder, const QString &base, const QString
     const QDir place(folder);
     QString name = place.absoluteFilePath(u"%1.%2"_s.arg(base, suffix));
     for (int i = 2; QFileInfo::exists(name); ++i)
-        name = place.absoluteFilePath(u"%1-%2.%3"_s.arg(base).arg(i).arg(suffix));
+        name = place.absoluteFilePath(u"%1-%2.%3"_s.arg(base, QString::number(i), suffix));
     return name;
 }
 

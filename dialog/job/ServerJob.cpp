@@ -308,6 +308,8 @@ void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
     ServerJobRequest request = m_request;
     request.ticket = ticket;
     request.ticket.options = withoutPageOrder(ticket.options); // nobody else knows them
+    if (request.printer.origin == PrinterOrigin::Queue && !request.ppd->isWritten)
+        request.ticket.options = inOrderForFilters(request.ticket.options, request.ppd->path);
     const int times = repetitionsOf(ticket, static_cast<int>(documents.size()));
     QList<Document> all;
     for (int i = 0; i < times; ++i)

@@ -63,7 +63,7 @@ QString words(const QString &kind, const QStringList &texts)
 
 QString PolicyOrigin::text() const
 {
-    return line > 0 ? u"%1:%2"_s.arg(file).arg(line) : file;
+    return line > 0 ? u"%1:%2"_s.arg(file, QString::number(line)) : file;
 }
 
 QString PolicyProblem::text() const
@@ -114,7 +114,8 @@ QString problemOfValue(const PolicyKeyForm &form, const QString &value)
         if (isDigits && isNumber && number <= kMostSheets)
             return {};
         return Texts::tr("“%1” is not allowed. Allowed: %2.")
-            .arg(value, Texts::tr("a number from %1 to %2").arg(0).arg(kMostSheets));
+            .arg(value,
+                 Texts::tr("a number from %1 to %2").arg(u"0"_s, QString::number(kMostSheets)));
     }
     }
     return {};

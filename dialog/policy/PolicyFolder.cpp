@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include "dialog/policy/FileTrust.h"
 #include "dialog/policy/PolicyFile.h"
 
 namespace corvana {
@@ -50,38 +51,6 @@ QString systemError(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
-// Why somebody else could have written it; empty when nobody could. Access lists show among the
-// permissions of the group.
-QString distrust(const struct stat &status, const PolicyPlace &place, bool isAbove)
-{
-    const bool isOwned = status.st_uid == 0 || (place.mayBeUsers && status.st_uid == ::geteuid());
-    if (!isOwned)
-        return Texts::tr("it belongs to the user with the number %1").arg(status.st_uid);
-    // In a folder like /tmp nobody can take away what is another's.
-    const bool isKept = isAbove && (status.st_mode & S_ISVTX) != 0;
-    if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0 && !isKept)
-        return Texts::tr("others than its owner may write it");
-    return {};
-}
-
-// The same of the folders above, up to the root.
-PolicyProblem distrustAbove(const QByteArray &folder, const PolicyPlace &place)
-{
-    QByteArray above = folder;
-    while (above.size() > 1) {
-        const qsizetype slash = above.lastIndexOf('/');
-        above = slash > 0 ? above.first(slash) : QByteArray("/");
-        struct stat status = {};
-        const QString why = ::lstat(above.constData(), &status) != 0
-                                ? systemError(errno)
-                                : distrust(status, place, true);
-        if (!why.isEmpty())
-            return {{QFile::decodeName(above), 0},
-                    Texts::tr("nothing below this folder is used: %1").arg(why)};
-    }
-    return {};
-}
-
 class FolderReader
 {
 public:
@@ -98,9 +67,8 @@ public:
         }
         m_path = resolved;
         std::free(resolved);
-        if (const PolicyProblem above = distrustAbove(m_path, m_reading.place);
-            !above.what.isEmpty()) {
-            m_reading.problems += above;
+        if (const auto above = whoElseMayWriteAbove(m_path, m_reading.place.owners())) {
+            m_reading.problems += *above;
             return m_reading;
         }
         const OpenFile folder(
@@ -110,7 +78,7 @@ public:
             refuse(m_reading.place.folder, systemError(errno));
             return m_reading;
         }
-        if (const QString why = distrust(status, m_reading.place, false); !why.isEmpty()) {
+        if (const QString why = whoElseMayWrite(status, m_reading.place.owners()); !why.isEmpty()) {
             refuse(m_reading.place.folder,
                    Texts::tr("nothing in this folder is used: %1").arg(why));
             return m_reading;
@@ -186,7 +154,7 @@ private:
             return refuse(path, Texts::tr("the file is not used: %1").arg(systemError(error)));
         if (!S_ISREG(status.st_mode))
             return refuse(path, Texts::tr("the file is not used: it is no ordinary file"));
-        if (const QString why = distrust(status, m_reading.place, false); !why.isEmpty())
+        if (const QString why = whoElseMayWrite(status, m_reading.place.owners()); !why.isEmpty())
             return refuse(path, Texts::tr("the file is not used: %1").arg(why));
         take(file.get(), path);
     }

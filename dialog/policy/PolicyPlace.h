@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "dialog/policy/FileTrust.h"
+
 namespace corvana {
 
 /// Where a policy is, and whose it is.
@@ -11,6 +13,11 @@ struct PolicyPlace
     /// Whether its files may belong to the user who runs this program: they are of a test, or of
     /// somebody who tries a policy out. Else they are root's.
     bool mayBeUsers = false;
+
+    TrustedOwners owners() const
+    {
+        return mayBeUsers ? TrustedOwners::RootAndUser : TrustedOwners::Root;
+    }
 
     bool operator==(const PolicyPlace &) const = default;
 };

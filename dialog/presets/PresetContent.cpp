@@ -201,7 +201,12 @@ QStringList namesIn(const PresetContent &content, const QList<PanelEntry> &entri
 {
     QStringList names = content.options.keys() + content.attributes.keys();
     for (const PanelEntry &entry : entries) {
-        if (content.entries.contains(entry.key))
+        // An entry may hold the values of several options. Where one of them is there by itself, it
+        // alone is what the entry was changed for.
+        const bool isSaid =
+            std::any_of(entry.options.cbegin(), entry.options.cend(),
+                        [&](const QString &option) { return content.options.contains(option); });
+        if (content.entries.contains(entry.key) && !isSaid)
             names += entry.options;
     }
     names.removeDuplicates();

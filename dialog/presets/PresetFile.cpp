@@ -214,7 +214,8 @@ PresetReading readPreset(const QByteArray &json)
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
         return {std::nullopt,
-                Texts::tr("line %1: %2").arg(lineAt(json, error.offset)).arg(error.errorString())};
+                Texts::tr("line %1: %2")
+                    .arg(QString::number(lineAt(json, error.offset)), error.errorString())};
     if (!document.isObject())
         return {std::nullopt, Texts::tr("expected was { … }")};
     Reader reader(document.object());

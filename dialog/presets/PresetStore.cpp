@@ -40,21 +40,37 @@ QString damaged(const QString &path, const QString &why)
         .arg(QDir::toNativeSeparators(path), why);
 }
 
-// The presets of one folder.
-void read(const QString &place, const QString &name, bool isOwn, PresetListing *all)
+// Whether what an administrator named is believed; else that is said. Nothing is to be said of what
+// is not there: a folder may come from a server that is away.
+bool isBelieved(const QString &path, TrustedOwners owners, PresetListing *all)
 {
-    if (place.isEmpty())
+    if (!QFileInfo::exists(path))
+        return false;
+    const std::optional<PolicyProblem> problem = whyNotTrusted(path, owners);
+    if (problem)
+        all->problems += problem->text();
+    return !problem;
+}
+
+// The presets of one folder; `owners`: of an administrator's, nothing for the user's own.
+void read(const QString &place, const QString &name, std::optional<TrustedOwners> owners,
+          PresetListing *all)
+{
+    const QString folder = name.isEmpty() ? place : place + u'/' + name;
+    if (place.isEmpty() || !QFileInfo(folder).isDir() ||
+        (owners && !isBelieved(folder, *owners, all)))
         return;
-    const QString folder = place + u'/' + name;
     const QStringList files =
         QDir(folder).entryList({u"*"_s + kSuffix}, QDir::Files | QDir::System, QDir::Name);
     for (const QString &file : files.mid(0, kMostPresets)) {
         const QString path = folder + u'/' + file;
+        if (owners && !isBelieved(path, *owners, all))
+            continue;
         const PresetReading reading = readPresetFile(path);
         if (!reading.problem.isEmpty())
             all->problems += damaged(path, reading.problem);
         if (reading.preset)
-            all->presets += StoredPreset{*reading.preset, path, isOwn};
+            all->presets += StoredPreset{*reading.preset, path, !owners};
     }
 }
 
@@ -142,11 +158,13 @@ PresetListing PresetStore::list(const QString &model) const
         models += QString();
     for (const QString &one : std::as_const(models)) {
         PresetListing part;
-        read(m_places.own, folderName(one), true, &part);
+        read(m_places.own, folderName(one), {}, &part);
         // An administrator may put files anywhere; each says itself which printers it is for.
         for (const QString &place : m_places.forEverybody) {
-            for (const QString &folder : {folderName(one), u"."_s})
-                read(place, folder, false, &part);
+            if (!isBelieved(place, m_places.owners, &part))
+                continue; // one sentence for all that is in it
+            for (const QString &folder : {folderName(one), QString()})
+                read(place, folder, m_places.owners, &part);
         }
         keepModel(&part, one);
         sortByName(&part.presets);
@@ -165,14 +183,17 @@ PresetListing PresetStore::list(const QString &model) const
 PresetListing PresetStore::listAll() const
 {
     PresetListing listing;
-    const auto readBelow = [&](const QString &place, bool isOwn) {
-        const QStringList folders = QDir(place).entryList(QDir::Dirs | QDir::NoDotDot);
+    const auto readBelow = [&](const QString &place, std::optional<TrustedOwners> owners) {
+        read(place, {}, owners, &listing);
+        const QStringList folders = QDir(place).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         for (const QString &folder : folders.mid(0, kMostPresets))
-            read(place, folder, isOwn, &listing);
+            read(place, folder, owners, &listing);
     };
-    readBelow(m_places.own, true);
-    for (const QString &place : m_places.forEverybody)
-        readBelow(place, false);
+    readBelow(m_places.own, {});
+    for (const QString &place : m_places.forEverybody) {
+        if (isBelieved(place, m_places.owners, &listing))
+            readBelow(place, m_places.owners);
+    }
     sortByName(&listing.presets);
     return listing;
 }
@@ -189,7 +210,7 @@ QString PresetStore::fileOf(const Preset &preset) const
     if (QFileInfo::exists(usual))
         return usual;
     PresetListing there;
-    read(m_places.own, folderName(preset.model), true, &there);
+    read(m_places.own, folderName(preset.model), {}, &there);
     keepModel(&there, preset.model);
     const std::optional<StoredPreset> found = there.find(preset.name);
     return found ? found->path : usual;

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "dialog/policy/FileTrust.h"
 #include "dialog/presets/Preset.h"
 
 namespace corvana {
@@ -15,6 +16,7 @@ struct PresetPlaces
 {
     QString own;                ///< the user's; one folder a model below it
     QStringList forEverybody{}; ///< an administrator's, there or in it itself; only read
+    TrustedOwners owners = TrustedOwners::Root; ///< of those; what others may write is not read
 
     bool operator==(const PresetPlaces &) const = default;
     /// Those of this user: $XDG_DATA_HOME/corvana-print/presets.
@@ -36,6 +38,7 @@ struct PresetListing
 {
     QList<StoredPreset> presets{};
     /// One sentence for each file that is damaged, with its path. It stays where it is, as it is.
+    /// And one for what is an administrator's and could have been written by others.
     QStringList problems{};
 
     bool operator==(const PresetListing &) const = default;

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 
 #include "dialog/printers/SharedFile.h"
@@ -14,6 +15,8 @@
 namespace corvana {
 
 using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(lcOwnInstances, "corvana.dialog.printers.instances", QtWarningMsg)
 
 namespace {
 
@@ -36,9 +39,26 @@ QByteArray withInstances(const QByteArray &content, const QJsonObject &instances
     return QJsonDocument(whole).toJson();
 }
 
+// What is damaged is about to be replaced; whoever can mend it finds it beside the new file.
+void keepDamagedFile(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray content = file.read(kMostBytesOfSharedFile);
+    file.close();
+    if (content.trimmed().isEmpty() || QJsonDocument::fromJson(content).isObject())
+        return;
+    const QString kept = path + u".damaged"_s;
+    QFile::remove(kept);
+    if (QFile::rename(path, kept))
+        qCWarning(lcOwnInstances) << "the damaged file was kept as" << kept;
+}
+
 QString change(const QString &path, const std::function<void(QJsonObject *)> &edit)
 {
     QDir().mkpath(QFileInfo(path).path());
+    keepDamagedFile(path);
     const auto changed = [edit](const QByteArray &content) {
         QJsonObject instances = instancesIn(content);
         edit(&instances);

@@ -22,7 +22,8 @@ public:
     /// that is damaged knows none.
     QMap<QString, QString> read() const;
     QStringList names() const { return read().keys(); }
-    /// Errors: both answer a sentence for the user.
+    /// Errors: both answer a sentence for the user. A file that is damaged is kept beside the new
+    /// one, as "instances.json.damaged".
     QString note(const QString &name, const QString &settings) const;
     QString forget(const QString &name) const;
 

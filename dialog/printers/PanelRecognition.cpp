@@ -21,6 +21,8 @@ namespace {
 constexpr QLatin1StringView kBundleFile = "QXCLQuality13PDE.bundle"_L1;
 constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
 constexpr QLatin1StringView kIdentifyingKeys = "PMPPDKeysIdentifying"_L1;
+// How much of a line a log quotes. Units: characters.
+constexpr qsizetype kLongestQuotation = 80;
 } // namespace
 
 QString namedBundle(ppd_file_t *ppd)
@@ -47,7 +49,8 @@ PanelRule panelRule(const QString &file, const QStringList &names)
         const QString pattern = line.section(u' ', 1);
         const bool panels = word == "panels"_L1;
         if (pattern.isEmpty() || (!panels && word != "none"_L1)) {
-            qCWarning(lcRecognition).noquote() << file << "has a line that is no rule:" << line;
+            qCWarning(lcRecognition).noquote()
+                << file << "has a line that is no rule:" << line.left(kLongestQuotation);
             continue;
         }
         const auto expression = QRegularExpression::fromWildcard(pattern, Qt::CaseInsensitive);
@@ -93,8 +96,11 @@ PanelDecision decidePanels(ppd_file_t *ppd, const Printer &printer, const QStrin
         panelRule(panelRulesFile(),
                   {queueOfInstance(printer.name), ppdText(ppd->nickname).value_or(QString())});
     const FoundPlugIn found = findPlugInBundle(bundleFileOf(ppd), bundleRoots);
-    if (found.bundle)
-        return decidePanels(ppd, *found.bundle, rule);
+    if (found.bundle) {
+        PanelDecision decision = decidePanels(ppd, *found.bundle, rule);
+        decision.found = found;
+        return decision;
+    }
     const bool wanted =
         rule == PanelRule::ByPpd ? !namedBundle(ppd).isNull() : rule == PanelRule::Panels;
     return {wanted, u"there is no usable bundle"_s};

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "platform/pde/PDEBundleLoader.h"
 #include "platform/printcore/Ppd.h"
 
 namespace corvana {
@@ -16,7 +17,8 @@ struct Printer;
 struct PanelDecision
 {
     bool panels = false;
-    QString reason; ///< for the log and for whoever asks
+    QString reason;      ///< for the log and for whoever asks
+    FoundPlugIn found{}; ///< the bundle that was looked at, if there is a usable one
 };
 
 /// What an administrator has decided about a printer's panels.

@@ -4,7 +4,9 @@
 
 #include "dialog/driverless/CapabilityPpd.h"
 #include "dialog/printers/DevicePrinter.h"
+#include "dialog/printers/PanelRecognition.h"
 #include "dialog/printers/UserQueues.h"
+#include "dialog/session/PpdFile.h"
 
 namespace corvana {
 
@@ -17,11 +19,11 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(PrinterFetching)
 };
 
-FetchedPrinter withWrittenPpd(const Printer &printer, const PrinterCapabilities &capabilities,
+FetchedPrinter withWrittenPpd(const Printer &printer,
+                              const std::shared_ptr<const PrinterCapabilities> &capabilities,
                               const QList<JobOption> &defaults, QString *error)
 {
-    return {printer, writtenPpd(ppdOfCapabilities(capabilities), error), defaults,
-            std::make_shared<const PrinterCapabilities>(capabilities)};
+    return {printer, writtenPpd(ppdOfCapabilities(*capabilities), error), defaults, capabilities};
 }
 
 SharedPpd keptPpd(const QueueDetails &details, const PpdCache &cache, const ServerAddress &server,
@@ -39,14 +41,21 @@ FetchedPrinter fetchedPrinter(const QueueDetails &details, const PpdCache &cache
 {
     switch (details.state) {
     case QueueDetails::Ppd::None:
-        return withWrittenPpd(details.printer, capabilitiesOf(details.attributes.get()),
-                              details.defaults, error);
+        return withWrittenPpd(details.printer, details.capabilities, details.defaults, error);
     case QueueDetails::Ppd::Read:
         return {details.printer, keptPpd(details, cache, server, error), details.defaults};
     case QueueDetails::Ppd::Unknown:
         break;
     }
     return {details.printer};
+}
+
+bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
+{
+    QString error;
+    const SharedPpd copy = temporaryPpd(details.ppd, &error);
+    const PpdFile ppd = copy ? openPpdFile(copy->path, &error) : nullptr;
+    return ppd && decidePanels(ppd.get(), details.printer, bundleRoots).panels;
 }
 
 FetchedPrinter printerWithItsFile(const Printer &printer)
@@ -68,11 +77,16 @@ Printer queueNamed(const QString &name, ServerAddress *server)
     return printer;
 }
 
-FetchedPrinter pdfPrinter(QString *error)
+Printer pdfPrinter()
 {
     Printer printer;
     printer.name = kPdfPrinterName;
     printer.description = Texts::tr("Save as PDF");
+    return printer;
+}
+
+FetchedPrinter fetchedPdfPrinter(QString *error)
+{
     // Paper that has no backs, no strips that nobody can print on, and is there once.
     PrinterCapabilities file;
     file.documentFormats = QStringList{u"application/pdf"_s};
@@ -80,7 +94,8 @@ FetchedPrinter pdfPrinter(QString *error)
     file.colorModes = QStringList{u"color"_s};
     file.margins = {0, 0, 0, 0};
     file.maximumCopies = 1;
-    return withWrittenPpd(printer, file, {}, error);
+    return withWrittenPpd(pdfPrinter(), std::make_shared<const PrinterCapabilities>(file), {},
+                          error);
 }
 
 } // namespace corvana

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "dialog/printers/FetchedPrinter.h"
 #include "dialog/printers/PpdCache.h"
 #include "dialog/printers/QueueRequests.h"
@@ -12,6 +14,9 @@ namespace corvana {
 FetchedPrinter fetchedPrinter(const QueueDetails &details, const PpdCache &cache,
                               const ServerAddress &server, QString *error);
 
+/// Whether the PPD of a queue has panels here.
+bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots);
+
 /// A printer that is a PPD file.
 FetchedPrinter printerWithItsFile(const Printer &printer);
 
@@ -20,7 +25,10 @@ Printer queueNamed(const QString &name, ServerAddress *server);
 
 /// The printer that is always there: saves any document as a PDF that is laid out on paper as
 /// every printer would have it.
+Printer pdfPrinter();
+
+/// The same, with what its PPD says.
 /// Errors: no PPD; `error` says what could not be written.
-FetchedPrinter pdfPrinter(QString *error);
+FetchedPrinter fetchedPdfPrinter(QString *error);
 
 } // namespace corvana

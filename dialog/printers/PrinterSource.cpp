@@ -7,9 +7,7 @@
 
 #include "dialog/printers/DevicePrinter.h"
 #include "dialog/printers/LastPrinter.h"
-#include "dialog/printers/PanelRecognition.h"
 #include "dialog/printers/PrinterId.h"
-#include "dialog/session/PpdFile.h"
 
 namespace corvana {
 
@@ -48,14 +46,6 @@ QString noDefaultPrinter(const ServerProblem &problem, const ServerAddress &serv
                                     "with --ppd FILE, or try the sample printers with --demo.");
 }
 
-bool hasPanels(const QueueDetails &details, const QStringList &bundleRoots)
-{
-    QString error;
-    const SharedPpd copy = temporaryPpd(details.ppd, &error);
-    const PpdFile ppd = copy ? openPpdFile(copy->path, &error) : nullptr;
-    return ppd && decidePanels(ppd.get(), details.printer, bundleRoots).panels;
-}
-
 } // namespace
 
 PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObject *parent)
@@ -69,11 +59,8 @@ PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObj
         lookForBetterQueue();
         Q_EMIT listChanged();
     });
-    // Where it cannot be written, there is none; the printers of the list are not touched by that.
-    QString error;
-    m_pdfPrinter = pdfPrinter(&error);
-    if (!isOffered(m_pdfPrinter.printer))
-        m_pdfPrinter.ppd.reset();
+    if (const Printer pdf = pdfPrinter(); isOffered(pdf))
+        m_pdfPrinter = FetchedPrinter{pdf};
     m_wish.files.removeIf([this](const Printer &printer) {
         // What was named is opened, and refused, by its name.
         return !isOffered(printer) && (m_wish.name.isEmpty() || !isCalled(printer, m_wish.name));
@@ -111,8 +98,8 @@ QList<Printer> PrinterSource::printers() const
                            !find(m_queues.printers(), m_open.printer.name));
     if (unlisted && isOffered(m_open.printer))
         all.prepend(m_open.printer);
-    if (m_pdfPrinter.ppd)
-        all += m_pdfPrinter.printer;
+    if (m_pdfPrinter)
+        all += m_pdfPrinter->printer;
     return all;
 }
 
@@ -143,7 +130,7 @@ Printer PrinterSource::first()
     }
     if (name.isEmpty()) {
         m_provisional = true;
-        return m_pdfPrinter.printer;
+        return pdfPrinter();
     }
     Printer printer = queueNamed(name, &m_deviceServer.address);
     if (printer.origin == PrinterOrigin::Device)
@@ -213,12 +200,8 @@ void PrinterSource::open(const Printer &printer)
     reset(printer);
     if (isRefused())
         return;
-    if (printer.origin == PrinterOrigin::File) {
-        const bool isPdfPrinter = m_pdfPrinter.ppd && idOf(printer) == idOf(m_pdfPrinter.printer);
-        m_open = isPdfPrinter ? m_pdfPrinter : printerWithItsFile(printer);
-        Q_EMIT ready(FetchedPrinter(m_open));
-        return;
-    }
+    if (printer.origin == PrinterOrigin::File)
+        return openFile(printer);
     if (lacksInstance())
         return;
     if (printer.origin == PrinterOrigin::Queue) {
@@ -229,6 +212,18 @@ void PrinterSource::open(const Printer &printer)
         }
     }
     inspect(false);
+}
+
+void PrinterSource::openFile(const Printer &printer)
+{
+    QString error;
+    const bool isPdfPrinter = m_pdfPrinter && savesPdf(printer);
+    if (isPdfPrinter && !m_pdfPrinter->ppd)
+        m_pdfPrinter = fetchedPdfPrinter(&error);
+    m_open = isPdfPrinter ? *m_pdfPrinter : printerWithItsFile(printer);
+    if (!m_open.ppd)
+        return Q_EMIT failed(error, error);
+    Q_EMIT ready(FetchedPrinter(m_open));
 }
 
 // An instance that nobody has made would be its queue without the options that were meant.
@@ -281,7 +276,7 @@ bool PrinterSource::meansPdfPrinter(const ServerProblem &problem) const
     using Kind = ServerProblem::Kind;
     const bool isNoQueue = problem.kind == Kind::NotFound || problem.kind == Kind::Unreachable ||
                            problem.kind == Kind::NoAnswer;
-    return isNoQueue && m_pdfPrinter.ppd && !m_open.ppd &&
+    return isNoQueue && m_pdfPrinter && !m_open.ppd &&
            m_open.printer.origin == PrinterOrigin::Queue && m_open.printer.name == kPdfPrinterName;
 }
 
@@ -291,7 +286,7 @@ void PrinterSource::inspected(const QueueDetails &details)
     m_inspectionFailed = details.state == QueueDetails::Ppd::Unknown;
     if (details.state == QueueDetails::Ppd::Unknown) {
         if (meansPdfPrinter(details.problem))
-            return open(Printer(m_pdfPrinter.printer));
+            return open(pdfPrinter());
         const ServerAddress &server = serverOf(m_open.printer).address;
         if (details.problem.kind == ServerProblem::Kind::NotFound) {
             const QString problem =

@@ -101,6 +101,7 @@ private:
     bool isRefused();
     QString usersDefault();
     bool lacksInstance();
+    void openFile(const Printer &printer);
     bool meansPdfPrinter(const ServerProblem &problem) const;
     bool isOpenQueue(const Printer &printer) const;
     void lookForBetterQueue();
@@ -109,7 +110,8 @@ private:
     void follow();
 
     PrinterWish m_wish;
-    FetchedPrinter m_pdfPrinter;
+    /// Nothing where nobody may have it. Its PPD is written when it is opened first.
+    std::optional<FetchedPrinter> m_pdfPrinter;
     UserQueues m_userQueues;
     PpdCache m_cache;
     QueueList m_queues;

@@ -1,6 +1,7 @@
 #include "dialog/printers/QueueList.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include <QCollator>
@@ -134,7 +135,6 @@ void QueueList::look(bool mayAsk)
     // Only the first list is shown while it grows; later ones take its place as a whole.
     const bool growing = !m_everComplete;
     m_work = ServerWork(context, [this, growing](ServerWorker &worker) {
-        QList<Printer> queues;
         const QString serverDefault = defaultQueue(worker.connection());
         // Only a server that has no default, or does not tell it, may still tell its queues; one
         // that was not let in, or is away, is not asked a second time.
@@ -142,19 +142,29 @@ void QueueList::look(bool mayAsk)
         const Kind kind = worker.connection().problem().kind;
         const bool away = kind != Kind::None && kind != Kind::NotFound && kind != Kind::Refused &&
                           kind != Kind::Forbidden;
+        // Only what is new is posted: a server may tell of a hundred thousand queues, and the whole
+        // list posted with each page would fill the memory. `all` is of the GUI thread alone.
+        const auto all = std::make_shared<QList<Printer>>();
+        QList<Printer> news;
+        qsizetype shown = 0;
+        const auto show = [&](bool complete) {
+            shown += news.size();
+            worker.post([this, all, serverDefault, complete, more = std::exchange(news, {})] {
+                *all += more;
+                take(*all, serverDefault, complete);
+            });
+        };
         const bool listed =
             !away && listQueues(worker.connection(), [&](const QList<Printer> &page) {
-                queues += page;
-                if (growing) {
-                    // A list of its own: this one goes on growing here.
-                    const QList<Printer> first(queues.cbegin(), queues.cend());
-                    worker.post(
-                        [this, first, serverDefault] { take(first, serverDefault, false); });
-                }
+                news += page;
+                // To show a list takes the time of the whole of it, so it is shown again when it
+                // has doubled.
+                if (growing && news.size() >= shown)
+                    show(false);
             });
         const ServerProblem problem = worker.connection().problem();
-        if (listed)
-            worker.post([this, queues, serverDefault] { take(queues, serverDefault, true); });
+        if (listed || (growing && !news.isEmpty()))
+            show(listed);
         worker.post([this, listed, problem] { finished(listed ? ServerProblem() : problem); });
     });
 }

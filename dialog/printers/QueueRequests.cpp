@@ -17,8 +17,6 @@ namespace {
 
 // Queues in one answer: few enough to come soon, enough that thousands need few round trips.
 constexpr int kPage = 200;
-// No server has as many; one that invents names without end must not fill the memory.
-constexpr qsizetype kMostQueues = 100000;
 
 const QList<const char *> kListed{"printer-name",
                                   "printer-info",
@@ -57,6 +55,22 @@ QStringList withoutNone(QStringList keywords)
 {
     keywords.removeAll("none"_L1);
     return keywords;
+}
+
+// The length of all texts of a printer, with what each takes beside that.
+qsizetype lengthOf(const Printer &printer)
+{
+    constexpr qsizetype kBeside = 24;
+    qsizetype length = 0;
+    for (const QString &text :
+         {printer.name, printer.description, printer.location, printer.makeAndModel,
+          printer.stateMessage, printer.uri, printer.deviceUri})
+        length += text.size() + kBeside;
+    for (const QStringList &texts : {printer.stateReasons, printer.authInfo}) {
+        for (const QString &text : texts)
+            length += text.size() + kBeside;
+    }
+    return length;
 }
 
 // libcups escapes what a path must not have.
@@ -145,10 +159,11 @@ Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next)
 }
 
 bool listQueues(ServerConnection &connection,
-                const std::function<void(const QList<Printer> &)> &found)
+                const std::function<void(const QList<Printer> &)> &found, const QueueBounds &bounds)
 {
     QSet<QString> known;
     QString last;
+    qsizetype length = 0;
     for (;;) {
         IppMessage request = newIppRequest(IPP_OP_CUPS_GET_PRINTERS);
         ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", kPage);
@@ -178,12 +193,17 @@ bool listQueues(ServerConnection &connection,
             if (!printer.name.isEmpty() && !known.contains(printer.name)) {
                 known += printer.name;
                 page += printer;
+                length += lengthOf(printer);
             }
         }
         if (!page.isEmpty() || last.isEmpty())
             found(page);
-        if (answered < kPage || page.isEmpty() || known.size() >= kMostQueues)
+        if (answered < kPage || page.isEmpty())
             return true;
+        if (known.size() >= bounds.queues || length > bounds.texts) {
+            connection.restore({ServerProblem::Kind::TooLarge});
+            return false;
+        }
         last = page.constLast().name;
     }
 }
@@ -202,13 +222,12 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer)
     QueueDetails details;
     details.printer = printer;
     const bool isDevice = printer.origin == PrinterOrigin::Device;
-    const std::shared_ptr<ipp_t> response =
+    IppMessage response =
         askPrinter(connection, printer, isDevice ? kWhatAPrinterCan : kEverythingOfAQueue);
     if (!response) {
         details.problem = connection.problem();
         return details;
     }
-    details.attributes = response;
     ipp_attribute_t *next = ippFirstAttribute(response.get());
     while (next && ippGetGroupTag(next) != IPP_TAG_PRINTER)
         next = ippNextAttribute(response.get());
@@ -227,16 +246,27 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer)
     if (now.description.isEmpty())
         now.description = printer.description.isEmpty() ? printer.name : printer.description;
     details.printer = now;
+    // Here, not where it is used: an answer may be so long that reading it, and letting go of it,
+    // would be seen in a window.
+    const auto readCapabilities = [&] {
+        details.capabilities =
+            std::make_shared<const PrinterCapabilities>(capabilitiesOf(response.get()));
+    };
     if (isDevice) {
         details.state = QueueDetails::Ppd::None;
+        readCapabilities();
         return details;
     }
     details.defaults = queueDefaults(response.get());
     fetchPpd(connection, now.isClass ? firstMember(response.get()) : queueOfInstance(printer.name),
              &details);
-    if (details.state == QueueDetails::Ppd::None && !isRawQueue(response.get()))
-        details.attributes = askPrinter(connection, printer, kWhatAPrinterCan);
-    if (!details.attributes) {
+    if (details.state != QueueDetails::Ppd::None)
+        return details;
+    if (!isRawQueue(response.get()))
+        response = askPrinter(connection, printer, kWhatAPrinterCan);
+    if (response) {
+        readCapabilities();
+    } else {
         details.state = QueueDetails::Ppd::Unknown;
         details.problem = connection.problem();
     }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QByteArray>
 #include <QList>
 
+#include "dialog/driverless/PrinterCapabilities.h"
 #include "dialog/printers/Printer.h"
 #include "dialog/server/ServerConnection.h"
 #include "platform/pde/PDEJobValues.h"
@@ -16,11 +18,21 @@ namespace corvana {
 /// Everything that a list of printers shows, of one printer in a response.
 Printer printerOfAttributes(ipp_t *response, ipp_attribute_t **next);
 
+/// How much a server may tell of its queues: no server has as many, and one that invents names
+/// without end must not fill the memory. Looked at when a page is full, so that a last page may go
+/// beyond it.
+struct QueueBounds
+{
+    qsizetype queues = 100'000;
+    qsizetype texts = 64 * 1024 * 1024; ///< Units: UTF-16 code units of all texts
+};
+
 /// Asks for all queues, page by page, so that the first ones of thousands can be shown before the
 /// last ones are known. `found` gets each page.
 /// Errors: false; the connection's problem() says why.
 bool listQueues(ServerConnection &connection,
-                const std::function<void(const QList<Printer> &)> &found);
+                const std::function<void(const QList<Printer> &)> &found,
+                const QueueBounds &bounds = {});
 
 /// The server's default queue; empty when it has none.
 QString defaultQueue(ServerConnection &connection);
@@ -31,14 +43,14 @@ struct QueueDetails
     enum class Ppd {
         Unknown, ///< see `problem`
         Read,    ///< in `ppd`
-        None,    ///< the queue has none; `attributes` say what it supports
+        None,    ///< the queue has none; `capabilities` say what it supports
     };
 
     Printer printer;
     Ppd state = Ppd::Unknown;
     QByteArray ppd{};
     QByteArray ppdHash{}; ///< see hashOfPpd()
-    std::shared_ptr<ipp_t> attributes{};
+    std::shared_ptr<const PrinterCapabilities> capabilities{};
     QList<JobOption> defaults{}; ///< see queueDefaults(); none of a device
     ServerProblem problem{};
 };

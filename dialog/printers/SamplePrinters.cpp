@@ -79,8 +79,10 @@ Printer printerOfPpd(const QString &ppdPath, QString *error)
 QList<Printer> samplePrinters(const QString &folder)
 {
     QList<Printer> printers;
-    const QFileInfoList files = QDir(folder).entryInfoList({u"*.ppd"_s}, QDir::Files, QDir::Name);
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
+        if (!file.fileName().endsWith(".ppd"_L1, Qt::CaseInsensitive))
+            continue;
         if (const std::optional<Printer> printer = printerOfHead(file.absoluteFilePath())) {
             printers += *printer;
             continue;

@@ -1,5 +1,6 @@
 #include "dialog/server/HttpLine.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -7,6 +8,9 @@
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
+
+#include "dialog/server/ConnectionWatch.h"
+#include "dialog/server/IppMessage.h"
 
 namespace corvana {
 
@@ -16,14 +20,22 @@ namespace {
 
 // Authentication, TLS and a broken connection may each ask for the same once more.
 constexpr int kMostAttempts = 6;
-// How long libcups waits for keys while it connects, whatever it is told, and says of that only
-// that a function has failed.
+// How long libcups waits for keys by itself; it says of that only that a function has failed.
 constexpr std::chrono::seconds kHandshakePatience{10};
+// A head may begin when patience is nearly over, and takes a moment then.
+constexpr int kPatiencesForHead = 2;
+// What a server may say as a status. No value may be read that the enumeration cannot have.
+constexpr int kLastStatus = 999;
 
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(HttpLine)
 };
+
+http_status_t statusOf(int said)
+{
+    return said > kLastStatus ? HTTP_STATUS_ERROR : static_cast<http_status_t>(said);
+}
 
 // Why there is no connection. libcups says "Host is down" of every host that it does not get to.
 QString reasonOfLibcups()
@@ -35,7 +47,8 @@ QString reasonOfLibcups()
 } // namespace
 
 HttpLine::HttpLine(ServerContext context, CancelFlag *canceled)
-    : m_context(std::move(context)), m_wait(m_context.patience.answering, canceled)
+    : m_context(std::move(context)), m_wait(m_context.patience.answering, canceled),
+      m_encryption(m_context.address.encryption)
 {
     // A setting of the calling thread alone.
     if (m_context.credentials) {
@@ -60,6 +73,11 @@ void HttpLine::prepare()
     cupsSetPasswordCB2(&HttpLine::passwordWanted, this);
     if (!m_http)
         return;
+    // Behind a refusal, or an answer that was not read to its end, libcups would make a connection
+    // of its own.
+    if (statusOf(httpGetStatus(m_http)) >= HTTP_STATUS_BAD_REQUEST ||
+        httpGetState(m_http) != HTTP_STATE_WAITING)
+        return close();
     // Servers close what was idle for long.
     pollfd state{httpGetFd(m_http), POLLRDHUP, 0};
     if (::poll(&state, 1, 0) > 0)
@@ -71,32 +89,43 @@ bool HttpLine::open()
     if (m_http)
         return true;
     const QByteArray host = m_context.address.host.toUtf8();
-    const auto begin = std::chrono::steady_clock::now();
+    // Without a time to connect in, it does not connect yet.
     m_http = httpConnect2(host.constData(), m_context.address.port, nullptr, AF_UNSPEC,
-                          m_context.address.encryption, 1,
-                          static_cast<int>(m_context.patience.connecting.count()), m_wait.flag());
+                          m_encryption, 1, 0, nullptr);
     if (!m_http) {
-        const int error = errno;
-        if (isCanceled())
-            fail({ServerProblem::Kind::Canceled});
-        else if (error == ETIMEDOUT || error == EINPROGRESS ||
-                 std::chrono::steady_clock::now() - begin >= kHandshakePatience)
-            fail({ServerProblem::Kind::NoAnswer});
-        else
-            fail({ServerProblem::Kind::Unreachable, reasonOfLibcups()});
+        fail({isCanceled() ? ServerProblem::Kind::Canceled : ServerProblem::Kind::Unreachable,
+              reasonOfLibcups()});
+        return false;
+    }
+    if (!connectTo(m_http)) {
+        close();
         return false;
     }
     m_wait.watch(m_http);
     m_wait.start();
-    return keepsOnlyTrusted();
-}
-
-// Nothing is said on a connection that is not trusted, neither now nor by the next request.
-bool HttpLine::keepsOnlyTrusted()
-{
+    // Nothing is said on a connection that is not trusted, neither now nor by the next request.
     if (trustsCertificate())
         return true;
     close();
+    return false;
+}
+
+bool HttpLine::connectTo(http_t *connection)
+{
+    const std::chrono::milliseconds patience = m_context.patience.connecting;
+    const ConnectionWatch watch(connection, m_wait, patience);
+    const auto begin = std::chrono::steady_clock::now();
+    errno = 0;
+    if (httpReconnect2(connection, static_cast<int>(patience.count()), m_wait.flag()) == 0)
+        return true;
+    const int error = errno;
+    if (isCanceled())
+        fail({ServerProblem::Kind::Canceled});
+    else if (error == ETIMEDOUT || error == EINPROGRESS || watch.hasTimedOut() ||
+             std::chrono::steady_clock::now() - begin >= kHandshakePatience)
+        fail({ServerProblem::Kind::NoAnswer});
+    else
+        fail({ServerProblem::Kind::Unreachable, reasonOfLibcups()});
     return false;
 }
 
@@ -106,16 +135,6 @@ void HttpLine::close()
     m_inUse.reset();
     if (m_http)
         httpClose(std::exchange(m_http, nullptr));
-}
-
-bool HttpLine::reconnect()
-{
-    m_wait.start();
-    if (httpReconnect2(m_http, static_cast<int>(m_context.patience.connecting.count()),
-                       m_wait.flag()) == 0)
-        return keepsOnlyTrusted();
-    noteFailure(HTTP_STATUS_ERROR);
-    return false;
 }
 
 bool HttpLine::trustsCertificate()
@@ -188,33 +207,63 @@ std::optional<http_status_t> HttpLine::converse(const char *method, const QByteA
 
 http_status_t HttpLine::awaitAnswer()
 {
-    // A request that could not be sent to its end: libcups has read what came instead, if anything.
-    const http_state_t state = httpGetState(m_http);
-    if (state == HTTP_STATE_WAITING || state == HTTP_STATE_ERROR || state == HTTP_STATE_POST)
-        return httpGetStatus(m_http);
-    m_wait.start();
     http_status_t status = HTTP_STATUS_CONTINUE;
+    m_wait.start();
     do
-        status = httpUpdate(m_http);
+        status = readHead();
     while (status == HTTP_STATUS_CONTINUE && !m_wait.isOver());
+    return status;
+}
+
+http_status_t HttpLine::readHead()
+{
+    const ConnectionWatch watch(m_http, m_wait, kPatiencesForHead * m_wait.patience());
+    const http_status_t status = statusOf(httpUpdate(m_http));
+    if (watch.hasTimedOut() && !isCanceled())
+        m_wait.giveUp();
     return status;
 }
 
 bool HttpLine::authenticate(const char *method, const QByteArray &resource)
 {
-    return cupsDoAuthentication(m_http, method, resource.constData()) == 0 && reconnect();
+    if (cupsDoAuthentication(m_http, method, resource.constData()) != 0) {
+        if (!m_problem && !m_given)
+            fail({ServerProblem::Kind::LogInUnknown,
+                  shownText(httpGetField(m_http, HTTP_FIELD_WWW_AUTHENTICATE))});
+        return false;
+    }
+    const QByteArray authorization = httpGetAuthString(m_http);
+    const std::optional<Credentials> inUse = m_inUse;
+    close();
+    if (!open())
+        return false;
+    m_inUse = inUse;
+    const qsizetype blank = authorization.indexOf(' ');
+    httpSetAuthString(m_http, authorization.left(blank).constData(),
+                      blank < 0 ? nullptr : authorization.constData() + blank + 1);
+    return true;
 }
 
 bool HttpLine::goOverToTls()
 {
     // A server that asks for it on an encrypted connection asks for what there is not.
-    if (m_context.address.encryption == HTTP_ENCRYPTION_NEVER || httpIsEncrypted(m_http) ||
-        !reconnect() || httpEncryption(m_http, HTTP_ENCRYPTION_REQUIRED) != 0) {
-        if (!m_problem)
-            fail({ServerProblem::Kind::EncryptionMissing});
-        return false;
-    }
-    return keepsOnlyTrusted();
+    const bool isPossible =
+        m_context.address.encryption != HTTP_ENCRYPTION_NEVER && !httpIsEncrypted(m_http);
+    close();
+    m_encryption = HTTP_ENCRYPTION_REQUIRED;
+    const auto begin = std::chrono::steady_clock::now();
+    if (isPossible && open())
+        return true;
+    // What libcups leaves as its reason is that of connecting, which went well.
+    using Kind = ServerProblem::Kind;
+    const auto took = std::chrono::steady_clock::now() - begin;
+    const bool wasSilent = m_problem.kind == Kind::NoAnswer &&
+                           took >= std::min<std::chrono::nanoseconds>(m_context.patience.connecting,
+                                                                      kHandshakePatience);
+    if (!m_problem || m_problem.kind == Kind::Unreachable ||
+        (m_problem.kind == Kind::NoAnswer && !wasSilent))
+        fail({Kind::EncryptionMissing});
+    return false;
 }
 
 // Whether the server hangs up behind the answer that is being read.

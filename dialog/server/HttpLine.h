@@ -17,11 +17,16 @@ Q_DECLARE_LOGGING_CATEGORY(lcServer)
 /// The HTTP connection below a ServerConnection: it connects, goes over to TLS, looks at keys,
 /// gives a password once a request, and repeats what may be repeated, until there is an answer.
 ///
+/// libcups writes, reads and encrypts, but decides nothing: its comfortable calls repeat a request
+/// with a password on a new connection before anybody has seen that one's key. Here every
+/// connection is made, and looked at, before anything is said on it.
+///
 /// Thread: one worker; every operation waits for a network.
 class HttpLine
 {
 public:
-    /// Sends a request, and answers CONTINUE when its answer is to be waited for.
+    /// Sends a request, and answers CONTINUE when its answer is to be waited for, or the status of
+    /// an answer whose head has been read.
     using Sender = std::function<http_status_t()>;
 
     /// `canceled` is borrowed and may be null.
@@ -45,10 +50,9 @@ public:
     /// Whether the server hangs up behind the answer that is being read.
     bool isLastAnswer() const;
 
-    /// For a sender, when libcups may have gone over to TLS or to a new connection by itself. False
-    /// when that is not trusted; there is no connection then.
-    bool keepsOnlyTrusted();
-    bool reconnect();
+    /// For a sender: reads the head of an answer, in bearable time. CONTINUE where that is only an
+    /// interim one. Errors: ERROR.
+    http_status_t readHead();
     void close();
 
     /// Why the last operation failed.
@@ -67,6 +71,7 @@ public:
 private:
     void prepare();
     bool open();
+    bool connectTo(http_t *connection);
     bool trustsCertificate();
     http_status_t awaitAnswer();
     bool authenticate(const char *method, const QByteArray &resource);
@@ -81,6 +86,7 @@ private:
     ServerContext m_context;
     ServerWait m_wait;
     http_t *m_http = nullptr;
+    http_encryption_t m_encryption; // of the connections to come
     ServerProblem m_problem;
     std::optional<Credentials> m_given; // for this request, right or wrong
     std::optional<Credentials> m_inUse; // on this connection, by libcups

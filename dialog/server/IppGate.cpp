@@ -4,6 +4,8 @@
 
 #include <cups/ipp.h>
 
+#include <QRandomGenerator>
+
 namespace corvana {
 
 namespace {
@@ -13,7 +15,22 @@ constexpr qint64 kBuiltOfAttribute = 96;
 constexpr qint64 kBuiltOfValue = 48;
 constexpr qint64 kBuiltOfCollection = 96;
 
+// Digests begin with a number of this process, so that nobody can make up many texts of one digest.
+std::uint64_t firstDigest()
+{
+    static const std::uint64_t first = QRandomGenerator::system()->generate64();
+    return first;
+}
+
+// FNV-1a
+std::uint64_t digested(std::uint64_t digest, unsigned char byte)
+{
+    return (digest ^ byte) * 0x100000001b3;
+}
+
 } // namespace
+
+IppGate::IppGate(const IppBounds &bounds) : m_bounds(bounds), m_text(firstDigest()) {}
 
 bool IppGate::pass(const unsigned char *bytes, size_t length)
 {
@@ -23,6 +40,10 @@ bool IppGate::pass(const unsigned char *bytes, size_t length)
         const size_t part = std::min(length - at, static_cast<size_t>(m_missing));
         for (size_t i = at + part - std::min<size_t>(part, 2); i < at + part; ++i)
             m_number = (m_number << 8 | bytes[i]) & 0xffff;
+        if (m_field == Field::Name || m_field == Field::Value) {
+            for (size_t i = at; i < at + part; ++i)
+                m_text = digested(m_text, bytes[i]);
+        }
         at += part;
         m_missing -= static_cast<qint64>(part);
         // A field without a byte is complete at once.
@@ -36,6 +57,7 @@ void IppGate::expect(Field field, qint64 length)
 {
     m_field = field;
     m_missing = length;
+    m_text = firstDigest();
 }
 
 // The field is complete; false when it is one too many.
@@ -43,9 +65,14 @@ bool IppGate::completed()
 {
     switch (m_field) {
     case Field::Head:
-    case Field::Value:
         expect(Field::Tag, 1);
         return true;
+    case Field::Value: {
+        // Numbers and the like are no texts; names of members are.
+        const bool isAdded = m_tag < IPP_TAG_TEXTLANG || addText();
+        expect(Field::Tag, 1);
+        return isAdded;
+    }
     case Field::Tag:
         return tagRead();
     case Field::NameLength:
@@ -54,9 +81,11 @@ bool IppGate::completed()
         // These two have none. libcups would look for it in another place than this class.
         return m_nameLength == 0 ||
                (m_tag != IPP_TAG_END_COLLECTION && m_tag != IPP_TAG_MEMBERNAME);
-    case Field::Name:
+    case Field::Name: {
+        const bool isAdded = m_nameLength == 0 || addText();
         expect(Field::ValueLength, 2);
-        return true;
+        return isAdded;
+    }
     case Field::ValueLength:
         expect(Field::Value, m_number);
         return valueRead();
@@ -106,6 +135,13 @@ bool IppGate::valueRead()
             return false;
     }
     return ++m_values <= m_bounds.values && m_built <= m_bounds.built;
+}
+
+// The bytes of the field have been let through already, which is one text more than there may be.
+bool IppGate::addText()
+{
+    m_texts.insert(m_text);
+    return m_texts.size() <= static_cast<size_t>(m_bounds.texts);
 }
 
 bool IppGate::addAttribute(int nameLength)

@@ -1,5 +1,6 @@
 #include "dialog/server/IppMessage.h"
 
+#include <algorithm>
 #include <array>
 
 namespace corvana {
@@ -62,8 +63,10 @@ QString ippText(ipp_attribute_t *attribute, int index)
 
 QStringList ippTexts(ipp_attribute_t *attribute)
 {
+    constexpr int kMostTexts = 100;
     QStringList texts;
-    for (int i = 0; attribute && i < ippGetCount(attribute); ++i) {
+    const int count = attribute ? std::min(ippGetCount(attribute), kMostTexts) : 0;
+    for (int i = 0; i < count; ++i) {
         const QString text = ippText(attribute, i);
         if (!text.isEmpty())
             texts += text;

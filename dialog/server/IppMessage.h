@@ -31,6 +31,7 @@ void addIppKeywords(ipp_t *message, ipp_tag_t group, const char *name,
 // that a person reads.
 
 QString ippText(ipp_attribute_t *attribute, int index = 0);
+/// At most a hundred: more are not read by anybody.
 QStringList ippTexts(ipp_attribute_t *attribute);
 int ippNumber(ipp_attribute_t *attribute, int otherwise = 0);
 bool ippTruth(ipp_attribute_t *attribute, bool otherwise);

@@ -20,7 +20,7 @@ ServerAddress ServerAddress::configured()
 std::optional<ServerAddress> ServerAddress::parse(const QString &text)
 {
     static const QRegularExpression form(
-        uR"(^(?:\[([0-9A-Fa-f:.%]+(?:%[A-Za-z0-9]+)?)\]|([^\s:/\[\]@]+))(?::([0-9]{1,5}))?\z)"_s);
+        uR"(^(?:\[([0-9A-Fa-f:.%]+(?:%[A-Za-z0-9]+)?)\]|([^\s:/\[\]@\x00-\x1f\x7f]+))(?::([0-9]{1,5}))?\z)"_s);
     if (text.startsWith(u'/'))
         return ServerAddress{text, kUsualPort, HTTP_ENCRYPTION_IF_REQUESTED};
     const QRegularExpressionMatch match = form.match(text);
@@ -52,7 +52,7 @@ QString ServerAddress::argument() const
 {
     if (host.startsWith(u'/'))
         return host;
-    return (host.contains(u':') ? u"[%1]:%2"_s : u"%1:%2"_s).arg(host).arg(port);
+    return (host.contains(u':') ? u"[%1]:%2"_s : u"%1:%2"_s).arg(host, QString::number(port));
 }
 
 } // namespace corvana

@@ -18,8 +18,12 @@ constexpr qint64 kBlock = 65536;
 constexpr qint64 kLargestFile = 32 * 1024 * 1024;
 // What CUPS says of 10,000 queues when it says all, 10 KB of each, where a server knows no "limit".
 constexpr qint64 kLargestAnswer = 128 * 1024 * 1024;
+// How long a server may think about whether it wants a document. Units: milliseconds.
+constexpr int kMomentForRefusal = 1000;
 // What is said beside a refusal is of no use; this much is passed over to keep the connection.
 constexpr qint64 kLargestRefusal = 65536;
+// Behind it no standard has any. It is within the range of the enumeration.
+constexpr int kLastStatus = 0x1fff;
 
 // Whether a request changes nothing at the server, so that it can be sent twice.
 bool onlyAsks(ipp_t *message)
@@ -73,18 +77,52 @@ http_status_t ServerConnection::sendIpp(ipp_t *message, const QByteArray &resour
     size_t length = ippLength(message);
     if (document)
         length += static_cast<size_t>(document->size());
-    ippSetState(message, IPP_STATE_IDLE);
+    http_t *http = m_line.http();
+    beginRequest();
+    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    httpSetLength(http, length);
+    if (document)
+        httpSetExpect(http, HTTP_STATUS_CONTINUE);
     m_requestSent = true;
-    const http_status_t status =
-        cupsSendRequest(m_line.http(), message, resource.constData(), length);
-    if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK)
-        return httpGetStatus(m_line.http());
-    // libcups goes over to TLS, and to a new connection, by itself.
-    if (!m_line.keepsOnlyTrusted())
+    if (httpPost(http, resource.constData()) != 0)
         return HTTP_STATUS_ERROR;
-    if (document && status == HTTP_STATUS_CONTINUE)
-        m_documentSent = sendDocument(*document, progress);
-    return HTTP_STATUS_CONTINUE;
+    ippSetState(message, IPP_STATE_IDLE);
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippWrite(http, message);
+    if (state == IPP_STATE_ERROR)
+        return answerInstead();
+    if (!document)
+        return HTTP_STATUS_CONTINUE;
+    // A server that does not want the document says so before it comes.
+    if (httpWait(http, kMomentForRefusal)) {
+        if (const http_status_t early = earlyAnswer(); early != HTTP_STATUS_CONTINUE)
+            return early;
+    }
+    return sendDocument(*document, progress);
+}
+
+// What every request has. libcups keeps how it has logged in.
+void ServerConnection::beginRequest()
+{
+    httpClearFields(m_line.http());
+    if (const char *authorization = httpGetAuthString(m_line.http()))
+        httpSetField(m_line.http(), HTTP_FIELD_AUTHORIZATION, authorization);
+}
+
+// What a server says before it has the whole document. What is refused now is refused, whatever
+// would come behind it. Who takes it now has not taken what was meant.
+http_status_t ServerConnection::earlyAnswer()
+{
+    const http_status_t status = m_line.readHead();
+    const bool isTaken = status > HTTP_STATUS_CONTINUE && status < HTTP_STATUS_MULTIPLE_CHOICES;
+    return isTaken ? HTTP_STATUS_ERROR : status;
+}
+
+// What a server has said before it took no more of a request.
+http_status_t ServerConnection::answerInstead()
+{
+    return httpWait(m_line.http(), 0) ? earlyAnswer() : HTTP_STATUS_ERROR;
 }
 
 // The message, or null where there is none.
@@ -106,16 +144,19 @@ IppMessage ServerConnection::unlessRefused(IppMessage response)
     // "Redirection" and above are refusals; ignored attributes are not.
     if (!response || ippGetStatusCode(response.get()) < IPP_STATUS_REDIRECTION_OTHER_SITE)
         return response;
-    const ipp_status_t said = ippGetStatusCode(response.get());
+    // A server may say any number, and no value may be read that the enumeration cannot have.
+    const int number = ippGetStatusCode(response.get());
+    const ipp_status_t said =
+        number > kLastStatus ? IPP_STATUS_ERROR_INTERNAL : static_cast<ipp_status_t>(number);
     m_line.fail({said == IPP_STATUS_ERROR_NOT_FOUND ? ServerProblem::Kind::NotFound
                                                     : ServerProblem::Kind::Refused,
                  ippText(ippFindAttribute(response.get(), "status-message", IPP_TAG_ZERO)), said});
     return nullptr;
 }
 
-// True when all of it was taken.
-bool ServerConnection::sendDocument(QIODevice &document,
-                                    const std::function<void(qint64)> &progress)
+// CONTINUE when all of it was taken.
+http_status_t ServerConnection::sendDocument(QIODevice &document,
+                                             const std::function<void(qint64)> &progress)
 {
     qint64 sent = 0;
     std::array<char, kBlock> block{};
@@ -124,18 +165,23 @@ bool ServerConnection::sendDocument(QIODevice &document,
         if (length < 0 || (length == 0 && !document.atEnd())) {
             m_line.close();
             m_line.fail({ServerProblem::Kind::DocumentUnreadable, document.errorString()});
-            return false;
+            return HTTP_STATUS_ERROR;
         }
         m_line.wait().start();
-        if (m_line.isCanceled() ||
-            cupsWriteRequestData(m_line.http(), block.data(), static_cast<size_t>(length)) !=
-                HTTP_STATUS_CONTINUE)
-            return false;
+        if (m_line.isCanceled())
+            return HTTP_STATUS_ERROR;
+        if (httpWrite2(m_line.http(), block.data(), static_cast<size_t>(length)) < 0)
+            return answerInstead();
         sent += length;
         if (progress)
             progress(sent);
+        if (!document.atEnd() && httpCheck(m_line.http())) {
+            if (const http_status_t early = earlyAnswer(); early != HTTP_STATUS_CONTINUE)
+                return early;
+        }
     }
-    return true;
+    m_documentSent = true;
+    return HTTP_STATUS_CONTINUE;
 }
 
 void ServerConnection::noteUnread(const AnswerReader &reader)
@@ -188,15 +234,9 @@ ServerConnection::File ServerConnection::takeRefusal(http_status_t status)
 
 http_status_t ServerConnection::sendGet(const QByteArray &resource)
 {
-    httpClearFields(m_line.http());
-    if (const char *authorization = httpGetAuthString(m_line.http()))
-        httpSetField(m_line.http(), HTTP_FIELD_AUTHORIZATION, authorization);
-    // A connection that had been idle for too long is made anew.
-    if (httpGet(m_line.http(), resource.constData()) != 0 &&
-        (!m_line.reconnect() || httpGet(m_line.http(), resource.constData()) != 0))
-        return HTTP_STATUS_ERROR;
-    // So does libcups, by itself, after a refusal.
-    return m_line.keepsOnlyTrusted() ? HTTP_STATUS_CONTINUE : HTTP_STATUS_ERROR;
+    beginRequest();
+    return httpGet(m_line.http(), resource.constData()) == 0 ? HTTP_STATUS_CONTINUE
+                                                             : HTTP_STATUS_ERROR;
 }
 
 } // namespace corvana

@@ -18,8 +18,7 @@ class AnswerReader;
 /// One connection to a print server, with bounded waits, each of which can be canceled. It asks for
 /// a password when the server wants one, once; it goes over to TLS when the server wants that; and
 /// it sends no document to, and takes no answer from, a server that shows another key than the one
-/// that is known. The exception is libcups' own: when it repeats a request with a password, it does
-/// so on a new connection that nobody has looked at yet.
+/// that is known.
 ///
 /// Thread: one worker; never the GUI thread, since every operation waits for a network.
 class ServerConnection
@@ -85,7 +84,10 @@ private:
                         const std::function<void(qint64)> &progress);
     http_status_t sendIpp(ipp_t *message, const QByteArray &resource, QIODevice *document,
                           const std::function<void(qint64)> &progress);
-    bool sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
+    http_status_t sendDocument(QIODevice &document, const std::function<void(qint64)> &progress);
+    void beginRequest();
+    http_status_t earlyAnswer();
+    http_status_t answerInstead();
     http_status_t sendGet(const QByteArray &resource);
     IppMessage readIpp();
     IppMessage unlessRefused(IppMessage response);

@@ -59,6 +59,12 @@ QString ServerProblem::text(const ServerAddress &server) const
     case Kind::PasswordCanceled:
         return Texts::tr("The print server “%1” wants a user and a password; none was given.")
             .arg(who);
+    case Kind::LogInUnknown:
+        return withDetail(
+            Texts::tr("The print server “%1” wants to know who prints, in a way that is not "
+                      "possible here.")
+                .arg(who),
+            detail);
     case Kind::Forbidden:
         return withDetail(Texts::tr("The print server “%1” does not allow you this.").arg(who),
                           detail);

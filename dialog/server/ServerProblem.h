@@ -21,6 +21,7 @@ struct ServerProblem
         PasswordNeeded,     ///< nobody was there to be asked for one
         PasswordRefused,    ///< the user and password that were given are wrong
         PasswordCanceled,   ///< the user did not want to give one
+        LogInUnknown,       ///< it wants a log-in of no kind that can be given
         Forbidden,          ///< this user may not do this
         CertificateChanged, ///< it is not the server that it was, or someone is in between
         CertificateInvalid, ///< its certificate is not to be trusted

@@ -45,6 +45,8 @@ public:
     /// Whether to stop waiting now.
     bool isOver();
     bool isCanceled() const { return m_canceled && m_canceled->load() != 0; }
+    /// It has taken too long, as somebody else has found out.
+    void giveUp() { m_timedOut = true; }
     /// Whether the last wait ended because it took too long.
     bool timedOut() const { return m_timedOut; }
 

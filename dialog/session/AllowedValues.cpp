@@ -66,7 +66,9 @@ QString AllowedValues::text() const
         parts += word.meaning.isEmpty() ? QString(word.value)
                                         : u"%1 (%2)"_s.arg(word.value, word.meaning);
     if (range)
-        parts += u"%1 to %2 %3"_s.arg(range->least).arg(range->most).arg(range->unit).trimmed();
+        parts += u"%1 to %2 %3"_s
+                     .arg(QString::number(range->least), QString::number(range->most), range->unit)
+                     .trimmed();
     if (form)
         parts += (parts.isEmpty() ? QString() : u"or "_s) + form->text;
     return parts.join(u", "_s);

@@ -349,8 +349,8 @@ AttributeChoices AttributeReader::readFinishings(const QString &finishings) cons
          attribute = ppdFindNextAttr(m_ppd, "cupsIPPFinishings", nullptr)) {
         const int number = QByteArray(attribute->spec).toInt();
         if (number > kNone)
-            allowed += u"%1 (%2)"_s.arg(number).arg(
-                QLatin1StringView(ippEnumString("finishings", number)));
+            allowed += u"%1 (%2)"_s.arg(QString::number(number),
+                                        QLatin1StringView(ippEnumString("finishings", number)));
     }
     QList<JobOption> choices;
     const QStringList values = finishings.split(u',');

@@ -47,6 +47,9 @@ bool isPageRanges(const QString &value)
 
 bool isTime(const QString &value)
 {
+    // Hardly any is, and the titles that a window shows do not wait for a pattern to be compiled.
+    if (!value.contains(u':'))
+        return false;
     static const QRegularExpression time(u"^([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?\\z"_s);
     return time.match(value).hasMatch();
 }

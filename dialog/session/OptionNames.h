@@ -13,6 +13,10 @@ inline constexpr QLatin1StringView kDuplexOption{"Duplex"};
 inline constexpr QLatin1StringView kDuplexNone{"None"};
 inline constexpr QLatin1StringView kDuplexLongEdge{"DuplexNoTumble"};
 inline constexpr QLatin1StringView kDuplexShortEdge{"DuplexTumble"};
+/// Where the paper comes from, and whether it is fed by hand instead: two forms of one choice to
+/// libcups.
+inline constexpr QLatin1StringView kInputSlotOption{"InputSlot"};
+inline constexpr QLatin1StringView kManualFeedOption{"ManualFeed"};
 /// Where the job goes, and who matches its colours: the panels' rules depend on both.
 inline constexpr QLatin1StringView kOutputOption{"QXOutput"};
 inline constexpr QLatin1StringView kColorMatchingModeOption{"AP_ColorMatchingMode"};
@@ -35,6 +39,8 @@ inline constexpr QLatin1StringView kHandlingAttribute{"multiple-document-handlin
 inline constexpr QLatin1StringView kCollated{"separate-documents-collated-copies"};
 inline constexpr QLatin1StringView kUncollated{"separate-documents-uncollated-copies"};
 inline constexpr QLatin1StringView kCollateOption{"Collate"};
+/// Which page leaves the printer first.
+inline constexpr QLatin1StringView kOutputOrderAttribute{"outputorder"};
 /// Two sides, one after the other, on a printer that turns no sheets over; and how the sheets lie
 /// when somebody puts them back. Both are ours: no server gets them.
 inline constexpr QLatin1StringView kSidesByHandAttribute{"sides-by-hand"};

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QHash>
 
+#include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/JobTicket.h"
@@ -86,6 +87,9 @@ QString conflictMessage(const Refusal &refusal, const PpdSession &session)
     if (!refusal.locked.keyword.isNull())
         return u"%1: %2"_s.arg(named(refusal.proposed, ppd),
                                lockedText(refusal.locked.keyword, session));
+    if (const OptionChoice &choice = refusal.proposed;
+        refusal.conflicting.isEmpty() && !canBeSent(ppd, choice.keyword, choice.choice))
+        return notSentText(named(choice, ppd));
     if (refusal.conflicting.isEmpty())
         return Texts::tr("%1: the printer's options cannot be set to this value.")
             .arg(named(refusal.proposed, ppd));
@@ -172,7 +176,7 @@ QStringList jobProblems(const PpdSession &session, const PDEJobValues *jobValues
             continue;
         }
         const QList<OptionChoice> conflicting = session.conflictsOf(choice);
-        if (!conflicting.isEmpty())
+        if (!conflicting.isEmpty() || !canBeSent(session.ppd(), option.name, option.value))
             problems += conflictMessage({choice, conflicting}, session);
     }
     for (const QString &keyword : optionsWithoutValue(session, jobValues)) {

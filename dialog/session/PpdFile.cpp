@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/PpdBounds.h"
 
 namespace corvana {
 
@@ -46,7 +47,7 @@ QString openError(const QString &path)
     const ppd_status_t status = ppdLastError(&line);
     const QString what = QString::fromUtf8(ppdErrorString(status));
     if (line > 0)
-        return u"%1:%2: %3"_s.arg(path).arg(line).arg(what);
+        return u"%1:%2: %3"_s.arg(path, QString::number(line), what);
     return u"%1: %2"_s.arg(path, what);
 }
 
@@ -60,6 +61,11 @@ PpdFile openPpdFile(const QString &path, QString *error)
         return nullptr;
     }
     file.close();
+    // Before libcups reads it, which would not come to an end.
+    if (const QString excess = excessOfPpd(path); !excess.isEmpty()) {
+        *error = u"%1: %2"_s.arg(path, excess);
+        return nullptr;
+    }
     PpdFile ppd(ppdOpenFile(QFile::encodeName(path).constData()));
     if (!ppd) {
         *error = openError(path);

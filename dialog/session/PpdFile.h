@@ -24,7 +24,8 @@ using PpdFile = std::unique_ptr<ppd_file_t, PpdCloser>;
 ///
 /// Copies are collated by default, where the PPD has an option "Collate" and nothing is in its way.
 ///
-/// Errors: null; `error` then says which file, which line where one is known, and what is wrong.
+/// Errors: null; `error` then says which file, which line where one is known, and what is wrong. A
+/// file with more in it than PpdBounds allow is not read.
 PpdFile openPpdFile(const QString &path, QString *error);
 
 } // namespace corvana

@@ -4,6 +4,7 @@
 
 #include <QLoggingCategory>
 
+#include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/OptionNames.h"
 
 namespace corvana {
@@ -27,14 +28,6 @@ QList<OptionChoice> allConflicts(ppd_file_t *ppd, const QString &keyword, const 
     cups_option_t *conflicting = nullptr;
     const int count = cupsGetConflicts(ppd, keyword.toLatin1().constData(), choice, &conflicting);
     return takeOptions(count, conflicting);
-}
-
-void unmark(ppd_file_t *ppd, const QString &keyword)
-{
-    if (ppd_choice_t *marked = ppdMarkedChoice(ppd, keyword)) {
-        marked->marked = 0;
-        cupsArrayRemove(ppd->marked, marked);
-    }
 }
 
 // The keyword under which a choice stands in the PPD: all custom values are the one choice
@@ -66,7 +59,7 @@ QList<ppd_option_t *> PpdSession::options() const
     for (int g = 0; g < m_ppd->num_groups; ++g) {
         const ppd_group_t &group = m_ppd->groups[g];
         for (int o = 0; o < group.num_options; ++o) {
-            if (ppdKeyword(group.options[o].keyword) != kPageRegionOption)
+            if (QLatin1StringView(group.options[o].keyword) != kPageRegionOption)
                 found += &group.options[o];
         }
     }
@@ -75,6 +68,10 @@ QList<ppd_option_t *> PpdSession::options() const
 
 QString PpdSession::markedChoice(const QString &keyword) const
 {
+    if (m_allMarks) {
+        if (const auto known = m_allMarks->constFind(keyword); known != m_allMarks->cend())
+            return known.value();
+    }
     const ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), keyword);
     return marked ? ppdKeyword(marked->choice) : QString();
 }
@@ -103,6 +100,7 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
         return {Outcome::UnknownChoice, {}};
     }
     const QString before = markedChoice(keyword);
+    const QString handFeedBefore = markedChoice(kManualFeedOption);
     const bool custom = choice.startsWith(kCustomPrefix);
     const bool same =
         before == choiceKeyword(choice) && (!custom || customValue(keyword) == choice);
@@ -126,7 +124,10 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
     m_printSettings.setValue(keyword, choiceKeyword(choice));
     if (!same) {
         const bool otherPaper = keyword == kPageSizeOption && updatePageFormat();
+        const QList<OptionChoice> followed = followHandFeed(keyword, handFeedBefore);
         Q_EMIT changed(keyword, choiceKeyword(choice), origin);
+        for (const OptionChoice &one : followed)
+            Q_EMIT changed(one.keyword, one.choice, Origin::Dialog);
         if (otherPaper)
             Q_EMIT paperChanged();
     }
@@ -200,22 +201,31 @@ QList<OptionChoice> PpdSession::wayOut(const OptionChoice &proposed)
 SessionSnapshot PpdSession::snapshot() const
 {
     SessionSnapshot snapshot;
-    for (const ppd_option_t *option : options()) {
-        const QString keyword = ppdKeyword(option->keyword);
-        if (const QString marked = markedChoice(keyword); !marked.isNull())
-            snapshot.marks.insert(keyword, marked);
-    }
+    snapshot.marks = allMarks();
     snapshot.customValues = m_customValues;
     snapshot.entries = m_printSettings.entries();
     snapshot.pageFormat = m_pageFormat;
     return snapshot;
 }
 
+QMap<QString, QString> PpdSession::allMarks() const
+{
+    if (!m_allMarks) {
+        m_allMarks.emplace();
+        for (const ppd_option_t *option : options()) {
+            const QString keyword = ppdKeyword(option->keyword);
+            if (const QString marked = markedChoice(keyword); !marked.isNull())
+                m_allMarks->insert(keyword, marked);
+        }
+    }
+    return *m_allMarks;
+}
+
 void PpdSession::restore(const SessionSnapshot &snapshot)
 {
     for (const ppd_option_t *option : options()) {
         if (const QString keyword = ppdKeyword(option->keyword); !snapshot.marks.contains(keyword))
-            unmark(m_ppd.get(), keyword);
+            unmark(keyword);
     }
     for (auto marked = snapshot.marks.cbegin(); marked != snapshot.marks.cend(); ++marked)
         mark(marked.key(), snapshot.customValues.value(marked.key(), marked.value()));
@@ -298,13 +308,17 @@ QList<Refusal> PpdSession::takeRefusals()
 }
 
 // Whether libcups marked what was meant. Of a PPD with a broken option it marks nothing, and says
-// nothing.
+// nothing. A choice of which the printer would never hear is not marked either; what is marked
+// already may stay.
 bool PpdSession::mark(const QString &keyword, const QString &choice)
 {
+    if (markedChoice(keyword) != choice && !canBeSent(m_ppd.get(), keyword, choice))
+        return false;
     // Of an option that allows several choices at once libcups would keep the former ones, too.
     if (const ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
         option && option->ui == PPD_UI_PICKMANY)
-        unmark(m_ppd.get(), keyword);
+        unmark(keyword);
+    m_allMarks.reset(); // libcups takes marks of other options away with some
     ppdMarkOption(m_ppd.get(), keyword.toLatin1().constData(), choice.toLatin1().constData());
     if (markedChoice(keyword) != choiceKeyword(choice))
         return false;
@@ -313,6 +327,15 @@ bool PpdSession::mark(const QString &keyword, const QString &choice)
     else if (choice != kCustomChoice)
         m_customValues.remove(keyword);
     return true;
+}
+
+void PpdSession::unmark(const QString &keyword)
+{
+    if (ppd_choice_t *marked = ppdMarkedChoice(m_ppd.get(), keyword)) {
+        m_allMarks.reset();
+        marked->marked = 0;
+        cupsArrayRemove(m_ppd->marked, marked);
+    }
 }
 
 void PpdSession::recordMarks()

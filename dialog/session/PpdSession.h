@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QList>
 #include <QMap>
@@ -84,6 +85,7 @@ public:
     /// Takes over an opened PPD with its marks.
     explicit PpdSession(PpdFile ppd);
 
+    /// To be read; who marks in it for a moment takes that back at once.
     ppd_file_t *ppd() const { return m_ppd.get(); }
     PrintSettings &printSettings() { return m_printSettings; }
     const PrintSettings &printSettings() const { return m_printSettings; }
@@ -145,6 +147,8 @@ Q_SIGNALS:
 
 private:
     bool mark(const QString &keyword, const QString &choice);
+    void unmark(const QString &keyword);
+    QMap<QString, QString> allMarks() const;
     void recordMarks();
     bool updatePageFormat();
     void setDuplex(PMDuplexMode mode);
@@ -152,8 +156,11 @@ private:
     OptionChoice lockInTheWay(const OptionChoice &proposed) const;
     OptionChoice movedLock() const;
     void markLocks();
+    QList<OptionChoice> followHandFeed(const QString &keyword, const QString &handFeed);
 
     PpdFile m_ppd;
+    /// What is marked, from the first question after a mark on: one change asks many times.
+    mutable std::optional<QMap<QString, QString>> m_allMarks;
     PrintSettings m_printSettings;
     PageFormat m_pageFormat;
     QMap<QString, QString> m_customValues;

@@ -165,8 +165,11 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
         const QString keyword = ppdKeyword(option->keyword);
         if (copies > 1 && keyword == kCollateOption)
             continue;
-        if (!told.contains(keyword) && session.differsFromDefault(keyword))
-            lines += optionLine(session, keyword);
+        if (told.contains(keyword) || !session.differsFromDefault(keyword))
+            continue;
+        // One that has no choice at all, since another option says it, would be a line of nothing.
+        if (const SummaryLine line = optionLine(session, keyword); !line.title.isEmpty())
+            lines += line;
     }
     return lines;
 }

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include "dialog/sheets/SheetCount.h"
 #include "dialog/sheets/SheetTexts.h"
@@ -114,9 +115,11 @@ QString ChoosablePages::remarkOn(const QList<PageRange> &ranges) const
     if (!areCounted())
         counts = Texts::tr("How many pages there are is not known.");
     else if (documents.size() > 1)
-        counts = Texts::tr("%L1 of %L2 page numbers chosen.").arg(ticks.count()).arg(most());
+        counts = Texts::tr("%L1 of %L2 page numbers chosen.")
+                     .arg(QLocale().toString(ticks.count()), QLocale().toString(most()));
     else
-        counts = Texts::tr("%L1 of %L2 pages chosen.").arg(ticks.count()).arg(most());
+        counts = Texts::tr("%L1 of %L2 pages chosen.")
+                     .arg(QLocale().toString(ticks.count()), QLocale().toString(most()));
     const QList<PageRange> beyond = rangesBeyond(ranges, most());
     if (areCounted() && !beyond.isEmpty())
         counts =

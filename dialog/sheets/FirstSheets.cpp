@@ -30,7 +30,8 @@ int pagesPerSide(const QList<JobOption> &options)
 int pagesOfFirstSheets(const QList<PdfPage> &pages, int count, const QList<JobOption> &options,
                        const LayoutTraits &traits)
 {
-    if (count <= kLongDocument || pages.size() != count || traits.isReversed)
+    if (count <= kLongDocument || pages.size() != count || traits.isReversed ||
+        traits.isTurnedRound)
         return 0;
     // Ranges, odd pages, booklets and repetitions: other pages come first, or none do.
     if (!pageChoiceOf(options).isAll())

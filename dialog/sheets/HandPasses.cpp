@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "dialog/session/AttributeChoices.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/OutputOrder.h"
 
 namespace corvana {
 
@@ -76,14 +76,6 @@ HandFeed handFeed(ppd_file_t *ppd, const QList<JobOption> &options)
             feed.bindsAtShortEdge = option.value == kByHandShortEdge;
     }
     return feed;
-}
-
-// The filter for the layout of pages does what outputorder says. The one that makes PostScript
-// hands its pages to pstops, which is told nothing of that and looks into the PPD once more
-// (cups-filters 1.28 with CUPS 2.4).
-bool isReversedOnTheWay(ppd_file_t *ppd, const QList<JobOption> &options)
-{
-    return getsPostScript(ppd) && stacksFaceUp(ppd, options);
 }
 
 // The finished stack is to lie with the first front uppermost, to be taken as it is. The sheet that

@@ -36,10 +36,6 @@ struct HandFeed
 /// What a job with these options does. `ppd` is that of its printer.
 HandFeed handFeed(ppd_file_t *ppd, const QList<JobOption> &options);
 
-/// Whether the filters of the printer's queue turn the order of sides round that are sent to it in
-/// the order in which they are to be printed, and with outputorder=normal.
-bool isReversedOnTheWay(ppd_file_t *ppd, const QList<JobOption> &options);
-
 /// One side in a pass.
 struct PassSide
 {

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/OutputOrder.h"
 #include "dialog/session/PaperSize.h"
 #include "dialog/session/TwoSided.h"
 
@@ -35,33 +36,6 @@ bool isTwoSided(const QList<JobOption> &options)
         return true;
     const bool byOption = std::any_of(options.cbegin(), options.cend(), isTwoSidedChoice);
     return byOption || valueOf(options, "sides"_L1).value_or(QString()).startsWith("two-sided"_L1);
-}
-
-bool saysReverse(const char *text)
-{
-    return qstricmp(text, "Reverse") == 0 || qstricmp(text, "reverse-order") == 0;
-}
-
-// Whether the last page has to leave the printer first for a stack that is in order. The layout
-// step looks in the same order.
-bool stacksInReverse(ppd_file_t *ppd, const QList<JobOption> &options)
-{
-    if (const auto bin = valueOf(options, "OutputBin"_L1)) {
-        const ppd_attr_t *stack = ppdFindAttr(ppd, "PageStackOrder", bin->toUtf8().constData());
-        if (stack && stack->value)
-            return saysReverse(stack->value);
-    }
-    const ppd_attr_t *usual = ppdFindAttr(ppd, "DefaultOutputOrder", nullptr);
-    return usual && usual->value && saysReverse(usual->value);
-}
-
-bool isReversed(ppd_file_t *ppd, const QList<JobOption> &options)
-{
-    if (const auto order = valueOf(options, "OutputOrder"_L1))
-        return saysReverse(order->toLatin1().constData());
-    // What is printed by hand is laid out in the order of reading: in which order its sides then
-    // leave the printer follows from how the sheets are turned over, see HandPasses.
-    return !isTwoSidedByHand(options) && stacksInReverse(ppd, options);
 }
 
 bool isTrue(ppd_file_t *ppd, const char *attribute)
@@ -118,11 +92,6 @@ QByteArray number(double value)
 
 } // namespace
 
-bool stacksFaceUp(ppd_file_t *ppd, const QList<JobOption> &options)
-{
-    return stacksInReverse(ppd, options);
-}
-
 LayoutTraits layoutTraits(ppd_file_t *ppd, const QList<JobOption> &options)
 {
     const Sheet sheet = sheetOf(ppd, options);
@@ -136,7 +105,11 @@ LayoutTraits layoutTraits(ppd_file_t *ppd, const QList<JobOption> &options)
                       possibleMargin(sheet.margins.bottom(), height)};
     traits.isTwoSided = isTwoSided(options);
     traits.isByHand = isTwoSidedByHand(options);
-    traits.isReversed = isReversed(ppd, options);
+    // What is printed by hand is laid out in the order of reading: in which order its sides then
+    // leave the printer follows from how the sheets are turned over, see HandPasses.
+    traits.isTurnedRound = !traits.isByHand && isTurnedRoundOnTheWay(ppd, options);
+    const bool hasOrder = !traits.isByHand || valueOf(options, kOutputOrderAttribute);
+    traits.isReversed = hasOrder && printsLastPageFirst(ppd, options) != traits.isTurnedRound;
     traits.fillsSheets = isTrue(ppd, "cupsEvenDuplex");
     traits.turnsRight = ppd->landscape < 0;
     return traits;

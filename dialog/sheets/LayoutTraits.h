@@ -18,8 +18,10 @@ struct LayoutTraits
     QSizeF paper{};      ///< Units: points
     QMarginsF margins{}; ///< Units: points
     bool isTwoSided = false;
-    bool isByHand = false; ///< two-sided because somebody turns the sheets over
-    bool isReversed = false;  ///< the last page comes first
+    bool isByHand = false;   ///< two-sided because somebody turns the sheets over
+    bool isReversed = false; ///< the layout step puts the last page first
+    /// Whatever comes out of the layout step is turned round behind it.
+    bool isTurnedRound = false;
     bool fillsSheets = false; ///< a blank side is added where the last sheet lacks one
     bool turnsRight = false;  ///< landscape pages are turned clockwise
 
@@ -28,11 +30,6 @@ struct LayoutTraits
 
 /// The traits of a job. `ppd` is the printer's, `options` are the job's in the words of that PPD.
 LayoutTraits layoutTraits(ppd_file_t *ppd, const QList<JobOption> &options);
-
-/// Whether the sheets of a job come out with the printed side up. A PPD says so by the order in
-/// which it wants the pages: a sheet that lies face up is covered by the next one, so that the
-/// first page has to come last.
-bool stacksFaceUp(ppd_file_t *ppd, const QList<JobOption> &options);
 
 /// A PPD that holds these traits and nothing else. Every number in it is a possible one, whatever
 /// the printer's own PPD says, and every word is ours.

@@ -79,7 +79,8 @@ private:
             if (blank.content == content)
                 return blank.path;
         }
-        m_blanks += BlankPage{u"%1/blank-%2.pdf"_s.arg(m_folder).arg(m_blanks.size()), content};
+        m_blanks += BlankPage{u"%1/blank-%2.pdf"_s.arg(m_folder, QString::number(m_blanks.size())),
+                              content};
         return m_blanks.constLast().path;
     }
 };
@@ -100,7 +101,7 @@ QStringList turns(const QList<PassSide> &sides)
         const qsizetype first = i;
         while (i + 1 < sides.size() && sides.at(i + 1).isTurned)
             ++i;
-        ranges += u"%1-%2"_s.arg(first + 1).arg(i + 1);
+        ranges += u"%1-%2"_s.arg(QString::number(first + 1), QString::number(i + 1));
         if (ranges.size() == kMostPages)
             end();
     }

@@ -58,8 +58,10 @@ QSizeF turned(QSizeF size, int degrees)
 class DocumentSides
 {
 public:
-    DocumentSides(int index, const DocumentSheets &document, const SheetArrangement &arrangement)
+    DocumentSides(int index, const DocumentSheets &document, const SheetArrangement &arrangement,
+                  bool isTwoSided)
         : m_index(index), m_document(document), m_arrangement(arrangement),
+          m_isTwoSided(isTwoSided),
           m_pages(pagesInOrder(arrangement.choice, document.pages.value_or(0)))
     {
     }
@@ -78,7 +80,7 @@ public:
             const QList<int> pages = isKnown ? pagesAt(place * perSide, perSide) : QList<int>();
             sides += isKnown && pages.isEmpty() ? blank() : side(i, pages);
         }
-        return sides;
+        return m_arrangement.isTurnedRound ? turnedRound(sides) : sides;
     }
 
     PlannedSide blank() const
@@ -94,7 +96,19 @@ private:
     int m_index;
     const DocumentSheets &m_document;
     const SheetArrangement &m_arrangement;
+    bool m_isTwoSided;
     QList<int> m_pages;
+
+    // A filter that turns the sides of whole sheets round fills up the last sheet before that. What
+    // has one side only it prints on one.
+    QList<PlannedSide> turnedRound(QList<PlannedSide> sides) const
+    {
+        const bool fills = m_isTwoSided && sides.size() > 1 && sides.size() % 2 == 1;
+        if (fills)
+            sides += blank();
+        std::reverse(sides.begin(), sides.end());
+        return sides;
+    }
 
     // What a person reads there: without the blank pages of a booklet, and a page that is repeated
     // once.
@@ -170,6 +184,7 @@ SheetArrangement sheetArrangement(const QList<JobOption> &options, const LayoutT
     arrangement.pagesPerSide =
         std::max(1, valueOf(withPagesOfOrder(options), "number-up"_L1).toInt());
     arrangement.isReversed = traits.isReversed;
+    arrangement.isTurnedRound = traits.isTurnedRound;
     arrangement.paper = traits.paper;
     // A booklet is bound where it is folded, at no edge.
     if (traits.isTwoSided && arrangement.choice.booklet == PageChoice::Booklet::No)
@@ -196,7 +211,7 @@ SheetPlan planSheets(const JobSheets &sheets, const SheetArrangement &arrangemen
     plan.binding = arrangement.binding;
     plan.sheets = coverSheet(arrangement.coverBefore, arrangement.paper);
     for (int i = 0; i < sheets.documents.size(); ++i) {
-        const DocumentSides sides(i, sheets.documents.at(i), arrangement);
+        const DocumentSides sides(i, sheets.documents.at(i), arrangement, sheets.isTwoSided);
         plan.sheets += sheetsOf(sides.sides(), sheets.isTwoSided);
     }
     plan.sheets += coverSheet(arrangement.coverBehind, arrangement.paper);

@@ -65,11 +65,12 @@ struct SheetArrangement
 {
     PageChoice choice{};
     int pagesPerSide = 1;
-    bool isReversed = false;
+    bool isReversed = false; ///< by the layout step
     SheetPlan::Binding binding = SheetPlan::Binding::None;
     QSizeF paper{};        ///< Units: points
     QString coverBefore{}; ///< empty: none
     QString coverBehind{};
+    bool isTurnedRound = false; ///< the order, behind the layout step
 
     bool operator==(const SheetArrangement &) const = default;
 };

@@ -60,7 +60,7 @@ QString rangeText(const PageRange &range)
     // An open end: everything behind.
     if (range.last == std::numeric_limits<int>::max())
         return Texts::tr("%1 and later").arg(range.first);
-    return Texts::tr("%1 to %2").arg(range.first).arg(range.last);
+    return Texts::tr("%1 to %2").arg(QString::number(range.first), QString::number(range.last));
 }
 
 // A sentence on pages that are not there; empty when none are missing.
@@ -172,7 +172,7 @@ QString oneSidedReason(const JobSheets &sheets)
     QStringList titles;
     for (const DocumentSheets &document : sheets.documents) {
         if (hasEmptyBacks(document))
-            titles += u"“%1”"_s.arg(terminalLine(document.title));
+            titles += Texts::tr("“%1”").arg(terminalLine(document.title));
     }
     if (titles.isEmpty())
         return {};
@@ -198,10 +198,10 @@ QString countText(const JobSheets &sheets, const PageChoice &choice, int copies,
     if (covers == 1)
         all = Texts::tr("%1, and 1 cover sheet").arg(all);
     else if (covers > 1)
-        all = Texts::tr("%1, and %2 cover sheets").arg(all).arg(covers);
+        all = Texts::tr("%1, and %2 cover sheets").arg(all, QString::number(covers));
     if (copies == 1)
         return Texts::tr("%1 = %2").arg(pagesText(pages), all);
-    return Texts::tr("%1 × %2 copies = %3").arg(pagesText(pages)).arg(copies).arg(all);
+    return Texts::tr("%1 × %2 copies = %3").arg(pagesText(pages), QString::number(copies), all);
 }
 
 QString scaleText(const JobSheets &sheets)
@@ -210,7 +210,8 @@ QString scaleText(const JobSheets &sheets)
     for (const DocumentSheets &document : sheets.documents) {
         for (const PageScale &page : document.scales) {
             const int percent = static_cast<int>(std::lround(page.scale * 100));
-            const QString text = Texts::tr("%1 at %2 %").arg(sizeName(page.size)).arg(percent);
+            const QString text =
+                Texts::tr("%1 at %2 %").arg(sizeName(page.size), QString::number(percent));
             if (percent != 100 && !texts.contains(text))
                 texts += text;
         }

@@ -6,7 +6,10 @@
 
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/OutputOrder.h"
 #include "dialog/session/RequestedOptions.h"
+#include "dialog/session/TwoSided.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "platform/foundation/ForeignText.h"
 
@@ -50,7 +53,7 @@ QString titlesOf(const QList<Document> &documents)
     constexpr qsizetype kMostNamed = 3;
     QStringList titles;
     for (const Document &document : documents.first(std::min(documents.size(), kMostNamed)))
-        titles += u"“%1”"_s.arg(terminalLine(document.title));
+        titles += Texts::tr("“%1”").arg(terminalLine(document.title));
     if (documents.size() > kMostNamed)
         titles += u"…"_s;
     return titles.join(u", "_s);
@@ -102,6 +105,18 @@ QStringList takeWhatHasNoEffect(QList<JobOption> &options, const QList<Document>
         return true;
     });
     return sentences;
+}
+
+QString usualValueOf(const QString &name, const QList<JobOption> &attributes,
+                     const OpenedPrinter &printer)
+{
+    const JobAttribute *attribute = jobAttribute(name);
+    if (name != kOutputOrderAttribute || isTwoSidedByHand(attributes))
+        return attribute ? QString(attribute->usual) : QString();
+    // The order in which the stack is that of the pages.
+    const QString bin = printer.session->markedChoice(u"OutputBin"_s);
+    return stacksFaceUp(printer.session->ppd(), {{u"OutputBin"_s, bin}}) ? u"reverse"_s
+                                                                         : u"normal"_s;
 }
 
 bool isKnownToBeDone(const JobOption &attribute, const OpenedPrinter &printer)

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QString>
 #include <QStringList>
 
 #include "dialog/job/Document.h"
@@ -23,6 +24,11 @@ bool hasEffectOn(const QList<Document> &documents, const JobOption &attribute);
 /// each of them. Options of the printer's own are not among them, whatever their names.
 QStringList takeWhatHasNoEffect(QList<JobOption> &options, const QList<Document> &documents,
                                 const OpenedPrinter &printer);
+
+/// What is done anyway on this printer where nobody asks for a value of an attribute. Empty where
+/// the printer or the document decides. `attributes` are those of the job.
+QString usualValueOf(const QString &name, const QList<JobOption> &attributes,
+                     const OpenedPrinter &printer);
 
 /// Whether it is known that a value is done on this printer, by the filters or by choices of the
 /// printer that are marked. Whatever a queue adds to its jobs is part of them, known or not.

@@ -62,14 +62,28 @@ QString takingText(int sheets)
                              .arg(QLocale().toString(sheets));
 }
 
-QString puttingText(const HandPasses &passes)
+QString puttingOneText(Printed inTray)
 {
-    const QString form =
-        passes.feed.inTray == Printed::Down
-            ? Texts::tr("Put them back into the tray with the printed side down, so that the %1 "
-                        "edge of the pages goes into the printer first.")
-            : Texts::tr("Put them back into the tray with the printed side up, so that the %1 edge "
-                        "of the pages goes into the printer first.");
+    return inTray == Printed::Down
+               ? Texts::tr("Put it back into the tray with the printed side down, so that the %1 "
+                           "edge of the page goes into the printer first.")
+               : Texts::tr("Put it back into the tray with the printed side up, so that the %1 "
+                           "edge of the page goes into the printer first.");
+}
+
+QString puttingAllText(Printed inTray)
+{
+    return inTray == Printed::Down
+               ? Texts::tr("Put them back into the tray with the printed side down, so that the %1 "
+                           "edge of the pages goes into the printer first.")
+               : Texts::tr("Put them back into the tray with the printed side up, so that the %1 "
+                           "edge of the pages goes into the printer first.");
+}
+
+QString puttingText(const HandPasses &passes, int sheets)
+{
+    const Printed inTray = passes.feed.inTray;
+    const QString form = sheets == 1 ? puttingOneText(inTray) : puttingAllText(inTray);
     return form.arg(edgeText(passes.leadingEdge));
 }
 
@@ -129,7 +143,7 @@ TurnQuestion turnQuestion(const HandPasses &passes, const QStringList &titles, i
 {
     TurnQuestion question;
     const int sheets = int(passes.first.size()) * copies;
-    question.steps << takingText(sheets) << puttingText(passes);
+    question.steps << takingText(sheets) << puttingText(passes, sheets);
     if (sheets > 1)
         question.steps += uppermostText(passes, titles);
     question.inTray = passes.feed.inTray;

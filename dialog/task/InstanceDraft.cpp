@@ -181,17 +181,24 @@ QString freeName(const QString &queue, const UserQueues &queues)
     }
 }
 
-QString problemOfName(const QString &typed, const QString &queue, const InstanceDraft &draft,
-                      const KnownInstances &known)
+// One of ours is replaced by settings of the same name only. Two names for people may be one for
+// other programs: "A O" and "Ä Ö".
+bool mayBeReplaced(const QString &instance, const QString &settings, const KnownInstances &known)
+{
+    return std::any_of(known.own.keyValueBegin(), known.own.keyValueEnd(), [&](const auto &one) {
+        return isSameQueue(one.first, instance) &&
+               one.second.compare(settings, Qt::CaseInsensitive) == 0;
+    });
+}
+
+QString problemOfName(const QString &typed, const QString &settings, const QString &queue,
+                      const InstanceDraft &draft, const KnownInstances &known)
 {
     if (draft.name.isEmpty())
         return Texts::tr("“%1” has no letters that other programs can print to. Give it a name of "
                          "letters from a to z, such as “%2”.")
             .arg(typed, freeName(queue, known.queues).section(u'/', 1));
-    const bool isOwn =
-        std::any_of(known.own.keyBegin(), known.own.keyEnd(),
-                    [&](const QString &name) { return isSameQueue(name, draft.name); });
-    if (known.queues.hasInstance(draft.name) && !isOwn)
+    if (known.queues.hasInstance(draft.name) && !mayBeReplaced(draft.name, settings, known))
         return Texts::tr("“%1” is there already, with settings of its own. Choose another name, or "
                          "remove it with “lpoptions -x %1”.")
             .arg(draft.name);
@@ -235,7 +242,8 @@ QString KnownInstances::ofSettings(const QString &settings, const QString &queue
 }
 
 InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
-                           const JobSettings &settings, const KnownInstances &known)
+                           const JobSettings &settings, const KnownInstances &known,
+                           const QString &of)
 {
     InstanceDraft draft;
     draft.problem = problemOfPrinter(printer, settings);
@@ -244,15 +252,15 @@ InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
     const QString queue = queueOfInstance(printer.fetched.printer.name);
     if (const QString plain = instanceNameOf(name); !plain.isEmpty())
         draft.name = queue + u'/' + plain;
-    draft.problem = problemOfName(name, queue, draft, known);
+    draft.problem = problemOfName(name, of.isNull() ? name : of, queue, draft, known);
     return draft;
 }
 
 InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
                             const JobSettings &settings, const KnownInstances &known,
-                            bool withDevice)
+                            bool withDevice, const QString &of)
 {
-    InstanceDraft draft = nameInstance(name, printer, settings, known);
+    InstanceDraft draft = nameInstance(name, printer, settings, known, of);
     if (!draft.problem.isEmpty())
         return draft;
     const PpdSession &session = *printer.session;

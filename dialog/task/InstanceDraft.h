@@ -45,9 +45,11 @@ struct KnownInstances
     QString ofSettings(const QString &settings, const QString &queue) const;
 };
 
-/// The name of such an instance, without its options, and why there can be none.
+/// The name of such an instance, without its options, and why there can be none. `of`: the name
+/// that its settings have for people, such as a preset's, where that is another one.
 InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
-                           const JobSettings &settings, const KnownInstances &known);
+                           const JobSettings &settings, const KnownInstances &known,
+                           const QString &of = {});
 
 /// What a job says as it is set now, and an answer to whatever the instance would be given
 /// otherwise: by the queue, and by the user's line for the queue without an instance, which some
@@ -55,7 +57,7 @@ InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
 /// can make, is left out and said. `withDevice`: with what sets up the device, too.
 InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
                             const JobSettings &settings, const KnownInstances &known,
-                            bool withDevice);
+                            bool withDevice, const QString &of = {});
 
 /// Writes an instance and notes whose settings it has. Thread: any; waits for other programs.
 /// Errors: answers a sentence for the user.

@@ -110,14 +110,15 @@ QString JobSettings::attribute(const QString &name) const
     return valueOf(name, attributes());
 }
 
-void JobSettings::setAttribute(const QString &name, const QString &value)
+void JobSettings::setAttribute(const QString &name, const QString &value, const QString &usual)
 {
     if (name == kPageRangesAttribute)
         return setPageRanges(value);
     m_chosen.removeIf([&](const JobOption &option) { return option.name == name; });
     const QString former = valueOf(name, m_attributes);
     const JobAttribute *known = jobAttribute(name);
-    const bool isDoneAnyway = former.isNull() && known && value == known->usual;
+    const bool isDoneAnyway =
+        former.isNull() && known && value == (usual.isNull() ? QString(known->usual) : usual);
     if (value != former && !isDoneAnyway)
         m_chosen += JobOption{name, value};
 }

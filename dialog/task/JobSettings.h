@@ -62,8 +62,9 @@ public:
     /// The value of an attribute that is in force; null where nobody asks for one.
     QString attribute(const QString &name) const;
     /// The user chooses a value, which counts most; null: none. One that is usual is kept where it
-    /// was chosen over another one.
-    void setAttribute(const QString &name, const QString &value);
+    /// was chosen over another one. `usual`: on this printer, where that is not what is usual
+    /// anywhere.
+    void setAttribute(const QString &name, const QString &value, const QString &usual = {});
     /// The attributes that were added, whatever the user has chosen since.
     const QList<JobOption> &attributesOfOthers() const { return m_attributes; }
     /// What the user has chosen himself, with a null value for an attribute that he wants none of.
@@ -71,8 +72,8 @@ public:
     /// Takes choices of the user's back that were kept with their printer.
     void restoreChosenAttributes(const QList<JobOption> &chosen) { m_chosen = chosen; }
 
-    /// Takes the attributes of other settings, whoever asked for them, in place of these. Copies and
-    /// pages stay.
+    /// Takes the attributes of other settings, whoever asked for them, in place of these. Copies
+    /// and pages stay.
     void takeAttributesOf(const JobSettings &other);
 
     /// The printer is left: what was asked for only by its own options stays behind.

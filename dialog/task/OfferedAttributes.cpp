@@ -8,6 +8,7 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/TwoSided.h"
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -37,9 +38,10 @@ constexpr Offer kOffers[] = {
     {kCollateAttribute, Place::BesideCopies},
     {kSidesByHandAttribute, Place::Front},
     {kPrintColorMode, Place::Front},
+    {"orientation-requested"_L1, Place::Front},
     {kNumberUp, Place::Front},
     {"print-scaling"_L1, Place::Front},
-    {"orientation-requested"_L1, Place::More},
+    {"scaling"_L1, Place::More},
     {"page-set"_L1, Place::More},
     {"outputorder"_L1, Place::More},
     {kNumberUpLayout, Place::More},
@@ -64,7 +66,7 @@ bool isOffered(const QString &name)
 ppd_option_t *ownOption(const QString &name, const PpdSession &session)
 {
     for (ppd_option_t *option : session.options()) {
-        if (ppdKeyword(option->keyword).compare(name, Qt::CaseInsensitive) == 0)
+        if (QLatin1StringView(option->keyword).compare(name, Qt::CaseInsensitive) == 0)
             return option;
     }
     return nullptr;
@@ -90,11 +92,11 @@ bool isAttributeAlone(const QString &name, const QString &value, const OpenedPri
 }
 
 // "none,none" is two of them: before the job and behind it.
-bool isUsual(const QString &value, const JobAttribute &attribute)
+bool isUsual(const QString &value, const QString &usual)
 {
     const QStringList values = value.split(u',');
     return value.isNull() || std::all_of(values.cbegin(), values.cend(), [&](const QString &one) {
-               return !attribute.usual.isEmpty() && one == attribute.usual;
+               return !usual.isEmpty() && one == usual;
            });
 }
 
@@ -108,17 +110,20 @@ QString lockOf(const QString &name, const JobSettings &settings, const OpenedPri
 OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
                          const OpenedPrinter &printer)
 {
-    const JobAttribute &attribute = *jobAttribute(offer.name);
+    const QString usual = usualValueOf(offer.name, settings.attributes(), printer);
     OfferedAttribute one{offer.name, settings.attribute(offer.name), offer.place};
     if (const ppd_option_t *own = ownOption(offer.name, *printer.session))
         one.value = printer.session->markedChoice(ppdKeyword(own->keyword)).toLower();
-    one.isUsual = isUsual(one.value, attribute);
+    one.isUsual = isUsual(one.value, usual);
+    // Not what is usual with other printers.
+    if (one.value.isNull() && usual != jobAttribute(offer.name)->usual)
+        one.value = usual;
     if (const QString by = lockOf(offer.name, settings, printer); !by.isNull())
         one.lockedBy = lockedText(by);
     if (offer.name == kCollateAttribute)
         one.hasEffect = settings.copies() > 1;
     if (offer.name == kNumberUpLayout)
-        one.hasEffect = !isUsual(settings.attribute(kNumberUp), *jobAttribute(kNumberUp));
+        one.hasEffect = !isUsual(settings.attribute(kNumberUp), jobAttribute(kNumberUp)->usual);
     if (offer.name == kPutBackAttribute)
         one.hasEffect = isTwoSidedByHand(settings.attributes());
     return one;

@@ -5,6 +5,7 @@
 #include "dialog/printers/PanelRecognition.h"
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/OutputOrder.h"
 #include "platform/pde/PDEBundleLoader.h"
 #include "platform/pde/PDEPlugIn.h"
 
@@ -49,7 +50,9 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
                                 << decision.reason;
     if (decision.panels) {
         const LoadedPlugIn loaded =
-            loadPlugInBundle(bundleFileOf(opened->session->ppd()), bundleRoots);
+            decision.found.bundle
+                ? loadPlugIn(decision.found)
+                : loadPlugInBundle(bundleFileOf(opened->session->ppd()), bundleRoots);
         plugIn = loaded.plugIn;
         opened->bundle = loaded.bundle;
         opened->panelProblem = loaded.problem;
@@ -93,7 +96,9 @@ JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attri
         title, copies,
         jobOptions(session, printer.jobValues, withCollation(attributes, copies, session)),
         secretsOf(session)};
-    ticket.postScriptAsPdf = makesPdfGray(printer, attributes);
+    // PostScript passes other filters, which turn nothing round a second time.
+    ticket.postScriptAsPdf =
+        makesPdfGray(printer, attributes) || isTurnedRoundOnTheWay(session.ppd(), ticket.options);
     return ticket;
 }
 

@@ -201,6 +201,8 @@ private:
     }
     QString replaced(const OptionDifference &other) const
     {
+        if (m_session.locks().contains(other.asked.name))
+            return lockedText(other.asked.name, m_session);
         return Texts::tr("The printer's settings do not allow %1 here; it became %2.")
             .arg(textOf(other.asked), textOf({other.asked.name, other.now}));
     }
@@ -280,7 +282,9 @@ private:
             if (attribute.value.isNull() && !canBeNone(attribute.name, m_printer))
                 continue;
             if (m_use.by == JobSettings::By::User)
-                m_settings.setAttribute(attribute.name, attribute.value);
+                m_settings.setAttribute(
+                    attribute.name, attribute.value,
+                    usualValueOf(attribute.name, m_settings.attributes(), m_printer));
             else
                 m_settings.addAttributes({attribute});
             if (m_settings.attribute(attribute.name) != attribute.value &&

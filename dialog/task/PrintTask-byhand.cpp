@@ -1,6 +1,5 @@
 #include "dialog/task/PrintTask.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QPointer>
@@ -64,9 +63,7 @@ void PrintTask::startPass()
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
     request.earlierJob = run.isSecond ? run.earlierJob : memory.earlierJob;
     request.earlierDocuments = request.earlierJob > 0 ? 1 : 0;
-    PassSource source{run.isSecond ? run.passes.second : run.passes.first, run.documents};
-    if (isReversedOnTheWay(m_opened->session->ppd(), m_run.ticket.options))
-        std::reverse(source.sides.begin(), source.sides.end());
+    const PassSource source{run.isSecond ? run.passes.second : run.passes.first, run.documents};
     followJob(std::make_unique<PassJob>(request, source, sides));
 }
 

@@ -33,7 +33,7 @@ void PrintTask::addDocuments(const QStringList &paths)
             documents += document;
     }
     if (documents.size() > m_request.documents.size())
-        setDocuments(documents);
+        chooseDocuments(documents);
     if (!problems.isEmpty())
         say(TaskMessage::Kind::Problem, problems.join(u'\n'));
 }
@@ -44,7 +44,7 @@ void PrintTask::removeDocument(int index)
         return;
     QList<Document> documents = m_request.documents;
     documents.removeAt(index);
-    setDocuments(documents);
+    chooseDocuments(documents);
 }
 
 void PrintTask::moveDocument(int from, int to)
@@ -54,6 +54,16 @@ void PrintTask::moveDocument(int from, int to)
         return;
     QList<Document> documents = m_request.documents;
     documents.move(from, to);
+    chooseDocuments(documents);
+}
+
+// The user did. A question about them may stay open for long, so the step is there before.
+void PrintTask::chooseDocuments(QList<Document> documents)
+{
+    // A list that is filled at one end and emptied at the other keeps more room with each turn, and
+    // every step of the history has one.
+    documents.squeeze();
+    recordDocuments(documents);
     setDocuments(documents);
 }
 
@@ -80,6 +90,7 @@ void PrintTask::setDocuments(const QList<Document> &documents)
         memory.earlierJob = memory.earlierDocuments = 0;
     Q_EMIT unsaid();
     Q_EMIT documentsChanged();
+    Q_EMIT historyChanged();
     if (m_phase != Phase::Ready)
         return;
     showSettings();

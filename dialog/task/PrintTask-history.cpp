@@ -16,7 +16,7 @@ namespace corvana {
 TaskSettings PrintTask::settingsNow() const
 {
     TaskSettings now{m_chosen.printer, m_opened->fetched.ppd->hash, m_opened->session->snapshot(),
-                     m_settings};
+                     m_settings, m_request.documents};
     const QVariantMap entries = m_opened->panels->shownEntries();
     if (entries == now.session.entries)
         return now;
@@ -46,12 +46,14 @@ void PrintTask::takeComingSettings()
     if (!settings || idOf(settings->printer) != idOf(m_chosen.printer))
         return;
     // A printer whose options are others by now has taken what it has still.
-    if (settings->ppdHash != m_opened->fetched.ppd->hash)
-        return;
-    m_opened->panels->restoreTo(settings->session);
-    m_settings = settings->job;
-    m_settings.setLocks(m_opened->session->locks());
-    m_settings.setMostCopies(mostCopiesOf(*m_opened));
+    if (settings->ppdHash == m_opened->fetched.ppd->hash) {
+        m_opened->panels->restoreTo(settings->session);
+        m_settings = settings->job;
+        m_settings.setLocks(m_opened->session->locks());
+        m_settings.setMostCopies(mostCopiesOf(*m_opened));
+    }
+    if (settings->documents != m_request.documents)
+        setDocuments(settings->documents); // a password may be asked for
 }
 
 void PrintTask::setBase(const Base &base)
@@ -117,15 +119,23 @@ QString PrintTask::redoText() const
 void PrintTask::undo()
 {
     recordStep();
-    if (canUndo())
-        goTo(m_baseline.history.undo());
+    if (!canUndo())
+        return;
+    const std::shared_ptr<const PresetStep> preset = m_baseline.history.undoStep().preset;
+    goTo(m_baseline.history.undo());
+    if (preset)
+        presets().stepBack(*preset);
 }
 
 void PrintTask::redo()
 {
     recordStep();
-    if (canRedo())
-        goTo(m_baseline.history.redo());
+    if (!canRedo())
+        return;
+    const std::shared_ptr<const PresetStep> preset = m_baseline.history.redoStep().preset;
+    goTo(m_baseline.history.redo());
+    if (preset)
+        presets().stepForward(*preset);
 }
 
 QString PrintTask::backText() const
@@ -177,10 +187,11 @@ void PrintTask::resetAll()
     recordStep(tr("Reset"));
 }
 
-// With the copies and pages of now, which no base has.
+// With the documents, copies and pages of now, which no base has.
 TaskSettings PrintTask::stateOfBase() const
 {
     TaskSettings state = m_baseline.base.settings;
+    state.documents = m_request.documents;
     state.job = m_settings;
     state.job.takeAttributesOf(m_baseline.base.settings.job);
     return state;
@@ -219,28 +230,46 @@ void PrintTask::recordSoon()
     });
 }
 
-// What one event has changed is found by comparing, whatever panels have said on the way: a box
-// that is ticked and disabled asks for on and off again at each save.
-void PrintTask::recordStep(const QString &name)
+// Whether there is a step. What one event has changed is found by comparing, whatever panels have
+// said on the way: a box that is ticked and disabled asks for on and off again at each save.
+bool PrintTask::recordStep(const QString &name)
 {
     // The pages of a printer that is being closed still say that a field was left.
     if (!m_opened || m_phase != Phase::Ready || m_opened->panels->isBusy())
-        return; // it is recorded when the panel is done
+        return false; // it is recorded when the panel is done
     m_opened->panels->deliverPending();
     if (m_phase != Phase::Ready || m_opened->panels->isBusy())
-        return;
+        return false;
     SettingsHistory &history = m_baseline.history;
     const TaskSettings now = settingsNow();
     const QStringList touched = std::exchange(m_baseline.touched, {});
     if (!history.hasBegun() || now == history.present())
-        return;
+        return false;
     const QStringList changed = differences(history.present(), now, *m_opened);
-    if (changed.isEmpty())
-        return history.replacePresent(now); // nothing of it is in the job
+    if (changed.isEmpty()) {
+        history.replacePresent(now); // nothing of it is in the job
+        return false;
+    }
     const bool goesOn = name.isEmpty() && changed.size() == 1 &&
                         isTypedOrMoved(changed.constFirst(), now, *m_opened);
     history.add(now, {name.isEmpty() ? nameOfStep(changed, touched) : name, changed, goesOn});
     Q_EMIT historyChanged();
+    return true;
+}
+
+// They are settings of no printer, so that this is a step also while another one is asked for, and
+// the step of that other printer comes after it.
+void PrintTask::recordDocuments(const QList<Document> &documents)
+{
+    recordStep();          // what was typed just now
+    if (m_baseline.coming) // a step is being undone, and leads to another printer
+        m_baseline.coming->documents = documents;
+    SettingsHistory &history = m_baseline.history;
+    if (!history.hasBegun())
+        return;
+    TaskSettings state = history.present();
+    state.documents = documents;
+    history.add(state, {tr("Documents"), {}});
 }
 
 // What was set first made the rules set the others.

@@ -178,7 +178,7 @@ QString PrintTask::unknownDocument() const
 void PrintTask::lookForMissingCharacters()
 {
     QStringList texts;
-    for (const Document &document : m_request.documents) {
+    for (const Document &document : std::as_const(m_request.documents)) {
         if (isTextToLayOut(document, {}))
             texts += document.path;
     }

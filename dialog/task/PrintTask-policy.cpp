@@ -106,8 +106,7 @@ std::optional<TaskRefusal> PrintTask::askForManySheets()
     if (!may)
         return TaskRefusal{
             {tr("This job takes %1 sheets of paper. More than %2 are printed only with --yes.")
-                 .arg(all)
-                 .arg(most)}};
+                 .arg(QString::number(all), QString::number(most))}};
     return *may ? std::nullopt : std::optional(TaskRefusal{{}, TaskRefusal::Place::Nowhere, true});
 }
 

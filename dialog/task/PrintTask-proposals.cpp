@@ -15,11 +15,27 @@
 
 namespace corvana {
 
+namespace {
+
+// Of what a panel has a control for, the panel's rules decide as well: it may show a box that
+// cannot be ticked beside what is set already. What is refused for another reason is left to those
+// who have a way out of it.
+bool isForPanelsToJudge(const OptionChoice &choice, OpenedPrinter &printer)
+{
+    return printer.panels->panelOf(choice.keyword) >= 0 &&
+           !printer.session->locks().contains(choice.keyword) &&
+           ppdChoice(ppdOption(printer.session->ppd(), choice.keyword), choice.choice) &&
+           printer.session->conflictsOf(choice).isEmpty();
+}
+
+} // namespace
+
 void PrintTask::propose(const QString &keyword, const QString &choice)
 {
     bringUp();
     Q_EMIT unsaid();
-    if (isValueOfPanels({keyword, choice}, *m_opened->session, m_opened->jobValues))
+    if (isValueOfPanels({keyword, choice}, *m_opened->session, m_opened->jobValues) ||
+        isForPanelsToJudge({keyword, choice}, *m_opened))
         return proposeToPanels({keyword, choice});
     const ChangeResult result =
         m_opened->session->change(keyword, choice, PpdSession::Origin::Dialog);
@@ -48,8 +64,14 @@ void PrintTask::proposeToPanels(const JobOption &option)
 {
     const OptionOutcome outcome =
         applyOptions({option}, *m_opened->session, m_opened->jobValues, *m_opened->panels);
-    if (!outcome.ok())
+    if (!outcome.ok() && isForPanelsToJudge({option.name, option.value}, *m_opened)) {
+        TaskMessage message{TaskMessage::Kind::Problem,
+                            refusalText({{option.name, option.value}, {}, {}}, *m_opened->session)};
+        message.details = outcome.problems.join(u'\n');
+        Q_EMIT said(message);
+    } else if (!outcome.ok()) {
         say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
+    }
     noteTouched(option.name);
     showSettings();
 }
@@ -91,7 +113,7 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     if (*taken == m_settings.attribute(name))
         return {};
     Q_EMIT unsaid();
-    m_settings.setAttribute(name, *taken);
+    m_settings.setAttribute(name, *taken, usualValueOf(name, m_settings.attributes(), *m_opened));
     noteTouched(name);
     const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
     const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;

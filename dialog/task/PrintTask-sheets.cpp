@@ -5,6 +5,7 @@
 #include "dialog/job/PpdFilters.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/OutputOrder.h"
 #include "dialog/session/Summary.h"
 #include "dialog/sheets/SheetTexts.h"
 #include "dialog/task/PassedOn.h"
@@ -35,11 +36,14 @@ SheetRequest PrintTask::sheetRequest(const JobTicket &ticket) const
 {
     SheetRequest request;
     request.documents = printedDocuments();
-    for (const JobOption &option : ticket.options) {
+    ppd_file_t *ppd = m_opened->session->ppd();
+    request.traits = layoutTraits(ppd, ticket.options);
+    const QList<JobOption> options =
+        request.traits.isTurnedRound ? withOrderForFilters(ticket.options, ppd) : ticket.options;
+    for (const JobOption &option : options) {
         if (mattersForSheets(option))
             request.options += option;
     }
-    request.traits = layoutTraits(m_opened->session->ppd(), ticket.options);
     const bool isForDevice = !printsToFile() && m_chosen.printer.origin == PrinterOrigin::Device;
     const bool becomesOne = isForDevice || putsDocumentsTogether();
     request.makesPdfs = becomesOne;

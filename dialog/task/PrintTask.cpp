@@ -197,8 +197,8 @@ QStringList PrintTask::takeMostCopies()
     const QString problem = savesAsPdf()
                                 ? tr("A PDF file is saved once: there are no copies of it.")
                                 : tr("The printer prints at most %1 copies at once, not %2.")
-                                      .arg(m_settings.mostCopies())
-                                      .arg(m_settings.copiesAskedFor());
+                                      .arg(QString::number(m_settings.mostCopies()),
+                                           QString::number(m_settings.copiesAskedFor()));
     switch (m_settings.copiesAskedForBy()) {
     case By::Options:
     case By::CommandLine:

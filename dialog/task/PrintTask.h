@@ -95,10 +95,9 @@ public:
 
     /// In the order in which they are printed.
     const QList<Document> &documents() const { return m_request.documents; }
-    /// Whether they can be others now: not while they are printed.
-    bool canChangeDocuments() const;
+    bool canChangeDocuments() const; ///< not while they are printed
     /// Adds files behind those that are there. What cannot be printed is said, for each of them, in
-    /// the words of the command line; the others are taken.
+    /// the words of the command line; the others are taken. This and the next two are steps.
     void addDocuments(const QStringList &paths);
     void removeDocument(int index);
     void moveDocument(int from, int to);
@@ -128,8 +127,8 @@ public:
     /// Counts the sheets of the job as it stands now, for a face that shows them: sheetsCounted()
     /// follows where the summary does not have them already.
     void countSheets();
-    /// What is known of the sheets of the job as it stands now; sheetsCounted() says when that is
-    /// more. A face that shows it calls countSheets() after each change.
+    /// What is known of its sheets; sheetsCounted() says when that is more. A face calls
+    /// countSheets() after each change.
     SheetPreview sheetPreview() const;
     /// Whether documents reach the printer as they are, so that nothing of its settings and nothing
     /// that is done to pages has an effect.
@@ -139,10 +138,9 @@ public:
 
     // Its pages (PrintTask-pages.cpp)
 
-    /// What pages there are to be chosen. More is known of them when sheetsCounted() says so.
+    /// What pages can be chosen. More is known of them when sheetsCounted() says so.
     ChoosablePages choosablePages() const;
-    /// The user chose pages, as ChoosablePages::valueFor() writes them. Why they are not taken is
-    /// said.
+    /// The user chose pages, as ChoosablePages::valueFor() writes them; a refusal is said.
     void choosePages(const QString &ranges);
 
     // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
@@ -280,6 +278,7 @@ private:
 
     void enter(Phase phase);
     void say(TaskMessage::Kind kind, const QString &text);
+    void chooseDocuments(QList<Document> documents);
     void setDocuments(const QList<Document> &documents);
     void documentsLookedAt();
     void sayOfDocuments();
@@ -327,7 +326,8 @@ private:
     TaskSettings stateOfBase() const;
     void noteTouched(const QString &name);
     void recordSoon();
-    void recordStep(const QString &name = {});
+    void recordDocuments(const QList<Document> &documents);
+    bool recordStep(const QString &name = {});
     QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
 
     void lock(OpenedPrinter &opened);

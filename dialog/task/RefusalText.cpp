@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/Summary.h"
 
@@ -48,6 +49,9 @@ QString refusalText(const Refusal &refusal, const PpdSession &session)
 {
     if (!refusal.locked.keyword.isNull())
         return lockedText(refusal.locked.keyword, session);
+    if (const OptionChoice &choice = refusal.proposed;
+        refusal.conflicting.isEmpty() && !canBeSent(session.ppd(), choice.keyword, choice.choice))
+        return notSentText(textOf(choice, session));
     if (refusal.conflicting.isEmpty())
         return Texts::tr("The printer's options cannot be set to %1.")
             .arg(textOf(refusal.proposed, session));

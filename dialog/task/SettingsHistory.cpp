@@ -1,5 +1,7 @@
 #include "dialog/task/SettingsHistory.h"
 
+#include <utility>
+
 namespace corvana {
 
 namespace {
@@ -10,7 +12,7 @@ qsizetype bytesOf(const TaskSettings &settings)
     constexpr qsizetype kEach = 200;
     const SessionSnapshot &session = settings.session;
     return kEach * (session.marks.size() + session.customValues.size() + session.entries.size() +
-                    settings.job.attributes().size() + 1);
+                    settings.job.attributes().size() + settings.documents.size() + 1);
 }
 
 } // namespace
@@ -76,6 +78,12 @@ QString SettingsHistory::undoName() const
 QString SettingsHistory::redoName() const
 {
     return canRedo() ? m_steps.at(m_present).name : QString();
+}
+
+void SettingsHistory::notePreset(std::shared_ptr<const PresetStep> preset)
+{
+    if (canUndo())
+        m_steps[m_present - 1].preset = std::move(preset);
 }
 
 const TaskSettings &SettingsHistory::undo()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -7,6 +9,8 @@
 #include "dialog/task/TaskSettings.h"
 
 namespace corvana {
+
+struct PresetStep;
 
 /// What a user has done to the settings of a task, step by step: the states that can be gone back
 /// to and forward again, and what each step between two of them is called.
@@ -22,6 +26,8 @@ public:
         /// Whether the next change of the same setting belongs to it: another letter in a field,
         /// another move of a slider.
         bool goesOn = false;
+        /// Which preset was selected before and after it; null where that is the same one.
+        std::shared_ptr<const PresetStep> preset{};
     };
 
     /// At most this many steps are kept, and of these as many as fit.
@@ -49,6 +55,11 @@ public:
     /// What undo() takes back; empty where there is nothing.
     QString undoName() const;
     QString redoName() const;
+    /// What undo() and redo() would do. Only where they can.
+    const Step &undoStep() const { return m_steps.at(m_present - 1); }
+    const Step &redoStep() const { return m_steps.at(m_present); }
+    /// The last step has selected another preset.
+    void notePreset(std::shared_ptr<const PresetStep> preset);
     /// Goes back by a step, or forward again. Answers the state to be in. Only where it can.
     const TaskSettings &undo();
     const TaskSettings &redo();

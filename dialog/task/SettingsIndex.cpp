@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
+#include <QSet>
 
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
@@ -99,7 +100,8 @@ public:
 
     void addOptions()
     {
-        const QStringList further = optionsBesidePages(m_printer);
+        const QStringList beside = optionsBesidePages(m_printer);
+        const QSet<QString> further(beside.cbegin(), beside.cend());
         const QString page =
             m_printer.panels->panels().isEmpty() ? Texts::tr("Options") : Texts::tr("All Options");
         for (int g = 0; g < ppd()->num_groups; ++g) {
@@ -183,10 +185,12 @@ private:
         entry.setting = {Setting::Kind::Option, keyword, ownName, place};
         entry.names =
             texts(ownName, foreign ? ppdText(foreign->text).value_or(QString()) : QString());
+        const QSet<QString> offered =
+            shown ? QSet<QString>(shown->cbegin(), shown->cend()) : QSet<QString>();
         for (int i = 0; option && i < option->num_choices; ++i) {
             const QString text = choiceText(option->choices[i]);
             const QString choice = ppdKeyword(option->choices[i].choice);
-            if ((shown && !shown->contains(text)) || isSecretChoice(ppd(), keyword, choice))
+            if ((shown && !offered.contains(text)) || isSecretChoice(ppd(), keyword, choice))
                 continue;
             const ppd_choice_t *same = ppdChoice(foreign, choice);
             entry.choices += Choice{text, texts(text, same ? choiceText(*same) : QString()),

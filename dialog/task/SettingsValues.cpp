@@ -24,12 +24,10 @@ QList<JobOption> ownValues(const TaskSettings &settings, const OpenedPrinter &pr
     return printer.jobValues->jobOptions(entries, printer.session->ppd());
 }
 
-} // namespace
-
-QMap<QString, QString> valuesOf(const TaskSettings &settings, const OpenedPrinter &printer)
+// What stands beside the marks of choices, and instead of those of its names.
+QMap<QString, QString> valuesBesideMarks(const TaskSettings &settings, const OpenedPrinter &printer)
 {
-    QMap<QString, QString> values = settings.session.marks;
-    values.insert(settings.session.customValues);
+    QMap<QString, QString> values = settings.session.customValues;
     const QList<JobOption> further = ownValues(settings, printer) + settings.job.attributes();
     for (const JobOption &option : further)
         values.insert(option.name, option.value);
@@ -37,21 +35,62 @@ QMap<QString, QString> valuesOf(const TaskSettings &settings, const OpenedPrinte
     return values;
 }
 
+// The names that have another value in one of two maps than in the other, or are in one only.
+QStringList differingNames(const QMap<QString, QString> &one, const QMap<QString, QString> &other)
+{
+    QStringList names;
+    auto former = one.cbegin();
+    auto now = other.cbegin();
+    while (former != one.cend() || now != other.cend()) {
+        if (now == other.cend() || (former != one.cend() && former.key() < now.key())) {
+            names += (former++).key();
+        } else if (former == one.cend() || now.key() < former.key()) {
+            names += (now++).key();
+        } else {
+            if (former.value() != now.value())
+                names += now.key();
+            ++former;
+            ++now;
+        }
+    }
+    return names;
+}
+
+// With the marks for what has a value beside the marks in the other state only.
+QMap<QString, QString> filledUp(QMap<QString, QString> beside,
+                                const QMap<QString, QString> &otherBeside,
+                                const QMap<QString, QString> &marks)
+{
+    for (auto value = otherBeside.cbegin(); value != otherBeside.cend(); ++value) {
+        if (!beside.contains(value.key()) && marks.contains(value.key()))
+            beside.insert(value.key(), marks.value(value.key()));
+    }
+    return beside;
+}
+
+} // namespace
+
+QMap<QString, QString> valuesOf(const TaskSettings &settings, const OpenedPrinter &printer)
+{
+    QMap<QString, QString> values = settings.session.marks;
+    values.insert(valuesBesideMarks(settings, printer));
+    return values;
+}
+
+// Asked for many times with each change: where a printer has a thousand options, copies of all
+// their marks would be most of the time.
 QStringList differences(const TaskSettings &one, const TaskSettings &other,
                         const OpenedPrinter &printer)
 {
-    const QMap<QString, QString> before = valuesOf(one, printer);
-    const QMap<QString, QString> now = valuesOf(other, printer);
-    QStringList names;
-    for (auto value = now.cbegin(); value != now.cend(); ++value) {
-        const auto former = before.constFind(value.key());
-        if (former == before.cend() || former.value() != value.value())
-            names += value.key();
-    }
-    for (auto value = before.cbegin(); value != before.cend(); ++value) {
-        if (!now.contains(value.key()))
-            names += value.key();
-    }
+    const QMap<QString, QString> oneBeside = valuesBesideMarks(one, printer);
+    const QMap<QString, QString> otherBeside = valuesBesideMarks(other, printer);
+    QStringList names = differingNames(one.session.marks, other.session.marks);
+    names.removeIf([&](const QString &name) {
+        return oneBeside.contains(name) || otherBeside.contains(name);
+    });
+    const QMap<QString, QString> before = filledUp(oneBeside, otherBeside, one.session.marks);
+    const QMap<QString, QString> now = filledUp(otherBeside, oneBeside, other.session.marks);
+    names += differingNames(before, now);
     names.sort();
     return names;
 }

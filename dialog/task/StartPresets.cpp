@@ -85,6 +85,7 @@ bool remembersLastUsed(const PrintRequest &request, const Printer &printer)
 PresetPlaces presetPlacesOf(const PrintRequest &request, const Printer &printer)
 {
     PresetPlaces places = request.presetPlaces;
+    places.owners = policyOf(request).reading().place.owners();
     if (const QString folder = policyOf(request).presetsFolder(printer); !folder.isEmpty())
         places.forEverybody += folder;
     return places;

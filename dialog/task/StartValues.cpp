@@ -194,7 +194,7 @@ OptionOutcome applyLayer(const StartLayer &layer, const QList<JobOption> &option
 }
 
 // What asks for nothing, where a queue's default asks for something.
-QString usualValue(const QString &name)
+QString usualValue(const QString &name, const OpenedPrinter &printer)
 {
     struct Usual
     {
@@ -210,8 +210,7 @@ QString usualValue(const QString &name)
         if (name == usual.name)
             return usual.value;
     }
-    const JobAttribute *attribute = jobAttribute(name);
-    return attribute ? QString(attribute->usual) : QString();
+    return usualValueOf(name, {}, printer);
 }
 
 // The choices that a default of the queue stands for.
@@ -233,8 +232,9 @@ bool areMarked(const QList<JobOption> &choices, const PpdSession &session)
 // Whether the server adds a default to every job that does not name it, and no value takes it back.
 bool isInevitable(const JobOption &option, const OpenedPrinter &printer)
 {
-    return inOneSpelling(option).name == option.name && usualValue(option.name).isEmpty() &&
-           choicesOf(option, printer).isEmpty() && !isSaidByTheJob(option, printer);
+    return inOneSpelling(option).name == option.name &&
+           usualValue(option.name, printer).isEmpty() && choicesOf(option, printer).isEmpty() &&
+           !isSaidByTheJob(option, printer);
 }
 
 // What a job says to a default of its queue that it does not name. Nothing where it says it by
@@ -248,7 +248,7 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
         name != option.name) {
         const auto said = std::find_if(attributes.cbegin(), attributes.cend(),
                                        [&](const JobOption &one) { return one.name == name; });
-        const QString value = said == attributes.cend() ? usualValue(name) : said->value;
+        const QString value = said == attributes.cend() ? usualValue(name, printer) : said->value;
         return value.isEmpty() ? QList<JobOption>() : QList{JobOption{option.name, value}};
     }
     const JobOption inOne = inOneSpelling(option);
@@ -258,7 +258,7 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
                                           : QList{JobOption{option.name, u"false"_s}};
     if (isInevitable(option, printer))
         return {option};
-    const QString usual = usualValue(option.name);
+    const QString usual = usualValue(option.name, printer);
     const QList<JobOption> choices = choicesOf(option, printer);
     if (usual.isEmpty())
         return {};

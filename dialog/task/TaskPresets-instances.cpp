@@ -4,6 +4,7 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueuesFile.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartValues.h"
 
@@ -23,9 +24,9 @@ QString queueOf(const Printer &printer)
 
 InstanceDraft TaskPresets::elsewhere(const QString &name) const
 {
-    return m_task.opened()
-               ? nameInstance(name, *m_task.opened(), m_task.settings(), KnownInstances::read())
-               : InstanceDraft();
+    return m_task.opened() ? nameInstance(presetName(name), *m_task.opened(), m_task.settings(),
+                                          KnownInstances::read())
+                           : InstanceDraft();
 }
 
 QString TaskPresets::selectedElsewhere() const
@@ -36,14 +37,14 @@ QString TaskPresets::selectedElsewhere() const
                : QString();
 }
 
-InstanceDraft TaskPresets::draft(const QString &name, const KnownInstances &known,
-                                 bool withDevice) const
+InstanceDraft TaskPresets::draft(const QString &name, const QString &settings,
+                                 const KnownInstances &known, bool withDevice) const
 {
     if (!m_task.opened() || m_task.phase() == PrintTask::Phase::Opened)
         return {{}, {}, {}, tr("The printer is not known yet.")};
     // The panels restore and save on the way.
     m_task.summaryOfSettings();
-    return draftInstance(name, *m_task.opened(), m_task.settings(), known, withDevice);
+    return draftInstance(name, *m_task.opened(), m_task.settings(), known, withDevice, settings);
 }
 
 void TaskPresets::sayOfInstance(const InstanceDraft &draft)
@@ -60,10 +61,11 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
         return std::nullopt;
     // A preset has nothing of what sets up the device; what was asked for just now has.
     const bool withDevice = settings.isEmpty();
-    const InstanceDraft made = draft(name, KnownInstances::read(), withDevice);
+    const QString of = withDevice ? name : settings;
+    const InstanceDraft made = draft(name, of, KnownInstances::read(), withDevice);
     QString problem = made.problem;
     if (problem.isEmpty())
-        problem = writeInstance(made, withDevice ? name : settings);
+        problem = writeInstance(made, of);
     if (!problem.isEmpty())
         return TaskRefusal{{problem}};
     sayOfInstance(made);
@@ -74,8 +76,9 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
 InstanceDraft TaskPresets::draftElsewhere(const PresetToSave &wanted) const
 {
     const KnownInstances known = KnownInstances::read();
-    const QString there = known.ofSettings(wanted.name, queueOf(m_task.printer()));
-    return draft(there.isEmpty() ? wanted.name : there.section(u'/', 1), known, wanted.device);
+    const QString name = presetName(wanted.name);
+    const QString there = known.ofSettings(name, queueOf(m_task.printer()));
+    return draft(there.isEmpty() ? name : there.section(u'/', 1), name, known, wanted.device);
 }
 
 void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)
@@ -147,7 +150,9 @@ QStringList TaskPresets::takeInstance(const QList<JobOption> &options)
     });
     const OptionOutcome outcome = applyUsersOptions(kept, *m_task.opened());
     for (const JobOption &attribute : outcome.attributes)
-        m_task.settings().setAttribute(attribute.name, attribute.value);
+        m_task.settings().setAttribute(
+            attribute.name, attribute.value,
+            usualValueOf(attribute.name, outcome.attributes, *m_task.opened()));
     return outcome.problems;
 }
 

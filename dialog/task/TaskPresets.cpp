@@ -1,5 +1,6 @@
 #include "dialog/task/TaskPresets.h"
 
+#include <memory>
 #include <utility>
 
 #include <QSignalBlocker>
@@ -146,12 +147,37 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
-    m_kept.selected = selected;
-    m_task.recordStep(selectedName());
+    PresetStep step{std::exchange(m_kept.selected, selected), m_task.base(), selected, {}};
+    const bool isStep = m_task.recordStep(selectedName());
     m_task.setBase({m_task.settingsNow(), selectedName()});
+    step.baseAfter = m_task.base();
+    if (isStep)
+        m_task.m_baseline.history.notePreset(std::make_shared<const PresetStep>(step));
     m_task.showSettings();
     Q_EMIT changed();
     say(outcome.missing, outcome.details);
+}
+
+void TaskPresets::stepBack(const PresetStep &step)
+{
+    reselect(step.after, step.before, step.baseBefore);
+}
+
+void TaskPresets::stepForward(const PresetStep &step)
+{
+    reselect(step.before, step.after, step.baseAfter);
+}
+
+void TaskPresets::reselect(const SelectedPreset &now, const SelectedPreset &wanted,
+                           const SettingsBase &base)
+{
+    const bool isThere = wanted.kind != Kind::Preset || listing().find(wanted.name) ||
+                         instancesOfOthers().contains(wanted.name);
+    if (m_kept.selected != now || !isThere)
+        return;
+    m_kept.selected = wanted;
+    m_task.setBase(base);
+    Q_EMIT changed();
 }
 
 void TaskPresets::say(const QStringList &missing, const QStringList &details)

@@ -31,6 +31,15 @@ struct SelectedPreset
     bool operator==(const SelectedPreset &) const = default;
 };
 
+/// A step that has selected another preset, from one with its base to another one with its.
+struct PresetStep
+{
+    SelectedPreset before;
+    SettingsBase baseBefore;
+    SelectedPreset after;
+    SettingsBase baseAfter;
+};
+
 /// What a task knows of the settings that were kept for one printer.
 struct KeptSettings
 {
@@ -101,6 +110,11 @@ public:
     void use(const QString &name);
     void useInstance(const QString &name);
 
+    /// The step was undone, or done again: the preset is selected that was then. Not where another
+    /// one has been selected meanwhile, such as by saving, nor one that is gone.
+    void stepBack(const PresetStep &step);
+    void stepForward(const PresetStep &step);
+
     // Beside the GUI thread: ended() follows. What cannot be done is said; the settings of the task
     // are the same then.
 
@@ -146,10 +160,13 @@ private:
     void apply(const PresetContent &content, const QStringList &chosen,
                const SelectedPreset &selected, const QList<JobOption> &ofInstance = {});
     QStringList takeInstance(const QList<JobOption> &options);
+    void reselect(const SelectedPreset &now, const SelectedPreset &wanted,
+                  const SettingsBase &base);
     void say(const QStringList &missing, const QStringList &details);
     void listed();
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
-    InstanceDraft draft(const QString &name, const KnownInstances &known, bool withDevice) const;
+    InstanceDraft draft(const QString &name, const QString &settings, const KnownInstances &known,
+                        bool withDevice) const;
     InstanceDraft draftElsewhere(const PresetToSave &wanted) const;
     void sayOfInstance(const InstanceDraft &draft);
     void writeElsewhere(const InstanceDraft &draft, const QString &name);

@@ -1,16 +1,19 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
+#include "dialog/job/Document.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/task/JobSettings.h"
 
 namespace corvana {
 
-/// Everything that a user sets in a task, for one printer, as one plain value: what a step of the
-/// history leads from and to, and what is compared to find out what has changed.
+/// Everything that a user sets in a task, for one printer, and the documents of it, as one plain
+/// value: what a step of the history leads from and to, and what is compared to find out what has
+/// changed.
 struct TaskSettings
 {
     Printer printer;
@@ -18,12 +21,13 @@ struct TaskSettings
     /// With what a panel shows and has not saved yet.
     SessionSnapshot session;
     JobSettings job;
+    QList<Document> documents{};
 
     /// What a server says of its printer meanwhile, such as a low toner, is nobody's setting.
     bool operator==(const TaskSettings &other) const
     {
         return idOf(printer) == idOf(other.printer) && ppdHash == other.ppdHash &&
-               session == other.session && job == other.job;
+               session == other.session && job == other.job && documents == other.documents;
     }
 };
 

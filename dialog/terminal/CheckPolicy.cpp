@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QTextStream>
 
+#include "dialog/policy/FileTrust.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/policy/PolicyLocks.h"
 #include "dialog/task/PrintTask.h"
@@ -33,18 +34,34 @@ QString lineOf(const PolicyEntry &entry)
                                     terminalLine(entry.origin.text()));
 }
 
+// Presets for everybody are looked for when a printer is open; here an administrator hears of a
+// folder that will not be used then.
+QList<PolicyProblem> problemsOf(const Policy &policy)
+{
+    const PolicyReading &reading = policy.reading();
+    QList<PolicyProblem> problems = reading.problems;
+    for (const PolicyEntry &entry : reading.entries) {
+        if (entry.key != PolicyKey::Presets || entry.value.isEmpty())
+            continue;
+        if (const auto problem = whyNotTrusted(entry.value, reading.place.owners()))
+            problems += PolicyProblem{entry.origin, problem->text()};
+    }
+    return problems;
+}
+
 QString headOf(const Policy &policy)
 {
     const PolicyReading &reading = policy.reading();
+    const QList<PolicyProblem> problems = problemsOf(policy);
     const QStringList &groups = policy.user().groups;
     QString text = Texts::tr("Policy in %1 for the user %2")
                        .arg(terminalLine(reading.place.folder), terminalLine(policy.user().name));
     if (!groups.isEmpty())
         text += u" ("_s + Texts::tr("groups: %1").arg(terminalLine(groups.join(u", "_s))) + u')';
     text += u'\n';
-    if (!reading.problems.isEmpty())
+    if (!problems.isEmpty())
         text += Texts::tr("Not used:") + u'\n';
-    for (const PolicyProblem &problem : reading.problems)
+    for (const PolicyProblem &problem : problems)
         text += u"  "_s + terminalLine(problem.text()) + u'\n';
     if (policy.isEmpty())
         text += Texts::tr("Nothing is decided.") + u'\n';
@@ -158,7 +175,7 @@ int checkPolicy(const PrintRequest &request, const QString &user)
     asked.policy =
         std::make_shared<const Policy>(policyOf(request).reading(), userWithGroups(user));
     QTextStream out(stdout);
-    bool isWhole = asked.policy->reading().problems.isEmpty();
+    bool isWhole = problemsOf(*asked.policy).isEmpty();
     if (asked.wantedPrinter.isEmpty() && asked.printers.isEmpty()) {
         out << policyText(*asked.policy);
     } else {

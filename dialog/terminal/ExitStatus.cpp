@@ -46,7 +46,7 @@ QString exitStatusHelp()
 {
     QString help = u"\nExit status:\n"_s;
     for (const auto &[status, meaning] : kMeanings)
-        help += u"  %1    %2\n"_s.arg(int(status)).arg(meaning);
+        help += u"  %1    %2\n"_s.arg(QString::number(int(status)), meaning);
     return help + u"  128 and a signal's number: ended by that signal\n"_s;
 }
 

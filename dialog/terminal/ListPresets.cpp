@@ -13,6 +13,7 @@ int listPresets(const PrintRequest &request)
 {
     PresetPlaces places = request.presetPlaces;
     const Policy &policy = policyOf(request);
+    places.owners = policy.reading().place.owners();
     for (const PolicyEntry &entry : policy.reading().entries) {
         const bool isFolder = entry.key == PolicyKey::Presets && !entry.value.isEmpty();
         if (isFolder && policy.appliesToUser(entry.scope) &&

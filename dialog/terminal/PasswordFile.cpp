@@ -53,8 +53,7 @@ std::optional<QString> readPassword(int descriptor, const QString &name, QString
     else if (line.size() > kLongestPassword || line.contains('\0') || password.toUtf8() != line)
         *error = Texts::tr("The first line of %1 is no password: at most %2 bytes of UTF-8 were "
                            "expected.")
-                     .arg(name)
-                     .arg(kLongestPassword);
+                     .arg(name, QString::number(kLongestPassword));
     else
         return password;
     return std::nullopt;

@@ -92,8 +92,7 @@ QString TextConversion::convert()
         return tr("%1 cannot be read: %2").arg(name, source.problem());
     if (isWritten && tooLong)
         return tr("%1 would have more than %2 pages, and a text is printed on no more than that.")
-            .arg(name)
-            .arg(kMostPagesOfText);
+            .arg(name, QString::number(kMostPagesOfText));
     isWritten = isWritten && flow.finish() && pdf.finish();
     if (!isWritten)
         return tr("%1 cannot be written: %2").arg(m_pdf, file.errorString());

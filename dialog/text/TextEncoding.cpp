@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 #include <QIODevice>
 #include <QList>
@@ -99,7 +100,8 @@ struct Counts
     int characters = 0; // of two bytes or more
     int frequent = 0;
     int kana = 0;
-    int odd = 0; // what such a text hardly has: halves of syllables, private characters
+    int odd = 0;    // what such a text hardly has: halves of syllables, private characters
+    int blanks = 0; // between two characters of two bytes
 };
 
 bool contains(const Frequent &range, uchar byte)
@@ -114,8 +116,12 @@ Counts countPairs(const Legacy &legacy, const QByteArray &sample)
     Counts counts;
     for (qsizetype i = 0; i < sample.size(); ++i) {
         const auto byte = static_cast<uchar>(sample.at(i));
-        if (byte < 0x80)
+        if (byte < 0x80) {
+            if (byte == ' ' && i > 0 && i + 1 < sample.size() && isHigh(sample.at(i - 1)) &&
+                isHigh(sample.at(i + 1)))
+                ++counts.blanks;
             continue;
+        }
         if (isShiftJis && byte >= 0xA1 && byte <= 0xDF) {
             ++counts.characters;
             ++counts.odd; // a half-width syllable
@@ -137,6 +143,13 @@ Counts countPairs(const Legacy &legacy, const QByteArray &sample)
             ++counts.odd;
     }
     return counts;
+}
+
+// A text of Korean syllables with some rarer ones or some ideographs between them. Korean words
+// have blanks between them, Chinese ones have none.
+bool hasKoreanWords(const Counts &counts)
+{
+    return counts.frequent * 4 >= counts.characters * 3 && counts.blanks * 8 >= counts.characters;
 }
 
 // How much a sample looks like a text in an encoding. Range: 0 to 1.
@@ -165,8 +178,12 @@ double scoreOf(const Legacy &legacy, const QByteArray &sample)
     // Korean syllables fill a part of the rows that Chinese ideographs are in: all of a text in
     // that part is no chance.
     const bool isKorean = QLatin1StringView(legacy.language) == "ko"_L1;
-    if (isKorean)
-        share = share < 0.95 ? 0.5 * share : share + 2 * kOwnLanguage;
+    if (isKorean && share >= 0.95)
+        share += 2 * kOwnLanguage;
+    else if (isKorean && hasKoreanWords(counts))
+        share = 1;
+    else if (isKorean)
+        share *= 0.5;
     return share;
 }
 
@@ -271,6 +288,28 @@ bool isUtf8(const QByteArray &sample)
     return double(decoder.broken()) <= 0.1 * double(beyond);
 }
 
+// Frequent ideographs that the Chinese of one region write so, in the same order. Of words that
+// both write alike there is nothing to be learned.
+constexpr std::u32string_view kTraditional =
+    U"們個這來時會國說為對學過還種從動點問開關無樣當與發經頁紙張設選擇雙邊單請檢";
+constexpr std::u32string_view kSimplified =
+    U"们个这来时会国说为对学过还种从动点问开关无样当与发经页纸张设选择双边单请检";
+
+// `fallback` where the text does not say whose Chinese it is.
+QString languageOfChinese(const std::u32string &text, const QString &fallback)
+{
+    const auto count = [&](std::u32string_view characters) {
+        return std::count_if(text.cbegin(), text.cend(), [&](char32_t c) {
+            return characters.find(c) != std::u32string_view::npos;
+        });
+    };
+    const auto traditional = count(kTraditional);
+    const auto simplified = count(kSimplified);
+    if (traditional == simplified)
+        return fallback;
+    return traditional > simplified ? u"zh_TW"_s : u"zh_CN"_s;
+}
+
 // The language whose shapes of the ideographs a Unicode text wants.
 QString languageOfUnicode(const QByteArray &sample, const QString &userLanguage)
 {
@@ -285,7 +324,9 @@ QString languageOfUnicode(const QByteArray &sample, const QString &userLanguage)
     if (count(isHangul) > ideographs)
         return u"ko"_s;
     // Ideographs alone: Chinese, unless the user reads something else that is written so.
-    return ideographs > 0 && userLanguage.isEmpty() ? u"zh_CN"_s : userLanguage;
+    if (ideographs == 0 || userLanguage == "ja"_L1 || userLanguage == "ko"_L1)
+        return userLanguage;
+    return languageOfChinese(text, userLanguage.isEmpty() ? u"zh_CN"_s : userLanguage);
 }
 
 } // namespace

@@ -137,10 +137,10 @@ TextFormat textFormat(const QString &ppdPath, const QList<JobOption> &options, c
         left + right + format.cellWidth() * format.columns <= format.page.width() &&
         top + bottom + format.headerHeight() + format.lineHeight() <= format.page.height();
     if (!fits || qint64(format.cellsInLine()) * format.linesOnPage() > kMostCellsOfPage) {
-        *problem = Texts::tr("The margins, columns and characters per inch that were asked for "
-                             "leave no room for a text on this paper (%1 × %2 points).")
-                       .arg(format.page.width())
-                       .arg(format.page.height());
+        *problem =
+            Texts::tr("The margins, columns and characters per inch that were asked for "
+                      "leave no room for a text on this paper (%1 × %2 points).")
+                .arg(QString::number(format.page.width()), QString::number(format.page.height()));
         return {};
     }
     return format;

@@ -35,10 +35,15 @@ HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), m_browser(new QTextBr
 void HelpWindow::open(const HelpPage &page)
 {
     setWindowTitle(page.title);
+    m_browser->setAccessibleName(page.title); // its text is what it says, not what it is
     m_book = QFileInfo(page.file).canonicalPath();
     QUrl url = QUrl::fromLocalFile(page.file);
     url.setFragment(page.anchor);
+    const bool isOpenedAnew = !isVisible();
     m_browser->setSource(url);
+    // Back leads to what was read since then, and not through all that was read in a day.
+    if (isOpenedAnew)
+        m_browser->clearHistory();
     show();
     raise();
     activateWindow();

@@ -1,21 +1,27 @@
 #include "dialog/window/JobFooter.h"
 
+#include <chrono>
+#include <utility>
+
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "dialog/job/JobProgress.h"
 #include "dialog/window/ElidedToolButton.h"
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "dialog/window/find/FindField.h"
-#include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::chrono::milliseconds kSayAfter{1000};
 
 // Its place is kept, so that a window has the same least width with it.
 void hideInPlace(QWidget *button)
@@ -84,7 +90,7 @@ void JobFooter::buildButtons()
     m_leave = new QPushButton(tr("C&lose"), this);
     m_leave->setObjectName(u"leave"_s);
     m_leave->setAutoDefault(false);
-    m_leave->setToolTip(plainToolTip(tr("The job goes on without this window.")));
+    setPlainToolTip(m_leave, tr("The job goes on without this window."));
     hideInPlace(m_leave);
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setObjectName(u"cancel"_s);
@@ -120,6 +126,23 @@ void JobFooter::showRunning(bool running)
     m_progressText->setVisible(running);
     m_leave->hide();
     m_cancel->setText(tr("Cancel"));
+    m_said.clear();
+    saySoon();
+}
+
+// A job says more than anybody wants to hear: what is true a moment later is said, and only news.
+void JobFooter::saySoon()
+{
+    if (std::exchange(m_saysSoon, true))
+        return;
+    QTimer::singleShot(kSayAfter, this, [this] {
+        m_saysSoon = false;
+        const QString text = m_progressText->text();
+        if (text.isEmpty() || m_progress->isHidden() || text == m_said)
+            return;
+        m_said = text;
+        announce(this, text);
+    });
 }
 
 void JobFooter::showProgress(const JobProgress &progress, bool canLeave)
@@ -130,6 +153,7 @@ void JobFooter::showProgress(const JobProgress &progress, bool canLeave)
     if (measured)
         m_progress->setValue(static_cast<int>(progress.sent * 100 / progress.total));
     m_leave->setVisible(canLeave);
+    saySoon();
 }
 
 void JobFooter::showCanceling()
@@ -137,6 +161,7 @@ void JobFooter::showCanceling()
     m_leave->hide();
     m_progressText->setText(tr("Canceling…"));
     m_progress->setRange(0, 0);
+    saySoon();
 }
 
 void JobFooter::showTurning()
@@ -145,6 +170,7 @@ void JobFooter::showTurning()
     m_progressText->setText(tr("The first sides are printed."));
     m_progress->setRange(0, 2);
     m_progress->setValue(1);
+    saySoon();
 }
 
 void JobFooter::showClose()

@@ -53,6 +53,7 @@ Q_SIGNALS:
 private:
     void buildProgress();
     void buildButtons();
+    void saySoon();
 
     QPushButton *m_help = nullptr;
     FindField *m_finder = nullptr;
@@ -62,6 +63,8 @@ private:
     QPushButton *m_cancel = nullptr;
     QProgressBar *m_progress = nullptr;
     ElidedLabel *m_progressText = nullptr;
+    QString m_said; // of the job, by a screen reader
+    bool m_saysSoon = false;
 };
 
 } // namespace corvana

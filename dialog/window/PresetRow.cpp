@@ -11,7 +11,7 @@
 #include "dialog/window/PresetMenu.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/chooser/PrinterIcon.h"
-#include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -118,11 +118,11 @@ void PresetRow::refresh()
     m_reset->setEnabled(m_task.phase() == PrintTask::Phase::Ready);
     const QString undo = m_task.undoText();
     m_undo->setText(QString(undo).replace(u'&', "&&"_L1));
-    m_undo->setToolTip(plainToolTip(tr("%1 (Ctrl+Z)").arg(undo)));
+    setPlainToolTip(m_undo, tr("%1 (Ctrl+Z)").arg(undo));
     m_undo->setAccessibleName(undo);
     m_undo->setEnabled(m_task.canUndo());
     const QString redo = m_task.redoText();
-    m_redo->setToolTip(plainToolTip(tr("%1 (Shift+Ctrl+Z)").arg(redo)));
+    setPlainToolTip(m_redo, tr("%1 (Shift+Ctrl+Z)").arg(redo));
     m_redo->setAccessibleName(redo);
     m_redo->setEnabled(m_task.canRedo());
 }

@@ -17,6 +17,7 @@
 
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
+#include "dialog/window/KeyboardFocus.h"
 #include "dialog/window/PresetRow.h"
 #include "dialog/window/PreviewFolding.h"
 #include "dialog/window/PrinterHeader.h"
@@ -35,6 +36,7 @@
 #include "dialog/window/preview/ZoomControl.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -72,6 +74,9 @@ PrintWindow::PrintWindow(PrintRequest request, QWidget *parent)
 PrintWindow::~PrintWindow()
 {
     HelpManager::sharedHelpManager().setViewer(nullptr);
+    // A field proposes what was typed when it loses the focus: while there is a task to hear it.
+    if (QWidget *focus = focusWidget())
+        focus->clearFocus();
     // What the task says while it goes is heard by nobody: the window is half gone.
     m_task->disconnect(this);
     delete m_taskPreview;
@@ -125,6 +130,8 @@ void PrintWindow::connectParts()
 {
     addPageShortcuts();
     new UndoKeys(*m_task, this);
+    new KeyboardFocus(this);
+    nameListsOfPopUps(this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);
     connect(m_preview, &PreviewPane::foldPressed, this,
             [this](bool fold) { m_folding->fold(fold); });
@@ -239,6 +246,11 @@ void PrintWindow::interrupt()
 {
     // First, so that an alert which is closed is not taken for one that was answered.
     m_task->interrupt(PrintTask::OnInterrupt::LeaveJob);
+    // A menu turns an event loop of its own, within that of the window or the box that it is of.
+    while (QWidget *popup = QApplication::activePopupWidget()) {
+        if (!popup->close() || QApplication::activePopupWidget() == popup)
+            break;
+    }
     while (QWidget *modal = QApplication::activeModalWidget()) {
         if (modal == this || !modal->close())
             break;

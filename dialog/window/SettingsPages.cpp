@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -18,6 +19,7 @@
 #include "platform/pde/PDEPanel.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -28,6 +30,10 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
 {
     setObjectName(u"pages"_s);
     setDocumentMode(false);
+    makeTabsAccessible(this);
+    // The tabs have the focus, what holds them has none.
+    setFocusPolicy(Qt::NoFocus);
+    tabBar()->setFocusPolicy(Qt::TabFocus);
     connect(this, &QTabWidget::currentChanged, this, &SettingsPages::enter);
     connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
     connect(&m_task, &PrintTask::historyChanged, this, &SettingsPages::showChanges);
@@ -174,6 +180,7 @@ void SettingsPages::showWaiting(const QString &text, bool canRetry)
     }
     layout->addStretch();
     addTab(page, tr("General"));
+    announce(this, text);
 }
 
 void SettingsPages::refresh()

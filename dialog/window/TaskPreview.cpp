@@ -23,8 +23,12 @@ TaskPreview::TaskPreview(PrintTask &task, PreviewPane &pane, QObject *parent)
     connect(&task, &PrintTask::printerChanged, this, &TaskPreview::update);
     // At once: a slider is being moved.
     connect(&task, &PrintTask::pageColorsChanged, this, &TaskPreview::showColors);
-    connect(&task, &PrintTask::phaseChanged, this, [this] {
+    connect(&task, &PrintTask::phaseChanged, this, [this](PrintTask::Phase phase) {
         m_pane.documents()->setCanChange(m_task.canChangeDocuments());
+        // At once: a window that opens with its printer is not laid out for what is said without
+        // one.
+        if (phase == PrintTask::Phase::Opened)
+            showSheets();
         update();
     });
     connect(&task, &PrintTask::sheetWanted, this, [this](const QString &path) {

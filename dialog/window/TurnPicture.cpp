@@ -1,4 +1,5 @@
 #include "dialog/window/TurnPicture.h"
+#include "platform/toolkit/ScreenReader.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -120,6 +121,7 @@ TurnPicture::TurnPicture(const TurnQuestion &question, QWidget *parent)
     : QWidget(parent), m_inTray(question.inTray), m_leadingEdge(question.leadingEdge),
       m_isWide(question.isWide)
 {
+    setAccessibleRole(this, QAccessible::Graphic);
 }
 
 QSize TurnPicture::sizeHint() const

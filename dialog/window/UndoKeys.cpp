@@ -8,6 +8,7 @@
 #include <QShortcut>
 
 #include "dialog/task/PrintTask.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -39,10 +40,16 @@ const QLineEdit *fieldOf(const QObject *widget)
 UndoKeys::UndoKeys(PrintTask &task, QWidget *window)
     : QObject(window), m_task(task), m_window(window)
 {
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, window), &QShortcut::activated, &m_task,
-            &PrintTask::undo);
+    // What is taken back may be on a page that nobody looks at: which step it was is said.
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, window), &QShortcut::activated, this, [this] {
+        announce(m_window, m_task.canUndo() ? m_task.undoText() : QString());
+        m_task.undo();
+    });
     for (const QKeyCombination keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
-        connect(new QShortcut(keys, window), &QShortcut::activated, &m_task, &PrintTask::redo);
+        connect(new QShortcut(keys, window), &QShortcut::activated, this, [this] {
+            announce(m_window, m_task.canRedo() ? m_task.redoText() : QString());
+            m_task.redo();
+        });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *former, QWidget *) {
         if (former && m_window->isAncestorOf(former))
             m_task.endStep();

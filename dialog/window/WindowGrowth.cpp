@@ -1,11 +1,28 @@
 #include "dialog/window/WindowGrowth.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
 
 #include "dialog/window/WindowSize.h"
 
 namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// By how much a window can grow at its lower edge. Wayland tells no window where it is: half of
+// what the screen has left is there for one in its middle, where compositors put dialogs.
+int roomBelow(const QWidget &window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    if (QGuiApplication::platformName().startsWith("wayland"_L1))
+        return qMax(0, screen.height() - window.frameGeometry().height()) / 2;
+    return qMax(0, screen.bottom() - window.frameGeometry().bottom());
+}
+
+} // namespace
 
 void WindowGrowth::open(QSize usual)
 {
@@ -33,9 +50,7 @@ void WindowGrowth::follow(int missing)
     if (missing < 0)
         return growBy(-qMin(-missing, m_height)); // the height that the user gave stays the user's
     // Beyond the screen the page scrolls.
-    const int room =
-        m_window.screen()->availableGeometry().bottom() - m_window.frameGeometry().bottom();
-    growBy(qBound(0, missing, qMax(0, room)));
+    growBy(qBound(0, missing, roomBelow(m_window)));
 }
 
 void WindowGrowth::giveBack()

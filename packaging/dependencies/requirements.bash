@@ -102,12 +102,32 @@ probe() {
         [ -e "$folder/$name" ] || return 1
         qt_query QT_VERSION
         ;;
+    qttexts:*)
+        folder=$(qt_query QT_INSTALL_TRANSLATIONS) || return 1
+        [ -e "$folder/$name" ] || return 1
+        qt_query QT_VERSION
+        ;;
     filter:*)
         folder=$(cups-config --serverbin 2>/dev/null) || folder=$CORVANA_SYSTEM_ROOT/usr/lib/cups
         [ -x "$folder/filter/$name" ]
         ;;
+    clangrt:*)
+        folder=$(clang++ -print-resource-dir 2>/dev/null) || return 1
+        [ -e "$folder/lib/linux/libclang_rt.$name-$(uname -m).a" ]
+        ;;
     font:*)
         [ -n "$(fc-list ":${name/#mono/spacing=mono}" 2>/dev/null)" ]
+        ;;
+    service:*)
+        [ -e "$CORVANA_SYSTEM_ROOT/usr/share/dbus-1/services/$name.service" ]
+        ;;
+    typelib:*)
+        compgen -G "$CORVANA_SYSTEM_ROOT/usr/lib*/girepository-1.0/$name.typelib" >/dev/null ||
+            compgen -G "$CORVANA_SYSTEM_ROOT/usr/lib/*/girepository-1.0/$name.typelib" >/dev/null
+        ;;
+    python:*)
+        # The system's own: others do not see the modules that packages bring.
+        "$CORVANA_SYSTEM_ROOT/usr/bin/python3" -c "import $name" 2>/dev/null </dev/null
         ;;
     *)
         say "packages.list: no such kind of probe: $1"

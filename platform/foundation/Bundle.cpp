@@ -13,6 +13,8 @@
 #include <QLoggingCategory>
 #include <QTranslator>
 
+#include "platform/foundation/StringTable.h"
+
 namespace corvana {
 
 using namespace Qt::StringLiterals;
@@ -56,6 +58,12 @@ bool isPlainName(const QString &name)
     return !name.isEmpty() && !name.contains(u'/') && !name.startsWith(u'.');
 }
 
+bool isWholeTable(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && isWholeStringTable(file.readAll());
+}
+
 int lineOfOffset(const QByteArray &text, int offset)
 {
     return static_cast<int>(text.left(offset).count('\n')) + 1;
@@ -94,9 +102,9 @@ void Bundle::readInfo(QString *error)
     QJsonParseError parse;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parse);
     if (parse.error != QJsonParseError::NoError) {
-        return fail(u"%1:%2: this is not JSON: %3"_s.arg(file.fileName())
-                        .arg(lineOfOffset(text, parse.offset))
-                        .arg(parse.errorString()));
+        return fail(u"%1:%2: this is not JSON: %3"_s.arg(
+            file.fileName(), QString::number(lineOfOffset(text, parse.offset)),
+            parse.errorString()));
     }
     if (!document.isObject())
         return fail(u"%1:1: a JSON object was expected"_s.arg(file.fileName()));
@@ -183,7 +191,8 @@ QString Bundle::localizedString(const QString &key) const
         const QString name = preferredLocalizations(localizations()).value(0);
         const QString table = u"%1/strings/%2.qm"_s.arg(m_path, name);
         // QTranslator would seek a missing table under shorter names, even outside the bundle.
-        if (!isPlainName(name) || !QFileInfo(table).isFile() || !m_strings->load(table))
+        if (!isPlainName(name) || !QFileInfo(table).isFile() || !isWholeTable(table) ||
+            !m_strings->load(table))
             qCWarning(lcBundle) << "no string table could be loaded from" << table;
     }
     return m_strings->translate(kStringTableContext, key.toUtf8().constData());

@@ -43,10 +43,11 @@ Reading readAnew(const QString &name)
     if (copy.write(content) != content.size() || !copy.flush())
         return {State::Unreadable, {}};
     const QSettings settings(copy.fileName(), QSettings::IniFormat);
-    if (settings.status() != QSettings::NoError)
-        return {State::Damaged, {}};
     Reading reading{State::Read, {}};
     const QStringList keys = settings.allKeys();
+    // A section is looked at when its keys are asked for, and damage in it is not known before.
+    if (settings.status() != QSettings::NoError)
+        return {State::Damaged, {}};
     for (const QString &key : keys)
         reading.domain.insert(key, settings.value(key));
     return reading;

@@ -2,11 +2,31 @@
 
 #include <QLoggingCategory>
 
+#include "platform/imaging/ExactPixels.h"
 #include "platform/imaging/PixelKernel.h"
+#include "platform/library/OwnLibrary.h"
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Q_LOGGING_CATEGORY(lcFilterImage, "corvana.imaging.image", QtWarningMsg)
+
+namespace {
+
+// Without the library pictures look the same, and take longer.
+TransformPixels loadTransformPixels()
+{
+    QString error;
+    const auto transform = reinterpret_cast<TransformPixels>(
+        functionOfOwnLibrary(u"libcorvana-pixel-kernel.so"_s, kTransformPixels, &error));
+    if (transform)
+        return transform;
+    qCWarning(lcFilterImage).noquote() << "pictures are transformed slowly:" << error;
+    return transformPixelsExactly;
+}
+
+} // namespace
 
 FilterImage::FilterImage(const QImage &picture)
     : m_picture(picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32
@@ -51,9 +71,10 @@ void FilterImage::renderInto(QImage &destination) const
         return;
     }
     destination.setDevicePixelRatio(m_picture.devicePixelRatio());
-    transformPixels(m_transform, {m_picture.constBits(), m_picture.bytesPerLine()},
-                    {destination.bits(), destination.bytesPerLine()}, extent(),
-                    translucent ? AlphaForm::Premultiplied : AlphaForm::Straight);
+    static const TransformPixels run = loadTransformPixels();
+    run(m_transform, {m_picture.constBits(), m_picture.bytesPerLine()},
+        {destination.bits(), destination.bytesPerLine()}, extent(),
+        translucent ? AlphaForm::Premultiplied : AlphaForm::Straight);
 }
 
 } // namespace corvana

@@ -6,8 +6,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include <QColor>
+
+#include "platform/imaging/ExactPixels.h"
 
 // This file is compiled once for each kind of vector instructions: foreach_target.h includes it
 // again and again. What is in PixelKernel-inl.h is made anew each time, the rest only the last time
@@ -23,10 +26,6 @@
 
 namespace corvana {
 namespace {
-
-/// What is added before the fraction is cut off: a half, and a little for the error of single
-/// precision, so that an exact half is never taken for less.
-constexpr double kRounding = 0.5 + 1.0 / 16384;
 
 /// The transform in the units of pixels: components 0..255, the rounding already in the last
 /// column.
@@ -52,6 +51,17 @@ using RunFunction = void (*)(const Coefficients &coefficients, const std::uint32
 #include "platform/imaging/PixelKernel-inl.h"
 
 #if HWY_ONCE
+
+// The name is corvana::kTransformPixels.
+extern "C" Q_DECL_EXPORT void corvanaTransformPixels(const corvana::ColorTransform &transform,
+                                                     corvana::ConstPixelRows source,
+                                                     corvana::PixelRows destination, QSize size,
+                                                     corvana::AlphaForm form)
+{
+    corvana::transformPixels(transform, source, destination, size, form);
+}
+
+static_assert(std::is_same_v<decltype(&corvanaTransformPixels), corvana::TransformPixels>);
 
 namespace corvana {
 
@@ -87,29 +97,6 @@ Coefficients coefficientsOf(const ColorTransform &transform)
     return result;
 }
 
-/// One component in double precision.
-std::uint32_t exactComponent(const std::array<double, 4> &row, std::uint32_t pixel)
-{
-    const double value = (pixel >> 16 & 0xff) * row[0] + (pixel >> 8 & 0xff) * row[1] +
-                         (pixel & 0xff) * row[2] + 255 * row[3] + kRounding;
-    if (value >= 255)
-        return 255;
-    return value > 0 ? static_cast<std::uint32_t>(value) : 0;
-}
-
-void transformExactly(const ColorTransform &transform, AlphaForm form, const std::uint32_t *source,
-                      std::uint32_t *destination, std::size_t count)
-{
-    const auto &rows = transform.rows;
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint32_t pixel = source[i];
-        const std::uint32_t result = (pixel & 0xff000000) | exactComponent(rows[0], pixel) << 16 |
-                                     exactComponent(rows[1], pixel) << 8 |
-                                     exactComponent(rows[2], pixel);
-        destination[i] = form == AlphaForm::Premultiplied ? qPremultiply(result) : result;
-    }
-}
-
 } // namespace
 
 void transformPixels(const ColorTransform &transform, ConstPixelRows source, PixelRows destination,
@@ -117,6 +104,8 @@ void transformPixels(const ColorTransform &transform, ConstPixelRows source, Pix
 {
     if (size.isEmpty())
         return;
+    if (!fitsSinglePrecision(transform))
+        return transformPixelsExactly(transform, source, destination, size, form);
     auto width = static_cast<std::size_t>(size.width());
     int height = size.height();
     // Rows without gaps are one long row.
@@ -126,8 +115,7 @@ void transformPixels(const ColorTransform &transform, ConstPixelRows source, Pix
         height = 1;
     }
 
-    const bool fast = fitsSinglePrecision(transform);
-    const Coefficients coefficients = fast ? coefficientsOf(transform) : Coefficients{};
+    const Coefficients coefficients = coefficientsOf(transform);
     const RunFunction run = form == AlphaForm::Premultiplied
                                 ? HWY_DYNAMIC_DISPATCH(transformPremultiplied)
                                 : HWY_DYNAMIC_DISPATCH(transformStraight);
@@ -136,10 +124,7 @@ void transformPixels(const ColorTransform &transform, ConstPixelRows source, Pix
             reinterpret_cast<const std::uint32_t *>(source.bits + y * source.bytesPerLine);
         auto *to =
             reinterpret_cast<std::uint32_t *>(destination.bits + y * destination.bytesPerLine);
-        if (fast)
-            run(coefficients, from, to, width);
-        else
-            transformExactly(transform, form, from, to, width);
+        run(coefficients, from, to, width);
     }
 }
 

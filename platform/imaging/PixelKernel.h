@@ -39,4 +39,11 @@ struct PixelRows
 void transformPixels(const ColorTransform &transform, ConstPixelRows source, PixelRows destination,
                      QSize size, AlphaForm form);
 
+/// What the library of the kernel offers, and under which name. It is loaded with the first picture
+/// that is transformed: the library below it measures the clock of the processor when it is loaded,
+/// which takes longer than all libraries together that a window needs at once.
+using TransformPixels = void (*)(const ColorTransform &transform, ConstPixelRows source,
+                                 PixelRows destination, QSize size, AlphaForm form);
+inline constexpr char kTransformPixels[] = "corvanaTransformPixels";
+
 } // namespace corvana

@@ -1,12 +1,15 @@
 #include "platform/pde/PDEBundleLoader.h"
 
+#include <cerrno>
 #include <utility>
 
 #include <grp.h>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QJsonObject>
@@ -55,15 +58,21 @@ class Trust
 {
 public:
     // Why a file or folder below a trusted root cannot be trusted; null when it can.
-    QString distrust(const QFileInfo &file)
+    QString distrust(const QString &file)
     {
-        if (file.permissions() & QFileDevice::WriteOther)
-            return u"%1 can be written by everybody"_s.arg(file.filePath());
-        const uint owner = file.ownerId();
+        // Asked for once: a window waits for this, and Qt asks seven times.
+        struct stat information
+        {
+        };
+        if (::stat(QFile::encodeName(file).constData(), &information) != 0)
+            return u"%1: %2"_s.arg(file, qt_error_string(errno));
+        if (information.st_mode & S_IWOTH)
+            return u"%1 can be written by everybody"_s.arg(file);
+        const uint owner = information.st_uid;
         if (owner != 0 && owner != ::geteuid() && owner != m_programOwner)
-            return u"%1 belongs to another user"_s.arg(file.filePath());
-        if ((file.permissions() & QFileDevice::WriteGroup) && !isOwnersAlone(file.groupId(), owner))
-            return u"%1 can be written by the group %2"_s.arg(file.filePath(), file.group());
+            return u"%1 belongs to another user"_s.arg(file);
+        if ((information.st_mode & S_IWGRP) && !isOwnersAlone(information.st_gid, owner))
+            return u"%1 can be written by the group %2"_s.arg(file, QFileInfo(file).group());
         return {};
     }
 
@@ -86,7 +95,7 @@ QString distrustOfPath(const QString &path, const QString &root)
 {
     Trust trust;
     for (QFileInfo file(path); file.filePath() != root; file = QFileInfo(file.path())) {
-        const QString problem = trust.distrust(file);
+        const QString problem = trust.distrust(file.filePath());
         if (!problem.isNull())
             return problem;
     }
@@ -106,7 +115,7 @@ QString distrustOfContents(const QString &bundle)
         if (file.isSymLink() && !file.canonicalFilePath().startsWith(bundle + u'/'))
             return u"%1 leads out of the bundle, to %2"_s.arg(file.filePath(),
                                                               file.canonicalFilePath());
-        const QString problem = trust.distrust(file);
+        const QString problem = trust.distrust(file.filePath());
         if (!problem.isNull())
             return problem;
     }

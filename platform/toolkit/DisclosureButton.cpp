@@ -1,4 +1,5 @@
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/ScreenReader.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -9,9 +10,16 @@ namespace corvana {
 
 DisclosureButton::DisclosureButton(QWidget *parent) : QPushButton(parent)
 {
+    setAccessibleRole(this, QAccessible::Button);
     setCheckable(true);
     setAutoDefault(false); // Return is for the dialog's own button
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QPushButton::toggled, this, [this] {
+        QAccessible::State changed;
+        changed.expanded = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
+    });
 }
 
 void DisclosureButton::setHeading(QLabel *heading)

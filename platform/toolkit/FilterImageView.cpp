@@ -1,4 +1,5 @@
 #include "platform/toolkit/FilterImageView.h"
+#include "platform/toolkit/ScreenReader.h"
 
 #include <QPainter>
 
@@ -10,6 +11,7 @@ constexpr QSize kLeastSize{96, 64}; // pixels; smaller than this nothing can be 
 
 FilterImageView::FilterImageView(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleRole(this, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

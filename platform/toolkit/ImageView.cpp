@@ -24,8 +24,12 @@ double pixelsPerPointOf(const QImage &image)
 {
     constexpr double kMetersPerInch = 0.0254;
     const int dotsPerInch = qRound(image.dotsPerMeterX() * kMetersPerInch);
+    // No screen is finer; such a picture would be too small to be seen.
+    constexpr int kFinest = 8;
     const int ratio = dotsPerInch / static_cast<int>(kPointsPerInch);
-    return ratio > 1 && dotsPerInch % static_cast<int>(kPointsPerInch) == 0 ? ratio : 1.0;
+    return ratio > 1 && ratio <= kFinest && dotsPerInch % static_cast<int>(kPointsPerInch) == 0
+               ? ratio
+               : 1.0;
 }
 
 } // namespace

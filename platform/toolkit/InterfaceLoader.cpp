@@ -3,18 +3,18 @@
 #include <utility>
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QStackedWidget>
 #include <QTableView>
-#include <QUiLoader>
+#include <QXmlStreamReader>
 
 #include "platform/toolkit/Bindings.h"
 #include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/FilterImageView.h"
+#include "platform/toolkit/Forms.h"
 #include "platform/toolkit/FrameLayout.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -35,61 +35,47 @@ QStringList &untoldProblems()
     return problems;
 }
 
-// QUiLoader leaves out silently what it cannot create; this one remembers it.
-class FormLoader : public QUiLoader
+// The classes of the owner's, and those that every interface file may use.
+FormClasses allClasses(FormClasses classes)
 {
-public:
-    using Classes = std::map<QString, std::function<QWidget *(QWidget *)>>;
+    classes[u"RadioMatrix"_s] = [](QWidget *p) { return new RadioMatrix(p); };
+    classes[u"FilterImageView"_s] = [](QWidget *p) { return new FilterImageView(p); };
+    classes[u"Stepper"_s] = [](QWidget *p) { return new Stepper(p); };
+    classes[u"DisclosureButton"_s] = [](QWidget *p) { return new DisclosureButton(p); };
+    return classes;
+}
 
-    explicit FormLoader(const Classes &ownClasses) : m_classes(ownClasses)
-    {
-        m_classes[u"RadioMatrix"_s] = [](QWidget *p) { return new RadioMatrix(p); };
-        m_classes[u"FilterImageView"_s] = [](QWidget *p) { return new FilterImageView(p); };
-        m_classes[u"Stepper"_s] = [](QWidget *p) { return new Stepper(p); };
-        m_classes[u"DisclosureButton"_s] = [](QWidget *p) { return new DisclosureButton(p); };
-    }
+// How far controls may stand within controls; QUiLoader goes down by recursion.
+constexpr int kDeepest = 100;
+// More rows and columns than any grid of ours has. QUiLoader takes a place as it is, and makes room
+// for all that are in front of it.
+constexpr int kMostCells = 1000;
 
-    QStringList unknownClasses;
-
-    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
-    {
-        QWidget *widget = nullptr;
-        if (const auto own = m_classes.find(className); own != m_classes.end())
-            widget = own->second(parent);
-        else if (availableWidgets().contains(className) || className == "Line"_L1)
-            widget = QUiLoader::createWidget(className, parent, name);
-        if (widget)
-            widget->setObjectName(name);
-        else
-            unknownClasses += className;
-        return widget;
-    }
-
-    QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
-    {
-        QLayout *layout = nullptr;
-        if (availableLayouts().contains(className))
-            layout = QUiLoader::createLayout(className, parent, name);
-        if (!layout)
-            unknownClasses += className;
-        return layout;
-    }
-
-private:
-    Classes m_classes;
-};
-
-// The constructor of QUiLoader opens every designer plug-in that it can find, which costs time and
-// runs code of others; no interface file of ours needs one.
-std::unique_ptr<FormLoader> makeLoader(const FormLoader::Classes &ownClasses)
+// What is wrong with a file that would bring QUiLoader down: the fragment that is, or nothing.
+QByteArray impossiblePart(const QByteArray &text)
 {
-    const QStringList paths = QCoreApplication::libraryPaths();
-    QCoreApplication::setLibraryPaths({});
-    auto loader = std::make_unique<FormLoader>(ownClasses);
-    QCoreApplication::setLibraryPaths(paths);
-    // Texts of an interface file come from the bundle's string table, not from the program's.
-    loader->setTranslationEnabled(false);
-    return loader;
+    QXmlStreamReader xml(text);
+    int depth = 0;
+    while (!xml.atEnd()) {
+        const auto token = xml.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : 0;
+        depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+        if (token != QXmlStreamReader::StartElement)
+            continue;
+        if (depth > kDeepest)
+            return '<' + xml.name().toUtf8();
+        for (const char *name : {"row", "column", "rowspan", "colspan"}) {
+            if (xml.name() != "item"_L1 || !xml.attributes().hasAttribute(QLatin1StringView(name)))
+                continue;
+            const QString value = xml.attributes().value(QLatin1StringView(name)).toString();
+            bool isNumber = false;
+            const int number = value.toInt(&isNumber);
+            const bool isSpan = QByteArrayView(name).endsWith("span");
+            if (!isNumber || number < (isSpan ? 1 : 0) || number > kMostCells)
+                return name + QByteArray("=\"") + value.toUtf8() + '"';
+        }
+    }
+    return {};
 }
 
 // The line of the last of `fragments`, each sought behind the one before it; 0 when one is missing.
@@ -146,7 +132,7 @@ public:
     void reject(const QByteArrayList &where, const QString &what)
     {
         const qsizetype line = lineOf(m_text, where);
-        const QString place = line > 0 ? u"%1:%2"_s.arg(m_file).arg(line) : m_file;
+        const QString place = line > 0 ? u"%1:%2"_s.arg(m_file, QString::number(line)) : m_file;
         problems += u"%1: %2"_s.arg(place, what);
     }
 
@@ -311,23 +297,26 @@ LoadedInterface loadInterface(const QString &file, const InterfaceConnections &o
     QBuffer buffer(&text);
     buffer.open(QIODevice::ReadOnly);
 
-    const ProgrammaticChange change;
-    const std::unique_ptr<FormLoader> loader = makeLoader(owner.m_classes);
-    std::unique_ptr<QWidget> view(loader->load(&buffer));
     InterfaceConnector connector(owner, file, text);
-    for (const QString &className : std::as_const(loader->unknownClasses)) {
+    if (const QByteArray part = impossiblePart(text); !part.isEmpty()) {
+        connector.reject({part}, u"\"%1\" is too much"_s.arg(QString::fromUtf8(part)));
+        return refused(connector.problems);
+    }
+    const ProgrammaticChange change;
+    LoadedForm form = loadForm(buffer, allClasses(owner.m_classes));
+    for (const QString &className : std::as_const(form.unknownClasses)) {
         connector.reject({"class=\"" + className.toUtf8() + "\""},
                          u"there is no control class \"%1\""_s.arg(className));
     }
-    if (!view && connector.problems.isEmpty())
-        connector.problems += u"%1: %2"_s.arg(file, loader->errorString());
-    if (view && connector.problems.isEmpty())
-        connector.connectAll(view.get());
+    if (!form.view && connector.problems.isEmpty())
+        connector.problems += u"%1: %2"_s.arg(file, form.error);
+    if (form.view && connector.problems.isEmpty())
+        connector.connectAll(form.view.get());
 
     if (!connector.problems.isEmpty())
         return refused(connector.problems);
     LoadedInterface loaded;
-    loaded.view = std::move(view);
+    loaded.view = std::move(form.view);
     return loaded;
 }
 

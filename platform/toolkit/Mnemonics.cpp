@@ -1,6 +1,7 @@
 #include "platform/toolkit/Mnemonics.h"
 
 #include <QLabel>
+#include <QLocale>
 
 #include "platform/toolkit/PlainText.h"
 
@@ -17,6 +18,12 @@ void setLiteralText(QLabel *label, const QString &text)
 {
     makePlain(label);
     label->setText(label->buddy() ? withoutMnemonic(text) : text);
+}
+
+QString asTitle(const QString &text)
+{
+    const bool isFrench = QLocale().uiLanguages().value(0).section(u'-', 0, 0) == "fr"_L1;
+    return text + (isFrench ? u"\u00a0:"_s : u":"_s); // no line ends before the colon
 }
 
 QString literalText(const QLabel *label)

@@ -16,6 +16,9 @@ CORVANA_PLATFORM_EXPORT QString withoutMnemonic(const QString &text);
 /// markup is seen in it.
 CORVANA_PLATFORM_EXPORT void setLiteralText(QLabel *label, const QString &text);
 
+/// A text as the title of what stands behind it: with a colon, which French keeps off its word.
+CORVANA_PLATFORM_EXPORT QString asTitle(const QString &text);
+
 /// The text that a label shows: without the marks of keys to press, where it leads to a control.
 CORVANA_PLATFORM_EXPORT QString literalText(const QLabel *label);
 

@@ -1,11 +1,8 @@
 #include "platform/toolkit/PdfPictures.h"
 
-#include <dlfcn.h>
-
-#include <QFile>
-#include <QFileInfo>
-#include <QLibrary>
 #include <QLoggingCategory>
+
+#include "platform/library/OwnLibrary.h"
 
 namespace corvana {
 
@@ -15,28 +12,14 @@ Q_LOGGING_CATEGORY(lcPdfPictures, "corvana.toolkit.pdf", QtWarningMsg)
 
 namespace {
 
-// The folder of the library that this code is in, so that nothing from elsewhere is ever loaded:
-// neither the environment nor the current folder has a say.
-QString ownFolder()
-{
-    Dl_info library{};
-    if (::dladdr(kFirstPageOfPdf, &library) == 0)
-        return {};
-    return QFileInfo(QFileInfo(QFile::decodeName(library.dli_fname)).canonicalFilePath()).path();
-}
-
 FirstPageOfPdf loadFirstPageOfPdf()
 {
-    const QString folder = ownFolder();
-    if (!folder.startsWith(u'/'))
-        return nullptr;
-    QLibrary library(folder + u"/libcorvana-pdf-pictures.so"_s);
-    // Its libraries keep threads and caches of their own, which do not survive being unloaded.
-    library.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
-    const auto firstPage = reinterpret_cast<FirstPageOfPdf>(library.resolve(kFirstPageOfPdf));
+    QString error;
+    const auto firstPage = reinterpret_cast<FirstPageOfPdf>(
+        functionOfOwnLibrary(u"libcorvana-pdf-pictures.so"_s, kFirstPageOfPdf, &error));
     if (!firstPage)
         qCWarning(lcPdfPictures).noquote()
-            << "pictures that are PDF pages cannot be shown:" << library.errorString();
+            << "pictures that are PDF pages cannot be shown:" << error;
     return firstPage;
 }
 

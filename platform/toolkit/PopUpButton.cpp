@@ -1,6 +1,7 @@
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QComboBox>
+#include <QHash>
 #include <QStandardItemModel>
 
 #include "platform/toolkit/ProgrammaticChange.h"
@@ -21,6 +22,20 @@ void addItemWithTitle(QComboBox *popUp, const QString &title)
     popUp->addItem(title);
     // QComboBox selects the first item that it ever gets by itself.
     popUp->setCurrentIndex(selected);
+}
+
+void setItems(QComboBox *popUp, const QList<Item> &items)
+{
+    const ProgrammaticChange change;
+    popUp->clear();
+    QHash<QString, qsizetype> last; // of each title
+    for (qsizetype i = 0; i < items.size(); ++i)
+        last.insert(items.at(i).title, i);
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        if (last.value(items.at(i).title) == i)
+            popUp->addItem(items.at(i).title, items.at(i).object);
+    }
+    popUp->setCurrentIndex(-1);
 }
 
 void removeItemAt(QComboBox *popUp, int index)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QList>
 #include <QString>
 #include <QVariant>
 
@@ -18,6 +19,17 @@ CORVANA_PLATFORM_EXPORT void removeAllItems(QComboBox *popUp);
 /// Adds an item at the end and leaves the selection alone. Titles are unique: an item that has the
 /// title already is removed first, so that "the item with that title" is always the new one.
 CORVANA_PLATFORM_EXPORT void addItemWithTitle(QComboBox *popUp, const QString &title);
+
+/// An item to be.
+struct Item
+{
+    QString title;
+    QVariant object; ///< what it represents
+};
+
+/// Replaces all items, as addItemWithTitle() would one after the other, in the time of one walk.
+/// Nothing is selected then.
+CORVANA_PLATFORM_EXPORT void setItems(QComboBox *popUp, const QList<Item> &items);
 
 /// Removes one item. Removing the selected item selects nothing.
 /// Range: an index that does not exist is ignored.

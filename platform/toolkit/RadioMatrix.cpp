@@ -5,6 +5,7 @@
 
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/ProgrammaticChange.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -16,6 +17,7 @@ constexpr char kRepresentedObject[] = "representedObject";
 
 RadioMatrix::RadioMatrix(QWidget *parent) : QWidget(parent), m_layout(new QVBoxLayout(this))
 {
+    setAccessibleRole(this, QAccessible::Grouping);
     m_layout->setContentsMargins(0, 0, 0, 0);
 }
 

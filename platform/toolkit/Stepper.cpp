@@ -7,6 +7,8 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 Stepper::Stepper(QWidget *parent)
     : QAbstractSlider(parent), m_up(addArrow(Qt::UpArrow, SliderSingleStepAdd)),
       m_down(addArrow(Qt::DownArrow, SliderSingleStepSub))
@@ -23,6 +25,7 @@ QToolButton *Stepper::addArrow(Qt::ArrowType arrow, SliderAction action)
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
+    button->setAccessibleName(arrow == Qt::UpArrow ? u"+"_s : u"−"_s); // in every language
     connect(button, &QToolButton::clicked, this, [this, action] { triggerAction(action); });
     return button;
 }

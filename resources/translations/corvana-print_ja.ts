@@ -58,6 +58,10 @@
         <translation>%1 は空です。</translation>
     </message>
     <message>
+        <source>%1 cannot be printed: nobody can tell what is in it. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <translation>%1 は印刷できません（内容が不明です）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
+    </message>
+    <message>
         <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>%1 は印刷できません（内容: %2）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
     </message>
@@ -205,7 +209,7 @@
     </message>
     <message>
         <source>Banner Pages</source>
-        <translation>バナーページ</translation>
+        <translation>表紙</translation>
     </message>
     <message>
         <source>Billed To</source>
@@ -229,11 +233,11 @@
     </message>
     <message>
         <source>Reverse Landscape</source>
-        <translation>横 (逆向き)</translation>
+        <translation>横（逆向き）</translation>
     </message>
     <message>
         <source>Reverse Portrait</source>
-        <translation>縦 (逆向き)</translation>
+        <translation>縦（逆向き）</translation>
     </message>
     <message>
         <source>All</source>
@@ -277,7 +281,7 @@
     </message>
     <message>
         <source>Black and White</source>
-        <translation>白黒</translation>
+        <translation>モノクロ</translation>
     </message>
     <message>
         <source>Draft</source>
@@ -293,7 +297,7 @@
     </message>
     <message>
         <source>Canceled After, in Seconds</source>
-        <translation>取り消すまでの秒数</translation>
+        <translation>キャンセルまでの秒数</translation>
     </message>
     <message>
         <source>Color Mode</source>
@@ -396,10 +400,6 @@
         <translation>太い二重線</translation>
     </message>
     <message>
-        <source>Fit to Paper If Too Large</source>
-        <translation>はみ出す場合は用紙に合わせる</translation>
-    </message>
-    <message>
         <source>Fill Paper</source>
         <translation>用紙全体に広げる</translation>
     </message>
@@ -477,11 +477,11 @@
     </message>
     <message>
         <source>points of 1/72 inch</source>
-        <translation>ポイント (1/72 インチ)</translation>
+        <translation>ポイント（1/72 インチ）</translation>
     </message>
     <message>
         <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
-        <translation>昇順のページと範囲 (例: 1-4,7,9-)</translation>
+        <translation>昇順のページと範囲（例: 1-4,7,9-）</translation>
     </message>
     <message>
         <source>a time HH:MM in UTC</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>one or two names of banner pages</source>
-        <translation>バナーページの名前を 1 つか 2 つ</translation>
+        <translation>表紙の名前を 1 つか 2 つ</translation>
     </message>
     <message>
         <source>a text of up to 255 bytes</source>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
-        <translation>「%1」は使用できません。使用できる値: %2。</translation>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
     </message>
 <message>
         <source>this printer prints on one side only. Allowed: %1. Two sides by hand: %2=%3, %2=%4.</source>
@@ -649,11 +649,41 @@
     </message>
     <message>
         <source>The password in %1 is not taken: others than its owner may use the file (its mode is %2; chmod 600 takes that away).</source>
-        <translation>%1 のパスワードは使用しません。所有者以外もファイルにアクセスできます (モードは %2、chmod 600 で禁止できます)。</translation>
+        <translation>%1 のパスワードは使用しません。所有者以外もファイルにアクセスできます（モードは %2、chmod 600 で禁止できます）。</translation>
     </message>
     <message>
         <source>descriptor %1</source>
         <translation>記述子 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceCodes</name>
+    <message>
+        <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
+        <translation>%1 をプリンターに送信できません。送信方法が PPD に正しく記述されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>PpdBounds</name>
+    <message>
+        <source>There is too much in it: more than %1 lines that begin with “%2”.</source>
+        <translation>内容が多すぎます。「%2」で始まる行が %1 行を超えています。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
+        <translation>内容が多すぎます。すべてのオプションの設定値が合わせて %1 個を超えています。最も多いのは「%2」です。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
+        <translation>内容が多すぎます。どのオプションにも属さない行が %1 行を超えています。最も多いのは「%2」です。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 different keywords.</source>
+        <translation>内容が多すぎます。異なるキーワードが %1 個を超えています。</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MB.</source>
+        <translation>大きさが %1 MB を超えています。</translation>
     </message>
 </context>
 <context>
@@ -666,16 +696,16 @@
 <context>
     <name>PpdFilters</name>
     <message>
+        <source>The driver of this printer names the file “%1”, which only a print server may open. Print on the printer itself instead of into a file.</source>
+        <translation>このプリンターのドライバーはファイル「%1」を指定していますが、これを開けるのはプリントサーバーだけです。ファイルへの出力ではなく、プリンターで印刷してください。</translation>
+    </message>
+    <message>
         <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
         <translation>このプリンターのドライバーにはプログラム「%1」が必要ですが、これを実行できるのはプリントサーバーだけです。ファイルへの出力ではなく、プリンターで印刷してください。</translation>
     </message>
 </context>
 <context>
     <name>PrinterFetching</name>
-    <message>
-        <source>PostScript File</source>
-        <translation>PostScript ファイル</translation>
-    </message>
 <message>
         <source>Save as PDF</source>
         <translation>PDF として保存</translation>
@@ -833,7 +863,7 @@
     </message>
     <message>
         <source>Prints to a file</source>
-        <translation>ファイルに印刷</translation>
+        <translation>ファイルに出力</translation>
     </message>
     <message>
         <source>, </source>
@@ -903,11 +933,11 @@
     </message>
     <message>
         <source>%1 cannot be combined with %2.</source>
-        <translation>%1 は %2 と同時には使用できません。</translation>
+        <translation>%1は%2と同時には使用できません。</translation>
     </message>
     <message>
         <source>Change to %1</source>
-        <translation>%1 に変更</translation>
+        <translation>%1に変更</translation>
     </message>
     <message>
         <source>The printer's options cannot be set to %1.</source>
@@ -916,12 +946,6 @@
 </context>
 <context>
     <name>RequestFromCommandLine</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 ほか %n 件</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: the name is not written in UTF-8.</source>
         <translation>%1: 名前が UTF-8 ではありません。</translation>
@@ -957,7 +981,7 @@
     <name>ServerJob</name>
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
-        <translation>%1 キュー「%2」にはドライバーがなく、文書が 1 つのデータとして続けて送られるため、文書ごとに別のジョブにしました: %3。</translation>
+        <translation>%1キュー「%2」にはドライバーがなく、文書が 1 つのデータとして続けて送られるため、文書ごとに別のジョブにしました: %3。</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -969,7 +993,7 @@
     </message>
     <message>
         <source>%1 Documents that were sent before, each as a job of its own: %2 of %3. Printing again sends the others.</source>
-        <translation>%1 それまでに別々のジョブとして送られた文書: %3 個のうち %2 個。もう一度印刷すると残りが送られます。</translation>
+        <translation>%1それまでに別々のジョブとして送られた文書: %3 個のうち %2 個。もう一度印刷すると残りが送られます。</translation>
     </message>
     <message>
         <source>Job %1 was canceled; pages that the printer has already may still come out.</source>
@@ -985,7 +1009,7 @@
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
     <message>
         <source>The queue “%1” is not there any more. Nothing was printed.</source>
@@ -1017,15 +1041,15 @@
     </message>
     <message>
         <source>%1 Job %2 was canceled; pages that the printer has already may still come out.</source>
-        <translation>%1ジョブ %2 を中止しました。プリンターに送信済みのページは印刷されることがあります。</translation>
+        <translation>%1ジョブ %2 をキャンセルしました。プリンターに送信済みのページは印刷されることがあります。</translation>
     </message>
     <message>
         <source>%1 Job %2 was canceled; nothing was printed.</source>
-        <translation>%1ジョブ %2 を中止しました。何も印刷されませんでした。</translation>
+        <translation>%1ジョブ %2 をキャンセルしました。何も印刷されませんでした。</translation>
     </message>
     <message>
         <source>%1 Job %2 may still be at the print server, without its whole document. It could not be canceled: %3</source>
-        <translation>%1ジョブ %2 は、文書がそろわないままプリントサーバーに残っている可能性があります。ジョブを中止できませんでした: %3</translation>
+        <translation>%1ジョブ %2 は、文書がそろわないままプリントサーバーに残っている可能性があります。ジョブをキャンセルできませんでした: %3</translation>
     </message>
     <message>
         <source>%1 The print server does not know job %2 any more. It was probably not printed.</source>
@@ -1037,7 +1061,7 @@
     </message>
     <message>
         <source>Job %1 was stopped. It is still in the queue, where it can be released or canceled.</source>
-        <translation>ジョブ %1 は停止しました。ジョブはまだキューにあり、再開または中止できます。</translation>
+        <translation>ジョブ %1 は停止しました。ジョブはまだキューにあり、解除またはキャンセルできます。</translation>
     </message>
     <message>
         <source>Job %1 is held in the queue “%2”.</source>
@@ -1065,7 +1089,7 @@
     </message>
     <message>
         <source>Job %1 was canceled at the printer or its server.</source>
-        <translation>ジョブ %1 は、プリンターまたはサーバーで中止されました。</translation>
+        <translation>ジョブ %1 は、プリンターまたはサーバーでキャンセルされました。</translation>
     </message>
     <message>
         <source>Job %1 failed: the printer or its server gave it up.</source>
@@ -1109,7 +1133,7 @@
     </message>
     <message>
         <source>%1 Job %2 could not be canceled and may still be printed. %3</source>
-        <translation>%1ジョブ %2 を中止できませんでした。印刷される可能性があります。%3</translation>
+        <translation>%1ジョブ %2 をキャンセルできませんでした。印刷される可能性があります。%3</translation>
     </message>
     <message>
         <source>The printer “%1” does not accept this user and password.</source>
@@ -1155,17 +1179,13 @@
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>ジョブ %1 をキュー「%2」に渡しました。</translation>
     </message>
-<message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>ジョブ %1 はキュー「%2」からなくなりました。サーバーに記録は残っていません。</translation>
-    </message>
     <message>
         <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
         <translation>前回のジョブ %1 では、文書 %3 個のうち %2 個がプリンターに送られています。残りだけを印刷するか、すべてをもう一度印刷してください。</translation>
     </message>
     <message>
         <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
-        <translation>%1 ジョブ %2 は一部の文書とともにプリントサーバーに残っていて、それらが印刷される可能性があります。キャンセルできませんでした: %3 もう一度印刷すると、まずこのジョブを確認します。</translation>
+        <translation>%1ジョブ %2 は一部の文書とともにプリントサーバーに残っていて、それらが印刷される可能性があります。キャンセルできませんでした: %3 もう一度印刷すると、まずこのジョブを確認します。</translation>
     </message>
     <message>
         <source>Job %1 was printed with %2 of its %3 documents only.</source>
@@ -1219,6 +1239,10 @@
         <translation>プリントサーバー「%1」にはユーザー名とパスワードが必要ですが、入力されませんでした。</translation>
     </message>
     <message>
+        <source>The print server “%1” wants to know who prints, in a way that is not possible here.</source>
+        <translation>プリントサーバー「%1」は利用者の確認を求めていますが、ここではその方法に対応していません。</translation>
+    </message>
+    <message>
         <source>The print server “%1” does not allow you this.</source>
         <translation>プリントサーバー「%1」では、この操作は許可されていません。</translation>
     </message>
@@ -1240,7 +1264,7 @@
     </message>
     <message>
         <source>Canceled.</source>
-        <translation>中止しました。</translation>
+        <translation>キャンセルしました。</translation>
     </message>
     <message>
         <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the file %2.</source>
@@ -1277,10 +1301,6 @@
 </context>
 <context>
     <name>StartValues</name>
-    <message>
-        <source>This printer has no option of the name %1.</source>
-        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
-    </message>
 <message>
         <source>This printer has no option of this name: %1.</source>
         <translation>このプリンターには次の名前のオプションがありません: %1</translation>
@@ -1295,7 +1315,7 @@
     </message>
 <message>
         <source>Default of your administrator: %1</source>
-        <translation>管理者による初期値: %1</translation>
+        <translation>管理者による既定値: %1</translation>
     </message>
 </context>
 <context>
@@ -1364,7 +1384,7 @@
     <name>TextFormat</name>
     <message>
         <source>The margins, columns and characters per inch that were asked for leave no room for a text on this paper (%1 × %2 points).</source>
-        <translation>指定された余白、段数、1 インチあたりの文字数では、この用紙 (%1 × %2 ポイント) にテキストの入る余地がありません。</translation>
+        <translation>指定された余白、段数、1 インチあたりの文字数では、この用紙（%1 × %2 ポイント）にテキストの入る余地がありません。</translation>
     </message>
 </context>
 <context>
@@ -1379,7 +1399,7 @@
     </message>
     <message>
         <source>It waits until the instructions have been followed. Release it with: %1</source>
-        <translation>ジョブは、指示に従って準備ができるまで待機します。次のコマンドで再開してください: %1</translation>
+        <translation>ジョブは、指示に従って準備ができるまで待機します。次のコマンドで解除してください: %1</translation>
     </message>
     <message>
         <source>Interrupted.</source>
@@ -1395,7 +1415,7 @@
     </message>
     <message>
         <source>Printed to standard output</source>
-        <translation>標準出力に印刷しました</translation>
+        <translation>標準出力に出力しました</translation>
     </message>
     <message>
         <source>The result could not be written to standard output: %1.</source>
@@ -1526,7 +1546,7 @@
     <name>corvana::FileJob</name>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
     <message>
         <source>Printed to %1</source>
@@ -1549,7 +1569,7 @@
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
     <message>
         <source>The filter chain of CUPS crashed.</source>
@@ -1581,14 +1601,21 @@
     </message>
 </context>
 <context>
+    <name>ClearButton</name>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+</context>
+<context>
     <name>corvana::GeneralPage</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
     <message>
         <source>&amp;Copies:</source>
         <translation>部数(&amp;C):</translation>
-    </message>
-    <message>
-        <source>All pages; or pages and ranges such as 1-4, 7, 9-</source>
-        <translation>すべて（指定する場合の例: 1-4, 7, 9-）</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
@@ -1714,7 +1741,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Default: %1</source>
-        <translation>初期設定: %1</translation>
+        <translation>既定値: %1</translation>
     </message>
 <message>
         <source>Changed. %1</source>
@@ -1725,7 +1752,7 @@ For the command line: %2</source>
     <name>corvana::OptionsPage</name>
     <message>
         <source>Back to the Default</source>
-        <translation>初期設定に戻す</translation>
+        <translation>既定値に戻す</translation>
     </message>
     <message>
         <source>Search options and choices</source>
@@ -1742,6 +1769,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>corvana::PrintTask</name>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
     <message>
         <source>Name the file to print to.</source>
         <translation>出力するファイルの名前を入力してください。</translation>
@@ -1820,11 +1851,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
 <message>
         <source>What is passed on as it is cannot be printed to a file.</source>
-        <translation>そのまま渡される文書はファイルに印刷できません。</translation>
+        <translation>そのまま渡される文書はファイルに出力できません。</translation>
     </message>
     <message>
         <source>Not everything that is set for this printer could be taken:
@@ -1899,7 +1930,7 @@ For the command line: %2</source>
     </message>
 <message>
         <source>The sides of “%1” are not known here, so they cannot be printed in two halves. With sides-by-hand=no one side of each sheet is printed.</source>
-        <translation>“%1” の面の構成が不明なため、2 回に分けて印刷することができません。sides-by-hand=no を指定すると片面に印刷されます。</translation>
+        <translation>「%1」の面の構成が不明なため、2 回に分けて印刷することができません。sides-by-hand=no を指定すると片面に印刷されます。</translation>
     </message>
     <message>
         <source>%1 (other sides)</source>
@@ -1937,13 +1968,13 @@ For the command line: %2</source>
         <source>Use Defaults</source>
         <translation>既定値を使用</translation>
     </message>
-<message>
-        <source>Printer Defaults</source>
-        <translation>プリンターの初期設定</translation>
-    </message>
     <message>
         <source>Printer</source>
         <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文書</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2101,10 +2132,6 @@ For the command line: %2</source>
         <translation>プリンター(&amp;R):</translation>
     </message>
     <message>
-        <source>Document:</source>
-        <translation>文書:</translation>
-    </message>
-    <message>
         <source>Print to &amp;file:</source>
         <translation>出力ファイル(&amp;F):</translation>
     </message>
@@ -2123,10 +2150,6 @@ For the command line: %2</source>
     <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
-    </message>
-<message>
-        <source>PostScript (*.ps);;All files (*)</source>
-        <translation>PostScript (*.ps);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -2202,7 +2225,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
     <message>
         <source>Job %1 is in the queue; it was not followed to its end.</source>
@@ -2223,10 +2246,6 @@ For the command line: %2</source>
     <message>
         <source>There are too many copies to send them in sets. Their order is: %1.</source>
         <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
-    </message>
-<message>
-        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
-        <translation>キュー「%1」にはドライバーがなく、文書はそのまま続けてプリンターに送られるため、プリンターは %2 の終わりをジョブの終わりでしか判断できません。文書を 1 つずつ印刷してください。何も印刷されませんでした。</translation>
     </message>
     </context>
 <context>
@@ -2303,7 +2322,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
     <message>
         <source>%1 would have more than %2 pages, and a text is printed on no more than that.</source>
@@ -2314,7 +2333,7 @@ For the command line: %2</source>
     <name>corvana::TextDocuments</name>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷を中止しました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
 </context>
 <context>
@@ -2326,10 +2345,6 @@ For the command line: %2</source>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
-    </message>
-    <message>
-        <source>Choose Documents to Print</source>
-        <translation>印刷する文書の選択</translation>
     </message>
 </context>
 <context>
@@ -2372,6 +2387,10 @@ For the command line: %2</source>
 <context>
     <name>SheetTexts</name>
     <message>
+        <source>“%1”</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
         <source>, </source>
         <translation>、</translation>
     </message>
@@ -2413,11 +2432,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>%1; %2 is not in it.</source>
-        <translation>%1。%2 ページはありません。</translation>
+        <translation>%1。存在しないページ: %2。</translation>
     </message>
     <message>
         <source>%1; %2 are not in it.</source>
-        <translation>%1。%2 ページはありません。</translation>
+        <translation>%1。存在しないページ: %2。</translation>
     </message>
     <message>
         <source>Nothing would be printed: %1, and only even pages were chosen.</source>
@@ -2430,18 +2449,6 @@ For the command line: %2</source>
     <message>
         <source>Nothing would be printed: %1, and none of them is left.</source>
         <translation>何も印刷されません。%1が、印刷するページが残りません。</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because only one side is printed</source>
-        <translation>印刷する面が 1 つだけなので、片面で印刷されます</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because each document has only one side</source>
-        <translation>どの文書も印刷する面が 1 つだけなので、片面で印刷されます</translation>
-    </message>
-    <message>
-        <source>one-sided where a document has only one side: %1</source>
-        <translation>印刷する面が 1 つだけの文書は片面で印刷されます: %1</translation>
     </message>
     <message>
         <source>could not be counted</source>
@@ -2542,7 +2549,7 @@ For the command line: %2</source>
     <name>corvana::AttributeRows</name>
     <message>
         <source>&amp;More</source>
-        <translation>詳細(&amp;M)</translation>
+        <translation>その他の設定(&amp;M)</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2554,11 +2561,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>More</source>
-        <translation>詳細</translation>
+        <translation>その他の設定</translation>
     </message>
     <message>
         <source>More, %1</source>
-        <translation>詳細、%1</translation>
+        <translation>その他の設定、%1</translation>
     </message>
 </context>
 <context>
@@ -2581,7 +2588,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>This page cannot be shown: the file cannot be read.</source>
-        <translation>ファイルを読み込めないため、このページは表示できません。</translation>
+        <translation>ファイルを読み取れないため、このページは表示できません。</translation>
     </message>
     <message>
         <source>Pages cannot be shown: the program that draws them does not run.</source>
@@ -2592,11 +2599,11 @@ For the command line: %2</source>
     <name>JobColors</name>
     <message>
         <source>Shown in black and white, with your adjustments.</source>
-        <translation>白黒で、調整した内容を反映して表示しています。</translation>
+        <translation>モノクロで、調整した内容を反映して表示しています。</translation>
     </message>
     <message>
         <source>Shown in black and white.</source>
-        <translation>白黒で表示しています。</translation>
+        <translation>モノクロで表示しています。</translation>
     </message>
     <message>
         <source>Shows your adjustments; colors on paper differ.</source>
@@ -2636,7 +2643,7 @@ For the command line: %2</source>
     <name>SheetView</name>
     <message>
         <source>cover sheet</source>
-        <translation>カバーシート</translation>
+        <translation>表紙</translation>
     </message>
     <message>
         <source>blank</source>
@@ -2804,7 +2811,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Cover sheet of the queue: %1</source>
-        <translation>キューのカバーシート: %1</translation>
+        <translation>キューの表紙: %1</translation>
     </message>
     <message>
         <source>Updating…</source>
@@ -2950,6 +2957,10 @@ For the command line: %2</source>
 <context>
     <name>AttributeEffects</name>
     <message>
+        <source>“%1”</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
         <source>%1 has no effect on %2: only texts follow it.</source>
         <translation>%1 は %2 には効果がありません。テキストにのみ適用されます。</translation>
     </message>
@@ -2982,7 +2993,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>More</source>
-        <translation>詳細</translation>
+        <translation>その他の設定</translation>
     </message>
     <message>
         <source>Options</source>
@@ -3102,7 +3113,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>There are no pages %1.</source>
-        <translation>%1 ページはありません。</translation>
+        <translation>存在しないページ: %1。</translation>
     </message>
     <message>
         <source>“%1” is no page. Pages are typed as in 1-4, 7, 9-.</source>
@@ -3236,6 +3247,14 @@ For the command line: %2</source>
         <translation>印刷された %1 枚の用紙を、重なった順序のままプリンターから取り出します。</translation>
     </message>
     <message>
+        <source>Put it back into the tray with the printed side down, so that the %1 edge of the page goes into the printer first.</source>
+        <translation>印刷面を下に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
+    </message>
+    <message>
+        <source>Put it back into the tray with the printed side up, so that the %1 edge of the page goes into the printer first.</source>
+        <translation>印刷面を上に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
+    </message>
+    <message>
         <source>Put them back into the tray with the printed side down, so that the %1 edge of the pages goes into the printer first.</source>
         <translation>印刷面を下に向け、ページの%1端から先にプリンターへ入るようにトレイへ戻します。</translation>
     </message>
@@ -3269,7 +3288,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>The last sheet, with %1 of “%2”, lies uppermost.</source>
-        <translation>最後の用紙（“%2” の %1）が一番上になります。</translation>
+        <translation>最後の用紙（「%2」の %1）が一番上になります。</translation>
     </message>
     <message>
         <source>Two-sided printing by hand (%1) needs a printer that sheets are put back into: it cannot be done in a file.</source>
@@ -3292,7 +3311,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>印刷は中止されました。</translation>
+        <translation>印刷をキャンセルしました。</translation>
     </message>
 </context>
 <context>
@@ -3318,7 +3337,7 @@ For the command line: %2</source>
     <name>LastUsed</name>
     <message>
         <source>The settings of the last job cannot be read, and stay as they are in “%1”: %2.</source>
-        <translation>前回の印刷の設定を読み込めません。「%1」はそのまま残されます: %2。</translation>
+        <translation>前回の印刷の設定を読み取れません。「%1」はそのまま残されます: %2。</translation>
     </message>
     <message>
         <source>“%1” cannot be removed: %2.</source>
@@ -3355,7 +3374,7 @@ For the command line: %2</source>
     <name>PresetApplication</name>
     <message>
         <source>%1 is not possible on this printer. Allowed: %2.</source>
-        <translation>このプリンターでは%1を使えません。使用できる値: %2。</translation>
+        <translation>このプリンターでは%1を使用できません。指定できる値: %2。</translation>
     </message>
     <message>
         <source>%1 is not possible together with the other settings.</source>
@@ -3371,7 +3390,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>A value of the printer's own settings (%1) is not possible here.</source>
-        <translation>プリンター固有の設定の値 (%1) はここでは使えません。</translation>
+        <translation>プリンター固有の設定の値（%1）はここでは使用できません。</translation>
     </message>
 </context>
 <context>
@@ -3519,7 +3538,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Delete the preset “%1”? The settings stay as they are.</source>
-        <translation>プリセット「%1」を削除しますか? 現在の設定は変わりません。</translation>
+        <translation>プリセット「%1」を削除しますか？ 現在の設定は変わりません。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3527,7 +3546,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>From Other Programs</source>
-        <translation>他のプログラムの設定</translation>
+        <translation>ほかのプログラムの設定</translation>
     </message>
 </context>
 <context>
@@ -3585,7 +3604,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>For printers of this &amp;model (%1)</source>
-        <translation>この機種のプリンター用(&amp;M) (%1)</translation>
+        <translation>この機種（%1）のプリンター用(&amp;M)</translation>
     </message>
     <message>
         <source>For &amp;all printers, as far as they have these settings</source>
@@ -3593,7 +3612,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>&amp;With what sets up the printer itself (%1)</source>
-        <translation>プリンター本体の設定も含める(&amp;W) (%1)</translation>
+        <translation>プリンター本体の設定（%1）も含める(&amp;W)</translation>
     </message>
     <message>
         <source>There is a preset of this name already.</source>
@@ -3653,7 +3672,7 @@ For the command line: %2</source>
     <message>
         <source>Not everything of “%1” is possible here:
 %2</source>
-        <translation>「%1」の一部はここでは使えません:
+        <translation>「%1」の一部はここでは使用できません:
 %2</translation>
     </message>
     <message>
@@ -3666,7 +3685,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>“%1” in other programs: %2</source>
-        <translation>他のプログラムの「%1」: %2</translation>
+        <translation>ほかのプログラムの「%1」: %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>
@@ -3678,7 +3697,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
-        <translation>他のプログラムでは、「%1」に印刷するとこの設定が使われます。</translation>
+        <translation>ほかのプログラムでは、「%1」に印刷するとこの設定が使われます。</translation>
     </message>
 </context>
 <context>
@@ -3693,11 +3712,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>“%1” is left out: other programs cannot print it.</source>
-        <translation>「%1」は他のプログラムでは印刷できないので含まれません。</translation>
+        <translation>「%1」はほかのプログラムでは印刷できないので含まれません。</translation>
     </message>
     <message>
         <source>Other programs know settings of queues only, and “%1” is none.</source>
-        <translation>他のプログラムで使えるのはキューの設定だけで、「%1」はキューではありません。</translation>
+        <translation>ほかのプログラムで使えるのはキューの設定だけで、「%1」はキューではありません。</translation>
     </message>
     <message>
         <source>“%1” gets files as they are, so that no setting has an effect.</source>
@@ -3705,7 +3724,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>“%1” has no letters that other programs can print to. Give it a name of letters from a to z, such as “%2”.</source>
-        <translation>「%1」には他のプログラムの印刷先に使える文字がありません。「%2」のように、a から z の文字を使った名前を付けてください。</translation>
+        <translation>「%1」にはほかのプログラムの印刷先に使える文字がありません。「%2」のように、a から z の文字を使った名前を付けてください。</translation>
     </message>
     <message>
         <source>“%1” is there already, with settings of its own. Choose another name, or remove it with “lpoptions -x %1”.</source>
@@ -3716,7 +3735,7 @@ For the command line: %2</source>
     <name>SharedFile</name>
     <message>
         <source>“%1” cannot be read: %2. It was not changed.</source>
-        <translation>「%1」を読み込めません: %2。ファイルは変更されていません。</translation>
+        <translation>「%1」を読み取れません: %2。ファイルは変更されていません。</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. It was not changed.</source>
@@ -3728,7 +3747,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>the link leads to a file of somebody else</source>
-        <translation>リンク先が他のユーザーのファイルです</translation>
+        <translation>リンク先がほかのユーザーのファイルです</translation>
     </message>
     <message>
         <source>it is no file</source>
@@ -3736,7 +3755,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>it belongs to somebody else</source>
-        <translation>他のユーザーのファイルです</translation>
+        <translation>ほかのユーザーのファイルです</translation>
     </message>
     <message>
         <source>another program of ours is writing it</source>
@@ -3748,7 +3767,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>other programs write it all the time</source>
-        <translation>他のプログラムが書き込み続けています</translation>
+        <translation>ほかのプログラムが書き込み続けています</translation>
     </message>
 </context>
 <context>
@@ -3763,23 +3782,23 @@ For the command line: %2</source>
     </message>
     <message>
         <source>“%1” is no name that other programs can print to.</source>
-        <translation>「%1」は他のプログラムの印刷先に使えない名前です。</translation>
+        <translation>「%1」はほかのプログラムの印刷先に使えない名前です。</translation>
     </message>
     <message>
         <source>“%1” would have more settings than other programs can read.</source>
-        <translation>「%1」の設定は、他のプログラムで読み込める量を超えます。</translation>
+        <translation>「%1」の設定は、ほかのプログラムで読み取れる量を超えます。</translation>
     </message>
     <message>
         <source>Other programs would read the value of “%1” as another one.</source>
-        <translation>他のプログラムは「%1」の値を別の値として読み込みます。</translation>
+        <translation>ほかのプログラムは「%1」の値を別の値として読み取ります。</translation>
     </message>
     <message>
         <source>“%1” is no name of an option for other programs.</source>
-        <translation>「%1」は他のプログラムで使えるオプション名ではありません。</translation>
+        <translation>「%1」はほかのプログラムで使えるオプション名ではありません。</translation>
     </message>
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
-        <translation>「%1」の値に改行または制御文字があります。他のプログラムのオプションには使えません。</translation>
+        <translation>「%1」の値に改行または制御文字があります。ほかのプログラムのオプションには使用できません。</translation>
     </message>
 </context>
 <context>
@@ -3836,18 +3855,18 @@ For the command line: %2</source>
     <name>OptionLocks</name>
     <message>
         <source>“%1” is set by your administrator (%2).</source>
-        <translation>「%1」は管理者が設定しています (%2)。</translation>
+        <translation>「%1」は管理者が設定しています（%2）。</translation>
     </message>
     <message>
         <source>Set by your administrator (%1).</source>
-        <translation>管理者が設定しています (%1)。</translation>
+        <translation>管理者が設定しています（%1）。</translation>
     </message>
 </context>
 <context>
     <name>Policy</name>
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
-        <translation>「%1」は使用できません。使用できるもの: %2。</translation>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
     </message>
     <message>
         <source>the path of a folder that begins with /</source>
@@ -3950,11 +3969,11 @@ For the command line: %2</source>
     <name>PrintRequest</name>
     <message>
         <source>The printer “%1” is not offered by your administrator (%2).</source>
-        <translation>プリンター「%1」は管理者により提供されていません (%2)。</translation>
+        <translation>プリンター「%1」は管理者により提供されていません（%2）。</translation>
     </message>
     <message>
         <source>Printing to a file is not offered by your administrator (%1).</source>
-        <translation>ファイルへの印刷は管理者により提供されていません (%1)。</translation>
+        <translation>ファイルへの出力は管理者により提供されていません（%1）。</translation>
     </message>
 </context>
 </TS>

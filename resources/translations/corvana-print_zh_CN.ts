@@ -58,6 +58,10 @@
         <translation>%1 是空文件。</translation>
     </message>
     <message>
+        <source>%1 cannot be printed: nobody can tell what is in it. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <translation>无法打印 %1（内容未知）。可打印的文档为 PDF、PostScript、文本、PNG 和 JPEG。</translation>
+    </message>
+    <message>
         <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>无法打印 %1（内容为 %2）。可打印的文档为 PDF、PostScript、文本、PNG 和 JPEG。</translation>
     </message>
@@ -113,7 +117,7 @@
     </message>
     <message>
         <source>Pages</source>
-        <translation>页</translation>
+        <translation>页面</translation>
     </message>
     <message>
         <source>Odd and Even Pages</source>
@@ -205,7 +209,7 @@
     </message>
     <message>
         <source>Banner Pages</source>
-        <translation>分隔页</translation>
+        <translation>封面页</translation>
     </message>
     <message>
         <source>Billed To</source>
@@ -257,7 +261,7 @@
     </message>
     <message>
         <source>Until It Is Released</source>
-        <translation>直到被释放</translation>
+        <translation>直到释放为止</translation>
     </message>
     <message>
         <source>%1 UTC</source>
@@ -396,10 +400,6 @@
         <translation>双粗线</translation>
     </message>
     <message>
-        <source>Fit to Paper If Too Large</source>
-        <translation>超出时缩小以适合纸张</translation>
-    </message>
-    <message>
         <source>Fill Paper</source>
         <translation>填满纸张</translation>
     </message>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>points of 1/72 inch</source>
-        <translation>点 (1/72 英寸)</translation>
+        <translation>点（1/72 英寸）</translation>
     </message>
     <message>
         <source>pages and ranges in ascending order, such as 1-4,7,9-</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>one or two names of banner pages</source>
-        <translation>一个或两个分隔页的名称</translation>
+        <translation>一个或两个封面页的名称</translation>
     </message>
     <message>
         <source>a text of up to 255 bytes</source>
@@ -598,11 +598,11 @@
     </message>
     <message>
         <source>%1: this value is not allowed. Allowed: %2.</source>
-        <translation>%1：不允许使用此值。可用的值：%2。</translation>
+        <translation>%1：不允许使用此值。允许的值：%2。</translation>
     </message>
     <message>
         <source>1 to %1</source>
-        <translation>1 到 %1</translation>
+        <translation>1 至 %1</translation>
     </message>
     <message>
         <source>%1: the printer's options cannot be set to this value.</source>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
-        <translation>不允许“%1”。允许的值：%2。</translation>
+        <translation>不允许使用“%1”。允许的值：%2。</translation>
     </message>
 <message>
         <source>this printer prints on one side only. Allowed: %1. Two sides by hand: %2=%3, %2=%4.</source>
@@ -657,6 +657,36 @@
     </message>
 </context>
 <context>
+    <name>ChoiceCodes</name>
+    <message>
+        <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
+        <translation>无法将 %1 发送到打印机：其 PPD 没有正确说明发送方法。</translation>
+    </message>
+</context>
+<context>
+    <name>PpdBounds</name>
+    <message>
+        <source>There is too much in it: more than %1 lines that begin with “%2”.</source>
+        <translation>内容过多：以“%2”开头的行超过 %1 行。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
+        <translation>内容过多：所有选项的设定值合计超过 %1 个。“%2”的设定值最多。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
+        <translation>内容过多：不属于任何选项的行超过 %1 行。其中最多的是“%2”。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 different keywords.</source>
+        <translation>内容过多：不同的关键字超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MB.</source>
+        <translation>大小超过 %1 MB。</translation>
+    </message>
+</context>
+<context>
     <name>PpdCopy</name>
     <message>
         <source>The printer's options cannot be written to %1: %2</source>
@@ -666,16 +696,16 @@
 <context>
     <name>PpdFilters</name>
     <message>
+        <source>The driver of this printer names the file “%1”, which only a print server may open. Print on the printer itself instead of into a file.</source>
+        <translation>此打印机的驱动程序指定了文件“%1”，而该文件只能由打印服务器打开。请直接在打印机上打印，不要打印到文件。</translation>
+    </message>
+    <message>
         <source>The driver of this printer needs the program “%1”, which only a print server may run. Print on the printer itself instead of into a file.</source>
         <translation>此打印机的驱动程序需要程序“%1”，而该程序只能由打印服务器运行。请直接在打印机上打印，不要打印到文件。</translation>
     </message>
 </context>
 <context>
     <name>PrinterFetching</name>
-    <message>
-        <source>PostScript File</source>
-        <translation>PostScript 文件</translation>
-    </message>
 <message>
         <source>Save as PDF</source>
         <translation>另存为 PDF</translation>
@@ -781,15 +811,15 @@
     </message>
     <message>
         <source>output tray almost full</source>
-        <translation>出纸盘将满</translation>
+        <translation>出纸盒将满</translation>
     </message>
     <message>
         <source>output tray full</source>
-        <translation>出纸盘已满</translation>
+        <translation>出纸盒已满</translation>
     </message>
     <message>
         <source>output tray missing</source>
-        <translation>缺少出纸盘</translation>
+        <translation>缺少出纸盒</translation>
     </message>
     <message>
         <source>paused</source>
@@ -903,7 +933,7 @@
     </message>
     <message>
         <source>%1 cannot be combined with %2.</source>
-        <translation>%1 不能与 %2 同时使用。</translation>
+        <translation>%1不能与%2同时使用。</translation>
     </message>
     <message>
         <source>Change to %1</source>
@@ -916,12 +946,6 @@
 </context>
 <context>
     <name>RequestFromCommandLine</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 等另外 %n 个</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: the name is not written in UTF-8.</source>
         <translation>%1：名称不是 UTF-8 编码。</translation>
@@ -957,7 +981,7 @@
     <name>ServerJob</name>
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
-        <translation>%1 队列“%2”没有驱动程序，会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
+        <translation>%1队列“%2”没有驱动程序，会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -969,7 +993,7 @@
     </message>
     <message>
         <source>%1 Documents that were sent before, each as a job of its own: %2 of %3. Printing again sends the others.</source>
-        <translation>%1 之前已作为单独作业发送的文档：%3 个中的 %2 个。再次打印会发送其余文档。</translation>
+        <translation>%1之前已作为单独作业发送的文档：%3 个中的 %2 个。再次打印会发送其余文档。</translation>
     </message>
     <message>
         <source>Job %1 was canceled; pages that the printer has already may still come out.</source>
@@ -1037,7 +1061,7 @@
     </message>
     <message>
         <source>Job %1 was stopped. It is still in the queue, where it can be released or canceled.</source>
-        <translation>作业 %1 已停止。它仍在队列中，可以继续或取消。</translation>
+        <translation>作业 %1 已停止。它仍在队列中，可以释放或取消。</translation>
     </message>
     <message>
         <source>Job %1 is held in the queue “%2”.</source>
@@ -1145,7 +1169,7 @@
     </message>
     <message>
         <source>The queue “%1” takes no jobs at the moment: %2. Nothing was printed.</source>
-        <translation>队列“%1”目前不接受作业：%2。未打印任何内容。</translation>
+        <translation>队列“%1”目前不接受作业：%2。没有打印任何内容。</translation>
     </message>
     <message>
         <source>Job %1 has left the queue “%2”, whose server keeps no record of it. So whether it has been printed is not known.</source>
@@ -1155,17 +1179,13 @@
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>作业 %1 已交给队列“%2”。</translation>
     </message>
-<message>
-        <source>Job %1 has left the queue “%2”, whose server keeps no record of it.</source>
-        <translation>作业 %1 已离开队列“%2”，服务器没有保留其记录。</translation>
-    </message>
     <message>
         <source>Job %1 of the earlier try has got %2 of its %3 documents to the printer. Print the others by themselves, or everything once more.</source>
         <translation>上次的作业 %1 已将 %3 个文档中的 %2 个送到打印机。请单独打印其余文档，或全部重新打印。</translation>
     </message>
     <message>
         <source>%1 Job %2 may still be at the print server with some of its documents, and may print these. It could not be canceled: %3 Printing again looks for it first.</source>
-        <translation>%1 作业 %2 可能仍带着部分文档留在打印服务器上，并可能打印这些文档。无法取消它：%3 再次打印时会先查找该作业。</translation>
+        <translation>%1作业 %2 可能仍带着部分文档留在打印服务器上，并可能打印这些文档。无法取消它：%3 再次打印时会先查找该作业。</translation>
     </message>
     <message>
         <source>Job %1 was printed with %2 of its %3 documents only.</source>
@@ -1217,6 +1237,10 @@
     <message>
         <source>The print server “%1” wants a user and a password; none was given.</source>
         <translation>打印服务器“%1”需要用户名和密码，但未输入。</translation>
+    </message>
+    <message>
+        <source>The print server “%1” wants to know who prints, in a way that is not possible here.</source>
+        <translation>打印服务器“%1”要求确认用户身份，但此处不支持所要求的方式。</translation>
     </message>
     <message>
         <source>The print server “%1” does not allow you this.</source>
@@ -1277,10 +1301,6 @@
 </context>
 <context>
     <name>StartValues</name>
-    <message>
-        <source>This printer has no option of the name %1.</source>
-        <translation>此打印机没有以下名称的选项：%1</translation>
-    </message>
 <message>
         <source>This printer has no option of this name: %1.</source>
         <translation>此打印机没有以下名称的选项：%1。</translation>
@@ -1379,7 +1399,7 @@
     </message>
     <message>
         <source>It waits until the instructions have been followed. Release it with: %1</source>
-        <translation>作业将等待您按说明操作完毕。然后用此命令继续：%1</translation>
+        <translation>作业将等待您按说明操作完毕。然后用此命令释放：%1</translation>
     </message>
     <message>
         <source>Interrupted.</source>
@@ -1418,15 +1438,15 @@
     </message>
     <message>
         <source>%1 to %2 points</source>
-        <translation>%1 到 %2 点</translation>
+        <translation>%1 至 %2 点</translation>
     </message>
     <message>
         <source>%1 to %2 characters</source>
-        <translation>%1 到 %2 个字符（半角）</translation>
+        <translation>%1 至 %2 个字符（半角）</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 到 %2</translation>
+        <translation>%1 至 %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1468,11 +1488,11 @@
     </message>
     <message>
         <source>&amp;User:</source>
-        <translation>用户名(&amp;U)：</translation>
+        <translation>用户名(&amp;U):</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation>密码(&amp;W)：</translation>
+        <translation>密码(&amp;W):</translation>
     </message>
     <message>
         <source>Log In</source>
@@ -1530,7 +1550,7 @@
     </message>
     <message>
         <source>Printed to %1</source>
-        <translation>已输出到 %1</translation>
+        <translation>已打印到 %1</translation>
     </message>
     <message>
         <source>%1 is the document itself; name another file.</source>
@@ -1581,18 +1601,25 @@
     </message>
 </context>
 <context>
+    <name>ClearButton</name>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+</context>
+<context>
     <name>corvana::GeneralPage</name>
     <message>
-        <source>&amp;Copies:</source>
-        <translation>份数(&amp;C)：</translation>
+        <source>Pages</source>
+        <translation>页面</translation>
     </message>
     <message>
-        <source>All pages; or pages and ranges such as 1-4, 7, 9-</source>
-        <translation>全部（指定时例如：1-4, 7, 9-）</translation>
+        <source>&amp;Copies:</source>
+        <translation>份数(&amp;C):</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>页码(&amp;G)：</translation>
+        <translation>页面(&amp;G):</translation>
     </message>
     <message>
         <source>Custom Size</source>
@@ -1743,8 +1770,12 @@ For the command line: %2</source>
 <context>
     <name>corvana::PrintTask</name>
     <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
         <source>Name the file to print to.</source>
-        <translation>请输入要输出的文件名。</translation>
+        <translation>请输入要打印到的文件名。</translation>
     </message>
     <message>
         <source>“%1” are no pages. Pages and ranges in ascending order were expected, such as 1-4, 7, 9-.</source>
@@ -1804,11 +1835,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>No font of this computer has these characters of the text: %1. An empty frame is printed for each of them.</source>
-        <translation>此计算机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
+        <translation>本机上没有任何字体包含文本中的这些字符：%1。每个字符将打印为一个空框。</translation>
     </message>
     <message>
         <source>Not all of the text could be looked through for characters that no font of this computer has. An empty frame is printed for each of them.</source>
-        <translation>未能检查整个文本中是否有此计算机的任何字体都没有的字符。每个这样的字符都将打印为空框。</translation>
+        <translation>未能检查整个文本中是否有本机的任何字体都没有的字符。每个这样的字符都将打印为空框。</translation>
     </message>
     <message>
         <source>%1 is of a kind that is not known here. Only a queue can pass it on to its printer, as it is, with the option “raw”.</source>
@@ -1937,13 +1968,13 @@ For the command line: %2</source>
         <source>Use Defaults</source>
         <translation>使用默认值</translation>
     </message>
-<message>
-        <source>Printer Defaults</source>
-        <translation>打印机默认设置</translation>
-    </message>
     <message>
         <source>Printer</source>
         <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文档</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2098,19 +2129,15 @@ For the command line: %2</source>
     <name>corvana::PrinterHeader</name>
     <message>
         <source>P&amp;rinter:</source>
-        <translation>打印机(&amp;R)：</translation>
-    </message>
-    <message>
-        <source>Document:</source>
-        <translation>文档：</translation>
+        <translation>打印机(&amp;R):</translation>
     </message>
     <message>
         <source>Print to &amp;file:</source>
-        <translation>输出文件(&amp;F)：</translation>
+        <translation>打印到文件(&amp;F):</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation>输出文件</translation>
+        <translation>打印到文件</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
@@ -2123,10 +2150,6 @@ For the command line: %2</source>
     <message>
         <source>All files (*)</source>
         <translation>所有文件 (*)</translation>
-    </message>
-<message>
-        <source>PostScript (*.ps);;All files (*)</source>
-        <translation>PostScript (*.ps);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -2223,10 +2246,6 @@ For the command line: %2</source>
     <message>
         <source>There are too many copies to send them in sets. Their order is: %1.</source>
         <translation>份数过多，无法按套发送。顺序为：%1。</translation>
-    </message>
-<message>
-        <source>The queue “%1” has no driver and sends documents to its printer as they are, in one stream, where a printer finds the end of %2 only by the end of the job. Print the documents one at a time. Nothing was printed.</source>
-        <translation>队列“%1”没有驱动程序，会把文档原样连续发送给打印机，打印机只能在作业结束时判断 %2 的结尾。请逐个打印文档。没有打印任何内容。</translation>
     </message>
     </context>
 <context>
@@ -2327,10 +2346,6 @@ For the command line: %2</source>
         <source>Print</source>
         <translation>打印</translation>
     </message>
-    <message>
-        <source>Choose Documents to Print</source>
-        <translation>选择要打印的文档</translation>
-    </message>
 </context>
 <context>
     <name>DocumentCopies</name>
@@ -2372,6 +2387,10 @@ For the command line: %2</source>
 <context>
     <name>SheetTexts</name>
     <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
         <source>, </source>
         <translation>、</translation>
     </message>
@@ -2409,15 +2428,15 @@ For the command line: %2</source>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 到 %2</translation>
+        <translation>%1 至 %2</translation>
     </message>
     <message>
         <source>%1; %2 is not in it.</source>
-        <translation>%1；其中没有第 %2 页。</translation>
+        <translation>%1；不存在的页：%2。</translation>
     </message>
     <message>
         <source>%1; %2 are not in it.</source>
-        <translation>%1；其中没有第 %2 页。</translation>
+        <translation>%1；不存在的页：%2。</translation>
     </message>
     <message>
         <source>Nothing would be printed: %1, and only even pages were chosen.</source>
@@ -2432,18 +2451,6 @@ For the command line: %2</source>
         <translation>不会打印任何内容：%1，但没有剩下要打印的页。</translation>
     </message>
     <message>
-        <source>comes out one-sided, because only one side is printed</source>
-        <translation>将单面打印，因为只有一面要打印</translation>
-    </message>
-    <message>
-        <source>comes out one-sided, because each document has only one side</source>
-        <translation>将单面打印，因为每个文档都只有一面要打印</translation>
-    </message>
-    <message>
-        <source>one-sided where a document has only one side: %1</source>
-        <translation>只有一面要打印的文档将单面打印：%1</translation>
-    </message>
-    <message>
         <source>could not be counted</source>
         <translation>无法计数</translation>
     </message>
@@ -2453,11 +2460,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>%1, and 1 cover sheet</source>
-        <translation>%1，另有 1 张封面</translation>
+        <translation>%1，另有 1 张封面页</translation>
     </message>
     <message>
         <source>%1, and %2 cover sheets</source>
-        <translation>%1，另有 %2 张封面</translation>
+        <translation>%1，另有 %2 张封面页</translation>
     </message>
     <message>
         <source>%1 × %2 copies = %3</source>
@@ -2628,7 +2635,7 @@ For the command line: %2</source>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
-            <numerusform>%1 等另外 %n 个</numerusform>
+            <numerusform>%1 和另外 %n 个文档</numerusform>
         </translation>
     </message>
 </context>
@@ -2936,7 +2943,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>密码(&amp;P)：</translation>
+        <translation>密码(&amp;P):</translation>
     </message>
     <message>
         <source>Open</source>
@@ -2949,6 +2956,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>AttributeEffects</name>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
     <message>
         <source>%1 has no effect on %2: only texts follow it.</source>
         <translation>%1 对 %2 无效：只适用于文本。</translation>
@@ -3062,7 +3073,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>“%1” cannot be changed while other settings are as they are. It is on the page “%2”.</source>
@@ -3102,7 +3113,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>There are no pages %1.</source>
-        <translation>没有第 %1 页。</translation>
+        <translation>不存在的页：%1。</translation>
     </message>
     <message>
         <source>“%1” is no page. Pages are typed as in 1-4, 7, 9-.</source>
@@ -3136,11 +3147,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation>全部(&amp;A)</translation>
+        <translation>全选(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;None</source>
-        <translation>无(&amp;N)</translation>
+        <translation>全不选(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Odd</source>
@@ -3236,6 +3247,14 @@ For the command line: %2</source>
         <translation>从打印机中取出已打印的 %1 张纸，保持整叠顺序。</translation>
     </message>
     <message>
+        <source>Put it back into the tray with the printed side down, so that the %1 edge of the page goes into the printer first.</source>
+        <translation>将打印面朝下放回纸盒，使页面的%1边先进入打印机。</translation>
+    </message>
+    <message>
+        <source>Put it back into the tray with the printed side up, so that the %1 edge of the page goes into the printer first.</source>
+        <translation>将打印面朝上放回纸盒，使页面的%1边先进入打印机。</translation>
+    </message>
+    <message>
         <source>Put them back into the tray with the printed side down, so that the %1 edge of the pages goes into the printer first.</source>
         <translation>将打印面朝下放回纸盒，使页面的%1边先进入打印机。</translation>
     </message>
@@ -3292,7 +3311,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>Printing was canceled.</source>
-        <translation>打印已取消。</translation>
+        <translation>已取消打印。</translation>
     </message>
 </context>
 <context>
@@ -3534,7 +3553,7 @@ For the command line: %2</source>
     <name>corvana::PresetRow</name>
     <message>
         <source>Prese&amp;t:</source>
-        <translation>预设(&amp;T)：</translation>
+        <translation>预设(&amp;T):</translation>
     </message>
     <message>
         <source>%1 (changed)</source>
@@ -3577,7 +3596,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>名称(&amp;N)：</translation>
+        <translation>名称(&amp;N):</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -3585,7 +3604,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>For printers of this &amp;model (%1)</source>
-        <translation>用于此型号的打印机(&amp;M)（%1）</translation>
+        <translation>用于此型号（%1）的打印机(&amp;M)</translation>
     </message>
     <message>
         <source>For &amp;all printers, as far as they have these settings</source>
@@ -3593,7 +3612,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>&amp;With what sets up the printer itself (%1)</source>
-        <translation>包括打印机本身的设置(&amp;W)（%1）</translation>
+        <translation>包括打印机本身的设置（%1）(&amp;W)</translation>
     </message>
     <message>
         <source>There is a preset of this name already.</source>
@@ -3847,7 +3866,7 @@ For the command line: %2</source>
     <name>Policy</name>
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
-        <translation>不允许“%1”。允许：%2。</translation>
+        <translation>不允许使用“%1”。允许的值：%2。</translation>
     </message>
     <message>
         <source>the path of a folder that begins with /</source>
@@ -3855,7 +3874,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>a number from %1 to %2</source>
-        <translation>%1 到 %2 之间的数字</translation>
+        <translation>%1 至 %2 的数字</translation>
     </message>
     <message>
         <source>the line is longer than %1 bytes</source>

@@ -1,17 +1,23 @@
 #include "tests/appearance/Inspection.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
 #include <QMessageBox>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionFrame>
+#include <QTabBar>
 #include <QTableView>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -58,7 +64,37 @@ int contrastOf(QWidget *label)
     return lightest - darkest;
 }
 
+// Whether what does not fit into its page can be scrolled to.
+bool isScrolledTo(const QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        const auto *area = qobject_cast<const QScrollArea *>(widget);
+        if (area && area->horizontalScrollBar()->maximum() > 0)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
+
+QStringList sidewaysScrolling(const QWidget *window)
+{
+    QStringList scrolling;
+    const auto areas = window->findChildren<QScrollArea *>();
+    for (const QScrollArea *area : areas) {
+        if (isVisibleInside(window, area) && area->horizontalScrollBar()->maximum() > 0)
+            scrolling += described(area) + u" scrolls sideways"_s;
+    }
+    const auto bars = window->findChildren<QTabBar *>();
+    for (const QTabBar *bar : bars) {
+        const auto buttons = bar->findChildren<QToolButton *>();
+        for (const QToolButton *button : buttons) {
+            if (isVisibleInside(window, button))
+                scrolling += described(bar) + u" does not show all tabs"_s;
+        }
+    }
+    return scrolling;
+}
 
 QStringList clippedControls(const QWidget *page)
 {
@@ -70,7 +106,7 @@ QStringList clippedControls(const QWidget *page)
         if (widget->minimumSizeHint().width() > widget->width())
             clipped += described(widget) + u" is narrower than its text"_s;
         const QRect inWindow(widget->mapTo(page, QPoint()), widget->size());
-        if (!page->rect().contains(inWindow))
+        if (!page->rect().contains(inWindow) && !isScrolledTo(widget))
             clipped += described(widget) + u" reaches out of its page"_s;
     }
     return clipped;
@@ -84,7 +120,7 @@ QStringList overlappingControls(const QWidget *page)
         // The parts inside one control are its own affair.
         if (qobject_cast<const QComboBox *>(parent) ||
             qobject_cast<const QAbstractScrollArea *>(parent) ||
-            qobject_cast<const QLineEdit *>(parent))
+            qobject_cast<const QTabBar *>(parent) || qobject_cast<const QLineEdit *>(parent))
             continue;
         const auto children = parent->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
         for (qsizetype i = 0; i < children.size(); ++i) {
@@ -146,18 +182,53 @@ QStringList unreadableLabels(QWidget *page)
     return unreadable;
 }
 
+// A pop-up button's own name is what is chosen in it.
+static bool hasName(QWidget *widget, const QAccessibleInterface *accessible)
+{
+    const bool isPopUp = qobject_cast<QComboBox *>(widget) != nullptr;
+    if (!isPopUp && !accessible->text(QAccessible::Name).isEmpty())
+        return true;
+    return !accessible->relations(QAccessible::Label).isEmpty();
+}
+
 QStringList namelessControls(const QWidget *page)
 {
     QStringList nameless;
     const auto widgets = page->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        if (!isVisibleInside(page, widget) || !qobject_cast<QComboBox *>(widget))
+        const bool isPart = qobject_cast<const QAbstractSpinBox *>(widget->parentWidget());
+        if (!isVisibleInside(page, widget) || widget->focusPolicy() == Qt::NoFocus || isPart)
             continue;
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        if (!accessible || accessible->text(QAccessible::Name).isEmpty())
+        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        if (!accessible || !hasName(widget, accessible))
             nameless += described(widget) + u" has no name for a screen reader"_s;
+        else if (accessible->text(QAccessible::Description).contains(u'<'))
+            nameless += described(widget) + u" has its markup read out"_s;
     }
     return nameless;
+}
+
+QStringList sharedAccessKeys(const QWidget *window)
+{
+    QMap<QString, QStringList> controls;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!isVisibleInside(window, widget) || widget->window() != window)
+            continue;
+        QString text;
+        if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
+            text = label->text();
+        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+            text = button->text();
+        if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty())
+            controls[key.toString()] += described(widget);
+    }
+    QStringList shared;
+    for (auto key = controls.cbegin(); key != controls.cend(); ++key) {
+        if (key->size() > 1)
+            shared += key.key() + u" is the key of "_s + key->join(u" and "_s);
+    }
+    return shared;
 }
 
 void savePicture(QWidget &window, const QString &name)
@@ -173,8 +244,11 @@ void savePicture(QWidget &window, const QString &name)
 
 QString faultsOf(QWidget *window)
 {
-    const QStringList faults = clippedControls(window) + overlappingControls(window) +
-                               unreadableLabels(window) + namelessControls(window);
+    QStringList faults = clippedControls(window) + overlappingControls(window) +
+                         unreadableLabels(window) + namelessControls(window);
+    // A language that nobody chose the words of may need more room than there is.
+    if (!qEnvironmentVariableIsSet("CORVANA_MAY_SCROLL_SIDEWAYS"))
+        faults += sidewaysScrolling(window);
     return faults.join(u'\n');
 }
 
@@ -196,7 +270,8 @@ void AlertInspector::inspect(QMessageBox &box)
 {
     ++seen;
     savePicture(box, m_name);
-    faults += clippedControls(&box) + overlappingControls(&box) + unreadableLabels(&box);
+    faults += clippedControls(&box) + overlappingControls(&box) + unreadableLabels(&box) +
+              namelessControls(&box);
     const auto labels = box.findChildren<QLabel *>();
     for (const QLabel *label : labels) {
         if (label->wordWrap() && label->isVisible() &&

@@ -11,6 +11,8 @@ class QMessageBox;
 /// one sentence each, and nothing where there are none.
 namespace corvana::test {
 
+/// Pages and tabs of which a part is not seen before it is scrolled to.
+QStringList sidewaysScrolling(const QWidget *window);
 /// Texts that are cut off, and controls that reach out of their page.
 QStringList clippedControls(const QWidget *page);
 /// Texts in fields and lists, which are cut off silently.
@@ -20,7 +22,9 @@ QStringList overlappingControls(const QWidget *page);
 QStringList unreadableLabels(QWidget *page);
 /// Controls that a screen reader has no name for.
 QStringList namelessControls(const QWidget *page);
-/// All of these but what is in fields and lists, a fault a line.
+/// Keys of which several controls that can be seen are reached by the same one.
+QStringList sharedAccessKeys(const QWidget *window);
+/// All of these but what is in fields and lists, and the keys, a fault a line.
 QString faultsOf(QWidget *window);
 
 /// Keeps a picture where CORVANA_SCREENSHOTS names a folder for it.

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFile>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -31,6 +33,13 @@ using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// A dark palette moves nothing: where only the room for texts is in question, the light one does.
+QList<bool> looks()
+{
+    return qEnvironmentVariableIsSet("CORVANA_LIGHT_ONLY") ? QList<bool>{false}
+                                                           : QList<bool>{false, true};
+}
 
 QPalette darkPalette()
 {
@@ -61,12 +70,23 @@ private Q_SLOTS:
         installTranslations(*qApp, corvana::test::sharedFile(u"translations"_s));
     }
 
+    // Buttons of Qt's own dialogs stand beside ours.
+    void qtSpeaksTheLanguageOfTheDialog()
+    {
+        const QString texts = u"%1/qtbase_%2.qm"_s.arg(
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath), QLocale().name());
+        const QString ours = QCoreApplication::translate("corvana::SavePresetDialog", "Cancel");
+        if (!QFile::exists(texts) && !QFile::exists(texts.section(u'_', 0, -2) + u".qm"_s))
+            QSKIP("Qt has no texts in this language here.");
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), ours);
+    }
+
     void everyPageIsWhole_data()
     {
         QTest::addColumn<bool>("dark");
         QTest::addColumn<int>("page");
         const char *names[] = {"general", "print-setting", "color-setting", "summary"};
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             for (int page = 0; page < 4; ++page)
                 QTest::addRow("%s_%s", names[page], dark ? "dark" : "light") << dark << page;
         }
@@ -85,13 +105,14 @@ private Q_SLOTS:
         QTest::qWait(50);
         savePicture(dialog, QString::fromLatin1(QTest::currentDataTag()));
         QCOMPARE(faultsOf(&dialog), QString());
+        QCOMPARE(sharedAccessKeys(&dialog).join(u'\n'), QString());
     }
 
     void everyShapeOfTheWindowIsWhole_data()
     {
         QTest::addColumn<bool>("dark");
         QTest::addColumn<QString>("shape");
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             for (const char *shape : {"two-sided", "several-documents", "no-document", "folded",
                                       "mirrored", "narrow", "message", "found"})
                 QTest::addRow("shape_%s_%s", shape, dark ? "dark" : "light")
@@ -144,7 +165,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("dark");
         QTest::addColumn<bool>("opened");
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             for (const bool opened : {false, true})
                 QTest::addRow("attributes_%s_%s", opened ? "opened" : "closed",
                               dark ? "dark" : "light")
@@ -191,7 +212,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("dark");
         QTest::addColumn<QString>("edited");
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             for (const char *edited : {"", "Media", "Sleep"})
                 QTest::addRow("options%s%s_%s", *edited ? "_" : "", edited, dark ? "dark" : "light")
                     << dark << QString::fromLatin1(edited);
@@ -251,7 +272,7 @@ private Q_SLOTS:
             {"cl2",
              {u"TonerSaveMode"_s, u"ImproveOutput"_s, u"QXDensityAdjustment"_s, u"QXSleepTime"_s}},
         };
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             for (const auto &[printer, pages] : printers) {
                 for (const QString &page : pages)
                     QTest::addRow("advanced_%s_%s_%s", printer, qPrintable(page),
@@ -295,7 +316,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("dark");
         QTest::addColumn<QString>("printer");
         // With all effects, with two of them, and with the longest list of modes.
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             for (const char *printer : {"cl5", "cl3", "cl4"})
                 QTest::addRow("adjustment_%s_%s", printer, dark ? "dark" : "light")
                     << dark << QString::fromLatin1(printer);
@@ -336,7 +357,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("whenPrinting");
         QTest::addColumn<QStringList>("options");
         const bool japanese = qgetenv("LC_ALL").startsWith("ja");
-        for (const bool dark : {false, true}) {
+        for (const bool dark : looks()) {
             const char *look = dark ? "dark" : "light";
             const auto alert = [&](const char *medium, const char *duplex, bool whenPrinting) {
                 QStringList options{u"QXMediaType=%1"_s.arg(QLatin1StringView(medium))};

@@ -13,8 +13,9 @@ project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 rules='
 platform/printcore   platform/printcore/ platform/PlatformExport.h
 platform/foundation  platform/foundation/ platform/PlatformExport.h
-platform/imaging     platform/imaging/ platform/PlatformExport.h
-platform/toolkit     platform/toolkit/ platform/imaging/ platform/foundation/ platform/printcore/ platform/PlatformExport.h
+platform/imaging     platform/imaging/ platform/library/ platform/PlatformExport.h
+platform/library     platform/library/
+platform/toolkit     platform/toolkit/ platform/imaging/ platform/library/ platform/foundation/ platform/printcore/ platform/PlatformExport.h
 platform             platform/
 panel                panel/ platform/
 printsetting         printsetting/ panel/ platform/
@@ -28,7 +29,7 @@ dialog/server        dialog/server/ platform/
 dialog/driverless    dialog/driverless/ dialog/session/ platform/
 dialog/printers      dialog/printers/ dialog/driverless/ dialog/server/ dialog/session/ platform/
 dialog/policy        dialog/policy/ dialog/printers/ dialog/session/ platform/
-dialog/presets       dialog/presets/ dialog/printers/ dialog/session/ platform/
+dialog/presets       dialog/presets/ dialog/policy/ dialog/printers/ dialog/session/ platform/
 dialog/text          dialog/text/ dialog/session/ platform/
 dialog/job           dialog/job/ dialog/text/ dialog/printers/ dialog/server/ dialog/session/ platform/
 dialog/sheets        dialog/sheets/ dialog/job/ dialog/session/ platform/
@@ -196,6 +197,8 @@ platform/imaging/A.cpp       platform/foundation/Values.h       refused
 platform/imaging/A.cpp       platform/toolkit/ImageView.h       refused
 platform/imaging/A.cpp       platform/imaging/FilterImage.h     allowed
 platform/imaging/A.cpp       platform/PlatformExport.h          allowed
+platform/imaging/A.cpp       platform/library/OwnLibrary.h      allowed
+platform/library/A.cpp       platform/imaging/FilterImage.h     refused
 platform/toolkit/A.cpp       platform/imaging/FilterImage.h     allowed
 platform/toolkit/A.cpp       platform/pde/PDEPanel.h            refused
 platform/toolkit/A.cpp       platform/foundation/Values.h       allowed

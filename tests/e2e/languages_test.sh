@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The summary and the messages in English, Japanese and Chinese, one language throughout.
+# The summary and the messages in every language, one language throughout.
 
 # shellcheck source=tests/e2e/support.bash
 . "$(dirname "${BASH_SOURCE[0]}")/support.bash"
@@ -75,8 +75,42 @@ theSummaryIsToldInThreeLanguages() {
     in_language zh_CN
     print "${choices[@]}"
     expect_printed
-    expect_lines '份数: 2（逐份打印）' '介质类型: 厚纸' '灰色仅用黑色墨粉打印: 开' "已输出到 $output"
+    expect_lines '份数: 2（逐份打印）' '介质类型: 厚纸' '灰色仅用黑色墨粉打印: 开' "已打印到 $output"
     expect_equal "$(wc -l <"$work/out")" "$lines"
+}
+
+# One line of the dialog, one of a PPD's option and one of a panel in each of the other languages,
+# some of them for a region that reads the texts of another one.
+expected_lines() {
+    cat <<'TABLE'
+de_AT|Exemplare: 2, sortiert|Papiertyp: Dickes Papier|Toner sparen: Aus
+fr_CA|Exemplaires: 2, assemblés|Type de papier: Papier épais|Économie de toner: Désactivé
+es_MX|Copias: 2, intercaladas|Tipo de papel: Papel grueso|Ahorro de tóner: Desactivado
+it_CH|Copie: 2, fascicolate|Tipo di carta: Carta spessa|Risparmio toner: Non attivo
+pt_BR|Cópias: 2, agrupadas|Tipo de papel: Papel grosso|Economia de toner: Desativado
+pt_PT|Cópias: 2, agrupadas|Tipo de papel: Papel grosso|Economia de toner: Desativado
+ko_KR|부수: 2(한 부씩)|용지 종류: 두꺼운 용지|토너 절약: 끄기
+zh_TW|份數: 2（自動分頁）|紙張類型: 厚紙|節省碳粉: 關閉
+zh_HK|份數: 2（自動分頁）|紙張類型: 厚紙|節省碳粉: 關閉
+TABLE
+}
+
+theSummaryIsToldInTheOtherLanguages() {
+    local choices=(-n 2 -o 'QXMediaType=Thick Duplex=DuplexNoTumble') language first second third
+    local lines
+    run "${printer[@]}" --summary "${choices[@]}"
+    lines=$(wc -l <"$work/out")
+    # What a summary calls a setting in English, but for words that other languages use, too.
+    sed -n 's/: .*//p' "$work/out" | grep ' ' >"$work/english"
+    [ "$(wc -l <"$work/english")" -ge 12 ] || fail 'the English summary is incomplete'
+    while IFS='|' read -r language first second third; do
+        in_language "$language"
+        run "${printer[@]}" --summary "${choices[@]}"
+        expect_status 0
+        expect_lines "$first" "$second" "$third"
+        expect_equal "$(wc -l <"$work/out")" "$lines"
+        ! sed -n 's/: .*//p' "$work/out" | grep -xFf "$work/english" || fail "English in $language"
+    done < <(expected_lines)
 }
 
 refusalsAreToldInTheUsersLanguage() {
@@ -95,7 +129,7 @@ refusalsAreToldInTheUsersLanguage() {
 # Where there are no texts in the user's language.
 otherLanguagesGetEnglish() {
     local language
-    for language in de_DE zh_TW xx_XX; do
+    for language in sv_SE nb_NO xx_XX; do
         in_language "$language"
         run "${printer[@]}" --summary
         expect_status 0
@@ -120,7 +154,7 @@ thePrintDataAreTheSameInEveryLanguage() {
     expect_printed
     printed_codes "$output" >"$work/codes"
     [ -s "$work/codes" ] || fail 'the printer is told nothing'
-    for language in ja_JP zh_CN; do
+    for language in ja_JP zh_CN de_DE fr_FR es_ES it_IT pt_BR ko_KR zh_TW; do
         in_language "$language"
         print -o 'QXMediaType=Thick QXGray=ON QXRed=3'
         expect_printed

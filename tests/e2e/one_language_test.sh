@@ -10,6 +10,9 @@
 english=('Copies: 1' 'Paper Source: Auto Select' 'Toner Save: Off')
 japanese=('部数: 1' '給紙方法: 自動選択' 'トナー節約: しない')
 chinese=('份数: 1' '纸张来源: 自动选择' '节省墨粉: 关')
+german=('Exemplare: 1' 'Papierquelle: Automatische Auswahl' 'Toner sparen: Aus')
+portuguese=('Cópias: 1' 'Origem do papel: Seleção automática' 'Economia de toner: Desativado')
+traditional=('份數: 1' '紙張來源: 自動選擇' '節省碳粉: 關閉')
 
 # expect_language NAME SETTING...: what is said in an environment with nothing but these settings.
 expect_language() {
@@ -33,10 +36,11 @@ theListOfLanguagesCountsForAllTexts() {
 }
 
 theFirstLanguageWithTextsIsTaken() {
-    expect_language japanese LANG=de_DE.UTF-8 LANGUAGE=de:fr:ja:zh_CN
-    expect_language chinese LANG=de_DE.UTF-8 LANGUAGE=zh_TW:zh_CN
-    expect_language english LANG=ja_JP.UTF-8 LANGUAGE=de
-    expect_language english LANG=de_DE.UTF-8 LANGUAGE=de:en:ja
+    expect_language japanese LANG=sv_SE.UTF-8 LANGUAGE=sv:nb:ja:zh_CN
+    expect_language chinese LANG=sv_SE.UTF-8 LANGUAGE=sv:zh_CN
+    expect_language german LANG=ja_JP.UTF-8 LANGUAGE=sv:de:fr
+    expect_language english LANG=ja_JP.UTF-8 LANGUAGE=sv
+    expect_language english LANG=sv_SE.UTF-8 LANGUAGE=sv:en:ja
 }
 
 # LC_ALL overrules LC_MESSAGES and LANG for everybody.
@@ -63,17 +67,21 @@ aLanguageCountsBesideALocaleThatNamesNone() {
 relatedRegionsReadTheSameLanguage() {
     expect_language chinese LANG=zh_SG.UTF-8
     expect_language japanese LANG=ja.UTF-8
-    expect_language english LANG=zh_TW.UTF-8
+    expect_language traditional LANG=zh_HK.UTF-8
+    expect_language traditional LANG=en_US.UTF-8 LANGUAGE=zh_Hant
+    expect_language chinese LANG=en_US.UTF-8 LANGUAGE=zh_Hans
+    expect_language german LANG=de_AT.UTF-8
+    expect_language portuguese LANG=pt_PT.UTF-8
 }
 
 # A PPD may know languages that the dialog does not.
 aLanguageOfThePpdAloneIsNotMixedIn() {
-    changed_ppd '/^\*cupsLanguages:/s/"$/ de"/; /^\*ja.Translation QXInputSlot/{
-        i *de.Translation QXInputSlot/Papierquelle: ""
-        i *de.QXInputSlot Auto/Automatisch: ""
+    changed_ppd '/^\*cupsLanguages:/s/"$/ sv"/; /^\*ja.Translation QXInputSlot/{
+        i *sv.Translation QXInputSlot/Papperskälla: ""
+        i *sv.QXInputSlot Auto/Automatisk: ""
     }'
-    expect_language english LANG=de_DE.UTF-8
-    expect_language japanese LANG=de_DE.UTF-8 LANGUAGE=de:ja
+    expect_language english LANG=sv_SE.UTF-8
+    expect_language japanese LANG=sv_SE.UTF-8 LANGUAGE=sv:ja
 }
 
 refusalsSpeakTheLanguageOfTheSummary() {

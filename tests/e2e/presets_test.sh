@@ -90,6 +90,26 @@ whatThePrinterHasNotIsNamed() {
     expect_code QXMediaType=Thick
 }
 
+presetsForEverybodyAreUsedOnlyWhereNobodyElseMayWriteThem() {
+    local shared=$work/data/corvana-print/presets policy=$work/policy
+    save House -o QXMediaType=Thick
+    mkdir -p "$policy"
+    printf '[all]\npresets = %s\n' "$shared" >"$policy/10.conf"
+    chmod 755 "$policy"
+    environment=("CORVANA_PRINT_POLICY=$policy" "XDG_DATA_HOME=$work/own")
+    print --preset House
+    expect_printed
+    expect_code QXMediaType=Thick
+    run --check-policy
+    expect_status 0
+    chmod 775 "$shared"
+    rm "$output"
+    expect_refusal 'House' "$shared" 'others than its owner may write it' -- --preset House
+    run --check-policy
+    expect_status 1
+    grep -qF "$policy/10.conf:2: $shared: " "$work/out" || fail 'not named by the check'
+}
+
 aHomeThatCannotBeWrittenIsSaid() {
     : >"$work/data"
     save Reports

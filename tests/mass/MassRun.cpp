@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "dialog/session/OutputOrder.h"
+#include "dialog/session/PpdFile.h"
 #include "tests/support/TestPaths.h"
 
 namespace corvana::test {
@@ -36,6 +38,24 @@ bool isForJobs(const PpdTextOption &option)
 QString argumentOf(const PpdTextChoice &choice)
 {
     return QString::fromLatin1(choice.first + '=' + choice.second);
+}
+
+// Where sheets are stacked face up, CUPS' filters turn their order round once too often. That these
+// are the words for it is tested with a printer's eyes elsewhere.
+QStringList orderArguments(const QString &path, const QList<PpdTextChoice> &choices)
+{
+    QString error;
+    const PpdFile ppd = openPpdFile(path, &error);
+    if (!ppd)
+        return {};
+    QList<JobOption> options;
+    if (const ppd_choice_t *bin = ppdMarkedChoice(ppd.get(), u"OutputBin"_s))
+        options += JobOption{u"OutputBin"_s, ppdKeyword(bin->choice)};
+    for (const PpdTextChoice &choice : choices)
+        options += JobOption{QString::fromLatin1(choice.first), QString::fromLatin1(choice.second)};
+    if (!isTurnedRoundOnTheWay(ppd.get(), options))
+        return {};
+    return {u"-o"_s, u"outputorder="_s + withOrderForFilters(options, ppd.get()).constLast().value};
 }
 
 QString firstDifference(const QByteArray &data, const QByteArray &other)
@@ -196,6 +216,7 @@ QByteArray MassRun::chainAlone(const Choices &choices) const
                           u"printer/foo"_s, u"-t"_s, u"pages.pdf"_s};
     for (const auto &choice : choices)
         arguments += {u"-o"_s, argumentOf(choice)};
+    arguments += orderArguments(m_ppd, choices);
     QProcess chain;
     chain.setStandardOutputFile(output);
     chain.setStandardErrorFile(QProcess::nullDevice());

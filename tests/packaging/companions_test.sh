@@ -297,7 +297,7 @@ nothingIsOpenedByPrintingIt() {
 theDesktopEntryIsTranslated() {
     local key language
     for key in Name GenericName Comment Keywords; do
-        for language in ja zh_CN; do
+        for language in ja zh_CN de fr es it pt_BR ko zh_TW; do
             grep -qE "^$key\[$language\]=.+" "$desktop" || fail "no $key in $language"
         done
     done

@@ -82,7 +82,7 @@ theChecksumsHold() {
 extract_binaries() {
     dpkg-deb --extract "$package" root
     binaries=(root/usr/bin/corvana-print root/usr/lib/corvana-print/libcorvana-platform.so.*.*
-        root/usr/lib/corvana-print/libcorvana-pdf-pictures.so
+        root/usr/lib/corvana-print/libcorvana-{forms,pdf-pictures,pixel-kernel}.so
         root/usr/lib/corvana-print/corvana-page-renderer
         root/usr/lib/corvana-print/plugins/*/module/*.so)
 }
@@ -105,7 +105,7 @@ theBinariesAreStrippedAndKnowNothingOfTheBuildFolder() {
         readelf --dynamic --wide "$binary" | grep -q BIND_NOW || fail "$binary binds lazily"
         readelf --program-headers --wide "$binary" | grep -q GNU_RELRO || fail "$binary keeps its tables writable"
     done
-    expect_equal $count 5
+    expect_equal $count 7
 }
 
 theBinariesEndAtAnOverrun() {
@@ -117,20 +117,26 @@ theBinariesEndAtAnOverrun() {
     done
 }
 
-# It brings thirty libraries along, for pictures that hardly any panel has, and reads what strangers
-# wrote: pages of documents are drawn by a process of its own, which does without Qt.
-popplerIsLoadedWithTheFirstPdfPictureOnly() {
-    local binary
-    extract_binaries
+# only_needed_by LIBRARY FILE...: of what is machine code, these files need the library, and no others do.
+only_needed_by() {
+    local library=$1 binary needs expected
+    shift
     for binary in "${binaries[@]}"; do
-        if readelf --dynamic --wide "$binary" | grep -q 'NEEDED.*\[libpoppler'; then
-            [[ $binary == */libcorvana-pdf-pictures.so || $binary == */corvana-page-renderer ]] ||
-                fail "$binary needs Poppler"
-        else
-            [[ $binary != */libcorvana-pdf-pictures.so && $binary != */corvana-page-renderer ]] ||
-                fail "$binary does not need Poppler"
-        fi
+        needs=no expected=no
+        readelf --dynamic --wide "$binary" | grep -q "NEEDED.*\[$library" && needs=yes
+        [[ " $* " == *" ${binary##*/} "* ]] && expected=yes
+        expect_equal "$binary needs $library: $needs" "$binary needs $library: $expected"
     done
+}
+
+# The first window waits for all that the program needs from its start. Poppler brings thirty libraries along,
+# for pictures that hardly any panel has, and reads what strangers wrote: pages of documents are drawn by a
+# process of its own, which does without Qt. Highway measures the clock of the processor when it is loaded.
+whatTheFirstWindowDoesWithoutIsLoadedLater() {
+    extract_binaries
+    only_needed_by libpoppler libcorvana-pdf-pictures.so corvana-page-renderer
+    only_needed_by libhwy libcorvana-pixel-kernel.so
+    only_needed_by libQt6UiTools libcorvana-forms.so
 }
 
 theProgramThatDrawsPagesKnowsNoQt() {

@@ -102,6 +102,19 @@ private Q_SLOTS:
         QTest::newRow("below the bounds") << custom << entry(-6) << option(u"Custom.-3"_s);
         QTest::newRow("the printer's own") << custom << entry(u"0"_s) << option(u"0"_s);
         QTest::newRow("no entry") << custom << QVariantMap{} << none;
+        QTest::newRow("a choice beside custom values")
+            << withDensity({{"0", "Standard"}, {"2", "Darker"}})
+                   .customInteger("QXDensityAdjustment", "Density", "D", -3, 4)
+                   .text()
+            << entry(u"2"_s) << option(u"2"_s);
+        QTest::newRow("a choice where the default is none")
+            << QByteArray(custom).replace("*DefaultQXDensityAdjustment: 0",
+                                          "*DefaultQXDensityAdjustment: 4294967296")
+            << entry(u"0"_s) << option(u"0"_s);
+        QTest::newRow("a default that is no choice")
+            << QByteArray(custom).replace("*DefaultQXDensityAdjustment: 0",
+                                          "*DefaultQXDensityAdjustment: Middle")
+            << entry(u"0"_s) << option(u"0"_s);
         QTest::newRow("a choice") << withDensity({{"0", "Standard"}, {"2", "Darker"}}).text()
                                   << entry(u"2"_s) << option(u"2"_s);
         QTest::newRow("a choice with its sign")

@@ -25,7 +25,9 @@ struct Market
 const Market kMarkets[] = {
     {"English, model 2", u"en"_s, 2, u"PostCard"_s, u"Plain"_s, false, false},
     {"English, model 3", u"en"_s, 3, u"PostCard"_s, u"Plain"_s, false, false},
-    {"a language without a table", u"de"_s, 2, u"PostCard"_s, u"Plain"_s, false, false},
+    {"German", u"de"_s, 2, u"PostCard"_s, u"Plain"_s, false, false},
+    {"Traditional Chinese", u"zh_TW"_s, 2, u"PostCard"_s, u"Plain"_s, false, false},
+    {"a language without texts", u"sv"_s, 2, u"PostCard"_s, u"Plain"_s, false, false},
     {"Japanese, model 2", u"ja"_s, 2, QString(), u"Thin"_s, true, true},
     {"Japanese, model 3", u"ja"_s, 3, u"BOND"_s, u"Thin"_s, true, true},
     {"Japanese, model 5", u"ja"_s, 5, u"BOND"_s, u"Thin"_s, true, true},

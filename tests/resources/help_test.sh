@@ -23,10 +23,11 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 root = Path(sys.argv[1])
+sys.path.insert(0, str(root / "tests/resources"))
+from languages import LANGUAGES
+
 help_folder = root / "resources/help"
 
-# Folder of a language, its code in a PPD file and in the names of translation files.
-LANGUAGES = {"English": None, "Japanese": "ja", "zh_CN": "zh_CN"}
 TITLES = {
     "QXLaserPrintSetting.help": "Corvana Print Settings Help (Laser)",
     "QXLaserColorSetting.help": "Corvana Color Settings Help (Laser)",
@@ -86,7 +87,7 @@ def outline(tree):
 
 def texts_of_printers(language):
     """Each text of an option or choice, as (keyword, choice, text); an option's choice is None."""
-    code = LANGUAGES[language]
+    code = LANGUAGES[language].ppd
     for ppd in sorted((root / "resources/ppd").glob("*.ppd")):
         for line in ppd.read_text(encoding="utf-8").splitlines():
             if code:
@@ -111,27 +112,32 @@ def messages(file):
         yield message.findtext("source"), message.findtext("translation")
 
 
-def dialog_texts(language):
-    """The dialog's texts by their source text."""
-    if LANGUAGES[language]:
-        file = root / f"resources/translations/corvana-print_{LANGUAGES[language]}.ts"
-        return dict(messages(file))
+def dialog_messages(language):
+    """The dialog's texts, each with its source text. A source may have several translations."""
+    if code := LANGUAGES[language].translation:
+        return list(messages(root / f"resources/translations/corvana-print_{code}.ts"))
     sources = set()
     for file in (root / "dialog").rglob("*.cpp"):
         code = file.read_text(encoding="utf-8")
         for literals in re.findall(r"\btr\(\s*((?:\"(?:[^\"\\]|\\.)*\"\s*)+)", code):
             sources.add("".join(re.findall(r"\"((?:[^\"\\]|\\.)*)\"", literals)))
         sources.update(re.findall(r"translate\(\"\w+\",\s*\"((?:[^\"\\]|\\.)*)\"", code))
-    return {source: source for source in sources}
+    return [(source, source) for source in sources]
+
+
+def dialog_texts(language):
+    return dict(dialog_messages(language))
 
 
 def words_on_screen(language):
     """A pattern for each text: what stands for %1 can be anything."""
     panel_texts = messages(root / f"resources/bundle/strings/{language}.ts")
     texts = {text for *_, text in texts_of_printers(language)} | {text for _, text in panel_texts}
-    for text in dialog_texts(language).values():
+    for _, text in dialog_messages(language):
         text = re.sub(r"\(&\w\)|&", "", text)  # the access key
-        texts.add(re.sub(r"[:：]$", "", text))
+        texts.add(re.sub(r"\s*[:：]$", "", text))
+    # A text of nothing but places, such as "%1 %2", would stand for every word.
+    texts = {text for text in texts if re.search(r"\w", re.sub(r"%L?\w", "", text))}
     return [re.sub(r"%\d", ".+", re.escape(" ".join(text.split()))) for text in texts]
 
 
@@ -163,7 +169,7 @@ def aPageSaysHowItsTextIsEncodedAndInWhichLanguage(fail):
         first = tree.find("head")[0]
         if first.tag != "meta" or first.get("charset") != "utf-8":
             fail(f"{name}: the encoding does not stand first")
-        if tree.get("lang") != {"English": "en", "Japanese": "ja", "zh_CN": "zh-CN"}[language]:
+        if tree.get("lang") != LANGUAGES[language].html:
             fail(f"{name}: the language is {tree.get('lang')}")
 
 
@@ -257,6 +263,8 @@ def theConflictOfTheExampleIsShownInTheseWords(fail):
             "%1", choice("QXMediaType", "Glossy")).replace(
             "%2", choice("Duplex", "DuplexNoTumble"))
         way_out = dialog["Change to %1"].replace("%1", choice("Duplex", "None"))
+        # A page may break its lines at any blank.
+        message, way_out = " ".join(message.split()), " ".join(way_out.split())
         tree = page("dialog", language)
         if text_of(tree.find(".//blockquote")) != message:
             fail(f"dialog/{language}: the window says: {message}")

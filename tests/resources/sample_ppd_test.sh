@@ -44,7 +44,10 @@ sound = options.Option("QX", same("Q"), (choice,), "A")
 writer.write_ppd(no_conflicts._replace(groups=group_with(sound)))
 faulty = {
     "27 characters of three bytes": dict(
-        groups=group_with(sound._replace(text=Text("Q", "字" * 27, "Q")))
+        groups=group_with(sound._replace(text=Text("Red", "字" * 27, "红色")))
+    ),
+    "a text that a language lacks": dict(
+        groups=group_with(sound._replace(text=Text("Wood", "木", "木")))
     ),
     "a default that is no choice": dict(groups=group_with(sound._replace(default="B"))),
     "a keyword with a blank": dict(groups=group_with(sound._replace(keyword="Q X"))),
@@ -134,7 +137,7 @@ translationsAreCompleteUtf8AndWithinTheLimits() {
             done
         done
     } | sort >"$work/keys"
-    for language in ja zh_CN; do
+    for language in ja zh_CN de fr es it pt ko zh_TW; do
         sed -n "s|^\*$language\.\([^/]*\)/\(.*\): \"\"\$|\1/\2|p" "$ppd" >"$work/$language"
         cut -d/ -f1 "$work/$language" | sort | diff "$work/keys" - ||
             fail "$language: texts are missing, or translate nothing"

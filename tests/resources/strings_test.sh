@@ -21,11 +21,8 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 root = Path(sys.argv[1])
-
-# Name of a string table, code of its language in a PPD file.
-LANGUAGES = {"English": None, "Japanese": "ja", "zh_CN": "zh_CN"}
-# How instructions quote what is on the screen.
-QUOTES = {"English": "“([^”]*)”", "Japanese": "「([^」]*)」", "zh_CN": "“([^”]*)”"}
+sys.path.insert(0, str(root / "tests/resources"))
+from languages import LANGUAGES
 
 
 def messages(language):
@@ -39,7 +36,7 @@ def messages(language):
 
 def printer_texts(language):
     """All texts that the sample printers have for "keyword choice" and for an option's keyword."""
-    code = LANGUAGES[language]
+    code = LANGUAGES[language].ppd
     form = (rf"\*{code}\.(\w+ \w+)/(.*): \"\"$" if code
             else r"\*((?:OpenUI \*)?\w+(?: \w+)?)/([^:]*): ")
     for ppd in sorted((root / "resources/ppd").glob("*.ppd")):
@@ -89,7 +86,7 @@ def instructionsNameSettingsAsThePrinterDoes(fail):
     for language in LANGUAGES:
         on_screen = {text for _, text in printer_texts(language)}
         names = [name for _, text in messages(language)
-                 for name in re.findall(QUOTES[language], text)]
+                 for name in re.findall(LANGUAGES[language].quotes, text)]
         if not names:
             fail(f"{language}: no setting is named")
         for name in names:

@@ -7,19 +7,21 @@
 # qt_is VERSION: a Qt that was installed without the package manager.
 qt_is() {
     local part folder=$machine/qt/lib/cmake
-    mkdir -p "$machine/qt/plugins/imageformats" "$machine/qt/plugins/platforms"
+    mkdir -p "$machine/qt/plugins/imageformats" "$machine/qt/plugins/platforms" \
+        "$machine/qt/translations"
     for part in Widgets OpenGL UiTools LinguistTools; do
         mkdir -p "$folder/Qt6$part"
         touch "$folder/Qt6$part/Qt6${part}Config.cmake"
     done
     touch "$machine/qt/plugins/imageformats/libqtiff.so" \
-        "$machine/qt/plugins/platforms/libqwayland-generic.so"
+        "$machine/qt/plugins/platforms/libqwayland-generic.so" "$machine/qt/translations/qtbase_de.qm"
     add_program qmake6 <<END
 #!/usr/bin/env bash
 case \$2 in
 QT_VERSION) echo $1 ;;
 QT_INSTALL_LIBS) echo '$machine/qt/lib' ;;
 QT_INSTALL_PLUGINS) echo '$machine/qt/plugins' ;;
+QT_INSTALL_TRANSLATIONS) echo '$machine/qt/translations' ;;
 esac
 END
 }

@@ -29,7 +29,7 @@ new_machine() {
     cp "$source_root/run" "$source_root/test" "$source_root/package" "$checkout"
     cp "$source_root/.ci/run" "$checkout/.ci"
     cp -R "$source_root/packaging/dependencies" "$checkout/packaging"
-    printf '%s\n' '{ "configurePresets": [' '  { "name": "release" },' '  { "name": "asan" } ] }' \
+    printf '%s\n' '{ "configurePresets": [' '  { "name": "release" },' '  { "name": "asan" },' '  { "name": "fuzz" } ] }' \
         >"$checkout/CMakePresets.json"
     for program in "${ordinary_programs[@]}"; do
         ln -s "$(type -P "$program")" "$machine/bin/$program"

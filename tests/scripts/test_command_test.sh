@@ -62,6 +62,29 @@ test_whatPackagesAreMadeWithIsInstalledAsWell() {
     expect_call '--no-remove dpkg-dev'
 }
 
+test_hostileInputNeedsItsOwnPackages() {
+    not_installed clang
+    start test
+    expect_status 0
+    expect_no_call 'apt-get'
+    start test fuzz
+    expect_call '--no-remove clang'
+}
+
+test_hostileInputIsTriedAndReportedAtLength() {
+    mkdir -p "$checkout/fuzz"
+    cat >"$checkout/fuzz/report" <<'END'
+#!/usr/bin/env bash
+printf 'report %s after %s\n' "$1" "$CORVANA_FUZZ_SECONDS" >>"$FAKE_STATE/calls"
+END
+    chmod +x "$checkout/fuzz/report"
+    start test fuzz --long -R ppd
+    expect_status 0
+    expect_call 'cmake --build --preset fuzz --target fuzz_targets'
+    expect_call 'ctest --preset fuzz --no-tests=error -R ppd'
+    expect_call 'report build/fuzz/fuzz after 1200'
+}
+
 test_helpIsShownAtOnce() {
     not_installed ninja-build
     start test --help

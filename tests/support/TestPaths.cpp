@@ -4,6 +4,17 @@
 
 namespace corvana::test {
 
+namespace {
+
+// What a test names in its environment stands in the place of what was built: the same texts in a
+// language that does not exist, for example.
+QString placeOf(const char *variable, const QString &built)
+{
+    return qEnvironmentVariable(variable, built);
+}
+
+} // namespace
+
 QString sourceFile(const QString &path)
 {
     return QStringLiteral(CORVANA_TEST_SOURCE_DIR "/") + path;
@@ -16,7 +27,7 @@ QString sourceFile(QLatin1StringView path)
 
 QString bundleFile(const QString &path)
 {
-    const QString bundle = QStringLiteral(CORVANA_TEST_BUNDLE_DIR);
+    const QString bundle = placeOf("CORVANA_TEST_BUNDLE", QStringLiteral(CORVANA_TEST_BUNDLE_DIR));
     return path.isEmpty() ? bundle : bundle + u'/' + path;
 }
 
@@ -32,7 +43,7 @@ QString bundleRoot()
 
 QString sharedFile(const QString &path)
 {
-    return QStringLiteral(CORVANA_TEST_SHARE_DIR "/") + path;
+    return placeOf("CORVANA_TEST_SHARE", QStringLiteral(CORVANA_TEST_SHARE_DIR)) + u'/' + path;
 }
 
 QString sharedFile(QLatin1StringView path)

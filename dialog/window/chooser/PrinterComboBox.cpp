@@ -11,12 +11,11 @@
 namespace corvana {
 
 PrinterComboBox::PrinterComboBox(QWidget *parent)
-    : QComboBox(parent), m_printers(new PrinterModel(this))
+    : NarrowComboBox(parent), m_printers(new PrinterModel(this))
 {
     // With a placeholder, no printer is chosen just because it was found first.
     setPlaceholderText(tr("Choose a printer"));
     // The width must neither depend on thousands of names nor change as they come.
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(20);
     setModel(m_printers);
     setCurrentIndex(-1);

@@ -3,10 +3,9 @@
 #include <functional>
 #include <optional>
 
-#include <QComboBox>
-
 #include "dialog/window/chooser/PrinterModel.h"
 #include "dialog/window/chooser/PrinterPopup.h"
+#include "platform/toolkit/NarrowComboBox.h"
 
 namespace corvana {
 
@@ -15,7 +14,7 @@ namespace corvana {
 ///
 /// A pick of the user's emits QComboBox::activated(), the same printer picked again included.
 /// connectControlAction() tells it from what the program does.
-class PrinterComboBox : public QComboBox
+class PrinterComboBox : public NarrowComboBox
 {
     Q_OBJECT
 

@@ -31,6 +31,24 @@ struct PrinterModel::Row
     mutable QString searchKey{}; // empty until somebody searches
 };
 
+namespace {
+
+// Each group of rows that comes or goes by itself costs views and proxies the time of all rows. Of
+// so many groups one is made, at the end, which is a change of the layout more.
+constexpr int kManyGroups = 64;
+
+template <typename IsPart> bool hasManyGroups(int rows, IsPart isPart)
+{
+    int groups = 0;
+    for (int row = 0; row < rows && groups < kManyGroups; ++row) {
+        if (isPart(row) && (row == 0 || !isPart(row - 1)))
+            ++groups;
+    }
+    return groups == kManyGroups;
+}
+
+} // namespace
+
 PrinterModel::PrinterModel(QObject *parent) : QAbstractListModel(parent) {}
 
 PrinterModel::~PrinterModel() = default;
@@ -68,7 +86,7 @@ void PrinterModel::setPrinters(const QList<Printer> &printers)
         removeAllBut(positions);
         reorder(positions);
         this->change(positions, wanted);
-        insertFrom(wanted);
+        insertFrom(wanted, positions);
     }
     Q_EMIT updated();
 }
@@ -92,6 +110,11 @@ void PrinterModel::addKeptTo(Rows &wanted) const
 void PrinterModel::removeAllBut(const Positions &wanted)
 {
     const auto goes = [&](int row) { return !wanted.contains(m_rows[size_t(row)]->key); };
+    if (hasManyGroups(int(m_rows.size()), goes)) {
+        sortRows([&](const auto &a, const auto &b) {
+            return wanted.contains(a->key) && !wanted.contains(b->key);
+        });
+    }
     for (int last = int(m_rows.size()) - 1; last >= 0; --last) {
         if (!goes(last))
             continue;
@@ -105,27 +128,30 @@ void PrinterModel::removeAllBut(const Positions &wanted)
     }
 }
 
-// One change of the layout for any number of moves: proxies make nothing else of a move anyway.
 void PrinterModel::reorder(const Positions &wanted)
 {
-    const auto inOrder = [&](const auto &a, const auto &b) {
-        return wanted.value(a->key) < wanted.value(b->key);
-    };
-    if (std::is_sorted(m_rows.begin(), m_rows.end(), inOrder))
+    sortRows(
+        [&](const auto &a, const auto &b) { return wanted.value(a->key) < wanted.value(b->key); });
+}
+
+// One change of the layout for any number of moves: proxies make nothing else of a move anyway.
+template <typename Before> void PrinterModel::sortRows(Before before)
+{
+    if (std::is_sorted(m_rows.begin(), m_rows.end(), before))
         return;
     Q_EMIT layoutAboutToBeChanged();
-    const QModelIndexList before = persistentIndexList();
+    const QModelIndexList former = persistentIndexList();
     std::vector<const Row *> held;
-    for (const QModelIndex &index : before)
+    for (const QModelIndex &index : former)
         held.push_back(m_rows[size_t(index.row())].get());
-    std::sort(m_rows.begin(), m_rows.end(), inOrder);
+    std::stable_sort(m_rows.begin(), m_rows.end(), before);
     QHash<const Row *, int> places;
     for (size_t i = 0; i < m_rows.size(); ++i)
         places.insert(m_rows[i].get(), int(i));
-    QModelIndexList after;
+    QModelIndexList now;
     for (const Row *row : held)
-        after += index(places.value(row));
-    changePersistentIndexList(before, after);
+        now += index(places.value(row));
+    changePersistentIndexList(former, now);
     Q_EMIT layoutChanged();
 }
 
@@ -152,22 +178,34 @@ void PrinterModel::change(const Positions &positions, const Rows &wanted)
 }
 
 // The rows are what is wanted now, in its order, but for those that are new.
-void PrinterModel::insertFrom(Rows &wanted)
+void PrinterModel::insertFrom(Rows &wanted, const Positions &positions)
 {
-    const auto isNew = [&](size_t i) {
-        return i >= m_rows.size() || m_rows[i]->key != wanted[i]->key;
-    };
-    for (size_t first = 0; first < wanted.size(); ++first) {
-        if (!isNew(first))
-            continue;
-        size_t end = first + 1;
-        while (end < wanted.size() &&
-               (first >= m_rows.size() || wanted[end]->key != m_rows[first]->key))
-            ++end;
-        beginInsertRows({}, int(first), int(end) - 1);
-        m_rows.insert(m_rows.begin() + std::ptrdiff_t(first),
+    std::vector<bool> isNew(wanted.size(), true);
+    for (const auto &row : m_rows)
+        isNew[size_t(positions.value(row->key))] = false;
+    const auto insert = [&](size_t place, size_t first, size_t end) {
+        m_rows.insert(m_rows.begin() + std::ptrdiff_t(place),
                       std::make_move_iterator(wanted.begin() + std::ptrdiff_t(first)),
                       std::make_move_iterator(wanted.begin() + std::ptrdiff_t(end)));
+    };
+    if (hasManyGroups(int(wanted.size()), [&](int row) { return isNew[size_t(row)]; })) {
+        const size_t old = m_rows.size();
+        beginInsertRows({}, int(old), int(wanted.size()) - 1);
+        for (size_t i = 0; i < wanted.size(); ++i) {
+            if (isNew[i])
+                insert(m_rows.size(), i, i + 1);
+        }
+        endInsertRows();
+        return reorder(positions);
+    }
+    for (size_t first = 0; first < wanted.size(); ++first) {
+        if (!isNew[first])
+            continue;
+        size_t end = first + 1;
+        while (end < wanted.size() && isNew[end])
+            ++end;
+        beginInsertRows({}, int(first), int(end) - 1);
+        insert(first, first, end);
         endInsertRows();
         first = end - 1;
     }

@@ -33,8 +33,8 @@ public:
     ~PrinterModel() override;
 
     /// Takes the list over. Its order becomes that of the rows; a printer that is in it twice has
-    /// two rows. What this changes in a view is no act of the user. Linear in the two lists, unless
-    /// very many separate groups come or go at once.
+    /// two rows. What this changes in a view is no act of the user. Costs no more than sorting the
+    /// two lists, whatever comes and goes.
     void setPrinters(const QList<Printer> &printers);
 
     /// Keeps the printer of this row, or of none (-1), when a later list lacks it: it stays where
@@ -75,8 +75,9 @@ private:
     void addKeptTo(Rows &wanted) const;
     void removeAllBut(const Positions &wanted);
     void reorder(const Positions &wanted);
+    template <typename Before> void sortRows(Before before);
     void change(const Positions &positions, const Rows &wanted);
-    void insertFrom(Rows &wanted);
+    void insertFrom(Rows &wanted, const Positions &positions);
     void dropGone();
     Presence presence(int row) const;
 

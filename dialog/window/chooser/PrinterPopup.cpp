@@ -19,6 +19,7 @@
 #include "dialog/window/chooser/PrinterRowDelegate.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -50,6 +51,7 @@ void PrinterPopup::buildField()
     m_field->setAccessibleName(tr("Search printers"));
     m_field->setClearButtonEnabled(true);
     m_field->addAction(searchIcon(), QLineEdit::LeadingPosition);
+    setFieldButtonNames(m_field, QCoreApplication::translate("ClearButton", "Clear"));
     m_field->installEventFilter(this);
     setFocusProxy(m_field);
 }

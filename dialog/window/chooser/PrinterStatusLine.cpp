@@ -1,6 +1,5 @@
 #include "dialog/window/chooser/PrinterStatusLine.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,6 +7,7 @@
 #include <QStyle>
 
 #include "dialog/window/chooser/ElidedLabel.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -48,11 +48,12 @@ void PrinterStatusLine::setProblem(const QString &text, const std::function<void
                                    const QString &buttonText)
 {
     m_look.reset();
+    const bool isNews = plainLine(text) != m_text->text();
     m_retryButton->setText(buttonText.isEmpty() ? tr("Try Again") : buttonText);
     showLine(style()->standardIcon(QStyle::SP_MessageBoxWarning), plainLine(text), QString(),
              retry);
-    QAccessibleEvent event(m_text, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    if (isNews)
+        announce(this, plainLine(text));
 }
 
 void PrinterStatusLine::clear()

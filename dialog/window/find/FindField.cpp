@@ -11,6 +11,7 @@
 
 #include "dialog/window/chooser/PrinterIcon.h"
 #include "dialog/window/find/FindPopup.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -91,6 +92,7 @@ void FindField::takeIconFromTheme()
 {
     m_edit->setClearButtonEnabled(true);
     m_edit->addAction(searchIcon(), QLineEdit::LeadingPosition);
+    setFieldButtonNames(m_edit, QCoreApplication::translate("ClearButton", "Clear"));
     m_button->setIcon(searchIcon());
     m_edit->update(); // its text begins behind the icon by now
 }

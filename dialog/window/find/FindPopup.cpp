@@ -10,6 +10,7 @@
 
 #include "dialog/window/find/FindRowDelegate.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -100,8 +101,7 @@ void FindPopup::sayCount()
     QTimer::singleShot(kPause, this, [this, said] {
         if (said != m_saying || !isVisible())
             return;
-        QAccessibleEvent event(m_note, QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
+        announce(this, m_note->text());
     });
 }
 

@@ -1,6 +1,5 @@
 #include "dialog/window/pages/AttributeEditor.h"
 
-#include <QAccessible>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -13,9 +12,11 @@
 #include "dialog/window/pages/NumberField.h"
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/NarrowComboBox.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ProgrammaticChange.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -130,12 +131,11 @@ class WordEditor : public AttributeEditor
 {
 public:
     WordEditor(const JobAttribute &attribute, QWidget *parent)
-        : AttributeEditor(attribute, parent), m_words(new QComboBox(this)),
+        : AttributeEditor(attribute, parent), m_words(new NarrowComboBox(this)),
           m_usual(attribute.usual.isEmpty() ? QString() : QString(attribute.usual))
     {
         m_words->setObjectName(attribute.name);
         m_words->setAccessibleName(titleOf(attribute));
-        m_words->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         m_words->setMinimumContentsLength(12);
         ignoreWheelWithoutFocus(m_words);
         for (const AllowedValues::Word &word : attribute.allowed.words)
@@ -269,12 +269,10 @@ QString AttributeEditor::name() const
 void AttributeEditor::setField(QWidget *field)
 {
     layout()->addWidget(field);
-    setFocusProxy(control());
-    // A screen reader takes a pop-up's name from a label beside it, and that of the row is outside.
-    QLabel *name = plainLabel({}, control()->parentWidget());
-    name->hide();
-    name->setBuddy(control());
-    setLiteralText(name, titleOf(m_attribute));
+    // No focus proxy: rows that are made later stand last in the order of Tab until their controls
+    // are put in it, and Tab would enter the row that is left there instead of going round. A
+    // screen reader takes a pop-up's name from a label beside it, and that of the row is outside.
+    setAccessibleLabel(control(), titleOf(m_attribute));
 }
 
 void AttributeEditor::setHint(const QString &hint)
@@ -291,6 +289,7 @@ void AttributeEditor::showValue(const QString &value)
     m_shown = value;
     const ProgrammaticChange change;
     put(value);
+    m_stood = entered();
     if (m_refused)
         showProblem({});
 }
@@ -316,14 +315,15 @@ void AttributeEditor::showProblem(const QString &problem)
     if (!m_refused)
         return;
     // A screen reader says it, although the focus may be elsewhere by now.
-    QAccessibleEvent event(m_note, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    announce(this, m_note->text());
 }
 
 void AttributeEditor::propose()
 {
     const QString value = entered();
-    const bool isShown = areSame(value, m_shown) ||
+    // A field may have other words for what is in force: "Automatic", the nearest number. Nobody
+    // has chosen these.
+    const bool isShown = areSame(value, m_shown) || areSame(value, m_stood) ||
                          (m_shown.isNull() && !value.isEmpty() && value == m_attribute.usual);
     if (isShown && !m_refused)
         return;

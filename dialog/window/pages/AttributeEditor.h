@@ -67,6 +67,7 @@ private:
     QLabel *m_note = nullptr; // what is said about the field
     QString m_hint;
     QString m_shown; // the value in force, as it was shown last
+    QString m_stood; // what stood in the field then
     bool m_refused = false;
 };
 

@@ -93,7 +93,7 @@ void AttributeRows::addRow(const OfferedAttribute &offered, int row)
     auto *editor = AttributeEditor::create(attribute, m_form->parentWidget());
     QLabel *label = plainLabel({}, m_form->parentWidget());
     const QString title = textOfJobAttribute({attribute.name, {}}).title;
-    label->setText(withFreeMnemonic(title, QLatin1StringView(attribute.title), window()) + u':');
+    label->setText(asTitle(withFreeMnemonic(title, QLatin1StringView(attribute.title), window())));
     label->setBuddy(editor->control());
     // Beside the field, not beside what is said below it.
     label->setFixedHeight(editor->control()->sizeHint().height());
@@ -133,7 +133,7 @@ void AttributeRows::keepLabelsInPlace()
     auto *label = qobject_cast<QLabel *>(m_form->itemAt(0, QFormLayout::LabelRole)->widget());
     int width = 0;
     for (const OfferedAttribute &one : std::as_const(m_offered)) {
-        const QString title = textOfJobAttribute({one.name, {}}).title + u':';
+        const QString title = asTitle(textOfJobAttribute({one.name, {}}).title);
         if (one.place == Place::More)
             width = qMax(width, label->fontMetrics().horizontalAdvance(title));
     }

@@ -1,14 +1,16 @@
 #include "dialog/window/pages/ChangeMarks.h"
 
+#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QStyle>
 
-#include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -26,10 +28,10 @@ bool isField(const QWidget *widget)
            qobject_cast<const QAbstractSpinBox *>(widget);
 }
 
-// Where the text of a title begins and ends. Units: pixels of its parent.
-std::pair<int, int> textOf(const QWidget &title)
+// Where the text of a title begins and ends. Units: pixels of an ancestor of its.
+std::pair<int, int> textOf(const QWidget &title, const QWidget &ancestor)
 {
-    const QRect whole = title.geometry();
+    const QRect whole(title.mapTo(&ancestor, QPoint()), title.size());
     const auto *label = qobject_cast<const QLabel *>(&title);
     if (!label || label->wordWrap())
         return {whole.left(), whole.right() + 1};
@@ -42,33 +44,42 @@ std::pair<int, int> textOf(const QWidget &title)
     return {left, left + width};
 }
 
+// Whether a page ends with this widget: what is beyond is clipped or belongs to others.
+bool isWholePage(const QWidget &widget)
+{
+    const QWidget *parent = widget.parentWidget();
+    return !parent || widget.isWindow() ||
+           qobject_cast<const QAbstractScrollArea *>(parent->parentWidget());
+}
+
 } // namespace
 
-// Lies over the page, in front of the title where there is room, else behind it.
+// Lies over the page, in front of the title: in the group of the title, or else in whatever is
+// around that group and has the room. Where nothing has, it lies behind the title.
 class ChangeMarks::Dot : public QWidget
 {
 public:
-    explicit Dot(QWidget &title) : QWidget(title.parentWidget()), m_title(title)
+    explicit Dot(QWidget &title) : QWidget(title.parentWidget()), m_title(&title)
     {
         setObjectName(u"changed"_s);
+        setAccessibleRole(this, QAccessible::Graphic);
         setFocusPolicy(Qt::NoFocus);
     }
 
     void follow()
     {
-        const int side = qMax(6, fontMetrics().height() / 2);
-        const QRect whole = m_title.geometry();
-        const auto [left, right] = textOf(m_title);
-        const bool isMirrored = m_title.layoutDirection() == Qt::RightToLeft;
-        const int before = isMirrored ? right + kGap : left - side - kGap;
-        const int behind = isMirrored ? left - side - kGap : right + kGap;
-        const int most = qMax(0, parentWidget()->width() - side);
-        // A title that begins at the very edge of its page has room enough in front of its letters.
-        const int overlap = kGap + side / 4;
-        const bool fits = before >= -overlap && before <= most + overlap;
-        setGeometry(qBound(0, fits ? before : behind, most), whole.center().y() - side / 2, side,
-                    side);
-        setVisible(m_title.isVisibleTo(m_title.parentWidget()));
+        m_side = qMax(6, fontMetrics().height() / 2);
+        QWidget *group = m_title->parentWidget();
+        QWidget *host = group;
+        while (!hasRoomIn(*host) && !isWholePage(*host))
+            host = host->parentWidget();
+        const bool fits = hasRoomIn(*host);
+        moveTo(fits ? host : group);
+        const int most = qMax(0, parentWidget()->width() - m_side);
+        const int middle = m_title->mapTo(parentWidget(), m_title->rect().center()).y();
+        setGeometry(qBound(0, placeIn(*parentWidget(), fits), most), middle - m_side / 2, m_side,
+                    m_side);
+        setVisible(m_title->isVisibleTo(parentWidget()));
         raise();
     }
 
@@ -83,8 +94,50 @@ protected:
         painter.drawEllipse(QRectF(side * 0.15, side * 0.15, side * 0.7, side * 0.7));
     }
 
+    // A group between the page and the title was moved.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isMoved = event->type() == QEvent::Move || event->type() == QEvent::Resize ||
+                             event->type() == QEvent::ShowToParent ||
+                             event->type() == QEvent::HideToParent;
+        if (isMoved && m_title)
+            follow();
+        return QWidget::eventFilter(watched, event);
+    }
+
 private:
-    QWidget &m_title;
+    int placeIn(const QWidget &host, bool isBefore) const
+    {
+        const auto [left, right] = textOf(*m_title, host);
+        const bool isMirrored = m_title->layoutDirection() == Qt::RightToLeft;
+        return isBefore == isMirrored ? right + kGap : left - m_side - kGap;
+    }
+
+    bool hasRoomIn(const QWidget &host) const
+    {
+        const int place = placeIn(host, true);
+        return place >= 0 && place + m_side <= host.width();
+    }
+
+    void moveTo(QWidget *host)
+    {
+        if (parentWidget() == host)
+            return;
+        for (const QPointer<QWidget> &group : std::exchange(m_groups, {})) {
+            if (group)
+                group->removeEventFilter(this);
+        }
+        setParent(host);
+        for (QWidget *group = m_title->parentWidget(); group != host;
+             group = group->parentWidget()) {
+            group->installEventFilter(this);
+            m_groups += group;
+        }
+    }
+
+    QPointer<QWidget> m_title;
+    QList<QPointer<QWidget>> m_groups; // around the title, within the parent
+    int m_side = 0;
 };
 
 ChangeMarks::ChangeMarks(QObject *parent) : QObject(parent) {}
@@ -127,7 +180,7 @@ void ChangeMarks::mark(const MarkedControl &control, const QString &text)
         for (QWidget *watched : {title, control.control.data(), static_cast<QWidget *>(mark.dot)})
             watched->installEventFilter(this);
     }
-    mark.dot->setToolTip(plainToolTip(said));
+    setPlainToolTip(mark.dot, said);
     mark.dot->setAccessibleName(said);
     control.control->setAccessibleDescription(
         mark.description.isEmpty() ? said : tr("%1 %2").arg(said, mark.description));

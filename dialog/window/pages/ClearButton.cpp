@@ -1,5 +1,7 @@
 #include "dialog/window/pages/ClearButton.h"
+#include "platform/toolkit/ScreenReader.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
 
 namespace corvana {
@@ -7,8 +9,10 @@ namespace corvana {
 void addClearButton(QLineEdit *field)
 {
     QObject::connect(field, &QLineEdit::textChanged, field, [field](const QString &text) {
-        if (!text.isEmpty())
-            field->setClearButtonEnabled(true);
+        if (text.isEmpty() || field->isClearButtonEnabled())
+            return;
+        field->setClearButtonEnabled(true);
+        setFieldButtonNames(field, QCoreApplication::translate("ClearButton", "Clear"));
     });
 }
 

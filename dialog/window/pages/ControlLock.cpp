@@ -120,6 +120,8 @@ ControlLock::ControlLock(QWidget *control, QWidget *label)
         if (child != m_mark)
             watch(child);
     }
+    if (const auto *slider = qobject_cast<QAbstractSlider *>(control))
+        connect(slider, &QAbstractSlider::valueChanged, this, &ControlLock::placeMark);
     placeMark();
     m_mark->show();
 }
@@ -145,6 +147,8 @@ void ControlLock::set(QWidget *control, const QString &why, QWidget *label)
         control->setAccessibleDescription(lock->m_description);
         if (lock->m_label)
             lock->m_label->setToolTip(lock->m_labelToolTip);
+        if (auto *field = qobject_cast<QLineEdit *>(control))
+            field->setTextMargins({});
         delete lock;
         return;
     }
@@ -196,9 +200,33 @@ void ControlLock::placeMark()
         const int words = button->sizeHint().width();
         button->setMinimumWidth(words + size + 4);
         place.moveLeft(qMin(words + 2, button->width() - size));
+    } else if (const auto *slider = qobject_cast<QAbstractSlider *>(m_control)) {
+        // At the end where the handle is not.
+        const int handle = slider->sliderPosition();
+        if (handle - slider->minimum() > slider->maximum() - handle)
+            place.moveLeft(3);
+    } else if (auto *field = qobject_cast<QLineEdit *>(m_control)) {
+        placeInField(field, size);
+        return;
     }
     m_mark->setGeometry(QStyle::visualRect(m_control->layoutDirection(), m_control->rect(), place));
     m_mark->raise();
+}
+
+// Opposite to where a text stands at its end, as numbers do; else behind the text, which ends
+// before the padlock.
+void ControlLock::placeInField(QLineEdit *field, int size)
+{
+    const int side = qMin(size, field->width() / 3);
+    const bool isTextRight =
+        (QStyle::visualAlignment(field->layoutDirection(), field->alignment()) & Qt::AlignRight) !=
+        0;
+    const int left = isTextRight ? 3 : field->width() - side - 3;
+    m_mark->setGeometry(left, (field->height() - side) / 2, side, side);
+    m_mark->raise();
+    const QMargins room = isTextRight ? QMargins(side, 0, 0, 0) : QMargins(0, 0, side, 0);
+    if (field->textMargins() != room)
+        field->setTextMargins(room);
 }
 
 bool ControlLock::eventFilter(QObject *watched, QEvent *event)

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QString>
 
+class QLineEdit;
 class QWidget;
 
 namespace corvana {
@@ -36,6 +37,7 @@ private:
     void watch(QWidget *widget);
     void say(const QString &why);
     void placeMark();
+    void placeInField(QLineEdit *field, int size);
 
     QWidget *m_control;
     QPointer<QWidget> m_label;

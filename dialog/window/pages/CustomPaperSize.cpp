@@ -14,6 +14,7 @@
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ProgrammaticChange.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -56,9 +57,9 @@ void setRange(QDoubleSpinBox *field, float least, float most, const Unit &unit)
     constexpr double kHair = 1e-6;
     field->setRange(std::ceil(static_cast<double>(least) / unit.points * parts - kHair) / parts,
                     std::floor(static_cast<double>(most) / unit.points * parts + kHair) / parts);
-    field->setToolTip(plainToolTip(
-        CustomPaperSize::tr("From %1 to %2")
-            .arg(field->textFromValue(field->minimum()), field->textFromValue(field->maximum()))));
+    setPlainToolTip(field, CustomPaperSize::tr("From %1 to %2")
+                               .arg(field->textFromValue(field->minimum()),
+                                    field->textFromValue(field->maximum())));
 }
 
 } // namespace
@@ -70,7 +71,7 @@ CustomPaperSize::CustomPaperSize(ppd_file_t *ppd, QWidget *parent)
     m_width->setAccessibleName(tr("Paper width"));
     m_height->setAccessibleName(tr("Paper height"));
     m_unit->setObjectName(u"paperUnit"_s);
-    m_unit->setAccessibleName(tr("Unit of the paper size"));
+    setAccessibleLabel(m_unit, tr("Unit of the paper size"));
     m_unit->addItems({tr("mm"), tr("inches")});
     m_unit->setCurrentIndex(usesInches() ? 1 : 0);
     ignoreWheelWithoutFocus(m_unit);

@@ -24,9 +24,11 @@
 #include "platform/toolkit/ControlActions.h"
 #include "platform/toolkit/MenuActions.h"
 #include "platform/toolkit/Mnemonics.h"
+#include "platform/toolkit/NarrowComboBox.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ProgrammaticChange.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -112,6 +114,7 @@ void GeneralPage::addPageRanges(QFormLayout *form)
     row->addWidget(m_choosePages);
     field->setFocusProxy(m_pageRanges);
     m_pageRanges->setObjectName(u"pageRanges"_s);
+    m_pageRanges->setAccessibleName(tr("Pages")); // its label leads past the row that it stands in
     m_pageRanges->setPlaceholderText(tr("All, or such as 1-4, 7, 9-"));
     m_pageRanges->setMaxLength(kMostLetters);
     addClearButton(m_pageRanges);
@@ -129,6 +132,7 @@ void GeneralPage::scroll(QWidget *rows)
 {
     m_area = new QScrollArea(this);
     m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus); // its rows have the focus, and are scrolled into sight
     m_area->setWidgetResizable(true);
     m_area->setWidget(rows);
     m_area->viewport()->setAutoFillBackground(false);
@@ -179,7 +183,7 @@ void GeneralPage::offerPageRanges(bool offer)
 void GeneralPage::setCanChoosePages(bool can)
 {
     m_choosePages->setEnabled(can);
-    m_choosePages->setToolTip(can ? QString() : plainToolTip(tr("No document has been chosen.")));
+    setPlainToolTip(m_choosePages, can ? QString() : tr("No document has been chosen."));
 }
 
 void GeneralPage::setLocks(const QString &copiesBy, const QString &pagesBy)
@@ -292,10 +296,9 @@ void GeneralPage::addOption(const QString &keyword)
     // A printer that names one side as its only choice has nothing to choose from.
     if (!option || (keyword == kDuplexOption && option->num_choices < 2))
         return;
-    auto *popUp = new QComboBox(this);
+    auto *popUp = new NarrowComboBox(this);
     popUp->setObjectName(keyword);
     // The texts of a PPD do not decide how wide the window is.
-    popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     popUp->setMinimumContentsLength(12);
     const QStringList titles = choiceTitles(*option);
     for (int i = 0; i < option->num_choices; ++i) {
@@ -316,7 +319,7 @@ void GeneralPage::addOption(const QString &keyword)
         postNotificationWhenMenuActs(popUp); // panels follow the paper menu
     QLabel *label = plainLabel({}, this);
     label->setBuddy(popUp);
-    setLiteralText(label, title + u':');
+    setLiteralText(label, asTitle(title));
     m_rows->addRow(label, popUp);
     m_popUps.insert(keyword, popUp);
     if (keyword == kPageSizeOption && takesCustomPageSizes(m_session.ppd()))
@@ -335,9 +338,10 @@ void GeneralPage::addCustomPaperSize(QComboBox *sizes)
 void GeneralPage::proposeCustomPaper()
 {
     const QSizeF size = m_customPaper->size();
-    const CustomValueCheck check = checkCustomValue(
-        m_session.ppd(), kPageSizeOption,
-        u"%1%2x%3"_s.arg(kCustomPrefix).arg(size.width(), 0, 'f', 4).arg(size.height(), 0, 'f', 4));
+    const CustomValueCheck check =
+        checkCustomValue(m_session.ppd(), kPageSizeOption,
+                         kCustomPrefix + u"%1x%2"_s.arg(QString::number(size.width(), 'f', 4),
+                                                        QString::number(size.height(), 'f', 4)));
     if (check.value)
         Q_EMIT proposed(kPageSizeOption, *check.value);
 }

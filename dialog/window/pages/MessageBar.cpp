@@ -11,6 +11,7 @@
 
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -102,7 +103,13 @@ public:
     QSize minimumSizeHint() const override { return {4 * heightOf(1), heightOf(1)}; }
 
 private:
-    int heightOf(int lines) const { return lines * fontMetrics().lineSpacing(); }
+    // Scripts that the font lacks come from others, whose lines are higher.
+    int heightOf(int lines) const
+    {
+        const QFontMetrics metrics = m_label->fontMetrics();
+        const int own = metrics.size(Qt::TextSingleLine, m_label->text()).height();
+        return lines * qMax(metrics.lineSpacing(), own);
+    }
 
     QLabel *m_label;
     QString m_text;
@@ -113,6 +120,7 @@ private:
 MessageBar::MessageBar(QWidget *parent)
     : QFrame(parent), m_icon(new QLabel(this)), m_text(new MessageText(this))
 {
+    setAccessibleRole(this, QAccessible::AlertMessage);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
@@ -139,7 +147,7 @@ void MessageBar::buildButtons()
     m_details = new QToolButton(this);
     m_details->setObjectName(u"messageDetails"_s);
     m_details->setText(tr("Details"));
-    m_details->setToolTip(plainToolTip(tr("Show all of this message")));
+    setPlainToolTip(m_details, tr("Show all of this message"));
     m_details->setAutoRaise(true);
     m_details->setCheckable(true);
     m_details->hide();
@@ -147,7 +155,7 @@ void MessageBar::buildButtons()
     m_close->setObjectName(u"messageClose"_s);
     m_close->setAutoRaise(true);
     m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    m_close->setToolTip(plainToolTip(tr("Dismiss this message")));
+    setPlainToolTip(m_close, tr("Dismiss this message"));
     m_close->setAccessibleName(tr("Dismiss this message"));
     connect(m_close, &QToolButton::clicked, this, &MessageBar::dismiss);
     connect(m_details, &QToolButton::toggled, this,
@@ -195,7 +203,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     const QString shown = fontMetrics().elidedText(actionText, Qt::ElideMiddle,
                                                    kWidestAction * fontMetrics().height());
     m_action->setText(withoutMnemonic(shown));
-    m_action->setToolTip(shown == actionText ? QString() : plainToolTip(actionText));
+    setPlainToolTip(m_action, shown == actionText ? QString() : actionText);
     m_action->setVisible(!actionText.isEmpty());
     m_do = action;
     m_keeps = false;
@@ -203,8 +211,7 @@ void MessageBar::showMessage(Kind kind, const QString &text, const QString &acti
     updateDetails();
     // A screen reader says it, although the focus stays where the user works.
     setAccessibleName(text);
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    announce(this, text);
 }
 
 void MessageBar::addDetails(const QString &details)

@@ -217,6 +217,9 @@ QVariant OptionsModel::data(const QModelIndex &index, int role) const
         return plainToolTip(title ? titleToolTip(*option) : remark(*option));
     case Qt::DecorationRole:
         return !title && m_session.locks().contains(option->keyword) ? lockIcon() : QVariant();
+    case Qt::AccessibleTextRole:
+        // The focus is on the value, of which a screen reader would not say what it is a value of.
+        return title ? option->title : u"%1: %2"_s.arg(option->title, option->value);
     case Qt::AccessibleDescriptionRole:
         // A heading is not read to who goes through the rows.
         return title ? m_groups.at(index.parent().row()).title : remark(*option);

@@ -1,6 +1,5 @@
 #include "dialog/window/pages/OptionsPage.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
@@ -15,6 +14,7 @@
 #include "dialog/window/pages/OptionsModel.h"
 #include "dialog/window/pages/OptionsView.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -202,10 +202,8 @@ void OptionsPage::say(const QString &text, bool aloud)
             m_view->scrollTo(m_view->currentIndex());
         },
         Qt::QueuedConnection);
-    if (!aloud)
-        return;
-    QAccessibleEvent event(m_hint, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    if (aloud)
+        announce(this, text);
 }
 
 } // namespace corvana

@@ -9,6 +9,7 @@ namespace corvana {
 
 PanelPage::PanelPage(QWidget *parent) : QScrollArea(parent)
 {
+    setFocusPolicy(Qt::NoFocus); // what it holds has the focus, and is scrolled into sight
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);

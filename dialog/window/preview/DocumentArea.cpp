@@ -11,6 +11,7 @@
 
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -75,7 +76,7 @@ QToolButton *DocumentArea::addButton(const QString &name, const QString &what)
 {
     auto *button = new QToolButton(this);
     button->setObjectName(name);
-    button->setToolTip(plainToolTip(what));
+    setPlainToolTip(button, what);
     button->setAccessibleName(what);
     return button;
 }
@@ -120,7 +121,7 @@ void DocumentArea::setDocuments(const QString &title, const QList<ListedDocument
             item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled);
             m_list->addItem(item);
         }
-        m_list->setCurrentRow(qBound(0, row, m_list->count() - 1));
+        m_list->setCurrentRow(qMin(qMax(0, row), m_list->count() - 1));
     }
     setFolded(m_isFolded);
     m_list->setVisible(documents.size() > 1);

@@ -56,15 +56,22 @@ PreviewPlaceholder::PreviewPlaceholder(QWidget *parent)
     layout->addWidget(m_choose, 0, Qt::AlignHCenter);
     layout->addStretch(1);
     connect(m_choose, &QPushButton::clicked, this, &PreviewPlaceholder::choosePressed);
-    QFont font = m_reason->font();
-    font.setPointSizeF(font.pointSizeF() * kReasonSize);
-    m_reason->setFont(font);
     showReason({}, {});
+}
+
+// A font of another size takes a window that has nothing to say with it longer to come up.
+void PreviewPlaceholder::setReason(const QString &reason)
+{
+    QFont wanted = font();
+    if (!reason.isEmpty())
+        wanted.setPointSizeF(wanted.pointSizeF() * kReasonSize);
+    m_reason->setFont(wanted);
+    m_reason->setText(reason);
 }
 
 void PreviewPlaceholder::showReason(const QString &reason, const QString &note)
 {
-    m_reason->setText(reason);
+    setReason(reason);
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
     m_choose->hide();
@@ -73,7 +80,7 @@ void PreviewPlaceholder::showReason(const QString &reason, const QString &note)
 
 void PreviewPlaceholder::showDropArea()
 {
-    m_reason->setText(tr("Drop documents here to print them."));
+    setReason(tr("Drop documents here to print them."));
     m_note->setText(tr("PDF, PostScript, text, PNG and JPEG; several are one job."));
     m_note->show();
     m_choose->show();

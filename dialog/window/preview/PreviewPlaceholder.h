@@ -31,6 +31,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void setReason(const QString &reason);
+
     QLabel *m_reason;
     QLabel *m_note;
     QPushButton *m_choose;

@@ -2,9 +2,9 @@
 
 #include <chrono>
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -12,6 +12,7 @@
 #include "dialog/window/preview/SheetView.h"
 #include "dialog/window/preview/ZoomControl.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -51,8 +52,9 @@ void SheetsRow::refresh()
     else if (!m_view.sheets().areAll)
         m_lookedAt->setLine(tr("Sheet %L1").arg(sheet + 1));
     else
-        m_lookedAt->setLine(
-            tr("Sheet %L1 of %L2").arg(sheet + 1).arg(m_view.sheetLayout().sheets()));
+        m_lookedAt->setLine(tr("Sheet %L1 of %L2")
+                                .arg(QLocale().toString(sheet + 1),
+                                     QLocale().toString(m_view.sheetLayout().sheets())));
 }
 
 ColorsRow::ColorsRow(QWidget *parent)
@@ -63,8 +65,8 @@ ColorsRow::ColorsRow(QWidget *parent)
     m_text->setMinimumWidth(1);
     m_compare->setObjectName(u"compare"_s);
     m_compare->setText(tr("Hold to Compare"));
-    m_compare->setToolTip(
-        plainToolTip(tr("While it is held, the document is shown as it is, without adjustments.")));
+    setPlainToolTip(m_compare,
+                    tr("While it is held, the document is shown as it is, without adjustments."));
     m_compare->setAutoDefault(false);
     QHBoxLayout *layout = rowLayout(this);
     layout->addWidget(m_text, 1);
@@ -120,8 +122,7 @@ void CountsRow::announce()
     if (counts.isEmpty() || !m_counts->isEnabled() || counts == m_announced)
         return;
     m_announced = counts;
-    QAccessibleEvent event(m_counts, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    corvana::announce(this, counts);
 }
 
 void CountsRow::setFolded(bool folded, bool canUnfold)

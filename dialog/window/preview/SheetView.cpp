@@ -12,6 +12,7 @@
 
 #include "dialog/window/preview/SidePictures.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -30,6 +31,7 @@ constexpr int kSteps[] = {25, 33, 50, 67, 75, 100, 125, 150, 200, 300, 400};
 SheetView::SheetView(QWidget *parent) : QAbstractScrollArea(parent)
 {
     setObjectName(u"sheets"_s);
+    setAccessibleRole(this, QAccessible::Graphic);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setAutoFillBackground(false);

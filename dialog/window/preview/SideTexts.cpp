@@ -70,15 +70,15 @@ QString sideDescription(const SheetPlan &plan, const QStringList &titles, SideIn
     QString pages = contentsText(*planned);
     if (titles.size() > 1 && !planned->pages.isEmpty())
         pages = Texts::tr("%1 of %2").arg(pages, titles.value(planned->document));
-    const int number = side.sheet + 1;
+    const QString number = QLocale().toString(side.sheet + 1);
     const bool isLandscape = planned->paper.width() > planned->paper.height();
     QString text;
     if (!isTwoSided(plan))
-        text = Texts::tr("Sheet %L1: %2").arg(number).arg(pages);
+        text = Texts::tr("Sheet %L1: %2").arg(number, pages);
     else if (side.isBack)
-        text = Texts::tr("Sheet %L1, back: %2").arg(number).arg(pages);
+        text = Texts::tr("Sheet %L1, back: %2").arg(number, pages);
     else
-        text = Texts::tr("Sheet %L1, front: %2").arg(number).arg(pages);
+        text = Texts::tr("Sheet %L1, front: %2").arg(number, pages);
     return isLandscape ? Texts::tr("%1, landscape").arg(text) : text;
 }
 

@@ -7,7 +7,7 @@
 
 #include "dialog/window/preview/SheetView.h"
 #include "platform/toolkit/ControlActions.h"
-#include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -24,8 +24,8 @@ ZoomControl::ZoomControl(SheetView &view, QWidget *parent)
       m_sizes(new QComboBox(this)), m_in(button(u"zoomIn"_s, u"+"_s, tr("Larger")))
 {
     m_sizes->setObjectName(u"zoom"_s);
-    m_sizes->setAccessibleName(tr("Size of the sheets"));
-    m_sizes->setToolTip(plainToolTip(tr("Size of the sheets")));
+    setAccessibleLabel(m_sizes, tr("Size of the sheets"));
+    setPlainToolTip(m_sizes, tr("Size of the sheets"));
     ignoreWheelWithoutFocus(m_sizes);
     fillSizes();
     auto *layout = new QHBoxLayout(this);
@@ -49,7 +49,7 @@ QToolButton *ZoomControl::button(const QString &name, const QString &text, const
     made->setObjectName(name);
     made->setText(text);
     made->setAutoRaise(true);
-    made->setToolTip(plainToolTip(what));
+    setPlainToolTip(made, what);
     made->setAccessibleName(what);
     made->setFocusPolicy(Qt::NoFocus);
     return made;

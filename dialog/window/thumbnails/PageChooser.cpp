@@ -3,7 +3,6 @@
 #include <limits>
 #include <utility>
 
-#include <QAccessible>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,6 +16,7 @@
 #include "dialog/window/thumbnails/PageModel.h"
 #include "dialog/window/thumbnails/PageThumbnails.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
 
@@ -226,8 +226,7 @@ void PageChooser::showState()
     if (isGood || !isNews)
         return;
     // A screen reader says why, although the focus stays where the user works.
-    QAccessibleEvent event(m_note, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    announce(this, problem);
 }
 
 bool PageChooser::hasChanged() const

@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>advancedcolorItem</source>
-        <translation>色彩调整</translation>
+        <translation>颜色调整</translation>
     </message>
     <message>
         <source>QXBrightness</source>
@@ -153,15 +153,15 @@
     </message>
     <message>
         <source>RevertEffects</source>
-        <translation>撤消最近的更改</translation>
+        <translation>撤销最近的更改</translation>
     </message>
     <message>
         <source>EffectPreview</source>
-        <translation>色彩调整预览</translation>
+        <translation>颜色调整预览</translation>
     </message>
     <message>
         <source>NoColorEffects</source>
-        <translation>此打印机的驱动程序不支持色彩调整。</translation>
+        <translation>此打印机的驱动程序不支持颜色调整。</translation>
     </message>
     <message>
         <source>AllowedNumbers</source>

@@ -19,6 +19,7 @@ from .texts import (
     TRANSLATIONS,
     check_keyword,
     check_text,
+    translated,
 )
 
 # The order in which the code of options runs. Page sizes reset the page device's state, so they
@@ -189,7 +190,7 @@ class _Writer:
     def translations(self):
         for language in TRANSLATIONS:
             for key, text in self._texts:
-                self.lines.append(f'*{language}.{key}/{getattr(text, language)}: ""')
+                self.lines.append(f'*{language}.{key}/{translated(key, text, language)}: ""')
 
     def _page_sizes(self):
         m = self._model

@@ -55,6 +55,25 @@ private Q_SLOTS:
         QVERIFY(checks.isDone());
     }
 
+    // Its filters would find no page in a document without an end, whose pages are all there.
+    void whatCanBeMendedIsPrintedMended()
+    {
+        DocumentChecks checks;
+        const QByteArray whole = numberedPdf("page", 3);
+        const Document document = pdf(whole.left(whole.indexOf("xref\n0 ")));
+        const DocumentState state = checked(checks, document);
+        QCOMPARE(state.kind, Kind::Fine);
+        QVERIFY(state.isDamaged);
+        QCOMPARE(state.pages, 3);
+        QCOMPARE(state.lostPages, 0);
+        const Document printed = checks.printed(document);
+        QVERIFY(printed.path != document.path);
+        DocumentChecks again;
+        const DocumentState mended = checked(again, printed);
+        QVERIFY(!mended.isDamaged);
+        QCOMPARE(mended.pages, 3);
+    }
+
     // What nobody can find out stands in nobody's way.
     void aRendererThatDoesNotRunHoldsNothingUp_data()
     {

@@ -333,8 +333,14 @@ private Q_SLOTS:
                                   << u"光沢写真用紙"_s << u"光沢紙"_s;
         QTest::newRow("Chinese") << QByteArray("zh_CN.UTF-8") << u"介质类型"_s << u"光面照片纸"_s
                                  << u"光沢紙"_s;
+        QTest::newRow("Austria") << QByteArray("de_AT.UTF-8") << u"Papiertyp"_s
+                                 << u"Fotopapier, glänzend"_s << u"光沢紙"_s;
+        QTest::newRow("Portugal") << QByteArray("pt_PT.UTF-8") << u"Tipo de papel"_s
+                                  << u"Papel fotográfico brilhante"_s << u"光沢紙"_s;
+        QTest::newRow("Taiwan") << QByteArray("zh_TW.UTF-8") << u"紙張類型"_s << u"光面相片紙"_s
+                                << u"光沢紙"_s;
         QTest::newRow("a language that it does not know")
-            << QByteArray("de_DE.UTF-8") << u"Paper Type"_s << u"Glossy Photo Paper"_s
+            << QByteArray("sv_SE.UTF-8") << u"Paper Type"_s << u"Glossy Photo Paper"_s
             << u"Choice"_s;
     }
     void textsAreInTheUsersLanguage()

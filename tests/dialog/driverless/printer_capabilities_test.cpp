@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <limits>
 
 #include <QTest>
 
 #include "dialog/driverless/PrinterCapabilities.h"
 #include "tests/dialog/driverless/PrinterProfiles.h"
+#include "tests/dialog/server/IppBytes.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -274,6 +276,33 @@ private Q_SLOTS:
         ippAddResolution(attributes.ipp(), IPP_TAG_PRINTER, "printer-resolution-supported",
                          IPP_RES_PER_CM, 236, 118);
         QCOMPARE(capabilitiesOf(attributes.ipp()).resolutions, QList<QSize>{QSize(599, 300)});
+    }
+
+    // The unit is one byte, whatever the enumeration has.
+    void resolutionsOfAnUnknownUnitAreLeftOut()
+    {
+        const auto resolution = [](const QByteArray &name, int dots, int unit) {
+            const QByteArray number = QByteArray(2, '\0') + twoBytes(dots);
+            return ippField(IPP_TAG_RESOLUTION, name, number + number + static_cast<char>(unit));
+        };
+        QByteArray bytes =
+            ippAnswerBytes(resolution("printer-resolution-supported", 600, IPP_RES_PER_INCH) +
+                           resolution({}, 300, 200) + resolution({}, 1200, 0) +
+                           resolution("printer-resolution-default", 300, 200));
+        const auto read = [](void *rest, ipp_uchar_t *buffer, size_t length) {
+            auto &left = *static_cast<QByteArray *>(rest);
+            const auto part = std::min(left.size(), static_cast<qsizetype>(length));
+            std::copy_n(left.cbegin(), part, buffer);
+            left.remove(0, part);
+            return static_cast<ssize_t>(part);
+        };
+        const PrinterAttributes attributes;
+        while (ippReadIO(&bytes, read, 1, nullptr, attributes.ipp()) == IPP_STATE_ATTRIBUTE) {
+        }
+        QCOMPARE(bytes.size(), 0);
+        const PrinterCapabilities printer = capabilitiesOf(attributes.ipp());
+        QCOMPARE(printer.resolutions, (QList<QSize>{{600, 600}}));
+        QVERIFY(printer.defaultResolution.isEmpty());
     }
 
     void absurdNumbersAreLeftOut()

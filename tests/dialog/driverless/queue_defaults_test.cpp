@@ -1,3 +1,5 @@
+#include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <cups/cups.h>
@@ -93,6 +95,12 @@ const QList<DefaultCase> kDefaults{
     {"what would be another option", // left out
      [](PrinterAttributes &q) { q.names("Sparkle-default", {"bright Glow=1"}); },
      {}},
+    {"a default of nothing", // left out
+     [](PrinterAttributes &q) { q.names("-default", {"bright"}); },
+     {}},
+    {"a name that would be another option", // left out
+     [](PrinterAttributes &q) { q.names("Sparkle=1 Glow-default", {"bright"}); },
+     {}},
     {"both sides in front of the PPD's",
      [](PrinterAttributes &q) { q.keywords("sides-default", {"two-sided-long-edge"}); },
      {{u"sides"_s, u"two-sided-long-edge"_s}}},
@@ -140,6 +148,21 @@ private Q_SLOTS:
         queue.keywords("print-color-mode-default", {"monochrome"});
         QCOMPARE(queueDefaults(queue.ipp()), QList<JobOption>());
         QCOMPARE(queueDefaults(nullptr), QList<JobOption>());
+    }
+
+    // A walk for each would take half a minute.
+    void defaultsWithoutNumberAreReadInOneWalk()
+    {
+        PrinterAttributes queue = untouched();
+        for (int i = 0; i < 40'000; ++i)
+            queue.integers(QByteArray("a" + QByteArray::number(i) + "-default").constData(), {7});
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"too many defaults"_s));
+        QElapsedTimer time;
+        time.start();
+        const QList<JobOption> defaults = queueDefaults(queue.ipp());
+        QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY(defaults.size() > 900 && defaults.size() <= 1000);
+        QCOMPARE(defaults.at(0), (JobOption{u"a0"_s, u"7"_s}));
     }
 
     void aRawQueueIsToldApartAndOffersNothing()

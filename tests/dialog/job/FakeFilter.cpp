@@ -56,8 +56,14 @@ bool FakeFilter::waitForFile(const QString &name) const
 
 bool FakeFilter::waitForEndOf(const QString &pidFile) const
 {
-    const QString pid = QString::fromLatin1(content(pidFile).trimmed());
-    return !pid.isEmpty() && QTest::qWaitFor([&] { return !isRunning(pid); }, 10000);
+    // A shell makes a file before it writes into it.
+    QString pid;
+    const auto isKnown = [&] {
+        pid = QString::fromLatin1(content(pidFile).trimmed());
+        return !pid.isEmpty();
+    };
+    return QTest::qWaitFor(isKnown, 10000) &&
+           QTest::qWaitFor([&] { return !isRunning(pid); }, 10000);
 }
 
 } // namespace corvana::test

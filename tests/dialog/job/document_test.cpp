@@ -177,7 +177,9 @@ private Q_SLOTS:
         QTest::newRow("a broken link") << u"broken.pdf"_s << u"no such file"_s;
         QTest::newRow("a folder") << u"folder.pdf"_s << u"is a folder"_s;
         QTest::newRow("empty") << u"empty.pdf"_s << u"is empty"_s;
-        QTest::newRow("binary junk") << u"junk"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
+        QTest::newRow("binary junk") << u"junk"_s
+                                     << u"nobody can tell what is in it. Documents can be PDF, "
+                                        "PostScript, text, PNG or JPEG"_s;
         QTest::newRow("binary junk named PDF")
             << u"junk.pdf"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
         QTest::newRow("an archive") << u"archive.zip"_s << u"PDF, PostScript, text, PNG or JPEG"_s;

@@ -140,6 +140,15 @@ private Q_SLOTS:
         QVERIFY2(!all.contains(u"geheim"_s), qPrintable(all));
     }
 
+    // It would wait for one that is silent, and take its options for the job's.
+    void theChainAsksNoPrintServer()
+    {
+        const Variable server("CUPS_SERVER", "127.0.0.1:1");
+        const FakeFilter filter("echo \"$CUPS_SERVER\" > $DIR/server; echo ok\n");
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(filter.content(u"server"_s), QByteArray("/dev/null\n"));
+    }
+
     void theChainIsToldTheWholeJob()
     {
         const FakeFilter filter("printf '%s\\n' \"$@\" > $DIR/arguments; echo ok\n");

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "dialog/policy/FileTrust.h"
 #include "dialog/policy/PolicyFile.h"
 #include "dialog/policy/PolicyFolder.h"
 #include "tests/support/Rows.h"
@@ -206,6 +207,15 @@ private Q_SLOTS:
         // Whoever tries a policy out has folders of their own above it.
         if (tests.problems.isEmpty())
             QCOMPARE(tests.entries.size(), 1);
+    }
+
+    void whatIsNotThereIsNotTrustedAndSaysWhy()
+    {
+        const QString none = m_dir->filePath(u"none"_s);
+        const auto problem = whyNotTrusted(none, TrustedOwners::RootAndUser);
+        QVERIFY(problem);
+        QCOMPARE(problem->text(), none + u": No such file or directory"_s);
+        QVERIFY(!whyNotTrusted(folder(), TrustedOwners::RootAndUser));
     }
 
     void noMoreFilesAreReadThanAreAllowed()

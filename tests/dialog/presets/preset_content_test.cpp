@@ -143,6 +143,18 @@ private Q_SLOTS:
         QCOMPARE(changes.entries, (QVariantMap{{u"b"_s, 3}}));
     }
 
+    // The effects of a mode stand in one entry, and somebody has moved one slider.
+    void ofAnEntryOfSeveralOptionsTheOneThatWasChangedIsNamed()
+    {
+        const QList<PanelEntry> entries{{u"effects"_s, {}, {u"Red"_s, u"Green"_s}},
+                                        {u"others"_s, {}, {u"Blue"_s, u"Gray"_s}}};
+        PresetContent changes;
+        changes.options = {{u"Red"_s, u"3"_s}};
+        changes.entries = {{u"effects"_s, 3}, {u"others"_s, 1}};
+        // Of a mode that is not in force no option tells which it was.
+        QCOMPARE(namesIn(changes, entries), (QStringList{u"Red"_s, u"Blue"_s, u"Gray"_s}));
+    }
+
     void whatAProgramAskedForIsNotItsUsersWish()
     {
         PresetContent before;

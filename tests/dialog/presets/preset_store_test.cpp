@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -20,6 +22,26 @@ using Replacing = PresetStore::Replacing;
 namespace {
 
 const QString kModel = u"Corvana CL-330 Color"_s;
+
+// The mode of the folder above (0), of the folder for everybody (1), of that of a model in it (2),
+// or of a file in that (3).
+struct Distrusted
+{
+    const char *name;
+    int below;
+    mode_t mode;
+    const char *says; // null where it is believed
+};
+
+constexpr Distrusted kDistrusted[] = {
+    {"nobody else may write anything", 3, 0644, nullptr},
+    {"anybody may write the file", 3, 0646, "the file is not used"},
+    {"its group may write the file", 3, 0664, "the file is not used"},
+    {"anybody may write the model's folder", 2, 0757, "nothing in this folder"},
+    {"its group may write the folder", 1, 0775, "nothing in this folder"},
+    {"anybody may write the folder above", 0, 0777, "nothing below this folder"},
+    {"a folder above such as /tmp", 0, 01777, nullptr},
+};
 
 Preset named(const QString &name, const QString &model = kModel, const QString &media = u"Thick"_s)
 {
@@ -42,7 +64,13 @@ private:
 
     QString own() const { return m_folder->filePath(u"own"_s); }
     QString shared() const { return m_folder->filePath(u"shared"_s); }
-    PresetStore store() const { return PresetStore({own(), {shared()}}); }
+    PresetStore store() const { return PresetStore(places()); }
+    PresetPlaces places() const { return {own(), {shared()}, TrustedOwners::RootAndUser}; }
+    QString fileInShared() const
+    {
+        QDirIterator all(shared(), {u"*.json"_s}, QDir::Files, QDirIterator::Subdirectories);
+        return all.next();
+    }
     QStringList files() const
     {
         QStringList found;
@@ -166,6 +194,58 @@ private Q_SLOTS:
         QVERIFY(!store().rename(named(u"House"_s), u"Mine"_s).isEmpty());
         QCOMPARE(store().remove(named(u"House"_s)), QString());
         QVERIFY(store().list(kModel).find(u"House"_s));
+    }
+
+    void whatOthersMayWriteIsNoAdministratorsPreset_data() { addRows(kDistrusted); }
+    void whatOthersMayWriteIsNoAdministratorsPreset()
+    {
+        const Distrusted &row = currentRow(kDistrusted);
+        QCOMPARE(PresetStore({shared()}).save(named(u"House"_s), Replacing::No), QString());
+        const QString file = fileInShared();
+        const QString spoiled = row.below == 0   ? m_folder->path()
+                                : row.below == 1 ? shared()
+                                : row.below == 2 ? QFileInfo(file).path()
+                                                 : file;
+        ::chmod(QFile::encodeName(spoiled).constData(), row.mode);
+        const PresetStore desk = store();
+        for (const PresetListing &listing : {desk.list(kModel), desk.listAll()}) {
+            QCOMPARE(listing.presets.isEmpty(), row.says != nullptr);
+            QCOMPARE(listing.problems.size(), row.says ? 1 : 0);
+            if (row.says) {
+                QVERIFY2(listing.problems.constFirst().startsWith(spoiled + u": "_s),
+                         qPrintable(listing.problems.constFirst()));
+                QVERIFY2(listing.problems.constFirst().contains(QLatin1StringView(row.says)),
+                         qPrintable(listing.problems.constFirst()));
+            }
+        }
+    }
+
+    void aLinkIsJudgedByWhatItLeadsTo()
+    {
+        QCOMPARE(PresetStore({shared()}).save(named(u"House"_s), Replacing::No), QString());
+        const QString outside = m_folder->filePath(u"outside.json"_s);
+        QVERIFY(QFile::rename(fileInShared(), outside));
+        QVERIFY(QFile::link(outside, shared() + u"/house.json"_s));
+        QCOMPARE(store().list(kModel).names(), QStringList{u"House"_s});
+        ::chmod(QFile::encodeName(outside).constData(), 0666);
+        QCOMPARE(store().list(kModel).names(), QStringList());
+        QCOMPARE(store().list(kModel).problems.size(), 1);
+    }
+
+    void whatBelongsToAnotherUserIsNoAdministratorsPreset()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can give a file away");
+        QCOMPARE(PresetStore({shared()}).save(named(u"House"_s), Replacing::No), QString());
+        QCOMPARE(::chown(QFile::encodeName(fileInShared()).constData(), 65534, 65534), 0);
+        QVERIFY(store().list(kModel).presets.isEmpty());
+        QVERIFY(store().list(kModel).problems.value(0).contains(u"65534"_s));
+    }
+
+    void aFolderForEverybodyThatIsNotThereIsNotSpokenOf()
+    {
+        QCOMPARE(store().list(kModel).problems, QStringList());
+        QCOMPARE(store().listAll().problems, QStringList());
     }
 
     void aFullDiskIsSaidAndLeavesWhatWasThere()

@@ -1,4 +1,5 @@
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -152,6 +153,16 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString file = writeFile(folder.filePath(u"panels.conf"_s), rules);
         QCOMPARE(panelRule(file, {u"lobby"_s, u"Office Printer 5"_s}), rule);
+    }
+
+    void aLogQuotesOnlyTheBeginningOfALineWithoutEnd()
+    {
+        const QTemporaryDir folder;
+        const QString file = writeFile(folder.filePath(u"panels.conf"_s),
+                                       "maybe " + QByteArray("instances").repeated(10000));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(u"^.{0,300} no rule: maybe instances.{0,80}$"_s));
+        QCOMPARE(panelRule(file, {u"lobby"_s}), PanelRule::ByPpd);
     }
 
     void withoutRulesThePpdDecides()

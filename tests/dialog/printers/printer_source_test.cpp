@@ -1,7 +1,14 @@
+#include <algorithm>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/printers/LastPrinter.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/printers/PrinterSourceScene.h"
+#include "tests/support/FileSizeLimit.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -101,6 +108,40 @@ private Q_SLOTS:
             QVERIFY(savesPdf(told.last.printer));
             QVERIFY(QFile::exists(told.last.ppd->path));
         }
+    }
+
+    // Most people print on paper, and their window does not wait for a file that nobody reads.
+    void whatSavesAPdfIsWrittenWhenItIsOpened()
+    {
+        const QTemporaryDir folder;
+        const Variable place("TMPDIR", folder.path().toUtf8());
+        const QDir files(folder.path());
+        PrinterSource source(PrinterWish(), m_server);
+        const QList<Printer> printers = source.printers();
+        const auto pdf = std::find_if(printers.cbegin(), printers.cend(), savesPdf);
+        QVERIFY(pdf != printers.cend());
+        QVERIFY(files.isEmpty());
+        Told told(source);
+        source.open(*pdf);
+        QCOMPARE(told.said, QStringList{u"ready"_s});
+        QCOMPARE(QFileInfo(told.last.ppd->path).path(), folder.path());
+        source.open(*pdf);
+        QCOMPARE(files.entryList(QDir::Files).size(), 1); // the same one again
+    }
+
+    void whereThatCannotBeWrittenIsSaid()
+    {
+        PrinterSource source(PrinterWish(), m_server);
+        const Printer pdf = source.first();
+        QVERIFY(savesPdf(pdf));
+        Told told(source);
+        {
+            const FileSizeLimit fullDisk(0);
+            source.open(pdf);
+        }
+        QCOMPARE(told.said, QStringList{u"failed"_s});
+        source.open(pdf);
+        QCOMPARE(told.said, (QStringList{u"failed"_s, u"ready"_s}));
     }
 
     void aQueueOfThatNameGoesFirst()

@@ -95,6 +95,31 @@ private Q_SLOTS:
         QVERIFY(std::is_sorted(sizes.cbegin(), sizes.cend()));
     }
 
+    // Each time the whole list is sorted and shown.
+    void aListThatGrowsIsShownAFewTimesOnly()
+    {
+        CannedQueues server;
+        server.setQueues(manyQueues(6000));
+        QueueList list(contextFor(server.port()), {});
+        const QSignalSpy changed(&list, &QueueList::changed);
+        list.start();
+        QTRY_COMPARE_WITH_TIMEOUT(list.state(), State::Known, kLong);
+        QCOMPARE(server.pagesAsked(), 31);
+        QCOMPARE(list.printers().size(), 6000);
+        QVERIFY2(changed.size() <= 8, qPrintable(QString::number(changed.size())));
+    }
+
+    void whatCameBeforeAFailureIsShown()
+    {
+        CannedQueues server;
+        server.setQueues(manyQueues(1200));
+        server.failAfter(5, IPP_STATUS_ERROR_INTERNAL);
+        QueueList list(contextFor(server.port()), {});
+        list.start();
+        QTRY_COMPARE_WITH_TIMEOUT(list.state(), State::Failed, kLong);
+        QVERIFY2(list.printers().size() > 900, qPrintable(QString::number(list.printers().size())));
+    }
+
     void changesShowByThemselvesAndAtOnce()
     {
         CannedQueues server;

@@ -109,6 +109,42 @@ private Q_SLOTS:
         QCOMPARE(found, pages * kPage);
     }
 
+    void aListWithoutEndBreaksOff_data()
+    {
+        QTest::addColumn<QueueBounds>("bounds");
+        QTest::addColumn<int>("length"); // of the description of each queue
+        QTest::addColumn<int>("found");
+        QTest::addColumn<bool>("whole");
+        const QueueBounds standard;
+        QTest::newRow("within all bounds") << standard << 10 << 1000 << true;
+        QTest::newRow("queues") << QueueBounds{.queues = 598} << 10 << 598 << false;
+        QTest::newRow("a page more") << QueueBounds{.queues = 599} << 10 << 797 << false;
+        QTest::newRow("few queues of many words")
+            << QueueBounds{.texts = 450 * 600} << 400 << 598 << false;
+        QTest::newRow("few queues of few words")
+            << QueueBounds{.texts = 450 * 600} << 10 << 1000 << true;
+    }
+    void aListWithoutEndBreaksOff()
+    {
+        QFETCH(QueueBounds, bounds);
+        QFETCH(int, length);
+        QFETCH(int, found);
+        QFETCH(bool, whole);
+        QList<Printer> queues = manyQueues(1000);
+        for (Printer &queue : queues)
+            queue.description = QString(length, u'x');
+        CannedQueues server;
+        server.setQueues(queues);
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QList<Printer> all;
+        QCOMPARE(listQueues(
+                     connection, [&](const QList<Printer> &page) { all += page; }, bounds),
+                 whole);
+        QCOMPARE(all.size(), found);
+        QCOMPARE(connection.problem().kind,
+                 whole ? ServerProblem::Kind::None : ServerProblem::Kind::TooLarge);
+    }
+
     void everythingOfAQueueIsRead()
     {
         const CannedServer server([](const CannedRequest &) {

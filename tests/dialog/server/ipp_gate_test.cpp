@@ -16,7 +16,16 @@ struct Row
 };
 
 // The group itself counts as an attribute.
-constexpr IppBounds kBounds{.nesting = 2, .attributes = 5, .values = 6, .built = 2000};
+constexpr IppBounds kBounds{.nesting = 2, .attributes = 5, .values = 6, .texts = 4, .built = 2000};
+
+// A name, and values that differ.
+QByteArray texts(int values)
+{
+    QByteArray bytes;
+    for (int i = 0; i < values; ++i)
+        bytes += ippField(IPP_TAG_TEXT, i == 0 ? "t" : "", QByteArray::number(i));
+    return bytes;
+}
 
 QList<Row> rows()
 {
@@ -38,6 +47,14 @@ QList<Row> rows()
         {"values without bytes count",
          ippField(IPP_TAG_NOVALUE, "n", {}).repeated(1) +
              ippField(IPP_TAG_NOVALUE, {}, {}).repeated(6),
+         false},
+        {"as many texts as there may be", texts(3), true},
+        {"one text too many", texts(4), false},
+        {"a text that is there already is none more",
+         texts(3) + ippField(IPP_TAG_TEXT, {}, "1") + ippField(IPP_TAG_TEXT, {}, "2"), true},
+        {"names are texts",
+         ippNumberField("a") + ippNumberField("b") + ippNumberField("c") +
+             ippField(IPP_TAG_TEXT, {}, "d") + ippField(IPP_TAG_TEXT, {}, "e"),
          false},
         {"as deep as there may be", ippNested(2), true},
         {"too deep", ippNested(3), false},

@@ -75,6 +75,8 @@ private Q_SLOTS:
                                  "[host]",
                                  "[::1]631",
                                  "host/path",
+                                 "host\x1b[31m",
+                                 "ho\x01st",
                                  "ipp://host",
                                  "host\n",
                                  "host:631\n"})
@@ -84,6 +86,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QVERIFY(!ServerAddress::parse(text));
+    }
+
+    void anAddressThatIsWrittenIsReadAsItself()
+    {
+        for (const char *text : {"host:631", "[2001:db8::7]:8631", "ho%1st:77", "%2:77"})
+            QCOMPARE(ServerAddress::parse(QString::fromUtf8(text))->argument(),
+                     QString::fromUtf8(text));
     }
 
     void onlyThisMachineIsLocal_data()

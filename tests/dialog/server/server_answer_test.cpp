@@ -5,9 +5,11 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
+#include <QElapsedTimer>
 #include <QTest>
 
 #include "dialog/server/AnswerReader.h"
+#include "tests/dialog/server/EndlessServer.h"
 #include "tests/dialog/server/IppBytes.h"
 #include "tests/dialog/server/ServerScene.h"
 #include "tests/dialog/server/WorkerThread.h"
@@ -157,6 +159,10 @@ private Q_SLOTS:
             << httpAnswer(200, deflated(groups), kIpp + "Content-Encoding: deflate\r\n").bytes;
         QTest::newRow("attributes")
             << httpAnswer(200, ippAnswerBytes(ippNumberField("n").repeated(260'000)), kIpp).bytes;
+        QByteArray names;
+        for (int i = 0; i < 80'000; ++i)
+            names += ippNumberField("n" + QByteArray::number(i));
+        QTest::newRow("names") << httpAnswer(200, ippAnswerBytes(names), kIpp).bytes;
     }
     void anAnswerThatWouldBecomeTooMuchIsRefused()
     {
@@ -215,6 +221,66 @@ private Q_SLOTS:
         QTRY_COMPARE(m_scene->server->openConnections(), 0);
         m_scene->server->clearFaults();
         QVERIFY(connection.request(aboutQueue()));
+    }
+
+    void aHeadWithoutEndEnds_data()
+    {
+        QTest::addColumn<QByteArray>("piece");
+        QTest::addColumn<std::chrono::milliseconds>("pause");
+        QTest::newRow("lines, as fast as they are read")
+            << QByteArray("X-More: of it\r\n").repeated(1000) << 0ms;
+        QTest::newRow("lines, never silent for long") << QByteArray("X-More: of it\r\n") << 50ms;
+        QTest::newRow("a line") << QByteArray(10000, 'x') << 0ms;
+    }
+    void aHeadWithoutEndEnds()
+    {
+        QFETCH(QByteArray, piece);
+        QFETCH(std::chrono::milliseconds, pause);
+        for (const bool isGet : {false, true}) {
+            const EndlessServer server("HTTP/1.1 200 OK\r\nX-First: one\r\n", piece, pause);
+            ServerConnection connection(contextFor(server.port(), 500ms), nullptr);
+            QElapsedTimer time;
+            time.start();
+            if (isGet)
+                QCOMPARE(connection.get("/printers/office.ppd").state, State::Failed);
+            else
+                QVERIFY(!connection.request(aboutQueue()));
+            QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
+            QVERIFY(connection.problem().mayPass());
+        }
+    }
+
+    void cancelingEndsAHeadWithoutEnd()
+    {
+        const EndlessServer server("HTTP/1.1 200 OK\r\n", "X-More: of it\r\n", 10ms);
+        CancelFlag canceled{0};
+        ServerProblem problem;
+        {
+            const WorkerThread worker([&] {
+                ServerConnection connection(contextFor(server.port(), 1h), &canceled);
+                connection.request(aboutQueue());
+                problem = connection.problem();
+            });
+            QTRY_VERIFY(server.hasBegun());
+            canceled = 1;
+            QTRY_VERIFY(worker.isDone());
+        }
+        QCOMPARE(problem.kind, Kind::Canceled);
+    }
+
+    // What is no value of libcups' enumerations, which an answer may have all the same.
+    void aStatusThatNobodyKnowsIsARefusal()
+    {
+        QByteArray ipp = ippAnswerBytes({});
+        ipp[2] = '\x7f';
+        QByteArray bytes = httpAnswer(200, ipp, kIpp).bytes;
+        const CannedServer server([&](const CannedRequest &) { return CannedAnswer{bytes}; });
+        ServerConnection connection(contextFor(server.port(), 2s), nullptr);
+        QVERIFY(!connection.request(aboutQueue()));
+        QCOMPARE(connection.problem().kind, Kind::Refused);
+        bytes = "HTTP/1.1 77777 What\r\nContent-Length: 0\r\n\r\n";
+        QVERIFY(!connection.request(aboutQueue()));
+        QCOMPARE(connection.problem().kind, Kind::NotUnderstood);
     }
 
     void cancelingEndsAnAnswerInItsMidst_data()

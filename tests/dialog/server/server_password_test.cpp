@@ -315,6 +315,27 @@ private Q_SLOTS:
     }
 
     // Which matters to whoever wonders whether to send it again.
+    // Nobody can have given a wrong password who was not asked for one.
+    void aLogInThatNobodyKnowsIsNoWrongPassword_data()
+    {
+        QTest::addColumn<QByteArray>("fields");
+        QTest::newRow("of no kind") << QByteArray();
+        QTest::newRow("of another kind") << QByteArray("WWW-Authenticate: Riddle of=sphinx\r\n");
+    }
+    void aLogInThatNobodyKnowsIsNoWrongPassword()
+    {
+        QFETCH(QByteArray, fields);
+        const CannedServer server(
+            [&](const CannedRequest &) { return httpAnswer(401, {}, fields); });
+        ServerContext context = contextFor(server.port());
+        context.mayAsk = true;
+        ServerConnection connection(context, nullptr);
+        QVERIFY(!connection.request(aboutQueue()));
+        QCOMPARE(connection.problem().kind, Kind::LogInUnknown);
+        QVERIFY(!connection.problem().text(context.address).contains(u"password"_s));
+        QCOMPARE(connection.problem().detail.contains(u"Riddle"_s), !fields.isEmpty());
+    }
+
     void aDocumentThatWasRefusedWasNotSent()
     {
         const CannedServer server([](const CannedRequest &) {

@@ -307,6 +307,23 @@ private Q_SLOTS:
                      option.name + u'=' + ppdKeyword(found->defchoice));
         }
     }
+
+    // The panel writes it itself, and no choice of the PPD is marked.
+    void aValueOfThePanelsThatThePrinterWouldNeverHearOfIsRefused()
+    {
+        QByteArray text = samplePpd(5);
+        const QByteArray inJob = "AnySetup *QXSaturation\n";
+        QVERIFY(text.contains(inJob));
+        text.replace(inJob, "JCLSetup *QXSaturation\n"); // and the PPD has no job language
+        m_panels.reset();
+        m_session = sessionFor(text);
+        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, *m_presenter);
+        const OptionOutcome outcome = apply({u"QXSaturation=3"_s});
+        QCOMPARE(outcome.problems.size(), 1);
+        QVERIFY2(outcome.problems.constFirst().startsWith(u"QXSaturation=3"_s),
+                 qPrintable(outcome.problems.constFirst()));
+        QVERIFY(apply({u"QXBrightness=3"_s}).ok());
+    }
 };
 
 QTEST_MAIN(OptionPanelsTest)

@@ -1,8 +1,11 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "dialog/session/ChoiceCodes.h"
+#include "dialog/session/OptionRequest.h"
 #include "dialog/session/PpdSession.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/Rows.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -12,6 +15,26 @@ using Origin = PpdSession::Origin;
 using Outcome = ChangeResult::Outcome;
 
 namespace {
+
+struct PlaceInTheJob
+{
+    const char *name;
+    QByteArray place;
+    QByteArray filter;
+    QByteArray line;
+    Outcome outcome;
+};
+
+const PlaceInTheJob kPlacesInTheJob[] = {
+    {"usual", "10 AnySetup", "-", "", Outcome::Accepted},
+    {"first", "0 AnySetup", "-", "", Outcome::Accepted},
+    {"below zero", "-1 AnySetup", "-", "", Outcome::NotMarked},
+    {"a little below zero", "-0.5 PageSetup", "-", "", Outcome::NotMarked},
+    {"job language without a beginning", "10 JCLSetup", "-", "", Outcome::NotMarked},
+    {"job language", "10 JCLSetup", "-", "*JCLBegin: \"<1B>%-12345X@PJL JOB<0A>\"",
+     Outcome::Accepted},
+    {"a program of the driver's own", "-1 JCLSetup", "rastertofuser", "", Outcome::Accepted},
+};
 
 QString recorded(const PpdSession &session, const QString &keyword)
 {
@@ -302,6 +325,101 @@ private Q_SLOTS:
         const auto session = sessionFor(text);
         QCOMPARE(PMSetDuplex(&session->printSettings(), kPMDuplexNone), kPMNoError);
         QCOMPARE(session->markedChoice(u"Duplex"_s), u"None"_s);
+    }
+
+    // What CUPS' filters would leave out without a word.
+    void aChoiceThatThePrinterWouldNeverHearOfIsRefused_data() { addRows(kPlacesInTheJob); }
+    void aChoiceThatThePrinterWouldNeverHearOfIsRefused()
+    {
+        const auto &row = currentRow(kPlacesInTheJob);
+        const auto session =
+            sessionFor(PpdBuilder()
+                           .line(QByteArray("*cupsFilter2: \"application/vnd.cups-postscript "
+                                            "application/postscript 0 ") +
+                                 row.filter + '"')
+                           .line(row.line)
+                           .line("*OpenUI *Fuser/Fuser: PickOne")
+                           .line(QByteArray("*OrderDependency: ") + row.place + " *Fuser")
+                           .line("*DefaultFuser: Cold")
+                           .line("*Fuser Cold/Cold: \"0 fuser\"")
+                           .line("*Fuser Hot/Hot: \"1 fuser\"")
+                           .line("*Fuser Usual/Usual: \"\"")
+                           .line("*Fuser Blank/Blank: \" \"")
+                           .line("*Fuser Comment/Comment: \"%% nothing\"")
+                           .line("*CloseUI: *Fuser"));
+        QCOMPARE(session->change(u"Fuser"_s, u"Hot"_s, Origin::Dialog).outcome, row.outcome);
+        QCOMPARE(session->changeTogether({{u"Fuser"_s, u"Hot"_s}}).isEmpty(),
+                 row.outcome == Outcome::Accepted);
+        if (row.outcome != Outcome::Accepted)
+            QCOMPARE(conflictMessage({{u"Fuser"_s, u"Hot"_s}, {}}, *session),
+                     notSentText(u"Fuser=Hot"_s));
+        const QString kept = row.outcome == Outcome::Accepted ? u"Hot"_s : u"Cold"_s;
+        QCOMPARE(session->markedChoice(u"Fuser"_s), kept);
+        // Nothing has to be sent for these.
+        QVERIFY(session->change(u"Fuser"_s, u"Cold"_s, Origin::Dialog).accepted());
+        for (const QString &nothing : {u"Usual"_s, u"Blank"_s, u"Comment"_s})
+            QVERIFY(session->change(u"Fuser"_s, nothing, Origin::Dialog).accepted());
+        QVERIFY(session->change(u"Fuser"_s, u"Cold"_s, Origin::Dialog).accepted());
+    }
+
+    // libcups reads a line up to the zero byte.
+    void aChoiceWhoseCodeIsCutOffIsRefused()
+    {
+        const auto session = sessionFor(PpdBuilder()
+                                            .line("*OpenUI *Fuser/Fuser: PickOne")
+                                            .line("*DefaultFuser: Cold")
+                                            .line("*Fuser Cold/Cold: \"0 fuser\"")
+                                            .line("*Fuser Hot/Hot: \"1 fuser\"")
+                                            .line(QByteArray("*Fuser Warm/Warm: \"2 fu\0ser\"", 28))
+                                            .line("*CloseUI: *Fuser"));
+        QVERIFY(session->change(u"Fuser"_s, u"Hot"_s, Origin::Dialog).accepted());
+        QCOMPARE(session->change(u"Fuser"_s, u"Warm"_s, Origin::Dialog).outcome,
+                 Outcome::NotMarked);
+        QCOMPARE(session->markedChoice(u"Fuser"_s), u"Hot"_s);
+    }
+
+    void customValuesMayBeSentFromAnotherPlaceThanChoices()
+    {
+        const auto printer = [](const QByteArray &place) {
+            return sessionFor(PpdBuilder()
+                                  .line("*OpenUI *Fuser/Fuser: PickOne")
+                                  .line("*OrderDependency: -1 AnySetup *Fuser")
+                                  .line("*DefaultFuser: Cold")
+                                  .line("*Fuser Cold/Cold: \"0 fuser\"")
+                                  .line("*CloseUI: *Fuser")
+                                  .customInteger("Fuser", "Heat", "Heat", 1, 9)
+                                  .line(place));
+        };
+        const auto inVain = printer("*NonUIOrderDependency: 10 AnySetup *CustomPageSize True");
+        QCOMPARE(inVain->change(u"Fuser"_s, u"Custom.5"_s, Origin::Dialog).outcome,
+                 Outcome::NotMarked);
+        const auto sent = printer("*NonUIOrderDependency: 10 AnySetup *CustomFuser True");
+        QVERIFY(sent->change(u"Fuser"_s, u"Custom.5"_s, Origin::Dialog).accepted());
+    }
+
+    // To mark the one takes the mark of the other away in libcups.
+    void aTrayAndFeedingByHandComeBackWithEachOther()
+    {
+        const auto session = sessionFor(
+            PpdBuilder()
+                .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
+                .option("ManualFeed", "By Hand", "False", {{"True", "Yes"}, {"False", "No"}}));
+        const auto choose = [&](const QString &keyword, const QString &choice) {
+            QVERIFY(session->change(keyword, choice, Origin::Dialog).accepted());
+        };
+        const auto stand = [&](const QString &tray, const QString &handFeed) {
+            return session->markedChoice(u"InputSlot"_s) == tray &&
+                   session->markedChoice(u"ManualFeed"_s) == handFeed &&
+                   recorded(*session, u"ManualFeed"_s) == handFeed;
+        };
+        choose(u"InputSlot"_s, u"Lower"_s);
+        choose(u"ManualFeed"_s, u"True"_s);
+        QVERIFY(stand({}, u"True"_s));
+        choose(u"ManualFeed"_s, u"False"_s);
+        QVERIFY(stand(u"Lower"_s, u"False"_s));
+        choose(u"ManualFeed"_s, u"True"_s);
+        choose(u"InputSlot"_s, u"Upper"_s);
+        QVERIFY(stand(u"Upper"_s, u"False"_s));
     }
 
     void aDuplexRequestThatCollidesIsRememberedAsARefusal()

@@ -324,7 +324,8 @@ private Q_SLOTS:
         QVERIFY(traits.isTwoSided);
         QVERIFY(traits.isByHand);
         QVERIFY(!traits.isReversed);
-        QVERIFY(layoutTraits(session->ppd(), {}).isReversed);
+        QVERIFY(!traits.isTurnedRound);
+        QVERIFY(layoutTraits(session->ppd(), {}).isTurnedRound);
         QVERIFY(
             layoutTraits(session->ppd(), {byHand, {u"outputorder"_s, u"reverse"_s}}).isReversed);
         QVERIFY(!layoutTraits(session->ppd(), {{kSidesByHandAttribute, u"no"_s}}).isTwoSided);

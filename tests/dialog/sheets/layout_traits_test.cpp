@@ -56,21 +56,33 @@ struct Order
     const char *name;
     QByteArray lines;
     QList<JobOption> options;
-    bool isReversed;
+    bool isReversed;            // by the layout step
+    bool isTurnedRound = false; // behind it
 };
+constexpr auto kPdfPrinter = "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n";
 const Order kOrders[] = {
     {"nothing said", "", {}, false},
-    {"the printer's own", "*DefaultOutputOrder: Reverse\n", {}, true},
+    {"the printer's own", "*DefaultOutputOrder: Reverse\n", {}, false, true},
+    {"of a printer of PDF", QByteArray("*DefaultOutputOrder: Reverse\n") + kPdfPrinter, {}, true},
     {"of the tray",
      "*DefaultOutputOrder: Normal\n*PageStackOrder Up: Reverse\n",
      {{u"OutputBin"_s, u"Up"_s}},
+     false,
      true},
     {"of another tray",
      "*DefaultOutputOrder: Reverse\n*PageStackOrder Down: Normal\n",
      {{u"OutputBin"_s, u"Down"_s}},
      false},
     {"asked for", "*DefaultOutputOrder: Normal\n", {{u"outputorder"_s, u"reverse"_s}}, true},
-    {"asked not for", "*DefaultOutputOrder: Reverse\n", {{u"OutputOrder"_s, u"Normal"_s}}, false},
+    {"asked not for",
+     "*DefaultOutputOrder: Reverse\n",
+     {{u"OutputOrder"_s, u"Normal"_s}},
+     true,
+     true},
+    {"asked not for, of a printer of PDF",
+     QByteArray("*DefaultOutputOrder: Reverse\n") + kPdfPrinter,
+     {{u"OutputOrder"_s, u"Normal"_s}},
+     false},
 };
 
 struct BadNumbers
@@ -135,7 +147,9 @@ private Q_SLOTS:
     void theOrderIsLookedUpWhereTheLayoutStepLooks()
     {
         const Order &row = currentRow(kOrders);
-        QCOMPARE(traitsOf(ppdWith(row.lines), row.options).isReversed, row.isReversed);
+        const LayoutTraits traits = traitsOf(ppdWith(row.lines), row.options);
+        QCOMPARE(traits.isReversed, row.isReversed);
+        QCOMPARE(traits.isTurnedRound, row.isTurnedRound);
     }
 
     void aPrinterThatNeedsFullSheetsGetsThem()
@@ -150,7 +164,10 @@ private Q_SLOTS:
         LayoutTraits traits =
             traitsOf(ppdWith("*DefaultOutputOrder: Reverse\n*cupsEvenDuplex: True\n"
                              "*LandscapeOrientation: Minus90\n"),
-                     {{u"Duplex"_s, u"DuplexTumble"_s}});
+                     {{u"Duplex"_s, u"DuplexTumble"_s}, {u"outputorder"_s, u"normal"_s}});
+        // What happens behind the layout step is nothing to its PPD.
+        QVERIFY(traits.isReversed && traits.isTurnedRound);
+        traits.isTurnedRound = false;
         const PpdFile ppd = opened(traits);
         QVERIFY(ppd);
         QCOMPARE(layoutTraits(ppd.get(), {{u"PageSize"_s, QString::fromLatin1(kLayoutPaper)},

@@ -45,6 +45,12 @@ constexpr auto kLong = Binding::LongEdge;
 const PageChoice kOdd{{}, PageChoice::Set::Odd};
 const PageChoice kBooklet{.booklet = PageChoice::Booklet::Left};
 const PageChoice kTwice{.repetitions = 2};
+const SheetArrangement kTurned{.isTurnedRound = true};
+const SheetArrangement kTurnedBothSides{.binding = kLong, .isTurnedRound = true};
+SheetArrangement turnedTwice(Binding binding)
+{
+    return {.isReversed = true, .binding = binding, .isTurnedRound = true};
+}
 const Planned kPlans[] = {
     {"one-sided", 3, 3, {}, u"1 2 3"_s},
     {"two-sided", 3, 3, {{}, 1, false, kLong}, u"1|2 3"_s},
@@ -52,6 +58,11 @@ const Planned kPlans[] = {
     {"one page, two-sided", 1, 1, {{}, 1, false, kLong}, u"1"_s},
     {"last page first", 3, 3, {{}, 1, true}, u"3 2 1"_s},
     {"last page first, two-sided", 3, 4, {{}, 1, true, kLong}, u"-|3 2|1"_s},
+    {"turned round", 3, 3, kTurned, u"3 2 1"_s},
+    {"turned round, two-sided", 3, 3, kTurnedBothSides, u"-|3 2|1"_s},
+    {"turned round, one page, two-sided", 1, 1, kTurnedBothSides, u"1"_s},
+    {"last page first, turned round", 3, 3, turnedTwice(Binding::None), u"1 2 3"_s},
+    {"last page first, turned round, two-sided", 3, 4, turnedTwice(kLong), u"1|2 3|-"_s},
     {"two on a side", 5, 3, {{}, 2}, u"1+2 3+4 5"_s},
     {"two on a side, two-sided", 5, 3, {{}, 2, false, kLong}, u"1+2|3+4 5"_s},
     {"two on a side, last first", 5, 3, {{}, 2, true}, u"5 3+4 1+2"_s},

@@ -70,6 +70,8 @@ QList<Document> documentsOf(Kind kind, const QString &folder)
     switch (kind) {
     case Kind::A4:
         return {pdf(folder, u"a"_s, numberedPdf("a", 3))};
+    case Kind::Single:
+        return {pdf(folder, u"a"_s, numberedPdf("a", 1))};
     case Kind::Letter:
         return {pdf(folder, u"a"_s, numberedPdf("a", QList<QSizeF>{kLetter, kLetter, kLetter}))};
     case Kind::Landscape:

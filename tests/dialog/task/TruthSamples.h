@@ -25,6 +25,7 @@ NamedLayout operator+(const NamedLayout &one, const NamedLayout &other);
 
 enum class Kind {
     A4,
+    Single, // page
     Letter,
     Landscape,
     Mixed,
@@ -46,6 +47,7 @@ struct NamedKind
 };
 inline constexpr NamedKind kKinds[] = {
     {"A4", Kind::A4},
+    {"one page", Kind::Single},
     {"Letter", Kind::Letter},
     {"landscape", Kind::Landscape},
     {"mixed", Kind::Mixed},

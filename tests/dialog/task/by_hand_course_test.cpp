@@ -81,6 +81,20 @@ private Q_SLOTS:
                          u"The last sheet, with page 3, lies uppermost."_s}));
     }
 
+    void oneSheetIsSpokenOfAsOne()
+    {
+        addQueue();
+        PrintRequest two = request(Kind::A4, u"sides-by-hand=long-edge page-ranges=1-2"_s);
+        open(two);
+        task().print();
+        QVERIFY(waitForTheQuestion());
+        QCOMPARE(face().turns.constFirst().steps,
+                 QStringList({u"Take the printed sheet out of the printer."_s,
+                              u"Put it back into the tray with the printed side down, so that the "
+                              "top edge of the page goes into the printer first."_s}));
+        face().turnAnswer(false);
+    }
+
     void cancelBetweenThePassesSaysWhatIsPrinted()
     {
         addQueue();

@@ -188,6 +188,22 @@ private Q_SLOTS:
         QVERIFY(!draft().problem.isEmpty());
     }
 
+    // Else the settings of the first name would be gone without a word.
+    void twoNamesThatAreOneForOtherProgramsAreNotTheSameSettings()
+    {
+        start();
+        QCOMPARE(writeInstance(draft(u"Ä Ö"_s), u"Ä Ö"_s), QString());
+        QCOMPARE(draft(u"Ä Ö"_s).problem, QString());
+        QCOMPARE(draft(u"ä ö"_s).problem, QString());
+        QVERIFY2(draft(u"A O"_s).problem.contains(u"“office/a-o” is there already"_s),
+                 qPrintable(draft(u"A O"_s).problem));
+        // Under a name of its own for other programs.
+        const KnownInstances known = KnownInstances::read();
+        QCOMPARE(nameInstance(u"a-o"_s, *m_printer, m_settings, known, u"Ä Ö"_s).problem,
+                 QString());
+        QVERIFY(!nameInstance(u"a-o"_s, *m_printer, m_settings, known).problem.isEmpty());
+    }
+
     void aListOfOwnInstancesKeepsWhatItDoesNotKnow()
     {
         const QString path = m_home->filePath(u"instances.json"_s);
@@ -211,6 +227,19 @@ private Q_SLOTS:
             writeFile(path, content);
             QVERIFY(OwnInstances(path).names().isEmpty());
         }
+    }
+
+    void aDamagedListIsKeptBesideTheNewOne()
+    {
+        const QString path = m_home->filePath(u"instances.json"_s);
+        const QByteArray damaged = R"({"instances":{"a/b":{"settings":"B"})";
+        writeFile(path, damaged);
+        const OwnInstances own(path);
+        QCOMPARE(own.note(u"a/c"_s, u"C"_s), QString());
+        QCOMPARE(own.names(), QStringList{u"a/c"_s});
+        QFile kept(path + u".damaged"_s);
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), damaged);
     }
 
     void onlyQueuesHaveInstances()

@@ -1,8 +1,10 @@
+#include <QFile>
 #include <QTest>
 
 #include "dialog/task/AttributeEffects.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -46,6 +48,42 @@ private:
     }
 
 private Q_SLOTS:
+    // Between the PPD before them, and the copies and the window behind them.
+    void theManualHasThePlacesInTheSameOrder()
+    {
+        const auto wordOf = [](By by) -> QByteArray {
+            switch (by) {
+            case By::Queue:
+                return "queue";
+            case By::UserQueues:
+                return "lpoptions";
+            case By::Policy:
+                return "administrator";
+            case By::LastUsed:
+                return "last job";
+            case By::Preset:
+                return "preset";
+            case By::Options:
+                return "\\-o";
+            default:
+                return "?";
+            }
+        };
+        QFile manual(sourceFile(u"packaging/man/corvana-print.1"_s));
+        QVERIFY(manual.open(QIODevice::ReadOnly));
+        const QByteArray text = manual.readAll();
+        const qsizetype begin = text.indexOf(".SH WHERE SETTINGS START");
+        const qsizetype end = text.indexOf("\n.PP", begin);
+        QVERIFY(begin >= 0 && end > begin);
+        const QStringList places =
+            QString::fromUtf8(text.sliced(begin, end - begin)).split(u"\n.IP "_s).mid(1);
+        QCOMPARE(places.size(), qsizetype(startLayers().size()) + 3);
+        for (qsizetype i = 0; i < qsizetype(startLayers().size()); ++i) {
+            const QByteArray word = wordOf(startLayers()[std::size_t(i)].by);
+            QVERIFY2(places.at(i + 1).contains(QString::fromUtf8(word)), word.constData());
+        }
+    }
+
     void everyPlaceIsReadAndTheOrderIsTheOneOfWhoCountsMore()
     {
         QList<By> order;

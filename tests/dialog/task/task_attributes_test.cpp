@@ -45,6 +45,7 @@ struct ShownCase
 const QList<ShownCase> kShown{
     {"nobody asked", {}, {u"number-up"_s, {}, Place::Front, true, true}},
     {"asked", u"number-up=4"_s, {u"number-up"_s, u"4"_s, Place::Front, true, false}},
+    {"the orientation", {}, {u"orientation-requested"_s, {}, Place::Front, true, true}},
     {"scaling",
      u"print-scaling=none"_s,
      {u"print-scaling"_s, u"none"_s, Place::Front, true, false}},
@@ -354,6 +355,33 @@ private Q_SLOTS:
                                                      {{"Normal", "First"}, {"Reverse", "Last"}});
         QVERIFY(!find(open({}, ppd).attributes(), u"outputorder"_s));
         QVERIFY(find(open({}).attributes(), u"outputorder"_s));
+    }
+
+    // CUPS' filters enlarge pages of nothing else.
+    void aScaleInPercentIsOfferedForPicturesAlone()
+    {
+        PrintRequest request = m_scene->request(plainPrinter());
+        for (const QString &format : {u"application/pdf"_s, u"text/plain"_s, u"image/png"_s}) {
+            request.documents.first().format = format;
+            const QList<OfferedAttribute> offered = m_scene->open(request).attributes();
+            QCOMPARE(find(offered, u"scaling"_s) != nullptr, format == u"image/png"_s);
+        }
+    }
+
+    // Sheets that lie face up are in order when the last page was printed first.
+    void theOrderThatAPrinterHasAnywayIsShownAndCanBeChosenAgainst()
+    {
+        PpdBuilder ppd = plainPrinter();
+        PrintTask &task = open({}, ppd.line("*DefaultOutputOrder: Reverse"));
+        const auto order = [&] { return *find(task.attributes(), u"outputorder"_s); };
+        QCOMPARE(order().value, u"reverse"_s);
+        QVERIFY(order().isUsual);
+        QCOMPARE(task.setAttribute(u"outputorder"_s, u"normal"_s), QString());
+        QCOMPARE(task.settings().attribute(u"outputorder"_s), u"normal"_s);
+        QCOMPARE(order().value, u"normal"_s);
+        QVERIFY(!order().isUsual);
+        QCOMPARE(task.setAttribute(u"outputorder"_s, u"reverse"_s), QString());
+        QCOMPARE(task.settings().attribute(u"outputorder"_s), QString());
     }
 
     void whatWasChosenComesBackWithItsPrinter()

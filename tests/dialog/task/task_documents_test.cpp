@@ -131,6 +131,21 @@ private Q_SLOTS:
         QVERIFY(!task().canPrint());
     }
 
+    // Each step that can be undone has the list.
+    void aListThatChangesAllDayTakesNoMoreRoom()
+    {
+        openWithout();
+        task().addDocuments({file(u"a.txt"_s)});
+        for (int i = 0; i < 50; ++i) {
+            task().addDocuments({file(u"b.txt"_s)});
+            task().moveDocument(1, 0);
+            task().removeDocument(0);
+        }
+        QCOMPARE(titles(), QStringList{u"a.txt"_s});
+        QVERIFY2(task().documents().capacity() <= 4,
+                 qPrintable(QString::number(task().documents().capacity())));
+    }
+
     void namesThatSomebodyHasChosenStay()
     {
         openWithout();

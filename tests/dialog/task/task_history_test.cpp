@@ -8,6 +8,7 @@
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/Rows.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -68,12 +69,93 @@ private:
         const QPointer<QWidget> view = panels().views().value(kColorPanel);
         return view ? view->findChild<QSlider *>(name) : nullptr;
     }
+    QStringList paths()
+    {
+        QStringList paths;
+        for (const Document &document : task().documents())
+            paths += document.path;
+        return paths;
+    }
     // The panels are done, and the step is recorded.
     static void settle() { QTest::qWait(1); }
 
 private Q_SLOTS:
     void init() { m_scene = std::make_unique<TaskScene>(); }
     void cleanup() { m_scene.reset(); }
+
+    void documentsAreASettingOfTheUsersToo()
+    {
+        openOffice();
+        const QString first = task().documents().constFirst().path;
+        const QString second = sourceFile(u"tests/data/page.txt"_s);
+        task().addDocuments({second});
+        QCOMPARE(task().undoText(), u"Undo Documents"_s);
+        task().propose(u"Media"_s, u"Card"_s);
+        settle();
+        task().moveDocument(1, 0);
+        task().removeDocument(1);
+        QCOMPARE(paths(), QStringList{second});
+        task().undo();
+        QCOMPARE(paths(), (QStringList{second, first}));
+        task().undo();
+        QCOMPARE(paths(), (QStringList{first, second}));
+        QCOMPARE(session().markedChoice(u"Media"_s), u"Card"_s);
+        QCOMPARE(task().undoText(), u"Undo Paper Type"_s);
+        task().undo();
+        QVERIFY(session().markedChoice(u"Media"_s) != u"Card"_s);
+        QCOMPARE(paths(), (QStringList{first, second}));
+        task().undo();
+        QCOMPARE(paths(), QStringList{first});
+        QVERIFY(!task().canUndo());
+        for (int i = 0; i < 4; ++i)
+            task().redo();
+        QCOMPARE(paths(), QStringList{second});
+        QCOMPARE(session().markedChoice(u"Media"_s), u"Card"_s);
+        QVERIFY(!task().canRedo());
+    }
+
+    void defaultsOfThePrinterLeaveDocumentsAlone()
+    {
+        openOffice();
+        task().propose(u"Media"_s, u"Card"_s);
+        settle();
+        task().addDocuments({sourceFile(u"tests/data/page.txt"_s)});
+        const QStringList both = paths();
+        task().resetAll();
+        QCOMPARE(paths(), both);
+        QVERIFY(session().markedChoice(u"Media"_s) != u"Card"_s);
+        task().undo();
+        QCOMPARE(paths(), both);
+        QCOMPARE(session().markedChoice(u"Media"_s), u"Card"_s);
+    }
+
+    // What is added while another printer is asked for is no part of choosing that printer.
+    void documentsThatComeWhileAPrinterIsAskedForAreAStepOfTheirOwn()
+    {
+        const Printer office = m_scene->printer(u"office"_s, officePrinter().text());
+        m_scene->open(m_scene->request({office, sample()}));
+        connect(&task(), &PrintTask::phaseChanged, this, [this](Phase phase) {
+            if (phase == Phase::Fetching)
+                task().addDocuments({sourceFile(u"tests/data/page.txt"_s)});
+        });
+        task().choosePrinter(sample());
+        task().bringUp();
+        settle();
+        QCOMPARE(task().documents().size(), 2);
+        QCOMPARE(task().undoText(), u"Undo Printer"_s);
+        // On the way back another one comes.
+        task().undo();
+        task().bringUp();
+        settle();
+        QCOMPARE(task().printer().name, u"office"_s);
+        for (const int left : {3, 2}) {
+            QCOMPARE(task().documents().size(), left);
+            QCOMPARE(task().undoText(), u"Undo Documents"_s);
+            task().undo();
+        }
+        QCOMPARE(task().documents().size(), 1);
+        QCOMPARE(task().printer().name, u"office"_s);
+    }
 
     void aStepIsCalledByWhatWasSet_data() { addRows(kNamed); }
     void aStepIsCalledByWhatWasSet()

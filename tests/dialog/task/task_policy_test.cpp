@@ -3,6 +3,7 @@
 
 #include "dialog/policy/Policy.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/PresetApplication.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -82,6 +83,20 @@ private Q_SLOTS:
         QVERIFY(m_scene->face.messages.constLast().offer.isEmpty());
         QCOMPARE(task().lockedBy(u"Boost"_s), u"Set by your administrator (1.conf:2)."_s);
         QVERIFY(task().lockedBy(u"Media"_s).isNull());
+    }
+
+    // A value that panels own, which no mark of the PPD refuses.
+    void aPresetAgainstALockSaysWhoHasChosen()
+    {
+        m_scene->open(sample("[all]\nlock.QXRed=2\n"));
+        PresetContent preset;
+        preset.options = {{u"QXRed"_s, u"4"_s}, {u"QXGreen"_s, u"3"_s}};
+        const PresetOutcome outcome =
+            applyPreset(preset, {}, task().documents(), *task().opened(), task().settings());
+        QCOMPARE(outcome.missing, QStringList{u"“Red” is set by your administrator (1.conf:2)."_s});
+        const JobTicket ticket = makeTicket(*task().opened(), {}, {}, 1);
+        QVERIFY(ticket.options.contains(JobOption{u"QXRed"_s, u"2"_s}));
+        QVERIFY(ticket.options.contains(JobOption{u"QXGreen"_s, u"3"_s}));
     }
 
     void noWayOutLeadsThroughALock()

@@ -133,6 +133,55 @@ private Q_SLOTS:
         QVERIFY(presets.isChanged());
     }
 
+    void aPresetThatIsUndoneIsSelectedNoLonger()
+    {
+        TaskPresets &presets = open();
+        propose(u"Media"_s, u"Film"_s);
+        QCOMPARE(save(u"Reports"_s), QString());
+        presets.useDefaults();
+        QCOMPARE(presets.selectedName(), u"Printer Defaults"_s);
+        presets.use(u"Reports"_s);
+        task().undo();
+        QCOMPARE(presets.selectedName(), u"Printer Defaults"_s);
+        QVERIFY(!presets.isChanged());
+        QCOMPARE(task().base().name, u"Printer Defaults"_s);
+        task().redo();
+        QCOMPARE(presets.selectedName(), u"Reports"_s);
+        QVERIFY(!presets.isChanged());
+        // Back over the defaults as well: the preset that was saved then.
+        task().undo();
+        task().undo();
+        QCOMPARE(presets.selectedName(), u"Reports"_s);
+        QCOMPARE(marked(u"Media"_s), u"Film"_s);
+        QVERIFY(!presets.isChanged());
+    }
+
+    void undoingDoesNotSelectAPresetThatIsGoneOrWasReplacedBySaving()
+    {
+        TaskPresets &presets = open();
+        propose(u"Media"_s, u"Film"_s);
+        QCOMPARE(save(u"Reports"_s), QString());
+        presets.useDefaults();
+        propose(u"Media"_s, u"Card"_s);
+        QCOMPARE(save(u"Letters"_s), QString());
+        task().undo(); // of the card
+        task().undo(); // of the defaults
+        QCOMPARE(presets.selectedName(), u"Letters"_s);
+        QVERIFY(presets.isChanged());
+        presets.use(u"Reports"_s);
+        presets.useDefaults();
+        presets.use(u"Letters"_s);
+        task().undo();
+        QVERIFY(PresetStore(task().request().presetPlaces)
+                    .remove(presets.listing().find(u"Reports"_s)->preset)
+                    .isEmpty());
+        QSignalSpy changed(&presets, &TaskPresets::changed);
+        presets.look();
+        QVERIFY(changed.wait(5000));
+        task().undo();
+        QCOMPARE(presets.selectedName(), u"Printer Defaults"_s);
+    }
+
     void aNameThatIsTakenIsSaidAndTheSettingsStay()
     {
         open();

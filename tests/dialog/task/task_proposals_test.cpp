@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/OptionRequest.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -34,6 +35,42 @@ private:
 private Q_SLOTS:
     void init() { m_scene = std::make_unique<TaskScene>(); }
     void cleanup() { m_scene.reset(); }
+
+    // A panel shows a box that cannot be ticked; a list of all options has no such boxes, and a
+    // command line refuses it.
+    void whatAPanelDoesNotOfferIsRefusedInAListOfAllOptionsAsWell()
+    {
+        m_scene->open(m_scene->request({Printer{u"cl5"_s, u"CL"_s, samplePpdPath(), 5}}));
+        task().propose(u"QXGray"_s, u"ON"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"QXGray"_s), u"ON"_s);
+        QVERIFY(m_scene->face.messages.isEmpty());
+        task().propose(u"QXEnhanceBlkPrt"_s, u"ON"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"QXEnhanceBlkPrt"_s), u"OFF"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"QXGray"_s), u"ON"_s);
+        QCOMPARE(m_scene->face.messages.size(), 1);
+        QVERIFY2(m_scene->face.message().contains(u"Enhance Black Printing"_s),
+                 qPrintable(m_scene->face.message()));
+        // The other way round the panel takes the former choice back.
+        task().propose(u"QXGray"_s, u"OFF"_s);
+        task().propose(u"QXEnhanceBlkPrt"_s, u"ON"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"QXEnhanceBlkPrt"_s), u"ON"_s);
+        QCOMPARE(m_scene->face.messages.size(), 1);
+    }
+
+    void aChoiceThatCannotBeSentIsRefusedWithThatReason()
+    {
+        m_scene->open(m_scene->request(PpdBuilder()
+                                           .line("*OpenUI *Fuser/Fuser: PickOne")
+                                           .line("*OrderDependency: -1 AnySetup *Fuser")
+                                           .line("*DefaultFuser: Cold")
+                                           .line("*Fuser Cold/Cold: \"0 fuser\"")
+                                           .line("*Fuser Hot/Very Hot: \"1 fuser\"")
+                                           .line("*CloseUI: *Fuser")));
+        task().propose(u"Fuser"_s, u"Hot"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Fuser"_s), u"Cold"_s);
+        QVERIFY2(m_scene->face.message().contains(notSentText(u"“Fuser: Very Hot”"_s)),
+                 qPrintable(m_scene->face.message()));
+    }
 
     void whatIsProposedWhilePanelsComeUpIsToldOnce()
     {

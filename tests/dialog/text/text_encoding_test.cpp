@@ -18,10 +18,20 @@ constexpr auto kJapanese =
     "カラーの調整は、次のページで行うことができます。\n";
 constexpr auto kSimplified = "请检查打印设置。选择厚纸，然后双面打印。颜色可以在下一页中进行调整，"
                              "如果打印机没有响应，请与管理员联系。\n";
+constexpr auto kSpaced = "打印 设置 纸张 尺寸 双面 颜色 调整 质量 份数 方向 页面 预览 帮助 取消 "
+                         "确定 保存 文档 队列 作业 服务器\n";
 constexpr auto kTraditional = "請檢查列印設定。選擇厚紙，然後雙面列印。顏色可以在下一頁中進行調整，"
                               "如果印表機沒有回應，請與管理員聯絡。\n";
 constexpr auto kKorean = "인쇄 설정을 확인하십시오. 두꺼운 용지를 선택하고 양면으로 인쇄합니다. "
                          "색상은 다음 페이지에서 조정할 수 있습니다.\n";
+// As older newspapers and laws have it: words of Chinese origin in ideographs.
+constexpr auto kMixedKorean =
+    "印刷 설정을 확인하여 주십시오. 두꺼운 용지를 선택하고 兩面으로 인쇄하여야 합니다. 색상은 다음 "
+    "페이지에서 調整할 수 있으며 관리자에게 問議할 수 있습니다. 그리고 이 書類는 나라에서 정한 "
+    "法律에 따라 다섯 해 동안 保管하여야 합니다.\n";
+// With syllables that only the larger set of Windows has.
+constexpr auto kRareKorean = "펲시콜라를 마시며 똠양꿍과 햏햏을 기다리는 사람들이 인쇄를 합니다. "
+                             "뷁이라는 글자도 인쇄되는지 확인하십시오. 용지를 넣으십시오.\n";
 constexpr auto kGerman = "Größe prüfen: Für übergroße Blätter öffnet man die Fächer.\n";
 constexpr auto kFrench = "Réglages d\u2019impression : papier épais, déjà prêt à être imprimé.\n";
 
@@ -56,6 +66,14 @@ constexpr Writing kWritings[] = {
     {"UTF-8, Japanese", kJapanese, "UTF-8", "UTF-8", "ja"},
     {"UTF-8, Chinese", kSimplified, "UTF-8", "UTF-8", "zh_CN"},
     {"UTF-8, Chinese, for a Japanese", "漢字\n", "UTF-8", "UTF-8", "ja", "ja"},
+    {"UTF-8, Traditional Chinese", kTraditional, "UTF-8", "UTF-8", "zh_TW"},
+    {"UTF-8, Traditional Chinese, for a mainlander", kTraditional, "UTF-8", "UTF-8", "zh_TW",
+     "zh_CN"},
+    {"UTF-8, Chinese, for a Taiwanese", kSimplified, "UTF-8", "UTF-8", "zh_CN", "zh_TW"},
+    {"UTF-8, what all Chinese write alike, for a Taiwanese", "文字\n", "UTF-8", "UTF-8", "zh_TW",
+     "zh_TW"},
+    {"UTF-8, ideographs, for a Korean", "漢字\n", "UTF-8", "UTF-8", "ko", "ko"},
+    {"UTF-8, Korean with ideographs", kMixedKorean, "UTF-8", "UTF-8", "ko"},
     {"UTF-8, Korean", kKorean, "UTF-8", "UTF-8", "ko"},
     {"UTF-8, German", kGerman, "UTF-8", "UTF-8", ""},
     {"UTF-8 with a mark", kJapanese, "UTF-8", "UTF-8", "ja", "", "\xEF\xBB\xBF"},
@@ -77,6 +95,16 @@ constexpr Writing kWritings[] = {
     {"GBK, for a Japanese", kSimplified, "GBK", "GB18030", "zh_CN", "ja"},
     {"Big5", kTraditional, "BIG5", "BIG5-HKSCS", "zh_TW"},
     {"Big5, for a Japanese", kTraditional, "BIG5", "BIG5-HKSCS", "zh_TW", "ja"},
+    {"Big5, for a mainlander", kTraditional, "BIG5", "BIG5-HKSCS", "zh_TW", "zh_CN"},
+    {"Big5, for a Korean", kTraditional, "BIG5", "BIG5-HKSCS", "zh_TW", "ko"},
+    {"GBK, for a Taiwanese", kSimplified, "GBK", "GB18030", "zh_CN", "zh_TW"},
+    {"GBK, for a Korean", kSimplified, "GBK", "GB18030", "zh_CN", "ko"},
+    {"GBK with blanks between words", kSpaced, "GBK", "GB18030", "zh_CN"},
+    {"GBK with blanks between words, for a Korean", kSpaced, "GBK", "GB18030", "zh_CN", "ko"},
+    {"Windows' Korean", kRareKorean, "CP949", "UHC", "ko"},
+    {"EUC-KR with ideographs", kMixedKorean, "EUC-KR", "UHC", "ko"},
+    {"EUC-KR with ideographs, for a Korean", kMixedKorean, "EUC-KR", "UHC", "ko", "ko"},
+    {"EUC-KR, for a Taiwanese", kKorean, "EUC-KR", "UHC", "ko", "zh_TW"},
     {"EUC-KR", kKorean, "EUC-KR", "UHC", "ko"},
     {"EUC-KR, for a Chinese", kKorean, "EUC-KR", "UHC", "ko", "zh_CN"},
     {"Latin-1", kGerman, "ISO-8859-1", "CP1252", ""},
@@ -84,6 +112,8 @@ constexpr Writing kWritings[] = {
     {"Latin-1, for a Chinese", kGerman, "ISO-8859-1", "CP1252", "zh_CN", "zh_CN"},
     {"Latin-1, for a Japanese", kFrench, "CP1252", "CP1252", "ja", "ja"},
     {"two ideographs, for a Chinese", "打印\n", "GBK", "GB18030", "zh_CN", "zh_CN"},
+    {"two ideographs, for a Taiwanese", "列印\n", "BIG5", "BIG5-HKSCS", "zh_TW", "zh_TW"},
+    {"two syllables, for a Korean", "인쇄\n", "EUC-KR", "UHC", "ko", "ko"},
     {"two ideographs, for a Japanese", "印刷\n", "EUC-JP", "EUC-JP-MS", "ja", "ja"},
 };
 

@@ -60,6 +60,16 @@ private Q_SLOTS:
         QVERIFY(!m_window->isModal());
     }
 
+    void backLeadsToWhatWasReadSinceTheWindowWasOpened()
+    {
+        m_window->open(page(u"long.html"_s));
+        m_window->open(page(u"other.html"_s));
+        QVERIFY(back()->isEnabled());
+        m_window->close();
+        m_window->open(page(u"long.html"_s));
+        QVERIFY(!back()->isEnabled());
+    }
+
     void thePageIsShownFromItsAnchorOn()
     {
         m_window->open(page(u"long.html"_s, u"far"_s));

@@ -96,6 +96,18 @@ private Q_SLOTS:
         QVERIFY(arguments.contains("job-billing=Accounts"));
     }
 
+    // The field proposes it when it loses the focus, which it does at the latest with its window.
+    void aWindowMayGoWhileSomethingIsTyped()
+    {
+        open(u"job-billing=Accounts"_s);
+        control<QPushButton>(u"more"_s)->click();
+        auto *billing = control<QLineEdit>(u"job-billing"_s);
+        billing->setFocus();
+        QTRY_VERIFY(billing->hasFocus());
+        QTest::keyClicks(billing, u"!"_s);
+        m_dialog.reset();
+    }
+
     void collatingFollowsTheCopies()
     {
         open();

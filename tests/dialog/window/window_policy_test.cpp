@@ -1,6 +1,8 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QSlider>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
@@ -107,6 +109,32 @@ private Q_SLOTS:
                  u"Thick"_s);
         for (QWidget *above = medium; above; above = above->parentWidget())
             QVERIFY(above->isEnabled());
+    }
+
+    // A field beside a slider is just as wide as its number.
+    void aPadlockHidesNeitherTheNumberNorTheHandle_data()
+    {
+        QTest::addColumn<int>("value");
+        QTest::addRow("low") << -8;
+        QTest::addRow("high") << 8;
+    }
+    void aPadlockHidesNeitherTheNumberNorTheHandle()
+    {
+        QFETCH(int, value);
+        open("[all]\nlock.QXMonoColor=Color\nlock.QXBrightness=" + QByteArray::number(value) +
+             "\n");
+        QVERIFY(m_window->waitForPanels(2));
+        m_window->showPage(2);
+        auto *field = control<QLineEdit>(u"brightnessField"_s);
+        QTRY_VERIFY(ControlLock::isLocked(field));
+        QCOMPARE(field->text(), QString::number(value));
+        const QRect lock = field->findChild<QWidget *>(u"lockMark"_s)->geometry();
+        const int text = field->fontMetrics().horizontalAdvance(u"-10"_s);
+        QVERIFY(field->rect().contains(lock));
+        QVERIFY2(lock.right() < field->width() - text, qPrintable(QString::number(lock.right())));
+        auto *slider = control<QSlider>(u"brightnessSlider"_s);
+        const int ofSlider = slider->findChild<QWidget *>(u"lockMark"_s)->geometry().center().x();
+        QCOMPARE(ofSlider<slider->width() / 2, value> 0);
     }
 
     void aPrinterThatMayNotPrintToFilesHasNoFieldForThem()

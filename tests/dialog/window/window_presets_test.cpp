@@ -1,3 +1,4 @@
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,6 +9,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include "dialog/task/TaskPresets.h"
@@ -198,6 +200,52 @@ private Q_SLOTS:
         });
         QTest::keyClick(button(), Qt::Key_Space);
         QTRY_VERIFY(isOpen);
+    }
+
+    // An open menu turns an event loop of its own, within which nobody would hear of the end.
+    void anInterruptionIsHeardWhileTheMenuIsOpen()
+    {
+        open();
+        bool isOpen = false;
+        QTimer::singleShot(0, this, [&] {
+            isOpen = button()->menu()->isVisible();
+            m_dialog->interrupt();
+        });
+        QTimer rescue; // so that a test that fails ends
+        rescue.setSingleShot(true);
+        connect(&rescue, &QTimer::timeout, button()->menu(), &QWidget::close);
+        rescue.start(5000);
+        button()->showMenu();
+        QVERIFY(isOpen);
+        QVERIFY(rescue.isActive());
+        QTRY_VERIFY(!m_dialog->isVisible());
+    }
+
+    // A menu of a box in front of the window, such as that of a file dialog.
+    void anInterruptionIsHeardWhileAMenuOfABoxIsOpen()
+    {
+        open();
+        bool isOpen = false;
+        bool wasRescued = false;
+        QDialog box(m_dialog.get());
+        QTimer::singleShot(0, &box, [&] {
+            QMenu menu(&box);
+            menu.addAction(u"Rename"_s);
+            QTimer::singleShot(0, &menu, [&] {
+                isOpen = menu.isVisible();
+                m_dialog->interrupt();
+            });
+            QTimer::singleShot(5000, &menu, [&] {
+                wasRescued = true;
+                menu.close();
+                box.close();
+            });
+            menu.exec(box.pos());
+        });
+        box.exec();
+        QVERIFY(isOpen);
+        QVERIFY(!wasRescued);
+        QTRY_VERIFY(!m_dialog->isVisible());
     }
 };
 

@@ -277,6 +277,32 @@ private Q_SLOTS:
             QVERIFY(dot->parentWidget()->rect().contains(dot->geometry()));
     }
 
+    // The longest title of a group leaves no room in front of it there; around the group there is.
+    void aMarkTouchesNoSlider()
+    {
+        openSample();
+        QVERIFY(m_window->waitForPanels(2));
+        task().propose(u"QXMonoColor"_s, u"Color"_s);
+        m_window->showPage(kColorPage);
+        QWidget *panel = m_window->waitForPanel(kColorPage);
+        const QList<QSlider *> sliders = panel->findChildren<QSlider *>();
+        task().opened()->panels->disclose(u"QXBrightness"_s);
+        QTRY_VERIFY(sliders.constFirst()->isVisible());
+        const int before = dots();
+        for (QSlider *slider : sliders)
+            QTest::keyClick(slider, Qt::Key_Right);
+        QTRY_COMPARE(dots(), before + 6);
+        const auto placeOf = [panel](const QWidget *widget) {
+            return QRect(widget->mapTo(panel, QPoint()), widget->size());
+        };
+        for (const QWidget *dot : panel->findChildren<QWidget *>(u"changed"_s)) {
+            QVERIFY(panel->rect().contains(placeOf(dot)));
+            for (const QSlider *slider : sliders)
+                QVERIFY2(!placeOf(dot).intersects(placeOf(slider)),
+                         qPrintable(slider->objectName()));
+        }
+    }
+
     void aSettingGoesBackByItsMenu()
     {
         openOffice();

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void cleanup() { QLocale::setDefault(QLocale::system()); }
     void theEnvironmentChoosesTheLocalization_data();
     void theEnvironmentChoosesTheLocalization();
+    void aRegionServesThoseThatWriteAlike_data();
+    void aRegionServesThoseThatWriteAlike();
     void theDefaultLocaleChoosesTheLocalization_data();
     void theDefaultLocaleChoosesTheLocalization();
     void withoutAMatchTheFirstIsTaken_data();
@@ -56,6 +58,30 @@ void BundleLocalizationsTest::theEnvironmentChoosesTheLocalization_data()
     row("simplified after traditional Chinese", "LANG=zh_TW.UTF-8 LANGUAGE=zh_TW:zh_CN:en",
         "zh_CN English");
     row("English after traditional Chinese", "LANG=zh_TW.UTF-8 LANGUAGE=zh_TW:en", "English");
+}
+
+// Of two localisations in one language each serves the regions that write as its own does.
+void BundleLocalizationsTest::aRegionServesThoseThatWriteAlike_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("preferred");
+    QTest::newRow("Taiwan") << u"zh_TW"_s << QStringList{u"zh_TW"_s};
+    QTest::newRow("Hong Kong") << u"zh_HK"_s << QStringList{u"zh_TW"_s};
+    QTest::newRow("China") << u"zh_CN"_s << QStringList{u"zh_CN"_s};
+    QTest::newRow("Singapore") << u"zh_SG"_s << QStringList{u"zh_CN"_s};
+    QTest::newRow("Brazil") << u"pt_BR"_s << QStringList{u"pt_BR"_s};
+    QTest::newRow("Portugal") << u"pt_PT"_s << QStringList{u"pt_BR"_s};
+    QTest::newRow("Austria") << u"de_AT"_s << QStringList{u"de"_s};
+    QTest::newRow("Sweden") << u"sv_SE"_s << QStringList{u"English"_s};
+}
+
+void BundleLocalizationsTest::aRegionServesThoseThatWriteAlike()
+{
+    QFETCH(QString, locale);
+    QFETCH(QStringList, preferred);
+    QLocale::setDefault(QLocale(locale));
+    const QStringList all{u"English"_s, u"zh_CN"_s, u"de"_s, u"pt_BR"_s, u"zh_TW"_s};
+    QCOMPARE(Bundle::preferredLocalizations(all), preferred);
 }
 
 void BundleLocalizationsTest::theEnvironmentChoosesTheLocalization()

@@ -104,6 +104,23 @@ void InterfaceProblemsTest::aFileThatCannotBeUsedLoadsNoView_data()
         form("<layout class=\"QSpiralLayout\" name=\"layout\">\n"
              "<item><widget class=\"QLabel\" name=\"a\"/></item></layout>"),
         "Test.ui:4:", "\"QSpiralLayout\"");
+    row("unknown layout of a widget within",
+        form("<widget class=\"QWidget\" name=\"inner\">\n"
+             "<layout class=\"QSpiralLayout\" name=\"layout\">\n"
+             "<item><widget class=\"QLabel\" name=\"a\"/></item></layout></widget>"),
+        "Test.ui:5:", "\"QSpiralLayout\"");
+    const auto grid = [](const QByteArray &place) {
+        return form("<layout class=\"QGridLayout\" name=\"layout\">\n<item " + place +
+                    "><widget class=\"QLabel\" name=\"a\"/></item></layout>");
+    };
+    row("a row that there cannot be", grid("row=\"-1\" column=\"0\""), "Test.ui:5:", "row=");
+    row("a row far away", grid("row=\"2000000000\" column=\"0\""), "Test.ui:5:", "row=");
+    row("no columns", grid("row=\"0\" column=\"0\" colspan=\"0\""), "Test.ui:5:", "colspan=");
+    row("columns that are no number", grid("row=\"0\" column=\"x\""), "Test.ui:5:", "column=");
+    row("controls within controls",
+        form(QByteArray("<widget class=\"QWidget\" name=\"a\">").repeated(10'000) +
+             QByteArray("</widget>").repeated(10'000)),
+        "Test.ui:", "<widget");
     row("unknown action",
         form("<widget class=\"QCheckBox\" name=\"box\">\n" +
              stringProperty("action", "requestNothing") + "</widget>"),

@@ -27,6 +27,8 @@ private Q_SLOTS:
             QTest::addRow("%d", dots) << dots << 1.0;
         QTest::newRow("144") << 144 << 2.0;
         QTest::newRow("216") << 216 << 3.0;
+        QTest::newRow("the finest screen") << 576 << 8.0;
+        QTest::newRow("finer than any screen") << 36864 << 1.0;
         QTest::newRow("288") << 288 << 4.0;
     }
     void aMultipleOfSeventyTwoDotsAnInchIsForFinerScreens()

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void aDisabledItemIsPassedOver();
     void anItemThatDoesNotExistIsNotEnabled();
     void nothingHereFiresAnAction();
+    void itemsThatComeTogetherAreThoseThatComeOneByOne();
+    void manyItemsComeInOneWalk();
 
 private:
     QStringList titles() const;
@@ -262,6 +264,38 @@ void PopUpButtonTest::nothingHereFiresAnAction()
     popup::removeAllItems(m_popUp.get());
     QCoreApplication::processEvents();
     QCOMPARE(fired, 0);
+}
+
+void PopUpButtonTest::itemsThatComeTogetherAreThoseThatComeOneByOne()
+{
+    const QList<popup::Item> items{{u"A"_s, 1}, {u"B"_s, 2}, {u"A"_s, 3}, {u"a"_s, 4}, {u""_s, 5}};
+    popup::removeAllItems(m_popUp.get());
+    for (const popup::Item &item : items) {
+        popup::addItemWithTitle(m_popUp.get(), item.title);
+        popup::setRepresentedObject(m_popUp.get(), m_popUp->count() - 1, item.object);
+    }
+    const QStringList oneByOne = titles();
+    popup::selectItemAt(m_popUp.get(), 1);
+    QSignalSpy chosen(m_popUp.get(), &QComboBox::activated);
+    popup::setItems(m_popUp.get(), items);
+    QCOMPARE(titles(), oneByOne);
+    QCOMPARE(m_popUp->currentIndex(), -1);
+    QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), 3),
+             popup::indexOfItemWithTitle(m_popUp.get(), u"A"_s));
+    QCOMPARE(popup::indexOfItemWithRepresentedObject(m_popUp.get(), 1), -1);
+    QCOMPARE(chosen.size(), 0);
+}
+
+void PopUpButtonTest::manyItemsComeInOneWalk()
+{
+    QList<popup::Item> items;
+    for (int i = 0; i < 50'000; ++i)
+        items += popup::Item{u"Choice %1"_s.arg(i), i};
+    QElapsedTimer time;
+    time.start();
+    popup::setItems(m_popUp.get(), items);
+    QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
+    QCOMPARE(m_popUp->count(), 50'000);
 }
 
 QTEST_MAIN(PopUpButtonTest)

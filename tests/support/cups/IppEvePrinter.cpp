@@ -26,9 +26,11 @@ IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats)
     // It ends without a system bus, and goes on when nobody there knows DNS-SD.
     m_bus.start(u"dbus-daemon"_s,
                 {u"--session"_s, u"--nofork"_s, u"--nopidfile"_s, u"--nosyslog"_s,
-                 u"--address=unix:path="_s + bus},
+                 u"--print-address"_s, u"--address=unix:path="_s + bus},
                 logFile);
-    if (!m_bus.waitUntil([&] { return QFile::exists(bus); }))
+    // The bus says its address when it listens; its socket is there before that.
+    if (!m_bus.waitUntil(
+            [&] { return QFile::exists(bus) && serverFile(logFile).contains("unix:path="); }))
         throw std::runtime_error("no message bus for ippeveprinter: " +
                                  serverFile(logFile).toStdString());
     m_printer.start(

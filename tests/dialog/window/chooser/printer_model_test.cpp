@@ -159,6 +159,37 @@ private Q_SLOTS:
         QCOMPARE(reset.size(), 0);
     }
 
+    // Each group by itself would cost views and proxies the time of all rows.
+    void manySeparateChangesAreFewForAView()
+    {
+        const QList<Printer> all = queues(2000);
+        QList<Printer> half;
+        for (int i = 0; i < all.size(); i += 2)
+            half += all.at(i);
+        m_model->setPrinters(half);
+        const QPersistentModelIndex held = m_model->index(700);
+        QSignalSpy inserted(m_model.get(), &QAbstractItemModel::rowsInserted);
+        QSignalSpy removed(m_model.get(), &QAbstractItemModel::rowsRemoved);
+        QSignalSpy layout(m_model.get(), &QAbstractItemModel::layoutChanged);
+        const auto isShown = [this](const QList<Printer> &printers) {
+            for (int i = 0; i < printers.size(); ++i) {
+                if (m_model->printer(i) != printers.at(i))
+                    return false;
+            }
+            return m_model->rowCount() == printers.size();
+        };
+        m_model->setPrinters(all);
+        QVERIFY(isShown(all));
+        QCOMPARE(held.row(), 1400);
+        QCOMPARE(inserted.size(), 1);
+        QVERIFY(layout.size() <= 1);
+        m_model->setPrinters(half);
+        QVERIFY(isShown(half));
+        QCOMPARE(held.row(), 700);
+        QCOMPARE(removed.size(), 1);
+        QVERIFY(layout.size() <= 3);
+    }
+
     void theSameListAgainTouchesNothing()
     {
         m_model->setPrinters(queues(2000));

@@ -78,6 +78,22 @@ struct ChosenCase
     QString proposed;
 };
 
+struct UntouchedCase
+{
+    const char *name;
+    QString attribute;
+    QString value;
+};
+
+const QList<UntouchedCase> kUntouched{
+    {"nothing, which a word stands for", u"print-color-mode"_s, {}},
+    {"more digits than are shown", u"cpi"_s, u"16.66667"_s},
+    {"a number with a zero before it", u"job-priority"_s, u"070"_s},
+    {"blanks around a text", u"job-billing"_s, u" Accounts "_s},
+    {"blanks around a time", u"job-hold-until"_s, u" 12:30"_s},
+    {"a word that nobody knows", u"print-scaling"_s, u"odd"_s},
+};
+
 const QList<ChosenCase> kTyped{
     {"a number", u"ppi"_s, u"600"_s, u"600"_s},
     {"a number below the range", u"job-priority"_s, u"0"_s, u"0"_s},
@@ -206,6 +222,33 @@ private Q_SLOTS:
     }
 
     // Of print-color-mode nobody can tell "nothing" from "auto".
+    // A field may have other words for a value: the nearest number, a word for "none".
+    void whatNobodyHasTouchedIsNotProposed_data() { addRows(kUntouched); }
+    void whatNobodyHasTouchedIsNotProposed()
+    {
+        const UntouchedCase &row = currentRow(kUntouched);
+        open({front(row.attribute, row.value)});
+        QVERIFY(m_page->finishEditing());
+        QCOMPARE(proposal(), QStringList());
+        // Nor when it has become that, and is gone through by keyboard.
+        m_page->setAttributes({front(row.attribute)});
+        m_page->setAttributes({front(row.attribute, row.value)});
+        control(row.attribute)->setFocus(Qt::TabFocusReason);
+        m_page->setFocus();
+        QVERIFY(m_page->finishEditing());
+        QCOMPARE(proposal(), QStringList());
+    }
+
+    void noValueOfAnyAttributeIsProposedByItself()
+    {
+        QList<OfferedAttribute> all;
+        for (const QString &name : jobAttributeNames())
+            all += front(name);
+        open(all);
+        QVERIFY(m_page->finishEditing());
+        QCOMPARE(proposal(), QStringList());
+    }
+
     void noItemStandsTwiceInAList()
     {
         for (const QString &name : jobAttributeNames()) {

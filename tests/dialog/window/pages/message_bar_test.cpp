@@ -1,3 +1,4 @@
+#include <QFontMetrics>
 #include <QLabel>
 #include <QTest>
 #include <QToolButton>
@@ -24,6 +25,28 @@ private Q_SLOTS:
     }
 
     void aShortMessageHasNoDetails() { QVERIFY(details()->isHidden()); }
+
+    void twoLinesInAScriptOfAnotherFontAreWhole()
+    {
+        // As the window's font often is: without the letters of the user's script.
+        QFont font(u"DejaVu Sans"_s);
+        font.setPixelSize(13);
+        m_bar.setFont(font);
+        const QString word = u"설정 "_s;
+        QString text = word;
+        auto *label = m_bar.findChild<QLabel *>(u"messageText"_s);
+        const int line = label->fontMetrics().size(Qt::TextSingleLine, word).height();
+        if (line <= label->fontMetrics().lineSpacing())
+            QSKIP("no font with higher lines is installed");
+        m_bar.show();
+        while (label->heightForWidth(label->width()) < 2 * line) {
+            text += word;
+            m_bar.showMessage(MessageBar::Kind::Problem, text);
+        }
+        QVERIFY(details()->isHidden());
+        QTRY_VERIFY(label->parentWidget()->height() >= 2 * line);
+        m_bar.hide();
+    }
 
     void detailsAreReadByWhoAsksForThem()
     {

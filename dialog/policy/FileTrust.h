@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+
+#include <QByteArray>
+#include <QString>
+
+#include "dialog/policy/PolicyEntry.h"
+
+struct stat;
+
+namespace corvana {
+
+/// Who may own what an administrator has decided for everybody.
+enum class TrustedOwners {
+    Root,
+    /// Also the user who runs this program: the files are of a test, or of somebody who tries a
+    /// policy out.
+    RootAndUser,
+};
+
+/// Why somebody else could have written a file or a folder; empty when nobody could. Access lists
+/// show among the permissions of the group.
+QString whoElseMayWrite(const struct stat &status, TrustedOwners owners);
+
+/// The same of the folders above a path that has no links in it, up to the root: the first that is
+/// not believed, and why; nothing where all of them are.
+std::optional<PolicyProblem> whoElseMayWriteAbove(const QByteArray &path, TrustedOwners owners);
+
+/// The same of a file or a folder, wherever links lead to, and of what is above it. Errors: a
+/// problem as well, for what is not there or cannot be looked at.
+///
+/// Where it answers nothing, what is opened by that path afterwards is what was looked at: nobody
+/// else can put another file there.
+std::optional<PolicyProblem> whyNotTrusted(const QString &path, TrustedOwners owners);
+
+} // namespace corvana

@@ -1,0 +1,267 @@
+#include "dialog/session/PpdBounds.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <memory>
+
+#include <cups/cups.h>
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+#include <QSet>
+
+#include "platform/foundation/ForeignText.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PpdBounds)
+};
+
+// What libcups keeps of a keyword. Units: bytes.
+constexpr qsizetype kLongestKeyword = 40;
+
+// Lines that are looked up in all papers.
+constexpr QByteArrayView kSizeKeywords[] = {"pagesize", "pageregion", "imageablearea",
+                                            "paperdimension"};
+constexpr QByteArrayView kConstraints[] = {"uiconstraints", "nonuiconstraints",
+                                           "cupsuiconstraints"};
+constexpr QByteArrayView kOpeningOfOption[] = {"openui", "jclopenui"};
+constexpr QByteArrayView kOpeningOfGroup[] = {"opengroup", "opensubgroup"};
+
+template <typename Keywords> bool isIn(const Keywords &keywords, QByteArrayView keyword)
+{
+    return std::find(std::begin(keywords), std::end(keywords), keyword) != std::end(keywords);
+}
+
+/// A keyword as libcups compares it: without regard to case.
+class Keyword
+{
+public:
+    /// Of several languages only one is read, so that what counts for each ends at their dot.
+    enum class Part { Whole, WithoutLanguage };
+
+    explicit Keyword(QByteArrayView text, Part part = Part::Whole)
+    {
+        for (const char c : text.first(std::min(text.size(), kLongestKeyword))) {
+            if (c == ' ' || c == '\t' || c == '/' || c == ':')
+                break;
+            m_text[m_length++] = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+            if (c == '.' && part == Part::WithoutLanguage && m_length > 1 && m_text[0] != '.')
+                break;
+        }
+    }
+
+    QByteArrayView view() const { return {m_text.data(), static_cast<qsizetype>(m_length)}; }
+
+private:
+    std::array<char, kLongestKeyword> m_text{};
+    std::size_t m_length = 0;
+};
+
+/// Counts the lines that say something, each by its keyword.
+class LineCount
+{
+public:
+    explicit LineCount(const PpdBounds &bounds) : m_bounds(bounds) {}
+
+    // The next line of the file, without its end. False when it is one too many.
+    bool add(QByteArrayView line)
+    {
+        if (!line.startsWith('*'))
+            return true;
+        line = line.sliced(1);
+        const Keyword keyword(line, Keyword::Part::WithoutLanguage);
+        // Most lines begin as the one before them does.
+        if (!m_count || keyword.view() != m_keyword)
+            turnTo(keyword.view());
+        if (m_kind == Kind::Opening) {
+            // "OpenUI *KEYWORD/TEXT: PickOne"
+            const qsizetype name = line.indexOf('*');
+            m_options.insert(name < 0 ? QByteArray()
+                                      : Keyword(line.sliced(name + 1)).view().toByteArray());
+        }
+        const int lines = ++*m_count;
+        if (m_lines.size() > m_bounds.keywords)
+            return refuse(Texts::tr("There is too much in it: more than %1 different keywords.")
+                              .arg(QString::number(m_bounds.keywords)));
+        switch (m_kind) {
+        case Kind::Choice:
+            return addChoice(m_keyword, lines);
+        case Kind::Attribute:
+            return addAttribute(m_keyword, lines);
+        default:
+            return lines <= boundOf(m_kind) || refuseLines(m_keyword, boundOf(m_kind));
+        }
+    }
+
+    QString excess() const { return m_excess; }
+
+private:
+    // Choices and attributes have a bound together, too; each other keyword one for itself. A
+    // language is one: only its beginning is kept.
+    enum class Kind { Opening, Group, Size, Constraint, Language, Choice, Attribute };
+
+    Kind kindOf(const QByteArray &keyword) const
+    {
+        if (isIn(kOpeningOfOption, keyword))
+            return Kind::Opening;
+        if (isIn(kOpeningOfGroup, keyword))
+            return Kind::Group;
+        if (isIn(kSizeKeywords, keyword))
+            return Kind::Size;
+        if (isIn(kConstraints, keyword))
+            return Kind::Constraint;
+        if (keyword.endsWith('.'))
+            return Kind::Language;
+        return m_options.contains(keyword) ? Kind::Choice : Kind::Attribute;
+    }
+
+    int boundOf(Kind kind) const
+    {
+        switch (kind) {
+        case Kind::Opening:
+            return m_bounds.options;
+        case Kind::Group:
+            return m_bounds.groups;
+        case Kind::Size:
+            return m_bounds.sizes;
+        case Kind::Constraint:
+            return m_bounds.constraints;
+        default:
+            return m_bounds.attributes;
+        }
+    }
+
+    void turnTo(QByteArrayView keyword)
+    {
+        m_keyword = keyword.toByteArray();
+        m_count = &m_lines[m_keyword];
+        m_kind = kindOf(m_keyword);
+    }
+
+    bool addChoice(const QByteArray &keyword, int lines)
+    {
+        if (lines > m_bounds.choices)
+            return refuseLines(keyword, m_bounds.choices);
+        return ++m_choices <= m_bounds.allChoices ||
+               refuse(Texts::tr("There is too much in it: more than %1 choices of all options "
+                                "together. “%2” has the most.")
+                          .arg(QString::number(m_bounds.allChoices), mostFrequent(Kind::Choice)));
+    }
+
+    bool addAttribute(const QByteArray &keyword, int lines)
+    {
+        if (lines > m_bounds.sameAttributes)
+            return refuseLines(keyword, m_bounds.sameAttributes);
+        return ++m_attributes <= m_bounds.attributes ||
+               refuse(
+                   Texts::tr("There is too much in it: more than %1 lines that belong to no "
+                             "option. The most frequent is “%2”.")
+                       .arg(QString::number(m_bounds.attributes), mostFrequent(Kind::Attribute)));
+    }
+
+    // The keyword with the most lines, of options or of what belongs to none; the first by name.
+    QString mostFrequent(Kind kind) const
+    {
+        QByteArray most;
+        int lines = 0;
+        for (auto one = m_lines.cbegin(); one != m_lines.cend(); ++one) {
+            if (kindOf(one.key()) == kind &&
+                (*one > lines || (*one == lines && one.key() < most))) {
+                most = one.key();
+                lines = *one;
+            }
+        }
+        return shown(most);
+    }
+
+    static QString shown(const QByteArray &keyword)
+    {
+        return terminalLine(u'*' + QString::fromUtf8(keyword));
+    }
+
+    bool refuseLines(const QByteArray &keyword, int allowed)
+    {
+        return refuse(Texts::tr("There is too much in it: more than %1 lines that begin with “%2”.")
+                          .arg(QString::number(allowed), shown(keyword)));
+    }
+
+    bool refuse(const QString &excess)
+    {
+        m_excess = excess;
+        return false;
+    }
+
+    const PpdBounds m_bounds;
+    QHash<QByteArray, int> m_lines;
+    QSet<QByteArray> m_options; ///< those that have been opened
+    QByteArray m_keyword;       ///< of the last line
+    int *m_count = nullptr;     ///< its lines so far
+    Kind m_kind = Kind::Attribute;
+    int m_choices = 0;
+    int m_attributes = 0;
+    QString m_excess;
+};
+
+// Its size where no line ends in it.
+qsizetype endOfLine(QByteArrayView text)
+{
+    const auto *end =
+        std::find_if(text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; });
+    return end - text.begin();
+}
+
+struct FileCloser
+{
+    void operator()(cups_file_t *file) const { cupsFileClose(file); }
+};
+
+} // namespace
+
+QString excessOfPpd(const QString &path, const PpdBounds &bounds)
+{
+    // libcups unpacks what is compressed, and so must who counts.
+    const std::unique_ptr<cups_file_t, FileCloser> file(
+        cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    LineCount count(bounds);
+    QByteArray line; // as far as it has been read
+    qint64 size = 0;
+    std::array<char, 65536> block{};
+    for (;;) {
+        const ssize_t length =
+            file ? cupsFileRead(file.get(), block.data(), block.size()) : ssize_t(-1);
+        if (length <= 0)
+            break;
+        size += length;
+        if (size > bounds.bytes)
+            return Texts::tr("It is larger than %1 MB.")
+                .arg(QString::number(bounds.bytes / (1024 * 1024)));
+        for (QByteArrayView rest(block.data(), length); !rest.isEmpty();) {
+            const qsizetype end = endOfLine(rest);
+            // Only the beginning of a line matters.
+            constexpr qsizetype kLongest = 512;
+            const QByteArrayView part = rest.first(std::min(end, kLongest - line.size()));
+            const bool isWhole = end < rest.size();
+            if (!isWhole || !line.isEmpty())
+                line += part;
+            if (!isWhole)
+                break;
+            if (!count.add(line.isEmpty() ? part : QByteArrayView(line)))
+                return count.excess();
+            line.resize(0);
+            rest = rest.sliced(end + 1);
+        }
+    }
+    return count.add(line) ? QString() : count.excess();
+}
+
+} // namespace corvana

@@ -1,0 +1,96 @@
+#include "dialog/window/KeyboardFocus.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QFocusFrame>
+#include <QPainter>
+#include <QPushButton>
+#include <QTabBar>
+
+#include "platform/toolkit/DisclosureButton.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr int kWidth = 2; // pixels
+constexpr int kInsideTab = 3;
+
+// Text that can be read on the window is seen on it as a line as well; the highlight of some themes
+// is not.
+void paintFrame(QWidget *widget)
+{
+    QPainter painter(widget);
+    painter.setPen(QPen(widget->palette().color(QPalette::Active, QPalette::WindowText), kWidth));
+    painter.drawRect(widget->rect().adjusted(1, 1, -1, -1));
+}
+
+class Frame : public QFocusFrame
+{
+public:
+    using QFocusFrame::QFocusFrame;
+
+protected:
+    void paintEvent(QPaintEvent *) override { paintFrame(this); }
+};
+
+/// Inside the current tab: there is no room around a row of tabs.
+class TabFrame : public QWidget
+{
+public:
+    explicit TabFrame(QTabBar *bar) : QWidget(bar)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        const auto place = [this, bar] {
+            setGeometry(bar->tabRect(bar->currentIndex())
+                            .adjusted(kInsideTab, kInsideTab, -kInsideTab, -kInsideTab));
+        };
+        connect(bar, &QTabBar::currentChanged, this, place);
+        place();
+        show();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override { paintFrame(this); }
+};
+
+bool hardlyShowsFocus(const QWidget *widget)
+{
+    if (const auto *button = qobject_cast<const QPushButton *>(widget))
+        return button->isDefault() || qobject_cast<const DisclosureButton *>(widget);
+    return qobject_cast<const QAbstractItemView *>(widget) != nullptr;
+}
+
+} // namespace
+
+KeyboardFocus::KeyboardFocus(QObject *parent) : QObject(parent)
+{
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *now) { follow(now); });
+}
+
+KeyboardFocus::~KeyboardFocus()
+{
+    delete m_frame;
+    delete m_tabFrame;
+}
+
+void KeyboardFocus::follow(QWidget *focus)
+{
+    // Whoever clicks knows where; and of a list that has popped up, all that is seen has the focus.
+    const bool byKey = focus && focus->window()->testAttribute(Qt::WA_KeyboardFocusChange) &&
+                       focus->window()->windowType() != Qt::Popup;
+    delete m_tabFrame;
+    if (auto *bar = qobject_cast<QTabBar *>(focus); bar && byKey)
+        m_tabFrame = new TabFrame(bar);
+    if (!byKey || !hardlyShowsFocus(focus)) {
+        if (m_frame)
+            m_frame->setWidget(nullptr);
+        return;
+    }
+    if (!m_frame)
+        m_frame = new Frame(focus);
+    m_frame->setWidget(focus);
+}
+
+} // namespace corvana

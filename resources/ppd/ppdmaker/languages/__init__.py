@@ -1,0 +1,1 @@
+"""One module a language: its texts by the English ones."""

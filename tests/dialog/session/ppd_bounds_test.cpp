@@ -1,0 +1,190 @@
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cups/file.h>
+
+#include "dialog/session/PpdBounds.h"
+#include "dialog/session/PpdFile.h"
+#include "tests/dialog/support/TestPrinters.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr PpdBounds kBounds{.bytes = 100'000,
+                            .options = 6,
+                            .choices = 5,
+                            .allChoices = 12,
+                            .sizes = 4,
+                            .constraints = 3,
+                            .groups = 3,
+                            .attributes = 40,
+                            .sameAttributes = 30,
+                            .keywords = 60};
+
+QByteArray lines(const QByteArray &begin, int count, const QByteArray &end)
+{
+    QByteArray all;
+    for (int i = 0; i < count; ++i)
+        all += begin + QByteArray::number(i) + end + '\n';
+    return all;
+}
+
+QByteArray option(const QByteArray &keyword, int choices)
+{
+    return "*OpenUI *" + keyword + "/Text: PickOne\n*Default" + keyword + ": C0\n" +
+           lines('*' + keyword + " C", choices, "/Text: \"\"") + "*CloseUI: *" + keyword + '\n';
+}
+
+struct Row
+{
+    const char *what;
+    QByteArray text;
+    QString excess; // what is named; null where there is none
+};
+
+QList<Row> rows()
+{
+    return {
+        {"nothing", {}, {}},
+        {"as many choices as there may be", option("Tray", 5), {}},
+        {"one choice too many", option("Tray", 6), u"“*tray”"_s},
+        {"in other letters", QByteArray(option("Tray", 6)).replace("*Tray C", "*TRAY C"),
+         u"“*tray”"_s},
+        {"lines that end with a carriage return", option("Tray", 6).replace('\n', '\r'),
+         u"“*tray”"_s},
+        {"as many choices in all", option("A", 5) + option("B", 5) + option("C", 2), {}},
+        {"too many choices in all", option("A", 4) + option("B", 5) + option("C", 4),
+         u"more than 12 choices of all options together. “*b” has the most"_s},
+        {"too many options", lines("*OpenUI *A", 7, "/A: PickOne"), u"“*openui”"_s},
+        {"too many papers", option("PageSize", 5), u"“*pagesize”"_s},
+        {"too many measures of papers", lines("*PaperDimension P", 5, ": \"1 1\""),
+         u"“*paperdimension”"_s},
+        {"too many constraints", lines("*UIConstraints: *A A", 4, " *B B"), u"“*uiconstraints”"_s},
+        {"as many groups as there may be", lines("*OpenGroup: G", 3, "/G"), {}},
+        {"too many groups", lines("*OpenGroup: G", 4, "/G"),
+         u"more than 3 lines that begin with “*opengroup”"_s},
+        {"too many groups in a group", lines("*OpenSubGroup: G", 4, "/G"), u"“*opensubgroup”"_s},
+        {"as many of one attribute as there may be", lines("*Font F", 30, ": Standard"), {}},
+        {"too many of one attribute", lines("*Font F", 31, ": Standard"),
+         u"more than 30 lines that begin with “*font”"_s},
+        {"as many attributes as there may be",
+         lines("*Font F", 30, ": Standard") + lines("*Face F", 10, ": Standard"),
+         {}},
+        {"too many attributes",
+         lines("*Font F", 30, ": Standard") + lines("*Face F", 11, ": Standard"),
+         u"more than 40 lines that belong to no option. The most frequent is “*font”"_s},
+        {"as many texts of each of two languages",
+         lines("*ja.Translation A", 40, "/B: \"\"") + lines("*zh_CN.Translation A", 40, "/B: \"\""),
+         {}},
+        {"too many texts of one language", lines("*ja.Translation A", 41, "/B: \"\""), u"“*ja.”"_s},
+        {"too many keywords", lines("*l", 61, ".A B: \"\""), u"more than 60 different keywords"_s},
+        {"what does not begin a line", QByteArray(" *Font F\nx*Font F\n").repeated(100), {}},
+        {"a long line", "*Comment: \"" + QByteArray(90'000, '*') + '"', {}},
+        {"too many bytes", QByteArray(100'001, ' '), u"larger"_s},
+    };
+}
+
+} // namespace
+
+/// How much of a PPD libcups gets to see.
+class PpdBoundsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QString path() const { return m_folder.filePath(u"a.ppd"_s); }
+
+private Q_SLOTS:
+    void whatIsTooMuchIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("excess");
+        for (const Row &row : rows())
+            QTest::newRow(row.what) << row.text << row.excess;
+    }
+    void whatIsTooMuchIsNamed()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, excess);
+        writeFile(path(), text);
+        const QString said = excessOfPpd(path(), kBounds);
+        QVERIFY2(said.contains(excess), qPrintable(said));
+        QCOMPARE(said.isEmpty(), excess.isNull());
+    }
+
+    void whatIsCompressedIsCountedAsItBecomes()
+    {
+        cups_file_t *file = cupsFileOpen(qPrintable(path()), "w9");
+        QVERIFY(file);
+        const QByteArray text = option("Tray", 6);
+        cupsFileWrite(file, text.constData(), static_cast<size_t>(text.size()));
+        cupsFileClose(file);
+        QVERIFY(excessOfPpd(path(), kBounds).contains(u"“*tray”"_s));
+    }
+
+    void theSamplesAreFarFromTheirBounds()
+    {
+        PpdBounds bounds;
+        for (int *bound : {&bounds.options, &bounds.choices, &bounds.allChoices, &bounds.sizes,
+                           &bounds.constraints, &bounds.groups, &bounds.attributes,
+                           &bounds.sameAttributes, &bounds.keywords})
+            *bound /= 10;
+        QCOMPARE(excessOfPpd(samplePpdPath(), bounds), QString());
+    }
+
+    // libcups looks each paper up among all of them, and is busy for minutes.
+    void aPpdThatWouldNeverBeReadIsRefusedAtOnce_data()
+    {
+        QTest::addColumn<QByteArray>("keyword");
+        QTest::newRow("papers") << QByteArray("PageSize");
+        QTest::newRow("anything else") << QByteArray("Tray");
+    }
+    void aPpdThatWouldNeverBeReadIsRefusedAtOnce()
+    {
+        QFETCH(QByteArray, keyword);
+        writeFile(path(), "*PPD-Adobe: \"4.3\"\n" + option(keyword, 100'000));
+        QElapsedTimer time;
+        time.start();
+        QString error;
+        QVERIFY(!openPpdFile(path(), &error));
+        QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(error.startsWith(path() + u": There is too much in it"_s), qPrintable(error));
+    }
+
+    // libcups compares each with all that are like it: 30,000 keep it busy for half a minute.
+    void whatIsWithinBoundsIsReadSoon_data()
+    {
+        const PpdBounds bounds;
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("parameters of a custom option")
+            << option("Tray", 2) + "*CustomTray True: \"\"\n" +
+                   lines("*ParamCustomTray P", bounds.sameAttributes, "/P: 1 string 0 10");
+        QTest::newRow("groups in a group")
+            << "*OpenGroup: G/G\n" +
+                   lines("*OpenSubGroup: G", bounds.groups, "/G\n*CloseSubGroup: G") +
+                   "*CloseGroup: G\n";
+        QTest::newRow("two attributes in turn")
+            << lines("*Typeface F", bounds.sameAttributes, ": \"a\"\n*Alias F: \"a\"");
+    }
+    void whatIsWithinBoundsIsReadSoon()
+    {
+        QFETCH(QByteArray, text);
+        QFile sample(samplePpdPath());
+        QVERIFY(sample.open(QIODevice::ReadOnly));
+        writeFile(path(), sample.readAll() + text);
+        QElapsedTimer time;
+        time.start();
+        QString error;
+        QVERIFY2(openPpdFile(path(), &error), qPrintable(error));
+        QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
+    }
+};
+
+QTEST_GUILESS_MAIN(PpdBoundsTest)
+
+#include "ppd_bounds_test.moc"

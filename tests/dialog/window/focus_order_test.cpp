@@ -1,0 +1,153 @@
+#include <algorithm>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMultiMap>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
+#include "dialog/window/preview/SheetView.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/support/UserHands.h"
+#include "tests/dialog/support/WindowDriver.h"
+#include "tests/support/TestPaths.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMostStops = 100;
+
+/// Where Tab leads, from where the focus is until it is there again, or until a place comes twice.
+QList<QWidget *> stopsOfTab(UserHands &hands, Qt::KeyboardModifiers modifiers = {})
+{
+    QList<QWidget *> stops{QApplication::focusWidget()};
+    for (int i = 0; i < kMostStops; ++i) {
+        hands.key(modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+        QWidget *now = QApplication::focusWidget();
+        const bool isAgain = stops.contains(now);
+        stops += now;
+        if (isAgain)
+            break;
+    }
+    return stops;
+}
+
+/// The keys that lead somewhere on what is shown, each with what says so.
+QMultiMap<QKeySequence, QString> mnemonicsOf(const QWidget &window)
+{
+    QMultiMap<QKeySequence, QString> keys;
+    const auto add = [&](const QString &text) {
+        if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty())
+            keys.insert(key, text);
+    };
+    for (const QLabel *label : window.findChildren<QLabel *>()) {
+        if (label->isVisible() && label->buddy())
+            add(label->text());
+    }
+    for (const QAbstractButton *button : window.findChildren<QAbstractButton *>()) {
+        if (button->isVisible())
+            add(button->text());
+    }
+    for (const QTabBar *bar : window.findChildren<QTabBar *>()) {
+        for (int tab = 0; tab < bar->count(); ++tab)
+            add(bar->tabText(tab));
+    }
+    return keys;
+}
+
+QStringList namesOf(const QList<QWidget *> &widgets)
+{
+    QStringList names;
+    for (const QWidget *widget : widgets)
+        names += widget ? widget->objectName() : u"nothing"_s;
+    return names;
+}
+
+} // namespace
+
+/// Where the focus goes by keys alone.
+class FocusOrderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabGoesRoundThroughEverything_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("disclosure");
+        QTest::addRow("general") << 0 << QString();
+        QTest::addRow("general, more") << 0 << u"more"_s;
+        QTest::addRow("print setting, advanced") << 1 << u"optionButton"_s;
+        QTest::addRow("color setting, adjustment") << 2 << u"optionButton"_s;
+    }
+
+    void tabGoesRoundThroughEverything()
+    {
+        QFETCH(int, page);
+        QFETCH(QString, disclosure);
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line), WindowDriver::Activation::Yes);
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().phase(), PrintTask::Phase::Ready,
+                                  kWindowPatience);
+        window.showPage(page);
+        if (page > 0)
+            QVERIFY(window.waitForPanel(page));
+        const auto *sheets = window.child<SheetView>(u"sheets"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!sheets->sheets().plan.sheets.isEmpty(), kWindowPatience);
+        if (!disclosure.isEmpty()) {
+            auto *button = window.pages()->currentWidget()->findChild<QPushButton *>(disclosure);
+            QVERIFY(button);
+            if (!button->isChecked())
+                button->click();
+        }
+        QTest::qWait(50);
+        UserHands hands(window.dialog());
+        window.child<QPushButton>(u"print"_s)->setFocus();
+        const QStringList stops = namesOf(stopsOfTab(hands));
+        QCOMPARE(stops.first(), u"print"_s);
+        // It comes back to where it began, and so it has been everywhere.
+        QVERIFY2(stops.last() == u"print"_s, qPrintable(stops.join(u' ')));
+        for (const char *name :
+             {"printers", "preset", "qt_tabwidget_tabbar", "sheets", "findField"})
+            QVERIFY2(stops.contains(QLatin1StringView(name)),
+                     qPrintable(QLatin1StringView(name) + u" not in "_s + stops.join(u' ')));
+        QStringList back = namesOf(stopsOfTab(hands, Qt::ShiftModifier));
+        std::reverse(back.begin(), back.end());
+        QCOMPARE(back, stops);
+    }
+
+    // A key that leads to two places leads to the wrong one every second time.
+    void noKeyLeadsToTwoPlaces_data() { tabGoesRoundThroughEverything_data(); }
+    void noKeyLeadsToTwoPlaces()
+    {
+        QFETCH(int, page);
+        QFETCH(QString, disclosure);
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line));
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().phase(), PrintTask::Phase::Ready,
+                                  kWindowPatience);
+        window.showPage(page);
+        if (page > 0)
+            QVERIFY(window.waitForPanel(page));
+        if (!disclosure.isEmpty())
+            window.pages()->currentWidget()->findChild<QPushButton *>(disclosure)->setChecked(true);
+        const auto keys = mnemonicsOf(window.dialog());
+        QVERIFY(keys.size() >= 4);
+        for (const QKeySequence &key : keys.uniqueKeys())
+            QVERIFY2(keys.count(key) == 1,
+                     qPrintable(key.toString() + u": "_s + keys.values(key).join(u", "_s)));
+    }
+};
+
+QTEST_MAIN(FocusOrderTest)
+
+#include "focus_order_test.moc"
