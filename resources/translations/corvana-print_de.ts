@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>Das Programm cupsfilter wurde weder im Suchpfad noch in /usr/sbin gefunden. Es gehört zu CUPS (in Debian das Paket &quot;cups&quot;).</translation>
+        <translation>Das Programm cupsfilter wurde weder im Suchpfad noch in /usr/sbin gefunden. Es gehört zu CUPS (in Debian das Paket „cups“).</translation>
     </message>
 </context>
 <context>
@@ -1151,11 +1151,11 @@
     </message>
     <message>
         <source>it belongs to the user with the number %1</source>
-        <translation>sie gehört dem Benutzer mit der Nummer %1</translation>
+        <translation>Besitzer ist der Benutzer mit der Nummer %1</translation>
     </message>
     <message>
         <source>others than its owner may write it</source>
-        <translation>nicht nur der Besitzer darf sie schreiben</translation>
+        <translation>Schreiben dürfen auch andere als der Besitzer</translation>
     </message>
     <message>
         <source>nothing below this folder is used: %1</source>
@@ -3952,7 +3952,7 @@ Für die Befehlszeile: %2</translation>
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>%1 kann dem Drucker nicht mitgeteilt werden: Seine PPD sagt nicht brauchbar, wie das geschieht.</translation>
+        <translation>%1 kann nicht an den Drucker gesendet werden: Seine PPD gibt nicht in brauchbarer Form an, wie das geschieht.</translation>
     </message>
 </context>
 <context>

@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>others than its owner may write it</source>
-        <translation>otros usuarios además de su propietario pueden escribir en él</translation>
+        <translation>otros usuarios además de su propietario tienen permiso de escritura</translation>
     </message>
     <message>
         <source>nothing below this folder is used: %1</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>What “%1” answers is larger than anything that a print server has to say.</source>
-        <translation>La respuesta de «%1» es mayor que cualquiera propia de un servidor de impresión.</translation>
+        <translation>La respuesta de «%1» es demasiado grande para ser la de un servidor de impresión.</translation>
     </message>
     <message>
         <source>The print server “%1” wants a user and a password.</source>
@@ -2695,7 +2695,7 @@
     </message>
     <message>
         <source>The filter chain of CUPS crashed.</source>
-        <translation>La cadena de filtros de CUPS ha fallado.</translation>
+        <translation>La cadena de filtros de CUPS se ha cerrado inesperadamente.</translation>
     </message>
     <message>
         <source>The document could not be converted for the printer: %1</source>
@@ -3952,7 +3952,7 @@ En la línea de órdenes: %2</translation>
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>%1 no se puede enviar a la impresora: su PPD no dice de forma utilizable cómo se hace.</translation>
+        <translation>%1 no se puede enviar a la impresora: su PPD no indica de forma utilizable cómo se hace.</translation>
     </message>
 </context>
 <context>
@@ -3963,19 +3963,19 @@ En la línea de órdenes: %2</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that begin with “%2”.</source>
-        <translation>Contiene demasiado: más de %1 líneas que empiezan por «%2».</translation>
+        <translation>Contiene demasiados datos: más de %1 líneas que empiezan por «%2».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
-        <translation>Contiene demasiado: más de %1 valores entre todas las opciones. La que más tiene es «%2».</translation>
+        <translation>Contiene demasiados datos: más de %1 valores entre todas las opciones. La que más tiene es «%2».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
-        <translation>Contiene demasiado: más de %1 líneas que no pertenecen a ninguna opción. La más frecuente es «%2».</translation>
+        <translation>Contiene demasiados datos: más de %1 líneas que no pertenecen a ninguna opción. La más frecuente es «%2».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
-        <translation>Contiene demasiado: más de %1 palabras clave distintas.</translation>
+        <translation>Contiene demasiados datos: más de %1 palabras clave distintas.</translation>
     </message>
 </context>
 </TS>

@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>Le programme cupsfilter est introuvable, aussi bien dans le chemin de recherche que dans /usr/sbin. Il fait partie de CUPS (dans Debian, le paquet &quot;cups&quot;).</translation>
+        <translation>Le programme cupsfilter est introuvable, aussi bien dans le chemin de recherche que dans /usr/sbin. Il fait partie de CUPS (dans Debian, le paquet « cups »).</translation>
     </message>
 </context>
 <context>
@@ -3952,7 +3952,7 @@ Pour la ligne de commande : %2</translation>
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>%1 ne peut pas être envoyé à l’imprimante : sa PPD n’indique pas de façon utilisable comment le faire.</translation>
+        <translation>%1 ne peut pas être envoyé à l’imprimante : son PPD n’indique pas de façon utilisable comment le faire.</translation>
     </message>
 </context>
 <context>
@@ -3963,19 +3963,19 @@ Pour la ligne de commande : %2</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that begin with “%2”.</source>
-        <translation>Il en contient trop : plus de %1 lignes qui commencent par « %2 ».</translation>
+        <translation>Il contient trop de données : plus de %1 lignes qui commencent par « %2 ».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
-        <translation>Il en contient trop : plus de %1 choix pour l’ensemble des options. Celle qui en a le plus est « %2 ».</translation>
+        <translation>Il contient trop de données : plus de %1 choix pour l’ensemble des options. Celle qui en a le plus est « %2 ».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
-        <translation>Il en contient trop : plus de %1 lignes qui n’appartiennent à aucune option. La plus fréquente est « %2 ».</translation>
+        <translation>Il contient trop de données : plus de %1 lignes qui n’appartiennent à aucune option. La plus fréquente est « %2 ».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
-        <translation>Il en contient trop : plus de %1 mots-clés différents.</translation>
+        <translation>Il contient trop de données : plus de %1 mots-clés différents.</translation>
     </message>
 </context>
 </TS>

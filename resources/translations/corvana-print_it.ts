@@ -3952,7 +3952,7 @@ Per la riga di comando: %2</translation>
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>%1 non può essere inviato alla stampante: la sua PPD non dice in modo utilizzabile come farlo.</translation>
+        <translation>%1 non può essere inviato alla stampante: il suo PPD non indica in modo utilizzabile come farlo.</translation>
     </message>
 </context>
 <context>
@@ -3963,19 +3963,19 @@ Per la riga di comando: %2</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that begin with “%2”.</source>
-        <translation>Contiene troppo: più di %1 righe che iniziano con «%2».</translation>
+        <translation>Contiene troppi dati: più di %1 righe che iniziano con «%2».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
-        <translation>Contiene troppo: più di %1 valori in tutte le opzioni insieme. Quella che ne ha di più è «%2».</translation>
+        <translation>Contiene troppi dati: più di %1 valori in tutte le opzioni insieme. Quella che ne ha di più è «%2».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
-        <translation>Contiene troppo: più di %1 righe che non appartengono a nessuna opzione. La più frequente è «%2».</translation>
+        <translation>Contiene troppi dati: più di %1 righe che non appartengono a nessuna opzione. La più frequente è «%2».</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
-        <translation>Contiene troppo: più di %1 parole chiave diverse.</translation>
+        <translation>Contiene troppi dati: più di %1 parole chiave diverse.</translation>
     </message>
 </context>
 </TS>

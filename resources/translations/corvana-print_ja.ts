@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
-        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ "cups"）に含まれています。</translation>
+        <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ「cups」）に含まれています。</translation>
     </message>
 </context>
 <context>
@@ -660,7 +660,7 @@
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>%1 をプリンターに送信できません。送信方法が PPD に正しく記述されていません。</translation>
+        <translation>%1をプリンターに送信できません。送信方法が PPD に正しく記述されていません。</translation>
     </message>
 </context>
 <context>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
-        <translation>内容が多すぎます。すべてのオプションの設定値が合わせて %1 個を超えています。最も多いのは「%2」です。</translation>
+        <translation>内容が多すぎます。すべてのオプションの設定値が合計 %1 個を超えています。最も多いのは「%2」です。</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>It is larger than %1 MB.</source>
-        <translation>大きさが %1 MB を超えています。</translation>
+        <translation>サイズが %1 MB を超えています。</translation>
     </message>
 </context>
 <context>
@@ -1296,14 +1296,14 @@
     </message>
     <message>
         <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the line “%2” from the file %3.</source>
-        <translation>プリントサーバー「%1」の証明書が以前のものと異なります。置き換えられたか、第三者が通信に割り込んでいます。意図的に置き換えた場合は、ファイル %3 から「%2」の行を削除してください。</translation>
+        <translation>プリントサーバー「%1」の証明書が以前のものと異なります。証明書が交換されたか、第三者が通信に介入しています。意図して交換した場合は、ファイル %3 から「%2」の行を削除してください。</translation>
     </message>
 </context>
 <context>
     <name>StartValues</name>
 <message>
         <source>This printer has no option of this name: %1.</source>
-        <translation>このプリンターには次の名前のオプションがありません: %1</translation>
+        <translation>このプリンターには次の名前のオプションがありません: %1。</translation>
     </message>
     <message>
         <source>Default of the queue “%1”: %2</source>
@@ -1311,7 +1311,7 @@
     </message>
     <message>
         <source>The queue “%1” adds this to each job; what it does is not known here: %2.</source>
-        <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2</translation>
+        <translation>キュー「%1」はすべてのジョブに次の設定を加えますが、その働きはここではわかりません: %2。</translation>
     </message>
 <message>
         <source>Default of your administrator: %1</source>
@@ -1454,11 +1454,11 @@
     </message>
     <message>
         <source>“%1” is not possible for %2. Allowed: %3.</source>
-        <translation>「%1」は%2に指定できません。指定できる値: %3</translation>
+        <translation>「%1」は%2に指定できません。指定できる値: %3。</translation>
     </message>
     <message>
         <source>This is not possible for %1. Allowed: %2.</source>
-        <translation>この値は%1に指定できません。指定できる値: %2</translation>
+        <translation>この値は%1に指定できません。指定できる値: %2。</translation>
     </message>
     <message>
         <source>Cannot be combined with %1.</source>
@@ -2221,7 +2221,7 @@ For the command line: %2</source>
     <name>corvana::ServerJob</name>
     <message>
         <source>The printer “%1” takes documents of these kinds only: %2.</source>
-        <translation>プリンター「%1」で使用できる文書の種類は次のとおりです: %2</translation>
+        <translation>プリンター「%1」で使用できる文書の種類は次のとおりです: %2。</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>
@@ -3938,11 +3938,11 @@ For the command line: %2</source>
     </message>
     <message>
         <source>others than its owner may write it</source>
-        <translation>所有者以外が書き込めます</translation>
+        <translation>所有者以外のユーザーも書き込めます</translation>
     </message>
     <message>
         <source>nothing below this folder is used: %1</source>
-        <translation>このフォルダーの中のものは使用されません: %1</translation>
+        <translation>このフォルダー以下のものは使用されません: %1</translation>
     </message>
     <message>
         <source>nothing in this folder is used: %1</source>

@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>프로그램 cupsfilter가 경로와 /usr/sbin 어디에도 없습니다. 이 프로그램은 CUPS에 들어 있습니다(Debian에서는 패키지 &quot;cups&quot;).</translation>
+        <translation>프로그램 cupsfilter가 경로와 /usr/sbin 어디에도 없습니다. 이 프로그램은 CUPS에 들어 있습니다(Debian에서는 패키지 ‘cups’).</translation>
     </message>
 </context>
 <context>

@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>others than its owner may write it</source>
-        <translation>outros usuários além do proprietário podem gravar nele</translation>
+        <translation>outros usuários além do proprietário têm permissão de gravação</translation>
     </message>
     <message>
         <source>nothing below this folder is used: %1</source>
@@ -2695,7 +2695,7 @@
     </message>
     <message>
         <source>The filter chain of CUPS crashed.</source>
-        <translation>A cadeia de filtros do CUPS falhou.</translation>
+        <translation>A cadeia de filtros do CUPS foi encerrada inesperadamente.</translation>
     </message>
     <message>
         <source>The document could not be converted for the printer: %1</source>
@@ -3952,7 +3952,7 @@ Na linha de comando: %2</translation>
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>%1 não pode ser enviado à impressora: a PPD não diz de forma utilizável como isso é feito.</translation>
+        <translation>%1 não pode ser enviado à impressora: o PPD dela não indica de forma utilizável como fazer isso.</translation>
     </message>
 </context>
 <context>
@@ -3963,19 +3963,19 @@ Na linha de comando: %2</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that begin with “%2”.</source>
-        <translation>Contém demais: mais de %1 linhas que começam com “%2”.</translation>
+        <translation>Contém dados demais: mais de %1 linhas que começam com “%2”.</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 choices of all options together. “%2” has the most.</source>
-        <translation>Contém demais: mais de %1 valores somando todas as opções. A que tem mais é “%2”.</translation>
+        <translation>Contém dados demais: mais de %1 valores somando todas as opções. A que tem mais é “%2”.</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 lines that belong to no option. The most frequent is “%2”.</source>
-        <translation>Contém demais: mais de %1 linhas que não pertencem a nenhuma opção. A mais frequente é “%2”.</translation>
+        <translation>Contém dados demais: mais de %1 linhas que não pertencem a nenhuma opção. A mais frequente é “%2”.</translation>
     </message>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
-        <translation>Contém demais: mais de %1 palavras-chave diferentes.</translation>
+        <translation>Contém dados demais: mais de %1 palavras-chave diferentes.</translation>
     </message>
 </context>
 </TS>

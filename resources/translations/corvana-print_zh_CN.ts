@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
-        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为 "cups"）。</translation>
+        <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为“cups”）。</translation>
     </message>
 </context>
 <context>
@@ -660,7 +660,7 @@
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>无法将 %1 发送到打印机：其 PPD 没有正确说明发送方法。</translation>
+        <translation>无法将%1发送到打印机：其 PPD 没有正确说明发送方法。</translation>
     </message>
 </context>
 <context>
@@ -1296,7 +1296,7 @@
     </message>
     <message>
         <source>The certificate of the print server “%1” is not the one that it had before: somebody has replaced it, or stands in between. If it was replaced on purpose, remove the line “%2” from the file %3.</source>
-        <translation>打印服务器“%1”的证书与以前的不同：证书已被替换，或有人在中间拦截。如果是有意替换的，请从文件 %3 中删除“%2”这一行。</translation>
+        <translation>打印服务器“%1”的证书与以前不同：证书已被更换，或有人介入了通信。如果是有意更换，请从文件 %3 中删除“%2”这一行。</translation>
     </message>
 </context>
 <context>
@@ -1593,11 +1593,11 @@
     </message>
 <message>
         <source>The document could not be converted for the printer: how many pages it has could not be found out.</source>
-        <translation>无法为打印机转换文档：无法确定其页数。</translation>
+        <translation>无法将文档转换为打印机数据：无法确定其页数。</translation>
     </message>
     <message>
         <source>The document could not be converted for the printer: that took too long.</source>
-        <translation>无法为打印机转换文档：耗时过长。</translation>
+        <translation>无法将文档转换为打印机数据：耗时过长。</translation>
     </message>
 </context>
 <context>

@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>在路徑和 /usr/sbin 中都找不到程式 cupsfilter。它隨 CUPS 提供（Debian 的套件為 &quot;cups&quot;）。</translation>
+        <translation>在路徑和 /usr/sbin 中都找不到程式 cupsfilter。它隨 CUPS 提供（Debian 的套件為「cups」）。</translation>
     </message>
 </context>
 <context>
@@ -1082,7 +1082,7 @@
     <name>Policy</name>
     <message>
         <source>“%1” is not allowed. Allowed: %2.</source>
-        <translation>不允許「%1」。允許：%2。</translation>
+        <translation>不允許使用「%1」。允許的值：%2。</translation>
     </message>
     <message>
         <source>the path of a folder that begins with /</source>
@@ -1118,7 +1118,7 @@
     </message>
     <message>
         <source>“%1” is no line of a policy. Expected: %2.</source>
-        <translation>「%1」不是政策檔案的內容。應為：%2。</translation>
+        <translation>「%1」不是有效的政策行。應為：%2。</translation>
     </message>
     <message>
         <source>“%1” stands before the first section. Begin with [all].</source>
@@ -3950,7 +3950,7 @@ For the command line: %2</source>
     <name>ChoiceCodes</name>
     <message>
         <source>%1 cannot be sent to the printer: its PPD does not say in a usable way how that is done.</source>
-        <translation>無法將 %1 傳送到印表機：其 PPD 沒有正確說明傳送方法。</translation>
+        <translation>無法將%1傳送到印表機：其 PPD 沒有正確說明傳送方法。</translation>
     </message>
 </context>
 <context>
