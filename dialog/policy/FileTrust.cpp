@@ -29,11 +29,11 @@ QString distrust(const struct stat &status, TrustedOwners owners, bool isAbove)
     const bool isOwned = status.st_uid == 0 ||
                          (owners == TrustedOwners::RootAndUser && status.st_uid == ::geteuid());
     if (!isOwned)
-        return Texts::tr("it belongs to the user with the number %1").arg(status.st_uid);
+        return Texts::tr("it belongs to the user with the ID %1").arg(status.st_uid);
     // In a folder like /tmp nobody can take away what is another's.
     const bool isKept = isAbove && (status.st_mode & S_ISVTX) != 0;
     if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0 && !isKept)
-        return Texts::tr("others than its owner may write it");
+        return Texts::tr("others than its owner may write to it");
     return {};
 }
 

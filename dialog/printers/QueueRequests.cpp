@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include "dialog/driverless/QueueDefaults.h"
@@ -14,6 +15,11 @@ namespace corvana {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(QueueRequests)
+};
 
 // Queues in one answer: few enough to come soon, enough that thousands need few round trips.
 constexpr int kPage = 200;
@@ -200,8 +206,13 @@ bool listQueues(ServerConnection &connection,
             found(page);
         if (answered < kPage || page.isEmpty())
             return true;
-        if (known.size() >= bounds.queues || length > bounds.texts) {
-            connection.restore({ServerProblem::Kind::TooLarge});
+        const bool areTooMany = known.size() >= bounds.queues;
+        if (areTooMany || length > bounds.texts) {
+            connection.restore(
+                {ServerProblem::Kind::TooLarge,
+                 areTooMany ? Texts::tr("more than %L1 printers").arg(bounds.queues)
+                            : Texts::tr("printers with more than %L1 characters in their texts")
+                                  .arg(bounds.texts)});
             return false;
         }
         last = page.constLast().name;

@@ -49,9 +49,10 @@ QString ServerProblem::text(const ServerAddress &server) const
         return withDetail(Texts::tr("What “%1” answers is not what a print server says.").arg(who),
                           detail);
     case Kind::TooLarge:
-        return Texts::tr(
-                   "What “%1” answers is larger than anything that a print server has to say.")
-            .arg(who);
+        return withDetail(
+            Texts::tr("What “%1” answers is larger than anything that a print server has to say.")
+                .arg(who),
+            detail);
     case Kind::PasswordNeeded:
         return Texts::tr("The print server “%1” wants a user and a password.").arg(who);
     case Kind::PasswordRefused:

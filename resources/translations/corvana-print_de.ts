@@ -1150,11 +1150,11 @@
         <translation>die Datei wird nicht verwendet: Sie hat mehr als %1 Zeilen</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>Besitzer ist der Benutzer mit der Nummer %1</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>Schreiben dürfen auch andere als der Besitzer</translation>
     </message>
     <message>
@@ -3976,6 +3976,17 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Sie enthält zu viel: mehr als %1 verschiedene Schlüsselwörter.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>mehr als %L1 Drucker</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>Drucker mit mehr als %L1 Zeichen in ihren Texten</translation>
     </message>
 </context>
 </TS>

@@ -1150,11 +1150,11 @@
         <translation>el archivo no se usa: tiene más de %1 líneas</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>pertenece al usuario número %1</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>otros usuarios además de su propietario tienen permiso de escritura</translation>
     </message>
     <message>
@@ -3976,6 +3976,17 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contiene demasiados datos: más de %1 palabras clave distintas.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>más de %L1 impresoras</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>impresoras con más de %L1 caracteres en sus textos</translation>
     </message>
 </context>
 </TS>

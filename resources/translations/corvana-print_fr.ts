@@ -1150,11 +1150,11 @@
         <translation>le fichier n’est pas utilisé : il dépasse %1 lignes</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>il appartient à l’utilisateur numéro %1</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>d’autres que son propriétaire peuvent y écrire</translation>
     </message>
     <message>
@@ -3976,6 +3976,17 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Il contient trop de données : plus de %1 mots-clés différents.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>plus de %L1 imprimantes</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>imprimantes avec plus de %L1 caractères dans leurs textes</translation>
     </message>
 </context>
 </TS>

@@ -1150,11 +1150,11 @@
         <translation>il file non viene usato: supera le %1 righe</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>appartiene all&apos;utente numero %1</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>altri oltre al proprietario possono scrivervi</translation>
     </message>
     <message>
@@ -3976,6 +3976,17 @@ Per la riga di comando: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contiene troppi dati: più di %1 parole chiave diverse.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>più di %L1 stampanti</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>stampanti con più di %L1 caratteri nei loro testi</translation>
     </message>
 </context>
 </TS>

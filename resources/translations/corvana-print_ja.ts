@@ -3933,11 +3933,11 @@ For the command line: %2</source>
         <translation>ファイルは使用されません: %1 行を超えています</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>番号 %1 のユーザーが所有しています</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>所有者以外のユーザーも書き込めます</translation>
     </message>
     <message>
@@ -3974,6 +3974,17 @@ For the command line: %2</source>
     <message>
         <source>Printing to a file is not offered by your administrator (%1).</source>
         <translation>ファイルへの出力は管理者により提供されていません（%1）。</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>%L1 台を超えるプリンター</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>プリンターの説明文などの合計が %L1 文字を超過</translation>
     </message>
 </context>
 </TS>

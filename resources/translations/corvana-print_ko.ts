@@ -1149,11 +1149,11 @@
         <translation>파일을 사용하지 않습니다: %1줄이 넘습니다</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>번호가 %1인 사용자의 것입니다</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>소유자가 아닌 사용자도 쓸 수 있습니다</translation>
     </message>
     <message>
@@ -3974,6 +3974,17 @@ For the command line: %2</source>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>내용이 너무 많습니다. 서로 다른 키워드가 %1개를 넘습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>프린터가 %L1대를 초과함</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>프린터 텍스트가 %L1자를 초과함</translation>
     </message>
 </context>
 </TS>

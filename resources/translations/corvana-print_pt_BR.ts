@@ -1150,11 +1150,11 @@
         <translation>o arquivo não é usado: tem mais de %1 linhas</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>pertence ao usuário de número %1</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>outros usuários além do proprietário têm permissão de gravação</translation>
     </message>
     <message>
@@ -3976,6 +3976,17 @@ Na linha de comando: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contém dados demais: mais de %1 palavras-chave diferentes.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>mais de %L1 impressoras</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>impressoras com mais de %L1 caracteres em seus textos</translation>
     </message>
 </context>
 </TS>

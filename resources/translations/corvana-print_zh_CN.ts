@@ -3933,11 +3933,11 @@ For the command line: %2</source>
         <translation>未使用该文件：超过 %1 行</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>它属于编号为 %1 的用户</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>所有者以外的用户可以写入</translation>
     </message>
     <message>
@@ -3974,6 +3974,17 @@ For the command line: %2</source>
     <message>
         <source>Printing to a file is not offered by your administrator (%1).</source>
         <translation>管理员未提供打印到文件的功能（%1）。</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>打印机超过 %L1 台</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>打印机的文字超过 %L1 个字符</translation>
     </message>
 </context>
 </TS>

@@ -1149,11 +1149,11 @@
         <translation>未使用該檔案：超過 %1 行</translation>
     </message>
     <message>
-        <source>it belongs to the user with the number %1</source>
+        <source>it belongs to the user with the ID %1</source>
         <translation>它屬於編號為 %1 的使用者</translation>
     </message>
     <message>
-        <source>others than its owner may write it</source>
+        <source>others than its owner may write to it</source>
         <translation>擁有者以外的使用者可以寫入</translation>
     </message>
     <message>
@@ -3974,6 +3974,17 @@ For the command line: %2</source>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>內容過多：不同的關鍵字超過 %1 個。</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRequests</name>
+    <message>
+        <source>more than %L1 printers</source>
+        <translation>印表機超過 %L1 台</translation>
+    </message>
+    <message>
+        <source>printers with more than %L1 characters in their texts</source>
+        <translation>印表機的文字超過 %L1 個字元</translation>
     </message>
 </context>
 </TS>

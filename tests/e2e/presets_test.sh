@@ -104,7 +104,7 @@ presetsForEverybodyAreUsedOnlyWhereNobodyElseMayWriteThem() {
     expect_status 0
     chmod 775 "$shared"
     rm "$output"
-    expect_refusal 'House' "$shared" 'others than its owner may write it' -- --preset House
+    expect_refusal 'House' "$shared" 'others than its owner may write to it' -- --preset House
     run --check-policy
     expect_status 1
     grep -qF "$policy/10.conf:2: $shared: " "$work/out" || fail 'not named by the check'

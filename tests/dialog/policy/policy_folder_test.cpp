@@ -38,8 +38,8 @@ struct Distrusted
 };
 
 constexpr Distrusted kDistrusted[] = {
-    {"its group may write", Trick::GroupMayWrite, "may write it"},
-    {"anybody may write", Trick::OthersMayWrite, "may write it"},
+    {"its group may write", Trick::GroupMayWrite, "may write to it"},
+    {"anybody may write", Trick::OthersMayWrite, "may write to it"},
     {"a link to another folder", Trick::LinkOut, "link"},
     {"a link to a folder below", Trick::LinkBelow, "link"},
     {"a link by way of the folder above", Trick::LinkUp, "link"},
@@ -169,7 +169,7 @@ private Q_SLOTS:
         ::chmod(QFile::encodeName(folder()).constData(), 0775);
         QVERIFY(read().entries.isEmpty());
         QCOMPARE(read().problems.size(), 1);
-        QVERIFY(read().problems.at(0).text().contains(u"may write it"_s));
+        QVERIFY(read().problems.at(0).text().contains(u"may write to it"_s));
     }
 
     void aFolderAboveThatSomebodyElseMayWriteSpoilsIt()

@@ -114,22 +114,25 @@ private Q_SLOTS:
         QTest::addColumn<QueueBounds>("bounds");
         QTest::addColumn<int>("length"); // of the description of each queue
         QTest::addColumn<int>("found");
-        QTest::addColumn<bool>("whole");
+        QTest::addColumn<QString>("problem"); // empty: the list is whole
         const QueueBounds standard;
-        QTest::newRow("within all bounds") << standard << 10 << 1000 << true;
-        QTest::newRow("queues") << QueueBounds{.queues = 598} << 10 << 598 << false;
-        QTest::newRow("a page more") << QueueBounds{.queues = 599} << 10 << 797 << false;
+        QTest::newRow("within all bounds") << standard << 10 << 1000 << QString();
+        QTest::newRow("queues") << QueueBounds{.queues = 598} << 10 << 598
+                                << u"more than 598 printers"_s;
+        QTest::newRow("a page more")
+            << QueueBounds{.queues = 599} << 10 << 797 << u"more than 599 printers"_s;
         QTest::newRow("few queues of many words")
-            << QueueBounds{.texts = 450 * 600} << 400 << 598 << false;
+            << QueueBounds{.texts = 450 * 600} << 400 << 598
+            << u"printers with more than 270,000 characters in their texts"_s;
         QTest::newRow("few queues of few words")
-            << QueueBounds{.texts = 450 * 600} << 10 << 1000 << true;
+            << QueueBounds{.texts = 450 * 600} << 10 << 1000 << QString();
     }
     void aListWithoutEndBreaksOff()
     {
         QFETCH(QueueBounds, bounds);
         QFETCH(int, length);
         QFETCH(int, found);
-        QFETCH(bool, whole);
+        QFETCH(QString, problem);
         QList<Printer> queues = manyQueues(1000);
         for (Printer &queue : queues)
             queue.description = QString(length, u'x');
@@ -139,10 +142,11 @@ private Q_SLOTS:
         QList<Printer> all;
         QCOMPARE(listQueues(
                      connection, [&](const QList<Printer> &page) { all += page; }, bounds),
-                 whole);
+                 problem.isEmpty());
         QCOMPARE(all.size(), found);
-        QCOMPARE(connection.problem().kind,
-                 whole ? ServerProblem::Kind::None : ServerProblem::Kind::TooLarge);
+        QCOMPARE(connection.problem().kind, problem.isEmpty() ? ServerProblem::Kind::None
+                                                              : ServerProblem::Kind::TooLarge);
+        QCOMPARE(connection.problem().detail, problem);
     }
 
     void everythingOfAQueueIsRead()
