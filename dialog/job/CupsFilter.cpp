@@ -34,7 +34,7 @@ QString findCupsFilter(QString *error)
                                                {u"/usr/sbin"_s, u"/usr/local/sbin"_s, u"/sbin"_s});
     if (found.isEmpty())
         *error = Texts::tr("The program cupsfilter was found neither on the path nor in /usr/sbin. "
-                           "It comes with CUPS (on Debian the package \"cups\").");
+                           "It comes with CUPS (on Debian the package “cups”).");
     return found;
 }
 

@@ -37,6 +37,9 @@ QProcessEnvironment environmentOfChain()
     // cupsfilter asks the print server for options of its own: it would wait for one that is
     // silent, and take whatever one says. All options of a job are on its command line.
     environment.insert(u"CUPS_SERVER"_s, u"/dev/null"_s);
+    // And it looks for ~/.cups/lpoptions, of which it takes nothing that it would use, to the end, which a
+    // file of another kind may not have. It gives no filter a home.
+    environment.insert(u"HOME"_s, u"/dev/null"_s);
     return environment;
 }
 

@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 
@@ -229,6 +230,9 @@ struct FileCloser
 
 QString excessOfPpd(const QString &path, const PpdBounds &bounds)
 {
+    // Whoever opens a pipe waits, and what it yields can be read once.
+    if (const QFileInfo info(path); info.exists() && !info.isFile() && !info.isDir())
+        return Texts::tr("It is no ordinary file.");
     // libcups unpacks what is compressed, and so must who counts.
     const std::unique_ptr<cups_file_t, FileCloser> file(
         cupsFileOpen(QFile::encodeName(path).constData(), "r"));

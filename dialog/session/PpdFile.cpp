@@ -55,17 +55,17 @@ QString openError(const QString &path)
 
 PpdFile openPpdFile(const QString &path, QString *error)
 {
+    // Before libcups reads it, which would not come to an end.
+    if (const QString excess = excessOfPpd(path); !excess.isEmpty()) {
+        *error = u"%1: %2"_s.arg(path, excess);
+        return nullptr;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = u"%1: %2"_s.arg(path, file.errorString());
         return nullptr;
     }
     file.close();
-    // Before libcups reads it, which would not come to an end.
-    if (const QString excess = excessOfPpd(path); !excess.isEmpty()) {
-        *error = u"%1: %2"_s.arg(path, excess);
-        return nullptr;
-    }
     PpdFile ppd(ppdOpenFile(QFile::encodeName(path).constData()));
     if (!ppd) {
         *error = openError(path);

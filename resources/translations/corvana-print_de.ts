@@ -204,7 +204,7 @@
         <translation>Das mit CORVANA_PRINT_CUPSFILTER angegebene Programm %1 kann nicht ausgeführt werden.</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
         <translation>Das Programm cupsfilter wurde weder im Suchpfad noch in /usr/sbin gefunden. Es gehört zu CUPS (in Debian das Paket „cups“).</translation>
     </message>
 </context>
@@ -3957,6 +3957,10 @@ Für die Befehlszeile: %2</translation>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>Sie ist keine gewöhnliche Datei.</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>Sie ist größer als %1 MB.</translation>

@@ -204,8 +204,8 @@
         <translation>No se puede ejecutar el programa %1, indicado en CORVANA_PRINT_CUPSFILTER.</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>No se ha encontrado el programa cupsfilter ni en la ruta de búsqueda ni en /usr/sbin. Se instala con CUPS (en Debian, el paquete cups).</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
+        <translation>No se ha encontrado el programa cupsfilter ni en la ruta de búsqueda ni en /usr/sbin. Se instala con CUPS (en Debian, el paquete «cups»).</translation>
     </message>
 </context>
 <context>
@@ -3957,6 +3957,10 @@ En la línea de órdenes: %2</translation>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>Tiene más de %1 MB.</translation>

@@ -204,7 +204,7 @@
         <translation>Le programme %1, indiqué par CORVANA_PRINT_CUPSFILTER, ne peut pas être exécuté.</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
         <translation>Le programme cupsfilter est introuvable, aussi bien dans le chemin de recherche que dans /usr/sbin. Il fait partie de CUPS (dans Debian, le paquet « cups »).</translation>
     </message>
 </context>
@@ -3957,6 +3957,10 @@ Pour la ligne de commande : %2</translation>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>Il dépasse %1 Mo.</translation>

@@ -204,8 +204,8 @@
         <translation>Impossibile eseguire il programma %1, indicato in CORVANA_PRINT_CUPSFILTER.</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>Il programma cupsfilter non è stato trovato né nel percorso di ricerca né in /usr/sbin. È incluso in CUPS (in Debian, il pacchetto cups).</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
+        <translation>Il programma cupsfilter non è stato trovato né nel percorso di ricerca né in /usr/sbin. È incluso in CUPS (in Debian, il pacchetto «cups»).</translation>
     </message>
 </context>
 <context>
@@ -3957,6 +3957,10 @@ Per la riga di comando: %2</translation>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>Non è un file normale.</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>Supera i %1 MB.</translation>

@@ -15,7 +15,7 @@
         <translation>CORVANA_PRINT_CUPSFILTER で指定されたプログラム %1 を実行できません。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
         <translation>プログラム cupsfilter がパスにも /usr/sbin にも見つかりません。CUPS（Debian ではパッケージ「cups」）に含まれています。</translation>
     </message>
 </context>
@@ -680,6 +680,10 @@
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>内容が多すぎます。異なるキーワードが %1 個を超えています。</translation>
+    </message>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>通常のファイルではありません。</translation>
     </message>
     <message>
         <source>It is larger than %1 MB.</source>

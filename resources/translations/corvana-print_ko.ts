@@ -204,7 +204,7 @@
         <translation>CORVANA_PRINT_CUPSFILTER에 지정된 프로그램 %1을(를) 실행할 수 없습니다.</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
         <translation>프로그램 cupsfilter가 경로와 /usr/sbin 어디에도 없습니다. 이 프로그램은 CUPS에 들어 있습니다(Debian에서는 패키지 ‘cups’).</translation>
     </message>
 </context>
@@ -3955,6 +3955,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>%1MB보다 큽니다.</translation>

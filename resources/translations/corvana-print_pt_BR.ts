@@ -204,8 +204,8 @@
         <translation>Não foi possível executar o programa %1, indicado em CORVANA_PRINT_CUPSFILTER.</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
-        <translation>O programa cupsfilter não foi encontrado nem no caminho de busca nem em /usr/sbin. Ele faz parte do CUPS (no Debian, o pacote cups).</translation>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
+        <translation>O programa cupsfilter não foi encontrado nem no caminho de busca nem em /usr/sbin. Ele faz parte do CUPS (no Debian, o pacote “cups”).</translation>
     </message>
 </context>
 <context>
@@ -3957,6 +3957,10 @@ Na linha de comando: %2</translation>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>Não é um arquivo comum.</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>Tem mais de %1 MB.</translation>

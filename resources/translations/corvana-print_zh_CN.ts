@@ -15,7 +15,7 @@
         <translation>无法运行 CORVANA_PRINT_CUPSFILTER 指定的程序 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package "cups").</source>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
         <translation>在路径和 /usr/sbin 中都找不到程序 cupsfilter。它包含在 CUPS 中（Debian 的软件包为“cups”）。</translation>
     </message>
 </context>
@@ -680,6 +680,10 @@
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>内容过多：不同的关键字超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>不是普通文件。</translation>
     </message>
     <message>
         <source>It is larger than %1 MB.</source>

@@ -204,7 +204,7 @@
         <translation>無法執行 CORVANA_PRINT_CUPSFILTER 指定的程式 %1。</translation>
     </message>
     <message>
-        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package &quot;cups&quot;).</source>
+        <source>The program cupsfilter was found neither on the path nor in /usr/sbin. It comes with CUPS (on Debian the package “cups”).</source>
         <translation>在路徑和 /usr/sbin 中都找不到程式 cupsfilter。它隨 CUPS 提供（Debian 的套件為「cups」）。</translation>
     </message>
 </context>
@@ -3955,6 +3955,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>PpdBounds</name>
+    <message>
+        <source>It is no ordinary file.</source>
+        <translation>不是一般檔案。</translation>
+    </message>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>其大小超過 %1 MB。</translation>

@@ -149,6 +149,13 @@ private Q_SLOTS:
         QCOMPARE(filter.content(u"server"_s), QByteArray("/dev/null\n"));
     }
 
+    void theChainReadsNothingOfTheUsersHome()
+    {
+        const FakeFilter filter("echo \"$HOME\" > $DIR/home; echo ok\n");
+        QCOMPARE(printed(filter), QString());
+        QCOMPARE(filter.content(u"home"_s), QByteArray("/dev/null\n"));
+    }
+
     void theChainIsToldTheWholeJob()
     {
         const FakeFilter filter("printf '%s\\n' \"$@\" > $DIR/arguments; echo ok\n");

@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -76,6 +78,19 @@ private Q_SLOTS:
         QVERIFY(!openPpdFile(m_folder.path(), &error));
         QVERIFY2(error.startsWith(m_folder.path() + u": "_s), qPrintable(error));
         QVERIFY2(error.contains(u"directory"_s), qPrintable(error));
+    }
+
+    // Reading would wait for whoever writes, or never end.
+    void whatIsNoFileIsNotOpened()
+    {
+        const QString pipe = m_folder.filePath(u"pipe"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR), 0);
+        const QString paths[] = {pipe, u"/dev/zero"_s};
+        for (const QString &path : paths) {
+            QString error;
+            QVERIFY(!openPpdFile(path, &error));
+            QCOMPARE(error, path + u": It is no ordinary file."_s);
+        }
     }
 
     void aFaultIsNamedWithFileAndLine_data()
