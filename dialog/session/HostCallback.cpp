@@ -1,10 +1,9 @@
 #include "dialog/session/HostCallback.h"
 
+#include <algorithm>
 #include <exception>
 
 #include <QLoggingCategory>
-
-#include "dialog/session/PpdSession.h"
 
 namespace corvana {
 
@@ -42,6 +41,11 @@ PMPageFormat HostCallback::pageFormat()
 bool HostCallback::willChangePPDOptionKeyValue_ppdChoice(const QString &keyword,
                                                          const QString &choice)
 {
+    const bool isDecided = std::any_of(m_held.cbegin(), m_held.cend(), [&](const auto &held) {
+        return held.keyword == keyword && held.choice != choice;
+    });
+    if (isDecided)
+        return false;
     // A panel is in the midst of its own work here and could not handle an exception.
     try {
         return m_session.change(keyword, choice, PpdSession::Origin::Panel).accepted();

@@ -2,11 +2,10 @@
 
 #include <functional>
 
+#include "dialog/session/PpdSession.h"
 #include "platform/pde/PDEPluginCallback.h"
 
 namespace corvana {
-
-class PpdSession;
 
 /// What this dialog offers the panels. It records and answers; whatever has to call a panel in turn
 /// is left to PanelHost, which waits until the panel has returned.
@@ -20,6 +19,10 @@ public:
     /// a panel shows and has not saved.
     HostCallback(PpdSession &session, AlertPresenter &presenter,
                  std::function<void()> viewResized = {}, std::function<void()> shownChanged = {});
+
+    /// Refuses, from here on and unseen, what panels propose for these options instead of these
+    /// choices: whoever asked for the choices has decided.
+    void holdTo(const QList<OptionChoice> &choices) { m_held = choices; }
 
     bool respondsTo(PDECallbackOperation operation) const override;
     ppd_file_t *ppdFile() override;
@@ -36,6 +39,7 @@ private:
     AlertPresenter &m_presenter;
     std::function<void()> m_viewResized;
     std::function<void()> m_shownChanged;
+    QList<OptionChoice> m_held;
 };
 
 } // namespace corvana

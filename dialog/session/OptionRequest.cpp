@@ -46,6 +46,14 @@ bool isNamed(const QList<OptionChoice> &choices, const QString &keyword)
                        [&](const OptionChoice &choice) { return choice.keyword == keyword; });
 }
 
+QList<OptionChoice> marksOf(const SessionSnapshot &snapshot)
+{
+    QList<OptionChoice> marks;
+    for (auto mark = snapshot.marks.cbegin(); mark != snapshot.marks.cend(); ++mark)
+        marks += OptionChoice{mark.key(), mark.value()};
+    return marks;
+}
+
 // libcups takes a tray and the feeding by hand for two forms of one choice: marking the one takes
 // the mark of the other away, whatever the PPD says (ppdMarkOption). Answers the other one.
 QList<OptionChoice> takenInstead(const JobOption &option, const QList<JobOption> &expected)
@@ -214,7 +222,8 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
         outcome.problems += conflictMessage(conflict, session);
     if (!outcome.ok())
         return {outcome.problems, {}, {}};
-    // A new paper makes the panels propose a medium for it; what was asked for comes after that.
+    // A new paper makes the panels propose a medium for it, which counts where none was asked for.
+    panels.tellPaper(request.choices);
     panels.deliverPending();
     for (const Refusal &conflict : session.changeTogether(request.choices))
         outcome.problems += conflictMessage(conflict, session);
@@ -243,7 +252,8 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
         outcome.attributes.clear();
         outcome.copies.reset();
         session.restore(before);
-        panels.deliverPending(); // the former paper is judged again, and a medium proposed for it
+        panels.tellPaper(marksOf(before)); // the former paper is judged again
+        panels.deliverPending();
         session.restore(before);
         panels.restoreAll();
         session.restore(before); // panels write entries of their own while they restore

@@ -296,6 +296,15 @@ void PanelHost::announcePaper()
         QLatin1StringView(kPrintDestinationPaperDidChangeNotification), m_callback.get());
 }
 
+void PanelHost::tellPaper(const QList<OptionChoice> &asked)
+{
+    if (isBusy() || !m_broughtUp)
+        return;
+    m_callback->holdTo(asked);
+    const auto done = qScopeGuard([this] { m_callback->holdTo({}); });
+    announcePaper();
+}
+
 bool PanelHost::deliverOnce()
 {
     bool anything = false;

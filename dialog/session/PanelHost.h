@@ -109,6 +109,10 @@ public:
     /// Tells the panels what changed elsewhere, now instead of at the next turn of the event loop.
     /// Does nothing in the midst of a panel's call, and before the panels were brought up.
     void deliverPending();
+    /// The same for a new paper alone, which somebody asked for together with these choices. What
+    /// a panel proposes for the paper in their place, such as another medium, is nobody's wish: it
+    /// is refused, so that there are no instructions for it either.
+    void tellPaper(const QList<OptionChoice> &asked);
 
 Q_SIGNALS:
     /// All panels know of all changes, and what a panel proposed in vain can be told to the user.

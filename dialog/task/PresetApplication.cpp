@@ -162,7 +162,8 @@ private:
     void markChoices()
     {
         markTogether();
-        // A new paper makes the panels propose a medium for it; what was kept comes after that.
+        // A new paper makes the panels propose a medium for it, which counts where none was kept.
+        m_printer.panels->tellPaper(m_choices);
         m_printer.panels->deliverPending();
         markTogether();
     }

@@ -62,6 +62,12 @@ void WindowGrowth::resized(QSize size)
 {
     if (size != m_followed)
         m_height = 0;
+    // A window is never smaller than its contents. Where these have made it larger, nobody has.
+    const QSize least = m_window.minimumSize();
+    if (size.width() == least.width())
+        m_given.setWidth(qMax(m_given.width(), size.width()));
+    if (size.height() == least.height())
+        m_given.setHeight(qMax(m_given.height(), size.height()));
 }
 
 void WindowGrowth::growBy(int pixels)

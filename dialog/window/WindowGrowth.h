@@ -35,7 +35,7 @@ private:
 
     QWidget &m_window;
     int m_height = 0; // beyond the user's
-    QSize m_given;    // the window's size when it opened
+    QSize m_given;    // the window's size when it opened, or what its contents made of that
     QSize m_followed; // the window's size when it followed a page last
 };
 

@@ -198,6 +198,18 @@ private Q_SLOTS:
         QCOMPARE(rememberedWindowSize({700, 600}, {4000, 3000}), QSize(1800, 1000));
     }
 
+    // With a font that is much too large for the screen.
+    void whatTheContentsForceOnTheWindowIsNotRemembered()
+    {
+        QFont font = m_font;
+        font.setPointSizeF(m_font.pointSizeF() * 4);
+        QApplication::setFont(font);
+        open(u"short"_s);
+        QVERIFY(dialog().height() > dialog().screen()->availableGeometry().height());
+        dialog().close();
+        QCOMPARE(rememberedWindowSize({700, 600}, {4000, 3000}), QSize(700, 600));
+    }
+
     void whatTheUserMakesOfItIsRemembered()
     {
         open(u"short"_s);

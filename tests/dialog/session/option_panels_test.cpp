@@ -208,6 +208,30 @@ private Q_SLOTS:
         QCOMPARE(inJob(u"QXMediaType"_s), medium.isNull() ? u"Plain"_s : medium);
     }
 
+    // How envelopes are loaded is nobody's question where another medium was named: a queue would
+    // hold the job for it.
+    void aMediumThatWasNamedBesideAnEnvelopeHasNoInstructionsForAnother()
+    {
+        const OptionOutcome outcome =
+            apply({u"PageSize=EnvDL QXMediaType=Thick Duplex=DuplexNoTumble"_s});
+        QCOMPARE(outcome.problems, QStringList());
+        QCOMPARE(inJob(u"PageSize"_s), u"EnvDL"_s);
+        QCOMPARE(inJob(u"QXMediaType"_s), u"Thick"_s);
+        QCOMPARE(m_presenter->shown().size(), 0);
+
+        // Neither has it when the envelope comes back because nothing of a later set was taken.
+        QVERIFY(!apply({u"PageSize=A4 QXMediaType=PostCard"_s}).ok());
+        QCOMPARE(inJob(u"QXMediaType"_s), u"Thick"_s);
+        QCOMPARE(m_presenter->shown().size(), 0);
+    }
+
+    void anEnvelopeThatWasNamedBesideItsPaperHasItsInstructions()
+    {
+        m_presenter->expect();
+        QCOMPARE(apply({u"PageSize=EnvDL QXMediaType=Env"_s}).problems, QStringList());
+        QCOMPARE(inJob(u"QXMediaType"_s), u"Env"_s);
+    }
+
     void aDensityIsNeverMarked()
     {
         QVERIFY(apply({u"QXDensityAdjustment=3"_s}).ok());

@@ -70,7 +70,13 @@ struct Desk
 class Agreeing : public AlertPresenter
 {
 public:
-    AlertAnswer runModal(const Alert &, QWidget *) override { return {}; }
+    int shown = 0;
+
+    AlertAnswer runModal(const Alert &, QWidget *) override
+    {
+        ++shown;
+        return {};
+    }
 };
 
 // But for what sets up the device, which is not kept.
@@ -278,6 +284,27 @@ private Q_SLOTS:
         qInfo("%d PPDs, %d settings that were other than the printer's", int(m_ppds.size()),
               changes);
         QVERIFY(changes > 100);
+    }
+
+    // The panel proposes the envelope's own medium for its paper, and says how to load that one.
+    void aKeptMediumBesideAnEnvelopeHasNoInstructionsForAnother()
+    {
+        const QString ppd = sourceFile("resources/ppd/corvana-cl5.ppd"_L1);
+        Desk first = open(ppd);
+        const PresetContent defaults = first.content();
+        QVERIFY(applyOptions({{kPageSizeOption, u"EnvDL"_s}, {u"QXMediaType"_s, u"Thick"_s}},
+                             *first.printer->session, first.printer->jobValues,
+                             *first.printer->panels)
+                    .ok());
+        const Preset preset = kept(first, defaults);
+        Desk second = open(ppd);
+        m_presenter.shown = 0;
+        applyPreset(withChanges(defaults, preset.content),
+                    {PresetUse::Others::Cleared, preset.changed}, {}, *second.printer,
+                    second.settings);
+        QCOMPARE(second.printer->session->markedChoice(kPageSizeOption), u"EnvDL"_s);
+        QCOMPARE(second.printer->session->markedChoice(u"QXMediaType"_s), u"Thick"_s);
+        QCOMPARE(m_presenter.shown, 0);
     }
 
     void onAnotherPrinterWhatItHasAppliesAndWhatItHasNotIsNamed()
