@@ -33,8 +33,8 @@ constexpr qsizetype kLongestKeyword = 40;
 // Lines that are looked up in all papers.
 constexpr QByteArrayView kSizeKeywords[] = {"pagesize", "pageregion", "imageablearea",
                                             "paperdimension"};
-constexpr QByteArrayView kConstraints[] = {"uiconstraints", "nonuiconstraints",
-                                           "cupsuiconstraints"};
+// Those of CUPS' own are attributes to libcups, which puts each behind all that are there.
+constexpr QByteArrayView kConstraints[] = {"uiconstraints", "nonuiconstraints"};
 constexpr QByteArrayView kOpeningOfOption[] = {"openui", "jclopenui"};
 constexpr QByteArrayView kOpeningOfGroup[] = {"opengroup", "opensubgroup"};
 
@@ -47,26 +47,44 @@ template <typename Keywords> bool isIn(const Keywords &keywords, QByteArrayView 
 class Keyword
 {
 public:
-    /// Of several languages only one is read, so that what counts for each ends at their dot.
-    enum class Part { Whole, WithoutLanguage };
-
-    explicit Keyword(QByteArrayView text, Part part = Part::Whole)
+    explicit Keyword(QByteArrayView text)
     {
         for (const char c : text.first(std::min(text.size(), kLongestKeyword))) {
-            if (c == ' ' || c == '\t' || c == '/' || c == ':')
+            if (kEnds.contains(c))
                 break;
             m_text[m_length++] = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-            if (c == '.' && part == Part::WithoutLanguage && m_length > 1 && m_text[0] != '.')
-                break;
         }
     }
 
     QByteArrayView view() const { return {m_text.data(), static_cast<qsizetype>(m_length)}; }
 
 private:
+    static constexpr QByteArrayView kEnds{" \t\f\v/:"};
+
     std::array<char, kLongestKeyword> m_text{};
     std::size_t m_length = 0;
 };
+
+// "de" of "de.pagesize" and of "de_at.pagesize"; empty where a keyword is of no language, which
+// libcups would read whatever the language is.
+QByteArrayView languageOf(QByteArrayView keyword)
+{
+    const auto areLetters = [&](qsizetype i) {
+        return keyword.at(i) >= 'a' && keyword.at(i) <= 'z' && keyword.at(i + 1) >= 'a' &&
+               keyword.at(i + 1) <= 'z';
+    };
+    const qsizetype dot = keyword.indexOf('.');
+    const bool isLanguage = (dot == 2 && areLetters(0)) ||
+                            (dot == 5 && areLetters(0) && keyword.at(2) == '_' && areLetters(3));
+    return isLanguage ? keyword.first(2) : QByteArrayView();
+}
+
+// Comments, and the ends of texts of several lines: libcups keeps nothing of them. Some PPDs end
+// with thousands.
+bool saysNothing(QByteArrayView line)
+{
+    return line.startsWith("*%") || line == QByteArrayView("*End");
+}
 
 /// Counts the lines that say something, each by its keyword.
 class LineCount
@@ -77,10 +95,10 @@ public:
     // The next line of the file, without its end. False when it is one too many.
     bool add(QByteArrayView line)
     {
-        if (!line.startsWith('*'))
+        if (!line.startsWith('*') || saysNothing(line))
             return true;
         line = line.sliced(1);
-        const Keyword keyword(line, Keyword::Part::WithoutLanguage);
+        const Keyword keyword(line);
         // Most lines begin as the one before them does.
         if (!m_count || keyword.view() != m_keyword)
             turnTo(keyword.view());
@@ -97,6 +115,8 @@ public:
         switch (m_kind) {
         case Kind::Choice:
             return addChoice(m_keyword, lines);
+        case Kind::Language:
+            return addText(m_keyword, lines);
         case Kind::Attribute:
             return addAttribute(m_keyword, lines);
         default:
@@ -107,8 +127,8 @@ public:
     QString excess() const { return m_excess; }
 
 private:
-    // Choices and attributes have a bound together, too; each other keyword one for itself. A
-    // language is one: only its beginning is kept.
+    // Choices, attributes and the texts of a language have a bound together, too; each other
+    // keyword one for itself.
     enum class Kind { Opening, Group, Size, Constraint, Language, Choice, Attribute };
 
     Kind kindOf(const QByteArray &keyword) const
@@ -121,7 +141,7 @@ private:
             return Kind::Size;
         if (isIn(kConstraints, keyword))
             return Kind::Constraint;
-        if (keyword.endsWith('.'))
+        if (!languageOf(keyword).isEmpty())
             return Kind::Language;
         return m_options.contains(keyword) ? Kind::Choice : Kind::Attribute;
     }
@@ -157,6 +177,16 @@ private:
                refuse(Texts::tr("There is too much in it: more than %1 choices of all options "
                                 "together. “%2” has the most.")
                           .arg(QString::number(m_bounds.allChoices), mostFrequent(Kind::Choice)));
+    }
+
+    // Of several languages only one is read.
+    bool addText(const QByteArray &keyword, int lines)
+    {
+        if (lines > m_bounds.sameAttributes)
+            return refuseLines(keyword, m_bounds.sameAttributes);
+        const QByteArray language = languageOf(keyword).toByteArray();
+        return ++m_languages[language] <= m_bounds.attributes ||
+               refuseLines(language + '.', m_bounds.attributes);
     }
 
     bool addAttribute(const QByteArray &keyword, int lines)
@@ -204,9 +234,10 @@ private:
 
     const PpdBounds m_bounds;
     QHash<QByteArray, int> m_lines;
-    QSet<QByteArray> m_options; ///< those that have been opened
-    QByteArray m_keyword;       ///< of the last line
-    int *m_count = nullptr;     ///< its lines so far
+    QHash<QByteArray, int> m_languages; ///< the lines of each
+    QSet<QByteArray> m_options;         ///< those that have been opened
+    QByteArray m_keyword;               ///< of the last line
+    int *m_count = nullptr;             ///< its lines so far
     Kind m_kind = Kind::Attribute;
     int m_choices = 0;
     int m_attributes = 0;
@@ -249,7 +280,9 @@ QString excessOfPpd(const QString &path, const PpdBounds &bounds)
         if (size > bounds.bytes)
             return Texts::tr("It is larger than %1 MB.")
                 .arg(QString::number(bounds.bytes / (1024 * 1024)));
-        for (QByteArrayView rest(block.data(), length); !rest.isEmpty();) {
+        // To libcups this sign, of what once was the end of a file, is not there.
+        const char *kept = std::remove(block.data(), block.data() + length, '\x1a');
+        for (QByteArrayView rest(block.data(), kept); !rest.isEmpty();) {
             const qsizetype end = endOfLine(rest);
             // Only the beginning of a line matters.
             constexpr qsizetype kLongest = 512;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdBounds.h"
 
@@ -19,7 +20,9 @@ void keepOneSidedAsDefault(ppd_file_t *ppd)
 {
     ppd_option_t *duplex = ppdOption(ppd, kDuplexOption);
     const ppd_choice_t *oneSided = ppdChoice(duplex, kDuplexNone);
-    if (!oneSided || qstrcmp(duplex->defchoice, oneSided->choice) == 0)
+    // A default counts as what the printer does without being told, which it would not do then.
+    if (!oneSided || qstrcmp(duplex->defchoice, oneSided->choice) == 0 ||
+        !canBeSent(ppd, kDuplexOption, kDuplexNone))
         return;
     qCInfo(lcPpd) << "two-sided printing is the queue's default:" << duplex->defchoice;
     qstrncpy(duplex->defchoice, oneSided->choice, sizeof duplex->defchoice);
@@ -30,7 +33,7 @@ void collateByDefault(ppd_file_t *ppd)
 {
     ppd_option_t *collate = ppdOption(ppd, kCollateOption);
     const ppd_choice_t *on = ppdChoice(collate, u"True"_s);
-    if (!on || !ppdChoice(collate, u"False"_s))
+    if (!on || !ppdChoice(collate, u"False"_s) || !canBeSent(ppd, kCollateOption, u"True"_s))
         return;
     const QByteArray former = collate->defchoice;
     const int conflicts = ppdConflicts(ppd);

@@ -7,11 +7,25 @@
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/AttributeEffects.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/TaskPresets.h"
 #include "platform/pde/PDEPanel.h"
 
 namespace corvana {
+
+namespace {
+
+// A tray and the feeding by hand take each other's marks away, and go back together.
+QStringList withOtherForm(QStringList names)
+{
+    const bool isTray = names.contains(kInputSlotOption);
+    if (isTray != names.contains(kManualFeedOption))
+        names += isTray ? kManualFeedOption : kInputSlotOption;
+    return names;
+}
+
+} // namespace
 
 TaskSettings PrintTask::settingsNow() const
 {
@@ -158,11 +172,13 @@ void PrintTask::resetSettings(const QStringList &names)
     Q_EMIT unsaid();
     const QMap<QString, QString> base = valuesOf(m_baseline.base.settings, *m_opened);
     QList<JobOption> options;
-    for (const QString &name : names) {
+    const QStringList all = withOtherForm(names);
+    for (const QString &name : all) {
         if (ppdOption(m_opened->session->ppd(), name) && base.contains(name))
             options += JobOption{name, base.value(name)};
         else
-            m_settings.setAttribute(name, base.value(name));
+            m_settings.setAttribute(name, base.value(name),
+                                    usualValueOf(name, m_settings.attributes(), *m_opened));
     }
     const OptionOutcome outcome =
         applyOptions(options, *m_opened->session, m_opened->jobValues, *m_opened->panels);

@@ -39,6 +39,22 @@ QByteArray option(const QByteArray &keyword, int choices)
            lines('*' + keyword + " C", choices, "/Text: \"\"") + "*CloseUI: *" + keyword + '\n';
 }
 
+QByteArray texts(const QByteArray &language, int ofOptions, int ofChoices)
+{
+    return lines('*' + language + ".Translation A", ofOptions, "/B: \"\"") +
+           lines('*' + language + ".Tray C", ofChoices, "/B: \"\"");
+}
+
+// A text of each: "aa", "ab" and so on.
+QByteArray languages(int count)
+{
+    QByteArray all;
+    for (int i = 0; i < count; ++i)
+        all += QByteArray("*") + static_cast<char>('a' + i / 26) + static_cast<char>('a' + i % 26) +
+               ".A B: \"\"\n";
+    return all;
+}
+
 struct Row
 {
     const char *what;
@@ -64,6 +80,8 @@ QList<Row> rows()
         {"too many measures of papers", lines("*PaperDimension P", 5, ": \"1 1\""),
          u"“*paperdimension”"_s},
         {"too many constraints", lines("*UIConstraints: *A A", 4, " *B B"), u"“*uiconstraints”"_s},
+        {"too many constraints of CUPS' own", lines("*cupsUIConstraints C", 31, ": \"*A A *B B\""),
+         u"more than 30 lines that begin with “*cupsuiconstraints”"_s},
         {"as many groups as there may be", lines("*OpenGroup: G", 3, "/G"), {}},
         {"too many groups", lines("*OpenGroup: G", 4, "/G"),
          u"more than 3 lines that begin with “*opengroup”"_s},
@@ -78,10 +96,32 @@ QList<Row> rows()
          lines("*Font F", 30, ": Standard") + lines("*Face F", 11, ": Standard"),
          u"more than 40 lines that belong to no option. The most frequent is “*font”"_s},
         {"as many texts of each of two languages",
-         lines("*ja.Translation A", 40, "/B: \"\"") + lines("*zh_CN.Translation A", 40, "/B: \"\""),
+         texts("ja", 30, 10) + texts("zh_CN", 30, 10),
          {}},
-        {"too many texts of one language", lines("*ja.Translation A", 41, "/B: \"\""), u"“*ja.”"_s},
-        {"too many keywords", lines("*l", 61, ".A B: \"\""), u"more than 60 different keywords"_s},
+        {"too many texts of one language", texts("ja", 30, 11), u"“*ja.”"_s},
+        {"too many texts of one language and its regions",
+         texts("zh_CN", 20, 0) + texts("zh_TW", 21, 0), u"“*zh.”"_s},
+        {"too many texts of one kind", texts("ja", 31, 0), u"“*ja.translation”"_s},
+        {"what is no language", lines("*l", 41, ".A B: \"\""),
+         u"more than 40 lines that belong to no option"_s},
+        {"too many keywords", languages(61), u"more than 60 different keywords"_s},
+        {"comments", lines("*% C", 100, "") + lines("*%", 100, ": C"), {}},
+        {"ends of texts", QByteArray("*End\n").repeated(100), {}},
+        {"what only begins like an end", lines("*End", 41, ": \"\""),
+         u"more than 40 lines that belong to no option"_s},
+        // What libcups does not see, and other blanks that it knows.
+        {"the end of a file in front of lines", option("Tray", 6).replace("*Tray C", "\x1a*Tray C"),
+         u"“*tray”"_s},
+        {"the end of a file in keywords",
+         option("Tray", 6).replace("*Tray C", "*Tr\x1a"
+                                              "ay C"),
+         u"“*tray”"_s},
+        {"many ends of files", "*Font" + QByteArray(70'000, '\x1a') + lines("*Font F", 32, ": S"),
+         u"“*font”"_s},
+        {"a form feed behind keywords", lines("*PaperDimension\fP", 5, ": \"1 1\""),
+         u"“*paperdimension”"_s},
+        {"a vertical tabulator behind keywords", lines("*PaperDimension\vP", 5, ": \"1 1\""),
+         u"“*paperdimension”"_s},
         {"what does not begin a line", QByteArray(" *Font F\nx*Font F\n").repeated(100), {}},
         {"a long line", "*Comment: \"" + QByteArray(90'000, '*') + '"', {}},
         {"too many bytes", QByteArray(100'001, ' '), u"larger"_s},

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/PpdFile.h"
 #include "tests/dialog/support/TestPrinters.h"
 
@@ -62,6 +63,40 @@ private Q_SLOTS:
         const PpdFile ppd = openedPpd(printer.text());
         QVERIFY(ppdIsMarked(ppd.get(), "Collate", "False"));
         QCOMPARE(QByteArray(ppdFindOption(ppd.get(), "Collate")->defchoice), QByteArray("False"));
+    }
+
+    // It would be called what the printer does anyway, and copies would come out page by page.
+    void copiesAreNotCollatedWhereThePrinterWouldNotHearOfIt()
+    {
+        const QByteArray printer = PpdBuilder()
+                                       .line("*OpenUI *Collate/Collate: PickOne")
+                                       .line("*OrderDependency: -1 AnySetup *Collate")
+                                       .line("*DefaultCollate: False")
+                                       .line("*Collate True/On: \"true collate\"")
+                                       .line("*Collate False/Off: \"false collate\"")
+                                       .line("*CloseUI: *Collate")
+                                       .text();
+        const PpdFile ppd = openedPpd(printer);
+        QVERIFY(ppdIsMarked(ppd.get(), "Collate", "False"));
+        QVERIFY(!canBeSent(ppd.get(), u"Collate"_s, u"True"_s));
+        const PpdFile sent = openedPpd(QByteArray(printer).replace("-1 AnySetup", "10 AnySetup"));
+        QVERIFY(ppdIsMarked(sent.get(), "Collate", "True"));
+    }
+
+    void oneSidedIsNoDefaultWhereThePrinterWouldNotHearOfIt()
+    {
+        const QByteArray printer = PpdBuilder()
+                                       .line("*OpenUI *Duplex/Two-Sided: PickOne")
+                                       .line("*OrderDependency: -1 AnySetup *Duplex")
+                                       .line("*DefaultDuplex: DuplexNoTumble")
+                                       .line("*Duplex None/Off: \"simplex\"")
+                                       .line("*Duplex DuplexNoTumble/Long: \"duplex\"")
+                                       .line("*CloseUI: *Duplex")
+                                       .text();
+        const PpdFile ppd = openedPpd(printer);
+        QVERIFY(!canBeSent(ppd.get(), u"Duplex"_s, u"None"_s));
+        const PpdFile sent = openedPpd(QByteArray(printer).replace("-1 AnySetup", "10 AnySetup"));
+        QVERIFY(canBeSent(sent.get(), u"Duplex"_s, u"None"_s));
     }
 
     void aMissingFileIsNamed()

@@ -384,6 +384,19 @@ private Q_SLOTS:
         QCOMPARE(task.settings().attribute(u"outputorder"_s), QString());
     }
 
+    // What is usual elsewhere is a choice there.
+    void anOrderThatWasChosenAgainstThePrintersGoesBack()
+    {
+        PpdBuilder ppd = plainPrinter();
+        PrintTask &task = open({}, ppd.line("*DefaultOutputOrder: Reverse"));
+        task.setAttribute(u"outputorder"_s, u"normal"_s);
+        task.setBase({task.settingsNow(), u"Reports"_s});
+        task.setAttribute(u"outputorder"_s, u"reverse"_s);
+        task.resetSettings({u"outputorder"_s});
+        QCOMPARE(task.settings().attribute(u"outputorder"_s), u"normal"_s);
+        QCOMPARE(task.changedSettings(), QStringList());
+    }
+
     void whatWasChosenComesBackWithItsPrinter()
     {
         const Printer first = m_scene->printer(u"first"_s, plainPrinter().text());

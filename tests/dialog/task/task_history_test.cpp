@@ -425,6 +425,20 @@ private Q_SLOTS:
         QCOMPARE(task().changedSettings(), (QStringList{u"Media"_s, u"Tray"_s}));
     }
 
+    void aTrayGoesBackWithTheFeedingByHand()
+    {
+        m_scene->open(m_scene->request(
+            PpdBuilder()
+                .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
+                .option("ManualFeed", "By Hand", "False", {{"True", "Yes"}, {"False", "No"}})));
+        task().propose(u"InputSlot"_s, u"Lower"_s);
+        task().setBase({task().settingsNow(), u"Reports"_s});
+        task().propose(u"ManualFeed"_s, u"True"_s);
+        task().resetSettings({u"ManualFeed"_s});
+        QCOMPARE(session().markedChoice(u"InputSlot"_s), u"Lower"_s);
+        QCOMPARE(task().changedSettings(), QStringList());
+    }
+
     void everythingGoesBackInOneStep()
     {
         openSample();
