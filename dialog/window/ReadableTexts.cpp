@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QEvent>
+#include <QScopedValueRollback>
 
 namespace corvana {
 
@@ -95,14 +96,22 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (watched == parent() && event->type() == QEvent::ApplicationPaletteChange)
+        if (watched == parent() && event->type() == QEvent::ApplicationPaletteChange &&
+            !m_isMending) {
             mend();
+            // Once more: behind this event Qt drops the palettes of classes, where the new one is
+            // that of a theme.
+            QMetaObject::invokeMethod(
+                this, [this] { mend(); }, Qt::QueuedConnection);
+        }
         return QObject::eventFilter(watched, event);
     }
 
 private:
-    static void mend()
+    void mend()
     {
+        // What is set here is such a change, too, and a style may make something else of it.
+        const QScopedValueRollback<bool> mending(m_isMending, true);
         constexpr char kAllWidgets[] = "QWidget";
         QPalette palette = withReadableTexts(QApplication::palette());
         // What is set by itself in a palette of the program makes a palette of its own for each
@@ -112,6 +121,8 @@ private:
         if (palette != QApplication::palette(kAllWidgets))
             QApplication::setPalette(palette, kAllWidgets);
     }
+
+    bool m_isMending = false;
 };
 
 } // namespace

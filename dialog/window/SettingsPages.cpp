@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTimer>
@@ -72,7 +73,16 @@ void SettingsPages::addPages()
     connect(m_summary, &SummaryPage::settingWanted, this,
             [this](const QString &name) { goTo(name); });
     addTab(m_summary, tr("Summary"));
-    m_general->setFocus();
+    takeFocus();
+}
+
+// Who chooses a printer by keys, or types elsewhere while one is asked for, goes on doing so.
+void SettingsPages::takeFocus()
+{
+    const QWidget *focus = window()->focusWidget();
+    const bool isFirst = !std::exchange(m_tookFocus, true);
+    if (!focus || isAncestorOf(focus) || (isFirst && !qobject_cast<const QLineEdit *>(focus)))
+        m_general->setFocus();
 }
 
 void SettingsPages::addGeneral()

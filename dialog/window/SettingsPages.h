@@ -81,6 +81,7 @@ Q_SIGNALS:
 
 private:
     void addPages();
+    void takeFocus();
     void addAllOptions();
     void makeOptions();
     QWidget *disclose(const Setting &setting);
@@ -106,6 +107,7 @@ private:
     SummaryPage *m_summary = nullptr;
     ChangeMarks *m_panelMarks;
     bool m_showsPanels = false;
+    bool m_tookFocus = false;
     QString m_former; // the title of the page that was shown when the pages were closed
 };
 

@@ -172,7 +172,8 @@ void setAccessibleLabel(QWidget *control, const QString &name)
 void nameListsOfPopUps(QObject *owner)
 {
     QObject::connect(qApp, &QApplication::focusChanged, owner, [](QWidget *, QWidget *list) {
-        if (!list || list->window()->windowType() != Qt::Popup)
+        // Whoever asks a pop-up button for its list has it made, also where another one opens.
+        if (!qobject_cast<QAbstractItemView *>(list) || list->window()->windowType() != Qt::Popup)
             return;
         auto *popUp = qobject_cast<QComboBox *>(list->window()->parentWidget());
         if (!popUp || popUp->view() != list)

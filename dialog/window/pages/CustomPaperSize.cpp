@@ -57,9 +57,11 @@ void setRange(QDoubleSpinBox *field, float least, float most, const Unit &unit)
     constexpr double kHair = 1e-6;
     field->setRange(std::ceil(static_cast<double>(least) / unit.points * parts - kHair) / parts,
                     std::floor(static_cast<double>(most) / unit.points * parts + kHair) / parts);
-    setPlainToolTip(field, CustomPaperSize::tr("From %1 to %2")
-                               .arg(field->textFromValue(field->minimum()),
-                                    field->textFromValue(field->maximum())));
+    // Of one that is locked it says who has locked it.
+    if (!ControlLock::isLocked(field))
+        setPlainToolTip(field, CustomPaperSize::tr("From %1 to %2")
+                                   .arg(field->textFromValue(field->minimum()),
+                                        field->textFromValue(field->maximum())));
 }
 
 } // namespace

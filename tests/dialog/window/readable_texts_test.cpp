@@ -1,11 +1,14 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPalette>
+#include <QProxyStyle>
+#include <QStyleFactory>
 #include <QTest>
 
 #include "dialog/window/ReadableTexts.h"
 
 using namespace corvana;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,6 +25,20 @@ QPalette palette(const QColor &base, const QColor &text, const QColor &placehold
     palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }
+
+constexpr QColor kOfStyle(250, 250, 250);
+
+// As some styles do that bring a theme along.
+class ColorfulStyle : public QProxyStyle
+{
+public:
+    ColorfulStyle() : QProxyStyle(u"Fusion"_s) {}
+    using QProxyStyle::polish;
+    void polish(QPalette &palette) override
+    {
+        palette.setColor(QPalette::PlaceholderText, kOfStyle);
+    }
+};
 
 } // namespace
 
@@ -112,6 +129,39 @@ private Q_SLOTS:
             QCOMPARE(shown.color(QPalette::Base), base);
             QVERIFY(contrast(shown.color(QPalette::PlaceholderText), base) >= kLeast);
         }
+    }
+
+    // What is made only then, too.
+    void widgetsHaveReadableTextsInTheThemeThatComesBack()
+    {
+        keepTextsReadable(*qApp);
+        QApplication::setPalette(palette(QColor(30, 30, 30), Qt::white, QColor(0, 0, 0, 128)));
+        QApplication::setPalette({});
+        QVERIFY(!QCoreApplication::testAttribute(Qt::AA_SetPalette));
+        const auto shown = [] {
+            const QLineEdit field;
+            field.ensurePolished();
+            return field.palette();
+        };
+        const auto isReadable = [&] {
+            return contrast(shown().color(QPalette::PlaceholderText),
+                            shown().color(QPalette::Base)) >= kLeast;
+        };
+        QTRY_VERIFY(isReadable());
+        QTest::qWait(50);
+        QVERIFY(isReadable());
+    }
+
+    void aStyleWithColorsOfItsOwnKeepsThem()
+    {
+        QApplication::setStyle(new ColorfulStyle);
+        keepTextsReadable(*qApp);
+        QApplication::setPalette(palette(Qt::white, Qt::black, QColor(0, 0, 0, 128)));
+        QTest::qWait(50);
+        const QLineEdit field;
+        field.ensurePolished();
+        QCOMPARE(field.palette().color(QPalette::PlaceholderText), kOfStyle);
+        QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     }
 
     // Styles keep what they have drawn by the palette that it was drawn with.

@@ -13,6 +13,7 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include "dialog/printers/PrinterFetching.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/SettingsIndex.h"
 #include "platform/pde/PDEPanel.h"
@@ -116,6 +117,20 @@ private Q_SLOTS:
     {
         m_window.reset();
         m_filter.reset();
+    }
+
+    // Its server has other options for it by now.
+    void whoTypesGoesOnTypingWhileThePrinterIsOpenedAnew()
+    {
+        openOffice();
+        startSearch(u"pap"_s);
+        QString error;
+        Q_EMIT task().printers().ready(
+            {task().printer(), temporaryPpd(officePrinter().text() + "*% another one\n", &error)});
+        QTRY_COMPARE_WITH_TIMEOUT(task().phase(), PrintTask::Phase::Ready, kWindowPatience);
+        QVERIFY(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_E);
+        QCOMPARE(field()->text(), u"pape"_s);
     }
 
     void enterGoesToWhatIsFoundFirst()

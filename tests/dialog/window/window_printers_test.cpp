@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -123,6 +124,52 @@ private Q_SLOTS:
         pages()->setCurrentIndex(2);
         m_window->task().choosePrinter(two.printers.at(1));
         QCOMPARE(pages()->currentIndex(), 0);
+    }
+
+    void keysChooseOnePrinterAfterTheOther()
+    {
+        PrintRequest three = request();
+        three.printers += {u"second"_s, u"Second"_s, samplePpdPath(), 5};
+        three.printers += {u"third"_s, u"Third"_s, samplePpdPath(), 5};
+        open(three);
+        QTRY_VERIFY(isReady());
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        const auto *printers = part<PrinterComboBox>(u"printers"_s);
+        part<PrinterComboBox>(u"printers"_s)->setFocus();
+        for (int row : {1, 2}) {
+            QVERIFY(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+            QTRY_VERIFY(isReady());
+            QCOMPARE(printers->currentIndex(), row);
+            QVERIFY(printers->hasFocus());
+        }
+    }
+
+    void theFocusIsOnThePagesAgainThatAreMadeAnew_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("general") << 0 << u"copies"_s;
+        QTest::newRow("a panel") << 1 << u"mediaTypePopup"_s;
+    }
+    void theFocusIsOnThePagesAgainThatAreMadeAnew()
+    {
+        QFETCH(int, page);
+        QFETCH(QString, name);
+        open(request());
+        QTRY_VERIFY(isReady());
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        pages()->setCurrentIndex(page);
+        QTRY_VERIFY(part<QWidget>(name));
+        part<QWidget>(name)->setFocus();
+        QVERIFY(part<QWidget>(name)->hasFocus());
+        becomes(samplePpd() + "*% another one\n");
+        QTRY_VERIFY(isReady());
+        QTRY_VERIFY(QApplication::focusWidget());
+        QVERIFY2(pages()->isAncestorOf(QApplication::focusWidget()),
+                 qPrintable(QApplication::focusWidget()->objectName()));
     }
 
     void theButtonSaysWhetherSomethingIsPrintedOrSaved()

@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QHelpEvent>
@@ -11,6 +12,7 @@
 
 #include "dialog/window/chooser/PrinterComboBox.h"
 #include "platform/toolkit/ControlActions.h"
+#include "platform/toolkit/ScreenReader.h"
 #include "tests/dialog/window/chooser/ChooserPrinters.h"
 #include "tests/support/Gestures.h"
 
@@ -63,6 +65,15 @@ private Q_SLOTS:
         m_combo->setPrinters({});
         m_combo->setPrinters(queues(2));
         QCOMPARE(m_combo->currentIndex(), -1);
+    }
+
+    void theListThatItReplacesIsNeverMade()
+    {
+        nameListsOfPopUps(m_window.get());
+        m_combo->setPrinters(queues(3));
+        m_combo->showPopup();
+        QTRY_VERIFY(m_combo->findChild<QLineEdit *>(u"printerSearch"_s)->hasFocus());
+        QCOMPARE(m_combo->findChildren<QAbstractItemView *>().size(), 1);
     }
 
     void theProgramChoosesWithoutAnAct()

@@ -242,6 +242,21 @@ private Q_SLOTS:
         QVERIFY(near(field(u"paperWidth"_s)->value(), 5.1));
     }
 
+    void aLockedFieldSaysWhoHasLockedIt()
+    {
+        open();
+        m_size->setLocked(u"Set by your administrator."_s);
+        m_size->setSize({360, 600});
+        unit()->setCurrentIndex(1);
+        for (const QString &name : {u"paperWidth"_s, u"paperHeight"_s})
+            QVERIFY2(field(name)->toolTip().contains(u"administrator"_s),
+                     qPrintable(field(name)->toolTip()));
+        m_size->setLocked({});
+        m_size->setSize({360, 600});
+        QVERIFY2(field(u"paperWidth"_s)->toolTip().contains(u"3.00"_s),
+                 qPrintable(field(u"paperWidth"_s)->toolTip()));
+    }
+
     void assistiveTechnologyKnowsTheFields()
     {
         open();
