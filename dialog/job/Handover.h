@@ -37,6 +37,8 @@ struct ServerJobRequest
     /// The options in the words of the PPD, for what is done to the pages here, where those of the
     /// ticket are in the printer's own; else empty.
     QList<JobOption> chosenOptions{};
+    /// Whether the queue chooses pages (page-ranges) of a job that names none.
+    bool queueChoosesPages = false;
     /// A job of an earlier try whose fate is not known, or 0. It is looked up first, so that the
     /// same is not printed twice by accident.
     int earlierJob = 0;

@@ -308,6 +308,9 @@ void ServerJob::send(const QList<Document> &documents, const JobTicket &ticket)
     ServerJobRequest request = m_request;
     request.ticket = ticket;
     request.ticket.options = withoutPageOrder(ticket.options); // nobody else knows them
+    // Of pages that were picked here the server would take those of its own default once more.
+    if (request.queueChoosesPages && pageChoiceOf(request.ticket.options).ranges.isEmpty())
+        request.ticket.options += JobOption{kPageRangesAttribute, u"1-"_s};
     if (request.printer.origin == PrinterOrigin::Queue && !request.ppd->isWritten)
         request.ticket.options = inOrderForFilters(request.ticket.options, request.ppd->path);
     const int times = repetitionsOf(ticket, static_cast<int>(documents.size()));

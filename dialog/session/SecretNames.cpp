@@ -14,15 +14,19 @@ namespace {
 
 // Words that mean a secret wherever they stand, since no other word contains them.
 constexpr const char16_t *kPieces[] = {
-    u"passwort", u"kennwort",   u"pinnumber",  u"securecode",     u"releasecode",  u"keycode",
-    u"lockcode", u"usercode",   u"jobpin",     u"userpin",        u"password",     u"passcode",
-    u"passwd",   u"passphrase", u"pincode",    u"accesscode",     u"securitycode", u"暗証",
-    u"暗证",     u"パスワード", u"パスコード", u"アクセスコード", u"認証コード",   u"密码",
-    u"密碼",     u"口令",       u"访问码",     u"访问代码",       u"验证码",       u"识别码",
+    u"passwort",     u"kennwort",       u"pinnumber",      u"securecode",    u"releasecode",
+    u"keycode",      u"lockcode",       u"usercode",       u"jobpin",        u"userpin",
+    u"password",     u"passcode",       u"passwd",         u"passphrase",    u"pincode",
+    u"accesscode",   u"securitycode",   u"暗証",           u"暗证",          u"パスワード",
+    u"パスコード",   u"アクセスコード", u"認証コード",     u"密码",          u"密碼",
+    u"口令",         u"访问码",         u"访问代码",       u"验证码",        u"识别码",
+    u"存取代碼",     u"存取碼",         u"비밀번호",       u"액세스코드",    u"zugangscode",
+    u"zugriffscode", u"motdepasse",     u"coded'accès",    u"coded’accès",   u"codeconfidentiel",
+    u"contraseña",   u"códigodeacceso", u"códigodeacesso", u"codiceaccesso", u"codicediaccesso",
 };
 
 // Words that mean it only as a whole: "Spinning" and "Secretary" contain them, too.
-constexpr const char16_t *kWords[] = {u"pin", u"pins", u"secret", u"passkey"};
+constexpr const char16_t *kWords[] = {u"pin", u"pins", u"secret", u"passkey", u"senha"};
 
 // The words of "HPPinPrnt", "JOB_PIN2", "PINNumber" and "Access Code", in small letters.
 QStringList wordsOf(const QString &name)

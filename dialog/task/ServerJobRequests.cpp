@@ -1,7 +1,9 @@
 #include "dialog/task/ServerJobRequests.h"
 
 #include "dialog/driverless/StandardJobOptions.h"
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/task/PassedOn.h"
 
 namespace corvana {
 
@@ -20,6 +22,8 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     });
     job.ppd = printer.fetched.ppd;
     job.follow = !request.noWait;
+    const QList<JobOption> &defaults = printer.fetched.defaults;
+    job.queueChoosesPages = !passesFilesOn(printer) && !pageChoiceOf(defaults).ranges.isEmpty();
     if (const auto &capabilities = printer.fetched.capabilities) {
         job.chosenOptions = job.ticket.options;
         job.ticket.options = standardJobOptions(job.chosenOptions, *capabilities);

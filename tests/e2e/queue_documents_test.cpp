@@ -266,6 +266,16 @@ private Q_SLOTS:
         QCOMPARE(printedByLp(u"office"_s, arguments).count("%PDF-"), qsizetype(2));
     }
 
+    // Once in each document; not in what was made of all of them as well.
+    void pagesOfTheQueuesDefaultAreChosenOnce()
+    {
+        QueueSettings settings;
+        settings.options = {u"page-ranges-default=2-3"_s};
+        m_cups->addQueue(u"office"_s, ppd(kPdfLine), settings);
+        const CapturedJob job = printed(u"office"_s, documents(u"five:5 three:3"_s));
+        QCOMPARE(sidesOf(job.data), u"five2 | five3 | three2 | three3"_s);
+    }
+
     void thatTheyWerePutTogetherIsSaid()
     {
         m_cups->addQueue(u"office"_s, ppd(kPdfLine));
