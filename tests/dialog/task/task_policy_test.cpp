@@ -254,6 +254,22 @@ private Q_SLOTS:
         QVERIFY(!task().whyNoFile().isEmpty());
     }
 
+    void aPrinterThatWasAskedForAndIsNotOfferedIsNotReplacedByAnother()
+    {
+        PrintRequest request = m_scene->request(smallPrinter());
+        const QString asked = request.printers.constFirst().name;
+        request.policy = policyFrom("[all]\nfile-output = no\n");
+        m_scene->make(request).startUnattended();
+        QVERIFY(m_scene->reaches(Phase::Missing));
+        QCOMPARE(task().printer().name, asked);
+        QVERIFY2(task().problem().text.contains(u"to a file is not offered"_s),
+                 qPrintable(task().problem().text));
+        m_scene->make(request).start();
+        QCOMPARE(task().printer().name, asked);
+        QCOMPARE(task().phase(), Phase::Missing);
+        QVERIFY(task().printers().printers().isEmpty());
+    }
+
     void manySheetsAreAskedFor_data()
     {
         QTest::addColumn<QByteArray>("policy");
