@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include "dialog/session/CustomValue.h"
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/LockedValues.h"
 #include "dialog/session/OptionNames.h"
@@ -238,9 +239,12 @@ private:
     {
         QList<JobOption> possible;
         for (auto one = m_content.attributes.cbegin(); one != m_content.attributes.cend(); ++one) {
-            if (!isKept(one.key()))
-                continue;
             const JobOption attribute{one.key(), one.value()};
+            if (!jobAttribute(attribute.name) && !attribute.value.isNull())
+                note(attribute.name,
+                     Texts::tr("%1 is not on this printer.").arg(textOf(attribute)));
+            if (!isKept(attribute.name))
+                continue;
             if (attribute.value.isNull()) {
                 possible += attribute;
                 continue;
