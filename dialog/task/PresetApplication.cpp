@@ -62,7 +62,9 @@ private:
 
     void note(const QString &name, const QString &sentence)
     {
-        QStringList &said = isWish(name) ? m_outcome.missing : m_outcome.details;
+        // Of what is locked people hear who has chosen: it is not the printer that lacks it.
+        const bool isSaidFirst = isWish(name) || m_session.locks().contains(name);
+        QStringList &said = isSaidFirst ? m_outcome.missing : m_outcome.details;
         if (!said.contains(sentence))
             said += sentence;
         m_said += name;
@@ -278,7 +280,8 @@ private:
         };
         const QList<JobOption> present = m_settings.attributes();
         for (const JobOption &one : present) {
-            if (m_use.others == PresetUse::Others::Cleared && isKept(one.name) &&
+            const bool isLocked = !m_settings.lockedBy(one.name).isNull();
+            if (m_use.others == PresetUse::Others::Cleared && isKept(one.name) && !isLocked &&
                 !isNamed(one.name))
                 attributes += JobOption{one.name, QString()};
         }
