@@ -61,9 +61,15 @@ PrinterSource::PrinterSource(const PrinterWish &wish, ServerContext server, QObj
     });
     if (const Printer pdf = pdfPrinter(); isOffered(pdf))
         m_pdfPrinter = FetchedPrinter{pdf};
-    m_wish.files.removeIf([this](const Printer &printer) {
-        // What was named is opened, and refused, by its name.
-        return !isOffered(printer) && (m_wish.name.isEmpty() || !isCalled(printer, m_wish.name));
+    const bool isAnyOffered =
+        std::any_of(m_wish.files.cbegin(), m_wish.files.cend(),
+                    [this](const Printer &printer) { return isOffered(printer); });
+    m_wish.files.removeIf([this, isAnyOffered](const Printer &printer) {
+        // What was asked for is opened, and refused, by its name: no other printer stands in for
+        // it.
+        const bool isWanted =
+            m_wish.name.isEmpty() ? !isAnyOffered : isCalled(printer, m_wish.name);
+        return !isOffered(printer) && !isWanted;
     });
 }
 

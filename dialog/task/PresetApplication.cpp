@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include "dialog/session/CustomValue.h"
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/LockedValues.h"
 #include "dialog/session/OptionNames.h"
@@ -61,7 +62,9 @@ private:
 
     void note(const QString &name, const QString &sentence)
     {
-        QStringList &said = isWish(name) ? m_outcome.missing : m_outcome.details;
+        // Of what is locked people hear who has chosen: it is not the printer that lacks it.
+        const bool isSaidFirst = isWish(name) || m_session.locks().contains(name);
+        QStringList &said = isSaidFirst ? m_outcome.missing : m_outcome.details;
         if (!said.contains(sentence))
             said += sentence;
         m_said += name;
@@ -239,9 +242,12 @@ private:
     {
         QList<JobOption> possible;
         for (auto one = m_content.attributes.cbegin(); one != m_content.attributes.cend(); ++one) {
-            if (!isKept(one.key()))
-                continue;
             const JobOption attribute{one.key(), one.value()};
+            if (!jobAttribute(attribute.name) && !attribute.value.isNull())
+                note(attribute.name,
+                     Texts::tr("%1 is not on this printer.").arg(textOf(attribute)));
+            if (!isKept(attribute.name))
+                continue;
             if (attribute.value.isNull()) {
                 possible += attribute;
                 continue;
@@ -275,7 +281,8 @@ private:
         };
         const QList<JobOption> present = m_settings.attributes();
         for (const JobOption &one : present) {
-            if (m_use.others == PresetUse::Others::Cleared && isKept(one.name) &&
+            const bool isLocked = !m_settings.lockedBy(one.name).isNull();
+            if (m_use.others == PresetUse::Others::Cleared && isKept(one.name) && !isLocked &&
                 !isNamed(one.name))
                 attributes += JobOption{one.name, QString()};
         }

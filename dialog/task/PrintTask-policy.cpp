@@ -93,6 +93,8 @@ QStringList PrintTask::lockedCopies() const
 // Why a job of so many sheets is not printed; nothing where it is.
 std::optional<TaskRefusal> PrintTask::askForManySheets()
 {
+    if (savesAsPdf())
+        return std::nullopt; // takes no paper
     const std::optional<int> decided = policyOf(m_request).confirmSheets(m_chosen.printer);
     // Where nobody has decided, somebody who sits in front of it is asked, and a script is not.
     const int most = decided.value_or(m_chosen.canBeAnother ? kUsualConfirmSheets : 0);

@@ -24,9 +24,12 @@ QString queueOf(const Printer &printer)
 
 InstanceDraft TaskPresets::elsewhere(const QString &name) const
 {
-    return m_task.opened() ? nameInstance(presetName(name), *m_task.opened(), m_task.settings(),
-                                          KnownInstances::read())
-                           : InstanceDraft();
+    if (!m_task.opened())
+        return {};
+    const KnownInstances known = KnownInstances::read();
+    const QString preset = presetName(name);
+    return nameInstance(nameElsewhere(preset, known), *m_task.opened(), m_task.settings(), known,
+                        preset);
 }
 
 QString TaskPresets::selectedElsewhere() const
@@ -72,13 +75,19 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
     return std::nullopt;
 }
 
-// Whoever keeps a preset under the name of an earlier one means its instance, too.
+// Whoever keeps a preset under the name of an earlier one means its instance, too, which may be
+// called by a name that the preset had before.
+QString TaskPresets::nameElsewhere(const QString &preset, const KnownInstances &known) const
+{
+    const QString there = known.ofSettings(preset, queueOf(m_task.printer()));
+    return there.isEmpty() ? preset : there.section(u'/', 1);
+}
+
 InstanceDraft TaskPresets::draftElsewhere(const PresetToSave &wanted) const
 {
     const KnownInstances known = KnownInstances::read();
     const QString name = presetName(wanted.name);
-    const QString there = known.ofSettings(name, queueOf(m_task.printer()));
-    return draft(there.isEmpty() ? name : there.section(u'/', 1), name, known, wanted.device);
+    return draft(nameElsewhere(name, known), name, known, wanted.device);
 }
 
 void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)

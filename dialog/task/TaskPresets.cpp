@@ -223,7 +223,8 @@ void TaskPresets::save(const PresetToSave &wanted)
         preset.model.clear();
         preset.content = changes;
     }
-    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), {}};
+    m_saving = {
+        {Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), {}, wanted.nowhereElse};
     if (wanted.elsewhere)
         m_saving->elsewhere = draftElsewhere(wanted);
     m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
@@ -290,6 +291,8 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
         }
         if (saving->elsewhere)
             m_task.say(TaskMessage::Kind::Problem, saving->elsewhere->problem);
+        else if (saving->nowhereElse)
+            removeElsewhere();
     } else if (change == Change::Renamed && isReady) {
         renameElsewhere(name);
         m_kept.selected.name = name;

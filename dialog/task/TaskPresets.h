@@ -59,6 +59,8 @@ struct PresetToSave
     bool replaces = false;       ///< a preset of that name may be there
     /// Also as an instance of the queue, by which other programs print with it.
     bool elsewhere = false;
+    /// An instance that was made of it goes.
+    bool nowhereElse = false;
 };
 
 /// The settings of one task that come from before and are kept for later: presets, the defaults of
@@ -155,6 +157,7 @@ private:
         SelectedPreset selected;
         TaskSettings settings;
         std::optional<InstanceDraft> elsewhere{};
+        bool nowhereElse = false;
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
@@ -167,6 +170,7 @@ private:
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
     InstanceDraft draft(const QString &name, const QString &settings, const KnownInstances &known,
                         bool withDevice) const;
+    QString nameElsewhere(const QString &preset, const KnownInstances &known) const;
     InstanceDraft draftElsewhere(const PresetToSave &wanted) const;
     void sayOfInstance(const InstanceDraft &draft);
     void writeElsewhere(const InstanceDraft &draft, const QString &name);

@@ -9,6 +9,7 @@
 #include "dialog/policy/FileTrust.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/policy/PolicyLocks.h"
+#include "dialog/presets/PresetStore.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/terminal/TerminalFace.h"
 #include "dialog/terminal/TerminationSignals.h"
@@ -35,7 +36,7 @@ QString lineOf(const PolicyEntry &entry)
 }
 
 // Presets for everybody are looked for when a printer is open; here an administrator hears of a
-// folder that will not be used then.
+// folder, and of files in it, that will not be used then.
 QList<PolicyProblem> problemsOf(const Policy &policy)
 {
     const PolicyReading &reading = policy.reading();
@@ -43,8 +44,14 @@ QList<PolicyProblem> problemsOf(const Policy &policy)
     for (const PolicyEntry &entry : reading.entries) {
         if (entry.key != PolicyKey::Presets || entry.value.isEmpty())
             continue;
-        if (const auto problem = whyNotTrusted(entry.value, reading.place.owners()))
+        if (const auto problem = whyNotTrusted(entry.value, reading.place.owners())) {
             problems += PolicyProblem{entry.origin, problem->text()};
+            continue;
+        }
+        const PresetStore store(PresetPlaces{{}, {entry.value}, reading.place.owners()});
+        const PresetListing listing = store.listAll();
+        for (const QString &problem : listing.problems)
+            problems += PolicyProblem{entry.origin, problem};
     }
     return problems;
 }

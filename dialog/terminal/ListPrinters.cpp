@@ -63,12 +63,19 @@ void write(const QList<Printer> &printers, const UserQueues &user,
     const auto list = [&out](const QString &name, const QString &description) {
         out << terminalLine(name) << "\t" << terminalLine(description) << "\n";
     };
+    const auto isOffered = [&refusal](const Printer &printer) {
+        return !refusal || refusal(printer).isEmpty();
+    };
     for (const Printer &printer : printers) {
-        if (refusal && !refusal(printer).isEmpty())
+        if (!isOffered(printer))
             continue;
         list(printer.name, printer.description);
-        for (const QString &instance : user.instancesOf(printer.name))
-            list(instance, printer.description);
+        for (const QString &name : user.instancesOf(printer.name)) {
+            Printer instance = printer;
+            instance.name = name;
+            if (isOffered(instance))
+                list(name, printer.description);
+        }
     }
 }
 

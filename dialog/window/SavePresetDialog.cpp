@@ -77,9 +77,13 @@ void SavePresetDialog::addRange()
 
 PresetToSave SavePresetDialog::preset() const
 {
-    const bool forAll = m_forAll && m_forAll->isChecked();
-    return {presetName(m_name->text()), forAll, m_device && m_device->isChecked(), m_replaces,
-            m_elsewhere && m_elsewhere->isChecked()};
+    PresetToSave wanted{presetName(m_name->text()), m_forAll && m_forAll->isChecked(),
+                        m_device && m_device->isChecked(), m_replaces,
+                        m_elsewhere && m_elsewhere->isChecked()};
+    // The tick was there when the dialog opened, where the preset that is selected has an instance.
+    wanted.nowhereElse =
+        m_elsewhere && !wanted.elsewhere && wanted.name == m_presets.selected().name;
+    return wanted;
 }
 
 // By which name other programs will have it, or why they cannot.

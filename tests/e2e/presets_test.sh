@@ -110,6 +110,51 @@ presetsForEverybodyAreUsedOnlyWhereNobodyElseMayWriteThem() {
     grep -qF "$policy/10.conf:2: $shared: " "$work/out" || fail 'not named by the check'
 }
 
+aPresetForEverybodyThatIsNotUsedIsNamedByTheCheck() {
+    local shared=$work/data/corvana-print/presets policy=$work/policy file
+    save House -o QXMediaType=Thick
+    file=$(find "$shared" -name '*.json')
+    mkdir -p "$policy"
+    printf '[all]\npresets = %s\n' "$shared" >"$policy/10.conf"
+    chmod 755 "$policy"
+    environment=("CORVANA_PRINT_POLICY=$policy" "XDG_DATA_HOME=$work/own")
+    chmod 666 "$file"
+    run --check-policy
+    expect_status 1
+    grep -qF "$policy/10.conf:2: $file: " "$work/out" || fail 'a file that others may write is not named'
+    chmod 644 "$file"
+    echo '{' >"$file"
+    run --check-policy
+    expect_status 1
+    grep -F "$policy/10.conf:2: " "$work/out" | grep -qF "$file" || fail 'a damaged file is not named'
+}
+
+theCheckSaysWhatAppliesAtAPrinterAndFromWhichLine() {
+    local policy=$work/policy
+    mkdir -p "$policy"
+    chmod 755 "$policy"
+    printf '[all]\ndefault.Duplex = DuplexNoTumble\nlock.copies = 2\n' >"$policy/10.conf"
+    printf '[printer corvana*]\nlock.copies = 3\nlock.QXRed = 99\n[printer other]\nhide = yes\n' \
+        >"$policy/20.conf"
+    environment=("CORVANA_PRINT_POLICY=$policy")
+    run --check-policy
+    expect_status 0
+    expect_equal "$(tail -n +2 "$work/out")" "[all]
+  default.Duplex = DuplexNoTumble  $policy/10.conf:2
+  lock.copies = 2  $policy/10.conf:3
+[printer corvana*]
+  lock.copies = 3  $policy/20.conf:2
+  lock.QXRed = 99  $policy/20.conf:3
+[printer other]
+  hide = yes  $policy/20.conf:5"
+    run "${printer[@]}" --check-policy
+    expect_status 1
+    expect_equal "$(sed -n '3,5p' "$work/out")" "  default.Duplex = DuplexNoTumble  $policy/10.conf:2
+  lock.QXRed = 99  $policy/20.conf:3
+  lock.copies = 3  $policy/20.conf:2"
+    grep -q "^  $policy/20.conf:3: QXRed=99: " "$work/out" || fail 'what is void is not named'
+}
+
 aHomeThatCannotBeWrittenIsSaid() {
     : >"$work/data"
     save Reports

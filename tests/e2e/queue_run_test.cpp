@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -114,6 +115,27 @@ private Q_SLOTS:
         QCOMPARE(lines.at(1), u"label.printer\tLabels"_s);
         QCOMPARE(lines.at(2), u"office\tBüro, 2. Stock"_s);
         QCOMPARE(end.err, QString());
+    }
+
+    void whatAPolicyHidesIsNotListedInstancesIncluded()
+    {
+        m_cups->addQueue(u"office"_s, kPpd);
+        m_cups->addQueue(u"attic"_s, kPpd);
+        m_runner->setUserOptions("Dest office/cards a=1\nDest office/drafts a=1\n"
+                                 "Dest attic/drafts a=1\n");
+        const QString policy = m_runner->filePath(u"policy"_s);
+        QVERIFY(QDir().mkpath(policy));
+        QFile file(policy + u"/10.conf"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[printer attic office/cards]\nhide = yes\n");
+        file.close();
+        m_runner->setVariable(u"CORVANA_PRINT_POLICY"_s, policy);
+        const RunEnd end = m_runner->run({u"--list-printers"_s});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QStringList names = end.out.split(u'\n', Qt::SkipEmptyParts);
+        for (QString &name : names)
+            name = name.section(u'\t', 0, 0);
+        QCOMPARE(names, (QStringList{u"office"_s, u"office/drafts"_s}));
     }
 
     void queuesAreFoundByEveryName_data()

@@ -118,6 +118,18 @@ private Q_SLOTS:
         QVERIFY(outcome.unset.isEmpty());
     }
 
+    void anAttributeThatNobodyHereKnowsIsNamed()
+    {
+        Preset preset = fullPreset(u"Media=Film"_s);
+        preset.content.attributes.insert(u"finishing-glitter"_s, u"much"_s);
+        PresetStore(m_request.presetPlaces).save(preset, PresetStore::Replacing::Yes);
+        const StartOutcome outcome = start();
+        QCOMPARE(marked(u"Media"_s), u"Film"_s);
+        QCOMPARE(outcome.ignored.size(), 1);
+        QVERIFY2(outcome.ignored.constFirst().contains(u"finishing-glitter"_s),
+                 qPrintable(outcome.ignored.constFirst()));
+    }
+
     // Card cannot be printed on both sides.
     void ofWhatExcludesEachOtherOneIsLeftOutAndNamed()
     {

@@ -4,6 +4,7 @@
 
 #include "dialog/session/OptionRequest.h"
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/NumberedPdf.h"
@@ -141,6 +142,16 @@ private Q_SLOTS:
         for (const SummaryLine &line : m_scene->face.summaries.value(0))
             lines += line.title + u": "_s + line.value;
         QVERIFY2(lines.contains(row.line), qPrintable(lines.join(u'\n')));
+    }
+
+    void nobodyIsAskedForManySheetsOfAFile()
+    {
+        PrintRequest many = request({});
+        many.policy = policyFrom("[all]\nconfirm-sheets=1\n");
+        open(many).print();
+        QVERIFY2(m_scene->reaches(Phase::Ended), qPrintable(m_scene->face.problems().join(u'\n')));
+        QCOMPARE(m_scene->face.confirmations.size(), 0);
+        QVERIFY(saved().startsWith("%PDF-"));
     }
 
     void whatIsPickedIsWhatACommandLineAsksFor()

@@ -99,6 +99,23 @@ private Q_SLOTS:
         QVERIFY(ticket.options.contains(JobOption{u"QXGreen"_s, u"3"_s}));
     }
 
+    // Also with a value that nobody had chosen: the printer has it, and it is not told otherwise.
+    void aPresetsUsualValueAgainstALockSaysWhoHasChosen()
+    {
+        m_scene->open(sample("[all]\nlock.Duplex=DuplexNoTumble\nlock.number-up=2\n"));
+        PresetContent preset;
+        preset.options = {{u"Duplex"_s, u"None"_s}, {u"QXGreen"_s, u"3"_s}};
+        preset.attributes = {{u"number-up"_s, u"4"_s}};
+        const PresetOutcome outcome =
+            applyPreset(preset, {PresetUse::Others::Cleared, {u"QXGreen"_s}}, task().documents(),
+                        *task().opened(), task().settings());
+        const QStringList expected{
+            u"“Two-Sided Printing” is set by your administrator (1.conf:2)."_s,
+            u"number-up=4: “Pages per Sheet” is set by your administrator (1.conf:3)."_s};
+        QCOMPARE(outcome.missing, expected);
+        QCOMPARE(outcome.details, QStringList());
+    }
+
     void noWayOutLeadsThroughALock()
     {
         m_scene->open(request("[all]\nlock.Duplex=DuplexNoTumble\n"));
@@ -252,6 +269,22 @@ private Q_SLOTS:
                  qPrintable(task().problem().text));
         QVERIFY(task().printers().printers().isEmpty());
         QVERIFY(!task().whyNoFile().isEmpty());
+    }
+
+    void aPrinterThatWasAskedForAndIsNotOfferedIsNotReplacedByAnother()
+    {
+        PrintRequest request = m_scene->request(smallPrinter());
+        const QString asked = request.printers.constFirst().name;
+        request.policy = policyFrom("[all]\nfile-output = no\n");
+        m_scene->make(request).startUnattended();
+        QVERIFY(m_scene->reaches(Phase::Missing));
+        QCOMPARE(task().printer().name, asked);
+        QVERIFY2(task().problem().text.contains(u"to a file is not offered"_s),
+                 qPrintable(task().problem().text));
+        m_scene->make(request).start();
+        QCOMPARE(task().printer().name, asked);
+        QCOMPARE(task().phase(), Phase::Missing);
+        QVERIFY(task().printers().printers().isEmpty());
     }
 
     void manySheetsAreAskedFor_data()

@@ -157,6 +157,32 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(KnownInstances::read().own.isEmpty(), 20000);
     }
 
+    void theDialogShowsTheNameThatARenamedPresetHasElsewhere()
+    {
+        open();
+        QCOMPARE(saveElsewhere(), QString());
+        QCOMPARE(done([&] { presets().rename(u"Accounts"_s); }), QString());
+        QTRY_VERIFY(KnownInstances::read().own.values().contains(u"Accounts"_s));
+        const SavePresetDialog dialog(presets(), false);
+        const QString remark = dialog.findChild<QLabel *>(u"presetRemark"_s)->text();
+        QVERIFY2(remark.contains(u"“office/reports”"_s), qPrintable(remark));
+        QVERIFY2(!remark.contains(u"office/accounts"_s), qPrintable(remark));
+    }
+
+    void whoTakesTheTickAwayTakesTheInstanceAway()
+    {
+        setUserOptions("Dest lab x=1\n");
+        open();
+        QCOMPARE(saveElsewhere(), QString());
+        QVERIFY(userOptions().contains("Dest office/reports "));
+        const SavePresetDialog dialog(presets(), false);
+        dialog.findChild<QCheckBox *>(u"presetElsewhere"_s)->setChecked(false);
+        QCOMPARE(done([&] { presets().save(dialog.preset()); }), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(userOptions(), QByteArray("Dest lab x=1\n"), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(KnownInstances::read().own.isEmpty(), 20000);
+        QCOMPARE(presets().listing().names(), QStringList{u"Reports"_s});
+    }
+
     void aPresetWithoutTheTickIsNowhereElse()
     {
         open();
