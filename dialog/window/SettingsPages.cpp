@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -25,6 +26,13 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// What the pages ask for at most, of the height of the screen: one part of so many.
+constexpr int kLeastPart = 4;
+
+} // namespace
+
 SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
     : QTabWidget(parent), m_task(task), m_panelMarks(new ChangeMarks(this))
 {
@@ -38,6 +46,13 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
     connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
     connect(&m_task, &PrintTask::historyChanged, this, &SettingsPages::showChanges);
     connect(m_panelMarks, &ChangeMarks::resetWanted, this, &SettingsPages::reset);
+}
+
+QSize SettingsPages::minimumSizeHint() const
+{
+    const QSize least = QTabWidget::minimumSizeHint();
+    const int bound = screen()->availableSize().height() / kLeastPart;
+    return {least.width(), qMin(least.height(), bound)};
 }
 
 void SettingsPages::open()
