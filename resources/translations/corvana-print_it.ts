@@ -994,6 +994,10 @@
         <translation>Le pagine richieste non sono in nessuno dei documenti. Non è stato stampato nulla.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>«%1: %2»</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>Un opuscolo ha due pagine su ogni facciata, in un ordine proprio: non consente %1.</translation>
     </message>

@@ -2365,6 +2365,10 @@ For the command line: %2</source>
 <context>
     <name>PageChoice</name>
     <message>
+        <source>“%1: %2”</source>
+        <translation>「%1: %2」</translation>
+    </message>
+    <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>
     </message>

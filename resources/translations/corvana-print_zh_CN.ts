@@ -2365,6 +2365,10 @@ For the command line: %2</source>
 <context>
     <name>PageChoice</name>
     <message>
+        <source>“%1: %2”</source>
+        <translation>“%1：%2”</translation>
+    </message>
+    <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>
     </message>
