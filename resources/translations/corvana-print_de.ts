@@ -2836,6 +2836,10 @@
         <translation>Der Auftrag geht ohne dieses Fenster weiter.</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>

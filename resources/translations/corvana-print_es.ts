@@ -2836,6 +2836,10 @@
         <translation>El trabajo continúa sin esta ventana.</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabajo</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>

@@ -2836,6 +2836,10 @@
         <translation>La tâche se poursuit sans cette fenêtre.</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>

@@ -2836,6 +2836,10 @@
         <translation>Il lavoro continua senza questa finestra.</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>Annulla lavoro</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>

@@ -1684,6 +1684,10 @@
         <translation>このウィンドウを閉じても、ジョブは続行されます。</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>ジョブをキャンセル</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>

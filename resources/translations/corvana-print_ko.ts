@@ -2834,6 +2834,10 @@
         <translation>이 창을 닫아도 작업은 계속됩니다.</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>작업 취소</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>취소</translation>
     </message>

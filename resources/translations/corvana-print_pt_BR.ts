@@ -2836,6 +2836,10 @@
         <translation>O trabalho continua sem esta janela.</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabalho</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>

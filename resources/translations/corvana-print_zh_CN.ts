@@ -1684,6 +1684,10 @@
         <translation>关闭此窗口后，作业会继续。</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>取消作业</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>

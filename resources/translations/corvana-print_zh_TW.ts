@@ -2834,6 +2834,10 @@
         <translation>關閉此視窗後，工作會繼續進行。</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>取消工作</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
