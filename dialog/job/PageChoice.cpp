@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 
 namespace corvana {
@@ -25,6 +26,12 @@ int numberOr(const QString &text, int other)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     return isNumber ? number : other;
+}
+
+QString named(const JobOption &option)
+{
+    const JobAttributeText text = textOfJobAttribute(option);
+    return QCoreApplication::translate("PageChoice", "“%1: %2”").arg(text.title, text.value);
 }
 
 // Four pages a sheet: the outer side of the outermost one has the last page and the first one, its
@@ -194,19 +201,19 @@ QStringList problemsOfOrder(const QList<JobOption> &options)
         const bool isRepeated =
             isBooklet && option.name == kRepeatAttribute && option.value != "1"_L1;
         if (choice.isOrdered() && (isNumber || isOrder || isRepeated))
-            others += option.name + u'=' + option.value;
+            others += named(option);
     }
     if (others.isEmpty())
         return {};
-    const QString named = others.join(u", "_s);
+    const QString excluded = others.join(u", "_s);
     return {isBooklet
                 ? QCoreApplication::translate("PageChoice", "A booklet has two pages on each side, "
                                                             "in an order of its own: %1 cannot be "
                                                             "done with it.")
-                      .arg(named)
+                      .arg(excluded)
                 : QCoreApplication::translate("PageChoice", "Each page is repeated %1 times on a "
                                                             "side: %2 cannot be done with it.")
-                      .arg(QString::number(choice.repetitions), named)};
+                      .arg(QString::number(choice.repetitions), excluded)};
 }
 
 QList<int> pagesInOrder(const PageChoice &choice, int pagesOfDocument)

@@ -124,6 +124,13 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
         one.hasEffect = settings.copies() > 1;
     if (offer.name == kNumberUpLayout)
         one.hasEffect = !isUsual(settings.attribute(kNumberUp), jobAttribute(kNumberUp)->usual);
+    // A booklet has as many pages on a side as it has, and so has each page several times.
+    const QList<JobOption> &all = settings.attributes();
+    if (const PageChoice order = pageChoiceOf(all);
+        offer.name == kNumberUp && order.isOrdered() && problemsOfOrder(all).isEmpty()) {
+        one.hasEffect = false;
+        one.value = withPagesOfOrder(all).constLast().value;
+    }
     if (offer.name == kPutBackAttribute)
         one.hasEffect = isTwoSidedByHand(settings.attributes());
     return one;

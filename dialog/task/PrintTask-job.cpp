@@ -114,10 +114,7 @@ std::optional<TaskRefusal> PrintTask::finish()
     if (printsToFile() && m_output.path.isEmpty() && !m_request.documents.isEmpty())
         return TaskRefusal{{tr("Name the file to print to.")}, Place::Output};
     if (!m_settings.hasValidPageRanges())
-        return TaskRefusal{{tr("“%1” are no pages. Pages and ranges in ascending order were "
-                               "expected, such as 1-4, 7, 9-.")
-                                .arg(m_settings.pageRanges())},
-                           Place::Pages};
+        return TaskRefusal{{noPagesText(m_settings.pageRanges())}, Place::Pages};
     if (const QStringList problems = problemsOfOrder(m_settings.attributes()); !problems.isEmpty())
         return TaskRefusal{problems};
     if (const QStringList problems =

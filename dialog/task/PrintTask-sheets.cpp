@@ -9,6 +9,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/sheets/SheetTexts.h"
 #include "dialog/task/PassedOn.h"
+#include "dialog/task/RefusalText.h"
 
 namespace corvana {
 
@@ -120,7 +121,11 @@ SheetPreview PrintTask::sheetPreview() const
         const bool hasTicket = isPrinting() && m_phase != Phase::Asking;
         const JobTicket job = hasTicket ? m_run.ticket : ticket();
         const SheetRequest request = sheetRequest(job);
-        if (const JobSheets *sheets = m_sheets.counted(request))
+        const JobSheets *sheets = m_sheets.counted(request);
+        // Only now: what is being typed and no range yet may become one with the next letter.
+        if (sheets && !hasTicket && !m_settings.hasValidPageRanges())
+            return {State::None, noPagesText(m_settings.pageRanges()), false};
+        if (sheets)
             return previewOf(*sheets, job);
         if (const JobSheets *first = m_sheets.begun(request))
             return beginOf(*first, job);
@@ -144,8 +149,10 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
 {
     const PageChoice choice = pageChoiceOf(job.options);
     SheetPreview preview;
-    const QStringList problems = previewProblems(sheets) + emptyDocuments(sheets, choice);
+    const QStringList empty = emptyDocuments(sheets, choice);
+    const QStringList problems = previewProblems(sheets) + empty + missingPages(sheets, choice);
     preview.reason = problems.join(u' ');
+    preview.canBePrinted = empty.isEmpty();
     const SheetArrangement arrangement = arrangementOf(job);
     preview.counts = countText(sheets, choice, job.copies, coverSheets(arrangement));
     preview.plan = planSheets(sheets, arrangement);

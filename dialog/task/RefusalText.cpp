@@ -70,4 +70,12 @@ QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session)
     return Texts::tr("Change to %1").arg(textOf(wayOut, session));
 }
 
+QString noPagesText(const QString &typed)
+{
+    return QCoreApplication::translate("corvana::PrintTask",
+                                       "“%1” are no pages. Pages and ranges in ascending order "
+                                       "were expected, such as 1-4, 7, 9-.")
+        .arg(typed);
+}
+
 } // namespace corvana

@@ -18,4 +18,7 @@ QString refusalText(const Refusal &refusal, const PpdSession &session);
 /// The offer to make room: "Change to “Two-Sided: Off”".
 QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session);
 
+/// What was expected instead of pages that are typed in a form that nobody understands.
+QString noPagesText(const QString &typed);
+
 } // namespace corvana

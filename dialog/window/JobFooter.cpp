@@ -153,6 +153,8 @@ void JobFooter::showProgress(const JobProgress &progress, bool canLeave)
     if (measured)
         m_progress->setValue(static_cast<int>(progress.sent * 100 / progress.total));
     m_leave->setVisible(canLeave);
+    // Beside Close, which leaves the job alone.
+    m_cancel->setText(canLeave ? tr("Cancel Job") : tr("Cancel"));
     saySoon();
 }
 

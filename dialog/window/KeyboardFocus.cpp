@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFocusFrame>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTabBar>
 
@@ -25,10 +26,31 @@ void paintFrame(QWidget *widget)
     painter.drawRect(widget->rect().adjusted(1, 1, -1, -1));
 }
 
+/// Has a frame lie in the window, or in what scrolls: what directly holds a control may end where
+/// that does, and would cut the frame off.
+class FrameStyle : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *more) const override
+    {
+        return hint == SH_FocusFrame_AboveWidget
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
 class Frame : public QFocusFrame
 {
 public:
-    using QFocusFrame::QFocusFrame;
+    explicit Frame(QWidget *parent) : QFocusFrame(parent)
+    {
+        auto *style = new FrameStyle(QApplication::style()->name());
+        style->setParent(this);
+        setStyle(style);
+    }
 
 protected:
     void paintEvent(QPaintEvent *) override { paintFrame(this); }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -26,6 +27,13 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// What the pages ask for at most, of the height of the screen: one part of so many.
+constexpr int kLeastPart = 4;
+
+} // namespace
+
 SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
     : QTabWidget(parent), m_task(task), m_panelMarks(new ChangeMarks(this))
 {
@@ -39,6 +47,13 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
     connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
     connect(&m_task, &PrintTask::historyChanged, this, &SettingsPages::showChanges);
     connect(m_panelMarks, &ChangeMarks::resetWanted, this, &SettingsPages::reset);
+}
+
+QSize SettingsPages::minimumSizeHint() const
+{
+    const QSize least = QTabWidget::minimumSizeHint();
+    const int bound = screen()->availableSize().height() / kLeastPart;
+    return {least.width(), qMin(least.height(), bound)};
 }
 
 void SettingsPages::open()

@@ -28,6 +28,9 @@ class SettingsPages : public QTabWidget
 public:
     explicit SettingsPages(PrintTask &task, QWidget *parent = nullptr);
 
+    /// On a small screen with large letters no more than leaves the buttons on it: pages scroll.
+    QSize minimumSizeHint() const override;
+
     /// Makes the pages of the printer that was opened.
     void open();
     /// Shows the views of the panels, which have come up, and enters the current page. Does nothing

@@ -994,6 +994,10 @@
         <translation>Die verlangten Seiten sind in keinem der Dokumente. Es wurde nichts gedruckt.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>„%1: %2“</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>Eine Broschüre hat zwei Seiten auf jeder Blattseite, in eigener Reihenfolge: %1 ist damit nicht möglich.</translation>
     </message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>Der Auftrag geht ohne dieses Fenster weiter.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
     </message>
     <message>
         <source>Cancel</source>

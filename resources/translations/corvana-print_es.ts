@@ -994,6 +994,10 @@
         <translation>Las páginas pedidas no están en ninguno de los documentos. No se ha impreso nada.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>«%1: %2»</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>Un folleto tiene dos páginas en cada cara, en un orden propio: no admite %1.</translation>
     </message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>El trabajo continúa sin esta ventana.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabajo</translation>
     </message>
     <message>
         <source>Cancel</source>

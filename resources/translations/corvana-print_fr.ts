@@ -994,6 +994,10 @@
         <translation>Les pages demandées ne sont dans aucun des documents. Rien n’a été imprimé.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>« %1 : %2 »</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>Un livret a deux pages sur chaque face, dans son propre ordre : %1 n’est pas possible.</translation>
     </message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>La tâche se poursuit sans cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
     </message>
     <message>
         <source>Cancel</source>

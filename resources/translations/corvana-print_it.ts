@@ -994,6 +994,10 @@
         <translation>Le pagine richieste non sono in nessuno dei documenti. Non è stato stampato nulla.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>«%1: %2»</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>Un opuscolo ha due pagine su ogni facciata, in un ordine proprio: non consente %1.</translation>
     </message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>Il lavoro continua senza questa finestra.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annulla lavoro</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -1688,6 +1688,10 @@
         <translation>このウィンドウを閉じても、ジョブは続行されます。</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>ジョブをキャンセル</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
@@ -2368,6 +2372,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>PageChoice</name>
+    <message>
+        <source>“%1: %2”</source>
+        <translation>「%1: %2」</translation>
+    </message>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>指定されたページはどの文書にもありません。何も印刷されませんでした。</translation>

@@ -993,6 +993,10 @@
         <translation>요청한 페이지가 어떤 문서에도 없습니다. 아무것도 인쇄되지 않았습니다.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>‘%1: %2’</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>소책자는 한 면에 두 페이지가 자체 순서로 들어갑니다. %1은(는) 함께 사용할 수 없습니다.</translation>
     </message>
@@ -2828,6 +2832,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>이 창을 닫아도 작업은 계속됩니다.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>작업 취소</translation>
     </message>
     <message>
         <source>Cancel</source>

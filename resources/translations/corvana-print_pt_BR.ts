@@ -994,6 +994,10 @@
         <translation>As páginas solicitadas não estão em nenhum dos documentos. Nada foi impresso.</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>“%1: %2”</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>Um livreto tem duas páginas em cada face, em uma ordem própria: %1 não é possível com ele.</translation>
     </message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>O trabalho continua sem esta janela.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabalho</translation>
     </message>
     <message>
         <source>Cancel</source>

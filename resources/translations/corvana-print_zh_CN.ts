@@ -1688,6 +1688,10 @@
         <translation>关闭此窗口后，作业会继续。</translation>
     </message>
     <message>
+        <source>Cancel Job</source>
+        <translation>取消作业</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -2368,6 +2372,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>PageChoice</name>
+    <message>
+        <source>“%1: %2”</source>
+        <translation>“%1：%2”</translation>
+    </message>
     <message>
         <source>The pages that were asked for are in none of the documents. Nothing was printed.</source>
         <translation>所有文档中都没有指定的页面。没有打印任何内容。</translation>

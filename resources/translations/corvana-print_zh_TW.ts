@@ -993,6 +993,10 @@
         <translation>所有文件中都沒有指定的頁面。沒有列印任何內容。</translation>
     </message>
     <message>
+        <source>“%1: %2”</source>
+        <translation>「%1：%2」</translation>
+    </message>
+    <message>
         <source>A booklet has two pages on each side, in an order of its own: %1 cannot be done with it.</source>
         <translation>小冊子的每一面有兩頁，並有自己的順序：無法同時使用 %1。</translation>
     </message>
@@ -2828,6 +2832,10 @@
     <message>
         <source>The job goes on without this window.</source>
         <translation>關閉此視窗後，工作會繼續進行。</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>取消工作</translation>
     </message>
     <message>
         <source>Cancel</source>

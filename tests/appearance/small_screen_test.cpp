@@ -173,6 +173,17 @@ private Q_SLOTS:
         QCOMPARE(kept, QVariantMap());
     }
 
+    // Run by itself as well, with an environment in which texts are larger.
+    void theButtonsAreOnTheScreenWithLargeTexts()
+    {
+        open(u"Report"_s);
+        for (int page = 0; page < m_window->pages()->count(); ++page) {
+            m_window->pages()->setCurrentIndex(page);
+            settle();
+            QCOMPARE(whatIsOff(), QString());
+        }
+    }
+
     void aLongNameKeepsBothItsEndsAndTheWindowItsWidth()
     {
         open(u"short"_s);

@@ -128,6 +128,17 @@ const Task kTasks[] = {
      0,
      {u"Duplex=None"_s},
      [](const Result &result) { return result.sides == kFour; }},
+    {"back to the defaults of the printer",
+     "four",
+     {},
+     [](UserHands &hands) {
+         return hands.choose(u"Duplex"_s, u"Long-Edge Binding"_s) &&
+                hands.choose(u"number-up"_s, u"2"_s) && hands.pick(u"reset"_s, u"resetAll"_s);
+     },
+     7,
+     0,
+     {u"Duplex=None"_s},
+     [](const Result &result) { return result.sides == kFour; }},
     {"A4 on Letter, fitted",
      "four",
      {},

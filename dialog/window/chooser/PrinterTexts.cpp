@@ -161,10 +161,15 @@ QString stateReasonText(const QString &keyword)
 
 QStringList stateReasonTexts(const QStringList &keywords)
 {
+    // What CUPS notes for itself while it prints.
+    const auto isForPeople = [](const QString &keyword) {
+        return keyword != "none"_L1 && keyword != "cups-waiting-for-job-completed"_L1 &&
+               !keyword.startsWith("cups-remote-"_L1);
+    };
     QStringList ordered;
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Report}) {
         for (const QString &keyword : keywords) {
-            if (keyword != "none"_L1 && parseReason(keyword).severity == severity)
+            if (isForPeople(keyword) && parseReason(keyword).severity == severity)
                 ordered += stateReasonText(keyword);
         }
     }

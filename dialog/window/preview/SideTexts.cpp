@@ -12,9 +12,12 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(SheetView)
 };
 
-bool isTwoSided(const SheetPlan &plan)
+// Sheets of a booklet have backs and are bound at no edge.
+bool isTwoSided(const SheetPlan &plan, SideIndex side)
 {
-    return plan.binding != SheetPlan::Binding::None;
+    return plan.binding != SheetPlan::Binding::None ||
+           (side.sheet >= 0 && side.sheet < plan.sheets.size() &&
+            plan.sheets.at(side.sheet).back.has_value());
 }
 
 // What is on a side.
@@ -57,7 +60,7 @@ std::optional<Qt::Edge> boundEdge(const SheetPlan &plan, SideIndex side)
 QString sideLabel(const SheetPlan &plan, SideIndex side)
 {
     const int number = side.sheet + 1;
-    if (!isTwoSided(plan))
+    if (!isTwoSided(plan, side))
         return QLocale().toString(number);
     return side.isBack ? Texts::tr("%L1 back").arg(number) : Texts::tr("%L1 front").arg(number);
 }
@@ -73,7 +76,7 @@ QString sideDescription(const SheetPlan &plan, const QStringList &titles, SideIn
     const QString number = QLocale().toString(side.sheet + 1);
     const bool isLandscape = planned->paper.width() > planned->paper.height();
     QString text;
-    if (!isTwoSided(plan))
+    if (!isTwoSided(plan, side))
         text = Texts::tr("Sheet %L1: %2").arg(number, pages);
     else if (side.isBack)
         text = Texts::tr("Sheet %L1, back: %2").arg(number, pages);

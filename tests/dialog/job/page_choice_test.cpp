@@ -130,14 +130,16 @@ const QList<Excluded> kExcluded{
     {"what it is anyway", {{u"booklet"_s, u"left"_s}, {u"number-up"_s, u"2"_s}}, {}},
     {"pages on a side",
      {{u"booklet"_s, u"left"_s}, {u"number-up"_s, u"4"_s}},
-     u"number-up=4 cannot"_s},
+     u"“Pages per Sheet: 4” cannot"_s},
     {"an order on the side",
      {{u"booklet"_s, u"right"_s}, {u"number-up-layout"_s, u"rltb"_s}},
-     u"number-up-layout=rltb cannot"_s},
-    {"both", {{u"booklet"_s, u"right"_s}, {u"repeat"_s, u"2"_s}}, u"repeat=2 cannot"_s},
+     u"“Order on the Sheet: To the Left, Then Down” cannot"_s},
+    {"both",
+     {{u"booklet"_s, u"right"_s}, {u"repeat"_s, u"2"_s}},
+     u"“Each Page, Times on a Side: 2” cannot"_s},
     {"other pages than the repeated ones",
      {{u"repeat"_s, u"4"_s}, {u"number-up"_s, u"2"_s}},
-     u"number-up=2 cannot"_s},
+     u"“Pages per Sheet: 2” cannot"_s},
 };
 
 } // namespace

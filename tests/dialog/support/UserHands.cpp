@@ -3,10 +3,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QMenu>
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -73,6 +75,24 @@ bool UserHands::choose(const QString &name, const QString &item)
     if (!click(list->viewport(), list->visualRect(index).center()))
         return false;
     return QTest::qWaitFor([&] { return popUp->currentText() == item; }, kListPatience);
+}
+
+bool UserHands::pick(const QString &button, const QString &action)
+{
+    bool isPicked = false;
+    QTimer opened; // a menu waits for its answer within the click that opens it
+    QObject::connect(&opened, &QTimer::timeout, [&] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        auto *wanted = menu ? menu->findChild<QAction *>(action) : nullptr;
+        if (!menu)
+            return;
+        opened.stop();
+        isPicked =
+            wanted && wanted->isEnabled() && click(menu, menu->actionGeometry(wanted).center());
+        menu->close();
+    });
+    opened.start(QApplication::doubleClickInterval() + 50);
+    return click(button) && isPicked;
 }
 
 bool UserHands::choosePrinter(const QString &printer)

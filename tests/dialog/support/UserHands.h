@@ -28,6 +28,8 @@ public:
     bool click(QWidget *widget, QPoint place);
     /// Opens a pop-up and clicks its item.
     bool choose(const QString &name, const QString &item);
+    /// The same with the menu of a button.
+    bool pick(const QString &button, const QString &action);
     /// The same in the list of printers.
     bool choosePrinter(const QString &printer);
     bool turnTo(int page);

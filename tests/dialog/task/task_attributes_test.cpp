@@ -141,6 +141,24 @@ private Q_SLOTS:
         QVERIFY2(m_scene->face.message().contains(u"Card"_s), qPrintable(m_scene->face.message()));
     }
 
+    // What nobody can choose is shown as it is printed; what was chosen before stays, and its way
+    // back with it.
+    void theBookletDecidesHowManyPagesShareASide()
+    {
+        PrintTask &task = open({}, smallPrinter());
+        const auto shared = [&task] { return *find(task.attributes(), u"number-up"_s); };
+        QVERIFY(shared().hasEffect);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(shared().value, u"2"_s);
+        QVERIFY(!shared().hasEffect && shared().isUsual);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QVERIFY(shared().hasEffect && shared().value.isNull());
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(shared().value, u"4"_s);
+        QVERIFY(shared().hasEffect);
+    }
+
     void aPrinterOfOneSideOffersNoBooklet() { QVERIFY(!find(open({}).attributes(), u"booklet"_s)); }
 
     void whatIsInForceIsOffered_data() { addRows(kShown); }

@@ -218,6 +218,33 @@ private Q_SLOTS:
         QVERIFY(side.paper.width() > side.paper.height());
     }
 
+    // Before anybody presses Print, and whether that would help.
+    void pagesThatAreNotThereAreSaidBeforePrinting()
+    {
+        using State = SheetPreview::State;
+        PrintTask &task = m_scene->open(request({{kA4, kA4, kA4}}));
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        task.settings().setPageRanges(u"2-9"_s);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        QCOMPARE(task.sheetPreview().state, State::Known);
+        QCOMPARE(task.sheetPreview().reason, u"The document has 3 pages; 4 to 9 are not in it."_s);
+        QVERIFY(task.sheetPreview().canBePrinted);
+        task.settings().setPageRanges(u"7-8"_s);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        QCOMPARE(task.sheetPreview().state, State::None);
+        QCOMPARE(task.sheetPreview().reason, u"The document has 3 pages; 7 to 8 are not in it."_s);
+        QVERIFY(!task.sheetPreview().canBePrinted);
+        task.settings().setPageRanges(u"x"_s);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        QCOMPARE(task.sheetPreview().state, State::None);
+        QVERIFY(task.sheetPreview().reason.startsWith(u"“x” are no pages."_s));
+        QCOMPARE(task.sheetPreview().counts, QString());
+        QVERIFY(!task.sheetPreview().canBePrinted);
+    }
+
     // Of a long document the first sheets are there before anybody knows how many there are.
     void aLongDocumentBeginsToBeShown()
     {

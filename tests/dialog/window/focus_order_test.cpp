@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFocusFrame>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMultiMap>
@@ -122,6 +123,38 @@ private Q_SLOTS:
         QStringList back = namesOf(stopsOfTab(hands, Qt::ShiftModifier));
         std::reverse(back.begin(), back.end());
         QCOMPARE(back, stops);
+    }
+
+    void theFocusIsSeenWhole_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("framed");
+        QTest::addRow("general") << 0 << u"more"_s;
+        QTest::addRow("print setting") << 1 << u"optionButton"_s;
+        QTest::addRow("all options") << 3 << u"options"_s;
+    }
+    void theFocusIsSeenWhole()
+    {
+        QFETCH(int, page);
+        QFETCH(QString, framed);
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line), WindowDriver::Activation::Yes);
+        QVERIFY(window.waitForPanel(1));
+        window.showPage(page);
+        UserHands hands(window.dialog());
+        window.child<QPushButton>(u"print"_s)->setFocus();
+        QStringList seen;
+        for (int i = 0; i < kMostStops && !seen.contains(u"print"_s); ++i) {
+            hands.key(Qt::Key_Tab);
+            const auto *frame = window.dialog().findChild<QFocusFrame *>();
+            if (!frame || !frame->isVisible())
+                continue;
+            const QString name = frame->widget()->objectName();
+            QVERIFY2(frame->parentWidget()->rect().contains(frame->geometry()), qPrintable(name));
+            seen += name;
+        }
+        QVERIFY2(seen.contains(framed) && seen.contains(u"print"_s), qPrintable(seen.join(u' ')));
     }
 
     // A key that leads to two places leads to the wrong one every second time.

@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QPushButton>
 #include <QTest>
 
 #include "dialog/job/JobProgress.h"
@@ -45,6 +46,20 @@ private Q_SLOTS:
         footer.showCanceling();
         QTRY_COMPARE(announcementsIn(footer),
                      (QStringList{progress.text(), JobFooter::tr("Canceling…")}));
+    }
+
+    // Beside a button that closes the window and lets the job go on.
+    void cancelSaysThatItCancelsTheJob()
+    {
+        JobFooter footer;
+        const auto *cancel = footer.findChild<QPushButton *>(u"cancel"_s);
+        footer.showRunning(true);
+        footer.showProgress({}, false);
+        QCOMPARE(cancel->text(), u"Cancel"_s);
+        footer.showProgress({}, true);
+        QCOMPARE(cancel->text(), u"Cancel Job"_s);
+        footer.showRunning(false);
+        QCOMPARE(cancel->text(), u"Cancel"_s);
     }
 
     void aJobThatIsOverBeforeIsNotAnnounced()

@@ -74,6 +74,14 @@ private Q_SLOTS:
         row(
             "no reason", [](Printer &p) { p.stateReasons = {u"none"_s}; }, u"Idle"_s);
         row(
+            "what CUPS notes for itself",
+            [](Printer &p) {
+                p.state = PrinterState::Processing;
+                p.stateReasons = {u"cups-waiting-for-job-completed"_s, u"cups-remote-processing"_s,
+                                  u"toner-low"_s};
+            },
+            u"Printing, toner low"_s);
+        row(
             "a message with a place marker",
             [](Printer &p) {
                 p.state = PrinterState::Stopped;

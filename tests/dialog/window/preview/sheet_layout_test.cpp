@@ -155,6 +155,17 @@ private Q_SLOTS:
         QVERIFY(layout.paper({0}).isNull());
     }
 
+    // It is folded in the middle, and bound at no edge.
+    void theSidesOfABookletAreFrontAndBack()
+    {
+        ShownSheets sheets = sheetsOfPages(2, true);
+        sheets.plan.binding = SheetPlan::Binding::None;
+        QCOMPARE(sideLabel(sheets.plan, {0}), u"1 front"_s);
+        QCOMPARE(sideLabel(sheets.plan, {0, true}), u"1 back"_s);
+        QCOMPARE(sideDescription(sheets.plan, sheets.titles, {0, true}),
+                 u"Sheet 1, back: page 2"_s);
+    }
+
     void aSideIsSaidInWords_data();
     void aSideIsSaidInWords();
 };
