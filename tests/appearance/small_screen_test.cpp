@@ -173,15 +173,17 @@ private Q_SLOTS:
         QCOMPARE(kept, QVariantMap());
     }
 
-    // Run by itself as well, with an environment in which texts are larger.
-    void theButtonsAreOnTheScreenWithLargeTexts()
+    // Letters of twice the size, and the measures of a style that grow with them.
+    void thePagesLeaveTheOthersThreeQuartersOfTheScreen()
     {
+        QFont font = m_font;
+        font.setPointSizeF(m_font.pointSizeF() * 4);
+        QApplication::setFont(font);
         open(u"Report"_s);
-        for (int page = 0; page < m_window->pages()->count(); ++page) {
-            m_window->pages()->setCurrentIndex(page);
-            settle();
-            QCOMPARE(whatIsOff(), QString());
-        }
+        const int least = m_window->pages()->minimumSizeHint().height();
+        QVERIFY2(least <= dialog().screen()->availableSize().height() / 4,
+                 qPrintable(QString::number(least)));
+        QVERIFY(m_window->pages()->minimumSizeHint().width() > 0);
     }
 
     void aLongNameKeepsBothItsEndsAndTheWindowItsWidth()
