@@ -38,10 +38,10 @@ summary_in() {
         expect_status 0
         expect_only_its_own_words "$work/out"
         [ "$(wc -l <"$work/out")" -ge 18 ] || fail 'the summary is incomplete'
-        # An envelope paper comes with instructions, anything else without a word.
+        # An envelope paper comes with the instructions for its medium, whoever names another medium without a word.
         expect_only_its_own_words "$work/err"
         case $set in
-        *PageSize=Env*) [ "$(wc -l <"$work/err")" -ge 4 ] || fail 'the instructions are missing' ;;
+        *QXMediaType=Env\ *PageSize=Env*) [ "$(wc -l <"$work/err")" -ge 4 ] || fail 'the instructions are missing' ;;
         *) expect_equal "$(cat "$work/err")" '' ;;
         esac
     done < <(choice_sets; echo "$1")
