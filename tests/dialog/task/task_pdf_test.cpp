@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(task.setAttribute(u"booklet"_s, u"left"_s), QString());
         task.setAttribute(u"number-up"_s, u"4"_s);
         task.print();
-        QVERIFY(m_scene->face.problems().join(u' ').contains(u"number-up=4"_s));
+        QVERIFY(m_scene->face.problems().join(u' ').contains(u"Pages per Sheet"_s));
         task.setAttribute(u"number-up"_s, QString());
         task.print();
         QVERIFY(m_scene->reaches(Phase::Ended));
