@@ -1,7 +1,5 @@
 #include "dialog/session/Summary.h"
 
-#include <algorithm>
-
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -20,25 +18,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// What a panel tells of itself, or leaves out because it does not apply.
 QStringList keywordsOfPanels(PanelHost &panels)
 {
     QStringList keywords;
     for (const auto &panel : panels.panels())
         keywords += panel->supportedPPDOptionKeys().value_or(QStringList());
     return keywords;
-}
-
-// A panel leaves out what does not apply now, as the color matching in black and white. The job has
-// it all the same.
-bool isTold(const ppd_option_t *option, const QStringList &ofPanels,
-            const QList<SummaryLine> &panelLines)
-{
-    const QString keyword = ppdKeyword(option->keyword);
-    const QString title = ppdText(option->text).value_or(keyword);
-    return ofPanels.contains(keyword) &&
-           std::any_of(panelLines.cbegin(), panelLines.cend(), [&](const SummaryLine &line) {
-               return line.keyword.isEmpty() ? line.title == title : line.keyword == keyword;
-           });
 }
 
 QString copiesText(int copies, bool collated)
@@ -174,12 +160,12 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.
-    const QStringList ofPanels = keywordsOfPanels(panels);
+    const QStringList told = keywordsOfPanels(panels);
     for (const ppd_option_t *option : optionsBesideGeneral(session)) {
         const QString keyword = ppdKeyword(option->keyword);
         if (copies > 1 && keyword == kCollateOption)
             continue;
-        if (isTold(option, ofPanels, panelLines) || !session.differsFromDefault(keyword))
+        if (told.contains(keyword) || !session.differsFromDefault(keyword))
             continue;
         // One that has no choice at all, since another option says it, would be a line of nothing.
         if (const SummaryLine line = optionLine(session, keyword); !line.title.isEmpty())

@@ -32,9 +32,9 @@ QString customText(const PpdSession &session, const QString &keyword, const QStr
 SummaryLine optionLine(const PpdSession &session, const QString &keyword);
 
 /// The whole summary in display order: copies, the options of the General page, the job's
-/// attributes, the panels, and those of the options that no panel tells of, and that differ from
-/// the printer's defaults. `remarks` stand in brackets behind the values of attributes, by whose
-/// names they are found.
+/// attributes, the panels, and those of the options that no panel has and that differ from the
+/// printer's defaults. `remarks` stand in brackets behind the values of attributes, by whose names
+/// they are found.
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
                                   const QList<JobOption> &attributes,
                                   const QHash<QString, QString> &remarks = {});

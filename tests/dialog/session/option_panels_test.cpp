@@ -6,7 +6,6 @@
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/PanelHost.h"
-#include "dialog/session/Summary.h"
 #include "platform/pde/PDEPlugIn.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -293,45 +292,6 @@ private Q_SLOTS:
                      .ok());
         QCOMPARE(m_session->snapshot(), before);
         QCOMPARE(jobOptions(*m_session, m_plugIn->jobValues(), {}), job);
-    }
-
-    // They do not apply while the mode is what it is, and are in the job all the same.
-    void whatTheColorPanelLeavesOutIsToldAsTheJobHasIt_data()
-    {
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<QStringList>("options");
-        const QString black = u"QXMonoColor=Mono"_s;
-        const QString application = u"AP_ColorMatchingMode=AP_ApplicationColorMatching"_s;
-        QTest::newRow("black and white, none") << black << QStringList{u"QXColorMatching=None"_s};
-        QTest::newRow("black and white, vivid") << black << QStringList{u"QXColorMatching=Vivid"_s};
-        QTest::newRow("black and white, the default") << black << QStringList{};
-        QTest::newRow("the application matches colors")
-            << application
-            << QStringList{u"QXColorMatching=None"_s, u"QXEnhanceBlkPrt=ON"_s,
-                           u"QXSlowDrying=ON"_s};
-    }
-    void whatTheColorPanelLeavesOutIsToldAsTheJobHasIt()
-    {
-        QFETCH(QString, mode);
-        QFETCH(QStringList, options);
-        m_panels->bringUp();
-        QVERIFY(apply(options).ok());
-        QVERIFY(apply({mode}).ok());
-        const QList<SummaryLine> lines = sessionSummary(*m_session, *m_panels, 1, {});
-        for (const QString &keyword :
-             {u"QXColorMatching"_s, u"QXEnhanceBlkPrt"_s, u"QXSlowDrying"_s}) {
-            ppd_option_t *option = ppdOption(m_session->ppd(), keyword);
-            const bool differs = inJob(keyword) != ppdKeyword(option->defchoice);
-            QCOMPARE(differs, options.contains(keyword + u'=' + inJob(keyword)));
-            QStringList told;
-            for (const SummaryLine &line : lines) {
-                if (line.keyword == keyword)
-                    told += line.value;
-            }
-            const ppd_choice_t *choice = ppdChoice(option, inJob(keyword));
-            if (differs)
-                QCOMPARE(told, QStringList{ppdText(choice->text).value()});
-        }
     }
 
     void theJobIsTheSameWhetherPagesWereVisitedOrNot()

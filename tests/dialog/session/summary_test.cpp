@@ -90,26 +90,12 @@ private Q_SLOTS:
         FakePlugIn plugIn({u"A"_s, u"B"_s});
         PanelHost panels(*session, &plugIn, m_presenter);
         plugIn.panels.at(0)->supported = QStringList{u"Tray"_s};
-        plugIn.panels.at(0)->summaryLines = {{u"Tray"_s, u"Below"_s}};
+        plugIn.panels.at(0)->summaryLines = {{u"Paper From"_s, u"Below"_s}};
         const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
         session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
         session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
         QCOMPARE(sessionSummary(*session, panels, 1, {}),
                  (before + QList<SummaryLine>{{u"Boost"_s, u"On"_s}}));
-    }
-
-    // It does not apply just now; the job has it all the same.
-    void whatAPanelLeavesOutIsToldWhenItDiffersFromTheDefault()
-    {
-        const auto session = sessionFor(smallPrinter());
-        FakePlugIn plugIn({u"A"_s});
-        PanelHost panels(*session, &plugIn, m_presenter);
-        plugIn.panels.at(0)->supported = QStringList{u"Tray"_s, u"Boost"_s};
-        plugIn.panels.at(0)->summaryLines = {{u"Boost"_s, u"Off"_s}};
-        const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
-        session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
-        QCOMPARE(sessionSummary(*session, panels, 1, {}),
-                 (before + QList<SummaryLine>{{u"Tray"_s, u"Lower Tray"_s}}));
     }
 
     void theAttributesOfTheJobAreTold()
