@@ -34,17 +34,6 @@ bool lacksValue(const PpdSession &session, const QString &keyword)
     return session.markedChoice(keyword) == kCustomChoice && session.customValue(keyword).isNull();
 }
 
-// Beside a tray of the user's libcups takes the mark of the hand feed away (ppdMarkOption), and sends no code
-// for it, whatever it is: a job that said "False" would get one that others do not have.
-bool goesWithoutSaying(const PpdSession &session, const QString &keyword)
-{
-    if (keyword != kManualFeedOption || session.markedChoice(keyword) != "False"_L1)
-        return false;
-    const QString tray = session.markedChoice(kInputSlotOption);
-    const ppd_option_t *trays = ppdOption(session.ppd(), kInputSlotOption);
-    return trays && !tray.isNull() && tray != ppdKeyword(trays->defchoice);
-}
-
 // A secret in every form in which a program on its way may quote it: with backslashes in front of
 // any of its characters, one for each quoting, and with a single quote that stands outside the
 // quotes.
@@ -73,7 +62,7 @@ QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobVa
     for (const ppd_option_t *option : session.options()) {
         const QString keyword = ppdKeyword(option->keyword);
         const QString marked = session.markedChoice(keyword);
-        if (marked.isNull() || names(own, keyword) || goesWithoutSaying(session, keyword))
+        if (marked.isNull() || names(own, keyword))
             continue;
         if (lacksValue(session, keyword)) {
             // Without its number the choice would reach the printer as some number of chance.

@@ -1,5 +1,3 @@
-#include "dialog/session/PpdSession-handfeed.h"
-
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 
@@ -12,18 +10,13 @@ namespace {
 constexpr QLatin1StringView kOn = "True"_L1;
 constexpr QLatin1StringView kOff = "False"_L1;
 
-bool isOn(const QString &handFeed)
-{
-    return handFeed.compare(kOn, Qt::CaseInsensitive) == 0; // as libcups compares it
-}
-
 // What is to be marked, in this order, after `changed` was. Marking "ManualFeed" as "True" takes
 // the mark of "InputSlot" away in libcups (ppdMarkOption), and marking any tray that of
 // "ManualFeed"; neither comes back by itself when users change their mind.
 QList<OptionChoice> besideHandFeed(const OptionChoice &changed, const QString &handFeedBefore,
                                    const QString &lastTray)
 {
-    if (!isOn(handFeedBefore))
+    if (handFeedBefore.compare(kOn, Qt::CaseInsensitive) != 0) // as libcups compares it
         return {};
     if (changed.keyword == kInputSlotOption)
         return {{kManualFeedOption, kOff}};
@@ -46,13 +39,6 @@ QList<OptionChoice> PpdSession::followHandFeed(const QString &keyword, const QSt
     for (const OptionChoice &one : std::as_const(marked))
         m_printSettings.setValue(one.keyword, one.choice);
     return marked;
-}
-
-void endHandFeed(ppd_file_t *ppd, const QString &handFeed)
-{
-    const QString ended = isOn(handFeed) ? QString(kOff) : handFeed;
-    if (!ended.isEmpty())
-        ppdMarkOption(ppd, kManualFeedOption.data(), ended.toLatin1().constData());
 }
 
 } // namespace corvana

@@ -6,7 +6,6 @@
 
 #include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/OptionNames.h"
-#include "dialog/session/PpdSession-handfeed.h"
 
 namespace corvana {
 
@@ -319,13 +318,10 @@ bool PpdSession::mark(const QString &keyword, const QString &choice)
     if (const ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
         option && option->ui == PPD_UI_PICKMANY)
         unmark(keyword);
-    const QString handFeed =
-        keyword == kInputSlotOption ? markedChoice(kManualFeedOption) : QString();
     m_allMarks.reset(); // libcups takes marks of other options away with some
     ppdMarkOption(m_ppd.get(), keyword.toLatin1().constData(), choice.toLatin1().constData());
     if (markedChoice(keyword) != choiceKeyword(choice))
         return false;
-    endHandFeed(m_ppd.get(), handFeed);
     if (choice.startsWith(kCustomPrefix))
         m_customValues.insert(keyword, choice);
     else if (choice != kCustomChoice)

@@ -413,7 +413,6 @@ private Q_SLOTS:
                    recorded(*session, u"ManualFeed"_s) == handFeed;
         };
         choose(u"InputSlot"_s, u"Lower"_s);
-        QVERIFY(stand(u"Lower"_s, u"False"_s));
         choose(u"ManualFeed"_s, u"True"_s);
         QVERIFY(stand({}, u"True"_s));
         choose(u"ManualFeed"_s, u"False"_s);
@@ -421,34 +420,6 @@ private Q_SLOTS:
         choose(u"ManualFeed"_s, u"True"_s);
         choose(u"InputSlot"_s, u"Upper"_s);
         QVERIFY(stand(u"Upper"_s, u"False"_s));
-    }
-
-    void aTrayCanBeChosenWhereFeedingByHandIsLockedOff()
-    {
-        const auto session = sessionFor(
-            PpdBuilder()
-                .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
-                .option("ManualFeed", "By Hand", "False", {{"True", "Yes"}, {"False", "No"}}));
-        session->setLocks({{u"ManualFeed"_s, {.choice = u"False"_s, .value = u"False"_s}}});
-        QVERIFY(session->change(u"InputSlot"_s, u"Lower"_s, Origin::Dialog).accepted());
-        QCOMPARE(session->markedChoice(u"InputSlot"_s), u"Lower"_s);
-        QVERIFY(session->changeTogether({{u"InputSlot"_s, u"Upper"_s}}).isEmpty());
-        QCOMPARE(session->markedChoice(u"InputSlot"_s), u"Upper"_s);
-        QCOMPARE(session->markedChoice(u"ManualFeed"_s), u"False"_s);
-        QCOMPARE(session->change(u"ManualFeed"_s, u"True"_s, Origin::Dialog).outcome,
-                 Outcome::Locked);
-    }
-
-    void aTrayCannotBeChosenWhereFeedingByHandIsLockedOn()
-    {
-        const auto session = sessionFor(
-            PpdBuilder()
-                .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
-                .option("ManualFeed", "By Hand", "False", {{"True", "Yes"}, {"False", "No"}}));
-        session->setLocks({{u"ManualFeed"_s, {.choice = u"True"_s, .value = u"True"_s}}});
-        QCOMPARE(session->change(u"InputSlot"_s, u"Lower"_s, Origin::Dialog).outcome,
-                 Outcome::Locked);
-        QCOMPARE(session->markedChoice(u"ManualFeed"_s), u"True"_s);
     }
 
     void aDuplexRequestThatCollidesIsRememberedAsARefusal()
