@@ -36,8 +36,9 @@ public:
     bool isOpen() const { return m_window != nullptr; }
     void close() { m_window.reset(); }
 
-    /// Processor time of the GUI thread, each act's. Units: nanoseconds
-    const QList<qint64> &times(DeskAct act) const { return m_times[static_cast<size_t>(act)]; }
+    /// Processor time of the GUI thread, each act's, measured by the yardstick that was laid beside it
+    /// (`yardstickTime`). Units: none
+    const QList<double> &times(DeskAct act) const { return m_times[static_cast<size_t>(act)]; }
 
 private:
     void raiseAlert();
@@ -53,7 +54,7 @@ private:
     AlertAnswerer m_alerts;
     std::unique_ptr<WindowDriver> m_window;
     int m_next = 0;
-    std::array<QList<qint64>, kDeskActs> m_times;
+    std::array<QList<double>, kDeskActs> m_times;
 };
 
 } // namespace corvana::test

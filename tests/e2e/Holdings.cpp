@@ -9,6 +9,9 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -126,10 +129,26 @@ qint64 threadTime()
     return time.tv_sec * qint64(1000000000) + time.tv_nsec;
 }
 
-double slowdownIn(const QList<qint64> &times)
+qint64 yardstickTime()
+{
+    // Some 3 ms, with glyphs that are known after the first time.
+    constexpr int kLines = 60;
+    constexpr QSize kPicture(800, 600);
+    const qint64 start = threadTime();
+    QTextDocument text;
+    text.setPlainText(u"The quick brown fox jumps over the lazy dog.\n"_s.repeated(kLines));
+    text.setTextWidth(kPicture.width());
+    QImage picture(kPicture, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    text.drawContents(&painter);
+    return threadTime() - start;
+}
+
+double slowdownIn(const QList<double> &times)
 {
     const qsizetype tenth = times.size() / 10;
-    return double(median(times.last(tenth))) / double(median(times.first(tenth)));
+    return median(times.last(tenth)) / median(times.first(tenth));
 }
 
 } // namespace corvana::test

@@ -30,8 +30,12 @@ qint64 memoryPerRound(const QList<Holdings> &rounds);
 
 /// Processor time that the calling thread has used. Units: nanoseconds
 qint64 threadTime();
+/// Processor time of work that is the same each time: a text is laid out and painted. A machine that
+/// becomes slower, because of its heat or of what else runs there, becomes slower for this, too.
+/// Units: nanoseconds
+qint64 yardstickTime();
 /// How many times as long the last tenth of the acts took as the first one, by their medians. At
 /// least ten acts.
-double slowdownIn(const QList<qint64> &times);
+double slowdownIn(const QList<double> &times);
 
 } // namespace corvana::test

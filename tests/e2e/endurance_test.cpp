@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 //
 // A short run is made each time. CORVANA_ENDURANCE=500 prints 500 jobs, each in a window of its
 // own, and switches 2,000 printers there and as many in one window that stays open; only such a run
-// looks at how long things take, on a machine that does nothing else. CORVANA_ENDURANCE_LOG=FILE
+// looks at how long things take, beside work that is the same each time. CORVANA_ENDURANCE_LOG=FILE
 // keeps what was counted after each round.
 
 namespace {
@@ -73,7 +73,7 @@ private:
         QStringList acts;
         for (int i = 0; i < kDeskActs; ++i) {
             const auto act = static_cast<DeskAct>(i);
-            const QList<qint64> &times = desk.times(act);
+            const QList<double> &times = desk.times(act);
             if (times.isEmpty())
                 continue;
             QString text = u"%1 %2"_s.arg(times.size()).arg(QLatin1StringView(nameOf(act)));
@@ -94,7 +94,7 @@ private:
         QStringList problems;
         for (int i = 0; i < kDeskActs; ++i) {
             const auto act = static_cast<DeskAct>(i);
-            const QList<qint64> &times = desk.times(act);
+            const QList<double> &times = desk.times(act);
             if (times.size() >= kEnoughToTime && slowdownIn(times) > kMostSlowdown)
                 problems += u"%1 takes %2 times as long"_s.arg(QLatin1StringView(nameOf(act)))
                                 .arg(slowdownIn(times));
