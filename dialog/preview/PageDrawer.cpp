@@ -59,7 +59,7 @@ PageDrawer::~PageDrawer()
 {
     {
         const std::scoped_lock lock(m_mutex);
-        m_ends = true;
+        m_wanted.isToEnd = true;
         wake();
     }
     m_thread.join();
@@ -75,14 +75,14 @@ void PageDrawer::wake()
 void PageDrawer::prepare()
 {
     const std::scoped_lock lock(m_mutex);
-    m_isToPrepare = true;
+    m_wanted.isToPrepare = true;
     wake();
 }
 
 void PageDrawer::draw(const QList<PageToDraw> &pages)
 {
     const std::scoped_lock lock(m_mutex);
-    m_pages.clear();
+    m_wanted.pages.clear();
     if (m_inWork)
         m_inWork->isWanted = !m_inWork->isForgotten && pages.contains(m_inWork->page);
     for (const PageToDraw &page : pages) {
@@ -91,7 +91,7 @@ void PageDrawer::draw(const QList<PageToDraw> &pages)
             std::any_of(m_finished.begin(), m_finished.end(),
                         [&](const FinishedPage &finished) { return finished.page == page; });
         if (!isInWork && !isFinished)
-            m_pages.append(page);
+            m_wanted.pages.append(page);
     }
     wake();
 }
@@ -99,12 +99,12 @@ void PageDrawer::draw(const QList<PageToDraw> &pages)
 void PageDrawer::forget(const QString &file)
 {
     const std::scoped_lock lock(m_mutex);
-    m_pages.removeIf([&](const PageToDraw &page) { return page.file == file; });
-    m_toDescribe.removeAll(file);
+    m_wanted.pages.removeIf([&](const PageToDraw &page) { return page.file == file; });
+    m_wanted.toDescribe.removeAll(file);
     std::erase_if(m_finished, [&](const FinishedPage &page) { return page.page.file == file; });
     if (m_inWork && m_inWork->page.file == file)
         m_inWork->isForgotten = true;
-    m_forgotten.append(file);
+    m_wanted.forgotten.append(file);
     wake();
 }
 
@@ -117,8 +117,8 @@ std::vector<FinishedPage> PageDrawer::takeFinished()
 void PageDrawer::describe(const QString &file)
 {
     const std::scoped_lock lock(m_mutex);
-    if (!m_toDescribe.contains(file))
-        m_toDescribe.append(file);
+    if (!m_wanted.toDescribe.contains(file))
+        m_wanted.toDescribe.append(file);
     wake();
 }
 
@@ -133,8 +133,8 @@ bool PageDrawer::keepOn()
     const std::scoped_lock lock(m_mutex);
     eventfd_t count = 0;
     ::eventfd_read(m_wake.get(), &count);
-    if (m_ends || !m_inWork)
-        return !m_ends;
+    if (m_wanted.isToEnd || !m_inWork)
+        return !m_wanted.isToEnd;
     const bool isWanted = m_inWork->isWanted && !m_inWork->isForgotten;
     return isWanted || Clock::now() - m_inWork->since < kGrace;
 }
@@ -143,17 +143,15 @@ void PageDrawer::run()
 {
     std::unique_lock lock(m_mutex);
     while (true) {
-        m_changed.wait(lock, [this] {
-            return m_ends || m_isToPrepare || !m_forgotten.isEmpty() || !m_toDescribe.isEmpty() ||
-                   !m_pages.isEmpty();
-        });
-        if (m_ends)
+        m_changed.wait(lock, [this] { return m_wanted.hasAnything(); });
+        if (m_wanted.isToEnd)
             break;
-        const QStringList forgotten = std::exchange(m_forgotten, {});
-        const bool isToPrepare = std::exchange(m_isToPrepare, false);
-        const QString toDescribe = m_toDescribe.isEmpty() ? QString() : m_toDescribe.takeFirst();
-        if (toDescribe.isNull() && !m_pages.isEmpty())
-            m_inWork.emplace().page = m_pages.takeFirst();
+        const QStringList forgotten = std::exchange(m_wanted.forgotten, {});
+        const bool isToPrepare = std::exchange(m_wanted.isToPrepare, false);
+        const QString toDescribe =
+            m_wanted.toDescribe.isEmpty() ? QString() : m_wanted.toDescribe.takeFirst();
+        if (toDescribe.isNull() && !m_wanted.pages.isEmpty())
+            m_inWork.emplace().page = m_wanted.pages.takeFirst();
         const std::optional<InWork> work = m_inWork;
         lock.unlock();
 
@@ -170,11 +168,11 @@ void PageDrawer::run()
         lock.lock();
         const bool isForgotten = m_inWork && m_inWork->isForgotten;
         m_inWork.reset();
-        if (description && !m_ends) {
+        if (description && !m_wanted.isToEnd) {
             m_described.push_back(std::move(*description));
             m_tell();
         }
-        if (finished && !isForgotten && !m_ends) {
+        if (finished && !isForgotten && !m_wanted.isToEnd) {
             m_finished.push_back(std::move(*finished));
             m_tell();
         }

@@ -85,6 +85,21 @@ private:
     using Clock = std::chrono::steady_clock;
     using Outcome = RendererProcess::Outcome;
 
+    /// What is asked of the thread.
+    struct Wanted
+    {
+        QList<PageToDraw> pages;
+        QStringList forgotten;  ///< documents that are to be closed
+        QStringList toDescribe; ///< documents
+        bool isToPrepare = false;
+        bool isToEnd = false;
+
+        bool hasAnything() const
+        {
+            return isToEnd || isToPrepare || !forgotten.isEmpty() || !toDescribe.isEmpty() ||
+                   !pages.isEmpty();
+        }
+    };
     struct InWork
     {
         PageToDraw page;
@@ -115,14 +130,10 @@ private:
     // Under the mutex.
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    QList<PageToDraw> m_pages;
-    QStringList m_forgotten;
+    Wanted m_wanted;
     std::optional<InWork> m_inWork;
     std::vector<FinishedPage> m_finished;
-    QStringList m_toDescribe;
     std::vector<DescribedPages> m_described;
-    bool m_isToPrepare = false;
-    bool m_ends = false;
 
     // The thread's.
     std::function<void()> m_tell;
