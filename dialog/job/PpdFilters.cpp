@@ -209,10 +209,13 @@ PpdStream streamOfPpd(const QString &ppdPath)
 {
     QString problem;
     const PpdFile ppd = openPpdFile(ppdPath, &problem);
-    if (!ppd)
-        return {};
-    const QList<QByteArray> lines = filterLines(ppd.get());
-    const ppd_attr_t *single = ppdFindAttr(ppd.get(), "cupsSingleFile", nullptr);
+    return ppd ? streamOfPpd(ppd.get()) : PpdStream();
+}
+
+PpdStream streamOfPpd(ppd_file_t *ppd)
+{
+    const QList<QByteArray> lines = filterLines(ppd);
+    const ppd_attr_t *single = ppdFindAttr(ppd, "cupsSingleFile", nullptr);
     return {std::none_of(lines.cbegin(), lines.cend(), leadsToFile),
             single && QByteArray(single->value).toLower() == "true"};
 }

@@ -39,6 +39,8 @@ struct PpdStream
 
 /// Errors: a PPD that cannot be opened has a stream that continues.
 PpdStream streamOfPpd(const QString &ppdPath);
+/// The same of one that is open: a large PPD takes long to be read.
+PpdStream streamOfPpd(ppd_file_t *ppd);
 
 /// What withOrderForFilters() answers for a PPD in a file.
 /// Errors: a PPD that cannot be opened changes nothing.

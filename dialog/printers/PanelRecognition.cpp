@@ -1,5 +1,7 @@
 #include "dialog/printers/PanelRecognition.h"
 
+#include <utility>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -23,6 +25,28 @@ constexpr char kExtensionAttribute[] = "QXPrintDialogExtension";
 constexpr QLatin1StringView kIdentifyingKeys = "PMPPDKeysIdentifying"_L1;
 // How much of a line a log quotes. Units: characters.
 constexpr qsizetype kLongestQuotation = 80;
+// Of a file that is none of rules each line is wrong, and a log of thousands says no more.
+constexpr int kMostProblems = 100;
+
+class RuleProblems
+{
+public:
+    explicit RuleProblems(QString file) : m_file(std::move(file)) {}
+
+    void add(const QString &line)
+    {
+        if (++m_count <= kMostProblems)
+            qCWarning(lcRecognition).noquote()
+                << m_file << "has a line that is no rule:" << line.left(kLongestQuotation);
+        else if (m_count == kMostProblems + 1)
+            qCWarning(lcRecognition).noquote() << m_file << "has more lines that are no rules";
+    }
+
+private:
+    QString m_file;
+    int m_count = 0;
+};
+
 } // namespace
 
 QString namedBundle(ppd_file_t *ppd)
@@ -41,6 +65,7 @@ PanelRule panelRule(const QString &file, const QStringList &names)
     QFile rules(file);
     if (!rules.open(QIODevice::ReadOnly | QIODevice::Text))
         return PanelRule::ByPpd;
+    RuleProblems problems(file);
     while (!rules.atEnd()) {
         const QString line = QString::fromUtf8(rules.readLine()).section(u'#', 0, 0).simplified();
         if (line.isEmpty())
@@ -49,8 +74,7 @@ PanelRule panelRule(const QString &file, const QStringList &names)
         const QString pattern = line.section(u' ', 1);
         const bool panels = word == "panels"_L1;
         if (pattern.isEmpty() || (!panels && word != "none"_L1)) {
-            qCWarning(lcRecognition).noquote()
-                << file << "has a line that is no rule:" << line.left(kLongestQuotation);
+            problems.add(line);
             continue;
         }
         const auto expression = QRegularExpression::fromWildcard(pattern, Qt::CaseInsensitive);

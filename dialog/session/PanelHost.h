@@ -19,7 +19,7 @@ namespace corvana {
 class PDEJobValues;
 class PDEPlugIn;
 
-/// One line of a panel's summary.
+/// One line of a summary.
 struct SummaryLine
 {
     QString title;
@@ -27,6 +27,8 @@ struct SummaryLine
     /// The option or attribute that it tells of, for whoever looks for its control; null where the
     /// line tells of none, or of more than one.
     QString keyword{};
+    /// Whether it is the title of the lines behind it, and says nothing itself.
+    bool isHeading = false;
 
     /// Whether both say the same.
     bool operator==(const SummaryLine &other) const
@@ -51,6 +53,8 @@ public:
     ~PanelHost() override;
 
     const QList<std::shared_ptr<PDEPanel>> &panels() const { return m_panels; }
+    /// The values that the panels keep themselves; null for a printer without panels.
+    const PDEJobValues *jobValues() const { return m_jobValues; }
 
     /// The window that will show the panels; to be said before they are brought up. Panels observe
     /// the closing of the window that they come up in, and end their rules with it, so they come up

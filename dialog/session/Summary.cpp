@@ -1,5 +1,7 @@
 #include "dialog/session/Summary.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -18,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What a panel tells of itself, or leaves out because it does not apply.
+// What a panel tells of itself, or leaves out beside others of its settings.
 QStringList keywordsOfPanels(PanelHost &panels)
 {
     QStringList keywords;
@@ -43,6 +45,55 @@ QList<ppd_option_t *> optionsBesideGeneral(const PpdSession &session)
         return option->num_choices == 0 || general.contains(ppdKeyword(option->keyword));
     });
     return options;
+}
+
+// A line of a panel may tell of several options at once, under the title of one.
+bool isTold(const ppd_option_t *option, const QList<SummaryLine> &panelLines)
+{
+    const QString keyword = ppdKeyword(option->keyword);
+    const QString title = ppdText(option->text).value_or(keyword);
+    return std::any_of(panelLines.cbegin(), panelLines.cend(), [&](const SummaryLine &line) {
+        return line.keyword.isEmpty() ? line.title == title : line.keyword == keyword;
+    });
+}
+
+// As a job has it, which need not be what is marked.
+SummaryLine lineOf(const PpdSession &session, const JobOption &option)
+{
+    ppd_option_t *known = ppdOption(session.ppd(), option.name);
+    const QString title = ppdText(known->text).value_or(option.name);
+    const ppd_choice_t *choice = ppdChoice(known, option.value);
+    if (!choice)
+        return {title,
+                option.value.startsWith(kCustomPrefix)
+                    ? customText(session, option.name, option.value)
+                    : option.value,
+                option.name};
+    if (isSecretChoice(session.ppd(), option.name, option.value))
+        return {title, QString(kHiddenLength, u'•'), option.name};
+    return {title, ppdText(choice->text).value_or(option.value), option.name};
+}
+
+// A panel has no line for what does not count beside others of its settings, such as the color
+// matching in black and white. The printer is told of it all the same, and what it makes of that is
+// its own affair; so whoever reads the summary is told as well: what the job carries, where
+// somebody has chosen it.
+QList<SummaryLine> leftOutByPanels(const PpdSession &session, const PanelHost &panels,
+                                   const QStringList &ofPanels,
+                                   const QList<SummaryLine> &panelLines)
+{
+    QList<SummaryLine> lines;
+    const QList<JobOption> job = jobOptions(session, panels.jobValues(), {});
+    for (const JobOption &option : job) {
+        const ppd_option_t *known = ppdOption(session.ppd(), option.name);
+        if (known && ofPanels.contains(option.name) &&
+            !generalOptionKeywords().contains(option.name) &&
+            option.value != ppdKeyword(known->defchoice) && !isTold(known, panelLines))
+            lines += lineOf(session, option);
+    }
+    if (!lines.isEmpty())
+        lines.prepend({QCoreApplication::translate("Summary", "Also in the job"), {}, {}, true});
+    return lines;
 }
 
 // What is built into a printer is no choice of who prints: an administrator says it once, for
@@ -160,25 +211,28 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.
-    const QStringList told = keywordsOfPanels(panels);
+    const QStringList ofPanels = keywordsOfPanels(panels);
     for (const ppd_option_t *option : optionsBesideGeneral(session)) {
         const QString keyword = ppdKeyword(option->keyword);
         if (copies > 1 && keyword == kCollateOption)
             continue;
-        if (told.contains(keyword) || !session.differsFromDefault(keyword))
+        if (ofPanels.contains(keyword) || !session.differsFromDefault(keyword))
             continue;
         // One that has no choice at all, since another option says it, would be a line of nothing.
         if (const SummaryLine line = optionLine(session, keyword); !line.title.isEmpty())
             lines += line;
     }
-    return lines;
+    return lines + leftOutByPanels(session, panels, ofPanels, panelLines);
 }
 
 QString summaryText(const QList<SummaryLine> &lines)
 {
     QString text;
-    for (const SummaryLine &line : lines)
-        text += u"%1: %2\n"_s.arg(terminalLine(line.title), terminalLine(line.value));
+    for (const SummaryLine &line : lines) {
+        text += line.isHeading
+                    ? u"%1:\n"_s.arg(terminalLine(line.title))
+                    : u"%1: %2\n"_s.arg(terminalLine(line.title), terminalLine(line.value));
+    }
     return text;
 }
 

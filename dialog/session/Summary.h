@@ -33,13 +33,14 @@ SummaryLine optionLine(const PpdSession &session, const QString &keyword);
 
 /// The whole summary in display order: copies, the options of the General page, the job's
 /// attributes, the panels, and those of the options that no panel has and that differ from the
-/// printer's defaults. `remarks` stand in brackets behind the values of attributes, by whose names
-/// they are found.
+/// printer's defaults; in a group of their own those that a panel has, without a line for them, and
+/// that the job carries in another way than one without any choice. `remarks` stand in brackets
+/// behind the values of attributes, by whose names they are found.
 QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, int copies,
                                   const QList<JobOption> &attributes,
                                   const QHash<QString, QString> &remarks = {});
 
-/// The summary as "Title: Value" lines.
+/// The summary as "Title: Value" lines, a heading as "Title:".
 QString summaryText(const QList<SummaryLine> &lines);
 
 } // namespace corvana

@@ -58,7 +58,7 @@ bool PrintTask::putsDocumentsTogether() const
 {
     if (m_request.documents.size() < 2)
         return false;
-    const PpdStream stream = streamOfPpd(m_opened->fetched.ppd->path);
+    const PpdStream stream = streamOfPpd(m_opened->session->ppd());
     return !stream.continues && (printsToFile() || !stream.isCutByServer);
 }
 

@@ -2272,6 +2272,10 @@
         <translation>%1, nicht sortiert</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>Außerdem im Auftrag</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 Zoll</translation>
     </message>

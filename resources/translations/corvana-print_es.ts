@@ -2272,6 +2272,10 @@
         <translation>%1, sin intercalar</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>También en el trabajo</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 pulgadas</translation>
     </message>

@@ -2272,6 +2272,10 @@
         <translation>%1, non assemblés</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>Également dans la tâche</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 pouces</translation>
     </message>

@@ -2272,6 +2272,10 @@
         <translation>%1, non fascicolate</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>Presenti anche nel lavoro</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 pollici</translation>
     </message>

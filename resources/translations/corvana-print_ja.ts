@@ -1329,6 +1329,10 @@
         <translation>部数</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>ジョブに含まれるその他の設定</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 インチ</translation>
     </message>

@@ -2271,6 +2271,10 @@
         <translation>%1(한 부씩 아님)</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>작업에 함께 들어 있는 설정</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2인치</translation>
     </message>

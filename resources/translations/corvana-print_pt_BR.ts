@@ -2272,6 +2272,10 @@
         <translation>%1, não agrupadas</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>Também no trabalho</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 polegadas</translation>
     </message>

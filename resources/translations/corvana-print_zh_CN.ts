@@ -1329,6 +1329,10 @@
         <translation>份数</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>作业中还包含</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 英寸</translation>
     </message>

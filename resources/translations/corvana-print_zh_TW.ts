@@ -2271,6 +2271,10 @@
         <translation>%1（不自動分頁）</translation>
     </message>
     <message>
+        <source>Also in the job</source>
+        <translation>工作中還包含</translation>
+    </message>
+    <message>
         <source>%1 × %2 inches</source>
         <translation>%1 × %2 英吋</translation>
     </message>

@@ -12,6 +12,7 @@
 #include "tests/dialog/support/WindowDriver.h"
 #include "tests/e2e/Monkey.h"
 #include "tests/e2e/QueueScene.h"
+#include "tests/e2e/WindowInvariants.h"
 #include "tests/mass/PpdCollection.h"
 #include "tests/support/TestPaths.h"
 
@@ -291,6 +292,33 @@ private Q_SLOTS:
             shortened(numberedActs(100), QDeadlineTimer(0), failsWith({50}, &trials));
         QCOMPARE(trials, 0);
         QCOMPARE(fewest.size(), 100);
+    }
+
+    // The panel has no lines for them then, and the job carries them.
+    void whatCountsForNothingBesideTheModeIsInTheSummaryAsInTheJob_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::addColumn<QString>("mode");
+        QTest::newRow("black and white") << u"QXMonoColor"_s << u"Mono"_s;
+        QTest::newRow("the application matches colors")
+            << u"AP_ColorMatchingMode"_s << u"AP_ApplicationColorMatching"_s;
+    }
+    void whatCountsForNothingBesideTheModeIsInTheSummaryAsInTheJob()
+    {
+        QFETCH(QString, keyword);
+        QFETCH(QString, mode);
+        CommandLine line = sampleDocument();
+        line.ppd = m_samples.constFirst();
+        WindowDriver window(requestFor(line));
+        QVERIFY(window.waitForPanels(2));
+        PrintTask &task = window.dialog().task();
+        for (const auto &[name, choice] : {std::pair{u"QXColorMatching"_s, u"None"_s},
+                                           {u"QXEnhanceBlkPrt"_s, u"ON"_s},
+                                           {u"QXSlowDrying"_s, u"ON"_s},
+                                           {keyword, mode}})
+            task.propose(name, choice);
+        window.showLastPage();
+        QCOMPARE(brokenInvariant(window.dialog()), QString());
     }
 
     void whateverIsDoneTheWindowHolds_data()

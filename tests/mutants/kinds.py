@@ -122,7 +122,7 @@ def _keeps_what_was_asked_for(case, end):
         return
     kept = _options_kept(case.folder / "home")
     for keyword, choice in dict(choice.split("=", 1) for choice in case.choices).items():
-        if keyword not in case.ppd.not_kept and kept.get(keyword) != choice:
+        if keyword not in case.ppd.not_kept and not case.ppd.is_the_same(keyword, kept.get(keyword), choice):
             yield f"kept {keyword}={kept.get(keyword)} instead of {choice}"
 
 

@@ -122,6 +122,13 @@ class LimitsTest(unittest.TestCase):
                 end = limits.run(["true"], dict(os.environ), case.folder)
                 self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
 
+    def test_a_number_that_is_no_choice_is_a_custom_value(self):
+        ppd = Ppd(PPD.replace(b"Ink Blue", b"Ink 3") + b'*Ink 7/Seven: "7"\n')
+        for kept, choice, same in [("Custom.7", "7", True), ("Custom.7", "6", False), ("7", "7", True),
+                                   ("Custom.3", "3", False), ("3", "3", True), (None, "7", False)]:
+            with self.subTest(kept=kept, choice=choice):
+                self.assertEqual(ppd.is_the_same("Ink", kept, choice), same)
+
     def test_choices_that_no_command_line_can_hold_are_not_asked_for(self):
         self.assertEqual(list(Ppd(PPD.replace(b"Ink Red", b"Ink R\0d")).codes["Ink"]), ["Blue"])
 

@@ -5,6 +5,7 @@ import re
 from mutation import mutate_text
 
 _OPTION = re.compile(r"^\*(?:JCL)?OpenUI\s+\*([^\s/:]+)", re.MULTILINE)
+_OPTION_LINES = re.compile(r"^\*(?:JCL)?OpenUI\s+\*([^\s/:]+).*?(?:^\*(?:JCL)?CloseUI|\Z)", re.MULTILINE | re.DOTALL)
 _DEFAULT = re.compile(r"^\*Default([^\s/:]+):\s*(\S+)", re.MULTILINE)
 _CHOICE = re.compile(r'^\*([^\s/:.%]+)[ \t]+([^\s/:]+)(?:/[^:\n]*)?:\s*"([^"]*)"', re.MULTILINE)
 
@@ -53,6 +54,9 @@ class Ppd:
         # What is no setting for a later job: a printer's parts, how soon it sleeps, and passwords.
         self.not_kept = {"QXSleepTime"}.union(*(_OPTION.findall(part) for part in _PARTS.findall(text)),
                                               _SECRET.findall(text))
+        # What stands behind the end of an option is none of its choices.
+        self.choices = {(keyword, choice) for lines in _OPTION_LINES.finditer(text)
+                        for keyword, choice, _ in _CHOICE.findall(lines.group()) if keyword == lines.group(1)}
         for keyword, choice, code in _CHOICE.findall(text):
             if keyword in keywords and "\0" not in keyword + choice:  # which no command line can hold
                 self.codes.setdefault(keyword, {}).setdefault(choice, []).append(code)
@@ -71,6 +75,10 @@ class Ppd:
         return [f"{keyword}={choice}" for keyword, choice in
                 dict(choice.split("=", 1) for choice in choices).items()
                 if (keyword, choice) not in self.defaults and not self._stands_in(keyword, choice, text)]
+
+    def is_the_same(self, keyword, kept, choice):
+        """A number that no choice has is the custom value of that number."""
+        return kept == choice or (kept == f"Custom.{choice}" and (keyword, choice) not in self.choices)
 
     def _stands_in(self, keyword, choice, text):
         codes = list(self.codes.get(keyword, {}).get(choice, []))

@@ -115,9 +115,14 @@ void SummaryPage::setLines(const QList<SummaryLine> &lines, const ShownChanges &
 void SummaryPage::showLines()
 {
     QList<SummaryLine> shown = m_lines;
-    if (m_onlyChanged->isChecked())
-        shown.removeIf(
-            [&](const SummaryLine &line) { return !m_changes.settings.contains(line.keyword); });
+    if (m_onlyChanged->isChecked()) {
+        shown.removeIf([&](const SummaryLine &line) {
+            return !line.isHeading && !m_changes.settings.contains(line.keyword);
+        });
+        if (!shown.isEmpty() && shown.constLast().isHeading)
+            shown.removeLast();
+    }
+    m_table->clearSpans();
     m_table->setRowCount(static_cast<int>(shown.size()));
     for (int row = 0; row < m_table->rowCount(); ++row)
         setRow(row, shown.at(row));
@@ -139,6 +144,12 @@ void SummaryPage::setRow(int row, const SummaryLine &line)
     }
     m_table->setItem(row, 0, title);
     m_table->setItem(row, 1, new QTableWidgetItem(line.value));
+    if (line.isHeading) {
+        QFont bold = m_table->font();
+        bold.setBold(true);
+        title->setFont(bold);
+        m_table->setSpan(row, 0, 1, 2);
+    }
 }
 
 bool SummaryPage::goToLine(int row)

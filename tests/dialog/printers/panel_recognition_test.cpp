@@ -165,6 +165,19 @@ private Q_SLOTS:
         QCOMPARE(panelRule(file, {u"lobby"_s}), PanelRule::ByPpd);
     }
 
+    // A rule behind them counts all the same.
+    void aFileThatIsNoneOfRulesIsNotToldLineByLine()
+    {
+        const QTemporaryDir folder;
+        const QString file = writeFile(folder.filePath(u"panels.conf"_s),
+                                       QByteArray("maybe\n").repeated(5000) + "none lobby\n");
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        for (int line = 0; line < 100; ++line)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u" no rule: maybe$"_s));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"more lines that are no rules$"_s));
+        QCOMPARE(panelRule(file, {u"lobby"_s}), PanelRule::None);
+    }
+
     void withoutRulesThePpdDecides()
     {
         QCOMPARE(panelRule(u"/nonexistent/panels.conf"_s, {u"lobby"_s}), PanelRule::ByPpd);

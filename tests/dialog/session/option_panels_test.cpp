@@ -6,6 +6,7 @@
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/PanelHost.h"
+#include "dialog/session/Summary.h"
 #include "platform/pde/PDEPlugIn.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -292,6 +293,53 @@ private Q_SLOTS:
                      .ok());
         QCOMPARE(m_session->snapshot(), before);
         QCOMPARE(jobOptions(*m_session, m_plugIn->jobValues(), {}), job);
+    }
+
+    // Beside the mode these do not count; the printer is told of them all the same. Effects that
+    // are not in force are in no job, whatever was set.
+    void whatTheColorPanelHasNoLineForIsToldAsTheJobHasIt_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("told");
+        const QString black = u"QXMonoColor=Mono"_s;
+        const QString application = u"AP_ColorMatchingMode=AP_ApplicationColorMatching"_s;
+        const QStringList all{u"QXColorMatching=Vivid"_s, u"QXEnhanceBlkPrt=ON"_s,
+                              u"QXSlowDrying=ON"_s};
+        QTest::newRow("black and white, none")
+            << black << QStringList{u"QXColorMatching=None"_s} << QStringList{u"None"_s};
+        QTest::newRow("black and white, the default") << black << QStringList{} << QStringList{};
+        QTest::newRow("black and white, others that have their lines")
+            << black << all << QStringList{u"Vivid"_s};
+        QTest::newRow("the application matches colors")
+            << application << all << QStringList{u"On"_s, u"Vivid"_s, u"On"_s};
+        QTest::newRow("effects in color, then black and white")
+            << black << QStringList{u"QXRed=5"_s, u"QXBrightness=3"_s} << QStringList{};
+        QTest::newRow("effects, then the application matches colors")
+            << application << QStringList{u"QXRed=5"_s, u"QXBrightness=3"_s} << QStringList{};
+    }
+    void whatTheColorPanelHasNoLineForIsToldAsTheJobHasIt()
+    {
+        QFETCH(QString, mode);
+        QFETCH(QStringList, options);
+        QFETCH(QStringList, told);
+        m_panels->bringUp();
+        QVERIFY(options.isEmpty() || apply(options).ok());
+        QVERIFY(apply({mode}).ok());
+        const QList<SummaryLine> lines = sessionSummary(*m_session, *m_panels, 1, {});
+        qsizetype group = 0;
+        while (group < lines.size() && !lines.at(group).isHeading)
+            ++group;
+        QStringList values;
+        for (const SummaryLine &line : lines.mid(group + 1)) {
+            values += line.value;
+            const QString value = inJob(line.keyword);
+            const ppd_option_t *option = ppdOption(m_session->ppd(), line.keyword);
+            QVERIFY(option && value != ppdKeyword(option->defchoice));
+            QCOMPARE(ppdText(ppdChoice(ppdOption(m_session->ppd(), line.keyword), value)->text),
+                     line.value);
+        }
+        QCOMPARE(values, told);
     }
 
     void theJobIsTheSameWhetherPagesWereVisitedOrNot()

@@ -90,12 +90,74 @@ private Q_SLOTS:
         FakePlugIn plugIn({u"A"_s, u"B"_s});
         PanelHost panels(*session, &plugIn, m_presenter);
         plugIn.panels.at(0)->supported = QStringList{u"Tray"_s};
-        plugIn.panels.at(0)->summaryLines = {{u"Paper From"_s, u"Below"_s}};
+        plugIn.panels.at(0)->summaryLines = {{u"Tray"_s, u"Below"_s}};
         const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
         session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
         session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
         QCOMPARE(sessionSummary(*session, panels, 1, {}),
                  (before + QList<SummaryLine>{{u"Boost"_s, u"On"_s}}));
+    }
+
+    // It does not count just now; the job carries it all the same.
+    void whatAPanelHasNoLineForIsToldBehindAllOthersWhenItWasChosen()
+    {
+        const auto session = sessionFor(smallPrinter());
+        FakePlugIn plugIn({u"A"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->supported = QStringList{u"Tray"_s, u"Media"_s, u"Duplex"_s};
+        plugIn.panels.at(0)->summaryLines = {{u"Media"_s, u"Plain Paper"_s}};
+        session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
+        const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
+        QCOMPARE(before.constLast(), (SummaryLine{u"Boost"_s, u"On"_s}));
+        session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
+        const QList<SummaryLine> lines = sessionSummary(*session, panels, 1, {});
+        QCOMPARE(lines, (before + QList<SummaryLine>{{u"Also in the job"_s, {}},
+                                                     {u"Tray"_s, u"Lower Tray"_s}}));
+        QVERIFY(lines.at(lines.size() - 2).isHeading && !lines.constLast().isHeading);
+        QCOMPARE(lines.constLast().keyword, u"Tray"_s);
+    }
+
+    // The plug-in's own value takes the place of the mark.
+    void whatAPanelHasNoLineForIsToldAsTheJobHasIt_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("marked");
+        QTest::addColumn<QString>("told"); // null for none
+        QTest::newRow("a choice") << u"6"_s << u"1"_s << u"Six"_s;
+        QTest::newRow("no choice") << u"7"_s << u"1"_s << u"7"_s;
+        QTest::newRow("custom") << u"Custom.7"_s << u"1"_s << u"7"_s;
+        QTest::newRow("its default") << u"1"_s << u"6"_s << QString();
+    }
+    void whatAPanelHasNoLineForIsToldAsTheJobHasIt()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, marked);
+        QFETCH(QString, told);
+        const auto session = sessionFor(
+            PpdBuilder().option("Strength", "Strength", "1", {{"1", "One"}, {"6", "Six"}}));
+        FakePlugIn plugIn({u"A"_s});
+        FakeJobValues values;
+        plugIn.values = &values;
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->supported = QStringList{u"Strength"_s};
+        session->change(u"Strength"_s, marked, Origin::Dialog);
+        session->printSettings().setValue(u"fake.Strength"_s, value);
+        QCOMPARE(jobOptions(*session, &values, {}).constLast(), (JobOption{u"Strength"_s, value}));
+        const SummaryLine last = sessionSummary(*session, panels, 1, {}).constLast();
+        QCOMPARE(last, told.isNull() ? (SummaryLine{u"Paper Size"_s, u"A4"_s})
+                                     : (SummaryLine{u"Strength"_s, told}));
+    }
+
+    void aSecretThatAPanelHasNoLineForIsNotTold()
+    {
+        const auto session = sessionFor(PpdBuilder().option("AccessCode", "Access", "None",
+                                                            {{"None", "None"}, {"1234", "1234"}}));
+        FakePlugIn plugIn({u"A"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->supported = QStringList{u"AccessCode"_s};
+        session->change(u"AccessCode"_s, u"1234"_s, Origin::Dialog);
+        QCOMPARE(sessionSummary(*session, panels, 1, {}).constLast(),
+                 (SummaryLine{u"Access"_s, u"••••••"_s}));
     }
 
     void theAttributesOfTheJobAreTold()
@@ -210,6 +272,8 @@ private Q_SLOTS:
     {
         QCOMPARE(summaryText({{u"Copies"_s, u"1"_s}, {u"Two-Sided"_s, u"Off"_s}}),
                  u"Copies: 1\nTwo-Sided: Off\n"_s);
+        QCOMPARE(summaryText({{u"Also in the job"_s, {}, {}, true}, {u"Tray"_s, u"Lower"_s}}),
+                 u"Also in the job:\nTray: Lower\n"_s);
         QCOMPARE(summaryText({}), QString());
     }
 };

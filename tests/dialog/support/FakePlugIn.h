@@ -90,7 +90,9 @@ public:
     QList<std::shared_ptr<PDEPanel>>
     PDEPanelsForType_withHostInfo(const QString &type,
                                   const std::shared_ptr<PDEPluginCallback> &host) override;
-    PDEJobValues *jobValues() override { return nullptr; }
+    /// What jobValues() answers. Ownership: borrowed.
+    PDEJobValues *values = nullptr;
+    PDEJobValues *jobValues() override { return values; }
 
 private:
     QStringList m_names;

@@ -2,6 +2,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "dialog/job/PpdFilters.h"
+#include "dialog/task/OpenedPrinter.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -181,6 +183,24 @@ private Q_SLOTS:
         task.settings().askForCopies(3, JobSettings::By::User);
         QCOMPARE(summary().at(1), u"Sheets: 2 pages × 3 copies = 6 sheets"_s);
         QCOMPARE(task.phase(), Phase::Ready);
+    }
+
+    // Whoever changes a setting asks for them again and again, and a large PPD takes long to be
+    // read.
+    void theSheetsOfSeveralDocumentsAreKnownWithoutReadingThePpdAgain()
+    {
+        PrintRequest documents = request({{kA4, kA4}, {kA4}});
+        documents.printers = {m_scene->printer(
+            u"pdf"_s, samplePpd(5) + "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n")};
+        PrintTask &task = m_scene->open(documents);
+        QVERIFY(!streamOfPpd(task.opened()->session->ppd()).continues);
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        const QStringList known = summary();
+        QVERIFY2(known.at(1).contains(u"3 pages"_s), qPrintable(known.at(1)));
+        QVERIFY(QFile::remove(task.opened()->fetched.ppd->path));
+        QCOMPARE(summary(), known);
     }
 
     // A preview knows the sheets, dims the older ones while newer ones are made, and says why there

@@ -369,6 +369,33 @@ private Q_SLOTS:
         QVERIFY(summaryTitles().size() >= all.size() - 1);
     }
 
+    // What black and white leaves without a line of its panel stands under a title of its own.
+    void aTitleInTheSummaryStandsAboveLinesOnly()
+    {
+        openSample();
+        QVERIFY(m_window->waitForPanels(2));
+        task().propose(u"QXColorMatching"_s, u"Vivid"_s);
+        task().propose(u"QXMonoColor"_s, u"Mono"_s);
+        const auto whole = m_window->summaryLines();
+        const auto *table = child<QTableWidget>(u"summary"_s);
+        const int last = table->rowCount() - 1;
+        QCOMPARE(whole.last(), (std::pair{u"Color Matching"_s, u"Vivid"_s}));
+        QCOMPARE(whole.at(last - 1).first, u"Also in the job"_s);
+        QCOMPARE(table->columnSpan(last - 1, 0), 2);
+        QVERIFY(table->item(last - 1, 0)->font().bold() && !table->item(last, 0)->font().bold());
+        auto *only = child<QCheckBox>(u"onlyChanged"_s);
+        only->setChecked(true);
+        QVERIFY(summaryTitles().endsWith(u"Color Matching"_s));
+        QVERIFY(summaryTitles().contains(u"Also in the job"_s));
+        QCOMPARE(table->columnSpan(table->rowCount() - 2, 0), 2);
+        task().propose(u"QXColorMatching"_s, u"Normal"_s);
+        QVERIFY(!summaryTitles().contains(u"Also in the job"_s));
+        only->setChecked(false);
+        QVERIFY(!summaryTitles().contains(u"Also in the job"_s));
+        for (int row = 0; row < table->rowCount(); ++row)
+            QCOMPARE(table->columnSpan(row, 0), 1);
+    }
+
     void aLineOfTheSummaryLeadsToItsControl()
     {
         openSample();
