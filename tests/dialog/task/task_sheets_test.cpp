@@ -191,7 +191,8 @@ private Q_SLOTS:
     {
         PrintRequest documents = request({{kA4, kA4}, {kA4}});
         documents.printers = {m_scene->printer(
-            u"pdf"_s, samplePpd(5) + "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n")};
+            u"pdf"_s,
+            samplePpd(5) + "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n")};
         PrintTask &task = m_scene->open(documents);
         QVERIFY(!streamOfPpd(task.opened()->session->ppd()).continues);
         QSignalSpy counted(&task, &PrintTask::sheetsCounted);
