@@ -63,8 +63,9 @@ configure() {
     [ $status -eq 0 ] && touch "$folder/.configured"
 }
 
-# build PRESET TARGET: brings TARGET of build/PRESET up to date: "product" is what users get, "all" the
-# tests as well. Two of these at once would spoil each other's files, so the second waits.
+# build PRESET TARGET: brings TARGET of build/PRESET up to date: "product" is the program, "installation"
+# all that a package has, "all" the tests as well. Two of these at once would spoil each other's files, so
+# the second waits.
 build() {
     local preset=$1 target=$2 folder=$project_root/build/$1 pending
     mkdir -p "$project_root/build" || return

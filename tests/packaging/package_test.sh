@@ -149,8 +149,22 @@ theProgramThatDrawsPagesKnowsNoQt() {
 theManualAndTheChangelogAreCompressed() {
     dpkg-deb --extract "$package" root
     zcat root/usr/share/man/man1/corvana-print.1.gz | grep -q '^\.TH ' || fail 'no manual'
+    find root/usr/share/man -type f ! -name '*.gz' >"$work/out"
+    expect_nothing 'not compressed:' "$(cat "$work/out")"
     zcat root/usr/share/doc/corvana-print/changelog.gz | grep -q '^corvana-print (' ||
         fail 'no changelog'
+}
+
+theManualIsInEveryLanguageOfTheProgram() {
+    local language count=0
+    dpkg-deb --extract "$package" root
+    for language in root/usr/share/corvana-print/translations/*.qm; do
+        language=$(basename "$language" .qm) count=$((count + 1))
+        zcat "root/usr/share/man/${language#corvana-print_}"/man{1/corvana-print.1,5/corvana-print-policy.5}.gz >"$work/out" ||
+            fail "no manual for $language"
+        [ "$(grep -c '^\.TH ' "$work/out")" -eq 2 ] || fail "no manual for $language"
+    done
+    [ $count -ge 9 ] || fail 'languages were not found'
 }
 
 theSameBuildGivesTheSamePackage() {

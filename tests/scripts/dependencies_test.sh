@@ -232,6 +232,15 @@ test_anInstallationThatChangesNothingIsReported() {
     expect_output 'still these are missing'
 }
 
+test_whatPackagesAreMadeWithIsNotNeededByTheProgram() {
+    not_installed dpkg-dev po4a
+    start run
+    expect_status 0
+    expect_no_call apt-get
+    expect_call '--target product'
+    expect_no_call '--target installation'
+}
+
 test_testPackagesAreOnlyNeededByTheTests() {
     not_installed xvfb xdotool
     start run

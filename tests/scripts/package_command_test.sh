@@ -26,7 +26,7 @@ package() {
 test_theReleaseIsBuiltAndPacked() {
     package
     expect_status 0
-    expect_order 'cmake --build --preset release' 'make-package'
+    expect_order 'cmake --build --preset release --target installation' 'make-package'
     expect_call "make-package [$checkout/build/release] [$checkout/build/package]"
 }
 
@@ -37,9 +37,9 @@ test_onlyThePathOfThePackageIsWrittenToTheOutput() {
 }
 
 test_whatPackagesAreMadeWithIsInstalled() {
-    not_installed dpkg-dev
+    not_installed dpkg-dev po4a
     package
-    expect_call '--no-remove dpkg-dev'
+    expect_call '--no-remove dpkg-dev po4a'
 }
 
 test_whatOnlyPrintersAndTestsNeedIsNotInstalled() {

@@ -78,7 +78,7 @@ test_theScriptsAreCleanForShellcheck() {
     cd "$source_root" || exit
     shellcheck -x -a run test package .ci/run tests/scripts/*_test.sh resources/pictures/make-pictures \
         resources/pictures/make-reference-pictures tests/resources/reference_pictures_test.sh \
-        packaging/debian/make-package tests/packaging/*_test.sh >"$state/out" 2>&1 ||
+        packaging/debian/make-package packaging/man/make-pages tests/packaging/*_test.sh >"$state/out" 2>&1 ||
         fail 'shellcheck found something'
     shellcheck -s bash packaging/completion/corvana-print.bash >"$state/out" 2>&1 ||
         fail 'shellcheck found something'
