@@ -1,5 +1,9 @@
 #include "dialog/app/CommandLine.h"
 
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include "dialog/app/CommandLineHelp.h"
 #include "dialog/app/CommandLineOptions.h"
 #include "dialog/printers/DevicePrinter.h"
 #include "dialog/server/ServerAddress.h"
@@ -19,13 +23,31 @@ constexpr int kLongestWait = 365 * 24 * 60 * 60;
 // No shell opens more.
 constexpr int kHighestDescriptor = 1023;
 
-constexpr QStringView kMissingDocument = u"the name of a document is missing.";
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+// What Qt's parser says. It looks these texts up in a context of its own, where it finds ours
+// whether Qt's translations are installed or not.
+[[maybe_unused]] constexpr const char *kTextsOfParser[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'."),
+};
+
+QString documentIsMissing()
+{
+    return Texts::tr("the name of a document is missing.");
+}
 
 ParsedCommandLine notUnderstood(const QString &what)
 {
     return {std::nullopt,
-            u"corvana-print: %1\n%2\n"_s.arg(terminalText(what),
-                                             u"\"corvana-print --help\" lists what can be said."_s),
+            u"corvana-print: %1\n%2\n"_s.arg(
+                terminalText(what),
+                Texts::tr("\"%1\" lists what can be said.").arg(u"corvana-print --help"_s)),
             ExitStatus::NotUnderstood};
 }
 
@@ -40,9 +62,9 @@ std::optional<int> readNumber(const QCommandLineParser &parser, const QCommandLi
     if (isNumber && number >= least && number <= most)
         return number;
     const QString name = option.names().constFirst();
-    *problem = u"%1 %2: a number from %3 to %4 was expected."_s.arg(
-        (name.size() == 1 ? u"-"_s : u"--"_s) + name, parser.value(option), QString::number(least),
-        QString::number(most));
+    *problem = Texts::tr("%1 %2: a number from %3 to %4 was expected.")
+                   .arg((name.size() == 1 ? u"-"_s : u"--"_s) + name, parser.value(option),
+                        QString::number(least), QString::number(most));
     return std::nullopt;
 }
 
@@ -68,19 +90,20 @@ QList<JobOption> readSwitches(const QCommandLineParser &parser, const CommandLin
     if (parser.isSet(options.pages)) {
         const QString pages = parser.value(options.pages).remove(u' ');
         if (!jobAttribute(kPageRangesAttribute)->accepts(pages))
-            *problem = u"-P \"%1\": pages and ranges in ascending order were expected, such as "
-                       "1-4,7,9-."_s.arg(parser.value(options.pages));
+            *problem = Texts::tr("-P \"%1\": pages and ranges in ascending order were expected, "
+                                 "such as 1-4,7,9-.")
+                           .arg(parser.value(options.pages));
         switches += {kPageRangesAttribute, pages};
     }
     if (parser.isSet(options.hold)) {
         const QString when = parser.value(options.hold);
         const auto hold = readHold(when);
         if (when == "resume"_L1 || when == "restart"_L1)
-            *problem =
-                u"-H %1 is for a job that is in a queue already: use lp -i JOB -H %1."_s.arg(when);
+            *problem = Texts::tr("-H %1 is for a job that is in a queue already: use %2.")
+                           .arg(when, u"lp -i JOB -H "_s + when);
         else if (!hold)
-            *problem = u"-H \"%1\": hold, immediate, %2 was expected."_s.arg(
-                when, jobAttribute(kJobHoldUntilAttribute)->allowed.text());
+            *problem = Texts::tr("-H \"%1\": hold, immediate, %2 was expected.")
+                           .arg(when, jobAttribute(kJobHoldUntilAttribute)->allowed.text());
         else
             switches += *hold;
     }
@@ -127,10 +150,11 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser,
     if (line.checkPolicy && !line.documents.isEmpty() && line.printer.isEmpty())
         line.printer = line.documents.takeFirst();
     if (line.checkPolicy && !line.documents.isEmpty())
-        *problem = u"--check-policy takes one printer and no document."_s;
+        *problem = Texts::tr("--check-policy takes one printer and no document.");
     if (parser.isSet(options.server) && !ServerAddress::parse(line.server))
-        *problem = u"--server \"%1\": HOST, HOST:PORT or the path of a socket was expected."_s.arg(
-            line.server);
+        *problem =
+            Texts::tr("--server \"%1\": HOST, HOST:PORT or the path of a socket was expected.")
+                .arg(line.server);
     line.copies = readNumber(parser, options.copies, 1, kMostCopies, problem);
     line.switches = readSwitches(parser, options, problem);
     line.wait = readNumber(parser, options.wait, 1, kLongestWait, problem);
@@ -139,14 +163,15 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser,
     if (parser.isSet(options.onAlert)) {
         line.onAlert = alertPolicy(parser.value(options.onAlert));
         if (!line.onAlert)
-            *problem = u"--on-alert %1: print, hold or refuse was expected."_s.arg(
-                parser.value(options.onAlert));
+            *problem = Texts::tr("--on-alert %1: print, hold or refuse was expected.")
+                           .arg(parser.value(options.onAlert));
     }
     if (parser.isSet(options.format) && !line.json && parser.value(options.format) != "text"_L1)
-        *problem = u"--format %1: json or text was expected."_s.arg(parser.value(options.format));
+        *problem =
+            Texts::tr("--format %1: json or text was expected.").arg(parser.value(options.format));
     if (parser.isSet(options.mail))
-        *problem = u"-m: no mail is sent. What became of the job is said at the end, and by the "
-                   "exit status."_s;
+        *problem = Texts::tr("-m: no mail is sent. What became of the job is said at the end, and "
+                             "by the exit status.");
     return problem->isEmpty() ? std::optional(line) : std::nullopt;
 }
 
@@ -159,34 +184,44 @@ QString emptyName(const QCommandLineParser &parser, const CommandLineOptions &op
           &options.saveInstance}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
-            return u"%1 \"\": %2 is missing."_s.arg((name.size() == 1 ? u"-"_s : u"--"_s) + name,
-                                                    option->valueName());
+            return Texts::tr("%1 \"\": %2 is missing.")
+                .arg((name.size() == 1 ? u"-"_s : u"--"_s) + name, option->valueName());
     }
     return {};
+}
+
+QString cannotBeCombined(const QString &one, const QString &other)
+{
+    return Texts::tr("%1 and %2 cannot be combined.").arg(one, other);
+}
+
+QString onlyWithoutWindow(const QString &option)
+{
+    return Texts::tr("%1 is for runs without a window (--no-dialog).").arg(option);
 }
 
 // Two switches of which the one says the opposite of the other.
 QString contradictionIn(const CommandLine &line)
 {
     if (line.wait && line.noWait)
-        return u"--wait and --no-wait cannot be combined."_s;
+        return cannotBeCombined(u"--wait"_s, u"--no-wait"_s);
     if (!line.passwordFile.isEmpty() && line.passwordDescriptor)
-        return u"--password-file and --password-fd cannot be combined."_s;
+        return cannotBeCombined(u"--password-file"_s, u"--password-fd"_s);
     if (line.passwordDescriptor == 0 && line.documents.contains(kStandardStream))
-        return u"standard input cannot be the document and the password."_s;
+        return Texts::tr("standard input cannot be the document and the password.");
     if (!line.savePreset.isEmpty() && !line.documents.isEmpty())
-        return u"--save-preset prints nothing: no document can be named."_s;
+        return Texts::tr("--save-preset prints nothing: no document can be named.");
     if (line.json && !line.noDialog)
-        return u"--format=json is for runs without a window (--no-dialog)."_s;
+        return onlyWithoutWindow(u"--format=json"_s);
     if (!line.instance.isEmpty() && !line.documents.isEmpty() && !line.noDialog)
-        return u"--save-instance is for runs without a window (--no-dialog)."_s;
+        return onlyWithoutWindow(u"--save-instance"_s);
     if (line.output != kStandardStream)
         return {};
     if (line.json)
-        return u"--format=json and --output - cannot be combined: both write to standard "
-               "output."_s;
+        return Texts::tr("%1 and %2 cannot be combined: both write to standard output.")
+            .arg(u"--format=json"_s, u"--output -"_s);
     if (!line.noDialog)
-        return u"--output - is for runs without a window (--no-dialog)."_s;
+        return onlyWithoutWindow(u"--output -"_s);
     return {};
 }
 
@@ -207,17 +242,18 @@ bool needsDocument(const CommandLine &line)
 QString problemOf(const CommandLine &line)
 {
     if (isDeviceUri(line.printer) && !deviceOfUri(line.printer))
-        return u"-d \"%1\": a URI like ipp://HOST/ipp/print was expected."_s.arg(line.printer);
+        return Texts::tr("-d \"%1\": a URI like ipp://HOST/ipp/print was expected.")
+            .arg(line.printer);
     for (const QString &option : line.options) {
         if (!isWellFormed(option))
-            return u"-o \"%1\": KEY=VALUE was expected."_s.arg(option);
+            return Texts::tr("-o \"%1\": KEY=VALUE was expected.").arg(option);
     }
     if (line.documents.count(u"-"_s) > 1)
-        return u"standard input (-) can be read once only."_s;
+        return Texts::tr("standard input (-) can be read once only.");
     if (const QString contradiction = contradictionIn(line); !contradiction.isEmpty())
         return contradiction;
     if ((line.documents.isEmpty() && needsDocument(line)) || line.documents.contains(QString()))
-        return kMissingDocument.toString();
+        return documentIsMissing();
     return {};
 }
 
@@ -225,27 +261,18 @@ QString problemOf(const CommandLine &line)
 
 ParsedCommandLine missingDocument()
 {
-    return notUnderstood(kMissingDocument.toString());
+    return notUnderstood(documentIsMissing());
 }
 
 ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiven)
 {
     const CommandLineOptions options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"Prints a document with the settings of its printer, in a dialog or without one."_s);
-    options.addTo(parser);
-    parser.addPositionalArgument(
-        u"FILE"_s,
-        u"The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several "
-        "are one job."_s,
-        u"FILE..."_s);
+    parser.addOptions(options.all());
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
     if (parser.isSet(options.help))
-        return {std::nullopt,
-                parser.helpText().replace(u"<executable_name>"_s, u"corvana-print"_s) +
-                    exitStatusHelp()};
+        return {std::nullopt, commandLineHelp(options)};
     if (parser.isSet(options.version))
         return {std::nullopt, u"corvana-print %1\n"_s.arg(QLatin1StringView(CORVANA_VERSION))};
 

@@ -121,11 +121,26 @@ bool hasWindows()
     return QGuiApplication::platformName() != "offscreen"_L1;
 }
 
+void installOwnTranslations(QCoreApplication &application)
+{
+    installTranslations(application, QCoreApplication::applicationDirPath() +
+                                         u"/../share/corvana-print/translations"_s);
+}
+
 // What a command line asks for that prints nothing, or why it cannot be understood.
 int writeInstead(const ParsedCommandLine &parsed)
 {
     QTextStream(parsed.exitStatus == ExitStatus::Done ? stdout : stderr) << parsed.text;
     return int(parsed.exitStatus);
+}
+
+// The same where there is no application yet: translations need one, and it needs no display. Who
+// prints does not wait for it.
+int writeInstead(int argc, char **argv, const QStringList &arguments, bool inputIsGiven)
+{
+    QCoreApplication application(argc, argv);
+    installOwnTranslations(application);
+    return writeInstead(parseCommandLine(arguments, inputIsGiven));
 }
 
 int runDialog(const PrintRequest &request)
@@ -149,9 +164,10 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments += nameOfBytes(argv[i]);
-    const ParsedCommandLine parsed = parseCommandLine(arguments, isStandardInputGiven());
+    const bool inputIsGiven = isStandardInputGiven();
+    const ParsedCommandLine parsed = parseCommandLine(arguments, inputIsGiven);
     if (!parsed.commandLine)
-        return writeInstead(parsed);
+        return writeInstead(argc, argv, arguments, inputIsGiven);
     const CommandLine &line = *parsed.commandLine;
 
     // Before there is a second thread: libcups reads it in each, and has done so in this one.
@@ -172,8 +188,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"corvana-print"_s);
     QApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 
-    installTranslations(application, QApplication::applicationDirPath() +
-                                         u"/../share/corvana-print/translations"_s);
+    installOwnTranslations(application);
 
     if (line.checkDisplay)
         return hasWindows() ? 0 : 1;

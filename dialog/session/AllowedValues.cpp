@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -29,6 +30,19 @@ std::optional<bool> truthOf(const QString &value)
     if (word == "no"_L1 || word == "off"_L1)
         return false;
     return std::nullopt;
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("JobAttributes", text);
+}
+
+// Digits as they are to be typed.
+QString rangeText(const AllowedValues::Range &range)
+{
+    const QString limits = translated(QT_TRANSLATE_NOOP("JobAttributes", "%1 to %2"))
+                               .arg(QString::number(range.least), QString::number(range.most));
+    return range.unit.isEmpty() ? limits : limits + u' ' + translated(range.unit.data());
 }
 
 } // namespace
@@ -66,11 +80,13 @@ QString AllowedValues::text() const
         parts += word.meaning.isEmpty() ? QString(word.value)
                                         : u"%1 (%2)"_s.arg(word.value, word.meaning);
     if (range)
-        parts += u"%1 to %2 %3"_s
-                     .arg(QString::number(range->least), QString::number(range->most), range->unit)
-                     .trimmed();
-    if (form)
-        parts += (parts.isEmpty() ? QString() : u"or "_s) + form->text;
+        parts += rangeText(*range);
+    if (form) {
+        const QString text = translated(form->text.data());
+        parts += parts.isEmpty()
+                     ? text
+                     : translated(QT_TRANSLATE_NOOP("JobAttributes", "or %1")).arg(text);
+    }
     return parts.join(u", "_s);
 }
 

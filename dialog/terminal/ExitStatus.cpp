@@ -1,23 +1,14 @@
 #include "dialog/terminal/ExitStatus.h"
 
-namespace corvana {
+#include <QCoreApplication>
 
-using namespace Qt::StringLiterals;
+namespace corvana {
 
 namespace {
 
-// The help is written before there is an application, whose translations would be needed for
-// anything but English.
-constexpr struct
+struct Texts
 {
-    ExitStatus status;
-    QLatin1StringView meaning;
-} kMeanings[] = {
-    {ExitStatus::Done, "printed, sent, or in the queue with the reason why it waits there"_L1},
-    {ExitStatus::Failed, "refused, failed or canceled"_L1},
-    {ExitStatus::NotUnderstood, "a command line that cannot be understood"_L1},
-    {ExitStatus::Unknown, "sent, and what became of it is not known"_L1},
-    {ExitStatus::StillThere, "the time of --wait is over; the job is still in the queue"_L1},
+    Q_DECLARE_TR_FUNCTIONS(ExitStatus)
 };
 
 } // namespace
@@ -42,12 +33,17 @@ ExitStatus exitStatusOf(const JobOutcome &outcome)
     return ExitStatus::Failed;
 }
 
-QString exitStatusHelp()
+QList<ExitStatusMeaning> exitStatusMeanings()
 {
-    QString help = u"\nExit status:\n"_s;
-    for (const auto &[status, meaning] : kMeanings)
-        help += u"  %1    %2\n"_s.arg(QString::number(int(status)), meaning);
-    return help + u"  128 and a signal's number: ended by that signal\n"_s;
+    return {
+        {ExitStatus::Done,
+         Texts::tr("printed, sent, or in the queue with the reason why it waits there")},
+        {ExitStatus::Failed, Texts::tr("refused, failed or canceled")},
+        {ExitStatus::NotUnderstood, Texts::tr("a command line that cannot be understood")},
+        {ExitStatus::Unknown, Texts::tr("sent, and what became of it is not known")},
+        {ExitStatus::StillThere,
+         Texts::tr("the time of --wait is over; the job is still in the queue")},
+    };
 }
 
 } // namespace corvana

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include "dialog/job/JobOutcome.h"
@@ -18,7 +19,13 @@ enum class ExitStatus {
 
 ExitStatus exitStatusOf(const JobOutcome &outcome);
 
-/// All of them, for the help: a line each.
-QString exitStatusHelp();
+struct ExitStatusMeaning
+{
+    ExitStatus status;
+    QString meaning; ///< in the user's language
+};
+
+/// All of them, for the help.
+QList<ExitStatusMeaning> exitStatusMeanings();
 
 } // namespace corvana

@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>der Name eines Dokuments fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot; zählt auf, was gesagt werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2: Erwartet wurde eine Zahl von %3 bis %4.</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;: Erwartet wurden Seiten und Bereiche in aufsteigender Folge, etwa 1-4,7,9-.</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 ist für einen Auftrag, der schon in einer Warteschlange ist: Verwenden Sie %2.</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;: Erwartet wurde hold, immediate, %2.</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy nimmt einen Drucker und kein Dokument.</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;: Erwartet wurde HOST, HOST:PORT oder der Pfad eines Sockets.</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1: Erwartet wurde print, hold oder refuse.</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1: Erwartet wurde json oder text.</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m: Es wird keine E-Mail gesendet. Was aus dem Auftrag wurde, steht am Ende und im Exit-Status.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;: %2 fehlt.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 und %2 lassen sich nicht kombinieren.</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 ist für Läufe ohne Fenster (--no-dialog).</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>die Standardeingabe kann nicht zugleich das Dokument und das Passwort sein.</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset druckt nichts: Es kann kein Dokument angegeben werden.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 und %2 lassen sich nicht kombinieren: Beide schreiben auf die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;: Erwartet wurde eine URI wie ipp://HOST/ipp/print.</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;: Erwartet wurde KEY=VALUE.</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>die Standardeingabe (-) kann nur einmal gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>Druckt ein Dokument mit den Einstellungen seines Druckers, in einem Dialog oder ohne ihn.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>Das Dokument: PDF, PostScript, Text, PNG oder JPEG; - ist die Standardeingabe. Mehrere sind ein Auftrag.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Exit-Status:</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 und die Nummer eines Signals: durch dieses Signal beendet</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>Druckt auf dem Drucker NAME: einer Warteschlange, einer Instanz NAME/INSTANCE oder einem IPP-Drucker ipp://HOST/PATH.</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>Verwendet die Warteschlangen des Druckservers HOST statt derer des üblichen.</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>Spricht nur verschlüsselt mit dem Druckserver.</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>Druckt als Benutzer USER.</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>Nimmt das Passwort aus der ersten Zeile der Datei FILE, die niemand außer ihrem Besitzer lesen darf; niemand wird gefragt.</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>Dasselbe aus dem offenen Dateideskriptor N (0 ist die Standardeingabe).</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>Öffnet geschützte PDF-Dokumente mit dem Passwort in der ersten Zeile der Datei FILE, die niemand außer ihrem Besitzer lesen darf.</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>Druckt für den Drucker, den die PPD FILE beschreibt.</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>Schreibt die druckfertigen Daten in die Datei FILE; - ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>Bietet die Musterdrucker an.</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>Führt die Drucker auf und beendet sich.</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>Beginnt mit den Einstellungen der Voreinstellung NAME; -o hat Vorrang.</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>Führt die Voreinstellungen auf und beendet sich.</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>Speichert die Einstellungen des Druckers, darunter die von -o, als Voreinstellung NAME und beendet sich. Eine Voreinstellung dieses Namens wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>Sagt, was die Richtlinie des Administrators festlegt, und wo, für den Drucker, der dahinter oder mit -d genannt ist; root darf mit -U einen anderen Benutzer nennen. Der Exit-Status ist 1, wenn etwas davon nicht verwendet wird.</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>Druckt einen Auftrag mit vielen Blättern, ohne zu fragen.</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>Setzt eine Option des Druckers oder des Auftrags; kann wiederholt werden.</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>Druckt N Exemplare (1 bis %1).</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>Druckt diese Seiten (1-4,7,9-), wie -o page-ranges=.</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>Gibt dem Auftrag diese Priorität (1 bis 100), wie -o job-priority=.</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>Wann gedruckt wird: hold, immediate, eine Uhrzeit HH:MM (UTC) oder was -o job-hold-until= nimmt.</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>Sagt nicht, welcher Auftrag gedruckt wurde, nur, was schiefgegangen ist.</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>Tut nichts: Das Dokument wird immer in die Warteschlange kopiert.</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>Wird abgelehnt: Es wird keine E-Mail gesendet.</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>Nennt den Auftrag TEXT.</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>Druckt ohne Fenster.</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>Schreibt die Einstellungen des Auftrags auf die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>Ohne Fenster: Speichert die Einstellungen in lpoptions als Instanz der Warteschlange, sodass lp -d QUEUE/NAME und andere Programme damit drucken.</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>Ohne Fenster: was geschieht, wenn die Einstellungen des Druckers Anweisungen zeigen: print, hold oder refuse. Normalerweise hält eine Warteschlange den Auftrag an, und in eine Datei wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>Ohne Fenster: Endet, wenn die Warteschlange den Auftrag hat, nicht erst, wenn er gedruckt ist.</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>Ohne Fenster: Verfolgt den Auftrag höchstens SECONDS Sekunden lang, sobald ihn die Warteschlange hat, und lässt ihn dann dort.</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>Ohne Fenster: json schreibt auf die Standardausgabe, was aus dem Auftrag wurde, als eine Zeile, die ein Programm lesen kann; text ist, was Menschen lesen.</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>Vertraut auch den Plug-in-Bundles im Ordner DIR.</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>Beendet sich mit Status 0, wenn ein Fenster gezeigt werden kann, mit 1, wenn nicht.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Zeigt die Version.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>Alle Seiten, die darin gefunden wurden, werden gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>gedruckt, gesendet oder in der Warteschlange, mit dem Grund, warum er dort wartet</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>abgelehnt, fehlgeschlagen oder abgebrochen</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>eine Befehlszeile, die nicht verstanden wird</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>gesendet, und was daraus wurde, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>die Zeit von --wait ist abgelaufen; der Auftrag ist noch in der Warteschlange</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>der Name eines Papiertyps</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>oder %1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
     </message>
 </context>
 <context>
@@ -1550,6 +1836,25 @@
     <message>
         <source>Address: %1</source>
         <translation>Adresse: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Hinter &quot;%1&quot; fehlt ein Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; nimmt keinen Wert.</translation>
     </message>
 </context>
 <context>
@@ -2286,6 +2591,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3563,11 +3872,11 @@ Für die Befehlszeile: %2</translation>
     <name>corvana::PrinterSource</name>
     <message>
         <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>Es gibt keinen Standarddrucker. %1 Nennen Sie einen Drucker mit -d oder eine PPD mit --ppd DATEI, oder probieren Sie die Musterdrucker mit --demo.</translation>
+        <translation>Es gibt keinen Standarddrucker. %1 Nennen Sie einen Drucker mit -d oder eine PPD mit --ppd FILE, oder probieren Sie die Musterdrucker mit --demo.</translation>
     </message>
     <message>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>Es gibt keinen Standarddrucker. Nennen Sie einen Drucker mit -d oder eine PPD mit --ppd DATEI, oder probieren Sie die Musterdrucker mit --demo.</translation>
+        <translation>Es gibt keinen Standarddrucker. Nennen Sie einen Drucker mit -d oder eine PPD mit --ppd FILE, oder probieren Sie die Musterdrucker mit --demo.</translation>
     </message>
     <message>
         <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>

@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>falta el nombre de un documento.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot; enumera lo que se puede indicar.</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2: se esperaba un número de %3 a %4.</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;: se esperaban páginas e intervalos en orden ascendente, como 1-4,7,9-.</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 es para un trabajo que ya está en una cola: use %2.</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;: se esperaba hold, immediate, %2.</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy admite una impresora y ningún documento.</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;: se esperaba HOST, HOST:PORT o la ruta de un socket.</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1: se esperaba print, hold o refuse.</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1: se esperaba json o text.</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m: no se envía ningún correo. Qué ha sido del trabajo se indica al final y en el estado de salida.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;: falta %2.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 y %2 no se pueden combinar.</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 es para ejecuciones sin ventana (--no-dialog).</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>la entrada estándar no puede ser a la vez el documento y la contraseña.</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset no imprime nada: no se puede indicar ningún documento.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 y %2 no se pueden combinar: los dos escriben en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;: se esperaba un URI como ipp://HOST/ipp/print.</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;: se esperaba KEY=VALUE.</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>la entrada estándar (-) solo se puede leer una vez.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>Imprime un documento con los ajustes de su impresora, en un diálogo o sin él.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>El documento: PDF, PostScript, texto, PNG o JPEG; - es la entrada estándar. Varios son un solo trabajo.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Estado de salida:</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 y el número de una señal: terminado por esa señal</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>Imprime en la impresora NAME: una cola, una instancia NAME/INSTANCE o una impresora IPP ipp://HOST/PATH.</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>Usa las colas del servidor de impresión HOST en lugar del habitual.</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>Habla con el servidor de impresión solo con cifrado.</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>Imprime como el usuario USER.</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>Toma la contraseña de la primera línea del archivo FILE, que nadie más que su propietario puede leer; no se pregunta a nadie.</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>Lo mismo desde el descriptor de archivo abierto N (0 es la entrada estándar).</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>Abre los documentos PDF protegidos con la contraseña de la primera línea del archivo FILE, que nadie más que su propietario puede leer.</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>Imprime para la impresora que describe el PPD FILE.</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>Escribe los datos listos para la impresora en el archivo FILE; - es la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>Ofrece las impresoras de muestra.</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>Enumera las impresoras y termina.</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>Empieza con los ajustes del preajuste NAME; -o tiene prioridad.</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>Enumera los preajustes y termina.</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>Guarda los ajustes de la impresora, incluidos los de -o, como el preajuste NAME, y termina. Un preajuste con ese nombre se sustituye.</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>Dice qué decide la directiva del administrador, y dónde, para la impresora indicada a continuación o con -d; root puede indicar a otro usuario con -U. El estado de salida es 1 cuando algo de ella no se usa.</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>Imprime un trabajo de muchas hojas sin preguntar.</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>Establece una opción de la impresora o del trabajo; se puede repetir.</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>Imprime N copias (de 1 a %1).</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>Imprime estas páginas (1-4,7,9-), como -o page-ranges=.</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>Da al trabajo esta prioridad (de 1 a 100), como -o job-priority=.</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>Cuándo imprimir: hold, immediate, una hora HH:MM (UTC) o lo que admite -o job-hold-until=.</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>No dice qué trabajo se imprimió, solo lo que haya fallado.</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>No hace nada: el documento siempre se copia a la cola.</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>Se rechaza: no se envía ningún correo.</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>Da al trabajo el nombre TEXT.</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>Imprime sin ventana.</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>Escribe los ajustes del trabajo en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>Sin ventana: guarda los ajustes en lpoptions como una instancia de la cola, para que lp -d QUEUE/NAME y otros programas impriman con ellos.</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>Sin ventana: qué hacer cuando los ajustes de la impresora muestran instrucciones: print, hold o refuse. Normalmente, una cola retiene el trabajo, y en un archivo se imprime.</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>Sin ventana: termina cuando la cola tiene el trabajo, no cuando está impreso.</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>Sin ventana: sigue el trabajo durante SECONDS segundos como máximo desde que lo tiene la cola, y lo deja después allí.</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>Sin ventana: json escribe en la salida estándar qué ha sido del trabajo, en una línea que un programa puede leer; text es lo que leen las personas.</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>Confía también en los paquetes de complementos de la carpeta DIR.</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>Termina con estado 0 cuando se puede mostrar una ventana y con 1 cuando no.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Muestra esta ayuda.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Muestra la versión.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>Se imprimen todas las páginas encontradas en él.</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>impreso, enviado, o en la cola con el motivo por el que espera</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>rechazado, fallido o cancelado</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>una línea de órdenes que no se puede entender</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>enviado, y no se sabe qué ha sido de él</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>el tiempo de --wait ha pasado; el trabajo sigue en la cola</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>el nombre de un tipo de papel</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>o %1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>segundos</translation>
     </message>
 </context>
 <context>
@@ -1550,6 +1836,25 @@
     <message>
         <source>Address: %1</source>
         <translation>Dirección: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opción desconocida: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta un valor después de &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; no admite ningún valor.</translation>
     </message>
 </context>
 <context>
@@ -2286,6 +2591,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3563,11 +3872,11 @@ En la línea de órdenes: %2</translation>
     <name>corvana::PrinterSource</name>
     <message>
         <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>No hay impresora predeterminada. %1 Indique una impresora con -d o un PPD con --ppd ARCHIVO, o pruebe las impresoras de muestra con --demo.</translation>
+        <translation>No hay impresora predeterminada. %1 Indique una impresora con -d o un PPD con --ppd FILE, o pruebe las impresoras de muestra con --demo.</translation>
     </message>
     <message>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>No hay impresora predeterminada. Indique una impresora con -d o un PPD con --ppd ARCHIVO, o pruebe las impresoras de muestra con --demo.</translation>
+        <translation>No hay impresora predeterminada. Indique una impresora con -d o un PPD con --ppd FILE, o pruebe las impresoras de muestra con --demo.</translation>
     </message>
     <message>
         <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>

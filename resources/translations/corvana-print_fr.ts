@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>le nom d’un document manque.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot; énumère ce qui peut être indiqué.</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2 : un nombre de %3 à %4 était attendu.</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot; : des pages et des plages en ordre croissant étaient attendues, par exemple 1-4,7,9-.</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 concerne une tâche qui est déjà dans une file d’attente : utilisez %2.</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot; : hold, immediate, %2 était attendu.</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy prend une imprimante et aucun document.</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot; : HOST, HOST:PORT ou le chemin d’un socket était attendu.</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1 : print, hold ou refuse était attendu.</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1 : json ou text était attendu.</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m : aucun courrier n’est envoyé. Ce que la tâche est devenue est dit à la fin, et par le code de retour.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot; : %2 manque.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 et %2 ne peuvent pas être combinés.</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 est réservé aux exécutions sans fenêtre (--no-dialog).</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>l’entrée standard ne peut pas être à la fois le document et le mot de passe.</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset n’imprime rien : aucun document ne peut être indiqué.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 et %2 ne peuvent pas être combinés : les deux écrivent sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot; : un URI comme ipp://HOST/ipp/print était attendu.</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot; : KEY=VALUE était attendu.</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>l’entrée standard (-) ne peut être lue qu’une fois.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilisation : %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>Imprime un document avec les réglages de son imprimante, dans une boîte de dialogue ou sans elle.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Arguments :</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>Le document : PDF, PostScript, texte, PNG ou JPEG ; - est l’entrée standard. Plusieurs forment une tâche.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Code de retour :</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 et le numéro d’un signal : terminé par ce signal</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>Imprimer sur l’imprimante NAME : une file d’attente, une instance NAME/INSTANCE ou une imprimante IPP ipp://HOST/PATH.</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>Utiliser les files d’attente du serveur d’impression HOST au lieu du serveur habituel.</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>Ne parler au serveur d’impression qu’avec chiffrement.</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>Imprimer en tant qu’utilisateur USER.</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>Prendre le mot de passe dans la première ligne du fichier FILE, que personne d’autre que son propriétaire ne peut lire ; rien n’est demandé.</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>De même, depuis le descripteur de fichier ouvert N (0 est l’entrée standard).</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>Ouvrir les documents PDF protégés avec le mot de passe de la première ligne du fichier FILE, que personne d’autre que son propriétaire ne peut lire.</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>Imprimer pour l’imprimante que décrit le PPD FILE.</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>Écrire les données prêtes pour l’imprimante dans le fichier FILE ; - est la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>Proposer les imprimantes d’exemple.</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>Énumérer les imprimantes, puis quitter.</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>Commencer avec les réglages du préréglage NAME ; -o est prioritaire.</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>Énumérer les préréglages, puis quitter.</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>Enregistrer les réglages de l’imprimante, dont ceux de -o, comme préréglage NAME, puis quitter. Un préréglage de ce nom est remplacé.</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>Dire ce que décident les règles de l’administrateur, et où, pour l’imprimante indiquée à la suite ou par -d ; root peut indiquer un autre utilisateur avec -U. Le code de retour est 1 si une partie n’en est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>Imprimer une tâche de nombreuses feuilles sans confirmation.</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>Définir une option de l’imprimante ou de la tâche ; peut être répété.</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>Imprimer N exemplaires (1 à %1).</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>Imprimer ces pages (1-4,7,9-), comme -o page-ranges=.</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>Donner cette priorité à la tâche (1 à 100), comme -o job-priority=.</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>Quand imprimer : hold, immediate, une heure HH:MM (UTC), ou ce que prend -o job-hold-until=.</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>Ne pas dire quelle tâche a été imprimée, seulement ce qui a échoué.</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>Ne fait rien : le document est toujours copié dans la file d’attente.</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>Est refusé : aucun courrier n’est envoyé.</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>Nommer la tâche TEXT.</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>Imprimer sans fenêtre.</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>Écrire les réglages de la tâche sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>Sans fenêtre : enregistrer les réglages dans lpoptions comme instance de la file d’attente, pour que lp -d QUEUE/NAME et d’autres programmes impriment avec eux.</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>Sans fenêtre : que faire quand les réglages de l’imprimante affichent des instructions : print, hold ou refuse. Normalement, une file d’attente suspend la tâche, et vers un fichier elle est imprimée.</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>Sans fenêtre : terminer quand la file d’attente a la tâche, sans attendre qu’elle soit imprimée.</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>Sans fenêtre : suivre la tâche pendant SECONDS secondes au plus une fois qu’elle est dans sa file d’attente, puis l’y laisser.</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>Sans fenêtre : json écrit sur la sortie standard ce que la tâche est devenue, en une ligne qu’un programme peut lire ; text est ce que lisent les personnes.</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>Faire aussi confiance aux paquets de greffons du dossier DIR.</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>Quitter avec le code 0 si une fenêtre peut être affichée, avec 1 sinon.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Afficher cette aide.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>Toutes les pages qui y ont été trouvées sont imprimées.</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>imprimée, envoyée, ou dans la file d’attente avec la raison de l’attente</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>refusée, échouée ou annulée</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>une ligne de commande qui ne peut pas être comprise</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>envoyée, et ce qu’elle est devenue n’est pas connu</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>le délai de --wait est écoulé ; la tâche est encore dans la file d’attente</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>le nom d’un type de papier</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>ou %1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondes</translation>
     </message>
 </context>
 <context>
@@ -1550,6 +1836,25 @@
     <message>
         <source>Address: %1</source>
         <translation>Adresse : %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue : &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues : %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Il manque une valeur après &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; ne prend pas de valeur.</translation>
     </message>
 </context>
 <context>
@@ -2286,6 +2591,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -3563,11 +3872,11 @@ Pour la ligne de commande : %2</translation>
     <name>corvana::PrinterSource</name>
     <message>
         <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>Il n’y a pas d’imprimante par défaut. %1 Indiquez une imprimante avec -d, ou un PPD avec --ppd FICHIER, ou essayez les imprimantes d’exemple avec --demo.</translation>
+        <translation>Il n’y a pas d’imprimante par défaut. %1 Indiquez une imprimante avec -d, ou un PPD avec --ppd FILE, ou essayez les imprimantes d’exemple avec --demo.</translation>
     </message>
     <message>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>Il n’y a pas d’imprimante par défaut. Indiquez une imprimante avec -d, ou un PPD avec --ppd FICHIER, ou essayez les imprimantes d’exemple avec --demo.</translation>
+        <translation>Il n’y a pas d’imprimante par défaut. Indiquez une imprimante avec -d, ou un PPD avec --ppd FILE, ou essayez les imprimantes d’exemple avec --demo.</translation>
     </message>
     <message>
         <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>

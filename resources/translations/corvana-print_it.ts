@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>manca il nome di un documento.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot; elenca ciò che si può indicare.</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2: era atteso un numero da %3 a %4.</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;: erano attesi pagine e intervalli in ordine crescente, come 1-4,7,9-.</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 è per un lavoro che è già in una coda: usare %2.</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;: era atteso hold, immediate, %2.</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy accetta una stampante e nessun documento.</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;: era atteso HOST, HOST:PORT o il percorso di un socket.</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1: era atteso print, hold o refuse.</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1: era atteso json o text.</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m: non viene inviata alcuna e-mail. L&apos;esito del lavoro viene indicato alla fine e dallo stato d&apos;uscita.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;: manca %2.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 e %2 non possono essere combinati.</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 è per le esecuzioni senza finestra (--no-dialog).</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>lo standard input non può essere insieme il documento e la password.</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset non stampa nulla: non si può indicare alcun documento.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 e %2 non possono essere combinati: entrambi scrivono sullo standard output.</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;: era atteso un URI come ipp://HOST/ipp/print.</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;: era atteso KEY=VALUE.</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>lo standard input (-) può essere letto una volta sola.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>Stampa un documento con le impostazioni della sua stampante, in una finestra di dialogo o senza.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argomenti:</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>Il documento: PDF, PostScript, testo, PNG o JPEG; - è lo standard input. Più documenti sono un solo lavoro.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Stato d&apos;uscita:</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 e il numero di un segnale: terminato da quel segnale</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>Stampa sulla stampante NAME: una coda, un&apos;istanza NAME/INSTANCE o una stampante IPP ipp://HOST/PATH.</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>Usa le code del server di stampa HOST invece di quello consueto.</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>Comunica con il server di stampa solo con la cifratura.</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>Stampa come utente USER.</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>Prende la password dalla prima riga del file FILE, che nessuno tranne il proprietario può leggere; non viene chiesta a nessuno.</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>Lo stesso dal descrittore di file aperto N (0 è lo standard input).</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>Apre i documenti PDF protetti con la password nella prima riga del file FILE, che nessuno tranne il proprietario può leggere.</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>Stampa per la stampante descritta dal PPD FILE.</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>Scrive i dati pronti per la stampante nel file FILE; - è lo standard output.</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>Offre le stampanti di esempio.</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>Elenca le stampanti e termina.</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>Parte dalle impostazioni della preimpostazione NAME; -o ha la precedenza.</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>Elenca le preimpostazioni e termina.</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>Salva le impostazioni della stampante, comprese quelle di -o, come preimpostazione NAME e termina. Una preimpostazione con quel nome viene sostituita.</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>Indica che cosa decidono i criteri dell&apos;amministratore, e dove, per la stampante indicata di seguito o con -d; root può indicare un altro utente con -U. Lo stato d&apos;uscita è 1 quando qualcosa non viene usato.</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>Stampa un lavoro di molti fogli senza chiedere conferma.</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>Imposta un&apos;opzione della stampante o del lavoro; si può ripetere.</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>Stampa N copie (da 1 a %1).</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>Stampa queste pagine (1-4,7,9-), come -o page-ranges=.</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>Dà al lavoro questa priorità (da 1 a 100), come -o job-priority=.</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>Quando stampare: hold, immediate, un&apos;ora HH:MM (UTC) o ciò che accetta -o job-hold-until=.</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>Non dice quale lavoro è stato stampato, solo che cosa non è riuscito.</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>Non fa nulla: il documento viene sempre copiato nella coda.</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>Viene rifiutata: non viene inviata alcuna e-mail.</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>Dà al lavoro il nome TEXT.</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>Stampa senza finestra.</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>Scrive le impostazioni del lavoro sullo standard output.</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>Senza finestra: salva le impostazioni in lpoptions come istanza della coda, così che lp -d QUEUE/NAME e altri programmi stampino con esse.</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>Senza finestra: che cosa fare quando le impostazioni della stampante mostrano istruzioni: print, hold o refuse. Di solito una coda trattiene il lavoro, e su un file si stampa.</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>Senza finestra: termina quando la coda ha il lavoro, non quando è stampato.</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>Senza finestra: segue il lavoro per SECONDS secondi al massimo da quando la coda lo ha, poi lo lascia lì.</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>Senza finestra: json scrive sullo standard output l&apos;esito del lavoro, in una riga che un programma può leggere; text è ciò che leggono le persone.</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>Considera attendibili anche i pacchetti di plug-in nella cartella DIR.</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>Termina con stato 0 quando è possibile mostrare una finestra, con 1 quando non lo è.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostra la versione.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>Vengono stampate tutte le pagine trovate.</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>stampato, inviato, o in coda con il motivo per cui attende</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>rifiutato, non riuscito o annullato</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>una riga di comando che non può essere compresa</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>inviato, e non si sa quale ne sia l&apos;esito</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>il tempo di --wait è scaduto; il lavoro è ancora in coda</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>il nome di un tipo di carta</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>o %1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondi</translation>
     </message>
 </context>
 <context>
@@ -1550,6 +1836,25 @@
     <message>
         <source>Address: %1</source>
         <translation>Indirizzo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opzione sconosciuta: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opzioni sconosciute: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Manca un valore dopo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; non accetta alcun valore.</translation>
     </message>
 </context>
 <context>
@@ -2286,6 +2591,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

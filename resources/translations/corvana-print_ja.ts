@@ -9,6 +9,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>文書の名前がありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot; を実行すると、指定できる内容が表示されます。</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2: %3 から %4 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;: ページと範囲を 1-4,7,9- のように昇順で指定してください。</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 はすでにキューにあるジョブのためのものです。%2 を使ってください。</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;: 指定できる値: hold, immediate, %2。</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy に指定できるのはプリンター 1 台だけです。文書は指定できません。</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;: HOST、HOST:PORT、またはソケットのパスを指定してください。</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1: print、hold、refuse のいずれかを指定してください。</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1: json または text を指定してください。</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m: メールは送信されません。ジョブの結果は最後に表示され、終了ステータスでもわかります。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;: %2 がありません。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 と %2 は同時には使用できません。</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 はウィンドウなしの実行（--no-dialog）で使います。</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>標準入力を文書とパスワードの両方に使うことはできません。</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset では何も印刷されないため、文書は指定できません。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 と %2 は同時には使用できません。どちらも標準出力に書き込みます。</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;: ipp://HOST/ipp/print のような URI を指定してください。</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;: KEY=VALUE の形で指定してください。</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>標準入力（-）は 1 回しか読み取れません。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>使い方: %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>プリンターの設定を使って、ダイアログで、またはダイアログなしで文書を印刷します。</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>オプション:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>引数:</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>文書。PDF、PostScript、テキスト、PNG、JPEG。- は標準入力です。複数の文書は 1 つのジョブになります。</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>終了ステータス:</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 とシグナル番号の和: そのシグナルで終了</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>プリンター NAME に印刷します。キュー、インスタンス NAME/INSTANCE、または IPP プリンター ipp://HOST/PATH を指定します。</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>通常のサーバーではなく、プリントサーバー HOST のキューを使います。</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>プリントサーバーとの通信に必ず暗号化を使います。</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>ユーザー USER として印刷します。</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>所有者だけが読み取れるファイル FILE の 1 行目をパスワードとして使います。入力は求められません。</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>開いているファイル記述子 N から同様に読み取ります（0 は標準入力）。</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>所有者だけが読み取れるファイル FILE の 1 行目のパスワードで、保護された PDF 文書を開きます。</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>PPD FILE が表すプリンター用に印刷します。</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>プリンター用に変換したデータを FILE に書き込みます。- は標準出力です。</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>サンプルプリンターを使えるようにします。</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>プリンターの一覧を表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>プリセット NAME の設定から始めます。-o の指定が優先されます。</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>プリセットの一覧を表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>-o の指定を含むプリンターの設定をプリセット NAME として保存し、終了します。同じ名前のプリセットは置き換えられます。</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>後ろまたは -d で指定したプリンターについて、管理者のポリシーで何がどこで決められているかを表示します。root は -U で別のユーザーを指定できます。使われないものがあると終了ステータスは 1 です。</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>枚数の多いジョブを確認なしで印刷します。</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>プリンターまたはジョブのオプションを設定します。繰り返し指定できます。</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>N 部印刷します（1～%1）。</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>-o page-ranges= と同じく、指定したページ（1-4,7,9-）を印刷します。</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>-o job-priority= と同じく、ジョブの優先度（1～100）を指定します。</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>いつ印刷するか: hold、immediate、時刻 HH:MM (UTC)、または -o job-hold-until= に指定できる値。</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>どのジョブを印刷したかは表示せず、問題だけを表示します。</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>何もしません。文書は常にキューへコピーされます。</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>拒否されます。メールは送信されません。</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>ジョブに名前 TEXT を付けます。</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>ウィンドウを開かずに印刷します。</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>ジョブの設定を標準出力に書き出します。</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>ウィンドウなし: 設定をキューのインスタンスとして lpoptions に保存します。lp -d QUEUE/NAME やほかのプログラムがその設定で印刷します。</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>ウィンドウなし: プリンターの設定に指示が表示されたときの動作。print、hold、refuse のいずれか。通常、キューではジョブが保留され、ファイルへはそのまま印刷されます。</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>ウィンドウなし: 印刷の完了を待たず、キューがジョブを受け取った時点で終了します。</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>ウィンドウなし: キューがジョブを受け取ってから最長 SECONDS 秒間ジョブを見守り、その後はそのままにします。</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>ウィンドウなし: json はジョブの結果を、プログラムが読み取れる 1 行として標準出力に書き込みます。text は人が読む形式です。</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>フォルダー DIR のプラグインバンドルも信頼します。</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>ウィンドウを表示できるときはステータス 0、できないときは 1 で終了します。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>このヘルプを表示します。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>バージョンを表示します。</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -92,6 +347,29 @@
 <message>
         <source>%1 cannot be printed: it holds data that are ready for a printer. A queue passes them on as they are with the option “raw”.</source>
         <translation>%1 は印刷できません。プリンター用に変換済みのデータです。オプション「raw」を付けると、キューがそのまま渡します。</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>印刷した、送信した、またはキューにある（待機の理由を表示）</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>拒否、失敗、またはキャンセル</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>解釈できないコマンドライン</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>送信したが、その結果は不明</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>--wait の時間が過ぎた。ジョブはまだキューにある</translation>
     </message>
 </context>
 <context>
@@ -547,7 +825,15 @@
         <source>Sheets Are Put Back</source>
         <translation>用紙の戻し方</translation>
     </message>
-    </context>
+        <message>
+        <source>or %1</source>
+        <translation>または%1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>秒</translation>
+    </message>
+</context>
 <context>
     <name>JobRequests</name>
     <message>
@@ -923,6 +1209,25 @@
     <message>
         <source>Address: %1</source>
         <translation>アドレス: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>不明なオプションです: &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>不明なオプションです: %1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; の後に値がありません。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; に値は指定できません。</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1656,10 @@
 <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

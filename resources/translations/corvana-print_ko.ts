@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>문서 이름이 없습니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot;을(를) 실행하면 지정할 수 있는 내용이 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2: %3에서 %4까지의 숫자를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;: 1-4,7,9-와 같이 페이지와 범위를 오름차순으로 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1은(는) 이미 대기열에 있는 작업에 사용합니다. %2을(를) 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;: 사용할 수 있는 값: hold, immediate, %2.</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy에는 프린터 하나만 지정할 수 있으며 문서는 지정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;: HOST, HOST:PORT 또는 소켓의 경로를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1: print, hold 또는 refuse를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1: json 또는 text를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m: 메일을 보내지 않습니다. 작업의 결과는 마지막에 표시되며 종료 상태로도 알 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;: %2이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1과(와) %2은(는) 함께 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1은(는) 창 없이 실행할 때(--no-dialog) 사용합니다.</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>표준 입력은 문서와 암호로 동시에 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset은 인쇄하지 않으므로 문서를 지정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1과(와) %2은(는) 함께 사용할 수 없습니다. 둘 다 표준 출력에 씁니다.</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;: ipp://HOST/ipp/print와 같은 URI를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;: KEY=VALUE를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>표준 입력(-)은 한 번만 읽을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>사용법: %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>프린터의 설정으로 문서를 대화 상자에서 또는 대화 상자 없이 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>옵션:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>인수:</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>문서: PDF, PostScript, 텍스트, PNG 또는 JPEG. -는 표준 입력입니다. 여러 개는 하나의 작업이 됩니다.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>종료 상태:</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128과 시그널 번호의 합: 해당 시그널로 종료됨</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>프린터 NAME으로 인쇄합니다. 대기열, 인스턴스 NAME/INSTANCE 또는 IPP 프린터 ipp://HOST/PATH를 지정합니다.</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>평소의 서버 대신 인쇄 서버 HOST의 대기열을 사용합니다.</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>인쇄 서버와 암호화된 연결로만 통신합니다.</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>사용자 USER로 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>소유자만 읽을 수 있는 파일 FILE의 첫 줄에서 암호를 읽으며, 암호를 묻지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>열려 있는 파일 설명자 N에서 암호를 읽습니다(0은 표준 입력).</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>소유자만 읽을 수 있는 파일 FILE의 첫 줄에 있는 암호로 보호된 PDF 문서를 엽니다.</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>PPD FILE이 설명하는 프린터용으로 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>인쇄할 준비가 된 데이터를 FILE에 씁니다. -는 표준 출력입니다.</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>예제 프린터를 제공합니다.</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>프린터 목록을 표시하고 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>사전 설정 NAME의 설정으로 시작합니다. -o가 우선합니다.</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>사전 설정 목록을 표시하고 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>-o의 설정을 포함한 프린터 설정을 사전 설정 NAME으로 저장하고 종료합니다. 같은 이름의 사전 설정은 대체됩니다.</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>뒤에 또는 -d로 지정한 프린터에 대해 관리자의 정책이 무엇을 어디에서 결정하는지 표시합니다. root는 -U로 다른 사용자를 지정할 수 있습니다. 일부라도 사용되지 않으면 종료 상태는 1입니다.</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>용지가 많이 필요한 작업을 묻지 않고 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>프린터 또는 작업의 옵션을 설정합니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>N부를 인쇄합니다(1~%1).</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>-o page-ranges=와 같이 지정한 페이지(1-4,7,9-)를 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>-o job-priority=와 같이 작업의 우선순위(1~100)를 지정합니다.</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>인쇄할 시점: hold, immediate, 시간 HH:MM(UTC) 또는 -o job-hold-until=에 사용하는 값.</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>어떤 작업이 인쇄되었는지 알려 주지 않고 문제만 알려 줍니다.</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>아무것도 하지 않습니다. 문서는 항상 대기열로 복사됩니다.</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>거부됩니다. 메일을 보내지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>작업의 이름을 TEXT로 지정합니다.</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>창 없이 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>작업의 설정을 표준 출력에 씁니다.</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>창 없이: 설정을 lpoptions에 대기열의 인스턴스로 저장하여 lp -d QUEUE/NAME과 다른 프로그램이 그 설정으로 인쇄하게 합니다.</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>창 없이: 프린터 설정이 지침을 표시할 때 할 일: print, hold 또는 refuse. 보통 대기열에서는 작업을 보류하고 파일로는 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>창 없이: 인쇄가 끝날 때가 아니라 대기열이 작업을 받았을 때 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>창 없이: 대기열이 작업을 받은 뒤 최대 SECONDS초 동안 작업을 지켜보고 그 뒤에는 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>창 없이: json은 작업의 결과를 프로그램이 읽을 수 있는 한 줄로 표준 출력에 씁니다. text는 사람이 읽는 형식입니다.</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>폴더 DIR의 플러그인 번들도 신뢰합니다.</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>창을 표시할 수 있으면 상태 0으로, 없으면 1로 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>이 도움말을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>버전을 표시합니다.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>찾은 모든 페이지가 인쇄됩니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>인쇄됨, 전송됨, 또는 대기 이유와 함께 대기열에 있음</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>거부, 실패 또는 취소됨</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>이해할 수 없는 명령줄</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>전송되었으나 결과를 알 수 없음</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>--wait의 시간이 지났으며 작업이 아직 대기열에 있음</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>용지 종류의 이름</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>또는 %1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>초</translation>
     </message>
 </context>
 <context>
@@ -1549,6 +1835,25 @@
     <message>
         <source>Address: %1</source>
         <translation>주소: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>알 수 없는 옵션: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>알 수 없는 옵션: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; 뒤에 값이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot;에는 값을 지정할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -2285,6 +2590,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>falta o nome de um documento.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>&quot;%1&quot; lista o que pode ser indicado.</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2: era esperado um número de %3 a %4.</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;: eram esperados páginas e intervalos em ordem crescente, como 1-4,7,9-.</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 é para um trabalho que já está em uma fila: use %2.</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;: era esperado hold, immediate, %2.</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy aceita uma impressora e nenhum documento.</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;: era esperado HOST, HOST:PORT ou o caminho de um socket.</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1: era esperado print, hold ou refuse.</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1: era esperado json ou text.</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m: nenhum e-mail é enviado. O resultado do trabalho é informado no final e pelo status de saída.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;: falta %2.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 e %2 não podem ser combinados.</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 é para execuções sem janela (--no-dialog).</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>a entrada padrão não pode ser ao mesmo tempo o documento e a senha.</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset não imprime nada: nenhum documento pode ser indicado.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 e %2 não podem ser combinados: os dois gravam na saída padrão.</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;: era esperado um URI como ipp://HOST/ipp/print.</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;: era esperado KEY=VALUE.</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>a entrada padrão (-) só pode ser lida uma vez.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>Imprime um documento com as configurações de sua impressora, em uma caixa de diálogo ou sem ela.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>O documento: PDF, PostScript, texto, PNG ou JPEG; - é a entrada padrão. Vários formam um único trabalho.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Status de saída:</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 e o número de um sinal: encerrado por esse sinal</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>Imprime na impressora NAME: uma fila, uma instância NAME/INSTANCE ou uma impressora IPP ipp://HOST/PATH.</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>Usa as filas do servidor de impressão HOST em vez do habitual.</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>Fala com o servidor de impressão somente com criptografia.</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>Imprime como o usuário USER.</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>Lê a senha da primeira linha do arquivo FILE, que ninguém além do proprietário pode ler; nada é perguntado.</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>O mesmo a partir do descritor de arquivo aberto N (0 é a entrada padrão).</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>Abre documentos PDF protegidos com a senha da primeira linha do arquivo FILE, que ninguém além do proprietário pode ler.</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>Imprime para a impressora que o PPD FILE descreve.</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>Grava os dados prontos para a impressora no arquivo FILE; - é a saída padrão.</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>Oferece as impressoras de exemplo.</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>Lista as impressoras e sai.</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>Começa com as configurações da predefinição NAME; -o tem prioridade.</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>Lista as predefinições e sai.</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>Salva as configurações da impressora, incluindo as de -o, como a predefinição NAME e sai. Uma predefinição com esse nome é substituída.</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>Informa o que a política do administrador decide, e onde, para a impressora indicada em seguida ou com -d; root pode indicar outro usuário com -U. O status de saída é 1 quando algo dela não é usado.</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>Imprime um trabalho de muitas folhas sem perguntar.</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>Define uma opção da impressora ou do trabalho; pode ser repetida.</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>Imprime N cópias (de 1 a %1).</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>Imprime estas páginas (1-4,7,9-), como -o page-ranges=.</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>Dá ao trabalho esta prioridade (de 1 a 100), como -o job-priority=.</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>Quando imprimir: hold, immediate, um horário HH:MM (UTC) ou o que -o job-hold-until= aceita.</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>Não informa qual trabalho foi impresso, somente o que deu errado.</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>Não faz nada: o documento é sempre copiado para a fila.</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>É recusada: nenhum e-mail é enviado.</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>Dá ao trabalho o nome TEXT.</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>Imprime sem janela.</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>Grava as configurações do trabalho na saída padrão.</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>Sem janela: salva as configurações em lpoptions como uma instância da fila, para que lp -d QUEUE/NAME e outros programas imprimam com elas.</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>Sem janela: o que fazer quando as configurações da impressora mostram instruções: print, hold ou refuse. Normalmente, uma fila retém o trabalho, e em um arquivo se imprime.</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>Sem janela: termina quando a fila tem o trabalho, e não quando ele está impresso.</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>Sem janela: acompanha o trabalho por no máximo SECONDS segundos depois que a fila o tem e então o deixa lá.</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>Sem janela: json grava na saída padrão o resultado do trabalho, em uma linha que um programa pode ler; text é o que as pessoas leem.</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>Confia também nos pacotes de plug-ins da pasta DIR.</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>Sai com status 0 quando uma janela pode ser mostrada e com 1 quando não pode.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostra esta ajuda.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostra a versão.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>Todas as páginas encontradas nele são impressas.</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>impresso, enviado ou na fila, com o motivo da espera</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>recusado, malsucedido ou cancelado</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>uma linha de comando que não pode ser entendida</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>enviado, e não se sabe qual foi o resultado</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>o tempo de --wait se esgotou; o trabalho ainda está na fila</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>o nome de um tipo de papel</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>ou %1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>segundos</translation>
     </message>
 </context>
 <context>
@@ -1550,6 +1836,25 @@
     <message>
         <source>Address: %1</source>
         <translation>Endereço: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opção desconhecida: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opções desconhecidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta um valor depois de &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; não aceita nenhum valor.</translation>
     </message>
 </context>
 <context>
@@ -2286,6 +2591,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3563,11 +3872,11 @@ Na linha de comando: %2</translation>
     <name>corvana::PrinterSource</name>
     <message>
         <source>There is no default printer. %1 Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>Não há impressora padrão. %1 Indique uma impressora com -d ou um PPD com --ppd ARQUIVO, ou experimente as impressoras de exemplo com --demo.</translation>
+        <translation>Não há impressora padrão. %1 Indique uma impressora com -d ou um PPD com --ppd FILE, ou experimente as impressoras de exemplo com --demo.</translation>
     </message>
     <message>
         <source>There is no default printer. Name a printer with -d, or a PPD with --ppd FILE, or try the sample printers with --demo.</source>
-        <translation>Não há impressora padrão. Indique uma impressora com -d ou um PPD com --ppd ARQUIVO, ou experimente as impressoras de exemplo com --demo.</translation>
+        <translation>Não há impressora padrão. Indique uma impressora com -d ou um PPD com --ppd FILE, ou experimente as impressoras de exemplo com --demo.</translation>
     </message>
     <message>
         <source>There is no instance “%1”: lpoptions has none of the queue “%2”.</source>

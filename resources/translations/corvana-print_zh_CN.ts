@@ -9,6 +9,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>缺少文档的名称。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>运行 &quot;%1&quot; 可查看可以指定的内容。</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2：应为 %3 至 %4 的数字。</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;：应为按升序排列的页和范围，例如 1-4,7,9-。</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 用于已在队列中的作业：请使用 %2。</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;：允许的值：hold, immediate, %2。</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy 只接受一台打印机，不接受文档。</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;：应为 HOST、HOST:PORT 或套接字的路径。</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1：应为 print、hold 或 refuse。</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1：应为 json 或 text。</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m：不发送邮件。作业的结果会在结束时显示，也可从退出状态得知。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;：缺少 %2。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 和 %2 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 用于不打开窗口的运行 (--no-dialog)。</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>标准输入不能同时用作文档和密码。</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset 不打印任何内容：不能指定文档。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 和 %2 不能同时使用：两者都会写入标准输出。</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;：应为类似 ipp://HOST/ipp/print 的 URI。</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;：应为 KEY=VALUE。</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>标准输入 (-) 只能读取一次。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>使用打印机的设置打印文档，可打开对话框，也可不打开。</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>参数：</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>文档：PDF、PostScript、文本、PNG 或 JPEG；- 表示标准输入。多个文档组成一个作业。</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>退出状态：</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 加信号编号：被该信号终止</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>在打印机 NAME 上打印：队列、实例 NAME/INSTANCE 或 IPP 打印机 ipp://HOST/PATH。</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>使用打印服务器 HOST 的队列，而不是平常的服务器。</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>只通过加密连接与打印服务器通信。</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>以用户 USER 的身份打印。</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>从文件 FILE 的第一行读取密码，该文件只有所有者可以读取；不再询问。</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>同上，从已打开的文件描述符 N 读取（0 是标准输入）。</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>使用文件 FILE 第一行的密码打开受保护的 PDF 文档，该文件只有所有者可以读取。</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>为 PPD 文件 FILE 所描述的打印机打印。</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>将可直接打印的数据写入 FILE；- 表示标准输出。</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>提供示例打印机。</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>列出打印机并退出。</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>以预设 NAME 的设置开始；-o 优先。</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>列出预设并退出。</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>将打印机的设置（包括 -o 的设置）保存为预设 NAME 并退出。同名的预设会被替换。</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>显示管理员的策略对其后或用 -d 指定的打印机作了哪些规定以及在何处规定；root 可用 -U 查询其他用户。其中有未被采用的内容时，退出状态为 1。</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>打印纸张较多的作业时不再询问。</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>设置打印机或作业的选项；可重复使用。</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>打印 N 份（1 至 %1）。</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>打印这些页 (1-4,7,9-)，与 -o page-ranges= 相同。</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>为作业指定此优先级（1 至 100），与 -o job-priority= 相同。</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>何时打印：hold、immediate、时间 HH:MM (UTC)，或 -o job-hold-until= 接受的值。</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>不显示打印了哪个作业，只显示出现的问题。</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>不起作用：文档总会复制到队列。</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>会被拒绝：不发送邮件。</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>将作业命名为 TEXT。</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>不打开窗口打印。</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>将作业的设置写入标准输出。</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>不打开窗口：将设置作为队列的实例保存到 lpoptions 中，使 lp -d QUEUE/NAME 和其他程序按这些设置打印。</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>不打开窗口：打印机设置显示说明时的处理方式：print、hold 或 refuse。通常队列会保留作业，打印到文件则直接进行。</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>不打开窗口：队列接收作业后即结束，不等待打印完成。</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>不打开窗口：队列接收作业后最多跟踪 SECONDS 秒，然后将其留在队列中。</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>不打开窗口：json 将作业的结果以程序可读取的一行写入标准输出；text 是供人阅读的内容。</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>同时信任文件夹 DIR 中的插件包。</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>可以显示窗口时以状态 0 退出，否则以 1 退出。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -92,6 +347,29 @@
 <message>
         <source>%1 cannot be printed: it holds data that are ready for a printer. A queue passes them on as they are with the option “raw”.</source>
         <translation>无法打印 %1：其内容是已为打印机准备好的数据。使用选项“raw”时，队列会原样传递。</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>已打印、已发送，或在队列中并说明等待的原因</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>被拒绝、失败或已取消</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>无法理解的命令行</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>已发送，但结果未知</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>--wait 的时间已到；作业仍在队列中</translation>
     </message>
 </context>
 <context>
@@ -547,7 +825,15 @@
         <source>Sheets Are Put Back</source>
         <translation>放回纸张的方式</translation>
     </message>
-    </context>
+        <message>
+        <source>or %1</source>
+        <translation>或%1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>秒</translation>
+    </message>
+</context>
 <context>
     <name>JobRequests</name>
     <message>
@@ -923,6 +1209,25 @@
     <message>
         <source>Address: %1</source>
         <translation>地址：%1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项 &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知选项：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; 后缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; 不接受值。</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1656,10 @@
 <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,261 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>the name of a document is missing.</source>
+        <translation>缺少文件的名稱。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists what can be said.</source>
+        <translation>執行 &quot;%1&quot; 可查看可以指定的內容。</translation>
+    </message>
+    <message>
+        <source>%1 %2: a number from %3 to %4 was expected.</source>
+        <translation>%1 %2：應為 %3 到 %4 之間的數字。</translation>
+    </message>
+    <message>
+        <source>-P &quot;%1&quot;: pages and ranges in ascending order were expected, such as 1-4,7,9-.</source>
+        <translation>-P &quot;%1&quot;：應為依遞增順序排列的頁面與範圍，例如 1-4,7,9-。</translation>
+    </message>
+    <message>
+        <source>-H %1 is for a job that is in a queue already: use %2.</source>
+        <translation>-H %1 用於已在佇列中的工作：請使用 %2。</translation>
+    </message>
+    <message>
+        <source>-H &quot;%1&quot;: hold, immediate, %2 was expected.</source>
+        <translation>-H &quot;%1&quot;：允許的值：hold, immediate, %2。</translation>
+    </message>
+    <message>
+        <source>--check-policy takes one printer and no document.</source>
+        <translation>--check-policy 只接受一台印表機，不接受文件。</translation>
+    </message>
+    <message>
+        <source>--server &quot;%1&quot;: HOST, HOST:PORT or the path of a socket was expected.</source>
+        <translation>--server &quot;%1&quot;：應為 HOST、HOST:PORT 或通訊端的路徑。</translation>
+    </message>
+    <message>
+        <source>--on-alert %1: print, hold or refuse was expected.</source>
+        <translation>--on-alert %1：應為 print、hold 或 refuse。</translation>
+    </message>
+    <message>
+        <source>--format %1: json or text was expected.</source>
+        <translation>--format %1：應為 json 或 text。</translation>
+    </message>
+    <message>
+        <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
+        <translation>-m：不會寄送郵件。工作的結果會在結束時顯示，也可由結束狀態得知。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;&quot;: %2 is missing.</source>
+        <translation>%1 &quot;&quot;：缺少 %2。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined.</source>
+        <translation>%1 與 %2 不能同時使用。</translation>
+    </message>
+    <message>
+        <source>%1 is for runs without a window (--no-dialog).</source>
+        <translation>%1 用於不開啟視窗的執行 (--no-dialog)。</translation>
+    </message>
+    <message>
+        <source>standard input cannot be the document and the password.</source>
+        <translation>標準輸入不能同時作為文件與密碼。</translation>
+    </message>
+    <message>
+        <source>--save-preset prints nothing: no document can be named.</source>
+        <translation>--save-preset 不會列印任何內容：不能指定文件。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be combined: both write to standard output.</source>
+        <translation>%1 與 %2 不能同時使用：兩者都會寫入標準輸出。</translation>
+    </message>
+    <message>
+        <source>-d &quot;%1&quot;: a URI like ipp://HOST/ipp/print was expected.</source>
+        <translation>-d &quot;%1&quot;：應為類似 ipp://HOST/ipp/print 的 URI。</translation>
+    </message>
+    <message>
+        <source>-o &quot;%1&quot;: KEY=VALUE was expected.</source>
+        <translation>-o &quot;%1&quot;：應為 KEY=VALUE。</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only.</source>
+        <translation>標準輸入 (-) 只能讀取一次。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
+        <translation>使用印表機的設定列印文件，可開啟對話方塊，也可不開啟。</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>選項：</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>引數：</translation>
+    </message>
+    <message>
+        <source>The document: PDF, PostScript, text, PNG or JPEG; - is standard input. Several are one job.</source>
+        <translation>文件：PDF、PostScript、文字、PNG 或 JPEG；- 表示標準輸入。多份文件為同一個工作。</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>結束狀態：</translation>
+    </message>
+    <message>
+        <source>128 and a signal&apos;s number: ended by that signal</source>
+        <translation>128 加上訊號編號：因該訊號而結束</translation>
+    </message>
+    <message>
+        <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
+        <translation>在印表機 NAME 上列印：佇列、實體 NAME/INSTANCE 或 IPP 印表機 ipp://HOST/PATH。</translation>
+    </message>
+    <message>
+        <source>Use the queues of the print server HOST instead of the usual one.</source>
+        <translation>使用列印伺服器 HOST 的佇列，而不是平常的伺服器。</translation>
+    </message>
+    <message>
+        <source>Speak to the print server with encryption only.</source>
+        <translation>只以加密連線與列印伺服器通訊。</translation>
+    </message>
+    <message>
+        <source>Print as the user USER.</source>
+        <translation>以使用者 USER 的身分列印。</translation>
+    </message>
+    <message>
+        <source>Take the password from the first line of FILE, which nobody but its owner may read; nobody is asked.</source>
+        <translation>從檔案 FILE 的第一行讀取密碼，該檔案只有擁有者可以讀取；不會再詢問。</translation>
+    </message>
+    <message>
+        <source>The same from the open file descriptor N (0 is standard input).</source>
+        <translation>同上，從已開啟的檔案描述元 N 讀取（0 為標準輸入）。</translation>
+    </message>
+    <message>
+        <source>Open protected PDF documents with the password in the first line of FILE, which nobody but its owner may read.</source>
+        <translation>使用檔案 FILE 第一行的密碼開啟受保護的 PDF 文件，該檔案只有擁有者可以讀取。</translation>
+    </message>
+    <message>
+        <source>Print for the printer that the PPD FILE describes.</source>
+        <translation>為 PPD 檔案 FILE 所描述的印表機列印。</translation>
+    </message>
+    <message>
+        <source>Write the printer-ready data to FILE; - is standard output.</source>
+        <translation>將可直接列印的資料寫入 FILE；- 表示標準輸出。</translation>
+    </message>
+    <message>
+        <source>Offer the sample printers.</source>
+        <translation>提供範例印表機。</translation>
+    </message>
+    <message>
+        <source>List the printers and exit.</source>
+        <translation>列出印表機後結束。</translation>
+    </message>
+    <message>
+        <source>Start with the settings of the preset NAME; -o counts more.</source>
+        <translation>以預設集 NAME 的設定開始；-o 優先。</translation>
+    </message>
+    <message>
+        <source>List the presets and exit.</source>
+        <translation>列出預設集後結束。</translation>
+    </message>
+    <message>
+        <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
+        <translation>將印表機的設定（包括 -o 的設定）儲存為預設集 NAME 後結束。同名的預設集會被取代。</translation>
+    </message>
+    <message>
+        <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>
+        <translation>顯示管理員的政策對其後或以 -d 指定的印表機做了哪些規定，以及在何處規定；root 可用 -U 查詢其他使用者。其中有未採用的內容時，結束狀態為 1。</translation>
+    </message>
+    <message>
+        <source>Print a job of many sheets without being asked.</source>
+        <translation>列印張數較多的工作時不再詢問。</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer or of the job; may be repeated.</source>
+        <translation>設定印表機或工作的選項；可重複使用。</translation>
+    </message>
+    <message>
+        <source>Print N copies (1 to %1).</source>
+        <translation>列印 N 份（1 到 %1）。</translation>
+    </message>
+    <message>
+        <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
+        <translation>列印這些頁面 (1-4,7,9-)，與 -o page-ranges= 相同。</translation>
+    </message>
+    <message>
+        <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
+        <translation>為工作指定此優先順序（1 到 100），與 -o job-priority= 相同。</translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, a time HH:MM (UTC), or what -o job-hold-until= takes.</source>
+        <translation>何時列印：hold、immediate、時間 HH:MM (UTC)，或 -o job-hold-until= 接受的值。</translation>
+    </message>
+    <message>
+        <source>Do not say which job was printed, only what went wrong.</source>
+        <translation>不顯示列印了哪個工作，只顯示發生的問題。</translation>
+    </message>
+    <message>
+        <source>Does nothing: the document is always copied to the queue.</source>
+        <translation>不起作用：文件一律會複製到佇列。</translation>
+    </message>
+    <message>
+        <source>Is refused: no mail is sent.</source>
+        <translation>會被拒絕：不會寄送郵件。</translation>
+    </message>
+    <message>
+        <source>Name the job TEXT.</source>
+        <translation>將工作命名為 TEXT。</translation>
+    </message>
+    <message>
+        <source>Print without a window.</source>
+        <translation>不開啟視窗直接列印。</translation>
+    </message>
+    <message>
+        <source>Write the settings of the job to standard output.</source>
+        <translation>將工作的設定寫入標準輸出。</translation>
+    </message>
+    <message>
+        <source>Without a window: keep the settings in lpoptions as an instance of the queue, so that lp -d QUEUE/NAME and other programs print with them.</source>
+        <translation>不開啟視窗：將設定儲存到 lpoptions 作為佇列的實體，使 lp -d QUEUE/NAME 與其他程式以這些設定列印。</translation>
+    </message>
+    <message>
+        <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
+        <translation>不開啟視窗：印表機的設定顯示操作說明時的處理方式：print、hold 或 refuse。通常佇列會保留工作，列印到檔案則直接進行。</translation>
+    </message>
+    <message>
+        <source>Without a window: end when the queue has the job, not when it is printed.</source>
+        <translation>不開啟視窗：佇列收到工作後即結束，不等待列印完成。</translation>
+    </message>
+    <message>
+        <source>Without a window: follow the job for SECONDS at most once its queue has it, then leave it there.</source>
+        <translation>不開啟視窗：佇列收到工作後最多追蹤 SECONDS 秒，然後將其留在佇列中。</translation>
+    </message>
+    <message>
+        <source>Without a window: json writes what became of the job to standard output, as one line that a program can read; text is what people read.</source>
+        <translation>不開啟視窗：json 將工作的結果以程式可讀取的一行寫入標準輸出；text 是供人閱讀的內容。</translation>
+    </message>
+    <message>
+        <source>Also trust the plug-in bundles in the folder DIR.</source>
+        <translation>同時信任資料夾 DIR 中的外掛套件。</translation>
+    </message>
+    <message>
+        <source>Exit with status 0 when a window can be shown, with 1 when not.</source>
+        <translation>可以顯示視窗時以狀態 0 結束，否則以 1 結束。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>顯示此說明。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>顯示版本。</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -352,6 +607,29 @@
     <message>
         <source>All pages that were found in it are printed.</source>
         <translation>其中找到的所有頁面都會列印。</translation>
+    </message>
+</context>
+<context>
+    <name>ExitStatus</name>
+    <message>
+        <source>printed, sent, or in the queue with the reason why it waits there</source>
+        <translation>已列印、已傳送，或在佇列中並說明等待的原因</translation>
+    </message>
+    <message>
+        <source>refused, failed or canceled</source>
+        <translation>遭拒絕、失敗或已取消</translation>
+    </message>
+    <message>
+        <source>a command line that cannot be understood</source>
+        <translation>無法理解的命令列</translation>
+    </message>
+    <message>
+        <source>sent, and what became of it is not known</source>
+        <translation>已傳送，但結果不明</translation>
+    </message>
+    <message>
+        <source>the time of --wait is over; the job is still in the queue</source>
+        <translation>--wait 的時間已到；工作仍在佇列中</translation>
     </message>
 </context>
 <context>
@@ -837,6 +1115,14 @@
     <message>
         <source>the name of a media type</source>
         <translation>紙張類型的名稱</translation>
+    </message>
+    <message>
+        <source>or %1</source>
+        <translation>或%1</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>秒</translation>
     </message>
 </context>
 <context>
@@ -1549,6 +1835,25 @@
     <message>
         <source>Address: %1</source>
         <translation>位址：%1</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知的選項 &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知的選項：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; 之後缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; 不接受值。</translation>
     </message>
 </context>
 <context>
@@ -2285,6 +2590,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>

@@ -88,6 +88,28 @@ refusalsSpeakTheLanguageOfTheSummary() {
     environment=(--unset=LC_ALL LANG=en_US.UTF-8 LANGUAGE=ja)
     expect_refusal 'この値は指定できません' '何も印刷されませんでした' -- -o QXMediaType=Silk
     expect_refusal '同時には使用できません' -- -o 'QXMediaType=Glossy Duplex=DuplexTumble'
+    expect_refusal '時刻 HH:MM (UTC)' -- -o job-hold-until=never
+}
+
+# A command line is read before there is a window, a printer or a display.
+whatACommandLineIsAnsweredSpeaksTheLanguage() {
+    environment=(--unset=LC_ALL --unset=DISPLAY --unset=WAYLAND_DISPLAY --unset=QT_QPA_PLATFORM LANG=C.UTF-8
+        LANGUAGE=ja)
+    run --help
+    expect_status 0
+    expect_lines 'オプション:' '  --demo                           サンプルプリンターを使えるようにします。'
+    expect_equal "$(cat "$work/err")" ''
+    run --glitter letter.pdf
+    expect_status 2
+    expect_said '不明なオプションです: "glitter"。' 'corvana-print --help'
+    run
+    expect_status 2
+    expect_said '文書の名前がありません。'
+    environment[4]=LANG=C
+    run --glitter letter.pdf
+    expect_status 2
+    expect_said "Unknown option 'glitter'."
+    expect_equal "$(wc -l <"$work/err")" 2
 }
 
 run_tests

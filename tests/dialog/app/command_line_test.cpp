@@ -250,6 +250,9 @@ private Q_SLOTS:
               u"--no-dialog"_s, u"--summary"_s, u"--bundle-root"_s, u"--check-display"_s,
               u"--version"_s, u"FILE"_s})
             QVERIFY2(result.text.contains(option), qPrintable(option));
+        for (int status = 0; status <= int(ExitStatus::StillThere); ++status)
+            QVERIFY2(result.text.contains(u"\n  %1    "_s.arg(status)), qPrintable(result.text));
+        QVERIFY(result.text.contains(u"\n  128 "_s));
     }
 
     void theVersionIsOneLine()
