@@ -229,9 +229,11 @@ QString summaryText(const QList<SummaryLine> &lines)
 {
     QString text;
     for (const SummaryLine &line : lines) {
-        text += line.isHeading
-                    ? u"%1:\n"_s.arg(terminalLine(line.title))
-                    : u"%1: %2\n"_s.arg(terminalLine(line.title), terminalLine(line.value));
+        const QString title = terminalLine(line.title);
+        text += line.isHeading ? QCoreApplication::translate("Summary", "%1:").arg(title)
+                               : QCoreApplication::translate("Summary", "%1: %2")
+                                     .arg(title, terminalLine(line.value));
+        text += u'\n';
     }
     return text;
 }

@@ -2596,6 +2596,10 @@
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 <context>
     <name>TerminalQuestions</name>

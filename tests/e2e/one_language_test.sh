@@ -9,10 +9,10 @@
 # Lines of a summary: one of the dialog, one of a PPD's option, one of a panel.
 english=('Copies: 1' 'Paper Source: Auto Select' 'Toner Save: Off')
 japanese=('部数: 1' '給紙方法: 自動選択' 'トナー節約: しない')
-chinese=('份数: 1' '纸张来源: 自动选择' '节省墨粉: 关')
+chinese=('份数：1' '纸张来源：自动选择' '节省墨粉：关')
 german=('Exemplare: 1' 'Papierquelle: Automatische Auswahl' 'Toner sparen: Aus')
 portuguese=('Cópias: 1' 'Origem do papel: Seleção automática' 'Economia de toner: Desativado')
-traditional=('份數: 1' '紙張來源: 自動選擇' '節省碳粉: 關閉')
+traditional=('份數：1' '紙張來源：自動選擇' '節省碳粉：關閉')
 
 # expect_language NAME SETTING...: what is said in an environment with nothing but these settings.
 expect_language() {

@@ -43,8 +43,9 @@ ppd_texts() {
 # expect_summary_of_the_job LANGUAGE ON OFF: the panels' own words for a choice "ON" and "OFF".
 # $described is then how many options the summary told of.
 expect_summary_of_the_job() {
-    local language=$1 on=$2 off=$3 line title value key choice number expected
+    local language=$1 on=$2 off=$3 line title value key choice number expected join=': '
     local -A text keyword given
+    [ "$language" != zh_CN. ] || join='：'
     while IFS=$'\t' read -r key value; do
         text[$key]=$value
         case $key in *' '*) ;; *) keyword[$value]=$key ;; esac
@@ -56,7 +57,7 @@ expect_summary_of_the_job() {
     # The first line tells the copies, one of the first on the panels' pages the model; the last
     # where the result is.
     while IFS= read -r line; do
-        title=${line%%: *} value=${line#*: }
+        title=${line%%"$join"*} value=${line#*"$join"}
         key=${keyword[$title]-}
         case $key in
         '')

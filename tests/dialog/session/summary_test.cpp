@@ -1,4 +1,5 @@
 #include <QTest>
+#include <QTranslator>
 
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/OptionTexts.h"
@@ -12,6 +13,22 @@ using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 using Origin = PpdSession::Origin;
+
+namespace {
+
+class ColonOfFrench : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        const bool isJoin =
+            QByteArrayView(context) == "Summary" && QByteArrayView(text) == "%1: %2";
+        return isJoin ? u"%1\u00a0: %2"_s : QString();
+    }
+};
+
+} // namespace
 
 class SummaryTest : public QObject
 {
@@ -275,6 +292,16 @@ private Q_SLOTS:
         QCOMPARE(summaryText({{u"Also in the job"_s, {}, {}, true}, {u"Tray"_s, u"Lower"_s}}),
                  u"Also in the job:\nTray: Lower\n"_s);
         QCOMPARE(summaryText({}), QString());
+    }
+
+    // Names and values come from PPDs, and a place for a value in them is none.
+    void nameAndValueAreJoinedAsTheLanguageDoes()
+    {
+        ColonOfFrench french;
+        QCoreApplication::installTranslator(&french);
+        const QString text = summaryText({{u"Name %2"_s, u"%1 value"_s}});
+        QCoreApplication::removeTranslator(&french);
+        QCOMPARE(text, u"Name %2\u00a0: %1 value\n"_s);
     }
 };
 
