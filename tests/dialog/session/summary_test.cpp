@@ -22,9 +22,9 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *text, const char *, int) const override
     {
-        const bool isJoin =
-            QByteArrayView(context) == "Summary" && QByteArrayView(text) == "%1: %2";
-        return isJoin ? u"%1\u00a0: %2"_s : QString();
+        const QString words = QString::fromLatin1(text);
+        const bool isOfSummary = QByteArrayView(context) == "Summary" && words.startsWith(u"%1:"_s);
+        return isOfSummary ? QString(words).replace(u':', u"\u00a0:"_s) : QString();
     }
 };
 
@@ -299,9 +299,10 @@ private Q_SLOTS:
     {
         ColonOfFrench french;
         QCoreApplication::installTranslator(&french);
-        const QString text = summaryText({{u"Name %2"_s, u"%1 value"_s}});
+        const QString text =
+            summaryText({{u"Parts %2"_s, {}, {}, true}, {u"Name %2"_s, u"%1 value"_s}});
         QCoreApplication::removeTranslator(&french);
-        QCOMPARE(text, u"Name %2\u00a0: %1 value\n"_s);
+        QCOMPARE(text, u"Parts %2\u00a0:\nName %2\u00a0: %1 value\n"_s);
     }
 };
 
