@@ -3398,6 +3398,10 @@ Für die Befehlszeile: %2</translation>
         <source>Documents</source>
         <translation>Dokumente</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3992,6 +3996,18 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Sie enthält zu viel: mehr als %1 verschiedene Schlüsselwörter.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Sie enthält zu viel: mehr als %1 Auswahlmöglichkeiten in einer Zeile, die mit „%2“ beginnt.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Sie enthält zu viel: mehr als %1 Auswahlmöglichkeiten in Zeilen, die mit „%2“ beginnen.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Sie enthält zu viel: Ihre Einschränkungen nennen %1 Auswahlmöglichkeiten. Neben so vielen Optionen und Auswahlmöglichkeiten, wie sie hat, sind %2 erlaubt.</translation>
     </message>
 </context>
 <context>

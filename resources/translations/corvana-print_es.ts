@@ -3398,6 +3398,10 @@ En la línea de órdenes: %2</translation>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3992,6 +3996,18 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contiene demasiados datos: más de %1 palabras clave distintas.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Contiene demasiados datos: más de %1 valores en una línea que empieza por «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Contiene demasiados datos: más de %1 valores en líneas que empiezan por «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Contiene demasiados datos: sus restricciones nombran %1 valores. Con tantas opciones y valores como tiene se admiten %2.</translation>
     </message>
 </context>
 <context>

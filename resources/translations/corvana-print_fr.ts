@@ -3398,6 +3398,10 @@ Pour la ligne de commande : %2</translation>
         <source>Documents</source>
         <translation>Documents</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3992,6 +3996,18 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Il contient trop de données : plus de %1 mots-clés différents.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Il contient trop de données : plus de %1 choix dans une ligne qui commence par « %2 ».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Il contient trop de données : plus de %1 choix dans des lignes qui commencent par « %2 ».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Il contient trop de données : ses contraintes nomment %1 choix. Avec autant d’options et de choix, %2 sont admis.</translation>
     </message>
 </context>
 <context>

@@ -3398,6 +3398,10 @@ Per la riga di comando: %2</translation>
         <source>Documents</source>
         <translation>Documenti</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3992,6 +3996,18 @@ Per la riga di comando: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contiene troppi dati: più di %1 parole chiave diverse.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Contiene troppi dati: più di %1 valori in una riga che inizia con «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Contiene troppi dati: più di %1 valori in righe che iniziano con «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Contiene troppi dati: i suoi vincoli nominano %1 valori. Con tante opzioni e tanti valori ne sono ammessi %2.</translation>
     </message>
 </context>
 <context>

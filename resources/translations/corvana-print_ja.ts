@@ -689,6 +689,18 @@
         <source>It is larger than %1 MB.</source>
         <translation>サイズが %1 MB を超えています。</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>内容が多すぎます。「%2」で始まる 1 行に %1 個を超える設定値があります。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>内容が多すぎます。「%2」で始まる行の設定値が合計 %1 個を超えています。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>内容が多すぎます。制約に %1 個の設定値が書かれています。オプションと設定値がこれだけある場合は %2 個までです。</translation>
+    </message>
 </context>
 <context>
     <name>PpdCopy</name>
@@ -2033,6 +2045,10 @@ For the command line: %2</source>
     <message>
         <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
         <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>

@@ -3396,6 +3396,10 @@ For the command line: %2</source>
         <source>Documents</source>
         <translation>문서</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3990,6 +3994,18 @@ For the command line: %2</source>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>내용이 너무 많습니다. 서로 다른 키워드가 %1개를 넘습니다.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>내용이 너무 많습니다. ‘%2’(으)로 시작하는 한 줄에 선택 항목이 %1개를 넘습니다.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>내용이 너무 많습니다. ‘%2’(으)로 시작하는 줄의 선택 항목이 %1개를 넘습니다.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>내용이 너무 많습니다. 제약 조건에 선택 항목이 %1개 있습니다. 옵션과 선택 항목이 이만큼 있을 때에는 %2개까지 허용됩니다.</translation>
     </message>
 </context>
 <context>

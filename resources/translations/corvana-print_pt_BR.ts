@@ -3398,6 +3398,10 @@ Na linha de comando: %2</translation>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3992,6 +3996,18 @@ Na linha de comando: %2</translation>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contém dados demais: mais de %1 palavras-chave diferentes.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Contém dados demais: mais de %1 valores em uma linha que começa com “%2”.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Contém dados demais: mais de %1 valores em linhas que começam com “%2”.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Contém dados demais: suas restrições citam %1 valores. Com tantas opções e valores, são permitidos %2.</translation>
     </message>
 </context>
 <context>

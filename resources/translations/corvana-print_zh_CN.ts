@@ -689,6 +689,18 @@
         <source>It is larger than %1 MB.</source>
         <translation>大小超过 %1 MB。</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>内容过多：以“%2”开头的一行中有超过 %1 个设定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>内容过多：以“%2”开头的行中有超过 %1 个设定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>内容过多：其约束条件中列出了 %1 个设定值。选项和设定值有这么多时，最多允许 %2 个。</translation>
+    </message>
 </context>
 <context>
     <name>PpdCopy</name>
@@ -2033,6 +2045,10 @@ For the command line: %2</source>
     <message>
         <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
         <translation>此作业需要 %1 张纸。超过 %2 张时需使用 --yes 才会打印。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>

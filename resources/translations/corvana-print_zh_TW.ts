@@ -3396,6 +3396,10 @@ For the command line: %2</source>
         <source>Documents</source>
         <translation>文件</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3990,6 +3994,18 @@ For the command line: %2</source>
     <message>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>內容過多：不同的關鍵字超過 %1 個。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>內容過多：以「%2」開頭的一行中有超過 %1 個設定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>內容過多：以「%2」開頭的行中有超過 %1 個設定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>內容過多：其限制條件中列出了 %1 個設定值。選項和設定值有這麼多時，最多允許 %2 個。</translation>
     </message>
 </context>
 <context>
