@@ -2289,6 +2289,13 @@
     </message>
 </context>
 <context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>Impossible d’enregistrer des fichiers temporaires dans %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>TerminalQuestions</name>
     <message>
         <source>The printer at “%1” wants a user and a password.</source>

@@ -2288,6 +2288,13 @@
     </message>
 </context>
 <context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>%1에 임시 파일을 저장할 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
     <name>TerminalQuestions</name>
     <message>
         <source>The printer at “%1” wants a user and a password.</source>

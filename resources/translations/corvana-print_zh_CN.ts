@@ -1366,6 +1366,13 @@
     </message>
 </context>
 <context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>无法在 %1 中保存临时文件：%2</translation>
+    </message>
+</context>
+<context>
     <name>TerminalQuestions</name>
     <message>
         <source>The printer at “%1” wants a user and a password.</source>

@@ -2288,6 +2288,13 @@
     </message>
 </context>
 <context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>無法在 %1 中儲存暫存檔案：%2</translation>
+    </message>
+</context>
+<context>
     <name>TerminalQuestions</name>
     <message>
         <source>The printer at “%1” wants a user and a password.</source>
