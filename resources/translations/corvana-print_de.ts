@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 kann nicht bis zum Ende gelesen werden: Dort wird eine kleine Datei mit den Einstellungen von CUPS erwartet.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3404,6 +3411,10 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>Documents</source>
         <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1 wird gelesen.</translation>
     </message>
     <message>
         <source>Cancel</source>

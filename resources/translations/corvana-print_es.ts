@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 no se puede leer hasta el final: allí se espera un archivo pequeño con la configuración de CUPS.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3404,6 +3411,10 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>Documents</source>
         <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Leyendo %1.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 ne peut pas être lu jusqu’au bout : un petit fichier contenant les réglages de CUPS y est attendu.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3404,6 +3411,10 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>Documents</source>
         <translation>Documents</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lecture de %1 en cours.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 non può essere letto fino alla fine: lì è previsto un piccolo file con le impostazioni di CUPS.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3404,6 +3411,10 @@ Per la riga di comando: %2</translation>
     <message>
         <source>Documents</source>
         <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lettura di %1 in corso.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 を最後まで読み込めません。ここには CUPS の設定を書いた小さなファイルが必要です。</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -2052,6 +2059,10 @@ For the command line: %2</source>
     <message>
         <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
         <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1 を読み込んでいます。</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1을(를) 끝까지 읽을 수 없습니다. 이 위치에는 CUPS 설정이 담긴 작은 파일이 있어야 합니다.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3402,6 +3409,10 @@ For the command line: %2</source>
     <message>
         <source>Documents</source>
         <translation>문서</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1을(를) 읽는 중입니다.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 não pode ser lido até o fim: espera-se ali um arquivo pequeno com as configurações do CUPS.</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3404,6 +3411,10 @@ Na linha de comando: %2</translation>
     <message>
         <source>Documents</source>
         <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lendo %1.</translation>
     </message>
     <message>
         <source>Cancel</source>

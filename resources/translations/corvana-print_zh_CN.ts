@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>无法将 %1 读取到末尾：此处应为包含 CUPS 设置的小文件。</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -2052,6 +2059,10 @@ For the command line: %2</source>
     <message>
         <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
         <translation>此作业需要 %1 张纸。超过 %2 张时需使用 --yes 才会打印。</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>正在读取 %1。</translation>
     </message>
     <message>
         <source>Cancel</source>

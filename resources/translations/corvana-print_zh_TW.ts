@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>無法將 %1 讀取到結尾：此處應為包含 CUPS 設定的小檔案。</translation>
+    </message>
+</context>
+<context>
     <name>CupsFilter</name>
     <message>
         <source>The program %1, named by CORVANA_PRINT_CUPSFILTER, cannot be run.</source>
@@ -3402,6 +3409,10 @@ For the command line: %2</source>
     <message>
         <source>Documents</source>
         <translation>文件</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>正在讀取 %1。</translation>
     </message>
     <message>
         <source>Cancel</source>
