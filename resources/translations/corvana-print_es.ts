@@ -2345,6 +2345,13 @@
     </message>
 </context>
 <context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>se ha acortado mientras se leía</translation>
+    </message>
+</context>
+<context>
     <name>UnattendedRun</name>
     <message>
         <source>%1 So the printer “%2” could not be asked for.</source>

@@ -1422,6 +1422,13 @@
     </message>
 </context>
 <context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>読み込み中に短くなりました</translation>
+    </message>
+</context>
+<context>
     <name>UnattendedRun</name>
     <message>
         <source>%1 So the printer “%2” could not be asked for.</source>

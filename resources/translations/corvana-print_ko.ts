@@ -2344,6 +2344,13 @@
     </message>
 </context>
 <context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>읽는 동안 짧아졌습니다</translation>
+    </message>
+</context>
+<context>
     <name>UnattendedRun</name>
     <message>
         <source>%1 So the printer “%2” could not be asked for.</source>
