@@ -7,9 +7,11 @@
 
 #include "dialog/app/Language.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/job/TemporaryFolder.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/printers/SamplePrinters.h"
+#include "dialog/server/ClientFiles.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/JobNames.h"
 #include "dialog/task/PassedOn.h"
@@ -72,8 +74,8 @@ bool takeOutput(const CommandLine &line, PrintRequest *request, QString *error)
     if (line.output == kStandardStream) {
         request->standardOutput = std::make_shared<QTemporaryDir>();
         request->output = request->standardOutput->filePath(u"result"_s);
-        *error = request->standardOutput->errorString();
-        return request->standardOutput->isValid();
+        *error = problemOf(*request->standardOutput);
+        return error->isEmpty();
     }
     if (line.output.isEmpty())
         request->output = proposedOutput(request->documents);
@@ -109,6 +111,8 @@ bool isUnattended(const CommandLine &line)
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
+    if (*error = problemOfClientFiles(); !error->isEmpty())
+        return std::nullopt;
     // Only documents are found by any name; a result under another name than the one that was
     // given would be lost.
     for (const QString &name : {line.output, line.ppd}) {
@@ -120,6 +124,12 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.options = parseOptions(line.options) + line.switches;
     const auto kinds = asksForRaw(request.options) ? DocumentKinds::Any : DocumentKinds::Known;
     for (const QString &name : line.documents) {
+        // A window does not wait for whoever writes into a pipe, or for a disk that is slow.
+        const bool isForLater = !request.toRead.isEmpty() || isReadToItsEnd(name);
+        if (!isUnattended(line) && kinds == DocumentKinds::Known && isForLater && name != "-"_L1) {
+            request.toRead += name;
+            continue;
+        }
         const Document document =
             name == "-"_L1 ? readStandardInput(error, kinds) : inspectDocument(name, error, kinds);
         if (document.path.isEmpty())

@@ -7,6 +7,7 @@
 
 #include "dialog/job/CupsFilter.h"
 #include "dialog/job/PpdFilters.h"
+#include "dialog/job/TemporaryFolder.h"
 #include "dialog/text/WholeWrite.h"
 
 namespace corvana {
@@ -77,7 +78,7 @@ FilterPlan Conversion::prepare(QString *problem)
         return {};
     m_parts = std::make_unique<QTemporaryDir>();
     if (!m_parts->isValid()) {
-        *problem = m_parts->errorString();
+        *problem = problemOf(*m_parts);
         return {};
     }
     const QString own = m_parts->filePath(u"printer.ppd"_s);

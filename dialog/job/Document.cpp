@@ -138,9 +138,11 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
 }
 
 // What can be read only once, or has a name that no program of the chain can be told.
-Document inspectCopy(int descriptor, const QString &name, DocumentKinds kinds, QString *error)
+Document inspectCopy(int descriptor, const QString &name, DocumentKinds kinds, QString *error,
+                     const std::stop_token &stop = {})
 {
-    const std::shared_ptr<QTemporaryDir> copy = copyOfDocument(descriptor, name, error);
+    const std::shared_ptr<QTemporaryDir> copy =
+        copyOfDocument(descriptor, name, error, kMostBytesOfCopy, stop);
     if (!copy)
         return {};
     Document document = inspectFile(pathOfCopy(*copy), name, kinds, error);
@@ -165,7 +167,17 @@ struct Descriptor
 
 } // namespace
 
-Document inspectDocument(const QString &path, QString *error, DocumentKinds kinds)
+bool isReadToItsEnd(const QString &path)
+{
+    struct stat info
+    {
+    };
+    return ::stat(bytesOfName(path).constData(), &info) == 0 &&
+           (S_ISFIFO(info.st_mode) || (S_ISREG(info.st_mode) && hasStrayBytes(path)));
+}
+
+Document inspectDocument(const QString &path, QString *error, DocumentKinds kinds,
+                         const std::stop_token &stop)
 {
     const QString name = shownName(path);
     const QByteArray bytes = bytesOfName(path);
@@ -195,7 +207,7 @@ Document inspectDocument(const QString &path, QString *error, DocumentKinds kind
         *error = Texts::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno));
         return {};
     }
-    return inspectCopy(file.number, name, kinds, error);
+    return inspectCopy(file.number, name, kinds, error, stop);
 }
 
 QString nameOfFormat(const QString &format)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stop_token>
 
 #include <QString>
 
@@ -40,8 +41,14 @@ enum class DocumentKinds {
 /// named pipe, are read to their ends into a file of the user's own; devices are refused.
 ///
 /// Errors: an empty path; `error` then says which file and what is wrong with it.
+/// `stop` ends the reading early.
 Document inspectDocument(const QString &path, QString *error,
-                         DocumentKinds kinds = DocumentKinds::Known);
+                         DocumentKinds kinds = DocumentKinds::Known,
+                         const std::stop_token &stop = {});
+
+/// Whether such a document is read to its end before it is known what it is: that takes as long as
+/// somebody writes into it.
+bool isReadToItsEnd(const QString &path);
 
 /// The document that comes on standard input, read to its end into a temporary file of the user's.
 /// Errors: as inspectDocument().

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stop_token>
 
 #include <QString>
 #include <QTemporaryDir>
@@ -15,10 +16,12 @@ inline constexpr qint64 kMostBytesOfCopy = qint64(4) * 1024 * 1024 * 1024;
 ///
 /// `descriptor` is left open; `name` is what messages call it. Where it is a pipe that nobody has
 /// opened for writing yet, it is waited for as long as a person would think that it works.
+/// `stop` ends it early, with an error that nobody is to read.
 /// Ownership: the folder holds the file "document", and removes it at its end.
 /// Errors: null; `error` says what is wrong.
 std::shared_ptr<QTemporaryDir> copyOfDocument(int descriptor, const QString &name, QString *error,
-                                              qint64 mostBytes = kMostBytesOfCopy);
+                                              qint64 mostBytes = kMostBytesOfCopy,
+                                              const std::stop_token &stop = {});
 
 /// Where that file is.
 QString pathOfCopy(const QTemporaryDir &folder);

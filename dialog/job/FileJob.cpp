@@ -1,5 +1,7 @@
 #include "dialog/job/FileJob.h"
 
+#include <QTimer>
+
 #include "dialog/job/ResultPages.h"
 
 namespace corvana {
@@ -69,6 +71,12 @@ void FileJob::cancel()
 {
     if (m_canceled || outcome())
         return;
+    if (m_flush) {
+        m_canceled = true;
+        m_flush.reset();
+        QTimer::singleShot(0, this, [this] { fail(tr("Printing was canceled.")); });
+        return;
+    }
     if (m_conversion)
         m_conversion->cancel();
     else if (m_texts)
@@ -80,7 +88,18 @@ void FileJob::converted(const QString &problem)
 {
     if (!problem.isEmpty())
         return fail(problem);
-    checkResultPages(m_result->path(), this, [this](const QString &why) { publish(why); });
+    checkResultPages(m_result->path(), this, [this](const QString &why) { flush(why); });
+}
+
+// What a disk or a server has not taken is not printed. It may take its time, and may be canceled.
+void FileJob::flush(const QString &problem)
+{
+    if (!problem.isEmpty())
+        return fail(problem);
+    m_flush = std::make_unique<SlowWork>(
+        [this, flushing = m_result->flushing()](const std::stop_token &) -> SlowWork::Then {
+            return [this, why = flushing()] { publish(why); };
+        });
 }
 
 void FileJob::publish(const QString &problem)

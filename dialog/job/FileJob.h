@@ -9,6 +9,7 @@
 #include "dialog/job/Document.h"
 #include "dialog/job/Job.h"
 #include "dialog/job/ResultFile.h"
+#include "dialog/job/SlowWork.h"
 #include "dialog/job/TextDocuments.h"
 #include "dialog/session/JobTicket.h"
 
@@ -44,6 +45,7 @@ private:
     QString prepare();
     void convert(const QString &problem);
     void converted(const QString &problem);
+    void flush(const QString &problem);
     void publish(const QString &problem);
     void fail(const QString &problem);
 
@@ -51,6 +53,7 @@ private:
     std::unique_ptr<ResultFile> m_result;
     std::unique_ptr<TextDocuments> m_texts;
     std::unique_ptr<Conversion> m_conversion;
+    std::unique_ptr<SlowWork> m_flush;
     bool m_canceled = false;
 };
 

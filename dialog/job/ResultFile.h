@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QString>
@@ -26,6 +27,11 @@ public:
     QString path() const { return m_path; }
     /// The name that it takes, as a user says it; absolute.
     QString name() const { return m_name; }
+
+    /// Has what was written reach its disk or its server, which may say only then that it has no
+    /// room, and may take long. Answers why that failed; empty when it did not. To be called on any
+    /// thread; it may outlive the result.
+    std::function<QString()> flushing() const;
 
     /// Gives it its name. Answers why that failed; empty when it did not.
     QString publish();

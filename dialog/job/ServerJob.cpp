@@ -10,6 +10,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/PpdFilters.h"
 #include "dialog/job/SeparateJobs.h"
+#include "dialog/job/TemporaryFolder.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 
@@ -267,7 +268,7 @@ void ServerJob::runConversion(const ConversionRequest &request, QLatin1StringVie
     if (!m_parts)
         m_parts = std::make_unique<QTemporaryDir>();
     if (!m_parts->isValid())
-        return finish({JobOutcome::Kind::Failed, 0, m_parts->errorString()});
+        return finish({JobOutcome::Kind::Failed, 0, problemOf(*m_parts)});
     const bool isOne = request.documents.size() == 1;
     m_converted = {m_parts->filePath(u"document-%1"_s.arg(m_pickedOf)), format,
                    isOne ? request.documents.constFirst().title : m_request.ticket.title};

@@ -4,6 +4,7 @@
 
 #include <QTimer>
 
+#include "dialog/job/TemporaryFolder.h"
 #include "dialog/session/JobAttributes.h"
 
 namespace corvana {
@@ -76,7 +77,7 @@ void TextDocuments::convertNext()
     if (!m_folder)
         m_folder = std::make_unique<QTemporaryDir>();
     if (!m_folder->isValid())
-        return end(m_folder->errorString());
+        return end(problemOf(*m_folder));
     const QString pdf = m_folder->filePath(u"%1.pdf"_s.arg(m_next));
     if (m_documents.at(m_next).format == kText)
         layOutText(pdf);

@@ -14,6 +14,7 @@
 #include <QHash>
 #include <QSet>
 
+#include "dialog/session/PpdLines.h"
 #include "platform/foundation/ForeignText.h"
 
 namespace corvana {
@@ -35,6 +36,8 @@ constexpr QByteArrayView kSizeKeywords[] = {"pagesize", "pageregion", "imageable
                                             "paperdimension"};
 // Those of CUPS' own are attributes to libcups, which puts each behind all that are there.
 constexpr QByteArrayView kConstraints[] = {"uiconstraints", "nonuiconstraints"};
+constexpr QByteArrayView kConstraintOfCups = "cupsuiconstraints";
+constexpr QByteArrayView kResolver = "cupsuiresolver";
 constexpr QByteArrayView kOpeningOfOption[] = {"openui", "jclopenui"};
 constexpr QByteArrayView kOpeningOfGroup[] = {"opengroup", "opensubgroup"};
 
@@ -92,12 +95,12 @@ class LineCount
 public:
     explicit LineCount(const PpdBounds &bounds) : m_bounds(bounds) {}
 
-    // The next line of the file, without its end. False when it is one too many.
-    bool add(QByteArrayView line)
+    // The next line of the file. False when it is one too many.
+    bool add(const PpdLines::Line &whole)
     {
-        if (!line.startsWith('*') || saysNothing(line))
+        if (!whole.begin.startsWith('*') || saysNothing(whole.begin))
             return true;
-        line = line.sliced(1);
+        const QByteArrayView line = whole.begin.sliced(1);
         const Keyword keyword(line);
         // Most lines begin as the one before them does.
         if (!m_count || keyword.view() != m_keyword)
@@ -109,6 +112,8 @@ public:
                                       : Keyword(line.sliced(name + 1)).view().toByteArray());
         }
         const int lines = ++*m_count;
+        if (!addTerms(whole.stars - 1))
+            return false;
         if (m_lines.size() > m_bounds.keywords)
             return refuse(Texts::tr("There is too much in it: more than %1 different keywords.")
                               .arg(QString::number(m_bounds.keywords)));
@@ -122,6 +127,17 @@ public:
         default:
             return lines <= boundOf(m_kind) || refuseLines(m_keyword, boundOf(m_kind));
         }
+    }
+
+    // Behind the last line. False when it is all together too much.
+    bool end()
+    {
+        const qint64 asked = m_lines.value("openui") + m_lines.value("jclopenui") + mostChoices();
+        const qint64 allowed = m_bounds.questions / std::max<qint64>(1, asked);
+        return m_terms <= allowed ||
+               refuse(Texts::tr("There is too much in it: its constraints name %1 choices. Beside "
+                                "as many options and choices as it has, %2 are allowed.")
+                          .arg(QString::number(m_terms), QString::number(allowed)));
     }
 
     QString excess() const { return m_excess; }
@@ -200,6 +216,35 @@ private:
                        .arg(QString::number(m_bounds.attributes), mostFrequent(Kind::Attribute)));
     }
 
+    // What a constraint or the way out of one names, in the line that was read last.
+    bool addTerms(int terms)
+    {
+        const bool isResolver = m_keyword == kResolver;
+        if (!isResolver && m_keyword != kConstraintOfCups && m_kind != Kind::Constraint)
+            return true;
+        if (terms > m_bounds.termsOfLine)
+            return refuse(Texts::tr("There is too much in it: more than %1 choices in one line "
+                                    "that begins with “%2”.")
+                              .arg(QString::number(m_bounds.termsOfLine), shown(m_keyword)));
+        const int bound = isResolver ? m_bounds.resolverTerms : m_bounds.terms;
+        int &all = isResolver ? m_resolverTerms : m_terms;
+        all += terms;
+        return all <= bound ||
+               refuse(Texts::tr("There is too much in it: more than %1 choices in lines that begin "
+                                "with “%2”.")
+                          .arg(QString::number(bound), shown(m_keyword)));
+    }
+
+    int mostChoices() const
+    {
+        int most = 0;
+        for (auto one = m_lines.cbegin(); one != m_lines.cend(); ++one) {
+            if (*one > most && m_options.contains(one.key()))
+                most = *one;
+        }
+        return most;
+    }
+
     // The keyword with the most lines, of options or of what belongs to none; the first by name.
     QString mostFrequent(Kind kind) const
     {
@@ -241,16 +286,10 @@ private:
     Kind m_kind = Kind::Attribute;
     int m_choices = 0;
     int m_attributes = 0;
+    int m_terms = 0;         ///< of all constraints
+    int m_resolverTerms = 0; ///< of all ways out of them
     QString m_excess;
 };
-
-// Its size where no line ends in it.
-qsizetype endOfLine(QByteArrayView text)
-{
-    const auto *end =
-        std::find_if(text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; });
-    return end - text.begin();
-}
 
 struct FileCloser
 {
@@ -268,7 +307,7 @@ QString excessOfPpd(const QString &path, const PpdBounds &bounds)
     const std::unique_ptr<cups_file_t, FileCloser> file(
         cupsFileOpen(QFile::encodeName(path).constData(), "r"));
     LineCount count(bounds);
-    QByteArray line; // as far as it has been read
+    PpdLines lines([&](const PpdLines::Line &line) { return count.add(line); });
     qint64 size = 0;
     std::array<char, 65536> block{};
     for (;;) {
@@ -280,25 +319,10 @@ QString excessOfPpd(const QString &path, const PpdBounds &bounds)
         if (size > bounds.bytes)
             return Texts::tr("It is larger than %1 MB.")
                 .arg(QString::number(bounds.bytes / (1024 * 1024)));
-        // To libcups this sign, of what once was the end of a file, is not there.
-        const char *kept = std::remove(block.data(), block.data() + length, '\x1a');
-        for (QByteArrayView rest(block.data(), kept); !rest.isEmpty();) {
-            const qsizetype end = endOfLine(rest);
-            // Only the beginning of a line matters.
-            constexpr qsizetype kLongest = 512;
-            const QByteArrayView part = rest.first(std::min(end, kLongest - line.size()));
-            const bool isWhole = end < rest.size();
-            if (!isWhole || !line.isEmpty())
-                line += part;
-            if (!isWhole)
-                break;
-            if (!count.add(line.isEmpty() ? part : QByteArrayView(line)))
-                return count.excess();
-            line.resize(0);
-            rest = rest.sliced(end + 1);
-        }
+        if (!lines.read({block.data(), length}))
+            return count.excess();
     }
-    return count.add(line) ? QString() : count.excess();
+    return lines.end() && count.end() ? QString() : count.excess();
 }
 
 } // namespace corvana

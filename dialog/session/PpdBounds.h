@@ -15,6 +15,12 @@ struct PpdBounds
     int allChoices = 50'000;
     int sizes = 2'000; ///< of papers, each looked up among all of them
     int constraints = 20'000;
+    int termsOfLine = 50;      ///< choices that one constraint names
+    int terms = 40'000;        ///< and all of them together
+    int resolverTerms = 2'000; ///< what is tried one by one where a constraint is in the way
+    /// Constraints are asked for each option and for each choice of one: what they name, times
+    /// these.
+    qint64 questions = 10'000'000;
     int groups = 1'000;
     int attributes = 20'000;    ///< anything else; of each language by itself
     int sameAttributes = 5'000; ///< with one keyword: each is put behind all that are there

@@ -1,7 +1,5 @@
 #include "dialog/session/PpdSession.h"
 
-#include <algorithm>
-
 #include <QLoggingCategory>
 
 #include "dialog/session/ChoiceCodes.h"
@@ -12,23 +10,6 @@ namespace corvana {
 Q_LOGGING_CATEGORY(lcSession, "corvana.dialog.session", QtWarningMsg)
 
 namespace {
-
-QList<OptionChoice> takeOptions(int count, cups_option_t *options)
-{
-    QList<OptionChoice> choices;
-    for (int i = 0; i < count; ++i)
-        choices += OptionChoice{ppdKeyword(options[i].name), ppdKeyword(options[i].value)};
-    cupsFreeOptions(count, options);
-    return choices;
-}
-
-// What libcups says collides with a choice: every option that takes part in any conflict.
-QList<OptionChoice> allConflicts(ppd_file_t *ppd, const QString &keyword, const char *choice)
-{
-    cups_option_t *conflicting = nullptr;
-    const int count = cupsGetConflicts(ppd, keyword.toLatin1().constData(), choice, &conflicting);
-    return takeOptions(count, conflicting);
-}
 
 // The keyword under which a choice stands in the PPD: all custom values are the one choice
 // "Custom".
@@ -137,36 +118,14 @@ ChangeResult PpdSession::change(const QString &keyword, const QString &choice, O
 QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
 {
     const SessionSnapshot before = snapshot();
-    // The paper first: what else is possible may depend on it.
-    QList<OptionChoice> ordered = choices;
-    std::stable_partition(ordered.begin(), ordered.end(),
-                          [](const OptionChoice &c) { return c.keyword == kPageSizeOption; });
-    QList<Refusal> refusals;
-    for (const OptionChoice &choice : std::as_const(ordered)) {
-        if (const OptionChoice locked = lockInTheWay(choice); !locked.keyword.isNull())
-            refusals += Refusal{choice, {}, locked};
-        else if (!mark(choice.keyword, choice.choice))
-            refusals += Refusal{choice, {}};
-        else if (const OptionChoice moved = movedLock(); !moved.keyword.isNull())
-            refusals += Refusal{choice, {}, moved};
-    }
-    // Before conflicts are looked for: one with what was not marked would not be there.
-    if (!refusals.isEmpty() && !refusals.constFirst().locked.keyword.isNull()) {
-        restore(before);
-        return refusals;
-    }
-    for (const OptionChoice &choice : std::as_const(ordered)) {
-        const QList<OptionChoice> conflicting = conflictsOf(choice);
-        if (!conflicting.isEmpty())
-            refusals += Refusal{choice, conflicting};
-    }
+    const QList<Refusal> refusals = markTogether(choices);
     if (!refusals.isEmpty()) {
         restore(before);
         return refusals;
     }
     recordMarks();
     const bool otherPaper = updatePageFormat();
-    for (const OptionChoice &choice : std::as_const(ordered)) {
+    for (const OptionChoice &choice : inOrder(choices)) {
         if (before.marks.value(choice.keyword) != markedChoice(choice.keyword) ||
             before.customValues.value(choice.keyword) != customValue(choice.keyword))
             Q_EMIT changed(choice.keyword, markedChoice(choice.keyword), Origin::Dialog);
@@ -174,28 +133,6 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
     if (otherPaper)
         Q_EMIT paperChanged();
     return {};
-}
-
-QList<OptionChoice> PpdSession::wayOut(const OptionChoice &proposed)
-{
-    const QByteArray option = proposed.keyword.toLatin1();
-    const QByteArray choice = proposed.choice.toLatin1();
-    cups_option_t *resolved = nullptr;
-    int count = 0;
-    if (!cupsResolveConflicts(m_ppd.get(), option.constData(), choice.constData(), &count,
-                              &resolved)) {
-        cupsFreeOptions(count, resolved);
-        return {};
-    }
-    QList<OptionChoice> others = takeOptions(count, resolved);
-    others.removeIf([&](const OptionChoice &other) {
-        return other.keyword == proposed.keyword || markedChoice(other.keyword) == other.choice;
-    });
-    // A way that leads through a lock is none.
-    const bool isLocked = std::any_of(others.cbegin(), others.cend(), [&](const OptionChoice &one) {
-        return !lockInTheWay(one).keyword.isNull();
-    });
-    return isLocked || !lockInTheWay(proposed).keyword.isNull() ? QList<OptionChoice>() : others;
 }
 
 SessionSnapshot PpdSession::snapshot() const
@@ -374,21 +311,6 @@ void PpdSession::setDuplex(PMDuplexMode mode)
     else if (mode == kPMDuplexTumble)
         choice = kDuplexShortEdge;
     change(kDuplexOption, choice, Origin::Panel);
-}
-
-QList<OptionChoice> PpdSession::conflictsOf(const OptionChoice &choice) const
-{
-    QList<OptionChoice> conflicting = allConflicts(
-        m_ppd.get(), choice.keyword, choiceKeyword(choice.choice).toLatin1().constData());
-    if (conflicting.isEmpty())
-        return {};
-    // A conflict that is there without this option is none of its own. "None" and "False" both mean
-    // that an option is off; a PPD may constrain a choice of one of these names, but not of both.
-    const QList<OptionChoice> none = allConflicts(m_ppd.get(), choice.keyword, "None");
-    const QList<OptionChoice> off = allConflicts(m_ppd.get(), choice.keyword, "False");
-    conflicting.removeIf(
-        [&](const OptionChoice &other) { return none.contains(other) && off.contains(other); });
-    return conflicting;
 }
 
 } // namespace corvana

@@ -112,6 +112,9 @@ public:
     /// Unknown names must have been refused before.
     QList<Refusal> changeTogether(const QList<OptionChoice> &choices);
 
+    /// What changeTogether() would refuse; nothing is changed, and nobody hears of it.
+    QList<Refusal> refusalsOf(const QList<OptionChoice> &choices);
+
     /// Options that say the same as a choice in another form, with the choices that they would get.
     using Companions = std::function<QList<OptionChoice>(const OptionChoice &)>;
     /// Keeps options at what they are: no change, restored state or companion of a choice moves
@@ -147,6 +150,9 @@ Q_SIGNALS:
 
 private:
     bool mark(const QString &keyword, const QString &choice);
+    QList<Refusal> markTogether(const QList<OptionChoice> &choices);
+    /// The paper first: what else is possible may depend on it.
+    static QList<OptionChoice> inOrder(QList<OptionChoice> choices);
     void unmark(const QString &keyword);
     QMap<QString, QString> allMarks() const;
     void recordMarks();

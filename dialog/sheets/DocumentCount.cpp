@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include "dialog/job/CupsFilter.h"
+#include "dialog/job/TemporaryFolder.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/sheets/FirstSheets.h"
@@ -268,7 +269,7 @@ bool DocumentCount::makeFolder(std::unique_ptr<QTemporaryDir> &folder, QString *
     if (!folder)
         folder = std::make_unique<QTemporaryDir>();
     if (!folder->isValid())
-        *problem = folder->errorString();
+        *problem = problemOf(*folder);
     return problem->isEmpty();
 }
 

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 
+#include "dialog/job/TemporaryFolder.h"
 #include "dialog/sheets/DocumentCount.h"
 
 namespace corvana {
@@ -98,6 +99,10 @@ void SheetCounter::begin()
 {
     m_sofar = {{}, m_request->traits.isTwoSided, m_request->traits.isByHand};
     m_folder = std::make_unique<QTemporaryDir>();
+    if (const QString problem = problemOf(*m_folder); !problem.isEmpty()) {
+        qCInfo(lcSheets).noquote() << "the sheets are not counted:" << problem;
+        return end(DocumentSheets::Trouble::Failed);
+    }
     QFile ppd(m_folder->filePath(u"layout.ppd"_s));
     const QByteArray content = layoutPpd(m_request->traits);
     const bool isReady =

@@ -29,6 +29,7 @@ struct PolicyEntry;
 struct PrintRequest
 {
     QList<Document> documents; ///< printed one after the other, as one job
+    QStringList toRead{};      ///< behind them; a window is there before they are complete
     /// Those that no server is needed for: PPD files and samples.
     QList<Printer> printers;
     /// A printer by its name, a queue or a URI; empty for the usual one.

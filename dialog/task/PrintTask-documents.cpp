@@ -1,9 +1,21 @@
 #include "dialog/task/PrintTask.h"
 
+#include <utility>
+
+#include <QTimer>
+
+#include "dialog/job/FileBytes.h"
 #include "dialog/task/JobNames.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
+
+namespace {
+
+// How often it is looked whether a job has ended. Units: milliseconds.
+constexpr int kPatience = 200;
+
+} // namespace
 
 bool PrintTask::canChangeDocuments() const
 {
@@ -24,8 +36,14 @@ void PrintTask::addDocuments(const QStringList &paths)
         return;
     QList<Document> documents = m_request.documents;
     QStringList problems;
+    bool waits = false;
     for (const QString &path : paths) {
         QString problem;
+        // What stands behind one keeps its place.
+        if (waits = waits || isReadToItsEnd(path); waits) {
+            m_looks.toRead += path;
+            continue;
+        }
         const Document document = inspectDocument(path, &problem);
         if (document.path.isEmpty())
             problems += problem;
@@ -36,6 +54,42 @@ void PrintTask::addDocuments(const QStringList &paths)
         chooseDocuments(documents);
     if (!problems.isEmpty())
         say(TaskMessage::Kind::Problem, problems.join(u'\n'));
+    readDocuments();
+}
+
+// What is written by another program comes when it is complete, one after the other, and nobody has
+// to wait for it.
+void PrintTask::readDocuments()
+{
+    if (!m_looks.read.isEmpty() && !canChangeDocuments()) // when the job has ended
+        return QTimer::singleShot(kPatience, this, &PrintTask::readDocuments);
+    if (!m_looks.read.isEmpty())
+        chooseDocuments(m_request.documents + std::exchange(m_looks.read, {}));
+    if (m_looks.reading || m_looks.toRead.isEmpty())
+        return;
+    const QString path = m_looks.toRead.takeFirst();
+    const auto cancel = [this] {
+        m_looks.toRead.clear();
+        m_looks.reading.reset();
+        Q_EMIT unsaid();
+    };
+    Q_EMIT said({.text = tr("%1 is being read.").arg(shownName(path)),
+                 .offer = tr("Cancel"),
+                 .take = cancel,
+                 .staysWithoutPrinter = true});
+    m_looks.reading =
+        std::make_unique<SlowWork>([this, path](const std::stop_token &stop) -> SlowWork::Then {
+            QString problem;
+            const Document document = inspectDocument(path, &problem, DocumentKinds::Known, stop);
+            return [this, document, problem] {
+                m_looks.reading.release()->deleteLater(); // which has called this
+                if (document.path.isEmpty())
+                    say(TaskMessage::Kind::Problem, problem);
+                else
+                    m_looks.read += document;
+                readDocuments();
+            };
+        });
 }
 
 void PrintTask::removeDocument(int index)

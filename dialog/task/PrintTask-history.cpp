@@ -8,6 +8,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/AttributeEffects.h"
+#include "dialog/task/LeftSession.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/TaskPresets.h"
 #include "platform/pde/PDEPanel.h"
@@ -23,6 +24,21 @@ QStringList withOtherForm(QStringList names)
     if (isTray != names.contains(kManualFeedOption))
         names += isTray ? kManualFeedOption : kInputSlotOption;
     return names;
+}
+
+// A printer whose options are others by now takes what it has still. `then` and `opened`: what was
+// marked when it was opened with those, and with these.
+SessionSnapshot withOptionsOfNow(const TaskSettings &settings, const SessionSnapshot &then,
+                                 const SessionSnapshot &opened, const QByteArray &hash,
+                                 PpdSession &session)
+{
+    if (settings.ppdHash == hash)
+        return settings.session;
+    session.restore(opened);
+    restoreLeft(
+        {.opened = then, .left = settings.session, .ppdHash = settings.ppdHash, .attributes = {}},
+        hash, session);
+    return session.snapshot();
 }
 
 } // namespace
@@ -59,9 +75,11 @@ void PrintTask::takeComingSettings()
     const std::optional<TaskSettings> settings = std::exchange(m_baseline.coming, std::nullopt);
     if (!settings || idOf(settings->printer) != idOf(m_chosen.printer))
         return;
-    // A printer whose options are others by now has taken what it has still.
-    if (settings->ppdHash == m_opened->fetched.ppd->hash) {
-        m_opened->panels->restoreTo(settings->session);
+    const bool isKnown = m_baseline.everOpened.contains(settings->ppdHash);
+    if (isKnown || settings->ppdHash == m_opened->fetched.ppd->hash) {
+        m_opened->panels->restoreTo(
+            withOptionsOfNow(*settings, m_baseline.everOpened.value(settings->ppdHash),
+                             m_baseline.opened, m_opened->fetched.ppd->hash, *m_opened->session));
         m_settings = settings->job;
         m_settings.setLocks(m_opened->session->locks());
         m_settings.setMostCopies(mostCopiesOf(*m_opened));
@@ -90,10 +108,8 @@ void PrintTask::beginHistory()
         history.begin(now);
     else if (idOf(history.present().printer) != idOf(now.printer))
         history.add(now, {tr("Printer"), {}});
-    else if (history.present().ppdHash != now.ppdHash)
-        history.begin(now);
     else
-        history.replacePresent(now);
+        history.replacePresent(now); // its options may be others by now
     Q_EMIT historyChanged();
 }
 
@@ -136,9 +152,11 @@ void PrintTask::undo()
     if (!canUndo())
         return;
     const std::shared_ptr<const PresetStep> preset = m_baseline.history.undoStep().preset;
+    const QString text = undoText(); // of what was recorded just now as well
     goTo(m_baseline.history.undo());
     if (preset)
         presets().stepBack(*preset);
+    Q_EMIT stepped(text);
 }
 
 void PrintTask::redo()
@@ -147,9 +165,11 @@ void PrintTask::redo()
     if (!canRedo())
         return;
     const std::shared_ptr<const PresetStep> preset = m_baseline.history.redoStep().preset;
+    const QString text = redoText();
     goTo(m_baseline.history.redo());
     if (preset)
         presets().stepForward(*preset);
+    Q_EMIT stepped(text);
 }
 
 QString PrintTask::backText() const

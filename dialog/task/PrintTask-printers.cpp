@@ -32,6 +32,7 @@ void PrintTask::start()
     m_looks.documents.check(m_request.documents);
     choosePrinter(m_source.first());
     m_chosen.deliberately = !m_source.firstIsProvisional();
+    addDocuments(m_request.toRead);
 }
 
 void PrintTask::startUnattended()
@@ -120,6 +121,7 @@ void PrintTask::open(const FetchedPrinter &ready)
     const auto prepare = [&](OpenedPrinter &opened) {
         lock(opened);
         m_baseline.opened = opened.session->snapshot();
+        m_baseline.everOpened.insert(ready.ppd->hash, m_baseline.opened);
         if (memory.session)
             lost = restoreLeft(*memory.session, ready.ppd->hash, *opened.session);
         // What panels had stored was stored before there was a lock, or another one.
@@ -234,7 +236,10 @@ void PrintTask::takeExpectedPrinter()
     const std::optional<Printer> expected = m_source.expected();
     const bool complete = m_source.queues().state() == QueueList::State::Known;
     if (expected && (complete || expected->isDefault)) {
-        m_baseline.history.clear();
+        // Where the user has done something, such as to the documents, it is a step like any other:
+        // nobody loses what can be taken back.
+        if (m_baseline.history.count() == 0)
+            m_baseline.history.clear();
         choosePrinter(*expected);
     }
 }

@@ -223,8 +223,7 @@ public:
     {
         return m_run.job && m_run.job->isHandedOver() && !isFirstPass();
     }
-    /// Whether one half of the sides is printed by now, or is being printed, and the other half is
-    /// not.
+    /// Whether one half of the sides is printed by now, or is being printed; the other is not.
     bool isBetweenPasses() const
     {
         return m_phase == Phase::Turning || (m_run.job && isFirstPass());
@@ -241,10 +240,10 @@ Q_SIGNALS:
     void printerClosed();
     /// What is known of printer() is other than it was.
     void printerChanged();
-    /// A choice is another one: what a face shows has to be read again.
-    void settingsChanged();
+    void settingsChanged(); ///< what a face shows has to be read again
     /// canUndo(), canRedo(), their texts or base() are others.
     void historyChanged();
+    void stepped(const QString &text); ///< what undo() or redo() has done
     /// Other documents are printed, or in another order.
     void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
@@ -280,6 +279,7 @@ private:
     void say(TaskMessage::Kind kind, const QString &text);
     void chooseDocuments(QList<Document> documents);
     void setDocuments(const QList<Document> &documents);
+    void readDocuments();
     void documentsLookedAt();
     void sayOfDocuments();
     QString problemOf(const Document &document) const;

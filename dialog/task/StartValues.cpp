@@ -20,6 +20,7 @@
 #include "dialog/task/PrintRequest.h"
 #include "dialog/task/SavedAsPdf.h"
 #include "dialog/task/StartPresets.h"
+#include "dialog/task/WhatFits.h"
 
 namespace corvana {
 
@@ -74,45 +75,6 @@ bool isNamed(const QList<JobOption> &options, const QString &name)
 {
     return std::any_of(options.cbegin(), options.cend(),
                        [&](const JobOption &option) { return option.name == name; });
-}
-
-// A list of a paper, its source and its type is as many wishes.
-QList<JobOption> inParts(const QList<JobOption> &options)
-{
-    QList<JobOption> parts;
-    for (const JobOption &option : options) {
-        if (option.name.compare("media"_L1, Qt::CaseInsensitive) != 0) {
-            parts += option;
-            continue;
-        }
-        const QStringList words = option.value.split(u',');
-        for (const QString &word : words)
-            parts += JobOption{option.name, word};
-    }
-    return parts;
-}
-
-// As much as the printer has. `problems` names each option that was not taken.
-OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
-{
-    const auto apply = [&](const QList<JobOption> &some) {
-        return applyOptions(some, *printer.session, printer.jobValues, *printer.panels);
-    };
-    if (options.isEmpty())
-        return {};
-    OptionOutcome fitted = apply(options);
-    if (fitted.ok())
-        return fitted;
-    // Together they cannot be taken, so each for itself, as far as they go.
-    fitted = {};
-    for (const JobOption &option : inParts(options)) {
-        const OptionOutcome one = apply({option});
-        fitted.problems += one.problems;
-        fitted.attributes += one.attributes;
-        if (one.copies)
-            fitted.copies = one.copies;
-    }
-    return fitted;
 }
 
 QString named(const JobOption &option)

@@ -3,10 +3,12 @@
 #include <memory>
 #include <optional>
 
+#include <QHash>
 #include <QTimer>
 
 #include "dialog/documents/DocumentChecks.h"
 #include "dialog/job/Job.h"
+#include "dialog/job/SlowWork.h"
 #include "dialog/printers/FetchedPrinter.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/PanelHost.h"
@@ -84,6 +86,9 @@ struct TaskState
     {
         DocumentChecks documents;
         std::unique_ptr<TextCheck> texts;
+        QStringList toRead;   // documents that somebody is writing yet
+        QList<Document> read; // of them, to be printed with the others
+        std::unique_ptr<SlowWork> reading;
         QTimer textPatience;  // until a job is made without the finding of the texts
         QStringList declined; // documents whose password somebody does not want to give
         QStringList told;     // what was said of them
@@ -94,7 +99,10 @@ struct TaskState
     };
     struct Baseline
     {
-        SessionSnapshot opened;  // before any option was taken
+        SessionSnapshot opened; // before any option was taken
+        // The same for all options that printers had, by the hash of their PPD: steps may lead back
+        // to settings of a time when they were others.
+        QHash<QByteArray, SessionSnapshot> everOpened;
         SessionSnapshot started; // before the user changed anything
         SessionSnapshot shown;   // as the face was told last
         QList<JobOption> chosen; // attributes, before the user changed anything

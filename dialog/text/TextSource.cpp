@@ -2,11 +2,18 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+
 namespace corvana {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(TextSource)
+};
 
 constexpr qint64 kPiece = 64 * 1024;
 
@@ -19,6 +26,7 @@ TextSource::TextSource(const QString &path, const QString &userLanguage, QString
         *problem = m_problem = m_file.errorString();
         return;
     }
+    m_size = m_file.size();
     m_encoding = recognizeEncoding(m_file, userLanguage);
     m_decoder = std::make_unique<TextDecoder>(m_encoding.name);
     // A system may have come without the tables of the rarer encodings.
@@ -39,6 +47,9 @@ std::u32string TextSource::read()
         m_atEnd = piece.isEmpty();
         if (m_atEnd && m_file.error() != QFileDevice::NoError)
             m_problem = m_file.errorString();
+        // Whoever writes it anew has emptied it; nobody is to take a part of it for the whole.
+        else if (m_atEnd && m_file.pos() < m_size)
+            m_problem = Texts::tr("it has become shorter meanwhile");
         characters = m_decoder->decode(piece, m_atEnd);
     }
     if (m_endsLinesWithReturn)

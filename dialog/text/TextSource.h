@@ -31,6 +31,7 @@ private:
     TextEncoding m_encoding;
     std::unique_ptr<TextDecoder> m_decoder;
     QString m_problem;
+    qint64 m_size = 0; // at the beginning
     bool m_endsLinesWithReturn = false;
     bool m_atEnd = true;
 };

@@ -56,24 +56,42 @@ protected:
     void paintEvent(QPaintEvent *) override { paintFrame(this); }
 };
 
-/// Inside the current tab: there is no room around a row of tabs.
+/// Inside the current tab: there is no room around a row of tabs. Tabs that have no room scroll, by
+/// buttons that lie over them and over the frame.
 class TabFrame : public QWidget
 {
 public:
-    explicit TabFrame(QTabBar *bar) : QWidget(bar)
+    explicit TabFrame(QTabBar *bar) : QWidget(bar), m_bar(bar)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        const auto place = [this, bar] {
-            setGeometry(bar->tabRect(bar->currentIndex())
-                            .adjusted(kInsideTab, kInsideTab, -kInsideTab, -kInsideTab));
-        };
-        connect(bar, &QTabBar::currentChanged, this, place);
+        setObjectName(QStringLiteral("tabFrame"));
+        connect(bar, &QTabBar::currentChanged, this, &TabFrame::place);
+        bar->installEventFilter(this);
+        lower();
         place();
         show();
     }
 
 protected:
     void paintEvent(QPaintEvent *) override { paintFrame(this); }
+
+    // Of tabs that have scrolled, or have become longer or shorter, nothing is told but that they
+    // are painted anew.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            QMetaObject::invokeMethod(this, &TabFrame::place, Qt::QueuedConnection);
+        return QWidget::eventFilter(watched, event);
+    }
+
+private:
+    void place()
+    {
+        setGeometry(m_bar->tabRect(m_bar->currentIndex())
+                        .adjusted(kInsideTab, kInsideTab, -kInsideTab, -kInsideTab));
+    }
+
+    QTabBar *m_bar;
 };
 
 bool hardlyShowsFocus(const QWidget *widget)

@@ -40,16 +40,14 @@ const QLineEdit *fieldOf(const QObject *widget)
 UndoKeys::UndoKeys(PrintTask &task, QWidget *window)
     : QObject(window), m_task(task), m_window(window)
 {
-    // What is taken back may be on a page that nobody looks at: which step it was is said.
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, window), &QShortcut::activated, this, [this] {
-        announce(m_window, m_task.canUndo() ? m_task.undoText() : QString());
-        m_task.undo();
-    });
+    // What is taken back may be on a page that nobody looks at: which step it was is said, whether
+    // a key or a button did it.
+    connect(&task, &PrintTask::stepped, this,
+            [this](const QString &text) { announce(m_window, text); });
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, window), &QShortcut::activated, &task,
+            &PrintTask::undo);
     for (const QKeyCombination keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
-        connect(new QShortcut(keys, window), &QShortcut::activated, this, [this] {
-            announce(m_window, m_task.canRedo() ? m_task.redoText() : QString());
-            m_task.redo();
-        });
+        connect(new QShortcut(keys, window), &QShortcut::activated, &task, &PrintTask::redo);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *former, QWidget *) {
         if (former && m_window->isAncestorOf(former))
             m_task.endStep();

@@ -24,6 +24,7 @@ namespace {
 
 constexpr char kRole[] = "corvana.accessibleRole";
 constexpr char kDescription[] = "corvana.toolTipDescription";
+constexpr char kCovered[] = "corvana.coveredDescription";
 constexpr QLatin1StringView kClearAction{"_q_qlineeditclearaction"}; // of QLineEdit
 // Several things may be said at once; a screen reader asks for each text only afterwards.
 constexpr qsizetype kKeptAnnouncements = 4;
@@ -205,12 +206,37 @@ void setFieldButtonNames(QLineEdit *field, const QString &clear)
 void setPlainToolTip(QWidget *widget, const QString &text)
 {
     widget->setToolTip(plainToolTip(text));
-    // What somebody else says of it is worth more, and comes back where that one is through.
     const QString former = widget->property(kDescription).toString();
-    if (widget->accessibleDescription() != former)
+    // What somebody else says of it is worth more. Under what is said for a while it is changed
+    // where it is.
+    const QVariant covered = widget->property(kCovered);
+    if ((covered.isValid() ? covered.toString() : widget->accessibleDescription()) != former)
         return;
     widget->setProperty(kDescription, text);
-    widget->setAccessibleDescription(text);
+    if (covered.isValid())
+        widget->setProperty(kCovered, text);
+    else
+        widget->setAccessibleDescription(text);
+}
+
+void coverDescription(QWidget *widget)
+{
+    if (!widget->property(kCovered).isValid())
+        widget->setProperty(kCovered, widget->accessibleDescription());
+}
+
+QString coveredDescription(const QWidget *widget)
+{
+    return widget->property(kCovered).toString();
+}
+
+void uncoverDescription(QWidget *widget)
+{
+    const QVariant covered = widget->property(kCovered);
+    if (!covered.isValid())
+        return;
+    widget->setProperty(kCovered, QVariant());
+    widget->setAccessibleDescription(covered.toString());
 }
 
 } // namespace corvana

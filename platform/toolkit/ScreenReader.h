@@ -38,6 +38,12 @@ CORVANA_PLATFORM_EXPORT void setFieldButtonNames(QLineEdit *field, const QString
 /// markup of a tool tip out where there is no description.
 CORVANA_PLATFORM_EXPORT void setPlainToolTip(QWidget *widget, const QString &text);
 
+/// Whoever says something else of a widget for a while covers what is said of it, and uncovers it
+/// in the end. Tool tips that are set meanwhile count from then on.
+CORVANA_PLATFORM_EXPORT void coverDescription(QWidget *widget);
+CORVANA_PLATFORM_EXPORT QString coveredDescription(const QWidget *widget);
+CORVANA_PLATFORM_EXPORT void uncoverDescription(QWidget *widget);
+
 /// Has the tabs say which of them is selected, and which has the focus. Qt 6.4 says of the selected
 /// tab that it has the focus, always, and of none that it is selected.
 CORVANA_PLATFORM_EXPORT void makeTabsAccessible(QTabWidget *tabs);

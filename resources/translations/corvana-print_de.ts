@@ -3711,6 +3711,14 @@ Für die Befehlszeile: %2</translation>
         <source>Documents</source>
         <translation>Dokumente</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1 wird gelesen.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4306,6 +4314,18 @@ Für die Befehlszeile: %2</translation>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Sie enthält zu viel: mehr als %1 verschiedene Schlüsselwörter.</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Sie enthält zu viel: mehr als %1 Auswahlmöglichkeiten in einer Zeile, die mit „%2“ beginnt.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Sie enthält zu viel: mehr als %1 Auswahlmöglichkeiten in Zeilen, die mit „%2“ beginnen.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Sie enthält zu viel: Ihre Einschränkungen nennen %1 Auswahlmöglichkeiten. Neben so vielen Optionen und Auswahlmöglichkeiten, wie sie hat, sind %2 erlaubt.</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4316,6 +4336,27 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>Drucker mit mehr als %L1 Zeichen in ihren Texten</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 kann nicht bis zum Ende gelesen werden: Dort wird eine kleine Datei mit den Einstellungen von CUPS erwartet.</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>In %1 können keine temporären Dateien abgelegt werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>sie ist inzwischen kürzer geworden</translation>
     </message>
 </context>
 </TS>

@@ -3711,6 +3711,14 @@ En la línea de órdenes: %2</translation>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Leyendo %1.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4306,6 +4314,18 @@ En la línea de órdenes: %2</translation>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contiene demasiados datos: más de %1 palabras clave distintas.</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Contiene demasiados datos: más de %1 valores en una línea que empieza por «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Contiene demasiados datos: más de %1 valores en líneas que empiezan por «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Contiene demasiados datos: sus restricciones nombran %1 valores. Con tantas opciones y valores como tiene se admiten %2.</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4316,6 +4336,27 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>impresoras con más de %L1 caracteres en sus textos</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 no se puede leer hasta el final: allí se espera un archivo pequeño con la configuración de CUPS.</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>No se pueden guardar archivos temporales en %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>se ha acortado mientras se leía</translation>
     </message>
 </context>
 </TS>

@@ -3711,6 +3711,14 @@ Pour la ligne de commande : %2</translation>
         <source>Documents</source>
         <translation>Documents</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lecture de %1 en cours.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4306,6 +4314,18 @@ Pour la ligne de commande : %2</translation>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Il contient trop de données : plus de %1 mots-clés différents.</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Il contient trop de données : plus de %1 choix dans une ligne qui commence par « %2 ».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Il contient trop de données : plus de %1 choix dans des lignes qui commencent par « %2 ».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Il contient trop de données : ses contraintes nomment %1 choix. Avec autant d’options et de choix, %2 sont admis.</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4316,6 +4336,27 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>imprimantes avec plus de %L1 caractères dans leurs textes</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 ne peut pas être lu jusqu’au bout : un petit fichier contenant les réglages de CUPS y est attendu.</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>Impossible d’enregistrer des fichiers temporaires dans %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>il a été raccourci entre-temps</translation>
     </message>
 </context>
 </TS>

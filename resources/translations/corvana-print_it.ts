@@ -3711,6 +3711,14 @@ Per la riga di comando: %2</translation>
         <source>Documents</source>
         <translation>Documenti</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lettura di %1 in corso.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4306,6 +4314,18 @@ Per la riga di comando: %2</translation>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contiene troppi dati: più di %1 parole chiave diverse.</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Contiene troppi dati: più di %1 valori in una riga che inizia con «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Contiene troppi dati: più di %1 valori in righe che iniziano con «%2».</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Contiene troppi dati: i suoi vincoli nominano %1 valori. Con tante opzioni e tanti valori ne sono ammessi %2.</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4316,6 +4336,27 @@ Per la riga di comando: %2</translation>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>stampanti con più di %L1 caratteri nei loro testi</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 non può essere letto fino alla fine: lì è previsto un piccolo file con le impostazioni di CUPS.</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>Impossibile salvare file temporanei in %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>nel frattempo è diventato più corto</translation>
     </message>
 </context>
 </TS>

@@ -975,6 +975,18 @@
         <source>It is larger than %1 MB.</source>
         <translation>サイズが %1 MB を超えています。</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>内容が多すぎます。「%2」で始まる 1 行に %1 個を超える設定値があります。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>内容が多すぎます。「%2」で始まる行の設定値が合計 %1 個を超えています。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>内容が多すぎます。制約に %1 個の設定値が書かれています。オプションと設定値がこれだけある場合は %2 個までです。</translation>
+    </message>
 </context>
 <context>
     <name>PpdCopy</name>
@@ -2347,6 +2359,14 @@ For the command line: %2</source>
         <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
         <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1 を読み込んでいます。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2572,7 +2592,7 @@ For the command line: %2</source>
         <source>There are too many copies to send them in sets. Their order is: %1.</source>
         <translation>部数が多いため、組ごとに送ることができません。順序: %1。</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>corvana::SettingsPages</name>
     <message>
@@ -2843,7 +2863,7 @@ For the command line: %2</source>
         <source>%1, two-sided by hand</source>
         <translation>%1、手動両面</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>PassedOn</name>
     <message>
@@ -4314,6 +4334,27 @@ For the command line: %2</source>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>プリンターの説明文などの合計が %L1 文字を超過</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 を最後まで読み込めません。ここには CUPS の設定を書いた小さなファイルが必要です。</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>%1 に一時ファイルを保存できません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>読み込み中に短くなりました</translation>
     </message>
 </context>
 </TS>

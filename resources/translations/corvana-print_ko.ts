@@ -3709,6 +3709,14 @@ For the command line: %2</source>
         <source>Documents</source>
         <translation>문서</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1을(를) 읽는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4304,6 +4312,18 @@ For the command line: %2</source>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>내용이 너무 많습니다. 서로 다른 키워드가 %1개를 넘습니다.</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>내용이 너무 많습니다. ‘%2’(으)로 시작하는 한 줄에 선택 항목이 %1개를 넘습니다.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>내용이 너무 많습니다. ‘%2’(으)로 시작하는 줄의 선택 항목이 %1개를 넘습니다.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>내용이 너무 많습니다. 제약 조건에 선택 항목이 %1개 있습니다. 옵션과 선택 항목이 이만큼 있을 때에는 %2개까지 허용됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4314,6 +4334,27 @@ For the command line: %2</source>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>프린터 텍스트가 %L1자를 초과함</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1을(를) 끝까지 읽을 수 없습니다. 이 위치에는 CUPS 설정이 담긴 작은 파일이 있어야 합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>%1에 임시 파일을 저장할 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>읽는 동안 짧아졌습니다</translation>
     </message>
 </context>
 </TS>

@@ -3711,6 +3711,14 @@ Na linha de comando: %2</translation>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lendo %1.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4306,6 +4314,18 @@ Na linha de comando: %2</translation>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>Contém dados demais: mais de %1 palavras-chave diferentes.</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>Contém dados demais: mais de %1 valores em uma linha que começa com “%2”.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>Contém dados demais: mais de %1 valores em linhas que começam com “%2”.</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>Contém dados demais: suas restrições citam %1 valores. Com tantas opções e valores, são permitidos %2.</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4316,6 +4336,27 @@ Na linha de comando: %2</translation>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>impressoras com mais de %L1 caracteres em seus textos</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>%1 não pode ser lido até o fim: espera-se ali um arquivo pequeno com as configurações do CUPS.</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>Não é possível salvar arquivos temporários em %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>ficou menor enquanto era lido</translation>
     </message>
 </context>
 </TS>

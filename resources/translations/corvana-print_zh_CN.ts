@@ -975,6 +975,18 @@
         <source>It is larger than %1 MB.</source>
         <translation>大小超过 %1 MB。</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>内容过多：以“%2”开头的一行中有超过 %1 个设定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>内容过多：以“%2”开头的行中有超过 %1 个设定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>内容过多：其约束条件中列出了 %1 个设定值。选项和设定值有这么多时，最多允许 %2 个。</translation>
+    </message>
 </context>
 <context>
     <name>PpdCopy</name>
@@ -2347,6 +2359,14 @@ For the command line: %2</source>
         <source>This job takes %1 sheets of paper. More than %2 are printed only with --yes.</source>
         <translation>此作业需要 %1 张纸。超过 %2 张时需使用 --yes 才会打印。</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>正在读取 %1。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2572,7 +2592,7 @@ For the command line: %2</source>
         <source>There are too many copies to send them in sets. Their order is: %1.</source>
         <translation>份数过多，无法按套发送。顺序为：%1。</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>corvana::SettingsPages</name>
     <message>
@@ -2843,7 +2863,7 @@ For the command line: %2</source>
         <source>%1, two-sided by hand</source>
         <translation>%1，手动双面</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>PassedOn</name>
     <message>
@@ -4314,6 +4334,27 @@ For the command line: %2</source>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>打印机的文字超过 %L1 个字符</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>无法将 %1 读取到末尾：此处应为包含 CUPS 设置的小文件。</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>无法在 %1 中保存临时文件：%2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>读取期间文件变短了</translation>
     </message>
 </context>
 </TS>

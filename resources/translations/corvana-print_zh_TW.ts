@@ -3709,6 +3709,14 @@ For the command line: %2</source>
         <source>Documents</source>
         <translation>文件</translation>
     </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>正在讀取 %1。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -4304,6 +4312,18 @@ For the command line: %2</source>
         <source>There is too much in it: more than %1 different keywords.</source>
         <translation>內容過多：不同的關鍵字超過 %1 個。</translation>
     </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in one line that begins with “%2”.</source>
+        <translation>內容過多：以「%2」開頭的一行中有超過 %1 個設定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: more than %1 choices in lines that begin with “%2”.</source>
+        <translation>內容過多：以「%2」開頭的行中有超過 %1 個設定值。</translation>
+    </message>
+    <message>
+        <source>There is too much in it: its constraints name %1 choices. Beside as many options and choices as it has, %2 are allowed.</source>
+        <translation>內容過多：其限制條件中列出了 %1 個設定值。選項和設定值有這麼多時，最多允許 %2 個。</translation>
+    </message>
 </context>
 <context>
     <name>QueueRequests</name>
@@ -4314,6 +4334,27 @@ For the command line: %2</source>
     <message>
         <source>printers with more than %L1 characters in their texts</source>
         <translation>印表機的文字超過 %L1 個字元</translation>
+    </message>
+</context>
+<context>
+    <name>ClientFiles</name>
+    <message>
+        <source>%1 cannot be read to its end: a small file with the settings of CUPS is expected there.</source>
+        <translation>無法將 %1 讀取到結尾：此處應為包含 CUPS 設定的小檔案。</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryFolder</name>
+    <message>
+        <source>No temporary files can be kept in %1: %2</source>
+        <translation>無法在 %1 中儲存暫存檔案：%2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSource</name>
+    <message>
+        <source>it has become shorter meanwhile</source>
+        <translation>讀取期間檔案變短了</translation>
     </message>
 </context>
 </TS>

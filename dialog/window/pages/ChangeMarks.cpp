@@ -68,6 +68,8 @@ public:
 
     void follow()
     {
+        if (!m_title)
+            return; // it is going, and this goes after it
         m_side = qMax(6, fontMetrics().height() / 2);
         QWidget *group = m_title->parentWidget();
         QWidget *host = group;
@@ -157,9 +159,13 @@ void ChangeMarks::show(const QList<MarkedControl> &controls, const ShownChanges 
         const auto change = changes.settings.constFind(control.name);
         if (change == changes.settings.cend() || !control.control || m_marks.contains(control.name))
             continue;
-        const auto shown = former.constFind(control.name);
-        if (shown != former.cend() && shown->dot && shown->of.control == control.control)
-            m_marks.insert(control.name, former.take(control.name));
+        if (former.contains(control.name)) {
+            Mark shown = former.take(control.name);
+            if (shown.dot && shown.of.control == control.control && shown.of.label == control.label)
+                m_marks.insert(control.name, shown);
+            else
+                unmark(shown); // before the same control is marked anew
+        }
         mark(control, *change);
     }
     for (Mark &gone : former)
@@ -174,7 +180,7 @@ void ChangeMarks::mark(const MarkedControl &control, const QString &text)
     if (!mark.dot) {
         mark.of = control;
         mark.dot = new Dot(*title);
-        mark.description = control.control->accessibleDescription();
+        coverDescription(control.control);
         // A title that goes takes its dot along.
         connect(title, &QObject::destroyed, mark.dot, &QObject::deleteLater);
         for (QWidget *watched : {title, control.control.data(), static_cast<QWidget *>(mark.dot)})
@@ -182,15 +188,15 @@ void ChangeMarks::mark(const MarkedControl &control, const QString &text)
     }
     setPlainToolTip(mark.dot, said);
     mark.dot->setAccessibleName(said);
-    control.control->setAccessibleDescription(
-        mark.description.isEmpty() ? said : tr("%1 %2").arg(said, mark.description));
+    const QString own = coveredDescription(control.control);
+    control.control->setAccessibleDescription(own.isEmpty() ? said : tr("%1 %2").arg(said, own));
     mark.dot->follow();
 }
 
 void ChangeMarks::unmark(Mark &mark)
 {
     if (mark.of.control) {
-        mark.of.control->setAccessibleDescription(mark.description);
+        uncoverDescription(mark.of.control);
         mark.of.control->removeEventFilter(this);
     }
     if (mark.of.label)

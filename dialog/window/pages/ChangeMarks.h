@@ -45,7 +45,6 @@ private:
     {
         MarkedControl of;
         QPointer<Dot> dot;
-        QString description; // of the control, before it was marked
     };
 
     void mark(const MarkedControl &control, const QString &text);

@@ -1,10 +1,14 @@
+#include <sys/stat.h>
+
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/app/RequestFromCommandLine.h"
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/task/OpenedPrinter.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
@@ -132,6 +136,56 @@ private Q_SLOTS:
         QString error;
         QVERIFY(!preparePrintRequest(m_line, &error));
         QVERIFY2(error.contains(u"missing.pdf"_s), qPrintable(error));
+    }
+
+    // The window is there before a pipe is written, and what stands behind it keeps its place.
+    void aWindowDoesNotWaitForAPipe()
+    {
+        QCOMPARE(::mkfifo("pipe", 0600), 0);
+        writeFile(m_folder->filePath(u"more.txt"_s), "more\n");
+        m_line.documents = {u"notes.v2.txt"_s, u"pipe"_s, u"more.txt"_s};
+        QString error;
+        QElapsedTimer time;
+        time.start();
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(request.documents.size(), 1);
+        QCOMPARE(request.toRead, (QStringList{u"pipe"_s, u"more.txt"_s}));
+    }
+
+    // libcups would read them in each thread, and never be done.
+    void endlessSettingsOfCupsAreNamed_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<bool>("isTaken");
+        for (const char *variable : {"HOME", "CUPS_SERVERROOT"}) {
+            QTest::addRow("a pipe in %s", variable) << variable + u" pipe"_s << false;
+            QTest::addRow("a device in %s", variable) << variable + u" device"_s << false;
+            QTest::addRow("a large file in %s", variable) << variable + u" large"_s << false;
+            QTest::addRow("a small file in %s", variable) << variable + u" small"_s << true;
+        }
+    }
+    void endlessSettingsOfCupsAreNamed()
+    {
+        QFETCH(QString, kind);
+        QFETCH(bool, isTaken);
+        const QByteArray variable = kind.section(u' ', 0, 0).toLatin1();
+        const QString folder = m_folder->filePath(variable == "HOME" ? u"home/.cups"_s : u"root"_s);
+        QVERIFY(QDir().mkpath(folder));
+        const QString path = folder + u"/client.conf"_s;
+        const QString what = kind.section(u' ', 1);
+        if (what == u"pipe"_s)
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        else if (what == u"device"_s)
+            QVERIFY(QFile::link(u"/dev/zero"_s, path));
+        else
+            writeFile(path, QByteArray("# nothing\n").repeated(what == u"large"_s ? 110'000 : 1));
+        const Variable home("HOME", m_folder->filePath(u"home"_s).toUtf8());
+        const Variable root("CUPS_SERVERROOT", m_folder->filePath(u"root"_s).toUtf8());
+        QString error;
+        QCOMPARE(preparePrintRequest(m_line, &error).has_value(), isTaken);
+        QCOMPARE(error.contains(path + u" cannot be read to its end"_s), !isTaken);
     }
 
     void aSummaryNeedsNoDocument()

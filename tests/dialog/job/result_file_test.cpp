@@ -1,9 +1,18 @@
+#include <atomic>
+#include <cerrno>
+#include <optional>
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include "dialog/job/ResultFile.h"
+#include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/Rows.h"
 
@@ -30,7 +39,26 @@ constexpr Place kPlaces[] = {
     {"a link that leads to a file that has come", false, true, true, false},
 };
 
+// What the disk answers, and which file it was asked for last.
+std::atomic<int> s_flushError{0};
+QString s_flushed;
+std::atomic<bool> s_isStuck{false};
+std::atomic<bool> s_waits{false};
+
 } // namespace
+
+// In place of that of the C library.
+extern "C" int fsync(int file)
+{
+    for (s_waits = s_isStuck.load(); s_isStuck;)
+        QThread::msleep(10);
+    s_waits = false;
+    s_flushed = QFileInfo(u"/proc/self/fd/%1"_s.arg(file)).canonicalFilePath();
+    if (s_flushError == 0)
+        return static_cast<int>(::syscall(SYS_fsync, file));
+    errno = s_flushError;
+    return -1;
+}
 
 /// A file that takes its name when it is complete.
 class ResultFileTest : public QObject
@@ -100,6 +128,70 @@ private Q_SLOTS:
         }
         QCOMPARE(files(), QStringList{u"out"_s});
         QCOMPARE(content(u"out"_s), QByteArray("new"));
+    }
+
+    // A server says only then that it has no room.
+    void whatItsDiskHasNotTakenIsSaid()
+    {
+        QString problem;
+        const auto result = ResultFile::create(path(u"out"_s), &problem);
+        writeFile(result->path(), "new");
+        const std::function<QString()> flush = result->flushing();
+        s_flushed.clear();
+        QCOMPARE(flush(), QString());
+        QCOMPARE(s_flushed, QFileInfo(result->path()).canonicalFilePath());
+        s_flushError = EDQUOT;
+        QCOMPARE(flush(), path(u"out"_s) + u" cannot be written: "_s + qt_error_string(EDQUOT));
+        s_flushError = EINVAL; // of a file system that cannot be asked
+        QCOMPARE(flush(), QString());
+        s_flushError = 0;
+        QVERIFY(QFile::remove(result->path()));
+        QVERIFY2(flush().contains(u" cannot be written: "_s), qPrintable(flush()));
+    }
+
+    void aJobWhoseResultTheDiskHasNotTakenHasFailed()
+    {
+        const FakeFilter filter("echo printed\n");
+        s_flushError = ENOSPC;
+        FileJob job(filter.request());
+        job.start();
+        const JobOutcome outcome = job.wait();
+        s_flushError = 0;
+        QCOMPARE(outcome.kind, JobOutcome::Kind::Failed);
+        QVERIFY2(outcome.text.contains(qt_error_string(ENOSPC)), qPrintable(outcome.text));
+        QVERIFY(!filter.hasOutput());
+        QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    // The GUI thread goes on, and the user need not wait.
+    void aDiskThatDoesNotAnswerHoldsNobodyUp()
+    {
+        const FakeFilter filter("echo printed\n");
+        s_isStuck = true;
+        FileJob job(filter.request());
+        std::optional<JobOutcome> ended;
+        connect(&job, &Job::finished, this, [&](const JobOutcome &outcome) { ended = outcome; });
+        job.start();
+        QTRY_VERIFY_WITH_TIMEOUT(s_waits, 10000);
+        QVERIFY(!ended);
+        job.cancel();
+        QTRY_VERIFY(ended);
+        QCOMPARE(ended->kind, JobOutcome::Kind::Canceled);
+        QVERIFY(!filter.hasOutput());
+        QVERIFY(filter.leftOvers().isEmpty());
+        s_isStuck = false;
+        QTRY_VERIFY(!s_waits);
+    }
+
+    void aPlaceThatTakesNoTemporaryFilesIsNamed()
+    {
+        const FakeFilter filter("echo printed\n");
+        const QString place = writeFile(path(u"file"_s), "no folder");
+        const Variable temporary("TMPDIR", place.toUtf8());
+        FileJob job(filter.request());
+        job.start();
+        const QString text = job.wait().text;
+        QVERIFY2(text.contains(u"No temporary files can be kept in "_s + place), qPrintable(text));
     }
 
     void aFolderThatVanishesMeanwhileIsTold()

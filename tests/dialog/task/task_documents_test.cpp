@@ -1,4 +1,9 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QDir>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -66,6 +71,76 @@ private Q_SLOTS:
         task().print();
         QCOMPARE(refused, QStringList{u"Choose a document to print."_s});
         QCOMPARE(task().phase(), PrintTask::Phase::Ready);
+    }
+
+    // The window goes on while another program writes.
+    void aPipeIsReadBesideTheWindow()
+    {
+        openWithout();
+        const QString pipe = m_folder.filePath(u"pipe"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QElapsedTimer time;
+        time.start();
+        task().addDocuments({file(u"letter.txt"_s), pipe, file(u"more.txt"_s)});
+        QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(titles(), QStringList{u"letter.txt"_s});
+        QVERIFY2(m_said.last().contains(u"pipe is being read"_s), qPrintable(m_said.last()));
+        const int writer = ::open(QFile::encodeName(pipe).constData(), O_WRONLY);
+        QVERIFY(writer >= 0);
+        QCOMPARE(::write(writer, "Some ", 5), 5);
+        QTest::qWait(200);
+        QCOMPARE(titles().size(), 1);
+        QCOMPARE(::write(writer, "words.\n", 7), 7);
+        ::close(writer);
+        QTRY_COMPARE(titles(), (QStringList{u"letter.txt"_s, u"pipe"_s, u"more.txt"_s}));
+        QVERIFY(task().canUndo());
+        QFile::remove(pipe);
+    }
+
+    void aPipeThatNobodyWritesIntoIsLeftWithoutWaiting_data()
+    {
+        QTest::addColumn<bool>("isCanceled");
+        QTest::newRow("canceled") << true;
+        QTest::newRow("the window is closed") << false;
+    }
+    void aPipeThatNobodyWritesIntoIsLeftWithoutWaiting()
+    {
+        QFETCH(bool, isCanceled);
+        openWithout();
+        const QString pipe = m_folder.filePath(u"idle"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        std::function<void()> cancel;
+        connect(&task(), &PrintTask::said, this,
+                [&](const TaskMessage &message) { cancel = message.take; });
+        task().addDocuments({pipe});
+        QElapsedTimer time;
+        time.start();
+        if (isCanceled)
+            cancel();
+        else
+            m_scene.reset();
+        // Its reader lets go of the pipe.
+        QTRY_VERIFY(::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_NONBLOCK) < 0);
+        QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
+        if (isCanceled)
+            QCOMPARE(titles(), QStringList());
+        QFile::remove(pipe);
+    }
+
+    void aPipeOfTheCommandLineComesBehindTheOthers()
+    {
+        const QString pipe = m_folder.filePath(u"first"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        PrintRequest request = m_scene->request(officePrinter());
+        const QString own = request.documents.constFirst().title;
+        request.toRead = {pipe, file(u"after.txt"_s)};
+        m_scene->open(request);
+        task().bringUp();
+        const int writer = ::open(QFile::encodeName(pipe).constData(), O_WRONLY);
+        QCOMPARE(::write(writer, "Words.\n", 7), 7);
+        ::close(writer);
+        QTRY_COMPARE(titles(), (QStringList{own, u"first"_s, u"after.txt"_s}));
+        QFile::remove(pipe);
     }
 
     void aDocumentThatIsAddedIsPrinted()

@@ -172,6 +172,32 @@ private Q_SLOTS:
                  qPrintable(m_scene->face.message()));
     }
 
+    // A server that was away may come back with other options.
+    void stepsOutlastAChangeOfThePrintersOptions()
+    {
+        m_scene->open(m_scene->request(officePrinter()));
+        task().bringUp();
+        task().propose(u"Tray"_s, u"Lower"_s);
+        QTest::qWait(1); // the step is recorded
+        task().propose(u"Staple"_s, u"Left"_s);
+        QTest::qWait(1);
+        becomes(officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}}).text());
+        task().bringUp();
+        QVERIFY(task().canUndo());
+        task().undo();
+        QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"OFF"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Ink"_s), u"Black"_s);
+        QVERIFY(task().canUndo());
+        task().undo();
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Upper"_s);
+        QVERIFY(!task().canUndo());
+        task().redo();
+        task().redo();
+        QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"Left"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+    }
+
     // What an administrator has set is not what the user has chosen, however often that changes.
     void aDefaultThatChangesTwiceIsTheLastOne()
     {

@@ -1,10 +1,12 @@
 #include <QBuffer>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <iconv.h>
 
 #include "dialog/text/TextDecoder.h"
 #include "dialog/text/TextEncoding.h"
+#include "dialog/text/TextSource.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;
@@ -146,6 +148,33 @@ class TextEncodingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Of a file that is written anew a part would be printed as if it were all.
+    void aTextThatBecomesShorterIsNotTakenForWhole_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("isWhole");
+        QTest::newRow("as it was") << 1'000'000 << true;
+        QTest::newRow("longer") << 1'000'010 << true;
+        QTest::newRow("shorter") << 200'000 << false;
+        QTest::newRow("emptied") << 0 << false;
+    }
+    void aTextThatBecomesShorterIsNotTakenForWhole()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, isWhole);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(QByteArray(1'000'000, 'a'));
+        QVERIFY(file.flush());
+        QString problem;
+        TextSource source(file.fileName(), {}, &problem);
+        source.read();
+        QVERIFY(file.resize(size));
+        while (!source.atEnd())
+            source.read();
+        QCOMPARE(source.problem().isEmpty(), isWhole);
+    }
+
     void aTextIsRecognizedAndReadBack_data() { addRows(kWritings); }
     void aTextIsRecognizedAndReadBack()
     {

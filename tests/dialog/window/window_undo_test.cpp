@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -94,6 +96,13 @@ private:
             shown += dot->isVisible() ? 1 : 0;
         return shown;
     }
+    // How often a screen reader was told so; as far as it is kept.
+    qsizetype announced(const QString &text)
+    {
+        const auto all = m_window->dialog().findChildren<QWidget *>(u"announcement"_s);
+        return std::count_if(all.cbegin(), all.cend(),
+                             [&](const QWidget *one) { return one->accessibleName() == text; });
+    }
     QStringList summaryTitles()
     {
         QStringList titles;
@@ -131,6 +140,26 @@ private Q_SLOTS:
         redo()->click();
         QCOMPARE(task().opened()->session->markedChoice(kDuplexOption), u"DuplexNoTumble"_s);
         QCOMPARE(child<QComboBox>(kDuplexOption)->currentText(), u"Long Edge"_s);
+    }
+
+    // On a page that nobody may be looking at.
+    void whatWasTakenBackIsSaidOnce()
+    {
+        openOffice();
+        QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
+        QTRY_VERIFY(undo()->isEnabled());
+        const QString undone = task().undoText();
+        press(Qt::CTRL | Qt::Key_Z);
+        QCOMPARE(announced(undone), 1);
+        press(Qt::CTRL | Qt::Key_Z); // there is nothing
+        QCOMPARE(announced(undone), 1);
+        redo()->click();
+        QCOMPARE(announced(task().undoText().replace(u"Undo"_s, u"Redo"_s)), 1);
+        // A change that nobody has recorded yet is the step that goes back.
+        task().setCopies(4);
+        QTest::keyClick(&m_window->dialog(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(announced(u"Undo Copies"_s), 1);
+        QCOMPARE(announced(undone), 1);
     }
 
     void typingIsTakenBackByItsFieldFirst()

@@ -215,6 +215,23 @@ private Q_SLOTS:
         QCOMPARE(button.accessibleDescription(), u"Set by your administrator"_s);
     }
 
+    void aToolTipThatChangesWhileItIsCoveredCountsAfterwards()
+    {
+        QToolButton button;
+        setPlainToolTip(&button, u"Wide"_s);
+        coverDescription(&button);
+        button.setAccessibleDescription(u"Changed. "_s + coveredDescription(&button));
+        setPlainToolTip(&button, u"Narrow"_s);
+        QCOMPARE(button.accessibleDescription(), u"Changed. Wide"_s);
+        QCOMPARE(coveredDescription(&button), u"Narrow"_s);
+        uncoverDescription(&button);
+        QCOMPARE(button.accessibleDescription(), u"Narrow"_s);
+        setPlainToolTip(&button, u"Long"_s);
+        QCOMPARE(button.accessibleDescription(), u"Long"_s);
+        uncoverDescription(&button);
+        QCOMPARE(button.accessibleDescription(), u"Long"_s);
+    }
+
     void theButtonsInsideAFieldHaveNames()
     {
         QLineEdit field;

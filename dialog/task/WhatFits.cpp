@@ -1,0 +1,119 @@
+#include "dialog/task/WhatFits.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "dialog/session/RequestedOptions.h"
+#include "dialog/task/OpenedPrinter.h"
+
+namespace corvana {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A list of a paper, its source and its type is as many wishes.
+QList<JobOption> inParts(const QList<JobOption> &options)
+{
+    QList<JobOption> parts;
+    for (const JobOption &option : options) {
+        if (option.name.compare("media"_L1, Qt::CaseInsensitive) != 0) {
+            parts += option;
+            continue;
+        }
+        const QStringList words = option.value.split(u',');
+        for (const QString &word : words)
+            parts += JobOption{option.name, word};
+    }
+    return parts;
+}
+
+OptionOutcome apply(const QList<JobOption> &options, OpenedPrinter &printer)
+{
+    return applyOptions(options, *printer.session, printer.jobValues, *printer.panels);
+}
+
+/// Takes out of a list what the printer does not have, without setting anything.
+class Sieve
+{
+public:
+    Sieve(QList<JobOption> options, OpenedPrinter &printer)
+        : m_printer(printer), m_left(std::move(options))
+    {
+        m_left.removeIf([this](const JobOption &one) { return isUnknown(one); });
+        while (takeOne())
+            continue;
+    }
+
+    QStringList problems;
+    const QList<JobOption> &left() const { return m_left; }
+
+private:
+    RequestedOptions read(const QList<JobOption> &options) const
+    {
+        return {options, *m_printer.session, m_printer.jobValues};
+    }
+
+    bool isUnknown(const JobOption &option)
+    {
+        const QStringList why = read({option}).problems;
+        problems += why;
+        return !why.isEmpty();
+    }
+
+    // The last of those that are refused. False where there is none, or none that is known.
+    bool takeOne()
+    {
+        const QList<Refusal> refusals = m_printer.session->refusalsOf(read(m_left).choices);
+        for (auto option = m_left.crbegin(); !refusals.isEmpty() && option != m_left.crend();
+             ++option) {
+            const QList<OptionChoice> choices = read({*option}).choices;
+            const auto refusal =
+                std::find_if(refusals.cbegin(), refusals.cend(),
+                             [&](const Refusal &one) { return choices.contains(one.proposed); });
+            if (refusal == refusals.cend())
+                continue;
+            problems += conflictMessage(*refusal, *m_printer.session);
+            m_left.removeAt(std::distance(option, m_left.crend()) - 1);
+            return true;
+        }
+        return false;
+    }
+
+    OpenedPrinter &m_printer;
+    QList<JobOption> m_left;
+};
+
+// One after the other, as far as they go.
+OptionOutcome applyEach(const QList<JobOption> &options, OpenedPrinter &printer)
+{
+    OptionOutcome all;
+    for (const JobOption &option : options) {
+        const OptionOutcome one = apply({option}, printer);
+        all.problems += one.problems;
+        all.attributes += one.attributes;
+        if (one.copies)
+            all.copies = one.copies;
+    }
+    return all;
+}
+
+} // namespace
+
+OptionOutcome applyWhatFits(const QList<JobOption> &options, OpenedPrinter &printer)
+{
+    if (options.isEmpty())
+        return {};
+    if (const OptionOutcome all = apply(options, printer); all.ok())
+        return all;
+    const Sieve sieve(inParts(options), printer);
+    OptionOutcome fitted = sieve.left().isEmpty() ? OptionOutcome() : apply(sieve.left(), printer);
+    // What a panel refuses it refuses together with others only.
+    if (!fitted.ok())
+        fitted = applyEach(sieve.left(), printer);
+    fitted.problems = sieve.problems + fitted.problems;
+    return fitted;
+}
+
+} // namespace corvana

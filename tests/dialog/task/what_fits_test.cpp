@@ -1,0 +1,94 @@
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "dialog/session/OptionRequest.h"
+#include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/WhatFits.h"
+#include "tests/dialog/support/LoadedBundle.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/ScriptedAlertPresenter.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// Options of which a printer takes a part.
+class WhatFitsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    ScriptedAlertPresenter m_presenter;
+    std::unique_ptr<OpenedPrinter> m_printer;
+
+    OptionOutcome apply(const QString &options)
+    {
+        return applyWhatFits(parseOptions({options}), *m_printer);
+    }
+    QString marked(const QString &keyword) { return m_printer->session->markedChoice(keyword); }
+    void openSample()
+    {
+        FetchedPrinter fetched;
+        fetched.printer.name = u"office"_s;
+        fetched.ppd = ppdOfFile(samplePpdPath());
+        QString error;
+        m_printer =
+            openPrinter(fetched, builtBundleRoots(), m_presenter, &error, [](OpenedPrinter &) {});
+        QVERIFY2(m_printer, qPrintable(error));
+        QVERIFY2(m_printer->panelProblem.isEmpty(), qPrintable(m_printer->panelProblem));
+    }
+
+private Q_SLOTS:
+    void cleanup() { m_printer.reset(); }
+
+    // How envelopes are loaded is nobody's question: another medium was named.
+    void whatIsLeftBesideAnUnknownOptionIsTakenTogether_data()
+    {
+        QTest::addColumn<QString>("bad");
+        QTest::newRow("an option the printer lacks") << u"Sparkle=ON"_s;
+        QTest::newRow("a choice the printer lacks") << u"Duplex=Cellar"_s;
+    }
+    void whatIsLeftBesideAnUnknownOptionIsTakenTogether()
+    {
+        QFETCH(QString, bad);
+        openSample();
+        const OptionOutcome outcome = apply(u"PageSize=EnvDL %1 QXMediaType=Thick"_s.arg(bad));
+        QCOMPARE(marked(u"PageSize"_s), u"EnvDL"_s);
+        QCOMPARE(marked(u"QXMediaType"_s), u"Thick"_s);
+        QCOMPARE(m_presenter.shown().size(), 0);
+        QCOMPARE(outcome.problems.size(), 1);
+        QVERIFY2(outcome.problems.constFirst().contains(bad.section(u'=', 0, 0)),
+                 qPrintable(outcome.problems.constFirst()));
+    }
+
+    // Film cannot be printed on from the lower tray.
+    void ofTwoThatExcludeEachOtherTheFirstCounts_data()
+    {
+        QTest::addColumn<bool>("isMediumFirst");
+        QTest::newRow("the medium") << true;
+        QTest::newRow("the tray") << false;
+    }
+    void ofTwoThatExcludeEachOtherTheFirstCounts()
+    {
+        QFETCH(bool, isMediumFirst);
+        QTemporaryDir folder;
+        FetchedPrinter fetched;
+        fetched.ppd = ppdOfFile(writeFile(folder.filePath(u"a.ppd"_s), smallPrinter().text()));
+        QString error;
+        m_printer = openPrinter(fetched, {}, m_presenter, &error, [](OpenedPrinter &) {});
+        QVERIFY2(m_printer, qPrintable(error));
+        const JobOption medium{u"Media"_s, u"Film"_s};
+        const JobOption tray{u"Tray"_s, u"Lower"_s};
+        const OptionOutcome outcome = applyWhatFits(
+            {isMediumFirst ? medium : tray, {u"Boost"_s, u"ON"_s}, isMediumFirst ? tray : medium},
+            *m_printer);
+        QCOMPARE(marked(u"Media"_s), isMediumFirst ? u"Film"_s : u"Plain"_s);
+        QCOMPARE(marked(u"Tray"_s), isMediumFirst ? u"Upper"_s : u"Lower"_s);
+        QCOMPARE(marked(u"Boost"_s), u"ON"_s);
+        QCOMPARE(outcome.problems.size(), 1);
+    }
+};
+
+QTEST_MAIN(WhatFitsTest)
+
+#include "what_fits_test.moc"
