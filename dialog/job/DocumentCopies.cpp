@@ -19,7 +19,8 @@ bool asksForUncollated(const JobOption &option)
 {
     // A PPD's own option has a capital; the filters take both for the same.
     if (option.name.compare("collate"_L1, Qt::CaseInsensitive) == 0)
-        return option.value.compare("false"_L1, Qt::CaseInsensitive) == 0;
+        return QStringList{u"false"_s, u"off"_s, u"no"_s}.contains(option.value,
+                                                                   Qt::CaseInsensitive);
     return (option.name == "multiple-document-handling"_L1 &&
             option.value == "separate-documents-uncollated-copies"_L1) ||
            (option.name == "sheet-collate"_L1 && option.value == "uncollated"_L1);

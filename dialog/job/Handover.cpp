@@ -161,11 +161,11 @@ private:
         switch (now.state) {
         case QueueDetails::Ppd::Read:
             if (!opened.isWritten && now.ppdHash == opened.hash)
-                return std::nullopt;
+                return whetherDefaultsChanged();
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::None:
             if (opened.isWritten)
-                return std::nullopt;
+                return whetherDefaultsChanged();
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::Unknown:
             break;
@@ -173,6 +173,19 @@ private:
         if (m_worker.isCanceled())
             return m_outcomes.canceledBefore();
         return notCreated(m_connection->problem());
+    }
+
+    // What the server would add to the job without anybody having seen it. One that does not say is
+    // asked for the job next, and says then what is wrong.
+    std::optional<JobOutcome> whetherDefaultsChanged()
+    {
+        if (!m_request.defaults)
+            return std::nullopt;
+        const auto now = fetchDefaults(*m_connection, m_request.printer);
+        if (m_worker.isCanceled())
+            return m_outcomes.canceledBefore();
+        return now && now != m_request.defaults ? std::optional(m_outcomes.printerChanged())
+                                                : std::nullopt;
     }
 
     JobOutcome notCreated(const ServerProblem &problem)

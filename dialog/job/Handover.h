@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QList>
 #include <QString>
@@ -29,6 +30,9 @@ struct ServerJobRequest
     /// The PPD in use: documents are put together with it, and a queue that has another one by now
     /// gets nothing. Never null.
     SharedPpd ppd;
+    /// What the queue was known to add to each job; one that adds something else by now gets
+    /// nothing. Null where that does not matter.
+    std::optional<QList<JobOption>> defaults{};
     /// The document formats that an IPP printer takes; empty where everything is taken.
     QStringList formats{};
     /// The attributes that an IPP printer takes with a job; empty where everything is taken, or

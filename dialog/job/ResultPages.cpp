@@ -55,12 +55,12 @@ bool contains(const QByteArray &head, QByteArrayView mark)
     return head.first(std::min(head.size(), kRoomForCommands)).contains(mark);
 }
 
-QString noPage()
+} // namespace
+
+QString noPageText()
 {
     return Texts::tr("Nothing would be printed: what came out has no page.");
 }
-
-} // namespace
 
 bool isKnownToBeEmpty(const QByteArray &head, const QByteArray &tail, qint64 size)
 {
@@ -90,12 +90,12 @@ void checkResultPages(const QString &path, QObject *owner,
     const bool hasTail = file.seek(std::max(qint64(0), file.size() - kLookedAt));
     const QByteArray tail = hasTail ? file.read(kLookedAt) : QByteArray();
     if (!contains(head, "%PDF-") || contains(head, "%!PS"))
-        return later(isKnownToBeEmpty(head, tail, file.size()) ? noPage() : QString());
+        return later(isKnownToBeEmpty(head, tail, file.size()) ? noPageText() : QString());
     auto *run =
         new ProgramRun(QString::fromLatin1(kPdfInfoProgram), pdfPagesArguments(path, 0), {}, owner);
     QObject::connect(run, &ProgramRun::finished, owner, [answer, run] {
         run->deleteLater();
-        answer(run->exitStatus() == kPdfInfoFoundNoPage ? noPage() : QString());
+        answer(run->exitStatus() == kPdfInfoFoundNoPage ? noPageText() : QString());
     });
     run->start();
 }

@@ -17,6 +17,9 @@ inline constexpr qint64 kLookedAt = 64 << 10;
 /// False for every format that is not known.
 bool isKnownToBeEmpty(const QByteArray &head, const QByteArray &tail, qint64 size);
 
+/// Why such a result is not kept, for a person.
+QString noPageText();
+
 /// Looks at a file that a filter chain has made, in a bounded time. The filters call a result
 /// without a page a success. `answer` is called with a sentence when there is none, else with an
 /// empty text; never before this returns, and not at all when `owner` is gone.

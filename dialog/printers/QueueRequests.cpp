@@ -306,6 +306,12 @@ QueueDetails fetchPpdOnly(ServerConnection &connection, const Printer &printer)
     return details;
 }
 
+std::optional<QList<JobOption>> fetchDefaults(ServerConnection &connection, const Printer &printer)
+{
+    const IppMessage response = askPrinter(connection, printer, kEverythingOfAQueue);
+    return response ? std::optional(queueDefaults(response.get())) : std::nullopt;
+}
+
 QByteArray resourceOf(const Printer &printer)
 {
     std::array<char, HTTP_MAX_URI> scheme{};

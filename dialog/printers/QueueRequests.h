@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QByteArray>
 #include <QList>
@@ -61,6 +62,10 @@ QueueDetails inspectQueue(ServerConnection &connection, const Printer &printer);
 /// Fetches only the PPD of a queue, to compare it: of the answer `state`, `ppd`, `ppdHash` and
 /// `problem` are of use. The problem is `NotFound` for a queue that is not there any more.
 QueueDetails fetchPpdOnly(ServerConnection &connection, const Printer &printer);
+
+/// Asks for what a queue adds to each job, see queueDefaults(), to compare it.
+/// Errors: nothing; the connection's problem() says why.
+std::optional<QList<JobOption>> fetchDefaults(ServerConnection &connection, const Printer &printer);
 
 /// The path of a printer's requests at its server, not escaped: libcups does that.
 QByteArray resourceOf(const Printer &printer);

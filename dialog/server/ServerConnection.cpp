@@ -58,11 +58,18 @@ IppMessage ServerConnection::exchange(IppMessage message, const QByteArray &reso
     if (!status)
         return nullptr;
     if (*status != HTTP_STATUS_OK) {
-        m_line.noteFailure(*status);
+        m_isEarly ? noteEarly(*status) : m_line.noteFailure(*status);
         m_line.close();
         return nullptr;
     }
-    return unlessRefused(readIpp());
+    IppMessage answer = unlessRefused(readIpp());
+    if (!m_isEarly)
+        return answer;
+    // What the server has not got it cannot have taken, and the rest of it never comes.
+    if (answer)
+        m_line.fail({ServerProblem::Kind::NotUnderstood});
+    m_line.close();
+    return nullptr;
 }
 
 http_status_t ServerConnection::sendIpp(ipp_t *message, const QByteArray &resource,
@@ -70,6 +77,7 @@ http_status_t ServerConnection::sendIpp(ipp_t *message, const QByteArray &resour
                                         const std::function<void(qint64)> &progress)
 {
     m_documentSent = false;
+    m_isEarly = false;
     if (document && !document->seek(0)) {
         m_line.fail({ServerProblem::Kind::DocumentUnreadable, document->errorString()});
         return HTTP_STATUS_ERROR;
@@ -111,12 +119,24 @@ void ServerConnection::beginRequest()
 }
 
 // What a server says before it has the whole document. What is refused now is refused, whatever
-// would come behind it. Who takes it now has not taken what was meant.
+// would come behind it; an IPP message says why.
 http_status_t ServerConnection::earlyAnswer()
 {
     const http_status_t status = m_line.readHead();
-    const bool isTaken = status > HTTP_STATUS_CONTINUE && status < HTTP_STATUS_MULTIPLE_CHOICES;
-    return isTaken ? HTTP_STATUS_ERROR : status;
+    m_isEarly = status > HTTP_STATUS_CONTINUE;
+    return status;
+}
+
+// Who says in the midst of a document that it will not have it does not have it: that is no trouble
+// on the way which may pass.
+void ServerConnection::noteEarly(http_status_t status)
+{
+    if (status == HTTP_STATUS_REQUEST_TOO_LARGE || status >= HTTP_STATUS_SERVER_ERROR)
+        return m_line.fail({ServerProblem::Kind::Refused, QString::fromUtf8(httpStatus(status)),
+                            status == HTTP_STATUS_REQUEST_TOO_LARGE
+                                ? IPP_STATUS_ERROR_REQUEST_ENTITY
+                                : IPP_STATUS_ERROR_SERVICE_UNAVAILABLE});
+    m_line.noteFailure(status);
 }
 
 // What a server has said before it took no more of a request.

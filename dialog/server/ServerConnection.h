@@ -93,11 +93,13 @@ private:
     IppMessage unlessRefused(IppMessage response);
     File readFile();
     File takeRefusal(http_status_t status);
+    void noteEarly(http_status_t status);
     void noteUnread(const AnswerReader &reader);
 
     HttpLine m_line;
     bool m_documentSent = false;
     bool m_requestSent = false;
+    bool m_isEarly = false; ///< the answer came before the whole document had been sent
 };
 
 } // namespace corvana

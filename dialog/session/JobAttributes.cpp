@@ -9,7 +9,10 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <cups/ipp.h>
+
 #include "dialog/session/AttributeWords.h"
+#include "dialog/session/Finishings.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PrinterAttributes.h"
 
@@ -289,6 +292,22 @@ QString translated(const char *text)
     return QCoreApplication::translate("JobAttributes", text);
 }
 
+QString shownText(const Word &word)
+{
+    return QCoreApplication::translate(word.context, word.shown);
+}
+
+// What nobody here knows the meaning of may be a number that IPP has a keyword for.
+QString keywordOfNumber(const JobOption &attribute)
+{
+    bool isNumber = false;
+    const int number = attribute.value.toInt(&isNumber);
+    const QString keyword =
+        isNumber ? QString::fromUtf8(ippEnumString(attribute.name.toUtf8().constData(), number))
+                 : QString();
+    return keyword.isEmpty() || keyword.at(0).isDigit() ? attribute.value : keyword;
+}
+
 } // namespace
 
 const JobAttribute *jobAttribute(const QString &name)
@@ -321,7 +340,7 @@ QString allowedText(const AllowedValues &allowed)
 {
     QStringList parts;
     for (const Word &word : allowed.words)
-        parts += word.shown ? translated(word.shown) : QString(word.value);
+        parts += word.shown ? shownText(word) : QString(word.value);
     if (const auto &range = allowed.range) {
         const QString limits =
             translated(QT_TRANSLATE_NOOP("JobAttributes", "%1 to %2"))
@@ -337,12 +356,13 @@ JobAttributeText textOfJobAttribute(const JobOption &attribute)
 {
     const JobAttribute *known = jobAttribute(attribute.name);
     if (!known)
-        return {attribute.name, attribute.value};
+        return {attribute.name, keywordOfNumber(attribute)};
+    if (attribute.name == kFinishingsAttribute)
+        return {translated(known->title), finishingText(attribute.value)};
     if (attribute.name == kJobHoldUntilAttribute && isTime(attribute.value))
         return {translated(known->title), timeText(attribute.value)};
     const Word *word = known->allowed.word(attribute.value);
-    return {translated(known->title),
-            word && word->shown ? translated(word->shown) : attribute.value};
+    return {translated(known->title), word && word->shown ? shownText(*word) : attribute.value};
 }
 
 JobOption inOneSpelling(const JobOption &option)

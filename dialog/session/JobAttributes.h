@@ -19,9 +19,9 @@ struct AllowedValues
         QLatin1StringView value;
         /// What it stands for, where the value does not say so.
         QLatin1StringView meaning{};
-        /// What the summary calls it, to be translated in the context "JobAttributes"; null where
-        /// that is the value itself.
+        /// What the summary calls it; null where that is the value itself.
         const char *shown = nullptr;
+        const char *context = "JobAttributes"; ///< in which that is translated
     };
     struct Range
     {

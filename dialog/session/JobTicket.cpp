@@ -78,7 +78,7 @@ QList<JobOption> jobOptions(const PpdSession &session, const PDEJobValues *jobVa
 bool isCollated(const PpdSession &session, const QList<JobOption> &attributes)
 {
     if (const QString marked = session.markedChoice(kCollateOption); !marked.isNull())
-        return marked != "False"_L1;
+        return QStringList{u"true"_s, u"on"_s, u"yes"_s}.contains(marked, Qt::CaseInsensitive);
     const auto asked =
         std::find_if(attributes.cbegin(), attributes.cend(), [](const JobOption &attribute) {
             return attribute.name == kCollateAttribute;

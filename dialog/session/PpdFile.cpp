@@ -28,19 +28,39 @@ void keepOneSidedAsDefault(ppd_file_t *ppd)
     qstrncpy(duplex->defchoice, oneSided->choice, sizeof duplex->defchoice);
 }
 
+// How many constraints the marks offend while an option is at a choice; it stays there.
+int conflictsWith(ppd_file_t *ppd, const ppd_option_t *option, const ppd_choice_t *choice)
+{
+    return ppdMarkOption(ppd, option->keyword, choice->choice);
+}
+
+// The filters of CUPS make copies collated themselves where the printer's "Collate" is not at
+// "True", or collides with another mark. To everything here such a printer has no such option: what
+// libcups looks up is not found, and the rest stays in place.
+void leaveCollatingToFilters(ppd_file_t *ppd, ppd_option_t *collate)
+{
+    qCInfo(lcPpd) << "copies are collated by filters";
+    for (int i = 0; i < collate->num_choices; ++i) {
+        ppd_choice_t *choice = &collate->choices[i];
+        if (choice->marked)
+            cupsArrayRemove(ppd->marked, choice);
+        choice->marked = 0;
+    }
+    cupsArrayRemove(ppd->options, collate);
+}
+
 // Most PPDs that can collate do not by default, and the printer then makes each page several times.
 void collateByDefault(ppd_file_t *ppd)
 {
     ppd_option_t *collate = ppdOption(ppd, kCollateOption);
     const ppd_choice_t *on = ppdChoice(collate, u"True"_s);
-    if (!on || !ppdChoice(collate, u"False"_s) || !canBeSent(ppd, kCollateOption, u"True"_s))
+    const ppd_choice_t *off = ppdChoice(collate, u"False"_s);
+    if (!on && ppdChoice(collate, u"On"_s) && ppdChoice(collate, u"Off"_s))
+        return leaveCollatingToFilters(ppd, collate);
+    if (!on || !off || !canBeSent(ppd, kCollateOption, u"True"_s))
         return;
-    const QByteArray former = collate->defchoice;
-    const int conflicts = ppdConflicts(ppd);
-    if (ppdMarkOption(ppd, collate->keyword, on->choice) > conflicts) {
-        ppdMarkOption(ppd, collate->keyword, former.constData());
-        return;
-    }
+    if (conflictsWith(ppd, collate, off) < conflictsWith(ppd, collate, on))
+        return leaveCollatingToFilters(ppd, collate);
     qstrncpy(collate->defchoice, on->choice, sizeof collate->defchoice);
 }
 
@@ -79,6 +99,11 @@ PpdFile openPpdFile(const QString &path, QString *error)
     keepOneSidedAsDefault(ppd.get());
     collateByDefault(ppd.get());
     return ppd;
+}
+
+bool isOption(ppd_file_t *ppd, const ppd_option_t &option)
+{
+    return QLatin1StringView(option.keyword) != kCollateOption || ppdOption(ppd, kCollateOption);
 }
 
 } // namespace corvana

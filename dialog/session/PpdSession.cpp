@@ -40,7 +40,8 @@ QList<ppd_option_t *> PpdSession::options() const
     for (int g = 0; g < m_ppd->num_groups; ++g) {
         const ppd_group_t &group = m_ppd->groups[g];
         for (int o = 0; o < group.num_options; ++o) {
-            if (QLatin1StringView(group.options[o].keyword) != kPageRegionOption)
+            if (QLatin1StringView(group.options[o].keyword) != kPageRegionOption &&
+                isOption(m_ppd.get(), group.options[o]))
                 found += &group.options[o];
         }
     }

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include "dialog/session/Finishings.h"
+
 namespace corvana {
 
 namespace {
@@ -27,8 +29,11 @@ bool isResolution(const QString &value)
 
 bool isFinishings(const QString &value)
 {
+    static const QRegularExpression number(u"^[0-9]{1,9}\\z"_s);
     const QStringList parts = value.split(u',');
-    return std::all_of(parts.cbegin(), parts.cend(), isKeyword);
+    return std::all_of(parts.cbegin(), parts.cend(), [](const QString &part) {
+        return number.match(part).hasMatch() || (isKeyword(part) && !part.at(0).isDigit());
+    });
 }
 
 constexpr AllowedValues form(const char *text, bool (*accepts)(const QString &))
@@ -76,8 +81,15 @@ constexpr JobAttribute kAttributes[] = {
      {},
      QT_TRANSLATE_NOOP("JobAttributes", "Output Bin"),
      form(QT_TRANSLATE_NOOP("JobAttributes", "the name of an output bin"), isKeyword)},
-    {"finishings"_L1, AppliedTo::Job, "3"_L1, QT_TRANSLATE_NOOP("JobAttributes", "Finishing"),
-     form(QT_TRANSLATE_NOOP("JobAttributes", "numbers or names of finishings"), isFinishings)},
+    {kFinishingsAttribute,
+     AppliedTo::Job,
+     "3"_L1,
+     QT_TRANSLATE_NOOP("JobAttributes", "Finishing"),
+     {kFinishingWords,
+      {},
+      AllowedValues::Form{
+          QLatin1StringView(QT_TRANSLATE_NOOP("JobAttributes", "numbers or names of finishings")),
+          isFinishings}}},
     {"media-source"_L1,
      AppliedTo::Job,
      {},

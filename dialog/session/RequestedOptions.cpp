@@ -43,7 +43,8 @@ ppd_option_t *optionInAnyCase(ppd_file_t *ppd, const QString &name)
     for (int g = 0; g < ppd->num_groups; ++g) {
         const ppd_group_t &group = ppd->groups[g];
         for (int o = 0; o < group.num_options; ++o) {
-            if (isInSomeCase(name, ppdKeyword(group.options[o].keyword)))
+            if (isInSomeCase(name, ppdKeyword(group.options[o].keyword)) &&
+                isOption(ppd, group.options[o]))
                 return &group.options[o];
         }
     }

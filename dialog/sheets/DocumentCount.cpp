@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kPdf = "application/pdf"_L1;
+constexpr auto kPostScript = "application/postscript"_L1;
 constexpr auto kLaidOutPdf = "application/vnd.cups-pdf"_L1;
 // Of how many pages of a document the sizes are looked at.
 constexpr int kMostDescribed = 10000;
@@ -31,7 +32,7 @@ constexpr qint64 kMostBytesKept = qint64(512) << 20;
 // The pages of these have sizes of their own; the others are made for the paper.
 bool hasSizes(const Document &document)
 {
-    return document.format == kPdf || document.format == "application/postscript"_L1;
+    return document.format == kPdf || document.format == kPostScript;
 }
 
 QList<JobOption> applied(JobAttribute::AppliedTo what, const QList<JobOption> &options)
@@ -128,8 +129,10 @@ void DocumentCount::makePdf()
     ConversionRequest request{{m_document}, {}, m_ppd, m_pdf, m_pdf};
     request.ticket.options = documentOptions(m_request.options);
     request.result = ConversionRequest::Result::Pdf;
-    convert(request,
-            [this](bool empty) { empty ? fail(u"the document became no PDF"_s) : lookAtPages(); });
+    convert(request, [this](bool empty) {
+        m_sheets.drawsNoPage = empty && m_document.format == kPostScript;
+        empty ? fail(u"the document became no PDF"_s) : lookAtPages();
+    });
 }
 
 // The chain has a filter that lays a picture out at once; only by way of the printer's raster data

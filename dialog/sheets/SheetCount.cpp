@@ -47,6 +47,13 @@ bool isUncounted(const JobSheets &sheets)
     return !sheetsOfOneCopy(sheets);
 }
 
+bool drawsNoPage(const JobSheets &sheets)
+{
+    return !sheets.documents.isEmpty() &&
+           std::all_of(sheets.documents.cbegin(), sheets.documents.cend(),
+                       [](const DocumentSheets &document) { return document.drawsNoPage; });
+}
+
 bool hasEmptyBacks(const DocumentSheets &document)
 {
     return document.sides == 1;

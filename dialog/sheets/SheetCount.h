@@ -42,6 +42,9 @@ struct DocumentSheets
     /// same.
     enum class Trouble { None, Failed, TookTooLong, TooLarge };
     Trouble trouble = Trouble::None;
+    /// Whether it is PostScript that draws no page, as far as Ghostscript tells. A printer may do
+    /// something else with it.
+    bool drawsNoPage = false;
 
     bool operator==(const DocumentSheets &) const = default;
 };
@@ -66,6 +69,8 @@ int chosenPages(int pages, const PageChoice &choice);
 std::optional<int> sheetsOfOneCopy(const JobSheets &sheets);
 /// Whether nobody could count the sides of some document.
 bool isUncounted(const JobSheets &sheets);
+/// Whether all documents are PostScript that draws no page.
+bool drawsNoPage(const JobSheets &sheets);
 /// Whether the backs of a document stay empty in a two-sided job. Its stream may be one-sided then,
 /// or two-sided with blank backs: that depends on the printer, and on how the copies are made.
 bool hasEmptyBacks(const DocumentSheets &document);

@@ -29,18 +29,24 @@ bool makesUpMonochrome(ppd_file_t *ppd)
 
 } // namespace
 
+void setFetched(const FetchedPrinter &fetched, OpenedPrinter &opened)
+{
+    opened.fetched = fetched;
+    opened.saidDefaults = fetched.defaults;
+    if (makesUpMonochrome(opened.session->ppd()))
+        opened.fetched.defaults.removeAll({u"print-color-mode"_s, u"monochrome"_s});
+}
+
 std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
                                            const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error,
                                            const std::function<void(OpenedPrinter &)> &prepare)
 {
     auto opened = std::make_unique<OpenedPrinter>();
-    opened->fetched = fetched;
     opened->session = PpdSession::open(fetched.ppd->path, error);
     if (!opened->session)
         return nullptr;
-    if (makesUpMonochrome(opened->session->ppd()))
-        opened->fetched.defaults.removeAll({u"print-color-mode"_s, u"monochrome"_s});
+    setFetched(fetched, *opened);
 
     const Printer &printer = fetched.printer;
     PDEPlugIn *plugIn = nullptr;

@@ -21,6 +21,8 @@ class PDEPageColors;
 struct OpenedPrinter
 {
     FetchedPrinter fetched;
+    /// As its server says them; `fetched` is without those that nobody has asked for.
+    QList<JobOption> saidDefaults;
     std::unique_ptr<PpdSession> session;
     /// After the session, which the panels borrow.
     std::unique_ptr<PanelHost> panels;
@@ -35,6 +37,9 @@ struct OpenedPrinter
     /// Why the printer has no panels although it should; empty otherwise.
     QString panelProblem;
 };
+
+/// What was fetched of a printer, for one that is open with the PPD of it.
+void setFetched(const FetchedPrinter &fetched, OpenedPrinter &opened);
 
 /// How many copies the printer makes at once; 0: as many as anybody can ask for.
 inline int mostCopiesOf(const OpenedPrinter &printer)

@@ -254,7 +254,7 @@ void PrintTask::printerChecked(const FetchedPrinter &checked)
         m_chosen.problem = {}; // it was the server's, which answers
     // What comes next has its own words for it.
     if (m_opened && !m_chosen.next)
-        m_opened->fetched = checked;
+        setFetched(checked, *m_opened);
     Q_EMIT printerChanged();
 }
 

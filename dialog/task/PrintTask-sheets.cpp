@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "dialog/job/PpdFilters.h"
+#include "dialog/job/ResultPages.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OutputOrder.h"
@@ -22,6 +23,15 @@ bool mattersForSheets(const JobOption &option)
 {
     return isAppliedTo(JobAttribute::AppliedTo::Pages, option) ||
            isAppliedTo(JobAttribute::AppliedTo::Document, option);
+}
+
+// Why nothing would come out. Of PostScript without a page that is known of a file only: a printer
+// may be set up by it.
+QStringList problemsOfEmpty(const JobSheets &sheets, const PageChoice &choice, bool printsToFile)
+{
+    if (printsToFile && drawsNoPage(sheets))
+        return {noPageText()};
+    return emptyDocuments(sheets, choice);
 }
 
 } // namespace
@@ -149,8 +159,10 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
 {
     const PageChoice choice = pageChoiceOf(job.options);
     SheetPreview preview;
-    const QStringList empty = emptyDocuments(sheets, choice);
-    const QStringList problems = previewProblems(sheets) + empty + missingPages(sheets, choice);
+    const QStringList empty = problemsOfEmpty(sheets, choice, printsToFile());
+    const QStringList others = previewProblems(sheets);
+    const QStringList problems =
+        (empty.isEmpty() ? others : QStringList()) + empty + missingPages(sheets, choice);
     preview.reason = problems.join(u' ');
     preview.canBePrinted = empty.isEmpty();
     const SheetArrangement arrangement = arrangementOf(job);
@@ -229,7 +241,8 @@ void PrintTask::sheetsKnown()
     const JobSheets *sheets = m_sheets.counted(request);
     if (m_request.summary)
         m_face.writeSummary(withSheets(m_run.lines, m_run.ticket));
-    const QStringList problems = sheets ? emptyDocuments(*sheets, choice) : QStringList();
+    const QStringList problems =
+        sheets ? problemsOfEmpty(*sheets, choice, printsToFile()) : QStringList();
     std::optional<TaskRefusal> refusal;
     if (!problems.isEmpty())
         refusal = TaskRefusal{problems, TaskRefusal::Place::Pages};

@@ -23,6 +23,7 @@ ServerJobRequest serverJobRequest(const OpenedPrinter &printer, const ServerCont
     job.ppd = printer.fetched.ppd;
     job.follow = !request.noWait;
     const QList<JobOption> &defaults = printer.fetched.defaults;
+    job.defaults = printer.saidDefaults;
     job.queueChoosesPages = !passesFilesOn(printer) && !pageChoiceOf(defaults).ranges.isEmpty();
     if (const auto &capabilities = printer.fetched.capabilities) {
         job.chosenOptions = job.ticket.options;

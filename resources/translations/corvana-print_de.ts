@@ -4359,4 +4359,63 @@ Für die Befehlszeile: %2</translation>
         <translation>sie ist inzwischen kürzer geworden</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>Deckblatt anfügen</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>Rückenheftung</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>Kantenheftung</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Beschneiden</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Bündeln</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>Broschüre herstellen</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>Sätze versetzt ablegen</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Beschichten</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminieren</translation>
+    </message>
+</context>
 </TS>

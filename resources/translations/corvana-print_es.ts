@@ -4359,4 +4359,63 @@ En la línea de órdenes: %2</translation>
         <translation>se ha acortado mientras se leía</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Grapar</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforar</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>Añadir cubierta</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Encuadernar</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>Grapado en el lomo</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>Grapado en el borde</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plegar</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Empaquetar</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>Hacer folleto</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>Desplazar juegos</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Recubrir</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Plastificar</translation>
+    </message>
+</context>
 </TS>

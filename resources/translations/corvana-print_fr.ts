@@ -4359,4 +4359,63 @@ Pour la ligne de commande : %2</translation>
         <translation>il a été raccourci entre-temps</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Agrafer</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforer</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>Ajouter une couverture</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Relier</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>Piqûre à cheval</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>Piqûre à plat</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plier</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Rogner</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Mettre en liasse</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>Faire un livret</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>Décaler les jeux</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Enduire</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Plastifier</translation>
+    </message>
+</context>
 </TS>

@@ -4359,4 +4359,63 @@ Per la riga di comando: %2</translation>
         <translation>nel frattempo è diventato più corto</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>Nessuna</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Pinzare</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Forare</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>Aggiungere copertina</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Rilegare</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>Punto metallico a sella</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>Cucitura sul bordo</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Piegare</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Rifilare</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Raggruppare</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>Creare opuscolo</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>Sfalsare le serie</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Patinare</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Plastificare</translation>
+    </message>
+</context>
 </TS>

@@ -4357,4 +4357,63 @@ For the command line: %2</source>
         <translation>読み込み中に短くなりました</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>表紙を付ける</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>中とじ</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>平とじ</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>冊子の作成</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>部ごとにずらして排紙</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>コーティング</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>ラミネート</translation>
+    </message>
+</context>
 </TS>

@@ -4357,4 +4357,63 @@ For the command line: %2</source>
         <translation>읽는 동안 짧아졌습니다</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>스테이플</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>펀치</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>표지 추가</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>제본</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>중철</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>가장자리 철</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>접기</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>재단</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>묶기</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>소책자 만들기</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>부별로 엇갈려 쌓기</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>코팅</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>라미네이트</translation>
+    </message>
+</context>
 </TS>

@@ -4359,4 +4359,63 @@ Na linha de comando: %2</translation>
         <translation>ficou menor enquanto era lido</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Grampear</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perfurar</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>Adicionar capa</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Encadernar</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>Grampo no dobro</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>Grampo na borda</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Dobrar</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Refilar</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Agrupar em maços</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>Fazer livreto</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>Deslocar os jogos</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Revestir</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminar</translation>
+    </message>
+</context>
 </TS>

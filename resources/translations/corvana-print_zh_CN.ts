@@ -4357,4 +4357,63 @@ For the command line: %2</source>
         <translation>读取期间文件变短了</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>装订</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>打孔</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>加封面</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>胶装</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>骑马订</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>边缘装订</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>裁切</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>打捆</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>制作小册子</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>各份错开堆放</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>涂层</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>覆膜</translation>
+    </message>
+</context>
 </TS>

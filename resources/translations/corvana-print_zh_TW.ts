@@ -4357,4 +4357,63 @@ For the command line: %2</source>
         <translation>讀取期間檔案變短了</translation>
     </message>
 </context>
+<context>
+    <name>Finishings</name>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>裝訂</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>打孔</translation>
+    </message>
+    <message>
+        <source>Add Cover</source>
+        <translation>加封面</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>膠裝</translation>
+    </message>
+    <message>
+        <source>Saddle Stitch</source>
+        <translation>騎馬釘</translation>
+    </message>
+    <message>
+        <source>Edge Stitch</source>
+        <translation>邊緣裝訂</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>摺疊</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>裁切</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>打捆</translation>
+    </message>
+    <message>
+        <source>Make Booklet</source>
+        <translation>製作小冊子</translation>
+    </message>
+    <message>
+        <source>Offset Sets</source>
+        <translation>各份錯開堆放</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>塗層</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>護貝</translation>
+    </message>
+</context>
 </TS>

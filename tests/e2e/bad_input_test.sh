@@ -226,6 +226,18 @@ aFilterChainThatFailsPrintsNothing() {
     expect_refusal 'Nothing would be printed' --
 }
 
+# It may set a printer up, and that is what queues take it for. A file of it would be an empty one.
+postScriptThatDrawsNoPageIsRefused() {
+    document=$work/empty.ps
+    echo '%!PS' >"$document"
+    expect_refusal 'Nothing would be printed: what came out has no page.' --
+    printf '%%!PS\n72 500 moveto 200 500 lineto stroke\n' >"$document"
+    expect_refusal 'Nothing would be printed: what came out has no page.' --
+    echo showpage >>"$document"
+    print
+    expect_status 0
+}
+
 # The command line
 
 aCommandLineThatIsNotUnderstoodHasAStatusOfItsOwn() {

@@ -1,5 +1,7 @@
 #include "dialog/window/pages/AttributeEditor.h"
 
+#include <algorithm>
+
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -33,6 +35,14 @@ QString titleOf(const JobAttribute &attribute)
 bool areSame(const QString &one, const QString &other)
 {
     return one == other && one.isNull() == other.isNull();
+}
+
+// One of IPP, or several.
+bool isNumber(const QString &value)
+{
+    return !value.isEmpty() && std::all_of(value.cbegin(), value.cend(), [](QChar c) {
+        return (c >= u'0' && c <= u'9') || c == u',';
+    });
 }
 
 // What an attribute without a usual value is while nobody asks for one.
@@ -160,10 +170,12 @@ protected:
     {
         const QString shown = value.isNull() ? m_usual : value;
         int index = indexOf(shown);
-        if (index < 0 && !m_other) {
-            // A server's default may be a word that nobody here knows.
-            add(textOfJobAttribute({attribute().name, shown}).value, shown);
-            index = m_words->count() - 1;
+        const QString text = textOfJobAttribute({attribute().name, shown}).value;
+        if (index < 0 && (!m_other || (isNumber(shown) && text != shown))) {
+            // A server's default may be a word that nobody here knows, or a rarer number that has
+            // one. "Other" stays last.
+            index = m_other ? m_words->count() - 1 : m_words->count();
+            add(text, shown, index);
         }
         popup::selectItemAt(m_words, index < 0 ? m_words->count() - 1 : index);
         if (m_other && index < 0)
@@ -190,10 +202,11 @@ private:
         return index < m_words->count() ? index : -1;
     }
 
-    void add(const QString &title, const QString &value)
+    void add(const QString &title, const QString &value) { add(title, value, m_words->count()); }
+    void add(const QString &title, const QString &value, int index)
     {
         const ProgrammaticChange change;
-        m_words->addItem(title, value);
+        m_words->insertItem(index, title, value);
     }
 
     // A word may stand for that already.

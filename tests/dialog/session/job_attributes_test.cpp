@@ -114,7 +114,7 @@ const QList<Samples> &samples()
          {u"600dpi"_s, u"1200x600dpi"_s},
          {QString(), u"600"_s, u"600x"_s, u"600dpcm"_s, u"Custom.600dpi"_s}},
         {u"output-bin"_s, {u"face-down"_s, u"Upper"_s}, {QString(), u"two words"_s, u"{a}"_s}},
-        {u"finishings"_s, {u"3"_s, u"4,5"_s, u"staple"_s}, {QString(), u"4,"_s, u"4 5"_s}},
+        {u"finishings"_s, {u"3"_s, u"4,5"_s, u"staple"_s}, {QString(), u"4,"_s, u"4 5"_s, u"4a"_s}},
         {u"media-source"_s, {u"tray-1"_s, u"Lower"_s}, {QString(), u"a,b"_s}},
         {u"media-type"_s, {u"stationery"_s}, {QString(), u"a/b"_s}},
     };
@@ -185,6 +185,37 @@ private Q_SLOTS:
         QCOMPARE(attribute->accepts(value), taken);
     }
 
+    void numbersOfIppAreSaidInWords_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const QString &name, const QString &value, const QString &text) {
+            QTest::newRow(qPrintable(name + u'=' + value)) << name << value << text;
+        };
+        row(u"finishings"_s, u"3"_s, u"None"_s);
+        row(u"finishings"_s, u"4,5"_s, u"Staple, Punch"_s);
+        row(u"finishings"_s, u"staple"_s, u"Staple"_s);
+        row(u"finishings"_s, u"13"_s, u"Make Booklet"_s);
+        row(u"finishings"_s, u"20"_s, u"Staple (Top Left)"_s);
+        row(u"finishings"_s, u"31"_s, u"Staple (Bottom, 2×)"_s);
+        row(u"finishings"_s, u"25"_s, u"Edge Stitch (Top)"_s);
+        row(u"finishings"_s, u"85,94"_s, u"Punch (Bottom, 4×), Fold (half-z)"_s);
+        row(u"finishings"_s, u"9999"_s, u"9999"_s);
+        row(u"finishings"_s, u"Crimp"_s, u"Crimp"_s);
+        row(u"print-quality"_s, u"5"_s, u"High"_s);
+        row(u"orientation-requested"_s, u"6"_s, u"Reverse Portrait"_s);
+        row(u"job-collation-type"_s, u"4"_s, u"collated-documents"_s);
+        row(u"vendor-number"_s, u"4"_s, u"4"_s);
+        row(u"vendor-number"_s, u"0010"_s, u"0010"_s);
+    }
+    void numbersOfIppAreSaidInWords()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QTEST(textOfJobAttribute({name, value}).value, "text");
+    }
+
     void aValueHasOneSpellingInside_data()
     {
         QTest::addColumn<QString>("name");
@@ -201,6 +232,7 @@ private Q_SLOTS:
         row(u"orientation-requested"_s, u"landscape"_s, u"4"_s);
         row(u"orientation-requested"_s, u"Reverse-Portrait"_s, u"6"_s);
         row(u"print-quality"_s, u"High"_s, u"5"_s);
+        row(u"finishings"_s, u"Saddle-Stitch"_s, u"8"_s);
         row(u"job-hold-until"_s, u"Night"_s, u"night"_s);
         row(u"job-billing"_s, u"Accounts"_s, u"Accounts"_s);
     }

@@ -101,6 +101,32 @@ private Q_SLOTS:
         QCOMPARE(isCollated(*session, attributes), asked != u"false"_s);
     }
 
+    // To the chain it is a printer without an option, whose filters collate.
+    void whereThePrinterCannotCollateTheFiltersAreTold()
+    {
+        PpdBuilder ppd =
+            PpdBuilder()
+                .option("Disk", "Disk", "None", {{"None", "None"}, {"Hard", "Hard"}})
+                .option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}});
+        ppd.constraint("Collate", "True", "Disk", "None");
+        const auto session = sessionFor(ppd);
+        QList<JobOption> job = jobOptions(*session, nullptr, withCollation({}, 2, *session));
+        job.removeIf([](const JobOption &option) { return option.name == "PageSize"_L1; });
+        QCOMPARE(job, (QList<JobOption>{{u"Disk"_s, u"None"_s},
+                                        {u"collate"_s, u"true"_s},
+                                        {u"multiple-document-handling"_s,
+                                         u"separate-documents-collated-copies"_s}}));
+    }
+
+    void otherChoicesThanTrueAreAlsoTold()
+    {
+        const auto session = sessionFor(PpdBuilder().option(
+            "Collate", "Collate", "Off", {{"Off", "Off"}, {"On", "On"}, {"True", "Staggered"}}));
+        QVERIFY(!isCollated(*session, {}));
+        session->change(u"Collate"_s, u"On"_s, Origin::Dialog);
+        QVERIFY(isCollated(*session, {}));
+    }
+
     void anOptionWithoutAMarkIsLeftToThePrinter()
     {
         const auto session = sessionFor(

@@ -4,7 +4,9 @@
 #include <QTest>
 
 #include "dialog/session/ChoiceCodes.h"
+#include "dialog/session/JobTicket.h"
 #include "dialog/session/PpdFile.h"
+#include "dialog/session/PpdSession.h"
 #include "tests/dialog/support/TestPrinters.h"
 
 using namespace corvana;
@@ -53,16 +55,50 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(ppdFindOption(ppd.get(), "Collate")->defchoice), QByteArray("True"));
     }
 
-    void copiesAreNotCollatedWhereThatCollidesWithTheDefaults()
+    // Where it would collide with the defaults, or where the filters do not know it.
+    void copiesAreCollatedByFiltersWhereThePrinterDoesNot_data()
+    {
+        QTest::addColumn<QByteArray>("byDefault");
+        QTest::addColumn<bool>("isExcluded");
+        QTest::newRow("off") << QByteArray("False") << true;
+        QTest::newRow("on") << QByteArray("True") << true;
+        QTest::newRow("other words") << QByteArray("Off") << false;
+    }
+    void copiesAreCollatedByFiltersWhereThePrinterDoesNot()
+    {
+        QFETCH(QByteArray, byDefault);
+        QFETCH(bool, isExcluded);
+        PpdBuilder printer =
+            PpdBuilder()
+                .option("Memory", "Memory", "Small", {{"Small", "64 MB"}, {"Large", "1 GB"}})
+                .option("Collate", "Collate", byDefault,
+                        isExcluded ? QList<PpdChoice>{{"True", "On"}, {"False", "Off"}}
+                                   : QList<PpdChoice>{{"On", "On"}, {"Off", "Off"}});
+        if (isExcluded)
+            printer.constraint("Collate", "True", "Memory", "Small");
+        const PpdFile ppd = openedPpd(printer.text());
+        QVERIFY(!ppdOption(ppd.get(), u"Collate"_s));
+        QVERIFY(!ppdMarkedChoice(ppd.get(), u"Collate"_s));
+        QCOMPARE(ppdConflicts(ppd.get()), 0);
+        QVERIFY(ppdOption(ppd.get(), u"Memory"_s));
+        for (int i = 0; i < cupsArrayCount(ppd->marked); ++i) {
+            const auto *choice = static_cast<const ppd_choice_t *>(cupsArrayIndex(ppd->marked, i));
+            QVERIFY(QByteArray(choice->option->keyword) != "Collate");
+        }
+        const auto session = sessionFor(printer);
+        for (const ppd_option_t *option : session->options())
+            QVERIFY(QByteArray(option->keyword) != "Collate");
+        QVERIFY(isCollated(*session, {}));
+    }
+
+    void aPrinterCollatesItselfWithAllThatItNeeds()
     {
         PpdBuilder printer =
             PpdBuilder()
-                .option("Memory", "Memory", "Small", {{"Small", "64 MB"}})
+                .option("Memory", "Memory", "Large", {{"Small", "64 MB"}, {"Large", "1 GB"}})
                 .option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}});
         printer.constraint("Collate", "True", "Memory", "Small");
-        const PpdFile ppd = openedPpd(printer.text());
-        QVERIFY(ppdIsMarked(ppd.get(), "Collate", "False"));
-        QCOMPARE(QByteArray(ppdFindOption(ppd.get(), "Collate")->defchoice), QByteArray("False"));
+        QVERIFY(ppdIsMarked(openedPpd(printer.text()).get(), "Collate", "True"));
     }
 
     // It would be called what the printer does anyway, and copies would come out page by page.

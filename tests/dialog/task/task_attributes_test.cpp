@@ -367,6 +367,30 @@ private Q_SLOTS:
         QVERIFY(!m_scene->arguments().contains("collate=false"));
     }
 
+    // Of a printer that collates only with a disk, and has none, the filters' collation is offered.
+    void theFiltersCollationIsOfferedWhereThePrinterHasNone()
+    {
+        PpdBuilder ppd =
+            collatingPrinter().option("Disk", "Disk", "None", {{"None", "None"}, {"Hard", "Hard"}});
+        ppd.constraint("Collate", "True", "Disk", "None");
+        const auto saysIt = [&] {
+            const QByteArrayList arguments = m_scene->arguments();
+            return std::any_of(arguments.cbegin(), arguments.cend(),
+                               [](const QByteArray &one) { return one.startsWith("Collate="); });
+        };
+        PrintTask &first = open(u"copies=2 Collate=True"_s, ppd);
+        QCOMPARE(find(first.attributes(), u"collate"_s)->value, u"true"_s);
+        QVERIFY(prints("collate=true"));
+        QVERIFY(!saysIt());
+        PrintTask &task = open(u"copies=2"_s, ppd);
+        QVERIFY(find(task.attributes(), u"collate"_s)->isUsual);
+        QCOMPARE(summary(u"Copies"_s), QStringList{u"2, collated"_s});
+        QCOMPARE(task.setAttribute(u"collate"_s, u"false"_s), QString());
+        QCOMPARE(summary(u"Copies"_s), QStringList{u"2, not collated"_s});
+        QVERIFY(prints("collate=false"));
+        QVERIFY(!saysIt());
+    }
+
     void anOptionOfThePrinterIsNoAttributeBesideIt()
     {
         const PpdBuilder ppd = plainPrinter().option("OutputOrder", "Order", "Normal",

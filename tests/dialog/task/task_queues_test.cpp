@@ -372,6 +372,24 @@ private Q_SLOTS:
         QCOMPARE(task().outcome().kind, kTaken);
     }
 
+    // The server would add it to a job that nobody has seen it in.
+    void whatAQueueAddsByNowIsSeenBeforeItIsPrinted()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        open(request());
+        QueueSettings settings;
+        settings.options = {u"number-up-default=2"_s};
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()), settings);
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, Kind::PrinterChanged);
+        QVERIFY(m_cups->jobs().isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(task().phase() == Phase::Opened, kPatience);
+        task().bringUp();
+        QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
+        QVERIFY(printed());
+        QCOMPARE(task().outcome().kind, kTaken);
+    }
+
     void aFaceThatDoesNotWantToWaitIsDoneWhenTheQueueHasTheJob()
     {
         PrintRequest once = request();

@@ -67,6 +67,9 @@ const QList<ShownCase> kShown{
     {"a text", front(u"job-billing"_s, u"<b>Accounts</b>"_s), u"<b>Accounts</b>"_s},
     {"the usual text", front(u"job-sheets"_s), u"none"_s},
     {"a word of several forms", front(u"job-hold-until"_s, u"evening"_s), u"Evening"_s},
+    {"a number with a word", front(u"finishings"_s, u"3"_s), u"None"_s},
+    {"a rarer number with a word", front(u"finishings"_s, u"20"_s), u"Staple (Top Left)"_s},
+    {"several numbers with a word each", front(u"finishings"_s, u"4,5"_s), u"Staple, Punch"_s},
     {"another form than words", front(u"job-hold-until"_s, u"12:30"_s), u"12:30"_s},
 };
 
@@ -90,6 +93,8 @@ const QList<UntouchedCase> kUntouched{
     {"more digits than are shown", u"cpi"_s, u"16.66667"_s},
     {"a number with a zero before it", u"job-priority"_s, u"070"_s},
     {"blanks around a text", u"job-billing"_s, u" Accounts "_s},
+    {"a number that has a word", u"finishings"_s, u"20"_s},
+    {"a number that has none", u"finishings"_s, u"9999"_s},
     {"blanks around a time", u"job-hold-until"_s, u" 12:30"_s},
     {"a word that nobody knows", u"print-scaling"_s, u"odd"_s},
 };
