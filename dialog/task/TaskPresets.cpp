@@ -124,7 +124,9 @@ void TaskPresets::use(const QString &name)
         return m_task.say(TaskMessage::Kind::Problem,
                           tr("There is no preset of the name “%1” any more.").arg(name));
     const Preset &preset = found->preset;
-    apply(withChanges(m_kept.defaults, preset.content), preset.changed,
+    if (!m_task.opened())
+        return;
+    apply(contentOf(preset, m_kept.defaults, *m_task.opened()), preset.changed,
           {Kind::Preset, preset.name, preset.device});
 }
 
