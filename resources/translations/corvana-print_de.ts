@@ -1290,7 +1290,37 @@
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>„%1“ ist beschädigt. Was bisher für andere Programme geschrieben wurde, folgt seinen Voreinstellungen nicht mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>„%1“ in anderen Programmen: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert und bleibt von nun an, wie es ist.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>Dort bleiben die bisherigen Einstellungen, weil der Drucker ein anderes Modell ist. Speichern Sie die Voreinstellung auch auf jenem Drucker.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>Dort bleiben die bisherigen Einstellungen, weil diese dort nicht zusammen möglich sind.</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (für alle)</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>„%1“ ist beschädigt und bleibt unverändert: %2.</translation>
@@ -2375,6 +2405,10 @@
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert und bleibt, wie es ist.</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>Die Datei von lpoptions ist gepackt und kann hier nicht geändert werden.</translation>
@@ -3815,10 +3849,6 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>Andere Programme drucken mit diesen Einstellungen auf „%1“.</translation>
-    </message>
-    <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>„%1“ in anderen Programmen: %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

@@ -1290,7 +1290,37 @@
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>«%1» está dañado. Lo que se escribió antes para otros programas ya no sigue a sus preajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>«%1» en otros programas: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>Otro programa ha cambiado «%1», que a partir de ahora se deja como está.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>conserva los ajustes anteriores, porque su impresora es de otro modelo. Guarde el preajuste también en esa impresora.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>conserva los ajustes anteriores, porque estos no son posibles juntos allí.</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (para todos)</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>«%1» está dañado y se deja como está: %2.</translation>
@@ -2375,6 +2405,10 @@
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>Otro programa ha cambiado «%1», que se deja como está.</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>El archivo de lpoptions está comprimido y no se puede modificar aquí.</translation>
@@ -3815,10 +3849,6 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>Otros programas imprimen con estos ajustes en «%1».</translation>
-    </message>
-    <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>«%1» en otros programas: %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

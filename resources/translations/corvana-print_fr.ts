@@ -1290,7 +1290,37 @@
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>« %1 » est endommagé. Ce qui a été écrit auparavant pour d’autres programmes ne suit plus ses préréglages.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>« %1 » dans d’autres programmes : %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>« %1 » a été modifié par un autre programme et reste désormais tel quel.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>les réglages précédents y restent, car l’imprimante est d’un autre modèle. Enregistrez le préréglage sur cette imprimante également.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>les réglages précédents y restent, car ceux-ci n’y sont pas possibles ensemble.</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (pour tous)</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>« %1 » est endommagé et reste tel quel : %2.</translation>
@@ -2375,6 +2405,10 @@
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>« %1 » a été modifié par un autre programme et reste tel quel.</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>Le fichier de lpoptions est compressé et ne peut pas être modifié ici.</translation>
@@ -3815,10 +3849,6 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>D’autres programmes impriment avec ces réglages sur « %1 ».</translation>
-    </message>
-    <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>« %1 » dans d’autres programmes : %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

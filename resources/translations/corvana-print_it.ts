@@ -1290,7 +1290,37 @@
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>«%1» è danneggiato. Ciò che era stato scritto per altri programmi non segue più le sue preimpostazioni.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>«%1» in altri programmi: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>«%1» è stato modificato da un altro programma e d’ora in poi resta com’è.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>restano le impostazioni precedenti, perché la stampante è di un altro modello. Salvare la preimpostazione anche su quella stampante.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>restano le impostazioni precedenti, perché lì queste non sono possibili insieme.</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (per tutti)</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>«%1» è danneggiato e viene lasciato com&apos;è: %2.</translation>
@@ -2375,6 +2405,10 @@
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>«%1» è stato modificato da un altro programma e resta com’è.</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>Il file di lpoptions è compresso e qui non può essere modificato.</translation>
@@ -3815,10 +3849,6 @@ Per la riga di comando: %2</translation>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>Gli altri programmi stampano con queste impostazioni su «%1».</translation>
-    </message>
-    <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>«%1» in altri programmi: %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

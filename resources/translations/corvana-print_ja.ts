@@ -3457,7 +3457,37 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>「%1」は壊れています。ほかのプログラム用に以前書き込まれたものは、プリセットの変更に追従しなくなります。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>ほかのプログラムの「%1」: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>「%1」はほかのプログラムが変更したため、今後はそのまま残します。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>プリンタの機種が異なるため、以前の設定のままです。そのプリンタでもプリセットを保存してください。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>この設定の組み合わせはそこでは使えないため、以前の設定のままです。</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1（全員用）</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>「%1」は壊れているため、そのまま残されます: %2。</translation>
@@ -3700,10 +3730,6 @@ For the command line: %2</source>
         <translation>%1 現在の設定は変わっていません。</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>ほかのプログラムの「%1」: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>「%1」はもう存在しないか、設定がありません。</translation>
     </message>
@@ -3788,6 +3814,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>「%1」はほかのプログラムが変更したため、そのまま残します。</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>lpoptions のファイルは圧縮されているので、ここでは変更できません。</translation>

@@ -1290,7 +1290,37 @@
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>“%1” está danificado. O que foi gravado antes para outros programas não acompanha mais suas predefinições.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>“%1” em outros programas: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>“%1” foi alterado por outro programa e, a partir de agora, fica como está.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>mantém as configurações anteriores, porque a impressora é de outro modelo. Salve a predefinição também nessa impressora.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>mantém as configurações anteriores, porque estas não são possíveis juntas lá.</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (para todos)</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>“%1” está danificado e é deixado como está: %2.</translation>
@@ -2375,6 +2405,10 @@
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>“%1” foi alterado por outro programa e fica como está.</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>O arquivo de lpoptions está compactado e não pode ser alterado aqui.</translation>
@@ -3815,10 +3849,6 @@ Na linha de comando: %2</translation>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>Outros programas imprimem com estas configurações em “%1”.</translation>
-    </message>
-    <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>“%1” em outros programas: %2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>

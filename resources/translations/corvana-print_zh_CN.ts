@@ -3457,7 +3457,37 @@ For the command line: %2</source>
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>“%1”已损坏。之前为其他程序写入的设置不再随其预设更改。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>其他程序中的“%1”：%2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>“%1”已被其他程序更改，今后将保持原样。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>其打印机为其他型号，因此保留以前的设置。请在该打印机上也保存此预设。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>这些设置无法在其中同时使用，因此保留以前的设置。</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1（供所有人使用）</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>“%1”已损坏，保持原样：%2。</translation>
@@ -3700,10 +3730,6 @@ For the command line: %2</source>
         <translation>%1 您的设置保持不变。</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>其他程序中的“%1”：%2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>“%1”已不存在，或没有任何设置。</translation>
     </message>
@@ -3788,6 +3814,10 @@ For the command line: %2</source>
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>“%1”已被其他程序更改，将保持原样。</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>lpoptions 文件已压缩，无法在此更改。</translation>

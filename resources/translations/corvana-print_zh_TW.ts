@@ -1289,7 +1289,37 @@
     </message>
 </context>
 <context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>「%1」已損壞。先前為其他程式寫入的設定不再隨其預設集更改。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>其他程式中的「%1」：%2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>「%1」已被其他程式更改，今後將保持原樣。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>其印表機為其他型號，因此保留先前的設定。請在該印表機上也儲存此預設集。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>這些設定無法在其中同時使用，因此保留先前的設定。</translation>
+    </message>
+</context>
+<context>
     <name>PresetStore</name>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1（供所有人使用）</translation>
+    </message>
     <message>
         <source>“%1” is damaged and is left as it is: %2.</source>
         <translation>「%1」已損壞，維持原狀：%2。</translation>
@@ -2374,6 +2404,10 @@
 </context>
 <context>
     <name>UserQueuesFile</name>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>「%1」已被其他程式更改，將保持原樣。</translation>
+    </message>
     <message>
         <source>The file of lpoptions is packed, and cannot be changed here.</source>
         <translation>lpoptions 的檔案已壓縮，無法在此變更。</translation>
@@ -3813,10 +3847,6 @@ For the command line: %2</source>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>其他程式列印到「%1」時會使用這些設定。</translation>
-    </message>
-    <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>其他程式中的「%1」：%2</translation>
     </message>
     <message>
         <source>“%1” is not there any more, or has no settings.</source>
