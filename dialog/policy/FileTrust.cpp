@@ -1,9 +1,10 @@
 #include "dialog/policy/FileTrust.h"
 
 #include <cerrno>
-#include <cstdlib>
+#include <climits>
 #include <cstring>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -63,6 +64,18 @@ std::optional<PolicyProblem> whoElseMayWriteAbove(const QByteArray &path, Truste
 
 std::optional<PolicyProblem> whyNotTrusted(const QString &path, TrustedOwners owners)
 {
+    // Without reading: one may look at what one may not read, and a pipe is not waited for.
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+    if (descriptor < 0)
+        return PolicyProblem{{path, 0}, systemError(errno)};
+    const std::optional<PolicyProblem> problem = whyNotTrusted(descriptor, path, owners);
+    ::close(descriptor);
+    return problem;
+}
+
+std::optional<PolicyProblem> whyNotTrusted(int descriptor, const QString &path,
+                                           TrustedOwners owners)
+{
     const auto refused = [&path](const struct stat &status, const QString &why) {
         return PolicyProblem{{path, 0},
                              (S_ISDIR(status.st_mode)
@@ -71,15 +84,16 @@ std::optional<PolicyProblem> whyNotTrusted(const QString &path, TrustedOwners ow
                                  .arg(why)};
     };
     struct stat status = {};
-    char *resolved = ::realpath(QFile::encodeName(path).constData(), nullptr);
-    if (!resolved)
-        return PolicyProblem{{path, 0}, systemError(errno)};
-    const QByteArray real(resolved);
-    std::free(resolved);
-    if (::lstat(real.constData(), &status) != 0)
+    if (::fstat(descriptor, &status) != 0)
         return refused(status, systemError(errno));
     if (const QString why = whoElseMayWrite(status, owners); !why.isEmpty())
         return refused(status, why);
+    QByteArray real(PATH_MAX, '\0');
+    const QByteArray open = "/proc/self/fd/" + QByteArray::number(descriptor);
+    const ssize_t length = ::readlink(open.constData(), real.data(), size_t(real.size()));
+    if (length <= 0 || length >= real.size())
+        return refused(status, systemError(length < 0 ? errno : ENAMETOOLONG));
+    real.truncate(length);
     return whoElseMayWriteAbove(real, owners);
 }
 

@@ -30,8 +30,13 @@ std::optional<PolicyProblem> whoElseMayWriteAbove(const QByteArray &path, Truste
 /// The same of a file or a folder, wherever links lead to, and of what is above it. Errors: a
 /// problem as well, for what is not there or cannot be looked at.
 ///
-/// Where it answers nothing, what is opened by that path afterwards is what was looked at: nobody
-/// else can put another file there.
+/// What is opened by that path afterwards may be something else: somebody may own a link on the
+/// way.
 std::optional<PolicyProblem> whyNotTrusted(const QString &path, TrustedOwners owners);
+
+/// The same of what was opened, and of what is above the place where that really lies. `path` is
+/// how it is called.
+std::optional<PolicyProblem> whyNotTrusted(int descriptor, const QString &path,
+                                           TrustedOwners owners);
 
 } // namespace corvana

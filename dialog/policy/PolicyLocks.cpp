@@ -2,10 +2,13 @@
 
 #include <algorithm>
 
+#include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/session/RequestedOptions.h"
+#include "dialog/session/SameMeaning.h"
+#include "dialog/session/TwoSided.h"
 
 namespace corvana {
 
@@ -53,9 +56,13 @@ private:
             problems = lockChoices(asked.choices, entry);
         for (const JobOption &value : asked.panelValues)
             problems += lockPanelValue(value, entry);
+        if (problems.isEmpty())
+            problems = lockOrder(asked, entry);
         if (problems.isEmpty()) {
             for (const JobOption &attribute : asked.attributes)
-                add(attribute.name, {Kind::Attribute, {}, attribute.value, attribute}, entry);
+                lockAttribute(attribute, entry);
+            if (isOneSidedByHand(asked, entry))
+                lockAttribute({kSidesByHandAttribute, u"no"_s}, entry);
             if (asked.copies) {
                 const QString copies = QString::number(*asked.copies);
                 add(kCopiesAttribute, {Kind::Attribute, {}, copies, {kCopiesAttribute, copies}},
@@ -86,6 +93,45 @@ private:
                 {Kind::Choice, choice.choice, choice.choice, {choice.keyword, choice.choice}},
                 entry);
         return {};
+    }
+
+    // What says the same by another name is locked along with it.
+    void lockAttribute(const JobOption &attribute, const PolicyEntry &entry)
+    {
+        add(attribute.name, {Kind::Attribute, {}, attribute.value, attribute}, entry);
+        const QStringList others = otherNamesOf(attribute.name);
+        for (const QString &other : others)
+            add(other, {Kind::Attribute, {}, {}, attribute}, entry);
+    }
+
+    // Some PPDs have an option for the order of sheets, which filters take for the attribute.
+    QStringList lockOrder(const RequestedOptions &asked, const PolicyEntry &entry)
+    {
+        ppd_option_t *option = ppdOption(m_session.ppd(), kOutputOrderOption);
+        for (const OptionChoice &choice : asked.choices) {
+            const QString order = choice.choice.toLower();
+            if (choice.keyword == kOutputOrderOption &&
+                jobAttribute(kOutputOrderAttribute)->accepts(order))
+                lockAttribute({kOutputOrderAttribute, order}, entry);
+        }
+        for (const JobOption &attribute : asked.attributes) {
+            for (int i = 0;
+                 option && attribute.name == kOutputOrderAttribute && i < option->num_choices;
+                 ++i) {
+                const QString choice = ppdKeyword(option->choices[i].choice);
+                if (choice.compare(attribute.value, Qt::CaseInsensitive) == 0)
+                    return lockChoices({{kOutputOrderOption, choice}}, entry);
+            }
+        }
+        return {};
+    }
+
+    // A printer that does not turn sheets over has nothing else to be locked at one side.
+    bool isOneSidedByHand(const RequestedOptions &asked, const PolicyEntry &entry) const
+    {
+        return asked.choices.isEmpty() &&
+               entry.keyword.compare("sides"_L1, Qt::CaseInsensitive) == 0 &&
+               !turnsSheetsOver(m_session.ppd());
     }
 
     QStringList lockPanelValue(const JobOption &value, const PolicyEntry &entry)

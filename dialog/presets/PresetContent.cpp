@@ -131,19 +131,27 @@ PresetContent contentOf(const PpdSession &session, const PDEJobValues *jobValues
         if (ppdOption(session.ppd(), option.name) && !never.contains(option.name))
             content.options.insert(option.name, option.value);
     }
-    const QStringList device =
-        jobValues && !withDevice ? jobValues->deviceOptions() : QStringList();
     const QList<PanelEntry> entries = panelEntries(session, jobValues);
-    for (const PanelEntry &entry : entries) {
-        if (!setsUpDevice(entry.options, device))
-            content.entries.insert(entry.key, entry.value);
-    }
-    for (const QString &option : device)
-        content.options.remove(option);
+    for (const PanelEntry &entry : entries)
+        content.entries.insert(entry.key, entry.value);
     for (const JobOption &attribute : attributes) {
         if (isKept(attribute.name) && !attribute.value.isNull())
             content.attributes.insert(attribute.name, attribute.value);
     }
+    return withDevice ? content : withoutDevice(content, session, jobValues);
+}
+
+PresetContent withoutDevice(PresetContent content, const PpdSession &session,
+                            const PDEJobValues *jobValues)
+{
+    const QStringList device = jobValues ? jobValues->deviceOptions() : QStringList();
+    const QList<PanelEntry> entries = panelEntries(session, jobValues);
+    for (const PanelEntry &entry : entries) {
+        if (setsUpDevice(entry.options, device))
+            content.entries.remove(entry.key);
+    }
+    for (const QString &option : device)
+        content.options.remove(option);
     return content;
 }
 

@@ -36,6 +36,11 @@ struct PresetContent
 PresetContent contentOf(const PpdSession &session, const PDEJobValues *jobValues,
                         const QList<JobOption> &attributes, bool withDevice);
 
+/// Content without what sets up the device, which a file may name although it says that it does
+/// not.
+PresetContent withoutDevice(PresetContent content, const PpdSession &session,
+                            const PDEJobValues *jobValues);
+
 /// The options of a printer that are never kept: passwords and what is built into it. The answer
 /// counts until the next call.
 const QSet<QString> &neverKept(const PpdSession &session);

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cerrno>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
@@ -13,6 +17,7 @@
 #include <QSaveFile>
 
 #include "platform/foundation/ForeignText.h"
+#include "platform/foundation/WholeFile.h"
 
 namespace corvana {
 
@@ -240,17 +245,26 @@ QByteArray writePreset(const Preset &preset)
     return QJsonDocument(json).toJson();
 }
 
-PresetReading readPresetFile(const QString &path)
+PresetReading readPresetFile(const QString &path,
+                             const std::function<bool(int descriptor)> &isTrusted)
 {
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink())
         return {};
-    QFile file(path);
     // A named pipe would be waited for.
-    if (!info.isFile())
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return {std::nullopt, qt_error_string(errno)};
+    QFile file;
+    struct stat status = {};
+    const bool isFile = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    if (!isFile || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
         return {std::nullopt, Texts::tr("it is no file")};
-    if (!file.open(QIODevice::ReadOnly))
-        return {std::nullopt, file.errorString()};
+    }
+    if (isTrusted && !isTrusted(descriptor))
+        return {};
     const QByteArray json = file.read(kLargestPresetFile + 1);
     if (json.size() > kLargestPresetFile)
         return {std::nullopt, Texts::tr("it is larger than %1 bytes").arg(kLargestPresetFile)};
@@ -269,9 +283,9 @@ QString writePresetFile(const QString &path, const Preset &preset)
     }
     QSaveFile file(path);
     const QByteArray content = writePreset(preset);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return {};
-    return notWritten(path, file.errorString());
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        return notWritten(path, file.errorString());
+    return commitWhole(file) ? QString() : notWritten(path, qt_error_string(errno));
 }
 
 QString fileNameFor(const QString &name)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QByteArray>
@@ -26,8 +27,10 @@ struct PresetReading
 PresetReading readPreset(const QByteArray &json);
 QByteArray writePreset(const Preset &preset);
 
-/// The same for a file. One that is not there gives neither a preset nor a problem.
-PresetReading readPresetFile(const QString &path);
+/// The same for a file. One that is not there gives neither a preset nor a problem. `isTrusted`
+/// looks at what was opened before it is read; what it does not trust gives neither, too.
+PresetReading readPresetFile(const QString &path,
+                             const std::function<bool(int descriptor)> &isTrusted = {});
 
 /// Writes a file as a whole, or not at all, and makes its folder where there is none; the content
 /// is on the disk when this returns. Answers why it was not written; empty when it was.

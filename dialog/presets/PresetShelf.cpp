@@ -33,30 +33,27 @@ void PresetShelf::run(Change change, const QString &name, std::function<QString(
     m_work.run([this, change, name, work = std::move(work)]() -> PresetWork::Then {
         return [this, change, name, problem = work()] { Q_EMIT ended(change, name, problem); };
     });
-    if (change != Change::LastJob && change != Change::Instance)
+    if (change != Change::LastJob)
         look();
 }
 
-void PresetShelf::save(const Preset &preset, PresetStore::Replacing replacing)
+void PresetShelf::save(const Preset &preset, PresetStore::Replacing replacing, const Along &along)
 {
-    run(Change::Saved, preset.name,
-        [store = m_store, preset, replacing] { return store.save(preset, replacing); });
+    run(Change::Saved, preset.name, [store = m_store, preset, replacing, along] {
+        return store.save(preset, replacing, along);
+    });
 }
 
-void PresetShelf::rename(const Preset &preset, const QString &name)
+void PresetShelf::rename(const Preset &preset, const QString &name, const Along &along)
 {
     run(Change::Renamed, name,
-        [store = m_store, preset, name] { return store.rename(preset, name); });
+        [store = m_store, preset, name, along] { return store.rename(preset, name, along); });
 }
 
-void PresetShelf::remove(const Preset &preset)
+void PresetShelf::remove(const Preset &preset, const Along &along)
 {
-    run(Change::Removed, preset.name, [store = m_store, preset] { return store.remove(preset); });
-}
-
-void PresetShelf::writeInstance(const QString &instance, std::function<QString()> write)
-{
-    run(Change::Instance, instance, std::move(write));
+    run(Change::Removed, preset.name,
+        [store = m_store, preset, along] { return store.remove(preset, along); });
 }
 
 void PresetShelf::keepLastJob(const Printer &printer, const QString &server,

@@ -17,7 +17,7 @@ class PresetShelf : public QObject
     Q_OBJECT
 
 public:
-    enum class Change { Saved, Renamed, Removed, LastJob, Instance };
+    enum class Change { Saved, Renamed, Removed, LastJob };
 
     explicit PresetShelf(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -29,14 +29,12 @@ public:
     /// As far as it is known: of another model nothing.
     const PresetListing &listing() const { return m_listing; }
 
-    // ended() follows each of these.
+    // ended() follows each of these. `along` is called on another thread, and borrows nothing.
 
-    void save(const Preset &preset, PresetStore::Replacing replacing);
-    void rename(const Preset &preset, const QString &name);
-    void remove(const Preset &preset);
-    /// Writes the user's lpoptions, so that other programs have a preset, too, or have it no more;
-    /// `write` borrows nothing.
-    void writeInstance(const QString &instance, std::function<QString()> write);
+    using Along = PresetStore::Along;
+    void save(const Preset &preset, PresetStore::Replacing replacing, const Along &along = {});
+    void rename(const Preset &preset, const QString &name, const Along &along = {});
+    void remove(const Preset &preset, const Along &along = {});
     void keepLastJob(const Printer &printer, const QString &server, const PresetContent &changes);
 
 Q_SIGNALS:

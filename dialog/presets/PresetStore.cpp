@@ -64,13 +64,20 @@ void read(const QString &place, const QString &name, std::optional<TrustedOwners
         QDir(folder).entryList({u"*"_s + kSuffix}, QDir::Files | QDir::System, QDir::Name);
     for (const QString &file : files.mid(0, kMostPresets)) {
         const QString path = folder + u'/' + file;
-        if (owners && !isBelieved(path, *owners, all))
-            continue;
-        const PresetReading reading = readPresetFile(path);
+        // What was opened is looked at, so that nobody puts another file there meanwhile.
+        std::optional<PolicyProblem> distrust;
+        const auto isTrusted = [&](int descriptor) {
+            if (owners)
+                distrust = whyNotTrusted(descriptor, path, *owners);
+            return !distrust;
+        };
+        const PresetReading reading = readPresetFile(path, isTrusted);
+        if (distrust)
+            all->problems += distrust->text();
         if (!reading.problem.isEmpty())
             all->problems += damaged(path, reading.problem);
         if (reading.preset)
-            all->presets += StoredPreset{*reading.preset, path, !owners};
+            all->presets += StoredPreset{*reading.preset, path, !owners, {}};
     }
 }
 
@@ -80,6 +87,33 @@ void keepModel(PresetListing *listing, const QString &model)
 {
     listing->presets.removeIf(
         [&](const StoredPreset &stored) { return stored.preset.model != model; });
+}
+
+// Answers the problem, with which nothing happens along.
+QString then(const PresetStore::Along &along, const QString &problem)
+{
+    if (problem.isEmpty() && along)
+        along();
+    return problem;
+}
+
+// One that a user keeps under the name of an administrator's hides it from nobody.
+void nameApart(QList<StoredPreset> *presets)
+{
+    const auto isTaken = [&](const StoredPreset &other) {
+        return std::any_of(presets->cbegin(), presets->cend(), [&](const StoredPreset &own) {
+            const bool isForSame = own.preset.model.isEmpty() || other.preset.model.isEmpty() ||
+                                   own.preset.model == other.preset.model;
+            return own.isOwn && isForSame && own.preset.name == other.preset.name;
+        });
+    };
+    for (StoredPreset &stored : *presets) {
+        const QString inFile = stored.preset.name;
+        while (!stored.isOwn && isTaken(stored)) {
+            stored.preset.name = nameForEverybody(stored.preset.name);
+            stored.nameInFile = inFile;
+        }
+    }
 }
 
 void sortByName(QList<StoredPreset> *presets)
@@ -100,10 +134,22 @@ PresetPlaces PresetPlaces::ofUser()
 
 std::optional<StoredPreset> PresetListing::find(const QString &name) const
 {
-    const auto found =
-        std::find_if(presets.cbegin(), presets.cend(),
-                     [&](const StoredPreset &stored) { return stored.preset.name == name; });
+    auto found = std::find_if(presets.cbegin(), presets.cend(), [&](const StoredPreset &stored) {
+        return stored.preset.name == name;
+    });
+    if (found == presets.cend())
+        found = std::find_if(presets.cbegin(), presets.cend(), [&](const StoredPreset &stored) {
+            const QString inFile =
+                stored.nameInFile.isNull() ? stored.preset.name : stored.nameInFile;
+            return !stored.isOwn &&
+                   (name == nameForEverybody(inFile) || name == inFile + u" (for everybody)"_s);
+        });
     return found == presets.cend() ? std::nullopt : std::optional(*found);
+}
+
+QString nameForEverybody(const QString &name)
+{
+    return Texts::tr("%1 (for everybody)").arg(name);
 }
 
 QStringList PresetListing::names() const
@@ -153,6 +199,7 @@ private:
 PresetListing PresetStore::list(const QString &model) const
 {
     PresetListing listing;
+    QList<StoredPreset> all;
     QStringList models{model};
     if (!model.isEmpty())
         models += QString();
@@ -167,13 +214,19 @@ PresetListing PresetStore::list(const QString &model) const
                 read(place, folder, m_places.owners, &part);
         }
         keepModel(&part, one);
-        sortByName(&part.presets);
+        all += part.presets;
         for (const QString &problem : std::as_const(part.problems)) {
             if (!listing.problems.contains(problem))
                 listing.problems += problem;
         }
+    }
+    nameApart(&all);
+    for (const QString &one : std::as_const(models)) {
+        PresetListing part{all, {}};
+        keepModel(&part, one);
+        sortByName(&part.presets);
         for (const StoredPreset &stored : std::as_const(part.presets)) {
-            if (!listing.find(stored.preset.name))
+            if (!listing.names().contains(stored.preset.name))
                 listing.presets += stored;
         }
     }
@@ -194,6 +247,7 @@ PresetListing PresetStore::listAll() const
         if (isBelieved(place, m_places.owners, &listing))
             readBelow(place, m_places.owners);
     }
+    nameApart(&listing.presets);
     sortByName(&listing.presets);
     return listing;
 }
@@ -230,22 +284,25 @@ QString PresetStore::write(Preset preset, Replacing replacing) const
     return writePresetFile(path, preset);
 }
 
-QString PresetStore::save(const Preset &preset, Replacing replacing) const
+QString PresetStore::save(const Preset &preset, Replacing replacing, const Along &along) const
 {
     if (const QString problem = problemOfPresetName(preset.name); !problem.isEmpty())
         return problem;
     const Lock lock(m_places.own);
-    return lock.problem().isEmpty() ? write(preset, replacing) : lock.problem();
+    return lock.problem().isEmpty() ? then(along, write(preset, replacing)) : lock.problem();
 }
 
-QString PresetStore::rename(const Preset &preset, const QString &name) const
+QString PresetStore::rename(const Preset &preset, const QString &name, const Along &along) const
 {
     if (const QString problem = problemOfPresetName(name);
         !problem.isEmpty() || name == preset.name)
         return problem;
     const Lock lock(m_places.own);
-    if (!lock.problem().isEmpty())
-        return lock.problem();
+    return lock.problem().isEmpty() ? then(along, renameLocked(preset, name)) : lock.problem();
+}
+
+QString PresetStore::renameLocked(const Preset &preset, const QString &name) const
+{
     // As it is by now: another window may have changed it.
     const QString path = fileOf(preset);
     const PresetReading now = readPresetFile(path);
@@ -263,11 +320,14 @@ QString PresetStore::rename(const Preset &preset, const QString &name) const
                                  .arg(QDir::toNativeSeparators(path), former.errorString());
 }
 
-QString PresetStore::remove(const Preset &preset) const
+QString PresetStore::remove(const Preset &preset, const Along &along) const
 {
     const Lock lock(m_places.own);
-    if (!lock.problem().isEmpty())
-        return lock.problem();
+    return lock.problem().isEmpty() ? then(along, removeLocked(preset)) : lock.problem();
+}
+
+QString PresetStore::removeLocked(const Preset &preset) const
+{
     const QString path = fileOf(preset);
     QFile file(path);
     if (!file.exists() || file.remove())

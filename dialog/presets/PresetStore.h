@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QList>
@@ -29,9 +30,15 @@ struct StoredPreset
     Preset preset;
     QString path;
     bool isOwn = true; ///< else the administrator's, which nobody changes here
+    /// What its file says, where it is listed under another name: one of the user's own has that.
+    QString nameInFile{};
 
     bool operator==(const StoredPreset &) const = default;
 };
+
+/// "Reports (for everybody)": how a preset of an administrator's is called where one of the user's
+/// own has its name.
+QString nameForEverybody(const QString &name);
 
 /// What there is, and what cannot be read.
 struct PresetListing
@@ -42,7 +49,8 @@ struct PresetListing
     QStringList problems{};
 
     bool operator==(const PresetListing &) const = default;
-    /// The preset of that name; nothing when there is none.
+    /// The preset of that name; nothing when there is none. One for everybody is also found as
+    /// nameForEverybody(), in English too, whether it is listed so or not.
     std::optional<StoredPreset> find(const QString &name) const;
     QStringList names() const;
 };
@@ -59,20 +67,26 @@ public:
     {
     }
 
-    /// Those for the printers of a model, then those for all printers; each by name, and of one
-    /// name only the first: the user's own before the administrator's, the model's before those for
-    /// all. At most kMostPresets.
+    /// Those for the printers of a model, then those for all printers; each by name. A name of the
+    /// user's own means that; an administrator's of the same name is nameForEverybody(). Of several
+    /// of a user's, or of an administrator's, only the first is listed: the model's before those
+    /// for all. At most kMostPresets.
     PresetListing list(const QString &model) const;
     /// Those of all models.
     PresetListing listAll() const;
 
+    /// What becomes of other files along with a preset, such as lpoptions. It happens under the
+    /// same lock, once the preset is kept, renamed or removed, so that several windows leave the
+    /// preset and those files at the same state.
+    using Along = std::function<void()>;
+
     /// Keeps a preset. What a later version of the program has written into the file that is
     /// replaced stays in it. Errors: why it was not kept; a file that is damaged is never replaced.
-    QString save(const Preset &preset, Replacing replacing) const;
+    QString save(const Preset &preset, Replacing replacing, const Along &along = {}) const;
     /// Errors: why it was not renamed; then everything is as it was.
-    QString rename(const Preset &preset, const QString &name) const;
+    QString rename(const Preset &preset, const QString &name, const Along &along = {}) const;
     /// Errors: why it was not removed.
-    QString remove(const Preset &preset) const;
+    QString remove(const Preset &preset, const Along &along = {}) const;
 
 private:
     class Lock;
@@ -81,6 +95,8 @@ private:
     /// The file of a preset, also one that somebody has copied here under another name.
     QString fileOf(const Preset &preset) const;
     QString write(Preset preset, Replacing replacing) const;
+    QString renameLocked(const Preset &preset, const QString &name) const;
+    QString removeLocked(const Preset &preset) const;
 
     PresetPlaces m_places;
 };

@@ -1,16 +1,22 @@
 #include "dialog/printers/OwnInstances.h"
 
+#include <algorithm>
 #include <functional>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 #include "dialog/printers/SharedFile.h"
+#include "dialog/printers/UserQueuesLine.h"
+#include "platform/foundation/WholeFile.h"
 
 namespace corvana {
 
@@ -20,9 +26,19 @@ Q_LOGGING_CATEGORY(lcOwnInstances, "corvana.dialog.printers.instances", QtWarnin
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(OwnInstances)
+};
+
 constexpr QLatin1StringView kVersion{"version"};
 constexpr QLatin1StringView kInstances{"instances"};
 constexpr QLatin1StringView kSettings{"settings"};
+constexpr QLatin1StringView kModel{"model"};
+constexpr QLatin1StringView kForAll{"forAll"};
+constexpr QLatin1StringView kWritten{"written"};
+// The last one, and the one before, which still stands there where the last did not get there.
+constexpr qsizetype kMostWritten = 2;
 
 QJsonObject instancesIn(const QByteArray &content)
 {
@@ -39,36 +55,120 @@ QByteArray withInstances(const QByteArray &content, const QJsonObject &instances
     return QJsonDocument(whole).toJson();
 }
 
-// What is damaged is about to be replaced; whoever can mend it finds it beside the new file.
-void keepDamagedFile(const QString &path)
+bool isDamaged(const QByteArray &content)
+{
+    return !content.trimmed().isEmpty() && !QJsonDocument::fromJson(content).isObject();
+}
+
+// Empty where there is none.
+QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray content = file.read(kMostBytesOfSharedFile);
-    file.close();
-    if (content.trimmed().isEmpty() || QJsonDocument::fromJson(content).isObject())
-        return;
+    // What is no file may keep whoever opens it waiting.
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
+               ? file.read(kMostBytesOfSharedFile)
+               : QByteArray();
+}
+
+// What is damaged is about to be replaced; whoever can mend it finds it beside the new file.
+bool keepDamaged(const QString &path, const QByteArray &content)
+{
     const QString kept = path + u".damaged"_s;
-    QFile::remove(kept);
-    if (QFile::rename(path, kept))
-        qCWarning(lcOwnInstances) << "the damaged file was kept as" << kept;
+    QSaveFile file(kept);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !commitWhole(file))
+        return false;
+    qCWarning(lcOwnInstances) << "the damaged file was kept as" << kept;
+    return true;
 }
 
 QString change(const QString &path, const std::function<void(QJsonObject *)> &edit)
 {
     QDir().mkpath(QFileInfo(path).path());
-    keepDamagedFile(path);
-    const auto changed = [edit](const QByteArray &content) {
+    bool isLost = false;
+    const auto changed = [&](const QByteArray &content) {
+        // Under the lock, so that it is what stands there, and nobody's new file.
+        isLost = isDamaged(content) && !keepDamaged(path, content);
+        if (isLost)
+            return content;
         QJsonObject instances = instancesIn(content);
         edit(&instances);
         return withInstances(content, instances);
     };
     // Nobody but this program writes the file, always under the lock.
-    return SharedFile(path).change({changed, nullptr});
+    const QString problem = SharedFile(path).change({changed, nullptr});
+    if (problem.isEmpty() && isLost)
+        return QCoreApplication::translate("SharedFile",
+                                           "“%1” cannot be written: %2. It was not changed.")
+            .arg(path, QCoreApplication::translate("SharedFile",
+                                                   "nothing can be written into its folder"));
+    return problem;
+}
+
+// As it stands in lpoptions, without a name.
+QString asLine(const QList<JobOption> &options)
+{
+    return QString::fromUtf8(lineOf(false, u"-"_s, options));
+}
+
+QList<JobOption> optionsOf(const QString &line)
+{
+    const QByteArray bytes = line.toUtf8();
+    const std::optional<UserQueuesLine> read = userQueuesLine(bytes);
+    return read ? optionsOfLine(*read) : QList<JobOption>();
+}
+
+OwnInstance instanceOf(const QJsonObject &object)
+{
+    OwnInstance instance;
+    instance.settings = object.value(kSettings).toString();
+    if (object.value(kModel).isString())
+        instance.model = object.value(kModel).toString();
+    instance.isForAll = object.value(kForAll).toBool();
+    const QJsonArray written = object.value(kWritten).toArray();
+    for (const QJsonValue &line : written) {
+        if (line.isString() && instance.written.size() < kMostWritten)
+            instance.written += optionsOf(line.toString());
+    }
+    return instance;
+}
+
+const JobOption *find(const QString &name, const QList<JobOption> &options)
+{
+    const auto found = std::find_if(options.cbegin(), options.cend(),
+                                    [&](const JobOption &option) { return option.name == name; });
+    return found == options.cend() ? nullptr : &*found;
+}
+
+// Servers have defaults of IPP's attributes, whose names are in small letters.
+bool mayBeLeftOut(const JobOption &option)
+{
+    return option.name == option.name.toLower();
+}
+
+bool isSame(const QList<JobOption> &found, const QList<JobOption> &written,
+            const QList<JobOption> &ofQueue)
+{
+    const auto isThere = [&](const JobOption &option) {
+        const JobOption *same = find(option.name, found);
+        return same ? same->value == option.value : mayBeLeftOut(option);
+    };
+    const auto isKnown = [&](const JobOption &option) {
+        return find(option.name, written) || ofQueue.contains(option);
+    };
+    return std::all_of(written.cbegin(), written.cend(), isThere) &&
+           std::all_of(found.cbegin(), found.cend(), isKnown);
 }
 
 } // namespace
+
+bool OwnInstance::isAsWritten(const QList<JobOption> &found, const QList<JobOption> &ofQueue) const
+{
+    // Earlier versions have noted the name only.
+    return written.isEmpty() ||
+           std::any_of(written.cbegin(), written.cend(),
+                       [&](const QList<JobOption> &one) { return isSame(found, one, ofQueue); });
+}
 
 QString OwnInstances::usualPath()
 {
@@ -76,30 +176,62 @@ QString OwnInstances::usualPath()
            u"/corvana-print/instances.json"_s;
 }
 
-QMap<QString, QString> OwnInstances::read() const
+QMap<QString, OwnInstance> OwnInstances::read() const
 {
-    QFile file(m_path);
-    if (!QFileInfo(m_path).isFile() || !file.open(QIODevice::ReadOnly))
-        return {};
-    const QJsonObject instances = instancesIn(file.read(kMostBytesOfSharedFile));
-    QMap<QString, QString> names;
+    const QJsonObject instances = instancesIn(contentOf(m_path));
+    QMap<QString, OwnInstance> all;
     for (auto it = instances.constBegin(); it != instances.constEnd(); ++it)
-        names.insert(it.key(), it.value().toObject().value(kSettings).toString());
-    return names;
+        all.insert(it.key(), instanceOf(it.value().toObject()));
+    return all;
 }
 
-QString OwnInstances::note(const QString &name, const QString &settings) const
+QString OwnInstances::damage() const
+{
+    return isDamaged(contentOf(m_path))
+               ? Texts::tr("“%1” is damaged. What was written for other programs before does not "
+                           "follow its presets any more.")
+                     .arg(m_path)
+               : QString();
+}
+
+QString OwnInstances::note(const QString &name, const OwnInstance &instance,
+                           const QList<JobOption> &options) const
 {
     return change(m_path, [&](QJsonObject *instances) {
-        QJsonObject instance = instances->value(name).toObject();
-        instance[kSettings] = settings;
-        instances->insert(name, instance);
+        QJsonObject object = instances->value(name).toObject();
+        object[kSettings] = instance.settings;
+        object.remove(kModel);
+        if (instance.model)
+            object[kModel] = *instance.model;
+        object[kForAll] = instance.isForAll;
+        QJsonArray written = object.value(kWritten).toArray();
+        const QJsonValue line(asLine(options));
+        if (written.isEmpty() || written.first() != line)
+            written.prepend(line);
+        while (written.size() > kMostWritten)
+            written.removeLast();
+        object[kWritten] = written;
+        instances->insert(name, object);
     });
 }
 
-QString OwnInstances::forget(const QString &name) const
+QString OwnInstances::rename(const QStringList &names, const QString &settings) const
 {
-    return change(m_path, [&](QJsonObject *instances) { instances->remove(name); });
+    return change(m_path, [&](QJsonObject *instances) {
+        for (const QString &name : names) {
+            QJsonObject object = instances->value(name).toObject();
+            object[kSettings] = settings;
+            instances->insert(name, object);
+        }
+    });
+}
+
+QString OwnInstances::forget(const QStringList &names) const
+{
+    return change(m_path, [&](QJsonObject *instances) {
+        for (const QString &name : names)
+            instances->remove(name);
+    });
 }
 
 } // namespace corvana

@@ -1,10 +1,35 @@
 #pragma once
 
+#include <optional>
+
+#include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
+#include "platform/pde/PDEJobValues.h"
+
 namespace corvana {
+
+/// An instance that this program has written, and of what.
+struct OwnInstance
+{
+    QString settings{}; ///< the name that they have for people, such as a preset's
+    /// The model of the printer where the settings are a preset; nothing where they are kept
+    /// nowhere else, and for what earlier versions have noted.
+    std::optional<QString> model{};
+    bool isForAll = false; ///< the preset is one for the printers of all models
+    /// What was written, the last first. Several, because one of them may not have got as far as
+    /// the file.
+    QList<QList<JobOption>> written{};
+
+    bool operator==(const OwnInstance &) const = default;
+
+    /// Whether an instance is still what was written. What libcups does to it when it writes the
+    /// file is no change: it leaves out attributes that the queue has as defaults, and adds what
+    /// the user has set for the queue (`ofQueue`). Anything else is somebody else's work.
+    bool isAsWritten(const QList<JobOption> &found, const QList<JobOption> &ofQueue) const;
+};
 
 /// Which instances in lpoptions this program has written, and of what. They can be told from those
 /// that somebody else has made by nothing else: a mark among their options would go to printers,
@@ -18,14 +43,23 @@ public:
     explicit OwnInstances(const QString &path = usualPath()) : m_path(path) {}
     static QString usualPath();
 
-    /// "NAME/INSTANCE" to the name that its settings have for people, such as a preset's. A file
-    /// that is damaged knows none.
-    QMap<QString, QString> read() const;
+    /// By "NAME/INSTANCE". A file that is damaged knows none.
+    QMap<QString, OwnInstance> read() const;
     QStringList names() const { return read().keys(); }
-    /// Errors: both answer a sentence for the user. A file that is damaged is kept beside the new
-    /// one, as "instances.json.damaged".
-    QString note(const QString &name, const QString &settings) const;
-    QString forget(const QString &name) const;
+    /// Why nothing is known although something was noted: a sentence for the user; empty where that
+    /// is not so.
+    QString damage() const;
+
+    // Errors: these answer a sentence for the user, and nothing has changed. A file that is damaged
+    // is kept beside the new one, as "instances.json.damaged".
+
+    /// Before an instance is written: `options` are what will stand there. Of `instance`, what was
+    /// written before is not looked at.
+    QString note(const QString &name, const OwnInstance &instance,
+                 const QList<JobOption> &options) const;
+    /// Settings have another name now.
+    QString rename(const QStringList &names, const QString &settings) const;
+    QString forget(const QStringList &names) const;
 
 private:
     QString m_path;

@@ -15,6 +15,7 @@
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/session/PpdFile.h"
+#include "platform/foundation/WholeFile.h"
 
 namespace corvana {
 
@@ -89,7 +90,8 @@ QList<JobOption> fromJson(const QJsonArray &array)
 bool save(const QString &path, const QByteArray &content)
 {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+        commitWhole(file))
         return true;
     qCWarning(lcPpdCache).noquote() << path << "cannot be written:" << file.errorString();
     return false;

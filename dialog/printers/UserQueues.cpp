@@ -40,6 +40,13 @@ void readLine(QByteArrayView line, UserQueues *queues)
     }
 }
 
+void readLines(const QByteArray &content, UserQueues *queues)
+{
+    const QList<QByteArrayView> lines = linesOfUserQueues(content);
+    for (const QByteArrayView line : lines)
+        readLine(line, queues);
+}
+
 } // namespace
 
 QList<JobOption> UserQueues::optionsOf(const QString &name) const
@@ -62,6 +69,13 @@ QStringList UserQueues::instancesOf(const QString &queue) const
     return instances;
 }
 
+UserQueues userQueuesIn(const QByteArray &content)
+{
+    UserQueues queues;
+    readLines(content, &queues);
+    return queues;
+}
+
 UserQueues readUserQueues(const QStringList &files)
 {
     UserQueues queues;
@@ -70,10 +84,7 @@ UserQueues readUserQueues(const QStringList &files)
         QFile file(name);
         if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
-        const QByteArray content = file.read(kMostBytesOfUserQueues);
-        const QList<QByteArrayView> lines = linesOfUserQueues(content);
-        for (const QByteArrayView line : lines)
-            readLine(line, &queues);
+        readLines(file.read(kMostBytesOfUserQueues), &queues);
     }
     return queues;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -28,6 +29,9 @@ struct UserQueues
 /// Reads the system's and the user's lpoptions, the latter in front, and LPDEST and PRINTER of the
 /// environment, in front of both.
 UserQueues readUserQueues();
+
+/// What one file says, by its content.
+UserQueues userQueuesIn(const QByteArray &content);
 
 /// Reads lpoptions files, each of which adds to the ones before. A missing file is none.
 UserQueues readUserQueues(const QStringList &files);

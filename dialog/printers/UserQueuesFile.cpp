@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 
 #include "dialog/printers/PrinterId.h"
+#include "dialog/printers/UserQueues.h"
 #include "dialog/printers/UserQueuesLine.h"
 
 namespace corvana {
@@ -67,6 +68,16 @@ bool hasInstance(const QByteArray &content, const QString &name, const QList<Job
     return isThere;
 }
 
+// Whether somebody else's work stands there under a name.
+bool hasToStay(const QByteArray &content, const QString &name, const UserQueuesFile::MayGo &mayGo)
+{
+    if (!mayGo)
+        return false;
+    const UserQueues queues = userQueuesIn(content);
+    return queues.hasInstance(name) &&
+           !mayGo(queues.optionsOf(name), queues.optionsOf(queueOfInstance(name)));
+}
+
 // What libcups finds in the line that would be written, as far as it is something else.
 QString misreadOption(const QString &name, const QList<JobOption> &options)
 {
@@ -91,35 +102,40 @@ QString systemUserQueues()
     return qEnvironmentVariable("CUPS_SERVERROOT", u"/etc/cups"_s) + u"/lpoptions"_s;
 }
 
-QString UserQueuesFile::setInstance(const QString &name, const QList<JobOption> &options) const
+QString UserQueuesFile::setInstance(const QString &name, const QList<JobOption> &options,
+                                    const MayGo &mayGo) const
 {
     if (const QString problem = problemOfInstance(name, options); !problem.isEmpty())
         return problem;
     bool isPacked = false;
-    const QString problem =
-        m_file.change({[&](const QByteArray &content) {
-                           isPacked = content.startsWith(kPacked);
-                           return isPacked ? content : withInstance(content, name, options);
-                       },
-                       [&](const QByteArray &content) {
-                           return isPacked || hasInstance(content, name, options);
-                       }});
+    bool isKept = false;
+    const QString problem = m_file.change(
+        {[&](const QByteArray &content) {
+             isPacked = content.startsWith(kPacked);
+             isKept = isPacked || hasToStay(content, name, mayGo);
+             return isKept ? content : withInstance(content, name, options);
+         },
+         [&](const QByteArray &content) { return isKept || hasInstance(content, name, options); }});
     if (problem.isEmpty() && isPacked)
         return Texts::tr("The file of lpoptions is packed, and cannot be changed here.");
+    if (problem.isEmpty() && isKept)
+        return Texts::tr("“%1” was changed by another program, and is left as it is.").arg(name);
     return problem;
 }
 
-QString UserQueuesFile::removeInstance(const QString &name) const
+QString UserQueuesFile::removeInstance(const QString &name, const MayGo &mayGo) const
 {
     bool staysDefault = false;
-    const QString problem =
-        m_file.change({[&](const QByteArray &content) {
-                           staysDefault = isDefault(content, name);
-                           return staysDefault ? content : withoutInstance(content, name);
-                       },
-                       [&](const QByteArray &content) {
-                           return staysDefault || withoutInstance(content, name) == content;
-                       }});
+    bool isKept = false;
+    const QString problem = m_file.change(
+        {[&](const QByteArray &content) {
+             isKept = hasToStay(content, name, mayGo);
+             staysDefault = !isKept && isDefault(content, name);
+             return isKept || staysDefault ? content : withoutInstance(content, name);
+         },
+         [&](const QByteArray &content) {
+             return isKept || staysDefault || withoutInstance(content, name) == content;
+         }});
     if (problem.isEmpty() && staysDefault)
         return Texts::tr("“%1” is your default printer, and stays: choose another one first.")
             .arg(name);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -24,12 +26,19 @@ inline constexpr qint64 kMostBytesOfUserQueues = kMostBytesOfSharedFile;
 class UserQueuesFile
 {
 public:
+    /// Whether an instance may be replaced or removed, by what stands there and what the file says
+    /// of its queue. Asked under the lock, perhaps several times.
+    using MayGo =
+        std::function<bool(const QList<JobOption> &found, const QList<JobOption> &ofQueue)>;
+
     explicit UserQueuesFile(const QString &path = ownUserQueues()) : m_file(path) {}
 
-    /// Writes an instance, instead of what stood there under its name.
-    QString setInstance(const QString &name, const QList<JobOption> &options) const;
-    /// Removes an instance; the user's default is not removed.
-    QString removeInstance(const QString &name) const;
+    /// Writes an instance, instead of what stood there under its name. `mayGo`: null for any.
+    QString setInstance(const QString &name, const QList<JobOption> &options,
+                        const MayGo &mayGo = {}) const;
+    /// Removes an instance; the user's default is not removed. One that may not go stays, and that
+    /// is no problem.
+    QString removeInstance(const QString &name, const MayGo &mayGo = {}) const;
 
 private:
     SharedFile m_file;

@@ -13,6 +13,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "platform/foundation/WholeFile.h"
+
 namespace corvana {
 
 using namespace Qt::StringLiterals;
@@ -83,7 +85,7 @@ bool writeLines(const QString &path, const Lines &lines)
     file.write(lines.others);
     for (const auto &[server, key] : lines.keys)
         file.write(server + ' ' + kKind + key.toHex() + '\n');
-    return file.commit();
+    return commitWhole(file);
 }
 
 std::optional<QByteArray> keyIn(const Lines &lines, const QString &server)

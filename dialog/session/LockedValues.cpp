@@ -58,8 +58,13 @@ QStringList brokenLocks(const OptionLocks &locks, const QList<JobOption> &job, i
     for (auto lock = locks.cbegin(); lock != locks.cend(); ++lock) {
         const bool isCopies = lock.key() == kCopiesAttribute;
         const QString value = isCopies ? QString::number(copies) : valueOf(lock.key(), job);
+        bool isKept = value == lock->value;
+        if (lock->kind == OptionLock::Kind::Choice)
+            isKept = isKept || lock->isKeptBy(lock.key(), value);
+        else if (lock->kind == OptionLock::Kind::Attribute && !isKept)
+            isKept = lock->allowsAttribute({lock.key(), value});
         // The value of a panel that is not in force says its default.
-        if (lock->kind != OptionLock::Kind::PanelValue && value != lock->value)
+        if (lock->kind != OptionLock::Kind::PanelValue && !isKept)
             broken += lock.key();
     }
     return broken;

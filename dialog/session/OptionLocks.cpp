@@ -5,8 +5,11 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
+#include "dialog/session/SameMeaning.h"
 
 namespace corvana {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,6 +25,19 @@ bool OptionLock::allows(const QString &mark) const
     // Panels say "Custom" of every custom value, and mean the one that is marked.
     return choice.isNull() || mark == choice ||
            (mark == kCustomChoice && choice.startsWith(kCustomPrefix));
+}
+
+bool OptionLock::isKeptBy(const QString &keyword, const QString &mark) const
+{
+    // libcups takes this mark away with each tray, and pages are not fed by hand then either.
+    const bool isOffAnyway = keyword == kManualFeedOption && mark.isNull() &&
+                             choice.compare("False"_L1, Qt::CaseInsensitive) == 0;
+    return choice.isNull() || mark == choice || isOffAnyway;
+}
+
+bool OptionLock::allowsAttribute(const JobOption &attribute) const
+{
+    return value == attribute.value || (value.isNull() && leavesAsItIs(attribute, asked));
 }
 
 QString lockedText(const QString &title, const QString &by)

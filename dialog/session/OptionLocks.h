@@ -23,7 +23,8 @@ struct OptionLock
     QString choice{};
     /// As the job carries it; null for an attribute that no job may have.
     QString value{};
-    /// The same as an administrator wrote it, for whoever has to write it again.
+    /// The same as an administrator wrote it, for whoever has to write it again; of an attribute
+    /// that no job may have, the one that says the same thing by another name.
     JobOption asked{};
     QString by{}; ///< the place where it is decided: a file and a line
 
@@ -31,6 +32,10 @@ struct OptionLock
 
     /// Whether the option may be marked so.
     bool allows(const QString &mark) const;
+    /// Whether a mark, a null one too, is what the option of this name is locked at.
+    bool isKeptBy(const QString &keyword, const QString &mark) const;
+    /// Whether a job may be asked for a value of the attribute.
+    bool allowsAttribute(const JobOption &attribute) const;
 };
 
 /// By the keyword of the option, or the name of the attribute.

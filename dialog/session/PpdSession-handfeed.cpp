@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/PpdSession.h"
 
@@ -39,6 +41,20 @@ QList<OptionChoice> PpdSession::followHandFeed(const QString &keyword, const QSt
     for (const OptionChoice &one : std::as_const(marked))
         m_printSettings.setValue(one.keyword, one.choice);
     return marked;
+}
+
+// A set that takes the hand feed away and names no tray brings the last one back, as a single
+// choice does.
+QList<OptionChoice> PpdSession::trayBack(const QList<OptionChoice> &set,
+                                         const SessionSnapshot &before)
+{
+    const auto isNamed = [&](QLatin1StringView keyword) {
+        return std::any_of(set.cbegin(), set.cend(),
+                           [&](const OptionChoice &one) { return one.keyword == keyword; });
+    };
+    return isNamed(kManualFeedOption) && !isNamed(kInputSlotOption)
+               ? followHandFeed(kManualFeedOption, before.marks.value(kManualFeedOption))
+               : QList<OptionChoice>();
 }
 
 } // namespace corvana

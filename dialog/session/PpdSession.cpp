@@ -124,6 +124,7 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
         restore(before);
         return refusals;
     }
+    ordered += trayBack(ordered, before);
     recordMarks();
     const bool otherPaper = updatePageFormat();
     for (const OptionChoice &choice : inOrder(choices)) {
@@ -191,10 +192,14 @@ void PpdSession::setLocks(const OptionLocks &locks, const Companions &companions
 void PpdSession::markLocks()
 {
     for (auto lock = m_locks.cbegin(); lock != m_locks.cend(); ++lock) {
-        if (lock->choice.isNull())
+        const QString now = markedChoice(lock.key());
+        if (lock->choice.isNull() || (now.isNull() && lock->isKeptBy(lock.key(), now)))
             continue;
+        const QString handFeed = markedChoice(kManualFeedOption);
         mark(lock.key(), lock->choice);
         m_printSettings.setValue(lock.key(), choiceKeyword(lock->choice));
+        if (lock.key() == kManualFeedOption)
+            followHandFeed(lock.key(), handFeed);
     }
 }
 
@@ -218,8 +223,7 @@ OptionChoice PpdSession::movedLock() const
 {
     for (auto lock = m_locks.cbegin(); lock != m_locks.cend(); ++lock) {
         const QString custom = customValue(lock.key());
-        if (!lock->choice.isNull() &&
-            (custom.isNull() ? markedChoice(lock.key()) : custom) != lock->choice)
+        if (!lock->isKeptBy(lock.key(), custom.isNull() ? markedChoice(lock.key()) : custom))
             return {lock.key(), lock->choice};
     }
     return {};

@@ -163,6 +163,7 @@ private:
     OptionChoice movedLock() const;
     void markLocks();
     QList<OptionChoice> followHandFeed(const QString &keyword, const QString &handFeed);
+    QList<OptionChoice> trayBack(const QList<OptionChoice> &set, const SessionSnapshot &before);
 
     PpdFile m_ppd;
     /// What is marked, from the first question after a mark on: one change asks many times.

@@ -144,7 +144,7 @@ void RequestedOptions::refuseValue(const JobOption &option, const QString &allow
 bool RequestedOptions::refuseLocked(const JobOption &attribute)
 {
     const auto lock = m_session.locks().find(attribute.name);
-    if (lock == m_session.locks().cend() || lock->value == attribute.value)
+    if (lock == m_session.locks().cend() || lock->allowsAttribute(attribute))
         return false;
     refuse(attribute, lockedText(attribute.name, m_session));
     return true;
@@ -272,6 +272,9 @@ void RequestedOptions::addSides(const JobOption &option)
         allowed += side.sides;
         if (!isInSomeCase(option.value, side.sides))
             continue;
+        // One side is what is printed where sheets are not turned over by hand either.
+        if (asked.isEmpty() && refuseLocked({kSidesByHandAttribute, u"no"_s}))
+            return;
         choices += asked;
         return;
     }

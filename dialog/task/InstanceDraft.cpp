@@ -6,13 +6,14 @@
 #include <QCoreApplication>
 
 #include "dialog/job/PageChoice.h"
-#include "dialog/printers/OwnInstances.h"
+#include "dialog/presets/PresetContent.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueuesFile.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/OutputOrder.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -158,16 +159,58 @@ QStringList lostOrders(const QList<JobOption> &attributes)
     return lost;
 }
 
-QString problemOfPrinter(const OpenedPrinter &printer, const JobSettings &settings)
+QString problemOfSettings(const OpenedPrinter &printer, const JobSettings &settings)
 {
     const Printer &chosen = printer.fetched.printer;
-    if (chosen.origin != PrinterOrigin::Queue)
-        return Texts::tr("Other programs know settings of queues only, and “%1” is none.")
-            .arg(chosen.name);
     if (passesFilesOn(printer, settings.attributes()))
         return Texts::tr("“%1” gets files as they are, so that no setting has an effect.")
             .arg(chosen.name);
     return jobProblems(*printer.session, printer.jobValues).join(u' ');
+}
+
+QString problemOfPrinter(const OpenedPrinter &printer, const JobSettings &settings)
+{
+    const Printer &chosen = printer.fetched.printer;
+    return chosen.origin == PrinterOrigin::Queue
+               ? problemOfSettings(printer, settings)
+               : Texts::tr("Other programs know settings of queues only, and “%1” is none.")
+                     .arg(chosen.name);
+}
+
+// `former`: what stands in the instance that is replaced. Whatever of that the settings do not name
+// is answered as a default is: it may have been the answer to one that its queue has.
+void fill(InstanceDraft *draft, const OpenedPrinter &printer, const JobSettings &settings,
+          const KnownInstances &known, bool withDevice, const QList<JobOption> &former)
+{
+    const PpdSession &session = *printer.session;
+    const QString queue = queueOfInstance(draft->name);
+    const QList<JobOption> ofUser = known.queues.optionsOf(queue);
+    const QList<JobOption> asked = settings.attributes();
+    const QList<JobOption> attributes = withAnswersToLine(
+        former,
+        withAnswersToLine(ofUser, withAnswersToDefaults(withoutPages(asked), printer), printer),
+        printer);
+    QList<JobOption> options = jobOptions(session, printer.jobValues, attributes);
+    if (!withDevice && printer.jobValues) {
+        const QStringList device = printer.jobValues->deviceOptions();
+        options.removeIf([&](const JobOption &option) { return device.contains(option.name); });
+    }
+    draft->leftOut = lostOrders(asked) + takeSecrets(&options, session);
+    options += choicesByOtherNames(printer.fetched.defaults + ofUser + former, attributes, session);
+    // lp tells the filters what stands there, and nothing else.
+    draft->options = eachNameOnce(withOrderForFilters(options, session.ppd()));
+    draft->leftOut += addedByOthers(ofUser, draft->options, queue);
+    draft->problem = problemOfInstance(draft->name, draft->options);
+}
+
+// Asks under the lock of the file whether what stands there is still what was written here.
+UserQueuesFile::MayGo mayReplace(const QString &instance)
+{
+    return [instance](const QList<JobOption> &found, const QList<JobOption> &ofQueue) {
+        const QMap<QString, OwnInstance> own = OwnInstances().read();
+        const auto it = own.find(instance);
+        return it != own.cend() && it->isAsWritten(found, ofQueue);
+    };
 }
 
 // A name that nothing has yet.
@@ -187,7 +230,7 @@ bool mayBeReplaced(const QString &instance, const QString &settings, const Known
 {
     return std::any_of(known.own.keyValueBegin(), known.own.keyValueEnd(), [&](const auto &one) {
         return isSameQueue(one.first, instance) &&
-               one.second.compare(settings, Qt::CaseInsensitive) == 0;
+               one.second.settings.compare(settings, Qt::CaseInsensitive) == 0;
     });
 }
 
@@ -228,13 +271,26 @@ QString instanceNameOf(const QString &name)
 
 KnownInstances KnownInstances::read()
 {
-    return {readUserQueues(), OwnInstances().read()};
+    KnownInstances known{readUserQueues(), OwnInstances().read()};
+    // What the system's file has of that name is not ours.
+    const UserQueues users = readUserQueues({ownUserQueues()});
+    for (auto it = known.own.begin(); it != known.own.end();) {
+        const bool isThere = users.hasInstance(it.key());
+        const bool isOurs = isThere
+                                ? it->isAsWritten(users.optionsOf(it.key()),
+                                                  known.queues.optionsOf(queueOfInstance(it.key())))
+                                : !known.queues.hasInstance(it.key());
+        if (!isOurs)
+            known.changedByOthers.insert(it.key(), *it);
+        it = isOurs ? std::next(it) : known.own.erase(it);
+    }
+    return known;
 }
 
 QString KnownInstances::ofSettings(const QString &settings, const QString &queue) const
 {
     for (auto it = own.cbegin(); it != own.cend(); ++it) {
-        if (it.value() == settings && isSameQueue(queueOfInstance(it.key()), queue) &&
+        if (it->settings == settings && isSameQueue(queueOfInstance(it.key()), queue) &&
             queues.hasInstance(it.key()))
             return it.key();
     }
@@ -263,29 +319,63 @@ InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
     InstanceDraft draft = nameInstance(name, printer, settings, known, of);
     if (!draft.problem.isEmpty())
         return draft;
-    const PpdSession &session = *printer.session;
-    const QString queue = queueOfInstance(draft.name);
-    const QList<JobOption> ofUser = known.queues.optionsOf(queue);
-    const QList<JobOption> asked = settings.attributes();
-    const QList<JobOption> attributes =
-        withAnswersToLine(ofUser, withAnswersToDefaults(withoutPages(asked), printer), printer);
-    QList<JobOption> options = jobOptions(session, printer.jobValues, attributes);
-    if (!withDevice && printer.jobValues) {
-        const QStringList device = printer.jobValues->deviceOptions();
-        options.removeIf([&](const JobOption &option) { return device.contains(option.name); });
-    }
-    draft.leftOut = lostOrders(asked) + takeSecrets(&options, session);
-    options += choicesByOtherNames(printer.fetched.defaults + ofUser, attributes, session);
-    draft.options = eachNameOnce(options);
-    draft.leftOut += addedByOthers(ofUser, draft.options, queue);
-    draft.problem = problemOfInstance(draft.name, draft.options);
+    fill(&draft, printer, settings, known, withDevice, {});
     return draft;
 }
 
-QString writeInstance(const InstanceDraft &draft, const QString &settings)
+InstanceDraft draftForOther(const QString &instance, const OpenedPrinter &printer,
+                            const JobSettings &settings, const KnownInstances &known,
+                            bool withDevice)
 {
-    const QString problem = UserQueuesFile().setInstance(draft.name, draft.options);
-    return problem.isEmpty() ? OwnInstances().note(draft.name, settings) : problem;
+    InstanceDraft draft;
+    draft.name = instance;
+    draft.problem = problemOfSettings(printer, settings);
+    QList<JobOption> former = known.queues.optionsOf(instance);
+    // It stands there as filters have to be told, and is said again wherever that differs.
+    former.removeIf([](const JobOption &option) { return option.name == kOutputOrderAttribute; });
+    if (!draft.problem.isEmpty())
+        return draft;
+    fill(&draft, printer, settings, known, withDevice, former);
+    // What is built into one printer of a model says nothing of the next one.
+    const QSet<QString> &never = neverKept(*printer.session);
+    draft.options.removeIf([&](const JobOption &option) { return never.contains(option.name); });
+    return draft;
+}
+
+QList<JobOption> asInstanceMeansIt(const QList<JobOption> &options, const OwnInstance &own,
+                                   ppd_file_t *ppd)
+{
+    // Earlier versions have noted nothing of what they wrote, and wrote what was meant. What is
+    // turned round twice is as it was.
+    return own.written.isEmpty() || !isNamed(options, kOutputOrderAttribute)
+               ? options
+               : withOrderForFilters(options, ppd);
+}
+
+QString writeInstance(const InstanceDraft &draft, const OwnInstance &of)
+{
+    if (const QString problem = problemOfInstance(draft.name, draft.options); !problem.isEmpty())
+        return problem;
+    // First of all, so that what is written is known as ours whatever happens then.
+    const OwnInstances own;
+    if (const QString problem = own.note(draft.name, of, draft.options); !problem.isEmpty())
+        return problem;
+    return UserQueuesFile().setInstance(draft.name, draft.options, mayReplace(draft.name));
+}
+
+QStringList removeInstances(const QStringList &instances)
+{
+    QStringList problems;
+    QStringList gone;
+    for (const QString &instance : instances) {
+        const QString problem = UserQueuesFile().removeInstance(instance, mayReplace(instance));
+        if (problem.isEmpty())
+            gone += instance;
+        else
+            problems += problem;
+    }
+    const QString problem = gone.isEmpty() ? QString() : OwnInstances().forget(gone);
+    return problem.isEmpty() ? problems : problems + QStringList{problem};
 }
 
 } // namespace corvana

@@ -5,8 +5,10 @@
 #include <QString>
 #include <QStringList>
 
+#include "dialog/printers/OwnInstances.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/task/JobSettings.h"
+#include "platform/printcore/Ppd.h"
 
 namespace corvana {
 
@@ -36,8 +38,9 @@ struct KnownInstances
 {
     UserQueues queues{};
     /// Which of the instances may be replaced, and of which settings they are; the others are
-    /// somebody else's.
-    QMap<QString, QString> own{};
+    /// somebody else's, such as those that were written here and changed by another program since.
+    QMap<QString, OwnInstance> own{};
+    QMap<QString, OwnInstance> changedByOthers{}; ///< the latter
 
     /// As the files have it now.
     static KnownInstances read();
@@ -59,8 +62,22 @@ InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
                             const JobSettings &settings, const KnownInstances &known,
                             bool withDevice, const QString &of = {});
 
+/// The same for an instance that another queue of the same model has already of these settings:
+/// what stands there is answered, too.
+InstanceDraft draftForOther(const QString &instance, const OpenedPrinter &printer,
+                            const JobSettings &settings, const KnownInstances &known,
+                            bool withDevice);
+
+/// The options of an instance that was written here, as their job means them: in lpoptions stands
+/// what filters have to be told, which some turn round.
+QList<JobOption> asInstanceMeansIt(const QList<JobOption> &options, const OwnInstance &own,
+                                   ppd_file_t *ppd);
+
 /// Writes an instance and notes whose settings it has. Thread: any; waits for other programs.
-/// Errors: answers a sentence for the user.
-QString writeInstance(const InstanceDraft &draft, const QString &settings);
+/// Errors: answers a sentence for the user; above all where somebody else's instance has the name.
+QString writeInstance(const InstanceDraft &draft, const OwnInstance &of);
+/// Removes instances that were written here, as far as nobody has changed them, and forgets them.
+/// Thread and errors: as for writing one.
+QStringList removeInstances(const QStringList &instances);
 
 } // namespace corvana

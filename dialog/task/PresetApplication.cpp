@@ -296,7 +296,8 @@ private:
             else
                 m_settings.addAttributes({attribute});
             if (m_settings.attribute(attribute.name) != attribute.value &&
-                !m_settings.lockedBy(attribute.name).isNull())
+                !m_settings.lockedBy(attribute.name).isNull() &&
+                !m_session.locks().value(attribute.name).allowsAttribute(attribute))
                 note(attribute.name, lockedText(attribute.name, m_session));
         }
         m_printer.panels->deliverPending();

@@ -39,7 +39,9 @@ void applyLastUsed(const PrintRequest &request, OpenedPrinter &printer, JobSetti
     const PresetUse use{PresetUse::Others::Kept, {}, By::LastUsed};
     const PresetOutcome taken =
         applyPreset(reading.changes, use, request.documents, printer, settings);
-    for (const QString &problem : taken.missing)
+    // Of what a preset takes the place of, nobody has to hear.
+    const QStringList missing = request.preset.isEmpty() ? taken.missing : QStringList();
+    for (const QString &problem : missing)
         outcome->ignored += Texts::tr("Last job: %1").arg(problem);
     outcome->lastUsed = reading.changes;
     outcome->kept = contentOf(printer, settings);
@@ -66,7 +68,7 @@ void applyNamedPreset(const PrintRequest &request, OpenedPrinter &printer, JobSe
     }
     const Preset &preset = found->preset;
     const PresetUse use{PresetUse::Others::Cleared, preset.changed, By::Preset};
-    const PresetOutcome taken = applyPreset(withChanges(outcome->defaults, preset.content), use,
+    const PresetOutcome taken = applyPreset(contentOf(preset, outcome->defaults, printer), use,
                                             request.documents, printer, settings);
     for (const QString &problem : taken.missing + taken.details)
         outcome->ignored += Texts::tr("%1: %2").arg(preset.name, problem);
@@ -94,6 +96,15 @@ PresetPlaces presetPlacesOf(const PrintRequest &request, const Printer &printer)
 PresetContent contentOf(const OpenedPrinter &printer, const JobSettings &settings, bool withDevice)
 {
     return contentOf(*printer.session, printer.jobValues, settings.attributes(), withDevice);
+}
+
+PresetContent contentOf(const Preset &preset, const PresetContent &defaults,
+                        const OpenedPrinter &printer)
+{
+    const PresetContent content =
+        preset.device ? preset.content
+                      : withoutDevice(preset.content, *printer.session, printer.jobValues);
+    return withChanges(defaults, content);
 }
 
 void applyKeptSettings(JobSettings::By by, const PrintRequest &request, OpenedPrinter &printer,

@@ -21,6 +21,11 @@ PresetPlaces presetPlacesOf(const PrintRequest &request, const Printer &printer)
 PresetContent contentOf(const OpenedPrinter &printer, const JobSettings &settings,
                         bool withDevice = false);
 
+/// A preset as it is to be set: on top of where a job starts for everybody, and with what sets up
+/// the device only where the preset says so.
+PresetContent contentOf(const Preset &preset, const PresetContent &defaults,
+                        const OpenedPrinter &printer);
+
 /// Brings what the user has kept from before into a printer that was just opened: of the last job
 /// (By::LastUsed), or as a preset (By::Preset).
 void applyKeptSettings(JobSettings::By by, const PrintRequest &request, OpenedPrinter &printer,

@@ -14,6 +14,7 @@
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
+#include "dialog/task/InstanceDraft.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -45,7 +46,10 @@ QList<JobOption> usersOptions(const OpenedPrinter &printer, const PrintRequest &
 {
     if (printer.fetched.printer.origin != PrinterOrigin::Queue)
         return {};
-    return readUserQueues().optionsOf(printer.fetched.printer.name);
+    const QString &name = printer.fetched.printer.name;
+    const KnownInstances known = KnownInstances::read();
+    return asInstanceMeansIt(known.queues.optionsOf(name), known.own.value(name),
+                             printer.session->ppd());
 }
 
 QList<JobOption> policysDefaults(const OpenedPrinter &printer, const PrintRequest &request)

@@ -1,8 +1,6 @@
 #include "dialog/task/TaskPresets.h"
 
-#include "dialog/printers/OwnInstances.h"
 #include "dialog/printers/PrinterId.h"
-#include "dialog/printers/UserQueuesFile.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/PrintTask.h"
@@ -34,10 +32,14 @@ InstanceDraft TaskPresets::elsewhere(const QString &name) const
 
 QString TaskPresets::selectedElsewhere() const
 {
+    return m_kept.selected.kind == SelectedPreset::Kind::Preset ? instanceOf(m_kept.selected.name)
+                                                                : QString();
+}
+
+QString TaskPresets::instanceOf(const QString &name) const
+{
     const QString queue = queueOf(m_task.printer());
-    return m_kept.selected.kind == SelectedPreset::Kind::Preset && !queue.isEmpty()
-               ? KnownInstances::read().ofSettings(m_kept.selected.name, queue)
-               : QString();
+    return queue.isEmpty() ? QString() : KnownInstances::read().ofSettings(name, queue);
 }
 
 InstanceDraft TaskPresets::draft(const QString &name, const QString &settings,
@@ -68,7 +70,8 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
     const InstanceDraft made = draft(name, of, KnownInstances::read(), withDevice);
     QString problem = made.problem;
     if (problem.isEmpty())
-        problem = writeInstance(made, of);
+        problem = writeInstance(made, withDevice ? OwnInstance{of}
+                                                 : instancePreset(settings, false).noted());
     if (!problem.isEmpty())
         return TaskRefusal{{problem}};
     sayOfInstance(made);
@@ -83,50 +86,60 @@ QString TaskPresets::nameElsewhere(const QString &preset, const KnownInstances &
     return there.isEmpty() ? preset : there.section(u'/', 1);
 }
 
-InstanceDraft TaskPresets::draftElsewhere(const PresetToSave &wanted) const
+InstancePreset TaskPresets::instancePreset(const QString &name, bool isForAll) const
+{
+    return {name, modelName(), isForAll, queueOf(m_task.printer())};
+}
+
+// A preset that is kept brings all of its instances along, whoever asked for them when they were
+// made.
+InstanceChanges TaskPresets::changesElsewhere(const PresetToSave &wanted) const
 {
     const KnownInstances known = KnownInstances::read();
-    const QString name = presetName(wanted.name);
-    return draft(nameElsewhere(name, known), name, known, wanted.device);
+    InstanceChanges changes;
+    changes.of = instancePreset(presetName(wanted.name), wanted.forAllPrinters);
+    changes.server = m_task.request().server.argument();
+    changes.changedByOthers = changes.of.among(known.changedByOthers);
+    const QString &name = changes.of.name;
+    const QStringList there = changes.of.among(known.own);
+    bool isHere = wanted.elsewhere;
+    for (const QString &instance : there) {
+        if (!known.queues.hasInstance(instance))
+            continue; // it was taken away by other means
+        if (changes.of.isOnOpenQueue(instance)) {
+            if (wanted.nowhereElse)
+                changes.removed += instance;
+            isHere = isHere || !wanted.nowhereElse;
+            continue;
+        }
+        InstanceDraft other{instance};
+        if (known.own.value(instance).model == changes.of.model)
+            other =
+                draftForOther(instance, *m_task.opened(), m_task.settings(), known, wanted.device);
+        else
+            other.problem = otherModelText();
+        changes.drafts += other;
+    }
+    if (isHere)
+        changes.drafts.prepend(draft(nameElsewhere(name, known), name, known, wanted.device));
+    return changes;
 }
 
-void TaskPresets::writeElsewhere(const InstanceDraft &draft, const QString &name)
+std::shared_ptr<InstancesOutcome> TaskPresets::nextOutcome()
 {
-    m_written = draft;
-    m_shelf.writeInstance(draft.name, [draft, name] { return writeInstance(draft, name); });
+    m_instances.push_back(std::make_shared<InstancesOutcome>());
+    return m_instances.back();
 }
 
-// Nobody else prints any more with a preset that is gone.
-void TaskPresets::removeElsewhere()
+void TaskPresets::sayOfInstances()
 {
-    const QString instance = selectedElsewhere();
-    if (!instance.isEmpty())
-        m_shelf.writeInstance(instance, [instance] {
-            const QString problem = UserQueuesFile().removeInstance(instance);
-            return problem.isEmpty() ? OwnInstances().forget(instance) : problem;
-        });
-}
-
-// Other programs know it by the name that it had: scripts would not find another one.
-void TaskPresets::renameElsewhere(const QString &name)
-{
-    const QString instance = selectedElsewhere();
-    if (!instance.isEmpty())
-        m_shelf.writeInstance(instance,
-                              [instance, name] { return OwnInstances().note(instance, name); });
-}
-
-// An instance was written, or is no more.
-void TaskPresets::elsewhereEnded(const QString &instance, const QString &problem)
-{
-    const std::optional<InstanceDraft> written = std::exchange(m_written, std::nullopt);
-    if (!problem.isEmpty())
-        m_task.say(TaskMessage::Kind::Problem,
-                   tr("“%1” in other programs: %2").arg(instance, problem));
-    else if (written)
-        sayOfInstance(*written);
-    if (written)
-        Q_EMIT ended(problem);
+    const InstancesOutcome outcome = *m_instances.front();
+    m_instances.pop_front();
+    m_problemsElsewhere = outcome.problems;
+    for (const InstanceDraft &written : outcome.written)
+        sayOfInstance(written);
+    if (!outcome.problems.isEmpty())
+        m_task.say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
 }
 
 QStringList TaskPresets::instancesOfOthers() const

@@ -124,7 +124,9 @@ void TaskPresets::use(const QString &name)
         return m_task.say(TaskMessage::Kind::Problem,
                           tr("There is no preset of the name “%1” any more.").arg(name));
     const Preset &preset = found->preset;
-    apply(withChanges(m_kept.defaults, preset.content), preset.changed,
+    if (!m_task.opened())
+        return;
+    apply(contentOf(preset, m_kept.defaults, *m_task.opened()), preset.changed,
           {Kind::Preset, preset.name, preset.device});
 }
 
@@ -223,11 +225,11 @@ void TaskPresets::save(const PresetToSave &wanted)
         preset.model.clear();
         preset.content = changes;
     }
-    m_saving = {
-        {Kind::Preset, preset.name, preset.device}, m_task.settingsNow(), {}, wanted.nowhereElse};
-    if (wanted.elsewhere)
-        m_saving->elsewhere = draftElsewhere(wanted);
-    m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No);
+    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow()};
+    m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No,
+                 [changes = changesElsewhere(wanted), outcome = nextOutcome()] {
+                     changeInstances(changes, outcome.get());
+                 });
 }
 
 void TaskPresets::update()
@@ -242,8 +244,12 @@ void TaskPresets::update()
 void TaskPresets::rename(const QString &name)
 {
     const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
-    if (m_kept.selected.kind == Kind::Preset && found && found->isOwn)
-        m_shelf.rename(found->preset, presetName(name));
+    if (m_kept.selected.kind != Kind::Preset || !found || !found->isOwn)
+        return;
+    m_shelf.rename(found->preset, presetName(name),
+                   [of = instancePreset(found->preset.name, found->preset.model.isEmpty()),
+                    name = presetName(name),
+                    outcome = nextOutcome()] { renameInstancesOf(of, name, outcome.get()); });
 }
 
 void TaskPresets::remove()
@@ -251,8 +257,9 @@ void TaskPresets::remove()
     const std::optional<StoredPreset> found = listing().find(m_kept.selected.name);
     if (m_kept.selected.kind != Kind::Preset || !found || !found->isOwn)
         return;
-    removeElsewhere();
-    m_shelf.remove(found->preset);
+    m_shelf.remove(found->preset,
+                   [of = instancePreset(found->preset.name, found->preset.model.isEmpty()),
+                    outcome = nextOutcome()] { removeInstancesOf(of, outcome.get()); });
 }
 
 void TaskPresets::listed()
@@ -271,8 +278,6 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
 {
     using Change = PresetShelf::Change;
     const bool isReady = m_task.phase() == Phase::Ready;
-    if (change == Change::Instance)
-        return elsewhereEnded(name, problem);
     const std::optional<Saving> saving =
         change == Change::Saved ? std::exchange(m_saving, std::nullopt) : std::nullopt;
     if (!problem.isEmpty()) {
@@ -284,17 +289,7 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
     } else if (saving && isReady) {
         m_kept.selected = saving->selected;
         m_task.setBase({saving->settings, selectedName()});
-        if (saving->elsewhere && saving->elsewhere->problem.isEmpty()) {
-            writeElsewhere(*saving->elsewhere, saving->selected.name);
-            Q_EMIT changed();
-            return; // ended with that
-        }
-        if (saving->elsewhere)
-            m_task.say(TaskMessage::Kind::Problem, saving->elsewhere->problem);
-        else if (saving->nowhereElse)
-            removeElsewhere();
     } else if (change == Change::Renamed && isReady) {
-        renameElsewhere(name);
         m_kept.selected.name = name;
         m_task.setBase({m_task.base().settings, selectedName()});
     } else if (change == Change::Removed && m_kept.selected.name == name && isReady) {
@@ -302,8 +297,10 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
         m_task.setBase({m_task.base().settings, selectedName()});
     }
     Q_EMIT changed();
-    if (change != Change::LastJob)
-        Q_EMIT ended(problem);
+    if (change == Change::LastJob)
+        return;
+    sayOfInstances();
+    Q_EMIT ended(problem);
 }
 
 bool TaskPresets::remembersLastUsed() const

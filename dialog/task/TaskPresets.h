@@ -1,11 +1,13 @@
 #pragma once
 
+#include <deque>
+#include <memory>
 #include <optional>
 
 #include <QObject>
 
 #include "dialog/presets/PresetShelf.h"
-#include "dialog/task/InstanceDraft.h"
+#include "dialog/task/PresetInstances.h"
 #include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
 
@@ -99,9 +101,13 @@ public:
     /// The instance that this program has made of the preset that is selected; empty where there is
     /// none of this printer.
     QString selectedElsewhere() const;
+    /// The same of a preset of that name.
+    QString instanceOf(const QString &name) const;
     /// Writes the instance that the request names, for somebody who waits for nothing else; nothing
     /// where it names none. `settings`: the preset that it is of; empty for none.
     std::optional<TaskRefusal> saveInstance(const QString &settings = {});
+    /// Why instances did not follow the preset that was kept, renamed or removed last.
+    const QStringList &problemsElsewhere() const { return m_problemsElsewhere; }
     /// The instances of the queue that is open which others have made, by their whole names.
     QStringList instancesOfOthers() const;
 
@@ -156,8 +162,6 @@ private:
     {
         SelectedPreset selected;
         TaskSettings settings;
-        std::optional<InstanceDraft> elsewhere{};
-        bool nowhereElse = false;
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
@@ -171,12 +175,11 @@ private:
     InstanceDraft draft(const QString &name, const QString &settings, const KnownInstances &known,
                         bool withDevice) const;
     QString nameElsewhere(const QString &preset, const KnownInstances &known) const;
-    InstanceDraft draftElsewhere(const PresetToSave &wanted) const;
+    InstancePreset instancePreset(const QString &name, bool isForAll) const;
+    std::shared_ptr<InstancesOutcome> nextOutcome();
+    InstanceChanges changesElsewhere(const PresetToSave &wanted) const;
     void sayOfInstance(const InstanceDraft &draft);
-    void writeElsewhere(const InstanceDraft &draft, const QString &name);
-    void removeElsewhere();
-    void renameElsewhere(const QString &name);
-    void elsewhereEnded(const QString &instance, const QString &problem);
+    void sayOfInstances();
     QStringList namesOf(const PresetContent &content) const;
 
     PrintTask &m_task;
@@ -184,8 +187,10 @@ private:
     KeptSettings m_kept;
     PresetContent m_ofJob; // that is printed
     std::optional<Saving> m_saving;
-    std::optional<InstanceDraft> m_written; // for other programs, just now
-    QStringList m_told;                     // files that were spoken of
+    // Of what is being done on another thread, in that order; each is its thread's until it ended.
+    std::deque<std::shared_ptr<InstancesOutcome>> m_instances;
+    QStringList m_problemsElsewhere;
+    QStringList m_told; // files that were spoken of
 };
 
 } // namespace corvana

@@ -173,13 +173,17 @@ private:
     {
         if (!problem.isEmpty())
             return end({problem});
+        // The preset is kept whatever becomes of its instances.
+        QStringList problems = m_task.presets().problemsElsewhere();
         if (const auto refusal = m_task.presets().saveInstance(m_task.request().presetToSave))
-            return end(refusal->problems);
+            problems += refusal->problems;
+        for (const QString &one : std::as_const(problems))
+            sayProblem(one);
         if (!m_task.request().quiet)
             QTextStream(stdout) << Texts::tr("The preset “%1” is kept.")
                                        .arg(terminalLine(m_task.request().presetToSave))
                                 << "\n";
-        end(ExitStatus::Done);
+        end(problems.isEmpty() ? ExitStatus::Done : ExitStatus::Failed);
     }
 
     // Standard output belongs to programs where a result or a line for one goes there.

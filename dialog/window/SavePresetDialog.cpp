@@ -89,8 +89,14 @@ PresetToSave SavePresetDialog::preset() const
 // By which name other programs will have it, or why they cannot.
 QString SavePresetDialog::remarkOnInstance()
 {
-    if (!m_elsewhere || !m_elsewhere->isChecked() || m_name->text().isEmpty())
+    if (!m_elsewhere || m_name->text().isEmpty())
         return {};
+    if (!m_elsewhere->isChecked()) {
+        // One that the preset of this name has follows it, but for the tick that was taken away.
+        const PresetToSave wanted = preset();
+        const QString instance = wanted.nowhereElse ? QString() : m_presets.instanceOf(wanted.name);
+        return instance.isEmpty() ? QString() : tr("Other programs list it as “%1”.").arg(instance);
+    }
     const InstanceDraft draft = m_presets.elsewhere(preset().name);
     return draft.problem.isEmpty() ? tr("Other programs list it as “%1”.").arg(draft.name)
                                    : draft.problem;

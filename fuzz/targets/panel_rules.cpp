@@ -34,8 +34,10 @@ void run(const QByteArray &input)
     QFile::remove(damaged);
     writeInput(path, input);
     const OwnInstances instances(path);
-    const QMap<QString, QString> before = instances.read();
-    const QString problem = instances.note(u"queue/fuzz"_s, u"Fuzz"_s);
+    const QMap<QString, OwnInstance> before = instances.read();
+    const OwnInstance fuzz{u"Fuzz"_s, u"A Model"_s, true, {}};
+    const QList<JobOption> options{{u"a"_s, u"b c"_s}};
+    const QString problem = instances.note(u"queue/fuzz"_s, fuzz, options);
     if (!problem.isEmpty()) {
         require(contentOf(path) == input, "a file that is not changed stays as it is");
         return;
@@ -43,10 +45,13 @@ void run(const QByteArray &input)
     require(input.trimmed().isEmpty() || QJsonDocument::fromJson(input).isObject() ||
                 contentOf(damaged) == input,
             "a file that is damaged is kept");
-    QMap<QString, QString> expected = before;
-    expected.insert(u"queue/fuzz"_s, u"Fuzz"_s);
-    require(instances.read() == expected, "an instance that was noted is known, and all others");
-    require(instances.forget(u"queue/fuzz"_s).isEmpty() &&
+    QMap<QString, OwnInstance> expected = before;
+    const OwnInstance noted = instances.read().value(u"queue/fuzz"_s);
+    expected.insert(u"queue/fuzz"_s, noted);
+    require(noted.settings == fuzz.settings && noted.model == fuzz.model &&
+                noted.written.value(0) == options && instances.read() == expected,
+            "an instance that was noted is known, and all others");
+    require(instances.forget({u"queue/fuzz"_s}).isEmpty() &&
                 !instances.names().contains(u"queue/fuzz"_s),
             "an instance that was forgotten is not known");
 }

@@ -1609,6 +1609,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>„%1“ kann nicht entfernt werden: %2.</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (für alle)</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2715,6 +2719,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>Der Wert von „%1“ enthält einen Zeilenumbruch oder ein Steuerzeichen; das ist in Optionen anderer Programme nicht möglich.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert und bleibt, wie es ist.</translation>
     </message>
 </context>
 <context>
@@ -4138,10 +4146,6 @@ Für die Befehlszeile: %2</translation>
         <translation>Andere Programme drucken mit diesen Einstellungen auf „%1“.</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>„%1“ in anderen Programmen: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>„%1“ gibt es nicht mehr, oder es hat keine Einstellungen.</translation>
     </message>
@@ -4416,6 +4420,32 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>Laminate</source>
         <translation>Laminieren</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>„%1“ ist beschädigt. Was bisher für andere Programme geschrieben wurde, folgt seinen Voreinstellungen nicht mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>„%1“ in anderen Programmen: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert und bleibt von nun an, wie es ist.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>Dort bleiben die bisherigen Einstellungen, weil der Drucker ein anderes Modell ist. Speichern Sie die Voreinstellung auch auf jenem Drucker.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>Dort bleiben die bisherigen Einstellungen, weil diese dort nicht zusammen möglich sind.</translation>
     </message>
 </context>
 </TS>

@@ -1609,6 +1609,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>No se puede eliminar «%1»: %2.</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (para todos)</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2715,6 +2719,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>El valor de «%1» contiene un salto de línea o un carácter de control, que ninguna opción para otros programas puede tener.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>Otro programa ha cambiado «%1», que se deja como está.</translation>
     </message>
 </context>
 <context>
@@ -4138,10 +4146,6 @@ En la línea de órdenes: %2</translation>
         <translation>Otros programas imprimen con estos ajustes en «%1».</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>«%1» en otros programas: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>«%1» ya no existe o no tiene ajustes.</translation>
     </message>
@@ -4416,6 +4420,32 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>Laminate</source>
         <translation>Plastificar</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>«%1» está dañado. Lo que se escribió antes para otros programas ya no sigue a sus preajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>«%1» en otros programas: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>Otro programa ha cambiado «%1», que a partir de ahora se deja como está.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>conserva los ajustes anteriores, porque su impresora es de otro modelo. Guarde el preajuste también en esa impresora.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>conserva los ajustes anteriores, porque estos no son posibles juntos allí.</translation>
     </message>
 </context>
 </TS>

@@ -1609,6 +1609,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>« %1 » ne peut pas être supprimé : %2.</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (pour tous)</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2715,6 +2719,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>La valeur de « %1 » contient un retour à la ligne ou un caractère de contrôle, ce qu’aucune option d’autres programmes ne peut avoir.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>« %1 » a été modifié par un autre programme et reste tel quel.</translation>
     </message>
 </context>
 <context>
@@ -4138,10 +4146,6 @@ Pour la ligne de commande : %2</translation>
         <translation>D’autres programmes impriment avec ces réglages sur « %1 ».</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>« %1 » dans d’autres programmes : %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>« %1 » n’existe plus, ou n’a pas de réglages.</translation>
     </message>
@@ -4416,6 +4420,32 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>Laminate</source>
         <translation>Plastifier</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>« %1 » est endommagé. Ce qui a été écrit auparavant pour d’autres programmes ne suit plus ses préréglages.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>« %1 » dans d’autres programmes : %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>« %1 » a été modifié par un autre programme et reste désormais tel quel.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>les réglages précédents y restent, car l’imprimante est d’un autre modèle. Enregistrez le préréglage sur cette imprimante également.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>les réglages précédents y restent, car ceux-ci n’y sont pas possibles ensemble.</translation>
     </message>
 </context>
 </TS>

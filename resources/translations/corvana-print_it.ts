@@ -1609,6 +1609,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>Impossibile rimuovere «%1»: %2.</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (per tutti)</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2715,6 +2719,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>Il valore di «%1» contiene un&apos;interruzione di riga o un carattere di controllo, che nessuna opzione per altri programmi può avere.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>«%1» è stato modificato da un altro programma e resta com’è.</translation>
     </message>
 </context>
 <context>
@@ -4138,10 +4146,6 @@ Per la riga di comando: %2</translation>
         <translation>Gli altri programmi stampano con queste impostazioni su «%1».</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>«%1» in altri programmi: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>«%1» non esiste più o non ha impostazioni.</translation>
     </message>
@@ -4416,6 +4420,32 @@ Per la riga di comando: %2</translation>
     <message>
         <source>Laminate</source>
         <translation>Plastificare</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>«%1» è danneggiato. Ciò che era stato scritto per altri programmi non segue più le sue preimpostazioni.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>«%1» in altri programmi: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>«%1» è stato modificato da un altro programma e d’ora in poi resta com’è.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>restano le impostazioni precedenti, perché la stampante è di un altro modello. Salvare la preimpostazione anche su quella stampante.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>restano le impostazioni precedenti, perché lì queste non sono possibili insieme.</translation>
     </message>
 </context>
 </TS>

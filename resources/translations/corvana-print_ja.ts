@@ -3823,6 +3823,10 @@ For the command line: %2</source>
         <source>“%1” cannot be removed: %2.</source>
         <translation>「%1」を削除できません: %2。</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1（全員用）</translation>
+    </message>
 </context>
 <context>
     <name>StartPresets</name>
@@ -4033,10 +4037,6 @@ For the command line: %2</source>
         <translation>%1 現在の設定は変わっていません。</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>ほかのプログラムの「%1」: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>「%1」はもう存在しないか、設定がありません。</translation>
     </message>
@@ -4148,6 +4148,10 @@ For the command line: %2</source>
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>「%1」の値に改行または制御文字があります。ほかのプログラムのオプションには使用できません。</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>「%1」はほかのプログラムが変更したため、そのまま残します。</translation>
     </message>
 </context>
 <context>
@@ -4414,6 +4418,32 @@ For the command line: %2</source>
     <message>
         <source>Laminate</source>
         <translation>ラミネート</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>「%1」は壊れています。ほかのプログラム用に以前書き込まれたものは、プリセットの変更に追従しなくなります。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>ほかのプログラムの「%1」: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>「%1」はほかのプログラムが変更したため、今後はそのまま残します。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>プリンタの機種が異なるため、以前の設定のままです。そのプリンタでもプリセットを保存してください。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>この設定の組み合わせはそこでは使えないため、以前の設定のままです。</translation>
     </message>
 </context>
 </TS>

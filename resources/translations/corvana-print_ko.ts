@@ -1608,6 +1608,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>‘%1’을(를) 제거할 수 없습니다: %2.</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1(모든 사용자용)</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2714,6 +2718,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>‘%1’의 값에 줄 바꿈 또는 제어 문자가 있습니다. 다른 프로그램의 옵션에는 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>‘%1’을(를) 다른 프로그램에서 변경했으므로 그대로 둡니다.</translation>
     </message>
 </context>
 <context>
@@ -4136,10 +4144,6 @@ For the command line: %2</source>
         <translation>다른 프로그램에서 ‘%1’(으)로 인쇄하면 이 설정이 사용됩니다.</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>다른 프로그램의 ‘%1’: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>‘%1’이(가) 더 이상 없거나 설정이 없습니다.</translation>
     </message>
@@ -4414,6 +4418,32 @@ For the command line: %2</source>
     <message>
         <source>Laminate</source>
         <translation>라미네이트</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>‘%1’이(가) 손상되었습니다. 이전에 다른 프로그램용으로 기록한 설정은 더 이상 사전 설정을 따르지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>다른 프로그램의 ‘%1’: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>‘%1’을(를) 다른 프로그램에서 변경했으므로 이제부터 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>프린터 모델이 달라 이전 설정이 그대로 유지됩니다. 그 프린터에서도 사전 설정을 저장하십시오.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>이 설정들은 그곳에서 함께 사용할 수 없으므로 이전 설정이 그대로 유지됩니다.</translation>
     </message>
 </context>
 </TS>

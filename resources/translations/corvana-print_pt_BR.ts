@@ -1609,6 +1609,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>Não foi possível remover “%1”: %2.</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1 (para todos)</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2715,6 +2719,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>O valor de “%1” tem uma quebra de linha ou um caractere de controle, que nenhuma opção para outros programas pode ter.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>“%1” foi alterado por outro programa e fica como está.</translation>
     </message>
 </context>
 <context>
@@ -4138,10 +4146,6 @@ Na linha de comando: %2</translation>
         <translation>Outros programas imprimem com estas configurações em “%1”.</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>“%1” em outros programas: %2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>“%1” não existe mais ou não tem configurações.</translation>
     </message>
@@ -4416,6 +4420,32 @@ Na linha de comando: %2</translation>
     <message>
         <source>Laminate</source>
         <translation>Laminar</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>“%1” está danificado. O que foi gravado antes para outros programas não acompanha mais suas predefinições.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>“%1” em outros programas: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>“%1” foi alterado por outro programa e, a partir de agora, fica como está.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>mantém as configurações anteriores, porque a impressora é de outro modelo. Salve a predefinição também nessa impressora.</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>mantém as configurações anteriores, porque estas não são possíveis juntas lá.</translation>
     </message>
 </context>
 </TS>

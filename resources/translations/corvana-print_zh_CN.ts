@@ -3823,6 +3823,10 @@ For the command line: %2</source>
         <source>“%1” cannot be removed: %2.</source>
         <translation>无法删除“%1”：%2。</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1（供所有人使用）</translation>
+    </message>
 </context>
 <context>
     <name>StartPresets</name>
@@ -4033,10 +4037,6 @@ For the command line: %2</source>
         <translation>%1 您的设置保持不变。</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>其他程序中的“%1”：%2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>“%1”已不存在，或没有任何设置。</translation>
     </message>
@@ -4148,6 +4148,10 @@ For the command line: %2</source>
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>“%1”的值含有换行或控制字符，其他程序的选项不能包含这些字符。</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>“%1”已被其他程序更改，将保持原样。</translation>
     </message>
 </context>
 <context>
@@ -4414,6 +4418,32 @@ For the command line: %2</source>
     <message>
         <source>Laminate</source>
         <translation>覆膜</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>“%1”已损坏。之前为其他程序写入的设置不再随其预设更改。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>其他程序中的“%1”：%2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>“%1”已被其他程序更改，今后将保持原样。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>其打印机为其他型号，因此保留以前的设置。请在该打印机上也保存此预设。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>这些设置无法在其中同时使用，因此保留以前的设置。</translation>
     </message>
 </context>
 </TS>

@@ -1608,6 +1608,10 @@
         <source>“%1” cannot be removed: %2.</source>
         <translation>無法移除「%1」：%2。</translation>
     </message>
+    <message>
+        <source>%1 (for everybody)</source>
+        <translation>%1（供所有人使用）</translation>
+    </message>
 </context>
 <context>
     <name>PrintRequest</name>
@@ -2714,6 +2718,10 @@
     <message>
         <source>The value of “%1” has a line break or a control character, which no option for other programs can have.</source>
         <translation>「%1」的值含有換行或控制字元，其他程式的選項不能包含這些字元。</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is.</source>
+        <translation>「%1」已被其他程式更改，將保持原樣。</translation>
     </message>
 </context>
 <context>
@@ -4136,10 +4144,6 @@ For the command line: %2</source>
         <translation>其他程式列印到「%1」時會使用這些設定。</translation>
     </message>
     <message>
-        <source>“%1” in other programs: %2</source>
-        <translation>其他程式中的「%1」：%2</translation>
-    </message>
-    <message>
         <source>“%1” is not there any more, or has no settings.</source>
         <translation>「%1」已不存在，或沒有任何設定。</translation>
     </message>
@@ -4414,6 +4418,32 @@ For the command line: %2</source>
     <message>
         <source>Laminate</source>
         <translation>護貝</translation>
+    </message>
+</context>
+<context>
+    <name>OwnInstances</name>
+    <message>
+        <source>“%1” is damaged. What was written for other programs before does not follow its presets any more.</source>
+        <translation>「%1」已損壞。先前為其他程式寫入的設定不再隨其預設集更改。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetInstances</name>
+    <message>
+        <source>“%1” in other programs: %2</source>
+        <translation>其他程式中的「%1」：%2</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program, and is left as it is from now on.</source>
+        <translation>「%1」已被其他程式更改，今後將保持原樣。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
+        <translation>其印表機為其他型號，因此保留先前的設定。請在該印表機上也儲存此預設集。</translation>
+    </message>
+    <message>
+        <source>it keeps its former settings, as these are not possible together there.</source>
+        <translation>這些設定無法在其中同時使用，因此保留先前的設定。</translation>
     </message>
 </context>
 </TS>

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
@@ -124,6 +126,19 @@ private:
             QStringList{u"--no-dialog"_s, u"-d"_s, kQueue, u"--save-instance"_s, name} +
             asArguments(options));
     }
+    // In alphabetical order, without the name.
+    QByteArray optionsOf(const QByteArray &instance) const
+    {
+        for (const QByteArray &line : userOptions().split('\n')) {
+            QByteArrayList words = line.split(' ');
+            if (words.value(1) != instance)
+                continue;
+            words.remove(0, 2);
+            std::sort(words.begin(), words.end());
+            return ' ' + words.join(' ');
+        }
+        return {};
+    }
     QByteArray userOptions() const { return readAll(m_runner->filePath(u".cups/lpoptions"_s)); }
 
 private Q_SLOTS:
@@ -226,6 +241,77 @@ private Q_SLOTS:
         QVERIFY(!theirs.isEmpty());
         QCOMPARE(printedHere({u"-d"_s, kQueue, u"--preset"_s, u"Monthly Reports"_s}) == theirs,
                  true);
+    }
+
+    void aPresetThatIsKeptAgainTakesItsInstancesAlong()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        m_cups->addQueue(u"lab"_s, kPpd);
+        m_runner->setUserOptions("Dest lab x=1\n");
+        const QStringList keep{u"--save-preset"_s, u"Monthly Reports"_s};
+        const QStringList elsewhere{u"--save-instance"_s, u"reports"_s};
+        QCOMPARE(m_runner->run(QStringList{u"-d"_s, kQueue} + keep + elsewhere).status, 0);
+        QCOMPARE(m_runner->run(QStringList{u"-d"_s, u"lab"_s} + keep + elsewhere).status, 0);
+        const RunEnd again = m_runner->run(QStringList{u"-d"_s, kQueue} + keep +
+                                           asArguments({u"QXMediaType=Thick"_s}));
+        QVERIFY2(again.status == 0, again.text().constData());
+        QVERIFY2(again.err.contains(u"lab/reports"_s), again.text().constData());
+        QVERIFY(userOptions().startsWith("Dest lab x=1\n"));
+        QVERIFY2(tool(u"lpoptions"_s, {u"-p"_s, u"lab/reports"_s}).contains(" QXMediaType=Thick "),
+                 userOptions().constData());
+        QVERIFY(tool(u"lpoptions"_s, {u"-p"_s, u"lab/reports"_s, u"-l"_s}).contains("*Thick"));
+        const QByteArray theirs = printedByLp({u"-d"_s, kInstance});
+        QVERIFY(!theirs.isEmpty());
+        QCOMPARE(printedHere({u"-d"_s, kQueue, u"--preset"_s, u"Monthly Reports"_s}) == theirs,
+                 true);
+    }
+
+    // The last one counts, for the preset and for each of its instances.
+    void whoeverKeepsAPresetAtOncePresetAndInstancesAreAlike()
+    {
+        const QStringList queues{kQueue, u"lab"_s};
+        const QStringList media{u"Plain"_s, u"Thick"_s, u"Thin"_s, u"BOND"_s};
+        const QStringList keep{u"--save-preset"_s, u"Reports"_s};
+        m_runner->setUserOptions("# by hand\nDest gone x=1\n");
+        for (const QString &queue : queues) {
+            m_cups->addQueue(queue, kPpd);
+            QCOMPARE(
+                m_runner
+                    ->run(QStringList{u"-d"_s, queue, u"--save-instance"_s, u"reports"_s} + keep)
+                    .status,
+                0);
+        }
+        std::vector<std::unique_ptr<ProgramRun>> terminals;
+        for (qsizetype i = 0; i < media.size(); ++i)
+            terminals.push_back(
+                m_runner->start(QStringList{u"-d"_s, queues.at(i % 2)} + keep +
+                                asArguments({u"QXMediaType="_s + media.at(i), u"number-up=2"_s})));
+        for (const auto &terminal : terminals) {
+            const RunEnd end = terminal->wait();
+            QVERIFY2(end.status == 0, end.text().constData());
+        }
+        QVERIFY(userOptions().startsWith("# by hand\nDest gone x=1\n"));
+        const RunEnd summary =
+            m_runner->run({u"-d"_s, kQueue, u"--preset"_s, u"Reports"_s, u"--save-preset"_s,
+                           u"Now"_s, u"--save-instance"_s, u"now"_s});
+        QVERIFY2(summary.status == 0, summary.text().constData());
+        const QByteArray kept = optionsOf("office/now");
+        QVERIFY(kept.contains(" number-up=2"));
+        for (const QByteArray &instance : {QByteArray("office/reports"), QByteArray("lab/reports")})
+            QCOMPARE(optionsOf(instance), kept);
+    }
+
+    void aPresetWhoseInstanceCannotBeWrittenIsKeptAndThatIsSaid()
+    {
+        m_cups->addQueue(kQueue, kPpd);
+        m_runner->setUserOptions("Dest office/reports x=1\n");
+        const RunEnd saved = m_runner->run({u"-d"_s, kQueue, u"--save-preset"_s, u"Reports"_s,
+                                            u"--save-instance"_s, u"reports"_s});
+        QCOMPARE(saved.status, 1);
+        QVERIFY2(saved.err.contains(u"is there already"_s), saved.text().constData());
+        QVERIFY2(saved.out.contains(u"The preset “Reports” is kept."_s), saved.text().constData());
+        QVERIFY2(!saved.err.contains(u"No preset was kept"_s), saved.text().constData());
+        QCOMPARE(userOptions(), QByteArray("Dest office/reports x=1\n"));
     }
 
     void aNameWithoutLatinLettersIsRefusedWithAnotherOne()

@@ -158,6 +158,25 @@ private Q_SLOTS:
         if (row.byLp != row.sides)
             QCOMPARE(sidesOf(printedByLp(row.options)), row.byLp);
     }
+
+    // By its own words, and read back here.
+    void anInstanceIsPrintedInTheOrderThatWasAskedFor_data() { addRows(kOrders); }
+    void anInstanceIsPrintedInTheOrderThatWasAskedFor()
+    {
+        const Order &row = currentRow(kOrders);
+        if (row.options.contains(kTwice.constFirst()))
+            QSKIP("copies are in no instance");
+        addQueue(row.printer);
+        const RunEnd saved = m_runner->run(
+            QStringList{u"--no-dialog"_s, u"-d"_s, kQueue, u"--save-instance"_s, u"Reports"_s} +
+            argumentsOf(row.options));
+        QVERIFY2(saved.status == 0, saved.text().constData());
+        const QStringList instance{u"-d"_s, u"office/reports"_s};
+        QCOMPARE(sidesOf(printedByLp({u"-d office/reports"_s})), row.sides);
+        const RunEnd run = m_runner->run(instance + QStringList{u"-t"_s, kTitle, m_document});
+        QVERIFY2(run.status == 0, run.text().constData());
+        QCOMPARE(sidesOf(lastStream()), row.sides);
+    }
 };
 
 QTEST_GUILESS_MAIN(QueueOutputOrderTest)

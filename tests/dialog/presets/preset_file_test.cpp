@@ -7,6 +7,7 @@
 
 #include "dialog/presets/PresetFile.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Rows.h"
 
 using namespace corvana;
@@ -125,6 +126,27 @@ private Q_SLOTS:
     {
         const PresetReading reading = readPresetFile(u"/nonexistent/a.json"_s);
         QVERIFY(!reading.preset && reading.problem.isEmpty());
+    }
+
+    // Small enough to be written in one piece, when everything seems to be done.
+    void aDiskThatIsFullAtTheEndLeavesTheFormerFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.json"_s);
+        Preset preset;
+        preset.name = u"Reports"_s;
+        preset.content.options = {{u"Media"_s, u"Thick"_s}};
+        QCOMPARE(writePresetFile(path, preset), QString());
+        Preset other = preset;
+        other.content.options = {{u"Media"_s, u"Thin"_s}};
+        QString problem;
+        {
+            const FileSizeLimit limit(10);
+            problem = writePresetFile(path, other);
+        }
+        QVERIFY2(problem.contains(path) && problem.contains(u"large"_s), qPrintable(problem));
+        QCOMPARE(readPresetFile(path).preset, preset);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
     void whatIsNoFileOrTooLargeIsNotRead()

@@ -188,7 +188,8 @@ private Q_SLOTS:
         QCOMPARE(PresetStore({shared()}).save(named(u"Reports"_s), Replacing::No), QString());
         QCOMPARE(store().save(named(u"Reports"_s, kModel, u"Thin"_s), Replacing::No), QString());
         const PresetListing listing = store().list(kModel);
-        QCOMPARE(listing.names(), (QStringList{u"House"_s, u"Reports"_s}));
+        QCOMPARE(listing.names(),
+                 (QStringList{u"House"_s, u"Reports"_s, u"Reports (for everybody)"_s}));
         QVERIFY(!listing.find(u"House"_s)->isOwn);
         QVERIFY(listing.find(u"Reports"_s)->isOwn);
         QVERIFY(!store().rename(named(u"House"_s), u"Mine"_s).isEmpty());

@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "dialog/server/KnownServers.h"
+#include "tests/support/FileSizeLimit.h"
 
 using namespace corvana;
 using namespace Qt::StringLiterals;
@@ -49,6 +50,16 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(path()).permissions() &
                      (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
                  QFile::Permissions());
+    }
+
+    void aFullDiskLeavesTheKeysThatAreKnown()
+    {
+        QCOMPARE(servers().remember(kServer, std::nullopt, kKey), Outcome::Kept);
+        {
+            const FileSizeLimit limit(60); // there is room for the lock
+            QCOMPARE(servers().remember(u"a:1"_s, std::nullopt, kOther), Outcome::NotKept);
+        }
+        QCOMPARE(content(), kLine);
     }
 
     void aServersKeyIsReplacedAndNoOthers()

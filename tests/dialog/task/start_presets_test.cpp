@@ -73,6 +73,16 @@ private Q_SLOTS:
         QVERIFY(outcome.ignored.isEmpty() && outcome.unset.isEmpty());
     }
 
+    void ofWhatAPresetTakesThePlaceOfNothingIsSaid()
+    {
+        fullPreset(u"Media=Film"_s);
+        say(By::LastUsed, u"Tray=Cellar"_s);
+        QCOMPARE(start().ignored, QStringList());
+        m_request.preset.clear();
+        m_settings = {};
+        QCOMPARE(start().ignored.size(), 1);
+    }
+
     void whatIsAskedForCountsMoreThanAPreset()
     {
         fullPreset(u"Media=Film number-up=4"_s);

@@ -179,6 +179,20 @@ private:
         }
     }
     PrintRequest request() { return m_scene->request({{u"cl5"_s, u"cl5"_s, samplePpdPath(), 5}}); }
+    // What the job says of a value that panels keep, where that is locked; of one that is not in
+    // force, its default.
+    QByteArray panelOption(const OptionLock &lock)
+    {
+        const PDEJobValues *values = task().opened()->jobValues;
+        PrintSettings trial;
+        trial.setEntries(session().printSettings().entries());
+        const JobValueClaim claim = values->takeJobOption(lock.asked, trial, session().ppd());
+        for (const JobOption &option : values->jobOptions(trial, session().ppd())) {
+            if (option.name == claim.standsFor.name)
+                return (option.name + u'=' + option.value).toUtf8();
+        }
+        return {};
+    }
     // States in which everything is something else.
     void walkFreely()
     {
@@ -209,6 +223,7 @@ private Q_SLOTS:
         walkFreely();
         int printed = 0;
         int moved = 0;
+        int inForce = 0; // values of panels that are locked, and not at their defaults
         for (int round = 0; round < kRounds; ++round) {
             QByteArray policy = "[all]\n";
             QList<Lock> chosen;
@@ -245,6 +260,13 @@ private Q_SLOTS:
                 continue;
             ++printed;
             const QByteArrayList arguments = m_scene->arguments();
+            for (auto lock = m_locks.cbegin(); lock != m_locks.cend(); ++lock) {
+                if (lock->kind != OptionLock::Kind::PanelValue)
+                    continue;
+                const QByteArray option = panelOption(*lock);
+                QVERIFY2(arguments.contains(option), option.constData());
+                inForce += option.endsWith('=' + lock->asked.value.toUtf8()) ? 1 : 0;
+            }
             for (const Lock &lock : std::as_const(chosen)) {
                 if (!m_locks.contains(QString::fromUtf8(lock.keyword)) || !lock.value)
                     continue;
@@ -254,6 +276,7 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(printed >= kRounds / 3, qPrintable(QString::number(printed)));
+        QVERIFY2(inForce > kRounds / 4, qPrintable(QString::number(inForce)));
         QVERIFY2(moved > kRounds * kSteps / 4, qPrintable(QString::number(moved)));
     }
 };

@@ -149,7 +149,8 @@ private Q_SLOTS:
 
         // Scripts go on printing to the name that they know.
         QCOMPARE(done([&] { presets().rename(u"Accounts"_s); }), QString());
-        QTRY_VERIFY(KnownInstances::read().own.values().contains(u"Accounts"_s));
+        QTRY_VERIFY(KnownInstances::read().ofSettings(u"Accounts"_s, u"office"_s) ==
+                    u"office/reports"_s);
         QVERIFY(userOptions().contains("Dest office/reports "));
 
         QCOMPARE(done([&] { presets().remove(); }), QString());
@@ -162,11 +163,24 @@ private Q_SLOTS:
         open();
         QCOMPARE(saveElsewhere(), QString());
         QCOMPARE(done([&] { presets().rename(u"Accounts"_s); }), QString());
-        QTRY_VERIFY(KnownInstances::read().own.values().contains(u"Accounts"_s));
+        QTRY_VERIFY(KnownInstances::read().ofSettings(u"Accounts"_s, u"office"_s) ==
+                    u"office/reports"_s);
         const SavePresetDialog dialog(presets(), false);
         const QString remark = dialog.findChild<QLabel *>(u"presetRemark"_s)->text();
         QVERIFY2(remark.contains(u"“office/reports”"_s), qPrintable(remark));
         QVERIFY2(!remark.contains(u"office/accounts"_s), qPrintable(remark));
+    }
+
+    void theDialogSaysWhichInstanceFollowsAnotherPreset()
+    {
+        open();
+        QCOMPARE(saveElsewhere(), QString());
+        QCOMPARE(done([&] { presets().save({u"Other"_s, false, false, true}); }), QString());
+        const SavePresetDialog dialog(presets(), false);
+        const auto *remark = dialog.findChild<QLabel *>(u"presetRemark"_s);
+        QVERIFY2(!remark->text().contains(u"office/"_s), qPrintable(remark->text()));
+        dialog.findChild<QLineEdit *>(u"presetName"_s)->setText(u"Reports"_s);
+        QVERIFY2(remark->text().contains(u"“office/reports”"_s), qPrintable(remark->text()));
     }
 
     void whoTakesTheTickAwayTakesTheInstanceAway()
@@ -239,8 +253,10 @@ private Q_SLOTS:
     {
         QVERIFY(QDir().mkpath(lpoptions()));
         open();
-        const QString problem = saveElsewhere();
-        QVERIFY2(problem.contains(u"lpoptions"_s), qPrintable(problem));
+        QCOMPARE(saveElsewhere(), QString());
+        const QString why = presets().problemsElsewhere().join(u'\n');
+        QVERIFY2(why.contains(u"lpoptions"_s), qPrintable(why));
+        QVERIFY(m_scene->face.messages.constLast().text.contains(why));
         QCOMPARE(presets().listing().names(), QStringList{u"Reports"_s});
     }
 };

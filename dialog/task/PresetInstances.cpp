@@ -1,0 +1,141 @@
+#include "dialog/task/PresetInstances.h"
+
+#include <QCoreApplication>
+
+#include "dialog/presets/PresetContent.h"
+#include "dialog/printers/PpdCache.h"
+#include "dialog/printers/PrinterId.h"
+#include "dialog/session/PpdFile.h"
+#include "platform/printcore/Ppd.h"
+
+namespace corvana {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PresetInstances)
+};
+
+// Why a queue that is not open cannot have what was set on another one of its model, as far as is
+// known here: its own options may not be installed, or its driver may be another one by now.
+QString problemOnQueue(const InstanceDraft &draft, const InstanceChanges &changes)
+{
+    const QString queue = queueOfInstance(draft.name);
+    const std::optional<FetchedPrinter> found = PpdCache().find(changes.server, queue);
+    QString error;
+    const PpdFile ppd = found && found->ppd ? openPpdFile(found->ppd->path, &error) : PpdFile();
+    if (!ppd)
+        return {};
+    if (modelOf(ppd.get()) != changes.of.model)
+        return otherModelText();
+    const int before = ppdConflicts(ppd.get());
+    for (const JobOption &option : draft.options) {
+        if (ppdOption(ppd.get(), option.name))
+            ppdMarkOption(ppd.get(), option.name.toUtf8().constData(),
+                          option.value.toUtf8().constData());
+    }
+    return ppdConflicts(ppd.get()) > before
+               ? Texts::tr(
+                     "it keeps its former settings, as these are not possible together there.")
+               : QString();
+}
+
+QString write(const InstanceDraft &draft, const InstanceChanges &changes)
+{
+    if (!draft.problem.isEmpty())
+        return draft.problem;
+    if (!changes.of.isOnOpenQueue(draft.name)) {
+        if (const QString problem = problemOnQueue(draft, changes); !problem.isEmpty())
+            return problem;
+    }
+    return writeInstance(draft, changes.of.noted());
+}
+
+// Once: the list begins anew, beside the damaged one.
+void sayDamage(InstancesOutcome *outcome)
+{
+    const OwnInstances own;
+    if (const QString damage = own.damage(); !damage.isEmpty()) {
+        outcome->problems += damage;
+        own.forget({});
+    }
+}
+
+} // namespace
+
+QString otherModelText()
+{
+    return Texts::tr("it keeps its former settings, as its printer is of another model. Save "
+                     "the preset on that printer, too.");
+}
+
+bool InstancePreset::isOnOpenQueue(const QString &instance) const
+{
+    return !queue.isEmpty() && isSameQueue(queueOfInstance(instance), queue);
+}
+
+bool InstancePreset::has(const QString &instance, const OwnInstance &own) const
+{
+    if (own.settings != name || (own.model && own.isForAll != isForAll))
+        return false;
+    return isOnOpenQueue(instance) || (own.model && (isForAll || *own.model == model));
+}
+
+QStringList InstancePreset::among(const QMap<QString, OwnInstance> &instances) const
+{
+    QStringList names;
+    for (auto it = instances.cbegin(); it != instances.cend(); ++it) {
+        if (has(it.key(), *it))
+            names += it.key();
+    }
+    return names;
+}
+
+void InstancesOutcome::add(const QString &instance, const QString &problem)
+{
+    problems += instance.isEmpty() ? problem
+                                   : Texts::tr("“%1” in other programs: %2").arg(instance, problem);
+}
+
+void changeInstances(const InstanceChanges &changes, InstancesOutcome *outcome)
+{
+    sayDamage(outcome);
+    for (const InstanceDraft &draft : changes.drafts) {
+        if (const QString problem = write(draft, changes); problem.isEmpty())
+            outcome->written += draft;
+        else
+            outcome->add(draft.name, problem);
+    }
+    outcome->problems += removeInstances(changes.removed);
+    for (const QString &instance : changes.changedByOthers)
+        outcome->add({}, Texts::tr("“%1” was changed by another program, and is left as it is from "
+                                   "now on.")
+                             .arg(instance));
+    if (changes.changedByOthers.isEmpty())
+        return;
+    if (const QString problem = OwnInstances().forget(changes.changedByOthers); !problem.isEmpty())
+        outcome->problems += problem;
+}
+
+void removeInstancesOf(const InstancePreset &preset, InstancesOutcome *outcome)
+{
+    sayDamage(outcome);
+    const KnownInstances known = KnownInstances::read();
+    outcome->problems += removeInstances(preset.among(known.own));
+    // What others have made of them stays, and is theirs.
+    if (const QStringList others = preset.among(known.changedByOthers); !others.isEmpty())
+        OwnInstances().forget(others);
+}
+
+void renameInstancesOf(const InstancePreset &preset, const QString &name, InstancesOutcome *outcome)
+{
+    sayDamage(outcome);
+    const QStringList names = preset.among(KnownInstances::read().own);
+    if (names.isEmpty())
+        return;
+    if (const QString problem = OwnInstances().rename(names, name); !problem.isEmpty())
+        outcome->problems += problem;
+}
+
+} // namespace corvana

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+
+#include "dialog/task/InstanceDraft.h"
+
+namespace corvana {
+
+/// A preset as its instances are noted, from the printer that is open.
+struct InstancePreset
+{
+    QString name;
+    QString model;         ///< of the printer
+    bool isForAll = false; ///< the preset is for printers of all models
+    QString queue{};       ///< the printer; empty for one that is no queue
+
+    /// Whether an instance that was written here is one of this preset, on whatever queue.
+    bool has(const QString &instance, const OwnInstance &own) const;
+    bool isOnOpenQueue(const QString &instance) const;
+    QStringList among(const QMap<QString, OwnInstance> &instances) const;
+    OwnInstance noted() const { return {name, model, isForAll, {}}; }
+};
+
+/// What is to become of a preset's instances along with it.
+struct InstanceChanges
+{
+    InstancePreset of{};
+    QList<InstanceDraft> drafts{}; ///< to be written, but those with a problem
+    QStringList removed{};
+    QStringList changedByOthers{}; ///< nobody's of ours from now on, which is said once
+    QString server{};              ///< as printers are cached
+};
+
+/// What has become of them.
+struct InstancesOutcome
+{
+    QList<InstanceDraft> written{};
+    QStringList problems{}; ///< a sentence each, for the user
+
+    void add(const QString &instance, const QString &problem);
+};
+
+/// Why an instance of a preset for all printers is not written from a printer of another model.
+QString otherModelText();
+
+// Thread: any; they wait for other programs that write lpoptions.
+
+void changeInstances(const InstanceChanges &changes, InstancesOutcome *outcome);
+/// The preset is gone, and nobody prints with it any more.
+void removeInstancesOf(const InstancePreset &preset, InstancesOutcome *outcome);
+/// Other programs know it by the name that it had: scripts would not find another one.
+void renameInstancesOf(const InstancePreset &preset, const QString &name,
+                       InstancesOutcome *outcome);
+
+} // namespace corvana
