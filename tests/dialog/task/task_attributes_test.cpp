@@ -226,6 +226,28 @@ private Q_SLOTS:
         QCOMPARE(m_scene->session().markedChoice(u"ColorModel"_s), u"grayscale"_s);
     }
 
+    void aColorModeIsNotOfferedBesideTheOptionThatThePanelsHaveForIt()
+    {
+        const PpdBuilder plain =
+            PpdBuilder()
+                .line("*ColorDevice: True")
+                .line("*cupsFilter2: \"application/vnd.cups-postscript application/postscript 0 "
+                      "-\"");
+        PpdBuilder panels = plain;
+        panels.line("*QXPrintDialogExtension: \"QXCLQuality13PDE.bundle\"")
+            .option("QXMonoColor", "Color Mode", "Auto", {{"Auto", "Auto"}, {"Color", "Color"}});
+        const OfferedAttribute front = *find(
+            open(u"print-color-mode=monochrome"_s, plain).attributes(), u"print-color-mode"_s);
+        QCOMPARE(front.place, OfferedAttribute::Place::Front);
+        PrintTask &task = open({}, panels);
+        QVERIFY(!task.opened()->panels->panels().isEmpty());
+        QVERIFY(!find(task.attributes(), u"print-color-mode"_s));
+        // What is in force is seen.
+        const OfferedAttribute more = *find(
+            open(u"print-color-mode=monochrome"_s, panels).attributes(), u"print-color-mode"_s);
+        QCOMPARE(more.place, OfferedAttribute::Place::More);
+    }
+
     void whatIsNotKnownToBeDoneIsNoFactInTheSummary()
     {
         PrintTask &task = open({});
