@@ -136,6 +136,10 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
         one.hasEffect = false;
         one.value = withPagesOfOrder(all).constLast().value;
     }
+    // It has an order of its own, too.
+    if (pageChoiceOf(all).booklet != PageChoice::Booklet::No && isUsual(one.value, usual) &&
+        (offer.name == kNumberUpLayout || offer.name == kRepeatAttribute))
+        one.hasEffect = false;
     if (offer.name == kPutBackAttribute)
         one.hasEffect = isTwoSidedByHand(settings.attributes());
     return one;
