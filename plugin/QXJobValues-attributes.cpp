@@ -80,4 +80,9 @@ QList<JobOption> QXJobValues::choicesFor(const JobOption &attribute, ppd_file_t 
     return {};
 }
 
+QString QXJobValues::colorOption(ppd_file_t *ppd) const
+{
+    return ppdOption(ppd, kQXMonoColor) ? QString(kQXMonoColor) : QString();
+}
+
 } // namespace corvana

@@ -19,6 +19,7 @@ public:
     QList<JobOption> choicesFor(const JobOption &attribute, ppd_file_t *ppd) const override;
     QList<PanelEntry> entries(const PrintSettings &settings, ppd_file_t *ppd) const override;
     QStringList deviceOptions() const override;
+    QString colorOption(ppd_file_t *ppd) const override;
 };
 
 } // namespace corvana

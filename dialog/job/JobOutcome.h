@@ -44,6 +44,14 @@ struct JobOutcome
     }
 };
 
+/// Whether it may come out of the printer yet, so that the same printed again may come out twice.
+inline bool mayStillPrint(const JobOutcome &outcome)
+{
+    using Kind = JobOutcome::Kind;
+    return outcome.kind == Kind::Unknown || outcome.kind == Kind::Stopped ||
+           outcome.kind == Kind::InQueue;
+}
+
 /// What a program reads of it: "printed", "in-queue". "refused" is by the dialog or by a queue:
 /// whoever reads it need not know which.
 QLatin1StringView outcomeKeyword(JobOutcome::Kind kind);

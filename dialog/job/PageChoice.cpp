@@ -188,7 +188,7 @@ QList<JobOption> withPagesOfOrder(const QList<JobOption> &options)
     return ordered << JobOption{QString(kPagesOnASide), QString::number(onASide)};
 }
 
-QStringList problemsOfOrder(const QList<JobOption> &options)
+QStringList excludedByOrder(const QList<JobOption> &options)
 {
     const PageChoice choice = pageChoiceOf(options);
     const bool isBooklet = choice.booklet != PageChoice::Booklet::No;
@@ -201,6 +201,19 @@ QStringList problemsOfOrder(const QList<JobOption> &options)
         const bool isRepeated =
             isBooklet && option.name == kRepeatAttribute && option.value != "1"_L1;
         if (choice.isOrdered() && (isNumber || isOrder || isRepeated))
+            others += option.name;
+    }
+    return others;
+}
+
+QStringList problemsOfOrder(const QList<JobOption> &options)
+{
+    const PageChoice choice = pageChoiceOf(options);
+    const bool isBooklet = choice.booklet != PageChoice::Booklet::No;
+    const QStringList names = excludedByOrder(options);
+    QStringList others;
+    for (const JobOption &option : options) {
+        if (names.contains(option.name))
             others += named(option);
     }
     if (others.isEmpty())

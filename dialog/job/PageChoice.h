@@ -61,6 +61,8 @@ bool isOfPageChoice(const JobOption &option);
 
 /// The options of a job, with as many pages on a side as its order of pages is made for.
 QList<JobOption> withPagesOfOrder(const QList<JobOption> &options);
+/// The options that the order of pages excludes: by name.
+QStringList excludedByOrder(const QList<JobOption> &options);
 /// Why the order of pages and something else among the options exclude each other: for a person, a
 /// sentence each.
 QStringList problemsOfOrder(const QList<JobOption> &options);

@@ -118,6 +118,23 @@ QStringList generalOptionKeywords()
     return {kDuplexOption, kPageSizeOption, kOutputOption, kColorMatchingModeOption};
 }
 
+QString colorOptionOf(const PpdSession &session, const PDEJobValues *jobValues)
+{
+    const QString keyword = jobValues ? jobValues->colorOption(session.ppd()) : QString();
+    const ppd_option_t *option = ppdOption(session.ppd(), keyword);
+    return option && option->num_choices > 1 ? keyword : QString();
+}
+
+QStringList generalOptionsOf(const PpdSession &session, const PDEJobValues *jobValues)
+{
+    QStringList keywords = generalOptionKeywords();
+    const QString color = colorOptionOf(session, jobValues);
+    if (!color.isNull() && !keywords.contains(color))
+        keywords.prepend(color);
+    keywords.removeIf([&](const QString &keyword) { return !ppdOption(session.ppd(), keyword); });
+    return keywords;
+}
+
 QList<ppd_option_t *> choosableOptions(const PpdSession &session)
 {
     QList<ppd_option_t *> options = session.options();
@@ -189,9 +206,13 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     const QList<SummaryLine> panelLines = panels.summary();
     QList<SummaryLine> lines{{QCoreApplication::translate("Summary", "Copies"),
                               copiesText(copies, isCollated(session, attributes)), u"copies"_s}};
-    for (const QString &keyword : generalOptionKeywords()) {
-        // Two sides by hand stand among the attributes.
-        if (keyword == kDuplexOption && isTwoSidedByHand(attributes))
+    const QStringList told = keywordsOfPanels(panels);
+    const QStringList general = generalOptionsOf(session, panels.jobValues());
+    const QString color = colorOptionOf(session, panels.jobValues());
+    for (const QString &keyword : general) {
+        // Two sides by hand stand among the attributes, and color where its panel tells of it.
+        if ((keyword == kDuplexOption && isTwoSidedByHand(attributes)) ||
+            (keyword == color && told.contains(keyword)))
             continue;
         const SummaryLine line = optionLine(session, keyword);
         if (!line.title.isEmpty())
@@ -211,18 +232,18 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.
-    const QStringList ofPanels = keywordsOfPanels(panels);
     for (const ppd_option_t *option : optionsBesideGeneral(session)) {
         const QString keyword = ppdKeyword(option->keyword);
         if (copies > 1 && keyword == kCollateOption)
             continue;
-        if (ofPanels.contains(keyword) || !session.differsFromDefault(keyword))
+        if (told.contains(keyword) || general.contains(keyword) ||
+            !session.differsFromDefault(keyword))
             continue;
         // One that has no choice at all, since another option says it, would be a line of nothing.
         if (const SummaryLine line = optionLine(session, keyword); !line.title.isEmpty())
             lines += line;
     }
-    return lines + leftOutByPanels(session, panels, ofPanels, panelLines);
+    return lines + leftOutByPanels(session, panels, told, panelLines);
 }
 
 QString summaryText(const QList<SummaryLine> &lines)

@@ -9,8 +9,16 @@
 
 namespace corvana {
 
-/// The options of the PPD that the General page offers, in its order, as far as a printer has them.
+/// The options of the PPD that the General page offers and no panel has, in its order, as far as a
+/// printer has them.
 QStringList generalOptionKeywords();
+
+/// The option for color that the General page offers although a panel has it, because the plug-in
+/// names it; null where that names none, or one that this printer has nothing to choose from for.
+QString colorOptionOf(const PpdSession &session, const PDEJobValues *jobValues);
+
+/// All options of the PPD that the General page offers for this printer, in its order.
+QStringList generalOptionsOf(const PpdSession &session, const PDEJobValues *jobValues);
 
 /// The options of the PPD that have choices and are somebody's to choose for a job, in its order:
 /// what is built into the printer ("Options Installed", the group InstallableOptions) is not.

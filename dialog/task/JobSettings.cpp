@@ -123,11 +123,17 @@ void JobSettings::setAttribute(const QString &name, const QString &value, const 
         m_chosen += JobOption{name, value};
 }
 
+void JobSettings::keepTakenAlong(const QString &name)
+{
+    m_takenAlong.removeIf([&](const TakenAlong &taken) { return taken.name == name; });
+}
+
 void JobSettings::takeAttributesOf(const JobSettings &other)
 {
     m_pageRanges = pageRanges(); // also those that an attribute of others asks for
     m_attributes = other.m_attributes;
     m_chosen = other.m_chosen;
+    m_takenAlong = other.m_takenAlong;
 }
 
 void JobSettings::leavePrinter()
@@ -138,6 +144,7 @@ void JobSettings::leavePrinter()
         m_pageRanges = ranges;
     m_attributes.clear();
     m_chosen.clear();
+    m_takenAlong.clear();
     m_mostCopies = 0;
     if (m_by == By::Queue || m_by == By::UserQueues || m_by == By::Policy) {
         m_copies = 1;

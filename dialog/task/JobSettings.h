@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include <QList>
 #include <QString>
@@ -9,6 +10,16 @@
 #include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
+
+/// A setting that a choice of another one has taken along.
+struct TakenAlong
+{
+    QString name{};   ///< of an attribute, or the keyword of an option
+    QString former{}; ///< its value before; null: none
+    QString now{};
+
+    bool operator==(const TakenAlong &) const = default;
+};
 
 /// What belongs to the job rather than to its printer: copies, pages, and the job attributes that
 /// no page offers. Copies and pages go along when the user chooses another printer.
@@ -72,6 +83,12 @@ public:
     /// Takes choices of the user's back that were kept with their printer.
     void restoreChosenAttributes(const QList<JobOption> &chosen) { m_chosen = chosen; }
 
+    /// What the order of pages has taken along, to be given back with it.
+    void noteTakenAlong(const TakenAlong &taken) { m_takenAlong += taken; }
+    QList<TakenAlong> takeBackTakenAlong() { return std::exchange(m_takenAlong, {}); }
+    /// Somebody has chosen it since: it stays.
+    void keepTakenAlong(const QString &name);
+
     /// Takes the attributes of other settings, whoever asked for them, in place of these. Copies
     /// and pages stay.
     void takeAttributesOf(const JobSettings &other);
@@ -89,6 +106,7 @@ private:
     QList<JobOption> m_attributes;
     QList<JobOption> m_chosen; // by the user, in place of those
     OptionLocks m_locks;       // over all of them
+    QList<TakenAlong> m_takenAlong;
 };
 
 } // namespace corvana

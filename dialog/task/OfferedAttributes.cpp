@@ -7,6 +7,7 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/Summary.h"
 #include "dialog/session/TwoSided.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
@@ -118,6 +119,10 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
     // Not what is usual with other printers.
     if (one.value.isNull() && usual != jobAttribute(offer.name)->usual)
         one.value = usual;
+    // The page has one row for color, which is that of the option.
+    if (offer.name == kPrintColorMode &&
+        !colorOptionOf(*printer.session, printer.jobValues).isNull())
+        one.place = Place::More;
     if (const QString by = lockOf(offer.name, settings, printer); !by.isNull())
         one.lockedBy = lockedText(by);
     if (offer.name == kCollateAttribute)
@@ -131,6 +136,10 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
         one.hasEffect = false;
         one.value = withPagesOfOrder(all).constLast().value;
     }
+    // It has an order of its own, too.
+    if (pageChoiceOf(all).booklet != PageChoice::Booklet::No && isUsual(one.value, usual) &&
+        (offer.name == kNumberUpLayout || offer.name == kRepeatAttribute))
+        one.hasEffect = false;
     if (offer.name == kPutBackAttribute)
         one.hasEffect = isTwoSidedByHand(settings.attributes());
     return one;
@@ -150,7 +159,8 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer)
     if (name == kBookletAttribute)
         return savesPdf(printer) || canTurnByHand(printer) || choiceForBooklet(printer);
     if (name == kPrintColorMode)
-        return session.ppd()->color_device && isAttributeAlone(name, u"monochrome"_s, printer);
+        return session.ppd()->color_device && colorOptionOf(session, printer.jobValues).isNull() &&
+               isAttributeAlone(name, u"monochrome"_s, printer);
     return !ownOption(name, session) ||
            !choicesOfPrinter(name, u"true"_s, printer).choices.isEmpty();
 }

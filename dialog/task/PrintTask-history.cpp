@@ -9,6 +9,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/LeftSession.h"
+#include "dialog/task/OrderOfPages.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/TaskPresets.h"
 #include "platform/pde/PDEPanel.h"
@@ -192,14 +193,18 @@ void PrintTask::resetSettings(const QStringList &names)
     Q_EMIT unsaid();
     const QMap<QString, QString> base = valuesOf(m_baseline.base.settings, *m_opened);
     QList<JobOption> options;
+    const QList<JobOption> former = m_settings.attributes();
     const QStringList all = withOtherForm(names);
     for (const QString &name : all) {
+        m_settings.keepTakenAlong(name);
         if (ppdOption(m_opened->session->ppd(), name) && base.contains(name))
             options += JobOption{name, base.value(name)};
         else
             m_settings.setAttribute(name, base.value(name),
                                     usualValueOf(name, m_settings.attributes(), *m_opened));
     }
+    for (const OptionChoice &along : takeOrderAlong(former, m_settings, *m_opened))
+        options += JobOption{along.keyword, along.choice};
     const OptionOutcome outcome =
         applyOptions(options, *m_opened->session, m_opened->jobValues, *m_opened->panels);
     m_baseline.touched = names;

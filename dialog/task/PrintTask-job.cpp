@@ -350,8 +350,7 @@ void PrintTask::jobFinished(const JobOutcome &ofJob)
     Memory &memory = m_memory[idOf(m_chosen.printer)];
     // It may be printed yet, so the same is not sent once more by accident. A try that never got a
     // number has learnt nothing about an earlier one.
-    if (outcome.kind == Kind::Unknown || outcome.kind == Kind::InQueue ||
-        outcome.kind == Kind::Stopped) {
+    if (mayStillPrint(outcome)) {
         memory.earlierJob = outcome.job;
         memory.earlierDocuments = outcome.documents;
     } else if (outcome.job > 0) {

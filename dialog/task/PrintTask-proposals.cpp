@@ -9,6 +9,7 @@
 #include "dialog/session/OptionValues.h"
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
+#include "dialog/task/OrderOfPages.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/StartValues.h"
@@ -34,6 +35,7 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
 {
     bringUp();
     Q_EMIT unsaid();
+    m_settings.keepTakenAlong(keyword);
     if (isValueOfPanels({keyword, choice}, *m_opened->session, m_opened->jobValues) ||
         isForPanelsToJudge({keyword, choice}, *m_opened))
         return proposeToPanels({keyword, choice});
@@ -113,14 +115,22 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     if (*taken == m_settings.attribute(name))
         return {};
     Q_EMIT unsaid();
+    const JobSettings before = m_settings;
+    m_settings.keepTakenAlong(name);
     m_settings.setAttribute(name, *taken, usualValueOf(name, m_settings.attributes(), *m_opened));
+    const QList<OptionChoice> along = takeOrderAlong(before.attributes(), m_settings, *m_opened);
+    // What is locked makes no room.
+    const bool isOrder = name == kBookletAttribute || name == kRepeatAttribute;
+    if (const QStringList problems = problemsOfOrder(m_settings.attributes());
+        isOrder && !problems.isEmpty()) {
+        m_settings = before;
+        return problems.join(u'\n');
+    }
     noteTouched(name);
-    const std::optional<OptionChoice> folding = choiceForBooklet(*m_opened);
-    const bool isBooklet = pageChoiceOf({{name, *taken}}).booklet != PageChoice::Booklet::No;
-    if (isBooklet && canTurnByHand(*m_opened))
-        m_settings.setAttribute(kSidesByHandAttribute, kByHandShortEdge);
-    else if (isBooklet && folding)
-        propose(folding->keyword, folding->choice);
+    const JobSettings now = m_settings;
+    for (const OptionChoice &choice : along)
+        propose(choice.keyword, choice.choice);
+    m_settings = now; // which of them nobody chose himself
     showSettings();
     return {};
 }

@@ -80,10 +80,9 @@ public:
         addAttributes(offered, OfferedAttribute::Place::BesideCopies);
         if (offersPages)
             addField(Setting::Kind::Pages, kPages);
-        for (const QString &keyword : generalOptionKeywords()) {
-            if (ppdOption(ppd(), keyword))
-                addOption(keyword, {SettingPlace::Page::General, -1, {Texts::tr("General")}});
-        }
+        const QStringList options = generalOptionsOf(*m_printer.session, m_printer.jobValues);
+        for (const QString &keyword : options)
+            addOption(keyword, {SettingPlace::Page::General, -1, {Texts::tr("General")}});
         addAttributes(offered, OfferedAttribute::Place::Front);
         addAttributes(offered, OfferedAttribute::Place::More);
     }
@@ -91,10 +90,15 @@ public:
     void addPanels()
     {
         const auto &panels = m_printer.panels->panels();
+        // The page General has it as well, and one place is enough to be found at.
+        const QString color = colorOptionOf(*m_printer.session, m_printer.jobValues);
         for (int i = 0; i < panels.size(); ++i) {
-            for (const PanelControl &control : m_printer.panels->controls(i))
-                addControl(control, {SettingPlace::Page::Panel, i,
-                                     QStringList(panels.at(i)->panelName()) + control.sections});
+            for (const PanelControl &control : m_printer.panels->controls(i)) {
+                if (control.keyword != color)
+                    addControl(control,
+                               {SettingPlace::Page::Panel, i,
+                                QStringList(panels.at(i)->panelName()) + control.sections});
+            }
         }
     }
 
@@ -250,11 +254,12 @@ QStringList optionsBesidePages(const OpenedPrinter &printer)
     const bool hasPanels = !printer.panels->panels().isEmpty();
     // The box beside the copies stands for the printer's own option.
     const bool hasCollate = hasPanels && offersAttribute(kCollateAttribute, printer);
+    const QString color = colorOptionOf(*printer.session, printer.jobValues);
     QStringList keywords;
     for (const ppd_option_t *option : furtherOptions(*printer.session)) {
         const QString keyword = ppdKeyword(option->keyword);
         const bool isBesideCopies = hasCollate && keyword == kCollateOption;
-        if (!isBesideCopies && printer.panels->panelOf(keyword) < 0)
+        if (!isBesideCopies && keyword != color && printer.panels->panelOf(keyword) < 0)
             keywords += keyword;
     }
     return keywords;

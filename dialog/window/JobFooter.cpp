@@ -87,11 +87,12 @@ void JobFooter::buildButtons()
     m_print = new QPushButton(tr("&Print"), this);
     m_print->setObjectName(u"print"_s);
     m_print->setDefault(true);
-    m_leave = new QPushButton(tr("C&lose"), this);
+    m_leave = new QPushButton(this);
+    m_leave->setAccessibleName(tr("C&lose (printing continues)").remove(u'&'));
     m_leave->setObjectName(u"leave"_s);
     m_leave->setAutoDefault(false);
     setPlainToolTip(m_leave, tr("The job goes on without this window."));
-    hideInPlace(m_leave);
+    m_leave->hide();
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setObjectName(u"cancel"_s);
     m_cancel->setAutoDefault(false);
@@ -113,6 +114,8 @@ void JobFooter::setCanPrint(bool canPrint)
     // the first has begun.
     if (!canPrint && m_print->hasFocus())
         m_progress->setFocus(Qt::OtherFocusReason);
+    if (canPrint)
+        m_print->show(); // it may have made room for Close
     m_print->setEnabled(canPrint);
     if (canPrint && m_progress->hasFocus())
         m_print->setFocus(Qt::OtherFocusReason);
@@ -124,8 +127,7 @@ void JobFooter::showRunning(bool running)
     m_progress->setRange(0, 0);
     m_progress->setVisible(running);
     m_progressText->setVisible(running);
-    m_leave->hide();
-    m_cancel->setText(tr("Cancel"));
+    showLeaving(false);
     m_said.clear();
     saySoon();
 }
@@ -152,15 +154,43 @@ void JobFooter::showProgress(const JobProgress &progress, bool canLeave)
     m_progress->setRange(0, measured ? 100 : 0);
     if (measured)
         m_progress->setValue(static_cast<int>(progress.sent * 100 / progress.total));
-    m_leave->setVisible(canLeave);
+    showLeaving(canLeave);
+    saySoon();
+}
+
+// In the place of what a job that is under way has no use for: its words would widen the window.
+void JobFooter::showLeaving(bool canLeave)
+{
+    // Not to Close: what is pressed twice by accident must not close anything.
+    if (canLeave && m_finder->isAncestorOf(window()->focusWidget()))
+        m_progress->setFocus(Qt::OtherFocusReason);
+    m_finder->setVisible(!canLeave);
+    m_print->setVisible(!canLeave);
     // Beside Close, which leaves the job alone.
     m_cancel->setText(canLeave ? tr("Cancel Job") : tr("Cancel"));
-    saySoon();
+    if (canLeave)
+        nameLeave();
+    else
+        m_leave->hide();
+}
+
+// As much of it as there is room for, so that the window stays as wide as it is. Looked at before it
+// is there: a button that is shown gets its room at once.
+void JobFooter::nameLeave()
+{
+    if (!m_leave->isHidden())
+        return;
+    m_leave->setText(tr("C&lose (printing continues)"));
+    layout()->activate();
+    const int gap = layout()->itemAt(layout()->count() - 1)->layout()->spacing();
+    if (layout()->minimumSize().width() + gap + m_leave->sizeHint().width() > width())
+        m_leave->setText(tr("C&lose"));
+    m_leave->show();
 }
 
 void JobFooter::showCanceling()
 {
-    m_leave->hide();
+    showLeaving(false);
     m_progressText->setText(tr("Canceling…"));
     m_progress->setRange(0, 0);
     saySoon();
@@ -168,7 +198,7 @@ void JobFooter::showCanceling()
 
 void JobFooter::showTurning()
 {
-    m_leave->hide();
+    showLeaving(false);
     m_progressText->setText(tr("The first sides are printed."));
     m_progress->setRange(0, 2);
     m_progress->setValue(1);

@@ -53,6 +53,8 @@ Q_SIGNALS:
 private:
     void buildProgress();
     void buildButtons();
+    void showLeaving(bool canLeave);
+    void nameLeave();
     void saySoon();
 
     QPushButton *m_help = nullptr;

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kFewestCharacters = 8;
 constexpr int kUsualCharacters = 24;
+constexpr int kBesideText = 2; // styles leave a pixel at both ends. Units: pixels.
 
 } // namespace
 
@@ -46,9 +47,20 @@ QSize PresetButton::sizeFor(int characters) const
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
 }
 
+// No more than is read: the rest is its neighbours'.
 QSize PresetButton::sizeHint() const
 {
-    return sizeFor(kUsualCharacters);
+    const QSize usual = sizeFor(kUsualCharacters);
+    return {qMin(usual.width(), wholeWidth()), usual.height()};
+}
+
+int PresetButton::wholeWidth() const
+{
+    const QStyleOptionComboBox option = asList();
+    const QSize contents = fontMetrics().size(Qt::TextSingleLine, option.currentText);
+    return style()
+        ->sizeFromContents(QStyle::CT_ComboBox, &option, contents + QSize(kBesideText, 0), this)
+        .width();
 }
 
 QSize PresetButton::minimumSizeHint() const
@@ -58,7 +70,6 @@ QSize PresetButton::minimumSizeHint() const
 
 int PresetButton::roomForText() const
 {
-    constexpr int kBesideText = 2; // styles leave a pixel at both ends
     const QStyleOptionComboBox option = asList();
     return style()
                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)

@@ -17,6 +17,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// In which the whole text is read. Units: pixels.
+    int wholeWidth() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -19,8 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The names of options may be long, and the preset needs room as well. Units: heights of the font.
-constexpr int kUndoWidth = 10;
+// The names of options may be long, and less than a few letters of one say nothing. Units: heights
+// of the font.
+constexpr int kMostOfUndo = 10;
+constexpr int kLeastOfUndo = 5;
 
 } // namespace
 
@@ -58,6 +60,26 @@ void PresetRow::refreshPreset()
     m_preset->setText(text);
     m_preset->setAccessibleName(tr("Preset: %1").arg(QString(text).replace("&&"_L1, "&"_L1)));
     m_preset->setEnabled(m_task.phase() == PrintTask::Phase::Ready);
+    shareRoom();
+}
+
+// What is in force is read first. The name of the step that can be taken back has what is left, and
+// is the button's tool tip and its name for a screen reader in any case.
+void PresetRow::shareRoom()
+{
+    const int em = fontMetrics().height();
+    const int others = m_reset->sizeHint().width() + m_redo->sizeHint().width() +
+                       (layout()->count() - 1) * layout()->spacing();
+    const int room = width() - others - m_preset->wholeWidth();
+    const bool hasText = room >= kLeastOfUndo * em;
+    m_undo->setToolButtonStyle(hasText ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    m_undo->setMaximumWidth(hasText ? qMin(room, kMostOfUndo * em) : QWIDGETSIZE_MAX);
+}
+
+void PresetRow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    shareRoom();
 }
 
 void PresetRow::setPages(SettingsPages *pages)
@@ -103,7 +125,6 @@ void PresetRow::buildButtons()
     m_redo = new QToolButton(this);
     m_redo->setObjectName(u"redo"_s);
     m_redo->setIcon(redoIcon());
-    m_undo->setMaximumWidth(kUndoWidth * fontMetrics().height());
     for (QToolButton *button : {static_cast<QToolButton *>(m_undo), m_redo})
         button->setAutoRaise(true);
     connect(m_undo, &QToolButton::clicked, &m_task, &PrintTask::undo);
@@ -125,6 +146,7 @@ void PresetRow::refresh()
     setPlainToolTip(m_redo, tr("%1 (Shift+Ctrl+Z)").arg(redo));
     m_redo->setAccessibleName(redo);
     m_redo->setEnabled(m_task.canRedo());
+    shareRoom();
 }
 
 } // namespace corvana

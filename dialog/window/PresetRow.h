@@ -29,7 +29,11 @@ public:
     /// Offers to take back what was changed on the page that is shown. Borrows the pages.
     void setPages(SettingsPages *pages);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void shareRoom();
     void buildPreset();
     void buildButtons();
     void refreshPreset();

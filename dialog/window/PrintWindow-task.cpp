@@ -256,9 +256,25 @@ void PrintWindow::jobEnded(const JobOutcome &outcome)
     case Kind::Canceled:
         m_message->showMessage(MessageBar::Kind::Information, outcome.text);
         break;
-    default:
+    case Kind::PrinterChanged:
+        // Its options are asked for anew, and have to be looked at first.
         m_message->showMessage(MessageBar::Kind::Problem, outcome.text);
+        break;
+    default:
+        offerToPrintAgain(outcome);
     }
+}
+
+void PrintWindow::offerToPrintAgain(const JobOutcome &outcome)
+{
+    // Whole texts, because not every language has a blank between two sentences.
+    const QString text =
+        mayStillPrint(outcome)
+            ? tr("%1 %2").arg(outcome.text,
+                              tr("Printed again, it may come out of the printer twice."))
+            : outcome.text;
+    m_message->showMessage(MessageBar::Kind::Problem, text, tr("Print Again"),
+                           [this] { accept(); });
 }
 
 // The task has nothing more to do; whether with a job shows in what it reports.

@@ -96,6 +96,7 @@ private:
     void showMessage(const TaskMessage &message);
     void showRefusal(const TaskRefusal &refusal);
     void jobEnded(const JobOutcome &outcome);
+    void offerToPrintAgain(const JobOutcome &outcome);
     void ended();
     bool mayLeaveHalf();
 

@@ -102,7 +102,7 @@ void SettingsPages::takeFocus()
 
 void SettingsPages::addGeneral()
 {
-    m_general = new GeneralPage(*m_task.opened()->session);
+    m_general = new GeneralPage(*m_task.opened()->session, m_task.opened()->jobValues);
     m_general->setMostCopies(m_task.settings().mostCopies());
     m_general->setCopies(m_task.settings().copies());
     addTab(m_general, tr("General"));

@@ -106,6 +106,11 @@ public:
     /// Options that set up the device rather than a job, such as a time until it sleeps. A host
     /// keeps them for later jobs only where the user says so.
     virtual QStringList deviceOptions() const { return {}; }
+
+    /// The option of the PPD by which a user chooses whether the job is in color, for hosts that
+    /// offer it beside copies and paper as well, where people look for it: by keyword. The panels
+    /// hear of what is chosen there as of any change elsewhere. Null: there is none.
+    virtual QString colorOption([[maybe_unused]] ppd_file_t *ppd) const { return {}; }
 };
 
 } // namespace corvana

@@ -53,5 +53,5 @@ public:
 /// before any of its code runs. Each virtual function that is added makes a new version, even one
 /// with a default: a module that was built before has no place for it in its tables, and a host
 /// would call whatever lies behind them. Its source need not be changed to be built anew.
-#define CORVANA_PDE_PLUGIN_IID "com.corvana.print.pde.PlugIn/3"
+#define CORVANA_PDE_PLUGIN_IID "com.corvana.print.pde.PlugIn/4"
 Q_DECLARE_INTERFACE(corvana::PDEPlugIn, CORVANA_PDE_PLUGIN_IID)

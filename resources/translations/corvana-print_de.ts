@@ -3157,6 +3157,10 @@
         <translation>Sch&amp;ließen</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>Sch&amp;ließen (Druck läuft weiter)</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>Der Auftrag geht ohne dieses Fenster weiter.</translation>
     </message>
@@ -3821,6 +3825,14 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>Help on Printing</source>
         <translation>Hilfe zum Drucken</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>Erneut gedruckt, kann er zweimal aus dem Drucker kommen.</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Erneut drucken</translation>
     </message>
 </context>
 <context>

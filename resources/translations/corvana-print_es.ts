@@ -3157,6 +3157,10 @@
         <translation>Ce&amp;rrar</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>Ce&amp;rrar (la impresión continúa)</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>El trabajo continúa sin esta ventana.</translation>
     </message>
@@ -3821,6 +3825,14 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>Help on Printing</source>
         <translation>Ayuda de impresión</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>Si se imprime de nuevo, puede salir dos veces de la impresora.</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimir de nuevo</translation>
     </message>
 </context>
 <context>

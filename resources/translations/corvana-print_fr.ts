@@ -3157,6 +3157,10 @@
         <translation>Ferme&amp;r</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>Ferme&amp;r (l’impression continue)</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>La tâche se poursuit sans cette fenêtre.</translation>
     </message>
@@ -3821,6 +3825,14 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>Help on Printing</source>
         <translation>Aide sur l’impression</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>Imprimée à nouveau, elle peut sortir deux fois de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimer à nouveau</translation>
     </message>
 </context>
 <context>

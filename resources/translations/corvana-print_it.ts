@@ -3157,6 +3157,10 @@
         <translation>C&amp;hiudi</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>C&amp;hiudi (la stampa continua)</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>Il lavoro continua senza questa finestra.</translation>
     </message>
@@ -3821,6 +3825,14 @@ Per la riga di comando: %2</translation>
     <message>
         <source>Help on Printing</source>
         <translation>Aiuto sulla stampa</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>Se viene stampato di nuovo, può uscire due volte dalla stampante.</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Stampa di nuovo</translation>
     </message>
 </context>
 <context>

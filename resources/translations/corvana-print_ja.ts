@@ -2013,6 +2013,10 @@
         <translation>閉じる(&amp;L)</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>閉じる(&amp;L)（印刷は続行）</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>このウィンドウを閉じても、ジョブは続行されます。</translation>
     </message>
@@ -2461,6 +2465,14 @@ For the command line: %2</source>
     <message>
         <source>Go Back</source>
         <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>もう一度印刷すると、2 回印刷されることがあります。</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>もう一度印刷</translation>
     </message>
 </context>
 <context>

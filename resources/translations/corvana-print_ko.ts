@@ -3155,6 +3155,10 @@
         <translation>닫기(&amp;L)</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>닫기(&amp;L)(인쇄는 계속됨)</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>이 창을 닫아도 작업은 계속됩니다.</translation>
     </message>
@@ -3819,6 +3823,14 @@ For the command line: %2</source>
     <message>
         <source>Help on Printing</source>
         <translation>인쇄 도움말</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>다시 인쇄하면 두 번 출력될 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>다시 인쇄</translation>
     </message>
 </context>
 <context>

@@ -3157,6 +3157,10 @@
         <translation>&amp;Fechar</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>&amp;Fechar (a impressão continua)</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>O trabalho continua sem esta janela.</translation>
     </message>
@@ -3821,6 +3825,14 @@ Na linha de comando: %2</translation>
     <message>
         <source>Help on Printing</source>
         <translation>Ajuda de impressão</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>Se for impresso novamente, poderá sair duas vezes da impressora.</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimir novamente</translation>
     </message>
 </context>
 <context>

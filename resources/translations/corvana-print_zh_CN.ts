@@ -2013,6 +2013,10 @@
         <translation>关闭(&amp;L)</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>关闭(&amp;L)（继续打印）</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>关闭此窗口后，作业会继续。</translation>
     </message>
@@ -2461,6 +2465,14 @@ For the command line: %2</source>
     <message>
         <source>Go Back</source>
         <translation>返回</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>再次打印可能会打印出两份。</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>再次打印</translation>
     </message>
 </context>
 <context>

@@ -3155,6 +3155,10 @@
         <translation>關閉(&amp;L)</translation>
     </message>
     <message>
+        <source>C&amp;lose (printing continues)</source>
+        <translation>關閉(&amp;L)（繼續列印）</translation>
+    </message>
+    <message>
         <source>The job goes on without this window.</source>
         <translation>關閉此視窗後，工作會繼續進行。</translation>
     </message>
@@ -3819,6 +3823,14 @@ For the command line: %2</source>
     <message>
         <source>Help on Printing</source>
         <translation>列印說明</translation>
+    </message>
+    <message>
+        <source>Printed again, it may come out of the printer twice.</source>
+        <translation>再次列印可能會印出兩份。</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>再次列印</translation>
     </message>
 </context>
 <context>

@@ -57,9 +57,11 @@ QString copiesFault(const GeneralPage &general, PrintTask &task)
 
 // Options of the printer on the page General
 
-QString optionsFault(const GeneralPage &general, const PpdSession &session)
+QString optionsFault(const GeneralPage &general, const OpenedPrinter &printer)
 {
-    for (const QString &keyword : generalOptionKeywords()) {
+    const PpdSession &session = *printer.session;
+    const QStringList options = generalOptionsOf(session, printer.jobValues);
+    for (const QString &keyword : options) {
         const auto *popUp = general.findChild<QComboBox *>(keyword);
         if (!popUp)
             continue;
@@ -194,7 +196,7 @@ QString generalFault(PrintWindow &window)
     if (!general || !opened)
         return {};
     for (const QString &fault :
-         {optionsFault(*general, *opened->session), copiesFault(*general, window.task())}) {
+         {optionsFault(*general, *opened), copiesFault(*general, window.task())}) {
         if (!fault.isNull())
             return fault;
     }

@@ -41,6 +41,15 @@ class JobValuesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theOptionForColorIsNamedWhereThePrinterHasIt()
+    {
+        const auto color = RecordingHost::forSamplePrinter();
+        QCOMPARE(m_values.colorOption(color->ppd()), u"QXMonoColor"_s);
+        const auto gray = RecordingHost::forPpd(PpdBuilder().text());
+        QVERIFY(m_values.colorOption(gray->ppd()).isNull());
+        QVERIFY(m_values.colorOption(nullptr).isNull());
+    }
+
     // jobOptions()
 
     void aJobWithoutEntriesPrintsWithoutEffects()

@@ -62,7 +62,7 @@ void addChoice(QComboBox *popUp, const QString &title, const QString &choice)
 
 } // namespace
 
-GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
+GeneralPage::GeneralPage(PpdSession &session, const PDEJobValues *jobValues, QWidget *parent)
     : QWidget(parent), m_session(session), m_marks(new ChangeMarks(this)),
       m_copies(new QSpinBox(this)), m_pageRanges(new QLineEdit(this)),
       m_choosePages(new QPushButton(this))
@@ -74,7 +74,8 @@ GeneralPage::GeneralPage(PpdSession &session, QWidget *parent)
     m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addJobFields(m_rows);
     scroll(rows);
-    for (const QString &keyword : generalOptionKeywords())
+    const QStringList options = generalOptionsOf(session, jobValues);
+    for (const QString &keyword : options)
         addOption(keyword);
     m_attributes = new AttributeRows(m_rows);
     connect(m_attributes, &AttributeRows::proposed, this, &GeneralPage::attributeProposed);

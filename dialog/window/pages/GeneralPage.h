@@ -22,11 +22,12 @@ namespace corvana {
 
 class AttributeRows;
 class CustomPaperSize;
+class PDEJobValues;
 class PpdSession;
 
-/// Copies, pages, the PPD options that no panel owns (two-sided, paper size, output destination,
-/// and who matches the colours; each only where the printer has it, in the PPD's own words), and
-/// the attributes of the job.
+/// Copies, pages, the option for color that the panels' plug-in names, the PPD options that no
+/// panel owns (two-sided, paper size, output destination, and who matches the colours; each only
+/// where the printer has it, in the PPD's own words), and the attributes of the job.
 ///
 /// It shows the session and what it is told of the job, and proposes changes; it changes nothing
 /// itself.
@@ -35,8 +36,9 @@ class GeneralPage : public QWidget
     Q_OBJECT
 
 public:
-    /// Borrows the session.
-    explicit GeneralPage(PpdSession &session, QWidget *parent = nullptr);
+    /// Borrows the session. `jobValues`: what the plug-in says of the options; null for none.
+    explicit GeneralPage(PpdSession &session, const PDEJobValues *jobValues = nullptr,
+                         QWidget *parent = nullptr);
 
     int copies() const;
     /// More than mostCopies() become as many.

@@ -177,6 +177,32 @@ private Q_SLOTS:
                  (SummaryLine{u"Access"_s, u"••••••"_s}));
     }
 
+    void theOptionForColorIsToldOnceByItsPanelOrWithTheGeneralOptions()
+    {
+        const auto session = sessionFor(smallPrinter());
+        FakePlugIn plugIn({u"A"_s});
+        FakeJobValues values;
+        values.color = u"Tray"_s;
+        plugIn.values = &values;
+        PanelHost panels(*session, &plugIn, m_presenter);
+        const auto trays = [&] {
+            QStringList told;
+            const QList<SummaryLine> lines = sessionSummary(*session, panels, 1, {});
+            for (const SummaryLine &line : lines) {
+                if (line.title == u"Tray"_s)
+                    told += line.value;
+            }
+            return told;
+        };
+        const QString usual = trays().value(0);
+        QCOMPARE(trays(), QStringList{usual});
+        session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
+        QCOMPARE(trays(), QStringList{u"Lower Tray"_s});
+        plugIn.panels.at(0)->supported = QStringList{u"Tray"_s};
+        plugIn.panels.at(0)->summaryLines = {{u"Tray"_s, u"Below"_s}};
+        QCOMPARE(trays(), QStringList{u"Below"_s});
+    }
+
     void theAttributesOfTheJobAreTold()
     {
         const auto session = sessionFor(PpdBuilder());

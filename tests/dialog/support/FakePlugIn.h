@@ -99,7 +99,8 @@ private:
 };
 
 /// Keeps one value of its own: the option "Strength", a whole number from 1 to 9, in an entry of
-/// the same name behind "fake.". A strength above 5 implies the choice Boost=ON.
+/// the same name behind "fake.". A strength above 5 implies the choice Boost=ON. Its option for
+/// color is the one that a test names.
 class FakeJobValues : public PDEJobValues
 {
 public:
@@ -107,6 +108,9 @@ public:
     JobValueClaim takeJobOption(const JobOption &option, PrintSettings &settings,
                                 ppd_file_t *ppd) const override;
     QList<JobOption> impliedMarks(const PrintSettings &settings, ppd_file_t *ppd) const override;
+    QString colorOption(ppd_file_t *) const override { return color; }
+
+    QString color{};
 };
 
 } // namespace corvana::test

@@ -218,6 +218,9 @@ private Q_SLOTS:
         open(request(Kind::A4, {}));
         QCOMPARE(task().setAttribute(u"booklet"_s, u"left"_s), QString());
         QCOMPARE(task().settings().attribute(kSidesByHandAttribute), kByHandShortEdge);
+        QCOMPARE(task().setAttribute(u"booklet"_s, u"no"_s), QString());
+        QVERIFY(task().settings().attribute(kSidesByHandAttribute) != kByHandShortEdge);
+        QCOMPARE(task().setAttribute(u"booklet"_s, u"left"_s), QString());
         QCOMPARE(task().setAttribute(kSidesByHandAttribute, u"no"_s), QString());
         QVERIFY(!preview().plan.sheets.constFirst().back);
     }

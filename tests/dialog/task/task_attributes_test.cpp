@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -123,42 +124,6 @@ private Q_SLOTS:
     void init() { m_scene = std::make_unique<TaskScene>(); }
     void cleanup() { m_scene.reset(); }
 
-    void aBookletIsTurnedOverAtTheShortEdge()
-    {
-        PrintTask &task = open({}, smallPrinter());
-        QVERIFY(find(task.attributes(), u"booklet"_s));
-        QCOMPARE(task.setAttribute(u"booklet"_s, u"right"_s), QString());
-        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
-        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"2"_s});
-        QCOMPARE(summary(u"Booklet"_s), QStringList{u"Bound at the Right"_s});
-    }
-
-    void backsThatTheMediumLacksAreSaid()
-    {
-        PrintTask &task = open(u"Media=Card"_s, smallPrinter());
-        task.setAttribute(u"booklet"_s, u"left"_s);
-        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"None"_s);
-        QVERIFY2(m_scene->face.message().contains(u"Card"_s), qPrintable(m_scene->face.message()));
-    }
-
-    // What nobody can choose is shown as it is printed; what was chosen before stays, and its way
-    // back with it.
-    void theBookletDecidesHowManyPagesShareASide()
-    {
-        PrintTask &task = open({}, smallPrinter());
-        const auto shared = [&task] { return *find(task.attributes(), u"number-up"_s); };
-        QVERIFY(shared().hasEffect);
-        task.setAttribute(u"booklet"_s, u"left"_s);
-        QCOMPARE(shared().value, u"2"_s);
-        QVERIFY(!shared().hasEffect && shared().isUsual);
-        task.setAttribute(u"booklet"_s, u"no"_s);
-        QVERIFY(shared().hasEffect && shared().value.isNull());
-        task.setAttribute(u"number-up"_s, u"4"_s);
-        task.setAttribute(u"booklet"_s, u"left"_s);
-        QCOMPARE(shared().value, u"4"_s);
-        QVERIFY(shared().hasEffect);
-    }
-
     void aPrinterOfOneSideOffersNoBooklet() { QVERIFY(!find(open({}).attributes(), u"booklet"_s)); }
 
     void whatIsInForceIsOffered_data() { addRows(kShown); }
@@ -224,6 +189,28 @@ private Q_SLOTS:
         QVERIFY(!find(open({}, choosing).attributes(), u"print-color-mode"_s));
         QCOMPARE(m_scene->task->setAttribute(u"print-color-mode"_s, u"monochrome"_s), QString());
         QCOMPARE(m_scene->session().markedChoice(u"ColorModel"_s), u"grayscale"_s);
+    }
+
+    void aColorModeIsNotOfferedBesideTheOptionThatThePanelsHaveForIt()
+    {
+        const PpdBuilder plain =
+            PpdBuilder()
+                .line("*ColorDevice: True")
+                .line("*cupsFilter2: \"application/vnd.cups-postscript application/postscript 0 "
+                      "-\"");
+        PpdBuilder panels = plain;
+        panels.line("*QXPrintDialogExtension: \"QXCLQuality13PDE.bundle\"")
+            .option("QXMonoColor", "Color Mode", "Auto", {{"Auto", "Auto"}, {"Color", "Color"}});
+        const OfferedAttribute front = *find(
+            open(u"print-color-mode=monochrome"_s, plain).attributes(), u"print-color-mode"_s);
+        QCOMPARE(front.place, OfferedAttribute::Place::Front);
+        PrintTask &task = open({}, panels);
+        QVERIFY(!task.opened()->panels->panels().isEmpty());
+        QVERIFY(!find(task.attributes(), u"print-color-mode"_s));
+        // What is in force is seen.
+        const OfferedAttribute more = *find(
+            open(u"print-color-mode=monochrome"_s, panels).attributes(), u"print-color-mode"_s);
+        QCOMPARE(more.place, OfferedAttribute::Place::More);
     }
 
     void whatIsNotKnownToBeDoneIsNoFactInTheSummary()

@@ -240,19 +240,6 @@ private Q_SLOTS:
         QVERIFY(task().settingsNow() == before);
     }
 
-    void aBookletAndItsFoldingAreOneStep()
-    {
-        m_scene->open(m_scene->request(smallPrinter()));
-        const TaskSettings before = task().settingsNow();
-        QCOMPARE(task().setAttribute(u"booklet"_s, u"left"_s), QString());
-        settle();
-        QCOMPARE(session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
-        QCOMPARE(task().undoText(), u"Undo Booklet"_s);
-        task().undo();
-        QVERIFY(task().settingsNow() == before);
-        QVERIFY(!task().canUndo());
-    }
-
     void aPickOnAPanelIsOneStepWithAllThatItsRulesDo()
     {
         openSample();

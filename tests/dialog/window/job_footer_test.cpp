@@ -4,6 +4,7 @@
 
 #include "dialog/job/JobProgress.h"
 #include "dialog/window/JobFooter.h"
+#include "dialog/window/find/FindField.h"
 
 using namespace corvana;
 using namespace Qt::StringLiterals;
@@ -60,6 +61,56 @@ private Q_SLOTS:
         QCOMPARE(cancel->text(), u"Cancel Job"_s);
         footer.showRunning(false);
         QCOMPARE(cancel->text(), u"Cancel"_s);
+    }
+
+    // Where that has room: what stands there while nothing is printed makes some.
+    void closeSaysThatPrintingContinues()
+    {
+        QWidget window; // a window of its own would be as wide as it needs
+        JobFooter footer(&window);
+        footer.resize(1000, footer.sizeHint().height());
+        window.resize(1000, 100);
+        window.show();
+        const auto *leave = footer.findChild<QPushButton *>(u"leave"_s);
+        const auto *print = footer.findChild<QPushButton *>(u"print"_s);
+        footer.setCanPrint(true);
+        QVERIFY(leave->isHidden() && print->isVisible());
+        footer.setCanPrint(false);
+        footer.showRunning(true);
+        footer.showProgress({}, true);
+        QVERIFY(leave->isVisible() && print->isHidden() && footer.finder()->isHidden());
+        QCOMPARE(leave->text(), u"C&lose (printing continues)"_s);
+        footer.setGeometry(0, 0, leave->width() + 50, footer.height());
+        footer.showProgress({}, false);
+        footer.showProgress({}, true);
+        QCOMPARE(leave->text(), u"C&lose"_s);
+        QCOMPARE(leave->accessibleName(), u"Close (printing continues)"_s);
+        footer.setCanPrint(true);
+        footer.showRunning(false);
+        QVERIFY(leave->isHidden() && print->isVisible() && footer.finder()->isVisible());
+    }
+
+    // A second press of the key that printed must not close the window, or cancel the job.
+    void noButtonOfARunningJobGetsTheFocusByItself()
+    {
+        JobFooter footer;
+        footer.resize(1000, footer.sizeHint().height());
+        footer.show();
+        footer.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&footer));
+        auto *print = footer.findChild<QPushButton *>(u"print"_s);
+        print->setEnabled(true);
+        for (QWidget *first :
+             {static_cast<QWidget *>(print), footer.finder()->focusOrder().at(0)}) {
+            footer.setCanPrint(true);
+            footer.showRunning(false);
+            first->setFocus();
+            QVERIFY(first->hasFocus());
+            footer.showRunning(true);
+            footer.setCanPrint(false);
+            footer.showProgress({}, true);
+            QVERIFY(!qobject_cast<QPushButton *>(footer.focusWidget()));
+        }
     }
 
     void aJobThatIsOverBeforeIsNotAnnounced()

@@ -19,6 +19,7 @@
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/window/JobFooter.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -266,13 +267,28 @@ private Q_SLOTS:
         QVERIFY(m_filter->waitForFile(u"started"_s));
         QVERIFY(control<QLabel>(u"progressText"_s)->isVisible());
         // What a printer says may be long, and a job that a queue has can be left as well.
+        dialog().findChild<JobFooter *>()->showProgress({}, true);
+        QVERIFY(control<QPushButton>(u"leave"_s)->isVisible());
         control<QLabel>(u"progressText"_s)->setText(QString(200, u'w'));
-        control<QPushButton>(u"leave"_s)->show();
         dialog().layout()->activate();
         QCOMPARE(dialog().width(), width);
         dialog().reject();
         QTRY_COMPARE_WITH_TIMEOUT(message(), u"Printing was canceled."_s, 10000);
         QVERIFY(!control<QLabel>(u"progressText"_s)->isVisible());
+    }
+
+    void aFailureOffersToPrintAgain()
+    {
+        open("[ -e $DIR/mended ] || exit 1; echo ok\n", {sample()});
+        QTRY_COMPARE(panelViews().size(), 2);
+        QVERIFY(m_window->pressPrint());
+        QTRY_VERIFY_WITH_TIMEOUT(!message().isEmpty(), 10000);
+        QCOMPARE(control<QPushButton>(u"messageAction"_s)->text(), u"Print Again"_s);
+        QVERIFY2(!message().contains(u"twice"_s), qPrintable(message()));
+        writeFile(m_filter->path(u"mended"_s), "");
+        QVERIFY(m_window->press(u"messageAction"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(m_filter->hasOutput(), 10000);
+        QTRY_VERIFY(!dialog().isVisible());
     }
 
     void noButtonOfTheFooterWidensTheWindow_data()
@@ -294,6 +310,10 @@ private Q_SLOTS:
         dialog().layout()->activate();
         dialog().resize(1, dialog().height());
         const int width = dialog().width();
+        auto *footer = dialog().findChild<JobFooter *>();
+        QTRY_VERIFY(footer->width() < width); // the window's new width has reached it
+        if (button == u"leave"_s)
+            footer->showProgress({}, true);
         control<QWidget>(button)->show();
         dialog().layout()->activate();
         QCOMPARE(dialog().width(), width);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStandardPaths>
@@ -14,15 +15,20 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QTranslator>
 #include <QTreeView>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/task/TaskPresets.h"
+#include "dialog/window/PresetButton.h"
+#include "dialog/window/PresetMenu.h"
 #include "dialog/window/PrintWindow.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/support/WindowDriver.h"
 #include "tests/support/Gestures.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -160,6 +166,35 @@ private Q_SLOTS:
         QTest::keyClick(&m_window->dialog(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(announced(u"Undo Copies"_s), 1);
         QCOMPARE(announced(undone), 1);
+    }
+
+    // What is in force is read before what can be taken back, in the longest of languages.
+    void theNameOfThePresetHasRoomFirst_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"de", "fr", "pt_BR", "ja"})
+            QTest::newRow(language) << QString::fromLatin1(language);
+    }
+    void theNameOfThePresetHasRoomFirst()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(translator.load(u"corvana-print_"_s + language, sharedFile(u"translations"_s)));
+        QCoreApplication::installTranslator(&translator);
+        const auto gone = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+        openSample();
+        task().propose(u"QXEnhanceBlkPrt"_s, u"ON"_s);
+        QTRY_VERIFY(undo()->isEnabled());
+        const auto *preset = qobject_cast<PresetButton *>(child<QToolButton>(u"preset"_s));
+        QTRY_VERIFY2(preset->width() >= preset->wholeWidth(),
+                     qPrintable(u"%1 of %2: %3"_s.arg(preset->width())
+                                    .arg(preset->wholeWidth())
+                                    .arg(preset->text())));
+        QVERIFY(preset->text() != presetLabel(task().presets().selectedName())); // "(changed)"
+        QVERIFY(undo()->accessibleName().contains(u"Enhance Black Printing"_s));
+        QVERIFY(undo()->toolTip().contains(u"Enhance Black Printing"_s));
+        QVERIFY(undo()->width() >= undo()->iconSize().width());
+        m_window.reset();
     }
 
     void typingIsTakenBackByItsFieldFirst()

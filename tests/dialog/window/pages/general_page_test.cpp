@@ -3,8 +3,9 @@
 #include <QSpinBox>
 #include <QTest>
 
-#include "dialog/window/pages/GeneralPage.h"
 #include "dialog/session/PpdSession.h"
+#include "dialog/window/pages/GeneralPage.h"
+#include "tests/dialog/support/FakePlugIn.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/Gestures.h"
 
@@ -77,6 +78,20 @@ private Q_SLOTS:
             PpdBuilder().option("QXOutput", "Output To", "Unknown", {{"A", "One"}, {"B", "Two"}}));
         const GeneralPage page(*session);
         QCOMPARE(page.findChild<QComboBox *>(u"QXOutput"_s)->currentIndex(), -1);
+    }
+
+    void anOptionForColorThatLeavesNoChoiceIsNotOffered()
+    {
+        FakeJobValues values;
+        const auto session =
+            sessionFor(PpdBuilder()
+                           .option("Ink", "Ink", "Gray", {{"Gray", "Gray"}})
+                           .option("Tone", "Tone", "Gray", {{"Gray", "Gray"}, {"All", "Color"}}));
+        QCOMPARE(GeneralPage(*session, &values).findChild<QComboBox *>(u"Tone"_s), nullptr);
+        values.color = u"Ink"_s;
+        QCOMPARE(GeneralPage(*session, &values).findChild<QComboBox *>(u"Ink"_s), nullptr);
+        values.color = u"Tone"_s;
+        QVERIFY(GeneralPage(*session, &values).findChild<QComboBox *>(u"Tone"_s));
     }
 
     void noMoreCopiesAreOfferedThanThePrinterMakes_data()

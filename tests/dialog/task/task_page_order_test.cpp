@@ -1,0 +1,171 @@
+#include <optional>
+
+#include <QTest>
+
+#include "dialog/job/PageChoice.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/session/OptionRequest.h"
+#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/TaskScene.h"
+
+using namespace corvana;
+using namespace corvana::test;
+using namespace Qt::StringLiterals;
+
+/// The order of pages, a booklet or each page several times, and what goes along with it.
+class TaskPageOrderTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TaskScene> m_scene;
+
+    PrintTask &open(const QString &options = {})
+    {
+        PrintRequest request = m_scene->request(smallPrinter());
+        if (!options.isEmpty())
+            request.options = parseOptions({options});
+        return m_scene->open(request);
+    }
+    std::optional<OfferedAttribute> offered(const QString &name)
+    {
+        const QList<OfferedAttribute> all = m_scene->task->attributes();
+        for (const OfferedAttribute &one : all) {
+            if (one.name == name)
+                return one;
+        }
+        return {};
+    }
+    QStringList summary(const QString &title)
+    {
+        QStringList values;
+        for (const SummaryLine &line : m_scene->task->summary()) {
+            if (line.title == title)
+                values += line.value;
+        }
+        return values;
+    }
+
+private Q_SLOTS:
+    void init() { m_scene = std::make_unique<TaskScene>(); }
+    void cleanup() { m_scene.reset(); }
+
+    void aBookletIsTurnedOverAtTheShortEdge()
+    {
+        PrintTask &task = open();
+        QVERIFY(offered(u"booklet"_s));
+        QCOMPARE(task.setAttribute(u"booklet"_s, u"right"_s), QString());
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
+        QCOMPARE(summary(u"Pages per Sheet"_s), QStringList{u"2"_s});
+        QCOMPARE(summary(u"Booklet"_s), QStringList{u"Bound at the Right"_s});
+    }
+
+    void backsThatTheMediumLacksAreSaid()
+    {
+        PrintTask &task = open(u"Media=Card"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"None"_s);
+        QVERIFY2(m_scene->face.message().contains(u"Card"_s), qPrintable(m_scene->face.message()));
+    }
+
+    // What nobody can choose is shown as it is printed; what was chosen before stays, and its way
+    // back with it.
+    void theBookletDecidesHowManyPagesShareASide()
+    {
+        PrintTask &task = open();
+        const auto shared = [this] { return *offered(u"number-up"_s); };
+        QVERIFY(shared().hasEffect);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(shared().value, u"2"_s);
+        QVERIFY(!shared().hasEffect && shared().isUsual);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QVERIFY(shared().hasEffect && shared().value.isNull());
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(shared().value, u"2"_s);
+        QVERIFY(!shared().hasEffect);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QCOMPARE(shared().value, u"4"_s);
+    }
+
+    // Not only when it is printed.
+    void whatALockExcludesIsRefusedBesideTheChoice()
+    {
+        PrintTask &task = open();
+        task.settings().setLocks(
+            {{u"number-up"_s,
+              {.kind = OptionLock::Kind::Attribute, .value = u"4"_s, .by = u"1.conf:2"_s}}});
+        const QString problem = task.setAttribute(u"booklet"_s, u"left"_s);
+        QVERIFY2(problem.contains(u"Pages per Sheet: 4"_s), qPrintable(problem));
+        QVERIFY(task.settings().attribute(u"booklet"_s).isNull());
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"None"_s);
+    }
+
+    void whatTheOrderTookAlongGoesBackWithIt()
+    {
+        PrintTask &task = open();
+        const auto duplex = [this] { return m_scene->session().markedChoice(u"Duplex"_s); };
+        task.propose(u"Duplex"_s, u"DuplexNoTumble"_s);
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"number-up-layout"_s, u"tblr"_s);
+        task.setAttribute(u"repeat"_s, u"2"_s);
+        QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(duplex(), u"DuplexTumble"_s);
+        QVERIFY(task.settings().attribute(u"number-up-layout"_s).isNull());
+        QVERIFY(task.settings().attribute(u"repeat"_s).isNull());
+        QVERIFY(!offered(u"repeat"_s)->hasEffect);
+        task.setAttribute(u"booklet"_s, u"right"_s);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QCOMPARE(duplex(), u"DuplexNoTumble"_s);
+        QCOMPARE(task.settings().attribute(u"number-up-layout"_s), u"tblr"_s);
+        QCOMPARE(task.settings().attribute(u"repeat"_s), u"2"_s);
+        QVERIFY(offered(u"repeat"_s)->hasEffect);
+        QVERIFY(problemsOfOrder(task.settings().attributes()).isEmpty());
+    }
+
+    void whatWasChosenSinceStays()
+    {
+        PrintTask &task = open();
+        const auto duplex = [this] { return m_scene->session().markedChoice(u"Duplex"_s); };
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        task.propose(u"Duplex"_s, u"None"_s);
+        task.propose(u"Duplex"_s, u"DuplexTumble"_s);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QCOMPARE(duplex(), u"DuplexTumble"_s);
+        // It was that before: nothing was taken along.
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QCOMPARE(duplex(), u"DuplexTumble"_s);
+    }
+
+    void aBookletAndItsFoldingAreOneStep()
+    {
+        PrintTask &task = open();
+        const TaskSettings before = task.settingsNow();
+        QCOMPARE(task.setAttribute(u"booklet"_s, u"left"_s), QString());
+        QTest::qWait(1);
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
+        QCOMPARE(task.undoText(), u"Undo Booklet"_s);
+        task.undo();
+        QVERIFY(task.settingsNow() == before);
+        QVERIFY(!task.canUndo());
+        // Turned off, or reset, it takes its sides along, which is one step as well.
+        task.redo();
+        task.resetSettings({u"booklet"_s});
+        QTest::qWait(1);
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexNone));
+        task.undo();
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QTest::qWait(1);
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexNone));
+        QVERIFY(task.changedSettings().isEmpty());
+        task.undo();
+        QCOMPARE(task.settings().attribute(u"booklet"_s), u"left"_s);
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
+    }
+};
+
+QTEST_MAIN(TaskPageOrderTest)
+#include "task_page_order_test.moc"
