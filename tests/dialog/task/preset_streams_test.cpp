@@ -60,7 +60,7 @@ private Q_SLOTS:
             QSKIP("no PPDs of others here");
         int printed = 0;
         int others = 0;
-        for (qsizetype i = foreign; i < m_ppds.size() && printed < kStreams; i += 3) {
+        for (qsizetype i = foreign; i < m_ppds.size() && printed < kStreams; ++i) {
             const QString ppd = m_ppds.at(i);
             if (!canBePrintedHere(ppd))
                 continue;
