@@ -242,6 +242,9 @@ void PrintTask::goTo(const TaskSettings &state)
 {
     Q_EMIT unsaid();
     restoreSettings(TaskSettings(state));
+    // With options of another time it is what this printer has of it, which is no step of its own.
+    if (m_phase == Phase::Ready && m_baseline.history.present().ppdHash != settingsNow().ppdHash)
+        m_baseline.history.replacePresent(settingsNow());
     m_baseline.touched.clear();
     Q_EMIT historyChanged();
 }

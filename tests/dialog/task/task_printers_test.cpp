@@ -190,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(m_scene->session().markedChoice(u"Ink"_s), u"Black"_s);
         QVERIFY(task().canUndo());
         task().undo();
-        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Upper"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Auto"_s);
         QVERIFY(!task().canUndo());
         task().redo();
         task().redo();

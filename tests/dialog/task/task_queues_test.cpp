@@ -267,34 +267,6 @@ private Q_SLOTS:
         QCOMPARE(jobValue(task().outcome().job, "number-up"), u"1"_s);
     }
 
-    void whatWasDoneBeforeTheServerCameIsTakenBackAsBefore()
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        m_between->setManner(FaultyServer::Manner::Refuses);
-        PrintRequest wanted = request();
-        wanted.wantedPrinter.clear();
-        open(wanted); // the printer that is a file, for want of a better one
-        const QString first = task().printer().name;
-        QVERIFY(first != u"office"_s);
-        task().setPageRanges(u"1"_s);
-        QTest::qWait(1); // the step is recorded
-        QVERIFY(task().canUndo());
-        m_between->setManner(FaultyServer::Manner::Passes);
-        task().retry();
-        QTRY_COMPARE_WITH_TIMEOUT(task().printer().name, u"office"_s, kPatience);
-        QVERIFY(m_scene->reaches(Phase::Opened));
-        task().bringUp();
-        QCOMPARE(task().settings().pageRanges(), u"1"_s);
-        QVERIFY(task().canUndo());
-        task().undo();
-        QCOMPARE(task().printer().name, first);
-        QVERIFY(m_scene->reaches(Phase::Opened));
-        task().bringUp();
-        QVERIFY(task().canUndo());
-        task().undo();
-        QCOMPARE(task().settings().pageRanges(), QString());
-    }
-
     void aRawQueueSaysWhatItCannotDoBeforeAnythingIsSent()
     {
         m_cups->addRawQueue(u"office"_s);
