@@ -124,10 +124,11 @@ QList<Refusal> PpdSession::changeTogether(const QList<OptionChoice> &choices)
         restore(before);
         return refusals;
     }
-    ordered += trayBack(ordered, before);
+    QList<OptionChoice> changes = inOrder(choices);
+    changes += trayBack(changes, before);
     recordMarks();
     const bool otherPaper = updatePageFormat();
-    for (const OptionChoice &choice : inOrder(choices)) {
+    for (const OptionChoice &choice : std::as_const(changes)) {
         if (before.marks.value(choice.keyword) != markedChoice(choice.keyword) ||
             before.customValues.value(choice.keyword) != customValue(choice.keyword))
             Q_EMIT changed(choice.keyword, markedChoice(choice.keyword), Origin::Dialog);
