@@ -14,13 +14,13 @@ choicesOfTheGeneralPageByKeyboardReachThePrinter() {
     open_dialog
     settle
     press ctrl+a 3
-    # Past collating, the pages and their button: two-sided, paper size, output, colors matched by.
-    press Tab Tab Tab Tab Down Tab Down Tab Down Tab Up
+    # Past collating, the pages and their button: color, two-sided, paper size, output, colors matched by.
+    press Tab Tab Tab Tab Down Tab Down Tab Down Tab Down Tab Up
     settle
     print_in_dialog
-    expect_code Duplex=DuplexNoTumble PageSize=Letter QXOutput=FAX \
+    expect_code QXMonoColor=Color Duplex=DuplexNoTumble PageSize=Letter QXOutput=FAX \
         AP_ColorMatchingMode=AP_ApplicationColorMatching
-    expect_lines 'Copies: 3, collated' 'Two-Sided Printing: Long-Edge Binding' 'Paper Size: US Letter' \
+    expect_lines 'Copies: 3, collated' 'Color Mode: Color' 'Two-Sided Printing: Long-Edge Binding' 'Paper Size: US Letter' \
         'Output To: Fax' 'Colors Matched By: Application'
     # Each copy after the other, with a blank back to its third page.
     expect_equal "$(grep -ac '^%%Page: ' "$output")" 12
@@ -136,7 +136,7 @@ theDialogKeepsEverythingWhenPrintingFailsAndPrintsAtTheNextTry() {
     output=$folder/missing/job.ps
     open_dialog -o QXInputSlot=Tray1
     settle
-    press ctrl+a 2 Tab Tab Tab Tab Down ctrl+Next Down ctrl+Next Down
+    press ctrl+a 2 Tab Tab Tab Tab Tab Down ctrl+Next Down ctrl+Next Down
     settle
     press alt+p
     await 'the message' message_is_logged 'cannot be written'
@@ -157,7 +157,7 @@ open_conflict() {
     local area
     open_dialog -o QXMediaType=Glossy
     settle
-    press Tab Tab Tab
+    press Tab Tab Tab Tab
     take_picture before
     press Down
     take_picture after
