@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 y el número de una señal: terminado por esa señal</translation>
+        <translation>128 más el número de una señal: terminado por esa señal</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>

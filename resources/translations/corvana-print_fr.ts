@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 et le numéro d’un signal : terminé par ce signal</translation>
+        <translation>128 plus le numéro d’un signal : terminé par ce signal</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
-        <translation>Sans fenêtre : que faire quand les réglages de l’imprimante affichent des instructions : print, hold ou refuse. Normalement, une file d’attente suspend la tâche, et vers un fichier elle est imprimée.</translation>
+        <translation>Sans fenêtre : que faire quand les réglages de l’imprimante affichent des instructions : print, hold ou refuse. Normalement, une file d’attente suspend la tâche, et, dans un fichier, elle est imprimée.</translation>
     </message>
     <message>
         <source>Without a window: end when the queue has the job, not when it is printed.</source>
