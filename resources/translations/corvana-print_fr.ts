@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
-        <translation>-m : aucun courrier n’est envoyé. Ce que la tâche est devenue est dit à la fin, et par le code de retour.</translation>
+        <translation>-m : aucun courriel n’est envoyé. Ce que la tâche est devenue est dit à la fin, et par le code de retour.</translation>
     </message>
     <message>
         <source>%1 &quot;&quot;: %2 is missing.</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Imprime un document avec les réglages de son imprimante, dans une boîte de dialogue ou sans elle.</translation>
+        <translation>Imprime un document avec les réglages de son imprimante, dans une boîte d’impression ou sans.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Is refused: no mail is sent.</source>
-        <translation>Est refusé : aucun courrier n’est envoyé.</translation>
+        <translation>Est refusé : aucun courriel n’est envoyé.</translation>
     </message>
     <message>
         <source>Name the job TEXT.</source>

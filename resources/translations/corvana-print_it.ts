@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Stampa un documento con le impostazioni della sua stampante, in una finestra di dialogo o senza.</translation>
+        <translation>Stampa un documento con le impostazioni della sua stampante, in una finestra di stampa o senza.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -4399,11 +4399,11 @@ Per la riga di comando: %2</translation>
     </message>
     <message>
         <source>Saddle Stitch</source>
-        <translation>Punto metallico a sella</translation>
+        <translation>Pinzatura a sella</translation>
     </message>
     <message>
         <source>Edge Stitch</source>
-        <translation>Cucitura sul bordo</translation>
+        <translation>Pinzatura sul bordo</translation>
     </message>
     <message>
         <source>Fold</source>

@@ -4451,7 +4451,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>プリンタの機種が異なるため、以前の設定のままです。そのプリンタでもプリセットを保存してください。</translation>
+        <translation>プリンターの機種が異なるため、以前の設定のままです。そのプリンターでもプリセットを保存してください。</translation>
     </message>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>

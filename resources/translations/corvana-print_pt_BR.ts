@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Imprime um documento com as configurações de sua impressora, em uma caixa de diálogo ou sem ela.</translation>
+        <translation>Imprime um documento com as configurações de sua impressora, em um diálogo de impressão ou sem ele.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>Start with the settings of the preset NAME; -o counts more.</source>
-        <translation>Começa com as configurações da predefinição NAME; -o tem prioridade.</translation>
+        <translation>Começa com as configurações da predefinição NAME; -o tem precedência.</translation>
     </message>
     <message>
         <source>List the presets and exit.</source>
