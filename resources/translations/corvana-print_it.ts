@@ -2722,7 +2722,7 @@
     </message>
     <message>
         <source>“%1” was changed by another program, and is left as it is.</source>
-        <translation>«%1» è stato modificato da un altro programma e resta com’è.</translation>
+        <translation>«%1» è stato modificato da un altro programma e resta com&apos;è.</translation>
     </message>
 </context>
 <context>
@@ -4449,7 +4449,7 @@ Per la riga di comando: %2</translation>
     </message>
     <message>
         <source>“%1” was changed by another program, and is left as it is from now on.</source>
-        <translation>«%1» è stato modificato da un altro programma e d’ora in poi resta com’è.</translation>
+        <translation>«%1» è stato modificato da un altro programma e d&apos;ora in poi resta com&apos;è.</translation>
     </message>
     <message>
         <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
