@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; lists what can be said.</source>
-        <translation>&quot;%1&quot; zählt auf, was gesagt werden kann.</translation>
+        <translation>&quot;%1&quot; listet auf, was angegeben werden kann.</translation>
     </message>
     <message>
         <source>%1 %2: a number from %3 to %4 was expected.</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Druckt ein Dokument mit den Einstellungen seines Druckers, in einem Dialog oder ohne ihn.</translation>
+        <translation>Druckt ein Dokument mit den Einstellungen seines Druckers, in einem Dialog oder ohne.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 und die Nummer eines Signals: durch dieses Signal beendet</translation>
+        <translation>128 plus die Nummer eines Signals: durch dieses Signal beendet</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>

@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 y el número de una señal: terminado por esa señal</translation>
+        <translation>128 más el número de una señal: terminado por esa señal</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Keep the settings of the printer, those of -o among them, as the preset NAME, and exit. A preset of that name is replaced.</source>
-        <translation>Guarda los ajustes de la impresora, incluidos los de -o, como el preajuste NAME, y termina. Un preajuste con ese nombre se sustituye.</translation>
+        <translation>Guarda los ajustes de la impresora, incluidos los de -o, como el preajuste NAME, y termina. Un preajuste con ese nombre se reemplaza.</translation>
     </message>
     <message>
         <source>Say what the administrator&apos;s policy decides, and where, for the printer that is named behind it or by -d; as root with -U for another user. Exit with status 1 when something of it is not used.</source>

@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>-m: no mail is sent. What became of the job is said at the end, and by the exit status.</source>
-        <translation>-m : aucun courrier n’est envoyé. Ce que la tâche est devenue est dit à la fin, et par le code de retour.</translation>
+        <translation>-m : aucun courriel n’est envoyé. Ce que la tâche est devenue est dit à la fin, et par le code de retour.</translation>
     </message>
     <message>
         <source>%1 &quot;&quot;: %2 is missing.</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Imprime un document avec les réglages de son imprimante, dans une boîte de dialogue ou sans elle.</translation>
+        <translation>Imprime un document avec les réglages de son imprimante, dans une boîte d’impression ou sans.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 et le numéro d’un signal : terminé par ce signal</translation>
+        <translation>128 plus le numéro d’un signal : terminé par ce signal</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Is refused: no mail is sent.</source>
-        <translation>Est refusé : aucun courrier n’est envoyé.</translation>
+        <translation>Est refusé : aucun courriel n’est envoyé.</translation>
     </message>
     <message>
         <source>Name the job TEXT.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
-        <translation>Sans fenêtre : que faire quand les réglages de l’imprimante affichent des instructions : print, hold ou refuse. Normalement, une file d’attente suspend la tâche, et vers un fichier elle est imprimée.</translation>
+        <translation>Sans fenêtre : que faire quand les réglages de l’imprimante affichent des instructions : print, hold ou refuse. Normalement, une file d’attente suspend la tâche, et, dans un fichier, elle est imprimée.</translation>
     </message>
     <message>
         <source>Without a window: end when the queue has the job, not when it is printed.</source>

@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Stampa un documento con le impostazioni della sua stampante, in una finestra di dialogo o senza.</translation>
+        <translation>Stampa un documento con le impostazioni della sua stampante, in una finestra di stampa o senza.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 e il numero di un segnale: terminato da quel segnale</translation>
+        <translation>128 più il numero di un segnale: terminato da quel segnale</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
@@ -2722,7 +2722,7 @@
     </message>
     <message>
         <source>“%1” was changed by another program, and is left as it is.</source>
-        <translation>«%1» è stato modificato da un altro programma e resta com’è.</translation>
+        <translation>«%1» è stato modificato da un altro programma e resta com&apos;è.</translation>
     </message>
 </context>
 <context>
@@ -4399,11 +4399,11 @@ Per la riga di comando: %2</translation>
     </message>
     <message>
         <source>Saddle Stitch</source>
-        <translation>Punto metallico a sella</translation>
+        <translation>Pinzatura a sella</translation>
     </message>
     <message>
         <source>Edge Stitch</source>
-        <translation>Cucitura sul bordo</translation>
+        <translation>Pinzatura sul bordo</translation>
     </message>
     <message>
         <source>Fold</source>
@@ -4449,7 +4449,7 @@ Per la riga di comando: %2</translation>
     </message>
     <message>
         <source>“%1” was changed by another program, and is left as it is from now on.</source>
-        <translation>«%1» è stato modificato da un altro programma e d’ora in poi resta com’è.</translation>
+        <translation>«%1» è stato modificato da un altro programma e d&apos;ora in poi resta com&apos;è.</translation>
     </message>
     <message>
         <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>

@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>%1 is for runs without a window (--no-dialog).</source>
-        <translation>%1 はウィンドウなしの実行（--no-dialog）で使います。</translation>
+        <translation>%1 はウィンドウなしの実行 (--no-dialog) で使います。</translation>
     </message>
     <message>
         <source>standard input cannot be the document and the password.</source>
@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>standard input (-) can be read once only.</source>
-        <translation>標準入力（-）は 1 回しか読み取れません。</translation>
+        <translation>標準入力 (-) は 1 回しか読み取れません。</translation>
     </message>
     <message>
         <source>Usage: %1</source>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Print these pages (1-4,7,9-), as -o page-ranges= does.</source>
-        <translation>-o page-ranges= と同じく、指定したページ（1-4,7,9-）を印刷します。</translation>
+        <translation>-o page-ranges= と同じく、指定したページ (1-4,7,9-) を印刷します。</translation>
     </message>
     <message>
         <source>Give the job this priority (1 to 100), as -o job-priority= does.</source>
@@ -4451,7 +4451,7 @@ For the command line: %2</source>
     </message>
     <message>
         <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>プリンタの機種が異なるため、以前の設定のままです。そのプリンタでもプリセットを保存してください。</translation>
+        <translation>プリンターの機種が異なるため、以前の設定のままです。そのプリンターでもプリセットを保存してください。</translation>
     </message>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>

@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Prints a document with the settings of its printer, in a dialog or without one.</source>
-        <translation>Imprime um documento com as configurações de sua impressora, em uma caixa de diálogo ou sem ela.</translation>
+        <translation>Imprime um documento com as configurações de sua impressora, em um diálogo de impressão ou sem ele.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>128 and a signal&apos;s number: ended by that signal</source>
-        <translation>128 e o número de um sinal: encerrado por esse sinal</translation>
+        <translation>128 mais o número de um sinal: encerrado por esse sinal</translation>
     </message>
     <message>
         <source>Print to the printer NAME: a queue, an instance NAME/INSTANCE, or an IPP printer ipp://HOST/PATH.</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>Start with the settings of the preset NAME; -o counts more.</source>
-        <translation>Começa com as configurações da predefinição NAME; -o tem prioridade.</translation>
+        <translation>Começa com as configurações da predefinição NAME; -o tem precedência.</translation>
     </message>
     <message>
         <source>List the presets and exit.</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Without a window: what to do when the printer&apos;s settings show instructions: print, hold or refuse. Usually a queue holds the job, and a file is printed.</source>
-        <translation>Sem janela: o que fazer quando as configurações da impressora mostram instruções: print, hold ou refuse. Normalmente, uma fila retém o trabalho, e em um arquivo se imprime.</translation>
+        <translation>Sem janela: o que fazer quando as configurações da impressora mostram instruções: print, hold ou refuse. Normalmente, uma fila retém o trabalho, e, em um arquivo, ele é impresso.</translation>
     </message>
     <message>
         <source>Without a window: end when the queue has the job, not when it is printed.</source>
@@ -4399,7 +4399,7 @@ Na linha de comando: %2</translation>
     </message>
     <message>
         <source>Saddle Stitch</source>
-        <translation>Grampo no dobro</translation>
+        <translation>Grampo na dobra</translation>
     </message>
     <message>
         <source>Edge Stitch</source>
