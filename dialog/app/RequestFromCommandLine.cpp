@@ -108,6 +108,31 @@ bool isUnattended(const CommandLine &line)
            (line.documents.isEmpty() && (line.summary || !line.instance.isEmpty()));
 }
 
+namespace {
+
+bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *error)
+{
+    const auto kinds = asksForRaw(request->options) ? DocumentKinds::Any : DocumentKinds::Known;
+    // A window does not wait for whoever writes into a pipe. Standard input is read before there is
+    // one, and so is what stands before it: documents keep their order.
+    const bool mayBeLater = !isUnattended(line) && kinds == DocumentKinds::Known &&
+                            !line.documents.contains(u"-"_s);
+    for (const QString &name : line.documents) {
+        if (mayBeLater && (!request->toRead.isEmpty() || isReadToItsEnd(name))) {
+            request->toRead += name;
+            continue;
+        }
+        const Document document =
+            name == "-"_L1 ? readStandardInput(error, kinds) : inspectDocument(name, error, kinds);
+        if (document.path.isEmpty())
+            return false;
+        request->documents += document;
+    }
+    return true;
+}
+
+} // namespace
+
 std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
 {
     PrintRequest request;
@@ -122,20 +147,8 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
         }
     }
     request.options = parseOptions(line.options) + line.switches;
-    const auto kinds = asksForRaw(request.options) ? DocumentKinds::Any : DocumentKinds::Known;
-    for (const QString &name : line.documents) {
-        // A window does not wait for whoever writes into a pipe, or for a disk that is slow.
-        const bool isForLater = !request.toRead.isEmpty() || isReadToItsEnd(name);
-        if (!isUnattended(line) && kinds == DocumentKinds::Known && isForLater && name != "-"_L1) {
-            request.toRead += name;
-            continue;
-        }
-        const Document document =
-            name == "-"_L1 ? readStandardInput(error, kinds) : inspectDocument(name, error, kinds);
-        if (document.path.isEmpty())
-            return std::nullopt;
-        request.documents += document;
-    }
+    if (!takeDocuments(line, &request, error))
+        return std::nullopt;
     request.printers = offeredPrinters(line);
     request.wantedPrinter = line.printer;
     request.serverWasNamed = !line.server.isEmpty();

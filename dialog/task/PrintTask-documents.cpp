@@ -52,8 +52,7 @@ void PrintTask::addDocuments(const QStringList &paths)
     }
     if (documents.size() > m_request.documents.size())
         chooseDocuments(documents);
-    if (!problems.isEmpty())
-        say(TaskMessage::Kind::Problem, problems.join(u'\n'));
+    m_looks.unread += problems;
     readDocuments();
 }
 
@@ -65,18 +64,28 @@ void PrintTask::readDocuments()
         return QTimer::singleShot(kPatience, this, &PrintTask::readDocuments);
     if (!m_looks.read.isEmpty())
         chooseDocuments(m_request.documents + std::exchange(m_looks.read, {}));
-    if (m_looks.reading || m_looks.toRead.isEmpty())
+    if (m_looks.reading) {
+        if (!m_looks.unread.isEmpty())
+            Q_EMIT said(m_looks.sayingWhatIsRead());
         return;
+    }
+    if (m_looks.toRead.isEmpty()) {
+        if (!m_looks.unread.isEmpty())
+            say(TaskMessage::Kind::Problem, std::exchange(m_looks.unread, {}).join(u'\n'));
+        return;
+    }
     const QString path = m_looks.toRead.takeFirst();
     const auto cancel = [this] {
-        m_looks.toRead.clear();
         m_looks.reading.reset();
         Q_EMIT unsaid();
+        // What stands behind it was asked for as well. Its message takes the place of this one.
+        QMetaObject::invokeMethod(this, &PrintTask::readDocuments, Qt::QueuedConnection);
     };
-    Q_EMIT said({.text = tr("%1 is being read.").arg(shownName(path)),
-                 .offer = tr("Cancel"),
-                 .take = cancel,
-                 .staysWithoutPrinter = true});
+    m_looks.beingRead = {.text = tr("%1 is being read.").arg(shownName(path)),
+                         .offer = tr("Cancel"),
+                         .take = cancel,
+                         .staysWithoutPrinter = true};
+    Q_EMIT said(m_looks.sayingWhatIsRead());
     m_looks.reading =
         std::make_unique<SlowWork>([this, path](const std::stop_token &stop) -> SlowWork::Then {
             QString problem;
@@ -84,7 +93,7 @@ void PrintTask::readDocuments()
             return [this, document, problem] {
                 m_looks.reading.release()->deleteLater(); // which has called this
                 if (document.path.isEmpty())
-                    say(TaskMessage::Kind::Problem, problem);
+                    m_looks.unread += problem;
                 else
                     m_looks.read += document;
                 readDocuments();

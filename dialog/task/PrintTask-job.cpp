@@ -66,6 +66,11 @@ void PrintTask::print()
         Q_EMIT refused({{m_opened->panelProblem}});
         return;
     }
+    // Of a job without it nobody would notice what is missing.
+    if (m_looks.reading) {
+        Q_EMIT said(m_looks.sayingWhatIsRead());
+        return;
+    }
     if (m_request.documents.isEmpty() && !m_request.isForSettings()) {
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;

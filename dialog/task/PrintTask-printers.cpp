@@ -51,6 +51,8 @@ void PrintTask::choosePrinter(const Printer &printer)
     if (m_baseline.coming && idOf(m_baseline.coming->printer) != idOf(printer))
         m_baseline.coming.reset();
     Q_EMIT unsaid(); // and with it an offer that was meant for the other printer
+    if (m_looks.reading)
+        Q_EMIT said(m_looks.sayingWhatIsRead()); // of whichever printer
     m_chosen.printer = printer;
     m_chosen.deliberately = true;
     m_chosen.next.reset();

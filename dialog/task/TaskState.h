@@ -16,6 +16,7 @@
 #include "dialog/task/JobColors.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/SettingsHistory.h"
+#include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
 #include "dialog/text/TextCheck.h"
 
@@ -89,6 +90,8 @@ struct TaskState
         QStringList toRead;   // documents that somebody is writing yet
         QList<Document> read; // of them, to be printed with the others
         std::unique_ptr<SlowWork> reading;
+        TaskMessage beingRead; // what is said of it
+        QStringList unread;    // what could not be, and why
         QTimer textPatience;  // until a job is made without the finding of the texts
         QStringList declined; // documents whose password somebody does not want to give
         QStringList told;     // what was said of them
@@ -96,6 +99,16 @@ struct TaskState
         bool areReady = false;   // of the job that is made; else they are waited for
         bool printsThen = false; // Print was chosen meanwhile
         bool countsThen = false;
+
+        // With what could not be read: there is one message at a time.
+        TaskMessage sayingWhatIsRead() const
+        {
+            TaskMessage message = beingRead;
+            if (!unread.isEmpty())
+                message.kind = TaskMessage::Kind::Problem;
+            message.text = (unread + QStringList{message.text}).join(u'\n');
+            return message;
+        }
     };
     struct Baseline
     {

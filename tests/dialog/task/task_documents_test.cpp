@@ -81,10 +81,19 @@ private Q_SLOTS:
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
         QElapsedTimer time;
         time.start();
-        task().addDocuments({file(u"letter.txt"_s), pipe, file(u"more.txt"_s)});
+        task().addDocuments(
+            {file(u"letter.txt"_s), u"/nonexistent.pdf"_s, pipe, file(u"more.txt"_s)});
         QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
         QCOMPARE(titles(), QStringList{u"letter.txt"_s});
         QVERIFY2(m_said.last().contains(u"pipe is being read"_s), qPrintable(m_said.last()));
+        QVERIFY2(m_said.last().contains(u"/nonexistent.pdf"_s), qPrintable(m_said.last()));
+        // Nobody prints the others for all of them.
+        m_said.clear();
+        task().print();
+        QCOMPARE(task().phase(), PrintTask::Phase::Ready);
+        QVERIFY(m_said.value(0).contains(u"pipe is being read"_s));
+        task().addDocuments({u"/missing.pdf"_s});
+        QVERIFY2(m_said.last().contains(u"/missing.pdf"_s), qPrintable(m_said.last()));
         const int writer = ::open(QFile::encodeName(pipe).constData(), O_WRONLY);
         QVERIFY(writer >= 0);
         QCOMPARE(::write(writer, "Some ", 5), 5);
@@ -93,6 +102,8 @@ private Q_SLOTS:
         QCOMPARE(::write(writer, "words.\n", 7), 7);
         ::close(writer);
         QTRY_COMPARE(titles(), (QStringList{u"letter.txt"_s, u"pipe"_s, u"more.txt"_s}));
+        QVERIFY2(m_said.last().contains(u"/missing.pdf"_s), qPrintable(m_said.last()));
+        QVERIFY2(!m_said.last().contains(u"is being read"_s), qPrintable(m_said.last()));
         QVERIFY(task().canUndo());
         QFile::remove(pipe);
     }
