@@ -1,10 +1,32 @@
 #include "dialog/job/SlowWork.h"
 
+#include <atomic>
+#include <chrono>
 #include <mutex>
 #include <thread>
 #include <utility>
 
+#include <QCoreApplication>
+
 namespace corvana {
+
+namespace {
+
+// The threads that have not ended yet. What they hold goes with them: copies of documents.
+std::atomic<int> running = 0;
+
+// At the end of the program. Whoever was asked to stop does so soon; what nothing can interrupt is
+// left.
+void waitForThoseWhoStop()
+{
+    using namespace std::chrono_literals;
+    constexpr auto kPatience = 500ms;
+    constexpr auto kLook = 5ms;
+    for (auto waited = 0ms; running > 0 && waited < kPatience; waited += kLook)
+        std::this_thread::sleep_for(kLook);
+}
+
+} // namespace
 
 // Of the object and its thread, of which either may end first. Under the mutex, but for `stop`.
 struct SlowWork::Shared
@@ -17,14 +39,21 @@ struct SlowWork::Shared
 
 SlowWork::SlowWork(Work work) : m_shared(std::make_shared<Shared>())
 {
+    [[maybe_unused]] static const bool isAwaited = (qAddPostRoutine(waitForThoseWhoStop), true);
     m_shared->owner = this;
-    std::thread([shared = m_shared, work = std::move(work)] {
-        Then then = work(shared->stop.get_token());
-        const std::scoped_lock lock(shared->mutex);
-        shared->then = std::move(then);
-        // Under the mutex, so that the owner does not go meanwhile.
-        if (shared->owner)
-            QMetaObject::invokeMethod(shared->owner, &SlowWork::end, Qt::QueuedConnection);
+    ++running;
+    std::thread([shared = m_shared, work = std::move(work)]() mutable {
+        {
+            Then then = work(shared->stop.get_token());
+            const std::scoped_lock lock(shared->mutex);
+            shared->then = std::move(then);
+            // Under the mutex, so that the owner does not go meanwhile.
+            if (shared->owner)
+                QMetaObject::invokeMethod(shared->owner, &SlowWork::end, Qt::QueuedConnection);
+        }
+        work = {};
+        shared.reset(); // with what nobody wants any more
+        --running;
     }).detach();
 }
 
