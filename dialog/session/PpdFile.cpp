@@ -59,7 +59,8 @@ void collateByDefault(ppd_file_t *ppd)
         return leaveCollatingToFilters(ppd, collate);
     if (!on || !off || !canBeSent(ppd, kCollateOption, u"True"_s))
         return;
-    if (conflictsWith(ppd, collate, off) < conflictsWith(ppd, collate, on))
+    const int without = conflictsWith(ppd, collate, off);
+    if (conflictsWith(ppd, collate, on) > without) // the last one, so that it stays there
         return leaveCollatingToFilters(ppd, collate);
     qstrncpy(collate->defchoice, on->choice, sizeof collate->defchoice);
 }

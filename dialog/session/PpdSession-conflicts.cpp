@@ -65,6 +65,17 @@ bool isSoonResolved(ppd_file_t *ppd, const OptionChoice &proposed)
     return steps <= kMost;
 }
 
+// Whether libcups has said of an option that it takes part in a conflict. A constraint may name the
+// paper as "PageRegion" alone: the paper is compared, and that option is the one of which it says
+// so.
+bool isInConflict(ppd_file_t *ppd, const QString &keyword)
+{
+    const ppd_option_t *option = ppdOption(ppd, keyword);
+    const ppd_option_t *region =
+        keyword == kPageSizeOption ? ppdOption(ppd, kPageRegionOption) : nullptr;
+    return !option || option->conflicted || (region && region->conflicted);
+}
+
 } // namespace
 
 QList<OptionChoice> PpdSession::inOrder(QList<OptionChoice> choices)
@@ -102,8 +113,7 @@ QList<Refusal> PpdSession::markTogether(const QList<OptionChoice> &choices)
     const bool areAllMarked = refusals.isEmpty();
     const bool areFree = ppdConflicts(m_ppd.get()) == 0 && areAllMarked;
     for (const OptionChoice &choice : ordered) {
-        const ppd_option_t *option = ppdOption(m_ppd.get(), choice.keyword);
-        if (areFree || (areAllMarked && option && !option->conflicted))
+        if (areFree || (areAllMarked && !isInConflict(m_ppd.get(), choice.keyword)))
             continue;
         if (const QList<OptionChoice> conflicting = conflictsOf(choice); !conflicting.isEmpty())
             refusals += Refusal{choice, conflicting};

@@ -113,6 +113,21 @@ private Q_SLOTS:
         QCOMPARE(refusals.at(0).conflicting, (QList<OptionChoice>{{u"Tray"_s, u"Lower"_s}}));
     }
 
+    // The paper is meant, whichever of its two options a PPD names.
+    void aConstraintOfThePageRegionAloneCounts()
+    {
+        const auto session = sessionFor(
+            smallPrinter()
+                .line("*OpenUI *PageRegion/Page Region: PickOne\n*DefaultPageRegion: A4\n"
+                      "*PageRegion A4/A4: \"\"\n*PageRegion Postcard/Postcard: \"\"\n"
+                      "*CloseUI: *PageRegion")
+                .constraint("PageRegion", "Postcard", "Boost", "ON"));
+        QVERIFY(session->change(u"Boost"_s, u"ON"_s, Origin::Dialog).accepted());
+        QVERIFY(!session->changeTogether({{u"PageSize"_s, u"Postcard"_s}}).isEmpty());
+        QVERIFY(session->changeTogether({{u"PageSize"_s, u"Postcard"_s}, {u"Boost"_s, u"OFF"_s}})
+                    .isEmpty());
+    }
+
     void anEmptySetChangesNothing()
     {
         const SessionSnapshot before = m_session->snapshot();
