@@ -94,9 +94,10 @@ std::function<QString()> ResultFile::flushing() const
 {
     return [path = QFile::encodeName(m_path), given = m_given]() -> QString {
         const int file = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
-        // Not every file system can be asked.
-        const bool isWritten = file >= 0 && (::fsync(file) == 0 || errno == EINVAL ||
-                                             errno == ENOSYS || errno == EROFS);
+        // Not every file system can be asked. One that can only be read by now has failed while
+        // it was written to.
+        const bool isWritten =
+            file >= 0 && (::fsync(file) == 0 || errno == EINVAL || errno == ENOSYS);
         const int why = errno;
         if (file >= 0 && ::close(file) != 0 && isWritten && errno != EINTR)
             return Texts::tr("%1 cannot be written: %2").arg(given, qt_error_string(errno));

@@ -142,6 +142,8 @@ private Q_SLOTS:
         QCOMPARE(s_flushed, QFileInfo(result->path()).canonicalFilePath());
         s_flushError = EDQUOT;
         QCOMPARE(flush(), path(u"out"_s) + u" cannot be written: "_s + qt_error_string(EDQUOT));
+        s_flushError = EROFS; // of a disk that has failed and can only be read from now on
+        QCOMPARE(flush(), path(u"out"_s) + u" cannot be written: "_s + qt_error_string(EROFS));
         s_flushError = EINVAL; // of a file system that cannot be asked
         QCOMPARE(flush(), QString());
         s_flushError = 0;
