@@ -98,6 +98,10 @@ private:
     // What says the same by another name is locked along with it.
     void lockAttribute(const JobOption &attribute, const PolicyEntry &entry)
     {
+        // It was taken because it leaves what is locked by another name as it is.
+        if (const auto lock = m_locks.constFind(attribute.name);
+            lock != m_locks.cend() && lock->value.isNull())
+            return;
         add(attribute.name, {Kind::Attribute, {}, attribute.value, attribute}, entry);
         const QStringList others = otherNamesOf(attribute.name);
         for (const QString &other : others)

@@ -239,6 +239,15 @@ private Q_SLOTS:
                  qPrintable(voids.constFirst().text()));
     }
 
+    void aLineThatAsksForNothingBesideAnotherTakesItNotAway()
+    {
+        usePrinter(true);
+        m_request.policy = policyFrom("[all]\nlock.print-scaling=auto\nlock.scaling=50\n");
+        start();
+        QVERIFY(job().contains(JobOption{u"scaling"_s, u"50"_s}));
+        QCOMPARE(broken(), QStringList());
+    }
+
     // libcups takes the mark of the hand feed away with each tray.
     void aTrayCanBeChosenWhereTheHandFeedIsLockedOff()
     {
