@@ -37,8 +37,9 @@ constexpr QLatin1StringView kSettings{"settings"};
 constexpr QLatin1StringView kModel{"model"};
 constexpr QLatin1StringView kForAll{"forAll"};
 constexpr QLatin1StringView kWritten{"written"};
-// The last one, and the one before, which still stands there where the last did not get there.
-constexpr qsizetype kMostWritten = 2;
+// The last one, the one before, which still stands there where the last did not get there, and one
+// of which it is not known whether it did.
+constexpr qsizetype kMostWritten = 3;
 
 QJsonObject instancesIn(const QByteArray &content)
 {
@@ -205,11 +206,22 @@ QString OwnInstances::note(const QString &name, const OwnInstance &instance,
             object[kModel] = *instance.model;
         object[kForAll] = instance.isForAll;
         QJsonArray written = object.value(kWritten).toArray();
-        const QJsonValue line(asLine(options));
-        if (written.isEmpty() || written.first() != line)
-            written.prepend(line);
+        written.prepend(asLine(options));
         while (written.size() > kMostWritten)
             written.removeLast();
+        object[kWritten] = written;
+        instances->insert(name, object);
+    });
+}
+
+QString OwnInstances::noteFailure(const QString &name) const
+{
+    return change(m_path, [&](QJsonObject *instances) {
+        QJsonObject object = instances->value(name).toObject();
+        QJsonArray written = object.value(kWritten).toArray();
+        if (written.size() < 2)
+            return;
+        written.insert(1, written.takeAt(0));
         object[kWritten] = written;
         instances->insert(name, object);
     });

@@ -57,6 +57,9 @@ public:
     /// written before is not looked at.
     QString note(const QString &name, const OwnInstance &instance,
                  const QList<JobOption> &options) const;
+    /// What was noted last has not got into the file, as far as is known: what was noted before it
+    /// is forgotten after it.
+    QString noteFailure(const QString &name) const;
     /// Settings have another name now.
     QString rename(const QStringList &names, const QString &settings) const;
     QString forget(const QStringList &names) const;

@@ -360,7 +360,12 @@ QString writeInstance(const InstanceDraft &draft, const OwnInstance &of)
     const OwnInstances own;
     if (const QString problem = own.note(draft.name, of, draft.options); !problem.isEmpty())
         return problem;
-    return UserQueuesFile().setInstance(draft.name, draft.options, mayReplace(draft.name));
+    const QString problem =
+        UserQueuesFile().setInstance(draft.name, draft.options, mayReplace(draft.name));
+    // What stands there stays known as ours, however often this fails.
+    if (!problem.isEmpty())
+        own.noteFailure(draft.name);
+    return problem;
 }
 
 QStringList removeInstances(const QStringList &instances)

@@ -1,5 +1,7 @@
 #include "dialog/task/PresetInstances.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 
 #include "dialog/presets/PresetContent.h"
@@ -108,13 +110,20 @@ void changeInstances(const InstanceChanges &changes, InstancesOutcome *outcome)
             outcome->add(draft.name, problem);
     }
     outcome->problems += removeInstances(changes.removed);
-    for (const QString &instance : changes.changedByOthers)
+    // Once more: when it was looked at before, another window or lpoptions may have been writing.
+    QStringList changedByOthers = changes.changedByOthers;
+    if (!changedByOthers.isEmpty()) {
+        const KnownInstances now = KnownInstances::read();
+        changedByOthers.removeIf(
+            [&](const QString &instance) { return !now.changedByOthers.contains(instance); });
+    }
+    for (const QString &instance : std::as_const(changedByOthers))
         outcome->add({}, Texts::tr("“%1” was changed by another program, and is left as it is from "
                                    "now on.")
                              .arg(instance));
-    if (changes.changedByOthers.isEmpty())
+    if (changedByOthers.isEmpty())
         return;
-    if (const QString problem = OwnInstances().forget(changes.changedByOthers); !problem.isEmpty())
+    if (const QString problem = OwnInstances().forget(changedByOthers); !problem.isEmpty())
         outcome->problems += problem;
 }
 

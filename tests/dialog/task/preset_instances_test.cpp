@@ -361,6 +361,12 @@ private Q_SLOTS:
         QCOMPARE(userOptions(), before);
         QCOMPARE(presets().problemsElsewhere().size(), 1);
         QVERIFY2(said().contains(u"“office/reports” in other programs:"_s), qPrintable(said()));
+        // However often that is tried.
+        for (const auto &medium : {u"Card"_s, u"Plain"_s, u"Film"_s}) {
+            propose(u"Media"_s, medium);
+            save(u"Reports"_s);
+        }
+        QVERIFY2(!said().contains(u"another program, and is left"_s), qPrintable(said()));
         QVERIFY(QDir(m_home->filePath(u".cups/lpoptions.lock"_s)).removeRecursively());
         save(u"Reports"_s);
         QVERIFY2(lineOf("office/reports").contains(" Media=Film "), userOptions().constData());
