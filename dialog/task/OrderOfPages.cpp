@@ -68,11 +68,15 @@ QList<OptionChoice> giveBack(JobSettings &settings, const OpenedPrinter &printer
     const QList<TakenAlong> taken = settings.takeBackTakenAlong();
     for (const TakenAlong &one : taken | std::views::reverse) {
         const bool isChoice = ppdOption(printer.session->ppd(), one.name);
+        // A step back may lead to what was taken along on other options than the printer has now.
+        const JobAttribute *attribute = jobAttribute(one.name);
+        if (!isChoice && !attribute)
+            continue;
         const QString now =
             isChoice ? printer.session->markedChoice(one.name) : settings.attribute(one.name);
         // What is usual may be there without being said.
         const bool isStill = now == one.now || (!isChoice && now.isNull() &&
-                                                one.now == jobAttribute(one.name)->usual);
+                                                one.now == attribute->usual);
         if (isStill && isChoice && !one.former.isNull())
             choices += OptionChoice{one.name, one.former};
         else if (isStill && !isChoice)

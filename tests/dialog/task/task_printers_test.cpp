@@ -198,6 +198,23 @@ private Q_SLOTS:
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
     }
 
+    // What it took along is an option that the printer has not any more.
+    void aBookletIsTakenBackWhereThePrinterNoLongerTurnsSheetsOver()
+    {
+        m_scene->open(m_scene->request(smallPrinter()));
+        task().bringUp();
+        QCOMPARE(task().setAttribute(u"booklet"_s, u"left"_s), QString());
+        QTest::qWait(1); // the step is recorded
+        QCOMPARE(task().setAttribute(u"mirror"_s, u"true"_s), QString());
+        QTest::qWait(1);
+        becomes(plainPrinter().text());
+        task().bringUp();
+        QVERIFY(!ppdOption(m_scene->session().ppd(), u"Duplex"_s));
+        task().undo();
+        QCOMPARE(task().settings().attribute(u"booklet"_s), u"left"_s);
+        QCOMPARE(task().setAttribute(u"booklet"_s, u"no"_s), QString());
+    }
+
     // What an administrator has set is not what the user has chosen, however often that changes.
     void aDefaultThatChangesTwiceIsTheLastOne()
     {
