@@ -97,6 +97,7 @@ QList<Refusal> PpdSession::refusalsOf(const QList<OptionChoice> &choices)
 QList<Refusal> PpdSession::markTogether(const QList<OptionChoice> &choices)
 {
     const QList<OptionChoice> ordered = inOrder(choices);
+    const int brokenBefore = ppdConflicts(m_ppd.get());
     QList<Refusal> refusals;
     for (const OptionChoice &choice : ordered) {
         if (const OptionChoice locked = lockInTheWay(choice); !locked.keyword.isNull())
@@ -111,11 +112,23 @@ QList<Refusal> PpdSession::markTogether(const QList<OptionChoice> &choices)
         return refusals;
     // Once for all, which says whom it concerns: asking for each takes long where many are asked.
     const bool areAllMarked = refusals.isEmpty();
-    const bool areFree = ppdConflicts(m_ppd.get()) == 0 && areAllMarked;
+    const int broken = ppdConflicts(m_ppd.get());
+    const bool areFree = broken == 0 && areAllMarked;
     for (const OptionChoice &choice : ordered) {
         if (areFree || (areAllMarked && !isInConflict(m_ppd.get(), choice.keyword)))
             continue;
         if (const QList<OptionChoice> conflicting = conflictsOf(choice); !conflicting.isEmpty())
+            refusals += Refusal{choice, conflicting};
+    }
+    if (!refusals.isEmpty() || broken <= brokenBefore)
+        return refusals;
+    // Of three that exclude each other none is to blame alone: the other two collide without it.
+    for (const OptionChoice &choice : ordered) {
+        QList<OptionChoice> conflicting =
+            allConflicts(m_ppd.get(), choice.keyword, nameInConstraints(choice.choice).constData());
+        conflicting.removeIf(
+            [&](const OptionChoice &other) { return other.keyword == choice.keyword; });
+        if (!conflicting.isEmpty() && isInConflict(m_ppd.get(), choice.keyword))
             refusals += Refusal{choice, conflicting};
     }
     return refusals;

@@ -92,9 +92,9 @@ struct TaskState
         std::unique_ptr<SlowWork> reading;
         TaskMessage beingRead; // what is said of it
         QStringList unread;    // what could not be, and why
-        QTimer textPatience;  // until a job is made without the finding of the texts
-        QStringList declined; // documents whose password somebody does not want to give
-        QStringList told;     // what was said of them
+        QTimer textPatience;   // until a job is made without the finding of the texts
+        QStringList declined;  // documents whose password somebody does not want to give
+        QStringList told;      // what was said of them
         bool isAsking = false;
         bool areReady = false;   // of the job that is made; else they are waited for
         bool printsThen = false; // Print was chosen meanwhile

@@ -62,16 +62,38 @@ private:
         return !why.isEmpty();
     }
 
-    // The last of those that are refused. False where there is none, or none that is known.
+    // False where nothing is refused, or nothing that is known.
     bool takeOne()
     {
-        const QList<Refusal> refusals = m_printer.session->refusalsOf(read(m_left).choices);
-        for (auto option = m_left.crbegin(); !refusals.isEmpty() && option != m_left.crend();
-             ++option) {
+        const QList<OptionChoice> wishes = read(m_left).choices;
+        const QList<Refusal> refusals = m_printer.session->refusalsOf(wishes);
+        // What collides with something beside the list is refused whatever else goes out.
+        const auto isByItself = [&](const Refusal &refusal) {
+            return refusal.conflicting.isEmpty() ||
+                   std::any_of(refusal.conflicting.cbegin(), refusal.conflicting.cend(),
+                               [&](const OptionChoice &other) { return !has(wishes, other); });
+        };
+        QList<Refusal> alone;
+        QList<Refusal> all;
+        for (const Refusal &refusal : refusals) {
+            if (isByItself(refusal))
+                alone += refusal;
+            all += refusal;
+            // Where one excludes several it is blamed alone, and counts all the same when it is
+            // first.
+            for (const OptionChoice &other : refusal.conflicting)
+                all += Refusal{other, {refusal.proposed}};
+        }
+        return takeLastOf(alone) || takeLastOf(all);
+    }
+
+    bool takeLastOf(const QList<Refusal> &refusals)
+    {
+        for (auto option = m_left.crbegin(); option != m_left.crend(); ++option) {
             const QList<OptionChoice> choices = read({*option}).choices;
             const auto refusal =
                 std::find_if(refusals.cbegin(), refusals.cend(),
-                             [&](const Refusal &one) { return choices.contains(one.proposed); });
+                             [&](const Refusal &one) { return has(choices, one.proposed); });
             if (refusal == refusals.cend())
                 continue;
             problems += conflictMessage(*refusal, *m_printer.session);
@@ -79,6 +101,13 @@ private:
             return true;
         }
         return false;
+    }
+
+    // libcups calls each custom value of an option by the same name.
+    static bool has(const QList<OptionChoice> &choices, const OptionChoice &wanted)
+    {
+        return std::any_of(choices.cbegin(), choices.cend(),
+                           [&](const OptionChoice &one) { return one.keyword == wanted.keyword; });
     }
 
     OpenedPrinter &m_printer;

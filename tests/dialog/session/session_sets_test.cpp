@@ -128,6 +128,19 @@ private Q_SLOTS:
                     .isEmpty());
     }
 
+    // Without any one of them the other two collide still.
+    void threeThatExcludeEachOtherAreRefused()
+    {
+        const auto session = sessionFor(smallPrinter()
+                                            .constraint("Media", "Film", "Boost", "ON")
+                                            .constraint("Tray", "Lower", "Boost", "ON"));
+        const QList<Refusal> refusals = session->changeTogether(
+            {{u"Media"_s, u"Film"_s}, {u"Tray"_s, u"Lower"_s}, {u"Boost"_s, u"ON"_s}});
+        QCOMPARE(refusals.size(), 3);
+        QCOMPARE(refusals.at(0).conflicting.size(), 2);
+        QCOMPARE(ppdConflicts(session->ppd()), 0);
+    }
+
     void anEmptySetChangesNothing()
     {
         const SessionSnapshot before = m_session->snapshot();

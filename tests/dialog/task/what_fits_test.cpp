@@ -38,6 +38,16 @@ private:
         QVERIFY2(m_printer->panelProblem.isEmpty(), qPrintable(m_printer->panelProblem));
     }
 
+    void openSmall(const PpdBuilder &ppd)
+    {
+        const QTemporaryDir folder;
+        FetchedPrinter fetched;
+        fetched.ppd = ppdOfFile(writeFile(folder.filePath(u"a.ppd"_s), ppd.text()));
+        QString error;
+        m_printer = openPrinter(fetched, {}, m_presenter, &error, [](OpenedPrinter &) {});
+        QVERIFY2(m_printer, qPrintable(error));
+    }
+
 private Q_SLOTS:
     void cleanup() { m_printer.reset(); }
 
@@ -71,12 +81,7 @@ private Q_SLOTS:
     void ofTwoThatExcludeEachOtherTheFirstCounts()
     {
         QFETCH(bool, isMediumFirst);
-        QTemporaryDir folder;
-        FetchedPrinter fetched;
-        fetched.ppd = ppdOfFile(writeFile(folder.filePath(u"a.ppd"_s), smallPrinter().text()));
-        QString error;
-        m_printer = openPrinter(fetched, {}, m_presenter, &error, [](OpenedPrinter &) {});
-        QVERIFY2(m_printer, qPrintable(error));
+        openSmall(smallPrinter());
         const JobOption medium{u"Media"_s, u"Film"_s};
         const JobOption tray{u"Tray"_s, u"Lower"_s};
         const OptionOutcome outcome = applyWhatFits(
@@ -86,6 +91,32 @@ private Q_SLOTS:
         QCOMPARE(marked(u"Tray"_s), isMediumFirst ? u"Upper"_s : u"Lower"_s);
         QCOMPARE(marked(u"Boost"_s), u"ON"_s);
         QCOMPARE(outcome.problems.size(), 1);
+    }
+
+    // The medium excludes both, and is the only one of which each conflict is.
+    void whatExcludesSeveralCountsBeforeThem()
+    {
+        openSmall(smallPrinter().constraint("Media", "Film", "Boost", "ON"));
+        const OptionOutcome outcome = applyWhatFits(
+            {{u"Media"_s, u"Film"_s}, {u"Tray"_s, u"Lower"_s}, {u"Boost"_s, u"ON"_s}}, *m_printer);
+        QCOMPARE(marked(u"Media"_s), u"Film"_s);
+        QCOMPARE(marked(u"Tray"_s), u"Upper"_s);
+        QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
+        QCOMPARE(outcome.problems.size(), 2);
+    }
+
+    // No conflict goes away with one of them.
+    void ofThreeThatExcludeEachOtherTheFirstCounts()
+    {
+        openSmall(smallPrinter()
+                      .constraint("Media", "Film", "Boost", "ON")
+                      .constraint("Tray", "Lower", "Boost", "ON"));
+        const OptionOutcome outcome = applyWhatFits(
+            {{u"Media"_s, u"Film"_s}, {u"Tray"_s, u"Lower"_s}, {u"Boost"_s, u"ON"_s}}, *m_printer);
+        QCOMPARE(marked(u"Media"_s), u"Film"_s);
+        QCOMPARE(marked(u"Tray"_s), u"Upper"_s);
+        QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
+        QCOMPARE(outcome.problems.size(), 2);
     }
 };
 
