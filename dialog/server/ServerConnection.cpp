@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QIODevice>
+#include <QScopeGuard>
 
 #include "dialog/server/AnswerReader.h"
 
@@ -131,7 +132,8 @@ http_status_t ServerConnection::earlyAnswer()
 // on the way which may pass.
 void ServerConnection::noteEarly(http_status_t status)
 {
-    if (status == HTTP_STATUS_REQUEST_TOO_LARGE || status >= HTTP_STATUS_SERVER_ERROR)
+    if (!m_line.isCanceled() &&
+        (status == HTTP_STATUS_REQUEST_TOO_LARGE || status >= HTTP_STATUS_SERVER_ERROR))
         return m_line.fail({ServerProblem::Kind::Refused, QString::fromUtf8(httpStatus(status)),
                             status == HTTP_STATUS_REQUEST_TOO_LARGE
                                 ? IPP_STATUS_ERROR_REQUEST_ENTITY
@@ -139,10 +141,16 @@ void ServerConnection::noteEarly(http_status_t status)
     m_line.noteFailure(status);
 }
 
-// What a server has said before it took no more of a request.
+// What a server has said before it took no more of a request. That cannot go on where it was broken
+// off, whatever an interim answer promises.
 http_status_t ServerConnection::answerInstead()
 {
-    return httpWait(m_line.http(), 0) ? earlyAnswer() : HTTP_STATUS_ERROR;
+    if (!httpWait(m_line.http(), 0))
+        return HTTP_STATUS_ERROR;
+    // Patience may have gone by with sending; it has answered all the same.
+    m_line.wait().start();
+    const http_status_t status = earlyAnswer();
+    return status == HTTP_STATUS_CONTINUE ? HTTP_STATUS_ERROR : status;
 }
 
 // The message, or null where there is none.
@@ -178,6 +186,9 @@ IppMessage ServerConnection::unlessRefused(IppMessage response)
 http_status_t ServerConnection::sendDocument(QIODevice &document,
                                              const std::function<void(qint64)> &progress)
 {
+    ServerWait &wait = m_line.wait();
+    wait.endOnAnswer(true);
+    const auto waitsAgain = qScopeGuard([&wait] { wait.endOnAnswer(false); });
     qint64 sent = 0;
     std::array<char, kBlock> block{};
     while (!document.atEnd()) {
@@ -187,7 +198,7 @@ http_status_t ServerConnection::sendDocument(QIODevice &document,
             m_line.fail({ServerProblem::Kind::DocumentUnreadable, document.errorString()});
             return HTTP_STATUS_ERROR;
         }
-        m_line.wait().start();
+        wait.start();
         if (m_line.isCanceled())
             return HTTP_STATUS_ERROR;
         if (httpWrite2(m_line.http(), block.data(), static_cast<size_t>(length)) < 0)

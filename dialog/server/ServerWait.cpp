@@ -1,5 +1,9 @@
 #include "dialog/server/ServerWait.h"
 
+#include <array>
+
+#include <sys/socket.h>
+
 #include <QtGlobal>
 
 namespace corvana {
@@ -8,6 +12,19 @@ namespace {
 
 // How often a wait is interrupted to see whether it is still wanted. Units: seconds.
 constexpr double kLookAround = 0.2;
+
+// Whether an answer that is not an interim one ("HTTP/1.1 100") has begun to come, or the connection
+// is at its end. On an encrypted one there may be tickets and new keys, which are no answer.
+bool hasAnswered(http_t *connection)
+{
+    constexpr qsizetype kPlaceOfStatus = sizeof "HTTP/1.1 " - 1;
+    std::array<char, kPlaceOfStatus + 1> head{};
+    if (httpIsEncrypted(connection))
+        return false;
+    const ssize_t length =
+        ::recv(httpGetFd(connection), head.data(), head.size(), MSG_PEEK | MSG_DONTWAIT);
+    return length == 0 || (length == head.size() && head.back() != '1');
+}
 
 // libcups waits for a connection while an int is 0.
 static_assert(sizeof(CancelFlag) == sizeof(int) && CancelFlag::is_always_lock_free);
@@ -30,7 +47,9 @@ void ServerWait::watch(http_t *connection)
 {
     httpSetTimeout(
         connection, kLookAround,
-        [](http_t *, void *self) { return static_cast<ServerWait *>(self)->isOver() ? 0 : 1; },
+        [](http_t *waiting, void *self) {
+            return static_cast<ServerWait *>(self)->isOver(waiting) ? 0 : 1;
+        },
         this);
 }
 
@@ -38,6 +57,13 @@ void ServerWait::startUntil(Clock::time_point deadline)
 {
     m_timedOut = false;
     m_deadline = deadline;
+}
+
+bool ServerWait::isOver(http_t *connection)
+{
+    if (isOver())
+        return true;
+    return m_endsOnAnswer && hasAnswered(connection);
 }
 
 bool ServerWait::isOver()

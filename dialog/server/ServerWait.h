@@ -38,12 +38,18 @@ public:
     /// From here on this object says how long `connection` waits. It outlives the connection.
     void watch(http_t *connection);
 
+    /// Whether an answer ends the wait: who sends to a server that has answered and takes nothing more
+    /// would be blocked until patience is over.
+    void endOnAnswer(bool ends) { m_endsOnAnswer = ends; }
+
     /// A wait begins, of the whole patience.
     void start() { startUntil(Clock::now() + m_patience); }
     void startUntil(Clock::time_point deadline);
 
     /// Whether to stop waiting now.
     bool isOver();
+    /// The same, of a wait on `connection`.
+    bool isOver(http_t *connection);
     bool isCanceled() const { return m_canceled && m_canceled->load() != 0; }
     /// It has taken too long, as somebody else has found out.
     void giveUp() { m_timedOut = true; }
@@ -59,6 +65,7 @@ private:
     CancelFlag *m_canceled;
     Clock::time_point m_deadline;
     bool m_timedOut = false;
+    bool m_endsOnAnswer = false;
 };
 
 } // namespace corvana

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <chrono>
 #include <thread>
 #include <utility>
 
@@ -12,16 +14,23 @@
 
 namespace corvana::test {
 
+/// What a server that takes the rest of a request says then.
+struct RestOfRequest
+{
+    qint64 size = 0; ///< units: bytes
+    QByteArray answer;
+};
+
 /// Answers each connection on a free port of 127.0.0.1 when it has taken so many bytes of a
-/// request, whatever is still to come, and takes nothing more.
+/// request, whatever is still to come, and takes nothing more, or pauses until sockets are full.
 class EarlyServer
 {
 public:
-    enum class Then { Waits, HangsUp };
+    enum class Then { Waits, HangsUp, TakesTheRest };
 
     /// Units of `after`: bytes.
-    EarlyServer(QByteArray answer, qint64 after, Then then)
-        : m_answer(std::move(answer)), m_after(after), m_then(then),
+    EarlyServer(QByteArray answer, qint64 after, Then then, RestOfRequest rest = {})
+        : m_answer(std::move(answer)), m_after(after), m_then(then), m_rest(std::move(rest)),
           m_socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
         sockaddr_in address{};
@@ -46,6 +55,9 @@ public:
     quint16 port() const { return m_port; }
 
 private:
+    // Longer than a connection waits before it looks around.
+    static constexpr std::chrono::milliseconds kPause{700};
+
     void serve()
     {
         int last = -1;
@@ -56,24 +68,38 @@ private:
             if (client < 0)
                 return;
             last = client;
-            char bytes[4096];
-            qint64 taken = 0;
-            while (taken < m_after) {
-                const ssize_t length = ::recv(client, bytes, sizeof bytes, 0);
-                if (length <= 0)
-                    break;
-                taken += length;
+            take(client, m_after);
+            say(client, m_answer);
+            if (m_then == Then::TakesTheRest) {
+                std::this_thread::sleep_for(kPause);
+                take(client, m_rest.size);
+                say(client, m_rest.answer);
             }
-            ::send(client, m_answer.constData(), static_cast<size_t>(m_answer.size()),
-                   MSG_NOSIGNAL);
             if (m_then == Then::HangsUp)
                 ::close(std::exchange(last, -1));
         }
     }
 
+    static void take(int client, qint64 most)
+    {
+        std::array<char, 4096> bytes{};
+        qint64 taken = 0;
+        while (taken < most) {
+            const ssize_t length = ::recv(client, bytes.data(), bytes.size(), 0);
+            if (length <= 0)
+                return;
+            taken += length;
+        }
+    }
+    static void say(int client, const QByteArray &text)
+    {
+        ::send(client, text.constData(), static_cast<size_t>(text.size()), MSG_NOSIGNAL);
+    }
+
     const QByteArray m_answer;
     const qint64 m_after;
     const Then m_then;
+    const RestOfRequest m_rest;
     const int m_socket;
     quint16 m_port = 0;
     std::thread m_thread;

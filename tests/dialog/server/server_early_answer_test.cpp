@@ -95,7 +95,8 @@ private Q_SLOTS:
         QBuffer document;
         document.setData(QByteArray(kDocument, 'x'));
         QVERIFY(document.open(QIODevice::ReadOnly));
-        ServerConnection connection(contextFor(server.port()), nullptr);
+        // Longer than a test may take: what was said is heard while the document is stuck.
+        ServerConnection connection(contextFor(server.port(), std::chrono::hours(1)), nullptr);
         QVERIFY(
             !connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {}));
         const ServerProblem &problem = connection.problem();
@@ -104,6 +105,22 @@ private Q_SLOTS:
         QCOMPARE(problem.detail, early.detail);
         QCOMPARE(problem.status, early.status);
         QVERIFY(!connection.documentWasSent());
+    }
+
+    // "Continue" may come late, while the server takes nothing for a moment.
+    void anInterimAnswerInTheMidstEndsNothing()
+    {
+        constexpr qint64 kTaken = 3 << 20;
+        const EarlyServer server("HTTP/1.1 100 Continue\r\n\r\n", kTaken,
+                                 EarlyServer::Then::TakesTheRest,
+                                 {kDocument - kTaken, saying(IPP_STATUS_OK, "Printed").bytes});
+        QBuffer document;
+        document.setData(QByteArray(kDocument, 'x'));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY2(connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {}),
+                 qPrintable(connection.problem().text(connection.context().address)));
+        QVERIFY(connection.documentWasSent());
     }
 };
 
