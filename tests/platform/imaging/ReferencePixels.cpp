@@ -71,9 +71,9 @@ double component(std::uint32_t pixel, int shift)
 const Pixels &everyColor()
 {
     static const Pixels all = [] {
-        Pixels pixels(1 << 24);
+        Pixels pixels((1 << 24) / CORVANA_STEP_OF_COLORS);
         for (std::uint32_t i = 0; i < pixels.size(); ++i)
-            pixels[i] = i | (i * 2654435761U & 0xff000000);
+            pixels[i] = i * CORVANA_STEP_OF_COLORS | (i * 2654435761U & 0xff000000);
         return pixels;
     }();
     return all;

@@ -43,7 +43,7 @@ struct Reference
     Pixels promised; ///< the same, and what is below a half by less than 2^-14 goes up as well
 };
 
-/// Every colour once, each with an alpha that says nothing about it.
+/// Every colour once, or every so many, each with an alpha that says nothing about it.
 const Pixels &everyColor();
 
 /// Computes the reference; its memory is used again.

@@ -51,10 +51,10 @@ Q_DECLARE_METATYPE(ColorTransform)
 namespace {
 
 /// Of all red, green and blue values together: one in ten thousand.
-constexpr std::int64_t kMostDifferences = 3 * (1 << 24) / 10000;
+constexpr std::int64_t kMostDifferences = 3 * (1 << 24) / CORVANA_STEP_OF_COLORS / 10000;
 /// Against the reference that rounds as the kernel means to, only the error of single precision is
 /// left: one in fifty thousand, three times of what was found.
-constexpr std::int64_t kMostErrors = 3 * (1 << 24) / 50000;
+constexpr std::int64_t kMostErrors = 3 * (1 << 24) / CORVANA_STEP_OF_COLORS / 50000;
 
 /// Each kind of vector instructions that this machine has and the kernel was compiled for.
 std::vector<std::int64_t> targets()
