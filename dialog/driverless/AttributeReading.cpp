@@ -43,6 +43,13 @@ bool isKeyword(const QString &value)
                         [&](QChar c) { return kMeaningful.contains(c); });
 }
 
+// Null for what is no keyword.
+QString keywordAt(ipp_attribute_t *attribute, int index)
+{
+    const QString value = stringAt(attribute, index);
+    return isKeyword(value) ? value : QString();
+}
+
 // A resolution and its unit, which is one byte of the network's: a value of the enumeration that it
 // cannot have must not be read as one. Null for a unit that nobody knows.
 struct Resolution
@@ -61,6 +68,14 @@ std::optional<Resolution> resolutionAt(ipp_attribute_t *attribute, int index)
     if (number != IPP_RES_PER_INCH && number != IPP_RES_PER_CM)
         return std::nullopt;
     return Resolution{{x, y}, number == IPP_RES_PER_CM};
+}
+
+// What a server adds to a job as it is ("page-ranges=1,3"), with all that it may mean. Null for
+// what nobody could see.
+QString textOfOptionAt(ipp_attribute_t *attribute, int index)
+{
+    const QString value = stringAt(attribute, index);
+    return value.trimmed().isEmpty() || hasControlCharacter(value) ? QString() : value;
 }
 
 // As a job option has it. Null where there is no such form.
@@ -86,10 +101,10 @@ QString optionValueAt(ipp_attribute_t *attribute, int index)
         const QString y = QString::number(resolution->size.height());
         return (x == y ? x : x + u'x' + y) + name;
     }
-    default: {
-        const QString value = stringAt(attribute, index);
-        return isKeyword(value) ? value : QString();
-    }
+    default:
+        // Of several, a comma would make more.
+        return valueCount(attribute) == 1 ? textOfOptionAt(attribute, index)
+                                          : keywordAt(attribute, index);
     }
 }
 

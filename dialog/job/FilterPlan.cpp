@@ -36,18 +36,6 @@ template <size_t N> bool isOneOf(const QString &name, const QLatin1StringView (&
     });
 }
 
-// One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
-QString optionArgument(const JobOption &option)
-{
-    QString value = option.value;
-    const bool isPlain = std::none_of(value.cbegin(), value.cend(), [](QChar c) {
-        return c.isSpace() || c == u'"' || c == u'\'' || c == u'\\' || c == u'{';
-    });
-    if (!isPlain)
-        value = u'"' + value.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s) + u'"';
-    return u"%1=%2"_s.arg(option.name, value);
-}
-
 // What shapes the pages of a text or a picture; everything else applies to the whole job.
 bool isForPages(const JobOption &option)
 {
@@ -296,6 +284,17 @@ private:
 };
 
 } // namespace
+
+QString optionArgument(const JobOption &option)
+{
+    QString value = option.value;
+    const bool isPlain = std::none_of(value.cbegin(), value.cend(), [](QChar c) {
+        return c.isSpace() || c == u'"' || c == u'\'' || c == u'\\' || c == u'{';
+    });
+    if (!isPlain)
+        value = u'"' + value.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s) + u'"';
+    return u"%1=%2"_s.arg(option.name, value);
+}
 
 FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &places)
 {

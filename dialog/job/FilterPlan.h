@@ -95,6 +95,9 @@ struct FilterPlaces
 
 FilterPlan planConversion(const ConversionRequest &request, const FilterPlaces &places);
 
+/// One option as cupsParseOptions() reads it back: a value with blanks or quotes stays one value.
+QString optionArgument(const JobOption &option);
+
 /// The options of a job whose pages were laid out already: each that would change them again has
 /// its usual value, so that nobody's default takes its place.
 QList<JobOption> optionsAfterLayout(const QList<JobOption> &options);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include <QRegularExpression>
@@ -186,6 +187,22 @@ QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword)
                                               number(parameter, bounds->second));
     }
     return u"Custom.TEXT"_s;
+}
+
+QList<JobOption> customDefaults(ppd_file_t *ppd)
+{
+    QList<JobOption> defaults;
+    for (const ppd_group_t &group : std::span(ppd->groups, static_cast<size_t>(ppd->num_groups))) {
+        for (const ppd_option_t &option :
+             std::span(group.options, static_cast<size_t>(group.num_options))) {
+            const QString keyword = ppdKeyword(option.keyword);
+            const QString value = ppdKeyword(option.defchoice);
+            if (value.startsWith(kCustomPrefix) && keyword != kPageRegionOption &&
+                checkCustomValue(ppd, keyword, value).value)
+                defaults += JobOption{keyword, value};
+        }
+    }
+    return defaults;
 }
 
 } // namespace corvana

@@ -2,8 +2,10 @@
 
 #include <optional>
 
+#include <QList>
 #include <QString>
 
+#include "platform/pde/PDEJobValues.h"
 #include "platform/printcore/Ppd.h"
 
 namespace corvana {
@@ -48,6 +50,11 @@ inline constexpr int kHiddenLength = 6;
 
 /// What the PPD takes as custom values of an option; empty when it takes none.
 QString allowedCustomValues(ppd_file_t *ppd, const QString &keyword);
+
+/// The default choices of a PPD that are values of their own, as an administrator sets them
+/// ("lpadmin -o PageSize=Custom.300x400"). libcups marks such an option as "Custom" and does not
+/// say of what. A value that the PPD does not take is left out.
+QList<JobOption> customDefaults(ppd_file_t *ppd);
 
 /// Whether the PPD takes papers of sizes that it does not list, and says up to which size.
 bool takesCustomPageSizes(const ppd_file_t *ppd);

@@ -56,7 +56,8 @@ bool OptionValues::differsFromDefault(const QString &keyword) const
         return m_session->differsFromDefault(keyword);
     const ppd_option_t *option = ppdOption(m_session->ppd(), keyword);
     const Value value = of(keyword);
-    return option && (!value.custom.isNull() || value.choice != ppdKeyword(option->defchoice));
+    return option &&
+           (value.custom.isNull() ? value.choice : value.custom) != ppdKeyword(option->defchoice);
 }
 
 bool isValueOfPanels(const JobOption &option, const PpdSession &session,

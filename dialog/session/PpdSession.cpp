@@ -61,10 +61,11 @@ QString PpdSession::markedChoice(const QString &keyword) const
 bool PpdSession::differsFromDefault(const QString &keyword) const
 {
     ppd_option_t *option = ppdOption(m_ppd.get(), keyword);
-    const ppd_choice_t *byDefault =
-        option ? ppdChoice(option, ppdKeyword(option->defchoice)) : nullptr;
-    return byDefault && (markedChoice(keyword) != ppdKeyword(byDefault->choice) ||
-                         !customValue(keyword).isNull());
+    const QString byDefault = option ? ppdKeyword(option->defchoice) : QString();
+    if (!ppdChoice(option, choiceKeyword(byDefault)))
+        return false;
+    const QString custom = customValue(keyword);
+    return (custom.isNull() ? markedChoice(keyword) : custom) != byDefault;
 }
 
 ChangeResult PpdSession::change(const QString &keyword, const QString &choice, Origin origin)

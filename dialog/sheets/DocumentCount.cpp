@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include "dialog/job/CupsFilter.h"
+#include "dialog/job/FilterPlan.h"
 #include "dialog/job/TemporaryFolder.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
@@ -149,7 +150,7 @@ void DocumentCount::convertPicture()
     if (m_isLaidOut)
         options += applied(JobAttribute::AppliedTo::Pages, m_request.options);
     for (const JobOption &option : std::as_const(options))
-        arguments << u"-o"_s << u"%1=%2"_s.arg(option.name, option.value);
+        arguments << u"-o"_s << optionArgument(option);
     m_chain = std::make_unique<FilterChain>();
     connect(m_chain.get(), &FilterChain::finished, this, [this](const QString &why) {
         m_turning.picture = turnOfPicture(m_pdf);

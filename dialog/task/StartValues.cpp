@@ -9,6 +9,7 @@
 #include "dialog/policy/Policy.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/session/AttributeChoices.h"
+#include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/RequestedOptions.h"
@@ -37,9 +38,10 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(StartValues)
 };
 
+// What an administrator has set in the PPD, and at the server.
 QList<JobOption> defaultsOfQueue(const OpenedPrinter &printer, const PrintRequest &)
 {
-    return printer.fetched.defaults;
+    return customDefaults(printer.session->ppd()) + printer.fetched.defaults;
 }
 
 QList<JobOption> usersOptions(const OpenedPrinter &printer, const PrintRequest &)

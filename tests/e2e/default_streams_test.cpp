@@ -73,6 +73,15 @@ constexpr DefaultRun kDefaults[] = {
     {"landscape", "orientation-requested-default=4", nullptr, "Orientation: Landscape"},
     {"a choice of the PPD", "QXMediaType-default=Thick", nullptr, "Thick", 1,
      "CorvanaOption(QXMediaType=Thick)"},
+    {"some pages", "page-ranges-default=1,3", nullptr, "Pages: 1,3"},
+    {"all pages after all", "page-ranges-default=1,3", "page-ranges=1-", "Copies: 1"},
+    {"a text with a comma", "page-label-default=A,B", nullptr, "A,B"},
+    {"a number of its own", "QXSleepTime=Custom.12", nullptr, "12", 1,
+     "CorvanaOption(QXSleepTime=Custom)"},
+    {"another number after all", "QXSleepTime=Custom.12", "QXSleepTime=Custom.9", "9", 1,
+     "CorvanaOption(QXSleepTime=Custom)"},
+    {"a paper of its own", "PageSize=Custom.300x400", nullptr, "106 × 141 mm", 1,
+     "CorvanaOption(PageSize=Custom)"},
     {"what nobody knows", "Sparkle-default=bright", nullptr, "Sparkle: bright"},
 };
 
@@ -118,7 +127,7 @@ private Q_SLOTS:
         const RunEnd end =
             m_runner->run(QStringList{u"--summary"_s} + arguments + QStringList{kThreePages});
         QVERIFY2(end.status == 0, end.text().constData());
-        QVERIFY2(end.out.contains(QString::fromLatin1(row.summary)), end.text().constData());
+        QVERIFY2(end.out.contains(QString::fromUtf8(row.summary)), end.text().constData());
         const QByteArray ours = lastStream();
         QCOMPARE(ours.count("%!PS-Adobe-3.0"), qsizetype(row.streams));
         QVERIFY2(ours.contains(row.marker), row.marker);

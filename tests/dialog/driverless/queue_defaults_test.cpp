@@ -92,8 +92,22 @@ const QList<DefaultCase> kDefaults{
     {"a name that nobody knows",
      [](PrinterAttributes &q) { q.names("Sparkle-default", {"bright"}); },
      {{u"Sparkle"_s, u"bright"_s}}},
-    {"what would be another option", // left out
+    {"a list in one text",
+     [](PrinterAttributes &q) { q.names("page-ranges-default", {"1,3"}); },
+     {{u"page-ranges"_s, u"1,3"_s}}},
+    {"a text with all that means something elsewhere",
+     [](PrinterAttributes &q) { q.names("page-label-default", {R"(A, "B" = {'C'; \D})"}); },
+     {{u"page-label"_s, uR"(A, "B" = {'C'; \D})"_s}}},
+    {"what looks like another option",
      [](PrinterAttributes &q) { q.names("Sparkle-default", {"bright Glow=1"}); },
+     {{u"Sparkle"_s, u"bright Glow=1"_s}}},
+    {"several of which one would be more", // left out
+     [](PrinterAttributes &q) {
+         q.names("Sparkle-default", {"bright", "dim,dark"});
+     },
+     {}},
+    {"what nobody could see", // left out
+     [](PrinterAttributes &q) { q.names("Sparkle-default", {"bright\ndark"}); },
      {}},
     {"a default of nothing", // left out
      [](PrinterAttributes &q) { q.names("-default", {"bright"}); },

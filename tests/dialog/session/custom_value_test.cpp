@@ -46,6 +46,25 @@ private:
     std::unique_ptr<PpdSession> m_custom;
 
 private Q_SLOTS:
+    // "lpadmin -o Sleep=Custom.12" writes such a default.
+    void aDefaultOfItsOwnIsADefault()
+    {
+        const QList<PpdChoice> choices{{"Standard", "Standard"}};
+        const auto session = sessionFor(
+            PpdBuilder()
+                .option("Sleep", "Sleep", "Custom.12", choices)
+                .customInteger("Sleep", "Time", "Minutes", 1, 99)
+                .option("Density", "Density", "Custom.99", choices) // which it does not take
+                .customInteger("Density", "Density", "Density", -6, 6));
+        QCOMPARE(customDefaults(session->ppd()), (QList<JobOption>{{u"Sleep"_s, u"Custom.12"_s}}));
+        const QPair<QString, bool> steps[] = {
+            {u"Custom.12"_s, false}, {u"Custom.13"_s, true}, {u"Standard"_s, true}};
+        for (const auto &[choice, differs] : steps) {
+            QVERIFY(session->change(u"Sleep"_s, choice, PpdSession::Origin::Dialog).accepted());
+            QVERIFY2(session->differsFromDefault(u"Sleep"_s) == differs, qPrintable(choice));
+        }
+    }
+
     void aPinIsASecretWhateverItsType_data()
     {
         QTest::addColumn<QByteArray>("keyword");
