@@ -1814,6 +1814,13 @@
     </message>
 </context>
 <context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CredentialsDialog</name>
     <message>
         <source>Log In to Print</source>

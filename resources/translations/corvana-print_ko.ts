@@ -2846,6 +2846,13 @@
     </message>
 </context>
 <context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>‘%1’은(는) 사용할 수 없습니다. 사용할 수 있는 값: %2.</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CredentialsDialog</name>
     <message>
         <source>Log In to Print</source>

@@ -2847,6 +2847,13 @@
     </message>
 </context>
 <context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>“%1” não é permitido. Valores permitidos: %2.</translation>
+    </message>
+</context>
+<context>
     <name>corvana::CredentialsDialog</name>
     <message>
         <source>Log In to Print</source>
