@@ -174,8 +174,8 @@ void JobFooter::showLeaving(bool canLeave)
         m_leave->hide();
 }
 
-// As much of it as there is room for, so that the window stays as wide as it is. Looked at before it
-// is there: a button that is shown gets its room at once.
+// As much of it as there is room for, so that the window stays as wide as it is. Looked at before
+// it is there: a button that is shown gets its room at once.
 void JobFooter::nameLeave()
 {
     if (!m_leave->isHidden())
@@ -221,6 +221,18 @@ void JobFooter::showSilencedAlerts(bool silenced)
 void JobFooter::focusPrint()
 {
     m_print->setFocus(Qt::OtherFocusReason);
+}
+
+// While a job runs the focus is on its progress, which is no stop of Tab and has no place in its
+// order: the next one is the first of the row below, not whatever in the window is younger.
+bool JobFooter::focusNextPrevChild(bool next)
+{
+    if (m_progress->hasFocus()) {
+        m_help->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        if (next)
+            return true;
+    }
+    return QWidget::focusNextPrevChild(next);
 }
 
 QList<QWidget *> JobFooter::buttons() const
