@@ -317,7 +317,7 @@
         <translation>%1 は印刷できません（内容が不明です）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>%1 は印刷できません（内容: %2）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
     </message>
     <message>

@@ -498,7 +498,7 @@
         <translation>無法列印 %1：其內容是已為印表機準備好的資料。使用選項「raw」時，佇列會原封不動地轉送。</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>無法列印 %1：其內容為 %2。可列印的文件為 PDF、PostScript、文字、PNG 和 JPEG。</translation>
     </message>
     <message>
