@@ -124,8 +124,8 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
     if (!held) {
         *error =
             Texts::tr(
-                "%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG "
-                "or JPEG.")
+                "%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, "
+                "PNG or JPEG.")
                 .arg(name, content.comment());
         return {};
     }

@@ -149,6 +149,14 @@ bool PrintTask::documentsAreReady()
         askForPassword(document);
         return false;
     }
+    // The way out is offered again with the words that it had before.
+    for (const Document &document : std::as_const(m_request.documents)) {
+        if (m_looks.documents.stateOf(document).kind != Kind::Forbidden || !mayAskForPassword())
+            continue;
+        m_looks.printsThen = true;
+        passwordDeclined(document);
+        return false;
+    }
     const TaskRefusal refusal = documentProblems();
     if (!refusal.problems.isEmpty()) {
         refuseDocuments(refusal);

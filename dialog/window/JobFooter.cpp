@@ -114,8 +114,12 @@ void JobFooter::setCanPrint(bool canPrint)
     // the first has begun.
     if (!canPrint && m_print->hasFocus())
         m_progress->setFocus(Qt::OtherFocusReason);
-    if (canPrint)
-        m_print->show(); // it may have made room for Close
+    if (canPrint) {
+        // It may have made room for Close, beside which it would widen the window: a button that is
+        // shown gets its room at once.
+        m_leave->hide();
+        m_print->show();
+    }
     m_print->setEnabled(canPrint);
     if (canPrint && m_progress->hasFocus())
         m_print->setFocus(Qt::OtherFocusReason);
@@ -164,18 +168,21 @@ void JobFooter::showLeaving(bool canLeave)
     // Not to Close: what is pressed twice by accident must not close anything.
     if (canLeave && m_finder->isAncestorOf(window()->focusWidget()))
         m_progress->setFocus(Qt::OtherFocusReason);
+    // First what goes, for the same reason as in setCanPrint().
+    if (!canLeave) {
+        m_leave->hide();
+        m_cancel->setText(tr("Cancel"));
+    }
     m_finder->setVisible(!canLeave);
     m_print->setVisible(!canLeave);
-    // Beside Close, which leaves the job alone.
-    m_cancel->setText(canLeave ? tr("Cancel Job") : tr("Cancel"));
-    if (canLeave)
-        nameLeave();
-    else
-        m_leave->hide();
+    if (!canLeave)
+        return;
+    m_cancel->setText(tr("Cancel Job")); // beside Close, which leaves the job alone
+    nameLeave();
 }
 
-// As much of it as there is room for, so that the window stays as wide as it is. Looked at before it
-// is there: a button that is shown gets its room at once.
+// As much of it as there is room for, so that the window stays as wide as it is. Looked at before
+// it is there: a button that is shown gets its room at once.
 void JobFooter::nameLeave()
 {
     if (!m_leave->isHidden())
@@ -221,6 +228,18 @@ void JobFooter::showSilencedAlerts(bool silenced)
 void JobFooter::focusPrint()
 {
     m_print->setFocus(Qt::OtherFocusReason);
+}
+
+// While a job runs the focus is on its progress, which is no stop of Tab and has no place in its
+// order: the next one is the first of the row below, not whatever in the window is younger.
+bool JobFooter::focusNextPrevChild(bool next)
+{
+    if (m_progress->hasFocus()) {
+        m_help->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        if (next)
+            return true;
+    }
+    return QWidget::focusNextPrevChild(next);
 }
 
 QList<QWidget *> JobFooter::buttons() const

@@ -50,6 +50,9 @@ Q_SIGNALS:
     void leavePressed();
     void cancelPressed();
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     void buildProgress();
     void buildButtons();

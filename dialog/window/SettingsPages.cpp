@@ -31,6 +31,9 @@ namespace {
 
 // What the pages ask for at most, of the height of the screen: one part of so many.
 constexpr int kLeastPart = 4;
+// On a screen that is lower, they leave all to what stands around them: a message must not push the
+// buttons below its edge. Units: heights of the font.
+constexpr int kLowScreen = 24;
 
 } // namespace
 
@@ -52,7 +55,9 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
 QSize SettingsPages::minimumSizeHint() const
 {
     const QSize least = QTabWidget::minimumSizeHint();
-    const int bound = screen()->availableSize().height() / kLeastPart;
+    const int available = screen()->availableSize().height();
+    const bool isLow = available < kLowScreen * fontMetrics().height();
+    const int bound = isLow ? tabBar()->sizeHint().height() : available / kLeastPart;
     return {least.width(), qMin(least.height(), bound)};
 }
 

@@ -26,6 +26,9 @@ void DisclosureButton::setHeading(QLabel *heading)
 {
     heading->installEventFilter(this);
     heading->setBuddy(this);
+    // Beside the button, also words of a language that is written the other way than the window.
+    heading->setAlignment(QStyle::visualAlignment(heading->layoutDirection(), Qt::AlignLeft) |
+                          Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
 bool DisclosureButton::eventFilter(QObject *watched, QEvent *event)

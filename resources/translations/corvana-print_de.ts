@@ -498,7 +498,7 @@
         <translation>%1 kann nicht gedruckt werden: Die Datei enthält Daten, die für einen Drucker aufbereitet sind. Eine Warteschlange gibt sie mit der Option „raw“ unverändert weiter.</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>%1 kann nicht gedruckt werden; Inhalt: %2. Dokumente können PDF, PostScript, Text, PNG oder JPEG sein.</translation>
     </message>
     <message>
@@ -2844,6 +2844,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>Vorschau ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>„%1“ ist nicht erlaubt. Erlaubt: %2.</translation>
     </message>
 </context>
 <context>

@@ -498,7 +498,7 @@
         <translation>No se puede imprimir %1: contiene datos ya preparados para una impresora. Una cola los transmite sin cambios con la opción «raw».</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>No se puede imprimir %1: contiene %2. Los documentos pueden ser PDF, PostScript, texto, PNG o JPEG.</translation>
     </message>
     <message>
@@ -2844,6 +2844,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>Ocultar vista previa</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>«%1» no está permitido. Valores permitidos: %2.</translation>
     </message>
 </context>
 <context>

@@ -498,7 +498,7 @@
         <translation>%1 ne peut pas être imprimé : il contient des données déjà préparées pour une imprimante. Une file d’attente les transmet telles quelles avec l’option « raw ».</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>%1 ne peut pas être imprimé ; contenu : %2. Les documents peuvent être au format PDF, PostScript, texte, PNG ou JPEG.</translation>
     </message>
     <message>
@@ -2844,6 +2844,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>Masquer l’aperçu</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>« %1 » n’est pas autorisé. Autorisé : %2.</translation>
     </message>
 </context>
 <context>

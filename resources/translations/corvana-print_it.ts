@@ -498,7 +498,7 @@
         <translation>Impossibile stampare %1: contiene dati già pronti per una stampante. Una coda li inoltra senza modifiche con l&apos;opzione «raw».</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>Impossibile stampare %1: contiene %2. I documenti possono essere PDF, PostScript, testo, PNG o JPEG.</translation>
     </message>
     <message>
@@ -2844,6 +2844,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>Nascondi anteprima</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>«%1» non è consentito. Valori consentiti: %2.</translation>
     </message>
 </context>
 <context>

@@ -317,7 +317,7 @@
         <translation>%1 は印刷できません（内容が不明です）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>%1 は印刷できません（内容: %2）。印刷できる文書は PDF、PostScript、テキスト、PNG、JPEG です。</translation>
     </message>
     <message>
@@ -1811,6 +1811,13 @@
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>%1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>「%1」は指定できません。指定できる値: %2。</translation>
     </message>
 </context>
 <context>

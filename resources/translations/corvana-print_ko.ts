@@ -498,7 +498,7 @@
         <translation>%1을(를) 인쇄할 수 없습니다. 이미 프린터용으로 준비된 데이터입니다. 대기열에서 ‘raw’ 옵션을 사용하면 그대로 전달됩니다.</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>%1을(를) 인쇄할 수 없습니다. 내용: %2. 인쇄할 수 있는 문서는 PDF, PostScript, 텍스트, PNG, JPEG입니다.</translation>
     </message>
     <message>
@@ -2843,6 +2843,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>미리보기 숨기기</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>‘%1’은(는) 사용할 수 없습니다. 사용할 수 있는 값: %2.</translation>
     </message>
 </context>
 <context>

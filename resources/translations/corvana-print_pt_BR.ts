@@ -498,7 +498,7 @@
         <translation>Não é possível imprimir %1: contém dados já prontos para uma impressora. Uma fila os repassa sem alterações com a opção “raw”.</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>Não é possível imprimir %1: o conteúdo é %2. Os documentos podem ser PDF, PostScript, texto, PNG ou JPEG.</translation>
     </message>
     <message>
@@ -2844,6 +2844,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>Ocultar visualização</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>“%1” não é permitido. Valores permitidos: %2.</translation>
     </message>
 </context>
 <context>

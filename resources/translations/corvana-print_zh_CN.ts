@@ -317,7 +317,7 @@
         <translation>无法打印 %1（内容未知）。可打印的文档为 PDF、PostScript、文本、PNG 和 JPEG。</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>无法打印 %1（内容为 %2）。可打印的文档为 PDF、PostScript、文本、PNG 和 JPEG。</translation>
     </message>
     <message>
@@ -1811,6 +1811,13 @@
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允许使用“%1”。允许的值：%2。</translation>
     </message>
 </context>
 <context>

@@ -498,7 +498,7 @@
         <translation>無法列印 %1：其內容是已為印表機準備好的資料。使用選項「raw」時，佇列會原封不動地轉送。</translation>
     </message>
     <message>
-        <source>%1 cannot be printed: it holds %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
+        <source>%1 cannot be printed; its contents: %2. Documents can be PDF, PostScript, text, PNG or JPEG.</source>
         <translation>無法列印 %1：其內容為 %2。可列印的文件為 PDF、PostScript、文字、PNG 和 JPEG。</translation>
     </message>
     <message>
@@ -2843,6 +2843,13 @@
     <message>
         <source>Hide Preview</source>
         <translation>隱藏預覽</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::CopiesEditor</name>
+    <message>
+        <source>“%1” is not allowed. Allowed: %2.</source>
+        <translation>不允許使用「%1」。允許的值：%2。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,8 @@
 // takes for the windows once its own Arabic texts are installed. Ours are not among them, so that
 // what is written stays English, in a mirrored window.
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QLabel>
 #include <QMap>
@@ -39,6 +41,23 @@ QMap<QString, QRect> placesOf(const QWidget &window)
 QRect mirrored(const QRect &place, int width)
 {
     return {width - place.x() - place.width(), place.y(), place.width(), place.height()};
+}
+
+/// Between which columns something is written in a label. Units: pixels.
+std::pair<int, int> writtenIn(QLabel &label)
+{
+    const QImage picture = label.grab().toImage();
+    int first = picture.width();
+    int last = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGray(picture.pixel(x, y)) < 100) {
+                first = qMin(first, x);
+                last = qMax(last, x);
+            }
+        }
+    }
+    return {first, last};
 }
 
 } // namespace
@@ -110,6 +129,27 @@ private Q_SLOTS:
                               .arg(wanted.right());
         }
         QVERIFY2(others.isEmpty(), qPrintable(others.join(u'\n')));
+    }
+
+    // In a label that is wider than its words, these went to the side where English begins.
+    void wordsStandBesideWhatTheyAreOf()
+    {
+        constexpr int kNear = 4; // Units: pixels
+        const auto window = open(Qt::RightToLeft);
+        const auto *copies = window->child<QWidget>(u"copies"_s);
+        const auto labels = window->dialog().findChildren<QLabel *>();
+        const auto ofCopies = std::find_if(labels.cbegin(), labels.cend(),
+                                           [&](QLabel *label) { return label->buddy() == copies; });
+        QVERIFY(ofCopies != labels.cend());
+        const auto [begin, end] = writtenIn(**ofCopies);
+        QVERIFY(end > 0 && end < (*ofCopies)->width() - 2 * kNear); // it has room on both sides
+        QVERIFY2(begin <= kNear, qPrintable(QString::number(begin)));
+        window->showPage(1);
+        auto *heading = window->pages()->currentWidget()->findChild<QLabel *>(u"optionLabel"_s);
+        QVERIFY(heading && heading->isVisible());
+        const auto [first, last] = writtenIn(*heading);
+        QVERIFY(first > 2 * kNear);
+        QVERIFY2(last >= heading->width() - 1 - kNear, qPrintable(QString::number(last)));
     }
 
     // "3 pages = 3 sheets" would begin with its last word, and a path end with its first slash.

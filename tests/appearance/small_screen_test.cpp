@@ -8,13 +8,16 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/session/DialogPreferences.h"
+#include "dialog/window/PrinterHeader.h"
 #include "dialog/window/WindowSize.h"
 #include "dialog/window/chooser/ElidedLabel.h"
+#include "dialog/window/chooser/PrinterStatusLine.h"
 #include "dialog/window/pages/MessageBar.h"
 #include "platform/foundation/UserDefaults.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -129,7 +132,8 @@ private Q_SLOTS:
             if (auto *more =
                     m_window->pages()->currentWidget()->findChild<QPushButton *>(u"optionButton"_s))
                 more->setChecked(true);
-            if (auto *more = m_window->pages()->currentWidget()->findChild<QPushButton *>(u"more"_s)) {
+            if (auto *more =
+                    m_window->pages()->currentWidget()->findChild<QPushButton *>(u"more"_s)) {
                 more->setChecked(true);
                 settle();
                 auto *area = m_window->pages()->currentWidget()->findChild<QScrollArea *>();
@@ -171,6 +175,44 @@ private Q_SLOTS:
                                      .persistentDomainForName(kDialogDomain)
                                      .value_or(QVariantMap());
         QCOMPARE(kept, QVariantMap());
+    }
+
+    // Of a queue more is said above the pages than of a file: where it is, and another place to go.
+    // What is left for the pages comes back when the message is closed.
+    void aMessageAboutAQueueLeavesTheButtonsOnTheScreen_data()
+    {
+        QTest::addColumn<double>("scale");
+        for (const double scale : {1.0, 1.5, 2.0, 2.2, 2.4, 2.6, 2.8})
+            QTest::addRow("font x%.1f", scale) << scale;
+    }
+    void aMessageAboutAQueueLeavesTheButtonsOnTheScreen()
+    {
+        QFETCH(double, scale);
+        QFont font = m_font;
+        font.setPointSizeF(m_font.pointSizeF() * scale);
+        QApplication::setFont(font);
+        open(u"Report"_s);
+        Printer queue = m_window->dialog().task().printer();
+        queue.origin = PrinterOrigin::Queue;
+        queue.location = u"Room 1"_s;
+        auto *header = dialog().findChild<PrinterHeader *>();
+        header->showDestination(false, false, true);
+        header->status()->setPrinter(queue);
+        settle();
+        QVERIFY(header->status()->isVisible());
+        QCOMPARE(whatIsOff(), QString());
+        const int before = m_window->pages()->height();
+        auto *message = control<MessageBar>(u"message"_s);
+        message->showMessage(MessageBar::Kind::Problem, u"some words "_s.repeated(100),
+                             u"Print Again"_s, [] {});
+        settle();
+        QVERIFY(message->isVisible());
+        QCOMPARE(whatIsOff(), QString());
+        QVERIFY(m_window->pages()->height() >= m_window->pages()->tabBar()->height());
+        message->dismiss();
+        settle();
+        QCOMPARE(whatIsOff(), QString());
+        QCOMPARE(m_window->pages()->height(), before);
     }
 
     // Letters of twice the size, and the measures of a style that grow with them.
@@ -215,7 +257,7 @@ private Q_SLOTS:
     void whatTheContentsForceOnTheWindowIsNotRemembered()
     {
         QFont font = m_font;
-        font.setPointSizeF(m_font.pointSizeF() * 4);
+        font.setPointSizeF(m_font.pointSizeF() * 6);
         QApplication::setFont(font);
         open(u"short"_s);
         QVERIFY(dialog().height() > dialog().screen()->availableGeometry().height());

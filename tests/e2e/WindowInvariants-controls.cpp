@@ -43,14 +43,16 @@ QString isShownAs(const QString &name, const QString &is, const QString &shown)
 
 // Copies
 
-// What is being typed is not taken yet.
+// What is being typed is not taken yet, and what is refused is said.
 QString copiesFault(const GeneralPage &general, PrintTask &task)
 {
     const auto *copies = general.findChild<QSpinBox *>(u"copies"_s);
     if (!copies)
         return u"there is no field for the copies"_s;
     const int wanted = task.settings().copies();
-    return copies->hasFocus() || copies->value() == wanted
+    const auto *note = general.findChild<QLabel *>(u"copiesNote"_s);
+    const bool isRefused = note && !note->text().isEmpty();
+    return copies->hasFocus() || isRefused || copies->value() == wanted
                ? QString()
                : isShownAs(copies->objectName(), QString::number(wanted), copies->text());
 }

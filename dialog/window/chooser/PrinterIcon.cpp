@@ -135,6 +135,8 @@ public:
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
         QPixmap pixmap(size);
+        if (pixmap.isNull())
+            return pixmap; // asked for by a list that has no room for it
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         paint(&painter, QRect(QPoint(), size), mode, state);

@@ -5,6 +5,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
 
 #include "dialog/session/JobAttributes.h"
 #include "dialog/window/pages/AttributeEditor.h"
@@ -138,7 +139,9 @@ void AttributeRows::keepLabelsInPlace()
             width = qMax(width, label->fontMetrics().horizontalAdvance(title));
     }
     label->setMinimumWidth(width);
-    label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    // Beside its field, also words of a language that is written the other way than the window.
+    label->setAlignment(QStyle::visualAlignment(label->layoutDirection(), Qt::AlignRight) |
+                        Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
 bool AttributeRows::showsMore() const

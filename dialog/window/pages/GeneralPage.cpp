@@ -2,13 +2,13 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include "dialog/session/CustomValue.h"
@@ -19,6 +19,7 @@
 #include "dialog/window/pages/AttributeRows.h"
 #include "dialog/window/pages/ClearButton.h"
 #include "dialog/window/pages/ControlLock.h"
+#include "dialog/window/pages/CopiesEditor.h"
 #include "dialog/window/pages/CustomPaperSize.h"
 #include "dialog/window/pages/RowMnemonics.h"
 #include "platform/toolkit/ControlActions.h"
@@ -64,7 +65,7 @@ void addChoice(QComboBox *popUp, const QString &title, const QString &choice)
 
 GeneralPage::GeneralPage(PpdSession &session, const PDEJobValues *jobValues, QWidget *parent)
     : QWidget(parent), m_session(session), m_marks(new ChangeMarks(this)),
-      m_copies(new QSpinBox(this)), m_pageRanges(new QLineEdit(this)),
+      m_copies(new CopiesEditor(this)), m_pageRanges(new QLineEdit(this)),
       m_choosePages(new QPushButton(this))
 {
     auto *rows = new QWidget;
@@ -89,17 +90,15 @@ GeneralPage::GeneralPage(PpdSession &session, const PDEJobValues *jobValues, QWi
 
 void GeneralPage::addJobFields(QFormLayout *form)
 {
-    m_copies->setObjectName(u"copies"_s);
-    m_copies->setRange(1, kMostCopies);
-    ignoreWheelWithoutFocus(m_copies);
-    setFocusProxy(m_copies);
-    auto *row = new QHBoxLayout; // a number needs no more width than its digits
-    row->addWidget(m_copies);
-    row->addStretch();
-    form->addRow(tr("&Copies:"), row);
-    qobject_cast<QLabel *>(form->labelForField(row))->setBuddy(m_copies);
+    setFocusProxy(m_copies->field());
+    // Its label leads past the widget that it stands in.
+    m_copies->field()->setAccessibleName(QCoreApplication::translate("Summary", "Copies"));
+    form->addRow(tr("&Copies:"), m_copies);
+    qobject_cast<QLabel *>(form->labelForField(m_copies))->setBuddy(m_copies->field());
     addPageRanges(form);
-    connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPage::copiesEdited);
+    connect(m_copies, &CopiesEditor::changed, this, &GeneralPage::copiesEdited);
+    connect(m_copies, &CopiesEditor::heightChanged, this, &GeneralPage::heightChanged,
+            Qt::QueuedConnection);
     connect(m_pageRanges, &QLineEdit::textChanged, this,
             [this] { Q_EMIT pageRangesEdited(pageRanges()); });
 }
@@ -145,22 +144,22 @@ void GeneralPage::scroll(QWidget *rows)
 
 int GeneralPage::copies() const
 {
-    return m_copies->value();
+    return m_copies->copies();
 }
 
 int GeneralPage::mostCopies() const
 {
-    return m_copies->maximum();
+    return m_copies->field()->most();
 }
 
 void GeneralPage::setMostCopies(int copies)
 {
-    m_copies->setMaximum(copies > 0 ? qMin(copies, kMostCopies) : kMostCopies);
+    m_copies->setMost(copies > 0 ? qMin(copies, kMostCopies) : kMostCopies);
 }
 
 void GeneralPage::setCopies(int copies)
 {
-    m_copies->setValue(copies);
+    m_copies->setCopies(copies);
 }
 
 QString GeneralPage::pageRanges() const
@@ -189,7 +188,7 @@ void GeneralPage::setCanChoosePages(bool can)
 
 void GeneralPage::setLocks(const QString &copiesBy, const QString &pagesBy)
 {
-    ControlLock::set(m_copies, copiesBy);
+    ControlLock::set(m_copies->field(), copiesBy);
     ControlLock::set(m_pageRanges, pagesBy, m_rows->labelForField(m_pageRanges));
 }
 
@@ -226,8 +225,8 @@ void GeneralPage::showChanges(const ShownChanges &changes)
 
 QWidget *GeneralPage::disclose(const QString &name)
 {
-    if (name == m_copies->objectName())
-        return m_copies;
+    if (name == m_copies->field()->objectName())
+        return m_copies->field();
     if (name == kPageRangesAttribute)
         return m_pageRanges;
     if (m_collate && name == m_collate->objectName())
@@ -255,11 +254,7 @@ void GeneralPage::showCollate(const OfferedAttribute &collate)
         m_collate->setObjectName(collate.name);
         m_collate->setText(withFreeMnemonic(textOfJobAttribute({collate.name, {}}).title,
                                             QLatin1StringView(attribute.title), window()));
-        auto *row =
-            qobject_cast<QHBoxLayout *>(m_rows->itemAt(0, QFormLayout::FieldRole)->layout());
-        row->insertSpacing(1, row->spacing());
-        row->insertWidget(2, m_collate);
-        setTabOrder(m_copies, m_collate);
+        m_copies->addBeside(m_collate);
         connectControlAction(m_collate, [this, name = collate.name](QWidget *) {
             Q_EMIT attributeProposed(name, m_collate->isChecked() ? u"true"_s : u"false"_s);
         });
@@ -278,7 +273,7 @@ void GeneralPage::showAttributeProblem(const QString &name, const QString &probl
 
 bool GeneralPage::finishEditing()
 {
-    return m_attributes->finishEditing();
+    return m_copies->finishEditing() && m_attributes->finishEditing();
 }
 
 std::optional<int> GeneralPage::missingHeight() const

@@ -16,11 +16,11 @@ class QFormLayout;
 class QLineEdit;
 class QPushButton;
 class QScrollArea;
-class QSpinBox;
 
 namespace corvana {
 
 class AttributeRows;
+class CopiesEditor;
 class CustomPaperSize;
 class PDEJobValues;
 class PpdSession;
@@ -40,6 +40,7 @@ public:
     explicit GeneralPage(PpdSession &session, const PDEJobValues *jobValues = nullptr,
                          QWidget *parent = nullptr);
 
+    /// The number that counts, which what is being typed is not while it is refused.
     int copies() const;
     /// More than mostCopies() become as many.
     void setCopies(int copies);
@@ -111,7 +112,7 @@ private:
     AttributeRows *m_attributes = nullptr;
     ChangeMarks *m_marks;
     ShownChanges m_changes;
-    QSpinBox *m_copies;
+    CopiesEditor *m_copies;
     QCheckBox *m_collate = nullptr; // where the printer can
     QLineEdit *m_pageRanges;
     QPushButton *m_choosePages;

@@ -100,8 +100,22 @@ void SheetView::setZoom(const Zoom &zoom)
     if (zoom == m_zoom)
         return;
     m_zoom = zoom;
-    layOut();
+    const bool isCurrentSeen = m_layout.paper(m_current).intersects(seenPart());
+    layOut(nearCurrent({viewport()->width() / 2, 0}));
+    if (isCurrentSeen && zoom.fit == Zoom::Fit::Page)
+        showCurrent();
     Q_EMIT zoomChanged();
+}
+
+// What of the current side is next to a place of the viewport: what was chosen to be looked at must
+// not be lost where sheets become larger. The place itself where the current side cannot be seen.
+QPoint SheetView::nearCurrent(QPoint place) const
+{
+    const QRect seen = m_layout.paper(m_current).translated(-offset()) & viewport()->rect();
+    if (seen.isEmpty())
+        return place;
+    return {qBound(seen.left(), place.x(), seen.right()),
+            qBound(seen.top(), place.y(), seen.bottom())};
 }
 
 void SheetView::zoomBy(int direction, std::optional<QPoint> fixed)
@@ -114,7 +128,7 @@ void SheetView::zoomBy(int direction, std::optional<QPoint> fixed)
     if (direction > 0 ? next == std::end(kSteps) : next == std::begin(kSteps))
         return;
     m_zoom = {Zoom::Fit::Percent, direction > 0 ? *next : *(next - 1)};
-    layOut(fixed ? fixed : viewport()->rect().center());
+    layOut(fixed ? *fixed : nearCurrent(viewport()->rect().center()));
     Q_EMIT zoomChanged();
 }
 

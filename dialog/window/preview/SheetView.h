@@ -54,7 +54,7 @@ public:
     const Zoom &zoom() const { return m_zoom; }
     void setZoom(const Zoom &zoom);
     /// To the next step of the scale, larger (1) or smaller (-1). What lies at `fixed`, a place in
-    /// the viewport, stays there.
+    /// the viewport, stays there; without one the current side stays in sight, where it is.
     void zoomBy(int direction, std::optional<QPoint> fixed = {});
     /// The scale that is shown, whatever it fits. Units: percent.
     int percent() const { return qRound(m_layout.scale() * 100); }
@@ -108,6 +108,7 @@ private:
     void setRanges(QSize room);
     Anchor anchorAt(QPoint place) const;
     void moveTo(const Anchor &anchor);
+    QPoint nearCurrent(QPoint place) const;
     QPoint offset() const;
     QRect seenPart() const;
     void tellLookedAt();

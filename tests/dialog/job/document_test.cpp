@@ -182,7 +182,8 @@ private Q_SLOTS:
                                         "PostScript, text, PNG or JPEG"_s;
         QTest::newRow("binary junk named PDF")
             << u"junk.pdf"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
-        QTest::newRow("an archive") << u"archive.zip"_s << u"PDF, PostScript, text, PNG or JPEG"_s;
+        QTest::newRow("an archive")
+            << u"archive.zip"_s << u"its contents: Zip archive. Documents can be PDF, "_s;
         QTest::newRow("a device") << u"device"_s << u"no ordinary file"_s;
     }
     void whatIsNoDocumentIsRefusedByName()

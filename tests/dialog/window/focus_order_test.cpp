@@ -11,6 +11,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "dialog/job/JobProgress.h"
+#include "dialog/window/JobFooter.h"
 #include "dialog/window/preview/SheetView.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/support/UserHands.h"
@@ -178,6 +180,40 @@ private Q_SLOTS:
         for (const QKeySequence &key : keys.uniqueKeys())
             QVERIFY2(keys.count(key) == 1,
                      qPrintable(key.toString() + u": "_s + keys.values(key).join(u", "_s)));
+    }
+
+    // The focus is on the progress then, which is no stop of Tab: what is next to it is.
+    void theButtonsAreNextWhileAJobRuns()
+    {
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line), WindowDriver::Activation::Yes);
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().phase(), PrintTask::Phase::Ready,
+                                  kWindowPatience);
+        QVERIFY(window.waitForPanel(1));
+        auto *footer = window.dialog().findChild<JobFooter *>();
+        const auto begin = [footer] {
+            footer->setCanPrint(true);
+            footer->showRunning(false);
+            footer->focusPrint();
+            footer->showRunning(true);
+            footer->setCanPrint(false);
+            footer->showProgress({}, true);
+        };
+        UserHands hands(window.dialog());
+        begin();
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"progress"_s);
+        QStringList reached;
+        for (int i = 0; i < 3; ++i) {
+            hands.key(Qt::Key_Tab);
+            reached += QApplication::focusWidget()->objectName();
+        }
+        QCOMPARE(reached, (QStringList{u"helpButton"_s, u"leave"_s, u"cancel"_s}));
+        begin();
+        hands.key(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(!footer->isAncestorOf(QApplication::focusWidget()));
+        hands.key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"helpButton"_s);
     }
 };
 

@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QPushButton>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include "dialog/job/JobProgress.h"
 #include "dialog/window/JobFooter.h"
@@ -88,6 +89,34 @@ private Q_SLOTS:
         footer.setCanPrint(true);
         footer.showRunning(false);
         QVERIFY(leave->isHidden() && print->isVisible() && footer.finder()->isVisible());
+    }
+
+    // A window that just fits stays as it is: on a small screen Print would be beside it afterwards.
+    void noJobWidensTheWindow()
+    {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        JobFooter footer;
+        layout->addWidget(&footer);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const int least = window.minimumSizeHint().width();
+        for (int width = least; width < least + 300; width += 10) {
+            window.resize(width, window.height());
+            for (const bool isCanceled : {false, true}) {
+                footer.showRunning(true);
+                footer.setCanPrint(false);
+                footer.showProgress({}, true);
+                QCOMPARE(window.width(), width);
+                if (isCanceled)
+                    footer.showCanceling();
+                QCOMPARE(window.width(), width);
+                footer.setCanPrint(true);
+                footer.showRunning(false);
+                QCoreApplication::processEvents();
+                QCOMPARE(window.width(), width);
+            }
+        }
     }
 
     // A second press of the key that printed must not close the window, or cancel the job.

@@ -159,6 +159,43 @@ private Q_SLOTS:
         QVERIFY(printed().contains("job-priority=100"));
     }
 
+    void copiesThatNobodyCanPrintAreSaidAndNothingIsPrinted_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("none") << u"0"_s << u"0"_s;
+        QTest::newRow("no number") << QString() << u"0"_s;
+        QTest::newRow("one digit too many") << u"12345"_s << u"12345"_s;
+    }
+    void copiesThatNobodyCanPrintAreSaidAndNothingIsPrinted()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        open(u"copies=7"_s);
+        auto *copies = control<QSpinBox>(u"copies"_s);
+        copies->setFocus();
+        copies->selectAll();
+        QTest::keyClick(copies, Qt::Key_Delete);
+        QTest::keyClicks(copies, typed);
+        control<QTabWidget>(u"pages"_s)->setCurrentIndex(1);
+        control<QPushButton>(u"print"_s)->click();
+        QTest::qWait(100);
+        QVERIFY(!m_filter->hasOutput());
+        QCOMPARE(control<QTabWidget>(u"pages"_s)->currentIndex(), 0);
+        QVERIFY(copies->hasFocus());
+        QCOMPARE(copies->text(), shown);
+        const auto *note = control<QLabel>(u"copiesNote"_s);
+        QVERIFY(note && note->isVisible());
+        QCOMPARE(note->text(), u"“%1” is not allowed. Allowed: 1 to 9,999."_s.arg(shown));
+        // What else is set does not replace what has to be mended.
+        QVERIFY(pick(control<QComboBox>(u"number-up"_s), u"4"_s));
+        QCOMPARE(copies->text(), shown);
+        copies->selectAll();
+        QTest::keyClicks(copies, u"2"_s);
+        QVERIFY(!note->isVisible());
+        QVERIFY(printed().contains("2"));
+    }
+
     void theWindowFollowsWhatIsDisclosedAndGoesBack()
     {
         open();

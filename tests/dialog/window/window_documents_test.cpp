@@ -85,9 +85,16 @@ private Q_SLOTS:
             u"“a.pdf” does not allow printing. Only its owner's password does."_s;
         QTRY_COMPARE_WITH_TIMEOUT(window.message(), forbids, kPatience);
         QVERIFY(!question(window));
-        QVERIFY(window.pressPrint());
-        QTRY_COMPARE(window.message(), forbids);
-        QVERIFY(window.dialog().report().isEmpty());
+        // Print says it again, and what would help stays beside it.
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(window.pressPrint());
+            QTRY_COMPARE(window.message(), forbids);
+            QCOMPARE(window.dialog().task().phase(), PrintTask::Phase::Ready);
+            QVERIFY(window.dialog().report().isEmpty());
+            QVERIFY(window.canPress(u"messageAction"_s));
+        }
+        QVERIFY(window.press(u"messageAction"_s));
+        QTRY_VERIFY(question(window));
     }
 };
 

@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QToolTip>
 
@@ -35,6 +36,13 @@ private Q_SLOTS:
     {
         QToolTip::hideText();
         m_line.reset();
+    }
+
+    // A narrow list of printers asks for it so.
+    void aPictureWithoutAnySizeIsNone()
+    {
+        QTest::failOnWarning(QRegularExpression(u"."_s));
+        QVERIFY(printerIcon(PrinterLook::Ready, IconSource::Own).pixmap(QSize(0, 16)).isNull());
     }
 
     void aPrinterShowsItsLocationAndState()

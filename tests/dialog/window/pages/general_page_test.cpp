@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -116,6 +117,42 @@ private Q_SLOTS:
         page.setMostCopies(most);
         page.setCopies(wanted);
         QCOMPARE(page.copies(), copies);
+    }
+
+    // What is refused is no number of copies, and none that arrows lead to.
+    void moreCopiesThanThePrinterMakesAreRefused()
+    {
+        const auto session = sessionFor(smallPrinter());
+        GeneralPage page(*session);
+        page.setMostCopies(20);
+        page.setCopies(2);
+        QSignalSpy edited(&page, &GeneralPage::copiesEdited);
+        auto *field = page.findChild<QSpinBox *>(u"copies"_s);
+        field->selectAll();
+        QTest::keyClicks(field, u"150"_s);
+        QCOMPARE(field->text(), u"150"_s);
+        QCOMPARE(page.copies(), 15); // the last number that could be printed
+        QCOMPARE(edited.constLast().at(0).toInt(), 15);
+        QVERIFY(!page.finishEditing());
+        QCOMPARE(page.findChild<QLabel *>(u"copiesNote"_s)->text(),
+                 u"“150” is not allowed. Allowed: 1 to 20."_s);
+        page.setCopies(15); // what counts already
+        QCOMPARE(field->text(), u"150"_s);
+        page.setMostCopies(200);
+        QVERIFY(page.finishEditing());
+        QCOMPARE(page.copies(), 150);
+        page.setMostCopies(20);
+        QCOMPARE(field->value(), 20);
+        field->stepBy(1);
+        QCOMPARE(field->value(), 20);
+        field->selectAll();
+        QTest::keyClicks(field, u"0"_s);
+        QVERIFY(!page.finishEditing());
+        page.setCopies(3); // another number: from a preset, or undone
+        QCOMPARE(field->value(), 3);
+        QVERIFY(page.finishEditing());
+        field->stepBy(-5);
+        QCOMPARE(field->value(), 1);
     }
 };
 

@@ -286,6 +286,41 @@ private Q_SLOTS:
         QCOMPARE(m_view->percent(), 100);
     }
 
+    // Small enough, several lie beside each other, and the current one in no middle of anything.
+    void theCurrentSideStaysInSightWhateverTheScale_data()
+    {
+        QTest::addColumn<int>("current");
+        for (const int sheet : {0, 1, 57, 58, 59})
+            QTest::addRow("%d", sheet) << sheet;
+    }
+    void theCurrentSideStaysInSightWhateverTheScale()
+    {
+        QFETCH(int, current);
+        show(sheetsOfPages(60));
+        const auto isSeen = [&] {
+            const QRect paper = m_view->sheetLayout().paper({current});
+            return paper.intersects(QRect(scrolled(), m_view->viewport()->size())) &&
+                   m_view->lookedAt() == current;
+        };
+        m_view->resize(800, 600);
+        m_view->setZoom({Zoom::Fit::Percent, 25});
+        QVERIFY(m_view->sheetLayout().columns() > 2);
+        m_view->setCurrent({current});
+        while (m_view->percent() < 400) {
+            m_view->zoomBy(1);
+            QVERIFY2(isSeen(), qPrintable(QString::number(m_view->percent())));
+        }
+        for (const Zoom &zoom : {Zoom{Zoom::Fit::Percent, 25}, Zoom{}, Zoom{Zoom::Fit::Percent, 25},
+                                 Zoom{Zoom::Fit::Width}, Zoom{Zoom::Fit::Percent, 25},
+                                 Zoom{Zoom::Fit::Percent, 200}}) {
+            m_view->setZoom(zoom);
+            QVERIFY2(isSeen(), qPrintable(QString::number(m_view->percent())));
+        }
+        m_view->setZoom({});
+        const QRect paper = m_view->sheetLayout().paper({current}).translated(-scrolled());
+        QVERIFY(m_view->viewport()->rect().contains(paper)); // whole, as it is named
+    }
+
     void theScaleHasItsBounds()
     {
         show(sheetsOfPages(1));
