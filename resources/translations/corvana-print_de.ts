@@ -4459,5 +4459,9 @@ Für die Befehlszeile: %2</translation>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>Dort bleiben die bisherigen Einstellungen, weil diese dort nicht zusammen möglich sind.</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Während „%1“ gespeichert wurde, wurden Einstellungen geändert: In anderen Programmen ist es, wie es vorher war. Speichern Sie es noch einmal.</translation>
+    </message>
 </context>
 </TS>

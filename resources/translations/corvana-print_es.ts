@@ -4459,5 +4459,9 @@ En la línea de órdenes: %2</translation>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>conserva los ajustes anteriores, porque estos no son posibles juntos allí.</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Se han cambiado ajustes mientras se guardaba «%1»: los otros programas lo tienen como estaba antes. Guárdelo otra vez.</translation>
+    </message>
 </context>
 </TS>

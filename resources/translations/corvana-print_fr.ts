@@ -4459,5 +4459,9 @@ Pour la ligne de commande : %2</translation>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>les réglages précédents y restent, car ceux-ci n’y sont pas possibles ensemble.</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Des réglages ont été modifiés pendant l’enregistrement de « %1 » : les autres programmes l’ont tel qu’il était avant. Enregistrez-le à nouveau.</translation>
+    </message>
 </context>
 </TS>

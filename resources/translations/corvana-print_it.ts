@@ -4459,5 +4459,9 @@ Per la riga di comando: %2</translation>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>restano le impostazioni precedenti, perché lì queste non sono possibili insieme.</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Alcune impostazioni sono state modificate durante il salvataggio di «%1»: negli altri programmi è rimasta com’era prima. Salvarla di nuovo.</translation>
+    </message>
 </context>
 </TS>

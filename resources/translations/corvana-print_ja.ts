@@ -4457,5 +4457,9 @@ For the command line: %2</source>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>この設定の組み合わせはそこでは使えないため、以前の設定のままです。</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>「%1」の保存中に設定が変更されました。ほかのプログラムでは以前のままです。もう一度保存してください。</translation>
+    </message>
 </context>
 </TS>

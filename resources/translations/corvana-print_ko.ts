@@ -4457,5 +4457,9 @@ For the command line: %2</source>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>이 설정들은 그곳에서 함께 사용할 수 없으므로 이전 설정이 그대로 유지됩니다.</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>‘%1’을(를) 저장하는 동안 설정이 변경되었습니다. 다른 프로그램에는 이전 그대로 있습니다. 다시 저장하십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -4459,5 +4459,9 @@ Na linha de comando: %2</translation>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>mantém as configurações anteriores, porque estas não são possíveis juntas lá.</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Configurações foram alteradas enquanto “%1” era salva: os outros programas a têm como estava antes. Salve-a novamente.</translation>
+    </message>
 </context>
 </TS>

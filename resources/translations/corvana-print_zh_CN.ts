@@ -4457,5 +4457,9 @@ For the command line: %2</source>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>这些设置无法在其中同时使用，因此保留以前的设置。</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>保存“%1”期间设置有更改：其他程序中仍是以前的设置。请再次保存。</translation>
+    </message>
 </context>
 </TS>

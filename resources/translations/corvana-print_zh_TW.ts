@@ -4457,5 +4457,9 @@ For the command line: %2</source>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>這些設定無法在其中同時使用，因此保留先前的設定。</translation>
     </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>儲存「%1」期間設定已變更：其他程式中仍是先前的設定。請再次儲存。</translation>
+    </message>
 </context>
 </TS>
