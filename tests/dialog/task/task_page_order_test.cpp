@@ -124,6 +124,26 @@ private Q_SLOTS:
         QVERIFY(problemsOfOrder(task.settings().attributes()).isEmpty());
     }
 
+    void whatWasTakenAlongOutlastsAnotherPrinter()
+    {
+        const Printer first = m_scene->printer(u"first"_s, smallPrinter().text());
+        const Printer second = m_scene->printer(u"second"_s, smallPrinter().text());
+        PrintTask &task = m_scene->open(m_scene->request({first, second}));
+        task.bringUp();
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
+        for (const Printer &printer : {second, first}) {
+            task.choosePrinter(printer);
+            QVERIFY(m_scene->reaches(PrintTask::Phase::Opened));
+            task.bringUp();
+        }
+        QCOMPARE(task.settings().attribute(u"booklet"_s), u"left"_s);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"None"_s);
+        QCOMPARE(task.settings().attribute(u"number-up"_s), u"4"_s);
+    }
+
     void whatWasChosenSinceStays()
     {
         PrintTask &task = open();
