@@ -72,7 +72,8 @@ QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session)
 
 QString lostText(const QStringList &lost)
 {
-    return QCoreApplication::translate("PrintTask", "Not everything could be set as before:\n%1")
+    return QCoreApplication::translate("corvana::PrintTask",
+                                       "Not everything could be set as before:\n%1")
         .arg(lost.join(u'\n'));
 }
 

@@ -3731,6 +3731,10 @@ Für die Befehlszeile: %2</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>Die Blätter können im Fach bleiben: Der zweite Durchgang wird mit den Einstellungen des ersten gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3731,6 +3731,10 @@ En la línea de órdenes: %2</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>Las hojas pueden quedarse en la bandeja: las segundas caras se imprimen con los ajustes de las primeras.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3731,6 +3731,10 @@ Pour la ligne de commande : %2</translation>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>Les feuilles peuvent rester dans le bac : le second passage est imprimé avec les réglages du premier.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

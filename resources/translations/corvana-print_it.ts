@@ -3731,6 +3731,10 @@ Per la riga di comando: %2</translation>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>I fogli possono restare nel vassoio: le seconde facciate vengono stampate con le impostazioni delle prime.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -2371,6 +2371,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>用紙はトレイに入れたままで構いません。もう一方の面は、1 回目の面と同じ設定で印刷されます。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3729,6 +3729,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>용지는 용지함에 그대로 두어도 됩니다. 다른 면은 첫 번째 면의 설정으로 인쇄됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

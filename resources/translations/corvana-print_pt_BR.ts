@@ -3731,6 +3731,10 @@ Na linha de comando: %2</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>As folhas podem ficar na bandeja: as segundas faces são impressas com as configurações das primeiras.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -2371,6 +2371,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>纸张可以留在纸盒中：另一面将按第一面的设置打印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

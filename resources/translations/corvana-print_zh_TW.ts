@@ -3729,6 +3729,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>紙張可以留在紙匣中：另一面會以第一面的設定列印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
