@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/RequestedOptions.h"
@@ -146,7 +147,8 @@ void PrintTask::applyStartOptions()
         presets().start(started);
     }
     m_chosen.ignored += policyProblems();
-    m_chosen.unset += lockedCopies() + takeMostCopies();
+    // Whoever chooses an order of pages here has room made for it; these were asked for together.
+    m_chosen.unset += lockedCopies() + takeMostCopies() + problemsOfOrder(m_settings.attributes());
     keepLocks();
 }
 

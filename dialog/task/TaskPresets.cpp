@@ -5,6 +5,7 @@
 
 #include <QSignalBlocker>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/task/PresetApplication.h"
@@ -146,6 +147,8 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
                               *m_task.opened(), m_task.settings());
         if (!ofInstance.isEmpty())
             outcome.missing += takeInstance(ofInstance);
+        // Printed together they would be refused.
+        outcome.missing += problemsOfOrder(m_task.settings().attributes());
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
