@@ -3831,8 +3831,8 @@ Für die Befehlszeile: %2</translation>
         <translation>Hilfe zum Drucken</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
-        <translation>Erneut gedruckt, kann er zweimal aus dem Drucker kommen.</translation>
+        <source>If you print it again, it may come out of the printer twice.</source>
+        <translation>Wenn Sie ihn noch einmal drucken, kommt er vielleicht zweimal aus dem Drucker.</translation>
     </message>
     <message>
         <source>Print Again</source>

@@ -3831,7 +3831,7 @@ En la línea de órdenes: %2</translation>
         <translation>Ayuda de impresión</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>Si se imprime de nuevo, puede salir dos veces de la impresora.</translation>
     </message>
     <message>

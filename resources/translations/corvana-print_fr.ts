@@ -3831,8 +3831,8 @@ Pour la ligne de commande : %2</translation>
         <translation>Aide sur l’impression</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
-        <translation>Imprimée à nouveau, elle peut sortir deux fois de l’imprimante.</translation>
+        <source>If you print it again, it may come out of the printer twice.</source>
+        <translation>Si vous l’imprimez à nouveau, elle peut sortir deux fois de l’imprimante.</translation>
     </message>
     <message>
         <source>Print Again</source>

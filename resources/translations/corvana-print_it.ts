@@ -3831,7 +3831,7 @@ Per la riga di comando: %2</translation>
         <translation>Aiuto sulla stampa</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>Se viene stampato di nuovo, può uscire due volte dalla stampante.</translation>
     </message>
     <message>

@@ -2471,7 +2471,7 @@ For the command line: %2</source>
         <translation>戻る</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>もう一度印刷すると、2 回印刷されることがあります。</translation>
     </message>
     <message>

@@ -3829,7 +3829,7 @@ For the command line: %2</source>
         <translation>인쇄 도움말</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>다시 인쇄하면 두 번 출력될 수 있습니다.</translation>
     </message>
     <message>

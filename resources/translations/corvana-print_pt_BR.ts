@@ -3831,7 +3831,7 @@ Na linha de comando: %2</translation>
         <translation>Ajuda de impressão</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>Se for impresso novamente, poderá sair duas vezes da impressora.</translation>
     </message>
     <message>

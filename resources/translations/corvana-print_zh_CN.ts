@@ -2471,7 +2471,7 @@ For the command line: %2</source>
         <translation>返回</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>再次打印可能会打印出两份。</translation>
     </message>
     <message>

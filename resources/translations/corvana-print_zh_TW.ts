@@ -3829,7 +3829,7 @@ For the command line: %2</source>
         <translation>列印說明</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>再次列印可能會印出兩份。</translation>
     </message>
     <message>
