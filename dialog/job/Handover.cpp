@@ -9,6 +9,7 @@
 #include "dialog/job/DeviceLogIn.h"
 #include "dialog/job/EarlierJob.h"
 #include "dialog/job/FollowedJob.h"
+#include "dialog/job/FormerDefaults.h"
 #include "dialog/job/JobRequests.h"
 #include "dialog/printers/QueueRequests.h"
 
@@ -76,8 +77,9 @@ private:
         if (!m_logIn.ask())
             return m_outcomes.noCredentials();
         const QString token = newJobToken();
-        const std::optional<int> job = createJob(*m_connection, m_request.printer, m_request.ticket,
-                                                 token, m_logIn.credentials());
+        const std::optional<int> job =
+            createJob(*m_connection, m_request.printer, ticketToSend(m_request, *m_connection),
+                      token, m_logIn.credentials());
         if (!job)
             return withdrawNumberless(token);
         m_outcomes.setJob(*job);
@@ -154,7 +156,7 @@ private:
     {
         if (std::optional<JobOutcome> earlier = whatBecameOfEarlierJob(m_worker, m_request))
             return earlier;
-        if (m_request.printer.origin != PrinterOrigin::Queue)
+        if (m_request.goesOn || m_request.printer.origin != PrinterOrigin::Queue)
             return std::nullopt;
         const QueueDetails now = fetchPpdOnly(*m_connection, m_request.printer);
         const PpdCopy &opened = *m_request.ppd;
@@ -164,9 +166,7 @@ private:
                 return whetherDefaultsChanged();
             return m_outcomes.printerChanged();
         case QueueDetails::Ppd::None:
-            if (opened.isWritten)
-                return whetherDefaultsChanged();
-            return m_outcomes.printerChanged();
+            return opened.isWritten ? whetherDefaultsChanged() : m_outcomes.printerChanged();
         case QueueDetails::Ppd::Unknown:
             break;
         }

@@ -33,6 +33,9 @@ struct ServerJobRequest
     /// What the queue was known to add to each job; one that adds something else by now gets
     /// nothing. Null where that does not matter.
     std::optional<QList<JobOption>> defaults{};
+    /// The other half of what was printed already: it gets what that had, whatever the queue has by
+    /// now.
+    bool goesOn = false;
     /// The document formats that an IPP printer takes; empty where everything is taken.
     QStringList formats{};
     /// The attributes that an IPP printer takes with a job; empty where everything is taken, or

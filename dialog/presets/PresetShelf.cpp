@@ -19,11 +19,13 @@ void PresetShelf::look()
 {
     m_work.run([this, store = m_store, model = m_model]() -> PresetWork::Then {
         // Only the answer, on the GUI thread, speaks of this object, which is alive then.
-        return [this, model, found = store.list(model)] {
-            if (model != m_model || found == m_listing)
-                return;
-            m_listing = found;
-            Q_EMIT changed();
+        return [this, model, found = store.list(model), instances = KnownInstances::read()] {
+            const bool hasOthers = std::exchange(m_instances, instances) != instances;
+            const bool isOther = model == m_model && found != m_listing;
+            if (isOther)
+                m_listing = found;
+            if (isOther || hasOthers)
+                Q_EMIT changed();
         };
     });
 }

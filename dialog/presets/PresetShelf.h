@@ -5,11 +5,12 @@
 #include "dialog/presets/LastUsed.h"
 #include "dialog/presets/PresetStore.h"
 #include "dialog/presets/PresetWork.h"
+#include "dialog/printers/KnownInstances.h"
 
 namespace corvana {
 
-/// The presets for one model of printers as they are known now, and what becomes of them: read and
-/// written beside the GUI thread, one after the other.
+/// The presets for one model of printers as they are known now, what other programs have beside
+/// them, and what becomes of presets: read and written beside the GUI thread, one after the other.
 ///
 /// Thread: GUI thread only.
 class PresetShelf : public QObject
@@ -28,6 +29,8 @@ public:
     void look();
     /// As far as it is known: of another model nothing.
     const PresetListing &listing() const { return m_listing; }
+    /// What stood in lpoptions when it was looked at last; nothing before that.
+    const KnownInstances &instances() const { return m_instances; }
 
     // ended() follows each of these. `along` is called on another thread, and borrows nothing.
 
@@ -38,7 +41,7 @@ public:
     void keepLastJob(const Printer &printer, const QString &server, const PresetContent &changes);
 
 Q_SIGNALS:
-    /// listing() is another one.
+    /// listing() or instances() are others.
     void changed();
     /// `problem`: why it is not done; empty when it is. `name`: of the preset as it is called now.
     void ended(corvana::PresetShelf::Change change, const QString &name, const QString &problem);
@@ -49,6 +52,7 @@ private:
     PresetStore m_store{PresetPlaces()};
     QString m_model;
     PresetListing m_listing;
+    KnownInstances m_instances;
     PresetWork m_work; // last: what it does may still use a copy of the others
 };
 

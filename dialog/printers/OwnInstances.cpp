@@ -195,35 +195,39 @@ QString OwnInstances::damage() const
                : QString();
 }
 
-QString OwnInstances::note(const QString &name, const OwnInstance &instance,
-                           const QList<JobOption> &options) const
+QString OwnInstances::note(const QMap<QString, QList<JobOption>> &options,
+                           const OwnInstance &instance) const
 {
     return change(m_path, [&](QJsonObject *instances) {
-        QJsonObject object = instances->value(name).toObject();
-        object[kSettings] = instance.settings;
-        object.remove(kModel);
-        if (instance.model)
-            object[kModel] = *instance.model;
-        object[kForAll] = instance.isForAll;
-        QJsonArray written = object.value(kWritten).toArray();
-        written.prepend(asLine(options));
-        while (written.size() > kMostWritten)
-            written.removeLast();
-        object[kWritten] = written;
-        instances->insert(name, object);
+        for (auto it = options.cbegin(); it != options.cend(); ++it) {
+            QJsonObject object = instances->value(it.key()).toObject();
+            object[kSettings] = instance.settings;
+            object.remove(kModel);
+            if (instance.model)
+                object[kModel] = *instance.model;
+            object[kForAll] = instance.isForAll;
+            QJsonArray written = object.value(kWritten).toArray();
+            written.prepend(asLine(*it));
+            while (written.size() > kMostWritten)
+                written.removeLast();
+            object[kWritten] = written;
+            instances->insert(it.key(), object);
+        }
     });
 }
 
-QString OwnInstances::noteFailure(const QString &name) const
+QString OwnInstances::noteFailure(const QStringList &names) const
 {
     return change(m_path, [&](QJsonObject *instances) {
-        QJsonObject object = instances->value(name).toObject();
-        QJsonArray written = object.value(kWritten).toArray();
-        if (written.size() < 2)
-            return;
-        written.insert(1, written.takeAt(0));
-        object[kWritten] = written;
-        instances->insert(name, object);
+        for (const QString &name : names) {
+            QJsonObject object = instances->value(name).toObject();
+            QJsonArray written = object.value(kWritten).toArray();
+            if (written.size() < 2)
+                continue;
+            written.insert(1, written.takeAt(0));
+            object[kWritten] = written;
+            instances->insert(name, object);
+        }
     });
 }
 

@@ -25,6 +25,10 @@ struct OwnInstance
 
     bool operator==(const OwnInstance &) const = default;
 
+    /// Whether its settings are no preset's: no preset of that name changes or removes it. What
+    /// earlier versions have noted may be either.
+    bool isByItself() const { return !model && !written.isEmpty(); }
+
     /// Whether an instance is still what was written. What libcups does to it when it writes the
     /// file is no change: it leaves out attributes that the queue has as defaults, and adds what
     /// the user has set for the queue (`ofQueue`). Anything else is somebody else's work.
@@ -53,13 +57,12 @@ public:
     // Errors: these answer a sentence for the user, and nothing has changed. A file that is damaged
     // is kept beside the new one, as "instances.json.damaged".
 
-    /// Before an instance is written: `options` are what will stand there. Of `instance`, what was
-    /// written before is not looked at.
-    QString note(const QString &name, const OwnInstance &instance,
-                 const QList<JobOption> &options) const;
+    /// Before instances are written: `options` are what will stand there, by their names. Of
+    /// `instance`, what was written before is not looked at.
+    QString note(const QMap<QString, QList<JobOption>> &options, const OwnInstance &instance) const;
     /// What was noted last has not got into the file, as far as is known: what was noted before it
     /// is forgotten after it.
-    QString noteFailure(const QString &name) const;
+    QString noteFailure(const QStringList &names) const;
     /// Settings have another name now.
     QString rename(const QStringList &names, const QString &settings) const;
     QString forget(const QStringList &names) const;

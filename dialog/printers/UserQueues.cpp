@@ -69,9 +69,9 @@ QStringList UserQueues::instancesOf(const QString &queue) const
     return instances;
 }
 
-UserQueues userQueuesIn(const QByteArray &content)
+UserQueues userQueuesIn(const QByteArray &content, const UserQueues &before)
 {
-    UserQueues queues;
+    UserQueues queues = before;
     readLines(content, &queues);
     return queues;
 }

@@ -18,6 +18,8 @@ struct UserQueues
     /// "NAME" or "NAME/INSTANCE" to its options, in the order of the files.
     QMap<QString, QList<JobOption>> options;
 
+    bool operator==(const UserQueues &) const = default;
+
     /// What was set for "NAME" or "NAME/INSTANCE", in whatever spelling of the name.
     QList<JobOption> optionsOf(const QString &name) const;
     /// Whether there is an instance of that name; every queue is one without a name.
@@ -30,8 +32,8 @@ struct UserQueues
 /// environment, in front of both.
 UserQueues readUserQueues();
 
-/// What one file says, by its content.
-UserQueues userQueuesIn(const QByteArray &content);
+/// What a file adds to the ones before, by its content.
+UserQueues userQueuesIn(const QByteArray &content, const UserQueues &before = {});
 
 /// Reads lpoptions files, each of which adds to the ones before. A missing file is none.
 UserQueues readUserQueues(const QStringList &files);

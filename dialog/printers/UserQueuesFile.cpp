@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -68,14 +69,53 @@ bool hasInstance(const QByteArray &content, const QString &name, const QList<Job
     return isThere;
 }
 
-// Whether somebody else's work stands there under a name.
-bool hasToStay(const QByteArray &content, const QString &name, const UserQueuesFile::MayGo &mayGo)
+// What is made of a file as it was found, under its lock.
+struct Round
 {
-    if (!mayGo)
-        return false;
-    const UserQueues queues = userQueuesIn(content);
-    return queues.hasInstance(name) &&
-           !mayGo(queues.optionsOf(name), queues.optionsOf(queueOfInstance(name)));
+    QByteArray content{};
+    QList<InstanceLine> made{};
+    QMap<QString, QString> problems{}; // of those that are as they were
+};
+
+Round roundOf(const QByteArray &content, const QList<InstanceLine> &lines,
+              const UserQueuesFile::Staying &staying)
+{
+    const bool isPacked = content.startsWith(kPacked);
+    QStringList names;
+    for (const InstanceLine &line : lines)
+        names += line.name;
+    const QStringList stay = staying ? staying(content, names) : QStringList();
+    Round round{content};
+    for (const InstanceLine &line : lines) {
+        const QString &name = line.name;
+        if (isPacked && line.options) {
+            round.problems[name] =
+                Texts::tr("The file of lpoptions is packed, and cannot be changed here.");
+        } else if (stay.contains(name)) {
+            if (line.options)
+                round.problems[name] =
+                    Texts::tr("“%1” was changed by another program, and is left as it is.")
+                        .arg(name);
+        } else if (!line.options && isDefault(content, name)) {
+            round.problems[name] =
+                Texts::tr("“%1” is your default printer, and stays: choose another one first.")
+                    .arg(name);
+        } else {
+            round.content = line.options ? withInstance(round.content, name, *line.options)
+                                         : withoutInstance(round.content, name);
+            round.made += line;
+        }
+    }
+    return round;
+}
+
+// Whether a file says what was made of it.
+bool isMade(const QList<InstanceLine> &lines, const QByteArray &content)
+{
+    return std::all_of(lines.cbegin(), lines.cend(), [&](const InstanceLine &line) {
+        return line.options ? hasInstance(content, line.name, *line.options)
+                            : withoutInstance(content, line.name) == content;
+    });
 }
 
 // What libcups finds in the line that would be written, as far as it is something else.
@@ -102,44 +142,35 @@ QString systemUserQueues()
     return qEnvironmentVariable("CUPS_SERVERROOT", u"/etc/cups"_s) + u"/lpoptions"_s;
 }
 
-QString UserQueuesFile::setInstance(const QString &name, const QList<JobOption> &options,
-                                    const MayGo &mayGo) const
+QMap<QString, QString> UserQueuesFile::change(const QList<InstanceLine> &lines,
+                                              const Staying &staying) const
 {
-    if (const QString problem = problemOfInstance(name, options); !problem.isEmpty())
-        return problem;
-    bool isPacked = false;
-    bool isKept = false;
-    const QString problem = m_file.change(
-        {[&](const QByteArray &content) {
-             isPacked = content.startsWith(kPacked);
-             isKept = isPacked || hasToStay(content, name, mayGo);
-             return isKept ? content : withInstance(content, name, options);
-         },
-         [&](const QByteArray &content) { return isKept || hasInstance(content, name, options); }});
-    if (problem.isEmpty() && isPacked)
-        return Texts::tr("The file of lpoptions is packed, and cannot be changed here.");
-    if (problem.isEmpty() && isKept)
-        return Texts::tr("“%1” was changed by another program, and is left as it is.").arg(name);
-    return problem;
-}
-
-QString UserQueuesFile::removeInstance(const QString &name, const MayGo &mayGo) const
-{
-    bool staysDefault = false;
-    bool isKept = false;
-    const QString problem = m_file.change(
-        {[&](const QByteArray &content) {
-             isKept = hasToStay(content, name, mayGo);
-             staysDefault = !isKept && isDefault(content, name);
-             return isKept || staysDefault ? content : withoutInstance(content, name);
-         },
-         [&](const QByteArray &content) {
-             return isKept || staysDefault || withoutInstance(content, name) == content;
-         }});
-    if (problem.isEmpty() && staysDefault)
-        return Texts::tr("“%1” is your default printer, and stays: choose another one first.")
-            .arg(name);
-    return problem;
+    QMap<QString, QString> problems;
+    QList<InstanceLine> possible;
+    for (const InstanceLine &line : lines) {
+        const QString problem =
+            line.options ? problemOfInstance(line.name, *line.options) : QString();
+        if (problem.isEmpty())
+            possible += line;
+        else
+            problems[line.name] = problem;
+    }
+    if (possible.isEmpty())
+        return problems;
+    Round round;
+    const QString problem =
+        m_file.change({[&](const QByteArray &content) {
+                           round = roundOf(content, possible, staying);
+                           return round.content;
+                       },
+                       [&](const QByteArray &content) { return isMade(round.made, content); }});
+    if (problem.isEmpty()) {
+        problems.insert(round.problems);
+        return problems;
+    }
+    for (const InstanceLine &line : std::as_const(possible))
+        problems[line.name] = problem;
+    return problems;
 }
 
 QString problemOfInstance(const QString &name, const QList<JobOption> &options)

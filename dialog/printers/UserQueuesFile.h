@@ -1,10 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include "dialog/printers/SharedFile.h"
 #include "platform/pde/PDEJobValues.h"
@@ -18,27 +21,32 @@ QString systemUserQueues();
 /// No more than this is read of an lpoptions file.
 inline constexpr qint64 kMostBytesOfUserQueues = kMostBytesOfSharedFile;
 
+/// What is to become of an instance in a file.
+struct InstanceLine
+{
+    QString name;                            ///< "NAME/INSTANCE"
+    std::optional<QList<JobOption>> options; ///< what it says from now on; nothing: it goes
+};
+
 /// The user's lpoptions, to change the instances in it: of "NAME/INSTANCE" each line says something
 /// else afterwards, or is gone, and every other byte is what it was.
 ///
-/// Thread: any; both wait (SharedFile). Errors: both answer a sentence for the user, and the file
-/// is as it was.
+/// Thread: any; it waits (SharedFile), however many instances there are, once.
 class UserQueuesFile
 {
 public:
-    /// Whether an instance may be replaced or removed, by what stands there and what the file says
-    /// of its queue. Asked under the lock, perhaps several times.
-    using MayGo =
-        std::function<bool(const QList<JobOption> &found, const QList<JobOption> &ofQueue)>;
+    /// Which of some instances have to stay, by what the file says. Asked under the lock, perhaps
+    /// several times.
+    using Staying = std::function<QStringList(const QByteArray &content, const QStringList &names)>;
 
     explicit UserQueuesFile(const QString &path = ownUserQueues()) : m_file(path) {}
 
-    /// Writes an instance, instead of what stood there under its name. `mayGo`: null for any.
-    QString setInstance(const QString &name, const QList<JobOption> &options,
-                        const MayGo &mayGo = {}) const;
-    /// Removes an instance; the user's default is not removed. One that may not go stays, and that
-    /// is no problem.
-    QString removeInstance(const QString &name, const MayGo &mayGo = {}) const;
+    /// Writes instances, instead of what stood there under their names, and removes others, each at
+    /// most once; the user's default is not removed. One that is to be removed and has to stay is
+    /// no problem. `staying`: null for none. Errors: answers a sentence for the user for each that
+    /// is as it was; all others are done.
+    QMap<QString, QString> change(const QList<InstanceLine> &lines,
+                                  const Staying &staying = {}) const;
 
 private:
     SharedFile m_file;

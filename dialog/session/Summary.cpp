@@ -63,15 +63,13 @@ SummaryLine lineOf(const PpdSession &session, const JobOption &option)
     ppd_option_t *known = ppdOption(session.ppd(), option.name);
     const QString title = ppdText(known->text).value_or(option.name);
     const ppd_choice_t *choice = ppdChoice(known, option.value);
-    if (!choice)
-        return {title,
-                option.value.startsWith(kCustomPrefix)
-                    ? customText(session, option.name, option.value)
-                    : option.value,
-                option.name};
-    if (isSecretChoice(session.ppd(), option.name, option.value))
+    if (!choice && option.value.startsWith(kCustomPrefix))
+        return {title, customText(session, option.name, option.value), option.name};
+    if (isSecretChoice(session.ppd(), option.name, option.value) ||
+        (!choice && isSecret(session.ppd(), option.name)))
         return {title, QString(kHiddenLength, u'•'), option.name};
-    return {title, ppdText(choice->text).value_or(option.value), option.name};
+    return {title, choice ? ppdText(choice->text).value_or(option.value) : option.value,
+            option.name};
 }
 
 // A panel has no line for what does not count beside others of its settings, such as the color

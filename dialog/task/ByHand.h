@@ -37,6 +37,9 @@ struct HandRun
     bool isSecond = false;
     /// A job of an earlier try of the second pass whose fate is not known, or 0.
     int earlierJob = 0;
+    /// Somebody knows that the printer has other options by now, and wants the other sides with
+    /// those of the first.
+    bool goesOn = false;
 };
 
 /// Whether sheets can be put back into a printer by hand for their backs: it does not turn them

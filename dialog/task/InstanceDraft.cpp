@@ -8,7 +8,6 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/presets/PresetContent.h"
 #include "dialog/printers/PrinterId.h"
-#include "dialog/printers/UserQueuesFile.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
@@ -203,14 +202,12 @@ void fill(InstanceDraft *draft, const OpenedPrinter &printer, const JobSettings 
     draft->problem = problemOfInstance(draft->name, draft->options);
 }
 
-// Asks under the lock of the file whether what stands there is still what was written here.
-UserQueuesFile::MayGo mayReplace(const QString &instance)
+// An order of sheets stands there as filters have to be told, and is said again wherever that
+// differs.
+QList<JobOption> withoutOrder(QList<JobOption> options)
 {
-    return [instance](const QList<JobOption> &found, const QList<JobOption> &ofQueue) {
-        const QMap<QString, OwnInstance> own = OwnInstances().read();
-        const auto it = own.find(instance);
-        return it != own.cend() && it->isAsWritten(found, ofQueue);
-    };
+    options.removeIf([](const JobOption &one) { return one.name == kOutputOrderAttribute; });
+    return options;
 }
 
 // A name that nothing has yet.
@@ -225,23 +222,28 @@ QString freeName(const QString &queue, const UserQueues &queues)
 }
 
 // One of ours is replaced by settings of the same name only. Two names for people may be one for
-// other programs: "A O" and "Ä Ö".
-bool mayBeReplaced(const QString &instance, const QString &settings, const KnownInstances &known)
+// other programs: "A O" and "Ä Ö". A preset is not what was kept by itself under its name.
+bool mayBeReplaced(const QString &instance, const QString &settings, bool areOfPreset,
+                   const KnownInstances &known)
 {
     return std::any_of(known.own.keyValueBegin(), known.own.keyValueEnd(), [&](const auto &one) {
+        const OwnInstance &own = one.second;
         return isSameQueue(one.first, instance) &&
-               one.second.settings.compare(settings, Qt::CaseInsensitive) == 0;
+               own.settings.compare(settings, Qt::CaseInsensitive) == 0 &&
+               (areOfPreset ? !own.isByItself() : !own.model);
     });
 }
 
-QString problemOfName(const QString &typed, const QString &settings, const QString &queue,
+QString problemOfName(const QString &typed, const QString &preset, const QString &queue,
                       const InstanceDraft &draft, const KnownInstances &known)
 {
+    const QString settings = preset.isNull() ? typed : preset;
     if (draft.name.isEmpty())
         return Texts::tr("“%1” has no letters that other programs can print to. Give it a name of "
                          "letters from a to z, such as “%2”.")
             .arg(typed, freeName(queue, known.queues).section(u'/', 1));
-    if (known.queues.hasInstance(draft.name) && !mayBeReplaced(draft.name, settings, known))
+    if (known.queues.hasInstance(draft.name) &&
+        !mayBeReplaced(draft.name, settings, !preset.isNull(), known))
         return Texts::tr("“%1” is there already, with settings of its own. Choose another name, or "
                          "remove it with “lpoptions -x %1”.")
             .arg(draft.name);
@@ -269,37 +271,9 @@ QString instanceNameOf(const QString &name)
     return plain;
 }
 
-KnownInstances KnownInstances::read()
-{
-    KnownInstances known{readUserQueues(), OwnInstances().read()};
-    // What the system's file has of that name is not ours.
-    const UserQueues users = readUserQueues({ownUserQueues()});
-    for (auto it = known.own.begin(); it != known.own.end();) {
-        const bool isThere = users.hasInstance(it.key());
-        const bool isOurs = isThere
-                                ? it->isAsWritten(users.optionsOf(it.key()),
-                                                  known.queues.optionsOf(queueOfInstance(it.key())))
-                                : !known.queues.hasInstance(it.key());
-        if (!isOurs)
-            known.changedByOthers.insert(it.key(), *it);
-        it = isOurs ? std::next(it) : known.own.erase(it);
-    }
-    return known;
-}
-
-QString KnownInstances::ofSettings(const QString &settings, const QString &queue) const
-{
-    for (auto it = own.cbegin(); it != own.cend(); ++it) {
-        if (it->settings == settings && isSameQueue(queueOfInstance(it.key()), queue) &&
-            queues.hasInstance(it.key()))
-            return it.key();
-    }
-    return {};
-}
-
 InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
                            const JobSettings &settings, const KnownInstances &known,
-                           const QString &of)
+                           const QString &preset)
 {
     InstanceDraft draft;
     draft.problem = problemOfPrinter(printer, settings);
@@ -308,18 +282,20 @@ InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
     const QString queue = queueOfInstance(printer.fetched.printer.name);
     if (const QString plain = instanceNameOf(name); !plain.isEmpty())
         draft.name = queue + u'/' + plain;
-    draft.problem = problemOfName(name, of.isNull() ? name : of, queue, draft, known);
+    draft.problem = problemOfName(name, preset, queue, draft, known);
     return draft;
 }
 
 InstanceDraft draftInstance(const QString &name, const OpenedPrinter &printer,
                             const JobSettings &settings, const KnownInstances &known,
-                            bool withDevice, const QString &of)
+                            bool withDevice, const QString &preset)
 {
-    InstanceDraft draft = nameInstance(name, printer, settings, known, of);
+    InstanceDraft draft = nameInstance(name, printer, settings, known, preset);
     if (!draft.problem.isEmpty())
         return draft;
-    fill(&draft, printer, settings, known, withDevice, {});
+    // What the system's file says of that name is added to what is written here.
+    fill(&draft, printer, settings, known, withDevice,
+         withoutOrder(known.ofSystem.optionsOf(draft.name)));
     return draft;
 }
 
@@ -330,9 +306,7 @@ InstanceDraft draftForOther(const QString &instance, const OpenedPrinter &printe
     InstanceDraft draft;
     draft.name = instance;
     draft.problem = problemOfSettings(printer, settings);
-    QList<JobOption> former = known.queues.optionsOf(instance);
-    // It stands there as filters have to be told, and is said again wherever that differs.
-    former.removeIf([](const JobOption &option) { return option.name == kOutputOrderAttribute; });
+    const QList<JobOption> former = withoutOrder(known.queues.optionsOf(instance));
     if (!draft.problem.isEmpty())
         return draft;
     fill(&draft, printer, settings, known, withDevice, former);
@@ -350,37 +324,6 @@ QList<JobOption> asInstanceMeansIt(const QList<JobOption> &options, const OwnIns
     return own.written.isEmpty() || !isNamed(options, kOutputOrderAttribute)
                ? options
                : withOrderForFilters(options, ppd);
-}
-
-QString writeInstance(const InstanceDraft &draft, const OwnInstance &of)
-{
-    if (const QString problem = problemOfInstance(draft.name, draft.options); !problem.isEmpty())
-        return problem;
-    // First of all, so that what is written is known as ours whatever happens then.
-    const OwnInstances own;
-    if (const QString problem = own.note(draft.name, of, draft.options); !problem.isEmpty())
-        return problem;
-    const QString problem =
-        UserQueuesFile().setInstance(draft.name, draft.options, mayReplace(draft.name));
-    // What stands there stays known as ours, however often this fails.
-    if (!problem.isEmpty())
-        own.noteFailure(draft.name);
-    return problem;
-}
-
-QStringList removeInstances(const QStringList &instances)
-{
-    QStringList problems;
-    QStringList gone;
-    for (const QString &instance : instances) {
-        const QString problem = UserQueuesFile().removeInstance(instance, mayReplace(instance));
-        if (problem.isEmpty())
-            gone += instance;
-        else
-            problems += problem;
-    }
-    const QString problem = gone.isEmpty() ? QString() : OwnInstances().forget(gone);
-    return problem.isEmpty() ? problems : problems + QStringList{problem};
 }
 
 } // namespace corvana

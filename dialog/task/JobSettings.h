@@ -85,6 +85,8 @@ public:
 
     /// What the order of pages has taken along, to be given back with it.
     void noteTakenAlong(const TakenAlong &taken) { m_takenAlong += taken; }
+    const QList<TakenAlong> &takenAlong() const { return m_takenAlong; }
+    void restoreTakenAlong(const QList<TakenAlong> &taken) { m_takenAlong = taken; }
     QList<TakenAlong> takeBackTakenAlong() { return std::exchange(m_takenAlong, {}); }
     /// Somebody has chosen it since: it stays.
     void keepTakenAlong(const QString &name);

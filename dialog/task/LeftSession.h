@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "dialog/session/PpdSession.h"
+#include "dialog/task/JobSettings.h"
 #include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
@@ -23,6 +24,8 @@ struct LeftSession
     QList<JobOption> attributes; ///< of the job, but for its pages
     std::optional<int> copies{}; ///< where the printer's own options asked for them
     QList<JobOption> chosen{};   ///< attributes, as JobSettings::chosenAttributes() has them
+    /// What an order of pages has taken along, to be given back when it is not wanted any more.
+    QList<TakenAlong> takenAlong{};
 };
 
 /// Brings a session that was just opened to where it was left, before any panel is built on it.

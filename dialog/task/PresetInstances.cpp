@@ -43,15 +43,20 @@ QString problemOnQueue(const InstanceDraft &draft, const InstanceChanges &change
                : QString();
 }
 
-QString write(const InstanceDraft &draft, const InstanceChanges &changes)
+// Why a draft cannot be written; empty where it can.
+QString problemOf(const InstanceDraft &draft, const InstanceChanges &changes)
 {
     if (!draft.problem.isEmpty())
         return draft.problem;
-    if (!changes.of.isOnOpenQueue(draft.name)) {
-        if (const QString problem = problemOnQueue(draft, changes); !problem.isEmpty())
-            return problem;
-    }
-    return writeInstance(draft, changes.of.noted());
+    return changes.of.isOnOpenQueue(draft.name) ? QString() : problemOnQueue(draft, changes);
+}
+
+QStringList removeInstances(const QStringList &instances)
+{
+    QList<InstanceLine> lines;
+    for (const QString &instance : instances)
+        lines += {instance, std::nullopt};
+    return changeInstances(lines, {}).values();
 }
 
 // Once: the list begins anew, beside the damaged one.
@@ -64,7 +69,34 @@ void sayDamage(InstancesOutcome *outcome)
     }
 }
 
+// Once: they are nobody's of ours from now on. Twice looked at: before, another window or lpoptions
+// may have been writing.
+void sayChangedByOthers(const InstancePreset &preset, const KnownInstances &before,
+                        InstancesOutcome *outcome)
+{
+    QStringList changed = preset.among(before.changedByOthers);
+    if (changed.isEmpty())
+        return;
+    const KnownInstances now = KnownInstances::read();
+    changed.removeIf([&](const QString &name) { return !now.changedByOthers.contains(name); });
+    if (changed.isEmpty())
+        return;
+    for (const QString &instance : std::as_const(changed))
+        outcome->add({}, Texts::tr("“%1” was changed by another program, and is left as it is from "
+                                   "now on.")
+                             .arg(instance));
+    if (const QString problem = OwnInstances().forget(changed); !problem.isEmpty())
+        outcome->problems += problem;
+}
+
 } // namespace
+
+QString changedMeanwhileText(const QString &preset)
+{
+    return Texts::tr("Settings were changed while “%1” was saved: other programs have it as it was "
+                     "before. Save it again.")
+        .arg(preset);
+}
 
 QString otherModelText()
 {
@@ -79,7 +111,7 @@ bool InstancePreset::isOnOpenQueue(const QString &instance) const
 
 bool InstancePreset::has(const QString &instance, const OwnInstance &own) const
 {
-    if (own.settings != name || (own.model && own.isForAll != isForAll))
+    if (own.settings != name || own.isByItself() || (own.model && own.isForAll != isForAll))
         return false;
     return isOnOpenQueue(instance) || (own.model && (isForAll || *own.model == model));
 }
@@ -102,29 +134,36 @@ void InstancesOutcome::add(const QString &instance, const QString &problem)
 
 void changeInstances(const InstanceChanges &changes, InstancesOutcome *outcome)
 {
-    sayDamage(outcome);
-    for (const InstanceDraft &draft : changes.drafts) {
-        if (const QString problem = write(draft, changes); problem.isEmpty())
-            outcome->written += draft;
-        else
-            outcome->add(draft.name, problem);
-    }
-    outcome->problems += removeInstances(changes.removed);
-    // Once more: when it was looked at before, another window or lpoptions may have been writing.
-    QStringList changedByOthers = changes.changedByOthers;
-    if (!changedByOthers.isEmpty()) {
-        const KnownInstances now = KnownInstances::read();
-        changedByOthers.removeIf(
-            [&](const QString &instance) { return !now.changedByOthers.contains(instance); });
-    }
-    for (const QString &instance : std::as_const(changedByOthers))
-        outcome->add({}, Texts::tr("“%1” was changed by another program, and is left as it is from "
-                                   "now on.")
-                             .arg(instance));
-    if (changedByOthers.isEmpty())
+    const KnownInstances before = KnownInstances::read();
+    const bool hasSome =
+        !changes.drafts.isEmpty() || !changes.removed.isEmpty() ||
+        !(changes.of.among(before.own) + changes.of.among(before.changedByOthers)).isEmpty();
+    if (hasSome && before != changes.known) {
+        outcome->news = before;
         return;
-    if (const QString problem = OwnInstances().forget(changedByOthers); !problem.isEmpty())
-        outcome->problems += problem;
+    }
+    sayDamage(outcome);
+    QList<InstanceDraft> drafts;
+    QList<InstanceLine> lines;
+    for (const InstanceDraft &draft : changes.drafts) {
+        if (const QString problem = problemOf(draft, changes); !problem.isEmpty()) {
+            outcome->add(draft.name, problem);
+            continue;
+        }
+        drafts += draft;
+        lines += {draft.name, draft.options};
+    }
+    for (const QString &removed : changes.removed)
+        lines += {removed, std::nullopt};
+    QMap<QString, QString> problems = changeInstances(lines, changes.of.noted());
+    for (const InstanceDraft &draft : std::as_const(drafts)) {
+        if (problems.contains(draft.name))
+            outcome->add(draft.name, problems.take(draft.name));
+        else
+            outcome->written += draft;
+    }
+    outcome->problems += problems.values();
+    sayChangedByOthers(changes.of, before, outcome);
 }
 
 void removeInstancesOf(const InstancePreset &preset, InstancesOutcome *outcome)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "dialog/task/InstanceDraft.h"
 
@@ -27,8 +28,8 @@ struct InstanceChanges
     InstancePreset of{};
     QList<InstanceDraft> drafts{}; ///< to be written, but those with a problem
     QStringList removed{};
-    QStringList changedByOthers{}; ///< nobody's of ours from now on, which is said once
-    QString server{};              ///< as printers are cached
+    QString server{};       ///< as printers are cached
+    KnownInstances known{}; ///< what this was made of
 };
 
 /// What has become of them.
@@ -36,12 +37,18 @@ struct InstancesOutcome
 {
     QList<InstanceDraft> written{};
     QStringList problems{}; ///< a sentence each, for the user
+    /// What is known by now, where that is something else than what the changes were made of:
+    /// nothing was done, and they have to be made anew.
+    std::optional<KnownInstances> news{};
 
     void add(const QString &instance, const QString &problem);
 };
 
 /// Why an instance of a preset for all printers is not written from a printer of another model.
 QString otherModelText();
+/// What is said of a preset's instances that are as they were, because its settings were changed
+/// while they were to be written.
+QString changedMeanwhileText(const QString &preset);
 
 // Thread: any; they wait for other programs that write lpoptions.
 

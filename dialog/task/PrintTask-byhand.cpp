@@ -63,6 +63,7 @@ void PrintTask::startPass()
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
     request.earlierJob = run.isSecond ? run.earlierJob : memory.earlierJob;
     request.earlierDocuments = request.earlierJob > 0 ? 1 : 0;
+    request.goesOn = run.goesOn;
     const PassSource source{run.isSecond ? run.passes.second : run.passes.first, run.documents};
     followJob(std::make_unique<PassJob>(request, source, sides));
 }
@@ -93,10 +94,18 @@ std::optional<JobOutcome> PrintTask::afterPass(const JobOutcome &outcome)
     } else {
         whole.text = textOfHalf(outcome.text);
         // An earlier try of the other sides that has got there is as good as this one.
-        if (outcome.isDone() || outcome.kind == Kind::AlreadyThere ||
-            outcome.kind == Kind::PrinterChanged)
+        if (outcome.isDone() || outcome.kind == Kind::AlreadyThere)
             return whole;
         run.question.problem = tr("Other sides: %1").arg(outcome.text);
+        // The sheets lie in the tray, and half of them would be lost. Their other sides belong to
+        // what is printed, not to what the printer would do by now; whoever sees a reason not to
+        // go on takes them out.
+        run.goesOn = run.goesOn || outcome.kind == Kind::PrinterChanged;
+        if (outcome.kind == Kind::PrinterChanged)
+            run.question.problem =
+                tr("%1 %2").arg(run.question.problem,
+                                tr("The sheets can stay in the tray: the other sides are printed "
+                                   "with the settings of the first ones."));
         if (outcome.kind == Kind::Unknown || outcome.kind == Kind::Stopped)
             run.earlierJob = outcome.job;
         else if (outcome.job > 0)

@@ -1,5 +1,6 @@
 #include "dialog/task/PrintTask.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QTimer>
@@ -60,8 +61,17 @@ void PrintTask::addDocuments(const QStringList &paths)
 // to wait for it.
 void PrintTask::readDocuments()
 {
-    if (!m_looks.read.isEmpty() && !canChangeDocuments()) // when the job has ended
+    const bool areSome = !m_looks.read.isEmpty() || !m_looks.readOfRequest.isEmpty();
+    if (areSome && !canChangeDocuments()) // when the job has ended
         return QTimer::singleShot(kPatience, this, &PrintTask::readDocuments);
+    // Those that the task was started with are nobody's step.
+    if (const auto first = std::exchange(m_looks.readOfRequest, {}); !first.isEmpty()) {
+        recordStep(); // what was typed just now
+        m_baseline.history.addToAll(first);
+        if (m_baseline.coming)
+            m_baseline.coming->documents += first;
+        setDocuments(m_request.documents + first);
+    }
     if (!m_looks.read.isEmpty())
         chooseDocuments(m_request.documents + std::exchange(m_looks.read, {}));
     if (m_looks.reading) {
@@ -75,6 +85,8 @@ void PrintTask::readDocuments()
         return;
     }
     const QString path = m_looks.toRead.takeFirst();
+    QList<Document> *behind = m_looks.requested > 0 ? &m_looks.readOfRequest : &m_looks.read;
+    m_looks.requested = std::max<qsizetype>(m_looks.requested - 1, 0);
     const auto cancel = [this] {
         m_looks.reading.reset();
         Q_EMIT unsaid();
@@ -86,16 +98,16 @@ void PrintTask::readDocuments()
                          .take = cancel,
                          .staysWithoutPrinter = true};
     Q_EMIT said(m_looks.sayingWhatIsRead());
-    m_looks.reading =
-        std::make_unique<SlowWork>([this, path](const std::stop_token &stop) -> SlowWork::Then {
+    m_looks.reading = std::make_unique<SlowWork>(
+        [this, path, behind](const std::stop_token &stop) -> SlowWork::Then {
             QString problem;
             const Document document = inspectDocument(path, &problem, DocumentKinds::Known, stop);
-            return [this, document, problem] {
+            return [this, behind, document, problem] {
                 m_looks.reading.release()->deleteLater(); // which has called this
                 if (document.path.isEmpty())
                     m_looks.unread += problem;
                 else
-                    m_looks.read += document;
+                    *behind += document;
                 readDocuments();
             };
         });

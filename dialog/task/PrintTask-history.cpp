@@ -10,6 +10,7 @@
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/OrderOfPages.h"
+#include "dialog/task/RefusalText.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/TaskPresets.h"
 #include "platform/pde/PDEPanel.h"
@@ -31,12 +32,12 @@ QStringList withOtherForm(QStringList names)
 // marked when it was opened with those, and with these.
 SessionSnapshot withOptionsOfNow(const TaskSettings &settings, const SessionSnapshot &then,
                                  const SessionSnapshot &opened, const QByteArray &hash,
-                                 PpdSession &session)
+                                 PpdSession &session, QStringList *lost)
 {
     if (settings.ppdHash == hash)
         return settings.session;
     session.restore(opened);
-    restoreLeft(
+    *lost = restoreLeft(
         {.opened = then, .left = settings.session, .ppdHash = settings.ppdHash, .attributes = {}},
         hash, session);
     return session.snapshot();
@@ -68,6 +69,8 @@ void PrintTask::restoreSettings(const TaskSettings &settings)
         return choosePrinter(settings.printer);
     takeComingSettings();
     showSettings();
+    if (const QStringList lost = std::exchange(m_baseline.lost, {}); !lost.isEmpty())
+        say(TaskMessage::Kind::Problem, lostText(lost));
 }
 
 // The settings that were asked for, when the printer that they are for is open.
@@ -76,11 +79,13 @@ void PrintTask::takeComingSettings()
     const std::optional<TaskSettings> settings = std::exchange(m_baseline.coming, std::nullopt);
     if (!settings || idOf(settings->printer) != idOf(m_chosen.printer))
         return;
-    const bool isKnown = m_baseline.everOpened.contains(settings->ppdHash);
+    const QHash<QByteArray, SessionSnapshot> opened =
+        m_memory.value(idOf(settings->printer)).opened;
+    const bool isKnown = opened.contains(settings->ppdHash);
     if (isKnown || settings->ppdHash == m_opened->fetched.ppd->hash) {
-        m_opened->panels->restoreTo(
-            withOptionsOfNow(*settings, m_baseline.everOpened.value(settings->ppdHash),
-                             m_baseline.opened, m_opened->fetched.ppd->hash, *m_opened->session));
+        m_opened->panels->restoreTo(withOptionsOfNow(*settings, opened.value(settings->ppdHash),
+                                                     m_baseline.opened, m_opened->fetched.ppd->hash,
+                                                     *m_opened->session, &m_baseline.lost));
         m_settings = settings->job;
         m_settings.setLocks(m_opened->session->locks());
         m_settings.setMostCopies(mostCopiesOf(*m_opened));

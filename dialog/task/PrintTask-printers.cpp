@@ -1,4 +1,5 @@
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/RefusalText.h"
 
 #include <QFileInfo>
 #include <QTimer>
@@ -32,6 +33,7 @@ void PrintTask::start()
     m_looks.documents.check(m_request.documents);
     choosePrinter(m_source.first());
     m_chosen.deliberately = !m_source.firstIsProvisional();
+    m_looks.requested = m_request.toRead.size();
     addDocuments(m_request.toRead);
 }
 
@@ -123,7 +125,7 @@ void PrintTask::open(const FetchedPrinter &ready)
     const auto prepare = [&](OpenedPrinter &opened) {
         lock(opened);
         m_baseline.opened = opened.session->snapshot();
-        m_baseline.everOpened.insert(ready.ppd->hash, m_baseline.opened);
+        m_memory[idOf(ready.printer)].opened.insert(ready.ppd->hash, m_baseline.opened);
         if (memory.session)
             lost = restoreLeft(*memory.session, ready.ppd->hash, *opened.session);
         // What panels had stored was stored before there was a lock, or another one.
@@ -153,8 +155,7 @@ void PrintTask::open(const FetchedPrinter &ready)
         say(TaskMessage::Kind::Problem,
             tr("The printer's own settings are missing: %1").arg(m_opened->panelProblem));
     if (!lost.isEmpty())
-        say(TaskMessage::Kind::Problem,
-            tr("Not everything could be set as before:\n%1").arg(lost.join(u'\n')));
+        say(TaskMessage::Kind::Problem, lostText(lost));
 }
 
 // Gives the name that nobody has chosen the ending of what this printer's filters yield.
@@ -211,6 +212,7 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
         by == JobSettings::By::Policy)
         left.copies = m_settings.copiesAskedFor();
     left.chosen = m_settings.chosenAttributes();
+    left.takenAlong = m_settings.takenAlong();
     Memory &memory = m_memory[idOf(m_chosen.printer)];
     memory.session = left;
     memory.base = m_baseline.base;

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/RequestedOptions.h"
@@ -129,6 +130,7 @@ void PrintTask::applyStartOptions()
             presets().comeBack(*memory.kept);
         m_settings.addAttributes(memory.session->attributes);
         m_settings.restoreChosenAttributes(memory.session->chosen);
+        m_settings.restoreTakenAlong(memory.session->takenAlong);
         takeInevitableDefaults();
         if (memory.session->copies)
             m_settings.askForCopies(*memory.session->copies, By::UserQueues);
@@ -145,7 +147,8 @@ void PrintTask::applyStartOptions()
         presets().start(started);
     }
     m_chosen.ignored += policyProblems();
-    m_chosen.unset += lockedCopies() + takeMostCopies();
+    // Whoever chooses an order of pages here has room made for it; these were asked for together.
+    m_chosen.unset += lockedCopies() + takeMostCopies() + problemsOfOrder(m_settings.attributes());
     keepLocks();
 }
 
@@ -171,11 +174,14 @@ void PrintTask::sayStartProblems()
     QStringList texts;
     if (!m_chosen.unset.isEmpty())
         texts += tr("What was asked for cannot be set:\n%1").arg(m_chosen.unset.join(u'\n'));
+    const QStringList lost = std::exchange(m_baseline.lost, {});
+    if (!lost.isEmpty())
+        texts += lostText(lost);
     if (!m_chosen.ignored.isEmpty())
         texts += tr("Not everything that is set for this printer could be taken:\n%1")
                      .arg(m_chosen.ignored.join(u'\n'));
-    TaskMessage message{m_chosen.unset.isEmpty() ? TaskMessage::Kind::Information
-                                                 : TaskMessage::Kind::Problem};
+    TaskMessage message{m_chosen.unset.isEmpty() && lost.isEmpty() ? TaskMessage::Kind::Information
+                                                                   : TaskMessage::Kind::Problem};
     // Settings that nobody has chosen for this job are named, with the way out of them.
     const bool isLeft = m_memory.value(idOf(m_chosen.printer)).session.has_value();
     if (!isLeft && presets().selected().kind == SelectedPreset::Kind::LastUsed) {

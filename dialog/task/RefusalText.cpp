@@ -70,6 +70,13 @@ QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session)
     return Texts::tr("Change to %1").arg(textOf(wayOut, session));
 }
 
+QString lostText(const QStringList &lost)
+{
+    return QCoreApplication::translate("corvana::PrintTask",
+                                       "Not everything could be set as before:\n%1")
+        .arg(lost.join(u'\n'));
+}
+
 QString noPagesText(const QString &typed)
 {
     return QCoreApplication::translate("corvana::PrintTask",

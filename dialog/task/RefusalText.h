@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include "dialog/session/PpdSession.h"
 
@@ -17,6 +18,9 @@ QString refusalText(const Refusal &refusal, const PpdSession &session);
 
 /// The offer to make room: "Change to “Two-Sided: Off”".
 QString wayOutText(const QList<OptionChoice> &wayOut, const PpdSession &session);
+
+/// What is said of settings that a printer which comes back has not any more, a sentence each.
+QString lostText(const QStringList &lost);
 
 /// What was expected instead of pages that are typed in a form that nobody understands.
 QString noPagesText(const QString &typed);

@@ -64,6 +64,12 @@ void SettingsHistory::replacePresent(const TaskSettings &now)
     m_states[m_present] = now;
 }
 
+void SettingsHistory::addToAll(const QList<Document> &documents)
+{
+    for (TaskSettings &state : m_states)
+        state.documents += documents;
+}
+
 void SettingsHistory::endStep()
 {
     if (!m_steps.isEmpty())

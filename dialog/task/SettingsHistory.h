@@ -47,6 +47,8 @@ public:
     void add(const TaskSettings &now, const Step &step);
     /// The present state is another one by nobody's act.
     void replacePresent(const TaskSettings &now);
+    /// Documents that were there from the beginning are known only now: they belong to all states.
+    void addToAll(const QList<Document> &documents);
     /// The last step goes on no longer: its field was left, or something else was touched.
     void endStep();
 

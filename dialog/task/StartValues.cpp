@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include "dialog/job/FormerDefaults.h"
 #include "dialog/job/PageChoice.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/printers/UserQueues.h"
@@ -164,20 +165,8 @@ OptionOutcome applyLayer(const StartLayer &layer, const QList<JobOption> &option
 // What asks for nothing, where a queue's default asks for something.
 QString usualValue(const QString &name, const OpenedPrinter &printer)
 {
-    struct Usual
-    {
-        QLatin1StringView name;
-        QLatin1StringView value;
-    };
-    static constexpr Usual kUsual[] = {
-        {"page-ranges"_L1, "1-"_L1},
-        {"print-color-mode"_L1, "color"_L1},
-        {"print-quality"_L1, "4"_L1},
-    };
-    for (const Usual &usual : kUsual) {
-        if (name == usual.name)
-            return usual.value;
-    }
+    if (const QString nothing = valueThatAsksForNothing(name); !nothing.isNull())
+        return nothing;
     return usualValueOf(name, {}, printer);
 }
 

@@ -12,6 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Of saving a preset while lpoptions changes all the time.
+constexpr int kMostAttempts = 10;
+
 // "NAME" of the queue that a printer is; empty for one that is none.
 QString queueOf(const Printer &printer)
 {
@@ -24,7 +27,7 @@ InstanceDraft TaskPresets::elsewhere(const QString &name) const
 {
     if (!m_task.opened())
         return {};
-    const KnownInstances known = KnownInstances::read();
+    const KnownInstances &known = m_shelf.instances();
     const QString preset = presetName(name);
     return nameInstance(nameElsewhere(preset, known), *m_task.opened(), m_task.settings(), known,
                         preset);
@@ -39,7 +42,7 @@ QString TaskPresets::selectedElsewhere() const
 QString TaskPresets::instanceOf(const QString &name) const
 {
     const QString queue = queueOf(m_task.printer());
-    return queue.isEmpty() ? QString() : KnownInstances::read().ofSettings(name, queue);
+    return queue.isEmpty() ? QString() : m_shelf.instances().ofPreset(name, queue);
 }
 
 InstanceDraft TaskPresets::draft(const QString &name, const QString &settings,
@@ -65,13 +68,15 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
     if (name.isEmpty())
         return std::nullopt;
     // A preset has nothing of what sets up the device; what was asked for just now has.
-    const bool withDevice = settings.isEmpty();
-    const QString of = withDevice ? name : settings;
-    const InstanceDraft made = draft(name, of, KnownInstances::read(), withDevice);
+    const bool isByItself = settings.isEmpty();
+    const InstanceDraft made =
+        draft(name, isByItself ? QString() : settings, KnownInstances::read(), isByItself);
     QString problem = made.problem;
     if (problem.isEmpty())
-        problem = writeInstance(made, withDevice ? OwnInstance{of}
-                                                 : instancePreset(settings, false).noted());
+        problem = changeInstances({{made.name, made.options}},
+                                  isByItself ? OwnInstance{name}
+                                             : instancePreset(settings, false).noted())
+                      .value(made.name);
     if (!problem.isEmpty())
         return TaskRefusal{{problem}};
     sayOfInstance(made);
@@ -82,7 +87,7 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
 // called by a name that the preset had before.
 QString TaskPresets::nameElsewhere(const QString &preset, const KnownInstances &known) const
 {
-    const QString there = known.ofSettings(preset, queueOf(m_task.printer()));
+    const QString there = known.ofPreset(preset, queueOf(m_task.printer()));
     return there.isEmpty() ? preset : there.section(u'/', 1);
 }
 
@@ -93,13 +98,13 @@ InstancePreset TaskPresets::instancePreset(const QString &name, bool isForAll) c
 
 // A preset that is kept brings all of its instances along, whoever asked for them when they were
 // made.
-InstanceChanges TaskPresets::changesElsewhere(const PresetToSave &wanted) const
+InstanceChanges TaskPresets::changesElsewhere(const PresetToSave &wanted,
+                                              const KnownInstances &known) const
 {
-    const KnownInstances known = KnownInstances::read();
     InstanceChanges changes;
     changes.of = instancePreset(presetName(wanted.name), wanted.forAllPrinters);
     changes.server = m_task.request().server.argument();
-    changes.changedByOthers = changes.of.among(known.changedByOthers);
+    changes.known = known;
     const QString &name = changes.of.name;
     const QStringList there = changes.of.among(known.own);
     bool isHere = wanted.elsewhere;
@@ -125,16 +130,14 @@ InstanceChanges TaskPresets::changesElsewhere(const PresetToSave &wanted) const
     return changes;
 }
 
-std::shared_ptr<InstancesOutcome> TaskPresets::nextOutcome()
+std::shared_ptr<InstancesOutcome> TaskPresets::pend(const std::optional<Saving> &saving)
 {
-    m_instances.push_back(std::make_shared<InstancesOutcome>());
-    return m_instances.back();
+    m_pending.push_back({std::make_shared<InstancesOutcome>(), saving});
+    return m_pending.back().outcome;
 }
 
-void TaskPresets::sayOfInstances()
+void TaskPresets::sayOfInstances(const InstancesOutcome &outcome)
 {
-    const InstancesOutcome outcome = *m_instances.front();
-    m_instances.pop_front();
     m_problemsElsewhere = outcome.problems;
     for (const InstanceDraft &written : outcome.written)
         sayOfInstance(written);
@@ -142,12 +145,38 @@ void TaskPresets::sayOfInstances()
         m_task.say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
 }
 
+void TaskPresets::keep(const Saving &saving, const KnownInstances &known)
+{
+    const bool replaces = saving.wanted.replaces || saving.attempt > 1;
+    m_shelf.save(saving.preset, replaces ? PresetStore::Replacing::Yes : PresetStore::Replacing::No,
+                 [changes = changesElsewhere(saving.wanted, known), outcome = pend(saving)] {
+                     changeInstances(changes, outcome.get());
+                 });
+}
+
+// The instances are made of what lpoptions said when it was looked at last. Where it says something
+// else by now they are made anew, of the settings that the preset has.
+bool TaskPresets::keepAnew(Pending *pending)
+{
+    if (!pending->saving || !pending->outcome->news)
+        return false;
+    Saving again = *pending->saving;
+    if (again.attempt < kMostAttempts && m_task.phase() == PrintTask::Phase::Ready &&
+        m_task.settingsNow() == again.settings) {
+        ++again.attempt;
+        keep(again, *pending->outcome->news);
+        return true;
+    }
+    pending->outcome->problems += changedMeanwhileText(again.preset.name);
+    return false;
+}
+
 QStringList TaskPresets::instancesOfOthers() const
 {
     const QString queue = queueOf(m_task.printer());
     if (queue.isEmpty())
         return {};
-    const KnownInstances known = KnownInstances::read();
+    const KnownInstances &known = m_shelf.instances();
     QStringList names = known.queues.instancesOf(queue);
     names.removeIf([&](const QString &name) { return known.own.contains(name); });
     return names;
@@ -155,7 +184,7 @@ QStringList TaskPresets::instancesOfOthers() const
 
 void TaskPresets::useInstance(const QString &name)
 {
-    const QList<JobOption> options = KnownInstances::read().queues.optionsOf(name);
+    const QList<JobOption> options = m_shelf.instances().queues.optionsOf(name);
     if (options.isEmpty())
         return m_task.say(TaskMessage::Kind::Problem,
                           tr("“%1” is not there any more, or has no settings.").arg(name));

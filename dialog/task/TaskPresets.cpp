@@ -5,6 +5,7 @@
 
 #include <QSignalBlocker>
 
+#include "dialog/job/PageChoice.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/task/PresetApplication.h"
@@ -146,6 +147,8 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
                               *m_task.opened(), m_task.settings());
         if (!ofInstance.isEmpty())
             outcome.missing += takeInstance(ofInstance);
+        // Printed together they would be refused.
+        outcome.missing += problemsOfOrder(m_task.settings().attributes());
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
@@ -198,7 +201,6 @@ void TaskPresets::say(const QStringList &missing, const QStringList &details)
 
 void TaskPresets::save(const PresetToSave &wanted)
 {
-    using Replacing = PresetStore::Replacing;
     if (m_task.phase() == Phase::Opened) {
         // Nobody waits for anything to be shown, and what cannot be set nobody has seen.
         m_task.bringUp();
@@ -225,11 +227,7 @@ void TaskPresets::save(const PresetToSave &wanted)
         preset.model.clear();
         preset.content = changes;
     }
-    m_saving = {{Kind::Preset, preset.name, preset.device}, m_task.settingsNow()};
-    m_shelf.save(preset, wanted.replaces ? Replacing::Yes : Replacing::No,
-                 [changes = changesElsewhere(wanted), outcome = nextOutcome()] {
-                     changeInstances(changes, outcome.get());
-                 });
+    keep({wanted, preset, m_task.settingsNow()}, m_shelf.instances());
 }
 
 void TaskPresets::update()
@@ -237,8 +235,7 @@ void TaskPresets::update()
     const SelectedPreset selected = m_kept.selected;
     const std::optional<StoredPreset> found = listing().find(selected.name);
     if (selected.kind == Kind::Preset)
-        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true,
-              !selectedElsewhere().isEmpty()});
+        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true});
 }
 
 void TaskPresets::rename(const QString &name)
@@ -249,7 +246,7 @@ void TaskPresets::rename(const QString &name)
     m_shelf.rename(found->preset, presetName(name),
                    [of = instancePreset(found->preset.name, found->preset.model.isEmpty()),
                     name = presetName(name),
-                    outcome = nextOutcome()] { renameInstancesOf(of, name, outcome.get()); });
+                    outcome = pend()] { renameInstancesOf(of, name, outcome.get()); });
 }
 
 void TaskPresets::remove()
@@ -259,7 +256,7 @@ void TaskPresets::remove()
         return;
     m_shelf.remove(found->preset,
                    [of = instancePreset(found->preset.name, found->preset.model.isEmpty()),
-                    outcome = nextOutcome()] { removeInstancesOf(of, outcome.get()); });
+                    outcome = pend()] { removeInstancesOf(of, outcome.get()); });
 }
 
 void TaskPresets::listed()
@@ -273,33 +270,45 @@ void TaskPresets::listed()
     Q_EMIT changed();
 }
 
-void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
-                              const QString &problem)
+// What became of a preset that was kept, renamed or removed; only what can be set can be another.
+void TaskPresets::take(PresetShelf::Change change, const QString &name,
+                       const std::optional<Saving> &saving)
 {
     using Change = PresetShelf::Change;
-    const bool isReady = m_task.phase() == Phase::Ready;
-    const std::optional<Saving> saving =
-        change == Change::Saved ? std::exchange(m_saving, std::nullopt) : std::nullopt;
-    if (!problem.isEmpty()) {
-        if (change == Change::LastJob) // it is printed, whatever is remembered of it
-            Q_EMIT m_task.noted(problem);
-        else
-            m_task.say(TaskMessage::Kind::Problem,
-                       tr("%1 Your settings are as they were.").arg(problem));
-    } else if (saving && isReady) {
-        m_kept.selected = saving->selected;
+    if (m_task.phase() != Phase::Ready)
+        return;
+    if (saving) {
+        m_kept.selected = {Kind::Preset, saving->preset.name, saving->preset.device};
         m_task.setBase({saving->settings, selectedName()});
-    } else if (change == Change::Renamed && isReady) {
+    } else if (change == Change::Renamed) {
         m_kept.selected.name = name;
         m_task.setBase({m_task.base().settings, selectedName()});
-    } else if (change == Change::Removed && m_kept.selected.name == name && isReady) {
+    } else if (change == Change::Removed && m_kept.selected.name == name) {
         m_kept.selected = {};
         m_task.setBase({m_task.base().settings, selectedName()});
     }
-    Q_EMIT changed();
-    if (change == Change::LastJob)
+}
+
+void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
+                              const QString &problem)
+{
+    if (change == PresetShelf::Change::LastJob) {
+        if (!problem.isEmpty()) // it is printed, whatever is remembered of it
+            Q_EMIT m_task.noted(problem);
+        Q_EMIT changed();
         return;
-    sayOfInstances();
+    }
+    Pending pending = std::move(m_pending.front());
+    m_pending.pop_front();
+    if (problem.isEmpty() && keepAnew(&pending))
+        return;
+    if (problem.isEmpty())
+        take(change, name, pending.saving);
+    else
+        m_task.say(TaskMessage::Kind::Problem,
+                   tr("%1 Your settings are as they were.").arg(problem));
+    Q_EMIT changed();
+    sayOfInstances(*pending.outcome);
     Q_EMIT ended(problem);
 }
 

@@ -93,7 +93,7 @@ public:
     /// The options that set up the device, by their texts; empty where this printer has none.
     QString deviceSettings() const;
 
-    // In other programs (TaskPresets-instances.cpp)
+    // In other programs (TaskPresets-instances.cpp), as lpoptions had it when it was looked at
 
     /// What a preset of this name would be called by other programs; with a problem where they
     /// cannot have it.
@@ -160,8 +160,17 @@ Q_SIGNALS:
 private:
     struct Saving
     {
-        SelectedPreset selected;
+        PresetToSave wanted;
+        Preset preset;
         TaskSettings settings;
+        int attempt = 1;
+    };
+
+    // What is being done on another thread.
+    struct Pending
+    {
+        std::shared_ptr<InstancesOutcome> outcome; // the thread's until it ended
+        std::optional<Saving> saving{};
     };
 
     void apply(const PresetContent &content, const QStringList &chosen,
@@ -176,19 +185,20 @@ private:
                         bool withDevice) const;
     QString nameElsewhere(const QString &preset, const KnownInstances &known) const;
     InstancePreset instancePreset(const QString &name, bool isForAll) const;
-    std::shared_ptr<InstancesOutcome> nextOutcome();
-    InstanceChanges changesElsewhere(const PresetToSave &wanted) const;
+    std::shared_ptr<InstancesOutcome> pend(const std::optional<Saving> &saving = {});
+    InstanceChanges changesElsewhere(const PresetToSave &wanted, const KnownInstances &known) const;
+    void keep(const Saving &saving, const KnownInstances &known);
+    bool keepAnew(Pending *pending);
+    void take(PresetShelf::Change change, const QString &name, const std::optional<Saving> &saving);
     void sayOfInstance(const InstanceDraft &draft);
-    void sayOfInstances();
+    void sayOfInstances(const InstancesOutcome &outcome);
     QStringList namesOf(const PresetContent &content) const;
 
     PrintTask &m_task;
     PresetShelf m_shelf;
     KeptSettings m_kept;
-    PresetContent m_ofJob; // that is printed
-    std::optional<Saving> m_saving;
-    // Of what is being done on another thread, in that order; each is its thread's until it ended.
-    std::deque<std::shared_ptr<InstancesOutcome>> m_instances;
+    PresetContent m_ofJob;         // that is printed
+    std::deque<Pending> m_pending; // in the order in which it is done
     QStringList m_problemsElsewhere;
     QStringList m_told; // files that were spoken of
 };

@@ -44,6 +44,9 @@ struct TaskState
         int earlierDocuments = 0;
         int sentDocuments = 0; // as jobs of their own
         std::optional<SettingsBase> base{};
+        // As it was opened with all options that it had, by the hash of their PPD: steps may lead
+        // back to settings of a time when they were others.
+        QHash<QByteArray, SessionSnapshot> opened{};
     };
     struct Chosen
     {
@@ -87,8 +90,10 @@ struct TaskState
     {
         DocumentChecks documents;
         std::unique_ptr<TextCheck> texts;
-        QStringList toRead;   // documents that somebody is writing yet
-        QList<Document> read; // of them, to be printed with the others
+        QStringList toRead;            // documents that somebody is writing yet
+        qsizetype requested = 0;       // of them, the first ones, with which the task was started
+        QList<Document> read;          // of them, to be printed with the others
+        QList<Document> readOfRequest; // and these before those
         std::unique_ptr<SlowWork> reading;
         TaskMessage beingRead; // what is said of it
         QStringList unread;    // what could not be, and why
@@ -112,10 +117,8 @@ struct TaskState
     };
     struct Baseline
     {
-        SessionSnapshot opened; // before any option was taken
-        // The same for all options that printers had, by the hash of their PPD: steps may lead back
-        // to settings of a time when they were others.
-        QHash<QByteArray, SessionSnapshot> everOpened;
+        SessionSnapshot opened;  // before any option was taken
+        QStringList lost;        // what of the settings that came back could not be set again
         SessionSnapshot started; // before the user changed anything
         SessionSnapshot shown;   // as the face was told last
         QList<JobOption> chosen; // attributes, before the user changed anything

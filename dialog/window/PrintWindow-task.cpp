@@ -271,7 +271,7 @@ void PrintWindow::offerToPrintAgain(const JobOutcome &outcome)
     const QString text =
         mayStillPrint(outcome)
             ? tr("%1 %2").arg(outcome.text,
-                              tr("Printed again, it may come out of the printer twice."))
+                              tr("If you print it again, it may come out of the printer twice."))
             : outcome.text;
     m_message->showMessage(MessageBar::Kind::Problem, text, tr("Print Again"),
                            [this] { accept(); });

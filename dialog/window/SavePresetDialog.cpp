@@ -46,6 +46,7 @@ SavePresetDialog::SavePresetDialog(const TaskPresets &presets, bool rename, QWid
     m_name->selectAll();
     m_name->setFocus();
     connect(m_name, &QLineEdit::textChanged, this, &SavePresetDialog::check);
+    connect(&presets, &TaskPresets::changed, this, &SavePresetDialog::check);
     check();
 }
 

@@ -37,7 +37,7 @@ void run(const QByteArray &input)
     const QMap<QString, OwnInstance> before = instances.read();
     const OwnInstance fuzz{u"Fuzz"_s, u"A Model"_s, true, {}};
     const QList<JobOption> options{{u"a"_s, u"b c"_s}};
-    const QString problem = instances.note(u"queue/fuzz"_s, fuzz, options);
+    const QString problem = instances.note({{u"queue/fuzz"_s, options}}, fuzz);
     if (!problem.isEmpty()) {
         require(contentOf(path) == input, "a file that is not changed stays as it is");
         return;

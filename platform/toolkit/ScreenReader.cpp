@@ -25,6 +25,7 @@ namespace {
 constexpr char kRole[] = "corvana.accessibleRole";
 constexpr char kDescription[] = "corvana.toolTipDescription";
 constexpr char kCovered[] = "corvana.coveredDescription";
+constexpr char kCoverings[] = "corvana.coveringsOfDescription";      // how many there are
 constexpr QLatin1StringView kClearAction{"_q_qlineeditclearaction"}; // of QLineEdit
 // Several things may be said at once; a screen reader asks for each text only afterwards.
 constexpr qsizetype kKeptAnnouncements = 4;
@@ -223,6 +224,7 @@ void coverDescription(QWidget *widget)
 {
     if (!widget->property(kCovered).isValid())
         widget->setProperty(kCovered, widget->accessibleDescription());
+    widget->setProperty(kCoverings, widget->property(kCoverings).toInt() + 1);
 }
 
 QString coveredDescription(const QWidget *widget)
@@ -234,6 +236,10 @@ void uncoverDescription(QWidget *widget)
 {
     const QVariant covered = widget->property(kCovered);
     if (!covered.isValid())
+        return;
+    const int left = widget->property(kCoverings).toInt() - 1;
+    widget->setProperty(kCoverings, left > 0 ? QVariant(left) : QVariant());
+    if (left > 0)
         return;
     widget->setProperty(kCovered, QVariant());
     widget->setAccessibleDescription(covered.toString());

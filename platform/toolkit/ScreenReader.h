@@ -39,7 +39,8 @@ CORVANA_PLATFORM_EXPORT void setFieldButtonNames(QLineEdit *field, const QString
 CORVANA_PLATFORM_EXPORT void setPlainToolTip(QWidget *widget, const QString &text);
 
 /// Whoever says something else of a widget for a while covers what is said of it, and uncovers it
-/// in the end. Tool tips that are set meanwhile count from then on.
+/// in the end. Tool tips that are set meanwhile count from then on. Where several do, what was said
+/// before comes back with the last of them.
 CORVANA_PLATFORM_EXPORT void coverDescription(QWidget *widget);
 CORVANA_PLATFORM_EXPORT QString coveredDescription(const QWidget *widget);
 CORVANA_PLATFORM_EXPORT void uncoverDescription(QWidget *widget);

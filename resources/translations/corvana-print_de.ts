@@ -3738,6 +3738,10 @@ Für die Befehlszeile: %2</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>Die Blätter können im Fach bleiben: Der zweite Durchgang wird mit den Einstellungen des ersten gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3834,8 +3838,8 @@ Für die Befehlszeile: %2</translation>
         <translation>Hilfe zum Drucken</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
-        <translation>Erneut gedruckt, kann er zweimal aus dem Drucker kommen.</translation>
+        <source>If you print it again, it may come out of the printer twice.</source>
+        <translation>Wenn Sie ihn noch einmal drucken, kommt er vielleicht zweimal aus dem Drucker.</translation>
     </message>
     <message>
         <source>Print Again</source>
@@ -4465,6 +4469,10 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>Dort bleiben die bisherigen Einstellungen, weil diese dort nicht zusammen möglich sind.</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Während „%1“ gespeichert wurde, wurden Einstellungen geändert: In anderen Programmen ist es, wie es vorher war. Speichern Sie es noch einmal.</translation>
     </message>
 </context>
 </TS>

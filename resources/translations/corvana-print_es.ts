@@ -3738,6 +3738,10 @@ En la línea de órdenes: %2</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>Las hojas pueden quedarse en la bandeja: las segundas caras se imprimen con los ajustes de las primeras.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3834,7 +3838,7 @@ En la línea de órdenes: %2</translation>
         <translation>Ayuda de impresión</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>Si se imprime de nuevo, puede salir dos veces de la impresora.</translation>
     </message>
     <message>
@@ -4465,6 +4469,10 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>conserva los ajustes anteriores, porque estos no son posibles juntos allí.</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Se han cambiado ajustes mientras se guardaba «%1»: los otros programas lo tienen como estaba antes. Guárdelo otra vez.</translation>
     </message>
 </context>
 </TS>

@@ -3738,6 +3738,10 @@ Pour la ligne de commande : %2</translation>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>Les feuilles peuvent rester dans le bac : le second passage est imprimé avec les réglages du premier.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3834,8 +3838,8 @@ Pour la ligne de commande : %2</translation>
         <translation>Aide sur l’impression</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
-        <translation>Imprimée à nouveau, elle peut sortir deux fois de l’imprimante.</translation>
+        <source>If you print it again, it may come out of the printer twice.</source>
+        <translation>Si vous l’imprimez à nouveau, elle peut sortir deux fois de l’imprimante.</translation>
     </message>
     <message>
         <source>Print Again</source>
@@ -4465,6 +4469,10 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>les réglages précédents y restent, car ceux-ci n’y sont pas possibles ensemble.</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Des réglages ont été modifiés pendant l’enregistrement de « %1 » : les autres programmes l’ont tel qu’il était avant. Enregistrez-le à nouveau.</translation>
     </message>
 </context>
 </TS>

@@ -3738,6 +3738,10 @@ Per la riga di comando: %2</translation>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>I fogli possono restare nel vassoio: le seconde facciate vengono stampate con le impostazioni delle prime.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3834,7 +3838,7 @@ Per la riga di comando: %2</translation>
         <translation>Aiuto sulla stampa</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>Se viene stampato di nuovo, può uscire due volte dalla stampante.</translation>
     </message>
     <message>
@@ -4465,6 +4469,10 @@ Per la riga di comando: %2</translation>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>restano le impostazioni precedenti, perché lì queste non sono possibili insieme.</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Alcune impostazioni sono state modificate durante il salvataggio di «%1»: negli altri programmi è rimasta com’era prima. Salvarla di nuovo.</translation>
     </message>
 </context>
 </TS>

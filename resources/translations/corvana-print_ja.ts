@@ -2378,6 +2378,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>用紙はトレイに入れたままで構いません。もう一方の面は、1 回目の面と同じ設定で印刷されます。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2474,7 +2478,7 @@ For the command line: %2</source>
         <translation>戻る</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>もう一度印刷すると、2 回印刷されることがあります。</translation>
     </message>
     <message>
@@ -4463,6 +4467,10 @@ For the command line: %2</source>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>この設定の組み合わせはそこでは使えないため、以前の設定のままです。</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>「%1」の保存中に設定が変更されました。ほかのプログラムでは以前のままです。もう一度保存してください。</translation>
     </message>
 </context>
 </TS>

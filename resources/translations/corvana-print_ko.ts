@@ -3736,6 +3736,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>용지는 용지함에 그대로 두어도 됩니다. 다른 면은 첫 번째 면의 설정으로 인쇄됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3832,7 +3836,7 @@ For the command line: %2</source>
         <translation>인쇄 도움말</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>다시 인쇄하면 두 번 출력될 수 있습니다.</translation>
     </message>
     <message>
@@ -4463,6 +4467,10 @@ For the command line: %2</source>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>이 설정들은 그곳에서 함께 사용할 수 없으므로 이전 설정이 그대로 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>‘%1’을(를) 저장하는 동안 설정이 변경되었습니다. 다른 프로그램에는 이전 그대로 있습니다. 다시 저장하십시오.</translation>
     </message>
 </context>
 </TS>

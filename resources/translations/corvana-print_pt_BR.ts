@@ -3738,6 +3738,10 @@ Na linha de comando: %2</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>As folhas podem ficar na bandeja: as segundas faces são impressas com as configurações das primeiras.</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3834,7 +3838,7 @@ Na linha de comando: %2</translation>
         <translation>Ajuda de impressão</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>Se for impresso novamente, poderá sair duas vezes da impressora.</translation>
     </message>
     <message>
@@ -4465,6 +4469,10 @@ Na linha de comando: %2</translation>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>mantém as configurações anteriores, porque estas não são possíveis juntas lá.</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>Configurações foram alteradas enquanto “%1” era salva: os outros programas a têm como estava antes. Salve-a novamente.</translation>
     </message>
 </context>
 </TS>

@@ -2378,6 +2378,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>纸张可以留在纸盒中：另一面将按第一面的设置打印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -2474,7 +2478,7 @@ For the command line: %2</source>
         <translation>返回</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>再次打印可能会打印出两份。</translation>
     </message>
     <message>
@@ -4463,6 +4467,10 @@ For the command line: %2</source>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>这些设置无法在其中同时使用，因此保留以前的设置。</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>保存“%1”期间设置有更改：其他程序中仍是以前的设置。请再次保存。</translation>
     </message>
 </context>
 </TS>

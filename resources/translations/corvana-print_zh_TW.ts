@@ -3736,6 +3736,10 @@ For the command line: %2</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
+        <translation>紙張可以留在紙匣中：另一面會以第一面的設定列印。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>
@@ -3832,7 +3836,7 @@ For the command line: %2</source>
         <translation>列印說明</translation>
     </message>
     <message>
-        <source>Printed again, it may come out of the printer twice.</source>
+        <source>If you print it again, it may come out of the printer twice.</source>
         <translation>再次列印可能會印出兩份。</translation>
     </message>
     <message>
@@ -4463,6 +4467,10 @@ For the command line: %2</source>
     <message>
         <source>it keeps its former settings, as these are not possible together there.</source>
         <translation>這些設定無法在其中同時使用，因此保留先前的設定。</translation>
+    </message>
+    <message>
+        <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
+        <translation>儲存「%1」期間設定已變更：其他程式中仍是先前的設定。請再次儲存。</translation>
     </message>
 </context>
 </TS>

@@ -100,7 +100,7 @@ void FaultPlayer::playOnce(const QueueFault &fault)
 
 namespace {
 
-const QString kMayBeTwice = u" Printed again, it may come out of the printer twice\\."_s;
+const QString kMayBeTwice = u" If you print it again, it may come out of the printer twice\\."_s;
 
 bool offersToPrintAgain(const QueueDriver &window)
 {

@@ -38,7 +38,7 @@ private:
 
     static QString set(const QString &path)
     {
-        return UserQueuesFile(path).setInstance(kInstance, kOptions);
+        return UserQueuesFile(path).change({{kInstance, kOptions}}).value(kInstance);
     }
 
 private Q_SLOTS:
@@ -46,7 +46,7 @@ private Q_SLOTS:
     {
         const QByteArray content = "Default lobby/reports a=1\n";
         const QString path = m_folder.newFile(content);
-        const QString problem = UserQueuesFile(path).removeInstance(kInstance);
+        const QString problem = UserQueuesFile(path).change({{kInstance, {}}}).value(kInstance);
         QVERIFY2(problem.contains(kInstance), qPrintable(problem));
         QCOMPARE(readFile(path), content);
     }
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void nothingIsMadeToRemoveWhatIsNotThere()
     {
         const QString path = m_folder.newPath();
-        QCOMPARE(UserQueuesFile(path).removeInstance(kInstance), QString());
+        QCOMPARE(UserQueuesFile(path).change({{kInstance, {}}}).value(kInstance), QString());
         QVERIFY(!QFile::exists(path));
     }
 
@@ -249,7 +249,7 @@ private Q_SLOTS:
                 const QString name = u"lobby/window%1"_s.arg(window);
                 for (int round = 0; round < 2; ++round) {
                     const QList<JobOption> options{{u"round"_s, QString::number(round)}};
-                    if (!UserQueuesFile(path).setInstance(name, options).isEmpty())
+                    if (!UserQueuesFile(path).change({{name, options}}).isEmpty())
                         ++problems;
                 }
             });

@@ -140,7 +140,7 @@ private Q_SLOTS:
         const QString problem = problemOfInstance(kInstance, options);
         QCOMPARE(problem.isEmpty(), row.canBeWritten);
         if (!row.canBeWritten) {
-            QCOMPARE(UserQueuesFile(path).setInstance(kInstance, options), problem);
+            QCOMPARE(UserQueuesFile(path).change({{kInstance, options}}).value(kInstance), problem);
             QCOMPARE(readFile(path), before);
             return;
         }

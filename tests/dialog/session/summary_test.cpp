@@ -165,6 +165,27 @@ private Q_SLOTS:
                                      : (SummaryLine{u"Strength"_s, told}));
     }
 
+    // Whatever form a plug-in gives it.
+    void aSecretThatIsNoChoiceIsNotToldEither()
+    {
+        const auto session =
+            sessionFor(PpdBuilder()
+                           .option("Strength", "Strength", "None", {{"None", "None"}})
+                           .line("*CustomStrength True: \"\"")
+                           .line("*ParamCustomStrength Code/Code: 1 passcode 1 8"));
+        FakePlugIn plugIn({u"A"_s});
+        FakeJobValues values;
+        plugIn.values = &values;
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->supported = QStringList{u"Strength"_s};
+        for (const QString &secret : {u"7"_s, u"Custom.7"_s, u"word"_s}) {
+            session->printSettings().setValue(u"fake.Strength"_s, secret);
+            QCOMPARE(jobOptions(*session, &values, {}).constLast().value, secret);
+            QCOMPARE(sessionSummary(*session, panels, 1, {}).constLast(),
+                     (SummaryLine{u"Strength"_s, u"••••••"_s}));
+        }
+    }
+
     void aSecretThatAPanelHasNoLineForIsNotTold()
     {
         const auto session = sessionFor(PpdBuilder().option("AccessCode", "Access", "None",

@@ -37,7 +37,7 @@ protected:
     ScriptedFace &face() { return m_scene->face; }
 
     // The sample printer without a duplexer, with further lines.
-    void addQueue(const QByteArray &lines = {})
+    void addQueue(const QByteArray &lines = {}, const QueueSettings &settings = {})
     {
         QFile sample(sourceFile(QStringLiteral("resources/ppd/corvana-cl2.ppd")));
         QVERIFY(sample.open(QIODevice::ReadOnly));
@@ -46,7 +46,7 @@ protected:
             ppd.replace("application/vnd.cups-postscript application/postscript",
                         "application/vnd.cups-pdf application/pdf");
         m_cups->addQueue(QStringLiteral("office"),
-                         writeFile(m_home->filePath(QStringLiteral("office.ppd")), ppd));
+                         writeFile(m_home->filePath(QStringLiteral("office.ppd")), ppd), settings);
     }
     PrintRequest request(Kind kind, const QString &options)
     {

@@ -150,6 +150,39 @@ private Q_SLOTS:
         QCOMPARE(jobs().at(1).title, u"Job (other sides)"_s);
     }
 
+    // The sheets lie in the tray: they are not lost, and nothing is printed otherwise in silence.
+    void aPrinterThatChangesBetweenThePassesGoesOnAsItBegan_data()
+    {
+        QTest::addColumn<bool>("isPpd");
+        QTest::newRow("what the queue adds to jobs") << false;
+        QTest::newRow("its options") << true;
+    }
+    void aPrinterThatChangesBetweenThePassesGoesOnAsItBegan()
+    {
+        QFETCH(bool, isPpd);
+        addQueue();
+        open(request(Kind::A4, u"sides-by-hand=long-edge"_s));
+        task().print();
+        QVERIFY(waitForTheQuestion());
+        addQueue(isPpd ? "*% changed\n" : "",
+                 {.options = {isPpd ? u"printer-is-shared=false"_s : u"page-border-default=double"_s}});
+        face().turnAnswer(true);
+        QVERIFY(waitForTheQuestion(2));
+        QVERIFY(face().outcomes.isEmpty());
+        const QString problem = face().turns.at(1).problem;
+        QVERIFY2(problem.contains(u"have changed at its server"_s) &&
+                     problem.contains(u"can stay in the tray"_s),
+                 qPrintable(problem));
+        QCOMPARE(face().turns.at(1).steps, face().turns.at(0).steps);
+        face().turnAnswer(true);
+        QVERIFY(waitForTheEnd());
+        QCOMPARE(task().outcome().kind, JobKind::Printed);
+        QCOMPARE(jobs().size(), 2);
+        const QString options = u' ' + jobs().at(1).options + u' ';
+        QVERIFY2(!options.contains(u"page-border=double"_s), qPrintable(options));
+        QVERIFY2(isPpd || options.contains(u" page-border=none "_s), qPrintable(options));
+    }
+
     void aFailedFirstPassIsNoReasonToTurnAnything()
     {
         addQueue();

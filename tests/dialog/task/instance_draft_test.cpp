@@ -1,3 +1,4 @@
+#include <QElapsedTimer>
 #include <QTest>
 
 #include "dialog/printers/OwnInstances.h"
@@ -99,6 +100,33 @@ QString valueOf(const QList<JobOption> &options, const QString &name)
     return {};
 }
 
+/// What stands in lpoptions after "Duplex=None number-up=2" was written, where the user's line for
+/// the queue says "Boost=ON".
+struct Found
+{
+    const char *name;
+    const char *options;
+    bool isOurs;
+};
+constexpr Found kFound[] = {
+    {"what was written", "Duplex=None number-up=2", true},
+    {"in another order", "number-up=2 Duplex=None", true},
+    {"without what the queue has as a default, as libcups leaves it", "Duplex=None", true},
+    {"with what the user has set for the queue, as libcups leaves it",
+     "Boost=ON Duplex=None number-up=2", true},
+    {"another value", "Duplex=None number-up=4", false},
+    {"another choice", "Duplex=DuplexTumble number-up=2", false},
+    {"without a choice, which no server has a default of", "number-up=2", false},
+    {"one more", "Duplex=None number-up=2 Media=Film", false},
+    {"one more that the queue has with another value", "Boost=OFF Duplex=None number-up=2", false},
+    {"nothing", "", false},
+};
+
+QList<JobOption> options(const char *text)
+{
+    return parseOptions({QString::fromUtf8(text)});
+}
+
 } // namespace
 
 /// What an instance for other programs is made of.
@@ -110,6 +138,20 @@ private:
     InstanceDraft draft(const QString &name = u"Reports"_s)
     {
         return draftInstance(name, *m_printer, m_settings, KnownInstances::read(), true);
+    }
+    InstanceDraft nameOf(const QString &name, const QString &preset)
+    {
+        return nameInstance(name, *m_printer, m_settings, KnownInstances::read(), preset);
+    }
+    static QMap<QString, QString> write(const InstanceDraft &draft, const QString &settings,
+                                        const std::optional<QString> &model = {})
+    {
+        return changeInstances({{draft.name, draft.options}}, {settings, model});
+    }
+    QByteArray contentOfLpoptions() const
+    {
+        QFile file(lpoptions());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     QString lpoptions() const { return m_home->filePath(u".cups/lpoptions"_s); }
 
@@ -177,13 +219,13 @@ private Q_SLOTS:
     void whatWasWrittenHereIsKnown()
     {
         start();
-        QCOMPARE(writeInstance(draft(), {u"Reports"_s}), QString());
+        QVERIFY(write(draft(), u"Reports"_s, u"A Model"_s).isEmpty());
         const KnownInstances known = KnownInstances::read();
         QCOMPARE(known.own.keys(), QStringList{u"office/reports"_s});
-        QCOMPARE(known.ofSettings(u"Reports"_s, u"OFFICE"_s), u"office/reports"_s);
-        QVERIFY(known.ofSettings(u"Reports"_s, u"lab"_s).isNull());
-        QVERIFY(known.ofSettings(u"Other"_s, u"office"_s).isNull());
-        QCOMPARE(draft().problem, QString());
+        QCOMPARE(known.ofPreset(u"Reports"_s, u"OFFICE"_s), u"office/reports"_s);
+        QVERIFY(known.ofPreset(u"Reports"_s, u"lab"_s).isNull());
+        QVERIFY(known.ofPreset(u"Other"_s, u"office"_s).isNull());
+        QCOMPARE(nameOf(u"Reports"_s, u"Reports"_s).problem, QString());
         QCOMPARE(OwnInstances().forget({u"office/reports"_s}), QString());
         QVERIFY(!draft().problem.isEmpty());
     }
@@ -192,16 +234,72 @@ private Q_SLOTS:
     void twoNamesThatAreOneForOtherProgramsAreNotTheSameSettings()
     {
         start();
-        QCOMPARE(writeInstance(draft(u"Ä Ö"_s), {u"Ä Ö"_s}), QString());
+        QVERIFY(write(draft(u"Ä Ö"_s), u"Ä Ö"_s).isEmpty());
         QCOMPARE(draft(u"Ä Ö"_s).problem, QString());
         QCOMPARE(draft(u"ä ö"_s).problem, QString());
         QVERIFY2(draft(u"A O"_s).problem.contains(u"“office/a-o” is there already"_s),
                  qPrintable(draft(u"A O"_s).problem));
+        QVERIFY(write(draft(u"É"_s), u"É"_s, u"A Model"_s).isEmpty());
         // Under a name of its own for other programs.
-        const KnownInstances known = KnownInstances::read();
-        QCOMPARE(nameInstance(u"a-o"_s, *m_printer, m_settings, known, u"Ä Ö"_s).problem,
-                 QString());
-        QVERIFY(!nameInstance(u"a-o"_s, *m_printer, m_settings, known).problem.isEmpty());
+        QCOMPARE(nameOf(u"e"_s, u"É"_s).problem, QString());
+        QVERIFY(!nameOf(u"e"_s, {}).problem.isEmpty());
+    }
+
+    void whatLibcupsDoesToAnInstanceIsNoChange_data() { addRows(kFound); }
+    void whatLibcupsDoesToAnInstanceIsNoChange()
+    {
+        const Found &row = currentRow(kFound);
+        OwnInstance own;
+        own.written = {options("Duplex=None number-up=2")};
+        QCOMPARE(own.isAsWritten(options(row.options), options("Boost=ON")), row.isOurs);
+    }
+
+    void whatDidNotGetIntoTheFileLeavesTheFormerOneOurs()
+    {
+        OwnInstance own;
+        own.written = {options("Duplex=DuplexTumble"), options("Duplex=None")};
+        QVERIFY(own.isAsWritten(options("Duplex=None"), {}));
+        QVERIFY(!own.isAsWritten(options("Duplex=DuplexNoTumble"), {}));
+    }
+
+    void whatIsKeptByItselfIsNoPresets()
+    {
+        start();
+        QVERIFY(write(draft(), u"Reports"_s).isEmpty());
+        QCOMPARE(draft().problem, QString());
+        QVERIFY2(nameOf(u"Reports"_s, u"Reports"_s).problem.contains(u"is there already"_s),
+                 qPrintable(nameOf(u"Reports"_s, u"Reports"_s).problem));
+        QVERIFY(KnownInstances::read().ofPreset(u"Reports"_s, u"office"_s).isNull());
+        QVERIFY(write(draft(u"Other"_s), u"Other"_s, u"A Model"_s).isEmpty());
+        QVERIFY2(draft(u"Other"_s).problem.contains(u"is there already"_s),
+                 qPrintable(draft(u"Other"_s).problem));
+    }
+
+    // One wait for other programs, however many there are.
+    // One wait for other programs, however many there are.
+    void manyAreWrittenInOneChange()
+    {
+        const QByteArray others = "# by hand\nDest lab x=1\n";
+        setUserOptions({});
+        writeFile(lpoptions(), others);
+        QList<InstanceLine> lines;
+        QByteArray expected = others;
+        for (int number = 0; number < 40; ++number) {
+            const QString name = u"office/many%1"_s.arg(number);
+            lines += {name, QList<JobOption>{{u"Media"_s, u"Film"_s}}};
+            expected += "Dest " + name.toUtf8() + " Media=Film\n";
+        }
+        lines.insert(20, {u"office/no name"_s, QList<JobOption>()});
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(changeInstances(lines, {u"Many"_s}).keys(), QStringList{u"office/no name"_s});
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(contentOfLpoptions(), expected);
+        for (InstanceLine &line : lines)
+            line.options.reset();
+        QCOMPARE(changeInstances(lines, {}).keys(), QStringList());
+        QCOMPARE(contentOfLpoptions(), others);
+        QVERIFY(OwnInstances().names().isEmpty());
     }
 
     void aListOfOwnInstancesKeepsWhatItDoesNotKnow()
@@ -209,7 +307,7 @@ private Q_SLOTS:
         const QString path = m_home->filePath(u"instances.json"_s);
         const OwnInstances own(path);
         writeFile(path, R"({"version":2,"more":[1],"instances":{"a/b":{"settings":"B","x":1}}})");
-        QCOMPARE(own.note(u"a/c"_s, {u"C"_s}, {}), QString());
+        QCOMPARE(own.note({{u"a/c"_s, {}}}, {u"C"_s}), QString());
         QCOMPARE(own.names(), QStringList({u"a/b"_s, u"a/c"_s}));
         QCOMPARE(own.read().value(u"a/b"_s).settings, u"B"_s);
         QFile file(path);
@@ -236,7 +334,7 @@ private Q_SLOTS:
         const QByteArray damaged = R"({"instances":{"a/b":{"settings":"B"})";
         writeFile(path, damaged);
         const OwnInstances own(path);
-        QCOMPARE(own.note(u"a/c"_s, {u"C"_s}, {}), QString());
+        QCOMPARE(own.note({{u"a/c"_s, {}}}, {u"C"_s}), QString());
         QCOMPARE(own.names(), QStringList{u"a/c"_s});
         QFile kept(path + u".damaged"_s);
         QVERIFY(kept.open(QIODevice::ReadOnly));

@@ -1,5 +1,12 @@
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -8,7 +15,6 @@
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
-#include "tests/support/Rows.h"
 #include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana;
@@ -18,28 +24,6 @@ using namespace Qt::StringLiterals;
 using Phase = PrintTask::Phase;
 
 namespace {
-
-/// What stands in lpoptions after "Duplex=None number-up=2" was written, where the user's line for
-/// the queue says "Boost=ON".
-struct Found
-{
-    const char *name;
-    const char *options;
-    bool isOurs;
-};
-constexpr Found kFound[] = {
-    {"what was written", "Duplex=None number-up=2", true},
-    {"in another order", "number-up=2 Duplex=None", true},
-    {"without what the queue has as a default, as libcups leaves it", "Duplex=None", true},
-    {"with what the user has set for the queue, as libcups leaves it",
-     "Boost=ON Duplex=None number-up=2", true},
-    {"another value", "Duplex=None number-up=4", false},
-    {"another choice", "Duplex=DuplexTumble number-up=2", false},
-    {"without a choice, which no server has a default of", "number-up=2", false},
-    {"one more", "Duplex=None number-up=2 Media=Film", false},
-    {"one more that the queue has with another value", "Boost=OFF Duplex=None number-up=2", false},
-    {"nothing", "", false},
-};
 
 QList<JobOption> options(const char *text)
 {
@@ -161,23 +145,6 @@ private Q_SLOTS:
         m_home.reset();
     }
 
-    void whatLibcupsDoesToAnInstanceIsNoChange_data() { addRows(kFound); }
-    void whatLibcupsDoesToAnInstanceIsNoChange()
-    {
-        const Found &row = currentRow(kFound);
-        OwnInstance own;
-        own.written = {options("Duplex=None number-up=2")};
-        QCOMPARE(own.isAsWritten(options(row.options), options("Boost=ON")), row.isOurs);
-    }
-
-    void whatDidNotGetIntoTheFileLeavesTheFormerOneOurs()
-    {
-        OwnInstance own;
-        own.written = {options("Duplex=DuplexTumble"), options("Duplex=None")};
-        QVERIFY(own.isAsWritten(options("Duplex=None"), {}));
-        QVERIFY(!own.isAsWritten(options("Duplex=DuplexNoTumble"), {}));
-    }
-
     void savingUnderTheNameOfAnotherPresetBringsItsInstanceAlong()
     {
         open(u"office"_s);
@@ -205,7 +172,7 @@ private Q_SLOTS:
         QVERIFY(userOptions().startsWith("# by hand\nDest lab number-up=4\nDest gone x=1\n"));
 
         QCOMPARE(done([&] { presets().rename(u"Accounts"_s); }), QString());
-        QCOMPARE(KnownInstances::read().ofSettings(u"Accounts"_s, u"lab"_s), u"lab/reports"_s);
+        QCOMPARE(KnownInstances::read().ofPreset(u"Accounts"_s, u"lab"_s), u"lab/reports"_s);
         propose(u"Media"_s, u"Plain"_s);
         QCOMPARE(done([&] { presets().update(); }), QString());
         QVERIFY2(lineOf("lab/reports").contains(" Media=Plain "), userOptions().constData());
@@ -226,6 +193,127 @@ private Q_SLOTS:
         open(u"office"_s);
         save(u"Reports"_s);
         QVERIFY2(lineOf("lab/reports").contains(" number-up=1 "), userOptions().constData());
+    }
+
+    // Such as with --save-instance, where no preset was kept.
+    void whatWasKeptByItselfStaysWhateverBecomesOfAPresetOfItsName()
+    {
+        setUserOptions({});
+        QVERIFY(changeInstances({{u"office/reports"_s, options("Media=Card number-up=4")}},
+                                {u"Reports"_s})
+                    .isEmpty());
+        const QByteArray before = userOptions();
+        QVERIFY(!before.isEmpty());
+        open(u"office"_s);
+        propose(u"Media"_s, u"Film"_s);
+        save(u"Reports"_s);
+        QCOMPARE(userOptions(), before);
+        QCOMPARE(said(), QString());
+        QVERIFY(presets().selectedElsewhere().isEmpty());
+        save(u"Reports"_s, true);
+        QCOMPARE(userOptions(), before);
+        QVERIFY2(said().contains(u"“office/reports” is there already"_s), qPrintable(said()));
+        QCOMPARE(done([&] { presets().rename(u"Accounts"_s); }), QString());
+        QCOMPARE(done([&] { presets().rename(u"Reports"_s); }), QString());
+        QCOMPARE(done([&] { presets().remove(); }), QString());
+        QCOMPARE(userOptions(), before);
+        QVERIFY(KnownInstances::read().own.contains(u"office/reports"_s));
+    }
+
+    // Whoever reads it may wait for as long as a file server does not answer.
+    void savingWaitsForNothing()
+    {
+        open(u"office"_s);
+        save(u"Reports"_s, true);
+        propose(u"Media"_s, u"Film"_s);
+        const QByteArray path = QFile::encodeName(m_home->filePath(u".cups/lpoptions"_s));
+        const int held = ::open(path.constData(), O_RDWR | O_CLOEXEC);
+        QVERIFY(held >= 0);
+        auto release = qScopeGuard([&] { ::close(held); });
+        // Nobody can open it as long as somebody has this lease, for 45 seconds at most.
+        ::fcntl(held, F_SETSIG, SIGURG);
+        if (::fcntl(held, F_SETLEASE, F_WRLCK) != 0)
+            QSKIP("no leases on this file system");
+        QSignalSpy ended(&presets(), &TaskPresets::ended);
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(presets().instanceOf(u"Reports"_s), u"office/reports"_s);
+        QCOMPARE(presets().elsewhere(u"Other"_s).problem, QString());
+        QCOMPARE(presets().instancesOfOthers(), QStringList());
+        presets().update();
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+        QTest::qWait(200);
+        QVERIFY(ended.isEmpty());
+        release.dismiss();
+        ::close(held);
+        QVERIFY(ended.wait(20000));
+        QVERIFY2(lineOf("office/reports").contains(" Media=Film "), userOptions().constData());
+    }
+
+    // Of what lpoptions says by then, not of what it said when it was looked at.
+    void whatOthersHaveMadeMeanwhileIsTakenIn()
+    {
+        open(u"lab"_s);
+        save(u"Reports"_s, true);
+        open(u"office"_s);
+        presets().use(u"Reports"_s);
+        propose(u"Media"_s, u"Film"_s);
+        // In another window; nobody has looked since.
+        QVERIFY(changeInstances({{u"office/reports"_s, options("Media=Plain")}},
+                                OwnInstances().read().value(u"lab/reports"_s))
+                    .isEmpty());
+        QCOMPARE(presets().instanceOf(u"Reports"_s), QString());
+        QSignalSpy ended(&presets(), &TaskPresets::ended);
+        presets().update();
+        QVERIFY(ended.wait(20000));
+        QVERIFY(lineOf("lab/reports").contains(" Media=Film "));
+        QVERIFY2(lineOf("office/reports").contains(" Media=Film "), userOptions().constData());
+        QCOMPARE(ended.size(), 1);
+    }
+
+    void whereSettingsAreChangedMeanwhileInstancesStayAndThatIsSaid()
+    {
+        open(u"office"_s);
+        save(u"Reports"_s, true);
+        const QByteArray before = lineOf("office/reports");
+        propose(u"Boost"_s, u"ON"_s);
+        setUserOptions(userOptions() + "Dest lab x=1\n");
+        QSignalSpy ended(&presets(), &TaskPresets::ended);
+        presets().update();
+        propose(u"Media"_s, u"Film"_s);
+        QVERIFY(ended.wait(20000));
+        QCOMPARE(lineOf("office/reports"), before);
+        QVERIFY2(said().contains(u"Settings were changed while “Reports” was saved"_s),
+                 qPrintable(said()));
+    }
+
+    // libcups adds it to the instance, whenever it writes the user's file.
+    void whatTheSystemsFileSaysOfTheQueueIsNobodysChange()
+    {
+        const Variable etc("CUPS_SERVERROOT", m_home->filePath(u"etc"_s).toUtf8());
+        QVERIFY(QDir(m_home->path()).mkpath(u"etc"_s));
+        writeFile(m_home->filePath(u"etc/lpoptions"_s), "Dest office unheard=of\n");
+        open(u"office"_s);
+        save(u"Reports"_s, true);
+        setUserOptions(userOptions().replace("\n", " unheard=of\n"));
+        QVERIFY(lineOf("office/reports").contains(" unheard=of "));
+        propose(u"Media"_s, u"Film"_s);
+        save(u"Reports"_s);
+        QVERIFY2(lineOf("office/reports").contains(" Media=Film "), userOptions().constData());
+    }
+
+    // Of what an administrator has made under its name since, each option counts that the user's
+    // line does not name.
+    void whatTheSystemsFileSaysOfTheInstanceIsAnswered()
+    {
+        open(u"office"_s);
+        save(u"Reports"_s, true);
+        QVERIFY(!lineOf("office/reports").contains(" number-up="));
+        const Variable etc("CUPS_SERVERROOT", m_home->filePath(u"etc"_s).toUtf8());
+        QVERIFY(QDir(m_home->path()).mkpath(u"etc"_s));
+        writeFile(m_home->filePath(u"etc/lpoptions"_s), "Dest office/reports number-up=4\n");
+        save(u"Reports"_s);
+        QVERIFY2(lineOf("office/reports").contains(" number-up=1 "), userOptions().constData());
     }
 
     void whatSomebodyElseHasMadeStays()
@@ -271,9 +359,10 @@ private Q_SLOTS:
         draft.options = options("Media=Film");
         const QByteArray changed = "Dest office/reports Media=Card number-up=9\n";
         setUserOptions(changed);
-        QVERIFY(!writeInstance(draft, {u"Reports"_s}).isEmpty());
+        const OwnInstance own = KnownInstances::read().changedByOthers.value(draft.name);
+        QVERIFY(changeInstances({{draft.name, draft.options}}, own).contains(draft.name));
         QCOMPARE(userOptions(), changed);
-        QCOMPARE(removeInstances({draft.name}), QStringList());
+        QVERIFY(changeInstances({{draft.name, {}}}, own).isEmpty());
         QCOMPARE(userOptions(), changed);
     }
 

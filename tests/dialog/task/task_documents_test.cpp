@@ -147,10 +147,24 @@ private Q_SLOTS:
         request.toRead = {pipe, file(u"after.txt"_s)};
         m_scene->open(request);
         task().bringUp();
+        task().propose(u"Media"_s, u"Card"_s);
+        QTest::qWait(1); // the step is recorded
         const int writer = ::open(QFile::encodeName(pipe).constData(), O_WRONLY);
         QCOMPARE(::write(writer, "Words.\n", 7), 7);
         ::close(writer);
-        QTRY_COMPARE(titles(), (QStringList{own, u"first"_s, u"after.txt"_s}));
+        const QStringList all{own, u"first"_s, u"after.txt"_s};
+        QTRY_COMPARE(titles(), all);
+        // Nobody who takes back what he has done loses them.
+        QCOMPARE(task().undoText(), u"Undo Paper Type"_s);
+        task().undo();
+        QCOMPARE(titles(), all);
+        QVERIFY(!task().canUndo());
+        task().redo();
+        QCOMPARE(titles(), all);
+        QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Card"_s);
+        // What is added then is a step.
+        task().addDocuments({file(u"more.txt"_s)});
+        QCOMPARE(task().undoText(), u"Undo Documents"_s);
         QFile::remove(pipe);
     }
 

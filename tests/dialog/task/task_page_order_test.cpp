@@ -1,10 +1,12 @@
 #include <optional>
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/TaskPresets.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 
@@ -88,6 +90,41 @@ private Q_SLOTS:
         QCOMPARE(shared().value, u"4"_s);
     }
 
+    // Wherever both come from, somebody is told before he prints.
+    void whatExcludesEachOtherIsSaidWhenItIsOpened()
+    {
+        PrintTask &task = open(u"booklet=left number-up=4"_s);
+        const QString said = m_scene->face.message();
+        QVERIFY2(said.contains(u"Pages per Sheet: 4"_s) && said.contains(u"booklet"_s),
+                 qPrintable(said));
+        QCOMPARE(task.settings().attribute(u"number-up"_s), u"4"_s);
+        task.print();
+        QVERIFY(QTest::qWaitFor([&] { return !m_scene->face.refusals.isEmpty(); }));
+        // Room is made by whoever chooses one of them.
+        m_scene->face.refusals.clear();
+        QCOMPARE(task.setAttribute(u"number-up"_s, {}), QString());
+        QVERIFY(problemsOfOrder(task.settings().attributes()).isEmpty());
+    }
+
+    void whatAPresetHasTogetherIsSaidWhenItIsTaken()
+    {
+        QTemporaryDir presets;
+        PrintRequest request = m_scene->request(smallPrinter());
+        request.presetPlaces = {presets.path()};
+        Preset preset{u"Folded"_s, {}, false, {}, {}};
+        preset.content.attributes = {{u"booklet"_s, u"left"_s}, {u"number-up"_s, u"4"_s}};
+        QCOMPARE(PresetStore(request.presetPlaces).save(preset, PresetStore::Replacing::No),
+                 QString());
+        PrintTask &task = m_scene->open(request);
+        task.bringUp();
+        QTRY_VERIFY(task.presets().listing().find(preset.name));
+        QCOMPARE(m_scene->face.message(), QString());
+        task.presets().use(preset.name);
+        const QString said = m_scene->face.message();
+        QVERIFY2(said.contains(u"“Folded”"_s) && said.contains(u"Pages per Sheet: 4"_s),
+                 qPrintable(said));
+    }
+
     // Not only when it is printed.
     void whatALockExcludesIsRefusedBesideTheChoice()
     {
@@ -122,6 +159,26 @@ private Q_SLOTS:
         QCOMPARE(task.settings().attribute(u"repeat"_s), u"2"_s);
         QVERIFY(offered(u"repeat"_s)->hasEffect);
         QVERIFY(problemsOfOrder(task.settings().attributes()).isEmpty());
+    }
+
+    void whatWasTakenAlongOutlastsAnotherPrinter()
+    {
+        const Printer first = m_scene->printer(u"first"_s, smallPrinter().text());
+        const Printer second = m_scene->printer(u"second"_s, smallPrinter().text());
+        PrintTask &task = m_scene->open(m_scene->request({first, second}));
+        task.bringUp();
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
+        for (const Printer &printer : {second, first}) {
+            task.choosePrinter(printer);
+            QVERIFY(m_scene->reaches(PrintTask::Phase::Opened));
+            task.bringUp();
+        }
+        QCOMPARE(task.settings().attribute(u"booklet"_s), u"left"_s);
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QCOMPARE(m_scene->session().markedChoice(u"Duplex"_s), u"None"_s);
+        QCOMPARE(task.settings().attribute(u"number-up"_s), u"4"_s);
     }
 
     void whatWasChosenSinceStays()

@@ -3,6 +3,7 @@
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/session/OptionRequest.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 
@@ -196,6 +197,62 @@ private Q_SLOTS:
         task().redo();
         QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"Left"_s);
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
+    }
+
+    // Which of them was the user's is known by how that printer was opened, not another one of its
+    // model.
+    void stepsOfAPrinterAreNotComparedWithAnotherOne()
+    {
+        PrintRequest request = two(officePrinter().text(), officePrinter().text());
+        request.policy = policyFrom("[printer second]\nlock.Media=Card\n");
+        m_scene->open(request);
+        task().bringUp();
+        // The same options on both, and others when the first one comes back.
+        const QByteArray ppd =
+            officePrinter()
+                .option("Ink", "Ink", "Black", {{"Black", "Black"}, {"Blue", "Blue"}})
+                .text();
+        becomes(ppd);
+        task().bringUp();
+        task().propose(u"Media"_s, u"Card"_s);
+        task().propose(u"Ink"_s, u"Blue"_s);
+        QTest::qWait(1); // the step is recorded
+        task().choosePrinter(request.printers.at(1));
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        becomes(ppd);
+        task().bringUp();
+        QTest::qWait(1);
+        QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Card"_s);
+        task().undo();
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        m_scene->face.messages.clear(); // of what the user had left there, which is the same
+        task().bringUp();
+        QVERIFY2(m_scene->face.message().contains(u"name Ink"_s),
+                 qPrintable(m_scene->face.message()));
+        QCOMPARE(task().printer().name, u"first"_s);
+        QVERIFY(!ppdOption(m_scene->session().ppd(), u"Ink"_s));
+        QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Card"_s);
+    }
+
+    void whatAStepCannotBringBackIsSaid()
+    {
+        m_scene->open(m_scene->request(officePrinter()));
+        task().bringUp();
+        task().propose(u"Staple"_s, u"Left"_s);
+        QTest::qWait(1); // the step is recorded
+        task().propose(u"Staple"_s, u"OFF"_s);
+        QTest::qWait(1);
+        becomes(plainPrinter().text());
+        task().bringUp();
+        m_scene->face.messages.clear();
+        task().undo();
+        QVERIFY2(m_scene->face.message().contains(u"could be set as before"_s) &&
+                     m_scene->face.message().contains(u"name Staple"_s),
+                 qPrintable(m_scene->face.message()));
+        // It has come down to what this printer has of it.
+        m_scene->face.messages.clear();
+        task().undo();
+        QCOMPARE(m_scene->face.message(), QString());
     }
 
     // What it took along is an option that the printer has not any more.

@@ -232,6 +232,24 @@ private Q_SLOTS:
         QCOMPARE(button.accessibleDescription(), u"Long"_s);
     }
 
+    void whatSeveralHaveCoveredComesBackWithTheLastOfThem()
+    {
+        QToolButton button;
+        button.setAccessibleDescription(u"Wide"_s);
+        coverDescription(&button);
+        coverDescription(&button);
+        button.setAccessibleDescription(u"Changed. Wide"_s);
+        uncoverDescription(&button);
+        QCOMPARE(button.accessibleDescription(), u"Changed. Wide"_s);
+        QCOMPARE(coveredDescription(&button), u"Wide"_s);
+        uncoverDescription(&button);
+        QCOMPARE(button.accessibleDescription(), u"Wide"_s);
+        uncoverDescription(&button);
+        coverDescription(&button);
+        uncoverDescription(&button);
+        QCOMPARE(coveredDescription(&button), QString());
+    }
+
     void theButtonsInsideAFieldHaveNames()
     {
         QLineEdit field;

@@ -17,7 +17,7 @@
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/PpdSession.h"
 #include "dialog/window/pages/GeneralPage.h"
-#include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/window/pages/AttributeRowsScene.h"
 #include "tests/support/Gestures.h"
 #include "tests/support/Rows.h"
 
@@ -28,21 +28,6 @@ using namespace Qt::StringLiterals;
 using Place = OfferedAttribute::Place;
 
 namespace {
-
-OfferedAttribute front(const QString &name, const QString &value = {})
-{
-    return {name, value, Place::Front};
-}
-
-OfferedAttribute more(const QString &name, const QString &value = {})
-{
-    return {name, value, Place::More, true, value.isNull()};
-}
-
-OfferedAttribute collate(const QString &value, bool hasEffect)
-{
-    return {u"collate"_s, value, Place::BesideCopies, hasEffect};
-}
 
 struct ShownCase
 {
@@ -112,77 +97,11 @@ const QList<ChosenCase> kTyped{
 } // namespace
 
 /// The rows of the job's attributes on the General page.
-class AttributeRowsTest : public QObject
+class AttributeRowsTest : public AttributeRowsScene
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<PpdSession> m_session;
-    std::unique_ptr<QWidget> m_window;
-    GeneralPage *m_page = nullptr;
-    std::unique_ptr<QSignalSpy> m_proposed;
-
-    void open(const QList<OfferedAttribute> &offered)
-    {
-        m_session = sessionFor(smallPrinter());
-        m_window = std::make_unique<QWidget>();
-        m_page = new GeneralPage(*m_session);
-        auto *layout = new QVBoxLayout(m_window.get());
-        layout->addWidget(m_page);
-        layout->addWidget(new QPushButton(u"&Print"_s));
-        m_window->resize(500, 500);
-        m_page->setAttributes(offered);
-        m_proposed = std::make_unique<QSignalSpy>(m_page, &GeneralPage::attributeProposed);
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
-    template <typename Control = QWidget> Control *control(const QString &name)
-    {
-        return m_page->findChild<Control *>(name);
-    }
-    QString shown(const QString &name)
-    {
-        if (auto *other = control<QLineEdit>(name + u"Other"_s); other && other->isVisible())
-            return other->text();
-        if (auto *words = control<QComboBox>(name))
-            return words->currentText();
-        if (auto *number = control<QDoubleSpinBox>(name))
-            return number->text();
-        auto *text = control<QLineEdit>(name);
-        return text ? text->text() : QString();
-    }
-    QString note(const QString &name)
-    {
-        auto *note = control<QLabel>(name + u"Note"_s);
-        return note && note->isVisible() ? note->text() : QString();
-    }
-    // What the last proposal was for, and what it was.
-    QStringList proposal()
-    {
-        return m_proposed->isEmpty() ? QStringList()
-                                     : QStringList{m_proposed->constLast().at(0).toString(),
-                                                   m_proposed->constLast().at(1).toString()};
-    }
-    void type(const QString &name, const QString &text)
-    {
-        QWidget *field = control(name);
-        field->setFocus(Qt::TabFocusReason);
-        if (auto *line = qobject_cast<QLineEdit *>(field))
-            line->selectAll();
-        else if (auto *number = qobject_cast<QDoubleSpinBox *>(field))
-            number->selectAll();
-        QTest::keyClicks(field, text);
-    }
-
 private Q_SLOTS:
-    void cleanup()
-    {
-        m_proposed.reset();
-        m_window.reset();
-        m_session.reset();
-    }
-
     void theControlShowsWhatIsInForce_data() { addRows(kShown); }
     void theControlShowsWhatIsInForce()
     {
@@ -427,75 +346,6 @@ private Q_SLOTS:
         QVERIFY(click(box));
         QCOMPARE(proposal(), (QStringList{u"collate"_s, u"true"_s}));
         QCOMPARE(m_proposed->size(), 2);
-    }
-
-    void tabGoesInReadingOrder()
-    {
-        open({collate({}, true), more(u"page-set"_s), more(u"job-hold-until"_s, u"12:30"_s),
-              front(u"number-up"_s)});
-        control<QPushButton>(u"more"_s)->click();
-        // One that comes later stands in its place all the same.
-        m_page->setAttributes({collate({}, true), front(u"number-up"_s), front(u"print-scaling"_s),
-                               more(u"page-set"_s), more(u"job-hold-until"_s, u"12:30"_s)});
-        QTRY_VERIFY(control(u"print-scaling"_s)->isVisible());
-        control(u"copies"_s)->setFocus();
-        QStringList order;
-        for (QWidget *last = nullptr; QApplication::focusWidget() != last && order.size() < 20;) {
-            last = QApplication::focusWidget();
-            order += last->objectName();
-            QTest::keyClick(last, Qt::Key_Tab);
-            if (!m_page->isAncestorOf(QApplication::focusWidget()))
-                break;
-        }
-        QCOMPARE(order.join(u' '),
-                 (QStringList{u"copies"_s, u"collate"_s, u"pageRanges"_s, u"choosePages"_s,
-                              u"Duplex"_s, u"PageSize"_s, u"QXOutput"_s, u"AP_ColorMatchingMode"_s,
-                              u"number-up"_s, u"print-scaling"_s, u"more"_s, u"page-set"_s,
-                              u"job-hold-until"_s, u"job-hold-untilOther"_s})
-                     .join(u' '));
-        int former = 0;
-        for (const QString &name : std::as_const(order)) {
-            const int top = control(name)->mapTo(m_window.get(), QPoint()).y();
-            QVERIFY2(top >= former - 4, qPrintable(name)); // a check box is less high
-            former = top;
-        }
-    }
-
-    void theKeysOfARowLeadToItsControl()
-    {
-        open({collate({}, true), front(u"number-up"_s), more(u"page-set"_s)});
-        QTest::keyClick(m_window.get(), Qt::Key_S, Qt::AltModifier); // Pages per &Sheet
-        QVERIFY(control(u"number-up"_s)->hasFocus());
-        QTest::keyClick(m_window.get(), Qt::Key_M, Qt::AltModifier);
-        QTRY_VERIFY(control<QPushButton>(u"more"_s)->isChecked());
-    }
-
-    void aRowHasTheHeightOfItsNeighbours()
-    {
-        open({front(u"number-up"_s), front(u"print-scaling"_s)});
-        const int neighbour = control(u"PageSize"_s)->height();
-        QCOMPARE(control(u"number-up"_s)->height(), neighbour);
-        const auto top = [&](const QString &name) {
-            return control(name)->mapTo(m_page, QPoint()).y();
-        };
-        QCOMPARE(top(u"print-scaling"_s) - top(u"number-up"_s),
-                 top(u"AP_ColorMatchingMode"_s) - top(u"QXOutput"_s));
-    }
-
-    void returnTakesWhatIsTypedBeforeItPrints()
-    {
-        open({front(u"job-sheets"_s)});
-        connect(m_page, &GeneralPage::attributeProposed, this,
-                [this](const QString &name, const QString &value) {
-                    m_page->showAttributeProblem(name, {});
-                    m_page->setAttributes({front(name, value)});
-                });
-        type(u"job-sheets"_s, u"standard"_s);
-        QTest::keyClick(control(u"job-sheets"_s), Qt::Key_Return);
-        QCOMPARE(proposal(), (QStringList{u"job-sheets"_s, u"standard"_s}));
-        QCOMPARE(m_proposed->size(), 1);
-        QTest::keyClick(control(u"job-sheets"_s), Qt::Key_Return); // nothing is new
-        QCOMPARE(m_proposed->size(), 1);
     }
 };
 
