@@ -114,17 +114,21 @@ private:
     QList<JobOption> m_left;
 };
 
-// One after the other, as far as they go.
+// One after the other, as far as they go beside those before.
 OptionOutcome applyEach(const QList<JobOption> &options, OpenedPrinter &printer)
 {
     OptionOutcome all;
+    QList<JobOption> taken;
+    QStringList problems;
     for (const JobOption &option : options) {
-        const OptionOutcome one = apply({option}, printer);
-        all.problems += one.problems;
-        all.attributes += one.attributes;
-        if (one.copies)
-            all.copies = one.copies;
+        const OptionOutcome more = apply(taken + QList<JobOption>{option}, printer);
+        problems += more.problems;
+        if (!more.ok())
+            continue;
+        taken += option;
+        all = more;
     }
+    all.problems = problems;
     return all;
 }
 

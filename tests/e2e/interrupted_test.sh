@@ -153,6 +153,23 @@ aSignalEndsTheDialogWithoutAJob() {
     expect_nothing_new
 }
 
+# Whoever reads the pipe takes the copy along.
+aSignalEndsTheDialogWhileAPipeIsRead() {
+    local writer
+    long_chain
+    mkfifo "$work/pipe"
+    { printf 'Some words' && exec sleep 300; } >"$work/pipe" &
+    writer=$!
+    open_dialog "$work/pipe"
+    await 'the copy' holds_a_copy
+    kill -s INT "$dialog"
+    expect_end
+    kill "$writer"
+    expect_status 130
+    expect_equal "$(ls -A "$work/tmp")" ''
+}
+holds_a_copy() { [ -n "$(find "$work/tmp" -name document)" ]; }
+
 # A question that nobody has answered is no permission.
 aSignalEndsTheDialogDuringAQuestion() {
     long_chain

@@ -1,4 +1,8 @@
+#include <thread>
+
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -152,6 +156,49 @@ private Q_SLOTS:
         QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
         QCOMPARE(request.documents.size(), 1);
         QCOMPARE(request.toRead, (QStringList{u"pipe"_s, u"more.txt"_s}));
+    }
+
+    // Where there is no window, or nothing can be known of a document later, it is waited for; and
+    // standard input is read before there is a window, with all that stands in front of it.
+    void aPipeIsWaitedForWhereItCannotComeLater_data()
+    {
+        QTest::addColumn<QStringList>("documents");
+        QTest::addColumn<bool>("isUnattended");
+        QTest::addColumn<QString>("option");
+        QTest::newRow("nobody looks on") << QStringList{u"pipe"_s} << true << QString();
+        QTest::newRow("passed on as it is") << QStringList{u"pipe"_s} << false << u"raw"_s;
+        QTest::newRow("in front of standard input")
+            << QStringList{u"pipe"_s, u"-"_s} << false << QString();
+    }
+    void aPipeIsWaitedForWhereItCannotComeLater()
+    {
+        QFETCH(QStringList, documents);
+        QFETCH(bool, isUnattended);
+        QFETCH(QString, option);
+        QCOMPARE(::mkfifo("pipe", 0600), 0);
+        const int input = ::dup(0);
+        const int given = ::open("notes.v2.txt", O_RDONLY | O_CLOEXEC);
+        QCOMPARE(::dup2(given, 0), 0);
+        std::thread writer([] {
+            const int pipe = ::open("pipe", O_WRONLY | O_CLOEXEC);
+            [[maybe_unused]] const ssize_t written = ::write(pipe, "words\n", 6);
+            ::close(pipe);
+        });
+        m_line.documents = documents;
+        m_line.noDialog = isUnattended;
+        if (!option.isEmpty())
+            m_line.options = {option};
+        QString error;
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
+        const int released = ::open("pipe", O_RDONLY | O_NONBLOCK | O_CLOEXEC); // in any case
+        writer.join();
+        ::dup2(input, 0);
+        for (const int one : {released, given, input})
+            ::close(one);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(request.documents.size(), documents.size());
+        QCOMPARE(request.documents.constFirst().title, u"pipe"_s);
+        QCOMPARE(request.toRead, QStringList());
     }
 
     // libcups would read them in each thread, and never be done.

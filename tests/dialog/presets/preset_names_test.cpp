@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -54,6 +55,16 @@ Preset named(const QString &name, const QString &model, const QString &media)
     preset.content.options = {{u"Media"_s, media}};
     return preset;
 }
+
+class InAnotherLanguage : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString::fromLatin1(text).replace(u"(for everybody)"_s, u"[all]"_s);
+    }
+};
 
 QString mediaOf(const std::optional<StoredPreset> &found)
 {
@@ -108,6 +119,30 @@ private Q_SLOTS:
         QCOMPARE(listing.presets.size(), 3);
         QCOMPARE(mediaOf(listing.find(kBoth.at(1))), u"Thin"_s);
         QCOMPARE(mediaOf(listing.find(u"Reports (for everybody) (for everybody)"_s)), u"Thick"_s);
+    }
+
+    // It is another one, although the one for everybody would be found by that name.
+    void aPresetThatIsCalledLikeOneForEverybodyIsListedBesideIt()
+    {
+        QCOMPARE(everybodys().save(named(u"Reports"_s, kModel, u"Thick"_s), Replacing::No),
+                 QString());
+        QCOMPARE(store().save(named(kBoth.at(1), kModel, u"Thin"_s), Replacing::No), QString());
+        const PresetListing listing = store().list(kModel);
+        QCOMPARE(listing.names(), kBoth);
+        QCOMPARE(mediaOf(listing.find(kBoth.at(1))), u"Thin"_s);
+    }
+
+    // Whoever wrote a script may have another language than whoever runs it.
+    void theOneForEverybodyIsFoundInEnglishAndInTheUsersLanguage()
+    {
+        QCOMPARE(everybodys().save(named(u"Reports"_s, kModel, u"Thick"_s), Replacing::No),
+                 QString());
+        InAnotherLanguage translator;
+        QCoreApplication::installTranslator(&translator);
+        const PresetListing listing = store().list(kModel);
+        for (const QString &name : {u"Reports"_s, u"Reports [all]"_s, kBoth.at(1)})
+            QCOMPARE(mediaOf(listing.find(name)), u"Thick"_s);
+        QCoreApplication::removeTranslator(&translator);
     }
 
     void whatWasLookedAtIsWhatIsRead()

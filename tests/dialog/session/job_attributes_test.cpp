@@ -202,6 +202,7 @@ private Q_SLOTS:
         row(u"finishings"_s, u"25"_s, u"Edge Stitch (Top)"_s);
         row(u"finishings"_s, u"85,94"_s, u"Punch (Bottom, 4×), Fold (half-z)"_s);
         row(u"finishings"_s, u"9999"_s, u"9999"_s);
+        row(u"finishings"_s, u"1073741914"_s, u"cups-fold-accordion"_s);
         row(u"finishings"_s, u"Crimp"_s, u"Crimp"_s);
         row(u"print-quality"_s, u"5"_s, u"High"_s);
         row(u"orientation-requested"_s, u"6"_s, u"Reverse Portrait"_s);

@@ -113,6 +113,29 @@ private Q_SLOTS:
         QCOMPARE(refusals.at(0).conflicting, (QList<OptionChoice>{{u"Tray"_s, u"Lower"_s}}));
     }
 
+    // Of three that exclude each other already none is to blame for what was there before.
+    void whatWasInTheWayBeforeIsNoReason()
+    {
+        const auto session = sessionFor(smallPrinter()
+                                            .constraint("Media", "Plain", "Tray", "Upper")
+                                            .constraint("Media", "Plain", "Boost", "OFF")
+                                            .constraint("Tray", "Upper", "Boost", "OFF"));
+        QVERIFY(ppdConflicts(session->ppd()) > 0);
+        QCOMPARE(session->changeTogether({{u"Media"_s, u"Plain"_s}}), QList<Refusal>());
+    }
+
+    // It is what keeps the set from being taken, whatever else may be in the way.
+    void aLockInTheWayIsAllThatIsSaid()
+    {
+        m_session->change(u"Tray"_s, u"Lower"_s, Origin::Dialog);
+        m_session->setLocks(
+            {{u"Boost"_s, {.kind = OptionLock::Kind::Choice, .choice = u"OFF"_s, .by = u"1"_s}}});
+        const QList<Refusal> refusals =
+            m_session->changeTogether({{u"Boost"_s, u"ON"_s}, {u"Media"_s, u"Film"_s}});
+        QCOMPARE(refusals.size(), 1);
+        QCOMPARE(refusals.constFirst().locked.keyword, u"Boost"_s);
+    }
+
     // The paper is meant, whichever of its two options a PPD names.
     void aConstraintOfThePageRegionAloneCounts()
     {

@@ -121,7 +121,9 @@ private Q_SLOTS:
         const auto session = sessionFor(smallPrinter());
         FakePlugIn plugIn({u"A"_s});
         PanelHost panels(*session, &plugIn, m_presenter);
-        plugIn.panels.at(0)->supported = QStringList{u"Tray"_s, u"Media"_s, u"Duplex"_s};
+        plugIn.panels.at(0)->supported =
+            QStringList{u"Tray"_s, u"Media"_s, u"Duplex"_s, u"QXOutput"_s};
+        session->change(u"QXOutput"_s, u"FAX"_s, Origin::Dialog); // told with the general options
         plugIn.panels.at(0)->summaryLines = {{u"Media"_s, u"Plain Paper"_s}};
         session->change(u"Boost"_s, u"ON"_s, Origin::Dialog);
         const QList<SummaryLine> before = sessionSummary(*session, panels, 1, {});
@@ -132,6 +134,24 @@ private Q_SLOTS:
                                                      {u"Tray"_s, u"Lower Tray"_s}}));
         QVERIFY(lines.at(lines.size() - 2).isHeading && !lines.constLast().isHeading);
         QCOMPARE(lines.constLast().keyword, u"Tray"_s);
+    }
+
+    // It is of no single option then, and each that has its title is told.
+    void aLineOfAPanelTellsOfAllOptionsOfItsTitle()
+    {
+        const QList<PpdChoice> choices{{"Off", "Off"}, {"On", "On"}};
+        const auto session = sessionFor(PpdBuilder()
+                                            .option("Left", "Edge", "Off", choices)
+                                            .option("Right", "Edge", "Off", choices));
+        FakePlugIn plugIn({u"A"_s});
+        PanelHost panels(*session, &plugIn, m_presenter);
+        plugIn.panels.at(0)->supported = QStringList{u"Left"_s, u"Right"_s};
+        plugIn.panels.at(0)->summaryLines = {{u"Edge"_s, u"Both"_s}};
+        session->change(u"Left"_s, u"On"_s, Origin::Dialog);
+        session->change(u"Right"_s, u"On"_s, Origin::Dialog);
+        const QList<SummaryLine> lines = sessionSummary(*session, panels, 1, {});
+        QCOMPARE(lines.constLast(), (SummaryLine{u"Edge"_s, u"Both"_s}));
+        QVERIFY(lines.constLast().keyword.isEmpty());
     }
 
     // The plug-in's own value takes the place of the mark.

@@ -4,6 +4,7 @@
 #include "dialog/printers/OwnInstances.h"
 #include "dialog/printers/UserQueuesLine.h"
 #include "dialog/task/InstanceDraft.h"
+#include "dialog/task/PresetInstances.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
 
@@ -339,6 +340,64 @@ private Q_SLOTS:
         QFile kept(path + u".damaged"_s);
         QVERIFY(kept.open(QIODevice::ReadOnly));
         QCOMPARE(kept.readAll(), damaged);
+    }
+
+    // Whoever cannot keep what it was must not begin anew.
+    void aDamagedListThatCannotBeKeptIsLeftAsItIs()
+    {
+        const QString path = m_home->filePath(u"instances.json"_s);
+        writeFile(path, "{");
+        QVERIFY(QDir().mkpath(path + u".damaged"_s)); // where a file would have to be
+        const OwnInstances own(path);
+        const QString problem = own.note(u"a/c"_s, {u"C"_s}, {});
+        QVERIFY2(problem.contains(u"It was not changed"_s), qPrintable(problem));
+        QVERIFY(!own.damage().isEmpty());
+    }
+
+    // What stands in the file and what may have got there, too, are known however often writing
+    // fails.
+    void whatMayStandThereIsKnown()
+    {
+        const OwnInstances own(m_home->filePath(u"instances.json"_s));
+        const auto written = [](int number) {
+            return QList<JobOption>{{u"Number"_s, QString::number(number)}};
+        };
+        for (int number = 0; number < 5; ++number) {
+            QCOMPARE(own.note(u"a/c"_s, {u"C"_s}, written(number)), QString());
+            if (number > 0)
+                QCOMPARE(own.noteFailure(u"a/c"_s), QString());
+        }
+        QCOMPARE(own.note(u"a/c"_s, {u"C"_s}, written(5)), QString());
+        const OwnInstance instance = own.read().value(u"a/c"_s);
+        for (const int number : {0, 4, 5})
+            QVERIFY2(instance.isAsWritten(written(number), {}),
+                     qPrintable(QString::number(number)));
+        QVERIFY(!instance.isAsWritten(written(1), {}));
+    }
+
+    void whatOnlyTheSystemsFileHasIsNotOurs()
+    {
+        start();
+        QCOMPARE(writeInstance(draft(), {u"Reports"_s}), QString());
+        QVERIFY(QDir().mkpath(m_home->filePath(u"system"_s)));
+        QVERIFY(QFile::rename(lpoptions(), m_home->filePath(u"system/lpoptions"_s)));
+        const Variable root("CUPS_SERVERROOT", m_home->filePath(u"system"_s).toUtf8());
+        const KnownInstances known = KnownInstances::read();
+        QVERIFY(known.queues.hasInstance(u"office/reports"_s));
+        QCOMPARE(known.own.keys(), QStringList());
+    }
+
+    // Another window may have been writing when it was looked at first.
+    void whatIsOursAfterAllIsNotTakenForChanged()
+    {
+        start();
+        QCOMPARE(writeInstance(draft(), {u"Reports"_s}), QString());
+        InstanceChanges changes;
+        changes.changedByOthers = QStringList{u"office/reports"_s};
+        InstancesOutcome outcome;
+        changeInstances(changes, &outcome);
+        QCOMPARE(outcome.problems, QStringList());
+        QCOMPARE(OwnInstances().names(), QStringList{u"office/reports"_s});
     }
 
     void onlyQueuesHaveInstances()

@@ -248,6 +248,24 @@ private Q_SLOTS:
         QCOMPARE(broken(), QStringList());
     }
 
+    void aJobThatSaysTheSameByAnotherNameBreaksNoLock()
+    {
+        usePrinter(true);
+        lock("print-scaling=fit");
+        start();
+        const auto brokenBy = [this](const JobOption &more) {
+            return brokenLocks(m_printer->session->locks(), job() << more, 1);
+        };
+        QCOMPARE(brokenBy({u"fit-to-page"_s, u"true"_s}), QStringList());
+        QCOMPARE(brokenBy({u"fit-to-page"_s, u"false"_s}), QStringList{u"fit-to-page"_s});
+        // Nobody has to hear of it where a preset says it so.
+        for (const bool isSame : {true, false}) {
+            m_settings = {};
+            say(By::Preset, isSame ? u"fit-to-page=true"_s : u"fit-to-page=false"_s);
+            QCOMPARE(start().ignored.isEmpty(), isSame);
+        }
+    }
+
     // libcups takes the mark of the hand feed away with each tray.
     void aTrayCanBeChosenWhereTheHandFeedIsLockedOff()
     {

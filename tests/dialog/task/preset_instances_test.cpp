@@ -400,6 +400,21 @@ private Q_SLOTS:
         QVERIFY(lineOf("ink/reports").isEmpty() && lineOf("office/reports").isEmpty());
     }
 
+    void whatSomebodyHasTakenAwayStaysAway()
+    {
+        addQueue(u"office"_s, smallPrinter());
+        addQueue(u"lab"_s, smallPrinter());
+        open(u"lab"_s);
+        save(u"Reports"_s, true);
+        open(u"office"_s);
+        save(u"Reports"_s, true);
+        setUserOptions("# nothing\n");
+        propose(u"Media"_s, u"Film"_s);
+        save(u"Reports"_s);
+        QCOMPARE(userOptions(), QByteArray("# nothing\n"));
+        QCOMPARE(said(), QString());
+    }
+
     void whatIsNotPossibleOnAnotherQueueIsSaidAndNotWritten()
     {
         const auto printer = [](const QByteArray &installed) {

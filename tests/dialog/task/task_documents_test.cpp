@@ -1,13 +1,17 @@
+#include <algorithm>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/job/FileBytes.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/TestPaths.h"
@@ -38,6 +42,21 @@ private:
             titles += document.title;
         return titles;
     }
+    QString makePipe(const QString &name)
+    {
+        const QString path = m_folder.filePath(name);
+        return ::mkfifo(QFile::encodeName(path).constData(), 0600) == 0 ? path : QString();
+    }
+    /// How many descriptors of this program lead to a file.
+    static qsizetype openings(const QString &path)
+    {
+        const QFileInfoList all =
+            QDir(u"/proc/self/fd"_s)
+                .entryInfoList(QDir::System | QDir::Files | QDir::NoDotAndDotDot);
+        return std::count_if(all.cbegin(), all.cend(),
+                             [&](const QFileInfo &one) { return one.symLinkTarget() == path; });
+    }
+    static bool isOpen(const QString &path) { return openings(path) > 0; }
     /// As a window is opened that has no document.
     void openWithout()
     {
@@ -111,19 +130,27 @@ private Q_SLOTS:
     void aPipeThatNobodyWritesIntoIsLeftWithoutWaiting_data()
     {
         QTest::addColumn<bool>("isCanceled");
-        QTest::newRow("canceled") << true;
-        QTest::newRow("the window is closed") << false;
+        QTest::addColumn<bool>("hasWriter");
+        QTest::newRow("canceled") << true << false;
+        QTest::newRow("canceled, and somebody has it open") << true << true;
+        QTest::newRow("the window is closed") << false << false;
+        QTest::newRow("the window is closed, and somebody has it open") << false << true;
     }
     void aPipeThatNobodyWritesIntoIsLeftWithoutWaiting()
     {
         QFETCH(bool, isCanceled);
+        QFETCH(bool, hasWriter);
         openWithout();
-        const QString pipe = m_folder.filePath(u"idle"_s);
-        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        const QString pipe = makePipe(u"idle"_s);
         std::function<void()> cancel;
         connect(&task(), &PrintTask::said, this,
                 [&](const TaskMessage &message) { cancel = message.take; });
         task().addDocuments({pipe});
+        QTRY_VERIFY(isOpen(pipe));
+        const int writer =
+            hasWriter ? ::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_CLOEXEC) : -1;
+        if (hasWriter)
+            QCOMPARE(::write(writer, "Some ", 5), 5);
         QElapsedTimer time;
         time.start();
         if (isCanceled)
@@ -131,11 +158,79 @@ private Q_SLOTS:
         else
             m_scene.reset();
         // Its reader lets go of the pipe.
-        QTRY_VERIFY(::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_NONBLOCK) < 0);
+        QTRY_COMPARE(openings(pipe), hasWriter ? 1 : 0);
         QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
+        if (hasWriter)
+            ::close(writer);
         if (isCanceled)
             QCOMPARE(titles(), QStringList());
         QFile::remove(pipe);
+    }
+
+    // It was asked for as well.
+    void whatStandsBehindACanceledPipeIsReadAllTheSame()
+    {
+        openWithout();
+        const QString pipe = makePipe(u"canceled"_s);
+        std::function<void()> cancel;
+        connect(&task(), &PrintTask::said, this,
+                [&](const TaskMessage &message) { cancel = message.take; });
+        task().addDocuments({pipe, file(u"behind.txt"_s)});
+        cancel();
+        QTRY_COMPARE(titles(), QStringList{u"behind.txt"_s});
+        QFile::remove(pipe);
+    }
+
+    // A job has the documents that it began with.
+    void whatIsReadWhileAJobRunsWaitsForItsEnd()
+    {
+        openWithout();
+        const QString pipe = makePipe(u"left"_s);
+        task().addDocuments({file(u"first.txt"_s)});
+        std::function<void()> cancel;
+        connect(&task(), &PrintTask::said, this,
+                [&](const TaskMessage &message) { cancel = message.take; });
+        task().addDocuments({pipe, file(u"behind.txt"_s)});
+        cancel();
+        task().print(); // before the next one is begun
+        QVERIFY(m_scene->reaches(PrintTask::Phase::Ended));
+        QTest::qWait(100);
+        QCOMPARE(titles(), QStringList{u"first.txt"_s});
+        QFile::remove(pipe);
+    }
+
+    // Each printer that is chosen takes the messages of the former one away.
+    void whatIsBeingReadIsSaidWhicheverPrinterIsChosen()
+    {
+        PrintRequest request =
+            m_scene->request({m_scene->printer(u"one"_s, officePrinter().text()),
+                              m_scene->printer(u"other"_s, smallPrinter().text())});
+        m_scene->open(request);
+        task().bringUp();
+        connect(&task(), &PrintTask::said, this,
+                [this](const TaskMessage &message) { m_said += message.text; });
+        connect(&task(), &PrintTask::unsaid, this, [this] { m_said.clear(); });
+        const QString pipe = makePipe(u"long"_s);
+        task().addDocuments({pipe});
+        QVERIFY(m_said.value(0).contains(u"long is being read"_s));
+        task().choosePrinter(request.printers.at(1));
+        QVERIFY2(m_said.join(u' ').contains(u"long is being read"_s),
+                 qPrintable(m_said.join(u' ')));
+        QFile::remove(pipe);
+    }
+
+    // No program can be told its name, so that it is copied, however large it is.
+    void aFileWithANameOfStrayBytesIsReadBesideTheWindow()
+    {
+        openWithout();
+        const QByteArray path = QFile::encodeName(m_folder.path()) + "/\xff.txt";
+        const int made = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+        QCOMPARE(::write(made, "Some words.\n", 12), 12);
+        ::close(made);
+        task().addDocuments({nameOfBytes(path)});
+        QCOMPARE(titles(), QStringList());
+        QTRY_COMPARE(titles().size(), 1);
+        ::unlink(path.constData());
     }
 
     void aPipeOfTheCommandLineComesBehindTheOthers()

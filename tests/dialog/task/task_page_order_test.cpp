@@ -196,6 +196,90 @@ private Q_SLOTS:
         QCOMPARE(duplex(), u"DuplexTumble"_s);
     }
 
+    void whatWasChosenOfTheJobSinceStays_data()
+    {
+        QTest::addColumn<bool>("isReset");
+        QTest::newRow("chosen") << false;
+        QTest::newRow("reset") << true;
+    }
+    void whatWasChosenOfTheJobSinceStays()
+    {
+        QFETCH(bool, isReset);
+        PrintTask &task = open();
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
+        if (isReset) {
+            task.resetSettings({u"number-up"_s});
+        } else {
+            task.setAttribute(u"number-up"_s, u"6"_s);
+            task.setAttribute(u"number-up"_s, u"1"_s);
+        }
+        task.setAttribute(u"booklet"_s, u"no"_s);
+        QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
+    }
+
+    // However often each page comes, it has room for nothing beside it.
+    void eachNumberOfTimesMakesRoom()
+    {
+        PrintTask &task = open();
+        task.setAttribute(u"repeat"_s, u"2"_s);
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        QVERIFY(!problemsOfOrder(task.settings().attributes()).isEmpty());
+        QCOMPARE(task.setAttribute(u"repeat"_s, u"9"_s), QString());
+        QCOMPARE(task.settings().attribute(u"repeat"_s), u"9"_s);
+        QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
+    }
+
+    // Nothing of it is left for an order that is chosen later.
+    void whatWasTakenAlongIsForgottenWithTheSettings_data()
+    {
+        QTest::addColumn<bool>("isReset");
+        QTest::newRow("everything is reset") << true;
+        QTest::newRow("another printer is chosen") << false;
+    }
+    void whatWasTakenAlongIsForgottenWithTheSettings()
+    {
+        QFETCH(bool, isReset);
+        const PrintRequest request =
+            m_scene->request({m_scene->printer(u"one"_s, smallPrinter().text()),
+                              m_scene->printer(u"other"_s, smallPrinter().text())});
+        PrintTask &task = m_scene->open(request);
+        task.bringUp();
+        task.setAttribute(u"number-up"_s, u"4"_s);
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        if (isReset) {
+            task.resetAll();
+        } else {
+            task.choosePrinter(request.printers.at(1));
+            QTRY_COMPARE(task.phase(), PrintTask::Phase::Opened);
+            task.bringUp();
+        }
+        QVERIFY(task.settings().attribute(u"booklet"_s).isNull());
+        task.setAttribute(u"repeat"_s, u"2"_s);
+        task.setAttribute(u"repeat"_s, u"1"_s);
+        QVERIFY2(task.settings().attribute(u"number-up"_s).isNull(),
+                 qPrintable(task.settings().attribute(u"number-up"_s)));
+    }
+
+    // There is nothing to go back to.
+    void sidesThatHadNoMarkBeforeABookletStay()
+    {
+        PrintRequest request = m_scene->request(PpdBuilder().option(
+            "Duplex", "Two-Sided", "Unknown",
+            {{"None", "Off"}, {"DuplexNoTumble", "Long Edge"}, {"DuplexTumble", "Short Edge"}}));
+        PrintTask &task = m_scene->open(request);
+        QVERIFY(m_scene->session().markedChoice(kDuplexOption).isNull());
+        task.setAttribute(u"booklet"_s, u"left"_s);
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
+        QStringList said;
+        connect(&task, &PrintTask::said, this,
+                [&](const TaskMessage &message) { said += message.text; });
+        QCOMPARE(task.setAttribute(u"booklet"_s, u"no"_s), QString());
+        QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
+        QCOMPARE(said, QStringList());
+    }
+
     void aBookletAndItsFoldingAreOneStep()
     {
         PrintTask &task = open();

@@ -105,6 +105,75 @@ private Q_SLOTS:
         QCOMPARE(outcome.problems.size(), 2);
     }
 
+    // The tray is not in the list: the medium is refused whatever else goes out.
+    void whatCollidesWithSomethingBesideTheListGoesOutByItself()
+    {
+        openSmall(smallPrinter().constraint("Media", "Film", "Boost", "ON"));
+        QVERIFY(apply(u"Tray=Lower"_s).ok());
+        const OptionOutcome outcome =
+            applyWhatFits({{u"Media"_s, u"Film"_s}, {u"Boost"_s, u"ON"_s}}, *m_printer);
+        QCOMPARE(marked(u"Media"_s), u"Plain"_s);
+        QCOMPARE(marked(u"Tray"_s), u"Lower"_s);
+        QCOMPARE(marked(u"Boost"_s), u"ON"_s);
+        QCOMPARE(outcome.problems.size(), 1);
+    }
+
+    // libcups calls all custom papers "Custom".
+    void ofACustomPaperAndWhatItExcludesTheFirstCounts_data()
+    {
+        QTest::addColumn<bool>("isPaperFirst");
+        QTest::newRow("the paper") << true;
+        QTest::newRow("the tray") << false;
+    }
+    void ofACustomPaperAndWhatItExcludesTheFirstCounts()
+    {
+        QFETCH(bool, isPaperFirst);
+        openSmall(smallPrinter()
+                      .customPageSize(72, 72, 720, 1080)
+                      .constraint("PageSize", "Custom", "Tray", "Lower"));
+        const QString usual = marked(u"PageSize"_s);
+        const JobOption paper{u"PageSize"_s, u"Custom.100x200"_s};
+        const JobOption tray{u"Tray"_s, u"Lower"_s};
+        const OptionOutcome outcome =
+            applyWhatFits({isPaperFirst ? paper : tray, isPaperFirst ? tray : paper}, *m_printer);
+        QCOMPARE(marked(u"PageSize"_s), isPaperFirst ? u"Custom"_s : usual);
+        QCOMPARE(marked(u"Tray"_s), isPaperFirst ? u"Upper"_s : u"Lower"_s);
+        QCOMPARE(outcome.problems.size(), 1);
+    }
+
+    // Marking one of them takes the mark of the other away, which no constraint says.
+    void ofATrayAndTheFeedByHandTheFirstCounts_data()
+    {
+        QTest::addColumn<bool>("isTrayFirst");
+        QTest::newRow("the tray") << true;
+        QTest::newRow("by hand") << false;
+    }
+    void ofATrayAndTheFeedByHandTheFirstCounts()
+    {
+        QFETCH(bool, isTrayFirst);
+        openSmall(
+            smallPrinter()
+                .option("InputSlot", "Source", "Auto", {{"Auto", "Auto"}, {"Lower", "Lower"}})
+                .option("ManualFeed", "By Hand", "False", {{"False", "No"}, {"True", "Yes"}}));
+        const JobOption tray{u"InputSlot"_s, u"Lower"_s};
+        const JobOption byHand{u"ManualFeed"_s, u"True"_s};
+        const OptionOutcome outcome = applyWhatFits({isTrayFirst ? tray : byHand,
+                                                     isTrayFirst ? byHand : tray,
+                                                     {u"Boost"_s, u"ON"_s},
+                                                     {u"mirror"_s, u"true"_s},
+                                                     {u"copies"_s, u"3"_s}},
+                                                    *m_printer);
+        QCOMPARE(marked(u"InputSlot"_s), isTrayFirst ? u"Lower"_s : QString());
+        QCOMPARE(marked(u"ManualFeed"_s) == u"True"_s, !isTrayFirst);
+        QCOMPARE(marked(u"Boost"_s), u"ON"_s);
+        QCOMPARE(outcome.attributes, (QList<JobOption>{{u"mirror"_s, u"true"_s}}));
+        QCOMPARE(outcome.copies, 3);
+        QCOMPARE(outcome.problems.size(), 1);
+        for (const QString &name : {u"InputSlot"_s, u"ManualFeed"_s})
+            QVERIFY2(outcome.problems.constFirst().contains(name),
+                     qPrintable(outcome.problems.constFirst()));
+    }
+
     // No conflict goes away with one of them.
     void ofThreeThatExcludeEachOtherTheFirstCounts()
     {

@@ -81,12 +81,16 @@ private Q_SLOTS:
         footer.showProgress({}, true);
         QVERIFY(leave->isVisible() && print->isHidden() && footer.finder()->isHidden());
         QCOMPARE(leave->text(), u"C&lose (printing continues)"_s);
+        footer.setGeometry(0, 0, footer.minimumSizeHint().width() + 5, footer.height());
+        footer.showProgress({}, true); // it is there, and is not named anew
+        QCOMPARE(leave->text(), u"C&lose (printing continues)"_s);
         footer.setGeometry(0, 0, leave->width() + 50, footer.height());
         footer.showProgress({}, false);
         footer.showProgress({}, true);
         QCOMPARE(leave->text(), u"C&lose"_s);
         QCOMPARE(leave->accessibleName(), u"Close (printing continues)"_s);
         footer.setCanPrint(true);
+        QVERIFY(print->isVisible()); // so that it can have the focus
         footer.showRunning(false);
         QVERIFY(leave->isHidden() && print->isVisible() && footer.finder()->isVisible());
     }

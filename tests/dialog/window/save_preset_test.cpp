@@ -131,6 +131,22 @@ private Q_SLOTS:
         }
     }
 
+    // Once the tick is gone, it goes.
+    void theDialogNamesNoInstanceThatGoes()
+    {
+        open();
+        QCOMPARE(saveElsewhere(), QString());
+        const SavePresetDialog dialog(presets(), false);
+        const auto *remark = dialog.findChild<QLabel *>(u"presetRemark"_s);
+        auto *elsewhere = dialog.findChild<QCheckBox *>(u"presetElsewhere"_s);
+        dialog.findChild<QLineEdit *>(u"presetName"_s)->setText(u"Reports"_s);
+        QVERIFY(elsewhere->isChecked());
+        QVERIFY2(remark->text().contains(u"“office/reports”"_s), qPrintable(remark->text()));
+        elsewhere->setChecked(false);
+        QVERIFY(dialog.preset().nowhereElse);
+        QVERIFY2(!remark->text().contains(u"office/"_s), qPrintable(remark->text()));
+    }
+
     void theInstanceGoesAlongWithThePreset()
     {
         const QByteArray others = "# by hand\nDest lab x=1\n";
