@@ -1,5 +1,7 @@
+#include <QFileInfo>
 #include <QTest>
 
+#include "dialog/session/JobTicket.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
 
@@ -45,6 +47,27 @@ const Against kAgainst[] = {
     {"-o, pages", By::Options, "page-ranges=1-2", "page-ranges=1-9", "page-ranges", "1-2"},
     {"-o, copies", By::Options, "copies=2", "copies=3", "copies", "2"},
     {"-o, files as they are", By::Options, "Boost=ON", "raw", "raw", nullptr},
+};
+
+// A number that panels keep for an option, as it is without panels.
+struct Number
+{
+    const char *name;
+    const char *printer;
+    const char *lock;
+    const char *value; ///< that the job has
+    const char *other; ///< what somebody asks for against it
+    const char *same;  ///< the same in another form
+};
+constexpr Number kNumbers[] = {
+    {"a custom value", "corvana-cl5.ppd", "QXDensityAdjustment=2", "Custom.2",
+     "QXDensityAdjustment=Custom.5", "QXDensityAdjustment=+2"},
+    {"a custom value in its own form", "corvana-cl5.ppd", "QXDensityAdjustment=Custom.2",
+     "Custom.2", "QXDensityAdjustment=5", "QXDensityAdjustment=2"},
+    {"a choice", "corvana-cl2.ppd", "QXDensityAdjustment=2", "2", "QXDensityAdjustment=3",
+     "QXDensityAdjustment=+2"},
+    {"a time", "corvana-cl5.ppd", "QXSleepTime=12", "Custom.12", "QXSleepTime=Default",
+     "QXSleepTime=Custom.12"},
 };
 
 } // namespace
@@ -139,6 +162,45 @@ private Q_SLOTS:
         QCOMPARE(session->markedChoice(u"Duplex"_s), u"None"_s);
         QCOMPARE(voids.size(), 1);
         QCOMPARE(voids.at(0).origin.file, u"1.conf"_s);
+    }
+
+    // The scene's printers have no panels, as an administrator's rule, or a desk without the
+    // bundle, leaves one that has them elsewhere.
+    void aValueOfPanelsIsLockedWithoutThem_data() { addRows(kNumbers); }
+    void aValueOfPanelsIsLockedWithoutThem()
+    {
+        const Number &row = currentRow(kNumbers);
+        m_fetched.ppd =
+            ppdOfFile(QFileInfo(samplePpdPath()).dir().filePath(QString::fromUtf8(row.printer)));
+        const QString keyword = QString::fromUtf8(row.lock).section(u'=', 0, 0);
+        const JobOption locked{keyword, QString::fromUtf8(row.value)};
+        for (const char *asked : {"", row.other, row.lock, row.same}) {
+            m_settings = {};
+            say(By::Options, QString::fromUtf8(asked));
+            lock(row.lock);
+            const QStringList unset = start().unset;
+            QVERIFY(!m_printer->jobValues);
+            const QList<JobOption> job =
+                jobOptions(*m_printer->session, nullptr, m_settings.attributes());
+            QVERIFY2(job.contains(locked), asked);
+            QCOMPARE(unset.isEmpty(), asked != row.other);
+            if (asked == row.other)
+                QVERIFY2(unset.join(u' ').contains(u"by your administrator (1.conf:2)"_s),
+                         qPrintable(unset.join(u' ')));
+        }
+    }
+
+    void aNumberBeyondTheRangeLocksNothing()
+    {
+        m_fetched.ppd = ppdOfFile(samplePpdPath());
+        lock("QXDensityAdjustment=99999999999");
+        start();
+        QVERIFY(m_printer->session->locks().isEmpty());
+        const QList<PolicyProblem> voids = lockSettings(
+            policyOf(m_request).locksOf(m_fetched.printer), *m_printer->session, nullptr);
+        QCOMPARE(voids.size(), 1);
+        QVERIFY2(voids.constFirst().text().contains(u"Custom.-"_s),
+                 qPrintable(voids.constFirst().text()));
     }
 
     void aLockMakesRoomForItself()
