@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "dialog/session/JobTicket.h"
+#include "dialog/task/PassedOn.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
 
@@ -188,6 +189,77 @@ private Q_SLOTS:
                 QVERIFY2(unset.join(u' ').contains(u"by your administrator (1.conf:2)"_s),
                          qPrintable(unset.join(u' ')));
         }
+    }
+
+    void filesAsTheyAreAreLockedAwayAlone()
+    {
+        say(By::Options, u"raw"_s);
+        lock("raw=false");
+        const QStringList refused = start().unset;
+        QCOMPARE(refused, QStringList{u"“raw” is set by your administrator (1.conf:2)."_s});
+        QVERIFY(!passesFilesOn(*m_printer, m_settings.attributes()));
+    }
+
+    // Whoever wants what the lock wants is not refused, whatever is locked.
+    void filesThatAreWorkedOnCanBeAskedForBesideALock()
+    {
+        for (const char *locked : {"raw=no", "Boost=ON"}) {
+            for (const QString &asked : {u"raw=false"_s, u"noraw"_s}) {
+                say(By::Options, asked);
+                lock(locked);
+                const StartOutcome outcome = start();
+                QCOMPARE(outcome.unset + outcome.ignored, QStringList());
+                QVERIFY(!passesFilesOn(*m_printer, m_settings.attributes()));
+            }
+        }
+    }
+
+    void nobodyIsKeptFromHavingFilesWorkedOn()
+    {
+        const auto session = sessionFor(smallPrinter());
+        const auto voids = lockSettings(
+            policyFrom("[all]\nlock.raw=true\n")->locksOf(m_fetched.printer), *session, nullptr);
+        QCOMPARE(voids.size(), 1);
+        QCOMPARE(voids.constFirst().text(), u"1.conf:2: “true” is not allowed. Allowed: false."_s);
+        QVERIFY(session->locks().isEmpty());
+    }
+
+    // Locks of what nobody does there are void; those of what a server does with a job hold.
+    void aQueueThatPassesFilesOnHasTheLocksThatItCanKeep()
+    {
+        PrinterCapabilities raw;
+        raw.passesFilesOn = true;
+        m_fetched.capabilities = std::make_shared<const PrinterCapabilities>(raw);
+        m_request.policy = policyFrom("[all]\nlock.number-up=2\nlock.Boost=ON\n"
+                                      "lock.raw=false\nlock.job-priority=10\nlock.copies=2\n");
+        QString error;
+        QList<PolicyProblem> voids;
+        m_printer = openPrinter(m_fetched, {}, m_presenter, &error, [&](OpenedPrinter &opened) {
+            QList<PolicyEntry> locks = policyOf(m_request).locksOf(m_fetched.printer);
+            voids = takeWhatCannotBeDone(locks, opened);
+            voids += lockSettings(locks, *opened.session, nullptr);
+        });
+        QStringList texts;
+        for (const PolicyProblem &problem : std::as_const(voids))
+            texts += problem.text();
+        const QString said =
+            u"The queue “office” passes files on as they are: %1 cannot be done."_s;
+        QCOMPARE(texts, (QStringList{u"1.conf:4: "_s + said.arg(u"raw=false"_s),
+                                     u"1.conf:3: "_s + said.arg(u"Boost=ON"_s),
+                                     u"1.conf:2: "_s + said.arg(u"number-up=2"_s)}));
+        m_settings.setLocks(m_printer->session->locks());
+        for (const QString &asked : {QString(), u"raw"_s, u"noraw"_s, u"copies=2"_s}) {
+            say(By::Options, asked);
+            const StartOutcome outcome = applyStartValues(m_request, *m_printer, m_settings);
+            QCOMPARE(outcome.unset + outcome.ignored, QStringList());
+        }
+        QCOMPARE(m_settings.attribute(u"job-priority"_s), u"10"_s);
+        QVERIFY(m_settings.attribute(u"number-up"_s).isNull());
+        QCOMPARE(m_settings.copies(), 2);
+        say(By::Options, u"copies=3"_s);
+        const StartOutcome outcome = applyStartValues(m_request, *m_printer, m_settings);
+        QVERIFY2(outcome.unset.join(u' ').contains(u"by your administrator (1.conf:6)"_s),
+                 qPrintable(outcome.unset.join(u' ')));
     }
 
     void aNumberBeyondTheRangeLocksNothing()
