@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "platform/foundation/OwnVariable.h"
+
 namespace corvana {
 
 namespace {
@@ -19,7 +21,7 @@ struct Texts
 
 QString findCupsFilter(QString *error)
 {
-    const QString given = qEnvironmentVariable("CORVANA_PRINT_CUPSFILTER");
+    const QString given = ownVariable("CORVANA_PRINT_CUPSFILTER");
     if (!given.isEmpty()) {
         if (QFileInfo(given).isExecutable())
             return given;

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+
+#include "dialog/session/AttributeWords.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
@@ -38,18 +41,42 @@ public:
         for (const PolicyEntry &entry : std::as_const(ordered))
             take(entry);
         if (!m_locks.isEmpty()) {
-            OptionLock raw;
-            raw.kind = Kind::Attribute;
-            raw.by = m_locks.constBegin()->by;
-            m_locks.insert(u"raw"_s, raw);
+            if (!m_locks.contains(kRawOption))
+                lockRaw(m_locks.constBegin()->by);
             apply();
         }
         return m_voids;
     }
 
 private:
+    // No job that is locked has it at all.
+    void lockRaw(const QString &by)
+    {
+        OptionLock raw;
+        raw.kind = Kind::Attribute;
+        raw.by = by;
+        m_locks.insert(kRawOption, raw);
+    }
+
+    // It is no option of a printer: with it none is told of any. So it is locked at one value only.
+    QStringList takeRaw(const PolicyEntry &entry)
+    {
+        const AllowedValues truths{attributewords::kTrueOrFalse};
+        if (truths.inOneSpelling(entry.value) != u"false"_s)
+            return {QCoreApplication::translate("Policy", "“%1” is not allowed. Allowed: %2.")
+                        .arg(entry.value, u"false"_s)};
+        lockRaw(entry.origin.text());
+        return {};
+    }
+
     void take(const PolicyEntry &entry)
     {
+        if (entry.keyword.compare(kRawOption, Qt::CaseInsensitive) == 0) {
+            const QStringList problems = takeRaw(entry);
+            for (const QString &problem : problems)
+                m_voids += PolicyProblem{entry.origin, problem};
+            return apply();
+        }
         const RequestedOptions asked({{entry.keyword, entry.value}}, m_session, m_jobValues);
         QStringList problems = asked.problems;
         if (problems.isEmpty())

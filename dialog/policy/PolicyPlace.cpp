@@ -1,9 +1,6 @@
 #include "dialog/policy/PolicyPlace.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <QFile>
+#include "platform/foundation/OwnVariable.h"
 
 namespace corvana {
 
@@ -13,27 +10,23 @@ namespace {
 
 constexpr char kVariable[] = "CORVANA_PRINT_POLICY";
 
-bool isOfUser(const QString &program)
+PolicyPlace placeNamed(const QString &named)
 {
-    struct stat status = {};
-    return ::stat(QFile::encodeName(program).constData(), &status) == 0 &&
-           status.st_uid == ::geteuid() && ::geteuid() == ::getuid();
+    if (named.startsWith(u'/'))
+        return {named, true};
+    return {QStringLiteral(CORVANA_SYSCONFDIR "/corvana-print/policy.d"), false};
 }
 
 } // namespace
 
 PolicyPlace policyPlaceOf(const QString &program)
 {
-    const QString named = qEnvironmentVariable(kVariable);
-    if (named.startsWith(u'/') && isOfUser(program))
-        return {named, true};
-    return {QStringLiteral(CORVANA_SYSCONFDIR "/corvana-print/policy.d"), false};
+    return placeNamed(ownVariable(kVariable, program));
 }
 
 PolicyPlace policyPlace()
 {
-    // The file that runs, whatever name it was started by.
-    return policyPlaceOf(u"/proc/self/exe"_s);
+    return placeNamed(ownVariable(kVariable));
 }
 
 } // namespace corvana

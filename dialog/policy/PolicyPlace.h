@@ -23,9 +23,7 @@ struct PolicyPlace
 };
 
 /// The folder of the administrator's policy. The environment variable CORVANA_PRINT_POLICY names
-/// another one where the program's own file belongs to the user who runs it, and to nobody else:
-/// whoever owns the program could make it one without a policy just as well. An installed program
-/// is root's, so that of all users only root, who writes the policy anyway, is listened to.
+/// another one, where it counts (see ownVariable()).
 PolicyPlace policyPlace();
 
 /// The same for a program at that path.

@@ -10,6 +10,7 @@
 #include "dialog/printers/Printer.h"
 #include "dialog/printers/UserQueues.h"
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/OwnVariable.h"
 #include "platform/pde/PDEBundleLoader.h"
 
 namespace corvana {
@@ -57,7 +58,8 @@ QString namedBundle(ppd_file_t *ppd)
 
 QString panelRulesFile()
 {
-    return qEnvironmentVariable("CORVANA_PRINT_PANELS", u"/etc/corvana-print/panels.conf"_s);
+    const QString named = ownVariable("CORVANA_PRINT_PANELS");
+    return named.isEmpty() ? u"/etc/corvana-print/panels.conf"_s : named;
 }
 
 PanelRule panelRule(const QString &file, const QStringList &names)

@@ -30,7 +30,7 @@ enum class PanelRule { ByPpd, Panels, None };
 PanelRule panelRule(const QString &file, const QStringList &names);
 
 /// The file of the rules: /etc/corvana-print/panels.conf, or the one that the environment variable
-/// CORVANA_PRINT_PANELS names.
+/// CORVANA_PRINT_PANELS names, where it counts (see ownVariable()).
 QString panelRulesFile();
 
 /// The file name of the bundle that a PPD names; null when it names none.

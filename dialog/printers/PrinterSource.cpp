@@ -280,10 +280,11 @@ void PrinterSource::inspect(bool mayAsk)
 bool PrinterSource::meansPdfPrinter(const ServerProblem &problem) const
 {
     using Kind = ServerProblem::Kind;
-    const bool isNoQueue = problem.kind == Kind::NotFound || problem.kind == Kind::Unreachable ||
-                           problem.kind == Kind::NoAnswer;
-    return isNoQueue && m_pdfPrinter && !m_open.ppd &&
-           m_open.printer.origin == PrinterOrigin::Queue && m_open.printer.name == kPdfPrinterName;
+    // Where nobody may have it, a server that is away may yet have a queue of that name.
+    const bool isAway = problem.kind == Kind::Unreachable || problem.kind == Kind::NoAnswer;
+    const bool isNoQueue = problem.kind == Kind::NotFound || (m_pdfPrinter && isAway);
+    return isNoQueue && !m_open.ppd && m_open.printer.origin == PrinterOrigin::Queue &&
+           m_open.printer.name == kPdfPrinterName;
 }
 
 void PrinterSource::inspected(const QueueDetails &details)

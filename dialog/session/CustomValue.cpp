@@ -143,6 +143,25 @@ CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const
     return {value, refused.allowed};
 }
 
+QString choiceOfNumber(ppd_file_t *ppd, const QString &keyword, const QString &text)
+{
+    static const QRegularExpression whole(u"^[+-]?[0-9]{1,9}\\z"_s);
+    const ppd_option_t *option = ppdOption(ppd, keyword);
+    const bool isWhole = whole.match(text).hasMatch();
+    for (int i = 0; option && isWhole && i < option->num_choices; ++i) {
+        const QString choice = ppdKeyword(option->choices[i].choice);
+        if (whole.match(choice).hasMatch() && choice.toInt() == text.toInt())
+            return choice;
+    }
+    const ppd_cparam_t *parameter = onlyParameter(ppd, keyword);
+    const auto bounds = parameter ? range(parameter) : std::nullopt;
+    const std::optional<double> given = bounds ? strictNumber(parameter, text) : std::nullopt;
+    if (!given)
+        return {};
+    const bool isAllowed = *given >= bounds->first && *given <= bounds->second;
+    return kCustomPrefix + (isAllowed ? number(parameter, *given) : text);
+}
+
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd, const QString &keyword)
 {
     using Kind = CustomLimits::Kind;

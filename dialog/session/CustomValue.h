@@ -24,6 +24,12 @@ struct CustomValueCheck
 /// (`Custom.WIDTHxHEIGHT` with an optional unit: pt, in, ft, cm, mm, m; points without one).
 CustomValueCheck checkCustomValue(ppd_file_t *ppd, const QString &keyword, const QString &value);
 
+/// A number as the option of a PPD has it: a choice that is called so ("+2" for 2), else the custom
+/// value ("Custom.2"). Panels take numbers for such options, and what was written for them, such as
+/// an administrator's lock, means the same where there are none. Whether it is allowed says
+/// checkCustomValue(). Errors: null, for what is no number and for an option that takes none.
+QString choiceOfNumber(ppd_file_t *ppd, const QString &keyword, const QString &text);
+
 /// What a person can enter as the custom value of an option.
 struct CustomLimits
 {

@@ -28,6 +28,8 @@ inline constexpr QLatin1StringView kPageRangesAttribute{"page-ranges"};
 /// What makes a job wait in its queue until somebody releases it.
 inline constexpr QLatin1StringView kJobHoldUntilAttribute{"job-hold-until"};
 inline constexpr QLatin1StringView kHeldIndefinitely{"indefinite"};
+/// What has documents passed on as they are, past all filters.
+inline constexpr QLatin1StringView kRawOption{"raw"};
 /// The number of copies, which is no option of any PPD.
 inline constexpr QLatin1StringView kCopiesAttribute{"copies"};
 /// An orientation as lp names it, which is on or off.

@@ -332,6 +332,9 @@ bool RequestedOptions::addChoice(const JobOption &option, const QString &keyword
             refuseValue(option, allowedChoices(m_session.ppd(), found));
     } else if (ppdChoice(found, value) && value != kCustomChoice) {
         choices += OptionChoice{keyword, value};
+    } else if (const QString number = choiceOfNumber(m_session.ppd(), keyword, value);
+               !m_jobValues && !number.isNull()) {
+        return addChoice({keyword, number}, keyword);
     } else {
         refuseValue(option, allowedChoices(m_session.ppd(), found));
     }

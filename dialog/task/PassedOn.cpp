@@ -7,6 +7,7 @@
 
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionNames.h"
+#include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/OpenedPrinter.h"
 
@@ -14,7 +15,7 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
-const JobOption kRaw{u"raw"_s, u"true"_s};
+const JobOption kRaw{kRawOption, u"true"_s};
 
 namespace {
 
@@ -33,6 +34,18 @@ constexpr auto kSheets = "job-sheets"_L1;
 bool isRaw(const JobOption &option)
 {
     return option.name == kRaw.name;
+}
+
+QString cannotBeDone(const QList<JobOption> &options, const OpenedPrinter &printer)
+{
+    QStringList named;
+    for (const JobOption &option : options)
+        named += u"%1=%2"_s.arg(option.name, option.value);
+    return passesFilesOn(printer)
+               ? Texts::tr("The queue “%1” passes files on as they are: %2 cannot be done.")
+                     .arg(printer.fetched.printer.name, named.join(u", "_s))
+               : Texts::tr("With “raw” files are passed on as they are: %1 cannot be done.")
+                     .arg(named.join(u", "_s));
 }
 
 } // namespace
@@ -74,12 +87,13 @@ bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer)
         return raw;
     // Files that are passed on as they are go past everything that is locked. Each such wish is
     // refused where it is taken.
-    if (printer.session->locks().contains(kRaw.name))
-        return passesFilesOn(printer);
+    const bool isLocked = printer.session->locks().contains(kRaw.name) && !passesFilesOn(printer);
     for (QList<JobOption> &options : sets) {
+        const bool isAskedFor = asksForRaw(options);
         if (std::any_of(options.cbegin(), options.cend(), isRaw))
-            raw = asksForRaw(options);
-        options.removeIf(isRaw);
+            raw = isAskedFor && !isLocked;
+        if (!isLocked || !isAskedFor)
+            options.removeIf(isRaw);
     }
     return raw || passesFilesOn(printer);
 }
@@ -92,23 +106,37 @@ QStringList takeLockedRaw(QList<JobOption> &options, const OpenedPrinter &printe
     return {lockedText(kRaw.name, *printer.session)};
 }
 
+QList<PolicyProblem> takeWhatCannotBeDone(QList<PolicyEntry> &entries, const OpenedPrinter &printer)
+{
+    QList<PolicyProblem> voids;
+    if (!passesFilesOn(printer))
+        return voids;
+    entries.removeIf([&](const PolicyEntry &entry) {
+        const QString name = nameInOneCase(entry.keyword, printer.session->ppd());
+        QList<JobOption> options{{name, entry.value}};
+        QStringList problems = takeWhatCannotBeDone(options, printer);
+        // The one thing that is done there, and that nobody can keep from being done.
+        const bool isToPass = asksForRaw(options);
+        if (!isToPass && std::any_of(options.cbegin(), options.cend(), isRaw))
+            problems += cannotBeDone({options.constFirst()}, printer);
+        for (const QString &problem : std::as_const(problems))
+            voids += PolicyProblem{entry.origin, problem};
+        return options.isEmpty() || isToPass || !problems.isEmpty();
+    });
+    return voids;
+}
+
 QStringList takeWhatCannotBeDone(QList<JobOption> &options, const OpenedPrinter &printer)
 {
-    QStringList named;
+    QList<JobOption> undone;
     options.removeIf([&](const JobOption &option) {
         if (isDoneWhenPassedOn(inOneSpelling(option).name, printer) || isRaw(option))
             return false;
         if (!asksForNothing(inOneSpelling(option)))
-            named += u"%1=%2"_s.arg(option.name, option.value);
+            undone += option;
         return true;
     });
-    if (named.isEmpty())
-        return {};
-    return {passesFilesOn(printer)
-                ? Texts::tr("The queue “%1” passes files on as they are: %2 cannot be done.")
-                      .arg(printer.fetched.printer.name, named.join(u", "_s))
-                : Texts::tr("With “raw” files are passed on as they are: %1 cannot be done.")
-                      .arg(named.join(u", "_s))};
+    return undone.isEmpty() ? QStringList() : QStringList{cannotBeDone(undone, printer)};
 }
 
 JobTicket ticketOfPassedOn(const QList<JobOption> &attributes, const QString &title, int copies)

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QStringList>
 
+#include "dialog/policy/PolicyEntry.h"
 #include "dialog/session/JobTicket.h"
 
 namespace corvana {
@@ -32,12 +33,18 @@ bool asksForRaw(const QList<JobOption> &options);
 QStringList takeLockedRaw(QList<JobOption> &options, const OpenedPrinter &printer);
 
 /// Takes "raw" out of several sets of options, of which a later one counts more, where it can be
-/// had. Answers whether the documents are passed on as they are.
+/// had; where it is locked, the wish stays in for takeLockedRaw(). Answers whether the documents
+/// are passed on as they are.
 bool takeRaw(QList<QList<JobOption>> &sets, const OpenedPrinter &printer);
 
 /// Takes out of a set of options what is not done to documents that are passed on as they are.
 /// Answers a sentence for each option that asks for something.
 QStringList takeWhatCannotBeDone(QList<JobOption> &options, const OpenedPrinter &printer);
+
+/// The same of what an administrator has decided about a queue that passes files on: each entry
+/// that decides nothing there is taken out, and those that were meant to are answered.
+QList<PolicyProblem> takeWhatCannotBeDone(QList<PolicyEntry> &entries,
+                                          const OpenedPrinter &printer);
 
 /// The job of documents that are passed on: nothing of the printer's own settings is in it.
 JobTicket ticketOfPassedOn(const QList<JobOption> &attributes, const QString &title, int copies);

@@ -103,7 +103,7 @@ QList<JobOption> PrintTask::jobAttributes() const
 {
     JobSettings settings = m_settings;
     if (m_run.held)
-        settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
+        settings.setAttribute(kJobHoldUntilAttribute, kHeldIndefinitely);
     return withAnswersToDefaults(withPagesOfOrder(settings.attributes()), *m_opened);
 }
 
@@ -255,6 +255,13 @@ std::optional<TaskRefusal> PrintTask::askPanels()
         return TaskRefusal{{tr("The job would have to wait for these instructions, and two-sided "
                                "printing by hand cannot. Follow them and print with "
                                "--on-alert=print.")}};
+    // Whoever releases it has read them; a job that goes out by itself would not have waited.
+    if (m_run.held && !m_settings.lockedBy(kJobHoldUntilAttribute).isNull() &&
+        m_settings.attribute(kJobHoldUntilAttribute) != kHeldIndefinitely)
+        return TaskRefusal{
+            {tr("%1 So the job cannot wait for these instructions. Follow them and print with "
+                "--on-alert=print.")
+                 .arg(lockedText(kJobHoldUntilAttribute, *m_opened->session))}};
     if (!allowed)
         return TaskRefusal{
             {tr("The printer's settings hold the job back.")}, TaskRefusal::Place::Nowhere, true};

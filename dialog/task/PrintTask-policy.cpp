@@ -12,6 +12,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/sheets/SheetCount.h"
 #include "dialog/task/JobColors.h"
+#include "dialog/task/PassedOn.h"
 #include "platform/foundation/ForeignText.h"
 
 namespace corvana {
@@ -35,8 +36,9 @@ QString PrintTask::whyNoFile() const
 // Before anything else is marked, so that nothing else ever moves it.
 void PrintTask::lock(OpenedPrinter &opened)
 {
-    const QList<PolicyEntry> locks = policyOf(m_request).locksOf(opened.fetched.printer);
-    const QList<PolicyProblem> voids = lockSettings(locks, *opened.session, opened.jobValues);
+    QList<PolicyEntry> locks = policyOf(m_request).locksOf(opened.fetched.printer);
+    QList<PolicyProblem> voids = takeWhatCannotBeDone(locks, opened);
+    voids += lockSettings(locks, *opened.session, opened.jobValues);
     for (const PolicyProblem &problem : voids) {
         opened.voidLocks += problem.text();
         qCInfo(lcTaskPolicy).noquote() << "void:" << terminalLine(problem.text());

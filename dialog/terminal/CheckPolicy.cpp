@@ -10,6 +10,8 @@
 #include "dialog/policy/Policy.h"
 #include "dialog/policy/PolicyLocks.h"
 #include "dialog/presets/PresetStore.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/task/PassedOn.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/terminal/TerminalFace.h"
 #include "dialog/terminal/TerminationSignals.h"
@@ -122,10 +124,15 @@ public:
             return m_policy.whatHides(m_task.printer()).has_value();
         }
         QStringList voids = m_task.opened()->voidLocks;
-        const QList<PolicyProblem> others =
-            voidDefaults(m_policy.defaultsOf(m_task.printer()), *m_task.opened()->session,
-                         m_task.opened()->jobValues);
-        for (const PolicyProblem &problem : others)
+        QList<PolicyEntry> defaults = m_policy.defaultsOf(m_task.printer());
+        QList<PolicyProblem> others = takeWhatCannotBeDone(defaults, *m_task.opened());
+        // Which is no option of a printer, and has its effect in front of one.
+        if (m_task.printer().origin == PrinterOrigin::Queue)
+            defaults.removeIf([](const PolicyEntry &entry) {
+                return entry.keyword.compare(kRawOption, Qt::CaseInsensitive) == 0;
+            });
+        others += voidDefaults(defaults, *m_task.opened()->session, m_task.opened()->jobValues);
+        for (const PolicyProblem &problem : std::as_const(others))
             voids += problem.text();
         if (!voids.isEmpty())
             out << Texts::tr("Void, because the printer does not take it:") << u'\n';

@@ -3609,6 +3609,10 @@ Für die Befehlszeile: %2</translation>
         <translation>Der Auftrag müsste auf diese Anweisungen warten, und das kann manueller beidseitiger Druck nicht. Befolgen Sie sie und drucken Sie mit --on-alert=print.</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 Der Auftrag kann deshalb nicht auf diese Anweisungen warten. Befolgen Sie sie und drucken Sie mit --on-alert=print.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>Die Einstellungen des Druckers halten den Auftrag zurück.</translation>
     </message>

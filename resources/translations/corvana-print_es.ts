@@ -3609,6 +3609,10 @@ En la línea de órdenes: %2</translation>
         <translation>El trabajo tendría que esperar a que se sigan estas instrucciones, y la doble cara manual no puede esperar. Siga las instrucciones e imprima con --on-alert=print.</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 Por eso el trabajo no puede esperar a que se sigan estas instrucciones. Siga las instrucciones e imprima con --on-alert=print.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>Los ajustes de la impresora impiden enviar el trabajo.</translation>
     </message>

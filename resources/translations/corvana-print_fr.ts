@@ -3609,6 +3609,10 @@ Pour la ligne de commande : %2</translation>
         <translation>La tâche devrait attendre que ces instructions soient suivies, et l’impression recto verso manuelle ne le peut pas. Suivez-les et imprimez avec --on-alert=print.</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 La tâche ne peut donc pas attendre que ces instructions soient suivies. Suivez-les et imprimez avec --on-alert=print.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>Les réglages de l’imprimante retiennent la tâche.</translation>
     </message>

@@ -3609,6 +3609,10 @@ Per la riga di comando: %2</translation>
         <translation>Il lavoro dovrebbe attendere che queste istruzioni siano seguite, e la stampa fronte-retro manuale non può attendere. Seguirle e stampare con --on-alert=print.</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 Il lavoro non può quindi attendere che queste istruzioni siano seguite. Seguirle e stampare con --on-alert=print.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>Le impostazioni della stampante trattengono il lavoro.</translation>
     </message>

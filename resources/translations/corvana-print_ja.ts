@@ -2308,6 +2308,10 @@ For the command line: %2</source>
         <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
         <translation>ジョブはこれらの指示を待つ必要がありますが、手動両面印刷では待つことができません。指示に従ってから --on-alert=print で印刷してください。</translation>
     </message>
+    <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 そのため、ジョブはこれらの指示を待つことができません。指示に従ってから --on-alert=print で印刷してください。</translation>
+    </message>
 <message>
         <source>As in your last job.</source>
         <translation>前回の印刷と同じ設定です。</translation>

@@ -3607,6 +3607,10 @@ For the command line: %2</source>
         <translation>작업은 이 지침을 기다려야 하지만 수동 양면 인쇄는 기다릴 수 없습니다. 지침을 따른 다음 --on-alert=print로 인쇄하십시오.</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 따라서 작업은 이 지침을 기다릴 수 없습니다. 지침을 따른 다음 --on-alert=print로 인쇄하십시오.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>프린터 설정 때문에 작업을 인쇄하지 않습니다.</translation>
     </message>

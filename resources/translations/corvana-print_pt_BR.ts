@@ -3609,6 +3609,10 @@ Na linha de comando: %2</translation>
         <translation>O trabalho teria de aguardar que estas instruções sejam seguidas, e a impressão frente e verso manual não pode aguardar. Siga as instruções e imprima com --on-alert=print.</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1 Por isso, o trabalho não pode aguardar que estas instruções sejam seguidas. Siga as instruções e imprima com --on-alert=print.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>As configurações da impressora impedem o envio do trabalho.</translation>
     </message>

@@ -2308,6 +2308,10 @@ For the command line: %2</source>
         <source>The job would have to wait for these instructions, and two-sided printing by hand cannot. Follow them and print with --on-alert=print.</source>
         <translation>作业需要等待完成这些指示，而手动双面打印无法等待。请先按指示操作，再使用 --on-alert=print 打印。</translation>
     </message>
+    <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1因此，作业无法等待完成这些指示。请先按指示操作，再使用 --on-alert=print 打印。</translation>
+    </message>
 <message>
         <source>As in your last job.</source>
         <translation>与您上次打印的设置相同。</translation>

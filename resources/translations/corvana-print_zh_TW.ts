@@ -3607,6 +3607,10 @@ For the command line: %2</source>
         <translation>工作必須等待這些說明完成，而手動雙面列印無法等待。請先依照說明操作，再使用 --on-alert=print 列印。</translation>
     </message>
     <message>
+        <source>%1 So the job cannot wait for these instructions. Follow them and print with --on-alert=print.</source>
+        <translation>%1因此，工作無法等待這些說明完成。請先依照說明操作，再使用 --on-alert=print 列印。</translation>
+    </message>
+    <message>
         <source>The printer&apos;s settings hold the job back.</source>
         <translation>印表機的設定使工作無法列印。</translation>
     </message>

@@ -1,9 +1,12 @@
+#include <unistd.h>
+
 #include <QJsonArray>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/printers/PanelRecognition.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/TestBundle.h"
 
@@ -181,6 +184,18 @@ private Q_SLOTS:
     void withoutRulesThePpdDecides()
     {
         QCOMPARE(panelRule(u"/nonexistent/panels.conf"_s, {u"lobby"_s}), PanelRule::ByPpd);
+    }
+
+    void anInstalledProgramReadsItsAdministratorsRules()
+    {
+        const Variable named("CORVANA_PRINT_PANELS", "/home/of/somebody/panels.conf");
+        QCOMPARE(panelRulesFile(), u"/home/of/somebody/panels.conf"_s);
+        if (::geteuid() != 0)
+            QSKIP("only root can run a program that is somebody else's");
+        QCOMPARE(::seteuid(65534), 0);
+        const QString file = panelRulesFile();
+        QCOMPARE(::seteuid(0), 0);
+        QCOMPARE(file, u"/etc/corvana-print/panels.conf"_s);
     }
 
     void whatIsForcedOrForbiddenIsNotLookedForInThePpd()

@@ -110,6 +110,28 @@ private Q_SLOTS:
         }
     }
 
+    void whoForbidsToSaveAPdfIsSaid()
+    {
+        PrinterWish request;
+        request.name = kPdfPrinterName;
+        request.refusal = [](const Printer &printer) {
+            return savesPdf(printer) ? u"not offered by your administrator"_s : QString();
+        };
+        for (const bool canChoose : {true, false}) {
+            PrinterSource source(request, m_server);
+            Told told(source);
+            canChoose ? source.open(source.first()) : source.openWanted();
+            QTRY_COMPARE_WITH_TIMEOUT(told.said, QStringList{u"failed"_s}, kLong);
+            QCOMPARE(told.problem, u"not offered by your administrator"_s);
+        }
+        m_gate->setManner(FaultyServer::Manner::Refuses);
+        PrinterSource source(request, m_server);
+        Told told(source);
+        source.openWanted();
+        QTRY_COMPARE_WITH_TIMEOUT(told.said, QStringList{u"failed"_s}, kLong);
+        QVERIFY(told.problem != u"not offered by your administrator"_s);
+    }
+
     // Most people print on paper, and their window does not wait for a file that nobody reads.
     void whatSavesAPdfIsWrittenWhenItIsOpened()
     {

@@ -1,5 +1,8 @@
+#include <QFileInfo>
 #include <QTest>
 
+#include "dialog/session/JobTicket.h"
+#include "dialog/task/PassedOn.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
 
@@ -45,6 +48,27 @@ const Against kAgainst[] = {
     {"-o, pages", By::Options, "page-ranges=1-2", "page-ranges=1-9", "page-ranges", "1-2"},
     {"-o, copies", By::Options, "copies=2", "copies=3", "copies", "2"},
     {"-o, files as they are", By::Options, "Boost=ON", "raw", "raw", nullptr},
+};
+
+// A number that panels keep for an option, as it is without panels.
+struct Number
+{
+    const char *name;
+    const char *printer;
+    const char *lock;
+    const char *value; ///< that the job has
+    const char *other; ///< what somebody asks for against it
+    const char *same;  ///< the same in another form
+};
+constexpr Number kNumbers[] = {
+    {"a custom value", "corvana-cl5.ppd", "QXDensityAdjustment=2", "Custom.2",
+     "QXDensityAdjustment=Custom.5", "QXDensityAdjustment=+2"},
+    {"a custom value in its own form", "corvana-cl5.ppd", "QXDensityAdjustment=Custom.2",
+     "Custom.2", "QXDensityAdjustment=5", "QXDensityAdjustment=2"},
+    {"a choice", "corvana-cl2.ppd", "QXDensityAdjustment=2", "2", "QXDensityAdjustment=3",
+     "QXDensityAdjustment=+2"},
+    {"a time", "corvana-cl5.ppd", "QXSleepTime=12", "Custom.12", "QXSleepTime=Default",
+     "QXSleepTime=Custom.12"},
 };
 
 } // namespace
@@ -139,6 +163,116 @@ private Q_SLOTS:
         QCOMPARE(session->markedChoice(u"Duplex"_s), u"None"_s);
         QCOMPARE(voids.size(), 1);
         QCOMPARE(voids.at(0).origin.file, u"1.conf"_s);
+    }
+
+    // The scene's printers have no panels, as an administrator's rule, or a desk without the
+    // bundle, leaves one that has them elsewhere.
+    void aValueOfPanelsIsLockedWithoutThem_data() { addRows(kNumbers); }
+    void aValueOfPanelsIsLockedWithoutThem()
+    {
+        const Number &row = currentRow(kNumbers);
+        m_fetched.ppd =
+            ppdOfFile(QFileInfo(samplePpdPath()).dir().filePath(QString::fromUtf8(row.printer)));
+        const QString keyword = QString::fromUtf8(row.lock).section(u'=', 0, 0);
+        const JobOption locked{keyword, QString::fromUtf8(row.value)};
+        for (const char *asked : {"", row.other, row.lock, row.same}) {
+            m_settings = {};
+            say(By::Options, QString::fromUtf8(asked));
+            lock(row.lock);
+            const QStringList unset = start().unset;
+            QVERIFY(!m_printer->jobValues);
+            const QList<JobOption> job =
+                jobOptions(*m_printer->session, nullptr, m_settings.attributes());
+            QVERIFY2(job.contains(locked), asked);
+            QCOMPARE(unset.isEmpty(), asked != row.other);
+            if (asked == row.other)
+                QVERIFY2(unset.join(u' ').contains(u"by your administrator (1.conf:2)"_s),
+                         qPrintable(unset.join(u' ')));
+        }
+    }
+
+    void filesAsTheyAreAreLockedAwayAlone()
+    {
+        say(By::Options, u"raw"_s);
+        lock("raw=false");
+        const QStringList refused = start().unset;
+        QCOMPARE(refused, QStringList{u"“raw” is set by your administrator (1.conf:2)."_s});
+        QVERIFY(!passesFilesOn(*m_printer, m_settings.attributes()));
+    }
+
+    // Whoever wants what the lock wants is not refused, whatever is locked.
+    void filesThatAreWorkedOnCanBeAskedForBesideALock()
+    {
+        for (const char *locked : {"raw=no", "Boost=ON"}) {
+            for (const QString &asked : {u"raw=false"_s, u"noraw"_s}) {
+                say(By::Options, asked);
+                lock(locked);
+                const StartOutcome outcome = start();
+                QCOMPARE(outcome.unset + outcome.ignored, QStringList());
+                QVERIFY(!passesFilesOn(*m_printer, m_settings.attributes()));
+            }
+        }
+    }
+
+    void nobodyIsKeptFromHavingFilesWorkedOn()
+    {
+        const auto session = sessionFor(smallPrinter());
+        const auto voids = lockSettings(
+            policyFrom("[all]\nlock.raw=true\n")->locksOf(m_fetched.printer), *session, nullptr);
+        QCOMPARE(voids.size(), 1);
+        QCOMPARE(voids.constFirst().text(), u"1.conf:2: “true” is not allowed. Allowed: false."_s);
+        QVERIFY(session->locks().isEmpty());
+    }
+
+    // Locks of what nobody does there are void; those of what a server does with a job hold.
+    void aQueueThatPassesFilesOnHasTheLocksThatItCanKeep()
+    {
+        PrinterCapabilities raw;
+        raw.passesFilesOn = true;
+        m_fetched.capabilities = std::make_shared<const PrinterCapabilities>(raw);
+        m_request.policy = policyFrom("[all]\nlock.number-up=2\nlock.Boost=ON\n"
+                                      "lock.raw=false\nlock.job-priority=10\nlock.copies=2\n");
+        QString error;
+        QList<PolicyProblem> voids;
+        m_printer = openPrinter(m_fetched, {}, m_presenter, &error, [&](OpenedPrinter &opened) {
+            QList<PolicyEntry> locks = policyOf(m_request).locksOf(m_fetched.printer);
+            voids = takeWhatCannotBeDone(locks, opened);
+            voids += lockSettings(locks, *opened.session, nullptr);
+        });
+        QStringList texts;
+        for (const PolicyProblem &problem : std::as_const(voids))
+            texts += problem.text();
+        const QString said =
+            u"The queue “office” passes files on as they are: %1 cannot be done."_s;
+        QCOMPARE(texts, (QStringList{u"1.conf:4: "_s + said.arg(u"raw=false"_s),
+                                     u"1.conf:3: "_s + said.arg(u"Boost=ON"_s),
+                                     u"1.conf:2: "_s + said.arg(u"number-up=2"_s)}));
+        m_settings.setLocks(m_printer->session->locks());
+        for (const QString &asked : {QString(), u"raw"_s, u"noraw"_s, u"copies=2"_s}) {
+            say(By::Options, asked);
+            const StartOutcome outcome = applyStartValues(m_request, *m_printer, m_settings);
+            QCOMPARE(outcome.unset + outcome.ignored, QStringList());
+        }
+        QCOMPARE(m_settings.attribute(u"job-priority"_s), u"10"_s);
+        QVERIFY(m_settings.attribute(u"number-up"_s).isNull());
+        QCOMPARE(m_settings.copies(), 2);
+        say(By::Options, u"copies=3"_s);
+        const StartOutcome outcome = applyStartValues(m_request, *m_printer, m_settings);
+        QVERIFY2(outcome.unset.join(u' ').contains(u"by your administrator (1.conf:6)"_s),
+                 qPrintable(outcome.unset.join(u' ')));
+    }
+
+    void aNumberBeyondTheRangeLocksNothing()
+    {
+        m_fetched.ppd = ppdOfFile(samplePpdPath());
+        lock("QXDensityAdjustment=99999999999");
+        start();
+        QVERIFY(m_printer->session->locks().isEmpty());
+        const QList<PolicyProblem> voids = lockSettings(
+            policyOf(m_request).locksOf(m_fetched.printer), *m_printer->session, nullptr);
+        QCOMPARE(voids.size(), 1);
+        QVERIFY2(voids.constFirst().text().contains(u"Custom.-"_s),
+                 qPrintable(voids.constFirst().text()));
     }
 
     void aLockMakesRoomForItself()

@@ -8,6 +8,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/TestPaths.h"
@@ -76,8 +77,14 @@ private:
     bool printed()
     {
         const qsizetype before = face().outcomes.size();
+        const qsizetype refused = face().refusals.size();
         task().print();
-        return QTest::qWaitFor([&] { return face().outcomes.size() > before; }, kPatience);
+        return QTest::qWaitFor(
+                   [&] {
+                       return face().outcomes.size() > before || face().refusals.size() > refused;
+                   },
+                   kPatience) &&
+               face().outcomes.size() > before;
     }
     QString attribute(const QString &name) { return task().settings().attribute(name); }
     QString jobValue(int job, const char *attribute)
@@ -297,6 +304,37 @@ private Q_SLOTS:
         QVERIFY(printed());
         QVERIFY(!task().isHeld());
         QCOMPARE(task().outcome().kind, kTaken);
+    }
+
+    // Else the job would be printed, and be said to wait.
+    void instructionsAreNotWaitedForAgainstALock_data()
+    {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::newRow("at once") << QByteArray("no-hold");
+        QTest::newRow("by itself") << QByteArray("evening");
+        QTest::newRow("held anyway") << QByteArray("indefinite");
+        QTest::newRow("the user's own choice") << QByteArray();
+    }
+    void instructionsAreNotWaitedForAgainstALock()
+    {
+        QFETCH(QByteArray, lock);
+        const bool waits = lock.isEmpty() || lock == "indefinite";
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        PrintRequest locked = request();
+        locked.policy = policyFrom("[all]\nlock.job-hold-until=" + lock + '\n');
+        open(locked);
+        task().settings().setAttribute(u"job-hold-until"_s, u"evening"_s);
+        face().instructionsAre = TaskFace::Instructions::Wait;
+        QCOMPARE(printed(), waits);
+        QCOMPARE(m_cups->jobs().size(), waits ? 1 : 0);
+        if (waits)
+            QCOMPARE(jobValue(task().outcome().job, "job-hold-until"), u"indefinite"_s);
+        else
+            QCOMPARE(
+                face().problems(),
+                QStringList{u"“Hold Until” is set by your administrator (1.conf:2). So the job "
+                            "cannot wait for these instructions. Follow them and print with "
+                            "--on-alert=print."_s});
     }
 
     void aJobThatMayPrintYetIsLookedUpBeforeItIsSentAgain()
