@@ -1,13 +1,16 @@
 #include "tests/support/cups/PrivateCups.h"
 
 #include <algorithm>
+#include <chrono>
 #include <stdexcept>
 
 #include <unistd.h>
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
 #include <QUrl>
 
 #include "tests/support/cups/ServerFiles.h"
@@ -269,6 +272,14 @@ void PrivateCups::addEverywhereQueue(const QString &name, const QString &deviceU
     QueueSettings settings;
     settings.deviceUri = deviceUri;
     setUpQueue(name, {u"-m"_s, u"everywhere"_s}, settings);
+    // cupsd asks the printer beside other work; until it has, the queue has no PPD.
+    const QString ppd = m_folder.filePath(u"etc/ppd/%1.ppd"_s.arg(name));
+    constexpr std::chrono::seconds kPatience{20};
+    for (QDeadlineTimer end(kPatience); !QFile::exists(ppd);) {
+        if (end.hasExpired())
+            fail(u"no PPD for "_s + name);
+        QThread::msleep(20);
+    }
 }
 
 void PrivateCups::setUpQueue(const QString &name, const QStringList &driver,
