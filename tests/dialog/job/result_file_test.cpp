@@ -7,11 +7,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
 #include "dialog/job/ResultFile.h"
+#include "platform/foundation/WholeFile.h"
 #include "tests/dialog/job/FakeFilter.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/Rows.h"
@@ -149,6 +151,34 @@ private Q_SLOTS:
         s_flushError = 0;
         QVERIFY(QFile::remove(result->path()));
         QVERIFY2(flush().contains(u" cannot be written: "_s), qPrintable(flush()));
+    }
+
+    // The same of files of the program's own.
+    void whatItsDiskHasTakenHasItsName_data()
+    {
+        QTest::addColumn<int>("error");
+        QTest::addColumn<bool>("isTaken");
+        QTest::newRow("taken") << 0 << true;
+        QTest::newRow("it cannot be asked") << EINVAL << true;
+        QTest::newRow("full") << ENOSPC << false;
+    }
+    void whatItsDiskHasTakenHasItsName()
+    {
+        QFETCH(int, error);
+        QFETCH(bool, isTaken);
+        writeFile(path(u"kept"_s), "former");
+        QSaveFile file(path(u"kept"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("new");
+        s_flushError = error;
+        const bool isCommitted = commitWhole(file);
+        const int why = errno;
+        s_flushError = 0;
+        QCOMPARE(isCommitted, isTaken);
+        QCOMPARE(content(u"kept"_s), QByteArray(isTaken ? "new" : "former"));
+        if (!isTaken)
+            QCOMPARE(why, error);
+        QCOMPARE(files(), QStringList{u"kept"_s});
     }
 
     void aJobWhoseResultTheDiskHasNotTakenHasFailed()

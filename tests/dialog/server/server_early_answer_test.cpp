@@ -122,6 +122,21 @@ private Q_SLOTS:
                  qPrintable(connection.problem().text(connection.context().address)));
         QVERIFY(connection.documentWasSent());
     }
+
+    // Nothing of it is left for the next request, of which the server gets the whole.
+    void anAnswerThatCameTooEarlySaysNothingOfTheNext()
+    {
+        const EarlyServer server(saying(IPP_STATUS_OK, "Done").bytes, 1,
+                                 EarlyServer::Then::HangsUp);
+        QBuffer document;
+        document.setData(QByteArray(kDocument, 'x'));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        ServerConnection connection(contextFor(server.port()), nullptr);
+        QVERIFY(
+            !connection.request(aboutQueue(IPP_OP_PRINT_JOB), "/printers/office", document, {}));
+        QVERIFY(connection.problem().kind == Kind::NotUnderstood);
+        QVERIFY(connection.request(aboutQueue(IPP_OP_GET_PRINTER_ATTRIBUTES), "/printers/office"));
+    }
 };
 
 QTEST_GUILESS_MAIN(ServerEarlyAnswerTest)

@@ -77,6 +77,21 @@ private Q_SLOTS:
         QVERIFY(!document.laidOut);
     }
 
+    // Of another document it is not known why nothing came out.
+    void onlyPostScriptIsKnownToDrawNothing()
+    {
+        const FakeFilter filter("exit 0\n");
+        for (const QString &format : {u"application/postscript"_s, u"application/x-drawing"_s}) {
+            const QString path = writeFile(filter.path(u"document"_s), "%!PS\n");
+            const SheetRequest request = requestFor({path, format, u"document"_s});
+            SheetCounter counter;
+            QSignalSpy finished(&counter, &SheetCounter::finished);
+            counter.count(request, When::Now);
+            QVERIFY(finished.wait(kCountPatience));
+            QCOMPARE(drawsNoPage(*counter.counted(request)), format == u"application/postscript"_s);
+        }
+    }
+
     // The other documents of the job are counted all the same.
     void oneBadDocumentIsOne()
     {

@@ -6,6 +6,7 @@
 
 #include "dialog/printers/LastPrinter.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/OpenedPrinter.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -78,14 +79,7 @@ private:
         task().print();
         return QTest::qWaitFor([&] { return face().outcomes.size() > before; }, kPatience);
     }
-    QString attribute(const QString &name)
-    {
-        for (const JobOption &option : task().settings().attributes()) {
-            if (option.name == name)
-                return option.value;
-        }
-        return {};
-    }
+    QString attribute(const QString &name) { return task().settings().attribute(name); }
     QString jobValue(int job, const char *attribute)
     {
         return Client(m_cups->server()).jobValue(job, attribute);
@@ -360,6 +354,47 @@ private Q_SLOTS:
         QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
         QVERIFY(printed());
         QCOMPARE(task().outcome().kind, kTaken);
+    }
+
+    // CUPS adds a default that nobody has asked for, and does so each time.
+    void whatAServerMakesUpHoldsNoJobUp()
+    {
+        const JobOption madeUp{u"print-color-mode"_s, u"monochrome"_s};
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()
+                                              .line("*ColorDevice: True")
+                                              .option("ColorModel", "Color", "Gray",
+                                                      {{"Gray", "Gray"}, {"RGB", "Color"}})));
+        for (const bool isKnown : {false, true}) {
+            m_scene = std::make_unique<TaskScene>();
+            open(request());
+            QSignalSpy changed(&task(), &PrintTask::printerChanged);
+            QVERIFY(!isKnown || changed.wait(kPatience)); // the server has been asked again
+            QVERIFY(task().opened()->saidDefaults.contains(madeUp));
+            QVERIFY(!task().opened()->fetched.defaults.contains(madeUp));
+            QVERIFY(printed());
+            QVERIFY(task().outcome().isDone());
+        }
+    }
+
+    // The first printer is there for want of a better one, and what was done with it is not lost.
+    void documentsCanBeTakenBackWhenTheServersPrinterHasCome()
+    {
+        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
+        PrintRequest any = request();
+        any.wantedPrinter.clear();
+        m_scene->make(any).start();
+        QVERIFY(m_scene->reaches(Phase::Opened));
+        task().bringUp();
+        task().addDocuments({corvana::test::sourceFile(u"tests/data/pages.pdf"_s)});
+        task().printers().start(); // as a window does
+        QTRY_COMPARE_WITH_TIMEOUT(task().phase(), Phase::Opened, kPatience);
+        QCOMPARE(task().printer().name, u"office"_s);
+        task().bringUp();
+        task().undo();
+        QTRY_COMPARE(task().phase(), Phase::Opened); // the first one again
+        task().bringUp();
+        task().undo();
+        QCOMPARE(task().documents().size(), 1);
     }
 
     void aFaceThatDoesNotWantToWaitIsDoneWhenTheQueueHasTheJob()
