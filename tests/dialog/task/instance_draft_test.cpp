@@ -349,7 +349,7 @@ private Q_SLOTS:
         writeFile(path, "{");
         QVERIFY(QDir().mkpath(path + u".damaged"_s)); // where a file would have to be
         const OwnInstances own(path);
-        const QString problem = own.note(u"a/c"_s, {u"C"_s}, {});
+        const QString problem = own.note({{u"a/c"_s, {}}}, {u"C"_s});
         QVERIFY2(problem.contains(u"It was not changed"_s), qPrintable(problem));
         QVERIFY(!own.damage().isEmpty());
     }
@@ -363,11 +363,11 @@ private Q_SLOTS:
             return QList<JobOption>{{u"Number"_s, QString::number(number)}};
         };
         for (int number = 0; number < 5; ++number) {
-            QCOMPARE(own.note(u"a/c"_s, {u"C"_s}, written(number)), QString());
+            QCOMPARE(own.note({{u"a/c"_s, written(number)}}, {u"C"_s}), QString());
             if (number > 0)
-                QCOMPARE(own.noteFailure(u"a/c"_s), QString());
+                QCOMPARE(own.noteFailure({u"a/c"_s}), QString());
         }
-        QCOMPARE(own.note(u"a/c"_s, {u"C"_s}, written(5)), QString());
+        QCOMPARE(own.note({{u"a/c"_s, written(5)}}, {u"C"_s}), QString());
         const OwnInstance instance = own.read().value(u"a/c"_s);
         for (const int number : {0, 4, 5})
             QVERIFY2(instance.isAsWritten(written(number), {}),
@@ -378,26 +378,13 @@ private Q_SLOTS:
     void whatOnlyTheSystemsFileHasIsNotOurs()
     {
         start();
-        QCOMPARE(writeInstance(draft(), {u"Reports"_s}), QString());
+        QVERIFY(write(draft(), u"Reports"_s).isEmpty());
         QVERIFY(QDir().mkpath(m_home->filePath(u"system"_s)));
         QVERIFY(QFile::rename(lpoptions(), m_home->filePath(u"system/lpoptions"_s)));
         const Variable root("CUPS_SERVERROOT", m_home->filePath(u"system"_s).toUtf8());
         const KnownInstances known = KnownInstances::read();
         QVERIFY(known.queues.hasInstance(u"office/reports"_s));
         QCOMPARE(known.own.keys(), QStringList());
-    }
-
-    // Another window may have been writing when it was looked at first.
-    void whatIsOursAfterAllIsNotTakenForChanged()
-    {
-        start();
-        QCOMPARE(writeInstance(draft(), {u"Reports"_s}), QString());
-        InstanceChanges changes;
-        changes.changedByOthers = QStringList{u"office/reports"_s};
-        InstancesOutcome outcome;
-        changeInstances(changes, &outcome);
-        QCOMPARE(outcome.problems, QStringList());
-        QCOMPARE(OwnInstances().names(), QStringList{u"office/reports"_s});
     }
 
     void onlyQueuesHaveInstances()
