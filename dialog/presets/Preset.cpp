@@ -1,6 +1,7 @@
 #include "dialog/presets/Preset.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QCoreApplication>
 
@@ -32,6 +33,19 @@ QString problemOfPresetName(const QString &name)
     if (!std::all_of(characters.cbegin(), characters.cend(), showsItself))
         return Texts::tr("The name of a preset holds only characters that can be seen.");
     return {};
+}
+
+QString problemOfNewPresetName(const QString &name)
+{
+    static constexpr const char *kAlwaysThere[] = {"Printer Defaults", "Last Used"};
+    const auto isCalled = [&](const char *one) {
+        const QString shown = QCoreApplication::translate("corvana::TaskPresets", one);
+        return name.compare(shown, Qt::CaseInsensitive) == 0 ||
+               name.compare(QLatin1StringView(one), Qt::CaseInsensitive) == 0;
+    };
+    if (std::any_of(std::begin(kAlwaysThere), std::end(kAlwaysThere), isCalled))
+        return Texts::tr("“%1” is always there, and is no name of a preset.").arg(name);
+    return problemOfPresetName(name);
 }
 
 } // namespace corvana

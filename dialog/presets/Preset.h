@@ -32,5 +32,8 @@ QString presetName(const QString &typed);
 
 /// Why a name cannot be that of a preset, for the person who has typed it; empty when it can.
 QString problemOfPresetName(const QString &name);
+/// The same for one that is about to be given: it is not that of settings which are always there,
+/// as the user or English has it, either. Files may have such a name from before.
+QString problemOfNewPresetName(const QString &name);
 
 } // namespace corvana

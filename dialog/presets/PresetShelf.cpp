@@ -39,11 +39,13 @@ void PresetShelf::run(Change change, const QString &name, std::function<QString(
         look();
 }
 
-void PresetShelf::save(const Preset &preset, PresetStore::Replacing replacing, const Along &along)
+void PresetShelf::save(const PresetReplacing &settings, PresetStore::Replacing replacing,
+                       const std::shared_ptr<Preset> &written, const Along &along)
 {
-    run(Change::Saved, preset.name, [store = m_store, preset, replacing, along] {
-        return store.save(preset, replacing, along);
-    });
+    run(Change::Saved, settings.preset.name,
+        [store = m_store, settings, replacing, written, along] {
+            return store.save(settings, replacing, written.get(), along);
+        });
 }
 
 void PresetShelf::rename(const Preset &preset, const QString &name, const Along &along)

@@ -35,7 +35,9 @@ public:
     // ended() follows each of these. `along` is called on another thread, and borrows nothing.
 
     using Along = PresetStore::Along;
-    void save(const Preset &preset, PresetStore::Replacing replacing, const Along &along = {});
+    /// `written`: see PresetStore; the other thread's until it ended.
+    void save(const PresetReplacing &settings, PresetStore::Replacing replacing,
+              const std::shared_ptr<Preset> &written, const Along &along = {});
     void rename(const Preset &preset, const QString &name, const Along &along = {});
     void remove(const Preset &preset, const Along &along = {});
     void keepLastJob(const Printer &printer, const QString &server, const PresetContent &changes);

@@ -271,30 +271,43 @@ QString PresetStore::fileOf(const Preset &preset) const
 }
 
 // Under the lock.
-QString PresetStore::write(Preset preset, Replacing replacing) const
+QString PresetStore::write(const PresetReplacing &settings, Replacing replacing,
+                           Preset *written) const
 {
+    const Preset &preset = settings.preset;
     const QString path = fileOf(preset);
     const PresetReading former = readPresetFile(path);
     if (!former.problem.isEmpty())
         return damaged(path, former.problem);
     if (former.preset && replacing == Replacing::No)
         return Texts::tr("There is a preset of the name “%1” already.").arg(preset.name);
-    if (former.preset && preset.further.isEmpty())
-        preset.further = former.preset->further;
-    return writePresetFile(path, preset);
+    *written = preset;
+    if (former.preset) {
+        if (const QString problem = settings.over(*former.preset, written); !problem.isEmpty())
+            return problem;
+    }
+    return writePresetFile(path, *written);
 }
 
 QString PresetStore::save(const Preset &preset, Replacing replacing, const Along &along) const
 {
-    if (const QString problem = problemOfPresetName(preset.name); !problem.isEmpty())
+    Preset written;
+    return save(PresetReplacing{.preset = preset, .isWhole = true}, replacing, &written, along);
+}
+
+QString PresetStore::save(const PresetReplacing &settings, Replacing replacing, Preset *written,
+                          const Along &along) const
+{
+    if (const QString problem = problemOfNewPresetName(settings.preset.name); !problem.isEmpty())
         return problem;
     const Lock lock(m_places.own);
-    return lock.problem().isEmpty() ? then(along, write(preset, replacing)) : lock.problem();
+    return lock.problem().isEmpty() ? then(along, write(settings, replacing, written))
+                                    : lock.problem();
 }
 
 QString PresetStore::rename(const Preset &preset, const QString &name, const Along &along) const
 {
-    if (const QString problem = problemOfPresetName(name);
+    if (const QString problem = problemOfNewPresetName(name);
         !problem.isEmpty() || name == preset.name)
         return problem;
     const Lock lock(m_places.own);
@@ -312,7 +325,9 @@ QString PresetStore::renameLocked(const Preset &preset, const QString &name) con
                    : damaged(path, now.problem);
     Preset renamed = *now.preset;
     renamed.name = name;
-    if (const QString problem = write(renamed, Replacing::No); !problem.isEmpty())
+    Preset written;
+    if (const QString problem = write(PresetReplacing{.preset = renamed}, Replacing::No, &written);
+        !problem.isEmpty())
         return problem;
     QFile former(path);
     return former.remove() ? QString()

@@ -9,6 +9,7 @@
 
 #include "dialog/policy/FileTrust.h"
 #include "dialog/presets/Preset.h"
+#include "dialog/presets/PresetReplacing.h"
 
 namespace corvana {
 
@@ -83,6 +84,10 @@ public:
     /// Keeps a preset. What a later version of the program has written into the file that is
     /// replaced stays in it. Errors: why it was not kept; a file that is damaged is never replaced.
     QString save(const Preset &preset, Replacing replacing, const Along &along = {}) const;
+    /// The same of settings that may replace a preset of that name, by what it says under the lock.
+    /// `written`: the preset as it is then.
+    QString save(const PresetReplacing &settings, Replacing replacing, Preset *written,
+                 const Along &along = {}) const;
     /// Errors: why it was not renamed; then everything is as it was.
     QString rename(const Preset &preset, const QString &name, const Along &along = {}) const;
     /// Errors: why it was not removed.
@@ -94,7 +99,7 @@ private:
     QString folderOf(const QString &model) const;
     /// The file of a preset, also one that somebody has copied here under another name.
     QString fileOf(const Preset &preset) const;
-    QString write(Preset preset, Replacing replacing) const;
+    QString write(const PresetReplacing &settings, Replacing replacing, Preset *written) const;
     QString renameLocked(const Preset &preset, const QString &name) const;
     QString removeLocked(const Preset &preset) const;
 

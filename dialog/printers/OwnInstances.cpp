@@ -31,6 +31,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(OwnInstances)
 };
 
+constexpr int kVersionOfHere = 1;
 constexpr QLatin1StringView kVersion{"version"};
 constexpr QLatin1StringView kInstances{"instances"};
 constexpr QLatin1StringView kSettings{"settings"};
@@ -40,6 +41,8 @@ constexpr QLatin1StringView kWritten{"written"};
 // The last one, the one before, which still stands there where the last did not get there, and one
 // of which it is not known whether it did.
 constexpr qsizetype kMostWritten = 3;
+// Files that were damaged, beside the one in use.
+constexpr int kMostDamaged = 100;
 
 QJsonObject instancesIn(const QByteArray &content)
 {
@@ -51,14 +54,29 @@ QByteArray withInstances(const QByteArray &content, const QJsonObject &instances
 {
     QJsonObject whole = QJsonDocument::fromJson(content).object();
     if (!whole.contains(kVersion))
-        whole[kVersion] = 1;
+        whole[kVersion] = kVersionOfHere;
     whole[kInstances] = instances;
     return QJsonDocument(whole).toJson();
 }
 
+// What is not of the form that this program writes is nothing that it may write over.
 bool isDamaged(const QByteArray &content)
 {
-    return !content.trimmed().isEmpty() && !QJsonDocument::fromJson(content).isObject();
+    if (content.trimmed().isEmpty())
+        return false;
+    const QJsonDocument whole = QJsonDocument::fromJson(content);
+    const QJsonValue version = whole.object().value(kVersion);
+    const QJsonValue instances = whole.object().value(kInstances);
+    const auto isObject = [](const QJsonValue &one) { return one.isObject(); };
+    const QJsonObject all = instances.toObject();
+    return !whole.isObject() || !(version.isUndefined() || version.isDouble()) ||
+           !(instances.isUndefined() || instances.isObject()) ||
+           !std::all_of(all.constBegin(), all.constEnd(), isObject);
+}
+
+bool isOfLaterVersion(const QByteArray &content)
+{
+    return QJsonDocument::fromJson(content).object().value(kVersion).toDouble() > kVersionOfHere;
 }
 
 // Empty where there is none.
@@ -74,7 +92,13 @@ QByteArray contentOf(const QString &path)
 // What is damaged is about to be replaced; whoever can mend it finds it beside the new file.
 bool keepDamaged(const QString &path, const QByteArray &content)
 {
-    const QString kept = path + u".damaged"_s;
+    // Another one may have been kept before.
+    QString kept = path + u".damaged"_s;
+    for (int number = 2; QFileInfo::exists(kept) && contentOf(kept) != content; ++number) {
+        if (number > kMostDamaged)
+            return false;
+        kept = path + u".damaged.%1"_s.arg(number);
+    }
     QSaveFile file(kept);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !commitWhole(file))
@@ -86,11 +110,17 @@ bool keepDamaged(const QString &path, const QByteArray &content)
 QString change(const QString &path, const std::function<void(QJsonObject *)> &edit)
 {
     QDir().mkpath(QFileInfo(path).path());
-    bool isLost = false;
+    QString lost;
     const auto changed = [&](const QByteArray &content) {
+        lost.clear();
         // Under the lock, so that it is what stands there, and nobody's new file.
-        isLost = isDamaged(content) && !keepDamaged(path, content);
-        if (isLost)
+        if (isOfLaterVersion(content))
+            lost = QCoreApplication::translate("PresetFile",
+                                               "it was written by a later version of this program");
+        else if (isDamaged(content) && !keepDamaged(path, content))
+            lost =
+                QCoreApplication::translate("SharedFile", "nothing can be written into its folder");
+        if (!lost.isEmpty())
             return content;
         QJsonObject instances = instancesIn(content);
         edit(&instances);
@@ -98,11 +128,10 @@ QString change(const QString &path, const std::function<void(QJsonObject *)> &ed
     };
     // Nobody but this program writes the file, always under the lock.
     const QString problem = SharedFile(path).change({changed, nullptr});
-    if (problem.isEmpty() && isLost)
+    if (problem.isEmpty() && !lost.isEmpty())
         return QCoreApplication::translate("SharedFile",
                                            "“%1” cannot be written: %2. It was not changed.")
-            .arg(path, QCoreApplication::translate("SharedFile",
-                                                   "nothing can be written into its folder"));
+            .arg(path, lost);
     return problem;
 }
 
@@ -179,8 +208,11 @@ QString OwnInstances::usualPath()
 
 QMap<QString, OwnInstance> OwnInstances::read() const
 {
-    const QJsonObject instances = instancesIn(contentOf(m_path));
+    const QByteArray content = contentOf(m_path);
     QMap<QString, OwnInstance> all;
+    if (isDamaged(content) || isOfLaterVersion(content))
+        return all;
+    const QJsonObject instances = instancesIn(content);
     for (auto it = instances.constBegin(); it != instances.constEnd(); ++it)
         all.insert(it.key(), instanceOf(it.value().toObject()));
     return all;
@@ -188,7 +220,8 @@ QMap<QString, OwnInstance> OwnInstances::read() const
 
 QString OwnInstances::damage() const
 {
-    return isDamaged(contentOf(m_path))
+    const QByteArray content = contentOf(m_path);
+    return isDamaged(content) && !isOfLaterVersion(content)
                ? Texts::tr("“%1” is damaged. What was written for other programs before does not "
                            "follow its presets any more.")
                      .arg(m_path)

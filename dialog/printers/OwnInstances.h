@@ -47,7 +47,7 @@ public:
     explicit OwnInstances(const QString &path = usualPath()) : m_path(path) {}
     static QString usualPath();
 
-    /// By "NAME/INSTANCE". A file that is damaged knows none.
+    /// By "NAME/INSTANCE". A file that is damaged, or of a later version, knows none.
     QMap<QString, OwnInstance> read() const;
     QStringList names() const { return read().keys(); }
     /// Why nothing is known although something was noted: a sentence for the user; empty where that
@@ -55,7 +55,8 @@ public:
     QString damage() const;
 
     // Errors: these answer a sentence for the user, and nothing has changed. A file that is damaged
-    // is kept beside the new one, as "instances.json.damaged".
+    // is kept beside the new one, as "instances.json.damaged" and, of several, with a number; one
+    // of a later version of this program is not changed.
 
     /// Before instances are written: `options` are what will stand there, by their names. Of
     /// `instance`, what was written before is not looked at.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <QCollator>
+#include <QHash>
 
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/QueueRequests.h"
@@ -48,11 +49,17 @@ QList<Printer> sorted(const QList<Printer> &printers)
 // Each queue, and behind it the user's instances of it.
 QList<Printer> withInstances(const QList<Printer> &queues, const UserQueues &userQueues)
 {
+    // Of each queue at once: both may be very many.
+    QHash<QString, QStringList> instancesOf;
+    for (auto it = userQueues.options.keyBegin(); it != userQueues.options.keyEnd(); ++it) {
+        if (it->contains(u'/'))
+            instancesOf[foldedQueueName(queueOfInstance(*it))] += *it;
+    }
     QList<Printer> all;
     all.reserve(queues.size());
     for (const Printer &queue : queues) {
         all += queue;
-        const QStringList instances = userQueues.instancesOf(queue.name);
+        const QStringList instances = instancesOf.value(foldedQueueName(queue.name));
         for (const QString &name : instances) {
             Printer instance = queue;
             instance.name = name;

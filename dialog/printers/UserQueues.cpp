@@ -1,9 +1,12 @@
 #include "dialog/printers/UserQueues.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QSet>
 
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueuesFile.h"
@@ -23,29 +26,63 @@ QString spellingOf(const QString &name, const UserQueues &queues)
     return found == queues.options.keyEnd() ? name : *found;
 }
 
-// libcups reads such a line itself only while it asks a server.
-void readLine(QByteArrayView line, UserQueues *queues)
+// Reads the lines of files that may have very many of them: each is looked at once.
+class Reader
 {
-    const std::optional<UserQueuesLine> read = userQueuesLine(line);
-    if (!read)
-        return;
-    const QString name = QString::fromUtf8(read->name);
-    if (read->isDefault)
-        queues->defaultName = name;
-    QList<JobOption> &options = queues->options[spellingOf(name, *queues)];
-    const QList<JobOption> added = optionsOfLine(*read);
-    for (const JobOption &option : added) {
-        options.removeIf([&](const JobOption &o) { return o.name == option.name; });
-        options += option;
+public:
+    explicit Reader(const UserQueues &before) : m_queues(before)
+    {
+        for (auto it = before.options.keyBegin(); it != before.options.keyEnd(); ++it)
+            m_spellings.insert(foldedQueueName(*it), *it);
     }
-}
 
-void readLines(const QByteArray &content, UserQueues *queues)
-{
-    const QList<QByteArrayView> lines = linesOfUserQueues(content);
-    for (const QByteArrayView line : lines)
-        readLine(line, queues);
-}
+    void readLines(const QByteArray &content)
+    {
+        const QList<QByteArrayView> lines = linesOfUserQueues(content);
+        for (const QByteArrayView line : lines)
+            readLine(line);
+    }
+
+    // The last line that names an option counts.
+    UserQueues queues()
+    {
+        for (const QString &name : std::as_const(m_named)) {
+            QList<JobOption> &options = m_queues.options[name];
+            QSet<QString> said;
+            QList<JobOption> once;
+            for (auto option = options.crbegin(); option != options.crend(); ++option) {
+                if (!said.contains(option->name)) {
+                    said.insert(option->name);
+                    once.prepend(*option);
+                }
+            }
+            options = once;
+        }
+        return m_queues;
+    }
+
+private:
+    // libcups reads such a line itself only while it asks a server.
+    void readLine(QByteArrayView line)
+    {
+        const std::optional<UserQueuesLine> read = userQueuesLine(line);
+        if (!read)
+            return;
+        const QString name = QString::fromUtf8(read->name);
+        if (read->isDefault)
+            m_queues.defaultName = name;
+        // A queue that was named before is called as it was then.
+        QString &spelling = m_spellings[foldedQueueName(name)];
+        if (spelling.isNull())
+            spelling = name;
+        m_queues.options[spelling] += optionsOfLine(*read);
+        m_named.insert(spelling);
+    }
+
+    UserQueues m_queues;
+    QHash<QString, QString> m_spellings; // by their folded names
+    QSet<QString> m_named;               // in these files
+};
 
 } // namespace
 
@@ -71,22 +108,22 @@ QStringList UserQueues::instancesOf(const QString &queue) const
 
 UserQueues userQueuesIn(const QByteArray &content, const UserQueues &before)
 {
-    UserQueues queues = before;
-    readLines(content, &queues);
-    return queues;
+    Reader reader(before);
+    reader.readLines(content);
+    return reader.queues();
 }
 
 UserQueues readUserQueues(const QStringList &files)
 {
-    UserQueues queues;
+    Reader reader({});
     for (const QString &name : files) {
         // What is no file may have no end, or keep whoever opens it waiting.
         QFile file(name);
         if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
-        readLines(file.read(kMostBytesOfUserQueues), &queues);
+        reader.readLines(file.read(kMostBytesOfUserQueues));
     }
-    return queues;
+    return reader.queues();
 }
 
 UserQueues readUserQueues()

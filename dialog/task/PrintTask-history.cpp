@@ -104,8 +104,12 @@ void PrintTask::setBase(const Base &base)
 void PrintTask::beginHistory()
 {
     const Memory memory = m_memory.value(idOf(m_chosen.printer));
-    m_baseline.base = memory.session && memory.base ? *memory.base
-                                                    : Base{settingsNow(), presets().selectedName()};
+    m_baseline.base = memory.session && memory.base ? *memory.base : presets().baseNow();
+    // What was asked for with this job belongs to no preset, nor to where the printer starts.
+    if (const auto asked = std::exchange(m_baseline.asked, std::nullopt)) {
+        m_baseline.base.settings.session = *asked;
+        m_baseline.base.settings.job.takeAttributesOf(m_baseline.jobAsked);
+    }
     takeComingSettings();
     SettingsHistory &history = m_baseline.history;
     const TaskSettings now = settingsNow();

@@ -122,6 +122,7 @@ void PrintTask::applyStartOptions()
     using By = JobSettings::By;
     m_chosen.unset.clear();
     m_chosen.ignored.clear();
+    m_baseline.asked.reset();
     // What happens on the way is part of the outcome, not an event of the user's.
     const QSignalBlocker blocker(m_opened->panels.get());
     const Memory &memory = m_memory[idOf(m_chosen.printer)];
@@ -144,6 +145,8 @@ void PrintTask::applyStartOptions()
         const StartOutcome started = applyStartValues(m_request, *m_opened, m_settings);
         m_chosen.unset = started.unset;
         m_chosen.ignored = started.ignored;
+        m_baseline.asked = started.before;
+        m_baseline.jobAsked = started.settingsBefore;
         presets().start(started);
     }
     m_chosen.ignored += policyProblems();

@@ -72,9 +72,8 @@ void applyNamedPreset(const PrintRequest &request, OpenedPrinter &printer, JobSe
                                             request.documents, printer, settings);
     for (const QString &problem : taken.missing + taken.details)
         outcome->ignored += Texts::tr("%1: %2").arg(preset.name, problem);
-    outcome->preset = preset.name;
-    outcome->isForDevice = preset.device;
     outcome->kept = contentOf(printer, settings, preset.device);
+    outcome->preset = std::make_shared<const PresetOrigin>(PresetOrigin{preset, outcome->kept});
 }
 
 } // namespace

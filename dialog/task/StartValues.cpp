@@ -277,6 +277,11 @@ StartOutcome applyStartValues(const PrintRequest &request, OpenedPrinter &printe
             applyKeptSettings(layer.by, request, printer, settings, &outcome);
             continue;
         }
+        if (layer.by == By::Options && !options.at(i).isEmpty()) {
+            printer.panels->deliverPending();
+            outcome.before = printer.session->snapshot();
+            outcome.settingsBefore = settings;
+        }
         QStringList problems;
         if (passesOn)
             problems = takeWhatCannotBeDone(options[i], printer);

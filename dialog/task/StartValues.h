@@ -1,12 +1,15 @@
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <span>
 
 #include <QList>
 #include <QStringList>
 
-#include "dialog/presets/PresetContent.h"
+#include "dialog/presets/PresetReplacing.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/PpdSession.h"
 #include "dialog/task/JobSettings.h"
 
 namespace corvana {
@@ -43,8 +46,11 @@ struct StartOutcome
     /// What the user has kept from before: of the last job, or as a preset.
     PresetContent lastUsed{}; ///< changes of `defaults`; empty when there are none
     PresetContent kept{};     ///< in force before any option was asked for
-    QString preset{};         ///< the name of the preset that was applied; empty for none
-    bool isForDevice = false; ///< that preset sets up the device as well
+    /// The preset that was applied, as it is listed, with what the printer took of it.
+    std::shared_ptr<const PresetOrigin> preset{};
+    /// In force before any option was asked for, where some were.
+    std::optional<SessionSnapshot> before{};
+    JobSettings settingsBefore{}; ///< the same of the job
 };
 
 /// Brings a printer that was just opened, and the settings of its job, to where a job starts.

@@ -1,7 +1,10 @@
 #include "dialog/task/TaskPresets.h"
 
+#include <algorithm>
+
 #include "dialog/printers/PrinterId.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartValues.h"
@@ -62,15 +65,26 @@ void TaskPresets::sayOfInstance(const InstanceDraft &draft)
     Q_EMIT m_task.noted(tr("Other programs print with these settings to “%1”.").arg(draft.name));
 }
 
+// What sets up the device is in no instance, unless somebody asks for it together with that.
+bool TaskPresets::asksForDevice() const
+{
+    const OpenedPrinter *opened = m_task.opened();
+    const QStringList device =
+        opened && opened->jobValues ? opened->jobValues->deviceOptions() : QStringList();
+    const QList<JobOption> &asked = m_task.request().options;
+    return std::any_of(asked.cbegin(), asked.cend(), [&](const JobOption &option) {
+        return device.contains(nameInOneCase(option.name, opened->session->ppd()));
+    });
+}
+
 std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
 {
     const QString &name = m_task.request().instance;
     if (name.isEmpty())
         return std::nullopt;
-    // A preset has nothing of what sets up the device; what was asked for just now has.
     const bool isByItself = settings.isEmpty();
-    const InstanceDraft made =
-        draft(name, isByItself ? QString() : settings, KnownInstances::read(), isByItself);
+    const InstanceDraft made = draft(name, isByItself ? QString() : settings,
+                                     KnownInstances::read(), isByItself && asksForDevice());
     QString problem = made.problem;
     if (problem.isEmpty())
         problem = changeInstances({{made.name, made.options}},
@@ -149,6 +163,7 @@ void TaskPresets::keep(const Saving &saving, const KnownInstances &known)
 {
     const bool replaces = saving.wanted.replaces || saving.attempt > 1;
     m_shelf.save(saving.preset, replaces ? PresetStore::Replacing::Yes : PresetStore::Replacing::No,
+                 saving.written,
                  [changes = changesElsewhere(saving.wanted, known), outcome = pend(saving)] {
                      changeInstances(changes, outcome.get());
                  });
@@ -164,10 +179,15 @@ bool TaskPresets::keepAnew(Pending *pending)
     if (again.attempt < kMostAttempts && m_task.phase() == PrintTask::Phase::Ready &&
         m_task.settingsNow() == again.settings) {
         ++again.attempt;
+        // It is kept by now, and what it has kept of the former one as well.
+        again.preset.origin =
+            std::make_shared<const PresetOrigin>(PresetOrigin{*again.written, again.preset.set});
+        again.preset.touched.clear();
+        again.written = std::make_shared<Preset>();
         keep(again, *pending->outcome->news);
         return true;
     }
-    pending->outcome->problems += changedMeanwhileText(again.preset.name);
+    pending->outcome->problems += changedMeanwhileText(again.preset.preset.name);
     return false;
 }
 

@@ -93,11 +93,19 @@ void TaskPresets::start(const StartOutcome &started)
               started.defaults,
               started.lastUsed,
               started.kept,
-              contentOf(*m_task.opened(), m_task.settings(), started.isForDevice)};
-    if (!started.preset.isEmpty())
-        m_kept.selected = {Kind::Preset, started.preset, started.isForDevice};
+              contentOf(*m_task.opened(), m_task.settings(),
+                        started.preset && started.preset->stored.device),
+              started.preset};
+    if (started.preset)
+        m_kept.selected = {Kind::Preset, started.preset->stored.name,
+                           started.preset->stored.device};
     else if (!started.lastUsed.isEmpty())
         m_kept.selected = {Kind::LastUsed};
+}
+
+SettingsBase TaskPresets::baseNow() const
+{
+    return {m_task.settingsNow(), selectedName(), m_kept.preset};
 }
 
 void TaskPresets::begin()
@@ -139,6 +147,9 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
         return;
     Q_EMIT m_task.unsaid();
     m_task.recordStep(); // what was typed just now
+    const bool isStored = selected.kind == Kind::Preset && ofInstance.isEmpty();
+    const std::optional<StoredPreset> stored =
+        isStored ? listing().find(selected.name) : std::nullopt;
     PresetOutcome outcome;
     {
         // What happens on the way is a part of it, and is told when it is over.
@@ -154,7 +165,11 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
         return; // interrupted, while an alert of a panel was waiting for its answer
     PresetStep step{std::exchange(m_kept.selected, selected), m_task.base(), selected, {}};
     const bool isStep = m_task.recordStep(selectedName());
-    m_task.setBase({m_task.settingsNow(), selectedName()});
+    SettingsBase base{m_task.settingsNow(), selectedName()};
+    if (stored)
+        base.preset = std::make_shared<const PresetOrigin>(PresetOrigin{
+            stored->preset, contentOf(*m_task.opened(), m_task.settings(), selected.device)});
+    m_task.setBase(base);
     step.baseAfter = m_task.base();
     if (isStep)
         m_task.m_baseline.history.notePreset(std::make_shared<const PresetStep>(step));
@@ -212,22 +227,39 @@ void TaskPresets::save(const PresetToSave &wanted)
     }
     if (m_task.phase() != Phase::Ready || !m_task.m_face.finishEditing())
         return;
+    keep({wanted, replacing(wanted), m_task.settingsNow()}, m_shelf.instances());
+}
+
+PresetReplacing TaskPresets::replacing(const PresetToSave &wanted) const
+{
     const OpenedPrinter &opened = *m_task.opened();
     // What a panel shows and has not saved yet, such as a slider that was moved, belongs to it.
     opened.panels->summary();
-    Preset preset{presetName(wanted.name),
-                  modelName(),
-                  wanted.device,
-                  contentOf(opened, m_task.settings(), wanted.device),
-                  {}};
-    const PresetContent changes = changesIn(preset.content, m_kept.defaults);
-    preset.changed = namesOf(changes);
+    const QString name = presetName(wanted.name);
+    PresetReplacing replacing;
+    const PresetContent &set = replacing.set = contentOf(opened, m_task.settings(), wanted.device);
+    replacing.preset = {name, modelName(), wanted.device, set, {}};
+    const PresetContent changes = changesIn(set, m_kept.defaults);
+    replacing.preset.changed = namesOf(changes);
     // What is usual is another printer's own affair.
     if (wanted.forAllPrinters) {
-        preset.model.clear();
-        preset.content = changes;
+        replacing.preset.model.clear();
+        replacing.preset.content = changes;
     }
-    keep({wanted, preset, m_task.settingsNow()}, m_shelf.instances());
+    const std::shared_ptr<const PresetOrigin> origin = m_task.base().preset;
+    const bool isSelected = m_kept.selected.kind == Kind::Preset && m_kept.selected.name == name;
+    if (isSelected && origin && origin->stored.model == replacing.preset.model) {
+        replacing.origin = origin;
+        replacing.touched =
+            namesOf(changesIn(set, origin->taken)) + namesOf(changesIn(origin->taken, set));
+        replacing.mustBeOrigin = wanted.updates;
+    }
+    for (const ppd_option_t *option : opened.session->options())
+        replacing.options.insert(ppdKeyword(option->keyword));
+    const QList<PanelEntry> entries = panelEntries(*opened.session, opened.jobValues);
+    for (const PanelEntry &entry : entries)
+        replacing.entries.insert(entry.key);
+    return replacing;
 }
 
 void TaskPresets::update()
@@ -235,7 +267,11 @@ void TaskPresets::update()
     const SelectedPreset selected = m_kept.selected;
     const std::optional<StoredPreset> found = listing().find(selected.name);
     if (selected.kind == Kind::Preset)
-        save({selected.name, found && found->preset.model.isEmpty(), selected.device, true});
+        save({.name = selected.name,
+              .forAllPrinters = found && found->preset.model.isEmpty(),
+              .device = selected.device,
+              .replaces = true,
+              .updates = true});
 }
 
 void TaskPresets::rename(const QString &name)
@@ -278,11 +314,14 @@ void TaskPresets::take(PresetShelf::Change change, const QString &name,
     if (m_task.phase() != Phase::Ready)
         return;
     if (saving) {
-        m_kept.selected = {Kind::Preset, saving->preset.name, saving->preset.device};
-        m_task.setBase({saving->settings, selectedName()});
+        const PresetReplacing &kept = saving->preset;
+        m_kept.selected = {Kind::Preset, kept.preset.name, kept.preset.device};
+        m_task.setBase(
+            {saving->settings, selectedName(),
+             std::make_shared<const PresetOrigin>(PresetOrigin{*saving->written, kept.set})});
     } else if (change == Change::Renamed) {
         m_kept.selected.name = name;
-        m_task.setBase({m_task.base().settings, selectedName()});
+        m_task.setBase({m_task.base().settings, selectedName(), m_task.base().preset});
     } else if (change == Change::Removed && m_kept.selected.name == name) {
         m_kept.selected = {};
         m_task.setBase({m_task.base().settings, selectedName()});

@@ -50,6 +50,8 @@ struct KeptSettings
     PresetContent lastUsed{}; ///< changes of that
     PresetContent before{};   ///< in force before any option was asked for
     PresetContent started{};  ///< in force before the user changed anything
+    /// The preset that a job started with; the base has the one that is selected.
+    std::shared_ptr<const PresetOrigin> preset{};
 };
 
 /// How the settings of a task are to be kept.
@@ -63,6 +65,8 @@ struct PresetToSave
     bool elsewhere = false;
     /// An instance that was made of it goes.
     bool nowhereElse = false;
+    /// The preset that is selected; one that was kept elsewhere since then stays.
+    bool updates = false;
 };
 
 /// The settings of one task that come from before and are kept for later: presets, the defaults of
@@ -146,6 +150,8 @@ public:
     /// The settings are the user's from here on.
     void begin();
     const KeptSettings &kept() const { return m_kept; }
+    /// What "changed" compares with where nobody has changed anything yet.
+    SettingsBase baseNow() const;
     /// A printer that was left has come back.
     void comeBack(const KeptSettings &kept) { m_kept = kept; }
     void jobBegins();
@@ -161,9 +167,10 @@ private:
     struct Saving
     {
         PresetToSave wanted;
-        Preset preset;
+        PresetReplacing preset;
         TaskSettings settings;
         int attempt = 1;
+        std::shared_ptr<Preset> written = std::make_shared<Preset>(); // the thread's until it ended
     };
 
     // What is being done on another thread.
@@ -183,6 +190,7 @@ private:
     void changeEnded(PresetShelf::Change change, const QString &name, const QString &problem);
     InstanceDraft draft(const QString &name, const QString &settings, const KnownInstances &known,
                         bool withDevice) const;
+    bool asksForDevice() const;
     QString nameElsewhere(const QString &preset, const KnownInstances &known) const;
     InstancePreset instancePreset(const QString &name, bool isForAll) const;
     std::shared_ptr<InstancesOutcome> pend(const std::optional<Saving> &saving = {});
@@ -192,6 +200,7 @@ private:
     void take(PresetShelf::Change change, const QString &name, const std::optional<Saving> &saving);
     void sayOfInstance(const InstanceDraft &draft);
     void sayOfInstances(const InstancesOutcome &outcome);
+    PresetReplacing replacing(const PresetToSave &wanted) const;
     QStringList namesOf(const PresetContent &content) const;
 
     PrintTask &m_task;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -10,6 +12,8 @@
 #include "dialog/task/JobSettings.h"
 
 namespace corvana {
+
+struct PresetOrigin;
 
 /// Everything that a user sets in a task, for one printer, and the documents of it, as one plain
 /// value: what a step of the history leads from and to, and what is compared to find out what has
@@ -36,6 +40,7 @@ struct SettingsBase
 {
     TaskSettings settings;
     QString name; ///< as "Back to %1" names it: "Printer Defaults", or the preset's own name
+    std::shared_ptr<const PresetOrigin> preset{}; ///< null for what is none
 };
 
 } // namespace corvana

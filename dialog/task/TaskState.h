@@ -123,6 +123,8 @@ struct TaskState
         SessionSnapshot shown;   // as the face was told last
         QList<JobOption> chosen; // attributes, before the user changed anything
         SettingsBase base;
+        std::optional<SessionSnapshot> asked; // before options were asked for, where some were
+        JobSettings jobAsked;                 // the same of the job
         SettingsHistory history;
         QStringList touched; // since the last step, in this order
         std::unique_ptr<TaskPresets> presets;

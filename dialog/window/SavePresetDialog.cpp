@@ -110,8 +110,8 @@ void SavePresetDialog::check()
     const bool isSame = m_renames && wanted.name == m_presets.selected().name;
     const std::optional<StoredPreset> there = m_presets.listing().find(wanted.name);
     m_replaces = there && there->isOwn && there->preset.model.isEmpty() == wanted.forAllPrinters;
-    QString remark = m_name->text().isEmpty() ? QString() : problemOfPresetName(wanted.name);
-    const bool canBe = problemOfPresetName(wanted.name).isEmpty() && !(m_renames && there);
+    QString remark = m_name->text().isEmpty() ? QString() : problemOfNewPresetName(wanted.name);
+    const bool canBe = problemOfNewPresetName(wanted.name).isEmpty() && !(m_renames && there);
     if (remark.isEmpty() && there && !isSame)
         remark = m_renames    ? tr("There is a preset of this name already.")
                  : m_replaces ? tr("There is a preset of this name already. It will be replaced.")
@@ -121,6 +121,23 @@ void SavePresetDialog::check()
     m_remark->setText(remark);
     m_save->setText(m_renames ? tr("Rename") : m_replaces ? tr("Replace") : tr("Save"));
     m_save->setEnabled(canBe);
+    makeRoom();
+}
+
+// Windows do not grow with a text that takes more lines; without this it would be cut off.
+void SavePresetDialog::makeRoom()
+{
+    layout()->activate();
+    const int needed = layout()->totalHeightForWidth(width());
+    setMinimumHeight(needed);
+    if (height() < needed)
+        resize(width(), needed);
+}
+
+void SavePresetDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    makeRoom();
 }
 
 } // namespace corvana

@@ -25,7 +25,11 @@ public:
 
     PresetToSave preset() const;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void makeRoom();
     void addRange();
     void check();
     QString remarkOnInstance();

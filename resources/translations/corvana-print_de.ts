@@ -1504,6 +1504,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>Der Name einer Voreinstellung enthält nur sichtbare Zeichen.</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>„%1“ ist immer da und kein Name einer Voreinstellung.</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4477,6 +4481,13 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Während „%1“ gespeichert wurde, wurden Einstellungen geändert: In anderen Programmen ist es, wie es vorher war. Speichern Sie es noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>„%1“ wurde anderswo gespeichert, seit sie hier gewählt wurde, und bleibt, wie sie dort ist. Wählen Sie sie noch einmal, oder speichern Sie Ihre Einstellungen mit „Voreinstellung speichern …“.</translation>
     </message>
 </context>
 </TS>

@@ -1504,6 +1504,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>El nombre de un preajuste solo puede contener caracteres visibles.</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>“%1” está siempre ahí y no puede ser el nombre de un preajuste.</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4477,6 +4481,13 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Se han cambiado ajustes mientras se guardaba «%1»: los otros programas lo tienen como estaba antes. Guárdelo otra vez.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>“%1” se guardó en otro lugar después de seleccionarse aquí y se conserva como está. Selecciónelo de nuevo o guarde sus ajustes con “Guardar preajuste…”.</translation>
     </message>
 </context>
 </TS>

@@ -1504,6 +1504,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>Le nom d’un préréglage ne contient que des caractères visibles.</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>« %1 » est toujours présent et ne peut pas être le nom d’un préréglage.</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4477,6 +4481,13 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Des réglages ont été modifiés pendant l’enregistrement de « %1 » : les autres programmes l’ont tel qu’il était avant. Enregistrez-le à nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>« %1 » a été enregistré ailleurs depuis sa sélection ici, et reste tel quel. Sélectionnez-le à nouveau, ou enregistrez vos réglages avec « Enregistrer un préréglage… ».</translation>
     </message>
 </context>
 </TS>

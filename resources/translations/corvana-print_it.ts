@@ -1504,6 +1504,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>Il nome di una preimpostazione può contenere solo caratteri visibili.</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>“%1” è sempre presente e non può essere il nome di una preimpostazione.</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4477,6 +4481,13 @@ Per la riga di comando: %2</translation>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Alcune impostazioni sono state modificate durante il salvataggio di «%1»: negli altri programmi è rimasta com’era prima. Salvarla di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>“%1” è stata salvata altrove dopo la selezione qui e rimane com&apos;è. Selezionala di nuovo oppure salva le impostazioni con “Salva preimpostazione…”.</translation>
     </message>
 </context>
 </TS>

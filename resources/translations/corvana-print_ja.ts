@@ -3745,6 +3745,10 @@ For the command line: %2</source>
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>プリセットの名前に使えるのは表示できる文字だけです。</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>“%1”は常に存在するため、プリセットの名前にはできません。</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4475,6 +4479,13 @@ For the command line: %2</source>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>「%1」の保存中に設定が変更されました。ほかのプログラムでは以前のままです。もう一度保存してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>“%1”はここで選択された後に別の場所で保存されたため、そのまま残ります。もう一度選択するか、“プリセットを保存…”で設定を保存してください。</translation>
     </message>
 </context>
 </TS>

@@ -1503,6 +1503,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>사전 설정의 이름에는 보이는 글자만 사용할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>“%1”은(는) 항상 있으므로 사전 설정의 이름으로 사용할 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4475,6 +4479,13 @@ For the command line: %2</source>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>‘%1’을(를) 저장하는 동안 설정이 변경되었습니다. 다른 프로그램에는 이전 그대로 있습니다. 다시 저장하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>“%1”은(는) 여기에서 선택한 후 다른 곳에서 저장되어 그대로 유지됩니다. 다시 선택하거나 “사전 설정 저장…”으로 설정을 저장하십시오.</translation>
     </message>
 </context>
 </TS>

@@ -1504,6 +1504,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>O nome de uma predefinição só pode conter caracteres visíveis.</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>“%1” está sempre presente e não pode ser o nome de uma predefinição.</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4477,6 +4481,13 @@ Na linha de comando: %2</translation>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Configurações foram alteradas enquanto “%1” era salva: os outros programas a têm como estava antes. Salve-a novamente.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>“%1” foi salva em outro lugar depois de ser selecionada aqui e permanece como está. Selecione-a novamente ou salve suas configurações com “Salvar predefinição…”.</translation>
     </message>
 </context>
 </TS>

@@ -3745,6 +3745,10 @@ For the command line: %2</source>
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>预设的名称只能包含可见字符。</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>“%1”始终存在，不能用作预设名称。</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4475,6 +4479,13 @@ For the command line: %2</source>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>保存“%1”期间设置有更改：其他程序中仍是以前的设置。请再次保存。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>“%1”在此处选择后已在别处保存，将保持原样。请重新选择它，或使用“保存预设…”保存您的设置。</translation>
     </message>
 </context>
 </TS>

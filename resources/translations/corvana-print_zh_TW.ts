@@ -1503,6 +1503,10 @@
         <source>The name of a preset holds only characters that can be seen.</source>
         <translation>預設集的名稱只能包含可見的字元。</translation>
     </message>
+    <message>
+        <source>“%1” is always there, and is no name of a preset.</source>
+        <translation>「%1」一直都在，不能作為預設集的名稱。</translation>
+    </message>
 </context>
 <context>
     <name>PresetApplication</name>
@@ -4475,6 +4479,13 @@ For the command line: %2</source>
     <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>儲存「%1」期間設定已變更：其他程式中仍是先前的設定。請再次儲存。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetReplacing</name>
+    <message>
+        <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
+        <translation>「%1」在此處選擇後已在其他地方儲存，將保持原樣。請重新選擇它，或使用「儲存預設集…」儲存您的設定。</translation>
     </message>
 </context>
 </TS>

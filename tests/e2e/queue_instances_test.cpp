@@ -156,6 +156,9 @@ private Q_SLOTS:
         QVERIFY2(saved.err.contains(QString::fromUtf8(row.saying)), saved.text().constData());
         QVERIFY(m_cups->jobs().isEmpty());
         QVERIFY(userOptions().startsWith(row.userOptions + "Dest office/reports "));
+        // What sets up the device is there where it was asked for.
+        QCOMPARE(userOptions().contains("QXSleepTime="),
+                 row.options.contains(u"QXSleepTime=Custom.12"_s));
 
         const QByteArray theirs = printedByLp({u"-d"_s, kInstance});
         QVERIFY(!theirs.isEmpty());

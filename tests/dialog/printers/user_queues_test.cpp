@@ -178,6 +178,24 @@ private Q_SLOTS:
         QVERIFY(queues.options.contains(u"systems"_s));
     }
 
+    // As many as the file may have: each line is looked at once, or this takes hours.
+    void aLongFileIsReadAsAWhole()
+    {
+        constexpr int kLines = 200000;
+        QByteArray content;
+        for (int i = 0; i < kLines; ++i)
+            content += "Dest queue" + QByteArray::number(i) + " media=A4\n";
+        for (int i = 0; i < kLines; ++i)
+            content += "Dest one o" + QByteArray::number(i) + "=1\n";
+        content += "Dest QUEUE7 media=A5\nDest one o5=2\n";
+        const UserQueues queues = userQueuesIn(content);
+        QCOMPARE(queues.options.size(), kLines + 1);
+        QCOMPARE(queues.optionsOf(u"queue7"_s).value(0).value, u"A5"_s);
+        const QList<JobOption> one = queues.options.value(u"one"_s);
+        QCOMPARE(one.size(), kLines);
+        QCOMPARE(one.constLast(), (JobOption{u"o5"_s, u"2"_s}));
+    }
+
     void instancesAreThoseOfTheQueue()
     {
         UserQueues queues;

@@ -307,14 +307,14 @@ private Q_SLOTS:
     {
         const QString path = m_home->filePath(u"instances.json"_s);
         const OwnInstances own(path);
-        writeFile(path, R"({"version":2,"more":[1],"instances":{"a/b":{"settings":"B","x":1}}})");
+        writeFile(path, R"({"version":1,"more":[1],"instances":{"a/b":{"settings":"B","x":1}}})");
         QCOMPARE(own.note({{u"a/c"_s, {}}}, {u"C"_s}), QString());
         QCOMPARE(own.names(), QStringList({u"a/b"_s, u"a/c"_s}));
         QCOMPARE(own.read().value(u"a/b"_s).settings, u"B"_s);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray content = file.readAll();
-        for (const char *kept : {"\"more\"", "\"x\"", "\"version\": 2"})
+        for (const char *kept : {"\"more\"", "\"x\"", "\"version\": 1"})
             QVERIFY2(content.contains(kept), content.constData());
     }
 
@@ -323,9 +323,11 @@ private Q_SLOTS:
         const QString path = m_home->filePath(u"instances.json"_s);
         for (const QByteArray &content :
              {QByteArray("{"), QByteArray("[]"), QByteArray("\0\xff", 2),
-              QByteArray(R"({"instances":[1]})")}) {
+              QByteArray(R"({"instances":[1]})"), QByteArray(R"({"version":"1"})"),
+              QByteArray(R"({"instances":{"a/b":"B"}})")}) {
             writeFile(path, content);
             QVERIFY(OwnInstances(path).names().isEmpty());
+            QVERIFY2(!OwnInstances(path).damage().isEmpty(), content.constData());
         }
     }
 
@@ -385,6 +387,43 @@ private Q_SLOTS:
         const KnownInstances known = KnownInstances::read();
         QVERIFY(known.queues.hasInstance(u"office/reports"_s));
         QCOMPARE(known.own.keys(), QStringList());
+    }
+
+    void eachDamagedListIsKept()
+    {
+        const QString path = m_home->filePath(u"instances.json"_s);
+        const QByteArrayList damaged{
+            R"({"version":1,"instances":[{"name":"lobby/old","settings":"Mine"}]})", "{ broken",
+            "{ broken"};
+        for (const QByteArray &content : damaged) {
+            writeFile(path, content);
+            QCOMPARE(OwnInstances(path).note({{u"a/c"_s, {}}}, {u"C"_s}), QString());
+        }
+        const auto read = [](const QString &name) {
+            QFile file(name);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QCOMPARE(read(path + u".damaged"_s), damaged.at(0));
+        QCOMPARE(read(path + u".damaged.2"_s), damaged.at(1));
+        QVERIFY(!QFile::exists(path + u".damaged.3"_s));
+    }
+
+    void aListOfALaterVersionStaysAsItIs()
+    {
+        const QString path = m_home->filePath(u"instances.json"_s);
+        const QByteArray later = R"({"version":2,"instances":{"a/b":{"settings":"B"}}})";
+        writeFile(path, later);
+        const OwnInstances own(path);
+        QVERIFY(own.names().isEmpty());
+        QCOMPARE(own.damage(), QString());
+        for (const QString &problem : {own.note({{u"a/c"_s, {}}}, {u"C"_s}),
+                                       own.rename({u"a/b"_s}, u"D"_s), own.forget({u"a/b"_s})})
+            QVERIFY2(problem.contains(path) && problem.contains(u"later version"_s),
+                     qPrintable(problem));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), later);
+        QVERIFY(!QFile::exists(path + u".damaged"_s));
     }
 
     void onlyQueuesHaveInstances()

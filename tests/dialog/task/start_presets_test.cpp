@@ -34,7 +34,7 @@ private Q_SLOTS:
     {
         m_request.remembersLastUsed = true;
         const StartOutcome outcome = start();
-        QVERIFY(outcome.lastUsed.isEmpty() && outcome.preset.isEmpty());
+        QVERIFY(outcome.lastUsed.isEmpty() && !outcome.preset);
         QCOMPARE(outcome.kept, outcome.defaults);
         QCOMPARE(outcome.defaults.options.value(u"Media"_s), u"Plain"_s);
         QVERIFY(outcome.ignored.isEmpty() && outcome.unset.isEmpty());
@@ -69,7 +69,8 @@ private Q_SLOTS:
         QCOMPARE(marked(u"Media"_s), u"Film"_s);
         QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
         QVERIFY(attribute(u"number-up"_s).isNull());
-        QCOMPARE(outcome.preset, u"Reports"_s);
+        QVERIFY(outcome.preset);
+        QCOMPARE(outcome.preset->stored.name, u"Reports"_s);
         QVERIFY(outcome.ignored.isEmpty() && outcome.unset.isEmpty());
     }
 

@@ -7,12 +7,14 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/SavePresetDialog.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
+#include "tests/support/TestPaths.h"
 #include "tests/support/cups/PrivateCups.h"
 
 using namespace corvana;
@@ -145,6 +147,40 @@ private Q_SLOTS:
         elsewhere->setChecked(false);
         QVERIFY(dialog.preset().nowhereElse);
         QVERIFY2(!remark->text().contains(u"office/"_s), qPrintable(remark->text()));
+    }
+
+    void theDialogGrowsWithItsRemark()
+    {
+        setUserOptions("Dest office/foo a=b\n");
+        open();
+        QCOMPARE(done([&] { presets().save({u"Reports"_s, false, false, true}); }), QString());
+        for (const QString &language : {QString(), u"de"_s, u"es"_s, u"fr"_s, u"it"_s, u"ja"_s,
+                                        u"ko"_s, u"pt_BR"_s, u"zh_CN"_s, u"zh_TW"_s}) {
+            QTranslator translator;
+            if (!language.isEmpty()) {
+                QVERIFY(
+                    translator.load(u"corvana-print_"_s + language, sharedFile(u"translations"_s)));
+                QCoreApplication::installTranslator(&translator);
+            }
+            SavePresetDialog dialog(presets(), false);
+            auto *name = dialog.findChild<QLineEdit *>(u"presetName"_s);
+            auto *elsewhere = dialog.findChild<QCheckBox *>(u"presetElsewhere"_s);
+            const auto *remark = dialog.findChild<QLabel *>(u"presetRemark"_s);
+            dialog.show();
+            elsewhere->setChecked(true);
+            for (const QString &typed :
+                 {u"Reports"_s, u"foo"_s, u"報告書"_s, u"Last Used"_s, u"Q"_s}) {
+                name->setText(typed);
+                QCoreApplication::processEvents();
+                QVERIFY2(!remark->text().isEmpty(), qPrintable(typed));
+                QVERIFY2(
+                    remark->height() >= remark->heightForWidth(remark->width()),
+                    qPrintable(u"%1 %2: %3 of %4 pixels: %5"_s.arg(
+                        language, typed, QString::number(remark->height()),
+                        QString::number(remark->heightForWidth(remark->width())), remark->text())));
+            }
+            QCoreApplication::removeTranslator(&translator);
+        }
     }
 
     void theInstanceGoesAlongWithThePreset()
