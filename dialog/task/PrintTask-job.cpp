@@ -14,6 +14,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/session/TwoSided.h"
+#include "dialog/task/Collation.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
@@ -104,7 +105,8 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.addAttributes({{kJobHoldUntilAttribute, kHeldIndefinitely}});
-    return withAnswersToDefaults(withPagesOfOrder(settings.attributes()), *m_opened);
+    return withAnswersToDefaults(
+        asCopiesComeOut(withPagesOfOrder(settings.attributes()), *m_opened), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the

@@ -4475,4 +4475,11 @@ Für die Befehlszeile: %2</translation>
         <translation>Während „%1“ gespeichert wurde, wurden Einstellungen geändert: In anderen Programmen ist es, wie es vorher war. Speichern Sie es noch einmal.</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>beidseitige Kopien werden auf diesem Drucker immer sortiert</translation>
+    </message>
+</context>
 </TS>

@@ -4475,4 +4475,11 @@ En la línea de órdenes: %2</translation>
         <translation>Se han cambiado ajustes mientras se guardaba «%1»: los otros programas lo tienen como estaba antes. Guárdelo otra vez.</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>las copias a doble cara siempre se intercalan en esta impresora</translation>
+    </message>
+</context>
 </TS>

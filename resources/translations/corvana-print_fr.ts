@@ -4475,4 +4475,11 @@ Pour la ligne de commande : %2</translation>
         <translation>Des réglages ont été modifiés pendant l’enregistrement de « %1 » : les autres programmes l’ont tel qu’il était avant. Enregistrez-le à nouveau.</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>les copies recto verso sont toujours assemblées sur cette imprimante</translation>
+    </message>
+</context>
 </TS>

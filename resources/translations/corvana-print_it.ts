@@ -4475,4 +4475,11 @@ Per la riga di comando: %2</translation>
         <translation>Alcune impostazioni sono state modificate durante il salvataggio di «%1»: negli altri programmi è rimasta com’era prima. Salvarla di nuovo.</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>le copie fronte-retro vengono sempre fascicolate su questa stampante</translation>
+    </message>
+</context>
 </TS>

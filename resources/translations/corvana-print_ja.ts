@@ -4473,4 +4473,11 @@ For the command line: %2</source>
         <translation>「%1」の保存中に設定が変更されました。ほかのプログラムでは以前のままです。もう一度保存してください。</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>このプリンターでは両面印刷の部数は常に部単位で印刷されます</translation>
+    </message>
+</context>
 </TS>

@@ -4473,4 +4473,11 @@ For the command line: %2</source>
         <translation>‘%1’을(를) 저장하는 동안 설정이 변경되었습니다. 다른 프로그램에는 이전 그대로 있습니다. 다시 저장하십시오.</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>이 프린터에서 양면 인쇄는 항상 한 부씩 인쇄됩니다</translation>
+    </message>
+</context>
 </TS>

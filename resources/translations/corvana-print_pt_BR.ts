@@ -4475,4 +4475,11 @@ Na linha de comando: %2</translation>
         <translation>Configurações foram alteradas enquanto “%1” era salva: os outros programas a têm como estava antes. Salve-a novamente.</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>cópias em frente e verso são sempre agrupadas nesta impressora</translation>
+    </message>
+</context>
 </TS>

@@ -4473,4 +4473,11 @@ For the command line: %2</source>
         <translation>保存“%1”期间设置有更改：其他程序中仍是以前的设置。请再次保存。</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>在此打印机上，双面打印的多份总是逐份打印</translation>
+    </message>
+</context>
 </TS>

@@ -4473,4 +4473,11 @@ For the command line: %2</source>
         <translation>儲存「%1」期間設定已變更：其他程式中仍是先前的設定。請再次儲存。</translation>
     </message>
 </context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>在此印表機上，雙面列印的多份一律自動分頁</translation>
+    </message>
+</context>
 </TS>
