@@ -8,6 +8,7 @@
 
 #include "dialog/job/FileJob.h"
 #include "dialog/job/PageChoice.h"
+#include "dialog/job/SeparateJobs.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/job/TextDocuments.h"
 #include "dialog/session/OptionNames.h"
@@ -277,6 +278,7 @@ void PrintTask::startJob(const JobTicket &ticket)
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
         request.documents = printedDocuments();
         if (m_settings.attributes().contains(kRaw) || !unknownDocument().isNull()) {
+            request.canStandInARow = canStandInARow(request.documents);
             for (Document &document : request.documents)
                 document.format = kRawFormat;
         }

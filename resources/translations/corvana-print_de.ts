@@ -2138,6 +2138,10 @@
         <translation>%1 Die Warteschlange „%2“ hat keinen Treiber und hätte die Dokumente in einem Strom gesendet. Deshalb ist jedes ein eigener Auftrag: %3.</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Mit „raw“ hätte die Warteschlange „%2“ die Dokumente in einem Strom gesendet. Deshalb ist jedes ein eigener Auftrag: %3.</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>Auftrag %1 wurde am Drucker oder auf dessen Server abgebrochen oder aufgegeben.</translation>
     </message>

@@ -2138,6 +2138,10 @@
         <translation>%1 La cola «%2» no tiene controlador y habría enviado los documentos en un solo flujo. Por eso cada uno es un trabajo propio: %3.</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Con «raw» la cola «%2» habría enviado los documentos en un solo flujo. Por eso cada uno es un trabajo propio: %3.</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>El trabajo %1 se canceló o se abandonó en la impresora o en su servidor.</translation>
     </message>

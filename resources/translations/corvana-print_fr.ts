@@ -2138,6 +2138,10 @@
         <translation>%1 La file d’attente « %2 » n’a pas de pilote et aurait envoyé les documents en un seul flux. Chacun est donc une tâche à part : %3.</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Avec « raw », la file d’attente « %2 » aurait envoyé les documents en un seul flux. Chacun est donc une tâche à part : %3.</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>La tâche %1 a été annulée ou abandonnée sur l’imprimante ou son serveur.</translation>
     </message>

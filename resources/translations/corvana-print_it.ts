@@ -2138,6 +2138,10 @@
         <translation>%1 La coda «%2» non ha un driver e avrebbe inviato i documenti in un unico flusso. Perciò ognuno è un lavoro a sé: %3.</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Con «raw» la coda «%2» avrebbe inviato i documenti in un unico flusso. Perciò ognuno è un lavoro a sé: %3.</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>Il lavoro %1 è stato annullato o abbandonato dalla stampante o dal suo server.</translation>
     </message>

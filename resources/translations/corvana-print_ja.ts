@@ -1305,6 +1305,10 @@
         <translation>%1キュー「%2」にはドライバーがなく、文書が 1 つのデータとして続けて送られるため、文書ごとに別のジョブにしました: %3。</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1「raw」ではキュー「%2」が文書を 1 つのデータとして続けて送るため、文書ごとに別のジョブにしました: %3。</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>ジョブ %1 はプリンターまたはサーバーでキャンセルまたは中止されました。</translation>
     </message>

@@ -2137,6 +2137,10 @@
         <translation>%1 대기열 ‘%2’에는 드라이버가 없어 문서를 이어서 보내게 됩니다. 그래서 문서마다 별도의 작업으로 나누었습니다: %3.</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 ‘raw’에서는 대기열 ‘%2’이(가) 문서를 이어서 보내게 됩니다. 그래서 문서마다 별도의 작업으로 나누었습니다: %3.</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>작업 %1이(가) 프린터 또는 서버에서 취소되었거나 중단되었습니다.</translation>
     </message>

@@ -2138,6 +2138,10 @@
         <translation>%1 A fila “%2” não tem driver e teria enviado os documentos em um único fluxo. Por isso, cada um é um trabalho próprio: %3.</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Com “raw” a fila “%2” teria enviado os documentos em um único fluxo. Por isso, cada um é um trabalho próprio: %3.</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>O trabalho %1 foi cancelado ou abandonado na impressora ou em seu servidor.</translation>
     </message>

@@ -1305,6 +1305,10 @@
         <translation>%1队列“%2”没有驱动程序，会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1使用“raw”时，队列“%2”会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>作业 %1 已在打印机或其服务器上被取消或放弃。</translation>
     </message>

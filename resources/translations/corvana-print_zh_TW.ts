@@ -2137,6 +2137,10 @@
         <translation>%1佇列「%2」沒有驅動程式，會將文件連續送出。因此每份文件各為一個工作：%3。</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1使用「raw」時，佇列「%2」會將文件連續送出。因此每份文件各為一個工作：%3。</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>工作 %1 已在印表機或其伺服器上取消或放棄。</translation>
     </message>
