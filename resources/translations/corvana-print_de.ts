@@ -2074,6 +2074,10 @@
         <translation>An „%1“ als Auftrag %2 gesendet. Ob etwas auf seinen Seiten war, ist nicht bekannt.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>An „%1“ als Auftrag %2 gesendet. Diese Warteschlange gibt Dateien unverändert weiter: Was für den Drucker oder die Seiten eingestellt war, hatte dort keine Wirkung.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Auf „%1“ als Auftrag %2 gedruckt.</translation>
     </message>

@@ -2074,6 +2074,10 @@
         <translation>Enviado a «%1» como trabajo %2. No se sabe si había algo en sus páginas.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Enviado a «%1» como trabajo %2. Esa cola transmite los archivos sin cambios: lo que se había ajustado para la impresora o las páginas no tuvo efecto allí.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Impreso en «%1» como trabajo %2.</translation>
     </message>

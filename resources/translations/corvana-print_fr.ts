@@ -2074,6 +2074,10 @@
         <translation>Envoyé à « %1 » comme tâche %2. On ne sait pas si ses pages contenaient quelque chose.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Envoyé à « %1 » comme tâche %2. Cette file d’attente transmet les fichiers tels quels : ce qui était réglé pour l’imprimante ou les pages n’y a pas eu d’effet.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Imprimé sur « %1 » comme tâche %2.</translation>
     </message>

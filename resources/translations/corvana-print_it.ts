@@ -2074,6 +2074,10 @@
         <translation>Inviato a «%1» come lavoro %2. Non si sa se ci fosse qualcosa sulle sue pagine.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Inviato a «%1» come lavoro %2. Quella coda inoltra i file senza modifiche: ciò che era impostato per la stampante o le pagine non vi ha avuto effetto.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Stampato su «%1» come lavoro %2.</translation>
     </message>

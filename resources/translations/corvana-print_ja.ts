@@ -1409,6 +1409,10 @@
         <translation>「%1」にジョブ %2 として送信しました。ページに何か印刷されたかどうかはわかりません。</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>「%1」にジョブ %2 として送信しました。このキューはファイルをそのまま渡すため、プリンターやページの設定は反映されませんでした。</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>「%1」でジョブ %2 として印刷しました。</translation>
     </message>

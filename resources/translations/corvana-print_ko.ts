@@ -2073,6 +2073,10 @@
         <translation>‘%1’에 작업 %2(으)로 보냈습니다. 페이지에 내용이 있었는지는 알 수 없습니다.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>‘%1’에 작업 %2(으)로 보냈습니다. 이 대기열은 파일을 그대로 전달하므로 프린터나 페이지 설정이 적용되지 않았습니다.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>‘%1’에서 작업 %2(으)로 인쇄했습니다.</translation>
     </message>

@@ -2074,6 +2074,10 @@
         <translation>Enviado a “%1” como trabalho %2. Não se sabe se havia algo em suas páginas.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Enviado a “%1” como trabalho %2. Essa fila repassa os arquivos sem alterações: o que estava definido para a impressora ou as páginas não teve efeito ali.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Impresso em “%1” como trabalho %2.</translation>
     </message>

@@ -1409,6 +1409,10 @@
         <translation>已作为作业 %2 发送到“%1”。不知道页面上是否有内容。</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>已作为作业 %2 发送到“%1”。该队列会原样传送文件：为打印机或页面所做的设置在那里没有生效。</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>已在“%1”上作为作业 %2 打印。</translation>
     </message>

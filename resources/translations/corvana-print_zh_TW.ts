@@ -2073,6 +2073,10 @@
         <translation>已傳送到「%1」，工作編號為 %2。不知道頁面上是否有內容。</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>已傳送到「%1」，工作編號為 %2。該佇列會原封不動地轉送檔案：為印表機或頁面所做的設定在那裡沒有作用。</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>已在「%1」上列印，工作編號為 %2。</translation>
     </message>
