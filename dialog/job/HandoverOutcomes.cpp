@@ -8,6 +8,7 @@ namespace corvana {
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using Kind = JobOutcome::Kind;
 
 struct Texts
@@ -62,6 +63,9 @@ void HandoverOutcomes::see(const JobStatus &status)
 {
     m_reasons = status.reasons;
     m_pages = status.pages;
+    // CUPS leaves it with most jobs that are done, of which it says nothing.
+    if (status.state == IPP_JSTATE_COMPLETED)
+        m_reasons.removeAll(u"processing-to-stop-point"_s);
 }
 
 void HandoverOutcomes::see(const JobProgress &progress)
