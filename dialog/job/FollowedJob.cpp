@@ -1,5 +1,7 @@
 #include "dialog/job/FollowedJob.h"
 
+#include "dialog/printers/QueueRequests.h"
+
 namespace corvana {
 
 void FollowedJob::begin(ServerConnection &connection)
@@ -29,7 +31,7 @@ std::optional<JobStatus> FollowedJob::lookUp(ServerConnection &connection)
     m_outcomes.see(*status);
     if (const auto queue = movedTo(*status, m_queue)) {
         m_queue = *queue;
-        m_outcomes.moveTo(m_queue);
+        m_outcomes.moveTo(m_queue, fetchWhetherRaw(connection, m_queue));
     }
     return status;
 }

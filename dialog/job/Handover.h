@@ -53,6 +53,9 @@ struct ServerJobRequest
     int earlierDocuments = 0;
     /// How many of the documents were sent by earlier tries, as jobs of their own.
     int sentDocuments = 0;
+    /// Of documents that go past all filters, which is all that their formats say: whether they can
+    /// stand in a row in one stream.
+    bool canStandInARow = false;
     /// Whether nobody could count what comes out, so that there may be no page at all: such a job
     /// is "sent", never "printed".
     bool mayBeEmpty = false;

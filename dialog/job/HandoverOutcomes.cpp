@@ -8,6 +8,7 @@ namespace corvana {
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using Kind = JobOutcome::Kind;
 
 struct Texts
@@ -50,8 +51,9 @@ QString whereTheEarlierJobIs(const JobStatus &job)
 
 } // namespace
 
-void HandoverOutcomes::moveTo(const Printer &queue)
+void HandoverOutcomes::moveTo(const Printer &queue, std::optional<bool> isRaw)
 {
+    m_isRawNow = isRaw;
     if (m_movedFrom.isEmpty())
         m_movedFrom = queueOfInstance(m_printer.name);
     m_printer = queue;
@@ -61,6 +63,9 @@ void HandoverOutcomes::see(const JobStatus &status)
 {
     m_reasons = status.reasons;
     m_pages = status.pages;
+    // CUPS leaves it with most jobs that are done, of which it says nothing.
+    if (status.state == IPP_JSTATE_COMPLETED)
+        m_reasons.removeAll(u"processing-to-stop-point"_s);
 }
 
 void HandoverOutcomes::see(const JobProgress &progress)
@@ -274,7 +279,12 @@ JobOutcome HandoverOutcomes::inQueue(const JobProgress &progress) const
 
 JobOutcome HandoverOutcomes::ended(const JobStatus &status, bool canceledHere) const
 {
-    if (status.state == IPP_JSTATE_COMPLETED && m_mayBeEmpty)
+    if (status.state == IPP_JSTATE_COMPLETED && m_isRawNow.value_or(false))
+        return outcome(Kind::Sent,
+                       Texts::tr("Sent to “%1” as job %2. That queue passes files on as they are: "
+                                 "what was set for the printer or the pages had no effect there.")
+                           .arg(m_printer.name, name()));
+    if (status.state == IPP_JSTATE_COMPLETED && (m_mayBeEmpty || !m_isRawNow))
         return outcome(Kind::Sent,
                        Texts::tr("Sent to “%1” as job %2. Whether anything was on its pages is not "
                                  "known.")

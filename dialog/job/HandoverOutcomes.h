@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 
 #include "dialog/job/JobOutcome.h"
@@ -23,8 +25,10 @@ public:
     /// The number of the job at its server, once it has one.
     void setJob(int job) { m_job = job; }
     int job() const { return m_job; }
-    /// The job is in another queue by now: it is called by that from here on.
-    void moveTo(const Printer &queue);
+    /// The job is in another queue by now: it is called by that from here on. `isRaw`: that queue
+    /// passes documents on as they are, which nobody has laid out for it; null where it did not
+    /// say.
+    void moveTo(const Printer &queue, std::optional<bool> isRaw);
     /// What its server says of it, the last time.
     void see(const JobStatus &status);
     void see(const JobProgress &progress);
@@ -84,6 +88,7 @@ private:
 
     Printer m_printer;
     QString m_movedFrom; // the name of the queue; empty where it still is there
+    std::optional<bool> m_isRawNow = false; // after it was moved
     bool m_mayBeEmpty = false;
     int m_job = 0;
     QStringList m_reasons;

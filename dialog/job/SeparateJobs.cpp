@@ -94,10 +94,13 @@ private:
     {
         if (outcome.kind == Kind::Printed || outcome.kind == Kind::Sent)
             lookUpTheOthers(&outcome);
-        outcome.text =
-            Texts::tr("%1 The queue “%2” has no driver, and would have sent the documents "
-                      "in one stream. So each is a job of its own: %3.")
-                .arg(outcome.text, m_request.printer.name, names());
+        const QString form =
+            m_request.ppd->isWritten
+                ? Texts::tr("%1 The queue “%2” has no driver, and would have sent the documents "
+                            "in one stream. So each is a job of its own: %3.")
+                : Texts::tr("%1 With “raw” the queue “%2” would have sent the documents in one "
+                            "stream. So each is a job of its own: %3.");
+        outcome.text = form.arg(outcome.text, m_request.printer.name, names());
         // The last one may be asked for again, where it is not over.
         m_sent = outcome.kind == Kind::AlreadyThere ? 0 : m_sent - 1;
         return remembered(outcome);
@@ -154,6 +157,15 @@ private:
 };
 
 } // namespace
+
+bool canStandInARow(const QList<Document> &documents)
+{
+    return std::all_of(documents.cbegin(), documents.cend(), [&](const Document &document) {
+        return document.format == documents.constFirst().format &&
+               (document.format == "application/postscript"_L1 ||
+                document.format == "text/plain"_L1);
+    });
+}
 
 JobOutcome handOverSeparately(ServerWorker &worker, const ServerJobRequest &request,
                               const QList<Document> &documents,

@@ -4,6 +4,10 @@
 
 namespace corvana {
 
+/// Whether documents can stand in a row in one stream: a printer finds the end of most documents
+/// only by the end of the job, and one language does not follow another one.
+bool canStandInARow(const QList<Document> &documents);
+
 /// Hands documents to a print server as a job each, in their order, for a queue that would send the
 /// documents of one job in a single stream, where a printer finds no end of the first. The last job
 /// is followed as the request says; the others come before it in the queue, and are looked up when

@@ -175,19 +175,16 @@ void ServerJob::convertForQueue()
     send(documents, m_request.ticket);
 }
 
-// A queue without a driver hands everything to its device as it comes, in one stream, where a
-// printer finds the end of most documents only by the end of the job, and where one language does
-// not follow another one.
+// A queue without a driver hands everything to its device as it comes, in one stream, and so does
+// any queue with what goes past its filters.
 bool ServerJob::needsJobsOfTheirOwn() const
 {
     const QList<Document> &documents = m_request.documents;
-    const auto continues = [&](const Document &document) {
-        return document.format == documents.constFirst().format &&
-               (document.format == "application/postscript"_L1 ||
-                document.format == "text/plain"_L1);
-    };
-    return m_request.ppd->isWritten && documents.size() > 1 &&
-           !std::all_of(documents.cbegin(), documents.cend(), continues);
+    if (documents.size() < 2)
+        return false;
+    if (m_request.ppd->isWritten)
+        return !canStandInARow(documents);
+    return documents.constFirst().format == kRawFormat && !m_request.canStandInARow;
 }
 
 // What an IPP printer does not take becomes what it does take; several documents become one.

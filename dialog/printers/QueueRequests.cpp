@@ -312,6 +312,14 @@ std::optional<QList<JobOption>> fetchDefaults(ServerConnection &connection, cons
     return response ? std::optional(queueDefaults(response.get())) : std::nullopt;
 }
 
+std::optional<bool> fetchWhetherRaw(ServerConnection &connection, const Printer &printer)
+{
+    const ServerConnection::Aside aside(connection);
+    const IppMessage response =
+        askPrinter(connection, printer, {"printer-type", "printer-make-and-model"});
+    return response ? std::optional(isRawQueue(response.get())) : std::nullopt;
+}
+
 QByteArray resourceOf(const Printer &printer)
 {
     std::array<char, HTTP_MAX_URI> scheme{};

@@ -67,6 +67,10 @@ QueueDetails fetchPpdOnly(ServerConnection &connection, const Printer &printer);
 /// Errors: nothing; the connection's problem() says why.
 std::optional<QList<JobOption>> fetchDefaults(ServerConnection &connection, const Printer &printer);
 
+/// Whether a queue hands documents to its device as they are, see isRawQueue().
+/// Errors: nothing; the connection's problem is the one that it had before.
+std::optional<bool> fetchWhetherRaw(ServerConnection &connection, const Printer &printer);
+
 /// The path of a printer's requests at its server, not escaped: libcups does that.
 QByteArray resourceOf(const Printer &printer);
 

@@ -89,11 +89,22 @@ bool isCollated(const PpdSession &session, const QList<JobOption> &attributes)
 QList<JobOption> withCollation(QList<JobOption> attributes, int copies, const PpdSession &session)
 {
     const bool isAsked = names(attributes, kCollateAttribute);
-    if ((copies < 2 && !isAsked) || ppdOption(session.ppd(), kCollateOption))
-        return attributes;
     const bool collated = isCollated(session, attributes);
+    if (ppdOption(session.ppd(), kCollateOption)) {
+        // Filters take whatever else a queue says under this name for copies in sets.
+        if (!collated && names(attributes, kHandlingAttribute))
+            attributes += JobOption{kHandlingAttribute, kUncollated};
+        return attributes;
+    }
+    if (copies < 2 && !isAsked)
+        return attributes;
     if (!isAsked)
         attributes += JobOption{kCollateAttribute, u"true"_s};
+    // A default of the queue may have been answered under this name already.
+    attributes.removeIf([](const JobOption &one) {
+        return one == JobOption{kHandlingAttribute, kCollated} ||
+               one == JobOption{kHandlingAttribute, kUncollated};
+    });
     attributes += JobOption{kHandlingAttribute, collated ? kCollated : kUncollated};
     return attributes;
 }

@@ -35,8 +35,9 @@ int conflictsWith(ppd_file_t *ppd, const ppd_option_t *option, const ppd_choice_
 }
 
 // The filters of CUPS make copies collated themselves where the printer's "Collate" is not at
-// "True", or collides with another mark. To everything here such a printer has no such option: what
-// libcups looks up is not found, and the rest stays in place.
+// "True", or collides with another mark, or where they make all copies themselves. To everything
+// here such a printer has no such option: what libcups looks up is not found, and the rest stays in
+// place.
 void leaveCollatingToFilters(ppd_file_t *ppd, ppd_option_t *collate)
 {
     qCInfo(lcPpd) << "copies are collated by filters";
@@ -53,6 +54,8 @@ void leaveCollatingToFilters(ppd_file_t *ppd, ppd_option_t *collate)
 void collateByDefault(ppd_file_t *ppd)
 {
     ppd_option_t *collate = ppdOption(ppd, kCollateOption);
+    if (collate && ppd->manual_copies) // it gets each page once
+        return leaveCollatingToFilters(ppd, collate);
     const ppd_choice_t *on = ppdChoice(collate, u"True"_s);
     const ppd_choice_t *off = ppdChoice(collate, u"False"_s);
     if (!on && ppdChoice(collate, u"On"_s) && ppdChoice(collate, u"Off"_s))

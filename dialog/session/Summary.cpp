@@ -37,6 +37,22 @@ QString copiesText(int copies, bool collated)
                     : QCoreApplication::translate("Summary", "%1, not collated").arg(copies);
 }
 
+QString withRemark(const QString &value, const QString &remark)
+{
+    return remark.isEmpty() ? value
+                            : QCoreApplication::translate("Summary", "%1 (%2)").arg(value, remark);
+}
+
+// The order of several copies stands beside their number. Of a single one it is said once: by the
+// printer's own option, where it has one, else by the attribute.
+bool isCollationSaidElsewhere(const JobOption &attribute, int copies, const PpdSession &session)
+{
+    if (attribute.name == kCollateAttribute)
+        return copies > 1 || ppdOption(session.ppd(), kCollateOption);
+    return attribute.name == kHandlingAttribute &&
+           (attribute.value == kCollated || attribute.value == kUncollated);
+}
+
 QList<ppd_option_t *> optionsBesideGeneral(const PpdSession &session)
 {
     QList<ppd_option_t *> options = session.options();
@@ -202,8 +218,10 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
 {
     // The panels first: they restore and save on the way, which may change a mark.
     const QList<SummaryLine> panelLines = panels.summary();
-    QList<SummaryLine> lines{{QCoreApplication::translate("Summary", "Copies"),
-                              copiesText(copies, isCollated(session, attributes)), u"copies"_s}};
+    const QString order = copies > 1 ? remarks.value(kCollateAttribute) : QString();
+    QList<SummaryLine> lines{
+        {QCoreApplication::translate("Summary", "Copies"),
+         withRemark(copiesText(copies, isCollated(session, attributes)), order), u"copies"_s}};
     const QStringList told = keywordsOfPanels(panels);
     const QStringList general = generalOptionsOf(session, panels.jobValues());
     const QString color = colorOptionOf(session, panels.jobValues());
@@ -217,16 +235,11 @@ QList<SummaryLine> sessionSummary(const PpdSession &session, PanelHost &panels, 
             lines += line;
     }
     for (const JobOption &attribute : attributes) {
-        if (copies > 1 && attribute.name == kCollateAttribute)
-            continue; // stands beside the copies
+        if (isCollationSaidElsewhere(attribute, copies, session))
+            continue;
         const JobAttributeText text = textOfJobAttribute(attribute);
-        const QString remark = remarks.value(attribute.name);
-        lines += SummaryLine{
-            text.title,
-            remark.isEmpty()
-                ? text.value
-                : QCoreApplication::translate("Summary", "%1 (%2)").arg(text.value, remark),
-            attribute.name};
+        lines += SummaryLine{text.title, withRemark(text.value, remarks.value(attribute.name)),
+                             attribute.name};
     }
     lines += panelLines;
     // Hundreds of options that nobody touched would hide the few that somebody did.

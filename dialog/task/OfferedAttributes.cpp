@@ -11,6 +11,7 @@
 #include "dialog/session/TwoSided.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
+#include "dialog/task/Collation.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PassedOn.h"
@@ -125,8 +126,12 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
         one.place = Place::More;
     if (const QString by = lockOf(offer.name, settings, printer); !by.isNull())
         one.lockedBy = lockedText(by);
-    if (offer.name == kCollateAttribute)
-        one.hasEffect = settings.copies() > 1;
+    if (offer.name == kCollateAttribute) {
+        const bool isGiven = areCopiesAlwaysCollated(printer);
+        one.hasEffect = settings.copies() > 1 && !isGiven;
+        if (isGiven)
+            one.value = u"true"_s;
+    }
     if (offer.name == kNumberUpLayout)
         one.hasEffect = !isUsual(settings.attribute(kNumberUp), jobAttribute(kNumberUp)->usual);
     // A booklet has as many pages on a side as it has, and so has each page several times.

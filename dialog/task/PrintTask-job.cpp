@@ -8,12 +8,14 @@
 
 #include "dialog/job/FileJob.h"
 #include "dialog/job/PageChoice.h"
+#include "dialog/job/SeparateJobs.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/job/TextDocuments.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/session/TwoSided.h"
+#include "dialog/task/Collation.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/ServerJobRequests.h"
@@ -104,7 +106,8 @@ QList<JobOption> PrintTask::jobAttributes() const
     JobSettings settings = m_settings;
     if (m_run.held)
         settings.setAttribute(kJobHoldUntilAttribute, kHeldIndefinitely);
-    return withAnswersToDefaults(withPagesOfOrder(settings.attributes()), *m_opened);
+    return withAnswersToDefaults(
+        asCopiesComeOut(withPagesOfOrder(settings.attributes()), *m_opened), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the
@@ -282,6 +285,7 @@ void PrintTask::startJob(const JobTicket &ticket)
         ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
         request.documents = printedDocuments();
         if (m_settings.attributes().contains(kRaw) || !unknownDocument().isNull()) {
+            request.canStandInARow = canStandInARow(request.documents);
             for (Document &document : request.documents)
                 document.format = kRawFormat;
         }

@@ -10,6 +10,7 @@
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/AttributeEffects.h"
+#include "dialog/task/Collation.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SavedAsPdf.h"
@@ -237,8 +238,10 @@ QList<SummaryLine> PrintTask::summaryOfSettings()
         const bool isSaid = nameInOneCase(one.name, m_opened->session->ppd()) != one.name;
         return isSaid || !hasEffectOn(m_request.documents, one);
     });
+    QHash<QString, QString> remarks = remarksOn(attributes, *m_opened, m_request.documents);
+    remarks.insert(remarksOnCopies(m_settings.attributes(), *m_opened));
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(), attributes,
-                          remarksOn(attributes, *m_opened, m_request.documents));
+                          remarks);
 }
 
 bool PrintTask::passesFilesOn() const

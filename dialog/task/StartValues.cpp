@@ -16,6 +16,7 @@
 #include "dialog/session/RequestedOptions.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
+#include "dialog/task/Collation.h"
 #include "dialog/task/InstanceDraft.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -199,7 +200,9 @@ bool isInevitable(const JobOption &option, const OpenedPrinter &printer)
 QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attributes,
                           const OpenedPrinter &printer)
 {
-    // CUPS' filters take "Collate" and "collate" for the same, and servers do not: the job says the
+    if (isNameOfCollation(option.name))
+        return {collationUnderNameOf(option, attributes, *printer.session)};
+    // CUPS' filters take names in other letters for the same, and servers do not: the job says the
     // same under both names.
     if (const QString name = nameInOneCase(option.name, printer.session->ppd());
         name != option.name) {

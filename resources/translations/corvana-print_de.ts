@@ -2078,6 +2078,10 @@
         <translation>An „%1“ als Auftrag %2 gesendet. Ob etwas auf seinen Seiten war, ist nicht bekannt.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>An „%1“ als Auftrag %2 gesendet. Diese Warteschlange gibt Dateien unverändert weiter: Was für den Drucker oder die Seiten eingestellt war, hatte dort keine Wirkung.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Auf „%1“ als Auftrag %2 gedruckt.</translation>
     </message>
@@ -2140,6 +2144,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1 Die Warteschlange „%2“ hat keinen Treiber und hätte die Dokumente in einem Strom gesendet. Deshalb ist jedes ein eigener Auftrag: %3.</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Mit „raw“ hätte die Warteschlange „%2“ die Dokumente in einem Strom gesendet. Deshalb ist jedes ein eigener Auftrag: %3.</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4488,6 +4496,13 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>„%1“ wurde anderswo gespeichert, seit sie hier gewählt wurde, und bleibt, wie sie dort ist. Wählen Sie sie noch einmal, oder speichern Sie Ihre Einstellungen mit „Voreinstellung speichern …“.</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>beidseitige Kopien werden auf diesem Drucker immer sortiert</translation>
     </message>
 </context>
 </TS>

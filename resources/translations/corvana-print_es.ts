@@ -2078,6 +2078,10 @@
         <translation>Enviado a «%1» como trabajo %2. No se sabe si había algo en sus páginas.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Enviado a «%1» como trabajo %2. Esa cola transmite los archivos sin cambios: lo que se había ajustado para la impresora o las páginas no tuvo efecto allí.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Impreso en «%1» como trabajo %2.</translation>
     </message>
@@ -2140,6 +2144,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1 La cola «%2» no tiene controlador y habría enviado los documentos en un solo flujo. Por eso cada uno es un trabajo propio: %3.</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Con «raw» la cola «%2» habría enviado los documentos en un solo flujo. Por eso cada uno es un trabajo propio: %3.</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4488,6 +4496,13 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>“%1” se guardó en otro lugar después de seleccionarse aquí y se conserva como está. Selecciónelo de nuevo o guarde sus ajustes con “Guardar preajuste…”.</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>las copias a doble cara siempre se intercalan en esta impresora</translation>
     </message>
 </context>
 </TS>

@@ -2078,6 +2078,10 @@
         <translation>Envoyé à « %1 » comme tâche %2. On ne sait pas si ses pages contenaient quelque chose.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Envoyé à « %1 » comme tâche %2. Cette file d’attente transmet les fichiers tels quels : ce qui était réglé pour l’imprimante ou les pages n’y a pas eu d’effet.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Imprimé sur « %1 » comme tâche %2.</translation>
     </message>
@@ -2140,6 +2144,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1 La file d’attente « %2 » n’a pas de pilote et aurait envoyé les documents en un seul flux. Chacun est donc une tâche à part : %3.</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Avec « raw », la file d’attente « %2 » aurait envoyé les documents en un seul flux. Chacun est donc une tâche à part : %3.</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4488,6 +4496,13 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>« %1 » a été enregistré ailleurs depuis sa sélection ici, et reste tel quel. Sélectionnez-le à nouveau, ou enregistrez vos réglages avec « Enregistrer un préréglage… ».</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>les copies recto verso sont toujours assemblées sur cette imprimante</translation>
     </message>
 </context>
 </TS>

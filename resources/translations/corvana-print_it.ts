@@ -2078,6 +2078,10 @@
         <translation>Inviato a «%1» come lavoro %2. Non si sa se ci fosse qualcosa sulle sue pagine.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Inviato a «%1» come lavoro %2. Quella coda inoltra i file senza modifiche: ciò che era impostato per la stampante o le pagine non vi ha avuto effetto.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Stampato su «%1» come lavoro %2.</translation>
     </message>
@@ -2140,6 +2144,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1 La coda «%2» non ha un driver e avrebbe inviato i documenti in un unico flusso. Perciò ognuno è un lavoro a sé: %3.</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Con «raw» la coda «%2» avrebbe inviato i documenti in un unico flusso. Perciò ognuno è un lavoro a sé: %3.</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4488,6 +4496,13 @@ Per la riga di comando: %2</translation>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>“%1” è stata salvata altrove dopo la selezione qui e rimane com&apos;è. Selezionala di nuovo oppure salva le impostazioni con “Salva preimpostazione…”.</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>le copie fronte-retro vengono sempre fascicolate su questa stampante</translation>
     </message>
 </context>
 </TS>

@@ -1305,6 +1305,10 @@
         <translation>%1キュー「%2」にはドライバーがなく、文書が 1 つのデータとして続けて送られるため、文書ごとに別のジョブにしました: %3。</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1「raw」ではキュー「%2」が文書を 1 つのデータとして続けて送るため、文書ごとに別のジョブにしました: %3。</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>ジョブ %1 はプリンターまたはサーバーでキャンセルまたは中止されました。</translation>
     </message>
@@ -1403,6 +1407,10 @@
     <message>
         <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
         <translation>「%1」にジョブ %2 として送信しました。ページに何か印刷されたかどうかはわかりません。</translation>
+    </message>
+    <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>「%1」にジョブ %2 として送信しました。このキューはファイルをそのまま渡すため、プリンターやページの設定は反映されませんでした。</translation>
     </message>
     <message>
         <source>Printed on “%1” as job %2.</source>
@@ -4486,6 +4494,13 @@ For the command line: %2</source>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>“%1”はここで選択された後に別の場所で保存されたため、そのまま残ります。もう一度選択するか、“プリセットを保存…”で設定を保存してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>このプリンターでは両面印刷の部数は常に部単位で印刷されます</translation>
     </message>
 </context>
 </TS>

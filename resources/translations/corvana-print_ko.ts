@@ -2077,6 +2077,10 @@
         <translation>‘%1’에 작업 %2(으)로 보냈습니다. 페이지에 내용이 있었는지는 알 수 없습니다.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>‘%1’에 작업 %2(으)로 보냈습니다. 이 대기열은 파일을 그대로 전달하므로 프린터나 페이지 설정이 적용되지 않았습니다.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>‘%1’에서 작업 %2(으)로 인쇄했습니다.</translation>
     </message>
@@ -2139,6 +2143,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1 대기열 ‘%2’에는 드라이버가 없어 문서를 이어서 보내게 됩니다. 그래서 문서마다 별도의 작업으로 나누었습니다: %3.</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 ‘raw’에서는 대기열 ‘%2’이(가) 문서를 이어서 보내게 됩니다. 그래서 문서마다 별도의 작업으로 나누었습니다: %3.</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4486,6 +4494,13 @@ For the command line: %2</source>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>“%1”은(는) 여기에서 선택한 후 다른 곳에서 저장되어 그대로 유지됩니다. 다시 선택하거나 “사전 설정 저장…”으로 설정을 저장하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>이 프린터에서 양면 인쇄는 항상 한 부씩 인쇄됩니다</translation>
     </message>
 </context>
 </TS>

@@ -2078,6 +2078,10 @@
         <translation>Enviado a “%1” como trabalho %2. Não se sabe se havia algo em suas páginas.</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>Enviado a “%1” como trabalho %2. Essa fila repassa os arquivos sem alterações: o que estava definido para a impressora ou as páginas não teve efeito ali.</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>Impresso em “%1” como trabalho %2.</translation>
     </message>
@@ -2140,6 +2144,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1 A fila “%2” não tem driver e teria enviado os documentos em um único fluxo. Por isso, cada um é um trabalho próprio: %3.</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1 Com “raw” a fila “%2” teria enviado os documentos em um único fluxo. Por isso, cada um é um trabalho próprio: %3.</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4488,6 +4496,13 @@ Na linha de comando: %2</translation>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>“%1” foi salva em outro lugar depois de ser selecionada aqui e permanece como está. Selecione-a novamente ou salve suas configurações com “Salvar predefinição…”.</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>cópias em frente e verso são sempre agrupadas nesta impressora</translation>
     </message>
 </context>
 </TS>

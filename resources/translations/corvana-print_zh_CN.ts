@@ -1305,6 +1305,10 @@
         <translation>%1队列“%2”没有驱动程序，会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
     </message>
     <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1使用“raw”时，队列“%2”会将文档连续发送。因此每个文档是一个单独的作业：%3。</translation>
+    </message>
+    <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
         <translation>作业 %1 已在打印机或其服务器上被取消或放弃。</translation>
     </message>
@@ -1403,6 +1407,10 @@
     <message>
         <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
         <translation>已作为作业 %2 发送到“%1”。不知道页面上是否有内容。</translation>
+    </message>
+    <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>已作为作业 %2 发送到“%1”。该队列会原样传送文件：为打印机或页面所做的设置在那里没有生效。</translation>
     </message>
     <message>
         <source>Printed on “%1” as job %2.</source>
@@ -4486,6 +4494,13 @@ For the command line: %2</source>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>“%1”在此处选择后已在别处保存，将保持原样。请重新选择它，或使用“保存预设…”保存您的设置。</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>在此打印机上，双面打印的多份总是逐份打印</translation>
     </message>
 </context>
 </TS>

@@ -2077,6 +2077,10 @@
         <translation>已傳送到「%1」，工作編號為 %2。不知道頁面上是否有內容。</translation>
     </message>
     <message>
+        <source>Sent to “%1” as job %2. That queue passes files on as they are: what was set for the printer or the pages had no effect there.</source>
+        <translation>已傳送到「%1」，工作編號為 %2。該佇列會原封不動地轉送檔案：為印表機或頁面所做的設定在那裡沒有作用。</translation>
+    </message>
+    <message>
         <source>Printed on “%1” as job %2.</source>
         <translation>已在「%1」上列印，工作編號為 %2。</translation>
     </message>
@@ -2139,6 +2143,10 @@
     <message>
         <source>%1 The queue “%2” has no driver, and would have sent the documents in one stream. So each is a job of its own: %3.</source>
         <translation>%1佇列「%2」沒有驅動程式，會將文件連續送出。因此每份文件各為一個工作：%3。</translation>
+    </message>
+    <message>
+        <source>%1 With “raw” the queue “%2” would have sent the documents in one stream. So each is a job of its own: %3.</source>
+        <translation>%1使用「raw」時，佇列「%2」會將文件連續送出。因此每份文件各為一個工作：%3。</translation>
     </message>
     <message>
         <source>Job %1 was canceled or given up at the printer or its server.</source>
@@ -4486,6 +4494,13 @@ For the command line: %2</source>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
         <translation>「%1」在此處選擇後已在其他地方儲存，將保持原樣。請重新選擇它，或使用「儲存預設集…」儲存您的設定。</translation>
+    </message>
+</context>
+<context>
+    <name>Collation</name>
+    <message>
+        <source>two-sided copies are always collated on this printer</source>
+        <translation>在此印表機上，雙面列印的多份一律自動分頁</translation>
     </message>
 </context>
 </TS>

@@ -213,6 +213,39 @@ private Q_SLOTS:
         QCOMPARE(ours.environment.value(u"CONTENT_TYPE"_s),
                  theirs.environment.value(u"CONTENT_TYPE"_s));
     }
+
+    // A printer finds the end of most documents by the end of the job only.
+    void severalThatGoPastTheFiltersAreAJobEach_data()
+    {
+        QTest::addColumn<QStringList>("documents");
+        QTest::addColumn<int>("jobs");
+        QTest::newRow("what cannot stand in a row") << QStringList{kThreePages, kText} << 2;
+        QTest::newRow("what can") << QStringList{kText, kText} << 1;
+    }
+    void severalThatGoPastTheFiltersAreAJobEach()
+    {
+        QFETCH(QStringList, documents);
+        QFETCH(int, jobs);
+        m_cups->addQueue(u"office"_s, kPpd);
+        const RunEnd end =
+            m_runner->run(QStringList{u"-d"_s, u"office"_s, u"-o"_s, u"raw"_s} + documents);
+        QVERIFY2(end.status == 0, end.text().constData());
+        const QList<KnownJob> known = m_cups->jobs(u"office"_s);
+        QCOMPARE(known.size(), jobs);
+        const QString words = u"With “raw” the queue “office” would have sent the documents in one "
+                              "stream. So each is a job of its own: office-1, office-2."_s;
+        QVERIFY2(end.out.contains(words) == (jobs > 1), end.text().constData());
+        // What stands in a row comes in one stream.
+        QList<QByteArray> streams;
+        for (const QString &document : documents)
+            streams += readAll(document);
+        if (jobs == 1)
+            streams = {streams.join()};
+        QList<QByteArray> arrived;
+        for (const CapturedJob &job : m_cups->capture(u"office"_s).jobs())
+            arrived += job.data;
+        QVERIFY(arrived == streams);
+    }
 };
 
 QTEST_GUILESS_MAIN(DefaultStreamsTest)

@@ -86,6 +86,70 @@ const QList<Wish> &wishes()
     return all;
 }
 
+/// A queue that adds an order of copies to each job, and what a job says itself.
+struct Added
+{
+    const char *name;
+    QString byQueue; ///< a default, as lpadmin takes it
+    QString option;  ///< empty: nobody says anything
+    int copies;
+    bool isCollated;
+};
+
+const QString kSetsByIpp =
+    u"multiple-document-handling-default=separate-documents-collated-copies"_s;
+const QString kPagesByIpp =
+    u"multiple-document-handling-default=separate-documents-uncollated-copies"_s;
+
+const QList<Added> kAdded{
+    {"in sets, and nobody objects", u"collate-default=true"_s, {}, 2, true},
+    {"in sets, not wanted", u"collate-default=true"_s, u"collate=false"_s, 2, false},
+    {"in sets, not wanted by the option", u"collate-default=true"_s, u"Collate=False"_s, 2, false},
+    {"by pages", u"collate-default=false"_s, {}, 2, false},
+    {"by pages, not wanted", u"collate-default=false"_s, u"collate=true"_s, 2, true},
+    {"by pages, one copy", u"collate-default=false"_s, {}, 1, false},
+    {"by pages, not wanted of one copy", u"collate-default=false"_s, u"collate=true"_s, 1, true},
+    {"in sets, in words of IPP", kSetsByIpp, {}, 2, true},
+    {"in sets, in words of IPP, not wanted", kSetsByIpp, u"collate=false"_s, 2, false},
+    {"by pages, in words of IPP", kPagesByIpp, {}, 2, false},
+    {"by pages, in words of IPP, not wanted", kPagesByIpp, u"collate=true"_s, 2, true},
+    {"in words that are not known", u"multiple-document-handling-default=single-document"_s,
+     u"collate=false"_s, 2, false},
+};
+
+/// Two-sided copies of a printer that makes none.
+struct Forced
+{
+    const char *name;
+    QStringList options;
+    QStringList documents;
+    QString copies; ///< what the summary says
+    QString sides;  ///< with the copies, which the filters make
+};
+
+const QList<Forced> kForced{
+    {"on both sides",
+     {u"sides=two-sided-long-edge"_s, u"collate=false"_s},
+     {u"three"_s},
+     u"2, collated (two-sided copies are always collated on this printer)"_s,
+     u"three 1, three 2, three 3, , three 1, three 2, three 3"_s},
+    {"several on both sides",
+     {u"sides=two-sided-long-edge"_s, u"collate=false"_s},
+     {u"three"_s, u"one"_s},
+     u"2, collated (two-sided copies are always collated on this printer)"_s,
+     u"three 1, three 2, three 3, one 1, three 1, three 2, three 3, one 1"_s},
+    {"as usual",
+     {u"sides=two-sided-long-edge"_s},
+     {u"three"_s},
+     u"2, collated"_s,
+     u"three 1, three 2, three 3, , three 1, three 2, three 3"_s},
+    {"on one side",
+     {u"collate=false"_s},
+     {u"three"_s},
+     u"2, not collated"_s,
+     u"three 1, three 1, three 2, three 2, three 3, three 3"_s},
+};
+
 QByteArray threePages()
 {
     QByteArray text = "%!PS-Adobe-3.0\n%%Pages: 3\n%%EndComments\n";
@@ -133,7 +197,7 @@ private:
             QCOMPARE(printedSides(data), once + once + once);
         } else if (wish.takes == Takes::PostScript) {
             QCOMPARE(data.count("\n%%Page: "), qsizetype(3));
-            QCOMPARE(data.count("#copies 3"), qsizetype(1));
+            QCOMPARE(data.count("%RBINumCopies: 3\n"), qsizetype(1));
         } else {
             QVERIFY(data.contains("%%PDFTOPDFNumCopies : 3\n"));
             QVERIFY(data.contains(wish.isCollated ? "%%PDFTOPDFCollate : true\n"
@@ -197,6 +261,67 @@ private Q_SLOTS:
         QVERIFY2(intoFile.status == 0, intoFile.text().constData());
         QCOMPARE(intoFile.out.contains(u", not collated"_s), !wish.isCollated);
         verifyCopies(wish, readAll(file));
+    }
+
+    // The job says one order under all of its names, and the summary says it once.
+    void whatAQueueAddsIsAnswered_data() { addRows(kAdded); }
+    void whatAQueueAddsIsAnswered()
+    {
+        const Added &added = currentRow(kAdded);
+        const QByteArray text = readAll(kPpd) + kExcluded.toByteArray().replace(
+                                                    "*DefaultDisk: False", "*DefaultDisk: True");
+        QueueSettings settings;
+        settings.options = QStringList{added.byQueue};
+        m_cups->addQueue(kQueue, write(u"office.ppd"_s, text), settings);
+        QStringList arguments{u"-n"_s, QString::number(added.copies), u"--summary"_s};
+        if (!added.option.isEmpty())
+            arguments += {u"-o"_s, added.option};
+        const RunEnd run =
+            m_runner->run(QStringList{u"-d"_s, kQueue} + arguments +
+                          QStringList{write(u"three.pdf"_s, numberedPdf("three", 3))});
+        QVERIFY2(run.status == 0, run.text().constData());
+        const QStringList lines = run.out.split(u'\n');
+        const QString order = added.isCollated ? u"collated"_s : u"not collated"_s;
+        QVERIFY2(lines.contains(added.copies > 1 ? u"Copies: 2, "_s + order : u"Copies: 1"_s),
+                 run.text().constData());
+        const bool saysCollate = added.copies == 1 && !added.isCollated;
+        QCOMPARE(lines.count(u"Collate: Off"_s), saysCollate ? 1 : 0);
+        QCOMPARE(lines.filter(u"Collate: "_s).size(), saysCollate ? 1 : 0);
+        QVERIFY2(!run.out.contains(u"multiple-document-handling: false"_s), run.text().constData());
+
+        // Of a single copy the filters say nothing else.
+        const QByteArray data = m_cups->capture(kQueue).jobs().value(0).data;
+        const bool isOn = added.copies > 1 && added.isCollated;
+        QCOMPARE(data.count("Feature: *Collate True"), qsizetype(isOn));
+        QCOMPARE(data.count("Feature: *Collate False"), qsizetype(!isOn));
+        QCOMPARE(data.count("\n%%Page: "), qsizetype(3));
+        QCOMPARE(data.count("%RBINumCopies: 2\n"), qsizetype(added.copies > 1));
+    }
+
+    void whatFiltersForceIsSaid_data() { addRows(kForced); }
+    void whatFiltersForceIsSaid()
+    {
+        const Forced &forced = currentRow(kForced);
+        const QByteArray text =
+            readAll(kPpd).replace("*cupsManualCopies: False", "*cupsManualCopies: True");
+        m_cups->addQueue(kQueue, write(u"office.ppd"_s, text));
+        write(u"three.pdf"_s, numberedPdf("three", 3));
+        write(u"one.pdf"_s, numberedPdf("one", 1));
+        QStringList arguments{u"-d"_s, kQueue, u"-n"_s, u"2"_s, u"--summary"_s};
+        for (const QString &option : forced.options)
+            arguments += {u"-o"_s, option};
+        for (const QString &document : forced.documents)
+            arguments += m_runner->filePath(document + u".pdf"_s);
+        const RunEnd run = m_runner->run(arguments);
+        QVERIFY2(run.status == 0, run.text().constData());
+        QVERIFY2(run.out.split(u'\n').contains(u"Copies: "_s + forced.copies),
+                 run.text().constData());
+        QStringList sides;
+        for (const CapturedJob &job : m_cups->capture(kQueue).jobs())
+            sides += printedSides(job.data);
+        while (!sides.isEmpty() && sides.constLast().isEmpty())
+            sides.removeLast();
+        QCOMPARE(sides.join(u", "_s), forced.sides);
     }
 };
 

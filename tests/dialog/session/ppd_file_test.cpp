@@ -91,6 +91,16 @@ private Q_SLOTS:
         QVERIFY(isCollated(*session, {}));
     }
 
+    // It gets each page as often as it is to come out.
+    void copiesAreCollatedByFiltersThatMakeThem()
+    {
+        const PpdBuilder printer =
+            PpdBuilder()
+                .option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}})
+                .line("*cupsManualCopies: True");
+        QVERIFY(!ppdOption(openedPpd(printer.text()).get(), u"Collate"_s));
+    }
+
     void aPrinterCollatesItselfWithAllThatItNeeds()
     {
         PpdBuilder printer =

@@ -210,6 +210,11 @@ private Q_SLOTS:
         row("something else in other letters", u"Number-Up=2"_s, u"number-up=4"_s,
             u"number-up=4 Number-Up=4"_s);
         row("taken back in other letters", u"Collate=False"_s, {}, u"Collate=true"_s);
+        row("in words of IPP", u"multiple-document-handling=separate-documents-uncollated-copies"_s,
+            {}, u"multiple-document-handling=separate-documents-collated-copies"_s);
+        row("in words of IPP, and meant",
+            u"multiple-document-handling=separate-documents-collated-copies"_s, u"collate=false"_s,
+            u"collate=false multiple-document-handling=separate-documents-uncollated-copies"_s);
         row("what nothing can be said against", u"Sparkle=bright"_s, {}, u"Sparkle=bright"_s);
         row("a choice of the PPD", u"Media=Card"_s, {}, {});
         row("what is a choice of the PPD", u"sides=two-sided-long-edge"_s, {}, {});
@@ -226,6 +231,26 @@ private Q_SLOTS:
         for (const JobOption &option : withAnswersToDefaults(parseOptions({ofJob}), *m_printer))
             answered += u"%1=%2"_s.arg(option.name, option.value);
         QCOMPARE(answered.join(u' '), sent);
+    }
+
+    // The printer's own option is what the user changes; no name of it says otherwise.
+    void theOrderOfCopiesIsThatOfThePrintersOwnOption()
+    {
+        m_fetched.ppd = ppdOfFile(
+            writeFile(m_home->filePath(u"c.ppd"_s),
+                      PpdBuilder()
+                          .option("Collate", "Collate", "False", {{"True", "On"}, {"False", "Off"}})
+                          .text()));
+        start();
+        m_printer->fetched.defaults = {{u"collate"_s, u"true"_s},
+                                       {u"multiple-document-handling"_s, u"single-document"_s}};
+        QCOMPARE(withAnswersToDefaults({}, *m_printer),
+                 parseOptions({u"collate=true multiple-document-handling="
+                               "separate-documents-collated-copies"_s}));
+        m_printer->session->change(u"Collate"_s, u"False"_s, PpdSession::Origin::Dialog);
+        QCOMPARE(withAnswersToDefaults({}, *m_printer),
+                 parseOptions({u"collate=false multiple-document-handling="
+                               "separate-documents-uncollated-copies"_s}));
     }
 
     // CUPS makes a choice of it, which the user can change; then the attribute must not say

@@ -354,6 +354,30 @@ private Q_SLOTS:
         QVERIFY(!m_scene->arguments().contains("collate=false"));
     }
 
+    // Filters that make the copies put none on the back of another.
+    void copiesOnBothSidesAreCollatedWhereFiltersMakeThem()
+    {
+        PpdBuilder ppd = plainPrinter().option("Duplex", "Duplex", "None",
+                                               {{"None", "Off"}, {"DuplexNoTumble", "On"}});
+        PrintTask &hardware = open(u"copies=2 collate=false sides=two-sided-long-edge"_s, ppd);
+        QCOMPARE(*find(hardware.attributes(), u"collate"_s),
+                 (OfferedAttribute{u"collate"_s, u"false"_s, Place::BesideCopies, true, false}));
+        QCOMPARE(summary(u"Copies"_s), QStringList{u"2, not collated"_s});
+
+        ppd.line("*cupsManualCopies: True");
+        PrintTask &filters = open(u"copies=2 collate=false sides=two-sided-long-edge"_s, ppd);
+        const OfferedAttribute given = *find(filters.attributes(), u"collate"_s);
+        QCOMPARE(given.value, u"true"_s);
+        QVERIFY(!given.hasEffect);
+        QVERIFY(summary(u"Copies"_s).value(0).startsWith(u"2, collated ("_s));
+        QVERIFY(prints("collate=true"));
+        QVERIFY(!m_scene->arguments().contains("collate=false"));
+
+        PrintTask &oneSided = open(u"copies=2 collate=false"_s, ppd);
+        QCOMPARE(find(oneSided.attributes(), u"collate"_s)->value, u"false"_s);
+        QCOMPARE(summary(u"Copies"_s), QStringList{u"2, not collated"_s});
+    }
+
     // Of a printer that collates only with a disk, and has none, the filters' collation is offered.
     void theFiltersCollationIsOfferedWhereThePrinterHasNone()
     {
