@@ -100,6 +100,9 @@ void logForTerminals(bool unattended)
             const bool isRemark = type != QtCriticalMsg && type != QtFatalMsg;
             if (looksForPlatform && isRemark && isOfPlatforms)
                 return;
+            // Qt says it of each font that it tries a text with; what no font has is said by us.
+            if (text.trimmed().startsWith("OpenType support missing"_L1))
+                return;
             if (!ignoresMissingRuntimeFolder ||
                 !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set"_L1))
                 others(type, context, terminalText(text));

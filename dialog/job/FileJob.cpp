@@ -20,7 +20,7 @@ void FileJob::start()
     if (!problem.isEmpty())
         return fail(problem);
     report({JobProgress::Stage::Printing});
-    if (hasDocumentToLayOut(m_request.documents, m_request.ticket))
+    if (hasTextToLayOut(m_request.documents, m_request.ticket.options))
         m_texts->start();
     else
         convert({});

@@ -77,6 +77,14 @@ namesOfDocumentsAndPrintersAreQuotedThatWay() {
     expect_said '<U+001B>[2Junknown'
 }
 
+# Qt complains of each font that it tries such a text with.
+fontsThatLackAScriptAreNotComplainedOf() {
+    document=$work/devanagari.txt
+    printf 'नमस्ते दुनिया\n' >"$document"
+    print
+    ! grep -q OpenType "$work/err" || fail "$(grep -c OpenType "$work/err") lines about fonts"
+}
+
 whatIsLoggedIsForATerminalToo() {
     attacking_ppd
     bundles=$work/$'bundles\e[2J'

@@ -42,6 +42,8 @@ constexpr Row kRows[] = {
     {"ReleaseCode", true},
     {"Release Code", true},
     {"KeyCode", true},
+    {"Department ID", true},
+    {"DepartmentCode", true},
     {"Passwort", true},
     {"Kennwort", true},
     {"SecretKey", true},
@@ -69,6 +71,7 @@ constexpr Row kRows[] = {
     {"Codice accesso utente", true},
 
     {"Spinning", false},
+    {"Department", false},
     {"SPINNING", false},
     {"KeyColor", false},
     {"CodePage", false},
