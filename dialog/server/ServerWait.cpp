@@ -17,13 +17,13 @@ constexpr double kLookAround = 0.2;
 // is at its end. On an encrypted one there may be tickets and new keys, which are no answer.
 bool hasAnswered(http_t *connection)
 {
-    constexpr qsizetype kPlaceOfStatus = sizeof "HTTP/1.1 " - 1;
-    std::array<char, kPlaceOfStatus + 1> head{};
+    constexpr ssize_t kLength = sizeof "HTTP/1.1 1" - 1;
+    std::array<char, kLength> head{};
     if (httpIsEncrypted(connection))
         return false;
     const ssize_t length =
         ::recv(httpGetFd(connection), head.data(), head.size(), MSG_PEEK | MSG_DONTWAIT);
-    return length == 0 || (length == head.size() && head.back() != '1');
+    return length == 0 || (length == kLength && head.back() != '1');
 }
 
 // libcups waits for a connection while an int is 0.

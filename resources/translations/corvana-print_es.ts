@@ -1506,7 +1506,7 @@
     </message>
     <message>
         <source>“%1” is always there, and is no name of a preset.</source>
-        <translation>“%1” está siempre ahí y no puede ser el nombre de un preajuste.</translation>
+        <translation>«%1» está siempre ahí y no puede ser el nombre de un preajuste.</translation>
     </message>
 </context>
 <context>
@@ -4495,7 +4495,7 @@ En la línea de órdenes: %2</translation>
     <name>PresetReplacing</name>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
-        <translation>“%1” se guardó en otro lugar después de seleccionarse aquí y se conserva como está. Selecciónelo de nuevo o guarde sus ajustes con “Guardar preajuste…”.</translation>
+        <translation>«%1» se guardó en otro lugar después de seleccionarse aquí y se conserva como está. Selecciónelo de nuevo o guarde sus ajustes con «Guardar preajuste…».</translation>
     </message>
 </context>
 <context>

@@ -1506,7 +1506,7 @@
     </message>
     <message>
         <source>“%1” is always there, and is no name of a preset.</source>
-        <translation>“%1” è sempre presente e non può essere il nome di una preimpostazione.</translation>
+        <translation>«%1» è sempre presente e non può essere il nome di una preimpostazione.</translation>
     </message>
 </context>
 <context>
@@ -4495,7 +4495,7 @@ Per la riga di comando: %2</translation>
     <name>PresetReplacing</name>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
-        <translation>“%1” è stata salvata altrove dopo la selezione qui e rimane com&apos;è. Selezionala di nuovo oppure salva le impostazioni con “Salva preimpostazione…”.</translation>
+        <translation>«%1» è stata salvata altrove dopo la selezione qui e rimane com&apos;è. Selezionala di nuovo oppure salva le impostazioni con «Salva preimpostazione…».</translation>
     </message>
 </context>
 <context>

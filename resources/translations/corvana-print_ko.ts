@@ -1505,7 +1505,7 @@
     </message>
     <message>
         <source>“%1” is always there, and is no name of a preset.</source>
-        <translation>“%1”은(는) 항상 있으므로 사전 설정의 이름으로 사용할 수 없습니다.</translation>
+        <translation>‘%1’은(는) 항상 있으므로 사전 설정의 이름으로 사용할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -4493,7 +4493,7 @@ For the command line: %2</source>
     <name>PresetReplacing</name>
     <message>
         <source>“%1” was saved elsewhere since it was selected here, and stays as it is there. Select it again, or keep your settings with “Save Preset…”.</source>
-        <translation>“%1”은(는) 여기에서 선택한 후 다른 곳에서 저장되어 그대로 유지됩니다. 다시 선택하거나 “사전 설정 저장…”으로 설정을 저장하십시오.</translation>
+        <translation>‘%1’은(는) 여기에서 선택한 후 다른 곳에서 저장되어 그대로 유지됩니다. 다시 선택하거나 ‘사전 설정 저장…’으로 설정을 저장하십시오.</translation>
     </message>
 </context>
 <context>
