@@ -20,7 +20,7 @@ void FileJob::start()
     if (!problem.isEmpty())
         return fail(problem);
     report({JobProgress::Stage::Printing});
-    if (hasTextToLayOut(m_request.documents, m_request.ticket.options))
+    if (hasDocumentToLayOut(m_request.documents, m_request.ticket))
         m_texts->start();
     else
         convert({});

@@ -1,6 +1,7 @@
 #include "dialog/job/FilterPlan.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 
 #include "dialog/job/DocumentCopies.h"
@@ -325,17 +326,24 @@ bool isPicture(const Document &document)
 
 bool mustBecomePdf(const Document &document, const QList<JobOption> &options)
 {
-    if (document.format == "application/postscript"_L1)
-        return true;
-    const auto asksForPages = [](const JobOption &option) {
-        const auto is = [&](QLatin1StringView name, QLatin1StringView usual) {
-            return option.name == name && option.value != usual;
+    const bool isPostScript = document.format == "application/postscript"_L1;
+    if (!isPicture(document) && !isPostScript)
+        return false;
+    const auto asksForPages = [&](const JobOption &option) {
+        const auto is = [&](QLatin1StringView name,
+                            std::initializer_list<QLatin1StringView> usual) {
+            return option.name == name &&
+                   std::find(usual.begin(), usual.end(), option.value) == usual.end();
         };
-        return is("number-up"_L1, "1"_L1) || is("page-border"_L1, "none"_L1) ||
-               is("mirror"_L1, "false"_L1);
+        const bool byAny = is("number-up"_L1, {"1"_L1}) || is("page-border"_L1, {"none"_L1});
+        const bool byPicture = is("mirror"_L1, {"false"_L1});
+        const bool byPostScript = is("orientation-requested"_L1, {"3"_L1}) ||
+                                  is("print-scaling"_L1, {"auto"_L1, "none"_L1}) ||
+                                  is("fit-to-page"_L1, {"false"_L1});
+        return byAny || (isPostScript ? byPostScript : byPicture);
     };
-    return isPicture(document) && (!pageChoiceOf(options).isAll() ||
-                                   std::any_of(options.cbegin(), options.cend(), asksForPages));
+    return !pageChoiceOf(options).isAll() ||
+           std::any_of(options.cbegin(), options.cend(), asksForPages);
 }
 
 bool shapesDocuments(const QList<JobOption> &options)

@@ -106,9 +106,7 @@ QList<JobOption> optionsAfterLayout(const QList<JobOption> &options);
 /// filter lays out whatever is printed. What the chain makes of a picture at once has neither
 /// several pages on a side nor borders nor chosen pages, or has them from a filter behind it, where
 /// the printer takes PostScript, which also mirrors what is mirrored already. PostScript for such a
-/// printer always has to: that filter makes no page smaller that is too large for the paper, and
-/// puts others into a corner of it, unless it is asked for something; then it scales, turns and
-/// fills up in ways of its own.
+/// printer is laid out by that filter, which scales, turns and fills up in ways of its own.
 bool mustBecomePdf(const Document &document, const QList<JobOption> &options);
 
 /// Whether a document is a picture.

@@ -22,7 +22,6 @@ using namespace Qt::StringLiterals;
 
 constexpr auto kPdf = "application/pdf"_L1;
 constexpr auto kRaster = "image/pwg-raster"_L1;
-constexpr auto kPostScript = "application/postscript"_L1;
 
 // What the filter chain does to the pages when it makes the printer's own data.
 bool isAppliedByChain(const JobOption &option)
@@ -86,10 +85,10 @@ bool ServerJob::laysOutTexts() const
     const bool isRaw = m_request.printer.origin == PrinterOrigin::Queue && m_request.ppd->isWritten;
     const bool takesPages =
         formats.isEmpty() || formats.contains(kPdf) || formats.contains(kRaster);
-    return !isRaw && takesPages && hasTextToLayOut(m_request.documents, m_request.ticket.options);
+    return !isRaw && takesPages && hasDocumentToLayOut(m_request.documents, m_request.ticket);
 }
 
-// Texts are made into pages before anything else, with fonts that have their
+// Texts (and some PostScript) are made into pages before anything else, with fonts that have their
 // characters: what a print server has is not known, and its filter prints what it lacks as boxes.
 void ServerJob::layOutTexts()
 {
@@ -282,17 +281,9 @@ void ServerJob::runConversion(const ConversionRequest &request, QLatin1StringVie
 
 void ServerJob::converted(const QString &problem, bool isPicked)
 {
-    const bool drawsNothing = isPicked && m_conversion->cameOutEmpty();
     m_conversion.release()->deleteLater();
     if (m_canceled)
         return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
-    // A program without a page has nothing to lay out; a printer may be set up by it.
-    const Document &document = m_request.documents.at(isPicked ? m_pickedOf : 0);
-    if (!problem.isEmpty() && drawsNothing && document.format == kPostScript) {
-        m_picked += document;
-        ++m_pickedOf;
-        return pickNext();
-    }
     if (!problem.isEmpty())
         return finish({JobOutcome::Kind::Failed, 0, problem});
     if (isPicked) {

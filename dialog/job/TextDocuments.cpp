@@ -15,7 +15,14 @@ namespace {
 
 constexpr auto kText = "text/plain"_L1;
 constexpr auto kPdf = "application/pdf"_L1;
+constexpr auto kPostScript = "application/postscript"_L1;
 constexpr auto kRaw = "raw"_L1;
+
+bool isToLayOut(const Document &document, const JobTicket &ticket)
+{
+    return isTextToLayOut(document, ticket.options) ||
+           (ticket.postScriptAsPdf && document.format == kPostScript);
+}
 
 } // namespace
 
@@ -31,6 +38,12 @@ bool hasTextToLayOut(const QList<Document> &documents, const QList<JobOption> &o
 {
     return std::any_of(documents.cbegin(), documents.cend(),
                        [&](const Document &document) { return isTextToLayOut(document, options); });
+}
+
+bool hasDocumentToLayOut(const QList<Document> &documents, const JobTicket &ticket)
+{
+    return std::any_of(documents.cbegin(), documents.cend(),
+                       [&](const Document &document) { return isToLayOut(document, ticket); });
 }
 
 TextDocuments::TextDocuments(const QList<Document> &documents, const JobTicket &ticket,
@@ -51,11 +64,13 @@ void TextDocuments::cancel()
     m_canceled = true;
     if (m_conversion)
         m_conversion->cancel();
+    if (m_chain)
+        m_chain->cancel();
 }
 
 void TextDocuments::convertNext()
 {
-    while (m_next < m_documents.size() && !isTextToLayOut(m_documents.at(m_next), m_ticket.options))
+    while (m_next < m_documents.size() && !isToLayOut(m_documents.at(m_next), m_ticket))
         ++m_next;
     if (m_next == m_documents.size())
         return end({});
@@ -63,7 +78,11 @@ void TextDocuments::convertNext()
         m_folder = std::make_unique<QTemporaryDir>();
     if (!m_folder->isValid())
         return end(problemOf(*m_folder));
-    layOutText(m_folder->filePath(u"%1.pdf"_s.arg(m_next)));
+    const QString pdf = m_folder->filePath(u"%1.pdf"_s.arg(m_next));
+    if (m_documents.at(m_next).format == kText)
+        layOutText(pdf);
+    else
+        convertPostScript(pdf);
 }
 
 void TextDocuments::layOutText(const QString &pdf)
@@ -81,6 +100,20 @@ void TextDocuments::layOutText(const QString &pdf)
                 converted(pdf, failure);
             });
     m_conversion->start();
+}
+
+void TextDocuments::convertPostScript(const QString &pdf)
+{
+    ConversionRequest request{{m_documents.at(m_next)}, {}, m_ppdPath};
+    request.outputPath = pdf;
+    request.outputName = pdf;
+    request.result = ConversionRequest::Result::Pdf;
+    m_chain = std::make_unique<Conversion>(request);
+    connect(m_chain.get(), &Conversion::finished, this, [this, pdf](const QString &failure) {
+        m_chain.release()->deleteLater();
+        converted(pdf, failure);
+    });
+    m_chain->start();
 }
 
 void TextDocuments::converted(const QString &pdf, const QString &problem)

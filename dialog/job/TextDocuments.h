@@ -7,6 +7,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include "dialog/job/Conversion.h"
 #include "dialog/job/Document.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/text/TextConversion.h"
@@ -20,8 +21,12 @@ bool isTextToLayOut(const Document &document, const QList<JobOption> &options);
 /// Whether there is any such text.
 bool hasTextToLayOut(const QList<Document> &documents, const QList<JobOption> &options);
 
-/// Makes PDFs of the texts among documents, with the fonts, the paper and the options of a job; the
-/// other documents stay what they are.
+/// Whether pages have to be made of any document before anything else happens: of a text, or of
+/// PostScript where the ticket says so.
+bool hasDocumentToLayOut(const QList<Document> &documents, const JobTicket &ticket);
+
+/// Makes PDFs of the texts among documents, with the fonts, the paper and the options of a job, and
+/// of PostScript where its ticket says so; the other documents stay what they are.
 ///
 /// One object serves one job, and holds the PDFs as long as it lives. Needs a QGuiApplication.
 /// Thread: GUI thread; the work has a thread of its own.
@@ -50,6 +55,7 @@ Q_SIGNALS:
 private:
     void convertNext();
     void layOutText(const QString &pdf);
+    void convertPostScript(const QString &pdf);
     void converted(const QString &pdf, const QString &problem);
     void end(const QString &problem);
 
@@ -58,6 +64,7 @@ private:
     QString m_ppdPath;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<TextConversion> m_conversion;
+    std::unique_ptr<Conversion> m_chain; // for PostScript
     qsizetype m_next = 0;
     bool m_canceled = false;
 };

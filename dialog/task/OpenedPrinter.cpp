@@ -3,7 +3,9 @@
 #include <QLoggingCategory>
 
 #include "dialog/printers/PanelRecognition.h"
+#include "dialog/session/AttributeChoices.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/session/OutputOrder.h"
 #include "platform/pde/PDEBundleLoader.h"
 #include "platform/pde/PDEPlugIn.h"
 
@@ -77,13 +79,33 @@ std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
     return opened;
 }
 
+namespace {
+
+// Whether a job is black and white by the filter that makes PostScript of PDF, which is the only
+// one that follows the attribute where the printer has no option for it.
+bool makesPdfGray(const OpenedPrinter &printer, const QList<JobOption> &attributes)
+{
+    static const JobOption monochrome{u"print-color-mode"_s, u"monochrome"_s};
+    ppd_file_t *ppd = printer.session->ppd();
+    return !printer.fetched.capabilities && ppd->color_device && attributes.contains(monochrome) &&
+           AttributeReader(ppd, printer.jobValues).read(monochrome).outcome ==
+               AttributeChoices::Outcome::Attribute;
+}
+
+} // namespace
+
 JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attributes,
                      const QString &title, int copies)
 {
     const PpdSession &session = *printer.session;
-    return {title, copies,
-            jobOptions(session, printer.jobValues, withCollation(attributes, copies, session)),
-            secretsOf(session)};
+    JobTicket ticket{
+        title, copies,
+        jobOptions(session, printer.jobValues, withCollation(attributes, copies, session)),
+        secretsOf(session)};
+    // PostScript passes other filters, which turn nothing round a second time.
+    ticket.postScriptAsPdf =
+        makesPdfGray(printer, attributes) || isTurnedRoundOnTheWay(session.ppd(), ticket.options);
+    return ticket;
 }
 
 } // namespace corvana

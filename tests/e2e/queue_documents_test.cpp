@@ -341,22 +341,6 @@ private Q_SLOTS:
             QVERIFY(!inksOf(printedWith(u"color"_s)).value(0).startsWith("0.00000 0.00000"));
     }
 
-    // A3 on A4. The filter behind PDF makes it smaller, the one behind PostScript would not.
-    void postScriptIsMadeSmallerAsWell()
-    {
-        m_cups->addQueue(u"office"_s, kPpd);
-        const QString large =
-            write(u"a3.ps"_s, "%!PS-Adobe-3.0\n<</PageSize [842 1191]>> "
-                              "setpagedevice\n100 100 200 200 rectfill showpage\n");
-        const QByteArray ink =
-            inksOf(printed(u"office"_s, {large}).data).value(0).split(' ').last();
-        QVERIFY2(ink.toDouble() > 0.03 && ink.toDouble() < 0.05, ink.constData());
-        // What draws nothing sets the printer up.
-        const QByteArray setup = "%!PS\n(a setting) pop\n";
-        m_runner->run({u"-d"_s, u"office"_s, write(u"setup.ps"_s, setup)});
-        QVERIFY(m_cups->capture(u"office"_s).jobs().constLast().data.contains("(a setting) pop"));
-    }
-
     void aRasterFileIsOne()
     {
         const QString output = m_runner->filePath(u"result"_s);

@@ -35,7 +35,7 @@ FakeFilter::FakeFilter(const QByteArray &script)
 
 Document FakeFilter::document() const
 {
-    return {path(u"document.txt"_s), u"application/pdf"_s, u"document.txt"_s};
+    return {path(u"document.txt"_s), u"application/postscript"_s, u"document.txt"_s};
 }
 
 QByteArray FakeFilter::content(const QString &name) const

@@ -13,7 +13,8 @@ void ServerJobScene::begin()
     QFile file(m_folder.filePath(u"document.txt"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("Hello\n");
-    m_request = m_server->request({file.fileName(), u"application/pdf"_s, u"document.txt"_s});
+    m_request =
+        m_server->request({file.fileName(), u"application/postscript"_s, u"document.txt"_s});
     m_request.server.mayAsk = true;
     m_request.ticket.options = {{u"media"_s, u"A4"_s}};
 }

@@ -15,15 +15,6 @@ class FileJobDocumentsTest : public QObject, private DocumentsScene
 {
     Q_OBJECT
 
-    // What goes through the chain in one step.
-    QList<Document> pdfs() const
-    {
-        QList<Document> list = documents();
-        for (Document &document : list)
-            document.format = u"application/pdf"_s;
-        return list;
-    }
-
 private Q_SLOTS:
     void init() { begin(); }
     void cleanup() { end(); }
@@ -127,7 +118,7 @@ private Q_SLOTS:
     void whatCanStandInARowDoes()
     {
         writeFile(m_filter->ppdPath(), PpdBuilder().text());
-        QCOMPARE(printed(pdfs()), QString());
+        QCOMPARE(printed(documents()), QString());
         QCOMPARE(lines(u"stages"_s), (QStringList{u"one.txt"_s, u"two.txt"_s}));
         QVERIFY(lines(u"arguments-one.txt"_s).contains(u"printer/foo"_s));
         QCOMPARE(m_filter->content(u"out.ps"_s), QByteArray("1 as PDF\n%%EOF\n2 as PDF\n%%EOF\n"));
@@ -148,7 +139,7 @@ private Q_SLOTS:
         QFETCH(QString, copies);
         QFETCH(QByteArray, order);
         writeFile(m_filter->ppdPath(), PpdBuilder().text());
-        QCOMPARE(printed(pdfs(), {u"t"_s, 2, options}), QString());
+        QCOMPARE(printed(documents(), {u"t"_s, 2, options}), QString());
         QCOMPARE(m_filter->content(u"out.ps"_s).replace("as PDF\n%%EOF\n", ""), order);
         const QStringList told = lines(u"arguments-one.txt"_s);
         QCOMPARE(told.value(told.indexOf(u"-n"_s) + 1), copies);

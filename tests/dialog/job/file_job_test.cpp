@@ -167,7 +167,7 @@ private Q_SLOTS:
         const QStringList expected{u"-p"_s,
                                    told.value(1),
                                    u"-i"_s,
-                                   u"application/pdf"_s,
+                                   u"application/postscript"_s,
                                    u"-m"_s,
                                    u"printer/foo"_s,
                                    u"-e"_s,

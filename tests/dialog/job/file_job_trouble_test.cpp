@@ -219,9 +219,8 @@ private Q_SLOTS:
             const FakeFilter heedless(endless ? "while :; do head -c 65536 /dev/zero; done\n"
                                               : "head -c 100001 /dev/zero; exit 0\n");
             const FileSizeLimit limit(70000);
-            Document pdf = document(u"one.txt"_s);
-            pdf.format = u"application/pdf"_s;
-            const QString problem = printed(several ? documents() : QList{pdf});
+            const QString problem =
+                printed(several ? documents() : QList<Document>{document(u"one.txt"_s)});
             const QString place = several ? m_temporary->path() : m_filter->output();
             QVERIFY2(problem.startsWith(place), qPrintable(problem));
             QVERIFY2(problem.endsWith(u"cannot be written: File too large"_s), qPrintable(problem));

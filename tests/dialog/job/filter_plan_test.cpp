@@ -41,23 +41,24 @@ struct Asked
     const char *name;
     const char *option;
     const char *value;
-    bool becomesPdf;
+    bool picture;
+    bool postScript;
 };
 const Asked kAsked[] = {
-    {"one page on a side", "number-up", "1", false},
-    {"two pages on a side", "number-up", "2", true},
-    {"no border", "page-border", "none", false},
-    {"a border", "page-border", "double", true},
-    {"all pages", "page-set", "all", false},
-    {"even pages", "page-set", "even", true},
-    {"a range", "page-ranges", "1-2", true},
-    {"upright", "orientation-requested", "3", false},
-    {"landscape", "orientation-requested", "4", false},
-    {"scaled as usual", "print-scaling", "auto", false},
-    {"not scaled", "print-scaling", "none", false},
-    {"scaled", "print-scaling", "fill", false},
-    {"mirrored", "mirror", "true", true},
-    {"an option of the printer", "Tray", "Lower", false},
+    {"one page on a side", "number-up", "1", false, false},
+    {"two pages on a side", "number-up", "2", true, true},
+    {"no border", "page-border", "none", false, false},
+    {"a border", "page-border", "double", true, true},
+    {"all pages", "page-set", "all", false, false},
+    {"even pages", "page-set", "even", true, true},
+    {"a range", "page-ranges", "1-2", true, true},
+    {"upright", "orientation-requested", "3", false, false},
+    {"landscape", "orientation-requested", "4", false, true},
+    {"scaled as usual", "print-scaling", "auto", false, false},
+    {"not scaled", "print-scaling", "none", false, false},
+    {"scaled", "print-scaling", "fill", false, true},
+    {"mirrored", "mirror", "true", true, false},
+    {"an option of the printer", "Tray", "Lower", false, false},
 };
 
 // The steps of a plan in short: what each does, and to what.
@@ -147,8 +148,8 @@ private Q_SLOTS:
         const Asked &row = currentRow(kAsked);
         const QList<JobOption> options{
             {QString::fromLatin1(row.option), QString::fromLatin1(row.value)}};
-        QCOMPARE(mustBecomePdf(kPicture, options), row.becomesPdf);
-        QVERIFY(mustBecomePdf(kPostScript, options));
+        QCOMPARE(mustBecomePdf(kPicture, options), row.picture);
+        QCOMPARE(mustBecomePdf(kPostScript, options), row.postScript);
         QVERIFY(!mustBecomePdf(kText, options));
         QVERIFY(!mustBecomePdf(kPdf, options));
     }

@@ -35,7 +35,6 @@ enum class Kind {
     Wide,     // a picture
     Text,
     PostScript,
-    MixedPostScript,
     Several,
     Long,
     VeryLong,
@@ -58,7 +57,6 @@ inline constexpr NamedKind kKinds[] = {
     {"wide picture", Kind::Wide},
     {"text", Kind::Text},
     {"PostScript", Kind::PostScript},
-    {"mixed PostScript", Kind::MixedPostScript},
     {"several", Kind::Several},
     {"60 pages", Kind::Long},
     {"500 pages", Kind::VeryLong},
