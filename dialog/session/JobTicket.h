@@ -18,8 +18,8 @@ struct JobTicket
     QList<JobOption> options;
     /// Passwords and PINs among the values, which no log may hold.
     QStringList secrets{};
-    /// PostScript documents become PDF first: an option is followed by a filter that they would not
-    /// pass.
+    /// PostScript documents become PDF first: an option is followed, or their pages are laid out,
+    /// by a filter that they would not pass.
     bool postScriptAsPdf = false;
 
     bool operator==(const JobTicket &) const = default;

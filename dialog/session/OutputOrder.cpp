@@ -87,7 +87,8 @@ private:
     int m_others = kNoWay;
 };
 
-// Whether the pages of a job pass the filter that makes PostScript of them.
+} // namespace
+
 bool becomesPostScript(ppd_file_t *ppd)
 {
     FilterCosts costs;
@@ -102,8 +103,6 @@ bool becomesPostScript(ppd_file_t *ppd)
         costs.add(ppd->filters[i]);
     return (!namesFilters && ppd->num_filters == 0) || costs.isPostScriptCheapest();
 }
-
-} // namespace
 
 bool stacksFaceUp(ppd_file_t *ppd, const QList<JobOption> &options)
 {

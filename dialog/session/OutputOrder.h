@@ -19,6 +19,9 @@ bool stacksFaceUp(ppd_file_t *ppd, const QList<JobOption> &options);
 /// it asks for nothing and the stack would not be in order otherwise.
 bool printsLastPageFirst(ppd_file_t *ppd, const QList<JobOption> &options);
 
+/// Whether the pages of a job pass the filter that makes PostScript of them.
+bool becomesPostScript(ppd_file_t *ppd);
+
 /// Whether a filter behind the layout step turns the order of sides round once more.
 bool isTurnedRoundOnTheWay(ppd_file_t *ppd, const QList<JobOption> &options);
 

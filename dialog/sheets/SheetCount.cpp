@@ -1,8 +1,17 @@
 #include "dialog/sheets/SheetCount.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvana {
+
+namespace {
+
+// What nobody sees: programs round the sizes of papers, and scales with them.
+constexpr double kSameScale = 0.005;
+constexpr double kSameSize = 3; // points, a millimetre
+
+} // namespace
 
 QList<bool> printedPages(int pages, const PageChoice &choice)
 {
@@ -52,6 +61,20 @@ bool drawsNoPage(const JobSheets &sheets)
     return !sheets.documents.isEmpty() &&
            std::all_of(sheets.documents.cbegin(), sheets.documents.cend(),
                        [](const DocumentSheets &document) { return document.drawsNoPage; });
+}
+
+bool isLaidOutOtherwise(const DocumentSheets &document, QSizeF paper)
+{
+    const auto isAsItIs = [&](const PageScale &page) {
+        const QSizeF more = page.size - paper;
+        return std::abs(page.scale - 1) < kSameScale && std::abs(more.width()) < kSameSize &&
+               std::abs(more.height()) < kSameSize;
+    };
+    const auto isUpright = [](int turn) { return turn == 0; };
+    return document.sides.value_or(0) > 0 &&
+           !(!document.scales.isEmpty() &&
+             std::all_of(document.scales.cbegin(), document.scales.cend(), isAsItIs) &&
+             std::all_of(document.turns.cbegin(), document.turns.cend(), isUpright));
 }
 
 bool hasEmptyBacks(const DocumentSheets &document)

@@ -71,6 +71,10 @@ std::optional<int> sheetsOfOneCopy(const JobSheets &sheets);
 bool isUncounted(const JobSheets &sheets);
 /// Whether all documents are PostScript that draws no page.
 bool drawsNoPage(const JobSheets &sheets);
+/// Whether a filter that sends the pages of a document as they are would not send what was laid
+/// out: where any of them is not as large as the paper (Units: points), or is scaled or turned, or
+/// where nobody knows that of sides which are known.
+bool isLaidOutOtherwise(const DocumentSheets &document, QSizeF paper);
 /// Whether the backs of a document stay empty in a two-sided job. Its stream may be one-sided then,
 /// or two-sided with blank backs: that depends on the printer, and on how the copies are made.
 bool hasEmptyBacks(const DocumentSheets &document);

@@ -18,6 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto kPostScript = "application/postscript"_L1;
+
 // What the number of sheets depends on, besides the traits of the printer.
 bool mattersForSheets(const JobOption &option)
 {
@@ -32,6 +34,23 @@ QStringList problemsOfEmpty(const JobSheets &sheets, const PageChoice &choice, b
     if (printsToFile && drawsNoPage(sheets))
         return {noPageText()};
     return emptyDocuments(sheets, choice);
+}
+
+// CUPS' pstops, through which PostScript goes to a printer that takes PostScript, sends pages as
+// large as they are into a corner of the paper. What was laid out, shown and said of others than
+// those of the paper comes out by way of a PDF only, at the price of what such a document asks of
+// the device itself.
+bool losesLayout(const JobSheets &sheets, const SheetRequest &request, ppd_file_t *ppd)
+{
+    if (!becomesPostScript(ppd))
+        return false;
+    const qsizetype count = std::min(sheets.documents.size(), request.documents.size());
+    for (qsizetype i = 0; i < count; ++i) {
+        if (request.documents.at(i).format == kPostScript &&
+            isLaidOutOtherwise(sheets.documents.at(i), request.traits.paper))
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -250,8 +269,11 @@ void PrintTask::sheetsKnown()
         refusal = askForManySheets();
     if (m_phase != Phase::Printing)
         return; // canceled, while a question was waiting for its answer
-    if (!refusal)
+    if (!refusal) {
+        if (sheets && losesLayout(*sheets, request, m_opened->session->ppd()))
+            m_run.ticket.postScriptAsPdf = true;
         return startJob(m_run.ticket);
+    }
     enter(Phase::Ready);
     Q_EMIT refused(*refusal);
     takeNext();

@@ -71,6 +71,29 @@ const PaperRow kPapers[] = {
     {"one that nobody counted", {1, std::nullopt}, false, std::nullopt},
 };
 
+constexpr QSizeF kPaper{595, 842};
+struct LaidOutRow
+{
+    const char *name;
+    QList<PageScale> scales;
+    QList<int> turns;
+    std::optional<int> sides;
+    bool isOtherwise;
+};
+const LaidOutRow kLaidOut[] = {
+    {"as large as the paper", {{kPaper, 1}}, {0}, 1, false},
+    {"rounded", {{{595.28, 841.89}, 0.999}}, {0}, 1, false},
+    {"scaled", {{kPaper, 0.97}}, {0}, 1, true},
+    {"smaller, as it is", {{{420, 595}, 1}}, {0}, 1, true},
+    {"less high", {{{595, 792}, 1}}, {0}, 1, true},
+    {"wider", {{{612, 842}, 1}}, {0}, 1, true},
+    {"turned", {{kPaper, 1}}, {0, 90}, 2, true},
+    {"one of two", {{kPaper, 1}, {{612, 792}, 1}}, {0, 0}, 2, true},
+    {"of no known size", {}, {}, 2, true},
+    {"never counted", {}, {}, std::nullopt, false},
+    {"without a side", {}, {}, 0, false},
+};
+
 } // namespace
 
 class SheetCountTest : public QObject
@@ -78,6 +101,17 @@ class SheetCountTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void whatIsSentAsItIsMayLieOtherwise_data() { addRows(kLaidOut); }
+    void whatIsSentAsItIsMayLieOtherwise()
+    {
+        const LaidOutRow &row = currentRow(kLaidOut);
+        DocumentSheets document;
+        document.scales = row.scales;
+        document.turns = row.turns;
+        document.sides = row.sides;
+        QCOMPARE(isLaidOutOtherwise(document, kPaper), row.isOtherwise);
+    }
+
     void rangesAreComparedWithTheDocument_data() { addRows(kRanges); }
     void rangesAreComparedWithTheDocument()
     {

@@ -36,6 +36,25 @@ QByteArray postScriptOfPages(int pages)
     return data + "%%Trailer\n%%EOF\n";
 }
 
+// Pages that are as large as each says of itself.
+QByteArray mixedPostScript(const QList<QSizeF> &sizes)
+{
+    QByteArray data = "%!PS-Adobe-3.0\n%%Pages: " + QByteArray::number(sizes.size()) +
+                      "\n%%EndComments\n/w 0 def /h 0 def\n";
+    for (qsizetype page = 1; page <= sizes.size(); ++page) {
+        const QByteArray number = QByteArray::number(page);
+        const QSizeF size = sizes.at(page - 1);
+        data += "%%Page: " + number + ' ' + number + "\n/w " + QByteArray::number(size.width()) +
+                " def /h " + QByteArray::number(size.height()) +
+                " def << /PageSize [w h] >> setpagedevice\n2 setlinewidth 50 50 w 100 sub h 100 "
+                "sub rectstroke 1 0 0 setrgbcolor 58 h 98 sub 60 40 rectfill 0 0 1 setrgbcolor w "
+                "98 sub h 78 sub 40 20 rectfill 0 setgray /Helvetica 48 selectfont 100 h 2 div "
+                "moveto (a " +
+                number + ") show showpage\n";
+    }
+    return data + "%%Trailer\n%%EOF\n";
+}
+
 QString inFolder(const QString &folder, const QString &name)
 {
     return folder + u'/' + name;
@@ -96,6 +115,10 @@ QList<Document> documentsOf(Kind kind, const QString &folder)
                  u"a.txt"_s}};
     case Kind::PostScript:
         return {{writeFile(inFolder(folder, u"a.ps"_s), postScriptOfPages(3)),
+                 u"application/postscript"_s, u"a.ps"_s}};
+    case Kind::MixedPostScript:
+        return {{writeFile(inFolder(folder, u"a.ps"_s),
+                           mixedPostScript({kA4, kLetter, wide, kA5, kA3})),
                  u"application/postscript"_s, u"a.ps"_s}};
     case Kind::Several:
         return {pdf(folder, u"a"_s, numberedPdf("a", 3)),

@@ -35,6 +35,7 @@ enum class Kind {
     Wide,     // a picture
     Text,
     PostScript,
+    MixedPostScript,
     Several,
     Long,
     VeryLong,
@@ -57,6 +58,7 @@ inline constexpr NamedKind kKinds[] = {
     {"wide picture", Kind::Wide},
     {"text", Kind::Text},
     {"PostScript", Kind::PostScript},
+    {"mixed PostScript", Kind::MixedPostScript},
     {"several", Kind::Several},
     {"60 pages", Kind::Long},
     {"500 pages", Kind::VeryLong},
