@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <utility>
 
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -37,8 +38,8 @@ QProcessEnvironment environmentOfChain()
     // cupsfilter asks the print server for options of its own: it would wait for one that is
     // silent, and take whatever one says. All options of a job are on its command line.
     environment.insert(u"CUPS_SERVER"_s, u"/dev/null"_s);
-    // And it looks for ~/.cups/lpoptions, of which it takes nothing that it would use, to the end, which a
-    // file of another kind may not have. It gives no filter a home.
+    // And it looks for ~/.cups/lpoptions, of which it takes nothing that it would use, to the end,
+    // which a file of another kind may not have. It gives no filter a home.
     environment.insert(u"HOME"_s, u"/dev/null"_s);
     return environment;
 }
@@ -119,9 +120,11 @@ FilterChain::FilterChain(QObject *parent) : QObject(parent)
 FilterChain::~FilterChain()
 {
     m_process.disconnect(this);
-    signalGroup(SIGKILL);
-    if (m_process.state() != QProcess::NotRunning)
-        m_process.waitForFinished(kPatience);
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    kill();
+    m_process.waitForFinished(kPatience);
+    removeFiles(m_left);
 }
 
 void FilterChain::start(const FilterPlan &plan, const QStringList &secrets)
@@ -214,8 +217,19 @@ void FilterChain::cancel()
 
 void FilterChain::stop()
 {
+    m_left = temporaryFilesOf(static_cast<pid_t>(m_process.processId()));
     signalGroup(SIGTERM);
-    QTimer::singleShot(kPatience, this, [this] { signalGroup(SIGKILL); });
+    QTimer::singleShot(kPatience, this, &FilterChain::kill);
+}
+
+// What stands still makes no further files.
+void FilterChain::kill()
+{
+    if (m_process.processId() <= 0)
+        return;
+    signalGroup(SIGSTOP);
+    m_left += temporaryFilesOf(static_cast<pid_t>(m_process.processId()));
+    signalGroup(SIGKILL);
 }
 
 void FilterChain::signalGroup(int signal)
@@ -273,6 +287,7 @@ void FilterChain::stepFinished(int exitCode, QProcess::ExitStatus status)
     // A filter of the chain may outlive the program that started it.
     if ((m_canceled || m_tookTooLong || !m_writeError.isEmpty()) && m_group > 0)
         ::kill(-m_group, SIGKILL);
+    removeFiles(std::exchange(m_left, {}));
     m_cameOutEmpty = !m_canceled && !m_tookTooLong && m_writeError.isEmpty() &&
                      status == QProcess::NormalExit && exitCode == 0 && isEmptyPart(step().output);
     const QString problem = problemOfStep(exitCode, status);

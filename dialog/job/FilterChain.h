@@ -12,11 +12,13 @@
 
 #include "dialog/job/FilterLog.h"
 #include "dialog/job/FilterPlan.h"
+#include "dialog/job/FiltersFiles.h"
 
 namespace corvana {
 
 /// Runs the programs of a plan, each after the other. A program and all that it starts are one
-/// process group, which is stopped as a whole, and which ends with this object.
+/// process group, which is stopped as a whole, and which ends with this object. What filters that
+/// are stopped would leave in `/tmp` is removed.
 ///
 /// Filters do not notice a full disk, so that what they write to their standard output is put into
 /// the file here.
@@ -59,6 +61,7 @@ private:
     QString problemOfWriting() const;
     void stop();
     void signalGroup(int signal);
+    void kill();
     void readLog();
     void readOutput();
     void closeOutput();
@@ -67,11 +70,12 @@ private:
     FilterPlan m_plan; // the current step first
     QStringList m_secrets;
     QProcess m_process;
-    pid_t m_group = 0;    // of the program that was started last
-    QFile m_output;       // of the current step; closed where it writes a file of its own
-    QString m_writeError; // why that could not be written
-    FilterLog m_log;      // of the current step
-    QTimer m_patience;    // with the current step
+    pid_t m_group = 0;        // of the program that was started last
+    QFile m_output;           // of the current step; closed where it writes a file of its own
+    QString m_writeError;     // why that could not be written
+    FilterLog m_log;          // of the current step
+    QTimer m_patience;        // with the current step
+    QList<FilterFile> m_left; // of filters that were told to end
     bool m_tookTooLong = false;
     bool m_canceled = false;
     bool m_cameOutEmpty = false;

@@ -17,6 +17,25 @@ namespace {
 constexpr char kLong[] = "sleep 300 & echo $! > $DIR/child; echo $$ > $DIR/parent; "
                          "echo half; touch $DIR/started; wait\n";
 
+// A filter of the chain has a temporary file where filters have theirs, and reads from a document
+// there.
+constexpr char kWithTemporaryFile[] =
+    "mktemp /tmp/corvana-copy.XXXXXX > $DIR/copy; mktemp /tmp/corvana-letter.XXXXXX > $DIR/letter; "
+    "sh -c 'exec 5<>$(cat $0/copy) 6<$(cat $0/letter); touch $0/started; exec sleep 300' $DIR & ";
+
+enum class End { Canceled, IgnoresThat, Dies };
+struct EndOfChain
+{
+    const char *name;
+    const char *script;
+    End end;
+};
+constexpr EndOfChain kEnds[] = {
+    {"it is canceled", "wait\n", End::Canceled},
+    {"it ignores that", "trap '' TERM; while :; do sleep 0.1; done\n", End::IgnoresThat},
+    {"its job dies", "wait\n", End::Dies},
+};
+
 struct Failure
 {
     const char *name;
@@ -170,6 +189,29 @@ private Q_SLOTS:
         QVERIFY(filter.waitForEndOf(u"child"_s));
         QCOMPARE(filter.content(u"out.ps"_s), QByteArray("yesterday's"));
         QVERIFY(filter.leftOvers().isEmpty());
+    }
+
+    void whatAFilterKeepsForItselfGoesWithIt_data() { addRows(kEnds); }
+    void whatAFilterKeepsForItselfGoesWithIt()
+    {
+        const EndOfChain &row = currentRow(kEnds);
+        const FakeFilter filter(QByteArray(kWithTemporaryFile) + row.script);
+        auto job = std::make_unique<FileJob>(filter.request());
+        QSignalSpy finished(job.get(), &Job::finished);
+        job->start();
+        QVERIFY(filter.waitForFile(u"started"_s));
+        const QString copy = QString::fromUtf8(filter.content(u"copy"_s).trimmed());
+        const QString letter = QString::fromUtf8(filter.content(u"letter"_s).trimmed());
+        QVERIFY(QFile::exists(copy));
+        if (row.end == End::Dies) {
+            job.reset();
+        } else {
+            job->cancel();
+            QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 10000);
+        }
+        const bool isLeft = QFile::remove(copy);
+        QVERIFY2(QFile::remove(letter), "the document was removed");
+        QVERIFY(!isLeft);
     }
 
     void aJobThatDiesAtOnceLeavesNothing()
