@@ -115,10 +115,11 @@ private:
         return isBefore == isMirrored ? right + kGap : left - m_side - kGap;
     }
 
+    // The gap may be narrower where a title begins close to the edge.
     bool hasRoomIn(const QWidget &host) const
     {
         const int place = placeIn(host, true);
-        return place >= 0 && place + m_side <= host.width();
+        return place >= -kGap && place + m_side <= host.width() + kGap;
     }
 
     void moveTo(QWidget *host)
