@@ -349,7 +349,10 @@ private Q_SLOTS:
     {
         const QString path = m_home->filePath(u"instances.json"_s);
         writeFile(path, "{");
-        QVERIFY(QDir().mkpath(path + u".damaged"_s)); // where a file would have to be
+        // Where files would have to be: so many are kept.
+        QVERIFY(QDir().mkpath(path + u".damaged"_s));
+        for (int number = 2; number <= 100; ++number)
+            QVERIFY(QDir().mkpath(path + u".damaged.%1"_s.arg(number)));
         const OwnInstances own(path);
         const QString problem = own.note({{u"a/c"_s, {}}}, {u"C"_s});
         QVERIFY2(problem.contains(u"It was not changed"_s), qPrintable(problem));

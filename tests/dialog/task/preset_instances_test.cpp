@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/session/OptionRequest.h"
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/TestPrinters.h"

@@ -1,27 +1,15 @@
-#include <optional>
-
-#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "dialog/printers/LastPrinter.h"
-#include "dialog/session/OptionRequest.h"
 #include "dialog/task/OpenedPrinter.h"
-#include "tests/dialog/job/Variable.h"
-#include "tests/dialog/policy/TestPolicy.h"
-#include "tests/dialog/support/TestPrinters.h"
-#include "tests/dialog/task/TaskScene.h"
-#include "tests/support/TestPaths.h"
-#include "tests/support/cups/Client.h"
-#include "tests/support/cups/FaultyServer.h"
-#include "tests/support/cups/PrivateCups.h"
+#include "tests/dialog/task/QueueTaskTest.h"
 
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
 
 using Kind = JobOutcome::Kind;
-using OnInterrupt = PrintTask::OnInterrupt;
 using Phase = PrintTask::Phase;
 
 namespace {
@@ -29,104 +17,15 @@ namespace {
 // The filter of these tests makes nothing that could be counted, so nobody knows what was on the
 // pages.
 constexpr auto kTaken = JobOutcome::Kind::Sent;
-constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
+
 } // namespace
 
-/// Tasks that print to the queue "office" of a server, without any face.
-class TaskQueuesTest : public QObject
+/// Where tasks start that print to a queue, and what is remembered of them.
+class TaskQueuesTest : public QueueTaskTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
-    std::unique_ptr<PrivateCups> m_cups;
-    std::unique_ptr<FaultyServer> m_between;
-    std::unique_ptr<TaskScene> m_scene;
-
-    PrintTask &task() { return *m_scene->task; }
-    ScriptedFace &face() { return m_scene->face; }
-
-    void setUserOptions(const QByteArray &lines)
-    {
-        QDir(m_home->path()).mkpath(u".cups"_s);
-        writeFile(m_home->filePath(u".cups/lpoptions"_s), lines);
-    }
-    QString ppd(const PpdBuilder &ppd)
-    {
-        return writeFile(m_home->filePath(u"office.ppd"_s), ppd.text());
-    }
-    PrintRequest request(const QString &options = {})
-    {
-        PrintRequest request = m_scene->request(QList<Printer>());
-        request.documents.first().path = corvana::test::sourceFile(u"tests/data/page.txt"_s);
-        request.documents.first().format = u"text/plain"_s;
-        request.server = *ServerAddress::parse(m_between->server());
-        request.serverWasNamed = true;
-        request.wantedPrinter = u"office"_s;
-        request.options = parseOptions({options});
-        return request;
-    }
-    // As a window: with panels up, and nothing printed yet.
-    void open(const PrintRequest &request)
-    {
-        m_scene->make(request).start();
-        QVERIFY2(m_scene->reaches(Phase::Opened), qPrintable(task().problem().text));
-        task().bringUp();
-    }
-    bool printed()
-    {
-        const qsizetype before = face().outcomes.size();
-        const qsizetype refused = face().refusals.size();
-        task().print();
-        return QTest::qWaitFor(
-                   [&] {
-                       return face().outcomes.size() > before || face().refusals.size() > refused;
-                   },
-                   kPatience) &&
-               face().outcomes.size() > before;
-    }
-    QString attribute(const QString &name) { return task().settings().attribute(name); }
-    QString jobValue(int job, const char *attribute)
-    {
-        return Client(m_cups->server()).jobValue(job, attribute);
-    }
-    // A job that its queue has, and whose printer does not come to its end.
-    void printSlowly(const PrintRequest &request)
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()),
-                         {.deviceUri = m_cups->capture(u"office"_s).waitAtStart().uri()});
-        open(request);
-        task().print();
-        QTRY_VERIFY_WITH_TIMEOUT(task().isJobHandedOver(), kPatience);
-    }
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!PrivateCups::isAvailable())
-            QSKIP("no CUPS server here");
-    }
-    void init()
-    {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
-        m_variables.push_back(std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent"));
-        m_cups = std::make_unique<PrivateCups>();
-        m_cups->start();
-        m_between = std::make_unique<FaultyServer>(m_cups->port());
-        m_scene = std::make_unique<TaskScene>();
-    }
-    void cleanup()
-    {
-        m_scene.reset();
-        m_between.reset();
-        m_cups.reset();
-        m_variables.clear();
-        m_home.reset();
-    }
-
     // What the user has set with lpoptions
 
     void whatCannotBeTakenOfTheUsersOptionsIsIgnored()
@@ -284,212 +183,6 @@ private Q_SLOTS:
         task().settings().setPageRanges({});
         QVERIFY(printed());
         QCOMPARE(task().outcome().kind, Kind::Sent);
-    }
-
-    // What becomes of a job
-
-    void instructionsThatNobodyHasFollowedHoldTheJob()
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        open(request());
-        face().instructionsAre = TaskFace::Instructions::Wait;
-        QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::InQueue);
-        QVERIFY(task().isHeld());
-        QCOMPARE(m_cups->job(task().outcome().job).state, IPP_JSTATE_HELD);
-        QCOMPARE(task().phase(), Phase::Ready);
-        // They have been followed; what is printed now does not wait.
-        m_cups->cancelJob(task().outcome().job);
-        face().instructionsAre = TaskFace::Instructions::Followed;
-        QVERIFY(printed());
-        QVERIFY(!task().isHeld());
-        QCOMPARE(task().outcome().kind, kTaken);
-    }
-
-    // Else the job would be printed, and be said to wait.
-    void instructionsAreNotWaitedForAgainstALock_data()
-    {
-        QTest::addColumn<QByteArray>("lock");
-        QTest::newRow("at once") << QByteArray("no-hold");
-        QTest::newRow("by itself") << QByteArray("evening");
-        QTest::newRow("held anyway") << QByteArray("indefinite");
-        QTest::newRow("the user's own choice") << QByteArray();
-    }
-    void instructionsAreNotWaitedForAgainstALock()
-    {
-        QFETCH(QByteArray, lock);
-        const bool waits = lock.isEmpty() || lock == "indefinite";
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        PrintRequest locked = request();
-        locked.policy = policyFrom("[all]\nlock.job-hold-until=" + lock + '\n');
-        open(locked);
-        task().settings().setAttribute(u"job-hold-until"_s, u"evening"_s);
-        face().instructionsAre = TaskFace::Instructions::Wait;
-        QCOMPARE(printed(), waits);
-        QCOMPARE(m_cups->jobs().size(), waits ? 1 : 0);
-        if (waits)
-            QCOMPARE(jobValue(task().outcome().job, "job-hold-until"), u"indefinite"_s);
-        else
-            QCOMPARE(
-                face().problems(),
-                QStringList{u"“Hold Until” is set by your administrator (1.conf:2). So the job "
-                            "cannot wait for these instructions. Follow them and print with "
-                            "--on-alert=print."_s});
-    }
-
-    void aJobThatMayPrintYetIsLookedUpBeforeItIsSentAgain()
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        open(request(u"job-hold-until=indefinite"_s));
-        const QList<Kind> kinds{Kind::InQueue, Kind::AlreadyThere, Kind::InQueue};
-        const QList<qsizetype> jobs{1, 1, 2}; // the third is another copy, which the user wants
-        for (int i = 0; i < kinds.size(); ++i) {
-            QVERIFY(printed());
-            QVERIFY2(task().outcome().kind == kinds.at(i), qPrintable(task().outcome().text));
-            QCOMPARE(m_cups->jobs().size(), jobs.at(i));
-            QCOMPARE(task().phase(), Phase::Ready);
-        }
-    }
-
-    // What is opened here is compared with what its server has at the moment of printing.
-    void whatWasOpenedIsNotPrintedWithAnotherPpdWhateverItsDate()
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        const QString path = m_cups->folder() + u"/etc/ppd/office.ppd"_s;
-        const auto date = QFileInfo(path).lastModified();
-        open(request());
-        const PpdBuilder other =
-            officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}});
-        writeFile(path, other.text());
-        QFile changed(path);
-        QVERIFY(changed.open(QIODevice::ReadWrite) &&
-                changed.setFileTime(date, QFileDevice::FileModificationTime));
-        changed.close();
-        QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::PrinterChanged);
-        QVERIFY(m_cups->jobs().isEmpty());
-        // It has been opened anew by then, and prints.
-        QTRY_VERIFY_WITH_TIMEOUT(task().phase() == Phase::Opened, kPatience);
-        task().bringUp();
-        QVERIFY(ppdOption(m_scene->session().ppd(), u"Ink"_s));
-        QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, kTaken);
-    }
-
-    // The server would add it to a job that nobody has seen it in.
-    void whatAQueueAddsByNowIsSeenBeforeItIsPrinted()
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        open(request());
-        QueueSettings settings;
-        settings.options = {u"number-up-default=2"_s};
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()), settings);
-        QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::PrinterChanged);
-        QVERIFY(m_cups->jobs().isEmpty());
-        QTRY_VERIFY_WITH_TIMEOUT(task().phase() == Phase::Opened, kPatience);
-        task().bringUp();
-        QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
-        QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, kTaken);
-    }
-
-    // CUPS adds a default that nobody has asked for, and does so each time.
-    void whatAServerMakesUpHoldsNoJobUp()
-    {
-        const JobOption madeUp{u"print-color-mode"_s, u"monochrome"_s};
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()
-                                              .line("*ColorDevice: True")
-                                              .option("ColorModel", "Color", "Gray",
-                                                      {{"Gray", "Gray"}, {"RGB", "Color"}})));
-        for (const bool isKnown : {false, true}) {
-            m_scene = std::make_unique<TaskScene>();
-            open(request());
-            QSignalSpy changed(&task(), &PrintTask::printerChanged);
-            QVERIFY(!isKnown || changed.wait(kPatience)); // the server has been asked again
-            QVERIFY(task().opened()->saidDefaults.contains(madeUp));
-            QVERIFY(!task().opened()->fetched.defaults.contains(madeUp));
-            QVERIFY(printed());
-            QVERIFY(task().outcome().isDone());
-        }
-    }
-
-    // The first printer is there for want of a better one, and what was done with it is not lost.
-    void documentsCanBeTakenBackWhenTheServersPrinterHasCome()
-    {
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()));
-        PrintRequest any = request();
-        any.wantedPrinter.clear();
-        m_scene->make(any).start();
-        QVERIFY(m_scene->reaches(Phase::Opened));
-        task().bringUp();
-        task().addDocuments({corvana::test::sourceFile(u"tests/data/pages.pdf"_s)});
-        task().printers().start(); // as a window does
-        QTRY_COMPARE_WITH_TIMEOUT(task().phase(), Phase::Opened, kPatience);
-        QCOMPARE(task().printer().name, u"office"_s);
-        task().bringUp();
-        task().undo();
-        QTRY_COMPARE(task().phase(), Phase::Opened); // the first one again
-        task().bringUp();
-        task().undo();
-        QCOMPARE(task().documents().size(), 1);
-    }
-
-    void aFaceThatDoesNotWantToWaitIsDoneWhenTheQueueHasTheJob()
-    {
-        PrintRequest once = request();
-        once.noWait = true;
-        m_cups->addQueue(u"office"_s, ppd(officePrinter()),
-                         {.deviceUri = m_cups->capture(u"office"_s).waitAtStart().uri()});
-        open(once);
-        QVERIFY(printed());
-        QCOMPARE(task().outcome().kind, Kind::InQueue);
-        QCOMPARE(task().phase(), Phase::Ended);
-        m_cups->capture(u"office"_s).release(u"all"_s);
-    }
-
-    void whoeverInterruptsSaysWhatBecomesOfTheJob_data()
-    {
-        QTest::addColumn<int>("meaning");
-        QTest::addColumn<int>("kind");
-        QTest::newRow("it goes on") << int(OnInterrupt::LeaveJob) << int(Kind::InQueue);
-        QTest::newRow("it is canceled") << int(OnInterrupt::CancelJob) << int(Kind::Canceled);
-    }
-    void whoeverInterruptsSaysWhatBecomesOfTheJob()
-    {
-        QFETCH(int, meaning);
-        QFETCH(int, kind);
-        printSlowly(request());
-        task().interrupt(OnInterrupt(meaning));
-        QCOMPARE(task().phase(), Phase::Leaving);
-        QVERIFY(m_scene->reaches(Phase::Ended));
-        QCOMPARE(int(task().outcome().kind), kind);
-        m_cups->capture(u"office"_s).release(u"all"_s);
-        const ipp_jstate_t end =
-            kind == int(Kind::InQueue) ? IPP_JSTATE_COMPLETED : IPP_JSTATE_CANCELED;
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->job(task().outcome().job).state, end, kPatience);
-    }
-
-    void aJobThatIsLeftEndsTheTaskAndGoesOn()
-    {
-        printSlowly(request());
-        task().leave();
-        QVERIFY(m_scene->reaches(Phase::Ended));
-        QCOMPARE(task().outcome().kind, Kind::InQueue);
-        m_cups->capture(u"office"_s).release(u"all"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(m_cups->job(task().outcome().job).state, IPP_JSTATE_COMPLETED,
-                                  kPatience);
-    }
-
-    void aJobThatIsBeingCanceledCannotBeLeft()
-    {
-        printSlowly(request());
-        task().cancel();
-        task().leave();
-        QCOMPARE(task().phase(), Phase::Canceling);
-        QVERIFY(m_scene->reaches(Phase::Ready));
-        QCOMPARE(task().outcome().kind, Kind::Canceled);
-        m_cups->capture(u"office"_s).release(u"all"_s);
     }
 
     // Who is asked, and what is remembered
