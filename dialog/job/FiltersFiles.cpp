@@ -41,7 +41,8 @@ QList<pid_t> withAllStarted(pid_t process)
 
 bool isOpenForWriting(pid_t process, const QString &descriptor)
 {
-    const QByteArray info = contentOf(u"/proc/%1/fdinfo/%2"_s.arg(process).arg(descriptor));
+    const QByteArray info =
+        contentOf(u"/proc/%1/fdinfo/%2"_s.arg(QString::number(process), descriptor));
     for (const QByteArray &line : info.split('\n')) {
         if (line.startsWith("flags:"))
             return (line.mid(6).trimmed().toInt(nullptr, 8) & O_ACCMODE) != O_RDONLY;
