@@ -217,19 +217,24 @@ void FilterChain::cancel()
 
 void FilterChain::stop()
 {
-    m_left = temporaryFilesOf(static_cast<pid_t>(m_process.processId()));
+    holdStill();
     signalGroup(SIGTERM);
+    signalGroup(SIGCONT);
     QTimer::singleShot(kPatience, this, &FilterChain::kill);
 }
 
-// What stands still makes no further files.
 void FilterChain::kill()
 {
-    if (m_process.processId() <= 0)
-        return;
-    signalGroup(SIGSTOP);
-    m_left += temporaryFilesOf(static_cast<pid_t>(m_process.processId()));
+    holdStill();
     signalGroup(SIGKILL);
+}
+
+// What stands still makes no further files.
+void FilterChain::holdStill()
+{
+    signalGroup(SIGSTOP);
+    if (const qint64 program = m_process.processId(); program > 0)
+        m_left += temporaryFilesOf(static_cast<pid_t>(program));
 }
 
 void FilterChain::signalGroup(int signal)

@@ -62,6 +62,7 @@ private:
     void stop();
     void signalGroup(int signal);
     void kill();
+    void holdStill();
     void readLog();
     void readOutput();
     void closeOutput();

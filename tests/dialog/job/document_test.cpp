@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -277,6 +278,7 @@ private Q_SLOTS:
         QVERIFY(file >= 0);
         QCOMPARE(::write(file, "text\n", 5), 5);
         ::close(file);
+        const auto removed = qScopeGuard([&] { ::unlink(bytes.constData()); }); // Qt cannot name it
         QString error;
         const Document document = inspectDocument(nameOfBytes(bytes), &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
