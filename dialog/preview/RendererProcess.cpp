@@ -273,48 +273,50 @@ RendererProcess::Outcome RendererProcess::open(quint32 document, const QString &
     return outcome;
 }
 
+// The renderer answers with as many at a time as it is allowed to, or with what is missing.
+template <typename Answer, typename Asked, typename Take>
+RendererProcess::Outcome RendererProcess::list(quint32 document, int pages, quint32 atOnce,
+                                               const Take &take)
+{
+    const auto all = static_cast<std::uint32_t>(qMax(0, pages));
+    for (std::uint32_t listed = 0; listed < all;) {
+        auto request = made<Asked>(++m_sequence);
+        request.document = document;
+        request.first = listed;
+        Answer answer;
+        const Outcome outcome = ask(request, -1, &answer);
+        if (outcome != Outcome::Done)
+            return outcome;
+        if (answer.count != std::min(all - listed, atOnce))
+            return ended(Outcome::Died);
+        for (std::uint32_t i = 0; i < answer.count; ++i)
+            take(answer, i);
+        listed += answer.count;
+    }
+    return Outcome::Done;
+}
+
 RendererProcess::Outcome RendererProcess::listSizes(quint32 document, int pages,
                                                     QList<QSizeF> *sizes)
 {
     sizes->clear();
-    while (sizes->size() < pages) {
-        auto request = made<renderer::ListSizes>(++m_sequence);
-        request.document = document;
-        request.first = static_cast<std::uint32_t>(sizes->size());
-        renderer::Sizes answer;
-        const Outcome outcome = ask(request, -1, &answer);
-        if (outcome != Outcome::Done)
-            return outcome;
-        const auto missing = static_cast<std::uint32_t>(pages - sizes->size());
-        if (answer.count != std::min(missing, renderer::kSizesAtOnce))
-            return ended(Outcome::Died);
-        for (std::uint32_t i = 0; i < answer.count; ++i)
+    return list<renderer::Sizes, renderer::ListSizes>(
+        document, pages, renderer::kSizesAtOnce,
+        [&](const renderer::Sizes &answer, std::uint32_t i) {
             sizes->append(QSizeF(answer.sizes[i].width, answer.sizes[i].height));
-    }
-    return Outcome::Done;
+        });
 }
 
 RendererProcess::Outcome RendererProcess::listLabels(quint32 document, int pages,
                                                      QStringList *labels)
 {
     labels->clear();
-    while (labels->size() < pages) {
-        auto request = made<renderer::ListLabels>(++m_sequence);
-        request.document = document;
-        request.first = static_cast<std::uint32_t>(labels->size());
-        renderer::Labels answer;
-        const Outcome outcome = ask(request, -1, &answer);
-        if (outcome != Outcome::Done)
-            return outcome;
-        const auto missing = static_cast<std::uint32_t>(pages - labels->size());
-        if (answer.count != std::min(missing, renderer::kLabelsAtOnce))
-            return ended(Outcome::Died);
-        for (std::uint32_t i = 0; i < answer.count; ++i) {
+    return list<renderer::Labels, renderer::ListLabels>(
+        document, pages, renderer::kLabelsAtOnce,
+        [&](const renderer::Labels &answer, std::uint32_t i) {
             const renderer::PageLabel &label = answer.labels[i];
             labels->append(terminalLine(QString::fromUtf8(label.text.data(), label.bytes)));
-        }
-    }
-    return Outcome::Done;
+        });
 }
 
 RendererProcess::Outcome RendererProcess::draw(quint32 document, int page, QSize size,

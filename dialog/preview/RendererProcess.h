@@ -107,6 +107,8 @@ private:
     template <typename Answer> Outcome receive(std::chrono::milliseconds patience, Answer *answer);
     template <typename Answer, typename Asked>
     Outcome ask(const Asked &request, int descriptor, Answer *answer);
+    template <typename Answer, typename Asked, typename Take>
+    Outcome list(quint32 document, int pages, quint32 atOnce, const Take &take);
     Outcome ended(Outcome outcome);
 
     RendererSettings m_settings;
