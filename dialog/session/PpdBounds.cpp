@@ -53,7 +53,7 @@ public:
     explicit Keyword(QByteArrayView text)
     {
         for (const char c : text.first(std::min(text.size(), kLongestKeyword))) {
-            if (kEnds.contains(c))
+            if (isEnd(c))
                 break;
             m_text[m_length++] = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
         }
@@ -62,7 +62,10 @@ public:
     QByteArrayView view() const { return {m_text.data(), static_cast<qsizetype>(m_length)}; }
 
 private:
-    static constexpr QByteArrayView kEnds{" \t\f\v/:"};
+    static constexpr bool isEnd(char c)
+    {
+        return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '/' || c == ':';
+    }
 
     std::array<char, kLongestKeyword> m_text{};
     std::size_t m_length = 0;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <utility>
 
-#include <QByteArray>
 #include <QByteArrayView>
 
 namespace corvana {
@@ -31,10 +31,12 @@ public:
 private:
     static constexpr qsizetype kLongest = 512; ///< as much of a line as says what it is
 
+    void keep(QByteArrayView bytes);
     bool endLine();
 
     Take m_take;
-    QByteArray m_begin;
+    std::array<char, kLongest> m_begin{};
+    qsizetype m_length = 0; ///< of what is kept
     int m_stars = 0;
     bool m_hasColon = false;
     bool m_isQuoted = false;
