@@ -186,6 +186,11 @@ private:
         m_keyword = keyword.toByteArray();
         m_count = &m_lines[m_keyword];
         m_kind = kindOf(m_keyword);
+        m_isResolver = m_keyword == kResolver;
+        m_namesChoices =
+            m_isResolver || m_kind == Kind::Constraint || m_keyword == kConstraintOfCups;
+        m_texts =
+            m_kind == Kind::Language ? &m_languages[languageOf(m_keyword).toByteArray()] : nullptr;
     }
 
     bool addChoice(const QByteArray &keyword, int lines)
@@ -203,9 +208,8 @@ private:
     {
         if (lines > m_bounds.sameAttributes)
             return refuseLines(keyword, m_bounds.sameAttributes);
-        const QByteArray language = languageOf(keyword).toByteArray();
-        return ++m_languages[language] <= m_bounds.attributes ||
-               refuseLines(language + '.', m_bounds.attributes);
+        return ++*m_texts <= m_bounds.attributes ||
+               refuseLines(languageOf(keyword).toByteArray() + '.', m_bounds.attributes);
     }
 
     bool addAttribute(const QByteArray &keyword, int lines)
@@ -222,15 +226,14 @@ private:
     // What a constraint or the way out of one names, in the line that was read last.
     bool addTerms(int terms)
     {
-        const bool isResolver = m_keyword == kResolver;
-        if (!isResolver && m_keyword != kConstraintOfCups && m_kind != Kind::Constraint)
+        if (!m_namesChoices)
             return true;
         if (terms > m_bounds.termsOfLine)
             return refuse(Texts::tr("There is too much in it: more than %1 choices in one line "
                                     "that begins with “%2”.")
                               .arg(QString::number(m_bounds.termsOfLine), shown(m_keyword)));
-        const int bound = isResolver ? m_bounds.resolverTerms : m_bounds.terms;
-        int &all = isResolver ? m_resolverTerms : m_terms;
+        const int bound = m_isResolver ? m_bounds.resolverTerms : m_bounds.terms;
+        int &all = m_isResolver ? m_resolverTerms : m_terms;
         all += terms;
         return all <= bound ||
                refuse(Texts::tr("There is too much in it: more than %1 choices in lines that begin "
@@ -286,7 +289,10 @@ private:
     QSet<QByteArray> m_options;         ///< those that have been opened
     QByteArray m_keyword;               ///< of the last line
     int *m_count = nullptr;             ///< its lines so far
+    int *m_texts = nullptr;             ///< those of its language, where it is of one
     Kind m_kind = Kind::Attribute;
+    bool m_isResolver = false;
+    bool m_namesChoices = false;
     int m_choices = 0;
     int m_attributes = 0;
     int m_terms = 0;         ///< of all constraints
