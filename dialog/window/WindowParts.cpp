@@ -47,7 +47,8 @@ void WindowParts::focusChanged(QWidget *former, QWidget *now)
 {
     // Qt looks for another one when the control itself is disabled, not when its row is.
     if (!now && former && m_window->isAncestorOf(former))
-        QTimer::singleShot(0, this, [this, lost = QPointer<QWidget>(former)] { findLostFocus(lost); });
+        QTimer::singleShot(0, this,
+                           [this, lost = QPointer<QWidget>(former)] { findLostFocus(lost); });
     for (Part &part : m_parts) {
         if (now && part.widget && (part.widget == now || part.widget->isAncestorOf(now)))
             part.last = now;
