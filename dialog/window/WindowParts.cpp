@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTimer>
 
@@ -25,6 +26,15 @@ QWidget *nextStop(const QWidget *widget)
             return next;
     }
     return nullptr;
+}
+
+// Only Tab does so by itself.
+void scrollTo(QWidget *widget)
+{
+    for (QWidget *above = widget->parentWidget(); above; above = above->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(above))
+            area->ensureWidgetVisible(widget);
+    }
 }
 
 } // namespace
@@ -59,10 +69,11 @@ void WindowParts::findLostFocus(const QPointer<QWidget> &former)
 {
     if (!m_window->isActiveWindow() || m_window->focusWidget())
         return;
-    if (QWidget *next = former && m_window->isAncestorOf(former) ? nextStop(former) : nullptr)
-        next->setFocus(Qt::OtherFocusReason);
-    else
-        go(1);
+    QWidget *next = former && m_window->isAncestorOf(former) ? nextStop(former) : nullptr;
+    if (!next)
+        return go(1);
+    next->setFocus(Qt::OtherFocusReason);
+    scrollTo(next);
 }
 
 void WindowParts::go(int step)

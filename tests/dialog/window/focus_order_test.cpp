@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QMultiMap>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -196,6 +198,16 @@ private Q_SLOTS:
         window.dialog().task().setAttribute(u"number-up"_s, u"4"_s);
         auto *order = window.child<QWidget>(u"number-up-layout"_s);
         QTRY_VERIFY(order->isEnabled());
+        // The row is the last one of which something is seen.
+        QTest::qWait(100); // until the window has grown with what was disclosed
+        window.dialog().resize(window.dialog().width(), 1);
+        auto *area = window.pages()->currentWidget()->findChild<QScrollArea *>();
+        if (!area)
+            area = qobject_cast<QScrollArea *>(window.pages()->currentWidget());
+        QVERIFY(area);
+        QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+        area->verticalScrollBar()->setValue(0);
+        area->ensureWidgetVisible(order, 0, 0);
         QTRY_VERIFY(window.child<QToolButton>(u"undo"_s)->isEnabled());
         order->setFocus();
         UserHands hands(window.dialog());
@@ -204,6 +216,8 @@ private Q_SLOTS:
         QTRY_VERIFY(QApplication::focusWidget());
         QVERIFY(QApplication::focusWidget()->isEnabled());
         QVERIFY(window.pages()->isAncestorOf(QApplication::focusWidget()));
+        const QWidget *now = QApplication::focusWidget();
+        QCOMPARE(now->visibleRegion().boundingRect().height(), now->height());
     }
 
     // The focus is on the progress then, which is no stop of Tab: what is next to it is.
