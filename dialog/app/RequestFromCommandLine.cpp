@@ -1,5 +1,8 @@
 #include "dialog/app/RequestFromCommandLine.h"
 
+#include <chrono>
+#include <future>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -110,7 +113,30 @@ bool isUnattended(const CommandLine &line)
 
 namespace {
 
-bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *error)
+// How soon it is noticed that nobody wants the document any more.
+constexpr std::chrono::milliseconds kLook{50};
+
+// What is read to its end takes as long as somebody writes.
+Document readDocument(const QString &name, DocumentKinds kinds, QString *error,
+                      const std::function<bool()> &isStopped)
+{
+    const bool isStandardInput = name == "-"_L1;
+    if (!isStandardInput && !isReadToItsEnd(name))
+        return inspectDocument(name, error, kinds);
+    std::stop_source stop;
+    std::future<Document> reading = std::async(std::launch::async, [&] {
+        return isStandardInput ? readStandardInput(error, kinds, stop.get_token())
+                               : inspectDocument(name, error, kinds, stop.get_token());
+    });
+    while (reading.wait_for(kLook) != std::future_status::ready) {
+        if (isStopped && isStopped())
+            stop.request_stop();
+    }
+    return reading.get();
+}
+
+bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *error,
+                   const std::function<bool()> &isStopped)
 {
     const auto kinds = asksForRaw(request->options) ? DocumentKinds::Any : DocumentKinds::Known;
     // A window does not wait for whoever writes into a pipe. Standard input is read before there is
@@ -122,8 +148,7 @@ bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *erro
             request->toRead += name;
             continue;
         }
-        const Document document =
-            name == "-"_L1 ? readStandardInput(error, kinds) : inspectDocument(name, error, kinds);
+        const Document document = readDocument(name, kinds, error, isStopped);
         if (document.path.isEmpty())
             return false;
         request->documents += document;
@@ -133,7 +158,8 @@ bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *erro
 
 } // namespace
 
-std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error)
+std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString *error,
+                                                const std::function<bool()> &isStopped)
 {
     PrintRequest request;
     if (*error = problemOfClientFiles(); !error->isEmpty())
@@ -147,7 +173,7 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
         }
     }
     request.options = parseOptions(line.options) + line.switches;
-    if (!takeDocuments(line, &request, error))
+    if (!takeDocuments(line, &request, error, isStopped))
         return std::nullopt;
     request.printers = offeredPrinters(line);
     request.wantedPrinter = line.printer;

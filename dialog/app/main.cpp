@@ -146,6 +146,19 @@ int writeInstead(int argc, char **argv, const QStringList &arguments, bool input
     return writeInstead(parseCommandLine(arguments, inputIsGiven));
 }
 
+// Copies of documents are the user's, and go also where a signal ends the program while they are
+// made. `endedBySignal` is the exit status then.
+std::optional<PrintRequest> prepare(const CommandLine &line, QString *error, int *endedBySignal)
+{
+    const TerminationSignals termination;
+    std::optional<PrintRequest> request =
+        preparePrintRequest(line, error, [&] { return termination.caught() != 0; });
+    if (!termination.caught())
+        return request;
+    *endedBySignal = termination.exitStatus();
+    return std::nullopt;
+}
+
 int runDialog(const PrintRequest &request)
 {
     const TerminationSignals termination;
@@ -202,7 +215,10 @@ int main(int argc, char **argv)
             "main", "no display can be reached. Print without a window with --no-dialog."));
 
     QString error;
-    const std::optional<PrintRequest> request = preparePrintRequest(line, &error);
+    int endedBySignal = 0;
+    const std::optional<PrintRequest> request = prepare(line, &error, &endedBySignal);
+    if (endedBySignal)
+        return endedBySignal;
     if (!request && line.json)
         writeLine(refusalLine({}, {error}));
     if (!request)

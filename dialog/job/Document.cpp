@@ -217,9 +217,9 @@ QString nameOfFormat(const QString &format)
     return found == std::end(kFormats) ? QString() : Texts::tr(found->name);
 }
 
-Document readStandardInput(QString *error, DocumentKinds kinds)
+Document readStandardInput(QString *error, DocumentKinds kinds, const std::stop_token &stop)
 {
-    return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), kinds, error);
+    return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), kinds, error, stop);
 }
 
 bool isStandardInputGiven()

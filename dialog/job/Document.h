@@ -51,8 +51,9 @@ Document inspectDocument(const QString &path, QString *error,
 bool isReadToItsEnd(const QString &path);
 
 /// The document that comes on standard input, read to its end into a temporary file of the user's.
-/// Errors: as inspectDocument().
-Document readStandardInput(QString *error, DocumentKinds kinds = DocumentKinds::Known);
+/// Errors: as inspectDocument(); `stop` ends the reading early here, too.
+Document readStandardInput(QString *error, DocumentKinds kinds = DocumentKinds::Known,
+                           const std::stop_token &stop = {});
 
 /// What such a format is called, for people: "PDF document". Empty for one that is not printed.
 QString nameOfFormat(const QString &format);

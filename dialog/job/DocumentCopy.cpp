@@ -42,16 +42,16 @@ bool waitFor(int descriptor, int patience, const std::stop_token &stop)
     return false;
 }
 
-// As read(2), but it waits for data, whether the descriptor does so or not.
+// As read(2), but it waits for data, whether the descriptor does so or not, and can be stopped.
 qint64 readSome(int descriptor, char *data, size_t size, const std::stop_token &stop)
 {
     for (;;) {
+        waitFor(descriptor, -1, stop);
         if (stop.stop_requested())
             return -1;
         const ssize_t count = ::read(descriptor, data, size);
         if (count >= 0 || (errno != EAGAIN && errno != EINTR))
             return count;
-        waitFor(descriptor, -1, stop);
     }
 }
 

@@ -117,6 +117,9 @@ PageChoice pageChoiceOf(const QList<JobOption> &options)
 {
     PageChoice choice;
     for (const JobOption &option : options) {
+        // A PPD may have options of these names, and whatever it likes as their choices.
+        if (!isOfPageChoice(option) || !jobAttribute(option.name)->accepts(option.value))
+            continue;
         if (option.name == kRanges)
             choice.ranges = option.value;
         else if (option.name == kSet && option.value == "odd"_L1)
@@ -128,7 +131,7 @@ PageChoice pageChoiceOf(const QList<JobOption> &options)
         else if (option.name == kBookletAttribute && option.value == "right"_L1)
             choice.booklet = PageChoice::Booklet::Right;
         else if (option.name == kRepeatAttribute)
-            choice.repetitions = std::max(1, numberOr(option.value, 1));
+            choice.repetitions = numberOr(option.value, 1);
     }
     return choice;
 }

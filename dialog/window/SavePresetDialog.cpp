@@ -128,7 +128,9 @@ void SavePresetDialog::check()
 void SavePresetDialog::makeRoom()
 {
     layout()->activate();
-    const int needed = layout()->totalHeightForWidth(width());
+    // Nothing in it wraps before there is something to say of the name.
+    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
+                                                     : layout()->totalMinimumSize().height();
     setMinimumHeight(needed);
     if (height() < needed)
         resize(width(), needed);

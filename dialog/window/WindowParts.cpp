@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QTimer>
 
 namespace corvana {
 
@@ -15,12 +17,32 @@ bool canFocus(const QWidget *widget)
            widget->focusPolicy() != Qt::NoFocus;
 }
 
+// Where Tab would lead from it; null where it leads nowhere.
+QWidget *nextStop(const QWidget *widget)
+{
+    QWidget *next = widget->nextInFocusChain();
+    for (; next && next != widget; next = next->nextInFocusChain()) {
+        if (canFocus(next) && (next->focusPolicy() & Qt::TabFocus))
+            return next;
+    }
+    return nullptr;
+}
+
+// Only Tab does so by itself.
+void scrollTo(QWidget *widget)
+{
+    for (QWidget *above = widget->parentWidget(); above; above = above->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(above))
+            area->ensureWidgetVisible(widget);
+    }
+}
+
 } // namespace
 
 WindowParts::WindowParts(QWidget *window) : QObject(window), m_window(window)
 {
     connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget *, QWidget *now) { focusChanged(now); });
+            [this](QWidget *former, QWidget *now) { focusChanged(former, now); });
     connect(new QShortcut(Qt::Key_F6, window), &QShortcut::activated, this, [this] { go(1); });
     connect(new QShortcut(Qt::SHIFT | Qt::Key_F6, window), &QShortcut::activated, this,
             [this] { go(-1); });
@@ -31,12 +53,27 @@ void WindowParts::add(QWidget *part, const std::function<QWidget *()> &first)
     m_parts += {part, first, nullptr};
 }
 
-void WindowParts::focusChanged(QWidget *now)
+void WindowParts::focusChanged(QWidget *former, QWidget *now)
 {
+    // Qt looks for another one when the control itself is disabled, not when its row is.
+    if (!now && former && m_window->isAncestorOf(former))
+        QTimer::singleShot(0, this,
+                           [this, lost = QPointer<QWidget>(former)] { findLostFocus(lost); });
     for (Part &part : m_parts) {
         if (now && part.widget && (part.widget == now || part.widget->isAncestorOf(now)))
             part.last = now;
     }
+}
+
+void WindowParts::findLostFocus(const QPointer<QWidget> &former)
+{
+    if (!m_window->isActiveWindow() || m_window->focusWidget())
+        return;
+    QWidget *next = former && m_window->isAncestorOf(former) ? nextStop(former) : nullptr;
+    if (!next)
+        return go(1);
+    next->setFocus(Qt::OtherFocusReason);
+    scrollTo(next);
 }
 
 void WindowParts::go(int step)

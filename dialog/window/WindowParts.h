@@ -9,6 +9,7 @@
 namespace corvana {
 
 /// The parts of a window between which F6 moves the focus: each gets it back where it had it last.
+/// Where a control with the focus is disabled or goes, the next one that keys reach has it.
 class WindowParts : public QObject
 {
     Q_OBJECT
@@ -27,7 +28,8 @@ private:
         QPointer<QWidget> last;
     };
 
-    void focusChanged(QWidget *now);
+    void focusChanged(QWidget *former, QWidget *now);
+    void findLostFocus(const QPointer<QWidget> &former);
     void go(int step);
 
     QWidget *m_window;

@@ -107,6 +107,31 @@ whatCameOnStandardInputIsRemovedAsWell() {
     expect_nothing_left
 }
 
+# Its writer is not done yet: a shell's Ctrl-C ends a whole pipeline.
+whatComesOnStandardInputIsRemovedBeforeItsEnd() {
+    local signal number
+    mkdir "$work/tmp"
+    environment+=("${signals[@]}" "TMPDIR=$work/tmp")
+    mkfifo "$work/pipe"
+    while read -r signal number; do
+        env "${environment[@]}" "$program" --bundle-root "$bundles" --no-dialog "${printer[@]}" \
+            --output "$output" "$document" - >"$work/out" 2>"$work/err" <"$work/pipe" &
+        dialog=$!
+        exec 9>"$work/pipe"
+        yes 'A line of a letter.' | head -c 50000 >&9
+        await 'a copy of what came' grep -qr letter "$work/tmp"
+        kill -s "$signal" "$dialog"
+        expect_end
+        expect_status $((128 + number))
+        expect_equal "$(ls -A "$work/tmp")" ''
+        exec 9>&-
+    done <<'TABLE'
+INT 2
+TERM 15
+HUP 1
+TABLE
+}
+
 # The sides that were laid out to be counted are kept, so that they can be shown.
 theSidesThatAreKeptAreRemovedAsWell() {
     long_chain

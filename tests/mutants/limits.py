@@ -120,9 +120,20 @@ def _work_of(session):
             all(fields[0] not in (b"R", b"D") for fields in processes))
 
 
+def _hears_sigterm(pid):
+    """Whether a process does something of its own about it. On a busy machine that takes longer than anybody
+    would look at a window."""
+    try:
+        with open(f"/proc/{pid}/status", encoding="ascii", errors="replace") as status:
+            taken = next((line for line in status if line.startswith("SigCgt:")), "SigCgt: 0")
+    except OSError:
+        return False  # it has ended
+    return bool(int(taken.split()[1], 16) >> (signal.SIGTERM - 1) & 1)
+
+
 def run(command, environment, folder, looks_at_memory=False, end_after=None):
     """Runs a command in a folder, where it leaves what was said as "out" and "err". `end_after`: so many
-    seconds later it is asked to end, as a desktop does."""
+    seconds after it hears that, it is asked to end, as a desktop does."""
     end = End()
     with open(folder / "out", "wb") as out, open(folder / "err", "wb") as err:
         begin = time.monotonic()
@@ -130,6 +141,7 @@ def run(command, environment, folder, looks_at_memory=False, end_after=None):
                                    stdout=out, stderr=err, start_new_session=True)
         pause = 0.002
         idleness = Idleness(process.pid)
+        ends_at = None
         while True:
             pid, status, usage = os.wait4(process.pid, os.WNOHANG)
             if pid:
@@ -137,9 +149,11 @@ def run(command, environment, folder, looks_at_memory=False, end_after=None):
             end.wall = time.monotonic() - begin
             if looks_at_memory:
                 end.own_memory = max(end.own_memory, _peak(process.pid))
-            if end_after is not None and end.wall > end_after:
+            if end_after is not None and ends_at is None and _hears_sigterm(process.pid):
+                ends_at = end.wall + end_after
+            if ends_at is not None and end.wall > ends_at:
                 os.kill(process.pid, signal.SIGTERM)
-                end_after = None
+                end_after = ends_at = None
             end.hung = idleness.lasts_too_long()
             if end.hung or end.wall > WALL_SECONDS:
                 _end_session(process.pid)

@@ -90,6 +90,16 @@ class LimitsTest(unittest.TestCase):
                 self.assertEqual(end.status is None, is_idle, end.err)
                 self.assertEqual("none of it lately" in "; ".join(kinds.problems_of(case, end)), is_idle)
 
+    def test_a_window_is_closed_when_it_can_hear_of_it(self):
+        """However long it takes to get there."""
+        script = ("import signal, sys, time; time.sleep(0.6); "
+                  "signal.signal(signal.SIGTERM, lambda *_: sys.exit(143)); time.sleep(8)")
+        with tempfile.TemporaryDirectory() as folder:
+            case = self.case(folder, "")
+            end = limits.run([sys.executable, "-c", script], dict(os.environ), case.folder, end_after=0.2)
+            self.assertEqual(end.status, 143)
+            self.assertLess(end.wall, 5)
+
     def test_memory_and_time_are_measured(self):
         with tempfile.TemporaryDirectory() as folder:
             case = self.case(folder, "")

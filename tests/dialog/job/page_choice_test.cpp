@@ -224,6 +224,27 @@ private Q_SLOTS:
                  (QList<JobOption>{{u"number-up"_s, u"2"_s}, {u"page-set"_s, u"all"_s}}));
     }
 
+    // Each page a billion times would take all the memory that there is.
+    void whatAPpdCallsTheSameIsNoChoiceOfPages_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("ranges") << u"page-ranges"_s << u"One"_s;
+        QTest::newRow("times") << u"repeat"_s << u"2000000000"_s;
+        QTest::newRow("less than once") << u"repeat"_s << u"-1"_s;
+        QTest::newRow("set") << u"page-set"_s << u"None"_s;
+        QTest::newRow("booklet") << u"booklet"_s << u"On"_s;
+    }
+    void whatAPpdCallsTheSameIsNoChoiceOfPages()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QVERIFY(pageChoiceOf({{name, value}}).isAll());
+        QCOMPARE(pageChoiceOf({{name, value}}).repetitions, 1);
+        QCOMPARE(pickedPages(pageChoiceOf({{name, value}}), 5, u"d"_s),
+                 (QStringList{u"d"_s, u"1-5"_s}));
+    }
+
     void pagesArePickedWhereSeveralShareASide()
     {
         const JobOption two{u"number-up"_s, u"2"_s};

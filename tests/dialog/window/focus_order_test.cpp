@@ -7,9 +7,12 @@
 #include <QLabel>
 #include <QMultiMap>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 
 #include "dialog/job/JobProgress.h"
 #include "dialog/window/JobFooter.h"
@@ -180,6 +183,41 @@ private Q_SLOTS:
         for (const QKeySequence &key : keys.uniqueKeys())
             QVERIFY2(keys.count(key) == 1,
                      qPrintable(key.toString() + u": "_s + keys.values(key).join(u", "_s)));
+    }
+
+    // Undoing the pages on a side takes the effect of their order away, in which the focus is.
+    void aRowThatIsDisabledHandsTheFocusOn()
+    {
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line), WindowDriver::Activation::Yes);
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().phase(), PrintTask::Phase::Ready,
+                                  kWindowPatience);
+        QVERIFY(window.waitForPanel(1));
+        window.child<QPushButton>(u"more"_s)->setChecked(true);
+        window.dialog().task().setAttribute(u"number-up"_s, u"4"_s);
+        auto *order = window.child<QWidget>(u"number-up-layout"_s);
+        QTRY_VERIFY(order->isEnabled());
+        // The row is the last one of which something is seen.
+        QTest::qWait(100); // until the window has grown with what was disclosed
+        window.dialog().resize(window.dialog().width(), 1);
+        auto *area = window.pages()->currentWidget()->findChild<QScrollArea *>();
+        if (!area)
+            area = qobject_cast<QScrollArea *>(window.pages()->currentWidget());
+        QVERIFY(area);
+        QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+        area->verticalScrollBar()->setValue(0);
+        area->ensureWidgetVisible(order, 0, 0);
+        QTRY_VERIFY(window.child<QToolButton>(u"undo"_s)->isEnabled());
+        order->setFocus();
+        UserHands hands(window.dialog());
+        hands.key(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_VERIFY(!order->isEnabled());
+        QTRY_VERIFY(QApplication::focusWidget());
+        QVERIFY(QApplication::focusWidget()->isEnabled());
+        QVERIFY(window.pages()->isAncestorOf(QApplication::focusWidget()));
+        const QWidget *now = QApplication::focusWidget();
+        QCOMPARE(now->visibleRegion().boundingRect().height(), now->height());
     }
 
     // The focus is on the progress then, which is no stop of Tab: what is next to it is.

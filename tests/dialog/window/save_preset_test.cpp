@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -181,6 +182,19 @@ private Q_SLOTS:
             }
             QCoreApplication::removeTranslator(&translator);
         }
+    }
+
+    void withNothingToSayTheDialogIsAsLowAsItsRows()
+    {
+        open();
+        QTest::failOnWarning(QRegularExpression(u"Negative sizes"_s));
+        SavePresetDialog dialog(presets(), false);
+        const auto *remark = dialog.findChild<QLabel *>(u"presetRemark"_s);
+        dialog.show();
+        QCoreApplication::processEvents();
+        QVERIFY(remark->text().isEmpty());
+        QVERIFY(dialog.minimumHeight() > 0);
+        QVERIFY(dialog.height() >= dialog.minimumSizeHint().height());
     }
 
     void theInstanceGoesAlongWithThePreset()
