@@ -4,7 +4,6 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 namespace corvana {
@@ -59,7 +58,16 @@ PresetWork::~PresetWork()
 {
     std::unique_lock lock(m_queue->mutex);
     m_queue->owner = nullptr;
-    m_queue->changed.wait_for(lock, kPatienceAtEnd, [this] { return !m_queue->isRunning; });
+    const bool isDone =
+        m_queue->changed.wait_for(lock, kPatienceAtEnd, [this] { return !m_queue->isRunning; });
+    lock.unlock();
+    if (!m_thread.joinable())
+        return;
+    // What a thread leaves behind at its very end uses what the end of the program destroys.
+    if (isDone)
+        m_thread.join();
+    else
+        m_thread.detach();
 }
 
 void PresetWork::run(std::function<Then()> work)
@@ -69,7 +77,9 @@ void PresetWork::run(std::function<Then()> work)
     m_queue->work.push_back(std::move(work));
     if (std::exchange(m_queue->isRunning, true))
         return;
-    std::thread([queue = m_queue] { Queue::serve(queue); }).detach();
+    if (m_thread.joinable())
+        m_thread.join(); // it has nothing left to do
+    m_thread = std::thread([queue = m_queue] { Queue::serve(queue); });
 }
 
 void PresetWork::takeDone()

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <thread>
 
 #include <QObject>
 
@@ -36,6 +37,7 @@ private:
     void takeDone();
 
     std::shared_ptr<Queue> m_queue;
+    std::thread m_thread; // the last that was begun
     int m_pending = 0;
 };
 

@@ -225,6 +225,17 @@ QList<JobOption> answerTo(const JobOption &option, const QList<JobOption> &attri
     return {areMarked(choices, *printer.session) ? option : JobOption{option.name, usual}};
 }
 
+// The filters of CUPS fill up copies to whole sheets where either says that a job has two sides.
+bool isAddedToOneSide(const JobOption &option, const OpenedPrinter &printer)
+{
+    static const QList<JobOption> kTwoSides{{u"sides"_s, u"two-sided-long-edge"_s},
+                                            {u"sides"_s, u"two-sided-short-edge"_s}};
+    return kTwoSides.contains(option) &&
+           std::none_of(kTwoSides.cbegin(), kTwoSides.cend(), [&](const JobOption &sides) {
+               return areMarked(choicesOf(sides, printer), *printer.session);
+           });
+}
+
 // A booklet is printed on both sides, which are turned over at the short edge, unless its options
 // say how themselves.
 QList<JobOption> foldingOf(const QList<JobOption> &options, const OpenedPrinter &printer)
@@ -334,8 +345,12 @@ QList<JobOption> withAnswersTo(const QList<JobOption> &defaults, const QList<Job
     if (passesFilesOn(printer))
         return all;
     for (const JobOption &option : defaults) {
-        if (!isNamed(attributes, option.name) && !isSaidByTheJob(option, printer))
+        if (isNamed(attributes, option.name))
+            continue;
+        if (!isSaidByTheJob(option, printer))
             all += answerTo(option, attributes, printer);
+        else if (isAddedToOneSide(option, printer))
+            all += JobOption{option.name, u"one-sided"_s};
     }
     return all;
 }

@@ -10,6 +10,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "dialog/presets/Preset.h"
 #include "dialog/printers/UserQueues.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/TaskPresets.h"
@@ -181,7 +182,7 @@ private:
             sayProblem(one);
         if (!m_task.request().quiet)
             QTextStream(stdout) << Texts::tr("The preset “%1” is kept.")
-                                       .arg(terminalLine(m_task.request().presetToSave))
+                                       .arg(terminalLine(presetName(m_task.request().presetToSave)))
                                 << "\n";
         end(problems.isEmpty() ? ExitStatus::Done : ExitStatus::Failed);
     }

@@ -28,6 +28,13 @@ theSameIsPrintedByNameAsByOptions() {
     expect_equal "$(sed '/^Printed/d' "$work/out")" "$(sed '/^Printed/d' "$work/summary")"
 }
 
+theNameThatIsSaidIsTheOneThatIsKept() {
+    save '  Monthly   letters '
+    expect_lines 'The preset “Monthly letters” is kept.'
+    run --list-presets
+    expect_equal "$(cut -f 1 "$work/out")" 'Monthly letters'
+}
+
 anOptionCountsMore() {
     save Reports "${settings[@]}"
     print --preset Reports -o QXMediaType=Thin

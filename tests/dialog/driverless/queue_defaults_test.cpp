@@ -155,6 +155,17 @@ private Q_SLOTS:
                  (QList<JobOption>{{u"sides"_s, u"two-sided-short-edge"_s}}));
     }
 
+    void bothSidesAreTheAdministratorsAlsoWhereThePpdSaysSo()
+    {
+        PrinterAttributes queue = untouched();
+        queue.keywords("sides-supported", {"one-sided", "two-sided-long-edge"});
+        queue.keywords("sides-default", {"two-sided-long-edge"});
+        QCOMPARE(queueDefaults(queue.ipp()), QList<JobOption>());
+        queue.keywords("sides-default", {"two-sided-long-edge"});
+        QCOMPARE(queueDefaults(queue.ipp()),
+                 (QList<JobOption>{{u"sides"_s, u"two-sided-long-edge"_s}}));
+    }
+
     void aPrinterWithoutColorsIsBlackAndWhiteAnyway()
     {
         PrinterAttributes queue;

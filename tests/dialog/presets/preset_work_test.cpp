@@ -9,6 +9,23 @@
 
 using namespace corvana;
 
+namespace {
+
+std::atomic<bool> hasEnded = false;
+
+// Something of a thread's own that takes its time to go.
+struct OfThread
+{
+    ~OfThread()
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        hasEnded = true;
+    }
+    int uses = 0;
+};
+
+} // namespace
+
 /// Files are read and written beside the window, never in it.
 class PresetWorkTest : public QObject
 {
@@ -67,6 +84,20 @@ private Q_SLOTS:
         QCOMPARE(written.load(), 3);
         QCoreApplication::processEvents();
         QVERIFY(!isAnswered);
+    }
+
+    // Else it may outlive what the end of the program destroys.
+    void itsThreadHasEndedWithIt()
+    {
+        {
+            PresetWork work;
+            work.run([]() -> PresetWork::Then {
+                thread_local OfThread ofThread;
+                ++ofThread.uses;
+                return {};
+            });
+        }
+        QVERIFY(hasEnded);
     }
 };
 

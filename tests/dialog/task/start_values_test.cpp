@@ -1,6 +1,7 @@
 #include <QFile>
 #include <QTest>
 
+#include "dialog/session/OptionNames.h"
 #include "dialog/task/AttributeEffects.h"
 #include "tests/dialog/task/StartValuesScene.h"
 #include "tests/support/Rows.h"
@@ -217,7 +218,9 @@ private Q_SLOTS:
             u"collate=false multiple-document-handling=separate-documents-uncollated-copies"_s);
         row("what nothing can be said against", u"Sparkle=bright"_s, {}, u"Sparkle=bright"_s);
         row("a choice of the PPD", u"Media=Card"_s, {}, {});
-        row("what is a choice of the PPD", u"sides=two-sided-long-edge"_s, {}, {});
+        row("what is a choice of the PPD", u"media=Postcard"_s, {}, {});
+        row("two sides", u"sides=two-sided-long-edge"_s, {}, u"sides=one-sided"_s);
+        row("one side", u"sides=one-sided"_s, {}, {});
         row("none", {}, u"number-up=4"_s, u"number-up=4"_s);
     }
     void aDefaultThatTheJobDoesNotNameIsAnswered()
@@ -231,6 +234,17 @@ private Q_SLOTS:
         for (const JobOption &option : withAnswersToDefaults(parseOptions({ofJob}), *m_printer))
             answered += u"%1=%2"_s.arg(option.name, option.value);
         QCOMPARE(answered.join(u' '), sent);
+    }
+
+    void twoSidesThatTheJobHasNeedNoAnswer()
+    {
+        start();
+        m_printer->fetched.defaults = parseOptions({u"sides=two-sided-long-edge"_s});
+        for (const char *choice : {"DuplexNoTumble", "DuplexTumble"}) {
+            QVERIFY(m_printer->session->changeTogether({{kDuplexOption, QLatin1StringView(choice)}})
+                        .isEmpty());
+            QCOMPARE(withAnswersToDefaults({}, *m_printer), QList<JobOption>());
+        }
     }
 
     // The printer's own option is what the user changes; no name of it says otherwise.
