@@ -55,7 +55,7 @@ void FileJob::convert(const QString &problem)
     request.documents = m_texts->documents();
     request.ticket = m_request.ticket;
     if (request.documents != m_request.documents)
-        request.ticket.options = optionsAfterTexts(request.ticket.options, request.documents);
+        request.ticket.options = optionsAfterTexts(request.ticket.options, m_request.documents);
     request.ppdPath = m_request.ppdPath;
     request.outputPath = m_result->path();
     request.outputName = m_request.outputPath;

@@ -336,11 +336,12 @@ bool mustBecomePdf(const Document &document, const QList<JobOption> &options)
                    std::find(usual.begin(), usual.end(), option.value) == usual.end();
         };
         const bool byAny = is("number-up"_L1, {"1"_L1}) || is("page-border"_L1, {"none"_L1});
-        const bool byPicture = is("mirror"_L1, {"false"_L1});
+        // Of PostScript that sets its device up on each page, which undoes it, as well.
+        const bool isMirrored = is("mirror"_L1, {"false"_L1});
         const bool byPostScript = is("orientation-requested"_L1, {"3"_L1}) ||
                                   is("print-scaling"_L1, {"auto"_L1, "none"_L1}) ||
                                   is("fit-to-page"_L1, {"false"_L1});
-        return byAny || (isPostScript ? byPostScript : byPicture);
+        return byAny || isMirrored || (isPostScript && byPostScript);
     };
     return !pageChoiceOf(options).isAll() ||
            std::any_of(options.cbegin(), options.cend(), asksForPages);

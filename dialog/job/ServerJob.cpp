@@ -102,9 +102,9 @@ void ServerJob::layOutTexts()
             return finish({JobOutcome::Kind::Canceled, 0, tr("Printing was canceled.")});
         if (!problem.isEmpty())
             return finish({JobOutcome::Kind::Failed, 0, problem});
-        m_request.documents = m_texts->documents();
         for (QList<JobOption> *list : {&m_request.ticket.options, &m_request.chosenOptions})
             *list = optionsAfterTexts(*list, m_request.documents);
+        m_request.documents = m_texts->documents();
         convert();
     });
     m_texts->start();

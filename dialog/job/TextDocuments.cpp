@@ -136,11 +136,10 @@ QList<JobOption> optionsAfterTexts(const QList<JobOption> &options,
                                    const QList<Document> &documents)
 {
     QList<JobOption> left = options;
-    const bool anyPicture =
-        std::any_of(documents.cbegin(), documents.cend(), [](const Document &document) {
-            return document.format.startsWith("image/"_L1);
-        });
-    if (!anyPicture)
+    const bool onlyTexts =
+        std::all_of(documents.cbegin(), documents.cend(),
+                    [](const Document &document) { return document.format == kText; });
+    if (onlyTexts)
         left.removeIf([](const JobOption &option) {
             return isAppliedTo(JobAttribute::AppliedTo::Document, option);
         });

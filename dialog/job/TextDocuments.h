@@ -70,7 +70,7 @@ private:
 };
 
 /// The options of a job whose texts were made into pages: what shaped them is left out, unless
-/// there is a picture that it shapes, too.
+/// there is another document (of these, as they were before) that it shapes, too.
 QList<JobOption> optionsAfterTexts(const QList<JobOption> &options,
                                    const QList<Document> &documents);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "dialog/job/FilterPlan.h"
+#include "dialog/job/PostScriptPages.h"
 #include "dialog/job/PpdFilters.h"
 #include "dialog/job/ResultPages.h"
 #include "dialog/session/JobAttributes.h"
@@ -36,18 +38,35 @@ QStringList problemsOfEmpty(const JobSheets &sheets, const PageChoice &choice, b
     return emptyDocuments(sheets, choice);
 }
 
+// Whether pstops, which finds pages by their marks only, has to turn them round, or to put a blank
+// side behind the last one of a copy.
+bool needsMarks(const DocumentSheets &document, const SheetRequest &request,
+                const JobTicket &ticket, ppd_file_t *ppd)
+{
+    const bool endsOnFront = request.traits.isTwoSided && document.sides.value_or(0) % 2 == 1;
+    return printsLastPageFirst(ppd, ticket.options) || (endsOnFront && ticket.copies > 1);
+}
+
 // CUPS' pstops, through which PostScript goes to a printer that takes PostScript, sends pages as
-// large as they are into a corner of the paper. What was laid out, shown and said of others than
-// those of the paper comes out by way of a PDF only, at the price of what such a document asks of
-// the device itself.
-bool losesLayout(const JobSheets &sheets, const SheetRequest &request, ppd_file_t *ppd)
+// large as they are into a corner of the paper, and nothing at all of a picture that does not end
+// its page. What was laid out, shown and said otherwise comes out by way of a PDF only, at the
+// price of what such a document asks of the device itself.
+bool losesLayout(const JobSheets &sheets, const SheetRequest &request, const JobTicket &ticket,
+                 ppd_file_t *ppd)
 {
     if (!becomesPostScript(ppd))
         return false;
     const qsizetype count = std::min(sheets.documents.size(), request.documents.size());
     for (qsizetype i = 0; i < count; ++i) {
-        if (request.documents.at(i).format == kPostScript &&
-            isLaidOutOtherwise(sheets.documents.at(i), request.traits.paper))
+        const Document &document = request.documents.at(i);
+        const DocumentSheets &laidOut = sheets.documents.at(i);
+        if (document.format != kPostScript || laidOut.sides.value_or(0) == 0)
+            continue;
+        // What is picked of it is picked as of a PDF, with the blank sides that this gets.
+        if (isLaidOutOtherwise(laidOut, request.traits.paper) ||
+            mustBecomePdf(document, request.options) || isEncapsulated(document.path) ||
+            (needsMarks(laidOut, request, ticket, ppd) &&
+             !marksPages(document.path, laidOut.pages.value_or(0))))
             return true;
     }
     return false;
@@ -270,7 +289,7 @@ void PrintTask::sheetsKnown()
     if (m_phase != Phase::Printing)
         return; // canceled, while a question was waiting for its answer
     if (!refusal) {
-        if (sheets && losesLayout(*sheets, request, m_opened->session->ppd()))
+        if (sheets && losesLayout(*sheets, request, m_run.ticket, m_opened->session->ppd()))
             m_run.ticket.postScriptAsPdf = true;
         return startJob(m_run.ticket);
     }

@@ -7,6 +7,7 @@
 #include <QIODevice>
 #include <QList>
 
+#include "dialog/text/HalfWidthKana.h"
 #include "dialog/text/TextDecoder.h"
 
 namespace corvana {
@@ -100,8 +101,9 @@ struct Counts
     int characters = 0; // of two bytes or more
     int frequent = 0;
     int kana = 0;
-    int odd = 0;    // what such a text hardly has: halves of syllables, private characters
-    int blanks = 0; // between two characters of two bytes
+    int halfWidth = 0; // syllables
+    int odd = 0;       // what such a text hardly has: halves of syllables, private characters
+    int blanks = 0;    // between two characters of two bytes
 };
 
 bool contains(const Frequent &range, uchar byte)
@@ -124,7 +126,7 @@ Counts countPairs(const Legacy &legacy, const QByteArray &sample)
         }
         if (isShiftJis && byte >= 0xA1 && byte <= 0xDF) {
             ++counts.characters;
-            ++counts.odd; // a half-width syllable
+            ++counts.halfWidth;
             continue;
         }
         const uchar next = i + 1 < sample.size() ? static_cast<uchar>(sample.at(i + 1)) : 0;
@@ -166,14 +168,17 @@ double scoreOf(const Legacy &legacy, const QByteArray &sample)
     const Counts counts = countPairs(legacy, sample);
     if (counts.characters == 0)
         return 0.5; // nothing but signs
-    double share = double(counts.frequent + counts.kana) / counts.characters;
+    // Narrow syllables in pairs could be ideographs of another encoding, which go first.
+    constexpr double kPerhaps = 0.9;
+    const int narrow = hasHalfWidthWords(sample) ? counts.halfWidth : 0;
+    double share = (counts.frequent + counts.kana + kPerhaps * narrow) / counts.characters;
     // A few words say nothing of their language; the user's decides.
     constexpr int kSentence = 20;
     if (counts.characters < kSentence)
         return share;
     // A Japanese text has syllables between its ideographs, or is no sentence.
     const bool isJapanese = QLatin1StringView(legacy.language) == "ja"_L1;
-    if (isJapanese && counts.kana * 20 < counts.characters)
+    if (isJapanese && (counts.kana + narrow) * 20 < counts.characters)
         share *= 0.8;
     // Korean syllables fill a part of the rows that Chinese ideographs are in: all of a text in
     // that part is no chance.

@@ -341,29 +341,6 @@ private Q_SLOTS:
             QVERIFY(!inksOf(printedWith(u"color"_s)).value(0).startsWith("0.00000 0.00000"));
     }
 
-    // A3 on A4. The filter behind PDF makes it smaller, the one behind PostScript would not.
-    void postScriptOfAnotherSizeIsMadeToFit()
-    {
-        m_cups->addQueue(u"office"_s, kPpd);
-        const QByteArray page = "<</PageSize [%s]>> setpagedevice\n"
-                                "100 100 200 200 rectfill showpage\n(a setting) pop\n";
-        const auto printedDocument = [&](const QByteArray &content) {
-            m_runner->run({u"-d"_s, u"office"_s, write(u"page.ps"_s, content)});
-            return m_cups->capture(u"office"_s).jobs().constLast().data;
-        };
-        const auto printedPage = [&](const char *size) {
-            return printedDocument("%!PS-Adobe-3.0\n" + QByteArray(page).replace("%s", size));
-        };
-        const QByteArray large = printedPage("842 1191");
-        const QByteArray ink = inksOf(large).value(0).split(' ').last();
-        QVERIFY2(ink.toDouble() > 0.03 && ink.toDouble() < 0.05, ink.constData());
-        QVERIFY(!large.contains("/PageSize [842 1191]"));
-        // What is as large as the paper gets to the printer with all that it says to it.
-        QVERIFY(printedPage("595 842").contains("(a setting) pop"));
-        // So does what draws nothing, which may set the printer up.
-        QVERIFY(printedDocument("%!PS\n(a setting) pop\n").contains("(a setting) pop"));
-    }
-
     void aRasterFileIsOne()
     {
         const QString output = m_runner->filePath(u"result"_s);

@@ -57,7 +57,7 @@ const Asked kAsked[] = {
     {"scaled as usual", "print-scaling", "auto", false, false},
     {"not scaled", "print-scaling", "none", false, false},
     {"scaled", "print-scaling", "fill", false, true},
-    {"mirrored", "mirror", "true", true, false},
+    {"mirrored", "mirror", "true", true, true},
     {"an option of the printer", "Tray", "Lower", false, false},
 };
 

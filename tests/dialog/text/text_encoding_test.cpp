@@ -18,6 +18,10 @@ namespace {
 constexpr auto kJapanese =
     "印刷の設定を確認してください。用紙は「厚紙」を選び、両面で印刷します。\n"
     "カラーの調整は、次のページで行うことができます。\n";
+// As older machines write lists: narrow syllables, among them such as have a mark of voice.
+constexpr auto kNarrow = "ﾃｽﾄ ﾃﾞｰﾀ ﾌｧｲﾙ\nｺｰﾄﾞ ｼｮｳﾋﾝﾒｲ ｽｳﾘｮｳ ｷﾝｶﾞｸ\n001 ﾎﾞｰﾙﾍﾟﾝ 10 1,500\n";
+constexpr auto kNarrowAndWide = "ｺｰﾄﾞ 商品名 数量 ｷﾝｶﾞｸ\n001 ﾎﾞｰﾙﾍﾟﾝ（黒） 10 1,500\n"
+                                "002 ﾉｰﾄ 5 800\n請求書のﾃﾞｰﾀを印刷します。\n";
 constexpr auto kSimplified = "请检查打印设置。选择厚纸，然后双面打印。颜色可以在下一页中进行调整，"
                              "如果打印机没有响应，请与管理员联系。\n";
 constexpr auto kSpaced = "打印 设置 纸张 尺寸 双面 颜色 调整 质量 份数 方向 页面 预览 帮助 取消 "
@@ -89,6 +93,14 @@ constexpr Writing kWritings[] = {
     {"UTF-16BE without a mark", kGerman, "UTF-16BE", "UTF-16BE", ""},
     {"Shift_JIS", kJapanese, "CP932", "CP932", "ja"},
     {"Shift_JIS, for a Chinese", kJapanese, "CP932", "CP932", "ja", "zh_CN"},
+    {"Shift_JIS, narrow syllables", kNarrow, "CP932", "CP932", "ja"},
+    {"Shift_JIS, narrow syllables, for a Japanese", kNarrow, "CP932", "CP932", "ja", "ja"},
+    {"Shift_JIS, one narrow word", "ﾃｽﾄ\n", "CP932", "CP932", "ja", "ja"},
+    {"Shift_JIS, narrow syllables and ideographs", kNarrowAndWide, "CP932", "CP932", "ja", "ja"},
+    {"Shift_JIS, narrow syllables and ideographs, for anybody", kNarrowAndWide, "CP932", "CP932",
+     "ja"},
+    {"EUC-JP, as narrow syllables it would be some", "商品\n", "EUC-JP", "EUC-JP-MS", "ja", "ja"},
+    {"GBK, as narrow syllables it would be some", "中文\n", "GBK", "GB18030", "zh_CN", "zh_CN"},
     {"EUC-JP", kJapanese, "EUC-JP", "EUC-JP-MS", "ja"},
     {"EUC-JP, for a Chinese", kJapanese, "EUC-JP", "EUC-JP-MS", "ja", "zh_CN"},
     {"ISO-2022-JP", kJapanese, "ISO-2022-JP", "ISO-2022-JP", "ja"},
