@@ -104,7 +104,8 @@ void TextDocuments::layOutText(const QString &pdf)
 
 void TextDocuments::convertPostScript(const QString &pdf)
 {
-    ConversionRequest request{{m_documents.at(m_next)}, {}, m_ppdPath};
+    // A document that names no size has that of the paper.
+    ConversionRequest request{{m_documents.at(m_next)}, m_ticket, m_ppdPath};
     request.outputPath = pdf;
     request.outputName = pdf;
     request.result = ConversionRequest::Result::Pdf;
