@@ -12,8 +12,10 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/CustomValue.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/MarksByCups.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/RequestedOptions.h"
+#include "dialog/session/TwoSided.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
 #include "dialog/task/Collation.h"
@@ -230,9 +232,13 @@ bool isAddedToOneSide(const JobOption &option, const OpenedPrinter &printer)
 {
     static const QList<JobOption> kTwoSides{{u"sides"_s, u"two-sided-long-edge"_s},
                                             {u"sides"_s, u"two-sided-short-edge"_s}};
-    return kTwoSides.contains(option) &&
+    if (!kTwoSides.contains(option))
+        return false;
+    const PpdSession &session = *printer.session;
+    const QList<JobOption> chosen = jobOptions(session, printer.jobValues, {});
+    return std::none_of(chosen.cbegin(), chosen.cend(), isTwoSidedChoice) &&
            std::none_of(kTwoSides.cbegin(), kTwoSides.cend(), [&](const JobOption &sides) {
-               return areMarked(choicesOf(sides, printer), *printer.session);
+               return areMarked(choicesByCups(session.ppd(), {sides}), session);
            });
 }
 
