@@ -141,8 +141,8 @@ bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *erro
     const auto kinds = asksForRaw(request->options) ? DocumentKinds::Any : DocumentKinds::Known;
     // A window does not wait for whoever writes into a pipe. Standard input is read before there is
     // one, and so is what stands before it: documents keep their order.
-    const bool mayBeLater = !isUnattended(line) && kinds == DocumentKinds::Known &&
-                            !line.documents.contains(u"-"_s);
+    const bool mayBeLater =
+        !isUnattended(line) && kinds == DocumentKinds::Known && !line.documents.contains(u"-"_s);
     for (const QString &name : line.documents) {
         if (mayBeLater && (!request->toRead.isEmpty() || isReadToItsEnd(name))) {
             request->toRead += name;

@@ -82,7 +82,8 @@ bool isAdministrators(const QString &name, const QStringList &said, ipp_t *attri
 {
     if (!isMirror(name))
         return true;
-    // The server adds its own also where the PPD says the same, and a job on one side has to answer.
+    // The server adds its own also where the PPD says the same, and a job on one side has to
+    // answer.
     if (said.size() > 1)
         return said.constFirst() != said.constLast() ||
                (name == "sides"_L1 && said.constFirst() != "one-sided"_L1);

@@ -87,7 +87,7 @@ private:
     QString name() const { return jobName(m_printer, m_job); }
 
     Printer m_printer;
-    QString m_movedFrom; // the name of the queue; empty where it still is there
+    QString m_movedFrom;                    // the name of the queue; empty where it still is there
     std::optional<bool> m_isRawNow = false; // after it was moved
     bool m_mayBeEmpty = false;
     int m_job = 0;

@@ -13,6 +13,8 @@ constexpr auto kStructured = "%!PS-Adobe-"; // what structures itself by comment
 constexpr QByteArrayView kMark = "%%Page:";
 constexpr qint64 kLongestFirstLine = 256;
 constexpr qint64 kBlock = 1 << 20; // bytes
+// The user waits for it. What is longer can always be printed as if it marked nothing.
+constexpr qint64 kMostBytes = qint64(128) << 20;
 
 bool endsLine(char c)
 {
@@ -48,7 +50,8 @@ bool isEncapsulated(const QString &path)
 bool marksPages(const QString &path, int pages)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !file.peek(kLongestFirstLine).startsWith(kStructured))
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes ||
+        !file.peek(kLongestFirstLine).startsWith(kStructured))
         return false;
     int marks = 0;
     // What could be the beginning of a mark stands before the next block once more.

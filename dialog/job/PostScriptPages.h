@@ -10,7 +10,7 @@ bool isEncapsulated(const QString &path);
 
 /// Whether a document in PostScript says where each of its pages begins, as who turns them round or
 /// puts something between them has to know. A document in it that says so as well makes that
-/// unknown. Errors: no, where it cannot be read.
+/// unknown. Errors: no, where it cannot be read, or is longer than 128 MiB.
 bool marksPages(const QString &path, int pages);
 
 } // namespace corvana

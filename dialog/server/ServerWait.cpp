@@ -13,8 +13,9 @@ namespace {
 // How often a wait is interrupted to see whether it is still wanted. Units: seconds.
 constexpr double kLookAround = 0.2;
 
-// Whether an answer that is not an interim one ("HTTP/1.1 100") has begun to come, or the connection
-// is at its end. On an encrypted one there may be tickets and new keys, which are no answer.
+// Whether an answer that is not an interim one ("HTTP/1.1 100") has begun to come, or the
+// connection is at its end. On an encrypted one there may be tickets and new keys, which are no
+// answer.
 bool hasAnswered(http_t *connection)
 {
     constexpr ssize_t kLength = sizeof "HTTP/1.1 1" - 1;

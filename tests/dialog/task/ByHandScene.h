@@ -1,14 +1,13 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/dialog/task/TruthSamples.h"
@@ -27,8 +26,8 @@ class ByHandScene : public QObject
 protected:
     using Phase = PrintTask::Phase;
 
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
+    std::unique_ptr<Variable> m_serverRoot;
     std::unique_ptr<PrivateCups> m_cups;
     std::unique_ptr<TaskScene> m_scene;
     std::unique_ptr<Variable> m_filter; // the real one, in place of the scene's
@@ -96,10 +95,8 @@ private Q_SLOTS:
     }
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
-        m_variables.push_back(std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent"));
+        m_home = std::make_unique<OwnHome>();
+        m_serverRoot = std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent");
         m_cups = std::make_unique<PrivateCups>();
         m_cups->start();
         m_scene = std::make_unique<TaskScene>();
@@ -110,7 +107,7 @@ private Q_SLOTS:
         m_filter.reset();
         m_scene.reset();
         m_cups.reset();
-        m_variables.clear();
+        m_serverRoot.reset();
         m_home.reset();
     }
 };

@@ -76,10 +76,8 @@ void QueueTaskTest::initTestCase()
 
 void QueueTaskTest::init()
 {
-    m_home = std::make_unique<QTemporaryDir>();
-    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
-        m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
-    m_variables.push_back(std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent"));
+    m_home = std::make_unique<OwnHome>();
+    m_serverRoot = std::make_unique<Variable>("CUPS_SERVERROOT", "/nonexistent");
     m_cups = std::make_unique<PrivateCups>();
     m_cups->start();
     m_between = std::make_unique<FaultyServer>(m_cups->port());
@@ -91,7 +89,7 @@ void QueueTaskTest::cleanup()
     m_scene.reset();
     m_between.reset();
     m_cups.reset();
-    m_variables.clear();
+    m_serverRoot.reset();
     m_home.reset();
 }
 

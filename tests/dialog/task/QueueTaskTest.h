@@ -1,13 +1,12 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include <QObject>
 #include <QString>
-#include <QTemporaryDir>
 
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/cups/FaultyServer.h"
@@ -24,8 +23,8 @@ class QueueTaskTest : public QObject
 protected:
     static constexpr int kPatience = 20000; // milliseconds that a queue may take on a busy machine
 
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
+    std::unique_ptr<Variable> m_serverRoot;
     std::unique_ptr<PrivateCups> m_cups;
     std::unique_ptr<FaultyServer> m_between;
     std::unique_ptr<TaskScene> m_scene;

@@ -1,7 +1,7 @@
 #include <algorithm>
+#include <optional>
 #include <random>
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,6 +12,8 @@
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/KeptStates.h"
+#include "tests/dialog/task/PresetActs.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
@@ -24,8 +26,8 @@ using Phase = PrintTask::Phase;
 using Kind = SelectedPreset::Kind;
 
 // A user who goes from printer to printer, uses, keeps, updates and removes presets, and adds and
-// removes documents, between picks, undo and redo, with and without a policy. After each step the task is compared with a
-// history that the test keeps itself.
+// removes documents, between picks, undo and redo, with and without a policy. After each step the
+// task is compared with a history that the test keeps itself.
 //
 // CORVANA_WALK and CORVANA_WALK_SEED as in the other walk; CORVANA_WALK_PPDS names further printers
 // by their PPDs, with colons between them.
@@ -47,13 +49,6 @@ const QList<Desk> kDesks{
                        "lock.media=A4\nlock.QXMonoColor=mono\n[printer small]\nlock.Media=Film\n"},
 };
 
-int number(const char *variable, int usual)
-{
-    bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue(variable, &isNumber);
-    return isNumber ? value : usual;
-}
-
 } // namespace
 
 class HistoryDeskWalkTest : public QObject
@@ -65,11 +60,9 @@ private:
     std::unique_ptr<TaskScene> m_scene;
     std::mt19937 m_random;
     QList<Printer> m_printers;
-    // The states that can be gone back to, and forward again, as this test keeps them.
-    QList<TaskSettings> m_states;
-    qsizetype m_present = 0;
+    std::optional<KeptStates> m_states;
     QMap<QString, int> m_done; // how often what was done led to another state
-    int m_locks = 0; // the most that a printer had
+    int m_locks = 0;           // the most that a printer had
     QString m_last;
 
     PrintTask &task() { return *m_scene->task; }
@@ -113,8 +106,10 @@ private:
     }
     void setAttribute()
     {
-        static const QList<JobOption> kSome{{u"number-up"_s, u"4"_s},   {u"number-up"_s, u"2"_s},
-                                            {u"mirror"_s, u"true"_s},   {u"booklet"_s, u"left"_s},
+        static const QList<JobOption> kSome{{u"number-up"_s, u"4"_s},
+                                            {u"number-up"_s, u"2"_s},
+                                            {u"mirror"_s, u"true"_s},
+                                            {u"booklet"_s, u"left"_s},
                                             {u"number-up"_s, QString()}};
         const JobOption one = any(kSome);
         m_last = u"attribute "_s + one.name;
@@ -135,16 +130,10 @@ private:
         m_last = u"preset "_s + name;
         presets().use(name);
     }
-    // Waits until it is done.
     void wait(const std::function<void()> &act)
     {
-        QSignalSpy ended(&presets(), &TaskPresets::ended);
-        act();
-        constexpr int kPatience = 20000;
-        QVERIFY(!ended.isEmpty() || ended.wait(kPatience));
-        QSignalSpy changed(&presets(), &TaskPresets::changed);
-        presets().look();
-        changed.wait(50);
+        constexpr int kPatience = 50; // of many acts few change what is listed
+        QVERIFY(endOf(presets(), act, kPatience) != u"nothing ended"_s);
     }
     void changePresets()
     {
@@ -213,50 +202,15 @@ private:
     void noteState()
     {
         const TaskSettings now = task().settingsNow();
-        const TaskSettings &before = m_states.at(m_present);
+        const TaskSettings &before = m_states->present();
         const bool isSamePrinter = idOf(before.printer) == idOf(now.printer);
         if (isSamePrinter && before.documents == now.documents &&
             differences(before, now, *task().opened()).isEmpty()) {
-            m_states[m_present] = now;
+            m_states->replace(now);
             return;
         }
         ++m_done[m_last.section(u' ', 0, 0)];
-        m_states.resize(m_present + 1);
-        m_states += now;
-        ++m_present;
-        if (m_states.size() <= SettingsHistory::kMostSteps + 1)
-            return;
-        m_states.removeFirst();
-        --m_present;
-    }
-
-    static QString difference(const TaskSettings &is, const TaskSettings &shouldBe)
-    {
-        QStringList found{is.printer.name + u'/' + shouldBe.printer.name};
-        const auto compare = [&](const auto &one, const auto &other) {
-            for (auto i = one.cbegin(); i != one.cend(); ++i) {
-                if (other.value(i.key()) != i.value() || !other.contains(i.key()))
-                    found += i.key() + u": "_s + QVariant(i.value()).toString() + u" / "_s +
-                             QVariant(other.value(i.key())).toString();
-            }
-        };
-        compare(is.session.marks, shouldBe.session.marks);
-        compare(shouldBe.session.marks, is.session.marks);
-        compare(is.session.customValues, shouldBe.session.customValues);
-        compare(is.session.entries, shouldBe.session.entries);
-        compare(shouldBe.session.entries, is.session.entries);
-        if (!(is.session.pageFormat == shouldBe.session.pageFormat))
-            found += u"page format"_s;
-        if (!(is.job == shouldBe.job)) {
-            found += u"job"_s;
-            for (const JobOption &o : is.job.attributes())
-                found += u"is "_s + o.name + u'=' + o.value;
-            for (const JobOption &o : shouldBe.job.attributes())
-                found += u"should "_s + o.name + u'=' + o.value;
-        }
-        if (is.documents != shouldBe.documents)
-            found += u"documents"_s;
-        return found.join(u'\n');
+        m_states->add(now);
     }
 
     void goBackOrForward(int step)
@@ -264,15 +218,15 @@ private:
         const bool back = task().canUndo() && (below(2) == 0 || !task().canRedo());
         if (!back && !task().canRedo())
             return;
-        m_present += back ? -1 : 1;
+        back ? m_states->goBack() : m_states->goForward();
         back ? task().undo() : task().redo();
         ++m_done[u"back"_s];
         settle();
         const TaskSettings now = task().settingsNow();
-        QVERIFY2(now == m_states.at(m_present),
+        QVERIFY2(now == m_states->present(),
                  qPrintable(u"step %1, %2, after “%3”:\n%4"_s.arg(
                      QString::number(step), back ? u"undo"_s : u"redo"_s, m_last,
-                     difference(now, m_states.at(m_present)))));
+                     differenceOf(now, m_states->present()))));
     }
 
     // Of what the printer that is open takes at all.
@@ -295,10 +249,9 @@ private:
     {
         m_printers.clear();
         for (const char *sample : {"cl5", "ml3"})
-            m_printers += Printer{QString::fromLatin1(sample), QString::fromLatin1(sample),
-                                  sourceFile(u"resources/ppd/corvana-%1.ppd"_s.arg(
-                                      QString::fromLatin1(sample))),
-                                  5};
+            m_printers += Printer{
+                QString::fromLatin1(sample), QString::fromLatin1(sample),
+                sourceFile(u"resources/ppd/corvana-%1.ppd"_s.arg(QString::fromLatin1(sample))), 5};
         m_printers += m_scene->printer(u"office"_s, officePrinter().text());
         m_printers += m_scene->printer(u"small"_s, smallPrinter().text());
         const QStringList further =
@@ -316,15 +269,15 @@ private Q_SLOTS:
     {
         const Desk &row = currentRow(kDesks);
         m_done.clear();
-        m_present = m_locks = 0;
-        const int steps = number("CORVANA_WALK", kUsualSteps);
-        m_random.seed(static_cast<unsigned>(number("CORVANA_WALK_SEED", kSeed)));
+        m_locks = 0;
+        const int steps = numberOf("CORVANA_WALK", kUsualSteps);
+        m_random.seed(static_cast<unsigned>(numberOf("CORVANA_WALK_SEED", kSeed)));
         m_scene = std::make_unique<TaskScene>();
         PrintRequest request = this->request();
         request.policy = policyFrom(row.policy);
         m_scene->open(request);
         settle();
-        m_states = {task().settingsNow()};
+        m_states.emplace(task().settingsNow());
         for (int step = 0; step < steps; ++step) {
             while (m_scene->face.presenter.outstanding() < 5)
                 m_scene->face.presenter.expect();
@@ -339,12 +292,11 @@ private Q_SLOTS:
             if (!QTest::currentTestFailed())
                 compareWithLocks();
             if (!QTest::currentTestFailed())
-                QCOMPARE(task().canUndo(), m_present > 0);
+                QCOMPARE(task().canUndo(), m_states->canGoBack());
             if (!QTest::currentTestFailed())
-                QCOMPARE(task().canRedo(), m_present + 1 < m_states.size());
+                QCOMPARE(task().canRedo(), m_states->canGoForward());
             if (QTest::currentTestFailed()) {
-                qWarning().noquote() << "after" << m_last << "at step" << step
-                                     << task().undoText() << m_present << m_states.size();
+                qWarning().noquote() << "after" << m_last << "at step" << step << task().undoText();
                 return;
             }
         }

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 #include <random>
 
 #include <QSlider>
@@ -13,6 +14,7 @@
 #include "dialog/task/SettingsValues.h"
 #include "platform/pde/PDEPanel.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/KeptStates.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestPaths.h"
@@ -48,13 +50,6 @@ const QList<WalkCase> kWalks{
     {"an office printer", {}, officePrinter}, {"a small printer", {}, smallPrinter},
 };
 
-int number(const char *variable, int usual)
-{
-    bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue(variable, &isNumber);
-    return isNumber ? value : usual;
-}
-
 } // namespace
 
 class HistoryWalkTest : public QObject
@@ -64,9 +59,7 @@ class HistoryWalkTest : public QObject
 private:
     std::unique_ptr<TaskScene> m_scene;
     std::mt19937 m_random;
-    // The states that can be gone back to, and forward again, as this test keeps them.
-    QList<TaskSettings> m_states;
-    qsizetype m_present = 0;
+    std::optional<KeptStates> m_states;
     int m_undone = 0;
     int m_compared = 0; // jobs, with those of a command line
     QString m_last;     // what was done last, for a message
@@ -207,39 +200,11 @@ private:
     void noteState()
     {
         const TaskSettings now = task().settingsNow();
-        if (differences(m_states.at(m_present), now, printer()).isEmpty()) {
-            m_states[m_present] = now;
+        if (differences(m_states->present(), now, printer()).isEmpty()) {
+            m_states->replace(now);
             return;
         }
-        m_states.resize(m_present + 1);
-        m_states += now;
-        ++m_present;
-        if (m_states.size() <= SettingsHistory::kMostSteps + 1)
-            return;
-        m_states.removeFirst();
-        --m_present;
-    }
-
-    static QString difference(const TaskSettings &is, const TaskSettings &shouldBe)
-    {
-        QStringList found;
-        const auto compare = [&](const auto &one, const auto &other) {
-            for (auto i = one.cbegin(); i != one.cend(); ++i) {
-                if (other.value(i.key()) != i.value() || !other.contains(i.key()))
-                    found += i.key() + u": "_s + QVariant(i.value()).toString() + u" / "_s +
-                             QVariant(other.value(i.key())).toString();
-            }
-        };
-        compare(is.session.marks, shouldBe.session.marks);
-        compare(shouldBe.session.marks, is.session.marks);
-        compare(is.session.customValues, shouldBe.session.customValues);
-        compare(is.session.entries, shouldBe.session.entries);
-        compare(shouldBe.session.entries, is.session.entries);
-        if (!(is.session.pageFormat == shouldBe.session.pageFormat))
-            found += u"page format"_s;
-        if (!(is.job == shouldBe.job))
-            found += u"job"_s;
-        return found.join(u'\n');
+        m_states->add(now);
     }
 
     void goBackOrForward(int step)
@@ -248,7 +213,7 @@ private:
         if (!back && !task().canRedo())
             return;
         const qsizetype alerts = m_scene->face.presenter.shown().size();
-        m_present += back ? -1 : 1;
+        back ? m_states->goBack() : m_states->goForward();
         if (back)
             task().undo();
         else
@@ -256,10 +221,10 @@ private:
         ++m_undone;
         for (const char *when : {"at once", "later"}) {
             const TaskSettings now = task().settingsNow();
-            QVERIFY2(now == m_states.at(m_present),
+            QVERIFY2(now == m_states->present(),
                      qPrintable(u"step %1, %2, %3, after “%4”:\n%5"_s.arg(step).arg(
                          back ? u"undo"_s : u"redo"_s, QLatin1StringView(when), m_last,
-                         difference(now, m_states.at(m_present)))));
+                         differenceOf(now, m_states->present()))));
             settle();
         }
         QCOMPARE(m_scene->face.presenter.shown().size(), alerts);
@@ -333,8 +298,8 @@ private Q_SLOTS:
     void everyStateComesBackAsItWas()
     {
         const WalkCase &row = currentRow(kWalks);
-        const int steps = number("CORVANA_WALK", kUsualSteps);
-        m_random.seed(static_cast<unsigned>(number("CORVANA_WALK_SEED", kSeed)));
+        const int steps = numberOf("CORVANA_WALK", kUsualSteps);
+        m_random.seed(static_cast<unsigned>(numberOf("CORVANA_WALK_SEED", kSeed)));
         m_scene = std::make_unique<TaskScene>();
         PrintRequest request =
             row.ppd ? m_scene->request(row.ppd())
@@ -342,8 +307,7 @@ private Q_SLOTS:
                                                 sourceFile(u"resources/ppd/"_s + row.sample), 5}});
         m_scene->open(request);
         settle();
-        m_states = {task().settingsNow()};
-        m_present = 0;
+        m_states.emplace(task().settingsNow());
         m_undone = m_compared = 0;
         for (int step = 0; step < steps; ++step) {
             while (m_scene->face.presenter.outstanding() < 5)
@@ -356,8 +320,8 @@ private Q_SLOTS:
                 settle();
                 noteState();
             }
-            QCOMPARE(task().canUndo(), m_present > 0);
-            QCOMPARE(task().canRedo(), m_present + 1 < m_states.size());
+            QCOMPARE(task().canUndo(), m_states->canGoBack());
+            QCOMPARE(task().canRedo(), m_states->canGoForward());
             if (step % 100 == 50)
                 compareWithACommandLine(request);
             if (QTest::currentTestFailed()) {

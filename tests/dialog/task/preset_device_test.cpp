@@ -1,11 +1,9 @@
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/StartPresets.h"
 #include "dialog/task/TaskPresets.h"
-#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 
@@ -20,8 +18,7 @@ class PresetDeviceTest : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
     std::unique_ptr<TaskScene> m_scene;
 
     PrintRequest request()
@@ -57,15 +54,13 @@ private:
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
+        m_home = std::make_unique<OwnHome>();
         m_scene = std::make_unique<TaskScene>();
     }
     void cleanup()
     {
         m_scene.reset();
-        m_variables.clear();
+        m_home.reset();
     }
 
     void atTheStart()

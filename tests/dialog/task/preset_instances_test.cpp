@@ -8,13 +8,14 @@
 #include <QFile>
 #include <QScopeGuard>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/PresetActs.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/cups/PrivateCups.h"
 
@@ -40,8 +41,7 @@ class PresetInstancesTest : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
     std::unique_ptr<PrivateCups> m_cups;
     std::unique_ptr<TaskScene> m_scene;
 
@@ -86,23 +86,9 @@ private:
         QVERIFY2(m_scene->reaches(Phase::Opened), qPrintable(task().problem().text));
         task().bringUp();
         QTRY_COMPARE(task().phase(), Phase::Ready);
-        look();
+        lookAgain(presets());
     }
-    void look()
-    {
-        QSignalSpy changed(&presets(), &TaskPresets::changed);
-        presets().look();
-        changed.wait(300);
-    }
-    QString done(const std::function<void()> &act)
-    {
-        QSignalSpy ended(&presets(), &TaskPresets::ended);
-        act();
-        if (ended.isEmpty() && !ended.wait(20000))
-            return u"nothing ended"_s;
-        look();
-        return ended.constFirst().constFirst().toString();
-    }
+    QString done(const std::function<void()> &act) { return endOf(presets(), act); }
     void save(const QString &name, bool elsewhere = false, bool forAll = false)
     {
         PresetToSave wanted{name, forAll, false, true, elsewhere};
@@ -129,9 +115,7 @@ private Q_SLOTS:
     }
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
+        m_home = std::make_unique<OwnHome>();
         m_cups = std::make_unique<PrivateCups>();
         m_cups->start();
         m_scene = std::make_unique<TaskScene>();
@@ -142,7 +126,6 @@ private Q_SLOTS:
     {
         m_scene.reset();
         m_cups.reset();
-        m_variables.clear();
         m_home.reset();
     }
 

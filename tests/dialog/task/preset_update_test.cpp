@@ -1,15 +1,14 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/TaskPresets.h"
-#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/policy/TestPolicy.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/PresetActs.h"
 #include "tests/dialog/task/TaskScene.h"
 
 using namespace corvana;
@@ -24,8 +23,7 @@ class PresetUpdateTest : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
     std::unique_ptr<TaskScene> m_scene;
 
     PrintRequest request(const QString &preset = {}, const QString &options = {})
@@ -54,17 +52,7 @@ private:
         m_scene->task.reset();
         return preset;
     }
-    QString done(const std::function<void()> &act)
-    {
-        QSignalSpy ended(&presets(), &TaskPresets::ended);
-        act();
-        if (ended.isEmpty() && !ended.wait(20000))
-            return u"nothing ended"_s;
-        QSignalSpy changed(&presets(), &TaskPresets::changed);
-        presets().look();
-        changed.wait(300);
-        return ended.constFirst().constFirst().toString();
-    }
+    QString done(const std::function<void()> &act) { return endOf(presets(), act); }
     QString update()
     {
         return done([&] { presets().update(); });
@@ -83,15 +71,13 @@ private:
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
+        m_home = std::make_unique<OwnHome>();
         m_scene = std::make_unique<TaskScene>();
     }
     void cleanup()
     {
         m_scene.reset();
-        m_variables.clear();
+        m_home.reset();
     }
 
     void whatThePrinterLacksStays_data()

@@ -1,14 +1,14 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "dialog/presets/LastUsed.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/TaskPresets.h"
-#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/PresetActs.h"
 #include "tests/dialog/task/TaskScene.h"
 
 using namespace corvana;
@@ -24,8 +24,7 @@ class TaskPresetsTest : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
     std::unique_ptr<TaskScene> m_scene;
 
     PrintRequest request(const QString &options = {})
@@ -47,18 +46,7 @@ private:
         task().propose(keyword, choice);
         QCoreApplication::processEvents();
     }
-    // Does something to presets and waits until it is done; answers the problem.
-    QString done(const std::function<void()> &act)
-    {
-        QSignalSpy ended(&task().presets(), &TaskPresets::ended);
-        act();
-        if (ended.isEmpty() && !ended.wait(20000))
-            return u"nothing ended"_s;
-        QSignalSpy changed(&task().presets(), &TaskPresets::changed);
-        task().presets().look();
-        changed.wait(500);
-        return ended.constFirst().constFirst().toString();
-    }
+    QString done(const std::function<void()> &act) { return endOf(task().presets(), act); }
     QString save(const QString &name, bool replaces = false)
     {
         return done([&] { task().presets().save({name, false, false, replaces}); });
@@ -79,15 +67,13 @@ private:
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
+        m_home = std::make_unique<OwnHome>();
         m_scene = std::make_unique<TaskScene>();
     }
     void cleanup()
     {
         m_scene.reset();
-        m_variables.clear();
+        m_home.reset();
     }
 
     void aJobStartsWithThePrintersDefaults()

@@ -5,15 +5,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/SavePresetDialog.h"
-#include "tests/dialog/job/Variable.h"
+#include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
+#include "tests/dialog/task/PresetActs.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/TestPaths.h"
 #include "tests/support/cups/PrivateCups.h"
@@ -31,8 +30,7 @@ class SavePresetTest : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home;
-    std::vector<std::unique_ptr<Variable>> m_variables;
+    std::unique_ptr<OwnHome> m_home;
     std::unique_ptr<PrivateCups> m_cups;
     std::unique_ptr<TaskScene> m_scene;
 
@@ -61,18 +59,7 @@ private:
         QVERIFY2(m_scene->reaches(Phase::Opened), qPrintable(task().problem().text));
         task().bringUp();
     }
-    // Does something to presets and waits until it is done; answers the problem.
-    QString done(const std::function<void()> &act)
-    {
-        QSignalSpy ended(&presets(), &TaskPresets::ended);
-        act();
-        if (ended.isEmpty() && !ended.wait(20000))
-            return u"nothing ended"_s;
-        QSignalSpy changed(&presets(), &TaskPresets::changed);
-        presets().look();
-        changed.wait(500);
-        return ended.constFirst().constFirst().toString();
-    }
+    QString done(const std::function<void()> &act) { return endOf(presets(), act); }
     QString saveElsewhere(const QString &name = u"Reports"_s)
     {
         return done([&] { presets().save({name, false, false, true, true}); });
@@ -91,9 +78,7 @@ private Q_SLOTS:
     }
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
-        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
-            m_variables.push_back(std::make_unique<Variable>(name, m_home->path().toUtf8()));
+        m_home = std::make_unique<OwnHome>();
         m_cups = std::make_unique<PrivateCups>();
         m_cups->start();
         m_scene = std::make_unique<TaskScene>();
@@ -104,7 +89,6 @@ private Q_SLOTS:
     {
         m_scene.reset();
         m_cups.reset();
-        m_variables.clear();
         m_home.reset();
     }
 
