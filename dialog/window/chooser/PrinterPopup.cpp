@@ -19,6 +19,7 @@
 #include "dialog/window/chooser/PrinterRowDelegate.h"
 #include "platform/toolkit/Mnemonics.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/RowKeys.h"
 #include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
@@ -268,39 +269,12 @@ void PrinterPopup::keyPressEvent(QKeyEvent *event)
         QFrame::keyPressEvent(event);
 }
 
-// The list is not sent the key itself: one that it cannot use, such as Up on the first row, it
-// passes on to its parents, and so back to the popup.
 void PrinterPopup::moveHighlight(int key)
 {
-    const int last = m_search.rowCount() - 1;
-    if (last < 0)
-        return;
-    const QModelIndex current = m_list->currentIndex();
     const int page = qMax(1, m_list->viewport()->height() / m_delegate->rowHeight(m_list));
-    int row = current.row(); // -1 where nothing is highlighted: every key but End begins at the top
-    switch (key) {
-    case Qt::Key_Up:
-        row -= 1;
-        break;
-    case Qt::Key_Down:
-        row += 1;
-        break;
-    case Qt::Key_PageUp:
-        row -= page;
-        break;
-    case Qt::Key_PageDown:
-        row += current.isValid() ? page : 1;
-        break;
-    case Qt::Key_Home:
-        row = 0;
-        break;
-    case Qt::Key_End:
-        row = last;
-        break;
-    default:
-        return;
-    }
-    highlight(m_search.index(qBound(0, row, last), 0));
+    const int row = m_list->currentIndex().row(); // -1 where nothing is highlighted
+    if (const auto next = rowAfterKey(key, row, m_search.rowCount() - 1, page))
+        highlight(m_search.index(*next, 0));
 }
 
 bool PrinterPopup::handleKey(QKeyEvent *event)

@@ -10,6 +10,7 @@
 
 #include "dialog/window/find/FindRowDelegate.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/RowKeys.h"
 #include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
@@ -144,32 +145,14 @@ void FindPopup::highlight(int row)
     QAccessible::updateAccessibility(&event);
 }
 
-// The list is not sent the key itself: one that it cannot use it passes on to its parents.
 void FindPopup::move(int key)
 {
-    const int last = m_model->rowCount() - 1;
     const int page = qMax(1, m_list->viewport()->height() / FindRowDelegate::rowHeight(m_list));
-    int row = m_list->currentIndex().row();
-    switch (key) {
-    case Qt::Key_Up:
-        row -= 1;
-        break;
-    case Qt::Key_Down:
-        row += 1;
-        break;
-    case Qt::Key_PageUp:
-        row -= page;
-        break;
-    case Qt::Key_PageDown:
-        row += page;
-        break;
-    default:
-        return;
+    const int row = m_list->currentIndex().row();
+    if (const auto next = rowAfterKey(key, row, m_model->rowCount() - 1, page)) {
+        highlight(*next);
+        m_list->scrollTo(m_list->currentIndex());
     }
-    if (last < 0)
-        return;
-    highlight(qBound(0, row, last));
-    m_list->scrollTo(m_list->currentIndex());
 }
 
 } // namespace corvana
