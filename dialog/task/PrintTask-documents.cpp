@@ -7,6 +7,7 @@
 
 #include "dialog/job/FileBytes.h"
 #include "dialog/task/JobNames.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
@@ -66,8 +67,7 @@ void PrintTask::readDocuments()
         return QTimer::singleShot(kPatience, this, &PrintTask::readDocuments);
     // Those that the task was started with are nobody's step.
     if (const auto first = std::exchange(m_looks.readOfRequest, {}); !first.isEmpty()) {
-        recordStep(); // what was typed just now
-        m_baseline.history.addToAll(first);
+        m_history->addDocuments(first);
         if (m_baseline.coming)
             m_baseline.coming->documents += first;
         setDocuments(m_request.documents + first);
@@ -138,7 +138,9 @@ void PrintTask::chooseDocuments(QList<Document> documents)
     // A list that is filled at one end and emptied at the other keeps more room with each turn, and
     // every step of the history has one.
     documents.squeeze();
-    recordDocuments(documents);
+    m_history->recordDocuments(documents);
+    if (m_baseline.coming) // a step is being undone, and leads to another printer
+        m_baseline.coming->documents = documents;
     setDocuments(documents);
 }
 
@@ -165,7 +167,6 @@ void PrintTask::setDocuments(const QList<Document> &documents)
         memory.earlierJob = memory.earlierDocuments = 0;
     Q_EMIT unsaid();
     Q_EMIT documentsChanged();
-    Q_EMIT historyChanged();
     if (m_phase != Phase::Ready)
         return;
     showSettings();

@@ -1,5 +1,6 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/RefusalText.h"
+#include "dialog/task/TaskHistory.h"
 
 #include <QFileInfo>
 #include <QTimer>
@@ -47,7 +48,7 @@ void PrintTask::startUnattended()
 void PrintTask::choosePrinter(const Printer &printer)
 {
     if (!m_baseline.coming) // else the history is there already
-        recordStep();
+        m_history->recordStep();
     rememberSession();
     close();
     if (m_baseline.coming && idOf(m_baseline.coming->printer) != idOf(printer))
@@ -140,8 +141,10 @@ void PrintTask::open(const FetchedPrinter &ready)
         return;
     }
     connect(m_opened->panels.get(), &PanelHost::settled, this, &PrintTask::settled);
-    connect(m_opened->session.get(), &PpdSession::changed, this, &PrintTask::noteTouched);
-    connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::recordSoon);
+    connect(m_opened->session.get(), &PpdSession::changed, m_history.get(),
+            &TaskHistory::noteTouched);
+    connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, m_history.get(),
+            &TaskHistory::recordSoon);
     // A panel is asked for what it shows when it is done with what it is doing.
     connect(m_opened->panels.get(), &PanelHost::shownValuesChanged, this, &PrintTask::showColors,
             Qt::QueuedConnection);
@@ -215,7 +218,7 @@ void PrintTask::rememberSession(const FetchedPrinter *next)
     left.takenAlong = m_settings.takenAlong();
     Memory &memory = m_memory[idOf(m_chosen.printer)];
     memory.session = left;
-    memory.base = m_baseline.base;
+    memory.base = m_history->base();
     memory.kept = std::make_shared<const KeptSettings>(presets().kept());
 }
 
@@ -242,8 +245,7 @@ void PrintTask::takeExpectedPrinter()
     if (expected && (complete || expected->isDefault)) {
         // Where the user has done something, such as to the documents, it is a step like any other:
         // nobody loses what can be taken back.
-        if (m_baseline.history.count() == 0)
-            m_baseline.history.clear();
+        m_history->forgetIfEmpty();
         choosePrinter(*expected);
     }
 }

@@ -13,6 +13,7 @@
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/task/TaskHistory.h"
 
 namespace corvana {
 
@@ -52,13 +53,13 @@ void PrintTask::propose(const QString &keyword, const QString &choice)
 void PrintTask::setCopies(int copies)
 {
     m_settings.askForCopies(copies, JobSettings::By::User);
-    noteTouched(kCopiesSetting);
+    m_history->noteTouched(kCopiesSetting);
 }
 
 void PrintTask::setPageRanges(const QString &ranges)
 {
     m_settings.setPageRanges(ranges);
-    noteTouched(kPageRangesAttribute);
+    m_history->noteTouched(kPageRangesAttribute);
 }
 
 // A value that the panels keep themselves: the mark of the PPD would be nothing that they print.
@@ -74,7 +75,7 @@ void PrintTask::proposeToPanels(const JobOption &option)
     } else if (!outcome.ok()) {
         say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
     }
-    noteTouched(option.name);
+    m_history->noteTouched(option.name);
     showSettings();
 }
 
@@ -126,7 +127,7 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
         m_settings = before;
         return problems.join(u'\n');
     }
-    noteTouched(name);
+    m_history->noteTouched(name);
     const JobSettings now = m_settings;
     for (const OptionChoice &choice : along)
         propose(choice.keyword, choice.choice);

@@ -16,6 +16,7 @@
 #include "dialog/task/SavedAsPdf.h"
 #include "dialog/task/SettingsValues.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/text/TextCheck.h"
 #include "platform/pde/PDEPanel.h"
@@ -37,7 +38,8 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
                             m_request.copiesWereNamed ? By::CommandLine : By::Program);
     if (m_request.credentials)
         m_credentials->giveInAdvance(*m_request.credentials);
-    m_baseline.presets = std::make_unique<TaskPresets>(*this);
+    m_history = std::make_unique<TaskHistory>(*this);
+    m_presets = std::make_unique<TaskPresets>(*this);
     connectSource();
     connect(&m_sheets, &SheetCounter::finished, this, &PrintTask::sheetsKnown);
     connect(&m_sheets, &SheetCounter::firstKnown, this, [this] {
@@ -72,7 +74,7 @@ void PrintTask::enter(Phase phase)
         Q_EMIT phaseChanged(phase);
     // What a panel's alert has changed while a job was made can be taken back as well.
     if (m_phase == Phase::Ready)
-        recordSoon();
+        m_history->recordSoon();
 }
 
 void PrintTask::say(TaskMessage::Kind kind, const QString &text)
@@ -285,7 +287,7 @@ void PrintTask::settled()
     // Showing the settings asks the panels, which save again: only another state is news.
     if (m_opened->session->snapshot() != m_baseline.shown || !refusals.isEmpty())
         showSettings();
-    recordSoon();
+    m_history->recordSoon();
 }
 
 void PrintTask::showSettings()

@@ -23,6 +23,7 @@
 
 namespace corvana {
 
+class TaskHistory;
 class TaskPresets;
 
 /// One thing that is to be printed, from its documents to what became of them: the printer that is
@@ -143,44 +144,18 @@ public:
     /// The user chose pages, as ChoosablePages::valueFor() writes them; a refusal is said.
     void choosePages(const QString &ranges);
 
-    // What was set before, and can be set again (PrintTask-history.cpp). All of it only once a
+    // What was set before, and can be set again (PrintTask-restoring.cpp). All of it only once a
     // printer is ready.
 
     TaskSettings settingsNow() const;
     /// Brings the task to a state that it had. Panels are restored, and faces are told. Another
     /// printer is chosen first; the rest follows when it is open. Whoever calls this for a user
-    /// calls recordStep() then.
+    /// records a step then.
     void restoreSettings(const TaskSettings &settings);
-    /// What "changed" compares with and "back" returns to.
-    using Base = SettingsBase;
-    const Base &base() const { return m_baseline.base; }
-    void setBase(const Base &base);
-    /// The options, attributes and values of the panels' own that differ from base(), by keyword.
-    /// Copies and pages belong to this job alone and are not among them.
-    QStringList changedSettings() const;
-
-    /// Not while a job is made or printed.
-    bool canUndo() const;
-    bool canRedo() const;
-    /// What undo() would take back: "Undo Media Type"; "Undo" where there is nothing.
-    QString undoText() const;
-    QString redoText() const;
-    /// Takes back the last thing that the user did, with all that came of it.
-    void undo();
-    void redo();
-    /// "Back to Printer Defaults".
-    QString backText() const;
-    /// What base() has for a setting, as a user reads it; null for nothing.
-    QString baseText(const QString &name) const;
-    /// Brings settings, of those that changedSettings() names, or all of them, back to base(). What
-    /// cannot be had together with the others is said.
-    void resetSettings(const QStringList &names);
-    void resetAll();
-    /// What is typed or moved from now on is another step: a field was left, a slider let go.
-    void endStep();
-
+    /// What the user has done, and what can be taken back of it.
+    TaskHistory &history() const { return *m_history; }
     /// Settings that come from before and are kept for later.
-    TaskPresets &presets() const { return *m_baseline.presets; }
+    TaskPresets &presets() const { return *m_presets; }
 
     // What an administrator has decided (PrintTask-policy.cpp)
 
@@ -241,9 +216,6 @@ Q_SIGNALS:
     /// What is known of printer() is other than it was.
     void printerChanged();
     void settingsChanged(); ///< what a face shows has to be read again
-    /// canUndo(), canRedo(), their texts or base() are others.
-    void historyChanged();
-    void stepped(const QString &text); ///< what undo() or redo() has done
     /// Other documents are printed, or in another order.
     void documentsChanged();
     /// What is written is another kind of file, and another name for it is proposed: output().
@@ -322,13 +294,6 @@ private:
 
     void beginHistory();
     void takeComingSettings();
-    void goTo(const TaskSettings &state);
-    TaskSettings stateOfBase() const;
-    void noteTouched(const QString &name);
-    void recordSoon();
-    void recordDocuments(const QList<Document> &documents);
-    bool recordStep(const QString &name = {});
-    QString nameOfStep(const QStringList &changed, const QStringList &touched) const;
 
     void lock(OpenedPrinter &opened);
     QStringList keepLocks();
@@ -387,6 +352,8 @@ private:
     std::unique_ptr<OpenedPrinter> m_opened;
     QHash<PrinterId, Memory> m_memory;
     TaskState::Baseline m_baseline;
+    std::unique_ptr<TaskHistory> m_history;
+    std::unique_ptr<TaskPresets> m_presets;
     JobSettings m_settings;
     TaskState::Colors m_colors;
     TaskState::Output m_output;

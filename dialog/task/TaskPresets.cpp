@@ -11,6 +11,7 @@
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartPresets.h"
+#include "dialog/task/TaskHistory.h"
 
 namespace corvana {
 
@@ -53,7 +54,7 @@ QString TaskPresets::selectedName() const
 
 bool TaskPresets::isChanged() const
 {
-    QStringList changed = m_task.changedSettings();
+    QStringList changed = m_task.history().changedSettings();
     const OpenedPrinter *opened = m_task.opened();
     if (opened && opened->jobValues && !m_kept.selected.device) {
         const QStringList device = opened->jobValues->deviceOptions();
@@ -146,7 +147,7 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
     if (m_task.phase() != Phase::Ready || !m_task.m_face.finishEditing())
         return;
     Q_EMIT m_task.unsaid();
-    m_task.recordStep(); // what was typed just now
+    m_task.history().recordStep(); // what was typed just now
     const bool isStored = selected.kind == Kind::Preset && ofInstance.isEmpty();
     const std::optional<StoredPreset> stored =
         isStored ? listing().find(selected.name) : std::nullopt;
@@ -163,16 +164,17 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
-    PresetStep step{std::exchange(m_kept.selected, selected), m_task.base(), selected, {}};
-    const bool isStep = m_task.recordStep(selectedName());
+    PresetStep step{
+        std::exchange(m_kept.selected, selected), m_task.history().base(), selected, {}};
+    const bool isStep = m_task.history().recordStep(selectedName());
     SettingsBase base{m_task.settingsNow(), selectedName()};
     if (stored)
         base.preset = std::make_shared<const PresetOrigin>(PresetOrigin{
             stored->preset, contentOf(*m_task.opened(), m_task.settings(), selected.device)});
-    m_task.setBase(base);
-    step.baseAfter = m_task.base();
+    m_task.history().setBase(base);
+    step.baseAfter = m_task.history().base();
     if (isStep)
-        m_task.m_baseline.history.notePreset(std::make_shared<const PresetStep>(step));
+        m_task.history().notePreset(step);
     m_task.showSettings();
     Q_EMIT changed();
     say(outcome.missing, outcome.details);
@@ -196,7 +198,7 @@ void TaskPresets::reselect(const SelectedPreset &now, const SelectedPreset &want
     if (m_kept.selected != now || !isThere)
         return;
     m_kept.selected = wanted;
-    m_task.setBase(base);
+    m_task.history().setBase(base);
     Q_EMIT changed();
 }
 
@@ -246,7 +248,7 @@ PresetReplacing TaskPresets::replacing(const PresetToSave &wanted) const
         replacing.preset.model.clear();
         replacing.preset.content = changes;
     }
-    const std::shared_ptr<const PresetOrigin> origin = m_task.base().preset;
+    const std::shared_ptr<const PresetOrigin> origin = m_task.history().base().preset;
     const bool isSelected = m_kept.selected.kind == Kind::Preset && m_kept.selected.name == name;
     if (isSelected && origin && origin->stored.model == replacing.preset.model) {
         replacing.origin = origin;
@@ -316,15 +318,16 @@ void TaskPresets::take(PresetShelf::Change change, const QString &name,
     if (saving) {
         const PresetReplacing &kept = saving->preset;
         m_kept.selected = {Kind::Preset, kept.preset.name, kept.preset.device};
-        m_task.setBase(
+        m_task.history().setBase(
             {saving->settings, selectedName(),
              std::make_shared<const PresetOrigin>(PresetOrigin{*saving->written, kept.set})});
     } else if (change == Change::Renamed) {
         m_kept.selected.name = name;
-        m_task.setBase({m_task.base().settings, selectedName(), m_task.base().preset});
+        m_task.history().setBase(
+            {m_task.history().base().settings, selectedName(), m_task.history().base().preset});
     } else if (change == Change::Removed && m_kept.selected.name == name) {
         m_kept.selected = {};
-        m_task.setBase({m_task.base().settings, selectedName()});
+        m_task.history().setBase({m_task.history().base().settings, selectedName()});
     }
 }
 

@@ -15,14 +15,12 @@
 #include "dialog/task/ByHand.h"
 #include "dialog/task/JobColors.h"
 #include "dialog/task/LeftSession.h"
-#include "dialog/task/SettingsHistory.h"
 #include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
 #include "dialog/text/TextCheck.h"
 
 namespace corvana {
 
-class TaskPresets;
 struct KeptSettings;
 
 /// Why a printer cannot be asked for, whole and in few words.
@@ -122,14 +120,9 @@ struct TaskState
         SessionSnapshot started; // before the user changed anything
         SessionSnapshot shown;   // as the face was told last
         QList<JobOption> chosen; // attributes, before the user changed anything
-        SettingsBase base;
         std::optional<SessionSnapshot> asked; // before options were asked for, where some were
         JobSettings jobAsked;                 // the same of the job
-        SettingsHistory history;
-        QStringList touched; // since the last step, in this order
-        std::unique_ptr<TaskPresets> presets;
-        std::optional<TaskSettings> coming; // to be restored when their printer is open
-        bool willRecord = false;
+        std::optional<TaskSettings> coming;   // to be restored when their printer is open
     };
 };
 

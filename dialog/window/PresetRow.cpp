@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/ElidedToolButton.h"
 #include "dialog/window/PresetButton.h"
@@ -37,7 +38,7 @@ PresetRow::PresetRow(PrintTask &task, QWidget *parent) : QWidget(parent), m_task
     row->addWidget(m_reset);
     row->addWidget(m_undo);
     row->addWidget(m_redo);
-    connect(&m_task, &PrintTask::historyChanged, this, &PresetRow::refresh);
+    connect(&m_task.history(), &TaskHistory::changed, this, &PresetRow::refresh);
     connect(&m_task, &PrintTask::phaseChanged, this, &PresetRow::refresh);
     connect(&m_task.presets(), &TaskPresets::changed, this, &PresetRow::refreshPreset);
     refresh();
@@ -104,16 +105,16 @@ void PresetRow::buildReset()
     m_reset->setMenu(menu);
     connect(menu, &QMenu::aboutToShow, this, &PresetRow::refreshReset);
     connect(m_resetPage, &QAction::triggered, this, [this] { m_pages->resetPage(); });
-    connect(m_resetAll, &QAction::triggered, &m_task, &PrintTask::resetAll);
+    connect(m_resetAll, &QAction::triggered, &m_task.history(), &TaskHistory::resetAll);
 }
 
 void PresetRow::refreshReset()
 {
-    const QString back = m_task.backText().replace(u'&', "&&"_L1);
+    const QString back = m_task.history().backText().replace(u'&', "&&"_L1);
     m_resetPage->setText(tr("This Page: %1").arg(back));
     m_resetAll->setText(tr("Everything: %1").arg(back));
     m_resetPage->setEnabled(m_pages && !m_pages->changedOnPage().isEmpty());
-    m_resetAll->setEnabled(!m_task.changedSettings().isEmpty());
+    m_resetAll->setEnabled(!m_task.history().changedSettings().isEmpty());
 }
 
 void PresetRow::buildButtons()
@@ -127,8 +128,8 @@ void PresetRow::buildButtons()
     m_redo->setIcon(redoIcon());
     for (QToolButton *button : {static_cast<QToolButton *>(m_undo), m_redo})
         button->setAutoRaise(true);
-    connect(m_undo, &QToolButton::clicked, &m_task, &PrintTask::undo);
-    connect(m_redo, &QToolButton::clicked, &m_task, &PrintTask::redo);
+    connect(m_undo, &QToolButton::clicked, &m_task.history(), &TaskHistory::undo);
+    connect(m_redo, &QToolButton::clicked, &m_task.history(), &TaskHistory::redo);
 }
 
 // The steps have the names of the printer's options: none of them may be taken for markup or for a
@@ -137,15 +138,15 @@ void PresetRow::refresh()
 {
     refreshPreset();
     m_reset->setEnabled(m_task.phase() == PrintTask::Phase::Ready);
-    const QString undo = m_task.undoText();
+    const QString undo = m_task.history().undoText();
     m_undo->setText(QString(undo).replace(u'&', "&&"_L1));
     setPlainToolTip(m_undo, tr("%1 (Ctrl+Z)").arg(undo));
     m_undo->setAccessibleName(undo);
-    m_undo->setEnabled(m_task.canUndo());
-    const QString redo = m_task.redoText();
+    m_undo->setEnabled(m_task.history().canUndo());
+    const QString redo = m_task.history().redoText();
     setPlainToolTip(m_redo, tr("%1 (Shift+Ctrl+Z)").arg(redo));
     m_redo->setAccessibleName(redo);
-    m_redo->setEnabled(m_task.canRedo());
+    m_redo->setEnabled(m_task.history().canRedo());
     shareRoom();
 }
 

@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "dialog/task/TaskHistory.h"
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/KeyboardFocus.h"
@@ -129,7 +130,7 @@ void PrintWindow::buildColumns(SettingsColumn *settings)
 void PrintWindow::connectParts()
 {
     addPageShortcuts();
-    new UndoKeys(*m_task, this);
+    new UndoKeys(m_task->history(), this);
     new KeyboardFocus(this);
     nameListsOfPopUps(this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);

@@ -4,6 +4,7 @@
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/SettingsIndex.h"
 #include "dialog/task/SettingsValues.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/window/pages/GeneralPage.h"
 #include "dialog/window/pages/OptionsPage.h"
 #include "dialog/window/pages/PanelPage.h"
@@ -15,8 +16,8 @@ namespace {
 
 QString formerly(const QString &name, const PrintTask &task)
 {
-    const QString text = task.baseText(name);
-    return SettingsPages::tr("%1: %2").arg(task.base().name,
+    const QString text = task.history().baseText(name);
+    return SettingsPages::tr("%1: %2").arg(task.history().base().name,
                                            text.isEmpty() ? SettingsPages::tr("None") : text);
 }
 
@@ -24,7 +25,7 @@ QString formerly(const QString &name, const PrintTask &task)
 ShownChanges ofTheJob(ShownChanges changes, const PrintTask &task)
 {
     const JobSettings &now = task.settingsNow().job;
-    const JobSettings &base = task.base().settings.job;
+    const JobSettings &base = task.history().base().settings.job;
     if (now.copies() != base.copies())
         changes.settings.insert(kCopiesSetting, formerly(kCopiesSetting, task));
     if (now.pageRanges() != base.pageRanges())
@@ -36,8 +37,8 @@ ShownChanges ofTheJob(ShownChanges changes, const PrintTask &task)
 
 ShownChanges SettingsPages::changesNow() const
 {
-    ShownChanges changes{m_task.backText(), {}};
-    const QStringList changed = m_task.changedSettings();
+    ShownChanges changes{m_task.history().backText(), {}};
+    const QStringList changed = m_task.history().changedSettings();
     for (const QString &name : changed)
         changes.settings.insert(name, formerly(name, m_task));
     return changes;
@@ -91,7 +92,7 @@ QStringList SettingsPages::changedOnPage() const
 {
     if (!m_general)
         return {};
-    QStringList changed = m_task.changedSettings();
+    QStringList changed = m_task.history().changedSettings();
     const QStringList shown = settingsOfPage();
     changed.removeIf([&](const QString &name) { return !shown.contains(name); });
     return changed;
@@ -99,13 +100,13 @@ QStringList SettingsPages::changedOnPage() const
 
 void SettingsPages::resetPage()
 {
-    m_task.resetSettings(changedOnPage());
+    m_task.history().resetSettings(changedOnPage());
 }
 
 void SettingsPages::reset(const QString &name)
 {
-    if (m_task.changedSettings().contains(name))
-        m_task.resetSettings({name});
+    if (m_task.history().changedSettings().contains(name))
+        m_task.history().resetSettings({name});
 }
 
 SettingsPages::Shown SettingsPages::goTo(const QString &name)

@@ -12,6 +12,7 @@
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/PrintTask.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/window/PageChoosing.h"
 #include "dialog/window/pages/ControlLock.h"
 #include "dialog/window/pages/GeneralPage.h"
@@ -48,7 +49,7 @@ SettingsPages::SettingsPages(PrintTask &task, QWidget *parent)
     tabBar()->setFocusPolicy(Qt::TabFocus);
     connect(this, &QTabWidget::currentChanged, this, &SettingsPages::enter);
     connect(&m_task, &PrintTask::sheetsCounted, this, &SettingsPages::showCountedSheets);
-    connect(&m_task, &PrintTask::historyChanged, this, &SettingsPages::showChanges);
+    connect(&m_task.history(), &TaskHistory::changed, this, &SettingsPages::showChanges);
     connect(m_panelMarks, &ChangeMarks::resetWanted, this, &SettingsPages::reset);
 }
 

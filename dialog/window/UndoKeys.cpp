@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 
-#include "dialog/task/PrintTask.h"
+#include "dialog/task/TaskHistory.h"
 #include "platform/toolkit/ScreenReader.h"
 
 namespace corvana {
@@ -37,20 +37,20 @@ const QLineEdit *fieldOf(const QObject *widget)
 
 } // namespace
 
-UndoKeys::UndoKeys(PrintTask &task, QWidget *window)
-    : QObject(window), m_task(task), m_window(window)
+UndoKeys::UndoKeys(TaskHistory &history, QWidget *window)
+    : QObject(window), m_history(history), m_window(window)
 {
     // What is taken back may be on a page that nobody looks at: which step it was is said, whether
     // a key or a button did it.
-    connect(&task, &PrintTask::stepped, this,
+    connect(&history, &TaskHistory::stepped, this,
             [this](const QString &text) { announce(m_window, text); });
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, window), &QShortcut::activated, &task,
-            &PrintTask::undo);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Z, window), &QShortcut::activated, &history,
+            &TaskHistory::undo);
     for (const QKeyCombination keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
-        connect(new QShortcut(keys, window), &QShortcut::activated, &task, &PrintTask::redo);
+        connect(new QShortcut(keys, window), &QShortcut::activated, &history, &TaskHistory::redo);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *former, QWidget *) {
         if (former && m_window->isAncestorOf(former))
-            m_task.endStep();
+            m_history.endStep();
     });
     qApp->installEventFilter(this);
 }
@@ -67,7 +67,7 @@ bool UndoKeys::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonRelease:
         if (auto *slider = qobject_cast<QAbstractSlider *>(watched);
             slider && m_window->isAncestorOf(slider))
-            QMetaObject::invokeMethod(&m_task, &PrintTask::endStep, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(&m_history, &TaskHistory::endStep, Qt::QueuedConnection);
         break;
     default:
         break;
@@ -87,7 +87,7 @@ bool UndoKeys::isForUs(const QObject *watched, const QKeyEvent *event) const
         return false;
     // What was taken back last is done again first, and a field has its turn before the task has.
     return way == Way::Back ? !field->isUndoAvailable()
-                            : m_task.canRedo() || !field->isRedoAvailable();
+                            : m_history.canRedo() || !field->isRedoAvailable();
 }
 
 } // namespace corvana

@@ -3543,44 +3543,6 @@ Für die Befehlszeile: %2</translation>
         <translation>Passwort des Besitzers eingeben …</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Drucker</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>%1 rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>%1 wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>Zurück zu %1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>Zurücksetzen</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>Das kann nicht rückgängig gemacht werden:
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Wählen Sie ein Dokument zum Drucken.</translation>
     </message>
@@ -3741,10 +3703,6 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>Dokumente</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4172,6 +4130,51 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>%1, changed</source>
         <translation>%1, geändert</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>%1 rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>%1 wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Zurück zu %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>Das kann nicht rückgängig gemacht werden:
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
     </message>
 </context>
 <context>

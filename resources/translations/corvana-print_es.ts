@@ -3543,44 +3543,6 @@ En la línea de órdenes: %2</translation>
         <translation>Introducir la contraseña del propietario…</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Impresora</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>Deshacer %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rehacer</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>Rehacer %1</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>Volver a %1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>Revertir</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>Esto no se puede revertir:
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Elija un documento para imprimir.</translation>
     </message>
@@ -3741,10 +3703,6 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>No se puede mostrar una página de los ajustes de la impresora: %1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>Documentos</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4172,6 +4130,51 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>%1, changed</source>
         <translation>%1, cambiado</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Deshacer %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rehacer %1</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Volver a %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Revertir</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>Esto no se puede revertir:
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
     </message>
 </context>
 <context>

@@ -3543,44 +3543,6 @@ Pour la ligne de commande : %2</translation>
         <translation>Saisir le mot de passe du propriétaire…</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Imprimante</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>Annuler : %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rétablir</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>Rétablir : %1</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>Revenir à : %1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>Réinitialiser</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>Ceci ne peut pas être annulé :
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Réglage</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Choisissez un document à imprimer.</translation>
     </message>
@@ -3741,10 +3703,6 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>Documents</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4172,6 +4130,51 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>%1, changed</source>
         <translation>%1, modifié</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Revenir à : %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>Ceci ne peut pas être annulé :
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
     </message>
 </context>
 <context>

@@ -3543,44 +3543,6 @@ Per la riga di comando: %2</translation>
         <translation>Inserisci la password del proprietario…</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Stampante</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annulla modifica</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>Annulla %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Ripeti modifica</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>Ripeti %1</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>Torna a %1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>Ripristino</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>Impossibile ripristinare:
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Impostazione</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Scegliere un documento da stampare.</translation>
     </message>
@@ -3741,10 +3703,6 @@ Per la riga di comando: %2</translation>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>Impossibile mostrare una pagina delle impostazioni della stampante: %1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>Documenti</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4172,6 +4130,51 @@ Per la riga di comando: %2</translation>
     <message>
         <source>%1, changed</source>
         <translation>%1, modificato</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla modifica</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annulla %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti modifica</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Ripeti %1</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Torna a %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristino</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>Impossibile ripristinare:
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
     </message>
 </context>
 <context>

@@ -2328,48 +2328,6 @@ For the command line: %2</source>
         <source>Use Defaults</source>
         <translation>既定値を使用</translation>
     </message>
-    <message>
-        <source>Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>文書</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>「%1」を元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>「%1」をやり直す</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>「%1」に戻す</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>元の値に戻せません:
-%1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>リセット</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
 <message>
         <source>Not everything that your administrator has decided can be used. “corvana-print --check-policy” says what, and why.</source>
         <translation>管理者の定めた内容の一部は使用できません。「corvana-print --check-policy」で内容と理由を確認できます。</translation>
@@ -4037,6 +3995,51 @@ For the command line: %2</source>
     <message>
         <source>Other programs list it as “%1”.</source>
         <translation>ほかのプログラムでは「%1」と表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>「%1」を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>「%1」をやり直す</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>「%1」に戻す</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>元の値に戻せません:
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
     </message>
 </context>
 <context>

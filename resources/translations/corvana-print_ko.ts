@@ -3541,44 +3541,6 @@ For the command line: %2</source>
         <translation>소유자 암호 입력…</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>프린터</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>실행 취소</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>실행 취소: %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>다시 실행</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>다시 실행: %1</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>%1(으)로 되돌리기</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>재설정</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>되돌릴 수 없습니다:
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>설정</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>인쇄할 문서를 선택하십시오.</translation>
     </message>
@@ -3739,10 +3701,6 @@ For the command line: %2</source>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>프린터 설정 페이지를 표시할 수 없습니다: %1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>문서</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4170,6 +4128,51 @@ For the command line: %2</source>
     <message>
         <source>%1, changed</source>
         <translation>%1, 변경됨</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>프린터</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>실행 취소: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>다시 실행: %1</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>%1(으)로 되돌리기</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>재설정</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>되돌릴 수 없습니다:
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>문서</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>설정</translation>
     </message>
 </context>
 <context>

@@ -3543,44 +3543,6 @@ Na linha de comando: %2</translation>
         <translation>Digitar a senha do proprietário…</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Impressora</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Desfazer</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>Desfazer %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Refazer</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>Refazer %1</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>Voltar a %1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>Redefinir</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>Isto não pode ser redefinido:
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Configuração</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Escolha um documento para imprimir.</translation>
     </message>
@@ -3741,10 +3703,6 @@ Na linha de comando: %2</translation>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>Não é possível mostrar uma página das configurações da impressora: %1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>Documentos</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4172,6 +4130,51 @@ Na linha de comando: %2</translation>
     <message>
         <source>%1, changed</source>
         <translation>%1, alterado</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>Impressora</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Desfazer %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Refazer %1</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Voltar a %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Redefinir</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>Isto não pode ser redefinido:
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Configuração</translation>
     </message>
 </context>
 <context>

@@ -2328,48 +2328,6 @@ For the command line: %2</source>
         <source>Use Defaults</source>
         <translation>使用默认值</translation>
     </message>
-    <message>
-        <source>Printer</source>
-        <translation>打印机</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>文档</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>撤销“%1”</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>重做</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>重做“%1”</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>恢复为“%1”</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>无法恢复：
-%1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>重置</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
 <message>
         <source>Not everything that your administrator has decided can be used. “corvana-print --check-policy” says what, and why.</source>
         <translation>管理员的部分规定无法使用。“corvana-print --check-policy”会说明是哪些以及原因。</translation>
@@ -4037,6 +3995,51 @@ For the command line: %2</source>
     <message>
         <source>Other programs list it as “%1”.</source>
         <translation>其他程序中显示为“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销“%1”</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做“%1”</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>恢复为“%1”</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>无法恢复：
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
     </message>
 </context>
 <context>

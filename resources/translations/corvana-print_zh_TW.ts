@@ -3541,44 +3541,6 @@ For the command line: %2</source>
         <translation>輸入擁有者密碼…</translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>印表機</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>復原</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>復原：%1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>重做</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>重做：%1</translation>
-    </message>
-    <message>
-        <source>Back to %1</source>
-        <translation>恢復為%1</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>重設</translation>
-    </message>
-    <message>
-        <source>This cannot go back:
-%1</source>
-        <translation>以下設定無法恢復：
-%1</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>請選擇要列印的文件。</translation>
     </message>
@@ -3739,10 +3701,6 @@ For the command line: %2</source>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
         <translation>無法顯示印表機設定的其中一頁：%1</translation>
-    </message>
-    <message>
-        <source>Documents</source>
-        <translation>文件</translation>
     </message>
     <message>
         <source>%1 is being read.</source>
@@ -4170,6 +4128,51 @@ For the command line: %2</source>
     <message>
         <source>%1, changed</source>
         <translation>%1，已變更</translation>
+    </message>
+</context>
+<context>
+    <name>corvana::TaskHistory</name>
+    <message>
+        <source>Printer</source>
+        <translation>印表機</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>復原：%1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>恢復為%1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重設</translation>
+    </message>
+    <message>
+        <source>This cannot go back:
+%1</source>
+        <translation>以下設定無法恢復：
+%1</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
     </message>
 </context>
 <context>

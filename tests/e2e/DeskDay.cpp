@@ -14,6 +14,7 @@
 #include <QToolButton>
 #include <QUrl>
 
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/chooser/PrinterComboBox.h"
@@ -247,10 +248,10 @@ void DeskDay::undo()
 {
     PrintTask &task = m_window->dialog().task();
     task.setCopies(3);
-    expect([&] { return task.canUndo(); }, "nothing can be undone");
-    task.undo();
-    task.redo();
-    task.undo();
+    expect([&] { return task.history().canUndo(); }, "nothing can be undone");
+    task.history().undo();
+    task.history().redo();
+    task.history().undo();
 }
 
 void DeskDay::print()

@@ -9,6 +9,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/SettingsValues.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -165,11 +166,11 @@ private:
     }
     void reset()
     {
-        const QStringList changed = task().changedSettings();
+        const QStringList changed = task().history().changedSettings();
         m_last = u"reset"_s;
         if (changed.isEmpty() || below(3) == 0)
-            return task().resetAll();
-        task().resetSettings({any(changed)});
+            return task().history().resetAll();
+        task().history().resetSettings({any(changed)});
     }
     void act()
     {
@@ -215,11 +216,12 @@ private:
 
     void goBackOrForward(int step)
     {
-        const bool back = task().canUndo() && (below(2) == 0 || !task().canRedo());
-        if (!back && !task().canRedo())
+        const bool back =
+            task().history().canUndo() && (below(2) == 0 || !task().history().canRedo());
+        if (!back && !task().history().canRedo())
             return;
         back ? m_states->goBack() : m_states->goForward();
-        back ? task().undo() : task().redo();
+        back ? task().history().undo() : task().history().redo();
         ++m_done[u"back"_s];
         settle();
         const TaskSettings now = task().settingsNow();
@@ -284,7 +286,7 @@ private Q_SLOTS:
             if (below(3) == 0) {
                 goBackOrForward(step);
             } else {
-                task().endStep();
+                task().history().endStep();
                 act();
                 settle();
                 noteState();
@@ -292,11 +294,12 @@ private Q_SLOTS:
             if (!QTest::currentTestFailed())
                 compareWithLocks();
             if (!QTest::currentTestFailed())
-                QCOMPARE(task().canUndo(), m_states->canGoBack());
+                QCOMPARE(task().history().canUndo(), m_states->canGoBack());
             if (!QTest::currentTestFailed())
-                QCOMPARE(task().canRedo(), m_states->canGoForward());
+                QCOMPARE(task().history().canRedo(), m_states->canGoForward());
             if (QTest::currentTestFailed()) {
-                qWarning().noquote() << "after" << m_last << "at step" << step << task().undoText();
+                qWarning().noquote()
+                    << "after" << m_last << "at step" << step << task().history().undoText();
                 return;
             }
         }

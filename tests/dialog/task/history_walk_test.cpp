@@ -12,6 +12,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/SettingsValues.h"
+#include "dialog/task/TaskHistory.h"
 #include "platform/pde/PDEPanel.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/KeptStates.h"
@@ -162,12 +163,12 @@ private:
 
     void reset()
     {
-        const QStringList changed = task().changedSettings();
+        const QStringList changed = task().history().changedSettings();
         m_last = u"reset"_s;
         if (changed.isEmpty() || below(4) == 0)
-            return task().resetAll();
+            return task().history().resetAll();
         m_last += u' ' + changed.constFirst();
-        task().resetSettings({any(changed)});
+        task().history().resetSettings({any(changed)});
     }
 
     void act()
@@ -209,15 +210,16 @@ private:
 
     void goBackOrForward(int step)
     {
-        const bool back = task().canUndo() && (below(2) == 0 || !task().canRedo());
-        if (!back && !task().canRedo())
+        const bool back =
+            task().history().canUndo() && (below(2) == 0 || !task().history().canRedo());
+        if (!back && !task().history().canRedo())
             return;
         const qsizetype alerts = m_scene->face.presenter.shown().size();
         back ? m_states->goBack() : m_states->goForward();
         if (back)
-            task().undo();
+            task().history().undo();
         else
-            task().redo();
+            task().history().redo();
         ++m_undone;
         for (const char *when : {"at once", "later"}) {
             const TaskSettings now = task().settingsNow();
@@ -315,13 +317,13 @@ private Q_SLOTS:
             if (below(3) == 0) {
                 goBackOrForward(step);
             } else {
-                task().endStep();
+                task().history().endStep();
                 act();
                 settle();
                 noteState();
             }
-            QCOMPARE(task().canUndo(), m_states->canGoBack());
-            QCOMPARE(task().canRedo(), m_states->canGoForward());
+            QCOMPARE(task().history().canUndo(), m_states->canGoBack());
+            QCOMPARE(task().history().canRedo(), m_states->canGoForward());
             if (step % 100 == 50)
                 compareWithACommandLine(request);
             if (QTest::currentTestFailed()) {

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/OwnHome.h"
@@ -217,9 +218,9 @@ private Q_SLOTS:
         m_scene->open(request({}, u"number-up=2 Media=Film"_s));
         QCOMPARE(presets().selectedName(), u"Printer Defaults"_s);
         QVERIFY(presets().isChanged());
-        QCOMPARE(task().changedSettings(), (QStringList{u"Media"_s, u"number-up"_s}));
-        QCOMPARE(task().baseText(u"Media"_s), u"Plain Paper"_s);
-        task().resetAll();
+        QCOMPARE(task().history().changedSettings(), (QStringList{u"Media"_s, u"number-up"_s}));
+        QCOMPARE(task().history().baseText(u"Media"_s), u"Plain Paper"_s);
+        task().history().resetAll();
         QVERIFY(!presets().isChanged());
         QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Plain"_s);
         QVERIFY(task().settings().attribute(u"number-up"_s).isNull());
@@ -229,8 +230,8 @@ private Q_SLOTS:
     {
         preset(u"Rep"_s, false, {{{u"Media"_s, u"Film"_s}}, {}, {{u"number-up"_s, u"4"_s}}});
         openWindow(request(u"Rep"_s, u"number-up=2"_s));
-        QCOMPARE(task().changedSettings(), QStringList{u"number-up"_s});
-        QCOMPARE(task().base().name, u"Rep"_s);
+        QCOMPARE(task().history().changedSettings(), QStringList{u"number-up"_s});
+        QCOMPARE(task().history().base().name, u"Rep"_s);
         QCOMPARE(update(), QString());
         QCOMPARE(stored(u"Rep"_s).content.attributes.value(u"number-up"_s), u"2"_s);
         QVERIFY(!presets().isChanged());

@@ -3,6 +3,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/TaskHistory.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/Rows.h"
@@ -443,11 +444,11 @@ private Q_SLOTS:
         PpdBuilder ppd = plainPrinter();
         PrintTask &task = open({}, ppd.line("*DefaultOutputOrder: Reverse"));
         task.setAttribute(u"outputorder"_s, u"normal"_s);
-        task.setBase({task.settingsNow(), u"Reports"_s});
+        task.history().setBase({task.settingsNow(), u"Reports"_s});
         task.setAttribute(u"outputorder"_s, u"reverse"_s);
-        task.resetSettings({u"outputorder"_s});
+        task.history().resetSettings({u"outputorder"_s});
         QCOMPARE(task.settings().attribute(u"outputorder"_s), u"normal"_s);
-        QCOMPARE(task.changedSettings(), QStringList());
+        QCOMPARE(task.history().changedSettings(), QStringList());
     }
 
     void whatWasChosenComesBackWithItsPrinter()

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "dialog/job/FileBytes.h"
+#include "dialog/task/TaskHistory.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/TestPaths.h"
@@ -123,7 +124,7 @@ private Q_SLOTS:
         QTRY_COMPARE(titles(), (QStringList{u"letter.txt"_s, u"pipe"_s, u"more.txt"_s}));
         QVERIFY2(m_said.last().contains(u"/missing.pdf"_s), qPrintable(m_said.last()));
         QVERIFY2(!m_said.last().contains(u"is being read"_s), qPrintable(m_said.last()));
-        QVERIFY(task().canUndo());
+        QVERIFY(task().history().canUndo());
         QFile::remove(pipe);
     }
 
@@ -250,16 +251,16 @@ private Q_SLOTS:
         const QStringList all{own, u"first"_s, u"after.txt"_s};
         QTRY_COMPARE(titles(), all);
         // Nobody who takes back what he has done loses them.
-        QCOMPARE(task().undoText(), u"Undo Paper Type"_s);
-        task().undo();
+        QCOMPARE(task().history().undoText(), u"Undo Paper Type"_s);
+        task().history().undo();
         QCOMPARE(titles(), all);
-        QVERIFY(!task().canUndo());
-        task().redo();
+        QVERIFY(!task().history().canUndo());
+        task().history().redo();
         QCOMPARE(titles(), all);
         QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Card"_s);
         // What is added then is a step.
         task().addDocuments({file(u"more.txt"_s)});
-        QCOMPARE(task().undoText(), u"Undo Documents"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Documents"_s);
         QFile::remove(pipe);
     }
 

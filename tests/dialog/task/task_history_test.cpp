@@ -5,6 +5,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/SettingsValues.h"
+#include "dialog/task/TaskHistory.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 #include "tests/support/Rows.h"
@@ -89,29 +90,29 @@ private Q_SLOTS:
         const QString first = task().documents().constFirst().path;
         const QString second = sourceFile(u"tests/data/page.txt"_s);
         task().addDocuments({second});
-        QCOMPARE(task().undoText(), u"Undo Documents"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Documents"_s);
         task().propose(u"Media"_s, u"Card"_s);
         settle();
         task().moveDocument(1, 0);
         task().removeDocument(1);
         QCOMPARE(paths(), QStringList{second});
-        task().undo();
+        task().history().undo();
         QCOMPARE(paths(), (QStringList{second, first}));
-        task().undo();
+        task().history().undo();
         QCOMPARE(paths(), (QStringList{first, second}));
         QCOMPARE(session().markedChoice(u"Media"_s), u"Card"_s);
-        QCOMPARE(task().undoText(), u"Undo Paper Type"_s);
-        task().undo();
+        QCOMPARE(task().history().undoText(), u"Undo Paper Type"_s);
+        task().history().undo();
         QVERIFY(session().markedChoice(u"Media"_s) != u"Card"_s);
         QCOMPARE(paths(), (QStringList{first, second}));
-        task().undo();
+        task().history().undo();
         QCOMPARE(paths(), QStringList{first});
-        QVERIFY(!task().canUndo());
+        QVERIFY(!task().history().canUndo());
         for (int i = 0; i < 4; ++i)
-            task().redo();
+            task().history().redo();
         QCOMPARE(paths(), QStringList{second});
         QCOMPARE(session().markedChoice(u"Media"_s), u"Card"_s);
-        QVERIFY(!task().canRedo());
+        QVERIFY(!task().history().canRedo());
     }
 
     void defaultsOfThePrinterLeaveDocumentsAlone()
@@ -121,10 +122,10 @@ private Q_SLOTS:
         settle();
         task().addDocuments({sourceFile(u"tests/data/page.txt"_s)});
         const QStringList both = paths();
-        task().resetAll();
+        task().history().resetAll();
         QCOMPARE(paths(), both);
         QVERIFY(session().markedChoice(u"Media"_s) != u"Card"_s);
-        task().undo();
+        task().history().undo();
         QCOMPARE(paths(), both);
         QCOMPARE(session().markedChoice(u"Media"_s), u"Card"_s);
     }
@@ -142,16 +143,16 @@ private Q_SLOTS:
         task().bringUp();
         settle();
         QCOMPARE(task().documents().size(), 2);
-        QCOMPARE(task().undoText(), u"Undo Printer"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Printer"_s);
         // On the way back another one comes.
-        task().undo();
+        task().history().undo();
         task().bringUp();
         settle();
         QCOMPARE(task().printer().name, u"office"_s);
         for (const int left : {3, 2}) {
             QCOMPARE(task().documents().size(), left);
-            QCOMPARE(task().undoText(), u"Undo Documents"_s);
-            task().undo();
+            QCOMPARE(task().history().undoText(), u"Undo Documents"_s);
+            task().history().undo();
         }
         QCOMPARE(task().documents().size(), 1);
         QCOMPARE(task().printer().name, u"office"_s);
@@ -162,22 +163,22 @@ private Q_SLOTS:
     {
         const NamedCase &row = currentRow(kNamed);
         openOffice();
-        QVERIFY(!task().canUndo());
-        QCOMPARE(task().undoText(), u"Undo"_s);
+        QVERIFY(!task().history().canUndo());
+        QCOMPARE(task().history().undoText(), u"Undo"_s);
         const TaskSettings before = task().settingsNow();
         row.act(task());
         settle();
-        QVERIFY(task().canUndo());
-        QCOMPARE(task().undoText(), row.undoText);
+        QVERIFY(task().history().canUndo());
+        QCOMPARE(task().history().undoText(), row.undoText);
         const TaskSettings after = task().settingsNow();
         QVERIFY(!(after == before));
-        task().undo();
+        task().history().undo();
         QVERIFY(task().settingsNow() == before);
-        QVERIFY(!task().canUndo());
-        QCOMPARE(task().redoText(), QString(row.undoText).replace(u"Undo"_s, u"Redo"_s));
-        task().redo();
+        QVERIFY(!task().history().canUndo());
+        QCOMPARE(task().history().redoText(), QString(row.undoText).replace(u"Undo"_s, u"Redo"_s));
+        task().history().redo();
         QVERIFY(task().settingsNow() == after);
-        QVERIFY(!task().canRedo());
+        QVERIFY(!task().history().canRedo());
     }
 
     void onlyWhatIsTypedOrMovedGoesOn_data() { addRows(kNamed); }
@@ -191,7 +192,7 @@ private Q_SLOTS:
         const TaskSettings between = task().settingsNow();
         row.actAgain(task());
         settle();
-        task().undo();
+        task().history().undo();
         QVERIFY(task().settingsNow() == (row.isOneStepWhenRepeated ? before : between));
     }
 
@@ -199,10 +200,10 @@ private Q_SLOTS:
     {
         openOffice();
         task().setCopies(2);
-        task().endStep();
+        task().history().endStep();
         task().setCopies(3);
         settle();
-        task().undo();
+        task().history().undo();
         QCOMPARE(task().settings().copies(), 2);
     }
 
@@ -210,9 +211,9 @@ private Q_SLOTS:
     {
         openOffice();
         task().setCopies(2);
-        task().undo(); // before the event loop has come round
+        task().history().undo(); // before the event loop has come round
         QCOMPARE(task().settings().copies(), 1);
-        QVERIFY(task().canRedo());
+        QVERIFY(task().history().canRedo());
     }
 
     void aRefusedChoiceIsNoStep()
@@ -222,7 +223,7 @@ private Q_SLOTS:
         settle();
         task().propose(u"Staple"_s, u"Left"_s);
         settle();
-        QCOMPARE(task().undoText(), u"Undo Paper Type"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Paper Type"_s);
     }
 
     void takingAnOfferIsOneStep()
@@ -236,7 +237,7 @@ private Q_SLOTS:
         m_scene->face.messages.constLast().take();
         settle();
         QCOMPARE(session().markedChoice(u"Staple"_s), u"Left"_s);
-        task().undo();
+        task().history().undo();
         QVERIFY(task().settingsNow() == before);
     }
 
@@ -245,7 +246,7 @@ private Q_SLOTS:
         openSample();
         QVERIFY(panels().visit(kPrintPanel));
         settle();
-        QVERIFY(!task().canUndo());
+        QVERIFY(!task().history().canUndo());
         const TaskSettings before = task().settingsNow();
         // The envelope brings its own rules, and says how it is loaded.
         m_scene->face.presenter.expect();
@@ -253,13 +254,13 @@ private Q_SLOTS:
         settle();
         QVERIFY(
             differences(before, task().settingsNow(), *task().opened()).contains(u"QXMediaType"_s));
-        QCOMPARE(task().undoText(), u"Undo Media Type"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Media Type"_s);
         const TaskSettings after = task().settingsNow();
         const qsizetype alerts = m_scene->face.presenter.shown().size();
-        task().undo();
+        task().history().undo();
         QVERIFY(task().settingsNow() == before);
-        QVERIFY(!task().canUndo());
-        task().redo();
+        QVERIFY(!task().history().canUndo());
+        task().history().redo();
         QVERIFY(task().settingsNow() == after);
         settle();
         QVERIFY(task().settingsNow() == after);
@@ -274,13 +275,13 @@ private Q_SLOTS:
         task().propose(kPageSizeOption, u"EnvDL"_s);
         settle();
         QCOMPARE(session().markedChoice(u"QXMediaType"_s), u"Env"_s);
-        QCOMPARE(task().undoText(), u"Undo Paper Size"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Paper Size"_s);
         const TaskSettings after = task().settingsNow();
-        task().undo();
+        task().history().undo();
         settle();
         QVERIFY(task().settingsNow() == before);
         QCOMPARE(session().pageFormat(), before.session.pageFormat);
-        task().redo();
+        task().history().redo();
         settle();
         QVERIFY(task().settingsNow() == after);
         QCOMPARE(m_scene->face.presenter.shown().size(), 1);
@@ -300,17 +301,17 @@ private Q_SLOTS:
             brightness->setValue(value);
             settle();
         }
-        QCOMPARE(task().undoText(), u"Undo Brightness"_s);
-        task().endStep(); // let go
+        QCOMPARE(task().history().undoText(), u"Undo Brightness"_s);
+        task().history().endStep(); // let go
         brightness->setValue(-4);
         settle();
-        task().undo();
+        task().history().undo();
         QCOMPARE(brightness->value(), 9);
-        task().undo();
+        task().history().undo();
         QVERIFY(task().settingsNow() == before);
         QCOMPARE(brightness->value(), 0);
-        task().redo();
-        task().redo();
+        task().history().redo();
+        task().history().redo();
         QCOMPARE(brightness->value(), -4);
     }
 
@@ -323,8 +324,8 @@ private Q_SLOTS:
             task().summary();
             settle();
         }
-        QVERIFY(!task().canUndo());
-        QCOMPARE(task().changedSettings(), QStringList());
+        QVERIFY(!task().history().canUndo());
+        QCOMPARE(task().history().changedSettings(), QStringList());
     }
 
     void anotherPrinterIsAStep()
@@ -338,20 +339,20 @@ private Q_SLOTS:
         task().choosePrinter(office);
         task().bringUp();
         settle();
-        QCOMPARE(task().undoText(), u"Undo Printer"_s);
+        QCOMPARE(task().history().undoText(), u"Undo Printer"_s);
         task().propose(u"Media"_s, u"Card"_s);
         settle();
         const TaskSettings after = task().settingsNow();
-        task().undo();
-        task().undo();
+        task().history().undo();
+        task().history().undo();
         QVERIFY(task().phase() != Phase::Ready);
-        QVERIFY(!task().canUndo());
+        QVERIFY(!task().history().canUndo());
         task().bringUp();
         QVERIFY(task().settingsNow() == before);
-        QCOMPARE(task().undoText(), u"Undo Copies"_s);
-        task().redo();
+        QCOMPARE(task().history().undoText(), u"Undo Copies"_s);
+        task().history().redo();
         task().bringUp();
-        task().redo();
+        task().history().redo();
         settle();
         QVERIFY(task().settingsNow() == after);
     }
@@ -364,12 +365,12 @@ private Q_SLOTS:
         bool could = true;
         QObject::connect(&task(), &PrintTask::phaseChanged, &task(), [&](Phase phase) {
             if (phase == Phase::Asking || phase == Phase::Printing)
-                could = task().canUndo() || task().canRedo();
+                could = task().history().canUndo() || task().history().canRedo();
         });
         task().print();
         QVERIFY(!could);
-        QVERIFY(!task().canUndo());
-        task().undo();
+        QVERIFY(!task().history().canUndo());
+        task().history().undo();
         QCOMPARE(task().settings().copies(), 2);
         QVERIFY(m_scene->reaches(Phase::Ended));
     }
@@ -380,20 +381,21 @@ private Q_SLOTS:
         request.options = parseOptions({u"Tray=Lower number-up=2"_s});
         m_scene->open(request);
         // What was asked for is no part of where the printer starts.
-        QCOMPARE(task().changedSettings(), (QStringList{u"Tray"_s, u"number-up"_s}));
+        QCOMPARE(task().history().changedSettings(), (QStringList{u"Tray"_s, u"number-up"_s}));
         task().propose(u"Media"_s, u"Card"_s);
         task().setAttribute(u"number-up"_s, u"4"_s);
         task().setCopies(2);
         task().setPageRanges(u"1"_s);
-        QCOMPARE(task().changedSettings(), (QStringList{u"Media"_s, u"Tray"_s, u"number-up"_s}));
-        QCOMPARE(task().backText(), u"Back to Printer Defaults"_s);
-        QCOMPARE(task().baseText(u"Media"_s), u"Plain Paper"_s);
-        QVERIFY(task().baseText(u"number-up"_s).isNull());
-        PrintTask::Base base{task().settingsNow(), u"Reports"_s};
-        task().setBase(base);
-        QCOMPARE(task().changedSettings(), QStringList());
-        QCOMPARE(task().backText(), u"Back to Reports"_s);
-        QCOMPARE(task().baseText(u"Media"_s), u"Card"_s);
+        QCOMPARE(task().history().changedSettings(),
+                 (QStringList{u"Media"_s, u"Tray"_s, u"number-up"_s}));
+        QCOMPARE(task().history().backText(), u"Back to Printer Defaults"_s);
+        QCOMPARE(task().history().baseText(u"Media"_s), u"Plain Paper"_s);
+        QVERIFY(task().history().baseText(u"number-up"_s).isNull());
+        SettingsBase base{task().settingsNow(), u"Reports"_s};
+        task().history().setBase(base);
+        QCOMPARE(task().history().changedSettings(), QStringList());
+        QCOMPARE(task().history().backText(), u"Back to Reports"_s);
+        QCOMPARE(task().history().baseText(u"Media"_s), u"Card"_s);
     }
 
     void oneSettingGoesBack()
@@ -404,13 +406,13 @@ private Q_SLOTS:
         task().setAttribute(u"number-up"_s, u"4"_s);
         settle();
         const TaskSettings before = task().settingsNow();
-        task().resetSettings({u"Media"_s});
-        QCOMPARE(task().changedSettings(), (QStringList{u"Tray"_s, u"number-up"_s}));
-        QCOMPARE(task().undoText(), u"Undo Paper Type"_s);
-        task().undo();
+        task().history().resetSettings({u"Media"_s});
+        QCOMPARE(task().history().changedSettings(), (QStringList{u"Tray"_s, u"number-up"_s}));
+        QCOMPARE(task().history().undoText(), u"Undo Paper Type"_s);
+        task().history().undo();
         QVERIFY(task().settingsNow() == before);
-        task().resetSettings({u"number-up"_s});
-        QCOMPARE(task().changedSettings(), (QStringList{u"Media"_s, u"Tray"_s}));
+        task().history().resetSettings({u"number-up"_s});
+        QCOMPARE(task().history().changedSettings(), (QStringList{u"Media"_s, u"Tray"_s}));
     }
 
     void aTrayGoesBackWithTheFeedingByHand()
@@ -420,11 +422,11 @@ private Q_SLOTS:
                 .option("InputSlot", "Tray", "Upper", {{"Upper", "Upper"}, {"Lower", "Lower"}})
                 .option("ManualFeed", "By Hand", "False", {{"True", "Yes"}, {"False", "No"}})));
         task().propose(u"InputSlot"_s, u"Lower"_s);
-        task().setBase({task().settingsNow(), u"Reports"_s});
+        task().history().setBase({task().settingsNow(), u"Reports"_s});
         task().propose(u"ManualFeed"_s, u"True"_s);
-        task().resetSettings({u"ManualFeed"_s});
+        task().history().resetSettings({u"ManualFeed"_s});
         QCOMPARE(session().markedChoice(u"InputSlot"_s), u"Lower"_s);
-        QCOMPARE(task().changedSettings(), QStringList());
+        QCOMPARE(task().history().changedSettings(), QStringList());
     }
 
     void everythingGoesBackInOneStep()
@@ -439,14 +441,14 @@ private Q_SLOTS:
         task().setPageRanges(u"1"_s);
         settle();
         const TaskSettings before = task().settingsNow();
-        QVERIFY(!task().changedSettings().isEmpty());
-        task().resetAll();
-        QCOMPARE(task().changedSettings(), QStringList());
+        QVERIFY(!task().history().changedSettings().isEmpty());
+        task().history().resetAll();
+        QCOMPARE(task().history().changedSettings(), QStringList());
         QCOMPARE(task().settings().copies(), 2); // of this job alone
         QCOMPARE(task().settings().pageRanges(), u"1"_s);
         QCOMPARE(task().settingsNow().session.marks, start.session.marks);
-        QCOMPARE(task().undoText(), u"Undo Reset"_s);
-        task().undo();
+        QCOMPARE(task().history().undoText(), u"Undo Reset"_s);
+        task().history().undo();
         QVERIFY(task().settingsNow() == before);
     }
 
@@ -454,18 +456,18 @@ private Q_SLOTS:
     {
         openOffice();
         task().propose(u"Staple"_s, u"Left"_s);
-        task().setBase({task().settingsNow(), u"Reports"_s});
+        task().history().setBase({task().settingsNow(), u"Reports"_s});
         task().propose(u"Staple"_s, u"OFF"_s);
         task().propose(u"Media"_s, u"Film"_s);
         settle();
-        task().resetSettings({u"Staple"_s});
+        task().history().resetSettings({u"Staple"_s});
         QVERIFY2(m_scene->face.message().contains(u"Staple"_s),
                  qPrintable(m_scene->face.message()));
-        QVERIFY(task().changedSettings().contains(u"Staple"_s));
+        QVERIFY(task().history().changedSettings().contains(u"Staple"_s));
         m_scene->face.messages.clear();
-        task().resetSettings({u"Staple"_s, u"Media"_s});
+        task().history().resetSettings({u"Staple"_s, u"Media"_s});
         QVERIFY(m_scene->face.messages.isEmpty());
-        QCOMPARE(task().changedSettings(), QStringList());
+        QCOMPARE(task().history().changedSettings(), QStringList());
     }
 
     void aPrinterThatIsLeftKeepsWhatItsChangesAreComparedWith()
@@ -476,10 +478,10 @@ private Q_SLOTS:
         settle();
         task().choosePrinter(sample());
         task().bringUp();
-        QCOMPARE(task().changedSettings(), QStringList());
+        QCOMPARE(task().history().changedSettings(), QStringList());
         task().choosePrinter(office);
         task().bringUp();
-        QCOMPARE(task().changedSettings(), (QStringList{u"Media"_s}));
+        QCOMPARE(task().history().changedSettings(), (QStringList{u"Media"_s}));
     }
 };
 

@@ -6,6 +6,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -210,7 +211,7 @@ private Q_SLOTS:
         task.setAttribute(u"booklet"_s, u"left"_s);
         QVERIFY(task.settings().attribute(u"number-up"_s).isNull());
         if (isReset) {
-            task.resetSettings({u"number-up"_s});
+            task.history().resetSettings({u"number-up"_s});
         } else {
             task.setAttribute(u"number-up"_s, u"6"_s);
             task.setAttribute(u"number-up"_s, u"1"_s);
@@ -249,7 +250,7 @@ private Q_SLOTS:
         task.setAttribute(u"number-up"_s, u"4"_s);
         task.setAttribute(u"booklet"_s, u"left"_s);
         if (isReset) {
-            task.resetAll();
+            task.history().resetAll();
         } else {
             task.choosePrinter(request.printers.at(1));
             QTRY_COMPARE(task.phase(), PrintTask::Phase::Opened);
@@ -287,22 +288,22 @@ private Q_SLOTS:
         QCOMPARE(task.setAttribute(u"booklet"_s, u"left"_s), QString());
         QTest::qWait(1);
         QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
-        QCOMPARE(task.undoText(), u"Undo Booklet"_s);
-        task.undo();
+        QCOMPARE(task.history().undoText(), u"Undo Booklet"_s);
+        task.history().undo();
         QVERIFY(task.settingsNow() == before);
-        QVERIFY(!task.canUndo());
+        QVERIFY(!task.history().canUndo());
         // Turned off, or reset, it takes its sides along, which is one step as well.
-        task.redo();
-        task.resetSettings({u"booklet"_s});
+        task.history().redo();
+        task.history().resetSettings({u"booklet"_s});
         QTest::qWait(1);
         QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexNone));
-        task.undo();
+        task.history().undo();
         QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
         task.setAttribute(u"booklet"_s, u"no"_s);
         QTest::qWait(1);
         QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexNone));
-        QVERIFY(task.changedSettings().isEmpty());
-        task.undo();
+        QVERIFY(task.history().changedSettings().isEmpty());
+        task.history().undo();
         QCOMPARE(task.settings().attribute(u"booklet"_s), u"left"_s);
         QCOMPARE(m_scene->session().markedChoice(kDuplexOption), QString(kDuplexShortEdge));
     }

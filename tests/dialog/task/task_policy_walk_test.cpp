@@ -6,6 +6,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/LeftSession.h"
 #include "dialog/task/PresetApplication.h"
+#include "dialog/task/TaskHistory.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -145,11 +146,11 @@ private:
             panels.restoreAll();
             return;
         case 11:
-            return task().undo();
+            return task().history().undo();
         case 12:
-            return task().redo();
+            return task().history().redo();
         case 13:
-            return task().resetAll();
+            return task().history().resetAll();
         case 14:
             applyPreset(anyPreset(), {}, task().documents(), *task().opened(), task().settings());
             return;

@@ -5,6 +5,7 @@
 
 #include "dialog/presets/LastUsed.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -109,10 +110,11 @@ private Q_SLOTS:
         QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
         QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
         QVERIFY(!presets.isChanged());
-        QCOMPARE(task().base().name, u"Reports"_s);
-        QVERIFY2(task().undoText().contains(u"Reports"_s), qPrintable(task().undoText()));
+        QCOMPARE(task().history().base().name, u"Reports"_s);
+        QVERIFY2(task().history().undoText().contains(u"Reports"_s),
+                 qPrintable(task().history().undoText()));
 
-        task().undo();
+        task().history().undo();
         QCOMPARE(marked(u"Media"_s), u"Plain"_s);
         QCOMPARE(marked(u"Boost"_s), u"ON"_s);
         QVERIFY(task().settings().attribute(u"number-up"_s).isNull());
@@ -127,16 +129,16 @@ private Q_SLOTS:
         presets.useDefaults();
         QCOMPARE(presets.selectedName(), u"Printer Defaults"_s);
         presets.use(u"Reports"_s);
-        task().undo();
+        task().history().undo();
         QCOMPARE(presets.selectedName(), u"Printer Defaults"_s);
         QVERIFY(!presets.isChanged());
-        QCOMPARE(task().base().name, u"Printer Defaults"_s);
-        task().redo();
+        QCOMPARE(task().history().base().name, u"Printer Defaults"_s);
+        task().history().redo();
         QCOMPARE(presets.selectedName(), u"Reports"_s);
         QVERIFY(!presets.isChanged());
         // Back over the defaults as well: the preset that was saved then.
-        task().undo();
-        task().undo();
+        task().history().undo();
+        task().history().undo();
         QCOMPARE(presets.selectedName(), u"Reports"_s);
         QCOMPARE(marked(u"Media"_s), u"Film"_s);
         QVERIFY(!presets.isChanged());
@@ -150,21 +152,21 @@ private Q_SLOTS:
         presets.useDefaults();
         propose(u"Media"_s, u"Card"_s);
         QCOMPARE(save(u"Letters"_s), QString());
-        task().undo(); // of the card
-        task().undo(); // of the defaults
+        task().history().undo(); // of the card
+        task().history().undo(); // of the defaults
         QCOMPARE(presets.selectedName(), u"Letters"_s);
         QVERIFY(presets.isChanged());
         presets.use(u"Reports"_s);
         presets.useDefaults();
         presets.use(u"Letters"_s);
-        task().undo();
+        task().history().undo();
         QVERIFY(PresetStore(task().request().presetPlaces)
                     .remove(presets.listing().find(u"Reports"_s)->preset)
                     .isEmpty());
         QSignalSpy changed(&presets, &TaskPresets::changed);
         presets.look();
         QVERIFY(changed.wait(5000));
-        task().undo();
+        task().history().undo();
         QCOMPARE(presets.selectedName(), u"Printer Defaults"_s);
     }
 

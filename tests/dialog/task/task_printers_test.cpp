@@ -3,6 +3,7 @@
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/session/OptionRequest.h"
+#include "dialog/task/TaskHistory.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
@@ -184,17 +185,17 @@ private Q_SLOTS:
         QTest::qWait(1);
         becomes(officePrinter().option("Ink", "Ink", "Black", {{"Black", "Black"}}).text());
         task().bringUp();
-        QVERIFY(task().canUndo());
-        task().undo();
+        QVERIFY(task().history().canUndo());
+        task().history().undo();
         QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"OFF"_s);
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
         QCOMPARE(m_scene->session().markedChoice(u"Ink"_s), u"Black"_s);
-        QVERIFY(task().canUndo());
-        task().undo();
+        QVERIFY(task().history().canUndo());
+        task().history().undo();
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Auto"_s);
-        QVERIFY(!task().canUndo());
-        task().redo();
-        task().redo();
+        QVERIFY(!task().history().canUndo());
+        task().history().redo();
+        task().history().redo();
         QCOMPARE(m_scene->session().markedChoice(u"Staple"_s), u"Left"_s);
         QCOMPARE(m_scene->session().markedChoice(u"Tray"_s), u"Lower"_s);
     }
@@ -223,7 +224,7 @@ private Q_SLOTS:
         task().bringUp();
         QTest::qWait(1);
         QCOMPARE(m_scene->session().markedChoice(u"Media"_s), u"Card"_s);
-        task().undo();
+        task().history().undo();
         QVERIFY(m_scene->reaches(Phase::Opened));
         m_scene->face.messages.clear(); // of what the user had left there, which is the same
         task().bringUp();
@@ -245,13 +246,13 @@ private Q_SLOTS:
         becomes(plainPrinter().text());
         task().bringUp();
         m_scene->face.messages.clear();
-        task().undo();
+        task().history().undo();
         QVERIFY2(m_scene->face.message().contains(u"could be set as before"_s) &&
                      m_scene->face.message().contains(u"name Staple"_s),
                  qPrintable(m_scene->face.message()));
         // It has come down to what this printer has of it.
         m_scene->face.messages.clear();
-        task().undo();
+        task().history().undo();
         QCOMPARE(m_scene->face.message(), QString());
     }
 
@@ -267,7 +268,7 @@ private Q_SLOTS:
         becomes(plainPrinter().text());
         task().bringUp();
         QVERIFY(!ppdOption(m_scene->session().ppd(), u"Duplex"_s));
-        task().undo();
+        task().history().undo();
         QCOMPARE(task().settings().attribute(u"booklet"_s), u"left"_s);
         QCOMPARE(task().setAttribute(u"booklet"_s, u"no"_s), QString());
     }

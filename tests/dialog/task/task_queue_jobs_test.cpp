@@ -1,6 +1,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "dialog/task/TaskHistory.h"
 #include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/task/QueueTaskTest.h"
 #include "tests/support/TestPaths.h"
@@ -167,10 +168,10 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(task().phase(), Phase::Opened, kPatience);
         QCOMPARE(task().printer().name, u"office"_s);
         task().bringUp();
-        task().undo();
+        task().history().undo();
         QTRY_COMPARE(task().phase(), Phase::Opened); // the first one again
         task().bringUp();
-        task().undo();
+        task().history().undo();
         QCOMPARE(task().documents().size(), 1);
     }
 

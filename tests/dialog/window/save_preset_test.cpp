@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTranslator>
 
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/SavePresetDialog.h"
 #include "tests/dialog/support/OwnHome.h"
@@ -288,7 +289,7 @@ private Q_SLOTS:
         QVERIFY(!m_scene->face.messages.isEmpty());
         QVERIFY2(m_scene->face.messages.constLast().text.contains(u"nonsense"_s),
                  qPrintable(m_scene->face.messages.constLast().text));
-        task().undo();
+        task().history().undo();
         QCOMPARE(session.markedChoice(u"Boost"_s), u"ON"_s);
         QCOMPARE(session.markedChoice(u"Tray"_s), u"Upper"_s);
     }

@@ -9,6 +9,7 @@
 
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/SettingsIndex.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/window/SettingsPages.h"
 #include "dialog/window/pages/ControlLock.h"
 #include "dialog/window/pages/GeneralPage.h"
@@ -112,10 +113,11 @@ private Q_SLOTS:
         const QString before = onGeneral()->currentText();
         QVERIFY(pick(onGeneral(), u"Mono"_s));
         QTRY_VERIFY(onGeneral()->accessibleDescription().startsWith(u"Changed."_s));
-        QVERIFY2(task().undoText().contains(u"Color Mode"_s), qPrintable(task().undoText()));
+        QVERIFY2(task().history().undoText().contains(u"Color Mode"_s),
+                 qPrintable(task().history().undoText()));
         m_window->child<QToolButton>(u"undo"_s)->click();
         QTRY_COMPARE(onGeneral()->currentText(), before);
-        QVERIFY(!task().canUndo());
+        QVERIFY(!task().history().canUndo());
         QCOMPARE(onPanel()->currentText(), before);
         QCOMPARE(onGeneral()->accessibleDescription(), QString());
     }

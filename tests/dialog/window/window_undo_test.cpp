@@ -19,6 +19,7 @@
 #include <QTreeView>
 
 #include "dialog/session/OptionNames.h"
+#include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/window/PresetButton.h"
 #include "dialog/window/PresetMenu.h"
@@ -137,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
         QTRY_VERIFY(undo()->isEnabled());
         QVERIFY2(undo()->text().startsWith(u"Undo "_s), qPrintable(undo()->text()));
-        QCOMPARE(undo()->accessibleName(), task().undoText());
+        QCOMPARE(undo()->accessibleName(), task().history().undoText());
         QVERIFY(undo()->toolTip().contains(u"Ctrl+Z"_s));
         undo()->click();
         QVERIFY(!undo()->isEnabled());
@@ -154,12 +155,12 @@ private Q_SLOTS:
         openOffice();
         QVERIFY(pick(child<QComboBox>(kDuplexOption), u"Long Edge"_s));
         QTRY_VERIFY(undo()->isEnabled());
-        const QString undone = task().undoText();
+        const QString undone = task().history().undoText();
         press(Qt::CTRL | Qt::Key_Z);
         press(Qt::CTRL | Qt::Key_Z); // there is nothing
         QCOMPARE(announced(undone), 1);
         redo()->click();
-        QCOMPARE(announced(task().undoText().replace(u"Undo"_s, u"Redo"_s)), 1);
+        QCOMPARE(announced(task().history().undoText().replace(u"Undo"_s, u"Redo"_s)), 1);
         // A change that nobody has recorded yet is the step that goes back.
         task().setCopies(4);
         QTest::keyClick(&m_window->dialog(), Qt::Key_Z, Qt::ControlModifier);
@@ -282,8 +283,8 @@ private Q_SLOTS:
         auto *slider = panel->findChild<QSlider *>(u"brightnessSlider"_s);
         QVERIFY(slider && slider->isEnabled());
         QTest::qWait(1);
-        task().endStep();
-        const QString before = task().undoText();
+        task().history().endStep();
+        const QString before = task().history().undoText();
         for (const int value : {3, 7}) {
             QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(1, 1));
             slider->setValue(value - 1);
@@ -297,7 +298,7 @@ private Q_SLOTS:
         focus(slider);
         press(Qt::CTRL | Qt::Key_Z);
         QVERIFY(slider->value() != last);
-        while (task().canUndo() && task().undoText() != before)
+        while (task().history().canUndo() && task().history().undoText() != before)
             press(Qt::CTRL | Qt::Key_Z);
         QCOMPARE(slider->value(), 0);
     }
@@ -400,16 +401,16 @@ private Q_SLOTS:
         QVERIFY(page->isEnabled() && all->isEnabled());
         QVERIFY(all->text().contains(u"Back to Printer Defaults"_s));
         page->trigger();
-        QCOMPARE(task().changedSettings(), QStringList{u"Media"_s});
+        QCOMPARE(task().history().changedSettings(), QStringList{u"Media"_s});
         Q_EMIT reset->menu()->aboutToShow();
         QVERIFY(!page->isEnabled() && all->isEnabled());
         all->trigger();
-        QCOMPARE(task().changedSettings(), QStringList());
+        QCOMPARE(task().history().changedSettings(), QStringList());
         QCOMPARE(task().settings().copies(), 2);
         Q_EMIT reset->menu()->aboutToShow();
         QVERIFY(!all->isEnabled());
         undo()->click();
-        QCOMPARE(task().changedSettings(), QStringList{u"Media"_s});
+        QCOMPARE(task().history().changedSettings(), QStringList{u"Media"_s});
     }
 
     void theSummaryCanShowWhatIsChangedAlone()
