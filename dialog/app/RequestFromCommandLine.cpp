@@ -120,14 +120,11 @@ constexpr std::chrono::milliseconds kLook{50};
 Document readDocument(const QString &name, DocumentKinds kinds, QString *error,
                       const std::function<bool()> &isStopped)
 {
-    const bool isStandardInput = name == "-"_L1;
-    if (!isStandardInput && !isReadToItsEnd(name))
+    if (name != kStandardInput && !isReadToItsEnd(name))
         return inspectDocument(name, error, kinds);
     std::stop_source stop;
-    std::future<Document> reading = std::async(std::launch::async, [&] {
-        return isStandardInput ? readStandardInput(error, kinds, stop.get_token())
-                               : inspectDocument(name, error, kinds, stop.get_token());
-    });
+    std::future<Document> reading = std::async(
+        std::launch::async, [&] { return inspectDocument(name, error, kinds, stop.get_token()); });
     while (reading.wait_for(kLook) != std::future_status::ready) {
         if (isStopped && isStopped())
             stop.request_stop();
@@ -139,10 +136,8 @@ bool takeDocuments(const CommandLine &line, PrintRequest *request, QString *erro
                    const std::function<bool()> &isStopped)
 {
     const auto kinds = asksForRaw(request->options) ? DocumentKinds::Any : DocumentKinds::Known;
-    // A window does not wait for whoever writes into a pipe. Standard input is read before there is
-    // one, and so is what stands before it: documents keep their order.
-    const bool mayBeLater =
-        !isUnattended(line) && kinds == DocumentKinds::Known && !line.documents.contains(u"-"_s);
+    // A window does not wait for whoever writes into a pipe.
+    const bool mayBeLater = !isUnattended(line) && kinds == DocumentKinds::Known;
     for (const QString &name : line.documents) {
         if (mayBeLater && (!request->toRead.isEmpty() || isReadToItsEnd(name))) {
             request->toRead += name;

@@ -172,6 +172,10 @@ bool isReadToItsEnd(const QString &path)
     struct stat info
     {
     };
+    if (path == kStandardInput) {
+        return ::fstat(STDIN_FILENO, &info) == 0 &&
+               (S_ISFIFO(info.st_mode) || S_ISSOCK(info.st_mode) || ::isatty(STDIN_FILENO));
+    }
     return ::stat(bytesOfName(path).constData(), &info) == 0 &&
            (S_ISFIFO(info.st_mode) || (S_ISREG(info.st_mode) && hasStrayBytes(path)));
 }
@@ -179,6 +183,8 @@ bool isReadToItsEnd(const QString &path)
 Document inspectDocument(const QString &path, QString *error, DocumentKinds kinds,
                          const std::stop_token &stop)
 {
+    if (path == kStandardInput)
+        return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), kinds, error, stop);
     const QString name = shownName(path);
     const QByteArray bytes = bytesOfName(path);
     struct stat info
@@ -215,11 +221,6 @@ QString nameOfFormat(const QString &format)
     const auto found = std::find_if(std::begin(kFormats), std::end(kFormats),
                                     [&](const Format &f) { return format == f.mimeType; });
     return found == std::end(kFormats) ? QString() : Texts::tr(found->name);
-}
-
-Document readStandardInput(QString *error, DocumentKinds kinds, const std::stop_token &stop)
-{
-    return inspectCopy(STDIN_FILENO, Texts::tr("standard input"), kinds, error, stop);
 }
 
 bool isStandardInputGiven()

@@ -30,6 +30,9 @@ enum class DocumentKinds {
     Any,   ///< whatever a printer may take as it is
 };
 
+/// The path of the document that comes on standard input. A file of that name is "./-".
+inline constexpr QLatin1StringView kStandardInput("-");
+
 /// Looks at a document: PDF, PostScript, plain text, PNG, JPEG; with `Any` anything that is not
 /// empty.
 ///
@@ -37,8 +40,9 @@ enum class DocumentKinds {
 /// it is; a file whose name promises something else is refused, because it is more often a web
 /// server's error page than a picture in disguise.
 ///
-/// `path` may have bytes that are no characters, as nameOfBytes() has them. Such a file, and a
-/// named pipe, are read to their ends into a file of the user's own; devices are refused.
+/// `path` may have bytes that are no characters, as nameOfBytes() has them. Such a file, a named
+/// pipe and standard input are read to their ends into a file of the user's own; devices are
+/// refused.
 ///
 /// Errors: an empty path; `error` then says which file and what is wrong with it.
 /// `stop` ends the reading early.
@@ -47,13 +51,8 @@ Document inspectDocument(const QString &path, QString *error,
                          const std::stop_token &stop = {});
 
 /// Whether such a document is read to its end before it is known what it is: that takes as long as
-/// somebody writes into it.
+/// somebody writes into it, or types it.
 bool isReadToItsEnd(const QString &path);
-
-/// The document that comes on standard input, read to its end into a temporary file of the user's.
-/// Errors: as inspectDocument(); `stop` ends the reading early here, too.
-Document readStandardInput(QString *error, DocumentKinds kinds = DocumentKinds::Known,
-                           const std::stop_token &stop = {});
 
 /// What such a format is called, for people: "PDF document". Empty for one that is not printed.
 QString nameOfFormat(const QString &format);

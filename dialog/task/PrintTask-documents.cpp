@@ -93,7 +93,9 @@ void PrintTask::readDocuments()
         // What stands behind it was asked for as well. Its message takes the place of this one.
         QMetaObject::invokeMethod(this, &PrintTask::readDocuments, Qt::QueuedConnection);
     };
-    m_looks.beingRead = {.text = tr("%1 is being read.").arg(shownName(path)),
+    m_looks.beingRead = {.text = path == kStandardInput
+                                     ? tr("Standard input is being read.")
+                                     : tr("%1 is being read.").arg(shownName(path)),
                          .offer = tr("Cancel"),
                          .take = cancel,
                          .staysWithoutPrinter = true};

@@ -3705,6 +3705,10 @@ Für die Befehlszeile: %2</translation>
         <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>Die Standardeingabe wird gelesen.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>%1 wird gelesen.</translation>
     </message>

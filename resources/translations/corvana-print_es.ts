@@ -3705,6 +3705,10 @@ En la línea de órdenes: %2</translation>
         <translation>No se puede mostrar una página de los ajustes de la impresora: %1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>Leyendo la entrada estándar.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Leyendo %1.</translation>
     </message>

@@ -3705,6 +3705,10 @@ Pour la ligne de commande : %2</translation>
         <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>Lecture de l’entrée standard en cours.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Lecture de %1 en cours.</translation>
     </message>

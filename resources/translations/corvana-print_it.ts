@@ -3705,6 +3705,10 @@ Per la riga di comando: %2</translation>
         <translation>Impossibile mostrare una pagina delle impostazioni della stampante: %1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>Lettura dello standard input in corso.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Lettura di %1 in corso.</translation>
     </message>

@@ -2341,6 +2341,10 @@ For the command line: %2</source>
         <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>標準入力を読み込んでいます。</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>%1 を読み込んでいます。</translation>
     </message>

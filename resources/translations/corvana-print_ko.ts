@@ -3703,6 +3703,10 @@ For the command line: %2</source>
         <translation>프린터 설정 페이지를 표시할 수 없습니다: %1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>표준 입력을 읽는 중입니다.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>%1을(를) 읽는 중입니다.</translation>
     </message>

@@ -3705,6 +3705,10 @@ Na linha de comando: %2</translation>
         <translation>Não é possível mostrar uma página das configurações da impressora: %1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>Lendo a entrada padrão.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Lendo %1.</translation>
     </message>

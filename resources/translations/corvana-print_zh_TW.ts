@@ -3703,6 +3703,10 @@ For the command line: %2</source>
         <translation>無法顯示印表機設定的其中一頁：%1</translation>
     </message>
     <message>
+        <source>Standard input is being read.</source>
+        <translation>正在讀取標準輸入。</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>正在讀取 %1。</translation>
     </message>

@@ -158,8 +158,33 @@ private Q_SLOTS:
         QCOMPARE(request.toRead, (QStringList{u"pipe"_s, u"more.txt"_s}));
     }
 
-    // Where there is no window, or nothing can be known of a document later, it is waited for; and
-    // standard input is read before there is a window, with all that stands in front of it.
+    // The same of standard input. A file there is read at once, and nobody waits.
+    void aWindowDoesNotWaitForStandardInput_data()
+    {
+        QTest::addColumn<bool>("isPipe");
+        QTest::newRow("a pipe") << true;
+        QTest::newRow("a file") << false;
+    }
+    void aWindowDoesNotWaitForStandardInput()
+    {
+        QFETCH(bool, isPipe);
+        int ends[2];
+        QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
+        const int file = ::open("notes.v2.txt", O_RDONLY | O_CLOEXEC);
+        const int input = ::dup(0);
+        ::dup2(isPipe ? ends[0] : file, 0);
+        m_line.documents = {u"-"_s, u"notes.v2.txt"_s};
+        QString error;
+        const PrintRequest request = preparePrintRequest(m_line, &error).value_or(PrintRequest());
+        ::dup2(input, 0);
+        for (const int one : {ends[0], ends[1], file, input})
+            ::close(one);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(request.toRead, isPipe ? m_line.documents : QStringList());
+        QCOMPARE(request.documents.size(), isPipe ? 0 : 2);
+    }
+
+    // Where there is no window, or nothing can be known of a document later, it is waited for.
     void aPipeIsWaitedForWhereItCannotComeLater_data()
     {
         QTest::addColumn<QStringList>("documents");
@@ -168,7 +193,7 @@ private Q_SLOTS:
         QTest::newRow("nobody looks on") << QStringList{u"pipe"_s} << true << QString();
         QTest::newRow("passed on as it is") << QStringList{u"pipe"_s} << false << u"raw"_s;
         QTest::newRow("in front of standard input")
-            << QStringList{u"pipe"_s, u"-"_s} << false << QString();
+            << QStringList{u"pipe"_s, u"-"_s} << true << QString();
     }
     void aPipeIsWaitedForWhereItCannotComeLater()
     {

@@ -159,7 +159,7 @@ private Q_SLOTS:
         writeFile(path(u"piped"_s), "%!PS from a pipe\n");
         QVERIFY(std::freopen(QFile::encodeName(path(u"piped"_s)).constData(), "r", stdin));
         QString error;
-        Document piped = readStandardInput(&error);
+        Document piped = inspectDocument(kStandardInput, &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QCOMPARE(piped.format, u"application/postscript"_s);
         QCOMPARE(piped.title, u"standard input"_s);
@@ -174,7 +174,7 @@ private Q_SLOTS:
     {
         QVERIFY(std::freopen("/dev/null", "r", stdin));
         QString error;
-        QVERIFY(readStandardInput(&error).path.isEmpty());
+        QVERIFY(inspectDocument(kStandardInput, &error).path.isEmpty());
         QCOMPARE(error, u"standard input is empty."_s);
     }
 };

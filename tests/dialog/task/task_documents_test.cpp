@@ -128,6 +128,23 @@ private Q_SLOTS:
         QFile::remove(pipe);
     }
 
+    void standardInputIsReadBesideTheWindow()
+    {
+        openWithout();
+        int ends[2];
+        QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
+        const int input = ::dup(STDIN_FILENO);
+        ::dup2(ends[0], STDIN_FILENO);
+        task().addDocuments({kStandardInput});
+        QCOMPARE(m_said.last(), u"Standard input is being read."_s);
+        QCOMPARE(::write(ends[1], "Some words.\n", 12), 12);
+        ::close(ends[1]);
+        QTRY_COMPARE(titles(), QStringList{u"standard input"_s});
+        ::dup2(input, STDIN_FILENO);
+        ::close(input);
+        ::close(ends[0]);
+    }
+
     void aPipeThatNobodyWritesIntoIsLeftWithoutWaiting_data()
     {
         QTest::addColumn<bool>("isCanceled");
