@@ -2,6 +2,8 @@
 
 corvana_fuzz_target(bundle PARSES
     platform/foundation/Bundle.cpp)
+corvana_fuzz_target(camera_picture PARSES
+    renderer/PictureNotes.cpp renderer/PictureTurn.cpp)
 corvana_fuzz_target(command_line PARSES
     dialog/app/CommandLine.cpp dialog/server/ServerAddress.cpp)
 corvana_fuzz_target(http_answer PARSES

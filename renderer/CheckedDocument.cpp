@@ -159,7 +159,8 @@ std::unique_ptr<CheckedDocument> CheckedDocument::check(int descriptor, const st
     if (!checked->m_file.data())
         return nullptr;
     try {
-        checked->describe(password, answer);
+        if (!checked->describePicture(answer))
+            checked->describe(password, answer);
     } catch (const QPDFExc &problem) {
         noteDamage(problem, answer);
         answer.status = Status::Damaged;
@@ -231,9 +232,39 @@ void CheckedDocument::describe(const std::string &password, Checked &answer)
     answer.status = answer.pages > 0 ? Status::Done : Status::Damaged;
 }
 
+// Answers whether it is one. One that is turned has a page, as every picture has; in any other
+// there is nothing to be found.
+bool CheckedDocument::describePicture(Checked &answer)
+{
+    const std::string_view file(m_file.data(), m_file.size());
+    if (looksLikePdf(file) || !file.starts_with("\xff\xd8"))
+        return false;
+    m_picture = notesOfPicture(file);
+    if (m_picture.orientation != 1) {
+        answer.mayPrint = 1;
+        answer.pages = 1;
+        answer.status = Status::Done;
+    }
+    return true;
+}
+
+Status CheckedDocument::copyPicture(int file) const
+{
+    const std::vector<unsigned char> picture =
+        turnedPicture({m_file.data(), m_file.size()}, m_picture);
+    if (picture.empty())
+        return Status::Damaged;
+    FileWriter output(file);
+    output.write(picture.data(), picture.size());
+    output.finish();
+    return Status::Done;
+}
+
 Status CheckedDocument::copy(int file)
 {
     try {
+        if (m_picture.orientation != 1)
+            return copyPicture(file);
         Content &content = *m_content;
         if (content.tree.lost > 0 || content.tree.isLoose)
             setPages(content.pdf, content.tree);

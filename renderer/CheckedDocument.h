@@ -5,13 +5,15 @@
 #include <string_view>
 
 #include "renderer/OpenedDocument.h"
+#include "renderer/PictureTurn.h"
 #include "renderer/protocol/Messages.h"
 
 namespace corvana::renderer {
 
 /// A PDF that is looked at before it is printed: whether it opens without a password, whether it
 /// may be printed, which of its pages can be read; and of which a copy is made that has no password
-/// and no pages but those.
+/// and no pages but those. Or a JPEG that a camera notes to be turned, of which a copy is made that
+/// is seen as it lies; any other picture is none of these.
 class CheckedDocument
 {
 public:
@@ -31,10 +33,13 @@ private:
     static std::unique_ptr<Content> opened(std::string_view bytes, const std::string &password);
     void open(const std::string &password, Checked &answer);
     void describe(const std::string &password, Checked &answer);
+    bool describePicture(Checked &answer);
+    Status copyPicture(int file) const;
 
     MappedFile m_file;       // outlives what is read of it
     std::string m_completed; // the same of a file whose end is missing, with an end
     std::unique_ptr<Content> m_content;
+    PictureNotes m_picture;
 };
 
 } // namespace corvana::renderer

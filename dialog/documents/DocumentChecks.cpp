@@ -15,6 +15,13 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(lcDocuments, "corvana.dialog.documents", QtWarningMsg)
 
+namespace {
+
+constexpr auto kPdf = "application/pdf"_L1;
+constexpr auto kPicture = "image/jpeg"_L1; // of others no camera says anything
+
+} // namespace
+
 DocumentChecks::DocumentChecks(RendererSettings settings, QObject *parent)
     : QObject(parent), m_settings(std::move(settings))
 {
@@ -32,7 +39,8 @@ void DocumentChecks::check(const QList<Document> &documents)
 {
     const QHash<QString, Known> before = std::exchange(m_known, {});
     for (const Document &document : documents) {
-        if (document.format != "application/pdf"_L1 || m_known.contains(document.path))
+        if ((document.format != kPdf && document.format != kPicture) ||
+            m_known.contains(document.path))
             continue;
         const QFileInfo info(document.path);
         const auto known = before.find(document.path);
@@ -58,7 +66,7 @@ void DocumentChecks::look(const Document &document, const QStringList &passwords
     known.size = info.size();
     known.time = info.lastModified();
     known.work = ++m_lastWork;
-    m_worker->look({known.work, document.path, passwords});
+    m_worker->look({known.work, document.path, passwords, document.format == kPicture});
 }
 
 bool DocumentChecks::isDone() const
@@ -83,6 +91,7 @@ Document DocumentChecks::printed(const Document &document) const
     if (const Known known = m_known.value(document.path); known.copy) {
         printed.path = pathOfCopy(*known.copy);
         printed.copy = known.copy;
+        printed.original = document.path;
     }
     return printed;
 }

@@ -13,8 +13,9 @@
 namespace corvana {
 
 /// Looks into documents before anything else does: whether they are protected, forbid printing, or
-/// are damaged. Where a document is printed with a password, or not whole, a copy is made of what
-/// is printed, which lasts as long as somebody holds the document that printed() answers.
+/// are damaged, and whether a camera notes that a picture is to be turned, which no filter of CUPS
+/// follows. Where a document is printed with a password, not whole, or turned, a copy is made of
+/// what is printed, which lasts as long as somebody holds the document that printed() answers.
 ///
 /// What cannot be found out is nothing that stands in the way of printing: the filter chain looks
 /// once more.

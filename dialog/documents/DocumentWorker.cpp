@@ -12,9 +12,17 @@
 
 namespace corvana {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Kind = DocumentState::Kind;
+
+bool isPicture(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(2) == "\xff\xd8";
+}
 
 DocumentState stateOf(RendererProcess::Outcome outcome, const CheckedPdf &checked)
 {
@@ -92,6 +100,8 @@ void DocumentWorker::run()
 
 DocumentWorker::Found DocumentWorker::found(const Work &work)
 {
+    if (work.isPicture)
+        return foundPicture(work);
     Found result{work.number, {}, nullptr};
     check(work, {}, &result.state);
     bool isUnlocked = false;
@@ -118,6 +128,24 @@ DocumentWorker::Found DocumentWorker::found(const Work &work)
     result.state.isUnlocked = isUnlocked && result.copy;
     if (!result.copy && needsCopy)
         result.state.kind = isUnlocked ? Kind::NotCopied : Kind::Unknown;
+    return result;
+}
+
+// What cannot be turned is printed as it lies, as CUPS does with any picture.
+DocumentWorker::Found DocumentWorker::foundPicture(const Work &work)
+{
+    Found result{work.number, {}, nullptr};
+    result.state.kind = Kind::Fine;
+    DocumentState turned;
+    check(work, {}, &turned);
+    if (turned.kind != Kind::Fine)
+        return result;
+    result.copy = copy();
+    // A file may be a picture and something else, too.
+    if (result.copy && !isPicture(pathOfCopy(*result.copy)))
+        result.copy.reset();
+    if (!result.copy)
+        result.state.details = u"the picture could not be turned"_s;
     return result;
 }
 

@@ -27,6 +27,7 @@ public:
         int number = 0; ///< comes back with what was found
         QString path;
         QStringList passwords; ///< tried in that order, behind none at all
+        bool isPicture = false;
     };
     struct Found
     {
@@ -50,6 +51,7 @@ private:
     void run();
     bool ends();
     Found found(const Work &work);
+    Found foundPicture(const Work &work);
     void check(const Work &work, const QString &password, DocumentState *state);
     std::shared_ptr<QTemporaryDir> copy();
 

@@ -17,6 +17,8 @@ struct Document
     QString title;  ///< the file's name
     /// Holds a file of our own while it is needed; null where the document is the user's file.
     std::shared_ptr<QTemporaryDir> copy{};
+    /// Of what the path is a copy that was made to be printed; empty where it is no such copy.
+    QString original{};
 
     bool operator==(const Document &) const = default;
 };

@@ -30,7 +30,9 @@ void FileJob::start()
 QString FileJob::prepare()
 {
     for (const Document &document : m_request.documents) {
-        if (isSameFile(m_request.outputPath, document.path))
+        const bool isOriginal =
+            !document.original.isEmpty() && isSameFile(m_request.outputPath, document.original);
+        if (isOriginal || isSameFile(m_request.outputPath, document.path))
             return tr("%1 is the document itself; name another file.").arg(m_request.outputPath);
     }
     QString problem;

@@ -44,6 +44,9 @@ struct ServerJobRequest
     /// The options in the words of the PPD, for what is done to the pages here, where those of the
     /// ticket are in the printer's own; else empty.
     QList<JobOption> chosenOptions{};
+    /// Whether pages are laid out here even where an IPP printer could do it: its order on a side
+    /// may be another one.
+    bool laysOutPages = false;
     /// Whether the queue chooses pages (page-ranges) of a job that names none.
     bool queueChoosesPages = false;
     /// A job of an earlier try whose fate is not known, or 0. It is looked up first, so that the

@@ -126,7 +126,8 @@ QList<JobOption> ServerJob::refusedOptions() const
 QList<JobOption> ServerJob::layout() const
 {
     QList<JobOption> layout;
-    bool allTaken = m_request.documents.size() == 1 && !mustPickPages(m_request.ticket.options);
+    bool allTaken = !m_request.laysOutPages && m_request.documents.size() == 1 &&
+                    !mustPickPages(m_request.ticket.options);
     for (const JobOption &option : m_request.ticket.options) {
         if (!isAppliedByChain(option) || asksForNothing(option, m_request.ticket.copies))
             continue;

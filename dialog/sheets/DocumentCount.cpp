@@ -13,6 +13,7 @@
 #include "dialog/session/OptionNames.h"
 #include "dialog/sheets/FirstSheets.h"
 #include "dialog/sheets/LaidOutDocument.h"
+#include "dialog/sheets/OrderOnSheet.h"
 #include "dialog/sheets/PictureTurn.h"
 #include "dialog/sheets/ScaleProbe.h"
 
@@ -169,10 +170,25 @@ void DocumentCount::lookAtPages()
         m_pages = pages->pages;
         if (m_isLaidOut)
             return keepSides(*pages);
+        choosePrinted();
         m_first.pages =
             pagesOfFirstSheets(m_pages, pages->count, m_request.options, m_request.traits);
         m_first.pages > 0 ? layOutFirst() : layOut();
     });
+}
+
+// Of pages that were not described nobody knows how they lie.
+void DocumentCount::choosePrinted()
+{
+    const QList<bool> isPrinted =
+        printedPages(static_cast<int>(m_pages.size()), pageChoiceOf(m_request.options));
+    for (qsizetype page = 0; page < m_pages.size(); ++page) {
+        if (isPrinted.at(page))
+            m_printed += m_pages.at(page);
+    }
+    if (m_request.turnsOrder && m_pages.size() == *m_sheets.pages)
+        m_sheets.orderTurn =
+            turnOfOrder(m_printed, m_turning.picture, m_request.options, m_request.traits);
 }
 
 ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &result) const
@@ -182,7 +198,7 @@ ConversionRequest DocumentCount::layoutOf(const QString &pdf, const QString &res
     request.ticket.options = documentOptions(
         m_texts ? optionsAfterTexts(m_request.options, m_request.documents) : m_request.options);
     request.result = ConversionRequest::Result::Pdf;
-    request.layout = layoutOptions(m_request.options);
+    request.layout = withOrderForReader(layoutOptions(m_request.options), m_sheets.orderTurn);
     request.picksPages = m_request.picksPages;
     return request;
 }
@@ -283,13 +299,6 @@ bool DocumentCount::makeFolder(std::unique_ptr<QTemporaryDir> &folder, QString *
 // given the chosen ones only.
 void DocumentCount::layOutProbe()
 {
-    const PageChoice choice = pageChoiceOf(m_request.options);
-    const QList<bool> isPrinted = printedPages(static_cast<int>(m_pages.size()), choice);
-    m_printed.clear();
-    for (qsizetype page = 0; page < m_pages.size(); ++page) {
-        if (isPrinted.at(page))
-            m_printed += m_pages.at(page);
-    }
     const QList<PdfPage> kinds =
         kindsOfPages(mustPickPages(m_request.options) ? m_printed : m_pages);
     // Of the pages that were not described nobody knows the kinds.
@@ -339,7 +348,9 @@ void DocumentCount::probed()
         return Q_EMIT finished({});
     m_first.pages = 0;
     m_first.sheets.turns = m_sheets.turns;
-    Q_EMIT begun(m_first.sheets);
+    // Another document may need another order yet.
+    if (m_sheets.orderTurn == 0 || m_request.documents.size() == 1)
+        Q_EMIT begun(m_first.sheets);
     layOut();
 }
 

@@ -50,6 +50,7 @@ private:
     void convertPicture();
     void convertText();
     void lookAtPages();
+    void choosePrinted();
     void layOutFirst();
     void keepFirst(const PdfPages &sides);
     void layOut();

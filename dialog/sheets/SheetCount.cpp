@@ -56,6 +56,19 @@ bool isUncounted(const JobSheets &sheets)
     return !sheetsOfOneCopy(sheets);
 }
 
+std::optional<int> commonOrderTurn(const JobSheets &sheets)
+{
+    std::optional<int> common;
+    for (const DocumentSheets &document : sheets.documents) {
+        if (document.sides.value_or(0) == 0)
+            continue;
+        if (common.value_or(document.orderTurn) != document.orderTurn)
+            return std::nullopt;
+        common = document.orderTurn;
+    }
+    return common.value_or(0);
+}
+
 bool drawsNoPage(const JobSheets &sheets)
 {
     return !sheets.documents.isEmpty() &&

@@ -36,6 +36,9 @@ struct DocumentSheets
     /// For each page of the document, by how much its side is turned to read that page upright,
     /// where it was found out. Units: degrees clockwise.
     QList<int> turns{};
+    /// By how much the order of its pages on a side is turned for their reader, see turnOfOrder();
+    /// what the layout step was told made up for that.
+    int orderTurn = 0;
     /// The sides themselves; null where there are none, or where they cannot be shown.
     std::shared_ptr<const LaidOutDocument> laidOut{};
     /// Why the sides cannot be shown. Of those that are too large their number is known all the
@@ -69,6 +72,10 @@ int chosenPages(int pages, const PageChoice &choice);
 std::optional<int> sheetsOfOneCopy(const JobSheets &sheets);
 /// Whether nobody could count the sides of some document.
 bool isUncounted(const JobSheets &sheets);
+/// By how much the order of pages on a side is turned in a job of these documents. Nothing where
+/// they would need different orders: a job has one. Those of which nothing is known, or comes out,
+/// need none.
+std::optional<int> commonOrderTurn(const JobSheets &sheets);
 /// Whether all documents are PostScript that draws no page.
 bool drawsNoPage(const JobSheets &sheets);
 /// Whether a filter that sends the pages of a document as they are would not send what was laid

@@ -97,6 +97,7 @@ void SheetCounter::cancel()
 
 void SheetCounter::begin()
 {
+    m_turnsOrder = m_request->turnsOrder;
     m_sofar = {{}, m_request->traits.isTwoSided, m_request->traits.isByHand};
     m_folder = std::make_unique<QTemporaryDir>();
     if (const QString problem = problemOf(*m_folder); !problem.isEmpty()) {
@@ -118,10 +119,19 @@ void SheetCounter::begin()
 void SheetCounter::countNext()
 {
     const qsizetype next = m_sofar.documents.size();
-    if (next == m_request->documents.size())
-        return end(DocumentSheets::Trouble::None);
+    if (next == m_request->documents.size()) {
+        if (commonOrderTurn(m_sofar))
+            return end(DocumentSheets::Trouble::None);
+        // All of them once more, in the one order that they can have in common.
+        m_turnsOrder = false;
+        m_begun.reset();
+        m_sofar.documents.clear();
+        return countNext();
+    }
+    SheetRequest request = *m_request;
+    request.turnsOrder = m_turnsOrder;
     m_document =
-        std::make_unique<DocumentCount>(*m_request, m_request->documents.at(next),
+        std::make_unique<DocumentCount>(request, m_request->documents.at(next),
                                         m_folder->filePath(u"layout.ppd"_s), m_folder->path());
     connect(m_document.get(), &DocumentCount::finished, this, [this](const QString &problem) {
         if (!problem.isEmpty())

@@ -30,6 +30,8 @@ struct SheetRequest
     /// Whether the job makes PDFs of pictures before anything is laid out, rather than have the
     /// chain's filter for pictures lay them out.
     bool makesPdfs = false;
+    /// Whether the order of pages on a side is turned for their reader.
+    bool turnsOrder = true;
 
     bool operator==(const SheetRequest &) const = default;
 };
@@ -93,6 +95,7 @@ private:
     JobSheets m_sofar;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<DocumentCount> m_document; // that is being counted
+    bool m_turnsOrder = true;                  // as far as is known yet
     QElapsedTimer m_sinceAsked;
     QTimer m_delay;
     QTimer m_patience;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "dialog/documents/DocumentTexts.h"
+#include "dialog/job/FilterPlan.h"
 #include "platform/foundation/ForeignText.h"
 
 namespace corvana {
@@ -252,12 +253,14 @@ void PrintTask::passwordDeclined(const Document &document)
         refuseDocuments({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
 }
 
-// What was unlocked or repaired is printed instead of the file that was chosen.
+// What was unlocked, repaired or turned is printed instead of the file that was chosen; a picture
+// that goes past all filters is the file.
 QList<Document> PrintTask::printedDocuments() const
 {
     QList<Document> printed;
+    const bool areFiles = m_opened && passesFilesOn();
     for (const Document &document : m_request.documents)
-        printed += m_looks.documents.printed(document);
+        printed += areFiles && isPicture(document) ? document : m_looks.documents.printed(document);
     return printed;
 }
 

@@ -15,6 +15,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/Summary.h"
 #include "dialog/session/TwoSided.h"
+#include "dialog/sheets/OrderOnSheet.h"
 #include "dialog/task/Collation.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
@@ -276,14 +277,19 @@ void PrintTask::startJob(const JobTicket &ticket)
     Q_EMIT unsaid();
     presets().jobBegins();
     m_run.hand.reset();
+    const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
+    // What the filters are told, so that the reader sees the order that was asked for.
+    const int turn = sheets ? commonOrderTurn(*sheets).value_or(0) : 0;
+    const JobTicket turned = withOrderForReader(ticket, turn);
     if (printsToFile()) {
         followJob(std::make_unique<FileJob>(FileJobRequest{
-            printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path}));
+            printedDocuments(), turned, m_opened->fetched.ppd->path, m_output.path}));
     } else if (isTwoSidedByHand(ticket.options) && !passesFilesOn()) {
         startByHand(ticket);
     } else {
-        ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, ticket);
+        ServerJobRequest request = serverJobRequest(*m_opened, server(), m_request, turned);
         request.documents = printedDocuments();
+        request.laysOutPages = turn != 0;
         if (m_settings.attributes().contains(kRaw) || !unknownDocument().isNull()) {
             request.canStandInARow = canStandInARow(request.documents);
             for (Document &document : request.documents)
@@ -293,7 +299,6 @@ void PrintTask::startJob(const JobTicket &ticket)
         request.earlierJob = memory.earlierJob;
         request.earlierDocuments = memory.earlierDocuments;
         request.sentDocuments = memory.sentDocuments;
-        const JobSheets *sheets = m_sheets.counted(sheetRequest(ticket));
         request.mayBeEmpty = passesFilesOn() || !sheets || isUncounted(*sheets);
         followJob(std::make_unique<ServerJob>(request));
     }

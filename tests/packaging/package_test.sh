@@ -144,6 +144,7 @@ theProgramThatDrawsPagesKnowsNoQt() {
     ! readelf --dynamic --wide root/usr/lib/corvana-print/corvana-page-renderer | grep -q 'NEEDED.*Qt' ||
         fail 'it needs Qt'
     dpkg-deb --field "$package" Depends | grep -q 'libseccomp2' || fail 'no libseccomp2'
+    dpkg-deb --field "$package" Depends | grep -q 'libturbojpeg0' || fail 'no libturbojpeg0'
 }
 
 theManualAndTheChangelogAreCompressed() {

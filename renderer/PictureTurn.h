@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvana::renderer {
+
+/// What a camera notes in a JPEG file: how the picture lies there, and what is kept of the file
+/// when it is turned. The rest is left out: previews, further pictures, and whatever would have the
+/// picture turned once more.
+struct PictureNotes
+{
+    /// As EXIF numbers it: 2 is mirrored, 3 upside down, 6 and 8 lie on their side.
+    /// Range: 1 (as it is seen) to 8.
+    int orientation = 1;
+    /// Its resolution and its colour space, as they are to stand in the turned file: segments with
+    /// their marks and lengths.
+    std::string segments{};
+    bool hasAdobeMark = false; ///< which says how four colours are to be read
+};
+
+/// Range of `file`: any bytes. Errors: an orientation of 1 where these are no JPEG, or nothing in
+/// it that could be relied on says otherwise.
+PictureNotes notesOfPicture(std::string_view file);
+
+/// A JPEG that is seen as it lies. A turned copy is the very same picture where its edges allow
+/// that; else it is compressed anew, as well as JPEG can.
+/// Errors: empty, where it is damaged, or takes more memory than there is for it.
+std::vector<unsigned char> turnedPicture(std::string_view file, const PictureNotes &notes);
+
+} // namespace corvana::renderer
