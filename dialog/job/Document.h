@@ -4,6 +4,7 @@
 #include <stop_token>
 
 #include <QString>
+#include <QStringList>
 
 class QTemporaryDir;
 
@@ -17,6 +18,10 @@ struct Document
     QString title;  ///< the file's name
     /// Holds a file of our own while it is needed; null where the document is the user's file.
     std::shared_ptr<QTemporaryDir> copy{};
+    /// The file as it was given, where `path` is a copy of PostScript without the commands to a
+    /// printer that stand around it; else empty. A printer that gets documents as they are gets it.
+    QString wrapped{};
+    QStringList settings{}; ///< of the printer that these commands set, by their names
 
     bool operator==(const Document &) const = default;
 };
@@ -31,7 +36,7 @@ enum class DocumentKinds {
 };
 
 /// Looks at a document: PDF, PostScript, plain text, PNG, JPEG; with `Any` anything that is not
-/// empty.
+/// empty. PostScript between commands to a printer is taken out of them, but with `Any`.
 ///
 /// The content decides, since the filter chain would send what it does not know to the printer as
 /// it is; a file whose name promises something else is refused, because it is more often a web

@@ -30,7 +30,8 @@ void FileJob::start()
 QString FileJob::prepare()
 {
     for (const Document &document : m_request.documents) {
-        if (isSameFile(m_request.outputPath, document.path))
+        if (isSameFile(m_request.outputPath, document.path) ||
+            isSameFile(m_request.outputPath, document.wrapped))
             return tr("%1 is the document itself; name another file.").arg(m_request.outputPath);
     }
     QString problem;

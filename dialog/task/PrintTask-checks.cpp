@@ -26,6 +26,20 @@ QString detailsOf(const Document &document, const DocumentState &state)
                : u"%1: %2"_s.arg(terminalLine(document.path), terminalLine(state.details));
 }
 
+// Of documents with commands to a printer, what was not said yet.
+QStringList lostCommands(const QList<Document> &documents, QStringList &told)
+{
+    QStringList notes;
+    for (const Document &document : documents) {
+        const QString note = commandsNote(document);
+        if (note.isEmpty() || told.contains(document.path + note))
+            continue;
+        told += document.path + note;
+        notes += note;
+    }
+    return notes;
+}
+
 } // namespace
 
 void PrintTask::documentsLookedAt()
@@ -65,7 +79,8 @@ QString PrintTask::damageOf(const Document &document) const
 void PrintTask::sayOfDocuments()
 {
     const PrintsTo to = printsToFile() ? PrintsTo::File : PrintsTo::Server;
-    QStringList notes;
+    QStringList notes =
+        passesFilesOn() ? QStringList() : lostCommands(m_request.documents, m_looks.told);
     QStringList warnings;
     QStringList details;
     QString damaged;
@@ -252,12 +267,16 @@ void PrintTask::passwordDeclined(const Document &document)
         refuseDocuments({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
 }
 
-// What was unlocked or repaired is printed instead of the file that was chosen.
+// What was unlocked or repaired is printed instead of the file that was chosen. Commands to a
+// printer reach it where nobody else reads the document.
 QList<Document> PrintTask::printedDocuments() const
 {
     QList<Document> printed;
-    for (const Document &document : m_request.documents)
+    for (const Document &document : m_request.documents) {
         printed += m_looks.documents.printed(document);
+        if (passesFilesOn() && !document.wrapped.isEmpty())
+            printed.last().path = document.wrapped;
+    }
     return printed;
 }
 
