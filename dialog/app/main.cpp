@@ -45,16 +45,22 @@ int failInWindow(const QString &problem)
     return fail(problem);
 }
 
+constexpr auto kPlatforms = "QT_QPA_PLATFORM";
+constexpr auto kNoDisplay = "offscreen"; // works always
+
 // Qt ends the program when none of its platforms works. With one more that always does, the program
 // lives to tell its user; whether a window can be shown is then known from the platform in use.
+// Those that a profile names for all programs are no other: it counts far from its desktop, too.
 void choosePlatform(bool needsWindow)
 {
     if (!needsWindow) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv(kPlatforms, kNoDisplay);
         return;
     }
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (const QByteArray wanted = qgetenv(kPlatforms); !wanted.isEmpty()) {
+        qputenv(kPlatforms, wanted + ';' + kNoDisplay);
         return;
+    }
     // What there is no sign of is not tried: the libraries below Qt would complain of it, too.
     const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
     const QString socket = qEnvironmentVariable("WAYLAND_DISPLAY");
@@ -65,8 +71,8 @@ void choosePlatform(bool needsWindow)
         platforms += "wayland";
     if (x11)
         platforms += "xcb";
-    platforms += "offscreen";
-    qputenv("QT_QPA_PLATFORM", platforms.join(';'));
+    platforms += kNoDisplay;
+    qputenv(kPlatforms, platforms.join(';'));
 }
 
 // Whatever has no HOME, such as a job of the system's, would keep its files in "/".
@@ -94,10 +100,11 @@ void logForTerminals(bool unattended)
     others = qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
             const bool isOfPlatforms = QByteArrayView(context.category).startsWith("qt.qpa") ||
-                                       text.startsWith("QStandardPaths:"_L1) ||
-                                       text.startsWith("Failed to create wl_display"_L1);
-            // A platform that was found and cannot be used is told of with a type of its own.
+                                       text.startsWith("QStandardPaths:"_L1);
             const bool isRemark = type != QtCriticalMsg && type != QtFatalMsg;
+            // That no compositor is there is more than a remark to Qt.
+            if (looksForPlatform && text.startsWith("Failed to create wl_display"_L1))
+                return;
             if (looksForPlatform && isRemark && isOfPlatforms)
                 return;
             // Qt says it of each font that it tries a text with; what no font has is said by us.
@@ -121,7 +128,7 @@ struct LeftForLater
 
 bool hasWindows()
 {
-    return QGuiApplication::platformName() != "offscreen"_L1;
+    return QGuiApplication::platformName() != QLatin1StringView(kNoDisplay);
 }
 
 void installOwnTranslations(QCoreApplication &application)
@@ -192,11 +199,12 @@ int main(int argc, char **argv)
         cupsSetUser(line.user.toUtf8().constData());
     }
     findHome();
-    const bool explicitPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    // Tests have windows that nobody sees.
+    const bool wantsNoDisplay = qgetenv(kPlatforms).startsWith(kNoDisplay);
     const bool unattended = isUnattended(line);
     choosePlatform(!unattended || line.checkDisplay);
     logForTerminals(unattended);
-    looksForPlatform = !explicitPlatform;
+    looksForPlatform = !wantsNoDisplay;
     QApplication application(argc, argv);
     const LeftForLater leftForLater;
     looksForPlatform = false;
@@ -210,7 +218,7 @@ int main(int argc, char **argv)
         return hasWindows() ? 0 : 1;
     if (!unattended && !hasWindows() && line.documents.isEmpty())
         return writeInstead(missingDocument());
-    if (!unattended && !explicitPlatform && !hasWindows())
+    if (!unattended && !wantsNoDisplay && !hasWindows())
         return fail(QCoreApplication::translate(
             "main", "no display can be reached. Print without a window with --no-dialog."));
 

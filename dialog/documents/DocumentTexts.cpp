@@ -1,5 +1,7 @@
 #include "dialog/documents/DocumentTexts.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -84,6 +86,19 @@ QString documentNote(const QString &title, const DocumentState &state, PrintsTo 
         return twoSentences(isDamaged(name, state),
                             Texts::tr("All pages that were found in it are printed."));
     return {};
+}
+
+QString commandsNote(const Document &document)
+{
+    constexpr qsizetype kMost = 8;
+    if (document.settings.isEmpty())
+        return {};
+    QStringList names = document.settings.first(std::min(kMost, document.settings.size()));
+    if (names.size() < document.settings.size())
+        names += QStringLiteral("…");
+    return Texts::tr("“%1” brings settings for a printer along, which are not followed: %2. Choose "
+                     "them here, or pass the document on with the option “raw”.")
+        .arg(terminalLine(document.title), terminalLine(names.join(QStringLiteral(", "))));
 }
 
 } // namespace corvana

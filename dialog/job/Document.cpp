@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,6 +16,8 @@
 
 #include "dialog/job/DocumentCopy.h"
 #include "dialog/job/FileBytes.h"
+#include "dialog/job/TemporaryFolder.h"
+#include "dialog/job/WrappedPostScript.h"
 #include "dialog/text/TextEncoding.h"
 
 namespace corvana {
@@ -64,6 +67,38 @@ bool isPrinterData(const QByteArray &beginning)
                                                                         "E\x1B");
 }
 
+// The document between commands to a printer, which neither the counting of its pages nor all of
+// CUPS' filters get along with. `copy` holds what is read of the file where it is not the user's.
+Document unwrapped(const QString &path, const QString &fileName, const WrappedPostScript &part,
+                   std::shared_ptr<QTemporaryDir> copy, QString *error)
+{
+    constexpr qint64 kPiece = 1 << 20;
+    if (!copy)
+        copy = std::make_shared<QTemporaryDir>();
+    if (*error = problemOf(*copy); !error->isEmpty())
+        return {};
+    QFile file(path);
+    QFile bare(copy->filePath(u"bare"_s));
+    bool isDone =
+        file.open(QIODevice::ReadOnly) && bare.open(QIODevice::WriteOnly) && file.seek(part.begin);
+    for (qint64 at = part.begin; isDone && at < part.end;) {
+        const QByteArray piece = file.read(std::min(kPiece, part.end - at));
+        isDone = !piece.isEmpty() && bare.write(piece) == piece.size();
+        at += piece.size();
+    }
+    if (!isDone || !bare.flush()) {
+        const QFile &failed = bare.error() == QFile::NoError ? file : bare;
+        *error = Texts::tr("%1 cannot be kept: %2").arg(fileName, failed.errorString());
+        return {};
+    }
+    return {bare.fileName(),
+            u"application/postscript"_s,
+            fileName,
+            copy,
+            QFileInfo(path).absoluteFilePath(),
+            part.settings};
+}
+
 // What a file holds. The filter chain reads no UTF-16 and no escape sequences, and no database of
 // types calls them text; pages are made of them here.
 const Format *formatOfContent(QFile &file, const QMimeType &type)
@@ -84,8 +119,10 @@ bool isPlainlyPdf(QFile &file, const QString &fileName)
     return fileName.endsWith(".pdf"_L1, Qt::CaseInsensitive) && file.peek(5) == "%PDF-";
 }
 
-// `name` is what the user calls it. Errors: see inspectDocument().
-Document inspectFile(const QString &path, const QString &name, DocumentKinds kinds, QString *error)
+// `name` is what the user calls it; `copy` holds the file where it is not the user's. Errors: see
+// inspectDocument().
+Document inspectFile(const QString &path, const QString &name, DocumentKinds kinds, QString *error,
+                     const std::shared_ptr<QTemporaryDir> &copy = nullptr)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -108,6 +145,9 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
                 fileName};
     const auto namedTypes = database.mimeTypesForFileName(fileName);
     const Format *promised = namedTypes.isEmpty() ? nullptr : formatOf(namedTypes.constFirst());
+    std::optional<WrappedPostScript> wrapped;
+    if (mayBeWrapped(beginningOf(file)) && (wrapped = findWrappedPostScript(file)))
+        held = &kFormats[1];
     if (!held && isPrinterData(beginningOf(file))) {
         *error = Texts::tr("%1 cannot be printed: it holds data that are ready for a printer. A "
                            "queue passes them on as they are with the option “raw”.")
@@ -134,6 +174,8 @@ Document inspectFile(const QString &path, const QString &name, DocumentKinds kin
                      .arg(name, Texts::tr(promised->name), Texts::tr(held->name));
         return {};
     }
+    if (wrapped)
+        return unwrapped(path, fileName, *wrapped, copy, error);
     return {QFileInfo(path).absoluteFilePath(), held->mimeType, fileName};
 }
 
@@ -145,7 +187,7 @@ Document inspectCopy(int descriptor, const QString &name, DocumentKinds kinds, Q
         copyOfDocument(descriptor, name, error, kMostBytesOfCopy, stop);
     if (!copy)
         return {};
-    Document document = inspectFile(pathOfCopy(*copy), name, kinds, error);
+    Document document = inspectFile(pathOfCopy(*copy), name, kinds, error, copy);
     if (!document.path.isEmpty())
         document.copy = copy;
     return document;
@@ -176,8 +218,13 @@ bool isReadToItsEnd(const QString &path)
         return ::fstat(STDIN_FILENO, &info) == 0 &&
                (S_ISFIFO(info.st_mode) || S_ISSOCK(info.st_mode) || ::isatty(STDIN_FILENO));
     }
-    return ::stat(bytesOfName(path).constData(), &info) == 0 &&
-           (S_ISFIFO(info.st_mode) || (S_ISREG(info.st_mode) && hasStrayBytes(path)));
+    if (::stat(bytesOfName(path).constData(), &info) != 0 || !S_ISREG(info.st_mode))
+        return S_ISFIFO(info.st_mode);
+    if (hasStrayBytes(path))
+        return true;
+    // What stands around a document ends where it ends.
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && mayBeWrapped(beginningOf(file));
 }
 
 Document inspectDocument(const QString &path, QString *error, DocumentKinds kinds,

@@ -4,6 +4,7 @@
 #include <stop_token>
 
 #include <QString>
+#include <QStringList>
 
 class QTemporaryDir;
 
@@ -17,8 +18,10 @@ struct Document
     QString title;  ///< the file's name
     /// Holds a file of our own while it is needed; null where the document is the user's file.
     std::shared_ptr<QTemporaryDir> copy{};
-    /// Of what the path is a copy that was made to be printed; empty where it is no such copy.
+    /// The file as it was given, where `path` is a copy that was made of it to be printed:
+    /// unlocked, repaired, turned, or without the commands to a printer around it. Else empty.
     QString original{};
+    QStringList settings{}; ///< of the printer that such commands set, by their names
 
     bool operator==(const Document &) const = default;
 };
@@ -36,7 +39,7 @@ enum class DocumentKinds {
 inline constexpr QLatin1StringView kStandardInput("-");
 
 /// Looks at a document: PDF, PostScript, plain text, PNG, JPEG; with `Any` anything that is not
-/// empty.
+/// empty. PostScript between commands to a printer is taken out of them, but with `Any`.
 ///
 /// The content decides, since the filter chain would send what it does not know to the printer as
 /// it is; a file whose name promises something else is refused, because it is more often a web

@@ -36,7 +36,7 @@ QString FileJob::prepare()
             return tr("%1 is the document itself; name another file.").arg(m_request.outputPath);
     }
     QString problem;
-    m_result = ResultFile::create(m_request.outputPath, &problem);
+    m_result = ResultFile::create(m_request.outputPath, &problem, m_request.namedBy);
     if (!m_result)
         return problem;
     m_texts =

@@ -21,7 +21,8 @@ struct FileJobRequest
     QList<Document> documents;
     JobTicket ticket;
     QString ppdPath;    ///< of the printer; never empty
-    QString outputPath; ///< as the user named it; a relative one is that of the current folder
+    QString outputPath; ///< as it was named; a relative one is that of the current folder
+    ResultFile::NamedBy namedBy = ResultFile::NamedBy::User;
 };
 
 /// Prints into a file: the documents go through the filter chain of CUPS with the printer's PPD and

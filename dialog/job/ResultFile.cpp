@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
+#include "dialog/job/ResultFormat.h"
+
 namespace corvana {
 
 namespace {
@@ -29,9 +31,17 @@ struct Texts
 QString makeFileBeside(const QString &place)
 {
     constexpr int kTries = 100;
+    // A name that is as long as it can be has no room for an ending.
+    constexpr qsizetype kRoom = 14;
+    constexpr qsizetype kLongest = 255; // bytes
+    const QFileInfo info(place);
+    QString name = info.fileName();
+    while (QFile::encodeName(name).size() > kLongest - kRoom)
+        name.chop(1);
     for (int i = 0; i < kTries; ++i) {
-        const QString path = place + u".%1.part"_s.arg(QRandomGenerator::system()->generate(), 8,
-                                                       16, QLatin1Char('0'));
+        const QString path =
+            info.path() + u'/' + name +
+            u".%1.part"_s.arg(QRandomGenerator::system()->generate(), 8, 16, QLatin1Char('0'));
         const int file = ::open(QFile::encodeName(path).constData(),
                                 O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (file >= 0) {
@@ -56,13 +66,21 @@ bool takeFreeName(const QByteArray &from, const QByteArray &to)
                                                : (errno = EEXIST, false);
 }
 
-} // namespace
-
-std::unique_ptr<ResultFile> ResultFile::create(const QString &name, QString *problem)
+// The name itself, where nothing has it.
+QString nextFreeName(const QString &name)
 {
     const QFileInfo info(name);
+    return freeResultName(info.absolutePath(), info.completeBaseName(), info.suffix());
+}
+
+} // namespace
+
+std::unique_ptr<ResultFile> ResultFile::create(const QString &name, QString *problem, NamedBy by)
+{
+    const QFileInfo info(by == NamedBy::Nobody ? nextFreeName(name) : name);
     std::unique_ptr<ResultFile> result(new ResultFile);
     result->m_given = name;
+    result->m_namedBy = by;
     result->m_name = info.absoluteFilePath();
     result->m_replaces = info.exists();
     result->m_place = info.exists() ? info.canonicalFilePath() : result->m_name;
@@ -106,12 +124,27 @@ std::function<QString()> ResultFile::flushing() const
     };
 }
 
-QString ResultFile::publish()
+// Errors: false; errno says why.
+bool ResultFile::takeName()
 {
     const QByteArray from = QFile::encodeName(m_path);
-    const QByteArray to = QFile::encodeName(m_place);
-    m_published =
-        m_replaces ? std::rename(from.constData(), to.constData()) == 0 : takeFreeName(from, to);
+    if (m_replaces)
+        return std::rename(from.constData(), QFile::encodeName(m_place).constData()) == 0;
+    // Several runs that print the same document at once all had the same name free before them.
+    constexpr int kTries = 100;
+    for (int i = 0; i < kTries; ++i) {
+        if (takeFreeName(from, QFile::encodeName(m_place)))
+            return true;
+        if (errno != EEXIST || m_namedBy == NamedBy::User)
+            break;
+        m_name = m_place = nextFreeName(m_name);
+    }
+    return false;
+}
+
+QString ResultFile::publish()
+{
+    m_published = takeName();
     if (m_published)
         return {};
     if (errno == EEXIST)

@@ -16,16 +16,23 @@ namespace corvana {
 class ResultFile
 {
 public:
-    /// `name` is what the user said: absolute, or in the current folder; a link leads to the place.
+    /// Who has chosen its name.
+    enum class NamedBy {
+        User,   ///< what stands there is replaced
+        Nobody, ///< the next name that is free will do as well, and nothing is replaced
+    };
+    /// `name`: absolute, or in the current folder; a link leads to the place.
     /// Errors: null; `problem` then says what stands in the way.
-    static std::unique_ptr<ResultFile> create(const QString &name, QString *problem);
+    static std::unique_ptr<ResultFile> create(const QString &name, QString *problem,
+                                              NamedBy by = NamedBy::User);
     ~ResultFile();
     ResultFile(const ResultFile &) = delete;
     ResultFile &operator=(const ResultFile &) = delete;
 
     /// Where to write until it is complete. Absolute.
     QString path() const { return m_path; }
-    /// The name that it takes, as a user says it; absolute.
+    /// The name that it takes, as a user says it; absolute. One that nobody has chosen is known
+    /// when it was published.
     QString name() const { return m_name; }
 
     /// Has what was written reach its disk or its server, which may say only then that it has no
@@ -38,11 +45,13 @@ public:
 
 private:
     ResultFile() = default;
+    bool takeName();
 
     QString m_given; // as it was said, for messages
     QString m_name;
     QString m_place; // that the name leads to
     QString m_path;
+    NamedBy m_namedBy = NamedBy::User;
     bool m_replaces = false; // a file that stood there at the beginning
     bool m_published = false;
 };

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace corvana {
@@ -144,6 +145,15 @@ QString suffixOf(const FilterLine &line)
     return known.value_or(QString(kUnknown));
 }
 
+// A name as long as file systems take one: of a longer one the end before the ending is left out.
+QString fittingName(QString base, const QString &ending)
+{
+    constexpr qsizetype kLongest = 255; // bytes
+    while (!base.isEmpty() && QFile::encodeName(base + ending).size() > kLongest)
+        base.chop(base.size() > 1 && base.back().isLowSurrogate() ? 2 : 1);
+    return base + ending;
+}
+
 } // namespace
 
 QString resultSuffix(ppd_file_t *ppd)
@@ -176,10 +186,13 @@ QString resultSuffix(ppd_file_t *ppd)
 
 QString freeResultName(const QString &folder, const QString &base, const QString &suffix)
 {
+    // Of ".bashrc" the part before the ending is nothing, and a file without one is hidden.
+    const QString given = base.isEmpty() ? u"document"_s : base;
     const QDir place(folder);
-    QString name = place.absoluteFilePath(u"%1.%2"_s.arg(base, suffix));
+    QString name = place.absoluteFilePath(fittingName(given, u'.' + suffix));
     for (int i = 2; QFileInfo::exists(name); ++i)
-        name = place.absoluteFilePath(u"%1-%2.%3"_s.arg(base, QString::number(i), suffix));
+        name =
+            place.absoluteFilePath(fittingName(given, u"-%1.%2"_s.arg(QString::number(i), suffix)));
     return name;
 }
 

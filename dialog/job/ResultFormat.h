@@ -14,7 +14,8 @@ namespace corvana {
 /// on, or by the data that a filter of CUPS is known for.
 QString resultSuffix(ppd_file_t *ppd);
 
-/// The name in that folder that no file has yet: "letter.ps", "letter-2.ps".
+/// The name in that folder that no file has yet, and that a file can have: "letter.ps",
+/// "letter-2.ps".
 QString freeResultName(const QString &folder, const QString &base, const QString &suffix);
 
 } // namespace corvana

@@ -49,15 +49,41 @@ constexpr const char16_t *kPieces[] = {
     u"识别码",
     u"存取代碼",
     u"存取碼",
+    u"個人識別碼",
+    u"安全码",
+    u"安全碼",
+    u"授权码",
+    u"授權碼",
+    u"通行码",
+    u"セキュリティコード",
     u"비밀번호",
     u"액세스코드",
+    u"접근코드",
+    u"보안코드",
+    u"인증코드",
     u"zugangscode",
     u"zugriffscode",
     u"motdepasse",
     u"coded'accès",
     u"coded’accès",
     u"codeconfidentiel",
+    u"codedesécurité",
+    u"codesecret",
+    u"numérod'identificationpersonnel",
+    u"numérod’identificationpersonnel",
+    u"geheimzahl",
+    u"geheimcode",
+    u"entsperrcode",
+    u"freigabecode",
+    u"sicherheitscode",
+    u"identifikationsnummer",
+    u"identificationnumber",
     u"contraseña",
+    u"clavedeacceso",
+    u"códigodeseguridad",
+    u"códigodesegurança",
+    u"codicedisicurezza",
+    u"codicesegreto",
     u"códigodeacceso",
     u"códigodeacesso",
     u"codiceaccesso",
@@ -65,7 +91,8 @@ constexpr const char16_t *kPieces[] = {
 };
 
 // Words that mean it only as a whole: "Spinning" and "Secretary" contain them, too.
-constexpr const char16_t *kWords[] = {u"pin", u"pins", u"secret", u"passkey", u"senha"};
+constexpr const char16_t *kWords[] = {u"pin",   u"pins", u"secret", u"passkey",
+                                      u"senha", u"nip",  u"holdkey"};
 
 // The words of "HPPinPrnt", "JOB_PIN2", "PINNumber" and "Access Code", in small letters.
 QStringList wordsOf(const QString &name)
@@ -88,6 +115,10 @@ bool soundsSecret(const QString &name)
     static const QRegularExpression pin(u"(?<!\\p{Lu})PIN(?!\\p{Lu})"_s,
                                         QRegularExpression::UseUnicodePropertiesOption);
     if (pin.match(name).hasMatch())
+        return true;
+    // Korean for a password, and the beginning of that for encryption.
+    static const QRegularExpression amho(u"암호(?!화)"_s);
+    if (amho.match(name).hasMatch())
         return true;
     // "Access Code" and "AccessCode" are the same.
     const QString joined = QString(name).remove(u' ').remove(u'_').remove(u'-').toLower();

@@ -36,8 +36,10 @@ QString proposedOutput(const QList<Document> &documents)
         return {};
     const bool writable = QFileInfo(QDir::currentPath()).isWritable() && !QDir::current().isRoot();
     const QDir folder = writable ? QDir::current() : QDir::home();
-    const QString base = QFileInfo(documents.constFirst().title).completeBaseName();
-    return freeResultName(folder.path(), base, u"ps"_s);
+    const QFileInfo title(documents.constFirst().title);
+    const QString base = title.completeBaseName();
+    // A hidden file has a name of its own and no ending.
+    return freeResultName(folder.path(), base.isEmpty() ? title.suffix() : base, u"ps"_s);
 }
 
 } // namespace corvana

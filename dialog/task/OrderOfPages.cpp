@@ -75,8 +75,8 @@ QList<OptionChoice> giveBack(JobSettings &settings, const OpenedPrinter &printer
         const QString now =
             isChoice ? printer.session->markedChoice(one.name) : settings.attribute(one.name);
         // What is usual may be there without being said.
-        const bool isStill = now == one.now || (!isChoice && now.isNull() &&
-                                                one.now == attribute->usual);
+        const bool isStill =
+            now == one.now || (!isChoice && now.isNull() && one.now == attribute->usual);
         if (isStill && isChoice && !one.former.isNull())
             choices += OptionChoice{one.name, one.former};
         else if (isStill && !isChoice)

@@ -27,6 +27,20 @@ QString detailsOf(const Document &document, const DocumentState &state)
                : u"%1: %2"_s.arg(terminalLine(document.path), terminalLine(state.details));
 }
 
+// Of documents with commands to a printer, what was not said yet.
+QStringList lostCommands(const QList<Document> &documents, QStringList &told)
+{
+    QStringList notes;
+    for (const Document &document : documents) {
+        const QString note = commandsNote(document);
+        if (note.isEmpty() || told.contains(document.path + note))
+            continue;
+        told += document.path + note;
+        notes += note;
+    }
+    return notes;
+}
+
 } // namespace
 
 void PrintTask::documentsLookedAt()
@@ -66,7 +80,8 @@ QString PrintTask::damageOf(const Document &document) const
 void PrintTask::sayOfDocuments()
 {
     const PrintsTo to = printsToFile() ? PrintsTo::File : PrintsTo::Server;
-    QStringList notes;
+    QStringList notes =
+        passesFilesOn() ? QStringList() : lostCommands(m_request.documents, m_looks.told);
     QStringList warnings;
     QStringList details;
     QString damaged;
@@ -253,14 +268,17 @@ void PrintTask::passwordDeclined(const Document &document)
         refuseDocuments({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});
 }
 
-// What was unlocked, repaired or turned is printed instead of the file that was chosen; a picture
-// that goes past all filters is the file.
+// What was unlocked, repaired or turned is printed instead of the file that was chosen. Where
+// nobody but the printer reads it, a picture is that file, and commands to the printer reach it.
 QList<Document> PrintTask::printedDocuments() const
 {
     QList<Document> printed;
     const bool areFiles = m_opened && passesFilesOn();
-    for (const Document &document : m_request.documents)
+    for (const Document &document : m_request.documents) {
         printed += areFiles && isPicture(document) ? document : m_looks.documents.printed(document);
+        if (areFiles && !document.original.isEmpty())
+            printed.last().path = document.original;
+    }
     return printed;
 }
 

@@ -131,7 +131,10 @@ std::optional<TaskRefusal> PrintTask::finish()
         !problems.isEmpty() && !m_request.documents.isEmpty())
         return TaskRefusal{problems};
     const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
-    if (replaces && !m_face.mayOverwrite(m_output.path))
+    // Nobody has seen a name that was proposed to a script.
+    const bool asks = replaces && (m_chosen.canBeAnother || m_output.path != m_output.proposed);
+    m_output.isTaken = asks;
+    if (asks && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
     if (const QString unknown = unknownDocument(); !passesFilesOn() && !unknown.isEmpty())
         return TaskRefusal{
@@ -282,8 +285,11 @@ void PrintTask::startJob(const JobTicket &ticket)
     const int turn = sheets ? commonOrderTurn(*sheets).value_or(0) : 0;
     const JobTicket turned = withOrderForReader(ticket, turn);
     if (printsToFile()) {
-        followJob(std::make_unique<FileJob>(FileJobRequest{
-            printedDocuments(), turned, m_opened->fetched.ppd->path, m_output.path}));
+        using By = ResultFile::NamedBy;
+        const bool isChosen = m_output.isTaken || m_output.path != m_output.proposed;
+        followJob(std::make_unique<FileJob>(
+            FileJobRequest{printedDocuments(), turned, m_opened->fetched.ppd->path, m_output.path,
+                           isChosen ? By::User : By::Nobody}));
     } else if (isTwoSidedByHand(ticket.options) && !passesFilesOn()) {
         startByHand(ticket);
     } else {

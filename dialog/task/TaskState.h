@@ -75,7 +75,8 @@ struct TaskState
         QString path;
         bool toFile = false;
         bool confirmed = false;
-        QString proposed{}; // and nobody's choice
+        QString proposed{};   // and nobody's choice
+        bool isTaken = false; // what was proposed is, and its user has agreed to replace that
     };
     struct Colors
     {

@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>Alle Seiten, die darin gefunden wurden, werden gedruckt.</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>„%1“ bringt Einstellungen für einen Drucker mit, die nicht befolgt werden: %2. Wählen Sie sie hier, oder geben Sie das Dokument mit der Option „raw“ unverändert weiter.</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

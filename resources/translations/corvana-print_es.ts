@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>Se imprimen todas las páginas encontradas en él.</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>«%1» trae ajustes para una impresora que no se aplican: %2. Elíjalos aquí o transmita el documento sin cambios con la opción «raw».</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

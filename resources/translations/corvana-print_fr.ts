@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>Toutes les pages qui y ont été trouvées sont imprimées.</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>« %1 » contient des réglages destinés à une imprimante qui ne sont pas appliqués : %2. Choisissez-les ici, ou transmettez le document tel quel avec l’option « raw ».</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>Vengono stampate tutte le pagine trovate.</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>«%1» contiene impostazioni per una stampante che non vengono applicate: %2. Sceglierle qui oppure inoltrare il documento senza modifiche con l&apos;opzione «raw».</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

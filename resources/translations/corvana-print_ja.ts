@@ -3268,6 +3268,10 @@ For the command line: %2</source>
         <source>All pages that were found in it are printed.</source>
         <translation>見つかったページはすべて印刷されます。</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>「%1」にはプリンターへの設定が含まれていますが、反映されません: %2。ここで設定するか、オプション「raw」を付けて文書をそのまま渡してください。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::DocumentPasswordDialog</name>

@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>찾은 모든 페이지가 인쇄됩니다.</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>‘%1’에 들어 있는 프린터 설정은 적용되지 않습니다: %2. 여기서 설정하거나 ‘raw’ 옵션으로 문서를 그대로 전달하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

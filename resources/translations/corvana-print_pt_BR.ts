@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>Todas as páginas encontradas nele são impressas.</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>“%1” traz configurações para uma impressora que não são seguidas: %2. Escolha-as aqui ou repasse o documento sem alterações com a opção “raw”.</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

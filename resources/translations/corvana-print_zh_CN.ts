@@ -3268,6 +3268,10 @@ For the command line: %2</source>
         <source>All pages that were found in it are printed.</source>
         <translation>将打印在其中找到的所有页。</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>“%1”带有针对打印机的设置，这些设置不会生效：%2。请在此处选择，或使用选项“raw”原样传递文档。</translation>
+    </message>
 </context>
 <context>
     <name>corvana::DocumentPasswordDialog</name>

@@ -608,6 +608,10 @@
         <source>All pages that were found in it are printed.</source>
         <translation>其中找到的所有頁面都會列印。</translation>
     </message>
+    <message>
+        <source>“%1” brings settings for a printer along, which are not followed: %2. Choose them here, or pass the document on with the option “raw”.</source>
+        <translation>「%1」帶有給印表機的設定，這些設定不會套用：%2。請在此處選擇，或使用選項「raw」原封不動地轉送文件。</translation>
+    </message>
 </context>
 <context>
     <name>ExitStatus</name>

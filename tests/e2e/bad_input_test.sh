@@ -240,6 +240,29 @@ postScriptThatDrawsNoPageIsRefused() {
 
 # The command line
 
+# A profile names a platform for every program, and a session that is over has left its variables.
+withoutADisplayOnlyThatIsSaid() {
+    local setting
+    while read -r setting; do
+        timeout "$patience" env --unset=QT_QPA_PLATFORM --unset=DISPLAY --unset=WAYLAND_DISPLAY \
+            XDG_RUNTIME_DIR="$work" "$setting" "$program" "$document" >"$work/out" 2>"$work/err" </dev/null
+        status=$?
+        expect_status 1
+        expect_equal "$(cat "$work/out")" ''
+        expect_equal "$(cat "$work/err")" \
+            'corvana-print: no display can be reached. Print without a window with --no-dialog.'
+    done <<TABLE
+DISPLAY=
+DISPLAY=:9876
+WAYLAND_DISPLAY=gone
+QT_QPA_PLATFORM=
+QT_QPA_PLATFORM=xcb
+QT_QPA_PLATFORM=wayland
+QT_QPA_PLATFORM=wayland;xcb
+QT_QPA_PLATFORM=none-of-them
+TABLE
+}
+
 aCommandLineThatIsNotUnderstoodHasAStatusOfItsOwn() {
     local line
     while read -r line; do

@@ -111,6 +111,57 @@ private Q_SLOTS:
         QCOMPARE(sides.join(u" | "_s), row.sides);
     }
 
+    // As applications and drivers write it.
+    void commandsAroundADocumentAreTakenOff_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("behind");
+        QTest::addColumn<QByteArray>("said");
+        QTest::newRow("Ctrl-D") << QByteArray("\x04") << QByteArray("\x04") << QByteArray();
+        QTest::newRow("commands") << QByteArray(
+                                         "\x1B%-12345X@PJL SET COPIES=2\r\n@PJL SET "
+                                         "HOLDKEY=4711\r\n@PJL ENTER LANGUAGE=POSTSCRIPT\r\n")
+                                  << QByteArray("\x04\x1B%-12345X")
+                                  << QByteArray("which are not followed: COPIES, HOLDKEY.");
+    }
+    void commandsAroundADocumentAreTakenOff()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, behind);
+        QFETCH(QByteArray, said);
+        m_cups->addQueue(u"office"_s, kPpd);
+        const RunEnd end =
+            m_runner->run({u"-d"_s, u"office"_s, u"--summary"_s, u"-P"_s, u"2-3"_s,
+                           write(u"three.ps"_s, before + threePages(true) + behind)});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(end.out.contains(u"2 pages = 2 sheets"_s), end.text().constData());
+        QCOMPARE(end.text().contains("not followed"), !said.isEmpty());
+        QVERIFY2(end.text().contains(said), end.text().constData());
+        QVERIFY(!end.text().contains("4711"));
+        const QByteArray data = m_cups->capture(u"office"_s).jobs().constFirst().data;
+        QCOMPARE(printedSides(data), (QStringList{u"page 2"_s, u"page 3"_s}));
+    }
+
+    // Where nobody reads the document its printer gets all of it.
+    void commandsAroundADocumentGetWhereItGoesAsItIs_data()
+    {
+        QTest::addColumn<QStringList>("asked");
+        QTest::newRow("a queue without a driver") << QStringList{u"-d"_s, u"bare"_s};
+        QTest::newRow("raw") << QStringList{u"-d"_s, u"office"_s, u"-o"_s, u"raw"_s};
+    }
+    void commandsAroundADocumentGetWhereItGoesAsItIs()
+    {
+        QFETCH(QStringList, asked);
+        m_cups->addQueue(u"office"_s, kPpd);
+        m_cups->addRawQueue(u"bare"_s);
+        const QByteArray whole = "\x1B%-12345X@PJL SET COPIES=2\n@PJL ENTER LANGUAGE=POSTSCRIPT\n" +
+                                 threePages(true) + "\x04\x1B%-12345X";
+        const RunEnd end = m_runner->run(asked + QStringList{write(u"three.ps"_s, whole)});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QVERIFY2(!end.text().contains("not followed"), end.text().constData());
+        QCOMPARE(m_cups->capture(asked.value(1)).jobs().constFirst().data, whole);
+    }
+
     // What sets its device up undoes what the filter behind PostScript has turned over before it.
     void aPageThatSetsItsDeviceUpIsMirrored()
     {

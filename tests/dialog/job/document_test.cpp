@@ -215,8 +215,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("data");
         QTest::newRow("PJL") << QByteArray("\x1B%-12345X@PJL ENTER LANGUAGE=PCL\nHello");
-        QTest::newRow("PJL before PostScript")
-            << QByteArray("\x1B%-12345X@PJL ENTER LANGUAGE=POSTSCRIPT\n%!PS\nshowpage\n");
+        QTest::newRow("two jobs in PostScript")
+            << QByteArray("\x1B%-12345X%!PS\nshowpage\n\x1B%-12345X%!PS\nshowpage\n");
         QTest::newRow("PCL") << QByteArray("\x1B"
                                            "E\x1B&l0OHello");
     }
@@ -227,6 +227,56 @@ private Q_SLOTS:
         QVERIFY2(refusal.contains(u"job.prn"_s) && refusal.contains(u"ready for a printer"_s) &&
                      refusal.contains(u"raw"_s),
                  qPrintable(refusal));
+    }
+
+    // A printer that is given documents as they are gets the commands as well.
+    void postScriptIsTakenOutOfCommandsToAPrinter_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isPipe");
+        QTest::newRow("named like PostScript") << u"job.ps"_s << false;
+        QTest::newRow("named like data of a printer") << u"job.prn"_s << false;
+        QTest::newRow("what is read only once") << u"job"_s << true;
+    }
+    void postScriptIsTakenOutOfCommandsToAPrinter()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isPipe);
+        const QByteArray bare = "%!PS\nshowpage\n";
+        const QByteArray whole = "\x1B%-12345X@PJL SET COPIES=2\n@PJL ENTER LANGUAGE=POSTSCRIPT\n" +
+                                 bare + "\x04\x1B%-12345X";
+        const QString path = m_folder->filePath(name);
+        const QString source = writeFile(m_folder->filePath(u"source"_s), whole);
+        QProcess writer;
+        if (isPipe) {
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+            writer.start(u"cp"_s, {source, path});
+        } else {
+            writeFile(path, whole);
+        }
+        QVERIFY(isReadToItsEnd(path));
+        QString error;
+        const Document document = inspectDocument(path, &error);
+        QCOMPARE(error, QString());
+        QCOMPARE(document.format, u"application/postscript"_s);
+        QCOMPARE(document.title, name);
+        QCOMPARE(contentOf(document.path).trimmed(), bare.trimmed());
+        QCOMPARE(contentOf(document.original), whole);
+        QCOMPARE(document.settings, QStringList{u"COPIES"_s});
+        QCOMPARE(document.original == path, !isPipe);
+        if (isPipe)
+            QVERIFY(writer.waitForFinished());
+        // As it is, it is left as it is.
+        const Document raw = inspectDocument(source, &error, DocumentKinds::Any);
+        QCOMPARE(raw.path, source);
+        QCOMPARE(raw.original, QString());
+    }
+
+    void whatHoldsPostScriptIsNamedSo()
+    {
+        const QString refusal =
+            refusalOf(writeFile(m_folder->filePath(u"job.txt"_s), "\x04%!PS\nshowpage\n\x04"));
+        QVERIFY2(refusal.contains(u"holds a PostScript document"_s), qPrintable(refusal));
     }
 
     void aPipeIsReadToItsEndAndKept()

@@ -111,6 +111,43 @@ private Q_SLOTS:
             QVERIFY2(why.contains(u"was written by another program"_s), qPrintable(why));
     }
 
+    // Two runs for the same document began when its name was free for both.
+    void aNameThatNobodyHasChosenIsAnotherWhereItIsTaken_data()
+    {
+        QTest::addColumn<bool>("comesBefore");
+        QTest::newRow("before the result is made") << true;
+        QTest::newRow("meanwhile") << false;
+    }
+    void aNameThatNobodyHasChosenIsAnotherWhereItIsTaken()
+    {
+        QFETCH(bool, comesBefore);
+        if (comesBefore)
+            writeFile(path(u"out.pdf"_s), "theirs");
+        QString problem;
+        const auto result =
+            ResultFile::create(path(u"out.pdf"_s), &problem, ResultFile::NamedBy::Nobody);
+        QVERIFY2(result, qPrintable(problem));
+        writeFile(result->path(), "new");
+        if (!comesBefore)
+            writeFile(path(u"out.pdf"_s), "theirs");
+        QCOMPARE(result->publish(), QString());
+        QCOMPARE(result->name(), path(u"out-2.pdf"_s));
+        QCOMPARE(content(u"out.pdf"_s), QByteArray("theirs"));
+        QCOMPARE(content(u"out-2.pdf"_s), QByteArray("new"));
+        QCOMPARE(files(), (QStringList{u"out-2.pdf"_s, u"out.pdf"_s}));
+    }
+
+    void aNameMayBeAsLongAsThatOfAnyFile()
+    {
+        const QString name = QString(u"頁"_s).repeated(84) + u".ps"_s; // 255 bytes
+        QString problem;
+        const auto result = ResultFile::create(path(name), &problem);
+        QVERIFY2(result, qPrintable(problem));
+        writeFile(result->path(), "new");
+        QCOMPARE(result->publish(), QString());
+        QCOMPARE(content(name), QByteArray("new"));
+    }
+
     void whatIsNotPublishedIsRemoved()
     {
         QString problem;

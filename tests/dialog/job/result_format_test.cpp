@@ -80,6 +80,21 @@ private Q_SLOTS:
                  folder.filePath(u"a.b-2.pdf"_s));
         QCOMPARE(freeResultName(folder.path(), u"a.b"_s, u"ps"_s), folder.filePath(u"a.b.ps"_s));
     }
+
+    void aNameIsOneThatAFileCanHave()
+    {
+        const QTemporaryDir folder;
+        const QString longest = QString(u"頁"_s).repeated(84); // 252 bytes
+        QCOMPARE(freeResultName(folder.path(), longest, u"ps"_s),
+                 folder.filePath(longest + u".ps"_s));
+        const QString shorter = freeResultName(folder.path(), longest, u"pclm"_s);
+        QCOMPARE(shorter, folder.filePath(longest.chopped(1) + u".pclm"_s));
+        writeFile(shorter, "x");
+        const QString next = freeResultName(folder.path(), longest, u"pclm"_s);
+        QCOMPARE(next, folder.filePath(longest.chopped(2) + u"-2.pclm"_s));
+        writeFile(next, "x"); // which nothing of 256 bytes can be
+        QCOMPARE(freeResultName(folder.path(), {}, u"ps"_s), folder.filePath(u"document.ps"_s));
+    }
 };
 
 QTEST_GUILESS_MAIN(ResultFormatTest)

@@ -222,6 +222,28 @@ private Q_SLOTS:
         asked.output = m_scene->filter.path(u"letter.ps"_s);
         QCOMPARE(open(asked).output(), m_scene->filter.path(u"letter.pdf"_s));
     }
+
+    // Somebody else's file may have come between the proposal and the job.
+    void aFileIsReplacedOnlyBySomebodyWhoHasNamedIt_data()
+    {
+        QTest::addColumn<bool>("isNamed");
+        QTest::newRow("a name that was proposed to a script") << false;
+        QTest::newRow("a name of its user") << true;
+    }
+    void aFileIsReplacedOnlyBySomebodyWhoHasNamedIt()
+    {
+        QFETCH(bool, isNamed);
+        const QString name = m_scene->filter.path(u"letter.pdf"_s);
+        PrintRequest asked = request({});
+        asked.outputWasNamed = isNamed;
+        asked.output = name;
+        PrintTask &task = open(asked);
+        writeFile(name, "theirs");
+        task.print();
+        QVERIFY2(m_scene->reaches(Phase::Ended), qPrintable(m_scene->face.problems().join(u'\n')));
+        QCOMPARE(m_scene->filter.content(u"letter.pdf"_s) == "theirs", !isNamed);
+        QCOMPARE(m_scene->filter.content(u"letter-2.pdf"_s).startsWith("%PDF-"), !isNamed);
+    }
 };
 
 QTEST_MAIN(TaskPdfTest)
