@@ -5,9 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
@@ -15,6 +13,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "dialog/window/DocumentDrop.h"
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/KeyboardFocus.h"
@@ -30,7 +29,6 @@
 #include "dialog/window/WindowParts.h"
 #include "dialog/window/find/FindField.h"
 #include "dialog/window/pages/MessageBar.h"
-#include "dialog/window/preview/DocumentArea.h"
 #include "dialog/window/preview/PreviewPane.h"
 #include "dialog/window/preview/PreviewRows.h"
 #include "dialog/window/preview/ZoomControl.h"
@@ -87,7 +85,6 @@ PrintWindow::~PrintWindow()
 void PrintWindow::buildWindow()
 {
     setWindowTitle(tr("Print"));
-    setAcceptDrops(true);
     auto *layout = new QVBoxLayout(this);
     auto *settings = new SettingsColumn(this);
     buildColumns(settings);
@@ -131,6 +128,7 @@ void PrintWindow::connectParts()
     addPageShortcuts();
     new UndoKeys(*m_task, this);
     new KeyboardFocus(this);
+    new DocumentDrop(*m_task, *m_preview, this);
     nameListsOfPopUps(this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);
     connect(m_preview, &PreviewPane::foldPressed, this,
@@ -328,28 +326,6 @@ void PrintWindow::hideEvent(QHideEvent *event)
     if (event->spontaneous())
         return; // minimised
     m_growth.remember();
-}
-
-void PrintWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!m_task->canChangeDocuments() || localFiles(*event->mimeData()).isEmpty())
-        return;
-    event->acceptProposedAction();
-    m_preview->setDropHovers(true);
-}
-
-void PrintWindow::dragLeaveEvent(QDragLeaveEvent *)
-{
-    m_preview->setDropHovers(false);
-}
-
-void PrintWindow::dropEvent(QDropEvent *event)
-{
-    m_preview->setDropHovers(false);
-    event->acceptProposedAction();
-    // Later: whoever gave the documents waits for this answer, and looking at them takes time.
-    const QStringList files = localFiles(*event->mimeData());
-    QTimer::singleShot(0, m_task.get(), [this, files] { m_task->addDocuments(files); });
 }
 
 void PrintWindow::showHelp()

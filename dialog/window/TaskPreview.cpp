@@ -55,7 +55,8 @@ void TaskPreview::connectDocuments()
         showDocuments();
         update();
     });
-    connect(documents, &DocumentArea::chosen, &m_task, &PrintTask::addDocuments);
+    connect(documents, &DocumentArea::chosen, &m_task,
+            [this](const QStringList &files) { m_task.addDocuments(files); });
     connect(documents, &DocumentArea::removed, &m_task, &PrintTask::removeDocument);
     connect(documents, &DocumentArea::moved, &m_task, &PrintTask::moveDocument);
 }

@@ -3747,6 +3747,10 @@ Für die Befehlszeile: %2</translation>
         <translation>Dokumente</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 liegt nicht auf diesem Computer. Speichern Sie es hier, um es zu drucken.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>%1 wird gelesen.</translation>
     </message>

@@ -3747,6 +3747,10 @@ En la línea de órdenes: %2</translation>
         <translation>Documentos</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 no está en este equipo. Guárdelo aquí para imprimirlo.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Leyendo %1.</translation>
     </message>

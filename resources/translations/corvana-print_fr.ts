@@ -3747,6 +3747,10 @@ Pour la ligne de commande : %2</translation>
         <translation>Documents</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 n’est pas sur cet ordinateur. Enregistrez-le ici pour l’imprimer.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Lecture de %1 en cours.</translation>
     </message>

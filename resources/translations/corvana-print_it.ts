@@ -3747,6 +3747,10 @@ Per la riga di comando: %2</translation>
         <translation>Documenti</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 non si trova su questo computer. Salvarlo qui per stamparlo.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Lettura di %1 in corso.</translation>
     </message>

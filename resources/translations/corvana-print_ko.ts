@@ -3745,6 +3745,10 @@ For the command line: %2</source>
         <translation>문서</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1은(는) 이 컴퓨터에 없습니다. 인쇄하려면 여기에 저장하십시오.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>%1을(를) 읽는 중입니다.</translation>
     </message>

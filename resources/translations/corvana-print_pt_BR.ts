@@ -3747,6 +3747,10 @@ Na linha de comando: %2</translation>
         <translation>Documentos</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 não está neste computador. Salve-o aqui para imprimi-lo.</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>Lendo %1.</translation>
     </message>

@@ -3745,6 +3745,10 @@ For the command line: %2</source>
         <translation>文件</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 不在這部電腦上。請先儲存到這裡再列印。</translation>
+    </message>
+    <message>
         <source>%1 is being read.</source>
         <translation>正在讀取 %1。</translation>
     </message>
