@@ -7,6 +7,7 @@
 #include "tests/dialog/support/ProtectedPdf.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/support/WindowDriver.h"
+#include "tests/support/NumberedPdf.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -60,6 +61,31 @@ private Q_SLOTS:
                                   u"5 pages = 5 sheets"_s, kPatience);
         QVERIFY(window.pressPrint());
         QTRY_VERIFY_WITH_TIMEOUT(!window.dialog().report().isEmpty(), kPatience);
+    }
+
+    // What would be printed is what is in the file by then.
+    void aDocumentThatIsWrittenAnewIsShownAnew_data()
+    {
+        QTest::addColumn<bool>("replaced");
+        QTest::newRow("written to") << false;
+        QTest::newRow("replaced, as most programs save") << true;
+    }
+    void aDocumentThatIsWrittenAnewIsShownAnew()
+    {
+        QFETCH(bool, replaced);
+        PrintRequest opened = request(Protection::AesWith256Bits);
+        const QString path = writeFile(opened.documents.constFirst().path, numberedPdf("page", 3));
+        WindowDriver window(opened);
+        const auto counts = [&] { return window.dialog().task().sheetPreview().counts; };
+        QTRY_COMPARE_WITH_TIMEOUT(counts(), u"3 pages = 3 sheets"_s, kPatience);
+        const QString other = writeFile(m_folder.filePath(u"b.pdf"_s), numberedPdf("page", 7));
+        if (replaced) {
+            QVERIFY(QFile::remove(path));
+            QVERIFY(QFile::rename(other, path));
+        } else {
+            writeFile(path, numberedPdf("page", 7));
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(counts(), u"7 pages = 7 sheets"_s, kPatience);
     }
 
     void whoDoesNotKnowItCancels()
