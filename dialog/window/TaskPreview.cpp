@@ -6,6 +6,7 @@
 #include "dialog/window/preview/DocumentArea.h"
 #include "dialog/window/preview/DrawnPages.h"
 #include "dialog/window/preview/PreviewPane.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -65,8 +66,9 @@ void TaskPreview::showDocuments()
 {
     QList<ListedDocument> listed;
     for (const Document &document : m_task.documents())
-        listed += {document.title, nameOfFormat(document.format), document.path};
-    m_pane.documents()->setDocuments(m_task.request().title, listed);
+        listed += {terminalLine(document.title), nameOfFormat(document.format),
+                   terminalLine(document.path)};
+    m_pane.documents()->setDocuments(terminalLine(m_task.request().title), listed);
 }
 
 void TaskPreview::showColors()

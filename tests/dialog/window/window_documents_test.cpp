@@ -1,4 +1,6 @@
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -78,6 +80,7 @@ private Q_SLOTS:
         WindowDriver window(opened);
         const auto counts = [&] { return window.dialog().task().sheetPreview().counts; };
         QTRY_COMPARE_WITH_TIMEOUT(counts(), u"3 pages = 3 sheets"_s, kPatience);
+        QTest::qWait(1500); // until nothing that the opening brings lets it be laid out once more
         const QString other = writeFile(m_folder.filePath(u"b.pdf"_s), numberedPdf("page", 7));
         if (replaced) {
             QVERIFY(QFile::remove(path));
@@ -86,6 +89,26 @@ private Q_SLOTS:
             writeFile(path, numberedPdf("page", 7));
         }
         QTRY_COMPARE_WITH_TIMEOUT(counts(), u"7 pages = 7 sheets"_s, kPatience);
+    }
+
+    // It would be cut off at its second line, and turn round what stands behind it.
+    void aNameIsOneLineThatTurnsNothingRound()
+    {
+        PrintRequest opened = request(Protection::AesWith256Bits);
+        const QString first = u"new\nline.txt"_s;
+        const QString second = u"a\u202Efdp.txt"_s;
+        opened.documents.clear();
+        opened.title = first;
+        for (const QString &name : {first, second})
+            opened.documents +=
+                {writeFile(m_folder.filePath(name), "Some words.\n"), u"text/plain"_s, name};
+        WindowDriver window(opened);
+        const auto *list = window.child<QListWidget>(u"documents"_s);
+        QTRY_COMPARE(list->count(), 2);
+        QCOMPARE(list->item(0)->text(), u"new<U+000A>line.txt (text)"_s);
+        QCOMPARE(list->item(1)->text(), u"a<U+202E>fdp.txt (text)"_s);
+        window.dialog().task().removeDocument(1);
+        QTRY_COMPARE(window.child<QLabel>(u"document"_s)->text(), u"new<U+000A>line.txt"_s);
     }
 
     void whoDoesNotKnowItCancels()
