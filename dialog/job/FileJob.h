@@ -22,6 +22,7 @@ struct FileJobRequest
     JobTicket ticket;
     QString ppdPath;    ///< of the printer; never empty
     QString outputPath; ///< as the user named it; a relative one is that of the current folder
+    QList<int> turns{}; ///< as in ConversionRequest
 };
 
 /// Prints into a file: the documents go through the filter chain of CUPS with the printer's PPD and

@@ -18,6 +18,7 @@
 #include "dialog/task/Collation.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
+#include "dialog/task/SavedAsPdf.h"
 #include "dialog/task/ServerJobRequests.h"
 #include "dialog/task/StartValues.h"
 #include "dialog/task/TaskPresets.h"
@@ -277,8 +278,10 @@ void PrintTask::startJob(const JobTicket &ticket)
     presets().jobBegins();
     m_run.hand.reset();
     if (printsToFile()) {
-        followJob(std::make_unique<FileJob>(FileJobRequest{
-            printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path}));
+        const JobSheets *sheets = savesAsPdf() ? m_sheets.counted(sheetRequest(ticket)) : nullptr;
+        followJob(std::make_unique<FileJob>(
+            FileJobRequest{printedDocuments(), ticket, m_opened->fetched.ppd->path, m_output.path,
+                           sheets ? turnsOfPdf(*sheets, arrangementOf(ticket)) : QList<int>()}));
     } else if (isTwoSidedByHand(ticket.options) && !passesFilesOn()) {
         startByHand(ticket);
     } else {
