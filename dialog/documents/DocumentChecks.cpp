@@ -38,7 +38,10 @@ void DocumentChecks::addPassword(const QString &password)
 void DocumentChecks::check(const QList<Document> &documents)
 {
     const QHash<QString, Known> before = std::exchange(m_known, {});
+    m_files.clear();
     for (const Document &document : documents) {
+        if (!document.copy) // which is ours
+            m_files += document.path;
         if ((document.format != kPdf && document.format != kPicture) ||
             m_known.contains(document.path))
             continue;
@@ -50,6 +53,17 @@ void DocumentChecks::check(const QList<Document> &documents)
         else
             look(document, m_passwords);
     }
+    if (m_watch)
+        m_watch->watch(m_files);
+}
+
+void DocumentChecks::follow()
+{
+    if (m_watch)
+        return;
+    m_watch = std::make_unique<DocumentWatch>();
+    connect(m_watch.get(), &DocumentWatch::changed, this, &DocumentChecks::outdated);
+    m_watch->watch(m_files);
 }
 
 void DocumentChecks::look(const Document &document, const QStringList &passwords)

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include "dialog/documents/DocumentState.h"
+#include "dialog/documents/DocumentWatch.h"
 #include "dialog/documents/DocumentWorker.h"
 #include "dialog/job/Document.h"
 
@@ -35,6 +36,9 @@ public:
     /// Looks at those that nobody has looked at, or that are others by now; the rest is forgotten.
     /// changed() follows where there are any.
     void check(const QList<Document> &documents);
+    /// For somebody who sees for long what was found: outdated() follows when a document of the
+    /// last check() has become another one.
+    void follow();
     /// Whether all documents of the last check() were looked at.
     bool isDone() const;
     /// Kind::Unknown while nobody has looked.
@@ -47,6 +51,8 @@ public:
 Q_SIGNALS:
     /// All documents of the last check() were looked at.
     void changed();
+    /// Nobody has looked yet at what a document is now: check() does.
+    void outdated();
 
 private:
     struct Known
@@ -63,6 +69,8 @@ private:
 
     RendererSettings m_settings;
     QHash<QString, Known> m_known; // by path
+    QStringList m_files;           // of the last check(), whatever is in them
+    std::unique_ptr<DocumentWatch> m_watch;
     QStringList m_passwords;
     int m_lastWork = 0;
     std::unique_ptr<DocumentWorker> m_worker; // once there is a document to be looked at

@@ -61,6 +61,7 @@ void FileJob::convert(const QString &problem)
     request.ppdPath = m_request.ppdPath;
     request.outputPath = m_result->path();
     request.outputName = m_request.outputPath;
+    request.turns = m_request.turns;
     m_conversion = std::make_unique<Conversion>(request);
     connect(m_conversion.get(), &Conversion::finished, this, &FileJob::converted);
     connect(m_conversion.get(), &Conversion::pageReached, this, [this](int page) {

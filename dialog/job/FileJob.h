@@ -23,6 +23,7 @@ struct FileJobRequest
     QString ppdPath;    ///< of the printer; never empty
     QString outputPath; ///< as it was named; a relative one is that of the current folder
     ResultFile::NamedBy namedBy = ResultFile::NamedBy::User;
+    QList<int> turns{}; ///< as in ConversionRequest
 };
 
 /// Prints into a file: the documents go through the filter chain of CUPS with the printer's PPD and

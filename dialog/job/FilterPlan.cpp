@@ -64,7 +64,8 @@ class Planner
 public:
     Planner(const ConversionRequest &request, const FilterPlaces &places)
         : m_request(request), m_places(places), m_choice(pageChoiceOf(chainOptions())),
-          m_picks(mustPick())
+          m_picks(mustPick()), m_turns(std::any_of(request.turns.cbegin(), request.turns.cend(),
+                                                   [](int turn) { return turn != 0; }))
     {
     }
 
@@ -83,6 +84,8 @@ public:
             convert(first, formatOfPdf(first), {}, pageOptions(m_request.ticket.options), result());
         else
             layOut(m_picks ? picked(first) : asPdf(first), m_places.ppd, result());
+        if (m_turns)
+            turnPages();
         return m_plan;
     }
 
@@ -97,10 +100,15 @@ private:
     const FilterPlaces &m_places;
     const PageChoice m_choice;
     const bool m_picks; // before the chain, which is told nothing of it then
+    const bool m_turns;
     FilterPlan m_plan;
     int m_parts = 0;
 
-    Output result() const { return {m_request.outputPath, m_request.outputName}; }
+    Output result() const
+    {
+        const QString path = m_places.folder + u"/unturned.pdf"_s;
+        return m_turns ? Output{path, path} : Output{m_request.outputPath, m_request.outputName};
+    }
     Output newPart(QLatin1StringView suffix)
     {
         const QString path = u"%1/%2.%3"_s.arg(m_places.folder, QString::number(m_parts++), suffix);
@@ -172,6 +180,26 @@ private:
         step.outputName = output.name;
         step.patience = kPatienceWithPdfs;
         m_plan += step;
+    }
+
+    // A range for each run of pages: the list of all of them may be longer than an argument.
+    void turnPages()
+    {
+        const Output unturned = result();
+        QStringList arguments;
+        const qsizetype count = m_request.turns.size();
+        for (qsizetype first = 0, behind = 0; first < count; first = behind) {
+            const int turn = m_request.turns.at(first);
+            while (behind < count && m_request.turns.at(behind) == turn)
+                ++behind;
+            if (turn != 0)
+                arguments += u"--rotate=+%1:%2-%3"_s.arg(
+                    QString::number(turn), QString::number(first + 1), QString::number(behind));
+        }
+        FilterStep step;
+        step.parts = {unturned.path};
+        runQpdf(arguments + QStringList{unturned.path, u"-"_s},
+                {m_request.outputPath, m_request.outputName}, step);
     }
 
     Document toPdf(const Document &document)
@@ -256,7 +284,7 @@ private:
             makePrinterData(picked(document), one, times > 1 ? 1 : ticket.copies);
             parts += one.path;
         }
-        FilterStep step{u"cat"_s, {}, m_request.outputPath, m_request.outputName};
+        FilterStep step{u"cat"_s, {}, result().path, result().name};
         step.parts = parts;
         for (int i = 0; i < times; ++i)
             step.arguments += parts;

@@ -35,6 +35,9 @@ struct ConversionRequest
     QList<JobOption> layout{};
     /// The document is one of several of its job, whose pages are picked before the chain.
     bool picksPages = false;
+    /// For each page of a result that is a PDF, by how much a reader turns it, beside what it says
+    /// itself. Units: degrees clockwise. Range: 0, 90, 180, 270. Empty: nothing is turned.
+    QList<int> turns{};
 };
 
 /// Pages that are picked once it is known how many there are.

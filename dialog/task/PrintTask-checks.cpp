@@ -263,6 +263,8 @@ void PrintTask::passwordDeclined(const Document &document)
                 askForPassword(document);
         };
     }
+    // In the place of what was said of the others, such as that one goes out unprotected.
+    m_looks.told.clear();
     Q_EMIT said(message);
     if (wasToBePrinted)
         refuseDocuments({{message.text}, TaskRefusal::Place::Nowhere, true, message.details});

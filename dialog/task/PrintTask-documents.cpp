@@ -9,6 +9,7 @@
 #include "dialog/task/JobNames.h"
 #include "dialog/task/TaskHistory.h"
 #include "dialog/text/TextCheck.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -32,7 +33,8 @@ bool PrintTask::canChangeDocuments() const
     }
 }
 
-void PrintTask::addDocuments(const QStringList &paths)
+// `elsewhere`: addresses of what the user would like to print and nobody has here.
+void PrintTask::addDocuments(const QStringList &paths, const QStringList &elsewhere)
 {
     if (!canChangeDocuments())
         return;
@@ -54,6 +56,9 @@ void PrintTask::addDocuments(const QStringList &paths)
     }
     if (documents.size() > m_request.documents.size())
         chooseDocuments(documents);
+    for (const QString &address : elsewhere)
+        problems +=
+            tr("%1 is not on this computer. Save it here to print it.").arg(terminalLine(address));
     m_looks.unread += problems;
     readDocuments();
 }

@@ -19,6 +19,7 @@
 #include "dialog/task/Collation.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
+#include "dialog/task/SavedAsPdf.h"
 #include "dialog/task/ServerJobRequests.h"
 #include "dialog/task/StartValues.h"
 #include "dialog/task/TaskPresets.h"
@@ -287,9 +288,11 @@ void PrintTask::startJob(const JobTicket &ticket)
     if (printsToFile()) {
         using By = ResultFile::NamedBy;
         const bool isChosen = m_output.isTaken || m_output.path != m_output.proposed;
+        const bool isTurned = sheets && savesAsPdf(); // to be read on a screen
         followJob(std::make_unique<FileJob>(
             FileJobRequest{printedDocuments(), turned, m_opened->fetched.ppd->path, m_output.path,
-                           isChosen ? By::User : By::Nobody}));
+                           isChosen ? By::User : By::Nobody,
+                           isTurned ? turnsOfPdf(*sheets, arrangementOf(ticket)) : QList<int>()}));
     } else if (isTwoSidedByHand(ticket.options) && !passesFilesOn()) {
         startByHand(ticket);
     } else {

@@ -24,6 +24,13 @@
 
 namespace corvana {
 
+namespace {
+
+// How often it is looked whether documents that have changed can be looked at. Units: milliseconds.
+constexpr int kUntilReady = 1000;
+
+} // namespace
+
 PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     : QObject(parent), m_request(std::move(request)), m_face(face),
       m_credentials(CredentialStore::create()),
@@ -49,6 +56,13 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
     m_looks.textPatience.setSingleShot(true);
     connect(&m_looks.textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
     connect(&m_looks.documents, &DocumentChecks::changed, this, &PrintTask::documentsLookedAt);
+    connect(&m_looks.documents, &DocumentChecks::outdated, this, [this] {
+        // A job is that of its own moment, and what is set comes to a printer that is ready.
+        if (m_phase == Phase::Ready)
+            setDocuments(m_request.documents);
+        else if (m_phase != Phase::Ended)
+            QTimer::singleShot(kUntilReady, &m_looks.documents, &DocumentChecks::outdated);
+    });
     if (m_request.documentPassword)
         m_looks.documents.addPassword(*m_request.documentPassword);
     if (!m_face.canAsk())
@@ -100,6 +114,8 @@ void PrintTask::bringUp()
     enter(Phase::Ready);
     presets().begin();
     showSettings();
+    if (m_chosen.canBeAnother)
+        m_looks.documents.follow();
     for (const Refusal &refusal : refusals)
         sayRefusal(refusal);
     sayStartProblems();

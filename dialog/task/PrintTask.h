@@ -99,7 +99,7 @@ public:
     bool canChangeDocuments() const; ///< not while they are printed
     /// Adds files behind those that are there. What cannot be printed is said, for each of them, in
     /// the words of the command line; the others are taken. This and the next two are steps.
-    void addDocuments(const QStringList &paths);
+    void addDocuments(const QStringList &paths, const QStringList &elsewhere = {});
     void removeDocument(int index);
     void moveDocument(int from, int to);
 

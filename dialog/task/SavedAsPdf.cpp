@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "dialog/session/JobAttributes.h"
+#include "dialog/sheets/SheetPlan.h"
 #include "dialog/task/OpenedPrinter.h"
 
 namespace corvana {
@@ -37,6 +38,28 @@ QStringList takeWhatPdfLacks(QList<JobOption> &options)
     return {QCoreApplication::translate(
                 "SavedAsPdf", "A PDF file is neither held nor printed: %1 cannot be done.")
                 .arg(named.join(u", "_s))};
+}
+
+QList<int> turnsOfPdf(const JobSheets &sheets, const SheetArrangement &arrangement)
+{
+    QList<int> before; // of each document, the pages of those that stand in front of it
+    int count = 0;
+    for (const DocumentSheets &document : sheets.documents) {
+        if (!document.sides)
+            return {};
+        before += count;
+        count += *document.sides;
+    }
+    QList<int> turns(count, 0);
+    const SheetPlan plan = planSheets(sheets, arrangement);
+    for (const PlannedSheet &sheet : plan.sheets) {
+        const PlannedSide &side = sheet.front; // a file has no backs
+        if (sheet.back || side.document < 0)
+            return {};
+        if (side.laidOutPage >= 0)
+            turns[before.at(side.document) + side.laidOutPage] = side.turn;
+    }
+    return turns;
 }
 
 } // namespace corvana

@@ -5,9 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
@@ -16,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/task/TaskHistory.h"
+#include "dialog/window/DocumentDrop.h"
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/KeyboardFocus.h"
@@ -31,7 +30,6 @@
 #include "dialog/window/WindowParts.h"
 #include "dialog/window/find/FindField.h"
 #include "dialog/window/pages/MessageBar.h"
-#include "dialog/window/preview/DocumentArea.h"
 #include "dialog/window/preview/PreviewPane.h"
 #include "dialog/window/preview/PreviewRows.h"
 #include "dialog/window/preview/ZoomControl.h"
@@ -88,7 +86,6 @@ PrintWindow::~PrintWindow()
 void PrintWindow::buildWindow()
 {
     setWindowTitle(tr("Print"));
-    setAcceptDrops(true);
     auto *layout = new QVBoxLayout(this);
     auto *settings = new SettingsColumn(this);
     buildColumns(settings);
@@ -132,6 +129,7 @@ void PrintWindow::connectParts()
     addPageShortcuts();
     new UndoKeys(m_task->history(), this);
     new KeyboardFocus(this);
+    new DocumentDrop(*m_task, *m_preview, this);
     nameListsOfPopUps(this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);
     connect(m_preview, &PreviewPane::foldPressed, this,
@@ -329,28 +327,6 @@ void PrintWindow::hideEvent(QHideEvent *event)
     if (event->spontaneous())
         return; // minimised
     m_growth.remember();
-}
-
-void PrintWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!m_task->canChangeDocuments() || localFiles(*event->mimeData()).isEmpty())
-        return;
-    event->acceptProposedAction();
-    m_preview->setDropHovers(true);
-}
-
-void PrintWindow::dragLeaveEvent(QDragLeaveEvent *)
-{
-    m_preview->setDropHovers(false);
-}
-
-void PrintWindow::dropEvent(QDropEvent *event)
-{
-    m_preview->setDropHovers(false);
-    event->acceptProposedAction();
-    // Later: whoever gave the documents waits for this answer, and looking at them takes time.
-    const QStringList files = localFiles(*event->mimeData());
-    QTimer::singleShot(0, m_task.get(), [this, files] { m_task->addDocuments(files); });
 }
 
 void PrintWindow::showHelp()

@@ -6,6 +6,7 @@
 #include "dialog/window/preview/DocumentArea.h"
 #include "dialog/window/preview/DrawnPages.h"
 #include "dialog/window/preview/PreviewPane.h"
+#include "platform/foundation/ForeignText.h"
 
 namespace corvana {
 
@@ -55,7 +56,8 @@ void TaskPreview::connectDocuments()
         showDocuments();
         update();
     });
-    connect(documents, &DocumentArea::chosen, &m_task, &PrintTask::addDocuments);
+    connect(documents, &DocumentArea::chosen, &m_task,
+            [this](const QStringList &files) { m_task.addDocuments(files); });
     connect(documents, &DocumentArea::removed, &m_task, &PrintTask::removeDocument);
     connect(documents, &DocumentArea::moved, &m_task, &PrintTask::moveDocument);
 }
@@ -64,8 +66,9 @@ void TaskPreview::showDocuments()
 {
     QList<ListedDocument> listed;
     for (const Document &document : m_task.documents())
-        listed += {document.title, nameOfFormat(document.format), document.path};
-    m_pane.documents()->setDocuments(m_task.request().title, listed);
+        listed += {terminalLine(document.title), nameOfFormat(document.format),
+                   terminalLine(document.path)};
+    m_pane.documents()->setDocuments(terminalLine(m_task.request().title), listed);
 }
 
 void TaskPreview::showColors()

@@ -3709,6 +3709,10 @@ Für die Befehlszeile: %2</translation>
         <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 liegt nicht auf diesem Computer. Speichern Sie es hier, um es zu drucken.</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>Die Standardeingabe wird gelesen.</translation>
     </message>

@@ -3709,6 +3709,10 @@ En la línea de órdenes: %2</translation>
         <translation>No se puede mostrar una página de los ajustes de la impresora: %1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 no está en este equipo. Guárdelo aquí para imprimirlo.</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>Leyendo la entrada estándar.</translation>
     </message>

@@ -3709,6 +3709,10 @@ Pour la ligne de commande : %2</translation>
         <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 n’est pas sur cet ordinateur. Enregistrez-le ici pour l’imprimer.</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>Lecture de l’entrée standard en cours.</translation>
     </message>

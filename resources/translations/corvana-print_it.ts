@@ -3709,6 +3709,10 @@ Per la riga di comando: %2</translation>
         <translation>Impossibile mostrare una pagina delle impostazioni della stampante: %1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 non si trova su questo computer. Salvarlo qui per stamparlo.</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>Lettura dello standard input in corso.</translation>
     </message>

@@ -2341,6 +2341,10 @@ For the command line: %2</source>
         <translation>このジョブは用紙を %1 枚使用します。%2 枚を超える印刷には --yes が必要です。</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 はこのコンピューターにありません。印刷するには、ここに保存してください。</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>標準入力を読み込んでいます。</translation>
     </message>

@@ -3707,6 +3707,10 @@ For the command line: %2</source>
         <translation>프린터 설정 페이지를 표시할 수 없습니다: %1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1은(는) 이 컴퓨터에 없습니다. 인쇄하려면 여기에 저장하십시오.</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>표준 입력을 읽는 중입니다.</translation>
     </message>

@@ -3709,6 +3709,10 @@ Na linha de comando: %2</translation>
         <translation>Não é possível mostrar uma página das configurações da impressora: %1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 não está neste computador. Salve-o aqui para imprimi-lo.</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>Lendo a entrada padrão.</translation>
     </message>

@@ -2341,6 +2341,10 @@ For the command line: %2</source>
         <translation>此作业需要 %1 张纸。超过 %2 张时需使用 --yes 才会打印。</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 不在这台计算机上。请先保存到这里再打印。</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>正在读取标准输入。</translation>
     </message>

@@ -3707,6 +3707,10 @@ For the command line: %2</source>
         <translation>無法顯示印表機設定的其中一頁：%1</translation>
     </message>
     <message>
+        <source>%1 is not on this computer. Save it here to print it.</source>
+        <translation>%1 不在這部電腦上。請先儲存到這裡再列印。</translation>
+    </message>
+    <message>
         <source>Standard input is being read.</source>
         <translation>正在讀取標準輸入。</translation>
     </message>

@@ -4,10 +4,8 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QMimeData>
 #include <QShortcut>
 #include <QToolButton>
-#include <QUrl>
 
 #include "dialog/window/chooser/ElidedLabel.h"
 #include "platform/toolkit/PlainText.h"
@@ -22,17 +20,6 @@ namespace {
 constexpr int kMostRows = 4; // the rest scrolls: the room belongs to the sheets
 
 } // namespace
-
-QStringList localFiles(const QMimeData &data)
-{
-    QStringList files;
-    const QList<QUrl> urls = data.urls();
-    for (const QUrl &url : urls) {
-        if (url.isLocalFile())
-            files += url.toLocalFile();
-    }
-    return files;
-}
 
 DocumentArea::DocumentArea(QWidget *parent)
     : QWidget(parent), m_title(new ElidedLabel(this)), m_list(new QListWidget(this))

@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class QListWidget;
-class QMimeData;
 class QToolButton;
 
 namespace corvana {
@@ -22,9 +21,6 @@ struct ListedDocument
 
     bool operator==(const ListedDocument &) const = default;
 };
-
-/// The files of this computer among what is dropped or pasted.
-QStringList localFiles(const QMimeData &data);
 
 /// Which documents are printed: the name of a single one, and of several a list in which they are
 /// put in order and removed; more can be added.

@@ -100,6 +100,21 @@ class FilterPlanTest : public QObject
     using Result = ConversionRequest::Result;
 
 private Q_SLOTS:
+    void pagesAreTurnedInTheEnd()
+    {
+        ConversionRequest turned = request({kPdf}, ConversionRequest::Result::PrinterData);
+        turned.ticket.options.removeIf(isPagesOnASide);
+        turned.turns = {0, 90, 90, 0, 270};
+        const FilterPlan plan = planConversion(turned, kPlaces);
+        QCOMPARE(inShort(plan), (QStringList{u"/three.pdf to printer/foo as /parts/unturned.pdf"_s,
+                                             u"qpdf /parts/unturned.pdf as /out.part"_s}));
+        QCOMPARE(plan.constLast().arguments.mid(2),
+                 (QStringList{u"--rotate=+90:2-3"_s, u"--rotate=+270:5-5"_s,
+                              u"/parts/unturned.pdf"_s, u"-"_s}));
+        turned.turns = {0, 0};
+        QCOMPARE(planConversion(turned, kPlaces).size(), 1);
+    }
+
     void oneDocumentIsPrintedInOneStep()
     {
         const FilterStep step{kPlaces.cupsFilter,

@@ -318,6 +318,19 @@ private Q_SLOTS:
         QCOMPARE(sides(), (QStringList{u"first 1"_s, u"page 1"_s, u"page 2"_s, u"last 1"_s}));
     }
 
+    // One message takes the place of the other.
+    void whatGoesOutUnprotectedIsSaidOnceNothingElseIs()
+    {
+        protectedPdf(m_scene->filter.path(u"a.pdf"_s), Protection::AesWith256Bits);
+        protectedPdf(m_scene->filter.path(u"b.pdf"_s), Protection::OwnerOnlyNoPrinting);
+        m_scene->face.documentPasswords = QStringList{kUserPassword};
+        PrintTask &task = m_scene->open(request({u"a.pdf"_s, u"b.pdf"_s}));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            task.knowsDocuments() && m_scene->face.message().startsWith(u"“b.pdf”"_s), kPatience);
+        task.removeDocument(1);
+        QTRY_COMPARE(m_scene->face.message(), kFileIsPlain);
+    }
+
     // No program learns it from a command line or an environment, and no log has it.
     void thePasswordIsNowhereToBeSeen()
     {

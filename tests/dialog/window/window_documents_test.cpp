@@ -1,4 +1,6 @@
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -7,6 +9,7 @@
 #include "tests/dialog/support/ProtectedPdf.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/support/WindowDriver.h"
+#include "tests/support/NumberedPdf.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -60,6 +63,52 @@ private Q_SLOTS:
                                   u"5 pages = 5 sheets"_s, kPatience);
         QVERIFY(window.pressPrint());
         QTRY_VERIFY_WITH_TIMEOUT(!window.dialog().report().isEmpty(), kPatience);
+    }
+
+    // What would be printed is what is in the file by then.
+    void aDocumentThatIsWrittenAnewIsShownAnew_data()
+    {
+        QTest::addColumn<bool>("replaced");
+        QTest::newRow("written to") << false;
+        QTest::newRow("replaced, as most programs save") << true;
+    }
+    void aDocumentThatIsWrittenAnewIsShownAnew()
+    {
+        QFETCH(bool, replaced);
+        PrintRequest opened = request(Protection::AesWith256Bits);
+        const QString path = writeFile(opened.documents.constFirst().path, numberedPdf("page", 3));
+        WindowDriver window(opened);
+        const auto counts = [&] { return window.dialog().task().sheetPreview().counts; };
+        QTRY_COMPARE_WITH_TIMEOUT(counts(), u"3 pages = 3 sheets"_s, kPatience);
+        QTest::qWait(1500); // until nothing that the opening brings lets it be laid out once more
+        const QString other = writeFile(m_folder.filePath(u"b.pdf"_s), numberedPdf("page", 7));
+        if (replaced) {
+            QVERIFY(QFile::remove(path));
+            QVERIFY(QFile::rename(other, path));
+        } else {
+            writeFile(path, numberedPdf("page", 7));
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(counts(), u"7 pages = 7 sheets"_s, kPatience);
+    }
+
+    // It would be cut off at its second line, and turn round what stands behind it.
+    void aNameIsOneLineThatTurnsNothingRound()
+    {
+        PrintRequest opened = request(Protection::AesWith256Bits);
+        const QString first = u"new\nline.txt"_s;
+        const QString second = u"a\u202Efdp.txt"_s;
+        opened.documents.clear();
+        opened.title = first;
+        for (const QString &name : {first, second})
+            opened.documents +=
+                {writeFile(m_folder.filePath(name), "Some words.\n"), u"text/plain"_s, name};
+        WindowDriver window(opened);
+        const auto *list = window.child<QListWidget>(u"documents"_s);
+        QTRY_COMPARE(list->count(), 2);
+        QCOMPARE(list->item(0)->text(), u"new<U+000A>line.txt (text)"_s);
+        QCOMPARE(list->item(1)->text(), u"a<U+202E>fdp.txt (text)"_s);
+        window.dialog().task().removeDocument(1);
+        QTRY_COMPARE(window.child<QLabel>(u"document"_s)->text(), u"new<U+000A>line.txt"_s);
     }
 
     void whoDoesNotKnowItCancels()
