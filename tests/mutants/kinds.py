@@ -106,6 +106,8 @@ def _has_what_was_asked_for(case, end):
         choices = _left_of(case.choices, end)
         if stream.count(b"\n%%Page: ") == 1:  # which CUPS prints one-sided, whatever was chosen
             choices = [choice for choice in choices if not choice.startswith("Duplex=")]
+        if b"\n%RBINumCopies: 1\n" in stream:  # of which CUPS collates none, whatever was chosen
+            choices = [choice for choice in choices if not choice.startswith("Collate=")]
         if missing := case.ppd.missing(choices, stream):
             yield f"printed without {', '.join(missing)}"
 

@@ -132,6 +132,19 @@ class LimitsTest(unittest.TestCase):
                 end = limits.run(["true"], dict(os.environ), case.folder)
                 self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
 
+    def test_one_copy_has_nothing_to_be_collated(self):
+        ppd = PPD.replace(b"Ink", b"Collate").replace(b"Red", b"False").replace(b"Blue", b"True")
+        for stream, said in [("\\n%%RBINumCopies: 1\\nFalse", ""), ("\\n%%RBINumCopies: 2\\nTrue", ""),
+                             ("\\n%%RBINumCopies: 2\\nFalse", "printed without Collate=True"),
+                             ("False", "printed without Collate=True")]:
+            with self.subTest(stream), tempfile.TemporaryDirectory() as folder:
+                case = self.case(folder, "")
+                case.use_ppd(ppd)
+                case.choices = ["Collate=True"]
+                case.print_to_file("document")
+                end = limits.run(["sh", "-c", f"printf '{stream}' >job.ps"], dict(os.environ), case.folder)
+                self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
+
     def test_copies_that_the_printer_cannot_collate_are_an_attribute(self):
         collate = PPD.replace(b"Ink", b"Collate").replace(b"Red", b"False").replace(b"Blue", b"True")
         disk = b"*DefaultDisk: None\n"
