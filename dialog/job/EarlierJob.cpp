@@ -19,6 +19,9 @@ std::optional<JobOutcome> whatBecameOfEarlierJob(ServerWorker &worker,
         return outcomes.earlierJobUnknown(whatIsWrong(), job);
     if (!status)
         return std::nullopt;
+    if (!status->isKnown())
+        return outcomes.earlierJobUnknown(
+            HandoverOutcomes::unknownState(*status, QString::number(job)), job);
     const bool isPrinted = status->state == IPP_JSTATE_COMPLETED;
     if (status->documents > 0 && status->lacksDocuments(request.earlierDocuments)) {
         if (isPrinted || (!status->isOver() && status->begun))

@@ -322,7 +322,7 @@ private:
                 return m_worker.isCanceled()
                            ? canceledOrLeftAlone()
                            : m_outcomes.lostSight(m_connection->problem(), whatIsWrong());
-            if (status->isOver())
+            if (status->isOver() || !status->isKnown())
                 return ended(*status);
             const JobProgress progress = m_followed.progress(*status);
             m_report(progress);

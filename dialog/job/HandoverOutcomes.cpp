@@ -277,8 +277,16 @@ JobOutcome HandoverOutcomes::inQueue(const JobProgress &progress) const
                    Texts::tr("Job %1 is in the queue “%2”.").arg(name(), m_printer.name));
 }
 
+QString HandoverOutcomes::unknownState(const JobStatus &status, const QString &job)
+{
+    return Texts::tr("The print server gives job %1 the state %2, which is not known.")
+        .arg(job, QString::number(status.state));
+}
+
 JobOutcome HandoverOutcomes::ended(const JobStatus &status, bool canceledHere) const
 {
+    if (!status.isKnown())
+        return lostSight({}, unknownState(status, name()));
     if (status.state == IPP_JSTATE_COMPLETED && m_isRawNow.value_or(false))
         return outcome(Kind::Sent,
                        Texts::tr("Sent to “%1” as job %2. That queue passes files on as they are: "

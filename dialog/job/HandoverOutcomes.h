@@ -70,6 +70,8 @@ public:
     JobOutcome notKnownAnyMore(const QString &why) const;
     JobOutcome mayBePrinted(const QString &why) const;
     JobOutcome lostSight(const ServerProblem &problem, const QString &why) const;
+    /// Why nothing is known of a job whose state its server calls something of its own.
+    static QString unknownState(const JobStatus &status, const QString &job);
     /// Nobody wanted to know more, and its server has forgotten it already.
     JobOutcome handedOver() const;
     JobOutcome stopped(const JobStatus &status) const;

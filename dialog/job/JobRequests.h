@@ -25,7 +25,9 @@ struct JobStatus
     bool printerStopped = false;
     bool begun = true; ///< whether anything of it may have got to the printer
 
-    bool isOver() const { return state >= IPP_JSTATE_CANCELED; }
+    /// A server may say anything: what is no state, or none of IPP's, says nothing of the job.
+    bool isKnown() const { return state >= IPP_JSTATE_PENDING && state <= IPP_JSTATE_COMPLETED; }
+    bool isOver() const { return isKnown() && state >= IPP_JSTATE_CANCELED; }
     /// Whether it has fewer documents than it was to have. What the server does not count, or
     /// nobody remembers (0), is no less.
     bool lacksDocuments(int wanted) const { return documents >= 0 && documents < wanted; }

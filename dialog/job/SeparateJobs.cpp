@@ -113,8 +113,13 @@ private:
             const auto status = lookUpJob(m_worker.connection(), m_request.printer, job);
             if (!status || status->state == IPP_JSTATE_COMPLETED)
                 continue;
-            outcome->kind = status->isOver() ? Kind::Failed : Kind::InQueue;
             const QString name = jobName(m_request.printer, job);
+            if (!status->isKnown()) {
+                outcome->kind = Kind::Unknown;
+                outcome->text += u' ' + HandoverOutcomes::unknownState(*status, name);
+                continue;
+            }
+            outcome->kind = status->isOver() ? Kind::Failed : Kind::InQueue;
             outcome->text +=
                 u' ' +
                 (status->isOver()

@@ -15,6 +15,7 @@
 
 #include "dialog/task/TaskHistory.h"
 #include "dialog/window/DocumentDrop.h"
+#include "dialog/window/FocusInSight.h"
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/KeyboardFocus.h"
@@ -130,6 +131,7 @@ void PrintWindow::connectParts()
     new UndoKeys(m_task->history(), this);
     new KeyboardFocus(this);
     new DocumentDrop(*m_task, *m_preview, this);
+    new FocusInSight(this);
     nameListsOfPopUps(this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);
     connect(m_preview, &PreviewPane::foldPressed, this,

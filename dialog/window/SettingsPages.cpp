@@ -170,8 +170,12 @@ void SettingsPages::close()
     if (m_general)
         m_former = tabText(currentIndex());
     m_panelMarks->show({}, {});
-    while (count() > 0)
-        delete widget(0);
+    // What they show has gone: none may come up in the place of another one, nor the list of
+    // options, which reads what it shows, get another size.
+    delete m_options;
+    while (count() > 1)
+        delete widget(currentIndex() == 0 ? 1 : 0);
+    delete currentWidget();
     m_panelPages.clear();
     m_showsPanels = false;
     m_general = nullptr;

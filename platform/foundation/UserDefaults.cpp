@@ -15,6 +15,9 @@ Q_LOGGING_CATEGORY(lcDefaults, "corvana.foundation.defaults", QtWarningMsg)
 
 namespace {
 
+// Far more than any program here keeps; of what is larger QSettings makes many times its size.
+constexpr qint64 kLargest = 4 * 1024 * 1024; // bytes
+
 enum class State {
     Read,
     Damaged,    // nobody can make sense of it
@@ -39,7 +42,9 @@ Reading readAnew(const QString &name)
     QTemporaryFile copy;
     if (!file.open(QIODevice::ReadOnly) || !copy.open())
         return {State::Unreadable, {}};
-    const QByteArray content = file.readAll();
+    const QByteArray content = file.read(kLargest + 1);
+    if (content.size() > kLargest)
+        return {State::Damaged, {}};
     if (copy.write(content) != content.size() || !copy.flush())
         return {State::Unreadable, {}};
     const QSettings settings(copy.fileName(), QSettings::IniFormat);

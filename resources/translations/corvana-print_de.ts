@@ -2058,6 +2058,10 @@
         <translation>Auftrag %1 wurde vollständig übergeben. %2 Ob er gedruckt wurde, ist deshalb nicht bekannt.</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>Der Druckserver nennt für Auftrag %1 den Status %2, der nicht bekannt ist.</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>Auftrag %1 wurde an die Warteschlange „%2“ übergeben.</translation>
     </message>

@@ -2058,6 +2058,10 @@
         <translation>El trabajo %1 se ha entregado completo. %2 Por eso no se sabe si se ha impreso.</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>El servidor de impresión da al trabajo %1 el estado %2, que no se conoce.</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>El trabajo %1 se ha entregado a la cola «%2».</translation>
     </message>

@@ -2058,6 +2058,10 @@
         <translation>La tâche %1 a été remise en entier. %2 On ne sait donc pas si elle a été imprimée.</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>Le serveur d’impression donne à la tâche %1 l’état %2, qui n’est pas connu.</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>La tâche %1 a été remise à la file d’attente « %2 ».</translation>
     </message>

@@ -2058,6 +2058,10 @@
         <translation>Il lavoro %1 è stato consegnato per intero. %2 Perciò non si sa se sia stato stampato.</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>Il server di stampa dà al lavoro %1 lo stato %2, che non è noto.</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>Il lavoro %1 è stato consegnato alla coda «%2».</translation>
     </message>

@@ -1405,6 +1405,10 @@
         <translation>ジョブ %1 はすべて送信されました。%2そのため、印刷されたかどうかはわかりません。</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>プリントサーバーはジョブ %1 の状態を %2 としていますが、これは不明な状態です。</translation>
+    </message>
+    <message>
         <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
         <translation>「%1」にジョブ %2 として送信しました。ページに何か印刷されたかどうかはわかりません。</translation>
     </message>

@@ -2057,6 +2057,10 @@
         <translation>작업 %1을(를) 모두 보냈습니다. %2 그래서 인쇄되었는지 알 수 없습니다.</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>인쇄 서버가 알려 준 작업 %1의 상태 %2은(는) 알 수 없는 상태입니다.</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>작업 %1을(를) 대기열 ‘%2’에 넘겼습니다.</translation>
     </message>

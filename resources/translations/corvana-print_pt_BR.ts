@@ -2058,6 +2058,10 @@
         <translation>O trabalho %1 foi entregue por completo. %2 Por isso, não se sabe se ele foi impresso.</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>O servidor de impressão dá ao trabalho %1 o estado %2, que não é conhecido.</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>O trabalho %1 foi entregue à fila “%2”.</translation>
     </message>

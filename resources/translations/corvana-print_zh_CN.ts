@@ -1405,6 +1405,10 @@
         <translation>作业 %1 已完整发送。%2因此不知道是否已打印。</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>打印服务器给出的作业 %1 的状态 %2 是未知状态。</translation>
+    </message>
+    <message>
         <source>Sent to “%1” as job %2. Whether anything was on its pages is not known.</source>
         <translation>已作为作业 %2 发送到“%1”。不知道页面上是否有内容。</translation>
     </message>

@@ -2057,6 +2057,10 @@
         <translation>工作 %1 已完整送出。%2因此不知道是否已列印。</translation>
     </message>
     <message>
+        <source>The print server gives job %1 the state %2, which is not known.</source>
+        <translation>列印伺服器給出的工作 %1 的狀態 %2 是未知的狀態。</translation>
+    </message>
+    <message>
         <source>Job %1 was handed over to the queue “%2”.</source>
         <translation>工作 %1 已交給佇列「%2」。</translation>
     </message>

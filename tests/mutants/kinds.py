@@ -106,6 +106,8 @@ def _has_what_was_asked_for(case, end):
         choices = _left_of(case.choices, end)
         if stream.count(b"\n%%Page: ") == 1:  # which CUPS prints one-sided, whatever was chosen
             choices = [choice for choice in choices if not choice.startswith("Duplex=")]
+        if b"\n%RBINumCopies: 1\n" in stream:  # of which CUPS collates none, whatever was chosen
+            choices = [choice for choice in choices if not choice.startswith("Collate=")]
         if missing := case.ppd.missing(choices, stream):
             yield f"printed without {', '.join(missing)}"
 
@@ -120,13 +122,14 @@ def _left_of(choices, end):
 def _keeps_what_was_asked_for(case, end):
     if end.status != 0:
         return
-    kept = _options_kept(case.folder / "home")
+    preset = _preset_kept(case.folder / "home")
     for keyword, choice in dict(choice.split("=", 1) for choice in case.choices).items():
-        if keyword not in case.ppd.not_kept and not case.ppd.is_the_same(keyword, kept.get(keyword), choice):
-            yield f"kept {keyword}={kept.get(keyword)} instead of {choice}"
+        kept = case.ppd.kept_in(preset, keyword)
+        if keyword not in case.ppd.not_kept and not case.ppd.is_the_same(keyword, kept, choice):
+            yield f"kept {keyword}={kept} instead of {choice}"
 
 
-def _options_kept(folder):
+def _preset_kept(folder):
     """Other presets of the folder may be damaged."""
     for path in folder.rglob("*.json"):
         try:
@@ -134,7 +137,7 @@ def _options_kept(folder):
         except ValueError:
             continue
         if isinstance(preset, dict) and preset.get("name") == "Kept":
-            return preset.get("options", {})
+            return preset
     return {}
 
 

@@ -132,6 +132,45 @@ class LimitsTest(unittest.TestCase):
                 end = limits.run(["true"], dict(os.environ), case.folder)
                 self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
 
+    def test_one_copy_has_nothing_to_be_collated(self):
+        ppd = PPD.replace(b"Ink", b"Collate").replace(b"Red", b"False").replace(b"Blue", b"True")
+        for stream, said in [("\\n%%RBINumCopies: 1\\nFalse", ""), ("\\n%%RBINumCopies: 2\\nTrue", ""),
+                             ("\\n%%RBINumCopies: 2\\nFalse", "printed without Collate=True"),
+                             ("False", "printed without Collate=True")]:
+            with self.subTest(stream), tempfile.TemporaryDirectory() as folder:
+                case = self.case(folder, "")
+                case.use_ppd(ppd)
+                case.choices = ["Collate=True"]
+                case.print_to_file("document")
+                end = limits.run(["sh", "-c", f"printf '{stream}' >job.ps"], dict(os.environ), case.folder)
+                self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
+
+    def test_copies_that_the_printer_cannot_collate_are_an_attribute(self):
+        collate = PPD.replace(b"Ink", b"Collate").replace(b"Red", b"False").replace(b"Blue", b"True")
+        disk = b"*DefaultDisk: None\n"
+        alone = b"*UIConstraints: *Collate True *Disk None\n"
+        for lines, preset, said in [
+                (alone + disk, {"attributes": {"collate": "true"}}, ""),
+                (b"*UIConstraints: *Disk None *Collate True\n" + disk, {"attributes": {"collate": "true"}}, ""),
+                (alone + disk, {"attributes": {"collate": "false"}}, "kept Collate=False instead of True"),
+                (alone + disk, {"options": {"Collate": "True"}}, "kept Collate=None instead of True"),
+                (alone + disk, {}, "kept Collate=None instead of True"),
+                # It has a disk, or needs none.
+                (alone, {"attributes": {"collate": "true"}}, "kept Collate=None instead of True"),
+                (alone.replace(b"True", b"False") + disk, {"attributes": {"collate": "true"}},
+                 "kept Collate=None instead of True"),
+                (b"", {"options": {"Collate": "True"}}, "")]:
+            with self.subTest(lines=lines, preset=preset), tempfile.TemporaryDirectory() as folder:
+                case = self.case(folder, "")
+                case.use_ppd(collate + lines)
+                case.keep_as_preset()
+                case.choices = ["Collate=True"]
+                case.write("home/presets/Kept.json", json.dumps({"name": "Kept", **preset}).encode())
+                end = limits.run(["true"], dict(os.environ), case.folder)
+                self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
+                missing = [] if lines.endswith(disk) and b"Collate True" in lines else ["Collate=True"]
+                self.assertEqual(case.ppd.missing(["Collate=True"], b""), missing)
+
     def test_a_number_that_is_no_choice_is_a_custom_value(self):
         ppd = Ppd(PPD.replace(b"Ink Blue", b"Ink 3") + b'*Ink 7/Seven: "7"\n')
         for kept, choice, same in [("Custom.7", "7", True), ("Custom.7", "6", False), ("7", "7", True),

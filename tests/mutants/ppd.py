@@ -7,6 +7,7 @@ from mutation import mutate_text
 _OPTION = re.compile(r"^\*(?:JCL)?OpenUI\s+\*([^\s/:]+)", re.MULTILINE)
 _OPTION_LINES = re.compile(r"^\*(?:JCL)?OpenUI\s+\*([^\s/:]+).*?(?:^\*(?:JCL)?CloseUI|\Z)", re.MULTILINE | re.DOTALL)
 _DEFAULT = re.compile(r"^\*Default([^\s/:]+):\s*(\S+)", re.MULTILINE)
+_CONSTRAINT = re.compile(r"^\*(?:Non)?UIConstraints:\s*\*(\S+)\s+(\S+)\s+\*(\S+)\s+(\S+)", re.MULTILINE)
 _CHOICE = re.compile(r'^\*([^\s/:.%]+)[ \t]+([^\s/:]+)(?:/[^:\n]*)?:\s*"([^"]*)"', re.MULTILINE)
 
 # Where a printer's own parts are; damaged, it may end with the file.
@@ -57,6 +58,12 @@ class Ppd:
         # What stands behind the end of an option is none of its choices.
         self.choices = {(keyword, choice) for lines in _OPTION_LINES.finditer(text)
                         for keyword, choice, _ in _CHOICE.findall(lines.group()) if keyword == lines.group(1)}
+        # A printer that lacks what it collates with gets its copies collated by the filters. That is an attribute
+        # of the job then, and nothing for the printer to hear of.
+        self.is_collated_before = any(
+            mine == "Collate" and excluded in ("True", "On") and (other, has) in self.defaults
+            for one in _CONSTRAINT.findall(text)
+            for mine, excluded, other, has in (one, one[2:] + one[:2]))
         for keyword, choice, code in _CHOICE.findall(text):
             if keyword in keywords and "\0" not in keyword + choice:  # which no command line can hold
                 self.codes.setdefault(keyword, {}).setdefault(choice, []).append(code)
@@ -74,7 +81,15 @@ class Ppd:
         text = _plain(stream.decode("latin-1"))
         return [f"{keyword}={choice}" for keyword, choice in
                 dict(choice.split("=", 1) for choice in choices).items()
-                if (keyword, choice) not in self.defaults and not self._stands_in(keyword, choice, text)]
+                if not (keyword == "Collate" and self.is_collated_before) and (keyword, choice) not in self.defaults and not self._stands_in(keyword, choice, text)]
+
+    def kept_in(self, preset, keyword):
+        """What a preset says of an option, or of the attribute that stands for it."""
+        if keyword == "Collate" and self.is_collated_before:
+            collate = preset.get("attributes", {}).get("collate")
+            names = {"true": ("True", "On"), "false": ("False", "Off")}.get(collate, ())
+            return next((name for name in names if (keyword, name) in self.choices), None)
+        return preset.get("options", {}).get(keyword)
 
     def is_the_same(self, keyword, kept, choice):
         """A number that no choice has is the custom value of that number."""

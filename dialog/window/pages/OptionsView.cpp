@@ -57,6 +57,7 @@ bool OptionsView::openEditor(const QModelIndex &row)
     const QModelIndex choice = row.siblingAtColumn(OptionsModel::Choice);
     if (!choice.flags().testFlag(Qt::ItemIsEditable))
         return false;
+    scrollTo(choice); // somebody may have scrolled away from it
     edit(choice);
     return state() == EditingState;
 }

@@ -22,6 +22,11 @@ inline constexpr EndOfJob kEndsOfJobs[] = {
     {"aborted", IPP_JSTATE_ABORTED, JobOutcome::Kind::Failed},
     {"stopped", IPP_JSTATE_STOPPED, JobOutcome::Kind::Stopped},
     {"held", IPP_JSTATE_HELD, JobOutcome::Kind::InQueue},
+    {"no state", 0, JobOutcome::Kind::Unknown},
+    {"before the first state", IPP_JSTATE_PENDING - 1, JobOutcome::Kind::Unknown},
+    {"behind the last state", IPP_JSTATE_COMPLETED + 1, JobOutcome::Kind::Unknown},
+    {"a state of its own", 99, JobOutcome::Kind::Unknown},
+    {"less than none", -1, JobOutcome::Kind::Unknown},
 };
 
 /// A document, and a server whose queue it is sent to.

@@ -62,6 +62,8 @@ constexpr EarlierTry kEarlierTries[] = {
      "1 of its 3 documents"},
     {"was canceled with a part", {IPP_JSTATE_CANCELED, 2}, Kind::Printed, 0, ""},
     {"has none", {IPP_JSTATE_HELD, 0}, Kind::Printed, 0, ""},
+    {"is in no known state", {99, 3}, Kind::Failed, 0, "gives job 7 the state 99"},
+    {"is in no known state, in part", {0, 2}, Kind::Failed, 0, "not known yet"},
 };
 
 // What queues make of a document, and whether two of them can be sent.
@@ -221,6 +223,22 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), kind == Kind::Printed ? 1 : 0);
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), canceled);
         QVERIFY2(outcome.text.contains(QString::fromLatin1(words)), qPrintable(outcome.text));
+    }
+
+    // A queue without a driver gets each PDF as a job.
+    void oneOfSeveralJobsInNoKnownStateIsNotCalledGivenUp()
+    {
+        for (Document &one : m_request.documents)
+            one.format = u"application/pdf"_s;
+        m_request.follow = true;
+        m_server->say(
+            {{IPP_JSTATE_PENDING, 1}, {IPP_JSTATE_PENDING, 1}, {IPP_JSTATE_COMPLETED, 1}, {99, 1}});
+        const JobOutcome outcome = print();
+        QCOMPARE(m_server->count(IPP_OP_CREATE_JOB), kDocuments);
+        QCOMPARE(outcome.kind, Kind::Unknown);
+        QVERIFY2(outcome.text.contains(u"gives job office-8 the state 99"_s) &&
+                     !outcome.text.contains(u"given up"_s),
+                 qPrintable(outcome.text));
     }
 
     void aJobIsCanceledBetweenItsDocuments()

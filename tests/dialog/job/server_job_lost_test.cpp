@@ -155,7 +155,7 @@ private Q_SLOTS:
     void theEndOfAForgottenJobIsKnownFromItsServer()
     {
         const auto &[name, state, kind] = currentRow(kEndsOfJobs);
-        const bool isEnd = state >= IPP_JSTATE_CANCELED;
+        const bool isEnd = kind != JobOutcome::Kind::Unknown && state >= IPP_JSTATE_CANCELED;
         m_server->rememberTheEnd({state});
         m_server->say({{IPP_JSTATE_PROCESSING}, kForgotten});
         const JobOutcome outcome = print();

@@ -90,6 +90,14 @@ private Q_SLOTS:
         QCOMPARE(m_server->count(IPP_OP_CANCEL_JOB), 0);
     }
 
+    void aStateThatIsNoneIsSaidAsWhatTheServerCallsIt()
+    {
+        m_server->say({{IPP_JSTATE_PROCESSING}, {99}});
+        QCOMPARE(print().text, u"Job office-8 was handed over completely. The print server gives "
+                               "job office-8 the state 99, which is not known. So whether it has "
+                               "been printed is not known."_s);
+    }
+
     void aJobWhosePagesNobodyCountedIsSentAndNeverPrinted()
     {
         m_request.mayBeEmpty = true;

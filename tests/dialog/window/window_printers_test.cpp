@@ -1,3 +1,6 @@
+#include <functional>
+#include <utility>
+
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -5,6 +8,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeView>
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/window/PrintWindow.h"
@@ -20,6 +24,26 @@
 using namespace corvana;
 using namespace corvana::test;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+class EventWatch : public QObject
+{
+public:
+    using Seen = std::function<void(QObject *watched, QEvent *event)>;
+
+    explicit EventWatch(Seen seen) : m_seen(std::move(seen)) {}
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        m_seen(watched, event);
+        return false;
+    }
+
+private:
+    Seen m_seen;
+};
+
+} // namespace
 
 /// What the window shows while a printer is asked for, is opened, changes, or cannot be opened.
 class WindowPrintersTest : public QObject
@@ -124,6 +148,43 @@ private Q_SLOTS:
         pages()->setCurrentIndex(2);
         m_window->task().choosePrinter(two.printers.at(1));
         QCOMPARE(pages()->currentIndex(), 0);
+    }
+
+    // Their settings have gone by then.
+    void noPageOfAPrinterThatIsLeftIsShownOnceMore_data()
+    {
+        QTest::addColumn<int>("page");
+        for (int page = 0; page < 5; ++page)
+            QTest::addRow("from page %d", page) << page;
+    }
+    void noPageOfAPrinterThatIsLeftIsShownOnceMore()
+    {
+        QFETCH(int, page);
+        PrintRequest two = request();
+        two.printers += {u"other"_s, u"Other"_s, samplePpdPath(), 5};
+        open(two);
+        QTRY_VERIFY(isReady());
+        QCOMPARE(pages()->count(), 5);
+        constexpr int kAllOptions = 3;
+        pages()->setCurrentIndex(kAllOptions);
+        auto *options = part<QTreeView>(u"options"_s);
+        QVERIFY(options && options->isVisible());
+        pages()->setCurrentIndex(page);
+        options->scrollToBottom();
+        m_window->resize(m_window->width(),
+                         m_window->height() + 200); // which the list does not know
+        QCoreApplication::processEvents();
+        QStringList shown;
+        EventWatch watch([&](QObject *watched, QEvent *event) {
+            if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
+                shown +=
+                    watched->objectName() + QLatin1StringView(watched->metaObject()->className());
+        });
+        for (int i = 0; i < pages()->count(); ++i)
+            pages()->widget(i)->installEventFilter(&watch);
+        options->installEventFilter(&watch);
+        m_window->task().choosePrinter(two.printers.at(1));
+        QCOMPARE(shown, QStringList());
     }
 
     void keysChooseOnePrinterAfterTheOther()

@@ -21,6 +21,8 @@ const DamagedCase kDamaged[] = {
     // Sections are looked at when their keys are asked for.
     {"a line that is no entry", "nonsense"},
     {"a line among others that is none", "[General]\na=1\n# b\n"},
+    // Sixty megabytes of it took nearly a gigabyte.
+    {"more than anybody keeps", "[General]\na=" + QByteArray(4 * 1024 * 1024, 'x') + '\n'},
 };
 
 void write(const QString &path, const QByteArray &content)
@@ -56,10 +58,19 @@ private Q_SLOTS:
 
         QVERIFY(!defaults.persistentDomainForName(name));
         QVERIFY(defaults.setPersistentDomain_forName({{u"key"_s, 2}}, name));
-        QCOMPARE(contentOf(path + u".damaged"_s), row.content);
+        QVERIFY(contentOf(path + u".damaged"_s) == row.content);
         const auto domain = defaults.persistentDomainForName(name);
         QVERIFY(domain);
         QCOMPARE(domain->keys(), QStringList{u"key"_s});
+    }
+
+    void aLongValueIsKept()
+    {
+        const UserPreferences preferences;
+        UserDefaults &defaults = UserDefaults::standardUserDefaults();
+        const QString value(3 * 1024 * 1024, u'x');
+        QVERIFY(defaults.setPersistentDomain_forName({{u"key"_s, value}}, u"long"_s));
+        QVERIFY(defaults.persistentDomainForName(u"long"_s).value().value(u"key"_s) == value);
     }
 };
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -99,6 +100,31 @@ private Q_SLOTS:
         QVERIFY(!editor());
         QVERIFY(m_list->hasFocus());
         QCOMPARE(m_printed, 0);
+    }
+
+    void aChoiceThatWasScrolledAwayIsSeenWhenAKeyOpensIt_data()
+    {
+        QTest::addColumn<Qt::Key>("pressed");
+        QTest::newRow("a letter") << Qt::Key_T;
+        QTest::newRow("F2") << Qt::Key_F2;
+    }
+    void aChoiceThatWasScrolledAwayIsSeenWhenAKeyOpensIt()
+    {
+        QFETCH(Qt::Key, pressed);
+        open(officePrinter());
+        m_window->setFixedHeight(m_window->minimumSizeHint().height());
+        go(u"Media"_s);
+        QScrollBar *bar = m_list->verticalScrollBar();
+        QTRY_VERIFY(bar->maximum() > 0);
+        const QRect seen = m_list->viewport()->rect();
+        bar->setValue(bar->maximum());
+        if (seen.intersects(m_list->visualRect(option(u"Media"_s))))
+            bar->setValue(0);
+        QVERIFY(!seen.intersects(m_list->visualRect(option(u"Media"_s))));
+        key(pressed);
+        QVERIFY(choices());
+        QVERIFY(seen.contains(m_list->visualRect(option(u"Media"_s))));
+        QVERIFY(!choices()->visibleRegion().isEmpty());
     }
 
     void escapeLeavesTheChoiceAsItWas()
