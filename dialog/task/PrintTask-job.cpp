@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QFileInfo>
-
 #include "dialog/job/FileJob.h"
 #include "dialog/job/PageChoice.h"
 #include "dialog/job/SeparateJobs.h"
@@ -34,12 +32,6 @@ bool PrintTask::canPrint() const
 bool PrintTask::printsToFile() const
 {
     return m_output.toFile || m_chosen.printer.origin == PrinterOrigin::File;
-}
-
-void PrintTask::setOutput(const QString &path, bool confirmed)
-{
-    if (path != m_output.path || confirmed)
-        m_output = {path, m_output.toFile, confirmed, m_output.proposed};
 }
 
 void PrintTask::print()
@@ -120,11 +112,8 @@ std::optional<TaskRefusal> PrintTask::finish()
             problemsOfByHand(m_settings.attributes(), *m_opened, printsToFile(), m_face.canAsk());
         !problems.isEmpty() && !m_request.documents.isEmpty())
         return TaskRefusal{problems};
-    const bool replaces = printsToFile() && !m_output.confirmed && QFileInfo::exists(m_output.path);
-    // Nobody has seen a name that was proposed to a script.
-    const bool asks = replaces && (m_chosen.canBeAnother || m_output.path != m_output.proposed);
-    m_output.isTaken = asks;
-    if (asks && !m_face.mayOverwrite(m_output.path))
+    m_output.isTaken = printsToFile() && m_output.wouldReplace(m_chosen.canBeAnother);
+    if (m_output.isTaken && !m_face.mayOverwrite(m_output.path))
         return TaskRefusal{{}, Place::Output, true};
     if (const QString unknown = unknownDocument(); !passesFilesOn() && !unknown.isEmpty())
         return TaskRefusal{
@@ -214,13 +203,11 @@ void PrintTask::startJob(const JobTicket &ticket)
     const int turn = sheets ? commonOrderTurn(*sheets).value_or(0) : 0;
     const JobTicket turned = withOrderForReader(ticket, turn);
     if (printsToFile()) {
-        using By = ResultFile::NamedBy;
-        const bool isChosen = m_output.isTaken || m_output.path != m_output.proposed;
-        const bool isTurned = sheets && savesAsPdf(); // to be read on a screen
-        followJob(std::make_unique<FileJob>(
-            FileJobRequest{printedDocuments(), turned, m_opened->fetched.ppd->path, m_output.path,
-                           isChosen ? By::User : By::Nobody,
-                           isTurned ? turnsOfPdf(*sheets, arrangementOf(ticket)) : QList<int>()}));
+        FileJobRequest request{printedDocuments(), turned, m_opened->fetched.ppd->path,
+                               m_output.path, m_output.namedBy()};
+        if (sheets && savesAsPdf()) // to be read on a screen
+            request.turns = turnsOfPdf(*sheets, arrangementOf(ticket));
+        followJob(std::make_unique<FileJob>(request));
     } else if (isTwoSidedByHand(ticket.options) && !passesFilesOn()) {
         startByHand(ticket);
     } else {

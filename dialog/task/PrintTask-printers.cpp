@@ -161,6 +161,12 @@ void PrintTask::open(const FetchedPrinter &ready)
         say(TaskMessage::Kind::Problem, lostText(lost));
 }
 
+void PrintTask::setOutput(const QString &path, bool confirmed)
+{
+    if (path != m_output.path || confirmed)
+        m_output = {path, m_output.toFile, confirmed, m_output.proposed};
+}
+
 // Gives the name that nobody has chosen the ending of what this printer's filters yield.
 void PrintTask::proposeOutput()
 {

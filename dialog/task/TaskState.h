@@ -3,11 +3,13 @@
 #include <memory>
 #include <optional>
 
+#include <QFileInfo>
 #include <QHash>
 #include <QTimer>
 
 #include "dialog/documents/DocumentChecks.h"
 #include "dialog/job/Job.h"
+#include "dialog/job/ResultFile.h"
 #include "dialog/job/SlowWork.h"
 #include "dialog/printers/FetchedPrinter.h"
 #include "dialog/session/JobTicket.h"
@@ -76,7 +78,17 @@ struct TaskState
         bool toFile = false;
         bool confirmed = false;
         QString proposed{};   // and nobody's choice
-        bool isTaken = false; // what was proposed is, and its user has agreed to replace that
+        bool isTaken = false; // a file is there, and its user has agreed to replace it
+        /// `isSeen`: somebody sits there; nobody has seen a name that was proposed to a script.
+        bool wouldReplace(bool isSeen) const
+        {
+            return !confirmed && QFileInfo::exists(path) && (isSeen || path != proposed);
+        }
+        ResultFile::NamedBy namedBy() const
+        {
+            return isTaken || path != proposed ? ResultFile::NamedBy::User
+                                               : ResultFile::NamedBy::Nobody;
+        }
     };
     struct Colors
     {

@@ -8,7 +8,9 @@
 #include <QList>
 
 #include "dialog/text/HalfWidthKana.h"
+#include "dialog/text/SwitchedSets.h"
 #include "dialog/text/TextDecoder.h"
+#include "dialog/text/UnmarkedUtf16.h"
 
 namespace corvana {
 
@@ -223,39 +225,9 @@ double scoreOfWestern(const QByteArray &sample)
     return all == 0 ? 0 : 0.97 * letters / all;
 }
 
-// UTF-16 without a mark: half of the bytes of its ASCII characters are zero, always the same half.
-// A fifth of all bytes has to be, or it could be anything.
-QByteArray unmarkedUtf16(const QByteArray &beginning)
-{
-    qsizetype zeros[2] = {0, 0};
-    for (qsizetype i = 0; i < beginning.size(); ++i) {
-        if (beginning.at(i) == 0)
-            ++zeros[i % 2];
-    }
-    const qsizetype most = std::max(zeros[0], zeros[1]);
-    const qsizetype least = std::min(zeros[0], zeros[1]);
-    if (most == 0 || most * 5 < beginning.size() || least * 10 > most)
-        return {};
-    const QByteArray encoding = zeros[0] > zeros[1] ? "UTF-16BE" : "UTF-16LE";
-    TextDecoder decoder(encoding);
-    const std::u32string text = decoder.decode(beginning);
-    const auto isSound = [](char32_t c) {
-        return c != TextDecoder::kBroken &&
-               (c >= 0x20 || c == '\n' || c == '\r' || c == '\t' || c == '\f');
-    };
-    return std::all_of(text.cbegin(), text.cend(), isSound) ? encoding : QByteArray();
-}
-
-// "Escape $" and "Escape (" switch between the sets of characters of a mail in Japanese.
-bool switchesSets(const QByteArray &sample)
-{
-    return (sample.contains("\x1B$B") || sample.contains("\x1B$@")) &&
-           (sample.contains("\x1B(B") || sample.contains("\x1B(J"));
-}
-
 bool saysSomething(char c)
 {
-    return isHigh(c) || c == '\x1B';
+    return isHigh(c) || QByteArrayView("\x0E\x0F\x1B").contains(c);
 }
 
 // What is worth looking at: lines that are no plain ASCII.
@@ -316,9 +288,10 @@ QString languageOfChinese(const std::u32string &text, const QString &fallback)
 }
 
 // The language whose shapes of the ideographs a Unicode text wants.
-QString languageOfUnicode(const QByteArray &sample, const QString &userLanguage)
+QString languageOfUnicode(const QByteArray &sample, const QString &userLanguage,
+                          const QByteArray &encoding = kUtf8)
 {
-    TextDecoder decoder(kUtf8);
+    TextDecoder decoder(encoding);
     const std::u32string text = decoder.decode(sample);
     const auto count = [&](bool (*is)(char32_t)) {
         return std::count_if(text.cbegin(), text.cend(), is);
@@ -350,10 +323,10 @@ TextEncoding recognizeEncoding(QIODevice &text, const QString &userLanguage)
         }
     }
     if (const QByteArray wide = unmarkedUtf16(beginning); !wide.isEmpty())
-        return {wide, userLanguage};
+        return {wide, languageOfUnicode(beginning, userLanguage, wide)};
     const QByteArray sample = sampleOf(text);
-    if (switchesSets(sample))
-        return {"ISO-2022-JP", u"ja"_s, 0, true};
+    if (const QByteArray switched = encodingBySwitches(sample); !switched.isEmpty())
+        return {switched, QString::fromLatin1(languageOfSwitches(switched, sample)), 0, true};
     if (isUtf8(sample))
         return {kUtf8, languageOfUnicode(sample, userLanguage)};
     TextEncoding best{kWestern, userLanguage};
@@ -378,9 +351,10 @@ bool looksLikeText(const QByteArray &beginning)
     }
     if (!unmarkedUtf16(beginning).isEmpty())
         return true;
-    return std::all_of(beginning.cbegin(), beginning.cend(), [](char c) {
-        const auto byte = static_cast<uchar>(c);
-        return byte >= 0x20 || QByteArrayView("\b\t\n\v\f\r\x1B").contains(c);
+    const QByteArrayView controls =
+        encodingBySwitches(beginning).isEmpty() ? "\b\t\n\v\f\r\x1B" : "\b\t\n\v\f\r\x1B\x0E\x0F";
+    return std::all_of(beginning.cbegin(), beginning.cend(), [&](char c) {
+        return static_cast<uchar>(c) >= 0x20 || controls.contains(c);
     });
 }
 

@@ -117,7 +117,7 @@ _corvana_print() {
     # "-o sides=" is a fourth word in front of these.
     local sign=$((COMP_CWORD - 1))
     [[ $2 == = ]] && sign=$COMP_CWORD
-    if ((sign >= 3)) && [[ ${COMP_WORDS[sign]} == = && ${COMP_WORDS[sign - 2]} == -o ]]; then
+    if ((sign >= 3)) && [[ ${COMP_WORDS[sign]} == = && ${COMP_WORDS[sign - 2]} == @(-o|--option) ]]; then
         _corvana_print_values "${COMP_WORDS[sign - 1]}"
         return
     fi

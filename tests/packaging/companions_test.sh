@@ -205,6 +205,7 @@ valuesOfKeywordsAreOffered() {
     expect_equal "$(offered corvana-print -o sides = two)" \
         'two-sided-long-edge two-sided-short-edge '
     expect_equal "$(offered corvana-print -o page-set =)" 'all even odd '
+    expect_equal "$(offered corvana-print --option page-set =)" 'all even odd '
     # A sample printer has no filters to go past, and turns its sheets over itself.
     for keyword in $(complete_line corvana-print -o '' | grep -vxE 'raw=|sides-by-hand='); do
         for value in $(complete_line corvana-print -o "${keyword%=}" = ''); do
