@@ -1,4 +1,5 @@
 #include <optional>
+#include <utility>
 
 #include "renderer/PictureTurn.h"
 
@@ -118,11 +119,6 @@ void swapBytes(std::string &bytes, std::size_t one, std::size_t other, std::size
 {
     for (std::size_t i = 0; i < count; ++i)
         std::swap(bytes[one + i], bytes[other + i]);
-}
-
-bool swapsSides(int orientation)
-{
-    return orientation >= 5;
 }
 
 // A segment of a picture that is seen as it lies.

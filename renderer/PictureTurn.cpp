@@ -24,11 +24,6 @@ constexpr std::array kTurns{TJXOP_NONE,   TJXOP_NONE,       TJXOP_HFLIP,
                             TJXOP_ROT180, TJXOP_VFLIP,      TJXOP_TRANSPOSE,
                             TJXOP_ROT90,  TJXOP_TRANSVERSE, TJXOP_ROT270};
 
-bool swapsSides(int orientation)
-{
-    return orientation >= 5;
-}
-
 // What the library has allocated.
 struct Output
 {

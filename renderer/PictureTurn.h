@@ -20,6 +20,12 @@ struct PictureNotes
     bool hasAdobeMark = false; ///< which says how four colours are to be read
 };
 
+/// Whether width and height change places when such a picture is turned.
+inline bool swapsSides(int orientation)
+{
+    return orientation >= 5;
+}
+
 /// Range of `file`: any bytes. Errors: an orientation of 1 where these are no JPEG, or nothing in
 /// it that could be relied on says otherwise.
 PictureNotes notesOfPicture(std::string_view file);

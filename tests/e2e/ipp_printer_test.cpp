@@ -4,8 +4,11 @@
 #include <QTemporaryFile>
 #include <QTest>
 
+#include "tests/dialog/documents/CameraPictures.h"
+#include "tests/dialog/task/SheetGrid.h"
 #include "tests/e2e/ProgramRunner.h"
 #include "tests/e2e/QueueRuns.h"
+#include "tests/support/NumberedPdf.h"
 #include "tests/support/TestPaths.h"
 #include "tests/support/cups/FaultyServer.h"
 #include "tests/support/cups/IppEvePrinter.h"
@@ -155,6 +158,46 @@ private Q_SLOTS:
         QVERIFY2(end.status == 0, end.text().constData());
         QCOMPARE(printer.documents().size(), 1);
         QTEST(infoOf(printer.documents().constFirst(), u"Pages"_s), "pages");
+    }
+
+    // Slides are turned into their places; the order of the printer's own layout is not known.
+    void theOrderOnASheetIsTheReaders_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("grid");
+        QTest::newRow("the usual one") << QStringList{u"number-up=4"_s} << u"1 2 / 3 4"_s;
+        QTest::newRow("one that the filters have anyway")
+            << QStringList{u"number-up=4"_s, u"number-up-layout=tbrl"_s} << u"3 1 / 4 2"_s;
+    }
+    void theOrderOnASheetIsTheReaders()
+    {
+        QFETCH(QStringList, options);
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        QFile slides(runner.filePath(u"slides.pdf"_s));
+        QVERIFY(slides.open(QIODevice::WriteOnly));
+        slides.write(numberedPdf("slide", QList<QSizeF>(4, kA4.transposed())));
+        slides.close();
+        QStringList arguments{u"-d"_s, printer.uri()};
+        for (const QString &option : options)
+            arguments << u"-o"_s << option;
+        const RunEnd end = runner.run(arguments << slides.fileName());
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(gridsAsRead(printer.documents().value(0)).size(), 1);
+        QTEST(gridsAsRead(printer.documents().value(0)).constFirst(), "grid");
+    }
+
+    void aPhotoGetsThereAsItsCameraWasHeld()
+    {
+        const IppEvePrinter printer;
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        QFile photo(runner.filePath(u"photo.jpg"_s));
+        QVERIFY(photo.open(QIODevice::WriteOnly));
+        photo.write(withOrientation(jpegOf(corneredPicture({320, 192})), 6));
+        photo.close();
+        const RunEnd end = runner.run({u"-d"_s, printer.uri(), photo.fileName()});
+        QVERIFY2(end.status == 0, end.text().constData());
+        QCOMPARE(QImage::fromData(printer.documents().value(0), "jpeg").size(), QSize(192, 320));
     }
 
     void pagesAreLaidOutOnThePaperThatWasChosen()
