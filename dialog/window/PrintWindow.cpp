@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "dialog/window/FocusInSight.h"
 #include "dialog/window/HelpWindow.h"
 #include "dialog/window/JobFooter.h"
 #include "dialog/window/KeyboardFocus.h"
@@ -131,6 +132,7 @@ void PrintWindow::connectParts()
     addPageShortcuts();
     new UndoKeys(*m_task, this);
     new KeyboardFocus(this);
+    new FocusInSight(this);
     nameListsOfPopUps(this);
     m_preview->sheetsRow()->zoom()->addShortcuts(this);
     connect(m_preview, &PreviewPane::foldPressed, this,

@@ -1,11 +1,11 @@
 #include "dialog/window/SettingsPages.h"
 
 #include <QAbstractButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/SettingsIndex.h"
+#include "dialog/window/FocusInSight.h"
 #include "dialog/window/pages/GeneralPage.h"
 #include "dialog/window/pages/OptionsPage.h"
 #include "dialog/window/pages/PanelPage.h"
@@ -37,14 +37,6 @@ QWidget *focusIn(QWidget *control)
         first = first ? first : child;
     }
     return first;
-}
-
-void scrollTo(QWidget *control)
-{
-    for (QWidget *above = control->parentWidget(); above; above = above->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(above))
-            area->ensureWidgetVisible(control);
-    }
 }
 
 } // namespace
@@ -98,7 +90,7 @@ SettingsPages::Shown SettingsPages::goTo(const Setting &setting)
         return {};
     // What was disclosed is laid out only now.
     currentWidget()->ensurePolished();
-    scrollTo(control);
+    scrollIntoSight(control);
     QWidget *focus = control->isVisible() ? focusIn(control) : nullptr;
     if (focus)
         focus->setFocus(Qt::ShortcutFocusReason);

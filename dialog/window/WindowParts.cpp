@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include <QApplication>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QTimer>
 
@@ -26,15 +25,6 @@ QWidget *nextStop(const QWidget *widget)
             return next;
     }
     return nullptr;
-}
-
-// Only Tab does so by itself.
-void scrollTo(QWidget *widget)
-{
-    for (QWidget *above = widget->parentWidget(); above; above = above->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(above))
-            area->ensureWidgetVisible(widget);
-    }
 }
 
 } // namespace
@@ -73,7 +63,6 @@ void WindowParts::findLostFocus(const QPointer<QWidget> &former)
     if (!next)
         return go(1);
     next->setFocus(Qt::OtherFocusReason);
-    scrollTo(next);
 }
 
 void WindowParts::go(int step)

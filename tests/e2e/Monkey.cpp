@@ -129,10 +129,11 @@ QString Monkey::run(const QList<Act> &acts)
 // The one after this is asked for before: a menu or a dialog returns only when it is closed.
 void Monkey::next()
 {
-    // What follows from an act may come with the events behind it.
+    // What follows from an act may come with the events behind it, and what follows from a click
+    // when it cannot be a double one any more.
     if (m_doubt == Doubt::New) {
         m_doubt = Doubt::Waiting;
-        QTimer::singleShot(kPause, this, &Monkey::next);
+        QTimer::singleShot(kPause + QApplication::doubleClickInterval(), this, &Monkey::next);
         return;
     }
     if (std::exchange(m_doubt, Doubt::None) == Doubt::Waiting)
@@ -277,6 +278,9 @@ void Monkey::click(const Act &act, QWidget *stage)
         QTest::mouseRelease(widget.data(), button, Qt::NoModifier, place);
     if (widget && act.what % 11 == 0)
         QTest::mouseDClick(widget.data(), button, Qt::NoModifier, place);
+    // Which that leaves out; and a button that is held in what has gone is let go of elsewhere.
+    if (QApplication::mouseButtons() != Qt::NoButton)
+        QTest::mouseRelease(widget ? widget.data() : stage, button, Qt::NoModifier, place);
 }
 
 void Monkey::pull(const Act &act, QWidget *stage)

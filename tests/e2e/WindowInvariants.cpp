@@ -4,6 +4,8 @@
 #include <optional>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QTabWidget>
 
@@ -53,6 +55,21 @@ QRect seenPart(const QWidget &widget)
         seen &= one->parentWidget()->rect().translated(-place);
     }
     return seen;
+}
+
+// How much of a widget has to be seen: all of it, unless what it lies in is smaller, and scrolls.
+// Of what is edited in a row of a list, something; Qt puts it there.
+QSize leastToSee(const QWidget &widget)
+{
+    constexpr int kLeast = 8; // pixels, in which something can be made out
+    QSize least = widget.size().boundedTo(widget.window()->size());
+    for (const QWidget *one = widget.parentWidget(); one; one = one->parentWidget()) {
+        if (const auto *area = qobject_cast<const QAbstractScrollArea *>(one))
+            least = least.boundedTo(area->viewport()->size());
+        if (qobject_cast<const QAbstractItemView *>(one))
+            least = least.boundedTo({kLeast, kLeast});
+    }
+    return least;
 }
 
 // The focus, where it is the window's; nothing while a menu or a dialog has it.
@@ -115,17 +132,17 @@ QString brokenInvariant(PrintWindow &window)
 
 QString unseenFocus(const PrintWindow &window)
 {
-    constexpr int kLeast = 8; // pixels, in which something can be made out
     const auto focus = focusOf(window);
     if (!focus || !*focus)
         return {};
     const QSize seen = seenPart(**focus).size();
-    const QSize least = (*focus)->size().boundedTo({kLeast, kLeast});
+    const QSize least = leastToSee(**focus);
     if (!seen.isEmpty() && seen.boundedTo(least) == least)
         return {};
-    return u"the focus went to %1, of which %2 x %3 pixels are seen"_s.arg(nameOf(*focus))
-        .arg(std::max(0, seen.width()))
-        .arg(std::max(0, seen.height()));
+    const auto text = [](int pixels) { return QString::number(std::max(0, pixels)); };
+    return u"the focus went to %1, of which %2 x %3 of %4 x %5 pixels are seen"_s.arg(
+        nameOf(*focus), text(seen.width()), text(seen.height()), text(least.width()),
+        text(least.height()));
 }
 
 } // namespace corvana::test

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QFocusFrame>
 #include <QKeySequence>
 #include <QLabel>
@@ -217,7 +218,31 @@ private Q_SLOTS:
         QVERIFY(QApplication::focusWidget()->isEnabled());
         QVERIFY(window.pages()->isAncestorOf(QApplication::focusWidget()));
         const QWidget *now = QApplication::focusWidget();
-        QCOMPARE(now->visibleRegion().boundingRect().height(), now->height());
+        QTRY_COMPARE(now->visibleRegion().boundingRect().height(), now->height());
+    }
+
+    void whatIsClickedAtItsEdgeComesIntoSight()
+    {
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line), WindowDriver::Activation::Yes);
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().phase(), PrintTask::Phase::Ready,
+                                  kWindowPatience);
+        QVERIFY(window.waitForPanel(1));
+        window.child<QPushButton>(u"more"_s)->setChecked(true);
+        QTest::qWait(100); // until the window has grown with what was disclosed
+        window.dialog().resize(window.dialog().width(), 1);
+        auto *field = window.child<QComboBox>(u"print-scaling"_s);
+        auto *area = window.pages()->currentWidget()->findChild<QScrollArea *>();
+        QVERIFY(field && area);
+        QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+        constexpr int kSeen = 6;
+        const int top = field->mapTo(area->widget(), QPoint()).y();
+        area->verticalScrollBar()->setValue(top + kSeen - area->viewport()->height());
+        QTRY_COMPARE(field->visibleRegion().boundingRect().height(), kSeen);
+        QTest::mouseClick(field, Qt::RightButton, {}, {field->width() / 2, kSeen / 2}); // no list
+        QCOMPARE(QApplication::focusWidget(), field);
+        QTRY_COMPARE(field->visibleRegion().boundingRect().height(), field->height());
     }
 
     // The focus is on the progress then, which is no stop of Tab: what is next to it is.
