@@ -117,7 +117,7 @@ private:
         for (QScrollBar *bar : {area->verticalScrollBar(), area->horizontalScrollBar()})
             connect(
                 bar, &QAbstractSlider::actionTriggered, this,
-                [this] { m_isKept = m_control && isInSight(m_control) && false; }, Qt::QueuedConnection);
+                [this] { m_isKept = m_control && isInSight(m_control); }, Qt::QueuedConnection);
     }
 
     // What was clicked stays under the mouse until the clicks are over, and a menu beside what it
