@@ -58,7 +58,7 @@ bool isHigh(char c)
 
 bool isKana(char32_t c)
 {
-    return isIn(c, 0x3041, 0x30FE);
+    return isIn(c, 0x3041, 0x30FE) || isIn(c, 0xFF66, 0xFF9F);
 }
 
 bool isHangul(char32_t c)

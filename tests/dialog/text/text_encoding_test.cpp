@@ -70,6 +70,7 @@ struct Writing
 constexpr Writing kWritings[] = {
     {"ASCII", "plain text\n", "ASCII", "UTF-8", ""},
     {"UTF-8, Japanese", kJapanese, "UTF-8", "UTF-8", "ja"},
+    {"UTF-8, Japanese in narrow syllables", kNarrow, "UTF-8", "UTF-8", "ja"},
     {"UTF-8, Chinese", kSimplified, "UTF-8", "UTF-8", "zh_CN"},
     {"UTF-8, Chinese, for a Japanese", "漢字\n", "UTF-8", "UTF-8", "ja", "ja"},
     {"UTF-8, Traditional Chinese", kTraditional, "UTF-8", "UTF-8", "zh_TW"},
