@@ -45,10 +45,12 @@ void WindowParts::add(QWidget *part, const std::function<QWidget *()> &first)
 
 void WindowParts::focusChanged(QWidget *former, QWidget *now)
 {
-    // Qt looks for another one when the control itself is disabled, not when its row is.
-    if (!now && former && m_window->isAncestorOf(former))
+    // Qt looks for another one when the control itself is disabled, not when its row is; and a page
+    // that is shown again hands the focus to the control that had it last, hidden meanwhile or not.
+    QWidget *lost = now ? now : former;
+    if (lost && !(now && now->isVisible()) && m_window->isAncestorOf(lost))
         QTimer::singleShot(0, this,
-                           [this, lost = QPointer<QWidget>(former)] { findLostFocus(lost); });
+                           [this, lost = QPointer<QWidget>(lost)] { findLostFocus(lost); });
     for (Part &part : m_parts) {
         if (now && part.widget && (part.widget == now || part.widget->isAncestorOf(now)))
             part.last = now;
@@ -57,7 +59,8 @@ void WindowParts::focusChanged(QWidget *former, QWidget *now)
 
 void WindowParts::findLostFocus(const QPointer<QWidget> &former)
 {
-    if (!m_window->isActiveWindow() || m_window->focusWidget())
+    const QWidget *focus = m_window->focusWidget();
+    if (!m_window->isActiveWindow() || (focus && focus->isVisible()))
         return;
     QWidget *next = former && m_window->isAncestorOf(former) ? nextStop(former) : nullptr;
     if (!next)

@@ -152,6 +152,9 @@ class LimitsTest(unittest.TestCase):
         for lines, preset, said in [
                 (alone + disk, {"attributes": {"collate": "true"}}, ""),
                 (b"*UIConstraints: *Disk None *Collate True\n" + disk, {"attributes": {"collate": "true"}}, ""),
+                (b'*cupsUIConstraints: "*Disk None *Collate"\n' + disk, {"attributes": {"collate": "true"}}, ""),
+                (b'*cupsUIConstraints Store: "*Collate True *Disk None"\n' + disk,
+                 {"attributes": {"collate": "true"}}, ""),
                 (alone + disk, {"attributes": {"collate": "false"}}, "kept Collate=False instead of True"),
                 (alone + disk, {"options": {"Collate": "True"}}, "kept Collate=None instead of True"),
                 (alone + disk, {}, "kept Collate=None instead of True"),
@@ -168,7 +171,7 @@ class LimitsTest(unittest.TestCase):
                 case.write("home/presets/Kept.json", json.dumps({"name": "Kept", **preset}).encode())
                 end = limits.run(["true"], dict(os.environ), case.folder)
                 self.assertEqual("; ".join(kinds.problems_of(case, end)), said)
-                missing = [] if lines.endswith(disk) and b"Collate True" in lines else ["Collate=True"]
+                missing = [] if lines.endswith(disk) and b"Collate False" not in lines else ["Collate=True"]
                 self.assertEqual(case.ppd.missing(["Collate=True"], b""), missing)
 
     def test_a_number_that_is_no_choice_is_a_custom_value(self):

@@ -7,7 +7,8 @@ from mutation import mutate_text
 _OPTION = re.compile(r"^\*(?:JCL)?OpenUI\s+\*([^\s/:]+)", re.MULTILINE)
 _OPTION_LINES = re.compile(r"^\*(?:JCL)?OpenUI\s+\*([^\s/:]+).*?(?:^\*(?:JCL)?CloseUI|\Z)", re.MULTILINE | re.DOTALL)
 _DEFAULT = re.compile(r"^\*Default([^\s/:]+):\s*(\S+)", re.MULTILINE)
-_CONSTRAINT = re.compile(r"^\*(?:Non)?UIConstraints:\s*\*(\S+)\s+(\S+)\s+\*(\S+)\s+(\S+)", re.MULTILINE)
+_CONSTRAINT = re.compile(r'^\*(?:(?:Non)?UIConstraints|cupsUIConstraints[^:\n]*):\s*"?([^"\n]*)', re.MULTILINE)
+_CONSTRAINED = re.compile(r"\*(\S+)(?:[ \t]+([^*\s]\S*))?")  # without a choice: whatever is not off
 _CHOICE = re.compile(r'^\*([^\s/:.%]+)[ \t]+([^\s/:]+)(?:/[^:\n]*)?:\s*"([^"]*)"', re.MULTILINE)
 
 # Where a printer's own parts are; damaged, it may end with the file.
@@ -60,13 +61,16 @@ class Ppd:
                         for keyword, choice, _ in _CHOICE.findall(lines.group()) if keyword == lines.group(1)}
         # A printer that lacks what it collates with gets its copies collated by the filters. That is an attribute
         # of the job then, and nothing for the printer to hear of.
-        self.is_collated_before = any(
-            mine == "Collate" and excluded in ("True", "On") and (other, has) in self.defaults
-            for one in _CONSTRAINT.findall(text)
-            for mine, excluded, other, has in (one, one[2:] + one[:2]))
+        self.is_collated_before = any(self._excludes_collation(_CONSTRAINED.findall(constraint))
+                                      for constraint in _CONSTRAINT.findall(text))
         for keyword, choice, code in _CHOICE.findall(text):
             if keyword in keywords and "\0" not in keyword + choice:  # which no command line can hold
                 self.codes.setdefault(keyword, {}).setdefault(choice, []).append(code)
+
+    def _excludes_collation(self, constraint):
+        others = [one for one in constraint if one[0] != "Collate"]
+        excluded = {choice for keyword, choice in constraint if keyword == "Collate"}
+        return bool(excluded & {"True", "On", ""}) and len(others) == 1 and others[0] in self.defaults
 
     def some_choices(self, random, most, wanted=()):
         """Choices of so many options, KEYWORD=CHOICE; `wanted` options among them."""
@@ -81,7 +85,8 @@ class Ppd:
         text = _plain(stream.decode("latin-1"))
         return [f"{keyword}={choice}" for keyword, choice in
                 dict(choice.split("=", 1) for choice in choices).items()
-                if not (keyword == "Collate" and self.is_collated_before) and (keyword, choice) not in self.defaults and not self._stands_in(keyword, choice, text)]
+                if not (keyword == "Collate" and self.is_collated_before)
+                and (keyword, choice) not in self.defaults and not self._stands_in(keyword, choice, text)]
 
     def kept_in(self, preset, keyword):
         """What a preset says of an option, or of the attribute that stands for it."""

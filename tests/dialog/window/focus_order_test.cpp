@@ -221,6 +221,31 @@ private Q_SLOTS:
         QTRY_COMPARE(now->visibleRegion().boundingRect().height(), now->height());
     }
 
+    void aPageThatComesBackHasTheFocusOnWhatIsSeen()
+    {
+        CommandLine line = sampleDocument();
+        line.ppd = sourceFile(u"resources/ppd/corvana-cl5.ppd"_s);
+        WindowDriver window(requestFor(line), WindowDriver::Activation::Yes);
+        QTRY_COMPARE_WITH_TIMEOUT(window.dialog().task().phase(), PrintTask::Phase::Ready,
+                                  kWindowPatience);
+        QVERIFY(window.waitForPanel(1));
+        auto *more = window.child<QPushButton>(u"more"_s);
+        more->setChecked(true);
+        auto *field = window.child<QComboBox>(u"page-border"_s);
+        field->setFocus();
+        QCOMPARE(QApplication::focusWidget(), field);
+        UserHands hands(window.dialog());
+        hands.key(Qt::Key_PageDown, Qt::ControlModifier);
+        QVERIFY(window.pages()->currentIndex() == 1 && QApplication::focusWidget() != field);
+        QVERIFY(window.pages()->currentWidget()->isAncestorOf(QApplication::focusWidget()));
+        more->setChecked(false); // as taking back what was disclosed may do
+        hands.key(Qt::Key_PageUp, Qt::ControlModifier);
+        QCOMPARE(window.pages()->currentIndex(), 0);
+        QVERIFY(!field->isVisible());
+        QTRY_VERIFY(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
+        QVERIFY(window.dialog().isAncestorOf(QApplication::focusWidget()));
+    }
+
     void whatIsClickedAtItsEdgeComesIntoSight()
     {
         CommandLine line = sampleDocument();
