@@ -8,6 +8,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
+#include "dialog/task/OrderOfPages.h"
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartPresets.h"
@@ -160,7 +161,7 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
         if (!ofInstance.isEmpty())
             outcome.missing += takeInstance(ofInstance);
         // Printed together they would be refused.
-        outcome.missing += problemsOfOrder(m_task.settings().attributes());
+        outcome.missing += problemsOfOrder(m_task.settings(), *m_task.opened()->session);
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
