@@ -95,6 +95,7 @@ void TaskPresets::start(const StartOutcome &started)
               started.defaults,
               started.lastUsed,
               started.kept,
+              started.impossible,
               contentOf(*m_task.opened(), m_task.settings(),
                         started.preset && started.preset->stored.device),
               started.preset};
@@ -372,7 +373,7 @@ void TaskPresets::setRemembersLastUsed(bool remembers)
     if (!problem.isEmpty())
         m_task.say(TaskMessage::Kind::Problem, problem);
     if (!remembers)
-        m_kept.lastUsed = {};
+        m_kept.lastUsed = m_kept.impossible = {};
     Q_EMIT changed();
 }
 
@@ -389,7 +390,8 @@ void TaskPresets::jobEnded(const JobOutcome &outcome)
     if (!isTaken || !m_task.opened() || !m_task.m_chosen.canBeAnother || !remembersLastUsed())
         return;
     const PresetContent wished = withoutRequest(m_ofJob, m_kept.before, m_kept.started);
-    m_kept.lastUsed = withoutWishesForOneJob(changesIn(wished, m_kept.defaults));
+    m_kept.lastUsed =
+        withChanges(m_kept.impossible, withoutWishesForOneJob(changesIn(wished, m_kept.defaults)));
     m_shelf.keepLastJob(m_task.printer(), m_task.request().server.text(), m_kept.lastUsed);
 }
 

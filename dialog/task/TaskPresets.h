@@ -48,8 +48,10 @@ struct KeptSettings
     SelectedPreset selected{};
     PresetContent defaults{}; ///< where a job on this printer starts for everybody
     PresetContent lastUsed{}; ///< changes of that
-    PresetContent before{};   ///< in force before any option was asked for
-    PresetContent started{};  ///< in force before the user changed anything
+    /// What of that could not be set when the printer was opened; it is the user's all the same.
+    PresetContent impossible{};
+    PresetContent before{};  ///< in force before any option was asked for
+    PresetContent started{}; ///< in force before the user changed anything
     /// The preset that a job started with; the base has the one that is selected.
     std::shared_ptr<const PresetOrigin> preset{};
 };
