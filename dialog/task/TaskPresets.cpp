@@ -38,6 +38,7 @@ TaskPresets::TaskPresets(PrintTask &task) : m_task(task)
 {
     connect(&m_shelf, &PresetShelf::changed, this, &TaskPresets::listed);
     connect(&m_shelf, &PresetShelf::ended, this, &TaskPresets::changeEnded);
+    connect(&m_otherQueues, &OtherQueues::ended, this, &TaskPresets::othersEnded);
 }
 
 QString TaskPresets::selectedName() const
@@ -94,8 +95,8 @@ void TaskPresets::start(const StartOutcome &started)
     m_kept = {{},
               started.defaults,
               started.lastUsed,
-              started.kept,
               started.impossible,
+              started.kept,
               contentOf(*m_task.opened(), m_task.settings(),
                         started.preset && started.preset->stored.device),
               started.preset};
@@ -353,6 +354,8 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
                    tr("%1 Your settings are as they were.").arg(problem));
     Q_EMIT changed();
     sayOfInstances(*pending.outcome);
+    if (problem.isEmpty() && pending.saving)
+        saveOthers(*pending.saving, pending.outcome->others);
     Q_EMIT ended(problem);
 }
 
