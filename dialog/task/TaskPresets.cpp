@@ -372,8 +372,7 @@ bool TaskPresets::mayRememberLastUsed() const
 void TaskPresets::setRemembersLastUsed(bool remembers)
 {
     m_task.m_request.remembersLastUsed = remembers;
-    const QString problem = corvana::setRemembersLastUsed(remembers);
-    if (!problem.isEmpty())
+    if (const QString problem = corvana::setRemembersLastUsed(remembers); !problem.isEmpty())
         m_task.say(TaskMessage::Kind::Problem, problem);
     if (!remembers)
         m_kept.lastUsed = m_kept.impossible = {};
@@ -393,8 +392,8 @@ void TaskPresets::jobEnded(const JobOutcome &outcome)
     if (!isTaken || !m_task.opened() || !m_task.m_chosen.canBeAnother || !remembersLastUsed())
         return;
     const PresetContent wished = withoutRequest(m_ofJob, m_kept.before, m_kept.started);
-    m_kept.lastUsed =
-        withChanges(m_kept.impossible, withoutWishesForOneJob(changesIn(wished, m_kept.defaults)));
+    const PresetContent set = withoutWishesForOneJob(changesIn(wished, m_kept.defaults));
+    m_kept.lastUsed = withChanges(m_kept.impossible, set);
     m_shelf.keepLastJob(m_task.printer(), m_task.request().server.text(), m_kept.lastUsed);
 }
 
