@@ -138,6 +138,9 @@ std::optional<CommandLine> readValues(const QCommandLineParser &parser,
     line.noWait = parser.isSet(options.noWait);
     line.summary = parser.isSet(options.summary);
     line.instance = parser.value(options.saveInstance);
+    line.alsoOn = parser.value(options.alsoOn).split(u',', Qt::SkipEmptyParts);
+    if (parser.isSet(options.followPreset))
+        line.followedModel = parser.value(options.followPreset);
     line.checkDisplay = parser.isSet(options.checkDisplay);
     line.quiet = parser.isSet(options.quiet);
     line.encrypt = parser.isSet(options.encrypt);
@@ -181,7 +184,7 @@ QString emptyName(const QCommandLineParser &parser, const CommandLineOptions &op
     for (const QCommandLineOption *option :
          {&options.printer, &options.ppd, &options.output, &options.user, &options.passwordFile,
           &options.documentPasswordFile, &options.bundleRoot, &options.preset, &options.savePreset,
-          &options.saveInstance}) {
+          &options.saveInstance, &options.alsoOn}) {
         const QString name = option->names().constFirst();
         if (parser.isSet(*option) && parser.values(*option).contains(QString()))
             return Texts::tr("%1 \"\": %2 is missing.")
@@ -213,6 +216,9 @@ QString contradictionIn(const CommandLine &line)
         return Texts::tr("--save-preset prints nothing: no document can be named.");
     if (line.json && !line.noDialog)
         return onlyWithoutWindow(u"--format=json"_s);
+    if (!line.alsoOn.isEmpty() && line.instance.isEmpty())
+        return Texts::tr("--also-on: the name of the instance is missing, as in --save-instance "
+                         "reports.");
     if (!line.instance.isEmpty() && !line.documents.isEmpty() && !line.noDialog)
         return onlyWithoutWindow(u"--save-instance"_s);
     if (line.output != kStandardStream)
@@ -269,6 +275,7 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments, bool inputIsGiv
     const CommandLineOptions options;
     QCommandLineParser parser;
     parser.addOptions(options.all());
+    parser.addOption(options.followPreset);
     if (!parser.parse(arguments))
         return notUnderstood(parser.errorText());
     if (parser.isSet(options.help))

@@ -37,7 +37,9 @@ struct CommandLine
     bool yes = false;         ///< many sheets are meant
     bool noDialog = false;
     bool summary = false;
-    QString instance; ///< of --save-instance
+    QString instance;                     ///< of --save-instance
+    QStringList alsoOn;                   ///< of --also-on
+    std::optional<QString> followedModel; ///< see PrintRequest; the program asks itself for it
     bool checkDisplay = false;
     bool noWait = false;
     std::optional<int> wait; ///< of --wait, in seconds

@@ -98,6 +98,12 @@ public:
         tr("Without a window: keep the settings in lpoptions as an instance of the queue, so that "
            "lp -d QUEUE/NAME and other programs print with them."),
         QStringLiteral("NAME")};
+    QCommandLineOption alsoOn{QStringLiteral("also-on"),
+                              tr("With --save-instance: make such an instance of these queues as "
+                                 "well, with what each of them needs to print the same."),
+                              QStringLiteral("QUEUE[,QUEUE...]")};
+    /// For the program itself, which runs itself for the other queues of a preset.
+    QCommandLineOption followPreset{QStringLiteral("follow-preset"), {}, QStringLiteral("MODEL")};
     QCommandLineOption onAlert{
         QStringLiteral("on-alert"),
         tr("Without a window: what to do when the printer's settings show instructions: print, "
@@ -155,6 +161,7 @@ public:
                 noDialog,
                 summary,
                 saveInstance,
+                alsoOn,
                 onAlert,
                 wait,
                 noWait,

@@ -194,6 +194,10 @@ std::optional<PrintRequest> preparePrintRequest(const CommandLine &line, QString
     request.copiesWereNamed = line.copies.has_value();
     request.summary = line.summary;
     request.instance = line.instance;
+    request.alsoOn = line.alsoOn;
+    request.followedModel = line.followedModel;
+    if (!isUnattended(line))
+        request.program = QCoreApplication::applicationFilePath();
     request.policy = Policy::ofThisComputer();
     request.manySheetsAreMeant = line.yes;
     request.helpPage = dialogHelpPage();

@@ -335,6 +335,17 @@ QString PresetStore::renameLocked(const Preset &preset, const QString &name) con
                                  .arg(QDir::toNativeSeparators(path), former.errorString());
 }
 
+std::optional<QString> PresetStore::whileSame(const Preset &preset, const Along &along) const
+{
+    const Lock lock(m_places.own);
+    if (!lock.problem().isEmpty())
+        return lock.problem();
+    if (readPresetFile(fileOf(preset)).preset != preset)
+        return std::nullopt;
+    along();
+    return QString();
+}
+
 QString PresetStore::remove(const Preset &preset, const Along &along) const
 {
     const Lock lock(m_places.own);

@@ -90,6 +90,10 @@ public:
                  const Along &along = {}) const;
     /// Errors: why it was not renamed; then everything is as it was.
     QString rename(const Preset &preset, const QString &name, const Along &along = {}) const;
+    /// Does something with a preset of the user's own for as long as it stays what it is. Errors:
+    /// why it could not; null where the preset is another one by now, or is gone, and nothing was
+    /// done.
+    std::optional<QString> whileSame(const Preset &preset, const Along &along) const;
     /// Errors: why it was not removed.
     QString remove(const Preset &preset, const Along &along = {}) const;
 

@@ -275,11 +275,15 @@ InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
                            const JobSettings &settings, const KnownInstances &known,
                            const QString &preset)
 {
+    if (const QString problem = problemOfPrinter(printer, settings); !problem.isEmpty())
+        return {{}, {}, {}, problem};
+    return nameInstanceOn(queueOfInstance(printer.fetched.printer.name), name, known, preset);
+}
+
+InstanceDraft nameInstanceOn(const QString &queue, const QString &name, const KnownInstances &known,
+                             const QString &preset)
+{
     InstanceDraft draft;
-    draft.problem = problemOfPrinter(printer, settings);
-    if (!draft.problem.isEmpty())
-        return draft;
-    const QString queue = queueOfInstance(printer.fetched.printer.name);
     if (const QString plain = instanceNameOf(name); !plain.isEmpty())
         draft.name = queue + u'/' + plain;
     draft.problem = problemOfName(name, preset, queue, draft, known);

@@ -37,6 +37,10 @@ InstanceDraft nameInstance(const QString &name, const OpenedPrinter &printer,
                            const JobSettings &settings, const KnownInstances &known,
                            const QString &preset = {});
 
+/// The same for a queue of which nothing but its name is known.
+InstanceDraft nameInstanceOn(const QString &queue, const QString &name, const KnownInstances &known,
+                             const QString &preset = {});
+
 /// What a job says as it is set now, and an answer to whatever the instance would be given
 /// otherwise: by the queue, and by the user's line for the queue without an instance, which some
 /// programs add to it. No pages, copies and secrets are in it; a booklet, which only this program

@@ -4,6 +4,7 @@
 
 #include "dialog/job/PageChoice.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/OptionLocks.h"
 #include "dialog/session/OptionNames.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/ByHand.h"
@@ -102,6 +103,24 @@ QList<OptionChoice> takeOrderAlong(const QList<JobOption> &former, JobSettings &
     if (isNews)
         makeRoom(settings, printer);
     return choices;
+}
+
+QStringList problemsOfOrder(const JobSettings &settings, const PpdSession &session)
+{
+    QStringList problems = problemsOfOrder(settings.attributes());
+    if (problems.isEmpty())
+        return {};
+    const QStringList names =
+        QStringList{kBookletAttribute, kRepeatAttribute} + excludedByOrder(settings.attributes());
+    QStringList said;
+    for (const QString &name : names) {
+        const bool isNamed = said.contains(name) || settings.attribute(name).isNull();
+        if (isNamed || session.lockedBy(name).isNull())
+            continue;
+        said += name;
+        problems += lockedText(name, session);
+    }
+    return problems;
 }
 
 } // namespace corvana

@@ -19,4 +19,8 @@ struct OpenedPrinter;
 QList<OptionChoice> takeOrderAlong(const QList<JobOption> &former, JobSettings &settings,
                                    const OpenedPrinter &printer);
 
+/// What cannot be done together with the order of pages, for the user, and who has set that where
+/// it is an administrator.
+QStringList problemsOfOrder(const JobSettings &settings, const PpdSession &session);
+
 } // namespace corvana

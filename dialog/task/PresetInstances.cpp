@@ -19,36 +19,25 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(PresetInstances)
 };
 
-// Why a queue that is not open cannot have what was set on another one of its model, as far as is
+// Whether a queue that is not open can have what was set on another one of its model, as far as is
 // known here: its own options may not be installed, or its driver may be another one by now.
-QString problemOnQueue(const InstanceDraft &draft, const InstanceChanges &changes)
+bool isPossibleOnQueue(const InstanceDraft &draft, const InstanceChanges &changes)
 {
     const QString queue = queueOfInstance(draft.name);
     const std::optional<FetchedPrinter> found = PpdCache().find(changes.server, queue);
     QString error;
     const PpdFile ppd = found && found->ppd ? openPpdFile(found->ppd->path, &error) : PpdFile();
     if (!ppd)
-        return {};
+        return true;
     if (modelOf(ppd.get()) != changes.of.model)
-        return otherModelText();
+        return false;
     const int before = ppdConflicts(ppd.get());
     for (const JobOption &option : draft.options) {
         if (ppdOption(ppd.get(), option.name))
             ppdMarkOption(ppd.get(), option.name.toUtf8().constData(),
                           option.value.toUtf8().constData());
     }
-    return ppdConflicts(ppd.get()) > before
-               ? Texts::tr(
-                     "it keeps its former settings, as these are not possible together there.")
-               : QString();
-}
-
-// Why a draft cannot be written; empty where it can.
-QString problemOf(const InstanceDraft &draft, const InstanceChanges &changes)
-{
-    if (!draft.problem.isEmpty())
-        return draft.problem;
-    return changes.of.isOnOpenQueue(draft.name) ? QString() : problemOnQueue(draft, changes);
+    return ppdConflicts(ppd.get()) <= before;
 }
 
 QStringList removeInstances(const QStringList &instances)
@@ -98,12 +87,6 @@ QString changedMeanwhileText(const QString &preset)
         .arg(preset);
 }
 
-QString otherModelText()
-{
-    return Texts::tr("it keeps its former settings, as its printer is of another model. Save "
-                     "the preset on that printer, too.");
-}
-
 bool InstancePreset::isOnOpenQueue(const QString &instance) const
 {
     return !queue.isEmpty() && isSameQueue(queueOfInstance(instance), queue);
@@ -128,8 +111,12 @@ QStringList InstancePreset::among(const QMap<QString, OwnInstance> &instances) c
 
 void InstancesOutcome::add(const QString &instance, const QString &problem)
 {
-    problems += instance.isEmpty() ? problem
-                                   : Texts::tr("“%1” in other programs: %2").arg(instance, problem);
+    problems += instance.isEmpty() ? problem : problemWithInstance(instance, problem);
+}
+
+QString problemWithInstance(const QString &instance, const QString &problem)
+{
+    return Texts::tr("“%1” in other programs: %2").arg(instance, problem);
 }
 
 void changeInstances(const InstanceChanges &changes, InstancesOutcome *outcome)
@@ -143,13 +130,18 @@ void changeInstances(const InstanceChanges &changes, InstancesOutcome *outcome)
         return;
     }
     sayDamage(outcome);
+    outcome->others = changes.others;
     QList<InstanceDraft> drafts;
     QList<InstanceLine> lines;
     for (const InstanceDraft &draft : changes.drafts) {
-        if (const QString problem = problemOf(draft, changes); !problem.isEmpty()) {
-            outcome->add(draft.name, problem);
+        const bool isHere = changes.of.isOnOpenQueue(draft.name);
+        if (!draft.problem.isEmpty()) {
+            outcome->add(draft.name, draft.problem);
             continue;
         }
+        // What cannot be said from here is said where that queue is opened.
+        if (!isHere && !isPossibleOnQueue(draft, changes))
+            continue;
         drafts += draft;
         lines += {draft.name, draft.options};
     }

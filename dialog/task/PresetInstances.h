@@ -28,6 +28,9 @@ struct InstanceChanges
     InstancePreset of{};
     QList<InstanceDraft> drafts{}; ///< to be written, but those with a problem
     QStringList removed{};
+    /// On queues that are not open, by their whole names. What is a draft among them is there at
+    /// once, and also where their server is away; all are made anew where those queues are opened.
+    QStringList others{};
     QString server{};       ///< as printers are cached
     KnownInstances known{}; ///< what this was made of
 };
@@ -37,6 +40,7 @@ struct InstancesOutcome
 {
     QList<InstanceDraft> written{};
     QStringList problems{}; ///< a sentence each, for the user
+    QStringList others{};   ///< of the changes, once they are made
     /// What is known by now, where that is something else than what the changes were made of:
     /// nothing was done, and they have to be made anew.
     std::optional<KnownInstances> news{};
@@ -44,8 +48,8 @@ struct InstancesOutcome
     void add(const QString &instance, const QString &problem);
 };
 
-/// Why an instance of a preset for all printers is not written from a printer of another model.
-QString otherModelText();
+/// A problem with an instance, with its name.
+QString problemWithInstance(const QString &instance, const QString &problem);
 /// What is said of a preset's instances that are as they were, because its settings were changed
 /// while they were to be written.
 QString changedMeanwhileText(const QString &preset);

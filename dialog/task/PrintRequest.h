@@ -51,6 +51,14 @@ struct PrintRequest
     bool summary = false;
     /// The name under which the settings become an instance of the queue; empty: they do not.
     QString instance{};
+    /// Queues beside the printer that get such an instance of their own.
+    QStringList alsoOn{};
+    /// The instance is one of the preset that the job starts with, and follows it: the model of
+    /// printers that this is for; empty for one that is for all. Nothing: it is kept by itself.
+    std::optional<QString> followedModel{};
+    /// Run for queues that are not open, which get the instances of a preset; empty where whoever
+    /// has made the request does that.
+    QString program{};
     std::optional<AlertPolicy> onAlert; ///< nothing: as suits where the job goes
     bool noWait = false;
     /// How long a job that its queue has is followed at most; nothing: to its end.

@@ -13,6 +13,7 @@
 #include "dialog/session/TwoSided.h"
 #include "dialog/sheets/OrderOnSheet.h"
 #include "dialog/task/Collation.h"
+#include "dialog/task/OrderOfPages.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SavedAsPdf.h"
@@ -106,7 +107,8 @@ std::optional<TaskRefusal> PrintTask::finish()
         return TaskRefusal{{tr("Name the file to print to.")}, Place::Output};
     if (!m_settings.hasValidPageRanges())
         return TaskRefusal{{noPagesText(m_settings.pageRanges())}, Place::Pages};
-    if (const QStringList problems = problemsOfOrder(m_settings.attributes()); !problems.isEmpty())
+    if (const QStringList problems = problemsOfOrder(m_settings, *m_opened->session);
+        !problems.isEmpty())
         return TaskRefusal{problems};
     if (const QStringList problems =
             problemsOfByHand(m_settings.attributes(), *m_opened, printsToFile(), m_face.canAsk());

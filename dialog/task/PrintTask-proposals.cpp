@@ -122,7 +122,7 @@ QString PrintTask::setAttribute(const QString &name, const QString &value)
     const QList<OptionChoice> along = takeOrderAlong(before.attributes(), m_settings, *m_opened);
     // What is locked makes no room.
     const bool isOrder = name == kBookletAttribute || name == kRepeatAttribute;
-    if (const QStringList problems = problemsOfOrder(m_settings.attributes());
+    if (const QStringList problems = problemsOfOrder(m_settings, *m_opened->session);
         isOrder && !problems.isEmpty()) {
         m_settings = before;
         return problems.join(u'\n');

@@ -11,6 +11,7 @@
 #include "dialog/session/Summary.h"
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/Collation.h"
+#include "dialog/task/OrderOfPages.h"
 #include "dialog/task/PassedOn.h"
 #include "dialog/task/RefusalText.h"
 #include "dialog/task/SavedAsPdf.h"
@@ -170,7 +171,8 @@ void PrintTask::applyStartOptions()
     }
     m_chosen.ignored += policyProblems();
     // Whoever chooses an order of pages here has room made for it; these were asked for together.
-    m_chosen.unset += lockedCopies() + takeMostCopies() + problemsOfOrder(m_settings.attributes());
+    m_chosen.unset +=
+        lockedCopies() + takeMostCopies() + problemsOfOrder(m_settings, *m_opened->session);
     keepLocks();
 }
 

@@ -7,6 +7,8 @@
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
 #include "dialog/presets/PresetStore.h"
+#include "dialog/session/OptionNames.h"
+#include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintRequest.h"
@@ -23,6 +25,34 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(StartPresets)
 };
+
+// What of a last job's changes nobody could set on this printer as it is now.
+PresetContent impossibleOf(const PresetContent &changes, const OpenedPrinter &printer)
+{
+    const PpdSession &session = *printer.session;
+    const auto isLocked = [&](const QString &name) { return !session.lockedBy(name).isNull(); };
+    QSet<QString> entries;
+    const QList<PanelEntry> known = panelEntries(session, printer.jobValues);
+    for (const PanelEntry &entry : known)
+        entries += entry.key;
+    PresetContent impossible;
+    for (const auto &[name, value] : changes.options.asKeyValueRange()) {
+        ppd_option_t *option = ppdOption(session.ppd(), name);
+        const bool isThere =
+            option && (value.startsWith(kCustomPrefix) || ppdChoice(option, value));
+        if (!isThere || isLocked(name))
+            impossible.options.insert(name, value);
+    }
+    for (const auto &[key, value] : changes.entries.asKeyValueRange()) {
+        if (!entries.contains(key) || isLocked(key))
+            impossible.entries.insert(key, value);
+    }
+    for (const auto &[name, value] : changes.attributes.asKeyValueRange()) {
+        if (!offersAttribute(name, printer) || isLocked(name))
+            impossible.attributes.insert(name, value);
+    }
+    return impossible;
+}
 
 // What the user changed for the last job.
 void applyLastUsed(const PrintRequest &request, OpenedPrinter &printer, JobSettings &settings,
@@ -44,6 +74,7 @@ void applyLastUsed(const PrintRequest &request, OpenedPrinter &printer, JobSetti
     for (const QString &problem : missing)
         outcome->ignored += Texts::tr("Last job: %1").arg(problem);
     outcome->lastUsed = reading.changes;
+    outcome->impossible = impossibleOf(reading.changes, printer);
     outcome->kept = contentOf(printer, settings);
 }
 

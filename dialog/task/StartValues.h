@@ -45,7 +45,9 @@ struct StartOutcome
     PresetContent defaults{};
     /// What the user has kept from before: of the last job, or as a preset.
     PresetContent lastUsed{}; ///< changes of `defaults`; empty when there are none
-    PresetContent kept{};     ///< in force before any option was asked for
+    /// What of `lastUsed` this printer lacks now, or somebody has locked.
+    PresetContent impossible{};
+    PresetContent kept{}; ///< in force before any option was asked for
     /// The preset that was applied, as it is listed, with what the printer took of it.
     std::shared_ptr<const PresetOrigin> preset{};
     /// In force before any option was asked for, where some were.

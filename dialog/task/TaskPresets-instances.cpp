@@ -36,6 +36,11 @@ InstanceDraft TaskPresets::elsewhere(const QString &name) const
                         preset);
 }
 
+const Printer &TaskPresets::openPrinter() const
+{
+    return m_task.printer();
+}
+
 QString TaskPresets::selectedElsewhere() const
 {
     return m_kept.selected.kind == SelectedPreset::Kind::Preset ? instanceOf(m_kept.selected.name)
@@ -82,6 +87,8 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
     const QString &name = m_task.request().instance;
     if (name.isEmpty())
         return std::nullopt;
+    if (m_task.request().followedModel)
+        return followPreset();
     const bool isByItself = settings.isEmpty();
     const InstanceDraft made = draft(name, isByItself ? QString() : settings,
                                      KnownInstances::read(), isByItself && asksForDevice());
@@ -97,6 +104,69 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
     return std::nullopt;
 }
 
+// The instance of a preset that was kept on another queue, with what this one makes of it. The
+// preset that it was made of must still be there when it is written.
+std::optional<TaskRefusal> TaskPresets::followPreset()
+{
+    const PrintRequest &request = m_task.request();
+    const std::shared_ptr<const PresetOrigin> origin = m_kept.preset;
+    if (!origin || origin->stored.model != *request.followedModel)
+        return TaskRefusal{
+            {tr("The preset “%1” for this printer is another one.").arg(request.preset)}};
+    const Preset &preset = origin->stored;
+    const InstanceDraft made =
+        draft(request.instance, preset.name, KnownInstances::read(), preset.device);
+    if (!made.problem.isEmpty())
+        return TaskRefusal{{made.problem}};
+    QString problem;
+    const OwnInstance noted = instancePreset(preset.name, preset.model.isEmpty()).noted();
+    const std::optional<QString> done = PresetStore(request.presetPlaces).whileSame(preset, [&] {
+        problem = changeInstances({{made.name, made.options}}, noted).value(made.name);
+    });
+    m_isStale = !done;
+    if (!done)
+        return TaskRefusal{{changedMeanwhileText(preset.name)}};
+    if (problem.isEmpty())
+        problem = *done;
+    if (!problem.isEmpty())
+        return TaskRefusal{{problem}};
+    sayOfInstance(made);
+    return std::nullopt;
+}
+
+QList<OtherQueue> TaskPresets::otherQueues(const QString &name, bool forAll) const
+{
+    const QString preset = presetName(name);
+    const KnownInstances &known = m_shelf.instances();
+    const Printer &open = m_task.printer();
+    const InstancePreset of = instancePreset(preset, forAll);
+    const QStringList there = of.among(known.own);
+    QList<OtherQueue> others;
+    const QList<Printer> printers = m_task.printers().printers();
+    for (const Printer &printer : printers) {
+        const QString queue = queueOf(printer);
+        if (queue.isEmpty() || of.isOnOpenQueue(queue))
+            continue;
+        OtherQueue other{printer};
+        for (const QString &instance : there) {
+            if (isSameQueue(queueOfInstance(instance), queue))
+                other.instance = instance;
+        }
+        other.isThere = !other.instance.isEmpty();
+        const bool mayBeOfModel =
+            !open.makeAndModel.isEmpty() && printer.makeAndModel == open.makeAndModel;
+        if (!other.isThere && !forAll && !mayBeOfModel)
+            continue;
+        if (!other.isThere) {
+            const InstanceDraft named = nameInstanceOn(queue, preset, known, preset);
+            other.instance = named.name;
+            other.problem = named.problem;
+        }
+        others += other;
+    }
+    return others;
+}
+
 // Whoever keeps a preset under the name of an earlier one means its instance, too, which may be
 // called by a name that the preset had before.
 QString TaskPresets::nameElsewhere(const QString &preset, const KnownInstances &known) const
@@ -108,6 +178,41 @@ QString TaskPresets::nameElsewhere(const QString &preset, const KnownInstances &
 InstancePreset TaskPresets::instancePreset(const QString &name, bool isForAll) const
 {
     return {name, modelName(), isForAll, queueOf(m_task.printer())};
+}
+
+// Of the queues that somebody names now, those that have it already follow unasked.
+QStringList TaskPresets::newOthers(const PresetToSave &wanted, const InstanceChanges &changes) const
+{
+    QStringList others;
+    for (const QString &instance : wanted.alsoOn) {
+        const QString queue = queueOfInstance(instance);
+        const bool follows =
+            std::any_of(changes.others.cbegin(), changes.others.cend(), [&](const QString &other) {
+                return isSameQueue(queueOfInstance(other), queue);
+            });
+        if (!follows && !changes.of.isOnOpenQueue(instance))
+            others += instance;
+    }
+    others.removeDuplicates();
+    return others;
+}
+
+void TaskPresets::saveOthers(const Saving &saving, const QStringList &instances)
+{
+    m_others.clear();
+    for (const QString &instance : instances)
+        m_others += {instance, saving.preset.preset.name, saving.preset.preset.model};
+    if (!m_others.isEmpty() && !m_task.request().program.isEmpty())
+        m_otherQueues.write(m_others, m_task.request());
+}
+
+void TaskPresets::othersEnded(const QStringList &problems, const QStringList &remarks)
+{
+    if (const QStringList all = problems + remarks; !all.isEmpty())
+        m_task.say(problems.isEmpty() ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem,
+                   all.join(u'\n'));
+    m_shelf.look();
+    Q_EMIT endedElsewhere();
 }
 
 // A preset that is kept brings all of its instances along, whoever asked for them when they were
@@ -131,14 +236,16 @@ InstanceChanges TaskPresets::changesElsewhere(const PresetToSave &wanted,
             isHere = isHere || !wanted.nowhereElse;
             continue;
         }
-        InstanceDraft other{instance};
+        if (wanted.notOn.contains(instance)) {
+            changes.removed += instance;
+            continue;
+        }
+        changes.others += instance;
         if (known.own.value(instance).model == changes.of.model)
-            other =
+            changes.drafts +=
                 draftForOther(instance, *m_task.opened(), m_task.settings(), known, wanted.device);
-        else
-            other.problem = otherModelText();
-        changes.drafts += other;
     }
+    changes.others += newOthers(wanted, changes);
     if (isHere)
         changes.drafts.prepend(draft(nameElsewhere(name, known), name, known, wanted.device));
     return changes;

@@ -8,6 +8,7 @@
 #include "dialog/job/PageChoice.h"
 #include "dialog/policy/Policy.h"
 #include "dialog/presets/LastUsed.h"
+#include "dialog/task/OrderOfPages.h"
 #include "dialog/task/PresetApplication.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartPresets.h"
@@ -37,6 +38,7 @@ TaskPresets::TaskPresets(PrintTask &task) : m_task(task)
 {
     connect(&m_shelf, &PresetShelf::changed, this, &TaskPresets::listed);
     connect(&m_shelf, &PresetShelf::ended, this, &TaskPresets::changeEnded);
+    connect(&m_otherQueues, &OtherQueues::ended, this, &TaskPresets::othersEnded);
 }
 
 QString TaskPresets::selectedName() const
@@ -93,6 +95,7 @@ void TaskPresets::start(const StartOutcome &started)
     m_kept = {{},
               started.defaults,
               started.lastUsed,
+              started.impossible,
               started.kept,
               contentOf(*m_task.opened(), m_task.settings(),
                         started.preset && started.preset->stored.device),
@@ -160,7 +163,7 @@ void TaskPresets::apply(const PresetContent &content, const QStringList &chosen,
         if (!ofInstance.isEmpty())
             outcome.missing += takeInstance(ofInstance);
         // Printed together they would be refused.
-        outcome.missing += problemsOfOrder(m_task.settings().attributes());
+        outcome.missing += problemsOfOrder(m_task.settings(), *m_task.opened()->session);
     }
     if (m_task.phase() != Phase::Ready)
         return; // interrupted, while an alert of a panel was waiting for its answer
@@ -351,6 +354,8 @@ void TaskPresets::changeEnded(PresetShelf::Change change, const QString &name,
                    tr("%1 Your settings are as they were.").arg(problem));
     Q_EMIT changed();
     sayOfInstances(*pending.outcome);
+    if (problem.isEmpty() && pending.saving)
+        saveOthers(*pending.saving, pending.outcome->others);
     Q_EMIT ended(problem);
 }
 
@@ -367,11 +372,10 @@ bool TaskPresets::mayRememberLastUsed() const
 void TaskPresets::setRemembersLastUsed(bool remembers)
 {
     m_task.m_request.remembersLastUsed = remembers;
-    const QString problem = corvana::setRemembersLastUsed(remembers);
-    if (!problem.isEmpty())
+    if (const QString problem = corvana::setRemembersLastUsed(remembers); !problem.isEmpty())
         m_task.say(TaskMessage::Kind::Problem, problem);
     if (!remembers)
-        m_kept.lastUsed = {};
+        m_kept.lastUsed = m_kept.impossible = {};
     Q_EMIT changed();
 }
 
@@ -388,7 +392,8 @@ void TaskPresets::jobEnded(const JobOutcome &outcome)
     if (!isTaken || !m_task.opened() || !m_task.m_chosen.canBeAnother || !remembersLastUsed())
         return;
     const PresetContent wished = withoutRequest(m_ofJob, m_kept.before, m_kept.started);
-    m_kept.lastUsed = withoutWishesForOneJob(changesIn(wished, m_kept.defaults));
+    const PresetContent set = withoutWishesForOneJob(changesIn(wished, m_kept.defaults));
+    m_kept.lastUsed = withChanges(m_kept.impossible, set);
     m_shelf.keepLastJob(m_task.printer(), m_task.request().server.text(), m_kept.lastUsed);
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include "dialog/presets/PresetShelf.h"
+#include "dialog/task/OtherQueues.h"
 #include "dialog/task/PresetInstances.h"
 #include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
@@ -48,8 +49,10 @@ struct KeptSettings
     SelectedPreset selected{};
     PresetContent defaults{}; ///< where a job on this printer starts for everybody
     PresetContent lastUsed{}; ///< changes of that
-    PresetContent before{};   ///< in force before any option was asked for
-    PresetContent started{};  ///< in force before the user changed anything
+    /// What of that could not be set when the printer was opened; it is the user's all the same.
+    PresetContent impossible{};
+    PresetContent before{};  ///< in force before any option was asked for
+    PresetContent started{}; ///< in force before the user changed anything
     /// The preset that a job started with; the base has the one that is selected.
     std::shared_ptr<const PresetOrigin> preset{};
 };
@@ -65,6 +68,10 @@ struct PresetToSave
     bool elsewhere = false;
     /// An instance that was made of it goes.
     bool nowhereElse = false;
+    /// The same on queues that are not open, by the whole names of the instances. Those that there
+    /// are follow unasked.
+    QStringList alsoOn{};
+    QStringList notOn{};
     /// The preset that is selected; one that was kept elsewhere since then stays.
     bool updates = false;
 };
@@ -97,6 +104,8 @@ public:
     /// The options that set up the device, by their texts; empty where this printer has none.
     QString deviceSettings() const;
 
+    const Printer &openPrinter() const;
+
     // In other programs (TaskPresets-instances.cpp), as lpoptions had it when it was looked at
 
     /// What a preset of this name would be called by other programs; with a problem where they
@@ -110,6 +119,14 @@ public:
     /// Writes the instance that the request names, for somebody who waits for nothing else; nothing
     /// where it names none. `settings`: the preset that it is of; empty for none.
     std::optional<TaskRefusal> saveInstance(const QString &settings = {});
+    /// Those of other queues that a preset of this name could be an instance on, or is one on:
+    /// printers of the model that is open, or of all models, as far as anybody has named theirs.
+    QList<OtherQueue> otherQueues(const QString &name, bool forAll) const;
+    /// What the preset that was kept last has to be written to where those queues are open, for
+    /// somebody who does that himself.
+    const QList<OtherInstance> &others() const { return m_others; }
+    /// saveInstance() has found the preset changed since it was applied, and has written nothing.
+    bool isStale() const { return m_isStale; }
     /// Why instances did not follow the preset that was kept, renamed or removed last.
     const QStringList &problemsElsewhere() const { return m_problemsElsewhere; }
     /// The instances of the queue that is open which others have made, by their whole names.
@@ -162,6 +179,8 @@ Q_SIGNALS:
     void changed();
     /// `problem`: why a preset was not kept, renamed or removed; empty when it was.
     void ended(const QString &problem);
+    /// The instances on queues that are not open are written, too, or not; that was said.
+    void endedElsewhere();
 
 private:
     struct Saving
@@ -192,6 +211,10 @@ private:
                         bool withDevice) const;
     bool asksForDevice() const;
     QString nameElsewhere(const QString &preset, const KnownInstances &known) const;
+    std::optional<TaskRefusal> followPreset();
+    QStringList newOthers(const PresetToSave &wanted, const InstanceChanges &changes) const;
+    void saveOthers(const Saving &saving, const QStringList &instances);
+    void othersEnded(const QStringList &problems, const QStringList &remarks);
     InstancePreset instancePreset(const QString &name, bool isForAll) const;
     std::shared_ptr<InstancesOutcome> pend(const std::optional<Saving> &saving = {});
     InstanceChanges changesElsewhere(const PresetToSave &wanted, const KnownInstances &known) const;
@@ -210,6 +233,9 @@ private:
     std::deque<Pending> m_pending; // in the order in which it is done
     QStringList m_problemsElsewhere;
     QStringList m_told; // files that were spoken of
+    QList<OtherInstance> m_others;
+    OtherQueues m_otherQueues;
+    bool m_isStale = false;
 };
 
 } // namespace corvana

@@ -1,21 +1,24 @@
 #include "dialog/terminal/UnattendedRun.h"
 
+#include <algorithm>
 #include <csignal>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTextStream>
 #include <QTimer>
 
 #include "dialog/presets/Preset.h"
+#include "dialog/printers/PrinterId.h"
 #include "dialog/printers/UserQueues.h"
+#include "dialog/task/OtherQueues.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/TaskPresets.h"
 #include "dialog/terminal/ExitStatus.h"
 #include "dialog/terminal/OutcomeLine.h"
+#include "dialog/terminal/RunTexts.h"
 #include "dialog/terminal/TerminalFace.h"
 #include "dialog/terminal/TerminationSignals.h"
 #include "platform/foundation/ForeignText.h"
@@ -30,6 +33,8 @@ using Phase = PrintTask::Phase;
 
 // Of a result on its way to standard output. Units: bytes.
 constexpr qint64 kBlock = 65536;
+// Of bringing a preset to a queue while it is kept anew all the time.
+constexpr int kMostAttempts = 10;
 
 struct Texts
 {
@@ -39,48 +44,6 @@ struct Texts
 void sayProblem(const QString &problem)
 {
     QTextStream(stderr) << "corvana-print: " << terminalText(problem) << "\n";
-}
-
-// A name as a shell takes it: queues may be called almost anything.
-QString shellWord(QString text)
-{
-    static const QRegularExpression plain(
-        QRegularExpression::anchoredPattern(u"[A-Za-z0-9_.:/-]+"_s));
-    if (plain.match(text).hasMatch())
-        return text;
-    return u'\'' + text.replace(u'\'', u"'\\''"_s) + u'\'';
-}
-
-// How a held job is let go, for whoever follows its instructions.
-QString releaseCommand(const PrintRequest &request, const Printer &printer, int job)
-{
-    const QString server =
-        request.serverWasNamed ? u"-h %1 "_s.arg(shellWord(request.server.argument())) : QString();
-    const QString name = jobName(printer, job);
-    return u"lp %1-i %2 -H resume"_s.arg(server, shellWord(name));
-}
-
-// A window shows beside a problem which printer it is about.
-QString withName(const QString &problem, const Printer &printer)
-{
-    return printer.origin == PrinterOrigin::File || problem.contains(printer.name)
-               ? problem
-               : Texts::tr("%1 So the printer “%2” could not be asked for.")
-                     .arg(problem, printer.name);
-}
-
-// For somebody who has mistyped the name of a printer that needs no server.
-QString withOtherPrinters(const QString &problem, const PrintRequest &request)
-{
-    QStringList names;
-    // What is wrong with one of them is not that it was mistyped.
-    if (wantedAmongFiles(request) < 0) {
-        for (const Printer &printer : request.printers)
-            names += printer.name;
-    }
-    return names.isEmpty() ? problem
-                           : Texts::tr("%1 Printers that need no print server: %2.")
-                                 .arg(problem, names.join(u", "_s));
 }
 
 // A complete file. Answers why it could not be written; empty when it was.
@@ -104,12 +67,31 @@ QString writeToStandardOutput(const QString &path)
     return {};
 }
 
+// By which name the instance is known that is made of another queue as well.
+QString instanceOn(const QString &queue, const PrintRequest &request)
+{
+    return queue + u'/' + instanceNameOf(request.instance);
+}
+
+// Settings that are kept as instances of several queues, and nowhere else.
+PrintRequest requestForSame(const QString &queue, PrintRequest request)
+{
+    request.documents.clear();
+    request.alsoOn.clear();
+    request.summary = false;
+    request.wantedPrinter = queue;
+    return request;
+}
+
 // One task, followed from its start to its end on standard output and standard error.
 class Run
 {
 public:
-    explicit Run(const PrintRequest &request)
-        : m_face(request.onAlert, m_termination, forPeople(request)), m_task(request, m_face)
+    enum class For { Itself, OtherQueue };
+
+    explicit Run(const PrintRequest &request, For whom = For::Itself)
+        : m_isForOther(whom == For::OtherQueue || request.followedModel),
+          m_face(request.onAlert, m_termination, forPeople(request)), m_task(request, m_face)
     {
         m_face.setTask(&m_task);
         m_patience.setSingleShot(true);
@@ -119,9 +101,9 @@ public:
         QObject::connect(&m_task, &PrintTask::phaseChanged, &m_loop,
                          [this](Phase phase) { phaseChanged(phase); });
         QObject::connect(&m_task, &PrintTask::ignored, &m_loop,
-                         [](const QString &problem) { sayProblem(problem); });
+                         [this](const QString &problem) { say(problem); });
         QObject::connect(&m_task, &PrintTask::noted, &m_loop,
-                         [](const QString &what) { sayProblem(what); });
+                         [this](const QString &what) { note(what); });
         QObject::connect(&m_task, &PrintTask::refused, &m_loop,
                          [this](const TaskRefusal &refusal) { end(refusal.problems); });
         QObject::connect(&m_task, &PrintTask::progressed, &m_loop,
@@ -132,8 +114,10 @@ public:
                          [this](const JobOutcome &outcome) { jobEnded(outcome); });
     }
 
-    int exec()
+    /// `mayTryAgain`: what isStale() says is not said to anybody.
+    int exec(bool mayTryAgain = false)
     {
+        m_mayTryAgain = mayTryAgain;
         if (m_termination.caught())
             end({Texts::tr("Interrupted.")});
         else
@@ -143,7 +127,44 @@ public:
         return m_status != 0 && m_termination.caught() ? m_termination.exitStatus() : m_status;
     }
 
+    /// The preset that was read was changed before its instance was written.
+    bool isStale() const { return m_task.presets().isStale(); }
+    /// What is to be done for other queues, each in a run of its own.
+    QList<PrintRequest> others() const
+    {
+        const PrintRequest &request = m_task.request();
+        QList<PrintRequest> others;
+        const QList<OtherInstance> &ofPreset = m_task.presets().others();
+        for (const OtherInstance &instance : ofPreset)
+            others += requestForOther(instance, request);
+        if (!request.presetToSave.isEmpty() || m_termination.caught())
+            return others;
+        for (const QString &queue : request.alsoOn) {
+            if (!isSameQueue(queue, queueOfInstance(m_task.printer().name)))
+                others += requestForSame(queue, request);
+        }
+        return others;
+    }
+
 private:
+    // What is wrong with one of several queues says with which.
+    void say(const QString &problem)
+    {
+        sayProblem(m_isForOther
+                       ? problemWithInstance(
+                             instanceOn(m_task.request().wantedPrinter, m_task.request()), problem)
+                       : problem);
+    }
+
+    // Whoever has run the program for other queues reads on standard error what is wrong.
+    void note(const QString &what)
+    {
+        if (!m_task.request().followedModel)
+            sayProblem(what);
+        else if (!m_task.request().quiet)
+            QTextStream(stdout) << terminalText(what) << "\n";
+    }
+
     void phaseChanged(Phase phase)
     {
         if (phase == Phase::Opened) {
@@ -167,7 +188,15 @@ private:
         if (name.isEmpty())
             m_task.print();
         else
-            m_task.presets().save({name, false, false, true});
+            m_task.presets().save({.name = name, .replaces = true, .alsoOn = namedInstances()});
+    }
+
+    QStringList namedInstances() const
+    {
+        QStringList names;
+        for (const QString &queue : m_task.request().alsoOn)
+            names += instanceOn(queue, m_task.request());
+        return names;
     }
 
     void presetEnded(const QString &problem)
@@ -259,8 +288,12 @@ private:
 
     void end(const QStringList &problems)
     {
+        if (m_isForOther && m_task.presets().isStale() && m_mayTryAgain)
+            return end(ExitStatus::Failed);
         for (const QString &problem : problems)
-            sayProblem(problem);
+            say(problem);
+        if (m_isForOther)
+            return end(ExitStatus::Failed);
         QTextStream(stderr) << (m_task.request().presetToSave.isEmpty()
                                     ? Texts::tr("Nothing was printed.")
                                     : Texts::tr("No preset was kept."))
@@ -279,6 +312,7 @@ private:
         m_loop.quit();
     }
 
+    const bool m_isForOther; // a queue that was named beside the printer
     const TerminationSignals m_termination;
     TerminalFace m_face;
     PrintTask m_task;
@@ -286,14 +320,41 @@ private:
     JobProgress::Stage m_stage = JobProgress::Stage::Sending;
     QTimer m_patience; // of --wait, once the queue has the job
     bool m_waitIsOver = false;
+    bool m_mayTryAgain = false;
     int m_status = -1; // until it is known
 };
+
+// Another program may keep the preset while it is brought to a queue: the last one counts.
+int runForOther(const PrintRequest &request)
+{
+    for (int attempt = 1;; ++attempt) {
+        Run run(request, Run::For::OtherQueue);
+        const int status = run.exec(attempt < kMostAttempts);
+        if (!run.isStale() || attempt == kMostAttempts)
+            return status;
+    }
+}
 
 } // namespace
 
 int runUnattended(const PrintRequest &request)
 {
-    return Run(request).exec();
+    if (request.followedModel)
+        return runForOther(request);
+    int status = 0;
+    QList<PrintRequest> others;
+    {
+        Run run(request);
+        status = run.exec();
+        others = run.others();
+    }
+    for (const PrintRequest &other : std::as_const(others)) {
+        const int ofOther = runForOther(other);
+        if (ofOther > int(ExitStatus::Failed))
+            return ofOther; // interrupted
+        status = std::max(status, ofOther);
+    }
+    return status;
 }
 
 } // namespace corvana

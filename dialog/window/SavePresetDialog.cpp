@@ -15,6 +15,13 @@ namespace corvana {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Of instances: more of them would fill the dialog.
+constexpr qsizetype kMostNames = 4;
+
+} // namespace
+
 SavePresetDialog::SavePresetDialog(const TaskPresets &presets, bool rename, QWidget *parent)
     : QDialog(parent), m_presets(presets), m_renames(rename), m_name(new QLineEdit(this))
 {
@@ -65,7 +72,14 @@ void SavePresetDialog::addRange()
     m_elsewhere->setObjectName(u"presetElsewhere"_s);
     m_elsewhere->setChecked(!m_presets.selectedElsewhere().isEmpty());
     connect(m_elsewhere, &QCheckBox::toggled, this, &SavePresetDialog::check);
-    box->addWidget(m_elsewhere);
+    m_more = new QPushButton(tr("More &Printers…"), this);
+    m_more->setObjectName(u"presetPrinters"_s);
+    m_more->setAutoDefault(false);
+    connect(m_more, &QPushButton::clicked, this, &SavePresetDialog::askForPrinters);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_elsewhere, 1);
+    row->addWidget(m_more);
+    box->addLayout(row);
     const QString device = m_presets.deviceSettings();
     if (device.isEmpty())
         return;
@@ -84,7 +98,42 @@ PresetToSave SavePresetDialog::preset() const
     // The tick was there when the dialog opened, where the preset that is selected has an instance.
     wanted.nowhereElse =
         m_elsewhere && !wanted.elsewhere && wanted.name == m_presets.selected().name;
+    const QList<OtherQueue> others = otherQueues();
+    for (const OtherQueue &other : others) {
+        if (other.problem.isEmpty() && isTicked(other) != other.isThere)
+            (other.isThere ? wanted.notOn : wanted.alsoOn) += other.instance;
+    }
     return wanted;
+}
+
+QList<OtherQueue> SavePresetDialog::otherQueues() const
+{
+    return m_renames ? QList<OtherQueue>()
+                     : m_presets.otherQueues(presetName(m_name->text()),
+                                             m_forAll && m_forAll->isChecked());
+}
+
+bool SavePresetDialog::isTicked(const OtherQueue &queue) const
+{
+    return m_picks.value(queue.printer.name, queue.isThere);
+}
+
+void SavePresetDialog::askForPrinters()
+{
+    OtherQueue open{m_presets.openPrinter()};
+    const InstanceDraft draft = m_presets.elsewhere(presetName(m_name->text()));
+    open.instance = draft.name;
+    open.problem = draft.problem;
+    InstancePrinters::Picks picks = m_picks;
+    picks.insert(open.printer.name, m_elsewhere->isChecked());
+    auto *dialog = new InstancePrinters(QList{open} + otherQueues(), picks, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, name = open.printer.name] {
+        m_picks = dialog->picks();
+        m_elsewhere->setChecked(m_picks.take(name));
+        check();
+    });
+    dialog->open();
 }
 
 // By which name other programs will have it, or why they cannot.
@@ -92,21 +141,35 @@ QString SavePresetDialog::remarkOnInstance()
 {
     if (!m_elsewhere || m_name->text().isEmpty())
         return {};
-    if (!m_elsewhere->isChecked()) {
+    const PresetToSave wanted = preset();
+    QString here;
+    if (m_elsewhere->isChecked()) {
+        const InstanceDraft draft = m_presets.elsewhere(wanted.name);
+        if (!draft.problem.isEmpty())
+            return draft.problem;
+        here = draft.name;
+    } else if (!wanted.nowhereElse) {
         // One that the preset of this name has follows it, but for the tick that was taken away.
-        const PresetToSave wanted = preset();
-        const QString instance = wanted.nowhereElse ? QString() : m_presets.instanceOf(wanted.name);
-        return instance.isEmpty() ? QString() : tr("Other programs list it as “%1”.").arg(instance);
+        here = m_presets.instanceOf(wanted.name);
     }
-    const InstanceDraft draft = m_presets.elsewhere(preset().name);
-    return draft.problem.isEmpty() ? tr("Other programs list it as “%1”.").arg(draft.name)
-                                   : draft.problem;
+    QStringList instances = here.isEmpty() ? QStringList() : QStringList{here};
+    const QList<OtherQueue> others = otherQueues();
+    for (const OtherQueue &other : others) {
+        if (other.problem.isEmpty() && isTicked(other))
+            instances += other.instance;
+    }
+    if (instances.size() > kMostNames)
+        instances = instances.mid(0, kMostNames) + QStringList{u"…"_s};
+    return instances.isEmpty() ? QString()
+                               : tr("Other programs list it as “%1”.").arg(instances.join(u", "_s));
 }
 
 // Says what pressing the button will do, before it is pressed.
 void SavePresetDialog::check()
 {
     const PresetToSave wanted = preset();
+    if (m_more)
+        m_more->setVisible(!otherQueues().isEmpty());
     const bool isSame = m_renames && wanted.name == m_presets.selected().name;
     const std::optional<StoredPreset> there = m_presets.listing().find(wanted.name);
     m_replaces = there && there->isOwn && there->preset.model.isEmpty() == wanted.forAllPrinters;

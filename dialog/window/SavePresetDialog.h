@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include "dialog/task/TaskPresets.h"
+#include "dialog/window/InstancePrinters.h"
 
 class QCheckBox;
 class QLabel;
@@ -33,6 +34,9 @@ private:
     void addRange();
     void check();
     QString remarkOnInstance();
+    QList<OtherQueue> otherQueues() const;
+    bool isTicked(const OtherQueue &queue) const;
+    void askForPrinters();
 
     const TaskPresets &m_presets;
     const bool m_renames;
@@ -41,6 +45,8 @@ private:
     QRadioButton *m_forAll = nullptr;
     QCheckBox *m_device = nullptr;
     QCheckBox *m_elsewhere = nullptr;
+    QPushButton *m_more = nullptr;
+    InstancePrinters::Picks m_picks; // of queues that are not open, as far as somebody has picked
     QLabel *m_remark = nullptr;
     QPushButton *m_save = nullptr;
     bool m_replaces = false; // as the button says

@@ -170,13 +170,14 @@ _corvana_print() {
         return
         ;;
     # What only the user knows.
-    -n | --copies | -t | --title | -P | -q | --wait | --password-fd | --save-instance) return ;;
+    -n | --copies | -t | --title | -P | -q | --wait | --password-fd | --save-instance | \
+        --also-on) return ;;
     esac
 
     if [[ $current == -* ]]; then
         _corvana_print_words -d --printer -h --server -E -U --password-file --password-fd \
             --document-password-file --ppd --demo --list-printers \
-            --preset --list-presets --save-preset --save-instance --check-policy --yes \
+            --preset --list-presets --save-preset --save-instance --also-on --check-policy --yes \
             -o --option -n --copies -P -q -H -t --title --output \
             --no-dialog --summary --on-alert --wait --no-wait --format -s -c -m --bundle-root \
             --check-display --help --version

@@ -66,6 +66,7 @@ complete -c corvana-print -l preset -x -a '(__corvana_print_presets)' -d 'Start 
 complete -c corvana-print -l list-presets -d 'List the presets and exit'
 complete -c corvana-print -l save-preset -x -a '(__corvana_print_presets)' -d 'Keep the settings as this preset, and exit'
 complete -c corvana-print -l save-instance -x -d 'Keep the settings as QUEUE/NAME for other programs'
+complete -c corvana-print -l also-on -x -d 'With --save-instance, make it of these queues as well'
 complete -c corvana-print -l check-policy -d 'Say what the policy decides'
 complete -c corvana-print -l yes -d 'Print a job of many sheets without being asked'
 complete -c corvana-print -s o -l option -x -a '(__corvana_print_options)' -d 'Set an option of the printer or of the job'

@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>Zeigt die Version.</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>Mit --save-instance: Legt eine solche Instanz auch für diese Warteschlangen an, jeweils mit dem, was dort für denselben Druck nötig ist.</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on: Der Name der Instanz fehlt, wie in --save-instance reports.</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4498,14 +4506,6 @@ Für die Befehlszeile: %2</translation>
         <translation>„%1“ wurde von einem anderen Programm geändert und bleibt von nun an, wie es ist.</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>Dort bleiben die bisherigen Einstellungen, weil der Drucker ein anderes Modell ist. Speichern Sie die Voreinstellung auch auf jenem Drucker.</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>Dort bleiben die bisherigen Einstellungen, weil diese dort nicht zusammen möglich sind.</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Während „%1“ gespeichert wurde, wurden Einstellungen geändert: In anderen Programmen ist es, wie es vorher war. Speichern Sie es noch einmal.</translation>
     </message>
@@ -4522,6 +4522,50 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>beidseitige Kopien werden auf diesem Drucker immer sortiert</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>Die Warteschlange konnte nicht rechtzeitig gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>Die Voreinstellung „%1“ für diesen Drucker ist eine andere.</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Weitere Drucker</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Andere Programme haben die Voreinstellung auf den angekreuzten &amp;Druckern:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Andere Programme führen es als „%1“ auf.</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Weitere &amp;Drucker …</translation>
     </message>
 </context>
 </TS>

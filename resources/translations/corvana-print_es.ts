@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>Muestra la versión.</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>Con --save-instance: crea también una instancia así de estas colas, con lo que cada una necesita para imprimir lo mismo.</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on: falta el nombre de la instancia, como en --save-instance reports.</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4498,14 +4506,6 @@ En la línea de órdenes: %2</translation>
         <translation>Otro programa ha cambiado «%1», que a partir de ahora se deja como está.</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>conserva los ajustes anteriores, porque su impresora es de otro modelo. Guarde el preajuste también en esa impresora.</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>conserva los ajustes anteriores, porque estos no son posibles juntos allí.</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Se han cambiado ajustes mientras se guardaba «%1»: los otros programas lo tienen como estaba antes. Guárdelo otra vez.</translation>
     </message>
@@ -4522,6 +4522,50 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>las copias a doble cara siempre se intercalan en esta impresora</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>No se pudo leer la cola a tiempo.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>El preajuste «%1» para esta impresora es otro.</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Más impresoras</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Otros programas tienen el preajuste en las &amp;impresoras marcadas:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Otros programas lo muestran como «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Más &amp;impresoras…</translation>
     </message>
 </context>
 </TS>

@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>Afficher la version.</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>Avec --save-instance : créer une telle instance de ces files d’attente aussi, avec ce dont chacune a besoin pour imprimer de même.</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on : le nom de l’instance manque, comme dans --save-instance reports.</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4498,14 +4506,6 @@ Pour la ligne de commande : %2</translation>
         <translation>« %1 » a été modifié par un autre programme et reste désormais tel quel.</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>les réglages précédents y restent, car l’imprimante est d’un autre modèle. Enregistrez le préréglage sur cette imprimante également.</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>les réglages précédents y restent, car ceux-ci n’y sont pas possibles ensemble.</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Des réglages ont été modifiés pendant l’enregistrement de « %1 » : les autres programmes l’ont tel qu’il était avant. Enregistrez-le à nouveau.</translation>
     </message>
@@ -4522,6 +4522,50 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>les copies recto verso sont toujours assemblées sur cette imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>La file d’attente n’a pas pu être lue à temps.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>Le préréglage « %1 » pour cette imprimante en est un autre.</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Autres imprimantes</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Les autres programmes ont le préréglage sur les &amp;imprimantes cochées :</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Les autres programmes l’affichent comme « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Autres &amp;imprimantes…</translation>
     </message>
 </context>
 </TS>

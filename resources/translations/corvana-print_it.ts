@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>Mostra la versione.</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>Con --save-instance: crea un’istanza simile anche di queste code, con ciò che serve a ciascuna per stampare allo stesso modo.</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on: manca il nome dell’istanza, come in --save-instance reports.</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4498,14 +4506,6 @@ Per la riga di comando: %2</translation>
         <translation>«%1» è stato modificato da un altro programma e d&apos;ora in poi resta com&apos;è.</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>restano le impostazioni precedenti, perché la stampante è di un altro modello. Salvare la preimpostazione anche su quella stampante.</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>restano le impostazioni precedenti, perché lì queste non sono possibili insieme.</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Alcune impostazioni sono state modificate durante il salvataggio di «%1»: negli altri programmi è rimasta com’era prima. Salvarla di nuovo.</translation>
     </message>
@@ -4522,6 +4522,50 @@ Per la riga di comando: %2</translation>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>le copie fronte-retro vengono sempre fascicolate su questa stampante</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>Non è stato possibile leggere la coda in tempo.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>La preimpostazione «%1» per questa stampante è un’altra.</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Altre stampanti</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Gli altri programmi hanno la preimpostazione sulle &amp;stampanti selezionate:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Gli altri programmi la elencano come «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Altre &amp;stampanti…</translation>
     </message>
 </context>
 </TS>

@@ -262,6 +262,14 @@
         <source>Show the version.</source>
         <translation>バージョンを表示します。</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>--save-instance と合わせて: これらのキューにも同じようなインスタンスを作ります。同じように印刷するためにそれぞれのキューに必要なものが含まれます。</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on: --save-instance reports のような、インスタンスの名前がありません。</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4496,14 +4504,6 @@ For the command line: %2</source>
         <translation>「%1」はほかのプログラムが変更したため、今後はそのまま残します。</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>プリンターの機種が異なるため、以前の設定のままです。そのプリンターでもプリセットを保存してください。</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>この設定の組み合わせはそこでは使えないため、以前の設定のままです。</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>「%1」の保存中に設定が変更されました。ほかのプログラムでは以前のままです。もう一度保存してください。</translation>
     </message>
@@ -4520,6 +4520,50 @@ For the command line: %2</source>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>このプリンターでは両面印刷の部数は常に部単位で印刷されます</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>キューを時間内に読み取れませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>このプリンター用のプリセット「%1」は別のものです。</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>ほかのプリンター</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>チェックを付けたプリンターで、ほかのプログラムがこのプリセットを使えます(&amp;P):</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>ほかのプログラムでは「%1」と表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>ほかのプリンター(&amp;P)…</translation>
     </message>
 </context>
 </TS>

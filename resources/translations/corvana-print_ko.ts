@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>버전을 표시합니다.</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>--save-instance와 함께: 이 대기열들에도 그러한 인스턴스를 만들며, 똑같이 인쇄하는 데 각 대기열에 필요한 것을 담습니다.</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on: --save-instance reports와 같은 인스턴스의 이름이 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4496,14 +4504,6 @@ For the command line: %2</source>
         <translation>‘%1’을(를) 다른 프로그램에서 변경했으므로 이제부터 그대로 둡니다.</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>프린터 모델이 달라 이전 설정이 그대로 유지됩니다. 그 프린터에서도 사전 설정을 저장하십시오.</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>이 설정들은 그곳에서 함께 사용할 수 없으므로 이전 설정이 그대로 유지됩니다.</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>‘%1’을(를) 저장하는 동안 설정이 변경되었습니다. 다른 프로그램에는 이전 그대로 있습니다. 다시 저장하십시오.</translation>
     </message>
@@ -4520,6 +4520,50 @@ For the command line: %2</source>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>이 프린터에서 양면 인쇄는 항상 한 부씩 인쇄됩니다</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>대기열을 제시간에 읽을 수 없었습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>이 프린터의 사전 설정 ‘%1’은(는) 다른 것입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>다른 프린터</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>선택한 프린터에서 다른 프로그램이 이 사전 설정을 사용합니다(&amp;P):</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>다른 프로그램에는 ‘%1’(으)로 표시됩니다.</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>다른 프린터(&amp;P)…</translation>
     </message>
 </context>
 </TS>

@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>Mostra a versão.</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>Com --save-instance: cria uma instância assim também destas filas, com o que cada uma precisa para imprimir o mesmo.</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on: falta o nome da instância, como em --save-instance reports.</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4498,14 +4506,6 @@ Na linha de comando: %2</translation>
         <translation>“%1” foi alterado por outro programa e, a partir de agora, fica como está.</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>mantém as configurações anteriores, porque a impressora é de outro modelo. Salve a predefinição também nessa impressora.</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>mantém as configurações anteriores, porque estas não são possíveis juntas lá.</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>Configurações foram alteradas enquanto “%1” era salva: os outros programas a têm como estava antes. Salve-a novamente.</translation>
     </message>
@@ -4522,6 +4522,50 @@ Na linha de comando: %2</translation>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>cópias em frente e verso são sempre agrupadas nesta impressora</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>Não foi possível ler a fila a tempo.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>A predefinição “%1” para esta impressora é outra.</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Mais impressoras</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Outros programas têm a predefinição nas &amp;impressoras marcadas:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Outros programas a listam como “%1”.</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Mais &amp;impressoras…</translation>
     </message>
 </context>
 </TS>

@@ -262,6 +262,14 @@
         <source>Show the version.</source>
         <translation>显示版本。</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>与 --save-instance 一起使用：也为这些队列创建这样的实例，并包含各队列打印出相同结果所需的内容。</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on：缺少实例的名称，例如 --save-instance reports。</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4496,14 +4504,6 @@ For the command line: %2</source>
         <translation>“%1”已被其他程序更改，今后将保持原样。</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>其打印机为其他型号，因此保留以前的设置。请在该打印机上也保存此预设。</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>这些设置无法在其中同时使用，因此保留以前的设置。</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>保存“%1”期间设置有更改：其他程序中仍是以前的设置。请再次保存。</translation>
     </message>
@@ -4520,6 +4520,50 @@ For the command line: %2</source>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>在此打印机上，双面打印的多份总是逐份打印</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>未能及时读取队列。</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>此打印机的预设“%1”是另一个预设。</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>更多打印机</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>其他程序可在勾选的打印机上使用此预设(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>其他程序中显示为“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>更多打印机(&amp;P)…</translation>
     </message>
 </context>
 </TS>

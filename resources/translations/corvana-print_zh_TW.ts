@@ -451,6 +451,14 @@
         <source>Show the version.</source>
         <translation>顯示版本。</translation>
     </message>
+    <message>
+        <source>With --save-instance: make such an instance of these queues as well, with what each of them needs to print the same.</source>
+        <translation>與 --save-instance 一起使用：也為這些佇列建立這樣的實體，並包含各佇列印出相同結果所需的內容。</translation>
+    </message>
+    <message>
+        <source>--also-on: the name of the instance is missing, as in --save-instance reports.</source>
+        <translation>--also-on：缺少實體的名稱，例如 --save-instance reports。</translation>
+    </message>
 </context>
 <context>
     <name>CupsFilter</name>
@@ -4496,14 +4504,6 @@ For the command line: %2</source>
         <translation>「%1」已被其他程式更改，今後將保持原樣。</translation>
     </message>
     <message>
-        <source>it keeps its former settings, as its printer is of another model. Save the preset on that printer, too.</source>
-        <translation>其印表機為其他型號，因此保留先前的設定。請在該印表機上也儲存此預設集。</translation>
-    </message>
-    <message>
-        <source>it keeps its former settings, as these are not possible together there.</source>
-        <translation>這些設定無法在其中同時使用，因此保留先前的設定。</translation>
-    </message>
-    <message>
         <source>Settings were changed while “%1” was saved: other programs have it as it was before. Save it again.</source>
         <translation>儲存「%1」期間設定已變更：其他程式中仍是先前的設定。請再次儲存。</translation>
     </message>
@@ -4520,6 +4520,50 @@ For the command line: %2</source>
     <message>
         <source>two-sided copies are always collated on this printer</source>
         <translation>在此印表機上，雙面列印的多份一律自動分頁</translation>
+    </message>
+</context>
+<context>
+    <name>OtherQueues</name>
+    <message>
+        <source>The queue could not be read in time.</source>
+        <translation>未能及時讀取佇列。</translation>
+    </message>
+</context>
+<context>
+    <name>TaskPresets</name>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>此印表機的預設集「%1」是另一個預設集。</translation>
+    </message>
+</context>
+<context>
+    <name>InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>更多印表機</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>其他程式可在勾選的印表機上使用此預設集(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>在其他程式中會顯示為「%1」。</translation>
+    </message>
+</context>
+<context>
+    <name>SavePresetDialog</name>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>更多印表機(&amp;P)…</translation>
     </message>
 </context>
 </TS>

@@ -1,11 +1,10 @@
-#include <algorithm>
-
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 
 #include <cups/cups.h>
 
+#include "tests/e2e/LpTools.h"
 #include "tests/e2e/QueueRuns.h"
 #include "tests/support/PrintedSides.h"
 #include "tests/support/Rows.h"
@@ -17,7 +16,6 @@ namespace {
 
 const QString kQueue = u"office"_s;
 const QString kInstance = u"office/reports"_s;
-const QString kTitle = u"letters"_s;
 
 /// Settings that are kept as an instance, where queue and user have set something themselves.
 struct Kept
@@ -74,51 +72,19 @@ class QueueInstancesTest : public QueueRuns
     Q_OBJECT
 
 private:
-    QProcessEnvironment environment() const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"HOME"_s, m_runner->filePath(QString()));
-        environment.insert(u"CUPS_SERVER"_s, m_cups->server());
-        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-        environment.remove(u"CUPS_SERVERROOT"_s);
-        return environment;
-    }
+    LpTools tools() const { return {*m_cups, *m_runner}; }
     QByteArray tool(const QString &name, const QStringList &arguments) const
     {
-        QProcess process;
-        process.setProcessEnvironment(environment());
-        process.start(name, arguments);
-        process.waitForFinished();
-        return process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
+        return tools().run(name, arguments);
     }
-    QByteArray lastStream()
+    QByteArray lastStream() const { return tools().lastStream(kQueue); }
+    QByteArray printedByLp(const QStringList &arguments) const
     {
-        const QList<KnownJob> jobs = m_cups->jobs(kQueue);
-        const int last = jobs.isEmpty() ? 0 : jobs.last().id;
-        if (!QTest::qWaitFor([&] { return m_cups->job(last).state >= IPP_JSTATE_CANCELED; },
-                             kQueuePatience))
-            return {};
-        QByteArray data;
-        const QList<CapturedJob> captured = m_cups->capture(kQueue).jobs();
-        for (const CapturedJob &job : captured) {
-            if (job.id == last)
-                data += job.data;
-        }
-        return withoutDates(data);
+        return tools().printedByLp(kQueue, arguments);
     }
-    QByteArray printedByLp(const QStringList &arguments)
+    QByteArray printedHere(const QStringList &arguments) const
     {
-        if (tool(u"lp"_s, QStringList{u"-t"_s, kTitle} + arguments + QStringList{kThreePages})
-                .isEmpty())
-            return {};
-        return lastStream();
-    }
-    QByteArray printedHere(const QStringList &arguments)
-    {
-        const RunEnd end = m_runner->run(QStringList{u"--no-dialog"_s, u"-t"_s, kTitle} +
-                                         arguments + QStringList{kThreePages});
-        [&] { QVERIFY2(end.status == 0, end.text().constData()); }();
-        return lastStream();
+        return tools().printedHere(kQueue, arguments);
     }
     RunEnd save(const QStringList &options = {}, const QString &name = u"Reports"_s) const
     {
@@ -126,20 +92,8 @@ private:
             QStringList{u"--no-dialog"_s, u"-d"_s, kQueue, u"--save-instance"_s, name} +
             asArguments(options));
     }
-    // In alphabetical order, without the name.
-    QByteArray optionsOf(const QByteArray &instance) const
-    {
-        for (const QByteArray &line : userOptions().split('\n')) {
-            QByteArrayList words = line.split(' ');
-            if (words.value(1) != instance)
-                continue;
-            words.remove(0, 2);
-            std::sort(words.begin(), words.end());
-            return ' ' + words.join(' ');
-        }
-        return {};
-    }
-    QByteArray userOptions() const { return readAll(m_runner->filePath(u".cups/lpoptions"_s)); }
+    QByteArray optionsOf(const QByteArray &instance) const { return tools().optionsOf(instance); }
+    QByteArray userOptions() const { return tools().userOptions(); }
 
 private Q_SLOTS:
     void lpPrintsAnInstanceAsTheSettingsArePrintedHere_data() { addRows(kKept); }
@@ -194,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(tool(u"lpoptions"_s, {u"-p"_s, kQueue}).contains("number-up=4"));
         // As programs with a dialog of their own ask.
         QProcess reader;
-        reader.setProcessEnvironment(environment());
+        reader.setProcessEnvironment(tools().environment());
         reader.start(QStringLiteral(CORVANA_DESTS_READER), {kQueue, u"reports"_s});
         QVERIFY(reader.waitForFinished());
         const QByteArray read = reader.readAllStandardOutput();

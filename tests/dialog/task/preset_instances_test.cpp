@@ -366,24 +366,6 @@ private Q_SLOTS:
         QCOMPARE(OwnInstances().read().value(u"ink/reports"_s).settings, u"Reports"_s);
     }
 
-    // What is kept of it says nothing of what is usual there.
-    void ofAPresetForAllPrintersThoseOfOtherModelsStayAndThatIsSaid()
-    {
-        addQueue(u"ink"_s, smallPrinter(), {}, "Corvana Ink");
-        open(u"ink"_s);
-        save(u"Reports"_s, true, true);
-        const QByteArray before = lineOf("ink/reports");
-        open(u"office"_s);
-        propose(u"Media"_s, u"Film"_s);
-        save(u"Reports"_s, true, true);
-        QVERIFY(lineOf("office/reports").contains(" Media=Film "));
-        QCOMPARE(lineOf("ink/reports"), before);
-        QVERIFY2(said().contains(u"“ink/reports” in other programs: it keeps"_s),
-                 qPrintable(said()));
-        QCOMPARE(done([&] { presets().remove(); }), QString());
-        QVERIFY(lineOf("ink/reports").isEmpty() && lineOf("office/reports").isEmpty());
-    }
-
     void whatSomebodyHasTakenAwayStaysAway()
     {
         addQueue(u"office"_s, smallPrinter());
@@ -397,28 +379,6 @@ private Q_SLOTS:
         save(u"Reports"_s);
         QCOMPARE(userOptions(), QByteArray("# nothing\n"));
         QCOMPARE(said(), QString());
-    }
-
-    void whatIsNotPossibleOnAnotherQueueIsSaidAndNotWritten()
-    {
-        const auto printer = [](const QByteArray &installed) {
-            return smallPrinter()
-                .line("*OpenGroup: InstallableOptions/Installed")
-                .option("Finisher", "Finisher", installed, {{"None", "None"}, {"Big", "Big"}})
-                .line("*CloseGroup: InstallableOptions")
-                .constraint("Finisher", "None", "Boost", "ON");
-        };
-        addQueue(u"office"_s, printer("Big"));
-        addQueue(u"lab"_s, printer("None"));
-        open(u"lab"_s);
-        save(u"Reports"_s, true);
-        const QByteArray before = lineOf("lab/reports");
-        open(u"office"_s);
-        propose(u"Boost"_s, u"ON"_s);
-        save(u"Reports"_s);
-        QCOMPARE(lineOf("lab/reports"), before);
-        QVERIFY2(said().contains(u"“lab/reports” in other programs: it keeps"_s),
-                 qPrintable(said()));
     }
 
     void aDamagedListIsSaidOnceAndNothingIsLost()

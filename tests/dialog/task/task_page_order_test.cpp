@@ -8,6 +8,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/TaskScene.h"
 
@@ -105,6 +106,30 @@ private Q_SLOTS:
         m_scene->face.refusals.clear();
         QCOMPARE(task.setAttribute(u"number-up"_s, {}), QString());
         QVERIFY(problemsOfOrder(task.settings().attributes()).isEmpty());
+    }
+
+    void whoeverHasLockedOneOfThemIsNamed()
+    {
+        for (const auto &[lock, asked] : {std::pair("number-up=4", u"booklet=left"_s),
+                                          std::pair("booklet=left", u"number-up=4"_s)}) {
+            PrintRequest request = m_scene->request(smallPrinter());
+            request.policy = policyFrom(QByteArray("[all]\nlock.") + lock + '\n');
+            request.options = parseOptions({asked});
+            m_scene->face.messages.clear();
+            m_scene->face.refusals.clear();
+            PrintTask &task = m_scene->open(request);
+            QVERIFY2(m_scene->face.message().contains(u"set by your administrator"_s),
+                     qPrintable(m_scene->face.message()));
+            task.print();
+            QVERIFY(QTest::qWaitFor([&] { return !m_scene->face.refusals.isEmpty(); }));
+        }
+        // In a window, where it is chosen.
+        PrintRequest request = m_scene->request(smallPrinter());
+        request.policy = policyFrom("[all]\nlock.number-up=4\n");
+        PrintTask &task = m_scene->open(request);
+        const QString why = task.setAttribute(u"booklet"_s, u"left"_s);
+        QVERIFY2(why.contains(u"set by your administrator"_s), qPrintable(why));
+        QVERIFY(!task.settings().attribute(u"booklet"_s).startsWith(u"left"_s));
     }
 
     void whatAPresetHasTogetherIsSaidWhenItIsTaken()

@@ -7,6 +7,7 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/task/TaskHistory.h"
 #include "dialog/task/TaskPresets.h"
+#include "tests/dialog/policy/TestPolicy.h"
 #include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/PresetActs.h"
@@ -295,6 +296,42 @@ private Q_SLOTS:
         open();
         QCOMPARE(marked(u"Media"_s), u"Film"_s);
         QCOMPARE(marked(u"Boost"_s), u"ON"_s);
+    }
+
+    // It is the user's, and comes back with the part, or when the lock goes.
+    void whatAPrinterLacksOrHasLockedForOneJobIsRemembered()
+    {
+        open();
+        propose(u"Media"_s, u"Film"_s);
+        propose(u"Boost"_s, u"ON"_s);
+        task().setAttribute(u"number-up"_s, u"2"_s);
+        print();
+        PrintRequest locked = request();
+        locked.policy = policyFrom("[all]\nlock.Boost=OFF\nlock.number-up=4\n");
+        m_scene->open(locked);
+        QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
+        propose(u"Tray"_s, u"Upper"_s);
+        print();
+        PrintRequest other = request();
+        QFile ppd(other.printers.constFirst().ppdPath);
+        QVERIFY(ppd.open(QIODevice::ReadWrite));
+        const QByteArray whole = ppd.readAll();
+        QVERIFY(ppd.resize(0) && ppd.seek(0));
+        QVERIFY(ppd.write(QByteArray(whole).replace("Film", "Foil")) > 0);
+        ppd.close();
+        m_scene->open(other);
+        QCOMPARE(marked(u"Media"_s), u"Plain"_s);
+        QCOMPARE(marked(u"Boost"_s), u"ON"_s);
+        propose(u"Boost"_s, u"OFF"_s);
+        print();
+        QVERIFY(ppd.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        ppd.write(whole);
+        ppd.close();
+        m_scene->open(other);
+        QCOMPARE(marked(u"Media"_s), u"Film"_s);
+        // What somebody has taken back meanwhile stays taken back.
+        QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
+        QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
     }
 
     void whatAProgramAskedForIsNotRemembered()

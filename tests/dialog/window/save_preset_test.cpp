@@ -1,8 +1,10 @@
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -133,6 +135,44 @@ private Q_SLOTS:
         elsewhere->setChecked(false);
         QVERIFY(dialog.preset().nowhereElse);
         QVERIFY2(!remark->text().contains(u"office/"_s), qPrintable(remark->text()));
+    }
+
+    void otherPrintersAreTickedInAListOfTheirOwn()
+    {
+        for (const QString &queue : {u"lab"_s, u"taken"_s})
+            m_cups->addQueue(queue, m_home->filePath(u"office.ppd"_s));
+        setUserOptions("Dest taken/monthly x=1\n");
+        open();
+        QTRY_COMPARE(presets().otherQueues(u"Monthly"_s, false).size(), 2);
+        SavePresetDialog dialog(presets(), false);
+        dialog.show();
+        dialog.findChild<QLineEdit *>(u"presetName"_s)->setText(u"Monthly"_s);
+        auto *more = dialog.findChild<QPushButton *>(u"presetPrinters"_s);
+        QVERIFY(more && more->isVisible());
+        QTest::keyClick(more, Qt::Key_Space);
+        auto *printers = dialog.findChild<InstancePrinters *>();
+        QVERIFY(printers);
+        auto *list = printers->findChild<QListWidget *>(u"instancePrinters"_s);
+        const auto *remark = printers->findChild<QLabel *>(u"instanceRemark"_s);
+        QCOMPARE(list->count(), 3);
+        QCOMPARE(remark->text(), u"Other programs list it as “office/monthly”."_s);
+        QAccessibleInterface *rows = QAccessible::queryAccessibleInterface(list);
+        QVERIFY(rows && rows->child(1));
+        QTest::keyClick(list, Qt::Key_Down);
+        QVERIFY(!rows->child(1)->state().checked);
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(rows->child(1)->state().checked);
+        QVERIFY(rows->child(1)->text(QAccessible::Name).contains(u"lab"_s));
+        // Why there is no tick is read where somebody looks for it.
+        QTest::keyClick(list, Qt::Key_Down);
+        QVERIFY2(remark->text().contains(u"“taken/monthly” is there already"_s),
+                 qPrintable(remark->text()));
+        QTest::keyClick(list, Qt::Key_Space);
+        printers->accept();
+        QVERIFY(!dialog.findChild<QCheckBox *>(u"presetElsewhere"_s)->isChecked());
+        QCOMPARE(dialog.preset().alsoOn, QStringList{u"lab/monthly"_s});
+        QVERIFY2(dialog.findChild<QLabel *>(u"presetRemark"_s)->text().contains(u"“lab/monthly”"_s),
+                 qPrintable(dialog.findChild<QLabel *>(u"presetRemark"_s)->text()));
     }
 
     void theDialogGrowsWithItsRemark()
