@@ -122,6 +122,26 @@ private Q_SLOTS:
         m_home.reset();
     }
 
+    // Each says by what name other programs will have it, and why where they cannot.
+    void queuesOfTheModelAreOffered()
+    {
+        open(u"office"_s);
+        task().printers().start(); // as a window does
+        QTRY_COMPARE(task().printers().queues().state(), QueueList::State::Known);
+        const auto offered = [this](bool forAll) {
+            QStringList names;
+            const QList<OtherQueue> others = presets().otherQueues(u"Reports"_s, forAll);
+            for (const OtherQueue &other : others)
+                names += other.instance + (other.isThere ? u" is there"_s : QString());
+            names.sort();
+            return names;
+        };
+        QCOMPARE(offered(false), QStringList{u"lab/reports"_s});
+        QCOMPARE(offered(true), (QStringList{u"ink/reports"_s, u"lab/reports"_s}));
+        save({u"lab/reports"_s});
+        QCOMPARE(offered(false), QStringList{u"lab/reports is there"_s});
+    }
+
     void queuesThatAreNamedHaveThePresetAndFollowIt()
     {
         open(u"office"_s);
