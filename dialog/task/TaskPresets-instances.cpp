@@ -145,7 +145,8 @@ QList<OtherQueue> TaskPresets::otherQueues(const QString &name, bool forAll) con
     const QList<Printer> printers = m_task.printers().printers();
     for (const Printer &printer : printers) {
         const QString queue = queueOf(printer);
-        if (queue.isEmpty() || of.isOnOpenQueue(queue))
+        const bool isInstance = queue != printer.name;
+        if (queue.isEmpty() || isInstance || of.isOnOpenQueue(queue))
             continue;
         OtherQueue other{printer};
         for (const QString &instance : there) {

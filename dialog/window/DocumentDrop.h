@@ -23,8 +23,7 @@ struct DroppedDocuments
 DroppedDocuments droppedDocuments(const QMimeData &data);
 
 /// Takes documents that are dropped anywhere on a window, on its fields as well: a field would take
-/// their address for a text. They are never moved: whoever gives them would
-/// delete the files.
+/// their address for a text. They are never moved: whoever gives them would delete the files.
 ///
 /// Ownership: the window's; borrows task and pane.
 class DocumentDrop : public QObject

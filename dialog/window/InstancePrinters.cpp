@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kFewestRows = 4;
 constexpr int kMostRows = 12; // more are scrolled
+constexpr int kSpacing = 2;   // so that ticks of small fonts do not touch; in pixels
 
 // Two queues may have one description.
 QString textOf(const Printer &printer)
@@ -45,11 +46,12 @@ InstancePrinters::InstancePrinters(const QList<OtherQueue> &queues, const Picks 
     layout->addWidget(intro);
     m_list->setObjectName(u"instancePrinters"_s);
     m_list->setUniformItemSizes(true);
+    m_list->setSpacing(kSpacing);
     for (const OtherQueue &queue : queues)
         addRow(queue, picks.value(queue.printer.name, queue.isThere));
     const int rows = std::clamp(int(queues.size()), kFewestRows, kMostRows);
-    m_list->setMinimumHeight(rows * std::max(m_list->sizeHintForRow(0), fontMetrics().height()) +
-                             2 * m_list->frameWidth());
+    const int height = std::max(m_list->sizeHintForRow(0), fontMetrics().height()) + 2 * kSpacing;
+    m_list->setMinimumHeight(rows * height + 2 * m_list->frameWidth());
     layout->addWidget(m_list, 1);
     m_remark->setObjectName(u"instanceRemark"_s);
     m_remark->setWordWrap(true);

@@ -3170,6 +3170,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Weitere Drucker</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Andere Programme haben die Voreinstellung auf den angekreuzten &amp;Druckern:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Andere Programme führen es als „%1“ auf.</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4005,6 +4028,10 @@ Für die Befehlszeile: %2</translation>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Weitere &amp;Drucker …</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4248,6 +4275,10 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 Ihre Einstellungen sind wieder wie vorher.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>Die Voreinstellung „%1“ für diesen Drucker ist eine andere.</translation>
     </message>
 </context>
 <context>
@@ -4529,43 +4560,6 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>Die Warteschlange konnte nicht rechtzeitig gelesen werden.</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>Die Voreinstellung „%1“ für diesen Drucker ist eine andere.</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>Weitere Drucker</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>Andere Programme haben die Voreinstellung auf den angekreuzten &amp;Druckern:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>Andere Programme führen es als „%1“ auf.</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>Weitere &amp;Drucker …</translation>
     </message>
 </context>
 </TS>

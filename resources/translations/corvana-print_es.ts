@@ -3170,6 +3170,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Más impresoras</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Otros programas tienen el preajuste en las &amp;impresoras marcadas:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Otros programas lo muestran como «%1».</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4005,6 +4028,10 @@ En la línea de órdenes: %2</translation>
         <source>Save</source>
         <translation>Guardar</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Más &amp;impresoras…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4248,6 +4275,10 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 Sus ajustes están como antes.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>El preajuste «%1» para esta impresora es otro.</translation>
     </message>
 </context>
 <context>
@@ -4529,43 +4560,6 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>No se pudo leer la cola a tiempo.</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>El preajuste «%1» para esta impresora es otro.</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>Más impresoras</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>Otros programas tienen el preajuste en las &amp;impresoras marcadas:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>Otros programas lo muestran como «%1».</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>Más &amp;impresoras…</translation>
     </message>
 </context>
 </TS>

@@ -3170,6 +3170,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Autres imprimantes</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Les autres programmes ont le préréglage sur les &amp;imprimantes cochées :</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Les autres programmes l’affichent comme « %1 ».</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4005,6 +4028,10 @@ Pour la ligne de commande : %2</translation>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Autres &amp;imprimantes…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4248,6 +4275,10 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 Vos réglages sont de nouveau comme avant.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>Le préréglage « %1 » pour cette imprimante en est un autre.</translation>
     </message>
 </context>
 <context>
@@ -4529,43 +4560,6 @@ Pour la ligne de commande : %2</translation>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>La file d’attente n’a pas pu être lue à temps.</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>Le préréglage « %1 » pour cette imprimante en est un autre.</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>Autres imprimantes</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>Les autres programmes ont le préréglage sur les &amp;imprimantes cochées :</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>Les autres programmes l’affichent comme « %1 ».</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>Autres &amp;imprimantes…</translation>
     </message>
 </context>
 </TS>

@@ -3170,6 +3170,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Altre stampanti</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Gli altri programmi hanno la preimpostazione sulle &amp;stampanti selezionate:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Gli altri programmi la elencano come «%1».</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4005,6 +4028,10 @@ Per la riga di comando: %2</translation>
         <source>Save</source>
         <translation>Salva</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Altre &amp;stampanti…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4248,6 +4275,10 @@ Per la riga di comando: %2</translation>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 Le impostazioni sono rimaste come prima.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>La preimpostazione «%1» per questa stampante è un’altra.</translation>
     </message>
 </context>
 <context>
@@ -4529,43 +4560,6 @@ Per la riga di comando: %2</translation>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>Non è stato possibile leggere la coda in tempo.</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>La preimpostazione «%1» per questa stampante è un’altra.</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>Altre stampanti</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>Gli altri programmi hanno la preimpostazione sulle &amp;stampanti selezionate:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>Gli altri programmi la elencano come «%1».</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>Altre &amp;stampanti…</translation>
     </message>
 </context>
 </TS>

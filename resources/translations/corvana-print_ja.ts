@@ -2014,6 +2014,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>ほかのプリンター</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>チェックを付けたプリンターで、ほかのプログラムがこのプリセットを使えます(&amp;P):</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>ほかのプログラムでは「%1」と表示されます。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Sa&amp;ve…</source>
@@ -4020,6 +4043,10 @@ For the command line: %2</source>
         <source>Other programs list it as “%1”.</source>
         <translation>ほかのプログラムでは「%1」と表示されます。</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>ほかのプリンター(&amp;P)…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::TaskHistory</name>
@@ -4113,6 +4140,10 @@ For the command line: %2</source>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>ほかのプログラムでは、「%1」に印刷するとこの設定が使われます。</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>このプリンター用のプリセット「%1」は別のものです。</translation>
     </message>
 </context>
 <context>
@@ -4527,43 +4558,6 @@ For the command line: %2</source>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>キューを時間内に読み取れませんでした。</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>このプリンター用のプリセット「%1」は別のものです。</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>ほかのプリンター</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>チェックを付けたプリンターで、ほかのプログラムがこのプリセットを使えます(&amp;P):</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>ほかのプログラムでは「%1」と表示されます。</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>ほかのプリンター(&amp;P)…</translation>
     </message>
 </context>
 </TS>

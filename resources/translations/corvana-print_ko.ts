@@ -3168,6 +3168,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>다른 프린터</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>선택한 프린터에서 다른 프로그램이 이 사전 설정을 사용합니다(&amp;P):</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>다른 프로그램에는 ‘%1’(으)로 표시됩니다.</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4003,6 +4026,10 @@ For the command line: %2</source>
         <source>Save</source>
         <translation>저장</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>다른 프린터(&amp;P)…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4246,6 +4273,10 @@ For the command line: %2</source>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 현재 설정은 그대로입니다.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>이 프린터의 사전 설정 ‘%1’은(는) 다른 것입니다.</translation>
     </message>
 </context>
 <context>
@@ -4527,43 +4558,6 @@ For the command line: %2</source>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>대기열을 제시간에 읽을 수 없었습니다.</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>이 프린터의 사전 설정 ‘%1’은(는) 다른 것입니다.</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>다른 프린터</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>선택한 프린터에서 다른 프로그램이 이 사전 설정을 사용합니다(&amp;P):</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>확인</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>다른 프로그램에는 ‘%1’(으)로 표시됩니다.</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>다른 프린터(&amp;P)…</translation>
     </message>
 </context>
 </TS>

@@ -3170,6 +3170,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>Mais impressoras</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>Outros programas têm a predefinição nas &amp;impressoras marcadas:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>Outros programas a listam como “%1”.</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4005,6 +4028,10 @@ Na linha de comando: %2</translation>
         <source>Save</source>
         <translation>Salvar</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>Mais &amp;impressoras…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4248,6 +4275,10 @@ Na linha de comando: %2</translation>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1 Suas configurações estão como antes.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>A predefinição “%1” para esta impressora é outra.</translation>
     </message>
 </context>
 <context>
@@ -4529,43 +4560,6 @@ Na linha de comando: %2</translation>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>Não foi possível ler a fila a tempo.</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>A predefinição “%1” para esta impressora é outra.</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>Mais impressoras</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>Outros programas têm a predefinição nas &amp;impressoras marcadas:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>Outros programas a listam como “%1”.</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>Mais &amp;impressoras…</translation>
     </message>
 </context>
 </TS>

@@ -2014,6 +2014,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>更多打印机</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>其他程序可在勾选的打印机上使用此预设(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>其他程序中显示为“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Sa&amp;ve…</source>
@@ -4020,6 +4043,10 @@ For the command line: %2</source>
         <source>Other programs list it as “%1”.</source>
         <translation>其他程序中显示为“%1”。</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>更多打印机(&amp;P)…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::TaskHistory</name>
@@ -4113,6 +4140,10 @@ For the command line: %2</source>
     <message>
         <source>Other programs print with these settings to “%1”.</source>
         <translation>其他程序打印到“%1”时使用这些设置。</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>此打印机的预设“%1”是另一个预设。</translation>
     </message>
 </context>
 <context>
@@ -4527,43 +4558,6 @@ For the command line: %2</source>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>未能及时读取队列。</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>此打印机的预设“%1”是另一个预设。</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>更多打印机</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>其他程序可在勾选的打印机上使用此预设(&amp;P)：</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>确定</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>其他程序中显示为“%1”。</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>更多打印机(&amp;P)…</translation>
     </message>
 </context>
 </TS>

@@ -3168,6 +3168,29 @@
     </message>
 </context>
 <context>
+    <name>corvana::InstancePrinters</name>
+    <message>
+        <source>More Printers</source>
+        <translation>更多印表機</translation>
+    </message>
+    <message>
+        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
+        <translation>其他程式可在勾選的印表機上使用此預設集(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Other programs list it as “%1”.</source>
+        <translation>在其他程式中會顯示為「%1」。</translation>
+    </message>
+</context>
+<context>
     <name>corvana::JobFooter</name>
     <message>
         <source>Printing</source>
@@ -4003,6 +4026,10 @@ For the command line: %2</source>
         <source>Save</source>
         <translation>儲存</translation>
     </message>
+    <message>
+        <source>More &amp;Printers…</source>
+        <translation>更多印表機(&amp;P)…</translation>
+    </message>
 </context>
 <context>
     <name>corvana::ServerJob</name>
@@ -4246,6 +4273,10 @@ For the command line: %2</source>
     <message>
         <source>%1 Your settings are as they were.</source>
         <translation>%1您的設定維持不變。</translation>
+    </message>
+    <message>
+        <source>The preset “%1” for this printer is another one.</source>
+        <translation>此印表機的預設集「%1」是另一個預設集。</translation>
     </message>
 </context>
 <context>
@@ -4527,43 +4558,6 @@ For the command line: %2</source>
     <message>
         <source>The queue could not be read in time.</source>
         <translation>未能及時讀取佇列。</translation>
-    </message>
-</context>
-<context>
-    <name>TaskPresets</name>
-    <message>
-        <source>The preset “%1” for this printer is another one.</source>
-        <translation>此印表機的預設集「%1」是另一個預設集。</translation>
-    </message>
-</context>
-<context>
-    <name>InstancePrinters</name>
-    <message>
-        <source>More Printers</source>
-        <translation>更多印表機</translation>
-    </message>
-    <message>
-        <source>Other programs have the preset on the &amp;printers that are ticked:</source>
-        <translation>其他程式可在勾選的印表機上使用此預設集(&amp;P)：</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>確定</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>Other programs list it as “%1”.</source>
-        <translation>在其他程式中會顯示為「%1」。</translation>
-    </message>
-</context>
-<context>
-    <name>SavePresetDialog</name>
-    <message>
-        <source>More &amp;Printers…</source>
-        <translation>更多印表機(&amp;P)…</translation>
     </message>
 </context>
 </TS>

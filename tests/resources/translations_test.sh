@@ -2,9 +2,9 @@
 # Proves that the dialog has each of its texts in every language, and that a translation keeps what
 # the program puts something into, or looks at: places for values, access keys, dots, lines, blanks.
 #
-#   translations_test.sh [LANGUAGE...]
+#   translations_test.sh LUPDATE [LANGUAGE...]
 #
-# Needs python3.
+# LUPDATE is Qt's program of that name. Needs python3.
 
 set -u
 
@@ -16,19 +16,22 @@ fi
 
 exec python3 -B - "$root" "$@" <<'PYTHON'
 import re
+import subprocess
 import sys
+import tempfile
 import xml.etree.ElementTree as ElementTree
 from collections import Counter
 from pathlib import Path
 
 root = Path(sys.argv[1])
+lupdate = sys.argv[2]
 sys.path.insert(0, str(root / "tests/resources"))
 from languages import LANGUAGES
 
 # How many forms a number's noun has.
 PLURAL_FORMS = {"ja": 1, "zh_CN": 1, "ko": 1, "zh_TW": 1}
 CODES = [language.translation for language in LANGUAGES.values() if language.translation]
-CODES = [code for code in CODES if code in sys.argv[2:] or len(sys.argv) == 2]
+CODES = [code for code in CODES if code in sys.argv[3:] or len(sys.argv) == 3]
 QUOTES = {language.translation: language.quotes for language in LANGUAGES.values()}
 # Every character that quotes in one of the languages. A French apostrophe looks like a quote.
 QUOTING = set("“”„«»「」")
@@ -46,7 +49,10 @@ class Message:
 
 
 def messages(code):
-    file = root / f"resources/translations/corvana-print_{code}.ts"
+    return messagesIn(root / f"resources/translations/corvana-print_{code}.ts")
+
+
+def messagesIn(file):
     for context in ElementTree.parse(file).getroot().iter("context"):
         for element in context.iter("message"):
             yield Message(context.findtext("name"), element)
@@ -71,6 +77,18 @@ def theLanguagesHaveTheSameTexts(fail):
             fail(f"{code}: a text is there twice")
         if set(keys) != first:
             fail(f"{code}: other texts than in German: {sorted(map(str, set(keys) ^ first))}")
+
+
+# A text under the name of another class is never found, and stays English.
+def theTextsAreThoseOfTheProgram(fail):
+    with tempfile.TemporaryDirectory() as folder:
+        file = Path(folder) / "texts.ts"
+        command = [lupdate, "-silent", "-I", ".", "-locations", "none", "dialog", "-ts", str(file)]
+        subprocess.run(command, cwd=root, check=True)
+        ofProgram = {message.key for message in messagesIn(file)}
+    for code in CODES:
+        for key in ofProgram ^ {message.key for message in messages(code)}:
+            fail(f"{code}: {'not translated' if key in ofProgram else 'not used'}: {key}")
 
 
 def everyTextIsTranslated(fail):
@@ -161,6 +179,7 @@ def printersWithoutADriverSpeakEveryLanguage(fail):
 failures = 0
 for test in [
     theLanguagesHaveTheSameTexts,
+    theTextsAreThoseOfTheProgram,
     everyTextIsTranslated,
     placesForValuesAreKept,
     aTextHasOneAccessKeyWhereTheSourceHasOne,
@@ -173,7 +192,7 @@ for test in [
     complaints = []
     try:
         test(complaints.append)
-    except (OSError, ValueError, KeyError, AttributeError, ElementTree.ParseError) as problem:
+    except (OSError, subprocess.SubprocessError, ValueError, KeyError, AttributeError, ElementTree.ParseError) as problem:
         complaints.append(f"{type(problem).__name__}: {problem}")
     print("FAILED " if complaints else "ok     ", test.__name__)
     for complaint in complaints:

@@ -143,6 +143,7 @@ private Q_SLOTS:
             m_cups->addQueue(queue, m_home->filePath(u"office.ppd"_s));
         setUserOptions("Dest taken/monthly x=1\n");
         open();
+        task().printers().start(); // as a window does
         QTRY_COMPARE(presets().otherQueues(u"Monthly"_s, false).size(), 2);
         SavePresetDialog dialog(presets(), false);
         dialog.show();
