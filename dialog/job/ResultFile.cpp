@@ -31,12 +31,14 @@ struct Texts
 QString makeFileBeside(const QString &place)
 {
     constexpr int kTries = 100;
-    // A name that is as long as it can be has no room for an ending.
+    // A name that is as long as it can be has no room for an ending. One that is longer is refused
+    // here, before anything is printed.
     constexpr qsizetype kRoom = 14;
     constexpr qsizetype kLongest = 255; // bytes
     const QFileInfo info(place);
     QString name = info.fileName();
-    while (QFile::encodeName(name).size() > kLongest - kRoom)
+    const bool isPossible = QFile::encodeName(name).size() <= kLongest;
+    while (isPossible && QFile::encodeName(name).size() > kLongest - kRoom)
         name.chop(1);
     for (int i = 0; i < kTries; ++i) {
         const QString path =
