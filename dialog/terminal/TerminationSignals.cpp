@@ -1,6 +1,7 @@
 #include "dialog/terminal/TerminationSignals.h"
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <utility>
@@ -19,16 +20,18 @@ namespace {
 
 constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
 
-// All that a handler may touch: the first signal, and a pipe that wakes the event loop.
-volatile std::sig_atomic_t firstSignal = 0;
+// All that a handler may touch: the first signal, and a pipe that wakes the event loop. Two
+// handlers may run at a time, each in a thread of its own: the mask holds for one thread.
+std::atomic<int> firstSignal = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
 std::array<int, 2> wakeUp{-1, -1};
 std::array<struct sigaction, kSignals.size()> former;
 
 void noteSignal(int signal)
 {
     const int error = errno;
-    if (firstSignal == 0)
-        firstSignal = signal;
+    int none = 0;
+    firstSignal.compare_exchange_strong(none, signal);
     // A full pipe has woken the event loop already.
     [[maybe_unused]] const ssize_t written = ::write(wakeUp[1], "", 1);
     errno = error;
