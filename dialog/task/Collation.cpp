@@ -47,16 +47,16 @@ JobOption collationUnderNameOf(const JobOption &byQueue, const QList<JobOption> 
     return {byQueue.name, collated ? u"true"_s : u"false"_s};
 }
 
-bool areCopiesAlwaysCollated(const OpenedPrinter &printer)
+bool areCopiesAlwaysCollated(const OpenedPrinter &printer, PrintsTo to)
 {
-    const bool passesFilters =
-        printer.fetched.printer.origin == PrinterOrigin::File || !printer.fetched.capabilities;
+    const bool passesFilters = to == PrintsTo::File || !printer.fetched.capabilities;
     return passesFilters && printer.session->ppd()->manual_copies && isTwoSided(*printer.session);
 }
 
-QList<JobOption> asCopiesComeOut(QList<JobOption> attributes, const OpenedPrinter &printer)
+QList<JobOption> asCopiesComeOut(QList<JobOption> attributes, const OpenedPrinter &printer,
+                                 PrintsTo to)
 {
-    if (!areCopiesAlwaysCollated(printer))
+    if (!areCopiesAlwaysCollated(printer, to))
         return attributes;
     for (JobOption &attribute : attributes) {
         if (attribute == kNotCollated)
@@ -65,9 +65,10 @@ QList<JobOption> asCopiesComeOut(QList<JobOption> attributes, const OpenedPrinte
     return attributes;
 }
 
-QHash<QString, QString> remarksOnCopies(const QList<JobOption> &asked, const OpenedPrinter &printer)
+QHash<QString, QString> remarksOnCopies(const QList<JobOption> &asked, const OpenedPrinter &printer,
+                                        PrintsTo to)
 {
-    if (!asked.contains(kNotCollated) || !areCopiesAlwaysCollated(printer))
+    if (!asked.contains(kNotCollated) || !areCopiesAlwaysCollated(printer, to))
         return {};
     return {{kCollateAttribute, Texts::tr("two-sided copies are always collated on this printer")}};
 }

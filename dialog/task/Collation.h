@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include "dialog/documents/DocumentTexts.h"
 #include "platform/pde/PDEJobValues.h"
 
 namespace corvana {
@@ -24,14 +25,15 @@ JobOption collationUnderNameOf(const JobOption &byQueue, const QList<JobOption> 
 /// Whether copies come out collated whatever is asked for. CUPS' filters do that with jobs on both
 /// sides where they make the copies themselves: else a copy would stand on the back of another.
 /// Printers that make copies do as they are told, and so does every queue whose server converts.
-bool areCopiesAlwaysCollated(const OpenedPrinter &printer);
+bool areCopiesAlwaysCollated(const OpenedPrinter &printer, PrintsTo to);
 
 /// The attributes as copies come out on the printer as it is set now.
-QList<JobOption> asCopiesComeOut(QList<JobOption> attributes, const OpenedPrinter &printer);
+QList<JobOption> asCopiesComeOut(QList<JobOption> attributes, const OpenedPrinter &printer,
+                                 PrintsTo to);
 
 /// What a summary has to say beside the order of copies, by the name of its attribute. `asked` are
 /// the attributes as they are set.
-QHash<QString, QString> remarksOnCopies(const QList<JobOption> &asked,
-                                        const OpenedPrinter &printer);
+QHash<QString, QString> remarksOnCopies(const QList<JobOption> &asked, const OpenedPrinter &printer,
+                                        PrintsTo to);
 
 } // namespace corvana

@@ -110,7 +110,7 @@ QString lockOf(const QString &name, const JobSettings &settings, const OpenedPri
 }
 
 OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
-                         const OpenedPrinter &printer)
+                         const OpenedPrinter &printer, PrintsTo to)
 {
     const QString usual = usualValueOf(offer.name, settings.attributes(), printer);
     OfferedAttribute one{offer.name, settings.attribute(offer.name), offer.place};
@@ -127,7 +127,7 @@ OfferedAttribute offered(const Offer &offer, const JobSettings &settings,
     if (const QString by = lockOf(offer.name, settings, printer); !by.isNull())
         one.lockedBy = lockedText(by);
     if (offer.name == kCollateAttribute) {
-        const bool isGiven = areCopiesAlwaysCollated(printer);
+        const bool isGiven = areCopiesAlwaysCollated(printer, to);
         one.hasEffect = settings.copies() > 1 && !isGiven;
         if (isGiven)
             one.value = u"true"_s;
@@ -170,7 +170,8 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer)
            !choicesOfPrinter(name, u"true"_s, printer).choices.isEmpty();
 }
 
-QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const OpenedPrinter &printer)
+QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const OpenedPrinter &printer,
+                                          PrintsTo to)
 {
     // What is in force, and what the user has just taken out of force.
     QStringList asked;
@@ -184,11 +185,11 @@ QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const Ope
     for (const Offer &offer : kOffers) {
         if (jobAttribute(offer.name) &&
             (asked.contains(offer.name) || offersAttribute(offer.name, printer)))
-            all += offered(offer, settings, printer);
+            all += offered(offer, settings, printer, to);
     }
     for (const QString &name : std::as_const(asked)) {
         if (!isOffered(name))
-            all += offered({jobAttribute(name)->name, Place::More}, settings, printer);
+            all += offered({jobAttribute(name)->name, Place::More}, settings, printer, to);
     }
     return all;
 }

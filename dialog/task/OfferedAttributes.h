@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 
+#include "dialog/documents/DocumentTexts.h"
 #include "dialog/session/OfferedAttribute.h"
 #include "dialog/session/PpdSession.h"
 
@@ -18,8 +19,8 @@ bool offersAttribute(const QString &name, const OpenedPrinter &printer);
 /// The attributes that every face offers, in the order in which they are read: those that people
 /// look for, and each one that is in force, whoever asked for it. The pages, which have a field of
 /// their own, are not among them.
-QList<OfferedAttribute> offeredAttributes(const JobSettings &settings,
-                                          const OpenedPrinter &printer);
+QList<OfferedAttribute> offeredAttributes(const JobSettings &settings, const OpenedPrinter &printer,
+                                          PrintsTo to);
 
 /// What a printer's own options make of a value of an attribute.
 struct PrinterChoices

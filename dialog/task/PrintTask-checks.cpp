@@ -79,7 +79,7 @@ QString PrintTask::damageOf(const Document &document) const
 // Once for each of them.
 void PrintTask::sayOfDocuments()
 {
-    const PrintsTo to = printsToFile() ? PrintsTo::File : PrintsTo::Server;
+    const PrintsTo to = printsTo();
     QStringList notes =
         passesFilesOn() ? QStringList() : lostCommands(m_request.documents, m_looks.told);
     QStringList warnings;

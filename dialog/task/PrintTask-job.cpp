@@ -32,7 +32,13 @@ bool PrintTask::canPrint() const
 
 bool PrintTask::printsToFile() const
 {
-    return m_output.toFile || m_chosen.printer.origin == PrinterOrigin::File;
+    return printsTo() == PrintsTo::File;
+}
+
+PrintsTo PrintTask::printsTo() const
+{
+    const bool toFile = m_output.toFile || m_chosen.printer.origin == PrinterOrigin::File;
+    return toFile ? PrintsTo::File : PrintsTo::Server;
 }
 
 void PrintTask::print()
@@ -91,7 +97,7 @@ QList<JobOption> PrintTask::jobAttributes() const
     if (m_run.held)
         settings.setAttribute(kJobHoldUntilAttribute, kHeldIndefinitely);
     return withAnswersToDefaults(
-        asCopiesComeOut(withPagesOfOrder(settings.attributes()), *m_opened), *m_opened);
+        asCopiesComeOut(withPagesOfOrder(settings.attributes()), *m_opened, printsTo()), *m_opened);
 }
 
 // Everything that has to be known before a job is made. Answers why it is not made; a place in the

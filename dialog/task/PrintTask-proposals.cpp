@@ -81,7 +81,7 @@ void PrintTask::proposeToPanels(const JobOption &option)
 
 QList<OfferedAttribute> PrintTask::attributes() const
 {
-    QList<OfferedAttribute> offered = offeredAttributes(m_settings, *m_opened);
+    QList<OfferedAttribute> offered = offeredAttributes(m_settings, *m_opened, printsTo());
     offered.removeIf([&](const OfferedAttribute &one) {
         return !passesFilesOn() && !hasEffectOn(m_request.documents, {one.name, one.value});
     });

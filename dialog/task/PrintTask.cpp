@@ -259,7 +259,7 @@ QList<SummaryLine> PrintTask::summaryOfSettings()
         return isSaid || !hasEffectOn(m_request.documents, one);
     });
     QHash<QString, QString> remarks = remarksOn(attributes, *m_opened, m_request.documents);
-    remarks.insert(remarksOnCopies(m_settings.attributes(), *m_opened));
+    remarks.insert(remarksOnCopies(m_settings.attributes(), *m_opened, printsTo()));
     return sessionSummary(*m_opened->session, *m_opened->panels, m_settings.copies(), attributes,
                           remarks);
 }

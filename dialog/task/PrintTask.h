@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QObject>
 
+#include "dialog/documents/DocumentTexts.h"
 #include "dialog/job/Job.h"
 #include "dialog/printers/PrinterId.h"
 #include "dialog/printers/PrinterSource.h"
@@ -248,6 +249,7 @@ private:
     using Run = TaskState::Run;
 
     void enter(Phase phase);
+    PrintsTo printsTo() const;
     void say(TaskMessage::Kind kind, const QString &text);
     void chooseDocuments(QList<Document> documents);
     void setDocuments(const QList<Document> &documents);

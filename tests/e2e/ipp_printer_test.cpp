@@ -9,6 +9,7 @@
 #include "tests/e2e/ProgramRunner.h"
 #include "tests/e2e/QueueRuns.h"
 #include "tests/support/NumberedPdf.h"
+#include "tests/support/PrintedSides.h"
 #include "tests/support/TestPaths.h"
 #include "tests/support/cups/FaultyServer.h"
 #include "tests/support/cups/IppEvePrinter.h"
@@ -158,6 +159,45 @@ private Q_SLOTS:
         QVERIFY2(end.status == 0, end.text().constData());
         QCOMPARE(printer.documents().size(), 1);
         QTEST(infoOf(printer.documents().constFirst(), u"Pages"_s), "pages");
+    }
+
+    // The filters make the copies of a file, and collate those on two sides.
+    void copiesIntoAFileAreSaidToComeOutAsTheyDo_data()
+    {
+        QTest::addColumn<QString>("side");
+        QTest::addColumn<QString>("copies");
+        QTest::addColumn<QString>("sides");
+        QTest::newRow("on two sides")
+            << u"two-sided-long-edge"_s
+            << u"2, collated (two-sided copies are always collated on this printer)"_s
+            << u"three 1, three 2, three 3, , three 1, three 2, three 3, "_s;
+        QTest::newRow("on one") << u"one-sided"_s << u"2, not collated"_s
+                                << u"three 1, three 1, three 2, three 2, three 3, three 3"_s;
+    }
+    void copiesIntoAFileAreSaidToComeOutAsTheyDo()
+    {
+        QFETCH(QString, side);
+        const IppEvePrinter printer(u"Duplex"_s, {u"application/pdf"_s}, {u"-2"_s});
+        const ProgramRunner runner(u"/nonexistent/cups.sock"_s);
+        QFile pages(runner.filePath(u"three.pdf"_s));
+        QVERIFY(pages.open(QIODevice::WriteOnly));
+        pages.write(numberedPdf("three", 3));
+        pages.close();
+        const QStringList asked{u"-d"_s,       printer.uri(),      u"-n"_s, u"2"_s,
+                                u"-o"_s,       u"sides="_s + side, u"-o"_s, u"collate=false"_s,
+                                u"--summary"_s};
+        const QString result = runner.filePath(u"result.pdf"_s);
+        const RunEnd end = runner.run(asked + QStringList{u"--output"_s, result, pages.fileName()});
+        QVERIFY2(end.status == 0, end.text().constData());
+        const QRegularExpression line(u"^Copies: (.*)$"_s, QRegularExpression::MultilineOption);
+        QTEST(line.match(end.out).captured(1), "copies");
+        QTEST(printedSides(readAll(result)).join(u", "_s), "sides");
+
+        // It does not say that it could keep the pages of its copies together, or apart.
+        const RunEnd sent = runner.run(asked + QStringList{pages.fileName()});
+        QCOMPARE(sent.status, 1);
+        QVERIFY2(sent.err.contains(u"collate=false"_s), sent.text().constData());
+        QVERIFY(printer.documents().isEmpty());
     }
 
     // Slides are turned into their places; the order of the printer's own layout is not known.

@@ -12,11 +12,8 @@ namespace corvana::test {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-} // namespace
-
-IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats)
+IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats,
+                             const QStringList &arguments)
 {
     const QString bus = m_folder.filePath(u"bus"_s);
     const QString spool = m_folder.filePath(u"spool"_s);
@@ -36,10 +33,12 @@ IppEvePrinter::IppEvePrinter(const QString &name, const QStringList &formats)
     m_printer.start(
         u"ippeveprinter"_s,
         // The name has an address of both kinds; it wants to listen on both.
-        {u"-n"_s, u"localhost"_s, u"-p"_s, QString::number(port()), u"-r"_s, u"off"_s, u"-k"_s,
-         u"-d"_s, spool, u"-f"_s,
-         formats.join(u','), // Without a command it would be busy with each job for seconds.
-         u"-c"_s, systemProgram(u"true"_s), u"-v"_s, name},
+        QStringList{
+            u"-n"_s, u"localhost"_s, u"-p"_s, QString::number(port()), u"-r"_s, u"off"_s, u"-k"_s,
+            u"-d"_s, spool, u"-f"_s,
+            formats.join(u','), // Without a command it would be busy with each job for seconds.
+            u"-c"_s, systemProgram(u"true"_s), u"-v"_s} +
+            arguments + QStringList{name},
         logFile,
         {u"DBUS_SYSTEM_BUS_ADDRESS=unix:path="_s + bus,
          // Its certificates would go to the home of whoever runs the test.

@@ -15,13 +15,15 @@ namespace corvana::test {
 class IppEvePrinter
 {
 public:
-    /// `formats` are the document formats that it takes; it keeps every document.
+    /// `formats` are the document formats that it takes; it keeps every document. `arguments` are
+    /// further ones of ippeveprinter ("-2" for a printer that prints on both sides).
     /// Errors: throws std::runtime_error with the printer's log.
     explicit IppEvePrinter(const QString &name = QStringLiteral("Everywhere"),
                            const QStringList &formats = {QStringLiteral("application/pdf"),
                                                          QStringLiteral("image/pwg-raster"),
                                                          QStringLiteral("image/urf"),
-                                                         QStringLiteral("image/jpeg")});
+                                                         QStringLiteral("image/jpeg")},
+                           const QStringList &arguments = {});
     ~IppEvePrinter();
     IppEvePrinter(const IppEvePrinter &) = delete;
     IppEvePrinter &operator=(const IppEvePrinter &) = delete;
