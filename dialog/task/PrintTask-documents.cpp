@@ -13,13 +13,6 @@
 
 namespace corvana {
 
-namespace {
-
-// How often it is looked whether a job has ended. Units: milliseconds.
-constexpr int kPatience = 200;
-
-} // namespace
-
 bool PrintTask::canChangeDocuments() const
 {
     switch (m_phase) {
@@ -40,12 +33,12 @@ void PrintTask::addDocuments(const QStringList &paths, const QStringList &elsewh
         return;
     QList<Document> documents = m_request.documents;
     QStringList problems;
-    bool waits = false;
+    QStringList coming;
     for (const QString &path : paths) {
         QString problem;
         // What stands behind one keeps its place.
-        if (waits = waits || isReadToItsEnd(path); waits) {
-            m_looks.toRead += path;
+        if (!coming.isEmpty() || isReadToItsEnd(path)) {
+            coming += path;
             continue;
         }
         const Document document = inspectDocument(path, &problem);
@@ -59,65 +52,20 @@ void PrintTask::addDocuments(const QStringList &paths, const QStringList &elsewh
     for (const QString &address : elsewhere)
         problems +=
             tr("%1 is not on this computer. Save it here to print it.").arg(terminalLine(address));
-    m_looks.unread += problems;
-    readDocuments();
+    m_coming.addProblems(problems);
+    m_coming.await(coming, ComingDocuments::AskedBy::User);
+    m_coming.proceed();
 }
 
-// What is written by another program comes when it is complete, one after the other, and nobody has
-// to wait for it.
-void PrintTask::readDocuments()
+void PrintTask::takeComing(const QList<Document> &documents, ComingDocuments::AskedBy by)
 {
-    const bool areSome = !m_looks.read.isEmpty() || !m_looks.readOfRequest.isEmpty();
-    if (areSome && !canChangeDocuments()) // when the job has ended
-        return QTimer::singleShot(kPatience, this, &PrintTask::readDocuments);
+    if (by == ComingDocuments::AskedBy::User)
+        return chooseDocuments(m_request.documents + documents);
     // Those that the task was started with are nobody's step.
-    if (const auto first = std::exchange(m_looks.readOfRequest, {}); !first.isEmpty()) {
-        m_history->addDocuments(first);
-        if (m_baseline.coming)
-            m_baseline.coming->documents += first;
-        setDocuments(m_request.documents + first);
-    }
-    if (!m_looks.read.isEmpty())
-        chooseDocuments(m_request.documents + std::exchange(m_looks.read, {}));
-    if (m_looks.reading) {
-        if (!m_looks.unread.isEmpty())
-            Q_EMIT said(m_looks.sayingWhatIsRead());
-        return;
-    }
-    if (m_looks.toRead.isEmpty()) {
-        if (!m_looks.unread.isEmpty())
-            say(TaskMessage::Kind::Problem, std::exchange(m_looks.unread, {}).join(u'\n'));
-        return;
-    }
-    const QString path = m_looks.toRead.takeFirst();
-    QList<Document> *behind = m_looks.requested > 0 ? &m_looks.readOfRequest : &m_looks.read;
-    m_looks.requested = std::max<qsizetype>(m_looks.requested - 1, 0);
-    const auto cancel = [this] {
-        m_looks.reading.reset();
-        Q_EMIT unsaid();
-        // What stands behind it was asked for as well. Its message takes the place of this one.
-        QMetaObject::invokeMethod(this, &PrintTask::readDocuments, Qt::QueuedConnection);
-    };
-    m_looks.beingRead = {.text = path == kStandardInput
-                                     ? tr("Standard input is being read.")
-                                     : tr("%1 is being read.").arg(shownName(path)),
-                         .offer = tr("Cancel"),
-                         .take = cancel,
-                         .staysWithoutPrinter = true};
-    Q_EMIT said(m_looks.sayingWhatIsRead());
-    m_looks.reading = std::make_unique<SlowWork>(
-        [this, path, behind](const std::stop_token &stop) -> SlowWork::Then {
-            QString problem;
-            const Document document = inspectDocument(path, &problem, DocumentKinds::Known, stop);
-            return [this, behind, document, problem] {
-                m_looks.reading.release()->deleteLater(); // which has called this
-                if (document.path.isEmpty())
-                    m_looks.unread += problem;
-                else
-                    *behind += document;
-                readDocuments();
-            };
-        });
+    m_history->addDocuments(documents);
+    if (m_baseline.coming)
+        m_baseline.coming->documents += documents;
+    setDocuments(m_request.documents + documents);
 }
 
 void PrintTask::removeDocument(int index)

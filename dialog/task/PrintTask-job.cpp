@@ -59,10 +59,8 @@ void PrintTask::print()
         return;
     }
     // Of a job without it nobody would notice what is missing.
-    if (m_looks.reading) {
-        Q_EMIT said(m_looks.sayingWhatIsRead());
-        return;
-    }
+    if (m_coming.isReading())
+        return m_coming.sayAgain();
     if (m_request.documents.isEmpty() && !m_request.isForSettings()) {
         Q_EMIT refused({{tr("Choose a document to print.")}});
         return;

@@ -34,8 +34,8 @@ void PrintTask::start()
     m_looks.documents.check(m_request.documents);
     choosePrinter(m_source.first());
     m_chosen.deliberately = !m_source.firstIsProvisional();
-    m_looks.requested = m_request.toRead.size();
-    addDocuments(m_request.toRead);
+    m_coming.await(m_request.toRead, ComingDocuments::AskedBy::Request);
+    m_coming.proceed();
 }
 
 void PrintTask::startUnattended()
@@ -53,9 +53,8 @@ void PrintTask::choosePrinter(const Printer &printer)
     close();
     if (m_baseline.coming && idOf(m_baseline.coming->printer) != idOf(printer))
         m_baseline.coming.reset();
-    Q_EMIT unsaid(); // and with it an offer that was meant for the other printer
-    if (m_looks.reading)
-        Q_EMIT said(m_looks.sayingWhatIsRead()); // of whichever printer
+    Q_EMIT unsaid();     // and with it an offer that was meant for the other printer
+    m_coming.sayAgain(); // of whichever printer
     m_chosen.printer = printer;
     m_chosen.deliberately = true;
     m_chosen.next.reset();

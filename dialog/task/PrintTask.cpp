@@ -54,6 +54,9 @@ PrintTask::PrintTask(PrintRequest request, TaskFace &face, QObject *parent)
         if (m_run.awaits != Run::Awaits::Sheets)
             Q_EMIT sheetsCounted();
     });
+    connect(&m_coming, &ComingDocuments::came, this, &PrintTask::takeComing);
+    connect(&m_coming, &ComingDocuments::said, this, &PrintTask::said);
+    connect(&m_coming, &ComingDocuments::unsaid, this, &PrintTask::unsaid);
     m_looks.textPatience.setSingleShot(true);
     connect(&m_looks.textPatience, &QTimer::timeout, this, &PrintTask::settleTexts);
     connect(&m_looks.documents, &DocumentChecks::changed, this, &PrintTask::documentsLookedAt);

@@ -12,6 +12,7 @@
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/sheets/ChoosablePages.h"
 #include "dialog/sheets/SheetCounter.h"
+#include "dialog/task/ComingDocuments.h"
 #include "dialog/task/JobSettings.h"
 #include "dialog/task/OfferedAttributes.h"
 #include "dialog/task/OpenedPrinter.h"
@@ -253,7 +254,7 @@ private:
     void say(TaskMessage::Kind kind, const QString &text);
     void chooseDocuments(QList<Document> documents);
     void setDocuments(const QList<Document> &documents);
-    void readDocuments();
+    void takeComing(const QList<Document> &documents, ComingDocuments::AskedBy by);
     void documentsLookedAt();
     void sayOfDocuments();
     QString problemOf(const Document &document) const;
@@ -363,6 +364,7 @@ private:
     SheetPreview m_preview; // that was known last
     Run m_run;
     TaskState::Looks m_looks;
+    ComingDocuments m_coming{[this] { return canChangeDocuments(); }};
     Phase m_phase = Phase::Fetching;
 };
 

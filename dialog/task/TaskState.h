@@ -10,14 +10,12 @@
 #include "dialog/documents/DocumentChecks.h"
 #include "dialog/job/Job.h"
 #include "dialog/job/ResultFile.h"
-#include "dialog/job/SlowWork.h"
 #include "dialog/printers/FetchedPrinter.h"
 #include "dialog/session/JobTicket.h"
 #include "dialog/session/PanelHost.h"
 #include "dialog/task/ByHand.h"
 #include "dialog/task/JobColors.h"
 #include "dialog/task/LeftSession.h"
-#include "dialog/task/TaskMessage.h"
 #include "dialog/task/TaskSettings.h"
 #include "dialog/text/TextCheck.h"
 
@@ -101,30 +99,13 @@ struct TaskState
     {
         DocumentChecks documents;
         std::unique_ptr<TextCheck> texts;
-        QStringList toRead;            // documents that somebody is writing yet
-        qsizetype requested = 0;       // of them, the first ones, with which the task was started
-        QList<Document> read;          // of them, to be printed with the others
-        QList<Document> readOfRequest; // and these before those
-        std::unique_ptr<SlowWork> reading;
-        TaskMessage beingRead; // what is said of it
-        QStringList unread;    // what could not be, and why
-        QTimer textPatience;   // until a job is made without the finding of the texts
-        QStringList declined;  // documents whose password somebody does not want to give
-        QStringList told;      // what was said of them
+        QTimer textPatience;  // until a job is made without the finding of the texts
+        QStringList declined; // documents whose password somebody does not want to give
+        QStringList told;     // what was said of them
         bool isAsking = false;
         bool areReady = false;   // of the job that is made; else they are waited for
         bool printsThen = false; // Print was chosen meanwhile
         bool countsThen = false;
-
-        // With what could not be read: there is one message at a time.
-        TaskMessage sayingWhatIsRead() const
-        {
-            TaskMessage message = beingRead;
-            if (!unread.isEmpty())
-                message.kind = TaskMessage::Kind::Problem;
-            message.text = (unread + QStringList{message.text}).join(u'\n');
-            return message;
-        }
     };
     struct Baseline
     {

@@ -2849,6 +2849,21 @@
     </message>
 </context>
 <context>
+    <name>corvana::ComingDocuments</name>
+    <message>
+        <source>Standard input is being read.</source>
+        <translation>Die Standardeingabe wird gelesen.</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1 wird gelesen.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -3746,18 +3761,6 @@ Für die Befehlszeile: %2</translation>
     <message>
         <source>%1 is not on this computer. Save it here to print it.</source>
         <translation>%1 liegt nicht auf diesem Computer. Speichern Sie es hier, um es zu drucken.</translation>
-    </message>
-    <message>
-        <source>Standard input is being read.</source>
-        <translation>Die Standardeingabe wird gelesen.</translation>
-    </message>
-    <message>
-        <source>%1 is being read.</source>
-        <translation>%1 wird gelesen.</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>

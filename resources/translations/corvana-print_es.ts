@@ -2849,6 +2849,21 @@
     </message>
 </context>
 <context>
+    <name>corvana::ComingDocuments</name>
+    <message>
+        <source>Standard input is being read.</source>
+        <translation>Leyendo la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Leyendo %1.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -3746,18 +3761,6 @@ En la línea de órdenes: %2</translation>
     <message>
         <source>%1 is not on this computer. Save it here to print it.</source>
         <translation>%1 no está en este equipo. Guárdelo aquí para imprimirlo.</translation>
-    </message>
-    <message>
-        <source>Standard input is being read.</source>
-        <translation>Leyendo la entrada estándar.</translation>
-    </message>
-    <message>
-        <source>%1 is being read.</source>
-        <translation>Leyendo %1.</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
     </message>
     <message>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>

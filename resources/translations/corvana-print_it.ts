@@ -2849,6 +2849,21 @@
     </message>
 </context>
 <context>
+    <name>corvana::ComingDocuments</name>
+    <message>
+        <source>Standard input is being read.</source>
+        <translation>Lettura dello standard input in corso.</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>Lettura di %1 in corso.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -3746,18 +3761,6 @@ Per la riga di comando: %2</translation>
     <message>
         <source>%1 is not on this computer. Save it here to print it.</source>
         <translation>%1 non si trova su questo computer. Salvarlo qui per stamparlo.</translation>
-    </message>
-    <message>
-        <source>Standard input is being read.</source>
-        <translation>Lettura dello standard input in corso.</translation>
-    </message>
-    <message>
-        <source>%1 is being read.</source>
-        <translation>Lettura di %1 in corso.</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
     </message>
     <message>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>

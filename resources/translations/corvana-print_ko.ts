@@ -2848,6 +2848,21 @@
     </message>
 </context>
 <context>
+    <name>corvana::ComingDocuments</name>
+    <message>
+        <source>Standard input is being read.</source>
+        <translation>표준 입력을 읽는 중입니다.</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>%1을(를) 읽는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -3744,18 +3759,6 @@ For the command line: %2</source>
     <message>
         <source>%1 is not on this computer. Save it here to print it.</source>
         <translation>%1은(는) 이 컴퓨터에 없습니다. 인쇄하려면 여기에 저장하십시오.</translation>
-    </message>
-    <message>
-        <source>Standard input is being read.</source>
-        <translation>표준 입력을 읽는 중입니다.</translation>
-    </message>
-    <message>
-        <source>%1 is being read.</source>
-        <translation>%1을(를) 읽는 중입니다.</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
     </message>
     <message>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>

@@ -1823,6 +1823,21 @@
     </message>
 </context>
 <context>
+    <name>corvana::ComingDocuments</name>
+    <message>
+        <source>Standard input is being read.</source>
+        <translation>正在读取标准输入。</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>正在读取 %1。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -2378,18 +2393,6 @@ For the command line: %2</source>
     <message>
         <source>%1 is not on this computer. Save it here to print it.</source>
         <translation>%1 不在这台计算机上。请先保存到这里再打印。</translation>
-    </message>
-    <message>
-        <source>Standard input is being read.</source>
-        <translation>正在读取标准输入。</translation>
-    </message>
-    <message>
-        <source>%1 is being read.</source>
-        <translation>正在读取 %1。</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
     </message>
     <message>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>

@@ -2848,6 +2848,21 @@
     </message>
 </context>
 <context>
+    <name>corvana::ComingDocuments</name>
+    <message>
+        <source>Standard input is being read.</source>
+        <translation>正在讀取標準輸入。</translation>
+    </message>
+    <message>
+        <source>%1 is being read.</source>
+        <translation>正在讀取 %1。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>corvana::Conversion</name>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -3744,18 +3759,6 @@ For the command line: %2</source>
     <message>
         <source>%1 is not on this computer. Save it here to print it.</source>
         <translation>%1 不在這部電腦上。請先儲存到這裡再列印。</translation>
-    </message>
-    <message>
-        <source>Standard input is being read.</source>
-        <translation>正在讀取標準輸入。</translation>
-    </message>
-    <message>
-        <source>%1 is being read.</source>
-        <translation>正在讀取 %1。</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
     </message>
     <message>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
