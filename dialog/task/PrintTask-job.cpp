@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include <QFileInfo>
+
 #include "dialog/job/FileJob.h"
 #include "dialog/job/PageChoice.h"
+#include "dialog/job/ResultFormat.h"
 #include "dialog/job/SeparateJobs.h"
 #include "dialog/job/ServerJob.h"
 #include "dialog/session/OptionNames.h"
@@ -286,6 +289,14 @@ void PrintTask::interrupt(OnInterrupt job)
     m_run.job->cancel();
 }
 
+// Whoever types such a name believes it, and so does every program that opens the file.
+bool PrintTask::isNoPdfInSpiteOfItsName(const QString &file) const
+{
+    constexpr QLatin1StringView pdf("pdf");
+    return QFileInfo(file).suffix().compare(pdf, Qt::CaseInsensitive) == 0 && !savesAsPdf() &&
+           !passesFilesOn() && resultSuffix(m_opened->session->ppd()) != pdf;
+}
+
 void PrintTask::jobFinished(const JobOutcome &ofJob)
 {
     using Kind = JobOutcome::Kind;
@@ -295,7 +306,10 @@ void PrintTask::jobFinished(const JobOutcome &ofJob)
     if (!whole)
         return;
     m_run.hand.reset();
-    const JobOutcome &outcome = *whole;
+    JobOutcome outcome = *whole;
+    if (outcome.isDone() && isNoPdfInSpiteOfItsName(outcome.file))
+        outcome.text = tr("Printed to %1, which holds data for the printer and is no PDF document")
+                           .arg(outcome.file);
     m_run.outcome = outcome;
     noteInJournal(outcome);
     Memory &memory = m_memory[idOf(m_chosen.printer)];

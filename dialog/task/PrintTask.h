@@ -345,6 +345,7 @@ private:
     SheetArrangement arrangementOf(const JobTicket &job) const;
     SheetPreview previewOf(const JobSheets &sheets, const JobTicket &ticket) const;
     SheetPreview beginOf(const JobSheets &first, const JobTicket &job) const;
+    bool isNoPdfInSpiteOfItsName(const QString &file) const;
     void jobFinished(const JobOutcome &outcome);
 
     PrintRequest m_request;

@@ -3766,6 +3766,10 @@ Für die Befehlszeile: %2</translation>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>Die Blätter können im Fach bleiben: Der zweite Durchgang wird mit den Einstellungen des ersten gedruckt.</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>In %1 gedruckt; die Datei enthält Daten für den Drucker und ist kein PDF-Dokument</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

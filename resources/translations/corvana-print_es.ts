@@ -3766,6 +3766,10 @@ En la línea de órdenes: %2</translation>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>Las hojas pueden quedarse en la bandeja: las segundas caras se imprimen con los ajustes de las primeras.</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>Impreso en %1, que contiene datos para la impresora y no es un documento PDF</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

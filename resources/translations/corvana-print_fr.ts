@@ -3766,6 +3766,10 @@ Pour la ligne de commande : %2</translation>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>Les feuilles peuvent rester dans le bac : le second passage est imprimé avec les réglages du premier.</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>Imprimé dans %1, qui contient des données pour l’imprimante et n’est pas un document PDF</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3766,6 +3766,10 @@ Per la riga di comando: %2</translation>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>I fogli possono restare nel vassoio: le seconde facciate vengono stampate con le impostazioni delle prime.</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>Stampato su %1, che contiene dati per la stampante e non è un documento PDF</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -2398,6 +2398,10 @@ For the command line: %2</source>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>用紙はトレイに入れたままで構いません。もう一方の面は、1 回目の面と同じ設定で印刷されます。</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>%1 に出力しました。内容はプリンター用のデータで、PDF 文書ではありません</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3764,6 +3764,10 @@ For the command line: %2</source>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>용지는 용지함에 그대로 두어도 됩니다. 다른 면은 첫 번째 면의 설정으로 인쇄됩니다.</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>%1에 인쇄했습니다. 내용은 프린터용 데이터이며 PDF 문서가 아닙니다</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3766,6 +3766,10 @@ Na linha de comando: %2</translation>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>As folhas podem ficar na bandeja: as segundas faces são impressas com as configurações das primeiras.</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>Impresso em %1, que contém dados para a impressora e não é um documento PDF</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

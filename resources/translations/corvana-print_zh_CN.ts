@@ -2398,6 +2398,10 @@ For the command line: %2</source>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>纸张可以留在纸盒中：另一面将按第一面的设置打印。</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>已打印到 %1，其内容是供打印机使用的数据，不是 PDF 文档</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

@@ -3764,6 +3764,10 @@ For the command line: %2</source>
         <source>The sheets can stay in the tray: the other sides are printed with the settings of the first ones.</source>
         <translation>紙張可以留在紙匣中：另一面會以第一面的設定列印。</translation>
     </message>
+    <message>
+        <source>Printed to %1, which holds data for the printer and is no PDF document</source>
+        <translation>已列印到 %1，其內容是供印表機使用的資料，不是 PDF 文件</translation>
+    </message>
 </context>
 <context>
     <name>corvana::PrintWindow</name>

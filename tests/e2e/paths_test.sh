@@ -51,4 +51,23 @@ oddNamesPrint() {
     expect_equal "$(ls -A "$folder")" ''
 }
 
+# The printer of the samples takes PostScript.
+aNameThatSaysPdfIsNotBelieved() {
+    output=$folder/letter.PDF
+    print
+    expect_printed
+    grep -qF "Printed to $output, which holds data for the printer and is no PDF document" \
+        "$work/out" || fail 'nobody says that it is no PDF'
+    output=$folder/letter.ps
+    print
+    expect_printed
+    ! grep -qF 'no PDF document' "$work/out" || fail 'nobody takes it for a PDF'
+    changed_ppd 's#application/vnd.cups-postscript application/postscript 0 -#application/vnd.cups-pdf application/pdf 0 -#'
+    output=$folder/real.pdf
+    print
+    expect_printed
+    expect_equal "$(head -c 5 "$output")" '%PDF-'
+    ! grep -qF 'no PDF document' "$work/out" || fail 'a PDF is called none'
+}
+
 run_tests
