@@ -232,7 +232,7 @@ void CheckedDocument::describe(const std::string &password, Checked &answer)
     answer.status = answer.pages > 0 ? Status::Done : Status::Damaged;
 }
 
-// Answers whether it is one. One that is turned has a page, as every picture has; in any other
+// Answers whether it is one. One that is copied has a page, as every picture has; in any other
 // there is nothing to be found.
 bool CheckedDocument::describePicture(Checked &answer)
 {
@@ -240,7 +240,7 @@ bool CheckedDocument::describePicture(Checked &answer)
     if (looksLikePdf(file) || !file.starts_with("\xff\xd8"))
         return false;
     m_picture = notesOfPicture(file);
-    if (m_picture.orientation != 1) {
+    if (m_picture.needsCopy()) {
         answer.mayPrint = 1;
         answer.pages = 1;
         answer.status = Status::Done;
@@ -263,7 +263,7 @@ Status CheckedDocument::copyPicture(int file) const
 Status CheckedDocument::copy(int file)
 {
     try {
-        if (m_picture.orientation != 1)
+        if (m_picture.needsCopy())
             return copyPicture(file);
         Content &content = *m_content;
         if (content.tree.lost > 0 || content.tree.isLoose)

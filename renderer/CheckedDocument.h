@@ -13,7 +13,8 @@ namespace corvana::renderer {
 /// A PDF that is looked at before it is printed: whether it opens without a password, whether it
 /// may be printed, which of its pages can be read; and of which a copy is made that has no password
 /// and no pages but those. Or a JPEG that a camera notes to be turned, of which a copy is made that
-/// is seen as it lies; any other picture is none of these.
+/// is seen as it lies, or one that CUPS does not know for a JPEG; any other picture is none of
+/// these.
 class CheckedDocument
 {
 public:

@@ -16,6 +16,7 @@ constexpr unsigned char kApp0 = 0xe0;
 constexpr unsigned char kApp1 = 0xe1;
 constexpr unsigned char kApp2 = 0xe2;
 constexpr unsigned char kApp14 = 0xee;
+constexpr unsigned char kApp15 = 0xef;
 
 constexpr std::string_view kJfif{"JFIF\0", 5};
 constexpr std::string_view kExif{"Exif\0\0", 6};
@@ -183,6 +184,12 @@ std::optional<std::vector<Segment>> segmentsOf(std::string_view file)
     }
 }
 
+// A file of which there are segments has four bytes.
+bool isBare(std::string_view file)
+{
+    return byteAt(file, 3) < kApp0 || byteAt(file, 3) > kApp15;
+}
+
 bool isExif(const Segment &segment)
 {
     return segment.mark == kApp1 && segment.content.starts_with(kExif);
@@ -204,6 +211,7 @@ PictureNotes notesOfPicture(std::string_view file)
     }
     PictureNotes notes;
     notes.orientation = places.orientation;
+    notes.isBare = isBare(file);
     if (notes.orientation == 1)
         return notes;
     bool hasExif = false;

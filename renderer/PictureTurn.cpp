@@ -239,10 +239,25 @@ Bytes withNotes(const Output &picture, const PictureNotes &notes)
     return file;
 }
 
+// The picture stays what it is, byte by byte: what a known segment would say of its colours and
+// its resolution stays unsaid.
+Bytes withEmptySegment(std::string_view file)
+{
+    constexpr std::size_t kBegin = 2;
+    constexpr std::array<unsigned char, 4> kEmptyApp15{0xff, 0xef, 0, 2};
+    Bytes labelled(file.begin(), file.begin() + kBegin);
+    labelled.reserve(file.size() + kEmptyApp15.size());
+    labelled.insert(labelled.end(), kEmptyApp15.begin(), kEmptyApp15.end());
+    labelled.insert(labelled.end(), file.begin() + kBegin, file.end());
+    return labelled;
+}
+
 } // namespace
 
 std::vector<unsigned char> turnedPicture(std::string_view file, const PictureNotes &notes)
 {
+    if (notes.orientation == 1 && notes.isBare)
+        return withEmptySegment(file);
     if (notes.orientation <= 1 || notes.orientation > 8)
         return {};
     Output output;

@@ -18,6 +18,12 @@ struct PictureNotes
     /// their marks and lengths.
     std::string segments{};
     bool hasAdobeMark = false; ///< which says how four colours are to be read
+    /// Whether it begins with what no program that goes by the first four bytes takes for a JPEG:
+    /// programs that make pictures small for the web leave all but the picture out. CUPS' filters
+    /// print no such file.
+    bool isBare = false;
+
+    bool needsCopy() const { return orientation != 1 || isBare; }
 };
 
 /// Whether width and height change places when such a picture is turned.
@@ -30,9 +36,10 @@ inline bool swapsSides(int orientation)
 /// it that could be relied on says otherwise.
 PictureNotes notesOfPicture(std::string_view file);
 
-/// A JPEG that is seen as it lies. A turned copy is the very same picture where its edges allow
-/// that; else it is compressed anew, as well as JPEG can.
-/// Errors: empty, where it is damaged, or takes more memory than there is for it.
+/// A JPEG that is seen as it lies, and known as one by its beginning. A turned copy is the very
+/// same picture where its edges allow that; else it is compressed anew, as well as JPEG can. One
+/// that is only bare gets an empty segment before everything else, which says nothing. Errors:
+/// empty, where it is damaged, or takes more memory than there is for it.
 std::vector<unsigned char> turnedPicture(std::string_view file, const PictureNotes &notes);
 
 } // namespace corvana::renderer

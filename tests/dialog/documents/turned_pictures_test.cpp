@@ -78,6 +78,7 @@ QList<UntouchedRow> untouchedRows()
         {"a list in the head", listInHead},
         {"a segment that is longer than the file", segmentBeyond},
         {"a segment without its own length", segmentOfNothing},
+        {"nothing but a beginning", "\xff\xd8\xff\xdb"_ba},
         {"an empty EXIF", withExif(upright(), {})},
         {"nothing behind it", lying().first(60)},
         {"nothing of the picture", lying().first(lying().indexOf("\xff\xda") + 4)},
@@ -254,6 +255,25 @@ private Q_SLOTS:
         unsaid.replace("Adobe", "Nobod");
         QCOMPARE(printed(unsaid).path, m_folder.filePath(u"a.jpg"_s));
         tjDestroy(library);
+    }
+
+    // CUPS' filters go by the first four bytes, which programs that make pictures small for the web
+    // leave as they come.
+    void aPictureThatBeginsAtOnceIsMadeOneThatCupsKnows()
+    {
+        const QByteArray whole = upright();
+        QCOMPARE(whole.mid(2, 2), QByteArray("\xff\xe0"));
+        const QByteArray tables = whole.mid(whole.indexOf("\xff\xdb"));
+        for (const QByteArray &before : {QByteArray(), QByteArray("\xff\xfe\0\x04no", 6)}) {
+            const QByteArray bare = "\xff\xd8" + before + tables;
+            const Document document = printed(bare);
+            QVERIFY(document.path != m_folder.filePath(u"a.jpg"_s));
+            QCOMPARE(bytesOf(document.path),
+                     QByteArray("\xff\xd8\xff\xef\0\x02", 6) + before + tables);
+            QCOMPARE(read(document.path, false), read(m_folder.filePath(u"a.jpg"_s), false));
+            QVERIFY(!read(document.path, false).isNull());
+            QCOMPARE(bytesOf(m_folder.filePath(u"a.jpg"_s)), bare);
+        }
     }
 
     void everythingElseStaysWhatItIs()

@@ -114,6 +114,22 @@ private Q_SLOTS:
         QVERIFY(difference(other, expected) > kDifferent);
     }
 
+    // Made small for the web: CUPS takes it for no picture.
+    void oneThatSaysNothingOfItselfPrintsAsAnyOther()
+    {
+        addQueue(kPdfPrinter);
+        const QByteArray file = jpegOf(corneredPicture(kWide));
+        const QByteArray bare = "\xff\xd8" + file.mid(file.indexOf("\xff\xdb"));
+        const Document small = photo(u"small.jpg"_s, bare);
+        const QImage printed = drawn(streamsOf(requestFor({small})).value(0));
+        const QImage expected = drawn(streamsOf(requestFor({upright()})).value(0));
+        QVERIFY(!expected.isNull());
+        QVERIFY2(difference(printed, expected) < kAlike,
+                 qPrintable(QString::number(difference(printed, expected))));
+        open(requestFor({small}));
+        QVERIFY(preview().files.value(0));
+    }
+
     void thatIsWhatIsShown()
     {
         addQueue(kPdfPrinter);
