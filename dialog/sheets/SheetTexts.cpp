@@ -33,12 +33,13 @@ QString joined(QStringList parts)
 
 QString pagesText(int pages)
 {
-    return pages == 1 ? Texts::tr("1 page") : Texts::tr("%1 pages").arg(pages);
+    return pages == 1 ? Texts::tr("1 page") : Texts::tr("%1 pages").arg(QLocale().toString(pages));
 }
 
 QString sheetsText(qint64 sheets)
 {
-    return sheets == 1 ? Texts::tr("1 sheet") : Texts::tr("%1 sheets").arg(sheets);
+    return sheets == 1 ? Texts::tr("1 sheet")
+                       : Texts::tr("%1 sheets").arg(QLocale().toString(sheets));
 }
 
 enum class At { Begin, Middle };
@@ -198,10 +199,18 @@ QString countText(const JobSheets &sheets, const PageChoice &choice, int copies,
     if (covers == 1)
         all = Texts::tr("%1, and 1 cover sheet").arg(all);
     else if (covers > 1)
-        all = Texts::tr("%1, and %2 cover sheets").arg(all, QString::number(covers));
+        all = Texts::tr("%1, and %2 cover sheets").arg(all, QLocale().toString(covers));
     if (copies == 1)
         return Texts::tr("%1 = %2").arg(pagesText(pages), all);
-    return Texts::tr("%1 × %2 copies = %3").arg(pagesText(pages), QString::number(copies), all);
+    return Texts::tr("%1 × %2 copies = %3").arg(pagesText(pages), QLocale().toString(copies), all);
+}
+
+QString countLine(const JobSheets &sheets, const PageChoice &choice, int copies, int covers)
+{
+    const QString text = countText(sheets, choice, copies, covers);
+    return sheetsOfOneCopy(sheets)
+               ? text
+               : QCoreApplication::translate("Summary", "%1: %2").arg(Texts::tr("Sheets"), text);
 }
 
 QString scaleText(const JobSheets &sheets)

@@ -29,6 +29,8 @@ QString oneSidedReason(const JobSheets &sheets);
 /// "9 pages × 2 copies = 6 sheets, and 1 cover sheet"; says so where nobody could count them.
 /// `covers`: how many sheets the queue adds to the job, whatever the number of copies.
 QString countText(const JobSheets &sheets, const PageChoice &choice, int copies, int covers = 0);
+/// The same where no title stands before it.
+QString countLine(const JobSheets &sheets, const PageChoice &choice, int copies, int covers = 0);
 
 /// "A4 at 96 %, Letter at 93 %"; empty where everything has its actual size.
 QString scaleText(const JobSheets &sheets);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QLocale>
 #include <QLoggingCategory>
 
 #include "dialog/job/PageChoice.h"
@@ -105,12 +106,12 @@ std::optional<TaskRefusal> PrintTask::askForManySheets()
     const qint64 all = qint64(once.value_or(0)) * m_run.ticket.copies;
     if (most == 0 || all <= most || m_request.manySheetsAreMeant)
         return std::nullopt;
-    const QString what = tr("This job takes %1 sheets of paper.").arg(all);
+    const QString what = tr("This job takes %1 sheets of paper.").arg(QLocale().toString(all));
     const std::optional<bool> may = m_face.mayPrintMany(what);
     if (!may)
         return TaskRefusal{
             {tr("This job takes %1 sheets of paper. More than %2 are printed only with --yes.")
-                 .arg(QString::number(all), QString::number(most))}};
+                 .arg(QLocale().toString(all), QLocale().toString(most))}};
     return *may ? std::nullopt : std::optional(TaskRefusal{{}, TaskRefusal::Place::Nowhere, true});
 }
 

@@ -203,8 +203,9 @@ SheetPreview PrintTask::previewOf(const JobSheets &sheets, const JobTicket &job)
         (empty.isEmpty() ? others : QStringList()) + empty + missingPages(sheets, choice);
     preview.reason = problems.join(u' ');
     preview.canBePrinted = empty.isEmpty();
+    preview.reasonTellsSo = !others.isEmpty();
     const SheetArrangement arrangement = arrangementOf(job);
-    preview.counts = countText(sheets, choice, job.copies, coverSheets(arrangement));
+    preview.counts = countLine(sheets, choice, job.copies, coverSheets(arrangement));
     preview.plan = planSheets(sheets, arrangement);
     preview.marks = sheetMarks(preview.plan, sheets, choice);
     for (int i = 0; i < m_request.documents.size(); ++i)

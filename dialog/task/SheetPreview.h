@@ -27,6 +27,7 @@ struct SheetPreview
     QString reason{};
     /// Whether printing may work all the same where nothing can be shown.
     bool canBePrinted = true;
+    bool reasonTellsSo = false; ///< whether that stands in the reason already
     QString counts{}; ///< "9 pages × 2 copies = 6 sheets"; of this job, so empty while not Known
     SheetPlan plan{};
     /// What there is to be said of single sheets.

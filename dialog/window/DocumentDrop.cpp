@@ -93,8 +93,10 @@ bool DocumentDrop::isOverPart(const QObject *watched, const QDropEvent &event) c
 
 void DocumentDrop::hover(QDropEvent &event)
 {
-    if (!m_task.canChangeDocuments() || droppedDocuments(*event.mimeData()).files.isEmpty())
+    if (!m_task.canChangeDocuments() || droppedDocuments(*event.mimeData()).files.isEmpty()) {
+        m_pane.setDropHovers(false); // documents that would have been taken a moment ago
         return event.ignore();
+    }
     // While it hovers as well: some programs go by that alone.
     acceptToKeep(event);
     m_pane.setDropHovers(event.isAccepted());

@@ -136,7 +136,7 @@ ShownPreview TaskPreview::shown(const SheetPreview &preview) const
     }
     switch (preview.state) {
     case SheetPreview::State::None:
-        shown.note = preview.canBePrinted ? note() : QString();
+        shown.note = preview.canBePrinted && !preview.reasonTellsSo ? note() : QString();
         break;
     case SheetPreview::State::Counting:
         shown.state = State::Updating;

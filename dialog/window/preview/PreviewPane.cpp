@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "dialog/window/preview/DocumentArea.h"
+#include "dialog/window/preview/DropHint.h"
 #include "dialog/window/preview/PreviewPlaceholder.h"
 #include "dialog/window/preview/PreviewRows.h"
 #include "dialog/window/preview/ZoomControl.h"
@@ -88,6 +89,16 @@ void PreviewPane::setFolded(bool folded, bool canUnfold)
 void PreviewPane::setDropHovers(bool hovers)
 {
     m_placeholder->setDropHovers(hovers);
+    // Without a document the placeholder says all that is to be said.
+    const bool isHinted = hovers && (m_isFolded || m_placeholder->chooseButton()->isHidden());
+    if (isHinted && !m_dropHint)
+        m_dropHint = new DropHint(this);
+    if (!m_dropHint)
+        return;
+    const QRect shown = m_documents->geometry() | m_stack->geometry();
+    m_dropHint->setGeometry(m_isFolded ? rect() : shown);
+    m_dropHint->raise();
+    m_dropHint->setVisible(isHinted);
 }
 
 void PreviewPane::arrange()

@@ -12,6 +12,7 @@ namespace corvana {
 class ColorsRow;
 class CountsRow;
 class DocumentArea;
+class DropHint;
 class PreviewPlaceholder;
 class SheetsRow;
 
@@ -79,6 +80,7 @@ private:
     SheetsRow *m_sheetsRow;
     ColorsRow *m_colorsRow;
     CountsRow *m_countsRow;
+    DropHint *m_dropHint = nullptr; ///< once something was held above
     ColorTransform m_colors;
     bool m_isFolded = false;
     bool m_isComplete = false;

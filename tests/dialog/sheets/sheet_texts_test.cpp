@@ -69,6 +69,7 @@ const Count kCounts[] = {
     {"two-sided copies", {document(9, 5)}, true, {}, 2, u"9 pages × 2 copies = 6 sheets"_s},
     {"chosen pages", {document(9, 2)}, false, {u"1-2"_s}, 3, u"2 pages × 3 copies = 6 sheets"_s},
     {"two documents", {document(1, 1), document(2, 2)}, true, {}, 1, u"3 pages = 2 sheets"_s},
+    {"thousands", {document(2000, 2000)}, false, {}, 3, u"2.000 pages × 3 copies = 6.000 sheets"_s},
     {"nobody counted", {{u"a.pdf"_s}}, false, {}, 1, u"could not be counted"_s},
 };
 
@@ -122,6 +123,13 @@ private Q_SLOTS:
     }
 
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
+
+    // Alone it would be no sentence.
+    void whatNobodyCountedIsNamedWhereItStandsAlone()
+    {
+        QCOMPARE(countLine({{{u"a.pdf"_s}}}, {}, 1), u"Sheets: could not be counted"_s);
+        QCOMPARE(countLine({{document(9, 9)}}, {}, 1), u"9 pages = 9 sheets"_s);
+    }
 
     void documentsOfWhichNothingComesOutAreNamed_data() { addRows(kEmpty); }
     void documentsOfWhichNothingComesOutAreNamed()

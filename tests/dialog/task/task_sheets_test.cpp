@@ -313,6 +313,21 @@ private Q_SLOTS:
         QVERIFY(preview.plan.sheets.isEmpty());
     }
 
+    // The reason says whether printing may work; nothing is to be said of that beside it.
+    void whereNothingCouldBeLaidOutTheReasonTellsOfPrinting()
+    {
+        useFilter("exit 1\n");
+        PrintTask &task = m_scene->open(request({{kA4}}));
+        QSignalSpy counted(&task, &PrintTask::sheetsCounted);
+        task.countSheets();
+        QVERIFY(counted.wait(kSheetsPatience));
+        const SheetPreview preview = task.sheetPreview();
+        QCOMPARE(preview.state, SheetPreview::State::None);
+        QVERIFY(preview.reason.endsWith(u"Printing it may work all the same."_s));
+        QVERIFY(preview.reasonTellsSo);
+        QCOMPARE(preview.counts, u"Sheets: could not be counted"_s);
+    }
+
     void countingCanBeCanceled()
     {
         useFilter("sleep 300\n");

@@ -1,4 +1,5 @@
 #include <QDropEvent>
+#include <QImage>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSysInfo>
@@ -62,6 +63,11 @@ private:
         answers.isTaken = event.isAccepted();
         answers.dropped = event.dropAction();
         return answers;
+    }
+    void hover(const QMimeData &data) const
+    {
+        QDragEnterEvent event({5, 5}, kAnything, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&m_window->dialog(), &event);
     }
     Answers drop(const QList<QUrl> &urls, Qt::DropActions possible = kAnything)
     {
@@ -160,6 +166,51 @@ private Q_SLOTS:
         QVERIFY(drop(data, edit, kAnything).isTaken);
         QTRY_COMPARE(titles(), (QStringList{u"first.txt"_s, u"a.txt"_s}));
         QVERIFY2(!edit->text().contains(u"file:"_s), qPrintable(edit->text()));
+    }
+
+    // Where there are documents already: their list and their pages show that more are taken.
+    void whatHoversIsShownOverDocumentsAndPages()
+    {
+        m_window->dialog().resize(1120, 760);
+        auto *area = m_window->child<QWidget>(u"preview"_s);
+        auto *sheets = m_window->child<QWidget>(u"sheets"_s);
+        QVERIFY(drop({file(u"a.txt"_s)}).isTaken);
+        auto *list = m_window->child<QWidget>(u"documents"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(list->isVisible() && sheets->isVisible(), kWindowPatience);
+        const QImage before = area->grab().toImage();
+        QMimeData data;
+        data.setUrls({file(u"b.txt"_s)});
+        hover(data);
+        const auto *hint = m_window->child<QWidget>(u"dropHint"_s);
+        QVERIFY(hint && hint->isVisible());
+        const QRect shown(hint->mapTo(area, QPoint()), hint->size());
+        for (QWidget *part : {list, sheets})
+            QVERIFY(shown.contains(QRect(part->mapTo(area, QPoint()), part->size())));
+        const QImage hovered = area->grab().toImage();
+        const QPoint corner = list->mapTo(area, QPoint(list->width() / 2, list->height() - 3));
+        QVERIFY(hovered.pixel(corner) != before.pixel(corner));
+        // The drop goes to what lies below.
+        QVERIFY(area->childAt(shown.center()) != hint);
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&m_window->dialog(), &leave);
+        QVERIFY(!hint->isVisible());
+        hover(data);
+        QVERIFY(hint->isVisible());
+        QVERIFY(drop(data, &m_window->dialog(), kAnything).isTaken);
+        QVERIFY(!hint->isVisible());
+    }
+
+    void whatIsNotTakenHasNoHint()
+    {
+        QMimeData here;
+        here.setUrls({file(u"a.txt"_s)});
+        hover(here);
+        const auto *hint = m_window->child<QWidget>(u"dropHint"_s);
+        QVERIFY(hint && hint->isVisible());
+        QMimeData elsewhere;
+        elsewhere.setUrls({QUrl(u"https://example.com/b.pdf"_s)});
+        hover(elsewhere);
+        QVERIFY(!hint->isVisible());
     }
 
     // Other texts are still dropped into fields.

@@ -276,6 +276,18 @@ private Q_SLOTS:
         QVERIFY(reason->font().pointSizeF() > usual);
     }
 
+    // One sentence on whether it can be printed, and not another one that says more.
+    void aPictureThatCannotBeLaidOutIsSaidOnce()
+    {
+        open({writeFile(m_folder->filePath(u"bad.jpg"_s), "\xff\xd8\xff\xe0 and no picture")});
+        const auto *reason = child<QLabel>(u"noPreviewReason"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(reason->isVisible() &&
+                                     reason->text().endsWith(u"may work all the same."_s),
+                                 kWindowPatience);
+        QVERIFY(!child<QLabel>(u"noPreviewNote"_s)->isVisible());
+        QCOMPARE(child<QLabel>(u"counts"_s)->text(), u"Sheets: could not be counted"_s);
+    }
+
     void tabGoesInTheOrderOfReading()
     {
         open(sample());
