@@ -256,12 +256,11 @@ Bytes withEmptySegment(std::string_view file)
 
 std::vector<unsigned char> turnedPicture(std::string_view file, const PictureNotes &notes)
 {
-    if (notes.orientation == 1 && notes.isBare)
-        return withEmptySegment(file);
-    if (notes.orientation <= 1 || notes.orientation > 8)
-        return {};
     Output output;
-    return Turner(file, notes).turn(notes, output) ? withNotes(output, notes) : Bytes();
+    const bool isToBeTurned = notes.orientation > 1 && notes.orientation <= 8;
+    if (isToBeTurned && Turner(file, notes).turn(notes, output))
+        return withNotes(output, notes);
+    return notes.isBare ? withEmptySegment(file) : Bytes();
 }
 
 } // namespace corvana::renderer

@@ -13,6 +13,14 @@ void shorten(QByteArray &line)
         line.truncate(qMax(qsizetype(0), line.lastIndexOf(' ', FilterLog::kLongestLine)));
 }
 
+// "imagetopdf (PID 4711) stopped with status 1" is what the chain says of a filter, behind what the
+// filter has said itself.
+bool tellsOnlyThatItStopped(const QByteArray &line)
+{
+    const qsizetype number = line.indexOf(" (PID ");
+    return number > 0 && line.indexOf(") stopped with status ", number) > 0;
+}
+
 } // namespace
 
 void FilterLog::begin(const QString &program)
@@ -49,10 +57,12 @@ QString FilterLog::error() const
 
 void FilterLog::take(const QByteArray &line, QString *ofFilters, QString *own) const
 {
-    if (line.startsWith("ERROR:"))
-        *ofFilters = QString::fromUtf8(line.mid(6)).trimmed();
-    else if (own->isEmpty() && line.startsWith(m_ownPrefix))
+    if (line.startsWith("ERROR:")) {
+        if (ofFilters->isEmpty() || !tellsOnlyThatItStopped(line))
+            *ofFilters = QString::fromUtf8(line.mid(6)).trimmed();
+    } else if (own->isEmpty() && line.startsWith(m_ownPrefix)) {
         *own = QString::fromUtf8(line.mid(m_ownPrefix.size())).trimmed();
+    }
 }
 
 } // namespace corvana

@@ -20,8 +20,8 @@ public:
     /// Answers the lines that are whole now; a line may come in pieces.
     QByteArrayList add(const QByteArray &said);
     /// Why the program failed, in its own words and without their prefix: what its filters said
-    /// last, else what it said first itself, since the rest only follows from that. Empty when
-    /// nothing was said.
+    /// last but that one of them has stopped, else what it said first itself, since the rest only
+    /// follows from that. Empty when nothing was said.
     QString error() const;
 
 private:

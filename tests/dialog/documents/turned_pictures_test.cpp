@@ -254,6 +254,10 @@ private Q_SLOTS:
         QByteArray unsaid = withOrientation(stored, 6);
         unsaid.replace("Adobe", "Nobod");
         QCOMPARE(printed(unsaid).path, m_folder.filePath(u"a.jpg"_s));
+        // It is printed all the same where CUPS would not know it.
+        const QByteArray mark("\xff\xfe\0\x04no", 6);
+        QCOMPARE(bytesOf(printed(QByteArray(unsaid).insert(2, mark)).path),
+                 QByteArray(unsaid).insert(2, QByteArray("\xff\xef\0\x02", 4) + mark));
         tjDestroy(library);
     }
 

@@ -37,6 +37,17 @@ private Q_SLOTS:
         QVERIFY(m_log.error().isNull());
     }
 
+    void whyAFilterStoppedCountsMoreThanThatItDid()
+    {
+        m_log.add("ERROR: No such picture!\nERROR: imagetopdf (PID 4711) stopped with status 1\n");
+        QCOMPARE(m_log.error(), u"No such picture!"_s);
+        m_log.add("ERROR: pdftopdf (PID 4712) crashed on signal 11\n");
+        QCOMPARE(m_log.error(), u"pdftopdf (PID 4712) crashed on signal 11"_s);
+        m_log.begin(u"cupsfilter"_s);
+        m_log.add("ERROR: imagetopdf (PID 4711) stopped with status 1\n");
+        QCOMPARE(m_log.error(), u"imagetopdf (PID 4711) stopped with status 1"_s);
+    }
+
     // As a program in PostScript can write it.
     void whatHasNoEndIsNotKept()
     {
