@@ -134,6 +134,17 @@ void SheetView::updateCurrent()
     tellLookedAt();
 }
 
+// The current side is framed; of one that is larger than the view, or was scrolled away, nothing of
+// that is seen.
+bool SheetView::isFocusOutOfSight() const
+{
+    if (!hasFocus() || m_sheets.plan.sheets.isEmpty())
+        return false;
+    const QRect paper = m_layout.paper(m_current).translated(-offset());
+    const QRect seen = viewport()->rect();
+    return !paper.intersects(seen) || paper.contains(seen);
+}
+
 // Its name is what a screen reader says of the control that has the focus, and says again when it
 // has become another one.
 void SheetView::describeCurrent()

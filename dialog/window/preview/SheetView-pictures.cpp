@@ -144,6 +144,12 @@ void SheetView::paintEvent(QPaintEvent *event)
                 m_painter.paint(painter, side, palette(), exposed);
         }
     }
+    m_isOutlined = isFocusOutOfSight();
+    if (m_isOutlined) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), SidePainter::kFocusWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
     if (m_isDimmed)
         paintUpdating(painter);
 }

@@ -300,7 +300,7 @@ void SheetView::resizeEvent(QResizeEvent *)
 void SheetView::scrollContentsBy(int dx, int dy)
 {
     // What lies over the sheets does not move with them.
-    if (m_isDimmed)
+    if (m_isDimmed || m_isOutlined || isFocusOutOfSight())
         viewport()->update();
     else
         viewport()->scroll(dx, dy);

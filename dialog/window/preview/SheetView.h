@@ -20,7 +20,7 @@ struct ShownSheets
     QStringList files{};  ///< of each document, the one that was laid out
     QStringList titles{}; ///< of each document
     QList<SheetMark> marks{};
-    bool areAll = true;   ///< else nobody knows how many more there are
+    bool areAll = true; ///< else nobody knows how many more there are
 
     bool operator==(const ShownSheets &) const = default;
 };
@@ -133,6 +133,7 @@ private:
     void showCurrent();
     void describeCurrent();
     void updateCurrent();
+    bool isFocusOutOfSight() const;
 
     SidePictures *m_pictures = nullptr;
     ShownSheets m_sheets;
@@ -143,6 +144,7 @@ private:
     int m_lookedAt = -1;
     int m_wheel = 0; // what of a step of the wheel has been turned
     bool m_isDimmed = false;
+    bool m_isOutlined = false;
     bool m_isSeen = false;
     QTimer m_asking;
     QTimer m_dimming;

@@ -13,7 +13,6 @@ namespace {
 // Paper is white and what stands on it dark, whatever the desktop looks like.
 constexpr QRgb kPaper = 0xffffffff;
 constexpr QRgb kTextOnPaper = 0xff505050;
-constexpr int kFocusWidth = 2;
 
 QColor mixed(const QColor &one, const QColor &other, int percentOfOther)
 {

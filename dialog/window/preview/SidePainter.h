@@ -36,6 +36,8 @@ struct PaintedSide
 class SidePainter
 {
 public:
+    static constexpr int kFocusWidth = 2; ///< of the line around what has the focus. Units: pixels
+
     void setColors(const ColorTransform &colors) { m_colors = colors; }
     const ColorTransform &colors() const { return m_colors; }
 

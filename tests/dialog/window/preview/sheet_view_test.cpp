@@ -1,6 +1,7 @@
 #include <memory>
 
 #include <QAccessible>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -23,6 +24,20 @@ ColorTransform withoutRed()
     transform.rows[0] = {0, 0, 0, 0};
     return transform;
 }
+
+/// What of a widget is painted anew.
+class PaintedPart : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent *>(event)->region();
+        return QObject::eventFilter(watched, event);
+    }
+
+    QRegion region{};
+};
 
 } // namespace
 
@@ -247,6 +262,46 @@ private Q_SLOTS:
         for (int i = 0; i < 100 && m_view->current().sheet == 0; ++i)
             press(Qt::Key_Down);
         QCOMPARE(m_view->current(), SideIndex{1});
+    }
+
+    // Of a frame around a side nothing is seen in its midst, or elsewhere.
+    void theFocusIsSeenWhereverTheViewIs()
+    {
+        show(sheetsOfPages(9));
+        const QRgb focus = m_view->palette().color(QPalette::Highlight).rgb();
+        const auto edges = [this] {
+            const QImage picture = m_view->viewport()->grab().toImage();
+            return QList<QRgb>{picture.pixel(1, picture.height() / 2),
+                               picture.pixel(picture.width() / 2, picture.height() - 2)};
+        };
+        const QList<QRgb> framed{focus, focus};
+        QVERIFY(!edges().contains(focus)); // the side itself is framed
+        m_view->setZoom({Zoom::Fit::Percent, 400});
+        m_view->horizontalScrollBar()->setValue(900);
+        m_view->verticalScrollBar()->setValue(900);
+        QCOMPARE(edges(), framed);
+        m_view->verticalScrollBar()->setValue(1000);
+        QCOMPARE(edges(), framed);
+        m_view->clearFocus();
+        QVERIFY(!edges().contains(focus));
+        m_view->setFocus();
+        m_view->setZoom({Zoom::Fit::Page, 100});
+        QVERIFY(!edges().contains(focus));
+        m_view->verticalScrollBar()->setValue(m_view->verticalScrollBar()->maximum());
+        QCOMPARE(edges(), framed);
+    }
+
+    void theLineAroundTheViewIsNotScrolled()
+    {
+        show(sheetsOfPages(9));
+        m_view->setZoom({Zoom::Fit::Percent, 400});
+        m_view->horizontalScrollBar()->setValue(900);
+        m_view->verticalScrollBar()->setValue(900);
+        QTest::qWait(50); // for what is painted later
+        PaintedPart painted;
+        m_view->viewport()->installEventFilter(&painted);
+        m_view->verticalScrollBar()->setValue(910);
+        QTRY_COMPARE(painted.region.boundingRect(), m_view->viewport()->rect());
     }
 
     void keysOfTheWindowAreLeftToIt()
