@@ -68,6 +68,29 @@ void DocumentChecks::follow()
 
 void DocumentChecks::look(const Document &document, const QStringList &passwords)
 {
+    const QFileInfo info(document.path);
+    Known &known = m_known[document.path];
+    known.size = info.size();
+    known.time = info.lastModified();
+    known.work = ++m_lastWork;
+    const DocumentWorker::Work work{known.work, document.path, passwords,
+                                    document.format == kPicture};
+    if (m_isHeld)
+        m_held += work;
+    else
+        hand(work);
+}
+
+void DocumentChecks::begin()
+{
+    m_isHeld = false;
+    const QList<DocumentWorker::Work> held = std::exchange(m_held, {});
+    for (const DocumentWorker::Work &work : held)
+        hand(work);
+}
+
+void DocumentChecks::hand(const DocumentWorker::Work &work)
+{
     if (!m_worker) {
         m_worker = std::make_unique<DocumentWorker>(
             m_settings, [this](const DocumentWorker::Found &found) {
@@ -75,12 +98,7 @@ void DocumentChecks::look(const Document &document, const QStringList &passwords
                     this, [this, found] { take(found); }, Qt::QueuedConnection);
             });
     }
-    const QFileInfo info(document.path);
-    Known &known = m_known[document.path];
-    known.size = info.size();
-    known.time = info.lastModified();
-    known.work = ++m_lastWork;
-    m_worker->look({known.work, document.path, passwords, document.format == kPicture});
+    m_worker->look(work);
 }
 
 bool DocumentChecks::isDone() const

@@ -31,6 +31,11 @@ public:
                             QObject *parent = nullptr);
     ~DocumentChecks() override;
 
+    /// From here on documents are looked into only once begin() was called. The process that looks
+    /// takes as long to start as a window does, and would take processors and memory from it.
+    void hold() { m_isHeld = true; }
+    void begin();
+
     /// Tried with each document that asks for one, without anybody being asked.
     void addPassword(const QString &password);
     /// Looks at those that nobody has looked at, or that are others by now; the rest is forgotten.
@@ -65,6 +70,7 @@ private:
     };
 
     void look(const Document &document, const QStringList &passwords);
+    void hand(const DocumentWorker::Work &work);
     void take(const DocumentWorker::Found &found);
 
     RendererSettings m_settings;
@@ -73,6 +79,8 @@ private:
     std::unique_ptr<DocumentWatch> m_watch;
     QStringList m_passwords;
     int m_lastWork = 0;
+    bool m_isHeld = false;
+    QList<DocumentWorker::Work> m_held;       // until begin()
     std::unique_ptr<DocumentWorker> m_worker; // once there is a document to be looked at
 };
 

@@ -31,6 +31,7 @@ void PrintTask::connectSource()
 void PrintTask::start()
 {
     m_chosen.canBeAnother = true;
+    m_looks.documents.hold(); // until there is something to see
     m_looks.documents.check(m_request.documents);
     choosePrinter(m_source.first());
     m_chosen.deliberately = !m_source.firstIsProvisional();

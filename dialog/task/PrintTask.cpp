@@ -102,6 +102,8 @@ void PrintTask::say(TaskMessage::Kind kind, const QString &text)
 
 void PrintTask::bringUp()
 {
+    // Beside the panels, which take as long to come up as that process does.
+    m_looks.documents.begin();
     if (m_phase != Phase::Opened)
         return;
     lookForMissingCharacters();

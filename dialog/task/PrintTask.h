@@ -110,7 +110,8 @@ public:
 
     // What is set (PrintTask.cpp)
 
-    /// Brings the panels up and the options of the request in; once for a printer.
+    /// Brings the panels up and the options of the request in; once for a printer. From the first
+    /// call on the documents are looked into, whether or not a printer is there.
     void bringUp();
     JobSettings &settings() { return m_settings; }
     /// The user chose a number of copies, or pages as JobSettings::setPageRanges() takes them.

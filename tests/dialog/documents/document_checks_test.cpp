@@ -96,6 +96,32 @@ private Q_SLOTS:
         QCOMPARE(checks.printed(document), document);
     }
 
+    void whatIsHeldIsLookedIntoWhenItBegins()
+    {
+        RendererSettings settings;
+        const QString started = m_folder.filePath(u"started"_s);
+        settings.program = writeFile(m_folder.filePath(u"renderer"_s),
+                                     "#!/bin/sh\n: > '" + QFile::encodeName(started) + "'\n");
+        QVERIFY(QFile::setPermissions(settings.program,
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        DocumentChecks checks(settings);
+        QSignalSpy changed(&checks, &DocumentChecks::changed);
+        checks.hold();
+        checks.check({pdf(numberedPdf("page", 3))});
+        QTest::qWait(300);
+        QVERIFY(!checks.isDone());
+        QVERIFY(!QFile::exists(started));
+        checks.begin();
+        QVERIFY(changed.wait(kPatience));
+        QVERIFY(checks.isDone());
+        QVERIFY(QFile::exists(started));
+        // From here on nothing waits.
+        const Document another{writeFile(m_folder.filePath(u"b.pdf"_s), numberedPdf("page", 1)),
+                               u"application/pdf"_s, u"b.pdf"_s};
+        checks.check({another});
+        QVERIFY(changed.wait(kPatience));
+    }
+
     void aCheckThatNobodyWantsAnyMoreEndsAtOnce()
     {
         RendererSettings settings;

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "dialog/documents/DocumentChecks.h"
 #include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/ProtectedPdf.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -229,6 +230,34 @@ private Q_SLOTS:
             QVERIFY(!m_scene->filter.hasOutput());
         m_scene->task.reset();
         QCOMPARE(leftOvers(), QStringList());
+    }
+
+    // Nothing of the program that looks into them takes part before the window is there.
+    void documentsAreLookedIntoOnceThereIsSomethingToSee()
+    {
+        PrintTask &task = m_scene->make(request(Protection::AesWith256Bits));
+        task.start();
+        QCOMPARE(task.phase(), Phase::Opened);
+        DocumentChecks others; // which were not asked first
+        QSignalSpy looked(&others, &DocumentChecks::changed);
+        others.check(task.documents());
+        QVERIFY(looked.wait(kPatience));
+        QTest::qWait(100);
+        QVERIFY(!task.knowsDocuments());
+        task.bringUp();
+        QTRY_VERIFY_WITH_TIMEOUT(task.knowsDocuments(), kPatience);
+    }
+
+    // By an Enter that was typed ahead.
+    void aDocumentThatNobodyHasLookedIntoYetIsLookedIntoBeforeItIsPrinted()
+    {
+        PrintTask &task = m_scene->make(request(Protection::AesWith256Bits));
+        task.start();
+        QCOMPARE(task.phase(), Phase::Opened);
+        print(task);
+        QVERIFY(!m_scene->face.refusals.isEmpty());
+        QVERIFY(!m_scene->filter.hasOutput());
+        QCOMPARE(m_scene->face.passwordQuestions.size(), 1);
     }
 
     void aPasswordThatIsGivenInAdvanceIsAskedOfNobody_data() { addRows(kGiven); }
