@@ -118,8 +118,18 @@ std::optional<Printer> PrinterSource::expected() const
     return byDefault ? *byDefault : queues.constFirst();
 }
 
+void PrinterSource::readAhead()
+{
+    m_ahead.first = first();
+    const QString path = m_first ? m_first->ppd->path : m_ahead.first->ppdPath;
+    if (!path.isEmpty())
+        m_ahead.ppd.begin(path);
+}
+
 Printer PrinterSource::first()
 {
+    if (m_ahead.first)
+        return *std::exchange(m_ahead.first, std::nullopt);
     m_provisional = false;
     if (const Printer *file = m_wish.name.isEmpty() ? nullptr : find(m_wish.files, m_wish.name))
         return *file;

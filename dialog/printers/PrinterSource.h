@@ -7,6 +7,7 @@
 
 #include "dialog/printers/PrinterFetching.h"
 #include "dialog/printers/QueueList.h"
+#include "dialog/session/PpdAhead.h"
 
 namespace corvana {
 
@@ -52,6 +53,11 @@ public:
     /// What to open first, of what is known without asking anybody: the printer that was named, the
     /// user's default, the one used last, else the one that saves documents as PDF.
     Printer first();
+    /// Begins to read the PPD of first(), where it lies here, beside whatever its user does until
+    /// the printer is opened.
+    void readAhead();
+    /// Opens the PPD of a printer, read ahead or not.
+    PpdAhead &ppds() { return m_ahead.ppd; }
     /// Whether first() is only there because nobody has been asked yet.
     bool firstIsProvisional() const { return m_provisional; }
 
@@ -93,6 +99,12 @@ Q_SIGNALS:
     void betterQueueFound(const corvana::Printer &printer);
 
 private:
+    struct Ahead
+    {
+        std::optional<Printer> first{};
+        PpdAhead ppd{};
+    };
+
     std::optional<FetchedPrinter> kept(const Printer &printer);
     void inspect(bool mayAsk);
     void openFresh(const QString &name);
@@ -120,6 +132,7 @@ private:
     ServerWork m_comparison;
     FetchedPrinter m_open;                 // with a PPD once it is ready
     std::optional<FetchedPrinter> m_first; // as first() has found it, until it is opened
+    Ahead m_ahead;
     bool m_inspecting = false;
     bool m_inspectionFailed = false; // the server has to be asked again when it is back
     bool m_provisional = false;

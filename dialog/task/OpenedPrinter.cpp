@@ -6,6 +6,7 @@
 #include "dialog/session/AttributeChoices.h"
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/OutputOrder.h"
+#include "dialog/session/PpdAhead.h"
 #include "platform/pde/PDEBundleLoader.h"
 #include "platform/pde/PDEPlugIn.h"
 
@@ -40,12 +41,15 @@ void setFetched(const FetchedPrinter &fetched, OpenedPrinter &opened)
 std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
                                            const QStringList &bundleRoots,
                                            AlertPresenter &presenter, QString *error,
-                                           const std::function<void(OpenedPrinter &)> &prepare)
+                                           const std::function<void(OpenedPrinter &)> &prepare,
+                                           PpdAhead *ppds)
 {
     auto opened = std::make_unique<OpenedPrinter>();
-    opened->session = PpdSession::open(fetched.ppd->path, error);
-    if (!opened->session)
+    PpdFile ppd =
+        ppds ? ppds->open(fetched.ppd->path, error) : openPpdFile(fetched.ppd->path, error);
+    if (!ppd)
         return nullptr;
+    opened->session = std::make_unique<PpdSession>(std::move(ppd));
     setFetched(fetched, *opened);
 
     const Printer &printer = fetched.printer;

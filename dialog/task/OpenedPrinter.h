@@ -15,6 +15,7 @@ namespace corvana {
 class Bundle;
 class PDEJobValues;
 class PDEPageColors;
+class PpdAhead;
 
 /// One printer, opened: its session and its panels. Another printer, PPD or language needs another
 /// one.
@@ -54,11 +55,12 @@ JobTicket makeTicket(const OpenedPrinter &printer, const QList<JobOption> &attri
 /// Opens a printer, which has a PPD. Panels come from the plug-in bundle in the first of the
 /// `bundleRoots` that holds it, when the PPD wants them; without them the printer has the General
 /// page and the list of its options only, and the log says why. `prepare` brings the session to
-/// where it was left, and locks what nobody may change, before any panel is built on it. Errors:
-/// null; `error` says what is wrong with the PPD.
-std::unique_ptr<OpenedPrinter>
-openPrinter(const FetchedPrinter &fetched, const QStringList &bundleRoots,
-            AlertPresenter &presenter, QString *error,
-            const std::function<void(OpenedPrinter &)> &prepare = {});
+/// where it was left, and locks what nobody may change, before any panel is built on it. `ppds`
+/// opens the PPD, where it is given. Errors: null; `error` says what is wrong with the PPD.
+std::unique_ptr<OpenedPrinter> openPrinter(const FetchedPrinter &fetched,
+                                           const QStringList &bundleRoots,
+                                           AlertPresenter &presenter, QString *error,
+                                           const std::function<void(OpenedPrinter &)> &prepare = {},
+                                           PpdAhead *ppds = nullptr);
 
 } // namespace corvana

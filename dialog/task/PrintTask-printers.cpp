@@ -132,8 +132,8 @@ void PrintTask::open(const FetchedPrinter &ready)
         // What panels had stored was stored before there was a lock, or another one.
         putBackLockedValues(*opened.session, opened.jobValues);
     };
-    m_opened =
-        openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text, prepare);
+    m_opened = openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text,
+                           prepare, &m_source.ppds());
     if (!m_opened) {
         m_chosen.problem.brief = m_chosen.problem.text;
         enter(Phase::Missing);

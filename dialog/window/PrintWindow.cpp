@@ -62,6 +62,7 @@ PrintWindow::PrintWindow(PrintRequest request, QWidget *parent)
       m_task(std::make_unique<PrintTask>(std::move(request), static_cast<TaskFace &>(*this))),
       m_growth(*this)
 {
+    m_task->printers().readAhead(); // while the window is built
     buildWindow();
     connectParts();
     connectTask();

@@ -68,6 +68,42 @@ private Q_SLOTS:
                  isDevice ? u"printer.example"_s : u"127.0.0.1"_s);
     }
 
+    // The file is gone by the time at which the printer is opened.
+    void thePpdOfTheFirstPrinterIsReadAhead_data()
+    {
+        QTest::addColumn<bool>("isQueue");
+        QTest::newRow("file") << false;
+        QTest::newRow("queue") << true;
+    }
+    void thePpdOfTheFirstPrinterIsReadAhead()
+    {
+        QFETCH(bool, isQueue);
+        PrinterWish request;
+        PpdFile ppd;
+        QString error;
+        for (int patience = 50; !ppd && patience < 5000; patience *= 2) {
+            if (isQueue) {
+                request.name = kQueue;
+                useOnce(request);
+            } else {
+                request.files = {{u"sample"_s, {}, ppdOf(5)}};
+            }
+            PrinterSource source(request, m_server);
+            Told told(source);
+            source.readAhead();
+            const Printer first = source.first();
+            QCOMPARE(first.name, isQueue ? kQueue : u"sample"_s);
+            QCOMPARE(source.first(), first);
+            source.open(first);
+            QCOMPARE(told.said.value(0), u"ready"_s);
+            QTest::qSleep(patience);
+            const QString path = told.last.ppd->path;
+            QVERIFY(QFile::remove(path));
+            ppd = source.ppds().open(path, &error);
+        }
+        QVERIFY2(ppd, qPrintable(error));
+    }
+
     void filesAreBeforeQueuesAndThePdfBehindThem()
     {
         Printer file;

@@ -5,6 +5,7 @@
 
 #include "dialog/session/ChoiceCodes.h"
 #include "dialog/session/JobTicket.h"
+#include "dialog/session/PpdAhead.h"
 #include "dialog/session/PpdFile.h"
 #include "dialog/session/PpdSession.h"
 #include "tests/dialog/support/TestPrinters.h"
@@ -18,6 +19,8 @@ class PpdFileTest : public QObject
     Q_OBJECT
 
 private:
+    static constexpr int kPatience = 5000; // milliseconds
+
     QTemporaryDir m_folder;
 
     QString written(const QByteArray &text)
@@ -244,6 +247,62 @@ private Q_SLOTS:
             writeFile(m_folder.filePath(u"プリンタ %1 a.ppd"_s), PpdBuilder().text());
         QString error;
         QVERIFY2(openPpdFile(path, &error), qPrintable(error));
+    }
+
+    // The file is gone by the time at which it is needed.
+    void aPpdIsOpenedAhead()
+    {
+        const QByteArray text = PpdBuilder().text();
+        PpdAhead ahead;
+        PpdFile ppd;
+        QString error;
+        for (int patience = 50; !ppd && patience < kPatience; patience *= 2) {
+            const QString path = written(text);
+            ahead.begin(path);
+            QTest::qSleep(patience);
+            QFile::remove(path);
+            ppd = ahead.open(path, &error);
+        }
+        QVERIFY2(ppd, qPrintable(error));
+        QCOMPARE(QByteArray(ppd->nickname), QByteArray(openedPpd(text)->nickname));
+        QVERIFY(ppdIsMarked(ppd.get(), "PageSize", "A4"));
+        // It was there once.
+        ppd = ahead.open(written(text), &error);
+        QVERIFY(ppd);
+        QFile::remove(m_folder.filePath(u"test.ppd"_s));
+        QVERIFY(!ahead.open(m_folder.filePath(u"test.ppd"_s), &error));
+    }
+
+    void whatIsWrongIsSaidAsOfAnyOther()
+    {
+        const QString path = written("*PPD-Adobe: \"4.3\"\nno line of a PPD\n");
+        QString expected;
+        QVERIFY(!openPpdFile(path, &expected));
+        QVERIFY(!expected.isEmpty());
+        PpdAhead ahead;
+        ahead.begin(path);
+        QString error;
+        QVERIFY(!ahead.open(path, &error));
+        QCOMPARE(error, expected);
+    }
+
+    void anotherPpdThanTheOneAheadIsOpened()
+    {
+        const QString first = written(PpdBuilder().text());
+        const QString other = writeFile(
+            m_folder.filePath(u"other.ppd"_s),
+            PpdBuilder()
+                .option("Duplex", "Two-Sided", "None", {{"None", "Off"}, {"DuplexTumble", "On"}})
+                .text());
+        PpdAhead ahead;
+        ahead.begin(first);
+        QString error;
+        const PpdFile ppd = ahead.open(other, &error);
+        QVERIFY2(ppd, qPrintable(error));
+        QVERIFY(ppdOption(ppd.get(), u"Duplex"_s));
+        const PpdFile former = ahead.open(first, &error);
+        QVERIFY2(former, qPrintable(error));
+        QVERIFY(!ppdOption(former.get(), u"Duplex"_s));
     }
 };
 
