@@ -53,13 +53,19 @@ public:
     explicit Keyword(QByteArrayView text)
     {
         for (const char c : text.first(std::min(text.size(), kLongestKeyword))) {
-            if (isEnd(c))
+            if (isEnd(c)) {
+                m_isEnded = true;
                 break;
+            }
             m_text[m_length++] = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
         }
     }
 
     QByteArrayView view() const { return {m_text.data(), static_cast<qsizetype>(m_length)}; }
+
+    /// How many bytes of the text say which keyword it is: with the one behind it. 0 where it is
+    /// not known to end there.
+    qsizetype written() const { return m_isEnded ? static_cast<qsizetype>(m_length) + 1 : 0; }
 
 private:
     static constexpr bool isEnd(char c)
@@ -69,6 +75,7 @@ private:
 
     std::array<char, kLongestKeyword> m_text{};
     std::size_t m_length = 0;
+    bool m_isEnded = false;
 };
 
 // "de" of "de.pagesize" and of "de_at.pagesize"; empty where a keyword is of no language, which
@@ -89,7 +96,8 @@ QByteArrayView languageOf(QByteArrayView keyword)
 // with thousands.
 bool saysNothing(QByteArrayView line)
 {
-    return line.startsWith("*%") || line == QByteArrayView("*End");
+    const char second = line.size() > 1 ? line.at(1) : '\0';
+    return second == '%' || (second == 'E' && line == QByteArrayView("*End"));
 }
 
 /// Counts the lines that say something, each by its keyword.
@@ -104,10 +112,13 @@ public:
         if (!whole.begin.startsWith('*') || saysNothing(whole.begin))
             return true;
         const QByteArrayView line = whole.begin.sliced(1);
-        const Keyword keyword(line);
-        // Most lines begin as the one before them does.
-        if (!m_count || keyword.view() != m_keyword)
-            turnTo(keyword.view());
+        // Most lines begin as the one before them does, letter by letter.
+        if (m_written.isEmpty() || !line.startsWith(m_written)) {
+            const Keyword keyword(line);
+            if (!m_count || keyword.view() != m_keyword)
+                turnTo(keyword.view());
+            m_written = line.first(keyword.written()).toByteArray();
+        }
         if (m_kind == Kind::Opening) {
             // "OpenUI *KEYWORD/TEXT: PickOne"
             const qsizetype name = line.indexOf('*');
@@ -288,6 +299,7 @@ private:
     QHash<QByteArray, int> m_languages; ///< the lines of each
     QSet<QByteArray> m_options;         ///< those that have been opened
     QByteArray m_keyword;               ///< of the last line
+    QByteArray m_written;               ///< the same as it stands there, with what ends it
     int *m_count = nullptr;             ///< its lines so far
     int *m_texts = nullptr;             ///< those of its language, where it is of one
     Kind m_kind = Kind::Attribute;

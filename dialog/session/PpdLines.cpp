@@ -43,7 +43,8 @@ bool PpdLines::read(QByteArrayView bytes)
         keep({sign, at});
         if (*sign == '*')
             ++m_stars;
-        else if (*sign == ':' && !QByteArrayView(m_begin.data(), m_length).startsWith("*%"))
+        else if (*sign == ':' && !m_hasColon &&
+                 !QByteArrayView(m_begin.data(), m_length).startsWith("*%"))
             m_hasColon = true;
         else if (*sign == '"' && m_hasColon)
             m_isQuoted = !m_isQuoted;

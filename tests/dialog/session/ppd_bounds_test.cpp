@@ -143,6 +143,15 @@ QList<Row> rows()
         {"as many of one attribute as there may be", lines("*Font F", 30, ": Standard"), {}},
         {"too many of one attribute", lines("*Font F", 31, ": Standard"),
          u"more than 30 lines that begin with “*font”"_s},
+        {"keywords that only begin alike",
+         lines("*Font F", 16, ": S") + lines("*Fonts F", 16, ": S"),
+         {}},
+        {"one keyword, written in several ways",
+         QByteArray("*Font F: S\n*FONT/F: S\n*font:S\n").repeated(11), u"“*font”"_s},
+        {"keywords that differ behind what libcups keeps of them",
+         lines('*' + QByteArray(40, 'a') + "b F", 16, ": S") +
+             lines('*' + QByteArray(40, 'a') + "c F", 16, ": S"),
+         u"more than 30 lines"_s},
         {"as many attributes as there may be",
          lines("*Font F", 30, ": Standard") + lines("*Face F", 10, ": Standard"),
          {}},
@@ -233,8 +242,8 @@ private Q_SLOTS:
         QCOMPARE(excessOfPpd(samplePpdPath(), bounds), QString());
     }
 
-    // libcups looks each paper up among all of them, and is busy for minutes. What is refused and what
-    // is read takes as long as e2e.hostile_ppds allows.
+    // libcups looks each paper up among all of them, and is busy for minutes. What is refused and
+    // what is read takes as long as e2e.hostile_ppds allows.
     void aPpdThatWouldNeverBeReadIsRefused_data()
     {
         QTest::addColumn<QByteArray>("keyword");
