@@ -126,11 +126,17 @@ void SavePresetDialog::askForPrinters()
     open.problem = draft.problem;
     InstancePrinters::Picks picks = m_picks;
     picks.insert(open.printer.name, m_elsewhere->isChecked());
-    auto *dialog = new InstancePrinters(QList{open} + otherQueues(), picks, this);
+    const QList<OtherQueue> others = otherQueues();
+    auto *dialog = new InstancePrinters(QList{open} + others, picks, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog, name = open.printer.name] {
+    connect(dialog, &QDialog::accepted, this, [this, dialog, others, name = open.printer.name] {
         m_picks = dialog->picks();
         m_elsewhere->setChecked(m_picks.take(name));
+        // What nobody has changed is no answer for a preset of another name.
+        for (const OtherQueue &other : others) {
+            if (m_picks.value(other.printer.name) == other.isThere)
+                m_picks.remove(other.printer.name);
+        }
         check();
     });
     dialog->open();

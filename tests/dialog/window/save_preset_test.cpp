@@ -176,6 +176,39 @@ private Q_SLOTS:
                  qPrintable(dialog.findChild<QLabel *>(u"presetRemark"_s)->text()));
     }
 
+    // What was ticked for one name says nothing of what another one has already.
+    void printersThatNobodyUntickedStay()
+    {
+        m_cups->addQueue(u"lab"_s, m_home->filePath(u"office.ppd"_s));
+        open();
+        QVERIFY(changeInstances({{u"lab/reports"_s, QList<JobOption>{{u"Media"_s, u"Card"_s}}}},
+                                OwnInstance{u"Reports"_s, presets().modelName()})
+                    .isEmpty());
+        lookAgain(presets());
+        task().printers().start();
+        QTRY_COMPARE(presets().otherQueues(u"Reports"_s, false).size(), 1);
+        SavePresetDialog dialog(presets(), false);
+        dialog.show();
+        auto *name = dialog.findChild<QLineEdit *>(u"presetName"_s);
+        const auto accept = [&dialog](bool isTicked) {
+            dialog.findChild<QPushButton *>(u"presetPrinters"_s)->click();
+            auto *printers = dialog.findChild<InstancePrinters *>();
+            printers->findChild<QListWidget *>(u"instancePrinters"_s)
+                ->item(1)
+                ->setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
+            printers->accept();
+            QCoreApplication::sendPostedEvents(printers, QEvent::DeferredDelete);
+        };
+        name->setText(u"Monthly"_s);
+        accept(false);
+        name->setText(u"Reports"_s);
+        QCOMPARE(dialog.preset().notOn, QStringList());
+        accept(false);
+        QCOMPARE(dialog.preset().notOn, QStringList{u"lab/reports"_s});
+        accept(true);
+        QCOMPARE(dialog.preset().notOn, QStringList());
+    }
+
     void theDialogGrowsWithItsRemark()
     {
         setUserOptions("Dest office/foo a=b\n");
