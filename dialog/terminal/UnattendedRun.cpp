@@ -70,7 +70,7 @@ QString writeToStandardOutput(const QString &path)
 // By which name the instance is known that is made of another queue as well.
 QString instanceOn(const QString &queue, const PrintRequest &request)
 {
-    return queue + u'/' + instanceNameOf(request.instance);
+    return queueOfInstance(queue) + u'/' + instanceNameOf(request.instance);
 }
 
 // Settings that are kept as instances of several queues, and nowhere else.
@@ -194,6 +194,9 @@ private:
     QStringList namedInstances() const
     {
         QStringList names;
+        // No other queue can have a name that the open one is refused.
+        if (instanceNameOf(m_task.request().instance).isEmpty())
+            return names;
         for (const QString &queue : m_task.request().alsoOn)
             names += instanceOn(queue, m_task.request());
         return names;

@@ -116,6 +116,31 @@ private Q_SLOTS:
         QVERIFY(tools().optionsOf("hall/reports").isEmpty());
     }
 
+    // An instance that is named for its queue is that queue.
+    void anInstanceThatIsNamedIsItsQueue()
+    {
+        addQueues();
+        const QStringList preset{u"--save-preset"_s, u"Monthly"_s};
+        const QStringList also{u"--save-instance"_s, u"Reports"_s, u"--also-on"_s, u"lab/other"_s};
+        m_runner->setUserOptions("Dest lab/other QXMediaType=Thick\n");
+        const RunEnd saved = m_runner->run(saving(preset + also));
+        QVERIFY2(saved.status == 0, saved.text().constData());
+        QVERIFY2(!tools().optionsOf("lab/reports").isEmpty(), tools().userOptions().constData());
+        QCOMPARE(tools().userOptions().count("Dest lab/"), 2);
+    }
+
+    void aNameThatNobodyCanHaveIsSaidOnce()
+    {
+        addQueues();
+        const RunEnd saved =
+            m_runner->run(saving({u"--save-preset"_s, u"月次"_s, u"--save-instance"_s, u"月次"_s,
+                                  u"--also-on"_s, kLab}));
+        QCOMPARE(saved.status, 1);
+        QCOMPARE(saved.err.count(u"“月次” has no letters"_s), 1);
+        QVERIFY2(!saved.err.contains(u"lab/"_s) && !saved.err.contains(u"document"_s),
+                 saved.text().constData());
+    }
+
     void aQueueIsNamedForAnInstanceOnly()
     {
         const RunEnd refused = m_runner->run(saving({u"--also-on"_s, kLab}));
