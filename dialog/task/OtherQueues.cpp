@@ -25,9 +25,10 @@ struct Texts
 // How long one queue may take, and all of them. A server that is away is asked for each.
 constexpr std::chrono::seconds kForOne{30};
 constexpr std::chrono::seconds kForAll{120};
-// Nobody reads more than this of what is wrong with one queue. Units: bytes.
+// Nobody reads more than this of what is wrong with one queue. Units: characters.
 constexpr qsizetype kMostText = 4096;
 const QString kPrefix = u"corvana-print: "_s;
+const QString kIndent = u"  "_s; // of what goes on in a further line
 
 struct Ends
 {
@@ -35,15 +36,24 @@ struct Ends
     QStringList remarks{};
 };
 
-// What the program says on its standard error, a line each.
+// What the program says on its standard error. What is logged there is for nobody who saves a
+// preset.
 QStringList linesOf(const QByteArray &text)
 {
-    QStringList lines = QString::fromUtf8(text.left(kMostText)).split(u'\n', Qt::SkipEmptyParts);
-    for (QString &line : lines) {
-        if (line.startsWith(kPrefix))
-            line.remove(0, kPrefix.size());
+    QStringList said;
+    qsizetype size = 0;
+    const QStringList lines = QString::fromUtf8(text).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const bool isSaid = line.startsWith(kPrefix);
+        const bool goesOn = line.startsWith(kIndent) && !said.isEmpty();
+        if ((isSaid || goesOn) && (size += line.size()) > kMostText)
+            break;
+        if (isSaid)
+            said += line.mid(kPrefix.size());
+        else if (goesOn)
+            said.last() += u'\n' + line;
     }
-    return lines;
+    return said;
 }
 
 // Answers whether the instance is written, and what is to be said of it.
@@ -67,7 +77,10 @@ bool run(const QString &program, const QStringList &arguments, QDeadlineTimer de
         return false;
     }
     *lines += linesOf(process.readAllStandardError());
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    const bool hasCrashed = process.exitStatus() != QProcess::NormalExit;
+    if (hasCrashed)
+        *lines += process.errorString();
+    return !hasCrashed && process.exitCode() == 0;
 }
 
 void write(const OtherInstance &instance, const QString &program, const QStringList &arguments,

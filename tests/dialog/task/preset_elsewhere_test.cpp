@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "dialog/task/TaskPresets.h"
+#include "tests/dialog/job/Variable.h"
 #include "tests/dialog/support/OwnHome.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/dialog/task/PresetActs.h"
@@ -213,6 +214,18 @@ private Q_SLOTS:
         QVERIFY2(said().contains(u"“lab/reports” in other programs: "_s) &&
                      said().contains(u"Boost"_s),
                  qPrintable(said()));
+    }
+
+    void whatIsLoggedIsNotSaid()
+    {
+        open(u"office"_s);
+        const Variable rules("QT_LOGGING_RULES", "*.debug=true");
+        save({u"lab/reports"_s});
+        QVERIFY(!lineOf("lab/reports").isEmpty());
+        QCOMPARE(said(), QString());
+        save({u"gone/reports"_s});
+        QCOMPARE(said().count(u'\n'), 0);
+        QVERIFY2(said().startsWith(u"“gone/reports” in other programs: "_s), qPrintable(said()));
     }
 
     void aQueueThatCannotBeReadIsNamed()
