@@ -65,8 +65,10 @@ InstanceDraft TaskPresets::draft(const QString &name, const QString &settings,
 
 void TaskPresets::sayOfInstance(const InstanceDraft &draft)
 {
+    // Whoever runs the program for another queue reads of it what is wrong.
+    const bool isRead = m_task.request().followedModel.has_value();
     for (const QString &sentence : draft.leftOut)
-        Q_EMIT m_task.noted(sentence);
+        isRead ? Q_EMIT m_task.ignored(sentence) : Q_EMIT m_task.noted(sentence);
     Q_EMIT m_task.noted(tr("Other programs print with these settings to “%1”.").arg(draft.name));
 }
 
@@ -261,10 +263,16 @@ std::shared_ptr<InstancesOutcome> TaskPresets::pend(const std::optional<Saving> 
 void TaskPresets::sayOfInstances(const InstancesOutcome &outcome)
 {
     m_problemsElsewhere = outcome.problems;
-    for (const InstanceDraft &written : outcome.written)
+    QStringList leftOut;
+    for (const InstanceDraft &written : outcome.written) {
         sayOfInstance(written);
-    if (!outcome.problems.isEmpty())
-        m_task.say(TaskMessage::Kind::Problem, outcome.problems.join(u'\n'));
+        for (const QString &sentence : written.leftOut)
+            leftOut += problemWithInstance(written.name, sentence);
+    }
+    if (const QStringList all = outcome.problems + leftOut; !all.isEmpty())
+        m_task.say(outcome.problems.isEmpty() ? TaskMessage::Kind::Information
+                                              : TaskMessage::Kind::Problem,
+                   all.join(u'\n'));
 }
 
 void TaskPresets::keep(const Saving &saving, const KnownInstances &known)

@@ -216,6 +216,20 @@ private Q_SLOTS:
                  qPrintable(said()));
     }
 
+    // In the window, on each queue, as on the terminal.
+    void whatOtherProgramsCannotHaveIsSaid()
+    {
+        open(u"office"_s);
+        task().setAttribute(u"booklet"_s, u"left"_s);
+        save({u"lab/reports"_s});
+        for (const QString &instance : {u"office/reports"_s, u"lab/reports"_s}) {
+            QVERIFY(!lineOf(instance.toUtf8()).isEmpty());
+            QVERIFY2(
+                said().contains(u"“%1” in other programs: “Booklet” is left out"_s.arg(instance)),
+                qPrintable(said()));
+        }
+    }
+
     void whatIsLoggedIsNotSaid()
     {
         open(u"office"_s);
