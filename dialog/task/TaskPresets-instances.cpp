@@ -8,6 +8,7 @@
 #include "dialog/task/AttributeEffects.h"
 #include "dialog/task/PrintTask.h"
 #include "dialog/task/StartValues.h"
+#include "dialog/task/TaskHistory.h"
 
 namespace corvana {
 
@@ -94,16 +95,34 @@ std::optional<TaskRefusal> TaskPresets::saveInstance(const QString &settings)
     const bool isByItself = settings.isEmpty();
     const InstanceDraft made = draft(name, isByItself ? QString() : settings,
                                      KnownInstances::read(), isByItself && asksForDevice());
-    QString problem = made.problem;
-    if (problem.isEmpty())
-        problem = changeInstances({{made.name, made.options}},
-                                  isByItself ? OwnInstance{name}
-                                             : instancePreset(settings, false).noted())
-                      .value(made.name);
+    if (!made.problem.isEmpty())
+        return TaskRefusal{{made.problem}};
+    const OwnInstance noted =
+        isByItself ? OwnInstance{name} : instancePreset(settings, false).noted();
+    const std::shared_ptr<const PresetOrigin> origin =
+        isByItself ? nullptr : m_task.history().base().preset;
+    const QString problem =
+        origin ? writeWhileSame(origin->stored, made, noted)
+               : changeInstances({{made.name, made.options}}, noted).value(made.name);
     if (!problem.isEmpty())
         return TaskRefusal{{problem}};
     sayOfInstance(made);
     return std::nullopt;
+}
+
+// Another program may have kept the preset anew: what it has written then is not written over.
+QString TaskPresets::writeWhileSame(const Preset &preset, const InstanceDraft &made,
+                                    const OwnInstance &noted)
+{
+    QString problem;
+    const PresetStore store(m_task.request().presetPlaces);
+    const std::optional<QString> done = store.whileSame(preset, [&] {
+        problem = changeInstances({{made.name, made.options}}, noted).value(made.name);
+    });
+    m_isStale = !done;
+    if (!done)
+        return changedMeanwhileText(preset.name);
+    return problem.isEmpty() ? *done : problem;
 }
 
 // The instance of a preset that was kept on another queue, with what this one makes of it. The
@@ -120,17 +139,8 @@ std::optional<TaskRefusal> TaskPresets::followPreset()
         draft(request.instance, preset.name, KnownInstances::read(), preset.device);
     if (!made.problem.isEmpty())
         return TaskRefusal{{made.problem}};
-    QString problem;
     const OwnInstance noted = instancePreset(preset.name, preset.model.isEmpty()).noted();
-    const std::optional<QString> done = PresetStore(request.presetPlaces).whileSame(preset, [&] {
-        problem = changeInstances({{made.name, made.options}}, noted).value(made.name);
-    });
-    m_isStale = !done;
-    if (!done)
-        return TaskRefusal{{changedMeanwhileText(preset.name)}};
-    if (problem.isEmpty())
-        problem = *done;
-    if (!problem.isEmpty())
+    if (const QString problem = writeWhileSame(preset, made, noted); !problem.isEmpty())
         return TaskRefusal{{problem}};
     sayOfInstance(made);
     return std::nullopt;

@@ -212,6 +212,8 @@ private:
     bool asksForDevice() const;
     QString nameElsewhere(const QString &preset, const KnownInstances &known) const;
     std::optional<TaskRefusal> followPreset();
+    QString writeWhileSame(const Preset &preset, const InstanceDraft &made,
+                           const OwnInstance &noted);
     QStringList newOthers(const PresetToSave &wanted, const InstanceChanges &changes) const;
     void saveOthers(const Saving &saving, const QStringList &instances);
     void othersEnded(const QStringList &problems, const QStringList &remarks);

@@ -53,7 +53,7 @@ private:
         m_cups->addQueue(name, writeFile(m_home->filePath(name + u".ppd"_s), text), settings);
     }
     // As in a window of its own.
-    void open(const QString &queue)
+    void open(const QString &queue, const QString &instance = {})
     {
         PrintRequest request = m_scene->request(QList<Printer>());
         request.server = *ServerAddress::parse(m_cups->server());
@@ -61,6 +61,7 @@ private:
         request.wantedPrinter = queue;
         request.presetPlaces = PresetPlaces::ofUser();
         request.program = m_program;
+        request.instance = instance;
         m_scene->face.messages.clear();
         m_scene->make(request).start();
         QVERIFY2(m_scene->reaches(Phase::Opened), qPrintable(task().problem().text));
@@ -240,6 +241,32 @@ private Q_SLOTS:
         save({u"gone/reports"_s});
         QCOMPARE(said().count(u'\n'), 0);
         QVERIFY2(said().startsWith(u"“gone/reports” in other programs: "_s), qPrintable(said()));
+    }
+
+    // Two runs that keep the same preset: the instance is of the one that is there.
+    void anInstanceOfAPresetThatWasKeptAnewIsNotWritten()
+    {
+        open(u"office"_s, u"Monthly"_s);
+        propose(u"Media"_s, u"Card"_s);
+        QCOMPARE(endOf(presets(),
+                       [&] {
+                           presets().save({u"Reports"_s, false, false, true});
+                       }),
+                 QString());
+        QVERIFY(!presets().saveInstance(u"Reports"_s));
+        const QByteArray written = lineOf("office/monthly");
+        QVERIFY2(written.contains(" Media=Card "), userOptions().constData());
+
+        Preset anew = presets().listing().find(u"Reports"_s)->preset;
+        anew.content.options[u"Media"_s] = u"Film"_s;
+        QCOMPARE(PresetStore(PresetPlaces::ofUser()).save(anew, PresetStore::Replacing::Yes),
+                 QString());
+        propose(u"Tray"_s, u"Lower"_s);
+        const std::optional<TaskRefusal> refusal = presets().saveInstance(u"Reports"_s);
+        QVERIFY(refusal);
+        QVERIFY2(refusal->problems.join(u' ').contains(u"“Reports”"_s),
+                 qPrintable(refusal->problems.join(u' ')));
+        QCOMPARE(lineOf("office/monthly"), written);
     }
 
     void aQueueThatCannotBeReadIsNamed()
