@@ -114,7 +114,9 @@ QStringList problemsOfOrder(const JobSettings &settings, const PpdSession &sessi
         QStringList{kBookletAttribute, kRepeatAttribute} + excludedByOrder(settings.attributes());
     QStringList said;
     for (const QString &name : names) {
-        const bool isNamed = said.contains(name) || settings.attribute(name).isNull();
+        const QString value = settings.attribute(name);
+        // What is locked to nothing excludes nothing.
+        const bool isNamed = said.contains(name) || value.isNull() || asksForNothing({name, value});
         if (isNamed || session.lockedBy(name).isNull())
             continue;
         said += name;

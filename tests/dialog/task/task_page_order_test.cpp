@@ -123,12 +123,14 @@ private Q_SLOTS:
             task.print();
             QVERIFY(QTest::qWaitFor([&] { return !m_scene->face.refusals.isEmpty(); }));
         }
-        // In a window, where it is chosen.
+        // In a window, where it is chosen. Nobody else is named.
         PrintRequest request = m_scene->request(smallPrinter());
-        request.policy = policyFrom("[all]\nlock.number-up=4\n");
+        request.policy = policyFrom("[all]\nlock.number-up=4\nlock.repeat=1\n");
         PrintTask &task = m_scene->open(request);
         const QString why = task.setAttribute(u"booklet"_s, u"left"_s);
-        QVERIFY2(why.contains(u"set by your administrator"_s), qPrintable(why));
+        QVERIFY2(why.contains(u"“Pages per Sheet” is set by your administrator"_s),
+                 qPrintable(why));
+        QCOMPARE(why.count(u"set by your administrator"_s), 1);
         QVERIFY(!task.settings().attribute(u"booklet"_s).startsWith(u"left"_s));
     }
 
