@@ -40,7 +40,9 @@ PresetContent impossibleOf(const PresetContent &changes, const OpenedPrinter &pr
         ppd_option_t *option = ppdOption(session.ppd(), name);
         const bool isThere =
             option && (value.startsWith(kCustomPrefix) || ppdChoice(option, value));
-        if (!isThere || isLocked(name))
+        // Or it is excluded, such as by a part that is not installed.
+        const bool isTaken = value.startsWith(kCustomPrefix) || session.markedChoice(name) == value;
+        if (!isThere || !isTaken || isLocked(name))
             impossible.options.insert(name, value);
     }
     for (const auto &[key, value] : changes.entries.asKeyValueRange()) {

@@ -334,6 +334,32 @@ private Q_SLOTS:
         QCOMPARE(task().settings().attribute(u"number-up"_s), u"2"_s);
     }
 
+    // Such as what needs a part that is away for a day.
+    void whatIsExcludedForOneJobIsRemembered()
+    {
+        const PrintRequest printed = request();
+        const auto open = [&](const QByteArray &installed) {
+            const PpdBuilder ppd =
+                smallPrinter()
+                    .line("*OpenGroup: InstallableOptions/Installed")
+                    .option("Finisher", "Finisher", installed, {{"None", "None"}, {"Big", "Big"}})
+                    .line("*CloseGroup: InstallableOptions")
+                    .constraint("Finisher", "None", "Boost", "ON");
+            writeFile(printed.printers.constFirst().ppdPath, ppd.text());
+            m_scene->open(printed);
+        };
+        open("Big");
+        propose(u"Boost"_s, u"ON"_s);
+        print();
+        open("None");
+        QCOMPARE(marked(u"Boost"_s), u"OFF"_s);
+        propose(u"Tray"_s, u"Lower"_s);
+        print();
+        open("Big");
+        QCOMPARE(marked(u"Boost"_s), u"ON"_s);
+        QCOMPARE(marked(u"Tray"_s), u"Lower"_s);
+    }
+
     void whatAProgramAskedForIsNotRemembered()
     {
         open(u"Media=Film"_s);
