@@ -221,8 +221,12 @@ void TaskPresets::saveOthers(const Saving &saving, const QStringList &instances)
 
 void TaskPresets::othersEnded(const QStringList &problems, const QStringList &remarks)
 {
-    if (const QStringList all = problems + remarks; !all.isEmpty())
-        m_task.say(problems.isEmpty() ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem,
+    // Beside what is still to be read of the queue that is open: one message replaces the other.
+    QStringList all = m_saidElsewhere + problems + remarks;
+    all.removeDuplicates();
+    const bool isInformation = problems.isEmpty() && m_problemsElsewhere.isEmpty();
+    if (all.size() > m_saidElsewhere.size())
+        m_task.say(isInformation ? TaskMessage::Kind::Information : TaskMessage::Kind::Problem,
                    all.join(u'\n'));
     m_shelf.look();
     Q_EMIT endedElsewhere();
@@ -279,10 +283,11 @@ void TaskPresets::sayOfInstances(const InstancesOutcome &outcome)
         for (const QString &sentence : written.leftOut)
             leftOut += problemWithInstance(written.name, sentence);
     }
-    if (const QStringList all = outcome.problems + leftOut; !all.isEmpty())
+    m_saidElsewhere = outcome.problems + leftOut;
+    if (!m_saidElsewhere.isEmpty())
         m_task.say(outcome.problems.isEmpty() ? TaskMessage::Kind::Information
                                               : TaskMessage::Kind::Problem,
-                   all.join(u'\n'));
+                   m_saidElsewhere.join(u'\n'));
 }
 
 void TaskPresets::keep(const Saving &saving, const KnownInstances &known)

@@ -234,6 +234,7 @@ private:
     PresetContent m_ofJob;         // that is printed
     std::deque<Pending> m_pending; // in the order in which it is done
     QStringList m_problemsElsewhere;
+    QStringList m_saidElsewhere; // of the queue that is open, and of others as far as known then
     QStringList m_told; // files that were spoken of
     QList<OtherInstance> m_others;
     OtherQueues m_otherQueues;

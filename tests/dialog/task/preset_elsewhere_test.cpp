@@ -229,6 +229,11 @@ private Q_SLOTS:
                 said().contains(u"“%1” in other programs: “Booklet” is left out"_s.arg(instance)),
                 qPrintable(said()));
         }
+        // One message takes the place of the other.
+        const TaskMessage &last = m_scene->face.messages.constLast();
+        QVERIFY2(last.text.contains(u"office/reports"_s), qPrintable(last.text));
+        QCOMPARE(last.text.count(u"lab/reports"_s), 1);
+        QCOMPARE(last.kind, TaskMessage::Kind::Information);
     }
 
     void whatIsLoggedIsNotSaid()
@@ -241,6 +246,25 @@ private Q_SLOTS:
         save({u"gone/reports"_s});
         QCOMPARE(said().count(u'\n'), 0);
         QVERIFY2(said().startsWith(u"“gone/reports” in other programs: "_s), qPrintable(said()));
+    }
+
+    // Whoever asked for encryption, or has a name that looks like an option, gets no other run.
+    void theRunIsAskedForTheSame()
+    {
+        PrintRequest request;
+        request.server = *ServerAddress::parse(u"somewhere:6310"_s);
+        request.bundleRoots = {u"/panels"_s};
+        const OtherInstance instance{u"-lab/reports"_s, u"-Reports"_s, {}};
+        const QStringList plain = argumentsForOther(instance, request);
+        QVERIFY(!plain.contains(u"-E"_s) && !plain.join(u' ').contains(u"somewhere"_s));
+        request.serverWasNamed = true;
+        request.server.encryption = HTTP_ENCRYPTION_REQUIRED;
+        const QStringList arguments = argumentsForOther(instance, request);
+        for (const QString &one :
+             {u"--no-dialog"_s, u"--printer=-lab"_s, u"--preset=-Reports"_s,
+              u"--save-instance=reports"_s, u"--follow-preset="_s, u"-E"_s,
+              u"--server="_s + request.server.argument(), u"--bundle-root=/panels"_s})
+            QVERIFY2(arguments.contains(one), qPrintable(arguments.join(u' ')));
     }
 
     // Two runs that keep the same preset: the instance is of the one that is there.
@@ -274,6 +298,8 @@ private Q_SLOTS:
         open(u"office"_s);
         save({u"gone/reports"_s, u"lab/reports"_s});
         QVERIFY2(said().contains(u"“gone/reports” in other programs: "_s), qPrintable(said()));
+        QCOMPARE(said().count(u"gone/reports"_s), 1);
+        QCOMPARE(m_scene->face.messages.constLast().kind, TaskMessage::Kind::Problem);
         QVERIFY(lineOf("gone/reports").isEmpty());
         QVERIFY(!lineOf("lab/reports").isEmpty());
     }
