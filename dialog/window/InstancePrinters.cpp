@@ -55,7 +55,7 @@ InstancePrinters::InstancePrinters(const QList<OtherQueue> &queues, const Picks 
     layout->addWidget(m_list, 1);
     m_remark->setObjectName(u"instanceRemark"_s);
     m_remark->setWordWrap(true);
-    // A problem takes two lines; the list stays where it is for it.
+    // A problem takes two lines or more; the list stays where it is for most of them.
     m_remark->setMinimumHeight(2 * fontMetrics().lineSpacing());
     m_remark->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     layout->addWidget(m_remark);
@@ -94,6 +94,23 @@ void InstancePrinters::showRemark(int row)
     m_remark->setText(queue.problem.isEmpty()
                           ? tr("Other programs list it as “%1”.").arg(queue.instance)
                           : queue.problem);
+    makeRoom();
+}
+
+// Windows do not grow with a text that takes more lines; without this it would cover the list.
+void InstancePrinters::makeRoom()
+{
+    layout()->activate();
+    const int needed = layout()->totalHeightForWidth(width());
+    setMinimumHeight(needed);
+    if (height() < needed)
+        resize(width(), needed);
+}
+
+void InstancePrinters::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    makeRoom();
 }
 
 InstancePrinters::Picks InstancePrinters::picks() const

@@ -27,9 +27,13 @@ public:
 
     Picks picks() const;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void addRow(const OtherQueue &queue, bool isTicked);
     void showRemark(int row);
+    void makeRoom();
 
     const QList<OtherQueue> m_queues;
     QListWidget *m_list;

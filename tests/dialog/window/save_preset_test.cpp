@@ -176,6 +176,38 @@ private Q_SLOTS:
                  qPrintable(dialog.findChild<QLabel *>(u"presetRemark"_s)->text()));
     }
 
+    void nothingCoversTheListOfPrinters()
+    {
+        m_cups->addQueue(u"taken"_s, m_home->filePath(u"office.ppd"_s));
+        setUserOptions("Dest taken/monthly x=1\n");
+        open();
+        task().printers().start();
+        QTRY_COMPARE(presets().otherQueues(u"Monthly"_s, false).size(), 1);
+        for (const QString &language : {QString(), u"de"_s, u"fr"_s, u"ja"_s}) {
+            QTranslator translator;
+            if (!language.isEmpty()) {
+                QVERIFY(
+                    translator.load(u"corvana-print_"_s + language, sharedFile(u"translations"_s)));
+                QCoreApplication::installTranslator(&translator);
+            }
+            InstancePrinters printers(presets().otherQueues(u"Monthly"_s, false) +
+                                          QList{OtherQueue{presets().openPrinter()}},
+                                      {});
+            printers.show();
+            const auto *list = printers.findChild<QListWidget *>(u"instancePrinters"_s);
+            const auto *remark = printers.findChild<QLabel *>(u"instanceRemark"_s);
+            QCoreApplication::processEvents();
+            QVERIFY(remark->text().contains(u"taken/monthly"_s));
+            QVERIFY2(remark->y() > list->geometry().bottom(), qPrintable(language));
+            QVERIFY2(remark->height() >= remark->heightForWidth(remark->width()),
+                     qPrintable(language));
+            QCOMPARE(remark->fontMetrics().lineSpacing() * 2 <
+                         remark->heightForWidth(remark->width()),
+                     true);
+            QCoreApplication::removeTranslator(&translator);
+        }
+    }
+
     // What was ticked for one name says nothing of what another one has already.
     void printersThatNobodyUntickedStay()
     {
