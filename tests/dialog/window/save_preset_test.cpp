@@ -190,10 +190,12 @@ private Q_SLOTS:
                     translator.load(u"corvana-print_"_s + language, sharedFile(u"translations"_s)));
                 QCoreApplication::installTranslator(&translator);
             }
-            InstancePrinters printers(presets().otherQueues(u"Monthly"_s, false) +
-                                          QList{OtherQueue{presets().openPrinter()}},
+            InstancePrinters printers(QList<OtherQueue>(12, OtherQueue{presets().openPrinter()}) +
+                                          presets().otherQueues(u"Monthly"_s, false),
                                       {});
             printers.show();
+            QCoreApplication::processEvents();
+            printers.findChild<QListWidget *>()->setCurrentRow(12);
             const auto *list = printers.findChild<QListWidget *>(u"instancePrinters"_s);
             const auto *remark = printers.findChild<QLabel *>(u"instanceRemark"_s);
             QCoreApplication::processEvents();
