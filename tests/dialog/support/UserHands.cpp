@@ -19,10 +19,16 @@ namespace {
 constexpr int kListPatience = 5000; // milliseconds until a list has opened
 constexpr int kMostTabs = 80;       // there are fewer controls
 
-// A pop-up takes the release of the mouse button that has opened it for nothing but that.
+// A pop-up takes the release of the mouse button that has opened it for nothing but that, until a
+// timer of its own has been delivered: on a busy machine that is when one that is due later has.
 void waitForNextClick()
 {
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    bool isOver = false;
+    QTimer later;
+    later.setTimerType(Qt::PreciseTimer);
+    later.callOnTimeout([&] { isOver = true; });
+    later.start(QApplication::doubleClickInterval() + 50);
+    (void)QTest::qWaitFor([&] { return isOver; }, kListPatience);
 }
 
 } // namespace

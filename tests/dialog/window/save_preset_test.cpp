@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QAccessible>
 #include <QCheckBox>
 #include <QDir>
@@ -66,6 +68,13 @@ private:
     QString saveElsewhere(const QString &name = u"Reports"_s)
     {
         return done([&] { presets().save({name, false, false, true, true}); });
+    }
+    // What is there on the other printers is read beside, after the printers.
+    bool isOneTaken()
+    {
+        const QList<OtherQueue> others = presets().otherQueues(u"Monthly"_s, false);
+        return std::ranges::count_if(
+                   others, [](const auto &other) { return !other.problem.isEmpty(); }) == 1;
     }
     void propose(const QString &keyword, const QString &choice)
     {
@@ -144,7 +153,8 @@ private Q_SLOTS:
         setUserOptions("Dest taken/monthly x=1\n");
         open();
         task().printers().start(); // as a window does
-        QTRY_COMPARE(presets().otherQueues(u"Monthly"_s, false).size(), 2);
+        QTRY_VERIFY(isOneTaken());
+        QCOMPARE(presets().otherQueues(u"Monthly"_s, false).size(), 2);
         SavePresetDialog dialog(presets(), false);
         dialog.show();
         dialog.findChild<QLineEdit *>(u"presetName"_s)->setText(u"Monthly"_s);
@@ -182,7 +192,7 @@ private Q_SLOTS:
         setUserOptions("Dest taken/monthly x=1\n");
         open();
         task().printers().start();
-        QTRY_COMPARE(presets().otherQueues(u"Monthly"_s, false).size(), 1);
+        QTRY_VERIFY(isOneTaken());
         for (const QString &language : {QString(), u"de"_s, u"fr"_s, u"ja"_s}) {
             QTranslator translator;
             if (!language.isEmpty()) {
