@@ -147,6 +147,7 @@ private:
     void followSession();
     void noteChange(const QString &keyword, const QString &choice, PpdSession::Origin origin);
     bool deliverOnce();
+    void tellMarks();
     void announcePaper();
     void markCompanions(const QString &keyword, const QString &choice);
     void scheduleDelivery();

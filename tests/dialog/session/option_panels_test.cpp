@@ -1,5 +1,6 @@
 #include <optional>
 
+#include <QComboBox>
 #include <QFile>
 #include <QTest>
 
@@ -7,7 +8,9 @@
 #include "dialog/session/OptionRequest.h"
 #include "dialog/session/PanelHost.h"
 #include "dialog/session/Summary.h"
+#include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPlugIn.h"
+#include "platform/toolkit/PopUpButton.h"
 #include "tests/dialog/support/LoadedBundle.h"
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
@@ -46,6 +49,12 @@ private:
                 values += option.value;
         }
         return values.join(u'|');
+    }
+    QString shownMedium()
+    {
+        const QWidget *view = m_panels->views().constFirst();
+        const auto *popUp = view->findChild<QComboBox *>(u"mediaTypePopup"_s);
+        return popup::representedObject(popUp, popUp->currentIndex()).toString();
     }
 
 private Q_SLOTS:
@@ -293,6 +302,43 @@ private Q_SLOTS:
                      .ok());
         QCOMPARE(m_session->snapshot(), before);
         QCOMPARE(jobOptions(*m_session, m_plugIn->jobValues(), {}), job);
+    }
+
+    // A panel proposes the medium of an envelope again when it hears of one, and when it restores
+    // beside a choice of its own that is not marked.
+    void theMediumThatAStateBringsBackIsTheOneThatIsShown_data()
+    {
+        QTest::addColumn<QString>("later"); // what was set after it
+        QTest::newRow("from another paper") << u"PageSize=A4"_s;
+        QTest::newRow("from another envelope") << u"PageSize=EnvC5"_s;
+        QTest::newRow("from another medium") << u"QXMediaType=Thick"_s;
+        QTest::newRow("from the medium of the envelope") << u"QXMediaType=Env"_s;
+    }
+    void theMediumThatAStateBringsBackIsTheOneThatIsShown()
+    {
+        QFETCH(QString, later);
+        QVERIFY(m_panels->visit(0));
+        QVERIFY(apply({u"PageSize=EnvDL QXMediaType=Plain"_s}).ok());
+        const SessionSnapshot state = m_session->snapshot();
+        QCOMPARE(shownMedium(), u"Plain"_s);
+        if (later.contains(u"PageSize=Env"_s))
+            m_presenter->expect(); // how envelopes are loaded
+        QVERIFY(apply({later}).ok());
+        m_panels->restoreTo(state);
+        QCOMPARE(m_session->snapshot(), state);
+        QCOMPARE(shownMedium(), u"Plain"_s);
+        // Nor is it given up when the panel is asked again.
+        m_panels->restoreAll();
+        QCOMPARE(inJob(u"QXMediaType"_s), u"Plain"_s);
+    }
+
+    void aRefusedSetLeavesWhatIsShownAsItWas()
+    {
+        QVERIFY(m_panels->visit(0));
+        QVERIFY(apply({u"PageSize=EnvDL QXMediaType=Plain"_s}).ok());
+        QVERIFY(!apply({u"PageSize=A4 QXMediaType=PostCard"_s}).ok());
+        QCOMPARE(inJob(u"QXMediaType"_s), u"Plain"_s);
+        QCOMPARE(shownMedium(), u"Plain"_s);
     }
 
     // Beside the mode these do not count; the printer is told of them all the same. Effects that
