@@ -46,14 +46,6 @@ bool isNamed(const QList<OptionChoice> &choices, const QString &keyword)
                        [&](const OptionChoice &choice) { return choice.keyword == keyword; });
 }
 
-QList<OptionChoice> marksOf(const SessionSnapshot &snapshot)
-{
-    QList<OptionChoice> marks;
-    for (auto mark = snapshot.marks.cbegin(); mark != snapshot.marks.cend(); ++mark)
-        marks += OptionChoice{mark.key(), mark.value()};
-    return marks;
-}
-
 // libcups takes a tray and the feeding by hand for two forms of one choice: marking the one takes
 // the mark of the other away, whatever the PPD says (ppdMarkOption). Answers the other one.
 QList<OptionChoice> takenInstead(const JobOption &option, const QList<JobOption> &expected)
@@ -251,12 +243,7 @@ OptionOutcome applyOptions(const QList<JobOption> &requested, PpdSession &sessio
     if (!outcome.ok()) {
         outcome.attributes.clear();
         outcome.copies.reset();
-        session.restore(before);
-        panels.tellPaper(marksOf(before)); // the former paper is judged again
-        panels.deliverPending();
-        session.restore(before);
-        panels.restoreAll();
-        session.restore(before); // panels write entries of their own while they restore
+        panels.restoreTo(before);
     }
     return outcome;
 }

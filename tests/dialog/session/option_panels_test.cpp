@@ -15,6 +15,7 @@
 #include "tests/dialog/support/TestPrinters.h"
 #include "tests/support/ScriptedAlertPresenter.h"
 #include "tests/support/TestBundle.h"
+#include "tests/support/TestPaths.h"
 
 using namespace corvana;
 using namespace corvana::test;
@@ -35,6 +36,14 @@ private:
     {
         m_panels.reset();
         m_session = sampleSession();
+        m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, *m_presenter);
+    }
+    void openSample(const QString &name)
+    {
+        QFile ppd(sourceFile(u"resources/ppd/%1.ppd"_s.arg(name)));
+        QVERIFY(ppd.open(QIODevice::ReadOnly));
+        m_panels.reset();
+        m_session = sessionFor(ppd.readAll());
         m_panels = std::make_unique<PanelHost>(*m_session, m_plugIn, *m_presenter);
     }
     OptionOutcome apply(const QStringList &options)
@@ -332,12 +341,24 @@ private Q_SLOTS:
         QCOMPARE(inJob(u"QXMediaType"_s), u"Plain"_s);
     }
 
+    // What a panel makes of a medium may be another one, and what was asked for is refused with it.
+    void aRefusedSetLeavesWhatIsShownAsItWas_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::newRow("another paper") << u"PageSize=A4 QXMediaType=PostCard"_s;
+        QTest::newRow("a medium that becomes another one") << u"QXMediaType=HagakiUra"_s;
+    }
     void aRefusedSetLeavesWhatIsShownAsItWas()
     {
+        QFETCH(QString, options);
+        openSample(u"corvana-cl2"_s);
         QVERIFY(m_panels->visit(0));
-        QVERIFY(apply({u"PageSize=EnvDL QXMediaType=Plain"_s}).ok());
-        QVERIFY(!apply({u"PageSize=A4 QXMediaType=PostCard"_s}).ok());
-        QCOMPARE(inJob(u"QXMediaType"_s), u"Plain"_s);
+        m_presenter->expect(); // how envelopes are loaded
+        QVERIFY(apply({u"PageSize=EnvYou4"_s}).ok());
+        QVERIFY(apply({u"QXMediaType=Plain"_s}).ok());
+        const SessionSnapshot before = m_session->snapshot();
+        QVERIFY(!apply({options}).ok());
+        QCOMPARE(m_session->snapshot(), before);
         QCOMPARE(shownMedium(), u"Plain"_s);
     }
 
