@@ -131,6 +131,8 @@ void PrintTask::open(const FetchedPrinter &ready)
             lost = restoreLeft(*memory.session, ready.ppd->hash, *opened.session);
         // What panels had stored was stored before there was a lock, or another one.
         putBackLockedValues(*opened.session, opened.jobValues);
+        if (memory.session)
+            m_baseline.left = opened.session->snapshot();
     };
     m_opened = openPrinter(ready, m_request.bundleRoots, m_face.alerts(), &m_chosen.problem.text,
                            prepare, &m_source.ppds());

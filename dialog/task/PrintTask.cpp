@@ -165,6 +165,8 @@ void PrintTask::applyStartOptions()
             m_baseline.opened = opened;
         else // its choices are those of other options; what panels wrote is not the user's either
             m_baseline.opened.entries.insert(opened.entries);
+        // New panels judge the paper for the first time, and take a plain medium for nobody's wish.
+        m_opened->panels->restoreTo(m_baseline.left);
         m_opened->panels->restoreAll();
     } else {
         const StartOutcome started = applyStartValues(m_request, *m_opened, m_settings);

@@ -110,6 +110,7 @@ struct TaskState
     struct Baseline
     {
         SessionSnapshot opened;  // before any option was taken
+        SessionSnapshot left;    // as it was set before, where it was; no panel has seen it yet
         QStringList lost;        // what of the settings that came back could not be set again
         SessionSnapshot started; // before the user changed anything
         SessionSnapshot shown;   // as the face was told last

@@ -296,6 +296,40 @@ private Q_SLOTS:
         QCOMPARE(m_scene->session().markedChoice(u"Punch"_s), u"OFF"_s);
     }
 
+    // A panel that is new judges the paper for the first time.
+    void aMediumThatWasChosenForAnEnvelopeComesBackWithItsPrinter_data()
+    {
+        QTest::addColumn<QByteArray>("added"); // to the printer's options meanwhile
+        QTest::newRow("from another printer") << QByteArray();
+        QTest::newRow("with other options") << QByteArray("*% changed\n");
+    }
+    void aMediumThatWasChosenForAnEnvelopeComesBackWithItsPrinter()
+    {
+        QFETCH(QByteArray, added);
+        QFile ppd(samplePpdPath());
+        QVERIFY(ppd.open(QIODevice::ReadOnly));
+        const QByteArray options = ppd.readAll();
+        m_scene->open(two(options, officePrinter().text()));
+        m_scene->face.presenter.expect(); // how envelopes are loaded
+        task().propose(u"PageSize"_s, u"EnvDL"_s);
+        QCoreApplication::processEvents();
+        task().propose(u"QXMediaType"_s, u"Plain"_s);
+        QCoreApplication::processEvents();
+        const QMap<QString, QString> marks = m_scene->session().snapshot().marks;
+        if (added.isEmpty()) {
+            const Printer first = task().printer();
+            task().choosePrinter(m_scene->task->printers().printers().constLast());
+            task().bringUp();
+            task().choosePrinter(first);
+        } else {
+            becomes(options + added);
+        }
+        task().bringUp();
+        QCOMPARE(m_scene->session().markedChoice(u"QXMediaType"_s), u"Plain"_s);
+        QCOMPARE(m_scene->session().snapshot().marks, marks);
+        QCOMPARE(task().history().changedSettings(), QStringList{u"PageSize"_s});
+    }
+
     void whatAChangedPrinterHasNoMoreIsNamed()
     {
         const PpdBuilder less = PpdBuilder().option(
