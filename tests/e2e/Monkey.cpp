@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
@@ -15,8 +16,11 @@
 
 #include "dialog/printers/PrinterSource.h"
 #include "dialog/session/JobAttributes.h"
+#include "dialog/session/PpdSession.h"
 #include "dialog/session/Summary.h"
 #include "dialog/task/OpenedPrinter.h"
+#include "dialog/task/TaskHistory.h"
+#include "platform/printcore/Ppd.h"
 #include "tests/e2e/WindowInvariants.h"
 
 using namespace Qt::StringLiterals;
@@ -71,6 +75,8 @@ constexpr QStringView kWords[] = {
     u"Paper",    u"\u202e",   u"210 x 297",
     u"0.0001",   u"a\nb\tc",  u"  ",
 };
+
+constexpr QLatin1StringView kDecisive[] = {"PageSize"_L1, "QXMediaType"_L1, "MediaType"_L1};
 
 // How long the window is left alone now and then, so that what is fetched, counted and drawn beside
 // it arrives. Units: milliseconds.
@@ -200,10 +206,12 @@ void Monkey::perform(const Act &act)
     const quint32 kind = act.kind % 64;
     if (kind < 21)
         return press(act, on);
-    if (kind < 45)
+    if (kind < 41)
         return click(act, on);
-    if (kind < 48)
+    if (kind < 46)
         return on == &m_window ? choose(act) : click(act, on);
+    if (kind < 48)
+        return on == &m_window ? takeBack(act) : click(act, on);
     if (kind < 51)
         return type(act, on);
     if (kind < 54)
@@ -316,7 +324,8 @@ void Monkey::resize(const Act &act)
 }
 
 // As a list does when somebody picks from it. By single clicks and keys most choices of most
-// options would hardly ever be made.
+// options would hardly ever be made, and papers and media, on which the rules of the panels turn,
+// as seldom as all others.
 void Monkey::choose(const Act &act)
 {
     PrintTask &task = m_window.task();
@@ -327,11 +336,34 @@ void Monkey::choose(const Act &act)
     const QList<ppd_option_t *> options = choosableOptions(*task.opened()->session);
     if (options.isEmpty())
         return;
-    const ppd_option_t &option = *options.at(act.where / 3 % options.size());
+    ppd_file_t *ppd = task.opened()->session->ppd();
+    const ppd_option_t *decisive =
+        act.where % 3 == 1 ? ppdOption(ppd, kDecisive[act.where / 3 % std::size(kDecisive)])
+                           : nullptr;
+    const ppd_option_t &option = decisive ? *decisive : *options.at(act.where / 3 % options.size());
     const ppd_choice_t &choice = option.choices[act.what % quint32(option.num_choices)];
     const QString keyword = ppdKeyword(option.keyword);
     note(u"choose %1=%2"_s.arg(keyword, ppdKeyword(choice.choice)));
     task.propose(keyword, ppdKeyword(choice.choice));
+}
+
+void Monkey::takeBack(const Act &act)
+{
+    TaskHistory &history = m_window.task().history();
+    switch (act.where % 4) {
+    case 0:
+        note(u"undo"_s);
+        return history.undo();
+    case 1:
+        note(u"redo"_s);
+        return history.redo();
+    case 2:
+        note(u"reset the page"_s);
+        return m_window.findChild<QAction *>(u"resetPage"_s)->trigger();
+    default:
+        note(u"reset everything"_s);
+        return m_window.findChild<QAction *>(u"resetAll"_s)->trigger();
+    }
 }
 
 void Monkey::chooseAttribute(const Act &act)

@@ -30,10 +30,10 @@ struct Act
 QList<Act> randomActs(quint32 seed, int count);
 
 /// Random hands in a print window: keys, clicks, pulls, turns of the wheel, words, other sizes,
-/// other printers and documents, in whatever menu, list or dialog is open just then, and a look at
-/// the summary now and then. It does not print, does not leave the window, and touches no files of
-/// anybody's. After each act the invariants of the window have to hold, and what got the focus has
-/// to be in sight.
+/// choices that are taken back, other printers and documents, in whatever menu, list or dialog is
+/// open just then, and a look at the summary now and then. It does not print, does not leave the
+/// window, and touches no files of anybody's. After each act the invariants of the window have to
+/// hold, and what got the focus has to be in sight.
 class Monkey : public QObject
 {
 public:
@@ -65,6 +65,7 @@ private:
     void turnWheel(const Act &act, QWidget *stage);
     void resize(const Act &act);
     void choose(const Act &act);
+    void takeBack(const Act &act);
     void chooseAttribute(const Act &act);
     void lookAtSummary();
     void changePrinter(const Act &act);
